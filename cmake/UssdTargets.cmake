@@ -1,0 +1,98 @@
+# One function for each kind of target, so that warnings, language level, visibility, sanitizers
+# and output folders are the same everywhere.
+#
+#   ussd_add_core_library(NAME SOURCES... LIBRARIES...)     the host core library
+#   ussd_add_sdk_library(NAME SOURCES... LIBRARIES...)      a device SDK library (no Qt)
+#   ussd_add_plugin_code(NAME SOURCES... LIBRARIES...)      the plug-in's code, for plug-in and tests
+#   ussd_add_plugin(NAME SOURCES... LIBRARIES...)           the plug-in itself
+#   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
+
+find_program(USSD_CLANG_TIDY_PROGRAM clang-tidy)
+
+# Everything that all of our own code has in common.
+function(ussd_set_up target)
+    set_target_properties(
+        ${target}
+        PROPERTIES CXX_STANDARD 14
+                   CXX_STANDARD_REQUIRED ON
+                   CXX_EXTENSIONS OFF
+                   POSITION_INDEPENDENT_CODE ON
+                   BUILD_RPATH_USE_ORIGIN ON)
+    target_compile_options(${target} PRIVATE -Wall -Wextra)
+    if(USSD_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    target_link_options(${target} PRIVATE -Wl,--enable-new-dtags -Wl,--no-undefined)
+    if(USSD_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${USSD_SANITIZE} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${USSD_SANITIZE})
+    endif()
+    if(USSD_CLANG_TIDY)
+        set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY
+                                                   "${USSD_CLANG_TIDY_PROGRAM};--quiet")
+    endif()
+endfunction()
+
+function(ussd_hide_symbols target)
+    set_target_properties(${target} PROPERTIES C_VISIBILITY_PRESET hidden CXX_VISIBILITY_PRESET hidden
+                                               VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
+function(ussd_add_core_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} SHARED ${arg_SOURCES})
+    ussd_set_up(${name})
+    ussd_hide_symbols(${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON INSTALL_RPATH "$ORIGIN")
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/core/common
+                                              ${PROJECT_SOURCE_DIR}/src/compat)
+    target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
+    install(TARGETS ${name} LIBRARY DESTINATION ${USSD_LIB_DIR})
+endfunction()
+
+function(ussd_add_sdk_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} SHARED ${arg_SOURCES})
+    ussd_set_up(${name})
+    ussd_hide_symbols(${name})
+    set_target_properties(${name} PROPERTIES OUTPUT_NAME tksv INSTALL_RPATH "$ORIGIN")
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/sdk)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+endfunction()
+
+function(ussd_add_plugin_code name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    ussd_set_up(${name})
+    ussd_hide_symbols(${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/USSDUIPlugin)
+    target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
+endfunction()
+
+function(ussd_add_plugin name)
+    cmake_parse_arguments(arg "" "EXPORTS" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} MODULE ${arg_SOURCES})
+    ussd_set_up(${name})
+    ussd_hide_symbols(${name})
+    # The version script also hides what the C++ library's own headers would export.
+    target_link_options(${name} PRIVATE -Wl,--version-script=${arg_EXPORTS} -Wl,--gc-sections)
+    set_target_properties(
+        ${name}
+        PROPERTIES AUTOMOC ON
+                   LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${USSD_PLUGIN_DIR}
+                   LINK_DEPENDS ${arg_EXPORTS}
+                   INSTALL_RPATH "$ORIGIN/${USSD_LIB_FROM_PLUGIN}")
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    install(TARGETS ${name} LIBRARY DESTINATION ${USSD_PLUGIN_DIR})
+endfunction()
+
+function(ussd_add_program name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    ussd_set_up(${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON INSTALL_RPATH "$ORIGIN/${USSD_LIB_FROM_BIN}")
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()

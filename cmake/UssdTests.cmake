@@ -1,0 +1,55 @@
+# Tests. Each runs with a home, settings and user-data folder of its own, without a display, in
+# a fixed language and with a time limit.
+#
+#   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK])
+#
+# FAKE_SDK puts the misbehaving device SDK of tests/fakes in front of the real one, by library path.
+
+set(USSD_TEST_SECONDS 120)
+
+set(USSD_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen"
+    "QT_HASH_SEED=0"
+    "LC_ALL=C.UTF-8"
+    "LANGUAGE=en"
+    "ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/sanitizers/lsan.supp:print_suppressions=0"
+    "UBSAN_OPTIONS=print_stacktrace=1"
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/sanitizers/tsan.supp:second_deadlock_stack=1")
+
+# The environment and limits that any test has, also one that is a script.
+function(ussd_set_up_test name)
+    cmake_parse_arguments(arg "" "" "LABELS;ENVIRONMENT" ${ARGN})
+    set(home ${PROJECT_BINARY_DIR}/tests/home/${name})
+    file(MAKE_DIRECTORY ${home})
+    set_tests_properties(
+        ${name}
+        PROPERTIES TIMEOUT ${USSD_TEST_SECONDS}
+                   LABELS "${arg_LABELS}"
+                   WORKING_DIRECTORY ${home}
+                   ENVIRONMENT
+                   "${USSD_TEST_ENVIRONMENT};HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};${arg_ENVIRONMENT}"
+    )
+endfunction()
+
+function(ussd_add_test name)
+    cmake_parse_arguments(arg "FAKE_SDK" "" "SOURCES;LIBRARIES;LABELS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    ussd_set_up(${name})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
+                                                        ${PROJECT_BINARY_DIR}/tests/bin)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    add_test(NAME ${name} COMMAND ${name})
+    if(arg_FAKE_SDK)
+        list(APPEND arg_ENVIRONMENT "LD_LIBRARY_PATH=$<TARGET_FILE_DIR:fake_tksv>")
+        add_dependencies(${name} fake_tksv)
+    endif()
+    ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
+endfunction()
+
+# ussd_add_script_test(NAME COMMAND... [LABELS...] [ENVIRONMENT...])
+function(ussd_add_script_test name)
+    cmake_parse_arguments(arg "" "" "COMMAND;LABELS;ENVIRONMENT" ${ARGN})
+    add_test(NAME ${name} COMMAND ${arg_COMMAND})
+    ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
+endfunction()

@@ -1,0 +1,76 @@
+#ifndef QTCOMPAT_H
+#define QTCOMPAT_H
+
+/*
+ * The few places where Qt 4 (4.6 to 4.8) and Qt 5.15 differ. Nothing else in the plug-in, the core
+ * library and the dashboard asks for the Qt version.
+ */
+
+#include <QFontMetrics>
+#include <QString>
+#include <QtGlobal>
+
+#if QT_VERSION < 0x050000
+#include <QTextDocument>
+/* Qt 4 finds a plug-in by its entry points alone. */
+#define Q_PLUGIN_METADATA(metadata)
+#endif
+
+namespace QtCompat
+{
+
+/// Width of a line of text in pixels.
+inline int textWidth(const QFontMetrics &metrics, const QString &text)
+{
+#if QT_VERSION < 0x050B00
+    return metrics.width(text);
+#else
+    return metrics.horizontalAdvance(text);
+#endif
+}
+
+/// The text with the characters that mean something in HTML replaced by entities.
+inline QString escapeHtml(const QString &text)
+{
+#if QT_VERSION < 0x050000
+    return Qt::escape(text);
+#else
+    return text.toHtmlEscaped();
+#endif
+}
+
+/// What a message handler does; the text is in local 8-bit form.
+typedef void (*MessageHandler)(QtMsgType type, const char *text);
+
+#if QT_VERSION < 0x050000
+inline void installMessageHandler(MessageHandler handler)
+{
+    qInstallMsgHandler(handler);
+}
+#else
+namespace Private
+{
+inline MessageHandler &currentMessageHandler()
+{
+    static MessageHandler handler = nullptr;
+    return handler;
+}
+
+inline void forwardMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (MessageHandler handler = currentMessageHandler())
+        handler(type, text.toLocal8Bit().constData());
+}
+} // namespace Private
+
+/// Every Qt message goes to `handler`, on the thread that it comes from; null restores Qt's own.
+inline void installMessageHandler(MessageHandler handler)
+{
+    Private::currentMessageHandler() = handler;
+    qInstallMessageHandler(handler ? Private::forwardMessage : nullptr);
+}
+#endif
+
+} // namespace QtCompat
+
+#endif
