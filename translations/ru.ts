@@ -1,0 +1,399 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name>USSDUIPlugin</name>
+    <!-- general dialog -->
+    <message>
+        <source>IDS_ADVANCE_USSD</source>
+        <translation>USSD-коды</translation>
+    </message>
+    <message>
+        <source>IDC_STATIC_USSDTIP</source>
+        <translation>Введите код, например *100#, или ответ на меню.</translation>
+    </message>
+    <message>
+        <source>IDC_STATIC_USSDNUMTIP</source>
+        <translation>PIN пополнения или номер:</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_SEND</source>
+        <translation>&amp;Отправить</translation>
+    </message>
+    <message>
+        <source>IDC_BUTTON_CLEARHISTOTY</source>
+        <translation>О&amp;чистить</translation>
+    </message>
+    <message>
+        <source>IDC_GENERAL_CLOSE</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>IDS_TOP_PROMPT</source>
+        <translation>Ожидание ответа сети…</translation>
+    </message>
+    <message>
+        <source>IDS_USSD_SEND</source>
+        <translation>Отправлено: </translation>
+    </message>
+    <message>
+        <source>IDS_USSD_RECEIVED</source>
+        <translation>Получено: </translation>
+    </message>
+    <message>
+        <source>IDS_STR_PROMPT</source>
+        <translation>Подтверждение</translation>
+    </message>
+    <message>
+        <source>IDS_STR_CLEAR</source>
+        <translation>Очистить всю историю?</translation>
+    </message>
+    <!-- replies -->
+    <message>
+        <source>USSD_CODE_TIME_OUT</source>
+        <translation>Сеть не ответила вовремя.</translation>
+    </message>
+    <message>
+        <source>USSD_CODE_FAILED</source>
+        <translation>Команда не выполнена.</translation>
+    </message>
+    <message>
+        <source>USSD_CODE_WAITTING</source>
+        <translation>Подождите…</translation>
+    </message>
+    <message>
+        <source>IDS_SMS_SEND_FAILED</source>
+        <translation>Не удалось отправить.</translation>
+    </message>
+    <!-- message boxes -->
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <translation>&amp;Нет</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <!-- profile editor -->
+    <message>
+        <source>IDC_TITLE_EDITCOMMAND</source>
+        <translation>Изменить коды</translation>
+    </message>
+    <message>
+        <source>IDC_STATIC_CMDTIP</source>
+        <translation>Двойной щелчок изменяет ячейку; цветные строки неизменны. В коде %s означает введённый номер.</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_SAVE</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CANCEL</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_COMMAND_NAME</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>IDS_COMMAND_CODE</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_EXISTTIP</source>
+        <translation>%s: такая запись уже есть в списке. Введите другую.</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_SAVETIP</source>
+        <translation>Сохранить изменения?</translation>
+    </message>
+    <!-- prepaid and postpaid dialog -->
+    <message>
+        <source>IDS_WINDOW_TETLE_PREPAID</source>
+        <translation>Предоплаченный счёт</translation>
+    </message>
+    <message>
+        <source>IDS_WINDOW_TETLE_POSTPAID</source>
+        <translation>Контрактный счёт</translation>
+    </message>
+    <message>
+        <source>IDS_STATIC_MYBALANCE</source>
+        <translation>Мой баланс</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UPDATA</source>
+        <translation>&amp;Обновить</translation>
+    </message>
+    <message>
+        <source>IDS_STATIC_INFO</source>
+        <translation>Ответ может занять несколько секунд.</translation>
+    </message>
+    <message>
+        <source>IDS_STATIC_PIN</source>
+        <translation>PIN пополнения</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_ACTIVATE</source>
+        <translation>&amp;Пополнить</translation>
+    </message>
+    <message>
+        <source>IDS_STATIC_ONLINEREFILL</source>
+        <translation>Онлайн-оплата</translation>
+    </message>
+    <message>
+        <source>IDS_STATIC_MSISSDN</source>
+        <translation>Мой номер</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_UPDATAMSISDN</source>
+        <translation>Узнать &amp;номер</translation>
+    </message>
+    <message>
+        <source>IDS_BUTTON_CLOSE</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <!-- USSD-SMS dialog: services -->
+    <message>
+        <source>IDS_WINDOW_TITLE_SMSUSSD</source>
+        <translation>Услуги оператора</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_SERVICES</source>
+        <translation>Услуги</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_DAY</source>
+        <translation>Интернет, день</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_DAY_INFO</source>
+        <translation>Подключает пакет интернета на один день.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_WEEK</source>
+        <translation>Интернет, неделя</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_WEEK_INFO</source>
+        <translation>Подключает пакет интернета на неделю.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_MONTH</source>
+        <translation>Интернет, месяц</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_DATA_MONTH_INFO</source>
+        <translation>Подключает пакет интернета на месяц.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ROAMING_ON</source>
+        <translation>Включить роуминг</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ROAMING_ON_INFO</source>
+        <translation>Разрешает использовать сети за границей.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ROAMING_OFF</source>
+        <translation>Выключить роуминг</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ROAMING_OFF_INFO</source>
+        <translation>Запрещает использовать сети за границей.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_VOICE_MAIL_ON</source>
+        <translation>Автоответчик вкл.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_VOICE_MAIL_ON_INFO</source>
+        <translation>Направляет пропущенные звонки на автоответчик.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_VOICE_MAIL_OFF</source>
+        <translation>Автоответчик выкл.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_VOICE_MAIL_OFF_INFO</source>
+        <translation>Больше не направляет звонки на автоответчик.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_CALL_ME</source>
+        <translation>Перезвони мне</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_CALL_ME_INFO</source>
+        <translation>Бесплатно просит кого-то перезвонить вам.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_TRANSFER</source>
+        <translation>Перевод средств</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_TRANSFER_INFO</source>
+        <translation>Передаёт средства; затем сеть запросит номер.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_WEATHER</source>
+        <translation>Погода по SMS</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_WEATHER_INFO</source>
+        <translation>Заказывает прогноз для города в SMS.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_TARIFF</source>
+        <translation>Тариф по SMS</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_TARIFF_INFO</source>
+        <translation>Заказывает цены вашего тарифа в SMS.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ALERT</source>
+        <translation>Оповещения</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_ALERT_INFO</source>
+        <translation>Присылает SMS, когда средств или трафика мало.</translation>
+    </message>
+    <!-- USSD-SMS dialog: entries and buttons -->
+    <message>
+        <source>IDS_SMSUSSD_LABEL_NUMBER</source>
+        <translation>Номер телефона:</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_LABEL_AMOUNT</source>
+        <translation>Сумма:</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_LABEL_TOWN</source>
+        <translation>Город:</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_BUTTON_BUY</source>
+        <translation>&amp;Купить</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_BUTTON_SWITCH_ON</source>
+        <translation>&amp;Включить</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_BUTTON_SWITCH_OFF</source>
+        <translation>&amp;Выключить</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_BUTTON_SEND</source>
+        <translation>&amp;Отправить</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUSSD_BUTTON_ORDER</source>
+        <translation>&amp;Заказать</translation>
+    </message>
+    <!-- profiles that ship with the plug-in -->
+    <message>
+        <source>IDS_PROFILE_BALANCE</source>
+        <translation>Баланс</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_BALANCE_DESC</source>
+        <translation>Показывает ваш баланс</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_OWN_NUMBER</source>
+        <translation>Мой номер</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_OWN_NUMBER_DESC</source>
+        <translation>Показывает ваш номер</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DATA_LEFT</source>
+        <translation>Остаток трафика</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DATA_LEFT_DESC</source>
+        <translation>Показывает остаток трафика</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_VALIDITY</source>
+        <translation>Срок действия</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_VALIDITY_DESC</source>
+        <translation>Показывает срок действия средств</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_MENU</source>
+        <translation>Главное меню</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_MENU_DESC</source>
+        <translation>Открывает меню оператора</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DATA_PACKS</source>
+        <translation>Пакеты трафика</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_DATA_PACKS_DESC</source>
+        <translation>Список пакетов трафика</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ROAMING</source>
+        <translation>Роуминг</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_ROAMING_DESC</source>
+        <translation>Показывает, включён ли роуминг</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_VOICE_MAIL</source>
+        <translation>Автоответчик</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_VOICE_MAIL_DESC</source>
+        <translation>Показывает, включён ли автоответчик</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_TARIFF</source>
+        <translation>Мой тариф</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_TARIFF_DESC</source>
+        <translation>Показывает ваш тариф</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_TOP_UP</source>
+        <translation>Пополнить</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_TOP_UP_DESC</source>
+        <translation>Пополняет счёт введённым PIN</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_CALL_ME</source>
+        <translation>Перезвони мне</translation>
+    </message>
+    <message>
+        <source>IDS_PROFILE_CALL_ME_DESC</source>
+        <translation>Просит введённый номер перезвонить</translation>
+    </message>
+</context>
+</TS>
