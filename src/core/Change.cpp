@@ -1,0 +1,8 @@
+#include "Change.h"
+
+#include "Languages.h"
+
+QString Change::tr(const QString &context, const QString &key)
+{
+    return Languages::text(context, key);
+}

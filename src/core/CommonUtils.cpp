@@ -1,0 +1,90 @@
+#include "CommonUtils.h"
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QPointer>
+#include <QPushButton>
+
+#include "Change.h"
+#include "HostState.h"
+#include "InstallPaths.h"
+#include "MessageBox.h"
+
+namespace
+{
+
+QString buttonText(const QString &key)
+{
+    return Change::tr(QLatin1String("USSDUIPlugin"), key);
+}
+
+/// What the widget is to be centred over.
+QRect surroundings(const QWidget *widget, const QRect &screen)
+{
+    const QWidget *mainWindow = HostState::mainWindow();
+    const bool usable = mainWindow && mainWindow->window() != widget && mainWindow->isVisible() &&
+                        !mainWindow->window()->isMinimized();
+    return usable ? mainWindow->window()->frameGeometry() : screen;
+}
+
+/// The upper left corner wins when the window is larger than the screen.
+QPoint keptInside(const QPoint &corner, const QSize &size, const QRect &screen)
+{
+    const int x = qMin(corner.x(), screen.x() + screen.width() - size.width());
+    const int y = qMin(corner.y(), screen.y() + screen.height() - size.height());
+    return QPoint(qMax(x, screen.x()), qMax(y, screen.y()));
+}
+
+} // namespace
+
+QWidget *CommonUtils::GetMainWindow()
+{
+    return HostState::mainWindow();
+}
+
+void CommonUtils::MoveCentre(QWidget *widget)
+{
+    if (!widget)
+        return;
+    if (!widget->testAttribute(Qt::WA_Resized))
+        widget->adjustSize();
+    const QWidget *mainWindow = HostState::mainWindow();
+    const QDesktopWidget *desktop = QApplication::desktop();
+    const QRect screen = desktop->availableGeometry(mainWindow ? mainWindow : widget);
+    QRect target(QPoint(), widget->frameGeometry().size());
+    target.moveCenter(surroundings(widget, screen).center());
+    widget->move(keptInside(target.topLeft(), target.size(), screen));
+}
+
+bool CommonUtils::IsMiniMode()
+{
+    return HostState::isMiniMode();
+}
+
+bool CommonUtils::IsShuttingDown()
+{
+    return HostState::isShuttingDown();
+}
+
+QString CommonUtils::GetPluginLibraryPath()
+{
+    return InstallPaths::pluginLibrary();
+}
+
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,
+                             const QString &text, const QString &firstButtonKey,
+                             const QString &secondButtonKey)
+{
+    // The parent owns the box too and may be deleted while the user is being waited for.
+    const QPointer<MessageBox> box(new MessageBox(icon, caption, text, parent));
+    const QAbstractButton *first =
+        box->addButton(buttonText(firstButtonKey), QMessageBox::AcceptRole);
+    if (!secondButtonKey.isEmpty())
+        box->addButton(buttonText(secondButtonKey), QMessageBox::RejectRole);
+    box->exec();
+    if (!box)
+        return QMessageBox::Cancel;
+    const bool accepted = box->clickedButton() == first;
+    delete box;
+    return accepted ? QMessageBox::Ok : QMessageBox::Cancel;
+}

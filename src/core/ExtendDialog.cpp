@@ -1,0 +1,63 @@
+#include "ExtendDialog.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QVBoxLayout>
+
+namespace
+{
+
+/** Makes Escape close the frame as its close button does; QDialog would hide it unannounced. */
+class EscapeCloses : public QObject
+{
+public:
+    explicit EscapeCloses(QWidget *frame) : QObject(frame) { frame->installEventFilter(this); }
+
+    bool eventFilter(QObject *frame, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress ||
+            static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
+            return false;
+        static_cast<QWidget *>(frame)->close();
+        return true;
+    }
+};
+
+void takeContentOut(QLayout *layout)
+{
+    while (QLayoutItem *item = layout->takeAt(0)) {
+        if (QWidget *content = item->widget())
+            content->hide();
+        delete item;
+    }
+}
+
+} // namespace
+
+// This host has one style of frame, so the widget type makes no difference.
+ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int) : QDialog(parent, flags)
+{
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    new EscapeCloses(this);
+}
+
+ExtendDialog::~ExtendDialog() = default;
+
+void ExtendDialog::AddMainWidget(QWidget *widget)
+{
+    if (!widget || layout()->indexOf(widget) >= 0)
+        return;
+    takeContentOut(layout());
+    layout()->addWidget(widget);
+    widget->show();
+}
+
+void ExtendDialog::closeEvent(QCloseEvent *event)
+{
+    const QPointer<ExtendDialog> self(this);
+    emit dlgCloseEvent();
+    if (self)
+        QDialog::closeEvent(event);
+}

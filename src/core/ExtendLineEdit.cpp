@@ -1,0 +1,5 @@
+#include "ExtendLineEdit.h"
+
+ExtendLineEdit::ExtendLineEdit(QWidget *parent) : QLineEdit(parent) {}
+
+ExtendLineEdit::~ExtendLineEdit() = default;

@@ -1,0 +1,59 @@
+#include "InstallPaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <dlfcn.h>
+
+namespace
+{
+
+const char LIBRARY_PATH_VARIABLE[] = "USSD_PLUGIN_LIBRARY_PATH";
+
+QString findLibraryFolder()
+{
+    Dl_info info;
+    if (!dladdr(reinterpret_cast<const void *>(&findLibraryFolder), &info) || !info.dli_fname)
+        return QDir::currentPath();
+    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
+}
+
+// Found once: the loader may know the library by a path relative to the folder of that time.
+QString libraryFolder()
+{
+    static const QString folder = findLibraryFolder();
+    return folder;
+}
+
+QString withoutTrailingSeparators(QString path)
+{
+    while (path.endsWith(QLatin1Char('/')))
+        path.chop(1);
+    return path;
+}
+
+} // namespace
+
+QString InstallPaths::pluginLibrary()
+{
+    const QByteArray chosen = qgetenv(LIBRARY_PATH_VARIABLE);
+    if (!chosen.isEmpty())
+        return withoutTrailingSeparators(QFile::decodeName(chosen));
+    return libraryFolder() + QLatin1String("/" USSD_PACKAGE_NAME);
+}
+
+QString InstallPaths::share()
+{
+    return QDir::cleanPath(libraryFolder() + QLatin1String("/" USSD_SHARE_FROM_LIB));
+}
+
+QString InstallPaths::translations()
+{
+    return share() + QLatin1String("/translations");
+}
+
+QString InstallPaths::scenarios()
+{
+    return share() + QLatin1String("/scenarios");
+}

@@ -1,0 +1,22 @@
+#ifndef INSTALLPATHS_H
+#define INSTALLPATHS_H
+
+#include <QString>
+
+/**
+ * Where the program's files lie, found from where this library lies, so that an installed prefix
+ * can be moved; the build tree is laid out alike. No path ends in a separator. Any thread.
+ */
+class Q_DECL_EXPORT InstallPaths
+{
+public:
+    /// The folder that holds "plugins/": $USSD_PLUGIN_LIBRARY_PATH when it is set and not empty.
+    static QString pluginLibrary();
+    /// The folder of data that no machine word length changes.
+    static QString share();
+    static QString translations();
+    /// Simulated networks, one file each.
+    static QString scenarios();
+};
+
+#endif

@@ -1,0 +1,169 @@
+#include "Languages.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QTranslator>
+
+#include <memory>
+
+#include "InstallPaths.h"
+
+namespace
+{
+
+struct Language {
+    const char *code;
+    const char *nativeName;
+    bool rightToLeft;
+};
+
+const Language LANGUAGES[] = {
+    {"en", "English", false}, {"de", "Deutsch", false},   {"fr", "Français", false},
+    {"es", "Español", false}, {"pt", "Português", false}, {"ru", "Русский", false},
+    {"ar", "العربية", true},  {"zh", "中文", false},
+};
+
+const char ENGLISH[] = "en";
+
+typedef std::unique_ptr<QTranslator> Texts;
+
+/** The mutex guards the three members below it. */
+struct Loaded {
+    QMutex mutex;
+    QString code;
+    Texts current; // null while the language is English
+    Texts english;
+};
+
+Texts load(const QString &path)
+{
+    Texts texts(new QTranslator);
+    if (!texts->load(path))
+        texts.reset();
+    return texts;
+}
+
+// English is loaded with the first text asked for, so that a program that never chooses a language
+// has texts nevertheless.
+Loaded &loaded()
+{
+    static Loaded instance;
+    static const bool once = [] {
+        instance.code = QLatin1String(ENGLISH);
+        instance.english = load(Languages::file(instance.code));
+        return true;
+    }();
+    Q_UNUSED(once)
+    return instance;
+}
+
+const Language *find(const QString &code)
+{
+    for (const Language &language : LANGUAGES) {
+        if (code == QLatin1String(language.code))
+            return &language;
+    }
+    return nullptr;
+}
+
+QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &key)
+{
+    return texts ? texts->translate(context.constData(), key.constData()) : QString();
+}
+
+/** Qt's own texts: the buttons of its dialogs, context menus of entry fields. GUI thread. */
+void setQtTexts(const QString &code)
+{
+    static Texts installed;
+    installed.reset(); // takes itself off the application
+    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    installed = load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm"));
+    if (!installed)
+        installed = load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm"));
+    if (installed)
+        QCoreApplication::installTranslator(installed.get());
+}
+
+// The direction comes last: a translator that is installed resets it in Qt 4.
+void setApplicationLanguage(const Language &language)
+{
+    const QString code = QLatin1String(language.code);
+    QLocale::setDefault(QLocale(code));
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+        return;
+    setQtTexts(code);
+    QApplication::setLayoutDirection(language.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+} // namespace
+
+QStringList Languages::codes()
+{
+    QStringList codes;
+    for (const Language &language : LANGUAGES) {
+        const QString code = QLatin1String(language.code);
+        if (code == QLatin1String(ENGLISH) || QFile::exists(file(code)))
+            codes << code;
+    }
+    return codes;
+}
+
+QString Languages::nativeName(const QString &code)
+{
+    const Language *language = find(code);
+    return language ? QString::fromUtf8(language->nativeName) : code;
+}
+
+bool Languages::isRightToLeft(const QString &code)
+{
+    const Language *language = find(code);
+    return language && language->rightToLeft;
+}
+
+QString Languages::current()
+{
+    Loaded &state = loaded();
+    QMutexLocker lock(&state.mutex);
+    return state.code;
+}
+
+bool Languages::setCurrent(const QString &code)
+{
+    const Language *language = find(code);
+    if (!language)
+        return false;
+    Texts texts = load(file(code));
+    if (!texts)
+        return false;
+    Loaded &state = loaded();
+    {
+        QMutexLocker lock(&state.mutex);
+        state.code = code;
+        state.current.swap(texts);
+    }
+    setApplicationLanguage(*language);
+    return true;
+}
+
+QString Languages::file(const QString &code)
+{
+    return InstallPaths::translations() + QLatin1Char('/') + code + QLatin1String(".qm");
+}
+
+QString Languages::text(const QString &context, const QString &key)
+{
+    if (key.isEmpty())
+        return QString();
+    const QByteArray contextName = context.toUtf8();
+    const QByteArray keyName = key.toUtf8();
+    Loaded &state = loaded();
+    QMutexLocker lock(&state.mutex);
+    QString text = lookUp(state.current, contextName, keyName);
+    if (text.isEmpty())
+        text = lookUp(state.english, contextName, keyName);
+    return text.isEmpty() ? key : text;
+}

@@ -1,0 +1,82 @@
+#include "MessageBox.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopWidget>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+
+namespace
+{
+
+// What a label shows well: more than that scrolls.
+const int LABEL_MAX_CHARACTERS = 600;
+const int LABEL_MAX_LINES = 12;
+const int LABEL_MAX_WORD = 50;
+
+const QSize VIEW_SIZE(420, 220); // pixels
+const int AROUND_VIEW = 160;     // pixels that frame, icon and buttons may take of the screen
+
+int longestWord(const QString &text)
+{
+    int longest = 0;
+    int length = 0;
+    for (const QChar character : text) {
+        length = character.isSpace() ? 0 : length + 1;
+        longest = qMax(longest, length);
+    }
+    return longest;
+}
+
+bool fitsLabel(const QString &text)
+{
+    return text.size() <= LABEL_MAX_CHARACTERS && text.count(QLatin1Char('\n')) < LABEL_MAX_LINES &&
+           longestWord(text) <= LABEL_MAX_WORD;
+}
+
+} // namespace
+
+MessageBox::MessageBox(Icon icon, const QString &caption, const QString &text, QWidget *parent)
+    : QMessageBox(icon, caption, QString(), NoButton, parent)
+{
+    setTextFormat(Qt::PlainText);
+    if (fitsLabel(text))
+        setText(text);
+    else
+        showInView(text);
+}
+
+void MessageBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        reject();
+    else
+        QMessageBox::keyPressEvent(event);
+}
+
+// QMessageBox's own handler would press the only button.
+void MessageBox::closeEvent(QCloseEvent *event)
+{
+    QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void MessageBox::showInView(const QString &text)
+{
+    QGridLayout *grid = qobject_cast<QGridLayout *>(layout());
+    QLabel *label = findChild<QLabel *>(QLatin1String("qt_msgbox_label"));
+    if (!grid || !label)
+        return setText(text.left(LABEL_MAX_CHARACTERS));
+    QPlainTextEdit *view = new QPlainTextEdit(text, this);
+    view->setReadOnly(true);
+    view->setTabChangesFocus(true);
+    view->setAccessibleName(windowTitle());
+    view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    const QSize screen = QApplication::desktop()->availableGeometry(this).size();
+    view->setFixedSize(VIEW_SIZE.boundedTo(screen - QSize(AROUND_VIEW, AROUND_VIEW)));
+    int row = 0, column = 0, rows = 0, columns = 0;
+    grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+    label->hide();
+    grid->addWidget(view, row, column, rows, columns);
+}

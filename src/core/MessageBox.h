@@ -1,0 +1,25 @@
+#ifndef MESSAGEBOX_H
+#define MESSAGEBOX_H
+
+#include <QMessageBox>
+
+/**
+ * A message in plain text that never grows beyond the screen: a text that is long, or that has no
+ * place to break a line at, is put into a view that scrolls. Escape and the window's close button
+ * press no button, not even the only one.
+ */
+class MessageBox : public QMessageBox
+{
+    Q_OBJECT
+public:
+    MessageBox(Icon icon, const QString &caption, const QString &text, QWidget *parent);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void showInView(const QString &text);
+};
+
+#endif
