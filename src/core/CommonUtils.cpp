@@ -27,6 +27,12 @@ QRect surroundings(const QWidget *widget, const QRect &screen)
     return usable ? mainWindow->window()->frameGeometry() : screen;
 }
 
+/// A window that was not yet shown has no frame, and Qt then gives one a pixel too small.
+QSize outerSize(const QWidget *window)
+{
+    return window->isVisible() ? window->frameGeometry().size() : window->size();
+}
+
 /// The upper left corner wins when the window is larger than the screen.
 QPoint keptInside(const QPoint &corner, const QSize &size, const QRect &screen)
 {
@@ -51,7 +57,7 @@ void CommonUtils::MoveCentre(QWidget *widget)
     const QWidget *mainWindow = HostState::mainWindow();
     const QDesktopWidget *desktop = QApplication::desktop();
     const QRect screen = desktop->availableGeometry(mainWindow ? mainWindow : widget);
-    QRect target(QPoint(), widget->frameGeometry().size());
+    QRect target(QPoint(), outerSize(widget));
     target.moveCenter(surroundings(widget, screen).center());
     widget->move(keptInside(target.topLeft(), target.size(), screen));
 }

@@ -1,0 +1,25 @@
+/*
+ * Prints what the core library that was loaded says: first its folders, then one text for each
+ * argument of the form LANGUAGE:KEY. For tests that put the library into a place of their own.
+ */
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include "Change.h"
+#include "CommonUtils.h"
+#include "InstallPaths.h"
+#include "Languages.h"
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    QTextStream out(stdout);
+    out << CommonUtils::GetPluginLibraryPath() << '\n' << InstallPaths::share() << '\n';
+    for (const QString &argument : application.arguments().mid(1)) {
+        const QStringList parts = argument.split(QLatin1Char(':'));
+        if (!Languages::setCurrent(parts.value(0)))
+            out << "no " << parts.value(0) << ' ';
+        out << Change::tr(QLatin1String("Test"), parts.value(1)) << '\n';
+    }
+    return 0;
+}
