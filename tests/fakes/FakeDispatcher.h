@@ -1,0 +1,69 @@
+#ifndef FAKEDISPATCHER_H
+#define FAKEDISPATCHER_H
+
+#include "fake_tksv.h"
+
+#include <condition_variable>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <set>
+
+/// One service: its call-backs, and the thread that runs jobs in the order of their times.
+class FakeDispatcher
+{
+public:
+    using Clock = std::chrono::steady_clock;
+    using Job = std::function<void()>;
+    using Report = std::function<void(int event, unsigned char result)>;
+
+    /// `report` hears of each call-back that has returned, on the thread that called it.
+    explicit FakeDispatcher(Report report);
+    ~FakeDispatcher();
+
+    void add(TKSV_EventCallback callback);
+    void remove(TKSV_EventCallback callback, bool wait);
+    std::size_t size() const;
+
+    /// Runs `job` on the service's thread; an erasable one is dropped by eraseWaiting().
+    void post(Job job, std::chrono::milliseconds delay = std::chrono::milliseconds(0),
+              bool erasable = false);
+    void eraseWaiting();
+
+    /// Runs `job` at once on a thread that is made for it.
+    void runAside(Job job);
+
+    /// Calls the call-backs; to be used in jobs.
+    void deliver(int event, void *data);
+
+    bool waitIdle(Clock::time_point until) const;
+
+    /// Drops what waits, joins all threads and forgets the call-backs. Usable again afterwards.
+    void stop();
+
+private:
+    struct Waiting {
+        Job job;
+        bool erasable;
+    };
+
+    void run();
+    void runFirst(std::unique_lock<std::mutex> &lock);
+    void joinThreads();
+    bool isRegistered(TKSV_EventCallback callback) const;
+    bool runsHere(TKSV_EventCallback callback) const;
+    void deliverTo(TKSV_EventCallback callback, int event, void *data);
+
+    const Report m_report;
+    mutable std::mutex m_mutex; // guards all below
+    mutable std::condition_variable m_changed;
+    std::vector<TKSV_EventCallback> m_callbacks;
+    std::multimap<Clock::time_point, Waiting> m_waiting;
+    std::multiset<std::pair<TKSV_EventCallback, std::thread::id>> m_running;
+    std::vector<std::thread> m_threads;
+    std::size_t m_busy = 0; // jobs under way
+    bool m_started = false;
+    bool m_stopping = false;
+};
+
+#endif

@@ -1,0 +1,113 @@
+#ifndef FAKESDK_H
+#define FAKESDK_H
+
+#include "FakeDispatcher.h"
+#include "FakeRecords.h"
+
+#include <memory>
+#include <set>
+
+/// All that the library remembers between calls.
+class FakeSdk
+{
+public:
+    static FakeSdk &instance();
+
+    void reset();
+    bool waitIdle(std::chrono::milliseconds limit);
+
+    // ---- calls and deliveries
+    std::size_t enter(FakeCall call); ///< a ticket for leave()
+    long leave(std::size_t ticket, long result, int status = 0);
+    std::vector<FakeCall> calls() const;
+    std::vector<FakeDelivery> deliveries() const;
+    template <typename Predicate>
+    bool waitUntil(std::chrono::milliseconds limit, Predicate predicate);
+
+    // ---- results
+    void setResult(const std::string &function, long result);
+    long resultOf(const std::string &function) const;
+
+    // ---- services
+    FakeDispatcher &dispatcher(FakeService service);
+    long add(const char *function, FakeService service, TKSV_EventCallback callback);
+    long remove(const char *function, FakeService service, TKSV_EventCallback callback);
+    void setUnregisterWaits(bool waits);
+
+    // ---- USSD
+    void setAnswer(const FakeAnswer &answer);
+    void setScript(const std::vector<FakeAnswer> &answers);
+    FakeAnswer takeAnswer();
+    void block(std::size_t ticket, std::chrono::milliseconds limit);
+    void unblock(); ///< the calls that are under way
+    void answer(const FakeAnswer &answer);
+    void respond(const FakeAnswer &answer);
+
+    // ---- device
+    void setDeviceInfo(const TKSV_DeviceInfo &info);
+    TKSV_DeviceInfo deviceInfo() const;
+    void setInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
+    void setScenarioOutcome(long result, const std::string &message);
+    long useScenario(char *message, unsigned long messageSize) const;
+
+    // ---- short messages
+    void setCanSendSms(bool can);
+    bool canSendSms() const;
+    TKSV_SMSRecord createRecord();
+    bool isLive(TKSV_SMSRecord record);
+    bool releaseRecord(TKSV_SMSRecord record);
+    std::size_t liveRecords() const;
+    std::size_t badRecords() const;
+
+    // ---- folders
+    void setUserDataDirectory(const std::u16string &directory);
+    bool userDataDirectory(std::u16string &directory) const;
+
+private:
+    struct Settings {
+        std::map<std::string, long> results;
+        bool unregisterWaits = true;
+        FakeAnswer answer;
+        std::vector<FakeAnswer> script; // the next one last
+        std::vector<FakeAnswer> heldBack;
+        TKSV_DeviceInfo info{};
+        long scenarioResult = 0;
+        std::string scenarioMessage;
+        bool canSendSms = false;
+        std::size_t badRecords = 0;
+        bool hasUserData = false;
+        std::u16string userData;
+    };
+
+    FakeSdk();
+    bool unregisterWaits() const;
+    void report(FakeService service, int event, unsigned char result);
+    void stopServices();
+    void schedule(const FakeAnswer &answer);
+    void releaseHeldBack();
+    void respondFromThreads(const FakeAnswer &answer);
+    void tellInfo();
+
+    mutable std::mutex m_mutex; // guards all below but the services, which guard themselves
+    std::condition_variable m_changed;
+    Settings m_settings;
+    std::vector<FakeCall> m_calls;
+    std::vector<FakeDelivery> m_deliveries;
+    std::set<TKSV_SMSRecord> m_records;
+    std::size_t m_unblocked = 0; // calls with a lower ticket no longer block
+    std::mutex m_infoMutex;      // held while the info call-back runs
+    TKSV_DeviceInfoCallback m_infoCallback = nullptr;
+    void *m_infoContext = nullptr;
+    FakeDispatcher m_ussd;
+    FakeDispatcher m_device;
+    FakeDispatcher m_sms;
+};
+
+template <typename Predicate>
+bool FakeSdk::waitUntil(std::chrono::milliseconds limit, Predicate predicate)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, limit, [&] { return predicate(m_calls, m_deliveries); });
+}
+
+#endif
