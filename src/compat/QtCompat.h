@@ -10,10 +10,18 @@
 #include <QString>
 #include <QtGlobal>
 
+/*
+ * Qt 4 finds a plug-in by its entry points alone; Qt 5 makes the instance's one from the meta data.
+ */
 #if QT_VERSION < 0x050000
 #include <QTextDocument>
-/* Qt 4 finds a plug-in by its entry points alone. */
+#include <QtPlugin>
 #define Q_PLUGIN_METADATA(metadata)
+#define USSD_QT4_PLUGIN_INSTANCE(Class)                                                            \
+    extern "C" Q_DECL_EXPORT QObject *qt_plugin_instance();                                        \
+    QObject *qt_plugin_instance() Q_PLUGIN_INSTANCE(Class)
+#else
+#define USSD_QT4_PLUGIN_INSTANCE(Class)
 #endif
 
 namespace QtCompat

@@ -52,9 +52,10 @@ public:
 private:
     static void logElide(int line, const char *what)
     {
-        qDebug("%s: %s: %s: %d: %s",
-               QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit().constData(),
-               "../../src/core/common/CommonUtils.h", "setElidedTextForWidgetText", line, what);
+        qDebug(
+            "%s: %s: %s: %d: %s",
+            QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit().constData(),
+            "../../src/core/common/CommonUtils.h", "setElidedTextForWidgetText", line, what);
     }
 };
 

@@ -1,0 +1,54 @@
+#include "CallbackGate.h"
+
+#include <QMutexLocker>
+#include <QThread>
+
+CallbackGate::CallbackGate() : m_state(Closed), m_maker(nullptr) {}
+
+void CallbackGate::startOpening()
+{
+    QMutexLocker locker(&m_mutex);
+    m_state = Opening;
+    m_maker = QThread::currentThreadId();
+}
+
+void CallbackGate::open()
+{
+    QMutexLocker locker(&m_mutex);
+    m_state = Open;
+    m_changed.wakeAll();
+}
+
+void CallbackGate::close()
+{
+    QMutexLocker locker(&m_mutex);
+    m_state = Closed;
+    m_changed.wakeAll();
+    while (someoneElseIsInside())
+        m_changed.wait(&m_mutex);
+}
+
+bool CallbackGate::someoneElseIsInside() const
+{
+    return m_inside.count(QThread::currentThreadId()) != m_inside.count();
+}
+
+bool CallbackGate::enter()
+{
+    const Qt::HANDLE self = QThread::currentThreadId();
+    QMutexLocker locker(&m_mutex);
+    // A device SDK that calls back from inside its registration would wait for itself.
+    while (m_state == Opening && m_maker != self)
+        m_changed.wait(&m_mutex);
+    if (m_state != Open)
+        return false;
+    m_inside.append(self);
+    return true;
+}
+
+void CallbackGate::leave()
+{
+    QMutexLocker locker(&m_mutex);
+    m_inside.removeOne(QThread::currentThreadId());
+    m_changed.wakeAll();
+}

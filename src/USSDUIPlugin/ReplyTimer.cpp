@@ -1,0 +1,115 @@
+#include "ReplyTimer.h"
+
+#include <atomic>
+#include <chrono>
+
+#include <QMutexLocker>
+#include <QPointer>
+#include <QThread>
+#include <QTimerEvent>
+
+namespace
+{
+
+qint64 systemClock()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+std::atomic<ReplyTimer::Clock> currentClock(&systemClock);
+
+} // namespace
+
+ReplyTimer::ReplyTimer(QObject *parent)
+    : QTimer(parent), m_armed(false), m_catchUpPosted(false), m_arming(0), m_deadline(0),
+      m_runOut(0)
+{
+}
+
+void ReplyTimer::setClock(Clock clock)
+{
+    currentClock = clock ? clock : &systemClock;
+}
+
+quint64 ReplyTimer::arm(int milliseconds)
+{
+    QMutexLocker locker(&m_state);
+    m_armed = true;
+    m_deadline = currentClock.load()() + milliseconds;
+    const quint64 arming = ++m_arming;
+    letTimerFollow(locker);
+    return arming;
+}
+
+void ReplyTimer::disarm()
+{
+    QMutexLocker locker(&m_state);
+    m_armed = false;
+    letTimerFollow(locker);
+}
+
+void ReplyTimer::disarm(quint64 arming)
+{
+    QMutexLocker locker(&m_state);
+    if (!m_armed || m_arming != arming)
+        return;
+    m_armed = false;
+    letTimerFollow(locker);
+}
+
+bool ReplyTimer::isArmed() const
+{
+    QMutexLocker locker(&m_state);
+    return m_armed;
+}
+
+bool ReplyTimer::isArmed(quint64 arming) const
+{
+    QMutexLocker locker(&m_state);
+    return m_armed && m_arming == arming;
+}
+
+void ReplyTimer::letTimerFollow(QMutexLocker &locker)
+{
+    const bool alreadyPosted = m_catchUpPosted;
+    m_catchUpPosted = true;
+    locker.unlock();
+    if (QThread::currentThread() == thread())
+        catchUp();
+    else if (!alreadyPosted)
+        QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
+}
+
+void ReplyTimer::catchUp()
+{
+    QMutexLocker locker(&m_state);
+    m_catchUpPosted = false;
+    const bool armed = m_armed;
+    const qint64 remaining = m_deadline - currentClock.load()();
+    locker.unlock();
+    if (armed)
+        start(static_cast<int>(qMax<qint64>(0, remaining)));
+    else
+        stop();
+}
+
+quint64 ReplyTimer::dueArming() const
+{
+    QMutexLocker locker(&m_state);
+    return m_armed && currentClock.load()() >= m_deadline ? m_arming : 0;
+}
+
+void ReplyTimer::timerEvent(QTimerEvent *event)
+{
+    const quint64 due = dueArming();
+    if (due == 0) { // answered, or armed anew, while this event was on its way
+        catchUp();
+        return;
+    }
+    const QPointer<ReplyTimer> self(this); // a receiver may delete the timer
+    m_runOut = due;
+    QTimer::timerEvent(event);
+    if (self)
+        m_runOut = 0;
+}

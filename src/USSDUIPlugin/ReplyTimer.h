@@ -1,0 +1,59 @@
+#ifndef REPLYTIMER_H
+#define REPLYTIMER_H
+
+#include <QMutex>
+#include <QTimer>
+
+class QMutexLocker;
+
+/**
+ * The response time-out. Any thread may arm and disarm it, with effect at once for whoever asks
+ * isArmed(); the QTimer itself follows on its own thread, because Qt lets nobody else start or stop
+ * it. timeout() comes on that thread, only while armed, and only when the time has really passed.
+ *
+ * Every arming has a number, so that a late disarm cannot hit a newer arming.
+ */
+class ReplyTimer : public QTimer
+{
+    Q_OBJECT
+public:
+    typedef qint64 (*Clock)(); // milliseconds, never going back
+
+    explicit ReplyTimer(QObject *parent = nullptr);
+
+    /// Starts the time-out anew and returns the arming's number (never 0).
+    quint64 arm(int milliseconds);
+    void disarm();
+    /// Disarms only while `arming` is the newest.
+    void disarm(quint64 arming);
+    bool isArmed() const;
+    /// Whether `arming` is the newest and still armed.
+    bool isArmed(quint64 arming) const;
+    /// While timeout() is being emitted: the arming that ran out. Otherwise 0. Own thread only.
+    quint64 runOutArming() const { return m_runOut; }
+
+    /// Takes another clock for all timers; null restores the monotonic system clock.
+    static void setClock(Clock clock);
+
+public slots:
+    /// Makes the QTimer agree with the arming; to be called on the timer's thread when a replaced
+    /// clock has jumped.
+    void catchUp();
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void letTimerFollow(QMutexLocker &locker);
+    quint64 dueArming() const;
+
+    mutable QMutex m_state; // guards the next four; nothing else is locked while it is held
+    bool m_armed;
+    bool m_catchUpPosted;
+    quint64 m_arming;
+    qint64 m_deadline;
+
+    quint64 m_runOut; // own thread only
+};
+
+#endif

@@ -1,0 +1,73 @@
+#include "SdkRecords.h"
+
+#include <cstddef>
+#include <cstring>
+
+static_assert(sizeof(unsigned short) == sizeof(QChar), "a UTF-16 unit is a QChar");
+static_assert(sizeof(TKSV_USSDRequest) == 372, "the request record has a fixed size");
+static_assert(offsetof(TKSV_USSDRequest, text) == 4, "offset in the request record");
+static_assert(offsetof(TKSV_USSDResponse, type) == 0, "offset in the response record");
+static_assert(offsetof(TKSV_USSDResponse, text) == 8, "offset in the response record");
+static_assert(offsetof(TKSV_SMSSendResult, result) == 16, "offset in the send-result record");
+static_assert(sizeof(void *) != 4 || (offsetof(TKSV_SMSSendResult, number) == 84 &&
+                                      offsetof(TKSV_SMSSendResult, text) == 88),
+              "offsets in the send-result record of a 32-bit build");
+static_assert(sizeof(void *) != 8 || (offsetof(TKSV_SMSSendResult, number) == 88 &&
+                                      offsetof(TKSV_SMSSendResult, text) == 96),
+              "the same, as a 64-bit compiler aligns them");
+static_assert(offsetof(TKSV_SMSStatus, status) == 0, "offset in the status record");
+
+namespace SdkRecords
+{
+
+int commandBytes(const QString &command)
+{
+    return command.length() * static_cast<int>(sizeof(QChar));
+}
+
+bool encodeRequest(const QString &command, TKSV_USSDRequest &request)
+{
+    std::memset(&request, 0, sizeof(request));
+    const int bytes = commandBytes(command);
+    if (bytes > kMaxCommandBytes)
+        return false;
+    request.length = static_cast<unsigned int>(bytes);
+    std::memcpy(request.text, command.utf16(), static_cast<size_t>(bytes));
+    return true;
+}
+
+QString textFromUnits(const unsigned short *units)
+{
+    if (!units)
+        return QString();
+    int length = 0;
+    while (units[length] != 0)
+        ++length;
+    // Unit by unit: a byte-order mark is text here, and nothing is to be swapped or dropped.
+    return QString(reinterpret_cast<const QChar *>(units), length);
+}
+
+QString responseText(const void *record)
+{
+    return textFromUnits(static_cast<const TKSV_USSDResponse *>(record)->text);
+}
+
+int responseType(const void *record)
+{
+    return static_cast<const TKSV_USSDResponse *>(record)->type;
+}
+
+SmsSendResult smsSendResult(const void *record)
+{
+    const TKSV_SMSSendResult *raw = static_cast<const TKSV_SMSSendResult *>(record);
+    SmsSendResult result = {raw->result == 0, raw->result, textFromUnits(raw->number),
+                            textFromUnits(raw->text)};
+    return result;
+}
+
+int smsStatus(const void *record)
+{
+    return record ? static_cast<const TKSV_SMSStatus *>(record)->status : 0;
+}
+
+} // namespace SdkRecords

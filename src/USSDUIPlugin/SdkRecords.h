@@ -1,0 +1,45 @@
+#ifndef SDKRECORDS_H
+#define SDKRECORDS_H
+
+#include <QString>
+
+#include "tksv.h"
+
+/*
+ * The device SDK's records and our values: the only place where one becomes the other.
+ */
+namespace SdkRecords
+{
+
+/// A longer command, in bytes, is not handed over, though the record would hold 368.
+const int kMaxCommandBytes = 183;
+
+/// Bytes of a command as UTF-16.
+int commandBytes(const QString &command);
+
+/// Fills the whole record. False, with the record all zero, when the command is too long.
+bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
+
+/// Text up to the closing zero unit; empty for null.
+QString textFromUnits(const unsigned short *units);
+
+/// The text of a response record, which must not be null.
+QString responseText(const void *record);
+/// Its type; logged only.
+int responseType(const void *record);
+
+/// How a short message fared.
+struct SmsSendResult {
+    bool sent;
+    int result;
+    QString number;
+    QString text;
+};
+
+SmsSendResult smsSendResult(const void *record);
+/// 0, which is no status, for null.
+int smsStatus(const void *record);
+
+} // namespace SdkRecords
+
+#endif

@@ -1,0 +1,72 @@
+#include "Transcript.h"
+
+#include "PluginConfig.h"
+
+namespace
+{
+
+const int kUnitsInAPoint = 20;
+
+QString hexByte(int value)
+{
+    return QString::fromLatin1("%1").arg(static_cast<unsigned int>(value), 2, 16, QLatin1Char('0'));
+}
+
+/// What a rich-text document reads as more than a letter: tags, entities, and the characters by
+/// which it marks paragraphs, frames and objects.
+bool meansMoreThanText(QChar unit)
+{
+    switch (unit.unicode()) {
+    case '<':
+    case '&':
+    case 0x0000:
+    case QChar::ParagraphSeparator:
+    case QChar::ObjectReplacementCharacter:
+    case 0xFDD0:
+    case 0xFDD1:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isPlain(const QString &text)
+{
+    for (int i = 0; i < text.length(); ++i) {
+        if (meansMoreThanText(text.at(i)))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+namespace Transcript
+{
+
+Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
+            const QString &text)
+{
+    const QString lineBreak = QLatin1String("<br>");
+    QString markup = QLatin1String(
+        rightToLeft ? "<p dir='rtl' style=\" margin-top:0px; margin-bottom:0px;\">"
+                      "<span style=\"color : #"
+                    : "<p style=\" margin-top:0px; margin-bottom:0px;\"><span style=\"color : #");
+    markup += hexByte(look.red) + hexByte(look.green) + hexByte(look.blue);
+    markup += QLatin1String(";\" style=\"font-size : ");
+    markup += QString::number(look.yHeight / kUnitsInAPoint);
+    markup += QLatin1String("pt;\">") + caption + text;
+    if (direction == Received)
+        markup += lineBreak;
+    markup += QLatin1String("</span></p>");
+    markup.replace(QLatin1Char('\n'), lineBreak);
+    const Entry result = {markup, isPlain(caption) && isPlain(text)};
+    return result;
+}
+
+QString document(const QString &entries)
+{
+    return QLatin1String("<html>") + entries + QLatin1String("</html>");
+}
+
+} // namespace Transcript

@@ -1,0 +1,174 @@
+#include "USSDEditCmd.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QXmlStreamReader>
+
+#include "CommonUtils.h"
+#include "ForwardXml.h"
+#include "PluginLog.h"
+#include "ProfileXml.h"
+#include "SdkRecords.h"
+#include "tksv.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
+
+namespace
+{
+
+QString parentDirectory(const QString &path)
+{
+    return path.left(path.lastIndexOf(QLatin1Char('/')));
+}
+
+} // namespace
+
+USSDEditCmd::USSDEditCmd()
+{
+    load();
+}
+
+USSDEditCmd::~USSDEditCmd() {}
+
+void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
+{
+    USSD_LOG_SCOPE();
+    path = CommonUtils::GetPluginLibraryPath() +
+           QLatin1String("/plugins/USSDUIPlugin/ussdsysprofile.xml");
+    logScope.exitWith(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
+}
+
+void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
+{
+    USSD_LOG_SCOPE();
+    path.clear();
+    USSD_LOG(" before caling TKSV_GetUserDataDirectory()");
+    unsigned short *units = nullptr;
+    const long result = TKSV_GetUserDataDirectory(&units);
+    USSD_LOG(" after caling TKSV_GetUserDataDirectory(), retVal=%ld", result);
+    const QString directory = result == 0 ? SdkRecords::textFromUnits(units) : QString();
+    delete[] units;
+    if (!directory.isEmpty()) {
+        const QString newPath = directory + QLatin1String("ussdprofile.xml");
+        path = movedLegacyFile(directory + QLatin1String("userdata/ussdprofile.xml"), newPath);
+    }
+    logScope.exitWith(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
+}
+
+/// The path to use from now on: the new one, unless a file of the old place cannot be copied.
+QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newPath)
+{
+    if (QFile::exists(newPath) || !QFile::exists(oldPath))
+        return newPath;
+    USSD_LOG(" %s exists!", oldPath.toLocal8Bit().constData());
+    QFile oldFile(oldPath);
+    if (!oldFile.copy(newPath)) {
+        USSD_LOG(" %s copy failed! error : %s", oldPath.toLocal8Bit().constData(),
+                 oldFile.errorString().toLocal8Bit().constData());
+        return oldPath;
+    }
+    oldFile.remove();
+    const QString oldDirectory = parentDirectory(oldPath);
+    if (!QDir().rmdir(oldDirectory))
+        USSD_LOG(" the path %s remove failed!", oldDirectory.toLocal8Bit().constData());
+    return newPath;
+}
+
+bool USSDEditCmd::skipXmlReaderTillString(QXmlStreamReader &reader, QString name)
+{
+    return ForwardXml::skipToBefore(reader, name, QLatin1String("item"));
+}
+
+void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
+{
+    USSD_LOG(" Enter: xmlFilePath = %s", xmlFilePath.toLocal8Bit().constData());
+    QFile file(xmlFilePath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
+        return;
+    }
+    QMap<QString, int> codes;
+    for (int i = 0; i < m_listUSSDProfiles.count(); ++i)
+        codes.insert(m_listUSSDProfiles.at(i).value, codes.count());
+
+    QXmlStreamReader reader(&file);
+    USSDProfile profile;
+    while (ProfileXml::readNext(reader, profile)) {
+        USSD_LOG(" name = %s", profile.name.toLocal8Bit().constData());
+        USSD_LOG(" value = %s", profile.value.toLocal8Bit().constData());
+        profile.isSystem = isSystem;
+        if (!isSystem && codes.contains(profile.value)) {
+            USSD_LOG(" command = %s, already exists!!!", profile.value.toLocal8Bit().constData());
+            continue;
+        }
+        if (!isSystem)
+            codes.insert(profile.value, codes.count());
+        m_listUSSDProfiles.append(profile);
+    }
+    USSD_LOG(" Exit");
+}
+
+void USSDEditCmd::load()
+{
+    m_listUSSDProfiles.clear();
+    QString path;
+    getSystemProfileXMLFilePath(path);
+    if (!path.isEmpty())
+        load(path, true);
+    getUserProfileXMLFilePath(path);
+    if (!path.isEmpty())
+        load(path, false);
+    USSD_LOG(" number of profiles = %d", m_listUSSDProfiles.count());
+}
+
+void USSDEditCmd::GetProfileList(QList<USSDProfile> &list)
+{
+    list = m_listUSSDProfiles;
+}
+
+int USSDEditCmd::saveToXMLFile(bool isSystem)
+{
+    USSD_LOG(" Enter");
+    QString path;
+    if (isSystem)
+        getSystemProfileXMLFilePath(path);
+    else
+        getUserProfileXMLFilePath(path);
+    if (path.isEmpty()) {
+        USSD_LOG_IMPORTANT(" Fail Exit: user profile file name is empty");
+        return SAVE_NO_PATH;
+    }
+    QFile file(path);
+    if (file.exists())
+        file.remove();
+    if (!makeParentDirectory(path, isSystem)) {
+        USSD_LOG_IMPORTANT(" Exit: Directory is not created");
+        return SAVE_NO_DIRECTORY;
+    }
+    // Without effect, since the file was deleted above; kept, with its place.
+    file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        USSD_LOG_IMPORTANT(" Exit: XML file open failed");
+        return SAVE_NOT_OPENED;
+    }
+    QList<USSDProfile> profiles;
+    for (int i = 0; i < m_listUSSDProfiles.count(); ++i) {
+        if (m_listUSSDProfiles.at(i).isSystem == isSystem)
+            profiles.append(m_listUSSDProfiles.at(i));
+    }
+    ProfileXml::write(file, profiles);
+    file.close();
+    USSD_LOG(" Exit");
+    return SAVE_OK;
+}
+
+/// Only the user file's folder is made, and only one level of it.
+bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
+{
+    const QString directory = parentDirectory(path);
+    PluginLog::line(QtDebugMsg, kLogSource, "saveToXMLFile", " Dir path=%s",
+                    directory.toLocal8Bit().constData());
+    return isSystem || QFileInfo(directory).isDir() || QDir().mkdir(directory);
+}

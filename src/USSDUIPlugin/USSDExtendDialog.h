@@ -1,0 +1,18 @@
+#ifndef USSDEXTENDDIALOG_H
+#define USSDEXTENDDIALOG_H
+
+#include "ExtendDialog.h"
+
+/** The outer frame of a window of the plug-in. */
+class USSDExtendDialog : public ExtendDialog
+{
+    Q_OBJECT
+public:
+    explicit USSDExtendDialog(QWidget *parent, Qt::WindowFlags flags, int widgetType)
+        : ExtendDialog(parent, flags, widgetType)
+    {
+    }
+    ~USSDExtendDialog() override {}
+};
+
+#endif

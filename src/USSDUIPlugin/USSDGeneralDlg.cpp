@@ -1,0 +1,862 @@
+#include "USSDGeneralDlg.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "CommonUtils.h"
+#include "PluginLog.h"
+#include "PluginText.h"
+#include "tksv.h"
+#include "TranscriptView.h"
+#include "USSDEditCmd.h"
+#include "USSDLogic.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
+
+namespace
+{
+
+const int kModalWidth = 588;
+const int kModalHeight = 465;
+const int kMaxComboCode = 40;
+const int kMaxPaymentNumber = 20;
+const int kResultQueued = 12; // as good as 0: an answer is awaited
+
+// The slots of the preset buttons: two boxes of four, a box with the payment field, two below.
+const int kSlots = 11;
+const int kSlotsInBox = 4;
+const int kPaymentFieldSlot = 8;
+const int kFirstFreeSlot = 9;
+const int kRightColumn = 2; // where transcript and entry stand, five columns wide
+const int kRightColumns = 5;
+const int kPromptRow = 8;
+
+const int kElideWidth = 127; // whatever the button's width is
+const int kPayButtons = 2;   // the last ones
+
+QString dialogName(const char *role)
+{
+    return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
+}
+
+/// The width a text wants with some room around it, within limits.
+int paddedWidth(int textWidth, int minimum, int maximum)
+{
+    return qBound(minimum, textWidth + 30, maximum);
+}
+
+bool holdsLetter(const QString &text)
+{
+    for (int i = 0; i < text.length(); ++i) {
+        if (text.at(i).isLetter())
+            return true;
+    }
+    return false;
+}
+
+/// A code reads from left to right in every language; a name follows the language.
+void setProfileText(QPushButton *button, const QString &text)
+{
+    if (holdsLetter(text))
+        button->unsetLayoutDirection();
+    else
+        button->setLayoutDirection(Qt::LeftToRight);
+    button->setText(text);
+}
+
+QLineEdit *createCodeEdit(QWidget *parent)
+{
+    QLineEdit *edit = new QLineEdit(parent);
+    edit->setLayoutDirection(Qt::LeftToRight);
+    return edit;
+}
+
+} // namespace
+
+USSDGeneralDlg::USSDGeneralDlg()
+    : m_windowModel(WINDOW_MODEL_MODAL), m_bWaiting(false), m_pPromptLabel(nullptr),
+      m_pHistoryView(nullptr), m_pInfoLabel(nullptr), m_pProfilesCombo(nullptr),
+      m_pSendButton(nullptr), m_pDescriptionLabel(nullptr), m_pClearButton(nullptr),
+      m_pEditButton(nullptr), m_pCloseButton(nullptr), m_pListPreBtns(nullptr),
+      m_pInfoNumLabel(nullptr), m_pPaymentEdit(nullptr),
+      m_strAllowedPayment(QLatin1String("0123456789")), m_pUSSDCmdEdit(nullptr),
+      m_pContainer(nullptr), m_pMainGrid(nullptr), m_pPreBtnsBox()
+{
+    USSD_LOG_SCOPE();
+}
+
+USSDGeneralDlg::~USSDGeneralDlg()
+{
+    USSD_LOG_SCOPE();
+    delete m_pListPreBtns;
+}
+
+QString USSDGeneralDlg::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+// ---- building ------------------------------------------------------------------------------
+
+void USSDGeneralDlg::InitDialog(QWidget *parent, WINDOW_MODEL model)
+{
+    USSD_LOG_SCOPE();
+    if (parent)
+        setParent(parent);
+    m_windowModel = model;
+    if (!createWidgets()) {
+        USSD_LOG(" createWidgets() failed!");
+        return;
+    }
+    getConfigure();
+    initWidgets();
+    layout();
+    m_pProfilesCombo->setVisible(false);
+    m_pMainGrid->setContentsMargins(70, 20, 70, 20);
+    int row = 0;
+    findPosAndAddElements(row);
+    connectWidgets();
+}
+
+bool USSDGeneralDlg::createWidgets()
+{
+    USSD_LOG_SCOPE();
+    m_pContainer = new QWidget(this);
+    m_pContainer->hide(); // lends its grid to the dialog and stays empty
+    m_pMainGrid = new QGridLayout(m_pContainer);
+    for (int i = 0; i < 3; ++i)
+        m_pPreBtnsBox[i] = new QVBoxLayout;
+    m_pPromptLabel = new QLabel(this);
+    m_pHistoryView = new TranscriptView(this);
+    m_pInfoLabel = new QLabel(tr(QLatin1String("IDC_STATIC_USSDTIP")), this);
+    m_pInfoNumLabel = new QLabel(tr(QLatin1String("IDC_STATIC_USSDNUMTIP")), this);
+    m_pPaymentEdit = createCodeEdit(this);
+    m_pUSSDCmdEdit = createCodeEdit(this);
+    m_pProfilesCombo = new QComboBox(this);
+    m_pSendButton = new QPushButton(tr(QLatin1String("IDS_BUTTON_SEND")), this);
+    m_pCloseButton = new QPushButton(tr(QLatin1String("IDC_GENERAL_CLOSE")), this);
+    m_pLogic = USSDLogic::GetUSSDLogicInstance();
+    m_pDescriptionLabel = new QLabel(this);
+    m_pClearButton = new QPushButton(tr(QLatin1String("IDC_BUTTON_CLEARHISTOTY")), this);
+    m_pEditButton = new QPushButton(tr(QLatin1String("IDC_TITLE_EDITCOMMAND")), this);
+    if (!m_pLogic) {
+        logScope.exitWithWarning(" Exit: either of the objects creation failed");
+        return false;
+    }
+    m_pPaymentEdit->setContextMenuPolicy(Qt::NoContextMenu);
+    return true;
+}
+
+void USSDGeneralDlg::getConfigure()
+{
+    getProfileList();
+    if (!m_pLogic)
+        return;
+    m_pLogic->GetClearBtnSetting(m_clearBtnSetting);
+    m_pLogic->GetCmdEditSetting(m_cmdEditSetting);
+}
+
+void USSDGeneralDlg::initWidgets()
+{
+    USSD_LOG_SCOPE();
+    initObjectNames();
+    setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
+    QLabel *const labels[] = {m_pInfoLabel, m_pInfoNumLabel, m_pPromptLabel, m_pDescriptionLabel};
+    for (QLabel *label : labels) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    m_pPaymentEdit->setMinimumHeight(23);
+    m_pUSSDCmdEdit->setMinimumHeight(23);
+    initCombo();
+    m_pSendButton->setEnabled(false);
+    m_pHistoryView->setTextInteractionFlags(m_pHistoryView->textInteractionFlags() &
+                                            ~Qt::TextInteractionFlags(Qt::TextEditable));
+    m_pHistoryView->setContextMenuPolicy(Qt::NoContextMenu);
+    if (m_windowModel == WINDOW_MODEL_MODAL)
+        initFixedSizes();
+    m_pDescriptionLabel->setMinimumHeight(32);
+    m_pDescriptionLabel->setMaximumHeight(112);
+    m_pClearButton->setVisible(m_clearBtnSetting.visible);
+    if (m_clearBtnSetting.visible)
+        enableClearHistoryBtn(false);
+    // An embedded page has no window of its own that could be closed.
+    m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
+    m_pEditButton->setVisible(false); // until there is an editor to open
+    initPreBtns();
+    initAccessibility();
+}
+
+void USSDGeneralDlg::initObjectNames()
+{
+    m_pHistoryView->setObjectName(dialogName("History"));
+    m_pInfoLabel->setObjectName(dialogName("InfoLabel"));
+    m_pProfilesCombo->setObjectName(dialogName("ProfilesCombo"));
+    m_pSendButton->setObjectName(dialogName("SendButton"));
+    m_pClearButton->setObjectName(dialogName("ClearButton"));
+    m_pEditButton->setObjectName(dialogName("EditButton"));
+    m_pCloseButton->setObjectName(dialogName("CloseButton"));
+    m_pInfoNumLabel->setObjectName(dialogName("InfoNumLabel"));
+    m_pPaymentEdit->setObjectName(dialogName("PaymentEdit"));
+    m_pUSSDCmdEdit->setObjectName(dialogName("USSDCmdEdit"));
+}
+
+void USSDGeneralDlg::initCombo()
+{
+    m_pProfilesCombo->setMaxVisibleItems(5);
+    m_pProfilesCombo->setContextMenuPolicy(Qt::NoContextMenu);
+    m_pProfilesCombo->setInsertPolicy(QComboBox::NoInsert);
+    if (QAbstractItemView *list = m_pProfilesCombo->view())
+        list->setTextElideMode(Qt::ElideNone);
+    addProfilesToCombo();
+    m_pProfilesCombo->setEditable(true);
+    m_pProfilesCombo->setCurrentIndex(-1);
+    if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
+        edit->setMaxLength(kMaxComboCode);
+        USSD_LOG(" max length is set for combo");
+    }
+}
+
+void USSDGeneralDlg::initFixedSizes()
+{
+    setFixedSize(kModalWidth, kModalHeight);
+    m_pPromptLabel->setMinimumHeight(32);
+    m_pHistoryView->setMinimumHeight(100);
+    m_pHistoryView->setMaximumHeight(220);
+    m_pHistoryView->setCursorWidth(0);
+}
+
+/// Names for screen readers; the labels are those of the fields they stand above.
+void USSDGeneralDlg::initAccessibility()
+{
+    m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
+    m_pInfoNumLabel->setBuddy(m_pPaymentEdit);
+    m_pUSSDCmdEdit->setAccessibleName(m_pInfoLabel->text());
+    m_pPaymentEdit->setAccessibleName(m_pInfoNumLabel->text());
+    m_pHistoryView->setAccessibleName(windowTitle());
+    m_pHistoryView->setTabChangesFocus(true);
+}
+
+void USSDGeneralDlg::connectWidgets()
+{
+    USSD_LOG_SCOPE();
+    connect(m_pCloseButton, SIGNAL(clicked()), this, SLOT(OnCloseButtonClicked()));
+    connect(m_pSendButton, SIGNAL(clicked()), this, SLOT(OnClickedSendButton()));
+    connect(m_pProfilesCombo->lineEdit(), SIGNAL(returnPressed()), this,
+            SLOT(OnClickedSendButton()));
+    connect(m_pProfilesCombo, SIGNAL(editTextChanged(QString)), this,
+            SLOT(OnEditTextChanged(QString)));
+    connect(m_pProfilesCombo, SIGNAL(activated(int)), this, SLOT(OnActivated(int)));
+    connect(m_pProfilesCombo, SIGNAL(highlighted(int)), this, SLOT(OnActivated(int)));
+    connect(m_pProfilesCombo, SIGNAL(editTextChanged(const QString &)), this,
+            SLOT(setCommandDesByValue(const QString &)));
+    connect(m_pLogic, SIGNAL(responseReceived(int, QString)), this,
+            SLOT(OnResponseReceived(int, QString)));
+    connect(m_pClearButton, SIGNAL(clicked()), this, SLOT(clearHistory()));
+    connect(this, SIGNAL(preBtnClickedEvent(QString)), this, SLOT(handlePreBtnClicked(QString)));
+    connect(m_pPaymentEdit, SIGNAL(textEdited(QString)), this, SLOT(OnPaymentEdit()));
+    connect(m_pUSSDCmdEdit, SIGNAL(textEdited(QString)), this, SLOT(OnUSSDCmdEdit()));
+    connect(m_pEditButton, SIGNAL(clicked()), this, SLOT(OnClickedEditButton()));
+}
+
+void USSDGeneralDlg::SetLanguage()
+{
+    USSD_LOG_SCOPE();
+    if (!m_pMainGrid)
+        return;
+    if (!m_pPromptLabel->text().isEmpty())
+        m_pPromptLabel->setText(tr(QLatin1String("IDS_TOP_PROMPT")));
+    m_pInfoLabel->setText(tr(QLatin1String("IDC_STATIC_USSDTIP")));
+    m_pInfoNumLabel->setText(tr(QLatin1String("IDC_STATIC_USSDNUMTIP")));
+    if (m_pDescriptionLabel && m_pProfilesCombo)
+        setCommandDesByValue(m_pProfilesCombo->currentText());
+    m_pSendButton->setText(tr(QLatin1String("IDS_BUTTON_SEND")));
+    m_pClearButton->setText(tr(QLatin1String("IDC_BUTTON_CLEARHISTOTY")));
+    m_pEditButton->setText(tr(QLatin1String("IDC_TITLE_EDITCOMMAND")));
+    m_pCloseButton->setText(tr(QLatin1String("IDC_GENERAL_CLOSE")));
+    setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
+    if (isShowPreBtns())
+        updatePreBtnsText();
+    resetWidgetsWidth4DyncBtnArea(); // the new texts may be longer
+    initAccessibility();
+}
+
+void USSDGeneralDlg::ReInitDialog()
+{
+    USSD_LOG_SCOPE();
+    if (m_pProfilesCombo && !m_bWaiting) {
+        m_pProfilesCombo->setEnabled(true);
+        m_pProfilesCombo->setFocus(Qt::OtherFocusReason);
+    }
+    if (m_windowModel == WINDOW_MODEL_MODAL && m_pHistoryView)
+        m_pHistoryView->clearEntries(); // the Clear button keeps its state
+    showHideCmdBtn();
+}
+
+QSize USSDGeneralDlg::GetSize()
+{
+    return m_pMainGrid ? m_pMainGrid->sizeHint() : QSize(-1, -1);
+}
+
+void USSDGeneralDlg::resize(const QSize &size)
+{
+    QWidget::resize(size);
+}
+
+void USSDGeneralDlg::setProfileFocus()
+{
+    if (m_pProfilesCombo)
+        m_pProfilesCombo->setFocus(Qt::OtherFocusReason);
+}
+
+void USSDGeneralDlg::showHideCmdBtn() {}
+
+/// Swallows every key that reaches the dialog itself: no Escape, no default button.
+void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
+{
+    Q_UNUSED(event);
+}
+
+void USSDGeneralDlg::OnCloseButtonClicked()
+{
+    emit closeButtonClicked();
+}
+
+void USSDGeneralDlg::OnClickedCloseButton()
+{
+    if (m_windowModel == WINDOW_MODEL_MODAL)
+        m_bWaiting = false;
+    emit clickedcloseButton(); // the receiver may delete the dialog
+}
+
+// ---- entry ---------------------------------------------------------------------------------
+
+void USSDGeneralDlg::OnUSSDCmdEdit()
+{
+    if (m_pSendButton)
+        m_pSendButton->setEnabled(m_pUSSDCmdEdit && !m_pUSSDCmdEdit->text().isEmpty());
+}
+
+void USSDGeneralDlg::OnEditTextChanged(QString text)
+{
+    Q_UNUSED(text);
+    changeSendButtonStatus();
+}
+
+void USSDGeneralDlg::changeSendButtonStatus()
+{
+    if (!m_pSendButton || !m_pProfilesCombo) {
+        USSD_LOG(" Fail Exit");
+        return;
+    }
+    const QLineEdit *edit = m_pProfilesCombo->lineEdit();
+    m_pSendButton->setEnabled(edit && !edit->text().isEmpty());
+}
+
+void USSDGeneralDlg::OnActivated(int index)
+{
+    USSD_LOG(" Enter: Item Index = %d", index);
+    USSD_LOG(" profiles count = %d", m_listProfiles.count());
+    if (index < 0 || index >= m_listProfiles.count()) {
+        USSD_LOG(" Exit: Invalid Index = %d", index);
+        return;
+    }
+    QLineEdit *edit = m_pProfilesCombo ? m_pProfilesCombo->lineEdit() : nullptr;
+    if (!edit)
+        return;
+    edit->clear();
+    edit->setText(m_listProfiles.at(index).value);
+    edit->setCursorPosition(edit->text().length());
+    changeSendButtonStatus();
+}
+
+void USSDGeneralDlg::setCommandDesByValue(const QString &value)
+{
+    if (!m_pDescriptionLabel)
+        return;
+    for (int i = 0; i < m_listProfiles.count(); ++i) {
+        if (m_listProfiles.at(i).value == value) {
+            m_pDescriptionLabel->setText(tr(m_listProfiles.at(i).desLangID));
+            return;
+        }
+    }
+}
+
+bool USSDGeneralDlg::IsLimitValid(const QString &text)
+{
+    if (text.startsWith(QLatin1Char(';')))
+        return false;
+    for (int i = 0; i < text.length(); ++i) {
+        if (!m_strAllowedPayment.contains(text.at(i)))
+            return false;
+    }
+    return true;
+}
+
+void USSDGeneralDlg::OnPaymentEdit()
+{
+    if (!m_pPaymentEdit)
+        return;
+    const int cursor = m_pPaymentEdit->cursorPosition();
+    const QString text = m_pPaymentEdit->text();
+    if (IsLimitValid(text)) {
+        m_strLastValidPayment = text;
+    } else {
+        m_pPaymentEdit->setText(m_strLastValidPayment);
+        m_pPaymentEdit->setCursorPosition(cursor - 1);
+    }
+    m_pPaymentEdit->setMaxLength(kMaxPaymentNumber);
+    changePayBtnsStatus(!m_pPaymentEdit->text().isEmpty());
+}
+
+// ---- sending and answers -------------------------------------------------------------------
+
+void USSDGeneralDlg::OnClickedSendButton()
+{
+    USSD_LOG_SCOPE();
+    if (!m_pUSSDCmdEdit || !m_pLogic || !m_pSendButton) {
+        logScope.exitWith(" Fail Exit");
+        return;
+    }
+    const QString command = m_pUSSDCmdEdit->text();
+    if (command.isEmpty())
+        return;
+    if (sendCommand(command)) {
+        // The combo stays enabled here, other than behind a preset button.
+        m_pSendButton->setEnabled(false);
+        changeAllPreBtnsStatus(false);
+        m_pUSSDCmdEdit->setEnabled(false);
+        m_pPaymentEdit->setEnabled(false);
+    }
+    m_pProfilesCombo->setCurrentIndex(-1);
+    m_pDescriptionLabel->setText(QString());
+}
+
+void USSDGeneralDlg::handlePreBtnClicked(const QString &command)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pLogic || !m_pSendButton) {
+        logScope.exitWith(" Fail Exit");
+        return;
+    }
+    if (!sendCommand(command))
+        return;
+    m_pSendButton->setEnabled(false);
+    changeAllPreBtnsStatus(false);
+    m_pProfilesCombo->setEnabled(false);
+    m_pPaymentEdit->setEnabled(false);
+    m_pUSSDCmdEdit->setEnabled(false);
+}
+
+bool USSDGeneralDlg::sendCommand(const QString &command)
+{
+    appendToCmdHistory(command, true);
+    int reason = 0;
+    const int result =
+        m_pLogic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, command), &reason);
+    m_bWaiting = true;
+    if (result == 0 || result == kResultQueued)
+        return true;
+    OnResponseReceived(COMPONENT_GENERAL, tr(QLatin1String(reason == TKSV_STATUS_DEVICE_TIMEOUT
+                                                               ? "USSD_CODE_TIME_OUT"
+                                                               : "USSD_CODE_FAILED")));
+    return false;
+}
+
+void USSDGeneralDlg::OnResponseReceived(int component, QString text)
+{
+    USSD_LOG(" Enter: received response = %s", text.toLocal8Bit().constData());
+    if (component != COMPONENT_GENERAL) {
+        USSD_LOG_IMPORTANT(" Exit: USSDGeneralDlg no need to handle");
+        return;
+    }
+    if (text.isEmpty())
+        text = tr(QLatin1String("USSD_CODE_FAILED"));
+    if (onResponseReceived())
+        appendToCmdHistory(text, false);
+}
+
+bool USSDGeneralDlg::onResponseReceived()
+{
+    USSD_LOG_SCOPE();
+    if (!m_bWaiting) {
+        logScope.exitWith(" Exit: USSDGeneralDlg no need to handle");
+        return false;
+    }
+    m_bWaiting = false;
+    if (!m_pProfilesCombo) {
+        logScope.exitWith(" Fail Exit");
+        return false;
+    }
+    m_pProfilesCombo->setEnabled(true);
+    m_pProfilesCombo->setFocus(Qt::OtherFocusReason);
+    changeAllPreBtnsStatus(true);
+    changePayBtnsStatus(false);
+    m_pSendButton->setEnabled(false);
+    m_pPaymentEdit->setEnabled(true);
+    m_pPaymentEdit->clear();
+    m_strLastValidPayment.clear(); // or a refused key would bring the old number back
+    m_pUSSDCmdEdit->setEnabled(true);
+    m_pUSSDCmdEdit->clear();
+    return true;
+}
+
+void USSDGeneralDlg::appendToCmdHistory(QString text, bool sent)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pHistoryView || !m_pLogic) {
+        logScope.exitWith(" Fail Exit");
+        return;
+    }
+    Char look;
+    m_pLogic->GetCharSet(sent ? CHAR_SET_SEND : CHAR_SET_RECEIVE, look);
+    const bool rightToLeft = QApplication::layoutDirection() == Qt::RightToLeft;
+    const QString caption = tr(QLatin1String(sent ? "IDS_USSD_SEND" : "IDS_USSD_RECEIVED"));
+    m_pHistoryView->appendEntry(Transcript::entry(sent ? Transcript::Sent : Transcript::Received,
+                                                  look, rightToLeft, caption, text));
+    enableClearHistoryBtn(true);
+    showPromptForWaitingResponse(sent);
+}
+
+void USSDGeneralDlg::showPromptForWaitingResponse(bool show)
+{
+    USSD_LOG(" Enter bShow: %d", show);
+    if (!m_pPromptLabel)
+        return;
+    m_pPromptLabel->setText(show ? tr(QLatin1String("IDS_TOP_PROMPT")) : QString());
+    m_pPromptLabel->repaint();
+}
+
+void USSDGeneralDlg::enableClearHistoryBtn(bool enable)
+{
+    if (m_pClearButton && m_pClearButton->isEnabled() != enable)
+        m_pClearButton->setEnabled(enable);
+}
+
+void USSDGeneralDlg::clearHistory()
+{
+    USSD_LOG_SCOPE();
+    if (m_clearBtnSetting.showConfirmDialog) {
+        const QPointer<USSDGeneralDlg> self(this); // the host may shut down while it asks
+        const int answer = CommonUtils::ShowMessage(
+            QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
+            tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),
+            QLatin1String("IDS_CANCEL"));
+        if (!self || answer != QMessageBox::Ok)
+            return;
+    }
+    m_pHistoryView->clearEntries();
+    enableClearHistoryBtn(false);
+}
+
+// ---- preset buttons ------------------------------------------------------------------------
+
+void USSDGeneralDlg::initPreBtns()
+{
+    if (!m_pListPreBtns)
+        m_pListPreBtns = new PreBtnList;
+}
+
+bool USSDGeneralDlg::isShowPreBtns()
+{
+    for (int i = 0; i < m_listProfiles.count(); ++i) {
+        if (m_listProfiles.at(i).showButton)
+            return true;
+    }
+    return false;
+}
+
+bool USSDGeneralDlg::hasBeenShowPreBtns()
+{
+    return m_pListPreBtns && !m_pListPreBtns->isEmpty();
+}
+
+bool USSDGeneralDlg::isShowPreDescription()
+{
+    for (int i = 0; i < m_listProfiles.count(); ++i) {
+        if (!m_listProfiles.at(i).desLangID.isEmpty())
+            return true;
+    }
+    return false;
+}
+
+void USSDGeneralDlg::changeAllPreBtnsStatus(bool enable)
+{
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i)
+        m_pListPreBtns->at(i).first->setEnabled(enable);
+}
+
+void USSDGeneralDlg::changePayBtnsStatus(bool enable)
+{
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
+        if (isPayBtn(i))
+            m_pListPreBtns->at(i).first->setEnabled(enable);
+    }
+}
+
+bool USSDGeneralDlg::isPayBtn(int index) const
+{
+    return index >= m_pListPreBtns->count() - kPayButtons;
+}
+
+int USSDGeneralDlg::indexOfPreBtn(const QObject *button) const
+{
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
+        if (m_pListPreBtns->at(i).first == button)
+            return i;
+    }
+    return -1;
+}
+
+void USSDGeneralDlg::OnPreBtnClicked()
+{
+    USSD_LOG_SCOPE();
+    const int index = indexOfPreBtn(sender());
+    if (index < 0)
+        return;
+    QString command = m_pListPreBtns->at(index).second.value;
+    if (isPayBtn(index)) {
+        const QString number = m_pPaymentEdit->text();
+        if (number.isEmpty())
+            return;
+        command.replace(QLatin1String("%s"), number);
+    }
+    emit preBtnClickedEvent(command);
+}
+
+void USSDGeneralDlg::getProfileList()
+{
+    USSDEditCmd profiles;
+    profiles.GetProfileList(m_listProfiles);
+    USSD_LOG(" profiles count = %d", m_listProfiles.count());
+}
+
+void USSDGeneralDlg::addProfilesToCombo()
+{
+    if (!m_pProfilesCombo)
+        return;
+    m_pProfilesCombo->clear();
+    for (int i = 0; i < m_listProfiles.count(); ++i)
+        m_pProfilesCombo->addItem(m_pLogic->getProfileShowText(m_listProfiles.at(i)));
+    m_pProfilesCombo->setCurrentIndex(-1);
+    if (m_pDescriptionLabel)
+        m_pDescriptionLabel->setText(QString());
+}
+
+int USSDGeneralDlg::getPreBtnMaxTextWidth()
+{
+    const QFontMetrics metrics = QApplication::fontMetrics();
+    int widest = 0;
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
+        const QString text = m_pLogic->getProfileShowText(m_pListPreBtns->at(i).second);
+        widest = qMax(widest, metrics.boundingRect(text).width());
+    }
+    return widest > 0 ? paddedWidth(widest, 80, 150) : 0;
+}
+
+void USSDGeneralDlg::updatePreBtnWidth(int width)
+{
+    updatePreBtnsText(); // to elide the whole text, not one that is elided already
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
+        QPushButton *button = m_pListPreBtns->at(i).first;
+        button->setFixedWidth(width);
+        CommonUtils::setElidedTextForWidgetText<QPushButton>(button, kElideWidth, Qt::ElideRight);
+    }
+}
+
+void USSDGeneralDlg::updatePreBtnsText()
+{
+    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i)
+        setProfileText(m_pListPreBtns->at(i).first,
+                       m_pLogic->getProfileShowText(m_pListPreBtns->at(i).second));
+}
+
+void USSDGeneralDlg::resetWidgetsWidth4DyncBtnArea()
+{
+    if (isShowPreBtns())
+        updatePreBtnWidth(getPreBtnMaxTextWidth());
+}
+
+void USSDGeneralDlg::OnClickedEditButton()
+{
+    USSD_LOG_SCOPE();
+}
+
+void USSDGeneralDlg::update4EditCommandSave()
+{
+    USSD_LOG_SCOPE();
+    if (!isShowPreBtns() && !hasBeenShowPreBtns()) {
+        logScope.exitWith(" Exit no show pre buttons!");
+        return;
+    }
+    updateUssdCmdProfileList();
+    updatePreBtnsText();
+    updatePreBtnWidth(getPreBtnMaxTextWidth());
+    resetWidgetsWidth4DyncBtnArea();
+}
+
+/// No button is made or deleted here: the profiles to be shown go to the buttons there are.
+void USSDGeneralDlg::updateUssdCmdProfileList()
+{
+    USSD_LOG_SCOPE();
+    if (!hasBeenShowPreBtns()) {
+        logScope.exitWith(" Exit no pre button bas been showed!");
+        return;
+    }
+    int next = 0;
+    for (int i = 0; i < m_listProfiles.count() && next < m_pListPreBtns->count(); ++i) {
+        if (!m_listProfiles.at(i).showButton)
+            continue;
+        (*m_pListPreBtns)[next].second = m_listProfiles.at(i);
+        m_pListPreBtns->at(next).first->setVisible(true);
+        ++next;
+    }
+    for (; next < m_pListPreBtns->count(); ++next)
+        m_pListPreBtns->at(next).first->setVisible(false);
+}
+
+// ---- layout --------------------------------------------------------------------------------
+
+void USSDGeneralDlg::layout()
+{
+    if (isShowPreBtns())
+        resetWidgetsWidth4DyncBtnArea();
+    setLayoutMargins(isShowPreBtns(), isShowPreDescription());
+}
+
+void USSDGeneralDlg::setLayoutMargins(bool showPreBtns, bool showPreDescription)
+{
+    USSD_LOG_SCOPE();
+    if (showPreBtns || showPreDescription)
+        m_pMainGrid->setHorizontalSpacing(8);
+}
+
+void USSDGeneralDlg::findPosAndAddElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pLogic || !m_pMainGrid) {
+        logScope.exitWith(" Fail Exit: Logic/Grid is NULL");
+        return;
+    }
+    for (int slot = 0; slot < kSlots; ++slot)
+        addPreBtnOfSlot(slot, row);
+    const int rowBelowButtons = row;
+    row = 0;
+    addFixedElements(row);
+    addBottomButtons(rowBelowButtons);
+    setLayout(m_pMainGrid);
+    resetWidgetsWidth4DyncBtnArea();
+    changePayBtnsStatus(false); // the payment field is empty
+    initTabOrder();
+}
+
+/// A slot belongs to the profile of the same index; without one that is shown it stays empty.
+void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
+{
+    QPushButton *button = createPreBtn(slot);
+    if (slot >= kFirstFreeSlot) {
+        if (button)
+            m_pMainGrid->addWidget(button, row++, kRightColumn, 1, kRightColumns);
+        if (slot == kFirstFreeSlot)
+            ++row;
+        return;
+    }
+    QVBoxLayout *box = m_pPreBtnsBox[slot / kSlotsInBox];
+    if (button)
+        box->addWidget(button);
+    if (slot == kPaymentFieldSlot) {
+        box->addWidget(m_pInfoNumLabel);
+        box->addWidget(m_pPaymentEdit);
+        m_pMainGrid->addLayout(box, row, 0, 3, 2);
+        row = 9;
+    } else if (slot % kSlotsInBox == kSlotsInBox - 1) {
+        m_pMainGrid->addLayout(box, row, 0, 4, 1);
+        row = slot + 1;
+    }
+}
+
+/// Null when the slot's profile is missing or not to be shown.
+QPushButton *USSDGeneralDlg::createPreBtn(int slot)
+{
+    if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)
+        return nullptr;
+    const USSDProfile &profile = m_listProfiles.at(slot);
+    QPushButton *button = new QPushButton(this);
+    setProfileText(button, m_pLogic->getProfileShowText(profile));
+    button->setObjectName(dialogName("PreButton"));
+    m_pListPreBtns->append(qMakePair(button, profile));
+    connect(button, SIGNAL(clicked()), this, SLOT(OnPreBtnClicked()));
+    return button;
+}
+
+void USSDGeneralDlg::addFixedElements(int row)
+{
+    m_pPreBtnsBox[1]->setSpacing(0);
+    m_pMainGrid->addWidget(m_pHistoryView, row, kRightColumn, 6, kRightColumns);
+    row += 6;
+    m_pMainGrid->addWidget(m_pInfoLabel, row, kRightColumn, 1, kRightColumns);
+    ++row;
+    m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, kRightColumn, 1, kRightColumns - 1);
+    m_pMainGrid->addWidget(m_pSendButton, row, kRightColumn + kRightColumns - 1, Qt::AlignRight);
+    // The prompt has a place of its own, so that nothing moves when it comes and goes.
+    m_pMainGrid->addWidget(m_pPromptLabel, kPromptRow, kRightColumn, 1, kRightColumns);
+}
+
+void USSDGeneralDlg::addBottomButtons(int row)
+{
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->addWidget(m_pDescriptionLabel, 1);
+    buttons->addWidget(m_pClearButton);
+    buttons->addWidget(m_pEditButton);
+    buttons->addWidget(m_pCloseButton);
+    m_pMainGrid->addLayout(buttons, row, 0, 1, kRightColumn + kRightColumns);
+    m_pMainGrid->setRowStretch(0, 1);
+}
+
+void USSDGeneralDlg::initTabOrder()
+{
+    QWidget *previous = m_pUSSDCmdEdit;
+    QList<QWidget *> order;
+    order << m_pSendButton;
+    for (int i = 0; i < m_pListPreBtns->count() && !isPayBtn(i); ++i)
+        order << m_pListPreBtns->at(i).first;
+    order << m_pPaymentEdit;
+    for (int i = qMax(0, m_pListPreBtns->count() - kPayButtons); i < m_pListPreBtns->count(); ++i)
+        order << m_pListPreBtns->at(i).first;
+    order << m_pClearButton << m_pEditButton << m_pCloseButton << m_pHistoryView;
+    for (int i = 0; i < order.count(); ++i) {
+        QWidget::setTabOrder(previous, order.at(i));
+        previous = order.at(i);
+    }
+}
+
+/// Nothing calls this today; it fits the bottom buttons to their texts.
+void USSDGeneralDlg::setRightLayoutBottomButtons()
+{
+    const QFontMetrics metrics = QApplication::fontMetrics();
+    const int send = QtCompat::textWidth(metrics, m_pSendButton->text());
+    const int clear = QtCompat::textWidth(metrics, m_pClearButton->text());
+    const int close = QtCompat::textWidth(metrics, m_pCloseButton->text());
+    const int width = paddedWidth(m_clearBtnSetting.visible ? qMax(send, clear) : send, 80, 160);
+    const bool isModal = m_windowModel == WINDOW_MODEL_MODAL;
+    m_pClearButton->setFixedWidth(width);
+    CommonUtils::setElidedTextForWidgetText<QPushButton>(
+        m_pClearButton, isModal && isShowPreBtns() ? 95 : 120, Qt::ElideRight);
+    if (!isModal) {
+        m_pSendButton->setFixedWidth(width);
+        m_pSendButton->setMaximumWidth(width);
+        return;
+    }
+    const int modalWidth = paddedWidth(qMax(send, close), 80, 160);
+    m_pSendButton->setFixedWidth(modalWidth);
+    m_pCloseButton->setFixedWidth(modalWidth);
+}

@@ -1,0 +1,756 @@
+#include "USSDLogic.h"
+
+#include <QFile>
+#include <QMutexLocker>
+#include <QPointer>
+#include <QXmlStreamReader>
+
+#include "CommonUtils.h"
+#include "ForwardXml.h"
+#include "PluginLog.h"
+#include "PluginText.h"
+#include "ReplyTimer.h"
+#include "SdkRecords.h"
+#include "tksv.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+
+namespace
+{
+
+const int kSent = 0;
+const int kFailed = 1;
+
+/// Limits when nobody set others: 30 s for a reply, shorter or longer by $USSD_REPLY_TIMEOUT_MS.
+ReplyTimes shippedReplyTimes()
+{
+    ReplyTimes times = {30000, 3000};
+    bool isNumber = false;
+    const int milliseconds = qgetenv("USSD_REPLY_TIMEOUT_MS").toInt(&isNumber);
+    if (isNumber && milliseconds > 0)
+        times.reply = milliseconds;
+    return times;
+}
+
+bool isPaidType(int paidType)
+{
+    return static_cast<unsigned int>(paidType) <
+           static_cast<unsigned int>(PluginConfig::kPaidTypes);
+}
+
+/// The two attributes that every component has; -1 for any other.
+template <typename Component>
+int commonIntAttr(const Component &component, int attr)
+{
+    if (attr == ATTR_VALUE)
+        return component.value ? 1 : 0;
+    if (attr == ATTR_POS)
+        return component.pos;
+    return -1;
+}
+
+bool isPrePostQuery(const USSDCmdOrResp &command)
+{
+    return command.component == COMPONENT_PREPOST_QUERY;
+}
+
+bool isNotUSSDSMS(const USSDCmdOrResp &command)
+{
+    return command.component != COMPONENT_USSD_SMS;
+}
+
+} // namespace
+
+USSDLogic *USSDLogic::m_pUSSDLogicInstance = nullptr;
+QList<USSDCmdOrResp> USSDLogic::m_listOfCommandsToSend;
+QMutex USSDLogic::m_mutex;
+QMutex USSDLogic::m_mutexSendCmd;
+QMutex USSDLogic::m_mutexTimeout;
+QWaitCondition USSDLogic::m_waitCondition;
+ReplyTimer *USSDLogic::m_pTimer = nullptr;
+std::atomic<bool> USSDLogic::m_bCanSendSMS(false);
+USSDLogic::HeadMarks USSDLogic::m_headMarks = {1, 0, 0};
+CallbackGate USSDLogic::m_gate;
+ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
+
+// ---- life cycle ----------------------------------------------------------------------------
+
+USSDLogic *USSDLogic::GetUSSDLogicInstance()
+{
+    USSD_LOG_SCOPE();
+    if (!m_pUSSDLogicInstance) {
+        m_gate.startOpening();
+        m_pUSSDLogicInstance = new USSDLogic;
+        m_gate.open();
+    }
+    return m_pUSSDLogicInstance;
+}
+
+USSDLogic::USSDLogic()
+{
+    USSD_LOG_SCOPE();
+    load();
+    registerDeviceCallback();
+    if (registerUSSDCallback(CallBackReceivedResponse) != 0)
+        USSD_LOG(" register callback failed");
+    m_bCanSendSMS = false;
+    registerSmsCallback();
+    if (!m_pTimer) {
+        m_pTimer = new ReplyTimer(this);
+        connect(m_pTimer, SIGNAL(timeout()), this, SLOT(OnTimeOut()));
+    }
+}
+
+USSDLogic::~USSDLogic() {}
+
+void USSDLogic::Destroy()
+{
+    USSD_LOG_SCOPE();
+    stopReplyTimer(); // lets go whoever waits for the earlier time-out
+    m_gate.close();
+    delete m_pTimer;
+    m_pTimer = nullptr;
+    delete m_pUSSDLogicInstance;
+    m_pUSSDLogicInstance = nullptr;
+    clearPending();
+}
+
+void USSDLogic::registerDeviceCallback()
+{
+    USSD_LOG(": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
+    const long result = TKSV_DevSrv_RegisterDevInitEventCallback(OnDeviceMgrInitEvent);
+    USSD_LOG(": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
+}
+
+void USSDLogic::registerSmsCallback()
+{
+    USSD_LOG(": Calling TKSV_SMSSrv_RegCallBack ()");
+    const long result = TKSV_SMSSrv_RegCallBack(SmsCallBackMethod);
+    USSD_LOG(": TKSV_SMSSrv_RegCallBack () returned %li", result);
+    if (result != 0)
+        PluginLog::line(QtWarningMsg, kLogSource, __func__,
+                        ": TKSV_SMSSrv_RegCallBack returned %li", result);
+}
+
+int USSDLogic::registerUSSDCallback(EventCallback fn)
+{
+    USSD_LOG(" Enter");
+    USSD_LOG_IMPORTANT(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
+    const long result = TKSV_USSDSrv_RegisterUSSDCallback(fn);
+    USSD_LOG(" after calling TKSV_USSDSrv_RegisterUSSDCallback(): retVal=%ld", result);
+    USSD_LOG(" Exit: retVal=%ld", result);
+    return static_cast<int>(result);
+}
+
+int USSDLogic::unregisterUSSDCallback(EventCallback fn)
+{
+    USSD_LOG(" Enter");
+    USSD_LOG_IMPORTANT(" before calling TKSV_USSDSrv_UnRegisterUSSDCallback()");
+    const long result = TKSV_USSDSrv_UnRegisterUSSDCallback(fn);
+    USSD_LOG(" before calling TKSV_USSDSrv_UnRegisterUSSDCallback(): retVal=%ld", result);
+    USSD_LOG(" Exit: retVal=%ld", result);
+    return static_cast<int>(result);
+}
+
+void USSDLogic::unSDKRegisterEvent()
+{
+    USSD_LOG_SCOPE();
+    TKSV_DevSrv_UnRegisterDevInitEventCallback(OnDeviceMgrInitEvent);
+    unregisterUSSDCallback(CallBackReceivedResponse);
+    TKSV_SMSSrv_UnRegCallBack(SmsCallBackMethod);
+}
+
+QString USSDLogic::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+void USSDLogic::setReplyTimes(const ReplyTimes &times)
+{
+    m_replyTimes = times;
+}
+
+ReplyTimes USSDLogic::replyTimes()
+{
+    return m_replyTimes;
+}
+
+// ---- configuration -------------------------------------------------------------------------
+
+bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
+{
+    const QString path = CommonUtils::GetPluginLibraryPath() +
+                         QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
+    USSD_LOG(" xmlFilePath = %s", path.toLocal8Bit().constData());
+    file.setFileName(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
+        return false;
+    }
+    reader.setDevice(&file);
+    return true;
+}
+
+void USSDLogic::skipReaderTillString(QXmlStreamReader &reader, QString name)
+{
+    ForwardXml::skipTo(reader, name);
+}
+
+void USSDLogic::load()
+{
+    USSD_LOG_SCOPE();
+    QXmlStreamReader reader;
+    QFile file;
+    if (!openXMLFile(reader, file))
+        return;
+    readPrePostDiffer(reader, m_config.prePostDiffer);
+    for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
+        readPaidSection(reader, paidType, m_config);
+    loadSendCharSettings(reader);
+    loadRecvCharSettings(reader);
+    loadCmdEditSettings(reader);
+    loadAutoUssdSettings(reader);
+}
+
+void USSDLogic::loadSendCharSettings(QXmlStreamReader &reader)
+{
+    readCharSection(reader, kSentCharSection, m_config.sentChar);
+}
+
+void USSDLogic::loadRecvCharSettings(QXmlStreamReader &reader)
+{
+    readCharSection(reader, kReceivedCharSection, m_config.receivedChar);
+}
+
+void USSDLogic::loadCmdEditSettings(QXmlStreamReader &reader)
+{
+    readCmdEdit(reader, m_config.cmdEdit);
+}
+
+void USSDLogic::loadClearBtnSettings(QXmlStreamReader &reader)
+{
+    readClearHistory(reader, m_config.clearHistory);
+}
+
+void USSDLogic::loadAutoUssdSettings(QXmlStreamReader &reader)
+{
+    readAutoUSSD(reader, m_config.autoUSSD);
+}
+
+void USSDLogic::GetCharSet(_CHAR_SET_COLOR which, Char &out)
+{
+    USSD_LOG_SCOPE();
+    QXmlStreamReader reader;
+    QFile file;
+    if (!openXMLFile(reader, file))
+        return;
+    if (which == CHAR_SET_SEND) {
+        loadSendCharSettings(reader);
+        out = m_config.sentChar;
+    } else if (which == CHAR_SET_RECEIVE) {
+        loadRecvCharSettings(reader);
+        out = m_config.receivedChar;
+    }
+}
+
+void USSDLogic::GetClearBtnSetting(ClearHistory &out)
+{
+    USSD_LOG_SCOPE();
+    QXmlStreamReader reader;
+    QFile file;
+    if (!openXMLFile(reader, file))
+        return;
+    loadClearBtnSettings(reader);
+    out = m_config.clearHistory;
+}
+
+void USSDLogic::GetCmdEditSetting(CmdEdit &out)
+{
+    USSD_LOG_SCOPE();
+    QXmlStreamReader reader;
+    QFile file;
+    if (!openXMLFile(reader, file))
+        return;
+    loadCmdEditSettings(reader);
+    out = m_config.cmdEdit;
+}
+
+void USSDLogic::GetPrePostDiffer(PrePostDiffer &out)
+{
+    out = m_config.prePostDiffer;
+}
+
+int USSDLogic::GetComponentAttrInt(int paidType, int component, int attr)
+{
+    USSD_LOG_SCOPE();
+    if (!isPaidType(paidType)) {
+        logScope.exitWith(" Exit: invalid paid type");
+        return -1;
+    }
+    switch (component) {
+    case COMPONENT_BALANCE:
+        return getBalanceIntAttr(paidType, attr);
+    case COMPONENT_CHARGE:
+        return getChargeIntAttr(paidType, attr);
+    case COMPONENT_ONLINE_CHARGE:
+        return getOnlineChargeIntAttr(paidType, attr);
+    case COMPONENT_MSISDN:
+        return getMSISDNIntAttr(paidType, attr);
+    default:
+        return -1;
+    }
+}
+
+void USSDLogic::GetComponentAttrStr(int paidType, int component, int attr, QString &out)
+{
+    USSD_LOG_SCOPE();
+    if (!isPaidType(paidType)) {
+        logScope.exitWith(" Exit: invalid paid type");
+        return;
+    }
+    switch (component) {
+    case COMPONENT_BALANCE:
+        getBalanceStrAttr(paidType, attr, out);
+        break;
+    case COMPONENT_CHARGE:
+        getChargeStrAttr(paidType, attr, out);
+        break;
+    case COMPONENT_ONLINE_CHARGE:
+        getOnlineChargeStrAttr(paidType, attr, out);
+        break;
+    case COMPONENT_MSISDN:
+        getMSISDNStrAttr(paidType, attr, out);
+        break;
+    default:
+        break;
+    }
+}
+
+int USSDLogic::getBalanceIntAttr(int paidType, int attr)
+{
+    return commonIntAttr(m_config.balance[paidType], attr);
+}
+
+int USSDLogic::getChargeIntAttr(int paidType, int attr)
+{
+    const Charge &charge = m_config.charge[paidType];
+    switch (attr) {
+    case ATTR_LENGTH:
+        return charge.length;
+    case ATTR_MINLENTH:
+        return charge.minlenth;
+    case ATTR_RETURN_STYLE:
+        return charge.returnStyle;
+    default:
+        return commonIntAttr(charge, attr);
+    }
+}
+
+int USSDLogic::getOnlineChargeIntAttr(int paidType, int attr)
+{
+    return commonIntAttr(m_config.onlineCharge[paidType], attr);
+}
+
+int USSDLogic::getMSISDNIntAttr(int paidType, int attr)
+{
+    const MSISDN &msisdn = m_config.msisdn[paidType];
+    return attr == ATTR_UPDATE_BUTTON ? msisdn.updateButton : commonIntAttr(msisdn, attr);
+}
+
+void USSDLogic::getBalanceStrAttr(int paidType, int attr, QString &out)
+{
+    if (attr == ATTR_COMMAND)
+        out = m_config.balance[paidType].command;
+}
+
+void USSDLogic::getChargeStrAttr(int paidType, int attr, QString &out)
+{
+    if (attr == ATTR_COMMAND)
+        out = m_config.charge[paidType].command;
+    else if (attr == ATTR_LIMIT_TEXT)
+        out = m_config.charge[paidType].limitText;
+}
+
+void USSDLogic::getOnlineChargeStrAttr(int paidType, int attr, QString &out)
+{
+    if (attr == ATTR_URL)
+        out = m_config.onlineCharge[paidType].url;
+}
+
+void USSDLogic::getMSISDNStrAttr(int paidType, int attr, QString &out)
+{
+    if (attr == ATTR_COMMAND)
+        out = m_config.msisdn[paidType].command;
+}
+
+bool USSDLogic::CheckImsiIsValid(QString const &imsi, int &flags)
+{
+    return matchImsi(m_config.autoUSSD.imsiMap, imsi, flags);
+}
+
+bool USSDLogic::IsImsiDynamicMatch()
+{
+    return m_config.autoUSSD.valid;
+}
+
+QString USSDLogic::getProfileShowText(const USSDProfile &profile)
+{
+    const QString translated = tr(profile.langID);
+    return translated.isEmpty() ? profile.name : translated;
+}
+
+// ---- the pending list: each function holds m_mutex for one look or one change ----------------
+
+void USSDLogic::copyCmdToList(USSDCmdOrResp cmd)
+{
+    QMutexLocker locker(&m_mutex);
+    m_listOfCommandsToSend.append(cmd);
+}
+
+int USSDLogic::pendingCount()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_listOfCommandsToSend.count();
+}
+
+quint64 USSDLogic::headNumber()
+{
+    QMutexLocker locker(&m_mutex);
+    return m_headMarks.current;
+}
+
+/// Reply, time-out and device failure can meet: whoever claims the head announces its outcome.
+/// With a number other than 0, only the head of that number is meant.
+USSDLogic::Claim USSDLogic::claimHead(ClaimedHead &head, quint64 number)
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_listOfCommandsToSend.isEmpty())
+        return ListEmpty;
+    if (m_headMarks.claimed == m_headMarks.current)
+        return ClaimedByOther;
+    if (number != 0 && number != m_headMarks.current)
+        return ClaimedByOther;
+    m_headMarks.claimed = m_headMarks.current;
+    head.number = m_headMarks.current;
+    head.component = m_listOfCommandsToSend.first().component;
+    return Claimed;
+}
+
+/// False when there is no head, or it is on its way already: an entry that becomes the head while
+/// its sender still looks at the list would otherwise be sent by two threads.
+bool USSDLogic::markHeadSent(USSDCmdOrResp &command, quint64 &number)
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_listOfCommandsToSend.isEmpty() || m_headMarks.sent == m_headMarks.current)
+        return false;
+    m_headMarks.sent = m_headMarks.current;
+    number = m_headMarks.current;
+    command = m_listOfCommandsToSend.first();
+    return true;
+}
+
+bool USSDLogic::awaitsReply(quint64 number)
+{
+    QMutexLocker locker(&m_mutex);
+    return m_headMarks.current == number && m_headMarks.claimed != number &&
+           !m_listOfCommandsToSend.isEmpty();
+}
+
+void USSDLogic::removeHead(quint64 number)
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_headMarks.current == number && !m_listOfCommandsToSend.isEmpty())
+        removeFirst();
+}
+
+/// With m_mutex held.
+void USSDLogic::removeFirst()
+{
+    m_listOfCommandsToSend.removeFirst();
+    ++m_headMarks.current;
+}
+
+void USSDLogic::clearPending()
+{
+    QMutexLocker locker(&m_mutex);
+    if (m_listOfCommandsToSend.isEmpty())
+        return;
+    m_listOfCommandsToSend.clear();
+    ++m_headMarks.current;
+}
+
+void USSDLogic::keepOnly(bool (*keep)(const USSDCmdOrResp &))
+{
+    QMutexLocker locker(&m_mutex);
+    QList<USSDCmdOrResp> kept;
+    for (int i = 0; i < m_listOfCommandsToSend.count(); ++i) {
+        if (keep(m_listOfCommandsToSend.at(i)))
+            kept.append(m_listOfCommandsToSend.at(i));
+        else if (i == 0)
+            ++m_headMarks.current;
+    }
+    m_listOfCommandsToSend = kept;
+}
+
+void USSDLogic::ClearQueuedCmds()
+{
+    USSD_LOG_SCOPE();
+    keepOnly(isPrePostQuery);
+}
+
+void USSDLogic::ClearUSSDSMSQueuedCmds()
+{
+    USSD_LOG_SCOPE();
+    keepOnly(isNotUSSDSMS);
+}
+
+// ---- sending -------------------------------------------------------------------------------
+
+int USSDLogic::SendUSSDCommand(USSDCmdOrResp cmd, int *status)
+{
+    USSD_LOG_SCOPE();
+    copyCmdToList(cmd);
+    return pendingCount() == 1 ? sendHead(status) : kSent;
+}
+
+void USSDLogic::checkPendingCmds()
+{
+    int status = 0;
+    sendHead(&status);
+}
+
+int USSDLogic::sendHead(int *status)
+{
+    USSDCmdOrResp head;
+    quint64 number = 0;
+    if (!markHeadSent(head, number))
+        return kSent;
+    return handOver(head.command, number, status);
+}
+
+int USSDLogic::sendUSSDCommand(QString command, int *status)
+{
+    USSDCmdOrResp head;
+    quint64 number = 0;
+    markHeadSent(head, number);
+    return handOver(command, number, status);
+}
+
+/// The silence after a failure is deliberate: the caller sees the result, nobody gets a signal, and
+/// the entries behind wait for the next command that finds itself alone, or for a stale reply.
+int USSDLogic::handOver(const QString &command, quint64 number, int *status)
+{
+    USSD_LOG_SCOPE();
+    int ignoredStatus = 0;
+    if (!status)
+        status = &ignoredStatus;
+    QMutexLocker sending(&m_mutexSendCmd);
+    TKSV_USSDRequest request;
+    if (!SdkRecords::encodeRequest(command, request)) {
+        USSD_LOG(" USSDCommand is too large");
+        removeHead(number);
+        return kFailed;
+    }
+    USSD_LOG_IMPORTANT(" Calling TKSV_USSDSrv_Request (USSDCmd= %s, USSDCmdLen = %d)",
+                       command.toLocal8Bit().constData(), SdkRecords::commandBytes(command));
+    const long result = TKSV_USSDSrv_Request(&request, status);
+    USSD_LOG_IMPORTANT(" TKSV_USSDSrv_Request Returned(status = %d, retVal = %ld), ", *status,
+                       result);
+    if (result != 0) {
+        USSD_LOG_IMPORTANT(" TKSV_USSDSrv_Request failed");
+        removeHead(number);
+        return kFailed;
+    }
+    armReplyTimer(number);
+    return kSent;
+}
+
+/// With m_mutexSendCmd held.
+void USSDLogic::armReplyTimer(quint64 number)
+{
+    if (!m_pTimer)
+        return;
+    QMutexLocker locker(&m_mutexTimeout);
+    if (m_pTimer->isArmed()) // an earlier request's; its reply may be under way on another thread
+        m_waitCondition.wait(&m_mutexTimeout, static_cast<unsigned long>(m_replyTimes.previous));
+    const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
+    locker.unlock();
+    // A reply that was quicker than this found nothing to take back.
+    if (!awaitsReply(number))
+        m_pTimer->disarm(arming);
+}
+
+void USSDLogic::stopReplyTimer()
+{
+    QMutexLocker locker(&m_mutexTimeout);
+    m_waitCondition.wakeAll();
+    if (m_pTimer)
+        m_pTimer->disarm();
+}
+
+int USSDLogic::ReleaseUSSDCommand()
+{
+    USSD_LOG_SCOPE();
+    return releaseUSSDCommand();
+}
+
+int USSDLogic::releaseUSSDCommand()
+{
+    USSD_LOG_SCOPE();
+    int status = 0;
+    if (TKSV_USSDSrv_Release(&status) == 0)
+        return 0;
+    USSD_LOG(" TKSV_USSDSrv_Release failed");
+    return 1;
+}
+
+// ---- outcomes ------------------------------------------------------------------------------
+
+unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
+{
+    Q_UNUSED(event);
+    USSD_LOG_SCOPE();
+    if (!data) {
+        logScope.exitWithWarning(" Fail Exit: Response data is NULL");
+        return 0;
+    }
+    const CallbackPass pass(m_gate);
+    if (!pass.isValid()) {
+        logScope.exitWithWarning(" Fail Exit: Logic Object is NULL");
+        return 0;
+    }
+    ClaimedHead head = {0, COMPONENT_BALANCE};
+    const Claim claim = claimHead(head);
+    if (claim == ClaimedByOther) {
+        logScope.exitWith(" Exit: the command has its answer already");
+        return 0;
+    }
+    stopReplyTimer();
+    USSD_LOG(" received response type = %d", SdkRecords::responseType(data));
+    if (claim == ListEmpty) {
+        USSD_LOG(" sending USSD commond list is empty");
+        return 0;
+    }
+    const QString text = SdkRecords::responseText(data);
+    USSD_LOG(" received component = %d", head.component);
+    USSD_LOG(" received response = %s", text.toLocal8Bit().constData());
+    emit m_pUSSDLogicInstance->responseReceived(head.component, text);
+    removeHead(head.number);
+    m_pUSSDLogicInstance->checkPendingCmds();
+    return 1;
+}
+
+void USSDLogic::OnTimeOut()
+{
+    USSD_LOG_SCOPE();
+    // Looked up first: a head that a quick reply brings up from here on has not run out of time.
+    const quint64 number = headNumber();
+    ClaimedHead head = {0, COMPONENT_BALANCE};
+    if (!stopRunOutTimer() || claimHead(head, number) != Claimed)
+        return;
+    const QPointer<USSDLogic> self(this); // a receiver may shut everything down
+    emit responseReceived(head.component, tr(QLatin1String("USSD_CODE_TIME_OUT")));
+    if (!self)
+        return;
+    removeHead(head.number);
+    checkPendingCmds();
+}
+
+/// Wakes the waiting and takes back the arming that ran out. False when a reply did so first: then
+/// the time-out is that of a command answered in the last moment, and the head is another one.
+bool USSDLogic::stopRunOutTimer()
+{
+    const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;
+    if (runOut == 0) { // not called by the timer
+        stopReplyTimer();
+        return true;
+    }
+    QMutexLocker locker(&m_mutexTimeout);
+    m_waitCondition.wakeAll();
+    if (!m_pTimer->isArmed(runOut))
+        return false;
+    m_pTimer->disarm(runOut);
+    return true;
+}
+
+unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
+{
+    Q_UNUSED(data);
+    USSD_LOG(" Enter %d", event);
+    if (event != TKSV_DEV_EVENT_GONE && event != TKSV_DEV_EVENT_RESET)
+        return 0;
+    const CallbackPass pass(m_gate);
+    if (!pass.isValid())
+        return 0;
+    ClaimedHead head = {0, COMPONENT_BALANCE};
+    const Claim claim = claimHead(head);
+    if (claim == ListEmpty)
+        return 1;
+    if (claim == Claimed)
+        emit m_pUSSDLogicInstance->responseReceived(head.component,
+                                                    tr(QLatin1String("USSD_CODE_FAILED")));
+    clearPending();
+    return 1;
+}
+
+// ---- short messages ------------------------------------------------------------------------
+
+unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
+{
+    USSD_LOG_SCOPE();
+    if (CommonUtils::IsShuttingDown()) {
+        USSD_LOG_UNTIMED(":HA is shutting down ");
+        return 1;
+    }
+    const CallbackPass pass(m_gate);
+    if (!pass.isValid())
+        return 0;
+    switch (event) {
+    case TKSV_SMS_EVENT_SEND_RESULT:
+        m_pUSSDLogicInstance->announceSmsResult(data);
+        break;
+    case TKSV_SMS_EVENT_STATUS_CHANGED:
+        m_pUSSDLogicInstance->announceSmsStatus(data);
+        break;
+    default:
+        USSD_LOG_UNTIMED(":Caught in Default case ");
+        break;
+    }
+    return 1;
+}
+
+void USSDLogic::announceSmsResult(void *data)
+{
+    // Logged under the call-back's name, which is what a reader of the log looks for.
+    static const char function[] = "SmsCallBackMethod";
+    PluginLog::line(QtDebugMsg, kLogSource, function, ": Obtained the EVENT_SMS_ONSENDRESULT");
+    if (!data)
+        return;
+    const SdkRecords::SmsSendResult result = SdkRecords::smsSendResult(data);
+    PluginLog::line(QtDebugMsg, kLogSource, function,
+                    result.sent ? ": Successfully sent the message(EVENT_SMS_ONSENDRESULT)"
+                                : ": Failed to send the message(EVENT_SMS_ONSENDRESULT)");
+    emit SmsSendResult(result.sent, result.number, result.text);
+}
+
+void USSDLogic::announceSmsStatus(void *data)
+{
+    static const char function[] = "SmsCallBackMethod";
+    PluginLog::line(QtDebugMsg, kLogSource, function, ": Sending  EVENT_SMS_ONSTATUSCHANGED");
+    const int status = SdkRecords::smsStatus(data);
+    if (status != TKSV_SMS_STATUS_CAN_SEND && status != TKSV_SMS_STATUS_CANNOT_SEND) {
+        PluginLog::untimed(QtDebugMsg, kLogSource, function,
+                           ": EVENT_SMS_ONSTATUSCHANGED Caught in Default case ");
+        return;
+    }
+    const bool can = status == TKSV_SMS_STATUS_CAN_SEND;
+    PluginLog::line(QtDebugMsg, kLogSource, function,
+                    can ? ":: Reciceved  CAN_SEND_SMS" : ":: Reciceved  CANNOT_SEND_SMS");
+    m_bCanSendSMS = can;
+    emit CanSendSMS(can);
+}
+
+bool USSDLogic::CanSendSMS()
+{
+    return m_bCanSendSMS;
+}

@@ -1,0 +1,51 @@
+#ifndef USSDUIPLUGINIMPL_H
+#define USSDUIPLUGINIMPL_H
+
+#include <QObject>
+
+#include "INotify.h"
+#include "IUIPlugin.h"
+#include "QtCompat.h"
+
+/**
+ * The object that the host loads. It holds no logic: each call gives a fixed answer or goes on to
+ * the service. GUI thread only. OnDestroy(), UnSDKRegisterEvent() and deletion are harmless in any
+ * order and number.
+ */
+class CUSSDUIPluginImpl : public QObject, public IUIPlugin, public INotify
+{
+    Q_OBJECT
+    Q_INTERFACES(IBasePlugin IUIPlugin INotify)
+    Q_PLUGIN_METADATA(IID "com.zelvor.portalcompass.plugin.IUIPlugin")
+public:
+    CUSSDUIPluginImpl();
+    ~CUSSDUIPluginImpl() override;
+
+    void Release() override;
+    int GetLastError() override;
+
+    void OnDestroy() override;
+    void UnSDKRegisterEvent() override;
+
+    bool Init() override;
+    int GetPluginType() override;
+    QString GetCLSID() override;
+    int GetVersion() override;
+    QString GetPluginName() override;
+    bool IsAllowRelease() override;
+    bool QueryInterface(int id, QObject **out) override;
+
+    int ShowWindow(QWidget *parent, QRect &rect) override;
+    int DoModal() override;
+    void Hide() override;
+    void FitSize(QRect &rect) override;
+    bool IsReady() override;
+    bool ChangeLang(const QString &lang) override;
+
+    int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
+
+private:
+    QObject *m_pService; // as handed out by QueryInterface
+};
+
+#endif
