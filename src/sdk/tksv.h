@@ -89,16 +89,22 @@ typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
  * A request made while an earlier one is still on its way replaces it, and the earlier one gets no
  * response any more.
  *
- * Returns non-zero and sets `*status` when there is no usable device; `*status` is
- * TKSV_STATUS_DEVICE_TIMEOUT when the device did not answer in time. `status` must not be null.
+ * Returns non-zero and sets `*status` when there is no usable device or the record is malformed
+ * (length 0, odd or over 368, or text that is no UTF-16); `*status` is TKSV_STATUS_DEVICE_TIMEOUT
+ * when the device did not answer in time. What was refused leaves everything as it was. A response
+ * whose call-back has begun counts as given. `status` must not be null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 
 /** Ends the USSD session, and with it a request in flight. Harmless without a session. */
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
-/** From now on `callback` gets each response (data: TKSV_USSDResponse). Twice is the same as once. */
+/**
+ * From now on `callback` gets each response (event 0, data: TKSV_USSDResponse), and text that the
+ * network sends of its own accord. Twice is the same as once.
+ */
 TKSV_API long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback);
+/** Non-zero when it was not registered. The last one to go ends the session. */
 TKSV_API long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback);
 
 /* ---- device ------------------------------------------------------------------------------ */

@@ -21,7 +21,7 @@ typedef enum TKSV_Backend {
 
 /** How far the device has got. */
 typedef enum TKSV_DeviceState {
-    TKSV_DEVICE_ABSENT = 0,     /* there is no device */
+    TKSV_DEVICE_ABSENT = 0,
     TKSV_DEVICE_SIM_MISSING = 1,
     TKSV_DEVICE_SIM_LOCKED = 2, /* the SIM waits for its PIN */
     TKSV_DEVICE_DISABLED = 3,   /* switched off, or not yet switched on */

@@ -1,0 +1,39 @@
+#include "ScenarioPlace.h"
+
+#include <cstdlib>
+#include <dlfcn.h>
+#include <filesystem>
+#include <system_error>
+
+namespace tksv
+{
+
+namespace
+{
+
+/// Any address inside this library.
+const char Inside = 0;
+
+/// The folder that this library was loaded from.
+std::filesystem::path libraryFolder()
+{
+    Dl_info info = {};
+    if (dladdr(&Inside, &info) == 0 || !info.dli_fname)
+        return {};
+    std::error_code ignored; // the path stays as it is when it cannot be resolved
+    const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);
+    return path.empty() ? std::filesystem::path(info.dli_fname).parent_path() : path.parent_path();
+}
+
+} // namespace
+
+std::string initialScenarioPath()
+{
+    const char *chosen = std::getenv("TKSV_SCENARIO");
+    if (chosen && *chosen)
+        return chosen;
+    const std::filesystem::path shipped = "scenarios/default.scenario";
+    return (libraryFolder() / USSD_SHARE_FROM_LIB / shipped).lexically_normal().string();
+}
+
+} // namespace tksv

@@ -1,0 +1,69 @@
+#ifndef TKSV_INTERNAL_USSDSESSION_H
+#define TKSV_INTERNAL_USSDSESSION_H
+
+#include <deque>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "Backend.h"
+#include "EventService.h"
+
+namespace tksv
+{
+
+/**
+ * The client's view of the one USSD session (3GPP TS 22.090), with the rules that tksv.h promises.
+ *
+ * A reply counts as given at the moment its call-back begins: until then a newer request or a
+ * release still takes it back. A request made from inside that call-back finds the session as the
+ * reply has left it.
+ *
+ * The lock is held while the backend is called, and never while a call-back runs.
+ */
+class UssdSession
+{
+public:
+    explicit UssdSession(EventService &service);
+    UssdSession(const UssdSession &) = delete;
+    UssdSession &operator=(const UssdSession &) = delete;
+
+    /// A RequestStatus. What is not accepted leaves everything as it was.
+    int request(Backend &backend, const std::string &text);
+    /// Ends request and session; no reply comes any more.
+    void release(Backend &backend);
+
+    /// From the backend.
+    void replyCame(RequestToken token, const UssdReply &reply);
+    void textCame(const UssdReply &text);
+    /// Request and session ended with the device.
+    void deviceLost();
+
+    /// The last texts that no call-back took, oldest first.
+    std::vector<UssdReply> untakenTexts() const;
+
+private:
+    enum class State { Idle, InFlight, WaitsForAnswer };
+
+    void post(const UssdReply &reply, std::function<bool()> begin);
+    bool beginReply(RequestToken token, int type);
+    bool beginText(const UssdReply &text);
+    void ended(const UssdReply &reply, bool taken);
+    void becomeIdle();
+    void postHeldTexts();
+
+    EventService &m_service;
+    mutable std::mutex m_mutex; // guards everything below
+    State m_state = State::Idle;
+    RequestToken m_token = 0; // of the request in flight
+    RequestToken m_lastToken = 0;
+    std::vector<UssdReply> m_heldTexts; // came when a request was in flight or a session open
+    std::deque<UssdReply> m_untaken;
+};
+
+/// Whether the text begins with * or # and ends with #, and so opens a session.
+bool hasFormOfCode(const std::string &text);
+
+} // namespace tksv
+
+#endif

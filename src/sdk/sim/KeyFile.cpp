@@ -1,0 +1,193 @@
+#include "KeyFile.h"
+
+#include <algorithm>
+#include <glib.h>
+#include <memory>
+
+namespace tksv
+{
+
+namespace
+{
+
+using GKeyFilePointer = std::unique_ptr<GKeyFile, decltype(&g_key_file_free)>;
+
+GKeyFilePointer parse(const std::string &text)
+{
+    GKeyFilePointer file(g_key_file_new(), &g_key_file_free);
+    if (!g_key_file_load_from_data(file.get(), text.data(), text.size(), G_KEY_FILE_NONE, nullptr))
+        file.reset();
+    return file;
+}
+
+std::string trimmed(const std::string &text)
+{
+    const char blanks[] = " \t\r\n\v\f";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string::npos)
+        return std::string();
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::vector<std::string> splitLines(const std::string &text)
+{
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    for (std::size_t end = text.find('\n'); end != std::string::npos;
+         end = text.find('\n', start)) {
+        lines.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    lines.push_back(text.substr(start));
+    return lines;
+}
+
+std::string join(const std::vector<std::string> &lines, std::size_t count)
+{
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i)
+        text += lines[i] + "\n";
+    return text;
+}
+
+/// The first line that GKeyFile does not take: what stands before it is a key file, with it no
+/// more.
+std::size_t firstRefusedLine(const std::vector<std::string> &lines)
+{
+    std::size_t good = 0;
+    std::size_t bad = lines.size();
+    while (bad - good > 1) {
+        const std::size_t middle = good + (bad - good) / 2;
+        (parse(join(lines, middle)) ? good : bad) = middle;
+    }
+    return bad - 1;
+}
+
+bool reportNonUtf8(const std::vector<std::string> &lines, Complaints &complaints)
+{
+    bool found = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (g_utf8_validate(lines[i].data(), static_cast<gssize>(lines[i].size()), nullptr))
+            continue;
+        complaints.add(static_cast<int>(i) + 1, "expected text in UTF-8");
+        found = true;
+    }
+    return found;
+}
+
+/// Reports each line that is none of a key file, and takes it out.
+GKeyFilePointer parseWithoutBadLines(std::vector<std::string> lines, Complaints &complaints)
+{
+    GKeyFilePointer file = parse(join(lines, lines.size()));
+    while (!file) {
+        const std::size_t bad = firstRefusedLine(lines);
+        complaints.add(
+            static_cast<int>(bad) + 1,
+            "expected [group], key=value below a group, a comment that begins with #, or "
+            "an empty line, found \"" +
+                trimmed(lines[bad]) + "\"");
+        lines[bad].clear();
+        file = parse(join(lines, lines.size()));
+    }
+    return file;
+}
+
+bool containsGroup(const std::vector<KeyFileGroup> &groups, const std::string &name, int &line)
+{
+    const auto isIt = [&name](const KeyFileGroup &group) { return group.name == name; };
+    const auto found = std::find_if(groups.begin(), groups.end(), isIt);
+    if (found != groups.end())
+        line = found->line;
+    return found != groups.end();
+}
+
+/** Goes through the lines of a text that GKeyFile has taken. */
+class LineScan
+{
+public:
+    LineScan(GKeyFile *file, Complaints &complaints) : m_file(file), m_complaints(complaints) {}
+
+    void take(const std::string &line)
+    {
+        ++m_line;
+        const std::string content = trimmed(line);
+        if (content.empty() || content.front() == '#')
+            return;
+        if (content.front() == '[')
+            takeGroup(content.substr(1, content.find(']') - 1));
+        else
+            takeKey(trimmed(content.substr(0, content.find('='))));
+    }
+
+    std::vector<KeyFileGroup> groups;
+
+private:
+    void takeGroup(const std::string &name)
+    {
+        int earlier = 0;
+        if (containsGroup(groups, name, earlier))
+            m_complaints.add(m_line, "[" + name +
+                                         "]: expected each group once; it stands in line " +
+                                         std::to_string(earlier) + " already");
+        groups.push_back(KeyFileGroup{name, m_line, {}});
+    }
+
+    void takeKey(const std::string &key)
+    {
+        KeyFileGroup &group = groups.back();
+        if (const KeyFileEntry *earlier = group.find(key)) {
+            m_complaints.add(m_line, key +
+                                         ": expected each key once in a group; it stands in line " +
+                                         std::to_string(earlier->line) + " already");
+            return;
+        }
+        group.entries.push_back(KeyFileEntry{key, value(group.name, key), m_line});
+    }
+
+    std::string value(const std::string &group, const std::string &key)
+    {
+        char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), nullptr);
+        if (!text) {
+            m_complaints.add(m_line, key + ": expected n, t, s, r or \\ after each \\");
+            return std::string();
+        }
+        const std::string result = text;
+        g_free(text);
+        return result;
+    }
+
+    GKeyFile *m_file;
+    Complaints &m_complaints;
+    int m_line = 0;
+};
+
+std::string withoutByteOrderMark(const std::string &text)
+{
+    const char mark[] = "\xEF\xBB\xBF";
+    return text.compare(0, 3, mark) == 0 ? text.substr(3) : text;
+}
+
+} // namespace
+
+const KeyFileEntry *KeyFileGroup::find(const std::string &key) const
+{
+    const auto isIt = [&key](const KeyFileEntry &entry) { return entry.key == key; };
+    const auto found = std::find_if(entries.begin(), entries.end(), isIt);
+    return found == entries.end() ? nullptr : &*found;
+}
+
+std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints)
+{
+    const std::vector<std::string> lines = splitLines(withoutByteOrderMark(text));
+    if (reportNonUtf8(lines, complaints))
+        return {};
+    const GKeyFilePointer file = parseWithoutBadLines(lines, complaints);
+    if (!complaints.isEmpty())
+        return {};
+    LineScan scan(file.get(), complaints);
+    for (const std::string &line : lines)
+        scan.take(line);
+    return scan.groups;
+}
+
+} // namespace tksv

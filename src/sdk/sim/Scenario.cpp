@@ -1,0 +1,134 @@
+#include "Scenario.h"
+
+#include "../Text.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+/// Marks of the file's own syntax, which a client's text must not reach.
+bool hasSyntaxMarks(const std::string &text)
+{
+    return text.find_first_of("%/ ") != std::string::npos;
+}
+
+/** One step through a text with {names}: plain text, then a name that may be empty. */
+struct TextPart {
+    std::string plain;
+    std::string name;
+};
+
+/// Takes the next part off `text` from `position` on; false when a { is left open.
+bool nextPart(const std::string &text, std::size_t &position, TextPart &part)
+{
+    const std::size_t open = text.find('{', position);
+    part = TextPart{text.substr(position, open - position), std::string()};
+    position = text.size();
+    if (open == std::string::npos)
+        return true;
+    if (text.compare(open, 2, "{{") == 0) {
+        part.plain += '{';
+        position = open + 2;
+        return true;
+    }
+    const std::size_t close = text.find('}', open);
+    if (close == std::string::npos)
+        return false;
+    part.name = text.substr(open + 1, close - open - 1);
+    position = close + 1;
+    return !part.name.empty();
+}
+
+} // namespace
+
+std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code)
+{
+    const std::size_t place = pattern.find(AnyDigits);
+    if (place == std::string::npos || pattern.find('/') != std::string::npos)
+        return std::nullopt;
+    const std::string before = pattern.substr(0, place);
+    const std::string after = pattern.substr(place + sizeof AnyDigits - 1);
+    if (code.size() < before.size() + after.size() || !startsWith(code, before) ||
+        !endsWith(code, after))
+        return std::nullopt;
+    const std::string digits =
+        code.substr(before.size(), code.size() - before.size() - after.size());
+    return isDigits(digits) ? std::optional<std::string>(digits) : std::nullopt;
+}
+
+Match findCode(const Scenario &scenario, const std::string &code)
+{
+    if (!hasSyntaxMarks(code) && scenario.rules.count(code))
+        return Match{code, std::string()};
+    Match best;
+    for (const auto &rule : scenario.rules) {
+        const std::optional<std::string> digits = matchPattern(rule.first, code);
+        if (digits && rule.first.size() > best.group.size())
+            best = Match{rule.first, *digits};
+    }
+    return best;
+}
+
+Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer)
+{
+    const std::string exact = menu + "/" + answer;
+    const bool canBeExact = answer.find_first_of("%/") == std::string::npos;
+    if (canBeExact && scenario.rules.count(exact))
+        return Match{exact, std::string()};
+    const std::string any = menu + "/" + AnyAnswer;
+    return Match{scenario.rules.count(any) ? any : std::string(), std::string()};
+}
+
+bool isMenu(const Scenario &scenario, const std::string &group)
+{
+    const std::string start = group + "/";
+    const auto first = scenario.rules.lower_bound(start);
+    return first != scenario.rules.end() && startsWith(first->first, start);
+}
+
+SmsRule findSms(const Scenario &scenario, const std::string &number)
+{
+    const auto exact = scenario.smsRules.find(number);
+    if (exact != scenario.smsRules.end())
+        return exact->second;
+    const auto other = scenario.smsRules.find(std::string());
+    return other != scenario.smsRules.end() ? other->second : SmsRule{0, scenario.delay};
+}
+
+std::string expand(const std::string &text, const Placeholders &values)
+{
+    std::string result;
+    TextPart part;
+    for (std::size_t position = 0; position < text.size() && nextPart(text, position, part);) {
+        result += part.plain;
+        const auto value = values.find(part.name);
+        if (value != values.end())
+            result += value->second;
+    }
+    return result;
+}
+
+std::optional<std::vector<std::string>> placeholderNames(const std::string &text)
+{
+    std::vector<std::string> names;
+    TextPart part;
+    for (std::size_t position = 0; position < text.size();) {
+        if (!nextPart(text, position, part))
+            return std::nullopt;
+        if (!part.name.empty())
+            names.push_back(part.name);
+    }
+    return names;
+}
+
+std::string formatAmount(Amount amount, const std::string &currency)
+{
+    const Amount size = amount < 0 ? -amount : amount;
+    const std::string cents = std::to_string(size % 100);
+    const std::string number = std::to_string(size / 100) + (cents.size() < 2 ? ".0" : ".") + cents;
+    return (amount < 0 ? "-" : "") + number + (currency.empty() ? "" : " " + currency);
+}
+
+} // namespace tksv

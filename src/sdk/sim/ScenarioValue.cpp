@@ -1,0 +1,153 @@
+#include "ScenarioValue.h"
+
+#include <charconv>
+
+#include "../Text.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+const int MaxMilliseconds = 24 * 60 * 60 * 1000;
+const std::size_t MaxImsiDigits = 15;
+const std::size_t MinImsiDigits = 6;
+const std::size_t MaxMoneyDigits = 9; // whole units; keeps sums far away from overflow
+const int MaxCodeDigits = 182;
+
+std::optional<int> parseInt(const std::string &text)
+{
+    int value = 0;
+    const char *end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    if (result.ec != std::errc() || result.ptr != end)
+        return std::nullopt;
+    return value;
+}
+
+std::optional<int> parseIntBetween(const std::string &text, int min, int max)
+{
+    const std::optional<int> value = parseInt(text);
+    return value && *value >= min && *value <= max ? value : std::nullopt;
+}
+
+/// "12", "12.5" or "12.50", without a sign.
+std::optional<Amount> parseMoney(const std::string &text)
+{
+    const std::size_t point = text.find('.');
+    const std::string whole = text.substr(0, point);
+    std::string cents = point == std::string::npos ? "00" : text.substr(point + 1);
+    if (!isDigits(whole) || !isDigits(cents) || whole.size() > MaxMoneyDigits || cents.size() > 2)
+        return std::nullopt;
+    cents.resize(2, '0');
+    return *parseInt(whole) * Amount(100) + *parseInt(cents);
+}
+
+std::optional<Amount> parseAmount(const std::string &text)
+{
+    const bool negative = startsWith(text, "-");
+    const std::optional<Amount> amount = parseMoney(negative ? text.substr(1) : text);
+    return amount && negative ? std::optional<Amount>(-*amount) : amount;
+}
+
+} // namespace
+
+std::string enumerate(const std::vector<std::string> &words)
+{
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const bool isLast = i + 1 == words.size();
+        text += (i == 0 ? "" : isLast ? " or " : ", ") + words[i];
+    }
+    return text;
+}
+
+std::string ScenarioValue::name(std::size_t maxBytes) const
+{
+    if (text().empty() || text().size() > maxBytes)
+        expected("a text of 1 to " + std::to_string(maxBytes) + " bytes");
+    return text();
+}
+
+int ScenarioValue::number(int min, int max) const
+{
+    const std::optional<int> value = parseIntBetween(text(), min, max);
+    if (!value)
+        expected("a whole number from " + std::to_string(min) + " to " + std::to_string(max));
+    return value.value_or(min);
+}
+
+Milliseconds ScenarioValue::milliseconds() const
+{
+    const std::optional<int> value = parseIntBetween(text(), 0, MaxMilliseconds);
+    if (!value)
+        expected("milliseconds from 0 to " + std::to_string(MaxMilliseconds));
+    return Milliseconds(value.value_or(0));
+}
+
+AwayTime ScenarioValue::away() const
+{
+    if (text() == "never")
+        return std::nullopt;
+    const std::optional<int> value = parseIntBetween(text(), 0, MaxMilliseconds);
+    if (!value)
+        expected("never, or milliseconds from 0 to " + std::to_string(MaxMilliseconds));
+    return Milliseconds(value.value_or(0));
+}
+
+Amount ScenarioValue::amount() const
+{
+    const std::optional<Amount> value = parseAmount(text());
+    if (!value)
+        expected("an amount such as 12.50");
+    return value.value_or(0);
+}
+
+std::string ScenarioValue::imsi() const
+{
+    if (!isDigits(text()) || text().size() < MinImsiDigits || text().size() > MaxImsiDigits)
+        expected("6 to 15 digits");
+    return text();
+}
+
+int ScenarioValue::deviceEvent() const
+{
+    const Word<int> events[] = {{"6016", TKSV_DEV_EVENT_GONE}, {"6601", TKSV_DEV_EVENT_RESET}};
+    return word(events);
+}
+
+void ScenarioValue::digits(std::size_t &fewest, std::size_t &most) const
+{
+    const std::size_t dash = text().find('-');
+    const std::string last = dash == std::string::npos ? text() : text().substr(dash + 1);
+    const std::optional<int> from = parseIntBetween(text().substr(0, dash), 1, MaxCodeDigits);
+    const std::optional<int> to = parseIntBetween(last, from.value_or(1), MaxCodeDigits);
+    if (!from || !to) {
+        expected("how many digits, such as 12 or 12-16, from 1 to " +
+                 std::to_string(MaxCodeDigits));
+        return;
+    }
+    fewest = static_cast<std::size_t>(*from);
+    most = static_cast<std::size_t>(*to);
+}
+
+void ScenarioValue::credit(Rule &rule) const
+{
+    if (text() == AnyDigits || text() == std::string("-") + AnyDigits) {
+        rule.creditDigits = startsWith(text(), "-") ? -1 : 1;
+        return;
+    }
+    const std::optional<Amount> value = parseAmount(text());
+    if (!value)
+        expected("an amount such as 10.00 or -2.50, or %s or -%s for the digits of the code");
+    rule.credit = value.value_or(0);
+}
+
+void ScenarioValue::expected(const std::string &what) const
+{
+    m_complaints.add(m_entry.line,
+                     m_entry.key + ": expected " + what + ", found \"" + text() + "\"");
+}
+
+} // namespace tksv

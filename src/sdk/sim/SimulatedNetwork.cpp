@@ -1,0 +1,328 @@
+#include "SimulatedNetwork.h"
+
+#include <utility>
+
+#include "../Text.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+const Amount HundredthsInUnit = 100;
+const std::size_t MaxAmountDigits = 9; // more is more than anybody has
+
+/// The type of a reply without text.
+int refusalType(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::Unsupported:
+        return UssdNotSupported;
+    case Outcome::NetworkTimeout:
+        return UssdNetworkTimeout;
+    default:
+        return UssdEndedByNetwork;
+    }
+}
+
+int statusFor(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::NoDevice:
+        return RequestNoDevice;
+    case Outcome::DeviceTimeout:
+        return RequestDeviceTimeout;
+    default:
+        return RequestAccepted;
+    }
+}
+
+Amount creditOf(const Rule &rule, const std::string &digits)
+{
+    return rule.credit +
+           (rule.creditDigits ? rule.creditDigits * std::stoll(digits) : 0) * HundredthsInUnit;
+}
+
+} // namespace
+
+SimulatedNetwork::SimulatedNetwork(Scenario scenario)
+    : m_scenario(std::move(scenario)), m_state(m_scenario.state),
+      m_signalPercent(m_scenario.signalPercent), m_smsReady(m_scenario.smsReady),
+      m_balance(m_scenario.balance.value_or(0))
+{
+}
+
+SimulatedNetwork::~SimulatedNetwork()
+{
+    stop();
+}
+
+void SimulatedNetwork::start(BackendObserver &observer)
+{
+    m_observer = &observer;
+    for (const TimedEvent &event : m_scenario.events)
+        schedule(event.after, [this, &event](News &news) { apply(event, news); });
+    for (const Push &due : m_scenario.pushes)
+        schedule(due.after, [this, &due](News &news) { push(due.group, news); });
+}
+
+void SimulatedNetwork::stop()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_stopped = true;
+    }
+    m_scheduler.stop();
+}
+
+int SimulatedNetwork::request(RequestToken token, RequestKind kind, const std::string &text)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || !isRegistered())
+        return RequestNoDevice;
+    const Request request{token, findRule(kind, text),
+                          kind == RequestKind::Answer ? text : std::string()};
+    const Rule rule = ruleFor(request.match);
+    const int status = statusFor(rule.outcome);
+    if (status != RequestAccepted)
+        return status;
+    m_inFlight = token;
+    m_menu = OpenMenu();
+    if (rule.outcome != Outcome::Silence)
+        schedule(rule.delay, [this, request](News &news) { perform(request, news); });
+    return RequestAccepted;
+}
+
+void SimulatedNetwork::endSession()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    closeSession();
+}
+
+bool SimulatedNetwork::sendSms(const SmsMessage &message)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || !canSendSms())
+        return false;
+    const SmsRule rule = findSms(m_scenario, toUtf8(message.number).value_or(std::string()));
+    const unsigned id = ++m_lastSms;
+    m_smsInFlight[id] = message;
+    schedule(rule.delay, [this, id, message, result = rule.result](News &news) {
+        if (m_smsInFlight.erase(id))
+            news.push_back([=](BackendObserver &o) { o.smsFinished(message, result); });
+    });
+    return true;
+}
+
+DeviceInfo SimulatedNetwork::info() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    DeviceInfo info;
+    info.state = m_state;
+    info.canSendSms = canSendSms();
+    info.source = m_scenario.source;
+    if (isRegistered())
+        info.operatorName = m_scenario.operatorName;
+    if (m_state >= TKSV_DEVICE_DISABLED) // the SIM has been read
+        info.imsi = m_scenario.imsi;
+    if (m_state >= TKSV_DEVICE_SEARCHING)
+        info.signalPercent = m_signalPercent;
+    return info;
+}
+
+/// Makes the change on the scheduler's thread, with the lock held, and then tells the observer.
+void SimulatedNetwork::schedule(Milliseconds delay, Change change)
+{
+    m_scheduler.after(delay, [this, change = std::move(change)] {
+        News news;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            change(news);
+        }
+        for (const auto &tell : news)
+            tell(*m_observer);
+    });
+}
+
+/* ---- USSD; with the lock held ------------------------------------------------------------ */
+
+Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) const
+{
+    if (kind == RequestKind::NewSession)
+        return findCode(m_scenario, text);
+    Match match = findAnswer(m_scenario, m_menu.group, text);
+    match.digits = m_menu.digits;
+    return match;
+}
+
+/// The rule that holds, through its Goto; what the network does not know it refuses.
+Rule SimulatedNetwork::ruleFor(const Match &match) const
+{
+    const auto found = m_scenario.rules.find(match.group);
+    if (found == m_scenario.rules.end()) {
+        Rule unknown;
+        unknown.outcome = Outcome::Refuse;
+        unknown.delay = m_scenario.delay;
+        return unknown;
+    }
+    return found->second.goTo.empty() ? found->second : m_scenario.rules.at(found->second.goTo);
+}
+
+void SimulatedNetwork::perform(const Request &request, News &news)
+{
+    if (m_inFlight != request.token)
+        return; // replaced or released meanwhile
+    const Rule rule = ruleFor(request.match);
+    if (rule.outcome == Outcome::DeviceEvent) {
+        loseDevice(rule.deviceEvent, rule.away, news);
+        return;
+    }
+    m_inFlight = 0;
+    const UssdReply reply = replyTo(request, rule);
+    news.push_back([=](BackendObserver &o) { o.ussdReply(request.token, reply); });
+    if (reply.type != UssdWaitsForAnswer)
+        closeSession();
+}
+
+UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
+{
+    if (rule.outcome != Outcome::Reply)
+        return UssdReply{refusalType(rule.outcome), std::string()};
+    const UssdReply reply = sayText(request, rule);
+    return reply.text.empty() ? UssdReply{UssdEndedByNetwork, std::string()} : reply;
+}
+
+/// An empty text when the network refuses after all.
+UssdReply SimulatedNetwork::sayText(const Request &request, const Rule &rule)
+{
+    const std::string &digits = request.match.digits;
+    const bool fits = digits.size() >= rule.fewestDigits && digits.size() <= rule.mostDigits;
+    if (!digits.empty() && request.answer.empty() && !fits)
+        return UssdReply{UssdFinal, expand(rule.wrongDigits, placeholders(request))};
+    if (!takeCredit(rule, digits))
+        return UssdReply{UssdFinal, expand(rule.notEnough, placeholders(request))};
+    const auto found = m_scenario.rules.find(request.match.group);
+    const std::string &group = found->second.goTo.empty() ? found->first : found->second.goTo;
+    if (isMenu(m_scenario, group))
+        m_menu = OpenMenu{group, digits};
+    const int type = m_menu.group.empty() ? UssdFinal : UssdWaitsForAnswer;
+    return UssdReply{type, expand(rule.reply, placeholders(request))};
+}
+
+/// False when the balance does not suffice.
+bool SimulatedNetwork::takeCredit(const Rule &rule, const std::string &digits)
+{
+    if (rule.creditDigits && digits.size() > MaxAmountDigits)
+        return false;
+    const Amount credit = creditOf(rule, digits);
+    if (credit < 0 && m_balance + credit < 0)
+        return false;
+    m_balance += credit;
+    return true;
+}
+
+Placeholders SimulatedNetwork::placeholders(const Request &request) const
+{
+    return Placeholders{{"operator", m_scenario.operatorName},
+                        {"imsi", m_scenario.imsi},
+                        {"balance", formatAmount(m_balance, m_scenario.currency)},
+                        {"digits", request.match.digits},
+                        {"answer", request.answer}};
+}
+
+/// Ends request and menu; what the network wanted to say of its own accord comes now.
+void SimulatedNetwork::closeSession()
+{
+    m_inFlight = 0;
+    m_menu = OpenMenu();
+    const std::vector<std::string> due = std::exchange(m_duePushes, {});
+    for (const std::string &group : due)
+        schedule(Milliseconds(0), [this, group](News &news) { push(group, news); });
+}
+
+void SimulatedNetwork::push(const std::string &group, News &news)
+{
+    if (m_inFlight || !m_menu.group.empty() || !isRegistered()) {
+        m_duePushes.push_back(group);
+        return;
+    }
+    const Request request{0, Match{group, std::string()}, std::string()};
+    const UssdReply text = replyTo(request, ruleFor(request.match));
+    news.push_back([=](BackendObserver &o) { o.ussdText(text); });
+}
+
+/* ---- the device; with the lock held ------------------------------------------------------ */
+
+void SimulatedNetwork::apply(const TimedEvent &event, News &news)
+{
+    if (event.every)
+        schedule(*event.every, [this, &event](News &later) { apply(event, later); });
+    const bool couldSend = canSendSms();
+    m_smsReady = event.smsReady.value_or(m_smsReady);
+    m_signalPercent = event.signalPercent.value_or(m_signalPercent);
+    tellSmsStatus(couldSend, news);
+    if (event.state)
+        setState(*event.state, news);
+    if (event.deviceEvent)
+        loseDevice(event.deviceEvent, event.away, news);
+    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+}
+
+void SimulatedNetwork::setState(TKSV_DeviceState state, News &news)
+{
+    if (state == TKSV_DEVICE_ABSENT) {
+        loseDevice(TKSV_DEV_EVENT_GONE, std::nullopt, news);
+        return;
+    }
+    if (state == m_state)
+        return;
+    const bool couldSend = canSendSms();
+    m_state = state;
+    if (const RequestToken failed = isRegistered() ? 0 : m_inFlight) {
+        const UssdReply failure{UssdEndedByNetwork, std::string()};
+        news.push_back([=](BackendObserver &o) { o.ussdReply(failed, failure); });
+    }
+    if (!isRegistered())
+        endSmsInFlight(news);
+    closeSession();
+    tellSmsStatus(couldSend, news);
+    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+}
+
+void SimulatedNetwork::loseDevice(int event, AwayTime away, News &news)
+{
+    if (m_state == TKSV_DEVICE_ABSENT)
+        return;
+    const bool couldSend = canSendSms();
+    const TKSV_DeviceState before = std::exchange(m_state, TKSV_DEVICE_ABSENT);
+    closeSession();
+    news.push_back([=](BackendObserver &o) { o.deviceLost(event); });
+    endSmsInFlight(news);
+    tellSmsStatus(couldSend, news);
+    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+    if (!away)
+        return;
+    schedule(*away, [this, before](News &later) {
+        if (m_state == TKSV_DEVICE_ABSENT)
+            setState(before, later);
+    });
+}
+
+void SimulatedNetwork::endSmsInFlight(News &news)
+{
+    for (const auto &sms : m_smsInFlight) {
+        const SmsMessage message = sms.second;
+        news.push_back([=](BackendObserver &o) { o.smsFinished(message, SmsFailed); });
+    }
+    m_smsInFlight.clear();
+}
+
+void SimulatedNetwork::tellSmsStatus(bool before, News &news)
+{
+    const bool now = canSendSms();
+    if (now != before)
+        news.push_back([=](BackendObserver &o) { o.smsStatusChanged(now); });
+}
+
+} // namespace tksv

@@ -1,0 +1,86 @@
+#ifndef TKSV_INTERNAL_SIMULATEDNETWORK_H
+#define TKSV_INTERNAL_SIMULATEDNETWORK_H
+
+#include <functional>
+#include <map>
+#include <mutex>
+#include <vector>
+
+#include "../Backend.h"
+#include "Scenario.h"
+#include "Scheduler.h"
+
+namespace tksv
+{
+
+/** A device in the network of one operator, played from a scenario. */
+class SimulatedNetwork : public Backend
+{
+public:
+    explicit SimulatedNetwork(Scenario scenario);
+    ~SimulatedNetwork() override;
+
+    void start(BackendObserver &observer) override;
+    void stop() override;
+    int request(RequestToken token, RequestKind kind, const std::string &text) override;
+    void endSession() override;
+    bool sendSms(const SmsMessage &message) override;
+    DeviceInfo info() const override;
+
+private:
+    /// What the observer is told once the lock is released. Made on the scheduler's thread only,
+    /// so that the observer hears of changes in their order.
+    using News = std::vector<std::function<void(BackendObserver &)>>;
+    using Change = std::function<void(News &)>;
+
+    /** The menu that waits for an answer; `group` is empty when none does. */
+    struct OpenMenu {
+        std::string group;
+        std::string digits; // of the code that opened the session
+    };
+    struct Request {
+        RequestToken token = 0;
+        Match match;
+        std::string answer; // empty for a code
+    };
+
+    void schedule(Milliseconds delay, Change change);
+    Match findRule(RequestKind kind, const std::string &text) const;
+    Rule ruleFor(const Match &match) const;
+    void perform(const Request &request, News &news);
+    UssdReply replyTo(const Request &request, const Rule &rule);
+    UssdReply sayText(const Request &request, const Rule &rule);
+    bool takeCredit(const Rule &rule, const std::string &digits);
+    Placeholders placeholders(const Request &request) const;
+    void closeSession();
+
+    void push(const std::string &group, News &news);
+    void apply(const TimedEvent &event, News &news);
+    void setState(TKSV_DeviceState state, News &news);
+    void loseDevice(int event, AwayTime away, News &news);
+    void endSmsInFlight(News &news);
+    void tellSmsStatus(bool before, News &news);
+    bool isRegistered() const { return m_state == TKSV_DEVICE_REGISTERED; }
+    bool canSendSms() const { return isRegistered() && m_smsReady; }
+
+    const Scenario m_scenario;
+    BackendObserver *m_observer = nullptr;
+
+    mutable std::mutex m_mutex; // guards everything below; not held while the observer is told
+    bool m_stopped = false;
+    TKSV_DeviceState m_state;
+    int m_signalPercent;
+    bool m_smsReady;
+    Amount m_balance;
+    RequestToken m_inFlight = 0;
+    OpenMenu m_menu;
+    std::vector<std::string> m_duePushes; // their time came while a session was open
+    unsigned m_lastSms = 0;
+    std::map<unsigned, SmsMessage> m_smsInFlight;
+
+    Scheduler m_scheduler; // the last member: its thread ends before the others go
+};
+
+} // namespace tksv
+
+#endif

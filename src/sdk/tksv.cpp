@@ -1,0 +1,195 @@
+/* The C functions: arguments are checked and turned into values here, and nowhere else. */
+
+#include <memory>
+
+#include "DeviceSdk.h"
+#include "Records.h"
+#include "Text.h"
+#include "UserDataFolder.h"
+
+using namespace tksv;
+
+namespace
+{
+
+const long Success = 0;
+const long Failure = 1;
+
+/// No exception (memory or threads used up) crosses the C interface.
+template <typename Function>
+long guarded(Function function)
+{
+    try {
+        return function();
+    } catch (...) {
+        return Failure;
+    }
+}
+
+long resultOf(bool ok)
+{
+    return ok ? Success : Failure;
+}
+
+void setStatus(int *status, int value)
+{
+    if (status)
+        *status = value;
+}
+
+/// Calls a function of DeviceSdk with a call-back that is there.
+template <typename Function>
+long withCallback(TKSV_EventCallback callback, Function function)
+{
+    return callback ? guarded([&] { return function(DeviceSdk::instance()); }) : Failure;
+}
+
+} // namespace
+
+long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status)
+{
+    return guarded([&] {
+        setStatus(status, RequestMalformed);
+        const auto text = decodeRequest(request);
+        if (!text)
+            return Failure;
+        const int result = DeviceSdk::instance().request(*text);
+        setStatus(status, result);
+        return resultOf(result == RequestAccepted);
+    });
+}
+
+long TKSV_USSDSrv_Release(int *status)
+{
+    setStatus(status, 0);
+    return guarded([] {
+        DeviceSdk::instance().release();
+        return Success;
+    });
+}
+
+long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback)
+{
+    return withCallback(callback, [callback](DeviceSdk &sdk) {
+        sdk.addUssdCallback(callback);
+        return Success;
+    });
+}
+
+long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback)
+{
+    return withCallback(callback, [callback](DeviceSdk &sdk) {
+        return resultOf(sdk.removeUssdCallback(callback));
+    });
+}
+
+long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callback)
+{
+    return withCallback(callback, [callback](DeviceSdk &sdk) {
+        sdk.addDeviceCallback(callback);
+        return Success;
+    });
+}
+
+long TKSV_DevSrv_UnRegisterDevInitEventCallback(TKSV_EventCallback callback)
+{
+    return withCallback(callback, [callback](DeviceSdk &sdk) {
+        return resultOf(sdk.removeDeviceCallback(callback));
+    });
+}
+
+long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback)
+{
+    return withCallback(callback, [callback](DeviceSdk &sdk) {
+        sdk.addSmsCallback(callback);
+        return Success;
+    });
+}
+
+long TKSV_SMSSrv_UnRegCallBack(TKSV_EventCallback callback)
+{
+    return withCallback(
+        callback, [callback](DeviceSdk &sdk) { return resultOf(sdk.removeSmsCallback(callback)); });
+}
+
+long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned short *number,
+                                 const unsigned short *text)
+{
+    if (!record)
+        return Failure;
+    *record = nullptr;
+    if (!number || !*number || !text)
+        return Failure;
+    return guarded([&] {
+        SmsMessage message{decodeText(number), decodeText(text)};
+        *record = DeviceSdk::instance().smsRecords().create(std::move(message));
+        return Success;
+    });
+}
+
+long TKSV_SMSSrv_SendMsg(TKSV_SMSRecord record)
+{
+    return guarded([&] {
+        DeviceSdk &sdk = DeviceSdk::instance();
+        const auto message = sdk.smsRecords().find(record);
+        return resultOf(message && sdk.sendSms(*message));
+    });
+}
+
+long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record)
+{
+    return guarded([&] { return resultOf(DeviceSdk::instance().smsRecords().release(record)); });
+}
+
+long TKSV_GetUserDataDirectory(unsigned short **directory)
+{
+    if (!directory)
+        return Failure;
+    *directory = nullptr;
+    return guarded([&] {
+        const std::string folder = userDataFolder();
+        const auto units = toUtf16(folder);
+        if (folder.empty() || !units || !makeFolder(folder))
+            return Failure;
+        auto copy = std::make_unique<unsigned short[]>(units->size() + 1);
+        std::copy(units->begin(), units->end(), copy.get());
+        *directory = copy.release();
+        return Success;
+    });
+}
+
+long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
+{
+    if (!info)
+        return Failure;
+    return guarded([&] {
+        const DeviceInfo from = DeviceSdk::instance().info();
+        *info = TKSV_DeviceInfo();
+        info->backend = from.backend;
+        info->state = from.state;
+        info->signalPercent = from.signalPercent;
+        info->canSendSMS = from.canSendSms ? 1 : 0;
+        copyText(from.operatorName, info->operatorName, sizeof info->operatorName);
+        copyText(from.imsi, info->imsi, sizeof info->imsi);
+        copyText(from.source, info->source, sizeof info->source);
+        return Success;
+    });
+}
+
+long TKSV_Device_SetInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
+{
+    return guarded([&] {
+        DeviceSdk::instance().setInfoCallback(callback, context);
+        return Success;
+    });
+}
+
+long TKSV_Device_UseScenario(const char *path, char *message, unsigned long messageSize)
+{
+    return guarded([&] {
+        const std::string complaints = DeviceSdk::instance().useScenario(path ? path : "");
+        if (message)
+            copyText(complaints, message, messageSize);
+        return resultOf(complaints.empty());
+    });
+}
