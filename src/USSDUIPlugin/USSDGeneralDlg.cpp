@@ -2,9 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFontMetrics>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,48 +28,6 @@ const int kModalHeight = 465;
 const int kMaxComboCode = 40;
 const int kMaxPaymentNumber = 20;
 const int kResultQueued = 12; // as good as 0: an answer is awaited
-
-// The slots of the preset buttons: two boxes of four, a box with the payment field, two below.
-const int kSlots = 11;
-const int kSlotsInBox = 4;
-const int kPaymentFieldSlot = 8;
-const int kFirstFreeSlot = 9;
-const int kRightColumn = 2; // where transcript and entry stand, five columns wide
-const int kRightColumns = 5;
-const int kPromptRow = 8;
-
-const int kElideWidth = 127; // whatever the button's width is
-const int kPayButtons = 2;   // the last ones
-
-QString dialogName(const char *role)
-{
-    return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
-}
-
-/// The width a text wants with some room around it, within limits.
-int paddedWidth(int textWidth, int minimum, int maximum)
-{
-    return qBound(minimum, textWidth + 30, maximum);
-}
-
-bool holdsLetter(const QString &text)
-{
-    for (int i = 0; i < text.length(); ++i) {
-        if (text.at(i).isLetter())
-            return true;
-    }
-    return false;
-}
-
-/// A code reads from left to right in every language; a name follows the language.
-void setProfileText(QPushButton *button, const QString &text)
-{
-    if (holdsLetter(text))
-        button->unsetLayoutDirection();
-    else
-        button->setLayoutDirection(Qt::LeftToRight);
-    button->setText(text);
-}
 
 QLineEdit *createCodeEdit(QWidget *parent)
 {
@@ -103,6 +59,11 @@ USSDGeneralDlg::~USSDGeneralDlg()
 QString USSDGeneralDlg::tr(const QString &key)
 {
     return pluginText(key);
+}
+
+QString USSDGeneralDlg::objectNameOf(const char *role)
+{
+    return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
 }
 
 // ---- building ------------------------------------------------------------------------------
@@ -198,16 +159,16 @@ void USSDGeneralDlg::initWidgets()
 
 void USSDGeneralDlg::initObjectNames()
 {
-    m_pHistoryView->setObjectName(dialogName("History"));
-    m_pInfoLabel->setObjectName(dialogName("InfoLabel"));
-    m_pProfilesCombo->setObjectName(dialogName("ProfilesCombo"));
-    m_pSendButton->setObjectName(dialogName("SendButton"));
-    m_pClearButton->setObjectName(dialogName("ClearButton"));
-    m_pEditButton->setObjectName(dialogName("EditButton"));
-    m_pCloseButton->setObjectName(dialogName("CloseButton"));
-    m_pInfoNumLabel->setObjectName(dialogName("InfoNumLabel"));
-    m_pPaymentEdit->setObjectName(dialogName("PaymentEdit"));
-    m_pUSSDCmdEdit->setObjectName(dialogName("USSDCmdEdit"));
+    m_pHistoryView->setObjectName(objectNameOf("History"));
+    m_pInfoLabel->setObjectName(objectNameOf("InfoLabel"));
+    m_pProfilesCombo->setObjectName(objectNameOf("ProfilesCombo"));
+    m_pSendButton->setObjectName(objectNameOf("SendButton"));
+    m_pClearButton->setObjectName(objectNameOf("ClearButton"));
+    m_pEditButton->setObjectName(objectNameOf("EditButton"));
+    m_pCloseButton->setObjectName(objectNameOf("CloseButton"));
+    m_pInfoNumLabel->setObjectName(objectNameOf("InfoNumLabel"));
+    m_pPaymentEdit->setObjectName(objectNameOf("PaymentEdit"));
+    m_pUSSDCmdEdit->setObjectName(objectNameOf("USSDCmdEdit"));
 }
 
 void USSDGeneralDlg::initCombo()
@@ -556,307 +517,4 @@ void USSDGeneralDlg::clearHistory()
     }
     m_pHistoryView->clearEntries();
     enableClearHistoryBtn(false);
-}
-
-// ---- preset buttons ------------------------------------------------------------------------
-
-void USSDGeneralDlg::initPreBtns()
-{
-    if (!m_pListPreBtns)
-        m_pListPreBtns = new PreBtnList;
-}
-
-bool USSDGeneralDlg::isShowPreBtns()
-{
-    for (int i = 0; i < m_listProfiles.count(); ++i) {
-        if (m_listProfiles.at(i).showButton)
-            return true;
-    }
-    return false;
-}
-
-bool USSDGeneralDlg::hasBeenShowPreBtns()
-{
-    return m_pListPreBtns && !m_pListPreBtns->isEmpty();
-}
-
-bool USSDGeneralDlg::isShowPreDescription()
-{
-    for (int i = 0; i < m_listProfiles.count(); ++i) {
-        if (!m_listProfiles.at(i).desLangID.isEmpty())
-            return true;
-    }
-    return false;
-}
-
-void USSDGeneralDlg::changeAllPreBtnsStatus(bool enable)
-{
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i)
-        m_pListPreBtns->at(i).first->setEnabled(enable);
-}
-
-void USSDGeneralDlg::changePayBtnsStatus(bool enable)
-{
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
-        if (isPayBtn(i))
-            m_pListPreBtns->at(i).first->setEnabled(enable);
-    }
-}
-
-bool USSDGeneralDlg::isPayBtn(int index) const
-{
-    return index >= m_pListPreBtns->count() - kPayButtons;
-}
-
-int USSDGeneralDlg::indexOfPreBtn(const QObject *button) const
-{
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
-        if (m_pListPreBtns->at(i).first == button)
-            return i;
-    }
-    return -1;
-}
-
-void USSDGeneralDlg::OnPreBtnClicked()
-{
-    USSD_LOG_SCOPE();
-    const int index = indexOfPreBtn(sender());
-    if (index < 0)
-        return;
-    QString command = m_pListPreBtns->at(index).second.value;
-    if (isPayBtn(index)) {
-        const QString number = m_pPaymentEdit->text();
-        if (number.isEmpty())
-            return;
-        command.replace(QLatin1String("%s"), number);
-    }
-    emit preBtnClickedEvent(command);
-}
-
-void USSDGeneralDlg::getProfileList()
-{
-    USSDEditCmd profiles;
-    profiles.GetProfileList(m_listProfiles);
-    USSD_LOG(" profiles count = %d", m_listProfiles.count());
-}
-
-void USSDGeneralDlg::addProfilesToCombo()
-{
-    if (!m_pProfilesCombo)
-        return;
-    m_pProfilesCombo->clear();
-    for (int i = 0; i < m_listProfiles.count(); ++i)
-        m_pProfilesCombo->addItem(m_pLogic->getProfileShowText(m_listProfiles.at(i)));
-    m_pProfilesCombo->setCurrentIndex(-1);
-    if (m_pDescriptionLabel)
-        m_pDescriptionLabel->setText(QString());
-}
-
-int USSDGeneralDlg::getPreBtnMaxTextWidth()
-{
-    const QFontMetrics metrics = QApplication::fontMetrics();
-    int widest = 0;
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
-        const QString text = m_pLogic->getProfileShowText(m_pListPreBtns->at(i).second);
-        widest = qMax(widest, metrics.boundingRect(text).width());
-    }
-    return widest > 0 ? paddedWidth(widest, 80, 150) : 0;
-}
-
-void USSDGeneralDlg::updatePreBtnWidth(int width)
-{
-    updatePreBtnsText(); // to elide the whole text, not one that is elided already
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
-        QPushButton *button = m_pListPreBtns->at(i).first;
-        button->setFixedWidth(width);
-        CommonUtils::setElidedTextForWidgetText<QPushButton>(button, kElideWidth, Qt::ElideRight);
-    }
-}
-
-void USSDGeneralDlg::updatePreBtnsText()
-{
-    for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i)
-        setProfileText(m_pListPreBtns->at(i).first,
-                       m_pLogic->getProfileShowText(m_pListPreBtns->at(i).second));
-}
-
-void USSDGeneralDlg::resetWidgetsWidth4DyncBtnArea()
-{
-    if (isShowPreBtns())
-        updatePreBtnWidth(getPreBtnMaxTextWidth());
-}
-
-void USSDGeneralDlg::OnClickedEditButton()
-{
-    USSD_LOG_SCOPE();
-}
-
-void USSDGeneralDlg::update4EditCommandSave()
-{
-    USSD_LOG_SCOPE();
-    if (!isShowPreBtns() && !hasBeenShowPreBtns()) {
-        logScope.exitWith(" Exit no show pre buttons!");
-        return;
-    }
-    updateUssdCmdProfileList();
-    updatePreBtnsText();
-    updatePreBtnWidth(getPreBtnMaxTextWidth());
-    resetWidgetsWidth4DyncBtnArea();
-}
-
-/// No button is made or deleted here: the profiles to be shown go to the buttons there are.
-void USSDGeneralDlg::updateUssdCmdProfileList()
-{
-    USSD_LOG_SCOPE();
-    if (!hasBeenShowPreBtns()) {
-        logScope.exitWith(" Exit no pre button bas been showed!");
-        return;
-    }
-    int next = 0;
-    for (int i = 0; i < m_listProfiles.count() && next < m_pListPreBtns->count(); ++i) {
-        if (!m_listProfiles.at(i).showButton)
-            continue;
-        (*m_pListPreBtns)[next].second = m_listProfiles.at(i);
-        m_pListPreBtns->at(next).first->setVisible(true);
-        ++next;
-    }
-    for (; next < m_pListPreBtns->count(); ++next)
-        m_pListPreBtns->at(next).first->setVisible(false);
-}
-
-// ---- layout --------------------------------------------------------------------------------
-
-void USSDGeneralDlg::layout()
-{
-    if (isShowPreBtns())
-        resetWidgetsWidth4DyncBtnArea();
-    setLayoutMargins(isShowPreBtns(), isShowPreDescription());
-}
-
-void USSDGeneralDlg::setLayoutMargins(bool showPreBtns, bool showPreDescription)
-{
-    USSD_LOG_SCOPE();
-    if (showPreBtns || showPreDescription)
-        m_pMainGrid->setHorizontalSpacing(8);
-}
-
-void USSDGeneralDlg::findPosAndAddElements(int &row)
-{
-    USSD_LOG_SCOPE();
-    if (!m_pLogic || !m_pMainGrid) {
-        logScope.exitWith(" Fail Exit: Logic/Grid is NULL");
-        return;
-    }
-    for (int slot = 0; slot < kSlots; ++slot)
-        addPreBtnOfSlot(slot, row);
-    const int rowBelowButtons = row;
-    row = 0;
-    addFixedElements(row);
-    addBottomButtons(rowBelowButtons);
-    setLayout(m_pMainGrid);
-    resetWidgetsWidth4DyncBtnArea();
-    changePayBtnsStatus(false); // the payment field is empty
-    initTabOrder();
-}
-
-/// A slot belongs to the profile of the same index; without one that is shown it stays empty.
-void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
-{
-    QPushButton *button = createPreBtn(slot);
-    if (slot >= kFirstFreeSlot) {
-        if (button)
-            m_pMainGrid->addWidget(button, row++, kRightColumn, 1, kRightColumns);
-        if (slot == kFirstFreeSlot)
-            ++row;
-        return;
-    }
-    QVBoxLayout *box = m_pPreBtnsBox[slot / kSlotsInBox];
-    if (button)
-        box->addWidget(button);
-    if (slot == kPaymentFieldSlot) {
-        box->addWidget(m_pInfoNumLabel);
-        box->addWidget(m_pPaymentEdit);
-        m_pMainGrid->addLayout(box, row, 0, 3, 2);
-        row = 9;
-    } else if (slot % kSlotsInBox == kSlotsInBox - 1) {
-        m_pMainGrid->addLayout(box, row, 0, 4, 1);
-        row = slot + 1;
-    }
-}
-
-/// Null when the slot's profile is missing or not to be shown.
-QPushButton *USSDGeneralDlg::createPreBtn(int slot)
-{
-    if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)
-        return nullptr;
-    const USSDProfile &profile = m_listProfiles.at(slot);
-    QPushButton *button = new QPushButton(this);
-    setProfileText(button, m_pLogic->getProfileShowText(profile));
-    button->setObjectName(dialogName("PreButton"));
-    m_pListPreBtns->append(qMakePair(button, profile));
-    connect(button, SIGNAL(clicked()), this, SLOT(OnPreBtnClicked()));
-    return button;
-}
-
-void USSDGeneralDlg::addFixedElements(int row)
-{
-    m_pPreBtnsBox[1]->setSpacing(0);
-    m_pMainGrid->addWidget(m_pHistoryView, row, kRightColumn, 6, kRightColumns);
-    row += 6;
-    m_pMainGrid->addWidget(m_pInfoLabel, row, kRightColumn, 1, kRightColumns);
-    ++row;
-    m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, kRightColumn, 1, kRightColumns - 1);
-    m_pMainGrid->addWidget(m_pSendButton, row, kRightColumn + kRightColumns - 1, Qt::AlignRight);
-    // The prompt has a place of its own, so that nothing moves when it comes and goes.
-    m_pMainGrid->addWidget(m_pPromptLabel, kPromptRow, kRightColumn, 1, kRightColumns);
-}
-
-void USSDGeneralDlg::addBottomButtons(int row)
-{
-    QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->addWidget(m_pDescriptionLabel, 1);
-    buttons->addWidget(m_pClearButton);
-    buttons->addWidget(m_pEditButton);
-    buttons->addWidget(m_pCloseButton);
-    m_pMainGrid->addLayout(buttons, row, 0, 1, kRightColumn + kRightColumns);
-    m_pMainGrid->setRowStretch(0, 1);
-}
-
-void USSDGeneralDlg::initTabOrder()
-{
-    QWidget *previous = m_pUSSDCmdEdit;
-    QList<QWidget *> order;
-    order << m_pSendButton;
-    for (int i = 0; i < m_pListPreBtns->count() && !isPayBtn(i); ++i)
-        order << m_pListPreBtns->at(i).first;
-    order << m_pPaymentEdit;
-    for (int i = qMax(0, m_pListPreBtns->count() - kPayButtons); i < m_pListPreBtns->count(); ++i)
-        order << m_pListPreBtns->at(i).first;
-    order << m_pClearButton << m_pEditButton << m_pCloseButton << m_pHistoryView;
-    for (int i = 0; i < order.count(); ++i) {
-        QWidget::setTabOrder(previous, order.at(i));
-        previous = order.at(i);
-    }
-}
-
-/// Nothing calls this today; it fits the bottom buttons to their texts.
-void USSDGeneralDlg::setRightLayoutBottomButtons()
-{
-    const QFontMetrics metrics = QApplication::fontMetrics();
-    const int send = QtCompat::textWidth(metrics, m_pSendButton->text());
-    const int clear = QtCompat::textWidth(metrics, m_pClearButton->text());
-    const int close = QtCompat::textWidth(metrics, m_pCloseButton->text());
-    const int width = paddedWidth(m_clearBtnSetting.visible ? qMax(send, clear) : send, 80, 160);
-    const bool isModal = m_windowModel == WINDOW_MODEL_MODAL;
-    m_pClearButton->setFixedWidth(width);
-    CommonUtils::setElidedTextForWidgetText<QPushButton>(
-        m_pClearButton, isModal && isShowPreBtns() ? 95 : 120, Qt::ElideRight);
-    if (!isModal) {
-        m_pSendButton->setFixedWidth(width);
-        m_pSendButton->setMaximumWidth(width);
-        return;
-    }
-    const int modalWidth = paddedWidth(qMax(send, close), 80, 160);
-    m_pSendButton->setFixedWidth(modalWidth);
-    m_pCloseButton->setFixedWidth(modalWidth);
 }

@@ -45,6 +45,8 @@ public:
     void setProfileFocus();
     void showHideCmdBtn();
     static QString tr(const QString &key);
+    /// The style sheet's name for a widget with this role.
+    static QString objectNameOf(const char *role);
 
     bool isShowPreBtns();
     bool hasBeenShowPreBtns();
