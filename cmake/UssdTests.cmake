@@ -22,6 +22,7 @@ function(ussd_set_up_test name)
     cmake_parse_arguments(arg "" "" "LABELS;ENVIRONMENT" ${ARGN})
     set(home ${PROJECT_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
+    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # it is XDG_RUNTIME_DIR too
     set_tests_properties(
         ${name}
         PROPERTIES TIMEOUT ${USSD_TEST_SECONDS}
