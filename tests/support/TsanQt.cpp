@@ -187,9 +187,14 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
         realOne<bool(QObject *, QtPrivate::QSlotObjectBase *, Qt::ConnectionType, void *)>(
             "_ZN11QMetaObject16invokeMethodImplEP7QObjectPN9QtPrivate15QSlotObjectBaseEN2Qt14"
             "ConnectionTypeEPv");
+    const bool blocks = type == Qt::BlockingQueuedConnection;
+    if (blocks)
+        slot->ref(); // else it dies inside of Qt, before the sanitizer has learnt that it was used
     __tsan_release(&posted);
     const bool done = real(object, slot, type, result);
-    if (type == Qt::BlockingQueuedConnection)
+    if (blocks) {
         __tsan_acquire(&handled);
+        slot->destroyIfLastRef();
+    }
     return done;
 }
