@@ -185,11 +185,9 @@ std::shared_ptr<Backend> DeviceSdk::currentBackend() const
 
 void DeviceSdk::setBackend(const std::shared_ptr<Backend> &backend)
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_backend = backend;
-    }
     backend->start(*this);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_backend = backend;
 }
 
 /// The backend, made on first need.
@@ -214,8 +212,9 @@ void DeviceSdk::replaceBackend(Scenario scenario)
         if (wasThere)
             deviceLost(TKSV_DEV_EVENT_GONE);
     }
-    setBackend(std::make_shared<SimulatedNetwork>(std::move(scenario)));
-    smsStatusChanged(info().canSendSms);
+    const auto simulator = std::make_shared<SimulatedNetwork>(std::move(scenario));
+    smsStatusChanged(simulator->info().canSendSms); // before it tells of a change of its own
+    setBackend(simulator);
     infoChanged();
 }
 

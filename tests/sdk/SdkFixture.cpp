@@ -1,0 +1,153 @@
+#include "SdkFixture.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <unistd.h>
+
+#include "tksv_device.h"
+
+namespace
+{
+
+std::mutex insideMutex;
+std::function<void(const Response &)> insideUssd;
+
+std::u16string textAt(const unsigned short *units)
+{
+    const unsigned short *end = units;
+    while (*end)
+        ++end;
+    return std::u16string(units, end);
+}
+
+const unsigned short *units(const std::u16string &text)
+{
+    return reinterpret_cast<const unsigned short *>(text.c_str());
+}
+
+} // namespace
+
+void Gate::open()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_open = true;
+    m_changed.notify_all();
+}
+
+bool Gate::wait()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, std::chrono::seconds(10), [this] { return m_open; });
+}
+
+void Received::clear()
+{
+    responses.clear();
+    deviceEvents.clear();
+    smsResults.clear();
+    smsStatus.clear();
+}
+
+namespace SdkFixture
+{
+
+Received &received()
+{
+    static Received instance;
+    return instance;
+}
+
+std::string useNetwork(const std::string &scenario)
+{
+    char path[] = "/tmp/sdk-test-XXXXXX";
+    const int descriptor = mkstemp(path);
+    if (descriptor < 0)
+        return "no temporary file";
+    close(descriptor);
+    std::ofstream(path) << scenario;
+    char message[4096] = "";
+    TKSV_Device_UseScenario(path, message, sizeof message);
+    std::remove(path);
+    return message;
+}
+
+void registerAll()
+{
+    TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
+    TKSV_DevSrv_RegisterDevInitEventCallback(onDevice);
+    TKSV_SMSSrv_RegCallBack(onSms);
+}
+
+void unregisterAll()
+{
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
+    TKSV_DevSrv_UnRegisterDevInitEventCallback(onDevice);
+    TKSV_SMSSrv_UnRegCallBack(onSms);
+}
+
+unsigned char onUssd(int event, void *data)
+{
+    const auto *record = static_cast<const TKSV_USSDResponse *>(data);
+    const Response response{event, record->type, textAt(record->text), std::this_thread::get_id()};
+    std::function<void(const Response &)> action;
+    {
+        const std::lock_guard<std::mutex> lock(insideMutex);
+        action = insideUssd;
+    }
+    received().responses.add(response);
+    if (action)
+        action(response);
+    return 1;
+}
+
+unsigned char onDevice(int event, void *)
+{
+    received().deviceEvents.add(event);
+    return 1;
+}
+
+unsigned char onSms(int event, void *data)
+{
+    if (event == TKSV_SMS_EVENT_STATUS_CHANGED)
+        received().smsStatus.add(static_cast<const TKSV_SMSStatus *>(data)->status);
+    if (event == TKSV_SMS_EVENT_SEND_RESULT) {
+        const auto *record = static_cast<const TKSV_SMSSendResult *>(data);
+        received().smsResults.add({record->result, textAt(record->number), textAt(record->text)});
+    }
+    return 1;
+}
+
+void setInsideUssd(std::function<void(const Response &)> action)
+{
+    const std::lock_guard<std::mutex> lock(insideMutex);
+    insideUssd = std::move(action);
+}
+
+long request(const std::u16string &text, int *status)
+{
+    TKSV_USSDRequest record = {};
+    record.length = static_cast<unsigned int>(text.size() * 2);
+    std::copy_n(text.begin(), std::min<std::size_t>(text.size(), TKSV_USSD_MAX_UNITS), record.text);
+    int ownStatus = 0;
+    return TKSV_USSDSrv_Request(&record, status ? status : &ownStatus);
+}
+
+Response ask(const std::u16string &text)
+{
+    const std::size_t before = received().responses.all().size();
+    if (request(text) != 0 || !received().responses.waitFor(before + 1))
+        return Response();
+    return received().responses.all().at(before);
+}
+
+long sendSms(const std::u16string &number, const std::u16string &text)
+{
+    TKSV_SMSRecord record = nullptr;
+    if (TKSV_SMSSrv_CreateSMSRecord(&record, units(number), units(text)) != 0)
+        return 1;
+    const long result = TKSV_SMSSrv_SendMsg(record);
+    return TKSV_SMSSrv_ReleaseSMSRecord(record) == 0 ? result : 2;
+}
+
+} // namespace SdkFixture
