@@ -396,4 +396,253 @@
         <translation>يطلب من الرقم المُدخل معاودة الاتصال</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>لوحة USSD</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>رموز USSD</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>رموز USSD في نافذة</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>مسبق الدفع</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>آجل الدفع</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>الخدمات</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>الشبكة المحاكاة الافتراضية</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>فتح ملف سيناريو...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>مودم (غير متاح بعد)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>فتح ملف سيناريو</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>ملفات السيناريو</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>كل الملفات</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>لا يمكن استخدام ملف السيناريو</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>المصدر: شبكة محاكاة (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>المصدر: مودم (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>لا توجد شبكة</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>الإشارة: %1%</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>الإشارة: غير معروفة</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>بطاقة SIM&#x200f;: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>بطاقة SIM بلا رقم مقروء</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>لا يوجد جهاز.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>لا توجد بطاقة SIM في الجهاز.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>بطاقة SIM تنتظر رمز PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>الجهاز متوقف عن العمل.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>جارٍ البحث عن شبكة...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>المشغّل</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>قوة الإشارة</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>المصدر المستخدم</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>الملحق مفقود: لا يوجد ملف %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>لا يمكن تحميل ملف الملحق %1 كمكتبة: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>المكتبة %1 ليست ملحقًا لنسخة Qt في هذا البرنامج: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>تم تحميل الملحق %1 لكنه لا يقدّم أي كائن.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>لا يملك الملحق %1 الواجهة %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>رفض الملحق %1 أن يبدأ.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>لا يقدّم الملحق %1 خدمة USSD (رقم %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>لا يوجد خيار %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>يجب أن يتبع %1 قيمة.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>الوسيط "%1" غير متوقع.</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>لا يمكن الجمع بين --send و --tour.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>يأتي --tour بشبكته الخاصة، فلا يُستخدم معه --scenario.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>يجب ألا يكون الرمز أو الرد فارغًا وألا يحتوي على أحرف تحكم.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>لا توجد هذه اللغة. المتاح: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>للمساعدة: ussd-dashboard --help</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>لا توجد شاشة لفتح نافذة عليها. لا يحتاج --send رمز و --tour مجلد إلى شاشة.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>لا تقبل نافذة USSD %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>لم ينهِ الملحق الانتظار لا برد ولا بخطأ.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>لم تعد الشبكة تنتظر ردًا. لم يُرسل: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>لا يمكن إنشاء المجلد %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>لا يمكن كتابة %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>لا يعرض الملحق نافذته كما ينبغي (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>لم يُمسح السجل (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 من الصور وملف transcript.txt في %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>الاستخدام: ussd-dashboard [خيار...]
+يعرض نوافذ ملحق USSD وحالة الجهاز.
+
+  --send رمز [رد...]       إرسال الرمز دون نافذة وطباعة الرد، ثم الرد على
+                           قوائم الشبكة بالترتيب
+  --tour مجلد              المرور على كل النوافذ دون شاشة، مع ترك صور
+                           وملف transcript.txt في المجلد
+  --scenario ملف           استخدام الشبكة المحاكاة في هذا الملف
+  --language رمز           اللغة، مثل en أو ar
+  --verbose                كتابة سجل البرنامج والملحق
+  --help                   هذا النص
+  --version                إصدار البرنامج
+
+رمز الإنهاء 0 عند النجاح، و1 عند الفشل، و2 إذا كانت الوسائط أو ملف السيناريو
+غير صحيحة.</translation>
+    </message>
+</context>
 </TS>

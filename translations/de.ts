@@ -396,4 +396,253 @@
         <translation>Bittet die eingegebene Nummer um Rückruf</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>USSD-Dashboard</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Netz</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>&amp;USSD-Codes</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>USSD-Codes im &amp;Fenster</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Prepaid</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>&amp;Vertrag</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Dienste</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>&amp;Standardnetz (simuliert)</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>Szenariodatei ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Modem (noch nicht verfügbar)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Szenariodatei öffnen</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Szenariodateien</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>Die Szenariodatei ist nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Quelle: simuliertes Netz (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Quelle: Modem (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>Kein Netz</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Signal: %1 %</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Signal: unbekannt</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>SIM-Karte: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>SIM-Karte ohne lesbare Nummer</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>Es ist kein Gerät da.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>Im Gerät ist keine SIM-Karte.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>Die SIM-Karte wartet auf ihre PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>Das Gerät ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>Netz wird gesucht...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Netzbetreiber</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Signalstärke</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>SIM-Karte</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Verwendete Quelle</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>Das Plug-in fehlt: es gibt keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>Die Plug-in-Datei %1 lässt sich nicht als Bibliothek laden: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>Die Bibliothek %1 ist kein Plug-in für das Qt dieses Programms: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>Das Plug-in %1 wurde geladen, liefert aber kein Objekt.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>Dem Plug-in %1 fehlt die Schnittstelle %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>Das Plug-in %1 hat den Start verweigert.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>Das Plug-in %1 bietet den USSD-Dienst (Nummer %2) nicht an.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>Es gibt keine Option %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>Auf %1 muss etwas folgen.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>Mit „%1“ ist nichts anzufangen.</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send und --tour gehen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour bringt ein eigenes Netz mit; --scenario passt nicht dazu.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>Ein Code oder eine Antwort darf nicht leer sein und keine Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>Diese Sprache gibt es nicht. Es gibt: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>'ussd-dashboard --help' sagt, was möglich ist.</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>Es gibt keine Anzeige, auf der sich ein Fenster öffnen ließe. --send CODE und --tour ORDNER brauchen keine.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>Das USSD-Fenster nimmt %1 nicht an.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>Das Plug-in hat das Warten weder mit einer Antwort noch mit einem Fehler beendet.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>Das Netz fragt nach keiner Antwort mehr. Nicht gesendet: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>%1 lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>Das Plug-in zeigt sein Fenster nicht, wie es soll (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>Der Verlauf wurde nicht gelöscht (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 Bilder und transcript.txt liegen in %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Aufruf: ussd-dashboard [OPTION...]
+Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
+
+  --send CODE [ANTWORT...] den Code ohne Fenster senden, die Antwort ausgeben
+                           und die Menüs des Netzes der Reihe nach beantworten
+  --tour ORDNER            ohne Anzeige durch alle Fenster gehen; lässt Bilder
+                           und transcript.txt im Ordner
+  --scenario DATEI         das simulierte Netz dieser Datei verwenden
+  --language CODE          Sprache, zum Beispiel en oder ar
+  --verbose                ausgeben, was Programm und Plug-in protokollieren
+  --help                   dieser Text
+  --version                die Version des Programms
+
+Das Ende ist 0, wenn alles gelang, 1, wenn etwas misslang, und 2, wenn die
+Argumente oder die Szenariodatei falsch sind.</translation>
+    </message>
+</context>
 </TS>

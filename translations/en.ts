@@ -396,4 +396,253 @@
         <translation>Asks the number entered to call you back</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>USSD dashboard</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Network</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Language</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>&amp;USSD codes</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>USSD codes in a &amp;window</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Prepaid</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>P&amp;ostpaid</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Services</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>&amp;Default simulated network</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>&amp;Open scenario file...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Modem (not available yet)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Open a scenario file</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Scenario files</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>The scenario file cannot be used</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Source: simulated network (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Source: modem (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>No network</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Signal: %1%</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Signal: unknown</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>SIM card: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>SIM card without a readable number</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>There is no device.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>There is no SIM card in the device.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>The SIM card waits for its PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>The device is switched off.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>Searching for a network...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Signal strength</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>SIM card</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Source in use</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>The plug-in is missing: there is no file %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>The plug-in file %1 cannot be loaded as a library: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>The library %1 is no plug-in for this program's Qt: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>The plug-in %1 was loaded but gives no object.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>The plug-in %1 does not have the interface %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>The plug-in %1 refused to start.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>The plug-in %1 does not offer the USSD service (number %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>There is no option %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>Something must follow %1.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>Nothing is known to do with "%1".</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send and --tour do not go together.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour brings a network of its own, so --scenario does not go with it.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>A code or answer must not be empty or hold control characters.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>There is no such language. There are: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>'ussd-dashboard --help' tells what can be asked for.</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>There is no display to open a window on. --send CODE and --tour FOLDER need none.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>The USSD window does not take %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>The plug-in ended the wait for a reply neither with a reply nor with a failure.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>The network asks for no answer any more. Not sent: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>The folder %1 cannot be made.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>%1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>The plug-in does not show its window as it should (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>The history was not cleared (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 pictures and transcript.txt are in %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Usage: ussd-dashboard [OPTION...]
+Shows the windows of the USSD plug-in and the state of the device.
+
+  --send CODE [ANSWER...]  send the code without a window, print the reply, and
+                           answer the network's menus with the answers in turn
+  --tour FOLDER            walk through all windows without a display; leaves
+                           pictures and transcript.txt in the folder
+  --scenario FILE          use the simulated network of this file
+  --language CODE          language, for example en or ar
+  --verbose                write what the program and the plug-in log
+  --help                   this text
+  --version                the program's version
+
+It ends with 0 when all went well, 1 when something failed, and 2 when the
+arguments or the scenario file are wrong.</translation>
+    </message>
+</context>
 </TS>

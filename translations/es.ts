@@ -396,4 +396,254 @@
         <translation>Pide al número introducido que le llame</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>Panel USSD</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Red</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>Códigos &amp;USSD</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>Códigos USSD en una &amp;ventana</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Prepago</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>P&amp;ospago</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Servicios</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>Red simulada pre&amp;determinada</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>&amp;Abrir un archivo de escenario...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Módem (aún no disponible)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Abrir un archivo de escenario</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Archivos de escenario</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>No se puede usar el archivo de escenario</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Fuente: red simulada (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Fuente: módem (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>Sin red</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Señal: %1 %</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Señal: desconocida</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>Tarjeta SIM: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>Tarjeta SIM sin número legible</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>No hay ningún dispositivo.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>No hay tarjeta SIM en el dispositivo.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>La tarjeta SIM espera su PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>El dispositivo está apagado.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>Buscando una red...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Operador</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Intensidad de la señal</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>Tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Fuente en uso</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>Falta el complemento: no existe el archivo %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>El archivo del complemento %1 no se puede cargar como biblioteca: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>La biblioteca %1 no es un complemento para el Qt de este programa: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>El complemento %1 se cargó, pero no ofrece ningún objeto.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>El complemento %1 no tiene la interfaz %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>El complemento %1 se negó a iniciarse.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>El complemento %1 no ofrece el servicio USSD (número %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>No existe la opción %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>Falta un valor después de %1.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>«%1» no se esperaba.</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send y --tour no se pueden combinar.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour trae su propia red; --scenario no se puede añadir.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>Un código o una respuesta no puede estar vacío ni contener caracteres de control.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>No existe ese idioma. Hay: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>«ussd-dashboard --help» explica lo que se puede pedir.</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>No hay pantalla en la que abrir una ventana. --send CÓDIGO y --tour CARPETA no la necesitan.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>La ventana USSD no acepta %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>El complemento no terminó la espera ni con una respuesta ni con un fallo.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>La red ya no espera respuesta. Sin enviar: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>No se puede escribir %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>El complemento no muestra su ventana como debería (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>No se borró el historial (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 imágenes y transcript.txt están en %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Uso: ussd-dashboard [OPCIÓN...]
+Muestra las ventanas del complemento USSD y el estado del dispositivo.
+
+  --send CÓDIGO [RESPUESTA...]
+                           enviar el código sin ventana, mostrar la respuesta y
+                           contestar por turno a los menús de la red
+  --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
+                           imágenes y transcript.txt en la carpeta
+  --scenario ARCHIVO       usar la red simulada de este archivo
+  --language CÓDIGO        idioma, por ejemplo en o ar
+  --verbose                escribir el registro del programa y del complemento
+  --help                   este texto
+  --version                la versión del programa
+
+Termina con 0 si todo salió bien, con 1 si algo falló y con 2 si los argumentos
+o el archivo de escenario son incorrectos.</translation>
+    </message>
+</context>
 </TS>

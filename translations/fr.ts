@@ -396,4 +396,253 @@
         <translation>Demande au numéro saisi de vous rappeler</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>Tableau de bord USSD</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Réseau</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>Codes &amp;USSD</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>Codes USSD dans une &amp;fenêtre</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Prépayé</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>P&amp;ostpayé</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Services</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>Réseau simulé par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>&amp;Ouvrir un fichier de scénario...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Modem (pas encore disponible)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Ouvrir un fichier de scénario</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Fichiers de scénario</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>Le fichier de scénario est inutilisable</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Source : réseau simulé (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Source : modem (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>Pas de réseau</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Signal : %1 %</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Signal : inconnu</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>Carte SIM : %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>Carte SIM sans numéro lisible</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>Aucun appareil n’est présent.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>Il n’y a pas de carte SIM dans l’appareil.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>La carte SIM attend son code PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>L’appareil est désactivé.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>Recherche d’un réseau...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Puissance du signal</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>Carte SIM</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Source utilisée</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>Le module est absent : il n’y a pas de fichier %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>Le fichier du module %1 ne peut pas être chargé comme bibliothèque : %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>La bibliothèque %1 n’est pas un module pour le Qt de ce programme : %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>Le module %1 a été chargé mais ne fournit aucun objet.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>Le module %1 n’a pas l’interface %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>Le module %1 a refusé de démarrer.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>Le module %1 n’offre pas le service USSD (numéro %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>Il n’y a pas d’option %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>%1 doit être suivi d’une valeur.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>« %1 » est inattendu.</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send et --tour sont incompatibles.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour apporte son propre réseau ; --scenario ne peut pas l’accompagner.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>Un code ou une réponse ne doit être ni vide ni contenir de caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>Cette langue n’existe pas. Il y a : %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>« ussd-dashboard --help » dit ce qui est possible.</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>Il n’y a pas d’écran où ouvrir une fenêtre. --send CODE et --tour DOSSIER n’en ont pas besoin.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>La fenêtre USSD n’accepte pas %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>Le module n’a terminé l’attente ni par une réponse ni par un échec.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>Le réseau n’attend plus de réponse. Non envoyé : %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>Le dossier %1 ne peut pas être créé.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>Le module n’affiche pas sa fenêtre comme il le devrait (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>L’historique n’a pas été effacé (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 images et transcript.txt se trouvent dans %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Utilisation : ussd-dashboard [OPTION...]
+Affiche les fenêtres du module USSD et l’état de l’appareil.
+
+  --send CODE [RÉPONSE...] envoyer le code sans fenêtre, afficher la réponse et
+                           répondre tour à tour aux menus du réseau
+  --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
+                           images et transcript.txt dans le dossier
+  --scenario FICHIER       utiliser le réseau simulé de ce fichier
+  --language CODE          langue, par exemple en ou ar
+  --verbose                écrire le journal du programme et du module
+  --help                   ce texte
+  --version                la version du programme
+
+Le résultat est 0 quand tout a réussi, 1 en cas d’échec et 2 quand les
+arguments ou le fichier de scénario sont incorrects.</translation>
+    </message>
+</context>
 </TS>

@@ -396,4 +396,254 @@
         <translation>Pede ao número introduzido que lhe ligue</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>Painel USSD</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;Ficheiro</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Rede</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>Códigos &amp;USSD</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>Códigos USSD numa &amp;janela</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Pré-pago</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>P&amp;ós-pago</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Serviços</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>Rede simulada &amp;predefinida</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>&amp;Abrir ficheiro de cenário...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Modem (ainda não disponível)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Abrir um ficheiro de cenário</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Ficheiros de cenário</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>Todos os ficheiros</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>O ficheiro de cenário não pode ser usado</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Fonte: rede simulada (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Fonte: modem (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>Sem rede</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Sinal: %1%</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Sinal: desconhecido</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>Cartão SIM: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>Cartão SIM sem número legível</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>Não há nenhum dispositivo.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>Não há cartão SIM no dispositivo.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>O cartão SIM aguarda o PIN.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>O dispositivo está desligado.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>À procura de uma rede...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Operadora</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Intensidade do sinal</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>Cartão SIM</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Fonte em uso</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>Falta o suplemento: não existe o ficheiro %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>O ficheiro do suplemento %1 não pode ser carregado como biblioteca: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>A biblioteca %1 não é um suplemento para o Qt deste programa: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>O suplemento %1 foi carregado, mas não fornece nenhum objeto.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>O suplemento %1 não tem a interface %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>O suplemento %1 recusou-se a iniciar.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>O suplemento %1 não oferece o serviço USSD (número %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>Não existe a opção %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>Falta um valor depois de %1.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>«%1» não era esperado.</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send e --tour não podem ser combinados.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour traz a sua própria rede; --scenario não pode ser acrescentado.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>Um código ou uma resposta não pode estar vazio nem conter caracteres de controlo.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>Esse idioma não existe. Há: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>«ussd-dashboard --help» explica o que se pode pedir.</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>Não há ecrã onde abrir uma janela. --send CÓDIGO e --tour PASTA não precisam dele.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>A janela USSD não aceita %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>O suplemento não terminou a espera nem com uma resposta nem com uma falha.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>A rede já não espera resposta. Não enviado: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>Não é possível criar a pasta %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>Não é possível escrever %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>O suplemento não mostra a sua janela como deveria (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>O histórico não foi apagado (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 imagens e transcript.txt estão em %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Utilização: ussd-dashboard [OPÇÃO...]
+Mostra as janelas do suplemento USSD e o estado do dispositivo.
+
+  --send CÓDIGO [RESPOSTA...]
+                           enviar o código sem janela, mostrar a resposta e
+                           responder à vez aos menus da rede
+  --tour PASTA             percorrer todas as janelas sem ecrã; deixa imagens e
+                           transcript.txt na pasta
+  --scenario FICHEIRO      usar a rede simulada deste ficheiro
+  --language CÓDIGO        idioma, por exemplo en ou ar
+  --verbose                escrever o registo do programa e do suplemento
+  --help                   este texto
+  --version                a versão do programa
+
+Termina com 0 quando tudo correu bem, com 1 quando algo falhou e com 2 quando
+os argumentos ou o ficheiro de cenário estão errados.</translation>
+    </message>
+</context>
 </TS>

@@ -396,4 +396,253 @@
         <translation>Просит введённый номер перезвонить</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>Панель USSD</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>&amp;Сеть</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>&amp;Выход</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>&amp;Коды USSD</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>Коды USSD в &amp;окне</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>&amp;Предоплата</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>По&amp;стоплата</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>&amp;Услуги</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>&amp;Имитация сети по умолчанию</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>&amp;Открыть файл сценария...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>&amp;Модем (пока недоступен)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>Открыть файл сценария</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>Файлы сценариев</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>Все файлы</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>Файл сценария нельзя использовать</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>Источник: имитация сети (%1)</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>Источник: модем (%1)</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>Нет сети</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>Сигнал: %1 %</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>Сигнал: неизвестен</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>SIM-карта: %1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>Номер SIM-карты не читается</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>Устройства нет.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>В устройстве нет SIM-карты.</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>SIM-карта ожидает ввода PIN-кода.</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>Устройство выключено.</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>Поиск сети...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>Оператор</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>Уровень сигнала</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>SIM-карта</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>Используемый источник</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>Модуль отсутствует: нет файла %1.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>Файл модуля %1 не загружается как библиотека: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>Библиотека %1 не является модулем для версии Qt этой программы: %2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>Модуль %1 загружен, но не даёт объекта.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>У модуля %1 нет интерфейса %2.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>Модуль %1 отказался запускаться.</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>Модуль %1 не предоставляет службу USSD (номер %2).</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>Нет параметра %1.</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>После %1 должно стоять значение.</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>Лишний аргумент «%1».</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send и --tour нельзя указать вместе.</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>У --tour своя сеть, поэтому --scenario с ним не указывается.</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>Код или ответ не может быть пустым или содержать управляющие символы.</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>Такого языка нет. Есть: %1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>Справка: ussd-dashboard --help</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>Нет экрана, на котором можно открыть окно. Для --send КОД и --tour ПАПКА он не нужен.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>Окно USSD не принимает %1.</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>Модуль не завершил ожидание ни ответом, ни ошибкой.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>Сеть больше не ждёт ответа. Не отправлено: %1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>Не удаётся создать папку %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>Не удаётся записать %1.</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>Модуль не показывает своё окно как следует (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>История не очищена (%1).</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 изображений и transcript.txt находятся в %2.</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>Использование: ussd-dashboard [ПАРАМЕТР...]
+Показывает окна модуля USSD и состояние устройства.
+
+  --send КОД [ОТВЕТ...]    отправить код без окна, вывести ответ сети и по
+                           очереди ответить на её меню
+  --tour ПАПКА             пройти по всем окнам без экрана; оставляет в папке
+                           изображения и transcript.txt
+  --scenario ФАЙЛ          использовать имитацию сети из этого файла
+  --language КОД           язык, например en или ar
+  --verbose                выводить журнал программы и модуля
+  --help                   этот текст
+  --version                версия программы
+
+Код завершения: 0 — всё удалось, 1 — что-то не удалось, 2 — неверны аргументы
+или файл сценария.</translation>
+    </message>
+</context>
 </TS>

@@ -396,4 +396,251 @@
         <translation>请所输入的号码回电</translation>
     </message>
 </context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>APP_TITLE</source>
+        <translation>USSD 面板</translation>
+    </message>
+    <message>
+        <source>MENU_FILE</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>MENU_NETWORK</source>
+        <translation>网络(&amp;N)</translation>
+    </message>
+    <message>
+        <source>MENU_LANGUAGE</source>
+        <translation>语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>ACTION_QUIT</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_PAGE</source>
+        <translation>USSD 代码(&amp;U)</translation>
+    </message>
+    <message>
+        <source>WINDOW_GENERAL_FRAME</source>
+        <translation>在窗口中显示 USSD 代码(&amp;W)</translation>
+    </message>
+    <message>
+        <source>WINDOW_PREPAID</source>
+        <translation>预付费(&amp;P)</translation>
+    </message>
+    <message>
+        <source>WINDOW_POSTPAID</source>
+        <translation>后付费(&amp;O)</translation>
+    </message>
+    <message>
+        <source>WINDOW_USSD_SMS</source>
+        <translation>服务(&amp;S)</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEFAULT</source>
+        <translation>默认模拟网络(&amp;D)</translation>
+    </message>
+    <message>
+        <source>NETWORK_OPEN</source>
+        <translation>打开场景文件(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>NETWORK_MODEM</source>
+        <translation>调制解调器（尚不可用）(&amp;M)</translation>
+    </message>
+    <message>
+        <source>SCENARIO_CHOOSE</source>
+        <translation>打开场景文件</translation>
+    </message>
+    <message>
+        <source>SCENARIO_FILTER</source>
+        <translation>场景文件</translation>
+    </message>
+    <message>
+        <source>ALL_FILES</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>SCENARIO_UNUSABLE</source>
+        <translation>无法使用该场景文件</translation>
+    </message>
+    <message>
+        <source>SOURCE_SIMULATED</source>
+        <translation>来源：模拟网络（%1）</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM</source>
+        <translation>来源：调制解调器（%1）</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NONE</source>
+        <translation>无网络</translation>
+    </message>
+    <message>
+        <source>SIGNAL_PERCENT</source>
+        <translation>信号：%1%</translation>
+    </message>
+    <message>
+        <source>SIGNAL_UNKNOWN</source>
+        <translation>信号：未知</translation>
+    </message>
+    <message>
+        <source>SIM_IMSI</source>
+        <translation>SIM 卡：%1</translation>
+    </message>
+    <message>
+        <source>SIM_WITHOUT_IMSI</source>
+        <translation>无法读取 SIM 卡号</translation>
+    </message>
+    <message>
+        <source>STATE_ABSENT</source>
+        <translation>没有设备。</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_MISSING</source>
+        <translation>设备中没有 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>STATE_SIM_LOCKED</source>
+        <translation>SIM 卡等待输入 PIN 码。</translation>
+    </message>
+    <message>
+        <source>STATE_DISABLED</source>
+        <translation>设备已关闭。</translation>
+    </message>
+    <message>
+        <source>STATE_SEARCHING</source>
+        <translation>正在搜索网络...</translation>
+    </message>
+    <message>
+        <source>NAME_OPERATOR</source>
+        <translation>运营商</translation>
+    </message>
+    <message>
+        <source>NAME_SIGNAL</source>
+        <translation>信号强度</translation>
+    </message>
+    <message>
+        <source>NAME_SIM</source>
+        <translation>SIM 卡</translation>
+    </message>
+    <message>
+        <source>NAME_SOURCE</source>
+        <translation>当前来源</translation>
+    </message>
+    <message>
+        <source>PLUGIN_FILE_MISSING</source>
+        <translation>缺少插件：没有文件 %1。</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NOT_A_LIBRARY</source>
+        <translation>插件文件 %1 无法作为库加载：%2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_WRONG_BUILD</source>
+        <translation>库 %1 不是适用于本程序 Qt 的插件：%2</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INSTANCE</source>
+        <translation>插件 %1 已加载，但未提供对象。</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_INTERFACE</source>
+        <translation>插件 %1 没有接口 %2。</translation>
+    </message>
+    <message>
+        <source>PLUGIN_INIT_FAILED</source>
+        <translation>插件 %1 拒绝启动。</translation>
+    </message>
+    <message>
+        <source>PLUGIN_NO_SERVICE</source>
+        <translation>插件 %1 未提供 USSD 服务（编号 %2）。</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_OPTION</source>
+        <translation>没有选项 %1。</translation>
+    </message>
+    <message>
+        <source>CLI_MISSING_VALUE</source>
+        <translation>%1 之后必须有值。</translation>
+    </message>
+    <message>
+        <source>CLI_UNEXPECTED</source>
+        <translation>多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>CLI_CONFLICT</source>
+        <translation>--send 和 --tour 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>CLI_TOUR_SCENARIO</source>
+        <translation>--tour 自带网络，不能与 --scenario 同时使用。</translation>
+    </message>
+    <message>
+        <source>CLI_BAD_COMMAND</source>
+        <translation>代码或回答不能为空，也不能含有控制字符。</translation>
+    </message>
+    <message>
+        <source>CLI_UNKNOWN_LANGUAGE</source>
+        <translation>没有该语言。可用：%1</translation>
+    </message>
+    <message>
+        <source>CLI_TRY_HELP</source>
+        <translation>请运行 ussd-dashboard --help 查看帮助。</translation>
+    </message>
+    <message>
+        <source>CLI_NO_DISPLAY</source>
+        <translation>没有可用于打开窗口的显示器。--send 代码 和 --tour 文件夹 不需要显示器。</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_TAKEN</source>
+        <translation>USSD 窗口不接受 %1。</translation>
+    </message>
+    <message>
+        <source>SEND_NO_ANSWER</source>
+        <translation>插件既没有给出回复，也没有报告失败。</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_ASKED</source>
+        <translation>网络不再等待回答。未发送：%1</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_FOLDER</source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_WRITTEN</source>
+        <translation>无法写入 %1。</translation>
+    </message>
+    <message>
+        <source>TOUR_NO_WINDOW</source>
+        <translation>插件没有正确显示其窗口（%1）。</translation>
+    </message>
+    <message>
+        <source>TOUR_NOT_CLEARED</source>
+        <translation>历史记录未清除（%1）。</translation>
+    </message>
+    <message>
+        <source>TOUR_DONE</source>
+        <translation>%1 张图片和 transcript.txt 位于 %2。</translation>
+    </message>
+    <message>
+        <source>CLI_HELP</source>
+        <translation>用法：ussd-dashboard [选项...]
+显示 USSD 插件的窗口和设备状态。
+
+  --send 代码 [回答...]    不打开窗口发送代码，打印回复，并依次回答网络菜单
+  --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
+                           transcript.txt
+  --scenario 文件          使用该文件的模拟网络
+  --language 代码          语言，例如 en 或 ar
+  --verbose                输出程序和插件的日志
+  --help                   显示本文
+  --version                显示程序版本
+
+全部成功时返回 0，有失败时返回 1，参数或场景文件有误时返回 2。</translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,31 @@
+#ifndef DASHBOARDSETTINGS_H
+#define DASHBOARDSETTINGS_H
+
+#include <QByteArray>
+#include <QSettings>
+#include <QString>
+
+/** What the dashboard remembers of the last time, in a file that only its user can read. */
+class DashboardSettings
+{
+public:
+    DashboardSettings();
+    /// Writes what has changed.
+    ~DashboardSettings();
+
+    QString language() const; // a code; empty when never chosen
+    void setLanguage(const QString &code);
+    QString scenario() const; // a file; empty for the default
+    void setScenario(const QString &file);
+    QByteArray geometry() const; // of the main window
+    void setGeometry(const QByteArray &geometry);
+
+    QString file() const { return m_settings.fileName(); }
+
+private:
+    void set(const char *key, const QVariant &value);
+
+    QSettings m_settings;
+};
+
+#endif

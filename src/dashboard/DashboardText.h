@@ -1,0 +1,14 @@
+#ifndef DASHBOARDTEXT_H
+#define DASHBOARDTEXT_H
+
+#include <QString>
+
+#include "Change.h"
+
+/// The dashboard's text behind the key, in the current language.
+inline QString dashboardText(const char *key)
+{
+    return Change::tr(QLatin1String("Dashboard"), QLatin1String(key));
+}
+
+#endif

@@ -1,0 +1,28 @@
+#ifndef DEVICEHEADER_H
+#define DEVICEHEADER_H
+
+#include <QFrame>
+
+#include "DeviceStatus.h"
+
+class QLabel;
+class SignalBars;
+
+/** Operator, signal and SIM in one line. */
+class DeviceHeader : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit DeviceHeader(QWidget *parent = nullptr);
+
+    /// Also after a change of the language.
+    void showStatus(const DeviceStatus &status);
+
+private:
+    QLabel *m_operator;
+    SignalBars *m_bars;
+    QLabel *m_signal;
+    QLabel *m_sim;
+};
+
+#endif

@@ -1,0 +1,102 @@
+#include "GeneralWindow.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QTextBlock>
+
+#include "Change.h"
+#include "ExtendDialog.h"
+
+namespace
+{
+
+template <typename T>
+T *named(const QWidget *root, const char *name)
+{
+    return root->findChild<T *>(QLatin1String(name));
+}
+
+QString receivedCaption()
+{
+    return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String("IDS_USSD_RECEIVED")).trimmed();
+}
+
+} // namespace
+
+const char *const GeneralWindow::COMMAND_EDIT = "USSDUIPlugin_AdvancedDialog_USSDCmdEdit";
+const char *const GeneralWindow::SEND_BUTTON = "USSDUIPlugin_AdvancedDialog_SendButton";
+
+GeneralWindow::GeneralWindow(const QWidget *root)
+{
+    if (!root)
+        return;
+    m_commandEdit = named<QLineEdit>(root, COMMAND_EDIT);
+    m_sendButton = named<QPushButton>(root, SEND_BUTTON);
+    m_clearButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_ClearButton");
+    m_closeButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_CloseButton");
+    m_history = named<QTextEdit>(root, "USSDUIPlugin_AdvancedDialog_History");
+}
+
+GeneralWindow GeneralWindow::framed()
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || !qobject_cast<const ExtendDialog *>(window))
+            continue;
+        const GeneralWindow found(window);
+        if (found.isComplete())
+            return found;
+    }
+    return GeneralWindow();
+}
+
+bool GeneralWindow::isComplete() const
+{
+    return m_commandEdit && m_sendButton && m_history;
+}
+
+bool GeneralWindow::isWaiting() const
+{
+    return m_commandEdit && !m_commandEdit->isEnabled();
+}
+
+// Text that is set by a program does not count as edited, so it goes the way that an input method
+// takes; that way a whole text arrives as one edit.
+void GeneralWindow::type(const QString &text) const
+{
+    if (!m_commandEdit)
+        return;
+    m_commandEdit->selectAll();
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QApplication::sendEvent(m_commandEdit, &event);
+}
+
+bool GeneralWindow::send(const QString &text) const
+{
+    if (!isComplete() || isWaiting())
+        return false;
+    type(text);
+    if (!m_sendButton->isEnabled() || m_commandEdit->text() != text)
+        return false;
+    m_sendButton->click();
+    return true;
+}
+
+QString GeneralWindow::transcript() const
+{
+    return m_history ? m_history->toPlainText() : QString();
+}
+
+QString GeneralWindow::lastReceived() const
+{
+    if (!m_history)
+        return QString();
+    const QString caption = receivedCaption();
+    QTextBlock block = m_history->document()->lastBlock();
+    while (block.isValid() && !block.text().startsWith(caption))
+        block = block.previous();
+    QString text = block.text().mid(caption.size());
+    text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+    text.remove(QChar(0x200e)); // the mark that keeps a code readable behind the caption
+    return text.trimmed();
+}

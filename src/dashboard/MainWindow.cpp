@@ -1,0 +1,207 @@
+#include "MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopWidget>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "CommonUtils.h"
+#include "DashboardSettings.h"
+#include "DashboardText.h"
+#include "DeviceHeader.h"
+#include "GeneralWindow.h"
+#include "HostState.h"
+#include "InstallPaths.h"
+#include "IUIPlugin.h"
+#include "IUSSD.h"
+#include "LanguageMenu.h"
+#include "Languages.h"
+#include "NetworkMenu.h"
+#include "PageArea.h"
+#include "Scenarios.h"
+#include "UiPlugin.h"
+#include "WindowButtons.h"
+
+namespace
+{
+
+const QSize FIRST_SIZE(900, 700); // pixels
+
+} // namespace
+
+MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
+    : m_plugin(plugin), m_settings(settings), m_fileMenu(new QMenu(this)), m_quit(nullptr),
+      m_languageMenu(new LanguageMenu(this)), m_networkMenu(new NetworkMenu(this)),
+      m_header(new DeviceHeader(this)), m_buttons(new WindowButtons(this)),
+      m_page(new PageArea(plugin, this)), m_source(new QLabel(this))
+{
+    HostState::setMainWindow(this);
+    setObjectName(QLatin1String("Dashboard_MainWindow"));
+    makeMenus();
+    makeCentre();
+    m_source->setObjectName(QLatin1String("Dashboard_Source"));
+    m_source->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(m_source, 1);
+    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
+    retranslate();
+    restorePlace();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeMenus()
+{
+    m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
+    m_quit->setShortcut(QKeySequence::Quit);
+    menuBar()->addMenu(m_fileMenu);
+    menuBar()->addMenu(m_networkMenu);
+    menuBar()->addMenu(m_languageMenu);
+    connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
+    connect(m_networkMenu, SIGNAL(chosen(QString)), this, SLOT(chooseScenario(QString)));
+    connect(m_networkMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
+}
+
+void MainWindow::makeCentre()
+{
+    QWidget *centre = new QWidget(this);
+    QVBoxLayout *column = new QVBoxLayout(centre);
+    column->addWidget(m_header);
+    column->addWidget(m_buttons);
+    column->addWidget(m_page, 1);
+    setCentralWidget(centre);
+    m_buttons->setEnabled(false); // until there is a plug-in
+    connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
+    connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
+}
+
+void MainWindow::restorePlace()
+{
+    if (m_settings && restoreGeometry(m_settings->geometry()))
+        return;
+    resize(FIRST_SIZE.boundedTo(QApplication::desktop()->availableGeometry(this).size()));
+    CommonUtils::MoveCentre(this);
+}
+
+QWidget *MainWindow::page() const
+{
+    return m_page->canvas();
+}
+
+PluginFailure MainWindow::loadPlugin()
+{
+    const PluginFailure failure = m_plugin->load(UiPlugin::installedFile());
+    m_buttons->setEnabled(m_plugin->isUsable());
+    if (m_plugin->isUsable())
+        showPage(true);
+    else
+        m_page->showText(failure.text());
+    return failure;
+}
+
+void MainWindow::showPage(bool shown)
+{
+    if (shown)
+        m_page->showPage();
+    else
+        m_page->hidePage();
+    m_buttons->setPageShown(shown);
+    // The plug-in leaves the close button of an embedded window to the host.
+    if (QPushButton *close = GeneralWindow(page()).closeButton())
+        connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
+}
+
+void MainWindow::hidePage()
+{
+    showPage(false);
+}
+
+void MainWindow::openFrame(int paidType)
+{
+    if (!m_plugin->isUsable())
+        return;
+    if (paidType == PAID_TYPE_GENERAL)
+        m_plugin->plugin()->DoModal();
+    else
+        m_plugin->ussd()->DoPrePostPaidModal(static_cast<PAID_TYPE>(paidType));
+}
+
+void MainWindow::setLanguage(const QString &code)
+{
+    if (!Languages::setCurrent(code))
+        return;
+    if (m_settings)
+        m_settings->setLanguage(code);
+    m_plugin->notifyLanguageChange();
+    retranslate();
+}
+
+void MainWindow::retranslate()
+{
+    setWindowTitle(dashboardText("APP_TITLE"));
+    m_fileMenu->setTitle(dashboardText("MENU_FILE"));
+    m_quit->setText(dashboardText("ACTION_QUIT"));
+    m_languageMenu->retranslate();
+    m_networkMenu->retranslate();
+    m_buttons->retranslate();
+    showDevice();
+}
+
+void MainWindow::showDevice()
+{
+    m_header->showStatus(m_device.status());
+    m_source->setText(m_device.status().sourceText());
+    m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
+}
+
+bool MainWindow::useScenario(const QString &file)
+{
+    const QString error = Scenarios::use(file);
+    if (!error.isEmpty()) {
+        m_networkMenu->setCurrent(m_scenario);
+        showScenarioError(error);
+        return false;
+    }
+    setScenario(file);
+    return true;
+}
+
+void MainWindow::setScenario(const QString &file)
+{
+    m_scenario = file;
+    m_networkMenu->setCurrent(file);
+    m_device.refresh();
+}
+
+void MainWindow::showScenarioError(const QString &error)
+{
+    CommonUtils::ShowMessage(QMessageBox::Warning, this, dashboardText("SCENARIO_UNUSABLE"), error,
+                             QLatin1String("IDS_OK"));
+}
+
+void MainWindow::chooseScenario(const QString &file)
+{
+    if (useScenario(file) && m_settings)
+        m_settings->setScenario(file);
+}
+
+void MainWindow::openScenario()
+{
+    const QString filter = dashboardText("SCENARIO_FILTER") + QLatin1String(" (*.scenario);;") +
+                           dashboardText("ALL_FILES") + QLatin1String(" (*)");
+    const QString file = QFileDialog::getOpenFileName(this, dashboardText("SCENARIO_CHOOSE"),
+                                                      InstallPaths::scenarios(), filter);
+    if (!file.isEmpty())
+        chooseScenario(file);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_settings)
+        m_settings->setGeometry(saveGeometry());
+    QMainWindow::closeEvent(event);
+}

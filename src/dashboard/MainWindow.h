@@ -1,0 +1,80 @@
+#ifndef MAINWINDOW_H
+#define MAINWINDOW_H
+
+#include <QMainWindow>
+
+#include "DeviceWatcher.h"
+#include "PluginFailure.h"
+
+class DashboardSettings;
+class DeviceHeader;
+class LanguageMenu;
+class NetworkMenu;
+class PageArea;
+class QAction;
+class QLabel;
+class QMenu;
+class UiPlugin;
+class WindowButtons;
+
+/**
+ * The dashboard's window: the device on top, a button for each window of the plug-in, the page that
+ * the general window is embedded in, and below it what source is used.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+public:
+    /// `settings` may be null: then nothing is remembered. Both outlive the window, and the plug-in
+    /// is shut down before the window goes.
+    MainWindow(UiPlugin *plugin, DashboardSettings *settings);
+    ~MainWindow() override;
+
+    /// Makes the scenario file the device's network; empty is the default. When it cannot be used,
+    /// the user is told and the one before stays. Returns whether it is in use.
+    bool useScenario(const QString &file);
+    /// Says that this scenario file is in use; empty is the default.
+    void setScenario(const QString &file);
+    /// Tells the user why a scenario file cannot be used, in a message box.
+    void showScenarioError(const QString &error);
+    QWidget *page() const;
+
+public slots:
+    /// Loads the installed plug-in and shows its general window in the page; a failure is shown
+    /// there in words, and returned.
+    PluginFailure loadPlugin();
+    void setLanguage(const QString &code);
+    void showPage(bool shown);
+    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own.
+    void openFrame(int paidType);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void chooseScenario(const QString &file);
+    void openScenario();
+    void showDevice();
+    void hidePage();
+
+private:
+    void makeMenus();
+    void makeCentre();
+    void restorePlace();
+    void retranslate();
+
+    UiPlugin *const m_plugin;
+    DashboardSettings *const m_settings;
+    DeviceWatcher m_device;
+    QString m_scenario;
+    QMenu *m_fileMenu;
+    QAction *m_quit;
+    LanguageMenu *m_languageMenu;
+    NetworkMenu *m_networkMenu;
+    DeviceHeader *m_header;
+    WindowButtons *m_buttons;
+    PageArea *m_page;
+    QLabel *m_source;
+};
+
+#endif

@@ -1,0 +1,66 @@
+#include "ReplyTap.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMutexLocker>
+
+#include <atomic>
+
+#include "tksv.h"
+
+namespace
+{
+
+const int NETWORK_WAITS = 1; // <m> of +CUSD, 3GPP TS 27.007
+
+std::atomic<ReplyTap *> listening(nullptr);
+
+} // namespace
+
+ReplyTap::ReplyTap()
+{
+    listening = this;
+    TKSV_USSDSrv_RegisterUSSDCallback(onResponse);
+}
+
+ReplyTap::~ReplyTap()
+{
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onResponse); // waits for a call-back that runs
+    listening = nullptr;
+}
+
+void ReplyTap::clear()
+{
+    QMutexLocker lock(&m_mutex);
+    m_reply = Reply();
+}
+
+Reply ReplyTap::reply() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_reply;
+}
+
+unsigned char ReplyTap::onResponse(int, void *data)
+{
+    ReplyTap *tap = listening;
+    const TKSV_USSDResponse *response = static_cast<const TKSV_USSDResponse *>(data);
+    if (!tap || !response)
+        return 0;
+    Reply reply;
+    reply.text = QString::fromUtf16(response->text);
+    reply.isReceived = true;
+    reply.asksForAnswer = response->type == NETWORK_WAITS;
+    tap->keep(reply);
+    return 1;
+}
+
+void ReplyTap::keep(const Reply &reply)
+{
+    {
+        QMutexLocker lock(&m_mutex);
+        m_reply = reply;
+    }
+    // Whoever waits for the reply looks again after each event.
+    QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
+}

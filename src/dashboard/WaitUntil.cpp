@@ -1,0 +1,17 @@
+#include "WaitUntil.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+bool waitUntil(const std::function<bool()> &condition, int milliseconds)
+{
+    QTimer deadline; // its event also wakes the wait below
+    deadline.setSingleShot(true);
+    deadline.start(milliseconds);
+    while (!condition()) {
+        if (!deadline.isActive())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}

@@ -1,0 +1,74 @@
+#include <QLocale>
+
+#include <clocale>
+#include <sys/stat.h>
+
+#include "Arguments.h"
+#include "DashboardSettings.h"
+#include "Languages.h"
+#include "Program.h"
+#include "TerminalText.h"
+
+namespace
+{
+
+const mode_t OTHERS = S_IRWXG | S_IRWXO;
+const int CODE_LENGTH = 2; // of a language's code at the start of a locale's name
+
+QStringList wordsOf(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words << QString::fromUtf8(argv[i]);
+    return words;
+}
+
+/// The language that was remembered, else that of the desktop; English when there is neither.
+QString usualLanguage()
+{
+    const QString remembered = DashboardSettings().language();
+    const QString code =
+        remembered.isEmpty() ? QLocale::system().name().left(CODE_LENGTH) : remembered;
+    return Languages::codes().contains(code) ? code : QLatin1String("en");
+}
+
+/// False when the command line names a language that there is none of.
+bool chooseLanguage(Arguments *arguments)
+{
+    Languages::setCurrent(usualLanguage());
+    if (arguments->language.isEmpty() || Languages::setCurrent(arguments->language))
+        return true;
+    arguments->errorKey = "CLI_UNKNOWN_LANGUAGE";
+    arguments->errorSubject = Languages::codes().join(QLatin1String(" "));
+    return false;
+}
+
+int run(int &argc, char **argv, const Arguments &arguments)
+{
+    switch (arguments.mode) {
+    case Arguments::Help:
+        return Program::help();
+    case Arguments::Version:
+        return Program::version();
+    case Arguments::Send:
+        return Program::send(argc, argv, arguments);
+    case Arguments::Tour:
+        return Program::takeTour(argc, argv, arguments);
+    case Arguments::Window:
+        break;
+    }
+    return Program::openWindow(argc, argv, arguments);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    umask(OTHERS); // what the program writes is its user's alone: codes and replies are private
+    setlocale(LC_ALL, "");
+    Arguments arguments = parseArguments(wordsOf(argc, argv));
+    installTerminalLog(arguments.verbose);
+    if (!chooseLanguage(&arguments) || arguments.errorKey)
+        return Program::complain(arguments);
+    return run(argc, argv, arguments);
+}
