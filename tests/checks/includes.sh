@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# The arrows between the parts: which folder may include what.
+. "$(dirname "$0")/common.sh"
+
+standard='^[a-z_]+$'
+qt='^Q[A-Za-z0-9]+$'
+any='.'
+
+# check FILES ANGLE QUOTED...: ANGLE is what may stand in <>, QUOTED are folders or single files
+# whose headers may stand in "".
+check() {
+    local files=$1 angle=$2 file name
+    [ -n "$files" ] || return 0
+    shift 2
+    while IFS= read -r file; do
+        while IFS= read -r name; do
+            printf '%s\n' "$name" | grep -qE "$angle" || complain "$file: includes <$name>"
+        done < <(sed -nE 's/^[[:space:]]*#[[:space:]]*include[[:space:]]*<([^>]+)>.*/\1/p' "$file")
+        while IFS= read -r name; do
+            case "$name" in
+            *.moc | moc_*.cpp) continue ;;
+            esac
+            allowed "$name" "$file" "$@" || complain "$file: includes \"$name\""
+        done < <(sed -nE 's/^[[:space:]]*#[[:space:]]*include[[:space:]]*"([^"]+)".*/\1/p' "$file")
+    done < <(printf '%s\n' "$files")
+}
+
+allowed() {
+    local name=$1 file=$2 place
+    shift 2
+    for place in "$@"; do
+        if [ -d "$place" ]; then
+            lies_in_folder "$name" "$file" "$place" && return 0
+        elif [ "$name" = "$(basename "$place")" ]; then
+            return 0
+        fi
+    done
+    return 1
+}
+
+# From the includer's own folder or from the folder itself, but never out of it.
+lies_in_folder() {
+    local name=$1 file=$2 folder=$3 candidate
+    for candidate in "$(dirname "$file")/$name" "$folder/$name"; do
+        [ -f "$candidate" ] || continue
+        case "$(realpath --relative-to=. "$candidate")" in
+        "$folder"/*) return 0 ;;
+        esac
+    done
+    return 1
+}
+
+core_own=$(cpp_files src/core | grep -v '^src/core/common/')
+check "$(cpp_files src/USSDUIPlugin)" "$qt|$standard" \
+    src/USSDUIPlugin src/core/common src/compat src/sdk/tksv.h
+check "$(cpp_files src/core/common)" "$qt|$standard" src/core/common src/compat
+check "$core_own" "$any" src/core src/core/common src/compat
+check "$(cpp_files src/compat)" "$qt|$standard" src/compat
+check "$(cpp_files src/dashboard)" "$any" \
+    src/dashboard src/core src/core/common src/compat src/sdk/tksv.h src/sdk/tksv_device.h
+check "$(cpp_files src/sdk)" '^[a-pr-zA-PR-Z]' src/sdk
+check "$(cpp_files src/sdk | grep -E '/tksv(_device)?\.h$')" '^std(int|def)\.h$' src/sdk/tksv.h
+finish

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# One source for Qt 4.6 and Qt 5.15: the version is asked for in one header, and nothing is used
+# that only one of the two has.
+. "$(dirname "$0")/common.sh"
+
+shared="src/USSDUIPlugin src/core src/dashboard"
+
+# What Qt 4.6 has not, or 5.15 warns of.
+missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'
+missing_in_qt4+='|QJson[A-Za-z]+|QRegularExpression[A-Za-z]*|QElapsedTimer|QDeadlineTimer'
+missing_in_qt4+='|QTemporaryDir|QLoggingCategory|qInstallMessageHandler|QStringView|QScopeGuard'
+missing_in_qt4+='|QOverload|qOverload|qAsConst|Q_ENUM|Q_NAMESPACE|Q_GADGET_EXPORT|Q_DECL_OVERRIDE'
+missing_in_qt4+='|Q_NULLPTR|QGuiApplication|QScreen|QWindow|QCollator|QMimeDatabase|QFINDTESTDATA'
+missing_in_qt4+='|QTRY_[A-Z]+|qInfo|qEnvironmentVariable[A-Za-z]*|[a-z]*[pP]laceholderText'
+missing_in_qt4+='|toHtmlEscaped|setSectionResizeMode|horizontalAdvance|chopped|asprintf'
+missing_in_qt4+='|QMutexLocker<|setTimerType'
+deprecated='qSort|qStableSort|SkipEmptyParts|toSet|qInstallMsgHandler'
+
+# Connections and calls by function instead of by name, also over several lines.
+by_function='(?s)\bconnect\((?:[^;]*?),\s*&\w+::\w+'
+with_lambda='(?s)\b(?:connect|singleShot|invokeMethod)\((?:[^;]*?)\[[&=\w, ]*\]\s*(?:\(|\{)'
+
+while IFS= read -r hit; do
+    complain "$hit"
+done < <(cpp_files src | grep -v '^src/compat/QtCompat\.h$' | xargs -r grep -nH QT_VERSION)
+
+# Word splitting of the list of folders is wanted.
+# shellcheck disable=SC2086
+while IFS= read -r file; do
+    code=$(without_comments "$file")
+    while IFS= read -r hit; do
+        complain "$file:$hit"
+    done < <(printf '%s\n' "$code" | grep -nwE "$missing_in_qt4|$deprecated")
+    for pattern in "$by_function" "$with_lambda"; do
+        hit=$(printf '%s\n' "$code" | grep -Pzo "$pattern" | tr '\0\n' '  ')
+        [ -z "$hit" ] || complain "$file: by function: $hit"
+    done
+done < <(cpp_files $shared)
+finish

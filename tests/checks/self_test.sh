@@ -1,0 +1,114 @@
+#!/usr/bin/env bash
+# Each check finds the faults that it is there for: a small tree is made for each, with one fault.
+set -u
+checks=$(cd "$(dirname "$0")" && pwd)
+source_tree=$(cd "$1" && pwd) || exit 2
+tree=$(mktemp -d) || exit 2
+trap 'rm -rf "$tree"' EXIT
+wrong=0
+
+# write FILE: its content comes from the standard input.
+write() {
+    mkdir -p "$tree/$(dirname "$1")"
+    cat >"$tree/$1"
+}
+
+fresh_tree() {
+    rm -rf "${tree:?}"/*
+    cp "$source_tree/.clang-format" "$tree/"
+    write src/sdk/tksv.h </dev/null
+    write src/sdk/tksv_device.h </dev/null
+    write src/core/common/Change.h </dev/null
+    write src/core/Languages.h </dev/null
+    write src/compat/QtCompat.h <<<'#if QT_VERSION < 0x050000
+#endif'
+    write src/USSDUIPlugin/USSDLogic.h </dev/null
+}
+
+# passes CHECK
+passes() {
+    local said
+    said=$(bash "$checks/$1.sh" "$tree" 2>&1) && return
+    printf '%s finds fault with a good tree:\n%s\n' "$1" "$said"
+    wrong=1
+}
+
+# finds CHECK PATTERN FILE: with FILE's content from the standard input.
+finds() {
+    local said
+    fresh_tree
+    write "$3"
+    if said=$(bash "$checks/$1.sh" "$tree" 2>&1) || ! grep -qE "$2" <<<"$said"; then
+        printf '%s does not find "%s" in %s; it says:\n%s\n' "$1" "$2" "$3" "$said"
+        wrong=1
+    fi
+}
+
+fresh_tree
+write src/USSDUIPlugin/USSDLogic.cpp <<'CODE'
+#include "USSDLogic.h"
+
+#include "Change.h"
+#include "QtCompat.h"
+#include "tksv.h"
+
+#include <map>
+#include <QString>
+
+// QStringLiteral would be no good here.
+CODE
+write src/sdk/tksv.cpp <<'CODE'
+#include "tksv_device.h"
+
+#include <glib.h>
+#include <thread>
+CODE
+write man/good.1 <<'PAGE'
+.TH GOOD 1
+.SH NAME
+good \- a good page
+PAGE
+write packages.txt <<<'# bash is everywhere
+
+bash'
+for check in format includes qt_versions man_pages packages; do
+    passes "$check"
+done
+
+finds format 'src/a.cpp' src/a.cpp <<<'int  a ;'
+finds format 'tests/b.h' tests/b.h <<<'int  b ;'
+
+plugin=src/USSDUIPlugin/a.cpp
+finds includes 'includes "tksv_device.h"' $plugin <<<'#include "tksv_device.h"'
+finds includes 'includes "Languages.h"' $plugin <<<'#include "Languages.h"'
+finds includes 'includes "../core/Languages.h"' $plugin <<<'#include "../core/Languages.h"'
+finds includes 'includes <glib.h>' $plugin <<<'#include <glib.h>'
+finds includes 'includes <QString>' src/sdk/a.cpp <<<'#include <QString>'
+finds includes 'includes "Change.h"' src/sdk/a.cpp <<<'#include "Change.h"'
+finds includes 'includes "USSDLogic.h"' src/dashboard/a.cpp <<<'#include "USSDLogic.h"'
+finds includes 'includes "Languages.h"' src/core/common/A.h <<<'#include "Languages.h"'
+finds includes 'includes "tksv.h"' src/core/A.h <<<'#include "tksv.h"'
+finds includes 'includes <vector>' src/sdk/tksv.h <<<'#include <vector>'
+
+finds qt_versions 'a.cpp:1:#if QT_VERSION' src/dashboard/a.cpp <<<'#if QT_VERSION > 0'
+finds qt_versions 'a.cpp:2:.*QStringLiteral' $plugin <<<'
+auto a = QStringLiteral("a");'
+finds qt_versions 'QElapsedTimer' src/core/a.cpp <<<'QElapsedTimer timer;'
+finds qt_versions 'setPlaceholderText' src/dashboard/a.cpp <<<'edit->setPlaceholderText(a);'
+finds qt_versions 'SkipEmptyParts' src/core/a.cpp <<<'text.split(a, QString::SkipEmptyParts);'
+finds qt_versions 'by function' src/dashboard/a.cpp <<<'connect(a, &A::changed,
+        this, &B::change);'
+finds qt_versions 'by function' src/core/a.cpp <<<'QTimer::singleShot(0, this, [=] { f(); });'
+
+finds man_pages 'warning' man/bad.1 <<<'.TH BAD 1
+.SH NAME
+bad \- a page
+.nonsense'
+finds man_pages 'no NAME' man/bad.1 <<<'.TH BAD 1
+.SH DESCRIPTION
+a page'
+
+finds packages 'no-such-package-at-all is not' packages.txt <<<'no-such-package-at-all'
+finds packages 'bash stands there twice' packages.txt <<<'bash
+bash'
+exit "$wrong"
