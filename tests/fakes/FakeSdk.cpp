@@ -202,7 +202,7 @@ FakeAnswer FakeSdk::takeAnswer()
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_settings.script.empty())
         return m_settings.answer;
-    const FakeAnswer answer = m_settings.script.back();
+    FakeAnswer answer = m_settings.script.back();
     m_settings.script.pop_back();
     return answer;
 }

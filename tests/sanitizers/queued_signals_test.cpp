@@ -42,12 +42,14 @@ private:
 
 namespace
 {
+const int THREADS = 4;
 const int ROUNDS = 200;
 
 void countInThreads(const std::function<void()> &step)
 {
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
+    threads.reserve(THREADS);
+    for (int i = 0; i < THREADS; ++i) {
         threads.emplace_back([&] {
             for (int round = 0; round < ROUNDS; ++round)
                 step();
@@ -148,7 +150,7 @@ void QueuedSignalsTest::mutexGuardsACounter()
         const QMutexLocker lock(&mutex);
         ++counter;
     });
-    QCOMPARE(counter, 4 * ROUNDS);
+    QCOMPARE(counter, THREADS * ROUNDS);
 }
 
 void QueuedSignalsTest::recursiveMutexMayBeTakenTwice()
@@ -160,7 +162,7 @@ void QueuedSignalsTest::recursiveMutexMayBeTakenTwice()
         const QMutexLocker inner(&mutex);
         ++counter;
     });
-    QCOMPARE(counter, 4 * ROUNDS);
+    QCOMPARE(counter, THREADS * ROUNDS);
 }
 
 void QueuedSignalsTest::tryLockGuardsACounter()
@@ -173,7 +175,7 @@ void QueuedSignalsTest::tryLockGuardsACounter()
         ++counter;
         mutex.unlock();
     });
-    QCOMPARE(counter, 4 * ROUNDS);
+    QCOMPARE(counter, THREADS * ROUNDS);
 }
 
 void QueuedSignalsTest::waitConditionHandsOver()

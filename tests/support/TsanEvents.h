@@ -12,7 +12,7 @@
 
 namespace TsanEvents
 {
-#ifdef __SANITIZE_THREAD__
+#ifdef USSD_THREAD_SANITIZER
 /// Called with an event about to be handled: what its sender did before comes before.
 void acquire();
 /// Called with an event handled: for whoever waits for that.

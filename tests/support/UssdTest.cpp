@@ -47,7 +47,7 @@ QString UssdTest::folder()
 
 QString UssdTest::writeFile(const QString &name, const QByteArray &content)
 {
-    const QString path = folder() + QLatin1Char('/') + name;
+    QString path = folder() + QLatin1Char('/') + name;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
