@@ -412,7 +412,7 @@
     </message>
     <message>
         <source>MENU_LANGUAGE</source>
-        <translation>&amp;Sprache</translation>
+        <translation>S&amp;prache</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
@@ -428,7 +428,7 @@
     </message>
     <message>
         <source>WINDOW_PREPAID</source>
-        <translation>&amp;Prepaid</translation>
+        <translation>Pr&amp;epaid</translation>
     </message>
     <message>
         <source>WINDOW_POSTPAID</source>
@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Dienste</translation>
+        <translation>D&amp;ienste</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>

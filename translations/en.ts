@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Services</translation>
+        <translation>Ser&amp;vices</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>

@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>MENU_FILE</source>
-        <translation>&amp;Fichier</translation>
+        <translation>F&amp;ichier</translation>
     </message>
     <message>
         <source>MENU_NETWORK</source>
@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Codes USSD dans une &amp;fenêtre</translation>
+        <translation>Codes USSD dans une fenê&amp;tre</translation>
     </message>
     <message>
         <source>WINDOW_PREPAID</source>
@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Services</translation>
+        <translation>Ser&amp;vices</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>

@@ -404,7 +404,7 @@
     </message>
     <message>
         <source>MENU_FILE</source>
-        <translation>&amp;Ficheiro</translation>
+        <translation>Fi&amp;cheiro</translation>
     </message>
     <message>
         <source>MENU_NETWORK</source>

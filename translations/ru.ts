@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Коды USSD в &amp;окне</translation>
+        <translation>Коды USSD в ок&amp;не</translation>
     </message>
     <message>
         <source>WINDOW_PREPAID</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>WINDOW_POSTPAID</source>
-        <translation>По&amp;стоплата</translation>
+        <translation>Постоп&amp;лата</translation>
     </message>
     <message>
         <source>WINDOW_USSD_SMS</source>

@@ -436,7 +436,7 @@
     </message>
     <message>
         <source>WINDOW_USSD_SMS</source>
-        <translation>服务(&amp;S)</translation>
+        <translation>服务(&amp;V)</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>

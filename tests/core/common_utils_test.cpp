@@ -2,12 +2,12 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QThread>
-#include <QtTest>
 
 #include "CommonUtils.h"
 #include "HostState.h"
 #include "IPluginContainer.h"
 #include "Startup.h"
+#include "UssdTest.h"
 
 namespace
 {
@@ -32,12 +32,13 @@ QByteArray asText(const QRect &rect)
 
 } // namespace
 
-class CommonUtilsTest : public QObject
+class CommonUtilsTest : public UssdTest
 {
     Q_OBJECT
-private slots:
-    void cleanup();
+protected:
+    void tearDown() override;
 
+private slots:
     void theMainWindowIsForgottenWhenItDies();
     void miniModeAndContainerAreWhatTheHostSaid();
     void shuttingDownIsSeenByOtherThreads();
@@ -55,7 +56,7 @@ private slots:
     void anEarlierToolTipIsEmptied();
 };
 
-void CommonUtilsTest::cleanup()
+void CommonUtilsTest::tearDown()
 {
     HostState::setMainWindow(nullptr);
     HostState::setMiniMode(false);
@@ -211,5 +212,5 @@ void CommonUtilsTest::anEarlierToolTipIsEmptied()
     QVERIFY(button.toolTip().isEmpty());
 }
 
-QTEST_MAIN(CommonUtilsTest)
+USSD_TEST_MAIN(CommonUtilsTest)
 #include "common_utils_test.moc"

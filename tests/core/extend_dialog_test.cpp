@@ -2,12 +2,12 @@
 #include <QLayout>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QtTest>
 
 #include "ExtendDialog.h"
 #include "ExtendLineEdit.h"
+#include "UssdTest.h"
 
-class ExtendDialogTest : public QObject
+class ExtendDialogTest : public UssdTest
 {
     Q_OBJECT
 private slots:
@@ -154,5 +154,5 @@ void ExtendDialogTest::theLineEditIsALineEdit()
     QCOMPARE(edit.metaObject()->className(), "ExtendLineEdit");
 }
 
-QTEST_MAIN(ExtendDialogTest)
+USSD_TEST_MAIN(ExtendDialogTest)
 #include "extend_dialog_test.moc"

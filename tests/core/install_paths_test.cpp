@@ -3,10 +3,10 @@
 #include <QLibrary>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include "CommonUtils.h"
 #include "InstallPaths.h"
+#include "UssdTest.h"
 
 namespace
 {
@@ -24,7 +24,7 @@ QByteArray message(const char *key, const char *text)
            "</translation></message>";
 }
 
-void writeFile(const QString &path, const QByteArray &content)
+void store(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -34,13 +34,14 @@ void writeFile(const QString &path, const QByteArray &content)
 } // namespace
 
 /** Where files are found, and with which texts, when the whole prefix lies somewhere else. */
-class InstallPathsTest : public QObject
+class InstallPathsTest : public UssdTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanup() { qunsetenv("USSD_PLUGIN_LIBRARY_PATH"); }
+protected:
+    void setUpClass() override;
+    void tearDown() override { qunsetenv("USSD_PLUGIN_LIBRARY_PATH"); }
 
+private slots:
     void thePluginFolderStandsBesideTheLibrary();
     void theVariableWins();
     void trailingSeparatorsAreRemoved_data();
@@ -59,7 +60,7 @@ private:
     QString m_translations;
 };
 
-void InstallPathsTest::initTestCase()
+void InstallPathsTest::setUpClass()
 {
     QVERIFY(m_prefix.isValid());
     const QString root = QDir(m_prefix.path()).canonicalPath();
@@ -71,13 +72,13 @@ void InstallPathsTest::initTestCase()
         QFile::copy(QLatin1String(HOSTCORE_FILE), m_library + QLatin1String("/libhostcore.so")));
     compile(QLatin1String("en"), message("BOTH", "both") + message("ONE", "english only"));
     compile(QLatin1String("de"), message("BOTH", "beide") + message("ONE", ""));
-    writeFile(m_translations + QLatin1String("/fr.qm"), "this is no language file");
+    store(m_translations + QLatin1String("/fr.qm"), "this is no language file");
 }
 
 void InstallPathsTest::compile(const QString &code, const QByteArray &messages)
 {
     const QString source = m_translations + QLatin1Char('/') + code + QLatin1String(".ts");
-    writeFile(source, languageFile(messages));
+    store(source, languageFile(messages));
     QCOMPARE(QProcess::execute(QLatin1String(LRELEASE_PROGRAM),
                                QStringList() << QLatin1String("-silent") << source),
              0);
@@ -156,5 +157,5 @@ void InstallPathsTest::aLanguageFileThatIsNoneIsRefused()
                                   << QLatin1String("no es beide"));
 }
 
-QTEST_GUILESS_MAIN(InstallPathsTest)
+USSD_TEST_MAIN(InstallPathsTest)
 #include "install_paths_test.moc"

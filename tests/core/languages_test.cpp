@@ -1,12 +1,12 @@
 #include <QApplication>
 #include <QLocale>
 #include <QThread>
-#include <QtTest>
 
 #include <atomic>
 
 #include "Change.h"
 #include "Languages.h"
+#include "UssdTest.h"
 
 namespace
 {
@@ -38,12 +38,13 @@ protected:
 
 } // namespace
 
-class LanguagesTest : public QObject
+class LanguagesTest : public UssdTest
 {
     Q_OBJECT
-private slots:
-    void init() { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
+protected:
+    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
 
+private slots:
     void englishIsThereBeforeAnyLanguageIsChosen();
     void allEightLanguagesAreOffered();
     void theTextFollowsTheLanguageAtOnce();
@@ -161,5 +162,5 @@ void LanguagesTest::otherThreadsMayAskDuringAChange()
     }
 }
 
-QTEST_MAIN(LanguagesTest)
+USSD_TEST_MAIN(LanguagesTest)
 #include "languages_test.moc"

@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 
 #include "CommonUtils.h"
 #include "Languages.h"
+#include "UssdTest.h"
 
 namespace
 {
@@ -27,13 +27,14 @@ QMessageBox *openBox()
 
 } // namespace
 
-class ShowMessageTest : public QObject
+class ShowMessageTest : public UssdTest
 {
     Q_OBJECT
-private slots:
-    void init() { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
-    void cleanup() { QVERIFY(!QApplication::activeModalWidget()); }
+protected:
+    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
+    void tearDown() override { QVERIFY(!QApplication::activeModalWidget()); }
 
+private slots:
     void theFirstButtonIsOk();
     void theSecondButtonIsCancel();
     void escapeIsCancel_data();
@@ -196,5 +197,5 @@ void ShowMessageTest::aLongTextStaysOnTheScreen()
     QCOMPARE(shown, text);
 }
 
-QTEST_MAIN(ShowMessageTest)
+USSD_TEST_MAIN(ShowMessageTest)
 #include "show_message_test.moc"
