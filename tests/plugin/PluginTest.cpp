@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QFile>
 
+#include "fake_tksv.h"
 #include "USSDLogic.h"
 #include "USSDService.h"
-#include "fake_tksv.h"
 
 namespace
 {

@@ -1,0 +1,583 @@
+#include "LogicListener.h"
+#include "PluginTest.h"
+
+#include <atomic>
+#include <thread>
+
+#include <QSemaphore>
+#include <QThread>
+
+#include "fake_tksv.h"
+#include "USSDLogic.h"
+
+namespace
+{
+
+const int kNoPatience = 60000; // a limit that no test reaches
+
+QString units(int count)
+{
+    return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
+}
+
+/// Runs in the middle of a response's announcement, on the thread that announces it.
+class Interloper : public QObject
+{
+    Q_OBJECT
+public:
+    QSemaphore reached;
+    QSemaphore goOn;
+    std::atomic<bool> done{false};
+
+public slots:
+    void stopHere(int, QString)
+    {
+        reached.release();
+        goOn.acquire();
+        done = true;
+    }
+    void shutDown(int, QString) { USSDLogic::Destroy(); }
+    void sendMore(int, QString)
+    {
+        int status = 0;
+        USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
+            USSDCmdOrResp(COMPONENT_BALANCE, QStringLiteral("*2#")), &status);
+    }
+};
+
+} // namespace
+
+/** The way of commands through USSDLogic. */
+class PipelineTest : public PluginTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private:
+    int send(int component, const QString &command);
+    LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
+    QList<LogicListener::Answer> &answers() { return m_listener->answers; }
+    void setTimes(int reply, int previous);
+    static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
+
+    USSDLogic *m_logic = nullptr;
+    QScopedPointer<LogicListener> m_listener;
+    int m_status = 0;
+
+private slots:
+    void requestRecordHoldsLengthAndUnits();
+    void commandOf91UnitsIsSent();
+    void commandOf92UnitsIsRefusedAndRemoved();
+    void secondCommandWaitsForTheFirstReply();
+    void eachReplyCarriesItsSendersComponent();
+    void sameCommandTwiceIsSentTwice();
+    void replyWithOtherTypeIsDelivered();
+    void emptyReplyIsDelivered();
+    void replyArrivesOnTheGuiThread();
+    void byteOrderMarkInAReplyStays();
+
+    void refusedCommandGivesResultAndStatus();
+    void refusedCommandIsSilentAndTheNextOneWaits();
+    void tooLongCommandIsSilentAndTheNextOneWaits();
+    void commandAfterARefusalIsSentAgain();
+
+    void missingReplyIsAnsweredByTimeOut();
+    void timeOutSendsTheNextCommand();
+    void commandSentBySdkThreadTimesOutToo();
+    void timeOutWithEmptyListOnlyStopsTheTimer();
+    void timeOutSlotAnswersTheHead();
+    void lateReplyAnswersNextHead();
+    void replyThatBeatsTheTimerLeavesItStopped();
+
+    void sendWaitsForTheEarlierTimeOut();
+    void replyEndsTheWaitForTheEarlierTimeOut();
+
+    void nullDataLeavesListAndTimer();
+    void replyWithoutCommandIsDropped();
+    void twoRepliesAtOnceAnswerOnce();
+
+    void clearQueuedKeepsPrePostQueriesInOrder();
+    void clearUssdSmsLeavesTheOthers();
+    void replyForAClearedCommandAnswersTheHead();
+
+    void releaseReportsTheDevicesResult();
+    void failedRegistrationIsLogged();
+    void logTellsCommandLengthAndResult();
+
+    void receiverMaySendFromTheSdkThread();
+    void timeOutReceiverMayShutDown();
+    void destroyWaitsForARunningCallback();
+    void callbackAfterDestroyFindsNothing();
+    void newSingletonStartsWithAnEmptyList();
+    void everyCommandIsAnsweredOnce();
+};
+
+void PipelineTest::setUp()
+{
+    PluginTest::setUp();
+    setTimes(kNoPatience, kNoPatience);
+    m_logic = USSDLogic::GetUSSDLogicInstance();
+    m_listener.reset(new LogicListener(m_logic));
+    m_status = 0;
+}
+
+void PipelineTest::tearDown()
+{
+    m_listener.reset();
+    PluginTest::tearDown();
+}
+
+void PipelineTest::setTimes(int reply, int previous)
+{
+    const ReplyTimes times = {reply, previous};
+    USSDLogic::setReplyTimes(times);
+}
+
+int PipelineTest::send(int component, const QString &command)
+{
+    return m_logic->SendUSSDCommand(USSDCmdOrResp(static_cast<_COMPONENT>(component), command),
+                                    &m_status);
+}
+
+static LogicListener::Answer answer(int component, const QString &text)
+{
+    return LogicListener::Answer(component, text);
+}
+
+// ---- sending -------------------------------------------------------------------------------
+
+void PipelineTest::requestRecordHoldsLengthAndUnits()
+{
+    QCOMPARE(send(5, QString::fromUtf8("*1€#")), 0);
+    const std::vector<unsigned char> bytes = fakeSdkCalls("TKSV_USSDSrv_Request").at(0).bytes;
+    QCOMPARE(bytes.size(), size_t(372));
+    const ushort expected[] = {8, 0, '*', '1', 0x20AC, '#'};
+    QVERIFY(memcmp(bytes.data(), expected, sizeof(expected)) == 0);
+    for (size_t i = sizeof(expected); i < bytes.size(); ++i)
+        QCOMPARE(int(bytes[i]), 0);
+}
+
+void PipelineTest::commandOf91UnitsIsSent()
+{
+    QCOMPARE(send(5, units(91)), 0);
+    QCOMPARE(QString::fromStdU16String(fakeSdkCommands().at(0)), units(91));
+}
+
+void PipelineTest::commandOf92UnitsIsRefusedAndRemoved()
+{
+    QCOMPARE(send(5, units(92)), 1);
+    QVERIFY(fakeSdkCommands().empty());
+    QCOMPARE(timesLogged("USSDCommand is too large"), 1);
+    QCOMPARE(send(5, QStringLiteral("*1#")), 0); // alone in the list again, so sent at once
+    QCOMPARE(fakeSdkCommands().size(), size_t(1));
+}
+
+void PipelineTest::secondCommandWaitsForTheFirstReply()
+{
+    QCOMPARE(send(5, QStringLiteral("*1#")), 0);
+    QCOMPARE(send(5, QStringLiteral("*2#")), 0);
+    QCOMPARE(fakeSdkCommands().size(), size_t(1));
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForRequests(2));
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    QVERIFY(fakeSdkCommands().at(1) == u"*2#");
+}
+
+void PipelineTest::eachReplyCarriesItsSendersComponent()
+{
+    fakeSdkScript({fakeReply(u"a"), fakeReply(u"b"), fakeReply(u"c")});
+    send(0, QStringLiteral("*1#"));
+    send(6, QStringLiteral("*2#"));
+    send(3, QStringLiteral("*3#"));
+    QCOMPARE(nextAnswer(), answer(0, QStringLiteral("a")));
+    QCOMPARE(nextAnswer(), answer(6, QStringLiteral("b")));
+    QCOMPARE(nextAnswer(), answer(3, QStringLiteral("c")));
+}
+
+void PipelineTest::sameCommandTwiceIsSentTwice()
+{
+    fakeSdkSetAnswer(fakeReply(u"x"));
+    send(5, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*1#"));
+    nextAnswer();
+    nextAnswer();
+    QCOMPARE(fakeSdkCommands().size(), size_t(2));
+}
+
+void PipelineTest::replyWithOtherTypeIsDelivered()
+{
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"menu", 1);
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("menu")));
+    QCOMPARE(timesLogged("received response type = 1"), 1);
+}
+
+void PipelineTest::emptyReplyIsDelivered()
+{
+    fakeSdkSetAnswer(fakeNetworkRefusal());
+    send(5, QStringLiteral("*1#"));
+    QCOMPARE(nextAnswer(), answer(5, QString()));
+}
+
+void PipelineTest::replyArrivesOnTheGuiThread()
+{
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one");
+    nextAnswer();
+    QCOMPARE(m_listener->thread, QThread::currentThread());
+}
+
+void PipelineTest::byteOrderMarkInAReplyStays()
+{
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"\uFEFFa");
+    QCOMPARE(nextAnswer().second, QString(QChar(0xFEFF)) + QLatin1Char('a'));
+}
+
+// ---- refusals ------------------------------------------------------------------------------
+
+void PipelineTest::refusedCommandGivesResultAndStatus()
+{
+    fakeSdkSetAnswer(fakeRefused(7, 5));
+    QCOMPARE(send(5, QStringLiteral("*1#")), 1);
+    QCOMPARE(m_status, 5);
+    drainEvents();
+    QVERIFY(answers().isEmpty());
+}
+
+void PipelineTest::refusedCommandIsSilentAndTheNextOneWaits()
+{
+    fakeSdkScript({fakeSilence(), fakeRefused(1, 0)});
+    send(5, QStringLiteral("*1#"));
+    send(0, QStringLiteral("*2#"));
+    send(3, QStringLiteral("*3#"));
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitIdle());
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    QVERIFY(answers().isEmpty()); // nothing for *2#
+    QCOMPARE(fakeSdkCommands().size(), size_t(2));
+    QCOMPARE(send(6, QStringLiteral("*4#")), 0); // not alone: waits behind *3#
+    QCOMPARE(fakeSdkCommands().size(), size_t(2));
+    fakeSdkRespond(u"stale"); // taken for the head, and sets the list going again
+    QVERIFY(fakeSdkWaitForRequests(3));
+    QCOMPARE(nextAnswer(), answer(3, QStringLiteral("stale")));
+    QVERIFY(fakeSdkCommands().at(2) == u"*4#");
+}
+
+void PipelineTest::tooLongCommandIsSilentAndTheNextOneWaits()
+{
+    send(5, QStringLiteral("*1#"));
+    send(0, units(92));
+    send(3, QStringLiteral("*3#"));
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitIdle());
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    drainEvents();
+    QVERIFY(answers().isEmpty());
+    QCOMPARE(fakeSdkCommands().size(), size_t(1));
+}
+
+void PipelineTest::commandAfterARefusalIsSentAgain()
+{
+    fakeSdkScript({fakeRefused(1, 0), fakeReply(u"two")});
+    QCOMPARE(send(5, QStringLiteral("*1#")), 1);
+    QCOMPARE(send(5, QStringLiteral("*2#")), 0);
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("two")));
+}
+
+// ---- time-out ------------------------------------------------------------------------------
+
+void PipelineTest::missingReplyIsAnsweredByTimeOut()
+{
+    setTimes(5, kNoPatience);
+    send(3, QStringLiteral("*1#"));
+    QCOMPARE(nextAnswer(), answer(3, timeOutText()));
+    drainEvents();
+    QVERIFY(answers().isEmpty());
+}
+
+void PipelineTest::timeOutSendsTheNextCommand()
+{
+    setTimes(100, kNoPatience);
+    fakeSdkScript({fakeSilence(), fakeReply(u"two")});
+    send(3, QStringLiteral("*1#"));
+    send(0, QStringLiteral("*2#"));
+    QCOMPARE(nextAnswer(), answer(3, timeOutText()));
+    QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
+}
+
+void PipelineTest::commandSentBySdkThreadTimesOutToo()
+{
+    send(3, QStringLiteral("*1#"));
+    send(0, QStringLiteral("*2#"));
+    setTimes(5, kNoPatience); // for the second one
+    fakeSdkRespond(u"one");
+    QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
+    QCOMPARE(nextAnswer(), answer(0, timeOutText()));
+    const std::vector<FakeCall> requests = fakeSdkCalls("TKSV_USSDSrv_Request");
+    QVERIFY(requests.at(0).thread != requests.at(1).thread);
+}
+
+void PipelineTest::timeOutWithEmptyListOnlyStopsTheTimer()
+{
+    setTimes(5, 1);
+    send(5, QStringLiteral("*1#"));
+    USSDLogic::ClearQueuedCmds();
+    QTRY_COMPARE(timesLogged("OnTimeOut Exit"), 1);
+    QVERIFY(answers().isEmpty());
+    setTimes(kNoPatience, kNoPatience);
+    QCOMPARE(send(5, QStringLiteral("*2#")), 0); // does not wait: the timer was stopped
+}
+
+void PipelineTest::timeOutSlotAnswersTheHead()
+{
+    send(5, QStringLiteral("*1#"));
+    QVERIFY(QMetaObject::invokeMethod(m_logic, "OnTimeOut"));
+    QCOMPARE(nextAnswer(), answer(5, timeOutText()));
+}
+
+void PipelineTest::lateReplyAnswersNextHead()
+{
+    setTimes(5, kNoPatience);
+    send(3, QStringLiteral("*1#"));
+    QCOMPARE(nextAnswer(), answer(3, timeOutText()));
+    setTimes(kNoPatience, kNoPatience);
+    send(0, QStringLiteral("*2#"));
+    fakeSdkRespond(u"late one");
+    QCOMPARE(nextAnswer(), answer(0, QStringLiteral("late one")));
+}
+
+void PipelineTest::replyThatBeatsTheTimerLeavesItStopped()
+{
+    FakeAnswer quick = fakeReply(u"quick");
+    quick.beforeReturn = true;
+    fakeSdkScript({quick, quick});
+    send(5, QStringLiteral("*1#"));
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("quick")));
+    // A timer left running would make this wait for a minute.
+    send(5, QStringLiteral("*2#"));
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("quick")));
+}
+
+void PipelineTest::sendWaitsForTheEarlierTimeOut()
+{
+    const int wait = 40;
+    setTimes(kNoPatience, wait);
+    send(5, QStringLiteral("*1#"));
+    USSDLogic::ClearQueuedCmds();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QCOMPARE(send(5, QStringLiteral("*2#")), 0);
+    QVERIFY(elapsed.elapsed() >= wait - 1);
+    QCOMPARE(fakeSdkCommands().size(), size_t(2)); // the device had it before the wait
+}
+
+void PipelineTest::replyEndsTheWaitForTheEarlierTimeOut()
+{
+    send(5, QStringLiteral("*1#"));
+    USSDLogic::ClearQueuedCmds();
+    std::thread network([] {
+        fakeSdkWaitForRequests(2);
+        fakeSdkRespond(u"two");
+    });
+    QCOMPARE(send(0, QStringLiteral("*2#")), 0); // without the reply it would last a minute
+    network.join();
+    QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
+}
+
+// ---- replies that nobody expects --------------------------------------------------------------
+
+void PipelineTest::nullDataLeavesListAndTimer()
+{
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespondNull();
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
+    QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
+    QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2); // debug and warning
+    fakeSdkRespond(u"one");
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+}
+
+void PipelineTest::replyWithoutCommandIsDropped()
+{
+    fakeSdkRespond(u"hello");
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
+    QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
+    QCOMPARE(timesLogged("sending USSD commond list is empty"), 1);
+    drainEvents();
+    QVERIFY(answers().isEmpty());
+}
+
+void PipelineTest::twoRepliesAtOnceAnswerOnce()
+{
+    FakeAnswer twice = fakeReply(u"x");
+    twice.threads = 2;
+    fakeSdkSetAnswer(twice);
+    for (int i = 0; i < 50; ++i) {
+        send(5, QStringLiteral("*1#"));
+        QCOMPARE(nextAnswer(), answer(5, QStringLiteral("x")));
+        QVERIFY(fakeSdkWaitIdle());
+        drainEvents();
+        QVERIFY(answers().isEmpty());
+    }
+}
+
+// ---- clearing ------------------------------------------------------------------------------
+
+void PipelineTest::clearQueuedKeepsPrePostQueriesInOrder()
+{
+    send(4, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*2#"));
+    send(4, QStringLiteral("*3#"));
+    USSDLogic::ClearQueuedCmds();
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForRequests(2));
+    fakeSdkRespond(u"three");
+    QCOMPARE(nextAnswer(), answer(4, QStringLiteral("one")));
+    QCOMPARE(nextAnswer(), answer(4, QStringLiteral("three")));
+    QVERIFY(fakeSdkWaitIdle());
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*1#", u"*3#"}));
+}
+
+void PipelineTest::clearUssdSmsLeavesTheOthers()
+{
+    send(6, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*2#"));
+    send(6, QStringLiteral("*3#"));
+    USSDLogic::ClearUSSDSMSQueuedCmds();
+    fakeSdkRespond(u"one");
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    QVERIFY(fakeSdkWaitIdle());
+    QCOMPARE(fakeSdkCommands().size(), size_t(1)); // the list is empty now
+}
+
+void PipelineTest::replyForAClearedCommandAnswersTheHead()
+{
+    send(5, QStringLiteral("*1#"));
+    send(4, QStringLiteral("*2#"));
+    USSDLogic::ClearQueuedCmds();
+    fakeSdkRespond(u"for one");
+    QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
+}
+
+// ---- the device ----------------------------------------------------------------------------
+
+void PipelineTest::releaseReportsTheDevicesResult()
+{
+    QCOMPARE(m_logic->ReleaseUSSDCommand(), 0);
+    fakeSdkSetResult("TKSV_USSDSrv_Release", 3);
+    QCOMPARE(m_logic->ReleaseUSSDCommand(), 1);
+    QCOMPARE(timesLogged("TKSV_USSDSrv_Release failed"), 1);
+}
+
+void PipelineTest::failedRegistrationIsLogged()
+{
+    USSDLogic::Destroy();
+    fakeSdkSetResult("TKSV_USSDSrv_RegisterUSSDCallback", 9);
+    fakeSdkSetResult("TKSV_SMSSrv_RegCallBack", 4);
+    m_logic = USSDLogic::GetUSSDLogicInstance();
+    QVERIFY(m_logic);
+    QCOMPARE(timesLogged("USSDLogic register callback failed"), 1);
+    QCOMPARE(timesLogged("TKSV_SMSSrv_RegCallBack returned 4"), 1);
+}
+
+void PipelineTest::logTellsCommandLengthAndResult()
+{
+    fakeSdkSetAnswer(fakeRefused(7, 5));
+    send(5, QStringLiteral("*100#"));
+    QCOMPARE(timesLogged(" Calling TKSV_USSDSrv_Request (USSDCmd= *100#, USSDCmdLen = 10)"), 2);
+    QCOMPARE(timesLogged(" TKSV_USSDSrv_Request Returned(status = 5, retVal = 7), "), 2);
+    QCOMPARE(timesLogged(" TKSV_USSDSrv_Request failed"), 2);
+}
+
+// ---- life cycle and threads ------------------------------------------------------------------
+
+void PipelineTest::receiverMaySendFromTheSdkThread()
+{
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(sendMore(int, QString)), Qt::DirectConnection);
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForRequests(2)); // a lock held over the signal would be in the way
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    disconnect(m_logic, nullptr, &interloper, nullptr);
+}
+
+void PipelineTest::timeOutReceiverMayShutDown()
+{
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(shutDown(int, QString)));
+    setTimes(5, kNoPatience);
+    send(5, QStringLiteral("*1#"));
+    QPointer<USSDLogic> logic(m_logic);
+    QTRY_VERIFY(!logic);
+}
+
+void PipelineTest::destroyWaitsForARunningCallback()
+{
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(stopHere(int, QString)), Qt::DirectConnection);
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one");
+    interloper.reached.acquire();
+    std::thread helper([&interloper] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        interloper.goOn.release();
+    });
+    USSDLogic::Destroy();
+    QVERIFY(interloper.done);
+    helper.join();
+}
+
+void PipelineTest::callbackAfterDestroyFindsNothing()
+{
+    send(5, QStringLiteral("*1#"));
+    USSDLogic::Destroy();
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
+    QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
+    QCOMPARE(timesLogged("Fail Exit: Logic Object is NULL"), 2);
+}
+
+void PipelineTest::newSingletonStartsWithAnEmptyList()
+{
+    send(5, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*2#"));
+    USSDLogic::Destroy();
+    m_logic = USSDLogic::GetUSSDLogicInstance();
+    QCOMPARE(send(5, QStringLiteral("*3#")), 0);
+    QVERIFY(fakeSdkCommands().back() == u"*3#");
+}
+
+/// Replies, late replies and time-outs meet at random; nobody is answered twice or forgotten.
+void PipelineTest::everyCommandIsAnsweredOnce()
+{
+    const int count = 400;
+    setTimes(1, 1);
+    std::vector<FakeAnswer> script;
+    for (int i = 0; i < count; ++i) {
+        FakeAnswer answer = fakeReplyAfter(std::chrono::milliseconds(i % 3), u"x");
+        answer.times = i % 7 == 0 ? 0 : 1;
+        script.push_back(answer);
+    }
+    fakeSdkScript(script);
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(send(i % 7, QStringLiteral("*%1#").arg(i)), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(answers().count(), count, 30000);
+    QVERIFY(fakeSdkWaitIdle());
+    drainEvents();
+    QCOMPARE(answers().count(), count);
+    QCOMPARE(int(fakeSdkCommands().size()), count);
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(answers().at(i).first, i % 7);
+}
+
+USSD_TEST_MAIN(PipelineTest)
+
+#include "pipeline_test.moc"
