@@ -24,6 +24,7 @@ public:
     explicit Complaints(std::string file) : m_file(std::move(file)) {}
     void add(int line, const std::string &text) { m_list.push_back({m_file, line, text}); }
     bool isEmpty() const { return m_list.empty(); }
+    std::size_t count() const { return m_list.size(); }
     /// In the order of the lines.
     std::vector<Complaint> sorted() const;
 

@@ -15,7 +15,8 @@ using GKeyFilePointer = std::unique_ptr<GKeyFile, decltype(&g_key_file_free)>;
 GKeyFilePointer parse(const std::string &text)
 {
     GKeyFilePointer file(g_key_file_new(), &g_key_file_free);
-    if (!g_key_file_load_from_data(file.get(), text.data(), text.size(), G_KEY_FILE_NONE, nullptr))
+    if (!g_key_file_load_from_data(file.get(), text.data(), text.size(),
+                                   G_KEY_FILE_KEEP_TRANSLATIONS, nullptr))
         file.reset();
     return file;
 }
@@ -146,12 +147,12 @@ private:
 
     std::string value(const std::string &group, const std::string &key)
     {
-        char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), nullptr);
-        if (!text) {
+        GError *error = nullptr;
+        char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), &error);
+        if (error) // also when there is a text
             m_complaints.add(m_line, key + ": expected n, t, s, r or \\ after each \\");
-            return std::string();
-        }
-        const std::string result = text;
+        const std::string result = text ? text : "";
+        g_clear_error(&error);
         g_free(text);
         return result;
     }

@@ -433,12 +433,15 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    for (const KeyFileGroup &group : groups)
-        reader.read(group);
+    std::vector<const KeyFileGroup *> readWell; // one mistake shall not look like two
     for (const KeyFileGroup &group : groups) {
-        if (scenario.rules.count(group.name))
-            RuleCheck(scenario, group, complaints).run();
+        const std::size_t before = complaints.count();
+        reader.read(group);
+        if (complaints.count() == before && scenario.rules.count(group.name))
+            readWell.push_back(&group);
     }
+    for (const KeyFileGroup *group : readWell)
+        RuleCheck(scenario, *group, complaints).run();
 }
 
 /* ---- the file ---------------------------------------------------------------------------- */

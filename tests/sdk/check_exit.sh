@@ -1,0 +1,8 @@
+#!/bin/sh
+# check_exit.sh PROGRAM MODE: the program ends with the code that it asks for.
+code=0
+"$1" "$2" || code=$?
+if [ "$code" -ne 42 ]; then
+    echo "exits_midway $2: expected exit code 42, found $code"
+    exit 1
+fi

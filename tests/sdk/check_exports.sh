@@ -1,0 +1,13 @@
+#!/bin/sh
+# check_exports.sh LIBRARY HEADER...: the library exports exactly the functions of the headers.
+set -eu
+library=$1
+shift
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+nm -D --defined-only "$library" | awk '{ print $3 }' | sort -u >"$work/exported"
+# In the headers each function is declared behind TKSV_API.
+cat "$@" | sed -n 's/^TKSV_API long \(TKSV_[A-Za-z_]*\)(.*/\1/p' | sort -u >"$work/declared"
+test -s "$work/declared"
+diff "$work/declared" "$work/exported"

@@ -1,0 +1,15 @@
+#!/bin/sh
+# check_header.sh C-COMPILER C++-COMPILER HEADER...: each header compiles by itself, in old and new
+# C and in C++.
+set -eu
+c=$1
+cxx=$2
+shift 2
+for header in "$@"; do
+    for standard in c89 c99 c11; do
+        "$c" -std=$standard -pedantic-errors -Wall -Wextra -Werror -fsyntax-only -x c "$header"
+    done
+    for standard in c++98 c++14 c++20; do
+        "$cxx" -std=$standard -pedantic-errors -Wall -Wextra -Werror -fsyntax-only -x c++ "$header"
+    done
+done

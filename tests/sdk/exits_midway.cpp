@@ -1,0 +1,117 @@
+/*
+ * A client that exits in the middle of something, which the first argument names. It must end with
+ * the code that it asked for, whatever the library is doing.
+ */
+#include <condition_variable>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <mutex>
+#include <string>
+#include <thread>
+
+#include "tksv_device.h"
+
+namespace
+{
+
+const int Asked = 42;
+
+std::mutex mutex;
+std::condition_variable changed;
+bool entered = false;
+std::string mode;
+
+void tellEntered()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    entered = true;
+    changed.notify_all();
+}
+
+void waitUntilEntered()
+{
+    std::unique_lock<std::mutex> lock(mutex);
+    changed.wait(lock, [] { return entered; });
+}
+
+unsigned char onUssd(int, void *)
+{
+    tellEntered();
+    if (mode == "exit-in-callback")
+        std::exit(Asked);
+    while (mode == "callback-hangs")
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+    return 1;
+}
+
+void request(const char *code)
+{
+    TKSV_USSDRequest record = {};
+    record.length = static_cast<unsigned int>(2 * std::strlen(code));
+    for (std::size_t i = 0; code[i]; ++i)
+        record.text[i] = static_cast<unsigned char>(code[i]);
+    int status = 0;
+    TKSV_USSDSrv_Request(&record, &status);
+}
+
+/** Calls the library when everything else is gone. */
+struct LateCaller {
+    ~LateCaller()
+    {
+        request("*100#");
+        TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
+        TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    }
+};
+
+void busyThread()
+{
+    for (;;) {
+        request("*100#");
+        TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
+        TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
+        tellEntered();
+    }
+}
+
+void prepare()
+{
+    TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
+    if (mode == "request-in-flight")
+        return request("*199#");
+    if (mode == "other-thread-calls")
+        std::thread(busyThread).detach();
+    else
+        request("*100#");
+    waitUntilEntered();
+    if (mode == "exit-in-callback") {
+        for (;;)
+            std::this_thread::sleep_for(std::chrono::seconds(1)); // the call-back exits
+    }
+}
+
+int printInfo()
+{
+    TKSV_DeviceInfo info;
+    TKSV_Device_GetInfo(&info);
+    TKSV_Device_GetInfo(&info);
+    int status = 0;
+    TKSV_USSDRequest record = {2, {'1'}};
+    const long result = TKSV_USSDSrv_Request(&record, &status);
+    std::printf("state %d request %s\n", info.state, result == 0 ? "accepted" : "refused");
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    mode = argc > 1 ? argv[1] : "";
+    if (mode == "info")
+        return printInfo();
+    static const LateCaller lateCaller;
+    if (mode != "never-used")
+        prepare();
+    return Asked;
+}

@@ -1,0 +1,174 @@
+/* What tksv_device.h promises. */
+#include <atomic>
+#include <QtTest>
+
+#include "SdkFixture.h"
+#include "tksv_device.h"
+
+using namespace SdkFixture;
+
+namespace
+{
+
+const char Start[] = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nSignal=42\n";
+
+TKSV_DeviceInfo info()
+{
+    TKSV_DeviceInfo result;
+    TKSV_Device_GetInfo(&result);
+    return result;
+}
+
+std::atomic<int> infoCalls(0);
+void countInfo(void *context)
+{
+    ++infoCalls;
+    static_cast<Gate *>(context)->open();
+}
+
+} // namespace
+
+class SdkDevice : public QObject
+{
+    Q_OBJECT
+private slots:
+    void shippedScenarioIsFoundBesideTheLibrary();
+    void infoTellsOfTheScenario();
+    void infoHidesWhatTheStateDoesNotGive_data();
+    void infoHidesWhatTheStateDoesNotGive();
+    void nullInfoIsRefused();
+    void badScenarioChangesNothing();
+    void messageIsCutToItsSize();
+    void newScenarioEndsTheRequestByAnEvent();
+    void newScenarioTellsReadinessForSms();
+    void infoCallbackTellsOfChanges();
+    void infoCallbackIsOneAtMost();
+};
+
+void SdkDevice::shippedScenarioIsFoundBesideTheLibrary()
+{
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
+    QCOMPARE(info().operatorName, "Meridian Mobile");
+    QCOMPARE(info().imsi, "001010123456789");
+    QVERIFY(QByteArray(info().source).endsWith("/scenarios/default.scenario"));
+}
+
+void SdkDevice::infoTellsOfTheScenario()
+{
+    QCOMPARE(useNetwork(Start), std::string());
+    const TKSV_DeviceInfo got = info();
+    QCOMPARE(int(got.backend), int(TKSV_BACKEND_SIMULATOR));
+    QCOMPARE(int(got.state), int(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(got.signalPercent, 42);
+    QCOMPARE(got.canSendSMS, 1);
+    QCOMPARE(got.operatorName, "Test Net");
+    QCOMPARE(got.imsi, "001010000000001");
+}
+
+void SdkDevice::infoHidesWhatTheStateDoesNotGive_data()
+{
+    QTest::addColumn<QByteArray>("state");
+    QTest::addColumn<bool>("hasImsi");
+    QTest::addColumn<bool>("hasSignal");
+    QTest::newRow("absent") << QByteArray("absent") << false << false;
+    QTest::newRow("missing") << QByteArray("sim-missing") << false << false;
+    QTest::newRow("locked") << QByteArray("sim-locked") << false << false;
+    QTest::newRow("disabled") << QByteArray("disabled") << true << false;
+    QTest::newRow("searching") << QByteArray("searching") << true << true;
+}
+
+void SdkDevice::infoHidesWhatTheStateDoesNotGive()
+{
+    QFETCH(QByteArray, state);
+    QFETCH(bool, hasImsi);
+    QFETCH(bool, hasSignal);
+    QCOMPARE(useNetwork(Start + ("State=" + state).toStdString()), std::string());
+    QCOMPARE(info().operatorName, "");
+    QCOMPARE(info().canSendSMS, 0);
+    QCOMPARE(*info().imsi != '\0', hasImsi);
+    QCOMPARE(info().signalPercent >= 0, hasSignal);
+}
+
+void SdkDevice::nullInfoIsRefused()
+{
+    QVERIFY(TKSV_Device_GetInfo(nullptr) != 0);
+}
+
+void SdkDevice::badScenarioChangesNothing()
+{
+    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=menu\n[*1#/1]\nReply=one\n"),
+             std::string());
+    registerAll();
+    QCOMPARE(ask(u"*1#").type, 1);
+    const std::string complaint = useNetwork("[Network]\nOperator=x\n");
+    QVERIFY(QByteArray(complaint.c_str()).endsWith(":1: [Network]: expected a key IMSI"));
+    QCOMPARE(info().operatorName, "Test Net");
+    QCOMPARE(ask(u"1").type, 0); // even the session is still open
+    unregisterAll();
+    received().clear();
+}
+
+void SdkDevice::messageIsCutToItsSize()
+{
+    char message[8] = "";
+    QVERIFY(TKSV_Device_UseScenario("/nowhere/x", message, sizeof message) != 0);
+    QCOMPARE(message, "/nowher");
+    QVERIFY(TKSV_Device_UseScenario("/nowhere/x", nullptr, 0) != 0);
+    QCOMPARE(TKSV_Device_UseScenario("", message, sizeof message), 0L);
+    QCOMPARE(message, "");
+}
+
+void SdkDevice::newScenarioEndsTheRequestByAnEvent()
+{
+    const std::string slow = std::string(Start) + "[*1#]\nReply=late\nDelay=10\n";
+    QCOMPARE(useNetwork(slow), std::string());
+    registerAll();
+    QCOMPARE(request(u"*1#"), 0L);
+    QCOMPARE(useNetwork(slow), std::string());
+    QVERIFY(received().deviceEvents.waitFor(1));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
+    QCOMPARE(QString::fromStdU16String(ask(u"*1#").text), QString::fromLatin1("late"));
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
+    unregisterAll();
+    received().clear();
+}
+
+void SdkDevice::newScenarioTellsReadinessForSms()
+{
+    QCOMPARE(useNetwork(Start), std::string());
+    registerAll();
+    QVERIFY(received().smsStatus.waitFor(1));
+    QCOMPARE(useNetwork(std::string(Start) + "SMS=not-ready\n"), std::string());
+    QVERIFY(received().smsStatus.waitFor(2));
+    QCOMPARE(useNetwork(Start), std::string());
+    QVERIFY(received().smsStatus.waitFor(3));
+    QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 8, 7}));
+    unregisterAll();
+    received().clear();
+}
+
+void SdkDevice::infoCallbackTellsOfChanges()
+{
+    Gate changed;
+    QCOMPARE(useNetwork(std::string(Start) + "[Event e]\nAfter=10\nSignal=5\n"), std::string());
+    QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &changed), 0L);
+    QVERIFY(changed.wait());
+    QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);
+    QCOMPARE(info().signalPercent, 5);
+}
+
+void SdkDevice::infoCallbackIsOneAtMost()
+{
+    Gate first;
+    Gate second;
+    QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
+    QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
+    infoCalls = 0;
+    QCOMPARE(useNetwork(Start), std::string());
+    QVERIFY(second.wait());
+    QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);
+    QCOMPARE(infoCalls.load(), 1);
+}
+
+QTEST_APPLESS_MAIN(SdkDevice)
+#include "sdk_device_test.moc"

@@ -1,0 +1,315 @@
+/* The inside of the library, where no C function leads to. */
+#include <atomic>
+#include <csignal>
+#include <pthread.h>
+#include <QtTest>
+
+#include "EventService.h"
+#include "Records.h"
+#include "SdkFixture.h"
+#include "Text.h"
+#include "UssdSession.h"
+#include "WorkerThread.h"
+
+using namespace tksv;
+
+namespace
+{
+
+/** Takes every request and records it. */
+class RecordingBackend : public Backend
+{
+public:
+    void start(BackendObserver &) override {}
+    void stop() override {}
+    int request(RequestToken token, RequestKind kind, const std::string &text) override
+    {
+        if (status == RequestAccepted)
+            requests.push_back({token, kind, text});
+        return status;
+    }
+    void endSession() override { ++ended; }
+    bool sendSms(const SmsMessage &) override { return false; }
+    DeviceInfo info() const override { return DeviceInfo(); }
+
+    struct Seen {
+        RequestToken token;
+        RequestKind kind;
+        std::string text;
+    };
+    std::vector<Seen> requests;
+    int ended = 0;
+    int status = RequestAccepted;
+};
+
+/** A service with one listener that keeps the texts, and takes them or not. */
+class Listening
+{
+public:
+    Listening() : service("test"), session(service)
+    {
+        service.add(1, [this](int, void *data) {
+            const auto *record = static_cast<const TKSV_USSDResponse *>(data);
+            replies.add({record->type, toUtf8(decodeText(record->text)).value_or("")});
+            return takes.load();
+        });
+    }
+    EventService service;
+    UssdSession session;
+    RecordingBackend backend;
+    Inbox<UssdReply> replies;
+    std::atomic<bool> takes{true};
+};
+
+/// Waits for all that was posted before, whether a listener got it or not.
+void drain(EventService &service)
+{
+    Gate gate;
+    Event last;
+    last.begin = [&gate] {
+        gate.open();
+        return false;
+    };
+    service.post(last);
+    QVERIFY(gate.wait());
+}
+
+} // namespace
+
+class SdkSession : public QObject
+{
+    Q_OBJECT
+private slots:
+    void untakenTextIsKept();
+    void untakenTextsAreLimited();
+    void requestKindFollowsTheSession();
+    void lateReplyIsDropped();
+    void secondReplyIsDropped();
+    void textDuringARequestWaitsForItsEnd();
+    void textDuringAMenuWaitsForItsEnd();
+    void formOfACode_data();
+    void formOfACode();
+
+    void stopDropsWhatWaits();
+    void stopDoesNotWaitForEver();
+    void eventForOneListenerAlone();
+    void threadTakesNoSignals();
+    void textIsCutBetweenCharacters();
+};
+
+void SdkSession::untakenTextIsKept()
+{
+    Listening l;
+    l.takes = false;
+    l.session.request(l.backend, "*1#");
+    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "nobody waits"});
+    drain(l.service);
+    l.takes = true;
+    l.session.request(l.backend, "*1#");
+    l.session.replyCame(l.backend.requests[1].token, {UssdFinal, "taken"});
+    drain(l.service);
+    QCOMPARE(l.session.untakenTexts().size(), std::size_t(1));
+    QVERIFY(l.session.untakenTexts()[0].text == "nobody waits");
+}
+
+void SdkSession::untakenTextsAreLimited()
+{
+    Listening l;
+    l.takes = false;
+    for (int i = 0; i < 25; ++i)
+        l.session.textCame({UssdFinal, std::to_string(i)});
+    drain(l.service);
+    const std::vector<UssdReply> kept = l.session.untakenTexts();
+    QCOMPARE(kept.size(), std::size_t(20));
+    QVERIFY(kept.front().text == "5" && kept.back().text == "24");
+}
+
+void SdkSession::requestKindFollowsTheSession()
+{
+    Listening l;
+    l.session.request(l.backend, "*1#");
+    l.session.replyCame(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
+    drain(l.service);
+    l.session.request(l.backend, "1");
+    l.session.request(l.backend, "2"); // the first answer is still on its way
+    l.backend.status = RequestDeviceTimeout;
+    QCOMPARE(l.session.request(l.backend, "3"), int(RequestDeviceTimeout));
+    QCOMPARE(l.backend.requests.size(), std::size_t(3));
+    QVERIFY(l.backend.requests[0].kind == RequestKind::NewSession);
+    QVERIFY(l.backend.requests[1].kind == RequestKind::Answer);
+    QVERIFY(l.backend.requests[2].kind == RequestKind::NewSession);
+}
+
+void SdkSession::lateReplyIsDropped()
+{
+    Listening l;
+    l.session.request(l.backend, "*1#");
+    l.session.request(l.backend, "*2#");
+    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "late"});
+    l.session.replyCame(l.backend.requests[1].token, {UssdFinal, "in time"});
+    drain(l.service);
+    QCOMPARE(l.replies.all().size(), std::size_t(1));
+    QVERIFY(l.replies.all()[0].text == "in time");
+    l.session.request(l.backend, "*3#");
+    l.session.release(l.backend);
+    QCOMPARE(l.backend.ended, 1);
+    l.session.replyCame(l.backend.requests[2].token, {UssdFinal, "late"});
+    l.session.request(l.backend, "*4#");
+    l.session.deviceLost();
+    l.session.replyCame(l.backend.requests[3].token, {UssdFinal, "late"});
+    drain(l.service);
+    QCOMPARE(l.replies.all().size(), std::size_t(1));
+}
+
+void SdkSession::secondReplyIsDropped()
+{
+    Listening l;
+    l.session.request(l.backend, "*1#");
+    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "once"});
+    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "twice"});
+    drain(l.service);
+    QCOMPARE(l.replies.all().size(), std::size_t(1));
+}
+
+void SdkSession::textDuringARequestWaitsForItsEnd()
+{
+    Listening l;
+    l.session.request(l.backend, "*1#");
+    l.session.textCame({UssdWaitsForAnswer, "news"});
+    drain(l.service);
+    QCOMPARE(l.replies.all().size(), std::size_t(0));
+    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "reply"});
+    QVERIFY(l.replies.waitFor(2));
+    QVERIFY(l.replies.all()[0].text == "reply");
+    QVERIFY(l.replies.all()[1].text == "news");
+    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // its own session is over
+}
+
+void SdkSession::textDuringAMenuWaitsForItsEnd()
+{
+    Listening l;
+    l.session.request(l.backend, "*1#");
+    l.session.replyCame(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
+    l.session.textCame({UssdFinal, "news"});
+    drain(l.service);
+    QCOMPARE(l.replies.all().size(), std::size_t(1));
+    l.session.release(l.backend);
+    QVERIFY(l.replies.waitFor(2));
+}
+
+void SdkSession::formOfACode_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isCode");
+    const auto row = [](const char *text, bool isCode) {
+        QTest::newRow(text) << QString::fromLatin1(text) << isCode;
+    };
+    row("*100#", true);
+    row("#100#", true);
+    row("**#", true);
+    row("##", true);
+    row("#", false);
+    row("*", false);
+    row("", false);
+    row("*100", false);
+    row("100#", false);
+    row("1", false);
+}
+
+void SdkSession::formOfACode()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isCode);
+    QCOMPARE(hasFormOfCode(text.toStdString()), isCode);
+}
+
+void SdkSession::stopDropsWhatWaits()
+{
+    Gate entered;
+    Gate gate;
+    std::atomic<int> calls(0);
+    EventService service("test");
+    service.add(1, [&](int, void *) {
+        ++calls;
+        entered.open();
+        return gate.wait();
+    });
+    service.post(Event());
+    service.post(Event());
+    QVERIFY(entered.wait());
+    std::thread stopping([&service] { service.stop(NoLimit); });
+    gate.open();
+    stopping.join();
+    service.post(Event());
+    QVERIFY(calls <= 2); // the second one only if it was taken before the stop
+    const int before = calls;
+    service.add(2, [&](int, void *) { return ++calls > 0; });
+    service.post(Event());
+    QCOMPARE(calls.load(), before);
+}
+
+void SdkSession::stopDoesNotWaitForEver()
+{
+    // On the heap and given up, as it is at the program's end: the thread still uses it.
+    static Gate gate;
+    static Gate left;
+    static auto *service = new EventService("test");
+    Gate entered;
+    service->add(1, [&entered](int, void *) {
+        entered.open();
+        gate.wait();
+        left.open();
+        return true;
+    });
+    service->post(Event());
+    QVERIFY(entered.wait());
+    QVERIFY(!service->stop(std::chrono::milliseconds(10)));
+    QVERIFY(service->remove(1)); // does not wait for the call-back that hangs
+    gate.open();
+    QVERIFY(left.wait());
+}
+
+void SdkSession::eventForOneListenerAlone()
+{
+    EventService service("test");
+    std::atomic<int> first(0);
+    std::atomic<int> second(0);
+    service.add(1, [&](int, void *) { return ++first > 0; });
+    service.add(2, [&](int, void *) { return ++second > 0; });
+    Event event;
+    event.onlyKey = 2;
+    service.post(event);
+    drain(service);
+    QCOMPARE(first.load(), 0);
+    QCOMPARE(second.load(), 1);
+}
+
+void SdkSession::threadTakesNoSignals()
+{
+    std::atomic<bool> blocked(false);
+    WorkerThread thread;
+    thread.start("test", [&blocked] {
+        sigset_t mask;
+        pthread_sigmask(SIG_BLOCK, nullptr, &mask);
+        blocked = sigismember(&mask, SIGTERM) && sigismember(&mask, SIGINT);
+    });
+    QVERIFY(thread.finish(NoLimit));
+    QVERIFY(blocked);
+    sigset_t own;
+    pthread_sigmask(SIG_BLOCK, nullptr, &own);
+    QVERIFY(!sigismember(&own, SIGTERM));
+}
+
+void SdkSession::textIsCutBetweenCharacters()
+{
+    char target[4] = "###";
+    copyText("ab€", target, sizeof target);
+    QCOMPARE(target, "ab");
+    copyText("€", target, sizeof target);
+    QCOMPARE(QByteArray(target), QByteArray("€"));
+    copyText("abcdef", target, 0);
+    QCOMPARE(QByteArray(target), QByteArray("€"));
+}
+
+QTEST_APPLESS_MAIN(SdkSession)
+#include "sdk_session_test.moc"
