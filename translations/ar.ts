@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>يحوّل رصيدًا، ثم تطلب الشبكة الرقم.</translation>
+        <translation>يحوّل جزءًا من رصيدك.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

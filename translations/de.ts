@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Gibt Guthaben weiter; das Netz fragt dann nach der Rufnummer.</translation>
+        <translation>Gibt einen Teil Ihres Guthabens weiter.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

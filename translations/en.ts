@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Passes credit on; the network then asks for the number.</translation>
+        <translation>Passes part of your credit on.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

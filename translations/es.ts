@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Pasa saldo; la red pedirá después el número.</translation>
+        <translation>Transfiere parte de su saldo.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

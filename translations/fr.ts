@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Transfère du crédit&#xa0;; le réseau demande ensuite le numéro.</translation>
+        <translation>Transfère une partie de votre crédit.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

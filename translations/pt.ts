@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Transfere saldo; a rede pede depois o número.</translation>
+        <translation>Transfere parte do seu saldo.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>Передаёт средства; затем сеть запросит номер.</translation>
+        <translation>Передаёт часть ваших средств.</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>

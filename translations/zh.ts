@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>IDS_SMSUSSD_TRANSFER_INFO</source>
-        <translation>转出余额，随后网络会询问对方号码。</translation>
+        <translation>转出部分余额。</translation>
     </message>
     <message>
         <source>IDS_SMSUSSD_WEATHER</source>
