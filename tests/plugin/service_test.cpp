@@ -1,0 +1,427 @@
+#include "PluginTest.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include "fake_tksv.h"
+#include "HostState.h"
+#include "Languages.h"
+#include "USSDLogic.h"
+#include "USSDService.h"
+
+/** The service with its general window, embedded and framed. */
+class ServiceTest : public PluginTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private:
+    CUSSDService *service() { return CUSSDService::instance(); }
+    USSDExtendDialog *frame();
+    USSDGeneralDlg *framedDialog();
+    USSDGeneralDlg *embeddedDialog();
+    template <typename Widget>
+    static Widget *part(QWidget *dialog, const char *role);
+    static void sendByHand(USSDGeneralDlg *dialog, const QString &command);
+
+    QScopedPointer<QWidget> m_mainWindow;
+    QRect m_rect;
+
+private slots:
+    void instanceIsOneAndTheSame();
+    void metacastKnowsTheInterface();
+    void destroyWithoutInstanceDoesNothing();
+    void secondDestroyFindsNothing();
+
+    void doModalTwiceReusesFrameAndDialog();
+    void framedWindowHasSizeTitleAndModality();
+    void miniModeLeavesTheFramesFlagsAlone();
+    void unknownTypeIsNotShown();
+    void closeButtonEndsFrameAndDialog();
+    void closingTheFrameEndsFrameAndDialog();
+    void escapeEndsFrameAndDialog();
+    void windowCanBeOpenedAgainAfterClosing();
+    void closingWhileWaitingLetsTheNextWindowSend();
+    void lateAnswerIsNotShownInTheNextWindow();
+
+    void showWindowPutsTheDialogIntoTheHostsWidget();
+    void showPrePostPaidWindowShowsNothingForPrepaid();
+    void hideHidesTheEmbeddedDialogOnly();
+    void fitSizeBeforeShowWindowDoesNothing();
+    void fitSizeMovesAndSizes();
+    void embeddedDialogSurvivesHideWithItsHistory();
+    void embeddedDialogOutlivesClosingTheFrame();
+    void hostThatDeletesItsWidgetCostsNothing();
+
+    void languageEventReachesBothDialogs();
+    void languageEventBeforeAnyWindowDoesNothing();
+    void imsiEventClosesTheFrameWhenMatching();
+    void imsiEventLeavesTheFrameWithoutMatching();
+    void unknownEventDoesNothing();
+
+    void imsiQuestionsReachTheLogic();
+    void destroyWithOpenMessageBoxEnds();
+    void destroyWithWindowsOpenAndCommandInFlight();
+};
+
+void ServiceTest::setUp()
+{
+    PluginTest::setUp();
+    writeSystemProfiles(profileFile(profileItem("Balance", "*100#")));
+    m_mainWindow.reset(new QWidget);
+    m_mainWindow->resize(700, 600);
+    m_mainWindow->show();
+    HostState::setMainWindow(m_mainWindow.data());
+    m_rect = QRect(10, 20, 600, 500);
+}
+
+void ServiceTest::tearDown()
+{
+    Languages::setCurrent(QStringLiteral("en"));
+    HostState::setMiniMode(false);
+    PluginTest::tearDown();
+    HostState::setMainWindow(nullptr);
+    m_mainWindow.reset();
+}
+
+USSDExtendDialog *ServiceTest::frame()
+{
+    const QList<USSDExtendDialog *> frames = m_mainWindow->findChildren<USSDExtendDialog *>();
+    return frames.count() == 1 ? frames.first() : nullptr;
+}
+
+USSDGeneralDlg *ServiceTest::framedDialog()
+{
+    return frame() ? frame()->findChild<USSDGeneralDlg *>() : nullptr;
+}
+
+USSDGeneralDlg *ServiceTest::embeddedDialog()
+{
+    return m_mainWindow->findChild<USSDGeneralDlg *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+template <typename Widget>
+Widget *ServiceTest::part(QWidget *dialog, const char *role)
+{
+    return dialog->findChild<Widget *>(USSDGeneralDlg::objectNameOf(role));
+}
+
+void ServiceTest::sendByHand(USSDGeneralDlg *dialog, const QString &command)
+{
+    QTest::keyClicks(part<QLineEdit>(dialog, "USSDCmdEdit"), command);
+    QTest::mouseClick(part<QPushButton>(dialog, "SendButton"), Qt::LeftButton);
+}
+
+// ---- the singleton ---------------------------------------------------------------------------
+
+void ServiceTest::instanceIsOneAndTheSame()
+{
+    QVERIFY(service());
+    QCOMPARE(CUSSDService::instance(), service());
+}
+
+void ServiceTest::metacastKnowsTheInterface()
+{
+    QObject *object = service();
+    QCOMPARE(object->qt_metacast("CUSSDService"), static_cast<void *>(service()));
+    void *interface = static_cast<IUSSD *>(service());
+    QCOMPARE(object->qt_metacast("IUSSD"), interface);
+    QCOMPARE(object->qt_metacast("com.zelvor.portalcompass.plugin.IUSSD"), interface);
+    QCOMPARE(object->qt_metacast("QObject"), static_cast<void *>(object));
+    QVERIFY(!object->qt_metacast("INotify"));
+}
+
+void ServiceTest::destroyWithoutInstanceDoesNothing()
+{
+    CUSSDService::Destroy();
+    QVERIFY(fakeSdkCalls().empty());
+}
+
+void ServiceTest::secondDestroyFindsNothing()
+{
+    service()->DoModal();
+    CUSSDService::Destroy();
+    CUSSDService::Destroy();
+    QVERIFY(!frame());
+}
+
+// ---- framed ----------------------------------------------------------------------------------
+
+void ServiceTest::doModalTwiceReusesFrameAndDialog()
+{
+    QCOMPARE(service()->DoModal(), 1);
+    USSDExtendDialog *const firstFrame = frame();
+    USSDGeneralDlg *const firstDialog = framedDialog();
+    sendByHand(firstDialog, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one");
+    QTRY_VERIFY(
+        part<QTextEdit>(firstDialog, "History")->toPlainText().contains(QLatin1String("one")));
+    QCOMPARE(service()->DoModal(), 1);
+    QCOMPARE(frame(), firstFrame);
+    QCOMPARE(framedDialog(), firstDialog);
+    QVERIFY(part<QTextEdit>(firstDialog, "History")->toPlainText().isEmpty()); // made ready anew
+    QCOMPARE(service()->DoPrePostPaidModal(PAID_TYPE_GENERAL), 1);
+    QCOMPARE(frame(), firstFrame);
+}
+
+void ServiceTest::framedWindowHasSizeTitleAndModality()
+{
+    service()->DoModal();
+    QVERIFY(frame()->isVisible());
+    QCOMPARE(frame()->size(), QSize(588, 465));
+    QCOMPARE(frame()->windowModality(), Qt::WindowModal);
+    // Qt itself adds the system menu to a window with a close button.
+    QCOMPARE(int(frame()->windowFlags() & ~Qt::WindowSystemMenuHint), 0x0A001001);
+    QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_ADVANCE_USSD")));
+    QCOMPARE(frame()->parentWidget(), m_mainWindow.data());
+}
+
+void ServiceTest::miniModeLeavesTheFramesFlagsAlone()
+{
+    HostState::setMiniMode(true);
+    service()->DoModal();
+    QVERIFY(int(frame()->windowFlags() & ~Qt::WindowSystemMenuHint) != 0x0A001001);
+}
+
+void ServiceTest::unknownTypeIsNotShown()
+{
+    QCOMPARE(service()->doModal(PAID_TYPE_NONE), 0);
+    QCOMPARE(service()->doModal(static_cast<PAID_TYPE>(2)), 0);
+    QVERIFY(!frame());
+}
+
+void ServiceTest::closeButtonEndsFrameAndDialog()
+{
+    service()->DoModal();
+    QPointer<USSDExtendDialog> closed(frame());
+    QPointer<USSDGeneralDlg> dialog(framedDialog());
+    QTest::mouseClick(part<QPushButton>(dialog, "CloseButton"), Qt::LeftButton);
+    QVERIFY(!dialog);
+    drainEvents();
+    QVERIFY(!closed);
+}
+
+void ServiceTest::closingTheFrameEndsFrameAndDialog()
+{
+    service()->DoModal();
+    QPointer<USSDExtendDialog> closed(frame());
+    QPointer<USSDGeneralDlg> dialog(framedDialog());
+    closed->close();
+    drainEvents();
+    QVERIFY(!dialog);
+    QVERIFY(!closed);
+}
+
+void ServiceTest::escapeEndsFrameAndDialog()
+{
+    service()->DoModal();
+    QPointer<USSDExtendDialog> closed(frame());
+    QTest::keyClick(closed.data(), Qt::Key_Escape);
+    drainEvents();
+    QVERIFY(!closed);
+}
+
+void ServiceTest::windowCanBeOpenedAgainAfterClosing()
+{
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(service()->DoModal(), 1);
+        sendByHand(framedDialog(), QStringLiteral("*1#"));
+        fakeSdkRespond(u"one");
+        QTextEdit *history = part<QTextEdit>(framedDialog(), "History");
+        QTRY_VERIFY(history->toPlainText().contains(QLatin1String("one")));
+        frame()->close();
+        drainEvents();
+        QVERIFY(!frame());
+    }
+}
+
+void ServiceTest::closingWhileWaitingLetsTheNextWindowSend()
+{
+    service()->DoModal();
+    sendByHand(framedDialog(), QStringLiteral("*1#"));
+    QVERIFY(!part<QLineEdit>(framedDialog(), "USSDCmdEdit")->isEnabled());
+    frame()->close();
+    drainEvents();
+    service()->DoModal();
+    QVERIFY(part<QLineEdit>(framedDialog(), "USSDCmdEdit")->isEnabled());
+    QTest::keyClicks(part<QLineEdit>(framedDialog(), "USSDCmdEdit"), QStringLiteral("*2#"));
+    QVERIFY(part<QPushButton>(framedDialog(), "SendButton")->isEnabled());
+}
+
+void ServiceTest::lateAnswerIsNotShownInTheNextWindow()
+{
+    service()->DoModal();
+    sendByHand(framedDialog(), QStringLiteral("*1#"));
+    frame()->close();
+    drainEvents();
+    service()->DoModal();
+    fakeSdkRespond(u"late");
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
+    drainEvents();
+    QVERIFY(part<QTextEdit>(framedDialog(), "History")->toPlainText().isEmpty());
+    QCOMPARE(timesLogged("onResponseReceived Exit: USSDGeneralDlg no need to handle"), 1);
+}
+
+// ---- embedded --------------------------------------------------------------------------------
+
+void ServiceTest::showWindowPutsTheDialogIntoTheHostsWidget()
+{
+    QCOMPARE(service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL), 0);
+    QVERIFY(embeddedDialog());
+    QVERIFY(embeddedDialog()->isVisible());
+    QCOMPARE(embeddedDialog()->geometry(), m_rect);
+}
+
+void ServiceTest::showPrePostPaidWindowShowsNothingForPrepaid()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QCOMPARE(service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_PREPAID), 0);
+    service()->Hide(); // only the type was remembered, so there is nothing to hide
+    QVERIFY(embeddedDialog()->isVisible());
+}
+
+void ServiceTest::hideHidesTheEmbeddedDialogOnly()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    service()->DoModal();
+    service()->Hide();
+    QVERIFY(!embeddedDialog()->isVisible());
+    QVERIFY(frame()->isVisible());
+}
+
+void ServiceTest::fitSizeBeforeShowWindowDoesNothing()
+{
+    service()->FitSize(m_rect);
+    service()->Hide();
+    QVERIFY(!embeddedDialog());
+}
+
+void ServiceTest::fitSizeMovesAndSizes()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QRect other(0, 0, 640, 520);
+    service()->FitSize(other);
+    QCOMPARE(embeddedDialog()->geometry(), other);
+}
+
+void ServiceTest::embeddedDialogSurvivesHideWithItsHistory()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    sendByHand(embeddedDialog(), QStringLiteral("*1#"));
+    service()->Hide();
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QVERIFY(
+        part<QTextEdit>(embeddedDialog(), "History")->toPlainText().contains(QLatin1String("*1#")));
+}
+
+void ServiceTest::embeddedDialogOutlivesClosingTheFrame()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QPointer<USSDGeneralDlg> embedded(embeddedDialog());
+    service()->DoModal();
+    frame()->close();
+    drainEvents();
+    QVERIFY(embedded);
+}
+
+void ServiceTest::hostThatDeletesItsWidgetCostsNothing()
+{
+    QScopedPointer<QWidget> page(new QWidget(m_mainWindow.data()));
+    service()->showWindow(page.data(), m_rect, PAID_TYPE_GENERAL);
+    page.reset();
+    service()->Hide();
+    service()->FitSize(m_rect);
+    service()->Notify(320, 0, 0);
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QVERIFY(embeddedDialog()->isVisible());
+}
+
+// ---- events ----------------------------------------------------------------------------------
+
+void ServiceTest::languageEventReachesBothDialogs()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    service()->DoModal();
+    const QString english = part<QPushButton>(embeddedDialog(), "SendButton")->text();
+    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    QCOMPARE(service()->Notify(320, 0, 0), 0);
+    const QString german = CUSSDService::tr(QStringLiteral("IDS_BUTTON_SEND"));
+    QVERIFY(german != english);
+    QCOMPARE(part<QPushButton>(embeddedDialog(), "SendButton")->text(), german);
+    QCOMPARE(part<QPushButton>(framedDialog(), "SendButton")->text(), german);
+}
+
+void ServiceTest::languageEventBeforeAnyWindowDoesNothing()
+{
+    QCOMPARE(service()->Notify(320, 0, 0), 0);
+    QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+}
+
+void ServiceTest::imsiEventClosesTheFrameWhenMatching()
+{
+    service()->DoModal();
+    QCOMPARE(service()->Notify(579, 1, 2), 0);
+    drainEvents();
+    QVERIFY(!frame());
+}
+
+void ServiceTest::imsiEventLeavesTheFrameWithoutMatching()
+{
+    writeConfig("<c><autoUSSD valid='false'/></c>");
+    service()->DoModal();
+    service()->Notify(579, 0, 0);
+    QVERIFY(frame()->isVisible());
+}
+
+void ServiceTest::unknownEventDoesNothing()
+{
+    service()->DoModal();
+    QCOMPARE(service()->Notify(4711, 0, 0), 0);
+    QVERIFY(frame()->isVisible());
+}
+
+void ServiceTest::imsiQuestionsReachTheLogic()
+{
+    QVERIFY(service()->IsImsiDynamicMatch());
+    int flags = -1;
+    QVERIFY(service()->CheckImsiIsValid(QStringLiteral("001012345678901"), flags));
+    QCOMPARE(flags, 8);
+}
+
+// ---- taking down -----------------------------------------------------------------------------
+
+void ServiceTest::destroyWithOpenMessageBoxEnds()
+{
+    writeConfig(completeConfig().replace("showConfirmDialog='false'", "showConfirmDialog='true'"));
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    sendByHand(embeddedDialog(), QStringLiteral("*1#"));
+    bool wasOpen = false;
+    QTimer::singleShot(0, m_mainWindow.data(), [&wasOpen] {
+        wasOpen = QApplication::activeModalWidget() != nullptr;
+        CUSSDService::Destroy();
+    });
+    QTest::mouseClick(part<QPushButton>(embeddedDialog(), "ClearButton"), Qt::LeftButton);
+    QVERIFY(wasOpen);
+    QVERIFY(!embeddedDialog());
+}
+
+void ServiceTest::destroyWithWindowsOpenAndCommandInFlight()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    service()->DoModal();
+    sendByHand(framedDialog(), QStringLiteral("*1#"));
+    sendByHand(embeddedDialog(), QStringLiteral("*2#"));
+    fakeSdkRespond(u"one");
+    CUSSDService::Destroy();
+    drainEvents();
+    QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+}
+
+USSD_TEST_MAIN(ServiceTest)
+
+#include "service_test.moc"

@@ -1,0 +1,65 @@
+#ifndef SLOT_TABLE_H
+#define SLOT_TABLE_H
+
+/*
+ * The plug-in's interfaces as a host built long ago knows them: by the order of bases and of slots
+ * in their virtual tables (Itanium C++ ABI), without any header of theirs.
+ */
+
+class QObject;
+class QRect;
+class QString;
+class QWidget;
+
+namespace SlotTable
+{
+
+/// Slots count from 0 behind the two of the virtual destructor.
+enum BasePluginSlot {
+    Release,
+    GetLastError,
+    Init,
+    GetPluginType,
+    GetCLSID,
+    GetVersion,
+    GetPluginName,
+    IsAllowRelease,
+    QueryInterface,
+    ShowWindow,
+    DoModal,
+    Hide,
+    FitSize,
+    IsReady,
+    ChangeLang
+};
+
+enum DestroyEventSlot { OnDestroy, UnSDKRegisterEvent };
+enum NotifySlot { Notify };
+enum USSDSlot {
+    GetPrePostInfo,
+    DoPrePostPaidModal,
+    ShowPrePostPaidWindow,
+    IsImsiDynamicMatch,
+    CheckImsiIsValid
+};
+
+/// The second base of a plug-in interface lies right behind the first one, which has no members.
+void *secondBase(void *basePlugin);
+
+void callVoid(void *object, int slot);
+int callInt(void *object, int slot);
+bool callBool(void *object, int slot);
+QString callString(void *object, int slot);
+bool callQueryInterface(void *object, int id, QObject **out);
+int callShowWindow(void *object, QWidget *parent, QRect &rect);
+void callFitSize(void *object, QRect &rect);
+bool callChangeLang(void *object, const QString &lang);
+int callNotify(void *object, unsigned int event, unsigned int param1, unsigned int param2);
+int callDoPrePostPaidModal(void *object, int type);
+int callShowPrePostPaidWindow(void *object, QWidget *parent, QRect &rect, int type);
+int callGetPrePostInfo(void *object, bool &inUse, bool &postpaid, int &result, bool ask);
+bool callCheckImsiIsValid(void *object, const QString &imsi, int &flags);
+
+} // namespace SlotTable
+
+#endif
