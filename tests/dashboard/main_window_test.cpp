@@ -1,0 +1,277 @@
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "DashboardSettings.h"
+#include "DashboardText.h"
+#include "ExtendDialog.h"
+#include "GeneralWindow.h"
+#include "HostState.h"
+#include "Languages.h"
+#include "MainWindow.h"
+#include "Scenarios.h"
+#include "UiPlugin.h"
+#include "UssdTest.h"
+
+namespace
+{
+
+QString textOf(const QMessageBox *box)
+{
+    const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
+    return view ? view->toPlainText() : box->text();
+}
+
+} // namespace
+
+class MainWindowTest : public UssdTest
+{
+    Q_OBJECT
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private slots:
+    void theDeviceAndTheSourceAreShown();
+    void theGeneralWindowIsInThePage();
+    void thePageFollowsTheWindowsSize();
+    void thePageCanBeHiddenAndShownAgain();
+    void aCommandOfThePageIsAnswered();
+    void theFrameOpensOverTheWindow();
+    void buttonsOfLaterWindowsAreHidden();
+    void theButtonsWaitForThePlugin();
+    void aMissingPluginIsSaidInThePage();
+    void aChosenLanguageReachesEverything();
+    void aChosenLanguageIsRemembered();
+    void arabicTurnsTheWindow();
+    void anotherNetworkIsChosenFromTheMenu();
+    void aBadScenarioIsSaidInWordsAndTheOldOneStays();
+    void theModemCannotBeChosenYet();
+    void everyControlHasAName();
+
+private:
+    QAction *networkAction(const QString &text) const;
+    QPushButton *button(const char *name) const;
+    GeneralWindow page() const { return GeneralWindow(m_window->page()); }
+
+    QScopedPointer<DashboardSettings> m_settings;
+    QScopedPointer<UiPlugin> m_plugin;
+    QScopedPointer<MainWindow> m_window;
+};
+
+void MainWindowTest::setUp()
+{
+    QFile::remove(DashboardSettings().file());
+    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(Scenarios::use(QString()).isEmpty());
+    m_settings.reset(new DashboardSettings);
+    m_plugin.reset(new UiPlugin);
+    m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->show();
+    const PluginFailure failure = m_window->loadPlugin();
+    QVERIFY2(m_plugin->isUsable(), qPrintable(failure.text()));
+}
+
+void MainWindowTest::tearDown()
+{
+    m_plugin.reset();
+    m_window.reset();
+    m_settings.reset();
+    HostState::setShuttingDown(false);
+    qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
+}
+
+QAction *MainWindowTest::networkAction(const QString &text) const
+{
+    for (const QAction *menu : m_window->menuBar()->actions()) {
+        for (QAction *action : menu->menu()->actions()) {
+            if (action->text() == text)
+                return action;
+        }
+    }
+    return nullptr;
+}
+
+QPushButton *MainWindowTest::button(const char *name) const
+{
+    return m_window->findChild<QPushButton *>(QLatin1String(name));
+}
+
+void MainWindowTest::theDeviceAndTheSourceAreShown()
+{
+    QCOMPARE(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Operator"))->text(),
+             QLatin1String("Test & Mobile"));
+    const QLabel *source = m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"));
+    QVERIFY(source->isVisible());
+    QCOMPARE(source->text(), QLatin1String("Source: simulated network (quick.scenario)"));
+}
+
+void MainWindowTest::theGeneralWindowIsInThePage()
+{
+    QVERIFY(page().isComplete());
+    QVERIFY(page().commandEdit()->isVisible());
+    QVERIFY(button("Dashboard_GeneralPageButton")->isChecked());
+}
+
+void MainWindowTest::thePageFollowsTheWindowsSize()
+{
+    const QWidget *dialog = page().commandEdit()->parentWidget();
+    while (dialog->parentWidget() != m_window->page())
+        dialog = dialog->parentWidget();
+    for (const QSize &size : {QSize(1100, 900), QSize(950, 750)}) {
+        m_window->resize(size);
+        QTRY_COMPARE(dialog->geometry(), m_window->page()->rect());
+    }
+    m_window->resize(300, 200); // smaller than it needs: it scrolls
+    QTRY_VERIFY(dialog->height() >= dialog->minimumSizeHint().height());
+}
+
+void MainWindowTest::thePageCanBeHiddenAndShownAgain()
+{
+    QTest::mouseClick(button("Dashboard_GeneralPageButton"), Qt::LeftButton);
+    QVERIFY(!page().commandEdit()->isVisible());
+    QTest::mouseClick(button("Dashboard_GeneralPageButton"), Qt::LeftButton);
+    QVERIFY(page().commandEdit()->isVisible());
+}
+
+void MainWindowTest::aCommandOfThePageIsAnswered()
+{
+    QVERIFY(page().send(QLatin1String("*100#")));
+    QVERIFY(page().isWaiting());
+    QVERIFY(!page().send(QLatin1String("*100#")));
+    QTRY_VERIFY(!page().isWaiting());
+    QCOMPARE(page().lastReceived(), QLatin1String("Your balance is 7.00 EUR."));
+}
+
+void MainWindowTest::theFrameOpensOverTheWindow()
+{
+    QTest::mouseClick(button("Dashboard_GeneralFrameButton"), Qt::LeftButton);
+    const GeneralWindow framed = GeneralWindow::framed();
+    QVERIFY(framed.isComplete());
+    const QWidget *frame = framed.commandEdit()->window();
+    QCOMPARE(frame->parentWidget(), m_window.data());
+    QVERIFY(frame != m_window.data());
+    QVERIFY(framed.send(QLatin1String("*198#")));
+    QTRY_VERIFY(!framed.isWaiting());
+    QVERIFY(!framed.lastReceived().isEmpty());
+    QVERIFY(framed.closeButton());
+    QTest::mouseClick(framed.closeButton(), Qt::LeftButton);
+    QTRY_VERIFY(!GeneralWindow::framed().isComplete());
+}
+
+void MainWindowTest::buttonsOfLaterWindowsAreHidden()
+{
+    for (const char *name :
+         {"Dashboard_PrepaidButton", "Dashboard_PostpaidButton", "Dashboard_UssdSmsButton"}) {
+        QVERIFY2(button(name), name);
+        QVERIFY2(!button(name)->isVisible(), name);
+    }
+}
+
+void MainWindowTest::theButtonsWaitForThePlugin()
+{
+    UiPlugin none;
+    const MainWindow window(&none, nullptr);
+    const QPushButton *frame =
+        window.findChild<QPushButton *>(QLatin1String("Dashboard_GeneralFrameButton"));
+    QVERIFY(!frame->isEnabled());
+    QVERIFY(button("Dashboard_GeneralFrameButton")->isEnabled());
+}
+
+void MainWindowTest::aMissingPluginIsSaidInThePage()
+{
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", folder().toLocal8Bit());
+    UiPlugin none;
+    MainWindow window(&none, nullptr);
+    window.show();
+    QCOMPARE(int(window.loadPlugin().step), int(PluginFailure::FileMissing));
+    const QLabel *text = window.page()->findChild<QLabel *>();
+    QVERIFY(text->isVisible());
+    QVERIFY(text->text().contains(folder()));
+    window.openFrame(0);
+    window.showPage(true);
+}
+
+void MainWindowTest::aChosenLanguageReachesEverything()
+{
+    const QString send = page().sendButton()->text();
+    QAction *german = networkAction(QLatin1String("Deutsch"));
+    QVERIFY(german);
+    german->trigger();
+    QCOMPARE(m_window->windowTitle(), QLatin1String("USSD-Dashboard"));
+    QVERIFY(page().sendButton()->text() != send);
+    QVERIFY(button("Dashboard_GeneralFrameButton")->text().contains(QLatin1String("Fenster")));
+    QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT")));
+}
+
+void MainWindowTest::aChosenLanguageIsRemembered()
+{
+    m_window->setLanguage(QLatin1String("fr"));
+    m_window->setLanguage(QLatin1String("xx"));
+    QCOMPARE(m_settings->language(), QLatin1String("fr"));
+    QCOMPARE(Languages::current(), QLatin1String("fr"));
+}
+
+void MainWindowTest::arabicTurnsTheWindow()
+{
+    const QPushButton *first = button("Dashboard_GeneralPageButton");
+    const QPushButton *second = button("Dashboard_GeneralFrameButton");
+    QVERIFY(first->x() < second->x());
+    m_window->setLanguage(QLatin1String("ar"));
+    QTRY_VERIFY(first->x() > second->x());
+}
+
+void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
+{
+    QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT"))->isChecked());
+    QAction *postpaid = networkAction(QLatin1String("postpaid"));
+    QVERIFY(postpaid);
+    postpaid->trigger();
+    QTRY_VERIFY(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"))
+                    ->text()
+                    .contains(QLatin1String("postpaid.scenario")));
+    QVERIFY(m_settings->scenario().endsWith(QLatin1String("/postpaid.scenario")));
+    QVERIFY(networkAction(QLatin1String("postpaid"))->isChecked());
+}
+
+void MainWindowTest::aBadScenarioIsSaidInWordsAndTheOldOneStays()
+{
+    const QString file = writeFile(QLatin1String("bad.scenario"), "[Network]\nOperator=\n");
+    QString said;
+    QTimer::singleShot(0, this, [&] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        said = textOf(box);
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    QVERIFY(!m_window->useScenario(file));
+    QVERIFY2(said.contains(QLatin1String("bad.scenario:")), qPrintable(said));
+    QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT"))->isChecked());
+    theDeviceAndTheSourceAreShown();
+    QVERIFY(m_settings->scenario().isEmpty());
+}
+
+void MainWindowTest::theModemCannotBeChosenYet()
+{
+    const QAction *modem = networkAction(dashboardText("NETWORK_MODEM"));
+    QVERIFY(modem);
+    QVERIFY(!modem->isEnabled());
+}
+
+void MainWindowTest::everyControlHasAName()
+{
+    for (const char *name :
+         {"Dashboard_Operator", "Dashboard_Signal", "Dashboard_Sim", "Dashboard_Source"}) {
+        const QLabel *label = m_window->findChild<QLabel *>(QLatin1String(name));
+        QVERIFY2(!label->accessibleName().isEmpty(), name);
+    }
+}
+
+USSD_TEST_MAIN(MainWindowTest)
+#include "main_window_test.moc"

@@ -1,0 +1,255 @@
+#include "DashboardText.h"
+#include "HostState.h"
+#include "IUIPlugin.h"
+#include "IUSSD.h"
+#include "Languages.h"
+#include "UiPlugin.h"
+#include "UssdTest.h"
+
+Q_DECLARE_METATYPE(PluginFailure::Step)
+
+namespace
+{
+
+const char NOTIFY_INTERFACE[] = "com.zelvor.portalcompass.plugin.INotify";
+const char UI_INTERFACE[] = "com.zelvor.portalcompass.plugin.IUIPlugin";
+const char USSD_INTERFACE[] = "com.zelvor.portalcompass.plugin.IUSSD";
+
+QString testPlugin(const char *name)
+{
+    return QLatin1String(PLUGIN_FOLDER "/lib") + QLatin1String(name) + QLatin1String(".so");
+}
+
+QStringList calls()
+{
+    return qApp->property("calls").toStringList();
+}
+
+} // namespace
+
+/** Each way of failing is a step of its own, with words, file and reason. */
+class PluginLoadingTest : public UssdTest
+{
+    Q_OBJECT
+protected:
+    void setUp() override;
+    void tearDown() override { HostState::setShuttingDown(false); }
+
+private slots:
+    void theInstalledPluginLoads();
+    void aMissingFileIsSaid();
+    void aFolderIsNoFile();
+    void aTextFileIsNoLibrary();
+    void anEmptyFileIsNoLibrary();
+    void aMissingSymbolIsSaidByName();
+    void aLibraryThatIsNoPluginIsOfTheWrongBuild();
+    void aPluginOfAnotherQtIsOfTheWrongBuild();
+    void aPluginWithoutObjectIsSaid();
+    void aMissingInterfaceIsSaidByName_data();
+    void aMissingInterfaceIsSaidByName();
+    void aPluginThatRefusesToStartIsSaid();
+    void aPluginWithoutServiceIsSaid_data();
+    void aPluginWithoutServiceIsSaid();
+    void aGoodPluginLoadsAfterABadOne();
+    void shutDownKeepsItsOrder();
+    void shutDownTwiceIsHarmless();
+    void aPluginThatFailedHalfwayIsShutDownToo();
+    void theLanguageChangeReachesThePlugin();
+    void everyStepHasWordsOfItsOwn();
+
+private:
+    PluginFailure load(const QString &file);
+};
+
+void PluginLoadingTest::setUp()
+{
+    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    qApp->setProperty("calls", QStringList());
+}
+
+PluginFailure PluginLoadingTest::load(const QString &file)
+{
+    UiPlugin plugin;
+    const PluginFailure failure = plugin.load(file);
+    if (failure.step != PluginFailure::None && plugin.isUsable())
+        qWarning("usable in spite of a failure");
+    return failure;
+}
+
+void PluginLoadingTest::theInstalledPluginLoads()
+{
+    UiPlugin plugin;
+    const PluginFailure failure = plugin.load(UiPlugin::installedFile());
+    QVERIFY2(failure.step == PluginFailure::None, qPrintable(failure.text()));
+    QVERIFY(plugin.isUsable());
+    QCOMPARE(plugin.plugin()->GetPluginName(), QLatin1String("USSDUIPluginImpl"));
+    QVERIFY(failure.text().isEmpty());
+}
+
+void PluginLoadingTest::aMissingFileIsSaid()
+{
+    const QString file = folder() + QLatin1String("/missing.so");
+    const PluginFailure failure = load(file);
+    QCOMPARE(failure.step, PluginFailure::FileMissing);
+    QCOMPARE(failure.file, file);
+    QVERIFY(failure.text().contains(file));
+}
+
+void PluginLoadingTest::aFolderIsNoFile()
+{
+    QCOMPARE(load(folder()).step, PluginFailure::FileMissing);
+}
+
+void PluginLoadingTest::aTextFileIsNoLibrary()
+{
+    const PluginFailure failure = load(
+        writeFile(QLatin1String("libtext.so"), QByteArray("this is a text file\n").repeated(99)));
+    QCOMPARE(failure.step, PluginFailure::NotALibrary);
+    QVERIFY(failure.text().contains(QLatin1String("libtext.so")));
+    QVERIFY(!failure.detail.isEmpty());
+    QVERIFY(failure.text().contains(failure.detail));
+}
+
+void PluginLoadingTest::anEmptyFileIsNoLibrary()
+{
+    QCOMPARE(load(writeFile(QLatin1String("libempty.so"), QByteArray())).step,
+             PluginFailure::NotALibrary);
+}
+
+void PluginLoadingTest::aMissingSymbolIsSaidByName()
+{
+    const PluginFailure failure = load(testPlugin("plugin_without_symbol"));
+    QCOMPARE(failure.step, PluginFailure::NotALibrary);
+    QVERIFY2(failure.text().contains(QLatin1String("functionThatNobodyHas")),
+             qPrintable(failure.text()));
+}
+
+void PluginLoadingTest::aLibraryThatIsNoPluginIsOfTheWrongBuild()
+{
+    const PluginFailure failure = load(testPlugin("no_plugin"));
+    QCOMPARE(failure.step, PluginFailure::WrongBuild);
+    QVERIFY(!failure.detail.isEmpty());
+}
+
+void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
+{
+    QFile good(testPlugin("good_plugin"));
+    QVERIFY(good.open(QIODevice::ReadOnly));
+    QByteArray content = good.readAll();
+    // Behind the mark stand the form of the data, then the major and minor version of Qt.
+    const int mark = content.indexOf("QTMETADATA !");
+    QVERIFY(mark > 0);
+    QCOMPARE(int(content.at(mark + 13)), 5);
+    content[mark + 14] = 99;
+    const PluginFailure failure = load(writeFile(QLatin1String("libother.so"), content));
+    QCOMPARE(failure.step, PluginFailure::WrongBuild);
+    QVERIFY2(failure.detail.contains(QLatin1String("5.99")), qPrintable(failure.detail));
+}
+
+void PluginLoadingTest::aPluginWithoutObjectIsSaid()
+{
+    QCOMPARE(load(testPlugin("plugin_without_instance")).step, PluginFailure::NoInstance);
+}
+
+void PluginLoadingTest::aMissingInterfaceIsSaidByName_data()
+{
+    QTest::addColumn<QByteArray>("plugin");
+    QTest::addColumn<QByteArray>("interface");
+    QTest::newRow("none") << QByteArray("plugin_without_interfaces") << QByteArray(UI_INTERFACE);
+    QTest::newRow("INotify") << QByteArray("plugin_without_notify") << QByteArray(NOTIFY_INTERFACE);
+    QTest::newRow("IUSSD") << QByteArray("plugin_with_other_service") << QByteArray(USSD_INTERFACE);
+}
+
+void PluginLoadingTest::aMissingInterfaceIsSaidByName()
+{
+    QFETCH(QByteArray, plugin);
+    QFETCH(QByteArray, interface);
+    const PluginFailure failure = load(testPlugin(plugin.constData()));
+    QCOMPARE(failure.step, PluginFailure::NoInterface);
+    QCOMPARE(failure.detail, QString::fromLatin1(interface));
+    QVERIFY(failure.text().contains(QString::fromLatin1(interface)));
+}
+
+void PluginLoadingTest::aPluginThatRefusesToStartIsSaid()
+{
+    QCOMPARE(load(testPlugin("plugin_that_refuses")).step, PluginFailure::InitFailed);
+}
+
+void PluginLoadingTest::aPluginWithoutServiceIsSaid_data()
+{
+    QTest::addColumn<QByteArray>("plugin");
+    QTest::newRow("says no") << QByteArray("plugin_without_service");
+    QTest::newRow("says yes but gives none") << QByteArray("plugin_with_null_service");
+}
+
+void PluginLoadingTest::aPluginWithoutServiceIsSaid()
+{
+    QFETCH(QByteArray, plugin);
+    const PluginFailure failure = load(testPlugin(plugin.constData()));
+    QCOMPARE(failure.step, PluginFailure::NoService);
+    QVERIFY(failure.text().contains(QLatin1String("4097")));
+}
+
+void PluginLoadingTest::aGoodPluginLoadsAfterABadOne()
+{
+    QCOMPARE(load(testPlugin("no_plugin")).step, PluginFailure::WrongBuild);
+    QCOMPARE(load(testPlugin("good_plugin")).step, PluginFailure::None);
+}
+
+void PluginLoadingTest::shutDownKeepsItsOrder()
+{
+    UiPlugin plugin;
+    QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
+    plugin.shutDown();
+    QVERIFY(!plugin.isUsable());
+    QCOMPARE(calls(), QStringList() << QLatin1String("Init") << QLatin1String("QueryInterface")
+                                    << QLatin1String("UnSDKRegisterEvent, shutting down")
+                                    << QLatin1String("OnDestroy") << QLatin1String("deleted"));
+}
+
+void PluginLoadingTest::shutDownTwiceIsHarmless()
+{
+    UiPlugin plugin;
+    QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
+    plugin.shutDown();
+    const QStringList once = calls();
+    plugin.shutDown();
+    plugin.notifyLanguageChange();
+    QCOMPARE(calls(), once);
+}
+
+void PluginLoadingTest::aPluginThatFailedHalfwayIsShutDownToo()
+{
+    load(testPlugin("plugin_without_service"));
+    QCOMPARE(calls().last(), QLatin1String("deleted"));
+    QVERIFY(calls().contains(QLatin1String("OnDestroy")));
+}
+
+void PluginLoadingTest::theLanguageChangeReachesThePlugin()
+{
+    UiPlugin plugin;
+    QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
+    plugin.notifyLanguageChange();
+    QCOMPARE(calls().last(), QLatin1String("Notify 320"));
+}
+
+void PluginLoadingTest::everyStepHasWordsOfItsOwn()
+{
+    for (const QString &code : Languages::codes()) {
+        QVERIFY(Languages::setCurrent(code));
+        QStringList texts;
+        for (int step = PluginFailure::FileMissing; step <= PluginFailure::NoService; ++step) {
+            PluginFailure failure;
+            failure.step = PluginFailure::Step(step);
+            failure.file = QLatin1String("/a/%2/file");
+            failure.detail = QLatin1String("the-reason");
+            texts << failure.text();
+            QVERIFY(texts.last().contains(failure.file));
+            QVERIFY(!texts.last().startsWith(QLatin1String("PLUGIN_")));
+        }
+        QCOMPARE(texts.removeDuplicates(), 0);
+    }
+}
+
+USSD_TEST_MAIN(PluginLoadingTest)
+#include "plugin_loading_test.moc"

@@ -1,0 +1,305 @@
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+
+#include "UssdTest.h"
+
+namespace
+{
+
+struct Run {
+    int code = -1;
+    QString out;
+    QString error;
+};
+
+Run run(const QStringList &arguments, const QProcessEnvironment &environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QLatin1String(PROGRAM_FILE), arguments);
+    Run result;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return result;
+    result.code = process.exitCode();
+    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    result.error = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+QProcessEnvironment quickNetwork()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QLatin1String("QT_QPA_PLATFORM"));
+    environment.remove(QLatin1String("DISPLAY"));
+    environment.remove(QLatin1String("WAYLAND_DISPLAY"));
+    return environment;
+}
+
+Run run(const char *line)
+{
+    return run(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts), quickNetwork());
+}
+
+int differentPixels(const QImage &a, const QImage &b)
+{
+    int count = 0;
+    for (int y = 0; y < qMin(a.height(), b.height()); ++y) {
+        for (int x = 0; x < qMin(a.width(), b.width()); ++x)
+            count += a.pixel(x, y) != b.pixel(x, y);
+    }
+    return count;
+}
+
+} // namespace
+
+/** The program as a user starts it, on a machine without a display. */
+class ProgramTest : public UssdTest
+{
+    Q_OBJECT
+private slots:
+    void helpAndVersionArePrinted();
+    void mistakesEndWithTwo_data();
+    void mistakesEndWithTwo();
+    void withoutADisplayItSaysSo();
+
+    void aReplyIsPrintedAsItIs();
+    void aReplyInOtherLettersIsWhole();
+    void theMenuIsAnsweredInTurn();
+    void answersNobodyAskedForAreNotSent();
+    void aRefusalEndsWithOneAndItsText();
+    void aTimeOutEndsWithOneAndItsText();
+    void aFailureSpeaksTheLanguage();
+    void aTooLongCodeFails();
+    void aDeviceThatIsNotReadyIsNamed();
+    void aDeviceThatGoesAwayFails();
+    void noControlCharacterReachesTheTerminal();
+    void theLogIsSilentUnlessAskedFor();
+    void aBadScenarioIsNamedByLine();
+    void aMissingPluginIsSaid();
+    void theShippedNetworkTellsTheBalance();
+    void nothingIsLeftBehind();
+
+    void theTourLeavesPicturesAndTranscript();
+    void aTourThatCannotWriteSaysSo();
+
+private:
+    Run runWith(const QByteArray &scenario, const char *line);
+};
+
+Run ProgramTest::runWith(const QByteArray &scenario, const char *line)
+{
+    const QString file = writeFile(QLatin1String("own.scenario"), scenario);
+    QStringList arguments = QString::fromUtf8(line).split(QLatin1Char(' '));
+    arguments << QLatin1String("--scenario") << file;
+    return run(arguments, quickNetwork());
+}
+
+void ProgramTest::helpAndVersionArePrinted()
+{
+    const Run help = run("--help");
+    QCOMPARE(help.code, 0);
+    QVERIFY(help.out.contains(QLatin1String("--send CODE [ANSWER...]")));
+    const Run version = run("--version");
+    QCOMPARE(version.code, 0);
+    QVERIFY(version.out.startsWith(QLatin1String("ussd-dashboard 0.")));
+    QVERIFY(version.error.isEmpty());
+}
+
+void ProgramTest::mistakesEndWithTwo_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("words");
+    QTest::newRow("option") << QByteArray("--bogus") << QByteArray("--bogus");
+    QTest::newRow("language") << QByteArray("--language xx --send *100#") << QByteArray("en de fr");
+    QTest::newRow("word") << QByteArray("hello") << QByteArray("hello");
+    QTest::newRow("no code") << QByteArray("--send") << QByteArray("--send");
+}
+
+void ProgramTest::mistakesEndWithTwo()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, words);
+    const Run result = run(line.constData());
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.error.contains(QString::fromLatin1(words)), qPrintable(result.error));
+    QVERIFY(result.error.contains(QLatin1String("--help")));
+    QVERIFY(result.out.isEmpty());
+}
+
+void ProgramTest::withoutADisplayItSaysSo()
+{
+    const Run result = run("");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(QLatin1String("no display")), qPrintable(result.error));
+}
+
+void ProgramTest::aReplyIsPrintedAsItIs()
+{
+    const Run result = run("--send *101#");
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.out, QLatin1String("two  blanks\n\nand <b>no</b> &amp; markup\n"));
+    QVERIFY2(result.error.isEmpty(), qPrintable(result.error));
+}
+
+void ProgramTest::aReplyInOtherLettersIsWhole()
+{
+    QCOMPARE(run("--send *197#").out, QString::fromUtf8("رصيدك 7.00، اطلب *100#\n"));
+}
+
+void ProgramTest::theMenuIsAnsweredInTurn()
+{
+    const Run result = run("--send *123# 2 1");
+    QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\nSecond\n1 Deeper\nDeep enough\n"));
+    QCOMPARE(result.code, 0);
+}
+
+void ProgramTest::answersNobodyAskedForAreNotSent()
+{
+    const Run result = run("--send *123# 1 8 9");
+    QCOMPARE(result.code, 1);
+    QVERIFY(result.out.endsWith(QLatin1String("You chose 1\n")));
+    QVERIFY2(result.error.contains(QLatin1String("8 9")), qPrintable(result.error));
+}
+
+void ProgramTest::aRefusalEndsWithOneAndItsText()
+{
+    const Run result = run("--send *198#");
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.error, QLatin1String("The command was not carried out.\n"));
+    QVERIFY(result.out.isEmpty());
+}
+
+void ProgramTest::aTimeOutEndsWithOneAndItsText()
+{
+    const Run result = run("--send *199#");
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.error, QLatin1String("The network did not reply in time.\n"));
+}
+
+void ProgramTest::aFailureSpeaksTheLanguage()
+{
+    const Run result = run("--language de --send *199#");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(QLatin1String("Netz")), qPrintable(result.error));
+}
+
+void ProgramTest::aTooLongCodeFails()
+{
+    const QString code = QLatin1Char('*') + QString(91, QLatin1Char('1')) + QLatin1Char('#');
+    const Run result = run(QStringList() << QLatin1String("--send") << code, quickNetwork());
+    QCOMPARE(result.code, 1);
+    QVERIFY(!result.error.isEmpty());
+}
+
+void ProgramTest::aDeviceThatIsNotReadyIsNamed()
+{
+    const Run result = runWith("[Network]\nOperator=O\nIMSI=001010000000007\nState=sim-locked\n"
+                               "[*100#]\nReply=x\n",
+                               "--send *100#");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(QLatin1String("PIN")), qPrintable(result.error));
+}
+
+void ProgramTest::aDeviceThatGoesAwayFails()
+{
+    const Run result = run("--send *194#");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(QLatin1String("no device")), qPrintable(result.error));
+}
+
+void ProgramTest::noControlCharacterReachesTheTerminal()
+{
+    const QByteArray reply = "a\x1b[31mb\x07\x7f\xc2\x9b"
+                             "31m\xe2\x80\xaegfed\xe2\x80\xac\\tz";
+    const QByteArray scenario =
+        "[Network]\nOperator=O\nIMSI=001010000000007\n[*100#]\nReply=" + reply + "\n";
+    const Run result = runWith(scenario, "--verbose --send *100#");
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.out, QString::fromUtf8("a\xef\xbf\xbd[31mb\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"
+                                           "31m\xef\xbf\xbdgfed\xef\xbf\xbd\tz\n"));
+    QVERIFY(result.error.contains(QLatin1String("[31mb"))); // the log shows the reply as well
+    QVERIFY(!result.error.contains(QChar(0x1b)));
+    QVERIFY(!result.error.contains(QChar(0x9b)));
+}
+
+void ProgramTest::theLogIsSilentUnlessAskedFor()
+{
+    QVERIFY(run("--send *100#").error.isEmpty());
+    QVERIFY(run("--verbose --send *100#").error.contains(QLatin1String("Enter")));
+}
+
+void ProgramTest::aBadScenarioIsNamedByLine()
+{
+    const Run result = runWith("[Network]\nOperator=O\nIMSI=1\n", "--send *100#");
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.error.contains(QLatin1String("own.scenario:3")), qPrintable(result.error));
+}
+
+void ProgramTest::aMissingPluginIsSaid()
+{
+    QProcessEnvironment environment = quickNetwork();
+    environment.insert(QLatin1String("USSD_PLUGIN_LIBRARY_PATH"), folder());
+    const Run result =
+        run(QStringList() << QLatin1String("--send") << QLatin1String("*100#"), environment);
+    QCOMPARE(result.code, 1);
+    QVERIFY(result.error.contains(folder() + QLatin1String("/plugins/USSDUIPlugin/")));
+}
+
+void ProgramTest::theShippedNetworkTellsTheBalance()
+{
+    QProcessEnvironment environment = quickNetwork();
+    environment.remove(QLatin1String("TKSV_SCENARIO"));
+    environment.remove(QLatin1String("USSD_REPLY_TIMEOUT_MS"));
+    const Run result =
+        run(QStringList() << QLatin1String("--send") << QLatin1String("*100#"), environment);
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.out.contains(QLatin1String("balance")), qPrintable(result.out));
+}
+
+void ProgramTest::nothingIsLeftBehind()
+{
+    QProcessEnvironment environment = quickNetwork();
+    environment.insert(QLatin1String("XDG_CONFIG_HOME"), folder());
+    run(QStringList() << QLatin1String("--send") << QLatin1String("*100#"), environment);
+    QVERIFY(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
+}
+
+void ProgramTest::theTourLeavesPicturesAndTranscript()
+{
+    const QDir tour(folder() + QLatin1String("/a/tour"));
+    const Run result = run(QStringList() << QLatin1String("--tour") << tour.path(), quickNetwork());
+    QVERIFY2(result.code == 0, qPrintable(result.error));
+    const QStringList pictures = tour.entryList(QStringList(QLatin1String("*.png")));
+    QCOMPARE(pictures.size(), 40);
+    for (const QString &picture : pictures)
+        QVERIFY(result.out.contains(picture));
+    for (const char *stop :
+         {"idle", "waiting", "answered", "menu", "timed-out", "refused", "confirm", "cleared"}) {
+        const QString pattern = QLatin1String("*-") + QLatin1String(stop) + QLatin1String(".png");
+        QCOMPARE(tour.entryList(QStringList(pattern)).size(), 4);
+    }
+    for (int i = 1; i < pictures.size(); ++i) {
+        const QImage picture(tour.filePath(pictures.at(i)));
+        QVERIFY2(differentPixels(picture, QImage(tour.filePath(pictures.at(i - 1)))) > 50,
+                 qPrintable(pictures.at(i)));
+    }
+    QFile transcript(tour.filePath(QLatin1String("transcript.txt")));
+    QVERIFY(transcript.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(transcript.readAll());
+    QVERIFY(text.contains(QLatin1String("Your balance is 12.50 EUR")));
+    QVERIFY(text.contains(QLatin1String("The network did not reply in time.")));
+    QVERIFY(text.contains(QString::fromUtf8("العربية")));
+}
+
+void ProgramTest::aTourThatCannotWriteSaysSo()
+{
+    const QString file = writeFile(QLatin1String("file"), "x");
+    const Run result = run(QStringList() << QLatin1String("--tour") << file + QLatin1String("/sub"),
+                           quickNetwork());
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(file), qPrintable(result.error));
+}
+
+USSD_TEST_MAIN(ProgramTest)
+#include "program_test.moc"

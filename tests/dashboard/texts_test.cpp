@@ -1,0 +1,72 @@
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include "DashboardText.h"
+#include "Languages.h"
+#include "UssdTest.h"
+
+/** Keys stand in tables too, not only where a text is asked for. */
+class TextsTest : public UssdTest
+{
+    Q_OBJECT
+private slots:
+    void everyKeyOfTheSourcesHasATextInEveryLanguage();
+    void theHelpNamesEveryOption();
+};
+
+namespace
+{
+
+QStringList keysIn(const QString &code)
+{
+    // The first words of the dashboard's keys; other upper-case names are the environment's.
+    static const QRegularExpression key(
+        QLatin1String("\"((?:APP|MENU|ACTION|WINDOW|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
+                      "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR)_[A-Z_]+)\""));
+    QStringList keys;
+    for (auto match = key.globalMatch(code); match.hasNext();)
+        keys << match.next().captured(1);
+    return keys;
+}
+
+QStringList keysOfSources()
+{
+    const QDir folder(QLatin1String(DASHBOARD_SOURCES));
+    QStringList keys;
+    for (const QString &name : folder.entryList(QStringList(QLatin1String("*.cpp")))) {
+        QFile file(folder.filePath(name));
+        if (file.open(QIODevice::ReadOnly))
+            keys << keysIn(QString::fromUtf8(file.readAll()));
+    }
+    keys.removeDuplicates();
+    return keys;
+}
+
+} // namespace
+
+void TextsTest::everyKeyOfTheSourcesHasATextInEveryLanguage()
+{
+    const QStringList keys = keysOfSources();
+    QVERIFY(keys.size() > 50);
+    for (const QString &code : Languages::codes()) {
+        QVERIFY(Languages::setCurrent(code));
+        for (const QString &key : keys)
+            QVERIFY2(dashboardText(key.toLatin1().constData()) != key,
+                     qPrintable(code + QLatin1Char(' ') + key));
+    }
+}
+
+void TextsTest::theHelpNamesEveryOption()
+{
+    for (const QString &code : Languages::codes()) {
+        QVERIFY(Languages::setCurrent(code));
+        const QString help = dashboardText("CLI_HELP");
+        for (const char *option :
+             {"--send", "--tour", "--scenario", "--language", "--verbose", "--help", "--version"})
+            QVERIFY2(help.contains(QLatin1String(option)), option);
+    }
+}
+
+USSD_TEST_MAIN(TextsTest)
+#include "texts_test.moc"
