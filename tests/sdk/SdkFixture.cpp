@@ -10,7 +10,7 @@
 namespace
 {
 
-std::mutex insideMutex;
+std::mutex insideMutex; // held while the action runs
 std::function<void(const Response &)> insideUssd;
 
 std::u16string textAt(const unsigned short *units)
@@ -90,14 +90,10 @@ unsigned char onUssd(int event, void *data)
 {
     const auto *record = static_cast<const TKSV_USSDResponse *>(data);
     const Response response{event, record->type, textAt(record->text), std::this_thread::get_id()};
-    std::function<void(const Response &)> action;
-    {
-        const std::lock_guard<std::mutex> lock(insideMutex);
-        action = insideUssd;
-    }
+    const std::lock_guard<std::mutex> lock(insideMutex);
     received().responses.add(response);
-    if (action)
-        action(response);
+    if (insideUssd)
+        insideUssd(response);
     return 1;
 }
 
@@ -118,10 +114,16 @@ unsigned char onSms(int event, void *data)
     return 1;
 }
 
-void setInsideUssd(std::function<void(const Response &)> action)
+InsideUssd::InsideUssd(std::function<void(const Response &)> action)
 {
     const std::lock_guard<std::mutex> lock(insideMutex);
     insideUssd = std::move(action);
+}
+
+InsideUssd::~InsideUssd()
+{
+    const std::lock_guard<std::mutex> lock(insideMutex);
+    insideUssd = nullptr;
 }
 
 long request(const std::u16string &text, int *status)

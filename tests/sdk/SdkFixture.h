@@ -100,8 +100,16 @@ unsigned char onUssd(int event, void *data);
 unsigned char onDevice(int event, void *data);
 unsigned char onSms(int event, void *data);
 
-/// Run inside the USSD call-back, after the response was recorded; empty: nothing.
-void setInsideUssd(std::function<void(const Response &)> action);
+/** Runs an action inside the USSD call-back, after the response was recorded. */
+class InsideUssd
+{
+public:
+    explicit InsideUssd(std::function<void(const Response &)> action);
+    /// When it returns, the action is not running: what it refers to may go.
+    ~InsideUssd();
+    InsideUssd(const InsideUssd &) = delete;
+    InsideUssd &operator=(const InsideUssd &) = delete;
+};
 
 /// Sends the text; the result is that of the call.
 long request(const std::u16string &text, int *status = nullptr);

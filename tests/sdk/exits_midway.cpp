@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <mutex>
-#include <string>
 #include <thread>
 
 #include "tksv_device.h"
@@ -20,7 +19,12 @@ const int Asked = 42;
 std::mutex mutex;
 std::condition_variable changed;
 bool entered = false;
-std::string mode;
+const char *mode = ""; // no object: other threads read it until the very end
+
+bool isMode(const char *name)
+{
+    return std::strcmp(mode, name) == 0;
+}
 
 void tellEntered()
 {
@@ -38,9 +42,9 @@ void waitUntilEntered()
 unsigned char onUssd(int, void *)
 {
     tellEntered();
-    if (mode == "exit-in-callback")
+    if (isMode("exit-in-callback"))
         std::exit(Asked);
-    while (mode == "callback-hangs")
+    while (isMode("callback-hangs"))
         std::this_thread::sleep_for(std::chrono::seconds(1));
     return 1;
 }
@@ -78,14 +82,14 @@ void busyThread()
 void prepare()
 {
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
-    if (mode == "request-in-flight")
+    if (isMode("request-in-flight"))
         return request("*199#");
-    if (mode == "other-thread-calls")
+    if (isMode("other-thread-calls"))
         std::thread(busyThread).detach();
     else
         request("*100#");
     waitUntilEntered();
-    if (mode == "exit-in-callback") {
+    if (isMode("exit-in-callback")) {
         for (;;)
             std::this_thread::sleep_for(std::chrono::seconds(1)); // the call-back exits
     }
@@ -108,10 +112,10 @@ int printInfo()
 int main(int argc, char **argv)
 {
     mode = argc > 1 ? argv[1] : "";
-    if (mode == "info")
+    if (isMode("info"))
         return printInfo();
     static const LateCaller lateCaller;
-    if (mode != "never-used")
+    if (!isMode("never-used"))
         prepare();
     return Asked;
 }

@@ -228,7 +228,6 @@ void SdkPromises::init()
 
 void SdkPromises::cleanup()
 {
-    setInsideUssd(nullptr);
     unregisterAll();
     TKSV_USSDSrv_UnRegisterUSSDCallback(secondUssd);
     received().clear();
@@ -285,7 +284,7 @@ void SdkPromises::callbackNeverComesInsideACall()
 {
     std::atomic<bool> inCall(false);
     std::atomic<bool> nested(false);
-    setInsideUssd([&](const Response &response) {
+    const InsideUssd inside([&](const Response &response) {
         if (inCall)
             nested = true;
         if (response.text != u"first")
@@ -296,7 +295,6 @@ void SdkPromises::callbackNeverComesInsideACall()
     });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(2));
-    setInsideUssd(nullptr);
     QVERIFY(!nested);
 }
 
@@ -324,7 +322,7 @@ void SdkPromises::oneCallbackAtATimeForEachService()
 void SdkPromises::servicesDoNotWaitForEachOther()
 {
     Gate gate;
-    setInsideUssd([&](const Response &) { gate.wait(); });
+    const InsideUssd inside([&](const Response &) { gate.wait(); });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(sendSms(u"1", u"text"), 0L);
@@ -346,7 +344,11 @@ void SdkPromises::registeringTwiceIsLikeOnce()
 void SdkPromises::registeredGetsOnlyWhatComesLater()
 {
     Gate gate;
-    setInsideUssd([&](const Response &) { gate.wait(); });
+    std::atomic<int> callsBefore(-1);
+    const InsideUssd inside([&](const Response &) {
+        gate.wait();
+        callsBefore = secondCalls.load();
+    });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*101#"), 0L);
@@ -354,8 +356,6 @@ void SdkPromises::registeredGetsOnlyWhatComesLater()
     QCOMPARE(TKSV_USSDSrv_RegisterUSSDCallback(secondUssd), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
-    std::atomic<int> callsBefore(-1);
-    setInsideUssd([&](const Response &) { callsBefore = secondCalls.load(); });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(waitUntil([] { return secondCalls > 0; }));
     QCOMPARE(callsBefore.load(), 0);
@@ -367,7 +367,7 @@ void SdkPromises::unregisterWaitsForTheRunningCallback()
     Gate gate;
     std::atomic<bool> callbackDone(false);
     std::atomic<bool> doneBeforeReturn(false);
-    setInsideUssd([&](const Response &) {
+    const InsideUssd inside([&](const Response &) {
         gate.wait();
         std::this_thread::sleep_for(std::chrono::milliseconds(20)); // time to return too early
         callbackDone = true;
@@ -414,7 +414,7 @@ void SdkPromises::secondUnregisterWaitsToo()
     Gate gate;
     std::atomic<bool> callbackDone(false);
     std::atomic<int> early(0);
-    setInsideUssd([&](const Response &) {
+    const InsideUssd inside([&](const Response &) {
         gate.wait();
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         callbackDone = true;
@@ -490,7 +490,7 @@ void SdkPromises::laterRequestReplacesTheEarlier()
 void SdkPromises::replacedRequestGetsNoResponseThatWaitedItsTurn()
 {
     Gate gate;
-    setInsideUssd([&](const Response &) { gate.wait(); });
+    const InsideUssd inside([&](const Response &) { gate.wait(); });
     QCOMPARE(request(u"*101#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*120#"), 0L);
@@ -498,7 +498,6 @@ void SdkPromises::replacedRequestGetsNoResponseThatWaitedItsTurn()
     QCOMPARE(request(u"*100#"), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
-    setInsideUssd(nullptr);
     QCOMPARE(shown(ask(u"*150#").text.substr(0, 1)), shown(u"€"));
     QCOMPARE(received().responses.all().size(), std::size_t(3));
     QCOMPARE(shown(received().responses.all()[1].text), shown(u"first"));
@@ -507,19 +506,18 @@ void SdkPromises::replacedRequestGetsNoResponseThatWaitedItsTurn()
 void SdkPromises::requestFromInsideTheCallbackIsTaken()
 {
     std::atomic<int> left(10);
-    setInsideUssd([&](const Response &) {
+    const InsideUssd inside([&](const Response &) {
         if (left-- > 0)
             request(u"*101#");
     });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(11));
-    setInsideUssd(nullptr);
     QCOMPARE(shown(received().responses.all()[10].text), shown(u"second"));
 }
 
 void SdkPromises::answerFromInsideTheCallbackIsTaken()
 {
-    setInsideUssd([](const Response &response) {
+    const InsideUssd inside([](const Response &response) {
         if (response.type == 1)
             request(u"1");
     });
@@ -541,7 +539,7 @@ void SdkPromises::releaseEndsTheRequest()
 void SdkPromises::releaseTakesBackAResponseThatWaitedItsTurn()
 {
     Gate gate;
-    setInsideUssd([&](const Response &) { gate.wait(); });
+    const InsideUssd inside([&](const Response &) { gate.wait(); });
     QCOMPARE(request(u"*101#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*150#"), 0L);
