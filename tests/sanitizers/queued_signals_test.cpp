@@ -29,6 +29,7 @@ private slots:
     void waitConditionHandsOver();
     void timedWaitGivesUpAndKeepsTheMutex();
     void mutexMayStandWhereAnotherStood();
+    void whatAThreadWroteIsSeenAfterItsEnd();
 
     void keep(int number, const QString &text);
 
@@ -222,6 +223,18 @@ void QueuedSignalsTest::mutexMayStandWhereAnotherStood()
         m_plain = round;
     }
     QCOMPARE(m_plain, ROUNDS - 1);
+}
+
+void QueuedSignalsTest::whatAThreadWroteIsSeenAfterItsEnd()
+{
+    for (int round = 0; round < 20; ++round) {
+        QScopedPointer<QThread> thread(QThread::create([&] { m_plain = round; }));
+        thread->start();
+        while (round % 2 && !thread->isFinished()) // one wait that sleeps, one that does not
+            QThread::yieldCurrentThread();
+        QVERIFY(thread->wait());
+        QCOMPARE(m_plain, round);
+    }
 }
 
 USSD_TEST_MAIN(QueuedSignalsTest)

@@ -198,3 +198,41 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
     }
     return done;
 }
+
+// ---- QThread
+// -------------------------------------------------------------------------------------
+
+// What a thread did comes before the return of a wait for its end; Qt emits finished() on that
+// thread, before it wakes whoever waits.
+#define THREAD_START "_ZN7QThread5startENS_8PriorityE"
+void tsanThreadStart(QThread *thread, QThread::Priority priority) STANDS_FOR(THREAD_START);
+void tsanThreadStart(QThread *thread, QThread::Priority priority)
+{
+    static const auto real = realOne<void(QThread *, QThread::Priority)>(THREAD_START);
+    QObject::connect(
+        thread, &QThread::finished, thread, [thread] { __tsan_release(thread); },
+        Qt::DirectConnection);
+    real(thread, priority);
+}
+
+#define THREAD_WAIT_FOR "_ZN7QThread4waitEm"
+bool tsanThreadWaitFor(QThread *thread, unsigned long milliseconds) STANDS_FOR(THREAD_WAIT_FOR);
+bool tsanThreadWaitFor(QThread *thread, unsigned long milliseconds)
+{
+    static const auto real = realOne<bool(QThread *, unsigned long)>(THREAD_WAIT_FOR);
+    const bool ended = real(thread, milliseconds);
+    if (ended)
+        __tsan_acquire(thread);
+    return ended;
+}
+
+#define THREAD_WAIT_UNTIL "_ZN7QThread4waitE14QDeadlineTimer"
+bool tsanThreadWaitUntil(QThread *thread, QDeadlineTimer deadline) STANDS_FOR(THREAD_WAIT_UNTIL);
+bool tsanThreadWaitUntil(QThread *thread, QDeadlineTimer deadline)
+{
+    static const auto real = realOne<bool(QThread *, QDeadlineTimer)>(THREAD_WAIT_UNTIL);
+    const bool ended = real(thread, deadline);
+    if (ended)
+        __tsan_acquire(thread);
+    return ended;
+}
