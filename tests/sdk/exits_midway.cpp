@@ -2,11 +2,10 @@
  * A client that exits in the middle of something, which the first argument names. It must end with
  * the code that it asked for, whatever the library is doing.
  */
-#include <condition_variable>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <mutex>
 #include <thread>
 
 #include "tksv_device.h"
@@ -16,9 +15,7 @@ namespace
 
 const int Asked = 42;
 
-std::mutex mutex;
-std::condition_variable changed;
-bool entered = false;
+std::atomic<bool> entered(false);
 const char *mode = ""; // no object: other threads read it until the very end
 
 bool isMode(const char *name)
@@ -26,22 +23,15 @@ bool isMode(const char *name)
     return std::strcmp(mode, name) == 0;
 }
 
-void tellEntered()
-{
-    const std::lock_guard<std::mutex> lock(mutex);
-    entered = true;
-    changed.notify_all();
-}
-
 void waitUntilEntered()
 {
-    std::unique_lock<std::mutex> lock(mutex);
-    changed.wait(lock, [] { return entered; });
+    while (!entered)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 unsigned char onUssd(int, void *)
 {
-    tellEntered();
+    entered = true;
     if (isMode("exit-in-callback"))
         std::exit(Asked);
     while (isMode("callback-hangs"))
@@ -75,7 +65,7 @@ void busyThread()
         request("*100#");
         TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
-        tellEntered();
+        entered = true;
     }
 }
 

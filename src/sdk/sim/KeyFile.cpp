@@ -151,7 +151,7 @@ private:
         char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), &error);
         if (error) // also when there is a text
             m_complaints.add(m_line, key + ": expected n, t, s, r or \\ after each \\");
-        const std::string result = text ? text : "";
+        std::string result = text ? text : "";
         g_clear_error(&error);
         g_free(text);
         return result;

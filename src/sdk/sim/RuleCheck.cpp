@@ -1,0 +1,173 @@
+#include "RuleCheck.h"
+
+#include <algorithm>
+
+#include "../UssdSession.h"
+#include "GroupName.h"
+#include "ScenarioValue.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+std::string inBraces(std::vector<std::string> names)
+{
+    for (std::string &name : names)
+        name.insert(0, 1, '{').push_back('}');
+    return enumerate(names);
+}
+
+/** Checks one rule's keys against each other and against the rest of the scenario. */
+class RuleCheck
+{
+public:
+    RuleCheck(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+        : m_scenario(scenario), m_group(group), m_rule(scenario.rules.at(group.name)),
+          m_complaints(complaints)
+    {
+    }
+
+    void run()
+    {
+        checkOutcome();
+        checkGoto();
+        checkDigits();
+        checkCredit();
+        checkPlace();
+        checkReply();
+        for (const char *key : {"Reply", "WrongDigits", "NotEnough"})
+            checkPlaceholders(key);
+    }
+
+private:
+    bool has(const char *key) const { return m_group.find(key) != nullptr; }
+
+    void complain(const std::string &text)
+    {
+        m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
+    }
+
+    /// A key that means something only in certain groups.
+    void allow(const char *key, bool allowed, const std::string &where)
+    {
+        if (const KeyFileEntry *entry = m_group.find(key)) {
+            if (!allowed)
+                m_complaints.add(entry->line, std::string(key) + ": expected only " + where);
+        }
+    }
+
+    void checkOutcome()
+    {
+        const bool replies = m_rule.outcome == Outcome::Reply;
+        if (replies && !has("Reply") && !has("Goto"))
+            complain("expected Reply, Goto, Outcome or DeviceEvent");
+        allow("Reply", replies, "with Outcome=reply");
+        allow("Goto", replies, "with Outcome=reply");
+        allow("Credit", replies, "with Outcome=reply");
+        allow("Outcome", !has("DeviceEvent"), "without DeviceEvent");
+        allow("Away", has("DeviceEvent"), "with DeviceEvent");
+    }
+
+    void checkGoto()
+    {
+        if (!has("Goto"))
+            return;
+        if (m_group.entries.size() > 1)
+            complain("expected no other key beside Goto");
+        const auto target = m_scenario.rules.find(m_rule.goTo);
+        const int line = m_group.find("Goto")->line;
+        if (target == m_scenario.rules.end())
+            m_complaints.add(
+                line, "Goto: expected a code or answer of this file, such as *123#, found \"" +
+                          m_rule.goTo + "\"");
+        else if (!target->second.goTo.empty())
+            m_complaints.add(line, "Goto: expected a group without a Goto of its own");
+        else if (hasPattern(m_rule.goTo))
+            m_complaints.add(line,
+                             "Goto: expected a code without %s, found \"" + m_rule.goTo + "\"");
+    }
+
+    void checkDigits()
+    {
+        const bool isPattern = kindOf(m_group.name) == GroupKind::Code && hasPattern(m_group.name);
+        allow("Digits", isPattern, "in a group of a code with %s");
+        allow("WrongDigits", has("Digits"), "with Digits");
+    }
+
+    void checkCredit()
+    {
+        allow("Credit", m_scenario.balance.has_value(), "when [Network] has a Balance");
+        allow("Credit", !m_rule.creditDigits || hasPattern(m_group.name),
+              "an amount in a group of a code without %s");
+        allow("NotEnough", has("Credit"), "with Credit");
+    }
+
+    /// Where an answer stands among the other groups.
+    void checkPlace()
+    {
+        if (kindOf(m_group.name) != GroupKind::Answer)
+            return;
+        const std::string menu = menuOf(m_group.name);
+        const std::string answer = m_group.name.substr(menu.size() + 1);
+        const auto rule = m_scenario.rules.find(menu);
+        if (rule == m_scenario.rules.end())
+            complain("expected a group " + bracketed(menu) + ", which this is an answer to");
+        else if (rule->second.outcome != Outcome::Reply || !rule->second.goTo.empty())
+            complain("expected a Reply in " + bracketed(menu) + ", which this is an answer to");
+        const bool isPlain = !answer.empty() && answer.find('%') == std::string::npos;
+        if ((!isPlain && answer != AnyAnswer) || hasFormOfCode(answer))
+            complain("expected an answer, or %s for any other answer, after the last /");
+    }
+
+    void checkReply()
+    {
+        if (const KeyFileEntry *reply = m_group.find("Reply")) {
+            if (reply->value.empty())
+                m_complaints.add(reply->line, "Reply: expected a text");
+        }
+    }
+
+    std::vector<std::string> knownNames() const
+    {
+        std::vector<std::string> names = {"operator", "imsi"};
+        if (m_scenario.balance)
+            names.push_back("balance");
+        if (hasPattern(m_group.name))
+            names.push_back("digits");
+        if (kindOf(m_group.name) == GroupKind::Answer)
+            names.push_back("answer");
+        return names;
+    }
+
+    void checkPlaceholders(const char *key)
+    {
+        const KeyFileEntry *entry = m_group.find(key);
+        if (!entry)
+            return;
+        const std::vector<std::string> known = knownNames();
+        const std::string expected = std::string(key) + ": expected " + inBraces(known) + " here";
+        const auto names = placeholderNames(entry->value);
+        if (!names)
+            m_complaints.add(entry->line, expected + ", or {{ for a brace");
+        for (const std::string &name : names.value_or(std::vector<std::string>())) {
+            if (std::find(known.begin(), known.end(), name) == known.end())
+                m_complaints.add(entry->line, expected + ", found " + inBraces({name}));
+        }
+    }
+
+    const Scenario &m_scenario;
+    const KeyFileGroup &m_group;
+    const Rule &m_rule;
+    Complaints &m_complaints;
+};
+
+} // namespace
+
+void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+{
+    RuleCheck(scenario, group, complaints).run();
+}
+
+} // namespace tksv

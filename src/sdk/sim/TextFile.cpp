@@ -1,0 +1,54 @@
+#include "TextFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+
+namespace tksv
+{
+
+namespace
+{
+
+const std::size_t MaxBytes = std::size_t(1024) * 1024;
+
+using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+
+/// Does not wait for the writer of a pipe, which is then told by its kind.
+FilePointer openFile(const std::string &path)
+{
+    const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    return FilePointer(descriptor < 0 ? nullptr : fdopen(descriptor, "rb"), &std::fclose);
+}
+
+bool isRegular(std::FILE *file)
+{
+    struct stat status = {};
+    return fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::string systemError()
+{
+    return std::string("cannot be read: ") + std::strerror(errno);
+}
+
+} // namespace
+
+std::string readTextFile(const std::string &path, std::string &text)
+{
+    const FilePointer file = openFile(path);
+    if (!file)
+        return systemError();
+    if (!isRegular(file.get()))
+        return "expected a regular file";
+    text.resize(MaxBytes + 1);
+    text.resize(std::fread(&text[0], 1, text.size(), file.get()));
+    if (std::ferror(file.get()))
+        return systemError();
+    return text.size() > MaxBytes ? "expected at most 1 MiB" : std::string();
+}
+
+} // namespace tksv

@@ -1,0 +1,14 @@
+#ifndef TKSV_INTERNAL_TEXTFILE_H
+#define TKSV_INTERNAL_TEXTFILE_H
+
+#include <string>
+
+namespace tksv
+{
+
+/// Reads a regular file of at most 1 MiB. Empty on success, else what is wrong with it.
+std::string readTextFile(const std::string &path, std::string &text);
+
+} // namespace tksv
+
+#endif
