@@ -425,12 +425,23 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     const int result =
         m_pLogic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, command), &reason);
     m_bWaiting = true;
-    if (result == 0 || result == kResultQueued)
+    if (result == 0 || result == kResultQueued) {
+        parkFocus();
         return true;
+    }
     OnResponseReceived(COMPONENT_GENERAL, tr(QLatin1String(reason == TKSV_STATUS_DEVICE_TIMEOUT
                                                                ? "USSD_CODE_TIME_OUT"
                                                                : "USSD_CODE_FAILED")));
     return false;
+}
+
+/// The fields are about to be disabled, and the focus would move on to Clear, where a key that is
+/// still typed would press it.
+void USSDGeneralDlg::parkFocus()
+{
+    const QWidget *focus = QApplication::focusWidget();
+    if (focus && isAncestorOf(focus))
+        m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
 void USSDGeneralDlg::OnResponseReceived(int component, QString text)

@@ -99,6 +99,7 @@ private:
     /// Sends, and shows the failure as an answer when the request is refused.
     /// True when an answer is awaited.
     bool sendCommand(const QString &command);
+    void parkFocus();
     bool onResponseReceived();
     void appendToCmdHistory(QString text, bool sent);
     void showPromptForWaitingResponse(bool show);

@@ -31,6 +31,7 @@ const int kFirstFreeSlot = 9;
 const int kRightColumn = 2; // where transcript and entry stand, five columns wide
 const int kRightColumns = 5;
 const int kPromptRow = 8;
+const int kBoxSpacing = 4; // the fixed window holds all its rows only when they stand close
 
 const int kElideWidth = 127; // whatever the button's width is
 const int kPayButtons = 2;   // the last ones
@@ -242,6 +243,7 @@ void USSDGeneralDlg::setLayoutMargins(bool showPreBtns, bool showPreDescription)
     USSD_LOG_SCOPE();
     if (showPreBtns || showPreDescription)
         m_pMainGrid->setHorizontalSpacing(8);
+    m_pMainGrid->setVerticalSpacing(kBoxSpacing);
 }
 
 void USSDGeneralDlg::findPosAndAddElements(int &row)
@@ -283,7 +285,7 @@ void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
         m_pMainGrid->addLayout(box, row, 0, 3, 2);
         row = 9;
     } else if (slot % kSlotsInBox == kSlotsInBox - 1) {
-        m_pMainGrid->addLayout(box, row, 0, 4, 1);
+        m_pMainGrid->addLayout(box, row, 0, 4, 1, Qt::AlignTop);
         row = slot + 1;
     }
 }
@@ -304,20 +306,24 @@ QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 
 void USSDGeneralDlg::addFixedElements(int row)
 {
+    m_pPreBtnsBox[0]->setSpacing(kBoxSpacing);
     m_pPreBtnsBox[1]->setSpacing(0);
+    m_pPreBtnsBox[2]->setSpacing(kBoxSpacing);
     m_pMainGrid->addWidget(m_pHistoryView, row, kRightColumn, 6, kRightColumns);
     row += 6;
     m_pMainGrid->addWidget(m_pInfoLabel, row, kRightColumn, 1, kRightColumns);
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, kRightColumn, 1, kRightColumns - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, kRightColumn + kRightColumns - 1, Qt::AlignRight);
-    // The prompt has a place of its own, so that nothing moves when it comes and goes.
+    // The prompt keeps a place of two lines, so that nothing moves when it comes and goes.
     m_pMainGrid->addWidget(m_pPromptLabel, kPromptRow, kRightColumn, 1, kRightColumns);
+    m_pMainGrid->setRowMinimumHeight(kPromptRow, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
 
 void USSDGeneralDlg::addBottomButtons(int row)
 {
     QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setSpacing(2 * kBoxSpacing);
     buttons->addWidget(m_pDescriptionLabel, 1);
     buttons->addWidget(m_pClearButton);
     buttons->addWidget(m_pEditButton);
