@@ -39,6 +39,13 @@ bool isPlain(const QString &text)
     return true;
 }
 
+/// A tag may stay open, a style sheet counts from its place on, and a paragraph that comes out
+/// blank merges with the one behind it; a caption keeps it from being blank, whatever the text is.
+bool mayReachOn(const QString &caption, const QString &text)
+{
+    return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();
+}
+
 } // namespace
 
 namespace Transcript
@@ -60,7 +67,7 @@ Entry entry(Direction direction, const Char &look, bool rightToLeft, const QStri
         markup += lineBreak;
     markup += QLatin1String("</span></p>");
     markup.replace(QLatin1Char('\n'), lineBreak);
-    const Entry result = {markup, isPlain(caption) && isPlain(text)};
+    const Entry result = {markup, isPlain(caption + text), mayReachOn(caption, text)};
     return result;
 }
 

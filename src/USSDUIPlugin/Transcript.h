@@ -15,7 +15,8 @@ enum Direction { Sent, Received };
 /** One entry. */
 struct Entry {
     QString markup;
-    bool isPlain; // neither caption nor text holds anything but text
+    bool isPlain;    // caption and text are read as letters only
+    bool mayReachOn; // what is in it may change how entries behind it look
 };
 
 /// `text` goes in as it is: what it holds of markup counts as markup.

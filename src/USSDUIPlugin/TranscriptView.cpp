@@ -5,8 +5,6 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include "PluginConfig.h"
-
 namespace
 {
 
@@ -30,13 +28,6 @@ void insertAtEnd(QTextDocument &document, const QString &markup)
     cursor.endEditBlock();
 }
 
-/// Gives the markup of a document nothing to load.
-class SealedDocument : public QTextDocument
-{
-public:
-    QVariant loadResource(int type, const QUrl &name) override;
-};
-
 /// Never null, or Qt would go on to open a file of that name itself.
 QVariant nothingToLoad(int type)
 {
@@ -45,25 +36,6 @@ QVariant nothingToLoad(int type)
     QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
     pixel.fill(0);
     return pixel;
-}
-
-QVariant SealedDocument::loadResource(int type, const QUrl &name)
-{
-    Q_UNUSED(name);
-    return nothingToLoad(type);
-}
-
-/// Whether an entry's markup reaches into one that follows it, such as by a tag without its end.
-bool staysOpen(const QString &markup)
-{
-    const QString probe =
-        Transcript::entry(Transcript::Sent, Char(), false, QString(), QLatin1String("x")).markup;
-    SealedDocument whole;
-    whole.setHtml(Transcript::document(markup + probe));
-    SealedDocument inserted;
-    inserted.setHtml(Transcript::document(markup));
-    insertAtEnd(inserted, probe);
-    return whole.toHtml() != inserted.toHtml();
 }
 
 } // namespace
@@ -81,7 +53,7 @@ void TranscriptView::appendEntry(const Transcript::Entry &entry)
         setHtml(Transcript::document(m_entries));
     else
         insertAtEnd(*document(), entry.markup);
-    m_isOpen = m_isOpen || (!entry.isPlain && staysOpen(entry.markup));
+    m_isOpen = m_isOpen || entry.mayReachOn;
     moveCursor(QTextCursor::End);
 }
 

@@ -10,7 +10,8 @@
  * makes the view open a file or an address.
  *
  * An entry is inserted at the end, in the same time whatever stands before it; the document is
- * nevertheless the one that setting the whole transcript at once would give.
+ * nevertheless the one that setting the whole transcript at once would give. Behind an entry that
+ * may hold an unclosed tag or a style sheet that is only so if the whole is set each time.
  */
 class TranscriptView : public QTextEdit
 {
@@ -29,7 +30,7 @@ public:
 
 private:
     QString m_entries;
-    bool m_isOpen; // an entry left markup open that reaches into those behind it
+    bool m_isOpen; // an entry may reach into those behind it
 };
 
 #endif
