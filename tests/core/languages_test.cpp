@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <QLocale>
-#include <QThread>
 
 #include <atomic>
+#include <thread>
 
 #include "Change.h"
 #include "Languages.h"
@@ -16,24 +16,39 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
-/** Asks for texts until it is told to stop, and counts those that belong to no language. */
-class Reader : public QThread
+/** Asks for texts on a thread of its own until it ends, and counts those of no language. */
+class Reader
 {
 public:
-    std::atomic<bool> stop{false};
-    std::atomic<int> asked{0};
-    std::atomic<int> strange{0};
-    QStringList possible;
-
-protected:
-    void run() override
+    explicit Reader(const QStringList &possible) : m_possible(possible), m_thread([this] { run(); })
     {
-        while (!stop) {
-            if (!possible.contains(pluginText("IDS_BUTTON_SEND")))
-                ++strange;
-            ++asked;
+    }
+    ~Reader() { finish(); }
+
+    int asked() const { return m_asked; }
+    int strange() const { return m_strange; }
+    void finish()
+    {
+        m_stop = true;
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+private:
+    void run()
+    {
+        while (!m_stop) {
+            if (!m_possible.contains(pluginText("IDS_BUTTON_SEND")))
+                ++m_strange;
+            ++m_asked;
         }
     }
+
+    const QStringList &m_possible;
+    std::atomic<bool> m_stop{false};
+    std::atomic<int> m_asked{0};
+    std::atomic<int> m_strange{0};
+    std::thread m_thread;
 };
 
 } // namespace
@@ -140,26 +155,21 @@ void LanguagesTest::theDefaultLocaleFollows()
 
 void LanguagesTest::otherThreadsMayAskDuringAChange()
 {
-    Reader readers[2];
     QStringList possible;
     for (const QString &code : Languages::codes()) {
         QVERIFY(Languages::setCurrent(code));
         possible << pluginText("IDS_BUTTON_SEND");
     }
-    for (Reader &reader : readers) {
-        reader.possible = possible;
-        reader.start();
-    }
+    Reader first(possible);
+    Reader second(possible);
     for (int round = 0; round < 30; ++round) {
         for (const QString &code : Languages::codes())
             QVERIFY(Languages::setCurrent(code));
     }
-    for (Reader &reader : readers) {
-        QTRY_VERIFY(reader.asked > 0);
-        reader.stop = true;
-        QVERIFY(reader.wait(10000));
-        QCOMPARE(reader.strange.load(), 0);
-    }
+    QTRY_VERIFY(first.asked() > 0 && second.asked() > 0);
+    first.finish();
+    second.finish();
+    QCOMPARE(first.strange() + second.strange(), 0);
 }
 
 USSD_TEST_MAIN(LanguagesTest)
