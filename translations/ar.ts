@@ -34,11 +34,11 @@
     </message>
     <message>
         <source>IDS_USSD_SEND</source>
-        <translation>أُرسل: &#x200e;</translation>
+        <translation>الصادر: &#x200e;</translation>
     </message>
     <message>
         <source>IDS_USSD_RECEIVED</source>
-        <translation>استُلم: &#x200e;</translation>
+        <translation>الوارد: &#x200e;</translation>
     </message>
     <message>
         <source>IDS_STR_PROMPT</source>
