@@ -1,7 +1,8 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QScreen>
-#include <QThread>
+
+#include <thread>
 
 #include "CommonUtils.h"
 #include "HostState.h"
@@ -92,10 +93,7 @@ void CommonUtilsTest::shuttingDownIsSeenByOtherThreads()
     bool before = true;
     bool after = false;
     const auto ask = [](bool *answer) {
-        QScopedPointer<QThread> thread(
-            QThread::create([answer] { *answer = CommonUtils::IsShuttingDown(); }));
-        thread->start();
-        thread->wait();
+        std::thread([answer] { *answer = CommonUtils::IsShuttingDown(); }).join();
     };
     ask(&before);
     HostState::setShuttingDown(true);
