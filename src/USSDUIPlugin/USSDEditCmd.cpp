@@ -26,11 +26,16 @@ QString parentDirectory(const QString &path)
 } // namespace
 
 USSDEditCmd::USSDEditCmd()
+    : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false),
+      m_bDuplicateRefused(false)
 {
     load();
 }
 
-USSDEditCmd::~USSDEditCmd() {}
+USSDEditCmd::~USSDEditCmd()
+{
+    delete m_pFrame;
+}
 
 void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
 {

@@ -3,15 +3,27 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 
+#include "ExtendDialog.h"
+#include "PluginConfig.h"
+#include "ProfileTableItemDelegate.h"
+#include "ProfileTableWidget.h"
+#include "USSDLogic.h"
 #include "USSDProfile.h"
 
+class QLabel;
+class QPushButton;
+class QTableWidgetItem;
 class QXmlStreamReader;
 
 /**
- * The command profiles: those of the system file, then those that the user added. GUI thread.
+ * The command profiles, those of the system file and then those that the user added, and the window
+ * in which the user edits them. GUI thread.
  *
- * The list is read when the object is made; a second object sees the files as they are then.
+ * The list is read when the object is made; a second object sees the files as they are then. The
+ * window is built by InitDialog() and run by Exec(), which comes back also when the host takes the
+ * window away meanwhile.
  */
 class USSDEditCmd : public QObject
 {
@@ -42,11 +54,58 @@ public:
     /// leaves none; this order is intended.
     int saveToXMLFile(bool isSystem);
 
+    /// Builds the window in a frame over `parent`.
+    void InitDialog(QWidget *parent);
+    /// Runs the window; whether the user saved.
+    bool Exec();
+    void SetLanguage();
+    static QString tr(const QString &key);
+
+public slots:
+    void OnClickedSaveButton();
+    void OnClickedCancelButton();
+    void OnCellChanged(int row, int column);
+    void OnEditorClosed(QWidget *editor);
+
 private:
+    bool createWidgets();
+    void initWidgets();
+    void layoutWidgets();
+    void connectWidgets();
+    void initTable();
+    void initHeader();
+    void clearTable();
+    void showProfile(int row, const USSDProfile &profile);
+    /// The profiles that the table stands for, and whether that is a change.
+    void readTableProfiles(QList<USSDProfile> &list, bool &changed);
+    QString cellText(int row, int column) const;
+    bool isDuplicate(int row, int column) const;
+    void refuseDuplicate(int row, int column);
+    void deselectCurrentCell();
+    void forgetEditedCell();
+    bool confirmSaving();
+    void closeWindow();
+    QWidget *messageParent() const;
+
     QString movedLegacyFile(const QString &oldPath, const QString &newPath);
     bool makeParentDirectory(const QString &path, bool isSystem);
 
     QList<USSDProfile> m_listUSSDProfiles;
+    CmdEdit m_cmdEditSetting;
+    QPointer<USSDLogic> m_pLogic; // not owned
+    // The frame is this object's; everything else is the frame's. A host may delete either.
+    QPointer<QWidget> m_pContainer;
+    QPointer<ExtendDialog> m_pFrame;
+    ProfileTableItemDelegate m_delegate;
+    QPointer<ProfileTableWidget> m_pTable;
+    QPointer<QLabel> m_pInfoLabel;
+    QPointer<QPushButton> m_pSaveButton;
+    QPointer<QPushButton> m_pCancelButton;
+    QTableWidgetItem *m_pEditedItem; // the cell that was changed last; null and -1 when none
+    int m_iEditedColumn;
+    int m_iEditedRow;
+    bool m_bSaved;
+    bool m_bDuplicateRefused;
 };
 
 #endif

@@ -152,7 +152,7 @@ void USSDGeneralDlg::initWidgets()
         enableClearHistoryBtn(false);
     // An embedded page has no window of its own that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
-    m_pEditButton->setVisible(false); // until there is an editor to open
+    m_pEditButton->setVisible(m_cmdEditSetting.visible);
     initPreBtns();
     initAccessibility();
 }
@@ -367,15 +367,16 @@ void USSDGeneralDlg::OnPaymentEdit()
 {
     if (!m_pPaymentEdit)
         return;
-    const int cursor = m_pPaymentEdit->cursorPosition();
+    int cursor = m_pPaymentEdit->cursorPosition();
     const QString text = m_pPaymentEdit->text();
     if (IsLimitValid(text)) {
         m_strLastValidPayment = text;
     } else {
         m_pPaymentEdit->setText(m_strLastValidPayment);
-        m_pPaymentEdit->setCursorPosition(cursor - 1);
+        --cursor;
     }
-    m_pPaymentEdit->setMaxLength(kMaxPaymentNumber);
+    m_pPaymentEdit->setMaxLength(kMaxPaymentNumber); // moves the cursor to the end
+    m_pPaymentEdit->setCursorPosition(cursor);
     changePayBtnsStatus(!m_pPaymentEdit->text().isEmpty());
 }
 
@@ -517,6 +518,10 @@ void USSDGeneralDlg::enableClearHistoryBtn(bool enable)
 void USSDGeneralDlg::clearHistory()
 {
     USSD_LOG_SCOPE();
+    if (!m_pHistoryView) {
+        logScope.exitWith(" Fail Exit");
+        return;
+    }
     if (m_clearBtnSetting.showConfirmDialog) {
         const QPointer<USSDGeneralDlg> self(this); // the host may shut down while it asks
         const int answer = CommonUtils::ShowMessage(

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "CodeText.h"
 #include "CommonUtils.h"
 #include "PluginLog.h"
 #include "TranscriptView.h"
@@ -42,22 +43,13 @@ int paddedWidth(int textWidth, int minimum, int maximum)
     return qBound(minimum, textWidth + 30, maximum);
 }
 
-bool holdsLetter(const QString &text)
-{
-    for (int i = 0; i < text.length(); ++i) {
-        if (text.at(i).isLetter())
-            return true;
-    }
-    return false;
-}
-
 /// A code reads from left to right in every language; a name follows the language.
 void setProfileText(QPushButton *button, const QString &text)
 {
-    if (holdsLetter(text))
-        button->unsetLayoutDirection();
-    else
+    if (isCodeLike(text))
         button->setLayoutDirection(Qt::LeftToRight);
+    else
+        button->unsetLayoutDirection();
     button->setText(text);
 }
 
@@ -194,6 +186,17 @@ void USSDGeneralDlg::resetWidgetsWidth4DyncBtnArea()
 void USSDGeneralDlg::OnClickedEditButton()
 {
     USSD_LOG_SCOPE();
+    const QPointer<USSDGeneralDlg> self(this);
+    USSDEditCmd editor;
+    editor.InitDialog(parentWidget());
+    // When the host takes this dialog away, the editor's event loop must end as well.
+    connect(this, SIGNAL(destroyed()), &editor, SLOT(OnClickedCancelButton()));
+    const bool saved = editor.Exec();
+    if (!self || !saved)
+        return;
+    getProfileList();
+    addProfilesToCombo();
+    update4EditCommandSave();
 }
 
 void USSDGeneralDlg::update4EditCommandSave()

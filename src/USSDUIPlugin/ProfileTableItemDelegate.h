@@ -1,0 +1,22 @@
+#ifndef PROFILETABLEITEMDELEGATE_H
+#define PROFILETABLEITEMDELEGATE_H
+
+#include <QItemDelegate>
+
+/** Edits a cell of the profile table with the host's line edit, 40 characters at most. */
+class ProfileTableItemDelegate : public QItemDelegate
+{
+    Q_OBJECT
+public:
+    explicit ProfileTableItemDelegate(QObject *parent = nullptr);
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+
+protected:
+    /// A code reads from left to right, also where the table does not.
+    void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
+                     const QString &text) const override;
+};
+
+#endif

@@ -1,0 +1,348 @@
+/*
+ * The window of USSDEditCmd, in which the user names and edits the profiles.
+ */
+#include "USSDEditCmd.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "CommonUtils.h"
+#include "PluginLog.h"
+#include "PluginText.h"
+#include "ProfileRows.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmdDialog.cpp");
+
+namespace
+{
+
+const int kColumnWidth = 177;
+const int kRowHeight = 19;
+const int kTableHeight = 310;
+const int kPlainFrame = 1;
+
+QTableWidgetItem *createItem(const QString &text, const QColor &background)
+{
+    QTableWidgetItem *item = new QTableWidgetItem(text);
+    item->setData(Qt::BackgroundRole, QBrush(background));
+    return item;
+}
+
+} // namespace
+
+QString USSDEditCmd::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+// ---- building --------------------------------------------------------------------------------
+
+void USSDEditCmd::InitDialog(QWidget *parent)
+{
+    USSD_LOG_SCOPE();
+    m_pContainer = new QWidget;
+    m_pFrame = new ExtendDialog(parent, Qt::WindowCloseButtonHint, kPlainFrame);
+    m_pFrame->AddMainWidget(m_pContainer);
+    if (!createWidgets()) {
+        logScope.exitWith(" Exit: either of the objects creation failed");
+        return;
+    }
+    initWidgets();
+    m_pLogic->GetCmdEditSetting(m_cmdEditSetting);
+    initTable();
+    layoutWidgets();
+    connectWidgets();
+    if (!CommonUtils::IsMiniMode())
+        m_pFrame->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint |
+                                 Qt::WindowCloseButtonHint);
+    m_bSaved = false;
+    CommonUtils::MoveCentre(m_pFrame);
+    SetLanguage();
+}
+
+bool USSDEditCmd::createWidgets()
+{
+    m_pLogic = USSDLogic::GetUSSDLogicInstance();
+    m_pTable = new ProfileTableWidget(ProfileRows::kRows, ProfileRows::ColumnCount, m_pContainer);
+    m_pInfoLabel = new QLabel(m_pContainer);
+    m_pSaveButton = new QPushButton(m_pContainer);
+    m_pCancelButton = new QPushButton(m_pContainer);
+    return m_pLogic;
+}
+
+void USSDEditCmd::initWidgets()
+{
+    m_pContainer->setObjectName(QLatin1String("USSDUIPlugin_ProfileWidget"));
+    m_pTable->setObjectName(QLatin1String("USSDUIPlugin_ProfileTable"));
+    m_pInfoLabel->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_InfoLabel"));
+    m_pSaveButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"));
+    m_pCancelButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_CancelButton"));
+    m_pTable->setFixedHeight(kTableHeight);
+    m_pContainer->setWindowModality(Qt::WindowModal);
+    m_pContainer->setFixedSize(420, 440);
+    m_pInfoLabel->setTextFormat(Qt::PlainText);
+    m_pInfoLabel->setWordWrap(true);
+    m_pInfoLabel->setBuddy(m_pTable);
+    m_pTable->setTabKeyNavigation(true);
+    // Return belongs to the cell that is being edited.
+    m_pSaveButton->setAutoDefault(false);
+    m_pCancelButton->setAutoDefault(false);
+}
+
+void USSDEditCmd::layoutWidgets()
+{
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->addWidget(m_pSaveButton);
+    buttons->addWidget(m_pCancelButton);
+    buttons->setAlignment(Qt::AlignRight);
+    QVBoxLayout *column = new QVBoxLayout(m_pContainer);
+    column->setContentsMargins(20, 32, 20, 5);
+    column->addWidget(m_pTable);
+    column->addWidget(m_pInfoLabel);
+    column->addLayout(buttons);
+}
+
+void USSDEditCmd::connectWidgets()
+{
+    connect(m_pSaveButton, SIGNAL(clicked()), this, SLOT(OnClickedSaveButton()));
+    connect(m_pCancelButton, SIGNAL(clicked()), this, SLOT(OnClickedCancelButton()));
+}
+
+void USSDEditCmd::SetLanguage()
+{
+    if (!m_pFrame || !m_pTable)
+        return;
+    m_pInfoLabel->setText(tr(QLatin1String("IDC_STATIC_CMDTIP")));
+    m_pSaveButton->setText(tr(QLatin1String("IDC_CMDEDIT_SAVE")));
+    m_pCancelButton->setText(tr(QLatin1String("IDS_BUTTON_CANCEL")));
+    m_pFrame->setWindowTitle(tr(QLatin1String("IDC_TITLE_EDITCOMMAND")));
+    m_pTable->setAccessibleName(m_pFrame->windowTitle());
+}
+
+// ---- table -----------------------------------------------------------------------------------
+
+void USSDEditCmd::clearTable()
+{
+    if (!m_pTable) {
+        USSD_LOG(" Exit Null Table");
+        return;
+    }
+    USSD_LOG(" row = %d column = %d", m_pTable->rowCount(), m_pTable->columnCount());
+    for (int row = 0; row < m_pTable->rowCount(); ++row) {
+        for (int column = 0; column < m_pTable->columnCount(); ++column)
+            delete m_pTable->takeItem(row, column);
+    }
+    for (int column = 0; column < m_pTable->columnCount(); ++column)
+        delete m_pTable->takeHorizontalHeaderItem(column);
+}
+
+void USSDEditCmd::initTable()
+{
+    USSD_LOG_SCOPE();
+    clearTable();
+    m_pTable->verticalHeader()->setMinimumSectionSize(kRowHeight);
+    for (int row = 0; row < m_pTable->rowCount(); ++row)
+        m_pTable->setRowHeight(row, kRowHeight);
+    m_pTable->setTextElideMode(Qt::ElideRight);
+    m_pTable->setWordWrap(false);
+    m_pTable->setMouseTracking(true);
+    initHeader();
+    for (int i = 0; i < m_listUSSDProfiles.count() && i < m_pTable->rowCount(); ++i)
+        showProfile(i, m_listUSSDProfiles.at(i));
+    m_pTable->setItemDelegate(&m_delegate);
+    m_pTable->setSelectionMode(QAbstractItemView::NoSelection);
+    connect(&m_delegate, SIGNAL(closeEditor(QWidget *)), this, SLOT(OnEditorClosed(QWidget *)));
+    connect(m_pTable, SIGNAL(cellChanged(int, int)), this, SLOT(OnCellChanged(int, int)));
+}
+
+void USSDEditCmd::initHeader()
+{
+    const QColor colour(m_cmdEditSetting.headRed, m_cmdEditSetting.headGreen,
+                        m_cmdEditSetting.headBlue);
+    m_pTable->setHorizontalHeaderItem(ProfileRows::NameColumn,
+                                      createItem(tr(QLatin1String("IDS_COMMAND_NAME")), colour));
+    m_pTable->setHorizontalHeaderItem(ProfileRows::CodeColumn,
+                                      createItem(tr(QLatin1String("IDS_COMMAND_CODE")), colour));
+    m_pTable->verticalHeader()->setVisible(false);
+    QHeaderView *header = m_pTable->horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setTextElideMode(Qt::ElideRight);
+    header->setStretchLastSection(false);
+    for (int column = 0; column < ProfileRows::ColumnCount; ++column)
+        m_pTable->setColumnWidth(column, kColumnWidth);
+}
+
+void USSDEditCmd::showProfile(int row, const USSDProfile &profile)
+{
+    USSD_LOG(" name=%s value = %s", profile.name.toLocal8Bit().constData(),
+             profile.value.toLocal8Bit().constData());
+    const CmdEdit &set = m_cmdEditSetting;
+    const QColor colour = profile.readonly
+                              ? QColor(set.readonlyRed, set.readonlyGreen, set.readonlyBlue)
+                              : QColor(set.commonRed, set.commonGreen, set.commonBlue);
+    QTableWidgetItem *const items[] = {createItem(profile.name, colour),
+                                       createItem(profile.value, colour)};
+    for (int column = 0; column < ProfileRows::ColumnCount; ++column) {
+        if (profile.readonly)
+            items[column]->setFlags(items[column]->flags() & ~Qt::ItemIsEditable);
+        m_pTable->setItem(row, column, items[column]);
+    }
+}
+
+QString USSDEditCmd::cellText(int row, int column) const
+{
+    const QTableWidgetItem *item = m_pTable->item(row, column);
+    return item ? item->text() : QString();
+}
+
+void USSDEditCmd::readTableProfiles(QList<USSDProfile> &list, bool &changed)
+{
+    QList<ProfileRows::Row> rows;
+    for (int row = 0; row < m_pTable->rowCount(); ++row) {
+        const ProfileRows::Row cells = {cellText(row, ProfileRows::NameColumn),
+                                        cellText(row, ProfileRows::CodeColumn)};
+        rows.append(cells);
+    }
+    list = ProfileRows::profiles(rows, m_listUSSDProfiles);
+    changed = ProfileRows::differ(list, m_listUSSDProfiles);
+}
+
+// ---- editing ---------------------------------------------------------------------------------
+
+void USSDEditCmd::OnCellChanged(int row, int column)
+{
+    m_pEditedItem = m_pTable ? m_pTable->item(row, column) : nullptr;
+    m_iEditedColumn = column;
+    m_iEditedRow = row;
+}
+
+void USSDEditCmd::forgetEditedCell()
+{
+    m_pEditedItem = nullptr;
+    m_iEditedColumn = -1;
+    m_iEditedRow = -1;
+}
+
+void USSDEditCmd::OnEditorClosed(QWidget *editor)
+{
+    USSD_LOG_SCOPE();
+    Q_UNUSED(editor);
+    if (!m_pTable)
+        return;
+    if (!m_pEditedItem || m_iEditedRow == -1 || m_iEditedColumn == -1) {
+        deselectCurrentCell();
+        return;
+    }
+    m_pEditedItem->setSelected(false);
+    if (m_pEditedItem->text().isEmpty()) {
+        logScope.exitWith(" Exit: empty string ");
+        return;
+    }
+    if (isDuplicate(m_iEditedRow, m_iEditedColumn))
+        refuseDuplicate(m_iEditedRow, m_iEditedColumn);
+    else
+        deselectCurrentCell();
+}
+
+void USSDEditCmd::deselectCurrentCell()
+{
+    m_pTable->setCurrentCell(m_pTable->currentRow(), m_pTable->currentColumn(),
+                             QItemSelectionModel::Clear);
+}
+
+/// Whether another row of the column has the same text, which is not empty.
+bool USSDEditCmd::isDuplicate(int row, int column) const
+{
+    const QString text = cellText(row, column);
+    for (int other = 0; other < m_pTable->rowCount(); ++other) {
+        if (other != row && !text.isEmpty() && cellText(other, column) == text)
+            return true;
+    }
+    return false;
+}
+
+/// Says so, and opens the cell again, empty.
+void USSDEditCmd::refuseDuplicate(int row, int column)
+{
+    m_bDuplicateRefused = true;
+    const QString what = tr(
+        QLatin1String(column == ProfileRows::CodeColumn ? "IDS_COMMAND_CODE" : "IDS_COMMAND_NAME"));
+    CommonUtils::ShowMessage(
+        QMessageBox::Information, messageParent(), tr(QLatin1String("IDS_PROMPT_CAPTION")),
+        tr(QLatin1String("IDC_CMDEDIT_EXISTTIP")).replace(QLatin1String("%s"), what),
+        QLatin1String("IDS_OK"));
+    QTableWidgetItem *item = m_pTable ? m_pTable->item(row, column) : nullptr;
+    if (!item) // the host took the window away while the message was open
+        return;
+    item->setText(QString());
+    m_pTable->setCurrentItem(item);
+    m_pTable->editItem(item);
+    forgetEditedCell();
+}
+
+QWidget *USSDEditCmd::messageParent() const
+{
+    return CommonUtils::IsMiniMode() ? m_pContainer.data() : nullptr;
+}
+
+// ---- leaving ---------------------------------------------------------------------------------
+
+bool USSDEditCmd::Exec()
+{
+    USSD_LOG_SCOPE();
+    if (m_pFrame)
+        m_pFrame->exec();
+    return m_bSaved;
+}
+
+void USSDEditCmd::OnClickedSaveButton()
+{
+    USSD_LOG_SCOPE();
+    m_bDuplicateRefused = false;
+    if (m_pTable) {
+        m_pTable->setCurrentCell(-1, -1); // an open editor hands over what it holds,
+        OnEditorClosed(nullptr);          // but the delegate does not say that it closed
+    }
+    if (!m_pTable || m_bDuplicateRefused)
+        return; // the cell that was refused is open again
+    QList<USSDProfile> newList;
+    bool changed = false;
+    readTableProfiles(newList, changed);
+    if (changed && !confirmSaving()) {
+        USSD_LOG(" No is pressed");
+        return;
+    }
+    m_listUSSDProfiles = newList;
+    USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
+    saveToXMLFile(true);
+    saveToXMLFile(false);
+    closeWindow();
+    m_bSaved = true;
+}
+
+bool USSDEditCmd::confirmSaving()
+{
+    const int answer = CommonUtils::ShowMessage(QMessageBox::Information, messageParent(),
+                                                tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                                                tr(QLatin1String("IDC_CMDEDIT_SAVETIP")),
+                                                QLatin1String("IDS_YES"), QLatin1String("IDS_NO"));
+    return m_pFrame && answer == QMessageBox::Ok;
+}
+
+void USSDEditCmd::OnClickedCancelButton()
+{
+    USSD_LOG_SCOPE();
+    closeWindow();
+}
+
+void USSDEditCmd::closeWindow()
+{
+    if (m_pContainer)
+        m_pContainer->close();
+    if (m_pFrame)
+        m_pFrame->close();
+}

@@ -1,0 +1,419 @@
+#include "PluginTest.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include "fake_tksv.h"
+#include "HostState.h"
+#include "Languages.h"
+#include "ProfileLineEdit.h"
+#include "ProfileRows.h"
+#include "USSDEditCmd.h"
+#include "USSDGeneralDlg.h"
+#include "USSDService.h"
+
+/** The profile editor, by itself and behind the general dialog's button. */
+class ProfileEditorTest : public PluginTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private:
+    void openEditor();
+    QTableWidget *table() { return find<QTableWidget>("USSDUIPlugin_ProfileTable"); }
+    QPushButton *saveButton() { return find<QPushButton>("USSDUIPlugin_ProfileDialog_SaveButton"); }
+    template <typename Widget>
+    Widget *find(const char *name);
+    QString cell(int row, int column);
+    void doubleClick(int row, int column);
+    QLineEdit *cellEditor() { return table()->viewport()->findChild<QLineEdit *>(); }
+    void type(int row, int column, const QString &text);
+    /// Answers the message box that comes next and keeps its text.
+    void answerNextMessage(const QString &buttonKey);
+    QList<USSDProfile> savedProfiles();
+
+    QScopedPointer<QWidget> m_mainWindow;
+    QScopedPointer<USSDEditCmd> m_editor;
+    QString m_message;
+    int m_messages = 0;
+
+private slots:
+    void doubleClickOnAnEmptyRowOpensAnEditor();
+    void codeOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
+    void nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
+    void readOnlyProfileCannotBeEditedAndHasItsColour();
+    void savingWithoutChangesAsksNothingAndWrites();
+    void typingDoesNotMoveToAMatchingRow();
+    void cellEditorTakesFortyCharacters();
+
+    void savingChangesAsksFirst();
+    void refusedQuestionLeavesTheEdits();
+    void newRowBecomesAUserProfile();
+    void openEditorIsCommittedBySaving();
+    void duplicateFoundWhileSavingStopsIt();
+    void cancelSavesNothing();
+    void columnsAndSizesAreFixed();
+    void codeReadsLeftToRightInArabic();
+    void upAndDownStayInsideTheCell();
+
+    void editButtonFollowsTheConfiguration();
+    void savedNamesAppearOnTheButtonsAtOnce();
+    void hostMayShutDownWhileTheEditorIsOpen_data();
+    void hostMayShutDownWhileTheEditorIsOpen();
+};
+
+void ProfileEditorTest::setUp()
+{
+    PluginTest::setUp();
+    writeSystemProfiles(profileFile(profileItem("Balance", "*100#", "true") +
+                                    profileItem("Menu", "*123#", "false", "true", "IDS_OK")));
+    m_mainWindow.reset(new QWidget);
+    m_mainWindow->resize(700, 600);
+    m_mainWindow->show();
+    HostState::setMainWindow(m_mainWindow.data());
+    m_message.clear();
+    m_messages = 0;
+}
+
+void ProfileEditorTest::tearDown()
+{
+    m_editor.reset();
+    Languages::setCurrent(QStringLiteral("en"));
+    PluginTest::tearDown();
+    HostState::setMainWindow(nullptr);
+    m_mainWindow.reset();
+}
+
+template <typename Widget>
+Widget *ProfileEditorTest::find(const char *name)
+{
+    return m_mainWindow->findChild<Widget *>(QString::fromLatin1(name));
+}
+
+void ProfileEditorTest::openEditor()
+{
+    m_editor.reset(new USSDEditCmd);
+    m_editor->InitDialog(m_mainWindow.data());
+    table()->window()->show();
+}
+
+QString ProfileEditorTest::cell(int row, int column)
+{
+    const QTableWidgetItem *item = table()->item(row, column);
+    return item ? item->text() : QString();
+}
+
+void ProfileEditorTest::doubleClick(int row, int column)
+{
+    table()->scrollTo(table()->model()->index(row, column));
+    const QPoint centre = table()->visualRect(table()->model()->index(row, column)).center();
+    QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    QTest::mouseDClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+}
+
+void ProfileEditorTest::type(int row, int column, const QString &text)
+{
+    doubleClick(row, column);
+    QVERIFY(cellEditor());
+    cellEditor()->selectAll();
+    QTest::keyClicks(cellEditor(), text);
+    QTest::keyClick(cellEditor(), Qt::Key_Return);
+    drainEvents();
+}
+
+void ProfileEditorTest::answerNextMessage(const QString &buttonKey)
+{
+    QTimer *poll = new QTimer(this);
+    connect(poll, &QTimer::timeout, this, [this, poll, buttonKey] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box || !box->inherits("QMessageBox"))
+            return;
+        poll->deleteLater();
+        poll->stop();
+        ++m_messages;
+        m_message = static_cast<QMessageBox *>(box)->text();
+        const QString text = USSDLogic::tr(buttonKey);
+        for (QPushButton *button : box->findChildren<QPushButton *>()) {
+            if (button->text() == text)
+                return QTest::mouseClick(button, Qt::LeftButton);
+        }
+        static_cast<QMessageBox *>(box)->reject();
+        QFAIL("the message has no such button");
+    });
+    poll->start(1);
+}
+
+QList<USSDProfile> ProfileEditorTest::savedProfiles()
+{
+    QList<USSDProfile> list;
+    USSDEditCmd().GetProfileList(list);
+    return list;
+}
+
+// ---- the table -------------------------------------------------------------------------------
+
+void ProfileEditorTest::doubleClickOnAnEmptyRowOpensAnEditor()
+{
+    openEditor();
+    QVERIFY(!table()->item(5, 1));
+    doubleClick(5, 1);
+    QVERIFY(cellEditor());
+    QVERIFY(table()->item(5, 1));
+}
+
+void ProfileEditorTest::codeOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
+{
+    openEditor();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    type(4, 1, QStringLiteral("*100#"));
+    QCOMPARE(m_messages, 1);
+    QVERIFY(m_message.contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_CODE"))));
+    QVERIFY(!m_message.contains(QLatin1String("%s")));
+    QCOMPARE(cell(4, 1), QString());
+    QVERIFY(cellEditor());
+    QCOMPARE(table()->currentRow(), 4);
+}
+
+void ProfileEditorTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
+{
+    openEditor();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    type(4, 0, QStringLiteral("Menu"));
+    QCOMPARE(m_messages, 1);
+    QVERIFY(m_message.contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
+    QCOMPARE(cell(4, 0), QString());
+}
+
+void ProfileEditorTest::readOnlyProfileCannotBeEditedAndHasItsColour()
+{
+    openEditor();
+    for (int column = 0; column < 2; ++column) {
+        const QTableWidgetItem *item = table()->item(0, column);
+        QVERIFY(!(item->flags() & Qt::ItemIsEditable));
+        QCOMPARE(item->background().color(), QColor(1, 2, 3));
+        doubleClick(0, column);
+        QVERIFY(!cellEditor());
+        QTest::keyClick(table(), Qt::Key_F2);
+        QTest::keyClick(table(), Qt::Key_X);
+        QTest::keySequence(table(), QKeySequence::Paste);
+        QVERIFY(!cellEditor());
+    }
+    QVERIFY(!table()->dragEnabled() && !table()->acceptDrops());
+    QCOMPARE(cell(0, 0), QStringLiteral("Balance"));
+    QCOMPARE(cell(0, 1), QStringLiteral("*100#"));
+    QCOMPARE(table()->item(1, 0)->background().color(), QColor(4, 5, 6));
+    QCOMPARE(table()->horizontalHeaderItem(0)->background().color(), QColor(7, 8, 9));
+}
+
+void ProfileEditorTest::savingWithoutChangesAsksNothingAndWrites()
+{
+    openEditor();
+    const QString userFile = userFolder() + QLatin1String("ussdprofile.xml");
+    QVERIFY(!QFile::exists(userFile));
+    QTest::mouseClick(saveButton(), Qt::LeftButton); // a question would hang here
+    QVERIFY(QFile::exists(userFile));
+    QVERIFY(!table()->isVisible());
+    QCOMPARE(savedProfiles().count(), 2);
+}
+
+void ProfileEditorTest::typingDoesNotMoveToAMatchingRow()
+{
+    openEditor();
+    table()->setCurrentCell(0, 0);
+    table()->keyboardSearch(QStringLiteral("M"));
+    QCOMPARE(table()->currentRow(), 0);
+}
+
+void ProfileEditorTest::cellEditorTakesFortyCharacters()
+{
+    openEditor();
+    type(3, 0, QString(60, QLatin1Char('n')));
+    QCOMPARE(cell(3, 0), QString(40, QLatin1Char('n')));
+}
+
+// ---- saving ----------------------------------------------------------------------------------
+
+void ProfileEditorTest::savingChangesAsksFirst()
+{
+    openEditor();
+    type(1, 0, QStringLiteral("My menu"));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    QTest::mouseClick(saveButton(), Qt::LeftButton);
+    QCOMPARE(m_messages, 1);
+    QVERIFY(!table()->isVisible());
+    const USSDProfile saved = savedProfiles().at(1);
+    QCOMPARE(saved.name, QStringLiteral("My menu"));
+    QCOMPARE(saved.value, QStringLiteral("*123#"));
+    QCOMPARE(saved.langID, QString()); // or the translated text would hide the new name
+    QVERIFY(saved.isSystem);
+}
+
+void ProfileEditorTest::refusedQuestionLeavesTheEdits()
+{
+    openEditor();
+    type(1, 0, QStringLiteral("My menu"));
+    answerNextMessage(QStringLiteral("IDS_NO"));
+    QTest::mouseClick(saveButton(), Qt::LeftButton);
+    QVERIFY(table()->isVisible());
+    QCOMPARE(cell(1, 0), QStringLiteral("My menu"));
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu"));
+    QCOMPARE(timesLogged("No is pressed"), 1);
+}
+
+void ProfileEditorTest::newRowBecomesAUserProfile()
+{
+    openEditor();
+    type(7, 1, QStringLiteral(" *55# "));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    QTest::mouseClick(saveButton(), Qt::LeftButton);
+    USSDProfile expected;
+    expected.name = QStringLiteral("*55#");
+    expected.value = QStringLiteral("*55#");
+    expected.showButton = true;
+    QCOMPARE(savedProfiles().count(), 3);
+    QVERIFY(savedProfiles().at(2) == expected);
+}
+
+void ProfileEditorTest::openEditorIsCommittedBySaving()
+{
+    openEditor();
+    doubleClick(1, 0);
+    cellEditor()->selectAll();
+    QTest::keyClicks(cellEditor(), QStringLiteral("Typed"));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    saveButton()->click();
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Typed"));
+}
+
+/// The row would otherwise be saved without its code, which leaves it out.
+void ProfileEditorTest::duplicateFoundWhileSavingStopsIt()
+{
+    openEditor();
+    doubleClick(1, 1);
+    cellEditor()->selectAll();
+    QTest::keyClicks(cellEditor(), QStringLiteral("*100#"));
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    saveButton()->click();
+    QVERIFY(table()->isVisible());
+    QCOMPARE(savedProfiles().at(1).value, QStringLiteral("*123#"));
+}
+
+void ProfileEditorTest::cancelSavesNothing()
+{
+    openEditor();
+    type(1, 0, QStringLiteral("My menu"));
+    QTest::mouseClick(find<QPushButton>("USSDUIPlugin_ProfileDialog_CancelButton"), Qt::LeftButton);
+    QVERIFY(!table()->isVisible());
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu"));
+    QVERIFY(!QFile::exists(userFolder() + QLatin1String("ussdprofile.xml")));
+}
+
+// ---- looks -----------------------------------------------------------------------------------
+
+void ProfileEditorTest::columnsAndSizesAreFixed()
+{
+    openEditor();
+    QCOMPARE(table()->rowCount(), 100);
+    QCOMPARE(table()->columnWidth(0), 177);
+    QCOMPARE(table()->columnWidth(1), 177);
+    QCOMPARE(table()->rowHeight(50), 19);
+    QCOMPARE(table()->height(), 310);
+    QWidget *container = find<QWidget>("USSDUIPlugin_ProfileWidget");
+    QCOMPARE(container->size(), QSize(420, 440));
+    QCOMPARE(container->windowModality(), Qt::WindowModal);
+    QCOMPARE(table()->window()->windowTitle(),
+             USSDLogic::tr(QStringLiteral("IDC_TITLE_EDITCOMMAND")));
+}
+
+void ProfileEditorTest::codeReadsLeftToRightInArabic()
+{
+    Languages::setCurrent(QStringLiteral("ar"));
+    openEditor();
+    QCOMPARE(table()->layoutDirection(), Qt::RightToLeft);
+    doubleClick(3, 1);
+    QCOMPARE(cellEditor()->layoutDirection(), Qt::LeftToRight);
+}
+
+void ProfileEditorTest::upAndDownStayInsideTheCell()
+{
+    ProfileLineEdit edit;
+    edit.setText(QStringLiteral("*100#"));
+    edit.setCursorPosition(2);
+    QTest::keyClick(&edit, Qt::Key_Up);
+    QCOMPARE(edit.cursorPosition(), 1);
+    QTest::keyClick(&edit, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(edit.selectedText(), QStringLiteral("1"));
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    QCOMPARE(edit.text(), QStringLiteral("*00#"));
+}
+
+// ---- behind the general dialog's button --------------------------------------------------------
+
+static QPushButton *editButton(QWidget *window)
+{
+    return window->findChild<QPushButton *>(
+        QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
+}
+
+void ProfileEditorTest::editButtonFollowsTheConfiguration()
+{
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QVERIFY(editButton(m_mainWindow.data())->isVisible());
+    CUSSDService::Destroy();
+    writeConfig(completeConfig().replace("<cmdEdit visible='true'>", "<cmdEdit visible='false'>"));
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QVERIFY(!editButton(m_mainWindow.data())->isVisible());
+}
+
+void ProfileEditorTest::savedNamesAppearOnTheButtonsAtOnce()
+{
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QTimer::singleShot(0, this, [this] {
+        type(1, 0, QStringLiteral("My menu"));
+        answerNextMessage(QStringLiteral("IDS_YES"));
+        saveButton()->click();
+    });
+    QTest::mouseClick(editButton(m_mainWindow.data()), Qt::LeftButton);
+    QStringList texts;
+    for (QPushButton *button : m_mainWindow->findChildren<QPushButton *>(
+             QStringLiteral("USSDUIPlugin_AdvancedDialog_PreButton")))
+        texts << button->text();
+    QCOMPARE(texts, QStringList() << QStringLiteral("Balance") << QStringLiteral("My menu"));
+}
+
+void ProfileEditorTest::hostMayShutDownWhileTheEditorIsOpen_data()
+{
+    QTest::addColumn<bool>("framed");
+    QTest::newRow("over the embedded window") << false;
+    QTest::newRow("over the framed window") << true;
+}
+
+void ProfileEditorTest::hostMayShutDownWhileTheEditorIsOpen()
+{
+    QFETCH(bool, framed);
+    QRect rect(0, 0, 640, 560);
+    if (framed)
+        CUSSDService::instance()->DoModal();
+    else
+        CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    bool wasOpen = false;
+    QTimer::singleShot(0, this, [this, &wasOpen] {
+        wasOpen = table() && table()->isVisible();
+        CUSSDService::Destroy();
+    });
+    QTest::mouseClick(editButton(m_mainWindow.data()), Qt::LeftButton); // comes back by itself
+    QVERIFY(wasOpen);
+    drainEvents();
+    QVERIFY(!table());
+}
+
+USSD_TEST_MAIN(ProfileEditorTest)
+
+#include "profile_editor_test.moc"

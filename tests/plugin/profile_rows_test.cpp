@@ -1,0 +1,130 @@
+#include "UssdTest.h"
+
+#include "ProfileRows.h"
+
+/** What the profile editor's table becomes. */
+class ProfileRowsTest : public UssdTest
+{
+    Q_OBJECT
+
+private slots:
+    void emptyRowIsLeftOut();
+    void rowWithoutCodeIsLeftOut();
+    void codeServesAsNameWhenThereIsNone();
+    void untouchedProfileStaysAsItIs();
+    void editedCodeKeepsTheTranslatedName();
+    void editedNameDropsTheTranslatedName();
+    void newRowIsAUserProfileWithAButton();
+    void profilesBeyondTheRowsAreKept();
+    void changeIsANumberANameOrACode();
+};
+
+static USSDProfile fullProfile()
+{
+    USSDProfile profile;
+    profile.name = QStringLiteral("Balance");
+    profile.value = QStringLiteral(" *100# ");
+    profile.readonly = true;
+    profile.langID = QStringLiteral("IDS_A");
+    profile.desLangID = QStringLiteral("IDS_B");
+    profile.isSystem = true;
+    return profile;
+}
+
+static ProfileRows::Row row(const char *name, const char *code)
+{
+    const ProfileRows::Row cells = {QString::fromUtf8(name), QString::fromUtf8(code)};
+    return cells;
+}
+
+static QList<USSDProfile> read(const QList<ProfileRows::Row> &rows,
+                               const QList<USSDProfile> &shown = QList<USSDProfile>())
+{
+    return ProfileRows::profiles(rows, shown);
+}
+
+void ProfileRowsTest::emptyRowIsLeftOut()
+{
+    QVERIFY(read({row("", ""), row("  ", "\t")}).isEmpty());
+    QVERIFY(read({row(" ", "")}, {fullProfile()}).isEmpty());
+}
+
+void ProfileRowsTest::rowWithoutCodeIsLeftOut()
+{
+    QVERIFY(read({row("Name", " ")}).isEmpty());
+}
+
+void ProfileRowsTest::codeServesAsNameWhenThereIsNone()
+{
+    const USSDProfile profile = read({row(" ", "*1#")}).at(0);
+    QCOMPARE(profile.name, QStringLiteral("*1#"));
+    QCOMPARE(profile.value, QStringLiteral("*1#"));
+}
+
+void ProfileRowsTest::untouchedProfileStaysAsItIs()
+{
+    QVERIFY(read({row("Balance", " *100# ")}, {fullProfile()}).at(0) == fullProfile());
+}
+
+void ProfileRowsTest::editedCodeKeepsTheTranslatedName()
+{
+    USSDProfile expected = fullProfile();
+    expected.value = QStringLiteral("*101#");
+    QVERIFY(read({row("Balance", "*101# ")}, {fullProfile()}).at(0) == expected);
+}
+
+void ProfileRowsTest::editedNameDropsTheTranslatedName()
+{
+    USSDProfile expected = fullProfile();
+    expected.name = QStringLiteral("Money");
+    expected.langID.clear();
+    QVERIFY(read({row("Money", " *100# ")}, {fullProfile()}).at(0) == expected);
+}
+
+void ProfileRowsTest::newRowIsAUserProfileWithAButton()
+{
+    const USSDProfile profile =
+        read({row("Balance", " *100# "), row("New", "*2#")}, {fullProfile()}).at(1);
+    USSDProfile expected;
+    expected.name = QStringLiteral("New");
+    expected.value = QStringLiteral("*2#");
+    expected.showButton = true;
+    QVERIFY(profile == expected);
+}
+
+void ProfileRowsTest::profilesBeyondTheRowsAreKept()
+{
+    QList<USSDProfile> shown;
+    QList<ProfileRows::Row> rows;
+    for (int i = 0; i < 130; ++i) {
+        USSDProfile profile = fullProfile();
+        profile.value = QString::number(i);
+        shown << profile;
+        if (i < ProfileRows::kRows)
+            rows << row("Balance", qPrintable(profile.value));
+    }
+    QVERIFY(read(rows, shown) == shown);
+    rows[99].code.clear(); // the last row is deleted; those behind it are not
+    QCOMPARE(read(rows, shown).count(), 129);
+    QVERIFY(read(rows, shown).last() == shown.last());
+}
+
+void ProfileRowsTest::changeIsANumberANameOrACode()
+{
+    const QList<USSDProfile> one = {fullProfile()};
+    QVERIFY(!ProfileRows::differ(one, one));
+    QVERIFY(ProfileRows::differ(one, QList<USSDProfile>()));
+    QList<USSDProfile> other = one;
+    other[0].name += QLatin1Char('x');
+    QVERIFY(ProfileRows::differ(one, other));
+    other = one;
+    other[0].value += QLatin1Char('x');
+    QVERIFY(ProfileRows::differ(one, other));
+    other = one;
+    other[0].langID.clear();
+    QVERIFY(!ProfileRows::differ(one, other));
+}
+
+USSD_TEST_MAIN(ProfileRowsTest)
+
+#include "profile_rows_test.moc"
