@@ -135,8 +135,7 @@ void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
     Event event = statusEvent(true);
     event.onlyKey = keyOf(callback);
     event.begin = [this] { return info().canSendSms; };
-    if (event.begin())
-        m_smsEvents.post(std::move(event));
+    m_smsEvents.post(std::move(event));
 }
 
 bool DeviceSdk::removeSmsCallback(TKSV_EventCallback callback)

@@ -211,6 +211,8 @@ private slots:
     void textOfTheNetworksOwnArrives();
     void textOfTheNetworksOwnCanBeAnswered();
     void textOfTheNetworksOwnIsNoResponse();
+    void questionOfTheNetworksOwnWaitsForTheResponse();
+    void textOfTheNetworksOwnArrivesAfterALoss();
 
     void userDataDirectoryExistsAndEndsInSlash();
     void garbageIsRefused();
@@ -306,6 +308,7 @@ void SdkPromises::oneCallbackAtATimeForEachService()
     TKSV_SMSSrv_RegCallBack(aloneA);
     TKSV_SMSSrv_RegCallBack(aloneB);
     std::vector<std::thread> senders;
+    senders.reserve(4);
     for (int i = 0; i < 4; ++i)
         senders.emplace_back([] {
             for (int message = 0; message < 25; ++message)
@@ -768,6 +771,29 @@ void SdkPromises::textOfTheNetworksOwnIsNoResponse()
     QCOMPARE(shown(received().responses.all()[1].text), shown(u"news"));
 }
 
+void SdkPromises::questionOfTheNetworksOwnWaitsForTheResponse()
+{
+    QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\n"
+                        "[*100#]\nReply=reply\nDelay=40\n"
+                        "[Push offer]\nAfter=10\nReply=yes or no?\n[Push offer/1]\nReply=yes\n"),
+             std::string());
+    QCOMPARE(request(u"*100#"), 0L);
+    QVERIFY(received().responses.waitFor(2));
+    QCOMPARE(received().responses.all()[1].type, 1);
+    QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
+}
+
+void SdkPromises::textOfTheNetworksOwnArrivesAfterALoss()
+{
+    QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\n"
+                        "[*140#]\nDeviceEvent=6016\nAway=10\n"
+                        "[Push news]\nAfter=30\nReply=news\n"),
+             std::string());
+    QCOMPARE(request(u"*140#"), 0L);
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(shown(received().responses.all()[0].text), shown(u"news"));
+}
+
 void SdkPromises::userDataDirectoryExistsAndEndsInSlash()
 {
     unsigned short *directory = nullptr;
@@ -819,6 +845,7 @@ void SdkPromises::garbageIsRefused()
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i)
         threads.emplace_back([i] {
             int status = 0;

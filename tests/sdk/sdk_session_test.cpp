@@ -95,6 +95,7 @@ private slots:
     void eventForOneListenerAlone();
     void threadTakesNoSignals();
     void textIsCutBetweenCharacters();
+    void malformedTextIsNotConverted();
 };
 
 void SdkSession::untakenTextIsKept()
@@ -127,7 +128,7 @@ void SdkSession::untakenTextsAreLimited()
 void SdkSession::requestKindFollowsTheSession()
 {
     Listening l;
-    l.session.request(l.backend, "*1#");
+    l.session.request(l.backend, "1"); // nothing is open that it could answer
     l.session.replyCame(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
     drain(l.service);
     l.session.request(l.backend, "1");
@@ -309,6 +310,15 @@ void SdkSession::textIsCutBetweenCharacters()
     QCOMPARE(QByteArray(target), QByteArray("€"));
     copyText("abcdef", target, 0);
     QCOMPARE(QByteArray(target), QByteArray("€"));
+}
+
+void SdkSession::malformedTextIsNotConverted()
+{
+    QVERIFY(toUtf16("a€😀") == std::u16string(u"a€😀"));
+    QVERIFY(toUtf8(u"a€😀") == std::string("a€😀"));
+    for (const char *text : {"\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80"})
+        QVERIFY(!toUtf16(text));
+    QVERIFY(!toUtf8(std::u16string(1, u'\xDC00')));
 }
 
 QTEST_APPLESS_MAIN(SdkSession)
