@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Double-click a cell to change it; coloured rows are fixed. In a code, %s stands for the number entered.</translation>
+        <translation>Double-click to change a cell; coloured rows are fixed. %s in a code is the number.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

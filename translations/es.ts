@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Haga doble clic en una celda para cambiarla; las filas de color son fijas. En un código, %s representa el número introducido.</translation>
+        <translation>Doble clic para cambiar; las filas de color son fijas. %s en un código es el número.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

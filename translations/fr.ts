@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Double-cliquez sur une cellule pour la modifier&#xa0;; les lignes colorées sont fixes. Dans un code, %s représente le numéro saisi.</translation>
+        <translation>Double-clic pour modifier&#xa0;; lignes colorées fixes. Dans un code, %s est le numéro.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Faça duplo clique numa célula para a alterar; as linhas coloridas são fixas. Num código, %s representa o número introduzido.</translation>
+        <translation>Duplo clique para alterar; as linhas coloridas são fixas. %s num código é o número.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

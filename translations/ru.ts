@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Двойной щелчок изменяет ячейку; цветные строки неизменны. В коде %s означает введённый номер.</translation>
+        <translation>Двойной щелчок меняет ячейку; цветные строки постоянны. В коде %s — номер.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>
