@@ -42,7 +42,7 @@ GeneralWindow GeneralWindow::framed()
     for (const QWidget *window : QApplication::topLevelWidgets()) {
         if (!window->isVisible() || !qobject_cast<const ExtendDialog *>(window))
             continue;
-        const GeneralWindow found(window);
+        GeneralWindow found(window);
         if (found.isComplete())
             return found;
     }

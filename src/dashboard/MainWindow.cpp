@@ -94,7 +94,7 @@ QWidget *MainWindow::page() const
 
 PluginFailure MainWindow::loadPlugin()
 {
-    const PluginFailure failure = m_plugin->load(UiPlugin::installedFile());
+    PluginFailure failure = m_plugin->load(UiPlugin::installedFile());
     m_buttons->setEnabled(m_plugin->isUsable());
     if (m_plugin->isUsable())
         showPage(true);

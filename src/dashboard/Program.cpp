@@ -61,7 +61,7 @@ QString useRememberedScenario(MainWindow &window, const DashboardSettings &setti
 {
     if (isSet("TKSV_SCENARIO") || settings.scenario().isEmpty())
         return Scenarios::use(QString());
-    const QString error = Scenarios::use(settings.scenario());
+    QString error = Scenarios::use(settings.scenario());
     if (error.isEmpty())
         window.setScenario(settings.scenario());
     return error;

@@ -70,7 +70,7 @@ void PluginLoadingTest::setUp()
 PluginFailure PluginLoadingTest::load(const QString &file)
 {
     UiPlugin plugin;
-    const PluginFailure failure = plugin.load(file);
+    PluginFailure failure = plugin.load(file);
     if (failure.step != PluginFailure::None && plugin.isUsable())
         qWarning("usable in spite of a failure");
     return failure;

@@ -16,7 +16,7 @@ class QObject;
 class IBasePlugin : public IBaseInterface, public IDestroyEvent
 {
 public:
-    virtual ~IBasePlugin() {}
+    ~IBasePlugin() override {}
 
     /// The first call after loading; false keeps the host from using the plug-in.
     virtual bool Init() = 0;

@@ -15,7 +15,7 @@ class QWidget;
 class IUIPlugin : public IBasePlugin
 {
 public:
-    virtual ~IUIPlugin() {}
+    ~IUIPlugin() override {}
 
     /// Shows the plug-in's page as a child of the host's `parent`, at `rect` in its coordinates.
     virtual int ShowWindow(QWidget *parent, QRect &rect) = 0;
