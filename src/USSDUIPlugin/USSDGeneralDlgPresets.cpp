@@ -11,11 +11,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "CodeText.h"
 #include "CommonUtils.h"
 #include "PluginLog.h"
+#include "QtCompat.h"
 #include "TranscriptView.h"
 #include "USSDEditCmd.h"
 
@@ -32,7 +34,8 @@ const int kFirstFreeSlot = 9;
 const int kRightColumn = 2; // where transcript and entry stand, five columns wide
 const int kRightColumns = 5;
 const int kPromptRow = 8;
-const int kBoxSpacing = 4; // the fixed window holds all its rows only when they stand close
+const int kRowBelowPayment = 11; // the box with the payment field ends above it
+const int kBoxSpacing = 4;       // the fixed window holds all its rows only when they stand close
 
 const int kElideWidth = 127; // whatever the button's width is
 const int kPayButtons = 2;   // the last ones
@@ -51,6 +54,15 @@ void setProfileText(QPushButton *button, const QString &text)
     else
         button->unsetLayoutDirection();
     button->setText(text);
+}
+
+/// A tool tip takes what looks like markup for markup, and would load a picture that it names.
+void keepToolTipPlain(QPushButton *button)
+{
+    const QString tip = button->toolTip();
+    if (Qt::mightBeRichText(tip))
+        button->setToolTip(QLatin1String("<span>") + QtCompat::escapeHtml(tip) +
+                           QLatin1String("</span>"));
 }
 
 } // namespace
@@ -167,6 +179,7 @@ void USSDGeneralDlg::updatePreBtnWidth(int width)
         QPushButton *button = m_pListPreBtns->at(i).first;
         button->setFixedWidth(width);
         CommonUtils::setElidedTextForWidgetText<QPushButton>(button, kElideWidth, Qt::ElideRight);
+        keepToolTipPlain(button);
     }
 }
 
@@ -261,7 +274,7 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
     const int rowBelowButtons = row;
     row = 0;
     addFixedElements(row);
-    addBottomButtons(rowBelowButtons);
+    addBottomButtons(qMax(rowBelowButtons, kRowBelowPayment));
     setLayout(m_pMainGrid);
     resetWidgetsWidth4DyncBtnArea();
     changePayBtnsStatus(false); // the payment field is empty
