@@ -22,9 +22,6 @@ std::optional<std::string> toUtf8(const std::u16string &text)
 
 std::optional<std::u16string> toUtf16(const std::string &text)
 {
-    // g_utf8_to_utf16() does not find every malformed text.
-    if (!g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr))
-        return std::nullopt;
     glong length = 0;
     gunichar2 *units =
         g_utf8_to_utf16(text.data(), static_cast<glong>(text.size()), nullptr, &length, nullptr);

@@ -143,6 +143,19 @@ Response ask(const std::u16string &text)
     return received().responses.all().at(before);
 }
 
+bool doInTime(int milliseconds, const std::function<void()> &prepare,
+              const std::function<void()> &action)
+{
+    for (int attempt = 0; attempt < 50; ++attempt) {
+        prepare();
+        const auto start = std::chrono::steady_clock::now();
+        action();
+        if (std::chrono::steady_clock::now() - start < std::chrono::milliseconds(milliseconds))
+            return true;
+    }
+    return false;
+}
+
 long sendSms(const std::u16string &number, const std::u16string &text)
 {
     TKSV_SMSRecord record = nullptr;

@@ -116,6 +116,13 @@ long request(const std::u16string &text, int *status = nullptr);
 /// Sends the text and returns the response to it, of type -1 when none came.
 Response ask(const std::u16string &text);
 
+/**
+ * Does something that must be over within `milliseconds`, since then the network speaks; on a busy
+ * machine it may take several attempts, each from `prepare` on. False when none was quick enough.
+ */
+bool doInTime(int milliseconds, const std::function<void()> &prepare,
+              const std::function<void()> &action);
+
 long sendSms(const std::u16string &number, const std::u16string &text);
 
 } // namespace SdkFixture

@@ -120,14 +120,13 @@ void SdkDevice::messageIsCutToItsSize()
 
 void SdkDevice::newScenarioEndsTheRequestByAnEvent()
 {
-    const std::string slow = std::string(Start) + "[*1#]\nReply=late\nDelay=10\n";
-    QCOMPARE(useNetwork(slow), std::string());
+    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=late\nDelay=3600000\n"), std::string());
     registerAll();
     QCOMPARE(request(u"*1#"), 0L);
-    QCOMPARE(useNetwork(slow), std::string());
+    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=of the new one\n"), std::string());
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
-    QCOMPARE(QString::fromStdU16String(ask(u"*1#").text), QString::fromLatin1("late"));
+    QCOMPARE(QString::fromStdU16String(ask(u"*1#").text), QString::fromLatin1("of the new one"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
     unregisterAll();
     received().clear();
@@ -150,7 +149,8 @@ void SdkDevice::newScenarioTellsReadinessForSms()
 void SdkDevice::infoCallbackTellsOfChanges()
 {
     Gate changed;
-    QCOMPARE(useNetwork(std::string(Start) + "[Event e]\nAfter=10\nSignal=5\n"), std::string());
+    QCOMPARE(useNetwork(std::string(Start) + "[Event e]\nAfter=10\nEvery=10\nSignal=5\n"),
+             std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &changed), 0L);
     QVERIFY(changed.wait());
     QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);

@@ -61,6 +61,17 @@ QString answerTo(const std::u16string &text)
            QString::fromStdU16String(response.text);
 }
 
+/// Sends the code as soon as the device is registered.
+bool sendWhenRegistered(const std::u16string &code)
+{
+    for (int attempt = 0; attempt < 1000; ++attempt) {
+        if (request(code) == 0)
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return false;
+}
+
 QString is(const char *text)
 {
     return QString::fromUtf8(text);
@@ -84,6 +95,8 @@ private slots:
     void unknownAnswerEndsTheSession();
     void silentAnswerCanBeReplaced();
     void eventHappensAgain();
+    void stateThatStaysEndsNothing();
+    void stateThatChangesRefusesTheRequest();
     void lostDeviceStaysAwayForEver();
 };
 
@@ -126,7 +139,11 @@ void SdkSimulator::moneyThatIsNotThereIsNotTaken()
 
 void SdkSimulator::replacedRequestTakesNoMoney()
 {
-    QCOMPARE(request(u"*103#"), 0L);
+    const auto useNewNetwork = [] { useNetwork(Network); };
+    QVERIFY(doInTime(20, useNewNetwork, [] {
+        request(u"*103#");
+        request(u"*100#");
+    }));
     QCOMPARE(answerTo(u"*100#"), is("0 10.00 EUR"));
     QCOMPARE(answerTo(u"*103#"), is("0 late")); // behind the time of the first
     QCOMPARE(answerTo(u"*100#"), is("0 15.00 EUR"));
@@ -165,12 +182,29 @@ void SdkSimulator::silentAnswerCanBeReplaced()
 void SdkSimulator::eventHappensAgain()
 {
     QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\n"
-                        "[Event off]\nAfter=5\nEvery=20\nSMS=not-ready\n"
-                        "[Event on]\nAfter=15\nEvery=20\nSMS=ready\n"),
+                        "[Event reset]\nAfter=5\nEvery=10\nDeviceEvent=6601\nAway=1\n"),
              std::string());
-    QVERIFY(received().smsStatus.waitFor(6));
-    // The first two are of the network before and of this one at its start.
-    QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 7, 8, 7, 8, 7}));
+    QVERIFY(received().deviceEvents.waitFor(4));
+    QCOMPARE(received().deviceEvents.all()[3], 6601); // the first was that of the network before
+}
+
+void SdkSimulator::stateThatStaysEndsNothing()
+{
+    QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\n[*1#]\nReply=late\nDelay=30\n"
+                        "[Event same]\nAfter=0\nEvery=5\nState=registered\n"),
+             std::string());
+    QCOMPARE(answerTo(u"*1#"), is("0 late"));
+}
+
+void SdkSimulator::stateThatChangesRefusesTheRequest()
+{
+    QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\n[*1#]\nOutcome=silence\n"
+                        "[Event search]\nAfter=10\nEvery=20\nState=searching\n"
+                        "[Event found]\nAfter=20\nEvery=20\nState=registered\n"),
+             std::string());
+    QVERIFY(sendWhenRegistered(u"*1#"));
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(received().responses.all()[0].type, 2);
 }
 
 void SdkSimulator::lostDeviceStaysAwayForEver()
