@@ -1,0 +1,85 @@
+/*
+ * Opens the dashboard as its main function does, closes it once the plug-in's page is there, and
+ * ends with 0 when it went through its orderly end and remembered its place.
+ */
+#include <QApplication>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <cstdio>
+
+#include "Arguments.h"
+#include "DashboardSettings.h"
+#include "GeneralWindow.h"
+#include "IUSSD.h"
+#include "MainWindow.h"
+#include "Program.h"
+
+namespace
+{
+
+const int INTERVAL = 20; // ms
+const int LIMIT = 500;   // intervals
+bool pageSeen = false;
+bool frameSeen = false;
+
+class Closer : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Closer(QObject *parent) : QObject(parent)
+    {
+        connect(&m_timer, &QTimer::timeout, this, &Closer::look);
+        m_timer.start(INTERVAL);
+    }
+
+private:
+    // With the frame open and a command on its way, so that both have to be ended.
+    void look()
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            MainWindow *window = qobject_cast<MainWindow *>(widget);
+            if (!window || !GeneralWindow(window->page()).isComplete())
+                continue;
+            pageSeen = GeneralWindow(window->page()).send(QLatin1String("*199#"));
+            window->openFrame(PAID_TYPE_GENERAL);
+            frameSeen = GeneralWindow::framed().isComplete();
+            m_timer.stop();
+            window->close();
+            QApplication::quit();
+            return;
+        }
+        if (++m_looks > LIMIT)
+            QApplication::exit(1);
+    }
+
+    QTimer m_timer;
+    int m_looks = 0;
+};
+
+void closeSoon()
+{
+    new Closer(qApp);
+}
+Q_COREAPP_STARTUP_FUNCTION(closeSoon)
+
+int fail(const char *what)
+{
+    fprintf(stderr, "%s\n", what);
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (Program::openWindow(argc, argv, Arguments()) != EXIT_GOOD)
+        return fail("the dashboard did not end well");
+    if (!pageSeen || !frameSeen)
+        return fail("the plug-in's windows were not seen");
+    if (DashboardSettings().geometry().isEmpty())
+        return fail("the window's place was not remembered");
+    return 0;
+}
+
+#include "open_window.moc"
