@@ -67,7 +67,7 @@ Entry entry(Direction direction, const Char &look, bool rightToLeft, const QStri
         markup += lineBreak;
     markup += QLatin1String("</span></p>");
     markup.replace(QLatin1Char('\n'), lineBreak);
-    const Entry result = {markup, isPlain(caption + text), mayReachOn(caption, text)};
+    Entry result = {markup, isPlain(caption + text), mayReachOn(caption, text)};
     return result;
 }
 

@@ -11,6 +11,7 @@
 
 #include "CommonUtils.h"
 #include "PluginLog.h"
+#include "PluginMessage.h"
 #include "PluginText.h"
 #include "ProfileRows.h"
 
@@ -271,7 +272,7 @@ void USSDEditCmd::refuseDuplicate(int row, int column)
     m_bDuplicateRefused = true;
     const QString what = tr(
         QLatin1String(column == ProfileRows::CodeColumn ? "IDS_COMMAND_CODE" : "IDS_COMMAND_NAME"));
-    CommonUtils::ShowMessage(
+    PluginMessage::show(
         QMessageBox::Information, messageParent(), tr(QLatin1String("IDS_PROMPT_CAPTION")),
         tr(QLatin1String("IDC_CMDEDIT_EXISTTIP")).replace(QLatin1String("%s"), what),
         QLatin1String("IDS_OK"));
@@ -326,10 +327,10 @@ void USSDEditCmd::OnClickedSaveButton()
 
 bool USSDEditCmd::confirmSaving()
 {
-    const int answer = CommonUtils::ShowMessage(QMessageBox::Information, messageParent(),
-                                                tr(QLatin1String("IDS_PROMPT_CAPTION")),
-                                                tr(QLatin1String("IDC_CMDEDIT_SAVETIP")),
-                                                QLatin1String("IDS_YES"), QLatin1String("IDS_NO"));
+    const int answer = PluginMessage::show(QMessageBox::Information, messageParent(),
+                                           tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                                           tr(QLatin1String("IDC_CMDEDIT_SAVETIP")),
+                                           QLatin1String("IDS_YES"), QLatin1String("IDS_NO"));
     return m_pFrame && answer == QMessageBox::Ok;
 }
 

@@ -12,6 +12,7 @@
 
 #include "CommonUtils.h"
 #include "PluginLog.h"
+#include "PluginMessage.h"
 #include "PluginText.h"
 #include "tksv.h"
 #include "TranscriptView.h"
@@ -524,10 +525,10 @@ void USSDGeneralDlg::clearHistory()
     }
     if (m_clearBtnSetting.showConfirmDialog) {
         const QPointer<USSDGeneralDlg> self(this); // the host may shut down while it asks
-        const int answer = CommonUtils::ShowMessage(
-            QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
-            tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),
-            QLatin1String("IDS_CANCEL"));
+        const int answer =
+            PluginMessage::show(QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
+                                tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),
+                                QLatin1String("IDS_CANCEL"));
         if (!self || answer != QMessageBox::Ok)
             return;
     }

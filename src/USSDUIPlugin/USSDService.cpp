@@ -6,6 +6,7 @@
 
 #include "CommonUtils.h"
 #include "PluginLog.h"
+#include "PluginMessage.h"
 #include "PluginText.h"
 #include "USSDLogic.h"
 
@@ -281,6 +282,7 @@ void CUSSDService::OnCloseButtonClicked()
 void CUSSDService::destroyUSSD()
 {
     USSD_LOG_SCOPE();
+    PluginMessage::closeAll();
     delete m_pGeneralModalDlg;
     delete m_pGeneralEmbeddedDlg;
     delete m_pGeneralFrame;

@@ -65,6 +65,7 @@ private slots:
     void savedNamesAppearOnTheButtonsAtOnce();
     void hostMayShutDownWhileTheEditorIsOpen_data();
     void hostMayShutDownWhileTheEditorIsOpen();
+    void hostMayShutDownWhileTheQuestionIsOpen();
 };
 
 void ProfileEditorTest::setUp()
@@ -412,6 +413,28 @@ void ProfileEditorTest::hostMayShutDownWhileTheEditorIsOpen()
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
+}
+
+/// The question has no parent that would take it along.
+void ProfileEditorTest::hostMayShutDownWhileTheQuestionIsOpen()
+{
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    bool wasOpen = false;
+    QTimer::singleShot(0, this, [this, &wasOpen] {
+        type(1, 0, QStringLiteral("My menu"));
+        QTimer::singleShot(0, this, [&wasOpen] {
+            wasOpen = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            CUSSDService::Destroy();
+        });
+        saveButton()->click();
+    });
+    QTest::mouseClick(editButton(m_mainWindow.data()), Qt::LeftButton); // comes back by itself
+    QVERIFY(wasOpen);
+    drainEvents();
+    QVERIFY(!table());
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu"));
 }
 
 USSD_TEST_MAIN(ProfileEditorTest)
