@@ -161,6 +161,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
+    QCOMPARE(useNetwork(Start), std::string()); // where nothing happens by itself
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
     infoCalls = 0;

@@ -92,12 +92,10 @@ bool waitUntil(const std::function<bool()> &condition)
     return condition();
 }
 
-/// Ends the session, and forgets the responses.
+/// A new network, which knows nothing of what was, and no responses so far.
 void startAfresh()
 {
-    int status = 0;
-    TKSV_USSDSrv_Release(&status);
-    deviceHasCaughtUp();
+    useNetwork(Network);
     TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // a call-back that runs has returned then
     received().responses.clear();
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
