@@ -1,0 +1,77 @@
+#include "ReplyLabel.h"
+
+#include <QPainter>
+#include <QRegExp>
+#include <QStyle>
+#include <QTextLayout>
+
+namespace
+{
+
+// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING: isolates are younger than Qt 4.
+const ushort kEmbed = 0x202A;
+const ushort kPop = 0x202C;
+
+QTextOption textOption(const QLabel &label, bool rightToLeft)
+{
+    QTextOption option(QStyle::visualAlignment(label.layoutDirection(), label.alignment()) |
+                       Qt::AlignAbsolute);
+    option.setTextDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+/// Breaks the text into lines, as many as are seen.
+void layOut(QTextLayout &layout, const QSize &space)
+{
+    qreal bottom = 0;
+    layout.beginLayout();
+    while (bottom < space.height()) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(space.width());
+        line.setPosition(QPointF(0, bottom));
+        bottom += line.height();
+    }
+    layout.endLayout();
+}
+
+} // namespace
+
+ReplyLabel::ReplyLabel(QWidget *parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+}
+
+QSize ReplyLabel::sizeHint() const
+{
+    return QSize(0, 0);
+}
+
+QSize ReplyLabel::minimumSizeHint() const
+{
+    return QSize(0, 0);
+}
+
+QString ReplyLabel::withCodesMarked(const QString &text)
+{
+    QString marked = text;
+    const QString around = QChar(kEmbed) + QString::fromLatin1("\\1") + QChar(kPop);
+    return marked.replace(QRegExp(QLatin1String("([*#+][*#0-9]+)")), around);
+}
+
+void ReplyLabel::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event);
+    QPainter painter(this);
+    drawFrame(&painter);
+    painter.setPen(palette().color(foregroundRole()));
+    QString shown = withCodesMarked(text());
+    shown.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(shown, font(), this);
+    layout.setTextOption(textOption(*this, text().isRightToLeft()));
+    layOut(layout, contentsRect().size());
+    layout.draw(&painter, contentsRect().topLeft());
+}

@@ -1,0 +1,485 @@
+#include "SmsLayout.h"
+
+#include <QScopedPointer>
+#include <QWidget>
+#include <QXmlStreamReader>
+
+namespace
+{
+
+const int kMaxComplaints = 20;
+const int kMaxQuoted = 40;  // characters of the file in a complaint
+const int kMaxDepth = 100;  // elements inside each other
+const int kMaxControls = 6; // kept of a group: enough to see that there are too many
+
+/// The part of a value that a log line can bear.
+QString quoted(const QString &text)
+{
+    if (text.length() <= kMaxQuoted)
+        return QLatin1Char('"') + text + QLatin1Char('"');
+    return QLatin1Char('"') + text.left(kMaxQuoted) + QLatin1String("...\"");
+}
+
+/** Reads the section front to back, by element name; elements of other names are looked through. */
+class Reader
+{
+public:
+    Reader(QXmlStreamReader &xml, SmsLayout &layout) : m_xml(xml), m_layout(layout), m_depth(0) {}
+
+    bool readDocument();
+    void readDialog();
+
+private:
+    QXmlStreamReader::TokenType next();
+    bool nextStart(const char *fence);
+    bool nextStart(const char *name, const char *fence);
+    bool isAt(const char *name) const { return m_xml.name() == QLatin1String(name); }
+    QString text();
+    void skipElement() { text(); }
+    QString attribute(const char *name) const;
+    int numberAttribute(const char *name);
+    int numberText(const char *name);
+    int number(const char *name, const QString &text);
+    int pixels(const char *name, int least);
+    QString onLine(const QString &what) const;
+    void complain(const QString &what);
+
+    void readSection();
+    void readPart();
+    void readMainSize();
+    void readTreeSize();
+    void readTree();
+    void readEntry();
+    void takeRoot(CTreeItem *entry);
+    void takeOrdinary(CTreeItem *entry);
+    QString whyDropped(const CTreeItem &entry) const;
+    void store(CTreeItem *entry);
+
+    void readGroup();
+    void storeGroup(int entry, CWidget *group);
+    CWidgetItemInfo *readControl();
+    void readControlAttributes(CWidgetItemInfo &control);
+    void readControlElement(CWidgetItemInfo &control);
+    void checkInput(const CWidgetItemInfo &control);
+    void checkGroups();
+
+    QXmlStreamReader &m_xml;
+    SmsLayout &m_layout;
+    int m_depth; // of the current element, from where the reading began
+};
+
+// ---- tokens --------------------------------------------------------------------------------
+
+/// Each open element costs the parser far more memory than its three characters in the file.
+QXmlStreamReader::TokenType Reader::next()
+{
+    const QXmlStreamReader::TokenType token = m_xml.readNext();
+    if (token == QXmlStreamReader::StartElement && ++m_depth > kMaxDepth)
+        m_xml.raiseError(QLatin1String("Elements are nested too deeply."));
+    else if (token == QXmlStreamReader::EndElement)
+        --m_depth;
+    return token;
+}
+
+/// Moves to the next start element; false at the end element `fence`, or when there is nothing
+/// more.
+bool Reader::nextStart(const char *fence)
+{
+    while (!m_xml.atEnd()) {
+        const QXmlStreamReader::TokenType token = next();
+        if (token == QXmlStreamReader::StartElement)
+            return !m_xml.hasError();
+        if (token == QXmlStreamReader::EndElement && isAt(fence))
+            return false;
+    }
+    return false;
+}
+
+bool Reader::nextStart(const char *name, const char *fence)
+{
+    while (nextStart(fence)) {
+        if (isAt(name))
+            return true;
+    }
+    return false;
+}
+
+/// The whole text of the current element, also of elements inside it.
+QString Reader::text()
+{
+    QString text;
+    const int outside = m_depth - 1;
+    while (m_depth > outside && !m_xml.atEnd()) {
+        if (next() == QXmlStreamReader::Characters)
+            text += m_xml.text();
+    }
+    return text;
+}
+
+QString Reader::attribute(const char *name) const
+{
+    return m_xml.attributes().value(QLatin1String(name)).toString();
+}
+
+/// 0, without a complaint, when it is missing.
+int Reader::numberAttribute(const char *name)
+{
+    if (!m_xml.attributes().hasAttribute(QLatin1String(name)))
+        return 0;
+    return number(name, attribute(name));
+}
+
+int Reader::numberText(const char *name)
+{
+    return number(name, text());
+}
+
+int Reader::number(const char *name, const QString &text)
+{
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    if (!ok)
+        complain(QString::fromLatin1("%1 %2 is not a number; 0 is used")
+                     .arg(QLatin1String(name), quoted(text)));
+    return value;
+}
+
+/// As written: what cannot be shown is put right when it is shown.
+int Reader::pixels(const char *name, int least)
+{
+    const int value = numberAttribute(name);
+    if (value < least || value > QWIDGETSIZE_MAX)
+        complain(QString::fromLatin1("%1 %2 is out of range (%3 to %4)")
+                     .arg(QLatin1String(name))
+                     .arg(value)
+                     .arg(least)
+                     .arg(QWIDGETSIZE_MAX));
+    return value;
+}
+
+QString Reader::onLine(const QString &what) const
+{
+    return QString::fromLatin1("line %1: ").arg(m_xml.lineNumber()) + what;
+}
+
+void Reader::complain(const QString &what)
+{
+    if (m_layout.complaints.count() < kMaxComplaints)
+        m_layout.complaints << onLine(what);
+    else
+        ++m_layout.furtherComplaints;
+}
+
+// ---- section and tree ----------------------------------------------------------------------
+
+bool Reader::readDocument()
+{
+    while (nextStart("SMSUSSD", ""))
+        readSection();
+    if (!m_xml.hasError())
+        checkGroups();
+    else // whatever else was found: this one has its place
+        m_layout.complaints.prepend(onLine(m_xml.errorString()));
+    return !m_xml.hasError();
+}
+
+void Reader::readSection()
+{
+    while (nextStart("SMSUSSD"))
+        readPart();
+}
+
+void Reader::readPart()
+{
+    if (isAt("MainSize"))
+        readMainSize();
+    else if (isAt("TreeSize"))
+        readTreeSize();
+    else if (isAt("Tree"))
+        readTree();
+    else if (isAt("Dialog"))
+        readDialog();
+}
+
+void Reader::readMainSize()
+{
+    CDlgInfo &dialog = m_layout.dialog;
+    dialog.width = numberAttribute("width");
+    dialog.height = numberAttribute("height");
+    if (SmsLayoutFile::windowSize(dialog) != QSize(dialog.width, dialog.height))
+        complain(QString::fromLatin1("MainSize %1 x %2 is out of range (0 to %3)")
+                     .arg(dialog.width)
+                     .arg(dialog.height)
+                     .arg(SmsLayoutFile::kMaxWindowSide));
+}
+
+void Reader::readTreeSize()
+{
+    m_layout.tree.posx = pixels("posx", -QWIDGETSIZE_MAX);
+    m_layout.tree.posy = pixels("posy", -QWIDGETSIZE_MAX);
+    m_layout.tree.width = pixels("width", 0);
+    m_layout.tree.height = pixels("height", 0);
+}
+
+void Reader::readTree()
+{
+    while (nextStart("item", "Tree"))
+        readEntry();
+}
+
+void Reader::readEntry()
+{
+    QScopedPointer<CTreeItem> entry(new CTreeItem);
+    entry->number = numberAttribute("name");
+    entry->parent = numberAttribute("parent");
+    entry->textId = attribute("id");
+    if (attribute("type") == QLatin1String("root"))
+        takeRoot(entry.take());
+    else
+        takeOrdinary(entry.take());
+}
+
+void Reader::takeRoot(CTreeItem *entry)
+{
+    entry->isChild = 0;
+    if (m_layout.hasRoot) {
+        complain(
+            QString::fromLatin1("entry %1 is a second root; it is left out").arg(entry->number));
+        delete entry;
+        return;
+    }
+    m_layout.hasRoot = true;
+    m_layout.rootNumber = entry->number;
+    store(entry);
+}
+
+void Reader::takeOrdinary(CTreeItem *entry)
+{
+    const QString reason = whyDropped(*entry);
+    if (!reason.isEmpty()) {
+        complain(QString::fromLatin1("entry %1 is left out: ").arg(entry->number) + reason);
+        delete entry;
+        return;
+    }
+    store(entry);
+    ++m_layout.ordinaryEntries;
+}
+
+/// Empty when the entry is to be kept. The tree has two levels, and its root comes first.
+QString Reader::whyDropped(const CTreeItem &entry) const
+{
+    if (m_layout.ordinaryEntries >= SmsLayoutFile::kMaxOrdinaryEntries)
+        return QString::fromLatin1("there are %1 already").arg(SmsLayoutFile::kMaxOrdinaryEntries);
+    if (!m_layout.hasRoot)
+        return QLatin1String("it stands before the root");
+    if (entry.parent != m_layout.rootNumber)
+        return QString::fromLatin1("its parent %1 is not the root").arg(entry.parent);
+    return QString();
+}
+
+void Reader::store(CTreeItem *entry)
+{
+    if (CTreeItem *replaced = m_layout.entries.take(entry->number)) {
+        complain(QString::fromLatin1("entry %1 replaces an earlier one").arg(entry->number));
+        delete replaced;
+    }
+    m_layout.entries.insert(entry->number, entry);
+}
+
+// ---- controls ------------------------------------------------------------------------------
+
+void Reader::readDialog()
+{
+    while (nextStart("item", "Dialog"))
+        readGroup();
+}
+
+void Reader::readGroup()
+{
+    QScopedPointer<CWidget> group(new CWidget);
+    group->number = numberAttribute("name");
+    const int entry = numberAttribute("parent");
+    int count = 0;
+    while (nextStart("control", "item")) {
+        QScopedPointer<CWidgetItemInfo> control(readControl());
+        if (++count <= kMaxControls)
+            group->controls << control.take();
+    }
+    if (m_xml.hasError())
+        return; // the group has no end
+    if (count != SmsLayoutFile::kControlsOfGroup)
+        complain(QString::fromLatin1("the group of entry %1 has %2 controls; shown are %3 only")
+                     .arg(entry)
+                     .arg(count)
+                     .arg(SmsLayoutFile::kControlsOfGroup));
+    storeGroup(entry, group.take());
+}
+
+void Reader::storeGroup(int entry, CWidget *group)
+{
+    if (CWidget *replaced = m_layout.groups.take(entry)) {
+        complain(QString::fromLatin1("the group of entry %1 replaces an earlier one").arg(entry));
+        delete replaced;
+    }
+    m_layout.groups.insert(entry, group);
+}
+
+CWidgetItemInfo *Reader::readControl()
+{
+    QScopedPointer<CWidgetItemInfo> control(new CWidgetItemInfo);
+    readControlAttributes(*control);
+    while (nextStart("control"))
+        readControlElement(*control);
+    checkInput(*control);
+    return control.take();
+}
+
+void Reader::readControlAttributes(CWidgetItemInfo &control)
+{
+    if (m_xml.attributes().hasAttribute(QLatin1String("type")))
+        control.kind =
+            attribute("type") == QLatin1String("ussd") ? CONTROL_KIND_USSD : CONTROL_KIND_SMS;
+    control.visible = attribute("visible") != QLatin1String("false");
+    control.id = attribute("id");
+    control.posx = pixels("posx", -QWIDGETSIZE_MAX);
+    control.posy = pixels("posy", -QWIDGETSIZE_MAX);
+    control.width = pixels("width", 0);
+    control.height = pixels("height", 0);
+}
+
+void Reader::readControlElement(CWidgetItemInfo &control)
+{
+    if (isAt("LimitText"))
+        control.limitText = text();
+    else if (isAt("length"))
+        control.length = numberText("length");
+    else if (isAt("minlenth"))
+        control.minLength = numberText("minlenth");
+    else if (isAt("command"))
+        control.command = text();
+    else if (isAt("number"))
+        control.number = text();
+    else
+        skipElement();
+}
+
+void Reader::checkInput(const CWidgetItemInfo &control)
+{
+    if (!control.limitText.isEmpty() && !SmsLayoutFile::isCharacterClass(control.limitText))
+        complain(QString::fromLatin1("LimitText %1 is no class of characters; any are allowed")
+                     .arg(quoted(control.limitText)));
+    if (control.length < 0 || control.length > SmsLayoutFile::kMaxInputLength)
+        complain(QString::fromLatin1("length %1 is out of range (0 to %2)")
+                     .arg(control.length)
+                     .arg(SmsLayoutFile::kMaxInputLength));
+}
+
+/// Only at the end: the groups may stand before the tree.
+void Reader::checkGroups()
+{
+    const QList<int> numbers = m_layout.groups.keys();
+    for (int i = 0; i < numbers.count(); ++i) {
+        if (!m_layout.entries.contains(numbers.at(i)))
+            complain(
+                QString::fromLatin1("the tree has no entry %1 for a group").arg(numbers.at(i)));
+    }
+}
+
+// ---- what is made of it --------------------------------------------------------------------
+
+QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
+{
+    if (!mirrored)
+        return asRead;
+    return QRect(QPoint(dialogWidth - asRead.x() - asRead.width(), asRead.y()), asRead.size());
+}
+
+/// Kept small enough for Qt to add and subtract without an overflow.
+int boundedPlace(int pixels)
+{
+    return qBound(-QWIDGETSIZE_MAX, pixels, QWIDGETSIZE_MAX);
+}
+
+int boundedSide(int pixels)
+{
+    return qBound(0, pixels, QWIDGETSIZE_MAX);
+}
+
+template <typename Record>
+QRect boundedRect(const Record &record)
+{
+    return QRect(boundedPlace(record.posx), boundedPlace(record.posy), boundedSide(record.width),
+                 boundedSide(record.height));
+}
+
+} // namespace
+
+void SmsLayout::clear()
+{
+    qDeleteAll(entries);
+    qDeleteAll(groups);
+    entries.clear();
+    groups.clear();
+    complaints.clear();
+    dialog = CDlgInfo();
+    tree = CTreeInfo();
+    hasRoot = false;
+    rootNumber = 0;
+    ordinaryEntries = 0;
+    furtherComplaints = 0;
+}
+
+namespace SmsLayoutFile
+{
+
+bool read(QXmlStreamReader &reader, SmsLayout &layout)
+{
+    return Reader(reader, layout).readDocument();
+}
+
+void readDialogElement(QXmlStreamReader &reader, SmsLayout &layout)
+{
+    Reader(reader, layout).readDialog();
+}
+
+QRegExp inputPattern(const CWidgetItemInfo &control)
+{
+    const QString characters = control.limitText.isEmpty() || !isCharacterClass(control.limitText)
+                                   ? QString(QLatin1Char('.'))
+                                   : QLatin1Char('[') + control.limitText + QLatin1Char(']');
+    const int length = qBound(0, control.length, kMaxInputLength);
+    return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
+}
+
+/// A bracket that closes the class would let any pattern follow, also one that QRegExp takes hours
+/// and gigabytes to multiply out. The first place is a letter like any other.
+bool isCharacterClass(const QString &limitText)
+{
+    if (limitText.length() > kMaxLimitText)
+        return false;
+    const int first = limitText.startsWith(QLatin1Char('^')) ? 1 : 0;
+    for (int i = first; i < limitText.length(); ++i) {
+        if (limitText.at(i) == QLatin1Char('\\'))
+            ++i;
+        else if (limitText.at(i) == QLatin1Char(']') && i > first)
+            return false;
+    }
+    return QRegExp(QLatin1Char('[') + limitText + QLatin1Char(']')).isValid();
+}
+
+QSize windowSize(const CDlgInfo &dialog)
+{
+    return QSize(qBound(0, dialog.width, kMaxWindowSide), qBound(0, dialog.height, kMaxWindowSide));
+}
+
+QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored)
+{
+    return placed(boundedRect(control), dialogWidth, mirrored);
+}
+
+QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored)
+{
+    return placed(boundedRect(tree), dialogWidth, mirrored);
+}
+
+} // namespace SmsLayoutFile

@@ -1,0 +1,635 @@
+#include "USSDSMSDlg.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegExpValidator>
+#include <QTime>
+#include <QTreeWidget>
+#include <QXmlStreamReader>
+
+#include "CommonUtils.h"
+#include "PluginLog.h"
+#include "PluginText.h"
+#include "ReplyLabel.h"
+#include "tksv.h"
+#include "USSDLogic.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
+
+namespace
+{
+
+const int kNoEntry = -1;
+const int kResultQueued = 12; // the command waits its turn
+
+/** Positions of the fixed widgets, and of the controls that describe them in a group. */
+enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
+
+/// Keys that the result label may show the text of.
+const char *const kResultKeys[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
+                                   "IDS_SMS_SEND_FAILED"};
+
+bool isMirrored()
+{
+    return QApplication::layoutDirection() == Qt::RightToLeft;
+}
+
+QString textOf(const char *key)
+{
+    return pluginText(QLatin1String(key));
+}
+
+/// Empty when the text is the network's own.
+QString resultKeyOf(const QString &text)
+{
+    for (const char *key : kResultKeys) {
+        if (text == textOf(key))
+            return QLatin1String(key);
+    }
+    return QString();
+}
+
+/// Empty when the host does not know where its plug-ins are.
+QString layoutPath()
+{
+    const QString folder = CommonUtils::GetPluginLibraryPath();
+    if (folder.isEmpty())
+        return QString();
+    return folder + QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
+}
+
+/// The one line that has its words before the time.
+void logNoPath(const char *function, const QString &path)
+{
+    const QString time = QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz"));
+    qDebug("config file error %s: %s: %s : %s", time.toLocal8Bit().constData(), kLogSource,
+           function, path.toLocal8Bit().constData());
+}
+
+} // namespace
+
+CUSSDSMSDlg::CUSSDSMSDlg()
+    : m_pTree(nullptr), m_pInfoLabel(nullptr), m_pCaptionLabel(nullptr), m_pInputEdit(nullptr),
+      m_pSendButton(nullptr), m_pResultLabel(nullptr), m_pValidator(nullptr), m_bBusy(false),
+      m_bFocusParked(false), m_nSelected(kNoEntry)
+{
+    USSD_LOG_SCOPE();
+    setObjectName(QLatin1String("USSDUIPlugin_SMSDialog"));
+    InitConfig();
+}
+
+CUSSDSMSDlg::~CUSSDSMSDlg()
+{
+    USSD_LOG_SCOPE();
+}
+
+QString CUSSDSMSDlg::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+QString CUSSDSMSDlg::objectNameOf(const char *role)
+{
+    return QLatin1String("USSDUIPlugin_SMSDialog_") + QLatin1String(role);
+}
+
+// ---- layout file ---------------------------------------------------------------------------
+
+void CUSSDSMSDlg::InitConfig()
+{
+    USSD_LOG_SCOPE();
+    forgetService();
+    m_nSelected = kNoEntry;
+    m_layout.clear();
+    const QString path = layoutPath();
+    if (path.isEmpty())
+        logNoPath(__func__, path);
+    else if (!QFile::exists(path))
+        USSD_LOG(": return fail for the file doesn't exist.");
+    else
+        readLayoutFile(path);
+}
+
+void CUSSDSMSDlg::readLayoutFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        PluginLog::line(QtDebugMsg, kLogSource, "InitConfig",
+                        ": return fail for the file can't be open as readonly and text mode.");
+        return;
+    }
+    QXmlStreamReader reader(&file);
+    const bool whole = ReadFile(reader);
+    file.close();
+    logComplaints();
+    if (whole)
+        connectLogic();
+}
+
+void CUSSDSMSDlg::logComplaints() const
+{
+    for (int i = 0; i < m_layout.complaints.count(); ++i)
+        USSD_LOG_IMPORTANT(" SMSUSSD: %s", m_layout.complaints.at(i).toLocal8Bit().constData());
+    if (m_layout.furtherComplaints > 0)
+        USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
+}
+
+/// A dialog whose file was not read to its end never hears an answer, on purpose; without the logic
+/// it does not send either.
+void CUSSDSMSDlg::connectLogic()
+{
+    m_pLogic = USSDLogic::GetUSSDLogicInstance();
+    if (!m_pLogic)
+        return;
+    connect(m_pLogic, SIGNAL(responseReceived(int, QString)), this,
+            SLOT(OnResponseUSSDSMSReceived(int, QString)), Qt::UniqueConnection);
+    connect(m_pLogic, SIGNAL(SmsSendResult(bool, QString, QString)), this,
+            SLOT(OnSendResult(bool, QString, QString)), Qt::UniqueConnection);
+    connect(m_pLogic, SIGNAL(CanSendSMS(bool)), this, SLOT(OnCanSendSMS(bool)),
+            Qt::UniqueConnection);
+}
+
+bool CUSSDSMSDlg::ReadFile(QXmlStreamReader &reader)
+{
+    if (!reader.device()) {
+        USSD_LOG(" return fail");
+        return false;
+    }
+    if (SmsLayoutFile::read(reader, m_layout))
+        return true;
+    USSD_LOG(": Read Error: ");
+    return false;
+}
+
+void CUSSDSMSDlg::ReadWidgetInfo(QXmlStreamReader &reader)
+{
+    SmsLayoutFile::readDialogElement(reader, m_layout);
+}
+
+// ---- building ------------------------------------------------------------------------------
+
+void CUSSDSMSDlg::InitDialog()
+{
+    USSD_LOG_SCOPE();
+    if (m_pTree)
+        return;
+    createWidgets();
+    connectWidgets();
+    resize(GetSize());
+    InitTree();
+    SetLanguage();
+}
+
+void CUSSDSMSDlg::createWidgets()
+{
+    m_pTree = new QTreeWidget(this);
+    m_pTree->setObjectName(objectNameOf("ServiceTree"));
+    m_pInfoLabel = initLabel(new QLabel(this), "InfoLabel");
+    m_pCaptionLabel = initLabel(new QLabel(this), "CaptionLabel");
+    createInput();
+    m_pSendButton = new QPushButton(this);
+    m_pSendButton->setObjectName(objectNameOf("SendButton"));
+    m_pResultLabel = initLabel(new ReplyLabel(this), "ResultLabel");
+    m_pCaptionLabel->setBuddy(m_pInputEdit);
+    m_listWidgets << m_pInfoLabel << m_pCaptionLabel << m_pInputEdit << m_pSendButton
+                  << m_pResultLabel;
+    for (int i = 0; i < m_listWidgets.count(); ++i)
+        m_listWidgets.at(i)->hide(); // until a service is shown
+    setTabOrder(m_pTree, m_pInputEdit);
+    setTabOrder(m_pInputEdit, m_pSendButton);
+}
+
+QLabel *CUSSDSMSDlg::initLabel(QLabel *label, const char *role)
+{
+    label->setObjectName(objectNameOf(role));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+void CUSSDSMSDlg::createInput()
+{
+    m_pInputEdit = new QLineEdit(this);
+    m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers
+    m_pValidator = new QRegExpValidator(m_pInputEdit);
+    m_pInputEdit->setValidator(m_pValidator);
+}
+
+void CUSSDSMSDlg::connectWidgets()
+{
+    connect(m_pInputEdit, SIGNAL(textChanged(QString)), this, SLOT(OnTextChanged(QString)));
+    connect(m_pInputEdit, SIGNAL(returnPressed()), m_pSendButton, SLOT(click()));
+    connect(m_pSendButton, SIGNAL(clicked()), this, SLOT(OnClickedUSSDSMSButton()));
+}
+
+void CUSSDSMSDlg::SetLanguage()
+{
+    USSD_LOG_SCOPE();
+    setWindowTitle(textOf("IDS_WINDOW_TITLE_SMSUSSD"));
+    if (!m_pTree)
+        return;
+    translateTree();
+    SetTreeGeometry();
+    translateControls();
+    placeControls(isMirrored());
+}
+
+QSize CUSSDSMSDlg::GetSize()
+{
+    return SmsLayoutFile::windowSize(m_layout.dialog);
+}
+
+QSize CUSSDSMSDlg::sizeHint() const
+{
+    return SmsLayoutFile::windowSize(m_layout.dialog);
+}
+
+/// Return in the tree would otherwise reach the frame, whose default button is the one that sends.
+void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        QWidget::keyPressEvent(event);
+}
+
+void CUSSDSMSDlg::OnClickedCloseButton()
+{
+    USSD_LOG_SCOPE();
+    if (m_pLogic)
+        m_pLogic->ClearUSSDSMSQueuedCmds();
+    if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
+        endSending();          // its answer went with the queue
+    emit clickedcloseButton(); // the receiver may delete the dialog
+}
+
+// ---- tree ----------------------------------------------------------------------------------
+
+void CUSSDSMSDlg::InitTree()
+{
+    if (!m_pTree)
+        return;
+    m_pTree->setHeaderHidden(true);
+    m_pTree->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_pTree->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_pTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_pTree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    addRows();
+    connect(m_pTree, SIGNAL(itemSelectionChanged()), this, SLOT(OnTreeItemSelectionChanged()));
+}
+
+void CUSSDSMSDlg::addRows()
+{
+    CTreeItem *rootEntry = m_layout.hasRoot ? m_layout.entries.value(m_layout.rootNumber) : nullptr;
+    if (!rootEntry)
+        return;
+    QTreeWidgetItem *root = new QTreeWidgetItem(m_pTree);
+    rootEntry->treeWidgetItem = root;
+    root->setExpanded(true);
+    const QList<CTreeItem *> entries = m_layout.entries.values(); // by number
+    for (int i = 0; i < entries.count(); ++i) {
+        CTreeItem *entry = entries.at(i);
+        if (entry == rootEntry || !entry->isChild)
+            continue;
+        entry->treeWidgetItem = new QTreeWidgetItem(root);
+        if (m_nSelected == kNoEntry)
+            m_nSelected = entry->number;
+    }
+}
+
+void CUSSDSMSDlg::translateTree()
+{
+    const QList<CTreeItem *> entries = m_layout.entries.values();
+    for (int i = 0; i < entries.count(); ++i) {
+        QTreeWidgetItem *row = entries.at(i)->treeWidgetItem;
+        if (!row)
+            continue;
+        row->setText(0, tr(entries.at(i)->textId));
+    }
+    // Through the base class, where it is public. A longer text than fits can be scrolled to.
+    const QAbstractItemView *view = m_pTree;
+    m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
+    m_pTree->setAccessibleName(windowTitle());
+}
+
+void CUSSDSMSDlg::SetTreeGeometry()
+{
+    if (!m_pTree)
+        return;
+    m_pTree->setGeometry(SmsLayoutFile::geometry(m_layout.tree, GetSize().width(), isMirrored()));
+    if (m_nSelected == kNoEntry)
+        return;
+    const CTreeItem *entry = m_layout.entries.value(m_nSelected);
+    if (entry && entry->treeWidgetItem)
+        m_pTree->setCurrentItem(entry->treeWidgetItem);
+}
+
+/// Null when no row is current. Qt announces the new selection before it makes its row the current
+/// one when a key moved it, and after when the mouse did: the selected row is right in both.
+const CTreeItem *CUSSDSMSDlg::selectedEntry() const
+{
+    const QList<QTreeWidgetItem *> selected = m_pTree->selectedItems();
+    const QTreeWidgetItem *row = selected.isEmpty() ? m_pTree->currentItem() : selected.first();
+    const QList<CTreeItem *> entries = m_layout.entries.values();
+    for (int i = 0; row && i < entries.count(); ++i) {
+        if (entries.at(i)->treeWidgetItem == row)
+            return entries.at(i);
+    }
+    return nullptr;
+}
+
+void CUSSDSMSDlg::OnTreeItemSelectionChanged()
+{
+    if (m_bBusy || !m_pTree)
+        return;
+    const CTreeItem *entry = selectedEntry();
+    if (!entry)
+        return;
+    m_nSelected = entry->number;
+    const CWidget *group = m_layout.groups.value(m_nSelected);
+    // The controls of one service never stand beside the name of another.
+    if (!group || !SetWidgetGeometry(group->controls, isMirrored()))
+        forgetService();
+}
+
+// ---- controls ------------------------------------------------------------------------------
+
+bool CUSSDSMSDlg::SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirrored)
+{
+    if (controls.isEmpty() || controls.count() > SmsLayoutFile::kControlsOfGroup ||
+        controls.count() != m_listWidgets.count()) {
+        USSD_LOG(" Fail Exit: %d controls", controls.count());
+        return false;
+    }
+    m_listControls = controls;
+    takeCommand(controls);
+    placeControls(mirrored);
+    limitInput(*controls.at(POSITION_INPUT));
+    showResult(QString());
+    m_strResultKey = controls.at(POSITION_RESULT)->id;
+    translateControls();
+    enableFirstSend();
+    return true;
+}
+
+/// The button says what is sent and how, the input field within which limits.
+void CUSSDSMSDlg::takeCommand(const QList<CWidgetItemInfo *> &controls)
+{
+    const CWidgetItemInfo *input = controls.at(POSITION_INPUT);
+    const CWidgetItemInfo *button = controls.at(POSITION_BUTTON);
+    m_command = CCommandWidget();
+    m_command.command = button->command;
+    m_command.number = button->number;
+    m_command.minLength = input->minLength;
+    m_command.limit = input->length;
+    m_command.kind = button->kind;
+    m_command.sendButton = button->visible ? m_pSendButton : nullptr;
+    m_command.inputField = input->visible ? m_pInputEdit : nullptr;
+    m_command.resultLabel = controls.at(POSITION_RESULT)->visible ? m_pResultLabel : nullptr;
+}
+
+void CUSSDSMSDlg::placeControls(bool mirrored)
+{
+    for (int i = 0; i < m_listControls.count(); ++i) {
+        CWidgetItemInfo *control = m_listControls.at(i);
+        control->widget = m_listWidgets.at(i);
+        if (control->visible)
+            control->widget->setGeometry(
+                SmsLayoutFile::geometry(*control, GetSize().width(), mirrored));
+        control->widget->setVisible(control->visible);
+    }
+}
+
+void CUSSDSMSDlg::translateControls()
+{
+    if (m_listControls.isEmpty())
+        return;
+    for (int i = 0; i < m_listControls.count(); ++i) {
+        const CWidgetItemInfo *control = m_listControls.at(i);
+        const QString text = control->visible ? tr(control->id) : QString();
+        if (i == POSITION_INFO)
+            m_pInfoLabel->setText(text);
+        else if (i == POSITION_CAPTION)
+            m_pCaptionLabel->setText(text);
+        else if (i == POSITION_BUTTON)
+            m_pSendButton->setText(text);
+    }
+    if (!m_strResultKey.isEmpty())
+        setResultText(tr(m_strResultKey));
+    m_pInputEdit->setAccessibleName(m_pCaptionLabel->text());
+}
+
+void CUSSDSMSDlg::limitInput(const CWidgetItemInfo &control)
+{
+    m_pValidator->setRegExp(SmsLayoutFile::inputPattern(control));
+    m_pInputEdit->clear();
+    m_pInputEdit->setEnabled(true);
+}
+
+void CUSSDSMSDlg::enableFirstSend()
+{
+    const bool ready = m_command.kind == CONTROL_KIND_USSD ||
+                       (m_command.kind == CONTROL_KIND_SMS && m_pLogic && m_pLogic->CanSendSMS() &&
+                        !m_command.number.isEmpty());
+    m_pSendButton->setEnabled(ready && !m_command.inputField && !m_command.command.isEmpty());
+}
+
+void CUSSDSMSDlg::forgetService()
+{
+    m_command = CCommandWidget();
+    m_listControls.clear();
+    for (int i = 0; i < m_listWidgets.count(); ++i)
+        m_listWidgets.at(i)->hide();
+}
+
+void CUSSDSMSDlg::enableSend(bool enable)
+{
+    if (m_command.sendButton)
+        m_command.sendButton->setEnabled(enable);
+}
+
+void CUSSDSMSDlg::showResult(const QString &text)
+{
+    m_strResultKey = resultKeyOf(text);
+    setResultText(text);
+}
+
+void CUSSDSMSDlg::setResultText(const QString &text)
+{
+    if (m_command.resultLabel)
+        m_command.resultLabel->setText(text);
+}
+
+// ---- sending -------------------------------------------------------------------------------
+
+void CUSSDSMSDlg::OnTextChanged(QString text)
+{
+    const bool complete = m_command.minLength <= text.length() && !m_command.command.isEmpty();
+    const bool blocked = m_command.kind == CONTROL_KIND_SMS && lacksReadiness();
+    enableSend(complete && !blocked);
+}
+
+bool CUSSDSMSDlg::lacksReadiness() const
+{
+    return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
+}
+
+/// Other than while typing, the text must here be longer than the fewest characters; kept so.
+void CUSSDSMSDlg::OnCanSendSMS(bool can)
+{
+    if (m_command.kind == CONTROL_KIND_USSD)
+        return;
+    if (!can)
+        enableSend(false);
+    else if (!m_bBusy &&
+             (!m_command.inputField || m_command.minLength < m_command.inputField->text().length()))
+        enableSend(true);
+}
+
+void CUSSDSMSDlg::OnClickedUSSDSMSButton()
+{
+    USSD_LOG_SCOPE();
+    if (m_bBusy)
+        return;
+    parkFocus();
+    fillPlaceholder();
+    if (mayStart())
+        startSending();
+    if (!m_bBusy)
+        returnFocus();
+}
+
+/// The stored command is changed: what is sent again, before a service is selected anew, is what
+/// was entered the first time.
+void CUSSDSMSDlg::fillPlaceholder()
+{
+    if (!m_command.inputField)
+        return;
+    m_command.command.replace(QLatin1String("%s"), m_command.inputField->text(), Qt::CaseSensitive);
+    m_command.inputField->setEnabled(false);
+}
+
+bool CUSSDSMSDlg::mayStart()
+{
+    const bool sendable = m_command.kind == CONTROL_KIND_SMS || m_command.kind == CONTROL_KIND_USSD;
+    if (!sendable || m_command.command.isEmpty())
+        return false;
+    if (m_command.kind != CONTROL_KIND_SMS || !lacksReadiness())
+        return true;
+    showResult(textOf("IDS_SMS_SEND_FAILED"));
+    return false;
+}
+
+void CUSSDSMSDlg::startSending()
+{
+    enableSend(false);
+    m_pTree->setEnabled(false);
+    m_bBusy = true;
+    if (m_command.kind == CONTROL_KIND_SMS) {
+        startSms();
+        return;
+    }
+    showResult(QString()); // the answer before is not that to this command
+    SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
+}
+
+void CUSSDSMSDlg::startSms()
+{
+    showResult(textOf("USSD_CODE_WAITTING"));
+    if (m_pLogic && SendSMS(&m_command.number, &m_command.command) == 0)
+        return;
+    showResult(textOf("IDS_SMS_SEND_FAILED"));
+    endSending();
+}
+
+void CUSSDSMSDlg::SendUSSDCommand(_COMPONENT component, QString command)
+{
+    USSD_LOG_SCOPE();
+    if (command.isEmpty())
+        return;
+    int status = 0;
+    const int result =
+        m_pLogic ? m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), &status) : 1;
+    if (result == kResultQueued)
+        OnResponseUSSDSMSReceived(component, textOf("USSD_CODE_WAITTING"));
+    else if (result != 0)
+        OnResponseUSSDSMSReceived(component, textOf(status == TKSV_STATUS_DEVICE_TIMEOUT
+                                                        ? "USSD_CODE_TIME_OUT"
+                                                        : "IDS_SMS_SEND_FAILED"));
+}
+
+int CUSSDSMSDlg::SendSMS(QString *number, QString *text)
+{
+    USSD_LOG_UNTIMED(":Entered ");
+    if (!number || !text)
+        return 1;
+    TKSV_SMSRecord record = nullptr;
+    const long created = TKSV_SMSSrv_CreateSMSRecord(&record, number->utf16(), text->utf16());
+    qWarning("The Error code returned by the TKSV_SMSSrv_CreateSMSRecord = %ld", created);
+    int result = 1;
+    if (created == 0) {
+        USSD_LOG(": Calling TKSV_SMSSrv_SendMsg ()");
+        const long sent = TKSV_SMSSrv_SendMsg(record);
+        USSD_LOG(": TKSV_SMSSrv_SendMsg () returned %li", sent);
+        result = sent == 0 ? 0 : 1;
+    }
+    if (record && TKSV_SMSSrv_ReleaseSMSRecord(record) != 0)
+        USSD_LOG(": TKSV_SMSSrv_ReleaseSMSRecord returned error");
+    return result;
+}
+
+// ---- answers -------------------------------------------------------------------------------
+
+void CUSSDSMSDlg::OnResponseUSSDSMSReceived(int component, QString text)
+{
+    if (component != COMPONENT_USSD_SMS)
+        return;
+    if (text.isEmpty()) // the network refused, or the device failed
+        text = textOf("USSD_CODE_FAILED");
+    if (text != textOf("USSD_CODE_WAITTING"))
+        endSending();
+    showResult(text);
+}
+
+void CUSSDSMSDlg::OnSendResult(bool ok, QString number, QString text)
+{
+    if (number != m_command.number || text != m_command.command)
+        return;
+    showResult(ok ? QString() : textOf("IDS_SMS_SEND_FAILED"));
+    endSending();
+}
+
+void CUSSDSMSDlg::endSending()
+{
+    m_bBusy = false;
+    enableSend(true);
+    if (m_pTree)
+        m_pTree->setEnabled(true);
+    if (m_command.inputField)
+        m_command.inputField->setEnabled(true);
+    returnFocus();
+}
+
+/// What has the focus is about to be disabled, and Qt would hand it on to whatever comes next in
+/// the window, where a key that is still typed would be taken.
+void CUSSDSMSDlg::parkFocus()
+{
+    const QWidget *focus = window()->focusWidget();
+    if (!focus || !isAncestorOf(focus))
+        return;
+    setFocus(Qt::OtherFocusReason);
+    m_bFocusParked = true;
+}
+
+/// Not to the button: a key held down would send, and buy, again and again.
+void CUSSDSMSDlg::returnFocus()
+{
+    if (m_bFocusParked && m_pTree && window()->focusWidget() == this)
+        m_pTree->setFocus(Qt::OtherFocusReason);
+    m_bFocusParked = false;
+}
