@@ -1,0 +1,17 @@
+#include "ChargeRules.h"
+
+int longestCharge(const ChargeRules &rules)
+{
+    return qMax(rules.length, 0);
+}
+
+bool isChargeLongEnough(const ChargeRules &rules, int characters)
+{
+    return characters >= qMin(longestCharge(rules), rules.minlenth);
+}
+
+QString chargeExpression(const ChargeRules &rules)
+{
+    return QLatin1Char('[') + rules.limitText + QLatin1String("]{0,") +
+           QString::number(rules.length) + QLatin1Char('}');
+}

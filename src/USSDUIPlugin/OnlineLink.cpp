@@ -1,0 +1,34 @@
+#include "OnlineLink.h"
+
+#include "QtCompat.h"
+
+namespace
+{
+
+const int kSchemeLength = 4;
+
+bool beginsWithScheme(const QString &lowerCase)
+{
+    return lowerCase.length() > kSchemeLength && lowerCase.startsWith(QLatin1String("http"));
+}
+
+} // namespace
+
+QString onlineAddress(const QString &configured)
+{
+    QString blank = QLatin1String("about:blank");
+    QString address = configured.trimmed();
+    if (address.isEmpty())
+        return blank;
+    const QString lowerCase = address.toLower();
+    if (lowerCase == blank || beginsWithScheme(lowerCase))
+        return address;
+    return QLatin1String("http://") + address;
+}
+
+QString onlineLinkMarkup(const QString &address, const QString &shown)
+{
+    // Both at once: an address may hold "%2", which a second arg() would take for its own.
+    return QString::fromLatin1("<a href=\"%1\">%2</a>")
+        .arg(QtCompat::escapeHtml(address), QtCompat::escapeHtml(shown));
+}

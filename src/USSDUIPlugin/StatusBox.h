@@ -1,0 +1,36 @@
+#ifndef STATUSBOX_H
+#define STATUSBOX_H
+
+#include <QTextEdit>
+
+/**
+ * Shows the network's reply as plain text, whatever it holds, in a fixed number of lines: a longer
+ * one scrolls. The plug-in's own texts follow the language.
+ */
+class StatusBox : public QTextEdit
+{
+public:
+    explicit StatusBox(QWidget *parent = nullptr);
+
+    /// How many lines are seen at once.
+    void setLines(int lines);
+    /// A reply, or one of the plug-in's own texts in the current language.
+    void showText(const QString &text);
+    /// Shows a text of the plug-in's own in the current language; a reply stays as it is.
+    void retranslate();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void fixHeight();
+    int heightOfLines() const;
+
+    int m_lines;
+    QString m_ownKey; // of the text that is shown; empty for a reply
+};
+
+#endif

@@ -1,0 +1,594 @@
+#include "USSDDlg.h"
+
+#include <new>
+
+#include <QApplication>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegExpValidator>
+
+#include "CommonUtils.h"
+#include "ExtendLineEdit.h"
+#include "OnlineLink.h"
+#include "PluginLog.h"
+#include "PluginText.h"
+#include "StatusBox.h"
+#include "tksv.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
+
+namespace
+{
+
+const int kResultQueued = 12;      // as good as 0: an answer is awaited
+const int kReturnInMessageBox = 1; // of the charge's return styles
+const int kLinkWidth = 300;        // pixels
+const int kBalanceLines = 3;
+const int kActivateLines = 3;
+const int kMSISDNLines = 2;
+
+/// A named child of the dialog; null when there is no memory for it.
+template <typename Widget>
+Widget *createWidget(QWidget *dialog, const char *role)
+{
+    Widget *widget = new (std::nothrow) Widget(dialog);
+    if (widget)
+        widget->setObjectName(QLatin1String("USSDUIPlugin_") + QLatin1String(role));
+    return widget;
+}
+
+QLabel *createLabel(QWidget *dialog, const char *role)
+{
+    QLabel *label = createWidget<QLabel>(dialog, role);
+    if (label)
+        label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QFrame *createLine(QWidget *dialog, const char *role)
+{
+    QFrame *line = createWidget<QFrame>(dialog, role);
+    if (line) {
+        line->setFrameShape(QFrame::HLine);
+        line->setFrameShadow(QFrame::Sunken);
+    }
+    return line;
+}
+
+QLineEdit *createCodeEdit(QWidget *dialog, const char *role)
+{
+    QLineEdit *edit = createWidget<ExtendLineEdit>(dialog, role);
+    if (edit)
+        edit->setLayoutDirection(Qt::LeftToRight);
+    return edit;
+}
+
+QString text(const char *key)
+{
+    return pluginText(QLatin1String(key));
+}
+
+/// A tool tip guesses whether it is rich text; this one is, and says no more than `text`.
+QString plainToolTip(const QString &text)
+{
+    return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
+}
+
+void describe(QWidget *widget, const QLabel *label)
+{
+    widget->setAccessibleDescription(label->text());
+}
+
+} // namespace
+
+USSDDlg::USSDDlg()
+    : m_paidType(PAID_TYPE_NONE), m_windowModel(WINDOW_MODEL_MODAL), m_bBusy(false),
+      m_pGrid(nullptr), m_pBalanceLabel(nullptr), m_pBalanceStatusTextEdit(nullptr),
+      m_pBalanceUpdateButton(nullptr), m_pBalanceInfoLabel(nullptr), m_pBalanceLine(nullptr),
+      m_pChargeLabel(nullptr), m_pChargeEdit(nullptr), m_pChargeActivateButton(nullptr),
+      m_pActivateStatusTextEdit(nullptr), m_pChargeLine(nullptr), m_pOnlineChargeLabel(nullptr),
+      m_pOnlineURL(nullptr), m_pOnlineChargeLine(nullptr), m_pMSISDNLabel(nullptr),
+      m_pMSISDNStatusTextEdit(nullptr), m_pMSISDNUpdateButton(nullptr), m_pCloseButton(nullptr)
+{
+    USSD_LOG_SCOPE();
+}
+
+USSDDlg::~USSDDlg()
+{
+    USSD_LOG_SCOPE();
+}
+
+QString USSDDlg::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+// ---- building ------------------------------------------------------------------------------
+
+void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
+{
+    USSD_LOG_SCOPE();
+    if (parent)
+        setParent(parent);
+    setObjectName(QLatin1String("USSDUIPlugin_Pre_PostPaid"));
+    m_paidType = type;
+    m_windowModel = model;
+    if (!createWidgets()) {
+        logScope.exitWith(" Exit: Either of the component objects are NULL");
+        return;
+    }
+    m_pLogic = USSDLogic::GetUSSDLogicInstance();
+    createGrid();
+    if (!m_pLogic || !m_pGrid) {
+        logScope.exitWith(" Exit: Either Logic or Layout objects are NULL");
+        return;
+    }
+    getConfigure();
+    initWidgets();
+    layout();
+    connectWidgets();
+}
+
+bool USSDDlg::createWidgets()
+{
+    m_pCloseButton = createWidget<QPushButton>(this, "CloseButton");
+    // Each is tried, so that what can be made is there.
+    const bool balance = createBalance();
+    const bool charge = createCharge();
+    const bool onlineCharge = createOnlineCharge();
+    const bool msisdn = createMSISDN();
+    return m_pCloseButton && balance && charge && onlineCharge && msisdn;
+}
+
+bool USSDDlg::createBalance()
+{
+    m_pBalanceLabel = createLabel(this, "BalanceLabel");
+    m_pBalanceStatusTextEdit = createWidget<StatusBox>(this, "BalanceStatusTextEdit");
+    m_pBalanceUpdateButton = createWidget<QPushButton>(this, "BalanceUpdateButton");
+    m_pBalanceInfoLabel = createLabel(this, "BalanceInfoLabel");
+    m_pBalanceLine = createLine(this, "BalanceLine");
+    return m_pBalanceLabel && m_pBalanceStatusTextEdit && m_pBalanceUpdateButton &&
+           m_pBalanceInfoLabel && m_pBalanceLine;
+}
+
+bool USSDDlg::createCharge()
+{
+    m_pChargeLabel = createLabel(this, "ChargeLabel");
+    m_pChargeEdit = createCodeEdit(this, "ChargeEdit");
+    m_pChargeActivateButton = createWidget<QPushButton>(this, "ChargeActivateButton");
+    m_pActivateStatusTextEdit = createWidget<StatusBox>(this, "ActivateStatusTextEdit");
+    m_pChargeLine = createLine(this, "ChargeLine");
+    return m_pChargeLabel && m_pChargeEdit && m_pChargeActivateButton &&
+           m_pActivateStatusTextEdit && m_pChargeLine;
+}
+
+bool USSDDlg::createOnlineCharge()
+{
+    m_pOnlineChargeLabel = createLabel(this, "OnlineChargeLabel");
+    m_pOnlineURL = createWidget<QLabel>(this, "OnlineURL");
+    m_pOnlineChargeLine = createLine(this, "OnlineChargeLine");
+    return m_pOnlineChargeLabel && m_pOnlineURL && m_pOnlineChargeLine;
+}
+
+bool USSDDlg::createMSISDN()
+{
+    m_pMSISDNLabel = createLabel(this, "MSISDNLabel");
+    m_pMSISDNStatusTextEdit = createWidget<StatusBox>(this, "MSISDNStatusTextEdit");
+    m_pMSISDNUpdateButton = createWidget<QPushButton>(this, "MSISDNUpdateButton");
+    return m_pMSISDNLabel && m_pMSISDNStatusTextEdit && m_pMSISDNUpdateButton;
+}
+
+void USSDDlg::getConfigure()
+{
+    USSD_LOG_SCOPE();
+    m_pLogic->GetPrePostDiffer(m_prePostDiffer);
+    m_chargeRules = ChargeRules();
+    m_chargeRules.length = m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_LENGTH);
+    m_chargeRules.minlenth =
+        m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_MINLENTH);
+    m_pLogic->GetComponentAttrStr(m_paidType, COMPONENT_CHARGE, ATTR_LIMIT_TEXT,
+                                  m_chargeRules.limitText);
+    QString url;
+    m_pLogic->GetComponentAttrStr(m_paidType, COMPONENT_ONLINE_CHARGE, ATTR_URL, url);
+    m_strOnlineAddress = onlineAddress(url);
+}
+
+void USSDDlg::initWidgets()
+{
+    USSD_LOG_SCOPE();
+    initStatusBoxes();
+    initChargeComponent();
+    initOnlineChargeComponent();
+    SetLanguage();
+}
+
+void USSDDlg::initStatusBoxes()
+{
+    m_pBalanceStatusTextEdit->setLines(kBalanceLines);
+    m_pActivateStatusTextEdit->setLines(kActivateLines);
+    m_pMSISDNStatusTextEdit->setLines(kMSISDNLines);
+    // Stays when no command can be sent at all, since nobody is told of that one's failure.
+    m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
+    m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
+    m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
+}
+
+void USSDDlg::initChargeComponent()
+{
+    USSD_LOG_SCOPE();
+    m_pChargeActivateButton->setEnabled(false);
+    m_pChargeEdit->setMaxLength(longestCharge(m_chargeRules));
+    if (!isShown(COMPONENT_CHARGE))
+        return;
+    if (longestCharge(m_chargeRules) == 0)
+        USSD_LOG_IMPORTANT(" Charge: length = %d lets nothing be entered", m_chargeRules.length);
+    limitChargeEdit();
+}
+
+/// An expression that is broken would refuse every character; the entry then takes all of them.
+void USSDDlg::limitChargeEdit()
+{
+    delete m_pChargeEdit->validator();
+    const QString pattern = chargeExpression(m_chargeRules);
+    USSD_LOG(" limittext = %s", m_chargeRules.limitText.toLocal8Bit().constData());
+    USSD_LOG(" string validator = %s", pattern.toLocal8Bit().constData());
+    const QRegExp expression(pattern, Qt::CaseSensitive);
+    if (expression.isValid())
+        m_pChargeEdit->setValidator(new QRegExpValidator(expression, m_pChargeEdit));
+    else
+        USSD_LOG_IMPORTANT(" Charge: LimitText or length make no expression: %s (%s); "
+                           "any character can be entered",
+                           pattern.toLocal8Bit().constData(),
+                           expression.errorString().toLocal8Bit().constData());
+}
+
+void USSDDlg::initOnlineChargeComponent()
+{
+    const QString shown =
+        QApplication::fontMetrics().elidedText(m_strOnlineAddress, Qt::ElideRight, kLinkWidth);
+    m_pOnlineURL->setTextFormat(Qt::RichText);
+    m_pOnlineURL->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    m_pOnlineURL->setOpenExternalLinks(true);
+    m_pOnlineURL->setLayoutDirection(Qt::LeftToRight);
+    m_pOnlineURL->setText(onlineLinkMarkup(m_strOnlineAddress, shown));
+    m_pOnlineURL->setToolTip(shown == m_strOnlineAddress ? QString()
+                                                         : plainToolTip(m_strOnlineAddress));
+    m_pOnlineURL->setAccessibleDescription(m_strOnlineAddress);
+}
+
+void USSDDlg::connectWidgets()
+{
+    USSD_LOG_SCOPE();
+    connect(m_pCloseButton, SIGNAL(clicked()), this, SLOT(OnCloseButtonClicked()));
+    connect(m_pBalanceUpdateButton, SIGNAL(clicked()), this, SLOT(OnClickedBalanceUpdateButton()));
+    connect(m_pChargeActivateButton, SIGNAL(clicked()), this, SLOT(OnClickedActivateButton()));
+    connect(m_pMSISDNUpdateButton, SIGNAL(clicked()), this, SLOT(OnClickedMSISDNUpdateButton()));
+    connect(m_pChargeEdit, SIGNAL(textEdited(QString)), this, SLOT(OnTextEdited(QString)));
+    connect(m_pChargeEdit, SIGNAL(returnPressed()), this, SLOT(OnClickedActivateButton()));
+    connect(m_pLogic, SIGNAL(responseReceived(int, QString)), this,
+            SLOT(OnResponseReceived(int, QString)));
+}
+
+/// The two types differ in everything that the configuration says.
+void USSDDlg::changePaidType(PAID_TYPE type)
+{
+    if (type == m_paidType || !m_pLogic || !m_pGrid)
+        return;
+    m_paidType = type;
+    getConfigure();
+    initWidgets();
+    createGrid();
+    layout();
+}
+
+// ---- texts ---------------------------------------------------------------------------------
+
+void USSDDlg::SetLanguage()
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid)
+        return;
+    setWindowTitle(text(m_paidType == PAID_TYPE_POSTPAID ? "IDS_WINDOW_TETLE_POSTPAID"
+                                                         : "IDS_WINDOW_TETLE_PREPAID"));
+    setLanguageForBalance();
+    setLanguageForCharge();
+    setLanguageForOnlineCharge();
+    setLanguageForMSISDN();
+    m_pCloseButton->setText(text("IDS_BUTTON_CLOSE"));
+    initAccessibility();
+}
+
+void USSDDlg::setLanguageForBalance()
+{
+    m_pBalanceLabel->setText(text("IDS_STATIC_MYBALANCE"));
+    m_pBalanceUpdateButton->setText(text("IDS_BUTTON_UPDATA"));
+    m_pBalanceInfoLabel->setText(text("IDS_STATIC_INFO"));
+    m_pBalanceStatusTextEdit->retranslate();
+}
+
+void USSDDlg::setLanguageForCharge()
+{
+    m_pChargeLabel->setText(text("IDS_STATIC_PIN"));
+    m_pChargeActivateButton->setText(text("IDS_BUTTON_ACTIVATE"));
+    m_pActivateStatusTextEdit->retranslate();
+}
+
+void USSDDlg::setLanguageForOnlineCharge()
+{
+    m_pOnlineChargeLabel->setText(text("IDS_STATIC_ONLINEREFILL"));
+}
+
+void USSDDlg::setLanguageForMSISDN()
+{
+    m_pMSISDNLabel->setText(text("IDS_STATIC_MSISSDN"));
+    m_pMSISDNUpdateButton->setText(text("IDS_BUTTON_UPDATAMSISDN"));
+    m_pMSISDNStatusTextEdit->retranslate();
+}
+
+/// Each field goes by the name of the label beside it; the buttons, two of which may read alike,
+/// are told apart by it.
+void USSDDlg::initAccessibility()
+{
+    m_pBalanceLabel->setBuddy(m_pBalanceStatusTextEdit);
+    m_pChargeLabel->setBuddy(m_pChargeEdit);
+    m_pOnlineChargeLabel->setBuddy(m_pOnlineURL);
+    m_pMSISDNLabel->setBuddy(m_pMSISDNStatusTextEdit);
+    m_pBalanceStatusTextEdit->setAccessibleName(m_pBalanceLabel->text());
+    m_pBalanceStatusTextEdit->setAccessibleDescription(m_pBalanceInfoLabel->text());
+    m_pChargeEdit->setAccessibleName(m_pChargeLabel->text());
+    m_pActivateStatusTextEdit->setAccessibleName(m_pChargeLabel->text());
+    m_pOnlineURL->setAccessibleName(m_pOnlineChargeLabel->text());
+    m_pMSISDNStatusTextEdit->setAccessibleName(m_pMSISDNLabel->text());
+    describe(m_pBalanceUpdateButton, m_pBalanceLabel);
+    describe(m_pChargeActivateButton, m_pChargeLabel);
+    describe(m_pMSISDNUpdateButton, m_pMSISDNLabel);
+}
+
+// ---- opening and closing -------------------------------------------------------------------
+
+void USSDDlg::MyDoModal(PAID_TYPE type)
+{
+    USSD_LOG_SCOPE();
+    if (static_cast<unsigned int>(type) > PAID_TYPE_POSTPAID) {
+        logScope.exitWith(" Exit: invalid paid type");
+        return;
+    }
+    if (m_pLogic)
+        m_pLogic->ReleaseUSSDCommand();
+    USSDLogic::ClearQueuedCmds();
+    changePaidType(type);
+    resetCharge();
+    show();
+    window()->show();
+    if (isShown(COMPONENT_BALANCE))
+        OnClickedBalanceUpdateButton();
+    if (isShown(COMPONENT_MSISDN))
+        OnClickedMSISDNUpdateButton();
+}
+
+void USSDDlg::resetCharge()
+{
+    if (m_pChargeActivateButton)
+        m_pChargeActivateButton->setEnabled(false);
+    if (m_pActivateStatusTextEdit)
+        m_pActivateStatusTextEdit->showText(QString());
+    if (!m_pChargeEdit)
+        return;
+    m_pChargeEdit->clear();
+    m_pChargeEdit->setEnabled(true);
+    if (m_pChargeEdit->isHidden()) {
+        m_pCloseButton->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    m_pChargeEdit->setFocus(Qt::OtherFocusReason);
+    m_pChargeActivateButton->setDefault(true); // what Return in the entry does
+}
+
+void USSDDlg::OnCloseButtonClicked()
+{
+    emit closeButtonClicked(); // the receiver may delete the dialog
+}
+
+void USSDDlg::OnClickedCloseButton()
+{
+    USSD_LOG_SCOPE();
+    USSDLogic::ClearQueuedCmds();
+    m_bBusy = false;
+    emit clickedcloseButton(); // the receiver may delete the dialog
+}
+
+/// Swallows Return, which has done its work in the field or button that had the focus: the frame
+/// would press its default button on top of that. Escape goes on to the frame.
+void USSDDlg::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// ---- sending -------------------------------------------------------------------------------
+
+void USSDDlg::OnClickedBalanceUpdateButton()
+{
+    sendUSSDCommand(COMPONENT_BALANCE, ATTR_COMMAND);
+}
+
+/// By the button and by Return in the entry, which so obeys the rules that enable the button.
+void USSDDlg::OnClickedActivateButton()
+{
+    if (m_pChargeActivateButton && m_pChargeActivateButton->isEnabled())
+        sendUSSDCommand(COMPONENT_CHARGE, ATTR_COMMAND);
+}
+
+void USSDDlg::OnClickedMSISDNUpdateButton()
+{
+    sendUSSDCommand(COMPONENT_MSISDN, ATTR_COMMAND);
+}
+
+void USSDDlg::OnTextEdited(QString text)
+{
+    if (m_pChargeActivateButton)
+        m_pChargeActivateButton->setEnabled(isChargeLongEnough(m_chargeRules, text.length()));
+}
+
+void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pLogic) {
+        logScope.exitWith(" Fail Exit: Logic is NULL");
+        return;
+    }
+    QString command;
+    m_pLogic->GetComponentAttrStr(m_paidType, component, attr, command);
+    USSD_LOG(" USSD command = %s", command.toLocal8Bit().constData());
+    if (component == COMPONENT_CHARGE) {
+        if (!m_pChargeEdit) {
+            logScope.exitWith(" Fail Exit: m_pChargeEdit is NULL");
+            return;
+        }
+        command.replace(QLatin1String("%s"), m_pChargeEdit->text());
+        USSD_LOG(" USSD command: %s", command.toLocal8Bit().constData());
+    }
+    int status = 0;
+    const int result = m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), &status);
+    if (result == 0 || result == kResultQueued)
+        awaitAnswer(component, result == 0);
+    else
+        OnResponseReceived(
+            component,
+            text(status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : "USSD_CODE_FAILED"));
+}
+
+/// A top-up whose answer comes in a message box waits without saying so. It makes the dialog busy
+/// like any other command: its answer would be dropped where nothing else was sent before.
+void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
+{
+    m_bBusy = true;
+    enableDisableButton(component, true);
+    if (component == COMPONENT_CHARGE && isSent && chargeReturnStyle() == kReturnInMessageBox)
+        return;
+    OnResponseReceived(component, text("USSD_CODE_WAITTING"));
+}
+
+// ---- answers -------------------------------------------------------------------------------
+
+void USSDDlg::OnResponseReceived(int component, QString text)
+{
+    USSD_LOG_SCOPE();
+    if (!m_bBusy && component != COMPONENT_PREPOST_QUERY) {
+        logScope.exitWith(" Exit: USSDDlg no need to handle");
+        return;
+    }
+    const bool isWaiting = text == tr(QLatin1String("USSD_CODE_WAITTING"));
+    if (text.isEmpty() && component != COMPONENT_PREPOST_QUERY)
+        text = tr(QLatin1String("USSD_CODE_FAILED"));
+    const QPointer<USSDDlg> self(this); // a host that hears of it may shut down
+    routeResponse(component, text, isWaiting);
+    if (self && !isWaiting)
+        enableDisableButton(static_cast<_COMPONENT>(component), false);
+}
+
+void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
+{
+    if (StatusBox *box = statusBoxOf(component))
+        box->showText(text);
+    if (component == COMPONENT_CHARGE && !isWaiting)
+        onChargeResponseReceived(text);
+    else if (component == COMPONENT_PREPOST_QUERY)
+        onPrePostPaidRspReceived(text);
+}
+
+void USSDDlg::onChargeResponseReceived(const QString &text)
+{
+    USSD_LOG_SCOPE();
+    if (chargeReturnStyle() == kReturnInMessageBox) {
+        const QPointer<USSDDlg> self(this); // the host may shut down while the box is open
+        CommonUtils::ShowMessage(QMessageBox::Information, this,
+                                 tr(QLatin1String("IDS_PROMPT_CAPTION")), text,
+                                 QLatin1String("IDS_BUTTON_OK"));
+        if (!self)
+            return;
+    } else if (m_pActivateStatusTextEdit) {
+        m_pActivateStatusTextEdit->showText(text);
+    }
+    enableDisableButton(COMPONENT_CHARGE, false);
+    if (isShown(COMPONENT_BALANCE))
+        OnClickedBalanceUpdateButton();
+}
+
+void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
+{
+    if (disable)
+        parkFocus(component);
+    const QList<QWidget *> controls = controlsOf(component);
+    for (int i = 0; i < controls.count(); ++i) {
+        if (controls.at(i))
+            controls.at(i)->setEnabled(!disable);
+    }
+    if (!disable)
+        returnFocus(component);
+}
+
+/// A control that is disabled would pass its focus on to the next one, where a key that is still
+/// typed would do something else. The box that will show the answer keeps it meanwhile.
+void USSDDlg::parkFocus(_COMPONENT component)
+{
+    QWidget *focus = QApplication::focusWidget();
+    StatusBox *box = statusBoxOf(component);
+    if (!focus || !box || !controlsOf(component).contains(focus))
+        return;
+    m_hashParkFocus[component] = focus;
+    box->setFocus(Qt::OtherFocusReason);
+}
+
+void USSDDlg::returnFocus(_COMPONENT component)
+{
+    QWidget *parked = m_hashParkFocus.take(component);
+    const StatusBox *box = statusBoxOf(component);
+    if (parked && box && box->hasFocus())
+        parked->setFocus(Qt::OtherFocusReason);
+}
+
+// ---- what belongs to a component -----------------------------------------------------------
+
+bool USSDDlg::isShown(_COMPONENT component) const
+{
+    return m_pLogic && m_pLogic->GetComponentAttrInt(m_paidType, component, ATTR_VALUE) > 0;
+}
+
+int USSDDlg::chargeReturnStyle() const
+{
+    return m_pLogic ? m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_RETURN_STYLE)
+                    : -1;
+}
+
+/// Null for a component without one.
+StatusBox *USSDDlg::statusBoxOf(int component) const
+{
+    switch (component) {
+    case COMPONENT_BALANCE:
+        return m_pBalanceStatusTextEdit;
+    case COMPONENT_CHARGE:
+        return m_pActivateStatusTextEdit;
+    case COMPONENT_MSISDN:
+        return m_pMSISDNStatusTextEdit;
+    default:
+        return nullptr;
+    }
+}
+
+/// What is disabled while an answer is awaited.
+QList<QWidget *> USSDDlg::controlsOf(int component) const
+{
+    QList<QWidget *> controls;
+    if (component == COMPONENT_BALANCE)
+        controls << m_pBalanceUpdateButton;
+    else if (component == COMPONENT_CHARGE)
+        controls << m_pChargeActivateButton << m_pChargeEdit;
+    else if (component == COMPONENT_MSISDN)
+        controls << m_pMSISDNUpdateButton;
+    return controls;
+}

@@ -1,0 +1,99 @@
+/*
+ * How USSDDlg finds out whether the SIM is prepaid or postpaid, and tells the host.
+ */
+#include "USSDDlg.h"
+
+#include "INotifyService.h"
+#include "IPluginContainer.h"
+#include "PluginLog.h"
+#include "PrePostVerdict.h"
+#include "Startup.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlgDetection.cpp");
+
+namespace
+{
+
+const unsigned int kNotifyPrePostInfo = 384;
+const int kResultQueued = 12; // as good as 0: an answer is awaited
+
+const char kNotificationPlugin[] = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
+const char *const kAddressees[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
+                                   "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
+
+} // namespace
+
+int USSDDlg::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pLogic) {
+        logScope.exitWith(" Fail Exit: Logic is NULL");
+        return 0;
+    }
+    m_prePostRecord.bInUse = inUse;
+    m_prePostRecord.bPostPaid = postpaid;
+    m_prePostRecord.result = result;
+    m_pLogic->GetPrePostDiffer(m_prePostDiffer);
+    if (ask)
+        startDetection();
+    inUse = m_prePostRecord.bInUse;
+    postpaid = m_prePostRecord.bPostPaid;
+    result = m_prePostRecord.result;
+    return 1;
+}
+
+void USSDDlg::startDetection()
+{
+    m_prePostRecord.bInUse = m_prePostDiffer.value;
+    if (!m_prePostDiffer.value)
+        return;
+    m_prePostRecord.bPostPaid = false;
+    m_prePostRecord.result = 0;
+    m_pLogic->ReleaseUSSDCommand();
+    if (m_prePostDiffer.command.isEmpty())
+        return;
+    int status = 0;
+    const int result = m_pLogic->SendUSSDCommand(
+        USSDCmdOrResp(COMPONENT_PREPOST_QUERY, m_prePostDiffer.command), &status);
+    m_prePostRecord.result = result == 0 || result == kResultQueued ? 1 : 0;
+}
+
+void USSDDlg::onPrePostPaidRspReceived(const QString &text)
+{
+    USSD_LOG_SCOPE();
+    if (text == tr(QLatin1String("USSD_CODE_TIME_OUT"))) {
+        m_prePostRecord.result = 0;
+    } else {
+        m_prePostRecord.bPostPaid = isPostpaidReply(text, m_prePostDiffer.returnPattern);
+        USSD_LOG(" bPostPaid=%d", m_prePostRecord.bPostPaid);
+    }
+    notifyHost();
+}
+
+/// The host may ask anew, or shut down, while it is being told: both addressees get the same
+/// record all the same.
+void USSDDlg::notifyHost()
+{
+    const PrePostRecord record = m_prePostRecord;
+    sendNotify(kNotifyPrePostInfo, reinterpret_cast<NotifyParam>(&record), 0);
+}
+
+void USSDDlg::sendNotify(unsigned int msg, NotifyParam wParam, NotifyParam lParam)
+{
+    IPluginContainer *container = Startup::GetPluginContainer();
+    if (!container) {
+        PluginLog::untimed(QtDebugMsg, kLogSource, __func__, ": Plugin container is null ");
+        PluginLog::untimed(QtWarningMsg, kLogSource, __func__, ": Plugin container is null ");
+        return;
+    }
+    const QPointer<QObject> plugin(container->GetPlugin(QLatin1String(kNotificationPlugin)));
+    INotifyService *service = qobject_cast<INotifyService *>(plugin.data());
+    if (!service) {
+        USSD_LOG_UNTIMED(": plugin is not loaded ");
+        return;
+    }
+    for (const char *addressee : kAddressees) {
+        if (plugin)
+            service->Notify(QLatin1String(addressee), msg, wParam, lParam);
+    }
+}

@@ -1,0 +1,286 @@
+/*
+ * The grid of USSDDlg: which components stand where.
+ */
+#include "USSDDlg.h"
+
+#include <new>
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMap>
+#include <QPushButton>
+
+#include "PluginLog.h"
+#include "StatusBox.h"
+
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlgLayout.cpp");
+
+namespace
+{
+
+const int kLabelColumn = 0;
+const int kFieldColumn = 1;
+const int kButtonColumn = 2;
+const int kColumns = 3;
+
+const int kHorizontalSpacing = 6;
+const int kLabelWidth = 80;
+const int kFieldWidth = 230;
+const int kRowHeight = 20;
+const int kMargin = 16;             // around all of it
+const int kGap = 4;                 // between what belongs together
+const int kAboveClose = 12;         // between the components and the close button
+const int kRowsOf[] = {2, 3, 1, 1}; // by component
+
+const _COMPONENT kComponents[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_ONLINE_CHARGE,
+                                  COMPONENT_MSISDN};
+
+} // namespace
+
+/// An empty one; the widgets of the one before stay.
+void USSDDlg::createGrid()
+{
+    delete m_pGrid;
+    m_pGrid = new (std::nothrow) QGridLayout(this);
+}
+
+void USSDDlg::layout()
+{
+    int row = 0;
+    findPosAndAddElements(row);
+}
+
+QSize USSDDlg::GetSize()
+{
+    if (!m_pGrid)
+        return QSize(-1, -1);
+    // A style sheet may change the font, and so the height of the boxes.
+    for (int i = 0; i < m_listTabOrder.count(); ++i)
+        m_listTabOrder.at(i)->ensurePolished();
+    m_pGrid->activate(); // or the boxes inside it would know of no change since the last event
+    return m_pGrid->sizeHint();
+}
+
+void USSDDlg::findPosAndAddElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid || !m_pLogic) {
+        logScope.exitWith(" Fail Exit: Grid/Logic is NULL");
+        return;
+    }
+    setUpGrid();
+    hideComponents();
+    // In increasing order; of two components with the same place, the later one gets it.
+    QMap<int, _COMPONENT> places;
+    for (_COMPONENT component : kComponents) {
+        if (isShown(component))
+            places.insert(m_pLogic->GetComponentAttrInt(m_paidType, component, ATTR_POS),
+                          component);
+    }
+    setRowHeights(places.values());
+    bool isFirst = true;
+    for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
+        USSD_LOG(" position = %d component=%d", it.key(), it.value());
+        addComponentElements(it.value(), row, isFirst);
+    }
+    addCloseButton(row);
+    initTabOrder();
+}
+
+void USSDDlg::setUpGrid()
+{
+    m_pGrid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    m_pGrid->setHorizontalSpacing(kHorizontalSpacing);
+    m_pGrid->setVerticalSpacing(0);
+    m_pGrid->setColumnMinimumWidth(kLabelColumn, kLabelWidth);
+    m_pGrid->setColumnMinimumWidth(kFieldColumn, kFieldWidth);
+    m_pGrid->setColumnStretch(kFieldColumn, 1);
+}
+
+void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
+{
+    int rows = 0;
+    m_listFreeLines.clear();
+    for (int i = 0; i < components.count(); ++i) {
+        findRowCount(components.at(i), rows);
+        if (QFrame *line = lineOf(components.at(i)))
+            m_listFreeLines << line;
+    }
+    for (int row = 0; row < rows; ++row)
+        m_pGrid->setRowMinimumHeight(row, kRowHeight);
+}
+
+/// Adds what the component takes, with its separator when another one stands above.
+void USSDDlg::findRowCount(int component, int &rows)
+{
+    if (rows > 0)
+        ++rows;
+    rows += kRowsOf[component];
+}
+
+void USSDDlg::addComponentElements(_COMPONENT component, int &row, bool &isFirst)
+{
+    if (!isFirst)
+        addSeparator(row);
+    isFirst = false;
+    switch (component) {
+    case COMPONENT_BALANCE:
+        return addBalanceElements(row);
+    case COMPONENT_CHARGE:
+        return addChargeElements(row);
+    case COMPONENT_ONLINE_CHARGE:
+        return addOnlineChargeElements(row);
+    case COMPONENT_MSISDN:
+        return addMSISDNElements(row);
+    default:
+        break;
+    }
+}
+
+void USSDDlg::addBalanceElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid) {
+        logScope.exitWith(" Fail Exit: Grid is NULL");
+        return;
+    }
+    place(m_pBalanceLabel, row, kLabelColumn);
+    place(m_pBalanceStatusTextEdit, row, kFieldColumn);
+    place(m_pBalanceUpdateButton, row, kButtonColumn);
+    placeInBox(m_pBalanceInfoLabel, kGap, row + 1, 1, kColumns - kFieldColumn);
+    m_listTabOrder << m_pBalanceStatusTextEdit << m_pBalanceUpdateButton;
+    row += kRowsOf[COMPONENT_BALANCE];
+}
+
+void USSDDlg::addChargeElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid || !m_pLogic) {
+        logScope.exitWith(" Fail Exit: Logic/Grid is NULL");
+        return;
+    }
+    place(m_pChargeLabel, row, kLabelColumn);
+    place(m_pChargeEdit, row, kFieldColumn);
+    place(m_pChargeActivateButton, row, kButtonColumn);
+    placeInBox(m_pActivateStatusTextEdit, kGap, row + 1, kRowsOf[COMPONENT_CHARGE] - 1, 1);
+    m_listTabOrder << m_pChargeEdit << m_pChargeActivateButton << m_pActivateStatusTextEdit;
+    row += kRowsOf[COMPONENT_CHARGE];
+}
+
+void USSDDlg::addOnlineChargeElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid) {
+        logScope.exitWith(" Fail Exit: Grid is NULL");
+        return;
+    }
+    place(m_pOnlineChargeLabel, row, kLabelColumn);
+    placeInBox(m_pOnlineURL, 0, row, 1, kColumns - kFieldColumn);
+    m_listTabOrder << m_pOnlineURL;
+    row += kRowsOf[COMPONENT_ONLINE_CHARGE];
+}
+
+void USSDDlg::addMSISDNElements(int &row)
+{
+    USSD_LOG_SCOPE();
+    if (!m_pGrid) {
+        logScope.exitWith(" Fail Exit: Grid is NULL");
+        return;
+    }
+    place(m_pMSISDNLabel, row, kLabelColumn);
+    place(m_pMSISDNStatusTextEdit, row, kFieldColumn);
+    place(m_pMSISDNUpdateButton, row, kButtonColumn);
+    m_listTabOrder << m_pMSISDNStatusTextEdit << m_pMSISDNUpdateButton;
+    row += kRowsOf[COMPONENT_MSISDN];
+}
+
+/// Own number has no line of its own, so there is always one for each gap: that of the component
+/// above, or of the next one below.
+void USSDDlg::addSeparator(int &row)
+{
+    if (!m_listFreeLines.isEmpty())
+        place(m_listFreeLines.takeFirst(), row, kLabelColumn, kColumns);
+    ++row;
+}
+
+void USSDDlg::addCloseButton(int row)
+{
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setObjectName(QLatin1String("USSDUIPlugin_CloseBtn_Layout"));
+    buttons->setContentsMargins(0, kAboveClose, 0, 0);
+    buttons->addStretch(1);
+    buttons->addWidget(m_pCloseButton);
+    m_pGrid->addLayout(buttons, row, kLabelColumn, 1, kColumns, Qt::AlignBottom);
+    m_pGrid->setRowStretch(row, 1);
+    // An embedded page has no window of its own that could be closed.
+    m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
+    m_listTabOrder << m_pCloseButton;
+}
+
+void USSDDlg::place(QWidget *widget, int row, int column, int columns)
+{
+    m_pGrid->addWidget(widget, row, column, 1, columns);
+    widget->show();
+}
+
+/// From the field column on, below a gap, in a box of its own. A widget that has a direction of its
+/// own so stands where the dialog's language begins.
+void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
+{
+    QHBoxLayout *box = new QHBoxLayout;
+    box->setContentsMargins(0, gap, 0, 0);
+    box->addWidget(widget, widget == m_pActivateStatusTextEdit ? 1 : 0);
+    box->addStretch();
+    m_pGrid->addLayout(box, row, kFieldColumn, rows, columns);
+    widget->show();
+}
+
+/// What is not laid out afterwards stays hidden.
+void USSDDlg::hideComponents()
+{
+    QWidget *const widgets[] = {m_pBalanceLabel,
+                                m_pBalanceStatusTextEdit,
+                                m_pBalanceUpdateButton,
+                                m_pBalanceInfoLabel,
+                                m_pBalanceLine,
+                                m_pChargeLabel,
+                                m_pChargeEdit,
+                                m_pChargeActivateButton,
+                                m_pActivateStatusTextEdit,
+                                m_pChargeLine,
+                                m_pOnlineChargeLabel,
+                                m_pOnlineURL,
+                                m_pOnlineChargeLine,
+                                m_pMSISDNLabel,
+                                m_pMSISDNStatusTextEdit,
+                                m_pMSISDNUpdateButton,
+                                m_pCloseButton};
+    for (QWidget *widget : widgets)
+        widget->hide();
+    m_listTabOrder.clear();
+}
+
+/// As it is read: from left to right, or from right to left, and from the top to the bottom.
+void USSDDlg::initTabOrder()
+{
+    for (int i = 1; i < m_listTabOrder.count(); ++i)
+        QWidget::setTabOrder(m_listTabOrder.at(i - 1), m_listTabOrder.at(i));
+}
+
+/// The separator that goes with a component; null for own number, which has none.
+QFrame *USSDDlg::lineOf(_COMPONENT component) const
+{
+    switch (component) {
+    case COMPONENT_BALANCE:
+        return m_pBalanceLine;
+    case COMPONENT_CHARGE:
+        return m_pChargeLine;
+    case COMPONENT_ONLINE_CHARGE:
+        return m_pOnlineChargeLine;
+    default:
+        return nullptr;
+    }
+}
