@@ -3,9 +3,13 @@
 #include <cmath>
 
 #include <QEvent>
+#include <QMimeData>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 
 #include "PluginText.h"
+#include "ReplyLabel.h"
 
 namespace
 {
@@ -21,6 +25,22 @@ QString ownKeyOf(const QString &text)
             return QLatin1String(key);
     }
     return QString();
+}
+
+bool holdsRightToLeftLetter(const QString &text)
+{
+    for (int i = 0; i < text.length(); ++i) {
+        const QChar::Direction direction = text.at(i).direction();
+        if (direction == QChar::DirR || direction == QChar::DirAL)
+            return true;
+    }
+    return false;
+}
+
+/// LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
+QString withoutDirectionMarks(QString text)
+{
+    return text.remove(QRegExp(QString::fromLatin1("[%1-%2]").arg(QChar(0x202A), QChar(0x202E))));
 }
 
 } // namespace
@@ -45,7 +65,7 @@ void StatusBox::setLines(int lines)
 void StatusBox::showText(const QString &text)
 {
     m_ownKey = ownKeyOf(text);
-    setPlainText(text);
+    setPlainText(holdsRightToLeftLetter(text) ? ReplyLabel::withCodesMarked(text) : text);
 }
 
 void StatusBox::retranslate()
@@ -62,6 +82,14 @@ QSize StatusBox::sizeHint() const
 QSize StatusBox::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+/// A copied code must be one that can be sent: without the marks that turn it the right way here.
+QMimeData *StatusBox::createMimeDataFromSelection() const
+{
+    QMimeData *data = new QMimeData;
+    data->setText(withoutDirectionMarks(textCursor().selection().toPlainText()));
+    return data;
 }
 
 void StatusBox::changeEvent(QEvent *event)

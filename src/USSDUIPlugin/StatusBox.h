@@ -5,7 +5,8 @@
 
 /**
  * Shows the network's reply as plain text, whatever it holds, in a fixed number of lines: a longer
- * one scrolls. The plug-in's own texts follow the language.
+ * one scrolls. The plug-in's own texts follow the language; a code such as *111# reads from left to
+ * right also among letters that read the other way.
  */
 class StatusBox : public QTextEdit
 {
@@ -23,6 +24,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    QMimeData *createMimeDataFromSelection() const override;
     void changeEvent(QEvent *event) override;
 
 private:

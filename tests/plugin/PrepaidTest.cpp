@@ -1,0 +1,193 @@
+#include "PrepaidTest.h"
+
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "Change.h"
+#include "fake_tksv.h"
+#include "Languages.h"
+
+namespace
+{
+
+const int FRAME_HEIGHT = 20; // that the frame adds to what the dialog wants
+
+QByteArray item(const char *name, int pos, const QByteArray &children)
+{
+    return QByteArray("<item name='") + name + "' value='true' pos='" + QByteArray::number(pos) +
+           "'>" + children + "</item>";
+}
+
+QByteArray element(const char *name, const QByteArray &text)
+{
+    return QByteArray("<") + name + ">" + text + "</" + name + ">";
+}
+
+/// The reader wants four items, whatever they are.
+QByteArray orUnknown(const QByteArray &item)
+{
+    return item.isEmpty() ? QByteArray("<item name='none'/>") : item;
+}
+
+QString textOf(const QMessageBox *box)
+{
+    const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
+    return view ? view->toPlainText() : box->text();
+}
+
+} // namespace
+
+void PrepaidTest::setUp()
+{
+    PluginTest::setUp();
+    // Opening drops a command in flight, whose time-out the next one would wait for.
+    const ReplyTimes times = {30000, 1};
+    USSDLogic::setReplyTimes(times);
+}
+
+void PrepaidTest::tearDown()
+{
+    m_frame.reset();
+    PluginTest::tearDown();
+    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+// ---- configuration ---------------------------------------------------------------------------
+
+QByteArray PrepaidTest::balanceItem(int pos)
+{
+    return item("Balance", pos, element("command", "*100#"));
+}
+
+QByteArray PrepaidTest::chargeItem(int pos, int returnStyle, int length, int minlenth,
+                                   const QByteArray &limitText)
+{
+    return item("Charge", pos,
+                element("command", "*101*%s#") + element("length", QByteArray::number(length)) +
+                    element("minlenth", QByteArray::number(minlenth)) +
+                    element("ReturnStyle", QByteArray::number(returnStyle)) +
+                    element("LimitText", limitText));
+}
+
+QByteArray PrepaidTest::onlineItem(int pos, const QByteArray &url)
+{
+    return item("OnlineCharge", pos, element("URL", url));
+}
+
+QByteArray PrepaidTest::msisdnItem(int pos)
+{
+    return item("MSISDN", pos, element("command", "*102#") + element("UpdateButton", "1"));
+}
+
+void PrepaidTest::configure(const Account &prepaid, const Account &postpaid,
+                            const QByteArray &pattern, const QByteArray &query)
+{
+    QByteArray xml = "<config><PrePostDiffer value='";
+    xml += pattern.isEmpty() ? "false" : "true";
+    xml += "'>" + element("command", query) + element("ReturnPattern", pattern) +
+           element("style", "1") + "</PrePostDiffer>";
+    const Account *const accounts[] = {&prepaid, &postpaid};
+    const char *const sections[] = {"Prepaid", "Postpaid"};
+    for (int i = 0; i < 2; ++i)
+        xml += element(sections[i],
+                       orUnknown(accounts[i]->balance) + orUnknown(accounts[i]->charge) +
+                           orUnknown(accounts[i]->online) + orUnknown(accounts[i]->msisdn));
+    writeConfig(xml + "</config>");
+}
+
+// ---- the window ------------------------------------------------------------------------------
+
+void PrepaidTest::make(PAID_TYPE type, WINDOW_MODEL model)
+{
+    m_frame.reset(new USSDExtendDialog(nullptr, Qt::WindowCloseButtonHint, 1));
+    m_dialog = new USSDDlg;
+    m_dialog->InitDialog(nullptr, type, model);
+    fitFrame();
+    m_frame->AddMainWidget(m_dialog);
+    m_frame->show();
+    drainEvents();
+}
+
+void PrepaidTest::open(PAID_TYPE type)
+{
+    make(type);
+    m_dialog->MyDoModal(type);
+    drainEvents();
+}
+
+void PrepaidTest::fitFrame()
+{
+    m_frame->setFixedSize(m_dialog->GetSize() + QSize(0, FRAME_HEIGHT));
+    drainEvents();
+}
+
+// ---- users and networks ----------------------------------------------------------------------
+
+void PrepaidTest::click(QPushButton *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void PrepaidTest::type(const QString &pin)
+{
+    QTest::keyClicks(chargeEdit(), pin);
+}
+
+void PrepaidTest::topUp(const QString &pin)
+{
+    chargeEdit()->selectAll();
+    type(pin);
+    click(activateButton());
+}
+
+void PrepaidTest::networkSays(const QString &text)
+{
+    fakeSdkRespond(text.toStdU16String());
+    QVERIFY(fakeSdkWaitIdle());
+    drainEvents();
+}
+
+QString PrepaidTest::networkSaysIntoBox(const QString &text,
+                                        const std::function<void(QMessageBox *)> &look)
+{
+    QString shown;
+    fakeSdkRespond(text.toStdU16String());
+    if (!fakeSdkWaitIdle())
+        qFatal("the answer was not delivered");
+    QTimer::singleShot(0, this, [&shown, &look] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        shown = textOf(box);
+        if (look)
+            look(box);
+        QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
+    });
+    drainEvents();
+    return shown;
+}
+
+void PrepaidTest::logicSays(int component, const QString &text)
+{
+    emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, text);
+}
+
+QStringList PrepaidTest::requests()
+{
+    QStringList texts;
+    for (const std::u16string &command : fakeSdkCommands())
+        texts << QString::fromStdU16String(command);
+    return texts;
+}
+
+QString PrepaidTest::text(const char *key)
+{
+    return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
+}
+
+QStringList PrepaidTest::languages()
+{
+    return QString::fromLatin1("en de fr es pt ru ar zh").split(QLatin1Char(' '));
+}

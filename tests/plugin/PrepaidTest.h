@@ -1,0 +1,105 @@
+#ifndef PREPAIDTEST_H
+#define PREPAIDTEST_H
+
+#include "PluginTest.h"
+
+#include <functional>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include "USSDDlg.h"
+#include "USSDExtendDialog.h"
+
+class QMessageBox;
+
+/**
+ * A test of the account window in its frame, driven as a user does, on the misbehaving device SDK.
+ * The network is silent until a test lets it speak.
+ */
+class PrepaidTest : public PluginTest
+{
+    Q_OBJECT
+
+protected:
+    /// The "item" elements of one account; a component without one is not shown.
+    struct Account {
+        QByteArray balance = balanceItem(0);
+        QByteArray charge = chargeItem(1);
+        QByteArray online = onlineItem(2, "https://www.example.com/top-up");
+        QByteArray msisdn = msisdnItem(3);
+    };
+
+    void setUp() override;
+    void tearDown() override;
+
+    // ---- configuration
+    static QByteArray balanceItem(int pos);
+    static QByteArray chargeItem(int pos, int returnStyle = 0, int length = 16, int minlenth = 12,
+                                 const QByteArray &limitText = "0-9");
+    static QByteArray onlineItem(int pos, const QByteArray &url);
+    static QByteArray msisdnItem(int pos);
+    /// Both accounts and the detection, which is switched on when `pattern` is not empty.
+    void configure(const Account &prepaid, const Account &postpaid,
+                   const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
+    void configure(const Account &both) { configure(both, both); }
+
+    // ---- the window
+    /// Makes the dialog in a frame that is shown, as large as the dialog wants it; sends nothing.
+    void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
+    /// The same, opened.
+    void open(PAID_TYPE type = PAID_TYPE_PREPAID);
+    void fitFrame(); ///< to what the dialog wants now
+    USSDDlg *dialog() { return m_dialog; }
+    USSDExtendDialog *frame() { return m_frame.data(); }
+
+    template <typename Widget>
+    Widget *part(const char *role)
+    {
+        Widget *found =
+            m_dialog->findChild<Widget *>(QLatin1String("USSDUIPlugin_") + QLatin1String(role));
+        return found ? found : missing<Widget>(role);
+    }
+    QPushButton *balanceButton() { return part<QPushButton>("BalanceUpdateButton"); }
+    QPushButton *activateButton() { return part<QPushButton>("ChargeActivateButton"); }
+    QPushButton *msisdnButton() { return part<QPushButton>("MSISDNUpdateButton"); }
+    QPushButton *closeButton() { return part<QPushButton>("CloseButton"); }
+    QLineEdit *chargeEdit() { return part<QLineEdit>("ChargeEdit"); }
+    QLabel *link() { return part<QLabel>("OnlineURL"); }
+    QTextEdit *balanceBox() { return part<QTextEdit>("BalanceStatusTextEdit"); }
+    QTextEdit *activateBox() { return part<QTextEdit>("ActivateStatusTextEdit"); }
+    QTextEdit *msisdnBox() { return part<QTextEdit>("MSISDNStatusTextEdit"); }
+
+    // ---- what a user does
+    static void click(QPushButton *button);
+    void type(const QString &pin);  ///< into the entry, key by key
+    void topUp(const QString &pin); ///< types it and presses the button
+
+    // ---- what the network does
+    void networkSays(const QString &text);
+    /// The same where a message box comes up: lets `look` see it, presses its button, and
+    /// gives the text it showed; null when there was no box.
+    QString networkSaysIntoBox(const QString &text,
+                               const std::function<void(QMessageBox *)> &look = nullptr);
+    void logicSays(int component, const QString &text); ///< at once, whatever was sent
+    static QStringList requests();                      ///< the texts of all requests so far
+
+    static QString text(const char *key);
+    static QStringList languages();
+
+private:
+    template <typename Widget>
+    static Widget *missing(const char *role)
+    {
+        qFatal("the dialog has no %s", role);
+        return nullptr;
+    }
+
+    QScopedPointer<USSDExtendDialog> m_frame;
+    QPointer<USSDDlg> m_dialog;
+};
+
+#endif

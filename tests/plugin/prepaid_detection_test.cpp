@@ -1,0 +1,354 @@
+#include "PrepaidTest.h"
+
+#include <functional>
+
+#include "fake_tksv.h"
+#include "HostState.h"
+#include "INotifyService.h"
+#include "IPluginContainer.h"
+
+namespace
+{
+
+const char *const PLUGIN = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
+const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
+                                  "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
+
+/** A host's notification service: reads the record during the call. */
+class Notifications : public QObject, public INotifyService
+{
+    Q_OBJECT
+    Q_INTERFACES(INotifyService)
+public:
+    struct Call {
+        QString addressee;
+        unsigned int message;
+        NotifyParam lParam;
+        PrePostRecord record;
+    };
+
+    int Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
+               NotifyParam lParam) override
+    {
+        const PrePostRecord *record = reinterpret_cast<const PrePostRecord *>(wParam);
+        calls << Call{addressee, message, lParam, *record};
+        if (onCall)
+            onCall();
+        return 0;
+    }
+
+    QList<Call> calls;
+    std::function<void()> onCall;
+};
+
+class Container : public IPluginContainer
+{
+public:
+    QObject *GetPlugin(const QString &clsid) override
+    {
+        asked << clsid;
+        return clsid == QLatin1String(PLUGIN) ? plugin.data() : nullptr;
+    }
+
+    QStringList asked;
+    QPointer<QObject> plugin;
+};
+
+QString digitPatternReply()
+{
+    return QStringLiteral("Your balance is 12.50");
+}
+
+const char DIGIT[] = "\"\\d\"";
+
+} // namespace
+
+/** Prepaid or postpaid: the question, and what the host is told. */
+class PrepaidDetectionTest : public PrepaidTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private:
+    int ask(bool reallyAsk = true);
+    const PrePostRecord &told() { return m_notifications->calls.last().record; }
+
+    QScopedPointer<Notifications> m_notifications;
+    QScopedPointer<Container> m_container;
+    PrePostRecord m_given; // the caller's three variables
+
+private slots:
+    void replyWithADigitMeansPrepaid();
+    void replyWithoutDigitsMeansPostpaid();
+    void emptyReplyMeansPostpaid();
+    void otherPatternHasToBeTheReply_data();
+    void otherPatternHasToBeTheReply();
+    void timeOutIsToldWithoutAVerdict();
+
+    void hostIsToldTwiceByItsTwoNames();
+    void questionIsReleasedBeforeItIsSent();
+    void questionThatCannotBeSentIsKept();
+    void questionWithoutACommandSendsNothing();
+    void withoutTheSettingNothingIsSent();
+    void notReallyAskedNothingIsSent();
+    void answerIsTakenWhenNothingElseIsGoingOn();
+    void answerAfterClosingIsTakenToo();
+    void openingTheWindowKeepsTheQuestion();
+
+    void withoutAContainerItIsLogged();
+    void withoutThePluginItIsLogged();
+    void pluginOfAnotherKindIsLogged();
+    void withoutLogicItIsLogged();
+    void hostThatDestroysTheWindowIsToldTwiceAllTheSame();
+    void hostThatUnloadsThePluginIsNotToldAgain();
+};
+
+void PrepaidDetectionTest::setUp()
+{
+    PrepaidTest::setUp();
+    m_given = PrePostRecord();
+    m_notifications.reset(new Notifications);
+    m_container.reset(new Container);
+    m_container->plugin = m_notifications.data();
+    HostState::setPluginContainer(m_container.data());
+    configure(Account(), Account(), DIGIT);
+}
+
+void PrepaidDetectionTest::tearDown()
+{
+    HostState::setPluginContainer(nullptr);
+    PrepaidTest::tearDown();
+    m_container.reset();
+    m_notifications.reset();
+}
+
+int PrepaidDetectionTest::ask(bool reallyAsk)
+{
+    if (!dialog())
+        make();
+    return dialog()->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, reallyAsk);
+}
+
+// ---- verdicts --------------------------------------------------------------------------------
+
+void PrepaidDetectionTest::replyWithADigitMeansPrepaid()
+{
+    m_given.bPostPaid = true;
+    QCOMPARE(ask(), 1);
+    QVERIFY(m_given.bInUse);
+    QVERIFY(!m_given.bPostPaid);
+    QCOMPARE(m_given.result, 1);
+    QCOMPARE(requests(), QStringList() << QStringLiteral("*103#"));
+    networkSays(digitPatternReply());
+    QVERIFY(told().bInUse);
+    QVERIFY(!told().bPostPaid);
+    QCOMPARE(told().result, 1);
+    QCOMPARE(timesLogged("bPostPaid=0"), 1);
+}
+
+void PrepaidDetectionTest::replyWithoutDigitsMeansPostpaid()
+{
+    ask();
+    networkSays(QStringLiteral("Contract account"));
+    QVERIFY(told().bPostPaid);
+    QCOMPARE(timesLogged(": onPrePostPaidRspReceived bPostPaid=1"), 1);
+}
+
+void PrepaidDetectionTest::emptyReplyMeansPostpaid()
+{
+    ask();
+    networkSays(QString());
+    QVERIFY(told().bPostPaid);
+}
+
+void PrepaidDetectionTest::otherPatternHasToBeTheReply_data()
+{
+    QTest::addColumn<QString>("reply");
+    QTest::addColumn<bool>("isPostpaid");
+    QTest::newRow("equal") << QStringLiteral("PREPAID") << false;
+    QTest::newRow("within") << QStringLiteral("PREPAID 5") << true;
+}
+
+void PrepaidDetectionTest::otherPatternHasToBeTheReply()
+{
+    configure(Account(), Account(), "PREPAID");
+    QFETCH(QString, reply);
+    ask();
+    networkSays(reply);
+    QTEST(told().bPostPaid, "isPostpaid");
+}
+
+void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
+{
+    const ReplyTimes impatient = {1, 1};
+    USSDLogic::setReplyTimes(impatient);
+    ask();
+    QTRY_COMPARE(m_notifications->calls.count(), 2);
+    QCOMPARE(told().result, 0);
+    QVERIFY(!told().bPostPaid); // though the text of the time-out has no digit
+    QCOMPARE(timesLogged("bPostPaid="), 0);
+}
+
+// ---- asking ----------------------------------------------------------------------------------
+
+void PrepaidDetectionTest::hostIsToldTwiceByItsTwoNames()
+{
+    ask();
+    networkSays(digitPatternReply());
+    QCOMPARE(m_container->asked, QStringList() << QLatin1String(PLUGIN));
+    QCOMPARE(m_notifications->calls.count(), 2);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(m_notifications->calls.at(i).addressee, QLatin1String(ADDRESSEES[i]));
+        QCOMPARE(m_notifications->calls.at(i).message, 384u);
+        QCOMPARE(m_notifications->calls.at(i).lParam, NotifyParam(0));
+    }
+}
+
+void PrepaidDetectionTest::questionIsReleasedBeforeItIsSent()
+{
+    make();
+    const size_t before = fakeSdkCalls().size();
+    ask();
+    const std::vector<FakeCall> calls = fakeSdkCalls();
+    QCOMPARE(calls.size(), before + 2);
+    QCOMPARE(calls[before].function, std::string("TKSV_USSDSrv_Release"));
+    QCOMPARE(calls[before + 1].function, std::string("TKSV_USSDSrv_Request"));
+}
+
+void PrepaidDetectionTest::questionThatCannotBeSentIsKept()
+{
+    allowWarning("TKSV_USSDSrv_Request");
+    fakeSdkSetAnswer(fakeRefused(1, 2));
+    m_given.result = 7;
+    QCOMPARE(ask(), 1);
+    QVERIFY(m_given.bInUse);
+    QCOMPARE(m_given.result, 0);
+}
+
+void PrepaidDetectionTest::questionWithoutACommandSendsNothing()
+{
+    configure(Account(), Account(), DIGIT, "");
+    ask();
+    QVERIFY(m_given.bInUse);
+    QCOMPARE(m_given.result, 0);
+    QVERIFY(requests().isEmpty());
+}
+
+void PrepaidDetectionTest::withoutTheSettingNothingIsSent()
+{
+    configure(Account());
+    m_given.bInUse = true;
+    ask();
+    QVERIFY(!m_given.bInUse);
+    QVERIFY(requests().isEmpty());
+    QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());
+}
+
+void PrepaidDetectionTest::notReallyAskedNothingIsSent()
+{
+    m_given.bInUse = false;
+    m_given.bPostPaid = true;
+    m_given.result = 7;
+    QCOMPARE(ask(false), 1);
+    QVERIFY(!m_given.bInUse);
+    QVERIFY(m_given.bPostPaid);
+    QCOMPARE(m_given.result, 7);
+    QVERIFY(requests().isEmpty());
+}
+
+void PrepaidDetectionTest::answerIsTakenWhenNothingElseIsGoingOn()
+{
+    make();
+    logicSays(COMPONENT_PREPOST_QUERY, digitPatternReply());
+    QCOMPARE(m_notifications->calls.count(), 2);
+}
+
+void PrepaidDetectionTest::answerAfterClosingIsTakenToo()
+{
+    ask();
+    dialog()->OnClickedCloseButton();
+    networkSays(digitPatternReply());
+    QCOMPARE(m_notifications->calls.count(), 2);
+}
+
+void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
+{
+    fakeSdkSetAnswer(fakeReply(u"balance"));
+    FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
+    late.stubborn = true; // the release that opening begins with does not end it
+    fakeSdkScript({late});
+    ask();
+    dialog()->MyDoModal(PAID_TYPE_PREPAID);
+    QTRY_COMPARE(m_notifications->calls.count(), 2);
+    QVERIFY(told().bPostPaid);
+    QTRY_COMPARE(balanceBox()->toPlainText(), QStringLiteral("balance"));
+}
+
+// ---- hosts -----------------------------------------------------------------------------------
+
+void PrepaidDetectionTest::withoutAContainerItIsLogged()
+{
+    HostState::setPluginContainer(nullptr);
+    expectWarning(": sendNotify: Plugin container is null ");
+    ask();
+    networkSays(digitPatternReply());
+    QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2); // debug and warning
+}
+
+void PrepaidDetectionTest::withoutThePluginItIsLogged()
+{
+    m_container->plugin = nullptr;
+    ask();
+    networkSays(digitPatternReply());
+    QCOMPARE(timesLogged(": sendNotify: plugin is not loaded "), 1);
+}
+
+void PrepaidDetectionTest::pluginOfAnotherKindIsLogged()
+{
+    m_container->plugin = this;
+    ask();
+    networkSays(digitPatternReply());
+    QCOMPARE(timesLogged(": sendNotify: plugin is not loaded "), 1);
+    m_container->plugin = nullptr;
+}
+
+void PrepaidDetectionTest::withoutLogicItIsLogged()
+{
+    make();
+    USSDLogic::Destroy();
+    m_given.result = 7;
+    QCOMPARE(ask(), 0);
+    QCOMPARE(m_given.result, 7);
+    QCOMPARE(timesLogged("GetPrePostInfo Fail Exit: Logic is NULL"), 1);
+}
+
+void PrepaidDetectionTest::hostThatDestroysTheWindowIsToldTwiceAllTheSame()
+{
+    m_notifications->onCall = [this] { delete dialog(); };
+    ask();
+    networkSays(digitPatternReply());
+    QVERIFY(!dialog());
+    QCOMPARE(m_notifications->calls.count(), 2);
+    QVERIFY(told().bInUse);
+}
+
+void PrepaidDetectionTest::hostThatUnloadsThePluginIsNotToldAgain()
+{
+    int calls = 0;
+    m_notifications->onCall = [this, &calls] {
+        ++calls;
+        delete m_notifications.take();
+    };
+    ask();
+    fakeSdkRespond(u"5");
+    QVERIFY(fakeSdkWaitIdle());
+    drainEvents();
+    QCOMPARE(calls, 1);
+}
+
+USSD_TEST_MAIN(PrepaidDetectionTest)
+
+#include "prepaid_detection_test.moc"
