@@ -144,6 +144,7 @@ private slots:
     void userProfileWithASystemCodeIsDropped();
     void laterUserProfileWithTheSameCodeIsDropped();
     void systemProfilesWithTheSameCodeAreAllKept();
+    void systemProfileIsNotComparedWithAnyOther();
     void systemProfilesComeFirst();
     void readonlyInCapitalsOrAsDigitIsFalse_data();
     void readonlyInCapitalsOrAsDigitIsFalse();
@@ -271,6 +272,14 @@ void ProfileStoreTest::systemProfilesWithTheSameCodeAreAllKept()
     writeSystemProfiles(profileFile(profileItem("One", "*100#") + profileItem("Two", "*100#")));
     QCOMPARE(codes(loaded()), (QStringList{latin1("system *100#"), latin1("system *100#")}));
     QCOMPARE(timesLogged("already exists!!!"), 0);
+}
+
+void ProfileStoreTest::systemProfileIsNotComparedWithAnyOther()
+{
+    writeSystemProfiles(profileFile(profileItem("One", "*100#")));
+    USSDEditCmd store;
+    store.load(systemFile(), true);
+    QCOMPARE(codes(list(store)), (QStringList{latin1("system *100#"), latin1("system *100#")}));
 }
 
 void ProfileStoreTest::systemProfilesComeFirst()
