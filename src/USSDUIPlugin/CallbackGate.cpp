@@ -3,7 +3,7 @@
 #include <QMutexLocker>
 #include <QThread>
 
-CallbackGate::CallbackGate() : m_state(Closed), m_maker(nullptr) {}
+CallbackGate::CallbackGate() : m_state(Closed), m_maker() {}
 
 void CallbackGate::startOpening()
 {
@@ -33,12 +33,12 @@ bool CallbackGate::someoneElseIsInside() const
     return m_inside.count(QThread::currentThreadId()) != m_inside.count();
 }
 
-bool CallbackGate::enter()
+bool CallbackGate::enter(Patience patience)
 {
     const Qt::HANDLE self = QThread::currentThreadId();
     QMutexLocker locker(&m_mutex);
     // A device SDK that calls back from inside its registration would wait for itself.
-    while (m_state == Opening && m_maker != self)
+    while (patience == WaitForOpening && m_state == Opening && m_maker != self)
         m_changed.wait(&m_mutex);
     if (m_state != Open)
         return false;

@@ -9,8 +9,9 @@
  * Decides whether a call-back of the device SDK may use the logic object, and keeps the object
  * alive meanwhile. Call-backs enter from any thread; the GUI thread opens and closes.
  *
- * A call-back that comes while the object is being made waits until it is finished: the device
- * tells only once, soon after the registration, that short messages can be sent.
+ * While the object is being made nobody gets in. The SMS call-back, which is registered last, waits
+ * until it is finished: the device tells only once, soon after the registration, that short
+ * messages can be sent.
  */
 class CallbackGate
 {
@@ -23,7 +24,9 @@ public:
     /// From now on nobody gets in. Returns when nobody is inside any more, but for this thread.
     void close();
 
-    bool enter();
+    enum Patience { DoNotWait, WaitForOpening };
+
+    bool enter(Patience patience);
     void leave();
 
 private:
@@ -44,7 +47,10 @@ private:
 class CallbackPass
 {
 public:
-    explicit CallbackPass(CallbackGate &gate) : m_gate(gate), m_entered(gate.enter()) {}
+    CallbackPass(CallbackGate &gate, CallbackGate::Patience patience)
+        : m_gate(gate), m_entered(gate.enter(patience))
+    {
+    }
     ~CallbackPass()
     {
         if (m_entered)

@@ -17,6 +17,7 @@ namespace
 
 const int kSent = 0;
 const int kFailed = 1;
+const int kNotTheHead = 2; // inside only
 
 /// Limits when nobody set others: 30 s for a reply, shorter or longer by $USSD_REPLY_TIMEOUT_MS.
 ReplyTimes shippedReplyTimes()
@@ -92,23 +93,29 @@ void USSDLogic::Destroy()
     m_pTimer = nullptr;
     delete m_pUSSDLogicInstance;
     m_pUSSDLogicInstance = nullptr;
-    clearPending();
+    clearPending(); // the list goes with its owner, or the next one would wait behind it
 }
+
+// These two log under the constructor's name, of which they are a part.
+static const char kConstructor[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
 {
-    USSD_LOG(": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
+    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
+                    ": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
     const long result = TKSV_DevSrv_RegisterDevInitEventCallback(OnDeviceMgrInitEvent);
-    USSD_LOG(": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
+    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
+                    ": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
 }
 
 void USSDLogic::registerSmsCallback()
 {
-    USSD_LOG(": Calling TKSV_SMSSrv_RegCallBack ()");
+    PluginLog::line(QtDebugMsg, kLogSource, kConstructor, ": Calling TKSV_SMSSrv_RegCallBack ()");
     const long result = TKSV_SMSSrv_RegCallBack(SmsCallBackMethod);
-    USSD_LOG(": TKSV_SMSSrv_RegCallBack () returned %li", result);
+    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
+                    ": TKSV_SMSSrv_RegCallBack () returned %li", result);
     if (result != 0)
-        PluginLog::line(QtWarningMsg, kLogSource, __func__,
+        PluginLog::line(QtWarningMsg, kLogSource, kConstructor,
                         ": TKSV_SMSSrv_RegCallBack returned %li", result);
 }
 
@@ -205,11 +212,19 @@ bool USSDLogic::markHeadSent(USSDCmdOrResp &command, quint64 &number)
     return true;
 }
 
+/// Whether nobody has announced this head yet, or one behind it. One that was cleared counts: its
+/// time-out still runs, and moves on what stands behind it.
 bool USSDLogic::awaitsReply(quint64 number)
 {
     QMutexLocker locker(&m_mutex);
-    return m_headMarks.current == number && m_headMarks.claimed != number &&
-           !m_listOfCommandsToSend.isEmpty();
+    return m_headMarks.claimed < number;
+}
+
+/// Whether this is still the head and nobody announces it.
+bool USSDLogic::isOpenHead(quint64 number)
+{
+    QMutexLocker locker(&m_mutex);
+    return m_headMarks.current == number && m_headMarks.claimed != number;
 }
 
 void USSDLogic::removeHead(quint64 number)
@@ -279,28 +294,34 @@ int USSDLogic::sendHead(int *status)
 {
     USSDCmdOrResp head;
     quint64 number = 0;
-    if (!markHeadSent(head, number))
-        return kSent;
-    return handOver(head.command, number, status);
+    while (markHeadSent(head, number)) {
+        const int result = sendUSSDCommand(head.command, number, status);
+        if (result != kNotTheHead)
+            return result;
+    }
+    return kSent;
 }
 
 int USSDLogic::sendUSSDCommand(QString command, int *status)
 {
     USSDCmdOrResp head;
     quint64 number = 0;
-    markHeadSent(head, number);
-    return handOver(command, number, status);
+    if (!markHeadSent(head, number))
+        number = headNumber();
+    return sendUSSDCommand(command, number, status) == kFailed ? kFailed : kSent;
 }
 
 /// The silence after a failure is deliberate: the caller sees the result, nobody gets a signal, and
 /// the entries behind wait for the next command that finds itself alone, or for a stale reply.
-int USSDLogic::handOver(const QString &command, quint64 number, int *status)
+int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();
     int ignoredStatus = 0;
     if (!status)
         status = &ignoredStatus;
     QMutexLocker sending(&m_mutexSendCmd);
+    if (!isOpenHead(number)) // cleared or answered while this waited for its turn
+        return kNotTheHead;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
         USSD_LOG(" USSDCommand is too large");
@@ -370,7 +391,7 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
         logScope.exitWithWarning(" Fail Exit: Response data is NULL");
         return 0;
     }
-    const CallbackPass pass(m_gate);
+    const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid()) {
         logScope.exitWithWarning(" Fail Exit: Logic Object is NULL");
         return 0;
@@ -435,7 +456,7 @@ unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
     USSD_LOG(" Enter %d", event);
     if (event != TKSV_DEV_EVENT_GONE && event != TKSV_DEV_EVENT_RESET)
         return 0;
-    const CallbackPass pass(m_gate);
+    const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid())
         return 0;
     ClaimedHead head = {0, COMPONENT_BALANCE};
@@ -458,7 +479,7 @@ unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
         USSD_LOG_UNTIMED(":HA is shutting down ");
         return 1;
     }
-    const CallbackPass pass(m_gate);
+    const CallbackPass pass(m_gate, CallbackGate::WaitForOpening);
     if (!pass.isValid())
         return 0;
     switch (event) {

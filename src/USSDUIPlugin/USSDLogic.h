@@ -171,13 +171,14 @@ private:
     static Claim claimHead(ClaimedHead &head, quint64 number = 0);
     static bool markHeadSent(USSDCmdOrResp &command, quint64 &number);
     static bool awaitsReply(quint64 number);
+    static bool isOpenHead(quint64 number);
     static void removeHead(quint64 number);
     static void removeFirst();
     static void clearPending();
     static void keepOnly(bool (*keep)(const USSDCmdOrResp &));
 
     int sendHead(int *status);
-    int handOver(const QString &command, quint64 number, int *status);
+    int sendUSSDCommand(const QString &command, quint64 number, int *status);
     static void armReplyTimer(quint64 number);
     static void stopReplyTimer();
     static bool stopRunOutTimer();

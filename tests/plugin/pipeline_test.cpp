@@ -37,6 +37,13 @@ public slots:
         done = true;
     }
     void shutDown(int, QString) { USSDLogic::Destroy(); }
+    void clearAndSendTwice(int, QString)
+    {
+        for (int i = 0; i < 2; ++i) {
+            USSDLogic::ClearQueuedCmds();
+            sendMore(0, QString());
+        }
+    }
     void sendMore(int, QString)
     {
         int status = 0;
@@ -61,8 +68,11 @@ private:
     LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
     QList<LogicListener::Answer> &answers() { return m_listener->answers; }
     void setTimes(int reply, int previous);
+    /// Whether a command goes out without waiting for an earlier time-out.
+    bool sendsWithoutWaiting();
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 
+    ReplyTimes m_shippedTimes;
     USSDLogic *m_logic = nullptr;
     QScopedPointer<LogicListener> m_listener;
     int m_status = 0;
@@ -101,6 +111,13 @@ private slots:
 
     void clearQueuedKeepsPrePostQueriesInOrder();
     void clearUssdSmsLeavesTheOthers();
+    void clearWhileARequestIsUnderWayKeepsTheTimeOut();
+    void commandClearedWhileItWaitedIsNotSent();
+    void clearBeforeTheHeadIsRemovedLeavesTheNewHead();
+    void oneRequestAtATimeIsUnderWay();
+    void strayReplyWithEmptyListStopsTheTimer();
+    void shippedTimesAreThirtyAndThreeSeconds();
+    void destroyEndsTheWaitForTheEarlierTimeOut();
     void replyForAClearedCommandAnswersTheHead();
 
     void releaseReportsTheDevicesResult();
@@ -117,6 +134,8 @@ private slots:
 
 void PipelineTest::setUp()
 {
+    static const ReplyTimes shipped = USSDLogic::replyTimes(); // before any test has set others
+    m_shippedTimes = shipped;
     PluginTest::setUp();
     setTimes(kNoPatience, kNoPatience);
     m_logic = USSDLogic::GetUSSDLogicInstance();
@@ -134,6 +153,16 @@ void PipelineTest::setTimes(int reply, int previous)
 {
     const ReplyTimes times = {reply, previous};
     USSDLogic::setReplyTimes(times);
+}
+
+bool PipelineTest::sendsWithoutWaiting()
+{
+    const int wait = 60;
+    setTimes(kNoPatience, wait);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    const int result = send(5, QStringLiteral("*9#"));
+    return result == 0 && elapsed.elapsed() < wait - 1;
 }
 
 int PipelineTest::send(int component, const QString &command)
@@ -328,8 +357,7 @@ void PipelineTest::timeOutWithEmptyListOnlyStopsTheTimer()
     USSDLogic::ClearQueuedCmds();
     QTRY_COMPARE(timesLogged("OnTimeOut Exit"), 1);
     QVERIFY(answers().isEmpty());
-    setTimes(kNoPatience, kNoPatience);
-    QCOMPARE(send(5, QStringLiteral("*2#")), 0); // does not wait: the timer was stopped
+    QVERIFY(sendsWithoutWaiting());
 }
 
 void PipelineTest::timeOutSlotAnswersTheHead()
@@ -354,12 +382,10 @@ void PipelineTest::replyThatBeatsTheTimerLeavesItStopped()
 {
     FakeAnswer quick = fakeReply(u"quick");
     quick.beforeReturn = true;
-    fakeSdkScript({quick, quick});
+    fakeSdkScript({quick, fakeSilence()});
     send(5, QStringLiteral("*1#"));
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("quick")));
-    // A timer left running would make this wait for a minute.
-    send(5, QStringLiteral("*2#"));
-    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("quick")));
+    QVERIFY(sendsWithoutWaiting());
 }
 
 void PipelineTest::sendWaitsForTheEarlierTimeOut()
@@ -383,7 +409,10 @@ void PipelineTest::replyEndsTheWaitForTheEarlierTimeOut()
         fakeSdkWaitForRequests(2);
         fakeSdkRespond(u"two");
     });
-    QCOMPARE(send(0, QStringLiteral("*2#")), 0); // without the reply it would last a minute
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QCOMPARE(send(0, QStringLiteral("*2#")), 0);
+    QVERIFY(elapsed.elapsed() < kNoPatience / 2);
     network.join();
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
 }
@@ -397,8 +426,8 @@ void PipelineTest::nullDataLeavesListAndTimer()
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
     QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2); // debug and warning
-    fakeSdkRespond(u"one");
-    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    USSDLogic::ClearQueuedCmds();
+    QVERIFY(!sendsWithoutWaiting()); // the time-out still runs
 }
 
 void PipelineTest::replyWithoutCommandIsDropped()
@@ -461,6 +490,120 @@ void PipelineTest::replyForAClearedCommandAnswersTheHead()
     USSDLogic::ClearQueuedCmds();
     fakeSdkRespond(u"for one");
     QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
+}
+
+/// The time-out of a command that was cleared moves on what stands behind it.
+void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
+{
+    setTimes(20, 1);
+    FakeAnswer blocked = fakeSilence();
+    blocked.block = std::chrono::milliseconds(kNoPatience);
+    fakeSdkScript({fakeSilence(), blocked});
+    send(5, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*2#"));
+    send(4, QStringLiteral("*3#"));
+    fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForRequests(2));
+    USSDLogic::ClearQueuedCmds();
+    fakeSdkUnblock();
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    QCOMPARE(nextAnswer(), answer(4, timeOutText()));
+}
+
+void PipelineTest::commandClearedWhileItWaitedIsNotSent()
+{
+    setTimes(kNoPatience, 1);
+    FakeAnswer blocked = fakeSilence();
+    blocked.block = std::chrono::milliseconds(kNoPatience);
+    fakeSdkScript({blocked, fakeSilence(), fakeSilence()});
+    int status[3] = {0, 0, 0};
+    std::vector<std::thread> senders;
+    const char *const commands[] = {"*1#", "*2#", "*3#"};
+    for (int i = 0; i < 3; ++i) { // the first is held up in the device, the others wait for it
+        senders.emplace_back([this, i, &status, &commands] {
+            m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String(commands[i])),
+                                     &status[i]);
+        });
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        QVERIFY(fakeSdkWaitForRequests(1));
+        if (i < 2)
+            USSDLogic::ClearQueuedCmds();
+    }
+    fakeSdkUnblock();
+    for (std::thread &sender : senders)
+        sender.join();
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*1#", u"*3#"}));
+    fakeSdkRespond(u"three");
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("three")));
+}
+
+/// The call-back removes the command that it announced, not the one that stands there by then.
+void PipelineTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
+{
+    setTimes(kNoPatience, 1);
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(stopHere(int, QString)), Qt::DirectConnection);
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one");
+    interloper.reached.acquire();
+    USSDLogic::ClearQueuedCmds();
+    send(3, QStringLiteral("*2#"));
+    interloper.goOn.release();
+    QVERIFY(fakeSdkWaitIdle());
+    disconnect(m_logic, nullptr, &interloper, nullptr);
+    fakeSdkRespond(u"two");
+    QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    QCOMPARE(nextAnswer(), answer(3, QStringLiteral("two")));
+}
+
+void PipelineTest::oneRequestAtATimeIsUnderWay()
+{
+    setTimes(kNoPatience, 1);
+    FakeAnswer blocked = fakeSilence();
+    blocked.block = std::chrono::milliseconds(kNoPatience);
+    fakeSdkScript({fakeSilence(), blocked, fakeSilence()});
+    send(5, QStringLiteral("*1#"));
+    send(5, QStringLiteral("*2#"));
+    fakeSdkRespond(u"one"); // the SDK's thread sends *2# and is held up in there
+    QVERIFY(fakeSdkWaitForRequests(2));
+    USSDLogic::ClearQueuedCmds();
+    std::thread other([this] { send(0, QStringLiteral("*3#")); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    const size_t meanwhile = fakeSdkCommands().size();
+    fakeSdkUnblock();
+    other.join();
+    QCOMPARE(meanwhile, size_t(2));
+    QCOMPARE(fakeSdkCommands().size(), size_t(3));
+}
+
+void PipelineTest::strayReplyWithEmptyListStopsTheTimer()
+{
+    send(5, QStringLiteral("*1#"));
+    USSDLogic::ClearQueuedCmds();
+    fakeSdkRespond(u"stray");
+    QVERIFY(fakeSdkWaitIdle());
+    QVERIFY(sendsWithoutWaiting());
+}
+
+void PipelineTest::shippedTimesAreThirtyAndThreeSeconds()
+{
+    QCOMPARE(m_shippedTimes.reply, 30000);
+    QCOMPARE(m_shippedTimes.previous, 3000);
+}
+
+void PipelineTest::destroyEndsTheWaitForTheEarlierTimeOut()
+{
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(clearAndSendTwice(int, QString)), Qt::DirectConnection);
+    send(5, QStringLiteral("*1#"));
+    fakeSdkRespond(u"one"); // the call-back sends twice, and waits for the first one's time-out
+    QVERIFY(fakeSdkWaitForRequests(3));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    USSDLogic::Destroy();
+    QVERIFY(elapsed.elapsed() < kNoPatience / 2);
 }
 
 // ---- the device ----------------------------------------------------------------------------
