@@ -1,27 +1,49 @@
 #include "PluginMessage.h"
 
 #include <QApplication>
-#include <QStringList>
+#include <QDialog>
+#include <QList>
+#include <QPointer>
 
 #include "CommonUtils.h"
 
 namespace
 {
 
-/// Captions of the messages that are open. The host makes the windows, so they are known by these.
-QStringList &openCaptions()
+typedef QList<QPointer<QDialog>> Dialogs;
+
+/// A message that is open. The host makes its window, which is known by the caption, and by not
+/// having been there before.
+struct OpenMessage {
+    QString caption;
+    Dialogs before;
+};
+
+QList<OpenMessage> &openMessages()
 {
-    static QStringList captions;
-    return captions;
+    static QList<OpenMessage> messages;
+    return messages;
 }
 
-void closeMessage(const QString &caption)
+Dialogs modalDialogs()
 {
+    Dialogs dialogs;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (int i = 0; i < windows.count(); ++i) {
         QDialog *dialog = qobject_cast<QDialog *>(windows.at(i));
-        if (dialog && dialog->isVisible() && dialog->isModal() && dialog->windowTitle() == caption)
-            dialog->reject();
+        if (dialog && dialog->isVisible() && dialog->isModal())
+            dialogs.append(dialog);
+    }
+    return dialogs;
+}
+
+void close(const OpenMessage &message)
+{
+    const Dialogs dialogs = modalDialogs();
+    for (int i = 0; i < dialogs.count(); ++i) {
+        if (dialogs.at(i) && !message.before.contains(dialogs.at(i)) &&
+            dialogs.at(i)->windowTitle() == message.caption)
+            dialogs.at(i)->reject();
     }
 }
 
@@ -33,18 +55,19 @@ namespace PluginMessage
 int show(QMessageBox::Icon icon, QWidget *parent, const QString &caption, const QString &text,
          const QString &firstButtonKey, const QString &secondButtonKey)
 {
-    openCaptions().append(caption);
+    const OpenMessage message = {caption, modalDialogs()};
+    openMessages().append(message);
     const int answer =
         CommonUtils::ShowMessage(icon, parent, caption, text, firstButtonKey, secondButtonKey);
-    openCaptions().removeOne(caption);
+    openMessages().removeLast();
     return answer;
 }
 
 void closeAll()
 {
-    const QStringList captions = openCaptions();
-    for (int i = captions.count() - 1; i >= 0; --i)
-        closeMessage(captions.at(i));
+    const QList<OpenMessage> messages = openMessages();
+    for (int i = messages.count() - 1; i >= 0; --i)
+        close(messages.at(i));
 }
 
 } // namespace PluginMessage

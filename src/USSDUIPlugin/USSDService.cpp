@@ -26,6 +26,33 @@ Qt::WindowFlags frameFlags()
     return Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint;
 }
 
+const char *paidTitleKey(PAID_TYPE type)
+{
+    return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
+}
+
+/// Room for the dialog and 20 pixels more in height.
+template <typename Dialog>
+void fixFrameSize(QWidget *frame, Dialog *dialog)
+{
+    const QSize size = dialog->GetSize();
+    frame->setFixedSize(size.width(), size.height() + 20);
+}
+
+template <typename Dialog>
+void setLanguageIfExists(const QPointer<Dialog> &dialog)
+{
+    if (dialog)
+        dialog->SetLanguage();
+}
+
+template <typename Dialog>
+void leaveIfExists(const QPointer<Dialog> &dialog)
+{
+    if (dialog)
+        dialog->OnClickedCloseButton();
+}
+
 template <typename Widget>
 void closeIfExists(const QPointer<Widget> &widget)
 {
@@ -88,11 +115,9 @@ QString CUSSDService::tr(const QString &key)
 int CUSSDService::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
 {
     USSD_LOG_SCOPE();
-    Q_UNUSED(inUse);
-    Q_UNUSED(postpaid);
-    Q_UNUSED(result);
-    Q_UNUSED(ask);
-    return 0;
+    if (!m_pPrepaidDlg && !createUSSDDlgWindow(WINDOW_MODEL_MODAL, PAID_TYPE_PREPAID))
+        return 0;
+    return m_pPrepaidDlg->GetPrePostInfo(inUse, postpaid, result, ask);
 }
 
 bool CUSSDService::IsImsiDynamicMatch()
@@ -123,17 +148,60 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     Q_UNUSED(param1);
     Q_UNUSED(param2);
     if (event == kEventLanguageChanged) {
-        if (m_pGeneralModalDlg)
-            m_pGeneralModalDlg->SetLanguage();
-        if (m_pGeneralEmbeddedDlg)
-            m_pGeneralEmbeddedDlg->SetLanguage();
+        changeLanguage();
     } else if (event == kEventCheckImsi && IsImsiDynamicMatch()) {
+        closeIfExists(m_pPrepaidFrame);
+        closeIfExists(m_pPostpaidFrame);
         closeIfExists(m_pGeneralFrame);
     }
     return 0;
 }
 
+void CUSSDService::changeLanguage()
+{
+    setLanguageIfExists(m_pPrepaidDlg);
+    setLanguageIfExists(m_pPostpaidDlg);
+    setLanguageIfExists(m_pGeneralModalDlg);
+    setLanguageIfExists(m_pGeneralEmbeddedDlg);
+    setLanguageIfExists(m_pUSSDSMSDlg);
+    // Frames that are open follow: their titles, and the room that the new texts need.
+    if (m_pPrepaidFrame && m_pPrepaidDlg) {
+        m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
+        fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
+    }
+    if (m_pPostpaidFrame && m_pPostpaidDlg) {
+        m_pPostpaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_POSTPAID))));
+        fixFrameSize(m_pPostpaidFrame, m_pPostpaidDlg.data());
+    }
+    if (m_pGeneralFrame)
+        m_pGeneralFrame->setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
+    if (m_pUSSDSMSFrame)
+        m_pUSSDSMSFrame->setWindowTitle(tr(QLatin1String("IDS_WINDOW_TITLE_SMSUSSD")));
+}
+
 // ---- making ----------------------------------------------------------------------------------
+
+int CUSSDService::createUSSDDlgWindow(WINDOW_MODEL model, PAID_TYPE type)
+{
+    USSD_LOG_SCOPE();
+    if (type == PAID_TYPE_USSD_SMS) {
+        if (!m_pUSSDSMSDlg) {
+            m_pUSSDSMSDlg = new (std::nothrow) CUSSDSMSDlg;
+            if (m_pUSSDSMSDlg)
+                m_pUSSDSMSDlg->InitDialog();
+        }
+        return m_pUSSDSMSDlg ? 1 : 0;
+    }
+    if (type != PAID_TYPE_PREPAID && type != PAID_TYPE_POSTPAID)
+        return 1;
+    QPointer<USSDDlg> &dialog = type == PAID_TYPE_PREPAID ? m_pPrepaidDlg : m_pPostpaidDlg;
+    if (!dialog) {
+        dialog = new (std::nothrow) USSDDlg;
+        if (dialog)
+            dialog->InitDialog(nullptr, type, model);
+    }
+    return dialog ? 1 : 0;
+}
 
 int CUSSDService::createUSSDGeneralDlgWindow(WINDOW_MODEL model)
 {
@@ -152,21 +220,54 @@ int CUSSDService::createUSSDGeneralDlgWindow(WINDOW_MODEL model)
     return 1;
 }
 
-QPointer<USSDExtendDialog> CUSSDService::createFrame()
+bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
 {
-    USSDExtendDialog *frame = new (std::nothrow)
-        USSDExtendDialog(CommonUtils::GetMainWindow(), Qt::WindowCloseButtonHint, kPlainFrame);
-    if (frame)
-        connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(OnDlgCloseEvent()));
+    if (!frame) {
+        frame = new (std::nothrow)
+            USSDExtendDialog(CommonUtils::GetMainWindow(), Qt::WindowCloseButtonHint, kPlainFrame);
+        if (frame)
+            connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(OnDlgCloseEvent()));
+    }
     return frame;
+}
+
+/// A frame as the prepaid, the postpaid and the USSD-SMS dialog have it.
+int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
+{
+    if (!makeFrame(frame))
+        return 0;
+    setPropForDlgAndLayout(frame);
+    return 1;
+}
+
+void CUSSDService::setPropForDlgAndLayout(USSDExtendDialog *frame)
+{
+    frame->setWindowModality(Qt::WindowModal);
+    frame->setWindowFlags(frameFlags());
+}
+
+int CUSSDService::createOuterDlgForUSSDPrepaid()
+{
+    USSD_LOG_SCOPE();
+    return makeListedFrame(m_pPrepaidFrame);
+}
+
+int CUSSDService::createOuterDlgForUSSDPostpaid()
+{
+    USSD_LOG_SCOPE();
+    return makeListedFrame(m_pPostpaidFrame);
+}
+
+int CUSSDService::createOuterDlgForUSSDSMS()
+{
+    USSD_LOG_SCOPE();
+    return makeListedFrame(m_pUSSDSMSFrame);
 }
 
 int CUSSDService::createOuterDlgForUSSDGeneralDlg()
 {
     USSD_LOG_SCOPE();
-    if (!m_pGeneralFrame)
-        m_pGeneralFrame = createFrame();
-    if (!m_pGeneralFrame)
+    if (!makeFrame(m_pGeneralFrame))
         return 0;
     m_pGeneralFrame->setWindowModality(Qt::WindowModal);
     m_pGeneralFrame->setFixedSize(kGeneralFrameWidth, kGeneralFrameHeight);
@@ -201,7 +302,17 @@ int CUSSDService::doModal(PAID_TYPE type)
 {
     USSD_LOG_SCOPE();
     m_modalPaidType = type;
-    return type == PAID_TYPE_GENERAL ? doGeneralModal() : 0;
+    switch (type) {
+    case PAID_TYPE_GENERAL:
+        return doGeneralModal();
+    case PAID_TYPE_PREPAID:
+    case PAID_TYPE_POSTPAID:
+        return doPaidModal(type);
+    case PAID_TYPE_USSD_SMS:
+        return doUSSDSMSModal();
+    default:
+        return 0;
+    }
 }
 
 int CUSSDService::doGeneralModal()
@@ -216,6 +327,54 @@ int CUSSDService::doGeneralModal()
     m_pGeneralFrame->setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
     m_pGeneralFrame->show();
     return 1;
+}
+
+int CUSSDService::doPaidModal(PAID_TYPE type)
+{
+    const bool prepaid = type == PAID_TYPE_PREPAID;
+    if (!(prepaid ? createOuterDlgForUSSDPrepaid() : createOuterDlgForUSSDPostpaid()) ||
+        !createUSSDDlgWindow(WINDOW_MODEL_MODAL, type))
+        return 0;
+    setPropShowDialog(prepaid ? m_pPrepaidFrame : m_pPostpaidFrame,
+                      prepaid ? m_pPrepaidDlg : m_pPostpaidDlg, type);
+    return 1;
+}
+
+void CUSSDService::setPropShowDialog(USSDExtendDialog *frame, USSDDlg *dialog, PAID_TYPE type)
+{
+    USSD_LOG_SCOPE();
+    if (!frame || !dialog)
+        return;
+    fixFrameSize(frame, dialog);
+    connectAnew(dialog, SIGNAL(clickedcloseButton()), SLOT(OnClickedCloseButton()));
+    connectAnew(dialog, SIGNAL(closeButtonClicked()), SLOT(OnCloseButtonClicked()));
+    CommonUtils::MoveCentre(frame);
+    frame->AddMainWidget(dialog);
+    connectAnew(frame, SIGNAL(rejected()), SLOT(OnCloseButtonClicked()));
+    frame->setWindowTitle(tr(QLatin1String(paidTitleKey(type))));
+    frame->show();
+    dialog->MyDoModal(type);
+}
+
+int CUSSDService::doUSSDSMSModal()
+{
+    if (!createOuterDlgForUSSDSMS() || !createUSSDDlgWindow(WINDOW_MODEL_MODAL, PAID_TYPE_USSD_SMS))
+        return 0;
+    SetUSSDSMSSDlg(m_pUSSDSMSFrame, m_pUSSDSMSDlg);
+    return 1;
+}
+
+void CUSSDService::SetUSSDSMSSDlg(USSDExtendDialog *frame, CUSSDSMSDlg *dialog)
+{
+    USSD_LOG_SCOPE();
+    if (!frame || !dialog)
+        return;
+    fixFrameSize(frame, dialog);
+    connectAnew(dialog, SIGNAL(clickedcloseButton()), SLOT(OnClickedCloseButton()));
+    CommonUtils::MoveCentre(frame);
+    frame->AddMainWidget(dialog);
+    frame->setWindowTitle(tr(QLatin1String("IDS_WINDOW_TITLE_SMSUSSD")));
+    frame->show();
 }
 
 int CUSSDService::ShowPrePostPaidWindow(QWidget *parent, QRect &rect, PAID_TYPE type)
@@ -259,23 +418,43 @@ void CUSSDService::FitSize(QRect &rect)
 void CUSSDService::OnClickedCloseButton()
 {
     USSD_LOG_SCOPE();
+    dropFramed(m_pPrepaidDlg, m_pPrepaidFrame);
+    dropFramed(m_pPostpaidDlg, m_pPostpaidFrame);
     dropFramed(m_pGeneralModalDlg, m_pGeneralFrame);
+    dropFramed(m_pUSSDSMSDlg, m_pUSSDSMSFrame);
 }
 
 void CUSSDService::OnDlgCloseEvent()
 {
     USSD_LOG_SCOPE();
-    if (m_modalPaidType == PAID_TYPE_GENERAL) {
-        if (m_pGeneralModalDlg)
-            m_pGeneralModalDlg->OnClickedCloseButton();
-        m_modalPaidType = PAID_TYPE_NONE;
+    switch (m_modalPaidType) {
+    case PAID_TYPE_PREPAID:
+        leaveIfExists(m_pPrepaidDlg);
+        break;
+    case PAID_TYPE_POSTPAID:
+        leaveIfExists(m_pPostpaidDlg);
+        break;
+    case PAID_TYPE_GENERAL:
+        leaveIfExists(m_pGeneralModalDlg);
+        break;
+    case PAID_TYPE_USSD_SMS:
+        leaveIfExists(m_pUSSDSMSDlg);
+        m_modalPaidType = PAID_TYPE_USSD_SMS; // not reset, other than the rest
+        return;
+    default:
+        return;
     }
+    m_modalPaidType = PAID_TYPE_NONE;
 }
 
 void CUSSDService::OnCloseButtonClicked()
 {
     USSD_LOG_SCOPE();
-    if (m_modalPaidType == PAID_TYPE_GENERAL)
+    if (m_modalPaidType == PAID_TYPE_PREPAID)
+        closeIfExists(m_pPrepaidFrame);
+    else if (m_modalPaidType == PAID_TYPE_POSTPAID)
+        closeIfExists(m_pPostpaidFrame);
+    else if (m_modalPaidType == PAID_TYPE_GENERAL)
         closeIfExists(m_pGeneralFrame);
 }
 
@@ -283,8 +462,14 @@ void CUSSDService::destroyUSSD()
 {
     USSD_LOG_SCOPE();
     PluginMessage::closeAll();
+    delete m_pPrepaidDlg;
+    delete m_pPostpaidDlg;
+    delete m_pUSSDSMSDlg;
     delete m_pGeneralModalDlg;
     delete m_pGeneralEmbeddedDlg;
+    delete m_pPrepaidFrame;
+    delete m_pPostpaidFrame;
     delete m_pGeneralFrame;
+    delete m_pUSSDSMSFrame;
     USSDLogic::Destroy();
 }

@@ -6,8 +6,10 @@
 
 #include "IUSSD.h"
 #include "USSDCommand.h"
+#include "USSDDlg.h"
 #include "USSDExtendDialog.h"
 #include "USSDGeneralDlg.h"
+#include "USSDSMSDlg.h"
 
 /**
  * The service that the host gets: makes each window on first need, shows it embedded in a host's
@@ -56,17 +58,34 @@ public slots:
 private:
     CUSSDService();
 
+    int createUSSDDlgWindow(WINDOW_MODEL model, PAID_TYPE type);
     int createUSSDGeneralDlgWindow(WINDOW_MODEL model);
+    int createOuterDlgForUSSDPrepaid();
+    int createOuterDlgForUSSDPostpaid();
+    int createOuterDlgForUSSDSMS();
     int createOuterDlgForUSSDGeneralDlg();
-    QPointer<USSDExtendDialog> createFrame();
+    bool makeFrame(QPointer<USSDExtendDialog> &frame);
+    int makeListedFrame(QPointer<USSDExtendDialog> &frame);
+    void setPropForDlgAndLayout(USSDExtendDialog *frame);
     int doGeneralModal();
+    int doPaidModal(PAID_TYPE type);
+    int doUSSDSMSModal();
+    void setPropShowDialog(USSDExtendDialog *frame, USSDDlg *dialog, PAID_TYPE type);
+    void SetUSSDSMSSDlg(USSDExtendDialog *frame, CUSSDSMSDlg *dialog);
+    void changeLanguage();
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 
-    PAID_TYPE m_modalPaidType;
-    PAID_TYPE m_shownPaidType;
+    PAID_TYPE m_modalPaidType; // what the last doModal() opened
+    PAID_TYPE m_shownPaidType; // what the last showWindow() or DoModal() showed
+    QPointer<USSDDlg> m_pPrepaidDlg;
+    QPointer<USSDDlg> m_pPostpaidDlg;
     QPointer<USSDGeneralDlg> m_pGeneralModalDlg;
     QPointer<USSDGeneralDlg> m_pGeneralEmbeddedDlg;
+    QPointer<USSDExtendDialog> m_pPrepaidFrame;
+    QPointer<USSDExtendDialog> m_pPostpaidFrame;
     QPointer<USSDExtendDialog> m_pGeneralFrame;
+    QPointer<USSDExtendDialog> m_pUSSDSMSFrame;
+    QPointer<CUSSDSMSDlg> m_pUSSDSMSDlg;
 
     static CUSSDService *m_pInstance;
 };

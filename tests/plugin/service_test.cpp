@@ -64,6 +64,18 @@ private slots:
     void imsiEventLeavesTheFrameWithoutMatching();
     void unknownEventDoesNothing();
 
+    void paidWindowFitsItsDialog_data();
+    void paidWindowFitsItsDialog();
+    void openingThePrepaidWindowAsksForBalanceAndNumber();
+    void prepaidWindowShownThriceAsksOnceEachTime();
+    void closingThePaidWindowEndsFrameAndDialog_data();
+    void closingThePaidWindowEndsFrameAndDialog();
+    void closeButtonEndsEveryFramedWindow();
+    void ussdSmsWindowFitsItsDialog();
+    void closeRequestAfterTheUssdSmsWindowDoesNothing();
+    void imsiEventLeavesTheUssdSmsWindow();
+    void languageEventReachesEveryDialog();
+    void detectionWorksWithoutAWindow();
     void imsiQuestionsReachTheLogic();
     void destroyWithOpenMessageBoxEnds();
     void destroyWithWindowsOpenAndCommandInFlight();
@@ -72,6 +84,8 @@ private slots:
 void ServiceTest::setUp()
 {
     PluginTest::setUp();
+    const ReplyTimes times = {60000, 1}; // a window opened again does not wait for the last one
+    USSDLogic::setReplyTimes(times);
     writeSystemProfiles(profileFile(profileItem("Balance", "*100#")));
     m_mainWindow.reset(new QWidget);
     m_mainWindow->resize(700, 600);
@@ -391,6 +405,146 @@ void ServiceTest::imsiQuestionsReachTheLogic()
     int flags = -1;
     QVERIFY(service()->CheckImsiIsValid(QStringLiteral("001012345678901"), flags));
     QCOMPARE(flags, 8);
+}
+
+// ---- the other windows -----------------------------------------------------------------------
+
+void ServiceTest::paidWindowFitsItsDialog_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("prepaid") << 0 << QStringLiteral("IDS_WINDOW_TETLE_PREPAID");
+    QTest::newRow("postpaid") << 1 << QStringLiteral("IDS_WINDOW_TETLE_POSTPAID");
+}
+
+void ServiceTest::paidWindowFitsItsDialog()
+{
+    QFETCH(int, type);
+    QFETCH(QString, title);
+    QCOMPARE(service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)), 1);
+    USSDDlg *dialog = frame()->findChild<USSDDlg *>();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(frame()->size(), dialog->GetSize() + QSize(0, 20));
+    QCOMPARE(frame()->windowTitle(), CUSSDService::tr(title));
+    QCOMPARE(frame()->windowModality(), Qt::WindowModal);
+    QCOMPARE(int(frame()->windowFlags() & ~Qt::WindowSystemMenuHint), 0x0A001001);
+}
+
+void ServiceTest::openingThePrepaidWindowAsksForBalanceAndNumber()
+{
+    fakeSdkSetAnswer(fakeReply(u"ok"));
+    service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
+    QVERIFY(fakeSdkWaitForRequests(2));
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*100#", u"*102#"}));
+}
+
+void ServiceTest::prepaidWindowShownThriceAsksOnceEachTime()
+{
+    for (size_t i = 1; i <= 3; ++i) {
+        service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
+        QCOMPARE(fakeSdkCommands().size(), i); // the number waits for the balance
+    }
+}
+
+void ServiceTest::closingThePaidWindowEndsFrameAndDialog_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("prepaid") << 0;
+    QTest::newRow("postpaid") << 1;
+    QTest::newRow("USSD-SMS") << 5;
+}
+
+void ServiceTest::closingThePaidWindowEndsFrameAndDialog()
+{
+    QFETCH(int, type);
+    for (int i = 0; i < 2; ++i) {
+        service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+        QPointer<USSDExtendDialog> closed(frame());
+        closed->close();
+        drainEvents();
+        QVERIFY(!closed);
+        QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+    }
+}
+
+void ServiceTest::closeButtonEndsEveryFramedWindow()
+{
+    service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
+    service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
+    service()->DoPrePostPaidModal(PAID_TYPE_POSTPAID);
+    QCOMPARE(m_mainWindow->findChildren<USSDExtendDialog *>().count(), 3);
+    for (USSDDlg *dialog : m_mainWindow->findChildren<USSDDlg *>()) {
+        if (dialog->window()->windowTitle() ==
+            CUSSDService::tr(QStringLiteral("IDS_WINDOW_TETLE_POSTPAID")))
+            dialog->window()->close();
+    }
+    drainEvents();
+    QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+}
+
+void ServiceTest::ussdSmsWindowFitsItsDialog()
+{
+    QCOMPARE(service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS), 1);
+    CUSSDSMSDlg *dialog = frame()->findChild<CUSSDSMSDlg *>();
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(frame()->size(), dialog->GetSize() + QSize(0, 20));
+    QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD")));
+}
+
+/// The remembered type stays that of the USSD-SMS window, which is none of those closed then.
+void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
+{
+    service()->DoModal();
+    QPointer<USSDExtendDialog> general(frame());
+    service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
+    QVERIFY(general->isVisible());
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent")); // the window is closed
+    drainEvents();
+    QVERIFY(!general);
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
+}
+
+void ServiceTest::imsiEventLeavesTheUssdSmsWindow()
+{
+    service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
+    service()->Notify(579, 0, 0);
+    drainEvents();
+    QVERIFY(frame() && frame()->isVisible());
+}
+
+void ServiceTest::languageEventReachesEveryDialog()
+{
+    service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
+    service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
+    Languages::setCurrent(QStringLiteral("de"));
+    service()->Notify(320, 0, 0);
+    QStringList titles;
+    for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
+        titles << one->windowTitle();
+    titles.sort();
+    QStringList german;
+    german << CUSSDService::tr(QStringLiteral("IDS_WINDOW_TETLE_PREPAID"))
+           << CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD"));
+    german.sort();
+    QCOMPARE(titles, german);
+    USSDDlg *dialog = m_mainWindow->findChild<USSDDlg *>();
+    QCOMPARE(dialog->window()->size(), dialog->GetSize() + QSize(0, 20));
+    QCOMPARE(dialog->findChild<QPushButton *>(QStringLiteral("USSDUIPlugin_CloseButton"))->text(),
+             CUSSDService::tr(QStringLiteral("IDS_BUTTON_CLOSE")));
+}
+
+void ServiceTest::detectionWorksWithoutAWindow()
+{
+    bool inUse = false;
+    bool postpaid = true;
+    int result = -1;
+    QCOMPARE(service()->GetPrePostInfo(inUse, postpaid, result, true), 1);
+    QCOMPARE(inUse, true);
+    QCOMPARE(postpaid, false);
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*103#"}));
+    QVERIFY(!frame());
 }
 
 // ---- taking down -----------------------------------------------------------------------------
