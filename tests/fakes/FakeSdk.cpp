@@ -111,6 +111,14 @@ std::vector<FakeDelivery> FakeSdk::deliveries() const
     return m_deliveries;
 }
 
+void FakeSdk::forgetRecords()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_calls.clear();
+    m_deliveries.clear();
+    m_unblocked = 0;
+}
+
 void FakeSdk::report(FakeService service, int event, unsigned char result)
 {
     FakeDelivery delivery;

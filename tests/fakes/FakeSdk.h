@@ -21,6 +21,7 @@ public:
     long leave(std::size_t ticket, long result, int status = 0);
     std::vector<FakeCall> calls() const;
     std::vector<FakeDelivery> deliveries() const;
+    void forgetRecords();
     template <typename Predicate>
     bool waitUntil(std::chrono::milliseconds limit, Predicate predicate);
 

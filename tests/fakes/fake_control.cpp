@@ -61,6 +61,11 @@ Calls fakeSdkCalls(const std::string &function)
     return select(sdk().calls(), function);
 }
 
+void fakeSdkForgetRecords()
+{
+    sdk().forgetRecords();
+}
+
 std::vector<std::u16string> fakeSdkCommands()
 {
     std::vector<std::u16string> commands;

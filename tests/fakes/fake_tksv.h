@@ -57,6 +57,10 @@ FAKE_API std::vector<FakeCall> fakeSdkCalls(const std::string &function);
 /// The texts of all requests, refused ones included.
 FAKE_API std::vector<std::u16string> fakeSdkCommands();
 
+/// Forgets the calls and deliveries so far, so that a long test stays small. Call it while nothing
+/// is under way.
+FAKE_API void fakeSdkForgetRecords();
+
 /// True as soon as `function` has been called `count` times.
 FAKE_API bool fakeSdkWaitForCalls(const std::string &function, std::size_t count,
                                   std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);

@@ -62,6 +62,7 @@ private slots:
 void EntryTest::setUp()
 {
     fakeSdkReset();
+    qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
     fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
     m_library.setFileName(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
     QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
@@ -185,6 +186,7 @@ void EntryTest::changeLangRefusesAnEmptyLanguage()
 {
     QCOMPARE(callChangeLang(plugin(), QString()), false);
     QCOMPARE(callChangeLang(plugin(), QStringLiteral("en")), true);
+    QVERIFY(fakeSdkCalls().empty()); // and nothing else happened
 }
 
 void EntryTest::languageEventBeforeAnyWindowDoesNothing()
@@ -205,6 +207,11 @@ void EntryTest::servicesSlotsAreInOrder()
     QVERIFY(page.findChildren<QWidget *>().isEmpty());
     QCOMPARE(callShowPrePostPaidWindow(ussd(), &page, rect, 3), 0);
     QVERIFY(!page.findChildren<QWidget *>().isEmpty());
+    bool inUse = false, postpaid = true;
+    int result = -1;
+    QCOMPARE(callGetPrePostInfo(ussd(), inUse, postpaid, result, true), 1);
+    QCOMPARE(inUse, true);
+    QCOMPARE(postpaid, false);
     QCOMPARE(callDoPrePostPaidModal(ussd(), 4), 0);
     QCOMPARE(callDoPrePostPaidModal(ussd(), 3), 1);
 }

@@ -1,0 +1,54 @@
+#include "PipelineModel.h"
+
+namespace
+{
+
+const int kMaxUnits = 91;
+
+} // namespace
+
+int PipelineModel::send(int component, const QString &command)
+{
+    m_list << qMakePair(component, command);
+    return m_list.count() == 1 ? handOverHead() : 0;
+}
+
+/// A failure removes the head in silence, and what stands behind it waits.
+int PipelineModel::handOverHead()
+{
+    const QString command = m_list.first().second;
+    if (command.length() > kMaxUnits) {
+        m_list.removeFirst();
+        return 1;
+    }
+    handed << command;
+    if (deviceAccepts())
+        return 0;
+    m_list.removeFirst();
+    return 1;
+}
+
+void PipelineModel::announce(const QString &text)
+{
+    if (m_list.isEmpty())
+        return;
+    answers << Answer(m_list.takeFirst().first, text);
+    if (!m_list.isEmpty())
+        handOverHead();
+}
+
+void PipelineModel::deviceFailed(const QString &text)
+{
+    if (m_list.isEmpty())
+        return;
+    answers << Answer(m_list.first().first, text);
+    m_list.clear();
+}
+
+void PipelineModel::clear(const std::function<bool(int)> &keep)
+{
+    for (int i = m_list.count() - 1; i >= 0; --i) {
+        if (!keep(m_list.at(i).first))
+            m_list.removeAt(i);
+    }
+}

@@ -1,0 +1,17 @@
+#!/bin/sh
+# check_exports.sh PLUGIN: it exports the entry points of both loaders, and nothing else.
+set -eu
+expected="qt_plugin_instance
+qt_plugin_query_metadata
+qt_plugin_query_verification_data"
+actual=$(nm -D --defined-only "$1" | awk '{ print $3 }' | sort)
+if [ "$actual" != "$expected" ]; then
+    printf 'exported:\n%s\nexpected:\n%s\n' "$actual" "$expected" >&2
+    exit 1
+fi
+# It links to Qt, the core library and the device SDK; the rest is the compiler's and libc's.
+if readelf -d "$1" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' |
+    grep -vE '^(libQt5(Core|Gui|Widgets)\.so|libhostcore\.so|libtksv\.so|libstdc\+\+|libgcc_s|libm\.|libc\.|ld-linux|lib(a|ub|t)san)'; then
+    echo "the plug-in links to what stands above" >&2
+    exit 1
+fi
