@@ -9,11 +9,12 @@
 #include <QPushButton>
 #include <QRegExpValidator>
 
-#include "CommonUtils.h"
 #include "ExtendLineEdit.h"
 #include "OnlineLink.h"
 #include "PluginLog.h"
+#include "PluginMessage.h"
 #include "PluginText.h"
+#include "QtCompat.h"
 #include "StatusBox.h"
 #include "tksv.h"
 
@@ -22,7 +23,7 @@ static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
-const int kResultQueued = 12;      // as good as 0: an answer is awaited
+const int kResultQueued = 12;      // as good as 0
 const int kReturnInMessageBox = 1; // of the charge's return styles
 const int kLinkWidth = 300;        // pixels
 const int kBalanceLines = 3;
@@ -454,12 +455,17 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
     }
     int status = 0;
     const int result = m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), &status);
-    if (result == 0 || result == kResultQueued)
+    if (isAnswerAwaited(result))
         awaitAnswer(component, result == 0);
     else
         OnResponseReceived(
             component,
             text(status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : "USSD_CODE_FAILED"));
+}
+
+bool USSDDlg::isAnswerAwaited(int result)
+{
+    return result == 0 || result == kResultQueued;
 }
 
 /// A top-up whose answer comes in a message box waits without saying so. It makes the dialog busy
@@ -506,9 +512,8 @@ void USSDDlg::onChargeResponseReceived(const QString &text)
     USSD_LOG_SCOPE();
     if (chargeReturnStyle() == kReturnInMessageBox) {
         const QPointer<USSDDlg> self(this); // the host may shut down while the box is open
-        CommonUtils::ShowMessage(QMessageBox::Information, this,
-                                 tr(QLatin1String("IDS_PROMPT_CAPTION")), text,
-                                 QLatin1String("IDS_BUTTON_OK"));
+        PluginMessage::show(QMessageBox::Information, this, tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                            text, QLatin1String("IDS_BUTTON_OK"));
         if (!self)
             return;
     } else if (m_pActivateStatusTextEdit) {

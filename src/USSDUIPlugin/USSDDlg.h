@@ -111,6 +111,7 @@ private:
 
     void resetCharge();
     void sendUSSDCommand(_COMPONENT component, int attr);
+    static bool isAnswerAwaited(int result);
     void awaitAnswer(_COMPONENT component, bool isSent);
     void routeResponse(int component, const QString &text, bool isWaiting);
     void onChargeResponseReceived(const QString &text);

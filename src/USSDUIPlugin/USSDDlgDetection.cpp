@@ -15,7 +15,6 @@ namespace
 {
 
 const unsigned int kNotifyPrePostInfo = 384;
-const int kResultQueued = 12; // as good as 0: an answer is awaited
 
 const char kNotificationPlugin[] = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
 const char *const kAddressees[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
@@ -55,7 +54,7 @@ void USSDDlg::startDetection()
     int status = 0;
     const int result = m_pLogic->SendUSSDCommand(
         USSDCmdOrResp(COMPONENT_PREPOST_QUERY, m_prePostDiffer.command), &status);
-    m_prePostRecord.result = result == 0 || result == kResultQueued ? 1 : 0;
+    m_prePostRecord.result = isAnswerAwaited(result) ? 1 : 0;
 }
 
 void USSDDlg::onPrePostPaidRspReceived(const QString &text)

@@ -84,6 +84,7 @@ private slots:
     void replyWithADigitMeansPrepaid();
     void replyWithoutDigitsMeansPostpaid();
     void emptyReplyMeansPostpaid();
+    void emptyReplyIsNoFailureText();
     void otherPatternHasToBeTheReply_data();
     void otherPatternHasToBeTheReply();
     void timeOutIsToldWithoutAVerdict();
@@ -103,6 +104,7 @@ private slots:
     void pluginOfAnotherKindIsLogged();
     void withoutLogicItIsLogged();
     void hostThatDestroysTheWindowIsToldTwiceAllTheSame();
+    void hostThatAsksAnewHearsOneVerdictTwice();
     void hostThatUnloadsThePluginIsNotToldAgain();
 };
 
@@ -159,6 +161,14 @@ void PrepaidDetectionTest::replyWithoutDigitsMeansPostpaid()
 
 void PrepaidDetectionTest::emptyReplyMeansPostpaid()
 {
+    ask();
+    networkSays(QString());
+    QVERIFY(told().bPostPaid);
+}
+
+void PrepaidDetectionTest::emptyReplyIsNoFailureText()
+{
+    configure(Account(), Account(), text("USSD_CODE_FAILED").toUtf8());
     ask();
     networkSays(QString());
     QVERIFY(told().bPostPaid);
@@ -333,6 +343,16 @@ void PrepaidDetectionTest::hostThatDestroysTheWindowIsToldTwiceAllTheSame()
     QVERIFY(!dialog());
     QCOMPARE(m_notifications->calls.count(), 2);
     QVERIFY(told().bInUse);
+}
+
+void PrepaidDetectionTest::hostThatAsksAnewHearsOneVerdictTwice()
+{
+    m_notifications->onCall = [this] { ask(); };
+    ask();
+    networkSays(QStringLiteral("Contract account"));
+    QCOMPARE(m_notifications->calls.count(), 2);
+    QVERIFY(m_notifications->calls.first().record.bPostPaid);
+    QVERIFY(m_notifications->calls.last().record.bPostPaid);
 }
 
 void PrepaidDetectionTest::hostThatUnloadsThePluginIsNotToldAgain()

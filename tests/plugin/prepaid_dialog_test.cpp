@@ -195,6 +195,7 @@ void PrepaidDialogTest::noMoreThanLengthCanBeTyped()
     open();
     type(pin());
     QCOMPARE(chargeEdit()->text(), pin().left(8));
+    QCOMPARE(chargeEdit()->maxLength(), 8); // of which a pasted one keeps the beginning
 }
 
 void PrepaidDialogTest::onlyTheLimitTextCanBeTyped()
@@ -570,6 +571,8 @@ void PrepaidDialogTest::longAnswerScrollsAndDoesNotGrowTheWindow()
     QCOMPARE(balanceBox()->geometry(), place);
     QVERIFY(balanceBox()->verticalScrollBar()->maximum() > 0);
     QCOMPARE(balanceBox()->horizontalScrollBar()->maximum(), 0);
+    for (const QTextEdit *box : {balanceBox(), activateBox(), msisdnBox()})
+        QCOMPARE(box->minimumHeight(), box->maximumHeight());
 }
 
 void PrepaidDialogTest::timeOutIsShown()
