@@ -644,5 +644,48 @@
 رمز الإنهاء 0 عند النجاح، و1 عند الفشل، و2 إذا كانت الوسائط أو ملف السيناريو
 غير صحيحة.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>مسبق الدفع</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>آجل الدفع</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>مسبق الدفع أم آجل؟ جارٍ السؤال…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>نوع العقد</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>لا توجد نافذة USSD لبطاقة SIM هذه.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>رموز USSD الخاصة بك</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>اختفى الملف الذي يحوي رموز USSD الخاصة بك:
+%1
+
+توجد نسخة منه بتاريخ %2. هل تريد استعادتها؟ الجواب «لا» يحذف النسخة.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>نعم، استعادتها</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>لا، حذف النسخة</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>لا يمكن كتابة %1. تبقى النسخة في مكانها: %2</translation>
+    </message>
 </context>
 </TS>

@@ -644,5 +644,48 @@ Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
 Das Ende ist 0, wenn alles gelang, 1, wenn etwas misslang, und 2, wenn die
 Argumente oder die Szenariodatei falsch sind.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Prepaid</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Vertrag</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>Prepaid oder Vertrag? Frage läuft…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Vertragsart</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>Zu dieser SIM-Karte gehört kein USSD-Fenster.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Ihre eigenen USSD-Codes</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>Die Datei mit Ihren eigenen USSD-Codes ist verschwunden:
+%1
+
+Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Nein löscht die Kopie.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Ja, zurückholen</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;Nein, Kopie löschen</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>%1 lässt sich nicht schreiben. Die Kopie bleibt, wo sie ist: %2</translation>
+    </message>
 </context>
 </TS>

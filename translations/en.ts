@@ -644,5 +644,48 @@ Shows the windows of the USSD plug-in and the state of the device.
 It ends with 0 when all went well, 1 when something failed, and 2 when the
 arguments or the scenario file are wrong.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Prepaid</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Postpaid</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>Prepaid or postpaid? Asking…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Kind of contract</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>No USSD window goes with this SIM card.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Your own USSD codes</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>The file with your own USSD codes has gone:
+%1
+
+There is a copy of it, made on %2. Do you want it back? No deletes the copy.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Yes, restore it</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;No, delete the copy</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>%1 cannot be written. The copy stays where it is: %2</translation>
+    </message>
 </context>
 </TS>

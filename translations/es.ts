@@ -645,5 +645,48 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
 Termina con 0 si todo salió bien, con 1 si algo falló y con 2 si los argumentos
 o el archivo de escenario son incorrectos.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Prepago</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Pospago</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>¿Prepago o pospago? Preguntando…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Tipo de contrato</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>Ninguna ventana USSD corresponde a esta tarjeta SIM.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Sus propios códigos USSD</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>El archivo con sus propios códigos USSD ha desaparecido:
+%1
+
+Hay una copia del %2. ¿Quiere recuperarla? No borra la copia.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Sí, recuperarla</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;No, borrar la copia</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>No se puede escribir %1. La copia se queda donde está: %2</translation>
+    </message>
 </context>
 </TS>

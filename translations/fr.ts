@@ -644,5 +644,48 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
 Le résultat est 0 quand tout a réussi, 1 en cas d’échec et 2 quand les
 arguments ou le fichier de scénario sont incorrects.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Prépayé</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Postpayé</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>Prépayé ou postpayé ? Demande en cours…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Type de contrat</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>Aucune fenêtre USSD ne va avec cette carte SIM.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Vos propres codes USSD</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>Le fichier de vos propres codes USSD a disparu :
+%1
+
+Il en existe une copie du %2. Voulez-vous la récupérer ? Non supprime la copie.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Oui, la récupérer</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;Non, supprimer la copie</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>%1 ne peut pas être écrit. La copie reste où elle est : %2</translation>
+    </message>
 </context>
 </TS>

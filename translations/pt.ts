@@ -645,5 +645,48 @@ Mostra as janelas do suplemento USSD e o estado do dispositivo.
 Termina com 0 quando tudo correu bem, com 1 quando algo falhou e com 2 quando
 os argumentos ou o ficheiro de cenário estão errados.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Pré-pago</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Pós-pago</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>Pré-pago ou pós-pago? A perguntar…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Tipo de contrato</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>Nenhuma janela USSD corresponde a este cartão SIM.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Os seus próprios códigos USSD</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>O ficheiro com os seus próprios códigos USSD desapareceu:
+%1
+
+Há uma cópia de %2. Quer recuperá-la? Não apaga a cópia.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Sim, recuperar</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;Não, apagar a cópia</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>Não é possível escrever %1. A cópia fica onde está: %2</translation>
+    </message>
 </context>
 </TS>

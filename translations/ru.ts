@@ -644,5 +644,48 @@
 Код завершения: 0 — всё удалось, 1 — что-то не удалось, 2 — неверны аргументы
 или файл сценария.</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>Предоплата</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>Постоплата</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>Предоплата или постоплата? Запрос…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>Вид договора</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>Для этой SIM-карты нет окон USSD.</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>Ваши собственные коды USSD</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>Файл с вашими собственными кодами USSD исчез:
+%1
+
+Есть его копия от %2. Вернуть её? Ответ «Нет» удалит копию.</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>&amp;Да, вернуть</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>&amp;Нет, удалить копию</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>Не удаётся записать %1. Копия остаётся на месте: %2</translation>
+    </message>
 </context>
 </TS>

@@ -642,5 +642,48 @@
 
 全部成功时返回 0，有失败时返回 1，参数或场景文件有误时返回 2。</translation>
     </message>
+    <message>
+        <source>PAID_PREPAID</source>
+        <translation>预付费</translation>
+    </message>
+    <message>
+        <source>PAID_POSTPAID</source>
+        <translation>后付费</translation>
+    </message>
+    <message>
+        <source>PAID_ASKING</source>
+        <translation>预付费还是后付费？正在查询…</translation>
+    </message>
+    <message>
+        <source>NAME_PAID_TYPE</source>
+        <translation>合约类型</translation>
+    </message>
+    <message>
+        <source>WINDOWS_NONE</source>
+        <translation>没有适用于此 SIM 卡的 USSD 窗口。</translation>
+    </message>
+    <message>
+        <source>RESTORE_CAPTION</source>
+        <translation>您自己的 USSD 代码</translation>
+    </message>
+    <message>
+        <source>RESTORE_OFFER</source>
+        <translation>保存您自己的 USSD 代码的文件不见了：
+%1
+
+它有一份 %2 的副本。要恢复吗？选择“否”将删除副本。</translation>
+    </message>
+    <message>
+        <source>RESTORE_YES</source>
+        <translation>是，恢复(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>RESTORE_NO</source>
+        <translation>否，删除副本(&amp;N)</translation>
+    </message>
+    <message>
+        <source>RESTORE_FAILED</source>
+        <translation>无法写入 %1。副本仍保留在：%2</translation>
+    </message>
 </context>
 </TS>

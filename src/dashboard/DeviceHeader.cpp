@@ -45,13 +45,14 @@ void setElided(QLabel *label, const QString &text)
 
 DeviceHeader::DeviceHeader(QWidget *parent)
     : QFrame(parent), m_operator(makeLabel("Dashboard_Operator", this)),
-      m_bars(new SignalBars(this)), m_signal(makeLabel("Dashboard_Signal", this)),
-      m_sim(makeLabel("Dashboard_Sim", this))
+      m_paidType(makeLabel("Dashboard_PaidType", this)), m_bars(new SignalBars(this)),
+      m_signal(makeLabel("Dashboard_Signal", this)), m_sim(makeLabel("Dashboard_Sim", this))
 {
     setFrameShape(QFrame::StyledPanel);
     emphasise(m_operator);
     QHBoxLayout *row = new QHBoxLayout(this);
     row->addWidget(m_operator);
+    row->addWidget(m_paidType);
     row->addSpacing(WIDE_GAP);
     row->addWidget(m_bars);
     row->addWidget(m_signal);
@@ -69,4 +70,11 @@ void DeviceHeader::showStatus(const DeviceStatus &status)
     m_signal->setAccessibleName(dashboardText("NAME_SIGNAL"));
     m_sim->setText(status.simText());
     m_sim->setAccessibleName(dashboardText("NAME_SIM"));
+}
+
+void DeviceHeader::showPaidType(const QString &text)
+{
+    m_paidType->setText(text);
+    m_paidType->setVisible(!text.isEmpty());
+    m_paidType->setAccessibleName(dashboardText("NAME_PAID_TYPE"));
 }

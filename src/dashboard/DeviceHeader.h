@@ -17,9 +17,12 @@ public:
 
     /// Also after a change of the language.
     void showStatus(const DeviceStatus &status);
+    /// What kind of SIM it is, next to the operator; empty shows nothing.
+    void showPaidType(const QString &text);
 
 private:
     QLabel *m_operator;
+    QLabel *m_paidType;
     SignalBars *m_bars;
     QLabel *m_signal;
     QLabel *m_sim;

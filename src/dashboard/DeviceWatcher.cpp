@@ -1,15 +1,29 @@
 #include "DeviceWatcher.h"
 
+#include <atomic>
+
 #include "tksv_device.h"
+
+namespace
+{
+
+std::atomic<DeviceWatcher *> watching(nullptr); // device events carry no context
+
+} // namespace
 
 DeviceWatcher::DeviceWatcher(QObject *parent) : QObject(parent), m_status(readDeviceStatus())
 {
+    watching = this;
+    TKSV_DevSrv_RegisterDevInitEventCallback(onDeviceEvent);
     TKSV_Device_SetInfoCallback(onInfoChanged, this);
 }
 
 DeviceWatcher::~DeviceWatcher()
 {
-    TKSV_Device_SetInfoCallback(nullptr, nullptr); // waits for a call-back that runs
+    // Both wait for a call-back that runs.
+    TKSV_Device_SetInfoCallback(nullptr, nullptr);
+    TKSV_DevSrv_UnRegisterDevInitEventCallback(onDeviceEvent);
+    watching = nullptr;
 }
 
 void DeviceWatcher::refresh()
@@ -25,4 +39,12 @@ void DeviceWatcher::onInfoChanged(void *watcher)
 {
     QMetaObject::invokeMethod(static_cast<DeviceWatcher *>(watcher), "refresh",
                               Qt::QueuedConnection);
+}
+
+unsigned char DeviceWatcher::onDeviceEvent(int event, void *)
+{
+    DeviceWatcher *watcher = watching;
+    if (watcher && (event == TKSV_DEV_EVENT_GONE || event == TKSV_DEV_EVENT_RESET))
+        QMetaObject::invokeMethod(watcher, "lost", Qt::QueuedConnection);
+    return 0;
 }

@@ -22,9 +22,13 @@ public slots:
 
 signals:
     void changed();
+    /// The device went away or was reset; commands on their way ended with it.
+    void lost();
 
 private:
-    static void onInfoChanged(void *watcher); // on a thread of the SDK
+    // Both on a thread of the SDK.
+    static void onInfoChanged(void *watcher);
+    static unsigned char onDeviceEvent(int event, void *data);
 
     DeviceStatus m_status;
 };

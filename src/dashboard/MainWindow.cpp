@@ -24,6 +24,7 @@
 #include "NetworkMenu.h"
 #include "PageArea.h"
 #include "Scenarios.h"
+#include "SimWindows.h"
 #include "UiPlugin.h"
 #include "WindowButtons.h"
 
@@ -31,11 +32,19 @@ namespace
 {
 
 const QSize FIRST_SIZE(900, 700); // pixels
+const int LONGEST_DELAY = 5000;   // ms that the user may wait for a frame
+
+/// Such a window ends what is open on the device when it appears.
+bool endsSession(int paidType)
+{
+    return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
+}
 
 } // namespace
 
 MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
-    : m_plugin(plugin), m_settings(settings), m_fileMenu(new QMenu(this)), m_quit(nullptr),
+    : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
+      m_awaitedFrame(PAID_TYPE_NONE), m_fileMenu(new QMenu(this)), m_quit(nullptr),
       m_languageMenu(new LanguageMenu(this)), m_networkMenu(new NetworkMenu(this)),
       m_header(new DeviceHeader(this)), m_buttons(new WindowButtons(this)),
       m_page(new PageArea(plugin, this)), m_source(new QLabel(this))
@@ -47,12 +56,24 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     m_source->setObjectName(QLatin1String("Dashboard_Source"));
     m_source->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_source, 1);
-    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
+    followSim();
     retranslate();
     restorePlace();
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::followSim()
+{
+    m_frameDelay.setParent(this);
+    m_frameDelay.setObjectName(QLatin1String("Dashboard_FrameDelay"));
+    m_frameDelay.setSingleShot(true);
+    connect(&m_frameDelay, SIGNAL(timeout()), this, SLOT(openAwaitedFrame()));
+    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
+    connect(&m_sim, SIGNAL(windowsOffered(int)), this, SLOT(offerWindows(int)));
+    connect(&m_sim, SIGNAL(paidTypeChanged()), this, SLOT(showPaidType()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
+}
 
 void MainWindow::makeMenus()
 {
@@ -97,10 +118,21 @@ PluginFailure MainWindow::loadPlugin()
     PluginFailure failure = m_plugin->load(UiPlugin::installedFile());
     m_buttons->setEnabled(m_plugin->isUsable());
     if (m_plugin->isUsable())
-        showPage(true);
+        m_sim.start();
     else
         m_page->showText(failure.text());
     return failure;
+}
+
+void MainWindow::offerWindows(int windows)
+{
+    const int changed = m_windows ^ windows;
+    m_windows = windows;
+    m_awaitedFrame = PAID_TYPE_NONE;
+    m_buttons->offer(windows);
+    if (changed & SIM_WINDOW_GENERAL)
+        showPage(windows & SIM_WINDOW_GENERAL);
+    m_page->showText(windows ? QString() : dashboardText("WINDOWS_NONE"));
 }
 
 void MainWindow::showPage(bool shown)
@@ -124,6 +156,25 @@ void MainWindow::openFrame(int paidType)
 {
     if (!m_plugin->isUsable())
         return;
+    if (endsSession(paidType) && m_sim.isAsking()) {
+        m_awaitedFrame = paidType;
+        m_frameDelay.start(LONGEST_DELAY);
+        return;
+    }
+    openFrameNow(paidType);
+}
+
+void MainWindow::openAwaitedFrame()
+{
+    m_frameDelay.stop();
+    const int paidType = m_awaitedFrame;
+    m_awaitedFrame = PAID_TYPE_NONE;
+    if (paidType != PAID_TYPE_NONE && m_plugin->isUsable())
+        openFrameNow(paidType);
+}
+
+void MainWindow::openFrameNow(int paidType)
+{
     if (paidType == PAID_TYPE_GENERAL)
         m_plugin->plugin()->DoModal();
     else
@@ -148,12 +199,22 @@ void MainWindow::retranslate()
     m_languageMenu->retranslate();
     m_networkMenu->retranslate();
     m_buttons->retranslate();
+    if (m_plugin->isUsable() && !m_windows)
+        m_page->showText(dashboardText("WINDOWS_NONE"));
     showDevice();
+}
+
+void MainWindow::showPaidType()
+{
+    m_header->showPaidType(m_sim.paidTypeText());
+    if (!m_sim.isAsking())
+        openAwaitedFrame();
 }
 
 void MainWindow::showDevice()
 {
     m_header->showStatus(m_device.status());
+    m_header->showPaidType(m_sim.paidTypeText());
     m_source->setText(m_device.status().sourceText());
     m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
 }

@@ -2,9 +2,11 @@
 #define MAINWINDOW_H
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "DeviceWatcher.h"
 #include "PluginFailure.h"
+#include "SimFollower.h"
 
 class DashboardSettings;
 class DeviceHeader;
@@ -38,6 +40,7 @@ public:
     /// Tells the user why a scenario file cannot be used, in a message box.
     void showScenarioError(const QString &error);
     QWidget *page() const;
+    const SimFollower &sim() const { return m_sim; }
 
 public slots:
     /// Loads the installed plug-in and shows its general window in the page; a failure is shown
@@ -45,8 +48,13 @@ public slots:
     PluginFailure loadPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
-    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own.
+    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own; soon, when that would
+    /// break off the question whether the SIM is prepaid.
     void openFrame(int paidType);
+
+signals:
+    /// A frame of the plug-in was closed; in it, the user may have saved codes.
+    void frameClosed();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -56,16 +64,25 @@ private slots:
     void openScenario();
     void showDevice();
     void hidePage();
+    void offerWindows(int windows);
+    void showPaidType();
+    void openAwaitedFrame();
 
 private:
+    void followSim();
     void makeMenus();
     void makeCentre();
     void restorePlace();
     void retranslate();
+    void openFrameNow(int paidType);
 
     UiPlugin *const m_plugin;
     DashboardSettings *const m_settings;
     DeviceWatcher m_device;
+    SimFollower m_sim;
+    int m_windows = 0; // offered, a set of SimWindow
+    int m_awaitedFrame;
+    QTimer m_frameDelay;
     QString m_scenario;
     QMenu *m_fileMenu;
     QAction *m_quit;

@@ -52,7 +52,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     tap->keep(reply);
-    return 1;
+    return 0; // whether anybody takes the reply is for the plug-in to say
 }
 
 void ReplyTap::keep(const Reply &reply)

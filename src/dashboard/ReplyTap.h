@@ -6,9 +6,9 @@
 
 /** What the network said, unit by unit as the device handed it over. */
 struct Reply {
-    QString text;            // empty when the network refused or the device failed
-    bool isReceived = false; // false: nothing came
-    bool asksForAnswer = false;
+    QString text;               // empty when the network refused or the device failed
+    bool isReceived = false;    // false: nothing came
+    bool asksForAnswer = false; // a menu is open
 };
 
 /**

@@ -14,6 +14,7 @@ namespace
 
 const int USSD_SERVICE = 4097;
 const unsigned int LANGUAGE_CHANGED = 320;
+const unsigned int SIM_CHANGED = 579;
 
 /// Whether the file is a library at all, whatever is in it. Loads it for a moment.
 bool isLoadableLibrary(const QString &file)
@@ -107,6 +108,12 @@ void UiPlugin::notifyLanguageChange()
 {
     if (m_notify)
         m_notify->Notify(LANGUAGE_CHANGED, 0, 0);
+}
+
+void UiPlugin::notifySimChange()
+{
+    if (m_notify)
+        m_notify->Notify(SIM_CHANGED, 0, 0);
 }
 
 void UiPlugin::shutDown()

@@ -39,6 +39,8 @@ public:
 
     /// Tells the plug-in that the language has changed. Harmless when none is loaded.
     void notifyLanguageChange();
+    /// Tells the plug-in to look at the SIM again. Harmless when none is loaded.
+    void notifySimChange();
 
     /// Tells the plug-in that the program ends, takes its call-backs off the device, has its
     /// windows deleted and deletes the plug-in object. Must come before the windows that host the

@@ -5,6 +5,7 @@
 
 #include "DashboardText.h"
 #include "IUSSD.h"
+#include "SimWindows.h"
 
 namespace
 {
@@ -14,15 +15,17 @@ struct Window {
     const char *objectName;
     PAID_TYPE type;
     bool inPage;
-    bool isReady; // those that are not have no button to be seen
+    SimWindow goesWith;
 };
 
 const Window WINDOWS[] = {
-    {"WINDOW_GENERAL_PAGE", "Dashboard_GeneralPageButton", PAID_TYPE_GENERAL, true, true},
-    {"WINDOW_GENERAL_FRAME", "Dashboard_GeneralFrameButton", PAID_TYPE_GENERAL, false, true},
-    {"WINDOW_PREPAID", "Dashboard_PrepaidButton", PAID_TYPE_PREPAID, false, false},
-    {"WINDOW_POSTPAID", "Dashboard_PostpaidButton", PAID_TYPE_POSTPAID, false, false},
-    {"WINDOW_USSD_SMS", "Dashboard_UssdSmsButton", PAID_TYPE_USSD_SMS, false, false},
+    {"WINDOW_GENERAL_PAGE", "Dashboard_GeneralPageButton", PAID_TYPE_GENERAL, true,
+     SIM_WINDOW_GENERAL},
+    {"WINDOW_GENERAL_FRAME", "Dashboard_GeneralFrameButton", PAID_TYPE_GENERAL, false,
+     SIM_WINDOW_GENERAL},
+    {"WINDOW_PREPAID", "Dashboard_PrepaidButton", PAID_TYPE_PREPAID, false, SIM_WINDOW_PREPAID},
+    {"WINDOW_POSTPAID", "Dashboard_PostpaidButton", PAID_TYPE_POSTPAID, false, SIM_WINDOW_POSTPAID},
+    {"WINDOW_USSD_SMS", "Dashboard_UssdSmsButton", PAID_TYPE_USSD_SMS, false, SIM_WINDOW_SERVICES},
 };
 
 } // namespace
@@ -35,13 +38,19 @@ WindowButtons::WindowButtons(QWidget *parent) : QWidget(parent)
         QPushButton *button = new QPushButton(this);
         button->setObjectName(QLatin1String(window.objectName));
         button->setCheckable(window.inPage);
-        button->setVisible(window.isReady);
         connect(button, SIGNAL(clicked()), this, SLOT(onClicked()));
         row->addWidget(button);
         m_buttons << button;
     }
     row->addStretch();
     retranslate();
+    offer(SIM_WINDOW_GENERAL);
+}
+
+void WindowButtons::offer(int windows)
+{
+    for (int i = 0; i < m_buttons.size(); ++i)
+        m_buttons.at(i)->setVisible(windows & WINDOWS[i].goesWith);
 }
 
 void WindowButtons::retranslate()

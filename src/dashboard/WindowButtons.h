@@ -15,6 +15,8 @@ public:
 
     /// Reads the texts again.
     void retranslate();
+    /// Shows the buttons of these windows, a set of SimWindow, and hides the others.
+    void offer(int windows);
     /// Says whether the general window is in the page; emits nothing.
     void setPageShown(bool shown);
 

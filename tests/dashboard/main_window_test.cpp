@@ -43,7 +43,6 @@ private slots:
     void thePageCanBeHiddenAndShownAgain();
     void aCommandOfThePageIsAnswered();
     void theFrameOpensOverTheWindow();
-    void buttonsOfLaterWindowsAreHidden();
     void theButtonsWaitForThePlugin();
     void aMissingPluginIsSaidInThePage();
     void aChosenLanguageReachesEverything();
@@ -162,15 +161,6 @@ void MainWindowTest::theFrameOpensOverTheWindow()
     QVERIFY(framed.closeButton());
     QTest::mouseClick(framed.closeButton(), Qt::LeftButton);
     QTRY_VERIFY(!GeneralWindow::framed().isComplete());
-}
-
-void MainWindowTest::buttonsOfLaterWindowsAreHidden()
-{
-    for (const char *name :
-         {"Dashboard_PrepaidButton", "Dashboard_PostpaidButton", "Dashboard_UssdSmsButton"}) {
-        QVERIFY2(button(name), name);
-        QVERIFY2(!button(name)->isVisible(), name);
-    }
 }
 
 void MainWindowTest::theButtonsWaitForThePlugin()

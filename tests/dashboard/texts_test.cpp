@@ -21,9 +21,9 @@ namespace
 QStringList keysIn(const QString &code)
 {
     // The first words of the dashboard's keys; other upper-case names are the environment's.
-    static const QRegularExpression key(
-        QLatin1String("\"((?:APP|MENU|ACTION|WINDOW|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
-                      "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR)_[A-Z_]+)\""));
+    static const QRegularExpression key(QLatin1String(
+        "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
+        "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE)_[A-Z_]+)\""));
     QStringList keys;
     for (auto match = key.globalMatch(code); match.hasNext();)
         keys << match.next().captured(1);

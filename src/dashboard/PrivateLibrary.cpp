@@ -1,0 +1,117 @@
+#include "PrivateLibrary.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdlib>
+
+#include "InstallPaths.h"
+
+namespace
+{
+
+const char LIBRARY_PATH[] = "USSD_PLUGIN_LIBRARY_PATH";
+const char USER_DATA[] = "TKSV_USER_DATA";
+const char PLUGIN_FOLDER[] = "/plugins/USSDUIPlugin";
+const char USER_FOLDER[] = "/user/";
+const char *const DATA_FILES[] = {"USSDPluginConfig.xml", "ussdsysprofile.xml"};
+const char PLUGIN_FILE[] = "libUSSDUIPlugin.so";
+
+QString makeTemporaryFolder()
+{
+    QByteArray path = QFile::encodeName(QDir::tempPath() + QLatin1String("/ussd-dashboard-XXXXXX"));
+    return mkdtemp(path.data()) ? QFile::decodeName(path) : QString();
+}
+
+void removeFolder(const QString &path)
+{
+    const QDir folder(path);
+    const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    for (const QFileInfo &entry : folder.entryInfoList(all)) {
+        if (entry.isDir() && !entry.isSymLink())
+            removeFolder(entry.filePath());
+        else
+            QFile::remove(entry.filePath());
+    }
+    QDir().rmdir(path);
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+           file.write(content) == content.size() && file.flush();
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void setOrUnset(const char *variable, const QByteArray &value)
+{
+    if (value.isEmpty())
+        unsetenv(variable);
+    else
+        qputenv(variable, value);
+}
+
+} // namespace
+
+PrivateLibrary::PrivateLibrary()
+    : m_installed(InstallPaths::pluginLibrary() + QLatin1String(PLUGIN_FOLDER)),
+      m_path(makeTemporaryFolder()), m_oldLibraryPath(qgetenv(LIBRARY_PATH)),
+      m_oldUserData(qgetenv(USER_DATA))
+{
+    m_isValid = !m_path.isEmpty() && make();
+    qputenv(LIBRARY_PATH, QFile::encodeName(m_path));
+    qputenv(USER_DATA, QFile::encodeName(m_path + QLatin1String(USER_FOLDER)));
+}
+
+PrivateLibrary::~PrivateLibrary()
+{
+    setOrUnset(LIBRARY_PATH, m_oldLibraryPath);
+    setOrUnset(USER_DATA, m_oldUserData);
+    if (!m_path.isEmpty())
+        removeFolder(m_path);
+}
+
+bool PrivateLibrary::make()
+{
+    bool isMade = QDir().mkpath(m_path + QLatin1String(PLUGIN_FOLDER)) &&
+                  QDir().mkpath(m_path + QLatin1String(USER_FOLDER));
+    for (const char *name : DATA_FILES)
+        isMade = isMade && restore(QLatin1String(name));
+    const QString plugin = m_installed + QLatin1Char('/') + QLatin1String(PLUGIN_FILE);
+    return isMade && QFile::link(plugin, fileName(QLatin1String(PLUGIN_FILE)));
+}
+
+QString PrivateLibrary::fileName(const QString &name) const
+{
+    return m_path + QLatin1String(PLUGIN_FOLDER) + QLatin1Char('/') + name;
+}
+
+QString PrivateLibrary::userProfileFile() const
+{
+    return m_path + QLatin1String(USER_FOLDER) + QLatin1String("ussdprofile.xml");
+}
+
+bool PrivateLibrary::restore(const QString &name)
+{
+    return write(name, readFile(m_installed + QLatin1Char('/') + name));
+}
+
+bool PrivateLibrary::change(const QString &name, const QByteArray &anchor, const QByteArray &before,
+                            const QByteArray &after)
+{
+    QByteArray content = readFile(fileName(name));
+    const int start = content.indexOf(anchor);
+    const int place = start < 0 ? -1 : content.indexOf(before, start);
+    return place >= 0 && write(name, content.replace(place, before.size(), after));
+}
+
+bool PrivateLibrary::write(const QString &name, const QByteArray &content)
+{
+    return writeFile(fileName(name), content);
+}

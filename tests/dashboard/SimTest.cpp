@@ -1,0 +1,92 @@
+#include "SimTest.h"
+
+#include "ExtendDialog.h"
+#include "HostState.h"
+#include "Languages.h"
+#include "Scenarios.h"
+
+namespace
+{
+
+const struct {
+    const char *button;
+    const char *name;
+} BUTTONS[] = {{"Dashboard_GeneralPageButton", "general"},
+               {"Dashboard_GeneralFrameButton", "framed"},
+               {"Dashboard_PrepaidButton", "prepaid"},
+               {"Dashboard_PostpaidButton", "postpaid"},
+               {"Dashboard_UssdSmsButton", "services"}};
+
+} // namespace
+
+void SimTest::setUp()
+{
+    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(Scenarios::use(QString()).isEmpty());
+    m_library.reset(new PrivateLibrary);
+    QVERIFY(m_library->isValid());
+}
+
+void SimTest::tearDown()
+{
+    m_plugin.reset();
+    m_window.reset();
+    m_library.reset();
+    HostState::setShuttingDown(false);
+    QVERIFY(Scenarios::use(QString()).isEmpty());
+}
+
+bool SimTest::configure(const char *anchor, const char *before, const char *after)
+{
+    return m_library->change(QLatin1String("USSDPluginConfig.xml"), anchor, before, after);
+}
+
+void SimTest::openDashboard()
+{
+    m_plugin.reset(new UiPlugin);
+    m_window.reset(new MainWindow(m_plugin.data(), nullptr));
+    m_window->show();
+    const PluginFailure failure = m_window->loadPlugin();
+    QVERIFY2(m_plugin->isUsable(), qPrintable(failure.text()));
+}
+
+void SimTest::useNetwork(const char *imsi, const char *keys, const char *codes)
+{
+    const QByteArray text = QByteArray("[Network]\nOperator=Other\nDelay=20\nIMSI=") + imsi + "\n" +
+                            keys + "\n" + codes + "\n";
+    const QString file = writeFile(QLatin1String("other.scenario"), text);
+    if (m_window)
+        QVERIFY(m_window->useScenario(file));
+    else
+        QCOMPARE(Scenarios::use(file), QString());
+}
+
+QPushButton *SimTest::button(const char *name) const
+{
+    return m_window->findChild<QPushButton *>(QLatin1String(name));
+}
+
+QString SimTest::offered() const
+{
+    QStringList names;
+    for (const auto &each : BUTTONS) {
+        if (button(each.button)->isVisible())
+            names << QLatin1String(each.name);
+    }
+    return names.join(QLatin1String(" "));
+}
+
+QString SimTest::paidType() const
+{
+    const QLabel *label = m_window->findChild<QLabel *>(QLatin1String("Dashboard_PaidType"));
+    return label->isVisible() ? label->text() : QString();
+}
+
+QWidget *SimTest::frame()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && qobject_cast<ExtendDialog *>(widget))
+            return widget;
+    }
+    return nullptr;
+}

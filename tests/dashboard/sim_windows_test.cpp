@@ -1,0 +1,257 @@
+#include <QSignalSpy>
+
+#include "IUSSD.h"
+#include "SimTest.h"
+#include "SimWindows.h"
+
+namespace
+{
+
+/** Knows one SIM. */
+class Service : public IUSSD
+{
+public:
+    bool isMatching = true;
+    int flags = 0;
+
+    int GetPrePostInfo(bool &, bool &, int &, bool) override { return 0; }
+    int DoPrePostPaidModal(PAID_TYPE) override { return 0; }
+    int ShowPrePostPaidWindow(QWidget *, QRect &, PAID_TYPE) override { return 0; }
+    bool IsImsiDynamicMatch() override { return isMatching; }
+    bool CheckImsiIsValid(const QString &imsi, int &out) override
+    {
+        const bool known = imsi == QLatin1String("00101");
+        out = known ? flags : 0;
+        return known;
+    }
+};
+
+const char ABSENT_FOR_A_MOMENT[] = "\n[*100#]\nReply=1\n[Event away]\nAfter=100\n"
+                                   "DeviceEvent=6016\nAway=300\n";
+
+} // namespace
+
+/** Which windows of the plug-in go with which SIM, and what happens when it is another one. */
+class SimWindowsTest : public SimTest
+{
+    Q_OBJECT
+private slots:
+    void theSetOfWindows_data();
+    void theSetOfWindows();
+
+    void aPrepaidSimHasItsWindows();
+    void aPostpaidSimHasItsWindows();
+    void anUnknownSimHasTheWindowsForAll();
+    void withoutASimThereAreTheWindowsForAll();
+    void aSimWithoutWindowsIsSaidInThePage();
+    void withoutTheMatchAllWindowsAreOffered();
+    void aSimWithoutTheGeneralWindowEmptiesThePage();
+
+    void anotherSimIsOfferedItsWindowsAtOnce();
+    void anotherSimClosesTheFrames_data();
+    void anotherSimClosesTheFrames();
+    void anotherSimWithoutTheMatchClosesNothing();
+    void theSameSimClosesNothing();
+    void aDeviceThatWasAwayClosesNothing();
+    void aSimThatIsRemovedIsNoticed();
+    void eachButtonOpensItsWindow_data();
+    void eachButtonOpensItsWindow();
+
+private:
+    void openFrame(const char *buttonName);
+};
+
+void SimWindowsTest::theSetOfWindows_data()
+{
+    QTest::addColumn<bool>("isMatching");
+    QTest::addColumn<QString>("imsi");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<int>("windows");
+    const QString known = QLatin1String("00101");
+    QTest::newRow("prepaid") << true << known << 1 << 1;
+    QTest::newRow("postpaid") << true << known << 2 << 2;
+    QTest::newRow("common") << true << known << 4 << 4;
+    QTest::newRow("advanced") << true << known << 8 << 8;
+    QTest::newRow("all") << true << known << 15 << 15;
+    QTest::newRow("none") << true << known << 0 << 0;
+    QTest::newRow("unknown SIM") << true << QString::fromLatin1("00102") << 1 << 12;
+    QTest::newRow("no SIM") << true << QString() << 1 << 12;
+    QTest::newRow("not in use") << false << known << 1 << 15;
+}
+
+void SimWindowsTest::theSetOfWindows()
+{
+    QFETCH(bool, isMatching);
+    QFETCH(QString, imsi);
+    QFETCH(int, flags);
+    QFETCH(int, windows);
+    Service service;
+    service.isMatching = isMatching;
+    service.flags = flags;
+    QCOMPARE(windowsForSim(&service, imsi), windows);
+}
+
+void SimWindowsTest::aPrepaidSimHasItsWindows()
+{
+    openDashboard();
+    QCOMPARE(offered(), QLatin1String("general framed prepaid services"));
+    QVERIFY(page().commandEdit()->isVisible());
+}
+
+void SimWindowsTest::aPostpaidSimHasItsWindows()
+{
+    useNetwork("001020000000001");
+    openDashboard();
+    QCOMPARE(offered(), QLatin1String("general framed postpaid services"));
+}
+
+void SimWindowsTest::anUnknownSimHasTheWindowsForAll()
+{
+    useNetwork("999990000000001");
+    openDashboard();
+    QCOMPARE(offered(), QLatin1String("general framed services"));
+}
+
+void SimWindowsTest::withoutASimThereAreTheWindowsForAll()
+{
+    useNetwork("001010000000007", "State=sim-missing");
+    openDashboard();
+    QCOMPARE(offered(), QLatin1String("general framed services"));
+}
+
+void SimWindowsTest::aSimWithoutWindowsIsSaidInThePage()
+{
+    QVERIFY(configure("<autoUSSD", "Prepaid/Commonpaid/Advanced", ""));
+    openDashboard();
+    QCOMPARE(offered(), QString());
+    QVERIFY(!page().isComplete());
+    const QLabel *text = window().page()->findChild<QLabel *>();
+    QVERIFY(text->isVisible());
+    QVERIFY2(text->text().contains(QLatin1String("No USSD window")), qPrintable(text->text()));
+    window().setLanguage(QLatin1String("de"));
+    QVERIFY2(text->text().contains(QLatin1String("kein USSD")), qPrintable(text->text()));
+}
+
+void SimWindowsTest::withoutTheMatchAllWindowsAreOffered()
+{
+    QVERIFY(configure("<autoUSSD", "valid=\"true\"", "valid=\"false\""));
+    openDashboard();
+    QCOMPARE(offered(), QLatin1String("general framed prepaid postpaid services"));
+}
+
+void SimWindowsTest::aSimWithoutTheGeneralWindowEmptiesThePage()
+{
+    QVERIFY(configure("<autoUSSD", "Postpaid/Commonpaid/Advanced", "Postpaid"));
+    openDashboard();
+    QVERIFY(page().commandEdit()->isVisible());
+    useNetwork("001020000000001");
+    QCOMPARE(offered(), QLatin1String("postpaid"));
+    QVERIFY(!page().commandEdit()->isVisible());
+    useNetwork("001010000000001");
+    QCOMPARE(offered(), QLatin1String("general framed prepaid services"));
+    QVERIFY(page().commandEdit()->isVisible());
+}
+
+void SimWindowsTest::anotherSimIsOfferedItsWindowsAtOnce()
+{
+    openDashboard();
+    useNetwork("001020000000001");
+    QCOMPARE(offered(), QLatin1String("general framed postpaid services"));
+}
+
+void SimWindowsTest::openFrame(const char *buttonName)
+{
+    QTest::mouseClick(button(buttonName), Qt::LeftButton);
+    QTRY_VERIFY(frame());
+}
+
+void SimWindowsTest::anotherSimClosesTheFrames_data()
+{
+    QTest::addColumn<QByteArray>("buttonName");
+    QTest::newRow("general") << QByteArray("Dashboard_GeneralFrameButton");
+    QTest::newRow("prepaid") << QByteArray("Dashboard_PrepaidButton");
+}
+
+void SimWindowsTest::anotherSimClosesTheFrames()
+{
+    QFETCH(QByteArray, buttonName);
+    openDashboard();
+    openFrame(buttonName.constData());
+    useNetwork("001020000000001");
+    QTRY_VERIFY(!frame());
+}
+
+void SimWindowsTest::anotherSimWithoutTheMatchClosesNothing()
+{
+    QVERIFY(configure("<autoUSSD", "valid=\"true\"", "valid=\"false\""));
+    openDashboard();
+    openFrame("Dashboard_GeneralFrameButton");
+    useNetwork("001020000000001");
+    drainEvents();
+    QVERIFY(frame());
+}
+
+void SimWindowsTest::theSameSimClosesNothing()
+{
+    openDashboard();
+    openFrame("Dashboard_GeneralFrameButton");
+    useNetwork("001010000000007", "Signal=3");
+    drainEvents();
+    QVERIFY(frame());
+}
+
+void SimWindowsTest::aDeviceThatWasAwayClosesNothing()
+{
+    useNetwork("001010000000007", "Signal=3", ABSENT_FOR_A_MOMENT);
+    openDashboard();
+    const QLabel *sim = window().findChild<QLabel *>(QLatin1String("Dashboard_Sim"));
+    openFrame("Dashboard_GeneralFrameButton");
+    QTRY_VERIFY(!sim->text().contains(QLatin1String("001010000000007")));
+    QVERIFY(frame());
+    QCOMPARE(offered(), QLatin1String("general framed prepaid services"));
+    QTRY_VERIFY(sim->text().contains(QLatin1String("001010000000007")));
+    QVERIFY(frame());
+}
+
+void SimWindowsTest::aSimThatIsRemovedIsNoticed()
+{
+    useNetwork("001010000000007", "Signal=3", "[Event out]\nAfter=100\nState=sim-missing\n");
+    openDashboard();
+    openFrame("Dashboard_GeneralFrameButton");
+    QTRY_VERIFY(!frame());
+    QCOMPARE(offered(), QLatin1String("general framed services"));
+}
+
+void SimWindowsTest::eachButtonOpensItsWindow_data()
+{
+    QTest::addColumn<QByteArray>("buttonName");
+    QTest::addColumn<QString>("widget");
+    QTest::newRow("general") << QByteArray("Dashboard_GeneralFrameButton")
+                             << QString::fromLatin1("USSDUIPlugin_AdvancedDialog_SendButton");
+    QTest::newRow("prepaid") << QByteArray("Dashboard_PrepaidButton")
+                             << QString::fromLatin1("USSDUIPlugin_Pre_PostPaid");
+    QTest::newRow("postpaid") << QByteArray("Dashboard_PostpaidButton")
+                              << QString::fromLatin1("USSDUIPlugin_Pre_PostPaid");
+    QTest::newRow("services") << QByteArray("Dashboard_UssdSmsButton")
+                              << QString::fromLatin1("USSDUIPlugin_SMSDialog");
+}
+
+void SimWindowsTest::eachButtonOpensItsWindow()
+{
+    QFETCH(QByteArray, buttonName);
+    QFETCH(QString, widget);
+    QVERIFY(configure("<autoUSSD", "valid=\"true\"", "valid=\"false\""));
+    openDashboard();
+    openFrame(buttonName.constData());
+    QWidget *found = frame()->findChild<QWidget *>(widget);
+    QVERIFY(found);
+    QVERIFY(found->isVisible());
+    QCOMPARE(frame()->parentWidget(), &window());
+    QSignalSpy closed(&window(), SIGNAL(frameClosed()));
+    frame()->close();
+    QTRY_VERIFY(!frame());
+    QTRY_COMPARE(closed.count(), 1);
+}
+
+USSD_TEST_MAIN(SimWindowsTest)
+#include "sim_windows_test.moc"
