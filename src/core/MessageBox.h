@@ -8,7 +8,7 @@
  * place to break a line at, is put into a view that scrolls. Escape and the window's close button
  * press no button, not even the only one.
  */
-class MessageBox : public QMessageBox
+class Q_DECL_EXPORT MessageBox : public QMessageBox
 {
     Q_OBJECT
 public:

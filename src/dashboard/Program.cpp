@@ -13,6 +13,7 @@
 #include "KeyboardHelper.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "ProfileKeeper.h"
 #include "ReplyLimit.h"
 #include "ReplyTap.h"
 #include "Scenarios.h"
@@ -120,7 +121,10 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     else
         window.setScenario(arguments.scenario);
     window.show();
-    QTimer::singleShot(0, &window, SLOT(loadPlugin()));
+    ProfileKeeper profiles(ProfileBackup::ofUser());
+    QObject::connect(&profiles, SIGNAL(ready()), &window, SLOT(loadPlugin()));
+    QObject::connect(&window, SIGNAL(frameClosed()), &profiles, SLOT(refresh()));
+    QTimer::singleShot(0, &profiles, SLOT(start()));
     if (!forgotten.isEmpty())
         window.showScenarioError(forgotten);
     const int result = QApplication::exec();

@@ -1,0 +1,126 @@
+#include "ProfileBackup.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+#include <cstdio>
+#include <memory>
+#include <unistd.h>
+
+#include "tksv.h"
+
+namespace
+{
+
+const char FILE_NAME[] = "ussdprofile.xml";
+const qint64 LARGEST = 4 << 20; // bytes; what is larger is not what the plug-in has written
+
+const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
+
+bool isWholeXml(const QByteArray &text)
+{
+    QXmlStreamReader reader(text);
+    while (!reader.atEnd())
+        reader.readNext();
+    return !reader.hasError();
+}
+
+/// Empty when the file cannot be read, or is not good.
+QByteArray goodContent(const QString &path)
+{
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > LARGEST)
+        return QByteArray();
+    const QByteArray text = file.readAll();
+    return isWholeXml(text) ? text : QByteArray();
+}
+
+bool writeWhole(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || !file.setPermissions(OWNER_ONLY))
+        return false;
+    return file.write(text) == text.size() && file.flush() && fsync(file.handle()) == 0;
+}
+
+// QFile::rename() does not replace a file that is there.
+bool replaceFile(const QString &path, const QByteArray &text)
+{
+    const QString beside = path + QLatin1String(".new");
+    if (writeWhole(beside, text) && std::rename(QFile::encodeName(beside).constData(),
+                                                QFile::encodeName(path).constData()) == 0)
+        return true;
+    QFile::remove(beside);
+    return false;
+}
+
+/// Ends in "/"; empty when there is none.
+QString userDataFolder()
+{
+    unsigned short *units = nullptr;
+    const long result = TKSV_GetUserDataDirectory(&units);
+    const std::unique_ptr<unsigned short[]> owner(units);
+    return result == 0 && units ? QString::fromUtf16(units) : QString();
+}
+
+/// The dashboard's own, where freedesktop.org's Base Directory Specification has it.
+QString ownFolder()
+{
+    const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
+    const QString data = chosen.startsWith(QLatin1Char('/'))
+                             ? chosen
+                             : QDir::homePath() + QLatin1String("/.local/share");
+    return data + QLatin1String("/ussd-dashboard/last-good/");
+}
+
+} // namespace
+
+ProfileBackup::ProfileBackup(const QString &userFile, const QString &legacyFile,
+                             const QString &copy)
+    : m_userFile(userFile), m_legacyFile(legacyFile), m_copy(copy)
+{
+}
+
+ProfileBackup ProfileBackup::ofUser()
+{
+    const QString name = QLatin1String(FILE_NAME);
+    const QString copy = ownFolder() + name;
+    const QString folder = userDataFolder();
+    if (folder.isEmpty())
+        return ProfileBackup(QString(), QString(), copy);
+    return ProfileBackup(folder + name, folder + QLatin1String("userdata/") + name, copy);
+}
+
+bool ProfileBackup::refresh() const
+{
+    const QByteArray text = goodContent(m_userFile);
+    if (text.isEmpty())
+        return false;
+    if (text == goodContent(m_copy))
+        return true;
+    return QDir().mkpath(QFileInfo(m_copy).path()) && replaceFile(m_copy, text);
+}
+
+bool ProfileBackup::isLost() const
+{
+    return !m_userFile.isEmpty() && !QFile::exists(m_userFile) && !QFile::exists(m_legacyFile) &&
+           !goodContent(m_copy).isEmpty();
+}
+
+bool ProfileBackup::restore() const
+{
+    const QByteArray text = goodContent(m_copy);
+    return !m_userFile.isEmpty() && !text.isEmpty() && replaceFile(m_userFile, text);
+}
+
+bool ProfileBackup::forget() const
+{
+    return QFile::remove(m_copy);
+}
+
+QDateTime ProfileBackup::time() const
+{
+    return QFileInfo(m_copy).lastModified();
+}

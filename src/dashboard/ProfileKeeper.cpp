@@ -1,0 +1,80 @@
+#include "ProfileKeeper.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QPointer>
+#include <QPushButton>
+
+#include "CommonUtils.h"
+#include "DashboardText.h"
+#include "MessageBox.h"
+
+namespace
+{
+
+enum Answer { NoAnswer, Yes, No };
+
+/// Escape and the window's close button are no answer, so that nothing is deleted by accident.
+Answer ask(const QString &text)
+{
+    const QPointer<MessageBox> box(new MessageBox(QMessageBox::Question,
+                                                  dashboardText("RESTORE_CAPTION"), text,
+                                                  CommonUtils::GetMainWindow()));
+    const QAbstractButton *yes =
+        box->addButton(dashboardText("RESTORE_YES"), QMessageBox::AcceptRole);
+    const QAbstractButton *no =
+        box->addButton(dashboardText("RESTORE_NO"), QMessageBox::RejectRole);
+    box->exec();
+    const QAbstractButton *clicked = box ? box->clickedButton() : nullptr;
+    const Answer answer = !clicked         ? NoAnswer
+                          : clicked == yes ? Yes
+                          : clicked == no  ? No
+                                           : NoAnswer;
+    delete box;
+    return answer;
+}
+
+} // namespace
+
+ProfileKeeper::ProfileKeeper(const ProfileBackup &backup, QObject *parent)
+    : QObject(parent), m_backup(backup)
+{
+}
+
+void ProfileKeeper::start()
+{
+    if (m_backup.isLost())
+        offerRestore();
+    refresh();
+    emit ready();
+}
+
+void ProfileKeeper::refresh()
+{
+    m_backup.refresh();
+}
+
+void ProfileKeeper::offerRestore()
+{
+    const QString time = QLocale().toString(m_backup.time(), QLocale::ShortFormat);
+    switch (ask(
+        dashboardText("RESTORE_OFFER").arg(QDir::toNativeSeparators(m_backup.userFile()), time))) {
+    case Yes:
+        return restore();
+    case No:
+        m_backup.forget();
+        break;
+    case NoAnswer:
+        break;
+    }
+}
+
+void ProfileKeeper::restore()
+{
+    if (m_backup.restore())
+        return;
+    CommonUtils::ShowMessage(
+        QMessageBox::Warning, CommonUtils::GetMainWindow(), dashboardText("RESTORE_CAPTION"),
+        dashboardText("RESTORE_FAILED").arg(m_backup.userFile(), m_backup.copy()),
+        QLatin1String("IDS_OK"));
+}

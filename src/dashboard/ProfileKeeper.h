@@ -1,0 +1,34 @@
+#ifndef PROFILEKEEPER_H
+#define PROFILEKEEPER_H
+
+#include <QObject>
+
+#include "ProfileBackup.h"
+
+/** Keeps the copy of the user's own codes up to date, and offers it when they have gone. GUI
+ * thread.
+ */
+class ProfileKeeper : public QObject
+{
+    Q_OBJECT
+public:
+    explicit ProfileKeeper(const ProfileBackup &backup, QObject *parent = nullptr);
+
+public slots:
+    /// Asks the user, if it has to, and then emits ready(). To be called before the plug-in reads
+    /// the codes.
+    void start();
+    /// The codes may have been saved.
+    void refresh();
+
+signals:
+    void ready();
+
+private:
+    void offerRestore();
+    void restore();
+
+    const ProfileBackup m_backup;
+};
+
+#endif

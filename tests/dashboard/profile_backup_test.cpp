@@ -1,0 +1,388 @@
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTimer>
+
+#include "ProfileBackup.h"
+#include "ProfileKeeper.h"
+#include "SimTest.h"
+
+namespace
+{
+
+const char GOOD[] = "<?xml version=\"1.0\"?>\n<tksvdoc type=\"USSDProfile\"><item><name>A</name>"
+                    "<value>*1#</value></item></tksvdoc>\n";
+const char NEWER[] = "<tksvdoc><item><name>B</name><value>*2#</value></item></tksvdoc>\n";
+const char CUT_OFF[] = "<tksvdoc><item><name>A</name>";
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+QMessageBox *openBox()
+{
+    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+}
+
+} // namespace
+
+/** The copy of the user's own codes: when it is made, and when and how it is offered back. */
+class ProfileBackupTest : public SimTest
+{
+    Q_OBJECT
+protected:
+    void setUp() override;
+
+private slots:
+    void theCopyIsMadeAndFollowsTheFile();
+    void onlyTheUserCanReadTheCopy();
+    void nothingIsLeftBesideTheCopy();
+    void whatDoesNotParseIsNotCopied_data();
+    void whatDoesNotParseIsNotCopied();
+    void aFileThatHasGoneLeavesTheCopy();
+    void aFileWithoutCodesIsCopiedToo();
+    void aCopyThatCannotBeWrittenIsSaid();
+
+    void lostMeansGoneWithAGoodCopy();
+    void whatIsThereIsNotLost_data();
+    void whatIsThereIsNotLost();
+    void theCopyIsRestoredWhole();
+    void aBrokenCopyIsNeverRestored();
+    void restoringWhereNothingCanBeWrittenKeepsTheCopy();
+    void forgettingDeletesTheCopy();
+    void theUsersFoldersAreUsed();
+
+    void nothingIsAskedWhileTheFileIsThere();
+    void yesRestores();
+    void noForgetsTheCopy();
+    void escapeAsksAgainNextTime();
+    void theQuestionIsPlainText();
+    void aRestoreThatFailsIsSaid();
+    void whatTheEditorSavesIsCopied();
+
+private:
+    void answer(const char *buttonStart);
+    void startAndAnswer(const char *buttonStart);
+    bool write(const QByteArray &content) { return writeTo(m_file, content); }
+    bool writeCopy(const QByteArray &content) { return writeTo(m_copy, content); }
+    bool writeTo(const QString &path, const QByteArray &content);
+    void typeCode();
+
+    QString m_file;
+    QString m_copy;
+    QScopedPointer<ProfileBackup> m_backup;
+    QString m_question;
+    Qt::TextFormat m_format = Qt::AutoText;
+    int m_boxes = 0;
+};
+
+void ProfileBackupTest::setUp()
+{
+    SimTest::setUp();
+    m_file = folder() + QLatin1String("/user/ussdprofile.xml");
+    m_copy = folder() + QLatin1String("/own/deep/ussdprofile.xml");
+    m_backup.reset(new ProfileBackup(
+        m_file, folder() + QLatin1String("/user/userdata/ussdprofile.xml"), m_copy));
+    m_boxes = 0;
+    m_question.clear();
+}
+
+bool ProfileBackupTest::writeTo(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(content) == content.size();
+}
+
+void ProfileBackupTest::theCopyIsMadeAndFollowsTheFile()
+{
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+    QVERIFY(write(NEWER));
+    QVERIFY(m_backup->refresh());
+    QCOMPARE(contentOf(m_copy), QByteArray(NEWER));
+    QVERIFY(qAbs(m_backup->time().secsTo(QDateTime::currentDateTime())) < 60);
+}
+
+void ProfileBackupTest::onlyTheUserCanReadTheCopy()
+{
+    QVERIFY(write(GOOD));
+    QVERIFY(QFile::setPermissions(m_file, QFile::ReadOwner | QFile::ReadOther));
+    QVERIFY(m_backup->refresh());
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther |
+                                      QFile::WriteOther | QFile::ExeOwner;
+    QCOMPARE(QFile::permissions(m_copy) & others, QFile::Permissions());
+    QVERIFY(QFile::permissions(m_copy) & QFile::ReadOwner);
+}
+
+void ProfileBackupTest::nothingIsLeftBesideTheCopy()
+{
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QVERIFY(QFile::remove(m_file));
+    QVERIFY(m_backup->restore());
+    for (const QString &path : {m_copy, m_file}) {
+        const QDir beside = QFileInfo(path).dir();
+        QCOMPARE(beside.entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+}
+
+void ProfileBackupTest::whatDoesNotParseIsNotCopied_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut off") << QByteArray(CUT_OFF);
+    QTest::newRow("no XML") << QByteArray("*100#");
+    QTest::newRow("two roots") << QByteArray(NEWER) + NEWER;
+    QTest::newRow("too large") << "<a>" + QByteArray(5 << 20, 'x') + "</a>";
+}
+
+void ProfileBackupTest::whatDoesNotParseIsNotCopied()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QVERIFY(write(content));
+    QVERIFY(!m_backup->refresh());
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::aFileThatHasGoneLeavesTheCopy()
+{
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QVERIFY(QFile::remove(m_file));
+    QVERIFY(!m_backup->refresh());
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::aFileWithoutCodesIsCopiedToo()
+{
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QVERIFY(write("<tksvdoc type=\"USSDProfile\"/>"));
+    QVERIFY(m_backup->refresh());
+    QCOMPARE(contentOf(m_copy), QByteArray("<tksvdoc type=\"USSDProfile\"/>"));
+}
+
+void ProfileBackupTest::aCopyThatCannotBeWrittenIsSaid()
+{
+    QVERIFY(write(GOOD));
+    writeFile(QLatin1String("own"), "a file where the folder should be");
+    QVERIFY(!m_backup->refresh());
+}
+
+void ProfileBackupTest::lostMeansGoneWithAGoodCopy()
+{
+    QVERIFY(!m_backup->isLost());
+    QVERIFY(write(GOOD));
+    QVERIFY(m_backup->refresh());
+    QVERIFY(!m_backup->isLost());
+    QVERIFY(QFile::remove(m_file));
+    QVERIFY(m_backup->isLost());
+    QVERIFY(!ProfileBackup(QString(), QString(), m_copy).isLost());
+    QVERIFY(writeCopy(CUT_OFF));
+    QVERIFY(!m_backup->isLost());
+}
+
+void ProfileBackupTest::whatIsThereIsNotLost_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("content");
+    const QString name = QLatin1String("/user/ussdprofile.xml");
+    QTest::newRow("broken file") << name << QByteArray(CUT_OFF);
+    QTest::newRow("folder") << name + QLatin1String("/inside") << QByteArray();
+    QTest::newRow("file of old") << QString::fromLatin1("/user/userdata/ussdprofile.xml")
+                                 << QByteArray(GOOD);
+}
+
+void ProfileBackupTest::whatIsThereIsNotLost()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, content);
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(m_backup->isLost());
+    QVERIFY(writeTo(folder() + path, content));
+    QVERIFY(!m_backup->isLost());
+}
+
+void ProfileBackupTest::theCopyIsRestoredWhole()
+{
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    QVERIFY(m_backup->restore());
+    QCOMPARE(contentOf(m_file), QByteArray(GOOD));
+    QVERIFY(!m_backup->isLost());
+}
+
+void ProfileBackupTest::aBrokenCopyIsNeverRestored()
+{
+    QVERIFY(writeCopy(CUT_OFF));
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    QVERIFY(!m_backup->restore());
+    QVERIFY(!QFile::exists(m_file));
+}
+
+void ProfileBackupTest::restoringWhereNothingCanBeWrittenKeepsTheCopy()
+{
+    QVERIFY(writeCopy(GOOD));
+    writeFile(QLatin1String("user"), "a file where the folder should be");
+    QVERIFY(!m_backup->restore());
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::forgettingDeletesTheCopy()
+{
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(m_backup->forget());
+    QVERIFY(!QFile::exists(m_copy));
+    QVERIFY(!m_backup->isLost());
+}
+
+void ProfileBackupTest::theUsersFoldersAreUsed()
+{
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder()));
+    const ProfileBackup backup = ProfileBackup::ofUser();
+    qputenv("XDG_DATA_HOME", before);
+    QCOMPARE(backup.userFile(), m_library->userProfileFile());
+    QCOMPARE(backup.copy(), folder() + QLatin1String("/ussd-dashboard/last-good/ussdprofile.xml"));
+}
+
+/// Presses the button whose text begins so in the next message box; Escape for null.
+void ProfileBackupTest::answer(const char *buttonStart)
+{
+    QTimer::singleShot(0, this, [this, buttonStart] {
+        QMessageBox *box = openBox();
+        if (!box)
+            return;
+        ++m_boxes;
+        m_question = box->text();
+        m_format = box->textFormat();
+        for (QAbstractButton *button : box->buttons()) {
+            if (buttonStart && button->text().startsWith(QLatin1String(buttonStart)))
+                return QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+}
+
+void ProfileBackupTest::startAndAnswer(const char *buttonStart)
+{
+    ProfileKeeper keeper(*m_backup);
+    QSignalSpy ready(&keeper, SIGNAL(ready()));
+    answer(buttonStart);
+    keeper.start();
+    QCOMPARE(ready.count(), 1);
+    drainEvents();
+}
+
+void ProfileBackupTest::nothingIsAskedWhileTheFileIsThere()
+{
+    QVERIFY(write(GOOD));
+    startAndAnswer("&Yes");
+    QCOMPARE(m_boxes, 0);
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::yesRestores()
+{
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    startAndAnswer("&Yes");
+    QCOMPARE(m_boxes, 1);
+    QCOMPARE(contentOf(m_file), QByteArray(GOOD));
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::noForgetsTheCopy()
+{
+    QVERIFY(writeCopy(GOOD));
+    startAndAnswer("&No");
+    QVERIFY(!QFile::exists(m_copy));
+    QVERIFY(!QFile::exists(m_file));
+    startAndAnswer("&No");
+    QCOMPARE(m_boxes, 1);
+}
+
+void ProfileBackupTest::escapeAsksAgainNextTime()
+{
+    QVERIFY(writeCopy(GOOD));
+    startAndAnswer(nullptr);
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+    QVERIFY(!QFile::exists(m_file));
+    startAndAnswer(nullptr);
+    QCOMPARE(m_boxes, 2);
+}
+
+void ProfileBackupTest::theQuestionIsPlainText()
+{
+    QVERIFY(writeCopy(GOOD));
+    startAndAnswer(nullptr);
+    QCOMPARE(m_format, Qt::PlainText);
+    QVERIFY2(m_question.contains(m_file), qPrintable(m_question));
+    QVERIFY2(!m_question.contains(QLatin1Char('%')), qPrintable(m_question));
+}
+
+void ProfileBackupTest::aRestoreThatFailsIsSaid()
+{
+    QVERIFY(writeCopy(GOOD));
+    writeFile(QLatin1String("user"), "a file where the folder should be");
+    QStringList said;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        QMessageBox *box = openBox();
+        if (!box)
+            return;
+        said << box->text();
+        QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
+    });
+    watch.start(1);
+    ProfileKeeper(*m_backup).start();
+    QCOMPARE(said.size(), 2);
+    QVERIFY2(said.at(1).contains(m_copy), qPrintable(said.at(1)));
+}
+
+/// Types a code into the first free row of the editor, and saves.
+void ProfileBackupTest::typeCode()
+{
+    QTableWidget *table = nullptr;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QLatin1String("USSDUIPlugin_ProfileTable"))
+            table = qobject_cast<QTableWidget *>(widget);
+    }
+    QVERIFY(table);
+    int row = 0;
+    while (table->item(row, 1) && !table->item(row, 1)->text().isEmpty())
+        ++row;
+    table->setItem(row, 0, new QTableWidgetItem(QLatin1String("Mine")));
+    table->setItem(row, 1, new QTableWidgetItem(QLatin1String("*777#")));
+    answer("&Yes");
+    table->window()
+        ->findChild<QPushButton *>(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"))
+        ->click();
+}
+
+void ProfileBackupTest::whatTheEditorSavesIsCopied()
+{
+    const ProfileBackup backup(m_library->userProfileFile(), QString(), m_copy);
+    openDashboard();
+    ProfileKeeper keeper(backup);
+    connect(&window(), SIGNAL(frameClosed()), &keeper, SLOT(refresh()));
+    QPushButton *edit = window().page()->findChild<QPushButton *>(
+        QLatin1String("USSDUIPlugin_AdvancedDialog_EditButton"));
+    QVERIFY(edit);
+    QTimer::singleShot(0, this, [this] { typeCode(); });
+    edit->click();
+    QTRY_VERIFY2(contentOf(m_copy).contains("*777#"), contentOf(m_copy).constData());
+    QCOMPARE(contentOf(m_copy), contentOf(m_library->userProfileFile()));
+}
+
+USSD_TEST_MAIN(ProfileBackupTest)
+#include "profile_backup_test.moc"
