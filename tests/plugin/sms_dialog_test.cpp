@@ -100,6 +100,7 @@ private slots:
     void readerWithoutDeviceFails();
     void readWidgetInfoReadsOneDialogElement();
     void configurationIsReadAnewOnDemand();
+    void brokenFileReadLaterEndsTheConnections();
     void hostileLayout_data();
     void hostileLayout();
 
@@ -508,11 +509,28 @@ void SmsDialogTest::readWidgetInfoReadsOneDialogElement()
 
 void SmsDialogTest::configurationIsReadAnewOnDemand()
 {
-    writeConfig("<c><SMSUSSD><MainSize width='77' height='88'/></SMSUSSD></c>");
+    press();
+    writeConfig("<c><SMSUSSD><MainSize width='77' height='88'/><Tree><item name='0' type='root'/>" +
+                entry(3) + "</Tree></SMSUSSD></c>");
     m_dialog->InitConfig();
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
-    drainEvents();
-    m_dialog->SetLanguage(); // no record of the former tree is touched
+    QVERIFY(tree()->isEnabled());
+    QVERIFY(button()->isHidden());
+    select(PREPAID); // a row whose entry is gone
+    QVERIFY(button()->isHidden());
+    m_dialog->InitTree();
+    m_dialog->SetLanguage();
+    QCOMPARE(tree()->topLevelItem(0)->childCount(), 1);
+    QCOMPARE(tree()->currentItem()->text(0), latin1("SERVICE_3"));
+}
+
+void SmsDialogTest::brokenFileReadLaterEndsTheConnections()
+{
+    writeConfig("<broken");
+    m_dialog->InitConfig();
+    QCOMPARE(receivers(SIGNAL(responseReceived(int, QString))), 0);
+    QCOMPARE(receivers(SIGNAL(SmsSendResult(bool, QString, QString))), 0);
+    QCOMPARE(receivers(SIGNAL(CanSendSMS(bool))), 0);
 }
 
 void SmsDialogTest::hostileLayout_data()
