@@ -11,6 +11,7 @@ const int kMaxComplaints = 20;
 const int kMaxQuoted = 40;  // characters of the file in a complaint
 const int kMaxDepth = 100;  // elements inside each other
 const int kMaxControls = 6; // kept of a group: enough to see that there are too many
+const int kMaxGroups = 500; // kept of a file: far more than the tree has entries
 
 /// The part of a value that a log line can bear.
 QString quoted(const QString &text)
@@ -320,6 +321,11 @@ void Reader::storeGroup(int entry, CWidget *group)
     if (CWidget *replaced = m_layout.groups.take(entry)) {
         complain(QString::fromLatin1("the group of entry %1 replaces an earlier one").arg(entry));
         delete replaced;
+    } else if (m_layout.groups.count() >= kMaxGroups) {
+        complain(QString::fromLatin1("the group of entry %1 is left out: there are too many")
+                     .arg(entry));
+        delete group;
+        return;
     }
     m_layout.groups.insert(entry, group);
 }

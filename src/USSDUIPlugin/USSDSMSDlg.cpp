@@ -103,9 +103,7 @@ QString CUSSDSMSDlg::objectNameOf(const char *role)
 void CUSSDSMSDlg::InitConfig()
 {
     USSD_LOG_SCOPE();
-    forgetService();
-    m_nSelected = kNoEntry;
-    m_layout.clear();
+    forgetLayout();
     const QString path = layoutPath();
     if (path.isEmpty())
         logNoPath(__func__, path);
@@ -113,6 +111,18 @@ void CUSSDSMSDlg::InitConfig()
         USSD_LOG(": return fail for the file doesn't exist.");
     else
         readLayoutFile(path);
+}
+
+void CUSSDSMSDlg::forgetLayout()
+{
+    if (m_pLogic)
+        disconnect(m_pLogic, nullptr, this, nullptr);
+    m_pLogic = nullptr;
+    if (m_bBusy)
+        endSending(); // the outcome will not be heard
+    forgetService();
+    m_nSelected = kNoEntry;
+    m_layout.clear();
 }
 
 void CUSSDSMSDlg::readLayoutFile(const QString &path)
@@ -147,11 +157,10 @@ void CUSSDSMSDlg::connectLogic()
     if (!m_pLogic)
         return;
     connect(m_pLogic, SIGNAL(responseReceived(int, QString)), this,
-            SLOT(OnResponseUSSDSMSReceived(int, QString)), Qt::UniqueConnection);
+            SLOT(OnResponseUSSDSMSReceived(int, QString)));
     connect(m_pLogic, SIGNAL(SmsSendResult(bool, QString, QString)), this,
-            SLOT(OnSendResult(bool, QString, QString)), Qt::UniqueConnection);
-    connect(m_pLogic, SIGNAL(CanSendSMS(bool)), this, SLOT(OnCanSendSMS(bool)),
-            Qt::UniqueConnection);
+            SLOT(OnSendResult(bool, QString, QString)));
+    connect(m_pLogic, SIGNAL(CanSendSMS(bool)), this, SLOT(OnCanSendSMS(bool)));
 }
 
 bool CUSSDSMSDlg::ReadFile(QXmlStreamReader &reader)
@@ -279,8 +288,10 @@ void CUSSDSMSDlg::InitTree()
     m_pTree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pTree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_pTree->clear();
     addRows();
-    connect(m_pTree, SIGNAL(itemSelectionChanged()), this, SLOT(OnTreeItemSelectionChanged()));
+    connect(m_pTree, SIGNAL(itemSelectionChanged()), this, SLOT(OnTreeItemSelectionChanged()),
+            Qt::UniqueConnection);
 }
 
 void CUSSDSMSDlg::addRows()
@@ -329,12 +340,10 @@ void CUSSDSMSDlg::SetTreeGeometry()
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
 
-/// Null when no row is current. Qt announces the new selection before it makes its row the current
-/// one when a key moved it, and after when the mouse did: the selected row is right in both.
-const CTreeItem *CUSSDSMSDlg::selectedEntry() const
+/// Null when no row is current, or its entry is gone.
+const CTreeItem *CUSSDSMSDlg::currentEntry() const
 {
-    const QList<QTreeWidgetItem *> selected = m_pTree->selectedItems();
-    const QTreeWidgetItem *row = selected.isEmpty() ? m_pTree->currentItem() : selected.first();
+    const QTreeWidgetItem *row = m_pTree->currentItem();
     const QList<CTreeItem *> entries = m_layout.entries.values();
     for (int i = 0; row && i < entries.count(); ++i) {
         if (entries.at(i)->treeWidgetItem == row)
@@ -347,7 +356,7 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
 {
     if (m_bBusy || !m_pTree)
         return;
-    const CTreeItem *entry = selectedEntry();
+    const CTreeItem *entry = currentEntry();
     if (!entry)
         return;
     m_nSelected = entry->number;

@@ -53,6 +53,7 @@ public:
     bool ReadFile(QXmlStreamReader &reader);
     /// Reads one "Dialog" element, whose start element the reader stands on.
     void ReadWidgetInfo(QXmlStreamReader &reader);
+    /// Makes the rows anew; SetLanguage() gives them their texts.
     void InitTree();
     /// Places the tree and selects the current service in it.
     void SetTreeGeometry();
@@ -89,6 +90,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void forgetLayout();
     void readLayoutFile(const QString &path);
     void logComplaints() const;
     void connectLogic();
@@ -99,7 +101,7 @@ private:
     void connectWidgets();
     void addRows();
     void translateTree();
-    const CTreeItem *selectedEntry() const;
+    const CTreeItem *currentEntry() const;
 
     void takeCommand(const QList<CWidgetItemInfo *> &controls);
     void placeControls(bool mirrored);

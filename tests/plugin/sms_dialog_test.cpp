@@ -110,6 +110,7 @@ private slots:
     void rowsComeInOrderOfTheirNumbers();
     void firstServiceIsSelectedAtFirst();
     void treeSelectsSingleWholeRows();
+    void longEntryCanBeScrolledTo();
     void keysSelectAService();
     void clicksSelectAService();
     void rootShowsNoControls();
@@ -192,6 +193,8 @@ private slots:
     void longWordInAResultIsBroken();
     void codeInAResultIsNotTurnedRound_data();
     void codeInAResultIsNotTurnedRound();
+    void codeAmongArabicLettersIsDrawnLeftToRight();
+    void arabicResultIsARightToLeftParagraph();
     void resultBeginsWhereTheOtherTextsDo();
 
     // ---- languages
@@ -624,6 +627,15 @@ void SmsDialogTest::treeSelectsSingleWholeRows()
     QCOMPARE(tree()->selectionBehavior(), QAbstractItemView::SelectRows);
     QCOMPARE(tree()->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     QCOMPARE(tree()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+}
+
+void SmsDialogTest::longEntryCanBeScrolledTo()
+{
+    const QByteArray shortNames = config().replace("SERVICE_", "S_");
+    openWith(shortNames);
+    QVERIFY(!tree()->horizontalScrollBar()->isVisible());
+    openWith(QByteArray(shortNames).replace("S_3", QByteArray("SERVICE ").repeated(10)));
+    QVERIFY(tree()->horizontalScrollBar()->isVisible());
 }
 
 void SmsDialogTest::keysSelectAService()
@@ -1348,6 +1360,30 @@ void SmsDialogTest::codeInAResultIsNotTurnedRound()
     press();
     networkSays(text);
     QCOMPARE(result(), text);
+}
+
+/// Arabic letters around the code: it is drawn as if the reply itself had marks around it.
+void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
+{
+    const QString reply = QString::fromUtf8("اطلب *124# الآن");
+    press();
+    networkSays(reply);
+    const QImage drawn = resultLabel()->grab().toImage();
+    press();
+    networkSays(ReplyLabel::withCodesMarked(reply));
+    QCOMPARE(drawn, resultLabel()->grab().toImage());
+}
+
+/// The full stop stands behind the last word, left of it, as if a mark held it there.
+void SmsDialogTest::arabicResultIsARightToLeftParagraph()
+{
+    const QString reply = QString::fromUtf8("مرحبا.");
+    press();
+    networkSays(reply);
+    const QImage drawn = resultLabel()->grab().toImage();
+    press();
+    networkSays(reply + QChar(0x200F));
+    QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 
 void SmsDialogTest::resultBeginsWhereTheOtherTextsDo()

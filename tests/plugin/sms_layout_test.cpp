@@ -65,6 +65,7 @@ private slots:
     void faultIsNamedBeforeAllElse();
     void emptyFileIsAFault();
     void tenThousandControlsCostNoMemory();
+    void tenThousandGroupsCostNoMemory();
     void groupWithTooFewControlsIsComplainedAbout();
     void groupWithoutEntryIsComplainedAbout();
     void tenThousandComplaintsAreCounted();
@@ -468,6 +469,17 @@ void SmsLayoutTest::tenThousandControlsCostNoMemory()
     QVERIFY(readSection(rootAnd(entry(1)) + group(1, QByteArray("<control/>").repeated(10000))));
     QCOMPARE(m_layout->groups.value(1)->controls.count(), 6);
     QVERIFY(complained("the group of entry 1 has 10000 controls"));
+}
+
+void SmsLayoutTest::tenThousandGroupsCostNoMemory()
+{
+    QByteArray groups;
+    for (int number = 1; number <= 10000; ++number)
+        groups += group(number, QByteArray("<control/>").repeated(5));
+    QVERIFY(readSection(groups + rootAnd(entry(1))));
+    QCOMPARE(m_layout->groups.count(), 500);
+    QVERIFY(m_layout->groups.contains(1));
+    QVERIFY(complained("the group of entry 501 is left out: there are too many"));
 }
 
 void SmsLayoutTest::groupWithTooFewControlsIsComplainedAbout()
