@@ -6,6 +6,7 @@
 #   ussd_add_plugin_code(NAME SOURCES... LIBRARIES...)      the plug-in's code, for plug-in and tests
 #   ussd_add_plugin(NAME SOURCES... LIBRARIES...)           the plug-in itself
 #   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
+#   ussd_add_example(NAME SOURCES... LIBRARIES...)          a program for developers; not installed
 
 find_program(USSD_CLANG_TIDY_PROGRAM clang-tidy)
 
@@ -99,4 +100,12 @@ function(ussd_add_program name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON INSTALL_RPATH "$ORIGIN/${USSD_LIB_FROM_BIN}")
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endfunction()
+
+function(ussd_add_example name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    ussd_set_up(${name})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/examples)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
 endfunction()

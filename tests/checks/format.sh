@@ -6,6 +6,6 @@ command -v clang-format >/dev/null || complain "clang-format is not installed"
 # One line for each file: the first place that differs.
 while IFS= read -r hit; do
     complain "$hit"
-done < <(cpp_files src tests benchmarks | xargs -r -P 2 -n 20 clang-format --style=file \
+done < <(cpp_files src tests benchmarks examples | xargs -r -P 2 -n 20 clang-format --style=file \
     --dry-run -Werror 2>&1 | grep ': error: ' | sort -t : -k 1,1 -u)
 finish

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# The smallest host sends a code through the plug-in's window, and says what is wrong when it cannot.
+#   minimal_host.sh PROGRAM
+set -u
+program=$1
+bad=0
+
+complain() {
+    printf '%s\n' "$*" >&2
+    bad=1
+}
+
+# expect STATUS PATTERN ARGUMENT...: the exit status, and a line of what was printed.
+expect() {
+    local status=$1 pattern=$2 output
+    shift 2
+    output=$("$program" "$@" 2>&1)
+    local got=$?
+    [ "$got" -eq "$status" ] || complain "$*: status $got, not $status"
+    printf '%s\n' "$output" | grep -qE -- "$pattern" || complain "$*: no '$pattern' in: $(printf '%s\n' "$output" | tail -n 5)"
+}
+
+expect 0 '^Received: Your balance is 7\.00' --once '*100#'
+expect 0 '^Received: The command was not carried out\.' --once '*198#'
+expect 1 '^minimal-host: usage: ' --once
+expect 1 '^minimal-host: usage: ' one two
+expect 1 '^minimal-host: .*missing\.so: ' --once '*100#' "$PWD/missing.so"
+expect 1 '^minimal-host: .*minimal_host\.sh: .' --once '*100#' "$0"
+exit $bad
