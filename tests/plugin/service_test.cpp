@@ -70,6 +70,8 @@ private slots:
     void prepaidWindowShownThriceAsksOnceEachTime();
     void closingThePaidWindowEndsFrameAndDialog_data();
     void closingThePaidWindowEndsFrameAndDialog();
+    void escapeEndsThePaidWindow_data();
+    void escapeEndsThePaidWindow();
     void closeButtonEndsEveryFramedWindow();
     void ussdSmsWindowFitsItsDialog();
     void closeRequestAfterTheUssdSmsWindowDoesNothing();
@@ -467,6 +469,24 @@ void ServiceTest::closingThePaidWindowEndsFrameAndDialog()
     }
 }
 
+void ServiceTest::escapeEndsThePaidWindow_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("prepaid") << 0;
+    QTest::newRow("postpaid") << 1;
+}
+
+void ServiceTest::escapeEndsThePaidWindow()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    QPointer<USSDExtendDialog> closed(frame());
+    QTest::keyClick(closed.data(), Qt::Key_Escape);
+    drainEvents();
+    QVERIFY(!closed);
+    QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+}
+
 void ServiceTest::closeButtonEndsEveryFramedWindow()
 {
     service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
@@ -517,6 +537,7 @@ void ServiceTest::imsiEventLeavesTheUssdSmsWindow()
 void ServiceTest::languageEventReachesEveryDialog()
 {
     service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
+    service()->DoPrePostPaidModal(PAID_TYPE_POSTPAID);
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
     Languages::setCurrent(QStringLiteral("de"));
     service()->Notify(320, 0, 0);
@@ -526,6 +547,7 @@ void ServiceTest::languageEventReachesEveryDialog()
     titles.sort();
     QStringList german;
     german << CUSSDService::tr(QStringLiteral("IDS_WINDOW_TETLE_PREPAID"))
+           << CUSSDService::tr(QStringLiteral("IDS_WINDOW_TETLE_POSTPAID"))
            << CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD"));
     german.sort();
     QCOMPARE(titles, german);
