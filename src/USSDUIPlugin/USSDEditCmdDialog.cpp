@@ -170,7 +170,9 @@ void USSDEditCmd::initHeader()
                                       createItem(tr(QLatin1String("IDS_COMMAND_CODE")), colour));
     m_pTable->verticalHeader()->setVisible(false);
     QHeaderView *header = m_pTable->horizontalHeader();
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Unlike cells, heads do not follow the direction of the language by themselves.
+    header->setDefaultAlignment((m_pTable->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) |
+                                Qt::AlignVCenter);
     header->setTextElideMode(Qt::ElideRight);
     header->setStretchLastSection(false);
     for (int column = 0; column < ProfileRows::ColumnCount; ++column)

@@ -1,5 +1,6 @@
 #include "PluginTest.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -59,6 +60,7 @@ private slots:
     void cancelSavesNothing();
     void columnsAndSizesAreFixed();
     void codeReadsLeftToRightInArabic();
+    void headsStandWhereTheirColumnsBegin();
     void upAndDownStayInsideTheCell();
 
     void editButtonFollowsTheConfiguration();
@@ -338,6 +340,15 @@ void ProfileEditorTest::codeReadsLeftToRightInArabic()
     QCOMPARE(table()->layoutDirection(), Qt::RightToLeft);
     doubleClick(3, 1);
     QCOMPARE(cellEditor()->layoutDirection(), Qt::LeftToRight);
+}
+
+void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
+{
+    openEditor();
+    QCOMPARE(table()->horizontalHeader()->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QVERIFY(Languages::setCurrent(QStringLiteral("ar")));
+    openEditor();
+    QCOMPARE(table()->horizontalHeader()->defaultAlignment(), Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void ProfileEditorTest::upAndDownStayInsideTheCell()
