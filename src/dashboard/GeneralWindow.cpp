@@ -23,6 +23,16 @@ QString receivedCaption()
 
 } // namespace
 
+// Text that is set by a program does not count as edited, so it goes the way that an input method
+// takes; that way a whole text arrives as one edit.
+void typeInto(QLineEdit *edit, const QString &text)
+{
+    edit->selectAll();
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QApplication::sendEvent(edit, &event);
+}
+
 const char *const GeneralWindow::COMMAND_EDIT = "USSDUIPlugin_AdvancedDialog_USSDCmdEdit";
 const char *const GeneralWindow::SEND_BUTTON = "USSDUIPlugin_AdvancedDialog_SendButton";
 
@@ -59,23 +69,11 @@ bool GeneralWindow::isWaiting() const
     return m_commandEdit && !m_commandEdit->isEnabled();
 }
 
-// Text that is set by a program does not count as edited, so it goes the way that an input method
-// takes; that way a whole text arrives as one edit.
-void GeneralWindow::type(const QString &text) const
-{
-    if (!m_commandEdit)
-        return;
-    m_commandEdit->selectAll();
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    QApplication::sendEvent(m_commandEdit, &event);
-}
-
 bool GeneralWindow::send(const QString &text) const
 {
     if (!isComplete() || isWaiting())
         return false;
-    type(text);
+    typeInto(m_commandEdit, text);
     if (!m_sendButton->isEnabled() || m_commandEdit->text() != text)
         return false;
     m_sendButton->click();

@@ -7,6 +7,9 @@
 #include <QString>
 #include <QTextEdit>
 
+/// Puts the text into the entry field as a user's typing would, in place of what is there.
+void typeInto(QLineEdit *edit, const QString &text);
+
 /**
  * The plug-in's general window as a host can reach it: by the object names of its widgets. The
  * widgets are the plug-in's and may go at any time. GUI thread.
@@ -32,8 +35,6 @@ public:
 
     /// Whether an answer is awaited.
     bool isWaiting() const;
-    /// Puts the text into the command edit as a user's typing would, in place of what is there.
-    void type(const QString &text) const;
     /// Types the text and presses Send. False when the window does not take it.
     bool send(const QString &text) const;
 

@@ -115,7 +115,17 @@ QWidget *MainWindow::page() const
 
 PluginFailure MainWindow::loadPlugin()
 {
-    PluginFailure failure = m_plugin->load(UiPlugin::installedFile());
+    return startWith(m_plugin->load(UiPlugin::installedFile()));
+}
+
+PluginFailure MainWindow::restartPlugin()
+{
+    m_windows = 0; // its page went with it
+    return startWith(m_plugin->restart());
+}
+
+PluginFailure MainWindow::startWith(const PluginFailure &failure)
+{
     m_buttons->setEnabled(m_plugin->isUsable());
     if (m_plugin->isUsable())
         m_sim.start();

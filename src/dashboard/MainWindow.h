@@ -40,12 +40,15 @@ public:
     /// Tells the user why a scenario file cannot be used, in a message box.
     void showScenarioError(const QString &error);
     QWidget *page() const;
+    const DeviceWatcher &device() const { return m_device; }
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
     /// Loads the installed plug-in and shows its general window in the page; a failure is shown
     /// there in words, and returned.
     PluginFailure loadPlugin();
+    /// Has the plug-in begin anew, with its configuration as it is now.
+    PluginFailure restartPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
     /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own; soon, when that would
@@ -73,6 +76,7 @@ private:
     void makeMenus();
     void makeCentre();
     void restorePlace();
+    PluginFailure startWith(const PluginFailure &failure);
     void retranslate();
     void openFrameNow(int paidType);
 

@@ -23,6 +23,7 @@ public:
     bool isValid() const { return m_isValid; }
     QString path() const { return m_path; }
     QString userProfileFile() const;
+    QString fileName(const QString &name) const;
 
     /// Puts the installed file of this name back.
     bool restore(const QString &name);
@@ -34,7 +35,6 @@ public:
 
 private:
     bool make();
-    QString fileName(const QString &name) const;
 
     QString m_installed;
     QString m_path;

@@ -13,6 +13,7 @@
 #include "KeyboardHelper.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "PrivateLibrary.h"
 #include "ProfileKeeper.h"
 #include "ReplyLimit.h"
 #include "ReplyTap.h"
@@ -20,6 +21,7 @@
 #include "TerminalText.h"
 #include "tksv.h"
 #include "Tour.h"
+#include "TourGuide.h"
 #include "UiPlugin.h"
 
 namespace
@@ -150,11 +152,11 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
 int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
 {
     doWithoutDisplay();
-    setReplyLimit(Tour::REPLY_LIMIT);
+    setReplyLimit(TourGuide::REPLY_LIMIT);
+    PrivateLibrary library;
     QApplication application(argc, argv);
-    const QString unusable = Scenarios::use(Tour::scenario());
-    if (!unusable.isEmpty())
-        return fail(unusable);
+    if (!library.isValid())
+        return fail(dashboardText("TOUR_NOT_WRITTEN").arg(library.path()));
     UiPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, nullptr);
@@ -162,7 +164,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     const PluginFailure failure = window.loadPlugin();
     if (!plugin.isUsable())
         return fail(failure.text());
-    const bool taken = Tour(&window, arguments.tourFolder).run();
+    const bool taken = Tour::take(&window, &library, arguments.tourFolder);
     plugin.shutDown();
     return taken ? EXIT_GOOD : EXIT_BAD;
 }

@@ -86,6 +86,11 @@ PluginFailure UiPlugin::startService()
 {
     if (!m_plugin->Init())
         return failure(PluginFailure::InitFailed);
+    return takeService();
+}
+
+PluginFailure UiPlugin::takeService()
+{
     QObject *service = nullptr;
     if (!m_plugin->QueryInterface(USSD_SERVICE, &service) || !service)
         return failure(PluginFailure::NoService, QString::number(USSD_SERVICE));
@@ -114,6 +119,14 @@ void UiPlugin::notifySimChange()
 {
     if (m_notify)
         m_notify->Notify(SIM_CHANGED, 0, 0);
+}
+
+PluginFailure UiPlugin::restart()
+{
+    m_ussd = nullptr;
+    m_plugin->UnSDKRegisterEvent();
+    m_plugin->OnDestroy();
+    return takeService();
 }
 
 void UiPlugin::shutDown()

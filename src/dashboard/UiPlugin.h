@@ -42,6 +42,10 @@ public:
     /// Tells the plug-in to look at the SIM again. Harmless when none is loaded.
     void notifySimChange();
 
+    /// Has the plug-in delete its windows and services, and asks it for its USSD service anew, so
+    /// that it reads its configuration again. The frames and pages it had are gone.
+    PluginFailure restart();
+
     /// Tells the plug-in that the program ends, takes its call-backs off the device, has its
     /// windows deleted and deletes the plug-in object. Must come before the windows that host the
     /// plug-in's go. Harmless when repeated.
@@ -51,6 +55,7 @@ private:
     PluginFailure openLibrary(const QString &file);
     PluginFailure takeInterfaces();
     PluginFailure startService();
+    PluginFailure takeService();
     PluginFailure failure(PluginFailure::Step step, const QString &detail = QString()) const;
 
     QPluginLoader m_loader;
