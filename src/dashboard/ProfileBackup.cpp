@@ -65,7 +65,7 @@ QString userDataFolder()
     return result == 0 && units ? QString::fromUtf16(units) : QString();
 }
 
-/// The dashboard's own, where freedesktop.org's Base Directory Specification has it.
+/// The dashboard's own, where the XDG base directories have it.
 QString ownFolder()
 {
     const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));

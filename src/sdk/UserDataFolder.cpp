@@ -63,7 +63,7 @@ std::string userDataFolder()
     const std::string chosen = environment("TKSV_USER_DATA");
     if (!chosen.empty())
         return withSlash(chosen);
-    // The XDG Base Directory Specification has relative paths ignored.
+    // XDG has relative paths ignored.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
         return withSlash(dataHome) + AppFolder;

@@ -33,7 +33,7 @@ static USSDProfile fullProfile()
 
 static ProfileRows::Row row(const char *name, const char *code)
 {
-    const ProfileRows::Row cells = {QString::fromUtf8(name), QString::fromUtf8(code)};
+    ProfileRows::Row cells = {QString::fromUtf8(name), QString::fromUtf8(code)};
     return cells;
 }
 
