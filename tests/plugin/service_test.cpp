@@ -72,6 +72,8 @@ private slots:
     void closingThePaidWindowEndsFrameAndDialog();
     void escapeEndsThePaidWindow_data();
     void escapeEndsThePaidWindow();
+    void closeButtonEndsThePaidWindow_data();
+    void closeButtonEndsThePaidWindow();
     void closeButtonEndsEveryFramedWindow();
     void ussdSmsWindowFitsItsDialog();
     void closeRequestAfterTheUssdSmsWindowDoesNothing();
@@ -485,6 +487,24 @@ void ServiceTest::escapeEndsThePaidWindow()
     drainEvents();
     QVERIFY(!closed);
     QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
+}
+
+void ServiceTest::closeButtonEndsThePaidWindow_data()
+{
+    escapeEndsThePaidWindow_data();
+}
+
+void ServiceTest::closeButtonEndsThePaidWindow()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    QPointer<USSDExtendDialog> closed(frame());
+    QPointer<USSDDlg> dialog(closed->findChild<USSDDlg *>());
+    QTest::mouseClick(dialog->findChild<QPushButton *>(QStringLiteral("USSDUIPlugin_CloseButton")),
+                      Qt::LeftButton);
+    QVERIFY(!dialog);
+    drainEvents();
+    QVERIFY(!closed);
 }
 
 void ServiceTest::closeButtonEndsEveryFramedWindow()
