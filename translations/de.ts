@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_OWN_NUMBER</source>
-        <translation>Meine Nummer</translation>
+        <translation>Rufnummer</translation>
     </message>
     <message>
         <source>IDS_PROFILE_OWN_NUMBER_DESC</source>

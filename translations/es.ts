@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT</source>
-        <translation>Datos restantes</translation>
+        <translation>Saldo datos</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT_DESC</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS</source>
-        <translation>Paquetes de datos</translation>
+        <translation>Bonos datos</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS_DESC</source>

@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT</source>
-        <translation>Internet restant</translation>
+        <translation>Data restante</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT_DESC</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS</source>
-        <translation>Forfaits Internet</translation>
+        <translation>Forfaits data</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS_DESC</source>

@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_OWN_NUMBER</source>
-        <translation>O meu número</translation>
+        <translation>Meu número</translation>
     </message>
     <message>
         <source>IDS_PROFILE_OWN_NUMBER_DESC</source>
@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT</source>
-        <translation>Dados restantes</translation>
+        <translation>Saldo dados</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT_DESC</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS</source>
-        <translation>Pacotes de dados</translation>
+        <translation>Pacotes dados</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS_DESC</source>
@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_TARIFF</source>
-        <translation>O meu tarifário</translation>
+        <translation>Meu tarifário</translation>
     </message>
     <message>
         <source>IDS_PROFILE_TARIFF_DESC</source>

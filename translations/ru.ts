@@ -325,7 +325,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT</source>
-        <translation>Остаток трафика</translation>
+        <translation>Остаток ГБ</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_LEFT_DESC</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_VALIDITY</source>
-        <translation>Срок действия</translation>
+        <translation>Срок счёта</translation>
     </message>
     <message>
         <source>IDS_PROFILE_VALIDITY_DESC</source>
@@ -341,7 +341,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_MENU</source>
-        <translation>Главное меню</translation>
+        <translation>Меню</translation>
     </message>
     <message>
         <source>IDS_PROFILE_MENU_DESC</source>
@@ -349,7 +349,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS</source>
-        <translation>Пакеты трафика</translation>
+        <translation>Пакеты ГБ</translation>
     </message>
     <message>
         <source>IDS_PROFILE_DATA_PACKS_DESC</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>IDS_PROFILE_CALL_ME</source>
-        <translation>Перезвони мне</translation>
+        <translation>Перезвони</translation>
     </message>
     <message>
         <source>IDS_PROFILE_CALL_ME_DESC</source>
