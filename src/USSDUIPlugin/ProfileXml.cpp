@@ -1,5 +1,6 @@
 #include "ProfileXml.h"
 
+#include <QStringList>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -43,9 +44,17 @@ QString boolText(bool value)
     return QLatin1String(value ? "true" : "false");
 }
 
+/// A bare carriage return would be read back as a line feed.
 void writeField(QXmlStreamWriter &writer, const char *field, const QString &text)
 {
-    writer.writeTextElement(QLatin1String(field), xmlText(text));
+    const QStringList parts = xmlText(text).split(QLatin1Char('\r'));
+    writer.writeStartElement(QLatin1String(field));
+    for (int i = 0; i < parts.count(); ++i) {
+        if (i > 0)
+            writer.writeEntityReference(QLatin1String("#13"));
+        writer.writeCharacters(parts.at(i));
+    }
+    writer.writeEndElement();
 }
 
 void writeProfile(QXmlStreamWriter &writer, const USSDProfile &profile)
