@@ -5,7 +5,12 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
+#include <csignal>
 #include <random>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <sys/resource.h>
 
@@ -182,6 +187,9 @@ private slots:
     void failedOpenIs25AndLeavesNoFile();
     void folderInPlaceOfTheFileIs25();
     void withoutUserFolderSavingIs23();
+    void readOnlyFolderIs25();
+    void readOnlyFolderLeavesAnOldFileToBeWritten();
+    void fullDiskLeavesAFileThatCanBeRead();
     void missingUserFolderIsMade();
     void userFolderIsMadeOneLevelDeepOnly();
     void systemFolderIsNeverMade();
@@ -727,6 +735,108 @@ void ProfileStoreTest::savingDoesNotReload()
     writeSystemProfiles(profileFile(profileItem("S", "*1#")));
     QCOMPARE(store.saveToXMLFile(false), 0);
     QCOMPARE(codes(list(store)), QStringList{latin1("*2#")});
+}
+
+namespace
+{
+
+/// Makes the process a user whom permissions bind, while it lives: root may write anywhere.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser() : m_wasRoot(geteuid() == 0)
+    {
+        if (m_wasRoot && seteuid(65534) != 0)
+            qFatal("cannot become an ordinary user");
+    }
+    ~OrdinaryUser()
+    {
+        if (m_wasRoot && seteuid(0) != 0)
+            qFatal("cannot become root again");
+    }
+
+private:
+    Q_DISABLE_COPY(OrdinaryUser)
+
+    bool m_wasRoot;
+};
+
+/// Lets no file grow beyond some bytes, while it lives: a write fails as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes) : m_oldHandler(signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
+        struct rlimit limit = m_oldLimit;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_oldLimit);
+        signal(SIGXFSZ, m_oldHandler);
+    }
+
+private:
+    Q_DISABLE_COPY(FullDisk)
+
+    sighandler_t m_oldHandler;
+    struct rlimit m_oldLimit;
+};
+
+} // namespace
+
+void ProfileStoreTest::readOnlyFolderIs25()
+{
+    USSDEditCmd store;
+    chmod(QFile::encodeName(folder()).constData(), 0755);
+    chmod(QFile::encodeName(userFolder()).constData(), 0555);
+    int status = 0;
+    {
+        const OrdinaryUser user;
+        status = store.saveToXMLFile(false);
+    }
+    QCOMPARE(status, 25);
+    QCOMPARE(timesLogged("saveToXMLFile Exit: XML file open failed"), 2);
+    QVERIFY(!QFile::exists(userFile()));
+}
+
+/// It cannot be deleted there, but opened.
+void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
+{
+    writeUserProfiles(profileItem("U", "*2#"));
+    USSDEditCmd store;
+    chmod(QFile::encodeName(folder()).constData(), 0755);
+    chmod(QFile::encodeName(userFolder()).constData(), 0555);
+    chmod(QFile::encodeName(userFile()).constData(), 0666);
+    int status = -1;
+    {
+        const OrdinaryUser user;
+        status = store.saveToXMLFile(false);
+    }
+    QCOMPARE(status, 0);
+    QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
+}
+
+/// No status tells of it; what got onto the disk is read up to where it breaks off.
+void ProfileStoreTest::fullDiskLeavesAFileThatCanBeRead()
+{
+    QByteArray items;
+    for (int i = 0; i < 500; ++i)
+        items += profileItem("N", QByteArray::number(i));
+    writeUserProfiles(items);
+    USSDEditCmd store;
+    QCOMPARE(list(store).count(), 500);
+    int status = -1;
+    {
+        const FullDisk disk(20000);
+        status = store.saveToXMLFile(false);
+    }
+    QCOMPARE(status, 0);
+    const QStringList read = codes(loaded());
+    QVERIFY(read.count() > 20 && read.count() < 500);
+    QCOMPARE(read.at(20), latin1("20"));
 }
 
 // ---- any text --------------------------------------------------------------------------------
