@@ -25,11 +25,11 @@ Answer ask(const QString &text)
     const QAbstractButton *no =
         box->addButton(dashboardText("RESTORE_NO"), QMessageBox::RejectRole);
     box->exec();
-    const QAbstractButton *clicked = box ? box->clickedButton() : nullptr;
-    const Answer answer = !clicked         ? NoAnswer
-                          : clicked == yes ? Yes
-                          : clicked == no  ? No
-                                           : NoAnswer;
+    Answer answer = NoAnswer;
+    if (box && box->clickedButton() == yes)
+        answer = Yes;
+    else if (box && box->clickedButton() == no)
+        answer = No;
     delete box;
     return answer;
 }

@@ -50,6 +50,7 @@ private slots:
     void aConfigurationWithoutTheQuestionAsksNothing();
     void anotherSimIsAskedAnew();
     void theAnswerOfTheSimBeforeIsNotTaken();
+    void aNewDeviceIsLeftAloneForAMoment();
     void aSimThatIsNotRegisteredIsAskedLater();
     void aDeviceThatComesBackIsAskedAnew();
 
@@ -201,6 +202,21 @@ void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
     QTRY_COMPARE(paidType(), QLatin1String("Prepaid"));
     QVERIFY2(!shown.contains(QLatin1String("Postpaid")),
              qPrintable(shown.join(QLatin1String("|"))));
+}
+
+// The plug-in may still be dropping the commands of the device before, on another thread.
+void PaidTypeTest::aNewDeviceIsLeftAloneForAMoment()
+{
+    openWith(PREPAID_SIM, PREPAID);
+    PaidTypeFinder *finder = window().findChild<PaidTypeFinder *>();
+    QSignalSpy settled(finder, SIGNAL(settled()));
+    QElapsedTimer time;
+    time.start();
+    finder->restart();
+    finder->tryToAsk();
+    QVERIFY(!finder->isAsking());
+    QVERIFY(settled.wait());
+    QVERIFY(time.elapsed() >= 100);
 }
 
 void PaidTypeTest::aSimThatIsNotRegisteredIsAskedLater()

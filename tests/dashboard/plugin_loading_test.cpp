@@ -55,6 +55,8 @@ private slots:
     void shutDownTwiceIsHarmless();
     void aPluginThatFailedHalfwayIsShutDownToo();
     void theLanguageChangeReachesThePlugin();
+    void theSimChangeReachesThePlugin();
+    void aRestartTakesEverythingDownAndAsksForTheServiceAgain();
     void everyStepHasWordsOfItsOwn();
 
 private:
@@ -231,6 +233,27 @@ void PluginLoadingTest::theLanguageChangeReachesThePlugin()
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.notifyLanguageChange();
     QCOMPARE(calls().last(), QLatin1String("Notify 320"));
+}
+
+void PluginLoadingTest::theSimChangeReachesThePlugin()
+{
+    UiPlugin plugin;
+    plugin.notifySimChange(); // harmless without one
+    QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
+    plugin.notifySimChange();
+    QCOMPARE(calls().last(), QLatin1String("Notify 579"));
+}
+
+void PluginLoadingTest::aRestartTakesEverythingDownAndAsksForTheServiceAgain()
+{
+    UiPlugin plugin;
+    QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
+    qApp->setProperty("calls", QStringList());
+    QCOMPARE(plugin.restart().step, PluginFailure::None);
+    QVERIFY(plugin.isUsable());
+    QCOMPARE(calls(), QStringList()
+                          << QLatin1String("UnSDKRegisterEvent") << QLatin1String("OnDestroy")
+                          << QLatin1String("QueryInterface"));
 }
 
 void PluginLoadingTest::everyStepHasWordsOfItsOwn()

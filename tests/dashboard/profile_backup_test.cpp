@@ -63,6 +63,7 @@ private slots:
     void theCopyIsRestoredWhole();
     void aBrokenCopyIsNeverRestored();
     void restoringWhereNothingCanBeWrittenKeepsTheCopy();
+    void aRestoreThatFailsLeavesNothingBeside();
     void forgettingDeletesTheCopy();
     void theUsersFoldersAreUsed();
 
@@ -244,6 +245,14 @@ void ProfileBackupTest::restoringWhereNothingCanBeWrittenKeepsTheCopy()
     writeFile(QLatin1String("user"), "a file where the folder should be");
     QVERIFY(!m_backup->restore());
     QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::aRestoreThatFailsLeavesNothingBeside()
+{
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(QDir().mkpath(m_file + QLatin1String("/inside")));
+    QVERIFY(!m_backup->restore());
+    QCOMPARE(QFileInfo(m_file).dir().entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 void ProfileBackupTest::forgettingDeletesTheCopy()

@@ -168,7 +168,7 @@ public:
     }
     int Notify(unsigned int event, unsigned int, unsigned int) override
     {
-        record(event == 320 ? "Notify 320" : "Notify");
+        record(event == 320 ? "Notify 320" : event == 579 ? "Notify 579" : "Notify");
         return 0;
     }
 
