@@ -671,7 +671,7 @@
     <message>
         <source>RESTORE_OFFER</source>
         <translation>اختفى الملف الذي يحوي رموز USSD الخاصة بك:
-%1
+&#x200f;&#x200e;%1
 
 توجد نسخة منه بتاريخ %2. هل تريد استعادتها؟ الجواب «لا» يحذف النسخة.</translation>
     </message>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>RESTORE_FAILED</source>
-        <translation>لا يمكن كتابة %1. تبقى النسخة في مكانها: %2</translation>
+        <translation>لا يمكن كتابة &#x200e;%1&#x200e;. تبقى النسخة في مكانها: &#x200e;%2</translation>
     </message>
 </context>
 </TS>
