@@ -9,6 +9,8 @@ set(USSD_TEST_SECONDS 120)
 
 set(USSD_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
+    "TKSV_BACKEND=simulator" # never the developer's own modem
+    "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
     "QT_HASH_SEED=0"
     "LC_ALL=C.UTF-8"
     "LANGUAGE=en"

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 #include "tksv_device.h"
 
@@ -50,12 +51,27 @@ const int SmsFailed = 1;
 struct DeviceInfo {
     TKSV_Backend backend = TKSV_BACKEND_SIMULATOR;
     TKSV_DeviceState state = TKSV_DEVICE_ABSENT;
+    TKSV_DeviceProblem problem = TKSV_PROBLEM_NONE;
     int signalPercent = -1;
     bool canSendSms = false;
+    int pinRetries = -1;
     std::string operatorName;
     std::string imsi;
+    std::string simOperatorCode;
+    std::string simOperatorName;
+    std::string equipmentId;
     std::string source;
 };
+
+inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
+{
+    const auto fields = [](const DeviceInfo &i) {
+        return std::tie(i.backend, i.state, i.problem, i.signalPercent, i.canSendSms, i.pinRetries,
+                        i.operatorName, i.imsi, i.simOperatorCode, i.simOperatorName, i.equipmentId,
+                        i.source);
+    };
+    return fields(a) == fields(b);
+}
 
 /**
  * Told by a backend of what happens. Called on the backend's own thread only, never from inside a
@@ -102,6 +118,8 @@ public:
 
     /// False when no message can be sent now; otherwise smsFinished() follows.
     virtual bool sendSms(const SmsMessage &message) = 0;
+    /// False when the SIM waits for no PIN; otherwise infoChanged() tells how it went.
+    virtual bool sendPin(const std::string &pin) = 0;
     virtual DeviceInfo info() const = 0;
 };
 

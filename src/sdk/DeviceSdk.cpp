@@ -1,13 +1,9 @@
 #include "DeviceSdk.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
 #include "Records.h"
-#include "ScenarioPlace.h"
-#include "sim/ScenarioReader.h"
-#include "sim/SimulatedNetwork.h"
 
 namespace tksv
 {
@@ -21,6 +17,9 @@ const std::chrono::milliseconds ExitLimit(1000);
 /// The number of USSD events; their kind is the record's type.
 const int UssdEvent = 0;
 
+/// Of a service with a single listener.
+const std::uintptr_t OnlyKey = 1;
+
 std::uintptr_t keyOf(TKSV_EventCallback callback)
 {
     return reinterpret_cast<std::uintptr_t>(callback);
@@ -29,27 +28,6 @@ std::uintptr_t keyOf(TKSV_EventCallback callback)
 EventService::Handler handlerOf(TKSV_EventCallback callback)
 {
     return [callback](int number, void *data) { return callback(number, data) != 0; };
-}
-
-/// A device that is not there, in place of a scenario that cannot be used.
-Scenario absentDevice(const std::string &source)
-{
-    Scenario scenario;
-    scenario.source = source;
-    scenario.state = TKSV_DEVICE_ABSENT;
-    return scenario;
-}
-
-/// The scenario that the program starts with; what is wrong with it goes to stderr, since nobody
-/// has asked for it in a call that could tell.
-Scenario initialScenario()
-{
-    const std::string path = initialScenarioPath();
-    ScenarioResult result = readScenarioFile(path);
-    if (result.scenario)
-        return *std::move(result.scenario);
-    std::fprintf(stderr, "%s\n", describe(result.complaints).c_str());
-    return absentDevice(path);
 }
 
 Event statusEvent(bool canSend)
@@ -76,15 +54,16 @@ DeviceSdk &DeviceSdk::instance()
 
 DeviceSdk::DeviceSdk()
     : m_ussdEvents("tksv-ussd"), m_deviceEvents("tksv-device"), m_smsEvents("tksv-sms"),
-      m_infoEvents("tksv-info"), m_session(m_ussdEvents)
+      m_infoEvents("tksv-info"), m_textEvents("tksv-text"),
+      m_session(m_ussdEvents, [this] { m_textEvents.post(Event()); }), m_choice(*this)
 {
 }
 
 void DeviceSdk::stop()
 {
-    if (const std::shared_ptr<Backend> current = currentBackend())
-        current->stop();
-    for (EventService *service : {&m_ussdEvents, &m_deviceEvents, &m_smsEvents, &m_infoEvents})
+    m_choice.stop();
+    for (EventService *service :
+         {&m_ussdEvents, &m_deviceEvents, &m_smsEvents, &m_infoEvents, &m_textEvents})
         service->stop(ExitLimit);
 }
 
@@ -92,19 +71,19 @@ void DeviceSdk::stop()
 
 int DeviceSdk::request(const std::string &text)
 {
-    return m_session.request(*backend(), text);
+    return m_session.request(*m_choice.backend(), text);
 }
 
 void DeviceSdk::release()
 {
-    if (const std::shared_ptr<Backend> current = currentBackend())
+    if (const std::shared_ptr<Backend> current = m_choice.current())
         m_session.release(*current);
 }
 
 void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
 {
     m_ussdEvents.add(keyOf(callback), handlerOf(callback));
-    backend();
+    m_choice.backend();
 }
 
 /// Without anybody to read a reply, the session would only be left open in the network.
@@ -119,7 +98,7 @@ bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 void DeviceSdk::addDeviceCallback(TKSV_EventCallback callback)
 {
     m_deviceEvents.add(keyOf(callback), handlerOf(callback));
-    backend();
+    m_choice.backend();
 }
 
 bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
@@ -145,12 +124,12 @@ bool DeviceSdk::removeSmsCallback(TKSV_EventCallback callback)
 
 bool DeviceSdk::sendSms(const SmsMessage &message)
 {
-    return backend()->sendSms(message);
+    return m_choice.backend()->sendSms(message);
 }
 
 DeviceInfo DeviceSdk::info()
 {
-    return backend()->info();
+    return m_choice.backend()->info();
 }
 
 void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
@@ -161,60 +140,36 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
             callback(context);
             return true;
         };
-    const std::uintptr_t onlyKey = 1;
-    m_infoEvents.replaceAll(onlyKey, std::move(handler));
+    m_infoEvents.replaceAll(OnlyKey, std::move(handler));
 }
 
-std::string DeviceSdk::useScenario(const std::string &path)
+/// What came before is told as well.
+void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
-    ScenarioResult result = readScenarioFile(path.empty() ? initialScenarioPath() : path);
-    if (!result.scenario)
-        return describe(result.complaints);
-    replaceBackend(*std::move(result.scenario));
-    return std::string();
+    EventService::Handler handler;
+    if (callback)
+        handler = [this, callback, context](int, void *) {
+            tellUntakenTexts(callback, context);
+            return true;
+        };
+    m_textEvents.replaceAll(OnlyKey, std::move(handler));
+    m_textEvents.post(Event());
 }
 
-/* ---- the backend in use ------------------------------------------------------------------ */
-
-std::shared_ptr<Backend> DeviceSdk::currentBackend() const
+void DeviceSdk::tellUntakenTexts(TKSV_NetworkTextCallback callback, void *context)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_backend;
-}
-
-void DeviceSdk::setBackend(const std::shared_ptr<Backend> &backend)
-{
-    backend->start(*this);
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_backend = backend;
-}
-
-/// The backend, made on first need.
-std::shared_ptr<Backend> DeviceSdk::backend()
-{
-    if (std::shared_ptr<Backend> current = currentBackend())
-        return current;
-    const std::lock_guard<std::mutex> lock(m_switchMutex);
-    if (!currentBackend())
-        setBackend(std::make_shared<SimulatedNetwork>(initialScenario()));
-    return currentBackend();
-}
-
-/// The old one is silent before the new one begins, and what it had in hand ends with it.
-void DeviceSdk::replaceBackend(Scenario scenario)
-{
-    const std::lock_guard<std::mutex> lock(m_switchMutex);
-    const std::shared_ptr<Backend> old = currentBackend();
-    if (old) {
-        const bool wasThere = old->info().state != TKSV_DEVICE_ABSENT;
-        old->stop();
-        if (wasThere)
-            deviceLost(TKSV_DEV_EVENT_GONE);
+    for (const UntakenText &text : m_session.takeUntakenTexts()) {
+        TKSV_NetworkText record = {};
+        record.receivedAt = std::chrono::system_clock::to_time_t(text.receivedAt);
+        record.waitsForAnswer = text.reply.type == UssdWaitsForAnswer ? 1 : 0;
+        record.text = text.reply.text.c_str();
+        callback(context, &record);
     }
-    const auto simulator = std::make_shared<SimulatedNetwork>(std::move(scenario));
-    smsStatusChanged(simulator->info().canSendSms); // before it tells of a change of its own
-    setBackend(simulator);
-    infoChanged();
+}
+
+bool DeviceSdk::sendPin(const std::string &pin)
+{
+    return m_choice.backend()->sendPin(pin);
 }
 
 /* ---- news of the backend, on its thread -------------------------------------------------- */

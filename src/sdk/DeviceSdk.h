@@ -1,13 +1,11 @@
 #ifndef TKSV_INTERNAL_DEVICESDK_H
 #define TKSV_INTERNAL_DEVICESDK_H
 
-#include <memory>
-#include <mutex>
 #include <string>
 
 #include "Backend.h"
+#include "BackendChoice.h"
 #include "EventService.h"
-#include "sim/Scenario.h"
 #include "SmsRecords.h"
 #include "UssdSession.h"
 
@@ -15,14 +13,13 @@ namespace tksv
 {
 
 /**
- * What stands behind the C functions: the three services, the session, and the backend in use.
+ * What stands behind the C functions: the services, the session, and the backend in use.
  *
- * Threads: one for each service that has something to tell, started by the first event, and that of
- * the backend. They end when the program exits; the object itself stays, since other threads of
+ * Threads: one for each service that has something to tell, started by the first event, and those
+ * of the backends. They end when the program exits; the object itself stays, since other threads of
  * the client may be inside a call even then, and the library is never unmapped.
  *
- * Locks: m_switchMutex before UssdSession's before the backend's before the services'; m_mutex is
- * the last of all and held for one assignment.
+ * Locks: UssdSession's before the backend's before the services'; see BackendChoice for its own.
  */
 class DeviceSdk : private BackendObserver
 {
@@ -44,19 +41,16 @@ public:
 
     DeviceInfo info();
     void setInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
-    /// Empty on success, else the complaints. An empty path takes the initial scenario.
-    std::string useScenario(const std::string &path);
+    void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
+    bool sendPin(const std::string &pin);
+    BackendChoice &choice() { return m_choice; }
 
 private:
     DeviceSdk();
     ~DeviceSdk() override = default;
     void stop();
 
-    std::shared_ptr<Backend> backend();
-    std::shared_ptr<Backend> currentBackend() const;
-    void setBackend(const std::shared_ptr<Backend> &backend);
-    void replaceBackend(Scenario scenario);
-    std::string switchTo(const std::string &path);
+    void tellUntakenTexts(TKSV_NetworkTextCallback callback, void *context);
 
     void ussdReply(RequestToken token, const UssdReply &reply) override;
     void ussdText(const UssdReply &text) override;
@@ -69,12 +63,11 @@ private:
     EventService m_deviceEvents;
     EventService m_smsEvents;
     EventService m_infoEvents;
+    EventService m_textEvents;
     UssdSession m_session;
     SmsRecords m_smsRecords;
 
-    std::mutex m_switchMutex;           // held while one backend takes the place of another
-    mutable std::mutex m_mutex;         // guards m_backend
-    std::shared_ptr<Backend> m_backend; // null until somebody needs it
+    BackendChoice m_choice;
 };
 
 } // namespace tksv

@@ -17,7 +17,10 @@ bool hasFormOfCode(const std::string &text)
     return text.size() > 1 && (text.front() == '*' || text.front() == '#') && text.back() == '#';
 }
 
-UssdSession::UssdSession(EventService &service) : m_service(service) {}
+UssdSession::UssdSession(EventService &service, std::function<void()> untakenCame)
+    : m_service(service), m_untakenCame(std::move(untakenCame))
+{
+}
 
 int UssdSession::request(Backend &backend, const std::string &text)
 {
@@ -56,10 +59,11 @@ void UssdSession::deviceLost()
     becomeIdle();
 }
 
-std::vector<UssdReply> UssdSession::untakenTexts() const
+std::vector<UntakenText> UssdSession::takeUntakenTexts()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return std::vector<UssdReply>(m_untaken.begin(), m_untaken.end());
+    const std::deque<UntakenText> texts = std::exchange(m_untaken, {});
+    return std::vector<UntakenText>(texts.begin(), texts.end());
 }
 
 void UssdSession::post(const UssdReply &reply, std::function<bool()> begin)
@@ -67,7 +71,8 @@ void UssdSession::post(const UssdReply &reply, std::function<bool()> begin)
     Event event;
     event.data = encodeResponse(reply);
     event.begin = std::move(begin);
-    event.end = [this, reply](bool taken) { ended(reply, taken); };
+    const UntakenText text{std::chrono::system_clock::now(), reply};
+    event.end = [this, text](bool taken) { ended(text, taken); };
     m_service.post(std::move(event));
 }
 
@@ -97,14 +102,18 @@ bool UssdSession::beginText(const UssdReply &text)
     return true;
 }
 
-void UssdSession::ended(const UssdReply &reply, bool taken)
+/// A question that waits for its answer is told even when its text is not known.
+void UssdSession::ended(const UntakenText &text, bool taken)
 {
-    if (taken || reply.text.empty())
+    if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
         return;
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_untaken.push_back(reply);
-    if (m_untaken.size() > MaxUntakenTexts)
-        m_untaken.pop_front();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_untaken.push_back(text);
+        if (m_untaken.size() > MaxUntakenTexts)
+            m_untaken.pop_front();
+    }
+    m_untakenCame();
 }
 
 /// With the lock held.

@@ -1,7 +1,9 @@
 #ifndef TKSV_INTERNAL_USSDSESSION_H
 #define TKSV_INTERNAL_USSDSESSION_H
 
+#include <chrono>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -11,6 +13,12 @@
 
 namespace tksv
 {
+
+/** A text that the client's call-backs did not take. */
+struct UntakenText {
+    std::chrono::system_clock::time_point receivedAt;
+    UssdReply reply;
+};
 
 /**
  * The client's view of the one USSD session (3GPP TS 22.090), with the rules that tksv.h promises.
@@ -24,7 +32,8 @@ namespace tksv
 class UssdSession
 {
 public:
-    explicit UssdSession(EventService &service);
+    /// `untakenCame` is called, on the service's thread, when there is a text to take.
+    UssdSession(EventService &service, std::function<void()> untakenCame);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
@@ -39,8 +48,8 @@ public:
     /// Request and session ended with the device.
     void deviceLost();
 
-    /// The last texts that no call-back took, oldest first.
-    std::vector<UssdReply> untakenTexts() const;
+    /// Hands out the last texts that no call-back took, oldest first, and forgets them.
+    std::vector<UntakenText> takeUntakenTexts();
 
 private:
     enum class State { Idle, InFlight, WaitsForAnswer };
@@ -48,17 +57,18 @@ private:
     void post(const UssdReply &reply, std::function<bool()> begin);
     bool beginReply(RequestToken token, int type);
     bool beginText(const UssdReply &text);
-    void ended(const UssdReply &reply, bool taken);
+    void ended(const UntakenText &text, bool taken);
     void becomeIdle();
     void postHeldTexts();
 
     EventService &m_service;
+    const std::function<void()> m_untakenCame;
     mutable std::mutex m_mutex; // guards everything below
     State m_state = State::Idle;
     RequestToken m_token = 0; // of the request in flight
     RequestToken m_lastToken = 0;
     std::vector<UssdReply> m_heldTexts; // came when a request was in flight or a session open
-    std::deque<UssdReply> m_untaken;
+    std::deque<UntakenText> m_untaken;
 };
 
 /// Whether the text begins with * or # and ends with #, and so opens a session.

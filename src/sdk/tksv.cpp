@@ -167,10 +167,15 @@ long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
         *info = TKSV_DeviceInfo();
         info->backend = from.backend;
         info->state = from.state;
+        info->problem = from.problem;
         info->signalPercent = from.signalPercent;
         info->canSendSMS = from.canSendSms ? 1 : 0;
+        info->pinRetries = from.pinRetries;
         copyText(from.operatorName, info->operatorName, sizeof info->operatorName);
         copyText(from.imsi, info->imsi, sizeof info->imsi);
+        copyText(from.simOperatorCode, info->simOperatorCode, sizeof info->simOperatorCode);
+        copyText(from.simOperatorName, info->simOperatorName, sizeof info->simOperatorName);
+        copyText(from.equipmentId, info->equipmentId, sizeof info->equipmentId);
         copyText(from.source, info->source, sizeof info->source);
         return Success;
     });
@@ -187,9 +192,60 @@ long TKSV_Device_SetInfoCallback(TKSV_DeviceInfoCallback callback, void *context
 long TKSV_Device_UseScenario(const char *path, char *message, unsigned long messageSize)
 {
     return guarded([&] {
-        const std::string complaints = DeviceSdk::instance().useScenario(path ? path : "");
+        const std::string complaints = DeviceSdk::instance().choice().useScenario(path ? path : "");
         if (message)
             copyText(complaints, message, messageSize);
         return resultOf(complaints.empty());
+    });
+}
+
+long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned long *count)
+{
+    if (!count || (!modems && capacity > 0))
+        return Failure;
+    return guarded([&] {
+        const std::vector<ModemSummary> found = DeviceSdk::instance().choice().modems();
+        const std::string inUse = DeviceSdk::instance().info().equipmentId;
+        *count = found.size();
+        for (std::size_t i = 0; i < found.size() && i < capacity; ++i) {
+            modems[i] = TKSV_Modem();
+            copyText(found[i].equipmentId, modems[i].equipmentId, sizeof modems[i].equipmentId);
+            copyText(found[i].name, modems[i].name, sizeof modems[i].name);
+            modems[i].isInUse = found[i].equipmentId == inUse ? 1 : 0;
+        }
+        return Success;
+    });
+}
+
+long TKSV_Device_UseModem(const char *equipmentId)
+{
+    return guarded([&] {
+        DeviceSdk::instance().choice().useModem(equipmentId ? equipmentId : "");
+        return Success;
+    });
+}
+
+long TKSV_Device_UseAutomatic(void)
+{
+    return guarded([] {
+        DeviceSdk::instance().choice().useAutomatic();
+        return Success;
+    });
+}
+
+long TKSV_Device_SendPin(const char *pin)
+{
+    return guarded([&] {
+        const std::string digits = pin ? pin : "";
+        const bool canBeOne = isDigits(digits) && digits.size() >= 4 && digits.size() <= 8;
+        return resultOf(canBeOne && DeviceSdk::instance().sendPin(digits));
+    });
+}
+
+long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context)
+{
+    return guarded([&] {
+        DeviceSdk::instance().setTextCallback(callback, context);
+        return Success;
     });
 }

@@ -317,6 +317,41 @@ void FakeSdk::tellInfo()
         m_infoCallback(m_infoContext);
 }
 
+void FakeSdk::setModems(const std::vector<TKSV_Modem> &modems)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_settings.modems = modems;
+    }
+    m_device.post([this] { tellInfo(); });
+}
+
+std::vector<TKSV_Modem> FakeSdk::modems() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_settings.modems;
+}
+
+void FakeSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
+{
+    const std::lock_guard<std::mutex> lock(m_infoMutex);
+    m_textCallback = callback;
+    m_textContext = context;
+}
+
+void FakeSdk::tellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt)
+{
+    m_device.post([=] {
+        TKSV_NetworkText record = {};
+        record.receivedAt = receivedAt;
+        record.waitsForAnswer = waitsForAnswer ? 1 : 0;
+        record.text = text.c_str();
+        const std::lock_guard<std::mutex> lock(m_infoMutex);
+        if (m_textCallback)
+            m_textCallback(m_textContext, &record);
+    });
+}
+
 void FakeSdk::setScenarioOutcome(long result, const std::string &message)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -48,6 +48,10 @@ public:
     void setDeviceInfo(const TKSV_DeviceInfo &info);
     TKSV_DeviceInfo deviceInfo() const;
     void setInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
+    void setModems(const std::vector<TKSV_Modem> &modems);
+    std::vector<TKSV_Modem> modems() const;
+    void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
+    void tellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt);
     void setScenarioOutcome(long result, const std::string &message);
     long useScenario(char *message, unsigned long messageSize) const;
 
@@ -72,6 +76,7 @@ private:
         std::vector<FakeAnswer> script; // the next one last
         std::vector<FakeAnswer> heldBack;
         TKSV_DeviceInfo info{};
+        std::vector<TKSV_Modem> modems;
         long scenarioResult = 0;
         std::string scenarioMessage;
         bool canSendSms = false;
@@ -99,6 +104,8 @@ private:
     std::mutex m_infoMutex;      // held while the info call-back runs
     TKSV_DeviceInfoCallback m_infoCallback = nullptr;
     void *m_infoContext = nullptr;
+    TKSV_NetworkTextCallback m_textCallback = nullptr;
+    void *m_textContext = nullptr;
     FakeDispatcher m_ussd;
     FakeDispatcher m_device;
     FakeDispatcher m_sms;

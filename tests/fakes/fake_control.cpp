@@ -191,6 +191,16 @@ void fakeSdkRaiseDeviceEvent(int event)
     device.post([&device, event] { device.deliver(event, nullptr); });
 }
 
+void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems)
+{
+    sdk().setModems(modems);
+}
+
+void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt)
+{
+    sdk().tellNetworkText(text, waitsForAnswer, receivedAt);
+}
+
 void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info)
 {
     sdk().setDeviceInfo(info);

@@ -165,6 +165,8 @@ private slots:
     void deviceEventIsRaised();
     void deviceInfoIsTold();
     void scenarioOutcomeIsTold();
+    void modemsAreTold();
+    void networkTextIsTold();
     void smsStatusIsRaisedOnRegistrationWhenReady();
     void smsResultCarriesBothTexts();
     void unknownSmsEventHasNullData();
@@ -470,6 +472,31 @@ void FakeSdkTest::scenarioOutcomeIsTold()
     QCOMPARE(message, "bad fil");
     QCOMPARE(fakeSdkCalls("TKSV_Device_UseScenario")[0].path, std::string("/a/b"));
     QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 4L);
+}
+
+void FakeSdkTest::modemsAreTold()
+{
+    TKSV_Modem modem = {};
+    std::strcpy(modem.equipmentId, "490154203237518");
+    fakeSdkSetModems({modem, modem});
+    TKSV_Modem read[1] = {};
+    unsigned long count = 0;
+    QCOMPARE(TKSV_Device_GetModems(read, 1, &count), 0L);
+    QCOMPARE(count, 2UL);
+    QCOMPARE(read[0].equipmentId, "490154203237518");
+    TKSV_Device_UseModem("490154203237518");
+    QCOMPARE(fakeSdkCalls("TKSV_Device_UseModem")[0].path, std::string("490154203237518"));
+}
+
+void FakeSdkTest::networkTextIsTold()
+{
+    static std::atomic<long long> toldAt(0);
+    TKSV_Device_SetTextCallback(
+        [](void *, const TKSV_NetworkText *text) { toldAt = text->receivedAt; }, nullptr);
+    fakeSdkTellNetworkText("news", true, 1234567);
+    QVERIFY(fakeSdkWaitIdle());
+    QCOMPARE(toldAt.load(), 1234567LL);
+    TKSV_Device_SetTextCallback(nullptr, nullptr);
 }
 
 void FakeSdkTest::smsStatusIsRaisedOnRegistrationWhenReady()

@@ -90,6 +90,44 @@ long TKSV_Device_UseScenario(const char *path, char *message, unsigned long mess
     return sdk().leave(ticket, sdk().useScenario(message, messageSize));
 }
 
+long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned long *count)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    const std::vector<TKSV_Modem> all = sdk().modems();
+    *count = all.size();
+    std::copy_n(all.begin(), std::min<std::size_t>(all.size(), capacity), modems);
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_UseModem(const char *equipmentId)
+{
+    FakeCall call = callOf(__func__);
+    call.path = equipmentId ? equipmentId : "";
+    const std::size_t ticket = sdk().enter(call);
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_UseAutomatic(void)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_SendPin(const char *pin)
+{
+    FakeCall call = callOf(__func__);
+    call.path = pin ? pin : "";
+    const std::size_t ticket = sdk().enter(call);
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    sdk().setTextCallback(callback, context);
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
 // ---- short messages ----------------------------------------------------------------------------
 
 long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback)

@@ -42,7 +42,7 @@ struct FakeCall {
     std::vector<unsigned char> bytes; ///< the 372 bytes of a request record
     std::u16string text;              ///< of a request or a short message
     std::u16string number;            ///< of a short message
-    std::string path;                 ///< of a scenario
+    std::string path;                 ///< of a scenario; a modem's identifier; a PIN
     const void *handle = nullptr;     ///< the SMS record
     TKSV_EventCallback callback = nullptr;
     bool returned = false; ///< false while the call is under way
@@ -146,6 +146,13 @@ FAKE_API void fakeSdkRaiseDeviceEvent(int event);
 
 /// What TKSV_Device_GetInfo tells from now on; the info call-back hears of it.
 FAKE_API void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info);
+
+/// What TKSV_Device_GetModems tells from now on; the info call-back hears of it.
+FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
+
+/// A text of the network's own, on the device's thread; dropped without a call-back.
+FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,
+                                     long long receivedAt);
 
 /// What TKSV_Device_UseScenario returns and says.
 FAKE_API void fakeSdkSetScenarioOutcome(long result, const std::string &message);

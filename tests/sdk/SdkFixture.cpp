@@ -165,4 +165,11 @@ long sendSms(const std::u16string &number, const std::u16string &text)
     return TKSV_SMSSrv_ReleaseSMSRecord(record) == 0 ? result : 2;
 }
 
+bool waitUntil(const std::function<bool()> &condition)
+{
+    for (int i = 0; i < 10000 && !condition(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return condition();
+}
+
 } // namespace SdkFixture

@@ -125,6 +125,9 @@ bool doInTime(int milliseconds, const std::function<void()> &prepare,
 
 long sendSms(const std::u16string &number, const std::u16string &text);
 
+/// Whether the condition has come true within ten seconds.
+bool waitUntil(const std::function<bool()> &condition);
+
 } // namespace SdkFixture
 
 #endif

@@ -26,6 +26,26 @@ void countInfo(void *context)
     static_cast<Gate *>(context)->open();
 }
 
+const char Offer[] = "[Push offer]\nAfter=0\nReply=An offer\n[Push offer/1]\nReply=Booked\n";
+
+Inbox<std::string> &networkTexts()
+{
+    static Inbox<std::string> inbox;
+    return inbox;
+}
+
+void onNetworkText(void *, const TKSV_NetworkText *text)
+{
+    networkTexts().add(text->text + std::string(text->waitsForAnswer ? "?" : "."));
+}
+
+std::atomic<int> notTaken(0);
+unsigned char takeNothing(int, void *)
+{
+    ++notTaken;
+    return 0;
+}
+
 } // namespace
 
 class SdkDevice : public QObject
@@ -36,6 +56,10 @@ private slots:
     void infoTellsOfTheScenario();
     void infoHidesWhatTheStateDoesNotGive_data();
     void infoHidesWhatTheStateDoesNotGive();
+    void pinUnlocksTheSim();
+    void pinsThatCannotBeAreRefused();
+    void textOfTheNetworkIsToldToTheDashboard();
+    void textThatCameBeforeIsToldAsWell();
     void nullInfoIsRefused();
     void badScenarioChangesNothing();
     void messageIsCutToItsSize();
@@ -87,6 +111,54 @@ void SdkDevice::infoHidesWhatTheStateDoesNotGive()
     QCOMPARE(info().canSendSMS, 0);
     QCOMPARE(*info().imsi != '\0', hasImsi);
     QCOMPARE(info().signalPercent >= 0, hasSignal);
+}
+
+void SdkDevice::pinUnlocksTheSim()
+{
+    QCOMPARE(useNetwork(std::string(Start) + "State=sim-locked\nPIN=4711\n"), std::string());
+    QCOMPARE(info().pinRetries, 3);
+    QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
+    QVERIFY(waitUntil([] { return info().pinRetries == 2; }));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_WRONG_PIN));
+    QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
+    QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED; }));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
+    QVERIFY(TKSV_Device_SendPin("4711") != 0); // nothing waits for it any more
+}
+
+void SdkDevice::pinsThatCannotBeAreRefused()
+{
+    QCOMPARE(useNetwork(std::string(Start) + "State=sim-locked\n"), std::string());
+    for (const char *pin : {"", "123", "123456789", "12a4", "\"\r12"})
+        QVERIFY2(TKSV_Device_SendPin(pin) != 0, pin);
+    QVERIFY(TKSV_Device_SendPin(nullptr) != 0);
+    QCOMPARE(info().pinRetries, 3);
+}
+
+void SdkDevice::textOfTheNetworkIsToldToTheDashboard()
+{
+    networkTexts().clear();
+    TKSV_Device_SetTextCallback(onNetworkText, nullptr);
+    QCOMPARE(useNetwork(std::string(Start) + Offer), std::string());
+    QVERIFY(networkTexts().waitFor(1));
+    QCOMPARE(networkTexts().all(), std::vector<std::string>{"An offer?"});
+    TKSV_Device_SetTextCallback(nullptr, nullptr);
+    registerAll();
+    QCOMPARE(QString::fromStdU16String(ask(u"1").text), QString::fromLatin1("Booked"));
+    unregisterAll();
+    received().clear();
+}
+
+void SdkDevice::textThatCameBeforeIsToldAsWell()
+{
+    networkTexts().clear();
+    TKSV_USSDSrv_RegisterUSSDCallback(takeNothing);
+    QCOMPARE(useNetwork(std::string(Start) + Offer), std::string());
+    QVERIFY(waitUntil([] { return notTaken > 0; }));
+    TKSV_USSDSrv_UnRegisterUSSDCallback(takeNothing);
+    TKSV_Device_SetTextCallback(onNetworkText, nullptr);
+    QVERIFY(networkTexts().waitFor(1));
+    TKSV_Device_SetTextCallback(nullptr, nullptr);
 }
 
 void SdkDevice::nullInfoIsRefused()

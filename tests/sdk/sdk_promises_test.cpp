@@ -84,14 +84,6 @@ bool deviceHasCaughtUp()
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
-/// Whether the condition has come true within ten seconds.
-bool waitUntil(const std::function<bool()> &condition)
-{
-    for (int i = 0; i < 10000 && !condition(); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    return condition();
-}
-
 /// A new network, which knows nothing of what was, and no responses so far.
 void startAfresh()
 {

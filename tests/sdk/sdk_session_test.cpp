@@ -30,6 +30,7 @@ public:
     }
     void endSession() override { ++ended; }
     bool sendSms(const SmsMessage &) override { return false; }
+    bool sendPin(const std::string &) override { return false; }
     DeviceInfo info() const override { return DeviceInfo(); }
 
     struct Seen {
@@ -46,7 +47,7 @@ public:
 class Listening
 {
 public:
-    Listening() : service("test"), session(service)
+    Listening() : service("test"), session(service, [this] { ++untakenCame; })
     {
         service.add(1, [this](int, void *data) {
             const auto *record = static_cast<const TKSV_USSDResponse *>(data);
@@ -54,6 +55,7 @@ public:
             return takes.load();
         });
     }
+    std::atomic<int> untakenCame{0};
     EventService service;
     UssdSession session;
     RecordingBackend backend;
@@ -109,8 +111,11 @@ void SdkSession::untakenTextIsKept()
     l.session.request(l.backend, "*1#");
     l.session.replyCame(l.backend.requests[1].token, {UssdFinal, "taken"});
     drain(l.service);
-    QCOMPARE(l.session.untakenTexts().size(), std::size_t(1));
-    QVERIFY(l.session.untakenTexts()[0].text == "nobody waits");
+    const std::vector<UntakenText> kept = l.session.takeUntakenTexts();
+    QCOMPARE(l.untakenCame.load(), 1);
+    QCOMPARE(kept.size(), std::size_t(1));
+    QVERIFY(kept[0].reply.text == "nobody waits");
+    QVERIFY(l.session.takeUntakenTexts().empty());
 }
 
 void SdkSession::untakenTextsAreLimited()
@@ -120,9 +125,9 @@ void SdkSession::untakenTextsAreLimited()
     for (int i = 0; i < 25; ++i)
         l.session.textCame({UssdFinal, std::to_string(i)});
     drain(l.service);
-    const std::vector<UssdReply> kept = l.session.untakenTexts();
+    const std::vector<UntakenText> kept = l.session.takeUntakenTexts();
     QCOMPARE(kept.size(), std::size_t(20));
-    QVERIFY(kept.front().text == "5" && kept.back().text == "24");
+    QVERIFY(kept.front().reply.text == "5" && kept.back().reply.text == "24");
 }
 
 void SdkSession::requestKindFollowsTheSession()

@@ -82,6 +82,8 @@ struct Scenario {
     std::string source; // the file
     std::string operatorName;
     std::string imsi;
+    std::string homeNetwork; // MCC and MNC; empty when unknown
+    std::string pin = "0000";
     int signalPercent = 75;
     TKSV_DeviceState state = TKSV_DEVICE_REGISTERED;
     Milliseconds delay = Milliseconds(0);

@@ -11,8 +11,6 @@ namespace
 {
 
 const int MaxMilliseconds = 24 * 60 * 60 * 1000;
-const std::size_t MaxImsiDigits = 15;
-const std::size_t MinImsiDigits = 6;
 const std::size_t MaxMoneyDigits = 9; // whole units; keeps sums far away from overflow
 const int MaxCodeDigits = 182;
 
@@ -104,10 +102,10 @@ Amount ScenarioValue::amount() const
     return value.value_or(0);
 }
 
-std::string ScenarioValue::imsi() const
+std::string ScenarioValue::digits(std::size_t fewest, std::size_t most) const
 {
-    if (!isDigits(text()) || text().size() < MinImsiDigits || text().size() > MaxImsiDigits)
-        expected("6 to 15 digits");
+    if (!isDigits(text()) || text().size() < fewest || text().size() > most)
+        expected(std::to_string(fewest) + " to " + std::to_string(most) + " digits");
     return text();
 }
 
@@ -117,7 +115,7 @@ int ScenarioValue::deviceEvent() const
     return word(events);
 }
 
-void ScenarioValue::digits(std::size_t &fewest, std::size_t &most) const
+void ScenarioValue::digitCount(std::size_t &fewest, std::size_t &most) const
 {
     const std::size_t dash = text().find('-');
     const std::string last = dash == std::string::npos ? text() : text().substr(dash + 1);

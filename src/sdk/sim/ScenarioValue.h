@@ -41,10 +41,9 @@ public:
     /// A number of milliseconds, or "never".
     AwayTime away() const;
     Amount amount() const;
-    /// 6 to 15 digits (3GPP TS 23.003).
-    std::string imsi() const;
+    std::string digits(std::size_t fewest, std::size_t most) const;
     int deviceEvent() const;
-    void digits(std::size_t &fewest, std::size_t &most) const;
+    void digitCount(std::size_t &fewest, std::size_t &most) const;
     void credit(Rule &rule) const;
 
     template <typename T, std::size_t N>

@@ -11,6 +11,7 @@ namespace
 {
 
 const Amount HundredthsInUnit = 100;
+const int PinRetries = 3;              // as any SIM (ETSI TS 102 221, 9.5.1)
 const std::size_t MaxAmountDigits = 9; // more is more than anybody has
 
 /// The type of a reply without text.
@@ -49,7 +50,7 @@ Amount creditOf(const Rule &rule, const std::string &digits)
 SimulatedNetwork::SimulatedNetwork(Scenario scenario)
     : m_scenario(std::move(scenario)), m_state(m_scenario.state),
       m_signalPercent(m_scenario.signalPercent), m_smsReady(m_scenario.smsReady),
-      m_balance(m_scenario.balance.value_or(0))
+      m_pinRetries(PinRetries), m_balance(m_scenario.balance.value_or(0))
 {
 }
 
@@ -115,6 +116,15 @@ bool SimulatedNetwork::sendSms(const SmsMessage &message)
     return true;
 }
 
+bool SimulatedNetwork::sendPin(const std::string &pin)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_state != TKSV_DEVICE_SIM_LOCKED || m_pinRetries == 0)
+        return false;
+    schedule(m_scenario.delay, [this, pin](News &news) { tryPin(pin, news); });
+    return true;
+}
+
 DeviceInfo SimulatedNetwork::info() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -124,8 +134,15 @@ DeviceInfo SimulatedNetwork::info() const
     info.source = m_scenario.source;
     if (isRegistered())
         info.operatorName = m_scenario.operatorName;
-    if (m_state >= TKSV_DEVICE_DISABLED) // the SIM has been read
+    if (m_state >= TKSV_DEVICE_DISABLED) { // the SIM has been read
         info.imsi = m_scenario.imsi;
+        info.simOperatorCode = m_scenario.homeNetwork;
+        info.simOperatorName = m_scenario.operatorName;
+    }
+    if (m_state == TKSV_DEVICE_SIM_LOCKED) {
+        info.problem = m_problem;
+        info.pinRetries = m_pinRetries;
+    }
     if (m_state >= TKSV_DEVICE_SEARCHING)
         info.signalPercent = m_signalPercent;
     return info;
@@ -287,6 +304,20 @@ void SimulatedNetwork::setState(TKSV_DeviceState state, News &news)
         endSmsInFlight(news);
     closeSession();
     tellSmsStatus(couldSend, news);
+    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+}
+
+void SimulatedNetwork::tryPin(const std::string &pin, News &news)
+{
+    if (m_state != TKSV_DEVICE_SIM_LOCKED || m_pinRetries == 0)
+        return;
+    if (pin == m_scenario.pin) {
+        m_problem = TKSV_PROBLEM_NONE;
+        m_pinRetries = PinRetries;
+        setState(TKSV_DEVICE_REGISTERED, news);
+        return;
+    }
+    m_problem = --m_pinRetries > 0 ? TKSV_PROBLEM_WRONG_PIN : TKSV_PROBLEM_PUK_NEEDED;
     news.push_back([](BackendObserver &o) { o.infoChanged(); });
 }
 

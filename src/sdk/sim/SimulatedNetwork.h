@@ -25,6 +25,7 @@ public:
     int request(RequestToken token, RequestKind kind, const std::string &text) override;
     void endSession() override;
     bool sendSms(const SmsMessage &message) override;
+    bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
 private:
@@ -57,6 +58,7 @@ private:
     void push(const std::string &group, News &news);
     void apply(const TimedEvent &event, News &news);
     void setState(TKSV_DeviceState state, News &news);
+    void tryPin(const std::string &pin, News &news);
     void loseDevice(int event, AwayTime away, News &news);
     void endSmsInFlight(News &news);
     void tellSmsStatus(bool before, News &news);
@@ -71,6 +73,8 @@ private:
     TKSV_DeviceState m_state;
     int m_signalPercent;
     bool m_smsReady;
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;
+    int m_pinRetries;
     Amount m_balance;
     RequestToken m_inFlight = 0;
     OpenMenu m_menu;

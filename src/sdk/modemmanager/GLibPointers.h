@@ -1,0 +1,65 @@
+#ifndef TKSV_INTERNAL_GLIBPOINTERS_H
+#define TKSV_INTERNAL_GLIBPOINTERS_H
+
+#include <gio/gio.h>
+#include <memory>
+#include <string>
+
+/* Owners for what GLib hands out. */
+
+namespace tksv
+{
+
+struct GObjectDeleter {
+    void operator()(void *object) const { g_object_unref(object); }
+};
+struct GErrorDeleter {
+    void operator()(GError *error) const { g_error_free(error); }
+};
+struct GFreeDeleter {
+    void operator()(void *memory) const { g_free(memory); }
+};
+struct GVariantDeleter {
+    void operator()(GVariant *variant) const { g_variant_unref(variant); }
+};
+
+template <typename T>
+using GObjectPtr = std::unique_ptr<T, GObjectDeleter>;
+using GErrorPtr = std::unique_ptr<GError, GErrorDeleter>;
+using GVariantPtr = std::unique_ptr<GVariant, GVariantDeleter>;
+template <typename T>
+using GMemory = std::unique_ptr<T, GFreeDeleter>;
+
+/// One more owner of an object that somebody else holds; null stays null.
+template <typename T>
+GObjectPtr<T> shareObject(T *object)
+{
+    return GObjectPtr<T>(object ? static_cast<T *>(g_object_ref(object)) : nullptr);
+}
+
+/// Empty for null.
+inline std::string textOf(const char *text)
+{
+    return text ? text : "";
+}
+
+/** Takes the GError of a call that fails. */
+class ErrorSlot
+{
+public:
+    ~ErrorSlot() { g_clear_error(&m_error); }
+    ErrorSlot() = default;
+    ErrorSlot(const ErrorSlot &) = delete;
+    ErrorSlot &operator=(const ErrorSlot &) = delete;
+
+    GError **slot() { return &m_error; }
+    const GError *get() const { return m_error; }
+    explicit operator bool() const { return m_error != nullptr; }
+
+private:
+    GError *m_error = nullptr;
+};
+
+} // namespace tksv
+
+#endif

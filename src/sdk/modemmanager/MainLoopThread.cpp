@@ -1,0 +1,119 @@
+#include "MainLoopThread.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <utility>
+
+namespace tksv
+{
+
+namespace
+{
+
+using Task = std::function<void()>;
+
+gboolean runTask(gpointer task)
+{
+    (*static_cast<Task *>(task))();
+    return G_SOURCE_REMOVE;
+}
+
+void deleteTask(gpointer task)
+{
+    delete static_cast<Task *>(task);
+}
+
+/** Shut until it is opened. */
+class Latch
+{
+public:
+    void open()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_open = true;
+        m_changed.notify_all();
+    }
+    void wait()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_open; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_open = false;
+};
+
+} // namespace
+
+MainLoopThread::MainLoopThread(const char *name)
+    : m_name(name), m_context(g_main_context_new()), m_loop(g_main_loop_new(m_context, FALSE))
+{
+}
+
+MainLoopThread::~MainLoopThread()
+{
+    stop([] {});
+    g_main_loop_unref(m_loop);
+    g_main_context_unref(m_context);
+}
+
+void MainLoopThread::start()
+{
+    m_thread.start(m_name, [this] { loop(); });
+}
+
+void MainLoopThread::loop()
+{
+    g_main_context_push_thread_default(m_context);
+    g_main_loop_run(m_loop);
+    // Calls that were cancelled at the end still tell of it, and so give back what they hold.
+    while (g_main_context_iteration(m_context, FALSE)) {
+    }
+    g_main_context_pop_thread_default(m_context);
+}
+
+void MainLoopThread::post(Task task)
+{
+    attach(g_idle_source_new(), std::move(task));
+}
+
+void MainLoopThread::after(std::chrono::milliseconds delay, Task task)
+{
+    attach(g_timeout_source_new(static_cast<guint>(delay.count())), std::move(task));
+}
+
+/// g_main_context_invoke() would run the task on the caller's thread before the loop has begun.
+void MainLoopThread::attach(GSource *source, Task task)
+{
+    g_source_set_priority(source, G_PRIORITY_DEFAULT);
+    g_source_set_callback(source, runTask, new Task(std::move(task)), deleteTask);
+    g_source_attach(source, m_context);
+    g_source_unref(source);
+}
+
+void MainLoopThread::run(const Task &task)
+{
+    if (isCurrent())
+        return task();
+    Latch done;
+    post([&] {
+        task();
+        done.open();
+    });
+    done.wait();
+}
+
+void MainLoopThread::stop(const Task &last)
+{
+    if (!m_thread.isStarted())
+        return;
+    post([this, last] {
+        last();
+        g_main_loop_quit(m_loop);
+    });
+    m_thread.finish(NoLimit);
+}
+
+} // namespace tksv

@@ -1,0 +1,185 @@
+#include "ModemDevice.h"
+
+#include <utility>
+
+#include "ModemWatch.h"
+#include "UssdErrors.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+TKSV_DeviceState stateOf(MMModemState state)
+{
+    if (state == MM_MODEM_STATE_LOCKED)
+        return TKSV_DEVICE_SIM_LOCKED;
+    if (state >= MM_MODEM_STATE_REGISTERED)
+        return TKSV_DEVICE_REGISTERED;
+    return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
+}
+
+/// -1 when unknown.
+int pinRetriesOf(MMModem *modem)
+{
+    MMUnlockRetries *retries = mm_modem_peek_unlock_retries(modem);
+    const guint left =
+        retries ? mm_unlock_retries_get(retries, MM_MODEM_LOCK_SIM_PIN) : MM_UNLOCK_RETRIES_UNKNOWN;
+    return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
+}
+
+int signalOf(MMModem *modem)
+{
+    gboolean isRecent = FALSE;
+    return static_cast<int>(mm_modem_get_signal_quality(modem, &isRecent));
+}
+
+} // namespace
+
+ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener)
+    : m_listener(std::move(listener)), m_object(std::move(object)),
+      m_ussd(std::make_shared<UssdChannel>(
+          thread, UssdChannel::Listener{m_listener.replied, m_listener.networkSaid,
+                                        [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }})),
+      m_sms(std::make_shared<SmsSender>(SmsSender::Listener{
+          m_listener.smsFinished, [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }}))
+{
+}
+
+void ModemDevice::refresh()
+{
+    m_modem = shareObject(mm_object_peek_modem(m_object.get()));
+    m_3gpp = shareObject(mm_object_peek_modem_3gpp(m_object.get()));
+    m_modemSignals.disconnectAll();
+    for (gpointer proxy : {gpointer(m_modem.get()), gpointer(m_3gpp.get())})
+        m_modemSignals.onPropertiesChanged(proxy, [this](GVariant *) { modemChanged(); });
+    m_ussd->setInterface(mm_object_peek_modem_3gpp_ussd(m_object.get()));
+    m_sms->setInterface(mm_object_peek_modem_messaging(m_object.get()));
+    modemChanged();
+}
+
+void ModemDevice::modemChanged()
+{
+    if (!m_modem)
+        return;
+    if (mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_DISABLED)
+        enable();
+    fetchSim();
+    m_listener.changed();
+}
+
+/// Only once: whoever switches the modem off later means it.
+void ModemDevice::enable()
+{
+    if (std::exchange(m_enableTried, true))
+        return;
+    const auto done = [this](GObject *modem, GAsyncResult *result) {
+        ErrorSlot error;
+        mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());
+        if (error && isNotPermitted(*error.get()))
+            problemIs(TKSV_PROBLEM_NOT_PERMITTED);
+    };
+    mm_modem_enable(m_modem.get(), nullptr, runAsyncDone,
+                    asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void ModemDevice::fetchSim()
+{
+    const std::string path = textOf(mm_modem_get_sim_path(m_modem.get()));
+    if (path == m_simPath)
+        return;
+    m_simPath = path;
+    const auto done = [this](GObject *modem, GAsyncResult *result) {
+        ErrorSlot ignored; // without a SIM its lines stay empty
+        m_sim.reset(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
+        m_simSignals.disconnectAll();
+        m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
+        m_listener.changed();
+    };
+    mm_modem_get_sim(m_modem.get(), nullptr, runAsyncDone,
+                     asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void ModemDevice::sendPin(const std::string &pin)
+{
+    m_problem = TKSV_PROBLEM_NONE;
+    if (!m_sim)
+        return problemIs(TKSV_PROBLEM_MODEM_FAILED);
+    const auto done = [this](GObject *sim, GAsyncResult *result) {
+        ErrorSlot error;
+        mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
+        problemIs(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
+    };
+    mm_sim_send_pin(m_sim.get(), pin.c_str(), nullptr, runAsyncDone,
+                    asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void ModemDevice::giveUp()
+{
+    m_ussd->giveUp();
+    m_sms->giveUp();
+}
+
+void ModemDevice::problemIs(TKSV_DeviceProblem problem)
+{
+    m_problem = problem;
+    m_listener.changed();
+}
+
+/* ---- what is known ----------------------------------------------------------------------- */
+
+DeviceInfo ModemDevice::info() const
+{
+    DeviceInfo info;
+    info.backend = TKSV_BACKEND_MODEMMANAGER;
+    info.state = state();
+    info.problem = problem();
+    info.equipmentId = equipmentIdOf(m_object.get());
+    if (!m_modem)
+        return info;
+    info.source = nameOf(m_modem.get());
+    info.pinRetries = isLocked() ? pinRetriesOf(m_modem.get()) : -1;
+    if (info.state >= TKSV_DEVICE_SEARCHING)
+        info.signalPercent = signalOf(m_modem.get());
+    if (info.state == TKSV_DEVICE_REGISTERED && m_3gpp)
+        info.operatorName = textOf(mm_modem_3gpp_get_operator_name(m_3gpp.get()));
+    info.canSendSms = info.state == TKSV_DEVICE_REGISTERED && m_sms->isUsable();
+    if (m_sim) {
+        info.imsi = textOf(mm_sim_get_imsi(m_sim.get()));
+        info.simOperatorCode = textOf(mm_sim_get_operator_identifier(m_sim.get()));
+        info.simOperatorName = textOf(mm_sim_get_operator_name(m_sim.get()));
+    }
+    return info;
+}
+
+bool ModemDevice::isLocked() const
+{
+    return m_modem && mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_LOCKED;
+}
+
+TKSV_DeviceState ModemDevice::state() const
+{
+    if (!m_modem)
+        return TKSV_DEVICE_ABSENT;
+    const MMModemState state = mm_modem_get_state(m_modem.get());
+    if (state == MM_MODEM_STATE_FAILED &&
+        mm_modem_get_state_failed_reason(m_modem.get()) == MM_MODEM_STATE_FAILED_REASON_SIM_MISSING)
+        return TKSV_DEVICE_SIM_MISSING;
+    return stateOf(state);
+}
+
+TKSV_DeviceProblem ModemDevice::problem() const
+{
+    const TKSV_DeviceState now = state();
+    if (isLocked() && mm_modem_get_unlock_required(m_modem.get()) != MM_MODEM_LOCK_SIM_PIN)
+        return TKSV_PROBLEM_PUK_NEEDED;
+    if (m_modem && now != TKSV_DEVICE_SIM_MISSING &&
+        mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_FAILED)
+        return TKSV_PROBLEM_MODEM_FAILED;
+    if (now == TKSV_DEVICE_REGISTERED && !m_ussd->isUsable())
+        return TKSV_PROBLEM_NO_USSD;
+    return m_problem;
+}
+
+} // namespace tksv

@@ -1,0 +1,214 @@
+#include "ModemManagerBackend.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "../Text.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+bool canEndAtCommand(unsigned char unit)
+{
+    return unit < 0x20 || unit == 0x7f || unit == '"';
+}
+
+} // namespace
+
+bool isSaneForModem(const std::string &text)
+{
+    return std::none_of(text.begin(), text.end(), canEndAtCommand);
+}
+
+ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmentId)
+    : m_watch(watch), m_equipmentId(std::move(equipmentId))
+{
+    m_info.backend = TKSV_BACKEND_MODEMMANAGER;
+}
+
+/* ---- any thread -------------------------------------------------------------------------- */
+
+void ModemManagerBackend::start(BackendObserver &observer)
+{
+    post([this, &observer] {
+        m_observer = &observer;
+        modemsChanged();
+    });
+}
+
+void ModemManagerBackend::stop()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (std::exchange(m_stopped, true))
+            return;
+    }
+    m_watch.thread().run([this] {
+        m_observer = nullptr;
+        if (m_device)
+            m_device->ussd().endSession();
+        m_device.reset();
+    });
+}
+
+int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std::string &text)
+{
+    if (!isSaneForModem(text))
+        return RequestMalformed;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_info.state != TKSV_DEVICE_REGISTERED ||
+        m_info.problem == TKSV_PROBLEM_NO_USSD)
+        return RequestNoDevice;
+    post([this, token, kind, text] {
+        if (m_device)
+            return m_device->ussd().request(token, kind, text);
+        if (m_observer) // gone in between
+            m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
+    });
+    return RequestAccepted;
+}
+
+void ModemManagerBackend::endSession()
+{
+    post([this] {
+        if (m_device)
+            m_device->ussd().endSession();
+    });
+}
+
+bool ModemManagerBackend::sendSms(const SmsMessage &message)
+{
+    if (!toUtf8(message.number) || !toUtf8(message.text))
+        return false;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || !m_info.canSendSms)
+        return false;
+    post([this, message] {
+        if (m_device)
+            return m_device->sms().send(message);
+        if (m_observer)
+            m_observer->smsFinished(message, SmsFailed);
+    });
+    return true;
+}
+
+bool ModemManagerBackend::sendPin(const std::string &pin)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_info.state != TKSV_DEVICE_SIM_LOCKED)
+        return false;
+    post([this, pin] {
+        if (m_device)
+            m_device->sendPin(pin);
+    });
+    return true;
+}
+
+DeviceInfo ModemManagerBackend::info() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_info;
+}
+
+void ModemManagerBackend::post(std::function<void()> task)
+{
+    m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
+}
+
+/* ---- the watch's thread ------------------------------------------------------------------ */
+
+/// A modem stays in use until it has gone, even when the chosen one is any.
+void ModemManagerBackend::modemsChanged()
+{
+    if (!m_observer)
+        return;
+    GObjectPtr<MMObject> wanted = m_watch.findAt(m_device ? m_device->path() : std::string());
+    if (m_device && !wanted)
+        drop();
+    if (!m_device && (wanted = m_watch.find(m_equipmentId)))
+        take(std::move(wanted));
+    if (m_device)
+        m_device->refresh();
+    publish();
+}
+
+void ModemManagerBackend::take(GObjectPtr<MMObject> object)
+{
+    ModemDevice::Listener listener;
+    listener.changed = [this] { publish(); };
+    listener.replied = [this](RequestToken token, const UssdReply &reply) {
+        if (m_observer)
+            m_observer->ussdReply(token, reply);
+    };
+    listener.networkSaid = [this](const UssdReply &text) {
+        if (m_observer)
+            m_observer->ussdText(text);
+    };
+    listener.smsFinished = [this](const SmsMessage &message, int result) {
+        if (m_observer)
+            m_observer->smsFinished(message, result);
+    };
+    m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
+}
+
+/// The modem has been unplugged, or the service has ended and will find it anew.
+void ModemManagerBackend::drop()
+{
+    const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
+    const bool serviceEnded = m_watch.state() != ServiceState::Running;
+    m_observer->deviceLost(serviceEnded ? TKSV_DEV_EVENT_RESET : TKSV_DEV_EVENT_GONE);
+    gone->sms().giveUp();
+    publish();
+}
+
+void ModemManagerBackend::publish()
+{
+    if (!m_observer)
+        return;
+    const DeviceInfo now = picture();
+    DeviceInfo before;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        before = std::exchange(m_info, now);
+    }
+    compare(before, now);
+}
+
+/// What runs fails with the registration: its outcome could not reach the modem any more.
+void ModemManagerBackend::compare(const DeviceInfo &before, const DeviceInfo &now)
+{
+    if (before == now)
+        return;
+    if (before.state == TKSV_DEVICE_REGISTERED && now.state != before.state && m_device)
+        m_device->giveUp();
+    if (before.canSendSms != now.canSendSms)
+        m_observer->smsStatusChanged(now.canSendSms);
+    m_observer->infoChanged();
+}
+
+DeviceInfo ModemManagerBackend::picture() const
+{
+    if (m_device)
+        return m_device->info();
+    DeviceInfo info;
+    info.backend = TKSV_BACKEND_MODEMMANAGER;
+    info.problem = problemWithoutModem();
+    return info;
+}
+
+TKSV_DeviceProblem ModemManagerBackend::problemWithoutModem() const
+{
+    switch (m_watch.state()) {
+    case ServiceState::NoBus:
+        return TKSV_PROBLEM_NO_BUS;
+    case ServiceState::NoService:
+        return TKSV_PROBLEM_NO_SERVICE;
+    default:
+        return m_watch.modems().empty() ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_CHOSEN_ABSENT;
+    }
+}
+
+} // namespace tksv

@@ -1,0 +1,194 @@
+#include "ModemWatch.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace tksv
+{
+
+namespace
+{
+
+/// ".../Modem/12" is newer than ".../Modem/3".
+long numberOf(MMObject *object)
+{
+    const std::string path = textOf(mm_object_get_path(object));
+    return std::strtol(path.c_str() + path.rfind('/') + 1, nullptr, 10);
+}
+
+/// Empty when there is no such bus.
+std::string systemBusAddress()
+{
+    ErrorSlot error;
+    const GMemory<char> address(
+        g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, error.slot()));
+    return textOf(address.get());
+}
+
+} // namespace
+
+std::string nameOf(MMModem *modem)
+{
+    const std::string maker = textOf(mm_modem_get_manufacturer(modem));
+    const std::string model = textOf(mm_modem_get_model(modem));
+    return maker.empty() || model.empty() ? maker + model : maker + " " + model;
+}
+
+std::string equipmentIdOf(MMObject *object)
+{
+    MMModem *modem = mm_object_peek_modem(object);
+    if (!modem)
+        return std::string();
+    const std::string imei = textOf(mm_modem_get_equipment_identifier(modem));
+    return imei.empty() ? textOf(mm_modem_get_device_identifier(modem)) : imei;
+}
+
+ModemWatch::ModemWatch(Changed changed) : m_thread("tksv-modems"), m_changed(std::move(changed)) {}
+
+void ModemWatch::start()
+{
+    if (!std::exchange(m_started, true))
+        m_thread.start();
+    m_thread.post([this] { connectToBus(); });
+}
+
+void ModemWatch::stop(const std::function<void()> &last)
+{
+    m_thread.stop([this, &last] {
+        last();
+        m_cancellable.reset();
+        m_signals.disconnectAll();
+        m_manager.reset();
+        if (m_bus) // the end of a session that was open still has to go out
+            g_dbus_connection_flush_sync(m_bus.get(), nullptr, nullptr);
+        m_bus.reset();
+    });
+}
+
+/// A connection of its own: the shared one of g_bus_get() would end the program with the bus.
+void ModemWatch::connectToBus()
+{
+    if (m_bus || m_cancellable)
+        return;
+    const std::string address = systemBusAddress();
+    m_cancellable = std::make_unique<Cancellable>();
+    const AsyncDone done = [this](GObject *, GAsyncResult *result) {
+        ErrorSlot error;
+        const GObjectPtr<GDBusConnection> bus(
+            g_dbus_connection_new_for_address_finish(result, error.slot()));
+        if (bus || !g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
+            connected(bus.get());
+    };
+    const auto flags =
+        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    g_dbus_connection_new_for_address(address.c_str(), flags, nullptr, m_cancellable->get(),
+                                      runAsyncDone, asyncDone(done));
+}
+
+void ModemWatch::connected(GDBusConnection *bus)
+{
+    if (!bus) {
+        m_cancellable.reset(); // start() may try again
+        return setState(ServiceState::NoBus);
+    }
+    m_bus = shareObject(bus);
+    m_signals.on(bus, "closed", [this] { setState(ServiceState::NoBus); });
+    const AsyncDone done = [this](GObject *, GAsyncResult *result) {
+        ErrorSlot error;
+        const GObjectPtr<MMManager> manager(mm_manager_new_finish(result, error.slot()));
+        if (manager)
+            madeManager(manager.get());
+        else if (!g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
+            setState(ServiceState::NoBus);
+    };
+    // Whether a service of the system runs is not for this library to decide.
+    mm_manager_new(bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START, m_cancellable->get(),
+                   runAsyncDone, asyncDone(done));
+}
+
+void ModemWatch::madeManager(MMManager *manager)
+{
+    m_manager = shareObject(manager);
+    for (const char *signal : {"object-added", "object-removed", "interface-added",
+                               "interface-removed", "notify::name-owner"})
+        m_signals.on(manager, signal, [this] { look(); });
+    look();
+}
+
+void ModemWatch::look()
+{
+    std::vector<ModemSummary> modems;
+    for (const GObjectPtr<MMObject> &object : objects())
+        modems.push_back(
+            ModemSummary{equipmentIdOf(object.get()), nameOf(mm_object_peek_modem(object.get()))});
+    const GMemory<char> owner(
+        g_dbus_object_manager_client_get_name_owner(G_DBUS_OBJECT_MANAGER_CLIENT(m_manager.get())));
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_modems = std::move(modems);
+    }
+    setState(owner ? ServiceState::Running : ServiceState::NoService);
+}
+
+/// Those that have told who they are, the oldest first.
+std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
+{
+    std::vector<GObjectPtr<MMObject>> found;
+    GList *all = m_manager
+                     ? g_dbus_object_manager_get_objects(G_DBUS_OBJECT_MANAGER(m_manager.get()))
+                     : nullptr;
+    for (GList *item = all; item; item = item->next) {
+        GObjectPtr<MMObject> object(MM_OBJECT(item->data));
+        if (!equipmentIdOf(object.get()).empty())
+            found.push_back(std::move(object));
+    }
+    g_list_free(all);
+    std::sort(found.begin(), found.end(),
+              [](const GObjectPtr<MMObject> &a, const GObjectPtr<MMObject> &b) {
+                  return numberOf(a.get()) < numberOf(b.get());
+              });
+    return found;
+}
+
+GObjectPtr<MMObject> ModemWatch::find(const std::string &equipmentId) const
+{
+    for (GObjectPtr<MMObject> &object : objects()) {
+        if (equipmentId.empty() || equipmentIdOf(object.get()) == equipmentId)
+            return std::move(object);
+    }
+    return nullptr;
+}
+
+GObjectPtr<MMObject> ModemWatch::findAt(const std::string &path) const
+{
+    for (GObjectPtr<MMObject> &object : objects()) {
+        if (textOf(mm_object_get_path(object.get())) == path)
+            return std::move(object);
+    }
+    return nullptr;
+}
+
+std::vector<ModemSummary> ModemWatch::modems() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_modems;
+}
+
+ServiceState ModemWatch::state() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_state;
+}
+
+void ModemWatch::setState(ServiceState state)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_state = state;
+    }
+    m_changed();
+}
+
+} // namespace tksv

@@ -1,0 +1,113 @@
+#include "SmsSender.h"
+
+#include <utility>
+
+#include "../Text.h"
+#include "UssdErrors.h"
+
+namespace tksv
+{
+
+namespace
+{
+
+/// As with commands, the client decides how long it waits for the outcome.
+const int NoTimeLimit = G_MAXINT;
+
+GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)
+{
+    GObjectPtr<MMSmsProperties> properties(mm_sms_properties_new());
+    const std::string number = toUtf8(message.number).value_or(std::string());
+    const std::string text = toUtf8(message.text).value_or(std::string());
+    mm_sms_properties_set_number(properties.get(), number.c_str());
+    mm_sms_properties_set_text(properties.get(), text.c_str());
+    return properties;
+}
+
+} // namespace
+
+SmsSender::SmsSender(Listener listener) : m_listener(std::move(listener)) {}
+
+void SmsSender::setInterface(MMModemMessaging *messaging)
+{
+    if (messaging == m_messaging.get())
+        return;
+    m_messaging = shareObject(messaging);
+    if (m_messaging)
+        g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(messaging), NoTimeLimit);
+}
+
+void SmsSender::send(const SmsMessage &message)
+{
+    const Id id = ++m_lastId;
+    m_onTheirWay[id] = message;
+    if (!m_messaging)
+        return finish(id, nullptr);
+    const auto done = [this, id](GObject *messaging, GAsyncResult *result) {
+        ErrorSlot error;
+        const GObjectPtr<MMSms> sms(
+            mm_modem_messaging_create_finish(MM_MODEM_MESSAGING(messaging), result, error.slot()));
+        created(id, sms.get(), error.get());
+    };
+    mm_modem_messaging_create(m_messaging.get(), propertiesOf(message).get(), nullptr, runAsyncDone,
+                              asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void SmsSender::created(Id id, MMSms *sms, const GError *error)
+{
+    if (!sms)
+        return finish(id, error);
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NoTimeLimit);
+    const auto done = [this, id](GObject *source, GAsyncResult *result) {
+        ErrorSlot failure;
+        mm_sms_send_finish(MM_SMS(source), result, failure.slot());
+        sent(id, MM_SMS(source), failure.get());
+    };
+    mm_sms_send(sms, nullptr, runAsyncDone, asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void SmsSender::sent(Id id, MMSms *sms, const GError *error)
+{
+    remove(sms);
+    const auto found = m_onTheirWay.find(id);
+    if (error || found == m_onTheirWay.end())
+        return finish(id, error);
+    const SmsMessage message = found->second;
+    m_onTheirWay.erase(found);
+    m_listener.finished(message, SmsSent);
+}
+
+/// Sent or not, the SIM's few places are not for keeping it; a failure leaves the record behind.
+void SmsSender::remove(MMSms *sms)
+{
+    if (!m_messaging)
+        return;
+    const AsyncDone done = [](GObject *messaging, GAsyncResult *result) {
+        ErrorSlot ignored;
+        mm_modem_messaging_delete_finish(MM_MODEM_MESSAGING(messaging), result, ignored.slot());
+    };
+    mm_modem_messaging_delete(m_messaging.get(), mm_sms_get_path(sms), nullptr, runAsyncDone,
+                              asyncDone(done));
+}
+
+/// The message was not sent; without an error because the modem cannot.
+void SmsSender::finish(Id id, const GError *error)
+{
+    const auto found = m_onTheirWay.find(id);
+    if (found == m_onTheirWay.end())
+        return; // has been given up
+    const SmsMessage message = found->second;
+    m_onTheirWay.erase(found);
+    if (error && isNotPermitted(*error))
+        m_listener.notPermitted();
+    m_listener.finished(message, SmsFailed);
+}
+
+void SmsSender::giveUp()
+{
+    const std::map<Id, SmsMessage> lost = std::exchange(m_onTheirWay, {});
+    for (const auto &entry : lost)
+        m_listener.finished(entry.second, SmsFailed);
+}
+
+} // namespace tksv
