@@ -94,7 +94,7 @@ void ModemWatch::connected(GDBusConnection *bus)
         return setState(ServiceState::NoBus);
     }
     m_bus = shareObject(bus);
-    m_signals.on(bus, "closed", [this] { setState(ServiceState::NoBus); });
+    m_signals.on(bus, "closed", [this] { busClosed(); });
     const AsyncDone done = [this](GObject *, GAsyncResult *result) {
         ErrorSlot error;
         const GObjectPtr<MMManager> manager(mm_manager_new_finish(result, error.slot()));
@@ -106,6 +106,20 @@ void ModemWatch::connected(GDBusConnection *bus)
     // Whether a service of the system runs is not for this library to decide.
     mm_manager_new(bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START, m_cancellable->get(),
                    runAsyncDone, asyncDone(done));
+}
+
+/// GLib keeps the objects; start() may try again.
+void ModemWatch::busClosed()
+{
+    m_signals.disconnectAll();
+    m_manager.reset();
+    m_bus.reset();
+    m_cancellable.reset();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_modems.clear();
+    }
+    setState(ServiceState::NoBus);
 }
 
 void ModemWatch::madeManager(MMManager *manager)

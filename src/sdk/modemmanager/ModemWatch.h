@@ -58,6 +58,7 @@ public:
 private:
     void connectToBus();
     void connected(GDBusConnection *bus);
+    void busClosed();
     void madeManager(MMManager *manager);
     void look();
     std::vector<GObjectPtr<MMObject>> objects() const;
