@@ -1,0 +1,164 @@
+#include "ProviderChoice.h"
+
+namespace
+{
+
+const int LONGEST_NETWORK = 6;
+const int SHORTEST_NETWORK = 5;
+const int LONGEST_SIM_NAME = 64; // characters that are looked at
+
+QList<Provider> withNetwork(const QList<Provider> &providers, const QString &network)
+{
+    QList<Provider> found;
+    for (int i = 0; i < providers.count(); ++i) {
+        if (providers.at(i).networks.contains(network))
+            found << providers.at(i);
+    }
+    return found;
+}
+
+QList<Provider> ofCountry(const QList<Provider> &providers, const QString &country)
+{
+    QList<Provider> found;
+    for (int i = 0; i < providers.count(); ++i) {
+        if (providers.at(i).country.compare(country, Qt::CaseInsensitive) == 0)
+            found << providers.at(i);
+    }
+    return found;
+}
+
+bool isNamed(const Provider &provider, const QString &name)
+{
+    for (int i = 0; i < provider.names.count(); ++i) {
+        if (isSameProviderName(provider.names.at(i).text, name))
+            return true;
+    }
+    return false;
+}
+
+QList<Provider> named(const QList<Provider> &providers, const QString &name)
+{
+    QList<Provider> found;
+    for (int i = 0; i < providers.count(); ++i) {
+        if (isNamed(providers.at(i), name))
+            found << providers.at(i);
+    }
+    return found;
+}
+
+/// The name's letters and digits in one case, without accents.
+QString comparable(const QString &name)
+{
+    const QString parts = name.normalized(QString::NormalizationForm_KD).toCaseFolded();
+    QString result;
+    for (int i = 0; i < parts.length(); ++i) {
+        if (parts.at(i).isLetterOrNumber())
+            result += parts.at(i);
+    }
+    return result;
+}
+
+ProviderChoice choiceOf(const QList<Provider> &candidates)
+{
+    ProviderChoice choice;
+    choice.candidates = candidates;
+    if (!candidates.isEmpty())
+        choice.state = candidates.count() == 1 ? ProviderChoice::Chosen : ProviderChoice::Ambiguous;
+    return choice;
+}
+
+/// A person named the operator; the network, and then the SIM, only tell apart who is named alike.
+ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
+{
+    if (candidates.count() > 1 && !query.network.isEmpty()) {
+        const QList<Provider> fitting = withNetwork(candidates, query.network);
+        if (!fitting.isEmpty())
+            candidates = fitting;
+    }
+    return choiceOf(candidates);
+}
+
+/// "Telekom.de" begins with "Telekom", but "Telekomik" does not.
+bool beginsWithName(const QString &simName, const QString &name)
+{
+    for (int end = 1; end <= simName.length(); ++end) {
+        const bool wordEnds = end == simName.length() || !simName.at(end).isLetterOrNumber();
+        if (wordEnds && isSameProviderName(simName.left(end), name))
+            return true;
+    }
+    return false;
+}
+
+QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
+{
+    QList<Provider> found;
+    for (int i = 0; i < providers.count(); ++i) {
+        const QList<ProviderName> &names = providers.at(i).names;
+        for (int n = 0; n < names.count(); ++n) {
+            if (beginsWithName(simName.left(LONGEST_SIM_NAME), names.at(n).text)) {
+                found << providers.at(i);
+                break;
+            }
+        }
+    }
+    return found;
+}
+
+/// A name that only begins alike may be that of a guest on the network, so it never decides between
+/// several; a name that none has may be that of an operator that the database does not know.
+ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
+{
+    if (comparable(simName).isEmpty())
+        return choiceOf(candidates);
+    const QList<Provider> same = named(candidates, simName);
+    if (!same.isEmpty())
+        return choiceOf(same);
+    const QList<Provider> alike = begun(candidates, simName);
+    ProviderChoice choice = choiceOf(alike.isEmpty() ? candidates : alike);
+    const bool confirmed = candidates.count() == 1 && alike.count() == 1;
+    if (choice.state == ProviderChoice::Chosen && !confirmed)
+        choice.state = ProviderChoice::Ambiguous;
+    return choice;
+}
+
+bool isDigitsOnly(const QString &text)
+{
+    for (int i = 0; i < text.length(); ++i) {
+        if (text.at(i) < QLatin1Char('0') || text.at(i) > QLatin1Char('9'))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQuery &query)
+{
+    QList<Provider> candidates = database.providers;
+    if (query.network.isEmpty() && query.country.isEmpty() && query.provider.isEmpty())
+        return ProviderChoice();
+    if (!query.country.isEmpty())
+        candidates = ofCountry(candidates, query.country);
+    if (!query.provider.isEmpty())
+        return narrowed(named(candidates, query.provider), query);
+    if (!query.network.isEmpty())
+        candidates = withNetwork(candidates, query.network);
+    return proposed(candidates, query.simName);
+}
+
+QString networkOfImsi(const ProviderDatabase &database, const QString &imsi)
+{
+    for (int length = LONGEST_NETWORK; length >= SHORTEST_NETWORK; --length) {
+        const QString network = imsi.left(length);
+        if (network.length() == length && isDigitsOnly(network) &&
+            !withNetwork(database.providers, network).isEmpty())
+            return network;
+    }
+    return QString();
+}
+
+bool isSameProviderName(const QString &a, const QString &b)
+{
+    const QString letters = comparable(a);
+    return !letters.isEmpty() && letters == comparable(b);
+}

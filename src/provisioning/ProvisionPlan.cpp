@@ -1,0 +1,219 @@
+#include "ProvisionPlan.h"
+
+#include "UssdTemplate.h"
+
+namespace
+{
+
+// Of the general window's buttons, by their place in the file of profiles.
+const int FIRST_PAYMENT_SLOT = 9;
+const int PAYMENT_BUTTONS = 2; // the last two buttons take the number entered, whatever their code
+
+/** One kind of code, and the keys of what the plug-in calls it. */
+struct Kind {
+    const char *name;
+    const char *textKey;
+    const char *descriptionKey;
+};
+
+const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DESC"};
+const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
+const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
+
+const QLatin1String PLACEHOLDER("%s"); // what the user enters goes there
+
+bool isMessageNumber(const QString &text)
+{
+    for (int i = text.startsWith(QLatin1Char('+')) ? 1 : 0; i < text.length(); ++i) {
+        if (text.at(i) < QLatin1Char('0') || text.at(i) > QLatin1Char('9'))
+            return false;
+    }
+    return text != QLatin1String("+");
+}
+
+/** Collects what the plan is made of. */
+class Planner
+{
+public:
+    Planner(const Provider &provider, const QString &network);
+    ProvisionPlan plan();
+
+private:
+    QString take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput);
+    QString takeUssd(const ProviderCode &code, const Kind &kind, bool withInput);
+    void takeResponse(const ProviderCode &code, const Kind &kind);
+    void takeMessage(const ProviderCode &code, const Kind &kind);
+    void addProfile(const QString &code, const Kind &kind);
+    bool hasProfile(const QString &code) const;
+    void nameApart(const Kind &kind);
+    void note(const ProviderCode &code, const QString &what);
+    void placeButtons();
+    void placePrefixes(const QString &network);
+
+    const Provider &m_provider;
+    ProvisionPlan m_plan;
+};
+
+Planner::Planner(const Provider &provider, const QString &network) : m_provider(provider)
+{
+    m_plan.country = provider.country;
+    m_plan.provider = provider.name();
+    m_plan.network = network;
+}
+
+ProvisionPlan Planner::plan()
+{
+    m_plan.balance = take(m_provider.balance, BALANCE, false);
+    m_plan.ownNumber = take(m_provider.ownNumber, OWN_NUMBER, false);
+    m_plan.topUp = take(m_provider.topUp, TOP_UP, true);
+    placeButtons();
+    placePrefixes(m_plan.network);
+    return m_plan;
+}
+
+/// Takes them all; returns the first for the account window, which needs one with or one without
+/// input.
+QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
+{
+    QString first;
+    for (int i = 0; i < codes.count(); ++i) {
+        const ProviderCode &code = codes.at(i);
+        if (code.way == ProviderCode::Sms)
+            takeMessage(code, kind);
+        else if (code.way == ProviderCode::UssdResponse)
+            takeResponse(code, kind);
+        else if (code.way == ProviderCode::Dtmf)
+            note(code, QLatin1String("is asked for by a call to ") + code.code);
+        else if (first.isEmpty())
+            first = takeUssd(code, kind, withInput);
+        else
+            takeUssd(code, kind, withInput);
+    }
+    nameApart(kind);
+    return first;
+}
+
+/// Empty unless the account window can use it.
+QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withInput)
+{
+    const UssdTemplate ussd = ussdTemplate(code);
+    if (!ussd.problem.isEmpty()) {
+        note(code, ussd.problem);
+        return QString();
+    }
+    addProfile(ussd.code, kind);
+    return ussd.takesInput == withInput ? ussd.code : QString();
+}
+
+/// The network answers with a menu, so it is for the general window alone.
+void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
+{
+    if (isUssdCode(code.code) && code.code.length() <= LONGEST_USSD_COMMAND)
+        addProfile(code.code, kind);
+    else
+        note(code, QString::fromLatin1("the menu wants the answer \"%1\"").arg(code.code));
+}
+
+void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
+{
+    if (code.smsText.isEmpty())
+        return note(code, QString::fromLatin1("the message to %1 has no text").arg(code.code));
+    if (!isMessageNumber(code.code) || code.smsText.contains(PLACEHOLDER))
+        return note(code, QString::fromLatin1("a message \"%1\" to \"%2\" cannot be sent")
+                              .arg(code.smsText, code.code));
+    PlannedMessage message;
+    message.textKey = QLatin1String(kind.textKey);
+    message.explanation =
+        code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") + code.code; // reads on in Arabic too
+    message.text = code.smsText;
+    message.number = code.code;
+    m_plan.messages << message;
+}
+
+void Planner::addProfile(const QString &code, const Kind &kind)
+{
+    if (hasProfile(code))
+        return;
+    PlannedProfile profile;
+    profile.name = QLatin1String(kind.name);
+    profile.code = code;
+    profile.textKey = QLatin1String(kind.textKey);
+    profile.descriptionKey = QLatin1String(kind.descriptionKey);
+    m_plan.profiles << profile;
+}
+
+bool Planner::hasProfile(const QString &code) const
+{
+    for (int i = 0; i < m_plan.profiles.count(); ++i) {
+        if (m_plan.profiles.at(i).code == code)
+            return true;
+    }
+    return false;
+}
+
+/// Several of a kind are told apart by what they send.
+void Planner::nameApart(const Kind &kind)
+{
+    const QString key = QLatin1String(kind.textKey);
+    int count = 0;
+    for (int i = 0; i < m_plan.messages.count(); ++i)
+        count += m_plan.messages.at(i).textKey == key ? 1 : 0;
+    for (int i = 0; i < m_plan.messages.count(); ++i) {
+        PlannedMessage &message = m_plan.messages[i];
+        if (count > 1 && message.textKey == key)
+            message.textKey = message.explanation;
+    }
+    bool isFirst = true;
+    for (int i = 0; i < m_plan.profiles.count(); ++i) {
+        PlannedProfile &profile = m_plan.profiles[i];
+        if (profile.textKey != key)
+            continue;
+        if (!isFirst) { // the description stays: it says what the code is for
+            profile.name = profile.code;
+            profile.textKey.clear();
+        }
+        isFirst = false;
+    }
+}
+
+void Planner::note(const ProviderCode &code, const QString &what)
+{
+    m_plan.notes << QString::fromLatin1("line %1: ").arg(code.line) + what;
+}
+
+/// The general window's last two buttons send nothing until a number was entered. So a code without
+/// input gets a button only in front of two that take one; otherwise it stands in the list of
+/// codes.
+void Planner::placeButtons()
+{
+    QList<PlannedProfile> plain;
+    QList<PlannedProfile> paying;
+    for (int i = 0; i < m_plan.profiles.count(); ++i) {
+        const PlannedProfile &profile = m_plan.profiles.at(i);
+        (profile.code.contains(PLACEHOLDER) ? paying : plain) << profile;
+    }
+    const bool plainToo = paying.count() >= PAYMENT_BUTTONS;
+    for (int i = 0; i < plain.count(); ++i)
+        plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
+    for (int i = 0; i < paying.count(); ++i)
+        paying[i].showButton = i < PAYMENT_BUTTONS;
+    // Buttons beyond the eleventh place do not come, so the paying ones stand in front of the rest.
+    const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
+    m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
+                      paying.mid(PAYMENT_BUTTONS);
+}
+
+void Planner::placePrefixes(const QString &network)
+{
+    m_plan.imsiPrefixes = m_provider.networks;
+    if (!network.isEmpty() && !m_plan.imsiPrefixes.contains(network))
+        m_plan.imsiPrefixes << network;
+    m_plan.imsiPrefixes.sort();
+}
+
+} // namespace
+
+ProvisionPlan provisionPlan(const Provider &provider, const QString &network)
+{
+    return Planner(provider, network).plan();
+}

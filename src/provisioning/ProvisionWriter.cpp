@@ -1,0 +1,333 @@
+#include "ProvisionWriter.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "FileSteps.h"
+
+namespace
+{
+
+const QLatin1String PLUGINS("/plugins");
+const QLatin1String IN_USE("/plugins/USSDUIPlugin");
+const QLatin1String SETS("/provisioned");
+const QLatin1String LINKED_SETS("../provisioned/"); // as seen from the link
+const QLatin1String LOCK("/provisioned/.lock");
+const QLatin1String UNFINISHED(".new");
+const QLatin1String PLUGIN_FILE("/libUSSDUIPlugin.so");
+
+const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+/// The number of a set of files from its folder's name; 0 when it is none.
+int setNumber(const QString &name)
+{
+    bool ok = false;
+    const int number = name.toInt(&ok);
+    return ok && number > 0 && QString::number(number) == name ? number : 0;
+}
+
+ProvisionRecord recordOf(const QString &filesFolder)
+{
+    return provisionRecordFrom(
+        FileSteps::content(filesFolder + QLatin1Char('/') + provisionRecordName()));
+}
+
+bool isOurs(const QString &filesFolder, const QString &name, const ProvisionRecord &record)
+{
+    const QString path = filesFolder + QLatin1Char('/') + name;
+    if (QLatin1Char('/') + name == PLUGIN_FILE)
+        return QFileInfo(path).isSymLink();
+    if (name == provisionRecordName())
+        return record.isValid();
+    return record.files.contains(name) && !QFileInfo(path).isSymLink() &&
+           QFileInfo(path).isFile() &&
+           provisionChecksum(FileSteps::content(path)) == record.files.value(name);
+}
+
+/// What somebody has changed or added; all of it when the record is damaged.
+QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
+{
+    QStringList changed;
+    const QStringList names = QDir(filesFolder).entryList(ALL, QDir::Name);
+    for (int i = 0; i < names.count(); ++i) {
+        if (!isOurs(filesFolder, names.at(i), record))
+            changed << names.at(i);
+    }
+    return changed;
+}
+
+bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
+{
+    const QStringList names = record.files.keys();
+    for (int i = 0; i < names.count(); ++i) {
+        if (!QFileInfo(filesFolder + QLatin1Char('/') + names.at(i)).isFile())
+            return false;
+    }
+    return record.isValid();
+}
+
+/// Removes what is as it was written, and the folder when nothing else is in it.
+void removeUnchanged(const QString &filesFolder)
+{
+    const ProvisionRecord record = recordOf(filesFolder);
+    if (!changedIn(filesFolder, record).isEmpty())
+        return; // a person's file keeps the record that tells which one it is
+    const QStringList names = QDir(filesFolder).entryList(ALL);
+    for (int i = 0; i < names.count(); ++i) {
+        if (names.at(i) != provisionRecordName() && isOurs(filesFolder, names.at(i), record))
+            QFile::remove(filesFolder + QLatin1Char('/') + names.at(i));
+    }
+    QFile::remove(filesFolder + QLatin1Char('/') + provisionRecordName());
+    QDir().rmdir(filesFolder);
+}
+
+/// What a killed process left unfinished was never in use, and its name says whose it is.
+void removeUnfinished(const QString &filesFolder)
+{
+    const QStringList names = QDir(filesFolder).entryList(ALL);
+    for (int i = 0; i < names.count(); ++i)
+        QFile::remove(filesFolder + QLatin1Char('/') + names.at(i));
+    QDir().rmdir(filesFolder);
+}
+
+/** Writes one set of files; holds the lock while it lives. */
+class Writer
+{
+public:
+    Writer(const ProvisionOrder &order, const ProvisionPlan &plan, const ProvisionFiles &files);
+    ProvisionOutcome write();
+
+private:
+    bool prepare();
+    void makeRecord();
+    bool isSame() const;
+    bool mayReplace();
+    void relink();
+    void install();
+    int nextNumber() const;
+    bool makeSet(const QString &unfinished);
+    bool linkPlugin(const QString &filesFolder);
+    bool putInUse(int number);
+    void tidyUp(int inUse);
+    QStringList changedPaths() const;
+    ProvisionOutcome ended(ProvisionOutcome::State state, const QString &problem = QString());
+
+    const ProvisionOrder &m_order;
+    const ProvisionPlan &m_plan;
+    const ProvisionFiles &m_files;
+    ProvisionRecord m_record;
+    Provision m_old;
+    ProvisionOutcome m_outcome;
+};
+
+Writer::Writer(const ProvisionOrder &order, const ProvisionPlan &plan, const ProvisionFiles &files)
+    : m_order(order), m_plan(plan), m_files(files)
+{
+    makeRecord();
+}
+
+void Writer::makeRecord()
+{
+    m_record.country = m_plan.country;
+    m_record.provider = m_plan.provider;
+    m_record.network = m_plan.network;
+    m_record.files.insert(ProvisionFiles::configurationName(),
+                          provisionChecksum(m_files.configuration));
+    m_record.files.insert(ProvisionFiles::profilesName(), provisionChecksum(m_files.profiles));
+}
+
+ProvisionOutcome Writer::write()
+{
+    if (!m_files.error.isEmpty() || m_files.configuration.isEmpty() || m_files.profiles.isEmpty())
+        return ended(ProvisionOutcome::Failed, QLatin1String("there is nothing to write"));
+    if (!prepare())
+        return ended(ProvisionOutcome::Failed, m_outcome.problem);
+    const FileSteps::Lock lock(m_order.folder + LOCK);
+    if (!lock.isHeld())
+        return ended(ProvisionOutcome::Failed,
+                     m_order.folder + LOCK + QLatin1String(": it cannot be locked"));
+    m_old = readProvision(m_order.folder);
+    m_outcome.changedFiles = changedPaths();
+    if (m_old.isForeign)
+        return ended(ProvisionOutcome::Refused,
+                     m_order.folder + IN_USE +
+                         QLatin1String(" was not provisioned; it is left as it is"));
+    if (isSame() && hasAll(m_old.filesFolder, m_old.record)) {
+        relink();
+        return m_outcome;
+    }
+    if (!mayReplace())
+        return ended(ProvisionOutcome::Refused,
+                     QLatin1String("somebody has changed ") +
+                         m_outcome.changedFiles.join(QLatin1String(", ")) +
+                         QLatin1String("; nothing was written"));
+    install();
+    return m_outcome;
+}
+
+bool Writer::prepare()
+{
+    return FileSteps::makeFolder(m_order.folder + PLUGINS, m_outcome.problem) &&
+           FileSteps::makeFolder(m_order.folder + SETS, m_outcome.problem);
+}
+
+bool Writer::isSame() const
+{
+    return m_old.record.isValid() && m_old.record.files == m_record.files &&
+           m_old.record.country == m_record.country && m_old.record.provider == m_record.provider &&
+           m_old.record.network == m_record.network;
+}
+
+bool Writer::mayReplace()
+{
+    return m_old.changedFiles.isEmpty() || m_order.setChangedAside;
+}
+
+/// The files stay; the plug-in may have moved since.
+void Writer::relink()
+{
+    ended(ProvisionOutcome::Current);
+    tidyUp(setNumber(QFileInfo(m_old.filesFolder).fileName()));
+    const QString path = m_old.filesFolder + PLUGIN_FILE;
+    if (m_order.pluginLibrary.isEmpty() || FileSteps::linkTarget(path) == m_order.pluginLibrary)
+        return;
+    const QString beside = m_order.folder + SETS + PLUGIN_FILE + UNFINISHED;
+    QFile::remove(beside);
+    if (!FileSteps::link(m_order.pluginLibrary, beside, m_outcome.problem) ||
+        !FileSteps::rename(beside, path, m_outcome.problem))
+        m_outcome.state = ProvisionOutcome::Failed;
+}
+
+void Writer::install()
+{
+    const int number = nextNumber();
+    const QString place = m_order.folder + SETS + QLatin1Char('/') + QString::number(number);
+    removeUnfinished(place + UNFINISHED);
+    const bool made = makeSet(place + UNFINISHED) &&
+                      FileSteps::rename(place + UNFINISHED, place, m_outcome.problem) &&
+                      FileSteps::syncFolder(m_order.folder + SETS, m_outcome.problem) &&
+                      putInUse(number);
+    if (!made) {
+        removeUnfinished(place + UNFINISHED);
+        return void(ended(ProvisionOutcome::Failed, m_outcome.problem));
+    }
+    ended(ProvisionOutcome::Written);
+    if (!m_old.changedFiles.isEmpty())
+        m_outcome.keptFolder = m_old.filesFolder;
+    tidyUp(number);
+}
+
+int Writer::nextNumber() const
+{
+    int highest = 0;
+    const QStringList names = QDir(m_order.folder + SETS).entryList(ALL);
+    for (int i = 0; i < names.count(); ++i)
+        highest = qMax(highest, setNumber(names.at(i)));
+    return highest + 1;
+}
+
+bool Writer::makeSet(const QString &unfinished)
+{
+    QString &problem = m_outcome.problem;
+    const QString folder = unfinished + QLatin1Char('/');
+    return FileSteps::makeFolder(unfinished, problem) &&
+           FileSteps::writeNew(folder + ProvisionFiles::configurationName(), m_files.configuration,
+                               problem) &&
+           FileSteps::writeNew(folder + ProvisionFiles::profilesName(), m_files.profiles,
+                               problem) &&
+           FileSteps::writeNew(folder + provisionRecordName(), provisionRecordText(m_record),
+                               problem) &&
+           linkPlugin(unfinished) && FileSteps::syncFolder(unfinished, problem);
+}
+
+bool Writer::linkPlugin(const QString &filesFolder)
+{
+    return m_order.pluginLibrary.isEmpty() ||
+           FileSteps::link(m_order.pluginLibrary, filesFolder + PLUGIN_FILE, m_outcome.problem);
+}
+
+/// From here on, and not before, the plug-in finds the new files.
+bool Writer::putInUse(int number)
+{
+    const QString path = m_order.folder + IN_USE;
+    QFile::remove(path + UNFINISHED);
+    return FileSteps::link(LINKED_SETS + QString::number(number), path + UNFINISHED,
+                           m_outcome.problem) &&
+           FileSteps::rename(path + UNFINISHED, path, m_outcome.problem) &&
+           FileSteps::syncFolder(m_order.folder + PLUGINS, m_outcome.problem);
+}
+
+/// Also what killed processes have left.
+void Writer::tidyUp(int inUse)
+{
+    const QString sets = m_order.folder + SETS + QLatin1Char('/');
+    const QStringList names = QDir(sets).entryList(ALL);
+    for (int i = 0; i < names.count(); ++i) {
+        const QString &name = names.at(i);
+        if (name.endsWith(UNFINISHED) &&
+            setNumber(name.left(name.length() - QString(UNFINISHED).length())))
+            removeUnfinished(sets + name);
+        else if (setNumber(name) && setNumber(name) != inUse)
+            removeUnchanged(sets + name);
+    }
+}
+
+QStringList Writer::changedPaths() const
+{
+    QStringList paths;
+    for (int i = 0; i < m_old.changedFiles.count(); ++i)
+        paths << m_old.filesFolder + QLatin1Char('/') + m_old.changedFiles.at(i);
+    return paths;
+}
+
+ProvisionOutcome Writer::ended(ProvisionOutcome::State state, const QString &problem)
+{
+    m_outcome.state = state;
+    m_outcome.problem = problem;
+    return m_outcome;
+}
+
+} // namespace
+
+bool Provision::isUsable() const
+{
+    return !isForeign && record.isValid() && hasAll(filesFolder, record);
+}
+
+Provision readProvision(const QString &folder)
+{
+    Provision provision;
+    const QString place = folder + IN_USE;
+    if (!FileSteps::exists(place))
+        return provision;
+    const QString target = FileSteps::linkTarget(place);
+    const QString name = target.mid(QString(LINKED_SETS).length());
+    if (!target.startsWith(LINKED_SETS) || !setNumber(name)) {
+        provision.isForeign = true;
+        return provision;
+    }
+    provision.filesFolder = folder + SETS + QLatin1Char('/') + name;
+    provision.record = recordOf(provision.filesFolder);
+    provision.changedFiles = changedIn(provision.filesFolder, provision.record);
+    return provision;
+}
+
+ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
+                                const ProvisionFiles &files)
+{
+    return Writer(order, plan, files).write();
+}
+
+QString operatorsFolder()
+{
+    const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
+    const QString data = chosen.startsWith(QLatin1Char('/'))
+                             ? chosen
+                             : QDir::homePath() + QLatin1String("/.local/share");
+    return data + QLatin1String("/ussd-dashboard/operators");
+}
+
+QString operatorFolder(const QString &operators, const QString &network)
+{
+    return operators + QLatin1Char('/') + network;
+}

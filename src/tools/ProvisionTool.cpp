@@ -1,0 +1,247 @@
+#include "ProvisionTool.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "InstallPaths.h"
+#include "ProviderChoice.h"
+#include "ProvisionWriter.h"
+#include "TerminalText.h"
+
+namespace
+{
+
+const char HELP[] =
+    "Usage: ussd-provision --network CODE [--sim-name NAME] [OPTION...]\n"
+    "       ussd-provision --country CC --provider NAME [OPTION...]\n"
+    "       ussd-provision --list [--country CC] [--network CODE]\n"
+    "\n"
+    "Makes the plug-in's configuration and codes for one mobile operator.\n"
+    "\n"
+    "  --network CODE    country and network code of the SIM card, such as 26207\n"
+    "  --sim-name NAME   what the SIM card calls its operator\n"
+    "  --country CC      the operator's country, such as de\n"
+    "  --provider NAME   the operator's name\n"
+    "  --folder DIR      where to write to; by default a folder of the user's\n"
+    "  --set-aside       put new files into use although somebody has changed the old\n"
+    "                    ones, which are kept\n"
+    "  --database FILE   the database of operators\n"
+    "  --list            print the operators and their codes, write nothing\n"
+    "  --help, -h        tell this\n"
+    "  --version         tell the version\n"
+    "\n"
+    "Exit status: 0 done, 1 failed, 2 wrong arguments or database, 3 several operators\n"
+    "fit and none was chosen, 4 files that somebody has changed stand in the way.";
+
+QStringList list(const char *blankSeparated)
+{
+    return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
+}
+
+int fail(const QString &text, ToolExit status)
+{
+    printErrorLine(QLatin1String("ussd-provision: ") + text);
+    return status;
+}
+
+bool isNetwork(const QString &text)
+{
+    bool isNumber = false;
+    text.toUInt(&isNumber);
+    return isNumber && (text.length() == 5 || text.length() == 6) &&
+           text.at(0).isDigit(); // toUInt() takes blanks and signs too
+}
+
+/// What is wrong with the arguments as a whole; empty when nothing is.
+QString complaintAbout(const ToolArguments &arguments)
+{
+    if (!arguments.error.isEmpty())
+        return arguments.error;
+    if (!arguments.words.isEmpty())
+        return QString::fromLatin1("\"%1\" is not expected").arg(arguments.words.first());
+    if (arguments.has("--network") && !isNetwork(arguments.value("--network")))
+        return QLatin1String("--network wants five or six digits");
+    const bool named = arguments.has("--country") && arguments.has("--provider");
+    if (!arguments.has("--list") && !arguments.has("--network") && !named)
+        return QLatin1String("--network is needed, or --country with --provider");
+    return QString();
+}
+
+ProviderQuery queryOf(const ToolArguments &arguments)
+{
+    ProviderQuery query;
+    query.network = arguments.value("--network");
+    query.simName = arguments.value("--sim-name");
+    query.country = arguments.value("--country");
+    query.provider = arguments.value("--provider");
+    return query;
+}
+
+// ---- printing ------------------------------------------------------------------------------
+
+QString orDash(const QString &text)
+{
+    return text.isEmpty() ? QString(QLatin1Char('-')) : text;
+}
+
+/// Country, name, balance, top-up, own number and networks, separated by tabs.
+void printProvider(const Provider &provider)
+{
+    const ProvisionPlan plan = provisionPlan(provider);
+    const QStringList columns = QStringList()
+                                << provider.country << provider.name() << orDash(plan.balance)
+                                << orDash(plan.topUp) << orDash(plan.ownNumber)
+                                << orDash(provider.networks.join(QLatin1String(",")));
+    printLine(columns.join(QString(QLatin1Char('\t'))));
+}
+
+void printProviders(const QList<Provider> &providers)
+{
+    for (int i = 0; i < providers.count(); ++i)
+        printProvider(providers.at(i));
+}
+
+void printPlan(const ProvisionPlan &plan)
+{
+    printLine(QString::fromLatin1("balance     %1").arg(orDash(plan.balance)));
+    printLine(QString::fromLatin1("top-up      %1").arg(orDash(plan.topUp)));
+    printLine(QString::fromLatin1("own number  %1").arg(orDash(plan.ownNumber)));
+    for (int i = 0; i < plan.messages.count(); ++i)
+        printLine(QLatin1String("message     ") + plan.messages.at(i).explanation);
+    printLine(QLatin1String("SIM cards   ") + orDash(plan.imsiPrefixes.join(QLatin1String(" "))));
+    for (int i = 0; i < plan.notes.count(); ++i)
+        printLine(QLatin1String("not used    ") + plan.notes.at(i));
+}
+
+void printComplaints(const QString &file, const ProviderDatabase &database)
+{
+    for (int i = 0; i < database.complaints.count(); ++i) {
+        const ProviderComplaint &complaint = database.complaints.at(i);
+        printErrorLine(QString::fromLatin1("%1:%2:%3: %4")
+                           .arg(file)
+                           .arg(complaint.line)
+                           .arg(complaint.column)
+                           .arg(complaint.text));
+    }
+}
+
+// ---- doing ---------------------------------------------------------------------------------
+
+QString installedFolder()
+{
+    return InstallPaths::pluginLibrary() + QLatin1String("/plugins/USSDUIPlugin/");
+}
+
+/// Without a network code there is no other short name for the folder than the operator's own.
+QString folderOf(const ToolArguments &arguments, const ProvisionPlan &plan)
+{
+    if (arguments.has("--folder"))
+        return QDir::cleanPath(QDir().absoluteFilePath(arguments.value("--folder")));
+    if (!plan.network.isEmpty())
+        return operatorFolder(operatorsFolder(), plan.network);
+    QString name = plan.country + QLatin1Char('-') + plan.provider.toLower();
+    for (int i = 0; i < name.length(); ++i) {
+        if (!name.at(i).isLetterOrNumber())
+            name[i] = QLatin1Char('-');
+    }
+    return operatorFolder(operatorsFolder(), name);
+}
+
+ProvisionOrder orderOf(const ToolArguments &arguments, const ProvisionPlan &plan)
+{
+    ProvisionOrder order;
+    order.folder = folderOf(arguments, plan);
+    order.setChangedAside = arguments.has("--set-aside");
+    const QString plugin =
+        QFileInfo(installedFolder() + QLatin1String("libUSSDUIPlugin.so")).canonicalFilePath();
+    order.pluginLibrary = plugin;
+    return order;
+}
+
+int report(const ProvisionOrder &order, const ProvisionPlan &plan, const ProvisionOutcome &outcome)
+{
+    if (outcome.state == ProvisionOutcome::Failed)
+        return fail(outcome.problem, TOOL_BAD);
+    if (outcome.state == ProvisionOutcome::Refused)
+        return fail(outcome.problem + QLatin1String("; --folder chooses another folder, "
+                                                    "--set-aside keeps those files aside"),
+                    TOOL_REFUSED);
+    const bool isNew = outcome.state == ProvisionOutcome::Written;
+    printLine(plan.provider + QLatin1String(" (") + plan.country +
+              QLatin1String(isNew ? "): written" : "): there already"));
+    printPlan(plan);
+    if (!outcome.keptFolder.isEmpty())
+        printLine(QLatin1String("kept        ") + outcome.keptFolder);
+    else if (!outcome.changedFiles.isEmpty())
+        printLine(QLatin1String("changed     ") + outcome.changedFiles.join(QLatin1String(" ")));
+    printLine(QLatin1String("USSD_PLUGIN_LIBRARY_PATH=") + order.folder);
+    return TOOL_GOOD;
+}
+
+int provision(const ToolArguments &arguments, const Provider &provider)
+{
+    const ProvisionPlan plan = provisionPlan(provider, arguments.value("--network"));
+    if (plan.isEmpty()) {
+        printPlan(plan);
+        return fail(QString::fromLatin1("the database has no code of %1 that the plug-in can use")
+                        .arg(provider.name()),
+                    TOOL_BAD);
+    }
+    const QString shipped = installedFolder() + ProvisionFiles::configurationName();
+    QFile file(shipped);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(shipped + QLatin1String(": ") + file.errorString(), TOOL_BAD);
+    const ProvisionFiles files = provisionFiles(plan, file.readAll());
+    if (!files.error.isEmpty())
+        return fail(shipped + QLatin1String(": ") + files.error, TOOL_BAD);
+    const ProvisionOrder order = orderOf(arguments, plan);
+    return report(order, plan, writeProvision(order, plan, files));
+}
+
+int choose(const ToolArguments &arguments, const ProviderDatabase &database)
+{
+    const ProviderChoice choice = chooseProvider(database, queryOf(arguments));
+    switch (choice.state) {
+    case ProviderChoice::None:
+        return fail(QLatin1String("the database has no such operator"), TOOL_BAD);
+    case ProviderChoice::Ambiguous:
+        printProviders(choice.candidates);
+        return fail(QLatin1String("choose one of these with --country and --provider"),
+                    TOOL_CHOOSE);
+    case ProviderChoice::Chosen:
+        break;
+    }
+    return provision(arguments, choice.candidates.first());
+}
+
+int printList(const ToolArguments &arguments, const ProviderDatabase &database)
+{
+    const ProviderQuery query = queryOf(arguments);
+    const bool all = query.network.isEmpty() && query.country.isEmpty() && query.provider.isEmpty();
+    printProviders(all ? database.providers : chooseProvider(database, query).candidates);
+    return TOOL_GOOD;
+}
+
+} // namespace
+
+int runProvisionTool(const QStringList &words)
+{
+    const ToolArguments arguments =
+        parseToolArguments(words, list("--list --set-aside --help -h --version"),
+                           list("--network --sim-name --country --provider --folder --database"));
+    if (arguments.has("--help") || arguments.has("-h"))
+        return printLine(QLatin1String(HELP)), TOOL_GOOD;
+    if (arguments.has("--version"))
+        return printLine(QLatin1String("ussd-provision " USSD_VERSION)), TOOL_GOOD;
+    const QString complaint = complaintAbout(arguments);
+    if (!complaint.isEmpty())
+        return fail(complaint + QLatin1String("; see --help"), TOOL_USAGE);
+    const QString path =
+        arguments.has("--database") ? arguments.value("--database") : installedProviderDatabase();
+    const ProviderDatabase database = readProviderDatabaseFile(path);
+    if (!database.error.isEmpty())
+        return fail(path + QLatin1String(": ") + database.error, TOOL_USAGE);
+    printComplaints(path, database);
+    return arguments.has("--list") ? printList(arguments, database) : choose(arguments, database);
+}

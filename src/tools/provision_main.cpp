@@ -1,0 +1,6 @@
+#include "ProvisionTool.h"
+
+int main(int argc, char **argv)
+{
+    return runProvisionTool(startTool(argc, argv));
+}
