@@ -47,10 +47,11 @@ int fail(const QString &text, ToolExit status)
 
 bool isNetwork(const QString &text)
 {
-    bool isNumber = false;
-    text.toUInt(&isNumber);
-    return isNumber && (text.length() == 5 || text.length() == 6) &&
-           text.at(0).isDigit(); // toUInt() takes blanks and signs too
+    for (int i = 0; i < text.length(); ++i) {
+        if (text.at(i) < QLatin1Char('0') || text.at(i) > QLatin1Char('9'))
+            return false;
+    }
+    return text.length() == 5 || text.length() == 6;
 }
 
 /// What is wrong with the arguments as a whole; empty when nothing is.

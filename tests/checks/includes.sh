@@ -58,6 +58,9 @@ check "$core_own" "$any" src/core src/core/common src/compat
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/dashboard)" "$any" \
     src/dashboard src/core src/core/common src/compat src/sdk/tksv.h src/sdk/tksv_device.h
+check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/compat
+check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/USSDUIPlugin src/core \
+    src/core/common src/compat src/dashboard/TerminalText.h src/sdk
 check "$(cpp_files src/sdk)" '^[a-pr-zA-PR-Z]' src/sdk
 check "$(cpp_files src/sdk | grep -E '/tksv(_device)?\.h$')" '^(std(int|def)|time)\.h$' src/sdk/tksv.h
 finish
