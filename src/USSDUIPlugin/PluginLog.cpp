@@ -1,5 +1,6 @@
 #include "PluginLog.h"
 
+#include <chrono>
 #include <cstdarg>
 #include <cstdio>
 
@@ -9,18 +10,37 @@
 namespace
 {
 
-QByteArray formatted(const char *format, va_list arguments)
+const int kUsualLength = 256; // bytes; longer lines take a second piece of memory
+const int kStampLength = 64;  // hh:mm:ss:zzz, whose digits may be of any script
+
+/// What the time of day looked like in the millisecond of the last line.
+struct Stamp {
+    qint64 millisecond;
+    char text[kStampLength];
+};
+
+// Without a destructor, which would keep the library loaded until the last thread has ended.
+thread_local Stamp lastStamp = {-1, ""};
+
+qint64 millisecondsNow()
 {
-    va_list counting;
-    va_copy(counting, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, counting);
-    va_end(counting);
-    if (length <= 0)
-        return QByteArray();
-    QByteArray text(length + 1, '\0'); // room for the closing zero
-    std::vsnprintf(text.data(), static_cast<size_t>(length) + 1, format, arguments);
-    text.chop(1);
-    return text;
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+void appendFormatted(QByteArray &line, const char *format, va_list arguments)
+{
+    va_list again;
+    va_copy(again, arguments);
+    const int start = line.size();
+    line.resize(qMax(kUsualLength, start));
+    const int room = line.size() - start;
+    const int length = qMax(
+        0, std::vsnprintf(line.data() + start, static_cast<size_t>(room) + 1, format, arguments));
+    line.resize(start + length);
+    if (length > room)
+        std::vsnprintf(line.data() + start, static_cast<size_t>(length) + 1, format, again);
+    va_end(again);
 }
 
 void write(QtMsgType type, const QByteArray &text)
@@ -31,10 +51,17 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-QByteArray head(const char *source, const char *function)
+/// Source and function with the formatted tail, behind `stamp` if there is one.
+QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
+                    va_list arguments)
 {
-    return QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit() + ": " +
-           source + ": " + function;
+    QByteArray text;
+    text.reserve(kUsualLength);
+    if (stamp)
+        text.append(stamp).append(": ");
+    text.append(source).append(": ").append(function);
+    appendFormatted(text, tail, arguments);
+    return text;
 }
 
 } // namespace
@@ -42,11 +69,24 @@ QByteArray head(const char *source, const char *function)
 namespace PluginLog
 {
 
+// Each look at the local time asks for the time zone's file, and a command logs some twenty lines
+// in a row: those of one millisecond share one look.
+const char *timeOfDay()
+{
+    const qint64 now = millisecondsNow();
+    if (lastStamp.millisecond != now) {
+        const QString text = QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz"));
+        qstrncpy(lastStamp.text, text.toLocal8Bit().constData(), kStampLength);
+        lastStamp.millisecond = now;
+    }
+    return lastStamp.text;
+}
+
 void line(QtMsgType type, const char *source, const char *function, const char *tail, ...)
 {
     va_list arguments;
     va_start(arguments, tail);
-    write(type, head(source, function) + formatted(tail, arguments));
+    write(type, composed(timeOfDay(), source, function, tail, arguments));
     va_end(arguments);
 }
 
@@ -54,7 +94,7 @@ void important(const char *source, const char *function, const char *tail, ...)
 {
     va_list arguments;
     va_start(arguments, tail);
-    const QByteArray text = head(source, function) + formatted(tail, arguments);
+    const QByteArray text = composed(timeOfDay(), source, function, tail, arguments);
     va_end(arguments);
     write(QtDebugMsg, text);
     write(QtWarningMsg, text);
@@ -64,7 +104,7 @@ void untimed(QtMsgType type, const char *source, const char *function, const cha
 {
     va_list arguments;
     va_start(arguments, tail);
-    write(type, QByteArray(source) + ": " + function + formatted(tail, arguments));
+    write(type, composed(nullptr, source, function, tail, arguments));
     va_end(arguments);
 }
 
@@ -85,7 +125,7 @@ void Scope::exitWith(const char *tail, ...)
     m_exited = true;
     va_list arguments;
     va_start(arguments, tail);
-    write(QtDebugMsg, head(m_source, m_function) + formatted(tail, arguments));
+    write(QtDebugMsg, composed(timeOfDay(), m_source, m_function, tail, arguments));
     va_end(arguments);
 }
 
@@ -94,7 +134,7 @@ void Scope::exitWithWarning(const char *tail, ...)
     m_exited = true;
     va_list arguments;
     va_start(arguments, tail);
-    const QByteArray text = head(m_source, m_function) + formatted(tail, arguments);
+    const QByteArray text = composed(timeOfDay(), m_source, m_function, tail, arguments);
     va_end(arguments);
     write(QtDebugMsg, text);
     write(QtWarningMsg, text);

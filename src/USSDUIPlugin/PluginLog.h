@@ -8,6 +8,9 @@
  * its leading blank or colon. Each .cpp file names itself once:
  *
  *     static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+ *
+ * The rest of the code writes lines by the macros below alone. Built with USSD_LOG_LINES=OFF they
+ * come to nothing: their arguments are still checked by the compiler, but not evaluated.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -16,6 +19,9 @@ namespace PluginLog
 {
 
 #define USSD_PRINTF(text, first) __attribute__((format(printf, text, first)))
+
+/// The local time as hh:mm:ss:zzz in local 8-bit form; valid until this thread's next line.
+const char *timeOfDay();
 
 /// "%s: %s: %s" with the local time as hh:mm:ss:zzz, then the tail.
 void line(QtMsgType type, const char *source, const char *function, const char *tail, ...)
@@ -52,9 +58,36 @@ private:
 
 } // namespace PluginLog
 
-#define USSD_LOG(...) PluginLog::line(QtDebugMsg, kLogSource, __func__, __VA_ARGS__)
-#define USSD_LOG_IMPORTANT(...) PluginLog::important(kLogSource, __func__, __VA_ARGS__)
-#define USSD_LOG_UNTIMED(...) PluginLog::untimed(QtDebugMsg, kLogSource, __func__, __VA_ARGS__)
+#ifndef USSD_NO_LOG_LINES
+#define USSD_IF_LOGGING(statement) statement
 #define USSD_LOG_SCOPE() PluginLog::Scope logScope(kLogSource, __func__)
+#define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
+#define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
+#else
+#define USSD_IF_LOGGING(statement)                                                                 \
+    do {                                                                                           \
+        if (false)                                                                                 \
+            statement;                                                                             \
+    } while (false)
+#define USSD_LOG_SCOPE() static_cast<void>(kLogSource)
+#define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
+#define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
+#endif
+
+#define USSD_LOG_LINE(type, function, ...)                                                         \
+    USSD_IF_LOGGING(PluginLog::line(type, kLogSource, function, __VA_ARGS__))
+#define USSD_LOG_UNTIMED_LINE(type, function, ...)                                                 \
+    USSD_IF_LOGGING(PluginLog::untimed(type, kLogSource, function, __VA_ARGS__))
+
+#define USSD_LOG(...) USSD_LOG_LINE(QtDebugMsg, __func__, __VA_ARGS__)
+#define USSD_LOG_IMPORTANT(...)                                                                    \
+    USSD_IF_LOGGING(PluginLog::important(kLogSource, __func__, __VA_ARGS__))
+#define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
+#define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
+
+// Lines under the name of another function, of which the caller is a part.
+#define USSD_LOG_AS(function, ...) USSD_LOG_LINE(QtDebugMsg, function, __VA_ARGS__)
+#define USSD_LOG_WARNING_AS(function, ...) USSD_LOG_LINE(QtWarningMsg, function, __VA_ARGS__)
+#define USSD_LOG_UNTIMED_AS(function, ...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, function, __VA_ARGS__)
 
 #endif

@@ -117,13 +117,13 @@ void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
     m_paidType = type;
     m_windowModel = model;
     if (!createWidgets()) {
-        logScope.exitWith(" Exit: Either of the component objects are NULL");
+        USSD_LOG_EXIT(" Exit: Either of the component objects are NULL");
         return;
     }
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
     createGrid();
     if (!m_pLogic || !m_pGrid) {
-        logScope.exitWith(" Exit: Either Logic or Layout objects are NULL");
+        USSD_LOG_EXIT(" Exit: Either Logic or Layout objects are NULL");
         return;
     }
     getConfigure();
@@ -353,7 +353,7 @@ void USSDDlg::MyDoModal(PAID_TYPE type)
 {
     USSD_LOG_SCOPE();
     if (static_cast<unsigned int>(type) > PAID_TYPE_POSTPAID) {
-        logScope.exitWith(" Exit: invalid paid type");
+        USSD_LOG_EXIT(" Exit: invalid paid type");
         return;
     }
     if (m_pLogic)
@@ -439,7 +439,7 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
 {
     USSD_LOG_SCOPE();
     if (!m_pLogic) {
-        logScope.exitWith(" Fail Exit: Logic is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Logic is NULL");
         return;
     }
     QString command;
@@ -447,7 +447,7 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
     USSD_LOG(" USSD command = %s", command.toLocal8Bit().constData());
     if (component == COMPONENT_CHARGE) {
         if (!m_pChargeEdit) {
-            logScope.exitWith(" Fail Exit: m_pChargeEdit is NULL");
+            USSD_LOG_EXIT(" Fail Exit: m_pChargeEdit is NULL");
             return;
         }
         command.replace(QLatin1String("%s"), m_pChargeEdit->text());
@@ -485,7 +485,7 @@ void USSDDlg::OnResponseReceived(int component, QString text)
 {
     USSD_LOG_SCOPE();
     if (!m_bBusy && component != COMPONENT_PREPOST_QUERY) {
-        logScope.exitWith(" Exit: USSDDlg no need to handle");
+        USSD_LOG_EXIT(" Exit: USSDDlg no need to handle");
         return;
     }
     const bool isWaiting = text == tr(QLatin1String("USSD_CODE_WAITTING"));

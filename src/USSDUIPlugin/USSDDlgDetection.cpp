@@ -26,7 +26,7 @@ int USSDDlg::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
 {
     USSD_LOG_SCOPE();
     if (!m_pLogic) {
-        logScope.exitWith(" Fail Exit: Logic is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Logic is NULL");
         return 0;
     }
     m_prePostRecord.bInUse = inUse;
@@ -81,8 +81,8 @@ void USSDDlg::sendNotify(unsigned int msg, NotifyParam wParam, NotifyParam lPara
 {
     IPluginContainer *container = Startup::GetPluginContainer();
     if (!container) {
-        PluginLog::untimed(QtDebugMsg, kLogSource, __func__, ": Plugin container is null ");
-        PluginLog::untimed(QtWarningMsg, kLogSource, __func__, ": Plugin container is null ");
+        USSD_LOG_UNTIMED(": Plugin container is null ");
+        USSD_LOG_UNTIMED_WARNING(": Plugin container is null ");
         return;
     }
     const QPointer<QObject> plugin(container->GetPlugin(QLatin1String(kNotificationPlugin)));

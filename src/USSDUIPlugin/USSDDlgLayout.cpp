@@ -68,7 +68,7 @@ void USSDDlg::findPosAndAddElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pGrid || !m_pLogic) {
-        logScope.exitWith(" Fail Exit: Grid/Logic is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Grid/Logic is NULL");
         return;
     }
     setUpGrid();
@@ -144,7 +144,7 @@ void USSDDlg::addBalanceElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pGrid) {
-        logScope.exitWith(" Fail Exit: Grid is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
     place(m_pBalanceLabel, row, kLabelColumn);
@@ -159,7 +159,7 @@ void USSDDlg::addChargeElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pGrid || !m_pLogic) {
-        logScope.exitWith(" Fail Exit: Logic/Grid is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Logic/Grid is NULL");
         return;
     }
     place(m_pChargeLabel, row, kLabelColumn);
@@ -174,7 +174,7 @@ void USSDDlg::addOnlineChargeElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pGrid) {
-        logScope.exitWith(" Fail Exit: Grid is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
     place(m_pOnlineChargeLabel, row, kLabelColumn);
@@ -187,7 +187,7 @@ void USSDDlg::addMSISDNElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pGrid) {
-        logScope.exitWith(" Fail Exit: Grid is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
     place(m_pMSISDNLabel, row, kLabelColumn);

@@ -42,7 +42,7 @@ void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
     USSD_LOG_SCOPE();
     path = CommonUtils::GetPluginLibraryPath() +
            QLatin1String("/plugins/USSDUIPlugin/ussdsysprofile.xml");
-    logScope.exitWith(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
+    USSD_LOG_EXIT(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
 }
 
 void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
@@ -59,7 +59,7 @@ void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
         const QString newPath = directory + QLatin1String("ussdprofile.xml");
         path = movedLegacyFile(directory + QLatin1String("userdata/ussdprofile.xml"), newPath);
     }
-    logScope.exitWith(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
+    USSD_LOG_EXIT(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
 }
 
 /// The path to use from now on: the new one, unless a file of the old place cannot be copied.
@@ -173,7 +173,6 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {
     const QString directory = parentDirectory(path);
-    PluginLog::line(QtDebugMsg, kLogSource, "saveToXMLFile", " Dir path=%s",
-                    directory.toLocal8Bit().constData());
+    USSD_LOG_AS("saveToXMLFile", " Dir path=%s", directory.toLocal8Bit().constData());
     return isSystem || QFileInfo(directory).isDir() || QDir().mkdir(directory);
 }

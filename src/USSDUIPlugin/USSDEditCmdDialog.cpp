@@ -48,7 +48,7 @@ void USSDEditCmd::InitDialog(QWidget *parent)
     m_pFrame = new ExtendDialog(parent, Qt::WindowCloseButtonHint, kPlainFrame);
     m_pFrame->AddMainWidget(m_pContainer);
     if (!createWidgets()) {
-        logScope.exitWith(" Exit: either of the objects creation failed");
+        USSD_LOG_EXIT(" Exit: either of the objects creation failed");
         return;
     }
     initWidgets();
@@ -242,7 +242,7 @@ void USSDEditCmd::OnEditorClosed(QWidget *editor)
     }
     m_pEditedItem->setSelected(false);
     if (m_pEditedItem->text().isEmpty()) {
-        logScope.exitWith(" Exit: empty string ");
+        USSD_LOG_EXIT(" Exit: empty string ");
         return;
     }
     if (isDuplicate(m_iEditedRow, m_iEditedColumn))

@@ -111,7 +111,7 @@ bool USSDGeneralDlg::createWidgets()
     m_pClearButton = new QPushButton(tr(QLatin1String("IDC_BUTTON_CLEARHISTOTY")), this);
     m_pEditButton = new QPushButton(tr(QLatin1String("IDC_TITLE_EDITCOMMAND")), this);
     if (!m_pLogic) {
-        logScope.exitWithWarning(" Exit: either of the objects creation failed");
+        USSD_LOG_EXIT_IMPORTANT(" Exit: either of the objects creation failed");
         return false;
     }
     m_pPaymentEdit->setContextMenuPolicy(Qt::NoContextMenu);
@@ -387,7 +387,7 @@ void USSDGeneralDlg::OnClickedSendButton()
 {
     USSD_LOG_SCOPE();
     if (!m_pUSSDCmdEdit || !m_pLogic || !m_pSendButton) {
-        logScope.exitWith(" Fail Exit");
+        USSD_LOG_EXIT(" Fail Exit");
         return;
     }
     const QString command = m_pUSSDCmdEdit->text();
@@ -408,7 +408,7 @@ void USSDGeneralDlg::handlePreBtnClicked(const QString &command)
 {
     USSD_LOG_SCOPE();
     if (!m_pLogic || !m_pSendButton) {
-        logScope.exitWith(" Fail Exit");
+        USSD_LOG_EXIT(" Fail Exit");
         return;
     }
     if (!sendCommand(command))
@@ -463,12 +463,12 @@ bool USSDGeneralDlg::onResponseReceived()
 {
     USSD_LOG_SCOPE();
     if (!m_bWaiting) {
-        logScope.exitWith(" Exit: USSDGeneralDlg no need to handle");
+        USSD_LOG_EXIT(" Exit: USSDGeneralDlg no need to handle");
         return false;
     }
     m_bWaiting = false;
     if (!m_pProfilesCombo) {
-        logScope.exitWith(" Fail Exit");
+        USSD_LOG_EXIT(" Fail Exit");
         return false;
     }
     m_pProfilesCombo->setEnabled(true);
@@ -488,7 +488,7 @@ void USSDGeneralDlg::appendToCmdHistory(QString text, bool sent)
 {
     USSD_LOG_SCOPE();
     if (!m_pHistoryView || !m_pLogic) {
-        logScope.exitWith(" Fail Exit");
+        USSD_LOG_EXIT(" Fail Exit");
         return;
     }
     Char look;
@@ -520,7 +520,7 @@ void USSDGeneralDlg::clearHistory()
 {
     USSD_LOG_SCOPE();
     if (!m_pHistoryView) {
-        logScope.exitWith(" Fail Exit");
+        USSD_LOG_EXIT(" Fail Exit");
         return;
     }
     if (m_clearBtnSetting.showConfirmDialog) {

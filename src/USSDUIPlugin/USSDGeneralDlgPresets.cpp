@@ -216,7 +216,7 @@ void USSDGeneralDlg::update4EditCommandSave()
 {
     USSD_LOG_SCOPE();
     if (!isShowPreBtns() && !hasBeenShowPreBtns()) {
-        logScope.exitWith(" Exit no show pre buttons!");
+        USSD_LOG_EXIT(" Exit no show pre buttons!");
         return;
     }
     updateUssdCmdProfileList();
@@ -230,7 +230,7 @@ void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
     if (!hasBeenShowPreBtns()) {
-        logScope.exitWith(" Exit no pre button bas been showed!");
+        USSD_LOG_EXIT(" Exit no pre button bas been showed!");
         return;
     }
     int next = 0;
@@ -266,7 +266,7 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
 {
     USSD_LOG_SCOPE();
     if (!m_pLogic || !m_pMainGrid) {
-        logScope.exitWith(" Fail Exit: Logic/Grid is NULL");
+        USSD_LOG_EXIT(" Fail Exit: Logic/Grid is NULL");
         return;
     }
     for (int slot = 0; slot < kSlots; ++slot)

@@ -101,22 +101,18 @@ static const char kConstructor[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
 {
-    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
-                    ": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
+    USSD_LOG_AS(kConstructor, ": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
     const long result = TKSV_DevSrv_RegisterDevInitEventCallback(OnDeviceMgrInitEvent);
-    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
-                    ": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
+    USSD_LOG_AS(kConstructor, ": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
 }
 
 void USSDLogic::registerSmsCallback()
 {
-    PluginLog::line(QtDebugMsg, kLogSource, kConstructor, ": Calling TKSV_SMSSrv_RegCallBack ()");
+    USSD_LOG_AS(kConstructor, ": Calling TKSV_SMSSrv_RegCallBack ()");
     const long result = TKSV_SMSSrv_RegCallBack(SmsCallBackMethod);
-    PluginLog::line(QtDebugMsg, kLogSource, kConstructor,
-                    ": TKSV_SMSSrv_RegCallBack () returned %li", result);
+    USSD_LOG_AS(kConstructor, ": TKSV_SMSSrv_RegCallBack () returned %li", result);
     if (result != 0)
-        PluginLog::line(QtWarningMsg, kLogSource, kConstructor,
-                        ": TKSV_SMSSrv_RegCallBack returned %li", result);
+        USSD_LOG_WARNING_AS(kConstructor, ": TKSV_SMSSrv_RegCallBack returned %li", result);
 }
 
 int USSDLogic::registerUSSDCallback(EventCallback fn)
@@ -388,18 +384,18 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
     Q_UNUSED(event);
     USSD_LOG_SCOPE();
     if (!data) {
-        logScope.exitWithWarning(" Fail Exit: Response data is NULL");
+        USSD_LOG_EXIT_IMPORTANT(" Fail Exit: Response data is NULL");
         return 0;
     }
     const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid()) {
-        logScope.exitWithWarning(" Fail Exit: Logic Object is NULL");
+        USSD_LOG_EXIT_IMPORTANT(" Fail Exit: Logic Object is NULL");
         return 0;
     }
     ClaimedHead head = {0, COMPONENT_BALANCE};
     const Claim claim = claimHead(head);
     if (claim == ClaimedByOther) {
-        logScope.exitWith(" Exit: the command has its answer already");
+        USSD_LOG_EXIT(" Exit: the command has its answer already");
         return 0;
     }
     stopReplyTimer();
@@ -500,29 +496,26 @@ void USSDLogic::announceSmsResult(void *data)
 {
     // Logged under the call-back's name, which is what a reader of the log looks for.
     static const char function[] = "SmsCallBackMethod";
-    PluginLog::line(QtDebugMsg, kLogSource, function, ": Obtained the EVENT_SMS_ONSENDRESULT");
+    USSD_LOG_AS(function, ": Obtained the EVENT_SMS_ONSENDRESULT");
     if (!data)
         return;
     const SdkRecords::SmsSendResult result = SdkRecords::smsSendResult(data);
-    PluginLog::line(QtDebugMsg, kLogSource, function,
-                    result.sent ? ": Successfully sent the message(EVENT_SMS_ONSENDRESULT)"
-                                : ": Failed to send the message(EVENT_SMS_ONSENDRESULT)");
+    USSD_LOG_AS(function, result.sent ? ": Successfully sent the message(EVENT_SMS_ONSENDRESULT)"
+                                      : ": Failed to send the message(EVENT_SMS_ONSENDRESULT)");
     emit SmsSendResult(result.sent, result.number, result.text);
 }
 
 void USSDLogic::announceSmsStatus(void *data)
 {
     static const char function[] = "SmsCallBackMethod";
-    PluginLog::line(QtDebugMsg, kLogSource, function, ": Sending  EVENT_SMS_ONSTATUSCHANGED");
+    USSD_LOG_AS(function, ": Sending  EVENT_SMS_ONSTATUSCHANGED");
     const int status = SdkRecords::smsStatus(data);
     if (status != TKSV_SMS_STATUS_CAN_SEND && status != TKSV_SMS_STATUS_CANNOT_SEND) {
-        PluginLog::untimed(QtDebugMsg, kLogSource, function,
-                           ": EVENT_SMS_ONSTATUSCHANGED Caught in Default case ");
+        USSD_LOG_UNTIMED_AS(function, ": EVENT_SMS_ONSTATUSCHANGED Caught in Default case ");
         return;
     }
     const bool can = status == TKSV_SMS_STATUS_CAN_SEND;
-    PluginLog::line(QtDebugMsg, kLogSource, function,
-                    can ? ":: Reciceved  CAN_SEND_SMS" : ":: Reciceved  CANNOT_SEND_SMS");
+    USSD_LOG_AS(function, can ? ":: Reciceved  CAN_SEND_SMS" : ":: Reciceved  CANNOT_SEND_SMS");
     m_bCanSendSMS = can;
     emit CanSendSMS(can);
 }

@@ -142,7 +142,7 @@ int USSDLogic::GetComponentAttrInt(int paidType, int component, int attr)
 {
     USSD_LOG_SCOPE();
     if (!isPaidType(paidType)) {
-        logScope.exitWith(" Exit: invalid paid type");
+        USSD_LOG_EXIT(" Exit: invalid paid type");
         return -1;
     }
     switch (component) {
@@ -163,7 +163,7 @@ void USSDLogic::GetComponentAttrStr(int paidType, int component, int attr, QStri
 {
     USSD_LOG_SCOPE();
     if (!isPaidType(paidType)) {
-        logScope.exitWith(" Exit: invalid paid type");
+        USSD_LOG_EXIT(" Exit: invalid paid type");
         return;
     }
     switch (component) {

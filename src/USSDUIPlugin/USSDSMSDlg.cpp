@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegExpValidator>
-#include <QTime>
 #include <QTreeWidget>
 #include <QXmlStreamReader>
 
@@ -66,9 +65,8 @@ QString layoutPath()
 /// The one line that has its words before the time.
 void logNoPath(const char *function, const QString &path)
 {
-    const QString time = QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz"));
-    qDebug("config file error %s: %s: %s : %s", time.toLocal8Bit().constData(), kLogSource,
-           function, path.toLocal8Bit().constData());
+    USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), kLogSource,
+                           function, path.toLocal8Bit().constData()));
 }
 
 } // namespace
@@ -129,8 +127,8 @@ void CUSSDSMSDlg::readLayoutFile(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        PluginLog::line(QtDebugMsg, kLogSource, "InitConfig",
-                        ": return fail for the file can't be open as readonly and text mode.");
+        USSD_LOG_AS("InitConfig",
+                    ": return fail for the file can't be open as readonly and text mode.");
         return;
     }
     QXmlStreamReader reader(&file);
@@ -579,7 +577,8 @@ int CUSSDSMSDlg::SendSMS(QString *number, QString *text)
         return 1;
     TKSV_SMSRecord record = nullptr;
     const long created = TKSV_SMSSrv_CreateSMSRecord(&record, number->utf16(), text->utf16());
-    qWarning("The Error code returned by the TKSV_SMSSrv_CreateSMSRecord = %ld", created);
+    USSD_IF_LOGGING(
+        qWarning("The Error code returned by the TKSV_SMSSrv_CreateSMSRecord = %ld", created));
     int result = 1;
     if (created == 0) {
         USSD_LOG(": Calling TKSV_SMSSrv_SendMsg ()");

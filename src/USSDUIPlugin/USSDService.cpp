@@ -2,8 +2,6 @@
 
 #include <new>
 
-#include <QTime>
-
 #include "CommonUtils.h"
 #include "PluginLog.h"
 #include "PluginMessage.h"
@@ -100,9 +98,8 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 CUSSDService::~CUSSDService()
 {
     // Source, function, time: in another order than everywhere else, as readers of logs know it.
-    const QByteArray time =
-        QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit();
-    qDebug("%s: %s: %s entered", kLogSource, "~CUSSDService", time.constData());
+    USSD_IF_LOGGING(
+        qDebug("%s: %s: %s entered", kLogSource, "~CUSSDService", PluginLog::timeOfDay()));
 }
 
 QString CUSSDService::tr(const QString &key)
