@@ -23,7 +23,7 @@ std::atomic<ReplyTimer::Clock> currentClock(&systemClock);
 
 ReplyTimer::ReplyTimer(QObject *parent)
     : QTimer(parent), m_armed(false), m_catchUpPosted(false), m_arming(0), m_deadline(0),
-      m_runOut(0)
+      m_wake(-1), m_runOut(0)
 {
 }
 
@@ -38,7 +38,8 @@ quint64 ReplyTimer::arm(int milliseconds)
     m_armed = true;
     m_deadline = currentClock.load()() + milliseconds;
     const quint64 arming = ++m_arming;
-    letTimerFollow(locker);
+    if (!wakesWithin(milliseconds))
+        letTimerFollow(locker);
     return arming;
 }
 
@@ -46,7 +47,7 @@ void ReplyTimer::disarm()
 {
     QMutexLocker locker(&m_state);
     m_armed = false;
-    letTimerFollow(locker);
+    stopIfOwner(locker);
 }
 
 void ReplyTimer::disarm(quint64 arming)
@@ -55,7 +56,7 @@ void ReplyTimer::disarm(quint64 arming)
     if (!m_armed || m_arming != arming)
         return;
     m_armed = false;
-    letTimerFollow(locker);
+    stopIfOwner(locker);
 }
 
 bool ReplyTimer::isArmed() const
@@ -70,6 +71,12 @@ bool ReplyTimer::isArmed(quint64 arming) const
     return m_armed && m_arming == arming;
 }
 
+/// With m_state held. By the system clock, which is the QTimer's own, also when another is set.
+bool ReplyTimer::wakesWithin(int milliseconds) const
+{
+    return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
+}
+
 void ReplyTimer::letTimerFollow(QMutexLocker &locker)
 {
     const bool alreadyPosted = m_catchUpPosted;
@@ -81,17 +88,33 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
+/// An event to the owner only to stop the timer would cost more than its waking once in vain.
+void ReplyTimer::stopIfOwner(QMutexLocker &locker)
+{
+    locker.unlock();
+    if (QThread::currentThread() == thread())
+        catchUp();
+}
+
 void ReplyTimer::catchUp()
 {
     QMutexLocker locker(&m_state);
     m_catchUpPosted = false;
     const bool armed = m_armed;
-    const qint64 remaining = m_deadline - currentClock.load()();
+    const qint64 remaining = qMax<qint64>(0, m_deadline - currentClock.load()());
+    m_wake = armed ? systemClock() + remaining : -1;
     locker.unlock();
     if (armed)
-        start(static_cast<int>(qMax<qint64>(0, remaining)));
+        start(static_cast<int>(remaining));
     else
         stop();
+}
+
+/// It goes on running until somebody takes the arming back.
+void ReplyTimer::repeats()
+{
+    QMutexLocker locker(&m_state);
+    m_wake = systemClock() + interval();
 }
 
 quint64 ReplyTimer::dueArming() const
@@ -107,6 +130,7 @@ void ReplyTimer::timerEvent(QTimerEvent *event)
         catchUp();
         return;
     }
+    repeats();
     const QPointer<ReplyTimer> self(this); // a receiver may delete the timer
     m_runOut = due;
     QTimer::timerEvent(event);

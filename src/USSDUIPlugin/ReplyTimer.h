@@ -11,6 +11,10 @@ class QMutexLocker;
  * isArmed(); the QTimer itself follows on its own thread, because Qt lets nobody else start or stop
  * it. timeout() comes on that thread, only while armed, and only when the time has really passed.
  *
+ * The QTimer follows only where it must. One that wakes before the deadline looks at the clock then
+ * and starts anew for the rest; one that nobody needs any more stops when it wakes. So a command
+ * that is answered in time costs no event and no system timer of its own.
+ *
  * Every arming has a number, so that a late disarm cannot hit a newer arming.
  */
 class ReplyTimer : public QTimer
@@ -44,14 +48,18 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    bool wakesWithin(int milliseconds) const;
     void letTimerFollow(QMutexLocker &locker);
+    void stopIfOwner(QMutexLocker &locker);
+    void repeats();
     quint64 dueArming() const;
 
-    mutable QMutex m_state; // guards the next four; nothing else is locked while it is held
+    mutable QMutex m_state; // guards the next five; nothing else is locked while it is held
     bool m_armed;
     bool m_catchUpPosted;
     quint64 m_arming;
     qint64 m_deadline;
+    qint64 m_wake; // when the QTimer fires next, by the system clock; -1 while it stands
 
     quint64 m_runOut; // own thread only
 };

@@ -1,6 +1,7 @@
 #include "UssdTest.h"
 
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 #include <QSignalSpy>
@@ -16,6 +17,18 @@ qint64 testClock()
 {
     return now;
 }
+
+/// Counts what the event loop of its owner has to do for it.
+class CountingTimer : public ReplyTimer
+{
+public:
+    bool event(QEvent *event) override
+    {
+        ++events;
+        return ReplyTimer::event(event);
+    }
+    int events = 0;
+};
 
 } // namespace
 
@@ -35,6 +48,9 @@ private slots:
     void runOutArmingIsKnownWhileEmitting();
     void doesNotRunOutBeforeTheClockSaysSo();
     void busyOwnerDoesNotLengthenTheTime();
+    void answersInTimeCostTheOwnerNoEvent();
+    void laterArmingRunsOutAtItsOwnTime();
+    void shorterArmingIsNotHeldUpByTheClockOfALongerOne();
 };
 
 void ReplyTimerTest::armingCountsAtOnceOnAnotherThread()
@@ -134,6 +150,54 @@ void ReplyTimerTest::busyOwnerDoesNotLengthenTheTime()
     std::thread other([&] { timer.arm(30000); });
     other.join();
     now = 30000; // the owner comes to its events only now
+    QTRY_VERIFY(!timeouts.isEmpty());
+}
+
+void ReplyTimerTest::answersInTimeCostTheOwnerNoEvent()
+{
+    CountingTimer timer;
+    timer.arm(60000);
+    std::thread other([&] {
+        for (int i = 0; i < 100; ++i) {
+            timer.disarm();
+            timer.arm(60000);
+        }
+    });
+    other.join();
+    QCoreApplication::processEvents();
+    QCOMPARE(timer.events, 0);
+    QVERIFY(timer.isArmed());
+}
+
+void ReplyTimerTest::laterArmingRunsOutAtItsOwnTime()
+{
+    ReplyTimer timer;
+    QSignalSpy timeouts(&timer, SIGNAL(timeout()));
+    const auto start = std::chrono::steady_clock::now();
+    timer.arm(1);
+    std::thread other([&] {
+        timer.disarm();
+        timer.arm(40); // the timer wakes before, in vain
+    });
+    other.join();
+    QVERIFY(timeouts.wait(10000));
+    QVERIFY(std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(40));
+    QCOMPARE(timeouts.count(), 1);
+}
+
+void ReplyTimerTest::shorterArmingIsNotHeldUpByTheClockOfALongerOne()
+{
+    now = 0;
+    ReplyTimer::setClock(testClock);
+    ReplyTimer timer;
+    QSignalSpy timeouts(&timer, SIGNAL(timeout()));
+    timer.arm(60000);
+    now = 100000; // that arming's time has passed by this clock, while the timer still waits for it
+    std::thread other([&] {
+        timer.disarm();
+        timer.arm(0);
+    });
+    other.join();
     QTRY_VERIFY(!timeouts.isEmpty());
 }
 
