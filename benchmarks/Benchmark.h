@@ -2,6 +2,7 @@
 #define BENCHMARK_H
 
 #include <functional>
+#include <string>
 #include <vector>
 
 /*
@@ -11,21 +12,45 @@
 namespace Benchmark
 {
 
-/// What one measurement gives, in microseconds for one unit of work.
+/// What one measurement gives for one unit of work.
 typedef std::function<double()> Measurement;
+
+const char kMicroseconds[] = "µs";
+
+/// What is compared with what, and the ratio that is to be reached.
+struct Title {
+    std::string what;
+    std::string baseline;
+    double limit;
+    std::string unit;
+
+    Title(const std::string &what_, const std::string &baseline_, double limit_,
+          const char *unit_ = kMicroseconds)
+        : what(what_), baseline(baseline_), limit(limit_), unit(unit_)
+    {
+    }
+};
+
+const int kRounds = 11;
 
 /// Wall time of `work` in microseconds.
 double microseconds(const std::function<void()> &work);
 
-double median(std::vector<double> values);
+/// Measures both in turn, one round to warm up, and prints the row.
+void compare(const Title &title, const Measurement &measure, const Measurement &baseline,
+             int rounds = kRounds);
 
-/// Measures both in turn, one round to warm up, and prints a row of a Markdown table: name, median
-/// of either, median of the ratios with the smallest and the largest.
-void compare(const char *name, const char *baselineName, const Measurement &measure,
-             const Measurement &baseline, int rounds = 7);
+/// Prints a row of figures that were taken in turn: what, unit, median, smallest and largest of
+/// both and of the ratios, and the limit, with tabs between. benchmark_report reads it.
+void report(const Title &title, const std::vector<double> &measured,
+            const std::vector<double> &baseline);
 
 /// Every Qt message goes nowhere.
 void dropMessages();
+
+/// Binds this thread, and those it starts from now on, to one core. False when there is none of
+/// this number.
+bool stayOnCore(int core);
 
 } // namespace Benchmark
 

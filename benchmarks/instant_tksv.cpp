@@ -1,84 +1,110 @@
 /*
  * A device SDK that does the least a good one must: it copies the request, and a thread of its own
- * answers at once.
+ * answers at once. It hands over to that thread as the bare round trip does, by a queued signal, so
+ * that a comparison with it shows what the pipeline adds.
  */
-#include "tksv.h"
+#include "instant_tksv.h"
 
-#include <condition_variable>
-#include <mutex>
-#include <string>
-#include <thread>
+#include <algorithm>
+
+#include <QFile>
+#include <QThread>
+
+#include "tksv.h"
 
 namespace
 {
 
-class InstantNetwork
+struct Response {
+    int type;
+    int reserved;
+    unsigned short text[3];
+};
+
+/// Lives on the device's thread.
+class Device : public QObject
 {
+    Q_OBJECT
 public:
-    ~InstantNetwork()
-    {
-        {
-            std::lock_guard<std::mutex> lock(m_mutex);
-            m_ending = true;
-        }
-        m_changed.notify_all();
-        if (m_thread.joinable())
-            m_thread.join();
-    }
+    explicit Device(TKSV_EventCallback callback) : m_callback(callback) {}
 
-    void request()
+public slots:
+    void answer(int number, QString text)
     {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        if (!m_thread.joinable())
-            m_thread = std::thread(&InstantNetwork::run, this);
-        ++m_waiting;
-        m_changed.notify_one();
-    }
-
-    void setCallback(TKSV_EventCallback callback)
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_callback = callback;
+        Q_UNUSED(number);
+        Q_UNUSED(text);
+        Response response = {0, 0, {'O', 'K', 0}};
+        m_callback(0, &response);
     }
 
 private:
-    void run()
-    {
-        struct {
-            int type;
-            int reserved;
-            unsigned short text[3];
-        } response = {0, 0, {'O', 'K', 0}};
-        std::unique_lock<std::mutex> lock(m_mutex);
-        for (;;) {
-            m_changed.wait(lock, [this] { return m_ending || m_waiting > 0; });
-            if (m_ending)
-                return;
-            --m_waiting;
-            const TKSV_EventCallback callback = m_callback;
-            lock.unlock();
-            if (callback)
-                callback(0, &response);
-            lock.lock();
-        }
-    }
-
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::thread m_thread;
-    TKSV_EventCallback m_callback = nullptr;
-    int m_waiting = 0;
-    bool m_ending = false;
+    TKSV_EventCallback m_callback;
 };
 
-InstantNetwork network;
+/// Requests come from the GUI thread and, out of a call-back, from the device's own.
+class InstantNetwork : public QObject
+{
+    Q_OBJECT
+public:
+    explicit InstantNetwork(TKSV_EventCallback callback) : m_device(callback)
+    {
+        m_device.moveToThread(&m_thread);
+        connect(this, SIGNAL(requested(int, QString)), &m_device, SLOT(answer(int, QString)),
+                Qt::QueuedConnection);
+        m_thread.start();
+    }
+
+    void answerNow()
+    {
+        QMetaObject::invokeMethod(&m_device, "answer", Qt::BlockingQueuedConnection, Q_ARG(int, 0),
+                                  Q_ARG(QString, QString()));
+    }
+
+    ~InstantNetwork() override
+    {
+        m_thread.quit();
+        m_thread.wait();
+    }
+
+    void request(const QString &command) { emit requested(0, command); }
+
+signals:
+    void requested(int number, QString text);
+
+private:
+    QThread m_thread;
+    Device m_device;
+};
+
+InstantNetwork *network = nullptr;
+bool isHeld = false;
+bool hasHeldBack = false;
 
 } // namespace
 
-long TKSV_USSDSrv_Request(TKSV_USSDRequest *, int *status)
+void instant_tksv_hold(bool held)
+{
+    isHeld = held;
+    if (!held && hasHeldBack)
+        network->request(QString());
+    hasHeldBack = false;
+}
+
+void instant_tksv_settle()
+{
+    isHeld = false;
+    hasHeldBack = false;
+    network->answerNow();
+}
+
+long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status)
 {
     *status = 0;
-    network.request();
+    hasHeldBack = isHeld;
+    if (isHeld)
+        return 0;
+    const int units = static_cast<int>(request->length / sizeof(unsigned short));
+    network->request(QString(reinterpret_cast<const QChar *>(request->text), units));
     return 0;
 }
 
@@ -89,13 +115,14 @@ long TKSV_USSDSrv_Release(int *)
 
 long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback)
 {
-    network.setCallback(callback);
+    network = new InstantNetwork(callback);
     return 0;
 }
 
 long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback)
 {
-    network.setCallback(nullptr);
+    delete network;
+    network = nullptr;
     return 0;
 }
 
@@ -136,8 +163,16 @@ long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord)
     return 1;
 }
 
+/// $TKSV_USER_DATA, which names a folder that exists; none otherwise.
 long TKSV_GetUserDataDirectory(unsigned short **directory)
 {
+    const QString chosen = QFile::decodeName(qgetenv("TKSV_USER_DATA"));
     *directory = nullptr;
-    return 1;
+    if (chosen.isEmpty())
+        return 1;
+    *directory = new unsigned short[static_cast<size_t>(chosen.length()) + 1];
+    std::copy_n(chosen.utf16(), chosen.length() + 1, *directory);
+    return 0;
 }
+
+#include "instant_tksv.moc"

@@ -1,6 +1,9 @@
 /*
- * A command's way through the pipeline, and the emptying of a long queue. Log lines go to a handler
- * that drops them.
+ * A command's way through the pipeline, and what a long queue costs. Built twice: log lines go to a
+ * handler that drops them, or are not there at all.
+ *
+ * All threads stay on one core, then GUI and device on one each. Left alone they would share a core
+ * in one round and not in the next, and the waking of a sleeping core costs more than all the rest.
  */
 #include <string>
 
@@ -9,10 +12,21 @@
 #include <QThread>
 
 #include "Benchmark.h"
+#include "instant_tksv.h"
 #include "USSDLogic.h"
 
 namespace
 {
+
+#ifdef USSD_NO_LOG_LINES
+const bool kLogged = false;
+const double kLimit = 1.5;
+const char kLog[] = "log lines compiled out";
+#else
+const bool kLogged = true;
+const double kLimit = 4;
+const char kLog[] = "log lines to a null handler";
+#endif
 
 /// Counts what arrives on the GUI thread and leaves the event loop when all is there.
 class Counter : public QObject
@@ -37,7 +51,7 @@ private:
     int m_missing = 0;
 };
 
-/// The other end of a bare queued signal.
+/// An end of a bare queued signal.
 class Echo : public QObject
 {
     Q_OBJECT
@@ -48,55 +62,170 @@ signals:
     void answer(int number, QString text);
 };
 
+/// A signal to another thread, and one back.
+class BareRoundTrip
+{
+public:
+    BareRoundTrip()
+    {
+        m_there.moveToThread(&m_thread);
+        QObject::connect(&m_here, SIGNAL(question(int, QString)), &m_there,
+                         SLOT(take(int, QString)));
+        QObject::connect(&m_there, SIGNAL(answer(int, QString)), &m_counter,
+                         SLOT(take(int, QString)));
+        m_thread.start();
+    }
+
+    ~BareRoundTrip()
+    {
+        m_thread.quit();
+        m_thread.wait();
+    }
+
+    void run()
+    {
+        emit m_here.question(COMPONENT_GENERAL, QLatin1String("*100#"));
+        m_counter.await(1);
+    }
+
+private:
+    QThread m_thread;
+    Echo m_here, m_there;
+    Counter m_counter;
+};
+
+/// The pipeline from its making to its end.
+class Pipeline
+{
+public:
+    Pipeline()
+    {
+        QObject::connect(logic(), SIGNAL(responseReceived(int, QString)), &m_counter,
+                         SLOT(take(int, QString)));
+    }
+
+    ~Pipeline()
+    {
+        logic()->unSDKRegisterEvent();
+        USSDLogic::Destroy();
+    }
+
+    void send()
+    {
+        int status = 0;
+        logic()->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String("*100#")), &status);
+    }
+
+    void sendAndAwait()
+    {
+        send();
+        m_counter.await(1);
+    }
+
+    void fill(int length)
+    {
+        instant_tksv_hold(true);
+        for (int i = 0; i < length; ++i)
+            send();
+    }
+
+    void drain(int length)
+    {
+        instant_tksv_hold(false);
+        m_counter.await(length);
+    }
+
+    /// Behind a cleared list: an answer that finds it empty takes the time-out back.
+    void settle() { instant_tksv_settle(); }
+
+private:
+    static USSDLogic *logic() { return USSDLogic::GetUSSDLogicInstance(); }
+
+    Counter m_counter;
+};
+
 const int kRoundTrips = 2000;
+const int kLongQueue = 10000;
+const int kShortQueue = 10;
 
-void send(int component)
+template <typename Trip>
+double eachOf(int times, const Trip &trip)
 {
-    int status = 0;
-    USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
-        USSDCmdOrResp(static_cast<_COMPONENT>(component), QLatin1String("*100#")), &status);
-}
-
-double pipelineRoundTrip(Counter &counter)
-{
-    return Benchmark::microseconds([&counter] {
-               for (int i = 0; i < kRoundTrips; ++i) {
-                   send(COMPONENT_GENERAL);
-                   counter.await(1);
-               }
+    return Benchmark::microseconds([times, &trip] {
+               for (int i = 0; i < times; ++i)
+                   trip();
            }) /
-           kRoundTrips;
+           times;
 }
 
-double bareRoundTrip(Echo &here, Counter &counter)
+/// Times one step for queues of this length, for as many commands in all as the long one holds.
+double stepOfQueue(int length, const std::function<void()> &before,
+                   const std::function<void()> &step, const std::function<void()> &after)
 {
-    return Benchmark::microseconds([&here, &counter] {
-               for (int i = 0; i < kRoundTrips; ++i) {
-                   emit here.question(5, QLatin1String("*100#"));
-                   counter.await(1);
-               }
-           }) /
-           kRoundTrips;
-}
-
-/// The cost of one command when `length` of them wait.
-double drain(int length, Counter &counter)
-{
-    return Benchmark::microseconds([length, &counter] {
-               for (int i = 0; i < length; ++i)
-                   send(COMPONENT_GENERAL);
-               counter.await(length);
-           }) /
-           length;
-}
-
-double drainRepeatedly(int length, Counter &counter)
-{
-    const int repeats = 10000 / length;
     double sum = 0;
-    for (int i = 0; i < repeats; ++i)
-        sum += drain(length, counter);
-    return sum / repeats;
+    for (int i = 0; i < kLongQueue / length; ++i) {
+        before();
+        sum += Benchmark::microseconds(step);
+        after();
+    }
+    return sum / kLongQueue;
+}
+
+/// A step with the queue of the length that it is asked for.
+typedef std::function<double(int)> QueueStep;
+
+void compareQueues(const char *step, const QueueStep &measure)
+{
+    const std::string name = step;
+    Benchmark::compare(
+        Benchmark::Title("queue of 10,000: " + name + ", each command", "queue of 10", 1.2),
+        [&measure] { return measure(kLongQueue); }, [&measure] { return measure(kShortQueue); });
+}
+
+void compareRoundTrips(const char *cores, BareRoundTrip &bare, Pipeline &pipeline)
+{
+    Benchmark::compare(
+        Benchmark::Title(std::string("command through the pipeline, ") + kLog + ", " + cores,
+                         "queued signal there and back", kLimit),
+        [&pipeline] { return eachOf(kRoundTrips, [&pipeline] { pipeline.sendAndAwait(); }); },
+        [&bare] { return eachOf(kRoundTrips, [&bare] { bare.run(); }); });
+}
+
+void compareAllQueues(Pipeline &pipeline)
+{
+    compareQueues("fill", [&pipeline](int length) {
+        return stepOfQueue(
+            length, [] {}, [&] { pipeline.fill(length); }, [&] { pipeline.drain(length); });
+    });
+    compareQueues("drain", [&pipeline](int length) {
+        return stepOfQueue(
+            length, [&] { pipeline.fill(length); }, [&] { pipeline.drain(length); }, [] {});
+    });
+    compareQueues("clear", [&pipeline](int length) {
+        return stepOfQueue(
+            length, [&] { pipeline.fill(length); }, [] { USSDLogic::ClearQueuedCmds(); },
+            [&] { pipeline.settle(); });
+    });
+}
+
+void measureOnOneCore()
+{
+    Benchmark::stayOnCore(0);
+    BareRoundTrip bare;
+    Pipeline pipeline;
+    compareRoundTrips("one core", bare, pipeline);
+    if (kLogged)
+        compareAllQueues(pipeline);
+}
+
+void measureOnTwoCores()
+{
+    if (!Benchmark::stayOnCore(1))
+        return;
+    BareRoundTrip bare;
+    Pipeline pipeline;
+    Benchmark::stayOnCore(0);
+    compareRoundTrips("two cores", bare, pipeline);
 }
 
 } // namespace
@@ -105,35 +234,8 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     Benchmark::dropMessages();
-
-    QThread thread;
-    Echo here, there;
-    Counter bareCounter;
-    there.moveToThread(&thread);
-    QObject::connect(&here, SIGNAL(question(int, QString)), &there, SLOT(take(int, QString)));
-    QObject::connect(&there, SIGNAL(answer(int, QString)), &bareCounter, SLOT(take(int, QString)));
-    thread.start();
-
-    Counter counter;
-    USSDLogic *logic = USSDLogic::GetUSSDLogicInstance();
-    QObject::connect(logic, SIGNAL(responseReceived(int, QString)), &counter,
-                     SLOT(take(int, QString)));
-
-    Benchmark::compare(
-        "command through the pipeline, answered at once", "queued signal there and back",
-        [&] { return pipelineRoundTrip(counter); },
-        [&] { return bareRoundTrip(here, bareCounter); });
-    for (int length : {1000, 10000}) {
-        const std::string name = "a command out of a queue of " + std::to_string(length);
-        Benchmark::compare(
-            name.c_str(), "out of a queue of 10", [&] { return drainRepeatedly(length, counter); },
-            [&] { return drainRepeatedly(10, counter); });
-    }
-
-    thread.quit();
-    thread.wait();
-    logic->unSDKRegisterEvent();
-    USSDLogic::Destroy();
+    measureOnOneCore();
+    measureOnTwoCores();
     return 0;
 }
 

@@ -1,8 +1,6 @@
 /*
  * One entry more in a transcript that is long already.
  */
-#include <string>
-
 #include <QApplication>
 
 #include "Benchmark.h"
@@ -11,6 +9,11 @@
 
 namespace
 {
+
+const int kLong = 10000;
+const int kShort = 10;
+const int kAdded = 20;      // entries in a measurement
+const int kWholeRounds = 3; // setting a long text takes a while
 
 Transcript::Entry entry(int number)
 {
@@ -33,12 +36,11 @@ void fill(TranscriptView &view, int entries)
 
 double addOne(TranscriptView &view)
 {
-    const int entries = 20;
     return Benchmark::microseconds([&view] {
-               for (int i = 0; i < entries; ++i)
+               for (int i = 0; i < kAdded; ++i)
                    view.appendEntry(entry(i));
            }) /
-           entries;
+           kAdded;
 }
 
 double setWhole(TranscriptView &view)
@@ -50,30 +52,24 @@ double setWhole(TranscriptView &view)
     });
 }
 
-void compareAt(int entries)
-{
-    TranscriptView long_, short_, whole;
-    fill(long_, entries);
-    fill(short_, 10);
-    fill(whole, entries);
-    const std::string name = "entry added to " + std::to_string(entries);
-    if (entries > 10)
-        Benchmark::compare(
-            name.c_str(), "added to 10", [&] { return addOne(long_); },
-            [&] { return addOne(short_); });
-    Benchmark::compare(
-        name.c_str(), "setting the whole text again", [&] { return addOne(long_); },
-        [&] { return setWhole(whole); }, entries > 1000 ? 3 : 7);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     Benchmark::dropMessages();
-    for (int entries : {10, 1000, 10000})
-        compareAt(entries);
+    TranscriptView longView, shortView, wholeView;
+    fill(longView, kLong);
+    fill(shortView, kShort);
+    fill(wholeView, kLong);
+    Benchmark::compare(
+        Benchmark::Title("entry added to a transcript of 10,000", "added to one of 10", 1.1),
+        [&longView] { return addOne(longView); }, [&shortView] { return addOne(shortView); },
+        5 * Benchmark::kRounds);
+    Benchmark::compare(
+        Benchmark::Title("entry added to a transcript of 10,000", "setting the whole text again",
+                         0.01),
+        [&longView] { return addOne(longView); }, [&wholeView] { return setWhole(wholeView); },
+        kWholeRounds);
     return 0;
 }

@@ -1,6 +1,13 @@
-# ussd_add_benchmark(NAME SOURCES... LIBRARIES...): a program that prints rows of figures. It is
-# built with everything else and run by benchmarks/run only.
-function(ussd_add_benchmark name)
+# Benchmarks. They are built with everything else and run by benchmarks/run only.
+#
+#   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints rows of figures
+#   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks need
+#   ussd_list_benchmarks()                             writes their names down for benchmarks/run
+#
+# The target "benchmarks" builds them all.
+add_custom_target(benchmarks)
+
+function(ussd_add_helper name)
     cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     ussd_set_up(${name})
@@ -8,4 +15,16 @@ function(ussd_add_benchmark name)
                                                         ${PROJECT_BINARY_DIR}/benchmarks)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/benchmarks)
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    add_dependencies(benchmarks ${name})
+endfunction()
+
+function(ussd_add_benchmark name)
+    ussd_add_helper(${name} ${ARGN})
+    set_property(GLOBAL APPEND PROPERTY USSD_BENCHMARKS ${name})
+endfunction()
+
+function(ussd_list_benchmarks)
+    get_property(names GLOBAL PROPERTY USSD_BENCHMARKS)
+    list(JOIN names "\n" lines)
+    file(WRITE ${PROJECT_BINARY_DIR}/benchmarks/programs.txt "${lines}\n")
 endfunction()

@@ -1,0 +1,191 @@
+/*
+ * Makes a Markdown table and a bar chart of the rows that the benchmarks print (see
+ * Benchmark::report):
+ *
+ *     benchmark_report ROWS.tsv CHART.png >TABLE.md
+ */
+#include <cmath>
+#include <cstdio>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QStringList>
+
+namespace
+{
+
+/// Median with the smallest and the largest value.
+struct Spread {
+    double median, smallest, largest;
+};
+
+struct Row {
+    QString what, unit, baseline;
+    Spread measured, base, ratio;
+    double limit;
+
+    bool isReached() const { return ratio.median <= limit; }
+};
+
+const int kFields = 13;
+
+Spread spread(const QStringList &fields, int first)
+{
+    Spread result = {fields.at(first).toDouble(), fields.at(first + 1).toDouble(),
+                     fields.at(first + 2).toDouble()};
+    return result;
+}
+
+Row row(const QString &line)
+{
+    const QStringList fields = line.split(QLatin1Char('\t'));
+    if (fields.count() != kFields)
+        qFatal("not a row of a benchmark: %s", qPrintable(line));
+    Row result = {fields.at(0),
+                  fields.at(1),
+                  fields.at(5),
+                  spread(fields, 2),
+                  spread(fields, 6),
+                  spread(fields, 9),
+                  fields.at(12).toDouble()};
+    return result;
+}
+
+QList<Row> readRows(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        qFatal("cannot read %s", qPrintable(path));
+    QList<Row> rows;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+        if (!line.isEmpty())
+            rows << row(line);
+    }
+    return rows;
+}
+
+/// Three digits that count, without an exponent for what occurs here.
+QString number(double value)
+{
+    const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;
+    return QString::number(value, 'f', qBound(0, digits, 5));
+}
+
+QString text(const Spread &figures, const QString &unit = QString())
+{
+    return number(figures.median) + unit + QLatin1String(" (") + number(figures.smallest) +
+           QLatin1String(" to ") + number(figures.largest) + QLatin1Char(')');
+}
+
+void printTable(const QList<Row> &rows)
+{
+    std::printf("| what | median (smallest to largest) | baseline | median (smallest to largest) "
+                "| ratio (smallest to largest) | to reach |\n|---|---|---|---|---|---|\n");
+    for (const Row &one : rows) {
+        const QString unit = QLatin1Char(' ') + one.unit;
+        std::printf("| %s | %s | %s | %s | %s | %s%s |\n", qUtf8Printable(one.what),
+                    qUtf8Printable(text(one.measured, unit)), qUtf8Printable(one.baseline),
+                    qUtf8Printable(text(one.base, unit)), qUtf8Printable(text(one.ratio)),
+                    qUtf8Printable(number(one.limit)), one.isReached() ? "" : ", **not reached**");
+    }
+}
+
+// ---- the chart: a bar for each ratio on a logarithmic scale, with its spread and its limit ------
+
+const int kNameWidth = 600; // pixels, like all below
+const int kBarsWidth = 460;
+const int kValueWidth = 170;
+const int kRowHeight = 34;
+const int kHead = 60;
+const int kFoot = 24;
+const double kSmallestRatio = 0.0001, kLargestRatio = 10;
+
+int place(double ratio)
+{
+    const double whole = std::log10(kLargestRatio / kSmallestRatio);
+    const double part = std::log10(qBound(kSmallestRatio, ratio, kLargestRatio) / kSmallestRatio);
+    return kNameWidth + static_cast<int>(kBarsWidth * part / whole);
+}
+
+void paintScale(QPainter &painter, int bottom)
+{
+    for (double ratio = kSmallestRatio; ratio <= kLargestRatio * 1.01; ratio *= 10) {
+        painter.setPen(std::abs(ratio - 1) < 0.01 ? Qt::black : QColor(200, 200, 200));
+        painter.drawLine(place(ratio), kHead - 8, place(ratio), bottom);
+        painter.setPen(Qt::black);
+        painter.drawText(QRect(place(ratio) - 40, kHead - 28, 80, 18), Qt::AlignCenter,
+                         QString::number(ratio));
+    }
+}
+
+void paintSpread(QPainter &painter, const Spread &ratio, int middle)
+{
+    painter.setPen(QPen(QColor(60, 60, 60), 1));
+    painter.drawLine(place(ratio.smallest), middle, place(ratio.largest), middle);
+    painter.drawLine(place(ratio.smallest), middle - 4, place(ratio.smallest), middle + 4);
+    painter.drawLine(place(ratio.largest), middle - 4, place(ratio.largest), middle + 4);
+}
+
+void paintLimit(QPainter &painter, double limit, int top)
+{
+    painter.setPen(QPen(QColor(200, 0, 0), 2));
+    painter.drawLine(place(limit), top + 2, place(limit), top + kRowHeight - 2);
+}
+
+void paintRow(QPainter &painter, const Row &one, int top)
+{
+    const int middle = top + kRowHeight / 2;
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(8, top, kNameWidth - 16, kRowHeight / 2), Qt::AlignVCenter, one.what);
+    painter.setPen(QColor(110, 110, 110));
+    painter.drawText(QRect(8, middle, kNameWidth - 16, kRowHeight / 2), Qt::AlignVCenter,
+                     QLatin1String("to: ") + one.baseline);
+    const QRect bar(kNameWidth, top + 7, place(one.ratio.median) - kNameWidth, kRowHeight - 14);
+    painter.fillRect(bar, one.isReached() ? QColor(90, 150, 210) : QColor(230, 150, 60));
+    paintSpread(painter, one.ratio, middle);
+    paintLimit(painter, one.limit, top);
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(kNameWidth + kBarsWidth + 12, top, kValueWidth, kRowHeight),
+                     Qt::AlignVCenter,
+                     number(one.ratio.median) + QLatin1String("   of ") + number(one.limit));
+}
+
+void paintChart(QPainter &painter, const QList<Row> &rows, const QSize &size)
+{
+    painter.setFont(QFont(QLatin1String("DejaVu Sans"), 8));
+    painter.drawText(QRect(8, 6, size.width() - 16, 20), Qt::AlignVCenter,
+                     QLatin1String("Cost beside its baseline (ratio, logarithmic): bar = median, "
+                                   "line = smallest to largest, red = what is to be reached"));
+    paintScale(painter, size.height() - kFoot);
+    for (int i = 0; i < rows.count(); ++i)
+        paintRow(painter, rows.at(i), kHead + i * kRowHeight);
+}
+
+void writeChart(const QList<Row> &rows, const QString &path)
+{
+    const QSize size(kNameWidth + kBarsWidth + kValueWidth,
+                     kHead + kRowHeight * rows.count() + kFoot);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintChart(painter, rows, size);
+    painter.end();
+    if (!image.save(path))
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.count() != 3)
+        qFatal("usage: benchmark_report ROWS.tsv CHART.png");
+    const QList<Row> rows = readRows(arguments.at(1));
+    printTable(rows);
+    writeChart(rows, arguments.at(2));
+    return 0;
+}

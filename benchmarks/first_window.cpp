@@ -1,0 +1,78 @@
+/*
+ * Loaded in front of a program (LD_PRELOAD): ends it when its first window has been painted, and
+ * says when that was and what memory it took, as one line on the descriptor $FIRST_WINDOW_FD names:
+ * nanoseconds of the monotonic clock, then kB of the greatest resident set and of the proportional
+ * set size.
+ */
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QFile>
+#include <QWidget>
+
+namespace
+{
+
+long long nanosecondsNow()
+{
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000000000LL + now.tv_nsec;
+}
+
+/// The number behind "name:" in one of the process's own status files, in kB; 0 without it.
+long kilobytes(const char *path, const QByteArray &name)
+{
+    QFile file(QString::fromLatin1(path));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith(name + ':'))
+            return line.mid(name.size() + 1).simplified().split(' ').first().toLong();
+    }
+    return 0;
+}
+
+class FirstWindow : public QObject
+{
+    Q_OBJECT
+public:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const QWidget *widget = qobject_cast<QWidget *>(object);
+        if (event->type() == QEvent::Paint && widget && widget->isWindow() && !m_seen) {
+            m_seen = true; // its children are painted after it, before the event loop goes on
+            QMetaObject::invokeMethod(this, "report", Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+public slots:
+    void report()
+    {
+        const long long now = nanosecondsNow();
+        dprintf(atoi(getenv("FIRST_WINDOW_FD")), "%lld %ld %ld\n", now,
+                kilobytes("/proc/self/status", "VmHWM"),
+                kilobytes("/proc/self/smaps_rollup", "Pss"));
+        _exit(0);
+    }
+
+private:
+    bool m_seen = false;
+};
+
+void watch()
+{
+    if (getenv("FIRST_WINDOW_FD"))
+        qApp->installEventFilter(new FirstWindow);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(watch)
+
+#include "first_window.moc"

@@ -1,0 +1,126 @@
+/*
+ * Whole processes: from the start of a program until its first window is painted, and the memory it
+ * has taken by then. Both programs are watched by the same library (first_window.cpp).
+ */
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <spawn.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+#include "Benchmark.h"
+
+extern char **environ;
+
+namespace
+{
+
+const int kStarts = 41;
+const double kKilobytesInMegabyte = 1024;
+
+struct Start {
+    double milliseconds;
+    double peakMegabytes;
+    double shareMegabytes;
+};
+
+long long nanosecondsNow()
+{
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000000000LL + now.tv_nsec;
+}
+
+[[noreturn]] void fail(const char *program)
+{
+    std::fprintf(stderr, "%s showed no window\n", program);
+    std::exit(1);
+}
+
+std::string readAll(int descriptor)
+{
+    std::string text;
+    char piece[128];
+    for (ssize_t length; (length = read(descriptor, piece, sizeof(piece))) > 0;)
+        text.append(piece, static_cast<size_t>(length));
+    return text;
+}
+
+/// This process's environment with the watching library in front.
+std::vector<std::string> watchedEnvironment(int descriptor)
+{
+    std::vector<std::string> result;
+    for (char **entry = environ; *entry; ++entry)
+        result.push_back(*entry);
+    result.push_back("LD_PRELOAD=" USSD_FIRST_WINDOW);
+    result.push_back("FIRST_WINDOW_FD=" + std::to_string(descriptor));
+    return result;
+}
+
+void spawn(const char *program, int descriptor, pid_t &child)
+{
+    std::vector<std::string> entries = watchedEnvironment(descriptor);
+    std::vector<char *> environment;
+    for (std::string &entry : entries)
+        environment.push_back(&entry[0]);
+    environment.push_back(nullptr);
+    char *arguments[] = {const_cast<char *>(program), nullptr};
+    if (posix_spawn(&child, program, nullptr, nullptr, arguments, environment.data()) != 0)
+        fail(program);
+}
+
+Start start(const char *program)
+{
+    int ends[2];
+    if (pipe(ends) != 0)
+        fail(program);
+    pid_t child = 0;
+    const long long begin = nanosecondsNow();
+    spawn(program, ends[1], child);
+    close(ends[1]);
+    const std::string answer = readAll(ends[0]);
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    long long shown = 0;
+    long peak = 0, share = 0;
+    if (std::sscanf(answer.c_str(), "%lld %ld %ld", &shown, &peak, &share) != 3)
+        fail(program);
+    Start result = {static_cast<double>(shown - begin) / 1e6, peak / kKilobytesInMegabyte,
+                    share / kKilobytesInMegabyte};
+    return result;
+}
+
+std::vector<double> figures(const std::vector<Start> &starts, double Start::*figure)
+{
+    std::vector<double> result;
+    for (const Start &one : starts)
+        result.push_back(one.*figure);
+    return result;
+}
+
+} // namespace
+
+int main()
+{
+    std::vector<Start> dashboard, empty;
+    start(USSD_DASHBOARD);
+    start(USSD_EMPTY_WINDOW);
+    for (int i = 0; i < kStarts; ++i) {
+        dashboard.push_back(start(USSD_DASHBOARD));
+        empty.push_back(start(USSD_EMPTY_WINDOW));
+    }
+    const char baseline[] = "empty Qt main window";
+    Benchmark::report(Benchmark::Title("program start to first window", baseline, 1.3, "ms"),
+                      figures(dashboard, &Start::milliseconds),
+                      figures(empty, &Start::milliseconds));
+    Benchmark::report(Benchmark::Title("memory then, greatest resident set", baseline, 1.2, "MB"),
+                      figures(dashboard, &Start::peakMegabytes),
+                      figures(empty, &Start::peakMegabytes));
+    Benchmark::report(Benchmark::Title("memory then, proportional set", baseline, 1.2, "MB"),
+                      figures(dashboard, &Start::shareMegabytes),
+                      figures(empty, &Start::shareMegabytes));
+    return 0;
+}
