@@ -2,12 +2,12 @@
 
 #include <QApplication>
 #include <QRect>
-#include <QTimer>
 
 #include "Arguments.h"
 #include "CommandSender.h"
 #include "DashboardSettings.h"
 #include "DashboardText.h"
+#include "FirstPaint.h"
 #include "GeneralWindow.h"
 #include "IUIPlugin.h"
 #include "KeyboardHelper.h"
@@ -58,15 +58,15 @@ QString useNamedScenario(const Arguments &arguments)
     return arguments.scenario.isEmpty() ? QString() : Scenarios::use(arguments.scenario);
 }
 
-/// The remembered scenario, unless the environment names one. Returns what is wrong with it; the
-/// default is in use then.
-QString useRememberedScenario(MainWindow &window, const DashboardSettings &settings)
+/// The remembered scenario, unless the environment names one; `used` is the one that is in use then.
+/// Returns what is wrong with it; the default is in use then.
+QString useRememberedScenario(const DashboardSettings &settings, QString *used)
 {
     if (isSet("TKSV_SCENARIO") || settings.scenario().isEmpty())
         return Scenarios::use(QString());
     QString error = Scenarios::use(settings.scenario());
     if (error.isEmpty())
-        window.setScenario(settings.scenario());
+        *used = settings.scenario();
     return error;
 }
 
@@ -114,19 +114,21 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         return fail(unusable, EXIT_USAGE);
     DashboardSettings settings;
+    QString scenario = arguments.scenario;
+    QString forgotten; // before the window, which asks the device and would start the default
+    if (scenario.isEmpty())
+        forgotten = useRememberedScenario(settings, &scenario);
     UiPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, &settings);
-    QString forgotten;
-    if (arguments.scenario.isEmpty())
-        forgotten = useRememberedScenario(window, settings);
-    else
-        window.setScenario(arguments.scenario);
+    if (!scenario.isEmpty())
+        window.setScenario(scenario);
+    FirstPaint shown(&window);
     window.show();
     ProfileKeeper profiles(ProfileBackup::ofUser());
     QObject::connect(&profiles, SIGNAL(ready()), &window, SLOT(loadPlugin()));
     QObject::connect(&window, SIGNAL(frameClosed()), &profiles, SLOT(refresh()));
-    QTimer::singleShot(0, &profiles, SLOT(start()));
+    QObject::connect(&shown, SIGNAL(painted()), &profiles, SLOT(start()));
     if (!forgotten.isEmpty())
         window.showScenarioError(forgotten);
     const int result = QApplication::exec();

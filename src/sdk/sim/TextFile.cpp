@@ -30,6 +30,20 @@ bool isRegular(std::FILE *file)
     return fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+/// Until one byte more than may be there. What is read is a few kB mostly, and the room for all would
+/// have to be cleared first.
+void readPieces(std::FILE *file, std::string &text)
+{
+    char piece[4096];
+    text.clear();
+    while (text.size() <= MaxBytes) {
+        const std::size_t length = std::fread(piece, 1, sizeof(piece), file);
+        if (length == 0)
+            return;
+        text.append(piece, length);
+    }
+}
+
 std::string systemError()
 {
     return std::string("cannot be read: ") + std::strerror(errno);
@@ -44,8 +58,7 @@ std::string readTextFile(const std::string &path, std::string &text)
         return systemError();
     if (!isRegular(file.get()))
         return "expected a regular file";
-    text.resize(MaxBytes + 1);
-    text.resize(std::fread(&text[0], 1, text.size(), file.get()));
+    readPieces(file.get(), text);
     if (std::ferror(file.get()))
         return systemError();
     return text.size() > MaxBytes ? "expected at most 1 MiB" : std::string();
