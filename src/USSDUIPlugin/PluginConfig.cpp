@@ -1,6 +1,5 @@
 #include "PluginConfig.h"
 
-#include <QStringList>
 #include <QXmlStreamReader>
 
 #include "ForwardXml.h"
@@ -88,6 +87,17 @@ void readColourOf(QXmlStreamReader &reader, const char *element, int &red, int &
     readColour(reader, red, green, blue);
 }
 
+int windowFlag(const QStringRef &name)
+{
+    if (name == QLatin1String("Prepaid"))
+        return WINDOW_PREPAID;
+    if (name == QLatin1String("Postpaid"))
+        return WINDOW_POSTPAID;
+    if (name == QLatin1String("Commonpaid"))
+        return WINDOW_COMMONPAID;
+    return name == QLatin1String("Advanced") ? WINDOW_ADVANCED : 0;
+}
+
 } // namespace
 
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
@@ -137,23 +147,22 @@ void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD)
     autoUSSD.valid = ForwardXml::boolAttribute(reader, QLatin1String("valid"));
     if (!autoUSSD.valid)
         return;
-    while (ForwardXml::skipTo(reader, QLatin1String("item")))
+    const QString item = QLatin1String("item");
+    while (ForwardXml::skipTo(reader, item))
         autoUSSD.imsiMap.insert(ForwardXml::attribute(reader, QLatin1String("imsi")),
                                 windowFlags(ForwardXml::attribute(reader, QLatin1String("ussd"))));
 }
 
 int windowFlags(const QString &list)
 {
-    const QStringList parts = list.split(QLatin1Char('/'));
     int flags = 0;
-    if (parts.contains(QLatin1String("Prepaid")))
-        flags |= WINDOW_PREPAID;
-    if (parts.contains(QLatin1String("Postpaid")))
-        flags |= WINDOW_POSTPAID;
-    if (parts.contains(QLatin1String("Commonpaid")))
-        flags |= WINDOW_COMMONPAID;
-    if (parts.contains(QLatin1String("Advanced")))
-        flags |= WINDOW_ADVANCED;
+    int start = 0;
+    while (start <= list.length()) {
+        const int slash = list.indexOf(QLatin1Char('/'), start);
+        const int end = slash < 0 ? list.length() : slash;
+        flags |= windowFlag(list.midRef(start, end - start));
+        start = end + 1;
+    }
     return flags;
 }
 

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
+#include <QSet>
 #include <QXmlStreamReader>
 
 #include "CommonUtils.h"
@@ -94,9 +94,9 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return;
     }
-    QMap<QString, int> codes;
+    QSet<QString> codes;
     for (int i = 0; i < m_listUSSDProfiles.count(); ++i)
-        codes.insert(m_listUSSDProfiles.at(i).value, codes.count());
+        codes.insert(m_listUSSDProfiles.at(i).value);
 
     QXmlStreamReader reader(&file);
     USSDProfile profile;
@@ -109,7 +109,7 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
             continue;
         }
         if (!isSystem)
-            codes.insert(profile.value, codes.count());
+            codes.insert(profile.value);
         m_listUSSDProfiles.append(profile);
     }
     USSD_LOG(" Exit");

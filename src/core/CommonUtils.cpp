@@ -1,9 +1,12 @@
 #include "CommonUtils.h"
 
+#include <chrono>
+
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QTime>
 
 #include "Change.h"
 #include "HostState.h"
@@ -39,6 +42,25 @@ QPoint keptInside(const QPoint &corner, const QSize &size, const QRect &screen)
     const int x = qMin(corner.x(), screen.x() + screen.width() - size.width());
     const int y = qMin(corner.y(), screen.y() + screen.height() - size.height());
     return QPoint(qMax(x, screen.x()), qMax(y, screen.y()));
+}
+
+qint64 millisecondsNow()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+/// The local time for log lines of the GUI thread. A row of buttons logs many in the same
+/// millisecond, and each look at the local time asks for the time zone's file.
+QByteArray timeOfDay()
+{
+    static qint64 lastLook = -1;
+    static QByteArray text;
+    const qint64 now = millisecondsNow();
+    if (now != lastLook)
+        text = QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit();
+    lastLook = now;
+    return text;
 }
 
 } // namespace
@@ -93,4 +115,10 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QStr
     const bool accepted = box->clickedButton() == first;
     delete box;
     return accepted ? QMessageBox::Ok : QMessageBox::Cancel;
+}
+
+void CommonUtils::logElide(int line, const char *what)
+{
+    qDebug("%s: %s: %s: %d: %s", timeOfDay().constData(), "../../src/core/common/CommonUtils.h",
+           "setElidedTextForWidgetText", line, what);
 }

@@ -4,17 +4,10 @@
 #include <QTimer>
 #include <QWidget>
 
-namespace
-{
-
-const int LONGEST_WAIT = 500; // ms, for a window that is not seen
-
-} // namespace
-
-FirstPaint::FirstPaint(QWidget *window)
+FirstPaint::FirstPaint(QWidget *window, int longestWait)
 {
     window->installEventFilter(this);
-    QTimer::singleShot(LONGEST_WAIT, this, SLOT(announce()));
+    QTimer::singleShot(longestWait, this, SLOT(announce()));
 }
 
 /// The window comes first and what is in it after, all before the event loop goes on.

@@ -14,8 +14,8 @@ class FirstPaint : public QObject
 {
     Q_OBJECT
 public:
-    /// The window outlives it.
-    explicit FirstPaint(QWidget *window);
+    /// The window outlives it. One that is not painted within `longestWait` ms is taken for unseen.
+    explicit FirstPaint(QWidget *window, int longestWait = 500);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -58,8 +58,8 @@ QString useNamedScenario(const Arguments &arguments)
     return arguments.scenario.isEmpty() ? QString() : Scenarios::use(arguments.scenario);
 }
 
-/// The remembered scenario, unless the environment names one; `used` is the one that is in use then.
-/// Returns what is wrong with it; the default is in use then.
+/// The remembered scenario, unless the environment names one; `used` is the one that is in use
+/// then. Returns what is wrong with it; the default is in use then.
 QString useRememberedScenario(const DashboardSettings &settings, QString *used)
 {
     if (isSet("TKSV_SCENARIO") || settings.scenario().isEmpty())

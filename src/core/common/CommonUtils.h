@@ -4,7 +4,6 @@
 #include <QFontMetrics>
 #include <QMessageBox>
 #include <QString>
-#include <QTime>
 
 #include "QtCompat.h"
 
@@ -50,13 +49,7 @@ public:
     }
 
 private:
-    static void logElide(int line, const char *what)
-    {
-        qDebug(
-            "%s: %s: %s: %d: %s",
-            QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz")).toLocal8Bit().constData(),
-            "../../src/core/common/CommonUtils.h", "setElidedTextForWidgetText", line, what);
-    }
+    static void logElide(int line, const char *what);
 };
 
 #endif
