@@ -149,7 +149,7 @@ ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQu
 QString networkOfImsi(const ProviderDatabase &database, const QString &imsi)
 {
     for (int length = LONGEST_NETWORK; length >= SHORTEST_NETWORK; --length) {
-        const QString network = imsi.left(length);
+        QString network = imsi.left(length);
         if (network.length() == length && isDigitsOnly(network) &&
             !withNetwork(database.providers, network).isEmpty())
             return network;

@@ -6,8 +6,8 @@
 namespace
 {
 
-const int MAX_DEPTH = 30;              // elements inside each other; the format has six
-const qint64 MAX_BYTES = 64 * 1048576; // of a file
+const int MAX_DEPTH = 30;          // elements inside each other; the format has six
+const qint64 MAX_BYTES = 67108864; // of a file: 64 MB
 
 bool isDigits(const QString &text, int fewest, int most)
 {

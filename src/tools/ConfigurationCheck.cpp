@@ -1,0 +1,592 @@
+#include "ConfigurationCheck.h"
+
+#include <QMap>
+#include <QRegExp>
+#include <QXmlStreamReader>
+
+#include "ChargeRules.h"
+#include "ElementCheck.h"
+#include "ForwardTrace.h"
+#include "PluginConfig.h"
+#include "SmsLayout.h"
+
+namespace
+{
+
+const int ITEMS = 4;         // that the scan takes for a paid section, wherever it finds them
+const int LONGEST_IMSI = 15; // digits, 3GPP TS 23.003
+const QLatin1String PLACEHOLDER("%s");
+
+const char *const SECTIONS[] = {"PrePostDiffer", "Prepaid", "Postpaid", "send",
+                                "recevie",       "cmdEdit", "autoUSSD"};
+
+QStringList components()
+{
+    return QString::fromLatin1("Balance Charge OnlineCharge MSISDN").split(QLatin1Char(' '));
+}
+
+/** A component of the account window, as the scan read it. */
+struct Item {
+    int place = -1;
+    QString name;
+    bool shown = false;
+    int pos = 0;
+};
+
+/** Takes the scan's way and says what is not as its author may think. */
+class Check
+{
+public:
+    Check(const XmlElements &elements, CheckReport &report)
+        : m_elements(elements), m_check(elements, report), m_trace(elements)
+    {
+    }
+    void run();
+
+private:
+    int section(const char *name);
+    int child(int section, const char *name);
+    QString childText(int section, const char *name, int *place = nullptr);
+    int childNumber(int section, const char *name, int *place = nullptr);
+
+    void detection();
+    void paid(const char *name);
+    Item item(int section, const char *sectionName, int number);
+    void itemOutside(const Item &item, const char *sectionName, int number);
+    void component(const Item &item);
+    void sent(const Item &item);
+    void charge(const Item &item);
+    void chargeExpressionOf(const Item &item, const ChargeRules &rules, int place);
+    void chargeLength(const Item &item, const ChargeRules &rules, int place);
+    void twins(const QList<Item> &items);
+    void looks(const char *name);
+    void colours(int place);
+    void editor();
+    void clearButton();
+    void sims();
+    void sim(int place, QMap<QString, int> &seen);
+    void windows(int place);
+    void sectionsTwice();
+
+    const XmlElements &m_elements;
+    ElementCheck m_check;
+    ForwardTrace m_trace;
+    bool m_isLost = false; // the scan has reached the end in search of a section
+};
+
+void Check::run()
+{
+    detection();
+    paid("Prepaid");
+    paid("Postpaid");
+    looks("send");
+    looks("recevie");
+    editor();
+    sims();
+    clearButton();
+    sectionsTwice();
+}
+
+// ---- the scan ------------------------------------------------------------------------------
+
+int Check::section(const char *name)
+{
+    const QString title = QString::fromLatin1("<%1>").arg(QLatin1String(name));
+    const int place = m_trace.seek(name);
+    if (place >= 0)
+        return place;
+    const int passed = m_trace.passed(name);
+    if (passed >= 0 && !m_isLost)
+        m_check.find(passed, "order",
+                     title + QLatin1String(" stands too early: the reader only looks forward, does "
+                                           "not see it, and reads it and every section sought "
+                                           "after it as empty"));
+    else if (passed >= 0)
+        m_check.find(passed, "order",
+                     title +
+                         QLatin1String(" is not read: an earlier section was sought to the end"));
+    else
+        m_check.find(-1, "missing",
+                     title + QLatin1String(m_isLost ? " is missing"
+                                                    : " is missing: it and every section sought "
+                                                      "after it read as empty"));
+    m_isLost = true;
+    return -1;
+}
+
+/// The next element of this name, which should stand in the section.
+int Check::child(int section, const char *name)
+{
+    const int place = m_trace.seek(name);
+    if (section < 0)
+        return place;
+    const QString title =
+        QString::fromLatin1("<%1> of <%2>").arg(QLatin1String(name), m_check.at(section).name);
+    if (place < 0)
+        m_check.find(section, "missing",
+                     title + QLatin1String(" is missing or stands too early; it and all that is "
+                                           "sought after it reads as empty"));
+    else if (m_check.at(place).parent != section)
+        m_check.find(section, "order",
+                     title + QString::fromLatin1(" is missing or stands too early; the one in line "
+                                                 "%1 is taken for it, and what is before that is "
+                                                 "passed over")
+                                 .arg(m_check.at(place).line));
+    return place;
+}
+
+QString Check::childText(int section, const char *name, int *place)
+{
+    const int found = child(section, name);
+    if (place)
+        *place = found;
+    return m_trace.text();
+}
+
+int Check::childNumber(int section, const char *name, int *place)
+{
+    int found = -1;
+    const QString text = childText(section, name, &found);
+    if (place)
+        *place = found;
+    return found < 0 ? 0 : m_check.numberText(found, QLatin1String(name), text);
+}
+
+// ---- sections ------------------------------------------------------------------------------
+
+void Check::detection()
+{
+    const int section = this->section("PrePostDiffer");
+    if (section >= 0)
+        m_check.boolAttribute(section, "value");
+    const QString command = childText(section, "command");
+    int place = -1;
+    const QString pattern = childText(section, "ReturnPattern", &place);
+    childNumber(section, "style");
+    if (section < 0)
+        return;
+    m_check.command(section, command, 0);
+    const bool isOn = m_check.at(section).attribute("value") == QLatin1String("true");
+    if (isOn && command.isEmpty())
+        m_check.find(section, "command",
+                     QLatin1String("the detection has no command; nothing is asked"));
+    if (isOn && place >= 0 && pattern.contains(QLatin1Char('\\')) &&
+        pattern != QLatin1String("\"\\d\""))
+        m_check.find(place, "expression",
+                     QString::fromLatin1("%1 is compared as text, letter by letter; only \"\\d\" "
+                                         "with its quotation marks asks for a digit")
+                         .arg(quotedPart(pattern)));
+}
+
+void Check::paid(const char *name)
+{
+    const int section = this->section(name);
+    QList<Item> items;
+    for (int number = 1; number <= ITEMS; ++number)
+        items << item(section, name, number);
+    if (section < 0)
+        return;
+    const QList<int> own = m_elements.childrenOf(section, "item");
+    for (int i = ITEMS; i < own.count(); ++i)
+        m_check.find(own.at(i), "items",
+                     QString::fromLatin1("<%1> has %2 items; the reader takes four, and this one "
+                                         "never")
+                         .arg(QLatin1String(name))
+                         .arg(own.count()));
+    twins(items);
+}
+
+Item Check::item(int section, const char *sectionName, int number)
+{
+    Item item;
+    item.place = m_trace.seek("item");
+    if (item.place < 0) {
+        if (section >= 0)
+            m_check.find(section, "items",
+                         QString::fromLatin1("<%1> has no item %2")
+                             .arg(QLatin1String(sectionName))
+                             .arg(number));
+        return item;
+    }
+    item.name = m_check.at(item.place).attribute("name");
+    if (section >= 0 && m_check.at(item.place).parent != section)
+        itemOutside(item, sectionName, number);
+    if (components().contains(item.name))
+        component(item);
+    else if (section >= 0)
+        m_check.find(item.place, "items",
+                     QString::fromLatin1("there is no component %1; the item is counted, and "
+                                         "nothing of it is read")
+                         .arg(quotedPart(item.name)));
+    item.shown = m_check.at(item.place).attribute("value") == QLatin1String("true");
+    item.pos = m_check.at(item.place).attribute("pos").toInt();
+    return item;
+}
+
+void Check::itemOutside(const Item &item, const char *sectionName, int number)
+{
+    const int parent = m_check.at(item.place).parent;
+    m_check.find(item.place, "items",
+                 QString::fromLatin1("<%1> has fewer than four items: this item %2 of <%3> becomes "
+                                     "its item %4")
+                     .arg(QLatin1String(sectionName), quotedPart(item.name),
+                          parent < 0 ? QString() : m_check.at(parent).name)
+                     .arg(number));
+}
+
+void Check::component(const Item &item)
+{
+    m_check.boolAttribute(item.place, "value");
+    m_check.numberAttribute(item.place, "pos");
+    if (item.name == QLatin1String("Charge"))
+        return charge(item);
+    if (item.name == QLatin1String("OnlineCharge")) {
+        childText(item.place, "URL");
+        return;
+    }
+    sent(item);
+    if (item.name == QLatin1String("MSISDN"))
+        childNumber(item.place, "UpdateButton");
+}
+
+void Check::sent(const Item &item)
+{
+    const QString command = childText(item.place, "command");
+    const bool shown = m_check.at(item.place).attribute("value") == QLatin1String("true");
+    m_check.command(item.place, command, 0);
+    if (shown && command.isEmpty())
+        m_check.find(item.place, "command",
+                     item.name + QLatin1String(" is shown and has no command"));
+}
+
+void Check::charge(const Item &item)
+{
+    const QString command = childText(item.place, "command");
+    ChargeRules rules;
+    int lengthPlace = -1;
+    rules.length = childNumber(item.place, "length", &lengthPlace);
+    rules.minlenth = childNumber(item.place, "minlenth");
+    childNumber(item.place, "ReturnStyle");
+    int limitPlace = -1;
+    rules.limitText = childText(item.place, "LimitText", &limitPlace);
+    m_check.command(item.place, command, rules.length);
+    if (m_check.at(item.place).attribute("value") != QLatin1String("true"))
+        return;
+    if (!command.contains(PLACEHOLDER))
+        m_check.find(item.place, "command",
+                     QLatin1String("the top-up's command has no \"%s\"; what is entered is not "
+                                   "sent"));
+    chargeLength(item, rules, lengthPlace);
+    chargeExpressionOf(item, rules, limitPlace);
+}
+
+void Check::chargeLength(const Item &item, const ChargeRules &rules, int place)
+{
+    const int at = place < 0 ? item.place : place;
+    if (rules.length <= 0)
+        m_check.find(at, "length", QLatin1String("length is 0: nothing can be entered to top up"));
+    else if (rules.minlenth > rules.length)
+        m_check.find(
+            at, "length",
+            QString::fromLatin1("minlenth %1 is more than length %2: exactly %2 are needed")
+                .arg(rules.minlenth)
+                .arg(rules.length));
+}
+
+void Check::chargeExpressionOf(const Item &item, const ChargeRules &rules, int place)
+{
+    const int at = place < 0 ? item.place : place;
+    if (!SmsLayoutFile::isCharacterClass(rules.limitText))
+        m_check.find(at, "expression",
+                     QString::fromLatin1("LimitText %1 is no class of characters")
+                         .arg(quotedPart(rules.limitText)));
+    else if (rules.length > 0 && rules.length <= SmsLayoutFile::kMaxInputLength &&
+             !QRegExp(chargeExpression(rules)).isValid())
+        m_check.find(at, "expression",
+                     QString::fromLatin1("%1 is no regular expression")
+                         .arg(quotedPart(chargeExpression(rules))));
+    else if (rules.length > SmsLayoutFile::kMaxInputLength)
+        m_check.find(
+            at, "expression",
+            QString::fromLatin1("length %1 is more than a regular expression can count (%2)")
+                .arg(rules.length)
+                .arg(SmsLayoutFile::kMaxInputLength));
+}
+
+void Check::twins(const QList<Item> &items)
+{
+    for (int i = 0; i < items.count(); ++i) {
+        for (int j = i + 1; j < items.count(); ++j) {
+            const Item &a = items.at(i);
+            const Item &b = items.at(j);
+            if (a.name.isEmpty() || b.name.isEmpty())
+                continue;
+            if (a.name == b.name)
+                m_check.find(b.place, "items",
+                             QString::fromLatin1("%1 stands in line %2 already; this one counts")
+                                 .arg(quotedPart(b.name))
+                                 .arg(m_check.at(a.place).line));
+            else if (a.shown && b.shown && a.pos == b.pos)
+                m_check.find(b.place, "position",
+                             QString::fromLatin1("%1 and %2 have the same pos %3; only one of them "
+                                                 "is shown")
+                                 .arg(a.name, b.name)
+                                 .arg(a.pos));
+        }
+    }
+}
+
+void Check::looks(const char *name)
+{
+    const int section = this->section(name);
+    int place = -1;
+    const int height = childNumber(section, "yHeight", &place);
+    childNumber(section, "yOffset");
+    const int colour = child(section, "color");
+    if (section < 0)
+        return;
+    if (place >= 0 && height <= 0)
+        m_check.find(place, "size",
+                     QLatin1String("yHeight is not above 0: letters get Qt's smallest size"));
+    colours(colour);
+}
+
+void Check::colours(int place)
+{
+    if (place < 0)
+        return;
+    m_check.colour(place, "red");
+    m_check.colour(place, "green");
+    m_check.colour(place, "blue");
+}
+
+void Check::editor()
+{
+    const int section = this->section("cmdEdit");
+    if (section >= 0)
+        m_check.boolAttribute(section, "visible");
+    for (const char *name : {"readonlycolor", "commoncolor", "headcolor"}) {
+        const int place = child(section, name);
+        if (section >= 0)
+            colours(place);
+    }
+}
+
+/// It has a pass of its own from the start, so it may stand anywhere.
+void Check::clearButton()
+{
+    const int place = ForwardTrace(m_elements).seek("clearHistory");
+    if (place < 0)
+        return m_check.find(-1, "missing",
+                            QLatin1String("<clearHistory> is missing: there is no Clear button"));
+    m_check.boolAttribute(place, "visible");
+    m_check.boolAttribute(place, "showConfirmDialog");
+}
+
+// ---- SIM cards -----------------------------------------------------------------------------
+
+void Check::sims()
+{
+    const int section = this->section("autoUSSD");
+    if (section < 0)
+        return;
+    m_check.boolAttribute(section, "valid");
+    if (m_check.at(section).attribute("valid") != QLatin1String("true"))
+        return;
+    QMap<QString, int> seen;
+    for (int place = m_trace.seek("item"); place >= 0; place = m_trace.seek("item")) {
+        if (m_check.at(place).parent != section)
+            m_check.find(place, "order",
+                         QLatin1String("this item stands behind <autoUSSD> and is taken for a SIM "
+                                       "card"));
+        else
+            sim(place, seen);
+    }
+}
+
+void Check::sim(int place, QMap<QString, int> &seen)
+{
+    const QString imsi = m_check.at(place).attribute("imsi");
+    const QRegExp digits(QString::fromLatin1("[0-9]{1,%1}").arg(LONGEST_IMSI));
+    if (!digits.exactMatch(imsi))
+        m_check.find(place, "imsi",
+                     QString::fromLatin1("imsi %1 fits no SIM card: 1 to %2 digits are wanted")
+                         .arg(quotedPart(imsi))
+                         .arg(LONGEST_IMSI));
+    if (seen.contains(imsi))
+        m_check.find(place, "imsi",
+                     QString::fromLatin1("imsi %1 stands in line %2 already; this one counts")
+                         .arg(quotedPart(imsi))
+                         .arg(m_check.at(seen.value(imsi)).line));
+    seen.insert(imsi, place);
+    windows(place);
+}
+
+void Check::windows(int place)
+{
+    const QString list = m_check.at(place).attribute("ussd");
+    const QStringList known =
+        QString::fromLatin1("Prepaid Postpaid Commonpaid Advanced").split(QLatin1Char(' '));
+    const QStringList parts = list.split(QLatin1Char('/'));
+    for (int i = 0; i < parts.count(); ++i) {
+        if (!parts.at(i).isEmpty() && !known.contains(parts.at(i)))
+            m_check.find(place, "windows",
+                         QString::fromLatin1("there is no window %1; it is ignored")
+                             .arg(quotedPart(parts.at(i))));
+    }
+    if (windowFlags(list) == 0)
+        m_check.find(place, "windows", QLatin1String("the SIM card is known and has no window"));
+}
+
+void Check::sectionsTwice()
+{
+    for (const char *name : SECTIONS) {
+        const QList<int> all = m_elements.childrenOf(0, name);
+        for (int i = 1; i < all.count(); ++i)
+            m_check.find(all.at(i), "twice",
+                         QString::fromLatin1("<%1> stands in line %2 already; one of them is not "
+                                             "read")
+                             .arg(QLatin1String(name))
+                             .arg(m_check.at(all.first()).line));
+    }
+}
+
+// ---- the plug-in's reader ------------------------------------------------------------------
+
+/// In the order in which the plug-in reads when it starts.
+PluginConfig readWholeConfiguration(const QByteArray &xml)
+{
+    PluginConfig config;
+    QXmlStreamReader reader(xml);
+    readPrePostDiffer(reader, config.prePostDiffer);
+    for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
+        readPaidSection(reader, paidType, config);
+    readCharSection(reader, kSentCharSection, config.sentChar);
+    readCharSection(reader, kReceivedCharSection, config.receivedChar);
+    readCmdEdit(reader, config.cmdEdit);
+    readAutoUSSD(reader, config.autoUSSD);
+    QXmlStreamReader anew(xml);
+    readClearHistory(anew, config.clearHistory);
+    return config;
+}
+
+// ---- tables --------------------------------------------------------------------------------
+
+QString boolWord(bool value)
+{
+    return QLatin1String(value ? "true" : "false");
+}
+
+QStringList row(const char *name, const QString &a, const QString &b = QString(),
+                const QString &c = QString())
+{
+    return QStringList() << QLatin1String(name) << a << b << c;
+}
+
+QString positionOf(bool shown, int pos)
+{
+    return shown ? QString::fromLatin1("pos %1").arg(pos) : QString::fromLatin1("hidden");
+}
+
+CheckTable paidTable(const PluginConfig &config, int paidType, const char *title)
+{
+    const ConfigBalance &balance = config.balance[paidType];
+    const ConfigCharge &charge = config.charge[paidType];
+    const ConfigOnlineCharge &online = config.onlineCharge[paidType];
+    const ConfigMSISDN &number = config.msisdn[paidType];
+    CheckTable table;
+    table.title = QLatin1String(title);
+    table.rows << row("Balance", positionOf(balance.value, balance.pos), balance.command)
+               << row("Charge", positionOf(charge.value, charge.pos), charge.command,
+                      QString::fromLatin1("%1 to %2 of [%3], ReturnStyle %4")
+                          .arg(charge.minlenth)
+                          .arg(charge.length)
+                          .arg(charge.limitText)
+                          .arg(charge.returnStyle))
+               << row("OnlineCharge", positionOf(online.value, online.pos), online.url)
+               << row("MSISDN", positionOf(number.value, number.pos), number.command,
+                      QString::fromLatin1("UpdateButton %1").arg(number.updateButton));
+    return table;
+}
+
+QString colourText(int red, int green, int blue)
+{
+    return QString::fromLatin1("%1 %2 %3").arg(red).arg(green).arg(blue);
+}
+
+QStringList charRow(const char *name, const Char &look)
+{
+    return row(name, QString::fromLatin1("yHeight %1").arg(look.yHeight),
+               QString::fromLatin1("yOffset %1").arg(look.yOffset),
+               colourText(look.red, look.green, look.blue));
+}
+
+CheckTable looksTable(const PluginConfig &config)
+{
+    const CmdEdit &edit = config.cmdEdit;
+    CheckTable table;
+    table.title = QLatin1String("Looks");
+    table.rows << charRow("send", config.sentChar) << charRow("recevie", config.receivedChar)
+               << row("clearHistory", boolWord(config.clearHistory.visible),
+                      QLatin1String("showConfirmDialog ") +
+                          boolWord(config.clearHistory.showConfirmDialog))
+               << row("cmdEdit", boolWord(edit.visible))
+               << row("readonlycolor",
+                      colourText(edit.readonlyRed, edit.readonlyGreen, edit.readonlyBlue))
+               << row("commoncolor", colourText(edit.commonRed, edit.commonGreen, edit.commonBlue))
+               << row("headcolor", colourText(edit.headRed, edit.headGreen, edit.headBlue));
+    return table;
+}
+
+CheckTable detectionTable(const PrePostDiffer &differ)
+{
+    CheckTable table;
+    table.title = QLatin1String("PrePostDiffer");
+    table.rows << row("value", boolWord(differ.value)) << row("command", differ.command)
+               << row("ReturnPattern", differ.returnPattern)
+               << row("style", QString::number(differ.style));
+    return table;
+}
+
+QString windowNames(int flags)
+{
+    QStringList names;
+    if (flags & WINDOW_PREPAID)
+        names << QLatin1String("Prepaid");
+    if (flags & WINDOW_POSTPAID)
+        names << QLatin1String("Postpaid");
+    if (flags & WINDOW_COMMONPAID)
+        names << QLatin1String("Commonpaid");
+    if (flags & WINDOW_ADVANCED)
+        names << QLatin1String("Advanced");
+    return names.join(QString(QLatin1Char('/')));
+}
+
+CheckTable simTable(const AutoUSSD &autoUSSD)
+{
+    CheckTable table;
+    table.title = QLatin1String("autoUSSD");
+    table.rows << row("valid", boolWord(autoUSSD.valid));
+    QStringList prefixes = autoUSSD.imsiMap.keys();
+    prefixes.sort();
+    for (int i = 0; i < prefixes.count(); ++i)
+        table.rows << (QStringList()
+                       << prefixes.at(i) << windowNames(autoUSSD.imsiMap.value(prefixes.at(i))));
+    return table;
+}
+
+} // namespace
+
+void checkConfiguration(const XmlElements &elements, CheckReport &report)
+{
+    Check(elements, report).run();
+}
+
+QList<CheckTable> configurationTables(const QByteArray &xml)
+{
+    const PluginConfig config = readWholeConfiguration(xml);
+    return QList<CheckTable>() << detectionTable(config.prePostDiffer)
+                               << paidTable(config, 0, "Prepaid")
+                               << paidTable(config, 1, "Postpaid") << looksTable(config)
+                               << simTable(config.autoUSSD);
+}

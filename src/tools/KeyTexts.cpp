@@ -1,0 +1,51 @@
+#include "KeyTexts.h"
+
+#include <QMap>
+#include <QSharedPointer>
+#include <QTranslator>
+
+#include "Languages.h"
+
+namespace
+{
+
+typedef QMap<QString, QSharedPointer<QTranslator>> Translators;
+
+Translators loadAll()
+{
+    Translators all;
+    const QStringList codes = Languages::codes();
+    for (int i = 0; i < codes.count(); ++i) {
+        const QSharedPointer<QTranslator> translator(new QTranslator);
+        if (translator->load(Languages::file(codes.at(i))))
+            all.insert(codes.at(i), translator);
+    }
+    return all;
+}
+
+bool looksLikeKey(const QString &text)
+{
+    for (int i = 0; i < text.length(); ++i) {
+        const QChar letter = text.at(i);
+        const bool isCapital = letter >= QLatin1Char('A') && letter <= QLatin1Char('Z');
+        if (!isCapital && !letter.isDigit() && letter != QLatin1Char('_'))
+            return false;
+    }
+    return text.contains(QLatin1Char('_'));
+}
+
+} // namespace
+
+QStringList KeyTexts::languagesWithout(const QString &key)
+{
+    static const Translators translators = loadAll();
+    QStringList missing;
+    if (!looksLikeKey(key))
+        return missing;
+    const QByteArray source = key.toUtf8();
+    for (Translators::const_iterator it = translators.begin(); it != translators.end(); ++it) {
+        if (it.value()->translate("USSDUIPlugin", source.constData()).isEmpty())
+            missing << it.key();
+    }
+    return missing;
+}

@@ -1,0 +1,142 @@
+#include "LayoutCheck.h"
+
+#include <QRegExp>
+#include <QXmlStreamReader>
+
+#include "ElementCheck.h"
+#include "SmsLayout.h"
+
+namespace
+{
+
+const int INPUT = 2;  // place of the entry field among a group's controls
+const int BUTTON = 3; // and of what is sent
+
+/// The reader counts lines only; the column is that of the last element that begins there.
+qint64 columnOn(const XmlElements &elements, qint64 line)
+{
+    qint64 column = 0;
+    for (int i = 0; i < elements.list.count(); ++i) {
+        if (elements.list.at(i).line == line)
+            column = elements.list.at(i).column;
+    }
+    return column;
+}
+
+void takeComplaint(const XmlElements &elements, const QString &complaint, CheckReport &report)
+{
+    QRegExp pattern(QLatin1String("line (\\d+): (.*)"));
+    if (!pattern.exactMatch(complaint))
+        return addFinding(report, 0, 0, "layout", complaint);
+    const qint64 line = pattern.cap(1).toLongLong();
+    const bool isCount = pattern.cap(2).contains(QLatin1String("controls; shown are"));
+    addFinding(report, line, columnOn(elements, line), isCount ? "controls" : "layout",
+               pattern.cap(2));
+}
+
+/// Those of SMSUSSD, at any depth.
+QList<int> allNamed(const XmlElements &elements, int section, const char *name)
+{
+    QList<int> found;
+    for (int i = section; i < elements.list.at(section).behind; ++i) {
+        if (elements.list.at(i).name == QLatin1String(name))
+            found << i;
+    }
+    return found;
+}
+
+void checkKeys(ElementCheck &check, int section)
+{
+    for (const char *name : {"item", "control"}) {
+        const QList<int> places = allNamed(check.elements(), section, name);
+        for (int i = 0; i < places.count(); ++i) {
+            if (check.at(places.at(i)).attribute("visible") != QLatin1String("false"))
+                check.key(places.at(i), check.at(places.at(i)).attribute("id"));
+        }
+    }
+}
+
+QString childText(const XmlElements &elements, int place, const char *name)
+{
+    const QList<int> found = elements.childrenOf(place, name);
+    return found.isEmpty() ? QString() : elements.list.at(found.last()).text;
+}
+
+void checkButton(ElementCheck &check, int button, int input)
+{
+    const XmlElement &element = check.at(button);
+    const QString type = element.attribute("type");
+    const QString command = childText(check.elements(), button, "command");
+    if (!element.has("type"))
+        return check.find(button, "type",
+                          QLatin1String("the button has no type and sends nothing"));
+    if (type != QLatin1String("ussd") && type != QLatin1String("sms"))
+        check.find(button, "type",
+                   QString::fromLatin1("type %1 is not \"ussd\" and sends a short message")
+                       .arg(quotedPart(type)));
+    if (command.isEmpty())
+        check.find(button, "command", QLatin1String("the button has no command and sends nothing"));
+    if (type == QLatin1String("ussd"))
+        check.command(button, command, childText(check.elements(), input, "length").toInt());
+    else if (childText(check.elements(), button, "number").isEmpty())
+        check.find(button, "command", QLatin1String("the short message has no number"));
+}
+
+void checkGroups(ElementCheck &check, int section)
+{
+    const QList<int> items = allNamed(check.elements(), section, "item");
+    for (int i = 0; i < items.count(); ++i) {
+        const QList<int> controls = check.elements().childrenOf(items.at(i), "control");
+        if (controls.count() == SmsLayoutFile::kControlsOfGroup &&
+            check.at(controls.at(BUTTON)).attribute("visible") != QLatin1String("false"))
+            checkButton(check, controls.at(BUTTON), controls.at(INPUT));
+    }
+}
+
+CheckTable servicesTable(const SmsLayout &layout)
+{
+    CheckTable table;
+    table.title = QLatin1String("SMSUSSD");
+    table.rows << (QStringList() << QLatin1String("MainSize")
+                                 << QString::fromLatin1("%1 x %2")
+                                        .arg(layout.dialog.width)
+                                        .arg(layout.dialog.height));
+    const QList<int> numbers = layout.entries.keys();
+    for (int i = 0; i < numbers.count(); ++i) {
+        const CTreeItem *entry = layout.entries.value(numbers.at(i));
+        const CWidget *group = layout.groups.value(numbers.at(i));
+        const bool whole = group && group->controls.count() == SmsLayoutFile::kControlsOfGroup;
+        const CWidgetItemInfo *button = whole ? group->controls.at(BUTTON) : nullptr;
+        table.rows << (QStringList()
+                       << QString::number(numbers.at(i)) << entry->textId
+                       << (!button ? QString::fromLatin1(entry->isChild ? "nothing" : "root")
+                           : button->kind == CONTROL_KIND_SMS
+                               ? button->command + QLatin1String(" to ") + button->number
+                               : button->command));
+    }
+    return table;
+}
+
+} // namespace
+
+void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report)
+{
+    SmsLayout layout;
+    QXmlStreamReader reader(xml);
+    SmsLayoutFile::read(reader, layout);
+    const bool isWhole = elements.error.isEmpty(); // otherwise that was said already
+    for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i)
+        takeComplaint(elements, layout.complaints.at(i), report);
+    if (layout.furtherComplaints > 0)
+        addFinding(report, 0, 0, "layout",
+                   QString::fromLatin1("%1 more faults of SMSUSSD are not listed")
+                       .arg(layout.furtherComplaints));
+    ElementCheck check(elements, report);
+    for (int i = 0; i < elements.list.count(); ++i) {
+        if (elements.list.at(i).name != QLatin1String("SMSUSSD"))
+            continue;
+        checkKeys(check, i);
+        checkGroups(check, i);
+    }
+    report.tables << servicesTable(layout);
+}

@@ -1,0 +1,118 @@
+#include "XmlElements.h"
+
+#include <QStringList>
+#include <QXmlStreamReader>
+
+namespace
+{
+
+const int MAX_DEPTH = 30;
+
+/** Puts the tokens of a document into the list. */
+class Reader
+{
+public:
+    explicit Reader(const QByteArray &xml)
+        : m_xml(xml), m_lines(QString::fromUtf8(xml).split(QLatin1Char('\n')))
+    {
+    }
+    XmlElements read();
+
+private:
+    void take(QXmlStreamReader::TokenType token);
+    void start();
+    void end();
+    void characters();
+    void refuse(const char *why);
+    void findPlace(XmlElement &element) const;
+
+    QXmlStreamReader m_xml;
+    QStringList m_lines;
+    XmlElements m_elements;
+    QList<int> m_open;
+};
+
+XmlElements Reader::read()
+{
+    while (!m_xml.atEnd())
+        take(m_xml.readNext());
+    if (m_xml.hasError()) {
+        m_elements.error = m_xml.errorString();
+        m_elements.errorLine = m_xml.lineNumber();
+        m_elements.errorColumn = m_xml.columnNumber() + 1;
+    }
+    while (!m_open.isEmpty())
+        end();
+    return m_elements;
+}
+
+void Reader::take(QXmlStreamReader::TokenType token)
+{
+    if (token == QXmlStreamReader::StartElement)
+        start();
+    else if (token == QXmlStreamReader::EndElement)
+        end();
+    else if (token == QXmlStreamReader::Characters)
+        characters();
+    else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
+        refuse("The document declares entities of its own.");
+}
+
+void Reader::start()
+{
+    XmlElement element;
+    element.name = m_xml.name().toString();
+    element.attributes = m_xml.attributes();
+    element.parent = m_open.isEmpty() ? -1 : m_open.last();
+    findPlace(element);
+    m_open << m_elements.list.count();
+    m_elements.list << element;
+    if (m_open.count() > MAX_DEPTH)
+        refuse("Elements are nested too deeply.");
+}
+
+void Reader::end()
+{
+    m_elements.list[m_open.takeLast()].behind = m_elements.list.count();
+}
+
+void Reader::characters()
+{
+    for (int i = 0; i < m_open.count(); ++i)
+        m_elements.list[m_open.at(i)].text += m_xml.text();
+}
+
+void Reader::refuse(const char *why)
+{
+    m_elements.isDangerous = true;
+    m_xml.raiseError(QLatin1String(why));
+}
+
+/// The XML reader stands behind the start tag, in which there is no other "<".
+void Reader::findPlace(XmlElement &element) const
+{
+    int line = int(m_xml.lineNumber()) - 1;
+    int column = m_lines.value(line).left(int(m_xml.columnNumber())).lastIndexOf(QLatin1Char('<'));
+    while (column < 0 && line > 0)
+        column = m_lines.value(--line).lastIndexOf(QLatin1Char('<'));
+    element.line = line + 1;
+    element.column = column + 1;
+}
+
+} // namespace
+
+QList<int> XmlElements::childrenOf(int parent, const char *name) const
+{
+    QList<int> found;
+    const int behind = parent < 0 ? list.count() : list.at(parent).behind;
+    for (int i = parent + 1; i < behind; ++i) {
+        if (list.at(i).parent == parent && list.at(i).name == QLatin1String(name))
+            found << i;
+    }
+    return found;
+}
+
+XmlElements readXmlElements(const QByteArray &xml)
+{
+    return Reader(xml).read();
+}

@@ -1,0 +1,6 @@
+#include "ConfigTool.h"
+
+int main(int argc, char **argv)
+{
+    return runConfigTool(startTool(argc, argv));
+}
