@@ -22,14 +22,21 @@ QString place(const CheckReport &report, const CheckFinding &finding)
     return text;
 }
 
+QString rowText(const QStringList &row)
+{
+    QString text = row.value(0).leftJustified(20);
+    for (int i = 1; i < row.count(); ++i) {
+        if (!row.at(i).isEmpty())
+            text += QLatin1String("  ") + row.at(i);
+    }
+    return text;
+}
+
 QString tableText(const CheckTable &table)
 {
     QString text = QLatin1Char('\n') + table.title + QLatin1Char('\n');
-    for (int i = 0; i < table.rows.count(); ++i) {
-        const QStringList &row = table.rows.at(i);
-        text += QLatin1String("  ") + row.value(0).leftJustified(20) + QLatin1Char(' ') +
-                row.mid(1).join(QLatin1String("  ")) + QLatin1Char('\n');
-    }
+    for (int i = 0; i < table.rows.count(); ++i)
+        text += QLatin1String("  ") + rowText(table.rows.at(i)) + QLatin1Char('\n');
     return text;
 }
 

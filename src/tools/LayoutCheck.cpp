@@ -82,13 +82,33 @@ void checkButton(ElementCheck &check, int button, int input)
         check.find(button, "command", QLatin1String("the short message has no number"));
 }
 
+void checkInput(ElementCheck &check, int input)
+{
+    if (check.at(input).attribute("visible") != QLatin1String("false") &&
+        childText(check.elements(), input, "length").toInt() <= 0)
+        check.find(input, "length",
+                   QLatin1String("length is 0 or missing: nothing can be entered"));
+}
+
+void checkSizes(ElementCheck &check, int section)
+{
+    for (const char *name : {"MainSize", "TreeSize"}) {
+        if (check.elements().childrenOf(section, name).isEmpty())
+            check.find(
+                section, "missing",
+                QString::fromLatin1("<%1> is missing: every side is 0").arg(QLatin1String(name)));
+    }
+}
+
 void checkGroups(ElementCheck &check, int section)
 {
     const QList<int> items = allNamed(check.elements(), section, "item");
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), "control");
-        if (controls.count() == SmsLayoutFile::kControlsOfGroup &&
-            check.at(controls.at(BUTTON)).attribute("visible") != QLatin1String("false"))
+        if (controls.count() != SmsLayoutFile::kControlsOfGroup)
+            continue; // the reader has said so
+        checkInput(check, controls.at(INPUT));
+        if (check.at(controls.at(BUTTON)).attribute("visible") != QLatin1String("false"))
             checkButton(check, controls.at(BUTTON), controls.at(INPUT));
     }
 }
@@ -135,6 +155,7 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
     for (int i = 0; i < elements.list.count(); ++i) {
         if (elements.list.at(i).name != QLatin1String("SMSUSSD"))
             continue;
+        checkSizes(check, i);
         checkKeys(check, i);
         checkGroups(check, i);
     }

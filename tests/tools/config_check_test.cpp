@@ -1,0 +1,530 @@
+#include "FileCheck.h"
+#include "ForwardTrace.h"
+#include "ForwardXml.h"
+#include "ProviderChoice.h"
+#include "ProvisionFiles.h"
+#include "UssdTest.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRandomGenerator>
+#include <QXmlStreamReader>
+
+/// What is said about good, mistaken, broken and hostile files.
+class ConfigCheckTest : public UssdTest
+{
+    Q_OBJECT
+
+private slots:
+    void shippedFilesAreWithoutFindings_data();
+    void shippedFilesAreWithoutFindings();
+    void provisionedFilesAreWithoutFindings();
+    void configurationMistakes_data();
+    void configurationMistakes();
+    void profileMistakes_data();
+    void profileMistakes();
+    void scenarioMistakesHaveTheirLine();
+    void placeIsThatOfTheStartTag();
+    void missingThirdItemShowsWhoseValuesAreTaken();
+    void everyMissingLineIsFound_data();
+    void everyMissingLineIsFound();
+    void longestCommandIsCountedWithItsInput_data();
+    void longestCommandIsCountedWithItsInput();
+    void nearlyFullFilesWithFindingsStillHaveTables();
+    void layoutAloneIsChecked();
+    void unusableContent_data();
+    void unusableContent();
+    void everyPrefixIsChecked();
+    void traceWalksAsThePluginDoes();
+    void jsonIsParsedBack_data();
+    void jsonIsParsedBack();
+    void jsonHoldsFindingsAndTables();
+};
+
+namespace
+{
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
+    return file.readAll();
+}
+
+QByteArray shipped(const char *name)
+{
+    return contentOf(QLatin1String(USSD_SOURCE_DIR "/plugins/USSDUIPlugin/") + QLatin1String(name));
+}
+
+QByteArray configuration()
+{
+    return shipped("USSDPluginConfig.xml");
+}
+
+QByteArray profiles()
+{
+    return shipped("ussdsysprofile.xml");
+}
+
+QString findingsText(const CheckReport &report)
+{
+    CheckReport bare = report;
+    bare.tables.clear();
+    return reportText(bare);
+}
+
+QStringList rulesOf(const CheckReport &report)
+{
+    QStringList rules;
+    for (const CheckFinding &finding : report.findings)
+        rules << finding.rule;
+    return rules;
+}
+
+/// The first line with this text, from 1.
+qint64 lineOf(const QByteArray &content, const QByteArray &text)
+{
+    const int at = content.indexOf(text);
+    return at < 0 ? 0 : content.left(at).count('\n') + 1;
+}
+
+CheckReport check(const QByteArray &content)
+{
+    return checkContent(content, QLatin1String("file"));
+}
+
+QStringList tableRow(const CheckReport &report, const char *title, const char *name)
+{
+    for (const CheckTable &table : report.tables) {
+        for (const QStringList &row : table.rows) {
+            if (table.title == QLatin1String(title) && row.first() == QLatin1String(name))
+                return row;
+        }
+    }
+    return QStringList();
+}
+
+void addMistakeColumns()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasLine");
+}
+
+void addMistake(const char *title, const char *before, const char *after, const char *rule,
+                const char *text, bool hasLine = true)
+{
+    QTest::newRow(title) << QByteArray(before) << QByteArray(after) << QString::fromLatin1(rule)
+                         << QString::fromLatin1(text) << hasLine;
+}
+
+/// Replaces the first `before`; one of the findings has the rule, the text and, when the changed
+/// text is still there, its line.
+void checkMistake(QByteArray content)
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(QString, rule);
+    QFETCH(QString, text);
+    QFETCH(bool, hasLine);
+    const int at = content.indexOf(before);
+    QVERIFY(at >= 0);
+    content.replace(at, before.size(), after);
+    const CheckReport report = check(content);
+    QCOMPARE(report.error, QString());
+    const qint64 line = hasLine ? lineOf(content, after) : 0;
+    for (const CheckFinding &finding : report.findings) {
+        if (finding.rule == rule && finding.text.contains(text) && (!line || finding.line == line))
+            return;
+    }
+    QFAIL(qPrintable(findingsText(report)));
+}
+} // namespace
+
+void ConfigCheckTest::shippedFilesAreWithoutFindings_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("kind");
+    const auto row = [](const char *path, const char *kind) {
+        QTest::newRow(path) << QLatin1String(USSD_SOURCE_DIR) + QLatin1String(path)
+                            << QString::fromLatin1(kind);
+    };
+    row("/plugins/USSDUIPlugin/USSDPluginConfig.xml", "configuration");
+    row("/plugins/USSDUIPlugin/ussdsysprofile.xml", "profiles");
+    row("/scenarios/default.scenario", "scenario");
+    row("/scenarios/postpaid.scenario", "scenario");
+    row("/scenarios/weak-signal.scenario", "scenario");
+    row("/src/dashboard/tour.scenario", "scenario");
+}
+
+void ConfigCheckTest::shippedFilesAreWithoutFindings()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, kind);
+    const CheckReport report = checkFile(path);
+    QVERIFY2(report.findings.isEmpty() && report.error.isEmpty(), qPrintable(findingsText(report)));
+    QCOMPARE(report.kind, kind);
+    QVERIFY(!report.tables.isEmpty());
+}
+
+void ConfigCheckTest::provisionedFilesAreWithoutFindings()
+{
+    const ProviderDatabase database = readProviderDatabaseFile(installedProviderDatabase());
+    int checked = 0;
+    for (const Provider &provider : database.providers) {
+        const ProvisionPlan plan = provisionPlan(provider);
+        if (plan.isEmpty())
+            continue;
+        const ProvisionFiles files = provisionFiles(plan, configuration());
+        for (const QByteArray &content : {files.configuration, files.profiles}) {
+            const CheckReport report = check(content);
+            QVERIFY2(report.findings.isEmpty() && report.error.isEmpty(),
+                     qPrintable(provider.name() + findingsText(report)));
+        }
+        ++checked;
+    }
+    QVERIFY(checked > 100);
+}
+
+void ConfigCheckTest::configurationMistakes_data()
+{
+    addMistakeColumns();
+    addMistake("capital true", "PrePostDiffer value=\"true\"", "PrePostDiffer value=\"TRUE\"",
+               "bool", "only \"true\" is true");
+    addMistake("one for true", "item name=\"Charge\" value=\"true\"",
+               "item name=\"Charge\" value=\"1\"", "bool", "\"1\" reads as false");
+    addMistake("no value", "item name=\"Charge\" value=\"true\"", "item name=\"Charge\"", "bool",
+               "value is missing");
+    addMistake("no number", "<length>16</length>", "<length>16x</length>", "number",
+               "\"16x\" is no number");
+    addMistake("decimal", "<yHeight>200", "<yHeight>20.5", "number", "\"20.5\"");
+    addMistake("empty number", "<UpdateButton>1", "<UpdateButton>", "number", "UpdateButton \"\"");
+    addMistake("pos", "pos=\"3\"", "pos=\"third\"", "number", "pos \"third\"");
+    addMistake("same place", "pos=\"3\"", "pos=\"1\"", "position",
+               "Charge and MSISDN have the same pos 1", false);
+    addMistake("colour", "red=\"0\" green=\"51\"", "red=\"256\" green=\"51\"", "colour", "256");
+    addMistake("size", "<yHeight>200", "<yHeight>0", "size", "not above 0");
+    addMistake("misspelt section", "<recevie>", "<receive>", "name", "is <recevie> meant", false);
+    addMistake("section in small letters", "<Postpaid>", "<postpaid>", "missing", "<Postpaid>",
+               false);
+    addMistake("misspelt child", "<minlenth>12</minlenth>", "<minlength>12</minlength>", "name",
+               "is <minlenth> meant");
+    addMistake("component", "item name=\"Balance\"", "item name=\"balance\"", "items",
+               "there is no component \"balance\"");
+    addMistake("component twice", "item name=\"MSISDN\"", "item name=\"Balance\"", "items",
+               "stands in line", false);
+    addMistake("no command", "<command>*100#</command>", "<command></command>", "command",
+               "Balance is shown and has no command", false);
+    addMistake("no placeholder", "<command>*101*%s#</command>", "<command>*101#</command>",
+               "command", "has no \"%s\"", false);
+    addMistake("limit text", "<LimitText>0-9<", "<LimitText>0-9\\<", "expression",
+               "no class of characters");
+    addMistake("no limit text", "<LimitText>0-9</LimitText>", "", "order", "<LimitText> of <item>",
+               false);
+    addMistake("nothing to enter for a service", "<length>15</length>", "<length>0</length>",
+               "length", "nothing can be entered", false);
+    addMistake("limit text that ends the class", "<LimitText>0-9<", "<LimitText>0]+[9<",
+               "expression", "no class of characters");
+    addMistake("length beyond the expression", "<length>16<", "<length>4000<", "expression", "4000",
+               false);
+    addMistake("minimum", "<length>16</length>", "<length>8</length>", "length", "exactly 8");
+    addMistake("nothing to enter", "<length>16</length>", "<length>0</length>", "length",
+               "nothing can be entered");
+    addMistake("pattern", "<ReturnPattern>\"\\d\"<", "<ReturnPattern>\\d+<", "expression",
+               "compared as text");
+    addMistake("imsi", "imsi=\"00101\"", "imsi=\"001 01\"", "imsi", "fits no SIM card");
+    addMistake("imsi twice", "imsi=\"00102\"", "imsi=\"00101\"", "imsi", "already", false);
+    addMistake("window", "ussd=\"Prepaid/Commonpaid", "ussd=\"prepaid/Commonpaid", "windows",
+               "no window \"prepaid\"");
+    addMistake("no window", "ussd=\"Postpaid/Commonpaid/Advanced\"", "ussd=\"\"", "windows",
+               "has no window");
+    addMistake("key", "id=\"IDS_SMSUSSD_DATA_DAY\"", "id=\"IDS_SMSUSSD_DATE_DAY\"", "key",
+               "IDS_SMSUSSD_DATE_DAY");
+    addMistake("type", "control type=\"ussd\"", "control type=\"USSD\"", "type",
+               "sends a short message");
+    addMistake("layout number", "MainSize width=\"640\"", "MainSize width=\"wide\"", "layout",
+               "wide");
+    addMistake("behind the cards", "</autoUSSD>", "</autoUSSD><more><item name=\"a\"/></more>",
+               "order", "is taken for a SIM card");
+    addMistake("section twice", "<send>", "<Prepaid></Prepaid><send>", "twice",
+               "<Prepaid> stands in line");
+    addMistake("clear button", "<clearHistory visible=\"true\" showConfirmDialog=\"true\"/>", "",
+               "missing", "clearHistory", false);
+    addMistake("long command", "<command>*110#",
+               "<command>*1234567890123456789012345678901234567890123456789012345678901234567890"
+               "123456789012345678901234567890#",
+               "command", "not sent", false);
+    addMistake("controls", "<control posx=\"285\" posy=\"140\" width=\"340\" height=\"210\"/>", "",
+               "controls", "has 4 controls", false);
+    addMistake("cut off", "<autoUSSD valid=\"true\">", "<autoUSSD valid=", "xml",
+               "What is behind this place is not read", false);
+}
+
+void ConfigCheckTest::configurationMistakes()
+{
+    checkMistake(configuration());
+}
+
+void ConfigCheckTest::profileMistakes_data()
+{
+    addMistakeColumns();
+    addMistake("bool", "<readonly>true<", "<readonly>yes<", "bool", "\"yes\" reads as false");
+    addMistake("missing field", "<langID>IDS_PROFILE_BALANCE</langID>", "", "order",
+               "takes from the next item", false);
+    addMistake(
+        "field out of order", "<readonly>true</readonly>\n        <showButton>true</showButton>",
+        "<showButton>true</showButton><readonly>true</readonly>", "order", "in this order", false);
+    addMistake("misspelt field", "<showButton>true</showButton>", "<showbutton>true</showbutton>",
+               "name", "is <showButton> meant");
+    addMistake("key", "IDS_PROFILE_BALANCE<", "IDS_PROFILE_BALANCES<", "key", "has no text in ar",
+               false);
+    addMistake("code twice", "*102#", "*100#", "twice", "stands in line", false);
+    addMistake("payment button", "*140*%s#", "*140#", "button", "one of the last two", false);
+    addMistake("placeholder", "*128#", "*128*%s#", "button", "is not one of the last two", false);
+    addMistake("blanks", "*128#", " *128# ", "command", "blanks around it", false);
+    addMistake("empty", "*128#", "", "command", "empty", false);
+    addMistake("twelfth", "</tksvdoc>",
+               "<item><name>a</name><value>*9#</value><readonly>true</readonly>"
+               "<showButton>true</showButton><langID/><desLangID/></item></tksvdoc>",
+               "button", "this profile gets none");
+}
+
+void ConfigCheckTest::profileMistakes()
+{
+    checkMistake(profiles());
+}
+
+void ConfigCheckTest::scenarioMistakesHaveTheirLine()
+{
+    const CheckReport report = check("[Network]\nOperator=A\nIMSI=001010123456789\n\n[*100#]\n"
+                                     "Reply=a\nDelay=soon\n");
+    QCOMPARE(report.kind, QLatin1String("scenario"));
+    QCOMPARE(rulesOf(report), QStringList() << QLatin1String("scenario"));
+    QCOMPARE(report.findings.first().line, qint64(7));
+}
+
+void ConfigCheckTest::placeIsThatOfTheStartTag()
+{
+    const CheckReport report = check("<a>\r\n  <!-- < --><PrePostDiffer\r\n value='maybe'/></a>");
+    for (const CheckFinding &finding : report.findings) {
+        if (finding.rule != QLatin1String("bool"))
+            continue;
+        QCOMPARE(finding.line, qint64(2));
+        QCOMPARE(finding.column, qint64(13));
+        return;
+    }
+    QFAIL(qPrintable(findingsText(report)));
+}
+
+void ConfigCheckTest::missingThirdItemShowsWhoseValuesAreTaken()
+{
+    QByteArray content = configuration();
+    const int start = content.indexOf("<item name=\"MSISDN\"");
+    const QByteArray end = "</item>";
+    content.remove(start, content.indexOf(end, start) + end.size() - start);
+    const CheckReport report = check(content);
+    QVERIFY2(findingsText(report).contains(
+                 QLatin1String("this item \"Balance\" of <Postpaid> becomes its item 4")),
+             qPrintable(findingsText(report)));
+    // And so do the plug-in's own tables.
+    QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*110#")));
+}
+
+void ConfigCheckTest::everyMissingLineIsFound_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QList<QByteArray> optional = QList<QByteArray>() // of a service
+                                       << "<LimitText>0-9</LimitText>"
+                                       << "<minlenth>3</minlenth>"
+                                       << "<minlenth>1</minlenth>"
+                                       << "<minlenth>2</minlenth>";
+    for (const QByteArray &whole : {configuration(), profiles()}) {
+        const QList<QByteArray> lines = whole.split('\n');
+        for (int i = 0; i < lines.count(); ++i) {
+            const QByteArray line = lines.at(i).trimmed();
+            const bool isElement = line.startsWith('<') && line.endsWith('>') &&
+                                   (line.endsWith("/>") || line.contains("</")) &&
+                                   !line.startsWith("</") && !line.contains("imsi=") &&
+                                   !optional.contains(line);
+            if (!isElement)
+                continue;
+            QList<QByteArray> others = lines;
+            others[i] = QByteArray();
+            QTest::newRow((QByteArray::number(i + 1) + ' ' + line.left(40)).constData())
+                << others.join('\n');
+        }
+    }
+}
+
+void ConfigCheckTest::everyMissingLineIsFound()
+{
+    QFETCH(QByteArray, content);
+    const CheckReport report = check(content);
+    QVERIFY(!report.findings.isEmpty());
+}
+
+void ConfigCheckTest::longestCommandIsCountedWithItsInput_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("91") << 85 << true;
+    QTest::newRow("92") << 86 << false;
+}
+
+void ConfigCheckTest::longestCommandIsCountedWithItsInput()
+{
+    QFETCH(int, length);
+    QFETCH(bool, fits);
+    QByteArray content = configuration(); // *101*%s# has six characters of its own
+    content.replace("<length>16</length>", "<length>" + QByteArray::number(length) + "</length>");
+    QCOMPARE(!rulesOf(check(content)).contains(QLatin1String("command")), fits);
+}
+
+void ConfigCheckTest::nearlyFullFilesWithFindingsStillHaveTables()
+{
+    QByteArray content = configuration();
+    content.replace("<Postpaid>", "<Postpayed>").replace("</Postpaid>", "</Postpayed>");
+    const CheckReport report = check(content);
+    QVERIFY(rulesOf(report).contains(QLatin1String("missing")));
+    QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*100#")));
+    QVERIFY(tableRow(report, "Postpaid", "Balance").contains(QLatin1String("hidden")));
+    // The first is the reason, the others are its consequence, each said once.
+    QCOMPARE(rulesOf(report).count(QLatin1String("missing")), 1);
+    QCOMPARE(rulesOf(report).count(QLatin1String("order")), 4);
+}
+
+void ConfigCheckTest::layoutAloneIsChecked()
+{
+    const CheckReport report =
+        check("<SMSUSSD><MainSize width='1' height='1'/><TreeSize posx='0' posy='0' width='1' "
+              "height='1'/><Tree><item name='0' parent='0' "
+              "type='root'/></Tree></SMSUSSD>");
+    QCOMPARE(report.kind, QLatin1String("layout"));
+    QVERIFY2(report.findings.isEmpty(), qPrintable(findingsText(report)));
+}
+
+void ConfigCheckTest::unusableContent_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("words") << QByteArray("balance is *100#");
+    QTest::newRow("other XML") << QByteArray("<html><body/></html>");
+    QTest::newRow("broken XML") << QByteArray("<");
+    QTest::newRow("zeros") << QByteArray(1000, '\0');
+}
+
+void ConfigCheckTest::unusableContent()
+{
+    QFETCH(QByteArray, content);
+    const CheckReport report = check(content);
+    QVERIFY(!report.error.isEmpty());
+}
+
+void ConfigCheckTest::everyPrefixIsChecked()
+{
+    const QByteArray whole = configuration();
+    for (int length = 0; length < whole.size(); length += 97) {
+        const CheckReport report = check(whole.left(length));
+        QVERIFY2(!report.error.isEmpty() || !report.findings.isEmpty(),
+                 qPrintable(QString::number(length)));
+    }
+    const CheckReport deep = check("<a><Prepaid>" + QByteArray("<b>").repeated(100000));
+    QVERIFY(rulesOf(deep).contains(QLatin1String("xml")));
+    QVERIFY(deep.tables.isEmpty());
+}
+
+/// The same steps by the plug-in's scan and by the trace, over documents of any shape.
+void ConfigCheckTest::traceWalksAsThePluginDoes()
+{
+    QRandomGenerator random(20261120);
+    const auto name = [&random] { return QByteArray(1, char('a' + random.bounded(4))); };
+    int found = 0;
+    for (int round = 0; round < 300; ++round) {
+        QByteArray xml = "<root>";
+        QList<QByteArray> open;
+        for (int i = 0; i < 40; ++i) {
+            if (open.count() < 6 && random.bounded(5) < 3) {
+                open << name();
+                xml += '<' + open.last() + '>' + QByteArray::number(i);
+            } else if (!open.isEmpty()) {
+                xml += "</" + open.takeLast() + '>';
+            }
+        }
+        while (!open.isEmpty())
+            xml += "</" + open.takeLast() + '>';
+        xml += "</root>";
+        const XmlElements elements = readXmlElements(xml);
+        ForwardTrace trace(elements);
+        QXmlStreamReader reader(xml);
+        for (int step = 0; step < 15; ++step) {
+            const QByteArray wanted = name();
+            const bool isThere = trace.seek(wanted.constData()) >= 0;
+            QCOMPARE(isThere, ForwardXml::skipTo(reader, QLatin1String(wanted)));
+            if (random.bounded(2))
+                QCOMPARE(trace.text(), ForwardXml::text(reader));
+            found += isThere ? 1 : 0;
+        }
+    }
+    QVERIFY(found > 500);
+}
+
+void ConfigCheckTest::jsonIsParsedBack_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("quotes") << QString::fromLatin1("a\"b\\c/d\\u0041");
+    QTest::newRow("controls") << QString::fromLatin1("\n\r\t\b\f\x1b\x7f\x9b");
+    QTest::newRow("zero") << QString(QChar(0));
+    QTest::newRow("languages") << QString::fromUtf8("ر€😀 \xe2\x80\xa8 \xe2\x80\xae");
+    QTest::newRow("markup") << QString::fromLatin1("</script><!--");
+}
+
+void ConfigCheckTest::jsonIsParsedBack()
+{
+    QFETCH(QString, text);
+    CheckReport report;
+    report.file = text;
+    report.error = text;
+    addFinding(report, 1, 2, "rule", text);
+    CheckTable table;
+    table.title = text;
+    table.rows << (QStringList() << text << text);
+    report.tables << table;
+    const QByteArray json = reportsJson(QList<CheckReport>() << report << report).toUtf8();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    QVERIFY2(!document.isNull(), qPrintable(error.errorString()));
+    const QJsonArray files = document.object().value(QLatin1String("files")).toArray();
+    QCOMPARE(files.count(), 2);
+    const QJsonObject file = files.at(1).toObject();
+    QCOMPARE(file.value(QLatin1String("file")).toString(), text);
+    QCOMPARE(file.value(QLatin1String("error")).toString(), text);
+    const QJsonObject finding = file.value(QLatin1String("findings")).toArray().at(0).toObject();
+    QCOMPARE(finding.value(QLatin1String("text")).toString(), text);
+    QCOMPARE(finding.value(QLatin1String("line")).toInt(), 1);
+    QCOMPARE(finding.value(QLatin1String("column")).toInt(), 2);
+    const QJsonObject first = file.value(QLatin1String("tables")).toArray().at(0).toObject();
+    QCOMPARE(first.value(QLatin1String("rows")).toArray().at(0).toArray().at(1).toString(), text);
+    for (const char byte : json)
+        QVERIFY(byte >= 0x20 && byte < 0x7f);
+}
+
+void ConfigCheckTest::jsonHoldsFindingsAndTables()
+{
+    QByteArray content = configuration();
+    content.replace("<length>16</length>", "<length>x</length>");
+    const QJsonDocument document =
+        QJsonDocument::fromJson(reportsJson(QList<CheckReport>() << check(content)).toUtf8());
+    const QJsonObject file =
+        document.object().value(QLatin1String("files")).toArray().at(0).toObject();
+    QCOMPARE(file.value(QLatin1String("kind")).toString(), QLatin1String("configuration"));
+    QVERIFY(file.value(QLatin1String("findings")).toArray().count() >= 2);
+    QCOMPARE(file.value(QLatin1String("tables")).toArray().count(), 6);
+}
+
+USSD_TEST_MAIN(ConfigCheckTest)
+#include "config_check_test.moc"
