@@ -1,0 +1,39 @@
+#ifndef MODEM_LOOPTHREAD_H
+#define MODEM_LOOPTHREAD_H
+
+#include <functional>
+#include <glib.h>
+#include <thread>
+
+namespace modem
+{
+
+/** A thread with a main context of its own, which is its thread-default one. */
+class LoopThread
+{
+public:
+    /// `name` is what debuggers show, at most 15 characters.
+    explicit LoopThread(const char *name);
+    ~LoopThread();
+    LoopThread(const LoopThread &) = delete;
+    LoopThread &operator=(const LoopThread &) = delete;
+
+    /// Waits for the thread's end; what is posted later, or still waits its time, is never done.
+    void stop();
+
+    GMainContext *context() const { return m_context; }
+
+    /// Any thread: does it on the loop's thread later.
+    void post(std::function<void()> action, unsigned delayMilliseconds = 0);
+    /// Any thread but the loop's own: does it there and returns when it is done.
+    void call(const std::function<void()> &action);
+
+private:
+    GMainContext *m_context;
+    GMainLoop *m_loop;
+    std::thread m_thread;
+};
+
+} // namespace modem
+
+#endif

@@ -1,0 +1,353 @@
+/* The commands that the modem knows. Any other gets ERROR at once, as real modems do. */
+#include "ModemCore.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "Text.h"
+
+namespace modem
+{
+
+namespace
+{
+
+const int SmallestSmsError = 1;
+const int NoNetworkService = 30; // 3GPP TS 27.007, 9.2.1
+const int NotAllowed = 3;        // likewise
+const int SmsNoNetwork = 331;    // 3GPP TS 27.005, 3.2.5
+const int SmsInvalidIndex = 321; // likewise
+
+std::string quoted(const std::string &text)
+{
+    return '"' + text + '"';
+}
+
+std::string joined(const std::vector<std::string> &parts)
+{
+    std::string all;
+    for (const std::string &part : parts)
+        all += (all.empty() ? "" : ",") + part;
+    return all;
+}
+
+} // namespace
+
+const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
+{
+    static const std::map<std::string, Handler> table = {
+        {"", &ModemCore::accept},
+        {"Z", &ModemCore::accept},
+        {"E0", &ModemCore::accept},
+        {"V1", &ModemCore::accept},
+        {"X4", &ModemCore::accept},
+        {"H", &ModemCore::accept},
+        {"&C1", &ModemCore::accept},
+        {"+CMEE", &ModemCore::accept},
+        {"+CTZU", &ModemCore::accept},
+        {"+IFC", &ModemCore::accept},
+        {"+CMER", &ModemCore::accept},
+        {"I", &ModemCore::fixedText},
+        {"+GCAP", &ModemCore::fixedText},
+        {"+WS46", &ModemCore::fixedText},
+        {"+CLAC", &ModemCore::fixedText},
+        {"+CGMI", &ModemCore::fixedText},
+        {"+CGMM", &ModemCore::fixedText},
+        {"+CGMR", &ModemCore::fixedText},
+        {"+CGSN", &ModemCore::fixedText},
+        {"+CNUM", &ModemCore::ownNumber},
+        {"+CSCS", &ModemCore::charset},
+        {"+CFUN", &ModemCore::functionality},
+        {"+CPIN", &ModemCore::simCommand},
+        {"+CIMI", &ModemCore::simCommand},
+        {"+CRSM", &ModemCore::simCommand},
+        {"+CSIM", &ModemCore::simCommand},
+        {"+CLCK", &ModemCore::facilityLock},
+        {"+CREG", &ModemCore::registration},
+        {"+CGREG", &ModemCore::registration},
+        {"+COPS", &ModemCore::operatorName},
+        {"+CSQ", &ModemCore::signal},
+        {"+CIND", &ModemCore::indicators},
+        {"+CUSD", &ModemCore::ussd},
+        {"+CNMI", &ModemCore::smsIndication},
+        {"+CPMS", &ModemCore::smsStorage},
+        {"+CMGF", &ModemCore::smsFormat},
+        {"+CMGL", &ModemCore::accept},
+        {"+CMGS", &ModemCore::submit},
+        {"+CMGR", &ModemCore::readSms},
+        {"+CMGD", &ModemCore::readSms},
+    };
+    return table;
+}
+
+/* ---- the modem --------------------------------------------------------------------------- */
+
+AtAnswer ModemCore::accept(const AtCommand &)
+{
+    return ok();
+}
+
+AtAnswer ModemCore::fixedText(const AtCommand &command)
+{
+    const std::map<std::string, std::string> texts = {
+        {"I", "+GCAP: +CGSM,+DS,+ES"},      {"+GCAP", "+GCAP: +CGSM,+DS,+ES"},
+        {"+CGMI", m_settings.manufacturer}, {"+CGMM", m_settings.model},
+        {"+CGMR", m_settings.revision},     {"+CGSN", m_settings.imei}};
+    if (command.name == "+WS46")
+        return command.form == AtCommand::Test ? info("+WS46: (12,22,25)") : error();
+    if (command.name != "+CLAC")
+        return info(texts.at(command.name));
+    AtAnswer answer;
+    for (const auto &handler : handlers())
+        answer.lines.push_back("AT" + handler.first);
+    return answer;
+}
+
+AtAnswer ModemCore::ownNumber(const AtCommand &)
+{
+    if (m_settings.ownNumber.empty())
+        return ok();
+    const int type = m_settings.ownNumber.front() == '+' ? 145 : 129;
+    return info("+CNUM: ," + quoted(m_settings.ownNumber) + "," + std::to_string(type));
+}
+
+AtAnswer ModemCore::charset(const AtCommand &command)
+{
+    const std::vector<Charset> &known = m_settings.charsets;
+    if (command.form == AtCommand::Read)
+        return info(std::string("+CSCS: ") + quoted(charsetName(m_charset)));
+    if (command.form == AtCommand::Test) {
+        std::vector<std::string> names;
+        std::transform(known.begin(), known.end(), std::back_inserter(names),
+                       [](Charset charset) { return quoted(charsetName(charset)); });
+        return info("+CSCS: (" + joined(names) + ")");
+    }
+    const std::optional<Charset> wanted = charsetOf(decodeText(command.value(0), Charset::Ira));
+    if (!wanted || std::find(known.begin(), known.end(), *wanted) == known.end())
+        return equipmentError(NotAllowed);
+    m_charset = *wanted;
+    return ok();
+}
+
+/// A device that its scenario keeps disabled stays at low power, as by the switch for radio. The
+/// daemon does not mind that, and goes on searching for a network.
+AtAnswer ModemCore::functionality(const AtCommand &command)
+{
+    if (command.form == AtCommand::Read)
+        return info("+CFUN: " + std::to_string(m_functionality));
+    if (command.form == AtCommand::Test)
+        return info("+CFUN: (0,1,4),(0,1)");
+    if (device().state == TKSV_DEVICE_DISABLED)
+        return equipmentError(NotAllowed);
+    m_functionality = command.value(0) == "1" ? 1 : 4;
+    networkChanged();
+    return ok();
+}
+
+/* ---- the SIM ----------------------------------------------------------------------------- */
+
+AtAnswer ModemCore::simCommand(const AtCommand &command)
+{
+    if (command.name == "+CIMI")
+        return m_sim.imsi();
+    if (command.name == "+CRSM")
+        return m_sim.file(command);
+    if (command.name == "+CSIM")
+        return m_sim.raw(command);
+    AtAnswer answer = m_sim.pin(command);
+    networkChanged(); // an unlocked SIM registers
+    return answer;
+}
+
+AtAnswer ModemCore::facilityLock(const AtCommand &command)
+{
+    if (command.form == AtCommand::Test)
+        return info("+CLCK: (\"SC\",\"FD\",\"PS\")");
+    const bool isPin = command.value(0) == "SC";
+    return info(isPin && m_settings.asksForPin ? "+CLCK: 1" : "+CLCK: 0");
+}
+
+/* ---- the network ------------------------------------------------------------------------- */
+
+AtAnswer ModemCore::registration(const AtCommand &command)
+{
+    if (command.form == AtCommand::Test)
+        return info(command.name + ": (0-2)");
+    if (command.form == AtCommand::Set)
+        return ok();
+    const int status = registrationStatus();
+    const std::string place = status == 2 ? "" : ",\"1234\",\"001122BB\"";
+    return info(command.name + ": 2," + std::to_string(status) + place);
+}
+
+std::string ModemCore::networkCode() const
+{
+    const auto mccLength = 3;
+    return m_sim.data().imsi.substr(0,
+                                    static_cast<std::size_t>(mccLength + m_sim.data().mncLength));
+}
+
+/// 3GPP TS 27.007, 7.3: format 0 is the long name, 2 the number.
+AtAnswer ModemCore::operatorName(const AtCommand &command)
+{
+    if (command.form == AtCommand::Set && command.value(0) == "3")
+        m_numericOperator = command.value(1) == "2";
+    if (command.form != AtCommand::Read)
+        return ok();
+    if (registrationStatus() == 2)
+        return info("+COPS: 0");
+    const std::string name = encodeText(device().operatorName, m_charset);
+    return info(m_numericOperator ? "+COPS: 0,2," + quoted(networkCode()) + ",2"
+                                  : "+COPS: 0,0," + quoted(name) + ",2");
+}
+
+/// 3GPP TS 27.007, 8.5: 0 to 31, 99 when there is none.
+AtAnswer ModemCore::signal(const AtCommand &)
+{
+    const int percent = device().signalPercent;
+    const int steps = percent < 0 ? 99 : (percent * 31 + 50) / 100;
+    return info("+CSQ: " + std::to_string(steps) + ",99");
+}
+
+AtAnswer ModemCore::indicators(const AtCommand &command)
+{
+    if (!m_settings.tellsSignal)
+        return error();
+    if (command.form == AtCommand::Test)
+        return info("+CIND: (\"battchg\",(0-5)),(\"signal\",(0-5)),(\"service\",(0,1))");
+    const int steps = (std::max(device().signalPercent, 0) + 10) / 20;
+    return info("+CIND: 5," + std::to_string(steps) + ",1");
+}
+
+/* ---- USSD -------------------------------------------------------------------------------- */
+
+AtAnswer ModemCore::ussd(const AtCommand &command)
+{
+    if (command.form == AtCommand::Test)
+        return info("+CUSD: (0-2)");
+    if (command.form != AtCommand::Set)
+        return info("+CUSD: 1");
+    if (command.value(0) == "2" && m_network)
+        m_network->endUssd();
+    if (command.value(0) != "1" || command.values.size() < 2)
+        return ok();
+    return startUssd(decodeText(command.value(1), m_charset));
+}
+
+/// A device that "does not answer in time" lets even the command without an answer; "no device" is
+/// an error, since the modem is there to say so.
+AtAnswer ModemCore::startUssd(const std::string &text)
+{
+    switch (m_network ? m_network->sendUssd(text) : tksv::RequestNoDevice) {
+    case tksv::RequestAccepted:
+        return ok();
+    case tksv::RequestDeviceTimeout:
+        return noAnswer();
+    default:
+        return equipmentError(NoNetworkService);
+    }
+}
+
+/* ---- short messages ---------------------------------------------------------------------- */
+
+/// A scenario whose device cannot send SMS from the beginning is a modem without them.
+AtAnswer ModemCore::smsIndication(const AtCommand &command)
+{
+    if (!m_network || !m_network->isSmsReadyAtFirst())
+        return equipmentError(NotAllowed);
+    return command.form == AtCommand::Test ? info("+CNMI: (0-2),(0-3),(0,2),(0-2),(0,1)") : ok();
+}
+
+AtAnswer ModemCore::smsStorage(const AtCommand &command)
+{
+    const std::string used = std::to_string(m_storedSms.size()) + ",50";
+    switch (command.form) {
+    case AtCommand::Test:
+        return info("+CPMS: (\"SM\",\"ME\"),(\"SM\",\"ME\"),(\"SM\",\"ME\")");
+    case AtCommand::Read:
+        return info("+CPMS: \"SM\"," + used + ",\"SM\"," + used + ",\"SM\"," + used);
+    default:
+        return info("+CPMS: " + used + "," + used + "," + used);
+    }
+}
+
+AtAnswer ModemCore::smsFormat(const AtCommand &command)
+{
+    if (command.form == AtCommand::Test)
+        return info("+CMGF: (0)");
+    return command.form == AtCommand::Read ? info("+CMGF: 0")
+           : command.value(0) == "0"       ? ok()
+                                           : equipmentError(NotAllowed);
+}
+
+AtAnswer ModemCore::submit(const AtCommand &command)
+{
+    m_pduLength = tksv::isDigits(command.value(0)) ? std::stoul(command.value(0)) : 0;
+    m_readsPdu = true;
+    m_port.write("\r\n> ");
+    return noAnswer();
+}
+
+AtAnswer ModemCore::submitted()
+{
+    m_smsReference = (m_smsReference + 1) % 256;
+    return info("+CMGS: " + std::to_string(m_smsReference));
+}
+
+/// The parts of a long message travel alone and are put together in the network: the last one to
+/// come gets the result of the whole.
+AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
+{
+    m_news.submitted(sms);
+    std::map<int, std::string> &parts = m_smsParts[sms.reference];
+    parts[sms.part] = sms.text;
+    if (static_cast<int>(parts.size()) < sms.parts)
+        return submitted();
+    std::string text;
+    for (const auto &part : parts)
+        text += part.second;
+    m_smsParts.erase(sms.reference);
+    return deliver(tksv::SmsMessage{tksv::toUtf16(sms.number).value_or(std::u16string()),
+                                    tksv::toUtf16(text).value_or(std::u16string())});
+}
+
+AtAnswer ModemCore::deliver(const tksv::SmsMessage &message)
+{
+    if (!m_network || !m_network->sendSms(message))
+        return messageError(SmsNoNetwork);
+    m_smsOnItsWay = true;
+    return noAnswer();
+}
+
+/// The port carries one message at a time, so the result is that of the message on its way.
+void ModemCore::smsFinished(int result)
+{
+    if (!std::exchange(m_smsOnItsWay, false))
+        return;
+    finish(result >= SmallestSmsError ? messageError(result) : submitted());
+}
+
+void ModemCore::receiveSms(const std::string &pdu)
+{
+    const int index = m_storedSms.empty() ? 1 : m_storedSms.rbegin()->first + 1;
+    m_storedSms[index] = pdu;
+    say("+CMTI: \"SM\"," + std::to_string(index));
+}
+
+AtAnswer ModemCore::readSms(const AtCommand &command)
+{
+    const int index = tksv::isDigits(command.value(0)) ? std::stoi(command.value(0)) : 0;
+    const auto found = m_storedSms.find(index);
+    if (found == m_storedSms.end())
+        return messageError(SmsInvalidIndex);
+    if (command.name == "+CMGD") {
+        m_storedSms.erase(found);
+        return ok();
+    }
+    const Bytes bytes = fromHex(found->second).value_or(Bytes(1));
+    const std::size_t length = bytes.size() - 1 - bytes.front();
+    return AtAnswer{{"+CMGR: 0,," + std::to_string(length), found->second}, "OK"};
+}
+
+} // namespace modem

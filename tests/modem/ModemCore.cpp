@@ -1,0 +1,275 @@
+#include "ModemCore.h"
+
+#include <utility>
+
+#include "Text.h"
+
+namespace modem
+{
+
+namespace
+{
+
+const char EndOfPdu = 0x1A;
+const char AbortPdu = 0x1B;
+
+TKSV_DeviceState stateOf(const std::shared_ptr<NetworkLink> &network)
+{
+    return network ? network->info().state : TKSV_DEVICE_ABSENT;
+}
+
+} // namespace
+
+ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings settings,
+                     ModemNews news)
+    : m_thread(thread), m_settings(std::move(settings)), m_news(std::move(news)),
+      m_port(
+          thread.context(), port, [this](const std::string &bytes) { take(bytes); },
+          [this] { opened(); }),
+      m_sim(m_settings.sim)
+{
+}
+
+/* ---- the network ------------------------------------------------------------------------- */
+
+/// The PIN is the modem's business: behind a locked SIM lies a network that is ready.
+void ModemCore::useNetwork(tksv::Scenario scenario)
+{
+    SimData sim = m_settings.sim;
+    sim.imsi = scenario.imsi;
+    if (sim.operatorName.empty())
+        sim.operatorName = scenario.operatorName;
+    m_sim.setData(sim);
+    m_sim.setMissing(scenario.state == TKSV_DEVICE_SIM_MISSING);
+    if (m_settings.asksForPin || scenario.state == TKSV_DEVICE_SIM_LOCKED)
+        m_sim.lock();
+    if (scenario.state == TKSV_DEVICE_SIM_LOCKED)
+        scenario.state = TKSV_DEVICE_REGISTERED;
+    m_functionality = scenario.state == TKSV_DEVICE_DISABLED ? 4 : 1;
+    m_network = std::make_shared<NetworkLink>(m_thread, std::move(scenario), networkNews());
+    m_heldReplies.clear();
+    m_smsParts.clear();
+    m_smsOnItsWay = false;
+    m_toldState = device().state;
+    m_toldRegistration = registrationStatus();
+    m_toldSignal = device().signalPercent;
+}
+
+NetworkNews ModemCore::networkNews()
+{
+    NetworkNews news;
+    news.ussd = [this](const tksv::UssdReply &reply) { sayUssd(reply.type, reply.text); };
+    news.lost = [this](int event) { networkLost(event); };
+    news.smsFinished = [this](const tksv::SmsMessage &, int result) { smsFinished(result); };
+    news.infoChanged = [this] { networkChanged(); };
+    return news;
+}
+
+void ModemCore::startClock()
+{
+    if (m_network && !m_network->isStarted())
+        m_network->start();
+}
+
+bool ModemCore::isPresent() const
+{
+    return stateOf(m_network) != TKSV_DEVICE_ABSENT;
+}
+
+tksv::DeviceInfo ModemCore::device() const
+{
+    return m_network ? m_network->info() : tksv::DeviceInfo();
+}
+
+void ModemCore::unplug()
+{
+    m_port.hangUp();
+    m_port.stopListening();
+}
+
+void ModemCore::networkLost(int event)
+{
+    m_smsOnItsWay = false;
+    m_toldState = TKSV_DEVICE_ABSENT;
+    m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
+}
+
+/// Registration and signal go out as unsolicited lines. SMS that stop working with all else in
+/// order have no line of their own: the registration is lost for that time.
+void ModemCore::networkChanged()
+{
+    const tksv::DeviceInfo now = device();
+    const TKSV_DeviceState before = std::exchange(m_toldState, now.state);
+    if (before == now.state || now.state == TKSV_DEVICE_ABSENT) {
+        // the same hardware
+    } else if (before == TKSV_DEVICE_ABSENT) {
+        m_news.plugChanged(PlugChange::Back);
+    } else if (before < TKSV_DEVICE_SEARCHING || now.state < TKSV_DEVICE_SEARCHING) {
+        m_sim.setMissing(now.state == TKSV_DEVICE_SIM_MISSING);
+        m_functionality = now.state == TKSV_DEVICE_DISABLED ? 4 : 1;
+        m_news.plugChanged(PlugChange::Changed);
+    }
+    const int registration = registrationStatus();
+    if (std::exchange(m_toldRegistration, registration) != registration) {
+        const std::string place = registration == 2 ? "" : ",\"1234\",\"001122BB\"";
+        say("+CREG: " + std::to_string(registration) + place);
+        say("+CGREG: " + std::to_string(registration) + place);
+    }
+    if (std::exchange(m_toldSignal, now.signalPercent) != now.signalPercent &&
+        m_settings.tellsSignal)
+        say("+CIEV: 2," + std::to_string((now.signalPercent + 10) / 20));
+}
+
+/// The <stat> of 3GPP TS 27.007, 7.2: 1 at home, 5 roaming, 2 searching.
+int ModemCore::registrationStatus() const
+{
+    const tksv::DeviceInfo now = device();
+    const bool lostSms = m_network && m_network->isSmsReadyAtFirst() && !now.canSendSms;
+    if (now.state != TKSV_DEVICE_REGISTERED || lostSms || !m_sim.isUsable() || m_functionality != 1)
+        return 2;
+    return m_settings.isRoaming ? 5 : 1;
+}
+
+/* ---- what comes in ----------------------------------------------------------------------- */
+
+void ModemCore::opened()
+{
+    m_line.clear();
+    m_readsPdu = false;
+}
+
+void ModemCore::take(const std::string &bytes)
+{
+    for (const char byte : bytes)
+        takeByte(byte);
+}
+
+void ModemCore::takeByte(char byte)
+{
+    if (m_readsPdu && (byte == EndOfPdu || byte == AbortPdu)) {
+        takePdu(byte == EndOfPdu);
+    } else if (!m_readsPdu && byte == '\r') {
+        takeLine(std::exchange(m_line, std::string()));
+    } else if (byte != '\n' && byte != '\r') {
+        m_line += byte;
+    }
+}
+
+void ModemCore::takeLine(const std::string &line)
+{
+    if (line.empty())
+        return;
+    m_news.received(line);
+    perform(line, [this, line] { return handle(line); });
+}
+
+void ModemCore::takePdu(bool isWhole)
+{
+    m_readsPdu = false;
+    const std::string pdu = std::exchange(m_line, std::string());
+    if (!isWhole) {
+        finish(ok());
+        return;
+    }
+    m_news.received("PDU " + pdu);
+    perform("PDU " + pdu, [this, pdu] {
+        const std::optional<SubmittedSms> sms = decodeSubmit(pdu, m_pduLength);
+        return sms ? deliverPart(*sms) : messageError(304); // invalid PDU mode parameter
+    });
+}
+
+void ModemCore::perform(const std::string &line, const std::function<AtAnswer()> &action)
+{
+    Misbehaviour fault;
+    if (m_faults.take(line, fault))
+        misbehave(fault, action);
+    else
+        finish(action());
+}
+
+void ModemCore::misbehave(const Misbehaviour &fault, const std::function<AtAnswer()> &action)
+{
+    switch (fault.fault) {
+    case Fault::Error:
+        return finish(error());
+    case Fault::EquipmentError:
+        return finish(equipmentError(fault.value));
+    case Fault::MessageError:
+        return finish(messageError(fault.value));
+    case Fault::Silence:
+        return;
+    case Fault::Late:
+        return m_thread.post([this, action] { finish(action()); },
+                             static_cast<unsigned>(fault.value));
+    case Fault::Garbled: {
+        AtAnswer answer = action();
+        for (std::string &line : answer.lines)
+            line = garbled(line);
+        return finish(answer);
+    }
+    case Fault::HangUp:
+        return m_port.hangUp();
+    }
+}
+
+AtAnswer ModemCore::handle(const std::string &line)
+{
+    if (!tksv::startsWith(line, "AT"))
+        return error();
+    const AtCommand command = parseAtCommand(line.substr(2));
+    const auto found = handlers().find(command.name);
+    return found == handlers().end() ? error() : (this->*found->second)(command);
+}
+
+/* ---- what goes out ----------------------------------------------------------------------- */
+
+void ModemCore::send(const std::string &line)
+{
+    m_port.write("\r\n" + line + "\r\n");
+}
+
+void ModemCore::finish(const AtAnswer &answer)
+{
+    for (const std::string &line : answer.lines)
+        send(line);
+    if (!answer.result.empty())
+        send(answer.result);
+}
+
+void ModemCore::say(const std::string &line)
+{
+    Misbehaviour fault;
+    if (!m_faults.take(line, fault))
+        return send(line);
+    if (fault.fault == Fault::HangUp)
+        m_port.hangUp();
+    else if (fault.fault == Fault::Garbled)
+        send(garbled(line));
+    else if (fault.fault == Fault::Late)
+        m_thread.post([this, line] { send(line); }, static_cast<unsigned>(fault.value));
+}
+
+/// 3GPP TS 27.007, 7.15. The data coding scheme is that of the text on the air, 15 for the default
+/// alphabet and 72 for UCS2 (3GPP TS 23.038, 5); the text itself goes by +CSCS.
+void ModemCore::sayUssd(int type, const std::string &text)
+{
+    std::string line = "+CUSD: " + std::to_string(type);
+    if (!text.empty())
+        line += ",\"" + encodeText(text, m_charset) + "\"," + (toSeptets(text) ? "15" : "72");
+    if (m_holdsReplies)
+        m_heldReplies.push_back(line);
+    else
+        say(line);
+}
+
+void ModemCore::holdReplies(bool hold)
+{
+    m_holdsReplies = hold;
+    if (hold)
+        return;
+    const std::vector<std::string> held = std::exchange(m_heldReplies, {});
+    for (const std::string &line : held)
+        say(line);
+}
+
+} // namespace modem

@@ -1,0 +1,126 @@
+#ifndef MODEM_MODEMCORE_H
+#define MODEM_MODEMCORE_H
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AtCommand.h"
+#include "AtPort.h"
+#include "Charset.h"
+#include "LoopThread.h"
+#include "Misbehaviour.h"
+#include "ModemSettings.h"
+#include "NetworkLink.h"
+#include "SimCard.h"
+#include "SmsPdu.h"
+
+namespace modem
+{
+
+/** What the modem tells its owner; called on the modem's thread. */
+struct ModemNews {
+    std::function<void(const std::string &)> received; // a command, or "PDU " and its digits
+    std::function<void(const SubmittedSms &)> submitted;
+    std::function<void(PlugChange)> plugChanged;
+};
+
+/** The modem itself: AT commands in, answers and unsolicited lines out. On its thread only. */
+class ModemCore
+{
+public:
+    ModemCore(LoopThread &thread, const std::string &port, ModemSettings settings, ModemNews news);
+
+    void useNetwork(tksv::Scenario scenario);
+    void startClock();
+    /// Empty on success, else why not.
+    std::string plugIn() { return m_port.listen(); }
+    void unplug();
+    bool isPresent() const;
+
+    Misbehaviours &misbehaviours() { return m_faults; }
+    void setPieces(bool pieces) { m_port.setPieces(pieces); }
+    void hangUp() { m_port.hangUp(); }
+    void holdReplies(bool hold);
+    /// An unsolicited line, as it is.
+    void say(const std::string &line);
+    void sayUssd(int type, const std::string &text);
+    void receiveSms(const std::string &pdu);
+
+private:
+    using Handler = AtAnswer (ModemCore::*)(const AtCommand &);
+    static const std::map<std::string, Handler> &handlers();
+
+    void opened();
+    void take(const std::string &bytes);
+    void takeByte(char byte);
+    void takeLine(const std::string &line);
+    void takePdu(bool isWhole);
+    void perform(const std::string &line, const std::function<AtAnswer()> &action);
+    AtAnswer handle(const std::string &line);
+    void finish(const AtAnswer &answer);
+    void misbehave(const Misbehaviour &fault, const std::function<AtAnswer()> &action);
+    void send(const std::string &line);
+
+    AtAnswer fixedText(const AtCommand &command);
+    AtAnswer accept(const AtCommand &command);
+    AtAnswer charset(const AtCommand &command);
+    AtAnswer functionality(const AtCommand &command);
+    AtAnswer simCommand(const AtCommand &command);
+    AtAnswer facilityLock(const AtCommand &command);
+    AtAnswer registration(const AtCommand &command);
+    AtAnswer operatorName(const AtCommand &command);
+    AtAnswer signal(const AtCommand &command);
+    AtAnswer indicators(const AtCommand &command);
+    AtAnswer ussd(const AtCommand &command);
+    AtAnswer smsIndication(const AtCommand &command);
+    AtAnswer smsStorage(const AtCommand &command);
+    AtAnswer smsFormat(const AtCommand &command);
+    AtAnswer submit(const AtCommand &command);
+    AtAnswer readSms(const AtCommand &command);
+    AtAnswer ownNumber(const AtCommand &command);
+
+    AtAnswer startUssd(const std::string &text);
+    AtAnswer deliverPart(const SubmittedSms &sms);
+    AtAnswer deliver(const tksv::SmsMessage &message);
+    AtAnswer submitted();
+    NetworkNews networkNews();
+    void smsFinished(int result);
+    void networkLost(int event);
+    void networkChanged();
+    tksv::DeviceInfo device() const;
+    int registrationStatus() const;
+    std::string networkCode() const;
+
+    LoopThread &m_thread;
+    const ModemSettings m_settings;
+    const ModemNews m_news;
+    AtPort m_port;
+    SimCard m_sim;
+    std::shared_ptr<NetworkLink> m_network;
+    Misbehaviours m_faults;
+    bool m_present = false; // as far as the owner has been told
+    TKSV_DeviceState m_toldState = TKSV_DEVICE_ABSENT;
+
+    std::string m_line; // what has come of it
+    bool m_readsPdu = false;
+    std::size_t m_pduLength = 0;
+
+    Charset m_charset = Charset::Gsm;
+    bool m_numericOperator = false;
+    int m_functionality = 1;
+    int m_toldRegistration = 0;
+    int m_toldSignal = 0;
+    bool m_holdsReplies = false;
+    std::vector<std::string> m_heldReplies;
+    int m_smsReference = 0;
+    bool m_smsOnItsWay = false;
+    std::map<int, std::map<int, std::string>> m_smsParts; // by reference, then part
+    std::map<int, std::string> m_storedSms;               // PDUs by index
+};
+
+} // namespace modem
+
+#endif

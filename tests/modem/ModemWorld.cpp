@@ -1,0 +1,346 @@
+#include "ModemWorld.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <utility>
+
+#include "sim/ScenarioReader.h"
+
+namespace modem
+{
+
+namespace
+{
+
+const char Service[] = "org.freedesktop.ModemManager1";
+const char Root[] = "/org/freedesktop/ModemManager1";
+const char ModemInterface[] = "org.freedesktop.ModemManager1.Modem";
+const char AddressVariable[] = "DBUS_SYSTEM_BUS_ADDRESS";
+
+const std::chrono::seconds WaitLimit(10);
+/// With a command that the modem does not answer, the daemon alone would take 20 s.
+const std::chrono::milliseconds StopLimit(3000);
+const std::size_t TailSize = 6000;
+
+std::string deviceOf(const std::string &id)
+{
+    return "/virtual/" + id;
+}
+
+int numberOf(GVariant *dictionary, const char *key, const char *type)
+{
+    gint32 number = -1;
+    g_variant_lookup(dictionary, key, type, &number);
+    return number;
+}
+
+/// The modem's state, when the interfaces are those of the device.
+bool readModem(GVariant *interfaces, const std::string &device, ModemState &state)
+{
+    GVariant *found = g_variant_lookup_value(interfaces, ModemInterface, G_VARIANT_TYPE_VARDICT);
+    if (!found)
+        return false;
+    const VariantPtr properties(found);
+    const char *name = "";
+    g_variant_lookup(properties.get(), "Device", "&s", &name);
+    if (device != name)
+        return false;
+    state.state = numberOf(properties.get(), "State", "i");
+    state.lock = numberOf(properties.get(), "UnlockRequired", "u");
+    const auto has = [&](const char *interface) {
+        return VariantPtr(g_variant_lookup_value(interfaces, interface, nullptr)) != nullptr;
+    };
+    state.hasUssd = has("org.freedesktop.ModemManager1.Modem.Modem3gpp.Ussd");
+    state.hasMessaging = has("org.freedesktop.ModemManager1.Modem.Messaging");
+    return true;
+}
+
+gboolean wakeUp(gpointer)
+{
+    return G_SOURCE_CONTINUE;
+}
+
+/** Wakes the thread's main context at each signal on the bus, and now and then. */
+class Wakeups
+{
+public:
+    explicit Wakeups(GDBusConnection *connection)
+        : m_connection(connection), m_context(g_main_context_new())
+    {
+        g_main_context_push_thread_default(m_context);
+        m_subscription = g_dbus_connection_signal_subscribe(
+            connection, nullptr, nullptr, nullptr, nullptr, nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+            [](GDBusConnection *, const gchar *, const gchar *, const gchar *, const gchar *,
+               GVariant *, gpointer) {},
+            nullptr, nullptr);
+        m_timer = g_timeout_source_new(50); // for conditions that no signal tells of
+        g_source_set_callback(m_timer, wakeUp, nullptr, nullptr);
+        g_source_attach(m_timer, m_context);
+    }
+    ~Wakeups()
+    {
+        g_source_destroy(m_timer);
+        g_source_unref(m_timer);
+        g_dbus_connection_signal_unsubscribe(m_connection, m_subscription);
+        g_main_context_pop_thread_default(m_context);
+        g_main_context_unref(m_context);
+    }
+    Wakeups(const Wakeups &) = delete;
+    Wakeups &operator=(const Wakeups &) = delete;
+
+    void wait() { g_main_context_iteration(m_context, TRUE); }
+
+private:
+    GDBusConnection *const m_connection;
+    GMainContext *const m_context;
+    guint m_subscription = 0;
+    GSource *m_timer = nullptr;
+};
+
+std::string readFile(const std::string &path)
+{
+    std::ostringstream content;
+    content << std::ifstream(path).rdbuf();
+    return content.str();
+}
+
+void removeFolder(const std::string &folder)
+{
+    GDir *const entries = g_dir_open(folder.c_str(), 0, nullptr);
+    while (const char *name = entries ? g_dir_read_name(entries) : nullptr)
+        std::remove((folder + "/" + name).c_str());
+    if (entries)
+        g_dir_close(entries);
+    std::remove(folder.c_str());
+}
+
+} // namespace
+
+ModemWorld::ModemWorld() = default;
+
+/// The daemon goes before the modems: it would wait for their answers.
+ModemWorld::~ModemWorld()
+{
+    for (const auto &entry : m_modems)
+        entry.second->onPlugChange(nullptr);
+    stopDaemon();
+    m_modems.clear();
+    m_polkit.reset();
+    closeConnection(m_connection);
+    m_bus.stop();
+    if (!m_folder.empty())
+        removeFolder(m_folder);
+    if (!m_addressBefore.empty())
+        g_setenv(AddressVariable, m_addressBefore.c_str(), TRUE);
+}
+
+std::string ModemWorld::start()
+{
+    char folder[] = "/tmp/modem-XXXXXX"; // short, whatever TMPDIR is: sockets lie in it
+    if (!mkdtemp(folder))
+        return "no temporary folder";
+    m_folder = folder;
+    std::string complaint = m_bus.start(m_folder);
+    if (!complaint.empty())
+        return complaint;
+    const char *const before = std::getenv(AddressVariable);
+    m_addressBefore = before ? before : "unix:path=/nonexistent";
+    g_setenv(AddressVariable, m_bus.address().c_str(), TRUE);
+    m_connection = connectTo(m_bus.address());
+    m_polkit = std::make_unique<PolkitStub>();
+    complaint = m_polkit->start(m_bus.address());
+    if (complaint.empty() && !startDaemon())
+        complaint = "ModemManager does not start: is it installed?\n" + logTail();
+    return complaint;
+}
+
+/* ---- the daemon -------------------------------------------------------------------------- */
+
+bool ModemWorld::startDaemon()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_announced.clear();
+    }
+    const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG shows the AT commands
+    if (!m_daemon.start({"ModemManager", "--test-enable", "--test-no-udev",
+                         "--test-no-suspend-resume", "--test-no-qrtr", "--no-auto-scan",
+                         "--log-file=" + m_folder + "/daemon.log",
+                         std::string("--log-level=") + (level ? level : "INFO")},
+                        m_folder + "/daemon.out"))
+        return false;
+    if (!waitUntil([this] { return !daemonOwner().empty() || !m_daemon.isRunning(); }) ||
+        !m_daemon.isRunning())
+        return false;
+    for (const auto &entry : m_modems) {
+        if (entry.second->isPresent())
+            announce(entry.first);
+    }
+    return true;
+}
+
+void ModemWorld::stopDaemon()
+{
+    m_daemon.stop(StopLimit);
+}
+
+void ModemWorld::killDaemon()
+{
+    m_daemon.kill();
+}
+
+std::string ModemWorld::daemonOwner()
+{
+    const Reply reply = call(
+        m_connection,
+        {"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetNameOwner"},
+        g_variant_new("(s)", Service));
+    if (!reply.value)
+        return std::string();
+    const char *owner = "";
+    g_variant_get(reply.value.get(), "(&s)", &owner);
+    return owner;
+}
+
+std::string ModemWorld::logTail()
+{
+    const std::string log = readFile(m_folder + "/daemon.log") + readFile(m_folder + "/daemon.out");
+    return log.size() > TailSize ? log.substr(log.size() - TailSize) : log;
+}
+
+/* ---- the hardware ------------------------------------------------------------------------ */
+
+FakeModem &ModemWorld::addModem(const std::string &id, const std::string &scenario,
+                                const ModemSettings &settings)
+{
+    auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
+    modem->onPlugChange([this, id](PlugChange change) { plugChanged(id, change); });
+    FakeModem &added = *(m_modems[id] = std::move(modem));
+    added.plugIn();
+    const std::string complaint = useScenario(id, scenario);
+    if (!complaint.empty())
+        g_warning("%s", complaint.c_str());
+    return added;
+}
+
+std::string ModemWorld::useScenario(const std::string &id, const std::string &scenario,
+                                    FakeModem::Clock clock)
+{
+    tksv::ScenarioResult result = tksv::readScenario(scenario, id + ".scenario");
+    if (!result.scenario)
+        return tksv::describe(result.complaints);
+    unplug(id);
+    modem(id).useScenario(*std::move(result.scenario), clock);
+    if (modem(id).isPresent())
+        plugIn(id);
+    return std::string();
+}
+
+/// The daemon makes a new object of a device that it knows once it is no longer inhibited.
+void ModemWorld::announce(const std::string &id)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_announced.insert(id).second) {
+        inhibit(id, false);
+        return;
+    }
+    const char *const ports[] = {modem(id).port().c_str(), nullptr};
+    send(m_connection, {Service, Root, "org.freedesktop.ModemManager1.Test", "SetProfile"},
+         g_variant_new("(ss^as)", id.c_str(), "generic", ports));
+}
+
+/// To the daemon a socket that hangs up is no device that goes away; an inhibited device is one.
+void ModemWorld::inhibit(const std::string &id, bool inhibited)
+{
+    send(m_connection, {Service, Root, Service, "InhibitDevice"},
+         g_variant_new("(sb)", deviceOf(id).c_str(), inhibited));
+}
+
+void ModemWorld::unplug(const std::string &id)
+{
+    inhibit(id, true);
+    waitUntil([&] { return stateOf(id).object.empty(); });
+    modem(id).unplug();
+}
+
+void ModemWorld::plugIn(const std::string &id)
+{
+    modem(id).plugIn();
+    announce(id);
+}
+
+/// On the modem's thread.
+void ModemWorld::plugChanged(const std::string &id, PlugChange change)
+{
+    if (change != PlugChange::Back)
+        inhibit(id, true);
+    if (change == PlugChange::Back || change == PlugChange::Changed)
+        announce(id);
+}
+
+/* ---- what the daemon says ---------------------------------------------------------------- */
+
+VariantPtr ModemWorld::managedObjects()
+{
+    return call(m_connection,
+                {Service, Root, "org.freedesktop.DBus.ObjectManager", "GetManagedObjects"}, nullptr)
+        .value;
+}
+
+ModemState ModemWorld::stateOf(const std::string &id)
+{
+    ModemState state;
+    const VariantPtr objects = managedObjects();
+    if (!objects)
+        return state;
+    const VariantPtr list(g_variant_get_child_value(objects.get(), 0));
+    for (gsize i = 0; i < g_variant_n_children(list.get()); ++i) {
+        const VariantPtr entry(g_variant_get_child_value(list.get(), i));
+        const VariantPtr path(g_variant_get_child_value(entry.get(), 0));
+        const VariantPtr interfaces(g_variant_get_child_value(entry.get(), 1));
+        if (readModem(interfaces.get(), deviceOf(id), state))
+            state.object = g_variant_get_string(path.get(), nullptr);
+    }
+    return state;
+}
+
+std::string ModemWorld::waitForState(const std::string &id, int atLeast)
+{
+    ModemState state;
+    const bool reached = waitUntil([&] {
+        state = stateOf(id);
+        return !state.object.empty() && state.state >= atLeast;
+    });
+    return reached ? state.object : std::string();
+}
+
+std::string ModemWorld::switchOn(const std::string &id)
+{
+    std::string object = waitForState(id, StateDisabled);
+    if (object.empty())
+        return object;
+    const Reply reply =
+        call(m_connection, {Service, object, ModemInterface, "Enable"}, g_variant_new("(b)", TRUE));
+    return reply.value ? object : std::string();
+}
+
+std::string ModemWorld::enable(const std::string &id)
+{
+    return switchOn(id).empty() ? std::string() : waitForState(id, StateRegistered);
+}
+
+bool ModemWorld::waitUntil(const std::function<bool()> &condition)
+{
+    const auto end = std::chrono::steady_clock::now() + WaitLimit;
+    Wakeups wakeups(m_connection);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        wakeups.wait();
+    }
+    return true;
+}
+
+} // namespace modem

@@ -1,0 +1,103 @@
+#include "NetworkLink.h"
+
+#include <utility>
+
+#include "UssdSession.h"
+
+namespace modem
+{
+
+NetworkLink::NetworkLink(LoopThread &thread, tksv::Scenario scenario, NetworkNews news)
+    : m_thread(thread), m_news(std::move(news)), m_smsReadyAtFirst(scenario.smsReady),
+      m_network(std::move(scenario))
+{
+}
+
+NetworkLink::~NetworkLink()
+{
+    m_network.stop();
+}
+
+void NetworkLink::start()
+{
+    m_started = true;
+    m_network.start(*this);
+}
+
+/// A cancel does not always reach the modem: the daemon sends the first one only. So a code begins
+/// a new session, also where a network would take it for the answer to its menu.
+int NetworkLink::sendUssd(const std::string &text)
+{
+    if (!m_started)
+        return tksv::RequestNoDevice;
+    const bool isAnswer = m_waitsForAnswer && !tksv::hasFormOfCode(text);
+    const int status = m_network.request(
+        ++m_lastToken, isAnswer ? tksv::RequestKind::Answer : tksv::RequestKind::NewSession, text);
+    if (status == tksv::RequestAccepted)
+        m_waitsForAnswer = false;
+    return status;
+}
+
+void NetworkLink::endUssd()
+{
+    m_waitsForAnswer = false;
+    ++m_lastToken;
+    m_network.endSession();
+}
+
+bool NetworkLink::sendSms(const tksv::SmsMessage &message)
+{
+    return m_started && m_network.sendSms(message);
+}
+
+/* ---- on the network's thread ------------------------------------------------------------- */
+
+void NetworkLink::post(std::function<void(NetworkLink &)> action)
+{
+    m_thread.post([weak = weak_from_this(), action = std::move(action)] {
+        if (const std::shared_ptr<NetworkLink> self = weak.lock())
+            action(*self);
+    });
+}
+
+void NetworkLink::ussdReply(tksv::RequestToken token, const tksv::UssdReply &reply)
+{
+    post([=](NetworkLink &link) {
+        if (token == link.m_lastToken)
+            link.deliver(reply);
+    });
+}
+
+void NetworkLink::ussdText(const tksv::UssdReply &text)
+{
+    post([=](NetworkLink &link) { link.deliver(text); });
+}
+
+void NetworkLink::deviceLost(int event)
+{
+    post([=](NetworkLink &link) {
+        link.m_waitsForAnswer = false;
+        link.m_news.lost(event);
+    });
+}
+
+/// Stands in the device's information too.
+void NetworkLink::smsStatusChanged(bool) {}
+
+void NetworkLink::smsFinished(const tksv::SmsMessage &message, int result)
+{
+    post([=](NetworkLink &link) { link.m_news.smsFinished(message, result); });
+}
+
+void NetworkLink::infoChanged()
+{
+    post([](NetworkLink &link) { link.m_news.infoChanged(); });
+}
+
+void NetworkLink::deliver(const tksv::UssdReply &reply)
+{
+    m_waitsForAnswer = reply.type == tksv::UssdWaitsForAnswer;
+    m_news.ussd(reply);
+}
+
+} // namespace modem

@@ -1,0 +1,56 @@
+#ifndef MODEM_SIMCARD_H
+#define MODEM_SIMCARD_H
+
+#include <string>
+
+#include "AtCommand.h"
+
+namespace modem
+{
+
+/** What is written on the card. */
+struct SimData {
+    std::string imsi;
+    std::string iccid = "8949000000000000017"; // 19 or 20 digits
+    std::string operatorName;                  // its service provider name; empty: none
+    int mncLength = 2;
+    std::string pin = "1234";
+    std::string puk = "12345678";
+};
+
+/** A SIM behind AT commands: lock, counters and the few files that a daemon reads. */
+class SimCard
+{
+public:
+    explicit SimCard(SimData data);
+
+    void setData(SimData data);
+    const SimData &data() const { return m_data; }
+    void setMissing(bool missing) { m_missing = missing; }
+    /// The PIN is asked for from now on.
+    void lock() { m_lock = Lock::Pin; }
+    bool isUsable() const { return !m_missing && m_lock == Lock::None; }
+    bool isLocked() const { return !m_missing && m_lock != Lock::None; }
+
+    AtAnswer pin(const AtCommand &command);  // +CPIN
+    AtAnswer imsi() const;                   // +CIMI
+    AtAnswer file(const AtCommand &command); // +CRSM, 3GPP TS 27.007, 8.18
+    AtAnswer raw(const AtCommand &command);  // +CSIM, of which only the counters are known
+
+private:
+    enum class Lock { None, Pin, Puk };
+    AtAnswer pinState() const;
+    AtAnswer enterPin(const std::string &pin);
+    AtAnswer enterPuk(const std::string &puk, const std::string &newPin);
+    std::string content(const std::string &fileId) const;
+
+    SimData m_data;
+    bool m_missing = false;
+    Lock m_lock = Lock::None;
+    int m_pinTries = 3;
+    int m_pukTries = 10;
+};
+
+} // namespace modem
+
+#endif
