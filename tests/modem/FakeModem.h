@@ -31,7 +31,7 @@ class ModemCore;
  * registers nowhere. A device
  * that cannot send SMS from the beginning has no +CNMI; one that can no more loses its network.
  *
- * Any thread may call, but not from inside the plug handler.
+ * Any thread may call.
  */
 class FakeModem
 {

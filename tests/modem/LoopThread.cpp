@@ -63,6 +63,8 @@ void LoopThread::post(Action action, unsigned delayMilliseconds)
 
 void LoopThread::call(const Action &action)
 {
+    if (std::this_thread::get_id() == m_thread.get_id())
+        return action();
     std::promise<void> done;
     post([&] {
         action();

@@ -25,7 +25,7 @@ public:
 
     /// Any thread: does it on the loop's thread later.
     void post(std::function<void()> action, unsigned delayMilliseconds = 0);
-    /// Any thread but the loop's own: does it there and returns when it is done.
+    /// Any thread: does it on the loop's thread and returns when it is done.
     void call(const std::function<void()> &action);
 
 private:

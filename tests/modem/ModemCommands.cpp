@@ -183,9 +183,9 @@ AtAnswer ModemCore::registration(const AtCommand &command)
 
 std::string ModemCore::networkCode() const
 {
-    const auto mccLength = 3;
-    return m_sim.data().imsi.substr(0,
-                                    static_cast<std::size_t>(mccLength + m_sim.data().mncLength));
+    const std::size_t mccLength = 3;
+    const auto mncLength = static_cast<std::size_t>(m_sim.data().mncLength);
+    return m_sim.data().imsi.substr(0, mccLength + mncLength);
 }
 
 /// 3GPP TS 27.007, 7.3: format 0 is the long name, 2 the number.
@@ -230,9 +230,11 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
         return info("+CUSD: 1");
     if (command.value(0) == "2" && m_network)
         m_network->endUssd();
-    if (command.value(0) != "1" || command.values.size() < 2)
+    if (command.value(0) != "1")
         return ok();
-    return startUssd(decodeText(command.value(1), m_charset));
+    m_tellsUssd = true;
+    sayHeldReplies();
+    return command.values.size() < 2 ? ok() : startUssd(decodeText(command.value(1), m_charset));
 }
 
 /// A device that "does not answer in time" lets even the command without an answer; "no device" is

@@ -37,6 +37,9 @@ void ModemCore::useNetwork(tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;
     sim.imsi = scenario.imsi;
+    sim.pin = scenario.pin;
+    if (!scenario.homeNetwork.empty())
+        sim.mncLength = static_cast<int>(scenario.homeNetwork.size()) - 3;
     if (sim.operatorName.empty())
         sim.operatorName = scenario.operatorName;
     m_sim.setData(sim);
@@ -48,6 +51,7 @@ void ModemCore::useNetwork(tksv::Scenario scenario)
     m_functionality = scenario.state == TKSV_DEVICE_DISABLED ? 4 : 1;
     m_network = std::make_shared<NetworkLink>(m_thread, std::move(scenario), networkNews());
     m_heldReplies.clear();
+    m_tellsUssd = false;
     m_smsParts.clear();
     m_smsOnItsWay = false;
     m_toldState = device().state;
@@ -85,6 +89,7 @@ void ModemCore::unplug()
 {
     m_port.hangUp();
     m_port.stopListening();
+    m_tellsUssd = false;
 }
 
 void ModemCore::networkLost(int event)
@@ -256,7 +261,7 @@ void ModemCore::sayUssd(int type, const std::string &text)
     std::string line = "+CUSD: " + std::to_string(type);
     if (!text.empty())
         line += ",\"" + encodeText(text, m_charset) + "\"," + (toSeptets(text) ? "15" : "72");
-    if (m_holdsReplies)
+    if (m_holdsReplies || !m_tellsUssd)
         m_heldReplies.push_back(line);
     else
         say(line);
@@ -265,7 +270,12 @@ void ModemCore::sayUssd(int type, const std::string &text)
 void ModemCore::holdReplies(bool hold)
 {
     m_holdsReplies = hold;
-    if (hold)
+    sayHeldReplies();
+}
+
+void ModemCore::sayHeldReplies()
+{
+    if (m_holdsReplies || !m_tellsUssd)
         return;
     const std::vector<std::string> held = std::exchange(m_heldReplies, {});
     for (const std::string &line : held)

@@ -63,6 +63,7 @@ private:
     void finish(const AtAnswer &answer);
     void misbehave(const Misbehaviour &fault, const std::function<AtAnswer()> &action);
     void send(const std::string &line);
+    void sayHeldReplies();
 
     AtAnswer fixedText(const AtCommand &command);
     AtAnswer accept(const AtCommand &command);
@@ -113,6 +114,7 @@ private:
     int m_functionality = 1;
     int m_toldRegistration = 0;
     int m_toldSignal = 0;
+    bool m_tellsUssd = false; // since AT+CUSD=1; the network's own texts wait until then
     bool m_holdsReplies = false;
     std::vector<std::string> m_heldReplies;
     int m_smsReference = 0;

@@ -10,8 +10,10 @@
 namespace modem
 {
 
-/** What a modem is, apart from its network. IMSI and, unless it is given, the SIM's operator name
- * are those of the scenario. */
+/**
+ * What a modem is, apart from its network. IMSI, PIN, home network and, unless it is given, the
+ * SIM's operator name are those of the scenario.
+ */
 struct ModemSettings {
     std::string manufacturer = "Example";
     std::string model = "Fake One";

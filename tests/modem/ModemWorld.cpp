@@ -160,6 +160,7 @@ std::string ModemWorld::start()
 
 bool ModemWorld::startDaemon()
 {
+    const std::lock_guard<std::mutex> daemonLock(m_daemonMutex);
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_announced.clear();
@@ -183,12 +184,20 @@ bool ModemWorld::startDaemon()
 
 void ModemWorld::stopDaemon()
 {
+    const std::lock_guard<std::mutex> lock(m_daemonMutex);
     m_daemon.stop(StopLimit);
 }
 
 void ModemWorld::killDaemon()
 {
+    const std::lock_guard<std::mutex> lock(m_daemonMutex);
     m_daemon.kill();
+}
+
+bool ModemWorld::isDaemonRunning()
+{
+    const std::lock_guard<std::mutex> lock(m_daemonMutex);
+    return m_daemon.isRunning();
 }
 
 std::string ModemWorld::daemonOwner()
@@ -212,17 +221,16 @@ std::string ModemWorld::logTail()
 
 /* ---- the hardware ------------------------------------------------------------------------ */
 
-FakeModem &ModemWorld::addModem(const std::string &id, const std::string &scenario,
-                                const ModemSettings &settings)
+std::string ModemWorld::addModem(const std::string &id, const std::string &scenario,
+                                 const ModemSettings &settings, FakeModem::Clock clock)
 {
+    if (hasModem(id))
+        unplug(id);
+    m_modems.erase(id); // before the new one takes its socket
     auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
     modem->onPlugChange([this, id](PlugChange change) { plugChanged(id, change); });
-    FakeModem &added = *(m_modems[id] = std::move(modem));
-    added.plugIn();
-    const std::string complaint = useScenario(id, scenario);
-    if (!complaint.empty())
-        g_warning("%s", complaint.c_str());
-    return added;
+    m_modems[id] = std::move(modem);
+    return useScenario(id, scenario, clock);
 }
 
 std::string ModemWorld::useScenario(const std::string &id, const std::string &scenario,
@@ -271,9 +279,16 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// On the modem's thread.
+/// On the modem's thread. What a reset is to a modem that stays plugged in, a daemon that starts
+/// anew is to its clients.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
+    if (change == PlugChange::Reset)
+        return killDaemon();
+    if (change == PlugChange::Back && !isDaemonRunning()) {
+        startDaemon();
+        return;
+    }
     if (change != PlugChange::Back)
         inhibit(id, true);
     if (change == PlugChange::Back || change == PlugChange::Changed)

@@ -54,9 +54,12 @@ public:
     const std::string &busAddress() const { return m_bus.address(); }
     PolkitStub &polkit() { return *m_polkit; }
 
-    /// A modem in the network of a scenario (its text), known to the daemon as /virtual/<id>.
-    FakeModem &addModem(const std::string &id, const std::string &scenario,
-                        const ModemSettings &settings = ModemSettings());
+    /// A modem in the network of a scenario (its text), known to the daemon as /virtual/<id>. A
+    /// later one takes the place of an earlier one with that name. What is wrong, or empty.
+    std::string addModem(const std::string &id, const std::string &scenario,
+                         const ModemSettings &settings = ModemSettings(),
+                         FakeModem::Clock clock = FakeModem::Clock::Running);
+    bool hasModem(const std::string &id) const { return m_modems.count(id) != 0; }
     FakeModem &modem(const std::string &id) { return *m_modems.at(id); }
 
     /// Another network for a modem, which is plugged in again for it, unless its device is away.
@@ -70,6 +73,7 @@ public:
 
     // ---- the daemon
     bool startDaemon(); ///< with the modems that are there
+    bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
 
@@ -97,6 +101,7 @@ private:
     PrivateBus m_bus;
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
+    std::mutex m_daemonMutex; // guards the daemon; before m_mutex
     ChildProcess m_daemon;
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
     std::mutex m_mutex;                // guards what follows

@@ -14,7 +14,7 @@ struct SimData {
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
     std::string operatorName;                  // its service provider name; empty: none
     int mncLength = 2;
-    std::string pin = "1234";
+    std::string pin = "0000";
     std::string puk = "12345678";
 };
 

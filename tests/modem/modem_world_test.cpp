@@ -111,7 +111,7 @@ void ModemWorldTest::tearDown()
 
 void ModemWorldTest::addModem(const ModemSettings &settings, const char *network)
 {
-    m_world->addModem("m1", network, settings);
+    QCOMPARE(m_world->addModem("m1", network, settings), std::string());
 }
 
 void ModemWorldTest::enable()
@@ -328,7 +328,7 @@ void ModemWorldTest::pinUnlocksTheSim()
     QVERIFY(!object.empty());
     QVERIFY(m_client->use(object));
     QVERIFY(!m_world->stateOf("m1").hasUssd);
-    QCOMPARE(m_client->sendPin("1234"), std::string());
+    QCOMPARE(m_client->sendPin("0000"), std::string());
     QVERIFY(!m_world->enable("m1").empty());
     QVERIFY(m_world->stateOf("m1").hasUssd);
 }

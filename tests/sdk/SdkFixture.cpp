@@ -1,11 +1,6 @@
 #include "SdkFixture.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <fstream>
-#include <unistd.h>
-
-#include "tksv_device.h"
 
 namespace
 {
@@ -56,20 +51,6 @@ Received &received()
 {
     static Received instance;
     return instance;
-}
-
-std::string useNetwork(const std::string &scenario)
-{
-    char path[] = "/tmp/sdk-test-XXXXXX";
-    const int descriptor = mkstemp(path);
-    if (descriptor < 0)
-        return "no temporary file";
-    close(descriptor);
-    std::ofstream(path) << scenario;
-    char message[4096] = "";
-    TKSV_Device_UseScenario(path, message, sizeof message);
-    std::remove(path);
-    return message;
 }
 
 void registerAll()

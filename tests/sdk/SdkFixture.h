@@ -90,8 +90,18 @@ namespace SdkFixture
 
 Received &received();
 
-/// Makes the device one in the network that the text describes. Empty on success.
+/// Makes the device one in the network that the text describes, as a client finds it once it is
+/// ready; the times of the text count from then. Empty on success. Linked in with the device.
 std::string useNetwork(const std::string &scenario);
+
+/** In what devices may differ. */
+struct Abilities {
+    /// A device that fails says so in the call. One behind a daemon is asked after the call has
+    /// returned, so that its failure is the response.
+    bool failsInTheCall = true;
+    bool sendsEmptySms = true;
+};
+Abilities abilities();
 
 void registerAll();
 void unregisterAll();

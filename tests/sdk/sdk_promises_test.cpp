@@ -2,6 +2,7 @@
  * What tksv.h promises, one test for each promise. Only tksv.h is used here, and a fixture that
  * gives the device a network; so the same tests can run against any device.
  */
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <QtTest>
@@ -194,7 +195,7 @@ private slots:
 
     void withoutUsableDeviceRequestFails_data();
     void withoutUsableDeviceRequestFails();
-    void deviceTimeoutIsStatusFive();
+    void failureHasItsStatus();
     void failedRequestLeavesTheSessionOpen();
 
     void lostDeviceRaisesItsEvent_data();
@@ -218,11 +219,14 @@ private slots:
     void userDataDirectoryExistsAndEndsInSlash();
     void garbageIsRefused();
     void manyThreadsAtOnce();
+
+private:
+    static void failureAfterTheCallIsTheResponse();
 };
 
 void SdkPromises::init()
 {
-    QCOMPARE(useNetwork(Network), std::string());
+    QCOMPARE(QString::fromStdString(useNetwork(Network)), QString());
     registerAll();
     QVERIFY(received().smsStatus.waitFor(1));
     received().clear();
@@ -621,8 +625,10 @@ void SdkPromises::withoutUsableDeviceRequestFails()
     QVERIFY(status != 0 && status != TKSV_STATUS_DEVICE_TIMEOUT);
 }
 
-void SdkPromises::deviceTimeoutIsStatusFive()
+void SdkPromises::failureHasItsStatus()
 {
+    if (!abilities().failsInTheCall)
+        return failureAfterTheCallIsTheResponse();
     int status = 0;
     QVERIFY(request(u"*134#", &status) != 0);
     QCOMPARE(status, 5);
@@ -632,10 +638,20 @@ void SdkPromises::deviceTimeoutIsStatusFive()
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
+void SdkPromises::failureAfterTheCallIsTheResponse()
+{
+    const Response failure = ask(u"*135#");
+    QVERIFY(failure.type > 0);
+    QVERIFY(failure.text.empty());
+    QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
+    QCOMPARE(received().responses.all().size(), std::size_t(2));
+}
+
 void SdkPromises::failedRequestLeavesTheSessionOpen()
 {
     QCOMPARE(ask(u"*120#").type, 1);
-    QVERIFY(request(u"*134#") != 0);
+    if (abilities().failsInTheCall)
+        QVERIFY(request(u"*134#") != 0);
     QVERIFY(request(u"") != 0);
     QCOMPARE(shown(ask(u"1").text), shown(u"one"));
 }
@@ -682,24 +698,30 @@ void SdkPromises::registeringSmsRaisesCanSend()
 void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
 {
     unregisterAll();
-    const char network[] = "[Network]\nOperator=O\nIMSI=001010000000001\nSMS=not-ready\n";
-    QCOMPARE(useNetwork(network), std::string());
+    QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\nSMS=not-ready\n"),
+             std::string());
     registerAll();
-    QCOMPARE(useNetwork(network), std::string()); // says so
-    QVERIFY(received().smsStatus.waitFor(1));
-    QCOMPARE(received().smsStatus.all(), std::vector<int>{8});
+    QCOMPARE(useNetwork(Network), std::string()); // can send
+    QVERIFY(deviceHasCaughtUp());
+    QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
+/// Devices differ in what they tell of the change of the network itself.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
-    QCOMPARE(useNetwork(network + "[Event off]\nAfter=5\nSMS=not-ready\n"
-                                  "[Event on]\nAfter=10\nSMS=ready\n"
-                                  "[Event again]\nAfter=15\nSMS=ready\n"
-                                  "[Event search]\nAfter=20\nState=searching\n"),
+    QCOMPARE(useNetwork(network + "[Event off]\nAfter=100\nSMS=not-ready\n"
+                                  "[Event on]\nAfter=200\nSMS=ready\n"
+                                  "[Event again]\nAfter=300\nSMS=ready\n"
+                                  "[Event search]\nAfter=400\nState=searching\n"),
              std::string());
-    QVERIFY(received().smsStatus.waitFor(4));
-    QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 8, 7, 8}));
+    const std::vector<int> expected = {7, 8, 7, 8};
+    const auto hasCome = [&] {
+        const std::vector<int> all = received().smsStatus.all();
+        return all.size() >= expected.size() &&
+               std::equal(expected.rbegin(), expected.rend(), all.rbegin());
+    };
+    QVERIFY(waitUntil(hasCome));
 }
 
 void SdkPromises::smsResultNamesTheMessage_data()
@@ -709,7 +731,8 @@ void SdkPromises::smsResultNamesTheMessage_data()
     QTest::addColumn<int>("result");
     QTest::newRow("sent") << shown(u"1") << "hello" << 0;
     QTest::newRow("failed") << shown(u"2") << "hello" << 28;
-    QTest::newRow("empty text") << shown(u"1") << "" << 0;
+    if (abilities().sendsEmptySms)
+        QTest::newRow("empty text") << shown(u"1") << "" << 0;
     QTest::newRow("other letters") << shown(u"+1") << shown(u"да 好 😀") << 0;
 }
 
@@ -721,15 +744,19 @@ void SdkPromises::smsResultNamesTheMessage()
     QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L); // gives the record back
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
-    QCOMPARE(got.result, result);
+    QCOMPARE(got.result != 0, result != 0);
     QCOMPARE(shown(got.number), number);
     QCOMPARE(shown(got.text), text);
 }
 
 void SdkPromises::smsFailsWithTheDevice()
 {
-    QCOMPARE(sendSms(u"3", u"on its way"), 0L);
-    QCOMPARE(request(u"*140#"), 0L);
+    QVERIFY(doInTime(
+        200,
+        [] {
+            useNetwork(std::string(Network) + "[Event pulled out]\nAfter=200\nDeviceEvent=6016\n");
+        },
+        [] { sendSms(u"3", u"on its way"); }));
     QVERIFY(received().smsResults.waitFor(1));
     QVERIFY(received().smsResults.all()[0].result != 0);
     QCOMPARE(shown(received().smsResults.all()[0].text), shown(u"on its way"));
@@ -766,9 +793,9 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"
-                                "[*100#]\nReply=reply\nDelay=60\n";
-    return doInTime(30, startAfresh, [&] {
-        useNetwork(network + "[Push own]\nAfter=30\n" + push);
+                                "[*100#]\nReply=reply\nDelay=600\n";
+    return doInTime(300, startAfresh, [&] {
+        useNetwork(network + "[Push own]\nAfter=300\n" + push);
         request(u"*100#");
     });
 }

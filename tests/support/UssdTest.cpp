@@ -104,6 +104,11 @@ void UssdTestPrivate::prepareProcess()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A test started by hand keeps off the developer's own modem, too.
+    if (qEnvironmentVariableIsEmpty("TKSV_BACKEND"))
+        qputenv("TKSV_BACKEND", "simulator");
+    if (qEnvironmentVariableIsEmpty("DBUS_SYSTEM_BUS_ADDRESS"))
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
     QLocale::setDefault(QLocale::c());
     QCoreApplication::setApplicationName(QLatin1String("ussd-test"));
 }

@@ -1,0 +1,90 @@
+/* The fixture's network: a modem under ModemManager. */
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "ModemWorld.h"
+#include "SdkFixture.h"
+#include "sim/ScenarioReader.h"
+#include "tksv_device.h"
+
+namespace
+{
+
+const char Id[] = "m1";
+
+TKSV_DeviceInfo deviceInfo()
+{
+    TKSV_DeviceInfo info = {};
+    TKSV_Device_GetInfo(&info);
+    return info;
+}
+
+/// Made before the SDK library is used first, so that it goes after the library has stopped.
+modem::ModemWorld &world()
+{
+    static const std::unique_ptr<modem::ModemWorld> instance = [] {
+        auto made = std::make_unique<modem::ModemWorld>();
+        const std::string complaint = made->start();
+        if (!complaint.empty()) {
+            std::fprintf(stderr, "%s\n", complaint.c_str());
+            std::abort();
+        }
+        setenv("TKSV_BACKEND", "modemmanager", 1);
+        return made;
+    }();
+    return *instance;
+}
+
+/// A modem that is switched off is switched on by the library, and then searches.
+bool isReady(const tksv::Scenario &scenario)
+{
+    const TKSV_DeviceInfo now = deviceInfo();
+    if (scenario.state != TKSV_DEVICE_REGISTERED)
+        return now.state ==
+               (scenario.state == TKSV_DEVICE_DISABLED ? TKSV_DEVICE_SEARCHING : scenario.state);
+    return now.state == TKSV_DEVICE_REGISTERED && scenario.operatorName == now.operatorName &&
+           scenario.imsi == now.imsi && (now.canSendSMS != 0) == scenario.smsReady;
+}
+
+std::string unlessReady(const char *what)
+{
+    std::fprintf(stderr, "%s\n", world().logTail().c_str());
+    const TKSV_DeviceInfo now = deviceInfo();
+    return std::string("the library has not seen that the modem is ") + what + "; state " +
+           std::to_string(now.state) + ", problem " + std::to_string(now.problem) + ", operator " +
+           now.operatorName + ", IMSI " + now.imsi + ", SMS " + std::to_string(now.canSendSMS);
+}
+
+} // namespace
+
+namespace SdkFixture
+{
+
+/// The library is to see the earlier modem go, or it would take that one for the new one.
+std::string useNetwork(const std::string &scenario)
+{
+    const tksv::ScenarioResult result = tksv::readScenario(scenario, "test.scenario");
+    if (!result.scenario)
+        return tksv::describe(result.complaints);
+    modem::ModemWorld &here = world();
+    if (here.hasModem(Id))
+        here.unplug(Id);
+    if (!waitUntil([] { return deviceInfo().state == TKSV_DEVICE_ABSENT; }))
+        return unlessReady("gone");
+    here.addModem(Id, scenario, modem::ModemSettings(), modem::FakeModem::Clock::Stopped);
+    if (!waitUntil([&] { return isReady(*result.scenario); }))
+        return unlessReady("ready");
+    here.modem(Id).startClock();
+    return std::string();
+}
+
+Abilities abilities()
+{
+    Abilities abilities;
+    abilities.failsInTheCall = false;
+    abilities.sendsEmptySms = false;
+    return abilities;
+}
+
+} // namespace SdkFixture
