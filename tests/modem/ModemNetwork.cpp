@@ -84,6 +84,7 @@ Abilities abilities()
     Abilities abilities;
     abilities.failsInTheCall = false;
     abilities.sendsEmptySms = false;
+    abilities.knowsAllOfUnicode = false;
     return abilities;
 }
 

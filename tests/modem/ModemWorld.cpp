@@ -125,6 +125,7 @@ ModemWorld::~ModemWorld()
 {
     for (const auto &entry : m_modems)
         entry.second->onPlugChange(nullptr);
+    m_thread.call([] {}); // what a modem has still asked for
     stopDaemon();
     m_modems.clear();
     m_polkit.reset();
@@ -159,6 +160,13 @@ std::string ModemWorld::start()
 /* ---- the daemon -------------------------------------------------------------------------- */
 
 bool ModemWorld::startDaemon()
+{
+    bool started = false;
+    m_thread.call([&] { started = launchDaemon(); });
+    return started;
+}
+
+bool ModemWorld::launchDaemon()
 {
     const std::lock_guard<std::mutex> daemonLock(m_daemonMutex);
     {
@@ -226,10 +234,11 @@ std::string ModemWorld::addModem(const std::string &id, const std::string &scena
 {
     if (hasModem(id))
         unplug(id);
-    m_modems.erase(id); // before the new one takes its socket
+    m_thread.call([&] { m_modems.erase(id); }); // before the new one takes its socket
     auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
-    modem->onPlugChange([this, id](PlugChange change) { plugChanged(id, change); });
-    m_modems[id] = std::move(modem);
+    modem->onPlugChange(
+        [this, id](PlugChange change) { m_thread.post([=] { plugChanged(id, change); }); });
+    m_thread.call([&] { m_modems[id] = std::move(modem); });
     return useScenario(id, scenario, clock);
 }
 
@@ -279,14 +288,16 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// On the modem's thread. What a reset is to a modem that stays plugged in, a daemon that starts
+/// On the world's thread. What a reset is to a modem that stays plugged in, a daemon that starts
 /// anew is to its clients.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
+    if (!hasModem(id))
+        return; // another has taken its place
     if (change == PlugChange::Reset)
         return killDaemon();
     if (change == PlugChange::Back && !isDaemonRunning()) {
-        startDaemon();
+        launchDaemon();
         return;
     }
     if (change != PlugChange::Back)

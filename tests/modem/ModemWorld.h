@@ -90,6 +90,7 @@ public:
     std::string logTail();
 
 private:
+    bool launchDaemon();
     void announce(const std::string &id);
     void inhibit(const std::string &id, bool inhibited);
     void plugChanged(const std::string &id, PlugChange change);
@@ -102,10 +103,11 @@ private:
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
     std::mutex m_daemonMutex; // guards the daemon; before m_mutex
-    ChildProcess m_daemon;
+    ChildProcess m_daemon;    // started on m_thread, with which it would end
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
     std::mutex m_mutex;                // guards what follows
     std::set<std::string> m_announced; // modems that the daemon in its present run has been told of
+    LoopThread m_thread{"modem-world"};
 };
 
 } // namespace modem

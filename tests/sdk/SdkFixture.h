@@ -100,6 +100,8 @@ struct Abilities {
     /// returned, so that its failure is the response.
     bool failsInTheCall = true;
     bool sendsEmptySms = true;
+    /// Otherwise the characters of UCS2, without those that take two code units.
+    bool knowsAllOfUnicode = true;
 };
 Abilities abilities();
 

@@ -95,17 +95,17 @@ void ModemWatch::connected(GDBusConnection *bus)
     }
     m_bus = shareObject(bus);
     m_signals.on(bus, "closed", [this] { busClosed(); });
-    const AsyncDone done = [this](GObject *, GAsyncResult *result) {
-        ErrorSlot error;
-        const GObjectPtr<MMManager> manager(mm_manager_new_finish(result, error.slot()));
-        if (manager)
-            madeManager(manager.get());
-        else if (!g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
-            setState(ServiceState::NoBus);
-    };
+    // Made by a call that waits, since GLib would make it on a thread of its own and tell of the
+    // objects in the main context of that thread, which is the program's and perhaps of no loop.
     // Whether a service of the system runs is not for this library to decide.
-    mm_manager_new(bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START, m_cancellable->get(),
-                   runAsyncDone, asyncDone(done));
+    ErrorSlot error;
+    const GObjectPtr<MMManager> manager(
+        mm_manager_new_sync(bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START,
+                            m_cancellable->get(), error.slot()));
+    if (manager)
+        madeManager(manager.get());
+    else if (!g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
+        setState(ServiceState::NoBus);
 }
 
 /// GLib keeps the objects; start() may try again.
