@@ -169,10 +169,6 @@ bool ModemWorld::startDaemon()
 bool ModemWorld::launchDaemon()
 {
     const std::lock_guard<std::mutex> daemonLock(m_daemonMutex);
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_announced.clear();
-    }
     const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG shows the AT commands
     if (!m_daemon.start({"ModemManager", "--test-enable", "--test-no-udev",
                          "--test-no-suspend-resume", "--test-no-qrtr", "--no-auto-scan",
@@ -255,29 +251,29 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
     return std::string();
 }
 
-/// The daemon makes a new object of a device that it knows once it is no longer inhibited.
-void ModemWorld::announce(const std::string &id)
+/// Tells the daemon of the device anew. Its earlier object goes, as that of a device which is
+/// pulled out, and a port that nobody listens on makes no new one. Inhibiting the device would have
+/// the daemon disable it first.
+void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_announced.insert(id).second) {
-        inhibit(id, false);
-        return;
-    }
-    const char *const ports[] = {modem(id).port().c_str(), nullptr};
+    const char *const ports[] = {port.c_str(), nullptr};
     send(m_connection, {Service, Root, "org.freedesktop.ModemManager1.Test", "SetProfile"},
          g_variant_new("(ss^as)", id.c_str(), "generic", ports));
 }
 
-/// To the daemon a socket that hangs up is no device that goes away; an inhibited device is one.
-void ModemWorld::inhibit(const std::string &id, bool inhibited)
+void ModemWorld::announce(const std::string &id)
 {
-    send(m_connection, {Service, Root, Service, "InhibitDevice"},
-         g_variant_new("(sb)", deviceOf(id).c_str(), inhibited));
+    setProfile(id, modem(id).port());
+}
+
+void ModemWorld::withdraw(const std::string &id)
+{
+    setProfile(id, modem(id).port() + ".gone");
 }
 
 void ModemWorld::unplug(const std::string &id)
 {
-    inhibit(id, true);
+    withdraw(id);
     waitUntil([&] { return stateOf(id).object.empty(); });
     modem(id).unplug();
 }
@@ -300,9 +296,9 @@ void ModemWorld::plugChanged(const std::string &id, PlugChange change)
         launchDaemon();
         return;
     }
-    if (change != PlugChange::Back)
-        inhibit(id, true);
-    if (change == PlugChange::Back || change == PlugChange::Changed)
+    if (change == PlugChange::Gone)
+        withdraw(id);
+    else
         announce(id);
 }
 

@@ -6,7 +6,6 @@
 #include <map>
 #include <memory>
 #include <mutex>
-#include <set>
 #include <string>
 
 #include "BusConnection.h"
@@ -92,7 +91,8 @@ public:
 private:
     bool launchDaemon();
     void announce(const std::string &id);
-    void inhibit(const std::string &id, bool inhibited);
+    void withdraw(const std::string &id);
+    void setProfile(const std::string &id, const std::string &port);
     void plugChanged(const std::string &id, PlugChange change);
     VariantPtr managedObjects();
     std::string daemonOwner();
@@ -102,11 +102,9 @@ private:
     PrivateBus m_bus;
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
-    std::mutex m_daemonMutex; // guards the daemon; before m_mutex
+    std::mutex m_daemonMutex; // guards the daemon
     ChildProcess m_daemon;    // started on m_thread, with which it would end
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
-    std::mutex m_mutex;                // guards what follows
-    std::set<std::string> m_announced; // modems that the daemon in its present run has been told of
     LoopThread m_thread{"modem-world"};
 };
 
