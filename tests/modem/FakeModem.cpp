@@ -80,12 +80,12 @@ void FakeModem::onPlugChange(std::function<void(PlugChange)> handler)
 
 void FakeModem::plugChanged(PlugChange change)
 {
-    if (change == PlugChange::Gone || change == PlugChange::Reset)
-        m_core->unplug();
-    if (change == PlugChange::Back)
-        m_core->plugIn();
     if (m_plugHandler)
         m_plugHandler(change);
+    else if (change == PlugChange::Gone || change == PlugChange::Reset)
+        m_core->unplug();
+    else if (change == PlugChange::Back)
+        m_core->plugIn();
 }
 
 /* ---- misbehaviour ------------------------------------------------------------------------ */

@@ -58,8 +58,8 @@ public:
     void unplug();
     /// False while the scenario's device is away.
     bool isPresent() const;
-    /// Called on the modem's thread when the scenario does something to the hardware. The modem has
-    /// hung up, or listens again, by then.
+    /// Called on the modem's thread when the scenario does something to the hardware. With a
+    /// handler it is the handler's owner who then calls unplug() and plugIn().
     void onPlugChange(std::function<void(PlugChange)> handler);
 
     // ---- misbehaviour

@@ -36,7 +36,8 @@ std::string joined(const std::vector<std::string> &parts)
 
 const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
 {
-    static const std::map<std::string, Handler> table = {
+    // Never destroyed: a modem that is itself static still answers while the program ends.
+    static const auto *const table = new std::map<std::string, Handler>{
         {"", &ModemCore::accept},
         {"Z", &ModemCore::accept},
         {"E0", &ModemCore::accept},
@@ -78,7 +79,7 @@ const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
         {"+CMGR", &ModemCore::readSms},
         {"+CMGD", &ModemCore::readSms},
     };
-    return table;
+    return *table;
 }
 
 /* ---- the modem --------------------------------------------------------------------------- */

@@ -285,21 +285,27 @@ void ModemWorld::plugIn(const std::string &id)
 }
 
 /// On the world's thread. What a reset is to a modem that stays plugged in, a daemon that starts
-/// anew is to its clients.
+/// anew is to its clients. The port goes last, or the daemon could still report that as an error.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))
-        return; // another has taken its place
-    if (change == PlugChange::Reset)
-        return killDaemon();
-    if (change == PlugChange::Back && !isDaemonRunning()) {
-        launchDaemon();
+        return; // another is about to take its place
+    switch (change) {
+    case PlugChange::Gone:
+        return unplug(id);
+    case PlugChange::Reset:
+        killDaemon();
+        return modem(id).unplug();
+    case PlugChange::Back:
+        modem(id).plugIn();
+        if (isDaemonRunning())
+            announce(id);
+        else
+            launchDaemon();
         return;
+    case PlugChange::Changed:
+        return announce(id);
     }
-    if (change == PlugChange::Gone)
-        withdraw(id);
-    else
-        announce(id);
 }
 
 /* ---- what the daemon says ---------------------------------------------------------------- */
