@@ -285,14 +285,15 @@ void ModemWorld::plugIn(const std::string &id)
 }
 
 /// On the world's thread. What a reset is to a modem that stays plugged in, a daemon that starts
-/// anew is to its clients. The port goes last, or the daemon could still report that as an error.
+/// anew is to its clients. The port goes first, or the daemon would disable the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))
         return; // another is about to take its place
     switch (change) {
     case PlugChange::Gone:
-        return unplug(id);
+        modem(id).unplug();
+        return withdraw(id);
     case PlugChange::Reset:
         killDaemon();
         return modem(id).unplug();

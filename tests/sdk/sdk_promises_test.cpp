@@ -87,6 +87,16 @@ bool deviceHasCaughtUp()
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
+/// The responses that are not the end of a request with the device. A device behind a daemon may
+/// learn of the request's failure before it learns that it is gone.
+std::vector<Response> responsesBesidesTheLoss()
+{
+    std::vector<Response> all = received().responses.all();
+    if (!abilities().failsInTheCall && !all.empty() && all[0].type > 0 && all[0].text.empty())
+        all.erase(all.begin());
+    return all;
+}
+
 /// A new network, which knows nothing of what was, and no responses so far.
 void startAfresh()
 {
@@ -678,7 +688,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
-    QCOMPARE(received().responses.all().size(), std::size_t(1));
+    QCOMPARE(responsesBesidesTheLoss().size(), std::size_t(1));
 }
 
 void SdkPromises::lostDeviceEndsTheSession()
@@ -829,8 +839,8 @@ void SdkPromises::textOfTheNetworksOwnArrivesAfterALoss()
                         "[Push news]\nAfter=30\nReply=news\n"),
              std::string());
     QCOMPARE(request(u"*140#"), 0L);
-    QVERIFY(received().responses.waitFor(1));
-    QCOMPARE(shown(received().responses.all()[0].text), shown(u"news"));
+    QVERIFY(waitUntil([] { return !responsesBesidesTheLoss().empty(); }));
+    QCOMPARE(shown(responsesBesidesTheLoss()[0].text), shown(u"news"));
 }
 
 void SdkPromises::userDataDirectoryExistsAndEndsInSlash()

@@ -90,6 +90,7 @@ void UssdChannel::start(const Request &request)
     m_replyText.reset();
     m_wasActive = false;
     m_askedByNetwork = false;
+    m_questionCame = false;
     const bool isAnswer = request.kind == RequestKind::Answer;
     const auto finishCall =
         isAnswer ? mm_modem_3gpp_ussd_respond_finish : mm_modem_3gpp_ussd_initiate_finish;
@@ -208,8 +209,10 @@ void UssdChannel::propertiesChanged(GVariant *changed)
         if (!text.empty())
             m_listener.networkSaid(UssdReply{UssdFinal, text});
     }
-    if (names(changed, "NetworkRequest"))
+    if (names(changed, "NetworkRequest")) {
         m_askedByNetwork = false; // another question
+        m_questionCame = true;
+    }
     if (m_ussd && (names(changed, "State") || names(changed, "NetworkRequest")))
         stateBecame(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
 }
@@ -238,11 +241,18 @@ void UssdChannel::finish(const UssdReply &reply)
 {
     const Request request = *std::exchange(m_inCall, std::nullopt);
     m_replyText.reset();
-    m_askedByNetwork = reply.type == UssdWaitsForAnswer;
+    // A question of the network's own right behind the reply: it is what waits for an answer, and
+    // the state in between, idle, has never been seen.
+    const bool isQuestionsState = m_questionCame && reply.type == UssdWaitsForAnswer;
+    m_askedByNetwork = reply.type == UssdWaitsForAnswer && !isQuestionsState;
     UssdReply told = reply;
+    if (isQuestionsState)
+        told.type = UssdFinal;
     if (told.text.empty() && told.type == UssdFinal)
         told.type = UssdEndedByNetwork; // a reply without a text is none
     m_listener.replied(request.token, told);
+    if (isQuestionsState)
+        networkAsks();
     step();
 }
 

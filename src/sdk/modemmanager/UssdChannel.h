@@ -82,6 +82,7 @@ private:
     bool m_cancelWanted = false;
     bool m_cancelling = false;
     bool m_askedByNetwork = false; // the open session's question has been told
+    bool m_questionCame = false;   // NetworkRequest has changed since the call began
     unsigned m_call = 0;           // the newest call; what older ones return does not count
 };
 
