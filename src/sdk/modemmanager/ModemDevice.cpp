@@ -64,6 +64,7 @@ void ModemDevice::refresh()
     m_ussd->setInterface(mm_object_peek_modem_3gpp_ussd(m_object.get()));
     m_sms->setInterface(mm_object_peek_modem_messaging(m_object.get()));
     modemChanged();
+    m_ussd->catchUp(); // when it is known that the modem can take the answer
 }
 
 void ModemDevice::modemChanged()
