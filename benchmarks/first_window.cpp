@@ -1,17 +1,16 @@
 /*
  * Loaded in front of a program (LD_PRELOAD): ends it when its first window has been painted, and
  * says when that was and what memory it took, as one line on the descriptor $FIRST_WINDOW_FD names:
- * nanoseconds of the monotonic clock, then kB of the greatest resident set and of the proportional
- * set size.
+ * nanoseconds of the monotonic clock, then kB of the greatest resident set.
  */
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QApplication>
 #include <QEvent>
-#include <QFile>
 #include <QWidget>
 
 namespace
@@ -24,17 +23,12 @@ long long nanosecondsNow()
     return now.tv_sec * 1000000000LL + now.tv_nsec;
 }
 
-/// The number behind "name:" in one of the process's own status files, in kB; 0 without it.
-long kilobytes(const char *path, const QByteArray &name)
+/// The greatest resident set so far.
+long peakKilobytes()
 {
-    QFile file(QString::fromLatin1(path));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : file.readAll().split('\n')) {
-        if (line.startsWith(name + ':'))
-            return line.mid(name.size() + 1).simplified().split(' ').first().toLong();
-    }
-    return 0;
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
 }
 
 class FirstWindow : public QObject
@@ -55,9 +49,7 @@ public slots:
     void report()
     {
         const long long now = nanosecondsNow();
-        dprintf(atoi(getenv("FIRST_WINDOW_FD")), "%lld %ld %ld\n", now,
-                kilobytes("/proc/self/status", "VmHWM"),
-                kilobytes("/proc/self/smaps_rollup", "Pss"));
+        dprintf(atoi(getenv("FIRST_WINDOW_FD")), "%lld %ld\n", now, peakKilobytes());
         _exit(0);
     }
 
