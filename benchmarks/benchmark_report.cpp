@@ -92,7 +92,8 @@ void printTable(const QList<Row> &rows)
     }
 }
 
-// ---- the chart: a bar for each ratio on a logarithmic scale, with its spread and its limit ------
+// ---- the chart: a bar for each ratio, with its spread and its limit
+// ------------------------------
 
 const int kNameWidth = 600; // pixels, like all below
 const int kBarsWidth = 460;
@@ -100,19 +101,18 @@ const int kValueWidth = 170;
 const int kRowHeight = 34;
 const int kHead = 60;
 const int kFoot = 24;
-const double kSmallestRatio = 0.0001, kLargestRatio = 10;
+const int kLargestRatio = 4; // the scale ends there, and what is longer too
 
 int place(double ratio)
 {
-    const double whole = std::log10(kLargestRatio / kSmallestRatio);
-    const double part = std::log10(qBound(kSmallestRatio, ratio, kLargestRatio) / kSmallestRatio);
-    return kNameWidth + static_cast<int>(kBarsWidth * part / whole);
+    return kNameWidth +
+           static_cast<int>(kBarsWidth * qMin<double>(ratio, kLargestRatio) / kLargestRatio);
 }
 
 void paintScale(QPainter &painter, int bottom)
 {
-    for (double ratio = kSmallestRatio; ratio <= kLargestRatio * 1.01; ratio *= 10) {
-        painter.setPen(std::abs(ratio - 1) < 0.01 ? Qt::black : QColor(200, 200, 200));
+    for (int ratio = 0; ratio <= kLargestRatio; ++ratio) {
+        painter.setPen(ratio == 1 ? Qt::black : QColor(200, 200, 200));
         painter.drawLine(place(ratio), kHead - 8, place(ratio), bottom);
         painter.setPen(Qt::black);
         painter.drawText(QRect(place(ratio) - 40, kHead - 28, 80, 18), Qt::AlignCenter,
@@ -156,8 +156,8 @@ void paintChart(QPainter &painter, const QList<Row> &rows, const QSize &size)
 {
     painter.setFont(QFont(QLatin1String("DejaVu Sans"), 8));
     painter.drawText(QRect(8, 6, size.width() - 16, 20), Qt::AlignVCenter,
-                     QLatin1String("Cost beside its baseline (ratio, logarithmic): bar = median, "
-                                   "line = smallest to largest, red = what is to be reached"));
+                     QLatin1String("Cost as a multiple of its baseline: bar = median, line = "
+                                   "smallest to largest, red = what is to be reached"));
     paintScale(painter, size.height() - kFoot);
     for (int i = 0; i < rows.count(); ++i)
         paintRow(painter, rows.at(i), kHead + i * kRowHeight);
