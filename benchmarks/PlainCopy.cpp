@@ -1,5 +1,6 @@
 #include "PlainCopy.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
 #include <QGridLayout>
@@ -34,6 +35,7 @@ QComboBox *copyOf(const QComboBox &original, QWidget *parent)
     for (int i = 0; i < original.count(); ++i)
         combo->addItem(original.itemText(i));
     combo->setEditable(original.isEditable());
+    combo->view()->setTextElideMode(original.view()->textElideMode());
     return combo;
 }
 

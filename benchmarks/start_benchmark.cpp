@@ -2,6 +2,7 @@
  * Whole processes: from the start of a program until its first window is painted, and the memory it
  * has taken by then. Both programs are watched by the same library (first_window.cpp).
  */
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -51,9 +52,10 @@ std::string readAll(int descriptor)
 /// This process's environment with the watching library in front.
 std::vector<std::string> watchedEnvironment(int descriptor)
 {
-    std::vector<std::string> result;
-    for (char **entry = environ; *entry; ++entry)
-        result.push_back(*entry);
+    char **end = environ;
+    while (*end)
+        ++end;
+    std::vector<std::string> result(environ, end);
     result.push_back("LD_PRELOAD=" USSD_FIRST_WINDOW);
     result.push_back("FIRST_WINDOW_FD=" + std::to_string(descriptor));
     return result;
@@ -93,9 +95,9 @@ Start start(const char *program)
 
 std::vector<double> figures(const std::vector<Start> &starts, double Start::*figure)
 {
-    std::vector<double> result;
-    for (const Start &one : starts)
-        result.push_back(one.*figure);
+    std::vector<double> result(starts.size());
+    std::transform(starts.begin(), starts.end(), result.begin(),
+                   [figure](const Start &one) { return one.*figure; });
     return result;
 }
 

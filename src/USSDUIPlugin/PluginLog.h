@@ -59,16 +59,12 @@ private:
 } // namespace PluginLog
 
 #ifndef USSD_NO_LOG_LINES
-#define USSD_IF_LOGGING(statement) statement
+#define USSD_IF_LOGGING(call) (call)
 #define USSD_LOG_SCOPE() PluginLog::Scope logScope(kLogSource, __func__)
 #define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
 #else
-#define USSD_IF_LOGGING(statement)                                                                 \
-    do {                                                                                           \
-        if (false)                                                                                 \
-            statement;                                                                             \
-    } while (false)
+#define USSD_IF_LOGGING(call) (false ? (call) : static_cast<void>(0))
 #define USSD_LOG_SCOPE() static_cast<void>(kLogSource)
 #define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
