@@ -65,6 +65,7 @@ void spawn(const char *program, int descriptor, pid_t &child)
 {
     std::vector<std::string> entries = watchedEnvironment(descriptor);
     std::vector<char *> environment;
+    environment.reserve(entries.size() + 1);
     for (std::string &entry : entries)
         environment.push_back(&entry[0]);
     environment.push_back(nullptr);
