@@ -15,7 +15,6 @@ namespace
 const std::chrono::milliseconds ExitLimit(1000);
 
 /// The number of USSD events; their kind is the record's type.
-const int UssdEvent = 0;
 
 /// Of a service with a single listener.
 const std::uintptr_t OnlyKey = 1;

@@ -14,7 +14,7 @@ namespace tksv
 {
 
 /// The command in UTF-8; nothing when the record is null, its length is 0, odd or too large, or its
-/// text is not well formed.
+/// text is not well formed or holds a zero unit.
 std::optional<std::string> decodeRequest(const TKSV_USSDRequest *request);
 
 /// A TKSV_USSDResponse.

@@ -8,7 +8,7 @@
 namespace tksv
 {
 
-/// Nothing when the text is not well formed (a lone surrogate).
+/// Nothing when the text is not well formed (a lone surrogate) or holds a zero unit.
 std::optional<std::string> toUtf8(const std::u16string &text);
 /// Nothing when the text is not well formed.
 std::optional<std::u16string> toUtf16(const std::string &text);
