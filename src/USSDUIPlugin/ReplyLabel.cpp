@@ -12,6 +12,9 @@ namespace
 const ushort kEmbed = 0x202A;
 const ushort kPop = 0x202C;
 
+/// More than a label has room for; what is behind them would be measured each time it is painted.
+const int kMostLetters = 2000;
+
 QTextOption textOption(const QLabel &label, bool rightToLeft)
 {
     QTextOption option(QStyle::visualAlignment(label.layoutDirection(), label.alignment()) |
@@ -68,7 +71,7 @@ void ReplyLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     drawFrame(&painter);
     painter.setPen(palette().color(foregroundRole()));
-    QString shown = withCodesMarked(text());
+    QString shown = withCodesMarked(text().left(kMostLetters));
     shown.replace(QLatin1Char('\n'), QChar::LineSeparator);
     QTextLayout layout(shown, font(), this);
     layout.setTextOption(textOption(*this, text().isRightToLeft()));

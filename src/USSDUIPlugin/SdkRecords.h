@@ -20,6 +20,9 @@ int commandBytes(const QString &command);
 /// Fills the whole record. False, with the record all zero, when the command is too long.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
+/// A text ends there at the latest, in UTF-16 units: its closing zero may have been forgotten.
+const int kMostUnits = 1024 * 1024;
+
 /// Text up to the closing zero unit; empty for null.
 QString textFromUnits(const unsigned short *units);
 

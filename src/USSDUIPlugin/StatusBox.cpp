@@ -8,6 +8,8 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include "HeavyText.h"
+#include "PieceFeeder.h"
 #include "PluginText.h"
 #include "ReplyLabel.h"
 
@@ -45,7 +47,8 @@ QString withoutDirectionMarks(QString text)
 
 } // namespace
 
-StatusBox::StatusBox(QWidget *parent) : QTextEdit(parent), m_lines(1)
+StatusBox::StatusBox(QWidget *parent)
+    : QTextEdit(parent), m_feeder(new PieceFeeder(this)), m_lines(1)
 {
     setReadOnly(true);
     setUndoRedoEnabled(false);
@@ -65,13 +68,28 @@ void StatusBox::setLines(int lines)
 void StatusBox::showText(const QString &text)
 {
     m_ownKey = ownKeyOf(text);
-    setPlainText(holdsRightToLeftLetter(text) ? ReplyLabel::withCodesMarked(text) : text);
+    setReply(holdsRightToLeftLetter(text) ? ReplyLabel::withCodesMarked(text) : text);
+}
+
+/// One that takes long to lay out comes in pieces, each a paragraph; no network can send such a
+/// text.
+void StatusBox::setReply(const QString &text)
+{
+    m_feeder->drop();
+    if (!HeavyText::isHeavy(text)) {
+        setPlainText(text);
+        return;
+    }
+    const QStringList pieces = HeavyText::pieces(text);
+    setPlainText(pieces.first());
+    for (int i = 1; i < pieces.count(); ++i)
+        m_feeder->add(pieces.at(i), QTextBlockFormat(), QTextCharFormat());
 }
 
 void StatusBox::retranslate()
 {
     if (!m_ownKey.isEmpty())
-        setPlainText(pluginText(m_ownKey));
+        setReply(pluginText(m_ownKey));
 }
 
 QSize StatusBox::sizeHint() const

@@ -3,6 +3,8 @@
 
 #include <QTextEdit>
 
+class PieceFeeder;
+
 /**
  * Shows the network's reply as plain text, whatever it holds, in a fixed number of lines: a longer
  * one scrolls. The plug-in's own texts follow the language; a code such as *111# reads from left to
@@ -28,9 +30,11 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void setReply(const QString &text);
     void fixHeight();
     int heightOfLines() const;
 
+    PieceFeeder *m_feeder; // a child
     int m_lines;
     QString m_ownKey; // of the text that is shown; empty for a reply
 };

@@ -1,6 +1,8 @@
 #include "Transcript.h"
 
+#include "HeavyText.h"
 #include "PluginConfig.h"
+#include "QtCompat.h"
 
 namespace
 {
@@ -46,13 +48,8 @@ bool mayReachOn(const QString &caption, const QString &text)
     return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();
 }
 
-} // namespace
-
-namespace Transcript
-{
-
-Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
-            const QString &text)
+QString paragraph(Transcript::Direction direction, const Char &look, bool rightToLeft,
+                  const QString &content)
 {
     const QString lineBreak = QLatin1String("<br>");
     QString markup = QLatin1String(
@@ -62,12 +59,34 @@ Entry entry(Direction direction, const Char &look, bool rightToLeft, const QStri
     markup += hexByte(look.red) + hexByte(look.green) + hexByte(look.blue);
     markup += QLatin1String(";\" style=\"font-size : ");
     markup += QString::number(look.yHeight / kUnitsInAPoint);
-    markup += QLatin1String("pt;\">") + caption + text;
-    if (direction == Received)
+    markup += QLatin1String("pt;\">") + content;
+    if (direction == Transcript::Received)
         markup += lineBreak;
     markup += QLatin1String("</span></p>");
-    markup.replace(QLatin1Char('\n'), lineBreak);
-    Entry result = {markup, isPlain(caption + text), mayReachOn(caption, text)};
+    return markup.replace(QLatin1Char('\n'), lineBreak);
+}
+
+} // namespace
+
+namespace Transcript
+{
+
+Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
+            const QString &text)
+{
+    Entry result;
+    result.markup = paragraph(direction, look, rightToLeft, caption + text);
+    result.isPlain = isPlain(caption + text);
+    result.mayReachOn = mayReachOn(caption, text);
+    result.isHeavy = HeavyText::isHeavy(text);
+    result.cost = markupCost(text);
+    result.letters = result.markup;
+    result.lettersMayReachOn = mayReachOn(caption, QString());
+    result.words = caption + text;
+    result.sample = paragraph(direction, look, rightToLeft, QLatin1String("-"));
+    if (result.cost.tags > 0)
+        result.letters =
+            paragraph(direction, look, rightToLeft, caption + QtCompat::escapeHtml(text));
     return result;
 }
 

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "MarkupCost.h"
+
 struct Char;
 
 /* The general dialog's transcript as markup: plain functions on plain values. */
@@ -17,6 +19,16 @@ struct Entry {
     QString markup;
     bool isPlain;    // caption and text are read as letters only
     bool mayReachOn; // what is in it may change how entries behind it look
+    bool isHeavy;    // takes long to lay out, even as letters
+    MarkupCost cost; // of the text
+
+    // The same with the text as letters, for when its markup costs too much.
+    QString letters;
+    bool lettersMayReachOn;
+
+    // What there is to show piece by piece.
+    QString words;  // caption and text, a line feed being the end of a line
+    QString sample; // markup of a short entry that looks the same
 };
 
 /// `text` goes in as it is: what it holds of markup counts as markup.

@@ -4,6 +4,10 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
+
+#include "HeavyText.h"
+#include "PieceFeeder.h"
 
 namespace
 {
@@ -28,6 +32,17 @@ void insertAtEnd(QTextDocument &document, const QString &markup)
     cursor.endEditBlock();
 }
 
+/// For a document that is not set as a whole any more.
+void insertWithMarkup(QTextDocument &document, const QString &markup)
+{
+    QTextDocument alone;
+    alone.setHtml(Transcript::document(markup));
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertBlock(alone.begin().blockFormat());
+    cursor.insertFragment(QTextDocumentFragment(&alone));
+}
+
 /// Never null, or Qt would go on to open a file of that name itself.
 QVariant nothingToLoad(int type)
 {
@@ -40,28 +55,67 @@ QVariant nothingToLoad(int type)
 
 } // namespace
 
-TranscriptView::TranscriptView(QWidget *parent) : QTextEdit(parent), m_isOpen(false)
+TranscriptView::TranscriptView(QWidget *parent)
+    : QTextEdit(parent), m_feeder(new PieceFeeder(this)), m_isOpen(false), m_isInPieces(false)
 {
     setUndoRedoEnabled(false); // every entry would be kept a second time
+    connect(m_feeder, SIGNAL(added()), this, SLOT(showEnd()));
 }
 
 void TranscriptView::appendEntry(const Transcript::Entry &entry)
 {
     const bool isFirst = m_entries.isEmpty();
-    m_entries += entry.markup;
-    if (isFirst || m_isOpen || !entry.isPlain)
+    const bool inPieces = entry.isHeavy || m_feeder->isBusy();
+    const bool asMarkup = entry.cost.isBearable(m_cost) && (!inPieces || entry.cost.tags == 0);
+    const QString &markup = asMarkup ? entry.markup : entry.letters;
+    m_entries += markup;
+    if (inPieces)
+        insertPieces(entry);
+    else
+        showEntry(entry, markup, isFirst);
+    if (asMarkup)
+        m_cost.add(entry.cost);
+    m_isOpen = m_isOpen || (asMarkup ? entry.mayReachOn : entry.lettersMayReachOn);
+    showEnd();
+}
+
+void TranscriptView::showEntry(const Transcript::Entry &entry, const QString &markup, bool isFirst)
+{
+    if (m_isInPieces)
+        insertWithMarkup(*document(), markup);
+    else if (isFirst || m_isOpen || !entry.isPlain)
         setHtml(Transcript::document(m_entries));
     else
-        insertAtEnd(*document(), entry.markup);
-    m_isOpen = m_isOpen || entry.mayReachOn;
+        insertAtEnd(*document(), markup);
+}
+
+/// From here on only the end of the document changes: to set the whole again would lay out at once
+/// what has just been spared that.
+void TranscriptView::insertPieces(const Transcript::Entry &entry)
+{
+    m_isInPieces = true;
+    QTextDocument sample;
+    sample.setHtml(Transcript::document(entry.sample));
+    const QTextBlock block = sample.begin();
+    const QTextCharFormat letters = block.begin().fragment().charFormat();
+    const QStringList pieces = HeavyText::pieces(entry.words);
+    for (int i = 0; i < pieces.count(); ++i)
+        m_feeder->add(pieces.at(i), block.blockFormat(), letters);
+}
+
+void TranscriptView::showEnd()
+{
     moveCursor(QTextCursor::End);
 }
 
 void TranscriptView::clearEntries()
 {
+    m_feeder->drop();
     clear();
     m_entries.clear();
+    m_cost = MarkupCost();
     m_isOpen = false;
+    m_isInPieces = false;
 }
 
 QVariant TranscriptView::loadResource(int type, const QUrl &name)

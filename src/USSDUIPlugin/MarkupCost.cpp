@@ -1,0 +1,79 @@
+#include "MarkupCost.h"
+
+#include <QRegExp>
+#include <QStringList>
+
+namespace
+{
+
+const int kMaxTags = 60; // in one text; the longest reply of a network has 182 characters
+const int kMaxTables = 8;
+const int kMaxRules = 8;
+
+/// The name of the tag that the text behind a "<" begins with, in lower case.
+QString tagName(const QString &behind)
+{
+    const int begin = behind.indexOf(QRegExp(QLatin1String("[^\\s]")));
+    if (begin < 0)
+        return QString();
+    const int end = behind.indexOf(QRegExp(QLatin1String("[\\s>/=]")), begin);
+    return behind.mid(begin, end < 0 ? -1 : end - begin).toLower();
+}
+
+/// A name in quotes, or with an entity in it, may be any.
+bool isDisguised(const QString &name)
+{
+    return name.contains(QLatin1Char('&')) || name.contains(QLatin1Char('"')) ||
+           name.contains(QLatin1Char('\''));
+}
+
+/// Also where an attribute's name or number is written with entities.
+bool maySpanMany(const QString &behind)
+{
+    return behind.contains(QLatin1Char('&')) || behind.contains(QRegExp(QLatin1String("\\d{3}")));
+}
+
+void addTag(const QString &behind, MarkupCost &cost)
+{
+    const QString name = tagName(behind);
+    const bool disguised = isDisguised(name);
+    ++cost.tags;
+    if (disguised || name == QLatin1String("table"))
+        ++cost.tables;
+    if ((disguised || name == QLatin1String("td") || name == QLatin1String("th")) &&
+        maySpanMany(behind))
+        cost.wide = true;
+    if (disguised || name == QLatin1String("style"))
+        cost.rules += qMax(1, behind.count(QLatin1Char('{')) + behind.count(QLatin1Char(',')));
+}
+
+} // namespace
+
+bool MarkupCost::isBearable(const MarkupCost &before) const
+{
+    return tags <= kMaxTags && before.tables + tables <= kMaxTables &&
+           before.rules + rules <= kMaxRules && !wide;
+}
+
+void MarkupCost::add(const MarkupCost &other)
+{
+    tags += other.tags;
+    tables += other.tables;
+    rules += other.rules;
+    wide = wide || other.wide;
+}
+
+MarkupCost markupCost(const QString &text)
+{
+    MarkupCost cost;
+    if (!text.contains(QLatin1Char('<')))
+        return cost;
+    cost.tags = text.count(QLatin1Char('<'));
+    if (cost.tags > kMaxTags)
+        return cost; // too many, whatever they are
+    cost.tags = 0;
+    const QStringList parts = text.split(QLatin1Char('<'));
+    for (int i = 1; i < parts.count(); ++i)
+        addTag(parts.at(i), cost);
+    return cost;
+}
