@@ -104,6 +104,7 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
              const QString &reply)
 {
     std::vector<double> pauses;
+    pauses.reserve(kRuns);
     pause(reply); // fonts of other scripts are loaded once
     for (int run = 0; run < kRuns; ++run)
         pauses.push_back(pause(reply));

@@ -27,7 +27,10 @@ function(ussd_set_up target)
     if(USSD_WARNINGS_AS_ERRORS)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
-    target_link_options(${target} PRIVATE -Wl,--enable-new-dtags -Wl,--no-undefined)
+    target_link_options(${target} PRIVATE -Wl,--enable-new-dtags)
+    if(NOT USSD_BUILD_FUZZERS) # clang keeps the sanitizers in the program, for its libraries too
+        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
     if(USSD_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${USSD_SANITIZE} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)

@@ -6,7 +6,7 @@ namespace
 const int kNeverHeavy = 1000; // characters; a network sends at most 182
 const int kAlwaysHeavy = 10000;
 const int kMaxChanges = 500;
-const int kPiece = 990; // a little less than what is never heavy: a pair may be added
+const int kPiece = 990;   // a little less than what is never heavy: a pair may be added
 const int kLookBack = 50; // for a blank
 
 /// Places where the next character belongs to another script, or is a mark on the one before it.

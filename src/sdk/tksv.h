@@ -90,9 +90,10 @@ typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
  * response any more.
  *
  * Returns non-zero and sets `*status` when there is no usable device or the record is malformed
- * (length 0, odd or over 368, text that is no UTF-16 or holds a zero unit); `*status` is TKSV_STATUS_DEVICE_TIMEOUT
- * when the device did not answer in time. What was refused leaves everything as it was. A response
- * whose call-back has begun counts as given. `status` must not be null.
+ * (length 0, odd or over 368, text that is no UTF-16 or holds a zero unit); `*status` is
+ * TKSV_STATUS_DEVICE_TIMEOUT when the device did not answer in time. What was refused leaves
+ * everything as it was. A response whose call-back has begun counts as given. `status` must not be
+ * null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 

@@ -10,7 +10,7 @@ namespace modem
 /** A short message, or one part of a long one, as it went out (SMS-SUBMIT, 3GPP TS 23.040). */
 struct SubmittedSms {
     std::string number; // international ones begin with +
-    std::string text;   // UTF-8
+    std::string text;   // UTF-8; of a message of 8-bit data, its octets
     int reference = 0;  // the same in all parts of a message
     int parts = 1;
     int part = 1; // from 1

@@ -1,0 +1,29 @@
+# Fuzzers with coverage feedback (libFuzzer of clang; preset fuzz).
+#
+#   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
+#
+# NAME is a program for runs of any length, and a test of the same name that tries RUNS inputs with a
+# fixed seed. Seeds lie in corpus/NAME; what once was found stays there as a seed.
+
+set(USSD_FUZZ_SECONDS_FOR_ONE_INPUT 20)
+
+function(ussd_add_fuzzer name)
+    cmake_parse_arguments(arg "" "RUNS;MAX_LENGTH;DICTIONARY" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    ussd_set_up(${name})
+    set_target_properties(${name} PROPERTIES CXX_STANDARD 17 RUNTIME_OUTPUT_DIRECTORY
+                                                             ${PROJECT_BINARY_DIR}/tests/bin)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    set(options -max_len=${arg_MAX_LENGTH} -timeout=${USSD_FUZZ_SECONDS_FOR_ONE_INPUT})
+    if(arg_DICTIONARY)
+        list(APPEND options -dict=${CMAKE_CURRENT_SOURCE_DIR}/${arg_DICTIONARY})
+    endif()
+    ussd_add_to_labels(${name} fuzz)
+    ussd_add_script_test(${name} COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/fixed_runs.sh
+                         $<TARGET_FILE:${name}> ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}
+                         ${arg_RUNS} ${options} LABELS fuzz)
+    # What scripts/fuzz.sh needs to know of it.
+    file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/tests/fuzz/${name}.options
+         CONTENT "$<JOIN:${options},\n>\n")
+endfunction()

@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Runs the fuzzers for as long as one likes:
+#   scripts/fuzz.sh [SECONDS [FUZZER...]]
+# 600 s for each of them without arguments, one after another. What they learn is kept in
+# build/fuzz-corpus and used again next time; an input that fails is left in build/fuzz-findings,
+# and belongs into tests/fuzz/corpus once it is understood. Ends with 1 when there was one.
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/prepare.sh
+
+seconds=${1:-600}
+[ $# -eq 0 ] || shift
+install_missing_packages
+configure_and_build fuzz tests_fuzz
+
+fuzzers=("$@")
+if [ ${#fuzzers[@]} -eq 0 ]; then
+    for options in build/fuzz/tests/fuzz/*.options; do
+        fuzzers+=("$(basename "$options" .options)")
+    done
+fi
+
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+chmod 700 "$home"
+export HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+export TKSV_BACKEND=simulator # never the developer's own modem
+export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
+
+failed=0
+for fuzzer in "${fuzzers[@]}"; do
+    learnt=build/fuzz-corpus/$fuzzer
+    findings=build/fuzz-findings/$fuzzer
+    mkdir -p "$learnt" "$findings"
+    mapfile -t options < <(grep -v '^$' "build/fuzz/tests/fuzz/$fuzzer.options")
+    log=$findings/log
+    if "build/fuzz/tests/bin/$fuzzer" "${options[@]}" -rss_limit_mb=3000 -print_final_stats=1 \
+        -max_total_time="$seconds" -artifact_prefix="$findings/" "$learnt" \
+        "tests/fuzz/corpus/$fuzzer" >"$log" 2>&1; then
+        say "$fuzzer: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs, nothing found"
+    else
+        tail -40 "$log" >&2
+        say "$fuzzer: found something; the input lies in $findings"
+        failed=1
+    fi
+done
+exit "$failed"

@@ -1,0 +1,92 @@
+/*
+ * What a modem and its host say to each other: text encodings, command lines, messages in PDU mode.
+ */
+#include "FuzzSupport.h"
+
+#include <algorithm>
+#include <string>
+
+#include "AtCommand.h"
+#include "Charset.h"
+#include "SmsPdu.h"
+#include "Text.h"
+
+namespace
+{
+
+bool isText(const std::string &text)
+{
+    return text.empty() || tksv::toUtf16(text).has_value();
+}
+
+void checkHex(const std::string &raw)
+{
+    const modem::Bytes bytes(raw.begin(), raw.end());
+    const auto back = modem::fromHex(modem::toHex(bytes));
+    FUZZ_REQUIRE(back && *back == bytes);
+    const auto read = modem::fromHex(raw);
+    FUZZ_REQUIRE(!read || read->size() * 2 == raw.size());
+}
+
+/// Bytes of any kind give text; text goes through UCS2 unharmed.
+void checkCharsets(const std::string &raw)
+{
+    const modem::Bytes bytes(raw.begin(), raw.end());
+    const std::string text = modem::fromUcs2(bytes);
+    FUZZ_REQUIRE(isText(text));
+    const std::string coded = modem::encodeText(text, modem::Charset::Ucs2);
+    if (text.find('\0') == std::string::npos)
+        FUZZ_REQUIRE(modem::decodeText(coded, modem::Charset::Ucs2) == text);
+    for (const modem::Charset charset : {modem::Charset::Gsm, modem::Charset::Ira}) {
+        const std::string once = modem::encodeText(text, charset);
+        FUZZ_REQUIRE(modem::encodeText(text, charset) == once);
+    }
+    for (const modem::Charset charset :
+         {modem::Charset::Ucs2, modem::Charset::Gsm, modem::Charset::Ira})
+        FUZZ_REQUIRE(isText(modem::decodeText(modem::toHex(bytes), charset)) ||
+                     charset == modem::Charset::Ira);
+}
+
+void checkSeptets(const std::string &raw)
+{
+    const modem::Bytes packed(raw.begin(), raw.end());
+    const std::size_t skipped = packed.empty() ? 0 : packed[0] % 7;
+    const std::size_t count = (packed.size() * 8 - std::min(packed.size() * 8, skipped)) / 7;
+    const modem::Bytes septets = modem::unpackSeptets(packed, count, skipped);
+    FUZZ_REQUIRE(septets.size() == count);
+    for (const unsigned char septet : septets)
+        FUZZ_REQUIRE(septet < 128);
+    const std::string text = modem::fromSeptets(septets);
+    FUZZ_REQUIRE(isText(text));
+}
+
+void checkMessage(const std::string &raw)
+{
+    for (const std::string &pdu : {raw, modem::toHex(modem::Bytes(raw.begin(), raw.end()))}) {
+        const std::size_t smsc = raw.empty() ? 0 : static_cast<unsigned char>(raw[0]);
+        const std::size_t octets = pdu.size() / 2;
+        const auto message = modem::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
+        FUZZ_REQUIRE(!message || isText(message->number));
+        FUZZ_REQUIRE(!message || message->text.size() <= 2 * raw.size()); // euro signs at most
+    }
+}
+
+void checkLine(const std::string &line)
+{
+    const modem::AtCommand command = modem::parseAtCommand(line);
+    FUZZ_REQUIRE(command.value(command.values.size()).empty());
+    FUZZ_REQUIRE(command.name.size() <= line.size());
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const std::string raw(reinterpret_cast<const char *>(data), size);
+    checkHex(raw);
+    checkCharsets(raw);
+    checkSeptets(raw);
+    checkMessage(raw);
+    checkLine(raw);
+    return 0;
+}

@@ -1,0 +1,72 @@
+/*
+ * A user's profile file through the store: read, saved, read again.
+ */
+#include "FuzzSupport.h"
+
+#include <QDir>
+#include <QSet>
+
+#include "USSDEditCmd.h"
+
+namespace
+{
+
+QString userFolder()
+{
+    return FuzzSupport::folder() + QLatin1String("/user/");
+}
+
+QList<USSDProfile> profilesOf(USSDEditCmd &store)
+{
+    QList<USSDProfile> profiles;
+    store.GetProfileList(profiles);
+    return profiles;
+}
+
+/// The store as the files are now, saved as it was read.
+QList<USSDProfile> readAndSave()
+{
+    USSDEditCmd store;
+    FUZZ_REQUIRE(store.saveToXMLFile(false) == USSDEditCmd::SAVE_OK);
+    return profilesOf(store);
+}
+
+void checkProfiles(const QList<USSDProfile> &profiles, size_t bytes)
+{
+    FUZZ_REQUIRE(profiles.count() >= 1 && profiles.first().isSystem);
+    FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 7 + 1); // "<item/>"
+    QSet<QString> codes;
+    for (const USSDProfile &profile : profiles) {
+        FUZZ_REQUIRE(!codes.contains(profile.value)); // the first one wins
+        codes.insert(profile.value);
+    }
+}
+
+} // namespace
+
+int LLVMFuzzerInitialize(int *, char ***)
+{
+    FuzzSupport::dropMessages();
+    FuzzSupport::needApplication();
+    const QString data = FuzzSupport::folder() + QLatin1String("/plugins/USSDUIPlugin");
+    QDir().mkpath(data);
+    QDir().mkpath(userFolder());
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", FuzzSupport::folder().toLocal8Bit());
+    qputenv("USSD_FUZZ_USER_FOLDER", userFolder().toLocal8Bit());
+    FuzzSupport::writeFile(data + QLatin1String("/ussdsysprofile.xml"),
+                           "<tksvdoc><item><name>Balance</name><value>*100#</value></item>"
+                           "</tksvdoc>");
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    FuzzSupport::writeFile(userFolder() + QLatin1String("ussdprofile.xml"), file);
+    checkProfiles(readAndSave(), size);
+    // Saving may take blanks off, and so make two codes one; what was saved once stays.
+    const QList<USSDProfile> saved = readAndSave();
+    checkProfiles(saved, size);
+    FUZZ_REQUIRE(readAndSave() == saved);
+    return 0;
+}

@@ -1,0 +1,128 @@
+/*
+ * The device SDK's records, both ways: each lies in memory of exactly its size, so that a unit read
+ * too much is seen.
+ */
+#include "FuzzSupport.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "Records.h"
+#include "SdkRecords.h"
+#include "Text.h"
+
+namespace
+{
+
+std::vector<unsigned short> terminated(const QString &text)
+{
+    std::vector<unsigned short> result(text.utf16(), text.utf16() + text.length());
+    result.push_back(0);
+    result.shrink_to_fit();
+    return result;
+}
+
+/// As far as the first zero unit.
+QString upToZero(const QString &text)
+{
+    const int zero = text.indexOf(QChar(0));
+    return zero < 0 ? text : text.left(zero);
+}
+
+void checkResponse(const QString &text, int type)
+{
+    const std::vector<unsigned short> units = terminated(text);
+    const size_t textAt = offsetof(TKSV_USSDResponse, text);
+    const size_t bytes = textAt + units.size() * sizeof(unsigned short);
+    const std::unique_ptr<unsigned char[]> record(new unsigned char[bytes]());
+    std::memcpy(record.get(), &type, sizeof type);
+    std::memcpy(record.get() + textAt, units.data(), bytes - textAt);
+    FUZZ_REQUIRE(SdkRecords::responseText(record.get()) == upToZero(text));
+    FUZZ_REQUIRE(SdkRecords::responseType(record.get()) == type);
+}
+
+void checkSmsResult(const QString &number, const QString &text, int result)
+{
+    const std::vector<unsigned short> numberUnits = terminated(number);
+    const std::vector<unsigned short> textUnits = terminated(text);
+    TKSV_SMSSendResult record = {};
+    record.result = result;
+    record.number = result % 3 ? numberUnits.data() : nullptr;
+    record.text = result % 5 ? textUnits.data() : nullptr;
+    const SdkRecords::SmsSendResult read = SdkRecords::smsSendResult(&record);
+    FUZZ_REQUIRE(read.sent == (result == 0) && read.result == result);
+    FUZZ_REQUIRE(read.number == (record.number ? upToZero(number) : QString()));
+    FUZZ_REQUIRE(read.text == (record.text ? upToZero(text) : QString()));
+}
+
+/// A command that fits comes out at the device as it went in, or is refused for not being UTF-16.
+void checkRequest(const QString &command)
+{
+    TKSV_USSDRequest request;
+    const bool fits = SdkRecords::encodeRequest(command, request);
+    FUZZ_REQUIRE(fits == (command.length() <= 91));
+    const auto decoded = tksv::decodeRequest(&request);
+    if (!fits || command.isEmpty()) {
+        FUZZ_REQUIRE(request.length == 0 && !decoded);
+        return;
+    }
+    const bool isText = tksv::toUtf8(command.toStdU16String()).has_value();
+    FUZZ_REQUIRE(!isText || !command.contains(QChar(0)));
+    FUZZ_REQUIRE(decoded.has_value() == isText);
+    FUZZ_REQUIRE(!isText || tksv::toUtf16(*decoded) == command.toStdU16String());
+}
+
+/// Whatever a client writes into the record.
+void checkRawRequest(const uint8_t *data, size_t size)
+{
+    TKSV_USSDRequest request = {};
+    std::memcpy(&request, data, std::min(size, sizeof request));
+    const auto decoded = tksv::decodeRequest(&request);
+    FUZZ_REQUIRE(!decoded || request.length <= sizeof request.text);
+    FUZZ_REQUIRE(!decoded || tksv::toUtf16(*decoded).has_value());
+}
+
+/// A reply on its way from a modem to the plug-in: bytes that are no UTF-8 become nothing.
+void checkReply(const std::string &bytes)
+{
+    tksv::UssdReply reply;
+    reply.text = bytes;
+    const std::shared_ptr<void> record = tksv::encodeResponse(reply);
+    const QString text = SdkRecords::responseText(record.get());
+    const auto units = tksv::toUtf16(bytes);
+    FUZZ_REQUIRE(text == upToZero(QString::fromStdU16String(units.value_or(u""))));
+}
+
+void checkCopiedText(const std::string &bytes, size_t size)
+{
+    std::vector<char> target(size + 1, 'x');
+    tksv::copyText(bytes, target.data(), size);
+    FUZZ_REQUIRE(target[size] == 'x');
+    if (size == 0)
+        return;
+    const std::string copied(target.data());
+    FUZZ_REQUIRE(copied.size() < size && tksv::startsWith(bytes, copied));
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    if (size < 4)
+        return 0;
+    int number = 0;
+    std::memcpy(&number, data, sizeof number);
+    const QString text = FuzzSupport::units(data + 4, size - 4);
+    const std::string bytes(reinterpret_cast<const char *>(data), size);
+    checkResponse(text, number);
+    checkSmsResult(text.left(size % 30), text, number % 4);
+    checkRequest(text);
+    checkRequest(text.left(91));
+    checkRawRequest(data, size);
+    checkReply(bytes);
+    checkCopiedText(bytes, size % 50);
+    return 0;
+}

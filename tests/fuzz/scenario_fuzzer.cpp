@@ -1,0 +1,65 @@
+/*
+ * A scenario file: a whole scenario or complaints about it, never both, never neither.
+ */
+#include "FuzzSupport.h"
+
+#include <algorithm>
+#include <string>
+
+#include "sim/ScenarioReader.h"
+
+namespace
+{
+
+void checkComplaints(const std::string &text, const tksv::ScenarioResult &result)
+{
+    const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
+    int before = 0;
+    for (const tksv::Complaint &complaint : result.complaints) {
+        FUZZ_REQUIRE(complaint.line >= before && complaint.line <= lines);
+        FUZZ_REQUIRE(complaint.file == "a.scenario" && !complaint.text.empty());
+        before = complaint.line;
+    }
+}
+
+/// Each rule is found by its own name, and its reply can be written out.
+void checkRule(const tksv::Scenario &scenario, const std::string &group, const tksv::Rule &rule)
+{
+    if (group.find(tksv::AnyDigits) == std::string::npos && group.find('/') == std::string::npos &&
+        group.compare(0, 5, "Push ") != 0)
+        FUZZ_REQUIRE(tksv::findCode(scenario, group).group == group);
+    FUZZ_REQUIRE(rule.delay.count() >= 0 && rule.fewestDigits <= rule.mostDigits);
+    const auto names = tksv::placeholderNames(rule.reply);
+    FUZZ_REQUIRE(names.has_value());
+    tksv::Placeholders values;
+    for (const std::string &name : *names)
+        values[name] = "7";
+    tksv::expand(rule.reply, values);
+    FUZZ_REQUIRE(rule.goTo.empty() || scenario.rules.count(rule.goTo) == 1);
+    tksv::isMenu(scenario, group);
+}
+
+void checkScenario(const tksv::Scenario &scenario)
+{
+    FUZZ_REQUIRE(scenario.signalPercent >= 0 && scenario.signalPercent <= 100);
+    FUZZ_REQUIRE(scenario.delay.count() >= 0);
+    for (const auto &entry : scenario.rules)
+        checkRule(scenario, entry.first, entry.second);
+    for (const tksv::Push &push : scenario.pushes)
+        FUZZ_REQUIRE(scenario.rules.count(push.group) == 1);
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const std::string text(reinterpret_cast<const char *>(data), size);
+    const tksv::ScenarioResult result = tksv::readScenario(text, "a.scenario");
+    FUZZ_REQUIRE(result.scenario.has_value() == result.complaints.empty());
+    checkComplaints(text, result);
+    if (result.scenario)
+        checkScenario(*result.scenario);
+    const tksv::ScenarioResult again = tksv::readScenario(text, "a.scenario");
+    FUZZ_REQUIRE(tksv::describe(again.complaints) == tksv::describe(result.complaints));
+    return 0;
+}

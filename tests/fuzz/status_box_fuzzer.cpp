@@ -1,0 +1,79 @@
+/*
+ * A reply in a status box is its letters, whatever it holds.
+ */
+#include "FuzzSupport.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include "ReplyLabel.h"
+#include "StatusBox.h"
+
+namespace
+{
+
+const QChar kEmbed(0x202A);
+const QChar kPop(0x202C);
+
+QString withoutMarks(QString text)
+{
+    return text.remove(kEmbed).remove(kPop);
+}
+
+/// Nothing but letters in paragraphs: no picture, link, table or frame.
+void checkDocument(const QTextDocument &document)
+{
+    FUZZ_REQUIRE(document.rootFrame()->childFrames().isEmpty());
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        FUZZ_REQUIRE(!block.textList());
+        for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            FUZZ_REQUIRE(!format.isImageFormat() && !format.isAnchor());
+        }
+    }
+}
+
+/// As a document holds them: its own marks for the end of a paragraph, and nothing for a return.
+QString asLines(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (int i = 0; i < text.length(); ++i) {
+        const ushort unit = text.at(i).unicode();
+        if (unit == 0x0D || unit == 0x2028 || unit == 0x2029 || unit == 0xFDD0 || unit == 0xFDD1)
+            text[i] = QLatin1Char('\n');
+        else if (unit == 0xA0)
+            text[i] = QLatin1Char(' ');
+    }
+    return text;
+}
+
+} // namespace
+
+int LLVMFuzzerInitialize(int *, char ***)
+{
+    FuzzSupport::dropMessages();
+    FuzzSupport::needApplication();
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const bool asUtf8 = size > 0 && data[0] % 4 != 0;
+    const QString text =
+        asUtf8 ? QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size))
+               : FuzzSupport::units(data, size);
+    FUZZ_REQUIRE(withoutMarks(ReplyLabel::withCodesMarked(text)) == withoutMarks(text));
+    StatusBox box;
+    box.resize(300, 60);
+    box.showText(text);
+    box.grab();
+    FUZZ_REQUIRE(withoutMarks(asLines(box.toPlainText())) == withoutMarks(asLines(text)));
+    checkDocument(*box.document());
+    ReplyLabel label(&box);
+    label.resize(300, 60);
+    label.setText(text);
+    FUZZ_REQUIRE(label.text() == text && label.textFormat() == Qt::PlainText);
+    label.grab();
+    return 0;
+}

@@ -1,0 +1,101 @@
+/*
+ * Entries of the transcript, in any number and order, with whatever the network sends in them.
+ */
+#include "FuzzSupport.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
+#include <QUrl>
+
+#include "PluginConfig.h"
+#include "TranscriptView.h"
+
+namespace
+{
+
+const int kMostTables = 8;
+const QChar kNextEntry(0x1E); // in an input
+
+/// Does what QTextEdit would do with files: nothing of that may be asked for.
+class WatchedView : public TranscriptView
+{
+public:
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        const QVariant resource = TranscriptView::loadResource(type, name);
+        FUZZ_REQUIRE(resource.isValid()); // otherwise Qt opens the file itself
+        return resource;
+    }
+};
+
+Char look()
+{
+    Char look;
+    look.yHeight = 200;
+    look.blue = 255;
+    return look;
+}
+
+int tablesIn(const QTextFrame *frame)
+{
+    int tables = qobject_cast<const QTextTable *>(frame) ? 1 : 0;
+    const QList<QTextFrame *> inside = frame->childFrames();
+    for (const QTextFrame *child : inside)
+        tables += tablesIn(child);
+    return tables;
+}
+
+/// What must not be laid out, whatever the text did to hide it.
+void checkCost(const QTextDocument &document)
+{
+    FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= kMostTables);
+}
+
+/// A second view that got the same entries shows the same.
+QString shownBy(const QStringList &texts, QString *markup)
+{
+    WatchedView view;
+    view.resize(300, 200);
+    for (int i = 0; i < texts.count(); ++i)
+        view.appendEntry(Transcript::entry(i % 2 ? Transcript::Received : Transcript::Sent, look(),
+                                           i % 3 == 2, QLatin1String("Received: "), texts.at(i)));
+    *markup = view.entries();
+    checkCost(*view.document());
+    view.grab();
+    const QString shown = view.toPlainText();
+    view.clearEntries();
+    FUZZ_REQUIRE(view.toPlainText().isEmpty() && view.entries().isEmpty());
+    return shown;
+}
+
+/// The document that setting the whole transcript gives, text for text.
+QString shownAtOnce(const QString &markup)
+{
+    WatchedView view;
+    view.setHtml(Transcript::document(markup));
+    return view.toPlainText();
+}
+
+} // namespace
+
+int LLVMFuzzerInitialize(int *, char ***)
+{
+    FuzzSupport::dropMessages();
+    FuzzSupport::needApplication();
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const bool asUtf8 = size > 0 && data[0] % 4 != 0;
+    const QString text =
+        asUtf8 ? QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size))
+               : FuzzSupport::units(data, size);
+    QString markup;
+    const QStringList texts = text.split(kNextEntry);
+    const QString shown = shownBy(texts, &markup);
+    FUZZ_REQUIRE(shown == shownAtOnce(markup));
+    return 0;
+}
