@@ -23,16 +23,26 @@ void SimTest::setUp()
 {
     QVERIFY(Languages::setCurrent(QLatin1String("en")));
     QVERIFY(Scenarios::use(QString()).isEmpty());
+    makeLibrary();
+}
+
+void SimTest::makeLibrary()
+{
     m_library.reset(new PrivateLibrary);
     QVERIFY(m_library->isValid());
 }
 
-void SimTest::tearDown()
+void SimTest::closeDashboard()
 {
     m_plugin.reset();
     m_window.reset();
     m_library.reset();
     HostState::setShuttingDown(false);
+}
+
+void SimTest::tearDown()
+{
+    closeDashboard();
     QVERIFY(Scenarios::use(QString()).isEmpty());
 }
 

@@ -18,6 +18,8 @@ protected:
     void setUp() override;
     void tearDown() override;
 
+    void makeLibrary();
+    void closeDashboard();
     /// Changes the plug-in's configuration; before openDashboard().
     bool configure(const char *anchor, const char *before, const char *after);
     void openDashboard();

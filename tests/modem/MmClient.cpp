@@ -53,6 +53,13 @@ UssdResult resultOf(char *reply, GError *error)
     return result;
 }
 
+std::string shownValue(GVariant *value)
+{
+    if (g_variant_is_of_type(value, G_VARIANT_TYPE_UINT32))
+        return std::to_string(g_variant_get_uint32(value));
+    return g_variant_get_string(value, nullptr);
+}
+
 } // namespace
 
 MmClient::MmClient(const std::string &busAddress) : m_connection(connectTo(busAddress))
@@ -114,6 +121,11 @@ bool MmClient::cancel()
     return mm_modem_3gpp_ussd_cancel_sync(ussd.get(), nullptr, nullptr);
 }
 
+bool MmClient::waitUntilIdle()
+{
+    return waitForProperty("State", std::to_string(MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE));
+}
+
 bool MmClient::waitForProperty(const char *name, const std::string &value)
 {
     const gint64 end = g_get_monotonic_time() + 10 * G_TIME_SPAN_SECOND;
@@ -121,13 +133,11 @@ bool MmClient::waitForProperty(const char *name, const std::string &value)
         const Reply reply =
             call(m_connection, {Service, m_path, "org.freedesktop.DBus.Properties", "Get"},
                  g_variant_new("(ss)", UssdInterface, name));
-        const char *now = "";
         const VariantPtr inner(
             reply.value ? g_variant_get_child_value(reply.value.get(), 0)
                         : g_variant_ref_sink(g_variant_new_variant(g_variant_new_string(""))));
         const VariantPtr text(g_variant_get_variant(inner.get()));
-        now = g_variant_get_string(text.get(), nullptr);
-        if (value == now)
+        if (value == shownValue(text.get()))
             return true;
     }
     return false;
@@ -147,6 +157,17 @@ std::string MmClient::sendSms(const std::string &number, const std::string &text
     if (sms)
         mm_sms_send_sync(sms.get(), nullptr, &error);
     return messageOf(error);
+}
+
+int MmClient::storedMessages()
+{
+    const auto messaging = own(mm_object_get_modem_messaging(m_object));
+    if (!messaging)
+        return -1;
+    GList *messages = mm_modem_messaging_list_sync(messaging.get(), nullptr, nullptr);
+    const int count = static_cast<int>(g_list_length(messages));
+    g_list_free_full(messages, g_object_unref);
+    return count;
 }
 
 MMSim *MmClient::readSim()

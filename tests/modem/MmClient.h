@@ -35,11 +35,14 @@ public:
     bool cancel();
     /// Whether a property of the USSD interface has that value within ten seconds.
     bool waitForProperty(const char *name, const std::string &value);
+    bool waitUntilIdle(); ///< of the USSD session
 
     /// Empty on success, else the error's message; likewise below.
     std::string sendSms(const std::string &number, const std::string &text);
     std::string sendPin(const std::string &pin);
     std::string sendPuk(const std::string &puk, const std::string &newPin);
+
+    int storedMessages(); ///< -1 without a messaging interface
 
     std::string operatorName();
     std::string operatorCode();

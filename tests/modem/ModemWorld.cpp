@@ -355,6 +355,14 @@ std::string ModemWorld::switchOn(const std::string &id)
     return reply.value ? object : std::string();
 }
 
+bool ModemWorld::switchOff(const std::string &id)
+{
+    const std::string object = stateOf(id).object;
+    const Reply reply = call(m_connection, {Service, object, ModemInterface, "Enable"},
+                             g_variant_new("(b)", FALSE));
+    return reply.value != nullptr;
+}
+
 std::string ModemWorld::enable(const std::string &id)
 {
     return switchOn(id).empty() ? std::string() : waitForState(id, StateRegistered);

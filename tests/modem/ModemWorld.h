@@ -83,6 +83,7 @@ public:
     std::string switchOn(const std::string &id);
     /// The same, and waits until it is registered.
     std::string enable(const std::string &id);
+    bool switchOff(const std::string &id);
     bool waitUntil(const std::function<bool()> &condition);
 
     /// The end of the daemon's log, for failed tests.

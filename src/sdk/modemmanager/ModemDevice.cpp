@@ -29,6 +29,13 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
+/// While a PIN is looked at, the lock is unknown.
+bool needsMoreThanPin(MMModemLock lock)
+{
+    return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&
+           lock != MM_MODEM_LOCK_UNKNOWN;
+}
+
 int signalOf(MMModem *modem)
 {
     gboolean isRecent = FALSE;
@@ -57,6 +64,7 @@ void ModemDevice::refresh()
     m_ussd->setInterface(mm_object_peek_modem_3gpp_ussd(m_object.get()));
     m_sms->setInterface(mm_object_peek_modem_messaging(m_object.get()));
     modemChanged();
+    m_ussd->catchUp(); // when it is known that the modem can take the answer
 }
 
 void ModemDevice::modemChanged()
@@ -96,6 +104,8 @@ void ModemDevice::fetchSim()
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
         m_listener.changed();
+        if (!m_waitingPin.empty())
+            sendPin(std::exchange(m_waitingPin, {}));
     };
     mm_modem_get_sim(m_modem.get(), nullptr, runAsyncDone,
                      asyncDone(ifAlive(weak_from_this(), done)));
@@ -104,8 +114,10 @@ void ModemDevice::fetchSim()
 void ModemDevice::sendPin(const std::string &pin)
 {
     m_problem = TKSV_PROBLEM_NONE;
-    if (!m_sim)
-        return problemIs(TKSV_PROBLEM_MODEM_FAILED);
+    if (!m_sim) {
+        m_waitingPin = pin;
+        return;
+    }
     const auto done = [this](GObject *sim, GAsyncResult *result) {
         ErrorSlot error;
         mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
@@ -172,7 +184,7 @@ TKSV_DeviceState ModemDevice::state() const
 TKSV_DeviceProblem ModemDevice::problem() const
 {
     const TKSV_DeviceState now = state();
-    if (isLocked() && mm_modem_get_unlock_required(m_modem.get()) != MM_MODEM_LOCK_SIM_PIN)
+    if (isLocked() && needsMoreThanPin(mm_modem_get_unlock_required(m_modem.get())))
         return TKSV_PROBLEM_PUK_NEEDED;
     if (m_modem && now != TKSV_DEVICE_SIM_MISSING &&
         mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_FAILED)

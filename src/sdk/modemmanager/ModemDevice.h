@@ -60,7 +60,8 @@ private:
     GObjectPtr<MMModem> m_modem;
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
-    std::string m_simPath; // of the SIM that was asked for
+    std::string m_simPath;    // of the SIM that was asked for
+    std::string m_waitingPin; // for the SIM's arrival; empty when none does
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableTried = false;

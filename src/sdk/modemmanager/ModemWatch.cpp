@@ -10,6 +10,9 @@ namespace tksv
 namespace
 {
 
+const int StartingTries = 50;
+const std::chrono::milliseconds StartingPause(100);
+
 /// ".../Modem/12" is newer than ".../Modem/3".
 long numberOf(MMObject *object)
 {
@@ -53,11 +56,12 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
+/// A daemon that does not answer shall not keep the program from its end.
 void ModemWatch::stop(const std::function<void()> &last)
 {
+    g_cancellable_cancel(m_cancellable.get());
     m_thread.stop([this, &last] {
         last();
-        m_cancellable.reset();
         m_signals.disconnectAll();
         m_manager.reset();
         if (m_bus) // the end of a session that was open still has to go out
@@ -69,10 +73,12 @@ void ModemWatch::stop(const std::function<void()> &last)
 /// A connection of its own: the shared one of g_bus_get() would end the program with the bus.
 void ModemWatch::connectToBus()
 {
-    if (m_bus || m_cancellable)
+    if (m_bus && !m_manager)
+        return makeManager(0);
+    if (m_bus || m_isConnecting)
         return;
+    m_isConnecting = true;
     const std::string address = systemBusAddress();
-    m_cancellable = std::make_unique<Cancellable>();
     const AsyncDone done = [this](GObject *, GAsyncResult *result) {
         ErrorSlot error;
         const GObjectPtr<GDBusConnection> bus(
@@ -83,29 +89,40 @@ void ModemWatch::connectToBus()
     const auto flags =
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                           G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
-    g_dbus_connection_new_for_address(address.c_str(), flags, nullptr, m_cancellable->get(),
+    g_dbus_connection_new_for_address(address.c_str(), flags, nullptr, m_cancellable.get(),
                                       runAsyncDone, asyncDone(done));
 }
 
 void ModemWatch::connected(GDBusConnection *bus)
 {
-    if (!bus) {
-        m_cancellable.reset(); // start() may try again
+    m_isConnecting = false;
+    if (!bus)
         return setState(ServiceState::NoBus);
-    }
     m_bus = shareObject(bus);
     m_signals.on(bus, "closed", [this] { busClosed(); });
-    // Made by a call that waits, since GLib would make it on a thread of its own and tell of the
-    // objects in the main context of that thread, which is the program's and perhaps of no loop.
-    // Whether a service of the system runs is not for this library to decide.
+    makeManager(StartingTries);
+}
+
+/// By a call that waits, since GLib would make it on a thread of its own and tell of the objects in
+/// the main context of that thread, which is the program's and perhaps of no loop. Whether a
+/// service of the system runs is not for this library to decide.
+void ModemWatch::makeManager(int tries)
+{
     ErrorSlot error;
     const GObjectPtr<MMManager> manager(
-        mm_manager_new_sync(bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START,
-                            m_cancellable->get(), error.slot()));
+        mm_manager_new_sync(m_bus.get(), G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START,
+                            m_cancellable.get(), error.slot()));
     if (manager)
-        madeManager(manager.get());
-    else if (!g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
-        setState(ServiceState::NoBus);
+        return madeManager(manager.get());
+    if (g_cancellable_is_cancelled(m_cancellable.get()))
+        return;
+    // A daemon that is starting has its name on the bus a little before its objects.
+    if (tries == 0)
+        return setState(ServiceState::NoService);
+    m_thread.after(StartingPause, [this, tries] {
+        if (m_bus && !m_manager)
+            makeManager(tries - 1);
+    });
 }
 
 /// GLib keeps the objects; start() may try again.
@@ -114,7 +131,6 @@ void ModemWatch::busClosed()
     m_signals.disconnectAll();
     m_manager.reset();
     m_bus.reset();
-    m_cancellable.reset();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_modems.clear();

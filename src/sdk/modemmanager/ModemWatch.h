@@ -39,8 +39,8 @@ public:
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Begins to look for modems; returns at once. A second call looks again for a bus that was not
-    /// there.
+    /// Begins to look for modems; returns at once. A second call looks again for what was not there
+    /// before.
     void start();
     /// Ends the thread; `last` runs there before anything is let go of.
     void stop(const std::function<void()> &last);
@@ -59,6 +59,7 @@ private:
     void connectToBus();
     void connected(GDBusConnection *bus);
     void busClosed();
+    void makeManager(int tries);
     void madeManager(MMManager *manager);
     void look();
     std::vector<GObjectPtr<MMObject>> objects() const;
@@ -66,12 +67,13 @@ private:
 
     MainLoopThread m_thread;
     const Changed m_changed;
-    bool m_started = false; // by the thread of the first start()
+    const Cancellable m_cancellable; // of what would keep stop() waiting
+    bool m_started = false;          // by the thread of the first start()
 
     // The thread's own.
     GObjectPtr<GDBusConnection> m_bus;
     GObjectPtr<MMManager> m_manager;
-    std::unique_ptr<Cancellable> m_cancellable;
+    bool m_isConnecting = false;
     SignalConnections m_signals;
 
     mutable std::mutex m_mutex; // guards what follows

@@ -34,13 +34,14 @@ SignalConnections::~SignalConnections()
     disconnectAll();
 }
 
+/// After libmm-glib's own handlers, which renew what it keeps ready of the properties.
 void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
 {
     if (!proxy)
         return;
-    add(proxy, g_signal_connect_data(proxy, "g-properties-changed", G_CALLBACK(runChanged),
-                                     new Changed(std::move(handler)), destroy<Changed>,
-                                     static_cast<GConnectFlags>(0)));
+    add(proxy,
+        g_signal_connect_data(proxy, "g-properties-changed", G_CALLBACK(runChanged),
+                              new Changed(std::move(handler)), destroy<Changed>, G_CONNECT_AFTER));
 }
 
 /// Swapped, the closure's data comes first, and the arguments behind it can be left out.

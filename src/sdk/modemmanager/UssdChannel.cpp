@@ -41,7 +41,13 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
         return;
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NoTimeLimit);
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
-    stateBecame(mm_modem_3gpp_ussd_get_state(ussd)); // also a menu left open by somebody before
+}
+
+void UssdChannel::catchUp()
+{
+    if (!m_ussd)
+        return;
+    stateBecame(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
     step();
 }
 

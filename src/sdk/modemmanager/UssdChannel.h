@@ -38,6 +38,8 @@ public:
     /// modem has none at present.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
+    /// After setInterface(): tells of a menu that somebody has left open, and begins what waits.
+    void catchUp();
 
     /// In place of what is on its way.
     void request(RequestToken token, RequestKind kind, const std::string &text);

@@ -1,0 +1,36 @@
+#ifndef MODEM_MESSAGEHELPER_H
+#define MODEM_MESSAGEHELPER_H
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+#include <QStringList>
+#include <QTimer>
+
+/** As long as it lives, each message box is read and closed by its first button. */
+class MessageHelper : public QObject
+{
+public:
+    MessageHelper() { qApp->installEventFilter(this); }
+
+    /// What the boxes have said.
+    QStringList texts() const { return m_texts; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        QMessageBox *box =
+            event->type() == QEvent::Show ? qobject_cast<QMessageBox *>(watched) : nullptr;
+        if (box) {
+            m_texts << box->text();
+            QTimer::singleShot(0, box, [box] { box->buttons().first()->click(); });
+        }
+        return false;
+    }
+
+private:
+    QStringList m_texts;
+};
+
+#endif

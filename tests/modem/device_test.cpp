@@ -1,0 +1,642 @@
+/* What the device SDK makes of a real ModemManager: the table of docs/modems.md, line by line. */
+// GLib's headers come before Qt's, to which "signals" is a word of its own.
+#include "MmClient.h"
+#include "ModemWorld.h"
+
+#include <QtTest>
+
+#include "SdkFixture.h"
+#include "tksv_device.h"
+#include "UssdTest.h"
+
+using namespace SdkFixture;
+using modem::FakeModem;
+using modem::Fault;
+using modem::Misbehaviour;
+using modem::ModemSettings;
+using modem::ModemWorld;
+
+namespace
+{
+
+const char Network[] = R"([Network]
+Operator=Test Net
+IMSI=001010000000001
+Signal=60
+[*100#]
+Reply=Balance
+[*120#]
+Reply=Menu
+[*120#/1]
+Reply=One
+[*130#]
+Outcome=refuse
+[*131#]
+Outcome=unsupported
+[*132#]
+Outcome=network-timeout
+[*133#]
+Outcome=silence
+[*150#]
+Reply=€ رصيدك Баланс\nline two
+[*151#]
+Reply=€ رصيدك Баланс\nline two
+Delay=100
+[SMS 28]
+Result=28
+)";
+
+TKSV_DeviceInfo info()
+{
+    TKSV_DeviceInfo result;
+    TKSV_Device_GetInfo(&result);
+    return result;
+}
+
+bool waitForState(TKSV_DeviceState state)
+{
+    return waitUntil([state] { return info().state == state; });
+}
+
+bool waitForProblem(TKSV_DeviceProblem problem)
+{
+    return waitUntil([problem] { return info().problem == problem; });
+}
+
+std::vector<TKSV_Modem> modems()
+{
+    std::vector<TKSV_Modem> list(8);
+    unsigned long count = 0;
+    TKSV_Device_GetModems(list.data(), list.size(), &count);
+    list.resize(count);
+    return list;
+}
+
+Inbox<std::string> &networkTexts()
+{
+    static Inbox<std::string> inbox;
+    return inbox;
+}
+
+void onNetworkText(void *, const TKSV_NetworkText *text)
+{
+    networkTexts().add(text->text + std::string(text->waitsForAnswer ? "?" : "."));
+}
+
+/// As the plug-in does when nothing is waited for.
+unsigned char takesNothing(int, void *)
+{
+    return 0;
+}
+
+/** Nobody takes texts; the dashboard hears of them. */
+class OnlyDashboard
+{
+public:
+    OnlyDashboard()
+    {
+        TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
+        TKSV_USSDSrv_RegisterUSSDCallback(takesNothing);
+        networkTexts().clear();
+        TKSV_Device_SetTextCallback(onNetworkText, nullptr);
+    }
+    ~OnlyDashboard()
+    {
+        TKSV_Device_SetTextCallback(nullptr, nullptr);
+        TKSV_USSDSrv_UnRegisterUSSDCallback(takesNothing);
+        TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
+    }
+    OnlyDashboard(const OnlyDashboard &) = delete;
+    OnlyDashboard &operator=(const OnlyDashboard &) = delete;
+};
+
+QString shown(const std::u16string &text)
+{
+    return QString::fromStdU16String(text);
+}
+
+} // namespace
+
+class ModemDeviceTest : public UssdTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private slots:
+    void withoutABusThatIsSaid();
+    void withoutADaemonThatIsSaid();
+    void theDaemonMayStartLater();
+    void theModemTellsOfItself();
+
+    void repliesArriveWhole();
+    void outcomesHaveTheirTypes_data();
+    void outcomesHaveTheirTypes();
+    void whatTheCharsetLacksFails();
+    void unsaneTextIsRefused_data();
+    void unsaneTextIsRefused();
+
+    void aReleasedCommandDoesNotBlockTheNext();
+    void aReplacedCommandIsNotAnswered();
+    void theReplyToAReleasedCommandIsToldToTheDashboard();
+    void aSessionThatAnotherClientLeftIsEnded();
+    void aLostRegistrationEndsTheCommand();
+    void aDisabledModemEndsTheCommand();
+    void anUnpluggedModemEndsTheCommand();
+    void aDaemonThatDiesEndsTheCommand();
+    void aBusThatDiesEndsTheCommand();
+
+    void theNetworkTellsSomething();
+    void theNetworkAsksSomething();
+    void aMenuLeftOpenIsFoundAgain();
+
+    void messagesTellTheirOutcome();
+    void messagesAreDeletedFromTheModem();
+    void readinessFollowsTheRegistration();
+
+    void thePinUnlocksTheSim();
+    void tooManyPinsNeedThePuk();
+    void aMissingSimIsSaid();
+    void whatPolkitRefusesIsSaid();
+    void aModemWithoutUssdIsSaid();
+
+    void oneOfTwoModemsIsChosen();
+    void theChosenModemIsWaitedFor();
+    void anyModemMayTakeThePlaceOfAnother();
+
+private:
+    FakeModem &fake() { return m_world->modem("one"); }
+    void startWorld();
+    void addModem(const char *id, const ModemSettings &settings = ModemSettings());
+    void useModem(const ModemSettings &settings = ModemSettings());
+
+    std::unique_ptr<ModemWorld> m_world;
+};
+
+void ModemDeviceTest::setUp()
+{
+    registerAll();
+}
+
+void ModemDeviceTest::tearDown()
+{
+    if (QTest::currentTestFailed() && m_world)
+        std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
+    unregisterAll();
+    m_world.reset();
+    QVERIFY(waitForState(TKSV_DEVICE_ABSENT));
+    received().clear();
+}
+
+void ModemDeviceTest::startWorld()
+{
+    m_world = std::make_unique<ModemWorld>();
+    QCOMPARE(m_world->start(), std::string());
+    TKSV_Device_UseModem(nullptr);
+}
+
+void ModemDeviceTest::addModem(const char *id, const ModemSettings &settings)
+{
+    QCOMPARE(m_world->addModem(id, Network, settings), std::string());
+}
+
+void ModemDeviceTest::useModem(const ModemSettings &settings)
+{
+    startWorld();
+    addModem("one", settings);
+    QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED && info().canSendSMS; }));
+    received().clear();
+}
+
+/* ---- the way to the modem ---------------------------------------------------------------- */
+
+void ModemDeviceTest::withoutABusThatIsSaid()
+{
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_BUS));
+    QCOMPARE(int(info().backend), int(TKSV_BACKEND_MODEMMANAGER));
+    int status = 0;
+    QVERIFY(request(u"*100#", &status) != 0);
+    QCOMPARE(status, 1);
+}
+
+void ModemDeviceTest::withoutADaemonThatIsSaid()
+{
+    startWorld();
+    m_world->stopDaemon();
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
+}
+
+void ModemDeviceTest::theDaemonMayStartLater()
+{
+    startWorld();
+    m_world->stopDaemon();
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
+    addModem("one");
+    QVERIFY(m_world->startDaemon());
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+}
+
+void ModemDeviceTest::theModemTellsOfItself()
+{
+    useModem();
+    QVERIFY(waitUntil([] { return *info().imsi && *info().operatorName; }));
+    const TKSV_DeviceInfo got = info();
+    QCOMPARE(int(got.backend), int(TKSV_BACKEND_MODEMMANAGER));
+    QCOMPARE(int(got.problem), int(TKSV_PROBLEM_NONE));
+    QCOMPARE(got.operatorName, "Test Net");
+    QCOMPARE(got.simOperatorCode, "00101");
+    QCOMPARE(got.simOperatorName, "Test Net");
+    QCOMPARE(got.equipmentId, "350000000000017");
+    QCOMPARE(got.source, "Example Fake One");
+    QCOMPARE(got.pinRetries, -1);
+    QVERIFY(waitUntil([] { return info().signalPercent > 50; }));
+}
+
+/* ---- replies ----------------------------------------------------------------------------- */
+
+/// In pieces only a little later: of a reply that comes with the OK, the daemon takes as much as is
+/// there when it reads the OK.
+void ModemDeviceTest::repliesArriveWhole()
+{
+    useModem();
+    QCOMPARE(shown(ask(u"*150#").text), QString::fromUtf8("€ رصيدك Баланс\nline two"));
+    fake().setPieces(true);
+    QCOMPARE(shown(ask(u"*151#").text), QString::fromUtf8("€ رصيدك Баланс\nline two"));
+}
+
+void ModemDeviceTest::outcomesHaveTheirTypes_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<int>("fault");
+    QTest::addColumn<int>("type");
+    const int none = -1;
+    QTest::newRow("reply") << QString::fromLatin1("*100#") << none << 0;
+    QTest::newRow("menu") << QString::fromLatin1("*120#") << none << 1;
+    QTest::newRow("refused") << QString::fromLatin1("*130#") << none << 2;
+    QTest::newRow("unsupported") << QString::fromLatin1("*131#") << none << 4;
+    QTest::newRow("network timed out") << QString::fromLatin1("*132#") << none << 5;
+    QTest::newRow("error") << QString::fromLatin1("*100#") << int(Fault::Error) << 2;
+    QTest::newRow("equipment error")
+        << QString::fromLatin1("*100#") << int(Fault::EquipmentError) << 2;
+}
+
+void ModemDeviceTest::outcomesHaveTheirTypes()
+{
+    QFETCH(QString, code);
+    QFETCH(int, fault);
+    QFETCH(int, type);
+    useModem();
+    if (fault >= 0)
+        fake().misbehave(Misbehaviour{"AT+CUSD=1", Fault(fault), 100, 2});
+    const Response response = ask(code.toStdU16String());
+    QCOMPARE(response.type, type);
+    QCOMPARE(response.text.empty(), type > 1);
+    QCOMPARE(ask(u"*100#").type, 0);
+    QCOMPARE(received().responses.all().size(), std::size_t(2));
+}
+
+void ModemDeviceTest::whatTheCharsetLacksFails()
+{
+    ModemSettings settings;
+    settings.charsets = {modem::Charset::Ira};
+    useModem(settings);
+    QCOMPARE(ask(u"*120#").type, 1);
+    QCOMPARE(ask(u"€").type, 2);
+    QCOMPARE(ask(u"*100#").type, 0);
+}
+
+void ModemDeviceTest::unsaneTextIsRefused_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("quote") << QString::fromLatin1("*1\"#");
+    QTest::newRow("carriage return") << QString::fromLatin1("*1\r#");
+    QTest::newRow("line feed") << QString::fromLatin1("*1\n#");
+    QTest::newRow("escape") << QString::fromLatin1("*1\x1b#");
+    QTest::newRow("end of file") << QString::fromLatin1("*1\x1a#");
+    QTest::newRow("delete") << QString::fromLatin1("*1\x7f#");
+}
+
+void ModemDeviceTest::unsaneTextIsRefused()
+{
+    QFETCH(QString, text);
+    useModem();
+    int status = 0;
+    QVERIFY(request(text.toStdU16String(), &status) != 0);
+    QCOMPARE(status, 2);
+    QCOMPARE(ask(u"*100#").type, 0);
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
+}
+
+/* ---- the end of a command ---------------------------------------------------------------- */
+
+void ModemDeviceTest::aReleasedCommandDoesNotBlockTheNext()
+{
+    useModem();
+    for (int i = 0; i < 3; ++i) { // the daemon sends but one cancel to the modem
+        QCOMPARE(request(u"*133#"), 0L);
+        QVERIFY(fake().waitForCommand("AT+CUSD=1,", 2 * i + 1));
+        TKSV_USSDSrv_Release(nullptr);
+        QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    }
+    QCOMPARE(received().responses.all().size(), std::size_t(3));
+}
+
+void ModemDeviceTest::aReplacedCommandIsNotAnswered()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QCOMPARE(request(u"*120#"), 0L); // before or after the first has reached the modem
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
+}
+
+/// The daemon has no way to know whose reply it was.
+void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
+{
+    useModem();
+    const OnlyDashboard dashboard;
+    modem::MmClient observer(m_world->busAddress());
+    QVERIFY(observer.use(m_world->stateOf("one").object));
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    TKSV_USSDSrv_Release(nullptr);
+    QVERIFY(observer.waitUntilIdle());
+    fake().sayUssd(0, "late");
+    QVERIFY(networkTexts().waitFor(1));
+    QCOMPARE(networkTexts().all(), std::vector<std::string>{"late."});
+}
+
+void ModemDeviceTest::aSessionThatAnotherClientLeftIsEnded()
+{
+    useModem();
+    modem::MmClient other(m_world->busAddress());
+    QVERIFY(other.use(m_world->stateOf("one").object));
+    other.initiate("*133#", 50); // gives up, and leaves the daemon waiting
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+}
+
+void ModemDeviceTest::aLostRegistrationEndsTheCommand()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    fake().say("+CREG: 0");
+    fake().say("+CGREG: 0");
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(received().responses.all()[0].type, 2);
+    QVERIFY(received().responses.all()[0].text.empty());
+    QVERIFY(info().state != TKSV_DEVICE_REGISTERED);
+}
+
+void ModemDeviceTest::aDisabledModemEndsTheCommand()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(received().responses.all()[0].type, 2);
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // and it stays so
+    QVERIFY(request(u"*100#") != 0);
+}
+
+void ModemDeviceTest::anUnpluggedModemEndsTheCommand()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    m_world->unplug("one");
+    QVERIFY(received().deviceEvents.waitFor(1));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
+    QVERIFY(waitForState(TKSV_DEVICE_ABSENT));
+    m_world->plugIn("one");
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
+}
+
+void ModemDeviceTest::aDaemonThatDiesEndsTheCommand()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    m_world->killDaemon();
+    QVERIFY(received().deviceEvents.waitFor(1));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_RESET});
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
+    QVERIFY(m_world->startDaemon());
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
+}
+
+void ModemDeviceTest::aBusThatDiesEndsTheCommand()
+{
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    m_world.reset();
+    QVERIFY(received().deviceEvents.waitFor(1));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_RESET});
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_BUS));
+}
+
+/* ---- the network's own messages ---------------------------------------------------------- */
+
+void ModemDeviceTest::theNetworkTellsSomething()
+{
+    useModem();
+    const OnlyDashboard dashboard;
+    fake().sayUssd(0, "Ваш бонус");
+    QVERIFY(networkTexts().waitFor(1));
+    QCOMPARE(networkTexts().all(), std::vector<std::string>{"Ваш бонус."});
+    QVERIFY(request(u"*100#") == 0);
+}
+
+void ModemDeviceTest::theNetworkAsksSomething()
+{
+    useModem();
+    {
+        const OnlyDashboard dashboard;
+        fake().sayUssd(1, "Continue?");
+        QVERIFY(networkTexts().waitFor(1));
+        QCOMPARE(networkTexts().all(), std::vector<std::string>{"Continue??"});
+    }
+}
+
+void ModemDeviceTest::aMenuLeftOpenIsFoundAgain()
+{
+    startWorld();
+    addModem("one");
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    const OnlyDashboard dashboard;
+    TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    modem::MmClient before(m_world->busAddress());
+    QVERIFY(before.use(m_world->stateOf("one").object));
+    QCOMPARE(before.initiate("*120#").text, std::string("Menu"));
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(networkTexts().waitFor(1));
+    QCOMPARE(networkTexts().all(), std::vector<std::string>{"?"});
+    QCOMPARE(request(u"1"), 0L);
+    QVERIFY(networkTexts().waitFor(2)); // nobody took the reply either
+    QCOMPARE(networkTexts().all()[1], std::string("One."));
+}
+
+/* ---- short messages ---------------------------------------------------------------------- */
+
+void ModemDeviceTest::messagesTellTheirOutcome()
+{
+    useModem();
+    QCOMPARE(sendSms(u"1200", u"Łódź €"), 0L);
+    QCOMPARE(sendSms(u"28", u"refused"), 0L);
+    QVERIFY(received().smsResults.waitFor(2));
+    const std::vector<SmsResult> results = received().smsResults.all();
+    QCOMPARE(results[0].result, 0);
+    QCOMPARE(shown(results[0].number), QLatin1String("1200"));
+    QCOMPARE(shown(results[0].text), QString::fromUtf8("Łódź €"));
+    QVERIFY(results[1].result != 0);
+    QCOMPARE(shown(results[1].number), QLatin1String("28"));
+}
+
+void ModemDeviceTest::messagesAreDeletedFromTheModem()
+{
+    useModem();
+    modem::MmClient client(m_world->busAddress());
+    QVERIFY(client.use(m_world->stateOf("one").object));
+    QCOMPARE(sendSms(u"1200", u"sent"), 0L);
+    QCOMPARE(sendSms(u"28", u"refused"), 0L);
+    QVERIFY(received().smsResults.waitFor(2));
+    QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
+}
+
+void ModemDeviceTest::readinessFollowsTheRegistration()
+{
+    useModem();
+    fake().say("+CREG: 0");
+    fake().say("+CGREG: 0");
+    QVERIFY(waitUntil([] { return !info().canSendSMS; }));
+    QVERIFY(waitUntil([] { return received().smsStatus.all() == std::vector<int>{8}; }));
+    QVERIFY(sendSms(u"1200", u"x") != 0);
+}
+
+/* ---- SIM and rights ---------------------------------------------------------------------- */
+
+void ModemDeviceTest::thePinUnlocksTheSim()
+{
+    ModemSettings settings;
+    settings.asksForPin = true;
+    startWorld();
+    const std::string network = std::string(Network).insert(10, "PIN=4711\n");
+    QCOMPARE(m_world->addModem("one", network, settings), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
+    QVERIFY(waitUntil([] { return info().pinRetries == 3; }));
+    QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_WRONG_PIN));
+    QVERIFY(waitUntil([] { return info().pinRetries == 2; }));
+    QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+}
+
+void ModemDeviceTest::tooManyPinsNeedThePuk()
+{
+    ModemSettings settings;
+    settings.asksForPin = true;
+    startWorld();
+    addModem("one", settings);
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
+    for (int left = 2; left > 0; --left) {
+        QCOMPARE(TKSV_Device_SendPin("9999"), 0L);
+        QVERIFY(waitUntil([left] { return info().pinRetries == left; }));
+    }
+    QCOMPARE(TKSV_Device_SendPin("9999"), 0L);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_PUK_NEEDED));
+}
+
+void ModemDeviceTest::aMissingSimIsSaid()
+{
+    startWorld();
+    const std::string noSim = std::string(Network).replace(0, 9, "[Network]\nState=sim-missing");
+    QCOMPARE(m_world->addModem("one", noSim), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_MISSING));
+    QVERIFY(request(u"*100#") != 0);
+}
+
+void ModemDeviceTest::whatPolkitRefusesIsSaid()
+{
+    startWorld();
+    m_world->polkit().allow(false);
+    addModem("one");
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NOT_PERMITTED));
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+}
+
+void ModemDeviceTest::aModemWithoutUssdIsSaid()
+{
+    startWorld();
+    addModem("one");
+    fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, modem::Always});
+    m_world->unplug("one");
+    m_world->plugIn("one");
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NO_USSD));
+    QVERIFY(request(u"*100#") != 0);
+}
+
+/* ---- several modems ---------------------------------------------------------------------- */
+
+void ModemDeviceTest::oneOfTwoModemsIsChosen()
+{
+    ModemSettings second;
+    second.imei = "350000000000025";
+    second.model = "Fake Two";
+    useModem();
+    addModem("two", second);
+    FakeModem &other = m_world->modem("two");
+    QVERIFY(waitUntil([] { return modems().size() == 2; }));
+    QVERIFY(modems()[0].isInUse && !modems()[1].isInUse);
+    QCOMPARE(modems()[1].name, "Example Fake Two");
+    QCOMPARE(other.timesReceived("AT+CFUN=1"), 0); // left alone so far
+
+    TKSV_Device_UseModem(modems()[1].equipmentId);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(info().equipmentId, "350000000000025");
+    fake().forgetReceived();
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    QCOMPARE(other.timesReceived("AT+CUSD=1,"), 1);
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 0);
+}
+
+void ModemDeviceTest::theChosenModemIsWaitedFor()
+{
+    useModem();
+    TKSV_Device_UseModem("350000000000025");
+    QVERIFY(waitForProblem(TKSV_PROBLEM_CHOSEN_ABSENT));
+    QVERIFY(request(u"*100#") != 0);
+    ModemSettings second;
+    second.imei = "350000000000025";
+    addModem("two", second);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(info().equipmentId, "350000000000025");
+}
+
+void ModemDeviceTest::anyModemMayTakeThePlaceOfAnother()
+{
+    ModemSettings second;
+    second.imei = "350000000000025";
+    useModem();
+    addModem("two", second);
+    QVERIFY(waitUntil([] { return modems().size() == 2; }));
+    m_world->unplug("one");
+    QVERIFY(waitUntil([] { return QByteArray(info().equipmentId) == "350000000000025"; }));
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
+}
+
+USSD_TEST_MAIN(ModemDeviceTest)
+#include "device_test.moc"

@@ -1,0 +1,434 @@
+// GLib's headers come before Qt's, to which "signals" is a word of its own.
+#include "ModemWorld.h"
+
+#include <QTextEdit>
+#include <QTreeWidget>
+
+#include "IUSSD.h"
+#include "Languages.h"
+#include "MessageHelper.h"
+#include "SimTest.h"
+#include "tksv_device.h"
+
+using modem::Fault;
+using modem::Misbehaviour;
+using modem::SubmittedSms;
+
+namespace
+{
+
+const char NETWORK[] = R"([Network]
+Operator=Test Net
+IMSI=001010000000001
+Balance=12.50
+Currency=EUR
+[*100#]
+Reply=Your balance is {balance}.
+[*101*%s#]
+Digits=12-16
+Credit=10.00
+Reply=Voucher accepted.
+[*102#]
+Reply=0123 456
+[*103#]
+Reply=Account 1
+[*123#]
+Reply=Menu\n1 Data\n2 Other
+[*123#/1]
+Reply=Data\n1 Day\n2 Week
+[*123#/1/2]
+Reply=A week booked.
+[*130#]
+Outcome=refuse
+[*131#]
+Outcome=silence
+[*140#]
+Reply=رصيدك ١٢٫٥٠
+[*141#]
+Reply=Ваш баланс 12,50
+[*142#]
+Reply=Noch 12,50 € übrig
+[*150#]
+Reply=Wie heißt du?
+[*150#/%s]
+Reply=Du heißt {answer}.
+[SMS 1200]
+Result=0
+[SMS 1201]
+Result=28
+)";
+
+const int WEATHER = 9; // rows of the services' tree
+const int TARIFF = 10;
+const int ALERT = 11;
+
+/// All that the labels of a window say.
+QString shownText(const QWidget *window)
+{
+    QStringList texts;
+    for (const QLabel *label : window->findChildren<QLabel *>())
+        texts << label->text();
+    for (const QTextEdit *box : window->findChildren<QTextEdit *>())
+        texts << box->toPlainText();
+    return texts.join(QLatin1Char('\n'));
+}
+
+const char USSD_FAILED[] = "The command was not carried out.";
+const char USSD_TIMED_OUT[] = "The network did not reply in time.";
+
+} // namespace
+
+/**
+ * The dashboard with the plug-in on top, and below it the device SDK, a real ModemManager and an AT
+ * modem of our own: what a user does and what reaches the modem.
+ */
+class EndToEndTest : public SimTest
+{
+    Q_OBJECT
+private slots:
+    void balanceFromTheGeneralDialog();
+    void aMenuOfThreeSteps();
+    void closingTheDashboardEndsTheSession();
+    void theAccountWindowEndsTheSession();
+    void aNetworkThatIsSilent();
+    void theNetworksRefusal();
+    void topUpIsFollowedByTheBalance();
+    void theKindOfAccountIsDetected();
+    void aServiceIsOrdered();
+    void aServiceIsRefused();
+    void theModemIsPulledOutWhileAMessageIsSent();
+    void theModemIsPulledOutWhileACommandIsOut();
+    void theDaemonCrashesWhileACommandIsOut();
+    void textInOtherScripts_data();
+    void textInOtherScripts();
+    void aReplyInThreeScriptsIsAnswered();
+    void theLongestCommand();
+    void aCommandThatIsTooLong();
+    void aQuoteNeverReachesTheModem();
+
+protected:
+    void setUpClass() override;
+    void setUp() override;
+    void tearDown() override;
+    void tearDownClass() override;
+
+private:
+    modem::FakeModem &fake() { return m_world->modem("one"); }
+    bool waitForRegistration();
+    void openPage();
+    QString ask(const QString &command);
+    QWidget *openDialog(PAID_TYPE type, const char *name);
+    template <typename T>
+    T *part(const QWidget *dialog, const char *role);
+    QPushButton *openService(int row);
+    bool sendWhenReady(QPushButton *button);
+
+    QScopedPointer<modem::ModemWorld> m_world;
+};
+
+/* ---- set-up ------------------------------------------------------------------------------ */
+
+void EndToEndTest::setUpClass()
+{
+    m_world.reset(new modem::ModemWorld);
+    QCOMPARE(m_world->start(), std::string());
+    QCOMPARE(m_world->addModem("one", NETWORK), std::string());
+    QVERIFY(!m_world->waitForState("one", modem::StateDisabled).empty());
+}
+
+void EndToEndTest::tearDownClass()
+{
+    m_world.reset();
+}
+
+void EndToEndTest::setUp()
+{
+    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    makeLibrary();
+    QCOMPARE(m_world->useScenario("one", NETWORK), std::string());
+    fake().behave();
+    fake().forgetReceived();
+}
+
+void EndToEndTest::tearDown()
+{
+    closeDashboard();
+    if (QTest::currentTestFailed())
+        fprintf(stderr, "%s\n", m_world->logTail().c_str());
+}
+
+bool EndToEndTest::waitForRegistration()
+{
+    return QTest::qWaitFor(
+        [] {
+            TKSV_DeviceInfo info;
+            TKSV_Device_GetInfo(&info);
+            return info.state == TKSV_DEVICE_REGISTERED && info.canSendSMS;
+        },
+        10000);
+}
+
+/// When the question whether the SIM is prepaid has been answered, the pipeline is at rest.
+void EndToEndTest::openPage()
+{
+    openDashboard();
+    QVERIFY(waitForRegistration());
+    QTRY_VERIFY(fake().timesReceived("AT+CUSD=1,\"002A0031003000330023\"") == 1);
+    QTRY_COMPARE(paidType(), QLatin1String("Prepaid"));
+}
+
+QString EndToEndTest::ask(const QString &command)
+{
+    const GeneralWindow general = page();
+    if (!general.send(command) || !QTest::qWaitFor([&] { return !general.isWaiting(); }, 10000))
+        return QLatin1String("(not sent, or still waiting)");
+    return general.lastReceived();
+}
+
+QWidget *EndToEndTest::openDialog(PAID_TYPE type, const char *name)
+{
+    window().openFrame(type);
+    QWidget *dialog = nullptr;
+    const bool isOpen = QTest::qWaitFor([&] {
+        dialog = frame() ? frame()->findChild<QWidget *>(QLatin1String(name)) : nullptr;
+        return dialog != nullptr;
+    });
+    return isOpen ? dialog : nullptr;
+}
+
+template <typename T>
+T *EndToEndTest::part(const QWidget *dialog, const char *role)
+{
+    T *found = dialog->findChild<T *>(QLatin1String("USSDUIPlugin_") + QLatin1String(role));
+    if (!found)
+        qFatal("the window has no %s", role);
+    return found;
+}
+
+/// The send button of a service, shown and with what it asks for entered.
+QPushButton *EndToEndTest::openService(int row)
+{
+    allowWarning("TKSV_SMSSrv_CreateSMSRecord = 0"); // which the plug-in also says of success
+    const QWidget *dialog = openDialog(PAID_TYPE_USSD_SMS, "USSDUIPlugin_SMSDialog");
+    if (!dialog)
+        return nullptr;
+    QTreeWidget *tree = part<QTreeWidget>(dialog, "SMSDialog_ServiceTree");
+    tree->setCurrentItem(tree->topLevelItem(0)->child(row));
+    QLineEdit *input = part<QLineEdit>(dialog, "SMSDialog_InputEdit");
+    if (input->isVisible())
+        typeInto(input, QString::fromUtf8("Łódź €"));
+    return part<QPushButton>(dialog, "SMSDialog_SendButton");
+}
+
+/// A message can be sent soon after the window is open.
+bool EndToEndTest::sendWhenReady(QPushButton *button)
+{
+    if (!button || !QTest::qWaitFor([button] { return button->isEnabled(); }))
+        return false;
+    button->click();
+    return true;
+}
+
+/* ---- the general dialog ------------------------------------------------------------------ */
+
+void EndToEndTest::balanceFromTheGeneralDialog()
+{
+    openPage();
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::aMenuOfThreeSteps()
+{
+    openPage();
+    QCOMPARE(ask(QLatin1String("*123#")), QLatin1String("Menu\n1 Data\n2 Other"));
+    QCOMPARE(ask(QLatin1String("1")), QLatin1String("Data\n1 Day\n2 Week"));
+    QCOMPARE(ask(QLatin1String("2")), QLatin1String("A week booked."));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // with the detection's
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+}
+
+void EndToEndTest::closingTheDashboardEndsTheSession()
+{
+    openPage();
+    QVERIFY(ask(QLatin1String("*123#")).startsWith(QLatin1String("Menu")));
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+    closeDashboard();
+    QVERIFY(fake().waitForCommand("AT+CUSD=2"));
+}
+
+/// A window that is closed leaves its menu open; the next one that is opened ends it.
+void EndToEndTest::theAccountWindowEndsTheSession()
+{
+    openPage();
+    QVERIFY(ask(QLatin1String("*123#")).startsWith(QLatin1String("Menu")));
+    const QWidget *dialog = openDialog(PAID_TYPE_PREPAID, "USSDUIPlugin_Pre_PostPaid");
+    QVERIFY(dialog);
+    QVERIFY(fake().waitForCommand("AT+CUSD=2"));
+    const QTextEdit *balance = part<QTextEdit>(dialog, "BalanceStatusTextEdit");
+    QTRY_COMPARE(balance->toPlainText(), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::aNetworkThatIsSilent()
+{
+    openPage();
+    QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+    QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT)); // no cancel goes out now
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::theNetworksRefusal()
+{
+    openPage();
+    QCOMPARE(ask(QLatin1String("*130#")), QLatin1String(USSD_FAILED));
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::textInOtherScripts_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("reply");
+    QTest::newRow("Arabic") << QString::fromLatin1("*140#") << QString::fromUtf8("رصيدك ١٢٫٥٠");
+    QTest::newRow("Cyrillic") << QString::fromLatin1("*141#")
+                              << QString::fromUtf8("Ваш баланс 12,50");
+    QTest::newRow("euro") << QString::fromLatin1("*142#")
+                          << QString::fromUtf8("Noch 12,50 € übrig");
+}
+
+void EndToEndTest::textInOtherScripts()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, reply);
+    openPage();
+    QCOMPARE(ask(code), reply);
+}
+
+void EndToEndTest::aReplyInThreeScriptsIsAnswered()
+{
+    openPage();
+    const QString name = QString::fromUtf8("Zoë علي Иван €");
+    QCOMPARE(ask(QLatin1String("*150#")), QString::fromUtf8("Wie heißt du?"));
+    QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
+}
+
+/// 91 is what the plug-in's record has room for.
+void EndToEndTest::theLongestCommand()
+{
+    openPage();
+    const QString code = QLatin1Char('*') + QString(89, QLatin1Char('7')) + QLatin1Char('#');
+    QCOMPARE(code.size(), 91);
+    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know it
+    QString hex;
+    for (const QChar c : code)
+        hex += QString::fromLatin1("%1").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,\"" + hex.toStdString() + "\""), 1);
+}
+
+void EndToEndTest::aCommandThatIsTooLong()
+{
+    openPage();
+    const int before = fake().timesReceived("AT+CUSD=1");
+    const QString code = QLatin1Char('*') + QString(90, QLatin1Char('7')) + QLatin1Char('#');
+    QCOMPARE(ask(code), QLatin1String(USSD_FAILED));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1"), before);
+}
+
+void EndToEndTest::aQuoteNeverReachesTheModem()
+{
+    openPage();
+    const int before = fake().timesReceived("AT+CUSD=1");
+    QCOMPARE(ask(QLatin1String("*100\";+CLCK=\"SC\",0#")), QLatin1String(USSD_FAILED));
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1"), before + 1);
+}
+
+/* ---- the account window ------------------------------------------------------------------ */
+
+void EndToEndTest::topUpIsFollowedByTheBalance()
+{
+    openPage();
+    const QWidget *dialog = openDialog(PAID_TYPE_PREPAID, "USSDUIPlugin_Pre_PostPaid");
+    QVERIFY(dialog);
+    const QTextEdit *balance = part<QTextEdit>(dialog, "BalanceStatusTextEdit");
+    QTRY_COMPARE(balance->toPlainText(), QLatin1String("Your balance is 12.50 EUR."));
+    QLineEdit *pin = part<QLineEdit>(dialog, "ChargeEdit");
+    QTRY_VERIFY(pin->isEnabled());
+    typeInto(pin, QLatin1String("123456789012"));
+    const MessageHelper messages;
+    part<QPushButton>(dialog, "ChargeActivateButton")->click();
+    QTRY_COMPARE(messages.texts(), QStringList(QLatin1String("Voucher accepted.")));
+    QTRY_COMPARE(balance->toPlainText(), QLatin1String("Your balance is 22.50 EUR."));
+}
+
+void EndToEndTest::theKindOfAccountIsDetected()
+{
+    openPage();
+    QCOMPARE(offered(), QLatin1String("general framed prepaid services"));
+}
+
+/* ---- services ---------------------------------------------------------------------------- */
+
+void EndToEndTest::aServiceIsOrdered()
+{
+    openPage();
+    QPushButton *button = openService(WEATHER);
+    QVERIFY(sendWhenReady(button));
+    QTRY_COMPARE(fake().submitted().size(), std::size_t(1));
+    const SubmittedSms sms = fake().submitted().front();
+    QCOMPARE(QString::fromStdString(sms.number), QLatin1String("1200"));
+    QCOMPARE(QString::fromStdString(sms.text), QString::fromUtf8("WEATHER Łódź €"));
+    const QTreeWidget *tree = part<QTreeWidget>(frame(), "SMSDialog_ServiceTree");
+    QTRY_VERIFY(tree->isEnabled());
+    QVERIFY(!shownText(frame()).contains(QLatin1String("Sending failed.")));
+}
+
+void EndToEndTest::aServiceIsRefused()
+{
+    openPage();
+    QVERIFY(sendWhenReady(openService(ALERT)));
+    QTRY_VERIFY(shownText(frame()).contains(QLatin1String("Sending failed.")));
+}
+
+void EndToEndTest::theModemIsPulledOutWhileAMessageIsSent()
+{
+    openPage();
+    QPushButton *button = openService(TARIFF);
+    fake().misbehave(Misbehaviour{"AT+CMGS", Fault::Silence, 0, 1});
+    QVERIFY(sendWhenReady(button));
+    QVERIFY(fake().waitForCommand("AT+CMGS"));
+    m_world->unplug("one");
+    QTRY_VERIFY(shownText(frame()).contains(QLatin1String("Sending failed.")));
+    m_world->plugIn("one");
+    QVERIFY(waitForRegistration());
+    QTRY_VERIFY(button->isEnabled());
+}
+
+/* ---- what becomes of a command ----------------------------------------------------------- */
+
+void EndToEndTest::theModemIsPulledOutWhileACommandIsOut()
+{
+    openPage();
+    QVERIFY(page().send(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1", 2));
+    m_world->unplug("one");
+    QTRY_COMPARE(page().lastReceived(), QLatin1String(USSD_FAILED));
+    QVERIFY(!page().isWaiting());
+    m_world->plugIn("one");
+    QVERIFY(waitForRegistration());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::theDaemonCrashesWhileACommandIsOut()
+{
+    openPage();
+    QVERIFY(page().send(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1", 2));
+    m_world->killDaemon();
+    QTRY_COMPARE(page().lastReceived(), QLatin1String(USSD_FAILED));
+    QVERIFY(m_world->startDaemon());
+    QVERIFY(waitForRegistration());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+USSD_TEST_MAIN(EndToEndTest)
+#include "end_to_end_test.moc"
