@@ -54,15 +54,23 @@ ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Li
 {
 }
 
+/// Null when the modem does not have the interface at present.
+template <typename T>
+T *ModemDevice::peek(const char *name, T *(*peekInterface)(MMObject *)) const
+{
+    return hasInterface(m_object.get(), name) ? peekInterface(m_object.get()) : nullptr;
+}
+
 void ModemDevice::refresh()
 {
-    m_modem = shareObject(mm_object_peek_modem(m_object.get()));
-    m_3gpp = shareObject(mm_object_peek_modem_3gpp(m_object.get()));
+    m_modem = shareObject(peek(MM_DBUS_INTERFACE_MODEM, mm_object_peek_modem));
+    m_3gpp = shareObject(peek(MM_DBUS_INTERFACE_MODEM_MODEM3GPP, mm_object_peek_modem_3gpp));
     m_modemSignals.disconnectAll();
     for (gpointer proxy : {gpointer(m_modem.get()), gpointer(m_3gpp.get())})
         m_modemSignals.onPropertiesChanged(proxy, [this](GVariant *) { modemChanged(); });
-    m_ussd->setInterface(mm_object_peek_modem_3gpp_ussd(m_object.get()));
-    m_sms->setInterface(mm_object_peek_modem_messaging(m_object.get()));
+    m_ussd->setInterface(
+        peek(MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, mm_object_peek_modem_3gpp_ussd));
+    m_sms->setInterface(peek(MM_DBUS_INTERFACE_MODEM_MESSAGING, mm_object_peek_modem_messaging));
     modemChanged();
     m_ussd->catchUp(); // when it is known that the modem can take the answer
 }

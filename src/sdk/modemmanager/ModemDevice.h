@@ -45,6 +45,8 @@ public:
     void giveUp();
 
 private:
+    template <typename T>
+    T *peek(const char *name, T *(*peekInterface)(MMObject *)) const;
     void modemChanged();
     void enable();
     void fetchSim();

@@ -38,11 +38,18 @@ std::string nameOf(MMModem *modem)
     return maker.empty() || model.empty() ? maker + model : maker + " " + model;
 }
 
+bool hasInterface(MMObject *object, const char *name)
+{
+    const GObjectPtr<GDBusInterface> found(
+        g_dbus_object_get_interface(G_DBUS_OBJECT(object), name));
+    return found != nullptr;
+}
+
 std::string equipmentIdOf(MMObject *object)
 {
-    MMModem *modem = mm_object_peek_modem(object);
-    if (!modem)
+    if (!hasInterface(object, MM_DBUS_INTERFACE_MODEM))
         return std::string();
+    MMModem *modem = mm_object_peek_modem(object);
     const std::string imei = textOf(mm_modem_get_equipment_identifier(modem));
     return imei.empty() ? textOf(mm_modem_get_device_identifier(modem)) : imei;
 }

@@ -81,6 +81,10 @@ private:
     ServiceState m_state = ServiceState::Looking;
 };
 
+/// Whether the object has that D-Bus interface at present; libmm-glib complains on stderr of a
+/// question for one that is not there.
+bool hasInterface(MMObject *object, const char *name);
+
 /// IMEI, or ModemManager's identifier of the device for a modem that does not tell it.
 std::string equipmentIdOf(MMObject *object);
 /// Maker and model.
