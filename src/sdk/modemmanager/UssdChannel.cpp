@@ -179,10 +179,20 @@ void UssdChannel::waitForState()
         return askForState();
     if (state != MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE)
         return stateBecame(state);
+    if (!std::exchange(m_lagTimerRuns, true))
+        startLagTimer();
+}
+
+/// One timer for all commands, since each that waited would make every turn of the loop longer.
+void UssdChannel::startLagTimer()
+{
     m_thread.after(StateLag, [self = weak_from_this(), call = m_call] {
         const std::shared_ptr<UssdChannel> alive = self.lock();
-        if (alive && alive->m_call == call && alive->m_replyText)
-            alive->askForState();
+        if (!alive)
+            return;
+        alive->m_lagTimerRuns = false;
+        if (alive->m_replyText)
+            alive->m_call == call ? alive->askForState() : alive->waitForState();
     });
 }
 

@@ -65,6 +65,7 @@ private:
     void cancelReturned(unsigned call);
 
     void waitForState();
+    void startLagTimer();
     void askForState();
     void propertiesChanged(GVariant *changed);
     void stateBecame(MMModem3gppUssdSessionState state);
@@ -80,6 +81,7 @@ private:
     std::optional<Request> m_next;   // to be started when nothing runs
     std::optional<Request> m_inCall; // Initiate or Respond runs, or its state is waited for
     std::optional<std::string> m_replyText;
+    bool m_lagTimerRuns = false;
     bool m_wasActive = false; // the state has been seen active since the call began
     bool m_cancelWanted = false;
     bool m_cancelling = false;

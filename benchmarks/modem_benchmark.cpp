@@ -1,0 +1,275 @@
+/*
+ * A command's way to a real ModemManager and back, on a private bus, with a fake modem that answers
+ * at once: through plug-in, SDK and daemon, against the daemon's own library and its own tool. Then
+ * whole programs: from the start to the first reply, and what they do while nothing happens. Built
+ * twice, as the pipeline's benchmark: with log lines that go to a handler that drops them, and
+ * without any.
+ *
+ * In the round trips all threads and the daemon stay on one core: left alone, the waking of a
+ * sleeping core costs more in one round than all of the library in another.
+ */
+// GLib's headers come before Qt's, to which "signals" is a word of its own.
+#include "MmClient.h"
+#include "ModemWorld.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <spawn.h>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <vector>
+
+#include <dirent.h>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <signal.h>
+
+#include "Benchmark.h"
+#include "tksv_device.h"
+#include "USSDLogic.h"
+
+extern char **environ;
+
+namespace
+{
+
+#ifdef USSD_NO_LOG_LINES
+const bool kLogged = false;
+const char kLog[] = "log lines compiled out";
+#else
+const bool kLogged = true;
+const char kLog[] = "log lines to a null handler";
+#endif
+
+const char kNetwork[] = "[Network]\nOperator=Example\nIMSI=001010000000001\n"
+                        "[*100#]\nReply=Your balance is 12.50 EUR.\n"
+                        "[*103#]\nReply=Account 1\n";
+const char kCode[] = "*100#";
+const std::vector<std::string> kTool = {"mmcli", "-m", "any",
+                                        std::string("--3gpp-ussd-initiate=") + kCode};
+const int kRoundTrips = 200;
+const int kIdleSeconds = 60;
+
+[[noreturn]] void fail(const std::string &what)
+{
+    std::fprintf(stderr, "modem_benchmark: %s\n", what.c_str());
+    std::exit(1);
+}
+
+/// The plug-in's pipeline on the GUI thread.
+class Pipeline : public QObject
+{
+    Q_OBJECT
+public:
+    Pipeline()
+    {
+        connect(logic(), SIGNAL(responseReceived(int, QString)), SLOT(take(int, QString)));
+    }
+    ~Pipeline() override
+    {
+        logic()->unSDKRegisterEvent();
+        USSDLogic::Destroy();
+    }
+
+    void sendAndAwait()
+    {
+        int status = 0;
+        logic()->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String(kCode)), &status);
+        m_loop.exec();
+    }
+
+private slots:
+    void take(int, const QString &text)
+    {
+        if (!text.startsWith(QLatin1String("Your balance")))
+            fail("no reply: " + text.toStdString());
+        m_loop.quit();
+    }
+
+private:
+    static USSDLogic *logic() { return USSDLogic::GetUSSDLogicInstance(); }
+
+    QEventLoop m_loop;
+};
+
+pid_t spawn(const std::vector<std::string> &command)
+{
+    std::vector<char *> arguments;
+    for (const std::string &argument : command)
+        arguments.push_back(const_cast<char *>(argument.c_str()));
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, 1, "/dev/null", 1, 0);
+    posix_spawn_file_actions_addopen(&files, 2, "/dev/null", 1, 0);
+    pid_t child = 0;
+    if (posix_spawnp(&child, arguments[0], &files, nullptr, arguments.data(), environ) != 0)
+        fail("cannot start " + command[0]);
+    posix_spawn_file_actions_destroy(&files);
+    return child;
+}
+
+void runToItsEnd(const std::vector<std::string> &command)
+{
+    int status = 0;
+    waitpid(spawn(command), &status, 0);
+    if (status != 0)
+        fail(command[0] + " has failed");
+}
+
+double millisecondsOf(const std::vector<std::string> &command)
+{
+    return Benchmark::microseconds([&] { runToItsEnd(command); }) / 1000;
+}
+
+template <typename Trip>
+double eachOf(int times, const Trip &trip)
+{
+    return Benchmark::microseconds([&] {
+               for (int i = 0; i < times; ++i)
+                   trip();
+           }) /
+           times;
+}
+
+bool waitForRegistration()
+{
+    for (int i = 0; i < 10000; ++i) {
+        TKSV_DeviceInfo info;
+        TKSV_Device_GetInfo(&info);
+        if (info.state == TKSV_DEVICE_REGISTERED)
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return false;
+}
+
+/* ---- round trips ------------------------------------------------------------------------- */
+
+void compareRoundTrips(modem::MmClient &bare)
+{
+    Pipeline pipeline;
+    const Benchmark::Measurement ours = [&] {
+        return eachOf(kRoundTrips, [&] { pipeline.sendAndAwait(); });
+    };
+    const std::string what = std::string("command through plug-in, SDK and ModemManager, ") + kLog;
+    Benchmark::compare(Benchmark::Title(what, "bare libmm-glib", 1.1), ours, [&] {
+        return eachOf(kRoundTrips, [&] {
+            if (bare.initiate(kCode).text.empty())
+                fail("bare libmm-glib got no reply");
+        });
+    });
+    if (kLogged)
+        Benchmark::compare(Benchmark::Title(what, "mmcli", 1), ours,
+                           [] { return eachOf(10, [] { runToItsEnd(kTool); }); });
+}
+
+/* ---- whole programs ---------------------------------------------------------------------- */
+
+void compareFirstReplies()
+{
+    const std::vector<std::string> dashboard = {USSD_DASHBOARD, "--send", kCode};
+    Benchmark::compare(
+        Benchmark::Title("program start to the first reply (ussd-dashboard --send)", "mmcli", 0,
+                         "ms"),
+        [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(kTool); });
+}
+
+/// How often the threads of a process have begun to wait, and how long they have run.
+struct Activity {
+    double waits = 0;
+    double cpuMilliseconds = 0;
+};
+
+double valueOf(const std::string &file, const std::string &key)
+{
+    std::ifstream stream(file);
+    std::string word;
+    double value = 0;
+    while (stream >> word) {
+        if (word == key && stream >> value)
+            return value;
+    }
+    return value;
+}
+
+/// The first number of schedstat is the time on a CPU in nanoseconds.
+double nanosecondsOnCpu(const std::string &thread)
+{
+    std::ifstream stream(thread + "/schedstat");
+    double nanoseconds = 0;
+    stream >> nanoseconds;
+    return nanoseconds;
+}
+
+Activity activityOf(pid_t process)
+{
+    const std::string tasks = "/proc/" + std::to_string(process) + "/task";
+    Activity sum;
+    DIR *folder = opendir(tasks.c_str());
+    while (const dirent *entry = folder ? readdir(folder) : nullptr) {
+        if (entry->d_name[0] == '.')
+            continue;
+        const std::string thread = tasks + "/" + entry->d_name;
+        sum.waits += valueOf(thread + "/status", "voluntary_ctxt_switches:");
+        sum.cpuMilliseconds += nanosecondsOnCpu(thread) / 1e6;
+    }
+    if (folder)
+        closedir(folder);
+    return sum;
+}
+
+/// Both at once, after they have had the time to settle.
+void compareIdling()
+{
+    const pid_t ours = spawn({USSD_DASHBOARD});
+    const pid_t empty = spawn({USSD_EMPTY_WINDOW});
+    std::this_thread::sleep_for(std::chrono::seconds(5));
+    const Activity before[] = {activityOf(ours), activityOf(empty)};
+    std::this_thread::sleep_for(std::chrono::seconds(kIdleSeconds));
+    const Activity after[] = {activityOf(ours), activityOf(empty)};
+    for (const pid_t process : {ours, empty}) {
+        kill(process, SIGKILL);
+        waitpid(process, nullptr, 0);
+    }
+    const char baseline[] = "empty Qt main window";
+    Benchmark::report(
+        Benchmark::Title("wake-ups in an idle minute, with a modem", baseline, 0, "×"),
+        {after[0].waits - before[0].waits}, {after[1].waits - before[1].waits});
+    Benchmark::report(
+        Benchmark::Title("CPU time in an idle minute, with a modem", baseline, 0, "ms"),
+        {after[0].cpuMilliseconds - before[0].cpuMilliseconds},
+        {after[1].cpuMilliseconds - before[1].cpuMilliseconds});
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    Benchmark::stayOnCore(0);
+    modem::ModemWorld world;
+    const std::string problem = world.start();
+    if (!problem.empty())
+        fail(problem);
+    if (!world.addModem("one", kNetwork).empty())
+        fail("no modem");
+    setenv("TKSV_BACKEND", "modemmanager", 1);
+    const QCoreApplication application(argc, argv);
+    Benchmark::dropMessages();
+    if (!waitForRegistration())
+        fail("the modem does not register");
+    modem::MmClient bare(world.busAddress());
+    if (!bare.use(world.stateOf("one").object))
+        fail("bare libmm-glib has no modem");
+    compareRoundTrips(bare);
+    if (!kLogged)
+        return 0;
+    compareFirstReplies();
+    compareIdling();
+    return 0;
+}
+
+#include "modem_benchmark.moc"
