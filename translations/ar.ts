@@ -447,10 +447,6 @@
         <translation>فتح ملف سيناريو...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>مودم (غير متاح بعد)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>فتح ملف سيناريو</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>يأتي --tour بشبكته الخاصة، فلا يُستخدم معه --scenario.</translation>
+        <translation>يأتي --tour بأجهزته الخاصة، فلا يُستخدم معه --scenario ولا --modem.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -636,8 +632,10 @@
   --tour مجلد              المرور على كل النوافذ دون شاشة، مع ترك صور
                            وملف transcript.txt في المجلد
   --scenario ملف           استخدام الشبكة المحاكاة في هذا الملف
+  --modem معرّف            استخدام المودم ذي هذا المعرّف (IMEI)
   --language رمز           اللغة، مثل en أو ar
   --verbose                كتابة سجل البرنامج والملحق
+  --log ملف                السجل نفسه في ملف لا يقرأه سواك
   --help                   هذا النص
   --version                إصدار البرنامج
 
@@ -686,6 +684,170 @@
     <message>
         <source>RESTORE_FAILED</source>
         <translation>لا يمكن كتابة &#x200e;%1&#x200e;. تبقى النسخة في مكانها: &#x200e;%2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;تلقائي: مودم، وإلا شبكة محاكاة</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>لم يُعثر على مودم</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (قيد الاستخدام)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>المودم ‎%1‎ (غير موجود)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>المودم ‎%1‎</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>المصدر: مودم (لا يوجد)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>المصدر: جارٍ البحث عن مودم…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>تعذّر الوصول إلى ناقل رسائل النظام (‎D-Bus‎)، فلا يُعثر على مودم. شغّل الخدمة ‎dbus‎ أو اختر شبكة محاكاة من القائمة.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>لا يعمل ‎ModemManager‎، فلا يُعثر على مودم. ثبّته وشغّله (‎systemctl start ModemManager‎) أو اختر شبكة محاكاة من القائمة.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>سياسة النظام (‎polkit‎) لا تسمح لك باستخدام المودم. اطلب من المسؤول السماح لك بالإجراءين ‎org.freedesktop.ModemManager1.Device.Control‎ و‎org.freedesktop.ModemManager1.USSD‎.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>المودم المختار غير موجود. صِله أو اختر غيره من القائمة.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>ليس هذا رمز PIN لبطاقة SIM.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>لم يعد رمز PIN يفتح القفل: تطلب بطاقة SIM أو المودم رمز PUK أو رمزًا آخر يعطيه المشغّل. أدخله بهاتف أو عبر ‎mmcli‎.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>لا يستطيع هذا المودم إرسال رموز USSD. اختر مودمًا آخر من القائمة.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>تخلّى ‎ModemManager‎ عن هذا المودم. افصله ثم صِله من جديد؛ سجل ‎ModemManager‎ يذكر السبب.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>لا يوجد مودم. صِل مودمًا أو اختر شبكة محاكاة من القائمة.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>لا توجد بطاقة SIM في المودم. أدخل بطاقة وأعد وصل المودم.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>بطاقة SIM مقفلة: أدخل رمز PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>المودم متوقف. شغّله من إعدادات الشبكة في النظام.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>رمز PIN لبطاقة SIM</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>بطاقة SIM مقفلة. رمز PIN من 4 إلى 8 أرقام، ولا يُحفظ.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>رمز &amp;PIN:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>إدخال رمز PI&amp;N…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;فتح القفل</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;إلغاء</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>المحاولات المتبقية: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>هذه آخر محاولة: رمز خاطئ آخر يحظر بطاقة SIM، ولا يفتحها إلا رمز PUK.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>بطاقة SIM تتحقق من الرمز…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>هذا ليس رمز PIN. حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>تعذّر إرسال الرمز إلى بطاقة SIM. حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>لم تجب بطاقة SIM في الوقت المحدد. حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>رسائل الشبكة</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1، من الشبكة:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>الشبكة تنتظر جوابًا. اكتبه في حقل الرموز ثم أرسله.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>ما زالت قائمة مفتوحة في الشبكة، لكن نصها لم يعد معروفًا. أجب عنها أو ابدأ من جديد برمز.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>إغلاق الرسائل</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>يحتوي هذا السجل على الرموز المرسلة والردود، ومعها رموز PIN وأرقام وأرصدة. احتفظ به لنفسك.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>لا يمكن استخدام ملف السجل ‎%1‎: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>إنه وصلة رمزية.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>إنه ليس ملفك الخاص أو له اسم ثانٍ.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>‎--modem‎ و‎--scenario‎ لا يجتمعان.</translation>
     </message>
 </context>
 </TS>

@@ -447,10 +447,6 @@
         <translation>Szenariodatei ö&amp;ffnen...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Modem (noch nicht verfügbar)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Szenariodatei öffnen</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour bringt ein eigenes Netz mit; --scenario passt nicht dazu.</translation>
+        <translation>--tour bringt eigene Geräte mit; weder --scenario noch --modem passt dazu.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -636,8 +632,10 @@ Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
   --tour ORDNER            ohne Anzeige durch alle Fenster gehen; lässt Bilder
                            und transcript.txt im Ordner
   --scenario DATEI         das simulierte Netz dieser Datei verwenden
+  --modem KENNUNG          das Modem mit dieser Gerätekennung (IMEI) verwenden
   --language CODE          Sprache, zum Beispiel en oder ar
   --verbose                ausgeben, was Programm und Plug-in protokollieren
+  --log DATEI              dasselbe in eine Datei, die nur Sie lesen können
   --help                   dieser Text
   --version                die Version des Programms
 
@@ -686,6 +684,170 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Nein löscht die
     <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 lässt sich nicht schreiben. Die Kopie bleibt, wo sie ist: %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Automatisch: Modem, sonst simuliert</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>Kein Modem gefunden</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (in Gebrauch)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Modem %1 (nicht vorhanden)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Modem %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Quelle: Modem (keines)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Quelle: ein Modem wird gesucht …</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>Der Nachrichtenbus des Systems (D-Bus) ist nicht erreichbar, daher wird kein Modem gefunden. Den Dienst dbus starten oder im Menü ein simuliertes Netz wählen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager läuft nicht, daher wird kein Modem gefunden. Installieren und starten (systemctl start ModemManager) oder im Menü ein simuliertes Netz wählen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>Die Richtlinien des Systems (polkit) erlauben Ihnen das Modem nicht. Bitten Sie den Verwalter, Ihnen org.freedesktop.ModemManager1.Device.Control und org.freedesktop.ModemManager1.USSD zu erlauben.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>Das gewählte Modem ist nicht vorhanden. Anschließen oder im Menü ein anderes wählen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>Das war nicht die PIN der SIM-Karte.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>Die PIN entsperrt nicht mehr: SIM-Karte oder Modem verlangen die PUK oder einen anderen Code, den der Betreiber nennt. Mit einem Telefon oder mit mmcli eingeben.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>Dieses Modem kann keine USSD-Codes senden. Im Menü ein anderes wählen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager hat dieses Modem aufgegeben. Ab- und wieder anstecken; das Protokoll von ModemManager sagt, warum.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>Es ist kein Modem da. Eines anschließen oder im Menü ein simuliertes Netz wählen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>Im Modem ist keine SIM-Karte. Eine einlegen und das Modem neu anschließen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>Die SIM-Karte ist gesperrt: ihre PIN eingeben.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>Das Modem ist ausgeschaltet. In den Netzwerkeinstellungen des Systems einschalten.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>PIN der SIM-Karte</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>Die SIM-Karte ist gesperrt. Ihre PIN hat 4 bis 8 Ziffern; sie wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>PI&amp;N eingeben …</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Entsperren</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Verbleibende Versuche: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>Das ist der letzte Versuch: Eine weitere falsche PIN sperrt die SIM-Karte, und nur die PUK entsperrt sie.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>Die SIM-Karte prüft die PIN …</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>Das war nicht die PIN. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>Die PIN konnte nicht an die SIM-Karte gesendet werden. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>Die SIM-Karte hat nicht rechtzeitig geantwortet. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Nachrichten des Netzes</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, vom Netz:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>Das Netz wartet auf eine Antwort. In das Feld für Codes eingeben und senden.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>Im Netz ist noch ein Menü offen, sein Text ist aber nicht mehr bekannt. Antworten oder mit einem Code neu beginnen.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Nachrichten schließen</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>Dieses Protokoll enthält gesendete Codes und Antworten, und damit PINs, Nummern und Guthaben. Nicht weitergeben.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>Die Protokolldatei %1 ist nicht benutzbar: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>Sie ist ein symbolischer Link.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>Sie ist keine eigene Datei oder hat einen zweiten Namen.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem und --scenario passen nicht zusammen.</translation>
     </message>
 </context>
 </TS>

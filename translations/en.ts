@@ -447,10 +447,6 @@
         <translation>&amp;Open scenario file...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Modem (not available yet)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Open a scenario file</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour brings a network of its own, so --scenario does not go with it.</translation>
+        <translation>--tour brings devices of its own, so neither --scenario nor --modem goes with it.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -636,8 +632,10 @@ Shows the windows of the USSD plug-in and the state of the device.
   --tour FOLDER            walk through all windows without a display; leaves
                            pictures and transcript.txt in the folder
   --scenario FILE          use the simulated network of this file
+  --modem ID               use the modem with this equipment identifier (IMEI)
   --language CODE          language, for example en or ar
   --verbose                write what the program and the plug-in log
+  --log FILE               write the same to a file that only you can read
   --help                   this text
   --version                the program's version
 
@@ -686,6 +684,170 @@ There is a copy of it, made on %2. Do you want it back? No deletes the copy.</tr
     <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 cannot be written. The copy stays where it is: %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Automatic: a modem, or else simulated</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>No modem found</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (in use)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Modem %1 (not there)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Modem %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Source: modem (none)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Source: looking for a modem…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>The system’s message bus (D-Bus) cannot be reached, so no modem is found. Start the service dbus, or choose a simulated network in the menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager does not run, so no modem is found. Install and start it (systemctl start ModemManager), or choose a simulated network in the menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>The system’s policy (polkit) does not let you use the modem. Ask its administrator to permit the actions org.freedesktop.ModemManager1.Device.Control and org.freedesktop.ModemManager1.USSD to you.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>The chosen modem is not there. Connect it, or choose another one in the menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>That was not the SIM card’s PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>The PIN does not unlock it any more: the SIM card or the modem asks for its PUK or another code, which the operator gives. Enter it with a phone, or with mmcli.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>This modem cannot send USSD codes. Choose another modem in the menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager has given this modem up. Unplug it and connect it again; ModemManager’s log says why.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>There is no modem. Connect one, or choose a simulated network in the menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>There is no SIM card in the modem. Insert one, and connect the modem again.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>The SIM card is locked: enter its PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>The modem is switched off. Switch it on in the system’s network settings.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>PIN of the SIM card</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>The SIM card is locked. Its PIN has 4 to 8 digits; it is not stored.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>Enter the PI&amp;N…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Unlock</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Tries left: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>This is the last try: another wrong PIN blocks the SIM card, and only its PUK unblocks it.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>The SIM card checks the PIN…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>That was not the PIN. Please try again.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>The PIN could not be sent to the SIM card. Please try again.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>The SIM card did not answer in time. Please try again.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Messages of the network</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, from the network:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>The network waits for an answer. Type it into the field for codes and press Send.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>A menu is still open in the network, but its text is not known any more. Answer it, or begin anew with a code.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Close messages</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>This log holds the codes that are sent and the replies, and with them PINs, numbers and balances. Keep it to yourself.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>The log file %1 cannot be used: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>it is a symbolic link.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>it is not a file of your own, or has a second name.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem and --scenario do not go together.</translation>
     </message>
 </context>
 </TS>

@@ -447,10 +447,6 @@
         <translation>&amp;Abrir un archivo de escenario...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Módem (aún no disponible)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Abrir un archivo de escenario</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour trae su propia red; --scenario no se puede añadir.</translation>
+        <translation>--tour trae sus propios dispositivos; no se puede añadir --scenario ni --modem.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -637,8 +633,10 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
   --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
                            imágenes y transcript.txt en la carpeta
   --scenario ARCHIVO       usar la red simulada de este archivo
+  --modem ID               usar el módem con este identificador (IMEI)
   --language CÓDIGO        idioma, por ejemplo en o ar
   --verbose                escribir el registro del programa y del complemento
+  --log ARCHIVO            lo mismo en un archivo que solo usted puede leer
   --help                   este texto
   --version                la versión del programa
 
@@ -687,6 +685,170 @@ Hay una copia del %2. ¿Quiere recuperarla? No borra la copia.</translation>
     <message>
         <source>RESTORE_FAILED</source>
         <translation>No se puede escribir %1. La copia se queda donde está: %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Automático: un módem o, si no hay, simulado</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>No se encontró ningún módem</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (en uso)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Módem %1 (no está)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Módem %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Origen: módem (ninguno)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Origen: buscando un módem…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>No se puede acceder al bus de mensajes del sistema (D-Bus), así que no se encuentra ningún módem. Inicie el servicio dbus o elija una red simulada en el menú.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager no está en marcha, así que no se encuentra ningún módem. Instálelo e inícielo (systemctl start ModemManager) o elija una red simulada en el menú.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>La política del sistema (polkit) no le permite usar el módem. Pida al administrador que le permita org.freedesktop.ModemManager1.Device.Control y org.freedesktop.ModemManager1.USSD.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>El módem elegido no está. Conéctelo o elija otro en el menú.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>Ese no era el PIN de la tarjeta SIM.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>El PIN ya no desbloquea: la tarjeta SIM o el módem pide el PUK u otro código, que facilita el operador. Introdúzcalo con un teléfono o con mmcli.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>Este módem no puede enviar códigos USSD. Elija otro en el menú.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager ha abandonado este módem. Desconéctelo y vuelva a conectarlo; el registro de ModemManager dice por qué.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>No hay ningún módem. Conecte uno o elija una red simulada en el menú.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>No hay tarjeta SIM en el módem. Inserte una y vuelva a conectar el módem.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>La tarjeta SIM está bloqueada: introduzca su PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>El módem está apagado. Enciéndalo en los ajustes de red del sistema.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>PIN de la tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>La tarjeta SIM está bloqueada. Su PIN tiene de 4 a 8 cifras; no se guarda.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>Introducir el PI&amp;N…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Desbloquear</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Intentos restantes: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>Es el último intento: otro PIN erróneo bloquea la tarjeta SIM, y solo el PUK la desbloquea.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>La tarjeta SIM comprueba el PIN…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>Ese no era el PIN. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>No se pudo enviar el PIN a la tarjeta SIM. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>La tarjeta SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, de la red:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>La red espera una respuesta. Escríbala en el campo de códigos y envíela.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>En la red sigue abierto un menú, pero su texto ya no se conoce. Respóndalo o empiece de nuevo con un código.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Cerrar los mensajes</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>Este registro contiene los códigos enviados y las respuestas, y con ellos PIN, números y saldos. No lo comparta.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>El archivo de registro %1 no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>es un enlace simbólico.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>no es un archivo propio o tiene un segundo nombre.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem y --scenario no van juntos.</translation>
     </message>
 </context>
 </TS>

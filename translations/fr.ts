@@ -447,10 +447,6 @@
         <translation>&amp;Ouvrir un fichier de scénario...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Modem (pas encore disponible)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Ouvrir un fichier de scénario</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour apporte son propre réseau ; --scenario ne peut pas l’accompagner.</translation>
+        <translation>--tour apporte ses propres appareils ; ni --scenario ni --modem ne peut l’accompagner.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -636,8 +632,10 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
   --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
                            images et transcript.txt dans le dossier
   --scenario FICHIER       utiliser le réseau simulé de ce fichier
+  --modem IDENTIFIANT      utiliser le modem de cet identifiant (IMEI)
   --language CODE          langue, par exemple en ou ar
   --verbose                écrire le journal du programme et du module
+  --log FICHIER            la même chose dans un fichier lisible de vous seul
   --help                   ce texte
   --version                la version du programme
 
@@ -686,6 +684,170 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Non supprime la copie
     <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 ne peut pas être écrit. La copie reste où elle est : %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Automatique : un modem, sinon simulé</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>Aucun modem trouvé</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (utilisé)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Modem %1 (absent)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Modem %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Source : modem (aucun)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Source : recherche d’un modem…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>Le bus de messages du système (D-Bus) est inaccessible : aucun modem n’est trouvé. Démarrez le service dbus ou choisissez un réseau simulé dans le menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager ne fonctionne pas : aucun modem n’est trouvé. Installez-le et démarrez-le (systemctl start ModemManager), ou choisissez un réseau simulé dans le menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>La politique du système (polkit) ne vous permet pas d’utiliser le modem. Demandez à l’administrateur de vous autoriser org.freedesktop.ModemManager1.Device.Control et org.freedesktop.ModemManager1.USSD.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>Le modem choisi est absent. Branchez-le ou choisissez-en un autre dans le menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>Ce n’était pas le code PIN de la carte SIM.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>Le code PIN ne suffit plus : la carte SIM ou le modem demande le code PUK ou un autre code, que donne l’opérateur. Saisissez-le avec un téléphone ou avec mmcli.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>Ce modem ne peut pas envoyer de codes USSD. Choisissez-en un autre dans le menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager a abandonné ce modem. Débranchez-le et rebranchez-le ; le journal de ModemManager dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>Il n’y a pas de modem. Branchez-en un ou choisissez un réseau simulé dans le menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>Il n’y a pas de carte SIM dans le modem. Insérez-en une et rebranchez le modem.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>La carte SIM est verrouillée : saisissez son code PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>Le modem est éteint. Allumez-le dans les paramètres réseau du système.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>Code PIN de la carte SIM</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>La carte SIM est verrouillée. Son code PIN a 4 à 8 chiffres ; il n’est pas conservé.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>Code &amp;PIN :</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>Saisir le code PI&amp;N…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Déverrouiller</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Essais restants : %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>C’est le dernier essai : un autre code erroné bloque la carte SIM, et seul le code PUK la débloque.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>La carte SIM vérifie le code PIN…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>Ce n’était pas le code PIN. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>Le code PIN n’a pas pu être envoyé à la carte SIM. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>La carte SIM n’a pas répondu à temps. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Messages du réseau</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, du réseau :</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>Le réseau attend une réponse. Saisissez-la dans le champ des codes et envoyez-la.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>Un menu est encore ouvert dans le réseau, mais son texte n’est plus connu. Répondez-y ou recommencez avec un code.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Fermer les messages</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>Ce journal contient les codes envoyés et les réponses, donc des codes PIN, des numéros et des soldes. Gardez-le pour vous.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>Le fichier journal %1 ne peut pas être utilisé : %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>c’est un lien symbolique.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>ce n’est pas un fichier à vous, ou il a un second nom.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem et --scenario ne vont pas ensemble.</translation>
     </message>
 </context>
 </TS>

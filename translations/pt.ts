@@ -447,10 +447,6 @@
         <translation>&amp;Abrir ficheiro de cenário...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Modem (ainda não disponível)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Abrir um ficheiro de cenário</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour traz a sua própria rede; --scenario não pode ser acrescentado.</translation>
+        <translation>--tour traz os seus próprios dispositivos; não se pode acrescentar --scenario nem --modem.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -637,8 +633,10 @@ Mostra as janelas do suplemento USSD e o estado do dispositivo.
   --tour PASTA             percorrer todas as janelas sem ecrã; deixa imagens e
                            transcript.txt na pasta
   --scenario FICHEIRO      usar a rede simulada deste ficheiro
+  --modem ID               usar o modem com este identificador (IMEI)
   --language CÓDIGO        idioma, por exemplo en ou ar
   --verbose                escrever o registo do programa e do suplemento
+  --log FICHEIRO           o mesmo num ficheiro que só você pode ler
   --help                   este texto
   --version                a versão do programa
 
@@ -687,6 +685,170 @@ Há uma cópia de %2. Quer recuperá-la? Não apaga a cópia.</translation>
     <message>
         <source>RESTORE_FAILED</source>
         <translation>Não é possível escrever %1. A cópia fica onde está: %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Automático: um modem ou, sem ele, simulado</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>Nenhum modem encontrado</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (em uso)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Modem %1 (ausente)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Modem %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Origem: modem (nenhum)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Origem: procurando um modem…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>O barramento de mensagens do sistema (D-Bus) não está acessível, por isso nenhum modem é encontrado. Inicie o serviço dbus ou escolha uma rede simulada no menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>O ModemManager não está em execução, por isso nenhum modem é encontrado. Instale-o e inicie-o (systemctl start ModemManager) ou escolha uma rede simulada no menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>A política do sistema (polkit) não permite que você use o modem. Peça ao administrador que lhe permita org.freedesktop.ModemManager1.Device.Control e org.freedesktop.ModemManager1.USSD.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>O modem escolhido não está presente. Conecte-o ou escolha outro no menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>Esse não era o PIN do cartão SIM.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>O PIN já não desbloqueia: o cartão SIM ou o modem pede o PUK ou outro código, que a operadora fornece. Introduza-o com um telefone ou com mmcli.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>Este modem não pode enviar códigos USSD. Escolha outro no menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>O ModemManager desistiu deste modem. Desconecte-o e volte a conectá-lo; o registo do ModemManager diz porquê.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>Não há modem. Conecte um ou escolha uma rede simulada no menu.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>Não há cartão SIM no modem. Insira um e volte a conectar o modem.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>O cartão SIM está bloqueado: introduza o PIN.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>O modem está desligado. Ligue-o nas configurações de rede do sistema.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>PIN do cartão SIM</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>O cartão SIM está bloqueado. O PIN tem 4 a 8 algarismos; não é guardado.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>Introduzir o PI&amp;N…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Desbloquear</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Tentativas restantes: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>É a última tentativa: outro PIN errado bloqueia o cartão SIM, e só o PUK o desbloqueia.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>O cartão SIM verifica o PIN…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>Esse não era o PIN. Tente novamente.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>Não foi possível enviar o PIN ao cartão SIM. Tente novamente.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>O cartão SIM não respondeu a tempo. Tente novamente.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Mensagens da rede</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, da rede:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>A rede espera uma resposta. Escreva-a no campo de códigos e envie-a.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>Ainda há um menu aberto na rede, mas o seu texto já não é conhecido. Responda-lhe ou recomece com um código.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Fechar as mensagens</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>Este registo contém os códigos enviados e as respostas, e com eles PIN, números e saldos. Não o partilhe.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>O ficheiro de registo %1 não pode ser usado: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>é uma ligação simbólica.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>não é um ficheiro seu ou tem um segundo nome.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem e --scenario não combinam.</translation>
     </message>
 </context>
 </TS>

@@ -447,10 +447,6 @@
         <translation>&amp;Открыть файл сценария...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>&amp;Модем (пока недоступен)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>Открыть файл сценария</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>У --tour своя сеть, поэтому --scenario с ним не указывается.</translation>
+        <translation>У --tour свои устройства, поэтому --scenario и --modem с ним не указываются.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -636,8 +632,10 @@
   --tour ПАПКА             пройти по всем окнам без экрана; оставляет в папке
                            изображения и transcript.txt
   --scenario ФАЙЛ          использовать имитацию сети из этого файла
+  --modem ID               использовать модем с этим номером (IMEI)
   --language КОД           язык, например en или ar
   --verbose                выводить журнал программы и модуля
+  --log ФАЙЛ               то же в файл, который можете читать только вы
   --help                   этот текст
   --version                версия программы
 
@@ -686,6 +684,170 @@
     <message>
         <source>RESTORE_FAILED</source>
         <translation>Не удаётся записать %1. Копия остаётся на месте: %2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>&amp;Автоматически: модем, иначе имитация</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>Модем не найден</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1 (используется)</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>Модем %1 (отсутствует)</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>Модем %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>Источник: модем (нет)</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>Источник: поиск модема…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>Системная шина сообщений (D-Bus) недоступна, поэтому модем не найден. Запустите службу dbus или выберите в меню имитацию сети.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager не запущен, поэтому модем не найден. Установите и запустите его (systemctl start ModemManager) или выберите в меню имитацию сети.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>Политика системы (polkit) не разрешает вам использовать модем. Попросите администратора разрешить вам org.freedesktop.ModemManager1.Device.Control и org.freedesktop.ModemManager1.USSD.</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>Выбранного модема нет. Подключите его или выберите в меню другой.</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>Это не PIN-код SIM-карты.</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>PIN-код больше не снимает блокировку: SIM-карта или модем требует PUK или другой код, его сообщает оператор. Введите его с телефона или через mmcli.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>Этот модем не умеет отправлять USSD-коды. Выберите в меню другой.</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager отказался от этого модема. Отключите и подключите его снова; причина — в журнале ModemManager.</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>Модема нет. Подключите его или выберите в меню имитацию сети.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>В модеме нет SIM-карты. Вставьте её и подключите модем снова.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>SIM-карта заблокирована: введите её PIN-код.</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>Модем выключен. Включите его в сетевых настройках системы.</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>PIN-код SIM-карты</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>SIM-карта заблокирована. PIN-код состоит из 4–8 цифр и не сохраняется.</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN-код:</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>Ввести PI&amp;N-код…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>&amp;Разблокировать</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>Осталось попыток: %1.</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>Это последняя попытка: после ещё одной ошибки SIM-карта блокируется, и её разблокирует только PUK.</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>SIM-карта проверяет PIN-код…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>PIN-код неверен. Попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>Не удалось передать PIN-код SIM-карте. Попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>SIM-карта не ответила вовремя. Попробуйте ещё раз.</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>Сообщения сети</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1, от сети:</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>Сеть ждёт ответа. Введите его в поле для кодов и отправьте.</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>В сети ещё открыто меню, но его текст уже неизвестен. Ответьте на него или начните заново с кода.</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>Закрыть сообщения</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>Этот журнал содержит отправленные коды и ответы, а с ними PIN-коды, номера и балансы. Никому его не передавайте.</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>Файл журнала %1 использовать нельзя: %2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>это символическая ссылка.</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>это не ваш собственный файл или у него есть второе имя.</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem и --scenario несовместимы.</translation>
     </message>
 </context>
 </TS>

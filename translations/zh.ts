@@ -447,10 +447,6 @@
         <translation>打开场景文件(&amp;O)...</translation>
     </message>
     <message>
-        <source>NETWORK_MODEM</source>
-        <translation>调制解调器（尚不可用）(&amp;M)</translation>
-    </message>
-    <message>
         <source>SCENARIO_CHOOSE</source>
         <translation>打开场景文件</translation>
     </message>
@@ -576,7 +572,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour 自带网络，不能与 --scenario 同时使用。</translation>
+        <translation>--tour 自带设备，不能与 --scenario 或 --modem 同时使用。</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -635,8 +631,10 @@
   --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
                            transcript.txt
   --scenario 文件          使用该文件的模拟网络
+  --modem 标识             使用具有此设备标识 (IMEI) 的调制解调器
   --language 代码          语言，例如 en 或 ar
   --verbose                输出程序和插件的日志
+  --log 文件               将日志写入只有您能读取的文件
   --help                   显示本文
   --version                显示程序版本
 
@@ -684,6 +682,170 @@
     <message>
         <source>RESTORE_FAILED</source>
         <translation>无法写入 %1。副本仍保留在：%2</translation>
+    </message>
+    <message>
+        <source>NETWORK_AUTOMATIC</source>
+        <translation>自动(&amp;A)：优先调制解调器，否则模拟</translation>
+    </message>
+    <message>
+        <source>NETWORK_NO_MODEM</source>
+        <translation>未找到调制解调器</translation>
+    </message>
+    <message>
+        <source>NETWORK_IN_USE</source>
+        <translation>%1（使用中）</translation>
+    </message>
+    <message>
+        <source>NETWORK_ABSENT_MODEM</source>
+        <translation>调制解调器 %1（不在）</translation>
+    </message>
+    <message>
+        <source>NETWORK_UNNAMED_MODEM</source>
+        <translation>调制解调器 %1</translation>
+    </message>
+    <message>
+        <source>SOURCE_MODEM_NONE</source>
+        <translation>来源：调制解调器（无）</translation>
+    </message>
+    <message>
+        <source>SOURCE_LOOKING</source>
+        <translation>来源：正在查找调制解调器…</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_BUS</source>
+        <translation>无法访问系统消息总线 (D-Bus)，因此找不到调制解调器。请启动 dbus 服务，或在菜单中选择模拟网络。</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_SERVICE</source>
+        <translation>ModemManager 未运行，因此找不到调制解调器。请安装并启动它 (systemctl start ModemManager)，或在菜单中选择模拟网络。</translation>
+    </message>
+    <message>
+        <source>ADVICE_NOT_PERMITTED</source>
+        <translation>系统策略 (polkit) 不允许您使用调制解调器。请管理员授予您 org.freedesktop.ModemManager1.Device.Control 和 org.freedesktop.ModemManager1.USSD 权限。</translation>
+    </message>
+    <message>
+        <source>ADVICE_CHOSEN_ABSENT</source>
+        <translation>所选调制解调器不在。请连接它，或在菜单中选择另一个。</translation>
+    </message>
+    <message>
+        <source>ADVICE_WRONG_PIN</source>
+        <translation>这不是 SIM 卡的 PIN 码。</translation>
+    </message>
+    <message>
+        <source>ADVICE_PUK_NEEDED</source>
+        <translation>PIN 码已不能解锁：SIM 卡或调制解调器需要 PUK 码或其他由运营商提供的代码。请用手机或 mmcli 输入。</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_USSD</source>
+        <translation>此调制解调器不能发送 USSD 代码。请在菜单中选择另一个。</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_FAILED</source>
+        <translation>ModemManager 已放弃此调制解调器。请拔下再重新连接；原因见 ModemManager 日志。</translation>
+    </message>
+    <message>
+        <source>ADVICE_NO_MODEM</source>
+        <translation>没有调制解调器。请连接一个，或在菜单中选择模拟网络。</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_MISSING</source>
+        <translation>调制解调器中没有 SIM 卡。请插入一张并重新连接调制解调器。</translation>
+    </message>
+    <message>
+        <source>ADVICE_SIM_LOCKED</source>
+        <translation>SIM 卡已锁定：请输入 PIN 码。</translation>
+    </message>
+    <message>
+        <source>ADVICE_DISABLED</source>
+        <translation>调制解调器已关闭。请在系统网络设置中打开它。</translation>
+    </message>
+    <message>
+        <source>PIN_CAPTION</source>
+        <translation>SIM 卡 PIN 码</translation>
+    </message>
+    <message>
+        <source>PIN_QUESTION</source>
+        <translation>SIM 卡已锁定。PIN 码为 4 至 8 位数字，不会被保存。</translation>
+    </message>
+    <message>
+        <source>PIN_LABEL</source>
+        <translation>&amp;PIN 码：</translation>
+    </message>
+    <message>
+        <source>PIN_BUTTON</source>
+        <translation>输入 PI&amp;N 码…</translation>
+    </message>
+    <message>
+        <source>PIN_OK</source>
+        <translation>解锁(&amp;U)</translation>
+    </message>
+    <message>
+        <source>PIN_CANCEL</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES</source>
+        <translation>剩余尝试次数：%1。</translation>
+    </message>
+    <message>
+        <source>PIN_LAST_TRY</source>
+        <translation>这是最后一次机会：再输错 SIM 卡将被锁死，只有 PUK 码才能解锁。</translation>
+    </message>
+    <message>
+        <source>PIN_CHECKING</source>
+        <translation>SIM 卡正在检查 PIN 码…</translation>
+    </message>
+    <message>
+        <source>PIN_WRONG</source>
+        <translation>PIN 码不对。请重试。</translation>
+    </message>
+    <message>
+        <source>PIN_NOT_SENT</source>
+        <translation>无法将 PIN 码发送到 SIM 卡。请重试。</translation>
+    </message>
+    <message>
+        <source>PIN_NO_ANSWER</source>
+        <translation>SIM 卡未及时应答。请重试。</translation>
+    </message>
+    <message>
+        <source>TEXT_PANEL</source>
+        <translation>网络消息</translation>
+    </message>
+    <message>
+        <source>TEXT_AT</source>
+        <translation>%1，来自网络：</translation>
+    </message>
+    <message>
+        <source>TEXT_QUESTION</source>
+        <translation>网络在等待回答。请在代码栏中输入并发送。</translation>
+    </message>
+    <message>
+        <source>TEXT_UNKNOWN</source>
+        <translation>网络中仍有一个菜单打开，但其文字已不可知。请回答，或用代码重新开始。</translation>
+    </message>
+    <message>
+        <source>TEXT_CLOSE</source>
+        <translation>关闭消息</translation>
+    </message>
+    <message>
+        <source>LOG_HOLDS</source>
+        <translation>此日志包含发送的代码和回复，其中有 PIN 码、号码和余额。请勿外传。</translation>
+    </message>
+    <message>
+        <source>LOG_UNUSABLE</source>
+        <translation>日志文件 %1 无法使用：%2</translation>
+    </message>
+    <message>
+        <source>LOG_IS_LINK</source>
+        <translation>它是符号链接。</translation>
+    </message>
+    <message>
+        <source>LOG_NOT_OWN</source>
+        <translation>它不是您自己的文件，或另有名称。</translation>
+    </message>
+    <message>
+        <source>CLI_MODEM_SCENARIO</source>
+        <translation>--modem 与 --scenario 不能同时使用。</translation>
     </message>
 </context>
 </TS>

@@ -20,6 +20,7 @@ private:
     void parseRest();
     void setMode(Arguments::Mode mode);
     void checkCommands();
+    void checkDevice();
     void fail(const char *key, const QString &subject);
     bool failed() const { return m_result.errorKey; }
 
@@ -54,8 +55,7 @@ Arguments Parser::parse()
     }
     if (m_result.mode == Arguments::Send)
         checkCommands();
-    if (m_result.mode == Arguments::Tour && !m_result.scenario.isEmpty())
-        fail("CLI_TOUR_SCENARIO", QString());
+    checkDevice();
     return m_result;
 }
 
@@ -95,6 +95,10 @@ bool Parser::parseValueOption(const QString &name, const QString &value, bool ha
         m_result.tourFolder = value;
     } else if (name == QLatin1String("--scenario")) {
         m_result.scenario = value;
+    } else if (name == QLatin1String("--modem")) {
+        m_result.modem = value;
+    } else if (name == QLatin1String("--log")) {
+        m_result.logFile = value;
     } else if (name == QLatin1String("--language")) {
         m_result.language = value;
     } else {
@@ -139,6 +143,15 @@ void Parser::checkCommands()
         if (command.isEmpty() || holdsControlCharacter(command))
             fail("CLI_BAD_COMMAND", QString());
     }
+}
+
+void Parser::checkDevice()
+{
+    const bool isNamed = !m_result.scenario.isEmpty() || !m_result.modem.isEmpty();
+    if (m_result.mode == Arguments::Tour && isNamed)
+        fail("CLI_TOUR_SCENARIO", QString());
+    if (!m_result.scenario.isEmpty() && !m_result.modem.isEmpty())
+        fail("CLI_MODEM_SCENARIO", QString());
 }
 
 void Parser::fail(const char *key, const QString &subject)

@@ -12,6 +12,8 @@ struct Arguments {
     QStringList commands; // of --send: the code, then the answers
     QString tourFolder;
     QString scenario;
+    QString modem; // equipment identifier
+    QString logFile;
     QString language;
     bool verbose = false;
 

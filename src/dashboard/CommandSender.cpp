@@ -74,8 +74,14 @@ bool CommandSender::isFailureText(const QString &text)
 bool CommandSender::fail(const QString &text)
 {
     printErrorLine(text);
-    const DeviceStatus device = readDeviceStatus();
+    sayWhyNotReady(readDeviceStatus());
+    return false;
+}
+
+void sayWhyNotReady(const DeviceStatus &device)
+{
     if (!device.isRegistered())
         printErrorLine(device.troubleText());
-    return false;
+    if (!device.adviceText().isEmpty())
+        printErrorLine(device.adviceText());
 }

@@ -6,6 +6,8 @@
 #include "GeneralWindow.h"
 #include "ReplyTap.h"
 
+struct DeviceStatus;
+
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
  * prints each reply. GUI thread; handles events while it waits.
@@ -31,5 +33,8 @@ private:
     ReplyTap &m_tap;
     const int m_replyLimit;
 };
+
+/// Says on standard error why the device cannot be used, and what to do; nothing when it can.
+void sayWhyNotReady(const DeviceStatus &device);
 
 #endif

@@ -7,7 +7,8 @@ namespace
 
 const char NAME[] = "ussd-dashboard";
 const char LANGUAGE[] = "language";
-const char SCENARIO[] = "scenario";
+const char DEVICE[] = "device";
+const char SCENARIO[] = "scenario"; // of earlier versions
 const char GEOMETRY[] = "geometry";
 
 } // namespace
@@ -35,14 +36,19 @@ void DashboardSettings::setLanguage(const QString &code)
     set(LANGUAGE, code);
 }
 
-QString DashboardSettings::scenario() const
+DeviceChoice DashboardSettings::device() const
 {
-    return m_settings.value(QLatin1String(SCENARIO)).toString();
+    const QString word = m_settings.value(QLatin1String(DEVICE)).toString();
+    const QString file = m_settings.value(QLatin1String(SCENARIO)).toString();
+    if (word.isEmpty() && !file.isEmpty())
+        return DeviceChoice::simulated(file);
+    return DeviceChoice::fromWord(word);
 }
 
-void DashboardSettings::setScenario(const QString &file)
+void DashboardSettings::setDevice(const DeviceChoice &choice)
 {
-    set(SCENARIO, file);
+    set(DEVICE, choice.word());
+    m_settings.remove(QLatin1String(SCENARIO));
 }
 
 QByteArray DashboardSettings::geometry() const

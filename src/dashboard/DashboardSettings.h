@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QString>
 
+#include "DeviceChoice.h"
+
 /** What the dashboard remembers of the last time, in a file that only its user can read. */
 class DashboardSettings
 {
@@ -15,8 +17,9 @@ public:
 
     QString language() const; // a code; empty when never chosen
     void setLanguage(const QString &code);
-    QString scenario() const; // a file; empty for the default
-    void setScenario(const QString &file);
+    /// What was chosen last, automatic when nothing was. Earlier versions kept a scenario alone.
+    DeviceChoice device() const;
+    void setDevice(const DeviceChoice &choice);
     QByteArray geometry() const; // of the main window
     void setGeometry(const QByteArray &geometry);
 

@@ -9,9 +9,18 @@ namespace
 
 std::atomic<DeviceWatcher *> watching(nullptr); // device events carry no context
 
+DeviceReading readFromSdk()
+{
+    DeviceReading reading;
+    reading.status = readDeviceStatus();
+    reading.modems = readModems();
+    return reading;
+}
+
 } // namespace
 
-DeviceWatcher::DeviceWatcher(QObject *parent) : QObject(parent), m_status(readDeviceStatus())
+DeviceWatcher::DeviceWatcher(QObject *parent)
+    : QObject(parent), m_source(readFromSdk), m_reading(readFromSdk())
 {
     watching = this;
     TKSV_DevSrv_RegisterDevInitEventCallback(onDeviceEvent);
@@ -28,11 +37,17 @@ DeviceWatcher::~DeviceWatcher()
 
 void DeviceWatcher::refresh()
 {
-    const DeviceStatus status = readDeviceStatus();
-    if (status == m_status)
+    const DeviceReading now = m_source();
+    if (now.status == m_reading.status && now.modems == m_reading.modems)
         return;
-    m_status = status;
+    m_reading = now;
     emit changed();
+}
+
+void DeviceWatcher::readFrom(const std::function<DeviceReading()> &source)
+{
+    m_source = source ? source : readFromSdk;
+    refresh();
 }
 
 void DeviceWatcher::onInfoChanged(void *watcher)

@@ -14,6 +14,7 @@
 #include "DashboardSettings.h"
 #include "DashboardText.h"
 #include "DeviceHeader.h"
+#include "DeviceNotice.h"
 #include "GeneralWindow.h"
 #include "HostState.h"
 #include "InstallPaths.h"
@@ -22,8 +23,8 @@
 #include "LanguageMenu.h"
 #include "Languages.h"
 #include "NetworkMenu.h"
+#include "NetworkTextPanel.h"
 #include "PageArea.h"
-#include "Scenarios.h"
 #include "SimWindows.h"
 #include "UiPlugin.h"
 #include "WindowButtons.h"
@@ -46,7 +47,8 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
       m_awaitedFrame(PAID_TYPE_NONE), m_fileMenu(new QMenu(this)), m_quit(nullptr),
       m_languageMenu(new LanguageMenu(this)), m_networkMenu(new NetworkMenu(this)),
-      m_header(new DeviceHeader(this)), m_buttons(new WindowButtons(this)),
+      m_header(new DeviceHeader(this)), m_deviceNotice(new DeviceNotice(&m_device, this)),
+      m_textPanel(new NetworkTextPanel(this)), m_buttons(new WindowButtons(this)),
       m_page(new PageArea(plugin, this)), m_source(new QLabel(this))
 {
     HostState::setMainWindow(this);
@@ -57,6 +59,7 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     m_source->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_source, 1);
     followSim();
+    followNetworkTexts();
     retranslate();
     restorePlace();
 }
@@ -75,6 +78,15 @@ void MainWindow::followSim()
     connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
 }
 
+void MainWindow::followNetworkTexts()
+{
+    connect(&m_networkTexts, SIGNAL(came(QString, QDateTime, bool)), this,
+            SLOT(showNetworkText(QString, QDateTime, bool)));
+    connect(&m_sim, SIGNAL(commandEnded()), m_textPanel, SLOT(endQuestion()));
+    connect(&m_device, SIGNAL(lost()), m_textPanel, SLOT(endQuestion()));
+    m_networkTexts.start();
+}
+
 void MainWindow::makeMenus()
 {
     m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
@@ -83,7 +95,7 @@ void MainWindow::makeMenus()
     menuBar()->addMenu(m_networkMenu);
     menuBar()->addMenu(m_languageMenu);
     connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
-    connect(m_networkMenu, SIGNAL(chosen(QString)), this, SLOT(chooseScenario(QString)));
+    connect(m_networkMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
     connect(m_networkMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
 }
 
@@ -92,7 +104,9 @@ void MainWindow::makeCentre()
     QWidget *centre = new QWidget(this);
     QVBoxLayout *column = new QVBoxLayout(centre);
     column->addWidget(m_header);
+    column->addWidget(m_deviceNotice);
     column->addWidget(m_buttons);
+    column->addWidget(m_textPanel);
     column->addWidget(m_page, 1);
     setCentralWidget(centre);
     m_buttons->setEnabled(false); // until there is a plug-in
@@ -183,6 +197,20 @@ void MainWindow::openAwaitedFrame()
         openFrameNow(paidType);
 }
 
+/// The general window's entry field takes the answer. To show the window ends nothing on the
+/// device, and one that is shown already is left alone, with what is being typed there.
+void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
+                                 bool waitsForAnswer)
+{
+    m_textPanel->add(text, receivedAt, waitsForAnswer);
+    if (!waitsForAnswer)
+        return;
+    m_sim.questionCame();
+    const QLineEdit *entry = GeneralWindow(page()).commandEdit();
+    if (m_plugin->isUsable() && !(entry && entry->isVisible()))
+        showPage(true);
+}
+
 void MainWindow::openFrameNow(int paidType)
 {
     if (paidType == PAID_TYPE_GENERAL)
@@ -207,7 +235,7 @@ void MainWindow::retranslate()
     m_fileMenu->setTitle(dashboardText("MENU_FILE"));
     m_quit->setText(dashboardText("ACTION_QUIT"));
     m_languageMenu->retranslate();
-    m_networkMenu->retranslate();
+    m_textPanel->retranslate();
     m_buttons->retranslate();
     if (m_plugin->isUsable() && !m_windows)
         m_page->showText(dashboardText("WINDOWS_NONE"));
@@ -223,6 +251,8 @@ void MainWindow::showPaidType()
 
 void MainWindow::showDevice()
 {
+    m_networkMenu->offer(m_networkMenu->choice(), m_device.modems());
+    m_deviceNotice->update();
     m_header->showStatus(m_device.status());
     m_header->showPaidType(m_sim.paidTypeText());
     m_source->setText(m_device.status().sourceText());
@@ -231,20 +261,24 @@ void MainWindow::showDevice()
 
 bool MainWindow::useScenario(const QString &file)
 {
-    const QString error = Scenarios::use(file);
+    return useDevice(DeviceChoice::simulated(file));
+}
+
+bool MainWindow::useDevice(const DeviceChoice &choice)
+{
+    const QString error = choice.use();
     if (!error.isEmpty()) {
-        m_networkMenu->setCurrent(m_scenario);
+        setDevice(m_networkMenu->choice());
         showScenarioError(error);
         return false;
     }
-    setScenario(file);
+    setDevice(choice);
     return true;
 }
 
-void MainWindow::setScenario(const QString &file)
+void MainWindow::setDevice(const DeviceChoice &choice)
 {
-    m_scenario = file;
-    m_networkMenu->setCurrent(file);
+    m_networkMenu->offer(choice, m_device.modems());
     m_device.refresh();
 }
 
@@ -254,10 +288,11 @@ void MainWindow::showScenarioError(const QString &error)
                              QLatin1String("IDS_OK"));
 }
 
-void MainWindow::chooseScenario(const QString &file)
+void MainWindow::chooseDevice(const QString &word)
 {
-    if (useScenario(file) && m_settings)
-        m_settings->setScenario(file);
+    const DeviceChoice choice = DeviceChoice::fromWord(word);
+    if (useDevice(choice) && m_settings)
+        m_settings->setDevice(choice);
 }
 
 void MainWindow::openScenario()
@@ -267,7 +302,7 @@ void MainWindow::openScenario()
     const QString file = QFileDialog::getOpenFileName(this, dashboardText("SCENARIO_CHOOSE"),
                                                       InstallPaths::scenarios(), filter);
     if (!file.isEmpty())
-        chooseScenario(file);
+        chooseDevice(DeviceChoice::simulated(file).word());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

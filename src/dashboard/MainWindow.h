@@ -5,19 +5,23 @@
 #include <QTimer>
 
 #include "DeviceWatcher.h"
+#include "NetworkTextWatcher.h"
 #include "PluginFailure.h"
 #include "SimFollower.h"
 
 class DashboardSettings;
 class DeviceHeader;
+class DeviceNotice;
 class LanguageMenu;
 class NetworkMenu;
+class NetworkTextPanel;
 class PageArea;
 class QAction;
 class QLabel;
 class QMenu;
 class UiPlugin;
 class WindowButtons;
+struct DeviceChoice;
 
 /**
  * The dashboard's window: the device on top, a button for each window of the plug-in, the page that
@@ -35,12 +39,13 @@ public:
     /// Makes the scenario file the device's network; empty is the default. When it cannot be used,
     /// the user is told and the one before stays. Returns whether it is in use.
     bool useScenario(const QString &file);
-    /// Says that this scenario file is in use; empty is the default.
-    void setScenario(const QString &file);
+    /// Says that this choice is in use.
+    void setDevice(const DeviceChoice &choice);
     /// Tells the user why a scenario file cannot be used, in a message box.
     void showScenarioError(const QString &error);
     QWidget *page() const;
-    const DeviceWatcher &device() const { return m_device; }
+    DeviceWatcher &device() { return m_device; }
+    NetworkMenu *networkMenu() const { return m_networkMenu; }
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
@@ -63,15 +68,18 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
-    void chooseScenario(const QString &file);
+    void chooseDevice(const QString &word);
     void openScenario();
     void showDevice();
     void hidePage();
     void offerWindows(int windows);
     void showPaidType();
     void openAwaitedFrame();
+    void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private:
+    bool useDevice(const DeviceChoice &choice);
+    void followNetworkTexts();
     void followSim();
     void makeMenus();
     void makeCentre();
@@ -84,15 +92,17 @@ private:
     DashboardSettings *const m_settings;
     DeviceWatcher m_device;
     SimFollower m_sim;
+    NetworkTextWatcher m_networkTexts;
     int m_windows = 0; // offered, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
-    QString m_scenario;
     QMenu *m_fileMenu;
     QAction *m_quit;
     LanguageMenu *m_languageMenu;
     NetworkMenu *m_networkMenu;
     DeviceHeader *m_header;
+    DeviceNotice *m_deviceNotice;
+    NetworkTextPanel *m_textPanel;
     WindowButtons *m_buttons;
     PageArea *m_page;
     QLabel *m_source;

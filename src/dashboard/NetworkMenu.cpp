@@ -1,7 +1,6 @@
 #include "NetworkMenu.h"
 
 #include <QActionGroup>
-#include <QFileInfo>
 
 #include "DashboardText.h"
 #include "Scenarios.h"
@@ -11,7 +10,7 @@ namespace
 
 const char DEFAULT_NAME[] = "default";
 
-/// A file's name means itself, not a mnemonic.
+/// A name means itself, not a mnemonic.
 QString asMenuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -21,13 +20,16 @@ QString asMenuText(QString name)
 
 NetworkMenu::NetworkMenu(QWidget *parent) : QMenu(parent)
 {
-    setCurrent(QString());
+    connect(this, SIGNAL(aboutToShow()), this, SLOT(retranslate()));
+    retranslate();
 }
 
-void NetworkMenu::setCurrent(const QString &file)
+void NetworkMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
 {
-    m_current = file;
-    retranslate();
+    m_choice = choice;
+    m_modems = modems;
+    if (!isVisible())
+        retranslate();
 }
 
 void NetworkMenu::retranslate()
@@ -38,26 +40,56 @@ void NetworkMenu::retranslate()
     connect(m_group, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
     setTitle(dashboardText("MENU_NETWORK"));
 
-    addScenario(dashboardText("NETWORK_DEFAULT"), QString());
-    QStringList files = Scenarios::shipped();
-    if (!m_current.isEmpty() && !files.contains(m_current))
-        files << m_current;
-    for (const QString &file : files) {
-        if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
-            addScenario(asMenuText(Scenarios::displayName(file)), file);
-    }
+    addChoice(dashboardText("NETWORK_AUTOMATIC"), DeviceChoice::automatic());
     addSeparator();
+    addModems();
+    addSeparator();
+    addScenarios();
     addAction(dashboardText("NETWORK_OPEN"), this, SIGNAL(openRequested()));
-    addAction(dashboardText("NETWORK_MODEM"))->setEnabled(false);
 }
 
-void NetworkMenu::addScenario(const QString &text, const QString &file)
+void NetworkMenu::addModems()
+{
+    for (const Modem &modem : m_modems) {
+        const QString title = asMenuText(modemTitle(modem, m_modems));
+        addChoice(modem.isInUse ? dashboardText("NETWORK_IN_USE").arg(title) : title,
+                  DeviceChoice::modem(modem.equipmentId));
+    }
+    if (m_choice.kind == DeviceChoice::Modem && !hasModem(m_choice.name))
+        addChoice(dashboardText("NETWORK_ABSENT_MODEM").arg(asMenuText(m_choice.name)), m_choice);
+    else if (m_modems.isEmpty())
+        addAction(dashboardText("NETWORK_NO_MODEM"))->setEnabled(false);
+}
+
+void NetworkMenu::addScenarios()
+{
+    addChoice(dashboardText("NETWORK_DEFAULT"), DeviceChoice::simulated(QString()));
+    QStringList files = Scenarios::shipped();
+    if (m_choice.kind == DeviceChoice::Simulated && !m_choice.name.isEmpty() &&
+        !files.contains(m_choice.name))
+        files << m_choice.name;
+    for (const QString &file : files) {
+        if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
+            addChoice(asMenuText(Scenarios::displayName(file)), DeviceChoice::simulated(file));
+    }
+}
+
+void NetworkMenu::addChoice(const QString &text, const DeviceChoice &choice)
 {
     QAction *action = addAction(text);
-    action->setData(file);
+    action->setData(choice.word());
     action->setCheckable(true);
-    action->setChecked(file == m_current);
+    action->setChecked(choice == m_choice);
     m_group->addAction(action);
+}
+
+bool NetworkMenu::hasModem(const QString &equipmentId) const
+{
+    for (const Modem &modem : m_modems) {
+        if (modem.equipmentId == equipmentId)
+            return true;
+    }
+    return false;
 }
 
 void NetworkMenu::onTriggered(QAction *action)

@@ -3,21 +3,30 @@
 
 #include <QMenu>
 
+#include "DeviceChoice.h"
+#include "Modem.h"
+
 class QActionGroup;
 
-/** The simulated networks to choose from, and the modem. */
+/** The devices to choose from: automatic, the modems, the simulated networks. */
 class NetworkMenu : public QMenu
 {
     Q_OBJECT
 public:
     explicit NetworkMenu(QWidget *parent = nullptr);
 
-    /// Builds the menu anew with this scenario file checked; empty is the default.
-    void setCurrent(const QString &file);
+    /// What is chosen and which modems there are. A menu that is open stays as it is until it is
+    /// opened again, so that nothing moves under the pointer.
+    void offer(const DeviceChoice &choice, const QList<Modem> &modems);
+    const DeviceChoice &choice() const { return m_choice; }
+
+public slots:
+    /// Reads the texts again.
     void retranslate();
 
 signals:
-    void chosen(const QString &file);
+    /// The word of a DeviceChoice.
+    void chosen(const QString &word);
     /// The user wants to pick a file.
     void openRequested();
 
@@ -25,10 +34,14 @@ private slots:
     void onTriggered(QAction *action);
 
 private:
-    void addScenario(const QString &text, const QString &file);
+    void addModems();
+    void addScenarios();
+    void addChoice(const QString &text, const DeviceChoice &choice);
+    bool hasModem(const QString &equipmentId) const;
 
     QActionGroup *m_group = nullptr;
-    QString m_current;
+    DeviceChoice m_choice;
+    QList<Modem> m_modems;
 };
 
 #endif

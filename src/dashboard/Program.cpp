@@ -7,6 +7,8 @@
 #include "CommandSender.h"
 #include "DashboardSettings.h"
 #include "DashboardText.h"
+#include "DeviceStatus.h"
+#include "DeviceWait.h"
 #include "FirstPaint.h"
 #include "GeneralWindow.h"
 #include "IUIPlugin.h"
@@ -17,7 +19,6 @@
 #include "ProfileKeeper.h"
 #include "ReplyLimit.h"
 #include "ReplyTap.h"
-#include "Scenarios.h"
 #include "TerminalText.h"
 #include "tksv.h"
 #include "Tour.h"
@@ -28,6 +29,8 @@ namespace
 {
 
 const char PLATFORM[] = "QT_QPA_PLATFORM";
+const int REGISTRATION_LIMIT =
+    10000;                         // ms that --send waits for the device, the reply limit at most
 const QSize UNSEEN_SIZE(800, 600); // of the widget that hosts the plug-in's page without a display
 
 bool isSet(const char *variable)
@@ -52,22 +55,46 @@ int fail(const QString &text, ExitCode code = EXIT_BAD)
     return code;
 }
 
-/// Empty when the scenario of the command line is in use, or when none is named there.
-QString useNamedScenario(const Arguments &arguments)
+bool namesDevice(const Arguments &arguments)
 {
-    return arguments.scenario.isEmpty() ? QString() : Scenarios::use(arguments.scenario);
+    return !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// The remembered scenario, unless the environment names one; `used` is the one that is in use
-/// then. Returns what is wrong with it; the default is in use then.
-QString useRememberedScenario(const DashboardSettings &settings, QString *used)
+/// What the command line asks for, else the environment, else what was chosen last. Who names a
+/// scenario wants no modem, whose commands may cost money.
+DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings)
 {
-    if (isSet("TKSV_SCENARIO") || settings.scenario().isEmpty())
-        return Scenarios::use(QString());
-    QString error = Scenarios::use(settings.scenario());
-    if (error.isEmpty())
-        *used = settings.scenario();
+    if (!arguments.modem.isEmpty())
+        return DeviceChoice::modem(arguments.modem);
+    if (!arguments.scenario.isEmpty())
+        return DeviceChoice::simulated(arguments.scenario);
+    if (isSet("TKSV_BACKEND"))
+        return DeviceChoice::automatic();
+    return isSet("TKSV_SCENARIO") ? DeviceChoice::simulated(QString()) : settings.device();
+}
+
+/// Uses the device. A scenario that was only remembered, and is no good any more, leaves the
+/// automatic choice. Returns what is wrong with it.
+QString useDevice(DeviceChoice *choice)
+{
+    QString error = choice->use();
+    if (!error.isEmpty()) {
+        *choice = DeviceChoice::automatic();
+        choice->use();
+    }
     return error;
+}
+
+/// Waits for a modem that is still registering; says on standard error what it waits for in vain.
+bool isDeviceReady(const Arguments &arguments)
+{
+    const bool isReady = waitForDevice(qMin(replyLimit(), REGISTRATION_LIMIT));
+    const DeviceStatus device = readDeviceStatus();
+    if (arguments.verbose)
+        printErrorLine(device.sourceText());
+    if (!isReady)
+        sayWhyNotReady(device);
+    return isReady;
 }
 
 int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
@@ -110,27 +137,23 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
     Languages::setCurrent(Languages::current()); // now for widgets too
-    const QString unusable = useNamedScenario(arguments);
-    if (!unusable.isEmpty())
-        return fail(unusable, EXIT_USAGE);
     DashboardSettings settings;
-    QString scenario = arguments.scenario;
-    QString forgotten; // before the window, which asks the device and would start the default
-    if (scenario.isEmpty())
-        forgotten = useRememberedScenario(settings, &scenario);
+    DeviceChoice choice = wantedDevice(arguments, settings);
+    const QString unusable = useDevice(&choice);
+    if (!unusable.isEmpty() && namesDevice(arguments))
+        return fail(unusable, EXIT_USAGE);
     UiPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, &settings);
-    if (!scenario.isEmpty())
-        window.setScenario(scenario);
+    window.setDevice(choice);
     FirstPaint shown(&window);
     window.show();
     ProfileKeeper profiles(ProfileBackup::ofUser());
     QObject::connect(&profiles, SIGNAL(ready()), &window, SLOT(loadPlugin()));
     QObject::connect(&window, SIGNAL(frameClosed()), &profiles, SLOT(refresh()));
     QObject::connect(&shown, SIGNAL(painted()), &profiles, SLOT(start()));
-    if (!forgotten.isEmpty())
-        window.showScenarioError(forgotten);
+    if (!unusable.isEmpty())
+        window.showScenarioError(unusable);
     const int result = QApplication::exec();
     plugin.shutDown(); // before the window that hosts the plug-in's page
     return result;
@@ -140,10 +163,13 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
 {
     doWithoutDisplay();
     QApplication application(argc, argv);
-    const QString unusable = useNamedScenario(arguments);
+    DeviceChoice choice = wantedDevice(arguments, DashboardSettings());
+    const QString unusable = choice.use();
     if (!unusable.isEmpty())
         return fail(unusable, EXIT_USAGE);
-    ReplyTap tap;
+    ReplyTap tap; // before the device begins to speak
+    if (!isDeviceReady(arguments))
+        return EXIT_BAD;
     UiPlugin plugin;
     const PluginFailure failure = plugin.load(UiPlugin::installedFile());
     if (!plugin.isUsable())

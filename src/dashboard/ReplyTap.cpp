@@ -35,6 +35,14 @@ void ReplyTap::clear()
     m_reply = Reply();
 }
 
+void ReplyTap::expectAnswer()
+{
+    Reply question;
+    question.isReceived = true;
+    question.asksForAnswer = true;
+    keep(question);
+}
+
 Reply ReplyTap::reply() const
 {
     QMutexLocker lock(&m_mutex);

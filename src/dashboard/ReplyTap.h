@@ -26,6 +26,8 @@ public:
 
     /// Forgets what was heard. Any thread.
     void clear();
+    /// The network waits for an answer, to a text that was heard elsewhere. Any thread.
+    void expectAnswer();
     /// The newest reply. Any thread.
     Reply reply() const;
 

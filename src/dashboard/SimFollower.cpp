@@ -15,6 +15,7 @@ SimFollower::SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject 
     connect(&m_finder, SIGNAL(changed()), this, SIGNAL(paidTypeChanged()));
     connect(&m_activity, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
     connect(&m_activity, SIGNAL(frameClosed()), this, SLOT(ask()));
+    connect(&m_activity, SIGNAL(commandEnded()), this, SIGNAL(commandEnded()));
     connect(&m_activity, SIGNAL(commandEnded()), this, SLOT(ask()));
 }
 
@@ -43,6 +44,8 @@ void SimFollower::look()
     const QString imsi = currentImsi();
     if (imsi == m_imsi)
         return ask(); // it may be registered only now
+    if (!m_imsi.isEmpty())
+        m_replies.clear();
     m_imsi = imsi;
     m_plugin->notifySimChange();
     offer();
@@ -51,7 +54,13 @@ void SimFollower::look()
 void SimFollower::offer()
 {
     emit windowsOffered(windowsForSim(m_plugin->ussd(), m_imsi));
-    onDeviceLost();
+    m_finder.restart();
+}
+
+// Told here as well, since the text may have come before anybody listened to the replies.
+void SimFollower::questionCame()
+{
+    m_replies.expectAnswer();
 }
 
 /// Menus end with the device.

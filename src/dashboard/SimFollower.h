@@ -29,6 +29,8 @@ public:
 public slots:
     /// The plug-in is there now, perhaps anew.
     void start();
+    /// The network waits for an answer to a text of its own: nothing is asked until it has ended.
+    void questionCame();
 
 signals:
     /// These windows go with the SIM, a set of SimWindow.
@@ -36,6 +38,8 @@ signals:
     /// What paidTypeText() or isAsking() says is something else now.
     void paidTypeChanged();
     void frameClosed();
+    /// A command that the user typed has ended.
+    void commandEnded();
 
 private slots:
     void look();

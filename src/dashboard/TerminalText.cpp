@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cstdio>
 
+#include "LogFile.h"
 #include "QtCompat.h"
 
 namespace
@@ -46,6 +47,7 @@ void print(FILE *stream, const QString &text)
 // weight, so no comparison.
 void log(QtMsgType type, const char *text)
 {
+    LogFile::write(QString::fromLocal8Bit(text));
     if (logsEverything || type == QtCriticalMsg || type == QtFatalMsg)
         printErrorLine(QString::fromLocal8Bit(text));
 }

@@ -15,7 +15,8 @@ void printLine(const QString &text);
 void printErrorLine(const QString &text);
 
 /// From now on Qt's messages go to standard error through terminalText(): all of them when
-/// `everything`, otherwise only those that say that the program cannot go on.
+/// `everything`, otherwise only those that say that the program cannot go on. All of them go to the
+/// LogFile as well, if one is open.
 void installTerminalLog(bool everything);
 
 #endif

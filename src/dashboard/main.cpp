@@ -5,7 +5,9 @@
 
 #include "Arguments.h"
 #include "DashboardSettings.h"
+#include "DashboardText.h"
 #include "Languages.h"
+#include "LogFile.h"
 #include "Program.h"
 #include "TerminalText.h"
 
@@ -43,6 +45,14 @@ bool chooseLanguage(Arguments *arguments)
     return false;
 }
 
+/// Where the log lines go that hold codes and replies. Returns why they cannot go to the file.
+QString startLog(const Arguments &arguments)
+{
+    if (arguments.verbose)
+        printErrorLine(dashboardText("LOG_HOLDS"));
+    return arguments.logFile.isEmpty() ? QString() : LogFile::open(arguments.logFile);
+}
+
 int run(int &argc, char **argv, const Arguments &arguments)
 {
     switch (arguments.mode) {
@@ -70,5 +80,10 @@ int main(int argc, char **argv)
     installTerminalLog(arguments.verbose);
     if (!chooseLanguage(&arguments) || arguments.errorKey)
         return Program::complain(arguments);
+    const QString unusableLog = startLog(arguments);
+    if (!unusableLog.isEmpty()) {
+        printErrorLine(unusableLog);
+        return EXIT_USAGE;
+    }
     return run(argc, argv, arguments);
 }

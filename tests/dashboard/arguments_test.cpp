@@ -25,6 +25,7 @@ private slots:
     void sendTakesCodeAndAnswers();
     void sendStopsAtTheNextOption();
     void behindTwoHyphensEverythingIsAnAnswer();
+    void aModemAndALogAreNamed();
     void valuesMayStandBehindAnEqualsSign();
     void helpAndVersionWin();
     void mistakesAreNamed_data();
@@ -68,6 +69,14 @@ void ArgumentsTest::behindTwoHyphensEverythingIsAnAnswer()
     QCOMPARE(arguments.commands, words("*123# --help --"));
 }
 
+void ArgumentsTest::aModemAndALogAreNamed()
+{
+    const Arguments arguments = parse("--modem 353612345678901 --log=/tmp/a.log");
+    QVERIFY(!arguments.errorKey);
+    QCOMPARE(arguments.modem, QLatin1String("353612345678901"));
+    QCOMPARE(arguments.logFile, QLatin1String("/tmp/a.log"));
+}
+
 void ArgumentsTest::valuesMayStandBehindAnEqualsSign()
 {
     const Arguments arguments = parse("--tour=/tmp/a=b --language=ar");
@@ -109,6 +118,10 @@ void ArgumentsTest::mistakesAreNamed_data()
     row("--send *1# --tour x", "CLI_CONFLICT", "");
     row("--tour x --send *1#", "CLI_CONFLICT", "");
     row("--tour x --scenario y", "CLI_TOUR_SCENARIO", "");
+    row("--modem 1 --tour x", "CLI_TOUR_SCENARIO", "");
+    row("--modem 1 --scenario y", "CLI_MODEM_SCENARIO", "");
+    row("--modem", "CLI_MISSING_VALUE", "--modem");
+    row("--log=", "CLI_MISSING_VALUE", "--log");
 }
 
 void ArgumentsTest::mistakesAreNamed()

@@ -50,7 +50,6 @@ private slots:
     void arabicTurnsTheWindow();
     void anotherNetworkIsChosenFromTheMenu();
     void aBadScenarioIsSaidInWordsAndTheOldOneStays();
-    void theModemCannotBeChosenYet();
     void everyControlHasAName();
 
 private:
@@ -218,14 +217,15 @@ void MainWindowTest::arabicTurnsTheWindow()
 
 void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
 {
-    QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT"))->isChecked());
+    QVERIFY(networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
     QAction *postpaid = networkAction(QLatin1String("postpaid"));
     QVERIFY(postpaid);
     postpaid->trigger();
     QTRY_VERIFY(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"))
                     ->text()
                     .contains(QLatin1String("postpaid.scenario")));
-    QVERIFY(m_settings->scenario().endsWith(QLatin1String("/postpaid.scenario")));
+    QVERIFY(m_settings->device().word().startsWith(QLatin1String("simulated:/")));
+    QVERIFY(m_settings->device().name.endsWith(QLatin1String("/postpaid.scenario")));
     QVERIFY(networkAction(QLatin1String("postpaid"))->isChecked());
 }
 
@@ -242,16 +242,9 @@ void MainWindowTest::aBadScenarioIsSaidInWordsAndTheOldOneStays()
     });
     QVERIFY(!m_window->useScenario(file));
     QVERIFY2(said.contains(QLatin1String("bad.scenario:")), qPrintable(said));
-    QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT"))->isChecked());
+    QVERIFY(networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
     theDeviceAndTheSourceAreShown();
-    QVERIFY(m_settings->scenario().isEmpty());
-}
-
-void MainWindowTest::theModemCannotBeChosenYet()
-{
-    const QAction *modem = networkAction(dashboardText("NETWORK_MODEM"));
-    QVERIFY(modem);
-    QVERIFY(!modem->isEnabled());
+    QVERIFY(m_settings->device() == DeviceChoice::automatic());
 }
 
 void MainWindowTest::everyControlHasAName()

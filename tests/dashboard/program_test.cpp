@@ -1,11 +1,17 @@
 #include <QDir>
+#include <QDirIterator>
 #include <QImage>
 #include <QProcess>
+
+#include <unistd.h>
 
 #include "UssdTest.h"
 
 namespace
 {
+
+const QFile::Permissions OWNER =
+    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
 
 struct Run {
     int code = -1;
@@ -113,9 +119,18 @@ private slots:
     void aFailureSpeaksTheLanguage();
     void aTooLongCodeFails();
     void aDeviceThatIsNotReadyIsNamed();
+    void aDeviceThatIsStillRegisteringIsWaitedFor();
+    void theWaitForADeviceEndsInWords();
+    void theDeviceInUseIsToldWhenAskedFor();
+    void aModemThatIsNotThereIsSaid();
     void aDeviceThatGoesAwayFails();
     void noControlCharacterReachesTheTerminal();
     void theLogIsSilentUnlessAskedFor();
+    void theLogSaysWhatItHolds();
+    void theLogFileIsTheUsersAlone();
+    void aLogFileOfEarlierIsMadePrivate();
+    void aLogIsNotWrittenThroughALink();
+    void noLogIsWrittenUnlessAskedFor();
     void aBadScenarioIsNamedByLine();
     void aMissingPluginIsSaid();
     void theShippedNetworkTellsTheBalance();
@@ -246,6 +261,42 @@ void ProgramTest::aDeviceThatIsNotReadyIsNamed()
     QVERIFY2(result.error.contains(QLatin1String("PIN")), qPrintable(result.error));
 }
 
+void ProgramTest::aDeviceThatIsStillRegisteringIsWaitedFor()
+{
+    const Run result = runWith("[Network]\nOperator=O\nIMSI=001010000000007\nState=searching\n"
+                               "[*100#]\nReply=x\n[Event found]\nAfter=100\nState=registered\n",
+                               "--send *100#");
+    QVERIFY2(result.error.isEmpty(), qPrintable(result.error));
+    QCOMPARE(result.out, QLatin1String("x\n"));
+    QCOMPARE(result.code, 0);
+}
+
+void ProgramTest::theWaitForADeviceEndsInWords()
+{
+    const Run result = runWith("[Network]\nOperator=O\nIMSI=001010000000007\nState=searching\n"
+                               "[*100#]\nReply=x\n",
+                               "--send *100#");
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.error, QLatin1String("Searching for a network...\n"));
+}
+
+void ProgramTest::theDeviceInUseIsToldWhenAskedFor()
+{
+    const QString source = QLatin1String("Source: simulated network (quick.scenario)\n");
+    QVERIFY(run("--verbose --send *100#").error.contains(source));
+    QVERIFY(!run("--send *100#").error.contains(source));
+}
+
+// There is no message bus in the tests.
+void ProgramTest::aModemThatIsNotThereIsSaid()
+{
+    const Run result = run("--modem 353612345678901 --verbose --send *100#");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.error.contains(QLatin1String("D-Bus")), qPrintable(result.error));
+    QVERIFY(result.error.contains(QLatin1String("Source: modem (none)")));
+    QVERIFY(result.out.isEmpty());
+}
+
 void ProgramTest::aDeviceThatGoesAwayFails()
 {
     const Run result = run("--send *194#");
@@ -272,6 +323,74 @@ void ProgramTest::theLogIsSilentUnlessAskedFor()
 {
     QVERIFY(run("--send *100#").error.isEmpty());
     QVERIFY(run("--verbose --send *100#").error.contains(QLatin1String("Enter")));
+}
+
+void ProgramTest::theLogSaysWhatItHolds()
+{
+    const QString file = folder() + QLatin1String("/a.log");
+    const Run result = run(QStringList() << QLatin1String("--log") << file
+                                         << QLatin1String("--send") << QLatin1String("*100#"),
+                           quickNetwork());
+    QCOMPARE(result.code, 0);
+    QVERIFY(result.error.isEmpty());
+    const QByteArray log = contentOf(file);
+    QVERIFY2(log.startsWith("This log holds the codes"), log.constData());
+    QVERIFY(log.contains("*100#"));
+    const Run verbose = run("--verbose --send *100#");
+    QVERIFY(verbose.error.startsWith(QLatin1String("This log holds the codes")));
+}
+
+void ProgramTest::theLogFileIsTheUsersAlone()
+{
+    const QString file = folder() + QLatin1String("/a.log");
+    run(QStringList() << QLatin1String("--log") << file << QLatin1String("--send")
+                      << QLatin1String("*100#"),
+        quickNetwork());
+    QCOMPARE(QFileInfo(file).permissions(), OWNER);
+}
+
+void ProgramTest::aLogFileOfEarlierIsMadePrivate()
+{
+    const QString file = writeFile(QLatin1String("a.log"), "earlier");
+    QVERIFY(QFile::setPermissions(file, OWNER | QFile::ReadOther | QFile::ReadGroup));
+    run(QStringList() << QLatin1String("--log") << file << QLatin1String("--send")
+                      << QLatin1String("*100#"),
+        quickNetwork());
+    QCOMPARE(QFileInfo(file).permissions(), OWNER);
+    QVERIFY(contentOf(file).startsWith("This log"));
+}
+
+void ProgramTest::aLogIsNotWrittenThroughALink()
+{
+    const QString target = writeFile(QLatin1String("target"), "untouched");
+    const QString link = folder() + QLatin1String("/link");
+    const QString other = folder() + QLatin1String("/other");
+    QVERIFY(QFile::link(target, link));
+    QCOMPARE(::link(QFile::encodeName(target).constData(), QFile::encodeName(other).constData()),
+             0);
+    for (const QString &file : {link, other, folder()}) {
+        const Run result = run(QStringList() << QLatin1String("--log") << file
+                                             << QLatin1String("--send") << QLatin1String("*100#"),
+                               quickNetwork());
+        QCOMPARE(result.code, 2);
+        QVERIFY2(result.error.contains(file), qPrintable(result.error));
+        QVERIFY(result.out.isEmpty());
+        QCOMPARE(contentOf(target), QByteArray("untouched"));
+    }
+}
+
+void ProgramTest::noLogIsWrittenUnlessAskedFor()
+{
+    QProcessEnvironment environment = quickNetwork();
+    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME",
+                                 "TMPDIR", "XDG_RUNTIME_DIR"})
+        environment.insert(QLatin1String(variable), folder());
+    run(QStringList() << QLatin1String("--verbose") << QLatin1String("--send")
+                      << QLatin1String("*100#"),
+        environment);
+    QDirIterator files(folder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        QVERIFY2(!contentOf(files.next()).contains("*100#"), qPrintable(files.filePath()));
 }
 
 void ProgramTest::aBadScenarioIsNamedByLine()

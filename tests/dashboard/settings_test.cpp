@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -21,6 +22,10 @@ protected:
 private slots:
     void nothingIsRememberedAtFirst();
     void whatWasSetIsThereTheNextTime();
+    void everyChoiceOfADeviceIsRemembered_data();
+    void everyChoiceOfADeviceIsRemembered();
+    void aFileOfOldHasAScenarioAlone();
+    void anUnknownWordIsAutomatic();
     void onlyTheUserCanReadTheFile();
     void aFileThatOthersCouldReadIsClosed();
     void readingLeavesNoFile();
@@ -30,7 +35,7 @@ void SettingsTest::nothingIsRememberedAtFirst()
 {
     const DashboardSettings settings;
     QVERIFY(settings.language().isEmpty());
-    QVERIFY(settings.scenario().isEmpty());
+    QVERIFY(settings.device() == DeviceChoice::automatic());
     QVERIFY(settings.geometry().isEmpty());
 }
 
@@ -40,13 +45,52 @@ void SettingsTest::whatWasSetIsThereTheNextTime()
     {
         DashboardSettings settings;
         settings.setLanguage(QLatin1String("ar"));
-        settings.setScenario(file);
+        settings.setDevice(DeviceChoice::simulated(file));
         settings.setGeometry(QByteArray("\0\x01\xff", 3));
     }
     const DashboardSettings settings;
     QCOMPARE(settings.language(), QLatin1String("ar"));
-    QCOMPARE(settings.scenario(), file);
+    QVERIFY(settings.device() == DeviceChoice::simulated(file));
     QCOMPARE(settings.geometry(), QByteArray("\0\x01\xff", 3));
+}
+
+void SettingsTest::everyChoiceOfADeviceIsRemembered_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::newRow("automatic") << QString::fromLatin1("automatic");
+    QTest::newRow("default network") << QString::fromLatin1("simulated:");
+    QTest::newRow("network") << QString::fromLatin1("simulated:/a/b:c.scenario");
+    QTest::newRow("modem") << QString::fromLatin1("modem:353612345678901");
+}
+
+void SettingsTest::everyChoiceOfADeviceIsRemembered()
+{
+    QFETCH(QString, word);
+    {
+        DashboardSettings settings;
+        settings.setDevice(DeviceChoice::modem(QLatin1String("earlier")));
+        settings.setDevice(DeviceChoice::fromWord(word));
+    }
+    QCOMPARE(DashboardSettings().device().word(), word);
+}
+
+void SettingsTest::aFileOfOldHasAScenarioAlone()
+{
+    const QString name = DashboardSettings().file();
+    QDir().mkpath(QFileInfo(name).path());
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[General]\nscenario=/a/old.scenario\n");
+    file.close();
+    QCOMPARE(DashboardSettings().device().word(), QLatin1String("simulated:/a/old.scenario"));
+    DashboardSettings().setDevice(DeviceChoice::automatic());
+    QCOMPARE(DashboardSettings().device().word(), QLatin1String("automatic"));
+}
+
+void SettingsTest::anUnknownWordIsAutomatic()
+{
+    for (const char *word : {"", "modem:", "satellite:1"})
+        QVERIFY(DeviceChoice::fromWord(QLatin1String(word)) == DeviceChoice::automatic());
 }
 
 void SettingsTest::onlyTheUserCanReadTheFile()

@@ -23,7 +23,7 @@ QStringList keysIn(const QString &code)
     // The first words of the dashboard's keys; other upper-case names are the environment's.
     static const QRegularExpression key(QLatin1String(
         "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
-        "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE)_[A-Z_]+)\""));
+        "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES)_[A-Z_]+)\""));
     QStringList keys;
     for (auto match = key.globalMatch(code); match.hasNext();)
         keys << match.next().captured(1);
@@ -62,8 +62,8 @@ void TextsTest::theHelpNamesEveryOption()
     for (const QString &code : Languages::codes()) {
         QVERIFY(Languages::setCurrent(code));
         const QString help = dashboardText("CLI_HELP");
-        for (const char *option :
-             {"--send", "--tour", "--scenario", "--language", "--verbose", "--help", "--version"})
+        for (const char *option : {"--send", "--tour", "--scenario", "--modem", "--language",
+                                   "--verbose", "--log", "--help", "--version"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 }

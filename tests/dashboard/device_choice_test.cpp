@@ -1,0 +1,179 @@
+#include "DashboardText.h"
+#include "DeviceTest.h"
+#include "Languages.h"
+#include "NetworkMenu.h"
+
+/** The menu of devices, and the words for what is wrong with them. */
+class DeviceChoiceTest : public DeviceTest
+{
+    Q_OBJECT
+private slots:
+    void withoutAModemTheMenuSaysSo();
+    void modemsAreNamedAndTwinsTellTheirDigits();
+    void aChosenModemIsUsedAndRemembered();
+    void automaticIsUsedAndRemembered();
+    void aChosenModemThatIsNotThereStaysInTheMenu();
+    void anOpenMenuStaysAsItIs();
+    void aModemThatComesIsOffered();
+    void aNameIsNoMnemonic();
+    void everyProblemIsSaidInEveryLanguage_data();
+    void everyProblemIsSaidInEveryLanguage();
+    void everyStateOfAModemSaysWhatToDo_data();
+    void everyStateOfAModemSaysWhatToDo();
+    void aRegisteredModemNeedsNoWords();
+    void theStatusLineSaysWhichModem();
+};
+
+void DeviceChoiceTest::withoutAModemTheMenuSaysSo()
+{
+    const QAction *none = networkAction(dashboardText("NETWORK_NO_MODEM"));
+    QVERIFY(none);
+    QVERIFY(!none->isEnabled());
+    QVERIFY(networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
+}
+
+void DeviceChoiceTest::modemsAreNamedAndTwinsTellTheirDigits()
+{
+    tellModems({modem("353612345678901", "Maker Stick"), modem("353612345678902", "Maker Stick"),
+                modem("353699999999999", "Maker Card", true)});
+    const QString mark = QString(QChar(0x200e));
+    QVERIFY(networkAction(QString::fromUtf8("Maker Stick (…8901)") + mark));
+    QVERIFY(networkAction(QString::fromUtf8("Maker Stick (…8902)") + mark));
+    QVERIFY(networkAction(QLatin1String("Maker Card (in use)")));
+    QVERIFY(!networkAction(dashboardText("NETWORK_NO_MODEM")));
+}
+
+void DeviceChoiceTest::aChosenModemIsUsedAndRemembered()
+{
+    tellModems({modem("353612345678901", "Maker Stick"), modem("353699999999999", "Maker Card")});
+    networkAction(QLatin1String("Maker Card"))->trigger();
+    const std::vector<FakeCall> calls = fakeSdkCalls("TKSV_Device_UseModem");
+    QCOMPARE(calls.size(), std::size_t(1));
+    QCOMPARE(calls.front().path, std::string("353699999999999"));
+    QCOMPARE(settings().device().word(), QLatin1String("modem:353699999999999"));
+    QVERIFY(networkAction(QLatin1String("Maker Card"))->isChecked());
+    QVERIFY(!networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
+}
+
+void DeviceChoiceTest::automaticIsUsedAndRemembered()
+{
+    settings().setDevice(DeviceChoice::modem(QLatin1String("1")));
+    networkAction(dashboardText("NETWORK_AUTOMATIC"))->trigger();
+    QCOMPARE(fakeSdkCalls("TKSV_Device_UseAutomatic").size(), std::size_t(1));
+    QVERIFY(settings().device() == DeviceChoice::automatic());
+}
+
+void DeviceChoiceTest::aChosenModemThatIsNotThereStaysInTheMenu()
+{
+    window().setDevice(DeviceChoice::modem(QLatin1String("353612345678901")));
+    QAction *absent =
+        networkAction(dashboardText("NETWORK_ABSENT_MODEM").arg(QLatin1String("353612345678901")));
+    QVERIFY(absent);
+    QVERIFY(absent->isChecked());
+    tellModems({modem("353612345678901", "Maker Stick")});
+    QVERIFY(networkAction(QLatin1String("Maker Stick"))->isChecked());
+}
+
+void DeviceChoiceTest::anOpenMenuStaysAsItIs()
+{
+    window().networkMenu()->popup(QPoint());
+    const QList<QAction *> before = window().networkMenu()->actions();
+    tellModems({modem("353612345678901", "Maker Stick")});
+    QCOMPARE(window().networkMenu()->actions(), before);
+    window().networkMenu()->close();
+    window().networkMenu()->popup(QPoint());
+    QVERIFY(networkAction(QLatin1String("Maker Stick")));
+    window().networkMenu()->close();
+}
+
+void DeviceChoiceTest::aModemThatComesIsOffered()
+{
+    tellModems({modem("353612345678901", "Maker Stick")});
+    QVERIFY(networkAction(QLatin1String("Maker Stick")));
+    tellModems({});
+    QVERIFY(!networkAction(QLatin1String("Maker Stick")));
+}
+
+void DeviceChoiceTest::aNameIsNoMnemonic()
+{
+    tellModems({modem("1", "Maker & Son")});
+    QVERIFY(networkAction(QLatin1String("Maker && Son")));
+}
+
+void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
+{
+    QTest::addColumn<int>("problem");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("word"); // that every language has
+    const auto row = [](int problem, int state, const char *word) {
+        QTest::newRow(word) << problem << state << QString::fromLatin1(word);
+    };
+    row(TKSV_PROBLEM_NO_BUS, TKSV_DEVICE_ABSENT, "D-Bus");
+    row(TKSV_PROBLEM_NO_SERVICE, TKSV_DEVICE_ABSENT, "systemctl start ModemManager");
+    row(TKSV_PROBLEM_NOT_PERMITTED, TKSV_DEVICE_DISABLED,
+        "org.freedesktop.ModemManager1.Device.Control");
+    row(TKSV_PROBLEM_CHOSEN_ABSENT, TKSV_DEVICE_ABSENT, "");
+    row(TKSV_PROBLEM_WRONG_PIN, TKSV_DEVICE_SIM_LOCKED, "2");
+    row(TKSV_PROBLEM_PUK_NEEDED, TKSV_DEVICE_SIM_LOCKED, "PUK");
+    row(TKSV_PROBLEM_NO_USSD, TKSV_DEVICE_REGISTERED, "USSD");
+    row(TKSV_PROBLEM_MODEM_FAILED, TKSV_DEVICE_ABSENT, "ModemManager");
+}
+
+void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage()
+{
+    QFETCH(int, problem);
+    QFETCH(int, state);
+    QFETCH(QString, word);
+    tell(modemInfo(state, problem, 2));
+    QSet<QString> said;
+    for (const QString &code : Languages::codes()) {
+        window().setLanguage(code);
+        const QString text = notice("Dashboard_DeviceNotice");
+        QVERIFY2(text.contains(word), qPrintable(code + QLatin1Char(' ') + text));
+        said << text;
+    }
+    QCOMPARE(said.size(), Languages::codes().size());
+    QVERIFY(!said.contains(QString()));
+}
+
+void DeviceChoiceTest::everyStateOfAModemSaysWhatToDo_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("absent") << int(TKSV_DEVICE_ABSENT) << QString::fromLatin1("no modem");
+    QTest::newRow("missing") << int(TKSV_DEVICE_SIM_MISSING) << QString::fromLatin1("Insert");
+    QTest::newRow("locked") << int(TKSV_DEVICE_SIM_LOCKED) << QString::fromLatin1("PIN");
+    QTest::newRow("disabled") << int(TKSV_DEVICE_DISABLED) << QString::fromLatin1("Switch it on");
+}
+
+void DeviceChoiceTest::everyStateOfAModemSaysWhatToDo()
+{
+    QFETCH(int, state);
+    QFETCH(QString, words);
+    tell(modemInfo(state));
+    QVERIFY2(notice("Dashboard_DeviceNotice").contains(words),
+             qPrintable(notice("Dashboard_DeviceNotice")));
+}
+
+void DeviceChoiceTest::aRegisteredModemNeedsNoWords()
+{
+    tell(modemInfo(TKSV_DEVICE_DISABLED));
+    tell(modemInfo(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(notice("Dashboard_DeviceNotice"), QString());
+}
+
+void DeviceChoiceTest::theStatusLineSaysWhichModem()
+{
+    const QLabel *source = part<QLabel>("Dashboard_Source");
+    QCOMPARE(source->text(), QLatin1String("Source: modem (Maker Model)"));
+    TKSV_DeviceInfo none = modemInfo(TKSV_DEVICE_ABSENT);
+    none.source[0] = 0;
+    tell(none);
+    QCOMPARE(source->text(), QLatin1String("Source: modem (none)"));
+    none.state = TKSV_DEVICE_SEARCHING;
+    tell(none);
+    QCOMPARE(source->text(), dashboardText("SOURCE_LOOKING"));
+}
+
+USSD_TEST_MAIN(DeviceChoiceTest)
+#include "device_choice_test.moc"
