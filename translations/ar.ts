@@ -687,7 +687,7 @@
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;تلقائي: مودم، وإلا شبكة محاكاة</translation>
+        <translation>تلقائي: مودم، وإلا شبكة محاكاة</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -771,19 +771,19 @@
     </message>
     <message>
         <source>PIN_LABEL</source>
-        <translation>رمز &amp;PIN:</translation>
+        <translation>رمز PIN:</translation>
     </message>
     <message>
         <source>PIN_BUTTON</source>
-        <translation>إدخال رمز PI&amp;N…</translation>
+        <translation>إدخال رمز PIN…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
-        <translation>&amp;فتح القفل</translation>
+        <translation>فتح القفل</translation>
     </message>
     <message>
         <source>PIN_CANCEL</source>
-        <translation>&amp;إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>PIN_TRIES</source>
@@ -848,6 +848,85 @@
     <message>
         <source>CLI_MODEM_SCENARIO</source>
         <translation>‎--modem‎ و‎--scenario‎ لا يجتمعان.</translation>
+    </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>رموز المشغّل…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>بطاقة SIM هذه من %1. يمكن أخذ رموز الرصيد والتعبئة من قائمة المشغّلين.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>يمكن أخذ رموز الرصيد والتعبئة من قائمة المشغّلين. يناسب هذه البطاقة أكثر من مشغّل: اختر مشغّلك.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>أخذها</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>اختيار…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>رموز المشغّل</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>رموز أي مشغّل تُستخدم مع بطاقة SIM هذه (الشبكة %1)؟</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>الرموز المرفقة بالبرنامج</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>استخدام</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>تُستخدم الآن رموز %1.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>تُستخدم الآن الرموز المرفقة بالبرنامج.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>لا يمكن استخدام رموز %1: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>هذه الملفات عُدّلت يدويًا وهي قيد الاستخدام:
+‎%1‎
+
+هل تُوضع جانبًا من أجل رموز %2؟ ستبقى محفوظة.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>لا توجد بطاقة SIM معروفة الشبكة.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>لا توجد قائمة مشغّلين. ثبّت الحزمة ‎mobile-broadband-provider-info‎.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>الإعداد محدد بواسطة ‎USSD_PLUGIN_LIBRARY_PATH‎.</translation>
     </message>
 </context>
 </TS>

@@ -849,5 +849,84 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Nein löscht die
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem und --scenario passen nicht zusammen.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Codes des Betreibers …</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>Diese SIM-Karte ist von %1. Die Codes für Guthaben und Aufladung können aus der Liste der Betreiber übernommen werden.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>Die Codes für Guthaben und Aufladung können aus der Liste der Betreiber übernommen werden. Mehrere passen zu dieser SIM-Karte: bitte wählen.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>Über&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>&amp;Wählen …</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Codes des Betreibers</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>Wessen Codes sollen mit dieser SIM-Karte (Netz %1) verwendet werden?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>Die mit dem Programm gelieferten Codes</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Verwenden</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>Jetzt werden die Codes von %1 verwendet.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>Jetzt werden die mit dem Programm gelieferten Codes verwendet.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>Die Codes von %1 sind nicht benutzbar: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>Diese Dateien wurden von Hand geändert und sind in Gebrauch:
+%1
+
+Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>Es ist keine SIM-Karte da, deren Netz bekannt ist.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>Es gibt keine Liste der Betreiber. Das Paket mobile-broadband-provider-info installieren.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>Die Konfiguration ist durch USSD_PLUGIN_LIBRARY_PATH bestimmt.</translation>
+    </message>
 </context>
 </TS>

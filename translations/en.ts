@@ -849,5 +849,84 @@ There is a copy of it, made on %2. Do you want it back? No deletes the copy.</tr
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem and --scenario do not go together.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Operator’s codes…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>This SIM card is of %1. The codes for its balance and top-up can be taken from the list of operators.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>The codes for balance and top-up can be taken from the list of operators. Several of them fit this SIM card: choose yours.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>&amp;Take them</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>C&amp;hoose…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Operator’s codes</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>Whose codes shall be used with this SIM card (network %1)?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>The codes that come with the program</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Use</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>The codes of %1 are in use now.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>The codes that come with the program are in use now.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>The codes of %1 cannot be used: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>These files were changed by hand and are in use:
+%1
+
+Shall they be set aside for the codes of %2? They are kept.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>There is no SIM card whose network is known.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>There is no list of operators. Install the package mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>The configuration is chosen by USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
 </context>
 </TS>

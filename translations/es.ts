@@ -850,5 +850,84 @@ Hay una copia del %2. ¿Quiere recuperarla? No borra la copia.</translation>
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem y --scenario no van juntos.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Códigos del operador…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>Esta tarjeta SIM es de %1. Los códigos de saldo y recarga se pueden tomar de la lista de operadores.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>Los códigos de saldo y recarga se pueden tomar de la lista de operadores. Varios convienen a esta tarjeta SIM: elija el suyo.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>&amp;Tomarlos</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>&amp;Elegir…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Códigos del operador</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>¿De quién se usarán los códigos con esta tarjeta SIM (red %1)?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>Los códigos que vienen con el programa</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Usar</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>Ahora se usan los códigos de %1.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>Ahora se usan los códigos que vienen con el programa.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>Los códigos de %1 no se pueden usar: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>Estos archivos se cambiaron a mano y están en uso:
+%1
+
+¿Se apartan para los códigos de %2? Se conservan.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>No hay ninguna tarjeta SIM cuya red se conozca.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>No hay lista de operadores. Instale el paquete mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>La configuración la determina USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
 </context>
 </TS>

@@ -849,5 +849,84 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Non supprime la copie
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem et --scenario ne vont pas ensemble.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Codes de l’opérateur…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>Cette carte SIM est de %1. Les codes du solde et de la recharge peuvent être repris de la liste des opérateurs.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>Les codes du solde et de la recharge peuvent être repris de la liste des opérateurs. Plusieurs conviennent à cette carte SIM : choisissez le vôtre.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>&amp;Reprendre</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>C&amp;hoisir…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>De qui faut-il utiliser les codes avec cette carte SIM (réseau %1) ?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>Les codes fournis avec le programme</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Utiliser</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>Les codes de %1 sont maintenant utilisés.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>Les codes fournis avec le programme sont maintenant utilisés.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>Les codes de %1 ne peuvent pas être utilisés : %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>Ces fichiers ont été modifiés à la main et sont utilisés :
+%1
+
+Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>Il n’y a pas de carte SIM dont le réseau soit connu.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>Il n’y a pas de liste des opérateurs. Installez le paquet mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>La configuration est choisie par USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
 </context>
 </TS>

@@ -850,5 +850,84 @@ Há uma cópia de %2. Quer recuperá-la? Não apaga a cópia.</translation>
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem e --scenario não combinam.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Códigos da operadora…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>Este cartão SIM é de %1. Os códigos de saldo e carregamento podem ser tirados da lista de operadoras.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>Os códigos de saldo e carregamento podem ser tirados da lista de operadoras. Várias servem para este cartão SIM: escolha a sua.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>&amp;Usar</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>&amp;Escolher…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;Não</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Códigos da operadora</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>De quem devem ser usados os códigos com este cartão SIM (rede %1)?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>Os códigos que vêm com o programa</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Usar</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>Agora são usados os códigos de %1.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>Agora são usados os códigos que vêm com o programa.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>Os códigos de %1 não podem ser usados: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>Estes ficheiros foram alterados à mão e estão em uso:
+%1
+
+Devem ser postos de lado para os códigos de %2? São conservados.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>Não há cartão SIM cuja rede seja conhecida.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>Não há lista de operadoras. Instale o pacote mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>A configuração é determinada por USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
 </context>
 </TS>

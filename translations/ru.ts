@@ -849,5 +849,84 @@
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem и --scenario несовместимы.</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>&amp;Коды оператора…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>Это SIM-карта оператора %1. Коды баланса и пополнения можно взять из списка операторов.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>Коды баланса и пополнения можно взять из списка операторов. К этой SIM-карте подходят несколько: выберите своего.</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>&amp;Взять</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>В&amp;ыбрать…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>&amp;Нет</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>&amp;Закрыть</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>Коды оператора</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>Чьи коды использовать с этой SIM-картой (сеть %1)?</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>Коды, поставляемые с программой</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>&amp;Использовать</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>&amp;Отмена</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>Теперь используются коды %1.</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>Теперь используются коды, поставляемые с программой.</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>Коды %1 использовать нельзя: %2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>Эти файлы изменены вручную и используются:
+%1
+
+Отложить их ради кодов %2? Они сохранятся.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>Нет SIM-карты, сеть которой известна.</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>Нет списка операторов. Установите пакет mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>Конфигурация задана переменной USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
 </context>
 </TS>

@@ -847,5 +847,84 @@
         <source>CLI_MODEM_SCENARIO</source>
         <translation>--modem 与 --scenario 不能同时使用。</translation>
     </message>
+    <message>
+        <source>CODES_MENU</source>
+        <translation>运营商代码(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_ONE</source>
+        <translation>这张 SIM 卡属于 %1。余额和充值代码可从运营商列表中获取。</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_SEVERAL</source>
+        <translation>余额和充值代码可从运营商列表中获取。有多家运营商符合这张 SIM 卡：请选择。</translation>
+    </message>
+    <message>
+        <source>CODES_TAKE</source>
+        <translation>获取(&amp;T)</translation>
+    </message>
+    <message>
+        <source>CODES_CHOOSE</source>
+        <translation>选择(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>CODES_NOT_NOW</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>CODES_CLOSE</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>CODES_CAPTION</source>
+        <translation>运营商代码</translation>
+    </message>
+    <message>
+        <source>CODES_QUESTION</source>
+        <translation>这张 SIM 卡（网络 %1）使用哪家运营商的代码？</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED</source>
+        <translation>程序自带的代码</translation>
+    </message>
+    <message>
+        <source>CODES_OK</source>
+        <translation>使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>CODES_CANCEL</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>CODES_IN_USE</source>
+        <translation>现在使用 %1 的代码。</translation>
+    </message>
+    <message>
+        <source>CODES_SHIPPED_IN_USE</source>
+        <translation>现在使用程序自带的代码。</translation>
+    </message>
+    <message>
+        <source>CODES_FAILED</source>
+        <translation>无法使用 %1 的代码：%2</translation>
+    </message>
+    <message>
+        <source>CODES_CHANGED</source>
+        <translation>以下文件经手工修改并正在使用：
+%1
+
+要为 %2 的代码将其移到一边吗？文件会保留。</translation>
+    </message>
+    <message>
+        <source>CODES_NO_SIM</source>
+        <translation>没有网络已知的 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>CODES_NO_LIST</source>
+        <translation>没有运营商列表。请安装软件包 mobile-broadband-provider-info。</translation>
+    </message>
+    <message>
+        <source>CODES_CHOSEN_OUTSIDE</source>
+        <translation>配置由 USSD_PLUGIN_LIBRARY_PATH 指定。</translation>
+    </message>
 </context>
 </TS>

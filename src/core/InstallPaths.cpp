@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 
 #include <dlfcn.h>
 
@@ -33,9 +35,35 @@ QString withoutTrailingSeparators(QString path)
     return path;
 }
 
+/** What the host has chosen in place of the installed folder. */
+struct ChosenFolder {
+    QMutex mutex; // guards the path
+    QString path;
+};
+
+ChosenFolder &chosenFolder()
+{
+    static ChosenFolder chosen;
+    return chosen;
+}
+
 } // namespace
 
 QString InstallPaths::pluginLibrary()
+{
+    ChosenFolder &chosen = chosenFolder();
+    QMutexLocker lock(&chosen.mutex);
+    return chosen.path.isEmpty() ? installedPluginLibrary() : chosen.path;
+}
+
+void InstallPaths::usePluginLibrary(const QString &folder)
+{
+    ChosenFolder &chosen = chosenFolder();
+    QMutexLocker lock(&chosen.mutex);
+    chosen.path = withoutTrailingSeparators(folder);
+}
+
+QString InstallPaths::installedPluginLibrary()
 {
     const QByteArray chosen = qgetenv(LIBRARY_PATH_VARIABLE);
     if (!chosen.isEmpty())

@@ -9,6 +9,7 @@ const char NAME[] = "ussd-dashboard";
 const char LANGUAGE[] = "language";
 const char DEVICE[] = "device";
 const char SCENARIO[] = "scenario"; // of earlier versions
+const char OPERATOR_CODES[] = "operator-codes/";
 const char GEOMETRY[] = "geometry";
 
 } // namespace
@@ -49,6 +50,16 @@ void DashboardSettings::setDevice(const DeviceChoice &choice)
 {
     set(DEVICE, choice.word());
     m_settings.remove(QLatin1String(SCENARIO));
+}
+
+QString DashboardSettings::operatorCodes(const QString &homeNetwork) const
+{
+    return m_settings.value(QLatin1String(OPERATOR_CODES) + homeNetwork).toString();
+}
+
+void DashboardSettings::setOperatorCodes(const QString &homeNetwork, const QString &word)
+{
+    m_settings.setValue(QLatin1String(OPERATOR_CODES) + homeNetwork, word);
 }
 
 QByteArray DashboardSettings::geometry() const

@@ -20,6 +20,10 @@ public:
     /// What was chosen last, automatic when nothing was. Earlier versions kept a scenario alone.
     DeviceChoice device() const;
     void setDevice(const DeviceChoice &choice);
+    /// What was decided about the operator's codes for the SIMs of a home network (MCC and MNC): a
+    /// word of the caller's; empty when nothing was.
+    QString operatorCodes(const QString &homeNetwork) const;
+    void setOperatorCodes(const QString &homeNetwork, const QString &word);
     QByteArray geometry() const; // of the main window
     void setGeometry(const QByteArray &geometry);
 

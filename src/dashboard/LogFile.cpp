@@ -62,6 +62,7 @@ QString LogFile::open(const QString &path)
     }
     logFile = file;
     write(dashboardText("LOG_HOLDS"));
+    setLogSink(write);
     return QString();
 }
 

@@ -24,9 +24,11 @@
 #include "Languages.h"
 #include "NetworkMenu.h"
 #include "NetworkTextPanel.h"
+#include "OperatorNotice.h"
 #include "PageArea.h"
 #include "SimWindows.h"
 #include "UiPlugin.h"
+#include "UserActivity.h"
 #include "WindowButtons.h"
 
 namespace
@@ -45,11 +47,13 @@ bool endsSession(int paidType)
 
 MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
-      m_awaitedFrame(PAID_TYPE_NONE), m_fileMenu(new QMenu(this)), m_quit(nullptr),
-      m_languageMenu(new LanguageMenu(this)), m_networkMenu(new NetworkMenu(this)),
-      m_header(new DeviceHeader(this)), m_deviceNotice(new DeviceNotice(&m_device, this)),
-      m_textPanel(new NetworkTextPanel(this)), m_buttons(new WindowButtons(this)),
-      m_page(new PageArea(plugin, this)), m_source(new QLabel(this))
+      m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
+      m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
+      m_networkMenu(new NetworkMenu(this)), m_header(new DeviceHeader(this)),
+      m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
+      m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
+      m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
+      m_source(new QLabel(this))
 {
     HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
@@ -60,6 +64,7 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     statusBar()->addWidget(m_source, 1);
     followSim();
     followNetworkTexts();
+    followOperator();
     retranslate();
     restorePlace();
 }
@@ -87,6 +92,28 @@ void MainWindow::followNetworkTexts()
     m_networkTexts.start();
 }
 
+void MainWindow::followOperator()
+{
+    connect(m_networkMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
+    connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
+    connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
+}
+
+/// Later, since the plug-in may be at work on what brought this about.
+void MainWindow::beginAnew()
+{
+    m_isBeginningDue = true;
+    QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
+}
+
+/// What the user has open or waits for would go with the windows.
+void MainWindow::beginAnewIfDue()
+{
+    if (m_isBeginningDue && m_plugin->isUsable() && !UserActivity::isBusy())
+        restartPlugin();
+}
+
 void MainWindow::makeMenus()
 {
     m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
@@ -105,6 +132,7 @@ void MainWindow::makeCentre()
     QVBoxLayout *column = new QVBoxLayout(centre);
     column->addWidget(m_header);
     column->addWidget(m_deviceNotice);
+    column->addWidget(m_operatorNotice);
     column->addWidget(m_buttons);
     column->addWidget(m_textPanel);
     column->addWidget(m_page, 1);
@@ -129,11 +157,14 @@ QWidget *MainWindow::page() const
 
 PluginFailure MainWindow::loadPlugin()
 {
+    m_operatorCodes.look();
+    m_isBeginningDue = false;
     return startWith(m_plugin->load(UiPlugin::installedFile()));
 }
 
 PluginFailure MainWindow::restartPlugin()
 {
+    m_isBeginningDue = false;
     m_windows = 0; // its page went with it
     return startWith(m_plugin->restart());
 }
@@ -236,6 +267,7 @@ void MainWindow::retranslate()
     m_quit->setText(dashboardText("ACTION_QUIT"));
     m_languageMenu->retranslate();
     m_textPanel->retranslate();
+    m_operatorNotice->retranslate();
     m_buttons->retranslate();
     if (m_plugin->isUsable() && !m_windows)
         m_page->showText(dashboardText("WINDOWS_NONE"));

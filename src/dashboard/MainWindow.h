@@ -6,6 +6,7 @@
 
 #include "DeviceWatcher.h"
 #include "NetworkTextWatcher.h"
+#include "OperatorCodes.h"
 #include "PluginFailure.h"
 #include "SimFollower.h"
 
@@ -15,6 +16,7 @@ class DeviceNotice;
 class LanguageMenu;
 class NetworkMenu;
 class NetworkTextPanel;
+class OperatorNotice;
 class PageArea;
 class QAction;
 class QLabel;
@@ -46,6 +48,7 @@ public:
     QWidget *page() const;
     DeviceWatcher &device() { return m_device; }
     NetworkMenu *networkMenu() const { return m_networkMenu; }
+    OperatorCodes &operatorCodes() { return m_operatorCodes; }
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
@@ -75,11 +78,14 @@ private slots:
     void offerWindows(int windows);
     void showPaidType();
     void openAwaitedFrame();
+    void beginAnew();
+    void beginAnewIfDue();
     void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private:
     bool useDevice(const DeviceChoice &choice);
     void followNetworkTexts();
+    void followOperator();
     void followSim();
     void makeMenus();
     void makeCentre();
@@ -93,7 +99,9 @@ private:
     DeviceWatcher m_device;
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
-    int m_windows = 0; // offered, a set of SimWindow
+    OperatorCodes m_operatorCodes;
+    bool m_isBeginningDue = false; // the plug-in has another folder than it has read
+    int m_windows = 0;             // offered, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;
@@ -103,6 +111,7 @@ private:
     DeviceHeader *m_header;
     DeviceNotice *m_deviceNotice;
     NetworkTextPanel *m_textPanel;
+    OperatorNotice *m_operatorNotice;
     WindowButtons *m_buttons;
     PageArea *m_page;
     QLabel *m_source;

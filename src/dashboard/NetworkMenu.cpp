@@ -46,6 +46,8 @@ void NetworkMenu::retranslate()
     addSeparator();
     addScenarios();
     addAction(dashboardText("NETWORK_OPEN"), this, SIGNAL(openRequested()));
+    addSeparator();
+    addAction(dashboardText("CODES_MENU"), this, SIGNAL(operatorRequested()));
 }
 
 void NetworkMenu::addModems()

@@ -29,6 +29,8 @@ signals:
     void chosen(const QString &word);
     /// The user wants to pick a file.
     void openRequested();
+    /// The user wants to choose whose codes are used.
+    void operatorRequested();
 
 private slots:
     void onTriggered(QAction *action);

@@ -15,7 +15,7 @@ namespace
 
 const int MOST_ENTRIES = 50;
 const int LONGEST_TEXT = 10000; // characters, far beyond what a network can send
-const int VIEW_HEIGHT = 110;    // pixels
+const int VIEW_HEIGHT = 100;    // pixels
 const QChar LEFT_TO_RIGHT_MARK(0x200e);
 
 bool isCodeCharacter(QChar character)

@@ -60,7 +60,7 @@ void setOrUnset(const char *variable, const QByteArray &value)
 } // namespace
 
 PrivateLibrary::PrivateLibrary()
-    : m_installed(InstallPaths::pluginLibrary() + QLatin1String(PLUGIN_FOLDER)),
+    : m_installed(InstallPaths::installedPluginLibrary() + QLatin1String(PLUGIN_FOLDER)),
       m_path(makeTemporaryFolder()), m_oldLibraryPath(qgetenv(LIBRARY_PATH)),
       m_oldUserData(qgetenv(USER_DATA))
 {

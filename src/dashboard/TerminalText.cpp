@@ -3,13 +3,13 @@
 #include <atomic>
 #include <cstdio>
 
-#include "LogFile.h"
 #include "QtCompat.h"
 
 namespace
 {
 
 std::atomic<bool> logsEverything(false);
+std::atomic<LineSink> logSink(nullptr);
 
 bool isIn(ushort unit, ushort first, ushort last)
 {
@@ -47,7 +47,8 @@ void print(FILE *stream, const QString &text)
 // weight, so no comparison.
 void log(QtMsgType type, const char *text)
 {
-    LogFile::write(QString::fromLocal8Bit(text));
+    if (const LineSink sink = logSink)
+        sink(QString::fromLocal8Bit(text));
     if (logsEverything || type == QtCriticalMsg || type == QtFatalMsg)
         printErrorLine(QString::fromLocal8Bit(text));
 }
@@ -81,4 +82,9 @@ void installTerminalLog(bool everything)
 {
     logsEverything = everything;
     QtCompat::installMessageHandler(log);
+}
+
+void setLogSink(LineSink sink)
+{
+    logSink = sink;
 }

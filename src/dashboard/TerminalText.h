@@ -15,8 +15,11 @@ void printLine(const QString &text);
 void printErrorLine(const QString &text);
 
 /// From now on Qt's messages go to standard error through terminalText(): all of them when
-/// `everything`, otherwise only those that say that the program cannot go on. All of them go to the
-/// LogFile as well, if one is open.
+/// `everything`, otherwise only those that say that the program cannot go on.
 void installTerminalLog(bool everything);
+
+/// Takes all of Qt's messages as well, on the thread that each comes from; null: nothing does.
+typedef void (*LineSink)(const QString &line);
+void setLogSink(LineSink sink);
 
 #endif

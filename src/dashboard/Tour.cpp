@@ -20,11 +20,13 @@ struct Leg {
 };
 
 const Leg LEGS[] = {
-    {"en", TourParts::walkGeneral}, {"en", TourParts::walkAccount},
-    {"en", TourParts::walkEditor},  {"en", TourParts::walkServices},
-    {"ar", TourParts::walkGeneral}, {"ar", TourParts::walkAccount},
-    {"ar", TourParts::walkEditor},  {"ar", TourParts::walkServices},
-    {"de", TourParts::walkAccount}, {"de", TourParts::walkEditor},
+    {"en", TourParts::walkGeneral},  {"en", TourParts::walkAccount},
+    {"en", TourParts::walkEditor},   {"en", TourParts::walkServices},
+    {"en", TourParts::walkDevices},  {"ar", TourParts::walkGeneral},
+    {"ar", TourParts::walkAccount},  {"ar", TourParts::walkEditor},
+    {"ar", TourParts::walkServices}, {"ar", TourParts::walkDevices},
+    {"de", TourParts::walkAccount},  {"de", TourParts::walkDevices},
+    {"de", TourParts::walkEditor},
 };
 
 } // namespace

@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
 #include <QTableWidget>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -44,6 +47,24 @@ QString rowsOf(const QTableWidget *table)
     return rows.join(QLatin1String("\n"));
 }
 
+QString rowsOf(const QListWidget *list)
+{
+    QStringList rows;
+    for (int row = 0; row < list->count(); ++row)
+        rows << list->item(row)->text();
+    return rows.join(QLatin1String("\n"));
+}
+
+QString entriesOf(const QMenu *menu)
+{
+    QStringList entries;
+    for (const QAction *action : menu->actions()) {
+        if (!action->text().isEmpty())
+            entries << QLatin1String(action->isChecked() ? "> " : "") + action->text();
+    }
+    return entries.join(QLatin1String("\n"));
+}
+
 QString textOf(const QWidget *widget)
 {
     if (const QLabel *label = qobject_cast<const QLabel *>(widget))
@@ -52,9 +73,13 @@ QString textOf(const QWidget *widget)
         return button->text().isEmpty() ? QString()
                                         : QLatin1Char('[') + button->text() + QLatin1Char(']');
     if (const QLineEdit *edit = qobject_cast<const QLineEdit *>(widget))
-        return edit->text();
+        return edit->displayText(); // a PIN is not for the transcript
     if (const QTextEdit *edit = qobject_cast<const QTextEdit *>(widget))
         return edit->toPlainText();
+    if (const QPlainTextEdit *edit = qobject_cast<const QPlainTextEdit *>(widget))
+        return edit->toPlainText();
+    if (const QListWidget *list = qobject_cast<const QListWidget *>(widget))
+        return rowsOf(list);
     if (const QTableWidget *table = qobject_cast<const QTableWidget *>(widget))
         return rowsOf(table);
     if (const QTreeWidget *tree = qobject_cast<const QTreeWidget *>(widget))
@@ -76,6 +101,8 @@ QString shownText(const QWidget *widget)
     QList<QWidget *> parts = widget->findChildren<QWidget *>();
     std::stable_sort(parts.begin(), parts.end(), isAbove);
     QStringList lines;
+    if (const QMenu *menu = qobject_cast<const QMenu *>(widget))
+        lines << entriesOf(menu);
     for (const QWidget *part : parts) {
         const QString text = part->isVisible() ? textOf(part) : QString();
         if (!text.isEmpty())

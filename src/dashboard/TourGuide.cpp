@@ -36,6 +36,18 @@ QPixmap laidOver(QPixmap below, const QPixmap &box)
     return below;
 }
 
+/// The widget where it stands over the window, or as near as the window's picture reaches.
+QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
+{
+    QPoint place = over->mapToGlobal(QPoint()) - window->mapToGlobal(QPoint());
+    place.setX(qBound(0, place.x(), qMax(0, below.width() - over->width())));
+    place.setY(qBound(0, place.y(), qMax(0, below.height() - over->height())));
+    QPainter painter(&below);
+    painter.drawPixmap(place, pictureOf(over));
+    painter.drawRect(QRect(place, over->size()).adjusted(-1, -1, 0, 0));
+    return below;
+}
+
 QWidget *frameWith(const char *widgetName)
 {
     for (const QWidget *window : QApplication::topLevelWidgets()) {
@@ -123,6 +135,14 @@ bool TourGuide::take(const TourStop &stop)
     settle();
     return m_shown ? m_album->add(pictureOf(m_shown), m_place, stop, shownText(m_shown))
                    : failHere();
+}
+
+bool TourGuide::takeWith(QWidget *over, const TourStop &stop)
+{
+    settle();
+    if (!m_shown || !over)
+        return failHere();
+    return m_album->add(laidAt(pictureOf(m_shown), m_shown, over), m_place, stop, shownText(over));
 }
 
 void TourGuide::expectBox(const TourStop &stop)

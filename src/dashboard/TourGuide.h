@@ -53,6 +53,8 @@ public:
     void close();
 
     bool take(const TourStop &stop);
+    /// The same with a menu or a dialog that is open over what is visited.
+    bool takeWith(QWidget *over, const TourStop &stop);
     /// The next message box is photographed over what is visited, and its first button is pressed.
     void expectBox(const TourStop &stop);
     /// Whether that has happened.

@@ -16,6 +16,10 @@ bool walkEditor(TourGuide &guide);
 /// The window of the operator's services.
 bool walkServices(TourGuide &guide);
 
+/// The dashboard without a modem and with several, with a locked SIM, with messages of the network,
+/// and with an operator's codes.
+bool walkDevices(TourGuide &guide);
+
 } // namespace TourParts
 
 #endif

@@ -35,7 +35,7 @@ UiPlugin::~UiPlugin()
 
 QString UiPlugin::installedFile()
 {
-    return InstallPaths::pluginLibrary() +
+    return InstallPaths::installedPluginLibrary() +
            QLatin1String("/plugins/USSDUIPlugin/libUSSDUIPlugin.so");
 }
 

@@ -141,6 +141,7 @@ private slots:
     void eachPictureOfTheTourIsNamedAndAnother();
     void theTourTellsWhatEachPictureShows();
     void theTourChangesNobodysFiles();
+    void whatTheProgramWritesIsItsUsersAlone();
     void aTourThatCannotWriteSaysSo();
 
 private:
@@ -464,8 +465,19 @@ void ProgramTest::theTourLeavesPicturesAndTranscript_data()
         {"*-services-*sent.png", 4},
         {"*-services-sms-failed.png", 2},
         {"*-services-code-refused.png", 2},
-        {"*-de-*.png", 20},
-        {"*.png", 136},
+        {"*-dashboard-no-modem.png", 3},
+        {"*-dashboard-no-service.png", 3},
+        {"*-dashboard-not-permitted.png", 3},
+        {"*-dashboard-two-modems.png", 3},
+        {"*-dashboard-locked-sim.png", 3},
+        {"*-dashboard-pin.png", 3},
+        {"*-dashboard-wrong-pin.png", 3},
+        {"*-dashboard-last-try.png", 3},
+        {"*-dashboard-network-message.png", 3},
+        {"*-dashboard-network-question.png", 3},
+        {"*-dashboard-operator-*.png", 9},
+        {"*-de-*.png", 33},
+        {"*.png", 175},
     };
     for (const auto &row : rows)
         QTest::newRow(row.pattern) << QString::fromLatin1(row.pattern) << row.pictures;
@@ -496,14 +508,16 @@ void ProgramTest::eachPictureOfTheTourIsNamedAndAnother()
 void ProgramTest::theTourTellsWhatEachPictureShows()
 {
     const QString text = takenTour().transcript();
-    QCOMPARE(text.count(QLatin1String("== ")), 136);
+    QCOMPARE(text.count(QLatin1String("== ")), 175);
     for (const char *part :
          {"English, just opened: balance and number are being fetched", "Your balance is 12.50 EUR",
           "Your balance is 22.50 EUR", "The network did not reply in time.",
           "this entry is already in the list", "My code 100 | *800#", "Sending failed.",
-          "Deutsch, ", "Auflade-PIN"})
+          "Deutsch, ", "Auflade-PIN", "systemctl start ModemManager", "A gigabyte for 1.00 EUR?",
+          "The codes of Meridian Mobile are in use"})
         QVERIFY2(text.contains(QLatin1String(part)), part);
     QVERIFY(text.contains(QString::fromUtf8("العربية")));
+    QVERIFY(!text.contains(QLatin1String("1357"))); // a PIN that was typed
 }
 
 void ProgramTest::theTourChangesNobodysFiles()
@@ -513,6 +527,17 @@ void ProgramTest::theTourChangesNobodysFiles()
     QVERIFY(!QFile::exists(takenTour().dataFolder() + QLatin1String("/ussd-dashboard")));
     QCOMPARE(QDir(takenTour().temporaryFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              QStringList());
+}
+
+void ProgramTest::whatTheProgramWritesIsItsUsersAlone()
+{
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    const QDir tour = takenTour().folder();
+    QVERIFY(tour.entryList(QDir::Files).size() > 1);
+    QVERIFY(!(QFileInfo(tour.path()).permissions() & others));
+    for (const QFileInfo &file : tour.entryInfoList(QDir::Files))
+        QVERIFY2(!(file.permissions() & others), qPrintable(file.filePath()));
 }
 
 void ProgramTest::aTourThatCannotWriteSaysSo()
