@@ -103,8 +103,16 @@ void OperatorNotice::choose()
 
 void OperatorNotice::onChosen()
 {
-    if (m_dialog->choosesOperator())
-        return take(m_dialog->provider());
+    m_isOperatorChosen = m_dialog->choosesOperator();
+    m_chosen = m_dialog->provider();
+    QMetaObject::invokeMethod(this, "useChosen",
+                              Qt::QueuedConnection); // when the dialog has closed
+}
+
+void OperatorNotice::useChosen()
+{
+    if (m_isOperatorChosen)
+        return take(m_chosen);
     m_codes->decline();
     setState(Done);
 }

@@ -30,6 +30,7 @@ private slots:
     void onTake();
     void onNo();
     void onChosen();
+    void useChosen();
 
 private:
     enum State { Nothing, OneProposed, SeveralProposed, Done, Failed };
@@ -49,6 +50,8 @@ private:
     QString m_subject; // an operator
     QString m_problem;
     Provider m_proposed;
+    Provider m_chosen; // in the dialog
+    bool m_isOperatorChosen = false;
 };
 
 #endif

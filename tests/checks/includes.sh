@@ -57,7 +57,8 @@ check "$(cpp_files src/core/common)" "$qt|$standard" src/core/common src/compat
 check "$core_own" "$any" src/core src/core/common src/compat
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/dashboard)" "$any" \
-    src/dashboard src/core src/core/common src/compat src/sdk/tksv.h src/sdk/tksv_device.h
+    src/dashboard src/provisioning src/core src/core/common src/compat src/sdk/tksv.h \
+    src/sdk/tksv_device.h
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/compat
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/USSDUIPlugin src/core \
     src/core/common src/compat src/dashboard/TerminalText.h src/sdk
