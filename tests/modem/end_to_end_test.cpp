@@ -1,6 +1,7 @@
 // GLib's headers come before Qt's, to which "signals" is a word of its own.
 #include "ModemWorld.h"
 
+#include <QPlainTextEdit>
 #include <QTextEdit>
 #include <QTreeWidget>
 
@@ -70,6 +71,8 @@ QString shownText(const QWidget *window)
         texts << label->text();
     for (const QTextEdit *box : window->findChildren<QTextEdit *>())
         texts << box->toPlainText();
+    for (const QPlainTextEdit *box : window->findChildren<QPlainTextEdit *>())
+        texts << box->toPlainText();
     return texts.join(QLatin1Char('\n'));
 }
 
@@ -99,6 +102,8 @@ private slots:
     void theModemIsPulledOutWhileAMessageIsSent();
     void theModemIsPulledOutWhileACommandIsOut();
     void theDaemonCrashesWhileACommandIsOut();
+    void aMessageOfTheNetworkIsShown();
+    void aQuestionOfTheNetworkIsAnswered();
     void textInOtherScripts_data();
     void textInOtherScripts();
     void aReplyInThreeScriptsIsAnswered();
@@ -282,6 +287,30 @@ void EndToEndTest::theNetworksRefusal()
     openPage();
     QCOMPARE(ask(QLatin1String("*130#")), QLatin1String(USSD_FAILED));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::aMessageOfTheNetworkIsShown()
+{
+    openPage();
+    QWidget *panel = window().findChild<QWidget *>(QLatin1String("Dashboard_NetworkTexts"));
+    QVERIFY(panel && !panel->isVisible());
+    fake().sayUssd(0, "Your <b>bonus</b> is here.");
+    QTRY_VERIFY(panel->isVisible());
+    QVERIFY(shownText(panel).contains(QLatin1String("Your <b>bonus</b> is here.")));
+    QCOMPARE(page().lastReceived(), QString());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+void EndToEndTest::aQuestionOfTheNetworkIsAnswered()
+{
+    openPage();
+    QWidget *panel = window().findChild<QWidget *>(QLatin1String("Dashboard_NetworkTexts"));
+    fake().sayUssd(1, "A gigabyte for 1 EUR?");
+    QTRY_VERIFY(shownText(panel).contains(QLatin1String("A gigabyte for 1 EUR?")));
+    QTRY_VERIFY(page().isComplete());
+    QVERIFY(page().send(QLatin1String("1")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,\"0031\""));
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
 void EndToEndTest::textInOtherScripts_data()
