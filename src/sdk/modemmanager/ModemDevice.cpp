@@ -121,7 +121,7 @@ void ModemDevice::fetchSim()
 
 void ModemDevice::sendPin(const std::string &pin)
 {
-    m_problem = TKSV_PROBLEM_NONE;
+    problemIs(TKSV_PROBLEM_NONE); // or a second wrong PIN would be no news
     if (!m_sim) {
         m_waitingPin = pin;
         return;
