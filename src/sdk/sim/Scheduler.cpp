@@ -5,8 +5,14 @@
 namespace tksv
 {
 
+Scheduler::Scheduler()
+{
+    SimulatorClock::add(this);
+}
+
 Scheduler::~Scheduler()
 {
+    SimulatorClock::remove(this);
     stop();
 }
 
@@ -17,7 +23,7 @@ void Scheduler::after(std::chrono::milliseconds delay, std::function<void()> tas
         return;
     if (!m_thread.isStarted())
         m_thread.start("tksv-simulator", [this] { run(); });
-    m_tasks.emplace(Clock::now() + delay, std::move(task));
+    m_tasks.emplace(SimulatorClock::now() + delay, std::move(task));
     m_wake.notify_one();
 }
 
@@ -32,6 +38,18 @@ void Scheduler::stop()
     m_thread.finish(NoLimit);
 }
 
+void Scheduler::lookAgain()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_wake.notify_one();
+}
+
+/// The wait itself always goes by the system's clock.
+void Scheduler::waitUntil(Time due, std::unique_lock<std::mutex> &lock)
+{
+    m_wake.wait_for(lock, due - SimulatorClock::now());
+}
+
 void Scheduler::run()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -41,9 +59,9 @@ void Scheduler::run()
             continue;
         }
         const auto next = m_tasks.begin();
-        const Clock::time_point due = next->first;
-        if (due > Clock::now()) {
-            m_wake.wait_until(lock, due);
+        const Time due = next->first;
+        if (due > SimulatorClock::now()) {
+            waitUntil(due, lock);
             continue;
         }
         const std::function<void()> task = std::move(next->second);

@@ -8,6 +8,7 @@
 #include <mutex>
 
 #include "../WorkerThread.h"
+#include "SimulatorClock.h"
 
 namespace tksv
 {
@@ -19,7 +20,7 @@ namespace tksv
 class Scheduler
 {
 public:
-    Scheduler() = default;
+    Scheduler();
     ~Scheduler();
     Scheduler(const Scheduler &) = delete;
     Scheduler &operator=(const Scheduler &) = delete;
@@ -27,14 +28,17 @@ public:
     void after(std::chrono::milliseconds delay, std::function<void()> task);
     /// Drops the tasks that wait and returns when none is running. Not to be called by a task.
     void stop();
+    /// The clock has jumped.
+    void lookAgain();
 
 private:
-    using Clock = std::chrono::steady_clock;
+    using Time = SimulatorClock::Time;
     void run();
+    void waitUntil(Time due, std::unique_lock<std::mutex> &lock);
 
     std::mutex m_mutex; // guards everything below; not held while a task runs
     std::condition_variable m_wake;
-    std::multimap<Clock::time_point, std::function<void()>> m_tasks;
+    std::multimap<Time, std::function<void()>> m_tasks;
     bool m_stopping = false;
     WorkerThread m_thread;
 };

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Months of simulated use in minutes: a million commands, ten thousand windows opened and closed.
+# Writes build/soak/soak.png and soak.txt; ends with 0 when nothing has grown.
+#   scripts/soak.sh [--commands N] [--openings N] [--report FOLDER]
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/prepare.sh
+
+install_missing_packages
+say "Building preset quick; the first time this takes some minutes."
+configure_and_build quick soak translations
+
+export QT_QPA_PLATFORM=offscreen QT_HASH_SEED=0 TKSV_BACKEND=simulator
+# As in tests/soak/CMakeLists.txt: small lists that malloc keeps ready would count as in use.
+export GLIBC_TUNABLES=glibc.malloc.tcache_count=0:glibc.malloc.mxfast=0:glibc.malloc.arena_max=1
+exec nice build/quick/tests/bin/soak --commands 1000000 --openings 10000 --report build/soak "$@"

@@ -1,0 +1,104 @@
+#include "SoakSample.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPixmapCache>
+
+#include <malloc.h>
+#include <unistd.h>
+
+#include "ObjectCensus.h"
+
+namespace
+{
+
+const double MEGABYTE = 1 << 20;
+
+/// Caches of Qt and of the C library have no fixed size: glyphs, hashes that grow by doubling, free
+/// lists. Any leak of one block of 16 bytes for each hundredth command of a long run is more.
+const double HEAP_MAY_GROW = 0.25; // megabytes
+/// Of what was freed, the C library keeps pages that lie between blocks in use.
+const double RESIDENT_MAY_GROW = 6; // megabytes
+
+double residentMegabytes(const SoakSample &sample)
+{
+    return double(sample.residentBytes) / MEGABYTE;
+}
+
+double heapMegabytes(const SoakSample &sample)
+{
+    return double(sample.heapBytes) / MEGABYTE;
+}
+
+template <int SoakSample::*Member>
+double count(const SoakSample &sample)
+{
+    return sample.*Member;
+}
+
+qint64 residentBytes()
+{
+    QFile file(QLatin1String("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+int entriesOf(const char *folder)
+{
+    const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+    return QDir(QLatin1String(folder)).entryList(all).size();
+}
+
+qint64 heapBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
+}
+
+} // namespace
+
+const QVector<SoakFigure> &soakFigures()
+{
+    static const QVector<SoakFigure> figures = {
+        {"memory resident", residentMegabytes, RESIDENT_MAY_GROW, "MB"},
+        {"heap in use", heapMegabytes, HEAP_MAY_GROW, "MB"},
+        {"file descriptors", count<&SoakSample::descriptors>, 0, ""},
+        {"threads", count<&SoakSample::threads>, 0, ""},
+        {"timers", count<&SoakSample::timers>, 0, ""},
+        {"widgets", count<&SoakSample::widgets>, 0, ""},
+        {"objects", count<&SoakSample::objects>, 0, ""},
+    };
+    return figures;
+}
+
+SoakSample takeSoakSample()
+{
+    SoakSample sample;
+    QPixmapCache::clear(); // it keeps up to 10 MB, however few of them anybody needs again
+    malloc_trim(0);        // what is free now says nothing about leaks
+    sample.heapBytes = heapBytes();
+    sample.residentBytes = residentBytes();
+    sample.descriptors = entriesOf("/proc/self/fd");
+    sample.threads = entriesOf("/proc/self/task");
+    sample.timers = ObjectCensus::timers();
+    sample.widgets = QApplication::allWidgets().size();
+    sample.objects = ObjectCensus::objects();
+    return sample;
+}
+
+QString grownBetween(const SoakSample &warm, const SoakSample &end)
+{
+    QString text;
+    for (const SoakFigure &figure : soakFigures()) {
+        const double grown = figure.value(end) - figure.value(warm);
+        if (grown > figure.mayGrowBy)
+            text += QString::fromLatin1("%1 grew by %2 %3, from %4\n")
+                        .arg(QLatin1String(figure.name))
+                        .arg(grown)
+                        .arg(QLatin1String(figure.unit))
+                        .arg(figure.value(warm));
+    }
+    return text;
+}
