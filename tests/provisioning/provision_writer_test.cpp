@@ -1,4 +1,4 @@
-#include "KillPoint.h"
+#include "DiskFaults.h"
 #include "ProvisionWriter.h"
 #include "UssdTest.h"
 
@@ -278,7 +278,7 @@ int ProvisionWriterTest::runKilled(int step, const char *name)
 {
     const pid_t child = fork();
     if (child == 0) {
-        killBeforeStep(step);
+        DiskFaults::set(DiskFaults::Kill, step, QFile::encodeName(folder()).toStdString());
         _exit(write(name).state == ProvisionOutcome::Written ? 0 : 1);
     }
     int status = 0;
