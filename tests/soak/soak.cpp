@@ -30,8 +30,8 @@ const int OTHERS_IN_ROUND = 2;     // commands: the one without an answer, the o
 const int SAMPLES = 200;
 
 struct Order {
-    qint64 commands = 3000;
-    qint64 openings = 600;
+    qint64 commands = 2000;
+    qint64 openings = 200;
     QString report; // a folder; empty: none
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
