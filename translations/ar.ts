@@ -686,6 +686,29 @@
         <translation>لا يمكن كتابة &#x200e;%1&#x200e;. تبقى النسخة في مكانها: &#x200e;%2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>الملف الذي يحوي رموز USSD الخاصة بك غير كامل:
+&#x200f;&#x200e;%1
+
+توجد نسخة منه بتاريخ %2. هل تريد استعادتها؟ يبقى الملف غير الكامل عندئذ بجانبها. الجواب «لا» يحذف النسخة.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>لا توجد خطوط على هذا الحاسوب، ولذلك لا تظهر النصوص.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>تتعذر كتابة &#x200e;%1&#x200e;. ما تختاره يُنسى عند انتهاء البرنامج.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>تتعذر كتابة &#x200e;%1&#x200e;، ولذلك لا توجد نسخة من رموز USSD الخاصة بك.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>نصوص اللغة المختارة مفقودة: &#x200e;%1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>تلقائي: مودم، وإلا شبكة محاكاة</translation>
     </message>

@@ -686,6 +686,29 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Nein löscht die
         <translation>%1 lässt sich nicht schreiben. Die Kopie bleibt, wo sie ist: %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>Die Datei mit Ihren eigenen USSD-Codes ist unvollständig:
+%1
+
+Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständige Datei bleibt dann daneben erhalten. Nein löscht die Kopie.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>Auf diesem Computer gibt es keine Schriften; Texte sind daher nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>%1 kann nicht geschrieben werden. Was Sie wählen, ist nach dem Ende des Programms vergessen.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>%1 kann nicht geschrieben werden; daher gibt es keine Kopie Ihrer eigenen USSD-Codes.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>Die Texte der gewählten Sprache fehlen: %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Automatisch: Modem, sonst simuliert</translation>
     </message>

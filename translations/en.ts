@@ -686,6 +686,29 @@ There is a copy of it, made on %2. Do you want it back? No deletes the copy.</tr
         <translation>%1 cannot be written. The copy stays where it is: %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>The file with your own USSD codes is incomplete:
+%1
+
+There is a copy of it, made on %2. Do you want it back? The incomplete file is then kept beside it. No deletes the copy.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>There are no fonts on this computer, so texts cannot be seen.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>%1 cannot be written. What you choose is forgotten when the program ends.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>%1 cannot be written, so there is no copy of your own USSD codes.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>The texts of the chosen language are missing: %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Automatic: a modem, or else simulated</translation>
     </message>

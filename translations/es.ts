@@ -687,6 +687,29 @@ Hay una copia del %2. ¿Quiere recuperarla? No borra la copia.</translation>
         <translation>No se puede escribir %1. La copia se queda donde está: %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>El archivo con sus propios códigos USSD está incompleto:
+%1
+
+Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva entonces al lado. No borra la copia.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>En este equipo no hay fuentes, así que los textos no se pueden ver.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>No se puede escribir %1. Lo que elija se olvidará al terminar el programa.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>No se puede escribir %1, así que no hay copia de sus propios códigos USSD.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>Faltan los textos del idioma elegido: %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Automático: un módem o, si no hay, simulado</translation>
     </message>

@@ -686,6 +686,29 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Non supprime la copie
         <translation>%1 ne peut pas être écrit. La copie reste où elle est : %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>Le fichier de vos propres codes USSD est incomplet :
+%1
+
+Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet est alors conservé à côté. Non supprime la copie.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>Il n’y a aucune police sur cet ordinateur ; les textes ne sont donc pas visibles.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>Impossible d’écrire %1. Vos choix seront oubliés à la fin du programme.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>Impossible d’écrire %1 ; il n’y a donc pas de copie de vos propres codes USSD.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>Les textes de la langue choisie manquent : %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Automatique : un modem, sinon simulé</translation>
     </message>

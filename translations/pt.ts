@@ -687,6 +687,29 @@ Há uma cópia de %2. Quer recuperá-la? Não apaga a cópia.</translation>
         <translation>Não é possível escrever %1. A cópia fica onde está: %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>O ficheiro com os seus próprios códigos USSD está incompleto:
+%1
+
+Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guardado ao lado. Não apaga a cópia.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>Não há tipos de letra neste computador, por isso os textos não se veem.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>Não é possível escrever %1. O que escolher será esquecido quando o programa terminar.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>Não é possível escrever %1, por isso não há cópia dos seus próprios códigos USSD.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>Faltam os textos do idioma escolhido: %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Automático: um modem ou, sem ele, simulado</translation>
     </message>

@@ -686,6 +686,29 @@
         <translation>Не удаётся записать %1. Копия остаётся на месте: %2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>Файл с вашими собственными кодами USSD неполон:
+%1
+
+Есть его копия от %2. Вернуть её? Неполный файл тогда останется рядом. Ответ «Нет» удалит копию.</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>На этом компьютере нет шрифтов, поэтому тексты не видны.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>Не удаётся записать %1. Ваш выбор будет забыт после завершения программы.</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>Не удаётся записать %1, поэтому копии ваших собственных кодов USSD нет.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>Нет текстов выбранного языка: %1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>&amp;Автоматически: модем, иначе имитация</translation>
     </message>

@@ -684,6 +684,29 @@
         <translation>无法写入 %1。副本仍保留在：%2</translation>
     </message>
     <message>
+        <source>RESTORE_OFFER_DAMAGED</source>
+        <translation>保存您自己的 USSD 代码的文件不完整：
+%1
+
+它有一份 %2 的副本。要恢复吗？不完整的文件会保留在旁边。选择“否”将删除副本。</translation>
+    </message>
+    <message>
+        <source>NO_FONTS</source>
+        <translation>这台计算机上没有字体，因此看不到文字。</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOT_SAVED</source>
+        <translation>无法写入 %1。您的选择在程序结束后不会保留。</translation>
+    </message>
+    <message>
+        <source>COPY_NOT_WRITTEN</source>
+        <translation>无法写入 %1，因此没有您自己的 USSD 代码的副本。</translation>
+    </message>
+    <message>
+        <source>LANGUAGE_MISSING</source>
+        <translation>所选语言的文字缺失：%1</translation>
+    </message>
+    <message>
         <source>NETWORK_AUTOMATIC</source>
         <translation>自动(&amp;A)：优先调制解调器，否则模拟</translation>
     </message>

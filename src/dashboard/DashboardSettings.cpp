@@ -12,12 +12,22 @@ const char SCENARIO[] = "scenario"; // of earlier versions
 const char OPERATOR_CODES[] = "operator-codes/";
 const char GEOMETRY[] = "geometry";
 
+/// Qt's lock on the settings, left behind by a program that was killed before it had written down
+/// in whole lines who it was. The next one would wait half a minute until Qt takes that away.
+void removeUnfinishedLock(const QString &settingsFile)
+{
+    QFile lock(settingsFile + QLatin1String(".lock"));
+    if (lock.open(QIODevice::ReadOnly) && !lock.readAll().endsWith('\n'))
+        lock.remove();
+}
+
 } // namespace
 
 DashboardSettings::DashboardSettings()
     : m_settings(QSettings::IniFormat, QSettings::UserScope, QLatin1String(NAME),
                  QLatin1String(NAME))
 {
+    removeUnfinishedLock(file());
 }
 
 // The program's file mask keeps a new file private; this does it for one that was there.

@@ -46,11 +46,15 @@ bool writeWhole(const QString &path, const QByteArray &text)
 }
 
 // QFile::rename() does not replace a file that is there.
+bool moveFile(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
 bool replaceFile(const QString &path, const QByteArray &text)
 {
     const QString beside = path + QLatin1String(".new");
-    if (writeWhole(beside, text) && std::rename(QFile::encodeName(beside).constData(),
-                                                QFile::encodeName(path).constData()) == 0)
+    if (writeWhole(beside, text) && moveFile(beside, path))
         return true;
     QFile::remove(beside);
     return false;
@@ -109,10 +113,23 @@ bool ProfileBackup::isLost() const
            !goodContent(m_copy).isEmpty();
 }
 
+bool ProfileBackup::isDamaged() const
+{
+    const QFileInfo file(m_userFile);
+    if (m_userFile.isEmpty() || !file.isFile() || !file.isReadable() || file.size() > LARGEST)
+        return false;
+    return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
+}
+
+// A program that ends between the two leaves no file and the copy, which is offered again.
 bool ProfileBackup::restore() const
 {
     const QByteArray text = goodContent(m_copy);
-    return !m_userFile.isEmpty() && !text.isEmpty() && replaceFile(m_userFile, text);
+    if (m_userFile.isEmpty() || text.isEmpty())
+        return false;
+    if (isDamaged() && !moveFile(m_userFile, damagedFile()))
+        return false;
+    return replaceFile(m_userFile, text);
 }
 
 bool ProfileBackup::forget() const

@@ -6,7 +6,8 @@
 
 /**
  * The copy of the user's own codes. The plug-in deletes their file before it saves them anew, so a
- * full disk, or the end of the program at that moment, costs the user all of them.
+ * full disk, or the end of the program at that moment, costs the user all of them or leaves half a
+ * file.
  *
  * Only a file that is whole XML is copied or restored. Both are written beside their place first
  * and put there by a rename, and only their user can read them.
@@ -24,12 +25,16 @@ public:
     bool refresh() const;
     /// Whether the user's file has gone while there is a good copy.
     bool isLost() const;
-    /// Puts the copy in the file's place. False when it cannot be written, or is not good.
+    /// Whether the user's file is there but is not whole XML, while there is a good copy.
+    bool isDamaged() const;
+    /// Puts the copy in the file's place; a damaged file stays beside it as damagedFile(). False
+    /// when it cannot be written, or is not good.
     bool restore() const;
     /// Deletes the copy.
     bool forget() const;
 
     QString userFile() const { return m_userFile; }
+    QString damagedFile() const { return m_userFile + QLatin1String(".damaged"); }
     QString copy() const { return m_copy; }
     /// When the copy was made.
     QDateTime time() const;

@@ -44,7 +44,9 @@ ProfileKeeper::ProfileKeeper(const ProfileBackup &backup, QObject *parent)
 void ProfileKeeper::start()
 {
     if (m_backup.isLost())
-        offerRestore();
+        offerRestore("RESTORE_OFFER");
+    else if (m_backup.isDamaged())
+        offerRestore("RESTORE_OFFER_DAMAGED");
     refresh();
     emit ready();
 }
@@ -54,11 +56,10 @@ void ProfileKeeper::refresh()
     m_backup.refresh();
 }
 
-void ProfileKeeper::offerRestore()
+void ProfileKeeper::offerRestore(const char *question)
 {
     const QString time = QLocale().toString(m_backup.time(), QLocale::ShortFormat);
-    switch (ask(
-        dashboardText("RESTORE_OFFER").arg(QDir::toNativeSeparators(m_backup.userFile()), time))) {
+    switch (ask(dashboardText(question).arg(QDir::toNativeSeparators(m_backup.userFile()), time))) {
     case Yes:
         return restore();
     case No:

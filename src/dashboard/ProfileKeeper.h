@@ -25,7 +25,7 @@ signals:
     void ready();
 
 private:
-    void offerRestore();
+    void offerRestore(const char *question);
     void restore();
 
     const ProfileBackup m_backup;
