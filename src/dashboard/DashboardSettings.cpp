@@ -37,6 +37,12 @@ DashboardSettings::~DashboardSettings()
     QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
+bool DashboardSettings::save()
+{
+    m_settings.sync();
+    return m_settings.status() != QSettings::AccessError;
+}
+
 QString DashboardSettings::language() const
 {
     return m_settings.value(QLatin1String(LANGUAGE)).toString();

@@ -27,6 +27,10 @@ public:
     QByteArray geometry() const; // of the main window
     void setGeometry(const QByteArray &geometry);
 
+    /// Whether what is set can be written.
+    bool isWritable() const { return m_settings.isWritable(); }
+    /// Writes what has changed now. Whether all of it is written.
+    bool save();
     QString file() const { return m_settings.fileName(); }
 
 private:

@@ -24,9 +24,11 @@
 #include "Languages.h"
 #include "NetworkMenu.h"
 #include "NetworkTextPanel.h"
+#include "NoticeBar.h"
 #include "OperatorNotice.h"
 #include "PageArea.h"
 #include "SimWindows.h"
+#include "TerminalText.h"
 #include "UiPlugin.h"
 #include "UserActivity.h"
 #include "WindowButtons.h"
@@ -51,6 +53,7 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
       m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
       m_networkMenu(new NetworkMenu(this)), m_header(new DeviceHeader(this)),
       m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
+      m_problems(new NoticeBar("Dashboard_Problems", this)),
       m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
       m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
       m_source(new QLabel(this))
@@ -131,6 +134,7 @@ void MainWindow::makeCentre()
     QWidget *centre = new QWidget(this);
     QVBoxLayout *column = new QVBoxLayout(centre);
     column->addWidget(m_header);
+    column->addWidget(m_problems);
     column->addWidget(m_deviceNotice);
     column->addWidget(m_operatorNotice);
     column->addWidget(m_buttons);
@@ -312,6 +316,15 @@ void MainWindow::setDevice(const DeviceChoice &choice)
 {
     m_networkMenu->offer(choice, m_device.modems());
     m_device.refresh();
+}
+
+void MainWindow::showProblem(const QString &text)
+{
+    const QString before = m_problems->text();
+    if (before.contains(text))
+        return;
+    printErrorLine(text);
+    m_problems->setText(before.isEmpty() ? text : before + QLatin1Char('\n') + text);
 }
 
 void MainWindow::showScenarioError(const QString &error)

@@ -16,6 +16,7 @@ class DeviceNotice;
 class LanguageMenu;
 class NetworkMenu;
 class NetworkTextPanel;
+class NoticeBar;
 class OperatorNotice;
 class PageArea;
 class QAction;
@@ -52,6 +53,8 @@ public:
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
+    /// Says in the window and on standard error what cannot be kept, or what the computer lacks.
+    void showProblem(const QString &text);
     /// Loads the installed plug-in and shows its general window in the page; a failure is shown
     /// there in words, and returned.
     PluginFailure loadPlugin();
@@ -111,6 +114,7 @@ private:
     DeviceHeader *m_header;
     DeviceNotice *m_deviceNotice;
     NetworkTextPanel *m_textPanel;
+    NoticeBar *m_problems;
     OperatorNotice *m_operatorNotice;
     WindowButtons *m_buttons;
     PageArea *m_page;

@@ -107,6 +107,12 @@ bool ProfileBackup::refresh() const
     return QDir().mkpath(QFileInfo(m_copy).path()) && replaceFile(m_copy, text);
 }
 
+bool ProfileBackup::isOutdated() const
+{
+    const QByteArray text = goodContent(m_userFile);
+    return !text.isEmpty() && text != goodContent(m_copy);
+}
+
 bool ProfileBackup::isLost() const
 {
     return !m_userFile.isEmpty() && !QFile::exists(m_userFile) && !QFile::exists(m_legacyFile) &&

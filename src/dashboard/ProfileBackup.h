@@ -23,6 +23,8 @@ public:
 
     /// Makes the copy that of the file as it is now, if that is good. Whether it is so.
     bool refresh() const;
+    /// Whether there is something that refresh() has to copy.
+    bool isOutdated() const;
     /// Whether the user's file has gone while there is a good copy.
     bool isLost() const;
     /// Whether the user's file is there but is not whole XML, while there is a good copy.

@@ -53,7 +53,8 @@ void ProfileKeeper::start()
 
 void ProfileKeeper::refresh()
 {
-    m_backup.refresh();
+    if (!m_backup.refresh() && m_backup.isOutdated())
+        emit problem(dashboardText("COPY_NOT_WRITTEN").arg(m_backup.copy()));
 }
 
 void ProfileKeeper::offerRestore(const char *question)

@@ -23,6 +23,8 @@ public slots:
 
 signals:
     void ready();
+    /// Something of the user's cannot be kept; `text` says what, in the current language.
+    void problem(QString text);
 
 private:
     void offerRestore(const char *question);

@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include <QApplication>
+#include <QPainterPath>
 #include <QRect>
 
 #include "Arguments.h"
@@ -97,6 +98,32 @@ bool isDeviceReady(const Arguments &arguments)
     return isReady;
 }
 
+/// Without any font Qt draws the same box for each letter.
+bool hasFonts()
+{
+    QPainterPath narrow;
+    QPainterPath wide;
+    narrow.addText(QPointF(), QApplication::font(), QLatin1String("i"));
+    wide.addText(QPointF(), QApplication::font(), QLatin1String("M"));
+    return narrow != wide;
+}
+
+/// What the user is to know before he relies on it.
+void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
+{
+    if (!hasFonts())
+        window->showProblem(dashboardText("NO_FONTS"));
+    if (!settings.isWritable())
+        window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
+}
+
+/// Once more at the end, since the disk may have become full meanwhile.
+void saveSettings(DashboardSettings *settings, MainWindow *window)
+{
+    if (!settings->save())
+        window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings->file()));
+}
+
 int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
 {
     QWidget host;
@@ -151,11 +178,14 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     ProfileKeeper profiles(ProfileBackup::ofUser());
     QObject::connect(&profiles, SIGNAL(ready()), &window, SLOT(loadPlugin()));
     QObject::connect(&window, SIGNAL(frameClosed()), &profiles, SLOT(refresh()));
+    QObject::connect(&profiles, SIGNAL(problem(QString)), &window, SLOT(showProblem(QString)));
     QObject::connect(&shown, SIGNAL(painted()), &profiles, SLOT(start()));
+    sayWhatIsMissing(settings, &window);
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = QApplication::exec();
     plugin.shutDown(); // before the window that hosts the plug-in's page
+    saveSettings(&settings, &window);
     return result;
 }
 

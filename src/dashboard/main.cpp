@@ -1,3 +1,4 @@
+#include <QFile>
 #include <QLocale>
 
 #include <clocale>
@@ -25,10 +26,21 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
+/// Without the file of English there is no text to say it in.
+void sayWhichTextsAreMissing(const QString &wanted)
+{
+    const QString english = Languages::file(QLatin1String("en"));
+    if (!QFile::exists(english))
+        printErrorLine(english + QLatin1String(" is missing; keys stand in place of texts."));
+    else if (!wanted.isEmpty() && !Languages::codes().contains(wanted))
+        printErrorLine(dashboardText("LANGUAGE_MISSING").arg(Languages::file(wanted)));
+}
+
 /// The language that was remembered, else that of the desktop; English when there is neither.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
+    sayWhichTextsAreMissing(remembered);
     const QString code =
         remembered.isEmpty() ? QLocale::system().name().left(CODE_LENGTH) : remembered;
     return Languages::codes().contains(code) ? code : QLatin1String("en");

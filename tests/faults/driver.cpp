@@ -1,0 +1,155 @@
+/*
+ * The user of a dashboard in which something is wrong with the machine; a part of faulty_dashboard,
+ * which is the program itself otherwise. He looks at what it says, answers it, and closes it. What
+ * he saw goes to standard output, a line each: "box: TEXT", "notice: TEXT", "codes: LIST".
+ *
+ *   USSD_USER_SAVES=CODE    he adds the code in the editor and saves
+ *   USSD_USER_SAYS=TEXT     he presses the button of message boxes that begins so, else the first
+ */
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTableWidget>
+#include <QTimer>
+
+#include <cstdio>
+
+#include "GeneralWindow.h"
+#include "MainWindow.h"
+#include "NoticeBar.h"
+
+namespace
+{
+
+const int INTERVAL = 20; // ms
+
+void print(const char *what, QString text)
+{
+    text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    printf("%s: %s\n", what, text.toUtf8().constData());
+    fflush(stdout);
+}
+
+MainWindow *mainWindow()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (MainWindow *window = qobject_cast<MainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+/// A long text stands in a view.
+QString textOf(const QMessageBox *box)
+{
+    const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
+    return view ? view->toPlainText() : box->text();
+}
+
+void press(QMessageBox *box)
+{
+    const QString wanted = QString::fromLocal8Bit(qgetenv("USSD_USER_SAYS"));
+    for (QAbstractButton *button : box->buttons()) {
+        if (!wanted.isEmpty() && button->text().startsWith(wanted))
+            return button->click();
+    }
+    box->buttons().first()->click();
+}
+
+/// Empty codes of the editor's table come last.
+void addCode(QTableWidget *table, const QString &code)
+{
+    int row = 0;
+    while (table->item(row, 1) && !table->item(row, 1)->text().isEmpty())
+        ++row;
+    table->setItem(row, 0, new QTableWidgetItem(QLatin1String("Mine")));
+    table->setItem(row, 1, new QTableWidgetItem(code));
+}
+
+class User : public QObject
+{
+    Q_OBJECT
+public:
+    explicit User(QObject *parent)
+        : QObject(parent), m_code(QString::fromLocal8Bit(qgetenv("USSD_USER_SAVES")))
+    {
+        lookLater();
+    }
+
+private:
+    /// A new timer each time: one whose slot opens a window does not fire while that is open.
+    void lookLater() { QTimer::singleShot(INTERVAL, this, &User::look); }
+
+    void look()
+    {
+        if (!m_isDone)
+            lookLater();
+        QWidget *modal = QApplication::activeModalWidget();
+        if (QMessageBox *box = qobject_cast<QMessageBox *>(modal)) {
+            print("box", textOf(box));
+            press(box);
+        } else if (modal) {
+            edit(modal);
+        } else if (mainWindow() && GeneralWindow(mainWindow()->page()).isComplete()) {
+            usePage();
+        }
+    }
+
+    void edit(QWidget *editor)
+    {
+        QTableWidget *table =
+            editor->findChild<QTableWidget *>(QLatin1String("USSDUIPlugin_ProfileTable"));
+        if (!table || m_code.isEmpty())
+            return void(editor->close());
+        addCode(table, m_code);
+        m_code.clear();
+        editor->findChild<QPushButton *>(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"))
+            ->click();
+    }
+
+    void usePage()
+    {
+        if (m_isDone)
+            return;
+        if (!m_code.isEmpty())
+            return named<QPushButton>("USSDUIPlugin_AdvancedDialog_EditButton")->click();
+        m_isDone = true;
+        tell();
+        mainWindow()->close();
+        QApplication::quit();
+    }
+
+    template <typename Widget>
+    static Widget *named(const char *name)
+    {
+        return mainWindow()->findChild<Widget *>(QLatin1String(name));
+    }
+
+    static void tell()
+    {
+        for (const NoticeBar *notice : mainWindow()->findChildren<NoticeBar *>()) {
+            if (notice->isVisible())
+                print("notice", notice->text());
+        }
+        const QComboBox *combo = named<QComboBox>("USSDUIPlugin_AdvancedDialog_ProfilesCombo");
+        QStringList names;
+        for (int i = 0; combo && i < combo->count(); ++i)
+            names << combo->itemText(i);
+        print("codes", names.join(QLatin1String(", ")));
+    }
+
+    QString m_code;
+    bool m_isDone = false;
+};
+
+void seatUser()
+{
+    new User(qApp);
+}
+Q_COREAPP_STARTUP_FUNCTION(seatUser)
+
+} // namespace
+
+#include "driver.moc"
