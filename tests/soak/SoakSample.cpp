@@ -54,7 +54,7 @@ int entriesOf(const char *folder)
 qint64 heapBytes()
 {
     const struct mallinfo2 info = mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 }
 
 } // namespace
