@@ -6,11 +6,11 @@
 namespace
 {
 
-const int WIDTH = 900; // pixels, as all sizes here
+const int WIDTH = 940; // pixels, as all sizes here
 const int STRIP = 88;
 const int GAP = 22;
-const int LEFT = 170;
-const int RIGHT = 140;
+const int LEFT = 180;
+const int RIGHT = 160;
 const int TOP = 40;
 const int BOTTOM = 16;
 const QColor INK(40, 40, 40);
