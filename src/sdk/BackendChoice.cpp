@@ -99,8 +99,11 @@ std::shared_ptr<Backend> BackendChoice::backend()
     if (std::shared_ptr<Backend> made = current())
         return made;
     const std::lock_guard<std::mutex> lock(m_switchMutex);
-    if (!current())
+    if (!current()) {
         setCurrent(decide());
+        if (m_stopped)
+            current()->stop();
+    }
     return current();
 }
 
@@ -169,9 +172,8 @@ void BackendChoice::replace(const std::shared_ptr<Backend> &next)
 
 void BackendChoice::end(Backend &old)
 {
-    const bool wasThere = old.info().state != TKSV_DEVICE_ABSENT;
-    old.stop();
-    if (wasThere)
+    old.stop(); // one that comes in this moment is gone as well
+    if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }
 

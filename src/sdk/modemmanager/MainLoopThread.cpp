@@ -10,7 +10,7 @@ namespace tksv
 namespace
 {
 
-using Task = std::function<void()>;
+using Task = MainLoopThread::Task;
 
 gboolean runTask(gpointer task)
 {
@@ -74,21 +74,43 @@ void MainLoopThread::loop()
     g_main_context_pop_thread_default(m_context);
 }
 
+/// The tasks go through a queue of our own, whose lock says what one thread has done before
+/// another, also to a sanitizer that does not see GLib's.
 void MainLoopThread::post(Task task)
 {
-    attach(g_idle_source_new(), std::move(task));
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_tasks.push_back(std::move(task));
+    }
+    attach(g_idle_source_new(), runNext, this, nullptr);
+}
+
+MainLoopThread::Task MainLoopThread::takeTask()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Task task = std::move(m_tasks.front());
+    m_tasks.pop_front();
+    return task;
 }
 
 void MainLoopThread::after(std::chrono::milliseconds delay, Task task)
 {
-    attach(g_timeout_source_new(static_cast<guint>(delay.count())), std::move(task));
+    attach(g_timeout_source_new(static_cast<guint>(delay.count())), runTask,
+           new Task(std::move(task)), deleteTask);
+}
+
+gboolean MainLoopThread::runNext(gpointer self)
+{
+    static_cast<MainLoopThread *>(self)->takeTask()();
+    return G_SOURCE_REMOVE;
 }
 
 /// g_main_context_invoke() would run the task on the caller's thread before the loop has begun.
-void MainLoopThread::attach(GSource *source, Task task)
+void MainLoopThread::attach(GSource *source, GSourceFunc function, gpointer data,
+                            GDestroyNotify destroy)
 {
     g_source_set_priority(source, G_PRIORITY_DEFAULT);
-    g_source_set_callback(source, runTask, new Task(std::move(task)), deleteTask);
+    g_source_set_callback(source, function, data, destroy);
     g_source_attach(source, m_context);
     g_source_unref(source);
 }

@@ -2,8 +2,10 @@
 #define TKSV_INTERNAL_MAINLOOPTHREAD_H
 
 #include <chrono>
+#include <deque>
 #include <functional>
 #include <glib.h>
+#include <mutex>
 
 #include "../WorkerThread.h"
 
@@ -17,6 +19,8 @@ namespace tksv
 class MainLoopThread
 {
 public:
+    using Task = std::function<void()>;
+
     /// `name` has at most 15 characters and lives as long as the program.
     explicit MainLoopThread(const char *name);
     /// Not on its own thread.
@@ -28,24 +32,28 @@ public:
     void start();
     /// Runs the task on the thread, in the order of the calls; any thread may call. Before start()
     /// tasks wait; those that stop() finds waiting do not run.
-    void post(std::function<void()> task);
+    void post(Task task);
     /// As post(), and returns when the task has run; on the thread itself it runs at once. Between
     /// start() and stop() only.
-    void run(const std::function<void()> &task);
+    void run(const Task &task);
     /// On the thread itself only.
-    void after(std::chrono::milliseconds delay, std::function<void()> task);
+    void after(std::chrono::milliseconds delay, Task task);
     bool isCurrent() const { return m_thread.isCurrent(); }
 
     /// Runs the task as the thread's last and waits for the thread's end.
-    void stop(const std::function<void()> &last);
+    void stop(const Task &last);
 
 private:
     void loop();
-    void attach(GSource *source, std::function<void()> task);
+    Task takeTask();
+    static gboolean runNext(gpointer self);
+    void attach(GSource *source, GSourceFunc function, gpointer data, GDestroyNotify destroy);
 
     const char *const m_name;
     GMainContext *const m_context;
     GMainLoop *const m_loop;
+    std::mutex m_mutex; // guards m_tasks
+    std::deque<Task> m_tasks;
     WorkerThread m_thread;
 };
 

@@ -47,10 +47,20 @@ int signalOf(MMModem *modem)
 ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener)
     : m_listener(std::move(listener)), m_object(std::move(object)),
       m_ussd(std::make_shared<UssdChannel>(
-          thread, UssdChannel::Listener{m_listener.replied, m_listener.networkSaid,
+          thread, UssdChannel::Listener{[this](RequestToken token, const UssdReply &reply) {
+                                            if (reply.type <= UssdWaitsForAnswer)
+                                                wasPermitted();
+                                            m_listener.replied(token, reply);
+                                        },
+                                        m_listener.networkSaid,
                                         [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }})),
-      m_sms(std::make_shared<SmsSender>(SmsSender::Listener{
-          m_listener.smsFinished, [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }}))
+      m_sms(std::make_shared<SmsSender>(
+          SmsSender::Listener{[this](const SmsMessage &message, int result) {
+                                  if (result == SmsSent)
+                                      wasPermitted();
+                                  m_listener.smsFinished(message, result);
+                              },
+                              [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }}))
 {
 }
 
@@ -79,8 +89,11 @@ void ModemDevice::modemChanged()
 {
     if (!m_modem)
         return;
-    if (mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_DISABLED)
+    const MMModemState now = mm_modem_get_state(m_modem.get());
+    if (now == MM_MODEM_STATE_DISABLED)
         enable();
+    if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
+        m_problem = TKSV_PROBLEM_NONE; // whoever did it, what stood in the way has gone
     fetchSim();
     m_listener.changed();
 }
@@ -106,17 +119,27 @@ void ModemDevice::fetchSim()
     if (path == m_simPath)
         return;
     m_simPath = path;
-    const auto done = [this](GObject *modem, GAsyncResult *result) {
+    const auto done = [this, path](GObject *modem, GAsyncResult *result) {
         ErrorSlot ignored; // without a SIM its lines stay empty
-        m_sim.reset(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
+        GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
+        if (path != m_simPath)
+            return; // another one has taken its place
+        m_sim = std::move(sim);
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
         m_listener.changed();
-        if (!m_waitingPin.empty())
-            sendPin(std::exchange(m_waitingPin, {}));
+        sendWaitingPin();
     };
     mm_modem_get_sim(m_modem.get(), nullptr, runAsyncDone,
                      asyncDone(ifAlive(weak_from_this(), done)));
+}
+
+void ModemDevice::sendWaitingPin()
+{
+    const std::string pin = std::exchange(m_waitingPin, {});
+    if (pin.empty())
+        return;
+    m_sim ? sendPin(pin) : problemIs(TKSV_PROBLEM_MODEM_FAILED);
 }
 
 void ModemDevice::sendPin(const std::string &pin)
@@ -145,6 +168,12 @@ void ModemDevice::problemIs(TKSV_DeviceProblem problem)
 {
     m_problem = problem;
     m_listener.changed();
+}
+
+void ModemDevice::wasPermitted()
+{
+    if (m_problem == TKSV_PROBLEM_NOT_PERMITTED)
+        problemIs(TKSV_PROBLEM_NONE);
 }
 
 /* ---- what is known ----------------------------------------------------------------------- */

@@ -50,7 +50,9 @@ private:
     void modemChanged();
     void enable();
     void fetchSim();
+    void sendWaitingPin();
     void problemIs(TKSV_DeviceProblem problem);
+    void wasPermitted();
     TKSV_DeviceState state() const;
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
@@ -67,7 +69,8 @@ private:
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableTried = false;
-    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE; // what the last call has met
+    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // that told how far the modem has got
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // what the last call has met
 };
 
 } // namespace tksv

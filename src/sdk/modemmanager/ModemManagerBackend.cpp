@@ -16,6 +16,11 @@ bool canEndAtCommand(unsigned char unit)
     return unit < 0x20 || unit == 0x7f || unit == '"';
 }
 
+bool takesCommands(const DeviceInfo &info)
+{
+    return info.state == TKSV_DEVICE_REGISTERED && info.problem != TKSV_PROBLEM_NO_USSD;
+}
+
 } // namespace
 
 bool isSaneForModem(const std::string &text)
@@ -47,9 +52,11 @@ void ModemManagerBackend::stop()
             return;
     }
     m_watch.thread().run([this] {
-        m_observer = nullptr;
-        if (m_device)
+        if (m_device) {
             m_device->ussd().endSession();
+            m_device->sms().giveUp();
+        }
+        m_observer = nullptr;
         m_device.reset();
     });
 }
@@ -59,13 +66,12 @@ int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std
     if (!isSaneForModem(text))
         return RequestMalformed;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stopped || m_info.state != TKSV_DEVICE_REGISTERED ||
-        m_info.problem == TKSV_PROBLEM_NO_USSD)
+    if (m_stopped || (m_hasLooked && !takesCommands(m_info)))
         return RequestNoDevice;
-    post([this, token, kind, text] {
-        if (m_device)
+    post([this, token, kind, text, lost = m_lostModems] {
+        if (m_device && lost == m_lostModems && takesCommands(m_info))
             return m_device->ussd().request(token, kind, text);
-        if (m_observer) // gone in between
+        if (m_observer) // gone in between, or never there
             m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
     });
     return RequestAccepted;
@@ -86,8 +92,8 @@ bool ModemManagerBackend::sendSms(const SmsMessage &message)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || !m_info.canSendSms)
         return false;
-    post([this, message] {
-        if (m_device)
+    post([this, message, lost = m_lostModems] {
+        if (m_device && lost == m_lostModems && m_info.canSendSms)
             return m_device->sms().send(message);
         if (m_observer)
             m_observer->smsFinished(message, SmsFailed);
@@ -100,8 +106,8 @@ bool ModemManagerBackend::sendPin(const std::string &pin)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || m_info.state != TKSV_DEVICE_SIM_LOCKED)
         return false;
-    post([this, pin] {
-        if (m_device)
+    post([this, pin, lost = m_lostModems] {
+        if (m_device && lost == m_lostModems)
             m_device->sendPin(pin);
     });
     return true;
@@ -158,6 +164,10 @@ void ModemManagerBackend::take(GObjectPtr<MMObject> object)
 void ModemManagerBackend::drop()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        ++m_lostModems;
+    }
     const bool serviceEnded = m_watch.state() != ServiceState::Running;
     m_observer->deviceLost(serviceEnded ? TKSV_DEV_EVENT_RESET : TKSV_DEV_EVENT_GONE);
     gone->sms().giveUp();
@@ -173,16 +183,18 @@ void ModemManagerBackend::publish()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         before = std::exchange(m_info, now);
+        m_hasLooked = true;
     }
     compare(before, now);
 }
 
-/// What runs fails with the registration: its outcome could not reach the modem any more.
+/// What runs fails with the registration or the interface: its outcome could not reach the modem
+/// any more.
 void ModemManagerBackend::compare(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)
         return;
-    if (before.state == TKSV_DEVICE_REGISTERED && now.state != before.state && m_device)
+    if (takesCommands(before) && !takesCommands(now) && m_device)
         m_device->giveUp();
     if (before.canSendSms != now.canSendSms)
         m_observer->smsStatusChanged(now.canSendSms);

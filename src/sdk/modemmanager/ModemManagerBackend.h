@@ -51,8 +51,11 @@ private:
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
 
-    mutable std::mutex m_mutex; // guards m_info and m_stopped
+    // The thread, which alone writes the first three, reads them without the mutex.
+    mutable std::mutex m_mutex; // guards what follows
     DeviceInfo m_info;
+    bool m_hasLooked = false;  // m_info is what the thread has found
+    unsigned m_lostModems = 0; // what was meant for one that has gone is not for the next
     bool m_stopped = false;
 };
 

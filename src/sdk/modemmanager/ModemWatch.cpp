@@ -58,8 +58,9 @@ ModemWatch::ModemWatch(Changed changed) : m_thread("tksv-modems"), m_changed(std
 
 void ModemWatch::start()
 {
-    if (!std::exchange(m_started, true))
+    if (!m_started)
         m_thread.start();
+    m_started = true;
     m_thread.post([this] { connectToBus(); });
 }
 
@@ -80,8 +81,8 @@ void ModemWatch::stop(const std::function<void()> &last)
 /// A connection of its own: the shared one of g_bus_get() would end the program with the bus.
 void ModemWatch::connectToBus()
 {
-    if (m_bus && !m_manager)
-        return makeManager(0);
+    if (m_bus && !m_manager && !m_isAsking)
+        return askService(0);
     if (m_bus || m_isConnecting)
         return;
     m_isConnecting = true;
@@ -107,7 +108,26 @@ void ModemWatch::connected(GDBusConnection *bus)
         return setState(ServiceState::NoBus);
     m_bus = shareObject(bus);
     m_signals.on(bus, "closed", [this] { busClosed(); });
-    makeManager(StartingTries);
+    askService(StartingTries);
+}
+
+/// Whether it answers at all is asked first, without waiting: a daemon that hangs shall not hold up
+/// the thread. One that does not run says so at once.
+void ModemWatch::askService(int tries)
+{
+    m_isAsking = true;
+    const AsyncDone done = [this, tries](GObject *bus, GAsyncResult *result) {
+        m_isAsking = false;
+        ErrorSlot ignored;
+        const GVariantPtr answer(
+            g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, ignored.slot()));
+        if (G_OBJECT(m_bus.get()) == bus && !m_manager)
+            makeManager(tries);
+    };
+    g_dbus_connection_call(
+        m_bus.get(), MM_DBUS_SERVICE, MM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
+        g_variant_new("(ss)", MM_DBUS_SERVICE, "Version"), nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
+        G_MAXINT, m_cancellable.get(), runAsyncDone, asyncDone(done));
 }
 
 /// By a call that waits, since GLib would make it on a thread of its own and tell of the objects in
@@ -127,8 +147,8 @@ void ModemWatch::makeManager(int tries)
     if (tries == 0)
         return setState(ServiceState::NoService);
     m_thread.after(StartingPause, [this, tries] {
-        if (m_bus && !m_manager)
-            makeManager(tries - 1);
+        if (m_bus && !m_manager && !m_isAsking)
+            askService(tries - 1);
     });
 }
 

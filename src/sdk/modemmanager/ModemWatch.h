@@ -59,6 +59,7 @@ private:
     void connectToBus();
     void connected(GDBusConnection *bus);
     void busClosed();
+    void askService(int tries);
     void makeManager(int tries);
     void madeManager(MMManager *manager);
     void look();
@@ -74,6 +75,7 @@ private:
     GObjectPtr<GDBusConnection> m_bus;
     GObjectPtr<MMManager> m_manager;
     bool m_isConnecting = false;
+    bool m_isAsking = false;
     SignalConnections m_signals;
 
     mutable std::mutex m_mutex; // guards what follows

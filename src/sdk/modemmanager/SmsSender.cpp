@@ -43,27 +43,30 @@ void SmsSender::send(const SmsMessage &message)
     m_onTheirWay[id] = message;
     if (!m_messaging)
         return finish(id, nullptr);
-    const auto done = [this, id](GObject *messaging, GAsyncResult *result) {
+    const AsyncDone done = [self = shared_from_this(), id](GObject *messaging,
+                                                           GAsyncResult *result) {
         ErrorSlot error;
         const GObjectPtr<MMSms> sms(
             mm_modem_messaging_create_finish(MM_MODEM_MESSAGING(messaging), result, error.slot()));
-        created(id, sms.get(), error.get());
+        self->created(id, sms.get(), error.get());
     };
     mm_modem_messaging_create(m_messaging.get(), propertiesOf(message).get(), nullptr, runAsyncDone,
-                              asyncDone(ifAlive(weak_from_this(), done)));
+                              asyncDone(done));
 }
 
 void SmsSender::created(Id id, MMSms *sms, const GError *error)
 {
     if (!sms)
         return finish(id, error);
+    if (m_onTheirWay.count(id) == 0)
+        return remove(sms); // has been given up: whoever sends it again does not mean it twice
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NoTimeLimit);
-    const auto done = [this, id](GObject *source, GAsyncResult *result) {
+    const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
         mm_sms_send_finish(MM_SMS(source), result, failure.slot());
-        sent(id, MM_SMS(source), failure.get());
+        self->sent(id, MM_SMS(source), failure.get());
     };
-    mm_sms_send(sms, nullptr, runAsyncDone, asyncDone(ifAlive(weak_from_this(), done)));
+    mm_sms_send(sms, nullptr, runAsyncDone, asyncDone(done));
 }
 
 void SmsSender::sent(Id id, MMSms *sms, const GError *error)

@@ -15,7 +15,8 @@ namespace tksv
 
 /**
  * Sends short messages through one modem: each is stored, sent, and deleted where it was stored.
- * The thread of the main loop only.
+ * The thread of the main loop only. It stays until the last call has returned, so that records are
+ * deleted also when its owner has gone; giveUp() comes before that, and nothing is told after it.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {

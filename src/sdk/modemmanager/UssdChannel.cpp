@@ -22,6 +22,15 @@ bool names(GVariant *changed, const char *property)
     return value != nullptr;
 }
 
+/// In the reply of org.freedesktop.DBus.Properties.Get.
+MMModem3gppUssdSessionState stateIn(GVariant *answer)
+{
+    GVariant *state = nullptr;
+    g_variant_get(answer, "(v)", &state);
+    const GVariantPtr owned(state);
+    return static_cast<MMModem3gppUssdSessionState>(g_variant_get_uint32(state));
+}
+
 } // namespace
 
 UssdChannel::UssdChannel(MainLoopThread &thread, Listener listener)
@@ -38,9 +47,21 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.disconnectAll();
     m_ussd = shareObject(ussd);
     if (!m_ussd)
-        return;
+        return interfaceGone();
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NoTimeLimit);
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
+}
+
+/// What the daemon still says of calls on it does not count; perhaps it says nothing.
+void UssdChannel::interfaceGone()
+{
+    giveUp();
+    ++m_call;
+    m_inCall.reset();
+    m_replyText.reset();
+    m_cancelWanted = false;
+    m_cancelling = false;
+    m_askedByNetwork = false;
 }
 
 void UssdChannel::catchUp()
@@ -202,13 +223,10 @@ void UssdChannel::askForState()
         ErrorSlot error;
         const GVariantPtr answer(
             g_dbus_proxy_call_finish(G_DBUS_PROXY(proxy), result, error.slot()));
-        if (!answer || call != m_call)
+        if (call != m_call)
             return;
-        GVariant *state = nullptr;
-        g_variant_get(answer.get(), "(v)", &state);
-        const GVariantPtr owned(state);
         m_wasActive = true;
-        stateBecame(static_cast<MMModem3gppUssdSessionState>(g_variant_get_uint32(state)));
+        stateBecame(answer ? stateIn(answer.get()) : MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE);
     };
     g_dbus_proxy_call(G_DBUS_PROXY(m_ussd.get()), "org.freedesktop.DBus.Properties.Get",
                       g_variant_new("(ss)", MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, "State"),

@@ -56,6 +56,7 @@ private:
         bool isSecondTry;
     };
 
+    void interfaceGone();
     void step();
     void start(const Request &request);
     void callReturned(unsigned call, const Request &request, GMemory<char> text,
