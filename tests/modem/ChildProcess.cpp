@@ -101,6 +101,18 @@ void ChildProcess::stop(std::chrono::milliseconds limit)
         kill();
 }
 
+void ChildProcess::pause()
+{
+    if (m_pid >= 0)
+        ::kill(m_pid, SIGSTOP);
+}
+
+void ChildProcess::resume()
+{
+    if (m_pid >= 0)
+        ::kill(m_pid, SIGCONT);
+}
+
 void ChildProcess::kill()
 {
     if (m_pid < 0)

@@ -28,6 +28,9 @@ public:
     bool isRunning();
     /// SIGTERM, and SIGKILL when that is not obeyed within `limit`.
     void stop(std::chrono::milliseconds limit);
+    /// SIGSTOP: it hangs until resume().
+    void pause();
+    void resume();
     /// SIGKILL; returns when the process has ended.
     void kill();
 

@@ -10,7 +10,7 @@ namespace modem
 namespace
 {
 
-using Action = std::function<void()>;
+using Action = LoopThread::Action;
 
 gboolean runOnce(gpointer data)
 {
@@ -51,14 +51,31 @@ LoopThread::~LoopThread()
     g_main_context_unref(m_context);
 }
 
+/// The actions lie in a list of our own, whose lock says what one thread has done before another,
+/// also to a sanitizer that does not see GLib's.
 void LoopThread::post(Action action, unsigned delayMilliseconds)
 {
+    const auto place = keep(std::move(action));
     GSource *source = delayMilliseconds ? g_timeout_source_new(delayMilliseconds) //
                                         : g_idle_source_new();
     g_source_set_priority(source, G_PRIORITY_DEFAULT);
-    g_source_set_callback(source, runOnce, new Action(std::move(action)), forget);
+    g_source_set_callback(source, runOnce, new Action([this, place] { take(place)(); }), forget);
     g_source_attach(source, m_context);
     g_source_unref(source);
+}
+
+std::list<LoopThread::Action>::iterator LoopThread::keep(Action action)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_actions.insert(m_actions.end(), std::move(action));
+}
+
+LoopThread::Action LoopThread::take(std::list<Action>::iterator place)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Action action = std::move(*place);
+    m_actions.erase(place);
+    return action;
 }
 
 void LoopThread::call(const Action &action)

@@ -3,6 +3,8 @@
 
 #include <functional>
 #include <glib.h>
+#include <list>
+#include <mutex>
 #include <thread>
 
 namespace modem
@@ -12,6 +14,8 @@ namespace modem
 class LoopThread
 {
 public:
+    using Action = std::function<void()>;
+
     /// `name` is what debuggers show, at most 15 characters.
     explicit LoopThread(const char *name);
     ~LoopThread();
@@ -24,11 +28,16 @@ public:
     GMainContext *context() const { return m_context; }
 
     /// Any thread: does it on the loop's thread later.
-    void post(std::function<void()> action, unsigned delayMilliseconds = 0);
+    void post(Action action, unsigned delayMilliseconds = 0);
     /// Any thread: does it on the loop's thread and returns when it is done.
-    void call(const std::function<void()> &action);
+    void call(const Action &action);
 
 private:
+    std::list<Action>::iterator keep(Action action);
+    Action take(std::list<Action>::iterator place);
+
+    std::mutex m_mutex; // guards m_actions
+    std::list<Action> m_actions;
     GMainContext *m_context;
     GMainLoop *m_loop;
     std::thread m_thread;

@@ -198,6 +198,18 @@ void ModemWorld::killDaemon()
     m_daemon.kill();
 }
 
+void ModemWorld::pauseDaemon()
+{
+    const std::lock_guard<std::mutex> lock(m_daemonMutex);
+    m_daemon.pause();
+}
+
+void ModemWorld::resumeDaemon()
+{
+    const std::lock_guard<std::mutex> lock(m_daemonMutex);
+    m_daemon.resume();
+}
+
 bool ModemWorld::isDaemonRunning()
 {
     const std::lock_guard<std::mutex> lock(m_daemonMutex);

@@ -75,6 +75,8 @@ public:
     bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
+    void pauseDaemon(); ///< it hangs, with its name still on the bus; nothing here answers then
+    void resumeDaemon();
 
     ModemState stateOf(const std::string &id);
     /// The modem's object once it has at least that state, failed modems apart; else empty.

@@ -142,6 +142,8 @@ private slots:
     void aReplacedCommandIsNotAnswered();
     void theReplyToAReleasedCommandIsToldToTheDashboard();
     void aSessionThatAnotherClientLeftIsEnded();
+    void aCommandForAModemJustChosenIsSent();
+    void aDaemonThatHangsHoldsNobodyUp();
     void aLostRegistrationEndsTheCommand();
     void aDisabledModemEndsTheCommand();
     void anUnpluggedModemEndsTheCommand();
@@ -154,12 +156,15 @@ private slots:
 
     void messagesTellTheirOutcome();
     void messagesAreDeletedFromTheModem();
+    void aMessageThatWasGivenUpIsNotSent();
     void readinessFollowsTheRegistration();
 
     void thePinUnlocksTheSim();
     void tooManyPinsNeedThePuk();
     void aMissingSimIsSaid();
+    void aPinFromElsewhereMakesGoodAWrongOne();
     void whatPolkitRefusesIsSaid();
+    void aRefusalIsForgottenWhenItIsTakenBack();
     void aModemWithoutUssdIsSaid();
 
     void oneOfTwoModemsIsChosen();
@@ -379,6 +384,33 @@ void ModemDeviceTest::aSessionThatAnotherClientLeftIsEnded()
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
+/// Its state is not known by then.
+void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
+{
+    useModem();
+    TKSV_Device_UseModem("350000000000017");
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    TKSV_Device_UseModem("350000000000025");
+    QCOMPARE(ask(u"*100#").type, 2); // is not there
+    QCOMPARE(received().responses.all().size(), std::size_t(2));
+}
+
+/// GDBus by itself would wait for 25 s.
+void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
+{
+    m_world = std::make_unique<ModemWorld>();
+    QCOMPARE(m_world->start(), std::string());
+    m_world->pauseDaemon();
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 200) // some of it comes when the daemon has been asked
+        TKSV_Device_UseModem(nullptr);
+    QVERIFY(timer.elapsed() < 15000);
+    m_world->resumeDaemon();
+    addModem("one");
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+}
+
 void ModemDeviceTest::aLostRegistrationEndsTheCommand()
 {
     useModem();
@@ -513,6 +545,29 @@ void ModemDeviceTest::messagesAreDeletedFromTheModem()
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
 }
 
+/// It ends with the device that was to send it; the daemon hears of it later, and forgets it.
+void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
+{
+    useModem();
+    m_world->pauseDaemon();
+    QCOMPARE(sendSms(u"1200", u"given up"), 0L);
+    TKSV_Device_UseModem("350000000000025");
+    QVERIFY(received().smsResults.waitFor(1));
+    QVERIFY(received().smsResults.all()[0].result != 0);
+    QCOMPARE(shown(received().smsResults.all()[0].text), QLatin1String("given up"));
+    m_world->resumeDaemon();
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(waitUntil([] { return info().canSendSMS; }));
+    QCOMPARE(sendSms(u"1200", u"sent"), 0L);
+    QVERIFY(received().smsResults.waitFor(2));
+    QCOMPARE(received().smsResults.all()[1].result, 0);
+    QCOMPARE(fake().submitted().size(), std::size_t(1));
+    modem::MmClient client(m_world->busAddress());
+    QVERIFY(client.use(m_world->stateOf("one").object));
+    QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
+    QCOMPARE(received().smsResults.all().size(), std::size_t(2));
+}
+
 void ModemDeviceTest::readinessFollowsTheRegistration()
 {
     useModem();
@@ -565,6 +620,34 @@ void ModemDeviceTest::aMissingSimIsSaid()
     QCOMPARE(m_world->addModem("one", noSim), std::string());
     QVERIFY(waitForState(TKSV_DEVICE_SIM_MISSING));
     QVERIFY(request(u"*100#") != 0);
+}
+
+void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
+{
+    ModemSettings settings;
+    settings.asksForPin = true;
+    startWorld();
+    const std::string network = std::string(Network).insert(10, "PIN=4711\n");
+    QCOMPARE(m_world->addModem("one", network, settings), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
+    QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_WRONG_PIN));
+    modem::MmClient other(m_world->busAddress());
+    QVERIFY(other.use(m_world->stateOf("one").object));
+    QCOMPARE(other.sendPin("4711"), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
+}
+
+void ModemDeviceTest::aRefusalIsForgottenWhenItIsTakenBack()
+{
+    useModem();
+    m_world->polkit().allow(false);
+    QCOMPARE(ask(u"*100#").type, 2);
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NOT_PERMITTED));
+    m_world->polkit().allow(true);
+    QCOMPARE(ask(u"*100#").type, 0);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
 }
 
 void ModemDeviceTest::whatPolkitRefusesIsSaid()

@@ -1,0 +1,196 @@
+/* Which device is used when nobody says: a modem when there is one, otherwise the simulator. */
+#include "ModemWorld.h"
+
+#include <QtTest>
+
+#include <atomic>
+
+#include "SdkFixture.h"
+#include "tksv_device.h"
+#include "UssdTest.h"
+
+using namespace SdkFixture;
+using modem::ModemWorld;
+
+namespace
+{
+
+const char Network[] = R"([Network]
+Operator=Test Net
+IMSI=001010000000001
+[*100#]
+Reply=From the modem
+)";
+
+const int Rounds = 25;
+
+TKSV_DeviceInfo info()
+{
+    TKSV_DeviceInfo result;
+    TKSV_Device_GetInfo(&result);
+    return result;
+}
+
+bool waitForDevice(TKSV_Backend backend, TKSV_DeviceState state)
+{
+    return waitUntil([=] {
+        const TKSV_DeviceInfo now = info();
+        return now.backend == backend && now.state == state;
+    });
+}
+
+unsigned long countModems()
+{
+    unsigned long count = 0;
+    TKSV_Device_GetModems(nullptr, 0, &count);
+    return count;
+}
+
+QString reply()
+{
+    return QString::fromStdU16String(ask(u"*100#").text);
+}
+
+} // namespace
+
+class ModemAutomaticTest : public UssdTest
+{
+    Q_OBJECT
+
+protected:
+    void setUpClass() override;
+    void setUp() override;
+    void tearDown() override;
+
+private slots:
+    void theFirstCommandWaitsForTheModem();
+    void aModemThatComesTakesTheSimulatorsPlace();
+    void theSimulatorDoesNotTakeAModemsPlace();
+    void theDaemonMayStartLater();
+    void whatTheUserChoseStays();
+    void choicesOfManyThreadsEndInTheLast();
+
+private:
+    void addModem();
+
+    std::unique_ptr<ModemWorld> m_world;
+};
+
+/// Before the library is called first. Tests have the simulator otherwise.
+void ModemAutomaticTest::setUpClass()
+{
+    qunsetenv("TKSV_BACKEND");
+}
+
+void ModemAutomaticTest::setUp()
+{
+    m_world = std::make_unique<ModemWorld>();
+    QCOMPARE(m_world->start(), std::string());
+}
+
+void ModemAutomaticTest::tearDown()
+{
+    if (QTest::currentTestFailed())
+        std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
+    unregisterAll();
+    m_world.reset();
+    TKSV_Device_UseModem(nullptr); // the next world is looked for once this one's end has been seen
+    QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_BUS; }));
+    received().clear();
+}
+
+void ModemAutomaticTest::addModem()
+{
+    QCOMPARE(m_world->addModem("one", Network), std::string());
+}
+
+/// The very first of the process: nothing is known yet.
+void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
+{
+    addModem();
+    QVERIFY(!m_world->enable("one").empty());
+    registerAll();
+    QCOMPARE(reply(), QLatin1String("From the modem"));
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QVERIFY(received().deviceEvents.all().empty());
+    QCOMPARE(received().responses.all().size(), std::size_t(1));
+}
+
+void ModemAutomaticTest::aModemThatComesTakesTheSimulatorsPlace()
+{
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    QVERIFY(waitForDevice(TKSV_BACKEND_SIMULATOR, TKSV_DEVICE_REGISTERED));
+    received().clear();
+    addModem();
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QVERIFY(received().deviceEvents.waitFor(1));
+    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
+    QCOMPARE(reply(), QLatin1String("From the modem"));
+}
+
+void ModemAutomaticTest::theSimulatorDoesNotTakeAModemsPlace()
+{
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    addModem();
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    m_world->unplug("one");
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_ABSENT));
+    QVERIFY(request(u"*100#") != 0);
+    m_world->plugIn("one");
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QCOMPARE(reply(), QLatin1String("From the modem"));
+}
+
+void ModemAutomaticTest::theDaemonMayStartLater()
+{
+    m_world->stopDaemon();
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    QVERIFY(waitForDevice(TKSV_BACKEND_SIMULATOR, TKSV_DEVICE_REGISTERED));
+    addModem();
+    QVERIFY(m_world->startDaemon());
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+}
+
+void ModemAutomaticTest::whatTheUserChoseStays()
+{
+    registerAll();
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
+    addModem();
+    QVERIFY(waitUntil([] { return countModems() == 1; })); // seen, and left alone
+    QCOMPARE(int(info().backend), int(TKSV_BACKEND_SIMULATOR));
+    TKSV_Device_UseAutomatic();
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+}
+
+void ModemAutomaticTest::choicesOfManyThreadsEndInTheLast()
+{
+    registerAll();
+    addModem();
+    std::atomic<std::size_t> accepted(0);
+    const auto inThread = [](const std::function<void()> &step) {
+        return std::thread([step] {
+            for (int i = 0; i < Rounds; ++i)
+                step();
+        });
+    };
+    std::thread threads[] = {
+        inThread([] { TKSV_Device_UseModem(nullptr); }),
+        inThread([] { TKSV_Device_UseScenario(nullptr, nullptr, 0); }),
+        inThread([] { TKSV_Device_UseAutomatic(); }),
+        inThread([&] { accepted += request(u"*100#") == 0 ? 1 : 0; }),
+        inThread([] { TKSV_USSDSrv_Release(nullptr); }),
+    };
+    for (std::thread &thread : threads)
+        thread.join();
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    const Response last = ask(u"*100#");
+    QCOMPARE(QString::fromStdU16String(last.text), QLatin1String("From the modem"));
+    QVERIFY(received().responses.all().size() <= accepted + 1);
+}
+
+USSD_TEST_MAIN(ModemAutomaticTest)
+#include "automatic_test.moc"
