@@ -17,6 +17,9 @@ typedef std::function<double()> Measurement;
 
 const char kMicroseconds[] = "µs";
 
+/// In place of a limit, for figures that are only shown.
+const double kNoLimit = 0;
+
 /// What is compared with what, and the ratio that is to be reached.
 struct Title {
     std::string what;

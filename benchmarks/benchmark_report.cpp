@@ -26,7 +26,8 @@ struct Row {
     Spread measured, base, ratio;
     double limit;
 
-    bool isReached() const { return ratio.median <= limit; }
+    bool hasLimit() const { return limit > 0; }
+    bool isReached() const { return !hasLimit() || ratio.median <= limit; }
 };
 
 const int kFields = 13;
@@ -88,7 +89,8 @@ void printTable(const QList<Row> &rows)
         std::printf("| %s | %s | %s | %s | %s | %s%s |\n", qUtf8Printable(one.what),
                     qUtf8Printable(text(one.measured, unit)), qUtf8Printable(one.baseline),
                     qUtf8Printable(text(one.base, unit)), qUtf8Printable(text(one.ratio)),
-                    qUtf8Printable(number(one.limit)), one.isReached() ? "" : ", **not reached**");
+                    one.hasLimit() ? qUtf8Printable(number(one.limit)) : "–",
+                    one.isReached() ? "" : ", **not reached**");
     }
 }
 
@@ -145,11 +147,14 @@ void paintRow(QPainter &painter, const Row &one, int top)
     const QRect bar(kNameWidth, top + 7, place(one.ratio.median) - kNameWidth, kRowHeight - 14);
     painter.fillRect(bar, one.isReached() ? QColor(90, 150, 210) : QColor(230, 150, 60));
     paintSpread(painter, one.ratio, middle);
-    paintLimit(painter, one.limit, top);
+    if (one.hasLimit())
+        paintLimit(painter, one.limit, top);
     painter.setPen(Qt::black);
+    QString value = number(one.ratio.median);
+    if (one.hasLimit())
+        value += QLatin1String("   of ") + number(one.limit);
     painter.drawText(QRect(kNameWidth + kBarsWidth + 12, top, kValueWidth, kRowHeight),
-                     Qt::AlignVCenter,
-                     number(one.ratio.median) + QLatin1String("   of ") + number(one.limit));
+                     Qt::AlignVCenter, value);
 }
 
 void paintChart(QPainter &painter, const QList<Row> &rows, const QSize &size)
