@@ -110,6 +110,8 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));
+    if (!info().canSendSms)
+        return; // told when that changes
     Event event = statusEvent(true);
     event.onlyKey = keyOf(callback);
     event.begin = [this] { return info().canSendSms; };

@@ -202,12 +202,13 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
+/// A reply behind the OK: of one that comes with it the daemon takes what is there by then.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();
     enable();
     modem().setPieces(true);
-    QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
+    QCOMPARE(m_client->initiate("*110#").text, std::string("late"));
 }
 
 void ModemWorldTest::lateReplyArrives()
