@@ -81,7 +81,7 @@ void BackendChoice::stop()
         if (const std::shared_ptr<Backend> last = current())
             last->stop();
         if (m_watching)
-            m_watch.stop([] {});
+            m_watch.stop();
     }
     m_thoughts.stop(ExitLimit);
 }

@@ -65,11 +65,10 @@ void ModemWatch::start()
 }
 
 /// A daemon that does not answer shall not keep the program from its end.
-void ModemWatch::stop(const std::function<void()> &last)
+void ModemWatch::stop()
 {
     g_cancellable_cancel(m_cancellable.get());
-    m_thread.stop([this, &last] {
-        last();
+    m_thread.stop([this] {
         m_signals.disconnectAll();
         m_manager.reset();
         if (m_bus) // the end of a session that was open still has to go out

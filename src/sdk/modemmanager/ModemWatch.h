@@ -42,8 +42,8 @@ public:
     /// Begins to look for modems; returns at once. A second call looks again for what was not there
     /// before.
     void start();
-    /// Ends the thread; `last` runs there before anything is let go of.
-    void stop(const std::function<void()> &last);
+    /// Ends the thread, and lets go of everything there.
+    void stop();
 
     /// Any thread.
     std::vector<ModemSummary> modems() const;
