@@ -1,6 +1,7 @@
 #include "Transcript.h"
 
 #include "HeavyText.h"
+#include "MarkupTag.h"
 #include "PluginConfig.h"
 #include "QtCompat.h"
 
@@ -74,10 +75,11 @@ namespace Transcript
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text)
 {
+    const QString content = MarkupTag::withOthersAsLetters(text);
     Entry result;
-    result.markup = paragraph(direction, look, rightToLeft, caption + text);
-    result.isPlain = isPlain(caption + text);
-    result.mayReachOn = mayReachOn(caption, text);
+    result.markup = paragraph(direction, look, rightToLeft, caption + content);
+    result.isPlain = isPlain(caption + content);
+    result.mayReachOn = mayReachOn(caption, content);
     result.isHeavy = HeavyText::isHeavy(text);
     result.cost = markupCost(text);
     result.letters = result.markup;

@@ -31,7 +31,7 @@ struct Entry {
     QString sample; // markup of a short entry that looks the same
 };
 
-/// `text` goes in as it is: what it holds of markup counts as markup.
+/// What `text` holds of tags counts as markup; a "<" that begins none is a letter.
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text);
 

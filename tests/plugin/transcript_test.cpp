@@ -198,6 +198,11 @@ private slots:
     void offsetIsNotUsed();
     void lineBreakBecomesBr();
     void textGoesInAsItIs();
+    void textBehindABracketThatBeginsNoTagIsShown_data();
+    void textBehindABracketThatBeginsNoTagIsShown();
+    void tagThatQtKnowsStaysMarkup_data();
+    void tagThatQtKnowsStaysMarkup();
+    void bracketAsALetterReachesNotOn();
     void documentIsOneHtmlElement();
 
     // the view
@@ -313,6 +318,67 @@ void TranscriptTest::textGoesInAsItIs()
 {
     QVERIFY(markup(Sent, look(200, 0, 0, 0), false, latin1("<b>&amp;%1%s</b>"))
                 .endsWith(latin1(">Caption: <b>&amp;%1%s</b></span></p>")));
+}
+
+/// What a user sees of a reply between two others.
+static QString shown(const QString &text)
+{
+    TranscriptView view;
+    for (const QString &reply : {latin1("before"), text, latin1("behind")})
+        view.appendEntry(
+            Transcript::entry(Received, look(200, 0, 0, 0), false, latin1("R: "), reply));
+    return view.toPlainText();
+}
+
+void TranscriptTest::textBehindABracketThatBeginsNoTagIsShown_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("blank behind") << latin1("Balance < 5 EUR");
+    QTest::newRow("number behind") << latin1("Balance <5 EUR, 3>2");
+    QTest::newRow("at the end") << latin1("Balance <");
+    QTest::newRow("unknown name") << latin1("Dial <number> now");
+    QTest::newRow("name that only begins like a tag") << latin1("<body1> <bb> <tdx> <blockquotes>");
+    QTest::newRow("name with a slash in it") << latin1("1<b/2>3");
+    QTest::newRow("tag without its end") << latin1("a <b and c");
+    QTest::newRow("tag without its end behind a whole one") << latin1("2>1 but 1<b");
+    QTest::newRow("closing tag of an unknown name") << latin1("</number>");
+    QTest::newRow("comment") << latin1("now <!-- soon --> later");
+    QTest::newRow("declaration") << latin1("<!wow> <?xml?>");
+    QTest::newRow("arrow") << latin1("<-- 1 <= 2 <> 3 << 4");
+    QTest::newRow("name in quotes") << latin1("<'b'> <\"i\">");
+    QTest::newRow("many") << QString(200, QLatin1Char('<'));
+}
+
+void TranscriptTest::textBehindABracketThatBeginsNoTagIsShown()
+{
+    QFETCH(QString, text);
+    QCOMPARE(shown(text), latin1("R: before\n\nR: ") + text + latin1("\n\nR: behind\n"));
+}
+
+void TranscriptTest::tagThatQtKnowsStaysMarkup_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("pair") << latin1("<b>bold</b>");
+    QTest::newRow("capitals") << latin1("<B>bold</B>");
+    QTest::newRow("blank before the name") << latin1("< b>bold</b>");
+    QTest::newRow("attribute") << latin1("<font color='red'>bold</font>");
+    QTest::newRow("closed in itself") << latin1("bold<img/>");
+    QTest::newRow("closing only") << latin1("bold</b>");
+}
+
+void TranscriptTest::tagThatQtKnowsStaysMarkup()
+{
+    QFETCH(QString, text);
+    QVERIFY(markup(Received, look(200, 0, 0, 0), false, text).contains(text));
+    QVERIFY(shown(text).contains(latin1("bold")));
+    QVERIFY(!shown(text).contains(QLatin1Char('<')));
+}
+
+void TranscriptTest::bracketAsALetterReachesNotOn()
+{
+    const Char sent = look(200, 0, 0, 0);
+    QVERIFY(!Transcript::entry(Sent, sent, false, latin1("S: "), latin1("1 < 2")).mayReachOn);
+    QVERIFY(Transcript::entry(Sent, sent, false, latin1("S: "), latin1("1 <b> 2")).mayReachOn);
 }
 
 void TranscriptTest::documentIsOneHtmlElement()
