@@ -76,7 +76,7 @@ void USSDGeneralDlg::InitDialog(QWidget *parent, WINDOW_MODEL model)
         setParent(parent);
     m_windowModel = model;
     if (!createWidgets()) {
-        USSD_LOG(" createWidgets() failed!");
+        USSD_LOG_EXIT(" createWidgets() failed!");
         return;
     }
     getConfigure();
@@ -182,6 +182,8 @@ void USSDGeneralDlg::initCombo()
     addProfilesToCombo();
     m_pProfilesCombo->setEditable(true);
     m_pProfilesCombo->setCurrentIndex(-1);
+    // The combo is hidden: whoever gives it the focus means the field that can be seen.
+    m_pProfilesCombo->setFocusProxy(m_pUSSDCmdEdit);
     if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
         edit->setMaxLength(kMaxComboCode);
         USSD_LOG(" max length is set for combo");
@@ -446,6 +448,13 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
+/// Whether the user works in a widget of the host, from which an answer must not take the focus.
+bool USSDGeneralDlg::isFocusElsewhere() const
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus && !isAncestorOf(focus);
+}
+
 void USSDGeneralDlg::OnResponseReceived(int component, QString text)
 {
     USSD_LOG(" Enter: received response = %s", text.toLocal8Bit().constData());
@@ -472,7 +481,8 @@ bool USSDGeneralDlg::onResponseReceived()
         return false;
     }
     m_pProfilesCombo->setEnabled(true);
-    m_pProfilesCombo->setFocus(Qt::OtherFocusReason);
+    if (!isFocusElsewhere())
+        m_pProfilesCombo->setFocus(Qt::OtherFocusReason);
     changeAllPreBtnsStatus(true);
     changePayBtnsStatus(false);
     m_pSendButton->setEnabled(false);

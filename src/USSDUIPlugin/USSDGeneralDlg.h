@@ -100,6 +100,7 @@ private:
     /// True when an answer is awaited.
     bool sendCommand(const QString &command);
     void parkFocus();
+    bool isFocusElsewhere() const;
     bool onResponseReceived();
     void appendToCmdHistory(QString text, bool sent);
     void showPromptForWaitingResponse(bool show);

@@ -21,7 +21,7 @@
 #include "TranscriptView.h"
 #include "USSDEditCmd.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlgPresets.cpp");
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
 namespace
 {
@@ -210,6 +210,8 @@ void USSDGeneralDlg::OnClickedEditButton()
     getProfileList();
     addProfilesToCombo();
     update4EditCommandSave();
+    if (!m_bWaiting)
+        OnUSSDCmdEdit(); // the combo, which is empty now, has disabled Send
 }
 
 void USSDGeneralDlg::update4EditCommandSave()

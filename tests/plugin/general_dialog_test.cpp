@@ -53,6 +53,8 @@ private:
     /// Answers the question that comes up by pressing the button with this text key, and gives the
     /// question; with a null key, by Escape. Without a question the result is null.
     QString clearAndAnswer(const char *buttonKey);
+    int lineOf(const char *part); ///< the first log line that holds this; -1 without one
+    void activateWindow();        ///< so that the focus is where the dialog puts it
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 
@@ -114,10 +116,20 @@ private slots:
     void secondAnswerIsIgnored();
     void answerThatNobodyWaitsForIsIgnored();
     void answersOfManyCommandsStandInOrder();
+    void lateAnswerAfterTheNextCommandIsTakenForIts();
+
+    // focus
+    void keysTypedAfterAnAnswerReachTheCommandEdit_data();
+    void keysTypedAfterAnAnswerReachTheCommandEdit();
+    void keysTypedAfterALocalFailureReachTheCommandEdit();
+    void answerLeavesTheFocusToAWidgetOfTheHost();
+    void profileFocusReachesTheCommandEdit();
+    void dialogShownAgainHasTheFocusInTheCommandEdit();
 
     // transcript
     void lineBreakInACommandIsShownAsBr();
     void rightToLeftParagraphsSaySo();
+    void paragraphsFollowTheApplicationNotTheDialog();
     void height200And219Are10Points();
     void coloursAreThoseOfTheConfiguration();
     void looksAreReadAnewForEachEntry();
@@ -127,6 +139,7 @@ private slots:
     // clearing
     void clearButtonNeedsSomethingToClear();
     void questionAnsweredWithOkClears();
+    void questionHasItsCaptionAndIcon();
     void questionAnsweredWithCancelKeepsAll_data();
     void questionAnsweredWithCancelKeepsAll();
     void withoutQuestionItClearsAtOnce();
@@ -199,6 +212,22 @@ QString GeneralDialogTest::clearAndAnswer(const char *buttonKey)
     click(clearButton());
     drainEvents();
     return question;
+}
+
+int GeneralDialogTest::lineOf(const char *part)
+{
+    const QStringList lines = logLines();
+    for (int i = 0; i < lines.count(); ++i) {
+        if (lines.at(i).contains(latin1(part)))
+            return i;
+    }
+    return -1;
+}
+
+void GeneralDialogTest::activateWindow()
+{
+    QApplication::setActiveWindow(dialog()->window());
+    QVERIFY(QTest::qWaitForWindowActive(dialog()->window()));
 }
 
 /// Emits a signal of the combo with an index.
@@ -529,9 +558,14 @@ void GeneralDialogTest::commandIsShownBeforeItIsSent()
 {
     open();
     fakeSdkSetAnswer(fakeRefused(1, 0));
+    clearLog();
     send(latin1("*100#"));
     QCOMPARE(shownLines().value(0), sentLine(latin1("*100#")));
     QCOMPARE(shownLines().value(1), receivedLine(text("USSD_CODE_FAILED")));
+    const int shown = lineOf(": appendToCmdHistory Exit");
+    const int handedOver = lineOf(" Calling TKSV_USSDSrv_Request ");
+    QVERIFY(shown >= 0 && handedOver >= 0);
+    QVERIFY2(shown < handedOver, "the request was made before its line was shown");
 }
 
 void GeneralDialogTest::waitingDisablesAllThatSends()
@@ -757,6 +791,92 @@ void GeneralDialogTest::answersOfManyCommandsStandInOrder()
     QCOMPARE(requests().count(), 30);
 }
 
+/// No answer says which command it is for.
+void GeneralDialogTest::lateAnswerAfterTheNextCommandIsTakenForIts()
+{
+    open(WINDOW_MODEL_MODAL);
+    send(latin1("*1#"));
+    dialog()->OnClickedCloseButton();
+    open(WINDOW_MODEL_MODAL);
+    send(latin1("*2#"));
+    networkSays(latin1("late"));
+    QCOMPARE(shownLines().mid(0, 2),
+             (QStringList{sentLine(latin1("*2#")), receivedLine(latin1("late"))}));
+    QVERIFY(isIdle());
+    networkSays(latin1("for the second"));
+    QVERIFY(!shownLines().contains(receivedLine(latin1("for the second"))));
+}
+
+// ---- focus -----------------------------------------------------------------------------------
+
+void GeneralDialogTest::keysTypedAfterAnAnswerReachTheCommandEdit_data()
+{
+    QTest::addColumn<bool>("byPreset");
+    QTest::newRow("typed command") << false;
+    QTest::newRow("preset button") << true;
+}
+
+void GeneralDialogTest::keysTypedAfterAnAnswerReachTheCommandEdit()
+{
+    QFETCH(bool, byPreset);
+    open();
+    activateWindow();
+    if (byPreset) {
+        presetButtons().first()->setFocus();
+        click(presetButtons().first());
+    } else {
+        commandEdit()->setFocus();
+        send(latin1("*100#"));
+    }
+    networkSays(latin1("1) Yes"));
+    QTest::keyClicks(QApplication::focusWidget(), latin1("1"));
+    QCOMPARE(commandEdit()->text(), latin1("1"));
+    QVERIFY(sendButton()->isEnabled());
+    QVERIFY(combo()->hasFocus()); // which stands for the field that can be seen
+}
+
+void GeneralDialogTest::keysTypedAfterALocalFailureReachTheCommandEdit()
+{
+    fakeSdkSetAnswer(fakeRefused(1, 0));
+    open();
+    activateWindow();
+    sendButton()->setFocus();
+    send(latin1("*100#"));
+    QTest::keyClicks(QApplication::focusWidget(), latin1("*2"));
+    QCOMPARE(commandEdit()->text(), latin1("*2"));
+}
+
+void GeneralDialogTest::answerLeavesTheFocusToAWidgetOfTheHost()
+{
+    open();
+    QLineEdit other(page());
+    other.show();
+    activateWindow();
+    send(latin1("*100#"));
+    other.setFocus();
+    networkSays(latin1("12 EUR"));
+    QVERIFY(isIdle());
+    QVERIFY(other.hasFocus());
+}
+
+void GeneralDialogTest::profileFocusReachesTheCommandEdit()
+{
+    open();
+    activateWindow();
+    history()->setFocus();
+    dialog()->setProfileFocus();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(commandEdit()));
+}
+
+void GeneralDialogTest::dialogShownAgainHasTheFocusInTheCommandEdit()
+{
+    open();
+    activateWindow();
+    history()->setFocus();
+    dialog()->ReInitDialog();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(commandEdit()));
+}
+
 // ---- transcript ------------------------------------------------------------------------------
 
 void GeneralDialogTest::lineBreakInACommandIsShownAsBr()
@@ -781,6 +901,14 @@ void GeneralDialogTest::rightToLeftParagraphsSaySo()
     QApplication::setLayoutDirection(Qt::LeftToRight);
     send(latin1("*100#"));
     QCOMPARE(history()->entries().count(latin1("<p style=\" margin-top:0px;")), 1);
+}
+
+void GeneralDialogTest::paragraphsFollowTheApplicationNotTheDialog()
+{
+    open();
+    dialog()->setLayoutDirection(Qt::RightToLeft);
+    send(latin1("*100#"));
+    QVERIFY(!history()->entries().contains(latin1("dir='rtl'")));
 }
 
 void GeneralDialogTest::height200And219Are10Points()
@@ -871,6 +999,29 @@ void GeneralDialogTest::questionAnsweredWithOkClears()
     QCOMPARE(clearAndAnswer("IDS_OK"), text("IDS_STR_CLEAR"));
     QVERIFY(shownLines().isEmpty());
     QVERIFY(!clearButton()->isEnabled());
+}
+
+void GeneralDialogTest::questionHasItsCaptionAndIcon()
+{
+    changeConfig("showConfirmDialog='false'", "showConfirmDialog='true'");
+    open();
+    send(latin1("*100#"));
+    QString caption;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QWidget *parent = nullptr;
+    QTimer::singleShot(0, this, [&] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        caption = box->windowTitle();
+        icon = box->icon();
+        parent = box->parentWidget();
+        box->reject();
+    });
+    click(clearButton());
+    QCOMPARE(caption, text("IDS_STR_PROMPT"));
+    QCOMPARE(icon, QMessageBox::Question);
+    QCOMPARE(parent, static_cast<QWidget *>(dialog()));
 }
 
 void GeneralDialogTest::questionAnsweredWithCancelKeepsAll_data()

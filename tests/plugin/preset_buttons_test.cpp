@@ -60,7 +60,8 @@ private:
     QString placeOf(QWidget *widget);
     QStringList labels();
     /// Presses Edit and, in the editor that opens, Save.
-    void editAndSave();
+    void editAndSave() { editAndPress("SaveButton"); }
+    void editAndPress(const char *button);
     QRect shownAt(QWidget *widget);
 
 private slots:
@@ -113,6 +114,10 @@ private slots:
     void withoutButtonsSavingChangesNothing();
     void savedWideNameIsElidedWithATip();
     void comboIsFilledAnewAfterSaving();
+    void afterSavingSendFollowsTheCommandEdit();
+    void afterSavingWhileWaitingSendStaysDisabled();
+    void cancelledEditorChangesNothing();
+    void editorStandsOverTheDialogsParent();
 };
 
 void PresetButtonsTest::writeProfiles(const QByteArray &mask)
@@ -157,20 +162,20 @@ QRect PresetButtonsTest::shownAt(QWidget *widget)
     return QRect(widget->mapTo(dialog(), QPoint()), widget->size());
 }
 
-void PresetButtonsTest::editAndSave()
+void PresetButtonsTest::editAndPress(const char *button)
 {
-    bool saved = false;
+    bool pressed = false;
     QTimer::singleShot(0, this, [&] {
         // The editor's window is a child of what the dialog stands in.
-        QPushButton *save =
-            page()->findChild<QPushButton *>(latin1("USSDUIPlugin_ProfileDialog_SaveButton"));
-        if (!save)
+        QPushButton *found = page()->findChild<QPushButton *>(
+            latin1("USSDUIPlugin_ProfileDialog_") + latin1(button));
+        if (!found)
             return;
-        saved = true;
-        save->click();
+        pressed = true;
+        found->click();
     });
     click(part<QPushButton>("EditButton"));
-    QVERIFY(saved);
+    QVERIFY(pressed);
     drainEvents();
 }
 
@@ -729,6 +734,62 @@ void PresetButtonsTest::comboIsFilledAnewAfterSaving()
     QCOMPARE(combo()->itemText(1), latin1("New 1"));
     QCOMPARE(combo()->currentIndex(), -1);
     QCOMPARE(descriptionLabel()->text(), QString());
+}
+
+/// Saving empties the hidden combo, whose text must not decide for the field that can be seen.
+void PresetButtonsTest::afterSavingSendFollowsTheCommandEdit()
+{
+    writeProfiles("111");
+    open();
+    combo()->setEditText(latin1("*100#"));
+    QTest::keyClicks(commandEdit(), latin1("*55#"));
+    editAndSave();
+    QVERIFY(sendButton()->isEnabled());
+    commandEdit()->clear();
+    combo()->setEditText(latin1("*100#"));
+    QVERIFY(sendButton()->isEnabled());
+    editAndSave();
+    QVERIFY(!sendButton()->isEnabled());
+}
+
+void PresetButtonsTest::afterSavingWhileWaitingSendStaysDisabled()
+{
+    writeProfiles("111");
+    open();
+    send(latin1("*100#"));
+    QVERIFY(isWaiting());
+    editAndSave();
+    QVERIFY(isWaiting());
+}
+
+void PresetButtonsTest::cancelledEditorChangesNothing()
+{
+    writeProfiles("111");
+    open();
+    combo()->setEditText(latin1("*100#"));
+    writeNames({"New 0", "New 1"});
+    clearLog();
+    editAndPress("CancelButton");
+    QCOMPARE(labels(), (QStringList{latin1("Name 0"), latin1("Name 1"), latin1("Name 2")}));
+    QCOMPARE(combo()->currentText(), latin1("*100#"));
+    QCOMPARE(timesLogged("getProfileList profiles count"), 0);
+    QCOMPARE(timesLogged("update4EditCommandSave"), 0);
+}
+
+void PresetButtonsTest::editorStandsOverTheDialogsParent()
+{
+    writeProfiles("111");
+    open();
+    QWidget *parent = nullptr;
+    QTimer::singleShot(0, this, [&] {
+        QWidget *editor = QApplication::activeModalWidget();
+        if (!editor)
+            return;
+        parent = editor->parentWidget();
+        editor->close();
+    });
+    click(part<QPushButton>("EditButton"));
+    QCOMPARE(parent, page());
 }
 
 USSD_TEST_MAIN(PresetButtonsTest)
