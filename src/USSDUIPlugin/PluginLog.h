@@ -9,8 +9,10 @@
  *
  *     static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
- * The rest of the code writes lines by the macros below alone. Built with USSD_LOG_LINES=OFF they
- * come to nothing: their arguments are still checked by the compiler, but not evaluated.
+ * A family of files that share a class names the family's first file, which is what a reader of the
+ * log looks for. The rest of the code writes lines by the macros below alone. Built with
+ * USSD_LOG_LINES=OFF they come to nothing: their arguments are still checked by the compiler, but
+ * not evaluated.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -45,6 +47,8 @@ public:
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
     /// The same at debug and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
+    /// Logs no Exit: the last line said all there is to say.
+    void leaveSilently() { m_exited = true; }
 
 private:
     Q_DISABLE_COPY(Scope)
@@ -63,11 +67,13 @@ private:
 #define USSD_LOG_SCOPE() PluginLog::Scope logScope(kLogSource, __func__)
 #define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
+#define USSD_LOG_NO_EXIT() logScope.leaveSilently()
 #else
 #define USSD_IF_LOGGING(call) (false ? (call) : static_cast<void>(0))
 #define USSD_LOG_SCOPE() static_cast<void>(kLogSource)
 #define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
+#define USSD_LOG_NO_EXIT() static_cast<void>(kLogSource)
 #endif
 
 #define USSD_LOG_LINE(type, function, ...)                                                         \

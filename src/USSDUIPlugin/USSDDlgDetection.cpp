@@ -9,7 +9,7 @@
 #include "PrePostVerdict.h"
 #include "Startup.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlgDetection.cpp");
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 
 namespace
 {

@@ -16,7 +16,7 @@
 #include "PluginLog.h"
 #include "StatusBox.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlgLayout.cpp");
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 
 namespace
 {

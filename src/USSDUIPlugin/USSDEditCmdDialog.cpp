@@ -15,7 +15,7 @@
 #include "PluginText.h"
 #include "ProfileRows.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmdDialog.cpp");
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
 namespace
 {

@@ -275,9 +275,12 @@ void USSDLogic::ClearUSSDSMSQueuedCmds()
 
 int USSDLogic::SendUSSDCommand(USSDCmdOrResp cmd, int *status)
 {
-    USSD_LOG_SCOPE();
+    USSD_LOG(" Enter");
     copyCmdToList(cmd);
-    return pendingCount() == 1 ? sendHead(status) : kSent;
+    if (pendingCount() == 1)
+        return sendHead(status);
+    USSD_LOG(" Exit");
+    return kSent;
 }
 
 void USSDLogic::checkPendingCmds()
@@ -320,7 +323,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
         return kNotTheHead;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
-        USSD_LOG(" USSDCommand is too large");
+        USSD_LOG_EXIT(" USSDCommand is too large");
         removeHead(number);
         return kFailed;
     }
@@ -330,7 +333,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     USSD_LOG_IMPORTANT(" TKSV_USSDSrv_Request Returned(status = %d, retVal = %ld), ", *status,
                        result);
     if (result != 0) {
-        USSD_LOG_IMPORTANT(" TKSV_USSDSrv_Request failed");
+        USSD_LOG_EXIT_IMPORTANT(" TKSV_USSDSrv_Request failed");
         removeHead(number);
         return kFailed;
     }
@@ -369,7 +372,7 @@ int USSDLogic::ReleaseUSSDCommand()
 
 int USSDLogic::releaseUSSDCommand()
 {
-    USSD_LOG_SCOPE();
+    USSD_LOG(" Enter");
     int status = 0;
     if (TKSV_USSDSrv_Release(&status) == 0)
         return 0;
@@ -401,7 +404,7 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
     stopReplyTimer();
     USSD_LOG(" received response type = %d", SdkRecords::responseType(data));
     if (claim == ListEmpty) {
-        USSD_LOG(" sending USSD commond list is empty");
+        USSD_LOG_EXIT(" sending USSD commond list is empty");
         return 0;
     }
     const QString text = SdkRecords::responseText(data);
@@ -473,11 +476,14 @@ unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
     USSD_LOG_SCOPE();
     if (CommonUtils::IsShuttingDown()) {
         USSD_LOG_UNTIMED(":HA is shutting down ");
+        USSD_LOG_NO_EXIT();
         return 1;
     }
     const CallbackPass pass(m_gate, CallbackGate::WaitForOpening);
-    if (!pass.isValid())
+    if (!pass.isValid()) {
+        USSD_LOG_NO_EXIT();
         return 0;
+    }
     switch (event) {
     case TKSV_SMS_EVENT_SEND_RESULT:
         m_pUSSDLogicInstance->announceSmsResult(data);

@@ -11,7 +11,7 @@
 #include "ForwardXml.h"
 #include "PluginLog.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogicConfig.cpp");
+static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
 namespace
 {
@@ -59,8 +59,10 @@ void USSDLogic::load()
     USSD_LOG_SCOPE();
     QXmlStreamReader reader;
     QFile file;
-    if (!openXMLFile(reader, file))
+    if (!openXMLFile(reader, file)) {
+        USSD_LOG_NO_EXIT();
         return;
+    }
     readPrePostDiffer(reader, m_config.prePostDiffer);
     for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
         readPaidSection(reader, paidType, m_config);
@@ -100,8 +102,10 @@ void USSDLogic::GetCharSet(_CHAR_SET_COLOR which, Char &out)
     USSD_LOG_SCOPE();
     QXmlStreamReader reader;
     QFile file;
-    if (!openXMLFile(reader, file))
+    if (!openXMLFile(reader, file)) {
+        USSD_LOG_NO_EXIT();
         return;
+    }
     if (which == CHAR_SET_SEND) {
         loadSendCharSettings(reader);
         out = m_config.sentChar;
@@ -116,8 +120,10 @@ void USSDLogic::GetClearBtnSetting(ClearHistory &out)
     USSD_LOG_SCOPE();
     QXmlStreamReader reader;
     QFile file;
-    if (!openXMLFile(reader, file))
+    if (!openXMLFile(reader, file)) {
+        USSD_LOG_NO_EXIT();
         return;
+    }
     loadClearBtnSettings(reader);
     out = m_config.clearHistory;
 }
@@ -127,8 +133,10 @@ void USSDLogic::GetCmdEditSetting(CmdEdit &out)
     USSD_LOG_SCOPE();
     QXmlStreamReader reader;
     QFile file;
-    if (!openXMLFile(reader, file))
+    if (!openXMLFile(reader, file)) {
+        USSD_LOG_NO_EXIT();
         return;
+    }
     loadCmdEditSettings(reader);
     out = m_config.cmdEdit;
 }

@@ -106,7 +106,7 @@ void CUSSDSMSDlg::InitConfig()
     if (path.isEmpty())
         logNoPath(__func__, path);
     else if (!QFile::exists(path))
-        USSD_LOG(": return fail for the file doesn't exist.");
+        USSD_LOG_EXIT(": return fail for the file doesn't exist.");
     else
         readLayoutFile(path);
 }

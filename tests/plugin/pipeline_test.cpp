@@ -123,6 +123,8 @@ private slots:
     void releaseReportsTheDevicesResult();
     void failedRegistrationIsLogged();
     void logTellsCommandLengthAndResult();
+    void earlyReturnWritesItsLineAndNoExit_data();
+    void earlyReturnWritesItsLineAndNoExit();
 
     void receiverMaySendFromTheSdkThread();
     void timeOutReceiverMayShutDown();
@@ -634,6 +636,37 @@ void PipelineTest::logTellsCommandLengthAndResult()
     QCOMPARE(timesLogged(" Calling TKSV_USSDSrv_Request (USSDCmd= *100#, USSDCmdLen = 10)"), 2);
     QCOMPARE(timesLogged(" TKSV_USSDSrv_Request Returned(status = 5, retVal = 7), "), 2);
     QCOMPARE(timesLogged(" TKSV_USSDSrv_Request failed"), 2);
+}
+
+void PipelineTest::earlyReturnWritesItsLineAndNoExit_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<QString>("lastLine");
+    QTest::newRow("reply without command") << QStringLiteral("CallBackReceivedResponse")
+                                           << QStringLiteral("sending USSD commond list is empty");
+    QTest::newRow("too long") << QStringLiteral("sendUSSDCommand")
+                              << QStringLiteral("USSDCommand is too large");
+    QTest::newRow("refused") << QStringLiteral("sendUSSDCommand")
+                             << QStringLiteral("TKSV_USSDSrv_Request failed");
+    QTest::newRow("not released") << QStringLiteral("releaseUSSDCommand")
+                                  << QStringLiteral("TKSV_USSDSrv_Release failed");
+}
+
+void PipelineTest::earlyReturnWritesItsLineAndNoExit()
+{
+    QFETCH(QString, function);
+    QFETCH(QString, lastLine);
+    fakeSdkSetAnswer(fakeRefused(7, 5));
+    fakeSdkSetResult("TKSV_USSDSrv_Release", 3);
+    send(5, units(92));
+    send(5, QStringLiteral("*1#"));
+    m_logic->ReleaseUSSDCommand();
+    fakeSdkRespond(u"unasked");
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
+    const QString start = QStringLiteral("/USSDLogic.cpp: ") + function + QLatin1Char(' ');
+    QVERIFY(timesLogged(start + QStringLiteral("Enter")) > 0);
+    QVERIFY(timesLogged(start + lastLine) > 0);
+    QCOMPARE(timesLogged(start + QStringLiteral("Exit")), 0);
 }
 
 // ---- life cycle and threads ------------------------------------------------------------------

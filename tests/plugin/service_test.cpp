@@ -3,11 +3,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTextEdit>
 
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "USSDEditCmd.h"
 #include "USSDLogic.h"
 #include "USSDService.h"
 
@@ -81,6 +84,7 @@ private slots:
     void languageEventReachesEveryDialog();
     void detectionWorksWithoutAWindow();
     void imsiQuestionsReachTheLogic();
+    void logLinesNameTheFileOfTheirClassFamily();
     void destroyWithOpenMessageBoxEnds();
     void destroyWithWindowsOpenAndCommandInFlight();
 };
@@ -590,6 +594,35 @@ void ServiceTest::detectionWorksWithoutAWindow()
 }
 
 // ---- taking down -----------------------------------------------------------------------------
+
+/// A class whose code stands in several files is one family for who reads the log.
+void ServiceTest::logLinesNameTheFileOfTheirClassFamily()
+{
+    for (int type : {3, 0, 5})
+        service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    bool inUse = false, postpaid = false;
+    int result = 0;
+    service()->GetPrePostInfo(inUse, postpaid, result, true);
+    USSDEditCmd editor;
+    editor.InitDialog(m_mainWindow.data());
+    const QRegularExpression source(QStringLiteral("/src/USSDUIPlugin/([A-Za-z]+\\.cpp)"));
+    QSet<QString> files;
+    for (const QString &line : logLines()) {
+        const QString file = source.match(line).captured(1);
+        if (!file.isEmpty())
+            files.insert(file);
+    }
+    const QSet<QString> families = {
+        QStringLiteral("USSDService.cpp"), QStringLiteral("USSDLogic.cpp"),
+        QStringLiteral("USSDEditCmd.cpp"), QStringLiteral("USSDGeneralDlg.cpp"),
+        QStringLiteral("USSDDlg.cpp"),     QStringLiteral("USSDSMSDlg.cpp")};
+    QCOMPARE(files, families);
+    QVERIFY(timesLogged("/USSDDlg.cpp: GetPrePostInfo Enter") > 0);
+    QVERIFY(timesLogged("/USSDDlg.cpp: findPosAndAddElements Enter") > 0);
+    QVERIFY(timesLogged("/USSDEditCmd.cpp: InitDialog Enter") > 0);
+    QVERIFY(timesLogged("/USSDGeneralDlg.cpp: findPosAndAddElements Enter") > 0);
+    QVERIFY(timesLogged("/USSDLogic.cpp: load Enter") > 0);
+}
 
 void ServiceTest::destroyWithOpenMessageBoxEnds()
 {
