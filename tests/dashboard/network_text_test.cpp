@@ -1,10 +1,12 @@
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 
 #include <cstring>
 
 #include "DeviceTest.h"
 #include "GeneralWindow.h"
 #include "NetworkTextPanel.h"
+#include "PaidTypeFinder.h"
 
 /** What the network says of its own accord. */
 class NetworkTextTest : public DeviceTest
@@ -162,8 +164,10 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
     say("", true);
     TKSV_DeviceInfo info = modemInfo(TKSV_DEVICE_REGISTERED);
     std::strcpy(info.imsi, "001010000000007");
+    QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
     tell(info);
-    QTest::qWait(400); // longer than the pause before the question
+    QVERIFY(settled.wait(10000)); // now the question would go out
+    drainEvents();
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());
 }

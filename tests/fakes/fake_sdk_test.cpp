@@ -1,6 +1,7 @@
 #include "UssdTest.h"
 
 #include "fake_tksv.h"
+#include "ThreadWatch.h"
 
 #include <atomic>
 #include <cstring>
@@ -400,12 +401,14 @@ void FakeSdkTest::unregisterWaitsForRunningCallback()
     TKSV_USSDSrv_RegisterUSSDCallback(onResponse);
     fakeSdkRespond(u"text");
     held.waitUntilInside();
+    std::atomic<ThreadWatch::ThreadId> leavingId(0);
     std::thread leaving([&] {
+        leavingId = ThreadWatch::currentThread();
         TKSV_USSDSrv_UnRegisterUSSDCallback(onResponse);
         unregistered = !g_inCallback;
     });
     QVERIFY(fakeSdkWaitForCalls("TKSV_USSDSrv_UnRegisterUSSDCallback", 1));
-    std::this_thread::sleep_for(milliseconds(20)); // time to return wrongly
+    ThreadWatch::waitUntilAsleepOrGone(leavingId);
     QVERIFY(!fakeSdkCalls("TKSV_USSDSrv_UnRegisterUSSDCallback")[0].returned);
     held.release();
     leaving.join();

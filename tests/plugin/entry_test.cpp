@@ -40,6 +40,7 @@ private:
 private slots:
     void qt5LoaderLoadsIt();
     void verificationTextIsThatOfTheHost();
+    void shippedBuildKeyIsTheKnownOne();
     void secondCallGivesTheSameObject();
     void callAfterDeletionMakesANewObject();
     void metacastAnswersEachName();
@@ -48,7 +49,9 @@ private slots:
     void unknownInterfaceLeavesTheTargetAlone();
     void ussdInterfaceIsTheSameEachTime();
     void changeLangRefusesAnEmptyLanguage();
+    void changeLangLeavesTheWindowsAlone();
     void languageEventBeforeAnyWindowDoesNothing();
+    void parametersOfAnEventAreNotLookedAt();
     void servicesSlotsAreInOrder();
     void windowShowsHidesAndFits();
     void modalWindowIsShown();
@@ -111,6 +114,16 @@ void EntryTest::verificationTextIsThatOfTheHost()
                         "buildkey=" USSD_QT4_BUILD_KEY));
 }
 
+/// The text above follows the build's option. This is what the option is without a packager's
+/// choice.
+void EntryTest::shippedBuildKeyIsTheKnownOne()
+{
+    QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains(
+        "set(USSD_QT4_BUILD_KEY \"i386 linux g++-4 full-config\" CACHE STRING"));
+}
+
 void EntryTest::secondCallGivesTheSameObject()
 {
     QVERIFY(instance());
@@ -164,11 +177,12 @@ void EntryTest::unknownInterfaceLeavesTheTargetAlone()
 {
     QObject *const untouched = this;
     QObject *target = untouched;
-    QCOMPARE(callQueryInterface(plugin(), 4096, &target), false);
-    QCOMPARE(target, untouched);
-    QCOMPARE(callQueryInterface(plugin(), 0, &target), false);
-    QCOMPARE(target, untouched);
-    QCOMPARE(timesLogged("USSDUIPluginImpl.cpp: QueryInterface called"), 2);
+    const QList<int> others = {4096, 4098, 0, 1, -1, -4097, 0x1002, 0x11001, 0x7fffffff};
+    for (int id : others) {
+        QCOMPARE(callQueryInterface(plugin(), id, &target), false);
+        QCOMPARE(target, untouched);
+    }
+    QCOMPARE(timesLogged("USSDUIPluginImpl.cpp: QueryInterface called"), others.count());
 }
 
 void EntryTest::ussdInterfaceIsTheSameEachTime()
@@ -189,10 +203,42 @@ void EntryTest::changeLangRefusesAnEmptyLanguage()
     QVERIFY(fakeSdkCalls().empty()); // and nothing else happened
 }
 
+void EntryTest::changeLangLeavesTheWindowsAlone()
+{
+    QWidget page;
+    QRect rect(0, 0, 600, 500);
+    callShowWindow(plugin(), &page, rect);
+    clearLog();
+    QCOMPARE(callChangeLang(plugin(), QStringLiteral("en")), true);
+    QCOMPARE(timesLogged("SetLanguage"), 0);
+    QCOMPARE(timesLogged(": Notify "), 0);
+    QCOMPARE(timesLogged("/USSDUIPluginImpl.cpp: ChangeLang Enter"), 1);
+}
+
 void EntryTest::languageEventBeforeAnyWindowDoesNothing()
 {
     QCOMPARE(callNotify(notify(), 320, 0, 0), 0);
     QVERIFY(fakeSdkCalls().empty());
+}
+
+void EntryTest::parametersOfAnEventAreNotLookedAt()
+{
+    QCOMPARE(callInt(plugin(), DoModal), 1);
+    clearLog();
+    for (unsigned int event : {320u, 579u}) {
+        QCOMPARE(callNotify(notify(), 0, event, 0), 0);
+        QCOMPARE(callNotify(notify(), 0, 0, event), 0);
+        QCOMPARE(callNotify(notify(), 4711, event, event), 0);
+    }
+    drainEvents();
+    QVERIFY(QApplication::activeModalWidget());
+    QCOMPARE(timesLogged("SetLanguage"), 0);
+    QCOMPARE(callNotify(notify(), 320, 579, 579), 0);
+    QVERIFY(timesLogged("SetLanguage") > 0);
+    QVERIFY(QApplication::activeModalWidget());
+    QCOMPARE(callNotify(notify(), 579, 320, 320), 0);
+    drainEvents();
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void EntryTest::servicesSlotsAreInOrder()

@@ -8,12 +8,21 @@
 #include <QThread>
 
 #include "fake_tksv.h"
+#include "ReplyTimer.h"
+#include "ThreadWatch.h"
 #include "USSDLogic.h"
 
 namespace
 {
 
 const int kNoPatience = 60000; // a limit that no test reaches
+
+std::atomic<qint64> now(0);
+
+qint64 stoppedClock()
+{
+    return now;
+}
 
 QString units(int count)
 {
@@ -68,6 +77,11 @@ private:
     LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
     QList<LogicListener::Answer> &answers() { return m_listener->answers; }
     void setTimes(int reply, int previous);
+    /// From now on time passes by letTimePass() only.
+    void stopClock();
+    void letTimePass(int milliseconds);
+    /// Waits until so many lines with this part were logged, which tells how far a thread is.
+    bool waitUntilLogged(const char *part, int times);
     /// Whether a command goes out without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
@@ -149,6 +163,7 @@ void PipelineTest::tearDown()
 {
     m_listener.reset();
     PluginTest::tearDown();
+    ReplyTimer::setClock(nullptr);
 }
 
 void PipelineTest::setTimes(int reply, int previous)
@@ -157,14 +172,31 @@ void PipelineTest::setTimes(int reply, int previous)
     USSDLogic::setReplyTimes(times);
 }
 
+void PipelineTest::stopClock()
+{
+    now = 0;
+    ReplyTimer::setClock(stoppedClock);
+}
+
+void PipelineTest::letTimePass(int milliseconds)
+{
+    now += milliseconds;
+    m_logic->findChild<ReplyTimer *>()->catchUp();
+}
+
+bool PipelineTest::waitUntilLogged(const char *part, int times)
+{
+    return QTest::qWaitFor([&] { return timesLogged(part) >= times; }, 10000);
+}
+
 bool PipelineTest::sendsWithoutWaiting()
 {
-    const int wait = 300; // far more than sending takes on a busy machine
+    const int wait = 20000; // passes only when the answer is no
     setTimes(kNoPatience, wait);
     QElapsedTimer elapsed;
     elapsed.start();
     const int result = send(5, QStringLiteral("*9#"));
-    return result == 0 && elapsed.elapsed() < wait - 1;
+    return result == 0 && elapsed.elapsed() < wait / 2;
 }
 
 int PipelineTest::send(int component, const QString &command)
@@ -332,10 +364,11 @@ void PipelineTest::missingReplyIsAnsweredByTimeOut()
 
 void PipelineTest::timeOutSendsTheNextCommand()
 {
-    setTimes(100, kNoPatience);
+    stopClock();
     fakeSdkScript({fakeSilence(), fakeReply(u"two")});
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
+    letTimePass(kNoPatience);
     QCOMPARE(nextAnswer(), answer(3, timeOutText()));
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
 }
@@ -497,7 +530,8 @@ void PipelineTest::replyForAClearedCommandAnswersTheHead()
 /// The time-out of a command that was cleared moves on what stands behind it.
 void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
-    setTimes(20, 1);
+    stopClock();
+    setTimes(kNoPatience, 1);
     FakeAnswer blocked = fakeSilence();
     blocked.block = std::chrono::milliseconds(kNoPatience);
     fakeSdkScript({fakeSilence(), blocked});
@@ -508,7 +542,9 @@ void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
     QVERIFY(fakeSdkWaitForRequests(2));
     USSDLogic::ClearQueuedCmds();
     fakeSdkUnblock();
+    QVERIFY(fakeSdkWaitIdle());
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
+    letTimePass(kNoPatience);
     QCOMPARE(nextAnswer(), answer(4, timeOutText()));
 }
 
@@ -526,7 +562,7 @@ void PipelineTest::commandClearedWhileItWaitedIsNotSent()
             m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String(commands[i])),
                                      &status[i]);
         });
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        QVERIFY(waitUntilLogged(": sendUSSDCommand Enter", i + 1));
         QVERIFY(fakeSdkWaitForRequests(1));
         if (i < 2)
             USSDLogic::ClearQueuedCmds();
@@ -570,8 +606,13 @@ void PipelineTest::oneRequestAtATimeIsUnderWay()
     fakeSdkRespond(u"one"); // the SDK's thread sends *2# and is held up in there
     QVERIFY(fakeSdkWaitForRequests(2));
     USSDLogic::ClearQueuedCmds();
-    std::thread other([this] { send(0, QStringLiteral("*3#")); });
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    std::atomic<ThreadWatch::ThreadId> otherId(0);
+    std::thread other([this, &otherId] {
+        otherId = ThreadWatch::currentThread();
+        send(0, QStringLiteral("*3#"));
+    });
+    QVERIFY(waitUntilLogged(": sendUSSDCommand Enter", 3));
+    ThreadWatch::waitUntilAsleepOrGone(otherId);
     const size_t meanwhile = fakeSdkCommands().size();
     fakeSdkUnblock();
     other.join();
@@ -702,13 +743,17 @@ void PipelineTest::destroyWaitsForARunningCallback()
     send(5, QStringLiteral("*1#"));
     fakeSdkRespond(u"one");
     interloper.reached.acquire();
-    std::thread helper([&interloper] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    const ThreadWatch::ThreadId self = ThreadWatch::currentThread();
+    std::thread helper([&] {
+        while (timesLogged(": Destroy Enter") < 1)
+            std::this_thread::yield();
+        ThreadWatch::waitUntilAsleepOrGone(self);
         interloper.goOn.release();
     });
     USSDLogic::Destroy();
-    QVERIFY(interloper.done);
+    const bool waited = interloper.done;
     helper.join();
+    QVERIFY(waited);
 }
 
 void PipelineTest::callbackAfterDestroyFindsNothing()

@@ -45,6 +45,16 @@ private slots:
     void framedWindowHasSizeTitleAndModality();
     void miniModeLeavesTheFramesFlagsAlone();
     void unknownTypeIsNotShown();
+    void unknownTypeIsRememberedNevertheless();
+    void framesAreCentredOverTheMainWindow_data();
+    void framesAreCentredOverTheMainWindow();
+    void framesCannotBeResized_data();
+    void framesCannotBeResized();
+    void rejectedFrameIsClosed_data();
+    void rejectedFrameIsClosed();
+    void closeRequestClosesTheWindowOfItsTypeOnly_data();
+    void closeRequestClosesTheWindowOfItsTypeOnly();
+    void closeRequestLeavesTheUssdSmsWindow();
     void closeButtonEndsFrameAndDialog();
     void closingTheFrameEndsFrameAndDialog();
     void escapeEndsFrameAndDialog();
@@ -57,6 +67,10 @@ private slots:
     void hideHidesTheEmbeddedDialogOnly();
     void fitSizeBeforeShowWindowDoesNothing();
     void fitSizeMovesAndSizes();
+    void fitSizeBeforeAnyWindowMakesNoDialog();
+    void fitSizeWithAnotherTypeShownDoesNothing();
+    void doModalMakesTheGeneralWindowTheShownOne();
+    void showWindowPutsTheFocusIntoTheCommandEdit();
     void embeddedDialogSurvivesHideWithItsHistory();
     void embeddedDialogOutlivesClosingTheFrame();
     void hostThatDeletesItsWidgetCostsNothing();
@@ -64,7 +78,11 @@ private slots:
     void languageEventReachesBothDialogs();
     void languageEventBeforeAnyWindowDoesNothing();
     void imsiEventClosesTheFrameWhenMatching();
+    void imsiEventClosesEveryFrameButUssdSms_data();
+    void imsiEventClosesEveryFrameButUssdSms();
     void imsiEventLeavesTheFrameWithoutMatching();
+    void languageEventReachesTheDialogOfType_data();
+    void languageEventReachesTheDialogOfType();
     void unknownEventDoesNothing();
 
     void paidWindowFitsItsDialog_data();
@@ -217,6 +235,111 @@ void ServiceTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
+/// What was opened before is then none that a dialog could ask to close.
+void ServiceTest::unknownTypeIsRememberedNevertheless()
+{
+    service()->DoModal();
+    service()->doModal(PAID_TYPE_NONE);
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
+    QVERIFY(frame()->isVisible());
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
+    drainEvents();
+    QVERIFY(frame());
+}
+
+static void addFramedTypes()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("prepaid") << 0;
+    QTest::newRow("postpaid") << 1;
+    QTest::newRow("general") << 3;
+    QTest::newRow("USSD-SMS") << 5;
+}
+
+void ServiceTest::framesAreCentredOverTheMainWindow_data()
+{
+    addFramedTypes();
+}
+
+void ServiceTest::framesAreCentredOverTheMainWindow()
+{
+    QFETCH(int, type);
+    m_mainWindow->move(60, 40);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    const QPoint apart = frame()->frameGeometry().center() - m_mainWindow->frameGeometry().center();
+    QVERIFY2(apart.manhattanLength() <= 4,
+             qPrintable(QStringLiteral("%1,%2 apart").arg(apart.x()).arg(apart.y())));
+}
+
+void ServiceTest::framesCannotBeResized_data()
+{
+    addFramedTypes();
+}
+
+void ServiceTest::framesCannotBeResized()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    QCOMPARE(frame()->minimumSize(), frame()->size());
+    QCOMPARE(frame()->maximumSize(), frame()->size());
+}
+
+void ServiceTest::rejectedFrameIsClosed_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("prepaid") << 0;
+    QTest::newRow("postpaid") << 1;
+    QTest::newRow("general") << 3;
+}
+
+/// A host's frame may reject itself, as QDialog does, without a close event before it.
+void ServiceTest::rejectedFrameIsClosed()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    const QPointer<USSDExtendDialog> rejected(frame());
+    int closed = 0;
+    connect(rejected.data(), &ExtendDialog::dlgCloseEvent, [&closed] { ++closed; });
+    rejected->reject();
+    drainEvents();
+    QCOMPARE(closed, 1);
+    QVERIFY(!rejected);
+}
+
+void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("prepaid") << 0 << QStringLiteral("IDS_WINDOW_TETLE_PREPAID");
+    QTest::newRow("postpaid") << 1 << QStringLiteral("IDS_WINDOW_TETLE_POSTPAID");
+    QTest::newRow("general") << 3 << QStringLiteral("IDS_ADVANCE_USSD");
+}
+
+void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly()
+{
+    QFETCH(int, type);
+    QFETCH(QString, title);
+    for (int other : {5, 0, 1, 3}) {
+        if (other != type)
+            service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(other));
+    }
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last one decides
+    QStringList closed;
+    for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
+        connect(one, &ExtendDialog::dlgCloseEvent,
+                [&closed, one] { closed << one->windowTitle(); });
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
+    QCOMPARE(closed, QStringList{CUSSDService::tr(title)});
+}
+
+void ServiceTest::closeRequestLeavesTheUssdSmsWindow()
+{
+    service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
+    drainEvents();
+    QVERIFY(frame() && frame()->isVisible());
+}
+
 void ServiceTest::closeButtonEndsFrameAndDialog()
 {
     service()->DoModal();
@@ -331,6 +454,47 @@ void ServiceTest::fitSizeMovesAndSizes()
     QCOMPARE(embeddedDialog()->geometry(), other);
 }
 
+void ServiceTest::fitSizeBeforeAnyWindowMakesNoDialog()
+{
+    service()->FitSize(m_rect);
+    QVERIFY(fakeSdkCalls().empty()); // nobody needed the logic
+    for (QWidget *widget : QApplication::allWidgets())
+        QVERIFY(!qobject_cast<USSDGeneralDlg *>(widget));
+}
+
+void ServiceTest::fitSizeWithAnotherTypeShownDoesNothing()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_POSTPAID);
+    QRect other(0, 0, 640, 520);
+    service()->FitSize(other);
+    QCOMPARE(embeddedDialog()->geometry(), m_rect);
+}
+
+void ServiceTest::doModalMakesTheGeneralWindowTheShownOne()
+{
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_PREPAID);
+    service()->DoModal();
+    service()->Hide();
+    QVERIFY(!embeddedDialog()->isVisible());
+}
+
+void ServiceTest::showWindowPutsTheFocusIntoTheCommandEdit()
+{
+    QApplication::setActiveWindow(m_mainWindow.data());
+    QVERIFY(QTest::qWaitForWindowActive(m_mainWindow.data()));
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QCOMPARE(QApplication::focusWidget(),
+             static_cast<QWidget *>(part<QLineEdit>(embeddedDialog(), "USSDCmdEdit")));
+    part<QTextEdit>(embeddedDialog(), "History")->setFocus();
+    service()->Hide();
+    clearLog();
+    service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
+    QCOMPARE(QApplication::focusWidget(),
+             static_cast<QWidget *>(part<QLineEdit>(embeddedDialog(), "USSDCmdEdit")));
+}
+
 void ServiceTest::embeddedDialogSurvivesHideWithItsHistory()
 {
     service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
@@ -390,6 +554,42 @@ void ServiceTest::imsiEventClosesTheFrameWhenMatching()
     QCOMPARE(service()->Notify(579, 1, 2), 0);
     drainEvents();
     QVERIFY(!frame());
+}
+
+void ServiceTest::imsiEventClosesEveryFrameButUssdSms_data()
+{
+    addFramedTypes();
+}
+
+void ServiceTest::imsiEventClosesEveryFrameButUssdSms()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    int closed = 0;
+    connect(frame(), &ExtendDialog::dlgCloseEvent, [&closed] { ++closed; });
+    QCOMPARE(service()->Notify(579, 0, 0), 0);
+    drainEvents();
+    QCOMPARE(closed, type == PAID_TYPE_USSD_SMS ? 0 : 1);
+    QCOMPARE(frame() != nullptr, type == PAID_TYPE_USSD_SMS);
+}
+
+void ServiceTest::languageEventReachesTheDialogOfType_data()
+{
+    addFramedTypes();
+}
+
+void ServiceTest::languageEventReachesTheDialogOfType()
+{
+    QFETCH(int, type);
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    clearLog();
+    service()->Notify(320, 0, 0);
+    static const char *const families[] = {"USSDDlg",        "USSDDlg", "",
+                                           "USSDGeneralDlg", "",        "USSDSMSDlg"};
+    QCOMPARE(timesLogged(QLatin1String("/") + QLatin1String(families[type]) +
+                         QLatin1String(".cpp: SetLanguage Enter")),
+             1);
 }
 
 void ServiceTest::imsiEventLeavesTheFrameWithoutMatching()

@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "SdkFixture.h"
+#include "ThreadWatch.h"
 
 using namespace SdkFixture;
 
@@ -389,14 +390,16 @@ void SdkPromises::unregisterWaitsForTheRunningCallback()
     Gate gate;
     std::atomic<bool> callbackDone(false);
     std::atomic<bool> doneBeforeReturn(false);
+    std::atomic<ThreadWatch::ThreadId> unregisteringId(0);
     const InsideUssd inside([&](const Response &) {
         gate.wait();
-        std::this_thread::sleep_for(std::chrono::milliseconds(20)); // time to return too early
+        ThreadWatch::waitUntilAsleepOrGone(unregisteringId);
         callbackDone = true;
     });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     std::thread unregistering([&] {
+        unregisteringId = ThreadWatch::currentThread();
         gate.open();
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
         doneBeforeReturn = callbackDone.load();
@@ -436,20 +439,28 @@ void SdkPromises::secondUnregisterWaitsToo()
     Gate gate;
     std::atomic<bool> callbackDone(false);
     std::atomic<int> early(0);
+    std::atomic<int> begun(0);
+    std::atomic<int> ready(0);
+    std::atomic<ThreadWatch::ThreadId> ids[2];
     const InsideUssd inside([&](const Response &) {
         gate.wait();
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        for (const std::atomic<ThreadWatch::ThreadId> &id : ids)
+            ThreadWatch::waitUntilAsleepOrGone(id);
         callbackDone = true;
     });
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     const auto unregister = [&] {
+        ids[begun++] = ThreadWatch::currentThread();
+        ++ready;
+        while (ready < 2)
+            std::this_thread::yield();
+        gate.open();
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
         early += callbackDone ? 0 : 1;
     };
     std::thread one(unregister);
     std::thread other(unregister);
-    gate.open();
     one.join();
     other.join();
     QCOMPARE(early.load(), 0);
