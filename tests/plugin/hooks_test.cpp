@@ -1,6 +1,8 @@
 #include "LogicListener.h"
 #include "PluginTest.h"
 
+#include <climits>
+
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "USSDLogic.h"
@@ -28,6 +30,7 @@ private slots:
     void otherDeviceEventIsNotTaken();
     void deviceEventLeavesTheTimerRunning();
     void statusSevenThenEightIsFollowed();
+    void sameStatusAgainIsToldAgain();
     void otherStatusChangesNothing();
     void statusWithoutDataChangesNothing();
     void readinessToldDuringConstructionIsNotLost();
@@ -36,7 +39,10 @@ private slots:
     void successfulSendResultCarriesBothTexts();
     void sendResultWithoutDataTellsNothing();
     void unknownSmsEventIsLogged();
+    void anyResultButZeroIsAFailure_data();
+    void anyResultButZeroIsAFailure();
     void smsEventDuringShutDownIsIgnored();
+    void sendResultDuringShutDownIsIgnored();
     void smsEventWithoutSingletonIsNotTaken();
     void unregisteringTakesAllThreeCallbacksOff();
 };
@@ -142,6 +148,14 @@ void HooksTest::statusSevenThenEightIsFollowed()
     QCOMPARE(timesLogged(":: Reciceved  CANNOT_SEND_SMS"), 1);
 }
 
+void HooksTest::sameStatusAgainIsToldAgain()
+{
+    for (int status : {7, 7, 8, 8})
+        fakeSdkRaiseSmsStatus(status);
+    QTRY_COMPARE(m_listener->readiness.count(), 4);
+    QCOMPARE(m_listener->readiness, (QList<bool>{true, true, false, false}));
+}
+
 void HooksTest::otherStatusChangesNothing()
 {
     fakeSdkRaiseSmsStatus(7);
@@ -202,6 +216,21 @@ void HooksTest::successfulSendResultCarriesBothTexts()
     QCOMPARE(timesLogged(": Successfully sent the message(EVENT_SMS_ONSENDRESULT)"), 1);
 }
 
+void HooksTest::anyResultButZeroIsAFailure_data()
+{
+    QTest::addColumn<int>("result");
+    for (int result : {1, 5, -1, INT_MIN, INT_MAX})
+        QTest::newRow(qPrintable(QString::number(result))) << result;
+}
+
+void HooksTest::anyResultButZeroIsAFailure()
+{
+    QFETCH(int, result);
+    fakeSdkRaiseSmsResult(result, u"1200", u"WEATHER");
+    QTRY_COMPARE(m_listener->smsResults.count(), 1);
+    QCOMPARE(m_listener->smsResults.at(0).at(0).toBool(), false);
+}
+
 void HooksTest::sendResultWithoutDataTellsNothing()
 {
     fakeSdkRaiseSmsEvent(0);
@@ -229,6 +258,19 @@ void HooksTest::smsEventDuringShutDownIsIgnored()
     drainEvents();
     QVERIFY(m_listener->readiness.isEmpty());
     QVERIFY(!m_logic->CanSendSMS());
+}
+
+void HooksTest::sendResultDuringShutDownIsIgnored()
+{
+    HostState::setShuttingDown(true);
+    fakeSdkRaiseSmsResult(0, u"1200", u"WEATHER");
+    QVERIFY(fakeSdkWaitForDeliveries(FakeService::Sms, 1));
+    QCOMPARE(int(fakeSdkDeliveries(FakeService::Sms).at(0).result), 1);
+    QCOMPARE(timesLogged("SmsCallBackMethod:HA is shutting down "), 1);
+    QCOMPARE(timesLogged("SmsCallBackMethod Exit"), 0);
+    QCOMPARE(timesLogged("EVENT_SMS_ONSENDRESULT"), 0);
+    drainEvents();
+    QVERIFY(m_listener->smsResults.isEmpty());
 }
 
 void HooksTest::smsEventWithoutSingletonIsNotTaken()

@@ -37,6 +37,7 @@ public:
     QSemaphore reached;
     QSemaphore goOn;
     std::atomic<bool> done{false};
+    std::atomic<size_t> commands{0};
 
 public slots:
     void stopHere(int, QString)
@@ -46,6 +47,11 @@ public slots:
         done = true;
     }
     void shutDown(int, QString) { USSDLogic::Destroy(); }
+    void sendAndCount(int component, QString text)
+    {
+        sendMore(component, text);
+        commands = fakeSdkCommands().size();
+    }
     void clearAndSendTwice(int, QString)
     {
         for (int i = 0; i < 2; ++i) {
@@ -84,6 +90,8 @@ private:
     bool waitUntilLogged(const char *part, int times);
     /// Whether a command goes out without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
+    /// What the lines of a function of USSDLogic say, in order.
+    QStringList linesOf(const char *function);
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 
     ReplyTimes m_shippedTimes;
@@ -135,11 +143,18 @@ private slots:
     void replyForAClearedCommandAnswersTheHead();
 
     void releaseReportsTheDevicesResult();
+    void releaseLeavesTheTimeOutRunning();
+    void callbacksAreRegisteredDeviceFirst();
+    void constructionLogsEachRegistration();
+    void unregisteringLogsBeforeAndAfter();
+    void replyLogsWhatWasReceived();
     void failedRegistrationIsLogged();
     void logTellsCommandLengthAndResult();
     void earlyReturnWritesItsLineAndNoExit_data();
     void earlyReturnWritesItsLineAndNoExit();
 
+    void headLeavesTheListAfterItsAnnouncement_data();
+    void headLeavesTheListAfterItsAnnouncement();
     void receiverMaySendFromTheSdkThread();
     void timeOutReceiverMayShutDown();
     void destroyWaitsForARunningCallback();
@@ -187,6 +202,20 @@ void PipelineTest::letTimePass(int milliseconds)
 bool PipelineTest::waitUntilLogged(const char *part, int times)
 {
     return QTest::qWaitFor([&] { return timesLogged(part) >= times; }, 10000);
+}
+
+QStringList PipelineTest::linesOf(const char *function)
+{
+    const QString start =
+        QStringLiteral("../../src/USSDUIPlugin/USSDLogic.cpp: ") + QLatin1String(function);
+    QStringList tails;
+    for (const QString &line : logLines()) {
+        const int place = line.indexOf(start);
+        const QString tail = line.mid(place + start.length());
+        if (place >= 0 && (tail.startsWith(QLatin1Char(' ')) || tail.startsWith(QLatin1Char(':'))))
+            tails << tail;
+    }
+    return tails;
 }
 
 bool PipelineTest::sendsWithoutWaiting()
@@ -659,6 +688,76 @@ void PipelineTest::releaseReportsTheDevicesResult()
     QCOMPARE(timesLogged("TKSV_USSDSrv_Release failed"), 1);
 }
 
+void PipelineTest::releaseLeavesTheTimeOutRunning()
+{
+    stopClock();
+    send(5, QStringLiteral("*1#"));
+    QCOMPARE(m_logic->ReleaseUSSDCommand(), 0);
+    QVERIFY(m_logic->findChild<ReplyTimer *>()->isArmed());
+    letTimePass(kNoPatience);
+    QCOMPARE(nextAnswer(), answer(5, timeOutText()));
+}
+
+void PipelineTest::callbacksAreRegisteredDeviceFirst()
+{
+    QStringList registrations;
+    for (const FakeCall &call : fakeSdkCalls()) {
+        const QString name = QString::fromStdString(call.function);
+        if (name.contains(QLatin1String("Reg")))
+            registrations << name;
+    }
+    QCOMPARE(registrations, (QStringList{QStringLiteral("TKSV_DevSrv_RegisterDevInitEventCallback"),
+                                         QStringLiteral("TKSV_USSDSrv_RegisterUSSDCallback"),
+                                         QStringLiteral("TKSV_SMSSrv_RegCallBack")}));
+}
+
+void PipelineTest::constructionLogsEachRegistration()
+{
+    USSDLogic::Destroy();
+    clearLog();
+    m_logic = USSDLogic::GetUSSDLogicInstance();
+    QCOMPARE(linesOf("GetUSSDLogicInstance"),
+             (QStringList{QStringLiteral(" Enter"), QStringLiteral(" Exit")}));
+    QCOMPARE(
+        linesOf("USSDLogic"),
+        (QStringList{QStringLiteral(" Enter"),
+                     QStringLiteral(": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()"),
+                     QStringLiteral(": TKSV_DevSrv_RegisterDevInitEventCallback () returned 0"),
+                     QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
+                     QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
+                     QStringLiteral(" Exit")}));
+    const QString before =
+        QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()"); // debug and warning
+    QCOMPARE(
+        linesOf("registerUSSDCallback"),
+        (QStringList{QStringLiteral(" Enter"), before, before,
+                     QStringLiteral(" after calling TKSV_USSDSrv_RegisterUSSDCallback(): retVal=0"),
+                     QStringLiteral(" Exit: retVal=0")}));
+}
+
+void PipelineTest::unregisteringLogsBeforeAndAfter()
+{
+    clearLog();
+    m_logic->unSDKRegisterEvent();
+    const QString before = QStringLiteral(" before calling TKSV_USSDSrv_UnRegisterUSSDCallback()");
+    QCOMPARE(
+        linesOf("unregisterUSSDCallback"),
+        (QStringList{QStringLiteral(" Enter"), before, before,
+                     before + QStringLiteral(": retVal=0"), QStringLiteral(" Exit: retVal=0")}));
+}
+
+void PipelineTest::replyLogsWhatWasReceived()
+{
+    send(3, QStringLiteral("*1#"));
+    clearLog();
+    fakeSdkRespond(u"one", 2);
+    QVERIFY(fakeSdkWaitIdle());
+    QCOMPARE(linesOf("CallBackReceivedResponse"),
+             (QStringList{QStringLiteral(" Enter"), QStringLiteral(" received response type = 2"),
+                          QStringLiteral(" received component = 3"),
+                          QStringLiteral(" received response = one"), QStringLiteral(" Exit")}));
+}
+
 void PipelineTest::failedRegistrationIsLogged()
 {
     USSDLogic::Destroy();
@@ -711,6 +810,31 @@ void PipelineTest::earlyReturnWritesItsLineAndNoExit()
 }
 
 // ---- life cycle and threads ------------------------------------------------------------------
+
+void PipelineTest::headLeavesTheListAfterItsAnnouncement_data()
+{
+    QTest::addColumn<bool>("byTimeOut");
+    QTest::newRow("reply") << false;
+    QTest::newRow("time-out") << true;
+}
+
+/// So a receiver that sends at once waits its turn behind what it was just told of.
+void PipelineTest::headLeavesTheListAfterItsAnnouncement()
+{
+    QFETCH(bool, byTimeOut);
+    Interloper interloper;
+    connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
+            SLOT(sendAndCount(int, QString)), Qt::DirectConnection);
+    send(5, QStringLiteral("*1#"));
+    if (byTimeOut)
+        QVERIFY(QMetaObject::invokeMethod(m_logic, "OnTimeOut"));
+    else
+        fakeSdkRespond(u"one");
+    QVERIFY(fakeSdkWaitForRequests(2));
+    QVERIFY(fakeSdkWaitIdle());
+    disconnect(m_logic, nullptr, &interloper, nullptr);
+    QCOMPARE(interloper.commands.load(), size_t(1));
+}
 
 void PipelineTest::receiverMaySendFromTheSdkThread()
 {
