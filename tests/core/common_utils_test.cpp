@@ -168,7 +168,11 @@ void CommonUtilsTest::aWindowLargerThanTheScreenShowsItsCorner()
 
 void CommonUtilsTest::centringNothingIsHarmless()
 {
+    QWidget window;
+    window.setGeometry(3, 4, 50, 60);
+    HostState::setMainWindow(&window);
     CommonUtils::MoveCentre(nullptr);
+    QCOMPARE(window.geometry(), QRect(3, 4, 50, 60));
 }
 
 void CommonUtilsTest::aTextThatFitsIsLeftAlone()
