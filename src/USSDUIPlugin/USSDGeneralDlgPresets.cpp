@@ -261,7 +261,6 @@ void USSDGeneralDlg::setLayoutMargins(bool showPreBtns, bool showPreDescription)
     USSD_LOG_SCOPE();
     if (showPreBtns || showPreDescription)
         m_pMainGrid->setHorizontalSpacing(8);
-    m_pMainGrid->setVerticalSpacing(kBoxSpacing);
 }
 
 void USSDGeneralDlg::findPosAndAddElements(int &row)
@@ -324,6 +323,7 @@ QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 
 void USSDGeneralDlg::addFixedElements(int row)
 {
+    m_pMainGrid->setVerticalSpacing(kBoxSpacing);
     m_pPreBtnsBox[0]->setSpacing(kBoxSpacing);
     m_pPreBtnsBox[1]->setSpacing(0);
     m_pPreBtnsBox[2]->setSpacing(kBoxSpacing);
