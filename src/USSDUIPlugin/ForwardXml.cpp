@@ -23,9 +23,21 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
+/// Qt's own function calls itself for each element inside: deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
-    return reader.readElementText(QXmlStreamReader::IncludeChildElements);
+    QString text;
+    int depth = reader.isStartElement() ? 1 : 0;
+    while (depth > 0 && !reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            ++depth;
+        else if (token == QXmlStreamReader::EndElement)
+            --depth;
+        else if (token == QXmlStreamReader::Characters)
+            text += reader.text();
+    }
+    return text;
 }
 
 int number(QXmlStreamReader &reader)

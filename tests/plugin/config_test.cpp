@@ -54,6 +54,14 @@ QByteArray fourItems()
 const char DIFFER[] = "<PrePostDiffer value='true'><command>*103#</command>"
                       "<ReturnPattern>post</ReturnPattern><style>1</style></PrePostDiffer>";
 
+/// The text at the bottom of 100,000 elements.
+QByteArray nested(const QByteArray &text, bool hasEnd = true)
+{
+    const int levels = 100000;
+    return QByteArray("<a>").repeated(levels) + text +
+           (hasEnd ? QByteArray("</a>").repeated(levels) : QByteArray());
+}
+
 /// Another root than that of completeConfig(), since its name is free.
 QByteArray config(const QByteArray &prepaid, const QByteArray &postpaid,
                   const QByteArray &rest = QByteArray())
@@ -122,6 +130,8 @@ private slots:
     void sectionsInWrongOrderAreNotFound();
     void missingChildEmptiesAllBehindIt();
     void brokenXmlKeepsWhatWasReadBefore();
+    void deepNestingIsReadToItsEnd();
+    void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingFileLeavesDefaultsAndIsLogged();
     void missingFileLeavesTheRecordsOfGettersUnchanged();
     void gettersReadTheFileAnew();
@@ -346,6 +356,25 @@ void ConfigTest::brokenXmlKeepsWhatWasReadBefore()
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*102#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(POSTPAID, CHARGE, ATTR_LENGTH), 0);
+    QVERIFY(!logic()->IsImsiDynamicMatch());
+}
+
+void ConfigTest::deepNestingIsReadToItsEnd()
+{
+    writeConfig(config(balanceItem("value='true' pos='10'", nested("*1#")) + chargeItem() +
+                           onlineItem() + msisdnItem("*2#"),
+                       fourItems(), "<name>" + nested("deep") + "</name>" + looks()));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
+    QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*2#"));
+    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20); // behind the other deep element
+}
+
+void ConfigTest::deepNestingWithoutEndKeepsWhatWasReadBefore()
+{
+    writeConfig(config(balanceItem("value='true' pos='10'", "*1#"), QByteArray())
+                    .replace("</Prepaid>", "<item name='MSISDN'><command>" + nested("*2#", false)));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
+    QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 

@@ -159,6 +159,8 @@ private slots:
     void rootAndItsAttributeAreNotChecked();
     void textIsReadAsItStands();
     void brokenXmlKeepsWhatWasReadBefore();
+    void deepNestingIsReadToItsEnd();
+    void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingUserFileKeepsTheSystemProfiles();
     void missingSystemFileKeepsTheUserProfiles();
     void loadRebuildsTheList();
@@ -386,6 +388,24 @@ void ProfileStoreTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!profiles.isEmpty());
     QCOMPARE(profiles.first().value, latin1("*1#"));
     QCOMPARE(profiles.first().name, latin1("A"));
+}
+
+void ProfileStoreTest::deepNestingIsReadToItsEnd()
+{
+    const int levels = 100000;
+    const QByteArray deep =
+        QByteArray("<a>").repeated(levels) + "Deep" + QByteArray("</a>").repeated(levels);
+    writeUserProfiles(profileItem(deep, "*1#") + profileItem("B", "*2#"));
+    const QList<USSDProfile> profiles = loaded();
+    QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), latin1("*2#")}));
+    QCOMPARE(profiles.first().name, latin1("Deep"));
+}
+
+void ProfileStoreTest::deepNestingWithoutEndKeepsWhatWasReadBefore()
+{
+    write(userFile(), "<tksvdoc>" + profileItem("A", "*1#") + "<item><name>" +
+                          QByteArray("<a>").repeated(100000));
+    QCOMPARE(codes(loaded()).value(0), latin1("*1#"));
 }
 
 void ProfileStoreTest::missingUserFileKeepsTheSystemProfiles()

@@ -70,6 +70,7 @@ private slots:
     void groupWithoutEntryIsComplainedAbout();
     void tenThousandComplaintsAreCounted();
     void deepNestingEnds();
+    void deepNestingInAControlEnds_data();
     void deepNestingInAControlEnds();
     void deepNestingOutsideTheSectionEnds();
     void entityBombEnds();
@@ -513,9 +514,18 @@ void SmsLayoutTest::deepNestingEnds()
     QVERIFY(complained("Elements are nested too deeply."));
 }
 
+void SmsLayoutTest::deepNestingInAControlEnds_data()
+{
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("closed") << QByteArray("</b>").repeated(500000) + "</command></control>";
+    QTest::newRow("not closed") << QByteArray();
+}
+
 void SmsLayoutTest::deepNestingInAControlEnds()
 {
-    QVERIFY(!readSection(group(1, "<control><command>" + QByteArray("<b>").repeated(500000))));
+    QFETCH(QByteArray, end);
+    QVERIFY(
+        !readSection(group(1, "<control><command>" + QByteArray("<b>").repeated(500000) + end)));
     QVERIFY(complained("Elements are nested too deeply."));
 }
 
