@@ -8,6 +8,7 @@
 
 #include "CommonUtils.h"
 #include "ForwardXml.h"
+#include "InputFile.h"
 #include "PluginLog.h"
 #include "ProfileXml.h"
 #include "SdkRecords.h"
@@ -69,9 +70,12 @@ QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newP
         return newPath;
     USSD_LOG(" %s exists!", oldPath.toLocal8Bit().constData());
     QFile oldFile(oldPath);
-    if (!oldFile.copy(newPath)) {
+    QString problem = InputFile::problem(oldPath);
+    if (problem.isEmpty() && !oldFile.copy(newPath))
+        problem = oldFile.errorString();
+    if (!problem.isEmpty()) {
         USSD_LOG(" %s copy failed! error : %s", oldPath.toLocal8Bit().constData(),
-                 oldFile.errorString().toLocal8Bit().constData());
+                 problem.toLocal8Bit().constData());
         return oldPath;
     }
     oldFile.remove();
@@ -90,7 +94,10 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
 {
     USSD_LOG(" Enter: xmlFilePath = %s", xmlFilePath.toLocal8Bit().constData());
     QFile file(xmlFilePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    QString problem;
+    if (!InputFile::open(file, QIODevice::Text, problem)) {
+        USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
+                           problem.toLocal8Bit().constData());
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return;
     }

@@ -9,6 +9,7 @@
 
 #include "CommonUtils.h"
 #include "ForwardXml.h"
+#include "InputFile.h"
 #include "PluginLog.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
@@ -41,7 +42,10 @@ bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
                          QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
     USSD_LOG(" xmlFilePath = %s", path.toLocal8Bit().constData());
     file.setFileName(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    QString problem;
+    if (!InputFile::open(file, QIODevice::Text, problem)) {
+        USSD_LOG_IMPORTANT(" %s: %s", path.toLocal8Bit().constData(),
+                           problem.toLocal8Bit().constData());
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return false;
     }

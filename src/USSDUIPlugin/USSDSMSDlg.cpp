@@ -12,6 +12,7 @@
 #include <QXmlStreamReader>
 
 #include "CommonUtils.h"
+#include "InputFile.h"
 #include "PluginLog.h"
 #include "PluginText.h"
 #include "ReplyLabel.h"
@@ -126,7 +127,10 @@ void CUSSDSMSDlg::forgetLayout()
 void CUSSDSMSDlg::readLayoutFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    QString problem;
+    if (!InputFile::open(file, QIODevice::Text, problem)) {
+        USSD_LOG_AS("InitConfig", ": %s: %s", path.toLocal8Bit().constData(),
+                    problem.toLocal8Bit().constData());
         USSD_LOG_AS("InitConfig",
                     ": return fail for the file can't be open as readonly and text mode.");
         return;

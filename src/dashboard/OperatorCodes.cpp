@@ -1,9 +1,8 @@
 #include "OperatorCodes.h"
 
-#include <QFile>
-
 #include "DashboardSettings.h"
 #include "DeviceWatcher.h"
+#include "InputFile.h"
 #include "InstallPaths.h"
 #include "tksv_device.h"
 #include "UiPlugin.h"
@@ -17,9 +16,8 @@ const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
 
 QByteArray shippedConfiguration()
 {
-    QFile file(InstallPaths::installedPluginLibrary() + QLatin1String(PLUGIN_FOLDER) +
-               ProvisionFiles::configurationName());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return InputFile::content(InstallPaths::installedPluginLibrary() +
+                              QLatin1String(PLUGIN_FOLDER) + ProvisionFiles::configurationName());
 }
 
 bool isOfCountry(const Provider &provider, const QString &countryCode)

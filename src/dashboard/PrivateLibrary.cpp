@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include "InputFile.h"
 #include "InstallPaths.h"
 
 namespace
@@ -41,12 +42,6 @@ bool writeFile(const QString &path, const QByteArray &content)
     QFile file(path);
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
            file.write(content) == content.size() && file.flush();
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void setOrUnset(const char *variable, const QByteArray &value)
@@ -99,13 +94,13 @@ QString PrivateLibrary::userProfileFile() const
 
 bool PrivateLibrary::restore(const QString &name)
 {
-    return write(name, readFile(m_installed + QLatin1Char('/') + name));
+    return write(name, InputFile::content(m_installed + QLatin1Char('/') + name));
 }
 
 bool PrivateLibrary::change(const QString &name, const QByteArray &anchor, const QByteArray &before,
                             const QByteArray &after)
 {
-    QByteArray content = readFile(fileName(name));
+    QByteArray content = InputFile::content(fileName(name));
     const int start = content.indexOf(anchor);
     const int place = start < 0 ? -1 : content.indexOf(before, start);
     return place >= 0 && write(name, content.replace(place, before.size(), after));

@@ -9,14 +9,13 @@
 #include <memory>
 #include <unistd.h>
 
+#include "InputFile.h"
 #include "tksv.h"
 
 namespace
 {
 
 const char FILE_NAME[] = "ussdprofile.xml";
-const qint64 LARGEST = 4 << 20; // bytes; what is larger is not what the plug-in has written
-
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 bool isWholeXml(const QByteArray &text)
@@ -30,10 +29,10 @@ bool isWholeXml(const QByteArray &text)
 /// Empty when the file cannot be read, or is not good.
 QByteArray goodContent(const QString &path)
 {
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > LARGEST)
-        return QByteArray();
-    const QByteArray text = file.readAll();
+    QByteArray text;
+    QString problem;
+    if (!InputFile::read(path, text, problem) && QFile::exists(path))
+        qWarning("%s: %s", path.toLocal8Bit().constData(), problem.toLocal8Bit().constData());
     return isWholeXml(text) ? text : QByteArray();
 }
 
@@ -121,8 +120,7 @@ bool ProfileBackup::isLost() const
 
 bool ProfileBackup::isDamaged() const
 {
-    const QFileInfo file(m_userFile);
-    if (m_userFile.isEmpty() || !file.isFile() || !file.isReadable() || file.size() > LARGEST)
+    if (m_userFile.isEmpty() || !InputFile::problem(m_userFile).isEmpty())
         return false;
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }

@@ -2,10 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
 #include <QPainter>
 
 #include "ExtendDialog.h"
+#include "InputFile.h"
 #include "InstallPaths.h"
 #include "MainWindow.h"
 #include "PrivateLibrary.h"
@@ -71,8 +71,11 @@ TourGuide::TourGuide(MainWindow *window, PrivateLibrary *library, TourAlbum *alb
 bool TourGuide::useNetwork(const TourChange *changes, int count)
 {
     const QString name = QLatin1String(NETWORK);
-    QFile file(InstallPaths::share() + QLatin1String("/tour/") + name);
-    if (!file.open(QIODevice::ReadOnly) || !m_library->write(name, file.readAll()))
+    QByteArray network;
+    QString problem;
+    if (!InputFile::read(InstallPaths::share() + QLatin1String("/tour/") + name, network,
+                         problem) ||
+        !m_library->write(name, network))
         return TourAlbum::fail("TOUR_NOT_WRITTEN", name);
     for (int i = 0; i < count; ++i) {
         if (!m_library->change(name, changes[i].anchor, changes[i].before, changes[i].after))

@@ -13,6 +13,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "InputFile.h"
+
 namespace
 {
 
@@ -83,8 +85,7 @@ bool exists(const QString &path)
 
 QByteArray content(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return InputFile::content(path);
 }
 
 Lock::Lock(const QString &path)

@@ -1,7 +1,8 @@
 #include "ProviderDatabase.h"
 
-#include <QFile>
 #include <QXmlStreamReader>
+
+#include "InputFile.h"
 
 namespace
 {
@@ -260,13 +261,10 @@ ProviderDatabase readProviderDatabase(const QByteArray &xml)
 
 ProviderDatabase readProviderDatabaseFile(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refused(file.errorString());
-    const QByteArray xml = file.read(MAX_BYTES + 1);
-    if (xml.size() > MAX_BYTES)
-        return refused(QLatin1String("The file is too large for a database of mobile operators."));
-    return readProviderDatabase(xml);
+    QByteArray xml;
+    QString problem;
+    return InputFile::read(path, xml, problem, MAX_BYTES) ? readProviderDatabase(xml)
+                                                          : refused(problem);
 }
 
 QString installedProviderDatabase()

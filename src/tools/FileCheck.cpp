@@ -1,17 +1,14 @@
 #include "FileCheck.h"
 
-#include <QFile>
-
 #include "ConfigurationCheck.h"
 #include "ElementCheck.h"
+#include "InputFile.h"
 #include "LayoutCheck.h"
 #include "ProfilesCheck.h"
 #include "ScenarioCheck.h"
 
 namespace
 {
-
-const qint64 MAX_BYTES = 4194304; // 4 MB
 
 QStringList words(const char *blankSeparated)
 {
@@ -137,14 +134,8 @@ CheckReport checkFile(const QString &path)
 {
     CheckReport report;
     report.file = path;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        report.error = file.errorString();
-        return report;
-    }
-    const QByteArray content = file.read(MAX_BYTES + 1);
-    if (content.size() <= MAX_BYTES)
+    QByteArray content;
+    if (InputFile::read(path, content, report.error))
         return checkContent(content, path);
-    report.error = QLatin1String("the file is larger than 4 MB");
     return report;
 }

@@ -1,9 +1,9 @@
 #include "ProvisionTool.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
+#include "InputFile.h"
 #include "InstallPaths.h"
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
@@ -190,10 +190,11 @@ int provision(const ToolArguments &arguments, const Provider &provider)
                     TOOL_BAD);
     }
     const QString shipped = installedFolder() + ProvisionFiles::configurationName();
-    QFile file(shipped);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(shipped + QLatin1String(": ") + file.errorString(), TOOL_BAD);
-    const ProvisionFiles files = provisionFiles(plan, file.readAll());
+    QByteArray configuration;
+    QString problem;
+    if (!InputFile::read(shipped, configuration, problem))
+        return fail(shipped + QLatin1String(": ") + problem, TOOL_BAD);
+    const ProvisionFiles files = provisionFiles(plan, configuration);
     if (!files.error.isEmpty())
         return fail(shipped + QLatin1String(": ") + files.error, TOOL_BAD);
     const ProvisionOrder order = orderOf(arguments, plan);

@@ -89,6 +89,7 @@ finds includes 'includes "USSDLogic.h"' src/dashboard/a.cpp <<<'#include "USSDLo
 finds includes 'includes "Languages.h"' src/core/common/A.h <<<'#include "Languages.h"'
 finds includes 'includes "tksv.h"' src/core/A.h <<<'#include "tksv.h"'
 finds includes 'includes "Languages.h"' src/provisioning/a.cpp <<<'#include "Languages.h"'
+finds includes 'includes "Languages.h"' src/files/a.cpp <<<'#include "Languages.h"'
 finds includes 'includes <vector>' src/sdk/tksv.h <<<'#include <vector>'
 
 finds qt_versions 'a.cpp:1:#if QT_VERSION' src/dashboard/a.cpp <<<'#if QT_VERSION > 0'

@@ -6,6 +6,7 @@
 #include <QTableWidget>
 #include <QTimer>
 
+#include "OddFiles.h"
 #include "ProfileBackup.h"
 #include "ProfileKeeper.h"
 #include "SimTest.h"
@@ -53,6 +54,10 @@ private slots:
     void nothingIsLeftBesideTheCopy();
     void whatDoesNotParseIsNotCopied_data();
     void whatDoesNotParseIsNotCopied();
+    void anOddFileIsNeitherCopiedNorOffered_data();
+    void anOddFileIsNeitherCopiedNorOffered();
+    void anOddCopyIsNoCopy_data();
+    void anOddCopyIsNoCopy();
     void aFileThatHasGoneLeavesTheCopy();
     void aFileWithoutCodesIsCopiedToo();
     void aCopyThatCannotBeWrittenIsSaid();
@@ -159,8 +164,45 @@ void ProfileBackupTest::whatDoesNotParseIsNotCopied()
     QVERIFY(write(GOOD));
     QVERIFY(m_backup->refresh());
     QVERIFY(write(content));
+    allowWarning("it is larger than 4194304 bytes");
     QVERIFY(!m_backup->refresh());
     QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::anOddFileIsNeitherCopiedNorOffered_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProfileBackupTest::anOddFileIsNeitherCopiedNorOffered()
+{
+    QVERIFY(writeCopy(GOOD));
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    expectWarning(m_file + QLatin1String(": ") + OddFiles::make(m_file));
+    QVERIFY(!m_backup->refresh());
+    QVERIFY(!m_backup->isOutdated());
+    QVERIFY(!m_backup->isLost());
+    QVERIFY(!m_backup->isDamaged());
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+}
+
+void ProfileBackupTest::anOddCopyIsNoCopy_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProfileBackupTest::anOddCopyIsNoCopy()
+{
+    QVERIFY(QDir().mkpath(QFileInfo(m_copy).path()));
+    QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
+    expectWarning(m_copy + QLatin1String(": ") + OddFiles::make(m_copy));
+    QVERIFY(!m_backup->isLost());
+    QVERIFY(!m_backup->restore());
+    QVERIFY(!QFile::exists(m_file));
+    QVERIFY(write(GOOD));
+    const bool isReplaced = !QFileInfo(m_copy).isDir();
+    QCOMPARE(m_backup->refresh(), isReplaced);
+    QCOMPARE(m_backup->isOutdated(), !isReplaced);
 }
 
 void ProfileBackupTest::aFileThatHasGoneLeavesTheCopy()

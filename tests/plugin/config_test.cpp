@@ -4,7 +4,9 @@
 #include <QXmlStreamReader>
 
 #include "CommonUtils.h"
+#include "OddFiles.h"
 #include "USSDLogic.h"
+#include "USSDSMSDlg.h"
 
 namespace
 {
@@ -133,6 +135,8 @@ private slots:
     void deepNestingIsReadToItsEnd();
     void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingFileLeavesDefaultsAndIsLogged();
+    void oddFileIsLikeAMissingOne_data();
+    void oddFileIsLikeAMissingOne();
     void missingFileLeavesTheRecordsOfGettersUnchanged();
     void gettersReadTheFileAnew();
     void prePostDifferIsNotReadAnew();
@@ -706,6 +710,30 @@ void ConfigTest::missingFileLeavesDefaultsAndIsLogged()
     QCOMPARE(number(PREPAID, CHARGE, ATTR_LENGTH), 0);
     QVERIFY(!logic()->IsImsiDynamicMatch());
     QCOMPARE(flagsOf(latin1("001012345678901")), -1);
+}
+
+void ConfigTest::oddFileIsLikeAMissingOne_data()
+{
+    OddFiles::addColumns();
+}
+
+void ConfigTest::oddFileIsLikeAMissingOne()
+{
+    const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
+    const QString said = path + latin1(": ") + OddFiles::make(path);
+    logic();
+    QCOMPARE(timesLogged(latin1("openXMLFile ") + said), 2); // debug and warning
+    QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
+    QVERIFY(!logic()->IsImsiDynamicMatch());
+    Char sent;
+    sent.yHeight = 77;
+    logic()->GetCharSet(CHAR_SET_SEND, sent);
+    QCOMPARE(sent.yHeight, 77);
+    CUSSDSMSDlg services;
+    clearLog();
+    services.InitConfig();
+    QCOMPARE(timesLogged(latin1("InitConfig: ") + said), 1);
+    QCOMPARE(timesLogged("InitConfig: return fail for the file can't be open as readonly"), 1);
 }
 
 void ConfigTest::missingFileLeavesTheRecordsOfGettersUnchanged()

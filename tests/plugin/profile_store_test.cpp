@@ -16,6 +16,7 @@
 
 #include "fake_tksv.h"
 #include "Languages.h"
+#include "OddFiles.h"
 #include "ProfileXml.h"
 #include "USSDEditCmd.h"
 #include "USSDLogic.h"
@@ -163,6 +164,10 @@ private slots:
     void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingUserFileKeepsTheSystemProfiles();
     void missingSystemFileKeepsTheUserProfiles();
+    void oddUserFileKeepsTheSystemProfiles_data();
+    void oddUserFileKeepsTheSystemProfiles();
+    void oddSystemFileKeepsTheUserProfiles_data();
+    void oddSystemFileKeepsTheUserProfiles();
     void loadRebuildsTheList();
     void secondObjectSeesTheFilesAsTheyAreThen();
     void getProfileListReplacesTheCallersList();
@@ -178,6 +183,8 @@ private slots:
     void legacyFileIsMovedOnceWithItsFolder();
     void legacyFolderWithOtherFilesStays();
     void legacyFileThatCannotBeCopiedStaysInUse();
+    void oddLegacyFileIsNotCopied_data();
+    void oddLegacyFileIsNotCopied();
     void newFileWinsOverLegacyFile();
 
     // saving
@@ -424,6 +431,33 @@ void ProfileStoreTest::missingSystemFileKeepsTheUserProfiles()
     QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
 }
 
+void ProfileStoreTest::oddUserFileKeepsTheSystemProfiles_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProfileStoreTest::oddUserFileKeepsTheSystemProfiles()
+{
+    const QString said = userFile() + latin1(": ") + OddFiles::make(userFile());
+    writeSystemProfiles(profileFile(profileItem("A", "*1#")));
+    QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
+    QCOMPARE(timesLogged(latin1("load ") + said), 2); // debug and warning
+    QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
+}
+
+void ProfileStoreTest::oddSystemFileKeepsTheUserProfiles_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProfileStoreTest::oddSystemFileKeepsTheUserProfiles()
+{
+    const QString said = systemFile() + latin1(": ") + OddFiles::make(systemFile());
+    writeUserProfiles(profileItem("A", "*1#"));
+    QCOMPARE(codes(loaded()), QStringList{latin1("*1#")});
+    QCOMPARE(timesLogged(latin1("load ") + said), 2);
+}
+
 void ProfileStoreTest::loadRebuildsTheList()
 {
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
@@ -588,6 +622,21 @@ void ProfileStoreTest::legacyFileThatCannotBeCopiedStaysInUse()
     QVERIFY(!QFile::exists(userFile()));
     QCOMPARE(timesLogged(legacyFile() + latin1(" copy failed! error : ")), 1);
     QCOMPARE(timesLogged(latin1("Exit: user profile file path=") + legacyFile()), 1);
+}
+
+void ProfileStoreTest::oddLegacyFileIsNotCopied_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProfileStoreTest::oddLegacyFileIsNotCopied()
+{
+    QVERIFY(QDir().mkpath(userFolder() + latin1("userdata")));
+    const QString why = OddFiles::make(legacyFile());
+    QVERIFY(loaded().isEmpty());
+    QVERIFY(!QFile::exists(userFile()));
+    QVERIFY(QFile::exists(legacyFile()));
+    QCOMPARE(timesLogged(legacyFile() + latin1(" copy failed! error : ") + why), 1);
 }
 
 void ProfileStoreTest::newFileWinsOverLegacyFile()

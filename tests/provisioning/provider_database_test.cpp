@@ -1,3 +1,4 @@
+#include "OddFiles.h"
 #include "ProviderDatabase.h"
 #include "UssdTest.h"
 
@@ -15,6 +16,9 @@ private slots:
     void refusedDocuments_data();
     void refusedDocuments();
     void missingFileIsSaid();
+    void oddFilesAreRefused_data();
+    void oddFilesAreRefused();
+    void fileTooLargeIsRefused();
     void everyPrefixOfADatabaseIsReadOrRefused();
 };
 
@@ -147,6 +151,30 @@ void ProviderDatabaseTest::missingFileIsSaid()
 {
     const ProviderDatabase read = readProviderDatabaseFile(folder() + QLatin1String("/none.xml"));
     QVERIFY(!read.error.isEmpty());
+}
+
+void ProviderDatabaseTest::oddFilesAreRefused_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProviderDatabaseTest::oddFilesAreRefused()
+{
+    const QString path = folder() + QLatin1String("/odd.xml");
+    OddFiles::make(path);
+    const ProviderDatabase read = readProviderDatabaseFile(path);
+    QVERIFY(!read.error.isEmpty());
+    QFETCH(QString, problem);
+    if (problem.startsWith(QLatin1String("it is no"))) // a database may be larger than other files
+        QCOMPARE(read.error, problem);
+}
+
+void ProviderDatabaseTest::fileTooLargeIsRefused()
+{
+    QFile file(folder() + QLatin1String("/large.xml"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(64 * 1024 * 1024 + 1));
+    QCOMPARE(readProviderDatabaseFile(file.fileName()).error,
+             QString::fromLatin1("it is larger than 67108864 bytes"));
 }
 
 void ProviderDatabaseTest::everyPrefixOfADatabaseIsReadOrRefused()

@@ -1,3 +1,4 @@
+#include "OddFiles.h"
 #include "ToolArguments.h"
 #include "UssdTest.h"
 
@@ -11,6 +12,8 @@ class ConfigToolTest : public UssdTest
 
 private slots:
     void statusFollowsTheWorstFile();
+    void oddFilesAreNotRead_data();
+    void oddFilesAreNotRead();
     void findingsHaveFileLineAndColumn();
     void jsonIsOneDocument();
     void contentCannotSteerTheTerminal();
@@ -62,6 +65,19 @@ void ConfigToolTest::statusFollowsTheWorstFile()
     QCOMPARE(run(check() << doubtful() << none << good()), int(TOOL_USAGE));
     QVERIFY(m_out.contains("none.xml: "));
     QVERIFY(m_out.contains("default.scenario: scenario, findings: 0"));
+}
+
+void ConfigToolTest::oddFilesAreNotRead_data()
+{
+    OddFiles::addColumns();
+}
+
+void ConfigToolTest::oddFilesAreNotRead()
+{
+    const QString path = folder() + QLatin1String("/odd.xml");
+    const QString said = path + QLatin1String(": ") + OddFiles::make(path);
+    QCOMPARE(run(check() << path), int(TOOL_USAGE));
+    QVERIFY2(m_out.contains(said.toUtf8()), m_out.constData());
 }
 
 void ConfigToolTest::findingsHaveFileLineAndColumn()

@@ -1,3 +1,4 @@
+#include "OddFiles.h"
 #include "ToolArguments.h"
 #include "UssdTest.h"
 
@@ -22,6 +23,8 @@ private slots:
     void unknownOperatorFails();
     void operatorWithoutCodesFails();
     void listHasALineForEachOperator();
+    void oddDatabasesAreNotRead_data();
+    void oddDatabasesAreNotRead();
     void complaintsNameLineAndColumn();
     void namesCannotSteerTheTerminal();
     void unusableArguments_data();
@@ -152,6 +155,22 @@ void ProvisionToolTest::listHasALineForEachOperator()
     QVERIFY(m_out.startsWith(QLatin1String("de\tAlpha\t*101#\t*103*%s#\t-\t26207\n")));
     QCOMPARE(run(words("--list --network 26299")), int(TOOL_GOOD));
     QCOMPARE(m_out, QString());
+}
+
+void ProvisionToolTest::oddDatabasesAreNotRead_data()
+{
+    OddFiles::addColumns();
+}
+
+void ProvisionToolTest::oddDatabasesAreNotRead()
+{
+    m_database = folder() + QLatin1String("/odd.xml");
+    OddFiles::make(m_database);
+    QCOMPARE(run(words("--list")), int(TOOL_USAGE));
+    QVERIFY2(m_error.contains(m_database), qPrintable(m_error));
+    QFETCH(QString, problem);
+    if (problem.startsWith(QLatin1String("it is no"))) // a database may be larger than other files
+        QVERIFY2(m_error.contains(problem), qPrintable(m_error));
 }
 
 void ProvisionToolTest::complaintsNameLineAndColumn()

@@ -1,0 +1,71 @@
+#include "InputFile.h"
+
+#include <QFileInfo>
+
+namespace
+{
+
+QString notRegular()
+{
+    return QLatin1String("it is no regular file");
+}
+
+/// Not said of a file that is missing: the system's own words are better then.
+bool isSomethingElse(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile();
+}
+
+} // namespace
+
+namespace InputFile
+{
+
+bool open(QFile &file, QIODevice::OpenMode mode, QString &problem, qint64 mostBytes)
+{
+    problem.clear();
+    if (isSomethingElse(file.fileName())) // asked first: opening a pipe waits for its writer
+        problem = notRegular();
+    else if (!file.open(QIODevice::ReadOnly | mode))
+        problem = file.errorString();
+    else if (file.isSequential()) // exchanged meanwhile
+        problem = notRegular();
+    else if (file.size() > mostBytes)
+        problem = QString::fromLatin1("it is larger than %1 bytes").arg(mostBytes);
+    if (!problem.isEmpty())
+        file.close();
+    return problem.isEmpty();
+}
+
+bool read(const QString &path, QByteArray &content, QString &problem, qint64 mostBytes)
+{
+    content.clear();
+    QFile file(path);
+    if (!open(file, QIODevice::NotOpen, problem, mostBytes))
+        return false;
+    content = file.readAll();
+    if (file.error() == QFile::NoError)
+        return true;
+    content.clear();
+    problem = file.errorString();
+    return false;
+}
+
+QByteArray content(const QString &path)
+{
+    QByteArray content;
+    QString problem;
+    read(path, content, problem);
+    return content;
+}
+
+QString problem(const QString &path)
+{
+    QFile file(path);
+    QString problem;
+    open(file, QIODevice::NotOpen, problem);
+    return problem;
+}
+
+} // namespace InputFile
