@@ -2,8 +2,28 @@
 
 #include <QXmlStreamReader>
 
+namespace
+{
+
+/// The parser hands out an entity that may be declared in another file, and goes on behind it. The
+/// text around it would be another one, such as another code to send.
+void refuseUnknownEntity(QXmlStreamReader &reader)
+{
+    reader.raiseError(
+        QString::fromLatin1("Entity '%1' not declared.").arg(reader.name().toString()));
+}
+
+} // namespace
+
 namespace ForwardXml
 {
+
+QXmlStreamReader::TokenType next(QXmlStreamReader &reader)
+{
+    if (reader.readNext() == QXmlStreamReader::EntityReference)
+        refuseUnknownEntity(reader);
+    return reader.tokenType();
+}
 
 bool skipTo(QXmlStreamReader &reader, const QString &name)
 {
@@ -14,7 +34,7 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
 {
     const bool fenced = name != fence;
     while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
+        const QXmlStreamReader::TokenType token = next(reader);
         if (token == QXmlStreamReader::StartElement && reader.name() == name)
             return true;
         if (fenced && token == QXmlStreamReader::EndElement && reader.name() == fence)
@@ -29,7 +49,7 @@ QString text(QXmlStreamReader &reader)
     QString text;
     int depth = reader.isStartElement() ? 1 : 0;
     while (depth > 0 && !reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
+        const QXmlStreamReader::TokenType token = next(reader);
         if (token == QXmlStreamReader::StartElement)
             ++depth;
         else if (token == QXmlStreamReader::EndElement)
@@ -37,7 +57,7 @@ QString text(QXmlStreamReader &reader)
         else if (token == QXmlStreamReader::Characters)
             text += reader.text();
     }
-    return text;
+    return reader.hasError() ? QString() : text;
 }
 
 int number(QXmlStreamReader &reader)
@@ -47,7 +67,7 @@ int number(QXmlStreamReader &reader)
 
 QString attribute(const QXmlStreamReader &reader, QLatin1String name)
 {
-    return reader.attributes().value(name).toString();
+    return reader.hasError() ? QString() : reader.attributes().value(name).toString();
 }
 
 int numberAttribute(const QXmlStreamReader &reader, QLatin1String name)

@@ -3,15 +3,20 @@
 
 #include <QLatin1String>
 #include <QString>
-
-class QXmlStreamReader;
+#include <QXmlStreamReader>
 
 /*
  * Forward scans over an XML document. The plug-in's files are read front to back by element name
  * alone: nesting is not checked, so the order of elements in them is binding.
+ *
+ * A document is read up to its first fault. What the fault cuts, a text or the attributes of a
+ * start tag, is empty, and so is all that is asked for from then on.
  */
 namespace ForwardXml
 {
+
+/// The next token. An entity that the document does not declare is a fault.
+QXmlStreamReader::TokenType next(QXmlStreamReader &reader);
 
 /// Moves to the next start element with this name, or to the end of the document.
 /// Whether it was found.
@@ -21,7 +26,7 @@ bool skipTo(QXmlStreamReader &reader, const QString &name);
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
 /// The whole text of the element that the reader stands on, also of elements inside it; empty when
-/// it stands on none.
+/// it stands on none, or when the text has a fault in it.
 QString text(QXmlStreamReader &reader);
 
 /// The same as a decimal number; 0 when it is none.

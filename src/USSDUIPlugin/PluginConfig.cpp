@@ -98,6 +98,12 @@ int windowFlag(const QStringRef &name)
     return name == QLatin1String("Advanced") ? WINDOW_ADVANCED : 0;
 }
 
+void readSim(const QXmlStreamReader &reader, AutoUSSD &autoUSSD)
+{
+    autoUSSD.imsiMap.insert(ForwardXml::attribute(reader, QLatin1String("imsi")),
+                            windowFlags(ForwardXml::attribute(reader, QLatin1String("ussd"))));
+}
+
 } // namespace
 
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
@@ -107,6 +113,8 @@ void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
     differ.command = textOf(reader, "command");
     differ.returnPattern = textOf(reader, "ReturnPattern");
     differ.style = numberOf(reader, "style");
+    if (reader.hasError())
+        differ.value = false; // half a section would make a wrong answer of any reply
 }
 
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config)
@@ -148,9 +156,14 @@ void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD)
     if (!autoUSSD.valid)
         return;
     const QString item = QLatin1String("item");
+    while (ForwardXml::skipToBefore(reader, item, QLatin1String("autoUSSD")))
+        readSim(reader, autoUSSD);
+    if (reader.hasError()) {
+        autoUSSD = AutoUSSD(); // with half of the prefixes, a SIM could get the windows of another
+        return;
+    }
     while (ForwardXml::skipTo(reader, item))
-        autoUSSD.imsiMap.insert(ForwardXml::attribute(reader, QLatin1String("imsi")),
-                                windowFlags(ForwardXml::attribute(reader, QLatin1String("ussd"))));
+        readSim(reader, autoUSSD);
 }
 
 int windowFlags(const QString &list)

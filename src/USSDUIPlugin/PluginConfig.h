@@ -9,7 +9,7 @@ class QXmlStreamReader;
 /*
  * What USSDPluginConfig.xml says, as plain values, and the functions that read it. They know
  * nothing of files, windows or the singleton. Each reads forward from where the reader stands; what
- * is missing or does not parse becomes false, 0 or empty.
+ * is missing, does not parse or stands behind a fault of the document becomes false, 0 or empty.
  */
 
 /** Look of one kind of line in the transcript. */
@@ -109,13 +109,15 @@ struct PluginConfig {
 extern const char kSentCharSection[];
 extern const char kReceivedCharSection[];
 
+/// A section with a fault in it is off.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
 /// The "Prepaid" (0) or "Postpaid" (1) section: always four items, wherever the fourth one stands.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads to the end of the document: every "item" behind "autoUSSD" counts.
+/// Reads to the end of the document: every "item" behind "autoUSSD" counts. A section with a fault
+/// in it is off and has no items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 
 /// The window flags in a "/"-separated list such as "Prepaid/Advanced"; unknown parts are ignored.

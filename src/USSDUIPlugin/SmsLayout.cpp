@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <QXmlStreamReader>
 
+#include "ForwardXml.h"
+
 namespace
 {
 
@@ -74,7 +76,7 @@ private:
 /// Each open element costs the parser far more memory than its three characters in the file.
 QXmlStreamReader::TokenType Reader::next()
 {
-    const QXmlStreamReader::TokenType token = m_xml.readNext();
+    const QXmlStreamReader::TokenType token = ForwardXml::next(m_xml);
     if (token == QXmlStreamReader::StartElement && ++m_depth > kMaxDepth)
         m_xml.raiseError(QLatin1String("Elements are nested too deeply."));
     else if (token == QXmlStreamReader::EndElement)

@@ -62,6 +62,9 @@ QXmlStreamReader::TokenType Reader::next()
         --m_depth;
     else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
         m_xml.raiseError(QLatin1String("The document declares entities of its own."));
+    else if (token == QXmlStreamReader::EntityReference) // the text would lack it
+        m_xml.raiseError(
+            QString::fromLatin1("Entity '%1' not declared.").arg(m_xml.name().toString()));
     return token;
 }
 

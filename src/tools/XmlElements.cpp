@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
+#include "ForwardXml.h"
+
 namespace
 {
 
@@ -35,7 +37,7 @@ private:
 XmlElements Reader::read()
 {
     while (!m_xml.atEnd())
-        take(m_xml.readNext());
+        take(ForwardXml::next(m_xml));
     if (m_xml.hasError()) {
         m_elements.error = m_xml.errorString();
         m_elements.errorLine = m_xml.lineNumber();

@@ -132,6 +132,16 @@ private slots:
     void sectionsInWrongOrderAreNotFound();
     void missingChildEmptiesAllBehindIt();
     void brokenXmlKeepsWhatWasReadBefore();
+    void startTagAtFaultHasNoAttributes();
+    void textCutByAFaultIsEmpty_data();
+    void textCutByAFaultIsEmpty();
+    void entitiesOfTheDocumentAreReplaced();
+    void brokenDetectionIsOff_data();
+    void brokenDetectionIsOff();
+    void faultBehindTheDetectionLeavesItOn();
+    void brokenSimSectionIsOff_data();
+    void brokenSimSectionIsOff();
+    void faultBehindTheSimSectionLeavesItOn();
     void deepNestingIsReadToItsEnd();
     void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingFileLeavesDefaultsAndIsLogged();
@@ -158,6 +168,8 @@ private:
     static QString text(int paidType, int component, int attr);
     static Char look(_CHAR_SET_COLOR which);
     static ClearHistory clearSetting();
+    static CmdEdit editSetting();
+    static PrePostDiffer differ();
     /// What the longest prefix gives; -1 when none matches, in which case the flags have to be 0.
     static int flagsOf(const QString &imsi);
 };
@@ -185,6 +197,20 @@ ClearHistory ConfigTest::clearSetting()
 {
     ClearHistory result;
     logic()->GetClearBtnSetting(result);
+    return result;
+}
+
+CmdEdit ConfigTest::editSetting()
+{
+    CmdEdit result;
+    logic()->GetCmdEditSetting(result);
+    return result;
+}
+
+PrePostDiffer ConfigTest::differ()
+{
+    PrePostDiffer result;
+    logic()->GetPrePostDiffer(result);
     return result;
 }
 
@@ -361,6 +387,130 @@ void ConfigTest::brokenXmlKeepsWhatWasReadBefore()
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(POSTPAID, CHARGE, ATTR_LENGTH), 0);
     QVERIFY(!logic()->IsImsiDynamicMatch());
+}
+
+/// An attribute that stands there twice is no XML; the parser has seen both by then.
+void ConfigTest::startTagAtFaultHasNoAttributes()
+{
+    writeConfig("<c><clearHistory visible='true' showConfirmDialog='true' visible='true'/></c>");
+    QVERIFY(!clearSetting().visible);
+    QVERIFY(!clearSetting().showConfirmDialog);
+    writeConfig("<c><cmdEdit visible='true' visible='true'/></c>");
+    QVERIFY(!editSetting().visible);
+    writeConfig("<c>" + charSection("send", "20", "red='1' green='2' blue='3' red='1'") + "</c>");
+    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20);
+    QCOMPARE(look(CHAR_SET_SEND).red, 0);
+    QCOMPARE(look(CHAR_SET_SEND).green, 0);
+    QCOMPARE(look(CHAR_SET_SEND).blue, 0);
+}
+
+void ConfigTest::textCutByAFaultIsEmpty_data()
+{
+    QTest::addColumn<QByteArray>("before"); // the root
+    QTest::addColumn<QByteArray>("command");
+    QTest::newRow("unknown entity") << QByteArray() << QByteArray("*10&bad;3#");
+    QTest::newRow("entity of another file")
+        << QByteArray("<!DOCTYPE anything SYSTEM 'other.dtd'>") << QByteArray("*10&bad;3#");
+    QTest::newRow("bare ampersand") << QByteArray() << QByteArray("*10& 3#");
+    QTest::newRow("wrong end tag") << QByteArray() << QByteArray("*103#</comand>");
+    QTest::newRow("control character") << QByteArray() << QByteArray("*10\x01#");
+}
+
+void ConfigTest::textCutByAFaultIsEmpty()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, command);
+    writeConfig(before + config(balanceItem("value='true' pos='10'", command) + chargeItem() +
+                                    onlineItem() + msisdnItem(),
+                                fourItems()));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
+    QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10); // read before
+    QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), QString());
+    QCOMPARE(number(PREPAID, CHARGE, ATTR_VALUE), 0);
+    QCOMPARE(differ().command, latin1("*103#"));
+}
+
+void ConfigTest::entitiesOfTheDocumentAreReplaced()
+{
+    writeConfig("<!DOCTYPE anything [<!ENTITY code '*10&digit;#'><!ENTITY digit '3'>]>" +
+                config(balanceItem("pos='&digit;'", "&code;") + chargeItem() + onlineItem() +
+                           msisdnItem("&#42;102&#x23;"),
+                       fourItems()));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*103#"));
+    QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 3);
+    QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*102#"));
+}
+
+void ConfigTest::brokenDetectionIsOff_data()
+{
+    QTest::addColumn<QByteArray>("section");
+    QTest::addColumn<QString>("command");
+    const QByteArray start("<PrePostDiffer value='true'>");
+    const QByteArray whole = start + "<command>*103#</command>";
+    QTest::newRow("start tag") << QByteArray("<PrePostDiffer value='true' value='true'>")
+                               << QString();
+    QTest::newRow("command") << start + "<command>*10&bad;3#</command>" << QString();
+    QTest::newRow("pattern") << whole + "<ReturnPattern>po&bad;st</ReturnPattern>"
+                             << latin1("*103#");
+    QTest::newRow("style") << whole + "<ReturnPattern>post</ReturnPattern><style>1</stile>"
+                           << latin1("*103#");
+    QTest::newRow("no end") << whole << latin1("*103#");
+}
+
+/// A command or a pattern of half a section would make a wrong answer of any reply.
+void ConfigTest::brokenDetectionIsOff()
+{
+    QFETCH(QByteArray, section);
+    QFETCH(QString, command);
+    writeConfig("<c>" + section);
+    QVERIFY(!differ().value);
+    QCOMPARE(differ().command, command); // what was read whole stays
+    QCOMPARE(differ().style, 0);
+}
+
+void ConfigTest::faultBehindTheDetectionLeavesItOn()
+{
+    writeConfig(QByteArray("<c>") + DIFFER + "<Prepaid>&bad;");
+    QVERIFY(differ().value);
+    QCOMPARE(differ().style, 1);
+}
+
+void ConfigTest::brokenSimSectionIsOff_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("start tag") << QByteArray("valid='true'")
+                               << QByteArray("valid='true' valid='true'");
+    QTest::newRow("first item") << QByteArray("imsi='001'") << QByteArray("imsi='&bad;'");
+    QTest::newRow("last item") << QByteArray("imsi='0012'") << QByteArray("imsi='<'");
+    QTest::newRow("no end") << QByteArray("</autoUSSD></anything>") << QByteArray();
+    QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
+}
+
+/// With half of the prefixes, a SIM would get the windows of a shorter one.
+void ConfigTest::brokenSimSectionIsOff()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    const QByteArray whole = autoUSSD(imsiItem("001", "Prepaid") + imsiItem("0012", "Advanced"));
+    writeConfig(whole);
+    QCOMPARE(flagsOf(latin1("00123")), 8);
+    QVERIFY(whole.contains(before));
+    USSDLogic::Destroy();
+    writeConfig(QByteArray(whole).replace(before, after));
+    QVERIFY(!logic()->IsImsiDynamicMatch());
+    QCOMPARE(flagsOf(latin1("00123")), -1);
+}
+
+void ConfigTest::faultBehindTheSimSectionLeavesItOn()
+{
+    writeConfig(autoUSSD(imsiItem("001", "Prepaid"))
+                    .replace("</anything>", imsiItem("002", "Postpaid") + "&bad;" +
+                                                imsiItem("003", "Postpaid") + "</anything>"));
+    QVERIFY(logic()->IsImsiDynamicMatch());
+    QCOMPARE(flagsOf(latin1("0019")), 1);
+    QCOMPARE(flagsOf(latin1("0029")), 2); // taken, though it stands behind the section
+    QCOMPARE(flagsOf(latin1("0039")), -1);
 }
 
 void ConfigTest::deepNestingIsReadToItsEnd()

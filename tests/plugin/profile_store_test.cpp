@@ -160,6 +160,8 @@ private slots:
     void rootAndItsAttributeAreNotChecked();
     void textIsReadAsItStands();
     void brokenXmlKeepsWhatWasReadBefore();
+    void textCutByAFaultIsEmpty_data();
+    void textCutByAFaultIsEmpty();
     void deepNestingIsReadToItsEnd();
     void deepNestingWithoutEndKeepsWhatWasReadBefore();
     void missingUserFileKeepsTheSystemProfiles();
@@ -395,6 +397,32 @@ void ProfileStoreTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!profiles.isEmpty());
     QCOMPARE(profiles.first().value, latin1("*1#"));
     QCOMPARE(profiles.first().name, latin1("A"));
+}
+
+void ProfileStoreTest::textCutByAFaultIsEmpty_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("value"); // of the profile with the fault
+    const QByteArray start = "<tksvdoc>" + profileItem("A", "*1#") + "<item><name>B</name>";
+    const QByteArray rest = "<readonly>true</readonly></item></tksvdoc>";
+    QTest::newRow("no end") << start + "<value>*2" << QString();
+    QTest::newRow("entity") << start + "<value>*10&bad;3#</value>" + rest << QString();
+    QTest::newRow("entity of another file")
+        << "<!DOCTYPE tksvdoc SYSTEM 'other.dtd'>" + start + "<value>*10&bad;3#</value>" + rest
+        << QString();
+    QTest::newRow("end tag") << start + "<value>*2#</valeu>" + rest << QString();
+    QTest::newRow("behind the value") << start + "<value>*2#</value><&" + rest << latin1("*2#");
+}
+
+/// What was read whole stays, also of the profile with the fault; never half a code.
+void ProfileStoreTest::textCutByAFaultIsEmpty()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, value);
+    write(userFile(), content);
+    const QList<USSDProfile> profiles = loaded();
+    QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), value}));
+    QVERIFY(profiles.at(1) == profile(latin1("B"), value));
 }
 
 void ProfileStoreTest::deepNestingIsReadToItsEnd()

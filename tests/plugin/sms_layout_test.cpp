@@ -73,6 +73,7 @@ private slots:
     void deepNestingInAControlEnds_data();
     void deepNestingInAControlEnds();
     void deepNestingOutsideTheSectionEnds();
+    void textWithAnUnknownEntityIsNotTaken();
     void entityBombEnds();
     void longTextIsTakenWhole();
     void complaintsQuoteLittle();
@@ -533,6 +534,21 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
 {
     QVERIFY(!read(QByteArray("<b>").repeated(500000)));
     QVERIFY(complained("Elements are nested too deeply."));
+}
+
+/// Where the entity may stand in another file, the parser itself would pass over it.
+void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
+{
+    const QByteArray control = "<control><command>*10&bad;3#</command></control>";
+    const QByteArray document = "<c><SMSUSSD><MainSize width='9'/>" + rootAnd(entry(1)) +
+                                group(1, control) + "</SMSUSSD></c>";
+    for (const QByteArray &start : {QByteArray(), QByteArray("<!DOCTYPE c SYSTEM 'other.dtd'>")}) {
+        m_layout.reset(new SmsLayout);
+        QVERIFY(!read(start + document));
+        QVERIFY(complained("Entity 'bad' not declared."));
+        QVERIFY(m_layout->groups.isEmpty());
+        QCOMPARE(m_layout->dialog.width, 9);
+    }
 }
 
 void SmsLayoutTest::entityBombEnds()

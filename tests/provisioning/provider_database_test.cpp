@@ -129,6 +129,11 @@ void ProviderDatabaseTest::refusedDocuments_data()
     QTest::newRow("entities") << QByteArray("<!DOCTYPE a [<!ENTITY b 'c'><!ENTITY d '&b;&b;'>]>") +
                                      database("&d;")
                               << QString::fromLatin1("entities of its own");
+    QTest::newRow("entity of another file")
+        << provider("<balance-check><ussd>*10&bad;3#</ussd></balance-check>")
+               .replace("<serviceproviders",
+                        "<!DOCTYPE serviceproviders SYSTEM 'other.dtd'><serviceproviders")
+        << QString::fromLatin1("Entity 'bad' not declared");
     QTest::newRow("deep") << provider(QByteArray("<a>").repeated(100000))
                           << QString::fromLatin1("nested too deeply");
     QTest::newRow("deep text") << provider("<balance-check><ussd>" +

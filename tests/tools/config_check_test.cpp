@@ -36,6 +36,8 @@ private slots:
     void layoutAloneIsChecked();
     void unusableContent_data();
     void unusableContent();
+    void unknownEntityEndsTheReading_data();
+    void unknownEntityEndsTheReading();
     void everyPrefixIsChecked();
     void traceWalksAsThePluginDoes();
     void jsonIsParsedBack_data();
@@ -415,6 +417,23 @@ void ConfigCheckTest::unusableContent_data()
     QTest::newRow("other XML") << QByteArray("<html><body/></html>");
     QTest::newRow("broken XML") << QByteArray("<");
     QTest::newRow("zeros") << QByteArray(1000, '\0');
+}
+
+void ConfigCheckTest::unknownEntityEndsTheReading_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("undeclared") << QByteArray();
+    QTest::newRow("of another file") << QByteArray("<!DOCTYPE tksvdoc SYSTEM 'other.dtd'>");
+}
+
+void ConfigCheckTest::unknownEntityEndsTheReading()
+{
+    QFETCH(QByteArray, start);
+    const CheckReport report =
+        check(start + "<tksvdoc><item><name>A</name><value>*10&bad;3#</value></item></tksvdoc>");
+    QVERIFY2(findingsText(report).contains(QLatin1String("Entity 'bad' not declared.")),
+             qPrintable(findingsText(report)));
+    QCOMPARE(tableRow(report, "Profiles", "A").value(1), QString());
 }
 
 void ConfigCheckTest::unusableContent()
