@@ -1,5 +1,7 @@
-# ussd_add_translations(TARGET FILE.ts...): compiles each language file and puts the result where
-# the core library looks for it.
+# ussd_add_translations(TARGET FILE.ts...): compiles each language file, appends its checksum, without
+# which the core library takes it for damaged, and puts the result where that looks for it.
+set(USSD_SEAL_TRANSLATION ${CMAKE_CURRENT_LIST_DIR}/seal_translation.sh)
+
 function(ussd_add_translations target)
     set(compiled)
     foreach(source IN LISTS ARGN)
@@ -10,7 +12,8 @@ function(ussd_add_translations target)
             OUTPUT ${qm}
             COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/${USSD_SHARE_DIR}/translations
             COMMAND ${USSD_LRELEASE} -silent ${source} -qm ${qm}
-            DEPENDS ${source}
+            COMMAND sh ${USSD_SEAL_TRANSLATION} ${qm}
+            DEPENDS ${source} ${USSD_SEAL_TRANSLATION}
             VERBATIM)
         list(APPEND compiled ${qm})
     endforeach()

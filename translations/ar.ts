@@ -705,6 +705,10 @@
         <translation>تتعذر كتابة &#x200e;%1&#x200e;، ولذلك لا توجد نسخة من رموز USSD الخاصة بك.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>نصوص اللغة المختارة تالفة: &#x200e;%1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>نصوص اللغة المختارة مفقودة: &#x200e;%1</translation>
     </message>

@@ -705,6 +705,10 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
         <translation>%1 kann nicht geschrieben werden; daher gibt es keine Kopie Ihrer eigenen USSD-Codes.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>Die Texte der gewählten Sprache sind beschädigt: %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>Die Texte der gewählten Sprache fehlen: %1</translation>
     </message>

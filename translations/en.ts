@@ -705,6 +705,10 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
         <translation>%1 cannot be written, so there is no copy of your own USSD codes.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>The texts of the chosen language are damaged: %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>The texts of the chosen language are missing: %1</translation>
     </message>

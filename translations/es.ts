@@ -706,6 +706,10 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>No se puede escribir %1, así que no hay copia de sus propios códigos USSD.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>Los textos del idioma elegido están dañados: %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>Faltan los textos del idioma elegido: %1</translation>
     </message>

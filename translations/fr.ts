@@ -705,6 +705,10 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
         <translation>Impossible d’écrire %1 ; il n’y a donc pas de copie de vos propres codes USSD.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>Les textes de la langue choisie sont endommagés : %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>Les textes de la langue choisie manquent : %1</translation>
     </message>

@@ -706,6 +706,10 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
         <translation>Não é possível escrever %1, por isso não há cópia dos seus próprios códigos USSD.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>Os textos do idioma escolhido estão danificados: %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>Faltam os textos do idioma escolhido: %1</translation>
     </message>

@@ -705,6 +705,10 @@
         <translation>Не удаётся записать %1, поэтому копии ваших собственных кодов USSD нет.</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>Тексты выбранного языка повреждены: %1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>Нет текстов выбранного языка: %1</translation>
     </message>

@@ -703,6 +703,10 @@
         <translation>无法写入 %1，因此没有您自己的 USSD 代码的副本。</translation>
     </message>
     <message>
+        <source>LANGUAGE_DAMAGED</source>
+        <translation>所选语言的文字已损坏：%1</translation>
+    </message>
+    <message>
         <source>LANGUAGE_MISSING</source>
         <translation>所选语言的文字缺失：%1</translation>
     </message>

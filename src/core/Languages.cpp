@@ -1,6 +1,7 @@
 #include "Languages.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -10,6 +11,7 @@
 
 #include <memory>
 
+#include "InputFile.h"
 #include "InstallPaths.h"
 
 namespace
@@ -29,7 +31,18 @@ const Language LANGUAGES[] = {
 
 const char ENGLISH[] = "en";
 
-typedef std::unique_ptr<QTranslator> Texts;
+// The last section of a language file, see cmake/seal_translation.sh: tag, length, and as many hex
+// digits, the SHA-1 of all before it.
+const char SEAL[] = {'S', 0, 0, 0, 40};
+const int SEAL_DIGITS = 40;
+
+/** A language's texts. The translator reads them out of `content`. */
+struct LanguageTexts {
+    QByteArray content;
+    QTranslator translator;
+};
+
+typedef std::unique_ptr<LanguageTexts> Texts;
 
 /** The mutex guards the three members below it. */
 struct Loaded {
@@ -39,10 +52,13 @@ struct Loaded {
     Texts english;
 };
 
-Texts load(const QString &path)
+/// Null unless the file is there and whole.
+Texts load(const QString &code)
 {
-    Texts texts(new QTranslator);
-    if (!texts->load(path))
+    Texts texts(new LanguageTexts);
+    texts->content = Languages::content(code);
+    if (!texts->translator.load(reinterpret_cast<const uchar *>(texts->content.constData()),
+                                texts->content.size()))
         texts.reset();
     return texts;
 }
@@ -54,7 +70,7 @@ Loaded &loaded()
     static Loaded instance;
     static const bool once = [] {
         instance.code = QLatin1String(ENGLISH);
-        instance.english = load(Languages::file(instance.code));
+        instance.english = load(instance.code);
         return true;
     }();
     Q_UNUSED(once)
@@ -72,19 +88,17 @@ const Language *find(const QString &code)
 
 QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &key)
 {
-    return texts ? texts->translate(context.constData(), key.constData()) : QString();
+    return texts ? texts->translator.translate(context.constData(), key.constData()) : QString();
 }
 
 /** Qt's own texts: the buttons of its dialogs, context menus of entry fields. GUI thread. */
 void setQtTexts(const QString &code)
 {
-    static Texts installed;
-    installed.reset(); // takes itself off the application
+    static std::unique_ptr<QTranslator> installed;
+    installed.reset(new QTranslator); // the old one takes itself off the application
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    installed = load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm"));
-    if (!installed)
-        installed = load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm"));
-    if (installed)
+    if (installed->load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm")) ||
+        installed->load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm")))
         QCoreApplication::installTranslator(installed.get());
 }
 
@@ -136,7 +150,7 @@ bool Languages::setCurrent(const QString &code)
     const Language *language = find(code);
     if (!language)
         return false;
-    Texts texts = load(file(code));
+    Texts texts = load(code);
     if (!texts)
         return false;
     Loaded &state = loaded();
@@ -152,6 +166,31 @@ bool Languages::setCurrent(const QString &code)
 QString Languages::file(const QString &code)
 {
     return InstallPaths::translations() + QLatin1Char('/') + code + QLatin1String(".qm");
+}
+
+Languages::FileState Languages::fileState(const QString &code)
+{
+    if (!find(code))
+        return NoSuchLanguage;
+    if (!QFile::exists(file(code)))
+        return Missing;
+    return content(code).isEmpty() ? Damaged : Whole;
+}
+
+QByteArray Languages::content(const QString &code)
+{
+    const QByteArray content = InputFile::content(file(code));
+    return isWhole(content) ? content : QByteArray();
+}
+
+bool Languages::isWhole(const QByteArray &content)
+{
+    const QByteArray seal(SEAL, sizeof SEAL);
+    const int length = content.size() - seal.size() - SEAL_DIGITS;
+    if (length <= 0)
+        return false;
+    const QByteArray sum = QCryptographicHash::hash(content.left(length), QCryptographicHash::Sha1);
+    return content.mid(length) == seal + sum.toHex();
 }
 
 QString Languages::text(const QString &context, const QString &key)

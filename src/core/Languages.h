@@ -11,6 +11,8 @@
 class Q_DECL_EXPORT Languages
 {
 public:
+    enum FileState { Whole, Missing, Damaged, NoSuchLanguage };
+
     /// The languages whose file is installed, in the order in which to offer them; English always.
     /// Any thread.
     static QStringList codes();
@@ -22,12 +24,19 @@ public:
     static QString current();
 
     /// Makes `code` the language of the program at once: of Change::tr(), of Qt's own texts, of the
-    /// default locale, and of the layout direction. False when its file is missing or unusable;
+    /// default locale, and of the layout direction. False when its file is missing or damaged;
     /// everything then stays as it was. GUI thread, other threads may be in Change::tr() meanwhile.
     static bool setCurrent(const QString &code);
 
     /// The file that holds the language's texts. Any thread.
     static QString file(const QString &code);
+    /// What is wrong with that file, if anything. Any thread.
+    static FileState fileState(const QString &code);
+    /// What the file holds, for a QTranslator; empty unless it is whole. Any thread.
+    static QByteArray content(const QString &code);
+    /// Whether `content`, that of a language file, is as the build wrote it. QTranslator crashes on
+    /// a damaged one when it is asked for a text. Any thread.
+    static bool isWhole(const QByteArray &content);
 
     /// What Change::tr() gives. Any thread.
     static QString text(const QString &context, const QString &key);

@@ -21,6 +21,7 @@
 #include "IUIPlugin.h"
 #include "IUSSD.h"
 #include "LanguageMenu.h"
+#include "LanguageProblem.h"
 #include "Languages.h"
 #include "NetworkMenu.h"
 #include "NetworkTextPanel.h"
@@ -256,8 +257,11 @@ void MainWindow::openFrameNow(int paidType)
 
 void MainWindow::setLanguage(const QString &code)
 {
-    if (!Languages::setCurrent(code))
+    if (!Languages::setCurrent(code)) {
+        showProblem(dashboardText(languageProblem(code)).arg(Languages::file(code)));
+        m_languageMenu->retranslate(); // the mark back to the language that is left
         return;
+    }
     if (m_settings)
         m_settings->setLanguage(code);
     m_plugin->notifyLanguageChange();

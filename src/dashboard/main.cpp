@@ -1,4 +1,3 @@
-#include <QFile>
 #include <QLocale>
 
 #include <clocale>
@@ -7,6 +6,7 @@
 #include "Arguments.h"
 #include "DashboardSettings.h"
 #include "DashboardText.h"
+#include "LanguageProblem.h"
 #include "Languages.h"
 #include "LogFile.h"
 #include "Program.h"
@@ -15,6 +15,7 @@
 namespace
 {
 
+const char ENGLISH[] = "en";
 const mode_t OTHERS = S_IRWXG | S_IRWXO;
 const int CODE_LENGTH = 2; // of a language's code at the start of a locale's name
 
@@ -29,31 +30,42 @@ QStringList wordsOf(int argc, char **argv)
 /// Without the file of English there is no text to say it in.
 void sayWhichTextsAreMissing(const QString &wanted)
 {
-    const QString english = Languages::file(QLatin1String("en"));
-    if (!QFile::exists(english))
-        printErrorLine(english + QLatin1String(" is missing; keys stand in place of texts."));
-    else if (!wanted.isEmpty() && !Languages::codes().contains(wanted))
-        printErrorLine(dashboardText("LANGUAGE_MISSING").arg(Languages::file(wanted)));
+    const QString english = QLatin1String(ENGLISH);
+    const Languages::FileState state = Languages::fileState(english);
+    if (state == Languages::Missing)
+        printErrorLine(Languages::file(english) +
+                       QLatin1String(" is missing; keys stand in place of texts."));
+    else if (state == Languages::Damaged)
+        printErrorLine(Languages::file(english) +
+                       QLatin1String(" is damaged; keys stand in place of texts."));
+    else if (!wanted.isEmpty() && Languages::fileState(wanted) != Languages::Whole)
+        printErrorLine(dashboardText(languageProblem(wanted)).arg(Languages::file(wanted)));
 }
 
 /// The language that was remembered, else that of the desktop; English when there is neither.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
-    sayWhichTextsAreMissing(remembered);
     const QString code =
         remembered.isEmpty() ? QLocale::system().name().left(CODE_LENGTH) : remembered;
-    return Languages::codes().contains(code) ? code : QLatin1String("en");
+    const Languages::FileState state = Languages::fileState(code);
+    const bool isAbsent = state == Languages::Missing || state == Languages::NoSuchLanguage;
+    // The desktop's language may be left out on purpose; one that was chosen here may not.
+    sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
+    return state == Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
-/// False when the command line names a language that there is none of.
+/// False when the command line names a language that there is none of, or whose file is no good.
 bool chooseLanguage(Arguments *arguments)
 {
+    const QString &wanted = arguments->language;
     Languages::setCurrent(usualLanguage());
-    if (arguments->language.isEmpty() || Languages::setCurrent(arguments->language))
+    if (wanted.isEmpty() || Languages::setCurrent(wanted))
         return true;
-    arguments->errorKey = "CLI_UNKNOWN_LANGUAGE";
-    arguments->errorSubject = Languages::codes().join(QLatin1String(" "));
+    const bool isKnown = Languages::fileState(wanted) != Languages::NoSuchLanguage;
+    arguments->errorKey = isKnown ? languageProblem(wanted) : "CLI_UNKNOWN_LANGUAGE";
+    arguments->errorSubject =
+        isKnown ? Languages::file(wanted) : Languages::codes().join(QLatin1String(" "));
     return false;
 }
 

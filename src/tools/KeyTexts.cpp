@@ -9,16 +9,24 @@
 namespace
 {
 
-typedef QMap<QString, QSharedPointer<QTranslator>> Translators;
+/** The translator reads out of `content`. */
+struct Texts {
+    QByteArray content;
+    QTranslator translator;
+};
+
+typedef QMap<QString, QSharedPointer<Texts>> Translators;
 
 Translators loadAll()
 {
     Translators all;
     const QStringList codes = Languages::codes();
     for (int i = 0; i < codes.count(); ++i) {
-        const QSharedPointer<QTranslator> translator(new QTranslator);
-        if (translator->load(Languages::file(codes.at(i))))
-            all.insert(codes.at(i), translator);
+        const QSharedPointer<Texts> texts(new Texts);
+        texts->content = Languages::content(codes.at(i));
+        if (texts->translator.load(reinterpret_cast<const uchar *>(texts->content.constData()),
+                                   texts->content.size()))
+            all.insert(codes.at(i), texts);
     }
     return all;
 }
@@ -44,7 +52,7 @@ QStringList KeyTexts::languagesWithout(const QString &key)
         return missing;
     const QByteArray source = key.toUtf8();
     for (Translators::const_iterator it = translators.begin(); it != translators.end(); ++it) {
-        if (it.value()->translate("USSDUIPlugin", source.constData()).isEmpty())
+        if (it.value()->translator.translate("USSDUIPlugin", source.constData()).isEmpty())
             missing << it.key();
     }
     return missing;

@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QFile>
 #include <QLocale>
+#include <QTranslator>
 
 #include <atomic>
+#include <random>
 #include <thread>
 
 #include "Change.h"
@@ -14,6 +17,12 @@ namespace
 QString pluginText(const char *key)
 {
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
 }
 
 /** Asks for texts on a thread of its own until it ends, and counts those of no language. */
@@ -71,6 +80,10 @@ private slots:
     void arabicTurnsTheLayoutAndBack();
     void theDefaultLocaleFollows();
     void otherThreadsMayAskDuringAChange();
+    void everyInstalledFileIsWhole();
+    void everyDamageIsSeen_data();
+    void everyDamageIsSeen();
+    void anyTranslatorReadsTheFiles();
 };
 
 void LanguagesTest::englishIsThereBeforeAnyLanguageIsChosen()
@@ -170,6 +183,56 @@ void LanguagesTest::otherThreadsMayAskDuringAChange()
     first.finish();
     second.finish();
     QCOMPARE(first.strange() + second.strange(), 0);
+}
+
+void LanguagesTest::everyInstalledFileIsWhole()
+{
+    for (const QString &code : Languages::codes()) {
+        QCOMPARE(Languages::fileState(code), Languages::Whole);
+        QCOMPARE(Languages::content(code), contentOf(Languages::file(code)));
+    }
+    QCOMPARE(Languages::fileState(QLatin1String("xx")), Languages::NoSuchLanguage);
+    QVERIFY(Languages::content(QLatin1String("xx")).isEmpty());
+}
+
+void LanguagesTest::everyDamageIsSeen_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray whole = contentOf(Languages::file(QLatin1String("de")));
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("first half") << whole.left(whole.size() / 2);
+    QTest::newRow("one byte less") << whole.left(whole.size() - 1);
+    QTest::newRow("one byte more") << whole + '\0';
+    QTest::newRow("without its start") << whole.mid(1);
+    QTest::newRow("end alone") << whole.right(45);
+    QTest::newRow("as lrelease alone writes it") << whole.left(whole.size() - 45);
+    QTest::newRow("zeros") << QByteArray(whole.size(), '\0');
+    std::mt19937 random(20260102);
+    for (int i = 0; i < 500; ++i) {
+        QByteArray damaged = whole;
+        for (int bytes = 1 + int(random() % 20); bytes > 0; --bytes)
+            damaged.data()[random() % uint(whole.size())] = char(random());
+        if (damaged != whole)
+            QTest::newRow(qPrintable(QString::number(i))) << damaged;
+    }
+}
+
+/// About one in a hundred of them ended the program when a text was asked for.
+void LanguagesTest::everyDamageIsSeen()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(!Languages::isWhole(content));
+}
+
+/// The checksum is a section that others pass over.
+void LanguagesTest::anyTranslatorReadsTheFiles()
+{
+    for (const QString &code : Languages::codes()) {
+        QTranslator translator;
+        QVERIFY(translator.load(Languages::file(code)));
+        QVERIFY(Languages::setCurrent(code));
+        QCOMPARE(translator.translate("USSDUIPlugin", "IDS_CANCEL"), pluginText("IDS_CANCEL"));
+    }
 }
 
 USSD_TEST_MAIN(LanguagesTest)

@@ -14,6 +14,7 @@
 #include "HostState.h"
 #include "Languages.h"
 #include "MainWindow.h"
+#include "NoticeBar.h"
 #include "Scenarios.h"
 #include "UiPlugin.h"
 #include "UssdTest.h"
@@ -47,6 +48,7 @@ private slots:
     void aMissingPluginIsSaidInThePage();
     void aChosenLanguageReachesEverything();
     void aChosenLanguageIsRemembered();
+    void aLanguageWithoutItsFileIsSaid();
     void arabicTurnsTheWindow();
     void anotherNetworkIsChosenFromTheMenu();
     void aBadScenarioIsSaidInWordsAndTheOldOneStays();
@@ -204,6 +206,20 @@ void MainWindowTest::aChosenLanguageIsRemembered()
     m_window->setLanguage(QLatin1String("xx"));
     QCOMPARE(m_settings->language(), QLatin1String("fr"));
     QCOMPARE(Languages::current(), QLatin1String("fr"));
+}
+
+void MainWindowTest::aLanguageWithoutItsFileIsSaid()
+{
+    QAction *german = networkAction(QLatin1String("Deutsch"));
+    QVERIFY(german);
+    german->setData(QLatin1String("xx")); // as if its file had gone since the menu was made
+    german->trigger();
+    const NoticeBar *problems =
+        m_window->findChild<NoticeBar *>(QLatin1String("Dashboard_Problems"));
+    QVERIFY(problems);
+    QCOMPARE(problems->text(),
+             dashboardText("LANGUAGE_MISSING").arg(Languages::file(QLatin1String("xx"))));
+    QVERIFY(networkAction(QLatin1String("English"))->isChecked());
 }
 
 void MainWindowTest::arabicTurnsTheWindow()

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <random>
+
 namespace
 {
 
@@ -52,7 +54,11 @@ private slots:
     void withoutFontsItSaysSo();
     void withoutAMessageBusItSaysSo();
     void aMissingLanguageIsSaid();
+    void aMissingLanguageIsNotCalledUnknown();
+    void aDamagedLanguageIsSaid_data();
+    void aDamagedLanguageIsSaid();
     void withoutAnyTextItSaysSo();
+    void damagedEnglishIsSaid();
 
 private:
     Run run(const QStringList &arguments = QStringList());
@@ -65,6 +71,9 @@ private:
     void makeCopy();
     /// Has the program find its texts where there are only these languages.
     void installTexts(const QStringList &languages);
+    QString textsFolder() { return folder() + text("/prefix/" TEXTS_FOLDER); }
+    /// Changes bytes of an installed language, others for each seed.
+    void damageText(const char *file, uint seed);
     static QString text(const char *words) { return QString::fromUtf8(words); }
 
     QProcessEnvironment m_environment;
@@ -256,7 +265,7 @@ void MachineTest::withoutAMessageBusItSaysSo()
 void MachineTest::installTexts(const QStringList &languages)
 {
     const QString library = folder() + text("/prefix/" LIBRARY_FOLDER);
-    const QString texts = folder() + text("/prefix/" TEXTS_FOLDER);
+    const QString texts = textsFolder();
     QVERIFY(QDir().mkpath(library) && QDir().mkpath(texts));
     const QString core = QFileInfo(text(CORE_LIBRARY)).fileName();
     QVERIFY(QFile::copy(text(CORE_LIBRARY), library + QLatin1Char('/') + core));
@@ -275,6 +284,59 @@ void MachineTest::aMissingLanguageIsSaid()
     QVERIFY2(result.error.contains(text("/de.qm")), result.all().constData());
     QVERIFY2(result.error.contains(text("missing")), result.all().constData());
     QVERIFY2(result.out.contains(text("codes: ")), result.all().constData());
+}
+
+void MachineTest::damageText(const char *file, uint seed)
+{
+    QFile content(textsFolder() + QLatin1Char('/') + text(file));
+    QVERIFY(content.open(QIODevice::ReadWrite));
+    std::mt19937 random(seed);
+    for (int bytes = 20; bytes > 0; --bytes) {
+        QVERIFY(content.seek(random() % uint(content.size())));
+        QVERIFY(content.putChar(char(random())));
+    }
+}
+
+void MachineTest::aMissingLanguageIsNotCalledUnknown()
+{
+    installTexts(QStringList() << text("en.qm"));
+    const Run result = run(QStringList() << text("--language") << text("de"));
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.error.contains(text("missing")), result.all().constData());
+    QVERIFY2(result.error.contains(text("/de.qm")), result.all().constData());
+}
+
+void MachineTest::aDamagedLanguageIsSaid_data()
+{
+    QTest::addColumn<uint>("seed");
+    for (uint seed = 0; seed < 10; ++seed)
+        QTest::newRow(QByteArray::number(seed).constData()) << seed;
+}
+
+void MachineTest::aDamagedLanguageIsSaid()
+{
+    QFETCH(uint, seed);
+    installTexts(QStringList() << text("en.qm") << text("de.qm"));
+    damageText("de.qm", seed);
+    const Run chosen = run(QStringList() << text("--language") << text("de"));
+    QCOMPARE(chosen.code, 2);
+    QVERIFY2(chosen.error.contains(text("damaged: ") + textsFolder() + text("/de.qm")),
+             chosen.all().constData());
+    QVERIFY(write(home() + text("/config/ussd-dashboard/ussd-dashboard.ini"),
+                  "[General]\nlanguage=de\n"));
+    const Run remembered = run();
+    QVERIFY2(remembered.isGood(), remembered.all().constData());
+    QVERIFY2(remembered.error.contains(text("damaged: ") + textsFolder() + text("/de.qm")),
+             remembered.all().constData());
+}
+
+void MachineTest::damagedEnglishIsSaid()
+{
+    installTexts(QStringList() << text("en.qm"));
+    damageText("en.qm", 1);
+    const Run result = run();
+    QVERIFY2(result.isGood(), result.all().constData());
+    QVERIFY2(result.error.contains(text("/en.qm is damaged")), result.all().constData());
 }
 
 void MachineTest::withoutAnyTextItSaysSo()
