@@ -159,6 +159,8 @@ private slots:
     void emptyPrefixNeverMatches();
     void emptyImsiNeverMatches();
     void longestPrefixIsFoundAmongManyRandomOnes();
+    void eachSectionIsSoughtInItsPlace_data();
+    void eachSectionIsSoughtInItsPlace();
     void missingSectionSkipsToTheEndOnce();
     void shippedFileIsComplete();
 
@@ -530,6 +532,37 @@ void ConfigTest::deepNestingWithoutEndKeepsWhatWasReadBefore()
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QVERIFY(!logic()->IsImsiDynamicMatch());
+}
+
+void ConfigTest::eachSectionIsSoughtInItsPlace_data()
+{
+    QTest::addColumn<QByteArray>("element");
+    QTest::addColumn<bool>("isSought");
+    for (const char *section :
+         {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
+        QTest::newRow(section) << QByteArray(section) << true;
+    for (const char *child : {"yHeight", "yOffset", "color"}) // those of "send" stand first
+        QTest::newRow(child) << QByteArray(child) << true;
+    for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
+        QTest::newRow(child) << QByteArray(child) << true;
+    QTest::newRow("clearHistory") << QByteArray("clearHistory") << false;
+    QTest::newRow("none") << QByteArray("other") << false;
+}
+
+/// The getters read their sections anew, so what the start has read of them is seen from the last
+/// section alone: the search for one that is missing runs past it.
+void ConfigTest::eachSectionIsSoughtInItsPlace()
+{
+    QFETCH(QByteArray, element);
+    QFETCH(bool, isSought);
+    QByteArray xml = completeConfig();
+    for (const QByteArray &start : {'<' + element, "</" + element + '>'}) {
+        const int place = xml.indexOf(start);
+        if (place >= 0)
+            xml.insert(place + start.indexOf(element), "no");
+    }
+    writeConfig(xml);
+    QCOMPARE(logic()->IsImsiDynamicMatch(), !isSought);
 }
 
 void ConfigTest::missingSectionSkipsToTheEndOnce()

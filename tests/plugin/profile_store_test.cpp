@@ -6,6 +6,8 @@
 #include <QXmlStreamReader>
 
 #include <csignal>
+#include <cstdlib>
+#include <new>
 #include <random>
 
 #include <sys/resource.h>
@@ -18,8 +20,38 @@
 #include "Languages.h"
 #include "OddFiles.h"
 #include "ProfileXml.h"
+#include "tksv.h"
 #include "USSDEditCmd.h"
 #include "USSDLogic.h"
+
+namespace
+{
+
+/// Arrays that this thread has made and not deleted.
+thread_local int arraysOfThisThread = 0;
+
+} // namespace
+
+void *operator new[](std::size_t bytes)
+{
+    void *memory = std::malloc(bytes > 0 ? bytes : 1);
+    if (!memory)
+        std::abort();
+    ++arraysOfThisThread;
+    return memory;
+}
+
+void operator delete[](void *memory) noexcept
+{
+    if (memory)
+        --arraysOfThisThread;
+    std::free(memory);
+}
+
+void operator delete[](void *memory, std::size_t) noexcept
+{
+    operator delete[](memory);
+}
 
 namespace
 {
@@ -181,6 +213,7 @@ private slots:
     // the places
     void pathsAreThoseOfTheFolders();
     void userFolderIsTakenExactlyAsReturned();
+    void textOfTheSdkIsReleasedAsAnArray();
     void withoutUserFolderThereIsNoUserPath();
     void legacyFileIsMovedOnceWithItsFolder();
     void legacyFolderWithOtherFilesStays();
@@ -590,6 +623,20 @@ void ProfileStoreTest::userFolderIsTakenExactlyAsReturned()
     QString path;
     store.getUserProfileXMLFilePath(path);
     QCOMPARE(path, folder() + latin1("/userussdprofile.xml"));
+}
+
+void ProfileStoreTest::textOfTheSdkIsReleasedAsAnArray()
+{
+    USSDEditCmd store;
+    QString path;
+    const int before = arraysOfThisThread;
+    unsigned short *units = nullptr;
+    QCOMPARE(TKSV_GetUserDataDirectory(&units), 0L);
+    QCOMPARE(arraysOfThisThread, before + 1); // what the SDK makes is counted
+    delete[] units;
+    store.getUserProfileXMLFilePath(path);
+    QCOMPARE(path, userFile());
+    QCOMPARE(arraysOfThisThread, before);
 }
 
 void ProfileStoreTest::withoutUserFolderThereIsNoUserPath()
