@@ -16,6 +16,8 @@ namespace
 {
 
 const char FILE_NAME[] = "ussdprofile.xml";
+const qint64 LARGEST = 4 << 20; // bytes; what is larger is not what the plug-in has written
+
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 bool isWholeXml(const QByteArray &text)
@@ -31,7 +33,7 @@ QByteArray goodContent(const QString &path)
 {
     QByteArray text;
     QString problem;
-    if (!InputFile::read(path, text, problem) && QFile::exists(path))
+    if (!InputFile::read(path, text, problem, LARGEST) && QFile::exists(path))
         qWarning("%s: %s", path.toLocal8Bit().constData(), problem.toLocal8Bit().constData());
     return isWholeXml(text) ? text : QByteArray();
 }
@@ -120,7 +122,7 @@ bool ProfileBackup::isLost() const
 
 bool ProfileBackup::isDamaged() const
 {
-    if (m_userFile.isEmpty() || !InputFile::problem(m_userFile).isEmpty())
+    if (m_userFile.isEmpty() || !InputFile::problem(m_userFile, LARGEST).isEmpty())
         return false;
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }

@@ -60,11 +60,11 @@ QByteArray content(const QString &path)
     return content;
 }
 
-QString problem(const QString &path)
+QString problem(const QString &path, qint64 mostBytes)
 {
     QFile file(path);
     QString problem;
-    open(file, QIODevice::NotOpen, problem);
+    open(file, QIODevice::NotOpen, problem, mostBytes);
     return problem;
 }
 

@@ -13,8 +13,9 @@
 namespace InputFile
 {
 
-/// Far more than any configuration, profile or language file has.
-const qint64 kMostBytes = 4 * 1024 * 1024;
+/// Far more than any configuration, profile or language file has. An XML reader may need 50 times
+/// as much memory, when the file is nothing but start tags.
+const qint64 kMostBytes = 8 * 1024 * 1024;
 
 /// Opens `file`, whose name is set, for reading; `mode` is what that needs besides. Returns false
 /// and says in `problem` why it cannot be read, as the end of a line that begins with its name.
@@ -28,7 +29,7 @@ bool read(const QString &path, QByteArray &content, QString &problem,
 QByteArray content(const QString &path);
 
 /// Why the file cannot be read; empty when it can.
-QString problem(const QString &path);
+QString problem(const QString &path, qint64 mostBytes = kMostBytes);
 
 } // namespace InputFile
 

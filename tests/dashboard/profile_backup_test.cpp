@@ -171,7 +171,7 @@ void ProfileBackupTest::whatDoesNotParseIsNotCopied()
 
 void ProfileBackupTest::anOddFileIsNeitherCopiedNorOffered_data()
 {
-    OddFiles::addColumns();
+    OddFiles::addColumns(4 << 20);
 }
 
 void ProfileBackupTest::anOddFileIsNeitherCopiedNorOffered()
@@ -188,7 +188,7 @@ void ProfileBackupTest::anOddFileIsNeitherCopiedNorOffered()
 
 void ProfileBackupTest::anOddCopyIsNoCopy_data()
 {
-    OddFiles::addColumns();
+    OddFiles::addColumns(4 << 20);
 }
 
 void ProfileBackupTest::anOddCopyIsNoCopy()

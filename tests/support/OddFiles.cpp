@@ -11,10 +11,10 @@ namespace
 
 enum Kind { Pipe, LinkToPipe, Folder, LinkToZero, LinkToNull, TooLarge };
 
-bool makeTooLarge(const QString &path)
+bool makeFile(const QString &path, qint64 bytes)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.resize(4 * 1024 * 1024 + 1);
+    return file.open(QIODevice::WriteOnly) && file.resize(bytes);
 }
 
 bool makePipe(const QString &path)
@@ -22,7 +22,7 @@ bool makePipe(const QString &path)
     return mkfifo(QFile::encodeName(path).constData(), S_IRUSR | S_IWUSR) == 0;
 }
 
-bool makeThing(int kind, const QString &path)
+bool makeThing(int kind, qint64 bytes, const QString &path)
 {
     const QString target = path + QLatin1String(".target");
     switch (kind) {
@@ -37,13 +37,13 @@ bool makeThing(int kind, const QString &path)
     case LinkToNull:
         return QFile::link(QLatin1String("/dev/null"), path);
     default:
-        return makeTooLarge(path);
+        return makeFile(path, bytes);
     }
 }
 
-void addRow(const char *title, int kind, const char *problem)
+void addRow(const char *title, int kind, qint64 bytes, const QString &problem)
 {
-    QTest::newRow(title) << kind << QString::fromLatin1(problem);
+    QTest::newRow(title) << kind << bytes << problem;
 }
 
 } // namespace
@@ -51,24 +51,28 @@ void addRow(const char *title, int kind, const char *problem)
 namespace OddFiles
 {
 
-void addColumns()
+void addColumns(qint64 mostBytes)
 {
+    const QString odd = QLatin1String("it is no regular file");
     QTest::addColumn<int>("kind");
+    QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("problem");
-    addRow("named pipe", Pipe, "it is no regular file");
-    addRow("link to a named pipe", LinkToPipe, "it is no regular file");
-    addRow("folder", Folder, "it is no regular file");
-    addRow("link to /dev/zero", LinkToZero, "it is no regular file");
-    addRow("link to /dev/null", LinkToNull, "it is no regular file");
-    addRow("too large", TooLarge, "it is larger than 4194304 bytes");
+    addRow("named pipe", Pipe, 0, odd);
+    addRow("link to a named pipe", LinkToPipe, 0, odd);
+    addRow("folder", Folder, 0, odd);
+    addRow("link to /dev/zero", LinkToZero, 0, odd);
+    addRow("link to /dev/null", LinkToNull, 0, odd);
+    addRow("too large", TooLarge, mostBytes + 1,
+           QString::fromLatin1("it is larger than %1 bytes").arg(mostBytes));
 }
 
 QString make(const QString &path)
 {
     QFETCH(int, kind);
+    QFETCH(qint64, bytes);
     QFETCH(QString, problem);
     QFile::remove(path);
-    if (!makeThing(kind, path))
+    if (!makeThing(kind, bytes, path))
         qFatal("cannot make an odd file at %s", qPrintable(path));
     return problem;
 }
