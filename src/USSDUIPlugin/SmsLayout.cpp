@@ -11,7 +11,6 @@ namespace
 
 const int kMaxComplaints = 20;
 const int kMaxQuoted = 40;  // characters of the file in a complaint
-const int kMaxDepth = 100;  // elements inside each other
 const int kMaxControls = 6; // kept of a group: enough to see that there are too many
 const int kMaxGroups = 500; // kept of a file: far more than the tree has entries
 
@@ -27,17 +26,17 @@ QString quoted(const QString &text)
 class Reader
 {
 public:
-    Reader(QXmlStreamReader &xml, SmsLayout &layout) : m_xml(xml), m_layout(layout), m_depth(0) {}
+    Reader(QXmlStreamReader &xml, SmsLayout &layout) : m_xml(xml), m_layout(layout) {}
 
     bool readDocument();
     void readDialog();
 
 private:
-    QXmlStreamReader::TokenType next();
     bool nextStart(const char *fence);
     bool nextStart(const char *name, const char *fence);
     bool isAt(const char *name) const { return m_xml.name() == QLatin1String(name); }
-    QString text();
+    /// The whole text of the current element, also of elements inside it.
+    QString text() { return ForwardXml::text(m_xml); }
     void skipElement() { text(); }
     QString attribute(const char *name) const;
     int numberAttribute(const char *name);
@@ -68,28 +67,16 @@ private:
 
     QXmlStreamReader &m_xml;
     SmsLayout &m_layout;
-    int m_depth; // of the current element, from where the reading began
 };
 
 // ---- tokens --------------------------------------------------------------------------------
-
-/// Each open element costs the parser far more memory than its three characters in the file.
-QXmlStreamReader::TokenType Reader::next()
-{
-    const QXmlStreamReader::TokenType token = ForwardXml::next(m_xml);
-    if (token == QXmlStreamReader::StartElement && ++m_depth > kMaxDepth)
-        m_xml.raiseError(QLatin1String("Elements are nested too deeply."));
-    else if (token == QXmlStreamReader::EndElement)
-        --m_depth;
-    return token;
-}
 
 /// Moves to the next start element; false at the end element `fence`, or when there is nothing
 /// more.
 bool Reader::nextStart(const char *fence)
 {
     while (!m_xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = next();
+        const QXmlStreamReader::TokenType token = ForwardXml::next(m_xml);
         if (token == QXmlStreamReader::StartElement)
             return !m_xml.hasError();
         if (token == QXmlStreamReader::EndElement && isAt(fence))
@@ -105,18 +92,6 @@ bool Reader::nextStart(const char *name, const char *fence)
             return true;
     }
     return false;
-}
-
-/// The whole text of the current element, also of elements inside it.
-QString Reader::text()
-{
-    QString text;
-    const int outside = m_depth - 1;
-    while (m_depth > outside && !m_xml.atEnd()) {
-        if (next() == QXmlStreamReader::Characters)
-            text += m_xml.text();
-    }
-    return text;
 }
 
 QString Reader::attribute(const char *name) const

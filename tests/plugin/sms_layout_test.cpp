@@ -512,28 +512,36 @@ void SmsLayoutTest::deepNestingEnds()
 {
     QVERIFY(!readSection("<MainSize width='9'/>" + QByteArray("<Tree>").repeated(500000)));
     QCOMPARE(m_layout->dialog.width, 9);
-    QVERIFY(complained("Elements are nested too deeply."));
 }
 
 void SmsLayoutTest::deepNestingInAControlEnds_data()
 {
     QTest::addColumn<QByteArray>("end");
-    QTest::newRow("closed") << QByteArray("</b>").repeated(500000) + "</command></control>";
-    QTest::newRow("not closed") << QByteArray();
+    QTest::addColumn<bool>("isWhole");
+    QTest::newRow("closed") << QByteArray("</b>").repeated(500000) + "</command></control>" << true;
+    QTest::newRow("not closed") << QByteArray() << false;
 }
 
 void SmsLayoutTest::deepNestingInAControlEnds()
 {
     QFETCH(QByteArray, end);
-    QVERIFY(
-        !readSection(group(1, "<control><command>" + QByteArray("<b>").repeated(500000) + end)));
-    QVERIFY(complained("Elements are nested too deeply."));
+    QFETCH(bool, isWhole);
+    const QByteArray levels = QByteArray("<b>").repeated(500000);
+    QCOMPARE(
+        readSection("<MainSize width='9'/>" + group(1, "<control><command>*1#" + levels + end)),
+        isWhole);
+    QCOMPARE(m_layout->dialog.width, 9);
+    QCOMPARE(m_layout->groups.count(), isWhole ? 1 : 0);
+    if (isWhole)
+        QCOMPARE(m_layout->groups.first()->controls.first()->command, QStringLiteral("*1#"));
 }
 
 void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
 {
-    QVERIFY(!read(QByteArray("<b>").repeated(500000)));
-    QVERIFY(complained("Elements are nested too deeply."));
+    const QByteArray section = "<SMSUSSD><MainSize width='9'/></SMSUSSD>";
+    QVERIFY(
+        read(QByteArray("<b>").repeated(500000) + section + QByteArray("</b>").repeated(500000)));
+    QCOMPARE(m_layout->dialog.width, 9);
 }
 
 /// Where the entity may stand in another file, the parser itself would pass over it.
