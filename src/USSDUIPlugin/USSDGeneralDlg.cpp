@@ -413,7 +413,8 @@ void USSDGeneralDlg::handlePreBtnClicked(const QString &command)
         USSD_LOG_EXIT(" Fail Exit");
         return;
     }
-    if (!sendCommand(command))
+    // A profile whose code could not be read has an empty one.
+    if (command.isEmpty() || !sendCommand(command))
         return;
     m_pSendButton->setEnabled(false);
     changeAllPreBtnsStatus(false);

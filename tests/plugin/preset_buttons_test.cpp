@@ -84,6 +84,7 @@ private slots:
     // what they send
     void buttonSendsItsCode();
     void paymentButtonWithoutNumberSendsNothing();
+    void buttonOfAProfileWithoutCodeSendsNothing();
     void everyPlaceholderIsReplaced();
     void placeholderInCapitalsIsNotReplaced();
     void placeholderOfAnOrdinaryButtonIsSentAsItIs();
@@ -417,6 +418,18 @@ void PresetButtonsTest::paymentButtonWithoutNumberSendsNothing()
     QVERIFY(requests().isEmpty());
     QVERIFY(shownLines().isEmpty());
     QVERIFY(commandEdit()->isEnabled());
+}
+
+void PresetButtonsTest::buttonOfAProfileWithoutCodeSendsNothing()
+{
+    writeSystemProfiles(profileFile(profileItem("Whole", "*100#") + profileItem("A", "*1#") +
+                                    profileItem("B", "*2#"))
+                            .replace("<value>*100#", "<value>"));
+    open();
+    click(presetButtons().first());
+    QVERIFY(requests().isEmpty());
+    QVERIFY(shownLines().isEmpty());
+    QVERIFY(isIdle());
 }
 
 void PresetButtonsTest::everyPlaceholderIsReplaced()
