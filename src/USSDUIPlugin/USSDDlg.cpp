@@ -6,15 +6,16 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRegExpValidator>
 
 #include "ExtendLineEdit.h"
 #include "OnlineLink.h"
 #include "PluginLog.h"
-#include "PluginMessage.h"
 #include "PluginText.h"
 #include "QtCompat.h"
+#include "ReplyBox.h"
 #include "StatusBox.h"
 #include "tksv.h"
 
@@ -86,12 +87,13 @@ void describe(QWidget *widget, const QLabel *label)
 
 USSDDlg::USSDDlg()
     : m_paidType(PAID_TYPE_NONE), m_windowModel(WINDOW_MODEL_MODAL), m_bBusy(false),
-      m_pGrid(nullptr), m_pBalanceLabel(nullptr), m_pBalanceStatusTextEdit(nullptr),
-      m_pBalanceUpdateButton(nullptr), m_pBalanceInfoLabel(nullptr), m_pBalanceLine(nullptr),
-      m_pChargeLabel(nullptr), m_pChargeEdit(nullptr), m_pChargeActivateButton(nullptr),
-      m_pActivateStatusTextEdit(nullptr), m_pChargeLine(nullptr), m_pOnlineChargeLabel(nullptr),
-      m_pOnlineURL(nullptr), m_pOnlineChargeLine(nullptr), m_pMSISDNLabel(nullptr),
-      m_pMSISDNStatusTextEdit(nullptr), m_pMSISDNUpdateButton(nullptr), m_pCloseButton(nullptr)
+      m_bReturnDown(false), m_pGrid(nullptr), m_pBalanceLabel(nullptr),
+      m_pBalanceStatusTextEdit(nullptr), m_pBalanceUpdateButton(nullptr),
+      m_pBalanceInfoLabel(nullptr), m_pBalanceLine(nullptr), m_pChargeLabel(nullptr),
+      m_pChargeEdit(nullptr), m_pChargeActivateButton(nullptr), m_pActivateStatusTextEdit(nullptr),
+      m_pChargeLine(nullptr), m_pOnlineChargeLabel(nullptr), m_pOnlineURL(nullptr),
+      m_pOnlineChargeLine(nullptr), m_pMSISDNLabel(nullptr), m_pMSISDNStatusTextEdit(nullptr),
+      m_pMSISDNUpdateButton(nullptr), m_pCloseButton(nullptr)
 {
     USSD_LOG_SCOPE();
 }
@@ -270,6 +272,9 @@ void USSDDlg::connectWidgets()
     connect(m_pChargeEdit, SIGNAL(returnPressed()), this, SLOT(OnClickedActivateButton()));
     connect(m_pLogic, SIGNAL(responseReceived(int, QString)), this,
             SLOT(OnResponseReceived(int, QString)));
+    m_pChargeEdit->installEventFilter(this);
+    m_pChargeActivateButton->installEventFilter(this);
+    m_pActivateStatusTextEdit->installEventFilter(this); // keeps the focus of the two meanwhile
 }
 
 /// The two types differ in everything that the configuration says.
@@ -298,6 +303,8 @@ void USSDDlg::SetLanguage()
     setLanguageForOnlineCharge();
     setLanguageForMSISDN();
     m_pCloseButton->setText(text("IDS_BUTTON_CLOSE"));
+    if (m_pReplyBox)
+        ReplyBox::retranslate(m_pReplyBox);
     initAccessibility();
 }
 
@@ -397,6 +404,7 @@ void USSDDlg::OnClickedCloseButton()
     USSD_LOG_SCOPE();
     USSDLogic::ClearQueuedCmds();
     m_bBusy = false;
+    dropReplyBoxes();
     emit clickedcloseButton(); // the receiver may delete the dialog
 }
 
@@ -408,6 +416,21 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
         event->accept();
     else
         QWidget::keyPressEvent(event);
+}
+
+/// A key that is held down tops up once, however often it repeats: not even after an answer, which
+/// enables entry and button again. It does not close the message box either.
+bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return QWidget::eventFilter(watched, event);
+    const QKeyEvent *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+        return false;
+    // Not every system marks repetitions; some only leave out the releases between them.
+    const bool isHeld = key->isAutoRepeat() || m_bReturnDown;
+    m_bReturnDown = event->type() == QEvent::KeyPress || key->isAutoRepeat();
+    return event->type() == QEvent::KeyPress && isHeld;
 }
 
 // ---- sending -------------------------------------------------------------------------------
@@ -493,7 +516,7 @@ void USSDDlg::OnResponseReceived(int component, QString text)
         text = tr(QLatin1String("USSD_CODE_FAILED"));
     const QPointer<USSDDlg> self(this); // a host that hears of it may shut down
     routeResponse(component, text, isWaiting);
-    if (self && !isWaiting)
+    if (self && !isWaiting && !(component == COMPONENT_CHARGE && isReplyBoxDue()))
         enableDisableButton(static_cast<_COMPONENT>(component), false);
 }
 
@@ -507,19 +530,64 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
+/// The box opens from the event loop. Inside the announcement of a reply it would hold up the
+/// pipeline, and inside the key handler of the entry, where a refusal is told, the host could
+/// delete the entry under its feet.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
     if (chargeReturnStyle() == kReturnInMessageBox) {
-        const QPointer<USSDDlg> self(this); // the host may shut down while the box is open
-        PluginMessage::show(QMessageBox::Information, this, tr(QLatin1String("IDS_PROMPT_CAPTION")),
-                            text, QLatin1String("IDS_BUTTON_OK"));
-        if (!self)
-            return;
-    } else if (m_pActivateStatusTextEdit) {
-        m_pActivateStatusTextEdit->showText(text);
+        m_listBoxReplies << text;
+        enableDisableButton(COMPONENT_CHARGE, true);
+        QMetaObject::invokeMethod(this, "openReplyBox", Qt::QueuedConnection);
+        return;
     }
+    if (m_pActivateStatusTextEdit)
+        m_pActivateStatusTextEdit->showText(text);
     enableDisableButton(COMPONENT_CHARGE, false);
+    updateBalanceAfterCharge();
+}
+
+/// Until the user has closed the box of every reply.
+bool USSDDlg::isReplyBoxDue() const
+{
+    return !m_listBoxReplies.isEmpty();
+}
+
+/// A reply that comes while a box is open has its own box after that one.
+void USSDDlg::openReplyBox()
+{
+    if (m_pReplyBox || !isReplyBoxDue())
+        return;
+    m_pReplyBox = ReplyBox::create(this, m_listBoxReplies.first());
+    m_pReplyBox->installEventFilter(this);
+    m_pReplyBox->buttons().first()->installEventFilter(this);
+    connect(m_pReplyBox, SIGNAL(finished(int)), this, SLOT(OnReplyBoxFinished()));
+    m_pReplyBox->show();
+}
+
+void USSDDlg::OnReplyBoxFinished()
+{
+    if (!m_pReplyBox)
+        return;
+    m_pReplyBox->deleteLater();
+    m_pReplyBox = nullptr;
+    m_listBoxReplies.removeFirst();
+    if (isReplyBoxDue())
+        QMetaObject::invokeMethod(this, "openReplyBox", Qt::QueuedConnection);
+    else
+        enableDisableButton(COMPONENT_CHARGE, false);
+    updateBalanceAfterCharge();
+}
+
+void USSDDlg::dropReplyBoxes()
+{
+    m_listBoxReplies.clear();
+    delete m_pReplyBox;
+}
+
+void USSDDlg::updateBalanceAfterCharge()
+{
     if (isShown(COMPONENT_BALANCE))
         OnClickedBalanceUpdateButton();
 }
@@ -541,7 +609,7 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
 /// typed would do something else. The box that will show the answer keeps it meanwhile.
 void USSDDlg::parkFocus(_COMPONENT component)
 {
-    QWidget *focus = QApplication::focusWidget();
+    QWidget *focus = window()->focusWidget(); // also while a message box is active
     StatusBox *box = statusBoxOf(component);
     if (!focus || !box || !controlsOf(component).contains(focus))
         return;
@@ -553,7 +621,7 @@ void USSDDlg::returnFocus(_COMPONENT component)
 {
     QWidget *parked = m_hashParkFocus.take(component);
     const StatusBox *box = statusBoxOf(component);
-    if (parked && box && box->hasFocus())
+    if (parked && box && window()->focusWidget() == box)
         parked->setFocus(Qt::OtherFocusReason);
 }
 

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QList>
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 #include "ChargeRules.h"
@@ -18,6 +19,7 @@ class QFrame;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
+class QMessageBox;
 class QPushButton;
 class StatusBox;
 
@@ -61,6 +63,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
     void OnCloseButtonClicked();
@@ -69,6 +72,8 @@ private slots:
     void OnClickedMSISDNUpdateButton();
     void OnTextEdited(QString text);
     void OnResponseReceived(int component, QString text);
+    void openReplyBox();
+    void OnReplyBoxFinished();
 
 private:
     bool createWidgets();
@@ -115,6 +120,9 @@ private:
     void awaitAnswer(_COMPONENT component, bool isSent);
     void routeResponse(int component, const QString &text, bool isWaiting);
     void onChargeResponseReceived(const QString &text);
+    bool isReplyBoxDue() const;
+    void dropReplyBoxes();
+    void updateBalanceAfterCharge();
     void enableDisableButton(_COMPONENT component, bool disable);
     void parkFocus(_COMPONENT component);
     void returnFocus(_COMPONENT component);
@@ -133,6 +141,7 @@ private:
     PAID_TYPE m_paidType;
     WINDOW_MODEL m_windowModel;
     bool m_bBusy;
+    bool m_bReturnDown; // the key was pressed and is not seen released
     PrePostRecord m_prePostRecord;
     PrePostDiffer m_prePostDiffer;
     ChargeRules m_chargeRules;
@@ -142,6 +151,8 @@ private:
     QList<QFrame *> m_listFreeLines;               // separators that are not laid out yet
     QList<QWidget *> m_listTabOrder;               // as laid out
     QHash<int, QPointer<QWidget>> m_hashParkFocus; // component to the control that had the focus
+    QStringList m_listBoxReplies;      // that still have to be closed by the user, the open one too
+    QPointer<QMessageBox> m_pReplyBox; // the open one; a child
 
     QLabel *m_pBalanceLabel;
     StatusBox *m_pBalanceStatusTextEdit;

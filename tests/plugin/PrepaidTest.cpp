@@ -2,11 +2,11 @@
 
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include "Change.h"
 #include "fake_tksv.h"
 #include "Languages.h"
+#include "USSDService.h"
 
 namespace
 {
@@ -81,6 +81,18 @@ QByteArray PrepaidTest::msisdnItem(int pos)
     return item("MSISDN", pos, element("command", "*102#") + element("UpdateButton", "1"));
 }
 
+/// What the general window reads, and the rule by which event 579 closes windows.
+QByteArray PrepaidTest::sectionsForOthers()
+{
+    const QByteArray looks =
+        element("yHeight", "200") + element("yOffset", "2") + "<color red='0' green='0' blue='0'/>";
+    return element("send", looks) + element("recevie", looks) +
+           "<clearHistory visible='true' showConfirmDialog='true'/><cmdEdit visible='true'>"
+           "<readonlycolor red='1' green='2' blue='3'/><commoncolor red='4' green='5' blue='6'/>"
+           "<headcolor red='7' green='8' blue='9'/></cmdEdit>"
+           "<autoUSSD valid='true'><item imsi='00101' ussd='Prepaid/Postpaid'/></autoUSSD>";
+}
+
 void PrepaidTest::configure(const Account &prepaid, const Account &postpaid,
                             const QByteArray &pattern, const QByteArray &query)
 {
@@ -94,7 +106,7 @@ void PrepaidTest::configure(const Account &prepaid, const Account &postpaid,
         xml += element(sections[i],
                        orUnknown(accounts[i]->balance) + orUnknown(accounts[i]->charge) +
                            orUnknown(accounts[i]->online) + orUnknown(accounts[i]->msisdn));
-    writeConfig(xml + "</config>");
+    writeConfig(xml + sectionsForOthers() + "</config>");
 }
 
 // ---- the window ------------------------------------------------------------------------------
@@ -117,6 +129,18 @@ void PrepaidTest::open(PAID_TYPE type)
     drainEvents();
 }
 
+void PrepaidTest::openByService(PAID_TYPE type)
+{
+    QCOMPARE(CUSSDService::instance()->DoPrePostPaidModal(type), 1);
+    drainEvents();
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (USSDDlg *opened = qobject_cast<USSDDlg *>(widget))
+            m_dialog = opened;
+    }
+    QVERIFY(m_dialog);
+}
+
 void PrepaidTest::fitFrame()
 {
     m_frame->setFixedSize(m_dialog->GetSize() + QSize(0, FRAME_HEIGHT));
@@ -133,6 +157,25 @@ void PrepaidTest::click(QPushButton *button)
 void PrepaidTest::type(const QString &pin)
 {
     QTest::keyClicks(chargeEdit(), pin);
+}
+
+QWidget *PrepaidTest::keyTarget()
+{
+    QWidget *window = messageBox() ? messageBox() : m_dialog->window();
+    return window->focusWidget() ? window->focusWidget() : window;
+}
+
+void PrepaidTest::pressReturn(bool isRepetition)
+{
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                    isRepetition);
+    QApplication::sendEvent(keyTarget(), &press);
+}
+
+void PrepaidTest::releaseReturn()
+{
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QApplication::sendEvent(keyTarget(), &release);
 }
 
 void PrepaidTest::topUp(const QString &pin)
@@ -152,21 +195,31 @@ void PrepaidTest::networkSays(const QString &text)
 QString PrepaidTest::networkSaysIntoBox(const QString &text,
                                         const std::function<void(QMessageBox *)> &look)
 {
-    QString shown;
-    fakeSdkRespond(text.toStdU16String());
-    if (!fakeSdkWaitIdle())
-        qFatal("the answer was not delivered");
-    QTimer::singleShot(0, this, [&shown, &look] {
-        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        shown = textOf(box);
-        if (look)
-            look(box);
-        QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
-    });
-    drainEvents();
+    networkSays(text);
+    if (!messageBox())
+        return QString();
+    const QString shown = textOf(messageBox());
+    if (look)
+        look(messageBox());
+    closeMessageBox();
     return shown;
+}
+
+QMessageBox *PrepaidTest::messageBox()
+{
+    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+}
+
+QString PrepaidTest::textInMessageBox()
+{
+    return messageBox() ? textOf(messageBox()) : QString();
+}
+
+void PrepaidTest::closeMessageBox()
+{
+    QVERIFY(messageBox());
+    QTest::mouseClick(messageBox()->buttons().first(), Qt::LeftButton);
+    drainEvents();
 }
 
 void PrepaidTest::logicSays(int component, const QString &text)

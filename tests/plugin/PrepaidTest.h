@@ -52,6 +52,8 @@ protected:
     void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
     /// The same, opened.
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
+    /// As a host does it, in a frame of the service.
+    void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
     void fitFrame(); ///< to what the dialog wants now
     USSDDlg *dialog() { return m_dialog; }
     USSDExtendDialog *frame() { return m_frame.data(); }
@@ -77,13 +79,19 @@ protected:
     static void click(QPushButton *button);
     void type(const QString &pin);  ///< into the entry, key by key
     void topUp(const QString &pin); ///< types it and presses the button
+    QWidget *keyTarget();           ///< what has the focus, in the message box when one is open
+    void pressReturn(bool isRepetition = false); ///< and keeps it down
+    void releaseReturn();
 
     // ---- what the network does
     void networkSays(const QString &text);
-    /// The same where a message box comes up: lets `look` see it, presses its button, and
-    /// gives the text it showed; null when there was no box.
+    /// The same where a message box comes up: lets `look` see it, presses its button, and gives the
+    /// text it showed; null when there was no box.
     QString networkSaysIntoBox(const QString &text,
                                const std::function<void(QMessageBox *)> &look = nullptr);
+    static QMessageBox *messageBox(); ///< the one that is open; null when there is none
+    static QString textInMessageBox();
+    static void closeMessageBox();                      ///< by its button
     void logicSays(int component, const QString &text); ///< at once, whatever was sent
     static QStringList requests();                      ///< the texts of all requests so far
 
@@ -97,6 +105,8 @@ private:
         qFatal("the dialog has no %s", role);
         return nullptr;
     }
+
+    static QByteArray sectionsForOthers();
 
     QScopedPointer<USSDExtendDialog> m_frame;
     QPointer<USSDDlg> m_dialog;

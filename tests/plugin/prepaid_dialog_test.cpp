@@ -3,7 +3,6 @@
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTimer>
 
 #include "fake_tksv.h"
 #include "Languages.h"
@@ -49,6 +48,7 @@ private slots:
     void twelveCharactersActivateWithLength16AndMinlenth12();
     void eightCharactersActivateWithLength8AndMinlenth12();
     void shorterAgainDisablesActivation();
+    void onlyTheUsersOwnEditsChangeActivation();
     void noMoreThanLengthCanBeTyped();
     void onlyTheLimitTextCanBeTyped();
     void limitTextTellsCapitals();
@@ -70,6 +70,7 @@ private slots:
     void openingAsTheOtherTypeShowsThatOne();
 
     // busy
+    void everyBoxSaysFailedAtFirst();
     void answersBeforeAnyCommandAreDropped();
     void answersGoOnAfterTheFirstOne();
     void closingEndsIt();
@@ -108,6 +109,12 @@ private slots:
     void returnKeyWhileWaitingDoesNothing();
     void returnKeyElsewhereSendsNothing();
     void secondTopUpSendsTheNewPin();
+    void heldReturnTopsUpOnce_data();
+    void heldReturnTopsUpOnce();
+    void heldReturnAfterARefusalTriesOnce();
+    void heldReturnWithoutItsReleasesTopsUpOnce();
+    void heldReturnBehindAWaitingBalanceTopsUpOnce();
+    void returnPressedAnewTopsUpAgain();
 
     // focus
     void focusWaitsInTheStatusBoxAndComesBack();
@@ -187,6 +194,19 @@ void PrepaidDialogTest::shorterAgainDisablesActivation()
     type(pin());
     QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
     QVERIFY(!activateButton()->isEnabled());
+}
+
+void PrepaidDialogTest::onlyTheUsersOwnEditsChangeActivation()
+{
+    configure(Account());
+    open();
+    chargeEdit()->setText(pin()); // as a host's helper for screens without keys could
+    QVERIFY(!activateButton()->isEnabled());
+    QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
+    type(QStringLiteral("2"));
+    QVERIFY(activateButton()->isEnabled());
+    chargeEdit()->clear();
+    QVERIFY(activateButton()->isEnabled());
 }
 
 void PrepaidDialogTest::noMoreThanLengthCanBeTyped()
@@ -372,6 +392,14 @@ void PrepaidDialogTest::openingAsTheOtherTypeShowsThatOne()
 }
 
 // ---- busy ------------------------------------------------------------------------------------
+
+void PrepaidDialogTest::everyBoxSaysFailedAtFirst()
+{
+    configure(Account());
+    make();
+    for (QTextEdit *box : {balanceBox(), activateBox(), msisdnBox()})
+        QCOMPARE(box->toPlainText(), text("USSD_CODE_FAILED"));
+}
 
 void PrepaidDialogTest::answersBeforeAnyCommandAreDropped()
 {
@@ -756,6 +784,84 @@ void PrepaidDialogTest::secondTopUpSendsTheNewPin()
                              << QStringLiteral("*101*1111#") << QStringLiteral("*101*2222#"));
 }
 
+void PrepaidDialogTest::heldReturnTopsUpOnce_data()
+{
+    QTest::addColumn<bool>("onTheButton");
+    QTest::newRow("in the entry") << false;
+    QTest::newRow("on the button") << true;
+}
+
+void PrepaidDialogTest::heldReturnTopsUpOnce()
+{
+    QFETCH(bool, onTheButton);
+    configure(only(chargeItem(0)));
+    open();
+    type(pin());
+    if (onTheButton)
+        activateButton()->setFocus();
+    pressReturn();
+    pressReturn(true);
+    networkSays(QStringLiteral("10 EUR added"));
+    for (int i = 0; i < 3; ++i)
+        pressReturn(true);
+    QCOMPARE(requests().count(), 1);
+}
+
+void PrepaidDialogTest::heldReturnAfterARefusalTriesOnce()
+{
+    refuseAll(1);
+    configure(Account());
+    open();
+    type(pin());
+    pressReturn();
+    for (int i = 0; i < 6; ++i) {
+        pressReturn(true);
+        drainEvents();
+    }
+    QCOMPARE(requests().filter(pin()).count(), 1);
+}
+
+/// As some remote desktops have it.
+void PrepaidDialogTest::heldReturnWithoutItsReleasesTopsUpOnce()
+{
+    refuseAll(1);
+    configure(only(chargeItem(0)));
+    open();
+    type(pin());
+    for (int i = 0; i < 7; ++i)
+        pressReturn(false);
+    QCOMPARE(requests().count(), 1);
+}
+
+void PrepaidDialogTest::heldReturnBehindAWaitingBalanceTopsUpOnce()
+{
+    Account account = only(chargeItem(0));
+    account.balance = balanceItem(1);
+    configure(account);
+    open();
+    networkSays(QStringLiteral("5 EUR"));
+    type(pin());
+    pressReturn();
+    networkSays(QStringLiteral("10 EUR added"));
+    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
+    for (int i = 0; i < 3; ++i)
+        pressReturn(true);
+    networkSays(QStringLiteral("15 EUR"));
+    QCOMPARE(requests().filter(pin()).count(), 1);
+}
+
+void PrepaidDialogTest::returnPressedAnewTopsUpAgain()
+{
+    configure(only(chargeItem(0)));
+    open();
+    type(pin());
+    pressReturn();
+    releaseReturn();
+    networkSays(QStringLiteral("try again"));
+    pressReturn();
+    QCOMPARE(requests().count(), 2);
+}
+
 // ---- focus -----------------------------------------------------------------------------------
 
 void PrepaidDialogTest::focusWaitsInTheStatusBoxAndComesBack()
@@ -868,16 +974,12 @@ void PrepaidDialogTest::dialogDestroyedBehindItsMessageBoxCostsNothing()
     networkSays(QStringLiteral("5 EUR"));
     networkSays(QStringLiteral("0170"));
     topUp(pin());
-    bool wasOpen = false;
-    fakeSdkRespond(u"10 EUR added");
-    QVERIFY(fakeSdkWaitIdle());
-    QTimer::singleShot(0, this, [this, &wasOpen] {
-        wasOpen = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()) != nullptr;
-        delete dialog();
-        USSDLogic::Destroy();
-    });
+    networkSays(QStringLiteral("10 EUR added"));
+    QVERIFY(messageBox());
+    delete dialog();
+    USSDLogic::Destroy();
     drainEvents();
-    QVERIFY(wasOpen);
+    QVERIFY(!messageBox());
     QVERIFY(!dialog());
     QCOMPARE(requests().last(), QStringLiteral("*101*123456789012#"));
 }

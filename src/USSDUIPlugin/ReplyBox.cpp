@@ -1,0 +1,92 @@
+#include "ReplyBox.h"
+
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+
+#include "HeavyText.h"
+#include "PluginText.h"
+
+namespace
+{
+
+// What a label shows well; no network sends more.
+const int kLabelCharacters = 600;
+const int kLabelLines = 12;
+const int kLabelWord = 50;
+
+const int kViewWidth = 420; // pixels
+const int kViewHeight = 220;
+
+int longestWord(const QString &text)
+{
+    int longest = 0;
+    int length = 0;
+    for (int i = 0; i < text.length(); ++i) {
+        length = text.at(i).isSpace() ? 0 : length + 1;
+        longest = qMax(longest, length);
+    }
+    return longest;
+}
+
+bool fitsLabel(const QString &text)
+{
+    return text.length() <= kLabelCharacters && text.count(QLatin1Char('\n')) < kLabelLines &&
+           longestWord(text) <= kLabelWord;
+}
+
+QPlainTextEdit *createView(QWidget *parent, const QString &text)
+{
+    QPlainTextEdit *view = new QPlainTextEdit(parent);
+    view->setReadOnly(true);
+    view->setTabChangesFocus(true);
+    view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    view->setFixedSize(kViewWidth, kViewHeight);
+    view->setPlainText(
+        HeavyText::isHeavy(text) ? HeavyText::pieces(text).join(QString(QLatin1Char('\n'))) : text);
+    return view;
+}
+
+/// In the place of the label, whose width grows with the longest word.
+void showInView(QMessageBox *box, const QString &text)
+{
+    QGridLayout *grid = qobject_cast<QGridLayout *>(box->layout());
+    QLabel *label = box->findChild<QLabel *>(QLatin1String("qt_msgbox_label"));
+    if (!grid || !label) {
+        box->setText(text.left(kLabelCharacters));
+        return;
+    }
+    int row = 0, column = 0, rows = 0, columns = 0;
+    grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+    label->hide();
+    grid->addWidget(createView(box, text), row, column, rows, columns);
+}
+
+} // namespace
+
+namespace ReplyBox
+{
+
+QMessageBox *create(QWidget *parent, const QString &reply)
+{
+    QMessageBox *box = new QMessageBox(parent);
+    box->setIcon(QMessageBox::Information);
+    box->setTextFormat(Qt::PlainText);
+    box->addButton(QString(), QMessageBox::YesRole);
+    retranslate(box);
+    if (fitsLabel(reply))
+        box->setText(reply);
+    else
+        showInView(box, reply);
+    box->setWindowModality(Qt::ApplicationModal);
+    return box;
+}
+
+void retranslate(QMessageBox *box)
+{
+    box->setWindowTitle(pluginText(QLatin1String("IDS_PROMPT_CAPTION")));
+    box->buttons().first()->setText(pluginText(QLatin1String("IDS_BUTTON_OK")));
+}
+
+} // namespace ReplyBox
