@@ -58,17 +58,6 @@ void closeIfExists(const QPointer<Widget> &widget)
         widget->close();
 }
 
-/// Deletes the dialog at once and the frame, in whose close event this may run, afterwards.
-template <typename Dialog>
-void dropFramed(QPointer<Dialog> &dialog, QPointer<USSDExtendDialog> &frame)
-{
-    delete dialog;
-    dialog = nullptr;
-    if (frame)
-        frame->deleteLater();
-    frame = nullptr;
-}
-
 } // namespace
 
 CUSSDService *CUSSDService::m_pInstance = nullptr;
@@ -415,10 +404,26 @@ void CUSSDService::FitSize(QRect &rect)
 void CUSSDService::OnClickedCloseButton()
 {
     USSD_LOG_SCOPE();
-    dropFramed(m_pPrepaidDlg, m_pPrepaidFrame);
-    dropFramed(m_pPostpaidDlg, m_pPostpaidFrame);
-    dropFramed(m_pGeneralModalDlg, m_pGeneralFrame);
-    dropFramed(m_pUSSDSMSDlg, m_pUSSDSMSFrame);
+    delete m_pPrepaidDlg;
+    dropFrame(m_pPrepaidFrame);
+    delete m_pPostpaidDlg;
+    dropFrame(m_pPostpaidFrame);
+    delete m_pGeneralModalDlg;
+    dropFrame(m_pGeneralFrame);
+    delete m_pUSSDSMSDlg;
+    dropFrame(m_pUSSDSMSFrame);
+}
+
+/// Not at once: this may run in the frame's close event. A host that shuts down in the same turn of
+/// the event loop may unload the library before the deletion, so the frame is remembered.
+void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
+{
+    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // those that are gone
+    if (!frame)
+        return;
+    frame->deleteLater();
+    m_listDroppedFrames << frame;
+    frame = nullptr;
 }
 
 void CUSSDService::OnDlgCloseEvent()
@@ -468,5 +473,7 @@ void CUSSDService::destroyUSSD()
     delete m_pPostpaidFrame;
     delete m_pGeneralFrame;
     delete m_pUSSDSMSFrame;
+    qDeleteAll(m_listDroppedFrames);
+    m_listDroppedFrames.clear();
     USSDLogic::Destroy();
 }

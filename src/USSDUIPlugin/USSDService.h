@@ -1,6 +1,7 @@
 #ifndef USSDSERVICE_H
 #define USSDSERVICE_H
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 
@@ -73,6 +74,7 @@ private:
     void setPropShowDialog(USSDExtendDialog *frame, USSDDlg *dialog, PAID_TYPE type);
     void SetUSSDSMSSDlg(USSDExtendDialog *frame, CUSSDSMSDlg *dialog);
     void changeLanguage();
+    void dropFrame(QPointer<USSDExtendDialog> &frame);
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 
     PAID_TYPE m_modalPaidType; // what the last doModal() opened
@@ -86,6 +88,7 @@ private:
     QPointer<USSDExtendDialog> m_pGeneralFrame;
     QPointer<USSDExtendDialog> m_pUSSDSMSFrame;
     QPointer<CUSSDSMSDlg> m_pUSSDSMSDlg;
+    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // that wait for their deletion
 
     static CUSSDService *m_pInstance;
 };

@@ -1,13 +1,22 @@
 /*
  * Every order in which a host may take the loaded plug-in down, in every state that it can be in:
- * sequences of up to five calls, with repeats, while the device SDK calls back.
+ * sequences of up to five calls, with repeats, while the device SDK calls back. After each one the
+ * library is unloaded, really and in the same turn of the event loop: whatever it left behind then
+ * has no code.
  */
 #include "UssdTest.h"
 
+#include <dlfcn.h>
+
+#include <QCloseEvent>
+#include <QDialog>
 #include <QLibrary>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRect>
+#include <QWindow>
 
 #include <functional>
 
@@ -22,6 +31,7 @@ namespace
 
 const char kCalls[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
 const int kLongest = 5;
+const int kEachOnce = 3; // enough where the way there takes long
 
 enum State {
     NothingShown,
@@ -32,9 +42,23 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
+    ModalClosed, // by the user, in the same turn of the event loop
+    PrepaidClosed,
+    PostpaidClosed,
+    SmsClosed,
+    ReplyBoxOpen,
     EditorOpen,
     MessageOpen
 };
+
+/// Whether the library is in the process's memory, whoever holds it.
+bool isMapped()
+{
+    void *handle = dlopen(USSD_PLUGIN_FILE, RTLD_LAZY | RTLD_NOLOAD);
+    if (handle)
+        dlclose(handle);
+    return handle != nullptr;
+}
 
 } // namespace
 
@@ -55,17 +79,27 @@ private:
     void send(const QString &command);
     void reach(State state, const std::function<void()> &whileItIsSo);
     void insideLoopOf(const char *button, const std::function<void()> &whileItIsSo);
+    void openModal(int type);
+    void topUpIntoBox();
     void callBack();
     void run(const QString &calls);
-    void finish();
+    void load();
+    void unload();
+    void finish(const QString &calls);
 
     QLibrary m_library;
     QScopedPointer<QWidget> m_window;
     QRect m_rect;
+    std::function<void()> m_closing; // done when the frame closes
+
+protected slots:
+    void onClosing(); ///< does so
 
 private slots:
     void everyOrderInState_data();
     void everyOrderInState();
+    void insideTheCloseEventOfAFrame_data();
+    void insideTheCloseEventOfAFrame();
 };
 
 void ShutdownTest::setUp()
@@ -74,8 +108,7 @@ void ShutdownTest::setUp()
     qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
     fakeSdkReset();
     fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
-    m_library.setFileName(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
-    QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
+    load();
     m_rect = QRect(0, 0, 600, 520);
     m_window.reset(new QWidget);
     m_window->show();
@@ -87,6 +120,20 @@ void ShutdownTest::tearDown()
     HostState::setMainWindow(nullptr);
     m_window.reset();
     fakeSdkReset();
+    unload();
+}
+
+void ShutdownTest::load()
+{
+    m_library.setFileName(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
+    QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
+}
+
+void ShutdownTest::unload()
+{
+    QVERIFY(isMapped());
+    QVERIFY2(m_library.unload(), qPrintable(m_library.errorString()));
+    QVERIFY(!isMapped());
 }
 
 QObject *ShutdownTest::instance()
@@ -129,18 +176,49 @@ void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> 
     QVERIFY(wasOpen);
 }
 
+void ShutdownTest::openModal(int type)
+{
+    QCOMPARE(callDoPrePostPaidModal(ussd(), type), 1);
+}
+
+/// The reply to a top-up comes in a message box, as in the configuration that ships.
+void ShutdownTest::topUpIntoBox()
+{
+    const QString prefix = QLatin1String("USSDUIPlugin_Charge");
+    m_window->findChild<QLineEdit *>(prefix + QLatin1String("Edit"))->setText(QLatin1String("1"));
+    QPushButton *button =
+        m_window->findChild<QPushButton *>(prefix + QLatin1String("ActivateButton"));
+    button->setEnabled(true);
+    button->click();
+    for (int commands = 3; commands > 0; --commands) { // after balance and number
+        fakeSdkRespond(u"reply");
+        QVERIFY(fakeSdkWaitIdle());
+        drainEvents();
+    }
+    drainEvents();
+    QVERIFY(qobject_cast<QMessageBox *>(QApplication::activeModalWidget()));
+}
+
 void ShutdownTest::reach(State state, const std::function<void()> &whileItIsSo)
 {
+    static const int types[] = {3, 0, 1, 5};
     const bool isModal = state >= ModalOpen && state <= SmsOpen;
-    if (state != NothingShown && !isModal)
+    const bool isClosed = state >= ModalClosed && state <= SmsClosed;
+    if (state != NothingShown && !isModal && !isClosed && state != ReplyBoxOpen)
         callShowWindow(plugin(), m_window.data(), m_rect);
     if (state == CommandInFlight || state == MessageOpen)
         send(QStringLiteral("*1#"));
     for (int i = 0; state == QueueFull && i < 5; ++i)
         send(QStringLiteral("*%1#").arg(i));
-    if (isModal) {
-        static const int types[] = {3, 0, 1, 5};
-        QCOMPARE(callDoPrePostPaidModal(ussd(), types[state - ModalOpen]), 1);
+    if (isModal)
+        openModal(types[state - ModalOpen]);
+    if (isClosed) {
+        openModal(types[state - ModalClosed]);
+        m_window->findChild<QDialog *>()->close();
+    }
+    if (state == ReplyBoxOpen) {
+        openModal(0);
+        topUpIntoBox();
     }
     if (state == EditorOpen)
         insideLoopOf("EditButton", whileItIsSo);
@@ -170,38 +248,56 @@ void ShutdownTest::run(const QString &calls)
     }
 }
 
-/// Leaves nothing behind, and no call-back registered.
-void ShutdownTest::finish()
+/// Leaves nothing behind, no call-back registered, and no code in memory.
+void ShutdownTest::finish(const QString &calls)
 {
-    run(QStringLiteral("uod"));
-    drainEvents();
-    QVERIFY(m_window->findChildren<QWidget *>().isEmpty());
-    QVERIFY(!QApplication::activeModalWidget());
+    if (!calls.endsWith(QLatin1String("uod")))
+        run(QStringLiteral("uod"));
     QCOMPARE(fakeSdkRegistered(FakeService::Ussd), size_t(0));
     QCOMPARE(fakeSdkRegistered(FakeService::Device), size_t(0));
     QCOMPARE(fakeSdkRegistered(FakeService::Sms), size_t(0));
+    unload();
+    drainEvents();
+    QVERIFY(m_window->findChildren<QWidget *>().isEmpty());
+    QVERIFY(!QApplication::activeModalWidget());
+    load();
+}
+
+void ShutdownTest::onClosing()
+{
+    const std::function<void()> act = m_closing;
+    m_closing = nullptr;
+    if (act)
+        act();
 }
 
 void ShutdownTest::everyOrderInState_data()
 {
     QTest::addColumn<int>("state");
-    QTest::newRow("nothing shown") << int(NothingShown);
-    QTest::newRow("command in flight") << int(CommandInFlight);
-    QTest::newRow("queue full") << int(QueueFull);
-    QTest::newRow("embedded window open") << int(EmbeddedOpen);
-    QTest::newRow("modal window open") << int(ModalOpen);
-    QTest::newRow("prepaid window open") << int(PrepaidOpen);
-    QTest::newRow("postpaid window open") << int(PostpaidOpen);
-    QTest::newRow("services window open") << int(SmsOpen);
-    QTest::newRow("editor open") << int(EditorOpen);
-    QTest::newRow("message open") << int(MessageOpen);
+    QTest::addColumn<int>("longest");
+    QTest::newRow("nothing shown") << int(NothingShown) << kLongest;
+    QTest::newRow("command in flight") << int(CommandInFlight) << kLongest;
+    QTest::newRow("queue full") << int(QueueFull) << kLongest;
+    QTest::newRow("embedded window open") << int(EmbeddedOpen) << kLongest;
+    QTest::newRow("modal window open") << int(ModalOpen) << kLongest;
+    QTest::newRow("prepaid window open") << int(PrepaidOpen) << kLongest;
+    QTest::newRow("postpaid window open") << int(PostpaidOpen) << kLongest;
+    QTest::newRow("services window open") << int(SmsOpen) << kLongest;
+    QTest::newRow("modal window just closed") << int(ModalClosed) << kLongest;
+    QTest::newRow("prepaid window just closed") << int(PrepaidClosed) << kEachOnce;
+    QTest::newRow("postpaid window just closed") << int(PostpaidClosed) << kEachOnce;
+    QTest::newRow("services window just closed") << int(SmsClosed) << kEachOnce;
+    QTest::newRow("reply to a top-up open") << int(ReplyBoxOpen) << kEachOnce;
+    QTest::newRow("editor open") << int(EditorOpen) << kLongest;
+    QTest::newRow("message open") << int(MessageOpen) << kLongest;
 }
 
 void ShutdownTest::everyOrderInState()
 {
     QFETCH(int, state);
+    QFETCH(int, longest);
     allowWarning("../../src/USSDUIPlugin/");
-    for (int length = 1, combinations = 3; length <= kLongest; ++length, combinations *= 3) {
+    for (int length = 1, combinations = 3; length <= longest; ++length, combinations *= 3) {
         for (int c = 0; c < combinations; ++c) {
             QString calls;
             for (int i = 0, rest = c; i < length; ++i, rest /= 3)
@@ -212,7 +308,7 @@ void ShutdownTest::everyOrderInState()
                 if (!calls.contains(QLatin1Char('o')) && !calls.contains(QLatin1Char('d')))
                     run(QStringLiteral("o")); // or the window's loop would go on
             });
-            finish();
+            finish(calls);
             if (QTest::currentTestFailed()) {
                 qCritical("in the order %s", qPrintable(calls));
                 return;
@@ -220,6 +316,37 @@ void ShutdownTest::everyOrderInState()
             clearLog();
         }
     }
+}
+
+void ShutdownTest::insideTheCloseEventOfAFrame_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("byWindowSystem");
+    for (int type : {3, 0, 1, 5}) {
+        QTest::addRow("%d, close()", type) << type << false;
+        QTest::addRow("%d, window system", type) << type << true;
+    }
+}
+
+/// A host that sees a frame close and takes everything down at once; it cannot unload there.
+void ShutdownTest::insideTheCloseEventOfAFrame()
+{
+    QFETCH(int, type);
+    QFETCH(bool, byWindowSystem);
+    allowWarning("../../src/USSDUIPlugin/");
+    openModal(type);
+    QPointer<QDialog> frame(m_window->findChild<QDialog *>());
+    m_closing = [this] { run(QStringLiteral("uod")); };
+    connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(onClosing()));
+    if (byWindowSystem) {
+        QCloseEvent event;
+        QCoreApplication::sendEvent(frame->windowHandle(), &event);
+    } else {
+        frame->close();
+    }
+    QVERIFY(!m_closing); // it was called
+    QVERIFY(!frame);
+    finish(QStringLiteral("uod"));
 }
 
 USSD_TEST_MAIN(ShutdownTest)
