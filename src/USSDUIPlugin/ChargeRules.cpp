@@ -1,5 +1,9 @@
 #include "ChargeRules.h"
 
+#include <QRegExp>
+
+#include "SmsLayout.h"
+
 int longestCharge(const ChargeRules &rules)
 {
     return qMax(rules.length, 0);
@@ -13,5 +17,11 @@ bool isChargeLongEnough(const ChargeRules &rules, int characters)
 QString chargeExpression(const ChargeRules &rules)
 {
     return QLatin1Char('[') + rules.limitText + QLatin1String("]{0,") +
-           QString::number(rules.length) + QLatin1Char('}');
+           QString::number(qMin(rules.length, SmsLayoutFile::kMaxInputLength)) + QLatin1Char('}');
+}
+
+bool isChargeExpressionUsable(const ChargeRules &rules)
+{
+    return SmsLayoutFile::isCharacterClass(rules.limitText) &&
+           QRegExp(chargeExpression(rules)).isValid();
 }

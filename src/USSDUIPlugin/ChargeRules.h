@@ -17,7 +17,12 @@ int longestCharge(const ChargeRules &rules);
 /// nothing: the maximum is then the minimum too.
 bool isChargeLongEnough(const ChargeRules &rules, int characters);
 
-/// The regular expression that an entry has to match. A limit text or a length can break it.
+/// The regular expression that an entry has to match, made of its pieces as they are; a length that
+/// QRegExp cannot count is cut. Not every one may be used, see below.
 QString chargeExpression(const ChargeRules &rules);
+
+/// Whether the expression counts characters of one class: a limit text that closes the class could
+/// make QRegExp use up all time and memory. The rule is that of the services' layout.
+bool isChargeExpressionUsable(const ChargeRules &rules);
 
 #endif

@@ -230,21 +230,20 @@ void USSDDlg::initChargeComponent()
     limitChargeEdit();
 }
 
-/// An expression that is broken would refuse every character; the entry then takes all of them.
+/// Without an expression that can be used the entry takes all characters.
 void USSDDlg::limitChargeEdit()
 {
     delete m_pChargeEdit->validator();
     const QString pattern = chargeExpression(m_chargeRules);
     USSD_LOG(" limittext = %s", m_chargeRules.limitText.toLocal8Bit().constData());
     USSD_LOG(" string validator = %s", pattern.toLocal8Bit().constData());
-    const QRegExp expression(pattern, Qt::CaseSensitive);
-    if (expression.isValid())
-        m_pChargeEdit->setValidator(new QRegExpValidator(expression, m_pChargeEdit));
+    if (isChargeExpressionUsable(m_chargeRules))
+        m_pChargeEdit->setValidator(
+            new QRegExpValidator(QRegExp(pattern, Qt::CaseSensitive), m_pChargeEdit));
     else
-        USSD_LOG_IMPORTANT(" Charge: LimitText or length make no expression: %s (%s); "
-                           "any character can be entered",
-                           pattern.toLocal8Bit().constData(),
-                           expression.errorString().toLocal8Bit().constData());
+        USSD_LOG_IMPORTANT(" Charge: LimitText or length make no expression: %s; any character can "
+                           "be entered",
+                           pattern.toLocal8Bit().constData());
 }
 
 void USSDDlg::initOnlineChargeComponent()

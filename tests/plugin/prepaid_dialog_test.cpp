@@ -53,6 +53,8 @@ private slots:
     void onlyTheLimitTextCanBeTyped();
     void limitTextTellsCapitals();
     void brokenLimitTextIsLoggedAndLetsEverythingIn();
+    void hostileLimitTextIsLoggedAndLetsEverythingIn();
+    void enormousLengthStillLimitsTheCharacters();
     void zeroLengthIsLogged();
     void piecesOfTheExpressionAreLogged();
 
@@ -242,6 +244,23 @@ void PrepaidDialogTest::brokenLimitTextIsLoggedAndLetsEverythingIn()
     type(QStringLiteral("1a*"));
     QCOMPARE(chargeEdit()->text(), QStringLiteral("1a*"));
     QVERIFY(activateButton()->isEnabled());
+}
+
+void PrepaidDialogTest::hostileLimitTextIsLoggedAndLetsEverythingIn()
+{
+    expectWarning("LimitText or length make no expression: [a]|((a{1000}){1000}){1000}|[b]{0,16}");
+    configureCharge(chargeItem(1, 0, 16, 2, "a]|((a{1000}){1000}){1000}|[b"));
+    open();
+    type(QStringLiteral("1a*"));
+    QCOMPARE(chargeEdit()->text(), QStringLiteral("1a*"));
+}
+
+void PrepaidDialogTest::enormousLengthStillLimitsTheCharacters()
+{
+    configureCharge(chargeItem(1, 0, 2147483647, 2));
+    open();
+    type(QStringLiteral("1a*2"));
+    QCOMPARE(chargeEdit()->text(), QStringLiteral("12"));
 }
 
 void PrepaidDialogTest::zeroLengthIsLogged()

@@ -32,6 +32,10 @@ private slots:
     void chargeExpressionIsMadeOfItsPieces();
     void chargeExpressionCanBeBroken_data();
     void chargeExpressionCanBeBroken();
+    void onlyACountedClassIsUsable_data();
+    void onlyACountedClassIsUsable();
+    void hostileLimitTextIsRefusedAtOnce();
+    void enormousLengthIsCutToWhatCanBeCounted();
 
     void addressGetsASchemeUnlessItHasOne_data();
     void addressGetsASchemeUnlessItHasOne();
@@ -90,6 +94,46 @@ void PrepaidRulesTest::chargeExpressionCanBeBroken()
     QFETCH(QByteArray, limitText);
     QFETCH(int, length);
     QVERIFY(!QRegExp(chargeExpression(rules(length, 0, limitText.constData()))).isValid());
+}
+
+void PrepaidRulesTest::onlyACountedClassIsUsable_data()
+{
+    QTest::addColumn<QByteArray>("limitText");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<bool>("usable");
+    QTest::newRow("digits") << QByteArray("0-9") << 16 << true;
+    QTest::newRow("bracket in the first place") << QByteArray("]0-9") << 16 << true;
+    QTest::newRow("nothing but") << QByteArray("^0-9") << 16 << true;
+    QTest::newRow("no length") << QByteArray("0-9") << 0 << true;
+    QTest::newRow("negative length") << QByteArray("0-9") << -1 << false;
+    QTest::newRow("empty") << QByteArray() << 16 << false;
+    QTest::newRow("half an escape") << QByteArray("0-9\\") << 16 << false;
+    // An expression, but not of one class.
+    QTest::newRow("two classes") << QByteArray("0-9]|[a-z") << 16 << false;
+    QTest::newRow("back reference") << QByteArray("a](b*)*\\1[c") << 16 << false;
+    QTest::newRow("very long") << QByteArray(1001, '7') << 16 << false;
+}
+
+void PrepaidRulesTest::onlyACountedClassIsUsable()
+{
+    QFETCH(QByteArray, limitText);
+    QFETCH(int, length);
+    QTEST(isChargeExpressionUsable(rules(length, 0, limitText.constData())), "usable");
+}
+
+/// It would be multiplied out to a thousand million letters.
+void PrepaidRulesTest::hostileLimitTextIsRefusedAtOnce()
+{
+    QVERIFY(!isChargeExpressionUsable(rules(16, 12, "a]|((a{1000}){1000}){1000}|[b")));
+}
+
+void PrepaidRulesTest::enormousLengthIsCutToWhatCanBeCounted()
+{
+    for (int length : {1025, 100000, 2147483647}) {
+        QCOMPARE(chargeExpression(rules(length, 12)), QStringLiteral("[0-9]{0,1024}"));
+        QVERIFY(isChargeExpressionUsable(rules(length, 12)));
+    }
+    QCOMPARE(chargeExpression(rules(1024, 12)), QStringLiteral("[0-9]{0,1024}"));
 }
 
 void PrepaidRulesTest::addressGetsASchemeUnlessItHasOne_data()
