@@ -260,6 +260,7 @@ void ShutdownTest::finish(const QString &calls)
     drainEvents();
     QVERIFY(m_window->findChildren<QWidget *>().isEmpty());
     QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(fakeSdkWaitIdle()); // or a late event would meet the next state
     load();
 }
 
