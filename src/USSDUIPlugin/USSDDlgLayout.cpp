@@ -83,7 +83,8 @@ void USSDDlg::findPosAndAddElements(int &row)
     setRowHeights(places.values());
     bool isFirst = true;
     for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
-        USSD_LOG(" position = %d component=%d", it.key(), it.value());
+        // Without time, source and function, as readers of logs know it.
+        USSD_IF_LOGGING(qDebug("position = %d component=%d", it.key(), it.value()));
         addComponentElements(it.value(), row, isFirst);
     }
     addCloseButton(row);

@@ -6,6 +6,7 @@
 #include "HostState.h"
 #include "INotifyService.h"
 #include "IPluginContainer.h"
+#include "USSDService.h"
 
 namespace
 {
@@ -87,9 +88,12 @@ private slots:
     void emptyReplyIsNoFailureText();
     void otherPatternHasToBeTheReply_data();
     void otherPatternHasToBeTheReply();
+    void blanksOfThePatternCount();
     void timeOutIsToldWithoutAVerdict();
 
     void hostIsToldTwiceByItsTwoNames();
+    void eachWindowTellsTheHostInTheOrderOfTheirMaking_data();
+    void eachWindowTellsTheHostInTheOrderOfTheirMaking();
     void questionIsReleasedBeforeItIsSent();
     void questionThatCannotBeSentIsKept();
     void questionWithoutACommandSendsNothing();
@@ -180,6 +184,9 @@ void PrepaidDetectionTest::otherPatternHasToBeTheReply_data()
     QTest::addColumn<bool>("isPostpaid");
     QTest::newRow("equal") << QStringLiteral("PREPAID") << false;
     QTest::newRow("within") << QStringLiteral("PREPAID 5") << true;
+    QTest::newRow("blank before") << QStringLiteral(" PREPAID") << true;
+    QTest::newRow("blank behind") << QStringLiteral("PREPAID ") << true;
+    QTest::newRow("line behind") << QStringLiteral("PREPAID\n") << true;
 }
 
 void PrepaidDetectionTest::otherPatternHasToBeTheReply()
@@ -189,6 +196,17 @@ void PrepaidDetectionTest::otherPatternHasToBeTheReply()
     ask();
     networkSays(reply);
     QTEST(told().bPostPaid, "isPostpaid");
+}
+
+void PrepaidDetectionTest::blanksOfThePatternCount()
+{
+    configure(Account(), Account(), " PREPAID ");
+    ask();
+    networkSays(QStringLiteral("PREPAID"));
+    QVERIFY(told().bPostPaid);
+    ask();
+    networkSays(QStringLiteral(" PREPAID "));
+    QVERIFY(!told().bPostPaid);
 }
 
 void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
@@ -214,6 +232,34 @@ void PrepaidDetectionTest::hostIsToldTwiceByItsTwoNames()
         QCOMPARE(m_notifications->calls.at(i).addressee, QLatin1String(ADDRESSEES[i]));
         QCOMPARE(m_notifications->calls.at(i).message, 384u);
         QCOMPARE(m_notifications->calls.at(i).lParam, NotifyParam(0));
+    }
+}
+
+void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
+{
+    QTest::addColumn<bool>("prepaidFirst");
+    QTest::newRow("asked, then opened") << true;
+    QTest::newRow("opened, then asked") << false;
+}
+
+/// Only the prepaid window asks, but the postpaid one hears the answer, too.
+void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
+{
+    QFETCH(bool, prepaidFirst);
+    CUSSDService *service = CUSSDService::instance();
+    if (prepaidFirst)
+        service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, false);
+    openByService(PAID_TYPE_POSTPAID);
+    service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, true);
+    for (int answers = 3; answers > 0; --answers) // balance and number come before
+        networkSays(QStringLiteral("Contract account"));
+    QCOMPARE(m_notifications->calls.count(), 4);
+    for (int i = 0; i < 4; ++i) {
+        const PrePostRecord &record = m_notifications->calls.at(i).record;
+        const bool isAsker = prepaidFirst ? i < 2 : i >= 2;
+        QCOMPARE(record.bInUse, isAsker);
+        QCOMPARE(record.result, isAsker ? 1 : 0);
+        QVERIFY(record.bPostPaid);
     }
 }
 

@@ -92,13 +92,14 @@ private slots:
     void separatorsStandBetweenComponents();
     void gridHasItsMeasures();
     void withoutAnyComponentThereIsTheCloseButton();
-    void positionsAreLogged();
+    void positionsAreLoggedInLinesOfTheirOwn();
     void embeddedDialogHasNoCloseButton();
     void sizeBeforeInitIsInvalid();
 
     void linkIsThatOfTheConfiguration_data();
     void linkIsThatOfTheConfiguration();
     void longLinkIsCutAndTold();
+    void linkIsCutAt300PixelsOfTheApplicationsFont();
     void codesReadFromLeftToRightInArabic();
     void codesAmongArabicLettersReadFromLeftToRightToo();
 
@@ -361,12 +362,17 @@ void PrepaidLayoutTest::withoutAnyComponentThereIsTheCloseButton()
     QVERIFY(closeButton()->hasFocus());
 }
 
-void PrepaidLayoutTest::positionsAreLogged()
+void PrepaidLayoutTest::positionsAreLoggedInLinesOfTheirOwn()
 {
-    configure(Account());
+    Account account;
+    account.msisdn = msisdnItem(7);
+    configure(account);
     make();
-    for (int i = 0; i < 4; ++i)
-        QCOMPARE(timesLogged(QStringLiteral(" position = %1 component=%1").arg(i)), 1);
+    const QStringList lines = logLines().filter(QStringLiteral("position = "));
+    QCOMPARE(lines, QStringList() << QStringLiteral("position = 0 component=0")
+                                  << QStringLiteral("position = 1 component=1")
+                                  << QStringLiteral("position = 2 component=2")
+                                  << QStringLiteral("position = 7 component=3"));
 }
 
 void PrepaidLayoutTest::embeddedDialogHasNoCloseButton()
@@ -428,6 +434,26 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().contains(QChar(0x2026)));
     QVERIFY(link()->toolTip().contains(QString::fromLatin1(url)));
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
+}
+
+/// The longest address that fits is shown whole; one letter more is cut to what Qt makes of 300.
+void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
+{
+    const QFontMetrics metrics = QApplication::fontMetrics();
+    QString fits = QStringLiteral("http://");
+    while (metrics.horizontalAdvance(fits + QLatin1Char('i')) <= 300)
+        fits += QLatin1Char('i');
+    const QString tooLong = fits + QLatin1Char('i');
+    for (const QString &url : {fits, tooLong}) {
+        Account account;
+        account.online = onlineItem(2, url.toLatin1());
+        configure(account);
+        USSDLogic::Destroy(); // the configuration is read anew
+        make();
+        const QString shown = metrics.elidedText(url, Qt::ElideRight, 300);
+        QCOMPARE(shown == url, url == fits);
+        QVERIFY(link()->text().contains(QLatin1Char('>') + shown + QLatin1String("</a>")));
+    }
 }
 
 void PrepaidLayoutTest::codesReadFromLeftToRightInArabic()
