@@ -151,8 +151,8 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// A dialog whose file was not read to its end never hears an answer, on purpose; without the logic
-/// it does not send either.
+/// A dialog whose file was not read to its end never hears an answer, on purpose; it then sends no
+/// command either, but short messages.
 void CUSSDSMSDlg::connectLogic()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
@@ -191,7 +191,7 @@ void CUSSDSMSDlg::InitDialog()
         return;
     createWidgets();
     connectWidgets();
-    resize(GetSize());
+    resize(sizeHint());
     InitTree();
     SetLanguage();
 }
@@ -254,12 +254,18 @@ void CUSSDSMSDlg::SetLanguage()
 
 QSize CUSSDSMSDlg::GetSize()
 {
-    return SmsLayoutFile::windowSize(m_layout.dialog);
+    return QSize(m_layout.dialog.width, m_layout.dialog.height);
 }
 
 QSize CUSSDSMSDlg::sizeHint() const
 {
     return SmsLayoutFile::windowSize(m_layout.dialog);
+}
+
+/// Within what can be calculated with.
+int CUSSDSMSDlg::windowWidth() const
+{
+    return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
 /// Return in the tree would otherwise reach the frame, whose default button is the one that sends.
@@ -290,6 +296,7 @@ void CUSSDSMSDlg::InitTree()
     m_pTree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pTree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_nSelected = kNoEntry;
     m_pTree->clear();
     addRows();
     connect(m_pTree, SIGNAL(itemSelectionChanged()), this, SLOT(OnTreeItemSelectionChanged()),
@@ -310,7 +317,7 @@ void CUSSDSMSDlg::addRows()
         if (entry == rootEntry || !entry->isChild)
             continue;
         entry->treeWidgetItem = new QTreeWidgetItem(root);
-        if (m_nSelected == kNoEntry)
+        if (root->childCount() == 1) // also when its number is that of no entry
             m_nSelected = entry->number;
     }
 }
@@ -334,7 +341,7 @@ void CUSSDSMSDlg::SetTreeGeometry()
 {
     if (!m_pTree)
         return;
-    m_pTree->setGeometry(SmsLayoutFile::geometry(m_layout.tree, GetSize().width(), isMirrored()));
+    m_pTree->setGeometry(SmsLayoutFile::geometry(m_layout.tree, windowWidth(), isMirrored()));
     if (m_nSelected == kNoEntry)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
@@ -362,10 +369,9 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
     if (!entry)
         return;
     m_nSelected = entry->number;
-    const CWidget *group = m_layout.groups.value(m_nSelected);
-    // The controls of one service never stand beside the name of another.
-    if (!group || !SetWidgetGeometry(group->controls, isMirrored()))
-        forgetService();
+    // Without a group that can be shown the controls of the service before stay, and work.
+    if (const CWidget *group = m_layout.groups.value(m_nSelected))
+        SetWidgetGeometry(group->controls, isMirrored());
 }
 
 // ---- controls ------------------------------------------------------------------------------
@@ -377,62 +383,73 @@ bool CUSSDSMSDlg::SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirr
         USSD_LOG(" Fail Exit: %d controls", controls.count());
         return false;
     }
-    m_listControls = controls;
-    takeCommand(controls);
+    takeControls(controls);
+    takeCommand();
     placeControls(mirrored);
-    limitInput(*controls.at(POSITION_INPUT));
+    limitInput(m_listControls.at(POSITION_INPUT));
     showResult(QString());
-    m_strResultKey = controls.at(POSITION_RESULT)->id;
+    m_strResultKey = m_listControls.at(POSITION_RESULT).id;
     translateControls();
     enableFirstSend();
     return true;
 }
 
-/// The button says what is sent and how, the input field within which limits.
-void CUSSDSMSDlg::takeCommand(const QList<CWidgetItemInfo *> &controls)
+void CUSSDSMSDlg::takeControls(const QList<CWidgetItemInfo *> &controls)
 {
-    const CWidgetItemInfo *input = controls.at(POSITION_INPUT);
-    const CWidgetItemInfo *button = controls.at(POSITION_BUTTON);
+    m_listControls.clear();
+    for (int i = 0; i < controls.count(); ++i) {
+        controls.at(i)->widget = m_listWidgets.at(i);
+        m_listControls << *controls.at(i);
+    }
+}
+
+/// The button says what is sent and how, the input field within which limits.
+void CUSSDSMSDlg::takeCommand()
+{
+    const CWidgetItemInfo &input = m_listControls.at(POSITION_INPUT);
+    const CWidgetItemInfo &button = m_listControls.at(POSITION_BUTTON);
     m_command = CCommandWidget();
-    m_command.command = button->command;
-    m_command.number = button->number;
-    m_command.minLength = input->minLength;
-    m_command.limit = input->length;
-    m_command.kind = button->kind;
-    m_command.sendButton = button->visible ? m_pSendButton : nullptr;
-    m_command.inputField = input->visible ? m_pInputEdit : nullptr;
-    m_command.resultLabel = controls.at(POSITION_RESULT)->visible ? m_pResultLabel : nullptr;
+    m_command.command = button.command;
+    m_command.number = button.number;
+    m_command.minLength = input.minLength;
+    m_command.limit = input.length;
+    m_command.kind = button.kind;
+    m_command.sendButton = button.visible ? m_pSendButton : nullptr;
+    m_command.inputField = input.visible ? m_pInputEdit : nullptr;
+    m_command.resultLabel = m_listControls.at(POSITION_RESULT).visible ? m_pResultLabel : nullptr;
 }
 
 void CUSSDSMSDlg::placeControls(bool mirrored)
 {
     for (int i = 0; i < m_listControls.count(); ++i) {
-        CWidgetItemInfo *control = m_listControls.at(i);
-        control->widget = m_listWidgets.at(i);
-        if (control->visible)
-            control->widget->setGeometry(
-                SmsLayoutFile::geometry(*control, GetSize().width(), mirrored));
-        control->widget->setVisible(control->visible);
+        const CWidgetItemInfo &control = m_listControls.at(i);
+        if (control.visible)
+            control.widget->setGeometry(SmsLayoutFile::geometry(control, windowWidth(), mirrored));
+        control.widget->setVisible(control.visible);
     }
 }
 
 void CUSSDSMSDlg::translateControls()
 {
-    if (m_listControls.isEmpty())
-        return;
-    for (int i = 0; i < m_listControls.count(); ++i) {
-        const CWidgetItemInfo *control = m_listControls.at(i);
-        const QString text = control->visible ? tr(control->id) : QString();
-        if (i == POSITION_INFO)
-            m_pInfoLabel->setText(text);
-        else if (i == POSITION_CAPTION)
-            m_pCaptionLabel->setText(text);
-        else if (i == POSITION_BUTTON)
-            m_pSendButton->setText(text);
-    }
-    if (!m_strResultKey.isEmpty())
-        setResultText(tr(m_strResultKey));
+    for (int i = 0; i < m_listControls.count(); ++i)
+        translateControl(i);
     m_pInputEdit->setAccessibleName(m_pCaptionLabel->text());
+}
+
+void CUSSDSMSDlg::translateControl(int position)
+{
+    const CWidgetItemInfo &control = m_listControls.at(position);
+    const QString text = control.visible ? tr(control.id) : QString();
+    if (position == POSITION_INFO)
+        m_pInfoLabel->setText(text);
+    else if (position == POSITION_CAPTION)
+        m_pCaptionLabel->setText(text);
+    else if (position == POSITION_BUTTON)
+        m_pSendButton->setText(text);
+    else if (position == POSITION_RESULT && !control.visible)
+        m_pResultLabel->setText(QString());
+    else if (position == POSITION_RESULT && !m_strResultKey.isEmpty())
+        setResultText(tr(m_strResultKey));
 }
 
 void CUSSDSMSDlg::limitInput(const CWidgetItemInfo &control)
@@ -541,18 +558,17 @@ void CUSSDSMSDlg::startSending()
     enableSend(false);
     m_pTree->setEnabled(false);
     m_bBusy = true;
-    if (m_command.kind == CONTROL_KIND_SMS) {
+    if (m_command.kind == CONTROL_KIND_SMS)
         startSms();
-        return;
-    }
-    showResult(QString()); // the answer before is not that to this command
-    SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
+    else // the answer before stays until this one comes
+        SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
 }
 
+/// The device's SMS service needs no logic. Without one the outcome is not heard.
 void CUSSDSMSDlg::startSms()
 {
     showResult(textOf("USSD_CODE_WAITTING"));
-    if (m_pLogic && SendSMS(&m_command.number, &m_command.command) == 0)
+    if (SendSMS(&m_command.number, &m_command.command) == 0)
         return;
     showResult(textOf("IDS_SMS_SEND_FAILED"));
     endSending();
@@ -601,8 +617,6 @@ void CUSSDSMSDlg::OnResponseUSSDSMSReceived(int component, QString text)
 {
     if (component != COMPONENT_USSD_SMS)
         return;
-    if (text.isEmpty()) // the network refused, or the device failed
-        text = textOf("USSD_CODE_FAILED");
     if (text != textOf("USSD_CODE_WAITTING"))
         endSending();
     showResult(text);

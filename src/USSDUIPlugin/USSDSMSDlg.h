@@ -57,8 +57,8 @@ public:
     void InitTree();
     /// Places the tree and selects the current service in it.
     void SetTreeGeometry();
-    /// Shows the service that these controls describe; they stay their owner's and must outlive it.
-    /// False, and nothing changes, unless there is one control for each of the fixed widgets.
+    /// Shows the service that these controls describe, and keeps a copy of them. False, and nothing
+    /// changes, unless there is one control for each of the fixed widgets.
     bool SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
     /// 0 when the device took the message; how it fared comes through OnSendResult().
@@ -66,6 +66,7 @@ public:
     /// Re-reads every visible text and follows the layout direction. What was entered, and what the
     /// network said, stay.
     void SetLanguage();
+    /// As the file says, whether a window can have that size or not.
     QSize GetSize();
 
     QSize sizeHint() const override;
@@ -103,9 +104,12 @@ private:
     void translateTree();
     const CTreeItem *currentEntry() const;
 
-    void takeCommand(const QList<CWidgetItemInfo *> &controls);
+    void takeControls(const QList<CWidgetItemInfo *> &controls);
+    void takeCommand();
     void placeControls(bool mirrored);
     void translateControls();
+    void translateControl(int position);
+    int windowWidth() const;
     void limitInput(const CWidgetItemInfo &control);
     void enableFirstSend();
     void forgetService();
@@ -130,14 +134,15 @@ private:
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
     QRegExpValidator *m_pValidator;
-    QList<QWidget *> m_listWidgets;          // the five above, in the order of a group's controls
-    QList<CWidgetItemInfo *> m_listControls; // what they show, owned by the layout
+    QList<QWidget *> m_listWidgets; // the five above, in the order of a group's controls
+    // What they show. Values: the group may be replaced meanwhile.
+    QList<CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;
     int m_nSelected; // entry of the tree, -1 while there is none
     CCommandWidget m_command;
     QString m_strResultKey;       // of the text in the result label; empty when it has none
-    QPointer<USSDLogic> m_pLogic; // not owned; null as long as nobody would hear its answers
+    QPointer<USSDLogic> m_pLogic; // not owned; null as long as its answers would not be heard
 };
 
 #endif

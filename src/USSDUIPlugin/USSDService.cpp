@@ -6,6 +6,7 @@
 #include "PluginLog.h"
 #include "PluginMessage.h"
 #include "PluginText.h"
+#include "SmsLayout.h"
 #include "USSDLogic.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDService.cpp");
@@ -17,6 +18,7 @@ const unsigned int kEventLanguageChanged = 320;
 const unsigned int kEventCheckImsi = 579;
 const int kGeneralFrameWidth = 588;
 const int kGeneralFrameHeight = 465;
+const int kMaxFrameSide = SmsLayoutFile::kMaxWindowSide;
 const int kPlainFrame = 1;
 
 Qt::WindowFlags frameFlags()
@@ -29,11 +31,13 @@ const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Room for the dialog and 20 pixels more in height.
+/// Room for the dialog and 20 pixels more in height. A size from a file may be one that no memory
+/// suffices for, or none at all.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {
-    const QSize size = dialog->GetSize();
+    const QSize most(kMaxFrameSide, kMaxFrameSide);
+    const QSize size = dialog->GetSize().expandedTo(QSize(0, 0)).boundedTo(most);
     frame->setFixedSize(size.width(), size.height() + 20);
 }
 

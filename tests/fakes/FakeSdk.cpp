@@ -383,9 +383,17 @@ bool FakeSdk::canSendSms() const
     return m_settings.canSendSms;
 }
 
-TKSV_SMSRecord FakeSdk::createRecord()
+void FakeSdk::setFailedCreateLeavesRecord(bool leaves)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.failedCreateLeavesRecord = leaves;
+}
+
+TKSV_SMSRecord FakeSdk::createRecord(long result)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (result != 0 && !m_settings.failedCreateLeavesRecord)
+        return nullptr;
     return *m_records.insert(new TKSV_SMSRecordData()).first;
 }
 

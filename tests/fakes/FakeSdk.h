@@ -58,7 +58,8 @@ public:
     // ---- short messages
     void setCanSendSms(bool can);
     bool canSendSms() const;
-    TKSV_SMSRecord createRecord();
+    void setFailedCreateLeavesRecord(bool leaves);
+    TKSV_SMSRecord createRecord(long result);
     bool isLive(TKSV_SMSRecord record);
     bool releaseRecord(TKSV_SMSRecord record);
     std::size_t liveRecords() const;
@@ -80,6 +81,7 @@ private:
         long scenarioResult = 0;
         std::string scenarioMessage;
         bool canSendSms = false;
+        bool failedCreateLeavesRecord = false;
         std::size_t badRecords = 0;
         bool hasUserData = false;
         std::u16string userData;

@@ -247,6 +247,11 @@ void fakeSdkRaiseSmsEvent(int event)
     sms.post([&sms, event] { sms.deliver(event, nullptr); });
 }
 
+void fakeSdkSetFailedCreateLeavesRecord(bool leaves)
+{
+    sdk().setFailedCreateLeavesRecord(leaves);
+}
+
 std::size_t fakeSdkLiveSmsRecords()
 {
     return sdk().liveRecords();

@@ -150,7 +150,7 @@ long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned short *n
     call.number = textOf(number);
     call.text = textOf(text);
     const long result = sdk().resultOf(__func__);
-    *record = result == 0 ? sdk().createRecord() : nullptr;
+    *record = sdk().createRecord(result);
     call.handle = *record;
     return sdk().leave(sdk().enter(call), result);
 }

@@ -170,6 +170,9 @@ FAKE_API void fakeSdkRaiseSmsResult(int result, const std::u16string &number,
 /// An event with null data, known or not.
 FAKE_API void fakeSdkRaiseSmsEvent(int event);
 
+/// True: a record is made and handed out although its function fails (a bad SDK).
+FAKE_API void fakeSdkSetFailedCreateLeavesRecord(bool leaves);
+
 /// Records that were made and not yet given back.
 FAKE_API std::size_t fakeSdkLiveSmsRecords();
 

@@ -18,6 +18,7 @@
 #include "ReplyLabel.h"
 #include "USSDExtendDialog.h"
 #include "USSDLogic.h"
+#include "USSDService.h"
 #include "USSDSMSDlg.h"
 
 /** The USSD-SMS dialog in a frame, driven by keys and clicks. The network is silent at first. */
@@ -96,9 +97,11 @@ private slots:
     void unknownPluginFolderIsLogged();
     void wholeFileConnectsOnce();
     void brokenFileKeepsItsServicesButHearsNothing();
+    void brokenFileStillSendsShortMessages();
     void brokenFileIsLoggedWithItsLine();
     void readerWithoutDeviceFails();
     void readWidgetInfoReadsOneDialogElement();
+    void shownServiceWorksOnWhenItsGroupIsReplaced();
     void configurationIsReadAnewOnDemand();
     void brokenFileReadLaterEndsTheConnections();
     void hostileLayout_data();
@@ -106,22 +109,26 @@ private slots:
 
     // ---- tree
     void sizeIsThatOfTheFile();
+    void sizeIsAsReadAndTheWindowWithinReason_data();
+    void sizeIsAsReadAndTheWindowWithinReason();
     void treeStandsWhereTheFileSays();
     void rowsComeInOrderOfTheirNumbers();
     void firstServiceIsSelectedAtFirst();
+    void firstRowMadeIsSelectedWhateverItsNumber();
+    void treeMadeAnewSelectsItsFirstRow();
     void treeSelectsSingleWholeRows();
     void longEntryCanBeScrolledTo();
     void keysSelectAService();
     void clicksSelectAService();
-    void rootShowsNoControls();
-    void serviceWithoutGroupShowsNoControls();
-    void groupOfFourControlsIsNotShown();
-    void groupOfSixControlsIsNotShown();
+    void selectionWithoutGroupLeavesTheControls_data();
+    void selectionWithoutGroupLeavesTheControls();
+    void withoutAnyServiceNothingIsShown();
     void groupOfTheWrongSizeChangesNothing();
 
     // ---- controls
     void controlsStandWhereTheFileSays();
     void hiddenControlsAreNotShown();
+    void hiddenResultLabelIsEmpty();
     void labelsArePlainAndWrapped();
     void idsAreTranslated();
     void validatorFollowsLimitTextAndLength();
@@ -136,6 +143,9 @@ private slots:
     void smsWithoutInputNeedsReadiness();
     void smsWithoutNumberIsNotReady();
     void smsWithInputNeedsReadinessWhileTyping();
+    void emptyNumberIsSentWhenTyped();
+    void emptyNumberIsEnabledByReadiness();
+    void emptyCommandIsEnabledByReadinessButNotSent();
     void typedTextOfMinimumLengthIsEnoughButNotForReadiness();
     void tooShortTextIsNeverSent();
     void readinessIsIgnoredForUssd();
@@ -152,13 +162,13 @@ private slots:
     void commandsGoOutForThisComponent();
     void answersForOthersAreIgnored();
     void answerEqualToTheWaitingTextKeepsBusy();
-    void emptyAnswerIsAFailure();
+    void emptyAnswerLeavesTheLabelEmpty();
     void timeOutIsShown();
     void refusedCommandIsShownAsFailed();
     void deviceTimeOutIsShownAsTimeOut();
     void tooLongCommandIsShownAsFailed();
     void deviceThatGoesAwayEndsIt();
-    void oldAnswerIsNotShownWhileWaiting();
+    void oldAnswerStaysUntilTheNextOne();
     void queuedCommandWaitsBehindAnother();
 
     // ---- SMS
@@ -166,16 +176,20 @@ private slots:
     void smsResultForAnotherNumberIsIgnored();
     void smsResultForAnotherTextIsIgnored();
     void failedSmsIsShownAsFailed();
+    void smsResultWhileNotBusyIsShown_data();
+    void smsResultWhileNotBusyIsShown();
     void smsThatCannotBeMadeIsShownAsFailed();
     void smsThatIsRefusedIsShownAsFailed();
     void smsRecordsAreGivenBack();
+    void recordOfAFailedCreateIsGivenBack();
     void releaseErrorIsLoggedOnly();
     void lostReadinessAtTheLastMomentFails();
     void smsLogLines();
 
     // ---- neither
     void controlOfNoKindSendsNothing();
-    void withoutLogicNothingIsSent();
+    void withoutLogicNoCommandIsSent();
+    void withoutLogicShortMessagesAreSent();
 
     // ---- busy
     void whileBusyEverythingIsDisabled();
@@ -321,7 +335,7 @@ void SmsDialogTest::open()
     m_frame.reset(new USSDExtendDialog(nullptr, Qt::WindowCloseButtonHint, 1));
     m_dialog = new CUSSDSMSDlg;
     m_dialog->InitDialog();
-    m_frame->setFixedSize(m_dialog->GetSize() + QSize(0, 20));
+    m_frame->setFixedSize(m_dialog->sizeHint() + QSize(0, 20));
     m_frame->AddMainWidget(m_dialog);
     m_frame->show();
     m_frame->activateWindow();
@@ -475,12 +489,17 @@ void SmsDialogTest::brokenFileKeepsItsServicesButHearsNothing()
     QCOMPARE(requests(), QStringList()); // nobody would hear the answer
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QVERIFY(isIdle());
+}
+
+void SmsDialogTest::brokenFileStillSendsShortMessages()
+{
+    openWith(config().replace("</config>", "</confi>"));
     select(WEATHER);
     type(latin1("Oslo"));
     press();
-    QCOMPARE(smsSent(), 0);
-    QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
-    QVERIFY(isIdle());
+    QCOMPARE(smsSent(), 1);
+    QCOMPARE(result(), text("USSD_CODE_WAITTING"));
+    QVERIFY(isBusy());
 }
 
 void SmsDialogTest::brokenFileIsLoggedWithItsLine()
@@ -508,6 +527,28 @@ void SmsDialogTest::readWidgetInfoReadsOneDialogElement()
     select(BARE);
     press();
     QCOMPARE(requests(), QStringList() << latin1("*9#"));
+}
+
+void SmsDialogTest::shownServiceWorksOnWhenItsGroupIsReplaced()
+{
+    select(PREPAID);
+    const QString caption = captionLabel()->text();
+    QXmlStreamReader reader("<Dialog>" +
+                            group(PREPAID, NO_INPUT, buttonControl(USSD, "*9#"))
+                                .replace("IDS_SMSUSSD_LABEL_NUMBER", "OTHER_CAPTION") +
+                            "</Dialog>");
+    reader.readNextStartElement();
+    m_dialog->ReadWidgetInfo(reader);
+    m_dialog->SetLanguage(); // looks at what is shown
+    QCOMPARE(captionLabel()->text(), caption);
+    QCOMPARE(captionLabel()->geometry(), QRect(170, 60, 310, 20));
+    press();
+    networkSays(latin1("5 EUR"));
+    select(BALANCE);
+    select(PREPAID);
+    QCOMPARE(captionLabel()->text(), latin1("OTHER_CAPTION"));
+    press();
+    QCOMPARE(requests(), QStringList() << latin1("*200#") << latin1("*9#"));
 }
 
 void SmsDialogTest::configurationIsReadAnewOnDemand()
@@ -595,6 +636,37 @@ void SmsDialogTest::sizeIsThatOfTheFile()
     QCOMPARE(m_dialog->width(), 520);
 }
 
+void SmsDialogTest::sizeIsAsReadAndTheWindowWithinReason_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QSize>("window");
+    QTest::newRow("huge") << 999999 << 2147483647 << QSize(4096, 4096);
+    QTest::newRow("negative") << -5 << -2147483647 - 1 << QSize(0, 0);
+    QTest::newRow("none") << 0 << 0 << QSize(0, 0);
+}
+
+void SmsDialogTest::sizeIsAsReadAndTheWindowWithinReason()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    openWith(config().replace("width='520' height='360'", "width='" + QByteArray::number(width) +
+                                                              "' height='" +
+                                                              QByteArray::number(height) + "'"));
+    QCOMPARE(m_dialog->GetSize(), QSize(width, height));
+    QTEST(m_dialog->sizeHint(), "window");
+    QFETCH(QSize, window);
+    QCOMPARE(CUSSDService::instance()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS), 1);
+    QWidget *frame = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget != m_frame.data() && qobject_cast<USSDExtendDialog *>(widget))
+            frame = widget;
+    }
+    QVERIFY(frame);
+    QCOMPARE(frame->minimumSize(), window + QSize(0, 20));
+    QCOMPARE(frame->maximumSize(), window + QSize(0, 20));
+}
+
 void SmsDialogTest::treeStandsWhereTheFileSays()
 {
     QCOMPARE(tree()->geometry(), QRect(10, 12, 150, 330));
@@ -617,6 +689,29 @@ void SmsDialogTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(tree()->currentItem(), row(BALANCE));
     QVERIFY(row(BALANCE)->isSelected());
     QVERIFY(button()->isVisible());
+    press();
+    QCOMPARE(requests(), QStringList() << latin1("*100#"));
+}
+
+/// Also the number that stands for no entry; then none is selected.
+void SmsDialogTest::firstRowMadeIsSelectedWhateverItsNumber()
+{
+    openWith(config()
+
+                 .replace("</Tree>", entry(-1) + "</Tree>"));
+    QCOMPARE(tree()->topLevelItem(0)->child(0)->text(0), latin1("SERVICE_-1"));
+    QVERIFY(tree()->selectedItems().isEmpty());
+    QVERIFY(button()->isHidden());
+    openWith(config().replace("</Tree>", entry(-7) + "</Tree>"));
+    QCOMPARE(tree()->currentItem(), tree()->topLevelItem(0)->child(0));
+}
+
+void SmsDialogTest::treeMadeAnewSelectsItsFirstRow()
+{
+    select(PREPAID);
+    m_dialog->InitTree();
+    m_dialog->SetTreeGeometry();
+    QCOMPARE(tree()->currentItem(), row(BALANCE));
     press();
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
@@ -658,37 +753,35 @@ void SmsDialogTest::clicksSelectAService()
     QCOMPARE(requests(), QStringList() << latin1("*200#"));
 }
 
-void SmsDialogTest::rootShowsNoControls()
+void SmsDialogTest::selectionWithoutGroupLeavesTheControls_data()
 {
-    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      tree()->visualItemRect(tree()->topLevelItem(0)).center());
+    QTest::addColumn<int>("service");
+    QTest::newRow("root") << 0;
+    QTest::newRow("no group") << int(BARE);
+    QTest::newRow("four controls") << int(FOUR);
+    QTest::newRow("six controls") << int(SIX);
+}
+
+void SmsDialogTest::selectionWithoutGroupLeavesTheControls()
+{
+    QFETCH(int, service);
+    select(CALL);
+    type(latin1("555"));
+    tree()->setCurrentItem(service == 0 ? tree()->topLevelItem(0) : row(service));
+    for (QWidget *control : controls())
+        QVERIFY(control->isVisible());
+    QCOMPARE(input()->text(), latin1("555"));
+    press();
+    QCOMPARE(requests(), QStringList() << latin1("*140*555#"));
+}
+
+void SmsDialogTest::withoutAnyServiceNothingIsShown()
+{
+    openWith(config().replace("<item name='1' parent='1'>", "<item name='1' parent='99'>"));
     for (QWidget *control : controls())
         QVERIFY(control->isHidden());
     button()->click();
     QCOMPARE(requests(), QStringList());
-}
-
-void SmsDialogTest::serviceWithoutGroupShowsNoControls()
-{
-    select(BARE);
-    for (QWidget *control : controls())
-        QVERIFY(control->isHidden());
-}
-
-void SmsDialogTest::groupOfFourControlsIsNotShown()
-{
-    select(FOUR);
-    for (QWidget *control : controls())
-        QVERIFY(control->isHidden());
-    select(BALANCE);
-    QVERIFY(button()->isVisible());
-}
-
-void SmsDialogTest::groupOfSixControlsIsNotShown()
-{
-    select(SIX);
-    for (QWidget *control : controls())
-        QVERIFY(control->isHidden());
 }
 
 void SmsDialogTest::groupOfTheWrongSizeChangesNothing()
@@ -728,6 +821,23 @@ void SmsDialogTest::hiddenControlsAreNotShown()
     QVERIFY(captionLabel()->isHidden());
     QVERIFY(captionLabel()->text().isEmpty());
     QVERIFY(captionLabel()->geometry() != QRect(170, 60, 310, 20));
+}
+
+void SmsDialogTest::hiddenResultLabelIsEmpty()
+{
+    const QByteArray place = "<control posx='170' posy='120' width='320' height='100'/>";
+    QByteArray xml = config();
+    xml.replace(
+        xml.indexOf(place, xml.indexOf("*200#")), place.size(),
+        QByteArray(place).replace("<control ", "<control id='IDS_STR_PROMPT' visible='false' "));
+    openWith(xml);
+    press();
+    networkSays(latin1("5 EUR"));
+    select(PREPAID);
+    QVERIFY(resultLabel()->isHidden());
+    QCOMPARE(result(), QString());
+    m_dialog->SetLanguage();
+    QCOMPARE(result(), QString());
 }
 
 void SmsDialogTest::labelsArePlainAndWrapped()
@@ -854,6 +964,44 @@ void SmsDialogTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
     type(latin1("x"));
     QVERIFY(button()->isEnabled());
+}
+
+/// Odd rules, kept so: what is typed counts, not the number; see also the next two.
+void SmsDialogTest::emptyNumberIsSentWhenTyped()
+{
+    openWith(config().replace("<number>1200</number>", "<number></number>"));
+    select(WEATHER);
+    type(latin1("Oslo"));
+    QVERIFY(button()->isEnabled()); // though the device is not ready
+    press();
+    QCOMPARE(smsSent(), 1);
+    QCOMPARE(fakeSdkCalls("TKSV_SMSSrv_CreateSMSRecord").front().number, std::u16string());
+    QVERIFY(isBusy());
+}
+
+void SmsDialogTest::emptyNumberIsEnabledByReadiness()
+{
+    select(NOWHERE);
+    QVERIFY(!button()->isEnabled());
+    deviceSays(TKSV_SMS_STATUS_CAN_SEND);
+    QVERIFY(button()->isEnabled());
+}
+
+/// The field is disabled by the click, and stays so until a service is selected.
+void SmsDialogTest::emptyCommandIsEnabledByReadinessButNotSent()
+{
+    openWith(config().replace("WEATHER %s", ""));
+    select(WEATHER);
+    type(latin1("Oslo"));
+    QVERIFY(!button()->isEnabled());
+    deviceSays(TKSV_SMS_STATUS_CAN_SEND);
+    QVERIFY(button()->isEnabled());
+    press();
+    QCOMPARE(smsSent(), 0);
+    QVERIFY(!input()->isEnabled());
+    QVERIFY(button()->isEnabled());
+    QVERIFY(tree()->isEnabled());
+    QCOMPARE(result(), QString());
 }
 
 /// The two tests of the length differ, and are kept so.
@@ -1000,11 +1148,13 @@ void SmsDialogTest::answerEqualToTheWaitingTextKeepsBusy()
     QVERIFY(isIdle());
 }
 
-void SmsDialogTest::emptyAnswerIsAFailure()
+void SmsDialogTest::emptyAnswerLeavesTheLabelEmpty()
 {
     press();
+    networkSays(latin1("5 EUR"));
+    press();
     networkSays(QString());
-    QCOMPARE(result(), text("USSD_CODE_FAILED"));
+    QCOMPARE(result(), QString());
     QVERIFY(isIdle());
 }
 
@@ -1052,13 +1202,15 @@ void SmsDialogTest::deviceThatGoesAwayEndsIt()
     QVERIFY(isIdle());
 }
 
-void SmsDialogTest::oldAnswerIsNotShownWhileWaiting()
+void SmsDialogTest::oldAnswerStaysUntilTheNextOne()
 {
     press();
     networkSays(latin1("Balance: 5.00"));
     press();
     QVERIFY(isBusy());
-    QCOMPARE(result(), QString());
+    QCOMPARE(result(), latin1("Balance: 5.00"));
+    networkSays(latin1("Balance: 4.00"));
+    QCOMPARE(result(), latin1("Balance: 4.00"));
 }
 
 void SmsDialogTest::queuedCommandWaitsBehindAnother()
@@ -1119,6 +1271,28 @@ void SmsDialogTest::failedSmsIsShownAsFailed()
     QVERIFY(isIdle());
 }
 
+void SmsDialogTest::smsResultWhileNotBusyIsShown_data()
+{
+    QTest::addColumn<int>("fared");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("sent") << 0 << QString();
+    QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
+}
+
+/// The message may have been sent by somebody else, with the same number and text.
+void SmsDialogTest::smsResultWhileNotBusyIsShown()
+{
+    QFETCH(int, fared);
+    select(TARIFF);
+    QVERIFY(!button()->isEnabled());
+    m_dialog->OnResponseUSSDSMSReceived(COMPONENT_USSD_SMS, latin1("an answer"));
+    deviceSays(TKSV_SMS_STATUS_CANNOT_SEND);
+    QVERIFY(!button()->isEnabled());
+    smsFared(fared, latin1("1200"), latin1("TARIFF"));
+    QTEST(result(), "shown");
+    QVERIFY(isIdle());
+}
+
 void SmsDialogTest::smsThatCannotBeMadeIsShownAsFailed()
 {
     fakeSdkSetResult("TKSV_SMSSrv_CreateSMSRecord", 9);
@@ -1149,6 +1323,17 @@ void SmsDialogTest::smsRecordsAreGivenBack()
     QCOMPARE(m_dialog->SendSMS(&number, &number), 1);
     QCOMPARE(fakeSdkLiveSmsRecords(), size_t(0));
     QCOMPARE(int(fakeSdkCalls("TKSV_SMSSrv_ReleaseSMSRecord").size()), 2);
+}
+
+void SmsDialogTest::recordOfAFailedCreateIsGivenBack()
+{
+    fakeSdkSetResult("TKSV_SMSSrv_CreateSMSRecord", 9);
+    fakeSdkSetFailedCreateLeavesRecord(true);
+    QString number = latin1("1");
+    QCOMPARE(m_dialog->SendSMS(&number, &number), 1);
+    QCOMPARE(smsSent(), 0);
+    QCOMPARE(int(fakeSdkCalls("TKSV_SMSSrv_ReleaseSMSRecord").size()), 1);
+    QCOMPARE(fakeSdkLiveSmsRecords(), size_t(0));
 }
 
 void SmsDialogTest::releaseErrorIsLoggedOnly()
@@ -1200,7 +1385,18 @@ void SmsDialogTest::controlOfNoKindSendsNothing()
     QVERIFY(tree()->isEnabled());
 }
 
-void SmsDialogTest::withoutLogicNothingIsSent()
+void SmsDialogTest::withoutLogicShortMessagesAreSent()
+{
+    deviceSays(TKSV_SMS_STATUS_CAN_SEND);
+    select(TARIFF);
+    USSDLogic::Destroy();
+    press();
+    QCOMPARE(smsSent(), 1);
+    QCOMPARE(result(), text("USSD_CODE_WAITTING"));
+    QVERIFY(isBusy());
+}
+
+void SmsDialogTest::withoutLogicNoCommandIsSent()
 {
     select(CALL);
     type(latin1("555"));
