@@ -35,6 +35,8 @@ private slots:
     void unknownElementsAreSkipped();
     void entryKeepsItsNumbersAndText();
     void secondRootIsDropped();
+    void rootInOtherLettersIsNone_data();
+    void rootInOtherLettersIsNone();
     void twentySixthOrdinaryEntryIsDropped();
     void replacingEntriesCountToo();
     void entryBeforeTheRootIsDropped();
@@ -208,6 +210,24 @@ void SmsLayoutTest::secondRootIsDropped()
     QCOMPARE(m_layout->rootNumber, 1);
     QCOMPARE(m_layout->entries.keys(), QList<int>() << 1 << 3);
     QVERIFY(complained("entry 2 is a second root"));
+}
+
+void SmsLayoutTest::rootInOtherLettersIsNone_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    for (const char *type : {"ROOT", "Root", " root", "root "})
+        QTest::newRow(type) << QByteArray(type);
+}
+
+void SmsLayoutTest::rootInOtherLettersIsNone()
+{
+    QFETCH(QByteArray, type);
+    QVERIFY(readSection("<Tree><item name='9' id='NONE' type='" + type + "'/>" +
+                        "<item name='0' type='root'/>" + entry(1) + "</Tree>"));
+    QVERIFY(m_layout->hasRoot);
+    QCOMPARE(m_layout->rootNumber, 0);
+    QCOMPARE(m_layout->entries.keys(), QList<int>() << 0 << 1);
+    QVERIFY(complained("entry 9 is left out: it stands before the root"));
 }
 
 void SmsLayoutTest::twentySixthOrdinaryEntryIsDropped()
