@@ -433,6 +433,7 @@ void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 void CUSSDService::OnDlgCloseEvent()
 {
     USSD_LOG_SCOPE();
+    const QPointer<CUSSDService> self(this); // a host that hears of it may shut down
     switch (m_modalPaidType) {
     case PAID_TYPE_PREPAID:
         leaveIfExists(m_pPrepaidDlg);
@@ -445,12 +446,14 @@ void CUSSDService::OnDlgCloseEvent()
         break;
     case PAID_TYPE_USSD_SMS:
         leaveIfExists(m_pUSSDSMSDlg);
-        m_modalPaidType = PAID_TYPE_USSD_SMS; // not reset, other than the rest
+        if (self)
+            m_modalPaidType = PAID_TYPE_USSD_SMS; // not reset, other than the rest
         return;
     default:
         return;
     }
-    m_modalPaidType = PAID_TYPE_NONE;
+    if (self)
+        m_modalPaidType = PAID_TYPE_NONE;
 }
 
 void CUSSDService::OnCloseButtonClicked()

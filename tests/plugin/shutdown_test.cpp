@@ -81,6 +81,7 @@ private:
     void insideLoopOf(const char *button, const std::function<void()> &whileItIsSo);
     void openModal(int type);
     void topUpIntoBox();
+    void hearDialogIn(QWidget *frame, int type);
     void callBack();
     void run(const QString &calls);
     void load();
@@ -323,10 +324,22 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<bool>("byWindowSystem");
+    QTest::addColumn<bool>("hearsTheDialog");
     for (int type : {3, 0, 1, 5}) {
-        QTest::addRow("%d, close()", type) << type << false;
-        QTest::addRow("%d, window system", type) << type << true;
+        QTest::addRow("%d, close()", type) << type << false << false;
+        QTest::addRow("%d, window system", type) << type << true << false;
+        QTest::addRow("%d, told by the dialog", type) << type << false << true;
     }
+}
+
+/// Before the service does, which listens anew each time the window is shown.
+void ShutdownTest::hearDialogIn(QWidget *frame, int type)
+{
+    for (QWidget *widget : frame->findChildren<QWidget *>()) {
+        if (widget->metaObject()->indexOfSignal("clickedcloseButton()") >= 0)
+            connect(widget, SIGNAL(clickedcloseButton()), this, SLOT(onClosing()));
+    }
+    openModal(type);
 }
 
 /// A host that sees a frame close and takes everything down at once; it cannot unload there.
@@ -334,11 +347,15 @@ void ShutdownTest::insideTheCloseEventOfAFrame()
 {
     QFETCH(int, type);
     QFETCH(bool, byWindowSystem);
+    QFETCH(bool, hearsTheDialog);
     allowWarning("../../src/USSDUIPlugin/");
     openModal(type);
     QPointer<QDialog> frame(m_window->findChild<QDialog *>());
     m_closing = [this] { run(QStringLiteral("uod")); };
-    connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(onClosing()));
+    if (hearsTheDialog)
+        hearDialogIn(frame, type);
+    else
+        connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(onClosing()));
     if (byWindowSystem) {
         QCloseEvent event;
         QCoreApplication::sendEvent(frame->windowHandle(), &event);
