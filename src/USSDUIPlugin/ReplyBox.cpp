@@ -79,7 +79,6 @@ QMessageBox *create(QWidget *parent, const QString &reply)
         box->setText(reply);
     else
         showInView(box, reply);
-    box->setWindowModality(Qt::ApplicationModal);
     return box;
 }
 

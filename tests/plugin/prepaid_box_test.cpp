@@ -131,7 +131,7 @@ void PrepaidBoxTest::boxIsTheDialogsOwn()
     // Not the host's, which is of a class of its own.
     QCOMPARE(messageBox()->metaObject()->className(), "QMessageBox");
     QCOMPARE(messageBox()->parentWidget(), static_cast<QWidget *>(dialog()));
-    QVERIFY(messageBox()->isModal());
+    QCOMPARE(messageBox()->windowModality(), Qt::ApplicationModal);
     QCOMPARE(messageBox()->icon(), QMessageBox::Information);
     QCOMPARE(messageBox()->windowTitle(), text("IDS_PROMPT_CAPTION"));
     QCOMPARE(messageBox()->buttons().count(), 1);
@@ -318,14 +318,18 @@ void PrepaidBoxTest::hostActsBeforeTheBoxOpens()
 
 void PrepaidBoxTest::closingTheDialogTakesTheBoxAlong()
 {
-    configure(Account());
+    Account account;
+    account.charge = chargeIntoBox();
+    configure(account);
     open();
     topUp(pin());
     logicSays(COMPONENT_CHARGE, QStringLiteral("first"));
     logicSays(COMPONENT_CHARGE, QStringLiteral("second"));
     drainEvents();
-    dialog()->OnClickedCloseButton();
+    QVERIFY(messageBox());
+    dialog()->OnClickedCloseButton(); // nobody deletes it here
     drainEvents();
+    QVERIFY(dialog());
     QVERIFY(!messageBox());
 }
 
