@@ -27,8 +27,7 @@ QString parentDirectory(const QString &path)
 } // namespace
 
 USSDEditCmd::USSDEditCmd()
-    : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false),
-      m_bDuplicateRefused(false)
+    : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false)
 {
     load();
 }

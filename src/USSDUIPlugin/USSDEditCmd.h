@@ -67,6 +67,9 @@ public slots:
     void OnCellChanged(int row, int column);
     void OnEditorClosed(QWidget *editor);
 
+private slots:
+    void OnDuplicatesFound();
+
 private:
     bool createWidgets();
     void initWidgets();
@@ -80,7 +83,9 @@ private:
     void readTableProfiles(QList<USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
     bool isDuplicate(int row, int column) const;
-    void refuseDuplicate(int row, int column);
+    void refuseLater(QTableWidgetItem *item);
+    void refuseDuplicate(QTableWidgetItem *item);
+    void sayDuplicate(int column);
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
@@ -104,8 +109,8 @@ private:
     QTableWidgetItem *m_pEditedItem; // the cell that was changed last; null and -1 when none
     int m_iEditedColumn;
     int m_iEditedRow;
+    QList<QTableWidgetItem *> m_refusedItems; // duplicates that wait for their message, or show it
     bool m_bSaved;
-    bool m_bDuplicateRefused;
 };
 
 #endif

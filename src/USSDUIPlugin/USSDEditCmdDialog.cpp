@@ -246,7 +246,7 @@ void USSDEditCmd::OnEditorClosed(QWidget *editor)
         return;
     }
     if (isDuplicate(m_iEditedRow, m_iEditedColumn))
-        refuseDuplicate(m_iEditedRow, m_iEditedColumn);
+        refuseLater(m_pEditedItem);
     else
         deselectCurrentCell();
 }
@@ -268,23 +268,52 @@ bool USSDEditCmd::isDuplicate(int row, int column) const
     return false;
 }
 
-/// Says so, and opens the cell again, empty.
-void USSDEditCmd::refuseDuplicate(int row, int column)
+/// The delegate and the table still work on the cell when they say that its editor closed. A
+/// message has an event loop, in which the host may delete both, so it opens when they are done.
+void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
-    m_bDuplicateRefused = true;
+    if (m_refusedItems.contains(item))
+        return;
+    if (m_refusedItems.isEmpty())
+        QMetaObject::invokeMethod(this, "OnDuplicatesFound", Qt::QueuedConnection);
+    m_refusedItems.append(item);
+}
+
+void USSDEditCmd::OnDuplicatesFound()
+{
+    const QPointer<USSDEditCmd> self(this);
+    while (self && !m_refusedItems.isEmpty()) {
+        if (m_pContainer && m_pContainer->isVisible())
+            refuseDuplicate(m_refusedItems.first());
+        else
+            m_refusedItems.clear(); // the window was left meanwhile
+    }
+}
+
+/// Says so, and opens the cell again, empty.
+void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
+{
+    m_pTable->setCurrentItem(item); // closes the editor that Tab opened in the next cell
+    OnEditorClosed(nullptr);        // what was typed there may be a duplicate as well
+    const QPointer<USSDEditCmd> self(this);
+    sayDuplicate(item->column());
+    if (!self || !m_pTable) // the host took the window away while the message was open
+        return;
+    m_refusedItems.removeFirst();
+    item->setText(QString());
+    m_pTable->setCurrentItem(item);
+    m_pTable->editItem(item);
+    forgetEditedCell();
+}
+
+void USSDEditCmd::sayDuplicate(int column)
+{
     const QString what = tr(
         QLatin1String(column == ProfileRows::CodeColumn ? "IDS_COMMAND_CODE" : "IDS_COMMAND_NAME"));
     PluginMessage::show(
         QMessageBox::Information, messageParent(), tr(QLatin1String("IDS_PROMPT_CAPTION")),
         tr(QLatin1String("IDC_CMDEDIT_EXISTTIP")).replace(QLatin1String("%s"), what),
         QLatin1String("IDS_OK"));
-    QTableWidgetItem *item = m_pTable ? m_pTable->item(row, column) : nullptr;
-    if (!item) // the host took the window away while the message was open
-        return;
-    item->setText(QString());
-    m_pTable->setCurrentItem(item);
-    m_pTable->editItem(item);
-    forgetEditedCell();
 }
 
 QWidget *USSDEditCmd::messageParent() const
@@ -305,13 +334,12 @@ bool USSDEditCmd::Exec()
 void USSDEditCmd::OnClickedSaveButton()
 {
     USSD_LOG_SCOPE();
-    m_bDuplicateRefused = false;
     if (m_pTable) {
         m_pTable->setCurrentCell(-1, -1); // an open editor hands over what it holds,
         OnEditorClosed(nullptr);          // but the delegate does not say that it closed
     }
-    if (!m_pTable || m_bDuplicateRefused)
-        return; // the cell that was refused is open again
+    if (!m_pTable || !m_refusedItems.isEmpty())
+        return; // the cell that is refused will be opened again
     QList<USSDProfile> newList;
     bool changed = false;
     readTableProfiles(newList, changed);

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <functional>
+
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "Languages.h"
@@ -32,13 +34,23 @@ private:
     Widget *find(const char *name);
     QString cell(int row, int column);
     void doubleClick(int row, int column);
-    QLineEdit *cellEditor() { return table()->viewport()->findChild<QLineEdit *>(); }
+    QLineEdit *cellEditor(); ///< that of the current cell
     void type(int row, int column, const QString &text);
-    /// Answers the message box that comes next and keeps its text.
+    /// Calls `act` once, from the event loop of the message box that opens next; keeps its text.
+    void whenMessageOpens(const std::function<void(QMessageBox *)> &act);
+    /// Answers the message box that comes next.
     void answerNextMessage(const QString &buttonKey);
+    void press(QMessageBox *box, const QString &buttonKey);
+    /// Opens the cell, types, and leaves it in one of the five ways.
+    void typeAndLeave(int row, int column, const QString &text, int way);
+    void shutDown(); ///< all that docs/host-integration.md allows
     QList<USSDProfile> savedProfiles();
 
+    enum WayToLeave { Tab, ClickOnSave, ClickOnAnotherCell, AnotherWindow, Return };
+    static void waysToLeave();
+
     QScopedPointer<QWidget> m_mainWindow;
+    QScopedPointer<QWidget> m_otherWindow;
     QScopedPointer<USSDEditCmd> m_editor;
     QString m_message;
     int m_messages = 0;
@@ -47,6 +59,11 @@ private slots:
     void doubleClickOnAnEmptyRowOpensAnEditor();
     void codeOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
     void nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
+    void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft_data() { waysToLeave(); }
+    void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft();
+    void messageOfADuplicateOpensOutsideTheDelegate();
+    void duplicateTypedBeforeTheMessageOpenedIsRefusedToo();
+    void duplicateIsNotSpokenOfAfterCancel();
     void readOnlyProfileCannotBeEditedAndHasItsColour();
     void savingWithoutChangesAsksNothingAndWrites();
     void typingDoesNotMoveToAMatchingRow();
@@ -68,6 +85,9 @@ private slots:
     void hostMayShutDownWhileTheEditorIsOpen_data();
     void hostMayShutDownWhileTheEditorIsOpen();
     void hostMayShutDownWhileTheQuestionIsOpen();
+    void hostMayShutDownWhileTheDuplicateMessageIsOpen_data() { waysToLeave(); }
+    void hostMayShutDownWhileTheDuplicateMessageIsOpen();
+    void hostMayShutDownBeforeTheDuplicateMessageOpens();
 };
 
 void ProfileEditorTest::setUp()
@@ -85,7 +105,10 @@ void ProfileEditorTest::setUp()
 
 void ProfileEditorTest::tearDown()
 {
+    qDeleteAll(findChildren<QTimer *>()); // of messages that did not come
     m_editor.reset();
+    m_otherWindow.reset();
+    HostState::setMiniMode(false);
     Languages::setCurrent(QStringLiteral("en"));
     PluginTest::tearDown();
     HostState::setMainWindow(nullptr);
@@ -111,6 +134,11 @@ QString ProfileEditorTest::cell(int row, int column)
     return item ? item->text() : QString();
 }
 
+QLineEdit *ProfileEditorTest::cellEditor()
+{
+    return qobject_cast<QLineEdit *>(table()->indexWidget(table()->currentIndex()));
+}
+
 void ProfileEditorTest::doubleClick(int row, int column)
 {
     table()->scrollTo(table()->model()->index(row, column));
@@ -129,26 +157,84 @@ void ProfileEditorTest::type(int row, int column, const QString &text)
     drainEvents();
 }
 
-void ProfileEditorTest::answerNextMessage(const QString &buttonKey)
+void ProfileEditorTest::whenMessageOpens(const std::function<void(QMessageBox *)> &act)
 {
     QTimer *poll = new QTimer(this);
-    connect(poll, &QTimer::timeout, this, [this, poll, buttonKey] {
-        QWidget *box = QApplication::activeModalWidget();
-        if (!box || !box->inherits("QMessageBox"))
+    connect(poll, &QTimer::timeout, this, [this, poll, act] {
+        QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
             return;
         poll->deleteLater();
         poll->stop();
         ++m_messages;
-        m_message = static_cast<QMessageBox *>(box)->text();
-        const QString text = USSDLogic::tr(buttonKey);
-        for (QPushButton *button : box->findChildren<QPushButton *>()) {
-            if (button->text() == text)
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-        static_cast<QMessageBox *>(box)->reject();
-        QFAIL("the message has no such button");
+        m_message = box->text();
+        act(box);
     });
     poll->start(1);
+}
+
+void ProfileEditorTest::press(QMessageBox *box, const QString &buttonKey)
+{
+    const QString text = USSDLogic::tr(buttonKey);
+    for (QPushButton *button : box->findChildren<QPushButton *>()) {
+        if (button->text() == text)
+            return QTest::mouseClick(button, Qt::LeftButton);
+    }
+    box->reject();
+    QFAIL("the message has no such button");
+}
+
+void ProfileEditorTest::answerNextMessage(const QString &buttonKey)
+{
+    whenMessageOpens([this, buttonKey](QMessageBox *box) { press(box, buttonKey); });
+}
+
+void ProfileEditorTest::waysToLeave()
+{
+    QTest::addColumn<int>("way");
+    QTest::addColumn<bool>("mini");
+    for (bool mini : {false, true}) {
+        const char *mode = mini ? ", mini mode" : "";
+        QTest::addRow("Tab%s", mode) << int(Tab) << mini;
+        QTest::addRow("click on Save%s", mode) << int(ClickOnSave) << mini;
+        QTest::addRow("click on another cell%s", mode) << int(ClickOnAnotherCell) << mini;
+        QTest::addRow("another window activated%s", mode) << int(AnotherWindow) << mini;
+        QTest::addRow("Return%s", mode) << int(Return) << mini;
+    }
+}
+
+void ProfileEditorTest::typeAndLeave(int row, int column, const QString &text, int way)
+{
+    QApplication::setActiveWindow(table()->window()); // or the editor has no focus to lose
+    doubleClick(row, column);
+    QVERIFY(cellEditor());
+    cellEditor()->selectAll();
+    QTest::keyClicks(cellEditor(), text);
+    const QModelIndex another = table()->model()->index(0, column);
+    switch (way) {
+    case Tab:
+        return QTest::keyClick(cellEditor(), Qt::Key_Tab);
+    case ClickOnSave:
+        return QTest::mouseClick(saveButton(), Qt::LeftButton);
+    case ClickOnAnotherCell:
+        return QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                                 table()->visualRect(another).center());
+    case AnotherWindow:
+        m_otherWindow.reset(new QWidget);
+        m_otherWindow->show();
+        return QApplication::setActiveWindow(m_otherWindow.data());
+    default:
+        return QTest::keyClick(cellEditor(), Qt::Key_Return);
+    }
+}
+
+void ProfileEditorTest::shutDown()
+{
+    if (CUSSDService *service = CUSSDService::instance())
+        service->unSDKRegisterEvent();
+    CUSSDService::Destroy();
+    HostState::setMainWindow(nullptr);
+    m_mainWindow.reset();
 }
 
 QList<USSDProfile> ProfileEditorTest::savedProfiles()
@@ -190,6 +276,73 @@ void ProfileEditorTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(m_messages, 1);
     QVERIFY(m_message.contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
     QCOMPARE(cell(4, 0), QString());
+}
+
+/// Beside the cell that is left by Tab stands one that is filled and can be edited.
+void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
+{
+    QFETCH(int, way);
+    QFETCH(bool, mini);
+    HostState::setMiniMode(mini);
+    openEditor();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    typeAndLeave(1, 0, QStringLiteral("Balance"), way);
+    drainEvents();
+    QCOMPARE(m_messages, 1);
+    drainEvents(); // a second message would hang here
+    QVERIFY(table()->isVisible());
+    QCOMPARE(cell(1, 0), QString());
+    QCOMPARE(cell(1, 1), QStringLiteral("*123#"));
+    QCOMPARE(table()->currentItem(), table()->item(1, 0));
+    QVERIFY(cellEditor());
+    QTest::keyClicks(cellEditor(), QStringLiteral("Other"));
+    QTest::keyClick(cellEditor(), Qt::Key_Return);
+    drainEvents();
+    QCOMPARE(cell(1, 0), QStringLiteral("Other"));
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing was saved
+}
+
+/// While the delegate and the view work on the cell, the host cannot be let in.
+void ProfileEditorTest::messageOfADuplicateOpensOutsideTheDelegate()
+{
+    openEditor();
+    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab); // would not come back
+    QCOMPARE(cell(1, 0), QStringLiteral("Balance"));
+    QCOMPARE(m_messages, 0);
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    drainEvents();
+    QCOMPARE(m_messages, 1);
+    QCOMPARE(cell(1, 0), QString());
+}
+
+/// Keys that came in one go with the Tab that left the first cell.
+void ProfileEditorTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
+{
+    openEditor();
+    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab);
+    QVERIFY(cellEditor());
+    cellEditor()->selectAll();
+    QTest::keyClicks(cellEditor(), QStringLiteral("*100#"));
+    whenMessageOpens([this](QMessageBox *box) {
+        QVERIFY(box->text().contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
+        answerNextMessage(QStringLiteral("IDS_OK"));
+        press(box, QStringLiteral("IDS_OK"));
+    });
+    drainEvents();
+    QCOMPARE(m_messages, 2);
+    QVERIFY(m_message.contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_CODE"))));
+    QCOMPARE(cell(1, 0), QString());
+    QCOMPARE(cell(1, 1), QString());
+    QCOMPARE(table()->currentItem(), table()->item(1, 1));
+}
+
+void ProfileEditorTest::duplicateIsNotSpokenOfAfterCancel()
+{
+    openEditor();
+    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab);
+    QTest::mouseClick(find<QPushButton>("USSDUIPlugin_ProfileDialog_CancelButton"), Qt::LeftButton);
+    drainEvents(); // a message would hang here
+    QVERIFY(!table()->isVisible());
 }
 
 void ProfileEditorTest::readOnlyProfileCannotBeEditedAndHasItsColour()
@@ -303,6 +456,10 @@ void ProfileEditorTest::duplicateFoundWhileSavingStopsIt()
     answerNextMessage(QStringLiteral("IDS_OK"));
     saveButton()->click();
     QVERIFY(table()->isVisible());
+    drainEvents();
+    QCOMPARE(m_messages, 1);
+    QCOMPARE(table()->currentItem(), table()->item(1, 1));
+    QVERIFY(cellEditor());
     QCOMPARE(savedProfiles().at(1).value, QStringLiteral("*123#"));
 }
 
@@ -446,6 +603,37 @@ void ProfileEditorTest::hostMayShutDownWhileTheQuestionIsOpen()
     QVERIFY(!table());
     QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu"));
+}
+
+void ProfileEditorTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
+{
+    QFETCH(int, way);
+    QFETCH(bool, mini);
+    HostState::setMiniMode(mini);
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QTimer::singleShot(0, this, [this, way] {
+        whenMessageOpens([this](QMessageBox *) { shutDown(); });
+        typeAndLeave(1, 0, QStringLiteral("Balance"), way);
+    });
+    editButton(m_mainWindow.data())->click(); // comes back by itself
+    drainEvents();
+    QCOMPARE(m_messages, 1);
+    QVERIFY(!m_mainWindow);
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void ProfileEditorTest::hostMayShutDownBeforeTheDuplicateMessageOpens()
+{
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QTimer::singleShot(0, this, [this] {
+        typeAndLeave(1, 0, QStringLiteral("Balance"), Tab);
+        shutDown();
+    });
+    editButton(m_mainWindow.data())->click();
+    drainEvents(); // a message would hang here
+    QVERIFY(!m_mainWindow);
 }
 
 USSD_TEST_MAIN(ProfileEditorTest)
