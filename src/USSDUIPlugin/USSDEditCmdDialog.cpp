@@ -170,9 +170,7 @@ void USSDEditCmd::initHeader()
                                       createItem(tr(QLatin1String("IDS_COMMAND_CODE")), colour));
     m_pTable->verticalHeader()->setVisible(false);
     QHeaderView *header = m_pTable->horizontalHeader();
-    // Unlike cells, heads do not follow the direction of the language by themselves.
-    header->setDefaultAlignment((m_pTable->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) |
-                                Qt::AlignVCenter);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // Qt mirrors it in Arabic
     header->setTextElideMode(Qt::ElideRight);
     header->setStretchLastSection(false);
     for (int column = 0; column < ProfileRows::ColumnCount; ++column)

@@ -18,13 +18,6 @@ const int LIMIT = 10 * TourGuide::REPLY_LIMIT; // ms
 const char CONFIGURATION[] = "USSDPluginConfig.xml";
 const char NETWORK[] = "tour.scenario";
 
-QPixmap pictureOf(QWidget *widget)
-{
-    QPixmap picture(widget->size());
-    widget->render(&picture);
-    return picture;
-}
-
 /// The box in the middle of what it was opened over, with a line around it.
 QPixmap laidOver(QPixmap below, const QPixmap &box)
 {
@@ -43,7 +36,7 @@ QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
     place.setX(qBound(0, place.x(), qMax(0, below.width() - over->width())));
     place.setY(qBound(0, place.y(), qMax(0, below.height() - over->height())));
     QPainter painter(&below);
-    painter.drawPixmap(place, pictureOf(over));
+    painter.drawPixmap(place, over->grab());
     painter.drawRect(QRect(place, over->size()).adjusted(-1, -1, 0, 0));
     return below;
 }
@@ -136,8 +129,7 @@ void TourGuide::close()
 bool TourGuide::take(const TourStop &stop)
 {
     settle();
-    return m_shown ? m_album->add(pictureOf(m_shown), m_place, stop, shownText(m_shown))
-                   : failHere();
+    return m_shown ? m_album->add(m_shown->grab(), m_place, stop, shownText(m_shown)) : failHere();
 }
 
 bool TourGuide::takeWith(QWidget *over, const TourStop &stop)
@@ -145,7 +137,7 @@ bool TourGuide::takeWith(QWidget *over, const TourStop &stop)
     settle();
     if (!m_shown || !over)
         return failHere();
-    return m_album->add(laidAt(pictureOf(m_shown), m_shown, over), m_place, stop, shownText(over));
+    return m_album->add(laidAt(m_shown->grab(), m_shown, over), m_place, stop, shownText(over));
 }
 
 void TourGuide::expectBox(const TourStop &stop)
@@ -187,8 +179,8 @@ void TourGuide::onBox()
         return;
     settle();
     if (m_boxStop.name && !m_boxTaken && m_shown)
-        m_boxTaken = m_album->add(laidOver(pictureOf(m_shown), pictureOf(m_box)), m_place,
-                                  m_boxStop, shownText(m_box));
+        m_boxTaken = m_album->add(laidOver(m_shown->grab(), m_box->grab()), m_place, m_boxStop,
+                                  shownText(m_box));
     if (QAbstractButton *first = m_box->buttons().value(0))
         first->click();
 }

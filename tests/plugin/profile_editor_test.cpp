@@ -77,7 +77,9 @@ private slots:
     void cancelSavesNothing();
     void columnsAndSizesAreFixed();
     void codeReadsLeftToRightInArabic();
+    void headsStandWhereTheirColumnsBegin_data();
     void headsStandWhereTheirColumnsBegin();
+    void codeIsPaintedLeftToRightAtTheRightInArabic();
     void upAndDownStayInsideTheCell();
 
     void editButtonFollowsTheConfiguration();
@@ -473,6 +475,19 @@ void ProfileEditorTest::cancelSavesNothing()
     QVERIFY(!QFile::exists(userFolder() + QLatin1String("ussdprofile.xml")));
 }
 
+/// What differs between two pictures, in one part of them.
+static QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
+{
+    QRect difference;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y))
+                difference |= QRect(x, y, 1, 1);
+        }
+    }
+    return difference;
+}
+
 // ---- looks -----------------------------------------------------------------------------------
 
 void ProfileEditorTest::columnsAndSizesAreFixed()
@@ -499,13 +514,57 @@ void ProfileEditorTest::codeReadsLeftToRightInArabic()
     QCOMPARE(cellEditor()->layoutDirection(), Qt::LeftToRight);
 }
 
+void ProfileEditorTest::headsStandWhereTheirColumnsBegin_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("fromTheRight");
+    QTest::newRow("English") << QStringLiteral("en") << false;
+    QTest::newRow("Arabic") << QStringLiteral("ar") << true;
+}
+
+/// On the screen: a picture made with QWidget::render() is not mirrored as the screen is.
 void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
 {
+    QFETCH(QString, language);
+    QFETCH(bool, fromTheRight);
+    QVERIFY(Languages::setCurrent(language));
     openEditor();
-    QCOMPARE(table()->horizontalHeader()->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    QHeaderView *header = table()->horizontalHeader();
+    QCOMPARE(header->isRightToLeft(), fromTheRight);
+    const QImage written = header->grab().toImage();
+    for (int column = 0; column < 2; ++column)
+        table()->horizontalHeaderItem(column)->setText(QString());
+    const QImage blank = header->grab().toImage();
+    for (int column = 0; column < 2; ++column) {
+        const QRect section(header->sectionViewportPosition(column), 0, header->sectionSize(column),
+                            header->height());
+        const QRect ink = differenceOf(written, blank, section);
+        QVERIFY(!ink.isEmpty());
+        const int left = ink.left() - section.left();
+        const int right = section.right() - ink.right();
+        QVERIFY2((fromTheRight ? right : left) < 10, qPrintable(QString::number(left)));
+        QVERIFY2((fromTheRight ? left : right) > 30, qPrintable(QString::number(right)));
+        QVERIFY(qAbs(ink.center().y() - section.center().y()) < 4);
+    }
+    QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+/// In the order of Arabic it would read "#123*". A star is lower than a hash, and has no feet.
+void ProfileEditorTest::codeIsPaintedLeftToRightAtTheRightInArabic()
+{
     QVERIFY(Languages::setCurrent(QStringLiteral("ar")));
     openEditor();
-    QCOMPARE(table()->horizontalHeader()->defaultAlignment(), Qt::AlignRight | Qt::AlignVCenter);
+    const QRect cell = table()->visualItemRect(table()->item(1, 1));
+    const QImage written = table()->viewport()->grab(cell).toImage();
+    table()->item(1, 1)->setText(QString());
+    const QImage blank = table()->viewport()->grab(cell).toImage();
+    const QRect ink = differenceOf(written, blank, blank.rect());
+    QVERIFY2(ink.left() > cell.width() / 2, qPrintable(QString::number(ink.left())));
+    const int glyph = ink.width() / 6;
+    const QRect first = differenceOf(written, blank, QRect(ink.left(), 0, glyph, cell.height()));
+    const QRect last =
+        differenceOf(written, blank, QRect(ink.right() - glyph, 0, glyph, cell.height()));
+    QVERIFY(first.bottom() < last.bottom());
 }
 
 void ProfileEditorTest::upAndDownStayInsideTheCell()
