@@ -9,22 +9,39 @@ QString cellText(const QString &cell, const QString &before)
     return cell == before ? before : cell.trimmed();
 }
 
-USSDProfile newProfile()
+bool isBlank(const QString &text)
 {
-    USSDProfile profile;
-    profile.showButton = true;
-    return profile;
+    return text.trimmed().isEmpty();
 }
 
-USSDProfile profileOfRow(const ProfileRows::Row &row, const USSDProfile &before)
+bool isSame(const ProfileRows::Row &row, const USSDProfile &profile)
+{
+    return row.name == profile.name && row.code == profile.value;
+}
+
+/// Emptying the code takes a profile away. One that came without a code goes with its name.
+bool isTakenAway(const ProfileRows::Row &row, const USSDProfile &before)
+{
+    return isBlank(row.code) && (!isBlank(before.value) || isBlank(row.name));
+}
+
+USSDProfile editedProfile(const ProfileRows::Row &row, const USSDProfile &before)
 {
     USSDProfile profile = before;
     profile.value = cellText(row.code, before.value);
-    profile.name = cellText(row.name, before.name);
-    if (profile.name.trimmed().isEmpty())
-        profile.name = profile.value;
-    if (profile.name != before.name)
-        profile.langID.clear(); // the translated text would hide the new name
+    if (row.name == before.name)
+        return profile;
+    profile.name = isBlank(row.name) ? profile.value.trimmed() : row.name.trimmed();
+    profile.langID.clear(); // the translated text would hide the new name
+    return profile;
+}
+
+USSDProfile profileOfNewRow(const ProfileRows::Row &row)
+{
+    USSDProfile profile;
+    profile.showButton = true;
+    profile.value = row.code.trimmed();
+    profile.name = isBlank(row.name) ? profile.value : row.name.trimmed();
     return profile;
 }
 
@@ -37,9 +54,15 @@ QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &sh
 {
     QList<USSDProfile> result;
     for (int i = 0; i < rows.count(); ++i) {
-        if (rows.at(i).code.trimmed().isEmpty())
-            continue;
-        result.append(profileOfRow(rows.at(i), i < shown.count() ? shown.at(i) : newProfile()));
+        const Row &row = rows.at(i);
+        if (i >= shown.count()) {
+            if (!isBlank(row.code))
+                result.append(profileOfNewRow(row));
+        } else if (isSame(row, shown.at(i))) {
+            result.append(shown.at(i));
+        } else if (!isTakenAway(row, shown.at(i))) {
+            result.append(editedProfile(row, shown.at(i)));
+        }
     }
     return result + shown.mid(rows.count());
 }

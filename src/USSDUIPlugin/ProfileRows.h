@@ -22,7 +22,9 @@ struct Row {
 
 /// The profiles that these rows stand for, in order. Row i showed profile i of `shown`, as far as
 /// there was one; what a person changed there is taken over, the rest of the profile stays. A row
-/// without a code is left out, since nothing could be sent. Profiles beyond the rows are kept.
+/// whose code was emptied is left out, and so is a new one without a code, since nothing could be
+/// sent. A profile that came without a code or a name stays as it was. Profiles beyond the rows are
+/// kept.
 QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &shown);
 
 /// Whether the number of profiles, or any name or code, differs.

@@ -66,6 +66,7 @@ private slots:
     void duplicateIsNotSpokenOfAfterCancel();
     void readOnlyProfileCannotBeEditedAndHasItsColour();
     void savingWithoutChangesAsksNothingAndWrites();
+    void savingWithoutChangesKeepsProfilesWithoutNameOrCode();
     void typingDoesNotMoveToAMatchingRow();
     void cellEditorTakesFortyCharacters();
 
@@ -377,6 +378,21 @@ void ProfileEditorTest::savingWithoutChangesAsksNothingAndWrites()
     QVERIFY(QFile::exists(userFile));
     QVERIFY(!table()->isVisible());
     QCOMPARE(savedProfiles().count(), 2);
+}
+
+void ProfileEditorTest::savingWithoutChangesKeepsProfilesWithoutNameOrCode()
+{
+    QByteArray items;
+    for (const char *readonly : {"false", "true"})
+        items += profileItem("", "*1#", readonly, "true", "IDS_OK") +
+                 profileItem("Name", "", readonly, "true", "IDS_OK") +
+                 profileItem("", "", readonly, "false", "", "IDS_OK");
+    writeSystemProfiles(profileFile(items));
+    const QList<USSDProfile> before = savedProfiles();
+    QCOMPARE(before.count(), 6);
+    openEditor();
+    saveButton()->click(); // a question would hang here
+    QVERIFY(savedProfiles() == before);
 }
 
 void ProfileEditorTest::typingDoesNotMoveToAMatchingRow()

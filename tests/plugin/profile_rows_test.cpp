@@ -12,6 +12,13 @@ private slots:
     void rowWithoutCodeIsLeftOut();
     void codeServesAsNameWhenThereIsNone();
     void untouchedProfileStaysAsItIs();
+    void untouchedProfileWithoutNameOrCodeStaysAsItIs_data();
+    void untouchedProfileWithoutNameOrCodeStaysAsItIs();
+    void editedCodeLeavesAMissingNameAsItIs();
+    void editedNameLeavesAMissingCodeAsItIs();
+    void emptiedCodeTakesTheProfileAway();
+    void emptiedNameOfAProfileWithoutCodeTakesItAway();
+    void emptiedNameIsReplacedByTheCode();
     void editedCodeKeepsTheTranslatedName();
     void editedNameDropsTheTranslatedName();
     void newRowIsAUserProfileWithAButton();
@@ -64,6 +71,76 @@ void ProfileRowsTest::codeServesAsNameWhenThereIsNone()
 void ProfileRowsTest::untouchedProfileStaysAsItIs()
 {
     QVERIFY(read({row("Balance", " *100# ")}, {fullProfile()}).at(0) == fullProfile());
+}
+
+void ProfileRowsTest::untouchedProfileWithoutNameOrCodeStaysAsItIs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("readonly");
+    for (bool readonly : {false, true}) {
+        const char *kind = readonly ? ", read-only" : "";
+        QTest::addRow("no name%s", kind) << QString() << QStringLiteral("*1#") << readonly;
+        QTest::addRow("no code%s", kind) << QStringLiteral("Name") << QString() << readonly;
+        QTest::addRow("blank code%s", kind)
+            << QStringLiteral("Name") << QStringLiteral(" ") << readonly;
+        QTest::addRow("neither%s", kind) << QString() << QString() << readonly;
+    }
+}
+
+void ProfileRowsTest::untouchedProfileWithoutNameOrCodeStaysAsItIs()
+{
+    USSDProfile profile = fullProfile();
+    QFETCH(QString, name);
+    QFETCH(QString, code);
+    QFETCH(bool, readonly);
+    profile.name = name;
+    profile.value = code;
+    profile.readonly = readonly;
+    const QList<USSDProfile> saved = read({{name, code}}, {profile});
+    QCOMPARE(saved.count(), 1);
+    QVERIFY(saved.at(0) == profile);
+}
+
+void ProfileRowsTest::editedCodeLeavesAMissingNameAsItIs()
+{
+    USSDProfile profile = fullProfile();
+    profile.name.clear();
+    USSDProfile expected = profile;
+    expected.value = QStringLiteral("*101#");
+    QVERIFY(read({row("", "*101#")}, {profile}).at(0) == expected);
+}
+
+void ProfileRowsTest::editedNameLeavesAMissingCodeAsItIs()
+{
+    USSDProfile profile = fullProfile();
+    profile.value.clear();
+    USSDProfile expected = profile;
+    expected.name = QStringLiteral("Other");
+    expected.langID.clear();
+    const QList<USSDProfile> saved = read({row("Other", "")}, {profile});
+    QCOMPARE(saved.count(), 1);
+    QVERIFY(saved.at(0) == expected);
+}
+
+void ProfileRowsTest::emptiedCodeTakesTheProfileAway()
+{
+    QVERIFY(read({row("Balance", " ")}, {fullProfile()}).isEmpty());
+}
+
+void ProfileRowsTest::emptiedNameOfAProfileWithoutCodeTakesItAway()
+{
+    USSDProfile profile = fullProfile();
+    profile.value.clear();
+    QVERIFY(read({row(" ", "")}, {profile}).isEmpty());
+}
+
+void ProfileRowsTest::emptiedNameIsReplacedByTheCode()
+{
+    USSDProfile expected = fullProfile();
+    expected.name = QStringLiteral("*100#");
+    expected.langID.clear();
+    QVERIFY(read({row(" ", " *100# ")}, {fullProfile()}).at(0) == expected);
 }
 
 void ProfileRowsTest::editedCodeKeepsTheTranslatedName()
