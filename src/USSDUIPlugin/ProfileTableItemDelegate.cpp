@@ -1,5 +1,6 @@
 #include "ProfileTableItemDelegate.h"
 
+#include <QLineEdit>
 #include <QModelIndex>
 
 #include "CodeText.h"
@@ -11,6 +12,11 @@ namespace
 
 const int kMaxCellText = 40;
 
+QString textOf(const QModelIndex &index)
+{
+    return index.data(Qt::EditRole).toString();
+}
+
 } // namespace
 
 ProfileTableItemDelegate::ProfileTableItemDelegate(QObject *parent) : QItemDelegate(parent) {}
@@ -20,11 +26,20 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
 {
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
-    edit->setMaxLength(kMaxCellText);
+    // A longer text comes from the file. The editor must not cut it.
+    edit->setMaxLength(qMax(kMaxCellText, int(textOf(index).length())));
     edit->setFrame(false); // the rows are low
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);
     return edit;
+}
+
+void ProfileTableItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
+                                            const QModelIndex &index) const
+{
+    const QLineEdit *edit = qobject_cast<QLineEdit *>(editor);
+    if (edit && edit->text() != textOf(index))
+        model->setData(index, edit->text().trimmed());
 }
 
 void ProfileTableItemDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option,

@@ -82,6 +82,7 @@ private:
     /// The profiles that the table stands for, and whether that is a change.
     void readTableProfiles(QList<USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
+    QString savedText(int row, int column) const;
     bool isDuplicate(int row, int column) const;
     void refuseLater(QTableWidgetItem *item);
     void refuseDuplicate(QTableWidgetItem *item);

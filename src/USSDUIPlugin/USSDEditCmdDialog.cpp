@@ -258,12 +258,20 @@ void USSDEditCmd::deselectCurrentCell()
 /// Whether another row of the column has the same text, which is not empty.
 bool USSDEditCmd::isDuplicate(int row, int column) const
 {
-    const QString text = cellText(row, column);
+    const QString text = savedText(row, column);
     for (int other = 0; other < m_pTable->rowCount(); ++other) {
-        if (other != row && !text.isEmpty() && cellText(other, column) == text)
+        if (other != row && !text.isEmpty() && savedText(other, column) == text)
             return true;
     }
     return false;
+}
+
+/// A code is saved without the blanks around it, which may stand in a file that was written by
+/// hand.
+QString USSDEditCmd::savedText(int row, int column) const
+{
+    const QString text = cellText(row, column);
+    return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
 /// The delegate and the table still work on the cell when they say that its editor closed. A

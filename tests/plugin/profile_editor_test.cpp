@@ -69,6 +69,12 @@ private slots:
     void savingWithoutChangesKeepsProfilesWithoutNameOrCode();
     void typingDoesNotMoveToAMatchingRow();
     void cellEditorTakesFortyCharacters();
+    void longerTextSurvivesItsEditor();
+    void longerTextIsNotCutByAnEdit();
+    void blanksAroundWhatIsTypedAreDropped();
+    void codeThatDiffersInBlanksOnlyIsADuplicate_data();
+    void codeThatDiffersInBlanksOnlyIsADuplicate();
+    void blanksAloneAreAnEmptyCell();
 
     void savingChangesAsksFirst();
     void refusedQuestionLeavesTheEdits();
@@ -408,6 +414,79 @@ void ProfileEditorTest::cellEditorTakesFortyCharacters()
     openEditor();
     type(3, 0, QString(60, QLatin1Char('n')));
     QCOMPARE(cell(3, 0), QString(40, QLatin1Char('n')));
+}
+
+static QByteArray longCode()
+{
+    return "*100*" + QByteArray(60, '1') + '#';
+}
+
+void ProfileEditorTest::longerTextSurvivesItsEditor()
+{
+    writeSystemProfiles(profileFile(profileItem(QByteArray(50, 'n'), longCode())));
+    openEditor();
+    for (int column = 0; column < 2; ++column) {
+        doubleClick(0, column);
+        QTest::keyClick(cellEditor(), Qt::Key_Return);
+        drainEvents();
+    }
+    QCOMPARE(cell(0, 0), QString(50, QLatin1Char('n')));
+    QCOMPARE(cell(0, 1), QString::fromLatin1(longCode()));
+    saveButton()->click(); // a question would hang here
+    QCOMPARE(savedProfiles().at(0).value, QString::fromLatin1(longCode()));
+}
+
+void ProfileEditorTest::longerTextIsNotCutByAnEdit()
+{
+    writeSystemProfiles(profileFile(profileItem("Long", longCode())));
+    openEditor();
+    doubleClick(0, 1);
+    QTest::keyClick(cellEditor(), Qt::Key_End);
+    QTest::keyClicks(cellEditor(), QStringLiteral("9"));
+    QTest::keyClick(cellEditor(), Qt::Key_Home);
+    QTest::keyClick(cellEditor(), Qt::Key_Delete);
+    QTest::keyClick(cellEditor(), Qt::Key_Return);
+    drainEvents();
+    QCOMPARE(cell(0, 1), QString::fromLatin1(longCode().mid(1)));
+}
+
+void ProfileEditorTest::blanksAroundWhatIsTypedAreDropped()
+{
+    openEditor();
+    type(4, 0, QStringLiteral("  My  code "));
+    type(4, 1, QStringLiteral(" *5# "));
+    QCOMPARE(cell(4, 0), QStringLiteral("My  code"));
+    QCOMPARE(cell(4, 1), QStringLiteral("*5#"));
+}
+
+void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("typed with a blank") << QStringLiteral("*123# ");
+    QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
+}
+
+/// A code is saved without the blanks around it, and the second one of two would not be read again.
+void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate()
+{
+    QFETCH(QString, typed);
+    writeSystemProfiles(
+        profileFile(profileItem("Balance", " *100# ") + profileItem("Menu", "*123#")));
+    openEditor();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    type(4, 1, typed);
+    QCOMPARE(m_messages, 1);
+    QCOMPARE(cell(4, 1), QString());
+}
+
+void ProfileEditorTest::blanksAloneAreAnEmptyCell()
+{
+    openEditor();
+    clearLog();
+    type(4, 1, QStringLiteral("  "));
+    type(5, 1, QStringLiteral("  ")); // no duplicate
+    QCOMPARE(cell(4, 1), QString());
+    QVERIFY(timesLogged("OnEditorClosed Exit: empty string ") > 0);
 }
 
 // ---- saving ----------------------------------------------------------------------------------
