@@ -123,6 +123,16 @@
         <source>IDC_CMDEDIT_SAVETIP</source>
         <translation>هل تريد حفظ التغييرات؟</translation>
     </message>
+    <message>
+        <source>IDC_CMDEDIT_DAMAGEDTIP</source>
+        <translation>هذا الملف تالف ولم يُقرأ إلا جزء منه، لذلك لا يُستبدل. أصلحه أو احذفه:
+%s</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_WRITETIP</source>
+        <translation>لا تُحفظ التغييرات لأنه لا يمكن الكتابة في هذا الملف:
+%s</translation>
+    </message>
     <!-- prepaid and postpaid dialog -->
     <message>
         <source>IDS_WINDOW_TETLE_PREPAID</source>

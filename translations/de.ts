@@ -123,6 +123,16 @@
         <source>IDC_CMDEDIT_SAVETIP</source>
         <translation>Änderungen speichern?</translation>
     </message>
+    <message>
+        <source>IDC_CMDEDIT_DAMAGEDTIP</source>
+        <translation>Diese Datei ist beschädigt und wurde nur zum Teil gelesen; deshalb wird sie nicht überschrieben. Bitte reparieren oder löschen:
+%s</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_WRITETIP</source>
+        <translation>Die Änderungen werden nicht gespeichert, weil diese Datei nicht geschrieben werden kann:
+%s</translation>
+    </message>
     <!-- prepaid and postpaid dialog -->
     <message>
         <source>IDS_WINDOW_TETLE_PREPAID</source>

@@ -123,6 +123,16 @@
         <source>IDC_CMDEDIT_SAVETIP</source>
         <translation>Save the changes?</translation>
     </message>
+    <message>
+        <source>IDC_CMDEDIT_DAMAGEDTIP</source>
+        <translation>This file is damaged and was read in part only, so it is not saved over. Please repair or delete it:
+%s</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_WRITETIP</source>
+        <translation>The changes are not saved, because this file cannot be written:
+%s</translation>
+    </message>
     <!-- prepaid and postpaid dialog -->
     <message>
         <source>IDS_WINDOW_TETLE_PREPAID</source>

@@ -123,6 +123,16 @@
         <source>IDC_CMDEDIT_SAVETIP</source>
         <translation>¿Guardar los cambios?</translation>
     </message>
+    <message>
+        <source>IDC_CMDEDIT_DAMAGEDTIP</source>
+        <translation>Este archivo está dañado y solo se ha leído en parte, por lo que no se sobrescribe. Repárelo o elimínelo:
+%s</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_WRITETIP</source>
+        <translation>Los cambios no se guardan porque no se puede escribir en este archivo:
+%s</translation>
+    </message>
     <!-- prepaid and postpaid dialog -->
     <message>
         <source>IDS_WINDOW_TETLE_PREPAID</source>

@@ -123,6 +123,16 @@
         <source>IDC_CMDEDIT_SAVETIP</source>
         <translation>Enregistrer les modifications&#xa0;?</translation>
     </message>
+    <message>
+        <source>IDC_CMDEDIT_DAMAGEDTIP</source>
+        <translation>Ce fichier est endommagé et n’a été lu qu’en partie&#xa0;; il n’est donc pas remplacé. Réparez-le ou supprimez-le&#xa0;:
+%s</translation>
+    </message>
+    <message>
+        <source>IDC_CMDEDIT_WRITETIP</source>
+        <translation>Les modifications ne sont pas enregistrées, car ce fichier ne peut pas être écrit&#xa0;:
+%s</translation>
+    </message>
     <!-- prepaid and postpaid dialog -->
     <message>
         <source>IDS_WINDOW_TETLE_PREPAID</source>

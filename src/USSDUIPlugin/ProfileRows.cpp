@@ -67,6 +67,16 @@ QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &sh
     return result + shown.mid(rows.count());
 }
 
+QList<USSDProfile> ofFile(const QList<USSDProfile> &profiles, bool isSystem)
+{
+    QList<USSDProfile> result;
+    for (int i = 0; i < profiles.count(); ++i) {
+        if (profiles.at(i).isSystem == isSystem)
+            result.append(profiles.at(i));
+    }
+    return result;
+}
+
 bool differ(const QList<USSDProfile> &a, const QList<USSDProfile> &b)
 {
     if (a.count() != b.count())

@@ -27,6 +27,9 @@ struct Row {
 /// kept.
 QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &shown);
 
+/// Those of the system file, or the others, in order.
+QList<USSDProfile> ofFile(const QList<USSDProfile> &profiles, bool isSystem);
+
 /// Whether the number of profiles, or any name or code, differs.
 bool differ(const QList<USSDProfile> &a, const QList<USSDProfile> &b);
 

@@ -10,6 +10,7 @@
 #include "ForwardXml.h"
 #include "InputFile.h"
 #include "PluginLog.h"
+#include "ProfileRows.h"
 #include "ProfileXml.h"
 #include "SdkRecords.h"
 #include "tksv.h"
@@ -27,7 +28,8 @@ QString parentDirectory(const QString &path)
 } // namespace
 
 USSDEditCmd::USSDEditCmd()
-    : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false)
+    : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false),
+      m_bSystemFileWhole(true), m_bUserFileWhole(true)
 {
     load();
 }
@@ -95,6 +97,7 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
     QFile file(xmlFilePath);
     QString problem;
     if (!InputFile::open(file, QIODevice::Text, problem)) {
+        noteReading(isSystem, !file.exists());
         USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
                            problem.toLocal8Bit().constData());
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
@@ -118,7 +121,14 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
             codes.insert(profile.value);
         m_listUSSDProfiles.append(profile);
     }
+    noteReading(isSystem, !reader.hasError() || file.size() == 0);
     USSD_LOG(" Exit");
+}
+
+/// What was not read whole must not be saved over.
+void USSDEditCmd::noteReading(bool isSystem, bool isWhole)
+{
+    (isSystem ? m_bSystemFileWhole : m_bUserFileWhole) = isWhole;
 }
 
 void USSDEditCmd::load()
@@ -139,14 +149,20 @@ void USSDEditCmd::GetProfileList(QList<USSDProfile> &list)
     list = m_listUSSDProfiles;
 }
 
-int USSDEditCmd::saveToXMLFile(bool isSystem)
+QString USSDEditCmd::profileFilePath(bool isSystem)
 {
-    USSD_LOG(" Enter");
     QString path;
     if (isSystem)
         getSystemProfileXMLFilePath(path);
     else
         getUserProfileXMLFilePath(path);
+    return path;
+}
+
+int USSDEditCmd::saveToXMLFile(bool isSystem)
+{
+    USSD_LOG(" Enter");
+    const QString path = profileFilePath(isSystem);
     if (path.isEmpty()) {
         USSD_LOG_IMPORTANT(" Fail Exit: user profile file name is empty");
         return SAVE_NO_PATH;
@@ -164,12 +180,7 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: XML file open failed");
         return SAVE_NOT_OPENED;
     }
-    QList<USSDProfile> profiles;
-    for (int i = 0; i < m_listUSSDProfiles.count(); ++i) {
-        if (m_listUSSDProfiles.at(i).isSystem == isSystem)
-            profiles.append(m_listUSSDProfiles.at(i));
-    }
-    ProfileXml::write(file, profiles);
+    ProfileXml::write(file, ProfileRows::ofFile(m_listUSSDProfiles, isSystem));
     file.close();
     USSD_LOG(" Exit");
     return SAVE_OK;

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 #include "ExtendDialog.h"
 #include "PluginConfig.h"
@@ -90,9 +91,26 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
+    /// What saving meets that the user has to know, as texts.
+    struct SavePlan {
+        SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
+
+        bool writesSystemFile;
+        bool writesUserFile;
+        bool losesChanges;
+        QStringList refusals;
+    };
+    SavePlan planSaving(const QList<USSDProfile> &newList);
+    bool planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan);
+    void saveAsPlanned(SavePlan &plan);
+    void saveFile(bool isSystem, SavePlan &plan);
+    QString fileText(const char *key, bool isSystem);
+    void sayRefusals(const SavePlan &plan);
     void closeWindow();
     QWidget *messageParent() const;
 
+    QString profileFilePath(bool isSystem);
+    void noteReading(bool isSystem, bool isWhole);
     QString movedLegacyFile(const QString &oldPath, const QString &newPath);
     bool makeParentDirectory(const QString &path, bool isSystem);
 
@@ -112,6 +130,8 @@ private:
     int m_iEditedRow;
     QList<QTableWidgetItem *> m_refusedItems; // duplicates that wait for their message, or show it
     bool m_bSaved;
+    bool m_bSystemFileWhole; // whether all of the file was read, or there was none
+    bool m_bUserFileWhole;
 };
 
 #endif

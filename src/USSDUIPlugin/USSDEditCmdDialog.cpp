@@ -13,6 +13,7 @@
 #include "PluginLog.h"
 #include "PluginMessage.h"
 #include "PluginText.h"
+#include "ProfileFile.h"
 #include "ProfileRows.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
@@ -353,12 +354,78 @@ void USSDEditCmd::OnClickedSaveButton()
         USSD_LOG(" No is pressed");
         return;
     }
+    SavePlan plan = planSaving(newList);
+    if (plan.losesChanges)
+        return sayRefusals(plan); // the window stays open, with the changes
     m_listUSSDProfiles = newList;
     USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
-    saveToXMLFile(true);
-    saveToXMLFile(false);
+    saveAsPlanned(plan);
+}
+
+/// Saving deletes the old files first, so whatever is in its way has to be found before.
+USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
+{
+    SavePlan plan;
+    plan.writesSystemFile = planFile(true, newList, plan);
+    plan.writesUserFile = planFile(false, newList, plan);
+    return plan;
+}
+
+/// Whether the file is to be written. One that nobody changed, and that cannot be written, may stay
+/// as it is: the system file often belongs to root.
+bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
+{
+    const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
+    const bool isWhole = isSystem ? m_bSystemFileWhole : m_bUserFileWhole;
+    const bool isWritten =
+        isWhole && ProfileFile::canBeSaved(profileFilePath(isSystem), profiles,
+                                           isSystem ? ProfileFile::FolderIsNotMade
+                                                    : ProfileFile::FolderIsMade);
+    const bool loses =
+        !isWritten &&
+        ProfileRows::differ(profiles, ProfileRows::ofFile(m_listUSSDProfiles, isSystem));
+    if (!isWhole)
+        plan.refusals.append(fileText("IDC_CMDEDIT_DAMAGEDTIP", isSystem));
+    else if (loses)
+        plan.refusals.append(fileText("IDC_CMDEDIT_WRITETIP", isSystem));
+    plan.losesChanges = plan.losesChanges || loses;
+    return isWritten;
+}
+
+void USSDEditCmd::saveAsPlanned(SavePlan &plan)
+{
+    const QPointer<USSDEditCmd> self(this);
+    if (plan.writesSystemFile)
+        saveFile(true, plan);
+    if (plan.writesUserFile)
+        saveFile(false, plan);
+    sayRefusals(plan);
+    if (!self)
+        return;
     closeWindow();
     m_bSaved = true;
+}
+
+void USSDEditCmd::saveFile(bool isSystem, SavePlan &plan)
+{
+    if (saveToXMLFile(isSystem) != SAVE_OK)
+        plan.refusals.append(fileText("IDC_CMDEDIT_WRITETIP", isSystem));
+}
+
+QString USSDEditCmd::fileText(const char *key, bool isSystem)
+{
+    const QString path = profileFilePath(isSystem);
+    return tr(QLatin1String(key))
+        .replace(QLatin1String("%s"),
+                 path.isEmpty() ? QString(QLatin1String("ussdprofile.xml")) : path);
+}
+
+void USSDEditCmd::sayRefusals(const SavePlan &plan)
+{
+    if (!plan.refusals.isEmpty())
+        PluginMessage::show(QMessageBox::Information, messageParent(),
+                            tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                            plan.refusals.join(QLatin1String("\n\n")), QLatin1String("IDS_OK"));
 }
 
 bool USSDEditCmd::confirmSaving()

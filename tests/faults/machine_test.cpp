@@ -48,7 +48,8 @@ private slots:
     void withoutAHomeItSaysSo();
     void aReadOnlyHomeIsSaid();
     void aDiskThatIsFullFromTheStartIsSaid();
-    void codesLostOnAFullDiskAreOfferedBack();
+    void aDiskThatIsFullWhenCodesAreSavedIsSaid();
+    void codesThatWereLostAreOfferedBack();
     void halfAFileOfCodesIsOfferedBack();
     void aKillWhileSavingIsMendedByTheNextStart();
     void withoutFontsItSaysSo();
@@ -189,16 +190,22 @@ void MachineTest::aDiskThatIsFullFromTheStartIsSaid()
              result.all().constData());
 }
 
-void MachineTest::codesLostOnAFullDiskAreOfferedBack()
+void MachineTest::aDiskThatIsFullWhenCodesAreSavedIsSaid()
 {
     makeCopy();
     fault("full", 1);
     set("USSD_USER_SAVES", text("*888#"));
     const Run saving = run();
     QVERIFY2(saving.isGood(), saving.all().constData());
-    QVERIFY(contentOf(codesFile()).isEmpty()); // as the plug-in saves: the old file goes first
-    m_environment.remove(text("USSD_USER_SAVES"));
-    m_environment.remove(text("USSD_DISK_FAULT"));
+    QVERIFY2(saving.out.contains(text("The changes are not saved")), saving.all().constData());
+    QVERIFY2(saving.out.contains(codesFile()), saving.all().constData());
+    QCOMPARE(contentOf(codesFile()), QByteArray(OWN_CODES));
+}
+
+void MachineTest::codesThatWereLostAreOfferedBack()
+{
+    makeCopy();
+    QVERIFY(QFile::remove(codesFile()));
     const Run next = run();
     QVERIFY2(next.isGood(), next.all().constData());
     QVERIFY2(next.out.contains(text("box: The file with your own")), next.all().constData());

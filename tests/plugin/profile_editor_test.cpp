@@ -3,14 +3,18 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
 
 #include <functional>
 
+#include <sys/stat.h>
+
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "ProcessLimits.h"
 #include "ProfileLineEdit.h"
 #include "ProfileRows.h"
 #include "USSDEditCmd.h"
@@ -43,6 +47,10 @@ private:
     void press(QMessageBox *box, const QString &buttonKey);
     /// Opens the cell, types, and leaves it in one of the five ways.
     void typeAndLeave(int row, int column, const QString &text, int way);
+    QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
+    QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
+    /// Answers the question whether to save, and acknowledges the message behind it.
+    void saveAndAcknowledge();
     void shutDown(); ///< all that docs/host-integration.md allows
     QList<USSDProfile> savedProfiles();
 
@@ -82,6 +90,19 @@ private slots:
     void openEditorIsCommittedBySaving();
     void duplicateFoundWhileSavingStopsIt();
     void cancelSavesNothing();
+
+    void fileThatIsNotWholeIsNotSavedOver_data();
+    void fileThatIsNotWholeIsNotSavedOver();
+    void damagedSystemFileLeavesOwnCodesToBeSaved();
+    void editOfADamagedFileStaysInTheWindow();
+    void emptyFileIsSavedOver();
+    void systemFileOfRootLeavesOwnCodesToBeSaved();
+    void changeOfAFileThatCannotBeWrittenIsSaidAndKept_data();
+    void changeOfAFileThatCannotBeWrittenIsSaidAndKept();
+    void fullDiskIsSaidBeforeOldCodesAreLost();
+    void missingUserFolderIsSaid();
+    void fileThatFailsWhileItIsWrittenIsSaid();
+    void hostMayShutDownWhileTheRefusalIsOpen();
     void columnsAndSizesAreFixed();
     void codeReadsLeftToRightInArabic();
     void headsStandWhereTheirColumnsBegin_data();
@@ -176,7 +197,8 @@ void ProfileEditorTest::whenMessageOpens(const std::function<void(QMessageBox *)
         poll->deleteLater();
         poll->stop();
         ++m_messages;
-        m_message = box->text();
+        const QPlainTextEdit *longText = box->findChild<QPlainTextEdit *>(); // a path, that is
+        m_message = longText ? longText->toPlainText() : box->text();
         act(box);
     });
     poll->start(1);
@@ -235,6 +257,16 @@ void ProfileEditorTest::typeAndLeave(int row, int column, const QString &text, i
     default:
         return QTest::keyClick(cellEditor(), Qt::Key_Return);
     }
+}
+
+void ProfileEditorTest::saveAndAcknowledge()
+{
+    whenMessageOpens([this](QMessageBox *box) {
+        answerNextMessage(QStringLiteral("IDS_OK"));
+        press(box, QStringLiteral("IDS_YES"));
+    });
+    saveButton()->click();
+    QCOMPARE(m_messages, 2);
 }
 
 void ProfileEditorTest::shutDown()
@@ -570,6 +602,216 @@ void ProfileEditorTest::cancelSavesNothing()
     QVERIFY(!QFile::exists(userFolder() + QLatin1String("ussdprofile.xml")));
 }
 
+static QPushButton *editButton(QWidget *window)
+{
+    return window->findChild<QPushButton *>(
+        QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
+}
+
+// ---- what cannot be saved ----------------------------------------------------------------------
+
+static QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+static void setMode(const QString &path, mode_t mode)
+{
+    QCOMPARE(chmod(QFile::encodeName(path).constData(), mode), 0);
+}
+
+void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver_data()
+{
+    const QByteArray item = profileItem("Mine", "*5#");
+    QTest::addColumn<bool>("isSystem");
+    QTest::addColumn<QByteArray>("content");
+    for (bool isSystem : {true, false}) {
+        const char *kind = isSystem ? "system" : "user";
+        QTest::addRow("%s file with a bare &", kind)
+            << isSystem << profileFile(item + profileItem("Fish & chips", "*6#") + item);
+        QTest::addRow("%s file that breaks off", kind)
+            << isSystem << profileFile(item + item).chopped(30);
+        QTest::addRow("%s file without XML", kind) << isSystem << QByteArray("Mine *5#");
+    }
+}
+
+/// Not even when nobody changed anything: what was not read would be gone.
+void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver()
+{
+    QFETCH(bool, isSystem);
+    QFETCH(QByteArray, content);
+    if (isSystem)
+        writeSystemProfiles(content);
+    else
+        writeFile(QStringLiteral("user/ussdprofile.xml"), content);
+    openEditor();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    saveButton()->click();
+    QCOMPARE(m_messages, 1);
+    const QString path = isSystem ? systemFile() : userFile();
+    QCOMPARE(
+        m_message,
+        USSDLogic::tr(QStringLiteral("IDC_CMDEDIT_DAMAGEDTIP")).replace(QLatin1String("%s"), path));
+    QCOMPARE(contentOf(path), content);
+    QVERIFY(contentOf(isSystem ? userFile() : systemFile()).contains("<tksvdoc "));
+    QVERIFY(!table()->isVisible());
+}
+
+void ProfileEditorTest::damagedSystemFileLeavesOwnCodesToBeSaved()
+{
+    const QByteArray damaged = profileFile(profileItem("Menu", "*123#")).chopped(5);
+    writeSystemProfiles(damaged);
+    openEditor();
+    type(1, 1, QStringLiteral("*5#"));
+    saveAndAcknowledge();
+    QVERIFY(m_message.contains(systemFile()));
+    QVERIFY(!m_message.contains(userFile()));
+    QVERIFY(!table()->isVisible());
+    QVERIFY(contentOf(userFile()).contains("<value>*5#</value>"));
+    QCOMPARE(contentOf(systemFile()), damaged);
+}
+
+void ProfileEditorTest::editOfADamagedFileStaysInTheWindow()
+{
+    const QByteArray damaged = profileFile(profileItem("Menu", "*123#")).chopped(5);
+    writeSystemProfiles(damaged);
+    openEditor();
+    type(0, 0, QStringLiteral("Other"));
+    type(1, 1, QStringLiteral("*5#"));
+    saveAndAcknowledge();
+    QVERIFY(m_message.contains(systemFile()));
+    QVERIFY(table()->isVisible());
+    QCOMPARE(cell(0, 0), QStringLiteral("Other"));
+    QCOMPARE(cell(1, 1), QStringLiteral("*5#"));
+    QCOMPARE(contentOf(systemFile()), damaged);
+    QVERIFY(!QFile::exists(userFile()));
+}
+
+/// It has nothing that could be lost; a full disk leaves such files.
+void ProfileEditorTest::emptyFileIsSavedOver()
+{
+    writeFile(QStringLiteral("user/ussdprofile.xml"), QByteArray());
+    openEditor();
+    saveButton()->click(); // a message would hang here
+    QVERIFY(contentOf(userFile()).contains("<tksvdoc"));
+}
+
+void ProfileEditorTest::systemFileOfRootLeavesOwnCodesToBeSaved()
+{
+    const QByteArray system = contentOf(systemFile());
+    setMode(folder(), 0755);
+    setMode(userFolder(), 0777);
+    setMode(pluginFolder(), 0555);
+    setMode(systemFile(), 0444);
+    openEditor();
+    type(7, 1, QStringLiteral("*5#"));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    {
+        const OrdinaryUser user;
+        saveButton()->click(); // another message would hang here
+    }
+    QVERIFY(!table()->isVisible());
+    QVERIFY(contentOf(userFile()).contains("<value>*5#</value>"));
+    QCOMPARE(contentOf(systemFile()), system);
+}
+
+void ProfileEditorTest::changeOfAFileThatCannotBeWrittenIsSaidAndKept_data()
+{
+    QTest::addColumn<bool>("isSystem");
+    QTest::newRow("system file") << true;
+    QTest::newRow("user file") << false;
+}
+
+void ProfileEditorTest::changeOfAFileThatCannotBeWrittenIsSaidAndKept()
+{
+    QFETCH(bool, isSystem);
+    writeFile(QStringLiteral("user/ussdprofile.xml"), profileFile(profileItem("Mine", "*5#")));
+    const QString path = isSystem ? systemFile() : userFile();
+    const QByteArray before = contentOf(path);
+    setMode(folder(), 0755);
+    setMode(isSystem ? userFolder() : pluginFolder(), 0777);
+    setMode(isSystem ? pluginFolder() : userFolder(), 0555);
+    setMode(path, 0444);
+    openEditor();
+    type(isSystem ? 1 : 2, 0, QStringLiteral("Other"));
+    {
+        const OrdinaryUser user;
+        saveAndAcknowledge();
+    }
+    QCOMPARE(
+        m_message,
+        USSDLogic::tr(QStringLiteral("IDC_CMDEDIT_WRITETIP")).replace(QLatin1String("%s"), path));
+    QVERIFY(table()->isVisible());
+    QCOMPARE(cell(isSystem ? 1 : 2, 0), QStringLiteral("Other"));
+    QCOMPARE(contentOf(path), before);
+}
+
+void ProfileEditorTest::fullDiskIsSaidBeforeOldCodesAreLost()
+{
+    writeFile(QStringLiteral("user/ussdprofile.xml"), profileFile(profileItem("Mine", "*5#")));
+    const QByteArray system = contentOf(systemFile());
+    const QByteArray user = contentOf(userFile());
+    openEditor();
+    type(2, 0, QStringLiteral("Other"));
+    {
+        const FullDisk disk(20);
+        saveAndAcknowledge();
+    }
+    QVERIFY(m_message.contains(userFile()));
+    QVERIFY(table()->isVisible());
+    QCOMPARE(contentOf(userFile()), user);
+    QCOMPARE(contentOf(systemFile()), system);
+    answerNextMessage(QStringLiteral("IDS_YES")); // there is room again
+    saveButton()->click();
+    QCOMPARE(savedProfiles().at(2).name, QStringLiteral("Other"));
+}
+
+void ProfileEditorTest::missingUserFolderIsSaid()
+{
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1);
+    openEditor();
+    type(7, 1, QStringLiteral("*5#"));
+    saveAndAcknowledge();
+    QVERIFY(m_message.contains(QLatin1String("ussdprofile.xml")));
+    QVERIFY(table()->isVisible());
+}
+
+/// In a folder such as /tmp nobody deletes the file of another, or opens it for writing.
+void ProfileEditorTest::fileThatFailsWhileItIsWrittenIsSaid()
+{
+    writeFile(QStringLiteral("user/ussdprofile.xml"), profileFile(profileItem("Mine", "*5#")));
+    setMode(folder(), 0755);
+    setMode(userFolder(), 01777);
+    openEditor();
+    type(2, 0, QStringLiteral("Other"));
+    const bool isRoot = geteuid() == 0;
+    if (!isRoot)
+        QSKIP("only root can make a file of another user");
+    expectWarning("saveToXMLFile Exit: XML file open failed");
+    {
+        const OrdinaryUser user;
+        saveAndAcknowledge();
+    }
+    QVERIFY(m_message.contains(userFile()));
+    QVERIFY(!table()->isVisible());
+}
+
+void ProfileEditorTest::hostMayShutDownWhileTheRefusalIsOpen()
+{
+    writeSystemProfiles(profileFile(profileItem("Menu", "*123#")).chopped(5));
+    QRect rect(0, 0, 640, 560);
+    CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
+    QTimer::singleShot(0, this, [this] {
+        whenMessageOpens([this](QMessageBox *) { shutDown(); });
+        QTest::mouseClick(saveButton(), Qt::LeftButton);
+    });
+    editButton(m_mainWindow.data())->click(); // comes back by itself
+    drainEvents();
+    QCOMPARE(m_messages, 1);
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
 /// What differs between two pictures, in one part of them.
 static QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
 {
@@ -676,12 +918,6 @@ void ProfileEditorTest::upAndDownStayInsideTheCell()
 }
 
 // ---- behind the general dialog's button --------------------------------------------------------
-
-static QPushButton *editButton(QWidget *window)
-{
-    return window->findChild<QPushButton *>(
-        QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
-}
 
 void ProfileEditorTest::editButtonFollowsTheConfiguration()
 {
