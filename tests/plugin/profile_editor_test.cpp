@@ -1,6 +1,7 @@
 #include "PluginTest.h"
 
 #include <QHeaderView>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -70,6 +71,9 @@ private slots:
     void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft_data() { waysToLeave(); }
     void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft();
     void messageOfADuplicateOpensOutsideTheDelegate();
+    void nameThatIsTheCodeOfAnotherRowIsNoDuplicate();
+    void textThatDiffersInCaseIsNoDuplicate_data();
+    void textThatDiffersInCaseIsNoDuplicate();
     void duplicateTypedBeforeTheMessageOpenedIsRefusedToo();
     void duplicateIsNotSpokenOfAfterCancel();
     void readOnlyProfileCannotBeEditedAndHasItsColour();
@@ -90,6 +94,8 @@ private slots:
     void openEditorIsCommittedBySaving();
     void duplicateFoundWhileSavingStopsIt();
     void cancelSavesNothing();
+    void execTellsWhetherTheUserSaved_data();
+    void execTellsWhetherTheUserSaved();
 
     void fileThatIsNotWholeIsNotSavedOver_data();
     void fileThatIsNotWholeIsNotSavedOver();
@@ -104,6 +110,14 @@ private slots:
     void fileThatFailsWhileItIsWrittenIsSaid();
     void hostMayShutDownWhileTheRefusalIsOpen();
     void columnsAndSizesAreFixed();
+    void marginsAreFixed();
+    void cellsAreColouredAndNotSelected();
+    void frameHasATitleAndACloseButton();
+    void frameInMiniModeKeepsItsFlags();
+    void messagesInMiniModeStandOverTheEditor_data();
+    void messagesInMiniModeStandOverTheEditor();
+    void doubleClickActivatesTheWindow_data();
+    void doubleClickActivatesTheWindow();
     void codeReadsLeftToRightInArabic();
     void headsStandWhereTheirColumnsBegin_data();
     void headsStandWhereTheirColumnsBegin();
@@ -356,6 +370,33 @@ void ProfileEditorTest::messageOfADuplicateOpensOutsideTheDelegate()
     QCOMPARE(cell(1, 0), QString());
 }
 
+void ProfileEditorTest::nameThatIsTheCodeOfAnotherRowIsNoDuplicate()
+{
+    openEditor();
+    type(4, 0, QStringLiteral("*100#")); // a message would hang here
+    type(4, 1, QStringLiteral("Menu"));
+    QCOMPARE(cell(4, 0), QStringLiteral("*100#"));
+    QCOMPARE(cell(4, 1), QStringLiteral("Menu"));
+}
+
+void ProfileEditorTest::textThatDiffersInCaseIsNoDuplicate_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::newRow("name") << 0;
+    QTest::newRow("code") << 1;
+}
+
+void ProfileEditorTest::textThatDiffersInCaseIsNoDuplicate()
+{
+    QFETCH(int, column);
+    writeSystemProfiles(profileFile(profileItem("Balance", "*100A#")));
+    openEditor();
+    const QString other = cell(0, column).toLower();
+    QVERIFY(other != cell(0, column));
+    type(4, column, other); // a message would hang here
+    QCOMPARE(cell(4, column), other);
+}
+
 /// Keys that came in one go with the Tab that left the first cell.
 void ProfileEditorTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
@@ -407,13 +448,21 @@ void ProfileEditorTest::readOnlyProfileCannotBeEditedAndHasItsColour()
     QCOMPARE(table()->horizontalHeaderItem(0)->background().color(), QColor(7, 8, 9));
 }
 
+static QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
 void ProfileEditorTest::savingWithoutChangesAsksNothingAndWrites()
 {
     openEditor();
-    const QString userFile = userFolder() + QLatin1String("ussdprofile.xml");
-    QVERIFY(!QFile::exists(userFile));
+    const QByteArray system = contentOf(systemFile()); // in one line
+    QVERIFY(!QFile::exists(userFile()));
     QTest::mouseClick(saveButton(), Qt::LeftButton); // a question would hang here
-    QVERIFY(QFile::exists(userFile));
+    QVERIFY(QFile::exists(userFile()));
+    QVERIFY(contentOf(systemFile()) != system);
+    QVERIFY(contentOf(systemFile()).contains("\n    <item>"));
     QVERIFY(!table()->isVisible());
     QCOMPARE(savedProfiles().count(), 2);
 }
@@ -602,6 +651,34 @@ void ProfileEditorTest::cancelSavesNothing()
     QVERIFY(!QFile::exists(userFolder() + QLatin1String("ussdprofile.xml")));
 }
 
+void ProfileEditorTest::execTellsWhetherTheUserSaved_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("Save") << QByteArray("USSDUIPlugin_ProfileDialog_SaveButton") << true;
+    QTest::newRow("Cancel") << QByteArray("USSDUIPlugin_ProfileDialog_CancelButton") << false;
+    QTest::newRow("close button of the window") << QByteArray() << false;
+}
+
+void ProfileEditorTest::execTellsWhetherTheUserSaved()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(bool, saved);
+    m_editor.reset(new USSDEditCmd);
+    m_editor->InitDialog(m_mainWindow.data());
+    bool wasModal = false;
+    QTimer::singleShot(0, this, [this, button, &wasModal] {
+        wasModal = QApplication::activeModalWidget() == table()->window();
+        if (button.isEmpty())
+            table()->window()->close();
+        else
+            find<QPushButton>(button.constData())->click();
+    });
+    QCOMPARE(m_editor->Exec(), saved);
+    QVERIFY(wasModal);
+    QVERIFY(!table()->isVisible());
+}
+
 static QPushButton *editButton(QWidget *window)
 {
     return window->findChild<QPushButton *>(
@@ -609,12 +686,6 @@ static QPushButton *editButton(QWidget *window)
 }
 
 // ---- what cannot be saved ----------------------------------------------------------------------
-
-static QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
 
 static void setMode(const QString &path, mode_t mode)
 {
@@ -777,23 +848,15 @@ void ProfileEditorTest::missingUserFolderIsSaid()
     QVERIFY(table()->isVisible());
 }
 
-/// In a folder such as /tmp nobody deletes the file of another, or opens it for writing.
+/// The missing folder looks as if it could be made, but its name is taken by a link to nowhere.
 void ProfileEditorTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
-    writeFile(QStringLiteral("user/ussdprofile.xml"), profileFile(profileItem("Mine", "*5#")));
-    setMode(folder(), 0755);
-    setMode(userFolder(), 01777);
+    QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));
+    fakeSdkSetUserDataDirectory((folder() + QLatin1String("/link/")).toStdU16String());
     openEditor();
-    type(2, 0, QStringLiteral("Other"));
-    const bool isRoot = geteuid() == 0;
-    if (!isRoot)
-        QSKIP("only root can make a file of another user");
-    expectWarning("saveToXMLFile Exit: XML file open failed");
-    {
-        const OrdinaryUser user;
-        saveAndAcknowledge();
-    }
-    QVERIFY(m_message.contains(userFile()));
+    type(7, 1, QStringLiteral("*5#"));
+    saveAndAcknowledge();
+    QVERIFY2(m_message.contains(QLatin1String("/link/ussdprofile.xml")), qPrintable(m_message));
     QVERIFY(!table()->isVisible());
 }
 
@@ -840,6 +903,110 @@ void ProfileEditorTest::columnsAndSizesAreFixed()
     QCOMPARE(container->windowModality(), Qt::WindowModal);
     QCOMPARE(table()->window()->windowTitle(),
              USSDLogic::tr(QStringLiteral("IDC_TITLE_EDITCOMMAND")));
+}
+
+void ProfileEditorTest::marginsAreFixed()
+{
+    openEditor();
+    const QLayout *column = find<QWidget>("USSDUIPlugin_ProfileWidget")->layout();
+    QCOMPARE(column->contentsMargins(), QMargins(20, 32, 20, 5));
+    QCOMPARE(column->count(), 3);
+    const QLayout *buttons = column->itemAt(2)->layout();
+    QVERIFY(buttons);
+    QCOMPARE(buttons->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(buttons->alignment(), Qt::AlignRight);
+    QCOMPARE(buttons->itemAt(0)->widget(), saveButton());
+}
+
+void ProfileEditorTest::cellsAreColouredAndNotSelected()
+{
+    openEditor();
+    QCOMPARE(table()->selectionMode(), QAbstractItemView::NoSelection);
+    for (int column = 0; column < 2; ++column) {
+        QCOMPARE(table()->horizontalHeaderItem(column)->background().color(), QColor(7, 8, 9));
+        QCOMPARE(table()->item(0, column)->background().color(), QColor(1, 2, 3));
+        QCOMPARE(table()->item(1, column)->background().color(), QColor(4, 5, 6));
+        doubleClick(1, column);
+        QTest::keyClick(cellEditor(), Qt::Key_Escape);
+        QVERIFY(table()->selectedItems().isEmpty());
+    }
+    QVERIFY(table()->verticalHeader()->isHidden());
+    QVERIFY(!table()->horizontalHeader()->stretchLastSection());
+    QCOMPARE(table()->horizontalHeader()->textElideMode(), Qt::ElideRight);
+    QCOMPARE(table()->textElideMode(), Qt::ElideRight);
+    QVERIFY(!table()->wordWrap());
+    QVERIFY(table()->hasMouseTracking());
+}
+
+void ProfileEditorTest::frameHasATitleAndACloseButton()
+{
+    openEditor();
+    QCOMPARE(table()->window()->parentWidget(), m_mainWindow.data());
+    QDialog plain(m_mainWindow.data()); // Qt itself adds a flag
+    plain.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint |
+                         Qt::WindowCloseButtonHint);
+    QCOMPARE(table()->window()->windowFlags(), plain.windowFlags());
+}
+
+void ProfileEditorTest::frameInMiniModeKeepsItsFlags()
+{
+    HostState::setMiniMode(true);
+    openEditor();
+    QCOMPARE(table()->window()->parentWidget(), m_mainWindow.data());
+    const QDialog plain(m_mainWindow.data(), Qt::WindowCloseButtonHint);
+    QCOMPARE(table()->window()->windowFlags(), plain.windowFlags());
+    QVERIFY(!(plain.windowFlags() & Qt::CustomizeWindowHint));
+}
+
+void ProfileEditorTest::messagesInMiniModeStandOverTheEditor_data()
+{
+    QTest::addColumn<bool>("mini");
+    QTest::newRow("mini mode") << true;
+    QTest::newRow("otherwise") << false;
+}
+
+/// That about a duplicate, and the question whether to save.
+void ProfileEditorTest::messagesInMiniModeStandOverTheEditor()
+{
+    QFETCH(bool, mini);
+    HostState::setMiniMode(mini);
+    openEditor();
+    QWidget *parent = mini ? find<QWidget>("USSDUIPlugin_ProfileWidget") : nullptr;
+    const auto look = [this, parent](const char *buttonKey) {
+        whenMessageOpens([this, parent, buttonKey](QMessageBox *box) {
+            QCOMPARE(box->parentWidget(), parent);
+            QCOMPARE(box->icon(), QMessageBox::Information);
+            QCOMPARE(box->windowTitle(), USSDLogic::tr(QStringLiteral("IDS_PROMPT_CAPTION")));
+            press(box, QLatin1String(buttonKey));
+        });
+    };
+    look("IDS_OK");
+    type(1, 0, QStringLiteral("Balance"));
+    look("IDS_NO");
+    saveButton()->click();
+    QCOMPARE(m_messages, 2);
+}
+
+void ProfileEditorTest::doubleClickActivatesTheWindow_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("read-only cell") << 0;
+    QTest::newRow("cell") << 1;
+    QTest::newRow("empty row") << 5;
+}
+
+void ProfileEditorTest::doubleClickActivatesTheWindow()
+{
+    QFETCH(int, row);
+    openEditor();
+    m_otherWindow.reset(new QWidget);
+    m_otherWindow->show();
+    QApplication::setActiveWindow(m_otherWindow.data());
+    table()->setCurrentCell(row, 0);
+    const QPoint centre = table()->visualRect(table()->currentIndex()).center();
+    QTest::mouseDClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    drainEvents();
+    QCOMPARE(QApplication::activeWindow(), table()->window());
 }
 
 void ProfileEditorTest::codeReadsLeftToRightInArabic()
