@@ -30,7 +30,7 @@ namespace ProfileFile
 
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing)
 {
-    if (path.isEmpty() || QFileInfo(path).isDir())
+    if (path.isEmpty())
         return false;
     QString folder = QFileInfo(path).path();
     if (missing == FolderIsMade && !QFileInfo(folder).isDir())

@@ -91,13 +91,13 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
-    /// What saving meets that the user has to know, as texts.
+    /// Which files can be written, and what to tell the user about those that cannot.
     struct SavePlan {
         SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
 
         bool writesSystemFile;
         bool writesUserFile;
-        bool losesChanges;
+        bool losesChanges; // to a file that cannot be written
         QStringList refusals;
     };
     SavePlan planSaving(const QList<USSDProfile> &newList);

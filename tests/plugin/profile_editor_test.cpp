@@ -83,6 +83,7 @@ private slots:
     void cellEditorTakesFortyCharacters();
     void longerTextSurvivesItsEditor();
     void longerTextIsNotCutByAnEdit();
+    void blanksOfTheFileSurviveTheEditor();
     void blanksAroundWhatIsTypedAreDropped();
     void codeThatDiffersInBlanksOnlyIsADuplicate_data();
     void codeThatDiffersInBlanksOnlyIsADuplicate();
@@ -101,12 +102,15 @@ private slots:
     void fileThatIsNotWholeIsNotSavedOver();
     void damagedSystemFileLeavesOwnCodesToBeSaved();
     void editOfADamagedFileStaysInTheWindow();
+    void fileThatCannotBeOpenedIsNotSavedOver();
     void emptyFileIsSavedOver();
     void systemFileOfRootLeavesOwnCodesToBeSaved();
     void changeOfAFileThatCannotBeWrittenIsSaidAndKept_data();
     void changeOfAFileThatCannotBeWrittenIsSaidAndKept();
     void fullDiskIsSaidBeforeOldCodesAreLost();
-    void missingUserFolderIsSaid();
+    void fileThatCanBeWrittenInAFolderThatCannotIsSaved();
+    void missingUserFolderIsMade();
+    void unknownUserFolderIsSaid();
     void fileThatFailsWhileItIsWrittenIsSaid();
     void hostMayShutDownWhileTheRefusalIsOpen();
     void columnsAndSizesAreFixed();
@@ -407,6 +411,7 @@ void ProfileEditorTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
     QTest::keyClicks(cellEditor(), QStringLiteral("*100#"));
     whenMessageOpens([this](QMessageBox *box) {
         QVERIFY(box->text().contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
+        QCOMPARE(table()->currentItem(), table()->item(1, 0)); // that is the one meant
         answerNextMessage(QStringLiteral("IDS_OK"));
         press(box, QStringLiteral("IDS_OK"));
     });
@@ -529,6 +534,16 @@ void ProfileEditorTest::longerTextIsNotCutByAnEdit()
     QTest::keyClick(cellEditor(), Qt::Key_Return);
     drainEvents();
     QCOMPARE(cell(0, 1), QString::fromLatin1(longCode().mid(1)));
+}
+
+void ProfileEditorTest::blanksOfTheFileSurviveTheEditor()
+{
+    writeSystemProfiles(profileFile(profileItem(" Balance ", "*100#")));
+    openEditor();
+    doubleClick(0, 0);
+    QTest::keyClick(cellEditor(), Qt::Key_Return);
+    drainEvents();
+    QCOMPARE(cell(0, 0), QStringLiteral(" Balance "));
 }
 
 void ProfileEditorTest::blanksAroundWhatIsTypedAreDropped()
@@ -759,6 +774,26 @@ void ProfileEditorTest::editOfADamagedFileStaysInTheWindow()
     QVERIFY(!QFile::exists(userFile()));
 }
 
+/// It could be deleted, and with it what nobody has seen.
+void ProfileEditorTest::fileThatCannotBeOpenedIsNotSavedOver()
+{
+    const QByteArray own = profileFile(profileItem("Mine", "*5#"));
+    writeFile(QStringLiteral("user/ussdprofile.xml"), own);
+    setMode(folder(), 0755);
+    setMode(userFolder(), 0777);
+    setMode(userFile(), 0);
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    {
+        const OrdinaryUser user;
+        openEditor();
+        saveButton()->click();
+    }
+    QCOMPARE(m_messages, 1);
+    QVERIFY(m_message.contains(userFile()));
+    setMode(userFile(), 0644);
+    QCOMPARE(contentOf(userFile()), own);
+}
+
 /// It has nothing that could be lost; a full disk leaves such files.
 void ProfileEditorTest::emptyFileIsSavedOver()
 {
@@ -838,7 +873,33 @@ void ProfileEditorTest::fullDiskIsSaidBeforeOldCodesAreLost()
     QCOMPARE(savedProfiles().at(2).name, QStringLiteral("Other"));
 }
 
-void ProfileEditorTest::missingUserFolderIsSaid()
+void ProfileEditorTest::fileThatCanBeWrittenInAFolderThatCannotIsSaved()
+{
+    setMode(folder(), 0755);
+    setMode(userFolder(), 0777);
+    setMode(pluginFolder(), 0555);
+    setMode(systemFile(), 0666);
+    openEditor();
+    type(1, 0, QStringLiteral("Other"));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    {
+        const OrdinaryUser user;
+        saveButton()->click(); // another message would hang here
+    }
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Other"));
+}
+
+void ProfileEditorTest::missingUserFolderIsMade()
+{
+    fakeSdkSetUserDataDirectory((folder() + QLatin1String("/new/")).toStdU16String());
+    openEditor();
+    type(7, 1, QStringLiteral("*5#"));
+    answerNextMessage(QStringLiteral("IDS_YES"));
+    saveButton()->click(); // another message would hang here
+    QVERIFY(contentOf(folder() + QLatin1String("/new/ussdprofile.xml")).contains("*5#"));
+}
+
+void ProfileEditorTest::unknownUserFolderIsSaid()
 {
     fakeSdkSetResult("TKSV_GetUserDataDirectory", 1);
     openEditor();
