@@ -7,8 +7,10 @@
  */
 
 #include <QFontMetrics>
+#include <QPixmap>
 #include <QString>
 #include <QtGlobal>
+#include <QWidget>
 
 /*
  * Qt 4 finds a plug-in by its entry points alone; Qt 5 makes the instance's one from the meta data.
@@ -26,6 +28,16 @@
 
 namespace QtCompat
 {
+
+/// The widget as the screen shows it. QWidget::render() does not mirror in Arabic.
+inline QPixmap pictureOf(QWidget *widget)
+{
+#if QT_VERSION < 0x050000
+    return QPixmap::grabWidget(widget);
+#else
+    return widget->grab();
+#endif
+}
 
 /// Width of a line of text in pixels.
 inline int textWidth(const QFontMetrics &metrics, const QString &text)

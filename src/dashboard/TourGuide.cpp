@@ -9,6 +9,7 @@
 #include "InstallPaths.h"
 #include "MainWindow.h"
 #include "PrivateLibrary.h"
+#include "QtCompat.h"
 #include "WaitUntil.h"
 
 namespace
@@ -36,7 +37,7 @@ QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
     place.setX(qBound(0, place.x(), qMax(0, below.width() - over->width())));
     place.setY(qBound(0, place.y(), qMax(0, below.height() - over->height())));
     QPainter painter(&below);
-    painter.drawPixmap(place, over->grab());
+    painter.drawPixmap(place, QtCompat::pictureOf(over));
     painter.drawRect(QRect(place, over->size()).adjusted(-1, -1, 0, 0));
     return below;
 }
@@ -129,7 +130,8 @@ void TourGuide::close()
 bool TourGuide::take(const TourStop &stop)
 {
     settle();
-    return m_shown ? m_album->add(m_shown->grab(), m_place, stop, shownText(m_shown)) : failHere();
+    return m_shown ? m_album->add(QtCompat::pictureOf(m_shown), m_place, stop, shownText(m_shown))
+                   : failHere();
 }
 
 bool TourGuide::takeWith(QWidget *over, const TourStop &stop)
@@ -137,7 +139,8 @@ bool TourGuide::takeWith(QWidget *over, const TourStop &stop)
     settle();
     if (!m_shown || !over)
         return failHere();
-    return m_album->add(laidAt(m_shown->grab(), m_shown, over), m_place, stop, shownText(over));
+    return m_album->add(laidAt(QtCompat::pictureOf(m_shown), m_shown, over), m_place, stop,
+                        shownText(over));
 }
 
 void TourGuide::expectBox(const TourStop &stop)
@@ -179,8 +182,9 @@ void TourGuide::onBox()
         return;
     settle();
     if (m_boxStop.name && !m_boxTaken && m_shown)
-        m_boxTaken = m_album->add(laidOver(m_shown->grab(), m_box->grab()), m_place, m_boxStop,
-                                  shownText(m_box));
+        m_boxTaken =
+            m_album->add(laidOver(QtCompat::pictureOf(m_shown), QtCompat::pictureOf(m_box)),
+                         m_place, m_boxStop, shownText(m_box));
     if (QAbstractButton *first = m_box->buttons().value(0))
         first->click();
 }
