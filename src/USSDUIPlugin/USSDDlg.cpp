@@ -24,6 +24,7 @@ static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
+const int kResultFailed = 1;
 const int kResultQueued = 12;      // as good as 0
 const int kReturnInMessageBox = 1; // of the charge's return styles
 const int kLinkWidth = 300;        // pixels
@@ -476,13 +477,21 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         USSD_LOG(" USSD command: %s", command.toLocal8Bit().constData());
     }
     int status = 0;
-    const int result = m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), &status);
+    const int result = sendUnlessEmpty(component, command, &status);
     if (isAnswerAwaited(result))
         awaitAnswer(component, result == 0);
     else
         OnResponseReceived(
             component,
             text(status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : "USSD_CODE_FAILED"));
+}
+
+/// A command that could not be read is empty. It fails like one that the device refuses.
+int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
+{
+    if (command.isEmpty())
+        return kResultFailed;
+    return m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), status);
 }
 
 bool USSDDlg::isAnswerAwaited(int result)

@@ -116,6 +116,7 @@ private:
 
     void resetCharge();
     void sendUSSDCommand(_COMPONENT component, int attr);
+    int sendUnlessEmpty(_COMPONENT component, const QString &command, int *status);
     static bool isAnswerAwaited(int result);
     void awaitAnswer(_COMPONENT component, bool isSent);
     void routeResponse(int component, const QString &text, bool isWaiting);

@@ -44,9 +44,9 @@ const Service SERVICES[] = {
     {3,
      nullptr,
      true,
-     {"code-refused-idle", "another service by code"},
+     NONE, // looks as the refusal does
      NONE,
-     {"code-refused", "the network refuses it"}},
+     {"code-refused", "the network refuses it, so the result stays empty"}},
     {5, nullptr, true, NONE, NONE, {"code-timed-out", "the network is silent"}},
     {10,
      nullptr,

@@ -82,6 +82,10 @@ void InstallPathsTest::compile(const QString &code, const QByteArray &messages)
     QCOMPARE(QProcess::execute(QLatin1String(LRELEASE_PROGRAM),
                                QStringList() << QLatin1String("-silent") << source),
              0);
+    const QString compiled = m_translations + QLatin1Char('/') + code + QLatin1String(".qm");
+    QCOMPARE(QProcess::execute(QLatin1String("sh"),
+                               QStringList() << QLatin1String(SEAL_TRANSLATION) << compiled),
+             0);
 }
 
 QStringList InstallPathsTest::probe(const QStringList &arguments)

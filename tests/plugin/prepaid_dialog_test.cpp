@@ -63,6 +63,7 @@ private slots:
     void openingReleasesAndClearsBeforeItSends();
     void openingAsksOnlyForWhatIsShown_data();
     void openingAsksOnlyForWhatIsShown();
+    void emptyCommandIsNotSent();
     void openingAnInvalidTypeDoesNothing_data();
     void openingAnInvalidTypeDoesNothing();
     void openingMakesTheEntryReady();
@@ -333,6 +334,20 @@ void PrepaidDialogTest::openingAsksOnlyForWhatIsShown()
     configure(account);
     open();
     QTEST(requests(), "sent");
+}
+
+/// A command that a fault of the file cuts is empty.
+void PrepaidDialogTest::emptyCommandIsNotSent()
+{
+    Account account;
+    account.balance.replace("<command>*100#</command>", "<command></command>");
+    configure(account);
+    open();
+    QCOMPARE(requests(), QStringList{QStringLiteral("*102#")}); // own number, which makes it busy
+    click(balanceButton());
+    QCOMPARE(requests().count(), 1);
+    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
+    QVERIFY(balanceButton()->isEnabled());
 }
 
 void PrepaidDialogTest::openingAnInvalidTypeDoesNothing_data()
