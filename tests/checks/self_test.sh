@@ -111,6 +111,12 @@ finds man_pages 'no NAME' man/bad.1 <<<'.TH BAD 1
 .SH DESCRIPTION
 a page'
 
+finds behaviour 'no test thatIsNotThere' docs/behaviour.md <<<'| a | b | c | `thatIsNotThere` |'
+finds behaviour 'stands 0 times in USSDLogic.h' tests/mutants/a.faults <<<'file USSDLogic.h
+fault no such line
+-int a;
++'
+
 finds packages 'no-such-package-at-all is not' packages.txt <<<'no-such-package-at-all'
 finds packages 'bash stands there twice' packages.txt <<<'bash
 bash'
