@@ -17,6 +17,20 @@ bool isSomethingElse(const QString &path)
     return info.exists() && !info.isFile();
 }
 
+/// Opens the file; empty when that went well.
+QString problemOfOpening(QFile &file, QIODevice::OpenMode mode, qint64 mostBytes)
+{
+    if (isSomethingElse(file.fileName())) // asked first: opening a pipe waits for its writer
+        return notRegular();
+    if (!file.open(QIODevice::ReadOnly | mode))
+        return file.errorString();
+    if (file.isSequential()) // the file was exchanged meanwhile
+        return notRegular();
+    if (file.size() > mostBytes)
+        return QString::fromLatin1("it is larger than %1 bytes").arg(mostBytes);
+    return QString();
+}
+
 } // namespace
 
 namespace InputFile
@@ -24,15 +38,7 @@ namespace InputFile
 
 bool open(QFile &file, QIODevice::OpenMode mode, QString &problem, qint64 mostBytes)
 {
-    problem.clear();
-    if (isSomethingElse(file.fileName())) // asked first: opening a pipe waits for its writer
-        problem = notRegular();
-    else if (!file.open(QIODevice::ReadOnly | mode))
-        problem = file.errorString();
-    else if (file.isSequential()) // exchanged meanwhile
-        problem = notRegular();
-    else if (file.size() > mostBytes)
-        problem = QString::fromLatin1("it is larger than %1 bytes").arg(mostBytes);
+    problem = problemOfOpening(file, mode, mostBytes);
     if (!problem.isEmpty())
         file.close();
     return problem.isEmpty();

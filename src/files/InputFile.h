@@ -15,7 +15,7 @@ namespace InputFile
 
 /// Far more than any configuration, profile or language file has. An XML reader may need 50 times
 /// as much memory, when the file is nothing but start tags.
-const qint64 kMostBytes = 8 * 1024 * 1024;
+const qint64 kMostBytes = qint64(8) * 1024 * 1024;
 
 /// Opens `file`, whose name is set, for reading; `mode` is what that needs besides. Returns false
 /// and says in `problem` why it cannot be read, as the end of a line that begins with its name.
