@@ -39,18 +39,58 @@ bool endsName(const QString &text, int place)
            unit == QLatin1Char('=');
 }
 
-/// The name of the tag that would begin at `bracket`, in lower case; blanks may stand before it.
-QString tagName(const QString &text, int bracket)
+/// A line feed is none: the transcript makes a tag of its own of it.
+bool isBlank(QChar unit)
+{
+    return unit.isSpace() && unit != QLatin1Char('\n');
+}
+
+/// Where the name of the tag that would begin at `bracket` starts; blanks may stand before it.
+int nameBegin(const QString &text, int bracket)
 {
     int begin = bracket + 1;
-    while (begin < text.length() && text.at(begin).isSpace())
+    while (begin < text.length() && isBlank(text.at(begin)))
         ++begin;
-    if (begin < text.length() && text.at(begin) == QLatin1Char('/'))
-        ++begin;
+    const bool closes = begin < text.length() && text.at(begin) == QLatin1Char('/');
+    return closes ? begin + 1 : begin;
+}
+
+int nameEnd(const QString &text, int begin)
+{
     int end = begin;
     while (end < text.length() && end - begin <= kLongestTag && !endsName(text, end))
         ++end;
-    return text.mid(begin, end - begin).toLower();
+    return end;
+}
+
+/// A quote counts at the beginning of a word only, as in `size="2"`.
+bool opensQuote(const QString &text, int place)
+{
+    const QChar unit = text.at(place);
+    const QChar before = text.at(place - 1);
+    return (unit == QLatin1Char('"') || unit == QLatin1Char('\'')) &&
+           (before.isSpace() || before == QLatin1Char('='));
+}
+
+/// Whether a ">" ends the tag before another tag or a line feed begins. One in quotes ends nothing.
+bool hasEnd(const QString &text, int place)
+{
+    for (int i = place; i < text.length(); ++i) {
+        if (opensQuote(text, i))
+            i = text.indexOf(text.at(i), i + 1);
+        if (i < 0 || text.at(i) == QLatin1Char('<') || text.at(i) == QLatin1Char('\n'))
+            return false;
+        if (text.at(i) == QLatin1Char('>'))
+            return true;
+    }
+    return false;
+}
+
+bool beginsTag(const QString &text, int bracket)
+{
+    const int begin = nameBegin(text, bracket);
+    const int end = nameEnd(text, begin);
+    return isKnown(text.mid(begin, end - begin).toLower()) && hasEnd(text, end);
 }
 
 } // namespace
@@ -60,11 +100,10 @@ namespace MarkupTag
 
 QString withOthersAsLetters(const QString &text)
 {
-    const int lastClose = text.lastIndexOf(QLatin1Char('>')); // a tag without one has no end
     QString result;
     result.reserve(text.length());
     for (int i = 0; i < text.length(); ++i) {
-        if (text.at(i) == QLatin1Char('<') && (i > lastClose || !isKnown(tagName(text, i))))
+        if (text.at(i) == QLatin1Char('<') && !beginsTag(text, i))
             result += QLatin1String("&lt;");
         else
             result += text.at(i);

@@ -384,6 +384,7 @@ void USSDDlg::resetCharge()
         m_pActivateStatusTextEdit->showText(QString());
     if (!m_pChargeEdit)
         return;
+    m_bReturnDown = false;
     m_pChargeEdit->clear();
     m_pChargeEdit->setEnabled(true);
     if (m_pChargeEdit->isHidden()) {
@@ -454,6 +455,7 @@ void USSDDlg::OnClickedMSISDNUpdateButton()
 
 void USSDDlg::OnTextEdited(QString text)
 {
+    m_bReturnDown = false; // its release may have gone to another widget
     if (m_pChargeActivateButton)
         m_pChargeActivateButton->setEnabled(isChargeLongEnough(m_chargeRules, text.length()));
 }

@@ -29,7 +29,7 @@ QString parentDirectory(const QString &path)
 
 USSDEditCmd::USSDEditCmd()
     : m_pEditedItem(nullptr), m_iEditedColumn(-1), m_iEditedRow(-1), m_bSaved(false),
-      m_bSystemFileWhole(true), m_bUserFileWhole(true)
+      m_systemFileReading(NoFile), m_userFileReading(NoFile)
 {
     load();
 }
@@ -97,9 +97,10 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
     QFile file(xmlFilePath);
     QString problem;
     if (!InputFile::open(file, QIODevice::Text, problem)) {
-        noteReading(isSystem, !file.exists());
-        USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
-                           problem.toLocal8Bit().constData());
+        noteReading(isSystem, file.exists() ? NotReadWhole : NoFile);
+        if (file.exists())
+            USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
+                               problem.toLocal8Bit().constData());
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return;
     }
@@ -121,14 +122,21 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
             codes.insert(profile.value);
         m_listUSSDProfiles.append(profile);
     }
-    noteReading(isSystem, !reader.hasError() || file.size() == 0);
+    noteReading(isSystem, !reader.hasError() || file.size() == 0 ? ReadWhole : NotReadWhole);
     USSD_LOG(" Exit");
 }
 
-/// What was not read whole must not be saved over.
-void USSDEditCmd::noteReading(bool isSystem, bool isWhole)
+void USSDEditCmd::noteReading(bool isSystem, Reading reading)
 {
-    (isSystem ? m_bSystemFileWhole : m_bUserFileWhole) = isWhole;
+    (isSystem ? m_systemFileReading : m_userFileReading) = reading;
+}
+
+/// What was not read whole must not be saved over. A file that was not there when the profiles were
+/// read, or whose folder was not known then, may have come since.
+bool USSDEditCmd::mayBeSavedOver(bool isSystem)
+{
+    const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
+    return reading == ReadWhole || (reading == NoFile && !QFile::exists(profileFilePath(isSystem)));
 }
 
 void USSDEditCmd::load()
@@ -174,8 +182,10 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // Without effect, since the file was deleted above; kept, with its place.
-    file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
+    // Without effect, since the file was deleted above; kept, with its place. A file that could not
+    // be deleted is written in place, and its owner wants to read it afterwards.
+    if (!file.exists())
+        file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
         USSD_LOG_IMPORTANT(" Exit: XML file open failed");
         return SAVE_NOT_OPENED;

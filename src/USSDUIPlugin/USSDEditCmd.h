@@ -110,7 +110,9 @@ private:
     QWidget *messageParent() const;
 
     QString profileFilePath(bool isSystem);
-    void noteReading(bool isSystem, bool isWhole);
+    enum Reading { NoFile, ReadWhole, NotReadWhole };
+    void noteReading(bool isSystem, Reading reading);
+    bool mayBeSavedOver(bool isSystem);
     QString movedLegacyFile(const QString &oldPath, const QString &newPath);
     bool makeParentDirectory(const QString &path, bool isSystem);
 
@@ -130,8 +132,8 @@ private:
     int m_iEditedRow;
     QList<QTableWidgetItem *> m_refusedItems; // duplicates that wait for their message, or show it
     bool m_bSaved;
-    bool m_bSystemFileWhole; // whether all of the file was read, or there was none
-    bool m_bUserFileWhole;
+    Reading m_systemFileReading;
+    Reading m_userFileReading;
 };
 
 #endif

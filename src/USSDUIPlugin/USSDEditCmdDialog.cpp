@@ -376,7 +376,7 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
-    const bool isWhole = isSystem ? m_bSystemFileWhole : m_bUserFileWhole;
+    const bool isWhole = mayBeSavedOver(isSystem);
     const bool isWritten =
         isWhole && ProfileFile::canBeSaved(profileFilePath(isSystem), profiles,
                                            isSystem ? ProfileFile::FolderIsNotMade

@@ -453,7 +453,7 @@ void USSDGeneralDlg::parkFocus()
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();
-    return focus && !isAncestorOf(focus);
+    return focus && focus->window() == window() && !isAncestorOf(focus);
 }
 
 void USSDGeneralDlg::OnResponseReceived(int component, QString text)

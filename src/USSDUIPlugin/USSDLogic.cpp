@@ -457,7 +457,7 @@ unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
         return 0;
     const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid())
-        return 0;
+        return 1; // nothing is pending
     ClaimedHead head = {0, COMPONENT_BALANCE};
     const Claim claim = claimHead(head);
     if (claim == ListEmpty)

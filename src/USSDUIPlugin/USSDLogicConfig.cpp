@@ -44,8 +44,9 @@ bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
     file.setFileName(path);
     QString problem;
     if (!InputFile::open(file, QIODevice::Text, problem)) {
-        USSD_LOG_IMPORTANT(" %s: %s", path.toLocal8Bit().constData(),
-                           problem.toLocal8Bit().constData());
+        if (file.exists())
+            USSD_LOG_IMPORTANT(" %s: %s", path.toLocal8Bit().constData(),
+                               problem.toLocal8Bit().constData());
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return false;
     }

@@ -345,7 +345,8 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (m_nSelected == kNoEntry)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
-    if (entry && entry->treeWidgetItem)
+    // A row that is current already is not selected anew: that would empty the input.
+    if (entry && entry->treeWidgetItem && m_pTree->currentItem() != entry->treeWidgetItem)
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
 

@@ -140,11 +140,18 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     if (event == kEventLanguageChanged) {
         changeLanguage();
     } else if (event == kEventCheckImsi && IsImsiDynamicMatch()) {
-        closeIfExists(m_pPrepaidFrame);
-        closeIfExists(m_pPostpaidFrame);
-        closeIfExists(m_pGeneralFrame);
+        closeFramesOfTheSim();
     }
     return 0;
+}
+
+/// A host that hears of the first one may shut down, so this object may be gone after each.
+void CUSSDService::closeFramesOfTheSim()
+{
+    const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
+                                                 m_pGeneralFrame};
+    for (const QPointer<USSDExtendDialog> &frame : frames)
+        closeIfExists(frame);
 }
 
 void CUSSDService::changeLanguage()
@@ -232,6 +239,7 @@ int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 
 void CUSSDService::setPropForDlgAndLayout(USSDExtendDialog *frame)
 {
+    USSD_LOG_SCOPE();
     frame->setWindowModality(Qt::WindowModal);
     frame->setWindowFlags(frameFlags());
 }

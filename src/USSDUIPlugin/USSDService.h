@@ -74,6 +74,7 @@ private:
     void setPropShowDialog(USSDExtendDialog *frame, USSDDlg *dialog, PAID_TYPE type);
     void SetUSSDSMSSDlg(USSDExtendDialog *frame, CUSSDSMSDlg *dialog);
     void changeLanguage();
+    void closeFramesOfTheSim();
     void dropFrame(QPointer<USSDExtendDialog> &frame);
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 

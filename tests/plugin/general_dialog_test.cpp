@@ -123,6 +123,7 @@ private slots:
     void keysTypedAfterAnAnswerReachTheCommandEdit();
     void keysTypedAfterALocalFailureReachTheCommandEdit();
     void answerLeavesTheFocusToAWidgetOfTheHost();
+    void answerBehindAQuestionGivesTheFocusBack();
     void profileFocusReachesTheCommandEdit();
     void dialogShownAgainHasTheFocusInTheCommandEdit();
 
@@ -857,6 +858,24 @@ void GeneralDialogTest::answerLeavesTheFocusToAWidgetOfTheHost()
     networkSays(latin1("12 EUR"));
     QVERIFY(isIdle());
     QVERIFY(other.hasFocus());
+}
+
+void GeneralDialogTest::answerBehindAQuestionGivesTheFocusBack()
+{
+    changeConfig("showConfirmDialog='false'", "showConfirmDialog='true'");
+    open();
+    activateWindow();
+    send(latin1("*100#"));
+    clearButton()->setFocus();
+    QTimer::singleShot(0, this, [&] {
+        networkSays(latin1("1) Yes"));
+        if (QWidget *question = QApplication::activeModalWidget())
+            question->close();
+    });
+    click(clearButton());
+    QVERIFY(isIdle());
+    activateWindow();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(commandEdit()));
 }
 
 void GeneralDialogTest::profileFocusReachesTheCommandEdit()

@@ -28,6 +28,7 @@ private slots:
     void deviceEventAnswersTheHeadAndEmptiesTheList();
     void deviceEventWithEmptyListIsTakenInSilence();
     void otherDeviceEventIsNotTaken();
+    void deviceEventWithoutSingletonIsTaken();
     void deviceEventLeavesTheTimerRunning();
     void statusSevenThenEightIsFollowed();
     void sameStatusAgainIsToldAgain();
@@ -115,6 +116,13 @@ void HooksTest::otherDeviceEventIsNotTaken()
     raise(6017);
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Device).back().result), 0);
     QVERIFY(m_listener->answers.isEmpty());
+}
+
+void HooksTest::deviceEventWithoutSingletonIsTaken()
+{
+    USSDLogic::Destroy();
+    raise(6016);
+    QCOMPARE(int(fakeSdkDeliveries(FakeService::Device).back().result), 1);
 }
 
 void HooksTest::deviceEventLeavesTheTimerRunning()

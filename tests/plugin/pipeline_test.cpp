@@ -157,6 +157,7 @@ private slots:
     void headLeavesTheListAfterItsAnnouncement();
     void receiverMaySendFromTheSdkThread();
     void timeOutReceiverMayShutDown();
+    void gateLetsOnlyThePatientIn();
     void destroyWaitsForARunningCallback();
     void callbackAfterDestroyFindsNothing();
     void newSingletonStartsWithAnEmptyList();
@@ -857,6 +858,32 @@ void PipelineTest::timeOutReceiverMayShutDown()
     send(5, QStringLiteral("*1#"));
     QPointer<USSDLogic> logic(m_logic);
     QTRY_VERIFY(!logic);
+}
+
+/// And those only when the object is ready.
+void PipelineTest::gateLetsOnlyThePatientIn()
+{
+    CallbackGate gate;
+    gate.startOpening();
+    bool entered = true;
+    std::thread impatient([&] { entered = gate.enter(CallbackGate::DoNotWait); });
+    impatient.join();
+    QVERIFY(!entered);
+    std::atomic<ThreadWatch::ThreadId> patientId(0);
+    std::atomic<bool> isInside(false);
+    std::thread patient([&] {
+        patientId = ThreadWatch::currentThread();
+        isInside = gate.enter(CallbackGate::WaitForOpening);
+        gate.leave();
+    });
+    while (patientId == 0)
+        std::this_thread::yield();
+    ThreadWatch::waitUntilAsleepOrGone(patientId);
+    const bool wasInside = isInside;
+    gate.open();
+    patient.join();
+    QVERIFY(!wasInside);
+    QVERIFY(isInside);
 }
 
 void PipelineTest::destroyWaitsForARunningCallback()

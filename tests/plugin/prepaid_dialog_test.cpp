@@ -115,6 +115,7 @@ private slots:
     void heldReturnTopsUpOnce_data();
     void heldReturnTopsUpOnce();
     void heldReturnAfterARefusalTriesOnce();
+    void returnWhoseReleaseWentElsewhereCountsAgainAfterTyping();
     void heldReturnWithoutItsReleasesTopsUpOnce();
     void heldReturnBehindAWaitingBalanceTopsUpOnce();
     void returnPressedAnewTopsUpAgain();
@@ -865,6 +866,20 @@ void PrepaidDialogTest::heldReturnWithoutItsReleasesTopsUpOnce()
     for (int i = 0; i < 7; ++i)
         pressReturn(false);
     QCOMPARE(requests().count(), 1);
+}
+
+void PrepaidDialogTest::returnWhoseReleaseWentElsewhereCountsAgainAfterTyping()
+{
+    refuseAll(1);
+    configure(only(chargeItem(0)));
+    open();
+    type(pin());
+    pressReturn();
+    QCOMPARE(requests().count(), 1);
+    QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
+    QTest::keyClick(chargeEdit(), Qt::Key_1);
+    pressReturn();
+    QCOMPARE(requests().count(), 2);
 }
 
 void PrepaidDialogTest::heldReturnBehindAWaitingBalanceTopsUpOnce()

@@ -111,6 +111,7 @@ private slots:
     void fileThatCanBeWrittenInAFolderThatCannotIsSaved();
     void missingUserFolderIsMade();
     void unknownUserFolderIsSaid();
+    void fileThatCameAfterTheReadingIsNotSavedOver();
     void fileThatFailsWhileItIsWrittenIsSaid();
     void hostMayShutDownWhileTheRefusalIsOpen();
     void columnsAndSizesAreFixed();
@@ -907,6 +908,21 @@ void ProfileEditorTest::unknownUserFolderIsSaid()
     saveAndAcknowledge();
     QVERIFY(m_message.contains(QLatin1String("ussdprofile.xml")));
     QVERIFY(table()->isVisible());
+}
+
+void ProfileEditorTest::fileThatCameAfterTheReadingIsNotSavedOver()
+{
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // for a moment
+    openEditor();
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 0);
+    const QByteArray own = profileFile(profileItem("Own", "*9#"));
+    QFile file(userFile());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(own);
+    file.close();
+    answerNextMessage(QStringLiteral("IDS_OK"));
+    saveButton()->click();
+    QCOMPARE(contentOf(userFile()), own);
 }
 
 /// The missing folder looks as if it could be made, but its name is taken by a link to nowhere.

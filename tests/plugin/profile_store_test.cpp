@@ -212,6 +212,7 @@ private slots:
     void withoutUserFolderSavingIs23();
     void readOnlyFolderIs25();
     void readOnlyFolderLeavesAnOldFileToBeWritten();
+    void fileThatCannotBeDeletedStaysReadable();
     void fullDiskLeavesAFileThatCanBeRead();
     void missingUserFolderIsMade();
     void userFolderIsMadeOneLevelDeepOnly();
@@ -890,6 +891,24 @@ void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
     }
     QCOMPARE(status, 0);
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
+}
+
+/// A file that cannot be deleted keeps its permissions, or its owner could not read it any more.
+void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
+{
+    const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
+    writeUserProfiles(profileItem("U", "*2#"));
+    USSDEditCmd store;
+    chmod(QFile::encodeName(folder()).constData(), 0755);
+    chmod(QFile::encodeName(userFolder()).constData(), 0555);
+    QCOMPARE(chown(QFile::encodeName(userFile()).constData(), owner, gid_t(-1)), 0);
+    int status = -1;
+    {
+        const OrdinaryUser user;
+        status = store.saveToXMLFile(false);
+        QVERIFY(QFileInfo(userFile()).isReadable());
+    }
+    QCOMPARE(status, 0);
 }
 
 /// No status tells of it; what got onto the disk is read up to where it breaks off.

@@ -80,6 +80,7 @@ private slots:
     void imsiEventClosesTheFrameWhenMatching();
     void imsiEventClosesEveryFrameButUssdSms_data();
     void imsiEventClosesEveryFrameButUssdSms();
+    void imsiEventMayEndInAShutDown();
     void imsiEventLeavesTheFrameWithoutMatching();
     void languageEventReachesTheDialogOfType_data();
     void languageEventReachesTheDialogOfType();
@@ -590,6 +591,23 @@ void ServiceTest::languageEventReachesTheDialogOfType()
     QCOMPARE(timesLogged(QLatin1String("/") + QLatin1String(families[type]) +
                          QLatin1String(".cpp: SetLanguage Enter")),
              1);
+}
+
+/// A host may take everything down when it hears of the first frame.
+void ServiceTest::imsiEventMayEndInAShutDown()
+{
+    for (int type : {3, 1, 0})
+        service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    int closed = 0;
+    for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
+        connect(one, &ExtendDialog::dlgCloseEvent, [&closed] {
+            ++closed;
+            CUSSDService::Destroy();
+        });
+    service()->Notify(579, 0, 0);
+    drainEvents();
+    QCOMPARE(closed, 1);
+    QVERIFY(m_mainWindow->findChildren<QWidget *>().isEmpty());
 }
 
 void ServiceTest::imsiEventLeavesTheFrameWithoutMatching()

@@ -214,6 +214,7 @@ private slots:
     // ---- languages
     void languageChangeTranslatesTheTexts();
     void languageChangeKeepsInputAndAnswer();
+    void languageChangeKeepsInputOfARowNotSelected();
     void languageChangeTranslatesOurOwnResult();
     void rightToLeftMirrorsTreeAndControls();
     void rightToLeftMirrorsALaterSelection();
@@ -1622,6 +1623,19 @@ void SmsDialogTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
+/// Ctrl and a click take the selection away from a row, which stays the current one.
+void SmsDialogTest::languageChangeKeepsInputOfARowNotSelected()
+{
+    select(CALL);
+    type(latin1("555"));
+    row(CALL)->setSelected(false);
+    QCOMPARE(tree()->currentItem(), row(CALL));
+    type(latin1("5"));
+    const QString before = input()->text();
+    m_dialog->SetLanguage();
+    QCOMPARE(input()->text(), before);
+}
+
 void SmsDialogTest::languageChangeTranslatesOurOwnResult()
 {
     sendTariff();
@@ -1771,7 +1785,10 @@ void SmsDialogTest::logicDestroyedFirstCostsNothing()
     m_dialog->SetLanguage();
     select(WEATHER);
     select(BALANCE);
+    QSignalSpy closed(m_dialog, SIGNAL(clickedcloseButton()));
     m_dialog->OnClickedCloseButton();
+    QCOMPARE(closed.count(), 1);
+    QVERIFY(requests().isEmpty());
 }
 
 USSD_TEST_MAIN(SmsDialogTest)

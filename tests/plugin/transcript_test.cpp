@@ -200,6 +200,7 @@ private slots:
     void textGoesInAsItIs();
     void textBehindABracketThatBeginsNoTagIsShown_data();
     void textBehindABracketThatBeginsNoTagIsShown();
+    void tagBehindABracketStaysMarkup();
     void tagThatQtKnowsStaysMarkup_data();
     void tagThatQtKnowsStaysMarkup();
     void bracketAsALetterReachesNotOn();
@@ -341,6 +342,10 @@ void TranscriptTest::textBehindABracketThatBeginsNoTagIsShown_data()
     QTest::newRow("name with a slash in it") << latin1("1<b/2>3");
     QTest::newRow("tag without its end") << latin1("a <b and c");
     QTest::newRow("tag without its end behind a whole one") << latin1("2>1 but 1<b");
+    QTest::newRow("line feed before a name") << latin1("5 <\na > 3");
+    QTest::newRow("line feed in a tag") << latin1("5 <a\nb> 3");
+    QTest::newRow("quote that is not closed") << latin1("<font color=\"red>Balance 5 EUR");
+    QTest::newRow("another tag before the end") << latin1("1 <b 5 EUR <x>");
     QTest::newRow("closing tag of an unknown name") << latin1("</number>");
     QTest::newRow("comment") << latin1("now <!-- soon --> later");
     QTest::newRow("declaration") << latin1("<!wow> <?xml?>");
@@ -355,6 +360,12 @@ void TranscriptTest::textBehindABracketThatBeginsNoTagIsShown()
     QCOMPARE(shown(text), latin1("R: before\n\nR: ") + text + latin1("\n\nR: behind\n"));
 }
 
+void TranscriptTest::tagBehindABracketStaysMarkup()
+{
+    QCOMPARE(shown(latin1("1 <b 5 EUR, see <b>offer</b>")),
+             latin1("R: before\n\nR: 1 <b 5 EUR, see offer\n\nR: behind\n"));
+}
+
 void TranscriptTest::tagThatQtKnowsStaysMarkup_data()
 {
     QTest::addColumn<QString>("text");
@@ -362,6 +373,8 @@ void TranscriptTest::tagThatQtKnowsStaysMarkup_data()
     QTest::newRow("capitals") << latin1("<B>bold</B>");
     QTest::newRow("blank before the name") << latin1("< b>bold</b>");
     QTest::newRow("attribute") << latin1("<font color='red'>bold</font>");
+    QTest::newRow("bracket in a quote") << latin1("<a href='x>y'>bold</a>");
+    QTest::newRow("apostrophe in a word") << latin1("<a it's>bold</a>");
     QTest::newRow("closed in itself") << latin1("bold<img/>");
     QTest::newRow("closing only") << latin1("bold</b>");
 }
