@@ -868,9 +868,12 @@ void GeneralDialogTest::answerBehindAQuestionGivesTheFocusBack()
     send(latin1("*100#"));
     clearButton()->setFocus();
     QTimer::singleShot(0, this, [&] {
+        QWidget *question = QApplication::activeModalWidget();
+        if (!question)
+            return;
+        QApplication::setActiveWindow(question);
         networkSays(latin1("1) Yes"));
-        if (QWidget *question = QApplication::activeModalWidget())
-            question->close();
+        question->close();
     });
     click(clearButton());
     QVERIFY(isIdle());
