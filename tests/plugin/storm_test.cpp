@@ -19,7 +19,7 @@
 namespace
 {
 
-const int kLastComponent = 99; // of no dialog
+const int kLastComponent = 7; // of no dialog, and what the enumeration can still hold
 
 int number(const char *name, int otherwise)
 {
