@@ -51,6 +51,7 @@ QWaitCondition USSDLogic::m_waitCondition;
 ReplyTimer *USSDLogic::m_pTimer = nullptr;
 std::atomic<bool> USSDLogic::m_bCanSendSMS(false);
 USSDLogic::HeadMarks USSDLogic::m_headMarks = {1, 0, 0};
+quint64 USSDLogic::m_timedHead = 0;
 CallbackGate USSDLogic::m_gate;
 ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
 
@@ -349,6 +350,7 @@ void USSDLogic::armReplyTimer(quint64 number)
     QMutexLocker locker(&m_mutexTimeout);
     if (m_pTimer->isArmed()) // an earlier request's; its reply may be under way on another thread
         m_waitCondition.wait(&m_mutexTimeout, static_cast<unsigned long>(m_replyTimes.previous));
+    m_timedHead = number;
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
     locker.unlock();
     // A reply that was quicker than this found nothing to take back.
@@ -432,8 +434,8 @@ void USSDLogic::OnTimeOut()
     checkPendingCmds();
 }
 
-/// Wakes the waiting and takes back the arming that ran out. False when a reply did so first: then
-/// the time-out is that of a command answered in the last moment, and the head is another one.
+/// Wakes whoever waits and cancels the arming that ran out. Returns false when the command that it
+/// was for has been answered meanwhile: the head is another one then, perhaps not handed over yet.
 bool USSDLogic::stopRunOutTimer()
 {
     const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;
@@ -446,7 +448,9 @@ bool USSDLogic::stopRunOutTimer()
     if (!m_pTimer->isArmed(runOut))
         return false;
     m_pTimer->disarm(runOut);
-    return true;
+    const quint64 timedHead = m_timedHead;
+    locker.unlock();
+    return awaitsReply(timedHead);
 }
 
 unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)

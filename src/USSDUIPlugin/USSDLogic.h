@@ -194,6 +194,7 @@ private:
     static ReplyTimer *m_pTimer;
     static std::atomic<bool> m_bCanSendSMS;
     static HeadMarks m_headMarks;
+    static quint64 m_timedHead; // the head that the timer was armed for; guarded by m_mutexTimeout
     static CallbackGate m_gate;
     static ReplyTimes m_replyTimes;
 
