@@ -16,8 +16,8 @@ class PieceFeeder;
  * may hold an unclosed tag or a style sheet that is only so if the whole is set each time.
  *
  * Two kinds of entries are shown otherwise so that the window stays alive: one whose markup costs
- * too much is shown as letters, and one that takes long even so, which no network can send, comes in
- * pieces, each a paragraph.
+ * too much is shown as letters, and one that takes long even so, which no network can send, comes
+ * in pieces, each a paragraph.
  */
 class TranscriptView : public QTextEdit
 {

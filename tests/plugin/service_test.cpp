@@ -314,6 +314,8 @@ void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly_data()
     QTest::newRow("prepaid") << 0 << QStringLiteral("IDS_WINDOW_TETLE_PREPAID");
     QTest::newRow("postpaid") << 1 << QStringLiteral("IDS_WINDOW_TETLE_POSTPAID");
     QTest::newRow("general") << 3 << QStringLiteral("IDS_ADVANCE_USSD");
+    QTest::newRow("USSD-SMS") << 5 << QString();
+    QTest::newRow("none") << 4 << QString();
 }
 
 void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly()
@@ -330,7 +332,7 @@ void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly()
         connect(one, &ExtendDialog::dlgCloseEvent,
                 [&closed, one] { closed << one->windowTitle(); });
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
-    QCOMPARE(closed, QStringList{CUSSDService::tr(title)});
+    QCOMPARE(closed, title.isEmpty() ? QStringList() : QStringList{CUSSDService::tr(title)});
 }
 
 void ServiceTest::closeRequestLeavesTheUssdSmsWindow()
