@@ -267,6 +267,7 @@ void ServiceTest::framesAreCentredOverTheMainWindow()
     QFETCH(int, type);
     m_mainWindow->move(60, 40);
     service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
+    QVERIFY(frame()->testAttribute(Qt::WA_Moved)); // not by QDialog itself, when it is shown
     const QPoint apart = frame()->frameGeometry().center() - m_mainWindow->frameGeometry().center();
     QVERIFY2(apart.manhattanLength() <= 4,
              qPrintable(QStringLiteral("%1,%2 apart").arg(apart.x()).arg(apart.y())));
