@@ -44,6 +44,7 @@ private:
     enum HostAct { IMSI_EVENT, ON_DESTROY, DELETION_OF_ITS_WINDOW };
 
     void openReady(const QByteArray &charge = chargeIntoBox()); ///< nothing is under way
+    void letATopUpTimeOutBeforeAnotherCommand();                ///< which is *9#
     void openBox(const QString &reply = QStringLiteral("10 EUR added"));
     void act(int hostAct);
 
@@ -215,7 +216,7 @@ void PrepaidBoxTest::boxOpensAfterTheAnnouncement()
     QVERIFY(messageBox());
 }
 
-void PrepaidBoxTest::timeOutInTheBoxLetsTheQueueMove()
+void PrepaidBoxTest::letATopUpTimeOutBeforeAnotherCommand()
 {
     openReady();
     topUp(pin());
@@ -223,6 +224,11 @@ void PrepaidBoxTest::timeOutInTheBoxLetsTheQueueMove()
     USSDLogic *logic = USSDLogic::GetUSSDLogicInstance();
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*9#")), &status);
     QVERIFY(QMetaObject::invokeMethod(logic, "OnTimeOut"));
+}
+
+void PrepaidBoxTest::timeOutInTheBoxLetsTheQueueMove()
+{
+    letATopUpTimeOutBeforeAnotherCommand();
     QCOMPARE(requests().last(), QStringLiteral("*9#"));
     drainEvents();
     QCOMPARE(textInMessageBox(), text("USSD_CODE_TIME_OUT"));
@@ -230,15 +236,10 @@ void PrepaidBoxTest::timeOutInTheBoxLetsTheQueueMove()
 
 void PrepaidBoxTest::lateReplyIsDeliveredWhileTheBoxIsOpen()
 {
-    openReady();
-    topUp(pin());
-    int status = 0;
-    USSDLogic *logic = USSDLogic::GetUSSDLogicInstance();
-    logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*9#")), &status);
-    QVERIFY(QMetaObject::invokeMethod(logic, "OnTimeOut"));
+    letATopUpTimeOutBeforeAnotherCommand();
     drainEvents();
     QVERIFY(messageBox());
-    LogicListener listener(logic);
+    LogicListener listener(USSDLogic::GetUSSDLogicInstance());
     networkSays(QStringLiteral("late"));
     QCOMPARE(listener.answers.count(), 1);
     QCOMPARE(listener.answers.first().first, int(COMPONENT_GENERAL));
