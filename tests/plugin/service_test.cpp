@@ -544,6 +544,7 @@ void ServiceTest::languageEventReachesBothDialogs()
     QVERIFY(german != english);
     QCOMPARE(part<QPushButton>(embeddedDialog(), "SendButton")->text(), german);
     QCOMPARE(part<QPushButton>(framedDialog(), "SendButton")->text(), german);
+    QCOMPARE(frame()->windowTitle(), QStringLiteral("USSD-Codes"));
 }
 
 void ServiceTest::languageEventBeforeAnyWindowDoesNothing()

@@ -146,6 +146,7 @@ private slots:
     void emptyNumberIsSentWhenTyped();
     void emptyNumberIsEnabledByReadiness();
     void emptyCommandIsEnabledByReadinessButNotSent();
+    void typingDoesNotEnableAnEmptyCommand();
     void typedTextOfMinimumLengthIsEnoughButNotForReadiness();
     void tooShortTextIsNeverSent();
     void readinessIsIgnoredForUssd();
@@ -1003,6 +1004,15 @@ void SmsDialogTest::emptyCommandIsEnabledByReadinessButNotSent()
     QVERIFY(button()->isEnabled());
     QVERIFY(tree()->isEnabled());
     QCOMPARE(result(), QString());
+}
+
+void SmsDialogTest::typingDoesNotEnableAnEmptyCommand()
+{
+    openWith(config().replace("WEATHER %s", ""));
+    deviceSays(TKSV_SMS_STATUS_CAN_SEND);
+    select(WEATHER);
+    type(latin1("Oslo"));
+    QVERIFY(!button()->isEnabled());
 }
 
 /// The two tests of the length differ, and are kept so.
