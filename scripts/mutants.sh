@@ -85,7 +85,8 @@ replace()
 # Tries $name: $old by $new in $file, with the tests in $tests first.
 try_fault()
 {
-    local source=$tree/src/USSDUIPlugin/$file result=0 pattern
+    local source result=0 pattern
+    source=$(ls "$tree"/src/{USSDUIPlugin,formats}/"$file" 2>/dev/null)
     cp "$source" "$root/before"
     if ! replace "$source"; then
         result=3

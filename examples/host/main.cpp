@@ -22,11 +22,10 @@
 #include "HostState.h"
 #include "IUIPlugin.h"
 #include "IUSSD.h"
+#include "PluginContract.h"
 
 namespace
 {
-
-const int USSD_SERVICE = 4097;
 
 struct Options {
     bool good = true;
@@ -73,7 +72,7 @@ QString take(QPluginLoader &loader, Plugin &plugin)
     if (!plugin.window->Init())
         return QLatin1String("the plug-in refused Init()");
     QObject *service = nullptr;
-    if (!plugin.window->QueryInterface(USSD_SERVICE, &service))
+    if (!plugin.window->QueryInterface(PluginContract::USSD_SERVICE, &service))
         return QLatin1String("the plug-in has no USSD service");
     plugin.ussd = qobject_cast<IUSSD *>(service);
     return plugin.ussd ? QString() : QLatin1String("the USSD service lacks its interface");

@@ -3,9 +3,9 @@
 #include <QLineEdit>
 #include <QModelIndex>
 
-#include "CodeText.h"
 #include "ExtendLineEdit.h"
 #include "ProfileRows.h"
+#include "UssdCode.h"
 
 namespace
 {

@@ -29,7 +29,7 @@ bool encodeRequest(const QString &command, TKSV_USSDRequest &request)
 {
     std::memset(&request, 0, sizeof(request));
     const int bytes = commandBytes(command);
-    if (bytes > kMaxCommandBytes)
+    if (bytes > TKSV_USSD_MAX_COMMAND_BYTES)
         return false;
     request.length = static_cast<unsigned int>(bytes);
     std::memcpy(request.text, command.utf16(), static_cast<size_t>(bytes));

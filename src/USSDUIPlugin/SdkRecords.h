@@ -11,13 +11,11 @@
 namespace SdkRecords
 {
 
-/// A longer command, in bytes, is not handed over, though the record would hold 368.
-const int kMaxCommandBytes = 183;
-
 /// Bytes of a command as UTF-16.
 int commandBytes(const QString &command);
 
-/// Fills the whole record. False, with the record all zero, when the command is too long.
+/// Fills the whole record. Returns false and zeroes the record when the command is longer than
+/// TKSV_USSD_MAX_COMMAND_BYTES.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
 /// A text ends there at the latest, in UTF-16 units: its closing zero may have been forgotten.

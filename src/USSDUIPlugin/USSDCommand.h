@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "tksv.h"
+
 /** Who sent a command; also the component index of the configuration. */
 enum _COMPONENT {
     COMPONENT_BALANCE = 0,
@@ -19,6 +21,26 @@ enum WINDOW_MODEL {
     WINDOW_MODEL_MODAL = 0,   // in a frame of its own
     WINDOW_MODEL_EMBEDDED = 1 // as a child of a host's widget
 };
+
+/** What SendUSSDCommand() returns. */
+enum SendResult {
+    SEND_OK = 0,
+    SEND_FAILED = 1,
+    SEND_QUEUED = 12 // nothing of ours returns it; the dialogs treat it as SEND_OK
+};
+
+/// Whether an answer to a command with this result will come.
+inline bool isAnswerAwaited(int result)
+{
+    return result == SEND_OK || result == SEND_QUEUED;
+}
+
+/// The key of the text that is shown for a command that could not be sent. `failed` is the key for
+/// every reason but a device that did not answer in time.
+inline const char *failureKey(int status, const char *failed)
+{
+    return status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : failed;
+}
 
 /** One command on its way to the network. */
 struct USSDCmdOrResp {

@@ -18,14 +18,13 @@
 #include "ReplyBox.h"
 #include "StatusBox.h"
 #include "tksv.h"
+#include "UssdCode.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 
 namespace
 {
 
-const int kResultFailed = 1;
-const int kResultQueued = 12;      // as good as 0
 const int kReturnInMessageBox = 1; // of the charge's return styles
 const int kLinkWidth = 300;        // pixels
 const int kBalanceLines = 3;
@@ -475,7 +474,7 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
             USSD_LOG_EXIT(" Fail Exit: m_pChargeEdit is NULL");
             return;
         }
-        command.replace(QLatin1String("%s"), m_pChargeEdit->text());
+        command.replace(INPUT_PLACEHOLDER, m_pChargeEdit->text());
         USSD_LOG(" USSD command: %s", command.toLocal8Bit().constData());
     }
     int status = 0;
@@ -483,22 +482,15 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
     if (isAnswerAwaited(result))
         awaitAnswer(component, result == 0);
     else
-        OnResponseReceived(
-            component,
-            text(status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : "USSD_CODE_FAILED"));
+        OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
 /// A command that could not be read is empty. It fails like one that the device refuses.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())
-        return kResultFailed;
+        return SEND_FAILED;
     return m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), status);
-}
-
-bool USSDDlg::isAnswerAwaited(int result)
-{
-    return result == 0 || result == kResultQueued;
 }
 
 /// A top-up whose answer comes in a message box waits without saying so. It makes the dialog busy

@@ -11,7 +11,7 @@
 #include "INotifyService.h"
 #include "IUSSD.h"
 #include "PluginConfig.h"
-#include "PrePostRecord.h"
+#include "PluginContract.h"
 #include "USSDCommand.h"
 #include "USSDLogic.h"
 
@@ -117,7 +117,6 @@ private:
     void resetCharge();
     void sendUSSDCommand(_COMPONENT component, int attr);
     int sendUnlessEmpty(_COMPONENT component, const QString &command, int *status);
-    static bool isAnswerAwaited(int result);
     void awaitAnswer(_COMPONENT component, bool isSent);
     void routeResponse(int component, const QString &text, bool isWaiting);
     void onChargeResponseReceived(const QString &text);

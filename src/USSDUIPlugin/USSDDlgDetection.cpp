@@ -14,8 +14,6 @@ static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
-const unsigned int kNotifyPrePostInfo = 384;
-
 const char kNotificationPlugin[] = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
 const char *const kAddressees[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
                                    "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
@@ -74,7 +72,7 @@ void USSDDlg::onPrePostPaidRspReceived(const QString &text)
 void USSDDlg::notifyHost()
 {
     const PrePostRecord record = m_prePostRecord;
-    sendNotify(kNotifyPrePostInfo, reinterpret_cast<NotifyParam>(&record), 0);
+    sendNotify(PluginContract::MESSAGE_PRE_POST_INFO, reinterpret_cast<NotifyParam>(&record), 0);
 }
 
 void USSDDlg::sendNotify(unsigned int msg, NotifyParam wParam, NotifyParam lParam)

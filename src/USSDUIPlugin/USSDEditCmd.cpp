@@ -9,11 +9,13 @@
 #include "CommonUtils.h"
 #include "ForwardXml.h"
 #include "InputFile.h"
+#include "PluginFiles.h"
 #include "PluginLog.h"
 #include "ProfileRows.h"
 #include "ProfileXml.h"
 #include "SdkRecords.h"
 #include "tksv.h"
+#include "XmlName.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
@@ -42,8 +44,7 @@ USSDEditCmd::~USSDEditCmd()
 void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
 {
     USSD_LOG_SCOPE();
-    path = CommonUtils::GetPluginLibraryPath() +
-           QLatin1String("/plugins/USSDUIPlugin/ussdsysprofile.xml");
+    path = PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES);
     USSD_LOG_EXIT(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
 }
 
@@ -88,7 +89,7 @@ QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newP
 
 bool USSDEditCmd::skipXmlReaderTillString(QXmlStreamReader &reader, QString name)
 {
-    return ForwardXml::skipToBefore(reader, name, QLatin1String("item"));
+    return ForwardXml::skipToBefore(reader, name, QLatin1String(XmlName::ITEM));
 }
 
 void USSDEditCmd::load(QString xmlFilePath, bool isSystem)

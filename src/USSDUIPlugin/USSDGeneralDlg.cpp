@@ -28,7 +28,6 @@ const int kModalWidth = 588;
 const int kModalHeight = 465;
 const int kMaxComboCode = 40;
 const int kMaxPaymentNumber = 20;
-const int kResultQueued = 12; // as good as 0: an answer is awaited
 
 QLineEdit *createCodeEdit(QWidget *parent)
 {
@@ -430,13 +429,12 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     const int result =
         m_pLogic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, command), &reason);
     m_bWaiting = true;
-    if (result == 0 || result == kResultQueued) {
+    if (isAnswerAwaited(result)) {
         parkFocus();
         return true;
     }
-    OnResponseReceived(COMPONENT_GENERAL, tr(QLatin1String(reason == TKSV_STATUS_DEVICE_TIMEOUT
-                                                               ? "USSD_CODE_TIME_OUT"
-                                                               : "USSD_CODE_FAILED")));
+    OnResponseReceived(COMPONENT_GENERAL,
+                       tr(QLatin1String(failureKey(reason, "USSD_CODE_FAILED"))));
     return false;
 }
 

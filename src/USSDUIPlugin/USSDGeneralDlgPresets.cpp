@@ -14,11 +14,11 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
-#include "CodeText.h"
 #include "CommonUtils.h"
 #include "PluginLog.h"
 #include "QtCompat.h"
 #include "TranscriptView.h"
+#include "UssdCode.h"
 #include "USSDEditCmd.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
@@ -137,7 +137,7 @@ void USSDGeneralDlg::OnPreBtnClicked()
         const QString number = m_pPaymentEdit->text();
         if (number.isEmpty())
             return;
-        command.replace(QLatin1String("%s"), number);
+        command.replace(INPUT_PLACEHOLDER, number);
     }
     emit preBtnClickedEvent(command);
 }

@@ -10,7 +10,9 @@
 #include "CommonUtils.h"
 #include "ForwardXml.h"
 #include "InputFile.h"
+#include "PluginFiles.h"
 #include "PluginLog.h"
+#include "XmlName.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
@@ -38,8 +40,8 @@ int commonIntAttr(const Component &component, int attr)
 
 bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
 {
-    const QString path = CommonUtils::GetPluginLibraryPath() +
-                         QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
+    const QString path =
+        PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::CONFIGURATION);
     USSD_LOG(" xmlFilePath = %s", path.toLocal8Bit().constData());
     file.setFileName(path);
     QString problem;
@@ -68,23 +70,17 @@ void USSDLogic::load()
         USSD_LOG_NO_EXIT();
         return;
     }
-    readPrePostDiffer(reader, m_config.prePostDiffer);
-    for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
-        readPaidSection(reader, paidType, m_config);
-    loadSendCharSettings(reader);
-    loadRecvCharSettings(reader);
-    loadCmdEditSettings(reader);
-    loadAutoUssdSettings(reader);
+    readConfiguration(reader, m_config);
 }
 
 void USSDLogic::loadSendCharSettings(QXmlStreamReader &reader)
 {
-    readCharSection(reader, kSentCharSection, m_config.sentChar);
+    readCharSection(reader, XmlName::SENT_CHAR, m_config.sentChar);
 }
 
 void USSDLogic::loadRecvCharSettings(QXmlStreamReader &reader)
 {
-    readCharSection(reader, kReceivedCharSection, m_config.receivedChar);
+    readCharSection(reader, XmlName::RECEIVED_CHAR, m_config.receivedChar);
 }
 
 void USSDLogic::loadCmdEditSettings(QXmlStreamReader &reader)

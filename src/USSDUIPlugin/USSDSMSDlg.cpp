@@ -13,10 +13,12 @@
 
 #include "CommonUtils.h"
 #include "InputFile.h"
+#include "PluginFiles.h"
 #include "PluginLog.h"
 #include "PluginText.h"
 #include "ReplyLabel.h"
 #include "tksv.h"
+#include "UssdCode.h"
 #include "USSDLogic.h"
 
 static const char kLogSource[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
@@ -25,7 +27,6 @@ namespace
 {
 
 const int kNoEntry = -1;
-const int kResultQueued = 12; // the command waits its turn
 
 /** Positions of the fixed widgets, and of the controls that describe them in a group. */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
@@ -60,7 +61,7 @@ QString layoutPath()
     const QString folder = CommonUtils::GetPluginLibraryPath();
     if (folder.isEmpty())
         return QString();
-    return folder + QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
+    return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
 /// The one line that has its words before the time.
@@ -539,7 +540,7 @@ void CUSSDSMSDlg::fillPlaceholder()
 {
     if (!m_command.inputField)
         return;
-    m_command.command.replace(QLatin1String("%s"), m_command.inputField->text(), Qt::CaseSensitive);
+    m_command.command.replace(INPUT_PLACEHOLDER, m_command.inputField->text(), Qt::CaseSensitive);
     m_command.inputField->setEnabled(false);
 }
 
@@ -583,12 +584,10 @@ void CUSSDSMSDlg::SendUSSDCommand(_COMPONENT component, QString command)
     int status = 0;
     const int result =
         m_pLogic ? m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), &status) : 1;
-    if (result == kResultQueued)
+    if (result == SEND_QUEUED)
         OnResponseUSSDSMSReceived(component, textOf("USSD_CODE_WAITTING"));
-    else if (result != 0)
-        OnResponseUSSDSMSReceived(component, textOf(status == TKSV_STATUS_DEVICE_TIMEOUT
-                                                        ? "USSD_CODE_TIME_OUT"
-                                                        : "IDS_SMS_SEND_FAILED"));
+    else if (result != SEND_OK)
+        OnResponseUSSDSMSReceived(component, textOf(failureKey(status, "IDS_SMS_SEND_FAILED")));
 }
 
 int CUSSDSMSDlg::SendSMS(QString *number, QString *text)

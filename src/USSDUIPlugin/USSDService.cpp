@@ -3,6 +3,7 @@
 #include <new>
 
 #include "CommonUtils.h"
+#include "PluginContract.h"
 #include "PluginLog.h"
 #include "PluginMessage.h"
 #include "PluginText.h"
@@ -14,8 +15,6 @@ static const char kLogSource[] = USSD_LOG_SOURCE("USSDService.cpp");
 namespace
 {
 
-const unsigned int kEventLanguageChanged = 320;
-const unsigned int kEventCheckImsi = 579;
 const int kGeneralFrameWidth = 588;
 const int kGeneralFrameHeight = 465;
 const int kMaxFrameSide = SmsLayoutFile::kMaxWindowSide;
@@ -137,9 +136,9 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     USSD_LOG_SCOPE();
     Q_UNUSED(param1);
     Q_UNUSED(param2);
-    if (event == kEventLanguageChanged) {
+    if (event == PluginContract::EVENT_LANGUAGE_CHANGED) {
         changeLanguage();
-    } else if (event == kEventCheckImsi && IsImsiDynamicMatch()) {
+    } else if (event == PluginContract::EVENT_CHECK_SIM && IsImsiDynamicMatch()) {
         closeFramesOfTheSim();
     }
     return 0;

@@ -1,11 +1,10 @@
 #include "NotificationService.h"
 
-#include "PaidRecord.h"
+#include "PluginContract.h"
 
 namespace
 {
 
-const unsigned int PREPAID_OR_POSTPAID = 384;
 const int TAKEN = 0;
 const int NOT_TAKEN = 1;
 
@@ -18,11 +17,11 @@ bool isAddressee(const QString &name)
     return false;
 }
 
-PaidType paidTypeOf(const PaidRecord &record)
+PaidType paidTypeOf(const PrePostRecord &record)
 {
-    if (!record.isInUse || record.result == 0)
+    if (!record.bInUse || record.result == 0)
         return PAID_UNKNOWN;
-    return record.isPostpaid ? PAID_AFTER : PAID_BEFORE;
+    return record.bPostPaid ? PAID_AFTER : PAID_BEFORE;
 }
 
 } // namespace
@@ -37,8 +36,8 @@ NotificationService::NotificationService(QObject *parent) : QObject(parent) {}
 int NotificationService::Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                                 NotifyParam)
 {
-    const PaidRecord *record = reinterpret_cast<const PaidRecord *>(wParam);
-    if (message != PREPAID_OR_POSTPAID || !record || !isAddressee(addressee))
+    const PrePostRecord *record = reinterpret_cast<const PrePostRecord *>(wParam);
+    if (message != PluginContract::MESSAGE_PRE_POST_INFO || !record || !isAddressee(addressee))
         return NOT_TAKEN;
     emit paidTypeTold(paidTypeOf(*record));
     return TAKEN;

@@ -4,6 +4,7 @@
 #include "DeviceWatcher.h"
 #include "InputFile.h"
 #include "InstallPaths.h"
+#include "PluginFiles.h"
 #include "tksv_device.h"
 #include "UiPlugin.h"
 
@@ -11,13 +12,12 @@ namespace
 {
 
 const char DECLINED[] = "none";
-const char PLUGIN_FOLDER[] = "/plugins/USSDUIPlugin/";
 const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
 
 QByteArray shippedConfiguration()
 {
-    return InputFile::content(InstallPaths::installedPluginLibrary() +
-                              QLatin1String(PLUGIN_FOLDER) + ProvisionFiles::configurationName());
+    return InputFile::content(
+        PluginFiles::path(InstallPaths::installedPluginLibrary(), PluginFiles::CONFIGURATION));
 }
 
 bool isOfCountry(const Provider &provider, const QString &countryCode)

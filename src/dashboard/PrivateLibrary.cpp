@@ -7,16 +7,15 @@
 
 #include "InputFile.h"
 #include "InstallPaths.h"
+#include "PluginFiles.h"
 
 namespace
 {
 
 const char LIBRARY_PATH[] = "USSD_PLUGIN_LIBRARY_PATH";
 const char USER_DATA[] = "TKSV_USER_DATA";
-const char PLUGIN_FOLDER[] = "/plugins/USSDUIPlugin";
 const char USER_FOLDER[] = "/user/";
-const char *const DATA_FILES[] = {"USSDPluginConfig.xml", "ussdsysprofile.xml"};
-const char PLUGIN_FILE[] = "libUSSDUIPlugin.so";
+const QLatin1String DATA_FILES[] = {PluginFiles::CONFIGURATION, PluginFiles::SYSTEM_PROFILES};
 
 QString makeTemporaryFolder()
 {
@@ -55,7 +54,7 @@ void setOrUnset(const char *variable, const QByteArray &value)
 } // namespace
 
 PrivateLibrary::PrivateLibrary()
-    : m_installed(InstallPaths::installedPluginLibrary() + QLatin1String(PLUGIN_FOLDER)),
+    : m_installed(InstallPaths::installedPluginLibrary() + PluginFiles::FOLDER),
       m_path(makeTemporaryFolder()), m_oldLibraryPath(qgetenv(LIBRARY_PATH)),
       m_oldUserData(qgetenv(USER_DATA))
 {
@@ -74,17 +73,17 @@ PrivateLibrary::~PrivateLibrary()
 
 bool PrivateLibrary::make()
 {
-    bool isMade = QDir().mkpath(m_path + QLatin1String(PLUGIN_FOLDER)) &&
+    bool isMade = QDir().mkpath(m_path + PluginFiles::FOLDER) &&
                   QDir().mkpath(m_path + QLatin1String(USER_FOLDER));
-    for (const char *name : DATA_FILES)
-        isMade = isMade && restore(QLatin1String(name));
-    const QString plugin = m_installed + QLatin1Char('/') + QLatin1String(PLUGIN_FILE);
-    return isMade && QFile::link(plugin, fileName(QLatin1String(PLUGIN_FILE)));
+    for (const QLatin1String &name : DATA_FILES)
+        isMade = isMade && restore(name);
+    const QString plugin = m_installed + QLatin1Char('/') + PluginFiles::LIBRARY;
+    return isMade && QFile::link(plugin, fileName(PluginFiles::LIBRARY));
 }
 
 QString PrivateLibrary::fileName(const QString &name) const
 {
-    return m_path + QLatin1String(PLUGIN_FOLDER) + QLatin1Char('/') + name;
+    return m_path + PluginFiles::FOLDER + QLatin1Char('/') + name;
 }
 
 QString PrivateLibrary::userProfileFile() const

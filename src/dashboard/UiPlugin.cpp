@@ -8,13 +8,11 @@
 #include "InstallPaths.h"
 #include "IUIPlugin.h"
 #include "IUSSD.h"
+#include "PluginContract.h"
+#include "PluginFiles.h"
 
 namespace
 {
-
-const int USSD_SERVICE = 4097;
-const unsigned int LANGUAGE_CHANGED = 320;
-const unsigned int SIM_CHANGED = 579;
 
 /// Whether the file is a library at all, whatever is in it. Loads it for a moment.
 bool isLoadableLibrary(const QString &file)
@@ -35,8 +33,7 @@ UiPlugin::~UiPlugin()
 
 QString UiPlugin::installedFile()
 {
-    return InstallPaths::installedPluginLibrary() +
-           QLatin1String("/plugins/USSDUIPlugin/libUSSDUIPlugin.so");
+    return PluginFiles::path(InstallPaths::installedPluginLibrary(), PluginFiles::LIBRARY);
 }
 
 PluginFailure UiPlugin::load(const QString &file)
@@ -92,8 +89,8 @@ PluginFailure UiPlugin::startService()
 PluginFailure UiPlugin::takeService()
 {
     QObject *service = nullptr;
-    if (!m_plugin->QueryInterface(USSD_SERVICE, &service) || !service)
-        return failure(PluginFailure::NoService, QString::number(USSD_SERVICE));
+    if (!m_plugin->QueryInterface(PluginContract::USSD_SERVICE, &service) || !service)
+        return failure(PluginFailure::NoService, QString::number(PluginContract::USSD_SERVICE));
     m_ussd = qobject_cast<IUSSD *>(service);
     return m_ussd ? failure(PluginFailure::None)
                   : failure(PluginFailure::NoInterface,
@@ -112,13 +109,13 @@ PluginFailure UiPlugin::failure(PluginFailure::Step step, const QString &detail)
 void UiPlugin::notifyLanguageChange()
 {
     if (m_notify)
-        m_notify->Notify(LANGUAGE_CHANGED, 0, 0);
+        m_notify->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }
 
 void UiPlugin::notifySimChange()
 {
     if (m_notify)
-        m_notify->Notify(SIM_CHANGED, 0, 0);
+        m_notify->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
 }
 
 PluginFailure UiPlugin::restart()

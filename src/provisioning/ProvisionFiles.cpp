@@ -1,11 +1,15 @@
 #include "ProvisionFiles.h"
 
+#include <QBuffer>
 #include <QHash>
 #include <QRect>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include "ProfileXml.h"
+#include "UssdCode.h"
 #include "UssdTemplate.h"
+#include "XmlName.h"
 
 namespace
 {
@@ -15,7 +19,8 @@ const int LONGEST_VOUCHER = 30;
 const int SHORTEST_VOUCHER = 1;
 
 // Looks of the shipped configuration, each with all that is in it.
-const char *const LOOKS[] = {"send", "recevie", "clearHistory", "cmdEdit", "MainSize", "TreeSize"};
+const char *const LOOKS[] = {XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CLEAR_HISTORY,
+                             XmlName::CMD_EDIT,  XmlName::MAIN_SIZE,     XmlName::TREE_SIZE};
 const int MAX_DEPTH = 30;
 
 // The services window's controls, in pixels: explanation, button, reply.
@@ -108,7 +113,7 @@ QString number(int value)
 
 QString boolText(bool value)
 {
-    return QLatin1String(value ? "true" : "false");
+    return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
 /** Writes the elements in the order that the plug-in's reader wants. */
@@ -177,14 +182,14 @@ QByteArray ConfigurationWriter::write()
     m_xml.setAutoFormatting(true);
     m_xml.writeStartDocument();
     writeHead();
-    start("ussdPlugin");
+    start(XmlName::ROOT);
     writeDetection();
-    writePaid("Prepaid", !m_plan.topUp.isEmpty());
-    writePaid("Postpaid", false);
-    look("send");
-    look("recevie");
-    look("clearHistory");
-    look("cmdEdit");
+    writePaid(XmlName::PREPAID, !m_plan.topUp.isEmpty());
+    writePaid(XmlName::POSTPAID, false);
+    look(XmlName::SENT_CHAR);
+    look(XmlName::RECEIVED_CHAR);
+    look(XmlName::CLEAR_HISTORY);
+    look(XmlName::CMD_EDIT);
     writeServices();
     writeSims();
     end();
@@ -206,62 +211,62 @@ void ConfigurationWriter::writeHead()
 /// The database does not tell how to ask for the kind of contract.
 void ConfigurationWriter::writeDetection()
 {
-    start("PrePostDiffer");
-    attribute("value", boolText(false));
-    text("command", QString());
-    text("ReturnPattern", QString());
-    text("style", number(0));
+    start(XmlName::PRE_POST_DIFFER);
+    attribute(XmlName::VALUE, boolText(false));
+    text(XmlName::COMMAND, QString());
+    text(XmlName::RETURN_PATTERN, QString());
+    text(XmlName::STYLE, number(0));
     end();
 }
 
 void ConfigurationWriter::writePaid(const char *section, bool topUp)
 {
     start(section);
-    startItem("Balance", !m_plan.balance.isEmpty(), 0);
-    text("command", m_plan.balance);
+    startItem(XmlName::BALANCE, !m_plan.balance.isEmpty(), 0);
+    text(XmlName::COMMAND, m_plan.balance);
     end();
     writeCharge(topUp);
-    startItem("OnlineCharge", false, 2);
-    text("URL", QString());
+    startItem(XmlName::ONLINE_CHARGE, false, 2);
+    text(XmlName::URL, QString());
     end();
-    startItem("MSISDN", !m_plan.ownNumber.isEmpty(), 3);
-    text("command", m_plan.ownNumber);
-    text("UpdateButton", number(m_plan.ownNumber.isEmpty() ? 0 : 1));
+    startItem(XmlName::MSISDN, !m_plan.ownNumber.isEmpty(), 3);
+    text(XmlName::COMMAND, m_plan.ownNumber);
+    text(XmlName::UPDATE_BUTTON, number(m_plan.ownNumber.isEmpty() ? 0 : 1));
     end();
     end();
 }
 
 void ConfigurationWriter::startItem(const char *name, bool shown, int place)
 {
-    start("item");
-    attribute("name", QLatin1String(name));
-    attribute("value", boolText(shown));
-    attribute("pos", number(place));
+    start(XmlName::ITEM);
+    attribute(XmlName::NAME, QLatin1String(name));
+    attribute(XmlName::VALUE, boolText(shown));
+    attribute(XmlName::POSITION, number(place));
 }
 
 void ConfigurationWriter::writeCharge(bool shown)
 {
-    startItem("Charge", shown, 1);
-    text("command", m_plan.topUp);
-    text("length", number(qMin(LONGEST_VOUCHER, longestInput(m_plan.topUp))));
-    text("minlenth", number(m_plan.topUp.isEmpty() ? 0 : SHORTEST_VOUCHER));
-    text("ReturnStyle", number(1));
-    text("LimitText", QLatin1String("0-9"));
+    startItem(XmlName::CHARGE, shown, 1);
+    text(XmlName::COMMAND, m_plan.topUp);
+    text(XmlName::LENGTH, number(qMin(LONGEST_VOUCHER, longestInput(m_plan.topUp))));
+    text(XmlName::MIN_LENGTH, number(m_plan.topUp.isEmpty() ? 0 : SHORTEST_VOUCHER));
+    text(XmlName::RETURN_STYLE, number(1));
+    text(XmlName::LIMIT_TEXT, QLatin1String("0-9"));
     end();
 }
 
 void ConfigurationWriter::writeServices()
 {
     const int count = qMin(m_plan.messages.count(), MOST_SERVICES);
-    start("SMSUSSD");
-    look("MainSize");
-    look("TreeSize");
-    start("Tree");
+    start(XmlName::SMS_USSD);
+    look(XmlName::MAIN_SIZE);
+    look(XmlName::TREE_SIZE);
+    start(XmlName::TREE);
     writeTreeItem(0, QLatin1String("IDS_SMSUSSD_SERVICES"), true);
     for (int i = 0; i < count; ++i)
         writeTreeItem(i + 1, m_plan.messages.at(i).textKey, false);
     end();
-    start("Dialog");
+    start(XmlName::DIALOG);
     for (int i = 0; i < count; ++i)
         writeGroup(i + 1, m_plan.messages.at(i));
     end();
@@ -270,29 +275,29 @@ void ConfigurationWriter::writeServices()
 
 void ConfigurationWriter::writeTreeItem(int entry, const QString &key, bool isRoot)
 {
-    start("item");
-    attribute("name", number(entry));
-    attribute("parent", number(0));
-    attribute("id", key);
+    start(XmlName::ITEM);
+    attribute(XmlName::NAME, number(entry));
+    attribute(XmlName::PARENT, number(0));
+    attribute(XmlName::ID, key);
     if (isRoot)
-        attribute("type", QLatin1String("root"));
+        attribute(XmlName::TYPE, QLatin1String(XmlName::TREE_ROOT));
     end();
 }
 
 /// Explanation, caption of the entry field, entry field, button, reply: always these five.
 void ConfigurationWriter::writeGroup(int entry, const PlannedMessage &message)
 {
-    start("item");
-    attribute("name", number(entry));
-    attribute("parent", number(entry));
+    start(XmlName::ITEM);
+    attribute(XmlName::NAME, number(entry));
+    attribute(XmlName::PARENT, number(entry));
     startControl(message.explanation, EXPLANATION);
     end();
     writeHiddenControl();
     writeHiddenControl();
     startControl(QLatin1String("IDS_SMSUSSD_BUTTON_ORDER"), BUTTON);
-    attribute("type", QLatin1String("sms"));
-    text("command", message.text);
-    text("number", message.number);
+    attribute(XmlName::TYPE, QLatin1String(XmlName::SMS));
+    text(XmlName::COMMAND, message.text);
+    text(XmlName::NUMBER, message.number);
     end();
     startControl(QString(), REPLY);
     end();
@@ -301,19 +306,19 @@ void ConfigurationWriter::writeGroup(int entry, const PlannedMessage &message)
 
 void ConfigurationWriter::startControl(const QString &key, const QRect &place)
 {
-    start("control");
+    start(XmlName::CONTROL);
     if (!key.isEmpty())
-        attribute("id", key);
-    attribute("posx", number(place.x()));
-    attribute("posy", number(place.y()));
-    attribute("width", number(place.width()));
-    attribute("height", number(place.height()));
+        attribute(XmlName::ID, key);
+    attribute(XmlName::POS_X, number(place.x()));
+    attribute(XmlName::POS_Y, number(place.y()));
+    attribute(XmlName::WIDTH, number(place.width()));
+    attribute(XmlName::HEIGHT, number(place.height()));
 }
 
 void ConfigurationWriter::writeHiddenControl()
 {
-    start("control");
-    attribute("visible", boolText(false));
+    start(XmlName::CONTROL);
+    attribute(XmlName::VISIBLE, boolText(false));
     end();
 }
 
@@ -322,15 +327,15 @@ void ConfigurationWriter::writeSims()
 {
     const bool account =
         !m_plan.balance.isEmpty() || !m_plan.topUp.isEmpty() || !m_plan.ownNumber.isEmpty();
-    QString windows = QLatin1String(account ? "Prepaid/Advanced" : "Advanced");
+    QString windows = QLatin1String(account ? "Prepaid/Advanced" : XmlName::ADVANCED);
     if (!m_plan.messages.isEmpty())
         windows += QLatin1String("/Commonpaid");
-    start("autoUSSD");
-    attribute("valid", boolText(!m_plan.imsiPrefixes.isEmpty()));
+    start(XmlName::AUTO_USSD);
+    attribute(XmlName::VALID, boolText(!m_plan.imsiPrefixes.isEmpty()));
     for (int i = 0; i < m_plan.imsiPrefixes.count(); ++i) {
-        start("item");
-        attribute("imsi", m_plan.imsiPrefixes.at(i));
-        attribute("ussd", windows);
+        start(XmlName::ITEM);
+        attribute(XmlName::IMSI, m_plan.imsiPrefixes.at(i));
+        attribute(XmlName::USSD, windows);
         end();
     }
     end();
@@ -338,46 +343,15 @@ void ConfigurationWriter::writeSims()
 
 // ---- profiles ------------------------------------------------------------------------------
 
-void writeProfile(QXmlStreamWriter &xml, const PlannedProfile &profile)
-{
-    xml.writeStartElement(QLatin1String("item"));
-    xml.writeTextElement(QLatin1String("name"), profile.name);
-    xml.writeTextElement(QLatin1String("value"), profile.code);
-    xml.writeTextElement(QLatin1String("readonly"), boolText(false));
-    xml.writeTextElement(QLatin1String("showButton"), boolText(profile.showButton));
-    xml.writeTextElement(QLatin1String("langID"), profile.textKey);
-    xml.writeTextElement(QLatin1String("desLangID"), profile.descriptionKey);
-    xml.writeEndElement();
-}
-
-/// The editor saves this file whenever the user saves his own codes. With the same bytes as it
-/// writes, that does not count as a change.
 QByteArray profilesOf(const ProvisionPlan &plan)
 {
-    QByteArray content;
-    QXmlStreamWriter xml(&content);
-    xml.setAutoFormatting(true);
-    xml.writeStartDocument();
-    xml.writeStartElement(QLatin1String("tksvdoc"));
-    xml.writeAttribute(QLatin1String("type"), QLatin1String("USSDProfile"));
-    for (int i = 0; i < plan.profiles.count(); ++i)
-        writeProfile(xml, plan.profiles.at(i));
-    xml.writeEndElement();
-    xml.writeEndDocument();
-    return content;
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    ProfileXml::write(buffer, plan.profiles);
+    return buffer.data();
 }
 
 } // namespace
-
-QString ProvisionFiles::configurationName()
-{
-    return QLatin1String("USSDPluginConfig.xml");
-}
-
-QString ProvisionFiles::profilesName()
-{
-    return QLatin1String("ussdsysprofile.xml");
-}
 
 ProvisionFiles provisionFiles(const ProvisionPlan &plan, const QByteArray &shipped)
 {

@@ -5,9 +5,6 @@
 
 /** The plug-in's two files for one operator. */
 struct ProvisionFiles {
-    static QString configurationName(); // "USSDPluginConfig.xml"
-    static QString profilesName();      // "ussdsysprofile.xml"
-
     QByteArray configuration;
     QByteArray profiles; // byte for byte as the plug-in's editor would save them
     QString error;       // why they could not be made; empty when they were

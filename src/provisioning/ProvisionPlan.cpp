@@ -1,5 +1,6 @@
 #include "ProvisionPlan.h"
 
+#include "UssdCode.h"
 #include "UssdTemplate.h"
 
 namespace
@@ -19,8 +20,6 @@ struct Kind {
 const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DESC"};
 const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
 const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
-
-const QLatin1String PLACEHOLDER("%s"); // what the user enters goes there
 
 bool isMessageNumber(const QString &text)
 {
@@ -108,7 +107,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
 /// The network answers with a menu, so it is for the general window alone.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
-    if (isUssdCode(code.code) && code.code.length() <= LONGEST_USSD_COMMAND)
+    if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
         addProfile(code.code, kind);
     else
         note(code, QString::fromLatin1("the menu wants the answer \"%1\"").arg(code.code));
@@ -118,7 +117,7 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
 {
     if (code.smsText.isEmpty())
         return note(code, QString::fromLatin1("the message to %1 has no text").arg(code.code));
-    if (!isMessageNumber(code.code) || code.smsText.contains(PLACEHOLDER))
+    if (!isMessageNumber(code.code) || code.smsText.contains(INPUT_PLACEHOLDER))
         return note(code, QString::fromLatin1("a message \"%1\" to \"%2\" cannot be sent")
                               .arg(code.smsText, code.code));
     PlannedMessage message;
@@ -134,18 +133,18 @@ void Planner::addProfile(const QString &code, const Kind &kind)
 {
     if (hasProfile(code))
         return;
-    PlannedProfile profile;
+    USSDProfile profile;
     profile.name = QLatin1String(kind.name);
-    profile.code = code;
-    profile.textKey = QLatin1String(kind.textKey);
-    profile.descriptionKey = QLatin1String(kind.descriptionKey);
+    profile.value = code;
+    profile.langID = QLatin1String(kind.textKey);
+    profile.desLangID = QLatin1String(kind.descriptionKey);
     m_plan.profiles << profile;
 }
 
 bool Planner::hasProfile(const QString &code) const
 {
     for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        if (m_plan.profiles.at(i).code == code)
+        if (m_plan.profiles.at(i).value == code)
             return true;
     }
     return false;
@@ -165,12 +164,12 @@ void Planner::nameApart(const Kind &kind)
     }
     bool isFirst = true;
     for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        PlannedProfile &profile = m_plan.profiles[i];
-        if (profile.textKey != key)
+        USSDProfile &profile = m_plan.profiles[i];
+        if (profile.langID != key)
             continue;
         if (!isFirst) { // the description stays: it says what the code is for
-            profile.name = profile.code;
-            profile.textKey.clear();
+            profile.name = profile.value;
+            profile.langID.clear();
         }
         isFirst = false;
     }
@@ -186,11 +185,11 @@ void Planner::note(const ProviderCode &code, const QString &what)
 /// codes.
 void Planner::placeButtons()
 {
-    QList<PlannedProfile> plain;
-    QList<PlannedProfile> paying;
+    QList<USSDProfile> plain;
+    QList<USSDProfile> paying;
     for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        const PlannedProfile &profile = m_plan.profiles.at(i);
-        (profile.code.contains(PLACEHOLDER) ? paying : plain) << profile;
+        const USSDProfile &profile = m_plan.profiles.at(i);
+        (profile.value.contains(INPUT_PLACEHOLDER) ? paying : plain) << profile;
     }
     const bool plainToo = paying.count() >= PAYMENT_BUTTONS;
     for (int i = 0; i < plain.count(); ++i)

@@ -2,15 +2,7 @@
 #define PROVISIONPLAN_H
 
 #include "ProviderDatabase.h"
-
-/** A code that comes as a profile of the general window. */
-struct PlannedProfile {
-    QString name; // shown when there is no translated text
-    QString code; // "%s" stands for the number entered
-    bool showButton = false;
-    QString textKey;        // of its name, in the plug-in's texts
-    QString descriptionKey; // of its description
-};
+#include "USSDProfile.h"
 
 /** A short message that comes as a service of the services window. */
 struct PlannedMessage {
@@ -28,7 +20,7 @@ struct ProvisionPlan {
     QString balance; // code; empty: the operator has none, also the two below
     QString topUp;   // with "%s"
     QString ownNumber;
-    QList<PlannedProfile> profiles; // in the order of the file
+    QList<USSDProfile> profiles; // in the order of the file
     QList<PlannedMessage> messages;
     QStringList imsiPrefixes; // in ascending order
     QStringList notes;        // what the database has but the plug-in cannot use, in English

@@ -4,17 +4,17 @@
 #include <QFileInfo>
 
 #include "FileSteps.h"
+#include "PluginFiles.h"
 
 namespace
 {
 
 const QLatin1String PLUGINS("/plugins");
-const QLatin1String IN_USE("/plugins/USSDUIPlugin");
+const QLatin1String IN_USE = PluginFiles::FOLDER; // a link to the set of files in use
 const QLatin1String SETS("/provisioned");
 const QLatin1String LINKED_SETS("../provisioned/"); // as seen from the link
 const QLatin1String LOCK("/provisioned/.lock");
 const QLatin1String UNFINISHED(".new");
-const QLatin1String PLUGIN_FILE("/libUSSDUIPlugin.so");
 
 const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
@@ -35,7 +35,7 @@ ProvisionRecord recordOf(const QString &filesFolder)
 bool isOurs(const QString &filesFolder, const QString &name, const ProvisionRecord &record)
 {
     const QString path = filesFolder + QLatin1Char('/') + name;
-    if (QLatin1Char('/') + name == PLUGIN_FILE)
+    if (name == PluginFiles::LIBRARY)
         return QFileInfo(path).isSymLink();
     if (name == provisionRecordName())
         return record.isValid();
@@ -131,9 +131,8 @@ void Writer::makeRecord()
     m_record.country = m_plan.country;
     m_record.provider = m_plan.provider;
     m_record.network = m_plan.network;
-    m_record.files.insert(ProvisionFiles::configurationName(),
-                          provisionChecksum(m_files.configuration));
-    m_record.files.insert(ProvisionFiles::profilesName(), provisionChecksum(m_files.profiles));
+    m_record.files.insert(PluginFiles::CONFIGURATION, provisionChecksum(m_files.configuration));
+    m_record.files.insert(PluginFiles::SYSTEM_PROFILES, provisionChecksum(m_files.profiles));
 }
 
 ProvisionOutcome Writer::write()
@@ -188,10 +187,11 @@ void Writer::relink()
 {
     ended(ProvisionOutcome::Current);
     tidyUp(setNumber(QFileInfo(m_old.filesFolder).fileName()));
-    const QString path = m_old.filesFolder + PLUGIN_FILE;
+    const QString path = m_old.filesFolder + QLatin1Char('/') + PluginFiles::LIBRARY;
     if (m_order.pluginLibrary.isEmpty() || FileSteps::linkTarget(path) == m_order.pluginLibrary)
         return;
-    const QString beside = m_order.folder + SETS + PLUGIN_FILE + UNFINISHED;
+    const QString beside =
+        m_order.folder + SETS + QLatin1Char('/') + PluginFiles::LIBRARY + UNFINISHED;
     QFile::remove(beside);
     if (!FileSteps::link(m_order.pluginLibrary, beside, m_outcome.problem) ||
         !FileSteps::rename(beside, path, m_outcome.problem))
@@ -231,10 +231,9 @@ bool Writer::makeSet(const QString &unfinished)
     QString &problem = m_outcome.problem;
     const QString folder = unfinished + QLatin1Char('/');
     return FileSteps::makeFolder(unfinished, problem) &&
-           FileSteps::writeNew(folder + ProvisionFiles::configurationName(), m_files.configuration,
+           FileSteps::writeNew(folder + PluginFiles::CONFIGURATION, m_files.configuration,
                                problem) &&
-           FileSteps::writeNew(folder + ProvisionFiles::profilesName(), m_files.profiles,
-                               problem) &&
+           FileSteps::writeNew(folder + PluginFiles::SYSTEM_PROFILES, m_files.profiles, problem) &&
            FileSteps::writeNew(folder + provisionRecordName(), provisionRecordText(m_record),
                                problem) &&
            linkPlugin(unfinished) && FileSteps::syncFolder(unfinished, problem);
@@ -243,7 +242,9 @@ bool Writer::makeSet(const QString &unfinished)
 bool Writer::linkPlugin(const QString &filesFolder)
 {
     return m_order.pluginLibrary.isEmpty() ||
-           FileSteps::link(m_order.pluginLibrary, filesFolder + PLUGIN_FILE, m_outcome.problem);
+           FileSteps::link(m_order.pluginLibrary,
+                           filesFolder + QLatin1Char('/') + PluginFiles::LIBRARY,
+                           m_outcome.problem);
 }
 
 /// From here on, and not before, the plug-in finds the new files.

@@ -43,7 +43,14 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 
 /* ---- records ----------------------------------------------------------------------------- */
 
+/** UTF-16 units that the record of a command holds. */
 #define TKSV_USSD_MAX_UNITS 184
+
+/**
+ * The longest command that a client hands over, in bytes: 91 UTF-16 units. The record would hold
+ * more, and the SDK accepts what the record holds.
+ */
+#define TKSV_USSD_MAX_COMMAND_BYTES 183
 
 /** A command on its way to the network. 372 bytes on every build. */
 typedef struct TKSV_USSDRequest {

@@ -9,20 +9,23 @@
 #include "ForwardTrace.h"
 #include "PluginConfig.h"
 #include "SmsLayout.h"
+#include "UssdCode.h"
+#include "XmlName.h"
 
 namespace
 {
 
 const int ITEMS = 4;         // that the scan takes for a paid section, wherever it finds them
 const int LONGEST_IMSI = 15; // digits, 3GPP TS 23.003
-const QLatin1String PLACEHOLDER("%s");
 
-const char *const SECTIONS[] = {"PrePostDiffer", "Prepaid", "Postpaid", "send",
-                                "recevie",       "cmdEdit", "autoUSSD"};
+const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
+                                XmlName::SENT_CHAR,       XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
+                                XmlName::AUTO_USSD};
 
 QStringList components()
 {
-    return QString::fromLatin1("Balance Charge OnlineCharge MSISDN").split(QLatin1Char(' '));
+    return QStringList() << QLatin1String(XmlName::BALANCE) << QLatin1String(XmlName::CHARGE)
+                         << QLatin1String(XmlName::ONLINE_CHARGE) << QLatin1String(XmlName::MSISDN);
 }
 
 /** A component of the account window, as the scan read it. */
@@ -77,10 +80,10 @@ private:
 void Check::run()
 {
     detection();
-    paid("Prepaid");
-    paid("Postpaid");
-    looks("send");
-    looks("recevie");
+    paid(XmlName::PREPAID);
+    paid(XmlName::POSTPAID);
+    looks(XmlName::SENT_CHAR);
+    looks(XmlName::RECEIVED_CHAR);
     editor();
     sims();
     clearButton();
@@ -156,17 +159,17 @@ int Check::childNumber(int section, const char *name, int *place)
 
 void Check::detection()
 {
-    const int section = this->section("PrePostDiffer");
+    const int section = this->section(XmlName::PRE_POST_DIFFER);
     if (section >= 0)
-        m_check.boolAttribute(section, "value");
-    const QString command = childText(section, "command");
+        m_check.boolAttribute(section, XmlName::VALUE);
+    const QString command = childText(section, XmlName::COMMAND);
     int place = -1;
-    const QString pattern = childText(section, "ReturnPattern", &place);
-    childNumber(section, "style");
+    const QString pattern = childText(section, XmlName::RETURN_PATTERN, &place);
+    childNumber(section, XmlName::STYLE);
     if (section < 0)
         return;
     m_check.command(section, command, 0);
-    const bool isOn = m_check.at(section).attribute("value") == QLatin1String("true");
+    const bool isOn = m_check.at(section).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
     if (isOn && command.isEmpty())
         m_check.find(section, "command",
                      QLatin1String("the detection has no command; nothing is asked"));
@@ -186,7 +189,7 @@ void Check::paid(const char *name)
         items << item(section, name, number);
     if (section < 0)
         return;
-    const QList<int> own = m_elements.childrenOf(section, "item");
+    const QList<int> own = m_elements.childrenOf(section, XmlName::ITEM);
     for (int i = ITEMS; i < own.count(); ++i)
         m_check.find(own.at(i), "items",
                      QString::fromLatin1("<%1> has %2 items; the reader takes four, and this one "
@@ -199,7 +202,7 @@ void Check::paid(const char *name)
 Item Check::item(int section, const char *sectionName, int number)
 {
     Item item;
-    item.place = m_trace.seek("item");
+    item.place = m_trace.seek(XmlName::ITEM);
     if (item.place < 0) {
         if (section >= 0)
             m_check.find(section, "items",
@@ -208,7 +211,7 @@ Item Check::item(int section, const char *sectionName, int number)
                              .arg(number));
         return item;
     }
-    item.name = m_check.at(item.place).attribute("name");
+    item.name = m_check.at(item.place).attribute(XmlName::NAME);
     if (section >= 0 && m_check.at(item.place).parent != section)
         itemOutside(item, sectionName, number);
     if (components().contains(item.name))
@@ -218,8 +221,8 @@ Item Check::item(int section, const char *sectionName, int number)
                      QString::fromLatin1("there is no component %1; the item is counted, and "
                                          "nothing of it is read")
                          .arg(quotedPart(item.name)));
-    item.shown = m_check.at(item.place).attribute("value") == QLatin1String("true");
-    item.pos = m_check.at(item.place).attribute("pos").toInt();
+    item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
+    item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
     return item;
 }
 
@@ -236,23 +239,24 @@ void Check::itemOutside(const Item &item, const char *sectionName, int number)
 
 void Check::component(const Item &item)
 {
-    m_check.boolAttribute(item.place, "value");
-    m_check.numberAttribute(item.place, "pos");
-    if (item.name == QLatin1String("Charge"))
+    m_check.boolAttribute(item.place, XmlName::VALUE);
+    m_check.numberAttribute(item.place, XmlName::POSITION);
+    if (item.name == QLatin1String(XmlName::CHARGE))
         return charge(item);
-    if (item.name == QLatin1String("OnlineCharge")) {
-        childText(item.place, "URL");
+    if (item.name == QLatin1String(XmlName::ONLINE_CHARGE)) {
+        childText(item.place, XmlName::URL);
         return;
     }
     sent(item);
-    if (item.name == QLatin1String("MSISDN"))
-        childNumber(item.place, "UpdateButton");
+    if (item.name == QLatin1String(XmlName::MSISDN))
+        childNumber(item.place, XmlName::UPDATE_BUTTON);
 }
 
 void Check::sent(const Item &item)
 {
-    const QString command = childText(item.place, "command");
-    const bool shown = m_check.at(item.place).attribute("value") == QLatin1String("true");
+    const QString command = childText(item.place, XmlName::COMMAND);
+    const bool shown =
+        m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
     m_check.command(item.place, command, 0);
     if (shown && command.isEmpty())
         m_check.find(item.place, "command",
@@ -261,18 +265,18 @@ void Check::sent(const Item &item)
 
 void Check::charge(const Item &item)
 {
-    const QString command = childText(item.place, "command");
+    const QString command = childText(item.place, XmlName::COMMAND);
     ChargeRules rules;
     int lengthPlace = -1;
-    rules.length = childNumber(item.place, "length", &lengthPlace);
-    rules.minlenth = childNumber(item.place, "minlenth");
-    childNumber(item.place, "ReturnStyle");
+    rules.length = childNumber(item.place, XmlName::LENGTH, &lengthPlace);
+    rules.minlenth = childNumber(item.place, XmlName::MIN_LENGTH);
+    childNumber(item.place, XmlName::RETURN_STYLE);
     int limitPlace = -1;
-    rules.limitText = childText(item.place, "LimitText", &limitPlace);
+    rules.limitText = childText(item.place, XmlName::LIMIT_TEXT, &limitPlace);
     m_check.command(item.place, command, rules.length);
-    if (m_check.at(item.place).attribute("value") != QLatin1String("true"))
+    if (m_check.at(item.place).attribute(XmlName::VALUE) != QLatin1String(XmlName::ON))
         return;
-    if (!command.contains(PLACEHOLDER))
+    if (!command.contains(INPUT_PLACEHOLDER))
         m_check.find(item.place, "command",
                      QLatin1String("the top-up's command has no \"%s\"; what is entered is not "
                                    "sent"));
@@ -340,9 +344,9 @@ void Check::looks(const char *name)
 {
     const int section = this->section(name);
     int place = -1;
-    const int height = childNumber(section, "yHeight", &place);
-    childNumber(section, "yOffset");
-    const int colour = child(section, "color");
+    const int height = childNumber(section, XmlName::Y_HEIGHT, &place);
+    childNumber(section, XmlName::Y_OFFSET);
+    const int colour = child(section, XmlName::COLOR);
     if (section < 0)
         return;
     if (place >= 0 && height <= 0)
@@ -355,17 +359,17 @@ void Check::colours(int place)
 {
     if (place < 0)
         return;
-    m_check.colour(place, "red");
-    m_check.colour(place, "green");
-    m_check.colour(place, "blue");
+    m_check.colour(place, XmlName::RED);
+    m_check.colour(place, XmlName::GREEN);
+    m_check.colour(place, XmlName::BLUE);
 }
 
 void Check::editor()
 {
-    const int section = this->section("cmdEdit");
+    const int section = this->section(XmlName::CMD_EDIT);
     if (section >= 0)
-        m_check.boolAttribute(section, "visible");
-    for (const char *name : {"readonlycolor", "commoncolor", "headcolor"}) {
+        m_check.boolAttribute(section, XmlName::VISIBLE);
+    for (const char *name : {XmlName::READONLY_COLOR, XmlName::COMMON_COLOR, XmlName::HEAD_COLOR}) {
         const int place = child(section, name);
         if (section >= 0)
             colours(place);
@@ -375,26 +379,26 @@ void Check::editor()
 /// It has a pass of its own from the start, so it may stand anywhere.
 void Check::clearButton()
 {
-    const int place = ForwardTrace(m_elements).seek("clearHistory");
+    const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);
     if (place < 0)
         return m_check.find(-1, "missing",
                             QLatin1String("<clearHistory> is missing: there is no Clear button"));
-    m_check.boolAttribute(place, "visible");
-    m_check.boolAttribute(place, "showConfirmDialog");
+    m_check.boolAttribute(place, XmlName::VISIBLE);
+    m_check.boolAttribute(place, XmlName::SHOW_CONFIRM_DIALOG);
 }
 
 // ---- SIM cards -----------------------------------------------------------------------------
 
 void Check::sims()
 {
-    const int section = this->section("autoUSSD");
+    const int section = this->section(XmlName::AUTO_USSD);
     if (section < 0)
         return;
-    m_check.boolAttribute(section, "valid");
-    if (m_check.at(section).attribute("valid") != QLatin1String("true"))
+    m_check.boolAttribute(section, XmlName::VALID);
+    if (m_check.at(section).attribute(XmlName::VALID) != QLatin1String(XmlName::ON))
         return;
     QMap<QString, int> seen;
-    for (int place = m_trace.seek("item"); place >= 0; place = m_trace.seek("item")) {
+    for (int place = m_trace.seek(XmlName::ITEM); place >= 0; place = m_trace.seek(XmlName::ITEM)) {
         if (m_check.at(place).parent != section)
             m_check.find(place, "order",
                          QLatin1String("this item stands behind <autoUSSD> and is taken for a SIM "
@@ -406,7 +410,7 @@ void Check::sims()
 
 void Check::sim(int place, QMap<QString, int> &seen)
 {
-    const QString imsi = m_check.at(place).attribute("imsi");
+    const QString imsi = m_check.at(place).attribute(XmlName::IMSI);
     const QRegExp digits(QString::fromLatin1("[0-9]{1,%1}").arg(LONGEST_IMSI));
     if (!digits.exactMatch(imsi))
         m_check.find(place, "imsi",
@@ -424,7 +428,7 @@ void Check::sim(int place, QMap<QString, int> &seen)
 
 void Check::windows(int place)
 {
-    const QString list = m_check.at(place).attribute("ussd");
+    const QString list = m_check.at(place).attribute(XmlName::USSD);
     const QStringList known =
         QString::fromLatin1("Prepaid Postpaid Commonpaid Advanced").split(QLatin1Char(' '));
     const QStringList parts = list.split(QLatin1Char('/'));
@@ -453,18 +457,11 @@ void Check::sectionsTwice()
 
 // ---- the plug-in's reader ------------------------------------------------------------------
 
-/// In the order in which the plug-in reads when it starts.
 PluginConfig readWholeConfiguration(const QByteArray &xml)
 {
     PluginConfig config;
     QXmlStreamReader reader(xml);
-    readPrePostDiffer(reader, config.prePostDiffer);
-    for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
-        readPaidSection(reader, paidType, config);
-    readCharSection(reader, kSentCharSection, config.sentChar);
-    readCharSection(reader, kReceivedCharSection, config.receivedChar);
-    readCmdEdit(reader, config.cmdEdit);
-    readAutoUSSD(reader, config.autoUSSD);
+    readConfiguration(reader, config);
     QXmlStreamReader anew(xml);
     readClearHistory(anew, config.clearHistory);
     return config;
@@ -474,7 +471,7 @@ PluginConfig readWholeConfiguration(const QByteArray &xml)
 
 QString boolWord(bool value)
 {
-    return QLatin1String(value ? "true" : "false");
+    return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
 QStringList row(const char *name, const QString &a, const QString &b = QString(),
@@ -496,15 +493,15 @@ CheckTable paidTable(const PluginConfig &config, int paidType, const char *title
     const ConfigMSISDN &number = config.msisdn[paidType];
     CheckTable table;
     table.title = QLatin1String(title);
-    table.rows << row("Balance", positionOf(balance.value, balance.pos), balance.command)
-               << row("Charge", positionOf(charge.value, charge.pos), charge.command,
+    table.rows << row(XmlName::BALANCE, positionOf(balance.value, balance.pos), balance.command)
+               << row(XmlName::CHARGE, positionOf(charge.value, charge.pos), charge.command,
                       QString::fromLatin1("%1 to %2 of [%3], ReturnStyle %4")
                           .arg(charge.minlenth)
                           .arg(charge.length)
                           .arg(charge.limitText)
                           .arg(charge.returnStyle))
-               << row("OnlineCharge", positionOf(online.value, online.pos), online.url)
-               << row("MSISDN", positionOf(number.value, number.pos), number.command,
+               << row(XmlName::ONLINE_CHARGE, positionOf(online.value, online.pos), online.url)
+               << row(XmlName::MSISDN, positionOf(number.value, number.pos), number.command,
                       QString::fromLatin1("UpdateButton %1").arg(number.updateButton));
     return table;
 }
@@ -526,25 +523,28 @@ CheckTable looksTable(const PluginConfig &config)
     const CmdEdit &edit = config.cmdEdit;
     CheckTable table;
     table.title = QLatin1String("Looks");
-    table.rows << charRow("send", config.sentChar) << charRow("recevie", config.receivedChar)
-               << row("clearHistory", boolWord(config.clearHistory.visible),
+    table.rows << charRow(XmlName::SENT_CHAR, config.sentChar)
+               << charRow(XmlName::RECEIVED_CHAR, config.receivedChar)
+               << row(XmlName::CLEAR_HISTORY, boolWord(config.clearHistory.visible),
                       QLatin1String("showConfirmDialog ") +
                           boolWord(config.clearHistory.showConfirmDialog))
-               << row("cmdEdit", boolWord(edit.visible))
-               << row("readonlycolor",
+               << row(XmlName::CMD_EDIT, boolWord(edit.visible))
+               << row(XmlName::READONLY_COLOR,
                       colourText(edit.readonlyRed, edit.readonlyGreen, edit.readonlyBlue))
-               << row("commoncolor", colourText(edit.commonRed, edit.commonGreen, edit.commonBlue))
-               << row("headcolor", colourText(edit.headRed, edit.headGreen, edit.headBlue));
+               << row(XmlName::COMMON_COLOR,
+                      colourText(edit.commonRed, edit.commonGreen, edit.commonBlue))
+               << row(XmlName::HEAD_COLOR, colourText(edit.headRed, edit.headGreen, edit.headBlue));
     return table;
 }
 
 CheckTable detectionTable(const PrePostDiffer &differ)
 {
     CheckTable table;
-    table.title = QLatin1String("PrePostDiffer");
-    table.rows << row("value", boolWord(differ.value)) << row("command", differ.command)
-               << row("ReturnPattern", differ.returnPattern)
-               << row("style", QString::number(differ.style));
+    table.title = QLatin1String(XmlName::PRE_POST_DIFFER);
+    table.rows << row(XmlName::VALUE, boolWord(differ.value))
+               << row(XmlName::COMMAND, differ.command)
+               << row(XmlName::RETURN_PATTERN, differ.returnPattern)
+               << row(XmlName::STYLE, QString::number(differ.style));
     return table;
 }
 
@@ -552,21 +552,21 @@ QString windowNames(int flags)
 {
     QStringList names;
     if (flags & WINDOW_PREPAID)
-        names << QLatin1String("Prepaid");
+        names << QLatin1String(XmlName::PREPAID);
     if (flags & WINDOW_POSTPAID)
-        names << QLatin1String("Postpaid");
+        names << QLatin1String(XmlName::POSTPAID);
     if (flags & WINDOW_COMMONPAID)
-        names << QLatin1String("Commonpaid");
+        names << QLatin1String(XmlName::COMMONPAID);
     if (flags & WINDOW_ADVANCED)
-        names << QLatin1String("Advanced");
+        names << QLatin1String(XmlName::ADVANCED);
     return names.join(QString(QLatin1Char('/')));
 }
 
 CheckTable simTable(const AutoUSSD &autoUSSD)
 {
     CheckTable table;
-    table.title = QLatin1String("autoUSSD");
-    table.rows << row("valid", boolWord(autoUSSD.valid));
+    table.title = QLatin1String(XmlName::AUTO_USSD);
+    table.rows << row(XmlName::VALID, boolWord(autoUSSD.valid));
     QStringList prefixes = autoUSSD.imsiMap.keys();
     prefixes.sort();
     for (int i = 0; i < prefixes.count(); ++i)
@@ -586,7 +586,7 @@ QList<CheckTable> configurationTables(const QByteArray &xml)
 {
     const PluginConfig config = readWholeConfiguration(xml);
     return QList<CheckTable>() << detectionTable(config.prePostDiffer)
-                               << paidTable(config, 0, "Prepaid")
-                               << paidTable(config, 1, "Postpaid") << looksTable(config)
+                               << paidTable(config, 0, XmlName::PREPAID)
+                               << paidTable(config, 1, XmlName::POSTPAID) << looksTable(config)
                                << simTable(config.autoUSSD);
 }

@@ -1,12 +1,13 @@
 #include "ElementCheck.h"
 
 #include "KeyTexts.h"
+#include "UssdCode.h"
+#include "XmlName.h"
 
 namespace
 {
 
 const int MOST_DIFFERENCES = 2; // in a name, for it to be a slip
-const QLatin1String PLACEHOLDER("%s");
 
 /// How many letters have to be put in, taken out or exchanged (Levenshtein).
 int differences(const QString &a, const QString &b)
@@ -37,7 +38,7 @@ void ElementCheck::find(int place, const char *rule, const QString &text)
 
 void ElementCheck::boolText(int place, const QString &what, const QString &text)
 {
-    if (text != QLatin1String("true") && text != QLatin1String("false"))
+    if (text != QLatin1String(XmlName::ON) && text != QLatin1String(XmlName::OFF))
         find(place, "bool",
              QString::fromLatin1("%1 %2 reads as false; only \"true\" is true")
                  .arg(what, quotedPart(text)));
@@ -84,9 +85,7 @@ int ElementCheck::colour(int place, const char *name)
 
 void ElementCheck::command(int place, const QString &command, int inputLength)
 {
-    const int inputs = command.count(PLACEHOLDER);
-    const int fixed = command.length() - inputs * QString(PLACEHOLDER).length();
-    const int length = fixed + inputs * qMax(0, inputLength);
+    const int length = commandLength(command, qMax(0, inputLength));
     if (length > LONGEST_COMMAND)
         find(place, "command",
              QString::fromLatin1("%1 has up to %2 UTF-16 code units; one of more than %3 is not "

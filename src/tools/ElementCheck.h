@@ -43,7 +43,4 @@ private:
 /// The one of the names that is most like it; empty when none is much like it.
 QString likelyName(const QString &name, const QStringList &known);
 
-/// The plug-in's longest command, in UTF-16 code units.
-const int LONGEST_COMMAND = 91;
-
 #endif

@@ -1,36 +1,48 @@
 #include "FileCheck.h"
 
+#include <initializer_list>
+
 #include "ConfigurationCheck.h"
 #include "ElementCheck.h"
 #include "InputFile.h"
 #include "LayoutCheck.h"
 #include "ProfilesCheck.h"
 #include "ScenarioCheck.h"
+#include "XmlName.h"
 
 namespace
 {
 
-QStringList words(const char *blankSeparated)
+QStringList listOf(std::initializer_list<const char *> names)
 {
-    return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
+    QStringList list;
+    for (const char *name : names)
+        list << QLatin1String(name);
+    return list;
 }
 
 QStringList sectionNames()
 {
-    return words("PrePostDiffer Prepaid Postpaid send recevie cmdEdit autoUSSD clearHistory");
+    return listOf({XmlName::PRE_POST_DIFFER, XmlName::PREPAID, XmlName::POSTPAID,
+                   XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
+                   XmlName::AUTO_USSD, XmlName::CLEAR_HISTORY});
 }
 
 QStringList configurationNames()
 {
-    return sectionNames() << words("command ReturnPattern style item length minlenth ReturnStyle "
-                                   "LimitText URL UpdateButton yHeight yOffset color "
-                                   "readonlycolor commoncolor headcolor");
+    return sectionNames() << listOf({XmlName::COMMAND, XmlName::RETURN_PATTERN, XmlName::STYLE,
+                                     XmlName::ITEM, XmlName::LENGTH, XmlName::MIN_LENGTH,
+                                     XmlName::RETURN_STYLE, XmlName::LIMIT_TEXT, XmlName::URL,
+                                     XmlName::UPDATE_BUTTON, XmlName::Y_HEIGHT, XmlName::Y_OFFSET,
+                                     XmlName::COLOR, XmlName::READONLY_COLOR, XmlName::COMMON_COLOR,
+                                     XmlName::HEAD_COLOR});
 }
 
 QStringList layoutNames()
 {
-    return words("SMSUSSD MainSize TreeSize Tree Dialog item control LimitText length minlenth "
-                 "command number");
+    return listOf({XmlName::SMS_USSD, XmlName::MAIN_SIZE, XmlName::TREE_SIZE, XmlName::TREE,
+                   XmlName::DIALOG, XmlName::ITEM, XmlName::CONTROL, XmlName::LIMIT_TEXT,
+                   XmlName::LENGTH, XmlName::MIN_LENGTH, XmlName::COMMAND, XmlName::NUMBER});
 }
 
 bool isXml(const QByteArray &content)
@@ -55,10 +67,10 @@ bool hasSection(const XmlElements &elements, const QStringList &names)
 bool isProfiles(const XmlElements &elements)
 {
     const QString root = elements.list.value(0).name;
-    if (root == QLatin1String("tksvdoc"))
+    if (root == QLatin1String(XmlName::PROFILES))
         return true;
-    const QList<int> items = elements.childrenOf(0, "item");
-    return !items.isEmpty() && !elements.childrenOf(items.first(), "value").isEmpty();
+    const QList<int> items = elements.childrenOf(0, XmlName::ITEM);
+    return !items.isEmpty() && !elements.childrenOf(items.first(), XmlName::VALUE).isEmpty();
 }
 
 QString kindOf(const XmlElements &elements)
@@ -69,7 +81,7 @@ QString kindOf(const XmlElements &elements)
         return QLatin1String("profiles");
     if (hasSection(elements, sectionNames()))
         return QLatin1String("configuration");
-    if (hasSection(elements, words("SMSUSSD")))
+    if (hasSection(elements, listOf({XmlName::SMS_USSD})))
         return QLatin1String("layout");
     return QString();
 }
@@ -78,11 +90,11 @@ void checkNames(const XmlElements &elements, CheckReport &report)
 {
     ElementCheck check(elements, report);
     check.names(configurationNames() + layoutNames());
-    if (elements.list.at(0).name == QLatin1String("SMSUSSD") ||
-        elements.childrenOf(0, "SMSUSSD").count() == 1)
+    if (elements.list.at(0).name == QLatin1String(XmlName::SMS_USSD) ||
+        elements.childrenOf(0, XmlName::SMS_USSD).count() == 1)
         return;
     check.find(-1, "missing",
-               QLatin1String(elements.childrenOf(0, "SMSUSSD").isEmpty()
+               QLatin1String(elements.childrenOf(0, XmlName::SMS_USSD).isEmpty()
                                  ? "<SMSUSSD> is missing: the services window is empty"
                                  : "<SMSUSSD> stands there more than once"));
 }

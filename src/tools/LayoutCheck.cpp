@@ -5,6 +5,7 @@
 
 #include "ElementCheck.h"
 #include "SmsLayout.h"
+#include "XmlName.h"
 
 namespace
 {
@@ -47,11 +48,11 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
 
 void checkKeys(ElementCheck &check, int section)
 {
-    for (const char *name : {"item", "control"}) {
+    for (const char *name : {XmlName::ITEM, XmlName::CONTROL}) {
         const QList<int> places = allNamed(check.elements(), section, name);
         for (int i = 0; i < places.count(); ++i) {
-            if (check.at(places.at(i)).attribute("visible") != QLatin1String("false"))
-                check.key(places.at(i), check.at(places.at(i)).attribute("id"));
+            if (check.at(places.at(i)).attribute(XmlName::VISIBLE) != QLatin1String(XmlName::OFF))
+                check.key(places.at(i), check.at(places.at(i)).attribute(XmlName::ID));
         }
     }
 }
@@ -65,34 +66,34 @@ QString childText(const XmlElements &elements, int place, const char *name)
 void checkButton(ElementCheck &check, int button, int input)
 {
     const XmlElement &element = check.at(button);
-    const QString type = element.attribute("type");
-    const QString command = childText(check.elements(), button, "command");
-    if (!element.has("type"))
+    const QString type = element.attribute(XmlName::TYPE);
+    const QString command = childText(check.elements(), button, XmlName::COMMAND);
+    if (!element.has(XmlName::TYPE))
         return check.find(button, "type",
                           QLatin1String("the button has no type and sends nothing"));
-    if (type != QLatin1String("ussd") && type != QLatin1String("sms"))
+    if (type != QLatin1String(XmlName::USSD) && type != QLatin1String(XmlName::SMS))
         check.find(button, "type",
                    QString::fromLatin1("type %1 is not \"ussd\" and sends a short message")
                        .arg(quotedPart(type)));
     if (command.isEmpty())
         check.find(button, "command", QLatin1String("the button has no command and sends nothing"));
-    if (type == QLatin1String("ussd"))
-        check.command(button, command, childText(check.elements(), input, "length").toInt());
-    else if (childText(check.elements(), button, "number").isEmpty())
+    if (type == QLatin1String(XmlName::USSD))
+        check.command(button, command, childText(check.elements(), input, XmlName::LENGTH).toInt());
+    else if (childText(check.elements(), button, XmlName::NUMBER).isEmpty())
         check.find(button, "command", QLatin1String("the short message has no number"));
 }
 
 void checkInput(ElementCheck &check, int input)
 {
-    if (check.at(input).attribute("visible") != QLatin1String("false") &&
-        childText(check.elements(), input, "length").toInt() <= 0)
+    if (check.at(input).attribute(XmlName::VISIBLE) != QLatin1String(XmlName::OFF) &&
+        childText(check.elements(), input, XmlName::LENGTH).toInt() <= 0)
         check.find(input, "length",
                    QLatin1String("length is 0 or missing: nothing can be entered"));
 }
 
 void checkSizes(ElementCheck &check, int section)
 {
-    for (const char *name : {"MainSize", "TreeSize"}) {
+    for (const char *name : {XmlName::MAIN_SIZE, XmlName::TREE_SIZE}) {
         if (check.elements().childrenOf(section, name).isEmpty())
             check.find(
                 section, "missing",
@@ -102,13 +103,14 @@ void checkSizes(ElementCheck &check, int section)
 
 void checkGroups(ElementCheck &check, int section)
 {
-    const QList<int> items = allNamed(check.elements(), section, "item");
+    const QList<int> items = allNamed(check.elements(), section, XmlName::ITEM);
     for (int i = 0; i < items.count(); ++i) {
-        const QList<int> controls = check.elements().childrenOf(items.at(i), "control");
+        const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
         if (controls.count() != SmsLayoutFile::kControlsOfGroup)
             continue; // the reader has said so
         checkInput(check, controls.at(INPUT));
-        if (check.at(controls.at(BUTTON)).attribute("visible") != QLatin1String("false"))
+        if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
+            QLatin1String(XmlName::OFF))
             checkButton(check, controls.at(BUTTON), controls.at(INPUT));
     }
 }
@@ -116,8 +118,8 @@ void checkGroups(ElementCheck &check, int section)
 CheckTable servicesTable(const SmsLayout &layout)
 {
     CheckTable table;
-    table.title = QLatin1String("SMSUSSD");
-    table.rows << (QStringList() << QLatin1String("MainSize")
+    table.title = QLatin1String(XmlName::SMS_USSD);
+    table.rows << (QStringList() << QLatin1String(XmlName::MAIN_SIZE)
                                  << QString::fromLatin1("%1 x %2")
                                         .arg(layout.dialog.width)
                                         .arg(layout.dialog.height));
@@ -129,7 +131,8 @@ CheckTable servicesTable(const SmsLayout &layout)
         const CWidgetItemInfo *button = whole ? group->controls.at(BUTTON) : nullptr;
         table.rows << (QStringList()
                        << QString::number(numbers.at(i)) << entry->textId
-                       << (!button ? QString::fromLatin1(entry->isChild ? "nothing" : "root")
+                       << (!button ? QString::fromLatin1(entry->isChild ? "nothing"
+                                                                        : XmlName::TREE_ROOT)
                            : button->kind == CONTROL_KIND_SMS
                                ? button->command + QLatin1String(" to ") + button->number
                                : button->command));
@@ -153,7 +156,7 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
                        .arg(layout.furtherComplaints));
     ElementCheck check(elements, report);
     for (int i = 0; i < elements.list.count(); ++i) {
-        if (elements.list.at(i).name != QLatin1String("SMSUSSD"))
+        if (elements.list.at(i).name != QLatin1String(XmlName::SMS_USSD))
             continue;
         checkSizes(check, i);
         checkKeys(check, i);

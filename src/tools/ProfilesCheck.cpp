@@ -5,18 +5,22 @@
 
 #include "ElementCheck.h"
 #include "ProfileXml.h"
+#include "UssdCode.h"
+#include "XmlName.h"
 
 namespace
 {
 
 const int BUTTONS = 11;
 const int PAYMENT_BUTTONS = 2; // the last ones
-const QLatin1String PLACEHOLDER("%s");
 
 QStringList fields()
 {
-    return QString::fromLatin1("name value readonly showButton langID desLangID")
-        .split(QLatin1Char(' '));
+    QStringList names;
+    for (const char *name : {XmlName::NAME, XmlName::VALUE, XmlName::READONLY, XmlName::SHOW_BUTTON,
+                             XmlName::LANG_ID, XmlName::DESCRIPTION_LANG_ID})
+        names << QLatin1String(name);
+    return names;
 }
 
 QList<USSDProfile> readAll(const QByteArray &xml)
@@ -65,14 +69,14 @@ void checkFields(ElementCheck &check, int item)
 void checkValues(ElementCheck &check, int item)
 {
     const XmlElements &elements = check.elements();
-    for (const char *name : {"readonly", "showButton"}) {
+    for (const char *name : {XmlName::READONLY, XmlName::SHOW_BUTTON}) {
         const QList<int> found = elements.childrenOf(item, name);
         if (!found.isEmpty())
             check.boolText(found.first(), QLatin1String(name), check.at(found.first()).text);
     }
-    check.key(item, textOf(elements, item, "langID"));
-    check.key(item, textOf(elements, item, "desLangID"));
-    const QString value = textOf(elements, item, "value");
+    check.key(item, textOf(elements, item, XmlName::LANG_ID));
+    check.key(item, textOf(elements, item, XmlName::DESCRIPTION_LANG_ID));
+    const QString value = textOf(elements, item, XmlName::VALUE);
     check.command(item, value, 0);
     if (value.isEmpty())
         check.find(item, "command", QLatin1String("the code is empty"));
@@ -85,7 +89,7 @@ void checkTwins(ElementCheck &check, const QList<int> &items)
 {
     QMap<QString, int> seen;
     for (int i = 0; i < items.count(); ++i) {
-        const QString value = textOf(check.elements(), items.at(i), "value");
+        const QString value = textOf(check.elements(), items.at(i), XmlName::VALUE);
         if (seen.contains(value))
             check.find(
                 items.at(i), "twice",
@@ -102,7 +106,8 @@ QList<int> shownItems(const ElementCheck &check, const QList<int> &items)
 {
     QList<int> shown;
     for (int i = 0; i < items.count() && i < BUTTONS; ++i) {
-        if (textOf(check.elements(), items.at(i), "showButton") == QLatin1String("true"))
+        if (textOf(check.elements(), items.at(i), XmlName::SHOW_BUTTON) ==
+            QLatin1String(XmlName::ON))
             shown << items.at(i);
     }
     return shown;
@@ -115,20 +120,21 @@ void checkButtons(ElementCheck &check, const QList<int> &items)
     const QList<int> shown = shownItems(check, items);
     for (int i = 0; i < shown.count(); ++i) {
         const bool pays = i >= shown.count() - PAYMENT_BUTTONS;
-        const QString code = textOf(check.elements(), shown.at(i), "value");
-        if (pays && !code.contains(PLACEHOLDER))
+        const QString code = textOf(check.elements(), shown.at(i), XmlName::VALUE);
+        if (pays && !code.contains(INPUT_PLACEHOLDER))
             check.find(shown.at(i), "button",
                        quotedPart(code) +
                            QLatin1String(" is one of the last two buttons and has no "
                                          "\"%s\": it is sent only after a number "
                                          "was entered, without it"));
-        else if (!pays && code.contains(PLACEHOLDER))
+        else if (!pays && code.contains(INPUT_PLACEHOLDER))
             check.find(shown.at(i), "button",
                        quotedPart(code) + QLatin1String(" is not one of the last two buttons: its "
                                                         "\"%s\" is sent as it is"));
     }
     for (int i = BUTTONS; i < items.count(); ++i) {
-        if (textOf(check.elements(), items.at(i), "showButton") == QLatin1String("true"))
+        if (textOf(check.elements(), items.at(i), XmlName::SHOW_BUTTON) ==
+            QLatin1String(XmlName::ON))
             check.find(items.at(i), "button",
                        QString::fromLatin1("there are %1 buttons at most; this profile gets none")
                            .arg(BUTTONS));
@@ -143,7 +149,7 @@ CheckTable table(const QList<USSDProfile> &profiles)
         const USSDProfile &profile = profiles.at(i);
         table.rows << (QStringList()
                        << profile.name << profile.value
-                       << QString::fromLatin1(profile.readonly ? "readonly" : "")
+                       << QString::fromLatin1(profile.readonly ? XmlName::READONLY : "")
                        << QString::fromLatin1(profile.showButton && i < BUTTONS ? "button" : "")
                        << profile.langID << profile.desLangID);
     }
@@ -155,10 +161,10 @@ CheckTable table(const QList<USSDProfile> &profiles)
 void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report)
 {
     ElementCheck check(elements, report);
-    check.names(fields() << QLatin1String("item"));
+    check.names(fields() << QLatin1String(XmlName::ITEM));
     QList<int> items;
     for (int i = 0; i < elements.list.count(); ++i) {
-        if (elements.list.at(i).name == QLatin1String("item"))
+        if (elements.list.at(i).name == QLatin1String(XmlName::ITEM))
             items << i;
     }
     for (int i = 0; i < items.count(); ++i) {

@@ -5,6 +5,7 @@
 
 #include "InputFile.h"
 #include "InstallPaths.h"
+#include "PluginFiles.h"
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
 #include "TerminalText.h"
@@ -131,7 +132,7 @@ void printComplaints(const QString &file, const ProviderDatabase &database)
 
 QString installedFolder()
 {
-    return InstallPaths::pluginLibrary() + QLatin1String("/plugins/USSDUIPlugin/");
+    return InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
 /// Without a network code there is no other short name for the folder than the operator's own.
@@ -189,7 +190,7 @@ int provision(const ToolArguments &arguments, const Provider &provider)
                         .arg(provider.name()),
                     TOOL_BAD);
     }
-    const QString shipped = installedFolder() + ProvisionFiles::configurationName();
+    const QString shipped = installedFolder() + PluginFiles::CONFIGURATION;
     QByteArray configuration;
     QString problem;
     if (!InputFile::read(shipped, configuration, problem))

@@ -24,7 +24,8 @@ for list in tests/mutants/*.faults; do
         while (<>) {
             if (/^file (.*)$/) {
                 $file = $1;
-                open(my $source, "<", "src/USSDUIPlugin/$file") or print "there is no $file\n";
+                my ($place) = grep { -f } glob("src/{USSDUIPlugin,formats}/$file");
+                open(my $source, "<", $place // "") or print "there is no $file\n";
                 $code = do { local $/; <$source> };
             } elsif (/^fault (.*)$/) { ($name, $old) = ($1, ""); }
             elsif (/^-(.*)$/) { $old .= ($old eq "" ? "" : "\n") . $1; }

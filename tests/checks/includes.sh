@@ -52,16 +52,17 @@ lies_in_folder() {
 
 core_own=$(cpp_files src/core | grep -v '^src/core/common/')
 check "$(cpp_files src/USSDUIPlugin)" "$qt|$standard" \
-    src/USSDUIPlugin src/core/common src/compat src/files src/sdk/tksv.h
+    src/USSDUIPlugin src/formats src/core/common src/compat src/files src/sdk/tksv.h
+check "$(cpp_files src/formats)" "$qt|$standard" src/formats src/compat src/files src/sdk/tksv.h
 check "$(cpp_files src/core/common)" "$qt|$standard" src/core/common src/compat
 check "$core_own" "$any" src/core src/core/common src/compat src/files
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/files)" "$qt|$standard" src/files
 check "$(cpp_files src/dashboard)" "$any" \
-    src/dashboard src/provisioning src/core src/core/common src/compat src/files \
+    src/dashboard src/provisioning src/formats src/core src/core/common src/compat src/files \
     src/sdk/tksv.h src/sdk/tksv_device.h
-check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/compat src/files
-check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/USSDUIPlugin src/core \
+check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
+check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
     src/core/common src/compat src/files src/dashboard/TerminalText.h src/sdk
 check "$(cpp_files src/sdk)" '^[a-pr-zA-PR-Z]' src/sdk
 check "$(cpp_files src/sdk | grep -E '/tksv(_device)?\.h$')" '^(std(int|def)|time)\.h$' src/sdk/tksv.h

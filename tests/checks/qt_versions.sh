@@ -3,7 +3,7 @@
 # that only one of the two has.
 . "$(dirname "$0")/common.sh"
 
-shared="src/USSDUIPlugin src/files src/core src/dashboard src/provisioning src/tools"
+shared="src/USSDUIPlugin src/formats src/files src/core src/dashboard src/provisioning src/tools"
 
 # What Qt 4.6 has not, or 5.15 warns of.
 missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'

@@ -2,7 +2,7 @@
 
 #include "IUSSD.h"
 #include "NotificationService.h"
-#include "PaidRecord.h"
+#include "PluginContract.h"
 #include "SimTest.h"
 #include "Startup.h"
 
@@ -20,7 +20,7 @@ const char LATE[] = "[*103#]\nReply=Account 1\n[Event found]\nAfter=500\nState=r
 
 const unsigned int TOLD = 384;
 
-NotifyParam addressOf(const PaidRecord &record)
+NotifyParam addressOf(const PrePostRecord &record)
 {
     return reinterpret_cast<NotifyParam>(&record);
 }
@@ -73,7 +73,7 @@ void PaidTypeTest::openWith(const char *imsi, const char *codes, const char *key
 void PaidTypeTest::theServiceTakesWhatIsMeantForIt()
 {
     NotificationService service;
-    const PaidRecord record = {true, false, 1};
+    const PrePostRecord record = {true, false, 1};
     int told = 0;
     connect(&service, &NotificationService::paidTypeTold, [&] { ++told; });
     QCOMPARE(service.Notify(addressee(0), TOLD, addressOf(record), 0), 0);
@@ -106,7 +106,7 @@ void PaidTypeTest::theServiceTellsWhatTheRecordSays()
     NotificationService service;
     int told = -1;
     connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { told = each; });
-    const PaidRecord record = {inUse, postpaid, result};
+    const PrePostRecord record = {inUse, postpaid, result};
     service.Notify(addressee(0), TOLD, addressOf(record), 0);
     QCOMPARE(told, type);
 }

@@ -90,13 +90,7 @@ AutoUSSD autoUSSDBehindTheOthers(const QByteArray &file)
 {
     QXmlStreamReader reader(file);
     PluginConfig config;
-    readPrePostDiffer(reader, config.prePostDiffer);
-    readPaidSection(reader, 0, config);
-    readPaidSection(reader, 1, config);
-    readCharSection(reader, kSentCharSection, config.sentChar);
-    readCharSection(reader, kReceivedCharSection, config.receivedChar);
-    readCmdEdit(reader, config.cmdEdit);
-    readAutoUSSD(reader, config.autoUSSD);
+    readConfiguration(reader, config);
     return config.autoUSSD;
 }
 

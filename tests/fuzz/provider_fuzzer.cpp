@@ -14,6 +14,7 @@
 #include "ProvisionFiles.h"
 #include "ProvisionPlan.h"
 #include "ProvisionRecord.h"
+#include "UssdCode.h"
 #include "UssdTemplate.h"
 
 namespace
@@ -27,7 +28,7 @@ void checkCode(const QString &code)
 {
     QString filled = code;
     filled.replace(QLatin1String("%s"), QLatin1String("1"));
-    FUZZ_REQUIRE(isUssdCode(filled) && filled.length() <= LONGEST_USSD_COMMAND);
+    FUZZ_REQUIRE(isUssdCode(filled) && filled.length() <= LONGEST_COMMAND);
 }
 
 void checkTemplate(const ProviderCode &code)

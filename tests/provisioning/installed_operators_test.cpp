@@ -2,6 +2,7 @@
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
 #include "SmsLayout.h"
+#include "UssdCode.h"
 #include "USSDEditCmd.h"
 #include "USSDLogic.h"
 #include "UssdTemplate.h"
@@ -225,7 +226,7 @@ void InstalledOperatorsTest::checkAccount(const ProvisionPlan &plan)
         USSDLogic::GetUSSDLogicInstance()->GetComponentAttrInt(PREPAID, CHARGE, LENGTH);
     QVERIFY(length > 10);
     longest.replace(QLatin1String("%s"), QString(length, QLatin1Char('1')));
-    QVERIFY(longest.length() <= LONGEST_USSD_COMMAND && isUssdCode(longest));
+    QVERIFY(longest.length() <= LONGEST_COMMAND && isUssdCode(longest));
 }
 
 void InstalledOperatorsTest::checkProfiles(const ProvisionPlan &plan)
@@ -234,9 +235,9 @@ void InstalledOperatorsTest::checkProfiles(const ProvisionPlan &plan)
     USSDEditCmd().GetProfileList(profiles);
     QCOMPARE(profiles.count(), plan.profiles.count());
     for (int i = 0; i < profiles.count(); ++i) {
-        QCOMPARE(profiles.at(i).value, plan.profiles.at(i).code);
-        QCOMPARE(profiles.at(i).langID, plan.profiles.at(i).textKey);
-        QCOMPARE(profiles.at(i).desLangID, plan.profiles.at(i).descriptionKey);
+        QCOMPARE(profiles.at(i).value, plan.profiles.at(i).value);
+        QCOMPARE(profiles.at(i).langID, plan.profiles.at(i).langID);
+        QCOMPARE(profiles.at(i).desLangID, plan.profiles.at(i).desLangID);
         QCOMPARE(profiles.at(i).showButton, plan.profiles.at(i).showButton);
         QVERIFY(profiles.at(i).isSystem);
         QVERIFY(!profiles.at(i).name.isEmpty());

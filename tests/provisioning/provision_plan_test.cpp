@@ -1,7 +1,10 @@
+#include "ProfileXml.h"
 #include "ProvisionFiles.h"
+#include "UssdCode.h"
 #include "UssdTemplate.h"
 #include "UssdTest.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QXmlStreamReader>
 
@@ -21,6 +24,7 @@ private slots:
     void callsAndAnswersAreNoted();
     void networkOfTheSimBecomesAPrefix();
     void nameCannotEndTheComment();
+    void profilesHaveTheBytesThatTheEditorWrites();
     void brokenShippedConfigurationIsSaid_data();
     void brokenShippedConfigurationIsSaid();
 };
@@ -69,9 +73,9 @@ Provider provider(const char *name = "One")
 QStringList shown(const ProvisionPlan &plan)
 {
     QStringList codes;
-    for (const PlannedProfile &profile : plan.profiles) {
+    for (const USSDProfile &profile : plan.profiles) {
         if (profile.showButton)
-            codes << profile.code;
+            codes << profile.value;
     }
     return codes;
 }
@@ -159,8 +163,8 @@ void ProvisionPlanTest::firstUsableCodeGoesIntoTheAccountWindow()
     QCOMPARE(plan.ownNumber, latin1("*3#"));
     QCOMPARE(plan.topUp, latin1("*4*%s#"));
     QCOMPARE(plan.profiles.count(), 4);
-    QCOMPARE(plan.profiles.at(0).textKey, latin1("IDS_PROFILE_BALANCE"));
-    QCOMPARE(plan.profiles.at(1).textKey, QString());
+    QCOMPARE(plan.profiles.at(0).langID, latin1("IDS_PROFILE_BALANCE"));
+    QCOMPARE(plan.profiles.at(1).langID, QString());
     QCOMPARE(plan.profiles.at(1).name, latin1("*2#"));
     QCOMPARE(plan.notes.count(), 1);
 }
@@ -172,7 +176,7 @@ void ProvisionPlanTest::topUpWithoutReplacementIsACodeOnly()
     const ProvisionPlan plan = provisionPlan(asked);
     QCOMPARE(plan.topUp, QString());
     QCOMPARE(plan.profiles.count(), 1);
-    QCOMPARE(plan.profiles.at(0).code, latin1("*4#"));
+    QCOMPARE(plan.profiles.at(0).value, latin1("*4#"));
 }
 
 void ProvisionPlanTest::plainCodesGetButtonsOnlyBeforeTwoPaymentButtons()
@@ -191,7 +195,7 @@ void ProvisionPlanTest::plainCodesGetButtonsOnlyBeforeTwoPaymentButtons()
     QCOMPARE(shown(many).count(), 11);
     QCOMPARE(shown(many).mid(9), QStringList() << latin1("*4*%s#") << latin1("*5*%s#"));
     QCOMPARE(many.profiles.count(), 17);
-    QCOMPARE(many.profiles.at(9).code, latin1("*4*%s#"));
+    QCOMPARE(many.profiles.at(9).value, latin1("*4*%s#"));
 }
 
 void ProvisionPlanTest::messagesBecomeServices()
@@ -244,6 +248,23 @@ void ProvisionPlanTest::nameCannotEndTheComment()
     }
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
     QCOMPARE(sections.count(latin1("Prepaid")), 1);
+}
+
+/// The editor saves this file again whenever the user saves own codes. The same bytes do not count
+/// as a change, also where the name has characters that XML cannot hold.
+void ProvisionPlanTest::profilesHaveTheBytesThatTheEditorWrites()
+{
+    ProvisionPlan plan;
+    USSDProfile profile;
+    profile.name = QLatin1String("one\rtwo\x01");
+    profile.value = latin1("*100#");
+    plan.profiles << profile;
+    const QByteArray written = provisionFiles(plan, shippedConfiguration()).profiles;
+    QVERIFY2(written.contains("<name>one&#13;two</name>"), written.constData());
+    QBuffer saved;
+    saved.open(QIODevice::WriteOnly);
+    ProfileXml::write(saved, plan.profiles);
+    QCOMPARE(written, saved.data());
 }
 
 void ProvisionPlanTest::brokenShippedConfigurationIsSaid_data()

@@ -12,6 +12,7 @@
 #include "GeneralWindow.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "PluginContract.h"
 #include "ReplyTimer.h"
 #include "SoakClock.h"
 #include "tksv_device.h"
@@ -21,8 +22,6 @@
 namespace
 {
 
-const unsigned int LANGUAGE_CHANGED = 320;
-const unsigned int SIM_CHANGED = 579;
 const int PULSE = 5;                  // ms of real time
 const int STEP = 1000;                // ms of simulated time with each pulse
 const int LONGEST_REPLY = 5000;       // ms; the scenarios' slowest
@@ -150,7 +149,7 @@ void SoakHost::speak(int number)
     const QStringList codes = Languages::codes();
     if (!Languages::setCurrent(codes.at(number % int(codes.size()))))
         trouble(QLatin1String("a language cannot be used"));
-    CUSSDService::instance()->Notify(LANGUAGE_CHANGED, 0, 0);
+    CUSSDService::instance()->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }
 
 /// Another SIM and another network, as when somebody changes the modem.
@@ -163,7 +162,7 @@ void SoakHost::useNetwork(int number)
     if (TKSV_Device_UseScenario(QFile::encodeName(file).constData(), message, sizeof message) != 0)
         trouble(QString::fromUtf8(message));
     if (number > 0)
-        CUSSDService::instance()->Notify(SIM_CHANGED, 0, 0);
+        CUSSDService::instance()->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
 }
 
 /// The general window in the host's own, as long as it takes to send some codes.

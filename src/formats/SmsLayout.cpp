@@ -1,13 +1,15 @@
 #include "SmsLayout.h"
 
 #include <QScopedPointer>
-#include <QWidget>
 #include <QXmlStreamReader>
 
 #include "ForwardXml.h"
+#include "XmlName.h"
 
 namespace
 {
+
+const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
 
 const int kMaxComplaints = 20;
 const int kMaxQuoted = 40;  // characters of the file in a complaint
@@ -126,12 +128,12 @@ int Reader::number(const char *name, const QString &text)
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);
-    if (value < least || value > QWIDGETSIZE_MAX)
+    if (value < least || value > LARGEST_SIDE)
         complain(QString::fromLatin1("%1 %2 is out of range (%3 to %4)")
                      .arg(QLatin1String(name))
                      .arg(value)
                      .arg(least)
-                     .arg(QWIDGETSIZE_MAX));
+                     .arg(LARGEST_SIDE));
     return value;
 }
 
@@ -152,7 +154,7 @@ void Reader::complain(const QString &what)
 
 bool Reader::readDocument()
 {
-    while (nextStart("SMSUSSD", ""))
+    while (nextStart(XmlName::SMS_USSD, ""))
         readSection();
     if (!m_xml.hasError())
         checkGroups();
@@ -163,27 +165,27 @@ bool Reader::readDocument()
 
 void Reader::readSection()
 {
-    while (nextStart("SMSUSSD"))
+    while (nextStart(XmlName::SMS_USSD))
         readPart();
 }
 
 void Reader::readPart()
 {
-    if (isAt("MainSize"))
+    if (isAt(XmlName::MAIN_SIZE))
         readMainSize();
-    else if (isAt("TreeSize"))
+    else if (isAt(XmlName::TREE_SIZE))
         readTreeSize();
-    else if (isAt("Tree"))
+    else if (isAt(XmlName::TREE))
         readTree();
-    else if (isAt("Dialog"))
+    else if (isAt(XmlName::DIALOG))
         readDialog();
 }
 
 void Reader::readMainSize()
 {
     CDlgInfo &dialog = m_layout.dialog;
-    dialog.width = numberAttribute("width");
-    dialog.height = numberAttribute("height");
+    dialog.width = numberAttribute(XmlName::WIDTH);
+    dialog.height = numberAttribute(XmlName::HEIGHT);
     if (SmsLayoutFile::windowSize(dialog) != QSize(dialog.width, dialog.height))
         complain(QString::fromLatin1("MainSize %1 x %2 is out of range (0 to %3)")
                      .arg(dialog.width)
@@ -193,25 +195,25 @@ void Reader::readMainSize()
 
 void Reader::readTreeSize()
 {
-    m_layout.tree.posx = pixels("posx", -QWIDGETSIZE_MAX);
-    m_layout.tree.posy = pixels("posy", -QWIDGETSIZE_MAX);
-    m_layout.tree.width = pixels("width", 0);
-    m_layout.tree.height = pixels("height", 0);
+    m_layout.tree.posx = pixels(XmlName::POS_X, -LARGEST_SIDE);
+    m_layout.tree.posy = pixels(XmlName::POS_Y, -LARGEST_SIDE);
+    m_layout.tree.width = pixels(XmlName::WIDTH, 0);
+    m_layout.tree.height = pixels(XmlName::HEIGHT, 0);
 }
 
 void Reader::readTree()
 {
-    while (nextStart("item", "Tree"))
+    while (nextStart(XmlName::ITEM, XmlName::TREE))
         readEntry();
 }
 
 void Reader::readEntry()
 {
     QScopedPointer<CTreeItem> entry(new CTreeItem);
-    entry->number = numberAttribute("name");
-    entry->parent = numberAttribute("parent");
-    entry->textId = attribute("id");
-    if (attribute("type") == QLatin1String("root"))
+    entry->number = numberAttribute(XmlName::NAME);
+    entry->parent = numberAttribute(XmlName::PARENT);
+    entry->textId = attribute(XmlName::ID);
+    if (attribute(XmlName::TYPE) == QLatin1String(XmlName::TREE_ROOT))
         takeRoot(entry.take());
     else
         takeOrdinary(entry.take());
@@ -268,17 +270,17 @@ void Reader::store(CTreeItem *entry)
 
 void Reader::readDialog()
 {
-    while (nextStart("item", "Dialog"))
+    while (nextStart(XmlName::ITEM, XmlName::DIALOG))
         readGroup();
 }
 
 void Reader::readGroup()
 {
     QScopedPointer<CWidget> group(new CWidget);
-    group->number = numberAttribute("name");
-    const int entry = numberAttribute("parent");
+    group->number = numberAttribute(XmlName::NAME);
+    const int entry = numberAttribute(XmlName::PARENT);
     int count = 0;
-    while (nextStart("control", "item")) {
+    while (nextStart(XmlName::CONTROL, XmlName::ITEM)) {
         QScopedPointer<CWidgetItemInfo> control(readControl());
         if (++count <= kMaxControls)
             group->controls << control.take();
@@ -311,7 +313,7 @@ CWidgetItemInfo *Reader::readControl()
 {
     QScopedPointer<CWidgetItemInfo> control(new CWidgetItemInfo);
     readControlAttributes(*control);
-    while (nextStart("control"))
+    while (nextStart(XmlName::CONTROL))
         readControlElement(*control);
     checkInput(*control);
     return control.take();
@@ -319,28 +321,28 @@ CWidgetItemInfo *Reader::readControl()
 
 void Reader::readControlAttributes(CWidgetItemInfo &control)
 {
-    if (m_xml.attributes().hasAttribute(QLatin1String("type")))
-        control.kind =
-            attribute("type") == QLatin1String("ussd") ? CONTROL_KIND_USSD : CONTROL_KIND_SMS;
-    control.visible = attribute("visible") != QLatin1String("false");
-    control.id = attribute("id");
-    control.posx = pixels("posx", -QWIDGETSIZE_MAX);
-    control.posy = pixels("posy", -QWIDGETSIZE_MAX);
-    control.width = pixels("width", 0);
-    control.height = pixels("height", 0);
+    if (m_xml.attributes().hasAttribute(QLatin1String(XmlName::TYPE)))
+        control.kind = attribute(XmlName::TYPE) == QLatin1String(XmlName::USSD) ? CONTROL_KIND_USSD
+                                                                                : CONTROL_KIND_SMS;
+    control.visible = attribute(XmlName::VISIBLE) != QLatin1String(XmlName::OFF);
+    control.id = attribute(XmlName::ID);
+    control.posx = pixels(XmlName::POS_X, -LARGEST_SIDE);
+    control.posy = pixels(XmlName::POS_Y, -LARGEST_SIDE);
+    control.width = pixels(XmlName::WIDTH, 0);
+    control.height = pixels(XmlName::HEIGHT, 0);
 }
 
 void Reader::readControlElement(CWidgetItemInfo &control)
 {
-    if (isAt("LimitText"))
+    if (isAt(XmlName::LIMIT_TEXT))
         control.limitText = text();
-    else if (isAt("length"))
-        control.length = numberText("length");
-    else if (isAt("minlenth"))
-        control.minLength = numberText("minlenth");
-    else if (isAt("command"))
+    else if (isAt(XmlName::LENGTH))
+        control.length = numberText(XmlName::LENGTH);
+    else if (isAt(XmlName::MIN_LENGTH))
+        control.minLength = numberText(XmlName::MIN_LENGTH);
+    else if (isAt(XmlName::COMMAND))
         control.command = text();
-    else if (isAt("number"))
+    else if (isAt(XmlName::NUMBER))
         control.number = text();
     else
         skipElement();
@@ -380,12 +382,12 @@ QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
 /// Kept small enough for Qt to add and subtract without an overflow.
 int boundedPlace(int pixels)
 {
-    return qBound(-QWIDGETSIZE_MAX, pixels, QWIDGETSIZE_MAX);
+    return qBound(-LARGEST_SIDE, pixels, LARGEST_SIDE);
 }
 
 int boundedSide(int pixels)
 {
-    return qBound(0, pixels, QWIDGETSIZE_MAX);
+    return qBound(0, pixels, LARGEST_SIDE);
 }
 
 template <typename Record>

@@ -5,11 +5,12 @@
 #include <QXmlStreamWriter>
 
 #include "ForwardXml.h"
+#include "XmlName.h"
 
 namespace
 {
 
-const QLatin1String kItem("item");
+const QLatin1String kItem(XmlName::ITEM);
 
 QString fieldText(QXmlStreamReader &reader, const char *field)
 {
@@ -41,7 +42,7 @@ QString xmlText(const QString &text)
 
 QString boolText(bool value)
 {
-    return QLatin1String(value ? "true" : "false");
+    return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
 /// A bare carriage return would be read back as a line feed.
@@ -60,12 +61,12 @@ void writeField(QXmlStreamWriter &writer, const char *field, const QString &text
 void writeProfile(QXmlStreamWriter &writer, const USSDProfile &profile)
 {
     writer.writeStartElement(kItem);
-    writeField(writer, "name", profile.name);
-    writeField(writer, "value", profile.value.trimmed());
-    writeField(writer, "readonly", boolText(profile.readonly));
-    writeField(writer, "showButton", boolText(profile.showButton));
-    writeField(writer, "langID", profile.langID.trimmed());
-    writeField(writer, "desLangID", profile.desLangID.trimmed());
+    writeField(writer, XmlName::NAME, profile.name);
+    writeField(writer, XmlName::VALUE, profile.value.trimmed());
+    writeField(writer, XmlName::READONLY, boolText(profile.readonly));
+    writeField(writer, XmlName::SHOW_BUTTON, boolText(profile.showButton));
+    writeField(writer, XmlName::LANG_ID, profile.langID.trimmed());
+    writeField(writer, XmlName::DESCRIPTION_LANG_ID, profile.desLangID.trimmed());
     writer.writeEndElement();
 }
 
@@ -79,12 +80,12 @@ bool readNext(QXmlStreamReader &reader, USSDProfile &profile)
     if (!ForwardXml::skipTo(reader, kItem))
         return false;
     profile = USSDProfile();
-    profile.name = fieldText(reader, "name");
-    profile.value = fieldText(reader, "value");
-    profile.readonly = ForwardXml::isTrue(fieldText(reader, "readonly"));
-    profile.showButton = ForwardXml::isTrue(fieldText(reader, "showButton"));
-    profile.langID = fieldText(reader, "langID");
-    profile.desLangID = fieldText(reader, "desLangID");
+    profile.name = fieldText(reader, XmlName::NAME);
+    profile.value = fieldText(reader, XmlName::VALUE);
+    profile.readonly = ForwardXml::isTrue(fieldText(reader, XmlName::READONLY));
+    profile.showButton = ForwardXml::isTrue(fieldText(reader, XmlName::SHOW_BUTTON));
+    profile.langID = fieldText(reader, XmlName::LANG_ID);
+    profile.desLangID = fieldText(reader, XmlName::DESCRIPTION_LANG_ID);
     return true;
 }
 
@@ -93,8 +94,8 @@ void write(QIODevice &device, const QList<USSDProfile> &profiles)
     QXmlStreamWriter writer(&device);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
-    writer.writeStartElement(QLatin1String("tksvdoc"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("USSDProfile"));
+    writer.writeStartElement(QLatin1String(XmlName::PROFILES));
+    writer.writeAttribute(QLatin1String(XmlName::TYPE), QLatin1String(XmlName::PROFILES_TYPE));
     for (int i = 0; i < profiles.count(); ++i)
         writeProfile(writer, profiles.at(i));
     writer.writeEndElement();

@@ -1,5 +1,7 @@
 #include "ForwardXml.h"
 
+#include "XmlName.h"
+
 #include <QXmlStreamReader>
 
 namespace
@@ -82,7 +84,7 @@ bool boolAttribute(const QXmlStreamReader &reader, QLatin1String name)
 
 bool isTrue(const QString &text)
 {
-    return text == QLatin1String("true");
+    return text == QLatin1String(XmlName::ON);
 }
 
 } // namespace ForwardXml

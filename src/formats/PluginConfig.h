@@ -105,14 +105,15 @@ struct PluginConfig {
     AutoUSSD autoUSSD;
 };
 
-/// Names of the sections with the looks of sent and received lines.
-extern const char kSentCharSection[];
-extern const char kReceivedCharSection[];
+/// Reads all sections but "clearHistory", in the binding order. "clearHistory" may stand anywhere:
+/// readClearHistory() needs a reader that stands at the start of the document.
+void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
 /// A section with a fault in it is off.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
 /// The "Prepaid" (0) or "Postpaid" (1) section: always four items, wherever the fourth one stands.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
+/// Reads XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);

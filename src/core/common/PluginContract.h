@@ -1,0 +1,43 @@
+#ifndef PLUGINCONTRACT_H
+#define PLUGINCONTRACT_H
+
+#include <cstddef>
+
+/**
+ * The numbers and the record that a host and the plug-in exchange. They are part of the binary
+ * contract: a host that is compiled today works with a plug-in that is compiled years later.
+ */
+namespace PluginContract
+{
+
+/// The identifier for which IBasePlugin::QueryInterface() hands out the USSD service (IUSSD).
+const int USSD_SERVICE = 4097;
+
+/// Events that the host raises by INotify::Notify(). Both parameters of each event are 0.
+const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() answers in another language
+const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was changed or became readable
+
+/// The message that the plug-in raises by INotifyService::Notify(). Its first parameter is the
+/// address of a PrePostRecord, its second one is 0.
+const unsigned int MESSAGE_PRE_POST_INFO = 384;
+
+} // namespace PluginContract
+
+/**
+ * Outcome of the question whether the SIM is prepaid or postpaid. The plug-in owns the record,
+ * which is valid during the notification only: a host copies what it wants to keep. The order and
+ * the size of the fields are part of the binary contract.
+ */
+struct PrePostRecord {
+    bool bInUse = false;    ///< the configuration wants the network to be asked
+    bool bPostPaid = false; ///< has no meaning while result is 0
+    int result = 0;         ///< 1: the question was sent; 0: it was not, or nobody answered in time
+};
+
+static_assert(sizeof(bool) == 1 && sizeof(int) == 4, "the record is made of these two sizes");
+static_assert(offsetof(PrePostRecord, bInUse) == 0, "offset in the record of the message");
+static_assert(offsetof(PrePostRecord, bPostPaid) == 1, "offset in the record of the message");
+static_assert(offsetof(PrePostRecord, result) == 4, "offset in the record of the message");
+static_assert(sizeof(PrePostRecord) == 8, "size of the record of the message");
+
+#endif
