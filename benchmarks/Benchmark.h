@@ -15,10 +15,10 @@ namespace Benchmark
 /// What one measurement gives for one unit of work.
 typedef std::function<double()> Measurement;
 
-const char kMicroseconds[] = "µs";
+const char MICROSECONDS[] = "µs";
 
 /// In place of a limit, for figures that are only shown.
-const double kNoLimit = 0;
+const double NO_LIMIT = 0;
 
 /// What is compared with what, and the ratio that is to be reached.
 struct Title {
@@ -28,20 +28,20 @@ struct Title {
     std::string unit;
 
     Title(const std::string &what_, const std::string &baseline_, double limit_,
-          const char *unit_ = kMicroseconds)
+          const char *unit_ = MICROSECONDS)
         : what(what_), baseline(baseline_), limit(limit_), unit(unit_)
     {
     }
 };
 
-const int kRounds = 11;
+const int ROUNDS = 11;
 
 /// Wall time of `work` in microseconds.
 double microseconds(const std::function<void()> &work);
 
 /// Measures both in turn, one round to warm up, and prints the row.
 void compare(const Title &title, const Measurement &measure, const Measurement &baseline,
-             int rounds = kRounds);
+             int rounds = ROUNDS);
 
 /// Prints a row of figures that were taken in turn: what, unit, median, smallest and largest of
 /// both and of the ratios, and the limit, with tabs between. benchmark_report reads it.

@@ -30,7 +30,7 @@ struct Row {
     bool isReached() const { return !hasLimit() || ratio.median <= limit; }
 };
 
-const int kFields = 13;
+const int FIELDS = 13;
 
 Spread spread(const QStringList &fields, int first)
 {
@@ -42,7 +42,7 @@ Spread spread(const QStringList &fields, int first)
 Row row(const QString &line)
 {
     const QStringList fields = line.split(QLatin1Char('\t'));
-    if (fields.count() != kFields)
+    if (fields.count() != FIELDS)
         qFatal("not a row of a benchmark: %s", qPrintable(line));
     Row result = {fields.at(0),
                   fields.at(1),
@@ -97,27 +97,27 @@ void printTable(const QList<Row> &rows)
 // ---- the chart: a bar for each ratio, with its spread and its limit
 // ------------------------------
 
-const int kNameWidth = 600; // pixels, like all below
-const int kBarsWidth = 460;
-const int kValueWidth = 170;
-const int kRowHeight = 34;
-const int kHead = 60;
-const int kFoot = 24;
-const int kLargestRatio = 4; // the scale ends there, and what is longer too
+const int NAME_WIDTH = 600; // pixels, like all below
+const int BARS_WIDTH = 460;
+const int VALUE_WIDTH = 170;
+const int ROW_HEIGHT = 34;
+const int HEAD = 60;
+const int FOOT = 24;
+const int LARGEST_RATIO = 4; // the scale ends there, and what is longer too
 
 int place(double ratio)
 {
-    return kNameWidth +
-           static_cast<int>(kBarsWidth * qMin<double>(ratio, kLargestRatio) / kLargestRatio);
+    return NAME_WIDTH +
+           static_cast<int>(BARS_WIDTH * qMin<double>(ratio, LARGEST_RATIO) / LARGEST_RATIO);
 }
 
 void paintScale(QPainter &painter, int bottom)
 {
-    for (int ratio = 0; ratio <= kLargestRatio; ++ratio) {
+    for (int ratio = 0; ratio <= LARGEST_RATIO; ++ratio) {
         painter.setPen(ratio == 1 ? Qt::black : QColor(200, 200, 200));
-        painter.drawLine(place(ratio), kHead - 8, place(ratio), bottom);
+        painter.drawLine(place(ratio), HEAD - 8, place(ratio), bottom);
         painter.setPen(Qt::black);
-        painter.drawText(QRect(place(ratio) - 40, kHead - 28, 80, 18), Qt::AlignCenter,
+        painter.drawText(QRect(place(ratio) - 40, HEAD - 28, 80, 18), Qt::AlignCenter,
                          QString::number(ratio));
     }
 }
@@ -133,18 +133,18 @@ void paintSpread(QPainter &painter, const Spread &ratio, int middle)
 void paintLimit(QPainter &painter, double limit, int top)
 {
     painter.setPen(QPen(QColor(200, 0, 0), 2));
-    painter.drawLine(place(limit), top + 2, place(limit), top + kRowHeight - 2);
+    painter.drawLine(place(limit), top + 2, place(limit), top + ROW_HEIGHT - 2);
 }
 
 void paintRow(QPainter &painter, const Row &one, int top)
 {
-    const int middle = top + kRowHeight / 2;
+    const int middle = top + ROW_HEIGHT / 2;
     painter.setPen(Qt::black);
-    painter.drawText(QRect(8, top, kNameWidth - 16, kRowHeight / 2), Qt::AlignVCenter, one.what);
+    painter.drawText(QRect(8, top, NAME_WIDTH - 16, ROW_HEIGHT / 2), Qt::AlignVCenter, one.what);
     painter.setPen(QColor(110, 110, 110));
-    painter.drawText(QRect(8, middle, kNameWidth - 16, kRowHeight / 2), Qt::AlignVCenter,
+    painter.drawText(QRect(8, middle, NAME_WIDTH - 16, ROW_HEIGHT / 2), Qt::AlignVCenter,
                      QLatin1String("to: ") + one.baseline);
-    const QRect bar(kNameWidth, top + 7, place(one.ratio.median) - kNameWidth, kRowHeight - 14);
+    const QRect bar(NAME_WIDTH, top + 7, place(one.ratio.median) - NAME_WIDTH, ROW_HEIGHT - 14);
     painter.fillRect(bar, one.isReached() ? QColor(90, 150, 210) : QColor(230, 150, 60));
     paintSpread(painter, one.ratio, middle);
     if (one.hasLimit())
@@ -153,7 +153,7 @@ void paintRow(QPainter &painter, const Row &one, int top)
     QString value = number(one.ratio.median);
     if (one.hasLimit())
         value += QLatin1String("   of ") + number(one.limit);
-    painter.drawText(QRect(kNameWidth + kBarsWidth + 12, top, kValueWidth, kRowHeight),
+    painter.drawText(QRect(NAME_WIDTH + BARS_WIDTH + 12, top, VALUE_WIDTH, ROW_HEIGHT),
                      Qt::AlignVCenter, value);
 }
 
@@ -163,15 +163,15 @@ void paintChart(QPainter &painter, const QList<Row> &rows, const QSize &size)
     painter.drawText(QRect(8, 6, size.width() - 16, 20), Qt::AlignVCenter,
                      QLatin1String("Cost as a multiple of its baseline: bar = median, line = "
                                    "smallest to largest, red = what is to be reached"));
-    paintScale(painter, size.height() - kFoot);
+    paintScale(painter, size.height() - FOOT);
     for (int i = 0; i < rows.count(); ++i)
-        paintRow(painter, rows.at(i), kHead + i * kRowHeight);
+        paintRow(painter, rows.at(i), HEAD + i * ROW_HEIGHT);
 }
 
 void writeChart(const QList<Row> &rows, const QString &path)
 {
-    const QSize size(kNameWidth + kBarsWidth + kValueWidth,
-                     kHead + kRowHeight * rows.count() + kFoot);
+    const QSize size(NAME_WIDTH + BARS_WIDTH + VALUE_WIDTH,
+                     HEAD + ROW_HEIGHT * rows.count() + FOOT);
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);

@@ -53,7 +53,7 @@ int main(int argc, char **argv)
         Benchmark::Title("general dialog opened the first time", "the same plain widgets", 1.5),
         [] { return opening(generalDialog); },
         [&original] { return opening([&original] { return plainCopy(*original, nullptr); }); },
-        5 * Benchmark::kRounds);
+        5 * Benchmark::ROUNDS);
     USSDLogic::GetUSSDLogicInstance()->unSDKRegisterEvent();
     USSDLogic::Destroy();
     return 0;

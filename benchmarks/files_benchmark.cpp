@@ -15,12 +15,12 @@
 namespace
 {
 
-const int kConfigurationBytes = 1000000;
-const int kProfiles = 10000;
-const int kManyPrefixes = 100000;
-const int kFewPrefixes = 10;
-const int kImsis = 100;
-const int kImsiRounds = 20;
+const int CONFIGURATION_BYTES = 1000000;
+const int PROFILES = 10000;
+const int MANY_PREFIXES = 100000;
+const int FEW_PREFIXES = 10;
+const int IMSIS = 100;
+const int IMSI_ROUNDS = 20;
 
 /// A library folder and a user's folder, which the plug-in is told of.
 class Folders
@@ -53,7 +53,7 @@ void writeConfiguration(const QString &path)
     QByteArray text = shipped.readAll();
     const int place = text.indexOf("</autoUSSD>");
     QByteArray cards;
-    for (int i = 0; text.size() + cards.size() < kConfigurationBytes; ++i)
+    for (int i = 0; text.size() + cards.size() < CONFIGURATION_BYTES; ++i)
         cards += "    <item imsi=\"" + QByteArray::number(200000000 + i) +
                  "\" ussd=\"Prepaid/Advanced\"/>\n";
     text.insert(place, cards);
@@ -76,7 +76,7 @@ double bareRead(const QString &path)
 QList<USSDProfile> manyProfiles()
 {
     QList<USSDProfile> profiles;
-    for (int i = 0; i < kProfiles; ++i) {
+    for (int i = 0; i < PROFILES; ++i) {
         USSDProfile profile;
         profile.name = QString::fromLatin1("Service number %1").arg(i);
         profile.value = QString::fromLatin1("*149*%1#").arg(i);
@@ -147,7 +147,7 @@ void compareProfiles(const Folders &folders)
         [&folders] { return bareRead(folders.profiles()); });
     QList<USSDProfile> loaded;
     store.GetProfileList(loaded);
-    if (loaded.count() != kProfiles)
+    if (loaded.count() != PROFILES)
         qFatal("%d profiles were loaded", loaded.count());
     Benchmark::compare(
         Benchmark::Title("10,000 profiles saved", "bare writer", 2),
@@ -168,7 +168,7 @@ QHash<QString, int> prefixes(int count)
 QStringList imsis()
 {
     QStringList result;
-    for (int i = 0; i < kImsis; ++i)
+    for (int i = 0; i < IMSIS; ++i)
         result << QString::number(900000000000000LL + i * 4999979999LL % 10000000000000LL);
     return result;
 }
@@ -177,22 +177,22 @@ double match(const QHash<QString, int> &map, const QStringList &cards)
 {
     int flags = 0;
     return Benchmark::microseconds([&] {
-               for (int round = 0; round < kImsiRounds; ++round) {
+               for (int round = 0; round < IMSI_ROUNDS; ++round) {
                    for (const QString &card : cards)
                        matchImsi(map, card, flags);
                }
            }) /
-           (kImsiRounds * cards.count());
+           (IMSI_ROUNDS * cards.count());
 }
 
 void compareImsis()
 {
-    const QHash<QString, int> many = prefixes(kManyPrefixes), few = prefixes(kFewPrefixes);
+    const QHash<QString, int> many = prefixes(MANY_PREFIXES), few = prefixes(FEW_PREFIXES);
     const QStringList cards = imsis();
     Benchmark::compare(
         Benchmark::Title("IMSI looked up in 100,000 prefixes", "in 10 prefixes", 1.5),
         [&] { return match(many, cards); }, [&] { return match(few, cards); },
-        5 * Benchmark::kRounds);
+        5 * Benchmark::ROUNDS);
 }
 
 } // namespace

@@ -15,14 +15,14 @@
 namespace
 {
 
-const int kCharacters = 10000;
-const double kMayBeLate = 100; // ms
-const int kQuietBeats = 30;    // after which nothing comes any more
-const int kRuns = 5;
+const int CHARACTERS = 10000;
+const double MAY_BE_LATE = 100; // ms
+const int QUIET_BEATS = 30;     // after which nothing comes any more
+const int RUNS = 5;
 
 QString repeated(const QString &piece)
 {
-    return piece.repeated(kCharacters / piece.length() + 1).left(kCharacters);
+    return piece.repeated(CHARACTERS / piece.length() + 1).left(CHARACTERS);
 }
 
 /** Beats each millisecond, and remembers its longest pause. */
@@ -58,7 +58,7 @@ private:
         m_longest = std::max(m_longest, pause);
         m_quiet = m_size() == m_lastSize ? m_quiet + 1 : 0;
         m_lastSize = m_size();
-        if (m_quiet > kQuietBeats)
+        if (m_quiet > QUIET_BEATS)
             m_loop.quit();
     }
 
@@ -104,14 +104,14 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
              const QString &reply)
 {
     std::vector<double> pauses;
-    pauses.reserve(kRuns);
+    pauses.reserve(RUNS);
     pause(reply); // fonts of other scripts are loaded once
-    for (int run = 0; run < kRuns; ++run)
+    for (int run = 0; run < RUNS; ++run)
         pauses.push_back(pause(reply));
     Benchmark::report(
         Benchmark::Title(std::string("heartbeat, 10,000 characters of ") + what + where,
                          "what it may be late", 1, "ms"),
-        pauses, std::vector<double>(pauses.size(), kMayBeLate));
+        pauses, std::vector<double>(pauses.size(), MAY_BE_LATE));
 }
 
 } // namespace
@@ -126,11 +126,11 @@ int main(int argc, char **argv)
         QString reply;
     } replies[] = {
         {"words", repeated(QLatin1String("twelve letters "))},
-        {"one word", QString(kCharacters, QLatin1Char('x'))},
-        {"Arabic letters", QString(kCharacters, QChar(0x0628))},
+        {"one word", QString(CHARACTERS, QLatin1Char('x'))},
+        {"Arabic letters", QString(CHARACTERS, QChar(0x0628))},
         {"two scripts by turns", repeated(QString(QLatin1Char('a')) + QChar(0x0628))},
-        {"marks on one letter", QString(kCharacters, QChar(0x0301))},
-        {"right-to-left overrides", QString(kCharacters, QChar(0x202E))},
+        {"marks on one letter", QString(CHARACTERS, QChar(0x0301))},
+        {"right-to-left overrides", QString(CHARACTERS, QChar(0x202E))},
         {"tables in tables", repeated(QLatin1String("<table><tr><td>"))},
         {"tags", repeated(QLatin1String("<b>x"))},
     };

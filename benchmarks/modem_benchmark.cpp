@@ -37,23 +37,23 @@ namespace
 {
 
 #ifdef USSD_NO_LOG_LINES
-const bool kLogged = false;
-const char kLog[] = "log lines compiled out";
+const bool LOGGED = false;
+const char LOG[] = "log lines compiled out";
 #else
-const bool kLogged = true;
-const char kLog[] = "log lines to a null handler";
+const bool LOGGED = true;
+const char LOG[] = "log lines to a null handler";
 #endif
 
-const char kNetwork[] = "[Network]\nOperator=Example\nIMSI=001010000000001\n"
-                        "[*100#]\nReply=Your balance is 12.50 EUR.\n"
-                        "[*101#]\nReply=Your balance is 12.50 EUR.\nDelay=1\n"
-                        "[*103#]\nReply=Account 1\n";
-const char kCode[] = "*100#";
-const char kCodeOneMillisecondLater[] = "*101#";
-const std::vector<std::string> kTool = {"mmcli", "-m", "any",
-                                        std::string("--3gpp-ussd-initiate=") + kCode};
-const int kRoundTrips = 200;
-const int kIdleSeconds = 60;
+const char NETWORK[] = "[Network]\nOperator=Example\nIMSI=001010000000001\n"
+                       "[*100#]\nReply=Your balance is 12.50 EUR.\n"
+                       "[*101#]\nReply=Your balance is 12.50 EUR.\nDelay=1\n"
+                       "[*103#]\nReply=Account 1\n";
+const char CODE[] = "*100#";
+const char CODE_ONE_MILLISECOND_LATER[] = "*101#";
+const std::vector<std::string> TOOL = {"mmcli", "-m", "any",
+                                       std::string("--3gpp-ussd-initiate=") + CODE};
+const int ROUND_TRIPS = 200;
+const int IDLE_SECONDS = 60;
 
 [[noreturn]] void fail(const std::string &what)
 {
@@ -151,16 +151,16 @@ bool waitForRegistration()
 
 /* ---- round trips ------------------------------------------------------------------------- */
 
-const std::string kWhat = std::string("command through plug-in, SDK and ModemManager, ") + kLog;
+const std::string WHAT = std::string("command through plug-in, SDK and ModemManager, ") + LOG;
 
 void compareWithLibrary(Pipeline &pipeline, modem::MmClient &bare, const char *code,
                         const std::string &what)
 {
     Benchmark::compare(
         Benchmark::Title(what, "bare libmm-glib", 1.1),
-        [&] { return eachOf(kRoundTrips, [&] { pipeline.sendAndAwait(code); }); },
+        [&] { return eachOf(ROUND_TRIPS, [&] { pipeline.sendAndAwait(code); }); },
         [&] {
-            return eachOf(kRoundTrips, [&] {
+            return eachOf(ROUND_TRIPS, [&] {
                 if (bare.initiate(code).text.empty())
                     fail("bare libmm-glib got no reply");
             });
@@ -170,25 +170,25 @@ void compareWithLibrary(Pipeline &pipeline, modem::MmClient &bare, const char *c
 void compareRoundTrips(modem::MmClient &bare)
 {
     Pipeline pipeline;
-    compareWithLibrary(pipeline, bare, kCode, kWhat);
-    compareWithLibrary(pipeline, bare, kCodeOneMillisecondLater, kWhat + ", network takes 1 ms");
+    compareWithLibrary(pipeline, bare, CODE, WHAT);
+    compareWithLibrary(pipeline, bare, CODE_ONE_MILLISECOND_LATER, WHAT + ", network takes 1 ms");
     const Benchmark::Measurement ours = [&] {
-        return eachOf(kRoundTrips, [&] { pipeline.sendAndAwait(kCode); });
+        return eachOf(ROUND_TRIPS, [&] { pipeline.sendAndAwait(CODE); });
     };
-    if (kLogged)
-        Benchmark::compare(Benchmark::Title(kWhat, "mmcli", 1), ours,
-                           [] { return eachOf(10, [] { runToItsEnd(kTool); }); });
+    if (LOGGED)
+        Benchmark::compare(Benchmark::Title(WHAT, "mmcli", 1), ours,
+                           [] { return eachOf(10, [] { runToItsEnd(TOOL); }); });
 }
 
 /* ---- whole programs ---------------------------------------------------------------------- */
 
 void compareFirstReplies()
 {
-    const std::vector<std::string> dashboard = {USSD_DASHBOARD, "--send", kCode};
+    const std::vector<std::string> dashboard = {USSD_DASHBOARD, "--send", CODE};
     Benchmark::compare(
         Benchmark::Title("program start to the first reply (ussd-dashboard --send)", "mmcli",
-                         Benchmark::kNoLimit, "ms"),
-        [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(kTool); });
+                         Benchmark::NO_LIMIT, "ms"),
+        [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(TOOL); });
 }
 
 /// How often the threads of a process have begun to wait, and how long they have run.
@@ -242,7 +242,7 @@ void compareIdling()
     const pid_t empty = spawn({USSD_EMPTY_WINDOW, "--with-field"});
     std::this_thread::sleep_for(std::chrono::seconds(5));
     const Activity before[] = {activityOf(ours), activityOf(empty)};
-    std::this_thread::sleep_for(std::chrono::seconds(kIdleSeconds));
+    std::this_thread::sleep_for(std::chrono::seconds(IDLE_SECONDS));
     const Activity after[] = {activityOf(ours), activityOf(empty)};
     for (const pid_t process : {ours, empty}) {
         kill(process, SIGKILL);
@@ -253,7 +253,7 @@ void compareIdling()
         Benchmark::Title("wake-ups in an idle minute, with a modem", baseline, 1.05, "×"),
         {after[0].waits - before[0].waits}, {after[1].waits - before[1].waits});
     Benchmark::report(Benchmark::Title("CPU time in an idle minute, with a modem", baseline,
-                                       Benchmark::kNoLimit, "ms"),
+                                       Benchmark::NO_LIMIT, "ms"),
                       {after[0].cpuMilliseconds - before[0].cpuMilliseconds},
                       {after[1].cpuMilliseconds - before[1].cpuMilliseconds});
 }
@@ -267,7 +267,7 @@ int main(int argc, char **argv)
     const std::string problem = world.start();
     if (!problem.empty())
         fail(problem);
-    if (!world.addModem("one", kNetwork).empty())
+    if (!world.addModem("one", NETWORK).empty())
         fail("no modem");
     setenv("TKSV_BACKEND", "modemmanager", 1);
     const QCoreApplication application(argc, argv);
@@ -278,7 +278,7 @@ int main(int argc, char **argv)
     if (!bare.use(world.stateOf("one").object))
         fail("bare libmm-glib has no modem");
     compareRoundTrips(bare);
-    if (!kLogged)
+    if (!LOGGED)
         return 0;
     compareFirstReplies();
     compareIdling();

@@ -19,13 +19,13 @@ namespace
 {
 
 #ifdef USSD_NO_LOG_LINES
-const bool kLogged = false;
-const double kLimit = 1.5;
-const char kLog[] = "log lines compiled out";
+const bool LOGGED = false;
+const double LIMIT = 1.5;
+const char LOG[] = "log lines compiled out";
 #else
-const bool kLogged = true;
-const double kLimit = 4;
-const char kLog[] = "log lines to a null handler";
+const bool LOGGED = true;
+const double LIMIT = 4;
+const char LOG[] = "log lines to a null handler";
 #endif
 
 /// Counts what arrives on the GUI thread and leaves the event loop when all is there.
@@ -144,9 +144,9 @@ private:
     Counter m_counter;
 };
 
-const int kRoundTrips = 2000;
-const int kLongQueue = 10000;
-const int kShortQueue = 10;
+const int ROUND_TRIPS = 2000;
+const int LONG_QUEUE = 10000;
+const int SHORT_QUEUE = 10;
 
 template <typename Trip>
 double eachOf(int times, const Trip &trip)
@@ -163,12 +163,12 @@ double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
 {
     double sum = 0;
-    for (int i = 0; i < kLongQueue / length; ++i) {
+    for (int i = 0; i < LONG_QUEUE / length; ++i) {
         before();
         sum += Benchmark::microseconds(step);
         after();
     }
-    return sum / kLongQueue;
+    return sum / LONG_QUEUE;
 }
 
 /// A step with the queue of the length that it is asked for.
@@ -179,16 +179,16 @@ void compareQueues(const char *step, const QueueStep &measure)
     const std::string name = step;
     Benchmark::compare(
         Benchmark::Title("queue of 10,000: " + name + ", each command", "queue of 10", 1.2),
-        [&measure] { return measure(kLongQueue); }, [&measure] { return measure(kShortQueue); });
+        [&measure] { return measure(LONG_QUEUE); }, [&measure] { return measure(SHORT_QUEUE); });
 }
 
 void compareRoundTrips(const char *cores, BareRoundTrip &bare, Pipeline &pipeline)
 {
     Benchmark::compare(
-        Benchmark::Title(std::string("command through the pipeline, ") + kLog + ", " + cores,
-                         "queued signal there and back", kLimit),
-        [&pipeline] { return eachOf(kRoundTrips, [&pipeline] { pipeline.sendAndAwait(); }); },
-        [&bare] { return eachOf(kRoundTrips, [&bare] { bare.run(); }); });
+        Benchmark::Title(std::string("command through the pipeline, ") + LOG + ", " + cores,
+                         "queued signal there and back", LIMIT),
+        [&pipeline] { return eachOf(ROUND_TRIPS, [&pipeline] { pipeline.sendAndAwait(); }); },
+        [&bare] { return eachOf(ROUND_TRIPS, [&bare] { bare.run(); }); });
 }
 
 void compareAllQueues(Pipeline &pipeline)
@@ -241,7 +241,7 @@ int main(int argc, char **argv)
     Benchmark::dropMessages();
     measureOnOneCore();
     measureOnTwoCores();
-    if (kLogged)
+    if (LOGGED)
         measureQueues();
     return 0;
 }

@@ -19,8 +19,8 @@ extern char **environ;
 namespace
 {
 
-const int kStarts = 41;
-const double kKilobytesInMegabyte = 1024;
+const int STARTS = 41;
+const double KILOBYTES_IN_MEGABYTE = 1024;
 
 struct Start {
     double milliseconds;
@@ -90,7 +90,7 @@ Start start(const char *program)
     long peak = 0;
     if (std::sscanf(answer.c_str(), "%lld %ld", &shown, &peak) != 2)
         fail(program);
-    Start result = {static_cast<double>(shown - begin) / 1e6, peak / kKilobytesInMegabyte};
+    Start result = {static_cast<double>(shown - begin) / 1e6, peak / KILOBYTES_IN_MEGABYTE};
     return result;
 }
 
@@ -119,7 +119,7 @@ int main()
     std::vector<Start> dashboard, plain, empty;
     for (const char *program : {USSD_DASHBOARD, USSD_PLAIN_WINDOW, USSD_EMPTY_WINDOW})
         start(program); // into the page cache
-    for (int i = 0; i < kStarts; ++i) {
+    for (int i = 0; i < STARTS; ++i) {
         dashboard.push_back(start(USSD_DASHBOARD));
         plain.push_back(start(USSD_PLAIN_WINDOW));
         empty.push_back(start(USSD_EMPTY_WINDOW));

@@ -10,11 +10,11 @@
 namespace
 {
 
-const int kLong = 10000;
-const int kMiddle = 1000;
-const int kShort = 10;
-const int kAdded = 20;      // entries in a measurement
-const int kWholeRounds = 3; // setting a long text takes a while
+const int LONG = 10000;
+const int MIDDLE = 1000;
+const int SHORT = 10;
+const int ADDED = 20;       // entries in a measurement
+const int WHOLE_ROUNDS = 3; // setting a long text takes a while
 
 Transcript::Entry entry(int number)
 {
@@ -39,15 +39,15 @@ void fill(TranscriptView &view, int entries)
 double addOne(TranscriptView &view)
 {
     return Benchmark::microseconds([&view] {
-               for (int i = 0; i < kAdded; ++i)
+               for (int i = 0; i < ADDED; ++i)
                    view.appendEntry(entry(i));
            }) /
-           kAdded;
+           ADDED;
 }
 
 double addOneToShort(TranscriptView &view)
 {
-    fill(view, kShort); // the last round made it longer
+    fill(view, SHORT); // the last round made it longer
     return addOne(view);
 }
 
@@ -67,21 +67,21 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     Benchmark::dropMessages();
     TranscriptView longView, middleView, shortView, wholeView;
-    fill(longView, kLong);
-    fill(middleView, kMiddle);
-    fill(wholeView, kLong);
+    fill(longView, LONG);
+    fill(middleView, MIDDLE);
+    fill(wholeView, LONG);
     Benchmark::compare(
         Benchmark::Title("entry added to a transcript of 10,000", "added to one of 10", 1.1),
         [&longView] { return addOne(longView); }, [&shortView] { return addOneToShort(shortView); },
-        5 * Benchmark::kRounds);
+        5 * Benchmark::ROUNDS);
     Benchmark::compare(
         Benchmark::Title("entry added to a transcript of 10,000", "added to one of 1,000", 1.1),
         [&longView] { return addOne(longView); }, [&middleView] { return addOne(middleView); },
-        5 * Benchmark::kRounds);
+        5 * Benchmark::ROUNDS);
     Benchmark::compare(
         Benchmark::Title("entry added to a transcript of 10,000", "setting the whole text again",
                          0.01),
         [&longView] { return addOne(longView); }, [&wholeView] { return setWhole(wholeView); },
-        kWholeRounds);
+        WHOLE_ROUNDS);
     return 0;
 }

@@ -14,11 +14,15 @@ find_program(USSD_CLANG_TIDY_PROGRAM clang-tidy)
 # one check at least.
 file(WRITE ${PROJECT_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
 
+# The language level, in which the plug-in and what it is made of compile with Qt 4 too. A folder
+# that is for Qt 5.15 and 6 alone sets another one at the head of its list.
+set(USSD_CXX_STANDARD 14)
+
 # Everything that all of our own code has in common.
 function(ussd_set_up target)
     set_target_properties(
         ${target}
-        PROPERTIES CXX_STANDARD 14
+        PROPERTIES CXX_STANDARD ${USSD_CXX_STANDARD}
                    CXX_STANDARD_REQUIRED ON
                    CXX_EXTENSIONS OFF
                    POSITION_INDEPENDENT_CODE ON

@@ -81,7 +81,7 @@ QString take(QPluginLoader &loader, Plugin &plugin)
 /// On the GUI thread, while the widgets that host the plug-in's page still exist.
 void shutDown(QPluginLoader &loader, Plugin &plugin)
 {
-    HostState::setShuttingDown(true);
+    HostCore::HostState::setShuttingDown(true);
     if (plugin.window) {
         plugin.window->UnSDKRegisterEvent(); // from here on nothing of the device calls in
         plugin.window->OnDestroy();
@@ -142,7 +142,8 @@ int main(int argc, char **argv)
         return fail(QLatin1String("usage: minimal-host [--once CODE] [PLUGIN-FILE]"));
     QWidget page;
     page.setFixedSize(600, 520);
-    HostState::setMainWindow(&page); // what the plug-in's frames and messages are centred over
+    HostCore::HostState::setMainWindow(
+        &page); // what the plug-in's frames and messages are centred over
     QPluginLoader loader(options.file);
     Plugin plugin;
     const QString problem = take(loader, plugin);

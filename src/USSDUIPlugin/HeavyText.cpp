@@ -3,11 +3,11 @@
 namespace
 {
 
-const int kNeverHeavy = 1000; // characters; a network sends at most 182
-const int kAlwaysHeavy = 10000;
-const int kMaxChanges = 500;
-const int kPiece = 990;   // a little less than what is never heavy: a pair may be added
-const int kLookBack = 50; // for a blank
+const int NEVER_HEAVY = 1000; // characters; a network sends at most 182
+const int ALWAYS_HEAVY = 10000;
+const int MAX_CHANGES = 500;
+const int PIECE = 990;    // a little less than what is never heavy: a pair may be added
+const int LOOK_BACK = 50; // for a blank
 
 /// Places where the next character belongs to another script, or is a mark on the one before it.
 bool isChange(QChar before, QChar after)
@@ -20,10 +20,10 @@ bool isChange(QChar before, QChar after)
 /// Where the piece that begins at `begin` ends: never between two halves of a pair.
 int endOfPiece(const QString &text, int begin)
 {
-    int end = begin + kPiece;
+    int end = begin + PIECE;
     if (end >= text.length())
         return text.length();
-    for (int i = end; i > end - kLookBack; --i) {
+    for (int i = end; i > end - LOOK_BACK; --i) {
         if (text.at(i - 1).isSpace())
             return i;
     }
@@ -39,14 +39,14 @@ namespace HeavyText
 
 bool isHeavy(const QString &text)
 {
-    if (text.length() <= kNeverHeavy)
+    if (text.length() <= NEVER_HEAVY)
         return false;
-    if (text.length() > kAlwaysHeavy)
+    if (text.length() > ALWAYS_HEAVY)
         return true;
     int changes = 0;
     for (int i = 1; i < text.length(); ++i)
         changes += isChange(text.at(i - 1), text.at(i)) ? 1 : 0;
-    return changes > kMaxChanges;
+    return changes > MAX_CHANGES;
 }
 
 QStringList pieces(const QString &text)

@@ -6,9 +6,9 @@
 namespace
 {
 
-const int kMaxTags = 60; // in one text; the longest reply of a network has 182 characters
-const int kMaxTables = 8;
-const int kMaxRules = 8;
+const int MAX_TAGS = 60; // in one text; the longest reply of a network has 182 characters
+const int MAX_TABLES = 8;
+const int MAX_RULES = 8;
 
 /// The name of the tag that the text behind a "<" begins with, in lower case.
 QString tagName(const QString &behind)
@@ -51,8 +51,8 @@ void addTag(const QString &behind, MarkupCost &cost)
 
 bool MarkupCost::isBearable(const MarkupCost &before) const
 {
-    return tags <= kMaxTags && before.tables + tables <= kMaxTables &&
-           before.rules + rules <= kMaxRules && !wide;
+    return tags <= MAX_TAGS && before.tables + tables <= MAX_TABLES &&
+           before.rules + rules <= MAX_RULES && !wide;
 }
 
 void MarkupCost::add(const MarkupCost &other)
@@ -69,7 +69,7 @@ MarkupCost markupCost(const QString &text)
     if (!text.contains(QLatin1Char('<')))
         return cost;
     cost.tags = text.count(QLatin1Char('<'));
-    if (cost.tags > kMaxTags)
+    if (cost.tags > MAX_TAGS)
         return cost; // too many, whatever they are
     cost.tags = 0;
     const QStringList parts = text.split(QLatin1Char('<'));

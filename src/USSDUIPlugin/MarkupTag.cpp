@@ -8,10 +8,10 @@
 namespace
 {
 
-const int kLongestTag = 10; // "blockquote"
+const int LONGEST_TAG = 10; // "blockquote"
 
 /// The tags that QTextDocument reads, sorted.
-const char *const kKnownTags[] = {
+const char *const KNOWN_TAGS[] = {
     "a",    "address", "b",     "big",   "blockquote", "body",  "br",   "caption", "center",
     "cite", "code",    "dd",    "dfn",   "div",        "dl",    "dt",   "em",      "font",
     "h1",   "h2",      "h3",    "h4",    "h5",         "h6",    "head", "hr",      "html",
@@ -23,9 +23,9 @@ const char *const kKnownTags[] = {
 bool isKnown(const QString &name)
 {
     const QByteArray latin = name.toLatin1();
-    const char *const *end = std::end(kKnownTags);
+    const char *const *end = std::end(KNOWN_TAGS);
     const char *const *found =
-        std::lower_bound(std::begin(kKnownTags), end, latin,
+        std::lower_bound(std::begin(KNOWN_TAGS), end, latin,
                          [](const char *tag, const QByteArray &wanted) { return tag < wanted; });
     return found != end && latin == *found;
 }
@@ -58,7 +58,7 @@ int nameBegin(const QString &text, int bracket)
 int nameEnd(const QString &text, int begin)
 {
     int end = begin;
-    while (end < text.length() && end - begin <= kLongestTag && !endsName(text, end))
+    while (end < text.length() && end - begin <= LONGEST_TAG && !endsName(text, end))
         ++end;
     return end;
 }

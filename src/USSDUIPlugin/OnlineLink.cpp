@@ -5,11 +5,11 @@
 namespace
 {
 
-const int kSchemeLength = 4;
+const int SCHEME_LENGTH = 4;
 
 bool beginsWithScheme(const QString &lowerCase)
 {
-    return lowerCase.length() > kSchemeLength && lowerCase.startsWith(QLatin1String("http"));
+    return lowerCase.length() > SCHEME_LENGTH && lowerCase.startsWith(QLatin1String("http"));
 }
 
 } // namespace

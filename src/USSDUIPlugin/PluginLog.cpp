@@ -10,13 +10,13 @@
 namespace
 {
 
-const int kUsualLength = 256; // bytes; longer lines take a second piece of memory
-const int kStampLength = 64;  // hh:mm:ss:zzz, whose digits may be of any script
+const int USUAL_LENGTH = 256; // bytes; longer lines take a second piece of memory
+const int STAMP_LENGTH = 64;  // hh:mm:ss:zzz, whose digits may be of any script
 
 /// What the time of day looked like in the millisecond of the last line.
 struct Stamp {
     qint64 millisecond;
-    char text[kStampLength];
+    char text[STAMP_LENGTH];
 };
 
 // Without a destructor, which would keep the library loaded until the last thread has ended.
@@ -33,7 +33,7 @@ void appendFormatted(QByteArray &line, const char *format, va_list arguments)
     va_list again;
     va_copy(again, arguments);
     const int start = line.size();
-    line.resize(qMax(kUsualLength, start));
+    line.resize(qMax(USUAL_LENGTH, start));
     const int room = line.size() - start;
     const int length = qMax(
         0, std::vsnprintf(line.data() + start, static_cast<size_t>(room) + 1, format, arguments));
@@ -56,7 +56,7 @@ QByteArray composed(const char *stamp, const char *source, const char *function,
                     va_list arguments)
 {
     QByteArray text;
-    text.reserve(kUsualLength);
+    text.reserve(USUAL_LENGTH);
     if (stamp)
         text.append(stamp).append(": ");
     text.append(source).append(": ").append(function);
@@ -76,7 +76,7 @@ const char *timeOfDay()
     const qint64 now = millisecondsNow();
     if (lastStamp.millisecond != now) {
         const QString text = QTime::currentTime().toString(QLatin1String("hh:mm:ss:zzz"));
-        qstrncpy(lastStamp.text, text.toLocal8Bit().constData(), kStampLength);
+        qstrncpy(lastStamp.text, text.toLocal8Bit().constData(), STAMP_LENGTH);
         lastStamp.millisecond = now;
     }
     return lastStamp.text;

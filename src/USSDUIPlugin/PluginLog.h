@@ -7,7 +7,7 @@
  * The plug-in's log lines. A line is "time: source path: function" and a tail, which is given with
  * its leading blank or colon. Each .cpp file names itself once:
  *
- *     static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+ *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
  * A family of files that share a class names the family's first file, which is what a reader of the
  * log looks for. The rest of the code writes lines by the macros below alone. Built with
@@ -64,26 +64,26 @@ private:
 
 #ifndef USSD_NO_LOG_LINES
 #define USSD_IF_LOGGING(call) (call)
-#define USSD_LOG_SCOPE() PluginLog::Scope logScope(kLogSource, __func__)
+#define USSD_LOG_SCOPE() PluginLog::Scope logScope(LOG_SOURCE, __func__)
 #define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
 #define USSD_LOG_NO_EXIT() logScope.leaveSilently()
 #else
 #define USSD_IF_LOGGING(call) (false ? (call) : static_cast<void>(0))
-#define USSD_LOG_SCOPE() static_cast<void>(kLogSource)
+#define USSD_LOG_SCOPE() static_cast<void>(LOG_SOURCE)
 #define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
-#define USSD_LOG_NO_EXIT() static_cast<void>(kLogSource)
+#define USSD_LOG_NO_EXIT() static_cast<void>(LOG_SOURCE)
 #endif
 
 #define USSD_LOG_LINE(type, function, ...)                                                         \
-    USSD_IF_LOGGING(PluginLog::line(type, kLogSource, function, __VA_ARGS__))
+    USSD_IF_LOGGING(PluginLog::line(type, LOG_SOURCE, function, __VA_ARGS__))
 #define USSD_LOG_UNTIMED_LINE(type, function, ...)                                                 \
-    USSD_IF_LOGGING(PluginLog::untimed(type, kLogSource, function, __VA_ARGS__))
+    USSD_IF_LOGGING(PluginLog::untimed(type, LOG_SOURCE, function, __VA_ARGS__))
 
 #define USSD_LOG(...) USSD_LOG_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_IMPORTANT(...)                                                                    \
-    USSD_IF_LOGGING(PluginLog::important(kLogSource, __func__, __VA_ARGS__))
+    USSD_IF_LOGGING(PluginLog::important(LOG_SOURCE, __func__, __VA_ARGS__))
 #define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
 

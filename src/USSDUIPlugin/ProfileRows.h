@@ -12,7 +12,7 @@ namespace ProfileRows
 
 enum Column { NameColumn = 0, CodeColumn = 1, ColumnCount = 2 };
 
-const int kRows = 100; // profiles beyond it are not shown
+const int ROWS = 100; // profiles beyond it are not shown
 
 /** The two cells of a row. */
 struct Row {

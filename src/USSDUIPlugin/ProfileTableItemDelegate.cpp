@@ -10,7 +10,7 @@
 namespace
 {
 
-const int kMaxCellText = 40;
+const int MAX_CELL_TEXT = 40;
 
 QString textOf(const QModelIndex &index)
 {
@@ -27,7 +27,7 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
     // A longer text comes from the file. The editor must not cut it.
-    edit->setMaxLength(qMax(kMaxCellText, int(textOf(index).length())));
+    edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
     edit->setFrame(false); // the rows are low
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);

@@ -12,12 +12,12 @@ namespace
 {
 
 // What a label shows well; no network sends more.
-const int kLabelCharacters = 600;
-const int kLabelLines = 12;
-const int kLabelWord = 50;
+const int LABEL_CHARACTERS = 600;
+const int LABEL_LINES = 12;
+const int LABEL_WORD = 50;
 
-const int kViewWidth = 420; // pixels
-const int kViewHeight = 220;
+const int VIEW_WIDTH = 420; // pixels
+const int VIEW_HEIGHT = 220;
 
 int longestWord(const QString &text)
 {
@@ -32,8 +32,8 @@ int longestWord(const QString &text)
 
 bool fitsLabel(const QString &text)
 {
-    return text.length() <= kLabelCharacters && text.count(QLatin1Char('\n')) < kLabelLines &&
-           longestWord(text) <= kLabelWord;
+    return text.length() <= LABEL_CHARACTERS && text.count(QLatin1Char('\n')) < LABEL_LINES &&
+           longestWord(text) <= LABEL_WORD;
 }
 
 QPlainTextEdit *createView(QWidget *parent, const QString &text)
@@ -42,7 +42,7 @@ QPlainTextEdit *createView(QWidget *parent, const QString &text)
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    view->setFixedSize(kViewWidth, kViewHeight);
+    view->setFixedSize(VIEW_WIDTH, VIEW_HEIGHT);
     view->setPlainText(
         HeavyText::isHeavy(text) ? HeavyText::pieces(text).join(QString(QLatin1Char('\n'))) : text);
     return view;
@@ -54,7 +54,7 @@ void showInView(QMessageBox *box, const QString &text)
     QGridLayout *grid = qobject_cast<QGridLayout *>(box->layout());
     QLabel *label = box->findChild<QLabel *>(QLatin1String("qt_msgbox_label"));
     if (!grid || !label) {
-        box->setText(text.left(kLabelCharacters));
+        box->setText(text.left(LABEL_CHARACTERS));
         return;
     }
     int row = 0, column = 0, rows = 0, columns = 0;

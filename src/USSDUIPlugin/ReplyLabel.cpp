@@ -9,11 +9,11 @@ namespace
 {
 
 // LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING: isolates are younger than Qt 4.
-const ushort kEmbed = 0x202A;
-const ushort kPop = 0x202C;
+const ushort EMBED = 0x202A;
+const ushort POP = 0x202C;
 
 /// More than a label has room for; what is behind them would be measured each time it is painted.
-const int kMostLetters = 2000;
+const int MOST_LETTERS = 2000;
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)
 {
@@ -61,7 +61,7 @@ QSize ReplyLabel::minimumSizeHint() const
 QString ReplyLabel::withCodesMarked(const QString &text)
 {
     QString marked = text;
-    const QString around = QChar(kEmbed) + QString::fromLatin1("\\1") + QChar(kPop);
+    const QString around = QChar(EMBED) + QString::fromLatin1("\\1") + QChar(POP);
     return marked.replace(QRegExp(QLatin1String("([*#+][*#0-9]+)")), around);
 }
 
@@ -71,7 +71,7 @@ void ReplyLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     drawFrame(&painter);
     painter.setPen(palette().color(foregroundRole()));
-    QString shown = withCodesMarked(text().left(kMostLetters));
+    QString shown = withCodesMarked(text().left(MOST_LETTERS));
     shown.replace(QLatin1Char('\n'), QChar::LineSeparator);
     QTextLayout layout(shown, font(), this);
     layout.setTextOption(textOption(*this, text().isRightToLeft()));

@@ -41,7 +41,7 @@ QString textFromUnits(const unsigned short *units)
     if (!units)
         return QString();
     int length = 0;
-    while (length < kMostUnits && units[length] != 0)
+    while (length < MOST_UNITS && units[length] != 0)
         ++length;
     // Unit by unit: a byte-order mark is text here, and nothing is to be swapped or dropped.
     return QString(reinterpret_cast<const QChar *>(units), length);

@@ -19,7 +19,7 @@ int commandBytes(const QString &command);
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
 /// A text ends there at the latest, in UTF-16 units: its closing zero may have been forgotten.
-const int kMostUnits = 1024 * 1024;
+const int MOST_UNITS = 1024 * 1024;
 
 /// Text up to the closing zero unit; empty for null.
 QString textFromUnits(const unsigned short *units);

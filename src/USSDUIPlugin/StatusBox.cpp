@@ -16,13 +16,13 @@
 namespace
 {
 
-const int kWidth = 300; // pixels; the link has as many
+const int WIDTH = 300; // pixels; the link has as many
 
-const char *const kOwnKeys[] = {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"};
+const char *const OWN_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"};
 
 QString ownKeyOf(const QString &text)
 {
-    for (const char *key : kOwnKeys) {
+    for (const char *key : OWN_KEYS) {
         if (text == pluginText(QLatin1String(key)))
             return QLatin1String(key);
     }
@@ -94,7 +94,7 @@ void StatusBox::retranslate()
 
 QSize StatusBox::sizeHint() const
 {
-    return QSize(kWidth, heightOfLines());
+    return QSize(WIDTH, heightOfLines());
 }
 
 QSize StatusBox::minimumSizeHint() const

@@ -8,7 +8,7 @@
 namespace
 {
 
-const int kUnitsInAPoint = 20;
+const int UNITS_IN_A_POINT = 20;
 
 QString hexByte(int value)
 {
@@ -59,7 +59,7 @@ QString paragraph(Transcript::Direction direction, const Char &look, bool rightT
                     : "<p style=\" margin-top:0px; margin-bottom:0px;\"><span style=\"color : #");
     markup += hexByte(look.red) + hexByte(look.green) + hexByte(look.blue);
     markup += QLatin1String(";\" style=\"font-size : ");
-    markup += QString::number(look.yHeight / kUnitsInAPoint);
+    markup += QString::number(look.yHeight / UNITS_IN_A_POINT);
     markup += QLatin1String("pt;\">") + content;
     if (direction == Transcript::Received)
         markup += lineBreak;

@@ -20,16 +20,16 @@
 #include "tksv.h"
 #include "UssdCode.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 
 namespace
 {
 
-const int kReturnInMessageBox = 1; // of the charge's return styles
-const int kLinkWidth = 300;        // pixels
-const int kBalanceLines = 3;
-const int kActivateLines = 3;
-const int kMSISDNLines = 2;
+const int RETURN_IN_MESSAGE_BOX = 1; // of the charge's return styles
+const int LINK_WIDTH = 300;          // pixels
+const int BALANCE_LINES = 3;
+const int ACTIVATE_LINES = 3;
+const int MSISDN_LINES = 2;
 
 /// A named child of the dialog; null when there is no memory for it.
 template <typename Widget>
@@ -209,9 +209,9 @@ void USSDDlg::initWidgets()
 
 void USSDDlg::initStatusBoxes()
 {
-    m_pBalanceStatusTextEdit->setLines(kBalanceLines);
-    m_pActivateStatusTextEdit->setLines(kActivateLines);
-    m_pMSISDNStatusTextEdit->setLines(kMSISDNLines);
+    m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
+    m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
+    m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
     // Stays when no command can be sent at all, since nobody is told of that one's failure.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -249,7 +249,7 @@ void USSDDlg::limitChargeEdit()
 void USSDDlg::initOnlineChargeComponent()
 {
     const QString shown =
-        QApplication::fontMetrics().elidedText(m_strOnlineAddress, Qt::ElideRight, kLinkWidth);
+        QApplication::fontMetrics().elidedText(m_strOnlineAddress, Qt::ElideRight, LINK_WIDTH);
     m_pOnlineURL->setTextFormat(Qt::RichText);
     m_pOnlineURL->setTextInteractionFlags(Qt::TextBrowserInteraction);
     m_pOnlineURL->setOpenExternalLinks(true);
@@ -499,7 +499,7 @@ void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
     enableDisableButton(component, true);
-    if (component == COMPONENT_CHARGE && isSent && chargeReturnStyle() == kReturnInMessageBox)
+    if (component == COMPONENT_CHARGE && isSent && chargeReturnStyle() == RETURN_IN_MESSAGE_BOX)
         return;
     OnResponseReceived(component, text("USSD_CODE_WAITTING"));
 }
@@ -538,7 +538,7 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
-    if (chargeReturnStyle() == kReturnInMessageBox) {
+    if (chargeReturnStyle() == RETURN_IN_MESSAGE_BOX) {
         m_listBoxReplies << text;
         enableDisableButton(COMPONENT_CHARGE, true);
         QMetaObject::invokeMethod(this, "openReplyBox", Qt::QueuedConnection);

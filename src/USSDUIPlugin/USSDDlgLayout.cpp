@@ -16,27 +16,27 @@
 #include "PluginLog.h"
 #include "StatusBox.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDDlg.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 
 namespace
 {
 
-const int kLabelColumn = 0;
-const int kFieldColumn = 1;
-const int kButtonColumn = 2;
-const int kColumns = 3;
+const int LABEL_COLUMN = 0;
+const int FIELD_COLUMN = 1;
+const int BUTTON_COLUMN = 2;
+const int COLUMNS = 3;
 
-const int kHorizontalSpacing = 6;
-const int kLabelWidth = 80;
-const int kFieldWidth = 230;
-const int kRowHeight = 20;
-const int kMargin = 16;             // around all of it
-const int kGap = 4;                 // between what belongs together
-const int kAboveClose = 12;         // between the components and the close button
-const int kRowsOf[] = {2, 3, 1, 1}; // by component
+const int HORIZONTAL_SPACING = 6;
+const int LABEL_WIDTH = 80;
+const int FIELD_WIDTH = 230;
+const int ROW_HEIGHT = 20;
+const int MARGIN = 16;              // around all of it
+const int GAP = 4;                  // between what belongs together
+const int ABOVE_CLOSE = 12;         // between the components and the close button
+const int ROWS_OF[] = {2, 3, 1, 1}; // by component
 
-const _COMPONENT kComponents[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_ONLINE_CHARGE,
-                                  COMPONENT_MSISDN};
+const _COMPONENT COMPONENTS[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_ONLINE_CHARGE,
+                                 COMPONENT_MSISDN};
 
 } // namespace
 
@@ -75,7 +75,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     hideComponents();
     // In increasing order; of two components with the same place, the later one gets it.
     QMap<int, _COMPONENT> places;
-    for (_COMPONENT component : kComponents) {
+    for (_COMPONENT component : COMPONENTS) {
         if (isShown(component))
             places.insert(m_pLogic->GetComponentAttrInt(m_paidType, component, ATTR_POS),
                           component);
@@ -93,12 +93,12 @@ void USSDDlg::findPosAndAddElements(int &row)
 
 void USSDDlg::setUpGrid()
 {
-    m_pGrid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    m_pGrid->setHorizontalSpacing(kHorizontalSpacing);
+    m_pGrid->setContentsMargins(MARGIN, MARGIN, MARGIN, MARGIN);
+    m_pGrid->setHorizontalSpacing(HORIZONTAL_SPACING);
     m_pGrid->setVerticalSpacing(0);
-    m_pGrid->setColumnMinimumWidth(kLabelColumn, kLabelWidth);
-    m_pGrid->setColumnMinimumWidth(kFieldColumn, kFieldWidth);
-    m_pGrid->setColumnStretch(kFieldColumn, 1);
+    m_pGrid->setColumnMinimumWidth(LABEL_COLUMN, LABEL_WIDTH);
+    m_pGrid->setColumnMinimumWidth(FIELD_COLUMN, FIELD_WIDTH);
+    m_pGrid->setColumnStretch(FIELD_COLUMN, 1);
 }
 
 void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
@@ -111,7 +111,7 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
             m_listFreeLines << line;
     }
     for (int row = 0; row < rows; ++row)
-        m_pGrid->setRowMinimumHeight(row, kRowHeight);
+        m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
 /// Adds what the component takes, with its separator when another one stands above.
@@ -119,7 +119,7 @@ void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
         ++rows;
-    rows += kRowsOf[component];
+    rows += ROWS_OF[component];
 }
 
 void USSDDlg::addComponentElements(_COMPONENT component, int &row, bool &isFirst)
@@ -148,12 +148,12 @@ void USSDDlg::addBalanceElements(int &row)
         USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
-    place(m_pBalanceLabel, row, kLabelColumn);
-    place(m_pBalanceStatusTextEdit, row, kFieldColumn);
-    place(m_pBalanceUpdateButton, row, kButtonColumn);
-    placeInBox(m_pBalanceInfoLabel, kGap, row + 1, 1, kColumns - kFieldColumn);
+    place(m_pBalanceLabel, row, LABEL_COLUMN);
+    place(m_pBalanceStatusTextEdit, row, FIELD_COLUMN);
+    place(m_pBalanceUpdateButton, row, BUTTON_COLUMN);
+    placeInBox(m_pBalanceInfoLabel, GAP, row + 1, 1, COLUMNS - FIELD_COLUMN);
     m_listTabOrder << m_pBalanceStatusTextEdit << m_pBalanceUpdateButton;
-    row += kRowsOf[COMPONENT_BALANCE];
+    row += ROWS_OF[COMPONENT_BALANCE];
 }
 
 void USSDDlg::addChargeElements(int &row)
@@ -163,12 +163,12 @@ void USSDDlg::addChargeElements(int &row)
         USSD_LOG_EXIT(" Fail Exit: Logic/Grid is NULL");
         return;
     }
-    place(m_pChargeLabel, row, kLabelColumn);
-    place(m_pChargeEdit, row, kFieldColumn);
-    place(m_pChargeActivateButton, row, kButtonColumn);
-    placeInBox(m_pActivateStatusTextEdit, kGap, row + 1, kRowsOf[COMPONENT_CHARGE] - 1, 1);
+    place(m_pChargeLabel, row, LABEL_COLUMN);
+    place(m_pChargeEdit, row, FIELD_COLUMN);
+    place(m_pChargeActivateButton, row, BUTTON_COLUMN);
+    placeInBox(m_pActivateStatusTextEdit, GAP, row + 1, ROWS_OF[COMPONENT_CHARGE] - 1, 1);
     m_listTabOrder << m_pChargeEdit << m_pChargeActivateButton << m_pActivateStatusTextEdit;
-    row += kRowsOf[COMPONENT_CHARGE];
+    row += ROWS_OF[COMPONENT_CHARGE];
 }
 
 void USSDDlg::addOnlineChargeElements(int &row)
@@ -178,10 +178,10 @@ void USSDDlg::addOnlineChargeElements(int &row)
         USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
-    place(m_pOnlineChargeLabel, row, kLabelColumn);
-    placeInBox(m_pOnlineURL, 0, row, 1, kColumns - kFieldColumn);
+    place(m_pOnlineChargeLabel, row, LABEL_COLUMN);
+    placeInBox(m_pOnlineURL, 0, row, 1, COLUMNS - FIELD_COLUMN);
     m_listTabOrder << m_pOnlineURL;
-    row += kRowsOf[COMPONENT_ONLINE_CHARGE];
+    row += ROWS_OF[COMPONENT_ONLINE_CHARGE];
 }
 
 void USSDDlg::addMSISDNElements(int &row)
@@ -191,11 +191,11 @@ void USSDDlg::addMSISDNElements(int &row)
         USSD_LOG_EXIT(" Fail Exit: Grid is NULL");
         return;
     }
-    place(m_pMSISDNLabel, row, kLabelColumn);
-    place(m_pMSISDNStatusTextEdit, row, kFieldColumn);
-    place(m_pMSISDNUpdateButton, row, kButtonColumn);
+    place(m_pMSISDNLabel, row, LABEL_COLUMN);
+    place(m_pMSISDNStatusTextEdit, row, FIELD_COLUMN);
+    place(m_pMSISDNUpdateButton, row, BUTTON_COLUMN);
     m_listTabOrder << m_pMSISDNStatusTextEdit << m_pMSISDNUpdateButton;
-    row += kRowsOf[COMPONENT_MSISDN];
+    row += ROWS_OF[COMPONENT_MSISDN];
 }
 
 /// Own number has no line of its own, so there is always one for each gap: that of the component
@@ -203,7 +203,7 @@ void USSDDlg::addMSISDNElements(int &row)
 void USSDDlg::addSeparator(int &row)
 {
     if (!m_listFreeLines.isEmpty())
-        place(m_listFreeLines.takeFirst(), row, kLabelColumn, kColumns);
+        place(m_listFreeLines.takeFirst(), row, LABEL_COLUMN, COLUMNS);
     ++row;
 }
 
@@ -211,10 +211,10 @@ void USSDDlg::addCloseButton(int row)
 {
     QHBoxLayout *buttons = new QHBoxLayout;
     buttons->setObjectName(QLatin1String("USSDUIPlugin_CloseBtn_Layout"));
-    buttons->setContentsMargins(0, kAboveClose, 0, 0);
+    buttons->setContentsMargins(0, ABOVE_CLOSE, 0, 0);
     buttons->addStretch(1);
     buttons->addWidget(m_pCloseButton);
-    m_pGrid->addLayout(buttons, row, kLabelColumn, 1, kColumns, Qt::AlignBottom);
+    m_pGrid->addLayout(buttons, row, LABEL_COLUMN, 1, COLUMNS, Qt::AlignBottom);
     m_pGrid->setRowStretch(row, 1);
     // An embedded page has no window of its own that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
@@ -235,7 +235,7 @@ void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int column
     box->setContentsMargins(0, gap, 0, 0);
     box->addWidget(widget, widget == m_pActivateStatusTextEdit ? 1 : 0);
     box->addStretch();
-    m_pGrid->addLayout(box, row, kFieldColumn, rows, columns);
+    m_pGrid->addLayout(box, row, FIELD_COLUMN, rows, columns);
     widget->show();
 }
 

@@ -17,7 +17,7 @@
 #include "tksv.h"
 #include "XmlName.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
 namespace
 {

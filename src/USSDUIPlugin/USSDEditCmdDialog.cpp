@@ -16,15 +16,15 @@
 #include "ProfileFile.h"
 #include "ProfileRows.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
 namespace
 {
 
-const int kColumnWidth = 177;
-const int kRowHeight = 19;
-const int kTableHeight = 310;
-const int kPlainFrame = 1;
+const int COLUMN_WIDTH = 177;
+const int ROW_HEIGHT = 19;
+const int TABLE_HEIGHT = 310;
+const int PLAIN_FRAME = 1;
 
 QTableWidgetItem *createItem(const QString &text, const QColor &background)
 {
@@ -46,7 +46,7 @@ void USSDEditCmd::InitDialog(QWidget *parent)
 {
     USSD_LOG_SCOPE();
     m_pContainer = new QWidget;
-    m_pFrame = new ExtendDialog(parent, Qt::WindowCloseButtonHint, kPlainFrame);
+    m_pFrame = new ExtendDialog(parent, Qt::WindowCloseButtonHint, PLAIN_FRAME);
     m_pFrame->AddMainWidget(m_pContainer);
     if (!createWidgets()) {
         USSD_LOG_EXIT(" Exit: either of the objects creation failed");
@@ -68,7 +68,7 @@ void USSDEditCmd::InitDialog(QWidget *parent)
 bool USSDEditCmd::createWidgets()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
-    m_pTable = new ProfileTableWidget(ProfileRows::kRows, ProfileRows::ColumnCount, m_pContainer);
+    m_pTable = new ProfileTableWidget(ProfileRows::ROWS, ProfileRows::ColumnCount, m_pContainer);
     m_pInfoLabel = new QLabel(m_pContainer);
     m_pSaveButton = new QPushButton(m_pContainer);
     m_pCancelButton = new QPushButton(m_pContainer);
@@ -82,7 +82,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_InfoLabel"));
     m_pSaveButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"));
     m_pCancelButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_CancelButton"));
-    m_pTable->setFixedHeight(kTableHeight);
+    m_pTable->setFixedHeight(TABLE_HEIGHT);
     m_pContainer->setWindowModality(Qt::WindowModal);
     m_pContainer->setFixedSize(420, 440);
     m_pInfoLabel->setTextFormat(Qt::PlainText);
@@ -146,9 +146,9 @@ void USSDEditCmd::initTable()
 {
     USSD_LOG_SCOPE();
     clearTable();
-    m_pTable->verticalHeader()->setMinimumSectionSize(kRowHeight);
+    m_pTable->verticalHeader()->setMinimumSectionSize(ROW_HEIGHT);
     for (int row = 0; row < m_pTable->rowCount(); ++row)
-        m_pTable->setRowHeight(row, kRowHeight);
+        m_pTable->setRowHeight(row, ROW_HEIGHT);
     m_pTable->setTextElideMode(Qt::ElideRight);
     m_pTable->setWordWrap(false);
     m_pTable->setMouseTracking(true);
@@ -175,7 +175,7 @@ void USSDEditCmd::initHeader()
     header->setTextElideMode(Qt::ElideRight);
     header->setStretchLastSection(false);
     for (int column = 0; column < ProfileRows::ColumnCount; ++column)
-        m_pTable->setColumnWidth(column, kColumnWidth);
+        m_pTable->setColumnWidth(column, COLUMN_WIDTH);
 }
 
 void USSDEditCmd::showProfile(int row, const USSDProfile &profile)

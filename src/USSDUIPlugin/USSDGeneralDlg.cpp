@@ -19,15 +19,15 @@
 #include "USSDEditCmd.h"
 #include "USSDLogic.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
 namespace
 {
 
-const int kModalWidth = 588;
-const int kModalHeight = 465;
-const int kMaxComboCode = 40;
-const int kMaxPaymentNumber = 20;
+const int MODAL_WIDTH = 588;
+const int MODAL_HEIGHT = 465;
+const int MAX_COMBO_CODE = 40;
+const int MAX_PAYMENT_NUMBER = 20;
 
 QLineEdit *createCodeEdit(QWidget *parent)
 {
@@ -184,14 +184,14 @@ void USSDGeneralDlg::initCombo()
     // The combo is hidden: whoever gives it the focus means the field that can be seen.
     m_pProfilesCombo->setFocusProxy(m_pUSSDCmdEdit);
     if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
-        edit->setMaxLength(kMaxComboCode);
+        edit->setMaxLength(MAX_COMBO_CODE);
         USSD_LOG(" max length is set for combo");
     }
 }
 
 void USSDGeneralDlg::initFixedSizes()
 {
-    setFixedSize(kModalWidth, kModalHeight);
+    setFixedSize(MODAL_WIDTH, MODAL_HEIGHT);
     m_pPromptLabel->setMinimumHeight(32);
     m_pHistoryView->setMinimumHeight(100);
     m_pHistoryView->setMaximumHeight(220);
@@ -377,7 +377,7 @@ void USSDGeneralDlg::OnPaymentEdit()
         m_pPaymentEdit->setText(m_strLastValidPayment);
         --cursor;
     }
-    m_pPaymentEdit->setMaxLength(kMaxPaymentNumber); // moves the cursor to the end
+    m_pPaymentEdit->setMaxLength(MAX_PAYMENT_NUMBER); // moves the cursor to the end
     m_pPaymentEdit->setCursorPosition(cursor);
     changePayBtnsStatus(!m_pPaymentEdit->text().isEmpty());
 }

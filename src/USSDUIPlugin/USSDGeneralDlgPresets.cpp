@@ -21,24 +21,24 @@
 #include "UssdCode.h"
 #include "USSDEditCmd.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
 namespace
 {
 
 // The slots of the preset buttons: two boxes of four, a box with the payment field, two below.
-const int kSlots = 11;
-const int kSlotsInBox = 4;
-const int kPaymentFieldSlot = 8;
-const int kFirstFreeSlot = 9;
-const int kRightColumn = 2; // where transcript and entry stand, five columns wide
-const int kRightColumns = 5;
-const int kPromptRow = 8;
-const int kRowBelowPayment = 11; // the box with the payment field ends above it
-const int kBoxSpacing = 4;       // the fixed window holds all its rows only when they stand close
+const int SLOTS = 11;
+const int SLOTS_IN_BOX = 4;
+const int PAYMENT_FIELD_SLOT = 8;
+const int FIRST_FREE_SLOT = 9;
+const int RIGHT_COLUMN = 2; // where transcript and entry stand, five columns wide
+const int RIGHT_COLUMNS = 5;
+const int PROMPT_ROW = 8;
+const int ROW_BELOW_PAYMENT = 11; // the box with the payment field ends above it
+const int BOX_SPACING = 4;        // the fixed window holds all its rows only when they stand close
 
-const int kElideWidth = 127; // whatever the button's width is
-const int kPayButtons = 2;   // the last ones
+const int ELIDE_WIDTH = 127; // whatever the button's width is
+const int PAY_BUTTONS = 2;   // the last ones
 
 /// The width a text wants with some room around it, within limits.
 int paddedWidth(int textWidth, int minimum, int maximum)
@@ -114,7 +114,7 @@ void USSDGeneralDlg::changePayBtnsStatus(bool enable)
 
 bool USSDGeneralDlg::isPayBtn(int index) const
 {
-    return index >= m_pListPreBtns->count() - kPayButtons;
+    return index >= m_pListPreBtns->count() - PAY_BUTTONS;
 }
 
 int USSDGeneralDlg::indexOfPreBtn(const QObject *button) const
@@ -178,7 +178,7 @@ void USSDGeneralDlg::updatePreBtnWidth(int width)
     for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
         QPushButton *button = m_pListPreBtns->at(i).first;
         button->setFixedWidth(width);
-        CommonUtils::setElidedTextForWidgetText<QPushButton>(button, kElideWidth, Qt::ElideRight);
+        CommonUtils::setElidedTextForWidgetText<QPushButton>(button, ELIDE_WIDTH, Qt::ElideRight);
         keepToolTipPlain(button);
     }
 }
@@ -270,12 +270,12 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
         USSD_LOG_EXIT(" Fail Exit: Logic/Grid is NULL");
         return;
     }
-    for (int slot = 0; slot < kSlots; ++slot)
+    for (int slot = 0; slot < SLOTS; ++slot)
         addPreBtnOfSlot(slot, row);
     const int rowBelowButtons = row;
     row = 0;
     addFixedElements(row);
-    addBottomButtons(qMax(rowBelowButtons, kRowBelowPayment));
+    addBottomButtons(qMax(rowBelowButtons, ROW_BELOW_PAYMENT));
     setLayout(m_pMainGrid);
     resetWidgetsWidth4DyncBtnArea();
     changePayBtnsStatus(false); // the payment field is empty
@@ -286,22 +286,22 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
-    if (slot >= kFirstFreeSlot) {
+    if (slot >= FIRST_FREE_SLOT) {
         if (button)
-            m_pMainGrid->addWidget(button, row++, kRightColumn, 1, kRightColumns);
-        if (slot == kFirstFreeSlot)
+            m_pMainGrid->addWidget(button, row++, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
+        if (slot == FIRST_FREE_SLOT)
             ++row;
         return;
     }
-    QVBoxLayout *box = m_pPreBtnsBox[slot / kSlotsInBox];
+    QVBoxLayout *box = m_pPreBtnsBox[slot / SLOTS_IN_BOX];
     if (button)
         box->addWidget(button);
-    if (slot == kPaymentFieldSlot) {
+    if (slot == PAYMENT_FIELD_SLOT) {
         box->addWidget(m_pInfoNumLabel);
         box->addWidget(m_pPaymentEdit);
         m_pMainGrid->addLayout(box, row, 0, 3, 2);
         row = 9;
-    } else if (slot % kSlotsInBox == kSlotsInBox - 1) {
+    } else if (slot % SLOTS_IN_BOX == SLOTS_IN_BOX - 1) {
         m_pMainGrid->addLayout(box, row, 0, 4, 1, Qt::AlignTop);
         row = slot + 1;
     }
@@ -323,30 +323,30 @@ QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 
 void USSDGeneralDlg::addFixedElements(int row)
 {
-    m_pMainGrid->setVerticalSpacing(kBoxSpacing);
-    m_pPreBtnsBox[0]->setSpacing(kBoxSpacing);
+    m_pMainGrid->setVerticalSpacing(BOX_SPACING);
+    m_pPreBtnsBox[0]->setSpacing(BOX_SPACING);
     m_pPreBtnsBox[1]->setSpacing(0);
-    m_pPreBtnsBox[2]->setSpacing(kBoxSpacing);
-    m_pMainGrid->addWidget(m_pHistoryView, row, kRightColumn, 6, kRightColumns);
+    m_pPreBtnsBox[2]->setSpacing(BOX_SPACING);
+    m_pMainGrid->addWidget(m_pHistoryView, row, RIGHT_COLUMN, 6, RIGHT_COLUMNS);
     row += 6;
-    m_pMainGrid->addWidget(m_pInfoLabel, row, kRightColumn, 1, kRightColumns);
+    m_pMainGrid->addWidget(m_pInfoLabel, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     ++row;
-    m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, kRightColumn, 1, kRightColumns - 1);
-    m_pMainGrid->addWidget(m_pSendButton, row, kRightColumn + kRightColumns - 1, Qt::AlignRight);
+    m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
+    m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
     // The prompt keeps a place of two lines, so that nothing moves when it comes and goes.
-    m_pMainGrid->addWidget(m_pPromptLabel, kPromptRow, kRightColumn, 1, kRightColumns);
-    m_pMainGrid->setRowMinimumHeight(kPromptRow, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
+    m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
+    m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
 
 void USSDGeneralDlg::addBottomButtons(int row)
 {
     QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->setSpacing(2 * kBoxSpacing);
+    buttons->setSpacing(2 * BOX_SPACING);
     buttons->addWidget(m_pDescriptionLabel, 1);
     buttons->addWidget(m_pClearButton);
     buttons->addWidget(m_pEditButton);
     buttons->addWidget(m_pCloseButton);
-    m_pMainGrid->addLayout(buttons, row, 0, 1, kRightColumn + kRightColumns);
+    m_pMainGrid->addLayout(buttons, row, 0, 1, RIGHT_COLUMN + RIGHT_COLUMNS);
     m_pMainGrid->setRowStretch(0, 1);
 }
 
@@ -358,7 +358,7 @@ void USSDGeneralDlg::initTabOrder()
     for (int i = 0; i < m_pListPreBtns->count() && !isPayBtn(i); ++i)
         order << m_pListPreBtns->at(i).first;
     order << m_pPaymentEdit;
-    for (int i = qMax(0, m_pListPreBtns->count() - kPayButtons); i < m_pListPreBtns->count(); ++i)
+    for (int i = qMax(0, m_pListPreBtns->count() - PAY_BUTTONS); i < m_pListPreBtns->count(); ++i)
         order << m_pListPreBtns->at(i).first;
     order << m_pClearButton << m_pEditButton << m_pCloseButton << m_pHistoryView;
     for (int i = 0; i < order.count(); ++i) {

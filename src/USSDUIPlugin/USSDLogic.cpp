@@ -10,14 +10,14 @@
 #include "SdkRecords.h"
 #include "tksv.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
 namespace
 {
 
-const int kSent = 0;
-const int kFailed = 1;
-const int kNotTheHead = 2; // inside only
+const int SENT = 0;
+const int FAILED = 1;
+const int NOT_THE_HEAD = 2; // inside only
 
 /// Limits when nobody set others: 30 s for a reply, shorter or longer by $USSD_REPLY_TIMEOUT_MS.
 ReplyTimes shippedReplyTimes()
@@ -98,22 +98,22 @@ void USSDLogic::Destroy()
 }
 
 // These two log under the constructor's name, of which they are a part.
-static const char kConstructor[] = "USSDLogic";
+static const char CONSTRUCTOR[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
 {
-    USSD_LOG_AS(kConstructor, ": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
+    USSD_LOG_AS(CONSTRUCTOR, ": Calling TKSV_DevSrv_RegisterDevInitEventCallback ()");
     const long result = TKSV_DevSrv_RegisterDevInitEventCallback(OnDeviceMgrInitEvent);
-    USSD_LOG_AS(kConstructor, ": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
+    USSD_LOG_AS(CONSTRUCTOR, ": TKSV_DevSrv_RegisterDevInitEventCallback () returned %li", result);
 }
 
 void USSDLogic::registerSmsCallback()
 {
-    USSD_LOG_AS(kConstructor, ": Calling TKSV_SMSSrv_RegCallBack ()");
+    USSD_LOG_AS(CONSTRUCTOR, ": Calling TKSV_SMSSrv_RegCallBack ()");
     const long result = TKSV_SMSSrv_RegCallBack(SmsCallBackMethod);
-    USSD_LOG_AS(kConstructor, ": TKSV_SMSSrv_RegCallBack () returned %li", result);
+    USSD_LOG_AS(CONSTRUCTOR, ": TKSV_SMSSrv_RegCallBack () returned %li", result);
     if (result != 0)
-        USSD_LOG_WARNING_AS(kConstructor, ": TKSV_SMSSrv_RegCallBack returned %li", result);
+        USSD_LOG_WARNING_AS(CONSTRUCTOR, ": TKSV_SMSSrv_RegCallBack returned %li", result);
 }
 
 int USSDLogic::registerUSSDCallback(EventCallback fn)
@@ -281,7 +281,7 @@ int USSDLogic::SendUSSDCommand(USSDCmdOrResp cmd, int *status)
     if (pendingCount() == 1)
         return sendHead(status);
     USSD_LOG(" Exit");
-    return kSent;
+    return SENT;
 }
 
 void USSDLogic::checkPendingCmds()
@@ -296,10 +296,10 @@ int USSDLogic::sendHead(int *status)
     quint64 number = 0;
     while (markHeadSent(head, number)) {
         const int result = sendUSSDCommand(head.command, number, status);
-        if (result != kNotTheHead)
+        if (result != NOT_THE_HEAD)
             return result;
     }
-    return kSent;
+    return SENT;
 }
 
 int USSDLogic::sendUSSDCommand(QString command, int *status)
@@ -308,7 +308,7 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     quint64 number = 0;
     if (!markHeadSent(head, number))
         number = headNumber();
-    return sendUSSDCommand(command, number, status) == kFailed ? kFailed : kSent;
+    return sendUSSDCommand(command, number, status) == FAILED ? FAILED : SENT;
 }
 
 /// The silence after a failure is deliberate: the caller sees the result, nobody gets a signal, and
@@ -321,12 +321,12 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
         status = &ignoredStatus;
     QMutexLocker sending(&m_mutexSendCmd);
     if (!isOpenHead(number)) // cleared or answered while this waited for its turn
-        return kNotTheHead;
+        return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
         USSD_LOG_EXIT(" USSDCommand is too large");
         removeHead(number);
-        return kFailed;
+        return FAILED;
     }
     USSD_LOG_IMPORTANT(" Calling TKSV_USSDSrv_Request (USSDCmd= %s, USSDCmdLen = %d)",
                        command.toLocal8Bit().constData(), SdkRecords::commandBytes(command));
@@ -336,10 +336,10 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (result != 0) {
         USSD_LOG_EXIT_IMPORTANT(" TKSV_USSDSrv_Request failed");
         removeHead(number);
-        return kFailed;
+        return FAILED;
     }
     armReplyTimer(number);
-    return kSent;
+    return SENT;
 }
 
 /// With m_mutexSendCmd held.

@@ -14,7 +14,7 @@
 #include "PluginLog.h"
 #include "XmlName.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
 namespace
 {
@@ -22,7 +22,7 @@ namespace
 bool isPaidType(int paidType)
 {
     return static_cast<unsigned int>(paidType) <
-           static_cast<unsigned int>(PluginConfig::kPaidTypes);
+           static_cast<unsigned int>(PluginConfig::PAID_TYPES);
 }
 
 /// The two attributes that every component has; -1 for any other.

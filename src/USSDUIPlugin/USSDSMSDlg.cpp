@@ -21,18 +21,18 @@
 #include "UssdCode.h"
 #include "USSDLogic.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
 
 namespace
 {
 
-const int kNoEntry = -1;
+const int NO_ENTRY = -1;
 
 /** Positions of the fixed widgets, and of the controls that describe them in a group. */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
 /// Keys that the result label may show the text of.
-const char *const kResultKeys[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
+const char *const RESULT_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
                                    "IDS_SMS_SEND_FAILED"};
 
 bool isMirrored()
@@ -48,7 +48,7 @@ QString textOf(const char *key)
 /// Empty when the text is the network's own.
 QString resultKeyOf(const QString &text)
 {
-    for (const char *key : kResultKeys) {
+    for (const char *key : RESULT_KEYS) {
         if (text == textOf(key))
             return QLatin1String(key);
     }
@@ -67,7 +67,7 @@ QString layoutPath()
 /// The one line that has its words before the time.
 void logNoPath(const char *function, const QString &path)
 {
-    USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), kLogSource,
+    USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,
                            function, path.toLocal8Bit().constData()));
 }
 
@@ -76,7 +76,7 @@ void logNoPath(const char *function, const QString &path)
 CUSSDSMSDlg::CUSSDSMSDlg()
     : m_pTree(nullptr), m_pInfoLabel(nullptr), m_pCaptionLabel(nullptr), m_pInputEdit(nullptr),
       m_pSendButton(nullptr), m_pResultLabel(nullptr), m_pValidator(nullptr), m_bBusy(false),
-      m_bFocusParked(false), m_nSelected(kNoEntry)
+      m_bFocusParked(false), m_nSelected(NO_ENTRY)
 {
     USSD_LOG_SCOPE();
     setObjectName(QLatin1String("USSDUIPlugin_SMSDialog"));
@@ -121,7 +121,7 @@ void CUSSDSMSDlg::forgetLayout()
     if (m_bBusy)
         endSending(); // the outcome will not be heard
     forgetService();
-    m_nSelected = kNoEntry;
+    m_nSelected = NO_ENTRY;
     m_layout.clear();
 }
 
@@ -297,7 +297,7 @@ void CUSSDSMSDlg::InitTree()
     m_pTree->setSelectionMode(QAbstractItemView::SingleSelection);
     m_pTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pTree->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_nSelected = kNoEntry;
+    m_nSelected = NO_ENTRY;
     m_pTree->clear();
     addRows();
     connect(m_pTree, SIGNAL(itemSelectionChanged()), this, SLOT(OnTreeItemSelectionChanged()),
@@ -343,7 +343,7 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (!m_pTree)
         return;
     m_pTree->setGeometry(SmsLayoutFile::geometry(m_layout.tree, windowWidth(), isMirrored()));
-    if (m_nSelected == kNoEntry)
+    if (m_nSelected == NO_ENTRY)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
     // A row that is current already is not selected anew: that would empty the input.
@@ -380,7 +380,7 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
 
 bool CUSSDSMSDlg::SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirrored)
 {
-    if (controls.isEmpty() || controls.count() > SmsLayoutFile::kControlsOfGroup ||
+    if (controls.isEmpty() || controls.count() > SmsLayoutFile::CONTROLS_OF_GROUP ||
         controls.count() != m_listWidgets.count()) {
         USSD_LOG(" Fail Exit: %d controls", controls.count());
         return false;

@@ -10,15 +10,15 @@
 #include "SmsLayout.h"
 #include "USSDLogic.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDService.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDService.cpp");
 
 namespace
 {
 
-const int kGeneralFrameWidth = 588;
-const int kGeneralFrameHeight = 465;
-const int kMaxFrameSide = SmsLayoutFile::kMaxWindowSide;
-const int kPlainFrame = 1;
+const int GENERAL_FRAME_WIDTH = 588;
+const int GENERAL_FRAME_HEIGHT = 465;
+const int MAX_FRAME_SIDE = SmsLayoutFile::MAX_WINDOW_SIDE;
+const int PLAIN_FRAME = 1;
 
 Qt::WindowFlags frameFlags()
 {
@@ -35,7 +35,7 @@ const char *paidTitleKey(PAID_TYPE type)
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {
-    const QSize most(kMaxFrameSide, kMaxFrameSide);
+    const QSize most(MAX_FRAME_SIDE, MAX_FRAME_SIDE);
     const QSize size = dialog->GetSize().expandedTo(QSize(0, 0)).boundedTo(most);
     frame->setFixedSize(size.width(), size.height() + 20);
 }
@@ -91,7 +91,7 @@ CUSSDService::~CUSSDService()
 {
     // Source, function, time: in another order than everywhere else, as readers of logs know it.
     USSD_IF_LOGGING(
-        qDebug("%s: %s: %s entered", kLogSource, "~CUSSDService", PluginLog::timeOfDay()));
+        qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
 }
 
 QString CUSSDService::tr(const QString &key)
@@ -220,7 +220,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!frame) {
         frame = new (std::nothrow)
-            USSDExtendDialog(CommonUtils::GetMainWindow(), Qt::WindowCloseButtonHint, kPlainFrame);
+            USSDExtendDialog(CommonUtils::GetMainWindow(), Qt::WindowCloseButtonHint, PLAIN_FRAME);
         if (frame)
             connect(frame, SIGNAL(dlgCloseEvent()), this, SLOT(OnDlgCloseEvent()));
     }
@@ -267,7 +267,7 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     if (!makeFrame(m_pGeneralFrame))
         return 0;
     m_pGeneralFrame->setWindowModality(Qt::WindowModal);
-    m_pGeneralFrame->setFixedSize(kGeneralFrameWidth, kGeneralFrameHeight);
+    m_pGeneralFrame->setFixedSize(GENERAL_FRAME_WIDTH, GENERAL_FRAME_HEIGHT);
     if (!CommonUtils::IsMiniMode())
         m_pGeneralFrame->setWindowFlags(frameFlags());
     return 1;

@@ -3,12 +3,12 @@
 #include "PluginLog.h"
 #include "USSDService.h"
 
-static const char kLogSource[] = USSD_LOG_SOURCE("USSDUIPluginImpl.cpp");
+static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDUIPluginImpl.cpp");
 
 namespace
 {
 
-const int kServiceUSSD = 0x1001;
+const int SERVICE_USSD = 0x1001;
 
 } // namespace
 
@@ -91,7 +91,7 @@ bool CUSSDUIPluginImpl::IsAllowRelease()
 bool CUSSDUIPluginImpl::QueryInterface(int id, QObject **out)
 {
     USSD_LOG_UNTIMED(" called");
-    if (id != kServiceUSSD)
+    if (id != SERVICE_USSD)
         return false;
     CUSSDService *service = nullptr;
     try {

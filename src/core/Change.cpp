@@ -4,5 +4,5 @@
 
 QString Change::tr(const QString &context, const QString &key)
 {
-    return Languages::text(context, key);
+    return HostCore::Languages::text(context, key);
 }

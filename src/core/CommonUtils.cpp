@@ -24,7 +24,7 @@ QString buttonText(const QString &key)
 /// What the widget is to be centred over.
 QRect surroundings(const QWidget *widget, const QRect &screen)
 {
-    const QWidget *mainWindow = HostState::mainWindow();
+    const QWidget *mainWindow = HostCore::HostState::mainWindow();
     const bool usable = mainWindow && mainWindow->window() != widget && mainWindow->isVisible() &&
                         !mainWindow->window()->isMinimized();
     return usable ? mainWindow->window()->frameGeometry() : screen;
@@ -67,7 +67,7 @@ QByteArray timeOfDay()
 
 QWidget *CommonUtils::GetMainWindow()
 {
-    return HostState::mainWindow();
+    return HostCore::HostState::mainWindow();
 }
 
 void CommonUtils::MoveCentre(QWidget *widget)
@@ -76,7 +76,7 @@ void CommonUtils::MoveCentre(QWidget *widget)
         return;
     if (!widget->testAttribute(Qt::WA_Resized))
         widget->adjustSize();
-    const QWidget *mainWindow = HostState::mainWindow();
+    const QWidget *mainWindow = HostCore::HostState::mainWindow();
     const QDesktopWidget *desktop = QApplication::desktop();
     const QRect screen = desktop->availableGeometry(mainWindow ? mainWindow : widget);
     QRect target(QPoint(), outerSize(widget));
@@ -86,17 +86,17 @@ void CommonUtils::MoveCentre(QWidget *widget)
 
 bool CommonUtils::IsMiniMode()
 {
-    return HostState::isMiniMode();
+    return HostCore::HostState::isMiniMode();
 }
 
 bool CommonUtils::IsShuttingDown()
 {
-    return HostState::isShuttingDown();
+    return HostCore::HostState::isShuttingDown();
 }
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return InstallPaths::pluginLibrary();
+    return HostCore::InstallPaths::pluginLibrary();
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,
@@ -104,7 +104,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QStr
                              const QString &secondButtonKey)
 {
     // The parent owns the box too and may be deleted while the user is being waited for.
-    const QPointer<MessageBox> box(new MessageBox(icon, caption, text, parent));
+    const QPointer<HostCore::MessageBox> box(new HostCore::MessageBox(icon, caption, text, parent));
     const QAbstractButton *first =
         box->addButton(buttonText(firstButtonKey), QMessageBox::AcceptRole);
     if (!secondButtonKey.isEmpty())

@@ -5,6 +5,9 @@
 
 #include <atomic>
 
+namespace HostCore
+{
+
 namespace
 {
 
@@ -63,3 +66,5 @@ IPluginContainer *HostState::pluginContainer()
 {
     return state().pluginContainer;
 }
+
+} // namespace HostCore

@@ -6,6 +6,9 @@
 class IPluginContainer;
 class QWidget;
 
+namespace HostCore
+{
+
 /**
  * What the host's program tells the core library about itself; the plug-in reads it through
  * CommonUtils and Startup. GUI thread, unless said otherwise. Nothing here is owned.
@@ -29,5 +32,7 @@ public:
     static void setPluginContainer(IPluginContainer *container);
     static IPluginContainer *pluginContainer();
 };
+
+} // namespace HostCore
 
 #endif

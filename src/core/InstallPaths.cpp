@@ -8,6 +8,9 @@
 
 #include <dlfcn.h>
 
+namespace HostCore
+{
+
 namespace
 {
 
@@ -85,3 +88,5 @@ QString InstallPaths::scenarios()
 {
     return share() + QLatin1String("/scenarios");
 }
+
+} // namespace HostCore

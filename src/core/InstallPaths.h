@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace HostCore
+{
+
 /**
  * Where the program's files lie, found from where this library lies, so that an installed prefix
  * can be moved; the build tree is laid out alike. No path ends in a separator. Any thread.
@@ -23,5 +26,7 @@ public:
     /// Simulated networks, one file each.
     static QString scenarios();
 };
+
+} // namespace HostCore
 
 #endif

@@ -14,6 +14,9 @@
 #include "InputFile.h"
 #include "InstallPaths.h"
 
+namespace HostCore
+{
+
 namespace
 {
 
@@ -206,3 +209,5 @@ QString Languages::text(const QString &context, const QString &key)
         text = lookUp(state.english, contextName, keyName);
     return text.isEmpty() ? key : text;
 }
+
+} // namespace HostCore

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace HostCore
+{
+
 /**
  * The languages that the host speaks, each a compiled Qt Linguist file whose source texts are keys.
  * Codes are those of ISO 639-1 ("en", "ar").
@@ -41,5 +44,7 @@ public:
     /// What Change::tr() gives. Any thread.
     static QString text(const QString &context, const QString &key);
 };
+
+} // namespace HostCore
 
 #endif

@@ -8,6 +8,9 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
+namespace HostCore
+{
+
 namespace
 {
 
@@ -80,3 +83,5 @@ void MessageBox::showInView(const QString &text)
     label->hide();
     grid->addWidget(view, row, column, rows, columns);
 }
+
+} // namespace HostCore

@@ -3,6 +3,9 @@
 
 #include <QMessageBox>
 
+namespace HostCore
+{
+
 /**
  * A message in plain text that never grows beyond the screen: a text that is long, or that has no
  * place to break a line at, is put into a view that scrolls. Escape and the window's close button
@@ -21,5 +24,7 @@ protected:
 private:
     void showInView(const QString &text);
 };
+
+} // namespace HostCore
 
 #endif

@@ -4,5 +4,5 @@
 
 IPluginContainer *Startup::GetPluginContainer()
 {
-    return HostState::pluginContainer();
+    return HostCore::HostState::pluginContainer();
 }

@@ -5,26 +5,26 @@
 #include <QRect>
 
 #include "Arguments.h"
-#include "CommandSender.h"
-#include "DashboardSettings.h"
-#include "DashboardText.h"
-#include "DeviceStatus.h"
-#include "DeviceWait.h"
+#include "base/DashboardText.h"
+#include "device/DashboardSettings.h"
+#include "device/DeviceStatus.h"
+#include "device/DeviceWait.h"
 #include "FirstPaint.h"
-#include "GeneralWindow.h"
 #include "IUIPlugin.h"
-#include "KeyboardHelper.h"
 #include "Languages.h"
-#include "MainWindow.h"
-#include "PrivateLibrary.h"
-#include "ProfileKeeper.h"
-#include "ReplyLimit.h"
-#include "ReplyTap.h"
+#include "plugin/CommandSender.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/KeyboardHelper.h"
+#include "plugin/PrivateLibrary.h"
+#include "plugin/ReplyLimit.h"
+#include "plugin/ReplyTap.h"
+#include "plugin/UiPlugin.h"
 #include "TerminalText.h"
 #include "tksv.h"
-#include "Tour.h"
-#include "TourGuide.h"
-#include "UiPlugin.h"
+#include "tour/Tour.h"
+#include "tour/TourGuide.h"
+#include "window/MainWindow.h"
+#include "window/ProfileKeeper.h"
 
 namespace
 {
@@ -52,7 +52,7 @@ void doWithoutDisplay()
 
 int fail(const QString &text, ExitCode code = EXIT_BAD)
 {
-    printErrorLine(text);
+    HostCore::printErrorLine(text);
     return code;
 }
 
@@ -92,7 +92,7 @@ bool isDeviceReady(const Arguments &arguments)
     const bool isReady = waitForDevice(qMin(replyLimit(), REGISTRATION_LIMIT));
     const DeviceStatus device = readDeviceStatus();
     if (arguments.verbose)
-        printErrorLine(device.sourceText());
+        HostCore::printErrorLine(device.sourceText());
     if (!isReady)
         sayWhyNotReady(device);
     return isReady;
@@ -142,19 +142,20 @@ int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
 int Program::complain(const Arguments &arguments)
 {
     const QString text = dashboardText(arguments.errorKey);
-    printErrorLine(text.contains(QLatin1String("%1")) ? text.arg(arguments.errorSubject) : text);
+    HostCore::printErrorLine(text.contains(QLatin1String("%1")) ? text.arg(arguments.errorSubject)
+                                                                : text);
     return fail(dashboardText("CLI_TRY_HELP"), EXIT_USAGE);
 }
 
 int Program::help()
 {
-    printLine(dashboardText("CLI_HELP"));
+    HostCore::printLine(dashboardText("CLI_HELP"));
     return EXIT_GOOD;
 }
 
 int Program::version()
 {
-    printLine(QLatin1String("ussd-dashboard " USSD_VERSION));
+    HostCore::printLine(QLatin1String("ussd-dashboard " USSD_VERSION));
     return EXIT_GOOD;
 }
 
@@ -163,7 +164,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    Languages::setCurrent(Languages::current()); // now for widgets too
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // now for widgets too
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);

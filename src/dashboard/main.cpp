@@ -4,13 +4,13 @@
 #include <sys/stat.h>
 
 #include "Arguments.h"
-#include "DashboardSettings.h"
-#include "DashboardText.h"
-#include "LanguageProblem.h"
+#include "base/DashboardText.h"
+#include "base/LogFile.h"
+#include "device/DashboardSettings.h"
 #include "Languages.h"
-#include "LogFile.h"
 #include "Program.h"
 #include "TerminalText.h"
+#include "window/LanguageProblem.h"
 
 namespace
 {
@@ -31,15 +31,17 @@ QStringList wordsOf(int argc, char **argv)
 void sayWhichTextsAreMissing(const QString &wanted)
 {
     const QString english = QLatin1String(ENGLISH);
-    const Languages::FileState state = Languages::fileState(english);
-    if (state == Languages::Missing)
-        printErrorLine(Languages::file(english) +
-                       QLatin1String(" is missing; keys stand in place of texts."));
-    else if (state == Languages::Damaged)
-        printErrorLine(Languages::file(english) +
-                       QLatin1String(" is damaged; keys stand in place of texts."));
-    else if (!wanted.isEmpty() && Languages::fileState(wanted) != Languages::Whole)
-        printErrorLine(dashboardText(languageProblem(wanted)).arg(Languages::file(wanted)));
+    const HostCore::Languages::FileState state = HostCore::Languages::fileState(english);
+    if (state == HostCore::Languages::Missing)
+        HostCore::printErrorLine(HostCore::Languages::file(english) +
+                                 QLatin1String(" is missing; keys stand in place of texts."));
+    else if (state == HostCore::Languages::Damaged)
+        HostCore::printErrorLine(HostCore::Languages::file(english) +
+                                 QLatin1String(" is damaged; keys stand in place of texts."));
+    else if (!wanted.isEmpty() &&
+             HostCore::Languages::fileState(wanted) != HostCore::Languages::Whole)
+        HostCore::printErrorLine(
+            dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
 
 /// The language that was remembered, else that of the desktop; English when there is neither.
@@ -48,24 +50,26 @@ QString usualLanguage()
     const QString remembered = DashboardSettings().language();
     const QString code =
         remembered.isEmpty() ? QLocale::system().name().left(CODE_LENGTH) : remembered;
-    const Languages::FileState state = Languages::fileState(code);
-    const bool isAbsent = state == Languages::Missing || state == Languages::NoSuchLanguage;
+    const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
+    const bool isAbsent =
+        state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
     // The desktop's language may be left out on purpose; one that was chosen here may not.
     sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
-    return state == Languages::Whole ? code : QLatin1String(ENGLISH);
+    return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
 /// False when the command line names a language that there is none of, or whose file is no good.
 bool chooseLanguage(Arguments *arguments)
 {
     const QString &wanted = arguments->language;
-    Languages::setCurrent(usualLanguage());
-    if (wanted.isEmpty() || Languages::setCurrent(wanted))
+    HostCore::Languages::setCurrent(usualLanguage());
+    if (wanted.isEmpty() || HostCore::Languages::setCurrent(wanted))
         return true;
-    const bool isKnown = Languages::fileState(wanted) != Languages::NoSuchLanguage;
+    const bool isKnown =
+        HostCore::Languages::fileState(wanted) != HostCore::Languages::NoSuchLanguage;
     arguments->errorKey = isKnown ? languageProblem(wanted) : "CLI_UNKNOWN_LANGUAGE";
-    arguments->errorSubject =
-        isKnown ? Languages::file(wanted) : Languages::codes().join(QLatin1String(" "));
+    arguments->errorSubject = isKnown ? HostCore::Languages::file(wanted)
+                                      : HostCore::Languages::codes().join(QLatin1String(" "));
     return false;
 }
 
@@ -73,7 +77,7 @@ bool chooseLanguage(Arguments *arguments)
 QString startLog(const Arguments &arguments)
 {
     if (arguments.verbose)
-        printErrorLine(dashboardText("LOG_HOLDS"));
+        HostCore::printErrorLine(dashboardText("LOG_HOLDS"));
     return arguments.logFile.isEmpty() ? QString() : LogFile::open(arguments.logFile);
 }
 
@@ -101,12 +105,12 @@ int main(int argc, char **argv)
     umask(OTHERS); // what the program writes is its user's alone: codes and replies are private
     setlocale(LC_ALL, "");
     Arguments arguments = parseArguments(wordsOf(argc, argv));
-    installTerminalLog(arguments.verbose);
+    HostCore::installTerminalLog(arguments.verbose);
     if (!chooseLanguage(&arguments) || arguments.errorKey)
         return Program::complain(arguments);
     const QString unusableLog = startLog(arguments);
     if (!unusableLog.isEmpty()) {
-        printErrorLine(unusableLog);
+        HostCore::printErrorLine(unusableLog);
         return EXIT_USAGE;
     }
     return run(argc, argv, arguments);

@@ -17,7 +17,7 @@ bool isChargeLongEnough(const ChargeRules &rules, int characters)
 QString chargeExpression(const ChargeRules &rules)
 {
     return QLatin1Char('[') + rules.limitText + QLatin1String("]{0,") +
-           QString::number(qMin(rules.length, SmsLayoutFile::kMaxInputLength)) + QLatin1Char('}');
+           QString::number(qMin(rules.length, SmsLayoutFile::MAX_INPUT_LENGTH)) + QLatin1Char('}');
 }
 
 bool isChargeExpressionUsable(const ChargeRules &rules)

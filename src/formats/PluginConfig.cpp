@@ -8,7 +8,7 @@
 namespace
 {
 
-const int kItemsInPaidSection = 4;
+const int ITEMS_IN_PAID_SECTION = 4;
 
 QString textOf(QXmlStreamReader &reader, const char *element)
 {
@@ -108,7 +108,7 @@ void readSim(const QXmlStreamReader &reader, AutoUSSD &autoUSSD)
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config)
 {
     readPrePostDiffer(reader, config.prePostDiffer);
-    for (int paidType = 0; paidType < PluginConfig::kPaidTypes; ++paidType)
+    for (int paidType = 0; paidType < PluginConfig::PAID_TYPES; ++paidType)
         readPaidSection(reader, paidType, config);
     readCharSection(reader, XmlName::SENT_CHAR, config.sentChar);
     readCharSection(reader, XmlName::RECEIVED_CHAR, config.receivedChar);
@@ -129,10 +129,10 @@ void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
 
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config)
 {
-    static const char *const sections[PluginConfig::kPaidTypes] = {XmlName::PREPAID,
+    static const char *const sections[PluginConfig::PAID_TYPES] = {XmlName::PREPAID,
                                                                    XmlName::POSTPAID};
     ForwardXml::skipTo(reader, QLatin1String(sections[paidType]));
-    for (int i = 0; i < kItemsInPaidSection; ++i)
+    for (int i = 0; i < ITEMS_IN_PAID_SECTION; ++i)
         readItem(reader, paidType, config);
 }
 

@@ -91,12 +91,12 @@ struct ConfigBalance {
 
 /** The whole file but for its USSD-SMS section. Tables are indexed 0 prepaid, 1 postpaid. */
 struct PluginConfig {
-    static const int kPaidTypes = 2;
+    static const int PAID_TYPES = 2;
 
-    ConfigMSISDN msisdn[kPaidTypes];
-    ConfigOnlineCharge onlineCharge[kPaidTypes];
-    ConfigCharge charge[kPaidTypes];
-    ConfigBalance balance[kPaidTypes];
+    ConfigMSISDN msisdn[PAID_TYPES];
+    ConfigOnlineCharge onlineCharge[PAID_TYPES];
+    ConfigCharge charge[PAID_TYPES];
+    ConfigBalance balance[PAID_TYPES];
     PrePostDiffer prePostDiffer;
     Char sentChar;
     Char receivedChar;

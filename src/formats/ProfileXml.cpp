@@ -10,11 +10,9 @@
 namespace
 {
 
-const QLatin1String kItem(XmlName::ITEM);
-
 QString fieldText(QXmlStreamReader &reader, const char *field)
 {
-    if (!ForwardXml::skipToBefore(reader, QLatin1String(field), kItem))
+    if (!ForwardXml::skipToBefore(reader, QLatin1String(field), QLatin1String(XmlName::ITEM)))
         return QString();
     return ForwardXml::text(reader);
 }
@@ -60,7 +58,7 @@ void writeField(QXmlStreamWriter &writer, const char *field, const QString &text
 
 void writeProfile(QXmlStreamWriter &writer, const USSDProfile &profile)
 {
-    writer.writeStartElement(kItem);
+    writer.writeStartElement(QLatin1String(XmlName::ITEM));
     writeField(writer, XmlName::NAME, profile.name);
     writeField(writer, XmlName::VALUE, profile.value.trimmed());
     writeField(writer, XmlName::READONLY, boolText(profile.readonly));
@@ -77,7 +75,7 @@ namespace ProfileXml
 
 bool readNext(QXmlStreamReader &reader, USSDProfile &profile)
 {
-    if (!ForwardXml::skipTo(reader, kItem))
+    if (!ForwardXml::skipTo(reader, QLatin1String(XmlName::ITEM)))
         return false;
     profile = USSDProfile();
     profile.name = fieldText(reader, XmlName::NAME);

@@ -11,17 +11,17 @@ namespace
 
 const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
 
-const int kMaxComplaints = 20;
-const int kMaxQuoted = 40;  // characters of the file in a complaint
-const int kMaxControls = 6; // kept of a group: enough to see that there are too many
-const int kMaxGroups = 500; // kept of a file: far more than the tree has entries
+const int MAX_COMPLAINTS = 20;
+const int MAX_QUOTED = 40;  // characters of the file in a complaint
+const int MAX_CONTROLS = 6; // kept of a group: enough to see that there are too many
+const int MAX_GROUPS = 500; // kept of a file: far more than the tree has entries
 
 /// The part of a value that a log line can bear.
 QString quoted(const QString &text)
 {
-    if (text.length() <= kMaxQuoted)
+    if (text.length() <= MAX_QUOTED)
         return QLatin1Char('"') + text + QLatin1Char('"');
-    return QLatin1Char('"') + text.left(kMaxQuoted) + QLatin1String("...\"");
+    return QLatin1Char('"') + text.left(MAX_QUOTED) + QLatin1String("...\"");
 }
 
 /** Reads the section front to back, by element name; elements of other names are looked through. */
@@ -144,7 +144,7 @@ QString Reader::onLine(const QString &what) const
 
 void Reader::complain(const QString &what)
 {
-    if (m_layout.complaints.count() < kMaxComplaints)
+    if (m_layout.complaints.count() < MAX_COMPLAINTS)
         m_layout.complaints << onLine(what);
     else
         ++m_layout.furtherComplaints;
@@ -190,7 +190,7 @@ void Reader::readMainSize()
         complain(QString::fromLatin1("MainSize %1 x %2 is out of range (0 to %3)")
                      .arg(dialog.width)
                      .arg(dialog.height)
-                     .arg(SmsLayoutFile::kMaxWindowSide));
+                     .arg(SmsLayoutFile::MAX_WINDOW_SIDE));
 }
 
 void Reader::readTreeSize()
@@ -248,8 +248,8 @@ void Reader::takeOrdinary(CTreeItem *entry)
 /// Empty when the entry is to be kept. The tree has two levels, and its root comes first.
 QString Reader::whyDropped(const CTreeItem &entry) const
 {
-    if (m_layout.ordinaryEntries >= SmsLayoutFile::kMaxOrdinaryEntries)
-        return QString::fromLatin1("there are %1 already").arg(SmsLayoutFile::kMaxOrdinaryEntries);
+    if (m_layout.ordinaryEntries >= SmsLayoutFile::MAX_ORDINARY_ENTRIES)
+        return QString::fromLatin1("there are %1 already").arg(SmsLayoutFile::MAX_ORDINARY_ENTRIES);
     if (!m_layout.hasRoot)
         return QLatin1String("it stands before the root");
     if (entry.parent != m_layout.rootNumber)
@@ -282,16 +282,16 @@ void Reader::readGroup()
     int count = 0;
     while (nextStart(XmlName::CONTROL, XmlName::ITEM)) {
         QScopedPointer<CWidgetItemInfo> control(readControl());
-        if (++count <= kMaxControls)
+        if (++count <= MAX_CONTROLS)
             group->controls << control.take();
     }
     if (m_xml.hasError())
         return; // the group has no end
-    if (count != SmsLayoutFile::kControlsOfGroup)
+    if (count != SmsLayoutFile::CONTROLS_OF_GROUP)
         complain(QString::fromLatin1("the group of entry %1 has %2 controls; shown are %3 only")
                      .arg(entry)
                      .arg(count)
-                     .arg(SmsLayoutFile::kControlsOfGroup));
+                     .arg(SmsLayoutFile::CONTROLS_OF_GROUP));
     storeGroup(entry, group.take());
 }
 
@@ -300,7 +300,7 @@ void Reader::storeGroup(int entry, CWidget *group)
     if (CWidget *replaced = m_layout.groups.take(entry)) {
         complain(QString::fromLatin1("the group of entry %1 replaces an earlier one").arg(entry));
         delete replaced;
-    } else if (m_layout.groups.count() >= kMaxGroups) {
+    } else if (m_layout.groups.count() >= MAX_GROUPS) {
         complain(QString::fromLatin1("the group of entry %1 is left out: there are too many")
                      .arg(entry));
         delete group;
@@ -353,10 +353,10 @@ void Reader::checkInput(const CWidgetItemInfo &control)
     if (!control.limitText.isEmpty() && !SmsLayoutFile::isCharacterClass(control.limitText))
         complain(QString::fromLatin1("LimitText %1 is no class of characters; any are allowed")
                      .arg(quoted(control.limitText)));
-    if (control.length < 0 || control.length > SmsLayoutFile::kMaxInputLength)
+    if (control.length < 0 || control.length > SmsLayoutFile::MAX_INPUT_LENGTH)
         complain(QString::fromLatin1("length %1 is out of range (0 to %2)")
                      .arg(control.length)
-                     .arg(SmsLayoutFile::kMaxInputLength));
+                     .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
 /// Only at the end: the groups may stand before the tree.
@@ -432,7 +432,7 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     const QString characters = control.limitText.isEmpty() || !isCharacterClass(control.limitText)
                                    ? QString(QLatin1Char('.'))
                                    : QLatin1Char('[') + control.limitText + QLatin1Char(']');
-    const int length = qBound(0, control.length, kMaxInputLength);
+    const int length = qBound(0, control.length, MAX_INPUT_LENGTH);
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
@@ -440,7 +440,7 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
 /// and gigabytes to multiply out. The first place is a letter like any other.
 bool isCharacterClass(const QString &limitText)
 {
-    if (limitText.length() > kMaxLimitText)
+    if (limitText.length() > MAX_LIMIT_TEXT)
         return false;
     const int first = limitText.startsWith(QLatin1Char('^')) ? 1 : 0;
     for (int i = first; i < limitText.length(); ++i) {
@@ -454,7 +454,8 @@ bool isCharacterClass(const QString &limitText)
 
 QSize windowSize(const CDlgInfo &dialog)
 {
-    return QSize(qBound(0, dialog.width, kMaxWindowSide), qBound(0, dialog.height, kMaxWindowSide));
+    return QSize(qBound(0, dialog.width, MAX_WINDOW_SIDE),
+                 qBound(0, dialog.height, MAX_WINDOW_SIDE));
 }
 
 QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored)

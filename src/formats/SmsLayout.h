@@ -99,14 +99,14 @@ namespace SmsLayoutFile
 {
 
 /// Controls of a group that can be shown; a group with more or fewer is kept, but never is.
-const int kControlsOfGroup = 5;
-const int kMaxOrdinaryEntries = 25;
+const int CONTROLS_OF_GROUP = 5;
+const int MAX_ORDINARY_ENTRIES = 25;
 /// The highest count that QRegExp knows, and so the most that an input field takes.
-const int kMaxInputLength = 1024;
+const int MAX_INPUT_LENGTH = 1024;
 /// A longer "LimitText" is not used.
-const int kMaxLimitText = 1000;
+const int MAX_LIMIT_TEXT = 1000;
 /// The largest side of the dialog, in pixels: its window needs memory for each of them.
-const int kMaxWindowSide = 4096;
+const int MAX_WINDOW_SIDE = 4096;
 
 /// Reads on to the end of the document. False when it is not well-formed; what was read up to there
 /// is kept.
@@ -122,7 +122,7 @@ QRegExp inputPattern(const CWidgetItemInfo &control);
 /// Whether the text between "[" and "]" is one class of characters and nothing else.
 bool isCharacterClass(const QString &limitText);
 
-/// The dialog's size, kept within 0 and kMaxWindowSide.
+/// The dialog's size, kept within 0 and MAX_WINDOW_SIDE.
 QSize windowSize(const CDlgInfo &dialog);
 
 /// Where a control or the tree stands in a dialog of this width, with sides and places that Qt can

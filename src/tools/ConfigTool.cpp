@@ -22,7 +22,7 @@ const char HELP[] =
 
 int usage(const QString &text)
 {
-    printErrorLine(QLatin1String("ussd-config: ") + text + QLatin1String("; see --help"));
+    HostCore::printErrorLine(QLatin1String("ussd-config: ") + text + QLatin1String("; see --help"));
     return TOOL_USAGE;
 }
 
@@ -59,11 +59,11 @@ int check(const ToolArguments &arguments)
     for (int i = 1; i < arguments.words.count(); ++i)
         reports << checkFile(arguments.words.at(i));
     if (arguments.value("--format") == QLatin1String("json")) {
-        printLine(reportsJson(reports));
+        HostCore::printLine(reportsJson(reports));
         return statusOf(reports);
     }
     for (int i = 0; i < reports.count(); ++i)
-        printLine(reportText(reports.at(i)));
+        HostCore::printLine(reportText(reports.at(i)));
     return statusOf(reports);
 }
 
@@ -77,9 +77,9 @@ int runConfigTool(const QStringList &words)
                                          << QLatin1String("--version"),
                            QStringList() << QLatin1String("--format"));
     if (arguments.has("--help") || arguments.has("-h"))
-        return printLine(QLatin1String(HELP)), TOOL_GOOD;
+        return HostCore::printLine(QLatin1String(HELP)), TOOL_GOOD;
     if (arguments.has("--version"))
-        return printLine(QLatin1String("ussd-config " USSD_VERSION)), TOOL_GOOD;
+        return HostCore::printLine(QLatin1String("ussd-config " USSD_VERSION)), TOOL_GOOD;
     const QString complaint = complaintAbout(arguments);
     return complaint.isEmpty() ? check(arguments) : usage(complaint);
 }

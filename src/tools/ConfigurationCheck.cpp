@@ -304,17 +304,17 @@ void Check::chargeExpressionOf(const Item &item, const ChargeRules &rules, int p
         m_check.find(at, "expression",
                      QString::fromLatin1("LimitText %1 is no class of characters")
                          .arg(quotedPart(rules.limitText)));
-    else if (rules.length > 0 && rules.length <= SmsLayoutFile::kMaxInputLength &&
+    else if (rules.length > 0 && rules.length <= SmsLayoutFile::MAX_INPUT_LENGTH &&
              !QRegExp(chargeExpression(rules)).isValid())
         m_check.find(at, "expression",
                      QString::fromLatin1("%1 is no regular expression")
                          .arg(quotedPart(chargeExpression(rules))));
-    else if (rules.length > SmsLayoutFile::kMaxInputLength)
+    else if (rules.length > SmsLayoutFile::MAX_INPUT_LENGTH)
         m_check.find(
             at, "expression",
             QString::fromLatin1("length %1 is more than a regular expression can count (%2)")
                 .arg(rules.length)
-                .arg(SmsLayoutFile::kMaxInputLength));
+                .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
 void Check::twins(const QList<Item> &items)

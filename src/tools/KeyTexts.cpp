@@ -20,10 +20,10 @@ typedef QMap<QString, QSharedPointer<Texts>> Translators;
 Translators loadAll()
 {
     Translators all;
-    const QStringList codes = Languages::codes();
+    const QStringList codes = HostCore::Languages::codes();
     for (int i = 0; i < codes.count(); ++i) {
         const QSharedPointer<Texts> texts(new Texts);
-        texts->content = Languages::content(codes.at(i));
+        texts->content = HostCore::Languages::content(codes.at(i));
         if (texts->translator.load(reinterpret_cast<const uchar *>(texts->content.constData()),
                                    texts->content.size()))
             all.insert(codes.at(i), texts);

@@ -106,7 +106,7 @@ void checkGroups(ElementCheck &check, int section)
     const QList<int> items = allNamed(check.elements(), section, XmlName::ITEM);
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
-        if (controls.count() != SmsLayoutFile::kControlsOfGroup)
+        if (controls.count() != SmsLayoutFile::CONTROLS_OF_GROUP)
             continue; // the reader has said so
         checkInput(check, controls.at(INPUT));
         if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
@@ -127,7 +127,7 @@ CheckTable servicesTable(const SmsLayout &layout)
     for (int i = 0; i < numbers.count(); ++i) {
         const CTreeItem *entry = layout.entries.value(numbers.at(i));
         const CWidget *group = layout.groups.value(numbers.at(i));
-        const bool whole = group && group->controls.count() == SmsLayoutFile::kControlsOfGroup;
+        const bool whole = group && group->controls.count() == SmsLayoutFile::CONTROLS_OF_GROUP;
         const CWidgetItemInfo *button = whole ? group->controls.at(BUTTON) : nullptr;
         table.rows << (QStringList()
                        << QString::number(numbers.at(i)) << entry->textId

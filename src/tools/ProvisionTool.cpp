@@ -42,7 +42,7 @@ QStringList list(const char *blankSeparated)
 
 int fail(const QString &text, ToolExit status)
 {
-    printErrorLine(QLatin1String("ussd-provision: ") + text);
+    HostCore::printErrorLine(QLatin1String("ussd-provision: ") + text);
     return status;
 }
 
@@ -95,7 +95,7 @@ void printProvider(const Provider &provider)
                                 << provider.country << provider.name() << orDash(plan.balance)
                                 << orDash(plan.topUp) << orDash(plan.ownNumber)
                                 << orDash(provider.networks.join(QLatin1String(",")));
-    printLine(columns.join(QString(QLatin1Char('\t'))));
+    HostCore::printLine(columns.join(QString(QLatin1Char('\t'))));
 }
 
 void printProviders(const QList<Provider> &providers)
@@ -106,25 +106,26 @@ void printProviders(const QList<Provider> &providers)
 
 void printPlan(const ProvisionPlan &plan)
 {
-    printLine(QString::fromLatin1("balance     %1").arg(orDash(plan.balance)));
-    printLine(QString::fromLatin1("top-up      %1").arg(orDash(plan.topUp)));
-    printLine(QString::fromLatin1("own number  %1").arg(orDash(plan.ownNumber)));
+    HostCore::printLine(QString::fromLatin1("balance     %1").arg(orDash(plan.balance)));
+    HostCore::printLine(QString::fromLatin1("top-up      %1").arg(orDash(plan.topUp)));
+    HostCore::printLine(QString::fromLatin1("own number  %1").arg(orDash(plan.ownNumber)));
     for (int i = 0; i < plan.messages.count(); ++i)
-        printLine(QLatin1String("message     ") + plan.messages.at(i).explanation);
-    printLine(QLatin1String("SIM cards   ") + orDash(plan.imsiPrefixes.join(QLatin1String(" "))));
+        HostCore::printLine(QLatin1String("message     ") + plan.messages.at(i).explanation);
+    HostCore::printLine(QLatin1String("SIM cards   ") +
+                        orDash(plan.imsiPrefixes.join(QLatin1String(" "))));
     for (int i = 0; i < plan.notes.count(); ++i)
-        printLine(QLatin1String("not used    ") + plan.notes.at(i));
+        HostCore::printLine(QLatin1String("not used    ") + plan.notes.at(i));
 }
 
 void printComplaints(const QString &file, const ProviderDatabase &database)
 {
     for (int i = 0; i < database.complaints.count(); ++i) {
         const ProviderComplaint &complaint = database.complaints.at(i);
-        printErrorLine(QString::fromLatin1("%1:%2:%3: %4")
-                           .arg(file)
-                           .arg(complaint.line)
-                           .arg(complaint.column)
-                           .arg(complaint.text));
+        HostCore::printErrorLine(QString::fromLatin1("%1:%2:%3: %4")
+                                     .arg(file)
+                                     .arg(complaint.line)
+                                     .arg(complaint.column)
+                                     .arg(complaint.text));
     }
 }
 
@@ -132,7 +133,7 @@ void printComplaints(const QString &file, const ProviderDatabase &database)
 
 QString installedFolder()
 {
-    return InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
+    return HostCore::InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
 /// Without a network code there is no other short name for the folder than the operator's own.
@@ -170,14 +171,15 @@ int report(const ProvisionOrder &order, const ProvisionPlan &plan, const Provisi
                                                     "--set-aside keeps those files aside"),
                     TOOL_REFUSED);
     const bool isNew = outcome.state == ProvisionOutcome::Written;
-    printLine(plan.provider + QLatin1String(" (") + plan.country +
-              QLatin1String(isNew ? "): written" : "): there already"));
+    HostCore::printLine(plan.provider + QLatin1String(" (") + plan.country +
+                        QLatin1String(isNew ? "): written" : "): there already"));
     printPlan(plan);
     if (!outcome.keptFolder.isEmpty())
-        printLine(QLatin1String("kept        ") + outcome.keptFolder);
+        HostCore::printLine(QLatin1String("kept        ") + outcome.keptFolder);
     else if (!outcome.changedFiles.isEmpty())
-        printLine(QLatin1String("changed     ") + outcome.changedFiles.join(QLatin1String(" ")));
-    printLine(QLatin1String("USSD_PLUGIN_LIBRARY_PATH=") + order.folder);
+        HostCore::printLine(QLatin1String("changed     ") +
+                            outcome.changedFiles.join(QLatin1String(" ")));
+    HostCore::printLine(QLatin1String("USSD_PLUGIN_LIBRARY_PATH=") + order.folder);
     return TOOL_GOOD;
 }
 
@@ -234,9 +236,9 @@ int runProvisionTool(const QStringList &words)
         parseToolArguments(words, list("--list --set-aside --help -h --version"),
                            list("--network --sim-name --country --provider --folder --database"));
     if (arguments.has("--help") || arguments.has("-h"))
-        return printLine(QLatin1String(HELP)), TOOL_GOOD;
+        return HostCore::printLine(QLatin1String(HELP)), TOOL_GOOD;
     if (arguments.has("--version"))
-        return printLine(QLatin1String("ussd-provision " USSD_VERSION)), TOOL_GOOD;
+        return HostCore::printLine(QLatin1String("ussd-provision " USSD_VERSION)), TOOL_GOOD;
     const QString complaint = complaintAbout(arguments);
     if (!complaint.isEmpty())
         return fail(complaint + QLatin1String("; see --help"), TOOL_USAGE);

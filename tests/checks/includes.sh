@@ -41,7 +41,7 @@ allowed() {
 # From the includer's own folder or from the folder itself, but never out of it.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
-    for candidate in "$(dirname "$file")/$name" "$folder/$name"; do
+    for candidate in "$(dirname "$file")/$name" "$folder/$name" "$(dirname "$folder")/$name"; do
         [ -f "$candidate" ] || continue
         case "$(realpath --relative-to=. "$candidate")" in
         "$folder"/*) return 0 ;;
@@ -58,12 +58,20 @@ check "$(cpp_files src/core/common)" "$qt|$standard" src/core/common src/compat
 check "$core_own" "$any" src/core src/core/common src/compat src/files
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/files)" "$qt|$standard" src/files
-check "$(cpp_files src/dashboard)" "$any" \
-    src/dashboard src/provisioning src/formats src/core src/core/common src/compat src/files \
-    src/sdk/tksv.h src/sdk/tksv_device.h
+# The dashboard's folders, from the lowest one up: each may include those below it. The files beside
+# the folders are the program, which may include all of them.
+below="src/provisioning src/formats src/core src/core/common src/compat src/files src/sdk/tksv.h"
+below+=" src/sdk/tksv_device.h"
+for folder in base device plugin sim window tour; do
+    below+=" src/dashboard/$folder"
+    # shellcheck disable=SC2086 # a list of words
+    check "$(cpp_files src/dashboard/$folder)" "$any" $below
+done
+# shellcheck disable=SC2086 # a list of words
+check "$(cpp_files src/dashboard | grep -v '^src/dashboard/.*/')" "$any" src/dashboard $below
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
-    src/core/common src/compat src/files src/dashboard/TerminalText.h src/sdk
+    src/core/common src/compat src/files src/sdk
 check "$(cpp_files src/sdk)" '^[a-pr-zA-PR-Z]' src/sdk
 check "$(cpp_files src/sdk | grep -E '/tksv(_device)?\.h$')" '^(std(int|def)|time)\.h$' src/sdk/tksv.h
 finish

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# One source for Qt 4.6 and Qt 5.15: the version is asked for in one header, and nothing is used
-# that only one of the two has.
+# One source for Qt 4.6 to Qt 6 in the plug-in and what it is made of: the version is asked for in one
+# header, and nothing is used that only one of them has.
 . "$(dirname "$0")/common.sh"
 
-shared="src/USSDUIPlugin src/formats src/files src/core src/dashboard src/provisioning src/tools"
+shared="src/USSDUIPlugin src/formats src/files src/core examples/host"
 
 # What Qt 4.6 has not, or 5.15 warns of.
 missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'

@@ -23,6 +23,8 @@ fresh_tree() {
     write src/compat/QtCompat.h <<<'#if QT_VERSION < 0x050000
 #endif'
     write src/USSDUIPlugin/USSDLogic.h </dev/null
+    write src/dashboard/window/Page.h </dev/null
+    write src/dashboard/Program.h </dev/null
 }
 
 # passes CHECK
@@ -86,6 +88,10 @@ finds includes 'includes <glib.h>' $plugin <<<'#include <glib.h>'
 finds includes 'includes <QString>' src/sdk/a.cpp <<<'#include <QString>'
 finds includes 'includes "Change.h"' src/sdk/a.cpp <<<'#include "Change.h"'
 finds includes 'includes "USSDLogic.h"' src/dashboard/a.cpp <<<'#include "USSDLogic.h"'
+finds includes 'includes "window/Page.h"' src/dashboard/plugin/a.cpp <<<'#include "window/Page.h"'
+finds includes 'includes "../window/Page.h"' src/dashboard/plugin/a.cpp <<<'#include "../window/Page.h"'
+finds includes 'includes "Program.h"' src/dashboard/tour/a.cpp <<<'#include "Program.h"'
+finds includes 'includes "PluginLog.h"' src/formats/a.cpp <<<'#include "PluginLog.h"'
 finds includes 'includes "Languages.h"' src/core/common/A.h <<<'#include "Languages.h"'
 finds includes 'includes "tksv.h"' src/core/A.h <<<'#include "tksv.h"'
 finds includes 'includes "Languages.h"' src/provisioning/a.cpp <<<'#include "Languages.h"'
@@ -96,10 +102,10 @@ finds qt_versions 'a.cpp:1:#if QT_VERSION' src/dashboard/a.cpp <<<'#if QT_VERSIO
 finds qt_versions 'a.cpp:2:.*QStringLiteral' $plugin <<<'
 auto a = QStringLiteral("a");'
 finds qt_versions 'QElapsedTimer' src/core/a.cpp <<<'QElapsedTimer timer;'
-finds qt_versions 'setPlaceholderText' src/dashboard/a.cpp <<<'edit->setPlaceholderText(a);'
-finds qt_versions 'QSaveFile' src/provisioning/a.cpp <<<'QSaveFile file;'
+finds qt_versions 'setPlaceholderText' src/formats/a.cpp <<<'edit->setPlaceholderText(a);'
+finds qt_versions 'QSaveFile' src/files/a.cpp <<<'QSaveFile file;'
 finds qt_versions 'SkipEmptyParts' src/core/a.cpp <<<'text.split(a, QString::SkipEmptyParts);'
-finds qt_versions 'by function' src/dashboard/a.cpp <<<'connect(a, &A::changed,
+finds qt_versions 'by function' $plugin <<<'connect(a, &A::changed,
         this, &B::change);'
 finds qt_versions 'by function' src/core/a.cpp <<<'QTimer::singleShot(0, this, [=] { f(); });'
 

@@ -59,17 +59,17 @@ private slots:
 
 void CommonUtilsTest::tearDown()
 {
-    HostState::setMainWindow(nullptr);
-    HostState::setMiniMode(false);
-    HostState::setShuttingDown(false);
-    HostState::setPluginContainer(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMiniMode(false);
+    HostCore::HostState::setShuttingDown(false);
+    HostCore::HostState::setPluginContainer(nullptr);
 }
 
 void CommonUtilsTest::theMainWindowIsForgottenWhenItDies()
 {
     QVERIFY(!CommonUtils::GetMainWindow());
     QWidget *window = new QWidget;
-    HostState::setMainWindow(window);
+    HostCore::HostState::setMainWindow(window);
     QCOMPARE(CommonUtils::GetMainWindow(), window);
     delete window;
     QVERIFY(!CommonUtils::GetMainWindow());
@@ -82,8 +82,8 @@ void CommonUtilsTest::miniModeAndContainerAreWhatTheHostSaid()
     QVERIFY(!CommonUtils::IsMiniMode());
     QVERIFY(!Startup::GetPluginContainer());
     Container container;
-    HostState::setMiniMode(true);
-    HostState::setPluginContainer(&container);
+    HostCore::HostState::setMiniMode(true);
+    HostCore::HostState::setPluginContainer(&container);
     QVERIFY(CommonUtils::IsMiniMode());
     QCOMPARE(Startup::GetPluginContainer(), static_cast<IPluginContainer *>(&container));
 }
@@ -96,7 +96,7 @@ void CommonUtilsTest::shuttingDownIsSeenByOtherThreads()
         std::thread([answer] { *answer = CommonUtils::IsShuttingDown(); }).join();
     };
     ask(&before);
-    HostState::setShuttingDown(true);
+    HostCore::HostState::setShuttingDown(true);
     ask(&after);
     QVERIFY(!before);
     QVERIFY(after);
@@ -107,7 +107,7 @@ void CommonUtilsTest::aWindowIsCentredOverTheMainWindow()
     QWidget window;
     window.setGeometry(200, 150, 400, 300);
     window.show();
-    HostState::setMainWindow(&window);
+    HostCore::HostState::setMainWindow(&window);
     QWidget frame;
     frame.setFixedSize(100, 60);
     CommonUtils::MoveCentre(&frame);
@@ -128,7 +128,7 @@ void CommonUtilsTest::aHiddenMainWindowDoesNotCount()
 {
     QWidget window;
     window.setGeometry(0, 0, 50, 50);
-    HostState::setMainWindow(&window);
+    HostCore::HostState::setMainWindow(&window);
     aWindowIsCentredOnTheScreenWithoutMainWindow();
 }
 
@@ -137,7 +137,7 @@ void CommonUtilsTest::theMainWindowItselfIsCentredOnTheScreen()
     QWidget window;
     window.setGeometry(0, 0, 200, 100);
     window.show();
-    HostState::setMainWindow(&window);
+    HostCore::HostState::setMainWindow(&window);
     CommonUtils::MoveCentre(&window);
     const QPoint apart = window.frameGeometry().center() - screen().center();
     QVERIFY(apart.manhattanLength() <= 2);
@@ -148,7 +148,7 @@ void CommonUtilsTest::aCentredWindowStaysOnTheScreen()
     QWidget window;
     window.setGeometry(screen().right() - 20, screen().bottom() - 20, 200, 200);
     window.show();
-    HostState::setMainWindow(&window);
+    HostCore::HostState::setMainWindow(&window);
     QWidget frame;
     frame.setFixedSize(300, 200);
     CommonUtils::MoveCentre(&frame);
@@ -170,7 +170,7 @@ void CommonUtilsTest::centringNothingIsHarmless()
 {
     QWidget window;
     window.setGeometry(3, 4, 50, 60);
-    HostState::setMainWindow(&window);
+    HostCore::HostState::setMainWindow(&window);
     CommonUtils::MoveCentre(nullptr);
     QCOMPARE(window.geometry(), QRect(3, 4, 50, 60));
 }

@@ -14,10 +14,10 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     QTextStream out(stdout);
-    out << CommonUtils::GetPluginLibraryPath() << '\n' << InstallPaths::share() << '\n';
+    out << CommonUtils::GetPluginLibraryPath() << '\n' << HostCore::InstallPaths::share() << '\n';
     for (const QString &argument : application.arguments().mid(1)) {
         const QStringList parts = argument.split(QLatin1Char(':'));
-        if (!Languages::setCurrent(parts.value(0)))
+        if (!HostCore::Languages::setCurrent(parts.value(0)))
             out << "no " << parts.value(0) << ' ';
         out << Change::tr(QLatin1String("Test"), parts.value(1)) << '\n';
     }

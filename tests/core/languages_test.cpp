@@ -66,7 +66,7 @@ class LanguagesTest : public UssdTest
 {
     Q_OBJECT
 protected:
-    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
+    void setUp() override { QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en"))); }
 
 private slots:
     void englishIsThereBeforeAnyLanguageIsChosen();
@@ -88,7 +88,7 @@ private slots:
 
 void LanguagesTest::englishIsThereBeforeAnyLanguageIsChosen()
 {
-    QCOMPARE(Languages::current(), QLatin1String("en"));
+    QCOMPARE(HostCore::Languages::current(), QLatin1String("en"));
     QVERIFY(pluginText("IDS_BUTTON_SEND") != QLatin1String("IDS_BUTTON_SEND"));
 }
 
@@ -96,26 +96,26 @@ void LanguagesTest::allEightLanguagesAreOffered()
 {
     const QStringList wanted =
         QString(QLatin1String("en de fr es pt ru ar zh")).split(QLatin1Char(' '));
-    QCOMPARE(Languages::codes(), wanted);
+    QCOMPARE(HostCore::Languages::codes(), wanted);
 }
 
 void LanguagesTest::theTextFollowsTheLanguageAtOnce()
 {
     const QString english = pluginText("IDS_CANCEL");
-    QVERIFY(Languages::setCurrent(QLatin1String("de")));
-    QCOMPARE(Languages::current(), QLatin1String("de"));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("de")));
+    QCOMPARE(HostCore::Languages::current(), QLatin1String("de"));
     const QString german = pluginText("IDS_CANCEL");
     QVERIFY(german != english);
     QVERIFY(german != QLatin1String("IDS_CANCEL"));
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QCOMPARE(pluginText("IDS_CANCEL"), english);
 }
 
 void LanguagesTest::namesAreThoseOfTheLanguageItself()
 {
-    QCOMPARE(Languages::nativeName(QLatin1String("de")), QLatin1String("Deutsch"));
-    QCOMPARE(Languages::nativeName(QLatin1String("ru")), QString::fromUtf8("Русский"));
-    QCOMPARE(Languages::nativeName(QLatin1String("xx")), QLatin1String("xx"));
+    QCOMPARE(HostCore::Languages::nativeName(QLatin1String("de")), QLatin1String("Deutsch"));
+    QCOMPARE(HostCore::Languages::nativeName(QLatin1String("ru")), QString::fromUtf8("Русский"));
+    QCOMPARE(HostCore::Languages::nativeName(QLatin1String("xx")), QLatin1String("xx"));
 }
 
 void LanguagesTest::anEmptyKeyGivesAnEmptyText()
@@ -139,12 +139,12 @@ void LanguagesTest::anUnknownContextGivesTheKey()
 
 void LanguagesTest::anUnknownLanguageChangesNothing()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("ar")));
     const QString text = pluginText("IDS_CANCEL");
-    QVERIFY(!Languages::setCurrent(QLatin1String("xx")));
-    QVERIFY(!Languages::setCurrent(QString()));
-    QVERIFY(!Languages::setCurrent(QLatin1String("../translations/de")));
-    QCOMPARE(Languages::current(), QLatin1String("ar"));
+    QVERIFY(!HostCore::Languages::setCurrent(QLatin1String("xx")));
+    QVERIFY(!HostCore::Languages::setCurrent(QString()));
+    QVERIFY(!HostCore::Languages::setCurrent(QLatin1String("../translations/de")));
+    QCOMPARE(HostCore::Languages::current(), QLatin1String("ar"));
     QCOMPARE(pluginText("IDS_CANCEL"), text);
     QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
 }
@@ -152,32 +152,32 @@ void LanguagesTest::anUnknownLanguageChangesNothing()
 void LanguagesTest::arabicTurnsTheLayoutAndBack()
 {
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
-    QVERIFY(Languages::setCurrent(QLatin1String("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("ar")));
     QCOMPARE(QApplication::layoutDirection(), Qt::RightToLeft);
-    QVERIFY(Languages::setCurrent(QLatin1String("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("de")));
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
-    QVERIFY(Languages::isRightToLeft(QLatin1String("ar")));
-    QVERIFY(!Languages::isRightToLeft(QLatin1String("de")));
+    QVERIFY(HostCore::Languages::isRightToLeft(QLatin1String("ar")));
+    QVERIFY(!HostCore::Languages::isRightToLeft(QLatin1String("de")));
 }
 
 void LanguagesTest::theDefaultLocaleFollows()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("fr")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("fr")));
     QCOMPARE(QLocale().language(), QLocale::French);
 }
 
 void LanguagesTest::otherThreadsMayAskDuringAChange()
 {
     QStringList possible;
-    for (const QString &code : Languages::codes()) {
-        QVERIFY(Languages::setCurrent(code));
+    for (const QString &code : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(code));
         possible << pluginText("IDS_BUTTON_SEND");
     }
     Reader first(possible);
     Reader second(possible);
     for (int round = 0; round < 30; ++round) {
-        for (const QString &code : Languages::codes())
-            QVERIFY(Languages::setCurrent(code));
+        for (const QString &code : HostCore::Languages::codes())
+            QVERIFY(HostCore::Languages::setCurrent(code));
     }
     QTRY_VERIFY(first.asked() > 0 && second.asked() > 0);
     first.finish();
@@ -187,18 +187,19 @@ void LanguagesTest::otherThreadsMayAskDuringAChange()
 
 void LanguagesTest::everyInstalledFileIsWhole()
 {
-    for (const QString &code : Languages::codes()) {
-        QCOMPARE(Languages::fileState(code), Languages::Whole);
-        QCOMPARE(Languages::content(code), contentOf(Languages::file(code)));
+    for (const QString &code : HostCore::Languages::codes()) {
+        QCOMPARE(HostCore::Languages::fileState(code), HostCore::Languages::Whole);
+        QCOMPARE(HostCore::Languages::content(code), contentOf(HostCore::Languages::file(code)));
     }
-    QCOMPARE(Languages::fileState(QLatin1String("xx")), Languages::NoSuchLanguage);
-    QVERIFY(Languages::content(QLatin1String("xx")).isEmpty());
+    QCOMPARE(HostCore::Languages::fileState(QLatin1String("xx")),
+             HostCore::Languages::NoSuchLanguage);
+    QVERIFY(HostCore::Languages::content(QLatin1String("xx")).isEmpty());
 }
 
 void LanguagesTest::everyDamageIsSeen_data()
 {
     QTest::addColumn<QByteArray>("content");
-    const QByteArray whole = contentOf(Languages::file(QLatin1String("de")));
+    const QByteArray whole = contentOf(HostCore::Languages::file(QLatin1String("de")));
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("first half") << whole.left(whole.size() / 2);
     QTest::newRow("one byte less") << whole.left(whole.size() - 1);
@@ -221,16 +222,16 @@ void LanguagesTest::everyDamageIsSeen_data()
 void LanguagesTest::everyDamageIsSeen()
 {
     QFETCH(QByteArray, content);
-    QVERIFY(!Languages::isWhole(content));
+    QVERIFY(!HostCore::Languages::isWhole(content));
 }
 
 /// The checksum is a section that others pass over.
 void LanguagesTest::anyTranslatorReadsTheFiles()
 {
-    for (const QString &code : Languages::codes()) {
+    for (const QString &code : HostCore::Languages::codes()) {
         QTranslator translator;
-        QVERIFY(translator.load(Languages::file(code)));
-        QVERIFY(Languages::setCurrent(code));
+        QVERIFY(translator.load(HostCore::Languages::file(code)));
+        QVERIFY(HostCore::Languages::setCurrent(code));
         QCOMPARE(translator.translate("USSDUIPlugin", "IDS_CANCEL"), pluginText("IDS_CANCEL"));
     }
 }

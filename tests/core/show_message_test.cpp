@@ -31,7 +31,7 @@ class ShowMessageTest : public UssdTest
 {
     Q_OBJECT
 protected:
-    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
+    void setUp() override { QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en"))); }
     void tearDown() override { QVERIFY(!QApplication::activeModalWidget()); }
 
 private slots:
@@ -138,7 +138,7 @@ void ShowMessageTest::aParentThatDiesIsCancel()
 
 void ShowMessageTest::theButtonsSpeakTheLanguage()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("de")));
     QStringList texts;
     QString caption;
     ask([&](QMessageBox *box) {

@@ -6,8 +6,8 @@
 
 #include "HostState.h"
 #include "Languages.h"
-#include "NetworkMenu.h"
-#include "NoticeBar.h"
+#include "window/NetworkMenu.h"
+#include "window/NoticeBar.h"
 
 namespace
 {
@@ -24,7 +24,7 @@ void DeviceTest::setUp()
 {
     fakeSdkReset();
     QFile::remove(DashboardSettings().file());
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     fakeSdkSetDeviceInfo(modemInfo(TKSV_DEVICE_REGISTERED));
     m_settings.reset(new DashboardSettings);
     m_plugin.reset(new UiPlugin);
@@ -37,7 +37,7 @@ void DeviceTest::tearDown()
     m_plugin.reset();
     m_window.reset();
     m_settings.reset();
-    HostState::setShuttingDown(false);
+    HostCore::HostState::setShuttingDown(false);
     fakeSdkReset();
 }
 

@@ -5,11 +5,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "DashboardSettings.h"
+#include "device/DashboardSettings.h"
 #include "fake_tksv.h"
-#include "MainWindow.h"
-#include "UiPlugin.h"
+#include "plugin/UiPlugin.h"
 #include "UssdTest.h"
+#include "window/MainWindow.h"
 
 /** A dashboard on the device SDK that does what a test says. */
 class DeviceTest : public UssdTest

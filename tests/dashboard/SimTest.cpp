@@ -1,9 +1,9 @@
 #include "SimTest.h"
 
+#include "device/Scenarios.h"
 #include "ExtendDialog.h"
 #include "HostState.h"
 #include "Languages.h"
-#include "Scenarios.h"
 
 namespace
 {
@@ -21,7 +21,7 @@ const struct {
 
 void SimTest::setUp()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QVERIFY(Scenarios::use(QString()).isEmpty());
     makeLibrary();
 }
@@ -37,7 +37,7 @@ void SimTest::closeDashboard()
     m_plugin.reset();
     m_window.reset();
     m_library.reset();
-    HostState::setShuttingDown(false);
+    HostCore::HostState::setShuttingDown(false);
 }
 
 void SimTest::tearDown()

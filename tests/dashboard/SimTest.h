@@ -4,11 +4,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "GeneralWindow.h"
-#include "MainWindow.h"
-#include "PrivateLibrary.h"
-#include "UiPlugin.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/PrivateLibrary.h"
+#include "plugin/UiPlugin.h"
 #include "UssdTest.h"
+#include "window/MainWindow.h"
 
 /** A dashboard on a plug-in library of its own, for tests that change the SIM under it. */
 class SimTest : public UssdTest

@@ -1,7 +1,7 @@
-#include "DashboardText.h"
+#include "base/DashboardText.h"
 #include "DeviceTest.h"
 #include "Languages.h"
-#include "NetworkMenu.h"
+#include "window/NetworkMenu.h"
 
 /** The menu of devices, and the words for what is wrong with them. */
 class DeviceChoiceTest : public DeviceTest
@@ -126,13 +126,13 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage()
     QFETCH(QString, word);
     tell(modemInfo(state, problem, 2));
     QSet<QString> said;
-    for (const QString &code : Languages::codes()) {
+    for (const QString &code : HostCore::Languages::codes()) {
         window().setLanguage(code);
         const QString text = notice("Dashboard_DeviceNotice");
         QVERIFY2(text.contains(word), qPrintable(code + QLatin1Char(' ') + text));
         said << text;
     }
-    QCOMPARE(said.size(), Languages::codes().size());
+    QCOMPARE(said.size(), HostCore::Languages::codes().size());
     QVERIFY(!said.contains(QString()));
 }
 

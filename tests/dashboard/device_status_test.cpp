@@ -1,12 +1,12 @@
 #include <QSignalSpy>
 
-#include "DeviceHeader.h"
-#include "DeviceStatus.h"
-#include "DeviceWatcher.h"
+#include "device/DeviceStatus.h"
+#include "device/DeviceWatcher.h"
+#include "device/Scenarios.h"
 #include "Languages.h"
-#include "Scenarios.h"
 #include "tksv_device.h"
 #include "UssdTest.h"
+#include "window/DeviceHeader.h"
 
 #include <QLabel>
 
@@ -24,7 +24,7 @@ class DeviceStatusTest : public UssdTest
 {
     Q_OBJECT
 protected:
-    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
+    void setUp() override { QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en"))); }
     void tearDown() override { QVERIFY(Scenarios::use(QString()).isEmpty()); }
 
 private slots:

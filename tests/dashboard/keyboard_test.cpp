@@ -3,12 +3,12 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
-#include "GeneralWindow.h"
 #include "HostState.h"
 #include "IUIPlugin.h"
-#include "KeyboardHelper.h"
 #include "Languages.h"
-#include "UiPlugin.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/KeyboardHelper.h"
+#include "plugin/UiPlugin.h"
 #include "UssdTest.h"
 
 namespace
@@ -39,8 +39,8 @@ class KeyboardTest : public UssdTest
 {
     Q_OBJECT
 protected:
-    void setUp() override { QVERIFY(Languages::setCurrent(QLatin1String("en"))); }
-    void tearDown() override { HostState::setShuttingDown(false); }
+    void setUp() override { QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en"))); }
+    void tearDown() override { HostCore::HostState::setShuttingDown(false); }
 
 private slots:
     void returnPressesSend_data();

@@ -7,17 +7,17 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "DashboardSettings.h"
-#include "DashboardText.h"
+#include "base/DashboardText.h"
+#include "device/DashboardSettings.h"
+#include "device/Scenarios.h"
 #include "ExtendDialog.h"
-#include "GeneralWindow.h"
 #include "HostState.h"
 #include "Languages.h"
-#include "MainWindow.h"
-#include "NoticeBar.h"
-#include "Scenarios.h"
-#include "UiPlugin.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/UiPlugin.h"
 #include "UssdTest.h"
+#include "window/MainWindow.h"
+#include "window/NoticeBar.h"
 
 namespace
 {
@@ -67,7 +67,7 @@ private:
 void MainWindowTest::setUp()
 {
     QFile::remove(DashboardSettings().file());
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QVERIFY(Scenarios::use(QString()).isEmpty());
     m_settings.reset(new DashboardSettings);
     m_plugin.reset(new UiPlugin);
@@ -82,7 +82,7 @@ void MainWindowTest::tearDown()
     m_plugin.reset();
     m_window.reset();
     m_settings.reset();
-    HostState::setShuttingDown(false);
+    HostCore::HostState::setShuttingDown(false);
     qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
 }
 
@@ -205,7 +205,7 @@ void MainWindowTest::aChosenLanguageIsRemembered()
     m_window->setLanguage(QLatin1String("fr"));
     m_window->setLanguage(QLatin1String("xx"));
     QCOMPARE(m_settings->language(), QLatin1String("fr"));
-    QCOMPARE(Languages::current(), QLatin1String("fr"));
+    QCOMPARE(HostCore::Languages::current(), QLatin1String("fr"));
 }
 
 void MainWindowTest::aLanguageWithoutItsFileIsSaid()
@@ -218,7 +218,7 @@ void MainWindowTest::aLanguageWithoutItsFileIsSaid()
         m_window->findChild<NoticeBar *>(QLatin1String("Dashboard_Problems"));
     QVERIFY(problems);
     QCOMPARE(problems->text(),
-             dashboardText("LANGUAGE_MISSING").arg(Languages::file(QLatin1String("xx"))));
+             dashboardText("LANGUAGE_MISSING").arg(HostCore::Languages::file(QLatin1String("xx"))));
     QVERIFY(networkAction(QLatin1String("English"))->isChecked());
 }
 

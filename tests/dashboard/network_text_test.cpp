@@ -4,9 +4,9 @@
 #include <cstring>
 
 #include "DeviceTest.h"
-#include "GeneralWindow.h"
-#include "NetworkTextPanel.h"
-#include "PaidTypeFinder.h"
+#include "plugin/GeneralWindow.h"
+#include "sim/PaidTypeFinder.h"
+#include "window/NetworkTextPanel.h"
 
 /** What the network says of its own accord. */
 class NetworkTextTest : public DeviceTest

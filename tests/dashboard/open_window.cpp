@@ -9,11 +9,11 @@
 #include <cstdio>
 
 #include "Arguments.h"
-#include "DashboardSettings.h"
-#include "GeneralWindow.h"
+#include "device/DashboardSettings.h"
 #include "IUSSD.h"
-#include "MainWindow.h"
+#include "plugin/GeneralWindow.h"
 #include "Program.h"
+#include "window/MainWindow.h"
 
 namespace
 {

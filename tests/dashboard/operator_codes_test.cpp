@@ -5,12 +5,12 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 
-#include "DashboardSettings.h"
+#include "device/DashboardSettings.h"
 #include "InstallPaths.h"
-#include "NetworkMenu.h"
-#include "NoticeBar.h"
-#include "OperatorCodes.h"
+#include "sim/OperatorCodes.h"
 #include "SimTest.h"
+#include "window/NetworkMenu.h"
+#include "window/NoticeBar.h"
 
 namespace
 {
@@ -115,7 +115,7 @@ void OperatorCodesTest::choose(const QString &name)
 
 QString OperatorCodesTest::configuration() const
 {
-    return InstallPaths::pluginLibrary() +
+    return HostCore::InstallPaths::pluginLibrary() +
            QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
 }
 
@@ -268,7 +268,8 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
     window().networkMenu()->actions().last()->trigger();
     choose(QLatin1String("The codes that come"));
     QCOMPARE(inUse(), QString());
-    QCOMPARE(InstallPaths::pluginLibrary(), InstallPaths::installedPluginLibrary());
+    QCOMPARE(HostCore::InstallPaths::pluginLibrary(),
+             HostCore::InstallPaths::installedPluginLibrary());
     QTRY_VERIFY(!offered().contains(QLatin1String("prepaid")));
 }
 

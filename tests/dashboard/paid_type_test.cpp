@@ -1,8 +1,8 @@
 #include <QSignalSpy>
 
 #include "IUSSD.h"
-#include "NotificationService.h"
 #include "PluginContract.h"
+#include "sim/NotificationService.h"
 #include "SimTest.h"
 #include "Startup.h"
 
@@ -91,10 +91,10 @@ void PaidTypeTest::theServiceTellsWhatTheRecordSays_data()
     QTest::addColumn<bool>("postpaid");
     QTest::addColumn<int>("result");
     QTest::addColumn<int>("type");
-    QTest::newRow("prepaid") << true << false << 1 << int(PAID_BEFORE);
-    QTest::newRow("postpaid") << true << true << 1 << int(PAID_AFTER);
-    QTest::newRow("time-out") << true << true << 0 << int(PAID_UNKNOWN);
-    QTest::newRow("not in use") << false << false << 1 << int(PAID_UNKNOWN);
+    QTest::newRow("prepaid") << true << false << 1 << int(PaidType::Prepaid);
+    QTest::newRow("postpaid") << true << true << 1 << int(PaidType::Postpaid);
+    QTest::newRow("time-out") << true << true << 0 << int(PaidType::Unknown);
+    QTest::newRow("not in use") << false << false << 1 << int(PaidType::Unknown);
 }
 
 void PaidTypeTest::theServiceTellsWhatTheRecordSays()

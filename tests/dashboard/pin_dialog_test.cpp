@@ -1,7 +1,7 @@
 #include <QLineEdit>
 
 #include "DeviceTest.h"
-#include "PinDialog.h"
+#include "window/PinDialog.h"
 
 /** The PIN of a locked SIM, from the button to the device. */
 class PinDialogTest : public DeviceTest

@@ -1,9 +1,9 @@
-#include "DashboardText.h"
+#include "base/DashboardText.h"
 #include "HostState.h"
 #include "IUIPlugin.h"
 #include "IUSSD.h"
 #include "Languages.h"
-#include "UiPlugin.h"
+#include "plugin/UiPlugin.h"
 #include "UssdTest.h"
 
 Q_DECLARE_METATYPE(PluginFailure::Step)
@@ -33,7 +33,7 @@ class PluginLoadingTest : public UssdTest
     Q_OBJECT
 protected:
     void setUp() override;
-    void tearDown() override { HostState::setShuttingDown(false); }
+    void tearDown() override { HostCore::HostState::setShuttingDown(false); }
 
 private slots:
     void theInstalledPluginLoads();
@@ -65,7 +65,7 @@ private:
 
 void PluginLoadingTest::setUp()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     qApp->setProperty("calls", QStringList());
 }
 
@@ -258,8 +258,8 @@ void PluginLoadingTest::aRestartTakesEverythingDownAndAsksForTheServiceAgain()
 
 void PluginLoadingTest::everyStepHasWordsOfItsOwn()
 {
-    for (const QString &code : Languages::codes()) {
-        QVERIFY(Languages::setCurrent(code));
+    for (const QString &code : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(code));
         QStringList texts;
         for (int step = PluginFailure::FileMissing; step <= PluginFailure::NoService; ++step) {
             PluginFailure failure;

@@ -7,9 +7,9 @@
 #include <QTimer>
 
 #include "OddFiles.h"
-#include "ProfileBackup.h"
-#include "ProfileKeeper.h"
+#include "plugin/ProfileBackup.h"
 #include "SimTest.h"
+#include "window/ProfileKeeper.h"
 
 namespace
 {

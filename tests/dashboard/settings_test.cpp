@@ -2,7 +2,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "DashboardSettings.h"
+#include "device/DashboardSettings.h"
 #include "UssdTest.h"
 
 namespace

@@ -1,8 +1,8 @@
 #include <QSignalSpy>
 
 #include "IUSSD.h"
+#include "sim/SimWindows.h"
 #include "SimTest.h"
-#include "SimWindows.h"
 
 namespace
 {

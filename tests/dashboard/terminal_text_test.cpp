@@ -26,7 +26,7 @@ void TerminalTextTest::readableTextStaysAsItIs_data()
 void TerminalTextTest::readableTextStaysAsItIs()
 {
     QFETCH(QString, text);
-    QCOMPARE(terminalText(text), text);
+    QCOMPARE(HostCore::terminalText(text), text);
 }
 
 void TerminalTextTest::noControlCharacterPasses()
@@ -35,7 +35,7 @@ void TerminalTextTest::noControlCharacterPasses()
         if ((unit >= 0x20 && unit < 0x7f) || unit == '\n' || unit == '\t' || unit == '\r')
             continue;
         const QString text = QLatin1Char('a') + QString(QChar(unit)) + QLatin1Char('z');
-        QCOMPARE(terminalText(text), QString::fromUtf8("a\xef\xbf\xbdz"));
+        QCOMPARE(HostCore::terminalText(text), QString::fromUtf8("a\xef\xbf\xbdz"));
     }
 }
 
@@ -43,7 +43,7 @@ void TerminalTextTest::noDirectionOverridePasses()
 {
     for (const ushort unit :
          {0x202a, 0x202b, 0x202c, 0x202d, 0x202e, 0x2066, 0x2067, 0x2068, 0x2069})
-        QCOMPARE(terminalText(QString(QChar(unit))), QString(QChar(0xfffd)));
+        QCOMPARE(HostCore::terminalText(QString(QChar(unit))), QString(QChar(0xfffd)));
 }
 
 void TerminalTextTest::lineEndsBecomeLineFeeds_data()
@@ -58,7 +58,8 @@ void TerminalTextTest::lineEndsBecomeLineFeeds_data()
 void TerminalTextTest::lineEndsBecomeLineFeeds()
 {
     QFETCH(QString, end);
-    QCOMPARE(terminalText(QLatin1String("1") + end + QLatin1String("2")), QLatin1String("1\n2"));
+    QCOMPARE(HostCore::terminalText(QLatin1String("1") + end + QLatin1String("2")),
+             QLatin1String("1\n2"));
 }
 
 USSD_TEST_MAIN(TerminalTextTest)

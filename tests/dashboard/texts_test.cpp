@@ -2,7 +2,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "DashboardText.h"
+#include "base/DashboardText.h"
 #include "Languages.h"
 #include "UssdTest.h"
 
@@ -49,8 +49,8 @@ void TextsTest::everyKeyOfTheSourcesHasATextInEveryLanguage()
 {
     const QStringList keys = keysOfSources();
     QVERIFY(keys.size() > 50);
-    for (const QString &code : Languages::codes()) {
-        QVERIFY(Languages::setCurrent(code));
+    for (const QString &code : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(code));
         for (const QString &key : keys)
             QVERIFY2(dashboardText(key.toLatin1().constData()) != key,
                      qPrintable(code + QLatin1Char(' ') + key));
@@ -59,8 +59,8 @@ void TextsTest::everyKeyOfTheSourcesHasATextInEveryLanguage()
 
 void TextsTest::theHelpNamesEveryOption()
 {
-    for (const QString &code : Languages::codes()) {
-        QVERIFY(Languages::setCurrent(code));
+    for (const QString &code : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(code));
         const QString help = dashboardText("CLI_HELP");
         for (const char *option : {"--send", "--tour", "--scenario", "--modem", "--language",
                                    "--verbose", "--log", "--help", "--version"})

@@ -16,9 +16,9 @@
 
 #include <cstdio>
 
-#include "GeneralWindow.h"
-#include "MainWindow.h"
-#include "NoticeBar.h"
+#include "plugin/GeneralWindow.h"
+#include "window/MainWindow.h"
+#include "window/NoticeBar.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
-#include "DashboardSettings.h"
+#include "device/DashboardSettings.h"
 #include "DiskFaults.h"
-#include "ProfileBackup.h"
+#include "plugin/ProfileBackup.h"
 #include "USSDEditCmd.h"
 #include "UssdTest.h"
 

@@ -11,8 +11,8 @@
 namespace
 {
 
-const int kAttributes = ATTR_URL + 1;
-const int kComponents = COMPONENT_MSISDN + 1;
+const int ATTRIBUTES = ATTR_URL + 1;
+const int COMPONENTS = COMPONENT_MSISDN + 1;
 
 bool same(const Char &a, const Char &b)
 {
@@ -38,8 +38,8 @@ void checkAttributes(USSDLogic &logic, bool alsoUnknown)
 {
     const int beyond = alsoUnknown ? 1 : 0;
     for (int paidType = 0 - beyond; paidType <= 1 + beyond; ++paidType)
-        for (int component = 0; component < kComponents + beyond; ++component)
-            for (int attribute = 0; attribute < kAttributes + beyond; ++attribute)
+        for (int component = 0; component < COMPONENTS + beyond; ++component)
+            for (int attribute = 0; attribute < ATTRIBUTES + beyond; ++attribute)
                 checkAttribute(logic, paidType, component, attribute);
 }
 

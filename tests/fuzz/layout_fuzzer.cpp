@@ -10,9 +10,9 @@
 namespace
 {
 
-const int kMostGroups = 500;
-const int kMostControls = 6;
-const int kMostComplaints = 21; // and the one about the file's form
+const int MOST_GROUPS = 500;
+const int MOST_CONTROLS = 6;
+const int MOST_COMPLAINTS = 21; // and the one about the file's form
 
 void checkGeometry(const QRect &rect)
 {
@@ -27,14 +27,14 @@ void checkControl(const CWidgetItemInfo &control, int dialogWidth)
     checkGeometry(SmsLayoutFile::geometry(control, dialogWidth, true));
     const QRegExp pattern = SmsLayoutFile::inputPattern(control);
     FUZZ_REQUIRE(pattern.isValid());
-    const QString tooLong(SmsLayoutFile::kMaxInputLength + 1, QLatin1Char('1'));
+    const QString tooLong(SmsLayoutFile::MAX_INPUT_LENGTH + 1, QLatin1Char('1'));
     FUZZ_REQUIRE(!pattern.exactMatch(tooLong));
     FUZZ_REQUIRE(pattern.exactMatch(QString()));
 }
 
 void checkGroup(const CWidget &group, int dialogWidth)
 {
-    FUZZ_REQUIRE(group.controls.count() <= kMostControls);
+    FUZZ_REQUIRE(group.controls.count() <= MOST_CONTROLS);
     for (const CWidgetItemInfo *control : group.controls)
         checkControl(*control, dialogWidth);
 }
@@ -42,7 +42,7 @@ void checkGroup(const CWidget &group, int dialogWidth)
 /// The tree has two levels, its root first.
 void checkTree(const SmsLayout &layout)
 {
-    FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::kMaxOrdinaryEntries);
+    FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::MAX_ORDINARY_ENTRIES);
     FUZZ_REQUIRE(layout.entries.count() <= layout.ordinaryEntries + 1);
     for (const CTreeItem *entry : layout.entries) {
         FUZZ_REQUIRE(entry != nullptr);
@@ -53,11 +53,11 @@ void checkTree(const SmsLayout &layout)
 void check(const SmsLayout &layout)
 {
     const QSize size = SmsLayoutFile::windowSize(layout.dialog);
-    FUZZ_REQUIRE(size.width() >= 0 && size.width() <= SmsLayoutFile::kMaxWindowSide);
-    FUZZ_REQUIRE(size.height() >= 0 && size.height() <= SmsLayoutFile::kMaxWindowSide);
+    FUZZ_REQUIRE(size.width() >= 0 && size.width() <= SmsLayoutFile::MAX_WINDOW_SIDE);
+    FUZZ_REQUIRE(size.height() >= 0 && size.height() <= SmsLayoutFile::MAX_WINDOW_SIDE);
     checkGeometry(SmsLayoutFile::geometry(layout.tree, size.width(), true));
-    FUZZ_REQUIRE(layout.groups.count() <= kMostGroups);
-    FUZZ_REQUIRE(layout.complaints.count() <= kMostComplaints);
+    FUZZ_REQUIRE(layout.groups.count() <= MOST_GROUPS);
+    FUZZ_REQUIRE(layout.complaints.count() <= MOST_COMPLAINTS);
     checkTree(layout);
     for (const CWidget *group : layout.groups)
         checkGroup(*group, size.width());

@@ -20,7 +20,7 @@
 namespace
 {
 
-const int kMostProviders = 20; // of an input, to be gone through
+const int MOST_PROVIDERS = 20; // of an input, to be gone through
 
 QByteArray shipped;
 
@@ -134,7 +134,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
     const ProviderDatabase database = readProviderDatabase(file);
     FUZZ_REQUIRE(database.error.isEmpty() || database.providers.isEmpty());
-    for (const Provider &provider : database.providers.mid(0, kMostProviders)) {
+    for (const Provider &provider : database.providers.mid(0, MOST_PROVIDERS)) {
         checkProvider(provider);
         checkPlan(provider);
         checkChoice(database, provider);

@@ -13,12 +13,12 @@
 namespace
 {
 
-const QChar kEmbed(0x202A);
-const QChar kPop(0x202C);
+const QChar EMBED(0x202A);
+const QChar POP(0x202C);
 
 QString withoutMarks(QString text)
 {
-    return text.remove(kEmbed).remove(kPop);
+    return text.remove(EMBED).remove(POP);
 }
 
 /// Nothing but letters in paragraphs: no picture, link, table or frame.

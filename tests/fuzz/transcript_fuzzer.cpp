@@ -15,8 +15,8 @@
 namespace
 {
 
-const int kMostTables = 8;
-const QChar kNextEntry(0x1E); // in an input
+const int MOST_TABLES = 8;
+const QChar NEXT_ENTRY(0x1E); // in an input
 
 /// Does what QTextEdit would do with files: nothing of that may be asked for.
 class WatchedView : public TranscriptView
@@ -50,7 +50,7 @@ int tablesIn(const QTextFrame *frame)
 /// What must not be laid out, whatever the text did to hide it.
 void checkCost(const QTextDocument &document)
 {
-    FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= kMostTables);
+    FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= MOST_TABLES);
 }
 
 /// A second view that got the same entries shows the same.
@@ -94,7 +94,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         asUtf8 ? QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size))
                : FuzzSupport::units(data, size);
     QString markup;
-    const QStringList texts = text.split(kNextEntry);
+    const QStringList texts = text.split(NEXT_ENTRY);
     const QString shown = shownBy(texts, &markup);
     FUZZ_REQUIRE(shown == shownAtOnce(markup));
     return 0;

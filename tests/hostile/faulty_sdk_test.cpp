@@ -184,8 +184,8 @@ void FaultySdkTest::callBackDuringTheEndIsSurvived()
 
 void FaultySdkTest::textWithoutItsZeroUnitEndsSomewhere()
 {
-    const std::vector<unsigned short> units = unitsWithoutEnd(SdkRecords::kMostUnits + 1000);
-    QCOMPARE(SdkRecords::textFromUnits(units.data()).length(), SdkRecords::kMostUnits);
+    const std::vector<unsigned short> units = unitsWithoutEnd(SdkRecords::MOST_UNITS + 1000);
+    QCOMPARE(SdkRecords::textFromUnits(units.data()).length(), SdkRecords::MOST_UNITS);
 }
 
 void FaultySdkTest::blockingRequestIsWaitedFor()

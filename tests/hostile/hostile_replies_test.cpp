@@ -16,8 +16,8 @@
 namespace
 {
 
-const int kMillion = 1000000;
-const char kBait[] = "bait"; // in the name of each file that a reply asks for
+const int MILLION = 1000000;
+const char BAIT[] = "bait"; // in the name of each file that a reply asks for
 
 QString latin1(const char *text)
 {
@@ -143,14 +143,14 @@ void HostileRepliesTest::addAttacks()
     add("large picture", latin1("<img width=2147483647 height=2147483647 src=x>"));
     add("ampersands", QString(10000, QLatin1Char('&')));
     add("less-than signs", QString(10000, QLatin1Char('<')));
-    add("a million letters", QString(kMillion, QLatin1Char('x')));
-    add("a million characters of tables", repeated(latin1("<table><tr><td>"), kMillion));
-    add("a million line feeds", QString(kMillion, QLatin1Char('\n')));
+    add("a million letters", QString(MILLION, QLatin1Char('x')));
+    add("a million characters of tables", repeated(latin1("<table><tr><td>"), MILLION));
+    add("a million line feeds", QString(MILLION, QLatin1Char('\n')));
 }
 
 QString HostileRepliesTest::baitPath(const char *name)
 {
-    return folder() + QLatin1Char('/') + latin1(kBait) + latin1(name);
+    return folder() + QLatin1Char('/') + latin1(BAIT) + latin1(name);
 }
 
 /// "FILE" stands for a file that is there.
@@ -164,7 +164,7 @@ QStringList HostileRepliesTest::baitsTouched()
     QStringList touched;
     for (const std::string &call : SystemCalls::seen()) {
         const QString text = QString::fromStdString(call);
-        if (text.contains(latin1(kBait)) || !text.startsWith(latin1("open ")))
+        if (text.contains(latin1(BAIT)) || !text.startsWith(latin1("open ")))
             touched << text;
     }
     return touched;
@@ -327,13 +327,13 @@ void HostileRepliesTest::labelOutlivesReply()
 void HostileRepliesTest::memoryComesBack()
 {
     open();
-    const QString reply = repeated(latin1("twelve letters <b>"), kMillion);
+    const QString reply = repeated(latin1("twelve letters <b>"), MILLION);
     qint64 warm = 0;
     for (int round = 0; round < 6; ++round) {
         send(latin1("*100#"));
         networkSays(reply);
         waitUntilShown();
-        QVERIFY(history()->document()->characterCount() > kMillion);
+        QVERIFY(history()->document()->characterCount() > MILLION);
         click(clearButton());
         drainEvents();
         clearLog(); // which holds each reply
@@ -343,7 +343,7 @@ void HostileRepliesTest::memoryComesBack()
     }
     const qint64 grown = residentBytes() - warm;
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    QVERIFY2(grown < 2 * qint64(kMillion) * 2, qPrintable(QString::number(grown)));
+    QVERIFY2(grown < 2 * qint64(MILLION) * 2, qPrintable(QString::number(grown)));
 #endif
     Q_UNUSED(grown);
 }

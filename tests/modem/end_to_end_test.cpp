@@ -148,7 +148,7 @@ void EndToEndTest::tearDownClass()
 
 void EndToEndTest::setUp()
 {
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     makeLibrary();
     QCOMPARE(m_world->useScenario("one", NETWORK), std::string());
     fake().behave();

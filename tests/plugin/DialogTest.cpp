@@ -16,7 +16,7 @@ void DialogTest::tearDown()
     delete m_dialog;
     m_page.reset();
     PluginTest::tearDown();
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 

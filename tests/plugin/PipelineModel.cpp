@@ -3,7 +3,7 @@
 namespace
 {
 
-const int kMaxUnits = 91;
+const int MAX_UNITS = 91;
 
 } // namespace
 
@@ -17,7 +17,7 @@ int PipelineModel::send(int component, const QString &command)
 int PipelineModel::handOverHead()
 {
     const QString command = m_list.first().second;
-    if (command.length() > kMaxUnits) {
+    if (command.length() > MAX_UNITS) {
         m_list.removeFirst();
         return 1;
     }

@@ -50,7 +50,7 @@ void PrepaidTest::tearDown()
 {
     m_frame.reset();
     PluginTest::tearDown();
-    QVERIFY(Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 

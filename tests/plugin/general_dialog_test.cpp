@@ -393,7 +393,7 @@ void GeneralDialogTest::editButtonIsHiddenUnlessConfigured()
 
 void GeneralDialogTest::codesReadFromLeftToRightInArabic()
 {
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     QCOMPARE(dialog()->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(commandEdit()->layoutDirection(), Qt::LeftToRight);
@@ -912,7 +912,7 @@ void GeneralDialogTest::lineBreakInACommandIsShownAsBr()
 
 void GeneralDialogTest::rightToLeftParagraphsSaySo()
 {
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     send(latin1("*100#"));
     networkSays(latin1("12"));
@@ -1190,7 +1190,7 @@ void GeneralDialogTest::allTextsFollowTheLanguage()
     open();
     const QString before = sendButton()->text();
     for (const char *code : {"de", "ar", "zh", "en"}) {
-        QVERIFY(Languages::setCurrent(latin1(code)));
+        QVERIFY(HostCore::Languages::setCurrent(latin1(code)));
         dialog()->SetLanguage();
         QCOMPARE(dialog()->windowTitle(), text("IDS_ADVANCE_USSD"));
         QCOMPARE(part<QLabel>("InfoLabel")->text(), text("IDC_STATIC_USSDTIP"));
@@ -1206,11 +1206,11 @@ void GeneralDialogTest::allTextsFollowTheLanguage()
 void GeneralDialogTest::promptFollowsTheLanguageOnlyWhenShown()
 {
     open();
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     dialog()->SetLanguage();
     QCOMPARE(promptLabel()->text(), QString());
     send(latin1("*100#"));
-    QVERIFY(Languages::setCurrent(latin1("fr")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("fr")));
     dialog()->SetLanguage();
     QCOMPARE(promptLabel()->text(), text("IDS_TOP_PROMPT"));
     QVERIFY(isWaiting());
@@ -1222,7 +1222,7 @@ void GeneralDialogTest::transcriptKeepsItsLanguage()
     send(latin1("*100#"));
     networkSays(latin1("12"));
     const QString shown = history()->toHtml();
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     dialog()->SetLanguage();
     QCOMPARE(history()->toHtml(), shown);
     send(latin1("*101#"));
@@ -1234,7 +1234,7 @@ void GeneralDialogTest::descriptionFollowsTheLanguage()
 {
     open();
     combo()->setEditText(latin1("*100#"));
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     dialog()->SetLanguage();
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
 }

@@ -62,7 +62,7 @@ void HooksTest::start()
 
 void HooksTest::tearDown()
 {
-    HostState::setShuttingDown(false);
+    HostCore::HostState::setShuttingDown(false);
     m_listener.reset();
     PluginTest::tearDown();
 }
@@ -258,7 +258,7 @@ void HooksTest::unknownSmsEventIsLogged()
 
 void HooksTest::smsEventDuringShutDownIsIgnored()
 {
-    HostState::setShuttingDown(true);
+    HostCore::HostState::setShuttingDown(true);
     fakeSdkRaiseSmsStatus(7);
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Sms, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Sms).at(0).result), 1);
@@ -270,7 +270,7 @@ void HooksTest::smsEventDuringShutDownIsIgnored()
 
 void HooksTest::sendResultDuringShutDownIsIgnored()
 {
-    HostState::setShuttingDown(true);
+    HostCore::HostState::setShuttingDown(true);
     fakeSdkRaiseSmsResult(0, u"1200", u"WEATHER");
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Sms, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Sms).at(0).result), 1);

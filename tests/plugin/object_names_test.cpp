@@ -21,9 +21,9 @@
 namespace
 {
 
-const char kTableBegin[] = "<!-- object names: begin -->\n";
-const char kTableEnd[] = "<!-- object names: end -->\n";
-const int kUssdService = 4097;
+const char TABLE_BEGIN[] = "<!-- object names: begin -->\n";
+const char TABLE_END[] = "<!-- object names: end -->\n";
+const int USSD_SERVICE = 4097;
 
 /// One line of the table. The windows are those that have such a child, in the order of opening.
 struct Row {
@@ -86,12 +86,12 @@ void ObjectNamesTest::setUp()
     m_window.reset(new QWidget);
     m_window->resize(700, 600);
     m_window->show();
-    HostState::setMainWindow(m_window.data());
+    HostCore::HostState::setMainWindow(m_window.data());
     m_loader.setFileName(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
     m_plugin = qobject_cast<IUIPlugin *>(m_loader.instance());
     QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
     QObject *service = nullptr;
-    QVERIFY(m_plugin->QueryInterface(kUssdService, &service));
+    QVERIFY(m_plugin->QueryInterface(USSD_SERVICE, &service));
     m_ussd = qobject_cast<IUSSD *>(service);
     QVERIFY(m_ussd);
 }
@@ -104,7 +104,7 @@ void ObjectNamesTest::tearDown()
     }
     delete m_loader.instance();
     m_loader.unload();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_window.reset();
     fakeSdkReset();
 }
@@ -191,7 +191,7 @@ QString ObjectNamesTest::documentedTable()
     if (!file.open(QIODevice::ReadOnly))
         return QString();
     const QString text = QString::fromUtf8(file.readAll());
-    return text.section(QLatin1String(kTableBegin), 1).section(QLatin1String(kTableEnd), 0, 0);
+    return text.section(QLatin1String(TABLE_BEGIN), 1).section(QLatin1String(TABLE_END), 0, 0);
 }
 
 void ObjectNamesTest::documentListsEveryObjectName()

@@ -15,7 +15,7 @@
 namespace
 {
 
-const int kNoPatience = 60000; // a limit that no test reaches
+const int NO_PATIENCE = 60000; // a limit that no test reaches
 
 std::atomic<qint64> now(0);
 
@@ -169,7 +169,7 @@ void PipelineTest::setUp()
     static const ReplyTimes shipped = USSDLogic::replyTimes(); // before any test has set others
     m_shippedTimes = shipped;
     PluginTest::setUp();
-    setTimes(kNoPatience, kNoPatience);
+    setTimes(NO_PATIENCE, NO_PATIENCE);
     m_logic = USSDLogic::GetUSSDLogicInstance();
     m_listener.reset(new LogicListener(m_logic));
     m_status = 0;
@@ -222,7 +222,7 @@ QStringList PipelineTest::linesOf(const char *function)
 bool PipelineTest::sendsWithoutWaiting()
 {
     const int wait = 20000; // passes only when the answer is no
-    setTimes(kNoPatience, wait);
+    setTimes(NO_PATIENCE, wait);
     QElapsedTimer elapsed;
     elapsed.start();
     const int result = send(5, QStringLiteral("*9#"));
@@ -385,7 +385,7 @@ void PipelineTest::commandAfterARefusalIsSentAgain()
 
 void PipelineTest::missingReplyIsAnsweredByTimeOut()
 {
-    setTimes(5, kNoPatience);
+    setTimes(5, NO_PATIENCE);
     send(3, QStringLiteral("*1#"));
     QCOMPARE(nextAnswer(), answer(3, timeOutText()));
     drainEvents();
@@ -398,7 +398,7 @@ void PipelineTest::timeOutSendsTheNextCommand()
     fakeSdkScript({fakeSilence(), fakeReply(u"two")});
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    letTimePass(kNoPatience);
+    letTimePass(NO_PATIENCE);
     QCOMPARE(nextAnswer(), answer(3, timeOutText()));
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
 }
@@ -407,7 +407,7 @@ void PipelineTest::commandSentBySdkThreadTimesOutToo()
 {
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    setTimes(5, kNoPatience); // for the second one
+    setTimes(5, NO_PATIENCE); // for the second one
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
     QCOMPARE(nextAnswer(), answer(0, timeOutText()));
@@ -434,10 +434,10 @@ void PipelineTest::timeOutSlotAnswersTheHead()
 
 void PipelineTest::lateReplyAnswersNextHead()
 {
-    setTimes(5, kNoPatience);
+    setTimes(5, NO_PATIENCE);
     send(3, QStringLiteral("*1#"));
     QCOMPARE(nextAnswer(), answer(3, timeOutText()));
-    setTimes(kNoPatience, kNoPatience);
+    setTimes(NO_PATIENCE, NO_PATIENCE);
     send(0, QStringLiteral("*2#"));
     fakeSdkRespond(u"late one");
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("late one")));
@@ -456,7 +456,7 @@ void PipelineTest::replyThatBeatsTheTimerLeavesItStopped()
 void PipelineTest::sendWaitsForTheEarlierTimeOut()
 {
     const int wait = 40;
-    setTimes(kNoPatience, wait);
+    setTimes(NO_PATIENCE, wait);
     send(5, QStringLiteral("*1#"));
     USSDLogic::ClearQueuedCmds();
     QElapsedTimer elapsed;
@@ -477,7 +477,7 @@ void PipelineTest::replyEndsTheWaitForTheEarlierTimeOut()
     QElapsedTimer elapsed;
     elapsed.start();
     QCOMPARE(send(0, QStringLiteral("*2#")), 0);
-    QVERIFY(elapsed.elapsed() < kNoPatience / 2);
+    QVERIFY(elapsed.elapsed() < NO_PATIENCE / 2);
     network.join();
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
 }
@@ -561,9 +561,9 @@ void PipelineTest::replyForAClearedCommandAnswersTheHead()
 void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
     stopClock();
-    setTimes(kNoPatience, 1);
+    setTimes(NO_PATIENCE, 1);
     FakeAnswer blocked = fakeSilence();
-    blocked.block = std::chrono::milliseconds(kNoPatience);
+    blocked.block = std::chrono::milliseconds(NO_PATIENCE);
     fakeSdkScript({fakeSilence(), blocked});
     send(5, QStringLiteral("*1#"));
     send(5, QStringLiteral("*2#"));
@@ -574,15 +574,15 @@ void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
     fakeSdkUnblock();
     QVERIFY(fakeSdkWaitIdle());
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
-    letTimePass(kNoPatience);
+    letTimePass(NO_PATIENCE);
     QCOMPARE(nextAnswer(), answer(4, timeOutText()));
 }
 
 void PipelineTest::commandClearedWhileItWaitedIsNotSent()
 {
-    setTimes(kNoPatience, 1);
+    setTimes(NO_PATIENCE, 1);
     FakeAnswer blocked = fakeSilence();
-    blocked.block = std::chrono::milliseconds(kNoPatience);
+    blocked.block = std::chrono::milliseconds(NO_PATIENCE);
     fakeSdkScript({blocked, fakeSilence(), fakeSilence()});
     int status[3] = {0, 0, 0};
     std::vector<std::thread> senders;
@@ -608,7 +608,7 @@ void PipelineTest::commandClearedWhileItWaitedIsNotSent()
 /// The call-back removes the command that it announced, not the one that stands there by then.
 void PipelineTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 {
-    setTimes(kNoPatience, 1);
+    setTimes(NO_PATIENCE, 1);
     Interloper interloper;
     connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
             SLOT(stopHere(int, QString)), Qt::DirectConnection);
@@ -627,9 +627,9 @@ void PipelineTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 
 void PipelineTest::oneRequestAtATimeIsUnderWay()
 {
-    setTimes(kNoPatience, 1);
+    setTimes(NO_PATIENCE, 1);
     FakeAnswer blocked = fakeSilence();
-    blocked.block = std::chrono::milliseconds(kNoPatience);
+    blocked.block = std::chrono::milliseconds(NO_PATIENCE);
     fakeSdkScript({fakeSilence(), blocked, fakeSilence()});
     send(5, QStringLiteral("*1#"));
     send(5, QStringLiteral("*2#"));
@@ -676,7 +676,7 @@ void PipelineTest::destroyEndsTheWaitForTheEarlierTimeOut()
     QElapsedTimer elapsed;
     elapsed.start();
     USSDLogic::Destroy();
-    QVERIFY(elapsed.elapsed() < kNoPatience / 2);
+    QVERIFY(elapsed.elapsed() < NO_PATIENCE / 2);
 }
 
 // ---- the device ----------------------------------------------------------------------------
@@ -695,7 +695,7 @@ void PipelineTest::releaseLeavesTheTimeOutRunning()
     send(5, QStringLiteral("*1#"));
     QCOMPARE(m_logic->ReleaseUSSDCommand(), 0);
     QVERIFY(m_logic->findChild<ReplyTimer *>()->isArmed());
-    letTimePass(kNoPatience);
+    letTimePass(NO_PATIENCE);
     QCOMPARE(nextAnswer(), answer(5, timeOutText()));
 }
 
@@ -854,7 +854,7 @@ void PipelineTest::timeOutReceiverMayShutDown()
     Interloper interloper;
     connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
             SLOT(shutDown(int, QString)));
-    setTimes(5, kNoPatience);
+    setTimes(5, NO_PATIENCE);
     send(5, QStringLiteral("*1#"));
     QPointer<USSDLogic> logic(m_logic);
     QTRY_VERIFY(!logic);

@@ -83,13 +83,13 @@ void PrepaidBoxTest::setUp()
     PrepaidTest::setUp();
     m_mainWindow.reset(new QWidget);
     m_mainWindow->show();
-    HostState::setMainWindow(m_mainWindow.data());
+    HostCore::HostState::setMainWindow(m_mainWindow.data());
 }
 
 void PrepaidBoxTest::tearDown()
 {
     PrepaidTest::tearDown();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_mainWindow.reset();
     QVERIFY(!QApplication::activeModalWidget());
 }
@@ -154,7 +154,7 @@ void PrepaidBoxTest::boxFollowsTheLanguage()
 {
     openReady();
     openBox();
-    QVERIFY(Languages::setCurrent(QStringLiteral("fr")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("fr")));
     dialog()->SetLanguage();
     QCOMPARE(messageBox()->windowTitle(), text("IDS_PROMPT_CAPTION"));
     QCOMPARE(messageBox()->buttons().first()->text(), text("IDS_BUTTON_OK"));

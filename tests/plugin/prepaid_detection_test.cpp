@@ -119,13 +119,13 @@ void PrepaidDetectionTest::setUp()
     m_notifications.reset(new Notifications);
     m_container.reset(new Container);
     m_container->plugin = m_notifications.data();
-    HostState::setPluginContainer(m_container.data());
+    HostCore::HostState::setPluginContainer(m_container.data());
     configure(Account(), Account(), DIGIT);
 }
 
 void PrepaidDetectionTest::tearDown()
 {
-    HostState::setPluginContainer(nullptr);
+    HostCore::HostState::setPluginContainer(nullptr);
     PrepaidTest::tearDown();
     m_container.reset();
     m_notifications.reset();
@@ -347,7 +347,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 
 void PrepaidDetectionTest::withoutAContainerItIsLogged()
 {
-    HostState::setPluginContainer(nullptr);
+    HostCore::HostState::setPluginContainer(nullptr);
     expectWarning(": sendNotify: Plugin container is null ");
     ask();
     networkSays(digitPatternReply());

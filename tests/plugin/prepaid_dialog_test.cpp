@@ -942,7 +942,7 @@ void PrepaidDialogTest::textsFollowTheLanguage()
     configure(Account());
     make();
     for (const QString &language : languages()) {
-        QVERIFY(Languages::setCurrent(language));
+        QVERIFY(HostCore::Languages::setCurrent(language));
         dialog()->SetLanguage();
         QCOMPARE(part<QLabel>("BalanceLabel")->text(), text("IDS_STATIC_MYBALANCE"));
         QCOMPARE(balanceButton()->text(), text("IDS_BUTTON_UPDATA"));
@@ -962,12 +962,12 @@ void PrepaidDialogTest::ownTextsInBoxesFollowTheLanguageAndAnswersDoNot()
     configure(Account());
     open();
     networkSays(QStringLiteral("5 EUR"));
-    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("de")));
     dialog()->SetLanguage();
     QCOMPARE(balanceBox()->toPlainText(), QStringLiteral("5 EUR"));
     QCOMPARE(msisdnBox()->toPlainText(), text("USSD_CODE_WAITTING"));
     networkSays(QString());
-    QVERIFY(Languages::setCurrent(QStringLiteral("fr")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("fr")));
     dialog()->SetLanguage();
     QCOMPARE(msisdnBox()->toPlainText(), text("USSD_CODE_FAILED"));
 }

@@ -152,7 +152,7 @@ void PrepaidLayoutTest::nothingIsCutOff()
     if (missing >= 0)
         items[missing]->clear();
     configure(account);
-    QVERIFY(Languages::setCurrent(language));
+    QVERIFY(HostCore::Languages::setCurrent(language));
     open();
     for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         QApplication::setLayoutDirection(direction);
@@ -187,7 +187,7 @@ void PrepaidLayoutTest::ownTextsFitTheStatusBoxes_data()
 void PrepaidLayoutTest::ownTextsFitTheStatusBoxes()
 {
     QFETCH(QString, language);
-    QVERIFY(Languages::setCurrent(language));
+    QVERIFY(HostCore::Languages::setCurrent(language));
     configure(Account());
     open();
     for (const char *key : {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"}) {
@@ -205,7 +205,7 @@ void PrepaidLayoutTest::languageChangedLaterNeedsNoMoreThanGetSize()
     configure(Account());
     open();
     for (const QString &language : languages()) {
-        QVERIFY(Languages::setCurrent(language));
+        QVERIFY(HostCore::Languages::setCurrent(language));
         dialog()->SetLanguage();
         fitFrame();
         checkThatNothingIsCutOff();
@@ -227,7 +227,7 @@ void PrepaidLayoutTest::largerFontIsMeasured()
 
 void PrepaidLayoutTest::rightToLeftIsMirrored()
 {
-    QVERIFY(Languages::setCurrent(QStringLiteral("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
     configure(Account());
     open();
     const QRect label = part<QLabel>("OnlineChargeLabel")->geometry();
@@ -458,7 +458,7 @@ void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 
 void PrepaidLayoutTest::codesReadFromLeftToRightInArabic()
 {
-    QVERIFY(Languages::setCurrent(QStringLiteral("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
     configure(Account());
     open();
     QCOMPARE(chargeEdit()->layoutDirection(), Qt::LeftToRight);
@@ -528,7 +528,7 @@ void PrepaidLayoutTest::fieldsHaveNamesForScreenReaders()
 {
     configure(Account());
     make();
-    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("de")));
     dialog()->SetLanguage();
     QCOMPARE(balanceBox()->accessibleName(), text("IDS_STATIC_MYBALANCE"));
     QCOMPARE(balanceBox()->accessibleDescription(), text("IDS_STATIC_INFO"));

@@ -370,7 +370,7 @@ void PresetButtonsTest::nothingOverlapsOrIsCutOff()
     QFETCH(QByteArray, mask);
     QFETCH(int, model);
     QFETCH(QString, language);
-    QVERIFY(Languages::setCurrent(language));
+    QVERIFY(HostCore::Languages::setCurrent(language));
     writeProfiles(mask);
     open(static_cast<WINDOW_MODEL>(model));
     send(latin1("*100#")); // so that the prompt is there
@@ -608,7 +608,7 @@ void PresetButtonsTest::namesFollowTheLanguageAndStayElided()
                     profileItem("Send", "*3#", "true", "true", "IDS_BUTTON_SEND")));
     open();
     for (const char *language : {"en", "de", "ru", "en"}) {
-        QVERIFY(Languages::setCurrent(latin1(language)));
+        QVERIFY(HostCore::Languages::setCurrent(latin1(language)));
         dialog()->SetLanguage();
         const QList<QPushButton *> buttons = presetButtons();
         QCOMPARE(buttons.at(0)->text(), latin1("Plain name"));
@@ -622,14 +622,14 @@ void PresetButtonsTest::namesFollowTheLanguageAndStayElided()
 void PresetButtonsTest::codesReadFromLeftToRightInArabicNamesDoNot()
 {
     writeNames({"*111#", "123", "Balance", QByteArray("\xd8\xb1\xd8\xb5\xd9\x8a\xd8\xaf")});
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     const QList<QPushButton *> buttons = presetButtons();
     QCOMPARE(buttons.at(0)->layoutDirection(), Qt::LeftToRight);
     QCOMPARE(buttons.at(1)->layoutDirection(), Qt::LeftToRight);
     QCOMPARE(buttons.at(2)->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(buttons.at(3)->layoutDirection(), Qt::RightToLeft);
-    QVERIFY(Languages::setCurrent(latin1("en")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("en")));
     dialog()->SetLanguage();
     QCOMPARE(buttons.at(3)->layoutDirection(), Qt::LeftToRight);
 }

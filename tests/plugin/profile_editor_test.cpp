@@ -147,7 +147,7 @@ void ProfileEditorTest::setUp()
     m_mainWindow.reset(new QWidget);
     m_mainWindow->resize(700, 600);
     m_mainWindow->show();
-    HostState::setMainWindow(m_mainWindow.data());
+    HostCore::HostState::setMainWindow(m_mainWindow.data());
     m_message.clear();
     m_messages = 0;
 }
@@ -157,10 +157,10 @@ void ProfileEditorTest::tearDown()
     qDeleteAll(findChildren<QTimer *>()); // of messages that did not come
     m_editor.reset();
     m_otherWindow.reset();
-    HostState::setMiniMode(false);
-    Languages::setCurrent(QStringLiteral("en"));
+    HostCore::HostState::setMiniMode(false);
+    HostCore::Languages::setCurrent(QStringLiteral("en"));
     PluginTest::tearDown();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_mainWindow.reset();
 }
 
@@ -293,7 +293,7 @@ void ProfileEditorTest::shutDown()
     if (CUSSDService *service = CUSSDService::instance())
         service->unSDKRegisterEvent();
     CUSSDService::Destroy();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_mainWindow.reset();
 }
 
@@ -343,7 +343,7 @@ void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);
     QFETCH(bool, mini);
-    HostState::setMiniMode(mini);
+    HostCore::HostState::setMiniMode(mini);
     openEditor();
     answerNextMessage(QStringLiteral("IDS_OK"));
     typeAndLeave(1, 0, QStringLiteral("Balance"), way);
@@ -1027,7 +1027,7 @@ void ProfileEditorTest::frameHasATitleAndACloseButton()
 
 void ProfileEditorTest::frameInMiniModeKeepsItsFlags()
 {
-    HostState::setMiniMode(true);
+    HostCore::HostState::setMiniMode(true);
     openEditor();
     QCOMPARE(table()->window()->parentWidget(), m_mainWindow.data());
     const QDialog plain(m_mainWindow.data(), Qt::WindowCloseButtonHint);
@@ -1046,7 +1046,7 @@ void ProfileEditorTest::messagesInMiniModeStandOverTheEditor_data()
 void ProfileEditorTest::messagesInMiniModeStandOverTheEditor()
 {
     QFETCH(bool, mini);
-    HostState::setMiniMode(mini);
+    HostCore::HostState::setMiniMode(mini);
     openEditor();
     QWidget *parent = mini ? find<QWidget>("USSDUIPlugin_ProfileWidget") : nullptr;
     const auto look = [this, parent](const char *buttonKey) {
@@ -1088,7 +1088,7 @@ void ProfileEditorTest::doubleClickActivatesTheWindow()
 
 void ProfileEditorTest::codeReadsLeftToRightInArabic()
 {
-    Languages::setCurrent(QStringLiteral("ar"));
+    HostCore::Languages::setCurrent(QStringLiteral("ar"));
     openEditor();
     QCOMPARE(table()->layoutDirection(), Qt::RightToLeft);
     doubleClick(3, 1);
@@ -1108,7 +1108,7 @@ void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
 {
     QFETCH(QString, language);
     QFETCH(bool, fromTheRight);
-    QVERIFY(Languages::setCurrent(language));
+    QVERIFY(HostCore::Languages::setCurrent(language));
     openEditor();
     QHeaderView *header = table()->horizontalHeader();
     QCOMPARE(header->isRightToLeft(), fromTheRight);
@@ -1133,7 +1133,7 @@ void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
 /// In the order of Arabic it would read "#123*". A star is lower than a hash, and has no feet.
 void ProfileEditorTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
-    QVERIFY(Languages::setCurrent(QStringLiteral("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
     openEditor();
     const QRect cell = table()->visualItemRect(table()->item(1, 1));
     const QImage written = table()->viewport()->grab(cell).toImage();
@@ -1243,7 +1243,7 @@ void ProfileEditorTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
 {
     QFETCH(int, way);
     QFETCH(bool, mini);
-    HostState::setMiniMode(mini);
+    HostCore::HostState::setMiniMode(mini);
     QRect rect(0, 0, 640, 560);
     CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);
     QTimer::singleShot(0, this, [this, way] {

@@ -177,7 +177,7 @@ void ProfileRowsTest::profilesBeyondTheRowsAreKept()
         USSDProfile profile = fullProfile();
         profile.value = QString::number(i);
         shown << profile;
-        if (i < ProfileRows::kRows)
+        if (i < ProfileRows::ROWS)
             rows << row("Balance", qPrintable(profile.value));
     }
     QVERIFY(read(rows, shown) == shown);

@@ -559,9 +559,9 @@ void ProfileStoreTest::shownTextIsTheTranslationOrTheName()
     shown.langID = latin1("IDS_BUTTON_SEND");
     const QString english = logic->getProfileShowText(shown);
     QVERIFY(english != latin1("Name") && english != shown.langID);
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     const QString german = logic->getProfileShowText(shown);
-    QVERIFY(Languages::setCurrent(latin1("en")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("en")));
     QVERIFY(german != english && !german.isEmpty());
 }
 

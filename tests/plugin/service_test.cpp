@@ -117,16 +117,16 @@ void ServiceTest::setUp()
     m_mainWindow.reset(new QWidget);
     m_mainWindow->resize(700, 600);
     m_mainWindow->show();
-    HostState::setMainWindow(m_mainWindow.data());
+    HostCore::HostState::setMainWindow(m_mainWindow.data());
     m_rect = QRect(10, 20, 600, 500);
 }
 
 void ServiceTest::tearDown()
 {
-    Languages::setCurrent(QStringLiteral("en"));
-    HostState::setMiniMode(false);
+    HostCore::Languages::setCurrent(QStringLiteral("en"));
+    HostCore::HostState::setMiniMode(false);
     PluginTest::tearDown();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_mainWindow.reset();
 }
 
@@ -224,7 +224,7 @@ void ServiceTest::framedWindowHasSizeTitleAndModality()
 
 void ServiceTest::miniModeLeavesTheFramesFlagsAlone()
 {
-    HostState::setMiniMode(true);
+    HostCore::HostState::setMiniMode(true);
     service()->DoModal();
     QVERIFY(int(frame()->windowFlags() & ~Qt::WindowSystemMenuHint) != 0x0A001001);
 }
@@ -538,7 +538,7 @@ void ServiceTest::languageEventReachesBothDialogs()
     service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
     service()->DoModal();
     const QString english = part<QPushButton>(embeddedDialog(), "SendButton")->text();
-    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("de")));
     QCOMPARE(service()->Notify(320, 0, 0), 0);
     const QString german = CUSSDService::tr(QStringLiteral("IDS_BUTTON_SEND"));
     QVERIFY(german != english);
@@ -587,7 +587,7 @@ void ServiceTest::languageEventReachesTheDialogOfType()
 {
     QFETCH(int, type);
     service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
-    QVERIFY(Languages::setCurrent(QStringLiteral("de")));
+    QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("de")));
     clearLog();
     service()->Notify(320, 0, 0);
     static const char *const families[] = {"USSDDlg",        "USSDDlg", "",
@@ -785,7 +785,7 @@ void ServiceTest::languageEventReachesEveryDialog()
     service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
     service()->DoPrePostPaidModal(PAID_TYPE_POSTPAID);
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
-    Languages::setCurrent(QStringLiteral("de"));
+    HostCore::Languages::setCurrent(QStringLiteral("de"));
     service()->Notify(320, 0, 0);
     QStringList titles;
     for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())

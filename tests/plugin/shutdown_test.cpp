@@ -29,9 +29,9 @@ using namespace SlotTable;
 namespace
 {
 
-const char kCalls[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
-const int kLongest = 5;
-const int kEachOnce = 3; // enough where the way there takes long
+const char CALLS[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
+const int LONGEST = 5;
+const int EACH_ONCE = 3; // enough where the way there takes long
 
 enum State {
     NothingShown,
@@ -113,12 +113,12 @@ void ShutdownTest::setUp()
     m_rect = QRect(0, 0, 600, 520);
     m_window.reset(new QWidget);
     m_window->show();
-    HostState::setMainWindow(m_window.data());
+    HostCore::HostState::setMainWindow(m_window.data());
 }
 
 void ShutdownTest::tearDown()
 {
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_window.reset();
     fakeSdkReset();
     unload();
@@ -277,21 +277,21 @@ void ShutdownTest::everyOrderInState_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<int>("longest");
-    QTest::newRow("nothing shown") << int(NothingShown) << kLongest;
-    QTest::newRow("command in flight") << int(CommandInFlight) << kLongest;
-    QTest::newRow("queue full") << int(QueueFull) << kLongest;
-    QTest::newRow("embedded window open") << int(EmbeddedOpen) << kLongest;
-    QTest::newRow("modal window open") << int(ModalOpen) << kLongest;
-    QTest::newRow("prepaid window open") << int(PrepaidOpen) << kLongest;
-    QTest::newRow("postpaid window open") << int(PostpaidOpen) << kLongest;
-    QTest::newRow("services window open") << int(SmsOpen) << kLongest;
-    QTest::newRow("modal window just closed") << int(ModalClosed) << kLongest;
-    QTest::newRow("prepaid window just closed") << int(PrepaidClosed) << kEachOnce;
-    QTest::newRow("postpaid window just closed") << int(PostpaidClosed) << kEachOnce;
-    QTest::newRow("services window just closed") << int(SmsClosed) << kEachOnce;
-    QTest::newRow("reply to a top-up open") << int(ReplyBoxOpen) << kEachOnce;
-    QTest::newRow("editor open") << int(EditorOpen) << kLongest;
-    QTest::newRow("message open") << int(MessageOpen) << kLongest;
+    QTest::newRow("nothing shown") << int(NothingShown) << LONGEST;
+    QTest::newRow("command in flight") << int(CommandInFlight) << LONGEST;
+    QTest::newRow("queue full") << int(QueueFull) << LONGEST;
+    QTest::newRow("embedded window open") << int(EmbeddedOpen) << LONGEST;
+    QTest::newRow("modal window open") << int(ModalOpen) << LONGEST;
+    QTest::newRow("prepaid window open") << int(PrepaidOpen) << LONGEST;
+    QTest::newRow("postpaid window open") << int(PostpaidOpen) << LONGEST;
+    QTest::newRow("services window open") << int(SmsOpen) << LONGEST;
+    QTest::newRow("modal window just closed") << int(ModalClosed) << LONGEST;
+    QTest::newRow("prepaid window just closed") << int(PrepaidClosed) << EACH_ONCE;
+    QTest::newRow("postpaid window just closed") << int(PostpaidClosed) << EACH_ONCE;
+    QTest::newRow("services window just closed") << int(SmsClosed) << EACH_ONCE;
+    QTest::newRow("reply to a top-up open") << int(ReplyBoxOpen) << EACH_ONCE;
+    QTest::newRow("editor open") << int(EditorOpen) << LONGEST;
+    QTest::newRow("message open") << int(MessageOpen) << LONGEST;
 }
 
 void ShutdownTest::everyOrderInState()
@@ -303,7 +303,7 @@ void ShutdownTest::everyOrderInState()
         for (int c = 0; c < combinations; ++c) {
             QString calls;
             for (int i = 0, rest = c; i < length; ++i, rest /= 3)
-                calls += QLatin1Char(kCalls[rest % 3]);
+                calls += QLatin1Char(CALLS[rest % 3]);
             reach(static_cast<State>(state), [this, &calls] {
                 callBack();
                 run(calls);

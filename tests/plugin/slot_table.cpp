@@ -5,13 +5,13 @@
 namespace
 {
 
-const int kDestructorSlots = 2;
+const int DESTRUCTOR_SLOTS = 2;
 
 template <typename Function>
 Function slotFunction(void *object, int slot)
 {
     void **const table = *static_cast<void ***>(object);
-    return reinterpret_cast<Function>(table[kDestructorSlots + slot]);
+    return reinterpret_cast<Function>(table[DESTRUCTOR_SLOTS + slot]);
 }
 
 template <typename Result, typename... Arguments>

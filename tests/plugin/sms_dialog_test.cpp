@@ -327,7 +327,7 @@ void SmsDialogTest::tearDown()
     delete m_dialog;
     m_frame.reset();
     PluginTest::tearDown();
-    QVERIFY(Languages::setCurrent(latin1("en")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("en")));
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
@@ -623,7 +623,7 @@ void SmsDialogTest::hostileLayout()
         QApplication::setLayoutDirection(service % 2 ? Qt::RightToLeft : Qt::LeftToRight);
         m_dialog->SetLanguage();
     }
-    QVERIFY(m_frame->width() <= SmsLayoutFile::kMaxWindowSide);
+    QVERIFY(m_frame->width() <= SmsLayoutFile::MAX_WINDOW_SIDE);
     tree()->setCurrentItem(row(BALANCE));
     button()->click();
     networkSays(latin1("still alive"));
@@ -1595,7 +1595,7 @@ void SmsDialogTest::arabicResultIsARightToLeftParagraph()
 
 void SmsDialogTest::resultBeginsWhereTheOtherTextsDo()
 {
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     for (const QString &reply : {latin1("in English"), text("USSD_CODE_TIME_OUT")}) {
         press();
@@ -1610,7 +1610,7 @@ void SmsDialogTest::resultBeginsWhereTheOtherTextsDo()
 void SmsDialogTest::languageChangeTranslatesTheTexts()
 {
     const QString english = captionLabel()->text();
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     m_dialog->SetLanguage();
     QVERIFY(captionLabel()->text() != english);
     QCOMPARE(captionLabel()->text(), text("IDS_SMSUSSD_LABEL_NUMBER"));
@@ -1625,7 +1625,7 @@ void SmsDialogTest::languageChangeKeepsInputAndAnswer()
     select(CALL);
     type(latin1("555"));
     m_dialog->OnResponseUSSDSMSReceived(COMPONENT_USSD_SMS, latin1("an answer"));
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     m_dialog->SetLanguage();
     QCOMPARE(input()->text(), latin1("555"));
     QCOMPARE(result(), latin1("an answer"));
@@ -1649,12 +1649,12 @@ void SmsDialogTest::languageChangeKeepsInputOfARowNotSelected()
 void SmsDialogTest::languageChangeTranslatesOurOwnResult()
 {
     sendTariff();
-    QVERIFY(Languages::setCurrent(latin1("de")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("de")));
     m_dialog->SetLanguage();
     QCOMPARE(result(), text("USSD_CODE_WAITTING"));
     QVERIFY(isBusy());
     smsFared(1, latin1("1200"), latin1("TARIFF"));
-    QVERIFY(Languages::setCurrent(latin1("fr")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("fr")));
     m_dialog->SetLanguage();
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
 }
@@ -1679,7 +1679,7 @@ void SmsDialogTest::rightToLeftMirrorsTreeAndControls()
 
 void SmsDialogTest::rightToLeftMirrorsALaterSelection()
 {
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     QCOMPARE(tree()->geometry(), QRect(520 - 10 - 150, 12, 150, 330));
     select(CALL);
@@ -1688,7 +1688,7 @@ void SmsDialogTest::rightToLeftMirrorsALaterSelection()
 
 void SmsDialogTest::inputReadsLeftToRight()
 {
-    QVERIFY(Languages::setCurrent(latin1("ar")));
+    QVERIFY(HostCore::Languages::setCurrent(latin1("ar")));
     open();
     QCOMPARE(tree()->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(input()->layoutDirection(), Qt::LeftToRight);
@@ -1697,15 +1697,15 @@ void SmsDialogTest::inputReadsLeftToRight()
 void SmsDialogTest::shippedTextsFit_data()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &code : Languages::codes())
+    for (const QString &code : HostCore::Languages::codes())
         QTest::newRow(qPrintable(code)) << code;
-    QCOMPARE(Languages::codes().count(), 8);
+    QCOMPARE(HostCore::Languages::codes().count(), 8);
 }
 
 void SmsDialogTest::shippedTextsFit()
 {
     QFETCH(QString, language);
-    QVERIFY(Languages::setCurrent(language));
+    QVERIFY(HostCore::Languages::setCurrent(language));
     openShipped();
     QVERIFY(!tree()->horizontalScrollBar()->isVisible());
     const int services = tree()->topLevelItem(0)->childCount();

@@ -376,7 +376,7 @@ void SmsLayoutTest::shippedFileIsReadWithoutComplaints()
     QCOMPARE(m_layout->entries.count(), 13);
     QCOMPARE(m_layout->groups.count(), 12);
     for (const CWidget *group : qAsConst(m_layout->groups))
-        QCOMPARE(group->controls.count(), SmsLayoutFile::kControlsOfGroup);
+        QCOMPARE(group->controls.count(), SmsLayoutFile::CONTROLS_OF_GROUP);
 }
 
 void SmsLayoutTest::clearForgetsEverything()
@@ -428,7 +428,7 @@ void SmsLayoutTest::numbersBeyondAnyScreenStayUsable()
     QVERIFY(complained("width 2147483647 is out of range"));
     readSection("<MainSize width='2147483647' height='100000'/>");
     QCOMPARE(SmsLayoutFile::windowSize(m_layout->dialog),
-             QSize(SmsLayoutFile::kMaxWindowSide, SmsLayoutFile::kMaxWindowSide));
+             QSize(SmsLayoutFile::MAX_WINDOW_SIDE, SmsLayoutFile::MAX_WINDOW_SIDE));
     QVERIFY(complained("MainSize 2147483647 x 100000 is out of range"));
 }
 
@@ -697,13 +697,13 @@ void SmsLayoutTest::lengthsOutOfRangeAreBounded()
 void SmsLayoutTest::longestClassWithHighestLengthIsQuick()
 {
     CWidgetItemInfo control;
-    control.limitText = QString(SmsLayoutFile::kMaxLimitText, QLatin1Char('a'));
-    control.length = SmsLayoutFile::kMaxInputLength;
+    control.limitText = QString(SmsLayoutFile::MAX_LIMIT_TEXT, QLatin1Char('a'));
+    control.length = SmsLayoutFile::MAX_INPUT_LENGTH;
     QElapsedTimer timer;
     timer.start();
     const QRegExp pattern = SmsLayoutFile::inputPattern(control);
-    QVERIFY(pattern.exactMatch(QString(SmsLayoutFile::kMaxInputLength, QLatin1Char('a'))));
-    QVERIFY(!pattern.exactMatch(QString(SmsLayoutFile::kMaxInputLength + 1, QLatin1Char('a'))));
+    QVERIFY(pattern.exactMatch(QString(SmsLayoutFile::MAX_INPUT_LENGTH, QLatin1Char('a'))));
+    QVERIFY(!pattern.exactMatch(QString(SmsLayoutFile::MAX_INPUT_LENGTH + 1, QLatin1Char('a'))));
     QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
 }
 

@@ -19,7 +19,7 @@
 namespace
 {
 
-const int kLastComponent = 7; // of no dialog, and what the enumeration can still hold
+const int LAST_COMPONENT = 7; // of no dialog, and what the enumeration can still hold
 
 int number(const char *name, int otherwise)
 {
@@ -92,7 +92,7 @@ void StormTest::setUp()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
                     .replace("<ReturnStyle>1", "<ReturnStyle>0"));
     m_window.reset(new QWidget);
-    HostState::setMainWindow(m_window.data());
+    HostCore::HostState::setMainWindow(m_window.data());
     m_listener.reset(new LogicListener(USSDLogic::GetUSSDLogicInstance()));
     m_model = PipelineModel();
     m_model.deviceAccepts = [this] { return m_accepted.takeFirst(); };
@@ -103,9 +103,9 @@ void StormTest::setUp()
 void StormTest::tearDown()
 {
     m_listener.reset();
-    Languages::setCurrent(QStringLiteral("en"));
+    HostCore::Languages::setCurrent(QStringLiteral("en"));
     PluginTest::tearDown();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
     m_window.reset();
 }
 
@@ -186,7 +186,7 @@ void StormTest::clear()
 void StormTest::changeLanguage()
 {
     static const char *const languages[] = {"en", "ar", "de", "zh"};
-    Languages::setCurrent(QLatin1String(languages[dice(4)]));
+    HostCore::Languages::setCurrent(QLatin1String(languages[dice(4)]));
     CUSSDService::instance()->Notify(320, 0, 0);
 }
 
@@ -308,9 +308,9 @@ void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
     QVERIFY(fakeSdkWaitIdle()); // no device event is on its way that would drop the next one
     // Each waits for those before it: when this one is announced, nothing is pending any more.
     USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
-        USSDCmdOrResp(static_cast<_COMPONENT>(kLastComponent), QStringLiteral("*8#")), &status);
+        USSDCmdOrResp(static_cast<_COMPONENT>(LAST_COMPONENT), QStringLiteral("*8#")), &status);
     QTRY_VERIFY_WITH_TIMEOUT(!m_listener->answers.isEmpty() &&
-                                 m_listener->answers.last().first == kLastComponent,
+                                 m_listener->answers.last().first == LAST_COMPONENT,
                              60000);
     QVERIFY(fakeSdkWaitIdle());
     drainEvents();

@@ -9,9 +9,9 @@
 #include <QTableWidget>
 
 #include "ExtendDialog.h"
-#include "GeneralWindow.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "plugin/GeneralWindow.h"
 #include "PluginContract.h"
 #include "ReplyTimer.h"
 #include "SoakClock.h"
@@ -81,7 +81,7 @@ SoakHost::SoakHost(const SoakLoad &load) : m_load(load), m_isReady(layOutFiles()
 {
     qputenv("TKSV_USER_DATA", QFile::encodeName(m_folder.filePath(QLatin1String("user"))));
     m_container.add(QLatin1String(NotificationService::CLSID), &m_notifications);
-    HostState::setMainWindow(&m_window);
+    HostCore::HostState::setMainWindow(&m_window);
     m_window.resize(PAGE_SIZE);
     m_window.show();
     connect(&m_pulse, &QTimer::timeout, this, &SoakHost::pulse);
@@ -93,12 +93,12 @@ SoakHost::SoakHost(const SoakLoad &load) : m_load(load), m_isReady(layOutFiles()
 SoakHost::~SoakHost()
 {
     stopPlugin();
-    HostState::setMainWindow(nullptr);
+    HostCore::HostState::setMainWindow(nullptr);
 }
 
 int SoakHost::cycle()
 {
-    return int(Languages::codes().size()) * NETWORK_COUNT;
+    return int(HostCore::Languages::codes().size()) * NETWORK_COUNT;
 }
 
 /// The files that ship, in a folder that is this run's own.
@@ -146,8 +146,8 @@ void SoakHost::round(int number)
 
 void SoakHost::speak(int number)
 {
-    const QStringList codes = Languages::codes();
-    if (!Languages::setCurrent(codes.at(number % int(codes.size()))))
+    const QStringList codes = HostCore::Languages::codes();
+    if (!HostCore::Languages::setCurrent(codes.at(number % int(codes.size()))))
         trouble(QLatin1String("a language cannot be used"));
     CUSSDService::instance()->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }

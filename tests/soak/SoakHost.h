@@ -7,8 +7,8 @@
 #include <QWidget>
 
 #include "IUSSD.h"
-#include "NotificationService.h"
-#include "PluginContainer.h"
+#include "plugin/PluginContainer.h"
+#include "sim/NotificationService.h"
 
 /** How much one round does. */
 struct SoakLoad {

@@ -30,7 +30,7 @@ bool isRegular(std::FILE *file)
     return fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Until one byte more than may be there. What is read is a few kB mostly, and the room for all
+/// Until one byte more than may be there. What is read is a few B mostly, and the room for all
 /// would have to be cleared first.
 void readPieces(std::FILE *file, std::string &text)
 {

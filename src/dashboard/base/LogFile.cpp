@@ -1,0 +1,77 @@
+#include "LogFile.h"
+
+#include <QFile>
+
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "DashboardText.h"
+#include "TerminalText.h"
+
+namespace
+{
+
+const mode_t OWNER_ONLY = S_IRUSR | S_IWUSR;
+
+std::atomic<int> logFile(-1);
+
+QString whyNotOpened()
+{
+    return errno == ELOOP ? dashboardText("LOG_IS_LINK")
+                          : QString::fromLocal8Bit(std::strerror(errno));
+}
+
+/// Another name of the same file could be one that somebody else reads.
+bool isOwnFile(int file)
+{
+    struct stat found;
+    return fstat(file, &found) == 0 && S_ISREG(found.st_mode) && found.st_uid == geteuid() &&
+           found.st_nlink == 1;
+}
+
+/// Not before it is known to be the user's own.
+bool makeEmptyAndPrivate(int file)
+{
+    return fchmod(file, OWNER_ONLY) == 0 && ftruncate(file, 0) == 0;
+}
+
+/// Empty when the file is good to write to.
+QString whyNotUsable(int file)
+{
+    if (!isOwnFile(file))
+        return dashboardText("LOG_NOT_OWN");
+    return makeEmptyAndPrivate(file) ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+}
+
+} // namespace
+
+QString LogFile::open(const QString &path)
+{
+    // Without waiting for a reader, should it be a pipe.
+    const int flags = O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
+    const int file = ::open(QFile::encodeName(path).constData(), flags, OWNER_ONLY);
+    const QString problem = file < 0 ? whyNotOpened() : whyNotUsable(file);
+    if (!problem.isEmpty()) {
+        if (file >= 0)
+            close(file);
+        return dashboardText("LOG_UNUSABLE").arg(path, problem);
+    }
+    logFile = file;
+    write(dashboardText("LOG_HOLDS"));
+    HostCore::setLogSink(write);
+    return QString();
+}
+
+// In one call, so that the lines of several threads do not mix.
+void LogFile::write(const QString &line)
+{
+    if (logFile < 0)
+        return;
+    const QByteArray bytes = HostCore::terminalText(line).toUtf8() + '\n';
+    if (::write(logFile, bytes.constData(), size_t(bytes.size())) != bytes.size())
+        logFile = -1; // the disk is full: the program goes on without its log
+}

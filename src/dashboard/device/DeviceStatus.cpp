@@ -1,0 +1,181 @@
+#include "DeviceStatus.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "base/DashboardText.h"
+#include "tksv_device.h"
+
+namespace
+{
+
+/// Why the device cannot be used; null when it can.
+const char *trouble(int state)
+{
+    switch (state) {
+    case TKSV_DEVICE_ABSENT:
+        return "STATE_ABSENT";
+    case TKSV_DEVICE_SIM_MISSING:
+        return "STATE_SIM_MISSING";
+    case TKSV_DEVICE_SIM_LOCKED:
+        return "STATE_SIM_LOCKED";
+    case TKSV_DEVICE_DISABLED:
+        return "STATE_DISABLED";
+    case TKSV_DEVICE_SEARCHING:
+        return "STATE_SEARCHING";
+    default:
+        return nullptr;
+    }
+}
+
+/// What the problem asks for; null when there is none.
+const char *adviceOnProblem(int problem)
+{
+    switch (problem) {
+    case TKSV_PROBLEM_NO_BUS:
+        return "ADVICE_NO_BUS";
+    case TKSV_PROBLEM_NO_SERVICE:
+        return "ADVICE_NO_SERVICE";
+    case TKSV_PROBLEM_NOT_PERMITTED:
+        return "ADVICE_NOT_PERMITTED";
+    case TKSV_PROBLEM_CHOSEN_ABSENT:
+        return "ADVICE_CHOSEN_ABSENT";
+    case TKSV_PROBLEM_WRONG_PIN:
+        return "ADVICE_WRONG_PIN";
+    case TKSV_PROBLEM_PUK_NEEDED:
+        return "ADVICE_PUK_NEEDED";
+    case TKSV_PROBLEM_NO_USSD:
+        return "ADVICE_NO_USSD";
+    case TKSV_PROBLEM_MODEM_FAILED:
+        return "ADVICE_MODEM_FAILED";
+    default:
+        return nullptr;
+    }
+}
+
+/// What the state of a modem asks for; null when nothing. A simulated device comes back by itself.
+const char *adviceOnState(const DeviceStatus &status)
+{
+    if (status.state == TKSV_DEVICE_SIM_LOCKED)
+        return "ADVICE_SIM_LOCKED";
+    if (status.isSimulated)
+        return nullptr;
+    switch (status.state) {
+    case TKSV_DEVICE_ABSENT:
+        return "ADVICE_NO_MODEM";
+    case TKSV_DEVICE_SIM_MISSING:
+        return "ADVICE_SIM_MISSING";
+    case TKSV_DEVICE_DISABLED:
+        return "ADVICE_DISABLED";
+    default:
+        return nullptr;
+    }
+}
+
+QString sentences(const QString &first, const QString &second)
+{
+    return second.isEmpty() ? first : first + QLatin1Char(' ') + second;
+}
+
+} // namespace
+
+bool DeviceStatus::operator==(const DeviceStatus &other) const
+{
+    return isSimulated == other.isSimulated && state == other.state &&
+           signalPercent == other.signalPercent && operatorName == other.operatorName &&
+           imsi == other.imsi && source == other.source && problem == other.problem &&
+           pinRetries == other.pinRetries && homeNetwork == other.homeNetwork &&
+           simOperator == other.simOperator;
+}
+
+bool DeviceStatus::isRegistered() const
+{
+    return state == TKSV_DEVICE_REGISTERED;
+}
+
+bool DeviceStatus::waitsForPin() const
+{
+    return state == TKSV_DEVICE_SIM_LOCKED && problem != TKSV_PROBLEM_PUK_NEEDED;
+}
+
+bool DeviceStatus::mayBecomeReady() const
+{
+    return problem == TKSV_PROBLEM_NONE &&
+           (state == TKSV_DEVICE_SEARCHING || state == TKSV_DEVICE_DISABLED ||
+            (state == TKSV_DEVICE_ABSENT && !isSimulated));
+}
+
+QString DeviceStatus::operatorText() const
+{
+    if (!operatorName.isEmpty())
+        return operatorName;
+    return dashboardText(state == TKSV_DEVICE_SEARCHING ? "STATE_SEARCHING" : "OPERATOR_NONE");
+}
+
+QString DeviceStatus::signalText() const
+{
+    if (signalPercent < 0)
+        return dashboardText("SIGNAL_UNKNOWN");
+    return dashboardText("SIGNAL_PERCENT").arg(signalPercent);
+}
+
+QString DeviceStatus::troubleText() const
+{
+    const char *key = trouble(state);
+    return key ? dashboardText(key) : QString();
+}
+
+// A device that only searches has its SIM.
+QString DeviceStatus::simText() const
+{
+    if (state != TKSV_DEVICE_SEARCHING && trouble(state))
+        return troubleText();
+    return imsi.isEmpty() ? dashboardText("SIM_WITHOUT_IMSI") : dashboardText("SIM_IMSI").arg(imsi);
+}
+
+QString DeviceStatus::adviceText() const
+{
+    const char *key = adviceOnProblem(problem);
+    if (!key)
+        key = adviceOnState(*this);
+    if (!key)
+        return QString();
+    return sentences(dashboardText(key), waitsForPin() ? triesText() : QString());
+}
+
+QString DeviceStatus::triesText() const
+{
+    if (pinRetries == 1)
+        return dashboardText("PIN_LAST_TRY");
+    return pinRetries < 0 ? QString() : dashboardText("PIN_TRIES").arg(pinRetries);
+}
+
+QString DeviceStatus::sourceText() const
+{
+    if (isSimulated)
+        return dashboardText("SOURCE_SIMULATED").arg(QFileInfo(source).fileName());
+    if (source.isEmpty())
+        return dashboardText(mayBecomeReady() && state == TKSV_DEVICE_SEARCHING
+                                 ? "SOURCE_LOOKING"
+                                 : "SOURCE_MODEM_NONE");
+    return dashboardText("SOURCE_MODEM").arg(source);
+}
+
+DeviceStatus readDeviceStatus()
+{
+    TKSV_DeviceInfo info = {};
+    TKSV_Device_GetInfo(&info);
+    DeviceStatus status;
+    status.isSimulated = info.backend == TKSV_BACKEND_SIMULATOR;
+    status.state = info.state;
+    status.problem = info.problem;
+    status.pinRetries = info.pinRetries;
+    status.signalPercent = info.signalPercent;
+    status.operatorName = QString::fromUtf8(info.operatorName);
+    status.imsi = QString::fromUtf8(info.imsi);
+    status.homeNetwork = QString::fromUtf8(info.simOperatorCode);
+    status.simOperator = QString::fromUtf8(info.simOperatorName);
+    status.source =
+        status.isSimulated ? QFile::decodeName(info.source) : QString::fromUtf8(info.source);
+    return status;
+}

@@ -1,0 +1,143 @@
+#include "UiPlugin.h"
+
+#include <QFileInfo>
+#include <QLibrary>
+
+#include "HostState.h"
+#include "INotify.h"
+#include "InstallPaths.h"
+#include "IUIPlugin.h"
+#include "IUSSD.h"
+#include "PluginContract.h"
+#include "PluginFiles.h"
+
+namespace
+{
+
+/// Whether the file is a library at all, whatever is in it. Loads it for a moment.
+bool isLoadableLibrary(const QString &file)
+{
+    QLibrary library(file);
+    const bool loadable = library.load();
+    if (loadable)
+        library.unload();
+    return loadable;
+}
+
+} // namespace
+
+UiPlugin::~UiPlugin()
+{
+    shutDown();
+}
+
+QString UiPlugin::installedFile()
+{
+    return PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
+                             PluginFiles::LIBRARY);
+}
+
+PluginFailure UiPlugin::load(const QString &file)
+{
+    PluginFailure result = openLibrary(file);
+    if (result.step == PluginFailure::None)
+        result = takeInterfaces();
+    if (result.step == PluginFailure::None)
+        result = startService();
+    return result;
+}
+
+PluginFailure UiPlugin::openLibrary(const QString &file)
+{
+    m_loader.setFileName(file);
+    if (!QFileInfo(file).isFile()) {
+        PluginFailure missing = failure(PluginFailure::FileMissing);
+        missing.file = file; // the loader forgets a name that leads nowhere
+        return missing;
+    }
+    if (!m_loader.load()) {
+        const QString reason = m_loader.errorString();
+        return failure(isLoadableLibrary(file) ? PluginFailure::WrongBuild
+                                               : PluginFailure::NotALibrary,
+                       reason);
+    }
+    m_instance = m_loader.instance();
+    return m_instance ? failure(PluginFailure::None)
+                      : failure(PluginFailure::NoInstance, m_loader.errorString());
+}
+
+PluginFailure UiPlugin::takeInterfaces()
+{
+    IUIPlugin *plugin = qobject_cast<IUIPlugin *>(m_instance.data());
+    if (!plugin)
+        return failure(PluginFailure::NoInterface,
+                       QLatin1String(qobject_interface_iid<IUIPlugin *>()));
+    m_notify = qobject_cast<INotify *>(m_instance.data());
+    if (!m_notify)
+        return failure(PluginFailure::NoInterface,
+                       QLatin1String(qobject_interface_iid<INotify *>()));
+    m_plugin = plugin;
+    return failure(PluginFailure::None);
+}
+
+PluginFailure UiPlugin::startService()
+{
+    if (!m_plugin->Init())
+        return failure(PluginFailure::InitFailed);
+    return takeService();
+}
+
+PluginFailure UiPlugin::takeService()
+{
+    QObject *service = nullptr;
+    if (!m_plugin->QueryInterface(PluginContract::USSD_SERVICE, &service) || !service)
+        return failure(PluginFailure::NoService, QString::number(PluginContract::USSD_SERVICE));
+    m_ussd = qobject_cast<IUSSD *>(service);
+    return m_ussd ? failure(PluginFailure::None)
+                  : failure(PluginFailure::NoInterface,
+                            QLatin1String(qobject_interface_iid<IUSSD *>()));
+}
+
+PluginFailure UiPlugin::failure(PluginFailure::Step step, const QString &detail) const
+{
+    PluginFailure result;
+    result.step = step;
+    result.file = m_loader.fileName();
+    result.detail = detail;
+    return result;
+}
+
+void UiPlugin::notifyLanguageChange()
+{
+    if (m_notify)
+        m_notify->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
+}
+
+void UiPlugin::notifySimChange()
+{
+    if (m_notify)
+        m_notify->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
+}
+
+PluginFailure UiPlugin::restart()
+{
+    m_ussd = nullptr;
+    m_plugin->UnSDKRegisterEvent();
+    m_plugin->OnDestroy();
+    return takeService();
+}
+
+void UiPlugin::shutDown()
+{
+    if (!m_instance)
+        return;
+    HostCore::HostState::setShuttingDown(true);
+    if (m_plugin) {
+        m_plugin->UnSDKRegisterEvent();
+        m_plugin->OnDestroy();
+    }
+    m_plugin = nullptr;
+    m_notify = nullptr;
+    m_ussd = nullptr;
+    delete m_instance.data();
+}

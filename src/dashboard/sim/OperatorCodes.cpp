@@ -1,0 +1,202 @@
+#include "OperatorCodes.h"
+
+#include "device/DashboardSettings.h"
+#include "device/DeviceWatcher.h"
+#include "InputFile.h"
+#include "InstallPaths.h"
+#include "plugin/UiPlugin.h"
+#include "PluginFiles.h"
+#include "tksv_device.h"
+
+namespace
+{
+
+const char DECLINED[] = "none";
+const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
+
+QByteArray shippedConfiguration()
+{
+    return InputFile::content(PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
+                                                PluginFiles::CONFIGURATION));
+}
+
+bool isOfCountry(const Provider &provider, const QString &countryCode)
+{
+    for (const QString &network : provider.networks) {
+        if (network.startsWith(countryCode))
+            return true;
+    }
+    return false;
+}
+
+/// An operator without any code that the plug-in can use is nothing to offer.
+bool isUseful(const Provider &provider, const QString &network)
+{
+    return !provisionPlan(provider, network).isEmpty();
+}
+
+} // namespace
+
+OperatorPlaces OperatorPlaces::ofUser()
+{
+    OperatorPlaces places;
+    places.isFree = qgetenv("USSD_PLUGIN_LIBRARY_PATH").isEmpty();
+    return places;
+}
+
+OperatorCodes::OperatorCodes(const DeviceWatcher *device, DashboardSettings *settings,
+                             QObject *parent)
+    : QObject(parent), m_device(device), m_settings(settings), m_places(OperatorPlaces::ofUser())
+{
+    connect(device, SIGNAL(changed()), this, SLOT(look()));
+}
+
+OperatorCodes::~OperatorCodes()
+{
+    HostCore::InstallPaths::usePluginLibrary(QString());
+}
+
+void OperatorCodes::setPlaces(const OperatorPlaces &places)
+{
+    m_places = places;
+    m_isRead = false;
+    m_network.clear();
+    look();
+    emit networkChanged();
+}
+
+QString OperatorCodes::currentNetwork() const
+{
+    const DeviceStatus &status = m_device->status();
+    if (!status.homeNetwork.isEmpty())
+        return status.homeNetwork;
+    if (!status.isSimulated && !status.imsi.isEmpty())
+        return networkOfImsi(database(), status.imsi);
+    return status.imsi.isEmpty() ? m_network : QString(); // the SIM may only not be readable yet
+}
+
+void OperatorCodes::look()
+{
+    if (!m_places.isFree)
+        return use(QString());
+    const QString network = currentNetwork();
+    if (network == m_network)
+        return;
+    m_network = network;
+    use(isDeclined() || !readProvision(folder()).isUsable() ? QString() : folder());
+    emit networkChanged();
+}
+
+void OperatorCodes::use(const QString &folder)
+{
+    if (folder == m_folderInUse)
+        return;
+    m_folderInUse = folder;
+    HostCore::InstallPaths::usePluginLibrary(folder);
+    emit folderChanged();
+}
+
+QString OperatorCodes::folder() const
+{
+    if (m_network.isEmpty())
+        return QString();
+    return operatorFolder(m_places.folders.isEmpty() ? operatorsFolder() : m_places.folders,
+                          m_network);
+}
+
+QString OperatorCodes::operatorInUse() const
+{
+    return m_folderInUse.isEmpty() ? QString() : readProvision(m_folderInUse).record.provider;
+}
+
+bool OperatorCodes::isDecided() const
+{
+    return isDeclined() || !m_folderInUse.isEmpty();
+}
+
+bool OperatorCodes::isDeclined() const
+{
+    const QString word =
+        m_settings ? m_settings->operatorCodes(m_network) : m_decisions.value(m_network);
+    return word == QLatin1String(DECLINED);
+}
+
+void OperatorCodes::setDeclined(bool declined)
+{
+    const QString word = declined ? QLatin1String(DECLINED) : QString();
+    m_decisions.insert(m_network, word);
+    if (m_settings)
+        m_settings->setOperatorCodes(m_network, word);
+}
+
+const ProviderDatabase &OperatorCodes::database() const
+{
+    if (!m_isRead)
+        m_database = readProviderDatabaseFile(
+            m_places.database.isEmpty() ? installedProviderDatabase() : m_places.database);
+    m_isRead = true;
+    return m_database;
+}
+
+bool OperatorCodes::hasDatabase() const
+{
+    return database().error.isEmpty();
+}
+
+ProviderChoice OperatorCodes::choice() const
+{
+    ProviderQuery query;
+    query.network = m_network;
+    query.simName = m_device->status().simOperator;
+    ProviderChoice result;
+    if (m_network.isEmpty())
+        return result;
+    const ProviderChoice all = chooseProvider(database(), query);
+    for (const Provider &provider : all.candidates) {
+        if (isUseful(provider, m_network))
+            result.candidates << provider;
+    }
+    // What is left of several is no more certain for the others having no codes.
+    result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
+    return result;
+}
+
+QList<Provider> OperatorCodes::candidates() const
+{
+    QList<Provider> found = choice().candidates;
+    if (!found.isEmpty())
+        return found;
+    const QString country = m_network.left(COUNTRY_DIGITS);
+    for (const Provider &provider : database().providers) {
+        if (isOfCountry(provider, country) && isUseful(provider, m_network))
+            found << provider;
+    }
+    return found;
+}
+
+ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
+{
+    const ProvisionPlan plan = provisionPlan(provider, m_network);
+    const ProvisionFiles files = provisionFiles(plan, shippedConfiguration());
+    ProvisionOutcome outcome;
+    outcome.problem = files.error;
+    if (!files.error.isEmpty())
+        return outcome;
+    ProvisionOrder order;
+    order.folder = folder();
+    order.pluginLibrary = UiPlugin::installedFile();
+    order.setChangedAside = setAside;
+    outcome = writeProvision(order, plan, files);
+    if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
+        setDeclined(false);
+        m_folderInUse.clear(); // the files in it may be others
+        use(order.folder);
+    }
+    return outcome;
+}
+
+void OperatorCodes::decline()
+{
+    setDeclined(true);
+    use(QString());
+}

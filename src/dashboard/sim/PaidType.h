@@ -1,0 +1,12 @@
+#ifndef PAIDTYPE_H
+#define PAIDTYPE_H
+
+#include <QString>
+
+/** The kind of contract that a SIM belongs to. */
+enum class PaidType { Unknown, Prepaid, Postpaid };
+
+/// "Prepaid" or "Postpaid" in the user's language; empty when unknown.
+QString paidTypeText(PaidType type);
+
+#endif

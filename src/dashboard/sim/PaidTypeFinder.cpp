@@ -1,0 +1,71 @@
+#include "PaidTypeFinder.h"
+
+#include "IUSSD.h"
+#include "plugin/ReplyLimit.h"
+#include "plugin/UiPlugin.h"
+
+namespace
+{
+
+// With a device that went away the plug-in drops its commands, on a thread of the device's, and
+// tells that they failed. A question asked before that would be taken for answered.
+const int SETTLING_TIME = 200; // ms
+
+// The plug-in tells of a time-out itself, unless the window that asked was deleted meanwhile.
+const int PLUGIN_GRACE = 2000; // ms
+
+} // namespace
+
+PaidTypeFinder::PaidTypeFinder(UiPlugin *plugin, QObject *parent)
+    : QObject(parent), m_plugin(plugin)
+{
+    m_container.add(QLatin1String(NotificationService::CLSID), &m_notifications);
+    m_settling.setSingleShot(true);
+    m_timeLimit.setSingleShot(true);
+    connect(&m_settling, SIGNAL(timeout()), this, SIGNAL(settled()));
+    connect(&m_timeLimit, SIGNAL(timeout()), this, SLOT(giveUp()));
+    connect(&m_notifications, SIGNAL(paidTypeTold(PaidType)), this, SLOT(takeAnswer(PaidType)));
+}
+
+void PaidTypeFinder::restart()
+{
+    m_isWanted = true;
+    m_settling.start(SETTLING_TIME);
+    setState(PaidType::Unknown, false);
+}
+
+void PaidTypeFinder::tryToAsk()
+{
+    if (!m_isWanted || m_settling.isActive() || !m_plugin->isUsable())
+        return;
+    m_isWanted = false;
+    bool inUse = false;
+    bool postpaid = false;
+    int wasSent = 0;
+    m_plugin->ussd()->GetPrePostInfo(inUse, postpaid, wasSent, true);
+    setState(PaidType::Unknown, inUse && wasSent);
+}
+
+// An answer that comes when none is awaited is that to a SIM that is there no more.
+void PaidTypeFinder::takeAnswer(PaidType type)
+{
+    if (isAsking())
+        setState(type, false);
+}
+
+void PaidTypeFinder::giveUp()
+{
+    emit changed();
+}
+
+void PaidTypeFinder::setState(PaidType type, bool asking)
+{
+    const bool same = type == m_type && asking == isAsking();
+    m_type = type;
+    if (asking)
+        m_timeLimit.start(replyLimit() + PLUGIN_GRACE);
+    else
+        m_timeLimit.stop();
+    if (!same)
+        emit changed();
+}

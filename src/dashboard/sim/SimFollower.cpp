@@ -1,0 +1,80 @@
+#include "SimFollower.h"
+
+#include "base/DashboardText.h"
+#include "device/DeviceWatcher.h"
+#include "plugin/UiPlugin.h"
+#include "SimWindows.h"
+#include "tksv_device.h"
+
+SimFollower::SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject *parent)
+    : QObject(parent), m_plugin(plugin), m_device(device), m_finder(plugin, this)
+{
+    connect(device, SIGNAL(changed()), this, SLOT(look()));
+    connect(device, SIGNAL(lost()), this, SLOT(onDeviceLost()));
+    connect(&m_finder, SIGNAL(settled()), this, SLOT(ask()));
+    connect(&m_finder, SIGNAL(changed()), this, SIGNAL(paidTypeChanged()));
+    connect(&m_activity, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
+    connect(&m_activity, SIGNAL(frameClosed()), this, SLOT(ask()));
+    connect(&m_activity, SIGNAL(commandEnded()), this, SIGNAL(commandEnded()));
+    connect(&m_activity, SIGNAL(commandEnded()), this, SLOT(ask()));
+}
+
+QString SimFollower::paidTypeText() const
+{
+    return isAsking() ? dashboardText("PAID_ASKING") : ::paidTypeText(m_finder.paidType());
+}
+
+void SimFollower::start()
+{
+    m_imsi = currentImsi();
+    offer();
+}
+
+/// A device that is away does not say that its SIM is another one.
+QString SimFollower::currentImsi() const
+{
+    const DeviceStatus &status = m_device->status();
+    return status.state == TKSV_DEVICE_ABSENT ? m_imsi : status.imsi;
+}
+
+void SimFollower::look()
+{
+    if (!m_plugin->isUsable())
+        return;
+    const QString imsi = currentImsi();
+    if (imsi == m_imsi)
+        return ask(); // it may be registered only now
+    if (!m_imsi.isEmpty())
+        m_replies.clear();
+    m_imsi = imsi;
+    m_plugin->notifySimChange();
+    offer();
+}
+
+void SimFollower::offer()
+{
+    emit windowsOffered(windowsForSim(m_plugin->ussd(), m_imsi));
+    m_finder.restart();
+}
+
+// Told here as well, since the text may have come before anybody listened to the replies.
+void SimFollower::questionCame()
+{
+    m_replies.expectAnswer();
+}
+
+/// Menus end with the device.
+void SimFollower::onDeviceLost()
+{
+    m_replies.clear();
+    m_finder.restart();
+}
+
+/// Neither while the user needs the device nor while a menu waits for his answer: asking would end
+/// both.
+void SimFollower::ask()
+{
+    const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();
+    if (isThere && !UserActivity::isBusy() && !m_replies.reply().asksForAnswer)
+        m_finder.tryToAsk();
+}

@@ -1,0 +1,225 @@
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "device/DeviceWatcher.h"
+#include "InstallPaths.h"
+#include "plugin/PrivateLibrary.h"
+#include "sim/OperatorCodes.h"
+#include "tksv_device.h"
+#include "TourGuide.h"
+#include "TourParts.h"
+#include "window/MainWindow.h"
+#include "window/NetworkMenu.h"
+
+namespace
+{
+
+const char MAIN[] = "dashboard";
+const char MODEL[] = "Northwind N7";
+const char MODEM[] = "353612345678901";
+const char PIN_DIALOG[] = "Dashboard_PinDialog";
+
+const TourStop NO_MODEM = {"no-modem", "no modem is there"};
+const TourStop NO_SERVICE = {"no-service", "ModemManager does not run"};
+const TourStop NOT_PERMITTED = {"not-permitted", "the system's policy refuses the modem"};
+const TourStop TWO_MODEMS = {"two-modems", "the menu, with two modems of the same name"};
+const TourStop LOCKED = {"locked-sim", "the SIM waits for its PIN"};
+const TourStop PIN = {"pin", "the PIN is typed"};
+const TourStop WRONG_PIN = {"wrong-pin", "it was not the PIN"};
+const TourStop LAST_TRY = {"last-try", "the last try"};
+const TourStop MESSAGE = {"network-message", "the network says something of its own accord"};
+const TourStop QUESTION = {"network-question", "the network asks for an answer"};
+const TourStop PROPOSAL = {"operator-proposed", "several operators fit the SIM"};
+const TourStop OPERATORS = {"operator-choice", "which one is it?"};
+const TourStop PROVISIONED = {"operator-in-use", "the operator's codes are in use"};
+
+const TourChange LOCKED_SIM[] = {{"[Network]", "State=registered", "State=sim-locked\nPIN=2468"}};
+const TourChange SPEAKING[] = {{"# ---- services", "\n",
+                                "\n[Push offer]\nAfter=300\nReply=Today only: 1 GB for 1.00 EUR. "
+                                "Dial *124*1# for it.\n\n[Push question]\nAfter=600\n"
+                                "Reply=A gigabyte for 1.00 EUR?\\n1 Yes\\n2 No\n"
+                                "[Push question/1]\nReply=Booked.\n\n"}};
+const TourChange KNOWN_HOME[] = {{"[Network]", "State=registered", "HomeNetwork=00101"},
+                                 {"[Network]", "Operator=Meridian Mobile", "Operator=Roamtel"}};
+
+/** Has the dashboard show devices that this machine does not have. */
+class Show
+{
+public:
+    explicit Show(DeviceWatcher &watcher) : m_watcher(watcher) {}
+    ~Show() { m_watcher.readFrom(nullptr); }
+    Show(const Show &) = delete;
+    Show &operator=(const Show &) = delete;
+
+    void device(int state, int problem, const char *model = "")
+    {
+        DeviceReading reading;
+        reading.status.isSimulated = false;
+        reading.status.state = state;
+        reading.status.problem = problem;
+        reading.status.source = QLatin1String(model);
+        reading.modems = m_modems;
+        m_watcher.readFrom([reading] { return reading; });
+    }
+    void modem(const char *equipmentId, const char *name, bool isInUse)
+    {
+        Modem modem;
+        modem.equipmentId = QLatin1String(equipmentId);
+        modem.name = QLatin1String(name);
+        modem.isInUse = isInUse;
+        m_modems << modem;
+    }
+
+private:
+    DeviceWatcher &m_watcher;
+    QList<Modem> m_modems;
+};
+
+template <typename T>
+T *part(const TourGuide &guide, const char *name)
+{
+    return guide.window()->findChild<T *>(QLatin1String(name));
+}
+
+bool isShown(const QWidget *widget)
+{
+    return widget && widget->isVisible();
+}
+
+// ---- modems
+
+bool walkTroubles(TourGuide &guide)
+{
+    const struct {
+        int state;
+        int problem;
+        const char *model;
+        TourStop stop;
+    } troubles[] = {{TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
+                    {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
+                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, MODEL, NOT_PERMITTED}};
+    Show show(guide.window()->device());
+    for (const auto &trouble : troubles) {
+        show.device(trouble.state, trouble.problem, trouble.model);
+        if (!guide.take(trouble.stop))
+            return false;
+    }
+    return true;
+}
+
+bool walkTwoModems(TourGuide &guide)
+{
+    Show show(guide.window()->device());
+    show.modem(MODEM, MODEL, true);
+    show.modem("353612345674417", MODEL, false);
+    show.device(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, MODEL);
+    guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
+    NetworkMenu *menu = guide.window()->networkMenu();
+    TourGuide::settle();
+    const QRect entry = guide.window()->menuBar()->actionGeometry(menu->menuAction());
+    const bool isMirrored = guide.window()->layoutDirection() == Qt::RightToLeft;
+    const QPoint below =
+        isMirrored ? entry.bottomRight() - QPoint(menu->sizeHint().width(), 0) : entry.bottomLeft();
+    menu->popup(guide.window()->menuBar()->mapToGlobal(below));
+    const bool isTaken = guide.takeWith(menu, TWO_MODEMS);
+    menu->close();
+    return isTaken;
+}
+
+// ---- a locked SIM
+
+bool tryPin(TourGuide &guide, const char *pin)
+{
+    QLineEdit *edit = part<QLineEdit>(guide, "Dashboard_PinEdit");
+    edit->setText(QLatin1String(pin));
+    part<QPushButton>(guide, "Dashboard_PinOk")->click();
+    return guide.waitFor([&guide] {
+        const QLineEdit *field = part<QLineEdit>(guide, "Dashboard_PinEdit");
+        return !isShown(field) || field->isEnabled();
+    });
+}
+
+bool walkPin(TourGuide &guide)
+{
+    if (!guide.useNetwork(LOCKED_SIM, 1) || !guide.take(LOCKED))
+        return false;
+    part<QPushButton>(guide, "Dashboard_PinButton")->click();
+    QWidget *dialog = part<QWidget>(guide, PIN_DIALOG);
+    part<QLineEdit>(guide, "Dashboard_PinEdit")->setText(QLatin1String("1357"));
+    if (!guide.takeWith(dialog, PIN) || !tryPin(guide, "1357") ||
+        !guide.takeWith(dialog, WRONG_PIN) || !tryPin(guide, "1359") ||
+        !guide.takeWith(dialog, LAST_TRY))
+        return false;
+    return tryPin(guide, "2468") &&
+           guide.waitFor([&guide] { return !isShown(part<QWidget>(guide, PIN_DIALOG)); });
+}
+
+// ---- what the network says of its own accord
+
+bool walkTexts(TourGuide &guide)
+{
+    if (!guide.useNetwork(SPEAKING, 1))
+        return false;
+    const QWidget *panel = part<QWidget>(guide, "Dashboard_NetworkTexts");
+    const QWidget *question = part<QWidget>(guide, "Dashboard_NetworkQuestion");
+    const bool isTaken = guide.waitFor([panel] { return isShown(panel); }) && guide.take(MESSAGE) &&
+                         guide.waitFor([question] { return isShown(question); }) &&
+                         guide.take(QUESTION);
+    part<QPushButton>(guide, "Dashboard_CloseNetworkTexts")->click();
+    return isTaken;
+}
+
+// ---- an operator's codes
+
+OperatorPlaces placesOfTour(const PrivateLibrary *library)
+{
+    OperatorPlaces places;
+    places.database = HostCore::InstallPaths::share() + QLatin1String("/tour/tour-operators.xml");
+    places.folders = library->path() + QLatin1String("/operators-") +
+                     QString::number(QDir(library->path()).count());
+    return places;
+}
+
+bool chooseFirstOperator(TourGuide &guide)
+{
+    part<QPushButton>(guide, "Dashboard_OperatorTake")->click();
+    QListWidget *list = part<QListWidget>(guide, "Dashboard_OperatorList");
+    if (!list)
+        return guide.failHere();
+    list->setCurrentRow(0);
+    if (!guide.takeWith(part<QWidget>(guide, "Dashboard_OperatorDialog"), OPERATORS))
+        return false;
+    part<QPushButton>(guide, "Dashboard_OperatorOk")->click();
+    return true;
+}
+
+bool walkOperator(TourGuide &guide)
+{
+    OperatorCodes &codes = guide.window()->operatorCodes();
+    const QWidget *notice = part<QWidget>(guide, "Dashboard_OperatorNotice");
+    if (!guide.useNetwork(KNOWN_HOME, 2))
+        return false;
+    codes.setPlaces(placesOfTour(guide.library()));
+    const bool isTaken = guide.waitFor([notice] { return isShown(notice); }) &&
+                         guide.take(PROPOSAL) && chooseFirstOperator(guide) &&
+                         guide.waitFor([&codes] { return !codes.operatorInUse().isEmpty(); }) &&
+                         guide.waitFor([&guide] {
+                             return isShown(part<QWidget>(guide, "Dashboard_PrepaidButton"));
+                         }) &&
+                         guide.take(PROVISIONED);
+    codes.setPlaces(OperatorPlaces::ofUser());
+    return isTaken;
+}
+
+} // namespace
+
+bool TourParts::walkDevices(TourGuide &guide)
+{
+    guide.window()->showPage(true);
+    guide.visit(guide.window(), MAIN);
+    return guide.useNetwork() && walkTroubles(guide) && walkTwoModems(guide) && walkPin(guide) &&
+           walkTexts(guide) && walkOperator(guide) && guide.useNetwork() && guide.usePlugin();
+}

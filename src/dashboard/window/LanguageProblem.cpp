@@ -1,0 +1,10 @@
+#include "LanguageProblem.h"
+
+#include "Languages.h"
+
+const char *languageProblem(const QString &code)
+{
+    return HostCore::Languages::fileState(code) == HostCore::Languages::Damaged
+               ? "LANGUAGE_DAMAGED"
+               : "LANGUAGE_MISSING";
+}

@@ -1,0 +1,362 @@
+#include "MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopWidget>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "base/DashboardText.h"
+#include "CommonUtils.h"
+#include "device/DashboardSettings.h"
+#include "DeviceHeader.h"
+#include "DeviceNotice.h"
+#include "HostState.h"
+#include "InstallPaths.h"
+#include "IUIPlugin.h"
+#include "IUSSD.h"
+#include "LanguageMenu.h"
+#include "LanguageProblem.h"
+#include "Languages.h"
+#include "NetworkMenu.h"
+#include "NetworkTextPanel.h"
+#include "NoticeBar.h"
+#include "OperatorNotice.h"
+#include "PageArea.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/UiPlugin.h"
+#include "plugin/UserActivity.h"
+#include "sim/SimWindows.h"
+#include "TerminalText.h"
+#include "WindowButtons.h"
+
+namespace
+{
+
+const QSize FIRST_SIZE(900, 700); // pixels
+const int LONGEST_DELAY = 5000;   // ms that the user may wait for a frame
+
+/// Such a window ends what is open on the device when it appears.
+bool endsSession(int paidType)
+{
+    return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
+}
+
+} // namespace
+
+MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
+    : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
+      m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
+      m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
+      m_networkMenu(new NetworkMenu(this)), m_header(new DeviceHeader(this)),
+      m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
+      m_problems(new NoticeBar("Dashboard_Problems", this)),
+      m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
+      m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
+      m_source(new QLabel(this))
+{
+    HostCore::HostState::setMainWindow(this);
+    setObjectName(QLatin1String("Dashboard_MainWindow"));
+    makeMenus();
+    makeCentre();
+    m_source->setObjectName(QLatin1String("Dashboard_Source"));
+    m_source->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(m_source, 1);
+    followSim();
+    followNetworkTexts();
+    followOperator();
+    retranslate();
+    restorePlace();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::followSim()
+{
+    m_frameDelay.setParent(this);
+    m_frameDelay.setObjectName(QLatin1String("Dashboard_FrameDelay"));
+    m_frameDelay.setSingleShot(true);
+    connect(&m_frameDelay, SIGNAL(timeout()), this, SLOT(openAwaitedFrame()));
+    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
+    connect(&m_sim, SIGNAL(windowsOffered(int)), this, SLOT(offerWindows(int)));
+    connect(&m_sim, SIGNAL(paidTypeChanged()), this, SLOT(showPaidType()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
+}
+
+void MainWindow::followNetworkTexts()
+{
+    connect(&m_networkTexts, SIGNAL(textReceived(QString, QDateTime, bool)), this,
+            SLOT(showNetworkText(QString, QDateTime, bool)));
+    connect(&m_sim, SIGNAL(commandEnded()), m_textPanel, SLOT(endQuestion()));
+    connect(&m_device, SIGNAL(lost()), m_textPanel, SLOT(endQuestion()));
+    m_networkTexts.start();
+}
+
+void MainWindow::followOperator()
+{
+    connect(m_networkMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
+    connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
+    connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
+}
+
+/// Later, since the plug-in may be at work on what brought this about.
+void MainWindow::beginAnew()
+{
+    m_isBeginningDue = true;
+    QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
+}
+
+/// What the user has open or waits for would go with the windows.
+void MainWindow::beginAnewIfDue()
+{
+    if (m_isBeginningDue && m_plugin->isUsable() && !UserActivity::isBusy())
+        restartPlugin();
+}
+
+void MainWindow::makeMenus()
+{
+    m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
+    m_quit->setShortcut(QKeySequence::Quit);
+    menuBar()->addMenu(m_fileMenu);
+    menuBar()->addMenu(m_networkMenu);
+    menuBar()->addMenu(m_languageMenu);
+    connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
+    connect(m_networkMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
+    connect(m_networkMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
+}
+
+void MainWindow::makeCentre()
+{
+    QWidget *centre = new QWidget(this);
+    QVBoxLayout *column = new QVBoxLayout(centre);
+    column->addWidget(m_header);
+    column->addWidget(m_problems);
+    column->addWidget(m_deviceNotice);
+    column->addWidget(m_operatorNotice);
+    column->addWidget(m_buttons);
+    column->addWidget(m_textPanel);
+    column->addWidget(m_page, 1);
+    setCentralWidget(centre);
+    m_buttons->setEnabled(false); // until there is a plug-in
+    connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
+    connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
+}
+
+void MainWindow::restorePlace()
+{
+    if (m_settings && restoreGeometry(m_settings->geometry()))
+        return;
+    resize(FIRST_SIZE.boundedTo(QApplication::desktop()->availableGeometry(this).size()));
+    CommonUtils::MoveCentre(this);
+}
+
+QWidget *MainWindow::page() const
+{
+    return m_page->canvas();
+}
+
+PluginFailure MainWindow::loadPlugin()
+{
+    m_operatorCodes.look();
+    m_isBeginningDue = false;
+    return startWith(m_plugin->load(UiPlugin::installedFile()));
+}
+
+PluginFailure MainWindow::restartPlugin()
+{
+    m_isBeginningDue = false;
+    m_windows = 0; // its page went with it
+    return startWith(m_plugin->restart());
+}
+
+PluginFailure MainWindow::startWith(const PluginFailure &failure)
+{
+    m_buttons->setEnabled(m_plugin->isUsable());
+    if (m_plugin->isUsable())
+        m_sim.start();
+    else
+        m_page->showText(failure.text());
+    return failure;
+}
+
+void MainWindow::offerWindows(int windows)
+{
+    const int changed = m_windows ^ windows;
+    m_windows = windows;
+    m_awaitedFrame = PAID_TYPE_NONE;
+    m_buttons->offer(windows);
+    if (changed & SIM_WINDOW_GENERAL)
+        showPage(windows & SIM_WINDOW_GENERAL);
+    m_page->showText(windows ? QString() : dashboardText("WINDOWS_NONE"));
+}
+
+void MainWindow::showPage(bool shown)
+{
+    if (shown)
+        m_page->showPage();
+    else
+        m_page->hidePage();
+    m_buttons->setPageShown(shown);
+    // The plug-in leaves the close button of an embedded window to the host.
+    if (QPushButton *close = GeneralWindow(page()).closeButton())
+        connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
+}
+
+void MainWindow::hidePage()
+{
+    showPage(false);
+}
+
+void MainWindow::openFrame(int paidType)
+{
+    if (!m_plugin->isUsable())
+        return;
+    if (endsSession(paidType) && m_sim.isAsking()) {
+        m_awaitedFrame = paidType;
+        m_frameDelay.start(LONGEST_DELAY);
+        return;
+    }
+    openFrameNow(paidType);
+}
+
+void MainWindow::openAwaitedFrame()
+{
+    m_frameDelay.stop();
+    const int paidType = m_awaitedFrame;
+    m_awaitedFrame = PAID_TYPE_NONE;
+    if (paidType != PAID_TYPE_NONE && m_plugin->isUsable())
+        openFrameNow(paidType);
+}
+
+/// The general window's entry field takes the answer. To show the window ends nothing on the
+/// device, and one that is shown already is left alone, with what is being typed there.
+void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
+                                 bool waitsForAnswer)
+{
+    m_textPanel->add(text, receivedAt, waitsForAnswer);
+    if (!waitsForAnswer)
+        return;
+    m_sim.questionCame();
+    const QLineEdit *entry = GeneralWindow(page()).commandEdit();
+    if (m_plugin->isUsable() && !(entry && entry->isVisible()))
+        showPage(true);
+}
+
+void MainWindow::openFrameNow(int paidType)
+{
+    if (paidType == PAID_TYPE_GENERAL)
+        m_plugin->plugin()->DoModal();
+    else
+        m_plugin->ussd()->DoPrePostPaidModal(static_cast<PAID_TYPE>(paidType));
+}
+
+void MainWindow::setLanguage(const QString &code)
+{
+    if (!HostCore::Languages::setCurrent(code)) {
+        showProblem(dashboardText(languageProblem(code)).arg(HostCore::Languages::file(code)));
+        m_languageMenu->retranslate(); // the mark back to the language that is left
+        return;
+    }
+    if (m_settings)
+        m_settings->setLanguage(code);
+    m_plugin->notifyLanguageChange();
+    retranslate();
+}
+
+void MainWindow::retranslate()
+{
+    setWindowTitle(dashboardText("APP_TITLE"));
+    m_fileMenu->setTitle(dashboardText("MENU_FILE"));
+    m_quit->setText(dashboardText("ACTION_QUIT"));
+    m_languageMenu->retranslate();
+    m_textPanel->retranslate();
+    m_operatorNotice->retranslate();
+    m_buttons->retranslate();
+    if (m_plugin->isUsable() && !m_windows)
+        m_page->showText(dashboardText("WINDOWS_NONE"));
+    showDevice();
+}
+
+void MainWindow::showPaidType()
+{
+    m_header->showPaidType(m_sim.paidTypeText());
+    if (!m_sim.isAsking())
+        openAwaitedFrame();
+}
+
+void MainWindow::showDevice()
+{
+    m_networkMenu->offer(m_networkMenu->choice(), m_device.modems());
+    m_deviceNotice->update();
+    m_header->showStatus(m_device.status());
+    m_header->showPaidType(m_sim.paidTypeText());
+    m_source->setText(m_device.status().sourceText());
+    m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
+}
+
+bool MainWindow::useScenario(const QString &file)
+{
+    return useDevice(DeviceChoice::simulated(file));
+}
+
+bool MainWindow::useDevice(const DeviceChoice &choice)
+{
+    const QString error = choice.use();
+    if (!error.isEmpty()) {
+        setDevice(m_networkMenu->choice());
+        showScenarioError(error);
+        return false;
+    }
+    setDevice(choice);
+    return true;
+}
+
+void MainWindow::setDevice(const DeviceChoice &choice)
+{
+    m_networkMenu->offer(choice, m_device.modems());
+    m_device.refresh();
+}
+
+void MainWindow::showProblem(const QString &text)
+{
+    const QString before = m_problems->text();
+    if (before.contains(text))
+        return;
+    HostCore::printErrorLine(text);
+    m_problems->setText(before.isEmpty() ? text : before + QLatin1Char('\n') + text);
+}
+
+void MainWindow::showScenarioError(const QString &error)
+{
+    CommonUtils::ShowMessage(QMessageBox::Warning, this, dashboardText("SCENARIO_UNUSABLE"), error,
+                             QLatin1String("IDS_OK"));
+}
+
+void MainWindow::chooseDevice(const QString &word)
+{
+    const DeviceChoice choice = DeviceChoice::fromWord(word);
+    if (useDevice(choice) && m_settings)
+        m_settings->setDevice(choice);
+}
+
+void MainWindow::openScenario()
+{
+    const QString filter = dashboardText("SCENARIO_FILTER") + QLatin1String(" (*.scenario);;") +
+                           dashboardText("ALL_FILES") + QLatin1String(" (*)");
+    const QString file = QFileDialog::getOpenFileName(this, dashboardText("SCENARIO_CHOOSE"),
+                                                      HostCore::InstallPaths::scenarios(), filter);
+    if (!file.isEmpty())
+        chooseDevice(DeviceChoice::simulated(file).word());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_settings)
+        m_settings->setGeometry(saveGeometry());
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,100 @@
+#include "NetworkMenu.h"
+
+#include <QActionGroup>
+
+#include "base/DashboardText.h"
+#include "device/Scenarios.h"
+
+namespace
+{
+
+const char DEFAULT_NAME[] = "default";
+
+/// A name means itself, not a mnemonic.
+QString asMenuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+NetworkMenu::NetworkMenu(QWidget *parent) : QMenu(parent)
+{
+    connect(this, SIGNAL(aboutToShow()), this, SLOT(retranslate()));
+    retranslate();
+}
+
+void NetworkMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
+{
+    m_choice = choice;
+    m_modems = modems;
+    if (!isVisible())
+        retranslate();
+}
+
+void NetworkMenu::retranslate()
+{
+    clear();
+    delete m_group;
+    m_group = new QActionGroup(this);
+    connect(m_group, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
+    setTitle(dashboardText("MENU_NETWORK"));
+
+    addChoice(dashboardText("NETWORK_AUTOMATIC"), DeviceChoice::automatic());
+    addSeparator();
+    addModems();
+    addSeparator();
+    addScenarios();
+    addAction(dashboardText("NETWORK_OPEN"), this, SIGNAL(openRequested()));
+    addSeparator();
+    addAction(dashboardText("CODES_MENU"), this, SIGNAL(operatorRequested()));
+}
+
+void NetworkMenu::addModems()
+{
+    for (const Modem &modem : m_modems) {
+        const QString title = asMenuText(modemTitle(modem, m_modems));
+        addChoice(modem.isInUse ? dashboardText("NETWORK_IN_USE").arg(title) : title,
+                  DeviceChoice::modem(modem.equipmentId));
+    }
+    if (m_choice.kind == DeviceChoice::Modem && !hasModem(m_choice.name))
+        addChoice(dashboardText("NETWORK_ABSENT_MODEM").arg(asMenuText(m_choice.name)), m_choice);
+    else if (m_modems.isEmpty())
+        addAction(dashboardText("NETWORK_NO_MODEM"))->setEnabled(false);
+}
+
+void NetworkMenu::addScenarios()
+{
+    addChoice(dashboardText("NETWORK_DEFAULT"), DeviceChoice::simulated(QString()));
+    QStringList files = Scenarios::shipped();
+    if (m_choice.kind == DeviceChoice::Simulated && !m_choice.name.isEmpty() &&
+        !files.contains(m_choice.name))
+        files << m_choice.name;
+    for (const QString &file : files) {
+        if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
+            addChoice(asMenuText(Scenarios::displayName(file)), DeviceChoice::simulated(file));
+    }
+}
+
+void NetworkMenu::addChoice(const QString &text, const DeviceChoice &choice)
+{
+    QAction *action = addAction(text);
+    action->setData(choice.word());
+    action->setCheckable(true);
+    action->setChecked(choice == m_choice);
+    m_group->addAction(action);
+}
+
+bool NetworkMenu::hasModem(const QString &equipmentId) const
+{
+    for (const Modem &modem : m_modems) {
+        if (modem.equipmentId == equipmentId)
+            return true;
+    }
+    return false;
+}
+
+void NetworkMenu::onTriggered(QAction *action)
+{
+    emit chosen(action->data().toString());
+}
