@@ -105,7 +105,7 @@ void PaidTypeTest::theServiceTellsWhatTheRecordSays()
     QFETCH(int, type);
     NotificationService service;
     int told = -1;
-    connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { told = each; });
+    connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { told = int(each); });
     const PrePostRecord record = {inUse, postpaid, result};
     service.Notify(addressee(0), TOLD, addressOf(record), 0);
     QCOMPARE(told, type);
