@@ -4,7 +4,8 @@
 # from it.
 . "$(dirname "$0")/common.sh"
 
-# One line for each pair of folders: "FROM TO", below src.
+# One line for each pair of folders: "FROM TO", below src. The public headers of the device SDK, which
+# lie beside its code, count as a folder of their own, "tksv.h".
 included_folders() {
     local file name
     cpp_files src | while IFS= read -r file; do
@@ -13,6 +14,7 @@ included_folders() {
                 printf '%s %s\n' "$file" "$name"
             done
     done | perl -e '
+        sub folder { $_[0] =~ m{^src/sdk/tksv(_device)?\.h$} ? "tksv.h" : $_[0] =~ m{^src/(.*)/} ? $1 : "" }
         my %place; # all headers by the end of their path
         for my $header (split /\n/, $ENV{headers}) {
             my @parts = split m{/}, $header;
@@ -20,10 +22,11 @@ included_folders() {
         }
         while (<STDIN>) {
             my ($file, $name) = split;
-            my ($from) = $file =~ m{^src/(.*)/};
-            my $beside = "src/$from/$name";
+            my $from = folder($file);
+            my $beside = $file =~ s{[^/]+$}{$name}r;
             my $header = -f $beside ? $beside : $place{$name} // next;
-            my ($to) = $header =~ m{^src/(.*)/};
+            1 while $header =~ s{[^/]+/\.\./}{};
+            my $to = folder($header);
             print "$from $to\n" if $from ne $to;
         }' | sort -u
 }

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Draws docs/architecture.dot as docs/pictures/architecture.svg. tests/checks/architecture.sh compares
+# the arrows with the includes, and tells when the picture is older than its text.
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/prepare.sh
+
+source=docs/architecture.dot
+picture=docs/pictures/architecture.svg
+install_missing_packages check
+dot -Tsvg "$source" | sed "1a <!-- drawn from $source, SHA-1 $(sha1sum <"$source" | cut -d' ' -f1) -->" >"$picture"
