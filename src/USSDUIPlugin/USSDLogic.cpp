@@ -43,17 +43,30 @@ bool isNotUSSDSMS(const USSDCmdOrResp &command)
 } // namespace
 
 USSDLogic *USSDLogic::m_pUSSDLogicInstance = nullptr;
-QList<USSDCmdOrResp> USSDLogic::m_listOfCommandsToSend;
+CommandQueue USSDLogic::m_listOfCommandsToSend;
 QMutex USSDLogic::m_mutex;
 QMutex USSDLogic::m_mutexSendCmd;
 QMutex USSDLogic::m_mutexTimeout;
 QWaitCondition USSDLogic::m_waitCondition;
 ReplyTimer *USSDLogic::m_pTimer = nullptr;
 std::atomic<bool> USSDLogic::m_bCanSendSMS(false);
-USSDLogic::HeadMarks USSDLogic::m_headMarks = {1, 0, 0};
 quint64 USSDLogic::m_timedHead = 0;
 CallbackGate USSDLogic::m_gate;
 ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
+
+/**
+ * The only access to the pending commands. LockedQueue()->function() holds m_mutex until the end of
+ * the expression, so an expression contains nothing else that takes a lock or calls other code.
+ */
+class USSDLogic::LockedQueue
+{
+public:
+    LockedQueue() : m_locker(&m_mutex) {}
+    CommandQueue *operator->() { return &m_listOfCommandsToSend; }
+
+private:
+    QMutexLocker m_locker;
+};
 
 // ---- life cycle ----------------------------------------------------------------------------
 
@@ -94,7 +107,7 @@ void USSDLogic::Destroy()
     m_pTimer = nullptr;
     delete m_pUSSDLogicInstance;
     m_pUSSDLogicInstance = nullptr;
-    clearPending(); // the list goes with its owner, or the next one would wait behind it
+    LockedQueue()->clear(); // the list goes with its owner, or the next one would wait behind it
 }
 
 // These two log under the constructor's name, of which they are a part.
@@ -159,117 +172,23 @@ ReplyTimes USSDLogic::replyTimes()
     return m_replyTimes;
 }
 
-// ---- the pending list: each function holds m_mutex for one look or one change ----------------
+// ---- the pending list ----------------------------------------------------------------------
 
 void USSDLogic::copyCmdToList(USSDCmdOrResp cmd)
 {
-    QMutexLocker locker(&m_mutex);
-    m_listOfCommandsToSend.append(cmd);
-}
-
-int USSDLogic::pendingCount()
-{
-    QMutexLocker locker(&m_mutex);
-    return m_listOfCommandsToSend.count();
-}
-
-quint64 USSDLogic::headNumber()
-{
-    QMutexLocker locker(&m_mutex);
-    return m_headMarks.current;
-}
-
-/// Reply, time-out and device failure can meet: whoever claims the head announces its outcome.
-/// With a number other than 0, only the head of that number is meant.
-USSDLogic::Claim USSDLogic::claimHead(ClaimedHead &head, quint64 number)
-{
-    QMutexLocker locker(&m_mutex);
-    if (m_listOfCommandsToSend.isEmpty())
-        return ListEmpty;
-    if (m_headMarks.claimed == m_headMarks.current)
-        return ClaimedByOther;
-    if (number != 0 && number != m_headMarks.current)
-        return ClaimedByOther;
-    m_headMarks.claimed = m_headMarks.current;
-    head.number = m_headMarks.current;
-    head.component = m_listOfCommandsToSend.first().component;
-    return Claimed;
-}
-
-/// False when there is no head, or it is on its way already: an entry that becomes the head while
-/// its sender still looks at the list would otherwise be sent by two threads.
-bool USSDLogic::markHeadSent(USSDCmdOrResp &command, quint64 &number)
-{
-    QMutexLocker locker(&m_mutex);
-    if (m_listOfCommandsToSend.isEmpty() || m_headMarks.sent == m_headMarks.current)
-        return false;
-    m_headMarks.sent = m_headMarks.current;
-    number = m_headMarks.current;
-    command = m_listOfCommandsToSend.first();
-    return true;
-}
-
-/// Whether nobody has announced this head yet, or one behind it. One that was cleared counts: its
-/// time-out still runs, and moves on what stands behind it.
-bool USSDLogic::awaitsReply(quint64 number)
-{
-    QMutexLocker locker(&m_mutex);
-    return m_headMarks.claimed < number;
-}
-
-/// Whether this is still the head and nobody announces it.
-bool USSDLogic::isOpenHead(quint64 number)
-{
-    QMutexLocker locker(&m_mutex);
-    return m_headMarks.current == number && m_headMarks.claimed != number;
-}
-
-void USSDLogic::removeHead(quint64 number)
-{
-    QMutexLocker locker(&m_mutex);
-    if (m_headMarks.current == number && !m_listOfCommandsToSend.isEmpty())
-        removeFirst();
-}
-
-/// With m_mutex held.
-void USSDLogic::removeFirst()
-{
-    m_listOfCommandsToSend.removeFirst();
-    ++m_headMarks.current;
-}
-
-void USSDLogic::clearPending()
-{
-    QMutexLocker locker(&m_mutex);
-    if (m_listOfCommandsToSend.isEmpty())
-        return;
-    m_listOfCommandsToSend.clear();
-    ++m_headMarks.current;
-}
-
-void USSDLogic::keepOnly(bool (*keep)(const USSDCmdOrResp &))
-{
-    QMutexLocker locker(&m_mutex);
-    QList<USSDCmdOrResp> kept;
-    for (int i = 0; i < m_listOfCommandsToSend.count(); ++i) {
-        if (keep(m_listOfCommandsToSend.at(i)))
-            kept.append(m_listOfCommandsToSend.at(i));
-        else if (i == 0)
-            ++m_headMarks.current;
-    }
-    m_listOfCommandsToSend = kept;
+    LockedQueue()->append(cmd);
 }
 
 void USSDLogic::ClearQueuedCmds()
 {
     USSD_LOG_SCOPE();
-    keepOnly(isPrePostQuery);
+    LockedQueue()->keepOnly(isPrePostQuery);
 }
 
 void USSDLogic::ClearUSSDSMSQueuedCmds()
 {
     USSD_LOG_SCOPE();
-    keepOnly(isNotUSSDSMS);
+    LockedQueue()->keepOnly(isNotUSSDSMS);
 }
 
 // ---- sending -------------------------------------------------------------------------------
@@ -278,7 +197,7 @@ int USSDLogic::SendUSSDCommand(USSDCmdOrResp cmd, int *status)
 {
     USSD_LOG(" Enter");
     copyCmdToList(cmd);
-    if (pendingCount() == 1)
+    if (LockedQueue()->count() == 1)
         return sendHead(status);
     USSD_LOG(" Exit");
     return SENT;
@@ -292,10 +211,9 @@ void USSDLogic::checkPendingCmds()
 
 int USSDLogic::sendHead(int *status)
 {
-    USSDCmdOrResp head;
-    quint64 number = 0;
-    while (markHeadSent(head, number)) {
-        const int result = sendUSSDCommand(head.command, number, status);
+    CommandQueue::Head head;
+    while (LockedQueue()->markHeadSent(head)) {
+        const int result = sendUSSDCommand(head.command.command, head.number, status);
         if (result != NOT_THE_HEAD)
             return result;
     }
@@ -304,11 +222,10 @@ int USSDLogic::sendHead(int *status)
 
 int USSDLogic::sendUSSDCommand(QString command, int *status)
 {
-    USSDCmdOrResp head;
-    quint64 number = 0;
-    if (!markHeadSent(head, number))
-        number = headNumber();
-    return sendUSSDCommand(command, number, status) == FAILED ? FAILED : SENT;
+    CommandQueue::Head head;
+    if (!LockedQueue()->markHeadSent(head))
+        head.number = LockedQueue()->headNumber();
+    return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
 /// The silence after a failure is deliberate: the caller sees the result, nobody gets a signal, and
@@ -320,12 +237,12 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (!status)
         status = &ignoredStatus;
     QMutexLocker sending(&m_mutexSendCmd);
-    if (!isOpenHead(number)) // cleared or answered while this waited for its turn
+    if (!LockedQueue()->isOpenHead(number)) // cleared or answered while this waited for its turn
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
         USSD_LOG_EXIT(" USSDCommand is too large");
-        removeHead(number);
+        LockedQueue()->removeHead(number);
         return FAILED;
     }
     USSD_LOG_IMPORTANT(" Calling TKSV_USSDSrv_Request (USSDCmd= %s, USSDCmdLen = %d)",
@@ -335,7 +252,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
                        result);
     if (result != 0) {
         USSD_LOG_EXIT_IMPORTANT(" TKSV_USSDSrv_Request failed");
-        removeHead(number);
+        LockedQueue()->removeHead(number);
         return FAILED;
     }
     armReplyTimer(number);
@@ -354,7 +271,7 @@ void USSDLogic::armReplyTimer(quint64 number)
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
     locker.unlock();
     // A reply that was quicker than this found nothing to take back.
-    if (!awaitsReply(number))
+    if (!LockedQueue()->awaitsReply(number))
         m_pTimer->disarm(arming);
 }
 
@@ -397,23 +314,23 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
         USSD_LOG_EXIT_IMPORTANT(" Fail Exit: Logic Object is NULL");
         return 0;
     }
-    ClaimedHead head = {0, COMPONENT_BALANCE};
-    const Claim claim = claimHead(head);
-    if (claim == ClaimedByOther) {
+    CommandQueue::Head head;
+    const CommandQueue::Claim claim = LockedQueue()->claimHead(head);
+    if (claim == CommandQueue::ClaimedByOther) {
         USSD_LOG_EXIT(" Exit: the command has its answer already");
         return 0;
     }
     stopReplyTimer();
     USSD_LOG(" received response type = %d", SdkRecords::responseType(data));
-    if (claim == ListEmpty) {
+    if (claim == CommandQueue::Empty) {
         USSD_LOG_EXIT(" sending USSD commond list is empty");
         return 0;
     }
     const QString text = SdkRecords::responseText(data);
-    USSD_LOG(" received component = %d", head.component);
+    USSD_LOG(" received component = %d", head.command.component);
     USSD_LOG(" received response = %s", text.toLocal8Bit().constData());
-    emit m_pUSSDLogicInstance->responseReceived(head.component, text);
-    removeHead(head.number);
+    emit m_pUSSDLogicInstance->responseReceived(head.command.component, text);
+    LockedQueue()->removeHead(head.number);
     m_pUSSDLogicInstance->checkPendingCmds();
     return 1;
 }
@@ -422,15 +339,17 @@ void USSDLogic::OnTimeOut()
 {
     USSD_LOG_SCOPE();
     // Looked up first: a head that a quick reply brings up from here on has not run out of time.
-    const quint64 number = headNumber();
-    ClaimedHead head = {0, COMPONENT_BALANCE};
-    if (!stopRunOutTimer() || claimHead(head, number) != Claimed)
+    const quint64 number = LockedQueue()->headNumber();
+    CommandQueue::Head head;
+    if (!stopRunOutTimer())
+        return;
+    if (LockedQueue()->claimHead(head, number) != CommandQueue::Claimed)
         return;
     const QPointer<USSDLogic> self(this); // a receiver may shut everything down
-    emit responseReceived(head.component, tr(QLatin1String("USSD_CODE_TIME_OUT")));
+    emit responseReceived(head.command.component, tr(QLatin1String("USSD_CODE_TIME_OUT")));
     if (!self)
         return;
-    removeHead(head.number);
+    LockedQueue()->removeHead(head.number);
     checkPendingCmds();
 }
 
@@ -450,7 +369,7 @@ bool USSDLogic::stopRunOutTimer()
     m_pTimer->disarm(runOut);
     const quint64 timedHead = m_timedHead;
     locker.unlock();
-    return awaitsReply(timedHead);
+    return LockedQueue()->awaitsReply(timedHead);
 }
 
 unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
@@ -462,14 +381,14 @@ unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
     const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid())
         return 1; // nothing is pending
-    ClaimedHead head = {0, COMPONENT_BALANCE};
-    const Claim claim = claimHead(head);
-    if (claim == ListEmpty)
+    CommandQueue::Head head;
+    const CommandQueue::Claim claim = LockedQueue()->claimHead(head);
+    if (claim == CommandQueue::Empty)
         return 1;
-    if (claim == Claimed)
-        emit m_pUSSDLogicInstance->responseReceived(head.component,
+    if (claim == CommandQueue::Claimed)
+        emit m_pUSSDLogicInstance->responseReceived(head.command.component,
                                                     tr(QLatin1String("USSD_CODE_FAILED")));
-    clearPending();
+    LockedQueue()->clear();
     return 1;
 }
 

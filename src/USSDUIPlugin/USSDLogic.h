@@ -3,12 +3,12 @@
 
 #include <atomic>
 
-#include <QList>
 #include <QMutex>
 #include <QObject>
 #include <QWaitCondition>
 
 #include "CallbackGate.h"
+#include "CommandQueue.h"
 #include "PluginConfig.h"
 #include "USSDCommand.h"
 #include "USSDProfile.h"
@@ -40,15 +40,17 @@ struct ReplyTimes {
 };
 
 /**
- * The one way to the device: configuration, the pipeline of commands, device and SMS events.
+ * Holds the configuration, sends the commands of all dialogs to the device, one at a time, and
+ * announces replies, time-outs, device failures and SMS events.
  *
- * Made on first use on the GUI thread, which also sends, clears, times out and destroys. The device
- * SDK's threads run the three call-backs and, through them, send the next pending command. Commands
- * wait in a list whose head is the one in flight.
+ * The first use constructs the singleton on the GUI thread, which also sends, clears, handles
+ * time-outs and destroys. The device SDK runs the three call-backs on its own threads, and the
+ * reply call-back sends the next pending command there.
  *
- * Locks: m_mutex guards the list, for one look or one change at a time, and is always taken alone.
- * m_mutexSendCmd makes the hand-over of one command atomic; m_mutexTimeout, taken inside it, guards
- * the start of the time-out. None is held while a signal is emitted or the host is called.
+ * Locks: m_mutex guards the pending commands for one call of CommandQueue, and no other lock is
+ * taken meanwhile. m_mutexSendCmd makes the hand-over of one command atomic; m_mutexTimeout, taken
+ * inside it, guards the start of the time-out. No lock is held while a signal is emitted or the
+ * host is called.
  */
 class USSDLogic : public QObject
 {
@@ -144,38 +146,12 @@ public slots:
     void OnTimeOut();
 
 private:
-    /// Marks of the list's head. Removing it makes the next entry another head, so a mark set for
-    /// one command never counts for another. Guarded by m_mutex.
-    struct HeadMarks {
-        quint64 current; // number of the head, or of the one to come
-        quint64 sent;    // the head with this number was handed over
-        quint64 claimed; // somebody announces the outcome of the head with this number
-    };
-
-    /// A head whose outcome nobody else will announce.
-    struct ClaimedHead {
-        quint64 number;
-        _COMPONENT component;
-    };
-
-    enum Claim { ListEmpty, ClaimedByOther, Claimed };
+    class LockedQueue;
 
     explicit USSDLogic();
 
-    bool openConfiguration(QXmlStreamReader &reader, QFile &file);
     void registerDeviceCallback();
     void registerSmsCallback();
-
-    static int pendingCount();
-    static quint64 headNumber();
-    static Claim claimHead(ClaimedHead &head, quint64 number = 0);
-    static bool markHeadSent(USSDCmdOrResp &command, quint64 &number);
-    static bool awaitsReply(quint64 number);
-    static bool isOpenHead(quint64 number);
-    static void removeHead(quint64 number);
-    static void removeFirst();
-    static void clearPending();
-    static void keepOnly(bool (*keep)(const USSDCmdOrResp &));
 
     int sendHead(int *status);
     int sendUSSDCommand(const QString &command, quint64 number, int *status);
@@ -186,14 +162,13 @@ private:
     void announceSmsStatus(void *data);
 
     static USSDLogic *m_pUSSDLogicInstance;
-    static QList<USSDCmdOrResp> m_listOfCommandsToSend;
+    static CommandQueue m_listOfCommandsToSend; // used through LockedQueue only
     static QMutex m_mutex;
     static QMutex m_mutexSendCmd;
     static QMutex m_mutexTimeout;
     static QWaitCondition m_waitCondition;
     static ReplyTimer *m_pTimer;
     static std::atomic<bool> m_bCanSendSMS;
-    static HeadMarks m_headMarks;
     static quint64 m_timedHead; // the head that the timer was armed for; guarded by m_mutexTimeout
     static CallbackGate m_gate;
     static ReplyTimes m_replyTimes;
