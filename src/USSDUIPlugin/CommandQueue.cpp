@@ -19,8 +19,10 @@ void CommandQueue::append(const USSDCmdOrResp &command)
 
 CommandQueue::Claim CommandQueue::claimHead(Head &head, quint64 number)
 {
-    if (m_commands.isEmpty())
+    if (m_commands.isEmpty()) {
+        head.number = m_marks.current - 1;
         return Empty;
+    }
     if (m_marks.claimed == m_marks.current)
         return ClaimedByOther;
     if (number != 0 && number != m_marks.current)

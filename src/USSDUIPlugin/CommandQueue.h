@@ -54,7 +54,8 @@ public:
     /// Adds a command at the end, even when the same command is waiting.
     void append(const USSDCmdOrResp &command);
     /// Claims the head for the one caller that announces its outcome. With `number`, only the head
-    /// of this number is meant. `head` is filled in when the result is Claimed.
+    /// of this number is meant. `head` is filled in when the result is Claimed. When the result is
+    /// Empty, `head.number` is the number of the last head that there was.
     Claim claimHead(Head &head, quint64 number = 0);
     /// Marks the head as sent and returns it. Returns false for an empty queue, and for a head that
     /// another caller hands over.

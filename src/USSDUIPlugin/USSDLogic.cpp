@@ -275,11 +275,13 @@ void USSDLogic::armReplyTimer(quint64 number)
         m_pTimer->disarm(arming);
 }
 
-void USSDLogic::stopReplyTimer()
+/// Wakes the waiting sender, and stops the time-out unless it is for a head behind `lastHead`. Such
+/// a head was sent while a reply was on its way from its claim to this call.
+void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
     QMutexLocker locker(&m_mutexTimeout);
     m_waitCondition.wakeAll();
-    if (m_pTimer)
+    if (m_pTimer && m_timedHead <= lastHead)
         m_pTimer->disarm();
 }
 
@@ -320,7 +322,7 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
         USSD_LOG_EXIT(" Exit: the command has its answer already");
         return 0;
     }
-    stopReplyTimer();
+    stopReplyTimer(head.number);
     USSD_LOG(" received response type = %d", SdkRecords::responseType(data));
     if (claim == CommandQueue::Empty) {
         USSD_LOG_EXIT(" sending USSD commond list is empty");

@@ -156,7 +156,7 @@ private:
     int sendHead(int *status);
     int sendUSSDCommand(const QString &command, quint64 number, int *status);
     static void armReplyTimer(quint64 number);
-    static void stopReplyTimer();
+    static void stopReplyTimer(quint64 lastHead = ~quint64(0));
     static bool stopRunOutTimer();
     void announceSmsResult(void *data);
     void announceSmsStatus(void *data);
