@@ -1,0 +1,72 @@
+#ifndef QUEUEMODEL_H
+#define QUEUEMODEL_H
+
+#include <vector>
+
+/**
+ * What CommandQueue must do, told by commands instead of by the numbers of heads: a mark belongs to
+ * its command and goes with it. Commands are called 1, 2, 3 in the order in which they are sent;
+ * 0 is no command.
+ */
+struct QueueModel {
+    struct Entry {
+        int command;
+        int component;
+        bool sent;
+        bool claimed;
+    };
+
+    std::vector<Entry> entries;
+    int lastClaimed = 0;
+
+    int head() const { return entries.empty() ? 0 : entries.front().command; }
+    bool isOpen(int command) const { return head() == command && !entries.front().claimed; }
+    bool awaitsReply(int command) const { return lastClaimed < command; }
+
+    void append(int command, int component);
+    int claimHead();
+    int markHeadSent();
+    void remove(int command);
+    template <typename Keep>
+    void keepOnly(Keep keep);
+};
+
+inline void QueueModel::append(int command, int component)
+{
+    entries.push_back(Entry{command, component, false, false});
+}
+
+inline int QueueModel::claimHead()
+{
+    if (entries.empty() || entries.front().claimed)
+        return 0;
+    entries.front().claimed = true;
+    return lastClaimed = head();
+}
+
+inline int QueueModel::markHeadSent()
+{
+    if (entries.empty() || entries.front().sent)
+        return 0;
+    entries.front().sent = true;
+    return head();
+}
+
+inline void QueueModel::remove(int command)
+{
+    if (command != 0 && head() == command)
+        entries.erase(entries.begin());
+}
+
+template <typename Keep>
+void QueueModel::keepOnly(Keep keep)
+{
+    std::vector<Entry> kept;
+    for (const Entry &entry : entries) {
+        if (keep(entry))
+            kept.push_back(entry);
+    }
+    entries = kept;
+}
+
+#endif

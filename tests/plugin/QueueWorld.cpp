@@ -1,0 +1,607 @@
+#include "QueueWorld.h"
+
+#include <tuple>
+
+namespace
+{
+
+enum Way { Accepted, Refused, TooLong, WayCount };
+
+unsigned bit(int command)
+{
+    return 1u << command;
+}
+
+bool isQuery(const USSDCmdOrResp &command)
+{
+    return command.component == COMPONENT_PREPOST_QUERY;
+}
+
+bool isNotOfServices(const USSDCmdOrResp &command)
+{
+    return command.component != COMPONENT_USSD_SMS;
+}
+
+bool isNeverKept(const USSDCmdOrResp &)
+{
+    return false;
+}
+
+/// The text of a command is its number, as one letter.
+USSDCmdOrResp commandOf(int number, int component)
+{
+    static const QString letters = QString::fromLatin1("-abcdefgh");
+    return USSDCmdOrResp(static_cast<_COMPONENT>(component), letters.mid(number, 1));
+}
+
+int numberOf(const USSDCmdOrResp &command)
+{
+    return command.command.at(0).unicode() - 'a' + 1;
+}
+
+template <typename Names>
+constexpr int lengthOf(const Names &names)
+{
+    return int(sizeof(names) / sizeof(names[0]));
+}
+
+} // namespace
+
+const QueueWorld::StepEntry QueueWorld::kSteps[] = {
+    {"-", nullptr},
+    {"append", &QueueWorld::append},
+    {"count", &QueueWorld::count},
+    {"mark the head as sent", &QueueWorld::markSent},
+    {"hand over", &QueueWorld::handOver},
+    {"remove the refused head", &QueueWorld::removeRefused},
+    {"arm the timer", &QueueWorld::armTimer},
+    {"look for a quick reply", &QueueWorld::lookForQuickReply},
+    {"disarm the timer", &QueueWorld::disarmTimer},
+    {"claim for a reply", &QueueWorld::claimForReply},
+    {"stop the timer", &QueueWorld::stopTimer},
+    {"remove the answered head", &QueueWorld::removeAnswered},
+    {"the timer runs out", &QueueWorld::runOut},
+    {"look up the head", &QueueWorld::lookUpHead},
+    {"stop the timer that ran out", &QueueWorld::stopRunOutTimer},
+    {"look for a reply", &QueueWorld::lookForReply},
+    {"claim for the time-out", &QueueWorld::claimForTimeOut},
+    {"remove the head that timed out", &QueueWorld::removeTimedOut},
+    {"claim for the device event", &QueueWorld::claimForFailure},
+    {"clear all", &QueueWorld::clearAll},
+    {"release", &QueueWorld::release},
+    {"keep queries", &QueueWorld::keepQueries},
+    {"keep all but services", &QueueWorld::keepAllButServices},
+    {"stop any timer", &QueueWorld::stopAnyTimer},
+    {"close the gate", &QueueWorld::closeGate},
+    {"delete the logic and clear", &QueueWorld::deleteLogic},
+};
+
+// ---- events --------------------------------------------------------------------------------
+
+const char *QueueWorld::nameOf(Event event)
+{
+    static const char *const names[] = {"send a query",   "send from the general window",
+                                        "send a service", "reply",
+                                        "time-out",       "cancel",
+                                        "device gone",    "clear queued",
+                                        "clear services", "destroy"};
+    static_assert(lengthOf(names) == EventCount, "one name for each event");
+    return names[event];
+}
+
+const char *QueueWorld::nameOf(Thread thread)
+{
+    static const char *const names[] = {"GUI", "GUI, inside", "reply 1", "reply 2", "device"};
+    static_assert(lengthOf(names) == ThreadCount, "one name for each thread");
+    return names[thread];
+}
+
+/// A receiver of the time-out's announcement may call what it likes, and run an event loop.
+bool QueueWorld::canStartOnGui() const
+{
+    return isIdle(Gui) || (m_calls[Gui].next == RemoveTimedOut && isIdle(GuiInside));
+}
+
+bool QueueWorld::canStart(Event event) const
+{
+    switch (event) {
+    case Reply:
+        return m_gateIsOpen && (isIdle(FirstReply) || isIdle(SecondReply));
+    case DeviceGone:
+        return m_gateIsOpen && isIdle(Device);
+    case TimeOut:
+        return canStartOnGui() && m_timer.isArmed;
+    default:
+        return canStartOnGui();
+    }
+}
+
+QueueWorld::Thread QueueWorld::threadFor(Event event) const
+{
+    if (event == Reply)
+        return isIdle(FirstReply) ? FirstReply : SecondReply;
+    if (event == DeviceGone)
+        return Device;
+    return isIdle(Gui) ? Gui : GuiInside;
+}
+
+void QueueWorld::start(Event event)
+{
+    static const Step firstSteps[] = {
+        Append,  Append,          Append,      ClaimForReply,      RunOut,
+        Release, ClaimForFailure, KeepQueries, KeepAllButServices, StopAnyTimer};
+    static_assert(lengthOf(firstSteps) == EventCount, "one step for each event");
+    const Thread thread = threadFor(event);
+    m_calls[thread].next = firstSteps[event];
+    if (event <= SendServices)
+        m_calls[thread].component = COMPONENT_PREPOST_QUERY + event;
+    run(thread, 0);
+}
+
+// ---- steps ---------------------------------------------------------------------------------
+
+bool QueueWorld::canRun(Thread thread) const
+{
+    if (thread == Gui && !isIdle(GuiInside))
+        return false;
+    switch (m_calls[thread].next) {
+    case Idle:
+        return false;
+    case HandOver:
+        return !m_isHandingOver;
+    case DeleteLogic:
+        return isIdle(FirstReply) && isIdle(SecondReply) && isIdle(Device);
+    default:
+        return true;
+    }
+}
+
+bool QueueWorld::isBusy() const
+{
+    for (const Call &call : m_calls) {
+        if (call.next != Idle)
+            return true;
+    }
+    return false;
+}
+
+int QueueWorld::ways(Thread thread) const
+{
+    return m_calls[thread].next == HandOver ? int(WayCount) : 1;
+}
+
+const char *QueueWorld::nextStep(Thread thread) const
+{
+    return kSteps[m_calls[thread].next].name;
+}
+
+void QueueWorld::run(Thread thread, int way)
+{
+    static_assert(lengthOf(kSteps) == StepCount, "one entry for each step");
+    m_way = way;
+    Call &call = m_calls[thread];
+    (this->*kSteps[call.next].run)(call);
+    m_isSilent = m_isSilent && m_queue.count() != 0;
+    compareLists();
+    checkOutcomes();
+    checkRest();
+}
+
+/// Ends the call unless `holds`.
+void QueueWorld::goOn(Call &call, bool holds, Step step)
+{
+    if (holds)
+        call.next = step;
+    else
+        call = Call();
+}
+
+// ---- rules ---------------------------------------------------------------------------------
+
+void QueueWorld::expect(bool holds, const char *rule)
+{
+    if (!holds && !m_failure)
+        m_failure = rule;
+}
+
+void QueueWorld::compareLists()
+{
+    const QList<USSDCmdOrResp> &commands = m_queue.commands();
+    bool same = commands.count() == int(m_model.entries.size());
+    for (int i = 0; same && i < commands.count(); ++i)
+        same = numberOf(commands.at(i)) == m_model.entries[size_t(i)].command;
+    expect(same, "the queue holds the commands of the model");
+}
+
+/// The commands that stand in the list, or that a call or the timer still refers to.
+unsigned QueueWorld::heldCommands() const
+{
+    unsigned commands = m_timer.isArmed ? bit(m_timer.command) : 0;
+    for (const QueueModel::Entry &entry : m_model.entries)
+        commands |= bit(entry.command);
+    for (const Call &call : m_calls)
+        commands |= bit(call.command) | bit(call.timedCommand);
+    return commands & ~bit(0);
+}
+
+void QueueWorld::checkOutcomes()
+{
+    const unsigned all = bit(m_lastCommand + 1) - bit(1);
+    expect((m_answered | m_refused | m_dropped | heldCommands()) == all, "no command is lost");
+}
+
+/// While no thread is in a call, only a time-out can move the head on. Behind a refused or too long
+/// command there need be none: that is the deliberate silence.
+void QueueWorld::checkRest()
+{
+    if (isBusy() || m_model.entries.empty())
+        return;
+    expect(m_model.isOpen(m_model.head()), "no head stays claimed");
+    expect(m_isSilent || (m_timer.isArmed && m_model.awaitsReply(m_timer.command)),
+           "the head gets an outcome");
+}
+
+// ---- sending -------------------------------------------------------------------------------
+
+/// Makes the singleton, too, when there is none.
+void QueueWorld::append(Call &call)
+{
+    if (!m_gateIsOpen)
+        m_timer = Timer();
+    m_gateIsOpen = true;
+    m_queue.append(commandOf(++m_lastCommand, call.component));
+    m_model.append(m_lastCommand, call.component);
+    call = Call();
+    call.next = Count;
+}
+
+void QueueWorld::count(Call &call)
+{
+    goOn(call, m_queue.count() == 1, MarkSent);
+}
+
+void QueueWorld::markSent(Call &call)
+{
+    CommandQueue::Head head;
+    const bool marked = m_queue.markHeadSent(head);
+    const int expected = m_model.markHeadSent();
+    expect(marked == (expected != 0), "one thread sends a head");
+    expect(!marked || numberOf(head.command) == expected, "the head is sent");
+    call = Call();
+    call.command = expected;
+    call.number = head.number;
+    goOn(call, marked, HandOver);
+}
+
+void QueueWorld::handOver(Call &call)
+{
+    const bool isOpen = m_queue.isOpenHead(call.number);
+    expect(isOpen == m_model.isOpen(call.command), "a head that is gone or claimed is not sent");
+    call.next = MarkSent;
+    if (!isOpen)
+        return;
+    m_isHandingOver = true;
+    m_isSilent = m_way != Accepted;
+    call.next = m_way == Accepted ? ArmTimer : RemoveRefused;
+    if (m_way == TooLong)
+        return;
+    expect(!(m_handed & bit(call.command)), "a command is sent once");
+    m_handed |= bit(call.command);
+}
+
+void QueueWorld::endHandOver(Call &call)
+{
+    m_isHandingOver = false;
+    call = Call();
+}
+
+void QueueWorld::removeHead(const Call &call)
+{
+    m_queue.removeHead(call.number);
+    m_model.remove(call.command);
+}
+
+void QueueWorld::removeRefused(Call &call)
+{
+    removeHead(call);
+    m_refused |= bit(call.command);
+    endHandOver(call);
+}
+
+void QueueWorld::armTimer(Call &call)
+{
+    m_timer.isArmed = true;
+    m_timer.command = call.command;
+    m_timer.number = call.number;
+    call.arming = ++m_timer.arming;
+    call.next = LookForQuickReply;
+}
+
+void QueueWorld::lookForQuickReply(Call &call)
+{
+    const bool awaits = m_queue.awaitsReply(call.number);
+    expect(awaits == m_model.awaitsReply(call.command),
+           "a head awaits a reply until it is claimed");
+    call.next = DisarmTimer;
+    if (awaits)
+        endHandOver(call);
+}
+
+void QueueWorld::disarmTimer(Call &call)
+{
+    if (m_timer.arming == call.arming)
+        m_timer.isArmed = false;
+    endHandOver(call);
+}
+
+// ---- outcomes ------------------------------------------------------------------------------
+
+/// Whoever claims also announces.
+CommandQueue::Claim QueueWorld::claim(Call &call, quint64 number, int expected)
+{
+    CommandQueue::Head head;
+    const CommandQueue::Claim result = m_queue.claimHead(head, number);
+    const bool claimed = result == CommandQueue::Claimed;
+    expect(claimed == (expected != 0), "one thread claims a head, and it is the one that is meant");
+    expect(!claimed || numberOf(head.command) == expected, "the head is claimed");
+    expect(!(m_answered & bit(expected)), "a command is answered once");
+    m_answered |= bit(expected) & ~bit(0);
+    call.command = expected;
+    call.number = head.number;
+    return result;
+}
+
+void QueueWorld::claimForReply(Call &call)
+{
+    const CommandQueue::Claim result = claim(call, 0, m_model.claimHead());
+    goOn(call, result != CommandQueue::ClaimedByOther, StopTimer);
+}
+
+void QueueWorld::stopTimer(Call &call)
+{
+    if (m_timer.number <= call.number)
+        m_timer.isArmed = false;
+    goOn(call, call.command != 0, RemoveAnswered);
+}
+
+void QueueWorld::removeAnswered(Call &call)
+{
+    removeHead(call);
+    call = Call();
+    call.next = MarkSent;
+}
+
+void QueueWorld::runOut(Call &call)
+{
+    call.arming = m_timer.arming;
+    call.next = LookUpHead;
+}
+
+void QueueWorld::lookUpHead(Call &call)
+{
+    call.command = m_model.head();
+    call.number = m_queue.headNumber();
+    call.next = StopRunOutTimer;
+}
+
+void QueueWorld::stopRunOutTimer(Call &call)
+{
+    const bool isArmed = m_timer.isArmed && m_timer.arming == call.arming;
+    call.timedCommand = m_timer.command;
+    call.timedNumber = m_timer.number;
+    goOn(call, isArmed, LookForReply);
+    if (isArmed)
+        m_timer.isArmed = false;
+}
+
+void QueueWorld::lookForReply(Call &call)
+{
+    const bool awaits = m_queue.awaitsReply(call.timedNumber);
+    expect(awaits == m_model.awaitsReply(call.timedCommand),
+           "a head awaits a reply until it is claimed");
+    goOn(call, awaits, ClaimForTimeOut);
+}
+
+void QueueWorld::claimForTimeOut(Call &call)
+{
+    const bool isHead = call.command != 0 && call.command == m_model.head();
+    claim(call, call.number, isHead ? m_model.claimHead() : 0);
+    expect(call.command == 0 || call.command == call.timedCommand ||
+               (m_dropped & bit(call.timedCommand)),
+           "a time-out answers its own command, or what stands behind one that was dropped");
+    call.timedCommand = 0;
+    call.timedNumber = 0;
+    goOn(call, call.command != 0, RemoveTimedOut);
+}
+
+/// The receivers of the announcement have returned.
+void QueueWorld::removeTimedOut(Call &call)
+{
+    if (!call.logicIsGone)
+        removeHead(call);
+    const bool isThere = !call.logicIsGone;
+    call = Call();
+    goOn(call, isThere, MarkSent);
+}
+
+void QueueWorld::claimForFailure(Call &call)
+{
+    const CommandQueue::Claim result = claim(call, 0, m_model.claimHead());
+    call = Call();
+    goOn(call, result != CommandQueue::Empty, ClearAll);
+}
+
+// ---- dropping ------------------------------------------------------------------------------
+
+void QueueWorld::drop(bool (*keep)(const USSDCmdOrResp &))
+{
+    m_model.keepOnly([this, keep](const QueueModel::Entry &entry) {
+        const bool isKept = keep(commandOf(entry.command, entry.component));
+        m_dropped |= isKept ? 0 : bit(entry.command);
+        return isKept;
+    });
+}
+
+void QueueWorld::clearAll(Call &call)
+{
+    m_queue.clear();
+    drop(isNeverKept);
+    call = Call();
+}
+
+/// Cancelling ends the session on the device. Neither list nor time-out changes.
+void QueueWorld::release(Call &call)
+{
+    call = Call();
+}
+
+void QueueWorld::keepQueries(Call &call)
+{
+    m_queue.keepOnly(isQuery);
+    drop(isQuery);
+    call = Call();
+}
+
+void QueueWorld::keepAllButServices(Call &call)
+{
+    m_queue.keepOnly(isNotOfServices);
+    drop(isNotOfServices);
+    call = Call();
+}
+
+void QueueWorld::stopAnyTimer(Call &call)
+{
+    m_timer.isArmed = false;
+    call.next = CloseGate;
+}
+
+void QueueWorld::closeGate(Call &call)
+{
+    m_gateIsOpen = false;
+    call.next = DeleteLogic;
+}
+
+/// No other thread is in a call, and none gets in.
+void QueueWorld::deleteLogic(Call &call)
+{
+    m_timer.isArmed = false;
+    clearAll(call);
+    m_calls[Gui].logicIsGone = m_calls[Gui].next == RemoveTimedOut;
+}
+
+// ---- key -----------------------------------------------------------------------------------
+
+/// Writes values of few bits one behind the other.
+class QueueWorld::KeyWriter
+{
+public:
+    void write(quint64 value, int bits)
+    {
+        if (m_used + bits > 256 || value >> bits != 0)
+            qFatal("the key is too short");
+        m_key[size_t(m_used / 64)] |= value << (m_used % 64);
+        if (m_used % 64 + bits > 64)
+            m_key[size_t(m_used / 64 + 1)] |= value >> (64 - m_used % 64);
+        m_used += bits;
+    }
+    const Key &key() const { return m_key; }
+
+private:
+    Key m_key = {{0, 0, 0, 0}};
+    int m_used = 0;
+};
+
+QueueWorld::Oldest QueueWorld::oldestCompared() const
+{
+    Oldest oldest = {m_lastCommand + 1, m_queue.headNumber()};
+    const auto look = [&oldest](int command, quint64 number) {
+        if (command != 0)
+            oldest.command = qMin(oldest.command, command);
+        if (number != 0)
+            oldest.number = qMin(oldest.number, number);
+    };
+    look(m_model.head(), 0);
+    if (m_timer.isArmed)
+        look(m_timer.command, m_timer.number);
+    for (const Call &call : m_calls) {
+        look(call.command, call.number);
+        look(call.timedCommand, call.timedNumber);
+    }
+    return oldest;
+}
+
+/// The steps compare numbers only with other numbers, and commands only with other commands, so the
+/// key holds their distance from the newest one. A mark that is older than every number it can
+/// still be compared with gives the same results as any older mark. A command that is neither
+/// waiting nor used by a call or the timer cannot turn up again, and its outcome was checked when
+/// it left.
+QueueWorld::Key QueueWorld::key() const
+{
+    KeyWriter writer;
+    const Oldest oldest = oldestCompared();
+    const CommandQueue::Marks &marks = m_queue.marks();
+    writer.write(marks.current - qMax(marks.sent, oldest.number - 1), 4);
+    writer.write(marks.current - qMax(marks.claimed, oldest.number - 1), 4);
+    writer.write(quint64(m_lastCommand + 1 - qMax(m_model.lastClaimed, oldest.command - 1)), 4);
+    writer.write(m_isHandingOver, 1);
+    writer.write(m_gateIsOpen, 1);
+    writer.write(m_isSilent, 1);
+    writer.write(m_timer.isArmed, 1);
+    if (m_timer.isArmed)
+        writeHead(writer, m_timer.command, m_timer.number);
+    writeCommands(writer);
+    writeCalls(writer);
+    return writer.key();
+}
+
+void QueueWorld::writeHead(KeyWriter &writer, int command, quint64 number) const
+{
+    writer.write(command == 0 ? 0 : quint64(m_lastCommand + 1 - command), 4);
+    writer.write(number == 0 ? 0 : m_queue.headNumber() + 1 - number, 4);
+}
+
+void QueueWorld::writeCommands(KeyWriter &writer) const
+{
+    writer.write(m_model.entries.size(), 4);
+    for (const QueueModel::Entry &entry : m_model.entries) {
+        writer.write(quint64(m_lastCommand + 1 - entry.command), 4);
+        writer.write(quint64(entry.component - COMPONENT_PREPOST_QUERY), 2);
+        writer.write(quint64(entry.sent), 1);
+        writer.write(quint64(entry.claimed), 1);
+    }
+    const unsigned held = heldCommands();
+    for (int command = 1; command <= m_lastCommand; ++command) {
+        if (!(held & bit(command)))
+            continue;
+        writer.write(m_handed >> command & 1, 1);
+        writer.write(m_answered >> command & 1, 1);
+        writer.write(m_dropped >> command & 1, 1);
+        writer.write(m_refused >> command & 1, 1);
+    }
+}
+
+/// The two threads that deliver replies are alike, so it does not matter which one is in which
+/// call.
+void QueueWorld::writeCalls(KeyWriter &writer) const
+{
+    const Call &first = m_calls[FirstReply];
+    const Call &second = m_calls[SecondReply];
+    const bool inOrder = std::tie(first.next, first.command, first.number) <=
+                         std::tie(second.next, second.command, second.number);
+    writeCall(writer, m_calls[Gui]);
+    writeCall(writer, m_calls[GuiInside]);
+    writeCall(writer, m_calls[Device]);
+    writeCall(writer, inOrder ? first : second);
+    writeCall(writer, inOrder ? second : first);
+}
+
+void QueueWorld::writeCall(KeyWriter &writer, const Call &call) const
+{
+    writer.write(call.next, 5);
+    if (call.next == Idle)
+        return;
+    writeHead(writer, call.command, call.number);
+    writeHead(writer, call.timedCommand, call.timedNumber);
+    writer.write(call.arming == 0 ? 0 : call.arming == m_timer.arming ? 1 : 2, 2);
+    writer.write(call.logicIsGone, 1);
+}

@@ -1,0 +1,185 @@
+#ifndef QUEUEWORLD_H
+#define QUEUEWORLD_H
+
+#include <array>
+
+#include "CommandQueue.h"
+#include "QueueModel.h"
+
+/**
+ * A moment in the life of the request pipeline: the queue, the state that USSDLogic keeps beside it
+ * (time-out, lock of the hand-over, gate of the call-backs), and how far each thread is.
+ *
+ * start() lets an event happen, run() takes one thread one step further. A step does the same to
+ * the queue and to its model, and failure() tells which rule was broken.
+ */
+class QueueWorld
+{
+public:
+    enum Event {
+        SendQuery,    // both ways of clearing keep it
+        SendGeneral,  // ClearUSSDSMSQueuedCmds() keeps it
+        SendServices, // neither keeps it
+        Reply,        // also a reply that no command waits for
+        TimeOut,
+        Cancel,
+        DeviceGone,
+        ClearQueued,
+        ClearServices,
+        Destroy,
+        EventCount
+    };
+
+    /// GuiInside is the GUI thread too: what a receiver of the time-out's announcement calls.
+    enum Thread { Gui, GuiInside, FirstReply, SecondReply, Device, ThreadCount };
+
+    typedef std::array<quint64, 4> Key;
+
+    bool canStart(Event event) const;
+    /// Runs the first step of the event.
+    void start(Event event);
+    static const char *nameOf(Event event);
+
+    bool canRun(Thread thread) const;
+    /// Returns how many ways the thread's next step has: several when the device decides.
+    int ways(Thread thread) const;
+    void run(Thread thread, int way);
+    const char *nextStep(Thread thread) const;
+    static const char *nameOf(Thread thread);
+
+    /// Returns the rule that was broken, or null.
+    const char *failure() const { return m_failure; }
+    /// Worlds with the same key have the same future.
+    Key key() const;
+
+private:
+    enum Step {
+        Idle,
+        Append,
+        Count,
+        MarkSent,
+        HandOver,
+        RemoveRefused,
+        ArmTimer,
+        LookForQuickReply,
+        DisarmTimer,
+        ClaimForReply,
+        StopTimer,
+        RemoveAnswered,
+        RunOut,
+        LookUpHead,
+        StopRunOutTimer,
+        LookForReply,
+        ClaimForTimeOut,
+        RemoveTimedOut,
+        ClaimForFailure,
+        ClearAll,
+        Release,
+        KeepQueries,
+        KeepAllButServices,
+        StopAnyTimer,
+        CloseGate,
+        DeleteLogic,
+        StepCount
+    };
+
+    /// A call that a thread is in: the next step, and the variables of the call.
+    struct Call {
+        Step next = Idle;
+        int component = 0;
+        int command = 0;
+        quint64 number = 0;
+        int timedCommand = 0;
+        quint64 timedNumber = 0;
+        quint64 arming = 0;
+        bool logicIsGone = false;
+    };
+
+    /// ReplyTimer, and the head that it was armed for.
+    struct Timer {
+        bool isArmed = false;
+        quint64 arming = 0;
+        int command = 0;
+        quint64 number = 0;
+    };
+
+    struct StepEntry {
+        const char *name;
+        void (QueueWorld::*run)(Call &call);
+    };
+
+    struct Oldest {
+        int command;
+        quint64 number;
+    };
+
+    class KeyWriter;
+
+    static const StepEntry kSteps[];
+
+    bool isIdle(Thread thread) const { return m_calls[thread].next == Idle; }
+    bool isBusy() const;
+    bool canStartOnGui() const;
+    Thread threadFor(Event event) const;
+
+    void expect(bool holds, const char *rule);
+    void compareLists();
+    unsigned heldCommands() const;
+    void checkOutcomes();
+    void checkRest();
+
+    void append(Call &call);
+    void count(Call &call);
+    void markSent(Call &call);
+    void handOver(Call &call);
+    void removeRefused(Call &call);
+    void armTimer(Call &call);
+    void lookForQuickReply(Call &call);
+    void disarmTimer(Call &call);
+    void claimForReply(Call &call);
+    void stopTimer(Call &call);
+    void removeAnswered(Call &call);
+    void runOut(Call &call);
+    void lookUpHead(Call &call);
+    void stopRunOutTimer(Call &call);
+    void lookForReply(Call &call);
+    void claimForTimeOut(Call &call);
+    void removeTimedOut(Call &call);
+    void claimForFailure(Call &call);
+    void clearAll(Call &call);
+    void release(Call &call);
+    void keepQueries(Call &call);
+    void keepAllButServices(Call &call);
+    void stopAnyTimer(Call &call);
+    void closeGate(Call &call);
+    void deleteLogic(Call &call);
+
+    void goOn(Call &call, bool holds, Step step);
+    CommandQueue::Claim claim(Call &call, quint64 number, int expected);
+    void endHandOver(Call &call);
+    void removeHead(const Call &call);
+    void drop(bool (*keep)(const USSDCmdOrResp &));
+
+    Oldest oldestCompared() const;
+    void writeHead(KeyWriter &writer, int command, quint64 number) const;
+    void writeCommands(KeyWriter &writer) const;
+    void writeCalls(KeyWriter &writer) const;
+    void writeCall(KeyWriter &writer, const Call &call) const;
+
+    CommandQueue m_queue;
+    QueueModel m_model;
+    Timer m_timer;
+    Call m_calls[ThreadCount];
+    bool m_isHandingOver = false; // m_mutexSendCmd is held
+    bool m_gateIsOpen = true;
+    bool m_isSilent = false; // commands wait behind one that was refused or too long
+    int m_way = 0;           // of the step that runs
+    int m_lastCommand = 0;
+    unsigned m_handed = 0; // here and in the next three, a bit for each command
+    unsigned m_answered = 0;
+    unsigned m_refused = 0;
+    unsigned m_dropped = 0;
+    const char *m_failure = nullptr;
+};
+
+#endif

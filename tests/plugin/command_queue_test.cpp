@@ -1,0 +1,283 @@
+/*
+ * The rules of CommandQueue, first one by one, then under every order of steps.
+ *
+ * The walk lets up to eight events happen: send, reply, time-out, cancel, device gone, clear,
+ * destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is what a
+ * thread does without letting another thread in between: one call of the queue, or one look at the
+ * timer, or one change of it. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
+ * announcement belongs to the claim before it, and the request to the device belongs to the look
+ * before it, because neither reads or changes anything that another thread uses. A sender waits up
+ * to 3 s for an earlier time-out; the walk lets this wait end at any moment.
+ *
+ * The walk tries every order. Any thread may take its next step, and an event may happen whenever
+ * its thread is free: the GUI thread, two threads that deliver replies, one that delivers device
+ * events. The receivers of a time-out may send, clear or destroy before they return. The device
+ * accepts a command, refuses it, or the command is too long. The walk leaves a state alone only
+ * when it has walked on from the same state with as many events left or more. What makes two states
+ * the same is explained at QueueWorld::key().
+ *
+ * After each step the queue must hold the same commands as the model, and its answers must be the
+ * same. No command is sent twice, answered twice or lost. When no thread is in a call, the head
+ * gets an outcome at the latest from a running time-out. The two deliberate silences are the
+ * exceptions: commands wait behind one that was refused or too long, and a stale reply or time-out
+ * answers whatever is the head.
+ */
+#include "CommandQueue.h"
+#include "QueueWorld.h"
+#include "UssdTest.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace
+{
+
+struct KeyHash {
+    size_t operator()(const QueueWorld::Key &key) const
+    {
+        quint64 hash = 0;
+        for (const quint64 part : key) {
+            hash = (hash ^ part) * 0x9E3779B97F4A7C15u;
+            hash ^= hash >> 32;
+        }
+        return size_t(hash);
+    }
+};
+
+/** Walks every order of events and steps, depth first, until a rule is broken. */
+class Walk
+{
+public:
+    /// Returns whether every order of up to `events` more events keeps the rules.
+    bool from(const QueueWorld &world, int events);
+    size_t states() const { return m_walked.size(); }
+    quint64 steps() const { return m_steps; }
+    /// The way to the broken rule, a line for each step.
+    QByteArray story() const;
+
+private:
+    bool goOn(const QueueWorld &world, int events, const char *who, const char *what);
+    bool tryThread(const QueueWorld &world, int events, QueueWorld::Thread thread);
+    bool tryEvent(const QueueWorld &world, int events, QueueWorld::Event event);
+
+    struct Line {
+        const char *who;
+        const char *what;
+    };
+
+    std::unordered_map<QueueWorld::Key, int, KeyHash> m_walked; // with so many events to come, + 1
+    std::vector<Line> m_path;
+    const char *m_failure = nullptr;
+    quint64 m_steps = 0;
+};
+
+bool Walk::from(const QueueWorld &world, int events)
+{
+    int &walked = m_walked[world.key()];
+    if (walked > events)
+        return true;
+    walked = events + 1;
+    for (int i = 0; i < QueueWorld::ThreadCount; ++i) {
+        if (!tryThread(world, events, QueueWorld::Thread(i)))
+            return false;
+    }
+    for (int i = 0; events > 0 && i < QueueWorld::EventCount; ++i) {
+        if (!tryEvent(world, events - 1, QueueWorld::Event(i)))
+            return false;
+    }
+    return true;
+}
+
+bool Walk::tryThread(const QueueWorld &world, int events, QueueWorld::Thread thread)
+{
+    if (!world.canRun(thread))
+        return true;
+    for (int way = 0; way < world.ways(thread); ++way) {
+        QueueWorld next = world;
+        next.run(thread, way);
+        if (!goOn(next, events, QueueWorld::nameOf(thread), world.nextStep(thread)))
+            return false;
+    }
+    return true;
+}
+
+bool Walk::tryEvent(const QueueWorld &world, int events, QueueWorld::Event event)
+{
+    if (!world.canStart(event))
+        return true;
+    QueueWorld next = world;
+    next.start(event);
+    return goOn(next, events, "event", QueueWorld::nameOf(event));
+}
+
+bool Walk::goOn(const QueueWorld &world, int events, const char *who, const char *what)
+{
+    ++m_steps;
+    m_path.push_back(Line{who, what});
+    m_failure = world.failure();
+    if (m_failure || !from(world, events))
+        return false;
+    m_path.pop_back();
+    return true;
+}
+
+QByteArray Walk::story() const
+{
+    QByteArray story;
+    for (const Line &line : m_path)
+        story += QByteArray(line.who) + ": " + line.what + '\n';
+    return story + "broken: " + (m_failure ? m_failure : "no rule");
+}
+
+USSDCmdOrResp command(const char *text, _COMPONENT component = COMPONENT_GENERAL)
+{
+    return USSDCmdOrResp(component, QLatin1String(text));
+}
+
+bool isQuery(const USSDCmdOrResp &command)
+{
+    return command.component == COMPONENT_PREPOST_QUERY;
+}
+
+bool isGeneral(const USSDCmdOrResp &command)
+{
+    return command.component == COMPONENT_GENERAL;
+}
+
+} // namespace
+
+class CommandQueueTest : public UssdTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+
+private:
+    QString headText() const { return m_queue.commands().value(0).command; }
+
+    CommandQueue m_queue; // *1# and *2# of the general window, *3# of the detection
+    CommandQueue::Head m_head;
+
+private slots:
+    void headIsSentOnce();
+    void headIsClaimedOnce();
+    void claimOfAnEarlierHeadIsRefused();
+    void claimOfAnEmptyQueueNamesTheLastHead();
+    void claimedHeadIsNotOpen();
+    void removalOfAnEarlierHeadLeavesTheNextOne();
+    void clearedHeadAwaitsItsReply();
+    void marksOfAClearedHeadDoNotCountForTheNextOne();
+    void clearingKeepsOrderAndHead();
+    void everyOrderOfStepsKeepsTheRules();
+};
+
+void CommandQueueTest::setUp()
+{
+    m_queue = CommandQueue();
+    m_head = CommandQueue::Head();
+    m_queue.append(command("*1#"));
+    m_queue.append(command("*2#"));
+    m_queue.append(command("*3#", COMPONENT_PREPOST_QUERY));
+}
+
+void CommandQueueTest::headIsSentOnce()
+{
+    QVERIFY(m_queue.markHeadSent(m_head));
+    QCOMPARE(m_head.command.command, QStringLiteral("*1#"));
+    QVERIFY(!m_queue.markHeadSent(m_head));
+    m_queue.removeHead(m_head.number);
+    QVERIFY(m_queue.markHeadSent(m_head));
+    QCOMPARE(m_head.command.command, QStringLiteral("*2#"));
+}
+
+void CommandQueueTest::headIsClaimedOnce()
+{
+    QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Claimed);
+    QCOMPARE(m_head.command.command, QStringLiteral("*1#"));
+    QCOMPARE(m_queue.claimHead(m_head), CommandQueue::ClaimedByOther);
+    m_queue.removeHead(m_head.number);
+    QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Claimed);
+}
+
+void CommandQueueTest::claimOfAnEarlierHeadIsRefused()
+{
+    const quint64 earlier = m_queue.headNumber();
+    m_queue.removeHead(earlier);
+    QCOMPARE(m_queue.claimHead(m_head, earlier), CommandQueue::ClaimedByOther);
+    QCOMPARE(m_queue.claimHead(m_head, m_queue.headNumber()), CommandQueue::Claimed);
+}
+
+void CommandQueueTest::claimOfAnEmptyQueueNamesTheLastHead()
+{
+    const quint64 last = m_queue.headNumber();
+    m_queue.clear();
+    m_queue.clear(); // takes no number from the next head
+    QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Empty);
+    QCOMPARE(m_head.number, last);
+}
+
+void CommandQueueTest::claimedHeadIsNotOpen()
+{
+    const quint64 number = m_queue.headNumber();
+    QVERIFY(m_queue.isOpenHead(number));
+    m_queue.claimHead(m_head);
+    QVERIFY(!m_queue.isOpenHead(number));
+    m_queue.removeHead(number);
+    QVERIFY(!m_queue.isOpenHead(number));
+    QVERIFY(m_queue.isOpenHead(m_queue.headNumber()));
+}
+
+void CommandQueueTest::removalOfAnEarlierHeadLeavesTheNextOne()
+{
+    const quint64 number = m_queue.headNumber();
+    m_queue.removeHead(number);
+    m_queue.removeHead(number);
+    QCOMPARE(headText(), QStringLiteral("*2#"));
+}
+
+void CommandQueueTest::clearedHeadAwaitsItsReply()
+{
+    const quint64 number = m_queue.headNumber();
+    m_queue.keepOnly(isQuery);
+    QVERIFY(m_queue.awaitsReply(number));
+    m_queue.claimHead(m_head);
+    QVERIFY(!m_queue.awaitsReply(number));
+}
+
+void CommandQueueTest::marksOfAClearedHeadDoNotCountForTheNextOne()
+{
+    m_queue.markHeadSent(m_head);
+    m_queue.claimHead(m_head);
+    m_queue.clear();
+    m_queue.append(command("*4#"));
+    QVERIFY(m_queue.markHeadSent(m_head));
+    QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Claimed);
+    QCOMPARE(m_head.command.command, QStringLiteral("*4#"));
+}
+
+void CommandQueueTest::clearingKeepsOrderAndHead()
+{
+    const quint64 number = m_queue.headNumber();
+    m_queue.append(command("*4#"));
+    m_queue.keepOnly(isGeneral);
+    QCOMPARE(m_queue.headNumber(), number);
+    QStringList left;
+    for (const USSDCmdOrResp &one : m_queue.commands())
+        left << one.command;
+    QCOMPARE(left,
+             (QStringList{QStringLiteral("*1#"), QStringLiteral("*2#"), QStringLiteral("*4#")}));
+}
+
+void CommandQueueTest::everyOrderOfStepsKeepsTheRules()
+{
+    Walk walk;
+    const bool keeps = walk.from(QueueWorld(), WALK_EVENTS);
+    fprintf(stderr, "%d events: %llu steps, %zu states\n", WALK_EVENTS, walk.steps(),
+            walk.states());
+    QVERIFY2(keeps, walk.story().constData());
+}
+
+USSD_TEST_MAIN(CommandQueueTest)
+
+#include "command_queue_test.moc"
