@@ -495,20 +495,22 @@ void QueueWorld::deleteLogic(Call &call)
 class QueueWorld::KeyWriter
 {
 public:
-    void write(quint64 value, int bits)
+    void write(quint64 value, size_t bits)
     {
-        if (m_used + bits > 256 || value >> bits != 0)
+        if (m_used + bits > 64 * m_key.size() || value >> bits != 0)
             qFatal("the key is too short");
-        m_key[size_t(m_used / 64)] |= value << (m_used % 64);
-        if (m_used % 64 + bits > 64)
-            m_key[size_t(m_used / 64 + 1)] |= value >> (64 - m_used % 64);
+        const size_t part = m_used / 64;
+        const size_t offset = m_used % 64;
+        m_key[part] |= value << offset;
+        if (offset + bits > 64)
+            m_key[part + 1] |= value >> (64 - offset);
         m_used += bits;
     }
     const Key &key() const { return m_key; }
 
 private:
     Key m_key = {{0, 0, 0, 0}};
-    int m_used = 0;
+    size_t m_used = 0;
 };
 
 QueueWorld::Oldest QueueWorld::oldestCompared() const
