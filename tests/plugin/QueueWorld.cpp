@@ -47,7 +47,7 @@ constexpr int lengthOf(const Names &names)
 
 } // namespace
 
-const QueueWorld::StepEntry QueueWorld::kSteps[] = {
+const QueueWorld::StepEntry QueueWorld::STEPS[] = {
     {"-", nullptr},
     {"append", &QueueWorld::append},
     {"count", &QueueWorld::count},
@@ -172,15 +172,15 @@ int QueueWorld::ways(Thread thread) const
 
 const char *QueueWorld::nextStep(Thread thread) const
 {
-    return kSteps[m_calls[thread].next].name;
+    return STEPS[m_calls[thread].next].name;
 }
 
 void QueueWorld::run(Thread thread, int way)
 {
-    static_assert(lengthOf(kSteps) == StepCount, "one entry for each step");
+    static_assert(lengthOf(STEPS) == StepCount, "one entry for each step");
     m_way = way;
     Call &call = m_calls[thread];
-    (this->*kSteps[call.next].run)(call);
+    (this->*STEPS[call.next].run)(call);
     m_isSilent = m_isSilent && m_queue.count() != 0;
     compareLists();
     checkOutcomes();

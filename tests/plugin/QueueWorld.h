@@ -115,7 +115,7 @@ private:
 
     class KeyWriter;
 
-    static const StepEntry kSteps[];
+    static const StepEntry STEPS[];
 
     bool isIdle(Thread thread) const { return m_calls[thread].next == Idle; }
     bool isBusy() const;
