@@ -6,6 +6,7 @@
 #include "CommonUtils.h"
 #include "PluginLog.h"
 #include "PluginText.h"
+#include "ReplyTimeout.h"
 #include "ReplyTimer.h"
 #include "SdkRecords.h"
 #include "tksv.h"
@@ -19,14 +20,11 @@ const int SENT = 0;
 const int FAILED = 1;
 const int NOT_THE_HEAD = 2; // inside only
 
-/// Limits when nobody set others: 30 s for a reply, shorter or longer by $USSD_REPLY_TIMEOUT_MS.
+const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits for the end of the one before it
+
 ReplyTimes shippedReplyTimes()
 {
-    ReplyTimes times = {30000, 3000};
-    bool isNumber = false;
-    const int milliseconds = qgetenv("USSD_REPLY_TIMEOUT_MS").toInt(&isNumber);
-    if (isNumber && milliseconds > 0)
-        times.reply = milliseconds;
+    const ReplyTimes times = {replyTimeout(), PREVIOUS_TIMEOUT};
     return times;
 }
 

@@ -16,9 +16,9 @@
 #include "plugin/GeneralWindow.h"
 #include "plugin/KeyboardHelper.h"
 #include "plugin/PrivateLibrary.h"
-#include "plugin/ReplyLimit.h"
 #include "plugin/ReplyTap.h"
 #include "plugin/UiPlugin.h"
+#include "ReplyTimeout.h"
 #include "TerminalText.h"
 #include "tksv.h"
 #include "tour/Tour.h"
@@ -89,7 +89,7 @@ QString useDevice(DeviceChoice *choice)
 /// Waits for a modem that is still registering; says on standard error what it waits for in vain.
 bool isDeviceReady(const Arguments &arguments)
 {
-    const bool isReady = waitForDevice(qMin(replyLimit(), REGISTRATION_LIMIT));
+    const bool isReady = waitForDevice(qMin(replyTimeout(), REGISTRATION_LIMIT));
     const DeviceStatus device = readDeviceStatus();
     if (arguments.verbose)
         HostCore::printErrorLine(device.sourceText());
@@ -129,7 +129,7 @@ int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
     QWidget host;
     QRect rect(QPoint(), UNSEEN_SIZE);
     plugin.plugin()->ShowWindow(&host, rect);
-    CommandSender sender(GeneralWindow(&host), tap, replyLimit());
+    CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
     const bool sent = sender.send(commands);
     int status = 0;
     TKSV_USSDSrv_Release(&status); // an open menu is not left to the next program
@@ -211,7 +211,7 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
 int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
 {
     doWithoutDisplay();
-    setReplyLimit(TourGuide::REPLY_LIMIT);
+    setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivateLibrary library;
     QApplication application(argc, argv);
     if (!library.isValid())

@@ -1,8 +1,8 @@
 #include "PaidTypeFinder.h"
 
 #include "IUSSD.h"
-#include "plugin/ReplyLimit.h"
 #include "plugin/UiPlugin.h"
+#include "ReplyTimeout.h"
 
 namespace
 {
@@ -63,7 +63,7 @@ void PaidTypeFinder::setState(PaidType type, bool asking)
     const bool same = type == m_type && asking == isAsking();
     m_type = type;
     if (asking)
-        m_timeLimit.start(replyLimit() + PLUGIN_GRACE);
+        m_timeLimit.start(replyTimeout() + PLUGIN_GRACE);
     else
         m_timeLimit.stop();
     if (!same)

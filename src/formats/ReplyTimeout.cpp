@@ -1,4 +1,4 @@
-#include "ReplyLimit.h"
+#include "ReplyTimeout.h"
 
 #include <QByteArray>
 
@@ -10,13 +10,13 @@ const int STANDARD = 30000;
 
 } // namespace
 
-int replyLimit()
+int replyTimeout()
 {
     const int chosen = qgetenv(VARIABLE).toInt();
     return chosen > 0 ? chosen : STANDARD;
 }
 
-void setReplyLimit(int milliseconds)
+void setReplyTimeout(int milliseconds)
 {
     if (qgetenv(VARIABLE).isEmpty())
         qputenv(VARIABLE, QByteArray::number(milliseconds));
