@@ -7,8 +7,8 @@
 
 #include "Benchmark.h"
 #include "PlainCopy.h"
-#include "USSDGeneralDlg.h"
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDGeneralDlg.h"
 
 namespace
 {

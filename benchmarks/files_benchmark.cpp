@@ -9,8 +9,8 @@
 
 #include "Benchmark.h"
 #include "PluginConfig.h"
-#include "USSDEditCmd.h"
-#include "USSDLogic.h"
+#include "profiles/USSDEditCmd.h"
+#include "requests/USSDLogic.h"
 
 namespace
 {

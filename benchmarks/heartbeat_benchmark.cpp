@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 
 #include "Benchmark.h"
+#include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "StatusBox.h"
-#include "TranscriptView.h"
+#include "windows/StatusBox.h"
 
 namespace
 {

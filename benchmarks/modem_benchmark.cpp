@@ -28,8 +28,8 @@
 #include <signal.h>
 
 #include "Benchmark.h"
+#include "requests/USSDLogic.h"
 #include "tksv_device.h"
-#include "USSDLogic.h"
 
 extern char **environ;
 

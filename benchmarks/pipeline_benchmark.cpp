@@ -13,7 +13,7 @@
 
 #include "Benchmark.h"
 #include "instant_tksv.h"
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 
 namespace
 {

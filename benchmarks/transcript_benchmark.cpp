@@ -4,8 +4,8 @@
 #include <QApplication>
 
 #include "Benchmark.h"
+#include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "TranscriptView.h"
 
 namespace
 {

@@ -86,7 +86,7 @@ replace()
 try_fault()
 {
     local source result=0 pattern
-    source=$(ls "$tree"/src/{USSDUIPlugin,formats}/"$file" 2>/dev/null)
+    source=$(find "$tree"/src/{USSDUIPlugin,formats} -name "$file")
     cp "$source" "$root/before"
     if ! replace "$source"; then
         result=3

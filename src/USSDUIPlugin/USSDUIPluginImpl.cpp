@@ -1,7 +1,7 @@
 #include "USSDUIPluginImpl.h"
 
-#include "PluginLog.h"
-#include "USSDService.h"
+#include "base/PluginLog.h"
+#include "windows/USSDService.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDUIPluginImpl.cpp");
 

@@ -24,7 +24,7 @@ for list in tests/mutants/*.faults; do
         while (<>) {
             if (/^file (.*)$/) {
                 $file = $1;
-                my ($place) = grep { -f } glob("src/{USSDUIPlugin,formats}/$file");
+                my ($place) = grep { -f } glob("src/{formats,USSDUIPlugin,USSDUIPlugin/*}/$file");
                 open(my $source, "<", $place // "") or print "there is no $file\n";
                 $code = do { local $/; <$source> };
             } elsif (/^fault (.*)$/) { ($name, $old) = ($1, ""); }

@@ -51,24 +51,31 @@ lies_in_folder() {
 }
 
 core_own=$(cpp_files src/core | grep -v '^src/core/common/')
-check "$(cpp_files src/USSDUIPlugin)" "$qt|$standard" \
-    src/USSDUIPlugin src/formats src/core/common src/compat src/files src/sdk/tksv.h
+# check_layers ANGLE PARENT BELOW FOLDER...: each folder of PARENT may include those named before it,
+# and BELOW. The files beside the folders may include all of them.
+check_layers() {
+    local angle=$1 parent=$2 below=$3 folder
+    shift 3
+    for folder in "$@"; do
+        below+=" $parent/$folder"
+        # shellcheck disable=SC2086 # a list of words
+        check "$(cpp_files "$parent/$folder")" "$angle" $below
+    done
+    # shellcheck disable=SC2086 # a list of words
+    check "$(cpp_files "$parent" | grep -v "^$parent/.*/")" "$angle" "$parent" $below
+}
+
+contracts="src/core/common src/compat src/files src/sdk/tksv.h"
+check_layers "$qt|$standard" src/USSDUIPlugin "src/formats $contracts" \
+    base markup requests profiles windows
 check "$(cpp_files src/formats)" "$qt|$standard" src/formats src/compat src/files src/sdk/tksv.h
 check "$(cpp_files src/core/common)" "$qt|$standard" src/core/common src/compat
 check "$core_own" "$any" src/core src/core/common src/compat src/files
 check "$(cpp_files src/compat)" "$qt|$standard" src/compat
 check "$(cpp_files src/files)" "$qt|$standard" src/files
-# The dashboard's folders, from the lowest one up: each may include those below it. The files beside
-# the folders are the program, which may include all of them.
-below="src/provisioning src/formats src/core src/core/common src/compat src/files src/sdk/tksv.h"
-below+=" src/sdk/tksv_device.h"
-for folder in base device plugin sim window tour; do
-    below+=" src/dashboard/$folder"
-    # shellcheck disable=SC2086 # a list of words
-    check "$(cpp_files src/dashboard/$folder)" "$any" $below
-done
-# shellcheck disable=SC2086 # a list of words
-check "$(cpp_files src/dashboard | grep -v '^src/dashboard/.*/')" "$any" src/dashboard $below
+check_layers "$any" src/dashboard \
+    "src/provisioning src/formats src/core $contracts src/sdk/tksv_device.h" \
+    base device plugin sim window tour
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
     src/core/common src/compat src/files src/sdk

@@ -23,6 +23,7 @@ fresh_tree() {
     write src/compat/QtCompat.h <<<'#if QT_VERSION < 0x050000
 #endif'
     write src/USSDUIPlugin/USSDLogic.h </dev/null
+    write src/USSDUIPlugin/windows/Dialog.h </dev/null
     write src/dashboard/window/Page.h </dev/null
     write src/dashboard/Program.h </dev/null
 }
@@ -88,6 +89,7 @@ finds includes 'includes <glib.h>' $plugin <<<'#include <glib.h>'
 finds includes 'includes <QString>' src/sdk/a.cpp <<<'#include <QString>'
 finds includes 'includes "Change.h"' src/sdk/a.cpp <<<'#include "Change.h"'
 finds includes 'includes "USSDLogic.h"' src/dashboard/a.cpp <<<'#include "USSDLogic.h"'
+finds includes 'includes "windows/Dialog.h"' src/USSDUIPlugin/markup/a.cpp <<<'#include "windows/Dialog.h"'
 finds includes 'includes "window/Page.h"' src/dashboard/plugin/a.cpp <<<'#include "window/Page.h"'
 finds includes 'includes "../window/Page.h"' src/dashboard/plugin/a.cpp <<<'#include "../window/Page.h"'
 finds includes 'includes "Program.h"' src/dashboard/tour/a.cpp <<<'#include "Program.h"'

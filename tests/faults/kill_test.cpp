@@ -1,7 +1,7 @@
 #include "device/DashboardSettings.h"
 #include "DiskFaults.h"
 #include "plugin/ProfileBackup.h"
-#include "USSDEditCmd.h"
+#include "profiles/USSDEditCmd.h"
 #include "UssdTest.h"
 
 #include <QDir>

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QXmlStreamReader>
 
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QSet>
 
-#include "USSDEditCmd.h"
+#include "profiles/USSDEditCmd.h"
 
 namespace
 {

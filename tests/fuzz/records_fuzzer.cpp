@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "Records.h"
-#include "SdkRecords.h"
+#include "requests/SdkRecords.h"
 #include "Text.h"
 
 namespace

@@ -7,8 +7,8 @@
 #include <QTextDocument>
 #include <QTextFrame>
 
-#include "ReplyLabel.h"
-#include "StatusBox.h"
+#include "windows/ReplyLabel.h"
+#include "windows/StatusBox.h"
 
 namespace
 {

@@ -9,8 +9,8 @@
 #include <QTextTable>
 #include <QUrl>
 
+#include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "TranscriptView.h"
 
 namespace
 {

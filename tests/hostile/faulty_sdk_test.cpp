@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "fake_tksv.h"
-#include "SdkRecords.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
+#include "requests/SdkRecords.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDService.h"
 
 namespace
 {

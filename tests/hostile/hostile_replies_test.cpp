@@ -9,9 +9,9 @@
 #include <malloc.h>
 
 #include "fake_tksv.h"
-#include "ReplyLabel.h"
-#include "StatusBox.h"
 #include "SystemCalls.h"
+#include "windows/ReplyLabel.h"
+#include "windows/StatusBox.h"
 
 namespace
 {

@@ -4,10 +4,10 @@
 #include <QTextFrame>
 #include <QTextTable>
 
-#include "HeavyText.h"
-#include "MarkupCost.h"
+#include "markup/HeavyText.h"
+#include "markup/MarkupCost.h"
+#include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "TranscriptView.h"
 
 namespace
 {

@@ -8,8 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "TranscriptView.h"
-#include "USSDGeneralDlg.h"
+#include "markup/TranscriptView.h"
+#include "windows/USSDGeneralDlg.h"
 
 /**
  * A test of the general dialog, driven as a user does, on the misbehaving device SDK. The network

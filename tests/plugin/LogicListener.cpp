@@ -3,7 +3,7 @@
 #include <QThread>
 #include <QtTest>
 
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 
 LogicListener::LogicListener(USSDLogic *logic)
 {

@@ -4,8 +4,8 @@
 #include <QFile>
 
 #include "fake_tksv.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDService.h"
 
 namespace
 {

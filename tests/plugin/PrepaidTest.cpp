@@ -6,7 +6,7 @@
 #include "Change.h"
 #include "fake_tksv.h"
 #include "Languages.h"
-#include "USSDService.h"
+#include "windows/USSDService.h"
 
 namespace
 {

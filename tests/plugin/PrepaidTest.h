@@ -11,8 +11,8 @@
 #include <QPushButton>
 #include <QTextEdit>
 
-#include "USSDDlg.h"
-#include "USSDExtendDialog.h"
+#include "windows/USSDDlg.h"
+#include "windows/USSDExtendDialog.h"
 
 class QMessageBox;
 

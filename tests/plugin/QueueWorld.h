@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "CommandQueue.h"
 #include "QueueModel.h"
+#include "requests/CommandQueue.h"
 
 /**
  * A moment in the life of the request pipeline: the queue, the state that USSDLogic keeps beside it

@@ -22,8 +22,8 @@
  * exceptions: commands wait behind one that was refused or too long, and a stale reply or time-out
  * answers whatever is the head.
  */
-#include "CommandQueue.h"
 #include "QueueWorld.h"
+#include "requests/CommandQueue.h"
 #include "UssdTest.h"
 
 #include <unordered_map>

@@ -5,8 +5,8 @@
 
 #include "CommonUtils.h"
 #include "OddFiles.h"
-#include "USSDLogic.h"
-#include "USSDSMSDlg.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDSMSDlg.h"
 
 namespace
 {

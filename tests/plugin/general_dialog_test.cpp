@@ -10,7 +10,7 @@
 
 #include "fake_tksv.h"
 #include "Languages.h"
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 
 namespace
 {

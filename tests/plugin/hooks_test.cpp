@@ -5,7 +5,7 @@
 
 #include "fake_tksv.h"
 #include "HostState.h"
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 
 /** Device events and short messages. */
 class HooksTest : public PluginTest

@@ -8,9 +8,9 @@
 #include <QThread>
 
 #include "fake_tksv.h"
-#include "ReplyTimer.h"
+#include "requests/ReplyTimer.h"
+#include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
-#include "USSDLogic.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 #include "HostState.h"
 #include "Languages.h"
 #include "LogicListener.h"
-#include "USSDService.h"
+#include "windows/USSDService.h"
 
 namespace
 {

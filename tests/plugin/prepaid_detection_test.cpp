@@ -6,7 +6,7 @@
 #include "HostState.h"
 #include "INotifyService.h"
 #include "IPluginContainer.h"
-#include "USSDService.h"
+#include "windows/USSDService.h"
 
 namespace
 {

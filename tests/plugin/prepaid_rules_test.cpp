@@ -3,8 +3,8 @@
 #include <QRegExp>
 
 #include "ChargeRules.h"
-#include "OnlineLink.h"
-#include "PrePostVerdict.h"
+#include "windows/OnlineLink.h"
+#include "windows/PrePostVerdict.h"
 
 namespace
 {

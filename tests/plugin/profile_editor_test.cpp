@@ -16,11 +16,11 @@
 #include "HostState.h"
 #include "Languages.h"
 #include "ProcessLimits.h"
-#include "ProfileLineEdit.h"
-#include "ProfileRows.h"
-#include "USSDEditCmd.h"
-#include "USSDGeneralDlg.h"
-#include "USSDService.h"
+#include "profiles/ProfileLineEdit.h"
+#include "profiles/ProfileRows.h"
+#include "profiles/USSDEditCmd.h"
+#include "windows/USSDGeneralDlg.h"
+#include "windows/USSDService.h"
 
 /** The profile editor, by itself and behind the general dialog's button. */
 class ProfileEditorTest : public PluginTest

@@ -1,6 +1,6 @@
 #include "UssdTest.h"
 
-#include "ProfileRows.h"
+#include "profiles/ProfileRows.h"
 
 /** What the profile editor's table becomes. */
 class ProfileRowsTest : public UssdTest

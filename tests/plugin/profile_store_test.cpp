@@ -16,10 +16,10 @@
 #include "Languages.h"
 #include "OddFiles.h"
 #include "ProcessLimits.h"
+#include "profiles/USSDEditCmd.h"
 #include "ProfileXml.h"
+#include "requests/USSDLogic.h"
 #include "tksv.h"
-#include "USSDEditCmd.h"
-#include "USSDLogic.h"
 
 namespace
 {

@@ -6,7 +6,7 @@
 
 #include <QSignalSpy>
 
-#include "ReplyTimer.h"
+#include "requests/ReplyTimer.h"
 
 namespace
 {

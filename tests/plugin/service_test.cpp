@@ -10,9 +10,9 @@
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "Languages.h"
-#include "USSDEditCmd.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
+#include "profiles/USSDEditCmd.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDService.h"
 
 /** The service with its general window, embedded and framed. */
 class ServiceTest : public PluginTest

@@ -11,9 +11,9 @@
 #include <unistd.h>
 
 #include "fake_tksv.h"
-#include "ReplyTimer.h"
+#include "requests/ReplyTimer.h"
+#include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
-#include "USSDLogic.h"
 
 namespace
 {

@@ -15,11 +15,11 @@
 #include "fake_tksv.h"
 #include "Languages.h"
 #include "LogicListener.h"
-#include "ReplyLabel.h"
-#include "USSDExtendDialog.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
-#include "USSDSMSDlg.h"
+#include "requests/USSDLogic.h"
+#include "windows/ReplyLabel.h"
+#include "windows/USSDExtendDialog.h"
+#include "windows/USSDService.h"
+#include "windows/USSDSMSDlg.h"
 
 /** The USSD-SMS dialog in a frame, driven by keys and clicks. The network is silent at first. */
 class SmsDialogTest : public PluginTest

@@ -13,8 +13,8 @@
 #include "fake_tksv.h"
 #include "HostState.h"
 #include "Languages.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
+#include "requests/USSDLogic.h"
+#include "windows/USSDService.h"
 
 namespace
 {

@@ -11,9 +11,9 @@
 
 #include <sys/stat.h>
 
+#include "markup/Transcript.h"
+#include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "Transcript.h"
-#include "TranscriptView.h"
 
 using Transcript::Received;
 using Transcript::Sent;

@@ -1,10 +1,10 @@
 #include "PluginTest.h"
+#include "profiles/USSDEditCmd.h"
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
+#include "requests/USSDLogic.h"
 #include "SmsLayout.h"
 #include "UssdCode.h"
-#include "USSDEditCmd.h"
-#include "USSDLogic.h"
 #include "UssdTemplate.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "ReplyTimer.h"
+#include "requests/ReplyTimer.h"
 #include "sim/SimulatorClock.h"
 
 namespace

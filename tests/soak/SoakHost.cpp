@@ -13,11 +13,11 @@
 #include "Languages.h"
 #include "plugin/GeneralWindow.h"
 #include "PluginContract.h"
-#include "ReplyTimer.h"
+#include "requests/ReplyTimer.h"
+#include "requests/USSDLogic.h"
 #include "SoakClock.h"
 #include "tksv_device.h"
-#include "USSDLogic.h"
-#include "USSDService.h"
+#include "windows/USSDService.h"
 
 namespace
 {

@@ -13,7 +13,7 @@
 #include <QMap>
 #include <QPushButton>
 
-#include "PluginLog.h"
+#include "base/PluginLog.h"
 #include "StatusBox.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");

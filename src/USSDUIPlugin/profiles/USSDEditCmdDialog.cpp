@@ -9,10 +9,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/PluginLog.h"
+#include "base/PluginMessage.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
-#include "PluginLog.h"
-#include "PluginMessage.h"
-#include "PluginText.h"
 #include "ProfileFile.h"
 #include "ProfileRows.h"
 

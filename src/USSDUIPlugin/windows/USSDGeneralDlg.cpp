@@ -10,14 +10,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/PluginLog.h"
+#include "base/PluginMessage.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
-#include "PluginLog.h"
-#include "PluginMessage.h"
-#include "PluginText.h"
+#include "markup/TranscriptView.h"
+#include "profiles/USSDEditCmd.h"
+#include "requests/USSDLogic.h"
 #include "tksv.h"
-#include "TranscriptView.h"
-#include "USSDEditCmd.h"
-#include "USSDLogic.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 

@@ -5,8 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "requests/USSDCommand.h"
 #include "SmsLayout.h"
-#include "USSDCommand.h"
 
 class QLabel;
 class QLineEdit;

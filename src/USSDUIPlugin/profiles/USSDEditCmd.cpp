@@ -6,14 +6,14 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
+#include "base/PluginLog.h"
 #include "CommonUtils.h"
 #include "ForwardXml.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
-#include "PluginLog.h"
 #include "ProfileRows.h"
 #include "ProfileXml.h"
-#include "SdkRecords.h"
+#include "requests/SdkRecords.h"
 #include "tksv.h"
 #include "XmlName.h"
 

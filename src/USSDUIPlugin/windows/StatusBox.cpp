@@ -8,9 +8,9 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
-#include "HeavyText.h"
-#include "PieceFeeder.h"
-#include "PluginText.h"
+#include "base/PluginText.h"
+#include "markup/HeavyText.h"
+#include "markup/PieceFeeder.h"
 #include "ReplyLabel.h"
 
 namespace

@@ -2,13 +2,13 @@
 
 #include <new>
 
+#include "base/PluginLog.h"
+#include "base/PluginMessage.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
 #include "PluginContract.h"
-#include "PluginLog.h"
-#include "PluginMessage.h"
-#include "PluginText.h"
+#include "requests/USSDLogic.h"
 #include "SmsLayout.h"
-#include "USSDLogic.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDService.cpp");
 

@@ -12,8 +12,8 @@
 #include "IUSSD.h"
 #include "PluginConfig.h"
 #include "PluginContract.h"
-#include "USSDCommand.h"
-#include "USSDLogic.h"
+#include "requests/USSDCommand.h"
+#include "requests/USSDLogic.h"
 
 class QFrame;
 class QGridLayout;

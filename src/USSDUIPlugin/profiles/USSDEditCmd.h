@@ -10,7 +10,7 @@
 #include "PluginConfig.h"
 #include "ProfileTableItemDelegate.h"
 #include "ProfileTableWidget.h"
-#include "USSDLogic.h"
+#include "requests/USSDLogic.h"
 #include "USSDProfile.h"
 
 class QLabel;

@@ -11,15 +11,15 @@
 #include <QTreeWidget>
 #include <QXmlStreamReader>
 
+#include "base/PluginLog.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
-#include "PluginLog.h"
-#include "PluginText.h"
 #include "ReplyLabel.h"
+#include "requests/USSDLogic.h"
 #include "tksv.h"
 #include "UssdCode.h"
-#include "USSDLogic.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
 

@@ -3,9 +3,9 @@
  */
 #include "USSDDlg.h"
 
+#include "base/PluginLog.h"
 #include "INotifyService.h"
 #include "IPluginContainer.h"
-#include "PluginLog.h"
 #include "PrePostVerdict.h"
 #include "Startup.h"
 

@@ -5,8 +5,8 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
-#include "HeavyText.h"
-#include "PluginText.h"
+#include "base/PluginText.h"
+#include "markup/HeavyText.h"
 
 namespace
 {

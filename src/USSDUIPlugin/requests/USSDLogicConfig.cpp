@@ -7,11 +7,11 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
+#include "base/PluginLog.h"
 #include "CommonUtils.h"
 #include "ForwardXml.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
-#include "PluginLog.h"
 #include "XmlName.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");

@@ -10,10 +10,10 @@
 #include <QPushButton>
 #include <QRegExpValidator>
 
+#include "base/PluginLog.h"
+#include "base/PluginText.h"
 #include "ExtendLineEdit.h"
 #include "OnlineLink.h"
-#include "PluginLog.h"
-#include "PluginText.h"
 #include "QtCompat.h"
 #include "ReplyBox.h"
 #include "StatusBox.h"

@@ -6,7 +6,7 @@
 #include <QPointer>
 
 #include "IUSSD.h"
-#include "USSDCommand.h"
+#include "requests/USSDCommand.h"
 #include "USSDDlg.h"
 #include "USSDExtendDialog.h"
 #include "USSDGeneralDlg.h"

@@ -7,8 +7,8 @@
 #include <QWidget>
 
 #include "PluginConfig.h"
-#include "USSDCommand.h"
-#include "USSDLogic.h"
+#include "requests/USSDCommand.h"
+#include "requests/USSDLogic.h"
 #include "USSDProfile.h"
 
 class QComboBox;

@@ -3,9 +3,9 @@
 #include <QMutexLocker>
 #include <QPointer>
 
+#include "base/PluginLog.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
-#include "PluginLog.h"
-#include "PluginText.h"
 #include "ReplyTimeout.h"
 #include "ReplyTimer.h"
 #include "SdkRecords.h"

@@ -14,12 +14,12 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "base/PluginLog.h"
 #include "CommonUtils.h"
-#include "PluginLog.h"
+#include "markup/TranscriptView.h"
+#include "profiles/USSDEditCmd.h"
 #include "QtCompat.h"
-#include "TranscriptView.h"
 #include "UssdCode.h"
-#include "USSDEditCmd.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
