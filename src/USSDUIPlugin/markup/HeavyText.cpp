@@ -3,21 +3,22 @@
 namespace
 {
 
-const int NEVER_HEAVY = 1000; // characters; a network sends at most 182
+const int NEVER_HEAVY = 1000; // characters; a reply of a network has at most 182
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
-const int PIECE = 990;    // a little less than what is never heavy: a pair may be added
-const int LOOK_BACK = 50; // for a blank
+const int PIECE = 990;    // below NEVER_HEAVY, which leaves room for a surrogate pair
+const int LOOK_BACK = 50; // how far to search back for a blank
 
-/// Places where the next character belongs to another script, or is a mark on the one before it.
+/// Returns true if `after` starts another script or is a combining mark on `before`.
 bool isChange(QChar before, QChar after)
 {
-    const int charactersOfAScript = 128; // about: the tables of the scripts are Qt's own
+    const int charactersOfAScript = 128; // an approximation: Qt's script tables are private
     return before.unicode() / charactersOfAScript != after.unicode() / charactersOfAScript ||
            after.category() == QChar::Mark_NonSpacing;
 }
 
-/// Where the piece that begins at `begin` ends: never between two halves of a pair.
+/// Returns where the piece that starts at `begin` ends; never between the halves of a surrogate
+/// pair.
 int endOfPiece(const QString &text, int begin)
 {
     int end = begin + PIECE;

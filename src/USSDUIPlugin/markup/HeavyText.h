@@ -5,17 +5,21 @@
 #include <QStringList>
 
 /*
- * Texts that Qt takes long to break into lines: the time grows with the square of the number of
- * places where one script follows another, and with the length of everything else.
+ * Recognises replies that would freeze a window while Qt breaks them into lines, and splits such a
+ * text into pieces that are quick to lay out. Line breaking is slow for long texts, and its time
+ * grows with the square of the number of changes from one script to another.
+ *
+ * Transcript, StatusBox and ReplyBox ask isHeavy(), and PieceFeeder adds the pieces to a text edit
+ * one by one. This is about the text only: MarkupCost estimates the cost of markup.
  */
 namespace HeavyText
 {
 
-/// Whether one paragraph of this text would keep a window busy for more than a moment. No text that
-/// a network can send is.
+/// Returns true if laying out `text` as one paragraph would block the window for more than a
+/// moment. No text that a network can send is heavy.
 bool isHeavy(const QString &text);
 
-/// The text in pieces, none of which is heavy, cut at blanks where there are some.
+/// Splits `text` into pieces that are not heavy, at blanks where possible.
 QStringList pieces(const QString &text);
 
 } // namespace HeavyText

@@ -6,11 +6,11 @@
 namespace
 {
 
-const int MAX_TAGS = 60; // in one text; the longest reply of a network has 182 characters
+const int MAX_TAGS = 60; // in one reply; the longest one of a network has 182 characters
 const int MAX_TABLES = 8;
 const int MAX_RULES = 8;
 
-/// The name of the tag that the text behind a "<" begins with, in lower case.
+/// Returns the lower-case name of a tag. `behind` is the text after the "<" of the tag.
 QString tagName(const QString &behind)
 {
     const int begin = behind.indexOf(QRegExp(QLatin1String("[^\\s]")));
@@ -20,14 +20,15 @@ QString tagName(const QString &behind)
     return behind.mid(begin, end < 0 ? -1 : end - begin).toLower();
 }
 
-/// A name in quotes, or with an entity in it, may be any.
+/// Returns true if quotes or entities hide the name of the tag, which may then be any tag.
 bool isDisguised(const QString &name)
 {
     return name.contains(QLatin1Char('&')) || name.contains(QLatin1Char('"')) ||
            name.contains(QLatin1Char('\''));
 }
 
-/// Also where an attribute's name or number is written with entities.
+/// Returns true if the tag contains a number of at least three digits, or an entity, which may hide
+/// such a number or the name of its attribute.
 bool maySpanMany(const QString &behind)
 {
     return behind.contains(QLatin1Char('&')) || behind.contains(QRegExp(QLatin1String("\\d{3}")));
@@ -70,7 +71,7 @@ MarkupCost markupCost(const QString &text)
         return cost;
     cost.tags = text.count(QLatin1Char('<'));
     if (cost.tags > MAX_TAGS)
-        return cost; // too many, whatever they are
+        return cost; // too many tags, so their kinds do not matter
     cost.tags = 0;
     const QStringList parts = text.split(QLatin1Char('<'));
     for (int i = 1; i < parts.count(); ++i)

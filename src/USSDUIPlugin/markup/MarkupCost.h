@@ -4,24 +4,27 @@
 #include <QString>
 
 /**
- * What a text would cost if a rich-text document read it as markup. The time to lay out tables
- * inside each other doubles with each of them, a cell may span four hundred million others, and
- * each rule of a style sheet is tried on each tag: a reply of 182 characters can keep a window busy
- * for hours.
+ * Estimates how long a rich-text document would take to lay out the markup in a reply, so that
+ * TranscriptView can show a reply whose markup is too expensive as plain letters. The layout time
+ * doubles with each nested table, a table cell may span four hundred million others, and each rule
+ * of a style sheet is tried on each tag: a reply of 182 characters can block a window for hours.
  *
- * It counts what stands in the text, not what the document makes of it: never too little.
+ * The figures are counted in the text, not in the parsed document, and never underestimate the
+ * cost. MarkupTag decides what is a tag at all; HeavyText deals with text that is slow without any
+ * markup.
  */
 struct MarkupCost {
     int tags = 0;
     int tables = 0;
-    int rules = 0;     // of style sheets
-    bool wide = false; // a cell may span very many others
+    int rules = 0;     // rules of style sheets
+    bool wide = false; // true if a cell may span very many others
 
-    /// Whether a transcript that holds markup of the cost `before` bears this one as well.
+    /// Returns true if this markup may be added to a transcript whose markup costs `before`.
     bool isBearable(const MarkupCost &before) const;
     void add(const MarkupCost &other);
 };
 
+/// Returns the cost of the markup in `text`.
 MarkupCost markupCost(const QString &text);
 
 #endif

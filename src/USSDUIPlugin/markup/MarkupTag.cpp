@@ -10,7 +10,7 @@ namespace
 
 const int LONGEST_TAG = 10; // "blockquote"
 
-/// The tags that QTextDocument reads, sorted.
+/// The tags that QTextDocument knows, in sorted order.
 const char *const KNOWN_TAGS[] = {
     "a",    "address", "b",     "big",   "blockquote", "body",  "br",   "caption", "center",
     "cite", "code",    "dd",    "dfn",   "div",        "dl",    "dt",   "em",      "font",
@@ -39,13 +39,13 @@ bool endsName(const QString &text, int place)
            unit == QLatin1Char('=');
 }
 
-/// A line feed is none: the transcript makes a tag of its own of it.
+/// Returns true for white space except a line feed, which the transcript replaces by a tag.
 bool isBlank(QChar unit)
 {
     return unit.isSpace() && unit != QLatin1Char('\n');
 }
 
-/// Where the name of the tag that would begin at `bracket` starts; blanks may stand before it.
+/// Returns where the tag name after `bracket` begins, past blanks and the slash of a closing tag.
 int nameBegin(const QString &text, int bracket)
 {
     int begin = bracket + 1;
@@ -63,7 +63,8 @@ int nameEnd(const QString &text, int begin)
     return end;
 }
 
-/// A quote counts at the beginning of a word only, as in `size="2"`.
+/// Returns true if a quotation opens at `place`. A quote opens one only at the beginning of a word,
+/// as in `size="2"`.
 bool opensQuote(const QString &text, int place)
 {
     const QChar unit = text.at(place);
@@ -72,7 +73,7 @@ bool opensQuote(const QString &text, int place)
            (before.isSpace() || before == QLatin1Char('='));
 }
 
-/// Whether a ">" ends the tag before another tag or a line feed begins. One in quotes ends nothing.
+/// Returns true if a ">" outside quotes ends the tag before another tag or a line feed begins.
 bool hasEnd(const QString &text, int place)
 {
     for (int i = place; i < text.length(); ++i) {

@@ -3,13 +3,17 @@
 
 #include <QString>
 
-/* Where a text begins a tag for a rich-text document, and where it only holds a "<". */
+/*
+ * Tells the tags in a reply from a "<" that is a plain letter. A rich-text document would take such
+ * a letter for the start of a tag and swallow the text after it, as in "Balance < 5 EUR".
+ * Transcript escapes these letters before it builds an entry; MarkupCost estimates how expensive
+ * the real tags are.
+ */
 namespace MarkupTag
 {
 
-/// The text with each "<" as an entity that begins no whole tag of those that Qt knows. A document
-/// would otherwise swallow what stands behind it, as in "Balance < 5 EUR". A tag whose name is
-/// written with entities or in quotes counts as none.
+/// Returns `text` with each "<" escaped that does not start a complete tag known to Qt. A tag whose
+/// name is written with entities or in quotes is not recognised and is escaped, too.
 QString withOthersAsLetters(const QString &text);
 
 } // namespace MarkupTag

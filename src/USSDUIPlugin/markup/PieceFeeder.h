@@ -10,9 +10,10 @@
 class QTextEdit;
 
 /**
- * Adds a long text to the end of a QTextEdit piece by piece, each a paragraph of its own, one for
- * each turn of the event loop: the window stays alive meanwhile. A child of the text edit; GUI
- * thread.
+ * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive:
+ * each turn of the event loop inserts one piece as a paragraph of its own. StatusBox and
+ * TranscriptView feed it with the pieces of a heavy text (see HeavyText). The feeder is a child of
+ * the text edit. GUI thread only.
  */
 class PieceFeeder : public QObject
 {
@@ -21,13 +22,13 @@ public:
     explicit PieceFeeder(QTextEdit *edit);
 
     bool isBusy() const { return !m_pieces.isEmpty(); }
-    /// Comes behind everything that still waits.
+    /// Queues a piece behind all pieces that are still waiting.
     void add(const QString &text, const QTextBlockFormat &block, const QTextCharFormat &letters);
-    /// Forgets what still waits.
+    /// Discards all pieces that are still waiting.
     void drop();
 
 signals:
-    /// A piece more is there.
+    /// Emitted after a piece has been inserted.
     void added();
 
 private slots:

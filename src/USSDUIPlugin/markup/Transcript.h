@@ -7,35 +7,40 @@
 
 struct Char;
 
-/* The general dialog's transcript as markup: plain functions on plain values. */
+/*
+ * Builds the entries of the general dialog's transcript as markup, by plain functions on plain
+ * values. MarkupTag escapes each "<" that begins no tag. HeavyText and MarkupCost say how expensive
+ * an entry is, by which TranscriptView chooses one of its forms.
+ */
 namespace Transcript
 {
 
-/// Who speaks in an entry.
+/// Whether the user sent the text of an entry or received it.
 enum Direction { Sent, Received };
 
-/** One entry. */
+/** One entry in all forms that TranscriptView may show. */
 struct Entry {
     QString markup;
-    bool isPlain;    // caption and text are read as letters only
-    bool mayReachOn; // what is in it may change how entries behind it look
-    bool isHeavy;    // takes long to lay out, even as letters
-    MarkupCost cost; // of the text
+    bool isPlain;    // caption and text contain letters only
+    bool mayReachOn; // the markup may affect the look of later entries
+    bool isHeavy;    // the text takes long to lay out, even as letters
+    MarkupCost cost; // cost of the markup in the text
 
-    // The same with the text as letters, for when its markup costs too much.
+    // The entry with its text as letters, for a text whose markup costs too much.
     QString letters;
-    bool lettersMayReachOn;
+    bool lettersMayReachOn; // these letters may affect the look of later entries
 
-    // What there is to show piece by piece.
-    QString words;  // caption and text, a line feed being the end of a line
-    QString sample; // markup of a short entry that looks the same
+    // The contents of an entry that is shown piece by piece.
+    QString words;  // caption and text; a line feed ends a line
+    QString sample; // markup of a short entry with the same look
 };
 
-/// What `text` holds of tags counts as markup; a "<" that begins none is a letter.
+/// Returns the entry for a text. Tags in `text` count as markup; a "<" that begins no tag is a
+/// letter.
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text);
 
-/// A whole document of entries.
+/// Returns a complete document with the markup of these entries.
 QString document(const QString &entries);
 
 } // namespace Transcript

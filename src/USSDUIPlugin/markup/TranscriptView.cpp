@@ -19,7 +19,7 @@ void insertBlock(QTextCursor &cursor, const QTextBlock &block)
         cursor.insertText(it.fragment().text(), it.fragment().charFormat());
 }
 
-/// Inserts a plain entry as a document with nothing but it would show it.
+/// Inserts a plain entry with the look that it has in a document of its own.
 void insertAtEnd(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -32,7 +32,7 @@ void insertAtEnd(QTextDocument &document, const QString &markup)
     cursor.endEditBlock();
 }
 
-/// For a document that is not set as a whole any more.
+/// Inserts an entry with markup into a document that is no longer replaced as a whole.
 void insertWithMarkup(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -43,7 +43,7 @@ void insertWithMarkup(QTextDocument &document, const QString &markup)
     cursor.insertFragment(QTextDocumentFragment(&alone));
 }
 
-/// Never null, or Qt would go on to open a file of that name itself.
+/// Returns an empty resource. A null one would make Qt look for a file of that name itself.
 QVariant nothingToLoad(int type)
 {
     if (type != QTextDocument::ImageResource)
@@ -58,7 +58,7 @@ QVariant nothingToLoad(int type)
 TranscriptView::TranscriptView(QWidget *parent)
     : QTextEdit(parent), m_feeder(new PieceFeeder(this)), m_isOpen(false), m_isInPieces(false)
 {
-    setUndoRedoEnabled(false); // every entry would be kept a second time
+    setUndoRedoEnabled(false); // the undo stack would keep a second copy of every entry
     connect(m_feeder, SIGNAL(added()), this, SLOT(showEnd()));
 }
 
@@ -89,8 +89,8 @@ void TranscriptView::showEntry(const Transcript::Entry &entry, const QString &ma
         insertAtEnd(*document(), markup);
 }
 
-/// From here on only the end of the document changes: to set the whole again would lay out at once
-/// what has just been spared that.
+/// From now on, only the end of the document changes. To replace the whole document would lay out
+/// all pieces at once.
 void TranscriptView::insertPieces(const Transcript::Entry &entry)
 {
     m_isInPieces = true;

@@ -8,16 +8,16 @@
 class PieceFeeder;
 
 /**
- * Shows the transcript. Entries come from the network and may hold any markup, so nothing in them
- * makes the view open a file or an address.
+ * Shows the transcript of the general dialog. Entries come from the network and may contain any
+ * markup, so the view never opens a file or an address that they name.
  *
- * An entry is inserted at the end, in the same time whatever stands before it; the document is
- * nevertheless the one that setting the whole transcript at once would give. Behind an entry that
- * may hold an unclosed tag or a style sheet that is only so if the whole is set each time.
+ * A plain entry is appended in a time that does not depend on the entries before it. An entry with
+ * markup, and each entry after one that may contain an unclosed tag or a style sheet, sets the
+ * whole transcript again. The document looks the same either way.
  *
- * Two kinds of entries are shown otherwise so that the window stays alive: one whose markup costs
- * too much is shown as letters, and one that takes long even so, which no network can send, comes
- * in pieces, each a paragraph.
+ * Two kinds of entries are shown more simply so that the window stays responsive. An entry whose
+ * markup is too expensive (see MarkupCost) is shown as letters. A heavy text (see HeavyText), which
+ * no network can send, is added in pieces by PieceFeeder, each as a paragraph.
  */
 class TranscriptView : public QTextEdit
 {
@@ -25,11 +25,12 @@ class TranscriptView : public QTextEdit
 public:
     explicit TranscriptView(QWidget *parent = nullptr);
 
-    /// Shows one entry more and moves to the end.
+    /// Appends an entry and scrolls to the end.
     void appendEntry(const Transcript::Entry &entry);
-    /// Shows nothing.
+    /// Removes all entries.
     void clearEntries();
-    /// The markup of all entries, one behind the other, as far as it counts as markup.
+    /// Returns the markup of all entries in order. An entry that is shown as letters is contained
+    /// as letters.
     const QString &entries() const { return m_entries; }
 
     QVariant loadResource(int type, const QUrl &name) override;
@@ -44,8 +45,8 @@ private:
     QString m_entries;
     MarkupCost m_cost;
     PieceFeeder *m_feeder; // a child
-    bool m_isOpen;         // an entry may reach into those behind it
-    bool m_isInPieces;     // the whole is never set at once any more
+    bool m_isOpen;         // an entry may affect the look of later ones
+    bool m_isInPieces;     // the document is no longer replaced as a whole
 };
 
 #endif
