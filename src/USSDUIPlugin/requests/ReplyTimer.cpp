@@ -71,7 +71,8 @@ bool ReplyTimer::isArmed(quint64 arming) const
     return m_armed && m_arming == arming;
 }
 
-/// With m_state held. By the system clock, which is the QTimer's own, also when another is set.
+/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, which the
+/// QTimer runs on, even if setClock() has set another one. The caller holds m_state.
 bool ReplyTimer::wakesWithin(int milliseconds) const
 {
     return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
@@ -88,7 +89,8 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
-/// An event to the owner only to stop the timer would cost more than its waking once in vain.
+/// Stops the QTimer if this is its thread. Another thread lets it fire once in vain, because that
+/// costs less than an event that stops it.
 void ReplyTimer::stopIfOwner(QMutexLocker &locker)
 {
     locker.unlock();
@@ -110,7 +112,7 @@ void ReplyTimer::catchUp()
         stop();
 }
 
-/// It goes on running until somebody takes the arming back.
+/// Notes when the QTimer fires next; it repeats until somebody disarms it.
 void ReplyTimer::repeats()
 {
     QMutexLocker locker(&m_state);
@@ -126,7 +128,7 @@ quint64 ReplyTimer::dueArming() const
 void ReplyTimer::timerEvent(QTimerEvent *event)
 {
     const quint64 due = dueArming();
-    if (due == 0) { // answered, or armed anew, while this event was on its way
+    if (due == 0) { // disarmed or armed again while this event was queued
         catchUp();
         return;
     }

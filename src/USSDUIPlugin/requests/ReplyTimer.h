@@ -7,41 +7,43 @@
 class QMutexLocker;
 
 /**
- * The response time-out. Any thread may arm and disarm it, with effect at once for whoever asks
- * isArmed(); the QTimer itself follows on its own thread, because Qt lets nobody else start or stop
- * it. timeout() comes on that thread, only while armed, and only when the time has really passed.
+ * The response time-out. Any thread may arm and disarm it, and isArmed() reflects the change at
+ * once. The QTimer itself follows on its own thread, the only thread that may start or stop it.
+ * timeout() is emitted on that thread, only while the time-out is armed, and only after the time
+ * has really elapsed.
  *
- * The QTimer follows only where it must. One that wakes before the deadline looks at the clock then
- * and starts anew for the rest; one that nobody needs any more stops when it wakes. So a command
- * that is answered in time costs no event and no system timer of its own.
+ * The QTimer follows only where it must. If it fires before the deadline, it checks the clock and
+ * restarts for the remaining time; if it is no longer needed, it stops when it fires. A command
+ * that is answered in time therefore costs no event and no system timer of its own.
  *
- * Every arming has a number, so that a late disarm cannot hit a newer arming.
+ * Every arming has a number, so that a late disarm() cannot hit a newer arming.
  */
 class ReplyTimer : public QTimer
 {
     Q_OBJECT
 public:
-    typedef qint64 (*Clock)(); // milliseconds, never going back
+    typedef qint64 (*Clock)(); // returns milliseconds that never go back
 
     explicit ReplyTimer(QObject *parent = nullptr);
 
-    /// Starts the time-out anew and returns the arming's number (never 0).
+    /// Restarts the time-out and returns the number of the arming, which is never 0.
     quint64 arm(int milliseconds);
     void disarm();
-    /// Disarms only while `arming` is the newest.
+    /// Disarms the time-out only if `arming` is the newest arming.
     void disarm(quint64 arming);
     bool isArmed() const;
-    /// Whether `arming` is the newest and still armed.
+    /// Returns true if `arming` is the newest arming and still armed.
     bool isArmed(quint64 arming) const;
-    /// While timeout() is being emitted: the arming that ran out. Otherwise 0. Own thread only.
+    /// Returns the arming that has run out while timeout() is being emitted, and 0 otherwise. Only
+    /// for the thread of the timer.
     quint64 runOutArming() const { return m_runOut; }
 
-    /// Takes another clock for all timers; null restores the monotonic system clock.
+    /// Sets the clock of all timers; null restores the monotonic system clock.
     static void setClock(Clock clock);
 
 public slots:
-    /// Makes the QTimer agree with the arming; to be called on the timer's thread when a replaced
-    /// clock has jumped.
+    /// Starts or stops the QTimer to match the arming. Call this on the thread of the timer after a
+    /// replaced clock has jumped.
     void catchUp();
 
 protected:
@@ -54,14 +56,14 @@ private:
     void repeats();
     quint64 dueArming() const;
 
-    mutable QMutex m_state; // guards the next five; nothing else is locked while it is held
+    mutable QMutex m_state; // guards the five members below; always the innermost lock
     bool m_armed;
     bool m_catchUpPosted;
     quint64 m_arming;
     qint64 m_deadline;
-    qint64 m_wake; // when the QTimer fires next, by the system clock; -1 while it stands
+    qint64 m_wake; // when the QTimer fires next, by the system clock; -1 while it is stopped
 
-    quint64 m_runOut; // own thread only
+    quint64 m_runOut; // only for the thread of the timer
 };
 
 #endif

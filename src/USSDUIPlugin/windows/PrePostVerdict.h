@@ -3,9 +3,9 @@
 
 #include <QString>
 
-/// Whether the network's reply to the detection code is that for a postpaid SIM. The pattern "\d",
-/// quotes included, finds a prepaid one by any digit, in whatever script; every other pattern by
-/// being equal to the reply.
+/// Returns true if `reply`, the network's reply to the detection code, means a postpaid SIM. With
+/// the pattern "\d", quotes included, a reply that contains a digit of any script means prepaid.
+/// With any other pattern, only a reply that equals the pattern means prepaid.
 bool isPostpaidReply(const QString &reply, const QString &returnPattern);
 
 #endif

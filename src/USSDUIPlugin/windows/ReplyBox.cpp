@@ -11,7 +11,7 @@
 namespace
 {
 
-// What a label shows well; no network sends more.
+// The limits up to which a label shows a text well.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;
@@ -48,7 +48,8 @@ QPlainTextEdit *createView(QWidget *parent, const QString &text)
     return view;
 }
 
-/// In the place of the label, whose width grows with the longest word.
+/// Shows the text in a scrolling view instead of the label, whose width would grow with the longest
+/// word.
 void showInView(QMessageBox *box, const QString &text)
 {
     QGridLayout *grid = qobject_cast<QGridLayout *>(box->layout());

@@ -4,17 +4,17 @@
 #include <QMessageBox>
 
 /*
- * The message box that shows the network's reply to a top-up. Nothing but Qt's own classes: one
- * that is being deleted needs no code of the plug-in.
+ * The message box that shows the network's reply to a top-up. The box consists of Qt's own classes
+ * only, so that its deletion needs no code of the plug-in.
  */
 namespace ReplyBox
 {
 
-/// A modal box, not shown yet, that belongs to `parent`. The reply is plain text; one that is too
-/// long for a label stands in a view that scrolls.
+/// Returns a modal box, not shown yet, that is a child of `parent`. The box shows the reply as
+/// plain text, in a scrolling view if the reply is too long for a label.
 QMessageBox *create(QWidget *parent, const QString &reply);
 
-/// Re-reads title and button in the current language.
+/// Updates the title and the button to the current language.
 void retranslate(QMessageBox *box);
 
 } // namespace ReplyBox

@@ -8,11 +8,12 @@
 namespace
 {
 
-// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING: isolates are younger than Qt 4.
+// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING. Qt 4 does not know the newer isolates.
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 
-/// More than a label has room for; what is behind them would be measured each time it is painted.
+/// More characters than a label has room for. Further ones would be laid out at each repaint in
+/// vain.
 const int MOST_LETTERS = 2000;
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)
@@ -24,7 +25,7 @@ QTextOption textOption(const QLabel &label, bool rightToLeft)
     return option;
 }
 
-/// Breaks the text into lines, as many as are seen.
+/// Breaks the text into as many lines as the label has room for.
 void layOut(QTextLayout &layout, const QSize &space)
 {
     qreal bottom = 0;

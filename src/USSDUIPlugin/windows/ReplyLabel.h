@@ -4,9 +4,10 @@
 #include <QLabel>
 
 /**
- * A label for what the network says: plain text in the direction of its own letters. Words that are
- * too long for a line are broken anywhere, and codes in the text read from left to right. The text
- * itself stays as it was set, and has no say in the label's size. GUI thread only.
+ * A label for the network's replies: it shows plain text in the direction of the text's own
+ * letters. A word that is too long for a line is broken anywhere, and codes in the text read from
+ * left to right. text() returns the reply unchanged, and the reply does not affect the size hint.
+ * GUI thread only.
  */
 class ReplyLabel : public QLabel
 {
@@ -16,8 +17,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// The text with marks around each code, such as *111#, and each number with a plus: letters of
-    /// a right-to-left language beside it would turn it round.
+    /// Returns `text` with direction marks around each code, such as *111#, and each number with a
+    /// plus. Without the marks, right-to-left letters beside a code would reverse it.
     static QString withCodesMarked(const QString &text);
 
 protected:

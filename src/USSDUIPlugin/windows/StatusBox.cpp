@@ -16,7 +16,7 @@
 namespace
 {
 
-const int WIDTH = 300; // pixels; the link has as many
+const int WIDTH = 300; // pixels, the width of the link too
 
 const char *const OWN_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"};
 
@@ -39,7 +39,7 @@ bool holdsRightToLeftLetter(const QString &text)
     return false;
 }
 
-/// LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
+/// Removes the direction marks, LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
 QString withoutDirectionMarks(QString text)
 {
     return text.remove(QRegExp(QString::fromLatin1("[%1-%2]").arg(QChar(0x202A), QChar(0x202E))));
@@ -71,8 +71,7 @@ void StatusBox::showText(const QString &text)
     setReply(holdsRightToLeftLetter(text) ? ReplyLabel::withCodesMarked(text) : text);
 }
 
-/// One that takes long to lay out comes in pieces, each a paragraph; no network can send such a
-/// text.
+/// Shows a heavy text in pieces, each as a paragraph of its own. No network can send such a text.
 void StatusBox::setReply(const QString &text)
 {
     m_feeder->drop();
@@ -102,7 +101,8 @@ QSize StatusBox::minimumSizeHint() const
     return sizeHint();
 }
 
-/// A copied code must be one that can be sent: without the marks that turn it the right way here.
+/// Copies the selection without the direction marks that showText() adds: a copied code must be one
+/// that can be sent.
 QMimeData *StatusBox::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;
@@ -122,7 +122,8 @@ void StatusBox::fixHeight()
     setFixedHeight(heightOfLines());
 }
 
-/// As a document lays them out: it rounds each line up, and counts its own margins.
+/// Returns the height of m_lines lines in a document, which rounds each line up and adds its own
+/// margins.
 int StatusBox::heightOfLines() const
 {
     QTextDocument lines;

@@ -6,20 +6,20 @@
 class PieceFeeder;
 
 /**
- * Shows the network's reply as plain text, whatever it holds, in a fixed number of lines: a longer
- * one scrolls. The plug-in's own texts follow the language; a code such as *111# reads from left to
- * right also among letters that read the other way.
+ * Shows the network's reply as plain text, whatever it contains, in a box with a fixed number of
+ * lines; a longer reply scrolls. The plug-in's own texts follow the language. A code such as *111#
+ * reads from left to right even among right-to-left letters.
  */
 class StatusBox : public QTextEdit
 {
 public:
     explicit StatusBox(QWidget *parent = nullptr);
 
-    /// How many lines are seen at once.
+    /// Sets how many lines are visible at once.
     void setLines(int lines);
-    /// A reply, or one of the plug-in's own texts in the current language.
+    /// Shows a reply, or one of the plug-in's own texts in the current language.
     void showText(const QString &text);
-    /// Shows a text of the plug-in's own in the current language; a reply stays as it is.
+    /// Updates one of the plug-in's own texts to the current language; a reply stays unchanged.
     void retranslate();
 
     QSize sizeHint() const override;
@@ -36,7 +36,7 @@ private:
 
     PieceFeeder *m_feeder; // a child
     int m_lines;
-    QString m_ownKey; // of the text that is shown; empty for a reply
+    QString m_ownKey; // key of the shown text; empty for a reply
 };
 
 #endif
