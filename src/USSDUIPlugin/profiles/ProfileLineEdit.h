@@ -4,8 +4,8 @@
 #include "ExtendLineEdit.h"
 
 /**
- * An editor that keeps Up and Down inside its cell: they move the cursor left and right. The
- * table's delegate does not use it today.
+ * A line edit that keeps Up and Down inside its cell: they move the cursor left and right. The
+ * delegate of the table does not use it at present.
  */
 class ProfileLineEdit : public ExtendLineEdit
 {

@@ -3,7 +3,8 @@
 namespace
 {
 
-/// The cell's text without blanks around it, unless nobody touched it.
+/// Returns the text of a cell: without the blanks around it, or exactly as before if it was not
+/// edited.
 QString cellText(const QString &cell, const QString &before)
 {
     return cell == before ? before : cell.trimmed();
@@ -19,7 +20,8 @@ bool isSame(const ProfileRows::Row &row, const USSDProfile &profile)
     return row.name == profile.name && row.code == profile.value;
 }
 
-/// Emptying the code takes a profile away. One that came without a code goes with its name.
+/// Returns true if the user has removed the profile. Emptying the code removes a profile; a profile
+/// that never had a code is removed by emptying its name.
 bool isTakenAway(const ProfileRows::Row &row, const USSDProfile &before)
 {
     return isBlank(row.code) && (!isBlank(before.value) || isBlank(row.name));

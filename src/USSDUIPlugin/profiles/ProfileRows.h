@@ -6,13 +6,13 @@
 
 #include "USSDProfile.h"
 
-/* What the profile editor's table says, as plain values. */
+/* The contents of the profile editor's table as plain values. */
 namespace ProfileRows
 {
 
 enum Column { NameColumn = 0, CodeColumn = 1, ColumnCount = 2 };
 
-const int ROWS = 100; // profiles beyond it are not shown
+const int ROWS = 100; // the table shows no profiles beyond these rows
 
 /** The two cells of a row. */
 struct Row {
@@ -20,17 +20,18 @@ struct Row {
     QString code;
 };
 
-/// The profiles that these rows stand for, in order. Row i showed profile i of `shown`, as far as
-/// there was one; what a person changed there is taken over, the rest of the profile stays. A row
-/// whose code was emptied is left out, and so is a new one without a code, since nothing could be
-/// sent. A profile that came without a code or a name stays as it was. Profiles beyond the rows are
-/// kept.
+/// Returns the profiles that the rows stand for, in order. Row i shows profile i of `shown`, if
+/// there is one: the result takes the name and the code from the row and all other fields from the
+/// profile. A row whose code has been emptied is left out, and so is a new row without a code,
+/// because there is nothing to send. A profile without a code or a name stays unchanged unless its
+/// row is edited. Profiles beyond the last row are kept.
 QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &shown);
 
-/// Those of the system file, or the others, in order.
+/// Returns the profiles of the system file if `isSystem` is true, otherwise those of the user file,
+/// in order.
 QList<USSDProfile> ofFile(const QList<USSDProfile> &profiles, bool isSystem);
 
-/// Whether the number of profiles, or any name or code, differs.
+/// Returns true if the number of profiles, or any name or code, differs.
 bool differ(const QList<USSDProfile> &a, const QList<USSDProfile> &b);
 
 } // namespace ProfileRows

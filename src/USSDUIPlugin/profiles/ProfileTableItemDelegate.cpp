@@ -26,9 +26,9 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
 {
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
-    // A longer text comes from the file. The editor must not cut it.
+    // A text from the file may be longer; the editor must not cut it.
     edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
-    edit->setFrame(false); // the rows are low
+    edit->setFrame(false); // the rows have no room for a frame
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);
     return edit;

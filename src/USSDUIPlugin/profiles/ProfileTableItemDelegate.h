@@ -4,8 +4,8 @@
 #include <QItemDelegate>
 
 /**
- * Edits a cell of the profile table with the host's line edit, which takes 40 characters, or as
- * many as the cell has already.
+ * Edits a cell of the profile table with the host's line edit. The line edit accepts 40 characters,
+ * or as many as the cell already contains.
  */
 class ProfileTableItemDelegate : public QItemDelegate
 {
@@ -15,12 +15,13 @@ public:
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
-    /// Takes what was typed without the blanks around it; leaves a text that was not changed alone.
+    /// Stores the edited text without the blanks around it. A text that was not edited stays
+    /// unchanged.
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
 
 protected:
-    /// A code reads from left to right, also where the table does not.
+    /// Draws a code from left to right, even in a right-to-left table.
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;
 };

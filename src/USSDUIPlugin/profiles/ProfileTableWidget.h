@@ -3,7 +3,7 @@
 
 #include <QTableWidget>
 
-/** The profile editor's table. */
+/** The table of the profile editor, with its own rules for typing and double-clicking. */
 class ProfileTableWidget : public QTableWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     void keyboardSearch(const QString &search) override;
 
 protected:
-    /// Edits the current cell, also one that is empty so far, unless it is read-only.
+    /// Opens the current cell for editing, even if it is empty, unless it is read-only.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 };
 
