@@ -1,7 +1,8 @@
 /*
- * What a plug-in loader looks up. Qt 4 finds the two functions below by name and compares the text
- * with that of its own build. Qt 5 makes qt_plugin_instance() itself, from the class's meta data,
- * in the same words, and finds its own meta data beside it.
+ * The entry points that a plug-in loader looks up. Qt 4 finds the two functions below by name and
+ * compares the verification data with that of its own build. Qt 5 and later generate
+ * qt_plugin_instance() from the meta data of the class, and their loaders read that meta data
+ * instead.
  */
 #include <QtPlugin>
 
@@ -20,7 +21,7 @@ USSD_ENTRY_POINT const char *qt_plugin_query_verification_data();
 
 const char *qt_plugin_query_verification_data()
 {
-    // Qt 4's loader also searches the file for this text without loading it.
+    // Qt 4's loader also searches the library file for this text without loading the library.
     static const char data[] = USSD_VERIFICATION_DATA;
     return data;
 }

@@ -10,16 +10,16 @@
 namespace
 {
 
-const int USUAL_LENGTH = 256; // bytes; longer lines take a second piece of memory
-const int STAMP_LENGTH = 64;  // hh:mm:ss:zzz, whose digits may be of any script
+const int USUAL_LENGTH = 256; // bytes; a longer line needs a second allocation
+const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be of any script
 
-/// What the time of day looked like in the millisecond of the last line.
+/// The text of the last time of day, and the millisecond to which it belongs.
 struct Stamp {
     qint64 millisecond;
     char text[STAMP_LENGTH];
 };
 
-// Without a destructor, which would keep the library loaded until the last thread has ended.
+// Stamp has no destructor: it would keep the library loaded until the last thread has ended.
 thread_local Stamp lastStamp = {-1, ""};
 
 qint64 millisecondsNow()
@@ -51,7 +51,7 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-/// Source and function with the formatted tail, behind `stamp` if there is one.
+/// Returns source, function and the formatted tail, preceded by `stamp` unless that is null.
 QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
                     va_list arguments)
 {
@@ -69,8 +69,8 @@ QByteArray composed(const char *stamp, const char *source, const char *function,
 namespace PluginLog
 {
 
-// Each look at the local time asks for the time zone's file, and a command logs some twenty lines
-// in a row: those of one millisecond share one look.
+// Determining the local time accesses the time-zone file, and a command logs some twenty lines in a
+// row. All lines of one millisecond therefore share the same text.
 const char *timeOfDay()
 {
     const qint64 now = millisecondsNow();

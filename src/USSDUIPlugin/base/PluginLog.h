@@ -4,15 +4,15 @@
 #include <QtGlobal>
 
 /*
- * The plug-in's log lines. A line is "time: source path: function" and a tail, which is given with
- * its leading blank or colon. Each .cpp file names itself once:
+ * The plug-in's log lines. A line is "time: source path: function", followed by a tail that brings
+ * its own leading blank or colon. Each .cpp file names itself once:
  *
  *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
- * A family of files that share a class names the family's first file, which is what a reader of the
- * log looks for. The rest of the code writes lines by the macros below alone. Built with
- * USSD_LOG_LINES=OFF they come to nothing: their arguments are still checked by the compiler, but
- * not evaluated.
+ * Files that share a class name the first file of their family, because that is the file that a
+ * reader of the log looks for. All other code writes lines through the macros below only. In a
+ * build with USSD_LOG_LINES=OFF the macros write nothing: the compiler still checks their
+ * arguments, but the program does not evaluate them.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -22,32 +22,33 @@ namespace PluginLog
 
 #define USSD_PRINTF(text, first) __attribute__((format(printf, text, first)))
 
-/// The local time as hh:mm:ss:zzz in local 8-bit form; valid until this thread's next line.
+/// Returns the local time as hh:mm:ss:zzz in the local 8-bit encoding. The text is valid until the
+/// next call on the same thread.
 const char *timeOfDay();
 
-/// "%s: %s: %s" with the local time as hh:mm:ss:zzz, then the tail.
+/// Writes "time: source: function" and the formatted tail.
 void line(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// The same at debug and again at warning level.
+/// Writes a line at debug level and again at warning level.
 void important(const char *source, const char *function, const char *tail, ...) USSD_PRINTF(3, 4);
 
-/// "%s: %s", without the time, then the tail.
+/// Writes "source: function" and the formatted tail, without the time.
 void untimed(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// Logs Enter when made, and Exit when it goes out of scope unless a line said so before.
+/// Logs Enter on construction, and Exit on destruction unless another line has reported the exit.
 class Scope
 {
 public:
     Scope(const char *source, const char *function);
     ~Scope();
 
-    /// Logs this tail in place of the plain Exit.
+    /// Logs `tail` instead of the plain Exit.
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// The same at debug and again at warning level.
+    /// Logs `tail` instead of the plain Exit, at debug level and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Logs no Exit: the last line said all there is to say.
+    /// Suppresses Exit, because the last line has already said everything.
     void leaveSilently() { m_exited = true; }
 
 private:
@@ -87,7 +88,7 @@ private:
 #define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
 
-// Lines under the name of another function, of which the caller is a part.
+// These lines carry the name of `function`, of which the calling function is a part.
 #define USSD_LOG_AS(function, ...) USSD_LOG_LINE(QtDebugMsg, function, __VA_ARGS__)
 #define USSD_LOG_WARNING_AS(function, ...) USSD_LOG_LINE(QtWarningMsg, function, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_AS(function, ...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, function, __VA_ARGS__)

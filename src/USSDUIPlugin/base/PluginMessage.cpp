@@ -12,8 +12,8 @@ namespace
 
 typedef QList<QPointer<QDialog>> Dialogs;
 
-/// A message that is open. The host makes its window, which is known by the caption, and by not
-/// having been there before.
+/// An open message. The host creates its window, which is recognised by its caption and by its
+/// absence from the dialogs that were open before.
 struct OpenMessage {
     QString caption;
     Dialogs before;

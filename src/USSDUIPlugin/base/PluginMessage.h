@@ -5,20 +5,20 @@
 #include <QString>
 
 /*
- * The plug-in's messages to the user, shown by the host. GUI thread.
+ * Shows the plug-in's messages to the user through the host. GUI thread only.
  *
- * While one is open its event loop runs, and the host may take down everything: the caller checks
- * that what it needs is still there when show() comes back.
+ * An open message runs an event loop of its own, in which the host may destroy everything. When
+ * show() returns, the caller checks that the objects it needs still exist.
  */
 namespace PluginMessage
 {
 
-/// As CommonUtils::ShowMessage().
+/// Shows a message and returns its answer, as CommonUtils::ShowMessage() does.
 int show(QMessageBox::Icon icon, QWidget *parent, const QString &caption, const QString &text,
          const QString &firstButtonKey, const QString &secondButtonKey = QString());
 
-/// Closes the messages that are open, as Escape does. Not every one has a parent that would take
-/// it along when the plug-in is taken down.
+/// Closes all open messages as Escape would. A message without a parent would otherwise outlive the
+/// windows of the plug-in.
 void closeAll();
 
 } // namespace PluginMessage

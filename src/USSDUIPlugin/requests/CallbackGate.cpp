@@ -37,7 +37,8 @@ bool CallbackGate::enter(Patience patience)
 {
     const Qt::HANDLE self = QThread::currentThreadId();
     QMutexLocker locker(&m_mutex);
-    // A device SDK that calls back from inside its registration would wait for itself.
+    // The SDK may call back from inside the registration; the constructing thread must not wait for
+    // itself.
     while (patience == WaitForOpening && m_state == Opening && m_maker != self)
         m_changed.wait(&m_mutex);
     if (m_state != Open)

@@ -7,21 +7,22 @@
 
 /**
  * Decides whether a call-back of the device SDK may use the logic object, and keeps the object
- * alive meanwhile. Call-backs enter from any thread; the GUI thread opens and closes.
+ * alive until the call-back returns. Call-backs enter from any thread; the GUI thread opens and
+ * closes the gate.
  *
- * While the object is being made nobody gets in. The SMS call-back, which is registered last, waits
- * until it is finished: the device tells only once, soon after the registration, that short
- * messages can be sent.
+ * No call-back enters while the object is being constructed. The SMS call-back, which is registered
+ * last, waits until construction is complete, because the device reports only once, soon after the
+ * registration, that short messages can be sent.
  */
 class CallbackGate
 {
 public:
     CallbackGate();
 
-    /// The object is about to be made on this thread.
+    /// Announces that this thread is about to construct the object.
     void startOpening();
     void open();
-    /// From now on nobody gets in. Returns when nobody is inside any more, but for this thread.
+    /// Turns new call-backs away and returns once every other thread has left the gate.
     void close();
 
     enum Patience { DoNotWait, WaitForOpening };
@@ -39,11 +40,11 @@ private:
     QMutex m_mutex;
     QWaitCondition m_changed;
     State m_state;
-    Qt::HANDLE m_maker;         // the thread that makes the object
-    QList<Qt::HANDLE> m_inside; // a thread for each pass
+    Qt::HANDLE m_maker;         // the thread that constructs the object
+    QList<Qt::HANDLE> m_inside; // one entry per call-back inside: its thread
 };
 
-/** A pass through the gate for the length of one call-back. */
+/** Holds a pass through the gate for the duration of one call-back. */
 class CallbackPass
 {
 public:

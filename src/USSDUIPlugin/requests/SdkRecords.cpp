@@ -14,7 +14,7 @@ static_assert(sizeof(void *) != 4 || (offsetof(TKSV_SMSSendResult, number) == 84
               "offsets in the send-result record of a 32-bit build");
 static_assert(sizeof(void *) != 8 || (offsetof(TKSV_SMSSendResult, number) == 88 &&
                                       offsetof(TKSV_SMSSendResult, text) == 96),
-              "the same, as a 64-bit compiler aligns them");
+              "offsets in the send-result record of a 64-bit build");
 static_assert(offsetof(TKSV_SMSStatus, status) == 0, "offset in the status record");
 
 namespace SdkRecords
@@ -43,7 +43,8 @@ QString textFromUnits(const unsigned short *units)
     int length = 0;
     while (length < MOST_UNITS && units[length] != 0)
         ++length;
-    // Unit by unit: a byte-order mark is text here, and nothing is to be swapped or dropped.
+    // The units are copied as they are: QString::fromUtf16() would swap or drop them at a
+    // byte-order mark.
     return QString(reinterpret_cast<const QChar *>(units), length);
 }
 

@@ -5,31 +5,29 @@
 
 #include "tksv.h"
 
-/*
- * The device SDK's records and our values: the only place where one becomes the other.
- */
+/* The conversions between the device SDK's records and the plug-in's values. */
 namespace SdkRecords
 {
 
-/// Bytes of a command as UTF-16.
+/// Returns the size of `command` in UTF-16, in bytes.
 int commandBytes(const QString &command);
 
-/// Fills the whole record. Returns false and zeroes the record when the command is longer than
+/// Fills the whole record. Returns false and zeroes the record if the command is longer than
 /// TKSV_USSD_MAX_COMMAND_BYTES.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
-/// A text ends there at the latest, in UTF-16 units: its closing zero may have been forgotten.
+/// The maximum length of a text in UTF-16 units, in case its terminating zero is missing.
 const int MOST_UNITS = 1024 * 1024;
 
-/// Text up to the closing zero unit; empty for null.
+/// Returns the text up to the terminating zero unit; empty for null.
 QString textFromUnits(const unsigned short *units);
 
-/// The text of a response record, which must not be null.
+/// Returns the text of a response record, which must not be null.
 QString responseText(const void *record);
-/// Its type; logged only.
+/// Returns the type of a response record, which is only logged.
 int responseType(const void *record);
 
-/// How a short message fared.
+/// The outcome of sending a short message.
 struct SmsSendResult {
     bool sent;
     int result;
@@ -38,7 +36,7 @@ struct SmsSendResult {
 };
 
 SmsSendResult smsSendResult(const void *record);
-/// 0, which is no status, for null.
+/// Returns the SMS status; 0, which is no valid status, for null.
 int smsStatus(const void *record);
 
 } // namespace SdkRecords

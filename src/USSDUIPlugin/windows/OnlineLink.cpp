@@ -28,7 +28,8 @@ QString onlineAddress(const QString &configured)
 
 QString onlineLinkMarkup(const QString &address, const QString &shown)
 {
-    // Both at once: an address may hold "%2", which a second arg() would take for its own.
+    // A single arg() call replaces both: an address may contain "%2", which a second call would
+    // replace.
     return QString::fromLatin1("<a href=\"%1\">%2</a>")
         .arg(QtCompat::escapeHtml(address), QtCompat::escapeHtml(shown));
 }

@@ -3,15 +3,14 @@
 
 #include <QString>
 
-/*
- * The link to the operator's top-up page.
- */
+/* The link to the operator's top-up page. */
 
-/// The address behind a configured one: "http://" in front of all that does not begin with "http",
-/// and "about:blank" for none.
+/// Returns the address that the link opens: `configured`, with "http://" prepended unless it begins
+/// with "http", or "about:blank" if it is empty.
 QString onlineAddress(const QString &configured);
 
-/// A rich-text link to `address` that reads `shown`. Neither can break out of it.
+/// Returns a rich-text link to `address` that reads `shown`. Both are escaped, so neither can add
+/// markup.
 QString onlineLinkMarkup(const QString &address, const QString &shown);
 
 #endif
