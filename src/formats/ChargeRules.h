@@ -3,26 +3,28 @@
 
 #include <QString>
 
-/** What may be entered to top up, as the configuration says it. */
+/** The configured limits of what the user may enter to top up. */
 struct ChargeRules {
-    int length = 0;    // most characters
-    int minlenth = 0;  // fewest characters
-    QString limitText; // allowed characters: the inside of a regular expression's class
+    int length = 0;    // maximum number of characters
+    int minlenth = 0;  // minimum number of characters
+    QString limitText; // allowed characters, as between the brackets of a regular expression
 };
 
-/// How long an entry may get; never negative.
+/// Returns the maximum length of an entry, which is never negative.
 int longestCharge(const ChargeRules &rules);
 
-/// Whether an entry of that many characters may be sent. A minimum beyond the maximum counts for
-/// nothing: the maximum is then the minimum too.
+/// Returns true if an entry of that many characters may be sent. If the minimum exceeds the
+/// maximum, the maximum is the minimum, too.
 bool isChargeLongEnough(const ChargeRules &rules, int characters);
 
-/// The regular expression that an entry has to match, made of its pieces as they are; a length that
-/// QRegExp cannot count is cut. Not every one may be used, see below.
+/// Returns the regular expression that an entry has to match. The limit text goes in unchanged; the
+/// length is limited to what QRegExp can count. Only an expression that passes
+/// isChargeExpressionUsable() may be used.
 QString chargeExpression(const ChargeRules &rules);
 
-/// Whether the expression counts characters of one class: a limit text that closes the class could
-/// make QRegExp use up all time and memory. The rule is that of the services' layout.
+/// Returns true if the expression counts characters of one class. A limit text that closes the
+/// class could make QRegExp use up all time and memory. The layout of the services window follows
+/// the same rule.
 bool isChargeExpressionUsable(const ChargeRules &rules);
 
 #endif

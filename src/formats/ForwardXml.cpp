@@ -7,8 +7,8 @@
 namespace
 {
 
-/// The parser hands out an entity that may be declared in another file, and goes on behind it. The
-/// text around it would be another one, such as another code to send.
+/// Makes an undeclared entity an error. The parser only reports it and reads on, but the text
+/// around it would then lose a part; a code, for example, would become another code.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
@@ -45,7 +45,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// Qt's own function calls itself for each element inside: deep nesting would overflow the stack.
+/// Counts nested elements. QXmlStreamReader::readElementText() calls itself for each of them
+/// instead, and deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

@@ -6,39 +6,40 @@
 #include <QXmlStreamReader>
 
 /*
- * Forward scans over an XML document. The plug-in's files are read front to back by element name
- * alone: nesting is not checked, so the order of elements in them is binding.
+ * Forward scans over an XML document. The plug-in's files are read from front to back by element
+ * name alone. Nesting is not checked, so the order of the elements is binding.
  *
- * A document is read up to its first fault. What the fault cuts, a text or the attributes of a
- * start tag, is empty, and so is all that is asked for from then on.
+ * A document is read up to its first fault. A text or the attributes of a start tag that contain
+ * the fault are empty, and so is everything that is read afterwards.
  */
 namespace ForwardXml
 {
 
-/// The next token. An entity that the document does not declare is a fault.
+/// Reads and returns the next token. An entity that the document does not declare is a fault.
 QXmlStreamReader::TokenType next(QXmlStreamReader &reader);
 
-/// Moves to the next start element with this name, or to the end of the document.
-/// Whether it was found.
+/// Moves to the next start element with this name, or to the end of the document. Returns true if
+/// the element was found.
 bool skipTo(QXmlStreamReader &reader, const QString &name);
 
-/// The same, but stops with false behind an end element `fence`, unless that is what is sought.
+/// Moves like skipTo(), but returns false after an end element with the name `fence`. A fence that
+/// equals `name` is ignored.
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
-/// The whole text of the element that the reader stands on, also of elements inside it; empty when
-/// it stands on none, or when the text has a fault in it.
+/// Returns the whole text of the current element, including nested elements. The result is empty if
+/// the reader is not at a start element or if the text contains a fault.
 QString text(QXmlStreamReader &reader);
 
-/// The same as a decimal number; 0 when it is none.
+/// Returns the text of the current element as a decimal number, or 0 if it is no number.
 int number(QXmlStreamReader &reader);
 
 QString attribute(const QXmlStreamReader &reader, QLatin1String name);
-/// 0 when the attribute is missing or no decimal number.
+/// Returns 0 if the attribute is missing or is no decimal number.
 int numberAttribute(const QXmlStreamReader &reader, QLatin1String name);
-/// True only for the exact text "true".
+/// Returns true only for the exact text "true".
 bool boolAttribute(const QXmlStreamReader &reader, QLatin1String name);
 
-/// True only for the exact text "true".
+/// Returns true only for the exact text "true".
 bool isTrue(const QString &text);
 
 } // namespace ForwardXml

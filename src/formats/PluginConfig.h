@@ -7,14 +7,15 @@
 class QXmlStreamReader;
 
 /*
- * What USSDPluginConfig.xml says, as plain values, and the functions that read it. They know
- * nothing of files, windows or the singleton. Each reads forward from where the reader stands; what
- * is missing, does not parse or stands behind a fault of the document becomes false, 0 or empty.
+ * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
+ * not depend on files, windows or the singleton. Each function reads forward from the current
+ * position of the reader. A value that is missing, cannot be parsed or comes after a fault of the
+ * document becomes false, 0 or empty.
  */
 
-/** Look of one kind of line in the transcript. */
+/** The look of the lines that were sent, or received, in the transcript. */
 struct Char {
-    int yHeight = 0; // a twentieth of a point
+    int yHeight = 0; // in twentieths of a point
     int yOffset = 0;
     int red = 0;
     int green = 0;
@@ -27,7 +28,7 @@ struct ClearHistory {
     bool showConfirmDialog = false;
 };
 
-/** The profile editor: whether it is offered, and the colours of its cells. */
+/** The profile editor: whether it is available, and the colours of its cells. */
 struct CmdEdit {
     int readonlyRed = 0, readonlyGreen = 0, readonlyBlue = 0;
     int commonRed = 0, commonGreen = 0, commonBlue = 0;
@@ -35,21 +36,21 @@ struct CmdEdit {
     bool visible = false;
 };
 
-/** How a prepaid SIM is told from a postpaid one. */
+/** How to detect whether a SIM is prepaid or postpaid. */
 struct PrePostDiffer {
-    bool value = false; // whether to ask at all
+    bool value = false; // true if the network is asked
     QString command;
     QString returnPattern;
     int style = 0;
 };
 
-/** Which windows go with which SIM. */
+/** Which windows belong to which SIM. */
 struct AutoUSSD {
     bool valid = false;
-    QHash<QString, int> imsiMap; // IMSI prefix to a set of WindowFlag
+    QHash<QString, int> imsiMap; // IMSI prefix to a combination of WindowFlag
 };
 
-/** Windows that go with a SIM; a set of them is an int. */
+/** A window that belongs to a SIM. An int holds a combination of these flags. */
 enum WindowFlag {
     WINDOW_PREPAID = 1,
     WINDOW_POSTPAID = 2,
@@ -57,7 +58,7 @@ enum WindowFlag {
     WINDOW_ADVANCED = 8
 };
 
-/** Own number. */
+/** The component that shows the own number. */
 struct ConfigMSISDN {
     bool value = false;
     int pos = 0;
@@ -65,14 +66,14 @@ struct ConfigMSISDN {
     int updateButton = 0;
 };
 
-/** Web page for top-ups. */
+/** The component that links to the top-up page. */
 struct ConfigOnlineCharge {
     bool value = false;
     int pos = 0;
     QString url;
 };
 
-/** Top-up by a number. */
+/** The component that tops up with the code that the user enters. */
 struct ConfigCharge {
     bool value = false;
     int pos = 0;
@@ -83,13 +84,16 @@ struct ConfigCharge {
     QString limitText;
 };
 
+/** The component that shows the balance. */
 struct ConfigBalance {
     bool value = false;
     int pos = 0;
     QString command;
 };
 
-/** The whole file but for its USSD-SMS section. Tables are indexed 0 prepaid, 1 postpaid. */
+/**
+ * The whole file except its USSD-SMS section. Index 0 of each array is prepaid, index 1 postpaid.
+ */
 struct PluginConfig {
     static const int PAID_TYPES = 2;
 
@@ -105,26 +109,29 @@ struct PluginConfig {
     AutoUSSD autoUSSD;
 };
 
-/// Reads all sections but "clearHistory", in the binding order. "clearHistory" may stand anywhere:
-/// readClearHistory() needs a reader that stands at the start of the document.
+/// Reads all sections except "clearHistory", in their binding order. "clearHistory" may be anywhere
+/// in the file: readClearHistory() needs a reader at the start of the document.
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
-/// A section with a fault in it is off.
+/// Reads how to detect the kind of SIM. A fault in the section switches the detection off.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
-/// The "Prepaid" (0) or "Postpaid" (1) section: always four items, wherever the fourth one stands.
+/// Reads the "Prepaid" (0) or "Postpaid" (1) section. Always reads four items, even if the fourth
+/// is outside the section.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
-/// Reads XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
+/// Reads a section, which is XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads to the end of the document: every "item" behind "autoUSSD" counts. A section with a fault
-/// in it is off and has no items.
+/// Reads to the end of the document: every "item" after "autoUSSD" counts. A fault in the section
+/// switches it off and discards its items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 
-/// The window flags in a "/"-separated list such as "Prepaid/Advanced"; unknown parts are ignored.
+/// Returns the window flags in a "/"-separated list such as "Prepaid/Advanced". Unknown names are
+/// ignored.
 int windowFlags(const QString &list);
 
-/// Whether a prefix of `imsi` is in the map; `flags` is then that of the longest one, otherwise 0.
+/// Returns true if the map contains a prefix of `imsi`, and sets `flags` to those of the longest
+/// prefix, or to 0 if there is none.
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags);
 
 #endif

@@ -4,17 +4,20 @@
 #include <QLatin1String>
 #include <QString>
 
-/* The plug-in's folder below the folder of CommonUtils::GetPluginLibraryPath(), and its files. */
+/*
+ * The plug-in's folder, which is below the folder that CommonUtils::GetPluginLibraryPath() returns,
+ * and the files in it.
+ */
 namespace PluginFiles
 {
 
-const QLatin1String FOLDER("/plugins/USSDUIPlugin"); // without a separator at its end
+const QLatin1String FOLDER("/plugins/USSDUIPlugin"); // has no trailing separator
 
 const QLatin1String CONFIGURATION("USSDPluginConfig.xml");
 const QLatin1String SYSTEM_PROFILES("ussdsysprofile.xml");
 const QLatin1String LIBRARY("libUSSDUIPlugin.so");
 
-/// The path of one of the files below the folder `pluginLibrary`.
+/// Returns the path of one of these files. `pluginLibrary` is the folder above FOLDER.
 inline QString path(const QString &pluginLibrary, QLatin1String file)
 {
     return pluginLibrary + FOLDER + QLatin1Char('/') + file;

@@ -9,14 +9,16 @@
 namespace
 {
 
-/// Written whole, since only that finds a disk that is full. The file is gone at the end.
+/// Returns true if the disk has room for the profiles. Only a complete write detects a full disk.
+/// QTemporaryFile deletes the trial file.
 bool isRoomFor(QTemporaryFile &trial, const QList<USSDProfile> &profiles)
 {
     ProfileXml::write(trial, profiles);
     return trial.flush() && trial.error() == QFile::NoError;
 }
 
-/// A file can be written in a folder in which none can be made.
+/// Returns true if the existing file can be opened for writing, which is possible even in a folder
+/// in which no file can be created.
 bool canBeOpened(const QString &path)
 {
     QFile file(path);

@@ -6,14 +6,14 @@
 
 #include "USSDProfile.h"
 
-/* A profile file on the disk. */
+/* Checks a profile file on the disk before it is written. */
 namespace ProfileFile
 {
 
 enum MissingFolder { FolderIsMade, FolderIsNotMade };
 
-/// Whether these profiles could be written to the file now. Saving deletes the old file first, so
-/// this is asked before. Changes nothing on the disk.
+/// Returns true if `profiles` could be written to the file now. Saving deletes the old file first,
+/// so the editor checks this before it saves. Leaves no change on the disk.
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
 } // namespace ProfileFile

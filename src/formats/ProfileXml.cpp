@@ -22,7 +22,8 @@ bool isXmlCharacter(ushort unit)
     return unit >= 0x20 ? unit < 0xFFFE : unit == 0x09 || unit == 0x0A || unit == 0x0D;
 }
 
-/// The text without what XML 1.0 cannot hold: control characters, halves of surrogate pairs.
+/// Returns the text without the characters that XML 1.0 forbids: control characters and halves of
+/// surrogate pairs.
 QString xmlText(const QString &text)
 {
     QString result;
@@ -43,7 +44,8 @@ QString boolText(bool value)
     return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
-/// A bare carriage return would be read back as a line feed.
+/// Writes a carriage return as a character reference. A parser would read a bare one as a line
+/// feed.
 void writeField(QXmlStreamWriter &writer, const char *field, const QString &text)
 {
     const QStringList parts = xmlText(text).split(QLatin1Char('\r'));

@@ -9,18 +9,18 @@ class QIODevice;
 class QXmlStreamReader;
 
 /*
- * The profile files' format: root "tksvdoc", an "item" for each profile, six text elements in it in
- * a fixed order.
+ * The format of the profile files: the root element "tksvdoc" contains an "item" for each profile,
+ * and an item contains six text elements in a fixed order.
  */
 namespace ProfileXml
 {
 
-/// Reads the next profile, whose isSystem stays false. False at the end of the document. A field
-/// that is missing lets the fields behind it be taken from the next item. A fault of the document
-/// leaves the field that it cuts, and those behind it, empty or false.
+/// Reads the next profile and leaves its isSystem false. Returns false at the end of the document.
+/// If a field is missing, the fields after it are taken from the next item. A fault of the document
+/// leaves the field in which it occurs, and the fields after it, empty or false.
 bool readNext(QXmlStreamReader &reader, USSDProfile &profile);
 
-/// Writes a whole document with these profiles. Characters that XML cannot hold are left out.
+/// Writes a complete document with these profiles. Characters that XML forbids are left out.
 void write(QIODevice &device, const QList<USSDProfile> &profiles);
 
 } // namespace ProfileXml

@@ -12,11 +12,11 @@ namespace
 const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
 
 const int MAX_COMPLAINTS = 20;
-const int MAX_QUOTED = 40;  // characters of the file in a complaint
-const int MAX_CONTROLS = 6; // kept of a group: enough to see that there are too many
-const int MAX_GROUPS = 500; // kept of a file: far more than the tree has entries
+const int MAX_QUOTED = 40;  // characters of a quotation in a complaint
+const int MAX_CONTROLS = 6; // kept per group; enough to detect that there are too many
+const int MAX_GROUPS = 500; // kept per file; far more than the tree has entries
 
-/// The part of a value that a log line can bear.
+/// Returns the value in quotation marks, shortened to what a log line can hold.
 QString quoted(const QString &text)
 {
     if (text.length() <= MAX_QUOTED)
@@ -24,7 +24,10 @@ QString quoted(const QString &text)
     return QLatin1Char('"') + text.left(MAX_QUOTED) + QLatin1String("...\"");
 }
 
-/** Reads the section front to back, by element name; elements of other names are looked through. */
+/**
+ * Reads the section from front to back by element name. An element with an unknown name is ignored,
+ * but the elements in it are read.
+ */
 class Reader
 {
 public:
@@ -37,7 +40,7 @@ private:
     bool nextStart(const char *fence);
     bool nextStart(const char *name, const char *fence);
     bool isAt(const char *name) const { return m_xml.name() == QLatin1String(name); }
-    /// The whole text of the current element, also of elements inside it.
+    /// Returns the whole text of the current element, including nested elements.
     QString text() { return ForwardXml::text(m_xml); }
     void skipElement() { text(); }
     QString attribute(const char *name) const;
@@ -73,8 +76,8 @@ private:
 
 // ---- tokens --------------------------------------------------------------------------------
 
-/// Moves to the next start element; false at the end element `fence`, or when there is nothing
-/// more.
+/// Moves to the next start element. Returns false at the end element `fence` and at the end of the
+/// document.
 bool Reader::nextStart(const char *fence)
 {
     while (!m_xml.atEnd()) {
@@ -101,7 +104,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// 0, without a complaint, when it is missing.
+/// Returns 0, without a complaint, if the attribute is missing.
 int Reader::numberAttribute(const char *name)
 {
     if (!m_xml.attributes().hasAttribute(QLatin1String(name)))
@@ -124,7 +127,8 @@ int Reader::number(const char *name, const QString &text)
     return value;
 }
 
-/// As written: what cannot be shown is put right when it is shown.
+/// Returns the number as written, even if it is out of range: geometry() limits it when the widget
+/// is placed.
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);
@@ -158,7 +162,7 @@ bool Reader::readDocument()
         readSection();
     if (!m_xml.hasError())
         checkGroups();
-    else // whatever else was found: this one has its place
+    else // is kept even if there are too many complaints
         m_layout.complaints.prepend(onLine(m_xml.errorString()));
     return !m_xml.hasError();
 }
@@ -245,7 +249,8 @@ void Reader::takeOrdinary(CTreeItem *entry)
     ++m_layout.ordinaryEntries;
 }
 
-/// Empty when the entry is to be kept. The tree has two levels, and its root comes first.
+/// Returns why the entry is dropped; empty if it is kept. The tree has two levels, and its root
+/// comes first.
 QString Reader::whyDropped(const CTreeItem &entry) const
 {
     if (m_layout.ordinaryEntries >= SmsLayoutFile::MAX_ORDINARY_ENTRIES)
@@ -286,7 +291,7 @@ void Reader::readGroup()
             group->controls << control.take();
     }
     if (m_xml.hasError())
-        return; // the group has no end
+        return; // the group is incomplete
     if (count != SmsLayoutFile::CONTROLS_OF_GROUP)
         complain(QString::fromLatin1("the group of entry %1 has %2 controls; shown are %3 only")
                      .arg(entry)
@@ -359,7 +364,8 @@ void Reader::checkInput(const CWidgetItemInfo &control)
                      .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
-/// Only at the end: the groups may stand before the tree.
+/// Complains about groups without an entry. Called at the end, because a group may come before the
+/// tree.
 void Reader::checkGroups()
 {
     const QList<int> numbers = m_layout.groups.keys();
@@ -370,7 +376,7 @@ void Reader::checkGroups()
     }
 }
 
-// ---- what is made of it --------------------------------------------------------------------
+// ---- geometry ------------------------------------------------------------------------------
 
 QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
 {
@@ -379,7 +385,7 @@ QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
     return QRect(QPoint(dialogWidth - asRead.x() - asRead.width(), asRead.y()), asRead.size());
 }
 
-/// Kept small enough for Qt to add and subtract without an overflow.
+/// Returns a coordinate that Qt can add and subtract without an overflow.
 int boundedPlace(int pixels)
 {
     return qBound(-LARGEST_SIDE, pixels, LARGEST_SIDE);
@@ -436,8 +442,8 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
-/// A bracket that closes the class would let any pattern follow, also one that QRegExp takes hours
-/// and gigabytes to multiply out. The first place is a letter like any other.
+/// A bracket that closes the class could be followed by any pattern, even one that QRegExp takes
+/// hours and gigabytes to expand. A bracket in the first position is a letter like any other.
 bool isCharacterClass(const QString &limitText)
 {
     if (limitText.length() > MAX_LIMIT_TEXT)

@@ -13,18 +13,19 @@ class QWidget;
 class QXmlStreamReader;
 
 /*
- * How the USSD-SMS dialog looks and what its services send, as its section of the configuration
- * file says, and the functions that read it. They know nothing of files, windows or the singleton.
- * What they cannot use they drop or replace, and say so in SmsLayout::complaints.
+ * The layout of the USSD-SMS dialog and the commands of its services, as in their section of the
+ * configuration file, and the functions that read them. They do not depend on files, windows or the
+ * singleton. A value that they cannot use is dropped or replaced, and SmsLayout::complaints says
+ * so.
  */
 
-/** The dialog's size in pixels, as written. */
+/** The size of the dialog in pixels, as written in the file. */
 struct CDlgInfo {
     int width = 0;
     int height = 0;
 };
 
-/** Geometry of the tree, in pixels relative to the dialog, as written. */
+/** The geometry of the tree in pixels relative to the dialog, as written in the file. */
 struct CTreeInfo {
     int posx = 0;
     int posy = 0;
@@ -36,12 +37,13 @@ struct CTreeInfo {
 struct CTreeItem {
     int number = 0;
     int parent = 0;
-    QString textId;                            // key of its text
-    int isChild = 1;                           // 0 for the root
-    QTreeWidgetItem *treeWidgetItem = nullptr; // the row, owned by the tree; null until it is built
+    QString textId;  // key of the entry's text
+    int isChild = 1; // 0 for the root
+    QTreeWidgetItem *treeWidgetItem =
+        nullptr; // the row; owned by the tree, null until it is created
 };
 
-/** What a control sends; the value of CWidgetItemInfo::kind and CCommandWidget::kind. */
+/** What a control sends: a value of CWidgetItemInfo::kind and CCommandWidget::kind. */
 enum SmsControlKind {
     CONTROL_KIND_NONE = 0, // no "type"
     CONTROL_KIND_SMS = 1,  // any other "type"
@@ -50,83 +52,85 @@ enum SmsControlKind {
 
 /** One control of a service. */
 struct CWidgetItemInfo {
-    QWidget *widget = nullptr; // what shows it, owned by the dialog; null until it is shown
+    QWidget *widget = nullptr; // owned by the dialog; null until the control is shown
     int kind = CONTROL_KIND_NONE;
     bool visible = true;
-    QString id; // key of its text
+    QString id; // key of the control's text
     int posx = 0;
     int posy = 0;
     int width = 0;
     int height = 0;
-    QString limitText; // allowed characters, as inside the brackets of a regular expression
-    int length = 0;    // most characters that can be entered
-    int minLength = 0;
-    QString command; // USSD code or text of the short message
-    QString number;  // where the short message goes
+    QString limitText; // allowed characters, as between the brackets of a regular expression
+    int length = 0;    // maximum number of characters that can be entered
+    int minLength = 0; // minimum number of characters
+    QString command;   // USSD code, or text of the short message
+    QString number;    // recipient of the short message
 };
 
-/** The controls that stand beside the tree while one of its entries is selected. */
+/** The controls that appear beside the tree while one of its entries is selected. */
 struct CWidget {
     CWidget() = default;
     ~CWidget() { qDeleteAll(controls); }
     Q_DISABLE_COPY(CWidget)
 
     int number = 0;
-    QList<CWidgetItemInfo *> controls; // in the file's order; owned
+    QList<CWidgetItemInfo *> controls; // owned; in the order of the file
 };
 
-/** The whole section. Owns its records. */
+/** The whole section. It owns its records. */
 struct SmsLayout {
     SmsLayout() = default;
     ~SmsLayout() { clear(); }
     Q_DISABLE_COPY(SmsLayout)
 
-    /// Deletes every record; everything is then as in a new one.
+    /// Deletes all records and resets everything to the state of a new object.
     void clear();
 
     CDlgInfo dialog;
     CTreeInfo tree;
     bool hasRoot = false;
-    int rootNumber = 0;             // meaningful once there is a root
-    int ordinaryEntries = 0;        // accepted so far, also those that replaced another
+    int rootNumber = 0; // valid only if hasRoot is true
+    int ordinaryEntries =
+        0; // number of accepted entries, including those that replaced another one
     QMap<int, CTreeItem *> entries; // by number
-    QMap<int, CWidget *> groups;    // by the number of the entry that shows it
-    QStringList complaints;         // what was wrong, each with its line; the first few only
-    int furtherComplaints = 0;      // how many more there were
+    QMap<int, CWidget *> groups;    // by the number of the entry that shows the group
+    QStringList complaints;         // the first few complaints, each with its line
+    int furtherComplaints = 0;      // number of complaints that are not listed
 };
 
 namespace SmsLayoutFile
 {
 
-/// Controls of a group that can be shown; a group with more or fewer is kept, but never is.
+/// The number of controls of a group. A group with more or fewer controls is kept but never shown.
 const int CONTROLS_OF_GROUP = 5;
 const int MAX_ORDINARY_ENTRIES = 25;
-/// The highest count that QRegExp knows, and so the most that an input field takes.
+/// The highest count that QRegExp supports, and therefore the most characters of an input field.
 const int MAX_INPUT_LENGTH = 1024;
-/// A longer "LimitText" is not used.
+/// A longer "LimitText" is ignored.
 const int MAX_LIMIT_TEXT = 1000;
-/// The largest side of the dialog, in pixels: its window needs memory for each of them.
+/// The longest side of the dialog in pixels. A larger window could need more memory than there is.
 const int MAX_WINDOW_SIDE = 4096;
 
-/// Reads on to the end of the document. False when it is not well-formed; what was read up to there
-/// is kept.
+/// Reads to the end of the document. Returns false if the document is not well-formed; everything
+/// before the fault is kept.
 bool read(QXmlStreamReader &reader, SmsLayout &layout);
 
-/// Reads one "Dialog" element, whose start element the reader stands on.
+/// Reads one "Dialog" element. The reader is at its start element.
 void readDialogElement(QXmlStreamReader &reader, SmsLayout &layout);
 
-/// What can be entered in this control. A limit text that is no character class is left out, and
-/// the length kept within what can be counted.
+/// Returns the pattern of what can be entered in this control. A limit text that is no character
+/// class is ignored, and the length is limited to what QRegExp can count.
 QRegExp inputPattern(const CWidgetItemInfo &control);
 
-/// Whether the text between "[" and "]" is one class of characters and nothing else.
+/// Returns true if the text between "[" and "]" is one class of characters and nothing else.
 bool isCharacterClass(const QString &limitText);
 
-/// The dialog's size, kept within 0 and MAX_WINDOW_SIDE.
+/// Returns the size of the dialog, with each side limited to the range from 0 to MAX_WINDOW_SIDE.
 QSize windowSize(const CDlgInfo &dialog);
 
-/// Where a control or the tree stands in a dialog of this width, with sides and places that Qt can
-/// calculate with. Mirrored: as far from the right side as it was from the left.
+/// Returns the geometry of a control, or of the tree, in a dialog of this width, limited to values
+/// that Qt can calculate with. If `mirrored` is true, the distance to the left side becomes the
+/// distance to the right side.
 QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored);
 QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored);
 

@@ -7,13 +7,13 @@
 struct USSDProfile {
     USSDProfile() : readonly(false), showButton(false), isSystem(false) {}
 
-    QString name;      // shown when there is no translated text
-    QString value;     // the code; "%s" stands for what the user enters
-    bool readonly;     // not to be changed in the editor
-    bool showButton;   // offered as a preset button
+    QString name;      // shown if there is no translated name
+    QString value;     // the code; the user's input replaces "%s"
+    bool readonly;     // true if the editor must not change the profile
+    bool showButton;   // true if the profile has a preset button
     QString langID;    // key of the translated name; may be empty
     QString desLangID; // key of the translated description; may be empty
-    bool isSystem;     // from the system file; never written
+    bool isSystem;     // true if read from the system file; not a field of the file
 };
 
 inline bool operator==(const USSDProfile &a, const USSDProfile &b)

@@ -2,13 +2,13 @@
 #define XMLNAME_H
 
 /*
- * Names of the elements and attributes, and the texts with a meaning, of the configuration file and
- * the profile files. The spelling is part of the formats.
+ * The names of the elements and attributes in the configuration file and the profile files, and the
+ * texts that have a meaning there. The spelling is part of the formats.
  */
 namespace XmlName
 {
 
-// sections of the configuration
+// Sections of the configuration
 const char ROOT[] = "ussdPlugin";
 const char PRE_POST_DIFFER[] = "PrePostDiffer";
 const char PREPAID[] = "Prepaid";
@@ -20,7 +20,7 @@ const char CMD_EDIT[] = "cmdEdit";
 const char SMS_USSD[] = "SMSUSSD";
 const char AUTO_USSD[] = "autoUSSD";
 
-// elements and attributes of several sections
+// Elements and attributes of several sections
 const char ITEM[] = "item";
 const char NAME[] = "name";
 const char VALUE[] = "value";
@@ -33,11 +33,11 @@ const char LIMIT_TEXT[] = "LimitText";
 const char WIDTH[] = "width";
 const char HEIGHT[] = "height";
 
-// of the detection of prepaid and postpaid
+// The detection of prepaid and postpaid
 const char RETURN_PATTERN[] = "ReturnPattern";
 const char STYLE[] = "style";
 
-// of the account windows
+// The account windows
 const char BALANCE[] = "Balance";
 const char CHARGE[] = "Charge";
 const char ONLINE_CHARGE[] = "OnlineCharge";
@@ -47,7 +47,7 @@ const char RETURN_STYLE[] = "ReturnStyle";
 const char URL[] = "URL";
 const char UPDATE_BUTTON[] = "UpdateButton";
 
-// of the transcript's looks and the editor's colours
+// The looks of the transcript and the colours of the editor
 const char Y_HEIGHT[] = "yHeight";
 const char Y_OFFSET[] = "yOffset";
 const char COLOR[] = "color";
@@ -59,14 +59,14 @@ const char COMMON_COLOR[] = "commoncolor";
 const char HEAD_COLOR[] = "headcolor";
 const char SHOW_CONFIRM_DIALOG[] = "showConfirmDialog";
 
-// of the SIM cards
+// The windows of each SIM
 const char VALID[] = "valid";
 const char IMSI[] = "imsi";
 const char USSD[] = "ussd";
 const char COMMONPAID[] = "Commonpaid";
 const char ADVANCED[] = "Advanced";
 
-// of the services window
+// The services window
 const char MAIN_SIZE[] = "MainSize";
 const char TREE_SIZE[] = "TreeSize";
 const char TREE[] = "Tree";
@@ -80,7 +80,7 @@ const char POS_Y[] = "posy";
 const char NUMBER[] = "number";
 const char SMS[] = "sms";
 
-// of the profile files
+// The profile files
 const char PROFILES[] = "tksvdoc";
 const char PROFILES_TYPE[] = "USSDProfile";
 const char READONLY[] = "readonly";
@@ -88,7 +88,7 @@ const char SHOW_BUTTON[] = "showButton";
 const char LANG_ID[] = "langID";
 const char DESCRIPTION_LANG_ID[] = "desLangID";
 
-// texts of switches
+// The texts of switches
 const char ON[] = "true";
 const char OFF[] = "false";
 
