@@ -25,13 +25,14 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
-const int RETURN_IN_MESSAGE_BOX = 1; // of the charge's return styles
+const int RETURN_IN_MESSAGE_BOX = 1; // a return style of the top-up component
 const int LINK_WIDTH = 300;          // pixels
 const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;
 const int MSISDN_LINES = 2;
 
-/// A named child of the dialog; null when there is no memory for it.
+/// Returns a new child of the dialog with an object name for its role, or null if there is no
+/// memory for the child.
 template <typename Widget>
 Widget *createWidget(QWidget *dialog, const char *role)
 {
@@ -72,7 +73,8 @@ QString text(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// A tool tip guesses whether it is rich text; this one is, and says no more than `text`.
+/// Returns a tool tip that shows `text` literally, as escaped rich text. In plain text, QToolTip
+/// might take something for markup.
 QString plainToolTip(const QString &text)
 {
     return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
@@ -137,7 +139,7 @@ void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
 bool USSDDlg::createWidgets()
 {
     m_pCloseButton = createWidget<QPushButton>(this, "CloseButton");
-    // Each is tried, so that what can be made is there.
+    // Every function is called, even if one fails, so that each widget that can be created exists.
     const bool balance = createBalance();
     const bool charge = createCharge();
     const bool onlineCharge = createOnlineCharge();
@@ -212,7 +214,7 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // Stays when no command can be sent at all, since nobody is told of that one's failure.
+    // This text stays if no command can be sent at all, because nothing reports that failure.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -230,7 +232,8 @@ void USSDDlg::initChargeComponent()
     limitChargeEdit();
 }
 
-/// Without an expression that can be used the entry takes all characters.
+/// Limits what can be entered. If the configuration gives no usable expression, the entry accepts
+/// all characters.
 void USSDDlg::limitChargeEdit()
 {
     delete m_pChargeEdit->validator();
@@ -273,10 +276,11 @@ void USSDDlg::connectWidgets()
             SLOT(OnResponseReceived(int, QString)));
     m_pChargeEdit->installEventFilter(this);
     m_pChargeActivateButton->installEventFilter(this);
-    m_pActivateStatusTextEdit->installEventFilter(this); // keeps the focus of the two meanwhile
+    // The status box has the focus while the entry and the button are disabled.
+    m_pActivateStatusTextEdit->installEventFilter(this);
 }
 
-/// The two types differ in everything that the configuration says.
+/// Rebuilds the dialog for another type, because the whole configuration depends on the type.
 void USSDDlg::changePaidType(PAID_TYPE type)
 {
     if (type == m_paidType || !m_pLogic || !m_pGrid)
@@ -334,8 +338,8 @@ void USSDDlg::setLanguageForMSISDN()
     m_pMSISDNStatusTextEdit->retranslate();
 }
 
-/// Each field goes by the name of the label beside it; the buttons, two of which may read alike,
-/// are told apart by it.
+/// Names each field after the label beside it, and describes each button by that label, because two
+/// buttons may have the same text.
 void USSDDlg::initAccessibility()
 {
     m_pBalanceLabel->setBuddy(m_pBalanceStatusTextEdit);
@@ -391,7 +395,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // what Return in the entry does
+    m_pChargeActivateButton->setDefault(true); // marks what Return in the entry does
 }
 
 void USSDDlg::OnCloseButtonClicked()
@@ -408,8 +412,8 @@ void USSDDlg::OnClickedCloseButton()
     emit clickedcloseButton(); // the receiver may delete the dialog
 }
 
-/// Swallows Return, which has done its work in the field or button that had the focus: the frame
-/// would press its default button on top of that. Escape goes on to the frame.
+/// Swallows Return: the field or button with the focus has already handled it, and the frame would
+/// also press its default button. Other keys, such as Escape, are passed to the frame.
 void USSDDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -418,8 +422,8 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// A key that is held down tops up once, however often it repeats: not even after an answer, which
-/// enables entry and button again. It does not close the message box either.
+/// Swallows the repeats of Return, so that a key that is held down tops up only once, even if an
+/// answer enables the entry and the button again. A repeat does not close the message box either.
 bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
@@ -427,7 +431,7 @@ bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
     const QKeyEvent *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
         return false;
-    // Not every system marks repetitions; some only leave out the releases between them.
+    // Some systems do not mark repeats and only leave out the releases between them.
     const bool isHeld = key->isAutoRepeat() || m_bReturnDown;
     m_bReturnDown = event->type() == QEvent::KeyPress || key->isAutoRepeat();
     return event->type() == QEvent::KeyPress && isHeld;
@@ -440,7 +444,8 @@ void USSDDlg::OnClickedBalanceUpdateButton()
     sendUSSDCommand(COMPONENT_BALANCE, ATTR_COMMAND);
 }
 
-/// By the button and by Return in the entry, which so obeys the rules that enable the button.
+/// Tops up when the button is clicked, or when Return is pressed in the entry while the button is
+/// enabled.
 void USSDDlg::OnClickedActivateButton()
 {
     if (m_pChargeActivateButton && m_pChargeActivateButton->isEnabled())
@@ -485,7 +490,8 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
-/// A command that could not be read is empty. It fails like one that the device refuses.
+/// Sends the command. A command that could not be read from the configuration is empty, and fails
+/// like a command that the device refuses.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())
@@ -493,8 +499,9 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
     return m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), status);
 }
 
-/// A top-up whose answer comes in a message box waits without saying so. It makes the dialog busy
-/// like any other command: its answer would be dropped where nothing else was sent before.
+/// Marks the dialog as busy and shows the waiting text. A top-up whose answer appears in a message
+/// box shows no waiting text, but it makes the dialog busy like any other command; otherwise its
+/// answer would be dropped if no other command had been sent before.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
@@ -516,7 +523,7 @@ void USSDDlg::OnResponseReceived(int component, QString text)
     const bool isWaiting = text == tr(QLatin1String("USSD_CODE_WAITTING"));
     if (text.isEmpty() && component != COMPONENT_PREPOST_QUERY)
         text = tr(QLatin1String("USSD_CODE_FAILED"));
-    const QPointer<USSDDlg> self(this); // a host that hears of it may shut down
+    const QPointer<USSDDlg> self(this); // a host that is notified may shut down
     routeResponse(component, text, isWaiting);
     if (self && !isWaiting && !(component == COMPONENT_CHARGE && isReplyBoxDue()))
         enableDisableButton(static_cast<_COMPONENT>(component), false);
@@ -532,9 +539,9 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
-/// The box opens from the event loop. Inside the announcement of a reply it would hold up the
-/// pipeline, and inside the key handler of the entry, where a refusal is told, the host could
-/// delete the entry under its feet.
+/// Shows the answer to a top-up. A message box opens from the event loop, for two reasons: during
+/// the announcement of a reply, it would block the pipeline; in the key handler of the entry, which
+/// reports a refusal, it would let the host delete the entry while the handler runs.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
@@ -550,13 +557,14 @@ void USSDDlg::onChargeResponseReceived(const QString &text)
     updateBalanceAfterCharge();
 }
 
-/// Until the user has closed the box of every reply.
+/// Returns true until the user has closed the box of every reply.
 bool USSDDlg::isReplyBoxDue() const
 {
     return !m_listBoxReplies.isEmpty();
 }
 
-/// A reply that comes while a box is open has its own box after that one.
+/// Opens the box of the next reply. A reply that arrives while a box is open waits until the user
+/// has closed that box.
 void USSDDlg::openReplyBox()
 {
     if (m_pReplyBox || !isReplyBoxDue())
@@ -607,11 +615,12 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
         returnFocus(component);
 }
 
-/// A control that is disabled would pass its focus on to the next one, where a key that is still
-/// typed would do something else. The box that will show the answer keeps it meanwhile.
+/// Moves the focus from a control that is about to be disabled to the box that will show the
+/// answer. Qt would move it to the next control, which would then receive the keys that are still
+/// being typed.
 void USSDDlg::parkFocus(_COMPONENT component)
 {
-    QWidget *focus = window()->focusWidget(); // also while a message box is active
+    QWidget *focus = window()->focusWidget(); // known even while a message box is active
     StatusBox *box = statusBoxOf(component);
     if (!focus || !box || !controlsOf(component).contains(focus))
         return;
@@ -627,7 +636,7 @@ void USSDDlg::returnFocus(_COMPONENT component)
         parked->setFocus(Qt::OtherFocusReason);
 }
 
-// ---- what belongs to a component -----------------------------------------------------------
+// ---- settings and widgets of a component ---------------------------------------------------
 
 bool USSDDlg::isShown(_COMPONENT component) const
 {
@@ -640,7 +649,7 @@ int USSDDlg::chargeReturnStyle() const
                     : -1;
 }
 
-/// Null for a component without one.
+/// Returns the box that shows the answers of the component, or null if it has none.
 StatusBox *USSDDlg::statusBoxOf(int component) const
 {
     switch (component) {
@@ -655,7 +664,7 @@ StatusBox *USSDDlg::statusBoxOf(int component) const
     }
 }
 
-/// What is disabled while an answer is awaited.
+/// Returns the controls that are disabled while the component awaits an answer.
 QList<QWidget *> USSDDlg::controlsOf(int component) const
 {
     QList<QWidget *> controls;

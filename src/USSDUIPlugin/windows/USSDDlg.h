@@ -25,11 +25,11 @@ class StatusBox;
 
 /**
  * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page and
- * own number, each where and if the configuration says so. It also asks the network which of the
- * two the SIM is. GUI thread only.
+ * own number, each shown if and where the configuration says so. The dialog also asks the network
+ * whether the SIM is prepaid or postpaid. GUI thread only.
  *
- * Busy from the first command that is accepted until it is closed; no answer ends that. While it is
- * not busy, answers to its components are dropped, but the one to the detection never is.
+ * The dialog is busy from the first command that is accepted until it is closed; an answer does not
+ * end this. A dialog that is not busy drops all answers except the one to the detection.
  */
 class USSDDlg : public QWidget
 {
@@ -38,23 +38,26 @@ public:
     USSDDlg();
     ~USSDDlg() override;
 
-    /// Builds the dialog; called once.
+    /// Builds the dialog. Must be called only once.
     void InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model);
-    /// What the dialog needs for its texts in the current language; (-1, -1) before it is built.
+    /// Returns the size that the texts in the current language need, or (-1, -1) before the dialog
+    /// is built.
     QSize GetSize();
-    /// Gives up what is in progress, shows the dialog afresh, and asks for balance and own number
-    /// as far as they are shown. Types other than prepaid and postpaid do nothing.
+    /// Cancels what is in progress, resets and shows the dialog, and requests the balance and the
+    /// own number if they are shown. Does nothing for types other than prepaid and postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the detection when `ask` is true; its outcome goes to the host's notification
-    /// service. The first three go into the record that it keeps, and come back from there.
-    /// 1, or 0 when there is no logic.
+    /// Starts the detection if `ask` is true; the outcome goes to the notification service of the
+    /// host. The call copies `inUse`, `postpaid` and `result` to the record that the dialog keeps,
+    /// and sets the three to the values of the record before it returns. Returns 1, or 0 if there
+    /// is no logic.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
-    /// Re-reads every visible text. Replies stay in their language.
+    /// Updates every visible text to the current language, except replies.
     void SetLanguage();
     static QString tr(const QString &key);
 
 public slots:
-    /// The outer window closes; the dialog may be deleted when this returns.
+    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// returns.
     void OnClickedCloseButton();
 
 signals:
@@ -141,18 +144,18 @@ private:
     PAID_TYPE m_paidType;
     WINDOW_MODEL m_windowModel;
     bool m_bBusy;
-    bool m_bReturnDown; // the key was pressed and is not seen released
+    bool m_bReturnDown; // true from a press of Return until its release is seen
     PrePostRecord m_prePostRecord;
     PrePostDiffer m_prePostDiffer;
     ChargeRules m_chargeRules;
     QString m_strOnlineAddress;
     QPointer<USSDLogic> m_pLogic; // not owned
     QGridLayout *m_pGrid;
-    QList<QFrame *> m_listFreeLines;               // separators that are not laid out yet
-    QList<QWidget *> m_listTabOrder;               // as laid out
-    QHash<int, QPointer<QWidget>> m_hashParkFocus; // component to the control that had the focus
-    QStringList m_listBoxReplies;      // that still have to be closed by the user, the open one too
-    QPointer<QMessageBox> m_pReplyBox; // the open one; a child
+    QList<QFrame *> m_listFreeLines;               // separators that have no place in the grid yet
+    QList<QWidget *> m_listTabOrder;               // in the order of the layout
+    QHash<int, QPointer<QWidget>> m_hashParkFocus; // by component: the control that had the focus
+    QStringList m_listBoxReplies;                  // replies whose box is still to be closed
+    QPointer<QMessageBox> m_pReplyBox;             // the open box; a child
 
     QLabel *m_pBalanceLabel;
     StatusBox *m_pBalanceStatusTextEdit;

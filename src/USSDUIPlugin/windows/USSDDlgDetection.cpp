@@ -1,5 +1,5 @@
 /*
- * How USSDDlg finds out whether the SIM is prepaid or postpaid, and tells the host.
+ * The part of USSDDlg that detects whether the SIM is prepaid or postpaid, and notifies the host.
  */
 #include "USSDDlg.h"
 
@@ -67,8 +67,8 @@ void USSDDlg::onPrePostPaidRspReceived(const QString &text)
     notifyHost();
 }
 
-/// The host may ask anew, or shut down, while it is being told: both addressees get the same
-/// record all the same.
+/// Notifies both addressees of the same record, even if the host starts another detection or shuts
+/// down in response to the first notification.
 void USSDDlg::notifyHost()
 {
     const PrePostRecord record = m_prePostRecord;

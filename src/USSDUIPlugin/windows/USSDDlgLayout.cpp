@@ -1,6 +1,4 @@
-/*
- * The grid of USSDDlg: which components stand where.
- */
+/* The part of USSDDlg that places its components in a grid. */
 #include "USSDDlg.h"
 
 #include <new>
@@ -30,17 +28,17 @@ const int HORIZONTAL_SPACING = 6;
 const int LABEL_WIDTH = 80;
 const int FIELD_WIDTH = 230;
 const int ROW_HEIGHT = 20;
-const int MARGIN = 16;              // around all of it
-const int GAP = 4;                  // between what belongs together
+const int MARGIN = 16;              // around the whole grid
+const int GAP = 4;                  // between widgets that belong together
 const int ABOVE_CLOSE = 12;         // between the components and the close button
-const int ROWS_OF[] = {2, 3, 1, 1}; // by component
+const int ROWS_OF[] = {2, 3, 1, 1}; // number of rows, by component
 
 const _COMPONENT COMPONENTS[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_ONLINE_CHARGE,
                                  COMPONENT_MSISDN};
 
 } // namespace
 
-/// An empty one; the widgets of the one before stay.
+/// Replaces the grid by an empty one. The widgets of the old grid stay.
 void USSDDlg::createGrid()
 {
     delete m_pGrid;
@@ -60,7 +58,7 @@ QSize USSDDlg::GetSize()
     // A style sheet may change the font, and so the height of the boxes.
     for (int i = 0; i < m_listTabOrder.count(); ++i)
         m_listTabOrder.at(i)->ensurePolished();
-    m_pGrid->activate(); // or the boxes inside it would know of no change since the last event
+    m_pGrid->activate(); // otherwise, nested boxes would ignore changes since the last event
     return m_pGrid->sizeHint();
 }
 
@@ -73,7 +71,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     }
     setUpGrid();
     hideComponents();
-    // In increasing order; of two components with the same place, the later one gets it.
+    // The map sorts the components by position. If two have the same position, the later one wins.
     QMap<int, _COMPONENT> places;
     for (_COMPONENT component : COMPONENTS) {
         if (isShown(component))
@@ -83,7 +81,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     setRowHeights(places.values());
     bool isFirst = true;
     for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
-        // Without time, source and function, as readers of logs know it.
+        // This line has no time, source and function: readers of logs know it in this form.
         USSD_IF_LOGGING(qDebug("position = %d component=%d", it.key(), it.value()));
         addComponentElements(it.value(), row, isFirst);
     }
@@ -114,7 +112,7 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
         m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
-/// Adds what the component takes, with its separator when another one stands above.
+/// Adds the rows of the component, and a row for a separator if another component is above it.
 void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
@@ -198,8 +196,8 @@ void USSDDlg::addMSISDNElements(int &row)
     row += ROWS_OF[COMPONENT_MSISDN];
 }
 
-/// Own number has no line of its own, so there is always one for each gap: that of the component
-/// above, or of the next one below.
+/// Adds a separator between two components. The own number has no separator, so the gap beside it
+/// takes that of its neighbour.
 void USSDDlg::addSeparator(int &row)
 {
     if (!m_listFreeLines.isEmpty())
@@ -227,8 +225,8 @@ void USSDDlg::place(QWidget *widget, int row, int column, int columns)
     widget->show();
 }
 
-/// From the field column on, below a gap, in a box of its own. A widget that has a direction of its
-/// own so stands where the dialog's language begins.
+/// Places the widget in a layout box, below a gap, from the field column on. Inside the box, even a
+/// widget with its own direction starts on the side where the dialog's language begins.
 void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
 {
     QHBoxLayout *box = new QHBoxLayout;
@@ -239,7 +237,7 @@ void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int column
     widget->show();
 }
 
-/// What is not laid out afterwards stays hidden.
+/// Hides all widgets. The layout shows those that it places.
 void USSDDlg::hideComponents()
 {
     QWidget *const widgets[] = {m_pBalanceLabel,
@@ -264,14 +262,14 @@ void USSDDlg::hideComponents()
     m_listTabOrder.clear();
 }
 
-/// As it is read: from left to right, or from right to left, and from the top to the bottom.
+/// Sets the tab order to the reading order: along each row, then from top to bottom.
 void USSDDlg::initTabOrder()
 {
     for (int i = 1; i < m_listTabOrder.count(); ++i)
         QWidget::setTabOrder(m_listTabOrder.at(i - 1), m_listTabOrder.at(i));
 }
 
-/// The separator that goes with a component; null for own number, which has none.
+/// Returns the separator of a component, or null for the own number, which has none.
 QFrame *USSDDlg::lineOf(_COMPONENT component) const
 {
     switch (component) {
