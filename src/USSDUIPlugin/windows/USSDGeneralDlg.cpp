@@ -92,7 +92,7 @@ bool USSDGeneralDlg::createWidgets()
 {
     USSD_LOG_SCOPE();
     m_pContainer = new QWidget(this);
-    m_pContainer->hide(); // lends its grid to the dialog and stays empty
+    m_pContainer->hide(); // exists only to create the grid
     m_pMainGrid = new QGridLayout(m_pContainer);
     for (int i = 0; i < 3; ++i)
         m_pPreBtnsBox[i] = new QVBoxLayout;
@@ -181,7 +181,7 @@ void USSDGeneralDlg::initCombo()
     addProfilesToCombo();
     m_pProfilesCombo->setEditable(true);
     m_pProfilesCombo->setCurrentIndex(-1);
-    // The combo is hidden: whoever gives it the focus means the field that can be seen.
+    // The combo box is hidden, so the field that is visible receives the focus in its place.
     m_pProfilesCombo->setFocusProxy(m_pUSSDCmdEdit);
     if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
         edit->setMaxLength(MAX_COMBO_CODE);
@@ -198,7 +198,7 @@ void USSDGeneralDlg::initFixedSizes()
     m_pHistoryView->setCursorWidth(0);
 }
 
-/// Names for screen readers; the labels are those of the fields they stand above.
+/// Names the fields for screen readers after the labels above them.
 void USSDGeneralDlg::initAccessibility()
 {
     m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
@@ -283,7 +283,8 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Swallows every key that reaches the dialog itself: no Escape, no default button.
+/// Swallows every key that reaches the dialog itself: Escape must not close the frame, nor Return
+/// press its default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
     Q_UNUSED(event);
@@ -412,7 +413,7 @@ void USSDGeneralDlg::handlePreBtnClicked(const QString &command)
         USSD_LOG_EXIT(" Fail Exit");
         return;
     }
-    // A profile whose code could not be read has an empty one.
+    // The command is empty if the code of the profile could not be read.
     if (command.isEmpty() || !sendCommand(command))
         return;
     m_pSendButton->setEnabled(false);
@@ -438,8 +439,8 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     return false;
 }
 
-/// The fields are about to be disabled, and the focus would move on to Clear, where a key that is
-/// still typed would press it.
+/// Moves the focus to the transcript, because the fields are about to be disabled. Qt would move it
+/// to Clear, which would then receive the keys that are still being typed.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -447,7 +448,8 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
-/// Whether the user works in a widget of the host, from which an answer must not take the focus.
+/// Returns true if the user works in a widget of the host, from which an answer must not take the
+/// focus.
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -533,7 +535,7 @@ void USSDGeneralDlg::clearHistory()
         return;
     }
     if (m_clearBtnSetting.showConfirmDialog) {
-        const QPointer<USSDGeneralDlg> self(this); // the host may shut down while it asks
+        const QPointer<USSDGeneralDlg> self(this); // the host may shut down meanwhile
         const int answer =
             PluginMessage::show(QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
                                 tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),

@@ -20,11 +20,12 @@ class QVBoxLayout;
 class TranscriptView;
 
 /**
- * The general window: a typed command or a preset button is sent, a coloured transcript shows what
- * went out and what came back. GUI thread only.
+ * The general window: it sends a command that is typed or belongs to a preset button, and shows
+ * what was sent and received in a coloured transcript. GUI thread only.
  *
- * Idle, Send follows the text of the entry field. While an answer is awaited everything that sends
- * is disabled; the first answer for this dialog's component ends that, and a later one is dropped.
+ * While the window is idle, Send is enabled if the entry field contains text. While an answer is
+ * awaited, every control that sends is disabled. The first answer for this window's component ends
+ * the wait; a later one is dropped.
  */
 class USSDGeneralDlg : public QWidget
 {
@@ -33,30 +34,31 @@ public:
     USSDGeneralDlg();
     ~USSDGeneralDlg() override;
 
-    /// Builds the dialog; called once.
+    /// Builds the dialog. Must be called only once.
     void InitDialog(QWidget *parent, WINDOW_MODEL model);
-    /// Re-reads every visible text. Lines of the transcript stay in their language.
+    /// Updates every visible text to the current language, except the lines of the transcript.
     void SetLanguage();
-    /// Makes a dialog that is shown again ready for input.
+    /// Prepares the dialog for input when it is shown again.
     void ReInitDialog();
-    /// The layout's size hint; (-1, -1) before there is a layout.
+    /// Returns the size hint of the layout, or (-1, -1) before there is a layout.
     QSize GetSize();
     virtual void resize(const QSize &size);
     void setProfileFocus();
     void showHideCmdBtn();
     static QString tr(const QString &key);
-    /// The style sheet's name for a widget with this role.
+    /// Returns the object name, as style sheets use it, of the widget with this role.
     static QString objectNameOf(const char *role);
 
     bool isShowPreBtns();
     bool hasBeenShowPreBtns();
     bool isShowPreDescription();
     void changeAllPreBtnsStatus(bool enable);
-    /// The last two preset buttons only.
+    /// Enables or disables the payment buttons, which are the last two preset buttons.
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// The outer window closes; the dialog may be deleted when this returns.
+    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// returns.
     void OnClickedCloseButton();
 
 signals:
@@ -96,8 +98,7 @@ private:
     void initTabOrder();
 
     void changeSendButtonStatus();
-    /// Sends, and shows the failure as an answer when the request is refused.
-    /// True when an answer is awaited.
+    /// Sends a command, and shows a refusal as the answer. Returns true if an answer is awaited.
     bool sendCommand(const QString &command);
     void parkFocus();
     bool isFocusElsewhere() const;

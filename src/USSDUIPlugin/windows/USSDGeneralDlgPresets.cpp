@@ -1,6 +1,4 @@
-/*
- * The preset buttons of USSDGeneralDlg and its grid.
- */
+/* The part of USSDGeneralDlg that creates the preset buttons and places all widgets in the grid. */
 #include "USSDGeneralDlg.h"
 
 #include <QApplication>
@@ -26,27 +24,29 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 namespace
 {
 
-// The slots of the preset buttons: two boxes of four, a box with the payment field, two below.
+// The slots of the preset buttons: two boxes with four slots each, a box with one slot and the
+// payment field, and two slots outside the boxes.
 const int SLOTS = 11;
 const int SLOTS_IN_BOX = 4;
 const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
-const int RIGHT_COLUMN = 2; // where transcript and entry stand, five columns wide
+const int RIGHT_COLUMN = 2; // the first of five columns with the transcript and the entry
 const int RIGHT_COLUMNS = 5;
 const int PROMPT_ROW = 8;
-const int ROW_BELOW_PAYMENT = 11; // the box with the payment field ends above it
-const int BOX_SPACING = 4;        // the fixed window holds all its rows only when they stand close
+const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
+const int BOX_SPACING = 4;        // pixels; with more, the rows would not fit into the fixed window
 
-const int ELIDE_WIDTH = 127; // whatever the button's width is
+const int ELIDE_WIDTH = 127; // pixels; does not depend on the width of the button
 const int PAY_BUTTONS = 2;   // the last ones
 
-/// The width a text wants with some room around it, within limits.
+/// Returns the width of a text with some room around it, within limits.
 int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);
 }
 
-/// A code reads from left to right in every language; a name follows the language.
+/// Sets the text of a button. A code reads from left to right in every language; a name follows the
+/// language.
 void setProfileText(QPushButton *button, const QString &text)
 {
     if (isCodeLike(text))
@@ -56,7 +56,8 @@ void setProfileText(QPushButton *button, const QString &text)
     button->setText(text);
 }
 
-/// A tool tip takes what looks like markup for markup, and would load a picture that it names.
+/// Makes the tool tip show its text literally. Qt would otherwise interpret anything that looks
+/// like markup, and load a picture that the text names.
 void keepToolTipPlain(QPushButton *button)
 {
     const QString tip = button->toolTip();
@@ -174,7 +175,7 @@ int USSDGeneralDlg::getPreBtnMaxTextWidth()
 
 void USSDGeneralDlg::updatePreBtnWidth(int width)
 {
-    updatePreBtnsText(); // to elide the whole text, not one that is elided already
+    updatePreBtnsText(); // sets the full texts, which are elided below
     for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
         QPushButton *button = m_pListPreBtns->at(i).first;
         button->setFixedWidth(width);
@@ -202,7 +203,7 @@ void USSDGeneralDlg::OnClickedEditButton()
     const QPointer<USSDGeneralDlg> self(this);
     USSDEditCmd editor;
     editor.InitDialog(parentWidget());
-    // When the host takes this dialog away, the editor's event loop must end as well.
+    // If the host deletes this dialog, the event loop of the editor must end as well.
     connect(this, SIGNAL(destroyed()), &editor, SLOT(OnClickedCancelButton()));
     const bool saved = editor.Exec();
     if (!self || !saved)
@@ -227,7 +228,7 @@ void USSDGeneralDlg::update4EditCommandSave()
     resetWidgetsWidth4DyncBtnArea();
 }
 
-/// No button is made or deleted here: the profiles to be shown go to the buttons there are.
+/// Assigns the profiles that are shown to the existing buttons. No button is created or deleted.
 void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
@@ -282,7 +283,8 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
     initTabOrder();
 }
 
-/// A slot belongs to the profile of the same index; without one that is shown it stays empty.
+/// Adds the button of a slot. A slot belongs to the profile with the same index; without a profile
+/// that is shown, the slot stays empty.
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
@@ -307,7 +309,7 @@ void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
     }
 }
 
-/// Null when the slot's profile is missing or not to be shown.
+/// Returns the button of a slot, or null if the profile of the slot is missing or not shown.
 QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 {
     if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)
@@ -333,7 +335,7 @@ void USSDGeneralDlg::addFixedElements(int row)
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
-    // The prompt keeps a place of two lines, so that nothing moves when it comes and goes.
+    // Two lines are reserved for the prompt, so that nothing moves when it appears or disappears.
     m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
@@ -367,7 +369,7 @@ void USSDGeneralDlg::initTabOrder()
     }
 }
 
-/// Nothing calls this today; it fits the bottom buttons to their texts.
+/// Adjusts the widths of the bottom buttons to their texts. Nothing calls this function at present.
 void USSDGeneralDlg::setRightLayoutBottomButtons()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();
