@@ -28,10 +28,10 @@ namespace
 
 const int NO_ENTRY = -1;
 
-/** Positions of the fixed widgets, and of the controls that describe them in a group. */
+/** The positions of the fixed widgets in m_listWidgets, and of their controls in a group. */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
-/// Keys that the result label may show the text of.
+/// Keys of the plug-in's own texts that the result label may show.
 const char *const RESULT_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
                                    "IDS_SMS_SEND_FAILED"};
 
@@ -45,7 +45,7 @@ QString textOf(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Empty when the text is the network's own.
+/// Returns the key of `text`, or an empty key if the text comes from the network.
 QString resultKeyOf(const QString &text)
 {
     for (const char *key : RESULT_KEYS) {
@@ -55,7 +55,8 @@ QString resultKeyOf(const QString &text)
     return QString();
 }
 
-/// Empty when the host does not know where its plug-ins are.
+/// Returns the path of the file with the layout; empty if the host does not know the folder of its
+/// plug-ins.
 QString layoutPath()
 {
     const QString folder = CommonUtils::GetPluginLibraryPath();
@@ -64,7 +65,7 @@ QString layoutPath()
     return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
-/// The one line that has its words before the time.
+/// Logs that there is no path. This is the only line with words before the time.
 void logNoPath(const char *function, const QString &path)
 {
     USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,
@@ -119,7 +120,7 @@ void CUSSDSMSDlg::forgetLayout()
         disconnect(m_pLogic, nullptr, this, nullptr);
     m_pLogic = nullptr;
     if (m_bBusy)
-        endSending(); // the outcome will not be heard
+        endSending(); // nothing will report the outcome any more
     forgetService();
     m_nSelected = NO_ENTRY;
     m_layout.clear();
@@ -152,8 +153,8 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// A dialog whose file was not read to its end never hears an answer, on purpose; it then sends no
-/// command either, but short messages.
+/// Connects the dialog to the logic. A dialog whose file was not read to its end is not connected,
+/// on purpose: it receives no answers and sends no commands, only short messages.
 void CUSSDSMSDlg::connectLogic()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
@@ -263,13 +264,14 @@ QSize CUSSDSMSDlg::sizeHint() const
     return SmsLayoutFile::windowSize(m_layout.dialog);
 }
 
-/// Within what can be calculated with.
+/// Returns the width of the window, limited to values that can be calculated with.
 int CUSSDSMSDlg::windowWidth() const
 {
     return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
-/// Return in the tree would otherwise reach the frame, whose default button is the one that sends.
+/// Swallows Return. From the tree, it would reach the frame and press its default button, which
+/// sends.
 void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
@@ -282,7 +284,7 @@ void CUSSDSMSDlg::OnClickedCloseButton()
     if (m_pLogic)
         m_pLogic->ClearUSSDSMSQueuedCmds();
     if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
-        endSending();          // its answer went with the queue
+        endSending();          // its answer was dropped with the queue
     emit clickedcloseButton(); // the receiver may delete the dialog
 }
 
@@ -312,13 +314,13 @@ void CUSSDSMSDlg::addRows()
     QTreeWidgetItem *root = new QTreeWidgetItem(m_pTree);
     rootEntry->treeWidgetItem = root;
     root->setExpanded(true);
-    const QList<CTreeItem *> entries = m_layout.entries.values(); // by number
+    const QList<CTreeItem *> entries = m_layout.entries.values(); // sorted by number
     for (int i = 0; i < entries.count(); ++i) {
         CTreeItem *entry = entries.at(i);
         if (entry == rootEntry || !entry->isChild)
             continue;
         entry->treeWidgetItem = new QTreeWidgetItem(root);
-        if (root->childCount() == 1) // also when its number is that of no entry
+        if (root->childCount() == 1) // the first service; its number may even be NO_ENTRY
             m_nSelected = entry->number;
     }
 }
@@ -332,7 +334,8 @@ void CUSSDSMSDlg::translateTree()
             continue;
         row->setText(0, tr(entries.at(i)->textId));
     }
-    // Through the base class, where it is public. A longer text than fits can be scrolled to.
+    // sizeHintForColumn() is public only in the base class. The section becomes as wide as the
+    // longest text, so that the user can scroll to its end.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
     m_pTree->setAccessibleName(windowTitle());
@@ -346,12 +349,12 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (m_nSelected == NO_ENTRY)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
-    // A row that is current already is not selected anew: that would empty the input.
+    // The current row is not selected again, because that would clear the input.
     if (entry && entry->treeWidgetItem && m_pTree->currentItem() != entry->treeWidgetItem)
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
 
-/// Null when no row is current, or its entry is gone.
+/// Returns the entry of the current row, or null if no row is current or its entry is gone.
 const CTreeItem *CUSSDSMSDlg::currentEntry() const
 {
     const QTreeWidgetItem *row = m_pTree->currentItem();
@@ -371,7 +374,8 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
     if (!entry)
         return;
     m_nSelected = entry->number;
-    // Without a group that can be shown the controls of the service before stay, and work.
+    // If the entry has no group that can be shown, the controls of the previous service stay
+    // usable.
     if (const CWidget *group = m_layout.groups.value(m_nSelected))
         SetWidgetGeometry(group->controls, isMirrored());
 }
@@ -405,7 +409,8 @@ void CUSSDSMSDlg::takeControls(const QList<CWidgetItemInfo *> &controls)
     }
 }
 
-/// The button says what is sent and how, the input field within which limits.
+/// Takes the command and its kind from the button's control, and the limits from the input field's
+/// control.
 void CUSSDSMSDlg::takeCommand()
 {
     const CWidgetItemInfo &input = m_listControls.at(POSITION_INPUT);
@@ -509,7 +514,8 @@ bool CUSSDSMSDlg::lacksReadiness() const
     return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
 }
 
-/// Other than while typing, the text must here be longer than the fewest characters; kept so.
+/// Follows whether short messages can be sent. The text must be longer than the minimum here, while
+/// OnTextChanged() also accepts the minimum itself; the difference is intended.
 void CUSSDSMSDlg::OnCanSendSMS(bool can)
 {
     if (m_command.kind == CONTROL_KIND_USSD)
@@ -534,8 +540,8 @@ void CUSSDSMSDlg::OnClickedUSSDSMSButton()
         returnFocus();
 }
 
-/// The stored command is changed: what is sent again, before a service is selected anew, is what
-/// was entered the first time.
+/// Replaces the placeholder in the stored command. The button therefore sends the first input again
+/// and again, until a service is selected again.
 void CUSSDSMSDlg::fillPlaceholder()
 {
     if (!m_command.inputField)
@@ -566,7 +572,7 @@ void CUSSDSMSDlg::startSending()
         SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
 }
 
-/// The device's SMS service needs no logic. Without one the outcome is not heard.
+/// Sends the short message. This works without the logic, but the outcome is then not reported.
 void CUSSDSMSDlg::startSms()
 {
     showResult(textOf("USSD_CODE_WAITTING"));
@@ -641,8 +647,9 @@ void CUSSDSMSDlg::endSending()
     returnFocus();
 }
 
-/// What has the focus is about to be disabled, and Qt would hand it on to whatever comes next in
-/// the window, where a key that is still typed would be taken.
+/// Moves the focus to the dialog, because the widget that has it is about to be disabled. Qt would
+/// move it to the next widget in the window, which would then receive the keys that are still being
+/// typed.
 void CUSSDSMSDlg::parkFocus()
 {
     const QWidget *focus = window()->focusWidget();
@@ -652,7 +659,8 @@ void CUSSDSMSDlg::parkFocus()
     m_bFocusParked = true;
 }
 
-/// Not to the button: a key held down would send, and buy, again and again.
+/// Moves the focus to the tree, not back to the button: a key that is held down would send, and
+/// buy, again and again.
 void CUSSDSMSDlg::returnFocus()
 {
     if (m_bFocusParked && m_pTree && window()->focusWidget() == this)

@@ -16,25 +16,25 @@ class QTreeWidget;
 class QXmlStreamReader;
 class USSDLogic;
 
-/** The service that is shown. */
+/** The current service: what it sends and the widgets that it uses. */
 struct CCommandWidget {
-    QString command;                   // USSD code or text of the short message, perhaps with "%s"
-    QString number;                    // where the short message goes
-    int minLength = 0;                 // fewest characters of the input
-    int limit = 0;                     // most characters of the input
-    int kind = CONTROL_KIND_NONE;      // how it is sent
-    QPushButton *sendButton = nullptr; // null when the service has none, also the two below
+    QString command;                   // USSD code, or text of the short message; may contain "%s"
+    QString number;                    // recipient of the short message
+    int minLength = 0;                 // minimum number of characters in the input
+    int limit = 0;                     // maximum number of characters in the input
+    int kind = CONTROL_KIND_NONE;      // an SmsControlKind: how the command is sent
+    QPushButton *sendButton = nullptr; // null, like the next two, if the service has none
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
 
 /**
- * Services of the operator: a tree lists them, the controls of the selected one stand beside it,
- * and its button sends a USSD command or a short message. GUI thread only.
+ * The window of the operator's services: a tree lists them, the controls of the selected service
+ * appear beside the tree, and its button sends a USSD command or a short message. GUI thread only.
  *
- * Tree and controls are laid out from the configuration file, which is read when the dialog is
- * made. Busy from a click that sends until the outcome comes; tree, button and field are disabled
- * then.
+ * Tree and controls are laid out as in the configuration file, which the constructor reads. The
+ * dialog is busy from a click that sends until the outcome arrives; meanwhile tree, button and
+ * field are disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {
@@ -43,35 +43,36 @@ public:
     CUSSDSMSDlg();
     ~CUSSDSMSDlg() override;
 
-    /// Builds the dialog; called once.
+    /// Builds the dialog. Must be called only once.
     void InitDialog();
-    /// Reads the layout anew and listens to the logic when it was read to its end. The constructor
-    /// does so.
+    /// Reads the layout again, and connects to the logic if the layout was read to its end. The
+    /// constructor calls this function.
     void InitConfig();
-    /// False when the reader has no device or the document is not well-formed. What was read up to
-    /// the fault is kept.
+    /// Reads the layout. Returns false if the reader has no device or the document is not
+    /// well-formed; everything before the fault is kept.
     bool ReadFile(QXmlStreamReader &reader);
-    /// Reads one "Dialog" element, whose start element the reader stands on.
+    /// Reads one "Dialog" element. The reader is at its start element.
     void ReadWidgetInfo(QXmlStreamReader &reader);
-    /// Makes the rows anew; SetLanguage() gives them their texts.
+    /// Replaces the rows of the tree. SetLanguage() sets their texts.
     void InitTree();
     /// Places the tree and selects the current service in it.
     void SetTreeGeometry();
-    /// Shows the service that these controls describe, and keeps a copy of them. False, and nothing
-    /// changes, unless there is one control for each of the fixed widgets.
+    /// Shows the service that these controls describe, and keeps a copy of them. Returns false and
+    /// changes nothing unless there is one control for each of the fixed widgets.
     bool SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
-    /// 0 when the device took the message; how it fared comes through OnSendResult().
+    /// Sends a short message. Returns 0 if the device accepted the message; OnSendResult() receives
+    /// the outcome.
     int SendSMS(QString *number, QString *text);
-    /// Re-reads every visible text and follows the layout direction. What was entered, and what the
-    /// network said, stay.
+    /// Updates every visible text and the layout direction to the current language. The user's
+    /// input and the network's replies stay unchanged.
     void SetLanguage();
-    /// As the file says, whether a window can have that size or not.
+    /// Returns the size as written in the file, even if no window can have that size.
     QSize GetSize();
 
     QSize sizeHint() const override;
     static QString tr(const QString &key);
-    /// The style sheet's name for a widget with this role.
+    /// Returns the object name, as style sheets use it, of the widget with this role.
     static QString objectNameOf(const char *role);
 
 public slots:
@@ -81,7 +82,8 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// The outer window closes; the dialog may be deleted when this returns.
+    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// returns.
     void OnClickedCloseButton();
 
 signals:
@@ -134,15 +136,15 @@ private:
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
     QRegExpValidator *m_pValidator;
-    QList<QWidget *> m_listWidgets; // the five above, in the order of a group's controls
-    // What they show. Values: the group may be replaced meanwhile.
+    QList<QWidget *> m_listWidgets; // the labels, field and button, in the order of Position
+    // Copies of the controls in m_listWidgets, because the group may be replaced meanwhile.
     QList<CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;
-    int m_nSelected; // entry of the tree, -1 while there is none
+    int m_nSelected; // number of the selected entry; -1 if there is none
     CCommandWidget m_command;
-    QString m_strResultKey;       // of the text in the result label; empty when it has none
-    QPointer<USSDLogic> m_pLogic; // not owned; null as long as its answers would not be heard
+    QString m_strResultKey;       // key of the text in the result label; empty if the text has none
+    QPointer<USSDLogic> m_pLogic; // not owned; null while the dialog is not connected to it
 };
 
 #endif
