@@ -65,7 +65,8 @@ void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
     USSD_LOG_EXIT(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
 }
 
-/// The path to use from now on: the new one, unless a file of the old place cannot be copied.
+/// Returns the path to use from now on: the new one, or the old one if the old file cannot be
+/// copied.
 QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newPath)
 {
     if (QFile::exists(newPath) || !QFile::exists(oldPath))
@@ -132,8 +133,8 @@ void USSDEditCmd::noteReading(bool isSystem, Reading reading)
     (isSystem ? m_systemFileReading : m_userFileReading) = reading;
 }
 
-/// What was not read whole must not be saved over. A file that was not there when the profiles were
-/// read, or whose folder was not known then, may have come since.
+/// Returns true if the file may be overwritten. A file that was not read completely must be kept,
+/// and so must a file that has appeared since the profiles were read.
 bool USSDEditCmd::mayBeSavedOver(bool isSystem)
 {
     const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
@@ -183,8 +184,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // Without effect, since the file was deleted above; kept, with its place. A file that could not
-    // be deleted is written in place, and its owner wants to read it afterwards.
+    // This call has no effect, because the file has been deleted above. A file that could not be
+    // deleted keeps its permissions: its owner must be able to read it afterwards.
     if (!file.exists())
         file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
@@ -197,7 +198,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
     return SAVE_OK;
 }
 
-/// Only the user file's folder is made, and only one level of it.
+/// Creates the folder of the user file, but not the folders above it. The folder of the system file
+/// is never created.
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {
     const QString directory = parentDirectory(path);

@@ -19,22 +19,21 @@ class QTableWidgetItem;
 class QXmlStreamReader;
 
 /**
- * The command profiles, those of the system file and then those that the user added, and the window
- * in which the user edits them. GUI thread.
+ * The command profiles, first those of the system file and then those that the user added, and the
+ * window in which the user edits them. GUI thread only.
  *
- * The list is read when the object is made; a second object sees the files as they are then. The
- * window is built by InitDialog() and run by Exec(), which comes back also when the host takes the
- * window away meanwhile.
+ * The constructor reads the list, so a second object reads the files again. InitDialog() builds the
+ * window and Exec() runs it. Exec() also returns if the host deletes the window.
  */
 class USSDEditCmd : public QObject
 {
     Q_OBJECT
 public:
-    /// What saveToXMLFile() returns.
+    /// The return values of saveToXMLFile().
     enum SaveStatus {
         SAVE_OK = 0,
-        SAVE_NO_DIRECTORY = 21, // the user file's folder is missing and cannot be made
-        SAVE_NO_PATH = 23,      // no user data folder
+        SAVE_NO_DIRECTORY = 21, // the folder of the user file is missing and cannot be created
+        SAVE_NO_PATH = 23,      // there is no user data folder
         SAVE_NOT_OPENED = 25    // the file cannot be opened for writing
     };
 
@@ -42,22 +41,23 @@ public:
     ~USSDEditCmd() override;
 
     void getSystemProfileXMLFilePath(QString &path);
-    /// Empty when there is no user data folder. Moves a file of the old place to the new one.
+    /// Sets `path` to the path of the user file, or to an empty string if there is no user data
+    /// folder. Moves a file from its former folder to the current one.
     void getUserProfileXMLFilePath(QString &path);
     bool skipXmlReaderTillString(QXmlStreamReader &reader, QString name);
-    /// Adds the profiles of one file. A user profile whose code is there already is dropped.
+    /// Adds the profiles of one file. A user profile is dropped if its code is already in the list.
     void load(QString xmlFilePath, bool isSystem);
-    /// Reads both files anew.
+    /// Replaces the list by the profiles of both files.
     void load();
     /// Replaces `list` by all profiles, in order.
     void GetProfileList(QList<USSDProfile> &list);
-    /// Writes the profiles of one kind to their file. The old file is deleted first, so a failure
-    /// leaves none; this order is intended.
+    /// Writes the system profiles or the user profiles to their file. The old file is deleted
+    /// first, on purpose, so a failure leaves no file.
     int saveToXMLFile(bool isSystem);
 
-    /// Builds the window in a frame over `parent`.
+    /// Builds the window in a frame whose parent is `parent`.
     void InitDialog(QWidget *parent);
-    /// Runs the window; whether the user saved.
+    /// Runs the window. Returns true if the user saved.
     bool Exec();
     void SetLanguage();
     static QString tr(const QString &key);
@@ -80,7 +80,8 @@ private:
     void initHeader();
     void clearTable();
     void showProfile(int row, const USSDProfile &profile);
-    /// The profiles that the table stands for, and whether that is a change.
+    /// Sets `list` to the profiles in the table, and `changed` to true if they differ from the
+    /// current ones.
     void readTableProfiles(QList<USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
     QString savedText(int row, int column) const;
@@ -91,13 +92,13 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
-    /// Which files can be written, and what to tell the user about those that cannot.
+    /// Which files can be written, and what to tell the user about the others.
     struct SavePlan {
         SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
 
         bool writesSystemFile;
         bool writesUserFile;
-        bool losesChanges; // to a file that cannot be written
+        bool losesChanges; // true if a file with changes cannot be written
         QStringList refusals;
     };
     SavePlan planSaving(const QList<USSDProfile> &newList);
@@ -119,7 +120,8 @@ private:
     QList<USSDProfile> m_listUSSDProfiles;
     CmdEdit m_cmdEditSetting;
     QPointer<USSDLogic> m_pLogic; // not owned
-    // The frame is this object's; everything else is the frame's. A host may delete either.
+    // This object owns the frame, and the frame owns all other widgets. The host may delete any of
+    // them.
     QPointer<QWidget> m_pContainer;
     QPointer<ExtendDialog> m_pFrame;
     ProfileTableItemDelegate m_delegate;
@@ -127,10 +129,10 @@ private:
     QPointer<QLabel> m_pInfoLabel;
     QPointer<QPushButton> m_pSaveButton;
     QPointer<QPushButton> m_pCancelButton;
-    QTableWidgetItem *m_pEditedItem; // the cell that was changed last; null and -1 when none
+    QTableWidgetItem *m_pEditedItem; // the last changed cell; null, with indexes -1, if none
     int m_iEditedColumn;
     int m_iEditedRow;
-    QList<QTableWidgetItem *> m_refusedItems; // duplicates that wait for their message, or show it
+    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message waits or is open
     bool m_bSaved;
     Reading m_systemFileReading;
     Reading m_userFileReading;

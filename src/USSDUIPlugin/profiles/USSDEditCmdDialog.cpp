@@ -1,6 +1,4 @@
-/*
- * The window of USSDEditCmd, in which the user names and edits the profiles.
- */
+/* The part of USSDEditCmd that is the window in which the user edits the profiles. */
 #include "USSDEditCmd.h"
 
 #include <QHBoxLayout>
@@ -89,7 +87,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // Return belongs to the cell that is being edited.
+    // Return ends the editing of a cell; it must not press a button.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }
@@ -256,7 +254,7 @@ void USSDEditCmd::deselectCurrentCell()
                              QItemSelectionModel::Clear);
 }
 
-/// Whether another row of the column has the same text, which is not empty.
+/// Returns true if the cell is not empty and another row has the same text in this column.
 bool USSDEditCmd::isDuplicate(int row, int column) const
 {
     const QString text = savedText(row, column);
@@ -267,16 +265,17 @@ bool USSDEditCmd::isDuplicate(int row, int column) const
     return false;
 }
 
-/// A code is saved without the blanks around it, which may stand in a file that was written by
-/// hand.
+/// Returns the text of a cell as it would be saved: a code loses the blanks around it, which a file
+/// written by hand may contain.
 QString USSDEditCmd::savedText(int row, int column) const
 {
     const QString text = cellText(row, column);
     return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
-/// The delegate and the table still work on the cell when they say that its editor closed. A
-/// message has an event loop, in which the host may delete both, so it opens when they are done.
+/// Queues the message about a duplicate. The delegate and the table are still working on the cell
+/// when they report that its editor has closed, and a message runs an event loop in which the host
+/// may delete both.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))
@@ -293,18 +292,18 @@ void USSDEditCmd::OnDuplicatesFound()
         if (m_pContainer && m_pContainer->isVisible())
             refuseDuplicate(m_refusedItems.first());
         else
-            m_refusedItems.clear(); // the window was left meanwhile
+            m_refusedItems.clear(); // the window has been closed meanwhile
     }
 }
 
-/// Says so, and opens the cell again, empty.
+/// Tells the user about the duplicate, empties the cell and opens it again.
 void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
 {
     m_pTable->setCurrentItem(item); // closes the editor that Tab opened in the next cell
-    OnEditorClosed(nullptr);        // what was typed there may be a duplicate as well
+    OnEditorClosed(nullptr);        // the text in that cell may be a duplicate as well
     const QPointer<USSDEditCmd> self(this);
     sayDuplicate(item->column());
-    if (!self || !m_pTable) // the host took the window away while the message was open
+    if (!self || !m_pTable) // the host deleted the window while the message was open
         return;
     m_refusedItems.removeFirst();
     item->setText(QString());
@@ -342,11 +341,11 @@ void USSDEditCmd::OnClickedSaveButton()
 {
     USSD_LOG_SCOPE();
     if (m_pTable) {
-        m_pTable->setCurrentCell(-1, -1); // an open editor hands over what it holds,
-        OnEditorClosed(nullptr);          // but the delegate does not say that it closed
+        m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor,
+        OnEditorClosed(nullptr);          // whose closing the delegate does not report
     }
     if (!m_pTable || !m_refusedItems.isEmpty())
-        return; // the cell that is refused will be opened again
+        return; // the refused cell is about to be opened again
     QList<USSDProfile> newList;
     bool changed = false;
     readTableProfiles(newList, changed);
@@ -356,13 +355,13 @@ void USSDEditCmd::OnClickedSaveButton()
     }
     SavePlan plan = planSaving(newList);
     if (plan.losesChanges)
-        return sayRefusals(plan); // the window stays open, with the changes
+        return sayRefusals(plan); // the window stays open and keeps the changes
     m_listUSSDProfiles = newList;
     USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
     saveAsPlanned(plan);
 }
 
-/// Saving deletes the old files first, so whatever is in its way has to be found before.
+/// Finds out what would prevent saving. This happens first, because saving deletes the old files.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;
@@ -371,8 +370,8 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
     return plan;
 }
 
-/// Whether the file is to be written. One that nobody changed, and that cannot be written, may stay
-/// as it is: the system file often belongs to root.
+/// Returns true if the file is to be written. A file that cannot be written may stay as it is if
+/// its profiles have not changed: the system file often belongs to root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
