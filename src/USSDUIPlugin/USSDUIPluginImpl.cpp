@@ -96,7 +96,7 @@ bool CUSSDUIPluginImpl::QueryInterface(int id, QObject **out)
     CUSSDService *service = nullptr;
     try {
         service = CUSSDService::instance();
-    } catch (...) { // none may reach the host
+    } catch (...) { // no exception may reach the host
         return false;
     }
     m_pService = service;
@@ -129,7 +129,7 @@ void CUSSDUIPluginImpl::FitSize(QRect &rect)
     CUSSDService::instance()->FitSize(rect);
 }
 
-/// False on purpose: hosts ask it before they offer a page at their start.
+/// Returns false on purpose: hosts call this function before they offer a page at their start.
 bool CUSSDUIPluginImpl::IsReady()
 {
     USSD_LOG(" Enter");

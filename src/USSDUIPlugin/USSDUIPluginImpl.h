@@ -8,9 +8,9 @@
 #include "QtCompat.h"
 
 /**
- * The object that the host loads. It holds no logic: each call gives a fixed answer or goes on to
- * the service. GUI thread only. OnDestroy(), UnSDKRegisterEvent() and deletion are harmless in any
- * order and number.
+ * The object that the host loads. It contains no logic: each function returns a fixed value or
+ * calls the service. GUI thread only. OnDestroy(), UnSDKRegisterEvent() and deletion are safe in
+ * any order, and the two functions may be called repeatedly.
  */
 class CUSSDUIPluginImpl : public QObject, public IUIPlugin, public INotify
 {
@@ -45,7 +45,7 @@ public:
     int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
 private:
-    QObject *m_pService; // as handed out by QueryInterface
+    QObject *m_pService; // the service that QueryInterface() returned
 };
 
 #endif

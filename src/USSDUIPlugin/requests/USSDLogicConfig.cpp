@@ -1,6 +1,6 @@
 /*
- * The configuration half of USSDLogic: which file is read when, and what the getters answer. How
- * the sections are read stands in PluginConfig.cpp.
+ * The part of USSDLogic that decides when the configuration file is read, and returns the settings
+ * in it. PluginConfig.cpp reads the sections of the file.
  */
 #include "USSDLogic.h"
 
@@ -25,7 +25,7 @@ bool isPaidType(int paidType)
            static_cast<unsigned int>(PluginConfig::PAID_TYPES);
 }
 
-/// The two attributes that every component has; -1 for any other.
+/// Returns one of the two attributes that every component has, or -1 for any other attribute.
 template <typename Component>
 int commonIntAttr(const Component &component, int attr)
 {

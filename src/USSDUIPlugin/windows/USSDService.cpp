@@ -30,8 +30,8 @@ const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Room for the dialog and 20 pixels more in height. A size from a file may be one that no memory
-/// suffices for, or none at all.
+/// Fixes the size of the frame to that of the dialog, plus 20 pixels of height. The dialog's size
+/// may come from a file, so it is limited: it could be negative, or need more memory than there is.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {
@@ -89,7 +89,7 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // Source, function, time: in another order than everywhere else, as readers of logs know it.
+    // This line has the time after source and function: readers of logs know it in this form.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
 }
@@ -144,7 +144,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// A host that hears of the first one may shut down, so this object may be gone after each.
+/// Closes the frames. The host may shut down when one of them closes, so this object may be gone
+/// after each.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
@@ -160,7 +161,7 @@ void CUSSDService::changeLanguage()
     setLanguageIfExists(m_pGeneralModalDlg);
     setLanguageIfExists(m_pGeneralEmbeddedDlg);
     setLanguageIfExists(m_pUSSDSMSDlg);
-    // Frames that are open follow: their titles, and the room that the new texts need.
+    // Open frames get new titles and the size that the new texts need.
     if (m_pPrepaidFrame && m_pPrepaidDlg) {
         m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
         fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
@@ -175,7 +176,7 @@ void CUSSDService::changeLanguage()
         m_pUSSDSMSFrame->setWindowTitle(tr(QLatin1String("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
-// ---- making ----------------------------------------------------------------------------------
+// ---- creating --------------------------------------------------------------------------------
 
 int CUSSDService::createUSSDDlgWindow(WINDOW_MODEL model, PAID_TYPE type)
 {
@@ -227,7 +228,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// A frame as the prepaid, the postpaid and the USSD-SMS dialog have it.
+/// Creates a frame for the prepaid, the postpaid or the USSD-SMS dialog.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))
@@ -273,7 +274,7 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// A connection of an earlier showing is replaced, so that nothing is handled twice.
+/// Replaces the connection from an earlier showing, so that nothing is handled twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
     disconnect(sender, signal, this, slot);
@@ -425,11 +426,12 @@ void CUSSDService::OnClickedCloseButton()
     dropFrame(m_pUSSDSMSFrame);
 }
 
-/// Not at once: this may run in the frame's close event. A host that shuts down in the same turn of
-/// the event loop may unload the library before the deletion, so the frame is remembered.
+/// Deletes the frame later, because this function may run in the close event of the frame. The
+/// service keeps a list of such frames: a host that shuts down in the same turn of the event loop
+/// may unload the library before the deletion.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
-    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // those that are gone
+    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // deleted frames
     if (!frame)
         return;
     frame->deleteLater();
@@ -440,7 +442,7 @@ void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 void CUSSDService::OnDlgCloseEvent()
 {
     USSD_LOG_SCOPE();
-    const QPointer<CUSSDService> self(this); // a host that hears of it may shut down
+    const QPointer<CUSSDService> self(this); // a host that is notified may shut down
     switch (m_modalPaidType) {
     case PAID_TYPE_PREPAID:
         leaveIfExists(m_pPrepaidDlg);

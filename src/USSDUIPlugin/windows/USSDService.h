@@ -13,20 +13,21 @@
 #include "USSDSMSDlg.h"
 
 /**
- * The service that the host gets: makes each window on first need, shows it embedded in a host's
- * widget or modal in a frame of its own, and takes everything down. GUI thread only.
+ * The service that the host receives. It creates each window on first use, shows it either embedded
+ * in a widget of the host or modal in a frame of its own, and destroys all windows. GUI thread
+ * only.
  *
- * It owns all dialogs and frames. The pointers to them notice when a host deletes the widget that a
- * dialog or frame was put into.
+ * The service owns all dialogs and frames. Its pointers become null if a host deletes the widget
+ * that contains a dialog or a frame.
  */
 class CUSSDService : public QObject, public IUSSD
 {
     Q_OBJECT
     Q_INTERFACES(IUSSD)
 public:
-    /// The singleton, made on the first call; null when it cannot be made.
+    /// Returns the singleton, which is created on the first call; null if it cannot be created.
     static CUSSDService *instance();
-    /// Takes everything down, the singleton too. Harmless without one.
+    /// Destroys all windows, the logic and the singleton. Does nothing if there is no singleton.
     static void Destroy();
     ~CUSSDService() override;
 
@@ -36,24 +37,28 @@ public:
     bool IsImsiDynamicMatch() override;
     bool CheckImsiIsValid(const QString &imsi, int &flags) override;
 
-    /// Always 0. Types other than general are only remembered, and show nothing.
+    /// Shows the general window embedded in `parent`. Other types are only remembered. Always
+    /// returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
-    /// 1 when the window was shown, 0 when not. Returns at once; the frame blocks its parent.
+    /// Shows a modal window and returns at once; the frame of the window blocks its parent. Returns
+    /// 1 if the window was shown, otherwise 0.
     int doModal(PAID_TYPE type);
     void Hide();
     void FitSize(QRect &rect);
     int Notify(unsigned int event, unsigned int param1, unsigned int param2);
     void unSDKRegisterEvent();
-    /// Deletes dialogs, frames and the logic.
+    /// Deletes the dialogs, the frames and the logic.
     void destroyUSSD();
 
     static QString tr(const QString &key);
 
 public slots:
-    // A dialog's own close button, a closed frame, and a dialog or frame that wants to be closed.
+    /// Deletes the modal dialogs and their frames once a dialog has finished.
     void OnClickedCloseButton();
+    /// Lets the dialog finish when its frame has been closed.
     void OnDlgCloseEvent();
+    /// Closes the frame when the dialog asks for it or the frame has been rejected.
     void OnCloseButtonClicked();
 
 private:
@@ -78,8 +83,8 @@ private:
     void dropFrame(QPointer<USSDExtendDialog> &frame);
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 
-    PAID_TYPE m_modalPaidType; // what the last doModal() opened
-    PAID_TYPE m_shownPaidType; // what the last showWindow() or DoModal() showed
+    PAID_TYPE m_modalPaidType; // type of the last doModal()
+    PAID_TYPE m_shownPaidType; // type of the last showWindow() or DoModal()
     QPointer<USSDDlg> m_pPrepaidDlg;
     QPointer<USSDDlg> m_pPostpaidDlg;
     QPointer<USSDGeneralDlg> m_pGeneralModalDlg;
@@ -89,7 +94,7 @@ private:
     QPointer<USSDExtendDialog> m_pGeneralFrame;
     QPointer<USSDExtendDialog> m_pUSSDSMSFrame;
     QPointer<CUSSDSMSDlg> m_pUSSDSMSDlg;
-    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // that wait for their deletion
+    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // frames that await their deletion
 
     static CUSSDService *m_pInstance;
 };
