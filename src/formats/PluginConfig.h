@@ -36,7 +36,7 @@ struct CmdEdit {
     bool visible = false;
 };
 
-/** How to detect whether a SIM is prepaid or postpaid. */
+/** How to tell a prepaid SIM from a postpaid one. */
 struct PrePostDiffer {
     bool value = false; // true if the network is asked
     QString command;
@@ -113,7 +113,8 @@ struct PluginConfig {
 /// in the file: readClearHistory() needs a reader at the start of the document.
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
-/// Reads how to detect the kind of SIM. A fault in the section switches the detection off.
+/// Reads how to tell a prepaid SIM from a postpaid one. A fault in the section switches the
+/// detection off.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
 /// Reads the "Prepaid" (0) or "Postpaid" (1) section. Always reads four items, even if the fourth
 /// is outside the section.

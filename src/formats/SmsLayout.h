@@ -37,10 +37,9 @@ struct CTreeInfo {
 struct CTreeItem {
     int number = 0;
     int parent = 0;
-    QString textId;  // key of the entry's text
-    int isChild = 1; // 0 for the root
-    QTreeWidgetItem *treeWidgetItem =
-        nullptr; // the row; owned by the tree, null until it is created
+    QString textId;                            // key of the entry's text
+    int isChild = 1;                           // 0 for the root
+    QTreeWidgetItem *treeWidgetItem = nullptr; // owned by the tree; null until it is created
 };
 
 /** What a control sends: a value of CWidgetItemInfo::kind and CCommandWidget::kind. */
@@ -89,9 +88,8 @@ struct SmsLayout {
     CDlgInfo dialog;
     CTreeInfo tree;
     bool hasRoot = false;
-    int rootNumber = 0; // valid only if hasRoot is true
-    int ordinaryEntries =
-        0; // number of accepted entries, including those that replaced another one
+    int rootNumber = 0;             // valid only if hasRoot is true
+    int ordinaryEntries = 0;        // accepted entries, including those that replaced another
     QMap<int, CTreeItem *> entries; // by number
     QMap<int, CWidget *> groups;    // by the number of the entry that shows the group
     QStringList complaints;         // the first few complaints, each with its line

@@ -5,9 +5,10 @@
 
 /**
  * Estimates how long a rich-text document would take to lay out the markup in a reply, so that
- * TranscriptView can show a reply whose markup is too expensive as plain letters. The layout time
- * doubles with each nested table, a table cell may span four hundred million others, and each rule
- * of a style sheet is tried on each tag: a reply of 182 characters can block a window for hours.
+ * TranscriptView can show the reply as plain letters if its markup is too expensive. The layout
+ * time doubles with each nested table, a table cell may span four hundred million others, and each
+ * rule of a style sheet is tried on each tag: a reply of 182 characters can block a window for
+ * hours.
  *
  * The figures are counted in the text, not in the parsed document, and never underestimate the
  * cost. MarkupTag decides what is a tag at all; HeavyText deals with text that is slow without any

@@ -41,7 +41,7 @@ private:
         QTextCharFormat letters;
     };
 
-    QTextEdit *m_edit; // the parent
+    QTextEdit *m_edit; // the parent object
     QList<Piece> m_pieces;
     QTimer m_timer;
 };

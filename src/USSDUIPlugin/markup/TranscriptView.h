@@ -44,7 +44,7 @@ private:
 
     QString m_entries;
     MarkupCost m_cost;
-    PieceFeeder *m_feeder; // a child
+    PieceFeeder *m_feeder; // a child of this widget
     bool m_isOpen;         // an entry may affect the look of later ones
     bool m_isInPieces;     // the document is no longer replaced as a whole
 };

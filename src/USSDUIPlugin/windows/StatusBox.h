@@ -34,7 +34,7 @@ private:
     void fixHeight();
     int heightOfLines() const;
 
-    PieceFeeder *m_feeder; // a child
+    PieceFeeder *m_feeder; // a child of this widget
     int m_lines;
     QString m_ownKey; // key of the shown text; empty for a reply
 };
