@@ -14,7 +14,7 @@ struct ChargeRules {
 int longestCharge(const ChargeRules &rules);
 
 /// Returns true if an entry of that many characters may be sent. If the minimum exceeds the
-/// maximum, the maximum is the minimum, too.
+/// maximum, an entry needs the maximum number of characters.
 bool isChargeLongEnough(const ChargeRules &rules, int characters);
 
 /// Returns the regular expression that an entry has to match. The limit text goes in unchanged; the

@@ -7,8 +7,8 @@
 namespace
 {
 
-/// Makes an undeclared entity an error. The parser only reports it and reads on, but the text
-/// around it would then lose a part; a code, for example, would become another code.
+/// Raises an error for an undeclared entity. The parser itself would read on without the entity,
+/// and a code with an entity in it would become another code.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
@@ -45,8 +45,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// Counts nested elements. QXmlStreamReader::readElementText() calls itself for each of them
-/// instead, and deep nesting would overflow the stack.
+/// Counts the depth of nested elements. QXmlStreamReader::readElementText() calls itself for each
+/// nested element instead, and deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

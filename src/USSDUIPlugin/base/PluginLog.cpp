@@ -13,7 +13,7 @@ namespace
 const int USUAL_LENGTH = 256; // bytes; a longer line needs a second allocation
 const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be of any script
 
-/// The text of the last time of day, and the millisecond to which it belongs.
+/// The time of day in the last line as text, and the millisecond for which that text is valid.
 struct Stamp {
     qint64 millisecond;
     char text[STAMP_LENGTH];

@@ -48,7 +48,7 @@ public:
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
     /// Logs `tail` instead of the plain Exit, at debug level and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Suppresses Exit, because the last line has already said everything.
+    /// Suppresses the Exit line, because the last line has already said everything.
     void leaveSilently() { m_exited = true; }
 
 private:

@@ -12,8 +12,8 @@ namespace
 
 typedef QList<QPointer<QDialog>> Dialogs;
 
-/// An open message. The host creates its window, which is recognised by its caption and by its
-/// absence from the dialogs that were open before.
+/// An open message. The host creates the window of the message; the window is recognised by its
+/// caption, and by not being among the dialogs that were open before.
 struct OpenMessage {
     QString caption;
     Dialogs before;

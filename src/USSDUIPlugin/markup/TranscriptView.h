@@ -29,8 +29,8 @@ public:
     void appendEntry(const Transcript::Entry &entry);
     /// Removes all entries.
     void clearEntries();
-    /// Returns the markup of all entries in order. An entry that is shown as letters is contained
-    /// as letters.
+    /// Returns the markup of all entries in order. The markup of an entry that is shown as letters
+    /// is escaped.
     const QString &entries() const { return m_entries; }
 
     QVariant loadResource(int type, const QUrl &name) override;

@@ -41,7 +41,7 @@ private:
     QWaitCondition m_changed;
     State m_state;
     Qt::HANDLE m_maker;         // the thread that constructs the object
-    QList<Qt::HANDLE> m_inside; // one entry per call-back inside: its thread
+    QList<Qt::HANDLE> m_inside; // the thread of each call-back inside
 };
 
 /** Holds a pass through the gate for the duration of one call-back. */

@@ -89,8 +89,8 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
-/// Stops the QTimer if this is its thread. Another thread lets it fire once in vain, because that
-/// costs less than an event that stops it.
+/// Stops the QTimer on its own thread. On any other thread, the QTimer is left to fire once in
+/// vain, which costs less than an event that would stop it.
 void ReplyTimer::stopIfOwner(QMutexLocker &locker)
 {
     locker.unlock();
@@ -112,7 +112,7 @@ void ReplyTimer::catchUp()
         stop();
 }
 
-/// Notes when the QTimer fires next; it repeats until somebody disarms it.
+/// Notes when the QTimer fires next. The QTimer repeats until the time-out is disarmed.
 void ReplyTimer::repeats()
 {
     QMutexLocker locker(&m_state);

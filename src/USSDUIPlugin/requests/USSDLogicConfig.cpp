@@ -1,6 +1,6 @@
 /*
  * The part of USSDLogic that decides when the configuration file is read, and returns the settings
- * in it. PluginConfig.cpp reads the sections of the file.
+ * of that file. PluginConfig.cpp reads the sections.
  */
 #include "USSDLogic.h"
 

@@ -11,7 +11,7 @@
 namespace
 {
 
-// The limits up to which a label shows a text well.
+// The largest text that a label shows well.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;

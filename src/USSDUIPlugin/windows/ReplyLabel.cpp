@@ -12,8 +12,8 @@ namespace
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 
-/// More characters than a label has room for. Further ones would be laid out at each repaint in
-/// vain.
+/// More characters than a label has room for. Any further character would be laid out in vain at
+/// each repaint.
 const int MOST_LETTERS = 2000;
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)

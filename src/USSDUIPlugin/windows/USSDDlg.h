@@ -56,7 +56,7 @@ public:
     static QString tr(const QString &key);
 
 public slots:
-    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 

@@ -283,8 +283,8 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Swallows every key that reaches the dialog itself: Escape must not close the frame, nor Return
-/// press its default button.
+/// Swallows every key that reaches the dialog itself, so that Escape does not close the frame and
+/// Return does not press its default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
     Q_UNUSED(event);

@@ -57,7 +57,7 @@ public:
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 

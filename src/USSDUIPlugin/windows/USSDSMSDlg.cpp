@@ -230,7 +230,7 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // the direction of codes and numbers
     m_pValidator = new QRegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
@@ -514,8 +514,9 @@ bool CUSSDSMSDlg::lacksReadiness() const
     return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
 }
 
-/// Follows whether short messages can be sent. The text must be longer than the minimum here, while
-/// OnTextChanged() also accepts the minimum itself; the difference is intended.
+/// Enables or disables the button when the device starts or stops accepting short messages. The
+/// text must be longer than the minimum here, while OnTextChanged() also accepts the minimum
+/// itself; the difference is intended.
 void CUSSDSMSDlg::OnCanSendSMS(bool can)
 {
     if (m_command.kind == CONTROL_KIND_USSD)

@@ -82,7 +82,7 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Finishes after the outer window has closed. The dialog may be deleted when this function
+    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
