@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "base/Text.h"
 #include "DeviceSdk.h"
 #include "Records.h"
-#include "Text.h"
 #include "UserDataFolder.h"
 
 using namespace tksv;

@@ -7,9 +7,9 @@
 #include <string>
 
 #include "AtCommand.h"
+#include "base/Text.h"
 #include "Charset.h"
 #include "SmsPdu.h"
-#include "Text.h"
 
 namespace
 {

@@ -10,9 +10,9 @@
 #include <memory>
 #include <vector>
 
+#include "base/Text.h"
 #include "Records.h"
 #include "requests/SdkRecords.h"
-#include "Text.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Text.h"
+#include "base/Text.h"
 
 namespace modem
 {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-#include "Text.h"
+#include "base/Text.h"
 
 namespace modem
 {

@@ -4,10 +4,10 @@
 #include <pthread.h>
 #include <QtTest>
 
+#include "base/Text.h"
 #include "EventService.h"
 #include "Records.h"
 #include "SdkFixture.h"
-#include "Text.h"
 #include "UssdSession.h"
 #include "WorkerThread.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "../Text.h"
+#include "../base/Text.h"
 #include "UssdErrors.h"
 
 namespace tksv

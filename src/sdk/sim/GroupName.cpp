@@ -1,6 +1,6 @@
 #include "GroupName.h"
 
-#include "../Text.h"
+#include "../base/Text.h"
 #include "../UssdSession.h"
 #include "Scenario.h"
 

@@ -1,6 +1,6 @@
 #include "Scenario.h"
 
-#include "../Text.h"
+#include "../base/Text.h"
 
 namespace tksv
 {

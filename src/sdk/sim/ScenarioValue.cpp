@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "../Text.h"
+#include "../base/Text.h"
 
 namespace tksv
 {
