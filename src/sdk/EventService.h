@@ -10,7 +10,7 @@
 #include <mutex>
 #include <vector>
 
-#include "WorkerThread.h"
+#include "base/WorkerThread.h"
 
 namespace tksv
 {

@@ -5,11 +5,11 @@
 #include <QtTest>
 
 #include "base/Text.h"
+#include "base/WorkerThread.h"
 #include "EventService.h"
 #include "Records.h"
 #include "SdkFixture.h"
 #include "UssdSession.h"
-#include "WorkerThread.h"
 
 using namespace tksv;
 

@@ -7,7 +7,7 @@
 #include <glib.h>
 #include <mutex>
 
-#include "../WorkerThread.h"
+#include "../base/WorkerThread.h"
 
 namespace tksv
 {

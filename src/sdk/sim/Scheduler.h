@@ -7,7 +7,7 @@
 #include <map>
 #include <mutex>
 
-#include "../WorkerThread.h"
+#include "../base/WorkerThread.h"
 #include "SimulatorClock.h"
 
 namespace tksv
