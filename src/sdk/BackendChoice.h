@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Backend.h"
+#include "base/Backend.h"
 #include "EventService.h"
 #include "modemmanager/ModemWatch.h"
 #include "sim/Scenario.h"

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "Backend.h"
 #include "BackendChoice.h"
+#include "base/Backend.h"
 #include "EventService.h"
 #include "SmsRecords.h"
 #include "UssdSession.h"

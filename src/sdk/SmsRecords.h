@@ -6,7 +6,7 @@
 #include <mutex>
 #include <optional>
 
-#include "Backend.h"
+#include "base/Backend.h"
 
 struct TKSV_SMSRecordData {
     tksv::SmsMessage message;

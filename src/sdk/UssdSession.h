@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "Backend.h"
+#include "base/Backend.h"
 #include "EventService.h"
 
 namespace tksv

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "Backend.h"
+#include "base/Backend.h"
 
 namespace tksv
 {

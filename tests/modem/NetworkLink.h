@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "Backend.h"
+#include "base/Backend.h"
 #include "LoopThread.h"
 #include "sim/Scenario.h"
 #include "sim/SimulatedNetwork.h"

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 #include "GLibPointers.h"
 #include "MainLoopThread.h"
 #include "SignalConnections.h"

@@ -5,7 +5,7 @@
 #include <mutex>
 #include <string>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 #include "ModemDevice.h"
 #include "ModemWatch.h"
 

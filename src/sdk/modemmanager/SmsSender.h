@@ -6,7 +6,7 @@
 #include <map>
 #include <memory>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 #include "AsyncCall.h"
 #include "GLibPointers.h"
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 #include "AsyncCall.h"
 #include "GLibPointers.h"
 #include "MainLoopThread.h"

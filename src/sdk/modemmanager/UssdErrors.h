@@ -3,7 +3,7 @@
 
 #include <gio/gio.h>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 
 /* What ModemManager's errors mean; docs/modems.md has them as a table. */
 

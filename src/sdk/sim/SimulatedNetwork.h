@@ -6,7 +6,7 @@
 #include <mutex>
 #include <vector>
 
-#include "../Backend.h"
+#include "../base/Backend.h"
 #include "Scenario.h"
 #include "Scheduler.h"
 
