@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "Records.h"
+#include "base/Records.h"
 
 namespace tksv
 {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Records.h"
+#include "base/Records.h"
 
 namespace tksv
 {

@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "base/Records.h"
 #include "base/Text.h"
 #include "DeviceSdk.h"
-#include "Records.h"
 #include "UserDataFolder.h"
 
 using namespace tksv;

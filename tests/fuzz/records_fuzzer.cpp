@@ -10,8 +10,8 @@
 #include <memory>
 #include <vector>
 
+#include "base/Records.h"
 #include "base/Text.h"
-#include "Records.h"
 #include "requests/SdkRecords.h"
 
 namespace

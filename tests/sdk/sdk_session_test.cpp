@@ -4,10 +4,10 @@
 #include <pthread.h>
 #include <QtTest>
 
+#include "base/Records.h"
 #include "base/Text.h"
 #include "base/WorkerThread.h"
 #include "EventService.h"
-#include "Records.h"
 #include "SdkFixture.h"
 #include "UssdSession.h"
 
