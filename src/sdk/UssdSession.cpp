@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/CodeForm.h"
 #include "base/Records.h"
 
 namespace tksv
@@ -10,11 +11,6 @@ namespace tksv
 namespace
 {
 const std::size_t MaxUntakenTexts = 20;
-}
-
-bool hasFormOfCode(const std::string &text)
-{
-    return text.size() > 1 && (text.front() == '*' || text.front() == '#') && text.back() == '#';
 }
 
 UssdSession::UssdSession(EventService &service, std::function<void()> untakenCame)

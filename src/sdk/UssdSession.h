@@ -71,9 +71,6 @@ private:
     std::deque<UntakenText> m_untaken;
 };
 
-/// Whether the text begins with * or # and ends with #, and so opens a session.
-bool hasFormOfCode(const std::string &text);
-
 } // namespace tksv
 
 #endif

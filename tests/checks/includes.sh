@@ -79,6 +79,12 @@ check_layers "$any" src/dashboard \
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
     src/core/common src/compat src/files src/sdk
-check "$(cpp_files src/sdk)" '^[a-pr-zA-PR-Z]' src/sdk
+sdk_angle='^[a-pr-zA-PR-Z]' # no Qt
+sdk_headers='src/sdk/tksv.h src/sdk/tksv_device.h'
+sdk_top=$(cpp_files src/sdk | grep -vE '^src/sdk/(base|sim|modemmanager)/')
+check "$sdk_top" "$sdk_angle" src/sdk
+check "$(cpp_files src/sdk/base)" "$sdk_angle" src/sdk/base $sdk_headers
+check "$(cpp_files src/sdk/sim)" "$sdk_angle" src/sdk/sim src/sdk/base $sdk_headers
+check "$(cpp_files src/sdk/modemmanager)" "$sdk_angle" src/sdk/modemmanager src/sdk/base $sdk_headers
 check "$(cpp_files src/sdk | grep -E '/tksv(_device)?\.h$')" '^(std(int|def)|time)\.h$' src/sdk/tksv.h
 finish

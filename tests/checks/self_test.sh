@@ -18,6 +18,10 @@ fresh_tree() {
     cp "$source_tree/.clang-format" "$tree/"
     write src/sdk/tksv.h </dev/null
     write src/sdk/tksv_device.h </dev/null
+    write src/sdk/EventService.h </dev/null
+    write src/sdk/base/Text.h </dev/null
+    write src/sdk/sim/Scenario.h </dev/null
+    write src/sdk/modemmanager/ModemWatch.h </dev/null
     write src/core/common/Change.h </dev/null
     write src/core/Languages.h </dev/null
     write src/compat/QtCompat.h <<<'#if QT_VERSION < 0x050000
@@ -65,6 +69,16 @@ write src/sdk/tksv.cpp <<'CODE'
 
 #include <glib.h>
 #include <thread>
+
+#include "base/Text.h"
+#include "EventService.h"
+#include "modemmanager/ModemWatch.h"
+CODE
+write src/sdk/sim/Scenario.cpp <<'CODE'
+#include "Scenario.h"
+
+#include "../base/Text.h"
+#include "tksv.h"
 CODE
 write man/good.1 <<'PAGE'
 .TH GOOD 1
@@ -88,6 +102,15 @@ finds includes 'includes "../core/Languages.h"' $plugin <<<'#include "../core/La
 finds includes 'includes <glib.h>' $plugin <<<'#include <glib.h>'
 finds includes 'includes <QString>' src/sdk/a.cpp <<<'#include <QString>'
 finds includes 'includes "Change.h"' src/sdk/a.cpp <<<'#include "Change.h"'
+finds includes 'includes "../EventService.h"' src/sdk/base/a.cpp <<<'#include "../EventService.h"'
+finds includes 'includes "sim/Scenario.h"' src/sdk/base/a.cpp <<<'#include "sim/Scenario.h"'
+finds includes 'includes "EventService.h"' src/sdk/sim/a.cpp <<<'#include "EventService.h"'
+finds includes 'includes "../modemmanager/ModemWatch.h"' src/sdk/sim/a.cpp \
+    <<<'#include "../modemmanager/ModemWatch.h"'
+finds includes 'includes "../EventService.h"' src/sdk/modemmanager/a.cpp \
+    <<<'#include "../EventService.h"'
+finds includes 'includes "../sim/Scenario.h"' src/sdk/modemmanager/a.cpp \
+    <<<'#include "../sim/Scenario.h"'
 finds includes 'includes "USSDLogic.h"' src/dashboard/a.cpp <<<'#include "USSDLogic.h"'
 finds includes 'includes "windows/Dialog.h"' src/USSDUIPlugin/markup/a.cpp <<<'#include "windows/Dialog.h"'
 finds includes 'includes "window/Page.h"' src/dashboard/plugin/a.cpp <<<'#include "window/Page.h"'

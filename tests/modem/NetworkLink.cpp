@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "UssdSession.h"
+#include "base/CodeForm.h"
 
 namespace modem
 {

@@ -4,6 +4,7 @@
 #include <pthread.h>
 #include <QtTest>
 
+#include "base/CodeForm.h"
 #include "base/Records.h"
 #include "base/Text.h"
 #include "base/WorkerThread.h"

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <vector>
 
-#include "base/Text.h"
+#include "Text.h"
 
 static_assert(sizeof(TKSV_USSDRequest) == 372, "the request record is the same on every build");
 static_assert(offsetof(TKSV_USSDRequest, text) == 4, "request text");

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "base/Backend.h"
+#include "Backend.h"
 #include "tksv.h"
 
 /* Between the records of tksv.h and plain values, both ways. */

@@ -1,7 +1,7 @@
 #include "GroupName.h"
 
+#include "../base/CodeForm.h"
 #include "../base/Text.h"
-#include "../UssdSession.h"
 #include "Scenario.h"
 
 namespace tksv

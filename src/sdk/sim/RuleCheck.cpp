@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "../UssdSession.h"
+#include "../base/CodeForm.h"
 #include "GroupName.h"
 #include "ScenarioValue.h"
 

@@ -1,0 +1,11 @@
+#include "CodeForm.h"
+
+namespace tksv
+{
+
+bool hasFormOfCode(const std::string &text)
+{
+    return text.size() > 1 && (text.front() == '*' || text.front() == '#') && text.back() == '#';
+}
+
+} // namespace tksv

@@ -1,0 +1,15 @@
+#ifndef TKSV_INTERNAL_CODEFORM_H
+#define TKSV_INTERNAL_CODEFORM_H
+
+#include <string>
+
+namespace tksv
+{
+
+/// Returns whether the text has the form of a code: it starts with * or # and ends with #. Such a
+/// text opens a session of its own, even while the network waits for an answer.
+bool hasFormOfCode(const std::string &text);
+
+} // namespace tksv
+
+#endif
