@@ -17,12 +17,12 @@ namespace
 {
 
 /// How long a slow ModemManager may take to tell of its modems before the simulator begins.
-const std::chrono::milliseconds FirstLook(2000);
+const std::chrono::milliseconds FIRST_LOOK_LIMIT(2000);
 
 /// How long the program's exit waits for a change that is being made.
-const std::chrono::milliseconds ExitLimit(1000);
+const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-const std::uintptr_t OnlyKey = 1;
+const std::uintptr_t ONLY_KEY = 1;
 
 /// A device that is not there, in place of a scenario that cannot be used.
 Scenario absentDevice(const std::string &source)
@@ -51,7 +51,7 @@ BackendChoice::BackendChoice(BackendObserver &observer)
     : m_observer(observer), m_initialMode(initialMode()), m_thoughts("tksv-choice"),
       m_watch([this] { watchChanged(); }), m_mode(m_initialMode)
 {
-    m_thoughts.add(OnlyKey, [this](int, void *) {
+    m_thoughts.add(ONLY_KEY, [this](int, void *) {
         reconsider();
         return true;
     });
@@ -83,7 +83,7 @@ void BackendChoice::stop()
         if (m_watching)
             m_watch.stop();
     }
-    m_thoughts.stop(ExitLimit);
+    m_thoughts.stop(EXIT_LIMIT);
 }
 
 /* ---- the client's wishes ----------------------------------------------------------------- */
@@ -194,7 +194,7 @@ void BackendChoice::startWatch()
     if (std::exchange(m_watching, true))
         return;
     m_watch.thread().post([this] {
-        m_watch.thread().after(FirstLook, [this] {
+        m_watch.thread().after(FIRST_LOOK_LIMIT, [this] {
             m_isPatient = false;
             watchChanged();
         });

@@ -12,12 +12,12 @@ namespace
 {
 
 /// How long the program's exit waits for a call-back that is still running.
-const std::chrono::milliseconds ExitLimit(1000);
+const std::chrono::milliseconds EXIT_LIMIT(1000);
 
 /// The number of USSD events; their kind is the record's type.
 
 /// Of a service with a single listener.
-const std::uintptr_t OnlyKey = 1;
+const std::uintptr_t ONLY_KEY = 1;
 
 std::uintptr_t keyOf(TKSV_EventCallback callback)
 {
@@ -63,7 +63,7 @@ void DeviceSdk::stop()
     m_choice.stop();
     for (EventService *service :
          {&m_ussdEvents, &m_deviceEvents, &m_smsEvents, &m_infoEvents, &m_textEvents})
-        service->stop(ExitLimit);
+        service->stop(EXIT_LIMIT);
 }
 
 /* ---- calls of the client ----------------------------------------------------------------- */
@@ -141,7 +141,7 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
             callback(context);
             return true;
         };
-    m_infoEvents.replaceAll(OnlyKey, std::move(handler));
+    m_infoEvents.replaceAll(ONLY_KEY, std::move(handler));
 }
 
 /// What came before is told as well.
@@ -153,7 +153,7 @@ void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context
             tellUntakenTexts(callback, context);
             return true;
         };
-    m_textEvents.replaceAll(OnlyKey, std::move(handler));
+    m_textEvents.replaceAll(ONLY_KEY, std::move(handler));
     m_textEvents.post(Event());
 }
 

@@ -11,7 +11,7 @@ EventService::EventService(const char *threadName) : m_threadName(threadName) {}
 
 EventService::~EventService()
 {
-    stop(NoLimit);
+    stop(NO_LIMIT);
 }
 
 void EventService::add(std::uintptr_t key, Handler handler)

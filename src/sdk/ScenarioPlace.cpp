@@ -12,13 +12,13 @@ namespace
 {
 
 /// Any address inside this library.
-const char Inside = 0;
+const char ADDRESS_IN_LIBRARY = 0;
 
 /// The folder that this library was loaded from.
 std::filesystem::path libraryFolder()
 {
     Dl_info info = {};
-    if (dladdr(&Inside, &info) == 0 || !info.dli_fname)
+    if (dladdr(&ADDRESS_IN_LIBRARY, &info) == 0 || !info.dli_fname)
         return {};
     std::error_code ignored; // the path stays as it is when it cannot be resolved
     const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);

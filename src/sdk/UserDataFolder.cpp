@@ -13,7 +13,7 @@ namespace tksv
 namespace
 {
 
-const char AppFolder[] = "ussd-dashboard/";
+const char APP_FOLDER[] = "ussd-dashboard/";
 
 std::string environment(const char *name)
 {
@@ -66,9 +66,9 @@ std::string userDataFolder()
     // XDG has relative paths ignored.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
-        return withSlash(dataHome) + AppFolder;
+        return withSlash(dataHome) + APP_FOLDER;
     const std::string userHome = home();
-    return userHome.empty() ? userHome : withSlash(userHome) + ".local/share/" + AppFolder;
+    return userHome.empty() ? userHome : withSlash(userHome) + ".local/share/" + APP_FOLDER;
 }
 
 bool makeFolder(const std::string &path)

@@ -10,7 +10,7 @@ namespace tksv
 
 namespace
 {
-const std::size_t MaxUntakenTexts = 20;
+const std::size_t MAX_UNTAKEN_TEXTS = 20;
 }
 
 UssdSession::UssdSession(EventService &service, std::function<void()> untakenCame)
@@ -106,7 +106,7 @@ void UssdSession::ended(const UntakenText &text, bool taken)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_untaken.push_back(text);
-        if (m_untaken.size() > MaxUntakenTexts)
+        if (m_untaken.size() > MAX_UNTAKEN_TEXTS)
             m_untaken.pop_front();
     }
     m_untakenCame();

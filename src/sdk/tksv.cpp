@@ -12,8 +12,8 @@ using namespace tksv;
 namespace
 {
 
-const long Success = 0;
-const long Failure = 1;
+const long SUCCESS = 0;
+const long FAILURE = 1;
 
 /// No exception (memory or threads used up) crosses the C interface.
 template <typename Function>
@@ -22,13 +22,13 @@ long guarded(Function function)
     try {
         return function();
     } catch (...) {
-        return Failure;
+        return FAILURE;
     }
 }
 
 long resultOf(bool ok)
 {
-    return ok ? Success : Failure;
+    return ok ? SUCCESS : FAILURE;
 }
 
 void setStatus(int *status, int value)
@@ -41,7 +41,7 @@ void setStatus(int *status, int value)
 template <typename Function>
 long withCallback(TKSV_EventCallback callback, Function function)
 {
-    return callback ? guarded([&] { return function(DeviceSdk::instance()); }) : Failure;
+    return callback ? guarded([&] { return function(DeviceSdk::instance()); }) : FAILURE;
 }
 
 } // namespace
@@ -52,7 +52,7 @@ long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status)
         setStatus(status, RequestMalformed);
         const auto text = decodeRequest(request);
         if (!text)
-            return Failure;
+            return FAILURE;
         const int result = DeviceSdk::instance().request(*text);
         setStatus(status, result);
         return resultOf(result == RequestAccepted);
@@ -64,7 +64,7 @@ long TKSV_USSDSrv_Release(int *status)
     setStatus(status, 0);
     return guarded([] {
         DeviceSdk::instance().release();
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -72,7 +72,7 @@ long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback)
 {
     return withCallback(callback, [callback](DeviceSdk &sdk) {
         sdk.addUssdCallback(callback);
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -87,7 +87,7 @@ long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callback)
 {
     return withCallback(callback, [callback](DeviceSdk &sdk) {
         sdk.addDeviceCallback(callback);
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -102,7 +102,7 @@ long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback)
 {
     return withCallback(callback, [callback](DeviceSdk &sdk) {
         sdk.addSmsCallback(callback);
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -116,14 +116,14 @@ long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned short *n
                                  const unsigned short *text)
 {
     if (!record)
-        return Failure;
+        return FAILURE;
     *record = nullptr;
     if (!number || !*number || !text)
-        return Failure;
+        return FAILURE;
     return guarded([&] {
         SmsMessage message{decodeText(number), decodeText(text)};
         *record = DeviceSdk::instance().smsRecords().create(std::move(message));
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -144,24 +144,24 @@ long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record)
 long TKSV_GetUserDataDirectory(unsigned short **directory)
 {
     if (!directory)
-        return Failure;
+        return FAILURE;
     *directory = nullptr;
     return guarded([&] {
         const std::string folder = userDataFolder();
         const auto units = toUtf16(folder);
         if (folder.empty() || !units || !makeFolder(folder))
-            return Failure;
+            return FAILURE;
         auto copy = std::make_unique<unsigned short[]>(units->size() + 1);
         std::copy(units->begin(), units->end(), copy.get());
         *directory = copy.release();
-        return Success;
+        return SUCCESS;
     });
 }
 
 long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
 {
     if (!info)
-        return Failure;
+        return FAILURE;
     return guarded([&] {
         const DeviceInfo from = DeviceSdk::instance().info();
         *info = TKSV_DeviceInfo();
@@ -177,7 +177,7 @@ long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
         copyText(from.simOperatorName, info->simOperatorName, sizeof info->simOperatorName);
         copyText(from.equipmentId, info->equipmentId, sizeof info->equipmentId);
         copyText(from.source, info->source, sizeof info->source);
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -185,7 +185,7 @@ long TKSV_Device_SetInfoCallback(TKSV_DeviceInfoCallback callback, void *context
 {
     return guarded([&] {
         DeviceSdk::instance().setInfoCallback(callback, context);
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -202,7 +202,7 @@ long TKSV_Device_UseScenario(const char *path, char *message, unsigned long mess
 long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned long *count)
 {
     if (!count || (!modems && capacity > 0))
-        return Failure;
+        return FAILURE;
     return guarded([&] {
         const std::vector<ModemSummary> found = DeviceSdk::instance().choice().modems();
         const std::string inUse = DeviceSdk::instance().info().equipmentId;
@@ -213,7 +213,7 @@ long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned 
             copyText(found[i].name, modems[i].name, sizeof modems[i].name);
             modems[i].isInUse = found[i].equipmentId == inUse ? 1 : 0;
         }
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -221,7 +221,7 @@ long TKSV_Device_UseModem(const char *equipmentId)
 {
     return guarded([&] {
         DeviceSdk::instance().choice().useModem(equipmentId ? equipmentId : "");
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -229,7 +229,7 @@ long TKSV_Device_UseAutomatic(void)
 {
     return guarded([] {
         DeviceSdk::instance().choice().useAutomatic();
-        return Success;
+        return SUCCESS;
     });
 }
 
@@ -246,6 +246,6 @@ long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *contex
 {
     return guarded([&] {
         DeviceSdk::instance().setTextCallback(callback, context);
-        return Success;
+        return SUCCESS;
     });
 }

@@ -25,7 +25,7 @@ void checkComplaints(const std::string &text, const tksv::ScenarioResult &result
 /// Each rule is found by its own name, and its reply can be written out.
 void checkRule(const tksv::Scenario &scenario, const std::string &group, const tksv::Rule &rule)
 {
-    if (group.find(tksv::AnyDigits) == std::string::npos && group.find('/') == std::string::npos &&
+    if (group.find(tksv::ANY_DIGITS) == std::string::npos && group.find('/') == std::string::npos &&
         group.compare(0, 5, "Push ") != 0)
         FUZZ_REQUIRE(tksv::findCode(scenario, group).group == group);
     FUZZ_REQUIRE(rule.delay.count() >= 0 && rule.fewestDigits <= rule.mostDigits);

@@ -13,11 +13,11 @@ namespace modem
 namespace
 {
 
-const char AbstractPrefix[] = "abstract:";
+const char ABSTRACT_PREFIX[] = "abstract:";
 
 bool isAbstract(const std::string &name)
 {
-    return name.compare(0, sizeof AbstractPrefix - 1, AbstractPrefix) == 0;
+    return name.compare(0, sizeof ABSTRACT_PREFIX - 1, ABSTRACT_PREFIX) == 0;
 }
 
 /// The size of the address, or 0 when the name is too long for one.

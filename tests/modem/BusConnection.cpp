@@ -7,7 +7,7 @@ namespace modem
 
 namespace
 {
-const int CallLimit = 10000; // milliseconds
+const int CALL_LIMIT = 10000; // milliseconds
 }
 
 GDBusConnection *connectTo(const std::string &busAddress)
@@ -34,7 +34,7 @@ Reply call(GDBusConnection *connection, const Method &method, GVariant *argument
     Reply reply;
     reply.value.reset(g_dbus_connection_call_sync(
         connection, method.service.c_str(), method.object.c_str(), method.interface.c_str(),
-        method.name.c_str(), arguments, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, CallLimit,
+        method.name.c_str(), arguments, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, CALL_LIMIT,
         nullptr, &error));
     if (error)
         reply.error = error->message;
@@ -46,7 +46,7 @@ void send(GDBusConnection *connection, const Method &method, GVariant *arguments
 {
     g_dbus_connection_call(connection, method.service.c_str(), method.object.c_str(),
                            method.interface.c_str(), method.name.c_str(), arguments, nullptr,
-                           G_DBUS_CALL_FLAGS_NO_AUTO_START, CallLimit, nullptr, nullptr, nullptr);
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, CALL_LIMIT, nullptr, nullptr, nullptr);
 }
 
 } // namespace modem

@@ -10,25 +10,25 @@ namespace modem
 namespace
 {
 
-const unsigned char Escape = 0x1B;
-const char16_t Replacement = 0xFFFD;
+const unsigned char ESCAPE = 0x1B;
+const char16_t REPLACEMENT = 0xFFFD;
 
 /// 3GPP TS 23.038, 6.2.1; the place of Escape holds a character that is never used.
-const char16_t DefaultAlphabet[] = u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞ\uFFFFÆæßÉ !\"#¤%&'()*+,-./"
-                                   u"0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿"
-                                   u"abcdefghijklmnopqrstuvwxyzäöñüà";
-const std::size_t AlphabetSize = 128;
-static_assert(sizeof DefaultAlphabet / sizeof DefaultAlphabet[0] == AlphabetSize + 1,
+const char16_t DEFAULT_ALPHABET[] = u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞ\uFFFFÆæßÉ !\"#¤%&'()*+,-./"
+                                    u"0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿"
+                                    u"abcdefghijklmnopqrstuvwxyzäöñüà";
+const std::size_t ALPHABET_SIZE = 128;
+static_assert(sizeof DEFAULT_ALPHABET / sizeof DEFAULT_ALPHABET[0] == ALPHABET_SIZE + 1,
               "one character for each septet");
 
 /// 3GPP TS 23.038, 6.2.1.1: behind Escape.
-const std::pair<unsigned char, char16_t> Extension[] = {
+const std::pair<unsigned char, char16_t> EXTENSION[] = {
     {0x0A, u'\f'}, {0x14, u'^'}, {0x28, u'{'}, {0x29, u'}'}, {0x2F, u'\\'},
     {0x3C, u'['},  {0x3D, u'~'}, {0x3E, u']'}, {0x40, u'|'}, {0x65, u'€'}};
 
 char16_t extended(unsigned char septet)
 {
-    for (const auto &entry : Extension) {
+    for (const auto &entry : EXTENSION) {
         if (entry.first == septet)
             return entry.second;
     }
@@ -38,15 +38,15 @@ char16_t extended(unsigned char septet)
 /// False when the alphabet does not have it.
 bool appendSeptets(Bytes &septets, char16_t unit)
 {
-    for (std::size_t i = 0; i < AlphabetSize; ++i) {
-        if (DefaultAlphabet[i] == unit && i != Escape) {
+    for (std::size_t i = 0; i < ALPHABET_SIZE; ++i) {
+        if (DEFAULT_ALPHABET[i] == unit && i != ESCAPE) {
             septets.push_back(static_cast<unsigned char>(i));
             return true;
         }
     }
-    for (const auto &entry : Extension) {
+    for (const auto &entry : EXTENSION) {
         if (entry.second == unit) {
-            septets.push_back(Escape);
+            septets.push_back(ESCAPE);
             septets.push_back(entry.first);
             return true;
         }
@@ -56,7 +56,7 @@ bool appendSeptets(Bytes &septets, char16_t unit)
 
 std::u16string unitsOf(const std::string &text)
 {
-    return tksv::toUtf16(text).value_or(std::u16string(1, Replacement));
+    return tksv::toUtf16(text).value_or(std::u16string(1, REPLACEMENT));
 }
 
 Bytes toUcs2(const std::string &text)
@@ -184,8 +184,8 @@ std::string fromSeptets(const Bytes &septets)
 {
     std::u16string units;
     for (std::size_t i = 0; i < septets.size(); ++i) {
-        const bool escaped = septets[i] == Escape && i + 1 < septets.size();
-        units += escaped ? extended(septets[++i]) : DefaultAlphabet[septets[i] % AlphabetSize];
+        const bool escaped = septets[i] == ESCAPE && i + 1 < septets.size();
+        units += escaped ? extended(septets[++i]) : DEFAULT_ALPHABET[septets[i] % ALPHABET_SIZE];
     }
     return tksv::toUtf8(units).value_or(std::string());
 }

@@ -11,7 +11,7 @@ namespace modem
 
 namespace
 {
-const std::chrono::seconds CommandLimit(10);
+const std::chrono::seconds COMMAND_LIMIT(10);
 }
 
 FakeModem::FakeModem(const std::string &port, const ModemSettings &settings)
@@ -166,7 +166,7 @@ int FakeModem::timesReceived(const std::string &start) const
 bool FakeModem::waitForCommand(const std::string &start, int times) const
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    return m_came.wait_for(lock, CommandLimit, [&] { return count(start) >= times; });
+    return m_came.wait_for(lock, COMMAND_LIMIT, [&] { return count(start) >= times; });
 }
 
 void FakeModem::forgetReceived()

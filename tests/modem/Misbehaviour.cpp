@@ -9,7 +9,7 @@ bool Misbehaviours::take(const std::string &line, Misbehaviour &found)
         if (line.compare(0, entry->start.size(), entry->start) != 0)
             continue;
         found = *entry;
-        if (entry->times != Always && --entry->times == 0)
+        if (entry->times != ALWAYS && --entry->times == 0)
             m_list.erase(entry);
         return true;
     }

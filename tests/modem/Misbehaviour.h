@@ -17,7 +17,7 @@ enum class Fault {
     HangUp          // the connection ends in its place
 };
 
-const int Always = -1;
+const int ALWAYS = -1;
 
 /** What goes wrong, and where. */
 struct Misbehaviour {

@@ -11,8 +11,8 @@ namespace modem
 namespace
 {
 
-const char UssdInterface[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp.Ussd";
-const char Service[] = "org.freedesktop.ModemManager1";
+const char USSD_INTERFACE[] = "org.freedesktop.ModemManager1.Modem.Modem3gpp.Ussd";
+const char SERVICE[] = "org.freedesktop.ModemManager1";
 
 struct Unref {
     void operator()(void *object) const { g_object_unref(object); }
@@ -131,8 +131,8 @@ bool MmClient::waitForProperty(const char *name, const std::string &value)
     const gint64 end = g_get_monotonic_time() + 10 * G_TIME_SPAN_SECOND;
     while (g_get_monotonic_time() < end) {
         const Reply reply =
-            call(m_connection, {Service, m_path, "org.freedesktop.DBus.Properties", "Get"},
-                 g_variant_new("(ss)", UssdInterface, name));
+            call(m_connection, {SERVICE, m_path, "org.freedesktop.DBus.Properties", "Get"},
+                 g_variant_new("(ss)", USSD_INTERFACE, name));
         const VariantPtr inner(
             reply.value ? g_variant_get_child_value(reply.value.get(), 0)
                         : g_variant_ref_sink(g_variant_new_variant(g_variant_new_string(""))));

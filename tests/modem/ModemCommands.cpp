@@ -13,11 +13,11 @@ namespace modem
 namespace
 {
 
-const int SmallestSmsError = 1;
-const int NoNetworkService = 30; // 3GPP TS 27.007, 9.2.1
-const int NotAllowed = 3;        // likewise
-const int SmsNoNetwork = 331;    // 3GPP TS 27.005, 3.2.5
-const int SmsInvalidIndex = 321; // likewise
+const int SMALLEST_SMS_ERROR = 1;
+const int NO_NETWORK_SERVICE = 30; // 3GPP TS 27.007, 9.2.1
+const int NOT_ALLOWED = 3;         // likewise
+const int SMS_NO_NETWORK = 331;    // 3GPP TS 27.005, 3.2.5
+const int SMS_INVALID_INDEX = 321; // likewise
 
 std::string quoted(const std::string &text)
 {
@@ -126,7 +126,7 @@ AtAnswer ModemCore::charset(const AtCommand &command)
     }
     const std::optional<Charset> wanted = charsetOf(decodeText(command.value(0), Charset::Ira));
     if (!wanted || std::find(known.begin(), known.end(), *wanted) == known.end())
-        return equipmentError(NotAllowed);
+        return equipmentError(NOT_ALLOWED);
     m_charset = *wanted;
     return ok();
 }
@@ -140,7 +140,7 @@ AtAnswer ModemCore::functionality(const AtCommand &command)
     if (command.form == AtCommand::Test)
         return info("+CFUN: (0,1,4),(0,1)");
     if (device().state == TKSV_DEVICE_DISABLED)
-        return equipmentError(NotAllowed);
+        return equipmentError(NOT_ALLOWED);
     m_functionality = command.value(0) == "1" ? 1 : 4;
     networkChanged();
     return ok();
@@ -248,7 +248,7 @@ AtAnswer ModemCore::startUssd(const std::string &text)
     case tksv::RequestDeviceTimeout:
         return noAnswer();
     default:
-        return equipmentError(NoNetworkService);
+        return equipmentError(NO_NETWORK_SERVICE);
     }
 }
 
@@ -258,7 +258,7 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())
-        return equipmentError(NotAllowed);
+        return equipmentError(NOT_ALLOWED);
     return command.form == AtCommand::Test ? info("+CNMI: (0-2),(0-3),(0,2),(0-2),(0,1)") : ok();
 }
 
@@ -281,7 +281,7 @@ AtAnswer ModemCore::smsFormat(const AtCommand &command)
         return info("+CMGF: (0)");
     return command.form == AtCommand::Read ? info("+CMGF: 0")
            : command.value(0) == "0"       ? ok()
-                                           : equipmentError(NotAllowed);
+                                           : equipmentError(NOT_ALLOWED);
 }
 
 AtAnswer ModemCore::submit(const AtCommand &command)
@@ -318,7 +318,7 @@ AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
 AtAnswer ModemCore::deliver(const tksv::SmsMessage &message)
 {
     if (!m_network || !m_network->sendSms(message))
-        return messageError(SmsNoNetwork);
+        return messageError(SMS_NO_NETWORK);
     m_smsOnItsWay = true;
     return noAnswer();
 }
@@ -328,7 +328,7 @@ void ModemCore::smsFinished(int result)
 {
     if (!std::exchange(m_smsOnItsWay, false))
         return;
-    finish(result >= SmallestSmsError ? messageError(result) : submitted());
+    finish(result >= SMALLEST_SMS_ERROR ? messageError(result) : submitted());
 }
 
 void ModemCore::receiveSms(const std::string &pdu)
@@ -343,7 +343,7 @@ AtAnswer ModemCore::readSms(const AtCommand &command)
     const int index = tksv::isDigits(command.value(0)) ? std::stoi(command.value(0)) : 0;
     const auto found = m_storedSms.find(index);
     if (found == m_storedSms.end())
-        return messageError(SmsInvalidIndex);
+        return messageError(SMS_INVALID_INDEX);
     if (command.name == "+CMGD") {
         m_storedSms.erase(found);
         return ok();

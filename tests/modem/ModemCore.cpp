@@ -10,8 +10,8 @@ namespace modem
 namespace
 {
 
-const char EndOfPdu = 0x1A;
-const char AbortPdu = 0x1B;
+const char END_OF_PDU = 0x1A;
+const char ABORT_PDU = 0x1B;
 
 TKSV_DeviceState stateOf(const std::shared_ptr<NetworkLink> &network)
 {
@@ -151,8 +151,8 @@ void ModemCore::take(const std::string &bytes)
 
 void ModemCore::takeByte(char byte)
 {
-    if (m_readsPdu && (byte == EndOfPdu || byte == AbortPdu)) {
-        takePdu(byte == EndOfPdu);
+    if (m_readsPdu && (byte == END_OF_PDU || byte == ABORT_PDU)) {
+        takePdu(byte == END_OF_PDU);
     } else if (!m_readsPdu && byte == '\r') {
         takeLine(std::exchange(m_line, std::string()));
     } else if (byte != '\n' && byte != '\r') {

@@ -11,7 +11,7 @@
 namespace
 {
 
-const char Id[] = "m1";
+const char MODEM_ID[] = "m1";
 
 TKSV_DeviceInfo deviceInfo()
 {
@@ -68,14 +68,14 @@ std::string useNetwork(const std::string &scenario)
     if (!result.scenario)
         return tksv::describe(result.complaints);
     modem::ModemWorld &here = world();
-    if (here.hasModem(Id))
-        here.unplug(Id);
+    if (here.hasModem(MODEM_ID))
+        here.unplug(MODEM_ID);
     if (!waitUntil([] { return deviceInfo().state == TKSV_DEVICE_ABSENT; }))
         return unlessReady("gone");
-    here.addModem(Id, scenario, modem::ModemSettings(), modem::FakeModem::Clock::Stopped);
+    here.addModem(MODEM_ID, scenario, modem::ModemSettings(), modem::FakeModem::Clock::Stopped);
     if (!waitUntil([&] { return isReady(*result.scenario); }))
         return unlessReady("ready");
-    here.modem(Id).startClock();
+    here.modem(MODEM_ID).startClock();
     return std::string();
 }
 

@@ -14,15 +14,15 @@ namespace modem
 namespace
 {
 
-const char Service[] = "org.freedesktop.ModemManager1";
-const char Root[] = "/org/freedesktop/ModemManager1";
-const char ModemInterface[] = "org.freedesktop.ModemManager1.Modem";
-const char AddressVariable[] = "DBUS_SYSTEM_BUS_ADDRESS";
+const char SERVICE[] = "org.freedesktop.ModemManager1";
+const char ROOT[] = "/org/freedesktop/ModemManager1";
+const char MODEM_INTERFACE[] = "org.freedesktop.ModemManager1.Modem";
+const char ADDRESS_VARIABLE[] = "DBUS_SYSTEM_BUS_ADDRESS";
 
-const std::chrono::seconds WaitLimit(10);
+const std::chrono::seconds WAIT_LIMIT(10);
 /// With a command that the modem does not answer, the daemon alone would take 20 s.
-const std::chrono::milliseconds StopLimit(3000);
-const std::size_t TailSize = 6000;
+const std::chrono::milliseconds STOP_LIMIT(3000);
+const std::size_t TAIL_SIZE = 6000;
 
 std::string deviceOf(const std::string &id)
 {
@@ -39,7 +39,7 @@ int numberOf(GVariant *dictionary, const char *key, const char *type)
 /// The modem's state, when the interfaces are those of the device.
 bool readModem(GVariant *interfaces, const std::string &device, ModemState &state)
 {
-    GVariant *found = g_variant_lookup_value(interfaces, ModemInterface, G_VARIANT_TYPE_VARDICT);
+    GVariant *found = g_variant_lookup_value(interfaces, MODEM_INTERFACE, G_VARIANT_TYPE_VARDICT);
     if (!found)
         return false;
     const VariantPtr properties(found);
@@ -134,7 +134,7 @@ ModemWorld::~ModemWorld()
     if (!m_folder.empty())
         removeFolder(m_folder);
     if (!m_addressBefore.empty())
-        g_setenv(AddressVariable, m_addressBefore.c_str(), TRUE);
+        g_setenv(ADDRESS_VARIABLE, m_addressBefore.c_str(), TRUE);
 }
 
 std::string ModemWorld::start()
@@ -146,9 +146,9 @@ std::string ModemWorld::start()
     std::string complaint = m_bus.start(m_folder);
     if (!complaint.empty())
         return complaint;
-    const char *const before = std::getenv(AddressVariable);
+    const char *const before = std::getenv(ADDRESS_VARIABLE);
     m_addressBefore = before ? before : "unix:path=/nonexistent";
-    g_setenv(AddressVariable, m_bus.address().c_str(), TRUE);
+    g_setenv(ADDRESS_VARIABLE, m_bus.address().c_str(), TRUE);
     m_connection = connectTo(m_bus.address());
     m_polkit = std::make_unique<PolkitStub>();
     complaint = m_polkit->start(m_bus.address());
@@ -189,7 +189,7 @@ bool ModemWorld::launchDaemon()
 void ModemWorld::stopDaemon()
 {
     const std::lock_guard<std::mutex> lock(m_daemonMutex);
-    m_daemon.stop(StopLimit);
+    m_daemon.stop(STOP_LIMIT);
 }
 
 void ModemWorld::killDaemon()
@@ -221,7 +221,7 @@ std::string ModemWorld::daemonOwner()
     const Reply reply = call(
         m_connection,
         {"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetNameOwner"},
-        g_variant_new("(s)", Service));
+        g_variant_new("(s)", SERVICE));
     if (!reply.value)
         return std::string();
     const char *owner = "";
@@ -232,7 +232,7 @@ std::string ModemWorld::daemonOwner()
 std::string ModemWorld::logTail()
 {
     const std::string log = readFile(m_folder + "/daemon.log") + readFile(m_folder + "/daemon.out");
-    return log.size() > TailSize ? log.substr(log.size() - TailSize) : log;
+    return log.size() > TAIL_SIZE ? log.substr(log.size() - TAIL_SIZE) : log;
 }
 
 /* ---- the hardware ------------------------------------------------------------------------ */
@@ -269,7 +269,7 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
 void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
-    send(m_connection, {Service, Root, "org.freedesktop.ModemManager1.Test", "SetProfile"},
+    send(m_connection, {SERVICE, ROOT, "org.freedesktop.ModemManager1.Test", "SetProfile"},
          g_variant_new("(ss^as)", id.c_str(), "generic", ports));
 }
 
@@ -326,7 +326,7 @@ void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 VariantPtr ModemWorld::managedObjects()
 {
     return call(m_connection,
-                {Service, Root, "org.freedesktop.DBus.ObjectManager", "GetManagedObjects"}, nullptr)
+                {SERVICE, ROOT, "org.freedesktop.DBus.ObjectManager", "GetManagedObjects"}, nullptr)
         .value;
 }
 
@@ -359,30 +359,30 @@ std::string ModemWorld::waitForState(const std::string &id, int atLeast)
 
 std::string ModemWorld::switchOn(const std::string &id)
 {
-    std::string object = waitForState(id, StateDisabled);
+    std::string object = waitForState(id, STATE_DISABLED);
     if (object.empty())
         return object;
-    const Reply reply =
-        call(m_connection, {Service, object, ModemInterface, "Enable"}, g_variant_new("(b)", TRUE));
+    const Reply reply = call(m_connection, {SERVICE, object, MODEM_INTERFACE, "Enable"},
+                             g_variant_new("(b)", TRUE));
     return reply.value ? object : std::string();
 }
 
 bool ModemWorld::switchOff(const std::string &id)
 {
     const std::string object = stateOf(id).object;
-    const Reply reply = call(m_connection, {Service, object, ModemInterface, "Enable"},
+    const Reply reply = call(m_connection, {SERVICE, object, MODEM_INTERFACE, "Enable"},
                              g_variant_new("(b)", FALSE));
     return reply.value != nullptr;
 }
 
 std::string ModemWorld::enable(const std::string &id)
 {
-    return switchOn(id).empty() ? std::string() : waitForState(id, StateRegistered);
+    return switchOn(id).empty() ? std::string() : waitForState(id, STATE_REGISTERED);
 }
 
 bool ModemWorld::waitUntil(const std::function<bool()> &condition)
 {
-    const auto end = std::chrono::steady_clock::now() + WaitLimit;
+    const auto end = std::chrono::steady_clock::now() + WAIT_LIMIT;
     Wakeups wakeups(m_connection);
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)

@@ -25,11 +25,11 @@ struct ModemState {
     bool hasUssd = false;
     bool hasMessaging = false;
 };
-const int StateFailed = -1;
-const int StateLocked = 2;
-const int StateDisabled = 3;
-const int StateEnabled = 6;
-const int StateRegistered = 8;
+const int STATE_FAILED = -1;
+const int STATE_LOCKED = 2;
+const int STATE_DISABLED = 3;
+const int STATE_ENABLED = 6;
+const int STATE_REGISTERED = 8;
 
 /**
  * A real ModemManager with fake modems, apart from the system's: a folder of its own, a private

@@ -8,7 +8,7 @@ namespace modem
 namespace
 {
 
-const char Interface[] = R"xml(<node>
+const char INTERFACE[] = R"xml(<node>
   <interface name="org.freedesktop.PolicyKit1.Authority">
     <method name="CheckAuthorization">
       <arg type="(sa{sv})" direction="in"/>
@@ -49,7 +49,7 @@ std::string PolkitStub::publish(const std::string &busAddress)
         nullptr,
         nullptr,
         {}};
-    GDBusNodeInfo *const node = g_dbus_node_info_new_for_xml(Interface, nullptr);
+    GDBusNodeInfo *const node = g_dbus_node_info_new_for_xml(INTERFACE, nullptr);
     g_dbus_connection_register_object(m_connection, "/org/freedesktop/PolicyKit1/Authority",
                                       node->interfaces[0], &table, this, nullptr, nullptr);
     g_dbus_node_info_unref(node);

@@ -11,8 +11,8 @@ namespace modem
 namespace
 {
 
-const int StartLimit = 10000; // milliseconds
-const std::chrono::milliseconds StopLimit(1000);
+const int START_LIMIT = 10000; // milliseconds
+const std::chrono::milliseconds STOP_LIMIT(1000);
 
 void writeConfiguration(const std::string &path, const std::string &address)
 {
@@ -36,7 +36,7 @@ bool waitForLine(int descriptor)
 {
     pollfd entry = {descriptor, POLLIN, 0};
     char first = 0;
-    return ::poll(&entry, 1, StartLimit) == 1 && ::read(descriptor, &first, 1) == 1;
+    return ::poll(&entry, 1, START_LIMIT) == 1 && ::read(descriptor, &first, 1) == 1;
 }
 
 } // namespace
@@ -61,7 +61,7 @@ std::string PrivateBus::start(const std::string &folder)
 
 void PrivateBus::stop()
 {
-    m_process.stop(StopLimit);
+    m_process.stop(STOP_LIMIT);
 }
 
 } // namespace modem

@@ -20,15 +20,15 @@ enum EquipmentError {
     WrongCode = 16
 };
 
-const int PinTries = 3;
-const int PukTries = 10;
+const int PIN_TRIES = 3;
+const int PUK_TRIES = 10;
 
 /// Files of 3GPP TS 31.102, by their decimal identifiers.
-const char IccidFile[] = "12258";
-const char AdministrativeFile[] = "28589";
-const char ProviderNameFile[] = "28486";
+const char ICCID_FILE[] = "12258";
+const char ADMINISTRATIVE_FILE[] = "28589";
+const char PROVIDER_NAME_FILE[] = "28486";
 
-const std::size_t ProviderNameSize = 16;
+const std::size_t PROVIDER_NAME_SIZE = 16;
 
 std::string swapped(std::string digits)
 {
@@ -43,7 +43,7 @@ std::string swapped(std::string digits)
 std::string providerName(const std::string &name)
 {
     Bytes bytes = toSeptets(name).value_or(Bytes());
-    bytes.resize(ProviderNameSize, 0xFF);
+    bytes.resize(PROVIDER_NAME_SIZE, 0xFF);
     bytes.insert(bytes.begin(), 0x00);
     return toHex(bytes);
 }
@@ -99,7 +99,7 @@ AtAnswer SimCard::enterPin(const std::string &pin)
 {
     if (pin == m_data.pin) {
         m_lock = Lock::None;
-        m_pinTries = PinTries;
+        m_pinTries = PIN_TRIES;
         return ok();
     }
     if (--m_pinTries > 0)
@@ -116,8 +116,8 @@ AtAnswer SimCard::enterPuk(const std::string &puk, const std::string &newPin)
     }
     m_data.pin = newPin;
     m_lock = Lock::None;
-    m_pinTries = PinTries;
-    m_pukTries = PukTries;
+    m_pinTries = PIN_TRIES;
+    m_pukTries = PUK_TRIES;
     return ok();
 }
 
@@ -140,13 +140,13 @@ AtAnswer SimCard::file(const AtCommand &command)
 
 std::string SimCard::content(const std::string &fileId) const
 {
-    if (fileId == IccidFile)
+    if (fileId == ICCID_FILE)
         return swapped(m_data.iccid);
     if (m_lock != Lock::None)
         return std::string();
-    if (fileId == AdministrativeFile)
+    if (fileId == ADMINISTRATIVE_FILE)
         return toHex({0, 0, 0, static_cast<unsigned char>(m_data.mncLength)});
-    if (fileId == ProviderNameFile && !m_data.operatorName.empty())
+    if (fileId == PROVIDER_NAME_FILE && !m_data.operatorName.empty())
         return providerName(m_data.operatorName);
     return std::string();
 }

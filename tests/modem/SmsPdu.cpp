@@ -8,10 +8,10 @@ namespace modem
 namespace
 {
 
-const unsigned TypeMask = 0x03;
-const unsigned TypeSubmit = 0x01;
-const unsigned HasUserDataHeader = 0x40;
-const unsigned International = 0x91;
+const unsigned TYPE_MASK = 0x03;
+const unsigned TYPE_SUBMIT = 0x01;
+const unsigned HAS_USER_DATA_HEADER = 0x40;
+const unsigned INTERNATIONAL = 0x91;
 
 /** Reads octets from the front; too few octets make it bad, and zeros follow. */
 class Reader
@@ -51,7 +51,7 @@ std::string readAddress(Reader &reader)
 {
     const char symbols[] = "0123456789*#abc";
     const std::size_t digits = reader.octet();
-    std::string number(reader.octet() == International ? "+" : "");
+    std::string number(reader.octet() == INTERNATIONAL ? "+" : "");
     const Bytes packed = reader.octets((digits + 1) / 2);
     for (std::size_t i = 0; i < digits && i / 2 < packed.size(); ++i) {
         const unsigned digit = packed[i / 2] >> (i % 2 ? 4 : 0) & 0xF;
@@ -147,8 +147,8 @@ std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t len
     reader.octet(); // protocol identifier
     const unsigned coding = reader.octet();
     reader.octets(validityOctets(first));
-    readUserData(reader, coding, (first & HasUserDataHeader) != 0, sms);
-    if (!reader.isGood() || !lengthIsRight || (first & TypeMask) != TypeSubmit)
+    readUserData(reader, coding, (first & HAS_USER_DATA_HEADER) != 0, sms);
+    if (!reader.isGood() || !lengthIsRight || (first & TYPE_MASK) != TYPE_SUBMIT)
         return std::nullopt;
     return sms;
 }

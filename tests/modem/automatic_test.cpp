@@ -15,14 +15,14 @@ using modem::ModemWorld;
 namespace
 {
 
-const char Network[] = R"([Network]
+const char NETWORK[] = R"([Network]
 Operator=Test Net
 IMSI=001010000000001
 [*100#]
 Reply=From the modem
 )";
 
-const int Rounds = 25;
+const int ROUNDS = 25;
 
 TKSV_DeviceInfo info()
 {
@@ -101,7 +101,7 @@ void ModemAutomaticTest::tearDown()
 
 void ModemAutomaticTest::addModem()
 {
-    QCOMPARE(m_world->addModem("one", Network), std::string());
+    QCOMPARE(m_world->addModem("one", NETWORK), std::string());
 }
 
 /// The very first of the process: nothing is known yet.
@@ -172,7 +172,7 @@ void ModemAutomaticTest::choicesOfManyThreadsEndInTheLast()
     std::atomic<std::size_t> accepted(0);
     const auto inThread = [](const std::function<void()> &step) {
         return std::thread([step] {
-            for (int i = 0; i < Rounds; ++i)
+            for (int i = 0; i < ROUNDS; ++i)
                 step();
         });
     };

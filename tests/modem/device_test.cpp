@@ -19,7 +19,7 @@ using modem::ModemWorld;
 namespace
 {
 
-const char Network[] = R"([Network]
+const char NETWORK[] = R"([Network]
 Operator=Test Net
 IMSI=001010000000001
 Signal=60
@@ -204,7 +204,7 @@ void ModemDeviceTest::startWorld()
 
 void ModemDeviceTest::addModem(const char *id, const ModemSettings &settings)
 {
-    QCOMPARE(m_world->addModem(id, Network, settings), std::string());
+    QCOMPARE(m_world->addModem(id, NETWORK, settings), std::string());
 }
 
 void ModemDeviceTest::useModem(const ModemSettings &settings)
@@ -592,7 +592,7 @@ void ModemDeviceTest::thePinUnlocksTheSim()
     ModemSettings settings;
     settings.asksForPin = true;
     startWorld();
-    const std::string network = std::string(Network).insert(10, "PIN=4711\n");
+    const std::string network = std::string(NETWORK).insert(10, "PIN=4711\n");
     QCOMPARE(m_world->addModem("one", network, settings), std::string());
     QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
     QVERIFY(waitUntil([] { return info().pinRetries == 3; }));
@@ -623,7 +623,7 @@ void ModemDeviceTest::tooManyPinsNeedThePuk()
 void ModemDeviceTest::aMissingSimIsSaid()
 {
     startWorld();
-    const std::string noSim = std::string(Network).replace(0, 9, "[Network]\nState=sim-missing");
+    const std::string noSim = std::string(NETWORK).replace(0, 9, "[Network]\nState=sim-missing");
     QCOMPARE(m_world->addModem("one", noSim), std::string());
     QVERIFY(waitForState(TKSV_DEVICE_SIM_MISSING));
     QVERIFY(request(u"*100#") != 0);
@@ -634,7 +634,7 @@ void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
     ModemSettings settings;
     settings.asksForPin = true;
     startWorld();
-    const std::string network = std::string(Network).insert(10, "PIN=4711\n");
+    const std::string network = std::string(NETWORK).insert(10, "PIN=4711\n");
     QCOMPARE(m_world->addModem("one", network, settings), std::string());
     QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
     QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
@@ -670,7 +670,7 @@ void ModemDeviceTest::aModemWithoutUssdIsSaid()
 {
     startWorld();
     addModem("one");
-    fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, modem::Always});
+    fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, modem::ALWAYS});
     m_world->unplug("one");
     m_world->plugIn("one");
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));

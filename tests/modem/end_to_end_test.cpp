@@ -138,7 +138,7 @@ void EndToEndTest::setUpClass()
     m_world.reset(new modem::ModemWorld);
     QCOMPARE(m_world->start(), std::string());
     QCOMPARE(m_world->addModem("one", NETWORK), std::string());
-    QVERIFY(!m_world->waitForState("one", modem::StateDisabled).empty());
+    QVERIFY(!m_world->waitForState("one", modem::STATE_DISABLED).empty());
 }
 
 void EndToEndTest::tearDownClass()

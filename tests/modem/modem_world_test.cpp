@@ -12,7 +12,7 @@ using namespace modem;
 namespace
 {
 
-const char Network[] = R"([Network]
+const char NETWORK[] = R"([Network]
 Operator=Example Telecom
 IMSI=001010123456789
 Signal=64
@@ -87,7 +87,7 @@ private slots:
 
 private:
     FakeModem &modem() { return m_world->modem("m1"); }
-    void addModem(const ModemSettings &settings = ModemSettings(), const char *network = Network);
+    void addModem(const ModemSettings &settings = ModemSettings(), const char *network = NETWORK);
     void enable();
 
     std::unique_ptr<ModemWorld> m_world;
@@ -325,7 +325,7 @@ void ModemWorldTest::pinUnlocksTheSim()
     ModemSettings settings;
     settings.asksForPin = true;
     addModem(settings);
-    const std::string object = m_world->waitForState("m1", StateLocked);
+    const std::string object = m_world->waitForState("m1", STATE_LOCKED);
     QVERIFY(!object.empty());
     QVERIFY(m_client->use(object));
     QVERIFY(!m_world->stateOf("m1").hasUssd);
@@ -339,7 +339,7 @@ void ModemWorldTest::wrongPinsLeadToThePuk()
     ModemSettings settings;
     settings.asksForPin = true;
     addModem(settings);
-    QVERIFY(m_client->use(m_world->waitForState("m1", StateLocked)));
+    QVERIFY(m_client->use(m_world->waitForState("m1", STATE_LOCKED)));
     for (int i = 0; i < 3; ++i)
         QVERIFY(!m_client->sendPin("9999").empty());
     QVERIFY(
@@ -353,7 +353,7 @@ void ModemWorldTest::simMissingIsAFailedModem()
 {
     addModem(ModemSettings(), "[Network]\nOperator=O\nIMSI=001010000000001\nState=sim-missing\n");
     QVERIFY(m_world->waitUntil([&] { return !m_world->stateOf("m1").object.empty(); }));
-    QVERIFY(m_world->waitUntil([&] { return m_world->stateOf("m1").state == StateFailed; }));
+    QVERIFY(m_world->waitUntil([&] { return m_world->stateOf("m1").state == STATE_FAILED; }));
 }
 
 void ModemWorldTest::deviceThatIsOffDoesNotRegister()
@@ -362,7 +362,7 @@ void ModemWorldTest::deviceThatIsOffDoesNotRegister()
     QVERIFY(!m_world->switchOn("m1").empty());
     QCOMPARE(modem().timesReceived("AT+CFUN=1"), 1);
     QVERIFY(modem().waitForCommand("AT+CGREG?"));
-    QVERIFY(m_world->stateOf("m1").state < StateRegistered);
+    QVERIFY(m_world->stateOf("m1").state < STATE_REGISTERED);
 }
 
 void ModemWorldTest::modemWithoutSmsHasNoMessaging()
@@ -384,8 +384,8 @@ void ModemWorldTest::registrationIsLostAndFound()
                          FakeModem::Clock::Stopped);
     enable();
     modem().startClock();
-    QVERIFY(m_world->waitUntil([&] { return m_world->stateOf("m1").state < StateRegistered; }));
-    QVERIFY(!m_world->waitForState("m1", StateRegistered).empty());
+    QVERIFY(m_world->waitUntil([&] { return m_world->stateOf("m1").state < STATE_REGISTERED; }));
+    QVERIFY(!m_world->waitForState("m1", STATE_REGISTERED).empty());
 }
 
 void ModemWorldTest::scenarioTakesTheModemAwayAndBack()

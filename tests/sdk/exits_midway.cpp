@@ -13,7 +13,7 @@
 namespace
 {
 
-const int Asked = 42;
+const int ASKED_EXIT_CODE = 42;
 
 std::atomic<bool> entered(false);
 const char *mode = ""; // no object: other threads read it until the very end
@@ -33,7 +33,7 @@ unsigned char onUssd(int, void *)
 {
     entered = true;
     if (isMode("exit-in-callback"))
-        std::exit(Asked);
+        std::exit(ASKED_EXIT_CODE);
     while (isMode("callback-hangs"))
         std::this_thread::sleep_for(std::chrono::seconds(1));
     return 1;
@@ -107,5 +107,5 @@ int main(int argc, char **argv)
     static const LateCaller lateCaller;
     if (!isMode("never-used"))
         prepare();
-    return Asked;
+    return ASKED_EXIT_CODE;
 }

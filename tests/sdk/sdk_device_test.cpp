@@ -10,7 +10,7 @@ using namespace SdkFixture;
 namespace
 {
 
-const char Start[] = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nSignal=42\n";
+const char SCENARIO_START[] = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nSignal=42\n";
 
 TKSV_DeviceInfo info()
 {
@@ -26,7 +26,7 @@ void countInfo(void *context)
     static_cast<Gate *>(context)->open();
 }
 
-const char Offer[] = "[Push offer]\nAfter=0\nReply=An offer\n[Push offer/1]\nReply=Booked\n";
+const char OFFER_PUSH[] = "[Push offer]\nAfter=0\nReply=An offer\n[Push offer/1]\nReply=Booked\n";
 
 Inbox<std::string> &networkTexts()
 {
@@ -79,7 +79,7 @@ void SdkDevice::shippedScenarioIsFoundBesideTheLibrary()
 
 void SdkDevice::infoTellsOfTheScenario()
 {
-    QCOMPARE(useNetwork(Start), std::string());
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
     const TKSV_DeviceInfo got = info();
     QCOMPARE(int(got.backend), int(TKSV_BACKEND_SIMULATOR));
     QCOMPARE(int(got.state), int(TKSV_DEVICE_REGISTERED));
@@ -106,7 +106,7 @@ void SdkDevice::infoHidesWhatTheStateDoesNotGive()
     QFETCH(QByteArray, state);
     QFETCH(bool, hasImsi);
     QFETCH(bool, hasSignal);
-    QCOMPARE(useNetwork(Start + ("State=" + state).toStdString()), std::string());
+    QCOMPARE(useNetwork(SCENARIO_START + ("State=" + state).toStdString()), std::string());
     QCOMPARE(info().operatorName, "");
     QCOMPARE(info().canSendSMS, 0);
     QCOMPARE(*info().imsi != '\0', hasImsi);
@@ -115,7 +115,8 @@ void SdkDevice::infoHidesWhatTheStateDoesNotGive()
 
 void SdkDevice::pinUnlocksTheSim()
 {
-    QCOMPARE(useNetwork(std::string(Start) + "State=sim-locked\nPIN=4711\n"), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "State=sim-locked\nPIN=4711\n"),
+             std::string());
     QCOMPARE(info().pinRetries, 3);
     QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
     QVERIFY(waitUntil([] { return info().pinRetries == 2; }));
@@ -128,7 +129,7 @@ void SdkDevice::pinUnlocksTheSim()
 
 void SdkDevice::pinsThatCannotBeAreRefused()
 {
-    QCOMPARE(useNetwork(std::string(Start) + "State=sim-locked\n"), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "State=sim-locked\n"), std::string());
     for (const char *pin : {"", "123", "123456789", "12a4", "\"\r12"})
         QVERIFY2(TKSV_Device_SendPin(pin) != 0, pin);
     QVERIFY(TKSV_Device_SendPin(nullptr) != 0);
@@ -139,7 +140,7 @@ void SdkDevice::textOfTheNetworkIsToldToTheDashboard()
 {
     networkTexts().clear();
     TKSV_Device_SetTextCallback(onNetworkText, nullptr);
-    QCOMPARE(useNetwork(std::string(Start) + Offer), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + OFFER_PUSH), std::string());
     QVERIFY(networkTexts().waitFor(1));
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"An offer?"});
     TKSV_Device_SetTextCallback(nullptr, nullptr);
@@ -153,7 +154,7 @@ void SdkDevice::textThatCameBeforeIsToldAsWell()
 {
     networkTexts().clear();
     TKSV_USSDSrv_RegisterUSSDCallback(takeNothing);
-    QCOMPARE(useNetwork(std::string(Start) + Offer), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + OFFER_PUSH), std::string());
     QVERIFY(waitUntil([] { return notTaken > 0; }));
     TKSV_USSDSrv_UnRegisterUSSDCallback(takeNothing);
     TKSV_Device_SetTextCallback(onNetworkText, nullptr);
@@ -168,7 +169,7 @@ void SdkDevice::nullInfoIsRefused()
 
 void SdkDevice::badScenarioChangesNothing()
 {
-    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=menu\n[*1#/1]\nReply=one\n"),
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "[*1#]\nReply=menu\n[*1#/1]\nReply=one\n"),
              std::string());
     registerAll();
     QCOMPARE(ask(u"*1#").type, 1);
@@ -192,10 +193,12 @@ void SdkDevice::messageIsCutToItsSize()
 
 void SdkDevice::newScenarioEndsTheRequestByAnEvent()
 {
-    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=late\nDelay=3600000\n"), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "[*1#]\nReply=late\nDelay=3600000\n"),
+             std::string());
     registerAll();
     QCOMPARE(request(u"*1#"), 0L);
-    QCOMPARE(useNetwork(std::string(Start) + "[*1#]\nReply=of the new one\n"), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "[*1#]\nReply=of the new one\n"),
+             std::string());
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
     QCOMPARE(QString::fromStdU16String(ask(u"*1#").text), QString::fromLatin1("of the new one"));
@@ -206,12 +209,12 @@ void SdkDevice::newScenarioEndsTheRequestByAnEvent()
 
 void SdkDevice::newScenarioTellsReadinessForSms()
 {
-    QCOMPARE(useNetwork(Start), std::string());
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
     registerAll();
     QVERIFY(received().smsStatus.waitFor(1));
-    QCOMPARE(useNetwork(std::string(Start) + "SMS=not-ready\n"), std::string());
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "SMS=not-ready\n"), std::string());
     QVERIFY(received().smsStatus.waitFor(2));
-    QCOMPARE(useNetwork(Start), std::string());
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QVERIFY(received().smsStatus.waitFor(3));
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 8, 7}));
     unregisterAll();
@@ -221,7 +224,7 @@ void SdkDevice::newScenarioTellsReadinessForSms()
 void SdkDevice::infoCallbackTellsOfChanges()
 {
     Gate changed;
-    QCOMPARE(useNetwork(std::string(Start) + "[Event e]\nAfter=10\nEvery=10\nSignal=5\n"),
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "[Event e]\nAfter=10\nEvery=10\nSignal=5\n"),
              std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &changed), 0L);
     QVERIFY(changed.wait());
@@ -233,11 +236,11 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    QCOMPARE(useNetwork(Start), std::string()); // where nothing happens by itself
+    QCOMPARE(useNetwork(SCENARIO_START), std::string()); // where nothing happens by itself
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
     infoCalls = 0;
-    QCOMPARE(useNetwork(Start), std::string());
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QVERIFY(second.wait());
     QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);
     QCOMPARE(infoCalls.load(), 1);

@@ -17,7 +17,7 @@ using namespace SdkFixture;
 namespace
 {
 
-const char Network[] = R"([Network]
+const char NETWORK[] = R"([Network]
 Operator=Test Net
 IMSI=001010000000001
 Balance=10.00
@@ -101,7 +101,7 @@ std::vector<Response> responsesBesidesTheLoss()
 /// A new network, which knows nothing of what was, and no responses so far.
 void startAfresh()
 {
-    useNetwork(Network);
+    useNetwork(NETWORK);
     TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // a call-back that runs has returned then
     received().responses.clear();
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
@@ -239,7 +239,7 @@ private:
 
 void SdkPromises::init()
 {
-    QCOMPARE(QString::fromStdString(useNetwork(Network)), QString());
+    QCOMPARE(QString::fromStdString(useNetwork(NETWORK)), QString());
     registerAll();
     QVERIFY(received().smsStatus.waitFor(1));
     received().clear();
@@ -274,7 +274,7 @@ void SdkPromises::callsReturnAtOnce()
     QCOMPARE(sendSms(u"3", u"text"), 0L);
     QCOMPARE(request(u"*112#"), 0L);
     unregisterAll();
-    QCOMPARE(useNetwork(Network), std::string());
+    QCOMPARE(useNetwork(NETWORK), std::string());
     QVERIFY(waitMilliseconds(start) < 5000); // the network takes an hour
 }
 
@@ -726,7 +726,7 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\nSMS=not-ready\n"),
              std::string());
     registerAll();
-    QCOMPARE(useNetwork(Network), std::string()); // can send
+    QCOMPARE(useNetwork(NETWORK), std::string()); // can send
     QVERIFY(deviceHasCaughtUp());
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
@@ -781,7 +781,7 @@ void SdkPromises::smsFailsWithTheDevice()
     QVERIFY(doInTime(
         200,
         [] {
-            useNetwork(std::string(Network) + "[Event pulled out]\nAfter=200\nDeviceEvent=6016\n");
+            useNetwork(std::string(NETWORK) + "[Event pulled out]\nAfter=200\nDeviceEvent=6016\n");
         },
         [] { sendSms(u"3", u"on its way"); }));
     QVERIFY(received().smsResults.waitFor(1));
@@ -918,7 +918,7 @@ void SdkPromises::manyThreadsAtOnce()
                 if (round % 5 == 0)
                     TKSV_USSDSrv_Release(&status);
                 if (i == 0 && round % 10 == 0)
-                    useNetwork(Network);
+                    useNetwork(NETWORK);
             }
         });
     for (std::thread &thread : threads)

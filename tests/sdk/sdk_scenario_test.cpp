@@ -9,7 +9,7 @@ using namespace tksv;
 namespace
 {
 
-const char Start[] = "[Network]\nOperator=O\nIMSI=001010000000001\nBalance=1.00\n";
+const char SCENARIO_START[] = "[Network]\nOperator=O\nIMSI=001010000000001\nBalance=1.00\n";
 
 QString shown(const std::string &text)
 {
@@ -96,11 +96,11 @@ void SdkScenario::defaultsHold()
 
 void SdkScenario::rulesAreRead()
 {
-    const Scenario s =
-        good(std::string(Start) + "[*1*%s#]\nDigits=2-3\nWrongDigits=w\nCredit=-%s\nNotEnough=n\n"
-                                  "Reply=a\\nb {digits}\n[*2#]\nOutcome=unsupported\nDelay=7\n"
-                                  "[*3#]\nDeviceEvent=6601\nAway=never\n[*4#]\nGoto=*2#\n"
-                                  "[*5#]\nReply=x\nCredit=2.5\n[SMS 12]\nResult=4\n");
+    const Scenario s = good(std::string(SCENARIO_START) +
+                            "[*1*%s#]\nDigits=2-3\nWrongDigits=w\nCredit=-%s\nNotEnough=n\n"
+                            "Reply=a\\nb {digits}\n[*2#]\nOutcome=unsupported\nDelay=7\n"
+                            "[*3#]\nDeviceEvent=6601\nAway=never\n[*4#]\nGoto=*2#\n"
+                            "[*5#]\nReply=x\nCredit=2.5\n[SMS 12]\nResult=4\n");
     const Rule pattern = s.rules.at("*1*%s#");
     QCOMPARE(pattern.fewestDigits, std::size_t(2));
     QCOMPARE(pattern.mostDigits, std::size_t(3));
@@ -129,7 +129,7 @@ void SdkScenario::delayOfTheNetworkIsThatOfEachReply()
 
 void SdkScenario::eventsAndPushesAreRead()
 {
-    const Scenario s = good(std::string(Start) +
+    const Scenario s = good(std::string(SCENARIO_START) +
                             "[Event a]\nAfter=1\nEvery=2\nSMS=ready\nSignal=3\nState=disabled\n"
                             "[Push p]\nAfter=4\nReply=r\n[Push p/1]\nReply=q\n");
     QCOMPARE(s.events.size(), std::size_t(1));
@@ -301,8 +301,8 @@ void SdkScenario::complaints()
     QFETCH(QByteArray, text);
     QFETCH(QString, complaint);
     const std::string bytes = text.toStdString();
-    QCOMPARE(complaintsAbout(Start + bytes), complaint);
-    QVERIFY(!readScenario(Start + bytes, "f").scenario); // nothing is half loaded
+    QCOMPARE(complaintsAbout(SCENARIO_START + bytes), complaint);
+    QVERIFY(!readScenario(SCENARIO_START + bytes, "f").scenario); // nothing is half loaded
 }
 
 void SdkScenario::everyMistakeIsTold()
@@ -349,7 +349,7 @@ void SdkScenario::fileThatCannotBeRead()
 
 void SdkScenario::exactCodeBeatsPattern()
 {
-    const Scenario s = good(std::string(Start) + "[*1*%s#]\nReply=p\n[*1*22#]\nReply=e\n");
+    const Scenario s = good(std::string(SCENARIO_START) + "[*1*%s#]\nReply=p\n[*1*22#]\nReply=e\n");
     QCOMPARE(shown(findCode(s, "*1*22#").group), QString::fromLatin1("*1*22#"));
     QCOMPARE(shown(findCode(s, "*1*23#").group), QString::fromLatin1("*1*%s#"));
     QCOMPARE(shown(findCode(s, "*1*23#").digits), QString::fromLatin1("23"));
@@ -360,8 +360,8 @@ void SdkScenario::exactCodeBeatsPattern()
 
 void SdkScenario::longerPatternBeatsShorter()
 {
-    const Scenario s = good(std::string(Start) + "[*1%s#]\nReply=a\n[*1*5%s#]\nReply=b\n"
-                                                 "[*15%s#]\nReply=c\n");
+    const Scenario s = good(std::string(SCENARIO_START) + "[*1%s#]\nReply=a\n[*1*5%s#]\nReply=b\n"
+                                                          "[*15%s#]\nReply=c\n");
     QCOMPARE(shown(findCode(s, "*157#").group), QString::fromLatin1("*15%s#"));
     QCOMPARE(shown(findCode(s, "*157#").digits), QString::fromLatin1("7"));
     QCOMPARE(shown(findCode(s, "*167#").group), QString::fromLatin1("*1%s#"));
@@ -370,8 +370,8 @@ void SdkScenario::longerPatternBeatsShorter()
 void SdkScenario::clientTextNeverReachesTheSyntax()
 {
     const Scenario s =
-        good(std::string(Start) + "[*1*%s#]\nReply=p\n[*2#]\nReply=m\n[*2#/1]\nReply=x\n"
-                                  "[*2#/1/2]\nReply=y\n[Push p]\nAfter=1\nReply=z\n");
+        good(std::string(SCENARIO_START) + "[*1*%s#]\nReply=p\n[*2#]\nReply=m\n[*2#/1]\nReply=x\n"
+                                           "[*2#/1/2]\nReply=y\n[Push p]\nAfter=1\nReply=z\n");
     for (const char *text : {"*1*%s#", "*2#/1", "Push p", "Network"})
         QVERIFY2(findCode(s, text).group.empty(), text);
     QVERIFY(findAnswer(s, "*2#", "1/2").group.empty());
@@ -399,11 +399,12 @@ void SdkScenario::amountsAreShown()
 
 void SdkScenario::smsRuleIsFound()
 {
-    const Scenario s = good(std::string(Start) + "[SMS]\nResult=1\n[SMS +12]\nResult=0\nDelay=3\n");
+    const Scenario s =
+        good(std::string(SCENARIO_START) + "[SMS]\nResult=1\n[SMS +12]\nResult=0\nDelay=3\n");
     QCOMPARE(findSms(s, "+12").result, 0);
     QCOMPARE(findSms(s, "+12").delay.count(), 3L);
     QCOMPARE(findSms(s, "13").result, 1);
-    QCOMPARE(findSms(good(Start), "13").result, 0);
+    QCOMPARE(findSms(good(SCENARIO_START), "13").result, 0);
 }
 
 QTEST_APPLESS_MAIN(SdkScenario)

@@ -244,7 +244,7 @@ void SdkSession::stopDropsWhatWaits()
     service.post(Event());
     service.post(Event());
     QVERIFY(entered.wait());
-    std::thread stopping([&service] { service.stop(NoLimit); });
+    std::thread stopping([&service] { service.stop(NO_LIMIT); });
     gate.open();
     stopping.join();
     service.post(Event());
@@ -300,7 +300,7 @@ void SdkSession::threadTakesNoSignals()
         pthread_sigmask(SIG_BLOCK, nullptr, &mask);
         blocked = sigismember(&mask, SIGTERM) && sigismember(&mask, SIGINT);
     });
-    QVERIFY(thread.finish(NoLimit));
+    QVERIFY(thread.finish(NO_LIMIT));
     QVERIFY(blocked);
     sigset_t own;
     pthread_sigmask(SIG_BLOCK, nullptr, &own);

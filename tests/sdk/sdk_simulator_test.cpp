@@ -8,7 +8,7 @@ using namespace SdkFixture;
 namespace
 {
 
-const char Network[] = R"([Network]
+const char NETWORK[] = R"([Network]
 Operator=Test Net
 IMSI=001010000000001
 Balance=10.00
@@ -102,7 +102,7 @@ private slots:
 
 void SdkSimulator::init()
 {
-    QCOMPARE(useNetwork(Network), std::string());
+    QCOMPARE(useNetwork(NETWORK), std::string());
     registerAll();
 }
 
@@ -139,7 +139,7 @@ void SdkSimulator::moneyThatIsNotThereIsNotTaken()
 
 void SdkSimulator::replacedRequestTakesNoMoney()
 {
-    const auto useNewNetwork = [] { useNetwork(Network); };
+    const auto useNewNetwork = [] { useNetwork(NETWORK); };
     QVERIFY(doInTime(20, useNewNetwork, [] {
         request(u"*103#");
         request(u"*100#");

@@ -44,8 +44,8 @@ struct SmsMessage {
     std::u16string text;
 };
 
-const int SmsSent = 0;
-const int SmsFailed = 1;
+const int SMS_SENT = 0;
+const int SMS_FAILED = 1;
 
 /** What is known of the device; texts in UTF-8, empty when unknown. */
 struct DeviceInfo {

@@ -56,7 +56,7 @@ WorkerThread::WorkerThread() = default;
 
 WorkerThread::~WorkerThread()
 {
-    finish(NoLimit);
+    finish(NO_LIMIT);
 }
 
 void WorkerThread::start(const char *name, std::function<void()> body)

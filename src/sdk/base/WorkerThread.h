@@ -39,7 +39,7 @@ private:
 };
 
 /// For finish(): as long as it takes.
-const std::chrono::milliseconds NoLimit = std::chrono::hours(24);
+const std::chrono::milliseconds NO_LIMIT = std::chrono::hours(24);
 
 } // namespace tksv
 

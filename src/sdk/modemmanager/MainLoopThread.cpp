@@ -135,7 +135,7 @@ void MainLoopThread::stop(const Task &last)
         last();
         g_main_loop_quit(m_loop);
     });
-    m_thread.finish(NoLimit);
+    m_thread.finish(NO_LIMIT);
 }
 
 } // namespace tksv

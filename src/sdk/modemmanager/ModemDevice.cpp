@@ -56,7 +56,7 @@ ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Li
                                         [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }})),
       m_sms(std::make_shared<SmsSender>(
           SmsSender::Listener{[this](const SmsMessage &message, int result) {
-                                  if (result == SmsSent)
+                                  if (result == SMS_SENT)
                                       wasPermitted();
                                   m_listener.smsFinished(message, result);
                               },

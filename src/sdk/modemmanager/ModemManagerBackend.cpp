@@ -96,7 +96,7 @@ bool ModemManagerBackend::sendSms(const SmsMessage &message)
         if (m_device && lost == m_lostModems && m_info.canSendSms)
             return m_device->sms().send(message);
         if (m_observer)
-            m_observer->smsFinished(message, SmsFailed);
+            m_observer->smsFinished(message, SMS_FAILED);
     });
     return true;
 }

@@ -10,8 +10,8 @@ namespace tksv
 namespace
 {
 
-const int StartingTries = 50;
-const std::chrono::milliseconds StartingPause(100);
+const int START_UP_TRIES = 50;
+const std::chrono::milliseconds START_UP_PAUSE(100);
 
 /// ".../Modem/12" is newer than ".../Modem/3".
 long numberOf(MMObject *object)
@@ -107,7 +107,7 @@ void ModemWatch::connected(GDBusConnection *bus)
         return setState(ServiceState::NoBus);
     m_bus = shareObject(bus);
     m_signals.on(bus, "closed", [this] { busClosed(); });
-    askService(StartingTries);
+    askService(START_UP_TRIES);
 }
 
 /// Whether it answers at all is asked first, without waiting: a daemon that hangs shall not hold up
@@ -145,7 +145,7 @@ void ModemWatch::makeManager(int tries)
     // A daemon that is starting has its name on the bus a little before its objects.
     if (tries == 0)
         return setState(ServiceState::NoService);
-    m_thread.after(StartingPause, [this, tries] {
+    m_thread.after(START_UP_PAUSE, [this, tries] {
         if (m_bus && !m_manager && !m_isAsking)
             askService(tries - 1);
     });

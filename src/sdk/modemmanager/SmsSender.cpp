@@ -12,7 +12,7 @@ namespace
 {
 
 /// As with commands, the client decides how long it waits for the outcome.
-const int NoTimeLimit = G_MAXINT;
+const int NO_TIME_LIMIT = G_MAXINT;
 
 GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)
 {
@@ -34,7 +34,7 @@ void SmsSender::setInterface(MMModemMessaging *messaging)
         return;
     m_messaging = shareObject(messaging);
     if (m_messaging)
-        g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(messaging), NoTimeLimit);
+        g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(messaging), NO_TIME_LIMIT);
 }
 
 void SmsSender::send(const SmsMessage &message)
@@ -60,7 +60,7 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
         return finish(id, error);
     if (m_onTheirWay.count(id) == 0)
         return remove(sms); // has been given up: whoever sends it again does not mean it twice
-    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NoTimeLimit);
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
         mm_sms_send_finish(MM_SMS(source), result, failure.slot());
@@ -77,7 +77,7 @@ void SmsSender::sent(Id id, MMSms *sms, const GError *error)
         return finish(id, error);
     const SmsMessage message = found->second;
     m_onTheirWay.erase(found);
-    m_listener.finished(message, SmsSent);
+    m_listener.finished(message, SMS_SENT);
 }
 
 /// Sent or not, the SIM's few places are not for keeping it; a failure leaves the record behind.
@@ -103,14 +103,14 @@ void SmsSender::finish(Id id, const GError *error)
     m_onTheirWay.erase(found);
     if (error && isNotPermitted(*error))
         m_listener.notPermitted();
-    m_listener.finished(message, SmsFailed);
+    m_listener.finished(message, SMS_FAILED);
 }
 
 void SmsSender::giveUp()
 {
     const std::map<Id, SmsMessage> lost = std::exchange(m_onTheirWay, {});
     for (const auto &entry : lost)
-        m_listener.finished(entry.second, SmsFailed);
+        m_listener.finished(entry.second, SMS_FAILED);
 }
 
 } // namespace tksv

@@ -11,10 +11,10 @@ namespace
 {
 
 /// How long news of the state may lag behind a reply before it is asked for.
-const std::chrono::milliseconds StateLag(500);
+const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
 /// GDBus would give a call up after 25 s; how long a reply may take is the client's to decide.
-const int NoTimeLimit = G_MAXINT;
+const int NO_TIME_LIMIT = G_MAXINT;
 
 bool names(GVariant *changed, const char *property)
 {
@@ -48,7 +48,7 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_ussd = shareObject(ussd);
     if (!m_ussd)
         return interfaceGone();
-    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NoTimeLimit);
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NO_TIME_LIMIT);
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
@@ -207,7 +207,7 @@ void UssdChannel::waitForState()
 /// One timer for all commands, since each that waited would make every turn of the loop longer.
 void UssdChannel::startLagTimer()
 {
-    m_thread.after(StateLag, [self = weak_from_this(), call = m_call] {
+    m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
         const std::shared_ptr<UssdChannel> alive = self.lock();
         if (!alive)
             return;

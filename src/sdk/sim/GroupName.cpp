@@ -10,17 +10,17 @@ namespace tksv
 namespace
 {
 
-const char SmsPrefix[] = "SMS ";
-const char PushPrefix[] = "Push ";
-const char EventPrefix[] = "Event ";
+const char SMS_PREFIX[] = "SMS ";
+const char PUSH_PREFIX[] = "Push ";
+const char EVENT_PREFIX[] = "Event ";
 
 /// The characters of a code, with at most one %s.
 bool isCodeOrPattern(const std::string &name)
 {
     std::string rest = name;
-    const std::size_t place = rest.find(AnyDigits);
+    const std::size_t place = rest.find(ANY_DIGITS);
     if (place != std::string::npos)
-        rest.replace(place, sizeof AnyDigits - 1, "0");
+        rest.replace(place, sizeof ANY_DIGITS - 1, "0");
     return hasFormOfCode(name) && rest.find_first_not_of("0123456789*#") == std::string::npos;
 }
 
@@ -32,14 +32,14 @@ bool isSmsNumber(const std::string &text)
 bool isPushOrCode(const std::string &name)
 {
     return isCodeOrPattern(name) ||
-           (startsWith(name, PushPrefix) && name.size() > sizeof PushPrefix - 1);
+           (startsWith(name, PUSH_PREFIX) && name.size() > sizeof PUSH_PREFIX - 1);
 }
 
 } // namespace
 
 std::string smsNumberOf(const std::string &name)
 {
-    return startsWith(name, SmsPrefix) ? name.substr(sizeof SmsPrefix - 1) : std::string();
+    return startsWith(name, SMS_PREFIX) ? name.substr(sizeof SMS_PREFIX - 1) : std::string();
 }
 
 GroupKind kindOf(const std::string &name)
@@ -48,14 +48,14 @@ GroupKind kindOf(const std::string &name)
         return GroupKind::Network;
     if (name == "SMS" || isSmsNumber(smsNumberOf(name)))
         return GroupKind::Sms;
-    if (startsWith(name, EventPrefix) && name.size() > sizeof EventPrefix - 1)
+    if (startsWith(name, EVENT_PREFIX) && name.size() > sizeof EVENT_PREFIX - 1)
         return GroupKind::Event;
     const std::size_t slash = name.find('/');
     if (!isPushOrCode(name.substr(0, slash)))
         return GroupKind::Unknown;
     if (slash != std::string::npos)
         return GroupKind::Answer;
-    return startsWith(name, PushPrefix) ? GroupKind::Push : GroupKind::Code;
+    return startsWith(name, PUSH_PREFIX) ? GroupKind::Push : GroupKind::Code;
 }
 
 std::string menuOf(const std::string &answerGroup)
@@ -65,7 +65,7 @@ std::string menuOf(const std::string &answerGroup)
 
 bool hasPattern(const std::string &name)
 {
-    return name.substr(0, name.find('/')).find(AnyDigits) != std::string::npos;
+    return name.substr(0, name.find('/')).find(ANY_DIGITS) != std::string::npos;
 }
 
 std::string bracketed(const std::string &name)

@@ -117,7 +117,7 @@ private:
         else if (rule->second.outcome != Outcome::Reply || !rule->second.goTo.empty())
             complain("expected a Reply in " + bracketed(menu) + ", which this is an answer to");
         const bool isPlain = !answer.empty() && answer.find('%') == std::string::npos;
-        if ((!isPlain && answer != AnyAnswer) || hasFormOfCode(answer))
+        if ((!isPlain && answer != ANY_ANSWER) || hasFormOfCode(answer))
             complain("expected an answer, or %s for any other answer, after the last /");
     }
 

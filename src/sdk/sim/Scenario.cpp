@@ -45,11 +45,11 @@ bool nextPart(const std::string &text, std::size_t &position, TextPart &part)
 
 std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code)
 {
-    const std::size_t place = pattern.find(AnyDigits);
+    const std::size_t place = pattern.find(ANY_DIGITS);
     if (place == std::string::npos || pattern.find('/') != std::string::npos)
         return std::nullopt;
     const std::string before = pattern.substr(0, place);
-    const std::string after = pattern.substr(place + sizeof AnyDigits - 1);
+    const std::string after = pattern.substr(place + sizeof ANY_DIGITS - 1);
     if (code.size() < before.size() + after.size() || !startsWith(code, before) ||
         !endsWith(code, after))
         return std::nullopt;
@@ -77,7 +77,7 @@ Match findAnswer(const Scenario &scenario, const std::string &menu, const std::s
     const bool canBeExact = answer.find_first_of("%/") == std::string::npos;
     if (canBeExact && scenario.rules.count(exact))
         return Match{exact, std::string()};
-    const std::string any = menu + "/" + AnyAnswer;
+    const std::string any = menu + "/" + ANY_ANSWER;
     return Match{scenario.rules.count(any) ? any : std::string(), std::string()};
 }
 

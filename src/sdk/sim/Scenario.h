@@ -22,7 +22,7 @@ using Amount = long long;
 
 /// How long a device stays away; nothing: for ever.
 using AwayTime = std::optional<Milliseconds>;
-const Milliseconds DefaultAway(3000);
+const Milliseconds DEFAULT_AWAY(3000);
 
 enum class Outcome {
     Reply,
@@ -53,7 +53,7 @@ struct Rule {
     std::string notEnough; // the reply when the balance would fall below 0
 
     int deviceEvent = 0;
-    AwayTime away = DefaultAway;
+    AwayTime away = DEFAULT_AWAY;
 };
 
 struct SmsRule {
@@ -69,7 +69,7 @@ struct TimedEvent {
     std::optional<int> signalPercent;
     std::optional<TKSV_DeviceState> state;
     int deviceEvent = 0;
-    AwayTime away = DefaultAway;
+    AwayTime away = DEFAULT_AWAY;
 };
 
 /** Text that the network sends of its own accord: the rule of the same name says which. */
@@ -97,8 +97,8 @@ struct Scenario {
     std::vector<Push> pushes;
 };
 
-const char AnyDigits[] = "%s"; // in a code
-const char AnyAnswer[] = "%s"; // in place of an answer
+const char ANY_DIGITS[] = "%s"; // in a code
+const char ANY_ANSWER[] = "%s"; // in place of an answer
 
 /** The rule for something that the client sent. */
 struct Match {
@@ -108,7 +108,7 @@ struct Match {
 
 /// An exact group first, then the pattern with the most fixed characters.
 Match findCode(const Scenario &scenario, const std::string &code);
-/// An exact answer first, then AnyAnswer.
+/// An exact answer first, then ANY_ANSWER.
 Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
 /// Whether answers belong to the group, so that its reply leaves the session open.
 bool isMenu(const Scenario &scenario, const std::string &group);

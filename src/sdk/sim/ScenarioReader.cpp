@@ -15,8 +15,8 @@ namespace
 {
 
 /// What TKSV_DeviceInfo has room for.
-const std::size_t MaxOperatorBytes = sizeof TKSV_DeviceInfo::operatorName - 1;
-const std::size_t MaxCurrencyBytes = 16;
+const std::size_t MAX_OPERATOR_BYTES = sizeof TKSV_DeviceInfo::operatorName - 1;
+const std::size_t MAX_CURRENCY_BYTES = 16;
 
 /* ---- the keys of each kind of group ------------------------------------------------------ */
 
@@ -26,39 +26,39 @@ struct Key {
     void (*read)(const ScenarioValue &value, T &target);
 };
 
-const Word<TKSV_DeviceState> DeviceStates[] = {
+const Word<TKSV_DeviceState> DEVICE_STATE_WORDS[] = {
     {"registered", TKSV_DEVICE_REGISTERED},   {"searching", TKSV_DEVICE_SEARCHING},
     {"disabled", TKSV_DEVICE_DISABLED},       {"sim-locked", TKSV_DEVICE_SIM_LOCKED},
     {"sim-missing", TKSV_DEVICE_SIM_MISSING}, {"absent", TKSV_DEVICE_ABSENT}};
 
-const Word<bool> SmsReadiness[] = {{"ready", true}, {"not-ready", false}};
+const Word<bool> SMS_READINESS_WORDS[] = {{"ready", true}, {"not-ready", false}};
 
-const Word<Outcome> Outcomes[] = {{"reply", Outcome::Reply},
-                                  {"refuse", Outcome::Refuse},
-                                  {"unsupported", Outcome::Unsupported},
-                                  {"network-timeout", Outcome::NetworkTimeout},
-                                  {"silence", Outcome::Silence},
-                                  {"device-timeout", Outcome::DeviceTimeout},
-                                  {"no-device", Outcome::NoDevice}};
+const Word<Outcome> OUTCOME_WORDS[] = {{"reply", Outcome::Reply},
+                                       {"refuse", Outcome::Refuse},
+                                       {"unsupported", Outcome::Unsupported},
+                                       {"network-timeout", Outcome::NetworkTimeout},
+                                       {"silence", Outcome::Silence},
+                                       {"device-timeout", Outcome::DeviceTimeout},
+                                       {"no-device", Outcome::NoDevice}};
 
-const Key<Scenario> NetworkKeys[] = {
+const Key<Scenario> NETWORK_KEYS[] = {
     {"Operator",
-     [](const ScenarioValue &v, Scenario &s) { s.operatorName = v.name(MaxOperatorBytes); }},
+     [](const ScenarioValue &v, Scenario &s) { s.operatorName = v.name(MAX_OPERATOR_BYTES); }},
     {"IMSI", [](const ScenarioValue &v, Scenario &s) { s.imsi = v.digits(6, 15); }},
     {"HomeNetwork", [](const ScenarioValue &v, Scenario &s) { s.homeNetwork = v.digits(5, 6); }},
     {"PIN", [](const ScenarioValue &v, Scenario &s) { s.pin = v.digits(4, 8); }},
     {"Signal", [](const ScenarioValue &v, Scenario &s) { s.signalPercent = v.number(0, 100); }},
-    {"State", [](const ScenarioValue &v, Scenario &s) { s.state = v.word(DeviceStates); }},
+    {"State", [](const ScenarioValue &v, Scenario &s) { s.state = v.word(DEVICE_STATE_WORDS); }},
     {"Delay", [](const ScenarioValue &v, Scenario &s) { s.delay = v.milliseconds(); }},
-    {"SMS", [](const ScenarioValue &v, Scenario &s) { s.smsReady = v.word(SmsReadiness); }},
+    {"SMS", [](const ScenarioValue &v, Scenario &s) { s.smsReady = v.word(SMS_READINESS_WORDS); }},
     {"Balance", [](const ScenarioValue &v, Scenario &s) { s.balance = v.amount(); }},
     {"Currency",
-     [](const ScenarioValue &v, Scenario &s) { s.currency = v.name(MaxCurrencyBytes); }},
+     [](const ScenarioValue &v, Scenario &s) { s.currency = v.name(MAX_CURRENCY_BYTES); }},
 };
 
-const Key<Rule> RuleKeys[] = {
+const Key<Rule> RULE_KEYS[] = {
     {"Reply", [](const ScenarioValue &v, Rule &r) { r.reply = v.text(); }},
-    {"Outcome", [](const ScenarioValue &v, Rule &r) { r.outcome = v.word(Outcomes); }},
+    {"Outcome", [](const ScenarioValue &v, Rule &r) { r.outcome = v.word(OUTCOME_WORDS); }},
     {"Goto", [](const ScenarioValue &v, Rule &r) { r.goTo = v.text(); }},
     {"Delay", [](const ScenarioValue &v, Rule &r) { r.delay = v.milliseconds(); }},
     {"Credit", [](const ScenarioValue &v, Rule &r) { v.credit(r); }},
@@ -78,22 +78,23 @@ struct PushTarget {
     Rule rule;
 };
 
-const Key<PushTarget> PushKeys[] = {
+const Key<PushTarget> PUSH_KEYS[] = {
     {"After", [](const ScenarioValue &v, PushTarget &p) { p.push.after = v.milliseconds(); }},
     {"Reply", [](const ScenarioValue &v, PushTarget &p) { p.rule.reply = v.text(); }},
 };
 
-const Key<SmsRule> SmsKeys[] = {
+const Key<SmsRule> SMS_KEYS[] = {
     {"Result", [](const ScenarioValue &v, SmsRule &r) { r.result = v.number(0, 65535); }},
     {"Delay", [](const ScenarioValue &v, SmsRule &r) { r.delay = v.milliseconds(); }},
 };
 
-const Key<TimedEvent> EventKeys[] = {
+const Key<TimedEvent> EVENT_KEYS[] = {
     {"After", [](const ScenarioValue &v, TimedEvent &e) { e.after = v.milliseconds(); }},
     {"Every", [](const ScenarioValue &v, TimedEvent &e) { e.every = v.milliseconds(); }},
-    {"SMS", [](const ScenarioValue &v, TimedEvent &e) { e.smsReady = v.word(SmsReadiness); }},
+    {"SMS",
+     [](const ScenarioValue &v, TimedEvent &e) { e.smsReady = v.word(SMS_READINESS_WORDS); }},
     {"Signal", [](const ScenarioValue &v, TimedEvent &e) { e.signalPercent = v.number(0, 100); }},
-    {"State", [](const ScenarioValue &v, TimedEvent &e) { e.state = v.word(DeviceStates); }},
+    {"State", [](const ScenarioValue &v, TimedEvent &e) { e.state = v.word(DEVICE_STATE_WORDS); }},
     {"DeviceEvent", [](const ScenarioValue &v, TimedEvent &e) { e.deviceEvent = v.deviceEvent(); }},
     {"Away", [](const ScenarioValue &v, TimedEvent &e) { e.away = v.away(); }},
 };
@@ -134,7 +135,7 @@ public:
             m_complaints.add(1, "expected a group [Network] with Operator= and IMSI=");
             return;
         }
-        readKeys(*network, NetworkKeys, m_scenario, m_complaints);
+        readKeys(*network, NETWORK_KEYS, m_scenario, m_complaints);
         require(*network, "Operator");
         require(*network, "IMSI");
     }
@@ -173,7 +174,7 @@ private:
     {
         SmsRule rule;
         rule.delay = m_scenario.delay;
-        readKeys(group, SmsKeys, rule, m_complaints);
+        readKeys(group, SMS_KEYS, rule, m_complaints);
         m_scenario.smsRules[smsNumberOf(group.name)] = rule;
     }
 
@@ -181,7 +182,7 @@ private:
     {
         PushTarget target;
         target.push.group = group.name;
-        readKeys(group, PushKeys, target, m_complaints);
+        readKeys(group, PUSH_KEYS, target, m_complaints);
         require(group, "After");
         require(group, "Reply");
         m_scenario.pushes.push_back(target.push);
@@ -191,7 +192,7 @@ private:
     void readEvent(const KeyFileGroup &group)
     {
         TimedEvent event;
-        readKeys(group, EventKeys, event, m_complaints);
+        readKeys(group, EVENT_KEYS, event, m_complaints);
         require(group, "After");
         const bool doesSomething =
             event.smsReady || event.signalPercent || event.state || event.deviceEvent;
@@ -207,7 +208,7 @@ private:
     {
         Rule rule;
         rule.delay = m_scenario.delay;
-        readKeys(group, RuleKeys, rule, m_complaints);
+        readKeys(group, RULE_KEYS, rule, m_complaints);
         m_scenario.rules[group.name] = rule;
     }
 

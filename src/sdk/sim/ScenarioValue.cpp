@@ -10,9 +10,9 @@ namespace tksv
 namespace
 {
 
-const int MaxMilliseconds = 24 * 60 * 60 * 1000;
-const std::size_t MaxMoneyDigits = 9; // whole units; keeps sums far away from overflow
-const int MaxCodeDigits = 182;
+const int MAX_MILLISECONDS = 24 * 60 * 60 * 1000;
+const std::size_t MAX_MONEY_DIGITS = 9; // whole units; keeps sums far away from overflow
+const int MAX_CODE_DIGITS = 182;
 
 std::optional<int> parseInt(const std::string &text)
 {
@@ -36,7 +36,7 @@ std::optional<Amount> parseMoney(const std::string &text)
     const std::size_t point = text.find('.');
     const std::string whole = text.substr(0, point);
     std::string cents = point == std::string::npos ? "00" : text.substr(point + 1);
-    if (!isDigits(whole) || !isDigits(cents) || whole.size() > MaxMoneyDigits || cents.size() > 2)
+    if (!isDigits(whole) || !isDigits(cents) || whole.size() > MAX_MONEY_DIGITS || cents.size() > 2)
         return std::nullopt;
     cents.resize(2, '0');
     return *parseInt(whole) * Amount(100) + *parseInt(cents);
@@ -78,9 +78,9 @@ int ScenarioValue::number(int min, int max) const
 
 Milliseconds ScenarioValue::milliseconds() const
 {
-    const std::optional<int> value = parseIntBetween(text(), 0, MaxMilliseconds);
+    const std::optional<int> value = parseIntBetween(text(), 0, MAX_MILLISECONDS);
     if (!value)
-        expected("milliseconds from 0 to " + std::to_string(MaxMilliseconds));
+        expected("milliseconds from 0 to " + std::to_string(MAX_MILLISECONDS));
     return Milliseconds(value.value_or(0));
 }
 
@@ -88,9 +88,9 @@ AwayTime ScenarioValue::away() const
 {
     if (text() == "never")
         return std::nullopt;
-    const std::optional<int> value = parseIntBetween(text(), 0, MaxMilliseconds);
+    const std::optional<int> value = parseIntBetween(text(), 0, MAX_MILLISECONDS);
     if (!value)
-        expected("never, or milliseconds from 0 to " + std::to_string(MaxMilliseconds));
+        expected("never, or milliseconds from 0 to " + std::to_string(MAX_MILLISECONDS));
     return Milliseconds(value.value_or(0));
 }
 
@@ -119,11 +119,11 @@ void ScenarioValue::digitCount(std::size_t &fewest, std::size_t &most) const
 {
     const std::size_t dash = text().find('-');
     const std::string last = dash == std::string::npos ? text() : text().substr(dash + 1);
-    const std::optional<int> from = parseIntBetween(text().substr(0, dash), 1, MaxCodeDigits);
-    const std::optional<int> to = parseIntBetween(last, from.value_or(1), MaxCodeDigits);
+    const std::optional<int> from = parseIntBetween(text().substr(0, dash), 1, MAX_CODE_DIGITS);
+    const std::optional<int> to = parseIntBetween(last, from.value_or(1), MAX_CODE_DIGITS);
     if (!from || !to) {
         expected("how many digits, such as 12 or 12-16, from 1 to " +
-                 std::to_string(MaxCodeDigits));
+                 std::to_string(MAX_CODE_DIGITS));
         return;
     }
     fewest = static_cast<std::size_t>(*from);
@@ -132,7 +132,7 @@ void ScenarioValue::digitCount(std::size_t &fewest, std::size_t &most) const
 
 void ScenarioValue::credit(Rule &rule) const
 {
-    if (text() == AnyDigits || text() == std::string("-") + AnyDigits) {
+    if (text() == ANY_DIGITS || text() == std::string("-") + ANY_DIGITS) {
         rule.creditDigits = startsWith(text(), "-") ? -1 : 1;
         return;
     }

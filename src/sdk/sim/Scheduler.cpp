@@ -35,7 +35,7 @@ void Scheduler::stop()
         m_tasks.clear();
         m_wake.notify_one();
     }
-    m_thread.finish(NoLimit);
+    m_thread.finish(NO_LIMIT);
 }
 
 void Scheduler::lookAgain()

@@ -10,9 +10,9 @@ namespace tksv
 namespace
 {
 
-const Amount HundredthsInUnit = 100;
-const int PinRetries = 3;              // as any SIM (ETSI TS 102 221, 9.5.1)
-const std::size_t MaxAmountDigits = 9; // more is more than anybody has
+const Amount HUNDREDTHS_IN_UNIT = 100;
+const int PIN_RETRIES = 3;               // as any SIM (ETSI TS 102 221, 9.5.1)
+const std::size_t MAX_AMOUNT_DIGITS = 9; // more is more than anybody has
 
 /// The type of a reply without text.
 int refusalType(Outcome outcome)
@@ -42,7 +42,7 @@ int statusFor(Outcome outcome)
 Amount creditOf(const Rule &rule, const std::string &digits)
 {
     return rule.credit +
-           (rule.creditDigits ? rule.creditDigits * std::stoll(digits) : 0) * HundredthsInUnit;
+           (rule.creditDigits ? rule.creditDigits * std::stoll(digits) : 0) * HUNDREDTHS_IN_UNIT;
 }
 
 } // namespace
@@ -50,7 +50,7 @@ Amount creditOf(const Rule &rule, const std::string &digits)
 SimulatedNetwork::SimulatedNetwork(Scenario scenario)
     : m_scenario(std::move(scenario)), m_state(m_scenario.state),
       m_signalPercent(m_scenario.signalPercent), m_smsReady(m_scenario.smsReady),
-      m_pinRetries(PinRetries), m_balance(m_scenario.balance.value_or(0))
+      m_pinRetries(PIN_RETRIES), m_balance(m_scenario.balance.value_or(0))
 {
 }
 
@@ -230,7 +230,7 @@ UssdReply SimulatedNetwork::sayText(const Request &request, const Rule &rule)
 /// False when the balance does not suffice.
 bool SimulatedNetwork::takeCredit(const Rule &rule, const std::string &digits)
 {
-    if (rule.creditDigits && digits.size() > MaxAmountDigits)
+    if (rule.creditDigits && digits.size() > MAX_AMOUNT_DIGITS)
         return false;
     const Amount credit = creditOf(rule, digits);
     if (credit < 0 && m_balance + credit < 0)
@@ -313,7 +313,7 @@ void SimulatedNetwork::tryPin(const std::string &pin, News &news)
         return;
     if (pin == m_scenario.pin) {
         m_problem = TKSV_PROBLEM_NONE;
-        m_pinRetries = PinRetries;
+        m_pinRetries = PIN_RETRIES;
         setState(TKSV_DEVICE_REGISTERED, news);
         return;
     }
@@ -344,7 +344,7 @@ void SimulatedNetwork::endSmsInFlight(News &news)
 {
     for (const auto &sms : m_smsInFlight) {
         const SmsMessage message = sms.second;
-        news.push_back([=](BackendObserver &o) { o.smsFinished(message, SmsFailed); });
+        news.push_back([=](BackendObserver &o) { o.smsFinished(message, SMS_FAILED); });
     }
     m_smsInFlight.clear();
 }

@@ -13,7 +13,7 @@ namespace tksv
 namespace
 {
 
-const std::size_t MaxBytes = std::size_t(1024) * 1024;
+const std::size_t MAX_BYTES = std::size_t(1024) * 1024;
 
 using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
 
@@ -36,7 +36,7 @@ void readPieces(std::FILE *file, std::string &text)
 {
     char piece[4096];
     text.clear();
-    while (text.size() <= MaxBytes) {
+    while (text.size() <= MAX_BYTES) {
         const std::size_t length = std::fread(piece, 1, sizeof(piece), file);
         if (length == 0)
             return;
@@ -61,7 +61,7 @@ std::string readTextFile(const std::string &path, std::string &text)
     readPieces(file.get(), text);
     if (std::ferror(file.get()))
         return systemError();
-    return text.size() > MaxBytes ? "expected at most 1 MiB" : std::string();
+    return text.size() > MAX_BYTES ? "expected at most 1 MiB" : std::string();
 }
 
 } // namespace tksv
