@@ -16,15 +16,14 @@ namespace tksv
 namespace
 {
 
-/// How long a slow ModemManager may take to tell of its modems before the simulator begins.
+/// How long the choice waits for a slow ModemManager to list its modems before it takes the
+/// simulator.
 const std::chrono::milliseconds FIRST_LOOK_LIMIT(2000);
 
-/// How long the program's exit waits for a change that is being made.
+/// How long the program's exit waits for a replacement of the backend that is under way.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-const std::uintptr_t ONLY_KEY = 1;
-
-/// A device that is not there, in place of a scenario that cannot be used.
+/// Returns the scenario of an absent device, which stands for a file that cannot be used.
 Scenario absentDevice(const std::string &source)
 {
     Scenario scenario;
@@ -33,28 +32,24 @@ Scenario absentDevice(const std::string &source)
     return scenario;
 }
 
-/// The scenario that the program starts with; what is wrong with it goes to stderr, since nobody
-/// has asked for it in a call that could tell.
-Scenario initialScenario()
+/// Returns the network of the initial scenario. Complaints about the file go to stderr, since no
+/// call of the client can report them.
+std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();
     ScenarioResult result = readScenarioFile(path);
     if (result.scenario)
-        return *std::move(result.scenario);
+        return std::make_shared<SimulatedNetwork>(*std::move(result.scenario));
     std::fprintf(stderr, "%s\n", describe(result.complaints).c_str());
-    return absentDevice(path);
+    return std::make_shared<SimulatedNetwork>(absentDevice(path));
 }
 
 } // namespace
 
 BackendChoice::BackendChoice(BackendObserver &observer)
-    : m_observer(observer), m_initialMode(initialMode()), m_thoughts("tksv-choice"),
+    : m_observer(observer), m_initialMode(initialMode()), m_tasks("tksv-choice"),
       m_watch([this] { watchChanged(); }), m_mode(m_initialMode)
 {
-    m_thoughts.add(ONLY_KEY, [this](int, void *) {
-        reconsider();
-        return true;
-    });
 }
 
 BackendChoice::Mode BackendChoice::initialMode()
@@ -80,18 +75,28 @@ void BackendChoice::stop()
         m_stopped = true;
         if (const std::shared_ptr<Backend> last = current())
             last->stop();
-        if (m_watching)
+        if (m_isWatching)
             m_watch.stop();
     }
-    m_thoughts.stop(EXIT_LIMIT);
+    m_tasks.stop(EXIT_LIMIT);
 }
 
-/* ---- the client's wishes ----------------------------------------------------------------- */
+/* ---- calls of the client ----------------------------------------------------------------- */
+
+std::shared_ptr<Backend> BackendChoice::backendOf(const Device &device)
+{
+    return std::visit([](const auto &kind) -> std::shared_ptr<Backend> { return kind; }, device);
+}
+
+BackendChoice::Device BackendChoice::device() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_device;
+}
 
 std::shared_ptr<Backend> BackendChoice::current() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_current;
+    return backendOf(device());
 }
 
 std::shared_ptr<Backend> BackendChoice::backend()
@@ -100,7 +105,7 @@ std::shared_ptr<Backend> BackendChoice::backend()
         return made;
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     if (!current()) {
-        setCurrent(decide());
+        start(decide());
         if (m_stopped)
             current()->stop();
     }
@@ -125,7 +130,7 @@ void BackendChoice::useModem(const std::string &equipmentId)
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     m_mode = Mode::ModemManager;
     startWatch();
-    replace(makeModem(equipmentId));
+    replace(std::make_shared<ModemManagerBackend>(m_watch, equipmentId));
 }
 
 void BackendChoice::useAutomatic()
@@ -137,86 +142,84 @@ void BackendChoice::useAutomatic()
 
 /* ---- m_switchMutex is held from here on --------------------------------------------------- */
 
-std::shared_ptr<Backend> BackendChoice::decide()
+BackendChoice::Device BackendChoice::decide()
 {
     if (m_mode == Mode::Simulator)
-        return std::make_shared<SimulatedNetwork>(initialScenario());
+        return initialNetwork();
     startWatch();
     if (m_mode == Mode::ModemManager || !m_watch.modems().empty())
-        return makeModem(std::string());
-    if (!hasLooked())
+        return std::make_shared<ModemManagerBackend>(m_watch, std::string());
+    if (!isFirstLookOver())
         return std::make_shared<WaitingDevice>();
-    return std::make_shared<SimulatedNetwork>(initialScenario());
+    return initialNetwork();
 }
 
-std::shared_ptr<Backend> BackendChoice::makeModem(const std::string &equipmentId)
-{
-    return std::make_shared<ModemManagerBackend>(m_watch, equipmentId);
-}
-
-/// The old one is silent before the new one begins, and what it had in hand ends with it.
-void BackendChoice::replace(const std::shared_ptr<Backend> &next)
+/// The old backend is silent before the new one starts. Its request and session end with it; only
+/// a waiting device hands its request over.
+void BackendChoice::replace(const Device &next)
 {
     if (m_stopped)
         return;
-    const std::shared_ptr<Backend> old = current();
-    const auto waiting = std::dynamic_pointer_cast<WaitingDevice>(old);
-    if (old && !waiting)
-        end(*old);
-    m_observer.smsStatusChanged(next->info().canSendSms); // before it tells of a change of its own
-    setCurrent(next);
+    const Device old = device();
+    const std::shared_ptr<Backend> oldBackend = backendOf(old);
+    const std::shared_ptr<Backend> nextBackend = backendOf(next);
+    const auto *const waiting = std::get_if<std::shared_ptr<WaitingDevice>>(&old);
+    if (oldBackend && !waiting)
+        end(*oldBackend);
+    // Before the new backend reports a change itself.
+    m_observer.smsStatusChanged(nextBackend->info().canSendSms);
+    start(next);
     if (waiting)
-        waiting->handOver(next);
+        (*waiting)->handOver(nextBackend);
     m_observer.infoChanged();
 }
 
 void BackendChoice::end(Backend &old)
 {
-    old.stop(); // one that comes in this moment is gone as well
+    old.stop(); // a device that appears at this moment is lost as well
     if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }
 
-void BackendChoice::setCurrent(const std::shared_ptr<Backend> &backend)
+void BackendChoice::start(const Device &device)
 {
-    backend->start(m_observer);
+    backendOf(device)->start(m_observer);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_current = backend;
-    m_modem = std::dynamic_pointer_cast<ModemManagerBackend>(backend);
+    m_device = device;
 }
 
-/// Also when it runs already: a message bus that was not there may be by now.
+/// A watch that runs already looks again: a message bus that was missing may be there by now.
 void BackendChoice::startWatch()
 {
     if (m_stopped)
         return;
     m_watch.start();
-    if (std::exchange(m_watching, true))
+    if (std::exchange(m_isWatching, true))
         return;
     m_watch.thread().post([this] {
         m_watch.thread().after(FIRST_LOOK_LIMIT, [this] {
-            m_isPatient = false;
+            m_firstLookTimedOut = true;
             watchChanged();
         });
     });
 }
 
-bool BackendChoice::hasLooked() const
+bool BackendChoice::isFirstLookOver() const
 {
-    return !m_isPatient || m_watch.state() != ServiceState::Looking;
+    return m_firstLookTimedOut || m_watch.state() != ServiceState::Looking;
 }
 
-/// A modem that comes takes the simulator's place; one that goes leaves its place empty, since
-/// commands meant for the network shall not go to a simulated one unnoticed.
+/// A modem that appears replaces the simulator. A modem that disappears is not replaced, since
+/// commands meant for the network must not reach a simulated network unnoticed.
 void BackendChoice::reconsider()
 {
     const std::lock_guard<std::mutex> lock(m_switchMutex);
-    const std::shared_ptr<Backend> now = current();
-    if (m_stopped || m_mode != Mode::Automatic || !now)
+    const Device now = device();
+    if (m_stopped || m_mode != Mode::Automatic || !backendOf(now))
         return;
-    const bool isModem = std::dynamic_pointer_cast<ModemManagerBackend>(now) != nullptr;
-    const bool isWaiting = std::dynamic_pointer_cast<WaitingDevice>(now) != nullptr;
-    if (!isModem && (isWaiting ? hasLooked() : !m_watch.modems().empty()))
+    const bool isWaiting = std::holds_alternative<std::shared_ptr<WaitingDevice>>(now);
+    const bool isSimulated = std::holds_alternative<std::shared_ptr<SimulatedNetwork>>(now);
+    if ((isWaiting && isFirstLookOver()) || (isSimulated && !m_watch.modems().empty()))
         replace(decide());
 }
 
@@ -224,14 +227,10 @@ void BackendChoice::reconsider()
 
 void BackendChoice::watchChanged()
 {
-    std::shared_ptr<ModemManagerBackend> modem;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        modem = m_modem;
-    }
-    if (modem)
-        modem->modemsChanged();
-    m_thoughts.post(Event());
+    const Device now = device();
+    if (const auto *const modem = std::get_if<std::shared_ptr<ModemManagerBackend>>(&now))
+        (*modem)->modemsChanged();
+    m_tasks.post([this] { reconsider(); });
     m_observer.infoChanged();
 }
 

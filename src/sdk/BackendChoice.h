@@ -5,77 +5,89 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "base/Backend.h"
-#include "EventService.h"
+#include "base/TaskQueue.h"
 #include "modemmanager/ModemWatch.h"
-#include "sim/Scenario.h"
 
 namespace tksv
 {
 
 class ModemManagerBackend;
+class SimulatedNetwork;
+class WaitingDevice;
 
 /**
- * Which backend is the device: what $TKSV_BACKEND and the client ask for, and otherwise a modem
- * when there is one. It is made on first need and can be exchanged at any time.
+ * Decides which backend is the device: the one that $TKSV_BACKEND or the client asks for, otherwise
+ * a modem when there is one. The backend is created on first need and can be replaced at any time.
  *
- * Locks: m_switchMutex, held while one backend takes the place of another, before all those of the
- * session, the backends and the services; m_mutex is the last of all. The watch's thread takes only
- * the latter: a change that it tells of is looked at on a thread of its own, which may wait for it.
+ * Locks: m_switchMutex is held while a backend is replaced, and is taken before every lock of the
+ * session, the backends and the services. m_mutex is taken after all of these. The watch's thread
+ * takes only m_mutex; reconsider() needs m_switchMutex and runs on the thread of m_tasks, which may
+ * wait for it.
  */
 class BackendChoice
 {
 public:
-    /// The observer outlives it. `stop()` comes before the end.
+    /// The observer outlives the choice. stop() must be called before the destructor.
     explicit BackendChoice(BackendObserver &observer);
     BackendChoice(const BackendChoice &) = delete;
     BackendChoice &operator=(const BackendChoice &) = delete;
 
+    /// Returns the backend in use, and creates it on the first call.
     std::shared_ptr<Backend> backend();
-    /// Null as long as nobody has needed it.
+    /// Returns the backend in use, or null before the first call of backend() or of a use function.
     std::shared_ptr<Backend> current() const;
 
-    /// Empty on success, else the complaints. An empty path takes the initial scenario.
+    /// Switches to the network of a scenario file; an empty path is the initial scenario. Returns
+    /// an empty text on success, otherwise the complaints about the file.
     std::string useScenario(const std::string &path);
-    /// An empty identifier: whichever modem comes first.
+    /// Switches to a modem; an empty identifier is whichever modem comes first.
     void useModem(const std::string &equipmentId);
+    /// Switches back to the choice that the program started with.
     void useAutomatic();
+    /// Returns the modems that ModemManager has found, the oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
-    /// At the end of the program; there is no device any more.
+    /// Ends the backend and all threads. A backend that is created later refuses everything.
     void stop();
 
 private:
     enum class Mode { Automatic, Simulator, ModemManager };
 
+    /// One alternative for each kind of backend; null before the first backend is created.
+    using Device =
+        std::variant<std::shared_ptr<SimulatedNetwork>, std::shared_ptr<ModemManagerBackend>,
+                     std::shared_ptr<WaitingDevice>>;
+
     static Mode initialMode();
-    std::shared_ptr<Backend> decide();
-    std::shared_ptr<Backend> makeModem(const std::string &equipmentId);
-    void replace(const std::shared_ptr<Backend> &next);
+    static std::shared_ptr<Backend> backendOf(const Device &device);
+    Device device() const;
+    Device decide();
+    void replace(const Device &next);
     void end(Backend &old);
-    void setCurrent(const std::shared_ptr<Backend> &backend);
+    void start(const Device &device);
     void startWatch();
-    bool hasLooked() const;
+    bool isFirstLookOver() const;
     void reconsider();
     void watchChanged();
 
     BackendObserver &m_observer;
     const Mode m_initialMode;
-    EventService m_thoughts; // whose thread reconsiders
+    TaskQueue m_tasks; // runs reconsider()
     ModemWatch m_watch;
 
-    std::mutex m_switchMutex; // guards m_mode, m_watching and m_stopped
+    std::mutex m_switchMutex; // guards m_mode, m_isWatching and m_stopped
     Mode m_mode;
-    bool m_watching = false;
+    bool m_isWatching = false;
     bool m_stopped = false;
 
-    std::atomic<bool> m_isPatient{true}; // still waits for ModemManager's first word
+    std::atomic<bool> m_firstLookTimedOut{false};
 
-    mutable std::mutex m_mutex; // guards what follows
-    std::shared_ptr<Backend> m_current;
-    std::shared_ptr<ModemManagerBackend> m_modem; // m_current, when it is one
+    mutable std::mutex m_mutex; // guards m_device
+    Device m_device;
 };
 
 } // namespace tksv

@@ -114,7 +114,7 @@ void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
         return; // told when that changes
     Event event = statusEvent(true);
     event.onlyKey = keyOf(callback);
-    event.begin = [this] { return info().canSendSms; };
+    event.beforeDelivery = [this] { return info().canSendSms; };
     m_smsEvents.post(std::move(event));
 }
 

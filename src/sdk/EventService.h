@@ -4,36 +4,38 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
 
-#include "base/WorkerThread.h"
+#include "base/TaskQueue.h"
 
 namespace tksv
 {
 
-/** An event on its way to the call-backs of one service. */
+/** An event on its way to the listeners of one service. */
 struct Event {
     int number = 0;
-    std::shared_ptr<void> data; // the record; gone when the last call-back has returned
-    std::uintptr_t onlyKey = 0; // for the listener with this key alone; 0: for all
-    /// Asked on the service's thread right before delivery; false drops the event. Empty: deliver.
-    std::function<bool()> begin;
-    /// Told whether a call-back took the event. May be empty.
-    std::function<void(bool taken)> end;
+    std::shared_ptr<void> data; // the record; destroyed after the last listener has returned
+    std::uintptr_t onlyKey = 0; // key of the only listener that gets the event; 0: all listeners
+    /// Called on the service's thread right before delivery. Returning false drops the event. An
+    /// empty function lets the event pass.
+    std::function<bool()> beforeDelivery;
+    /// Called after delivery with whether a listener took the event. May be empty.
+    std::function<void(bool taken)> afterDelivery;
 };
 
 /**
- * One service of the SDK: its call-backs, and a thread that calls them one after the other.
- * All functions may be called from any thread, also from inside a call-back, and hold no lock
- * while a call-back, `begin` or `end` runs.
+ * One service of the SDK: its listeners, and a thread that calls them one after the other.
+ *
+ * Any thread may call any function, also from inside a listener. No lock is held while a listener,
+ * `beforeDelivery` or `afterDelivery` runs.
  */
 class EventService
 {
 public:
+    /// Returns whether the listener took the event.
     using Handler = std::function<bool(int number, void *data)>;
 
     /// `threadName` has at most 15 characters and lives as long as the program.
@@ -43,56 +45,53 @@ public:
     EventService(const EventService &) = delete;
     EventService &operator=(const EventService &) = delete;
 
-    /// The listener gets what is posted from now on. A key that is there already changes nothing.
+    /// Adds a listener, which gets the events that are posted from now on. A key that is already
+    /// there changes nothing.
     void add(std::uintptr_t key, Handler handler);
-    /// When it returns, the listener is not running and will not run again; from inside the
-    /// listener itself it returns at once. Returns whether the key was there.
+    /// Removes a listener. When the call returns, the listener is not running and will not run
+    /// again; a call from inside the listener itself returns at once. Returns whether the key was
+    /// there.
     bool remove(std::uintptr_t key);
-    /// Takes off all listeners, as remove() does, and adds one unless `handler` is empty.
+    /// Removes all listeners, as remove() does, and adds one unless `handler` is empty.
     void replaceAll(std::uintptr_t key, Handler handler);
+    /// Returns whether there is no listener.
     bool isEmpty() const;
 
+    /// Delivers the event on the service's thread.
     void post(Event event);
 
-    /// Drops what waits and calls no listener any more; one that is running is waited for at most
-    /// `limit`. Returns whether the thread has ended: only then may the object be destroyed.
+    /// Drops the waiting events, calls no listener any more, and waits for a running listener at
+    /// most for `limit`. Returns whether the thread has ended; only then may the object be
+    /// destroyed.
     bool stop(std::chrono::milliseconds limit);
 
 private:
     struct Listener {
-        std::uint64_t id;    // of this registration
-        std::uint64_t since; // first event that it gets
+        std::uint64_t id;         // of this registration
+        std::uint64_t firstEvent; // number of the first event that the listener gets
         std::uintptr_t key;
         Handler handler;
     };
-    struct Queued {
-        std::uint64_t number;
-        Event event;
-    };
 
-    bool start();
-    void run();
-    void deliver(const Queued &queued);
-    std::vector<std::uint64_t> listenersFor(const Queued &queued) const;
-    bool call(std::uint64_t id, const Event &event);
-    bool enter(std::uint64_t id, Handler &handler);
-    void leave();
+    void deliver(std::uint64_t eventId, const Event &event);
+    bool isStopping() const;
+    std::vector<std::uint64_t> listenersFor(std::uint64_t eventId, const Event &event) const;
+    bool call(std::uint64_t listenerId, const Event &event);
+    bool beginCall(std::uint64_t listenerId, Handler &handler);
+    void endCall();
     void insert(std::uintptr_t key, Handler handler);
     bool contains(std::uintptr_t key) const;
     void waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key);
 
-    const char *const m_threadName;
-    mutable std::mutex m_mutex; // guards everything below
-    std::condition_variable m_wake;
-    std::condition_variable m_left;
+    mutable std::mutex m_mutex; // guards everything below but the queue; taken before its mutex
+    std::condition_variable m_callEnded;
     std::vector<Listener> m_listeners;
-    std::deque<Queued> m_queue;
-    std::uint64_t m_lastId = 0;
-    std::uint64_t m_lastEvent = 0;
-    std::uintptr_t m_runningKey = 0; // 0: no listener runs
-    std::uint64_t m_run = 0;         // counts calls of listeners
+    std::uint64_t m_lastListenerId = 0;
+    std::uint64_t m_lastEventId = 0;
+    std::uintptr_t m_runningKey = 0; // of the listener that runs; 0: none runs
+    std::uint64_t m_callCount = 0;   // calls of listeners so far
     bool m_stopping = false;
-    WorkerThread m_thread;
+    TaskQueue m_deliveries; // the last member: its thread ends before the others are destroyed
 };
 
 } // namespace tksv

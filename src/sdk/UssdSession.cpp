@@ -66,9 +66,9 @@ void UssdSession::post(const UssdReply &reply, std::function<bool()> begin)
 {
     Event event;
     event.data = encodeResponse(reply);
-    event.begin = std::move(begin);
+    event.beforeDelivery = std::move(begin);
     const UntakenText text{std::chrono::system_clock::now(), reply};
-    event.end = [this, text](bool taken) { ended(text, taken); };
+    event.afterDelivery = [this, text](bool taken) { ended(text, taken); };
     m_service.post(std::move(event));
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/CodeForm.h"
 #include "base/Records.h"
+#include "base/TaskQueue.h"
 #include "base/Text.h"
 #include "base/WorkerThread.h"
 #include "EventService.h"
@@ -69,7 +70,7 @@ void drain(EventService &service)
 {
     Gate gate;
     Event last;
-    last.begin = [&gate] {
+    last.beforeDelivery = [&gate] {
         gate.open();
         return false;
     };
@@ -96,6 +97,8 @@ private slots:
     void stopDropsWhatWaits();
     void stopDoesNotWaitForEver();
     void eventForOneListenerAlone();
+    void tasksRunInTheirOrder();
+    void stoppedQueueDropsItsTasks();
     void threadTakesNoSignals();
     void textIsCutBetweenCharacters();
     void malformedTextIsNotConverted();
@@ -289,6 +292,49 @@ void SdkSession::eventForOneListenerAlone()
     drain(service);
     QCOMPARE(first.load(), 0);
     QCOMPARE(second.load(), 1);
+}
+
+void SdkSession::tasksRunInTheirOrder()
+{
+    TaskQueue queue("test");
+    Gate allPosted;
+    Gate done;
+    std::vector<int> order;
+    std::atomic<bool> ranOnTheQueue(false);
+    queue.post([&] {
+        allPosted.wait();
+        order.push_back(1);
+        ranOnTheQueue = queue.isCurrent();
+        queue.post([&] {
+            order.push_back(3);
+            done.open();
+        });
+    });
+    queue.post([&] { order.push_back(2); });
+    allPosted.open();
+    QVERIFY(done.wait());
+    QVERIFY((order == std::vector<int>{1, 2, 3}));
+    QVERIFY(ranOnTheQueue);
+    QVERIFY(!queue.isCurrent());
+}
+
+void SdkSession::stoppedQueueDropsItsTasks()
+{
+    TaskQueue queue("test");
+    Gate entered;
+    std::atomic<bool> secondRan(false);
+    const auto captured = std::make_shared<int>(1);
+    queue.post([&] {
+        entered.open();
+        while (queue.isCurrent()) // until stop() has been called
+            std::this_thread::yield();
+    });
+    queue.post([&secondRan, captured] { secondRan = true; });
+    QVERIFY(entered.wait());
+    QVERIFY(queue.stop(NO_LIMIT));
+    queue.post([&secondRan, captured] { secondRan = true; });
+    QVERIFY(!secondRan);
+    QCOMPARE(captured.use_count(), 1L);
 }
 
 void SdkSession::threadTakesNoSignals()
