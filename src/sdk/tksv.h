@@ -1,16 +1,25 @@
 /*
  * The device SDK: USSD, short messages and device events of a mobile-broadband device.
  *
- * Plain C; every function may be called from any thread and returns at once: none waits for the
- * network. 0 means success everywhere. All text is UTF-16 in host byte order.
+ * The interface is plain C, from C89 and C++98 on. All text is UTF-16 in host byte order, counted
+ * in units of two bytes.
  *
- * Call-backs come on threads of the SDK, never from inside a call that the client makes, and one
- * at a time for each of the three services (device, USSD, SMS). The record that a call-back gets
- * lives during that call only. After an unregister call has returned, that call-back is not
- * running and will not run again; an unregister from inside the call-back itself returns at once.
+ * Results: every function returns 0 on success and another value on failure. A function also fails
+ * when a pointer that it needs is null, and when memory or threads are used up.
+ *
+ * Threads: every function may be called from any thread, also from inside a call-back, and returns
+ * without waiting for the network.
+ *
+ * Call-backs: the SDK calls them on its own threads, never from inside a call that the client
+ * makes, and one at a time for each of the three services (device, USSD, SMS). After an unregister
+ * call has returned, the call-back is not running and will not run again; an unregister call from
+ * inside the call-back itself returns at once. When the program exits, the SDK waits at most one
+ * second for the running call-back of a service.
  */
 #ifndef TKSV_H
 #define TKSV_H
+
+#include <stddef.h>
 
 #ifdef __cplusplus
 extern "C" {
@@ -21,138 +30,199 @@ extern "C" {
 /* ---- call-backs and events --------------------------------------------------------------- */
 
 /**
- * Called by the SDK. What `event` and `data` are depends on the service it is registered with.
- * Returns 1 when the client took the event, 0 when it had no use for it.
+ * The function that the SDK calls for each event. The service that the call-back is registered with
+ * decides what `event` and `data` are. `data` belongs to the SDK and is valid during the call only.
+ *
+ * Returns 1 when the client took the event, 0 when the client had no use for it. The call-back must
+ * not throw an exception.
  */
 typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 
-/** Device events that end a request in flight (data is null). */
-#define TKSV_DEV_EVENT_GONE 6016  /* the device went away */
+/* Device events. Each ends the USSD session and a request in flight; `data` is null. */
+#define TKSV_DEV_EVENT_GONE 6016  /* the device was removed */
 #define TKSV_DEV_EVENT_RESET 6601 /* the device was reset */
 
-/** SMS events. */
-#define TKSV_SMS_EVENT_SEND_RESULT 0    /* data: TKSV_SMSSendResult */
-#define TKSV_SMS_EVENT_STATUS_CHANGED 2 /* data: TKSV_SMSStatus */
+/* SMS events. */
+#define TKSV_SMS_EVENT_SEND_RESULT 0    /* `data` is a TKSV_SMSSendResult */
+#define TKSV_SMS_EVENT_STATUS_CHANGED 2 /* `data` is a TKSV_SMSStatus */
 
-/** Values of TKSV_SMSStatus::status. */
+/* Values of TKSV_SMSStatus::status. */
 #define TKSV_SMS_STATUS_CAN_SEND 7
 #define TKSV_SMS_STATUS_CANNOT_SEND 8
 
-/** `*status` of a refused TKSV_USSDSrv_Request when the device did not answer in time. */
+/** `*status` of a TKSV_USSDSrv_Request that fails because the device did not answer in time. */
 #define TKSV_STATUS_DEVICE_TIMEOUT 5
 
 /* ---- records ----------------------------------------------------------------------------- */
 
-/** UTF-16 units that the record of a command holds. */
+/** The capacity of TKSV_USSDRequest::text, in UTF-16 units. */
 #define TKSV_USSD_MAX_UNITS 184
 
 /**
- * The longest command that a client hands over, in bytes: 91 UTF-16 units. The record would hold
- * more, and the SDK accepts what the record holds.
+ * The longest command that a client sends, in bytes; 91 UTF-16 units fit. The SDK itself accepts
+ * whatever the record holds.
  */
 #define TKSV_USSD_MAX_COMMAND_BYTES 183
 
-/** A command on its way to the network. 372 bytes on every build. */
+/** A command to the network (3GPP TS 22.090). The record has 372 bytes on every platform. */
 typedef struct TKSV_USSDRequest {
-    unsigned int length;                      /* of the command, in bytes */
-    unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16, not terminated */
+    unsigned int length; /* of the command, in bytes: an even number, 2 to 368 */
+    unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16 without a terminating zero */
 } TKSV_USSDRequest;
 
 /**
- * The network's reply to a command, or text that it sent of its own accord.
- * `type` is the <m> of an unsolicited +CUSD result (3GPP TS 27.007): 0 nothing more to do, 1 the
- * network waits for an answer. A response that the network refused or that failed on the device
- * has an empty text and a type other than 0.
+ * The network's reply to a command, or text that the network sent of its own accord.
+ *
+ * `type` is the <m> of an unsolicited +CUSD result (3GPP TS 27.007, 7.15): 0 when no further action
+ * is needed, 1 when the network waits for an answer. A command that the network refused or that
+ * failed on the device has an empty text and a type other than 0.
  */
 typedef struct TKSV_USSDResponse {
     int type;
     int reserved;
-    unsigned short text[1]; /* UTF-16, as long as it needs, closed by a zero unit */
+    unsigned short text[1]; /* UTF-16 of any length, terminated by a zero unit */
 } TKSV_USSDResponse;
 
-/** How a short message fared. The two texts are those that the record was created with. */
+/**
+ * The outcome of sending a short message. Both texts are those that the message was created with,
+ * in UTF-16 and terminated by a zero unit; the record owns them.
+ */
 typedef struct TKSV_SMSSendResult {
     unsigned char reserved0[16];
-    int result; /* 0 sent, anything else failed */
+    int result; /* 0 when the message was sent; any other value is a failure */
     unsigned char reserved1[64];
-    const unsigned short *number; /* UTF-16, closed by a zero unit */
-    const unsigned short *text;   /* likewise */
+    const unsigned short *number;
+    const unsigned short *text;
 } TKSV_SMSSendResult;
 
-/** Whether short messages can be sent: TKSV_SMS_STATUS_CAN_SEND or TKSV_SMS_STATUS_CANNOT_SEND. */
+/** Whether short messages can be sent. */
 typedef struct TKSV_SMSStatus {
-    int status;
+    int status; /* TKSV_SMS_STATUS_CAN_SEND or TKSV_SMS_STATUS_CANNOT_SEND */
 } TKSV_SMSStatus;
 
-/** A short message being written; only the SDK knows its inside. */
+/** The handle of a short message. Only the SDK knows the contents. */
 typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
 
 /* ---- USSD (3GPP TS 22.090) --------------------------------------------------------------- */
 
 /**
- * Hands a command to the network; the record is copied. One accepted request gets at most one
- * response. While the network waits for an answer, the request is that answer, unless it has the
- * form of a code (begins with * or #, ends with #): then it ends the session and begins a new one.
- * A request made while an earlier one is still on its way replaces it, and the earlier one gets no
- * response any more.
+ * Sends a command to the network and copies the record. An accepted request gets at most one
+ * response; the response counts as delivered once its call-back has started.
  *
- * Returns non-zero and sets `*status` when there is no usable device or the record is malformed
- * (length 0, odd or over 368, text that is no UTF-16 or holds a zero unit); `*status` is
- * TKSV_STATUS_DEVICE_TIMEOUT when the device did not answer in time. What was refused leaves
- * everything as it was. A response whose call-back has begun counts as given. `status` must not be
- * null.
+ * While the network waits for an answer, the request is that answer. A request in the form of a
+ * code (it starts with * or # and ends with #) ends the session instead and starts a new one. A
+ * request that is made while an earlier request is in flight replaces the earlier one, which then
+ * gets no response.
+ *
+ * Fails and sets `*status` to a value other than 0 when there is no usable device, and when the
+ * record is malformed: a length of 0, odd or over 368, text that is not well-formed UTF-16, or text
+ * that contains a zero unit. `*status` is TKSV_STATUS_DEVICE_TIMEOUT when the device did not answer
+ * in time. A request that fails changes neither the session nor a request in flight. `status` must
+ * not be null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 
-/** Ends the USSD session, and with it a request in flight. Harmless without a session. */
+/**
+ * Ends the USSD session and a request in flight, which then gets no response. The call succeeds
+ * without a session, too. Sets `*status` to 0; `status` may be null.
+ */
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
 /**
- * From now on `callback` gets each response (event 0, data: TKSV_USSDResponse), and text that the
- * network sends of its own accord. Twice is the same as once.
+ * Registers a call-back for responses and for text that the network sends of its own accord. The
+ * event is 0, and `data` is a TKSV_USSDResponse. Registering a call-back twice has no further
+ * effect.
  */
 TKSV_API long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback);
-/** Non-zero when it was not registered. The last one to go ends the session. */
+
+/**
+ * Unregisters a call-back. Fails when the call-back is not registered. Unregistering the last
+ * call-back ends the session.
+ */
 TKSV_API long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback);
 
 /* ---- device ------------------------------------------------------------------------------ */
 
-/** From now on `callback` gets each device event. */
+/**
+ * Registers a call-back for device events. Registering a call-back twice has no further effect.
+ */
 TKSV_API long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callback);
+
+/** Unregisters a call-back. Fails when the call-back is not registered. */
 TKSV_API long TKSV_DevSrv_UnRegisterDevInitEventCallback(TKSV_EventCallback callback);
 
 /* ---- short messages (3GPP TS 23.040) ------------------------------------------------------ */
 
 /**
- * From now on `callback` gets each SMS event. While messages can be sent, it gets status
- * TKSV_SMS_STATUS_CAN_SEND soon after.
+ * Registers a call-back for SMS events. When messages can be sent at this time, the call-back soon
+ * gets the status TKSV_SMS_STATUS_CAN_SEND.
  */
 TKSV_API long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback);
+
+/** Unregisters a call-back. Fails when the call-back is not registered. */
 TKSV_API long TKSV_SMSSrv_UnRegCallBack(TKSV_EventCallback callback);
 
 /**
- * Makes a message of two zero-terminated UTF-16 texts, which are copied. On success `*record` is
- * the caller's and is given back with TKSV_SMSSrv_ReleaseSMSRecord; on failure it is null.
+ * Creates a message from two zero-terminated UTF-16 texts, which are copied. `number` must not be
+ * empty. On success, the caller owns `*record` and passes it to TKSV_SMSSrv_ReleaseSMSRecord later.
+ * On failure, `*record` is null.
  */
 TKSV_API long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned short *number,
                                           const unsigned short *text);
 
-/** Sends the message; TKSV_SMS_EVENT_SEND_RESULT tells later how it fared. */
+/**
+ * Sends the message. TKSV_SMS_EVENT_SEND_RESULT reports the outcome later. Fails when no message
+ * can be sent at this time, and when `record` is not a message; no event follows then.
+ */
 TKSV_API long TKSV_SMSSrv_SendMsg(TKSV_SMSRecord record);
 
-/** Gives a message back; also right after TKSV_SMSSrv_SendMsg, which keeps what it needs. */
+/**
+ * Releases a message. The call may directly follow TKSV_SMSSrv_SendMsg, which copies what it needs.
+ * Fails when `record` is not a message.
+ */
 TKSV_API long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record);
 
 /* ---- folders ----------------------------------------------------------------------------- */
 
 /**
- * Hands out the user's data folder as a new zero-terminated UTF-16 array, which the caller frees
- * with delete[]. The folder exists and its text ends in "/".
+ * Returns the user's data folder as a new zero-terminated UTF-16 array. The caller owns the array
+ * and frees it with delete[]. The path ends in "/", and the folder exists. On failure, `*directory`
+ * is null.
  */
 TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 
 #ifdef __cplusplus
 }
+#endif
+
+/* ---- layout of the records --------------------------------------------------------------- */
+
+/* Client and library may come from different compilers, so each side checks the layout while it is
+ * built. Compilers older than C11 and C++11 have no static assertions and skip the checks. */
+#if defined(__cplusplus) && __cplusplus >= 201103L
+#define TKSV_CHECK_LAYOUT(condition) static_assert(condition, "layout of a device SDK record")
+#elif !defined(__cplusplus) && defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
+#define TKSV_CHECK_LAYOUT(condition) _Static_assert(condition, "layout of a device SDK record")
+#endif
+
+#ifdef TKSV_CHECK_LAYOUT
+/* A pointer has 4 bytes on 32-bit platforms and 8 bytes, to which it is aligned, on 64-bit ones. */
+#define TKSV_BY_POINTER_SIZE(of4, of8) (sizeof(void *) == 4 ? (of4) : (of8))
+
+TKSV_CHECK_LAYOUT(sizeof(TKSV_USSDRequest) == 372);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_USSDRequest, length) == 0);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_USSDRequest, text) == 4);
+TKSV_CHECK_LAYOUT(sizeof(unsigned short) * TKSV_USSD_MAX_UNITS == 368);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_USSDResponse, type) == 0);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_USSDResponse, reserved) == 4);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_USSDResponse, text) == 8);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_SMSSendResult, result) == 16);
+TKSV_CHECK_LAYOUT(offsetof(TKSV_SMSSendResult, number) == TKSV_BY_POINTER_SIZE(84, 88));
+TKSV_CHECK_LAYOUT(offsetof(TKSV_SMSSendResult, text) == TKSV_BY_POINTER_SIZE(88, 96));
+TKSV_CHECK_LAYOUT(offsetof(TKSV_SMSStatus, status) == 0);
+
+#undef TKSV_BY_POINTER_SIZE
+#undef TKSV_CHECK_LAYOUT
 #endif
 
 #endif

@@ -1,21 +1,8 @@
 #include "SdkRecords.h"
 
-#include <cstddef>
 #include <cstring>
 
 static_assert(sizeof(unsigned short) == sizeof(QChar), "a UTF-16 unit is a QChar");
-static_assert(sizeof(TKSV_USSDRequest) == 372, "the request record has a fixed size");
-static_assert(offsetof(TKSV_USSDRequest, text) == 4, "offset in the request record");
-static_assert(offsetof(TKSV_USSDResponse, type) == 0, "offset in the response record");
-static_assert(offsetof(TKSV_USSDResponse, text) == 8, "offset in the response record");
-static_assert(offsetof(TKSV_SMSSendResult, result) == 16, "offset in the send-result record");
-static_assert(sizeof(void *) != 4 || (offsetof(TKSV_SMSSendResult, number) == 84 &&
-                                      offsetof(TKSV_SMSSendResult, text) == 88),
-              "offsets in the send-result record of a 32-bit build");
-static_assert(sizeof(void *) != 8 || (offsetof(TKSV_SMSSendResult, number) == 88 &&
-                                      offsetof(TKSV_SMSSendResult, text) == 96),
-              "offsets in the send-result record of a 64-bit build");
-static_assert(offsetof(TKSV_SMSStatus, status) == 0, "offset in the status record");
 
 namespace SdkRecords
 {

@@ -6,16 +6,6 @@
 
 #include "Text.h"
 
-static_assert(sizeof(TKSV_USSDRequest) == 372, "the request record is the same on every build");
-static_assert(offsetof(TKSV_USSDRequest, text) == 4, "request text");
-static_assert(offsetof(TKSV_USSDResponse, type) == 0, "response type");
-static_assert(offsetof(TKSV_USSDResponse, text) == 8, "response text");
-static_assert(offsetof(TKSV_SMSSendResult, result) == 16, "SMS result");
-static_assert(offsetof(TKSV_SMSSendResult, number) == (sizeof(void *) == 4 ? 84 : 88),
-              "SMS number");
-static_assert(offsetof(TKSV_SMSSendResult, text) == (sizeof(void *) == 4 ? 88 : 96), "SMS text");
-static_assert(offsetof(TKSV_SMSStatus, status) == 0, "SMS status");
-
 namespace tksv
 {
 
