@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "InitialScenarioPath.h"
 #include "modemmanager/ModemManagerBackend.h"
-#include "ScenarioPlace.h"
 #include "sim/ScenarioReader.h"
 #include "sim/SimulatedNetwork.h"
 #include "WaitingDevice.h"
@@ -140,7 +140,7 @@ void BackendChoice::useAutomatic()
     replace(decide());
 }
 
-/* ---- m_switchMutex is held from here on --------------------------------------------------- */
+/* ---- m_switchMutex is held from here on -------------------------------------------------- */
 
 BackendChoice::Device BackendChoice::decide()
 {

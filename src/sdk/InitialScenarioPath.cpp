@@ -1,4 +1,4 @@
-#include "ScenarioPlace.h"
+#include "InitialScenarioPath.h"
 
 #include <cstdlib>
 #include <dlfcn.h>
@@ -11,16 +11,16 @@ namespace tksv
 namespace
 {
 
-/// Any address inside this library.
+/// Any address inside this library serves dladdr().
 const char ADDRESS_IN_LIBRARY = 0;
 
-/// The folder that this library was loaded from.
+/// Returns the folder that this library was loaded from.
 std::filesystem::path libraryFolder()
 {
     Dl_info info = {};
     if (dladdr(&ADDRESS_IN_LIBRARY, &info) == 0 || !info.dli_fname)
         return {};
-    std::error_code ignored; // the path stays as it is when it cannot be resolved
+    std::error_code ignored; // a path that cannot be resolved is used as it is
     const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);
     return path.empty() ? std::filesystem::path(info.dli_fname).parent_path() : path.parent_path();
 }
