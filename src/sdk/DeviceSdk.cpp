@@ -11,12 +11,10 @@ namespace tksv
 namespace
 {
 
-/// How long the program's exit waits for a call-back that is still running.
+/// How long the program's exit waits for a running call-back of a service.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-/// The number of USSD events; their kind is the record's type.
-
-/// Of a service with a single listener.
+/// The key of the listener of a service that has a single listener.
 const std::uintptr_t ONLY_KEY = 1;
 
 std::uintptr_t keyOf(TKSV_EventCallback callback)
@@ -39,8 +37,8 @@ Event statusEvent(bool canSend)
 
 } // namespace
 
-/// The first call makes it, so that it stops before the static objects that the client had made
-/// by then are destroyed: a call-back never finds them gone.
+/// The first call creates the object and registers its stop(). The exit handlers run in reverse
+/// order, so static objects that the client created earlier are destroyed after the call-backs end.
 DeviceSdk &DeviceSdk::instance()
 {
     static DeviceSdk *const sdk = [] {
@@ -85,7 +83,7 @@ void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
     m_choice.backend();
 }
 
-/// Without anybody to read a reply, the session would only be left open in the network.
+/// Nobody would read a reply any more, and the network would keep the session open.
 bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 {
     const bool found = m_ussdEvents.remove(keyOf(callback));
@@ -105,13 +103,13 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
     return m_deviceEvents.remove(keyOf(callback));
 }
 
-/// The status goes to this call-back alone, and only if it still holds when its turn comes: a
-/// change in between is told by an event of its own.
+/// The status is posted for this call-back only, and is delivered only while it is still true: a
+/// later change raises its own event.
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));
     if (!info().canSendSms)
-        return; // told when that changes
+        return; // a later change raises an event
     Event event = statusEvent(true);
     event.onlyKey = keyOf(callback);
     event.beforeDelivery = [this] { return info().canSendSms; };
@@ -144,7 +142,7 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
     m_infoEvents.replaceAll(ONLY_KEY, std::move(handler));
 }
 
-/// What came before is told as well.
+/// The posted event delivers the texts that were kept so far.
 void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     EventService::Handler handler;
@@ -173,16 +171,16 @@ bool DeviceSdk::sendPin(const std::string &pin)
     return m_choice.backend()->sendPin(pin);
 }
 
-/* ---- news of the backend, on its thread -------------------------------------------------- */
+/* ---- events of the backend, on its thread ------------------------------------------------ */
 
 void DeviceSdk::ussdReply(RequestToken token, const UssdReply &reply)
 {
-    m_session.replyCame(token, reply);
+    m_session.handleReply(token, reply);
 }
 
 void DeviceSdk::ussdText(const UssdReply &text)
 {
-    m_session.textCame(text);
+    m_session.handleText(text);
 }
 
 void DeviceSdk::deviceLost(int event)

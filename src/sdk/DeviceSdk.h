@@ -13,13 +13,13 @@ namespace tksv
 {
 
 /**
- * What stands behind the C functions: the services, the session, and the backend in use.
+ * The implementation of the C functions: the services, the session, and the backend in use.
  *
- * Threads: one for each service that has something to tell, started by the first event, and those
- * of the backends. They end when the program exits; the object itself stays, since other threads of
- * the client may be inside a call even then, and the library is never unmapped.
+ * Threads: each service has a thread, which its first event starts; the backends have their own.
+ * All threads end when the program exits. The object itself is never destroyed, since other threads
+ * of the client may still be inside a call, and the library is never unmapped.
  *
- * Locks: UssdSession's before the backend's before the services'; see BackendChoice for its own.
+ * Locks are taken in this order: UssdSession, backend, services. BackendChoice documents its own.
  */
 class DeviceSdk : private BackendObserver
 {

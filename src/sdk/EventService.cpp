@@ -27,7 +27,7 @@ bool EventService::remove(std::uintptr_t key)
     const auto end = std::remove_if(m_listeners.begin(), m_listeners.end(), hasKey);
     const bool found = end != m_listeners.end();
     m_listeners.erase(end, m_listeners.end());
-    // Even when another thread removed the listener: it must not run after this call, either.
+    // Waits even when another thread removed the listener, which must not run after this call.
     waitUntilIdle(lock, key);
     return found;
 }

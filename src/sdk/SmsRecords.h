@@ -15,13 +15,14 @@ struct TKSV_SMSRecordData {
 namespace tksv
 {
 
-/** The records that clients hold. A handle that is none of them is told apart, not followed. */
+/** The messages that clients hold. A handle is looked up and never dereferenced. */
 class SmsRecords
 {
 public:
     TKSV_SMSRecord create(SmsMessage message);
+    /// Returns nothing for a handle that is not a message.
     std::optional<SmsMessage> find(TKSV_SMSRecord record) const;
-    /// Whether it was one of them.
+    /// Returns whether the handle was a message.
     bool release(TKSV_SMSRecord record);
 
 private:

@@ -28,7 +28,7 @@ std::string withSlash(std::string path)
     return path;
 }
 
-/// The home that the user data base knows, for a process without $HOME.
+/// Returns the home folder from the user database, for a process without $HOME.
 std::string homeOfUser()
 {
     std::vector<char> buffer(16384);
@@ -51,7 +51,7 @@ bool isFolder(const std::string &path)
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-bool makeOneFolder(const std::string &path)
+bool createOneFolder(const std::string &path)
 {
     return mkdir(path.c_str(), 0700) == 0 || (errno == EEXIST && isFolder(path));
 }
@@ -63,7 +63,7 @@ std::string userDataFolder()
     const std::string chosen = environment("TKSV_USER_DATA");
     if (!chosen.empty())
         return withSlash(chosen);
-    // XDG has relative paths ignored.
+    // The XDG Base Directory Specification requires that a relative path is ignored.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
         return withSlash(dataHome) + APP_FOLDER;
@@ -71,17 +71,17 @@ std::string userDataFolder()
     return userHome.empty() ? userHome : withSlash(userHome) + ".local/share/" + APP_FOLDER;
 }
 
-bool makeFolder(const std::string &path)
+bool createFolder(const std::string &path)
 {
     if (isFolder(path))
         return true;
     for (std::size_t slash = path.find('/', 1); slash != std::string::npos;
          slash = path.find('/', slash + 1)) {
-        const std::string above = path.substr(0, slash);
-        if (!isFolder(above) && !makeOneFolder(above))
+        const std::string parent = path.substr(0, slash);
+        if (!isFolder(parent) && !createOneFolder(parent))
             return false;
     }
-    return isFolder(path) || makeOneFolder(path);
+    return isFolder(path) || createOneFolder(path);
 }
 
 } // namespace tksv

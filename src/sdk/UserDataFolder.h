@@ -7,13 +7,15 @@ namespace tksv
 {
 
 /**
- * Where the user's data belongs: $TKSV_USER_DATA, else "ussd-dashboard" in $XDG_DATA_HOME, else in
- * ~/.local/share. Bytes of the file system, ending in "/"; empty when the user has no home.
+ * Returns the folder for the user's data: $TKSV_USER_DATA, or else "ussd-dashboard" in
+ * $XDG_DATA_HOME, or else "ussd-dashboard" in ~/.local/share. The path has the file system's
+ * encoding and ends in "/". Returns an empty path when the user has no home folder.
  */
 std::string userDataFolder();
 
-/// Makes the folder and those above it, for this user alone (mode 0700). Whether it is there.
-bool makeFolder(const std::string &path);
+/// Creates the folder and its missing parents, accessible to this user only (mode 0700). Returns
+/// whether the folder exists.
+bool createFolder(const std::string &path);
 
 } // namespace tksv
 

@@ -13,8 +13,8 @@ namespace
 const std::size_t MAX_UNTAKEN_TEXTS = 20;
 }
 
-UssdSession::UssdSession(EventService &service, std::function<void()> untakenCame)
-    : m_service(service), m_untakenCame(std::move(untakenCame))
+UssdSession::UssdSession(EventService &service, std::function<void()> textUntaken)
+    : m_service(service), m_textUntaken(std::move(textUntaken))
 {
 }
 
@@ -39,14 +39,14 @@ void UssdSession::release(Backend &backend)
     backend.endSession();
 }
 
-void UssdSession::replyCame(RequestToken token, const UssdReply &reply)
+void UssdSession::handleReply(RequestToken token, const UssdReply &reply)
 {
-    post(reply, [this, token, type = reply.type] { return beginReply(token, type); });
+    post(reply, [this, token, type = reply.type] { return acceptReply(token, type); });
 }
 
-void UssdSession::textCame(const UssdReply &text)
+void UssdSession::handleText(const UssdReply &text)
 {
-    post(text, [this, text] { return beginText(text); });
+    post(text, [this, text] { return acceptText(text); });
 }
 
 void UssdSession::deviceLost()
@@ -62,21 +62,21 @@ std::vector<UntakenText> UssdSession::takeUntakenTexts()
     return std::vector<UntakenText>(texts.begin(), texts.end());
 }
 
-void UssdSession::post(const UssdReply &reply, std::function<bool()> begin)
+void UssdSession::post(const UssdReply &reply, std::function<bool()> beforeDelivery)
 {
     Event event;
     event.data = encodeResponse(reply);
-    event.beforeDelivery = std::move(begin);
+    event.beforeDelivery = std::move(beforeDelivery);
     const UntakenText text{std::chrono::system_clock::now(), reply};
-    event.afterDelivery = [this, text](bool taken) { ended(text, taken); };
+    event.afterDelivery = [this, text](bool taken) { keepUnlessTaken(text, taken); };
     m_service.post(std::move(event));
 }
 
-bool UssdSession::beginReply(RequestToken token, int type)
+bool UssdSession::acceptReply(RequestToken token, int type)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight || token != m_token)
-        return false; // too late: replaced, released, or lost with the device
+        return false; // the request was replaced, released, or lost with the device
     if (type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
     else
@@ -84,9 +84,10 @@ bool UssdSession::beginReply(RequestToken token, int type)
     return true;
 }
 
-/// Text of the network's own accord must not pass for the reply to a request: it waits until
-/// nothing else goes on. By then its own session has ended, so that it cannot be answered.
-bool UssdSession::beginText(const UssdReply &text)
+/// Text that the network sent of its own accord must not look like the reply to a request, so the
+/// text is held until the session is idle. By then its own session has ended, and the text cannot
+/// be answered any more.
+bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::Idle) {
@@ -98,8 +99,9 @@ bool UssdSession::beginText(const UssdReply &text)
     return true;
 }
 
-/// A question that waits for its answer is told even when its text is not known.
-void UssdSession::ended(const UntakenText &text, bool taken)
+/// An empty text is dropped, unless the network waits for an answer: the client must learn of the
+/// question even when its text is unknown.
+void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
         return;
@@ -109,10 +111,10 @@ void UssdSession::ended(const UntakenText &text, bool taken)
         if (m_untaken.size() > MAX_UNTAKEN_TEXTS)
             m_untaken.pop_front();
     }
-    m_untakenCame();
+    m_textUntaken();
 }
 
-/// With the lock held.
+/// The caller holds the lock.
 void UssdSession::becomeIdle()
 {
     m_state = State::Idle;
@@ -120,12 +122,12 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// With the lock held. They stand behind the reply whose call-back is about to begin.
+/// The caller holds the lock. The held texts follow the reply whose call-back is about to start.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});
     for (const UssdReply &text : texts)
-        textCame(text);
+        handleText(text);
 }
 
 } // namespace tksv

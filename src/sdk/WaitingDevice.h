@@ -12,8 +12,8 @@ namespace tksv
 {
 
 /**
- * Stands for the device for the few milliseconds in which it is not known yet which one there is: a
- * request is kept for it.
+ * The placeholder that is the device for the few milliseconds until BackendChoice knows whether
+ * there is a modem. The placeholder keeps a request for the device that follows.
  */
 class WaitingDevice : public Backend
 {
@@ -26,8 +26,8 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// Gives the device the request that was kept; later calls go on to it as well. A request that
-    /// it refuses ends as one that failed on the device.
+    /// Passes the kept request and all later calls on to the device. A kept request that the device
+    /// refuses ends as a request that failed on the device.
     void handOver(const std::shared_ptr<Backend> &device);
 
 private:
@@ -38,7 +38,7 @@ private:
     };
 
     BackendObserver *m_observer = nullptr;
-    mutable std::mutex m_mutex; // guards what follows
+    mutable std::mutex m_mutex; // guards everything below
     std::optional<Request> m_request;
     std::shared_ptr<Backend> m_device;
 };

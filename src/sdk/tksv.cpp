@@ -1,4 +1,4 @@
-/* The C functions: arguments are checked and turned into values here, and nowhere else. */
+/* The C functions. Arguments are checked and converted to plain values here and nowhere else. */
 
 #include <memory>
 
@@ -15,7 +15,8 @@ namespace
 const long SUCCESS = 0;
 const long FAILURE = 1;
 
-/// No exception (memory or threads used up) crosses the C interface.
+/// Runs the function and turns an exception into a failure, since memory or threads may be used up
+/// and no exception may cross the C interface.
 template <typename Function>
 long guarded(Function function)
 {
@@ -37,7 +38,7 @@ void setStatus(int *status, int value)
         *status = value;
 }
 
-/// Calls a function of DeviceSdk with a call-back that is there.
+/// Passes the DeviceSdk to the function; fails without a call-back.
 template <typename Function>
 long withCallback(TKSV_EventCallback callback, Function function)
 {
@@ -149,7 +150,7 @@ long TKSV_GetUserDataDirectory(unsigned short **directory)
     return guarded([&] {
         const std::string folder = userDataFolder();
         const auto units = toUtf16(folder);
-        if (folder.empty() || !units || !makeFolder(folder))
+        if (folder.empty() || !units || !createFolder(folder))
             return FAILURE;
         auto copy = std::make_unique<unsigned short[]>(units->size() + 1);
         std::copy(units->begin(), units->end(), copy.get());
@@ -163,20 +164,20 @@ long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
     if (!info)
         return FAILURE;
     return guarded([&] {
-        const DeviceInfo from = DeviceSdk::instance().info();
+        const DeviceInfo source = DeviceSdk::instance().info();
         *info = TKSV_DeviceInfo();
-        info->backend = from.backend;
-        info->state = from.state;
-        info->problem = from.problem;
-        info->signalPercent = from.signalPercent;
-        info->canSendSMS = from.canSendSms ? 1 : 0;
-        info->pinRetries = from.pinRetries;
-        copyText(from.operatorName, info->operatorName, sizeof info->operatorName);
-        copyText(from.imsi, info->imsi, sizeof info->imsi);
-        copyText(from.simOperatorCode, info->simOperatorCode, sizeof info->simOperatorCode);
-        copyText(from.simOperatorName, info->simOperatorName, sizeof info->simOperatorName);
-        copyText(from.equipmentId, info->equipmentId, sizeof info->equipmentId);
-        copyText(from.source, info->source, sizeof info->source);
+        info->backend = source.backend;
+        info->state = source.state;
+        info->problem = source.problem;
+        info->signalPercent = source.signalPercent;
+        info->canSendSMS = source.canSendSms ? 1 : 0;
+        info->pinRetries = source.pinRetries;
+        copyText(source.operatorName, info->operatorName, sizeof info->operatorName);
+        copyText(source.imsi, info->imsi, sizeof info->imsi);
+        copyText(source.simOperatorCode, info->simOperatorCode, sizeof info->simOperatorCode);
+        copyText(source.simOperatorName, info->simOperatorName, sizeof info->simOperatorName);
+        copyText(source.equipmentId, info->equipmentId, sizeof info->equipmentId);
+        copyText(source.source, info->source, sizeof info->source);
         return SUCCESS;
     });
 }
@@ -237,8 +238,8 @@ long TKSV_Device_SendPin(const char *pin)
 {
     return guarded([&] {
         const std::string digits = pin ? pin : "";
-        const bool canBeOne = isDigits(digits) && digits.size() >= 4 && digits.size() <= 8;
-        return resultOf(canBeOne && DeviceSdk::instance().sendPin(digits));
+        const bool isPin = isDigits(digits) && digits.size() >= 4 && digits.size() <= 8;
+        return resultOf(isPin && DeviceSdk::instance().sendPin(digits));
     });
 }
 

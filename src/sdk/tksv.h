@@ -151,7 +151,7 @@ TKSV_API long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callba
 /** Unregisters a call-back. Fails when the call-back is not registered. */
 TKSV_API long TKSV_DevSrv_UnRegisterDevInitEventCallback(TKSV_EventCallback callback);
 
-/* ---- short messages (3GPP TS 23.040) ------------------------------------------------------ */
+/* ---- short messages (3GPP TS 23.040) ----------------------------------------------------- */
 
 /**
  * Registers a call-back for SMS events. When messages can be sent at this time, the call-back soon

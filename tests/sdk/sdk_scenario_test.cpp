@@ -102,8 +102,8 @@ void SdkScenario::rulesAreRead()
                             "[*3#]\nDeviceEvent=6601\nAway=never\n[*4#]\nGoto=*2#\n"
                             "[*5#]\nReply=x\nCredit=2.5\n[SMS 12]\nResult=4\n");
     const Rule pattern = s.rules.at("*1*%s#");
-    QCOMPARE(pattern.fewestDigits, std::size_t(2));
-    QCOMPARE(pattern.mostDigits, std::size_t(3));
+    QCOMPARE(pattern.minDigits, std::size_t(2));
+    QCOMPARE(pattern.maxDigits, std::size_t(3));
     QCOMPARE(shown(pattern.wrongDigits), QString::fromLatin1("w"));
     QCOMPARE(shown(pattern.notEnough), QString::fromLatin1("n"));
     QCOMPARE(pattern.creditDigits, -1);

@@ -49,7 +49,7 @@ public:
 class Listening
 {
 public:
-    Listening() : service("test"), session(service, [this] { ++untakenCame; })
+    Listening() : service("test"), session(service, [this] { ++untakenCount; })
     {
         service.add(1, [this](int, void *data) {
             const auto *record = static_cast<const TKSV_USSDResponse *>(data);
@@ -57,7 +57,7 @@ public:
             return takes.load();
         });
     }
-    std::atomic<int> untakenCame{0};
+    std::atomic<int> untakenCount{0};
     EventService service;
     UssdSession session;
     RecordingBackend backend;
@@ -109,14 +109,14 @@ void SdkSession::untakenTextIsKept()
     Listening l;
     l.takes = false;
     l.session.request(l.backend, "*1#");
-    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "nobody waits"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "nobody waits"});
     drain(l.service);
     l.takes = true;
     l.session.request(l.backend, "*1#");
-    l.session.replyCame(l.backend.requests[1].token, {UssdFinal, "taken"});
+    l.session.handleReply(l.backend.requests[1].token, {UssdFinal, "taken"});
     drain(l.service);
     const std::vector<UntakenText> kept = l.session.takeUntakenTexts();
-    QCOMPARE(l.untakenCame.load(), 1);
+    QCOMPARE(l.untakenCount.load(), 1);
     QCOMPARE(kept.size(), std::size_t(1));
     QVERIFY(kept[0].reply.text == "nobody waits");
     QVERIFY(l.session.takeUntakenTexts().empty());
@@ -127,7 +127,7 @@ void SdkSession::untakenTextsAreLimited()
     Listening l;
     l.takes = false;
     for (int i = 0; i < 25; ++i)
-        l.session.textCame({UssdFinal, std::to_string(i)});
+        l.session.handleText({UssdFinal, std::to_string(i)});
     drain(l.service);
     const std::vector<UntakenText> kept = l.session.takeUntakenTexts();
     QCOMPARE(kept.size(), std::size_t(20));
@@ -138,7 +138,7 @@ void SdkSession::requestKindFollowsTheSession()
 {
     Listening l;
     l.session.request(l.backend, "1"); // nothing is open that it could answer
-    l.session.replyCame(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
     drain(l.service);
     l.session.request(l.backend, "1");
     l.session.request(l.backend, "2"); // the first answer is still on its way
@@ -155,18 +155,18 @@ void SdkSession::lateReplyIsDropped()
     Listening l;
     l.session.request(l.backend, "*1#");
     l.session.request(l.backend, "*2#");
-    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "late"});
-    l.session.replyCame(l.backend.requests[1].token, {UssdFinal, "in time"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "late"});
+    l.session.handleReply(l.backend.requests[1].token, {UssdFinal, "in time"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(1));
     QVERIFY(l.replies.all()[0].text == "in time");
     l.session.request(l.backend, "*3#");
     l.session.release(l.backend);
     QCOMPARE(l.backend.ended, 1);
-    l.session.replyCame(l.backend.requests[2].token, {UssdFinal, "late"});
+    l.session.handleReply(l.backend.requests[2].token, {UssdFinal, "late"});
     l.session.request(l.backend, "*4#");
     l.session.deviceLost();
-    l.session.replyCame(l.backend.requests[3].token, {UssdFinal, "late"});
+    l.session.handleReply(l.backend.requests[3].token, {UssdFinal, "late"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(1));
 }
@@ -175,8 +175,8 @@ void SdkSession::secondReplyIsDropped()
 {
     Listening l;
     l.session.request(l.backend, "*1#");
-    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "once"});
-    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "twice"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "once"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "twice"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(1));
 }
@@ -185,10 +185,10 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
 {
     Listening l;
     l.session.request(l.backend, "*1#");
-    l.session.textCame({UssdWaitsForAnswer, "news"});
+    l.session.handleText({UssdWaitsForAnswer, "news"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(0));
-    l.session.replyCame(l.backend.requests[0].token, {UssdFinal, "reply"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "reply"});
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
@@ -199,8 +199,8 @@ void SdkSession::textDuringAMenuWaitsForItsEnd()
 {
     Listening l;
     l.session.request(l.backend, "*1#");
-    l.session.replyCame(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
-    l.session.textCame({UssdFinal, "news"});
+    l.session.handleReply(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
+    l.session.handleText({UssdFinal, "news"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(1));
     l.session.release(l.backend);

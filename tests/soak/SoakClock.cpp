@@ -29,7 +29,7 @@ void install()
 void advance(int milliseconds)
 {
     g_now += milliseconds;
-    tksv::SimulatorClock::tellOfJump();
+    tksv::SimulatorClock::notifyJump();
 }
 
 qint64 now()

@@ -10,7 +10,7 @@
 namespace tksv
 {
 
-/// Tells one accepted request from every other; 0 is none.
+/// Identifies an accepted request; 0 stands for no request.
 using RequestToken = std::uint64_t;
 
 enum class RequestKind { NewSession, Answer };
@@ -24,7 +24,7 @@ enum UssdType {
     UssdNetworkTimeout = 5
 };
 
-/// What `*status` of TKSV_USSDSrv_Request says.
+/// Values of `*status` of TKSV_USSDSrv_Request.
 enum RequestStatus {
     RequestAccepted = 0,
     RequestNoDevice = 1,
@@ -32,22 +32,23 @@ enum RequestStatus {
     RequestDeviceTimeout = TKSV_STATUS_DEVICE_TIMEOUT
 };
 
-/** What the network said. A refusal has an empty text and a type other than UssdFinal. */
+/** A text from the network. A refusal has an empty text and a type other than UssdFinal. */
 struct UssdReply {
     int type = UssdFinal;
     std::string text; // UTF-8
 };
 
-/** A short message; kept in UTF-16, since its two texts go back to the client unit by unit. */
+/** A short message, in UTF-16: the client gets both texts back without any conversion. */
 struct SmsMessage {
     std::u16string number;
     std::u16string text;
 };
 
+/// The results of sending a short message that every backend uses.
 const int SMS_SENT = 0;
 const int SMS_FAILED = 1;
 
-/** What is known of the device; texts in UTF-8, empty when unknown. */
+/** What is known of the device, see TKSV_DeviceInfo. Texts are UTF-8 and empty when unknown. */
 struct DeviceInfo {
     TKSV_Backend backend = TKSV_BACKEND_SIMULATOR;
     TKSV_DeviceState state = TKSV_DEVICE_ABSENT;
@@ -74,51 +75,53 @@ inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
 }
 
 /**
- * Told by a backend of what happens. Called on the backend's own thread only, never from inside a
- * call of Backend and with none of the backend's locks held; each call returns at once.
+ * Receives the events of a backend. The backend calls the observer on its own thread only, never
+ * from inside a call of Backend and never while it holds a lock. Each function returns at once.
  */
 class BackendObserver
 {
 public:
     virtual ~BackendObserver() = default;
 
-    /// The network's reply to that request. A reply to a request that was ended is ignored.
+    /// The network's reply to a request. The observer ignores a reply to a request that has ended.
     virtual void ussdReply(RequestToken token, const UssdReply &reply) = 0;
     /// Text that the network sent of its own accord, while no session was open.
     virtual void ussdText(const UssdReply &text) = 0;
-    /// TKSV_DEV_EVENT_GONE or _RESET; the request in flight and the session have ended with it.
+    /// The device was lost, and with it the session and the request in flight. `event` is
+    /// TKSV_DEV_EVENT_GONE or TKSV_DEV_EVENT_RESET.
     virtual void deviceLost(int event) = 0;
     virtual void smsStatusChanged(bool canSend) = 0;
+    /// The outcome of a message that sendSms() accepted.
     virtual void smsFinished(const SmsMessage &message, int result) = 0;
-    /// Something of DeviceInfo has changed.
+    /// A field of DeviceInfo has changed.
     virtual void infoChanged() = 0;
 };
 
 /**
- * A device with its network. Any thread may call; every call returns at once. The rules of a
- * session (answer or new code, replaced requests, late replies) are kept by UssdSession, so that
- * they are the same for every backend.
+ * A device with its network. Any thread may call; every call returns at once. UssdSession keeps the
+ * rules of a session (answer or new code, replaced requests, late replies) for every backend.
  */
 class Backend
 {
 public:
     virtual ~Backend() = default;
 
-    /// Called once, before anything else. `observer` outlives the backend.
+    /// Called once, before any other function. `observer` outlives the backend.
     virtual void start(BackendObserver &observer) = 0;
-    /// Waits for the backend's thread. From then on the observer is not called any more, and
-    /// requests are refused with RequestNoDevice.
+    /// Waits for the backend's thread. Afterwards the observer is not called any more, and requests
+    /// are refused with RequestNoDevice.
     virtual void stop() = 0;
 
-    /// Hands the text to the network in place of what is on its way; a new session ends the one
-    /// that is open. A RequestStatus other than RequestAccepted means that nothing has changed.
+    /// Sends the text to the network and replaces the request in flight; a new session ends the
+    /// open session. Returns a RequestStatus; a request that is not accepted changes nothing.
     virtual int request(RequestToken token, RequestKind kind, const std::string &text) = 0;
-    /// Ends the request in flight and the session.
+    /// Ends the session and the request in flight.
     virtual void endSession() = 0;
 
-    /// False when no message can be sent now; otherwise smsFinished() follows.
+    /// Returns false when no message can be sent at this time; otherwise smsFinished() follows.
     virtual bool sendSms(const SmsMessage &message) = 0;
-    /// False when the SIM waits for no PIN; otherwise infoChanged() tells how it went.
+    /// Returns false when the SIM is not waiting for a PIN; otherwise infoChanged() reports the
+    /// outcome.
     virtual bool sendPin(const std::string &pin) = 0;
     virtual DeviceInfo info() const = 0;
 };

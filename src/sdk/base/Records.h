@@ -8,23 +8,23 @@
 #include "Backend.h"
 #include "tksv.h"
 
-/* Between the records of tksv.h and plain values, both ways. */
+/* Conversions between the records of tksv.h and plain values. */
 
 namespace tksv
 {
 
-/// The command in UTF-8; nothing when the record is null, its length is 0, odd or too large, or its
-/// text is not well formed or holds a zero unit.
+/// Returns the command in UTF-8, or nothing when the record is null or malformed: a length of 0,
+/// odd or too large, or text that is malformed or contains a zero unit.
 std::optional<std::string> decodeRequest(const TKSV_USSDRequest *request);
 
-/// A TKSV_USSDResponse.
+/// Returns a TKSV_USSDResponse.
 std::shared_ptr<void> encodeResponse(const UssdReply &reply);
-/// A TKSV_SMSSendResult with the two texts that it points to.
+/// Returns a TKSV_SMSSendResult together with the two texts that it points to.
 std::shared_ptr<void> encodeSmsResult(const SmsMessage &message, int result);
-/// A TKSV_SMSStatus.
+/// Returns a TKSV_SMSStatus.
 std::shared_ptr<void> encodeSmsStatus(bool canSend);
 
-/// The text up to its closing zero unit.
+/// Returns the text up to its terminating zero unit.
 std::u16string decodeText(const unsigned short *text);
 
 } // namespace tksv

@@ -9,7 +9,7 @@
 namespace tksv
 {
 
-/** Whether the body has returned; shared with the thread, which may outlive the object. */
+/** Tells whether the body has returned. The thread shares it and may outlive the WorkerThread. */
 struct WorkerThread::Ended {
     std::mutex mutex;
     std::condition_variable changed;
@@ -32,7 +32,7 @@ struct WorkerThread::Ended {
 namespace
 {
 
-/** A new thread inherits the mask of the one that makes it. */
+/** Blocks all signals during its lifetime: a new thread inherits the mask of its creator. */
 class AllSignalsBlocked
 {
 public:

@@ -10,8 +10,8 @@ namespace tksv
 {
 
 /**
- * A thread of the library. It takes no signals, which stay with the client's own threads.
- * The object itself is used under its owner's lock.
+ * A thread of the library. The thread blocks all signals, so that the client's own threads handle
+ * them. The owner's lock guards the object itself.
  */
 class WorkerThread
 {
@@ -21,15 +21,15 @@ public:
     WorkerThread(const WorkerThread &) = delete;
     WorkerThread &operator=(const WorkerThread &) = delete;
 
-    /// `name` is what debuggers show, at most 15 characters. Throws std::system_error when the
-    /// system has no thread left.
+    /// Runs `body` on a new thread. `name`, at most 15 characters long, is shown by debuggers.
+    /// Throws std::system_error when the system has no thread left.
     void start(const char *name, std::function<void()> body);
     bool isStarted() const { return m_thread.joinable(); }
-    /// Whether the caller runs on this thread.
+    /// Returns whether the caller runs on this thread.
     bool isCurrent() const;
-    /// Waits until the body has returned, at most for `limit`; a body that still runs then (or
-    /// that is the caller) goes on alone, and what it uses must stay.
-    /// Returns whether it has ended.
+    /// Waits until the body has returned, at most for `limit`. Returns whether the thread has
+    /// ended. A body that still runs, or that calls this function itself, continues on a detached
+    /// thread; everything that the body uses must then stay alive.
     bool finish(std::chrono::milliseconds limit);
 
 private:
@@ -38,7 +38,7 @@ private:
     std::thread m_thread;
 };
 
-/// For finish(): as long as it takes.
+/// For finish(): a limit that is never reached.
 const std::chrono::milliseconds NO_LIMIT = std::chrono::hours(24);
 
 } // namespace tksv

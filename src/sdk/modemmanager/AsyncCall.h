@@ -6,26 +6,27 @@
 #include <memory>
 #include <utility>
 
-/* GIO's call-backs with closures in the place of user data. */
+/* Closures as call-backs of GIO's asynchronous functions. */
 
 namespace tksv
 {
 
 using AsyncDone = std::function<void(GObject *source, GAsyncResult *result)>;
 
-/// The GAsyncReadyCallback for a user data made by asyncDone(). Each call-back runs once.
+/// The GAsyncReadyCallback that belongs to a pointer from asyncDone().
 inline void runAsyncDone(GObject *source, GAsyncResult *result, gpointer done)
 {
     const std::unique_ptr<AsyncDone> owned(static_cast<AsyncDone *>(done));
     (*owned)(source, result);
 }
 
+/// Returns the user data for runAsyncDone(), which deletes it. GIO calls each call-back once.
 inline gpointer asyncDone(AsyncDone done)
 {
     return new AsyncDone(std::move(done));
 }
 
-/// A closure that does nothing when its owner is gone by the time of the call.
+/// Returns a closure that does nothing when the owner no longer exists at the time of the call.
 template <typename Owner, typename Function>
 AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
 {
@@ -35,7 +36,7 @@ AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
     };
 }
 
-/** Cancels what was started with it when it goes. */
+/** A GCancellable whose destructor cancels the calls that were started with it. */
 class Cancellable
 {
 public:

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/* Owners for what GLib hands out. */
+/* Smart pointers to the objects and memory of GLib. */
 
 namespace tksv
 {
@@ -30,20 +30,20 @@ using GVariantPtr = std::unique_ptr<GVariant, GVariantDeleter>;
 template <typename T>
 using GMemory = std::unique_ptr<T, GFreeDeleter>;
 
-/// One more owner of an object that somebody else holds; null stays null.
+/// Returns another reference to an object that somebody else owns; null for null.
 template <typename T>
 GObjectPtr<T> shareObject(T *object)
 {
     return GObjectPtr<T>(object ? static_cast<T *>(g_object_ref(object)) : nullptr);
 }
 
-/// Empty for null.
+/// Returns the text; an empty text for null.
 inline std::string textOf(const char *text)
 {
     return text ? text : "";
 }
 
-/** Takes the GError of a call that fails. */
+/** Owns the GError of a call that fails. */
 class ErrorSlot
 {
 public:

@@ -23,7 +23,7 @@ void deleteTask(gpointer task)
     delete static_cast<Task *>(task);
 }
 
-/** Shut until it is opened. */
+/** Blocks wait() until open() has been called. */
 class Latch
 {
 public:
@@ -68,14 +68,14 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Calls that were cancelled at the end still tell of it, and so give back what they hold.
+    // Calls that the last task cancelled run their call-backs here and release what they hold.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);
 }
 
-/// The tasks go through a queue of our own, whose lock says what one thread has done before
-/// another, also to a sanitizer that does not see GLib's.
+/// The tasks pass through a queue with its own lock: the thread sanitizer sees this lock, but none
+/// of the locks inside GLib.
 void MainLoopThread::post(Task task)
 {
     {
@@ -105,7 +105,7 @@ gboolean MainLoopThread::runNext(gpointer self)
     return G_SOURCE_REMOVE;
 }
 
-/// g_main_context_invoke() would run the task on the caller's thread before the loop has begun.
+/// g_main_context_invoke() would run the task on the caller's thread while the loop is not running.
 void MainLoopThread::attach(GSource *source, GSourceFunc function, gpointer data,
                             GDestroyNotify destroy)
 {

@@ -13,8 +13,8 @@ namespace tksv
 {
 
 /**
- * A thread with a GLib main context of its own, which is the thread's default: GDBus tells there
- * of what was started there. It sleeps while nothing happens.
+ * A thread with its own GLib main context. The context is the default of the thread: GDBus delivers
+ * signals and replies on the thread that asked for them. The thread sleeps while it has no task.
  */
 class MainLoopThread
 {
@@ -23,24 +23,24 @@ public:
 
     /// `name` has at most 15 characters and lives as long as the program.
     explicit MainLoopThread(const char *name);
-    /// Not on its own thread.
+    /// Must not run on the thread itself.
     ~MainLoopThread();
     MainLoopThread(const MainLoopThread &) = delete;
     MainLoopThread &operator=(const MainLoopThread &) = delete;
 
     /// Throws std::system_error when the system has no thread left.
     void start();
-    /// Runs the task on the thread, in the order of the calls; any thread may call. Before start()
-    /// tasks wait; those that stop() finds waiting do not run.
+    /// Runs the task on the thread, in the order of the calls. Any thread may call. Tasks that are
+    /// posted before start() wait; tasks that still wait during stop() are dropped.
     void post(Task task);
-    /// As post(), and returns when the task has run; on the thread itself it runs at once. Between
-    /// start() and stop() only.
+    /// Runs the task on the thread and waits for its end. On the thread itself, the task runs at
+    /// once. May be called only between start() and stop().
     void run(const Task &task);
-    /// On the thread itself only.
+    /// Runs the task after the delay. May be called on the thread itself only.
     void after(std::chrono::milliseconds delay, Task task);
     bool isCurrent() const { return m_thread.isCurrent(); }
 
-    /// Runs the task as the thread's last and waits for the thread's end.
+    /// Runs the thread's last task and waits until the thread has ended.
     void stop(const Task &last);
 
 private:

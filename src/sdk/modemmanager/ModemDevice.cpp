@@ -20,7 +20,7 @@ TKSV_DeviceState stateOf(MMModemState state)
     return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
 }
 
-/// -1 when unknown.
+/// Returns the number of PINs that may still be tried; -1 when unknown.
 int pinRetriesOf(MMModem *modem)
 {
     MMUnlockRetries *retries = mm_modem_peek_unlock_retries(modem);
@@ -29,7 +29,8 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
-/// While a PIN is looked at, the lock is unknown.
+/// Returns whether another lock than the PIN holds the modem. While the modem checks a PIN, the
+/// lock is unknown.
 bool needsMoreThanPin(MMModemLock lock)
 {
     return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&
@@ -49,22 +50,22 @@ ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Li
       m_ussd(std::make_shared<UssdChannel>(
           thread, UssdChannel::Listener{[this](RequestToken token, const UssdReply &reply) {
                                             if (reply.type <= UssdWaitsForAnswer)
-                                                wasPermitted();
+                                                clearNotPermitted();
                                             m_listener.replied(token, reply);
                                         },
-                                        m_listener.networkSaid,
-                                        [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }})),
+                                        m_listener.textReceived,
+                                        [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }})),
       m_sms(std::make_shared<SmsSender>(
           SmsSender::Listener{[this](const SmsMessage &message, int result) {
                                   if (result == SMS_SENT)
-                                      wasPermitted();
+                                      clearNotPermitted();
                                   m_listener.smsFinished(message, result);
                               },
-                              [this] { problemIs(TKSV_PROBLEM_NOT_PERMITTED); }}))
+                              [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }}))
 {
 }
 
-/// Null when the modem does not have the interface at present.
+/// Returns null while the modem does not have the interface.
 template <typename T>
 T *ModemDevice::peek(const char *name, T *(*peekInterface)(MMObject *)) const
 {
@@ -82,7 +83,7 @@ void ModemDevice::refresh()
         peek(MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, mm_object_peek_modem_3gpp_ussd));
     m_sms->setInterface(peek(MM_DBUS_INTERFACE_MODEM_MESSAGING, mm_object_peek_modem_messaging));
     modemChanged();
-    m_ussd->catchUp(); // when it is known that the modem can take the answer
+    m_ussd->catchUp(); // after modemChanged() has published that commands can be sent
 }
 
 void ModemDevice::modemChanged()
@@ -93,12 +94,12 @@ void ModemDevice::modemChanged()
     if (now == MM_MODEM_STATE_DISABLED)
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
-        m_problem = TKSV_PROBLEM_NONE; // whoever did it, what stood in the way has gone
+        m_problem = TKSV_PROBLEM_NONE; // the modem has got past the problem
     fetchSim();
     m_listener.changed();
 }
 
-/// Only once: whoever switches the modem off later means it.
+/// Enables the modem only once: a user who disables the modem later does so on purpose.
 void ModemDevice::enable()
 {
     if (std::exchange(m_enableTried, true))
@@ -107,7 +108,7 @@ void ModemDevice::enable()
         ErrorSlot error;
         mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());
         if (error && isNotPermitted(*error.get()))
-            problemIs(TKSV_PROBLEM_NOT_PERMITTED);
+            setProblem(TKSV_PROBLEM_NOT_PERMITTED);
     };
     mm_modem_enable(m_modem.get(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
@@ -120,63 +121,63 @@ void ModemDevice::fetchSim()
         return;
     m_simPath = path;
     const auto done = [this, path](GObject *modem, GAsyncResult *result) {
-        ErrorSlot ignored; // without a SIM its lines stay empty
+        ErrorSlot ignored; // without a SIM its fields stay empty
         GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
         if (path != m_simPath)
-            return; // another one has taken its place
+            return; // another SIM has been requested since
         m_sim = std::move(sim);
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
         m_listener.changed();
-        sendWaitingPin();
+        sendPendingPin();
     };
     mm_modem_get_sim(m_modem.get(), nullptr, runAsyncDone,
                      asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-void ModemDevice::sendWaitingPin()
+void ModemDevice::sendPendingPin()
 {
-    const std::string pin = std::exchange(m_waitingPin, {});
+    const std::string pin = std::exchange(m_pendingPin, {});
     if (pin.empty())
         return;
-    m_sim ? sendPin(pin) : problemIs(TKSV_PROBLEM_MODEM_FAILED);
+    m_sim ? sendPin(pin) : setProblem(TKSV_PROBLEM_MODEM_FAILED);
 }
 
 void ModemDevice::sendPin(const std::string &pin)
 {
-    problemIs(TKSV_PROBLEM_NONE); // or a second wrong PIN would be no news
+    setProblem(TKSV_PROBLEM_NONE); // so that a second wrong PIN is a change again
     if (!m_sim) {
-        m_waitingPin = pin;
+        m_pendingPin = pin;
         return;
     }
     const auto done = [this](GObject *sim, GAsyncResult *result) {
         ErrorSlot error;
         mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
-        problemIs(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
+        setProblem(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
     };
     mm_sim_send_pin(m_sim.get(), pin.c_str(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-void ModemDevice::giveUp()
+void ModemDevice::failPending()
 {
-    m_ussd->giveUp();
-    m_sms->giveUp();
+    m_ussd->failPending();
+    m_sms->failPending();
 }
 
-void ModemDevice::problemIs(TKSV_DeviceProblem problem)
+void ModemDevice::setProblem(TKSV_DeviceProblem problem)
 {
     m_problem = problem;
     m_listener.changed();
 }
 
-void ModemDevice::wasPermitted()
+void ModemDevice::clearNotPermitted()
 {
     if (m_problem == TKSV_PROBLEM_NOT_PERMITTED)
-        problemIs(TKSV_PROBLEM_NONE);
+        setProblem(TKSV_PROBLEM_NONE);
 }
 
-/* ---- what is known ----------------------------------------------------------------------- */
+/* ---- state and properties ---------------------------------------------------------------- */
 
 DeviceInfo ModemDevice::info() const
 {

@@ -17,32 +17,33 @@ namespace tksv
 {
 
 /**
- * The modem in use: switched on once, and followed by its properties. The thread of the main loop
- * only.
+ * The modem in use. The object enables the modem once, and follows its properties. All functions
+ * run on the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
 public:
     struct Listener {
-        std::function<void()> changed; // something of info()
+        std::function<void()> changed; // a field of info()
         std::function<void(RequestToken, const UssdReply &)> replied;
-        std::function<void(const UssdReply &)> networkSaid;
+        std::function<void(const UssdReply &)> textReceived;
         std::function<void(const SmsMessage &, int result)> smsFinished;
     };
 
     ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener);
 
-    /// Looks at the modem's interfaces; once after making it, and whenever ModemManager tells of
-    /// others.
+    /// Fetches the modem's interfaces. Called after construction, and whenever the interfaces have
+    /// changed.
     void refresh();
     DeviceInfo info() const;
     std::string path() const { return textOf(mm_object_get_path(m_object.get())); }
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
+    /// Sends the PIN, at once or as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
-    /// What the client had in hand fails.
-    void giveUp();
+    /// Ends the request in flight and the messages on their way as failed.
+    void failPending();
 
 private:
     template <typename T>
@@ -50,9 +51,9 @@ private:
     void modemChanged();
     void enable();
     void fetchSim();
-    void sendWaitingPin();
-    void problemIs(TKSV_DeviceProblem problem);
-    void wasPermitted();
+    void sendPendingPin();
+    void setProblem(TKSV_DeviceProblem problem);
+    void clearNotPermitted();
     TKSV_DeviceState state() const;
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
@@ -64,13 +65,13 @@ private:
     GObjectPtr<MMModem> m_modem;
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
-    std::string m_simPath;    // of the SIM that was asked for
-    std::string m_waitingPin; // for the SIM's arrival; empty when none does
+    std::string m_simPath;    // D-Bus path of the SIM that was requested last
+    std::string m_pendingPin; // sent once the SIM has been fetched; empty when there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableTried = false;
-    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // that told how far the modem has got
-    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // what the last call has met
+    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or later
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // found by the last call
 };
 
 } // namespace tksv

@@ -23,7 +23,7 @@ bool takesCommands(const DeviceInfo &info)
 
 } // namespace
 
-bool isSaneForModem(const std::string &text)
+bool isSafeForModem(const std::string &text)
 {
     return std::none_of(text.begin(), text.end(), canEndAtCommand);
 }
@@ -54,7 +54,7 @@ void ModemManagerBackend::stop()
     m_watch.thread().run([this] {
         if (m_device) {
             m_device->ussd().endSession();
-            m_device->sms().giveUp();
+            m_device->sms().failPending();
         }
         m_observer = nullptr;
         m_device.reset();
@@ -63,15 +63,15 @@ void ModemManagerBackend::stop()
 
 int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std::string &text)
 {
-    if (!isSaneForModem(text))
+    if (!isSafeForModem(text))
         return RequestMalformed;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stopped || (m_hasLooked && !takesCommands(m_info)))
+    if (m_stopped || (m_isInfoKnown && !takesCommands(m_info)))
         return RequestNoDevice;
-    post([this, token, kind, text, lost = m_lostModems] {
-        if (m_device && lost == m_lostModems && takesCommands(m_info))
+    post([this, token, kind, text, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
             return m_device->ussd().request(token, kind, text);
-        if (m_observer) // gone in between, or never there
+        if (m_observer) // the modem was lost in between, or was never there
             m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
     });
     return RequestAccepted;
@@ -92,8 +92,8 @@ bool ModemManagerBackend::sendSms(const SmsMessage &message)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || !m_info.canSendSms)
         return false;
-    post([this, message, lost = m_lostModems] {
-        if (m_device && lost == m_lostModems && m_info.canSendSms)
+    post([this, message, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount && m_info.canSendSms)
             return m_device->sms().send(message);
         if (m_observer)
             m_observer->smsFinished(message, SMS_FAILED);
@@ -106,8 +106,8 @@ bool ModemManagerBackend::sendPin(const std::string &pin)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || m_info.state != TKSV_DEVICE_SIM_LOCKED)
         return false;
-    post([this, pin, lost = m_lostModems] {
-        if (m_device && lost == m_lostModems)
+    post([this, pin, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
             m_device->sendPin(pin);
     });
     return true;
@@ -124,24 +124,24 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- the watch's thread ------------------------------------------------------------------ */
+/* ---- on the watch's thread --------------------------------------------------------------- */
 
-/// A modem stays in use until it has gone, even when the chosen one is any.
+/// A modem stays in use until it is lost, even when any modem may be used.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
         return;
     GObjectPtr<MMObject> wanted = m_watch.findAt(m_device ? m_device->path() : std::string());
     if (m_device && !wanted)
-        drop();
+        loseModem();
     if (!m_device && (wanted = m_watch.find(m_equipmentId)))
-        take(std::move(wanted));
+        adopt(std::move(wanted));
     if (m_device)
         m_device->refresh();
     publish();
 }
 
-void ModemManagerBackend::take(GObjectPtr<MMObject> object)
+void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
 {
     ModemDevice::Listener listener;
     listener.changed = [this] { publish(); };
@@ -149,7 +149,7 @@ void ModemManagerBackend::take(GObjectPtr<MMObject> object)
         if (m_observer)
             m_observer->ussdReply(token, reply);
     };
-    listener.networkSaid = [this](const UssdReply &text) {
+    listener.textReceived = [this](const UssdReply &text) {
         if (m_observer)
             m_observer->ussdText(text);
     };
@@ -160,17 +160,17 @@ void ModemManagerBackend::take(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// The modem has been unplugged, or the service has ended and will find it anew.
-void ModemManagerBackend::drop()
+/// The modem was unplugged, or the service has ended and will find the modem again.
+void ModemManagerBackend::loseModem()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        ++m_lostModems;
+        ++m_lostModemCount;
     }
     const bool serviceEnded = m_watch.state() != ServiceState::Running;
     m_observer->deviceLost(serviceEnded ? TKSV_DEV_EVENT_RESET : TKSV_DEV_EVENT_GONE);
-    gone->sms().giveUp();
+    gone->sms().failPending();
     publish();
 }
 
@@ -178,30 +178,30 @@ void ModemManagerBackend::publish()
 {
     if (!m_observer)
         return;
-    const DeviceInfo now = picture();
+    const DeviceInfo now = currentInfo();
     DeviceInfo before;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         before = std::exchange(m_info, now);
-        m_hasLooked = true;
+        m_isInfoKnown = true;
     }
-    compare(before, now);
+    notifyChanges(before, now);
 }
 
-/// What runs fails with the registration or the interface: its outcome could not reach the modem
-/// any more.
-void ModemManagerBackend::compare(const DeviceInfo &before, const DeviceInfo &now)
+/// Requests in flight fail when the registration or the USSD interface is lost, since their outcome
+/// cannot arrive any more.
+void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)
         return;
     if (takesCommands(before) && !takesCommands(now) && m_device)
-        m_device->giveUp();
+        m_device->failPending();
     if (before.canSendSms != now.canSendSms)
         m_observer->smsStatusChanged(now.canSendSms);
     m_observer->infoChanged();
 }
 
-DeviceInfo ModemManagerBackend::picture() const
+DeviceInfo ModemManagerBackend::currentInfo() const
 {
     if (m_device)
         return m_device->info();

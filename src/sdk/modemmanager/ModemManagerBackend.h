@@ -13,15 +13,15 @@ namespace tksv
 {
 
 /**
- * One of ModemManager's modems as the device. The calls of Backend leave a task for the thread of
- * the watch and decide by the last picture that it has left of the modem; that thread is the
- * backend's own.
+ * The backend of a modem that ModemManager controls. The backend runs on the thread of the watch.
+ * The functions of Backend post a task to this thread, and take their result from the DeviceInfo
+ * that the thread published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Takes the modem of that identifier, for an empty one whichever comes first. The watch
-    /// outlives the backend.
+    /// Uses the modem with that identifier, or for an empty text whichever modem comes first. The
+    /// watch outlives the backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
@@ -32,35 +32,35 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// On the thread, whenever the watch has told of a change.
+    /// Called on the watch's thread after each change that the watch reports.
     void modemsChanged();
 
 private:
     void post(std::function<void()> task);
-    void drop();
-    void take(GObjectPtr<MMObject> object);
+    void loseModem();
+    void adopt(GObjectPtr<MMObject> object);
     void publish();
-    DeviceInfo picture() const;
+    DeviceInfo currentInfo() const;
     TKSV_DeviceProblem problemWithoutModem() const;
-    void compare(const DeviceInfo &before, const DeviceInfo &now);
+    void notifyChanges(const DeviceInfo &before, const DeviceInfo &now);
 
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The thread's own.
+    // Used on the watch's thread only.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
 
-    // The thread, which alone writes the first three, reads them without the mutex.
-    mutable std::mutex m_mutex; // guards what follows
+    // Only the watch's thread writes the first three members, so it reads them without the mutex.
+    mutable std::mutex m_mutex; // guards everything below
     DeviceInfo m_info;
-    bool m_hasLooked = false;  // m_info is what the thread has found
-    unsigned m_lostModems = 0; // what was meant for one that has gone is not for the next
+    bool m_isInfoKnown = false;    // the thread has published m_info once
+    unsigned m_lostModemCount = 0; // a task for a lost modem must not reach the next modem
     bool m_stopped = false;
 };
 
-/// Whether a text may reach a modem: the daemon can put it between quotes into an AT command.
-bool isSaneForModem(const std::string &text);
+/// Returns whether the daemon can safely put the text between quotes into an AT command.
+bool isSafeForModem(const std::string &text);
 
 } // namespace tksv
 

@@ -10,17 +10,18 @@ namespace tksv
 namespace
 {
 
+/// A daemon that starts owns its bus name a little before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
-/// ".../Modem/12" is newer than ".../Modem/3".
-long numberOf(MMObject *object)
+/// Returns the last number of the path: ".../Modem/12" is newer than ".../Modem/3".
+long modemNumberOf(MMObject *object)
 {
     const std::string path = textOf(mm_object_get_path(object));
     return std::strtol(path.c_str() + path.rfind('/') + 1, nullptr, 10);
 }
 
-/// Empty when there is no such bus.
+/// Returns an empty text when there is no such bus.
 std::string systemBusAddress()
 {
     ErrorSlot error;
@@ -64,24 +65,26 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
-/// A daemon that does not answer shall not keep the program from its end.
+/// Cancels the pending calls first: a daemon that does not answer must not delay the exit of the
+/// program.
 void ModemWatch::stop()
 {
     g_cancellable_cancel(m_cancellable.get());
     m_thread.stop([this] {
         m_signals.disconnectAll();
         m_manager.reset();
-        if (m_bus) // the end of a session that was open still has to go out
+        if (m_bus) // sends the call that ends an open session
             g_dbus_connection_flush_sync(m_bus.get(), nullptr, nullptr);
         m_bus.reset();
     });
 }
 
-/// A connection of its own: the shared one of g_bus_get() would end the program with the bus.
+/// Opens a private connection: the shared connection of g_bus_get() would end the program together
+/// with the bus.
 void ModemWatch::connectToBus()
 {
-    if (m_bus && !m_manager && !m_isAsking)
-        return askService(0);
+    if (m_bus && !m_manager && !m_isPinging)
+        return pingService(0);
     if (m_bus || m_isConnecting)
         return;
     m_isConnecting = true;
@@ -91,7 +94,7 @@ void ModemWatch::connectToBus()
         const GObjectPtr<GDBusConnection> bus(
             g_dbus_connection_new_for_address_finish(result, error.slot()));
         if (bus || !g_error_matches(error.get(), G_IO_ERROR, G_IO_ERROR_CANCELLED))
-            connected(bus.get());
+            busConnected(bus.get());
     };
     const auto flags =
         static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
@@ -100,28 +103,28 @@ void ModemWatch::connectToBus()
                                       runAsyncDone, asyncDone(done));
 }
 
-void ModemWatch::connected(GDBusConnection *bus)
+void ModemWatch::busConnected(GDBusConnection *bus)
 {
     m_isConnecting = false;
     if (!bus)
         return setState(ServiceState::NoBus);
     m_bus = shareObject(bus);
     m_signals.on(bus, "closed", [this] { busClosed(); });
-    askService(START_UP_TRIES);
+    pingService(START_UP_TRIES);
 }
 
-/// Whether it answers at all is asked first, without waiting: a daemon that hangs shall not hold up
-/// the thread. One that does not run says so at once.
-void ModemWatch::askService(int tries)
+/// Asks for the daemon's version without blocking, so that a daemon that hangs does not block the
+/// thread in createManager(). A daemon that is not running fails the call at once.
+void ModemWatch::pingService(int triesLeft)
 {
-    m_isAsking = true;
-    const AsyncDone done = [this, tries](GObject *bus, GAsyncResult *result) {
-        m_isAsking = false;
+    m_isPinging = true;
+    const AsyncDone done = [this, triesLeft](GObject *bus, GAsyncResult *result) {
+        m_isPinging = false;
         ErrorSlot ignored;
         const GVariantPtr answer(
             g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, ignored.slot()));
         if (G_OBJECT(m_bus.get()) == bus && !m_manager)
-            makeManager(tries);
+            createManager(triesLeft);
     };
     g_dbus_connection_call(
         m_bus.get(), MM_DBUS_SERVICE, MM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
@@ -129,29 +132,28 @@ void ModemWatch::askService(int tries)
         G_MAXINT, m_cancellable.get(), runAsyncDone, asyncDone(done));
 }
 
-/// By a call that waits, since GLib would make it on a thread of its own and tell of the objects in
-/// the main context of that thread, which is the program's and perhaps of no loop. Whether a
-/// service of the system runs is not for this library to decide.
-void ModemWatch::makeManager(int tries)
+/// Blocks until the manager exists. GLib would create the manager on a worker thread otherwise, and
+/// deliver its signals to the program's main context, where no loop may run. The call never starts
+/// the daemon, since the administrator decides whether a system service runs.
+void ModemWatch::createManager(int triesLeft)
 {
     ErrorSlot error;
     const GObjectPtr<MMManager> manager(
         mm_manager_new_sync(m_bus.get(), G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START,
                             m_cancellable.get(), error.slot()));
     if (manager)
-        return madeManager(manager.get());
+        return managerCreated(manager.get());
     if (g_cancellable_is_cancelled(m_cancellable.get()))
         return;
-    // A daemon that is starting has its name on the bus a little before its objects.
-    if (tries == 0)
+    if (triesLeft == 0)
         return setState(ServiceState::NoService);
-    m_thread.after(START_UP_PAUSE, [this, tries] {
-        if (m_bus && !m_manager && !m_isAsking)
-            askService(tries - 1);
+    m_thread.after(START_UP_PAUSE, [this, triesLeft] {
+        if (m_bus && !m_manager && !m_isPinging)
+            pingService(triesLeft - 1);
     });
 }
 
-/// GLib keeps the objects; start() may try again.
+/// Clears everything that belongs to the connection; start() can connect again.
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();
@@ -164,16 +166,16 @@ void ModemWatch::busClosed()
     setState(ServiceState::NoBus);
 }
 
-void ModemWatch::madeManager(MMManager *manager)
+void ModemWatch::managerCreated(MMManager *manager)
 {
     m_manager = shareObject(manager);
     for (const char *signal : {"object-added", "object-removed", "interface-added",
                                "interface-removed", "notify::name-owner"})
-        m_signals.on(manager, signal, [this] { look(); });
-    look();
+        m_signals.on(manager, signal, [this] { refresh(); });
+    refresh();
 }
 
-void ModemWatch::look()
+void ModemWatch::refresh()
 {
     std::vector<ModemSummary> modems;
     for (const GObjectPtr<MMObject> &object : objects())
@@ -188,7 +190,7 @@ void ModemWatch::look()
     setState(owner ? ServiceState::Running : ServiceState::NoService);
 }
 
-/// Those that have told who they are, the oldest first.
+/// Returns the modems whose identifier is known, the oldest first.
 std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
 {
     std::vector<GObjectPtr<MMObject>> found;
@@ -203,7 +205,7 @@ std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
     g_list_free(all);
     std::sort(found.begin(), found.end(),
               [](const GObjectPtr<MMObject> &a, const GObjectPtr<MMObject> &b) {
-                  return numberOf(a.get()) < numberOf(b.get());
+                  return modemNumberOf(a.get()) < modemNumberOf(b.get());
               });
     return found;
 }

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <libmm-glib/libmm-glib.h>
-#include <map>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -16,80 +15,81 @@
 namespace tksv
 {
 
+/** A modem as clients see it, see TKSV_Modem. */
 struct ModemSummary {
     std::string equipmentId; // never empty
     std::string name;        // maker and model
-    bool operator==(const ModemSummary &other) const
-    {
-        return equipmentId == other.equipmentId && name == other.name;
-    }
 };
 
+/** The state of ModemManager; Looking until its first answer. */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
-/** What ModemManager tells of its modems, kept by the one thread that speaks D-Bus. */
+/** Watches ModemManager's modems. The watch owns the only thread that uses D-Bus. */
 class ModemWatch
 {
 public:
-    /// Called on the thread after each change of the service's state, of the list, or of the
-    /// interfaces of a modem.
+    /// Called on the thread after each change of the service's state, of the list of modems, or of
+    /// the interfaces of a modem.
     using Changed = std::function<void()>;
 
     explicit ModemWatch(Changed changed);
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Begins to look for modems; returns at once. A second call looks again for what was not there
-    /// before.
+    /// Starts to look for modems, and returns at once. A second call retries a connection or a
+    /// service that was missing.
     void start();
-    /// Ends the thread, and lets go of everything there.
+    /// Ends the thread and releases everything that the thread holds.
     void stop();
 
-    /// Any thread.
+    /// Returns the modems, the oldest first. Any thread may call.
     std::vector<ModemSummary> modems() const;
+    /// Any thread may call.
     ServiceState state() const;
 
     MainLoopThread &thread() { return m_thread; }
-    /// On the thread: the modem of that identifier, or the first one for an empty text; else null.
+    /// Returns the modem with that identifier, the first modem for an empty text, or null. May be
+    /// called on the thread only.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
-    /// On the thread: the modem of that D-Bus path; else null.
+    /// Returns the modem with that D-Bus path, or null. May be called on the thread only.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
     void connectToBus();
-    void connected(GDBusConnection *bus);
+    void busConnected(GDBusConnection *bus);
     void busClosed();
-    void askService(int tries);
-    void makeManager(int tries);
-    void madeManager(MMManager *manager);
-    void look();
+    void pingService(int triesLeft);
+    void createManager(int triesLeft);
+    void managerCreated(MMManager *manager);
+    void refresh();
     std::vector<GObjectPtr<MMObject>> objects() const;
     void setState(ServiceState state);
 
     MainLoopThread m_thread;
     const Changed m_changed;
-    const Cancellable m_cancellable; // of what would keep stop() waiting
-    bool m_started = false;          // by the thread of the first start()
+    const Cancellable m_cancellable; // for the calls that stop() must not wait for
+    bool m_started = false;          // used by start() only, whose calls never overlap
 
-    // The thread's own.
+    // Used on the thread only.
     GObjectPtr<GDBusConnection> m_bus;
     GObjectPtr<MMManager> m_manager;
     bool m_isConnecting = false;
-    bool m_isAsking = false;
+    bool m_isPinging = false;
     SignalConnections m_signals;
 
-    mutable std::mutex m_mutex; // guards what follows
+    mutable std::mutex m_mutex; // guards everything below
     std::vector<ModemSummary> m_modems;
     ServiceState m_state = ServiceState::Looking;
 };
 
-/// Whether the object has that D-Bus interface at present; libmm-glib complains on stderr of a
-/// question for one that is not there.
+/// Returns whether the object has that D-Bus interface now. libmm-glib writes a warning to stderr
+/// when it is asked for an interface that is missing.
 bool hasInterface(MMObject *object, const char *name);
 
-/// IMEI, or ModemManager's identifier of the device for a modem that does not tell it.
+/// Returns the modem's IMEI, or ModemManager's identifier of the device for a modem that does not
+/// report its IMEI.
 std::string equipmentIdOf(MMObject *object);
-/// Maker and model.
+/// Returns maker and model.
 std::string nameOf(MMModem *modem);
 
 } // namespace tksv

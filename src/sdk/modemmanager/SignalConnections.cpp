@@ -10,7 +10,7 @@ namespace
 
 void runChanged(GDBusProxy *, GVariant *changed, GStrv, gpointer handler)
 {
-    // A copy: the handler may disconnect itself and so end the closure.
+    // The handler may disconnect itself, which deletes the original.
     const SignalConnections::Changed copy = *static_cast<SignalConnections::Changed *>(handler);
     copy(changed);
 }
@@ -34,7 +34,7 @@ SignalConnections::~SignalConnections()
     disconnectAll();
 }
 
-/// After libmm-glib's own handlers, which renew what it keeps ready of the properties.
+/// Connects after the handlers of libmm-glib, which update its cached properties.
 void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
 {
     if (!proxy)
@@ -44,7 +44,7 @@ void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
                               new Changed(std::move(handler)), destroy<Changed>, G_CONNECT_AFTER));
 }
 
-/// Swapped, the closure's data comes first, and the arguments behind it can be left out.
+/// G_CONNECT_SWAPPED passes the handler as the first argument, so runHandler() fits every signal.
 void SignalConnections::on(gpointer object, const char *signal, Handler handler)
 {
     add(object, g_signal_connect_data(object, signal, G_CALLBACK(runHandler),

@@ -8,7 +8,7 @@
 namespace tksv
 {
 
-/** Signals of GObjects, connected as long as this lives. It holds the objects. */
+/** Connections to signals of GObjects. The destructor disconnects them and releases the objects. */
 class SignalConnections
 {
 public:
@@ -20,9 +20,9 @@ public:
     SignalConnections(const SignalConnections &) = delete;
     SignalConnections &operator=(const SignalConnections &) = delete;
 
-    /// "g-properties-changed" of a D-Bus proxy; null does nothing.
+    /// Connects to "g-properties-changed" of a D-Bus proxy. Does nothing for null.
     void onPropertiesChanged(gpointer proxy, Changed handler);
-    /// Any signal, for those to whom its arguments do not matter.
+    /// Connects to any signal and ignores its arguments.
     void on(gpointer object, const char *signal, Handler handler);
     void disconnectAll();
 

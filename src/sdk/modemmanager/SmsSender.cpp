@@ -11,7 +11,7 @@ namespace tksv
 namespace
 {
 
-/// As with commands, the client decides how long it waits for the outcome.
+/// As for commands, the client decides how long it waits for the outcome.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)
@@ -40,9 +40,9 @@ void SmsSender::setInterface(MMModemMessaging *messaging)
 void SmsSender::send(const SmsMessage &message)
 {
     const Id id = ++m_lastId;
-    m_onTheirWay[id] = message;
+    m_inFlight[id] = message;
     if (!m_messaging)
-        return finish(id, nullptr);
+        return fail(id, nullptr);
     const AsyncDone done = [self = shared_from_this(), id](GObject *messaging,
                                                            GAsyncResult *result) {
         ErrorSlot error;
@@ -57,9 +57,9 @@ void SmsSender::send(const SmsMessage &message)
 void SmsSender::created(Id id, MMSms *sms, const GError *error)
 {
     if (!sms)
-        return finish(id, error);
-    if (m_onTheirWay.count(id) == 0)
-        return remove(sms); // has been given up: whoever sends it again does not mean it twice
+        return fail(id, error);
+    if (m_inFlight.count(id) == 0)
+        return remove(sms); // reported as failed already: the client may have sent it again
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
@@ -72,15 +72,16 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
 void SmsSender::sent(Id id, MMSms *sms, const GError *error)
 {
     remove(sms);
-    const auto found = m_onTheirWay.find(id);
-    if (error || found == m_onTheirWay.end())
-        return finish(id, error);
+    const auto found = m_inFlight.find(id);
+    if (error || found == m_inFlight.end())
+        return fail(id, error);
     const SmsMessage message = found->second;
-    m_onTheirWay.erase(found);
+    m_inFlight.erase(found);
     m_listener.finished(message, SMS_SENT);
 }
 
-/// Sent or not, the SIM's few places are not for keeping it; a failure leaves the record behind.
+/// Deletes the message, sent or not, since the SIM has little storage. The message stays there when
+/// the modem does not delete it.
 void SmsSender::remove(MMSms *sms)
 {
     if (!m_messaging)
@@ -93,22 +94,22 @@ void SmsSender::remove(MMSms *sms)
                               asyncDone(done));
 }
 
-/// The message was not sent; without an error because the modem cannot.
-void SmsSender::finish(Id id, const GError *error)
+/// Reports that the message was not sent. There is no error when the modem has no interface.
+void SmsSender::fail(Id id, const GError *error)
 {
-    const auto found = m_onTheirWay.find(id);
-    if (found == m_onTheirWay.end())
-        return; // has been given up
+    const auto found = m_inFlight.find(id);
+    if (found == m_inFlight.end())
+        return; // reported as failed already
     const SmsMessage message = found->second;
-    m_onTheirWay.erase(found);
+    m_inFlight.erase(found);
     if (error && isNotPermitted(*error))
         m_listener.notPermitted();
     m_listener.finished(message, SMS_FAILED);
 }
 
-void SmsSender::giveUp()
+void SmsSender::failPending()
 {
-    const std::map<Id, SmsMessage> lost = std::exchange(m_onTheirWay, {});
+    const std::map<Id, SmsMessage> lost = std::exchange(m_inFlight, {});
     for (const auto &entry : lost)
         m_listener.finished(entry.second, SMS_FAILED);
 }

@@ -14,9 +14,11 @@ namespace tksv
 {
 
 /**
- * Sends short messages through one modem: each is stored, sent, and deleted where it was stored.
- * The thread of the main loop only. It stays until the last call has returned, so that records are
- * deleted also when its owner has gone; giveUp() comes before that, and nothing is told after it.
+ * Sends short messages through one modem. Each message is stored on the modem, sent, and deleted.
+ * All functions run on the thread of the main loop.
+ *
+ * Pending calls keep the object alive, so that stored messages are deleted even after the owner has
+ * released the object. The owner calls failPending() first; afterwards the listener is not called.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {
@@ -28,13 +30,13 @@ public:
 
     explicit SmsSender(Listener listener);
 
-    /// Null when the modem has no such interface at present.
+    /// Sets the interface; null while the modem has none.
     void setInterface(MMModemMessaging *messaging);
     bool isUsable() const { return m_messaging != nullptr; }
 
     void send(const SmsMessage &message);
-    /// What is on its way has failed.
-    void giveUp();
+    /// Reports all messages on their way as failed.
+    void failPending();
 
 private:
     using Id = unsigned;
@@ -42,11 +44,11 @@ private:
     void created(Id id, MMSms *sms, const GError *error);
     void sent(Id id, MMSms *sms, const GError *error);
     void remove(MMSms *sms);
-    void finish(Id id, const GError *error);
+    void fail(Id id, const GError *error);
 
     const Listener m_listener;
     GObjectPtr<MMModemMessaging> m_messaging;
-    std::map<Id, SmsMessage> m_onTheirWay;
+    std::map<Id, SmsMessage> m_inFlight;
     Id m_lastId = 0;
 };
 

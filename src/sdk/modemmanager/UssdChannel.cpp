@@ -10,19 +10,20 @@ namespace tksv
 namespace
 {
 
-/// How long news of the state may lag behind a reply before it is asked for.
+/// How long the change of the state may lag behind a reply before the channel asks for the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// GDBus would give a call up after 25 s; how long a reply may take is the client's to decide.
+/// The client decides how long it waits for a reply; by default, GDBus would cancel the call after
+/// 25 seconds.
 const int NO_TIME_LIMIT = G_MAXINT;
 
-bool names(GVariant *changed, const char *property)
+bool contains(GVariant *changed, const char *property)
 {
     const GVariantPtr value(g_variant_lookup_value(changed, property, nullptr));
     return value != nullptr;
 }
 
-/// In the reply of org.freedesktop.DBus.Properties.Get.
+/// Returns the state from the reply of org.freedesktop.DBus.Properties.Get.
 MMModem3gppUssdSessionState stateIn(GVariant *answer)
 {
     GVariant *state = nullptr;
@@ -38,8 +39,8 @@ UssdChannel::UssdChannel(MainLoopThread &thread, Listener listener)
 {
 }
 
-/// GLib replaces the proxies of an object that it gets told of twice: the earlier one still makes
-/// calls but sees no change of a property any more.
+/// GLib replaces the proxies of an object that the daemon announces twice. The earlier proxy still
+/// makes calls, but gets no changes of properties any more.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -47,52 +48,52 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.disconnectAll();
     m_ussd = shareObject(ussd);
     if (!m_ussd)
-        return interfaceGone();
+        return interfaceRemoved();
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NO_TIME_LIMIT);
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
-/// What the daemon still says of calls on it does not count; perhaps it says nothing.
-void UssdChannel::interfaceGone()
+/// Later results of calls to the old interface are ignored, and may never arrive.
+void UssdChannel::interfaceRemoved()
 {
-    giveUp();
+    failPending();
     ++m_call;
-    m_inCall.reset();
+    m_running.reset();
     m_replyText.reset();
     m_cancelWanted = false;
     m_cancelling = false;
-    m_askedByNetwork = false;
+    m_isQuestionTold = false;
 }
 
 void UssdChannel::catchUp()
 {
     if (!m_ussd)
         return;
-    stateBecame(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
-    step();
+    handleState(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
+    startNext();
 }
 
-/* ---- what the client wants --------------------------------------------------------------- */
+/* ---- requests of the client -------------------------------------------------------------- */
 
 void UssdChannel::request(RequestToken token, RequestKind kind, const std::string &text)
 {
     m_next = Request{token, kind, text, false};
     if (kind == RequestKind::NewSession)
-        m_cancelWanted = m_inCall || m_askedByNetwork;
-    step();
+        m_cancelWanted = m_running || m_isQuestionTold;
+    startNext();
 }
 
 void UssdChannel::endSession()
 {
     m_next.reset();
-    m_cancelWanted = m_inCall || m_askedByNetwork;
-    step();
+    m_cancelWanted = m_running || m_isQuestionTold;
+    startNext();
 }
 
-void UssdChannel::giveUp()
+void UssdChannel::failPending()
 {
     const bool isEnding = m_cancelWanted || m_cancelling;
-    const std::optional<Request> request = m_next || isEnding ? m_next : m_inCall;
+    const std::optional<Request> request = m_next || isEnding ? m_next : m_running;
     endSession();
     if (request)
         m_listener.replied(request->token, UssdReply{UssdEndedByNetwork, std::string()});
@@ -100,24 +101,24 @@ void UssdChannel::giveUp()
 
 /* ---- calls ------------------------------------------------------------------------------- */
 
-/// Begins what is to be done next, one call at a time.
-void UssdChannel::step()
+/// Starts the next call, one at a time.
+void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
         return;
     if (m_cancelWanted)
         return startCancel();
-    if (!m_inCall && m_next)
+    if (!m_running && m_next)
         start(*std::exchange(m_next, std::nullopt));
 }
 
 void UssdChannel::start(const Request &request)
 {
-    m_inCall = request;
+    m_running = request;
     m_replyText.reset();
     m_wasActive = false;
-    m_askedByNetwork = false;
-    m_questionCame = false;
+    m_isQuestionTold = false;
+    m_hasNewQuestion = false;
     const bool isAnswer = request.kind == RequestKind::Answer;
     const auto finishCall =
         isAnswer ? mm_modem_3gpp_ussd_respond_finish : mm_modem_3gpp_ussd_initiate_finish;
@@ -135,39 +136,40 @@ void UssdChannel::callReturned(unsigned call, const Request &request, GMemory<ch
                                const GError *error)
 {
     if (call != m_call)
-        return; // ended by a cancel
+        return; // cancelled
     if (error)
-        return failed(request, *error);
+        return callFailed(request, *error);
     m_replyText = textOf(text.get());
     waitForState();
 }
 
-void UssdChannel::failed(const Request &request, const GError &error)
+void UssdChannel::callFailed(const Request &request, const GError &error)
 {
-    const UssdVerdict verdict = judgeUssdError(error);
+    const UssdVerdict verdict = classifyUssdError(error);
     if (verdict.failure == UssdFailure::ServiceLost)
-        return; // the command ends with the device
+        return; // the device event ends the command
     if (verdict.failure == UssdFailure::NotPermitted)
         m_listener.notPermitted();
-    const bool tryAgain = verdict.failure == UssdFailure::SessionOpen && !request.isSecondTry &&
-                          request.kind == RequestKind::NewSession;
-    if (!tryAgain)
+    const bool retry = verdict.failure == UssdFailure::SessionOpen && !request.isRetry &&
+                       request.kind == RequestKind::NewSession;
+    if (!retry)
         return finish(UssdReply{verdict.type, std::string()});
-    m_inCall.reset();
+    m_running.reset();
     m_next = request;
-    m_next->isSecondTry = true;
+    m_next->isRetry = true;
     m_cancelWanted = true;
-    step();
+    startNext();
 }
 
-/// It ends a call that runs, which then returns with an error or, when the port is stuck, never.
+/// The cancel ends a running call, which then returns an error, or never returns when the port is
+/// stuck.
 void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
     m_cancelling = true;
-    m_askedByNetwork = false;
+    m_isQuestionTold = false;
     const AsyncDone done = [this, call = ++m_call](GObject *ussd, GAsyncResult *result) {
-        ErrorSlot ignored; // the daemon is idle after it in any case
+        ErrorSlot ignored; // the daemon is idle after a failed cancel, too
         mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, ignored.slot());
         cancelReturned(call);
     };
@@ -179,9 +181,9 @@ void UssdChannel::cancelReturned(unsigned call)
     if (call != m_call)
         return;
     m_cancelling = false;
-    m_inCall.reset();
+    m_running.reset();
     m_replyText.reset();
-    step();
+    startNext();
 }
 
 AsyncDone UssdChannel::whileAlive(AsyncDone function)
@@ -191,27 +193,27 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 
 /* ---- the session's state ----------------------------------------------------------------- */
 
-/// After a reply the state becomes idle or "user response". Should the daemon have put both changes
-/// of a quick command into none, it has to be asked.
+/// After a reply, the state changes from "active" to "idle" or "user response". For a quick command
+/// the daemon may report neither change, and the channel has to ask for the state.
 void UssdChannel::waitForState()
 {
     const MMModem3gppUssdSessionState state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
     if (!m_wasActive)
         return askForState();
     if (state != MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE)
-        return stateBecame(state);
-    if (!std::exchange(m_lagTimerRuns, true))
+        return handleState(state);
+    if (!std::exchange(m_isLagTimerRunning, true))
         startLagTimer();
 }
 
-/// One timer for all commands, since each that waited would make every turn of the loop longer.
+/// All commands share one timer, since every waiting timer slows down each iteration of the loop.
 void UssdChannel::startLagTimer()
 {
     m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
         const std::shared_ptr<UssdChannel> alive = self.lock();
         if (!alive)
             return;
-        alive->m_lagTimerRuns = false;
+        alive->m_isLagTimerRunning = false;
         if (alive->m_replyText)
             alive->m_call == call ? alive->askForState() : alive->waitForState();
     });
@@ -226,7 +228,7 @@ void UssdChannel::askForState()
         if (call != m_call)
             return;
         m_wasActive = true;
-        stateBecame(answer ? stateIn(answer.get()) : MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE);
+        handleState(answer ? stateIn(answer.get()) : MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE);
     };
     g_dbus_proxy_call(G_DBUS_PROXY(m_ussd.get()), "org.freedesktop.DBus.Properties.Get",
                       g_variant_new("(ss)", MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, "State"),
@@ -234,24 +236,24 @@ void UssdChannel::askForState()
                       asyncDone(whileAlive(done)));
 }
 
-/// A repeated notification is no change of the property; ModemManager does not tell of it.
+/// A notification that is repeated word for word changes no property and is not reported.
 void UssdChannel::propertiesChanged(GVariant *changed)
 {
     const auto alive = shared_from_this();
-    if (names(changed, "NetworkNotification")) {
+    if (contains(changed, "NetworkNotification")) {
         const std::string text = textOf(mm_modem_3gpp_ussd_get_network_notification(m_ussd.get()));
         if (!text.empty())
-            m_listener.networkSaid(UssdReply{UssdFinal, text});
+            m_listener.textReceived(UssdReply{UssdFinal, text});
     }
-    if (names(changed, "NetworkRequest")) {
-        m_askedByNetwork = false; // another question
-        m_questionCame = true;
+    if (contains(changed, "NetworkRequest")) {
+        m_isQuestionTold = false; // this is a new question
+        m_hasNewQuestion = true;
     }
-    if (m_ussd && (names(changed, "State") || names(changed, "NetworkRequest")))
-        stateBecame(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
+    if (m_ussd && (contains(changed, "State") || contains(changed, "NetworkRequest")))
+        handleState(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
 }
 
-void UssdChannel::stateBecame(MMModem3gppUssdSessionState state)
+void UssdChannel::handleState(MMModem3gppUssdSessionState state)
 {
     if (state == MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE) {
         m_wasActive = true;
@@ -259,44 +261,44 @@ void UssdChannel::stateBecame(MMModem3gppUssdSessionState state)
     }
     const bool waits = state == MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
     if (!waits)
-        m_askedByNetwork = false;
+        m_isQuestionTold = false;
     if (m_cancelling || m_cancelWanted)
         return;
-    if (m_inCall) {
+    if (m_running) {
         if (m_replyText && m_wasActive)
             finish(UssdReply{waits ? UssdWaitsForAnswer : UssdFinal, *m_replyText});
         return;
     }
-    if (waits && !m_askedByNetwork)
-        networkAsks();
+    if (waits && !m_isQuestionTold)
+        tellQuestion();
 }
 
 void UssdChannel::finish(const UssdReply &reply)
 {
-    const Request request = *std::exchange(m_inCall, std::nullopt);
+    const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
-    // A question of the network's own right behind the reply: it is what waits for an answer, and
-    // the state in between, idle, has never been seen.
-    const bool isQuestionsState = m_questionCame && reply.type == UssdWaitsForAnswer;
-    m_askedByNetwork = reply.type == UssdWaitsForAnswer && !isQuestionsState;
+    // The network asked a question of its own right after the reply. The state belongs to this
+    // question; the idle state in between was never reported.
+    const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
+    m_isQuestionTold = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
     UssdReply told = reply;
-    if (isQuestionsState)
+    if (isStateOfQuestion)
         told.type = UssdFinal;
     if (told.text.empty() && told.type == UssdFinal)
-        told.type = UssdEndedByNetwork; // a reply without a text is none
+        told.type = UssdEndedByNetwork; // a reply without a text is a refusal
     m_listener.replied(request.token, told);
-    if (isQuestionsState)
-        networkAsks();
-    step();
+    if (isStateOfQuestion)
+        tellQuestion();
+    startNext();
 }
 
-/// The question of a menu that was the reply to somebody's command is not kept by the daemon; its
-/// text is empty then.
-void UssdChannel::networkAsks()
+/// Reports a question of the network. The text is empty for a menu that was the reply to another
+/// program's command, since the daemon does not keep this text.
+void UssdChannel::tellQuestion()
 {
-    m_askedByNetwork = true;
+    m_isQuestionTold = true;
     const std::string text = textOf(mm_modem_3gpp_ussd_get_network_request(m_ussd.get()));
-    m_listener.networkSaid(UssdReply{UssdWaitsForAnswer, text});
+    m_listener.textReceived(UssdReply{UssdWaitsForAnswer, text});
 }
 
 } // namespace tksv

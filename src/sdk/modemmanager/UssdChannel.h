@@ -17,51 +17,51 @@ namespace tksv
 {
 
 /**
- * The USSD interface of one modem, whose session follows the interface's state.
+ * The USSD session of one modem.
  *
- * The daemon's reply comes before its news of the state, and whether the network waits for an
- * answer is known by the state alone: so a reply is told when the state has left "active".
- * The thread of the main loop only; what is asked for after the end is forgotten.
+ * The daemon sends the reply before the new state of the session, and only the state tells whether
+ * the network waits for an answer. So the channel holds the reply back until the state has left
+ * "active". All functions run on the thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
 public:
     struct Listener {
         std::function<void(RequestToken, const UssdReply &)> replied;
-        std::function<void(const UssdReply &)> networkSaid;
+        std::function<void(const UssdReply &)> textReceived;
         std::function<void()> notPermitted;
     };
 
     UssdChannel(MainLoopThread &thread, Listener listener);
 
-    /// The interface, also one that takes the place of an earlier proxy of the same; null when the
-    /// modem has none at present.
+    /// Sets the interface, or a newer proxy of the same interface; null while the modem has none.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// After setInterface(): tells of a menu that somebody has left open, and begins what waits.
+    /// Called after setInterface(). Reports a menu that another program left open, and starts a
+    /// waiting request.
     void catchUp();
 
-    /// In place of what is on its way.
+    /// Sends the text, and replaces a request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
-    /// Ends session and request; nothing is told of the request any more.
+    /// Ends the session and the request in flight, which gets no reply.
     void endSession();
-    /// As endSession(), and the request gets an empty reply.
-    void giveUp();
+    /// Ends the session, and the request in flight gets an empty reply.
+    void failPending();
 
 private:
     struct Request {
         RequestToken token;
         RequestKind kind;
         std::string text;
-        bool isSecondTry;
+        bool isRetry;
     };
 
-    void interfaceGone();
-    void step();
+    void interfaceRemoved();
+    void startNext();
     void start(const Request &request);
     void callReturned(unsigned call, const Request &request, GMemory<char> text,
                       const GError *error);
-    void failed(const Request &request, const GError &error);
+    void callFailed(const Request &request, const GError &error);
     void startCancel();
     void cancelReturned(unsigned call);
 
@@ -69,9 +69,9 @@ private:
     void startLagTimer();
     void askForState();
     void propertiesChanged(GVariant *changed);
-    void stateBecame(MMModem3gppUssdSessionState state);
+    void handleState(MMModem3gppUssdSessionState state);
     void finish(const UssdReply &reply);
-    void networkAsks();
+    void tellQuestion();
     AsyncDone whileAlive(AsyncDone function);
 
     MainLoopThread &m_thread;
@@ -79,16 +79,16 @@ private:
     GObjectPtr<MMModem3gppUssd> m_ussd;
     SignalConnections m_signals;
 
-    std::optional<Request> m_next;   // to be started when nothing runs
-    std::optional<Request> m_inCall; // Initiate or Respond runs, or its state is waited for
+    std::optional<Request> m_next;    // starts when no call is running
+    std::optional<Request> m_running; // its call is running, or its reply waits for the state
     std::optional<std::string> m_replyText;
-    bool m_lagTimerRuns = false;
-    bool m_wasActive = false; // the state has been seen active since the call began
+    bool m_isLagTimerRunning = false;
+    bool m_wasActive = false; // the state was active after the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_askedByNetwork = false; // the open session's question has been told
-    bool m_questionCame = false;   // NetworkRequest has changed since the call began
-    unsigned m_call = 0;           // the newest call; what older ones return does not count
+    bool m_isQuestionTold = false; // the listener knows the open session's question
+    bool m_hasNewQuestion = false; // NetworkRequest has changed since the call started
+    unsigned m_call = 0;           // number of the newest call; results of older calls are ignored
 };
 
 } // namespace tksv

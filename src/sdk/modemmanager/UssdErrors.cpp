@@ -9,17 +9,18 @@ namespace tksv
 namespace
 {
 
-bool is(const GError &error, GQuark domain, int code)
+bool hasCode(const GError &error, GQuark domain, int code)
 {
     return error.domain == domain && error.code == code;
 }
 
-bool isCore(const GError &error, MMCoreError code)
+bool isCoreError(const GError &error, MMCoreError code)
 {
-    return is(error, MM_CORE_ERROR, code);
+    return hasCode(error, MM_CORE_ERROR, code);
 }
 
-/// The daemon knows only some <m> of +CUSD and names the others in its text: "...: 5 (5)".
+/// Returns the type of a reply whose <m> of +CUSD the daemon does not handle. The daemon writes <m>
+/// into the text of the error: "...: 5 (5)".
 int unhandledType(const GError &error)
 {
     const bool timeout =
@@ -32,45 +33,41 @@ bool isServiceLost(const GError &error)
     for (const int code :
          {G_DBUS_ERROR_NO_REPLY, G_DBUS_ERROR_SERVICE_UNKNOWN, G_DBUS_ERROR_NAME_HAS_NO_OWNER,
           G_DBUS_ERROR_UNKNOWN_METHOD, G_DBUS_ERROR_UNKNOWN_OBJECT, G_DBUS_ERROR_DISCONNECTED}) {
-        if (is(error, G_DBUS_ERROR, code))
+        if (hasCode(error, G_DBUS_ERROR, code))
             return true;
     }
-    return is(error, G_IO_ERROR, G_IO_ERROR_CLOSED);
+    return hasCode(error, G_IO_ERROR, G_IO_ERROR_CLOSED);
 }
 
 } // namespace
 
-UssdVerdict judgeUssdError(const GError &error)
+UssdVerdict classifyUssdError(const GError &error)
 {
     if (isNotPermitted(error))
         return {UssdFailure::NotPermitted, UssdEndedByNetwork};
     if (isServiceLost(error))
         return {UssdFailure::ServiceLost, UssdEndedByNetwork};
-    if (isCore(error, MM_CORE_ERROR_WRONG_STATE) || isCore(error, MM_CORE_ERROR_IN_PROGRESS))
+    if (isCoreError(error, MM_CORE_ERROR_WRONG_STATE) ||
+        isCoreError(error, MM_CORE_ERROR_IN_PROGRESS))
         return {UssdFailure::SessionOpen, UssdEndedByNetwork};
-    if (is(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED))
+    if (hasCode(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED))
         return {UssdFailure::Replied, UssdNotSupported};
     return {UssdFailure::Replied, unhandledType(error)};
 }
 
 bool isNotPermitted(const GError &error)
 {
-    return isCore(error, MM_CORE_ERROR_UNAUTHORIZED) ||
-           is(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
-}
-
-bool isCancelled(const GError &error)
-{
-    return is(error, G_IO_ERROR, G_IO_ERROR_CANCELLED);
+    return isCoreError(error, MM_CORE_ERROR_UNAUTHORIZED) ||
+           hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
 TKSV_DeviceProblem problemOfPinError(const GError &error)
 {
     if (isNotPermitted(error))
         return TKSV_PROBLEM_NOT_PERMITTED;
-    if (is(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_SIM_PUK))
+    if (hasCode(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_SIM_PUK))
         return TKSV_PROBLEM_PUK_NEEDED;
-    if (is(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_INCORRECT_PASSWORD))
+    if (hasCode(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_INCORRECT_PASSWORD))
         return TKSV_PROBLEM_WRONG_PIN;
     return TKSV_PROBLEM_MODEM_FAILED;
 }

@@ -5,17 +5,17 @@
 
 #include "../base/Backend.h"
 
-/* What ModemManager's errors mean; docs/modems.md has them as a table. */
+/* The meaning of ModemManager's errors; docs/modems.md lists them. */
 
 namespace tksv
 {
 
-/** What becomes of a USSD command whose call has failed. */
+/** How a USSD command ends whose call has failed. */
 enum class UssdFailure {
-    Replied,      // the client gets an empty reply of the type beside it
-    SessionOpen,  // the daemon believes a session to be open: end it and try once more
-    NotPermitted, // polkit; an empty reply as well
-    ServiceLost   // the daemon or the modem is gone: the device event ends the command
+    Replied,      // the client gets an empty reply of UssdVerdict::type
+    SessionOpen,  // the daemon assumes an open session, which must end before a retry
+    NotPermitted, // polkit denied the call; the client gets an empty reply
+    ServiceLost   // the daemon or the modem is gone, and a device event ends the command
 };
 
 struct UssdVerdict {
@@ -23,13 +23,12 @@ struct UssdVerdict {
     int type = UssdEndedByNetwork;
 };
 
-UssdVerdict judgeUssdError(const GError &error);
+UssdVerdict classifyUssdError(const GError &error);
 
+/// Returns whether the system's policy denied the call.
 bool isNotPermitted(const GError &error);
-/// The caller has cancelled it.
-bool isCancelled(const GError &error);
 
-/// What sending a PIN that ModemManager did not take means for the user.
+/// Returns the problem to show to the user after ModemManager has rejected a PIN.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
 } // namespace tksv

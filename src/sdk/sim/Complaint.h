@@ -7,14 +7,14 @@
 namespace tksv
 {
 
-/** What is wrong with a file that somebody wrote, said so that he can mend it. */
+/** A fault in a file, described for the author of the file. */
 struct Complaint {
     std::string file;
-    int line = 0; // from 1; 0: the file as a whole
+    int line = 0; // counts from 1; 0 stands for the whole file
     std::string text;
 };
 
-/// "file:line: text", one a line, without a line feed at the end.
+/// Returns one line "file:line: text" for each complaint, without a line feed at the end.
 std::string describe(const std::vector<Complaint> &complaints);
 
 /** Collects the complaints about one file. */
@@ -25,7 +25,7 @@ public:
     void add(int line, const std::string &text) { m_list.push_back({m_file, line, text}); }
     bool isEmpty() const { return m_list.empty(); }
     std::size_t count() const { return m_list.size(); }
-    /// In the order of the lines.
+    /// Returns the complaints in the order of their lines.
     std::vector<Complaint> sorted() const;
 
 private:

@@ -14,7 +14,7 @@ const char SMS_PREFIX[] = "SMS ";
 const char PUSH_PREFIX[] = "Push ";
 const char EVENT_PREFIX[] = "Event ";
 
-/// The characters of a code, with at most one %s.
+/// Returns whether the name is a code, in which one %s may stand for digits.
 bool isCodeOrPattern(const std::string &name)
 {
     std::string rest = name;

@@ -3,7 +3,7 @@
 
 #include <string>
 
-/* What the name of a group in a scenario file says. */
+/* The names of the groups in a scenario file. */
 
 namespace tksv
 {
@@ -11,12 +11,13 @@ namespace tksv
 enum class GroupKind { Network, Sms, Push, Event, Code, Answer, Unknown };
 
 GroupKind kindOf(const std::string &name);
-/// The number in "SMS number"; empty for "SMS".
+/// Returns the number of a group "SMS number"; empty for the group "SMS".
 std::string smsNumberOf(const std::string &name);
-/// The group that an answer group belongs to: "*123#/1" for "*123#/1/2".
+/// Returns the group of the menu that an answer belongs to: "*123#/1" for "*123#/1/2".
 std::string menuOf(const std::string &answerGroup);
-/// Whether digits of any kind are a part of the code.
+/// Returns whether the code contains %s.
 bool hasPattern(const std::string &name);
+/// Returns "[name]".
 std::string bracketed(const std::string &name);
 
 } // namespace tksv

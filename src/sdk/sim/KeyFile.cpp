@@ -51,8 +51,7 @@ std::string join(const std::vector<std::string> &lines, std::size_t count)
     return text;
 }
 
-/// The first line that GKeyFile does not take: what stands before it is a key file, with it no
-/// more.
+/// Returns the index of the first line that GKeyFile rejects: the lines before it form a key file.
 std::size_t firstRefusedLine(const std::vector<std::string> &lines)
 {
     std::size_t good = 0;
@@ -76,7 +75,7 @@ bool reportNonUtf8(const std::vector<std::string> &lines, Complaints &complaints
     return found;
 }
 
-/// Reports each line that is none of a key file, and takes it out.
+/// Reports and clears each line that has no place in a key file.
 GKeyFilePointer parseWithoutBadLines(std::vector<std::string> lines, Complaints &complaints)
 {
     GKeyFilePointer file = parse(join(lines, lines.size()));
@@ -95,14 +94,14 @@ GKeyFilePointer parseWithoutBadLines(std::vector<std::string> lines, Complaints 
 
 bool containsGroup(const std::vector<KeyFileGroup> &groups, const std::string &name, int &line)
 {
-    const auto isIt = [&name](const KeyFileGroup &group) { return group.name == name; };
-    const auto found = std::find_if(groups.begin(), groups.end(), isIt);
+    const auto matches = [&name](const KeyFileGroup &group) { return group.name == name; };
+    const auto found = std::find_if(groups.begin(), groups.end(), matches);
     if (found != groups.end())
         line = found->line;
     return found != groups.end();
 }
 
-/** Goes through the lines of a text that GKeyFile has taken. */
+/** Collects groups and keys from the lines of a text that GKeyFile has accepted. */
 class LineScan
 {
 public:
@@ -149,7 +148,7 @@ private:
     {
         GError *error = nullptr;
         char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), &error);
-        if (error) // also when there is a text
+        if (error) // GKeyFile may return a text with an error
             m_complaints.add(m_line, key + ": expected n, t, s, r or \\ after each \\");
         std::string result = text ? text : "";
         g_clear_error(&error);
@@ -172,8 +171,8 @@ std::string withoutByteOrderMark(const std::string &text)
 
 const KeyFileEntry *KeyFileGroup::find(const std::string &key) const
 {
-    const auto isIt = [&key](const KeyFileEntry &entry) { return entry.key == key; };
-    const auto found = std::find_if(entries.begin(), entries.end(), isIt);
+    const auto matches = [&key](const KeyFileEntry &entry) { return entry.key == key; };
+    const auto found = std::find_if(entries.begin(), entries.end(), matches);
     return found == entries.end() ? nullptr : &*found;
 }
 

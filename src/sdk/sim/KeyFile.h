@@ -11,8 +11,8 @@ namespace tksv
 
 struct KeyFileEntry {
     std::string key;
-    std::string value; // with \n, \t, \s and \\ resolved
-    int line = 0;
+    std::string value; // after \n, \t, \s, \r and \\ have been replaced
+    int line = 0;      // counts from 1
 };
 
 struct KeyFileGroup {
@@ -20,13 +20,14 @@ struct KeyFileGroup {
     int line = 0;
     std::vector<KeyFileEntry> entries;
 
-    /// Null when the group has no such key.
+    /// Returns null when the group has no such key.
     const KeyFileEntry *find(const std::string &key) const;
 };
 
 /**
- * The groups of a GLib key file in their order, each with its line, which GKeyFile itself does not
- * tell. Anything that is no key file, and any group or key that stands there twice, is a complaint.
+ * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
+ * not report. Lines that do not belong in a key file, and groups or keys that occur twice, are
+ * added to the complaints.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 

@@ -19,7 +19,7 @@ std::string inBraces(std::vector<std::string> names)
     return enumerate(names);
 }
 
-/** Checks one rule's keys against each other and against the rest of the scenario. */
+/** Checks the keys of one rule against each other and against the rest of the scenario. */
 class RuleCheck
 {
 public:
@@ -49,7 +49,7 @@ private:
         m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
     }
 
-    /// A key that means something only in certain groups.
+    /// Complains about a key that is not allowed in this group.
     void allow(const char *key, bool allowed, const std::string &where)
     {
         if (const KeyFileEntry *entry = m_group.find(key)) {
@@ -104,7 +104,7 @@ private:
         allow("NotEnough", has("Credit"), "with Credit");
     }
 
-    /// Where an answer stands among the other groups.
+    /// Checks the group of an answer against the group of its menu.
     void checkPlace()
     {
         if (kindOf(m_group.name) != GroupKind::Answer)

@@ -7,7 +7,7 @@
 namespace tksv
 {
 
-/// Checks the rule of the group: its keys against each other, and what it asks of the rest.
+/// Checks the keys of the group's rule against each other and against the rest of the scenario.
 void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints);
 
 } // namespace tksv

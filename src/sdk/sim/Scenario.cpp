@@ -8,19 +8,21 @@ namespace tksv
 namespace
 {
 
-/// Marks of the file's own syntax, which a client's text must not reach.
+/// Returns whether the text contains characters that have a meaning in group names. A client's text
+/// with such characters must not match a group.
 bool hasSyntaxMarks(const std::string &text)
 {
     return text.find_first_of("%/ ") != std::string::npos;
 }
 
-/** One step through a text with {names}: plain text, then a name that may be empty. */
+/** A part of a text with {names}: plain text, and then a name, which may be empty. */
 struct TextPart {
     std::string plain;
     std::string name;
 };
 
-/// Takes the next part off `text` from `position` on; false when a { is left open.
+/// Reads the part of `text` at `position` and advances `position`. Returns false when a { is not
+/// closed or its name is empty.
 bool nextPart(const std::string &text, std::size_t &position, TextPart &part)
 {
     const std::size_t open = text.find('{', position);

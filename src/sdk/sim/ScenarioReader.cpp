@@ -14,7 +14,7 @@ namespace tksv
 namespace
 {
 
-/// What TKSV_DeviceInfo has room for.
+/// The longest name that fits into TKSV_DeviceInfo.
 const std::size_t MAX_OPERATOR_BYTES = sizeof TKSV_DeviceInfo::operatorName - 1;
 const std::size_t MAX_CURRENCY_BYTES = 16;
 
@@ -63,7 +63,7 @@ const Key<Rule> RULE_KEYS[] = {
     {"Delay", [](const ScenarioValue &v, Rule &r) { r.delay = v.milliseconds(); }},
     {"Credit", [](const ScenarioValue &v, Rule &r) { v.credit(r); }},
     {"NotEnough", [](const ScenarioValue &v, Rule &r) { r.notEnough = v.text(); }},
-    {"Digits", [](const ScenarioValue &v, Rule &r) { v.digitCount(r.fewestDigits, r.mostDigits); }},
+    {"Digits", [](const ScenarioValue &v, Rule &r) { v.digitCount(r.minDigits, r.maxDigits); }},
     {"WrongDigits", [](const ScenarioValue &v, Rule &r) { r.wrongDigits = v.text(); }},
     {"DeviceEvent",
      [](const ScenarioValue &v, Rule &r) {
@@ -106,8 +106,8 @@ void readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
     for (const Key<T> &key : keys)
         names.push_back(key.name);
     for (const KeyFileEntry &entry : group.entries) {
-        const auto isIt = [&entry](const Key<T> &key) { return entry.key == key.name; };
-        const auto key = std::find_if(std::begin(keys), std::end(keys), isIt);
+        const auto matches = [&entry](const Key<T> &key) { return entry.key == key.name; };
+        const auto key = std::find_if(std::begin(keys), std::end(keys), matches);
         if (key == std::end(keys))
             complaints.add(entry.line,
                            "unknown key " + entry.key + "; expected " + enumerate(names));
@@ -116,9 +116,9 @@ void readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
     }
 }
 
-/* ---- one group after the other ----------------------------------------------------------- */
+/* ---- reading the groups ------------------------------------------------------------------ */
 
-/** Reads the groups into a scenario; what one group asks of another is left to the RuleCheck. */
+/** Reads the groups into a scenario. RuleCheck checks the relations between groups later. */
 class GroupReader
 {
 public:
@@ -129,8 +129,8 @@ public:
 
     void readNetwork(const std::vector<KeyFileGroup> &groups)
     {
-        const auto isIt = [](const KeyFileGroup &group) { return group.name == "Network"; };
-        const auto network = std::find_if(groups.begin(), groups.end(), isIt);
+        const auto matches = [](const KeyFileGroup &group) { return group.name == "Network"; };
+        const auto network = std::find_if(groups.begin(), groups.end(), matches);
         if (network == groups.end()) {
             m_complaints.add(1, "expected a group [Network] with Operator= and IMSI=");
             return;
@@ -144,7 +144,7 @@ public:
     {
         switch (kindOf(group.name)) {
         case GroupKind::Network:
-            break; // read before all others, which take their delay from it
+            break; // readNetwork() has read this group, whose delay the other groups use
         case GroupKind::Sms:
             return readSms(group);
         case GroupKind::Push:
@@ -220,7 +220,7 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<const KeyFileGroup *> readWell; // one mistake shall not look like two
+    std::vector<const KeyFileGroup *> readWell; // a rule with a fault gets no further complaint
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();
         reader.read(group);

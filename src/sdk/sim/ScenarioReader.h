@@ -11,14 +11,15 @@
 namespace tksv
 {
 
-/** Either a whole scenario or the complaints, in the order of their lines. */
+/** Either a complete scenario, or the complaints in the order of their lines. */
 struct ScenarioResult {
     std::optional<Scenario> scenario;
     std::vector<Complaint> complaints;
 };
 
-/// `file` is the name used in complaints and as the scenario's source.
+/// Reads a scenario from a text. The complaints and the scenario's source name `file`.
 ScenarioResult readScenario(const std::string &text, const std::string &file);
+/// Reads a scenario from a regular file of at most 1 MiB.
 ScenarioResult readScenarioFile(const std::string &path);
 
 } // namespace tksv

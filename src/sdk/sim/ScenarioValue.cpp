@@ -11,8 +11,8 @@ namespace
 {
 
 const int MAX_MILLISECONDS = 24 * 60 * 60 * 1000;
-const std::size_t MAX_MONEY_DIGITS = 9; // whole units; keeps sums far away from overflow
-const int MAX_CODE_DIGITS = 182;
+/// Digits of whole units. Sums of such amounts cannot overflow.
+const std::size_t MAX_MONEY_DIGITS = 9;
 
 std::optional<int> parseInt(const std::string &text)
 {
@@ -30,7 +30,7 @@ std::optional<int> parseIntBetween(const std::string &text, int min, int max)
     return value && *value >= min && *value <= max ? value : std::nullopt;
 }
 
-/// "12", "12.5" or "12.50", without a sign.
+/// Parses "12", "12.5" or "12.50", without a sign.
 std::optional<Amount> parseMoney(const std::string &text)
 {
     const std::size_t point = text.find('.');
@@ -102,10 +102,10 @@ Amount ScenarioValue::amount() const
     return value.value_or(0);
 }
 
-std::string ScenarioValue::digits(std::size_t fewest, std::size_t most) const
+std::string ScenarioValue::digits(std::size_t min, std::size_t max) const
 {
-    if (!isDigits(text()) || text().size() < fewest || text().size() > most)
-        expected(std::to_string(fewest) + " to " + std::to_string(most) + " digits");
+    if (!isDigits(text()) || text().size() < min || text().size() > max)
+        expected(std::to_string(min) + " to " + std::to_string(max) + " digits");
     return text();
 }
 
@@ -115,7 +115,7 @@ int ScenarioValue::deviceEvent() const
     return word(events);
 }
 
-void ScenarioValue::digitCount(std::size_t &fewest, std::size_t &most) const
+void ScenarioValue::digitCount(std::size_t &min, std::size_t &max) const
 {
     const std::size_t dash = text().find('-');
     const std::string last = dash == std::string::npos ? text() : text().substr(dash + 1);
@@ -126,8 +126,8 @@ void ScenarioValue::digitCount(std::size_t &fewest, std::size_t &most) const
                  std::to_string(MAX_CODE_DIGITS));
         return;
     }
-    fewest = static_cast<std::size_t>(*from);
-    most = static_cast<std::size_t>(*to);
+    min = static_cast<std::size_t>(*from);
+    max = static_cast<std::size_t>(*to);
 }
 
 void ScenarioValue::credit(Rule &rule) const

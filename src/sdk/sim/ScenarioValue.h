@@ -1,7 +1,6 @@
 #ifndef TKSV_INTERNAL_SCENARIOVALUE_H
 #define TKSV_INTERNAL_SCENARIOVALUE_H
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,19 +10,19 @@
 namespace tksv
 {
 
-/** A word of the file and what it stands for. */
+/** A word of the file and its value. */
 template <typename T>
 struct Word {
     const char *word;
     T value;
 };
 
-/// "a, b or c"
+/// Returns "a, b or c".
 std::string enumerate(const std::vector<std::string> &words);
 
 /**
- * The value of one key. Each reading function returns what `fallback` or the type's empty value is
- * when the text is not what was expected, and complains.
+ * The value of one key. A function that finds another text than expected adds a complaint and
+ * returns a value within its range, which the caller ignores.
  */
 class ScenarioValue
 {
@@ -34,16 +33,16 @@ public:
     }
 
     const std::string &text() const { return m_entry.value; }
-    /// At most `maxBytes` long and not empty.
+    /// Returns a text that is not empty and at most `maxBytes` long.
     std::string name(std::size_t maxBytes) const;
     int number(int min, int max) const;
     Milliseconds milliseconds() const;
-    /// A number of milliseconds, or "never".
+    /// Returns a number of milliseconds, or nothing for "never".
     AwayTime away() const;
     Amount amount() const;
-    std::string digits(std::size_t fewest, std::size_t most) const;
+    std::string digits(std::size_t min, std::size_t max) const;
     int deviceEvent() const;
-    void digitCount(std::size_t &fewest, std::size_t &most) const;
+    void digitCount(std::size_t &min, std::size_t &max) const;
     void credit(Rule &rule) const;
 
     template <typename T, std::size_t N>
@@ -59,6 +58,7 @@ public:
         return words[0].value;
     }
 
+    /// Adds the complaint that `what` was expected.
     void expected(const std::string &what) const;
 
 private:

@@ -38,13 +38,13 @@ void Scheduler::stop()
     m_thread.finish(NO_LIMIT);
 }
 
-void Scheduler::lookAgain()
+void Scheduler::recheckClock()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_wake.notify_one();
 }
 
-/// The wait itself always goes by the system's clock.
+/// The wait itself always uses the system's clock.
 void Scheduler::waitUntil(Time due, std::unique_lock<std::mutex> &lock)
 {
     m_wake.wait_for(lock, due - SimulatorClock::now());

@@ -14,8 +14,8 @@ namespace tksv
 {
 
 /**
- * Runs tasks after their delays, one after the other, on a thread of its own that starts with the
- * first task. Tasks of the same time run in the order in which they were given.
+ * Runs tasks after a delay, one after the other, on its own thread, which the first task starts.
+ * Tasks that are due at the same time run in the order of the calls of after().
  */
 class Scheduler
 {
@@ -25,11 +25,12 @@ public:
     Scheduler(const Scheduler &) = delete;
     Scheduler &operator=(const Scheduler &) = delete;
 
+    /// Any thread may call. Does nothing after stop().
     void after(std::chrono::milliseconds delay, std::function<void()> task);
-    /// Drops the tasks that wait and returns when none is running. Not to be called by a task.
+    /// Drops the waiting tasks and waits for a running task. A task must not call this function.
     void stop();
-    /// The clock has jumped.
-    void lookAgain();
+    /// Reads the clock again after a jump.
+    void recheckClock();
 
 private:
     using Time = SimulatorClock::Time;

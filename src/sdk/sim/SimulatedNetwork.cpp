@@ -11,10 +11,10 @@ namespace
 {
 
 const Amount HUNDREDTHS_IN_UNIT = 100;
-const int PIN_RETRIES = 3;               // as any SIM (ETSI TS 102 221, 9.5.1)
-const std::size_t MAX_AMOUNT_DIGITS = 9; // more is more than anybody has
+const int PIN_RETRIES = 3;               // as on every SIM (ETSI TS 102 221, 9.5.1)
+const std::size_t MAX_AMOUNT_DIGITS = 9; // no balance has more digits
 
-/// The type of a reply without text.
+/// Returns the type of a reply without a text.
 int refusalType(Outcome outcome)
 {
     switch (outcome) {
@@ -63,9 +63,9 @@ void SimulatedNetwork::start(BackendObserver &observer)
 {
     m_observer = &observer;
     for (const TimedEvent &event : m_scenario.events)
-        schedule(event.after, [this, &event](News &news) { apply(event, news); });
+        schedule(event.after, [this, &event](Notices &notices) { apply(event, notices); });
     for (const Push &due : m_scenario.pushes)
-        schedule(due.after, [this, &due](News &news) { push(due.group, news); });
+        schedule(due.after, [this, &due](Notices &notices) { push(due.group, notices); });
 }
 
 void SimulatedNetwork::stop()
@@ -91,7 +91,7 @@ int SimulatedNetwork::request(RequestToken token, RequestKind kind, const std::s
     m_inFlight = token;
     m_menu = OpenMenu();
     if (rule.outcome != Outcome::Silence)
-        schedule(rule.delay, [this, request](News &news) { perform(request, news); });
+        schedule(rule.delay, [this, request](Notices &notices) { perform(request, notices); });
     return RequestAccepted;
 }
 
@@ -109,9 +109,9 @@ bool SimulatedNetwork::sendSms(const SmsMessage &message)
     const SmsRule rule = findSms(m_scenario, toUtf8(message.number).value_or(std::string()));
     const unsigned id = ++m_lastSms;
     m_smsInFlight[id] = message;
-    schedule(rule.delay, [this, id, message, result = rule.result](News &news) {
+    schedule(rule.delay, [this, id, message, result = rule.result](Notices &notices) {
         if (m_smsInFlight.erase(id))
-            news.push_back([=](BackendObserver &o) { o.smsFinished(message, result); });
+            notices.push_back([=](BackendObserver &o) { o.smsFinished(message, result); });
     });
     return true;
 }
@@ -121,7 +121,7 @@ bool SimulatedNetwork::sendPin(const std::string &pin)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || m_state != TKSV_DEVICE_SIM_LOCKED || m_pinRetries == 0)
         return false;
-    schedule(m_scenario.delay, [this, pin](News &news) { tryPin(pin, news); });
+    schedule(m_scenario.delay, [this, pin](Notices &notices) { tryPin(pin, notices); });
     return true;
 }
 
@@ -148,21 +148,21 @@ DeviceInfo SimulatedNetwork::info() const
     return info;
 }
 
-/// Makes the change on the scheduler's thread, with the lock held, and then tells the observer.
+/// Makes the change on the scheduler's thread while the lock is held, and then calls the observer.
 void SimulatedNetwork::schedule(Milliseconds delay, Change change)
 {
     m_scheduler.after(delay, [this, change = std::move(change)] {
-        News news;
+        Notices notices;
         {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            change(news);
+            change(notices);
         }
-        for (const auto &tell : news)
+        for (const auto &tell : notices)
             tell(*m_observer);
     });
 }
 
-/* ---- USSD; with the lock held ------------------------------------------------------------ */
+/* ---- USSD; the caller holds the lock ----------------------------------------------------- */
 
 Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) const
 {
@@ -173,7 +173,8 @@ Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) cons
     return match;
 }
 
-/// The rule that holds, through its Goto; what the network does not know it refuses.
+/// Returns the rule of the match, or the rule that its Goto names. The network refuses what no rule
+/// matches.
 Rule SimulatedNetwork::ruleFor(const Match &match) const
 {
     const auto found = m_scenario.rules.find(match.group);
@@ -186,18 +187,18 @@ Rule SimulatedNetwork::ruleFor(const Match &match) const
     return found->second.goTo.empty() ? found->second : m_scenario.rules.at(found->second.goTo);
 }
 
-void SimulatedNetwork::perform(const Request &request, News &news)
+void SimulatedNetwork::perform(const Request &request, Notices &notices)
 {
     if (m_inFlight != request.token)
-        return; // replaced or released meanwhile
+        return; // the request was replaced or released
     const Rule rule = ruleFor(request.match);
     if (rule.outcome == Outcome::DeviceEvent) {
-        loseDevice(rule.deviceEvent, rule.away, news);
+        loseDevice(rule.deviceEvent, rule.away, notices);
         return;
     }
     m_inFlight = 0;
     const UssdReply reply = replyTo(request, rule);
-    news.push_back([=](BackendObserver &o) { o.ussdReply(request.token, reply); });
+    notices.push_back([=](BackendObserver &o) { o.ussdReply(request.token, reply); });
     if (reply.type != UssdWaitsForAnswer)
         closeSession();
 }
@@ -206,15 +207,15 @@ UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
 {
     if (rule.outcome != Outcome::Reply)
         return UssdReply{refusalType(rule.outcome), std::string()};
-    const UssdReply reply = sayText(request, rule);
+    const UssdReply reply = textReply(request, rule);
     return reply.text.empty() ? UssdReply{UssdEndedByNetwork, std::string()} : reply;
 }
 
-/// An empty text when the network refuses after all.
-UssdReply SimulatedNetwork::sayText(const Request &request, const Rule &rule)
+/// Returns an empty text when the network refuses the request after all.
+UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
 {
     const std::string &digits = request.match.digits;
-    const bool fits = digits.size() >= rule.fewestDigits && digits.size() <= rule.mostDigits;
+    const bool fits = digits.size() >= rule.minDigits && digits.size() <= rule.maxDigits;
     if (!digits.empty() && request.answer.empty() && !fits)
         return UssdReply{UssdFinal, expand(rule.wrongDigits, placeholders(request))};
     if (!takeCredit(rule, digits))
@@ -227,7 +228,7 @@ UssdReply SimulatedNetwork::sayText(const Request &request, const Rule &rule)
     return UssdReply{type, expand(rule.reply, placeholders(request))};
 }
 
-/// False when the balance does not suffice.
+/// Changes the balance. Returns false when the balance does not suffice.
 bool SimulatedNetwork::takeCredit(const Rule &rule, const std::string &digits)
 {
     if (rule.creditDigits && digits.size() > MAX_AMOUNT_DIGITS)
@@ -248,17 +249,17 @@ Placeholders SimulatedNetwork::placeholders(const Request &request) const
                         {"answer", request.answer}};
 }
 
-/// Ends request and menu; what the network wanted to say of its own accord comes now.
+/// Ends the request and the menu, and sends the texts that waited for the end of the session.
 void SimulatedNetwork::closeSession()
 {
     m_inFlight = 0;
     m_menu = OpenMenu();
     const std::vector<std::string> due = std::exchange(m_duePushes, {});
     for (const std::string &group : due)
-        schedule(Milliseconds(0), [this, group](News &news) { push(group, news); });
+        schedule(Milliseconds(0), [this, group](Notices &notices) { push(group, notices); });
 }
 
-void SimulatedNetwork::push(const std::string &group, News &news)
+void SimulatedNetwork::push(const std::string &group, Notices &notices)
 {
     if (m_inFlight || !m_menu.group.empty() || !isRegistered()) {
         m_duePushes.push_back(group);
@@ -266,30 +267,30 @@ void SimulatedNetwork::push(const std::string &group, News &news)
     }
     const Request request{0, Match{group, std::string()}, std::string()};
     const UssdReply text = replyTo(request, ruleFor(request.match));
-    news.push_back([=](BackendObserver &o) { o.ussdText(text); });
+    notices.push_back([=](BackendObserver &o) { o.ussdText(text); });
 }
 
-/* ---- the device; with the lock held ------------------------------------------------------ */
+/* ---- the device; the caller holds the lock ----------------------------------------------- */
 
-void SimulatedNetwork::apply(const TimedEvent &event, News &news)
+void SimulatedNetwork::apply(const TimedEvent &event, Notices &notices)
 {
     if (event.every)
-        schedule(*event.every, [this, &event](News &later) { apply(event, later); });
+        schedule(*event.every, [this, &event](Notices &later) { apply(event, later); });
     const bool couldSend = canSendSms();
     m_smsReady = event.smsReady.value_or(m_smsReady);
     m_signalPercent = event.signalPercent.value_or(m_signalPercent);
-    tellSmsStatus(couldSend, news);
+    notifySmsStatus(couldSend, notices);
     if (event.state)
-        setState(*event.state, news);
+        setState(*event.state, notices);
     if (event.deviceEvent)
-        loseDevice(event.deviceEvent, event.away, news);
-    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+        loseDevice(event.deviceEvent, event.away, notices);
+    notices.push_back([](BackendObserver &o) { o.infoChanged(); });
 }
 
-void SimulatedNetwork::setState(TKSV_DeviceState state, News &news)
+void SimulatedNetwork::setState(TKSV_DeviceState state, Notices &notices)
 {
     if (state == TKSV_DEVICE_ABSENT) {
-        loseDevice(TKSV_DEV_EVENT_GONE, std::nullopt, news);
+        loseDevice(TKSV_DEV_EVENT_GONE, std::nullopt, notices);
         return;
     }
     if (state == m_state)
@@ -298,62 +299,62 @@ void SimulatedNetwork::setState(TKSV_DeviceState state, News &news)
     m_state = state;
     if (const RequestToken failed = isRegistered() ? 0 : m_inFlight) {
         const UssdReply failure{UssdEndedByNetwork, std::string()};
-        news.push_back([=](BackendObserver &o) { o.ussdReply(failed, failure); });
+        notices.push_back([=](BackendObserver &o) { o.ussdReply(failed, failure); });
     }
     if (!isRegistered())
-        endSmsInFlight(news);
+        endSmsInFlight(notices);
     closeSession();
-    tellSmsStatus(couldSend, news);
-    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+    notifySmsStatus(couldSend, notices);
+    notices.push_back([](BackendObserver &o) { o.infoChanged(); });
 }
 
-void SimulatedNetwork::tryPin(const std::string &pin, News &news)
+void SimulatedNetwork::tryPin(const std::string &pin, Notices &notices)
 {
     if (m_state != TKSV_DEVICE_SIM_LOCKED || m_pinRetries == 0)
         return;
     if (pin == m_scenario.pin) {
         m_problem = TKSV_PROBLEM_NONE;
         m_pinRetries = PIN_RETRIES;
-        setState(TKSV_DEVICE_REGISTERED, news);
+        setState(TKSV_DEVICE_REGISTERED, notices);
         return;
     }
     m_problem = --m_pinRetries > 0 ? TKSV_PROBLEM_WRONG_PIN : TKSV_PROBLEM_PUK_NEEDED;
-    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+    notices.push_back([](BackendObserver &o) { o.infoChanged(); });
 }
 
-void SimulatedNetwork::loseDevice(int event, AwayTime away, News &news)
+void SimulatedNetwork::loseDevice(int event, AwayTime away, Notices &notices)
 {
     if (m_state == TKSV_DEVICE_ABSENT)
         return;
     const bool couldSend = canSendSms();
     const TKSV_DeviceState before = std::exchange(m_state, TKSV_DEVICE_ABSENT);
     closeSession();
-    news.push_back([=](BackendObserver &o) { o.deviceLost(event); });
-    endSmsInFlight(news);
-    tellSmsStatus(couldSend, news);
-    news.push_back([](BackendObserver &o) { o.infoChanged(); });
+    notices.push_back([=](BackendObserver &o) { o.deviceLost(event); });
+    endSmsInFlight(notices);
+    notifySmsStatus(couldSend, notices);
+    notices.push_back([](BackendObserver &o) { o.infoChanged(); });
     if (!away)
         return;
-    schedule(*away, [this, before](News &later) {
+    schedule(*away, [this, before](Notices &later) {
         if (m_state == TKSV_DEVICE_ABSENT)
             setState(before, later);
     });
 }
 
-void SimulatedNetwork::endSmsInFlight(News &news)
+void SimulatedNetwork::endSmsInFlight(Notices &notices)
 {
     for (const auto &sms : m_smsInFlight) {
         const SmsMessage message = sms.second;
-        news.push_back([=](BackendObserver &o) { o.smsFinished(message, SMS_FAILED); });
+        notices.push_back([=](BackendObserver &o) { o.smsFinished(message, SMS_FAILED); });
     }
     m_smsInFlight.clear();
 }
 
-void SimulatedNetwork::tellSmsStatus(bool before, News &news)
+void SimulatedNetwork::notifySmsStatus(bool before, Notices &notices)
 {
     const bool now = canSendSms();
     if (now != before)
-        news.push_back([=](BackendObserver &o) { o.smsStatusChanged(now); });
+        notices.push_back([=](BackendObserver &o) { o.smsStatusChanged(now); });
 }
 
 } // namespace tksv

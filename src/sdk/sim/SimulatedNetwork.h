@@ -13,7 +13,7 @@
 namespace tksv
 {
 
-/** A device in the network of one operator, played from a scenario. */
+/** The backend that simulates a device and its operator's network from a scenario. */
 class SimulatedNetwork : public Backend
 {
 public:
@@ -29,12 +29,12 @@ public:
     DeviceInfo info() const override;
 
 private:
-    /// What the observer is told once the lock is released. Made on the scheduler's thread only,
-    /// so that the observer hears of changes in their order.
-    using News = std::vector<std::function<void(BackendObserver &)>>;
-    using Change = std::function<void(News &)>;
+    /// Calls of the observer that follow after the lock is released. Only the scheduler's thread
+    /// makes them, so the observer gets the changes in their order.
+    using Notices = std::vector<std::function<void(BackendObserver &)>>;
+    using Change = std::function<void(Notices &)>;
 
-    /** The menu that waits for an answer; `group` is empty when none does. */
+    /** The menu that waits for an answer; `group` is empty when there is none. */
     struct OpenMenu {
         std::string group;
         std::string digits; // of the code that opened the session
@@ -48,27 +48,28 @@ private:
     void schedule(Milliseconds delay, Change change);
     Match findRule(RequestKind kind, const std::string &text) const;
     Rule ruleFor(const Match &match) const;
-    void perform(const Request &request, News &news);
+    void perform(const Request &request, Notices &notices);
     UssdReply replyTo(const Request &request, const Rule &rule);
-    UssdReply sayText(const Request &request, const Rule &rule);
+    UssdReply textReply(const Request &request, const Rule &rule);
     bool takeCredit(const Rule &rule, const std::string &digits);
     Placeholders placeholders(const Request &request) const;
     void closeSession();
 
-    void push(const std::string &group, News &news);
-    void apply(const TimedEvent &event, News &news);
-    void setState(TKSV_DeviceState state, News &news);
-    void tryPin(const std::string &pin, News &news);
-    void loseDevice(int event, AwayTime away, News &news);
-    void endSmsInFlight(News &news);
-    void tellSmsStatus(bool before, News &news);
+    void push(const std::string &group, Notices &notices);
+    void apply(const TimedEvent &event, Notices &notices);
+    void setState(TKSV_DeviceState state, Notices &notices);
+    void tryPin(const std::string &pin, Notices &notices);
+    void loseDevice(int event, AwayTime away, Notices &notices);
+    void endSmsInFlight(Notices &notices);
+    void notifySmsStatus(bool before, Notices &notices);
     bool isRegistered() const { return m_state == TKSV_DEVICE_REGISTERED; }
     bool canSendSms() const { return isRegistered() && m_smsReady; }
 
     const Scenario m_scenario;
     BackendObserver *m_observer = nullptr;
 
-    mutable std::mutex m_mutex; // guards everything below; not held while the observer is told
+    mutable std::mutex
+        m_mutex; // guards everything below but the scheduler; not held while the observer is called
     bool m_stopped = false;
     TKSV_DeviceState m_state;
     int m_signalPercent;
@@ -78,11 +79,11 @@ private:
     Amount m_balance;
     RequestToken m_inFlight = 0;
     OpenMenu m_menu;
-    std::vector<std::string> m_duePushes; // their time came while a session was open
+    std::vector<std::string> m_duePushes; // groups that wait for the end of a session
     unsigned m_lastSms = 0;
     std::map<unsigned, SmsMessage> m_smsInFlight;
 
-    Scheduler m_scheduler; // the last member: its thread ends before the others go
+    Scheduler m_scheduler; // the last member: its thread ends before the others are destroyed
 };
 
 } // namespace tksv

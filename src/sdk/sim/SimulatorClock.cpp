@@ -19,15 +19,15 @@ SimulatorClock::Time systemTime()
 
 std::atomic<SimulatorClock::Source> g_source(&systemTime);
 
-/** Never destroyed: a network may outlive the static objects of this library. */
-struct Living {
-    std::mutex mutex; // taken before a scheduler's own
+/** The existing schedulers. Never destroyed: a network may outlive the library's static objects. */
+struct SchedulerList {
+    std::mutex mutex; // taken before the mutex of a scheduler
     std::set<Scheduler *> schedulers;
 };
 
-Living &living()
+SchedulerList &schedulerList()
 {
-    static Living *const instance = new Living;
+    static SchedulerList *const instance = new SchedulerList;
     return *instance;
 }
 
@@ -43,23 +43,23 @@ void SimulatorClock::setSource(Source source)
     g_source = source ? source : &systemTime;
 }
 
-void SimulatorClock::tellOfJump()
+void SimulatorClock::notifyJump()
 {
-    const std::lock_guard<std::mutex> lock(living().mutex);
-    for (Scheduler *scheduler : living().schedulers)
-        scheduler->lookAgain();
+    const std::lock_guard<std::mutex> lock(schedulerList().mutex);
+    for (Scheduler *scheduler : schedulerList().schedulers)
+        scheduler->recheckClock();
 }
 
 void SimulatorClock::add(Scheduler *scheduler)
 {
-    const std::lock_guard<std::mutex> lock(living().mutex);
-    living().schedulers.insert(scheduler);
+    const std::lock_guard<std::mutex> lock(schedulerList().mutex);
+    schedulerList().schedulers.insert(scheduler);
 }
 
 void SimulatorClock::remove(Scheduler *scheduler)
 {
-    const std::lock_guard<std::mutex> lock(living().mutex);
-    living().schedulers.erase(scheduler);
+    const std::lock_guard<std::mutex> lock(schedulerList().mutex);
+    schedulerList().schedulers.erase(scheduler);
 }
 
 } // namespace tksv

@@ -9,8 +9,8 @@ namespace tksv
 class Scheduler;
 
 /**
- * The time that simulated networks go by: the steady system clock, unless a test that has hours
- * pass in seconds puts another one in its place. Any thread.
+ * The clock of simulated networks: the steady system clock, or the clock of a test that lets hours
+ * pass in seconds. Any thread may call.
  */
 class SimulatorClock
 {
@@ -19,10 +19,10 @@ public:
     using Source = Time (*)();
 
     static Time now();
-    /// Takes another clock, which never goes back; null restores the system's.
+    /// Sets another clock, which must never run backwards; null restores the system's clock.
     static void setSource(Source source);
-    /// Has every scheduler look at the clock again; to be called after a replaced clock has jumped.
-    static void tellOfJump();
+    /// Tells every scheduler that the clock has jumped. Called after a test has advanced its clock.
+    static void notifyJump();
 
 private:
     friend class Scheduler;

@@ -17,7 +17,7 @@ const std::size_t MAX_BYTES = std::size_t(1024) * 1024;
 
 using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
 
-/// Does not wait for the writer of a pipe, which is then told by its kind.
+/// Opens the file without waiting for the writer of a pipe, which isRegular() rejects afterwards.
 FilePointer openFile(const std::string &path)
 {
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -30,8 +30,8 @@ bool isRegular(std::FILE *file)
     return fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Until one byte more than may be there. What is read is a few B mostly, and the room for all
-/// would have to be cleared first.
+/// Reads until the end of the file, or until the text is too long. A small buffer suffices, since
+/// most files have a few kilobytes.
 void readPieces(std::FILE *file, std::string &text)
 {
     char piece[4096];

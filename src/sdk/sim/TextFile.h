@@ -6,7 +6,8 @@
 namespace tksv
 {
 
-/// Reads a regular file of at most 1 MiB. Empty on success, else what is wrong with it.
+/// Reads a regular file of at most 1 MiB. Returns an empty text on success, otherwise the reason of
+/// the failure.
 std::string readTextFile(const std::string &path, std::string &text);
 
 } // namespace tksv
