@@ -148,14 +148,14 @@ void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context
     EventService::Handler handler;
     if (callback)
         handler = [this, callback, context](int, void *) {
-            tellUntakenTexts(callback, context);
+            deliverUntakenTexts(callback, context);
             return true;
         };
     m_textEvents.replaceAll(ONLY_KEY, std::move(handler));
     m_textEvents.post(Event());
 }
 
-void DeviceSdk::tellUntakenTexts(TKSV_NetworkTextCallback callback, void *context)
+void DeviceSdk::deliverUntakenTexts(TKSV_NetworkTextCallback callback, void *context)
 {
     for (const UntakenText &text : m_session.takeUntakenTexts()) {
         TKSV_NetworkText record = {};

@@ -50,7 +50,7 @@ private:
     ~DeviceSdk() override = default;
     void stop();
 
-    void tellUntakenTexts(TKSV_NetworkTextCallback callback, void *context);
+    void deliverUntakenTexts(TKSV_NetworkTextCallback callback, void *context);
 
     void ussdReply(RequestToken token, const UssdReply &reply) override;
     void ussdText(const UssdReply &text) override;

@@ -28,7 +28,7 @@ void checkRule(const tksv::Scenario &scenario, const std::string &group, const t
     if (group.find(tksv::ANY_DIGITS) == std::string::npos && group.find('/') == std::string::npos &&
         group.compare(0, 5, "Push ") != 0)
         FUZZ_REQUIRE(tksv::findCode(scenario, group).group == group);
-    FUZZ_REQUIRE(rule.delay.count() >= 0 && rule.fewestDigits <= rule.mostDigits);
+    FUZZ_REQUIRE(rule.delay.count() >= 0 && rule.minDigits <= rule.maxDigits);
     const auto names = tksv::placeholderNames(rule.reply);
     FUZZ_REQUIRE(names.has_value());
     tksv::Placeholders values;

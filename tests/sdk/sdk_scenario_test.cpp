@@ -209,9 +209,9 @@ void SdkScenario::complaints_data()
         "f:5: unknown group [100]; expected [Network], a code such as [*100#] or [*101*%s#], an "
         "answer such as [*100#/1], [SMS], [SMS number], [Push name] or [Event name]");
     row("group twice", "[*1#]\nReply=x\n[*1#]\nDelay=2\n",
-        "f:7: [*1#]: expected each group once; it stands in line 5 already");
+        "f:7: [*1#]: expected each group once; line 5 already defines it");
     row("key twice", "[*1#]\nReply=x\nReply=y\n",
-        "f:7: Reply: expected each key once in a group; it stands in line 6 already");
+        "f:7: Reply: expected each key once in a group; line 6 already defines it");
     row("unknown escape", "[*1#]\nReply=a\\qb\n",
         "f:6: Reply: expected n, t, s, r or \\ after each \\");
     row("no number", "[*1#]\nReply=x\nDelay=soon\n",

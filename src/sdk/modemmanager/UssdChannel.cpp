@@ -62,7 +62,7 @@ void UssdChannel::interfaceRemoved()
     m_replyText.reset();
     m_cancelWanted = false;
     m_cancelling = false;
-    m_isQuestionTold = false;
+    m_isQuestionReported = false;
 }
 
 void UssdChannel::catchUp()
@@ -79,14 +79,14 @@ void UssdChannel::request(RequestToken token, RequestKind kind, const std::strin
 {
     m_next = Request{token, kind, text, false};
     if (kind == RequestKind::NewSession)
-        m_cancelWanted = m_running || m_isQuestionTold;
+        m_cancelWanted = m_running || m_isQuestionReported;
     startNext();
 }
 
 void UssdChannel::endSession()
 {
     m_next.reset();
-    m_cancelWanted = m_running || m_isQuestionTold;
+    m_cancelWanted = m_running || m_isQuestionReported;
     startNext();
 }
 
@@ -117,7 +117,7 @@ void UssdChannel::start(const Request &request)
     m_running = request;
     m_replyText.reset();
     m_wasActive = false;
-    m_isQuestionTold = false;
+    m_isQuestionReported = false;
     m_hasNewQuestion = false;
     const bool isAnswer = request.kind == RequestKind::Answer;
     const auto finishCall =
@@ -128,8 +128,9 @@ void UssdChannel::start(const Request &request)
         GMemory<char> text(finishCall(MM_MODEM_3GPP_USSD(ussd), result, error.slot()));
         callReturned(call, request, std::move(text), error.get());
     };
-    const auto begin = isAnswer ? mm_modem_3gpp_ussd_respond : mm_modem_3gpp_ussd_initiate;
-    begin(m_ussd.get(), request.text.c_str(), nullptr, runAsyncDone, asyncDone(whileAlive(done)));
+    const auto startCall = isAnswer ? mm_modem_3gpp_ussd_respond : mm_modem_3gpp_ussd_initiate;
+    startCall(m_ussd.get(), request.text.c_str(), nullptr, runAsyncDone,
+              asyncDone(whileAlive(done)));
 }
 
 void UssdChannel::callReturned(unsigned call, const Request &request, GMemory<char> text,
@@ -167,7 +168,7 @@ void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
     m_cancelling = true;
-    m_isQuestionTold = false;
+    m_isQuestionReported = false;
     const AsyncDone done = [this, call = ++m_call](GObject *ussd, GAsyncResult *result) {
         ErrorSlot ignored; // the daemon is idle after a failed cancel, too
         mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, ignored.slot());
@@ -246,7 +247,7 @@ void UssdChannel::propertiesChanged(GVariant *changed)
             m_listener.textReceived(UssdReply{UssdFinal, text});
     }
     if (contains(changed, "NetworkRequest")) {
-        m_isQuestionTold = false; // this is a new question
+        m_isQuestionReported = false; // this is a new question
         m_hasNewQuestion = true;
     }
     if (m_ussd && (contains(changed, "State") || contains(changed, "NetworkRequest")))
@@ -261,7 +262,7 @@ void UssdChannel::handleState(MMModem3gppUssdSessionState state)
     }
     const bool waits = state == MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
     if (!waits)
-        m_isQuestionTold = false;
+        m_isQuestionReported = false;
     if (m_cancelling || m_cancelWanted)
         return;
     if (m_running) {
@@ -269,8 +270,8 @@ void UssdChannel::handleState(MMModem3gppUssdSessionState state)
             finish(UssdReply{waits ? UssdWaitsForAnswer : UssdFinal, *m_replyText});
         return;
     }
-    if (waits && !m_isQuestionTold)
-        tellQuestion();
+    if (waits && !m_isQuestionReported)
+        reportQuestion();
 }
 
 void UssdChannel::finish(const UssdReply &reply)
@@ -280,23 +281,23 @@ void UssdChannel::finish(const UssdReply &reply)
     // The network asked a question of its own right after the reply. The state belongs to this
     // question; the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
-    m_isQuestionTold = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
-    UssdReply told = reply;
+    m_isQuestionReported = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
+    UssdReply reported = reply;
     if (isStateOfQuestion)
-        told.type = UssdFinal;
-    if (told.text.empty() && told.type == UssdFinal)
-        told.type = UssdEndedByNetwork; // a reply without a text is a refusal
-    m_listener.replied(request.token, told);
+        reported.type = UssdFinal;
+    if (reported.text.empty() && reported.type == UssdFinal)
+        reported.type = UssdEndedByNetwork; // a reply without a text is a refusal
+    m_listener.replied(request.token, reported);
     if (isStateOfQuestion)
-        tellQuestion();
+        reportQuestion();
     startNext();
 }
 
 /// Reports a question of the network. The text is empty for a menu that was the reply to another
 /// program's command, since the daemon does not keep this text.
-void UssdChannel::tellQuestion()
+void UssdChannel::reportQuestion()
 {
-    m_isQuestionTold = true;
+    m_isQuestionReported = true;
     const std::string text = textOf(mm_modem_3gpp_ussd_get_network_request(m_ussd.get()));
     m_listener.textReceived(UssdReply{UssdWaitsForAnswer, text});
 }

@@ -71,7 +71,7 @@ private:
     void propertiesChanged(GVariant *changed);
     void handleState(MMModem3gppUssdSessionState state);
     void finish(const UssdReply &reply);
-    void tellQuestion();
+    void reportQuestion();
     AsyncDone whileAlive(AsyncDone function);
 
     MainLoopThread &m_thread;
@@ -86,9 +86,9 @@ private:
     bool m_wasActive = false; // the state was active after the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_isQuestionTold = false; // the listener knows the open session's question
-    bool m_hasNewQuestion = false; // NetworkRequest has changed since the call started
-    unsigned m_call = 0;           // number of the newest call; results of older calls are ignored
+    bool m_isQuestionReported = false; // the listener knows the open session's question
+    bool m_hasNewQuestion = false;     // NetworkRequest has changed since the call started
+    unsigned m_call = 0; // number of the newest call; results of older calls are ignored
 };
 
 } // namespace tksv

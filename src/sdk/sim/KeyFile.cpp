@@ -126,9 +126,7 @@ private:
     {
         int earlier = 0;
         if (containsGroup(groups, name, earlier))
-            m_complaints.add(m_line, "[" + name +
-                                         "]: expected each group once; it stands in line " +
-                                         std::to_string(earlier) + " already");
+            complainAboutSecond("[" + name + "]: expected each group once", earlier);
         groups.push_back(KeyFileGroup{name, m_line, {}});
     }
 
@@ -136,12 +134,16 @@ private:
     {
         KeyFileGroup &group = groups.back();
         if (const KeyFileEntry *earlier = group.find(key)) {
-            m_complaints.add(m_line, key +
-                                         ": expected each key once in a group; it stands in line " +
-                                         std::to_string(earlier->line) + " already");
+            complainAboutSecond(key + ": expected each key once in a group", earlier->line);
             return;
         }
         group.entries.push_back(KeyFileEntry{key, value(group.name, key), m_line});
+    }
+
+    void complainAboutSecond(const std::string &rule, int firstLine)
+    {
+        m_complaints.add(m_line,
+                         rule + "; line " + std::to_string(firstLine) + " already defines it");
     }
 
     std::string value(const std::string &group, const std::string &key)

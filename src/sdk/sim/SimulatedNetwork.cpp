@@ -157,8 +157,8 @@ void SimulatedNetwork::schedule(Milliseconds delay, Change change)
             const std::lock_guard<std::mutex> lock(m_mutex);
             change(notices);
         }
-        for (const auto &tell : notices)
-            tell(*m_observer);
+        for (const auto &notice : notices)
+            notice(*m_observer);
     });
 }
 

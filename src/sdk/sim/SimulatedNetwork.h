@@ -68,8 +68,7 @@ private:
     const Scenario m_scenario;
     BackendObserver *m_observer = nullptr;
 
-    mutable std::mutex
-        m_mutex; // guards everything below but the scheduler; not held while the observer is called
+    mutable std::mutex m_mutex; // guards everything below; not held while the observer is called
     bool m_stopped = false;
     TKSV_DeviceState m_state;
     int m_signalPercent;
