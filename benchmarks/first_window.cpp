@@ -1,7 +1,7 @@
 /*
  * Loaded in front of a program (LD_PRELOAD): ends it when its first window has been painted, and
  * says when that was and what memory it took, as one line on the descriptor $FIRST_WINDOW_FD names:
- * nanoseconds of the monotonic clock, then B of the greatest resident set.
+ * nanoseconds of the monotonic clock, then kB of the greatest resident set.
  */
 #include <cstdio>
 #include <cstdlib>
