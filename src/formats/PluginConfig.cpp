@@ -124,7 +124,7 @@ void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
     differ.returnPattern = textOf(reader, XmlName::RETURN_PATTERN);
     differ.style = numberOf(reader, XmlName::STYLE);
     if (reader.hasError())
-        differ.value = false; // half a section would make a wrong answer of any reply
+        differ.value = false; // half a section would misjudge every reply
 }
 
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config)

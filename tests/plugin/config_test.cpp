@@ -459,7 +459,7 @@ void ConfigTest::brokenDetectionIsOff_data()
     QTest::newRow("no end") << whole << latin1("*103#");
 }
 
-/// A command or a pattern of half a section would make a wrong answer of any reply.
+/// A command or a pattern of half a section would misjudge every reply.
 void ConfigTest::brokenDetectionIsOff()
 {
     QFETCH(QByteArray, section);

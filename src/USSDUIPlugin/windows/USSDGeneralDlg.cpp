@@ -396,7 +396,7 @@ void USSDGeneralDlg::OnClickedSendButton()
     if (command.isEmpty())
         return;
     if (sendCommand(command)) {
-        // The combo stays enabled here, other than behind a preset button.
+        // Unlike after a preset button, the combo box stays enabled here.
         m_pSendButton->setEnabled(false);
         changeAllPreBtnsStatus(false);
         m_pUSSDCmdEdit->setEnabled(false);

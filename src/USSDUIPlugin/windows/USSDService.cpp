@@ -456,7 +456,7 @@ void CUSSDService::OnDlgCloseEvent()
     case PAID_TYPE_USSD_SMS:
         leaveIfExists(m_pUSSDSMSDlg);
         if (self)
-            m_modalPaidType = PAID_TYPE_USSD_SMS; // not reset, other than the rest
+            m_modalPaidType = PAID_TYPE_USSD_SMS; // stays set, unlike for the other types
         return;
     default:
         return;
