@@ -63,14 +63,6 @@ QStringList languages()
     return QString::fromLatin1("en de fr es pt ru ar zh").split(QLatin1Char(' '));
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
-    return file.readAll();
-}
-
 QStringList filesBelow(const QString &folder, const QStringList &patterns)
 {
     QStringList files;

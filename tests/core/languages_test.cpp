@@ -19,12 +19,6 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
 /** Asks for texts on a thread of its own until it ends, and counts those of no language. */
 class Reader
 {

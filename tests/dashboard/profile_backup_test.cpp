@@ -19,12 +19,6 @@ const char GOOD[] = "<?xml version=\"1.0\"?>\n<tksvdoc type=\"USSDProfile\"><ite
 const char NEWER[] = "<tksvdoc><item><name>B</name><value>*2#</value></item></tksvdoc>\n";
 const char CUT_OFF[] = "<tksvdoc><item><name>A</name>";
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
 QTableWidget *openTable()
 {
     for (QWidget *widget : QApplication::allWidgets()) {

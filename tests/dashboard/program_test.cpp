@@ -47,12 +47,6 @@ Run run(const char *line)
     return run(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts), quickNetwork());
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /** One tour for the tests that look at it. */
 class TakenTour
 {

@@ -23,12 +23,6 @@ const char NEW[] =
 const int HUNG = -2;
 const unsigned LIMIT = 5; // seconds that a start may take after a kill
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 /**

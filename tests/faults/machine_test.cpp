@@ -28,12 +28,6 @@ struct Run {
     }
 };
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 /** The program on a machine that lacks something: it says so and goes on. */

@@ -11,11 +11,6 @@
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 TKSV_EventCallback registered(const char *function)
 {
     const std::vector<FakeCall> calls = fakeSdkCalls(function);

@@ -19,11 +19,6 @@ namespace
 const int MILLION = 1000000;
 const char BAIT[] = "bait"; // in the name of each file that a reply asks for
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 QString repeated(const QString &piece, int length)
 {
     return piece.repeated(length / piece.length() + 1).left(length);

@@ -12,11 +12,6 @@
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 Transcript::Entry entry(const QString &text)
 {
     Char look;

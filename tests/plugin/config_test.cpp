@@ -20,11 +20,6 @@ const int MSISDN = 3;
 
 const int UNUSED_ATTRIBUTES[] = {-1, 3, 4, 11};
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 QByteArray balanceItem(const QByteArray &attributes, const QByteArray &command = "*100#")
 {
     return "<item name='Balance' " + attributes + "><command>" + command + "</command></item>";

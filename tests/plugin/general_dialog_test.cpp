@@ -15,11 +15,6 @@
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 /// Counts the keys that nobody inside wanted.
 class KeyCounter : public QWidget
 {

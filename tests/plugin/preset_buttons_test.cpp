@@ -14,11 +14,6 @@ namespace
 const int PAYMENT_SLOT = 8; ///< whose box also holds the payment edit
 const int ROUNDING = 1;     ///< pixels that a layout may take off when it shares out the height
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 QByteArray nameOf(int index)
 {
     return "Name " + QByteArray::number(index);

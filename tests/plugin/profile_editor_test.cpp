@@ -454,12 +454,6 @@ void ProfileEditorTest::readOnlyProfileCannotBeEditedAndHasItsColour()
     QCOMPARE(table()->horizontalHeaderItem(0)->background().color(), QColor(7, 8, 9));
 }
 
-static QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
 void ProfileEditorTest::savingWithoutChangesAsksNothingAndWrites()
 {
     openEditor();

@@ -53,11 +53,6 @@ void operator delete[](void *memory, std::size_t) noexcept
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 USSDProfile profile(const QString &name, const QString &value)
 {
     USSDProfile result;

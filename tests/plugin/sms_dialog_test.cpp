@@ -235,11 +235,6 @@ private slots:
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QLatin1String(text);
-}
-
 QByteArray entry(int number)
 {
     const QByteArray text = QByteArray::number(number);

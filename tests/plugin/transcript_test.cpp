@@ -21,11 +21,6 @@ using Transcript::Sent;
 namespace
 {
 
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 QString utf8(const char *text)
 {
     return QString::fromUtf8(text);

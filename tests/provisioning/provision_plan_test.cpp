@@ -31,11 +31,6 @@ private slots:
 
 namespace
 {
-QString latin1(const char *text)
-{
-    return QString::fromLatin1(text);
-}
-
 ProviderCode code(const char *text, ProviderCode::Way way = ProviderCode::Ussd)
 {
     ProviderCode result;

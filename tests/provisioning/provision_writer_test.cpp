@@ -49,12 +49,6 @@ namespace
 const char CONFIGURATION[] = "USSDPluginConfig.xml";
 const char PROFILES[] = "ussdsysprofile.xml";
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 ProvisionPlan planOf(const char *name)
 {
     ProvisionPlan plan;

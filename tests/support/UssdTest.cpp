@@ -9,6 +9,12 @@
 #include <algorithm>
 #include <cstdio>
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
 void UssdTest::expectWarning(const QString &part)
 {
     TestLog::instance().expect(part, true);

@@ -11,6 +11,15 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+/// Returns the Latin-1 text as a QString.
+inline QString latin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+/// Returns the whole content of the file, or "no file" if the file cannot be read.
+QByteArray contentOf(const QString &path);
+
 /**
  * What every test class of this project is made of. A test function fails when Qt or the code under
  * test prints a warning that nobody announced, is ended with a message when it hangs, and gets a

@@ -47,14 +47,6 @@ private slots:
 
 namespace
 {
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
-    return file.readAll();
-}
-
 QByteArray shipped(const char *name)
 {
     return contentOf(QLatin1String(USSD_SOURCE_DIR "/plugins/USSDUIPlugin/") + QLatin1String(name));
