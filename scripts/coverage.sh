@@ -12,7 +12,7 @@ report() {
         --exclude-throw-branches --exclude-unreachable-branches "$@" build/coverage/src/USSDUIPlugin
 }
 
-install_missing_packages
+install_missing_packages run test check
 say "Building preset coverage; the first time this takes some minutes."
 configure_and_build coverage tests_plugin
 find build/coverage -name '*.gcda' -delete # counts of an earlier run

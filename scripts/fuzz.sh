@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 
 seconds=${1:-600}
 [ $# -eq 0 ] || shift
-install_missing_packages
+install_missing_packages run check
 configure_and_build fuzz tests_fuzz
 
 fuzzers=("$@")

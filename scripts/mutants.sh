@@ -138,7 +138,7 @@ run_list()
     done 3< <(cat "$1" && echo)
 }
 
-install_missing_packages
+install_missing_packages run test
 mkdir -p "$tree"
 : >"$report"
 copy_tree

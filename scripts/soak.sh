@@ -6,7 +6,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
 
-install_missing_packages
+install_missing_packages run test
 say "Building preset quick; the first time this takes some minutes."
 configure_and_build quick soak translations
 

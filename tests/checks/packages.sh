@@ -1,15 +1,27 @@
 #!/usr/bin/env bash
-# Each package of packages.txt exists: it is installed here, where all is built and tested.
+# packages.txt names each package once, in a section that a command takes. The packages of [run] and
+# [test] exist: they are installed here, where all is built and tested.
 . "$(dirname "$0")/common.sh"
 
 declare -A seen
+section=
 while read -r package rest; do
     case "$package" in
     '' | '#'*) continue ;;
+    '[run]' | '[test]' | '[check]')
+        section=$package
+        continue
+        ;;
+    '['*)
+        complain "packages.txt: $package is no section that a command takes"
+        continue
+        ;;
     esac
+    [ -n "$section" ] || complain "packages.txt: $package stands in no section"
     [ -z "$rest" ] || complain "packages.txt: more than one name in a line: $package $rest"
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
+    [ "$section" != '[check]' ] || continue # ./test does without them
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"
 done <packages.txt

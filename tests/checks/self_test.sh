@@ -85,9 +85,12 @@ write man/good.1 <<'PAGE'
 .SH NAME
 good \- a good page
 PAGE
-write packages.txt <<<'# bash is everywhere
+write packages.txt <<<'[run]
+# bash is everywhere
 
-bash'
+bash
+[check]
+need-not-be-installed'
 for check in format includes qt_versions man_pages packages; do
     passes "$check"
 done
@@ -148,7 +151,12 @@ fault no such line
 -int a;
 +'
 
-finds packages 'no-such-package-at-all is not' packages.txt <<<'no-such-package-at-all'
-finds packages 'bash stands there twice' packages.txt <<<'bash
+finds packages 'no-such-package-at-all is not' packages.txt <<<'[test]
+no-such-package-at-all'
+finds packages 'bash stands there twice' packages.txt <<<'[run]
+bash
+[test]
 bash'
+finds packages 'bash stands in no section' packages.txt <<<'bash'
+finds packages '\[rum\] is no section' packages.txt <<<'[rum]'
 exit "$wrong"
