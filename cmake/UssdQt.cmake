@@ -23,6 +23,8 @@ endif()
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)
 target_link_libraries(ussd_qttest INTERFACE ussd_qtcore)
+# GLib's users are compiled with it, and precompiled headers want it in all tests or in none.
+target_compile_options(ussd_qttest INTERFACE -pthread)
 add_library(ussd::qtcore ALIAS ussd_qtcore)
 add_library(ussd::qtwidgets ALIAS ussd_qtwidgets)
 add_library(ussd::qttest ALIAS ussd_qttest)

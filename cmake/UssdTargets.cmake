@@ -8,12 +8,6 @@
 #   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
 #   ussd_add_example(NAME SOURCES... LIBRARIES...)          a program for developers; not installed
 
-find_program(USSD_CLANG_TIDY_PROGRAM clang-tidy)
-
-# What moc writes is not ours to mend. clang-tidy takes the settings of the nearest folder, and wants
-# one check at least.
-file(WRITE ${PROJECT_BINARY_DIR}/.clang-tidy "Checks: '-*,misc-definitions-in-headers'\n")
-
 # The language level, in which the plug-in and what it is made of compile with Qt 4 too. A folder
 # that is for Qt 5.15 and 6 alone sets another one at the head of its list.
 set(USSD_CXX_STANDARD 14)
@@ -39,11 +33,6 @@ function(ussd_set_up target)
         target_compile_options(${target} PRIVATE -fsanitize=${USSD_SANITIZE} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)
         target_link_options(${target} PRIVATE -fsanitize=${USSD_SANITIZE})
-    endif()
-    string(FIND ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src/ place)
-    if(USSD_CLANG_TIDY STREQUAL "ALL" OR (USSD_CLANG_TIDY STREQUAL "SOURCES" AND place EQUAL 0))
-        set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY
-                                                   "${USSD_CLANG_TIDY_PROGRAM};--quiet")
     endif()
 endfunction()
 
@@ -82,6 +71,7 @@ function(ussd_add_plugin_code name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/USSDUIPlugin)
     target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
+    ussd_use_precompiled_headers(${name} plugin)
 endfunction()
 
 function(ussd_add_plugin name)
@@ -98,6 +88,7 @@ function(ussd_add_plugin name)
                    LINK_DEPENDS ${arg_EXPORTS}
                    INSTALL_RPATH "$ORIGIN/${USSD_LIB_FROM_PLUGIN}")
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    ussd_use_precompiled_headers(${name} plugin)
     install(TARGETS ${name} LIBRARY DESTINATION ${USSD_PLUGIN_DIR})
 endfunction()
 
