@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# clang-tidy on each source file of src, examples, tests and benchmarks; ./test --preset tidy runs it:
+#   scripts/tidy.sh [PATTERN]
+# PATTERN, a regular expression, chooses files by their path. Nothing is compiled. Ends with 1 when
+# clang-tidy has found something.
+set -eu
+cd "$(dirname "$0")/.."
+cmake --preset tidy
+
+# A file that is compiled for several programs is looked at once, as the first of them compiles it.
+COMPILATIONS=$PWD/build/tidy/once
+mkdir -p "$COMPILATIONS"
+awk '/^\{/ { record = "{"; next }
+     /^\}/ { if (!seen[file]++) printf "%s\n%s\n}", count++ ? "," : "[", record; next }
+     /^  "/ { record = record "\n" $0 }
+     /^  "file"/ { file = $2; sub(/,$/, "", file) }
+     END { print "\n]" }' build/tidy/compile_commands.json >"$COMPILATIONS/compile_commands.json"
+
+MOC=$(pkg-config --variable=host_bins Qt5Core)/moc
+
+# run_moc FILE FOLDER: with the include folders of the file's compilation.
+run_moc()
+{
+    local includes
+    mapfile -t includes < <(grep -B 1 "^  \"file\": \"$PWD/$1\"" "$COMPILATIONS/compile_commands.json" |
+        grep -oE -- '(-I|-isystem )[^ ]+' | sed 's/^-isystem /-I/')
+    mkdir -p "$2"
+    "$MOC" "${includes[@]}" "$1" -o "$2/$(basename "$1" .cpp).moc"
+}
+
+# look_at "[3/370] FILE": says more only where something is found.
+look_at()
+{
+    local file=${1##* } folder said
+    folder=$PWD/build/tidy/moc/${file%.cpp}
+    echo "$1"
+    if grep -q '^#include ".*\.moc"' "$file"; then
+        run_moc "$file" "$folder" || return 1
+    fi
+    if ! said=$(clang-tidy --quiet -p "$COMPILATIONS" --extra-arg="-I$folder" "$file" 2>&1); then
+        echo "$said"
+        return 1
+    fi
+}
+export -f look_at run_moc
+export COMPILATIONS MOC
+
+mapfile -t files < <(
+    sed -n "s|^  \"file\": \"$PWD/\(.*\.cpp\)\",\{0,1\}\$|\1|p" "$COMPILATIONS/compile_commands.json" |
+        grep -E '^(src|examples|tests|benchmarks)/' | grep -E "${1:-.}" | sort
+)
+if [ ${#files[@]} -eq 0 ]; then
+    echo "No source file to look at."
+    exit 1
+fi
+for i in "${!files[@]}"; do
+    printf '%s\0' "[$((i + 1))/${#files[@]}] ${files[i]}"
+done | xargs -0 -n 1 -P "$(nproc)" bash -c 'look_at "$1"' bash || exit 1
