@@ -14,7 +14,7 @@ check() {
     shift 2
     while IFS= read -r file; do
         while IFS= read -r name; do
-            printf '%s\n' "$name" | grep -qE "$angle" || complain "$file: includes <$name>"
+            [[ $name =~ $angle ]] || complain "$file: includes <$name>"
         done < <(sed -nE 's/^[[:space:]]*#[[:space:]]*include[[:space:]]*<([^>]+)>.*/\1/p' "$file")
         while IFS= read -r name; do
             case "$name" in
@@ -31,7 +31,7 @@ allowed() {
     for place in "$@"; do
         if [ -d "$place" ]; then
             lies_in_folder "$name" "$file" "$place" && return 0
-        elif [ "$name" = "$(basename "$place")" ]; then
+        elif [ "$name" = "${place##*/}" ]; then
             return 0
         fi
     done
@@ -41,7 +41,7 @@ allowed() {
 # From the includer's own folder or from the folder itself, but never out of it.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
-    for candidate in "$(dirname "$file")/$name" "$folder/$name" "$(dirname "$folder")/$name"; do
+    for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do
         [ -f "$candidate" ] || continue
         case "$(realpath --relative-to=. "$candidate")" in
         "$folder"/*) return 0 ;;
