@@ -7,5 +7,5 @@ cd "$(dirname "$0")/.."
 
 source=docs/architecture.dot
 picture=docs/pictures/architecture.svg
-install_missing_packages
+install_missing_packages check
 dot -Tsvg "$source" | sed "1a <!-- drawn from $source, SHA-1 $(sha1sum <"$source" | cut -d' ' -f1) -->" >"$picture"
