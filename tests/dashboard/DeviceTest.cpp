@@ -6,7 +6,7 @@
 
 #include "HostState.h"
 #include "Languages.h"
-#include "window/NetworkMenu.h"
+#include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
 namespace
@@ -85,7 +85,7 @@ TKSV_Modem DeviceTest::modem(const char *equipmentId, const char *name, bool isI
 
 QAction *DeviceTest::networkAction(const QString &text) const
 {
-    for (QAction *action : m_window->networkMenu()->actions()) {
+    for (QAction *action : m_window->deviceMenu()->actions()) {
         if (action->text() == text)
             return action;
     }

@@ -1,7 +1,7 @@
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
 #include "Languages.h"
-#include "window/NetworkMenu.h"
+#include "window/DeviceMenu.h"
 
 /** The menu of devices, and the words for what is wrong with them. */
 class DeviceChoiceTest : public DeviceTest
@@ -76,14 +76,14 @@ void DeviceChoiceTest::aChosenModemThatIsNotThereStaysInTheMenu()
 
 void DeviceChoiceTest::anOpenMenuStaysAsItIs()
 {
-    window().networkMenu()->popup(QPoint());
-    const QList<QAction *> before = window().networkMenu()->actions();
+    window().deviceMenu()->popup(QPoint());
+    const QList<QAction *> before = window().deviceMenu()->actions();
     tellModems({modem("353612345678901", "Maker Stick")});
-    QCOMPARE(window().networkMenu()->actions(), before);
-    window().networkMenu()->close();
-    window().networkMenu()->popup(QPoint());
+    QCOMPARE(window().deviceMenu()->actions(), before);
+    window().deviceMenu()->close();
+    window().deviceMenu()->popup(QPoint());
     QVERIFY(networkAction(QLatin1String("Maker Stick")));
-    window().networkMenu()->close();
+    window().deviceMenu()->close();
 }
 
 void DeviceChoiceTest::aModemThatComesIsOffered()

@@ -9,7 +9,7 @@
 #include "InstallPaths.h"
 #include "sim/OperatorCodes.h"
 #include "SimTest.h"
-#include "window/NetworkMenu.h"
+#include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
 namespace
@@ -255,7 +255,7 @@ void OperatorCodesTest::theChoiceCanBeChangedInTheMenu()
     QTest::mouseClick(button("Dashboard_OperatorNo"), Qt::LeftButton);
     QCOMPARE(notice(), QString());
     for (const char *name : {"First", "Second"}) {
-        window().networkMenu()->actions().last()->trigger();
+        window().deviceMenu()->actions().last()->trigger();
         choose(QLatin1String(name));
         QCOMPARE(inUse(), QLatin1String(name));
     }
@@ -265,7 +265,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
 {
     useSim(ALONE, "Alone");
     take();
-    window().networkMenu()->actions().last()->trigger();
+    window().deviceMenu()->actions().last()->trigger();
     choose(QLatin1String("The codes that come"));
     QCOMPARE(inUse(), QString());
     QCOMPARE(HostCore::InstallPaths::pluginLibrary(),
@@ -279,7 +279,7 @@ void OperatorCodesTest::whatAPersonChangedIsNotTakenAway()
     take();
     choose(QLatin1String("First"));
     const QString file = changedFile();
-    window().networkMenu()->actions().last()->trigger();
+    window().deviceMenu()->actions().last()->trigger();
     answerBox(false);
     choose(QLatin1String("Second"));
     QTRY_VERIFY2(m_asked.contains(QLatin1String("USSDPluginConfig.xml")), qPrintable(m_asked));
@@ -293,7 +293,7 @@ void OperatorCodesTest::whatAPersonChangedIsKeptWhenSetAside()
     take();
     choose(QLatin1String("First"));
     const QString kept = QFileInfo(changedFile()).canonicalFilePath();
-    window().networkMenu()->actions().last()->trigger();
+    window().deviceMenu()->actions().last()->trigger();
     answerBox(true);
     choose(QLatin1String("Second"));
     QTRY_COMPARE(inUse(), QLatin1String("Second"));
@@ -309,7 +309,7 @@ void OperatorCodesTest::aFolderChosenOutsideStays()
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());
     answerBox(true);
-    window().networkMenu()->actions().last()->trigger();
+    window().deviceMenu()->actions().last()->trigger();
     QVERIFY2(m_asked.contains(QLatin1String("USSD_PLUGIN_LIBRARY_PATH")), qPrintable(m_asked));
 }
 
@@ -322,7 +322,7 @@ void OperatorCodesTest::anUnreadableDatabaseProposesNothing()
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());
     answerBox(true);
-    window().networkMenu()->actions().last()->trigger();
+    window().deviceMenu()->actions().last()->trigger();
     QVERIFY2(m_asked.contains(QLatin1String("mobile-broadband-provider-info")),
              qPrintable(m_asked));
 }

@@ -11,8 +11,8 @@
 #include "base/PluginMessage.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
-#include "ProfileFile.h"
 #include "ProfileRows.h"
+#include "ProfileSaveCheck.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
@@ -377,9 +377,9 @@ bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, Sav
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
     const bool isWhole = mayBeSavedOver(isSystem);
     const bool isWritten =
-        isWhole && ProfileFile::canBeSaved(profileFilePath(isSystem), profiles,
-                                           isSystem ? ProfileFile::FolderIsNotMade
-                                                    : ProfileFile::FolderIsMade);
+        isWhole && ProfileSaveCheck::canBeSaved(profileFilePath(isSystem), profiles,
+                                                isSystem ? ProfileSaveCheck::FolderIsNotMade
+                                                         : ProfileSaveCheck::FolderIsMade);
     const bool loses =
         !isWritten &&
         ProfileRows::differ(profiles, ProfileRows::ofFile(m_listUSSDProfiles, isSystem));

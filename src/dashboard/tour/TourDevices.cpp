@@ -11,8 +11,8 @@
 #include "tksv_device.h"
 #include "TourGuide.h"
 #include "TourParts.h"
+#include "window/DeviceMenu.h"
 #include "window/MainWindow.h"
-#include "window/NetworkMenu.h"
 
 namespace
 {
@@ -117,7 +117,7 @@ bool walkTwoModems(TourGuide &guide)
     show.modem("353612345674417", MODEL, false);
     show.device(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, MODEL);
     guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
-    NetworkMenu *menu = guide.window()->networkMenu();
+    DeviceMenu *menu = guide.window()->deviceMenu();
     TourGuide::settle();
     const QRect entry = guide.window()->menuBar()->actionGeometry(menu->menuAction());
     const bool isMirrored = guide.window()->layoutDirection() == Qt::RightToLeft;

@@ -14,6 +14,7 @@
 #include "CommonUtils.h"
 #include "device/DashboardSettings.h"
 #include "DeviceHeader.h"
+#include "DeviceMenu.h"
 #include "DeviceNotice.h"
 #include "HostState.h"
 #include "InstallPaths.h"
@@ -22,7 +23,6 @@
 #include "LanguageMenu.h"
 #include "LanguageProblem.h"
 #include "Languages.h"
-#include "NetworkMenu.h"
 #include "NetworkTextPanel.h"
 #include "NoticeBar.h"
 #include "OperatorNotice.h"
@@ -52,7 +52,7 @@ MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
       m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
       m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
-      m_networkMenu(new NetworkMenu(this)), m_header(new DeviceHeader(this)),
+      m_deviceMenu(new DeviceMenu(this)), m_header(new DeviceHeader(this)),
       m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
       m_problems(new NoticeBar("Dashboard_Problems", this)),
       m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
@@ -98,7 +98,7 @@ void MainWindow::followNetworkTexts()
 
 void MainWindow::followOperator()
 {
-    connect(m_networkMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
+    connect(m_deviceMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
     connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
     connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
@@ -123,11 +123,11 @@ void MainWindow::makeMenus()
     m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
     m_quit->setShortcut(QKeySequence::Quit);
     menuBar()->addMenu(m_fileMenu);
-    menuBar()->addMenu(m_networkMenu);
+    menuBar()->addMenu(m_deviceMenu);
     menuBar()->addMenu(m_languageMenu);
     connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
-    connect(m_networkMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
-    connect(m_networkMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
+    connect(m_deviceMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
+    connect(m_deviceMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
 }
 
 void MainWindow::makeCentre()
@@ -291,7 +291,7 @@ void MainWindow::showPaidType()
 
 void MainWindow::showDevice()
 {
-    m_networkMenu->offer(m_networkMenu->choice(), m_device.modems());
+    m_deviceMenu->offer(m_deviceMenu->choice(), m_device.modems());
     m_deviceNotice->update();
     m_header->showStatus(m_device.status());
     m_header->showPaidType(m_sim.paidTypeText());
@@ -308,7 +308,7 @@ bool MainWindow::useDevice(const DeviceChoice &choice)
 {
     const QString error = choice.use();
     if (!error.isEmpty()) {
-        setDevice(m_networkMenu->choice());
+        setDevice(m_deviceMenu->choice());
         showScenarioError(error);
         return false;
     }
@@ -318,7 +318,7 @@ bool MainWindow::useDevice(const DeviceChoice &choice)
 
 void MainWindow::setDevice(const DeviceChoice &choice)
 {
-    m_networkMenu->offer(choice, m_device.modems());
+    m_deviceMenu->offer(choice, m_device.modems());
     m_device.refresh();
 }
 

@@ -14,7 +14,7 @@ class DashboardSettings;
 class DeviceHeader;
 class DeviceNotice;
 class LanguageMenu;
-class NetworkMenu;
+class DeviceMenu;
 class NetworkTextPanel;
 class NoticeBar;
 class OperatorNotice;
@@ -48,7 +48,7 @@ public:
     void showScenarioError(const QString &error);
     QWidget *page() const;
     DeviceWatcher &device() { return m_device; }
-    NetworkMenu *networkMenu() const { return m_networkMenu; }
+    DeviceMenu *deviceMenu() const { return m_deviceMenu; }
     OperatorCodes &operatorCodes() { return m_operatorCodes; }
     const SimFollower &sim() const { return m_sim; }
 
@@ -110,7 +110,7 @@ private:
     QMenu *m_fileMenu;
     QAction *m_quit;
     LanguageMenu *m_languageMenu;
-    NetworkMenu *m_networkMenu;
+    DeviceMenu *m_deviceMenu;
     DeviceHeader *m_header;
     DeviceNotice *m_deviceNotice;
     NetworkTextPanel *m_textPanel;

@@ -1,4 +1,4 @@
-#include "ProfileFile.h"
+#include "ProfileSaveCheck.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -27,7 +27,7 @@ bool canBeOpened(const QString &path)
 
 } // namespace
 
-namespace ProfileFile
+namespace ProfileSaveCheck
 {
 
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing)
@@ -41,4 +41,4 @@ bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, Missing
     return trial.open() ? isRoomFor(trial, profiles) : canBeOpened(path);
 }
 
-} // namespace ProfileFile
+} // namespace ProfileSaveCheck

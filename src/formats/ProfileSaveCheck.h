@@ -1,5 +1,5 @@
-#ifndef PROFILEFILE_H
-#define PROFILEFILE_H
+#ifndef PROFILESAVECHECK_H
+#define PROFILESAVECHECK_H
 
 #include <QList>
 #include <QString>
@@ -7,7 +7,7 @@
 #include "USSDProfile.h"
 
 /* Checks a profile file on the disk before it is written. */
-namespace ProfileFile
+namespace ProfileSaveCheck
 {
 
 enum MissingFolder { FolderIsMade, FolderIsNotMade };
@@ -16,6 +16,6 @@ enum MissingFolder { FolderIsMade, FolderIsNotMade };
 /// so the editor checks this before it saves. Leaves no change on the disk.
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
-} // namespace ProfileFile
+} // namespace ProfileSaveCheck
 
 #endif

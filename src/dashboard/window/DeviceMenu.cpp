@@ -1,4 +1,4 @@
-#include "NetworkMenu.h"
+#include "DeviceMenu.h"
 
 #include <QActionGroup>
 
@@ -18,13 +18,13 @@ QString asMenuText(QString name)
 
 } // namespace
 
-NetworkMenu::NetworkMenu(QWidget *parent) : QMenu(parent)
+DeviceMenu::DeviceMenu(QWidget *parent) : QMenu(parent)
 {
     connect(this, SIGNAL(aboutToShow()), this, SLOT(retranslate()));
     retranslate();
 }
 
-void NetworkMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
+void DeviceMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
 {
     m_choice = choice;
     m_modems = modems;
@@ -32,7 +32,7 @@ void NetworkMenu::offer(const DeviceChoice &choice, const QList<Modem> &modems)
         retranslate();
 }
 
-void NetworkMenu::retranslate()
+void DeviceMenu::retranslate()
 {
     clear();
     delete m_group;
@@ -50,7 +50,7 @@ void NetworkMenu::retranslate()
     addAction(dashboardText("CODES_MENU"), this, SIGNAL(operatorRequested()));
 }
 
-void NetworkMenu::addModems()
+void DeviceMenu::addModems()
 {
     for (const Modem &modem : m_modems) {
         const QString title = asMenuText(modemTitle(modem, m_modems));
@@ -63,7 +63,7 @@ void NetworkMenu::addModems()
         addAction(dashboardText("NETWORK_NO_MODEM"))->setEnabled(false);
 }
 
-void NetworkMenu::addScenarios()
+void DeviceMenu::addScenarios()
 {
     addChoice(dashboardText("NETWORK_DEFAULT"), DeviceChoice::simulated(QString()));
     QStringList files = Scenarios::shipped();
@@ -76,7 +76,7 @@ void NetworkMenu::addScenarios()
     }
 }
 
-void NetworkMenu::addChoice(const QString &text, const DeviceChoice &choice)
+void DeviceMenu::addChoice(const QString &text, const DeviceChoice &choice)
 {
     QAction *action = addAction(text);
     action->setData(choice.word());
@@ -85,7 +85,7 @@ void NetworkMenu::addChoice(const QString &text, const DeviceChoice &choice)
     m_group->addAction(action);
 }
 
-bool NetworkMenu::hasModem(const QString &equipmentId) const
+bool DeviceMenu::hasModem(const QString &equipmentId) const
 {
     for (const Modem &modem : m_modems) {
         if (modem.equipmentId == equipmentId)
@@ -94,7 +94,7 @@ bool NetworkMenu::hasModem(const QString &equipmentId) const
     return false;
 }
 
-void NetworkMenu::onTriggered(QAction *action)
+void DeviceMenu::onTriggered(QAction *action)
 {
     emit chosen(action->data().toString());
 }

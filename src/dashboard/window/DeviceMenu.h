@@ -1,5 +1,5 @@
-#ifndef NETWORKMENU_H
-#define NETWORKMENU_H
+#ifndef DEVICEMENU_H
+#define DEVICEMENU_H
 
 #include <QMenu>
 
@@ -9,11 +9,11 @@
 class QActionGroup;
 
 /** The devices to choose from: automatic, the modems, the simulated networks. */
-class NetworkMenu : public QMenu
+class DeviceMenu : public QMenu
 {
     Q_OBJECT
 public:
-    explicit NetworkMenu(QWidget *parent = nullptr);
+    explicit DeviceMenu(QWidget *parent = nullptr);
 
     /// What is chosen and which modems there are. A menu that is open stays as it is until it is
     /// opened again, so that nothing moves under the pointer.
