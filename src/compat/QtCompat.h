@@ -2,8 +2,8 @@
 #define QTCOMPAT_H
 
 /*
- * The few places where Qt 4 (4.6 to 4.8) and Qt 5.15 differ. Nothing else in the plug-in, the core
- * library and the dashboard asks for the Qt version.
+ * The differences between Qt 4 (4.6 to 4.8) and Qt 5.15 that matter to the plug-in and the core
+ * library. No other file of theirs asks for the Qt version.
  */
 
 #include <QFontMetrics>
@@ -13,7 +13,8 @@
 #include <QWidget>
 
 /*
- * Qt 4 finds a plug-in by its entry points alone; Qt 5 makes the instance's one from the meta data.
+ * Qt 4 needs the entry point qt_plugin_instance() to be defined by hand; in Qt 5, moc generates it
+ * from Q_PLUGIN_METADATA.
  */
 #if QT_VERSION < 0x050000
 #include <QTextDocument>
@@ -29,7 +30,8 @@
 namespace QtCompat
 {
 
-/// The widget as the screen shows it. QWidget::render() does not mirror in Arabic.
+/// Returns a picture of the widget as the screen shows it. QWidget::render() would not mirror it
+/// in a right-to-left layout.
 inline QPixmap pictureOf(QWidget *widget)
 {
 #if QT_VERSION < 0x050000
@@ -39,7 +41,7 @@ inline QPixmap pictureOf(QWidget *widget)
 #endif
 }
 
-/// Width of a line of text in pixels.
+/// Returns the width of a line of text in pixels.
 inline int textWidth(const QFontMetrics &metrics, const QString &text)
 {
 #if QT_VERSION < 0x050B00
@@ -49,7 +51,7 @@ inline int textWidth(const QFontMetrics &metrics, const QString &text)
 #endif
 }
 
-/// The text with the characters that mean something in HTML replaced by entities.
+/// Returns the text with HTML's special characters replaced by entities.
 inline QString escapeHtml(const QString &text)
 {
 #if QT_VERSION < 0x050000
@@ -59,7 +61,7 @@ inline QString escapeHtml(const QString &text)
 #endif
 }
 
-/// What a message handler does; the text is in local 8-bit form.
+/// Receives a message of Qt. The text is in the local 8-bit encoding.
 typedef void (*MessageHandler)(QtMsgType type, const char *text);
 
 #if QT_VERSION < 0x050000
@@ -83,7 +85,8 @@ inline void forwardMessage(QtMsgType type, const QMessageLogContext &, const QSt
 }
 } // namespace Private
 
-/// Every Qt message goes to `handler`, on the thread that it comes from; null restores Qt's own.
+/// Passes every message of Qt to `handler`, on the thread that writes the message. Null restores
+/// Qt's own handler.
 inline void installMessageHandler(MessageHandler handler)
 {
     Private::currentMessageHandler() = handler;

@@ -21,7 +21,7 @@ QString buttonText(const QString &key)
     return Change::tr(QLatin1String("USSDUIPlugin"), key);
 }
 
-/// What the widget is to be centred over.
+/// Returns the rectangle to centre the widget over, in screen coordinates.
 QRect surroundings(const QWidget *widget, const QRect &screen)
 {
     const QWidget *mainWindow = HostCore::HostState::mainWindow();
@@ -30,13 +30,15 @@ QRect surroundings(const QWidget *widget, const QRect &screen)
     return usable ? mainWindow->window()->frameGeometry() : screen;
 }
 
-/// A window that was not yet shown has no frame, and Qt then gives one a pixel too small.
+/// Returns the size with the frame. For a window that was never shown, frameGeometry() has no
+/// frame and is a pixel too small.
 QSize outerSize(const QWidget *window)
 {
     return window->isVisible() ? window->frameGeometry().size() : window->size();
 }
 
-/// The upper left corner wins when the window is larger than the screen.
+/// Moves the corner so that the window lies on the screen. A window larger than the screen keeps
+/// its upper left corner visible.
 QPoint keptInside(const QPoint &corner, const QSize &size, const QRect &screen)
 {
     const int x = qMin(corner.x(), screen.x() + screen.width() - size.width());
@@ -50,8 +52,8 @@ qint64 millisecondsNow()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// The local time for log lines of the GUI thread. A row of buttons logs many in the same
-/// millisecond, and each look at the local time asks for the time zone's file.
+/// Returns the local time for log lines of the GUI thread. Caches it for a millisecond: a row of
+/// buttons writes many lines, and each query of the local time checks the time zone's file.
 QByteArray timeOfDay()
 {
     static qint64 lastLook = -1;
@@ -103,7 +105,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QStr
                              const QString &text, const QString &firstButtonKey,
                              const QString &secondButtonKey)
 {
-    // The parent owns the box too and may be deleted while the user is being waited for.
+    // The parent owns the box too and may be deleted while exec() waits for the user.
     const QPointer<HostCore::MessageBox> box(new HostCore::MessageBox(icon, caption, text, parent));
     const QAbstractButton *first =
         box->addButton(buttonText(firstButtonKey), QMessageBox::AcceptRole);

@@ -10,25 +10,26 @@ namespace HostCore
 {
 
 /**
- * What the host's program tells the core library about itself; the plug-in reads it through
- * CommonUtils and Startup. GUI thread, unless said otherwise. Nothing here is owned.
+ * The state of the host's program, which the program sets and plug-ins read through CommonUtils and
+ * Startup. Does not own the objects. Must be used on the GUI thread, unless said otherwise.
  */
 class Q_DECL_EXPORT HostState
 {
 public:
-    /// The window that frames are centred over and are children of. May be deleted at any time;
-    /// null from then on.
+    /// Sets the window that frames are centred over and are children of. The window may be deleted
+    /// at any time; mainWindow() then returns null.
     static void setMainWindow(QWidget *window);
     static QWidget *mainWindow();
 
     static void setMiniMode(bool mini);
     static bool isMiniMode();
 
-    /// Said once, before the plug-ins are shut down. Any thread.
+    /// Announces that the host is shutting down; to be called before the plug-ins are shut down.
+    /// May be called on any thread.
     static void setShuttingDown(bool shuttingDown);
     static bool isShuttingDown();
 
-    /// Must outlive its use; set to null before it is deleted.
+    /// Sets the container, which must be reset to null before it is deleted.
     static void setPluginContainer(IPluginContainer *container);
     static IPluginContainer *pluginContainer();
 };

@@ -24,7 +24,8 @@ QString findLibraryFolder()
     return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
 }
 
-// Found once: the loader may know the library by a path relative to the folder of that time.
+// The path is resolved once: the loader may know the library by a path that is relative to the
+// working folder at the program's start.
 QString libraryFolder()
 {
     static const QString folder = findLibraryFolder();
@@ -38,7 +39,7 @@ QString withoutTrailingSeparators(QString path)
     return path;
 }
 
-/** What the host has chosen in place of the installed folder. */
+/** The folder that the host uses in place of the installed one; empty when it uses the latter. */
 struct ChosenFolder {
     QMutex mutex; // guards the path
     QString path;

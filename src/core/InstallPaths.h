@@ -7,23 +7,26 @@ namespace HostCore
 {
 
 /**
- * Where the program's files lie, found from where this library lies, so that an installed prefix
- * can be moved; the build tree is laid out alike. No path ends in a separator. Any thread.
+ * The paths of the program's files. They are relative to the path of this library, so that an
+ * installed prefix can be moved; the build tree has the same layout. No path ends in a separator.
+ * May be used on any thread.
  */
 class Q_DECL_EXPORT InstallPaths
 {
 public:
-    /// The folder that holds "plugins/" for plug-ins: the one that usePluginLibrary() has named,
-    /// else the installed one.
+    /// Returns the folder that contains "plugins/": the one set by usePluginLibrary(), or else the
+    /// installed one.
     static QString pluginLibrary();
-    /// The one of the installed plug-in: $USSD_PLUGIN_LIBRARY_PATH when it is set and not empty.
+    /// Returns the folder of the installed plug-in. $USSD_PLUGIN_LIBRARY_PATH overrides it when it
+    /// is set and not empty.
     static QString installedPluginLibrary();
-    /// Names the folder that plug-ins read their files in from now on; empty: the installed one.
+    /// Sets the folder that plug-ins read their files from; an empty path selects the installed
+    /// one.
     static void usePluginLibrary(const QString &folder);
-    /// The folder of data that no machine word length changes.
+    /// Returns the folder of architecture-independent data.
     static QString share();
     static QString translations();
-    /// Simulated networks, one file each.
+    /// Returns the folder of the simulated networks, which have one file each.
     static QString scenarios();
 };
 

@@ -34,12 +34,12 @@ const Language LANGUAGES[] = {
 
 const char ENGLISH[] = "en";
 
-// The last section of a language file, see cmake/seal_translation.sh: tag, length, and as many hex
-// digits, the SHA-1 of all before it.
+// The last section of a language file, which cmake/seal_translation.sh appends: a tag, a length,
+// and that many hexadecimal digits, which are the SHA-1 of everything before the section.
 const char SEAL[] = {'S', 0, 0, 0, 40};
 const int SEAL_DIGITS = 40;
 
-/** A language's texts. The translator reads them out of `content`. */
+/** The texts of a language. The translator does not copy `content`, so both live together. */
 struct LanguageTexts {
     QByteArray content;
     QTranslator translator;
@@ -47,7 +47,7 @@ struct LanguageTexts {
 
 typedef std::unique_ptr<LanguageTexts> Texts;
 
-/** The mutex guards the three members below it. */
+/** The loaded languages. The mutex guards the other members. */
 struct Loaded {
     QMutex mutex;
     QString code;
@@ -55,7 +55,7 @@ struct Loaded {
     Texts english;
 };
 
-/// Null unless the file is there and whole.
+/// Returns the texts of the language, or null when its file is missing or damaged.
 Texts load(const QString &code)
 {
     Texts texts(new LanguageTexts);
@@ -66,8 +66,7 @@ Texts load(const QString &code)
     return texts;
 }
 
-// English is loaded with the first text asked for, so that a program that never chooses a language
-// has texts nevertheless.
+// English is loaded at the first use, so that a program that never chooses a language has texts.
 Loaded &loaded()
 {
     static Loaded instance;
@@ -94,18 +93,19 @@ QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &
     return texts ? texts->translator.translate(context.constData(), key.constData()) : QString();
 }
 
-/** Qt's own texts: the buttons of its dialogs, context menus of entry fields. GUI thread. */
+/** Installs Qt's own texts: those of its dialogs' buttons and of entry fields' context menus. */
 void setQtTexts(const QString &code)
 {
     static std::unique_ptr<QTranslator> installed;
-    installed.reset(new QTranslator); // the old one takes itself off the application
+    installed.reset(
+        new QTranslator); // the destructor of the old one removes it from the application
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
     if (installed->load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm")) ||
         installed->load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm")))
         QCoreApplication::installTranslator(installed.get());
 }
 
-// The direction comes last: a translator that is installed resets it in Qt 4.
+// The direction is set last because Qt 4 resets it when a translator is installed.
 void setApplicationLanguage(const Language &language)
 {
     const QString code = QLatin1String(language.code);

@@ -8,40 +8,43 @@ namespace HostCore
 {
 
 /**
- * The languages that the host speaks, each a compiled Qt Linguist file whose source texts are keys.
- * Codes are those of ISO 639-1 ("en", "ar").
+ * The languages of the host. Each has a compiled Qt Linguist file whose source texts are keys.
+ * Languages are named by their ISO 639-1 codes ("en", "ar").
  */
 class Q_DECL_EXPORT Languages
 {
 public:
     enum FileState { Whole, Missing, Damaged, NoSuchLanguage };
 
-    /// The languages whose file is installed, in the order in which to offer them; English always.
-    /// Any thread.
+    /// Returns the languages whose files are installed, and English in any case, in the order in
+    /// which to offer them. May be called on any thread.
     static QStringList codes();
-    /// The language's name in that language; the code itself when it is not known. Any thread.
+    /// Returns the name of the language in that language, or the code itself when the language is
+    /// not known. May be called on any thread.
     static QString nativeName(const QString &code);
-    /// Whether the language is written from right to left. Any thread.
+    /// Returns whether the language is written from right to left. May be called on any thread.
     static bool isRightToLeft(const QString &code);
-    /// The language of Change::tr(); English at first. Any thread.
+    /// Returns the language of Change::tr(), initially English. May be called on any thread.
     static QString current();
 
-    /// Makes `code` the language of the program at once: of Change::tr(), of Qt's own texts, of the
-    /// default locale, and of the layout direction. False when its file is missing or damaged;
-    /// everything then stays as it was. GUI thread, other threads may be in Change::tr() meanwhile.
+    /// Makes `code` the language of Change::tr(), of Qt's own texts and of the default locale, and
+    /// sets the layout direction. Returns false and changes nothing when the language is unknown or
+    /// its file is missing or damaged. Must be called on the GUI thread; other threads may call
+    /// Change::tr() meanwhile.
     static bool setCurrent(const QString &code);
 
-    /// The file that holds the language's texts. Any thread.
+    /// Returns the path of the language's file. May be called on any thread.
     static QString file(const QString &code);
-    /// What is wrong with that file, if anything. Any thread.
+    /// Returns the state of the language's file. May be called on any thread.
     static FileState fileState(const QString &code);
-    /// What the file holds, for a QTranslator; empty unless it is whole. Any thread.
+    /// Returns the content of the language's file for a QTranslator; empty when the file is missing
+    /// or damaged. May be called on any thread.
     static QByteArray content(const QString &code);
-    /// Whether `content`, that of a language file, is as the build wrote it. QTranslator crashes on
-    /// a damaged one when it is asked for a text. Any thread.
+    /// Returns whether `content`, read from a language file, is unchanged since the build.
+    /// QTranslator crashes when it looks up a text in a damaged file. May be called on any thread.
     static bool isWhole(const QByteArray &content);
 
-    /// What Change::tr() gives. Any thread.
+    /// Returns what Change::tr() returns. May be called on any thread.
     static QString text(const QString &context, const QString &key);
 };
 

@@ -14,13 +14,13 @@ namespace HostCore
 namespace
 {
 
-// What a label shows well: more than that scrolls.
+// A label shows texts up to these limits well; a longer text is shown in a view that scrolls.
 const int LABEL_MAX_CHARACTERS = 600;
 const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;
 
 const QSize VIEW_SIZE(420, 220); // pixels
-const int AROUND_VIEW = 160;     // pixels that frame, icon and buttons may take of the screen
+const int AROUND_VIEW = 160;     // pixels of the screen for the frame, the icon and the buttons
 
 int longestWord(const QString &text)
 {
@@ -59,7 +59,7 @@ void MessageBox::keyPressEvent(QKeyEvent *event)
         QMessageBox::keyPressEvent(event);
 }
 
-// QMessageBox's own handler would press the only button.
+// QMessageBox::closeEvent() would press the only button.
 void MessageBox::closeEvent(QCloseEvent *event)
 {
     QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)

@@ -29,7 +29,7 @@ bool overridesDirection(ushort unit)
     return isIn(unit, 0x202a, 0x202e) || isIn(unit, 0x2066, 0x2069);
 }
 
-/// The many ways of ending a line become one.
+/// Replaces every kind of line end with a line feed.
 QString withLineFeeds(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -46,8 +46,7 @@ void print(FILE *stream, const QString &text)
     fflush(stream);
 }
 
-// QtFatalMsg and QtCriticalMsg have other places in the order of the enumeration than their
-// weight, so no comparison.
+// The values of QtMsgType do not follow the severity, so they cannot be compared by "<".
 void log(QtMsgType type, const char *text)
 {
     if (const LineSink sink = logSink)

@@ -10,21 +10,22 @@ QString notRegular()
     return QLatin1String("it is no regular file");
 }
 
-/// Not said of a file that is missing: the system's own words are better then.
+/// Returns whether the path names something other than a file. Returns false when nothing has that
+/// name, because QFile::errorString() describes this case better.
 bool isSomethingElse(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() && !info.isFile();
 }
 
-/// Opens the file; empty when that went well.
+/// Opens the file. Returns an error message, or an empty text on success.
 QString problemOfOpening(QFile &file, QIODevice::OpenMode mode, qint64 mostBytes)
 {
-    if (isSomethingElse(file.fileName())) // asked first: opening a pipe waits for its writer
+    if (isSomethingElse(file.fileName())) // checked first because opening a pipe waits for a writer
         return notRegular();
     if (!file.open(QIODevice::ReadOnly | mode))
         return file.errorString();
-    if (file.isSequential()) // the file was exchanged meanwhile
+    if (file.isSequential()) // the file was replaced between the check and open()
         return notRegular();
     if (file.size() > mostBytes)
         return QString::fromLatin1("it is larger than %1 bytes").arg(mostBytes);

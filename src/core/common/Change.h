@@ -3,12 +3,20 @@
 
 #include <QString>
 
-/** Texts in the user's language. */
+/**
+ * Looks up texts in the user's language.
+ *
+ * The texts are stored in compiled Qt Linguist files whose source texts are keys. The host chooses
+ * the language; a plug-in learns of a change by PluginContract::EVENT_LANGUAGE_CHANGED.
+ */
 class Q_DECL_EXPORT Change
 {
 public:
-    /// The text behind `key` in the current language; the key itself when no language has it;
-    /// empty for an empty key. Any thread.
+    /// Returns the text for `key` in the current language. `context` is the name of the plug-in
+    /// that the key belongs to, such as "USSDUIPlugin".
+    ///
+    /// Falls back to the English text, and to the key itself when English lacks it too. Returns an
+    /// empty text for an empty key. May be called on any thread.
     static QString tr(const QString &context, const QString &key);
 };
 

@@ -9,30 +9,41 @@
 
 class QWidget;
 
-/** What every plug-in asks of the host. GUI thread, unless said otherwise. */
+/**
+ * Services of the host for its plug-ins. The operations must be called on the GUI thread, unless
+ * their comments say otherwise.
+ */
 class Q_DECL_EXPORT CommonUtils
 {
 public:
-    /// The host's main window: the parent of frames. Null when it has none.
+    /// Returns the host's main window, which is the parent of frames, or null when there is none.
+    /// The host owns the window.
     static QWidget *GetMainWindow();
-    /// Centres a top-level window over the main window, or on the screen.
+    /// Centres `widget`, a top-level window, over the main window, or on the screen when the main
+    /// window is null, hidden or minimized. Keeps it inside the available part of the screen. Does
+    /// nothing when `widget` is null.
     static void MoveCentre(QWidget *widget);
-    /// Whether the host shows itself small, without window frames.
+    /// Returns whether the host runs in its small mode, in which windows have no frames.
     static bool IsMiniMode();
-    /// Whether the host is on its way out. Any thread.
+    /// Returns whether the host is shutting down. May be called on any thread.
     static bool IsShuttingDown();
-    /// The folder that holds "plugins/USSDUIPlugin/", without a separator at its end. Any thread.
+    /// Returns the absolute path of the folder that contains "plugins/USSDUIPlugin/". The path does
+    /// not end in a separator. May be called on any thread.
     static QString GetPluginLibraryPath();
 
-    /// Shows `text` as plain text and waits for the user. The button texts are keys, translated
-    /// with the context "USSDUIPlugin". QMessageBox::Ok for the first button; QMessageBox::Cancel
-    /// for the second, for Escape, for the window's close button, and when `parent` dies meanwhile.
+    /// Shows `text` as plain text in a message box and waits for the user, while events are
+    /// handled. The button keys are translated in the context "USSDUIPlugin"; an empty second key
+    /// shows one button.
+    ///
+    /// Returns QMessageBox::Ok for the first button. Returns QMessageBox::Cancel for the second
+    /// button, for Escape, for the window's close button, and when `parent` is deleted meanwhile.
     static int ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,
                            const QString &text, const QString &firstButtonKey,
                            const QString &secondButtonKey = QString());
 
-    /// Cuts the text of `widget` to `maxWidth` pixels when it is at least as wide; the whole text
-    /// then becomes its tool tip. Otherwise the tool tip is emptied. Compiled by the plug-in.
+    /// Elides the text of `widget` to `maxWidth` pixels when the text is at least that wide, and
+    /// makes the whole text its tool tip. Otherwise clears the tool tip. `T` needs fontMetrics(),
+    /// text(), setText() and setToolTip(). The template is compiled into the plug-in.
     template <typename T>
     static void setElidedTextForWidgetText(T *widget, int maxWidth, Qt::TextElideMode mode)
     {
@@ -49,6 +60,7 @@ public:
     }
 
 private:
+    /// Writes a debug line with the local time for the template above.
     static void logElide(int line, const char *what);
 };
 

@@ -3,23 +3,30 @@
 
 #include <QDialog>
 
-/** The host's frame for a plug-in's window. */
+/**
+ * The host's frame for a plug-in's window.
+ *
+ * The plug-in creates and deletes its frames and calls them on the GUI thread only.
+ */
 class Q_DECL_EXPORT ExtendDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `widgetType` chooses the host's frame style; 1 is a plain window.
+    /// Creates a hidden, empty frame. A `parent` deletes the frame when it is deleted itself.
+    /// `widgetType` selects the host's frame style; 1 is a plain window.
     explicit ExtendDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags(),
                           int widgetType = 1);
+    /// Deletes the content as well, unless it was given another parent.
     ~ExtendDialog() override;
 
-    /// Makes `widget` the frame's content, in place of the one before. The frame becomes its
-    /// parent, so it dies with the frame unless it is deleted or taken elsewhere first.
+    /// Shows `widget` as the content of the frame. The frame becomes the parent of `widget` and
+    /// deletes it together with itself. The previous content is hidden and stays a child of the
+    /// frame. Does nothing when `widget` is null or already is the content.
     void AddMainWidget(QWidget *widget);
 
 signals:
-    /// The user closes the frame, or close() was called. Comes before the frame is hidden; a
-    /// receiver may delete the content, and the frame by deleteLater().
+    /// Emitted when the user closes the frame or close() is called, before the frame is hidden.
+    /// A receiver may delete the content at once and the frame by deleteLater().
     void dlgCloseEvent();
 
 protected:

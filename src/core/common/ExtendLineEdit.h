@@ -3,12 +3,18 @@
 
 #include <QLineEdit>
 
-/** The host's line edit, so that its style reaches entry fields in every plug-in. */
+/**
+ * The host's line edit. Plug-ins use it for their entry fields, so that a style sheet of the host
+ * can select these fields by the name of the class. It behaves as QLineEdit does.
+ */
 class Q_DECL_EXPORT ExtendLineEdit : public QLineEdit
 {
     Q_OBJECT
 public:
+    /// Creates an empty field, which is deleted together with its `parent`. Must be called on the
+    /// GUI thread, as every operation of a widget.
     explicit ExtendLineEdit(QWidget *parent = nullptr);
+    /// Defined in the core library, which thus holds the only virtual table of the class.
     ~ExtendLineEdit() override;
 };
 

@@ -3,14 +3,19 @@
 
 #include <QtPlugin>
 
-/** How the host tells a plug-in of an event. Called on the GUI thread. */
+/**
+ * Receives the host's events. A plug-in object implements it beside its other interfaces; the
+ * host finds it by qobject_cast and calls it on the GUI thread.
+ */
 class INotify
 {
 public:
+    /// Lets the host delete a plug-in object through this interface.
     virtual ~INotify() {}
 
-    /// `event` is the host's number (320: the language changed, 579: check the SIM again); what
-    /// the two parameters are depends on it. Unknown events are ignored. The result is 0.
+    /// Handles `event`, one of the EVENT_ constants of PluginContract, and ignores an unknown one.
+    /// The meaning of the two parameters depends on the event. Returns 0 in any case, so a host
+    /// cannot learn from the result whether the event was known.
     virtual int Notify(unsigned int event, unsigned int param1, unsigned int param2) = 0;
 };
 

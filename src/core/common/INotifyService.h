@@ -4,16 +4,23 @@
 #include <QString>
 #include <QtPlugin>
 
-/// Carries a number or an address; an address is valid during the call only.
+/// A parameter of a message: a number or an address. An address is valid during the call only.
 typedef quintptr NotifyParam;
 
-/** The host's notification service, found among its plug-ins. Called on the GUI thread. */
+/**
+ * The host's notification service, by which a plug-in sends messages to other parts of the host.
+ *
+ * The host implements it in an object that IPluginContainer::GetPlugin() returns. The plug-in
+ * finds it by qobject_cast and calls it on the GUI thread.
+ */
 class INotifyService
 {
 public:
     virtual ~INotifyService() {}
 
-    /// Hands `message` to `addressee` before it returns. 0 when there was one.
+    /// Delivers `message`, such as PluginContract::MESSAGE_PRE_POST_INFO, to `addressee` before it
+    /// returns. The meaning of the two parameters depends on the message. Returns 0 when the
+    /// addressee exists, and any other number when it does not.
     virtual int Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                        NotifyParam lParam) = 0;
 };

@@ -5,13 +5,18 @@
 
 class QObject;
 
-/** The plug-ins that the host has loaded. GUI thread. */
+/**
+ * The plug-ins that the host has loaded. The host implements and owns the container;
+ * Startup::GetPluginContainer() returns it. It is called on the GUI thread only.
+ */
 class IPluginContainer
 {
 public:
     virtual ~IPluginContainer() {}
 
-    /// The plug-in with this identifier, which stays the container's; null when it is not loaded.
+    /// Returns the plug-in with the identifier `clsid`, or null when it is not loaded. The
+    /// container owns the object; a caller that keeps the pointer across a call into the host uses
+    /// a QPointer, because the host may unload plug-ins meanwhile.
     virtual QObject *GetPlugin(const QString &clsid) = 0;
 };
 

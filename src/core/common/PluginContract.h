@@ -13,7 +13,7 @@ namespace PluginContract
 /// The identifier for which IBasePlugin::QueryInterface() hands out the USSD service (IUSSD).
 const int USSD_SERVICE = 4097;
 
-/// Events that the host raises by INotify::Notify(). Both parameters of each event are 0.
+// Events that the host raises by INotify::Notify(). Both parameters of each event are 0.
 const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() answers in another language
 const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was changed or became readable
 

@@ -5,11 +5,17 @@
 
 class IPluginContainer;
 
-/** What the host set up when it started. */
+/**
+ * Gives plug-ins access to the objects that the host creates when it starts.
+ *
+ * Plug-ins query it whenever they need an object and do not keep the result, because the host may
+ * replace or delete the object.
+ */
 class Q_DECL_EXPORT Startup
 {
 public:
-    /// The host's plug-ins; null when there is no container. Not the caller's. GUI thread.
+    /// Returns the container of the host's plug-ins, or null when the host has none. The host owns
+    /// the container. Must be called on the GUI thread.
     static IPluginContainer *GetPluginContainer();
 };
 
