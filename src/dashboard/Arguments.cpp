@@ -5,7 +5,7 @@ namespace
 
 const char SEPARATOR[] = "--";
 
-/** Takes the words one after the other. */
+/** Parses the words one after another. */
 class Parser
 {
 public:
@@ -124,7 +124,7 @@ void Parser::parseRest()
     m_words.clear();
 }
 
-// The first of --help and --version wins over anything else; the others exclude each other.
+// The first of --help and --version overrides all other modes, which exclude each other.
 void Parser::setMode(Arguments::Mode mode)
 {
     const Arguments::Mode earlier = m_result.mode;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/** What the command line asks for; a mistake in it is a state of the value. */
+/** The parsed command line. */
 struct Arguments {
     enum Mode { Window, Send, Tour, Help, Version };
 
@@ -17,16 +17,17 @@ struct Arguments {
     QString language;
     bool verbose = false;
 
-    /// The key of what is wrong, in the dashboard's texts; null when nothing is.
+    /// The key of the error message among the dashboard's texts; null when there is no error.
     const char *errorKey = nullptr;
-    /// What the error is about; stands for %1 in its text.
+    /// Replaces %1 in the error message.
     QString errorSubject;
 };
 
-/// Reads the arguments behind the program's name.
+/// Parses the arguments that follow the program's name.
 ///
-/// What follows --send is the code and the answers, up to the next word that begins with "--"; all
-/// of what follows a lone "--" is code and answers too. An option's value may stand behind "=".
+/// The words after --send are the code and the answers, up to the next word that begins with "--".
+/// All words after a lone "--" are code and answers too. An option and its value may be joined by
+/// "=".
 Arguments parseArguments(const QStringList &words);
 
 #endif

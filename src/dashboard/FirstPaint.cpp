@@ -10,7 +10,7 @@ FirstPaint::FirstPaint(QWidget *window, int longestWait)
     QTimer::singleShot(longestWait, this, SLOT(announce()));
 }
 
-/// The window comes first and what is in it after, all before the event loop goes on.
+/// The window is painted before its children, and all of them before the next event is handled.
 bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Paint) {

@@ -6,15 +6,15 @@
 class QWidget;
 
 /**
- * Says once that a window has been painted for the first time, so that what takes its time can be
- * done in front of the user. A window that nobody sees is not painted: then it says so after a
- * while. GUI thread.
+ * Emits a signal once, when a window has been painted for the first time, so that slow work starts
+ * after the user sees the window. For a window that is not painted because it is not visible, the
+ * signal is emitted after a time limit. GUI thread.
  */
 class FirstPaint : public QObject
 {
     Q_OBJECT
 public:
-    /// The window outlives it. One that is not painted within `longestWait` ms is taken for unseen.
+    /// The window must outlive this object. `longestWait` is the time limit in milliseconds.
     explicit FirstPaint(QWidget *window, int longestWait = 500);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

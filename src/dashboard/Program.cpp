@@ -31,15 +31,15 @@ namespace
 
 const char PLATFORM[] = "QT_QPA_PLATFORM";
 const int REGISTRATION_LIMIT =
-    10000;                         // ms that --send waits for the device, the reply limit at most
-const QSize UNSEEN_SIZE(800, 600); // of the widget that hosts the plug-in's page without a display
+    10000; // ms that --send waits for the device; the reply limit if that is shorter
+const QSize UNSEEN_SIZE(800, 600); // of the widget that contains the page without a display
 
 bool isSet(const char *variable)
 {
     return !qgetenv(variable).isEmpty();
 }
 
-/// Qt would end the program when it finds none.
+/// Qt would terminate the program when it finds no display.
 bool hasDisplay()
 {
     return isSet(PLATFORM) || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
@@ -61,8 +61,8 @@ bool namesDevice(const Arguments &arguments)
     return !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// What the command line asks for, else the environment, else what was chosen last. Who names a
-/// scenario wants no modem, whose commands may cost money.
+/// Returns the device named by the command line, or else by the environment, or else the one chosen
+/// last. A user who names a scenario must not get a modem, whose commands may cost money.
 DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings)
 {
     if (!arguments.modem.isEmpty())
@@ -74,8 +74,8 @@ DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &s
     return isSet("TKSV_SCENARIO") ? DeviceChoice::simulated(QString()) : settings.device();
 }
 
-/// Uses the device. A scenario that was only remembered, and is no good any more, leaves the
-/// automatic choice. Returns what is wrong with it.
+/// Selects the device. Falls back to the automatic choice when a scenario from the settings can no
+/// longer be used. Returns the error in the scenario file.
 QString useDevice(DeviceChoice *choice)
 {
     QString error = choice->use();
@@ -86,7 +86,8 @@ QString useDevice(DeviceChoice *choice)
     return error;
 }
 
-/// Waits for a modem that is still registering; says on standard error what it waits for in vain.
+/// Waits for a modem that is still registering. On failure prints the reason to standard error and
+/// returns false.
 bool isDeviceReady(const Arguments &arguments)
 {
     const bool isReady = waitForDevice(qMin(replyTimeout(), REGISTRATION_LIMIT));
@@ -98,7 +99,7 @@ bool isDeviceReady(const Arguments &arguments)
     return isReady;
 }
 
-/// Without any font Qt draws the same box for each letter.
+/// Without a font Qt draws the same box for every letter.
 bool hasFonts()
 {
     QPainterPath narrow;
@@ -108,7 +109,7 @@ bool hasFonts()
     return narrow != wide;
 }
 
-/// What the user is to know before he relies on it.
+/// Warns of missing fonts and of settings that cannot be written, before the user relies on them.
 void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
 {
     if (!hasFonts())
@@ -117,7 +118,7 @@ void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
 }
 
-/// Once more at the end, since the disk may have become full meanwhile.
+/// Reports a failure at the end too, because the disk may have become full meanwhile.
 void saveSettings(DashboardSettings *settings, MainWindow *window)
 {
     if (!settings->save())
@@ -132,7 +133,7 @@ int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
     CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
     const bool sent = sender.send(commands);
     int status = 0;
-    TKSV_USSDSrv_Release(&status); // an open menu is not left to the next program
+    TKSV_USSDSrv_Release(&status); // closes an open menu, so that the next program does not find it
     plugin.shutDown();
     return sent ? EXIT_GOOD : EXIT_BAD;
 }
@@ -164,7 +165,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // now for widgets too
+    HostCore::Languages::setCurrent(
+        HostCore::Languages::current()); // for the application's widgets
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -185,7 +187,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = QApplication::exec();
-    plugin.shutDown(); // before the window that hosts the plug-in's page
+    plugin.shutDown(); // before the window that contains the plug-in's page is deleted
     saveSettings(&settings, &window);
     return result;
 }
@@ -198,7 +200,7 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
     const QString unusable = choice.use();
     if (!unusable.isEmpty())
         return fail(unusable, EXIT_USAGE);
-    ReplyTap tap; // before the device begins to speak
+    ReplyTap tap; // constructed before the device can send a reply
     if (!isDeviceReady(arguments))
         return EXIT_BAD;
     UiPlugin plugin;

@@ -3,22 +3,22 @@
 
 struct Arguments;
 
-/** What the program ends with. */
+/** The exit codes of the program. */
 enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2 };
 
-/** The program's ways of running; each returns an ExitCode. */
+/** The modes of the program. Each function returns an ExitCode. */
 namespace Program
 {
 
-/// Says what is wrong with the arguments.
+/// Prints the error in the arguments.
 int complain(const Arguments &arguments);
 int help();
 int version();
-/// Opens the dashboard, and returns when it is closed.
+/// Opens the dashboard and returns when it is closed.
 int openWindow(int &argc, char **argv, const Arguments &arguments);
-/// Sends a code without any window.
+/// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
-/// Takes the tour without any display.
+/// Takes the tour, which needs no display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

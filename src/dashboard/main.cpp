@@ -27,7 +27,8 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-/// Without the file of English there is no text to say it in.
+/// Prints which language file is missing or damaged. The message about the English file is fixed
+/// because no text can be looked up without that file.
 void sayWhichTextsAreMissing(const QString &wanted)
 {
     const QString english = QLatin1String(ENGLISH);
@@ -44,7 +45,7 @@ void sayWhichTextsAreMissing(const QString &wanted)
             dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
 
-/// The language that was remembered, else that of the desktop; English when there is neither.
+/// Returns the language from the settings, or else that of the desktop, or else English.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
@@ -53,12 +54,14 @@ QString usualLanguage()
     const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
     const bool isAbsent =
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
-    // The desktop's language may be left out on purpose; one that was chosen here may not.
+    // A desktop language without a file is no error; a language chosen in the dashboard must have
+    // one.
     sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
     return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
-/// False when the command line names a language that there is none of, or whose file is no good.
+/// Sets the language. Returns false when the command line names a language that is unknown or whose
+/// file is missing or damaged.
 bool chooseLanguage(Arguments *arguments)
 {
     const QString &wanted = arguments->language;
@@ -73,7 +76,8 @@ bool chooseLanguage(Arguments *arguments)
     return false;
 }
 
-/// Where the log lines go that hold codes and replies. Returns why they cannot go to the file.
+/// Starts the log, whose lines contain codes and replies. Returns an error message when the log
+/// file cannot be used.
 QString startLog(const Arguments &arguments)
 {
     if (arguments.verbose)
@@ -102,7 +106,7 @@ int run(int &argc, char **argv, const Arguments &arguments)
 
 int main(int argc, char **argv)
 {
-    umask(OTHERS); // what the program writes is its user's alone: codes and replies are private
+    umask(OTHERS); // files are private to the user because they contain codes and replies
     setlocale(LC_ALL, "");
     Arguments arguments = parseArguments(wordsOf(argc, argv));
     HostCore::installTerminalLog(arguments.verbose);

@@ -5,7 +5,7 @@
 
 #include "Change.h"
 
-/// The dashboard's text behind the key, in the current language.
+/// Returns the dashboard's text for the key in the current language.
 inline QString dashboardText(const char *key)
 {
     return Change::tr(QLatin1String("Dashboard"), QLatin1String(key));

@@ -25,7 +25,8 @@ QString whyNotOpened()
                           : QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/// Another name of the same file could be one that somebody else reads.
+/// Returns whether the file is a regular file of the user's without further hard links, which
+/// somebody else could read.
 bool isOwnFile(int file)
 {
     struct stat found;
@@ -33,13 +34,13 @@ bool isOwnFile(int file)
            found.st_nlink == 1;
 }
 
-/// Not before it is known to be the user's own.
+/// Must be called only after isOwnFile(), so that no foreign file is emptied.
 bool makeEmptyAndPrivate(int file)
 {
     return fchmod(file, OWNER_ONLY) == 0 && ftruncate(file, 0) == 0;
 }
 
-/// Empty when the file is good to write to.
+/// Returns the error message; empty when the file can be used.
 QString whyNotUsable(int file)
 {
     if (!isOwnFile(file))
@@ -51,7 +52,7 @@ QString whyNotUsable(int file)
 
 QString LogFile::open(const QString &path)
 {
-    // Without waiting for a reader, should it be a pipe.
+    // O_NONBLOCK: opening a named pipe must not wait for a reader.
     const int flags = O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
     const int file = ::open(QFile::encodeName(path).constData(), flags, OWNER_ONLY);
     const QString problem = file < 0 ? whyNotOpened() : whyNotUsable(file);
@@ -66,12 +67,12 @@ QString LogFile::open(const QString &path)
     return QString();
 }
 
-// In one call, so that the lines of several threads do not mix.
+// A line is written by one call, so that the lines of several threads do not mix.
 void LogFile::write(const QString &line)
 {
     if (logFile < 0)
         return;
     const QByteArray bytes = HostCore::terminalText(line).toUtf8() + '\n';
     if (::write(logFile, bytes.constData(), size_t(bytes.size())) != bytes.size())
-        logFile = -1; // the disk is full: the program goes on without its log
+        logFile = -1; // the disk is full: the program continues without its log
 }

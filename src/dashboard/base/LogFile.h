@@ -4,17 +4,18 @@
 #include <QString>
 
 /**
- * The file that the program's log lines go to when the user asks for it. They hold codes and
- * replies, so it is readable by its user alone, and follows no symbolic link.
+ * The log file, which is written only when the user asks for it. Log lines contain codes and
+ * replies, so the file is readable by its owner only, and a symbolic link is not followed.
  */
 namespace LogFile
 {
 
-/// Opens the file, makes it empty and private, and writes what its lines will hold into the first.
-/// Returns why it cannot be used, in words; empty when it is open. Once, before there are threads.
+/// Opens the file, empties it, makes it private and writes a first line that explains its content.
+/// Returns an error message, or an empty text on success. Must be called at most once, before any
+/// thread is started.
 QString open(const QString &path);
 
-/// Adds a line, as terminalText() gives it; nothing when no file is open. Any thread.
+/// Appends terminalText(line). Does nothing when no file is open. May be called on any thread.
 void write(const QString &line);
 
 } // namespace LogFile

@@ -5,7 +5,7 @@
 
 bool waitUntil(const std::function<bool()> &condition, int milliseconds)
 {
-    QTimer deadline; // its event also wakes the wait below
+    QTimer deadline; // its event also ends the wait below
     deadline.setSingleShot(true);
     deadline.start(milliseconds);
     while (!condition()) {

@@ -3,8 +3,8 @@
 
 #include <functional>
 
-/// Handles events until the condition holds, for at most so many milliseconds; asks it again after
-/// each event. Returns whether it holds. GUI thread.
+/// Handles events until the condition holds, for at most `milliseconds`; checks it after each
+/// event. Returns whether the condition holds. GUI thread.
 bool waitUntil(const std::function<bool()> &condition, int milliseconds);
 
 #endif

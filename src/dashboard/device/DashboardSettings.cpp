@@ -8,12 +8,12 @@ namespace
 const char NAME[] = "ussd-dashboard";
 const char LANGUAGE[] = "language";
 const char DEVICE[] = "device";
-const char SCENARIO[] = "scenario"; // of earlier versions
+const char SCENARIO[] = "scenario"; // written by earlier versions only
 const char OPERATOR_CODES[] = "operator-codes/";
 const char GEOMETRY[] = "geometry";
 
-/// Qt's lock on the settings, left behind by a program that was killed before it had written down
-/// in whole lines who it was. The next one would wait half a minute until Qt takes that away.
+/// Removes an incomplete lock file of Qt's, left by a program that was killed while it wrote the
+/// lock file. The next program would otherwise wait 30 s until Qt considers the lock stale.
 void removeUnfinishedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QLatin1String(".lock"));
@@ -30,7 +30,7 @@ DashboardSettings::DashboardSettings()
     removeUnfinishedLock(file());
 }
 
-// The program's file mask keeps a new file private; this does it for one that was there.
+// The program's file mask keeps a new file private; an existing file is made private here.
 DashboardSettings::~DashboardSettings()
 {
     m_settings.sync();

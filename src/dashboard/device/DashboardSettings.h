@@ -7,29 +7,30 @@
 
 #include "DeviceChoice.h"
 
-/** What the dashboard remembers of the last time, in a file that only its user can read. */
+/** The settings of the dashboard, in a file that only its owner can read. */
 class DashboardSettings
 {
 public:
     DashboardSettings();
-    /// Writes what has changed.
+    /// Writes unsaved changes.
     ~DashboardSettings();
 
-    QString language() const; // a code; empty when never chosen
+    QString language() const; // an ISO 639-1 code; empty when never chosen
     void setLanguage(const QString &code);
-    /// What was chosen last, automatic when nothing was. Earlier versions kept a scenario alone.
+    /// Returns the device chosen last, or the automatic choice when none was chosen. Also reads the
+    /// key of earlier versions, which stored a scenario only.
     DeviceChoice device() const;
     void setDevice(const DeviceChoice &choice);
-    /// What was decided about the operator's codes for the SIMs of a home network (MCC and MNC): a
-    /// word of the caller's; empty when nothing was.
+    /// Returns the user's decision about the operator's codes for SIMs of a home network (MCC and
+    /// MNC), as the word that the caller has stored; empty when there is no decision.
     QString operatorCodes(const QString &homeNetwork) const;
     void setOperatorCodes(const QString &homeNetwork, const QString &word);
     QByteArray geometry() const; // of the main window
     void setGeometry(const QByteArray &geometry);
 
-    /// Whether what is set can be written.
+    /// Returns whether changes can be written.
     bool isWritable() const { return m_settings.isWritable(); }
-    /// Writes what has changed now. Whether all of it is written.
+    /// Writes unsaved changes now. Returns whether all of them were written.
     bool save();
     QString file() const { return m_settings.fileName(); }
 

@@ -3,23 +3,23 @@
 
 #include <QString>
 
-/** Which device the user wants. */
+/** The user's choice of a device. */
 struct DeviceChoice {
     enum Kind {
-        Automatic, // a modem when there is one, otherwise a simulated network
+        Automatic, // a modem if there is one, otherwise a simulated network
         Simulated,
         Modem
     };
 
     Kind kind = Automatic;
-    QString name; // the scenario file, empty for the default; the modem's equipment identifier
+    QString name; // the scenario file (empty for the default) or the modem's equipment identifier
 
     static DeviceChoice automatic() { return DeviceChoice(); }
     static DeviceChoice simulated(const QString &file);
     static DeviceChoice modem(const QString &equipmentId);
 
-    /// As one word, and back: "automatic", "simulated:FILE", "modem:IDENTIFIER". Anything else is
-    /// automatic.
+    /// Convert the choice to one word and back: "automatic", "simulated:FILE" or
+    /// "modem:IDENTIFIER". Any other word is the automatic choice.
     QString word() const;
     static DeviceChoice fromWord(const QString &word);
 
@@ -28,8 +28,8 @@ struct DeviceChoice {
         return kind == other.kind && name == other.name;
     }
 
-    /// Makes it the device. Returns what is wrong with the scenario file and where, and then
-    /// nothing has changed; empty when it is in use.
+    /// Selects the chosen device. Returns an empty text on success. Otherwise changes nothing and
+    /// returns the error in the scenario file with its line.
     QString use() const;
 };
 

@@ -9,7 +9,7 @@
 namespace
 {
 
-/// Why the device cannot be used; null when it can.
+/// Returns the key of the reason why the device cannot be used; null when it can be used.
 const char *trouble(int state)
 {
     switch (state) {
@@ -28,7 +28,7 @@ const char *trouble(int state)
     }
 }
 
-/// What the problem asks for; null when there is none.
+/// Returns the key of the advice on a problem; null when there is no problem.
 const char *adviceOnProblem(int problem)
 {
     switch (problem) {
@@ -53,7 +53,8 @@ const char *adviceOnProblem(int problem)
     }
 }
 
-/// What the state of a modem asks for; null when nothing. A simulated device comes back by itself.
+/// Returns the key of the advice on a modem's state; null when there is nothing to do. A simulated
+/// device needs no advice because it becomes ready again by itself.
 const char *adviceOnState(const DeviceStatus &status)
 {
     if (status.state == TKSV_DEVICE_SIM_LOCKED)
@@ -125,7 +126,7 @@ QString DeviceStatus::troubleText() const
     return key ? dashboardText(key) : QString();
 }
 
-// A device that only searches has its SIM.
+// A device that searches for a network has a SIM.
 QString DeviceStatus::simText() const
 {
     if (state != TKSV_DEVICE_SEARCHING && trouble(state))

@@ -3,41 +3,43 @@
 
 #include <QString>
 
-/** What the dashboard shows of the device, and the words for it in the user's language. */
+/** The state of the device as the dashboard shows it, and its texts in the user's language. */
 struct DeviceStatus {
     bool isSimulated = true;
     int state = 0;          // a TKSV_DeviceState
     int problem = 0;        // a TKSV_DeviceProblem
-    int pinRetries = -1;    // PINs that can still be tried; -1 when unknown
+    int pinRetries = -1;    // remaining attempts to enter the PIN; -1 when unknown
     int signalPercent = -1; // 0 to 100; -1 when unknown
     QString operatorName;   // empty when unknown
-    QString imsi;           // likewise
-    QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; likewise
-    QString simOperator;    // what the SIM calls its operator; likewise
-    QString source;         // the scenario file, or the modem's maker and model
+    QString imsi;           // empty when unknown
+    QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty when unknown
+    QString simOperator;    // the operator's name as stored on the SIM; empty when unknown
+    QString source;         // the scenario file, or the modem's manufacturer and model
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }
 
     bool isRegistered() const;
-    /// Whether the SIM waits for a PIN that can be tried.
+    /// Returns whether the SIM waits for a PIN and allows another attempt.
     bool waitsForPin() const;
-    /// Whether the device may get ready without anybody doing anything.
+    /// Returns whether the device may become ready without the user's help.
     bool mayBecomeReady() const;
     QString operatorText() const;
     QString signalText() const;
-    /// The IMSI, or what is missing.
+    /// Returns the IMSI, or the reason why there is none.
     QString simText() const;
-    /// Why no command can be sent; empty when one can.
+    /// Returns the reason why no command can be sent; empty when a command can be sent.
     QString troubleText() const;
-    /// What is wrong and what to do about it; empty when nothing need be done.
+    /// Returns what is wrong and what the user can do about it; empty when there is nothing to do.
     QString adviceText() const;
-    /// How many PINs can still be tried, with a warning before the last; empty when unknown.
+    /// Returns the number of remaining PIN attempts, with a warning before the last one; empty when
+    /// the number is unknown.
     QString triesText() const;
     QString sourceText() const;
 };
 
-/// Asks the device SDK; returns at once. Any thread.
+/// Reads the status from the device SDK without waiting for the device. May be called on any
+/// thread.
 DeviceStatus readDeviceStatus();
 
 #endif

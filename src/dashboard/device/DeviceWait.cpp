@@ -5,7 +5,7 @@
 
 bool waitForDevice(int milliseconds)
 {
-    const DeviceWatcher device; // its news end the waits for events
+    const DeviceWatcher device; // its events end the waits of waitUntil()
     waitUntil([&device] { return !device.status().mayBecomeReady(); }, milliseconds);
     return device.status().isRegistered();
 }

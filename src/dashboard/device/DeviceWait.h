@@ -1,8 +1,9 @@
 #ifndef DEVICEWAIT_H
 #define DEVICEWAIT_H
 
-/// Waits until the device takes commands, as long as it may get there by itself, and at most so
-/// many milliseconds. Returns whether it does. GUI thread; handles events meanwhile.
+/// Waits until the device accepts commands, for at most `milliseconds`, and gives up earlier when
+/// the device cannot become ready by itself. Returns whether the device accepts commands. GUI
+/// thread; handles events meanwhile.
 bool waitForDevice(int milliseconds);
 
 #endif

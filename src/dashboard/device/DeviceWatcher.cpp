@@ -7,7 +7,7 @@
 namespace
 {
 
-std::atomic<DeviceWatcher *> watching(nullptr); // device events carry no context
+std::atomic<DeviceWatcher *> watching(nullptr); // global because device events carry no context
 
 DeviceReading readFromSdk()
 {
@@ -29,7 +29,7 @@ DeviceWatcher::DeviceWatcher(QObject *parent)
 
 DeviceWatcher::~DeviceWatcher()
 {
-    // Both wait for a call-back that runs.
+    // Both calls wait until a running call-back has returned.
     TKSV_Device_SetInfoCallback(nullptr, nullptr);
     TKSV_DevSrv_UnRegisterDevInitEventCallback(onDeviceEvent);
     watching = nullptr;

@@ -8,13 +8,15 @@
 #include "DeviceStatus.h"
 #include "Modem.h"
 
-/** What there is to know of the device in use and of those that could be. */
+/** The status of the device in use, and the modems that could be used. */
 struct DeviceReading {
     DeviceStatus status;
     QList<Modem> modems;
 };
 
-/** Keeps the device's status up to date. GUI thread; one at a time, as the SDK has one call-back.
+/**
+ * Keeps the device's status up to date. GUI thread. Only one watcher may exist at a time, because
+ * the SDK has one call-back.
  */
 class DeviceWatcher : public QObject
 {
@@ -26,21 +28,21 @@ public:
     const DeviceStatus &status() const { return m_reading.status; }
     const QList<Modem> &modems() const { return m_reading.modems; }
 
-    /// Where the status is read from; null: the device SDK, as at the start. For a show of devices
-    /// that are not there.
+    /// Replaces the source of the status, to demonstrate devices that are not present. Null
+    /// restores the initial source, the device SDK.
     void readFrom(const std::function<DeviceReading()> &source);
 
 public slots:
-    /// Asks the device again, and tells when something is different.
+    /// Reads the status again and emits a signal when it has changed.
     void refresh();
 
 signals:
     void changed();
-    /// The device went away or was reset; commands on their way ended with it.
+    /// Emitted when the device was removed or reset. Pending commands have ended.
     void lost();
 
 private:
-    // Both on a thread of the SDK.
+    // Both call-backs run on a thread of the SDK.
     static void onInfoChanged(void *watcher);
     static unsigned char onDeviceEvent(int event, void *data);
 

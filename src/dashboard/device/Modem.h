@@ -7,17 +7,18 @@
 /** A modem that can be chosen. */
 struct Modem {
     QString equipmentId;
-    QString name; // maker and model; may be that of another one too
+    QString name; // manufacturer and model; not unique
     bool isInUse = false;
 
     bool operator==(const Modem &other) const;
 };
 
-/// Asks the device SDK, the one that has been there longest first; returns at once. Any thread.
+/// Returns the modems known to the device SDK, the one present longest first. Does not wait. May be
+/// called on any thread.
 QList<Modem> readModems();
 
-/// How a modem is called among the others: by its name, with the last digits of its identifier when
-/// another one has the same.
+/// Returns the modem's name, followed by the last digits of its identifier when another modem in
+/// `all` has the same name.
 QString modemTitle(const Modem &modem, const QList<Modem> &all);
 
 #endif

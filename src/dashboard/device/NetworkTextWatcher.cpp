@@ -11,7 +11,7 @@ QDateTime localTime(qlonglong secondsSince1970)
     return start.addSecs(secondsSince1970).toLocalTime();
 }
 
-/// On a thread of the SDK; the record lives only during the call.
+/// Runs on a thread of the SDK. The record is valid during the call only.
 void onText(void *watcher, const TKSV_NetworkText *text)
 {
     QMetaObject::invokeMethod(static_cast<NetworkTextWatcher *>(watcher), "tell",
@@ -26,7 +26,7 @@ NetworkTextWatcher::NetworkTextWatcher(QObject *parent) : QObject(parent) {}
 
 NetworkTextWatcher::~NetworkTextWatcher()
 {
-    TKSV_Device_SetTextCallback(nullptr, nullptr); // waits for a call-back that runs
+    TKSV_Device_SetTextCallback(nullptr, nullptr); // waits until a running call-back has returned
 }
 
 void NetworkTextWatcher::start()

@@ -4,8 +4,10 @@
 #include <QDateTime>
 #include <QObject>
 
-/** Tells what the network says of its own accord. GUI thread; one at a time, as the SDK has one
- * call-back. */
+/**
+ * Emits a signal for each message that the network sends on its own initiative. GUI thread. Only
+ * one watcher may exist at a time, because the SDK has one call-back.
+ */
 class NetworkTextWatcher : public QObject
 {
     Q_OBJECT
@@ -14,11 +16,11 @@ public:
     ~NetworkTextWatcher() override;
 
 public slots:
-    /// Begins to listen; what came before is told too.
+    /// Starts to listen. Messages that arrived earlier are reported too.
     void start();
 
 signals:
-    /// `receivedAt` is in local time. An empty text is one that is not known any more.
+    /// `receivedAt` is in local time. An empty text means that the text is no longer available.
     void textReceived(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private slots:

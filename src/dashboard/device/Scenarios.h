@@ -8,13 +8,14 @@
 namespace Scenarios
 {
 
-/// The files that come with the program, by name.
+/// Returns the installed scenario files, sorted by name.
 QStringList shipped();
-/// How a scenario file is called in a menu.
+/// Returns the name of a scenario file for menus.
 QString displayName(const QString &file);
 
-/// Makes the network of the file the device; an empty name stands for the default. Returns what is
-/// wrong with the file and where, and then nothing has changed; empty when it is in use.
+/// Selects the simulated network of the file as the device; an empty name selects the default.
+/// Returns an empty text on success. Otherwise changes nothing and returns the error in the file
+/// with its line.
 QString use(const QString &file);
 
 } // namespace Scenarios

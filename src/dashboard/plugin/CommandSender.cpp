@@ -9,9 +9,9 @@
 namespace
 {
 
-// The plug-in ends every wait itself; this much later something is wrong with the plug-in.
+// The plug-in ends every wait itself. If a wait is longer by this time, the plug-in is broken.
 const int PLUGIN_GRACE = 5000; // ms
-// How long the device may take to tell this program what it has told the plug-in.
+// The time by which the tap may receive a reply later than the plug-in.
 const int TAP_GRACE = 1000; // ms
 
 QString pluginText(const char *key)
@@ -70,7 +70,7 @@ bool CommandSender::isFailureText(const QString &text)
            text == pluginText("USSD_CODE_TIME_OUT").trimmed();
 }
 
-/// A device that cannot be used is the likelier reason, so it is told as well.
+/// Prints the device's problem as well, because it is the most likely reason of a failure.
 bool CommandSender::fail(const QString &text)
 {
     HostCore::printErrorLine(text);

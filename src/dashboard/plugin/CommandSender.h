@@ -15,11 +15,12 @@ struct DeviceStatus;
 class CommandSender
 {
 public:
-    /// `replyLimit`: the plug-in's own time-out in milliseconds. Everything outlives the object.
+    /// `replyLimit` is the plug-in's time-out in milliseconds. The window and the tap must outlive
+    /// this object.
     CommandSender(const GeneralWindow &window, ReplyTap &tap, int replyLimit);
 
-    /// Stops at the first failure, whose text goes to standard error. Returns whether all went
-    /// well.
+    /// Sends the commands one after another. Stops at the first failure and prints it to standard
+    /// error. Returns whether all commands were answered.
     bool send(const QStringList &commands);
 
 private:
@@ -34,7 +35,8 @@ private:
     const int m_replyLimit;
 };
 
-/// Says on standard error why the device cannot be used, and what to do; nothing when it can.
+/// Prints to standard error why the device cannot be used and what to do about it. Prints nothing
+/// when the device can be used.
 void sayWhyNotReady(const DeviceStatus &device);
 
 #endif

@@ -23,8 +23,8 @@ QString receivedCaption()
 
 } // namespace
 
-// Text that is set by a program does not count as edited, so it goes the way that an input method
-// takes; that way a whole text arrives as one edit.
+// setText() does not emit textEdited(), so the text is delivered as an input method would deliver
+// it: as one edit.
 void typeInto(QLineEdit *edit, const QString &text)
 {
     edit->selectAll();
@@ -95,6 +95,6 @@ QString GeneralWindow::lastReceived() const
         block = block.previous();
     QString text = block.text().mid(caption.size());
     text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
-    text.remove(QChar(0x200e)); // the mark that keeps a code readable behind the caption
+    text.remove(QChar(0x200e)); // the left-to-right mark after the caption
     return text.trimmed();
 }

@@ -7,12 +7,12 @@
 #include <QString>
 #include <QTextEdit>
 
-/// Puts the text into the entry field as a user's typing would, in place of what is there.
+/// Replaces the text of the entry field as if the user had typed it.
 void typeInto(QLineEdit *edit, const QString &text);
 
 /**
- * The plug-in's general window as a host can reach it: by the object names of its widgets. The
- * widgets are the plug-in's and may go at any time. GUI thread.
+ * Access to the plug-in's general window by the object names of its widgets. The plug-in owns the
+ * widgets and may delete them at any time. GUI thread.
  */
 class GeneralWindow
 {
@@ -21,27 +21,28 @@ public:
     static const char *const SEND_BUTTON;
 
     GeneralWindow() = default;
-    /// Looks below `root`, which may be null.
+    /// Searches the descendants of `root`, which may be null.
     explicit GeneralWindow(const QWidget *root);
-    /// The one that the plug-in shows in a frame of its own; incomplete when none is shown.
+    /// Returns the general window that the plug-in shows in a frame of its own. The result is
+    /// incomplete when none is shown.
     static GeneralWindow framed();
 
     bool isComplete() const;
     QLineEdit *commandEdit() const { return m_commandEdit; }
     QPushButton *sendButton() const { return m_sendButton; }
-    /// These two may be null: whether there is one is for the plug-in's configuration to say.
+    /// The following two buttons are null when the plug-in's configuration leaves them out.
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
-    /// Whether an answer is awaited.
+    /// Returns whether the window waits for an answer.
     bool isWaiting() const;
-    /// Types the text and presses Send. False when the window does not take it.
+    /// Types the text and presses Send. Returns false when the window does not accept the text.
     bool send(const QString &text) const;
 
-    /// The transcript as plain text.
+    /// Returns the transcript as plain text.
     QString transcript() const;
-    /// The newest reply in the transcript, without its caption; the transcript's markup may have
-    /// changed its blanks. Empty when there is none.
+    /// Returns the newest reply in the transcript without its caption; empty when there is none.
+    /// The markup of the transcript may have changed the reply's white space.
     QString lastReceived() const;
 
 private:

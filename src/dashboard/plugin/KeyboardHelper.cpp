@@ -23,7 +23,7 @@ bool isReturn(const QKeyEvent *event)
            !event->isAutoRepeat();
 }
 
-// Later, since the plug-in gives the focus to a hidden combo box while it shows the window.
+// The focus is set later because the plug-in focuses a hidden combo box while it shows the window.
 void focusSoon(QLineEdit *edit)
 {
     QMetaObject::invokeMethod(edit, "setFocus", Qt::QueuedConnection);
@@ -51,7 +51,7 @@ bool KeyboardHelper::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// Whether there was a button to press; it may be disabled, and then nothing happens.
+/// Clicks the Send button, which does nothing when it is disabled. Returns whether there is one.
 bool KeyboardHelper::pressSend(const QLineEdit *edit)
 {
     const QString name = QLatin1String(GeneralWindow::SEND_BUTTON);

@@ -6,10 +6,10 @@
 class QLineEdit;
 
 /**
- * Makes the keyboard enough for the plug-in's general window, embedded or framed: Return in the
- * command edit presses Send, and the edit gets the focus when the window appears and whenever it
- * is enabled again after an answer. Watches the whole application, as the plug-in makes its windows
- * when it likes. GUI thread.
+ * Makes the plug-in's general window usable by keyboard alone, embedded or in a frame. Return in
+ * the command edit presses Send. The command edit gets the focus when the window appears and when
+ * an answer enables the edit again. The event filter covers the whole application because the
+ * plug-in creates its windows at any time. GUI thread.
  */
 class KeyboardHelper : public QObject
 {

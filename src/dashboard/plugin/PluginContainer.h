@@ -7,8 +7,9 @@
 #include "IPluginContainer.h"
 
 /**
- * The objects that the dashboard offers to its plug-ins, by their identifiers. The core library
- * hands it out while it exists; one at a time. GUI thread.
+ * The objects that the dashboard offers to its plug-ins, by their identifiers. The container
+ * registers itself with the core library while it exists; only one may exist at a time. GUI
+ * thread.
  */
 class PluginContainer : public IPluginContainer
 {
@@ -18,7 +19,7 @@ public:
     PluginContainer(const PluginContainer &) = delete;
     PluginContainer &operator=(const PluginContainer &) = delete;
 
-    /// `plugin` stays its owner's and is forgotten when it dies.
+    /// Adds an object without taking ownership. A deleted object is removed automatically.
     void add(const QString &clsid, QObject *plugin);
     QObject *GetPlugin(const QString &clsid) override;
 

@@ -3,13 +3,13 @@
 
 #include <QString>
 
-/** Why a plug-in could not be used: the step that failed, and what is known about it. */
+/** The reason why a plug-in could not be used: the step that failed, and details about it. */
 struct PluginFailure {
     enum Step {
         None,
         FileMissing,
-        NotALibrary, // or one that lacks something it needs
-        WrongBuild,  // a library, but no plug-in, or one for another Qt
+        NotALibrary, // or a library with an unmet dependency
+        WrongBuild,  // a library that is no plug-in, or a plug-in for another Qt
         NoInstance,
         NoInterface,
         InitFailed,
@@ -18,9 +18,9 @@ struct PluginFailure {
 
     Step step = None;
     QString file;
-    QString detail; // the loader's own words, or the identifier that is missing
+    QString detail; // the loader's error message, or the identifier that is missing
 
-    /// In the user's language; empty for None.
+    /// Returns the error message in the user's language; empty for None.
     QString text() const;
 };
 

@@ -16,7 +16,7 @@ namespace
 {
 
 const char FILE_NAME[] = "ussdprofile.xml";
-const qint64 LARGEST = 4 << 20; // bytes; what is larger is not what the plug-in has written
+const qint64 LARGEST = 4 << 20; // bytes; the plug-in never writes a larger file
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
@@ -28,7 +28,7 @@ bool isWholeXml(const QByteArray &text)
     return !reader.hasError();
 }
 
-/// Empty when the file cannot be read, or is not good.
+/// Returns the content of the file; empty when it cannot be read or is not well-formed XML.
 QByteArray goodContent(const QString &path)
 {
     QByteArray text;
@@ -46,7 +46,7 @@ bool writeWhole(const QString &path, const QByteArray &text)
     return file.write(text) == text.size() && file.flush() && fsync(file.handle()) == 0;
 }
 
-// QFile::rename() does not replace a file that is there.
+// std::rename() is used because QFile::rename() does not replace an existing file.
 bool moveFile(const QString &from, const QString &to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
@@ -61,7 +61,7 @@ bool replaceFile(const QString &path, const QByteArray &text)
     return false;
 }
 
-/// Ends in "/"; empty when there is none.
+/// Returns the folder of the user's codes, ending in "/"; empty when there is none.
 QString userDataFolder()
 {
     unsigned short *units = nullptr;
@@ -70,7 +70,7 @@ QString userDataFolder()
     return result == 0 && units ? QString::fromUtf16(units) : QString();
 }
 
-/// The dashboard's own, where the XDG base directories have it.
+/// Returns the dashboard's data folder as the XDG base directory specification defines it.
 QString ownFolder()
 {
     const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
@@ -127,7 +127,7 @@ bool ProfileBackup::isDamaged() const
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }
 
-// A program that ends between the two leaves no file and the copy, which is offered again.
+// If the program ends between the two steps, the file is missing and the copy is offered again.
 bool ProfileBackup::restore() const
 {
     const QByteArray text = goodContent(m_copy);

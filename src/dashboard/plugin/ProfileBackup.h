@@ -5,32 +5,31 @@
 #include <QString>
 
 /**
- * The copy of the user's own codes. The plug-in deletes their file before it saves them anew, so a
- * full disk, or the end of the program at that moment, costs the user all of them or leaves half a
- * file.
+ * The backup copy of the user's own codes. The plug-in deletes the file of codes before it writes
+ * it again, so a full disk or a crash at that moment loses all codes or leaves half a file.
  *
- * Only a file that is whole XML is copied or restored. Both are written beside their place first
- * and put there by a rename, and only their user can read them.
+ * Only a file that is well-formed XML is copied or restored. Files are replaced atomically, by a
+ * rename, and only their owner can read them.
  */
 class ProfileBackup
 {
 public:
-    /// An empty `userFile` says that there is no folder for it: then nothing is ever done.
-    /// `legacyFile` is where the plug-in still finds a file of old, and takes it from.
+    /// An empty `userFile` means that the user has no folder for it; every function then does
+    /// nothing. `legacyFile` is the file of earlier versions, which the plug-in still reads.
     ProfileBackup(const QString &userFile, const QString &legacyFile, const QString &copy);
-    /// With the folders of the user who runs the program.
+    /// Returns a backup with the paths of the user who runs the program.
     static ProfileBackup ofUser();
 
-    /// Makes the copy that of the file as it is now, if that is good. Whether it is so.
+    /// Copies the user's file if it is well-formed. Returns whether the copy is up to date.
     bool refresh() const;
-    /// Whether there is something that refresh() has to copy.
+    /// Returns whether refresh() has something to copy.
     bool isOutdated() const;
-    /// Whether the user's file has gone while there is a good copy.
+    /// Returns whether the user's file is missing while there is a usable copy.
     bool isLost() const;
-    /// Whether the user's file is there but is not whole XML, while there is a good copy.
+    /// Returns whether the user's file exists but is not well-formed, while there is a usable copy.
     bool isDamaged() const;
-    /// Puts the copy in the file's place; a damaged file stays beside it as damagedFile(). False
-    /// when it cannot be written, or is not good.
+    /// Replaces the user's file by the copy; a damaged file is kept as damagedFile(). Returns false
+    /// when the file cannot be written or the copy is not usable.
     bool restore() const;
     /// Deletes the copy.
     bool forget() const;
@@ -38,7 +37,7 @@ public:
     QString userFile() const { return m_userFile; }
     QString damagedFile() const { return m_userFile + QLatin1String(".damaged"); }
     QString copy() const { return m_copy; }
-    /// When the copy was made.
+    /// Returns the time at which the copy was made.
     QDateTime time() const;
 
 private:

@@ -25,7 +25,7 @@ ReplyTap::ReplyTap()
 
 ReplyTap::~ReplyTap()
 {
-    TKSV_USSDSrv_UnRegisterUSSDCallback(onResponse); // waits for a call-back that runs
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onResponse); // waits until a running call-back has returned
     listening = nullptr;
 }
 
@@ -60,7 +60,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     tap->keep(reply);
-    return 0; // whether anybody takes the reply is for the plug-in to say
+    return 0; // the plug-in, not the tap, reports whether the reply was handled
 }
 
 void ReplyTap::keep(const Reply &reply)
@@ -69,6 +69,6 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
     }
-    // Whoever waits for the reply looks again after each event.
+    // waitUntil() checks its condition after each event, so an event wakes the waiting code.
     QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
 }

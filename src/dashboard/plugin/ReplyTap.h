@@ -4,17 +4,17 @@
 #include <QMutex>
 #include <QString>
 
-/** What the network said, unit by unit as the device handed it over. */
+/** A reply of the network, exactly as the device delivered it. */
 struct Reply {
-    QString text;               // empty when the network refused or the device failed
-    bool isReceived = false;    // false: nothing came
-    bool asksForAnswer = false; // a menu is open
+    QString text;               // empty when the network rejected the code or the device failed
+    bool isReceived = false;    // false when no reply has arrived
+    bool asksForAnswer = false; // a menu of the network is open
 };
 
 /**
- * Listens beside the plug-in to what the device receives, because the plug-in's transcript is
- * markup and keeps neither blanks nor brackets. One at a time; made before the plug-in is loaded,
- * so that it hears each reply first.
+ * Receives the device's replies in parallel with the plug-in, because the plug-in's transcript is
+ * markup and preserves neither white space nor brackets. Only one tap may exist at a time. It must
+ * be constructed before the plug-in is loaded, so that it receives each reply first.
  */
 class ReplyTap
 {
@@ -24,15 +24,16 @@ public:
     ReplyTap(const ReplyTap &) = delete;
     ReplyTap &operator=(const ReplyTap &) = delete;
 
-    /// Forgets what was heard. Any thread.
+    /// Discards the newest reply. May be called on any thread.
     void clear();
-    /// The network waits for an answer, to a text that was heard elsewhere. Any thread.
+    /// Records that the network waits for an answer to a text that arrived by another way. May be
+    /// called on any thread.
     void expectAnswer();
-    /// The newest reply. Any thread.
+    /// Returns the newest reply. May be called on any thread.
     Reply reply() const;
 
 private:
-    static unsigned char onResponse(int event, void *data); // on a thread of the SDK
+    static unsigned char onResponse(int event, void *data); // runs on a thread of the SDK
     void keep(const Reply &reply);
 
     mutable QMutex m_mutex; // guards the reply

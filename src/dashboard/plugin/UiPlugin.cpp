@@ -14,7 +14,7 @@
 namespace
 {
 
-/// Whether the file is a library at all, whatever is in it. Loads it for a moment.
+/// Returns whether the dynamic loader can load the file, by loading and unloading it.
 bool isLoadableLibrary(const QString &file)
 {
     QLibrary library(file);
@@ -52,7 +52,7 @@ PluginFailure UiPlugin::openLibrary(const QString &file)
     m_loader.setFileName(file);
     if (!QFileInfo(file).isFile()) {
         PluginFailure missing = failure(PluginFailure::FileMissing);
-        missing.file = file; // the loader forgets a name that leads nowhere
+        missing.file = file; // QPluginLoader clears the name of a file that does not exist
         return missing;
     }
     if (!m_loader.load()) {

@@ -13,7 +13,7 @@ class IUSSD;
 class QWidget;
 
 /**
- * A loaded USSD plug-in and the host's duties towards it. GUI thread.
+ * Loads a USSD plug-in and makes the calls that a plug-in expects of its host. GUI thread.
  *
  * The library is never unloaded: the plug-in does not allow it while the program runs.
  */
@@ -23,32 +23,33 @@ public:
     UiPlugin() = default;
     UiPlugin(const UiPlugin &) = delete;
     UiPlugin &operator=(const UiPlugin &) = delete;
-    /// Shuts the plug-in down unless that was done.
+    /// Calls shutDown().
     ~UiPlugin();
 
-    /// Where the plug-in is installed.
+    /// Returns the path of the installed plug-in.
     static QString installedFile();
 
-    /// Loads the plug-in, initialises it and asks it for its USSD service. Once for each object.
+    /// Loads and initialises the plug-in and requests its USSD service. Must be called only once
+    /// for each object.
     PluginFailure load(const QString &file);
     bool isUsable() const { return m_plugin && m_ussd; }
 
-    /// Null unless isUsable(). The plug-in's.
+    /// Returns the plug-in, or null before load() and after shutDown(). This object owns it.
     IUIPlugin *plugin() const { return m_plugin; }
     IUSSD *ussd() const { return m_ussd; }
 
-    /// Tells the plug-in that the language has changed. Harmless when none is loaded.
+    /// Notifies the plug-in that the language has changed. Does nothing when no plug-in is loaded.
     void notifyLanguageChange();
-    /// Tells the plug-in to look at the SIM again. Harmless when none is loaded.
+    /// Notifies the plug-in that the SIM may have changed. Does nothing when no plug-in is loaded.
     void notifySimChange();
 
-    /// Has the plug-in delete its windows and services, and asks it for its USSD service anew, so
-    /// that it reads its configuration again. The frames and pages it had are gone.
+    /// Makes the plug-in delete its windows and services and requests its USSD service again, so
+    /// that the plug-in reloads its configuration. All frames and pages of the plug-in are deleted.
     PluginFailure restart();
 
-    /// Tells the plug-in that the program ends, takes its call-backs off the device, has its
-    /// windows deleted and deletes the plug-in object. Must come before the windows that host the
-    /// plug-in's go. Harmless when repeated.
+    /// Makes the plug-in unregister its call-backs and delete its windows, and deletes the plug-in
+    /// object. Must be called before the windows that contain the plug-in's windows are deleted. A
+    /// second call does nothing.
     void shutDown();
 
 private:

@@ -37,7 +37,7 @@ bool UserActivity::isBusy()
     return false;
 }
 
-// Told later: the plug-in still works on what the event is about.
+// The signals are emitted later because the plug-in has not handled the event yet.
 bool UserActivity::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Hide && qobject_cast<ExtendDialog *>(watched))

@@ -4,8 +4,8 @@
 #include <QObject>
 
 /**
- * Tells what the user does with the plug-in's windows. Watches the whole application, as the
- * plug-in makes its windows when it likes. GUI thread.
+ * Reports what the user does with the plug-in's windows. The event filter covers the whole
+ * application because the plug-in creates its windows at any time. GUI thread.
  */
 class UserActivity : public QObject
 {
@@ -13,14 +13,14 @@ class UserActivity : public QObject
 public:
     explicit UserActivity(QObject *parent = nullptr);
 
-    /// Whether a frame of the plug-in is open, or a command typed by the user is underway.
+    /// Returns whether a frame of the plug-in is open or a command typed by the user is pending.
     static bool isBusy();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// A frame was closed, or the command edit takes input again. Comes after the event that it
-    /// tells of was handled; nothing else need have changed.
+    /// Emitted when a frame was closed or the command edit accepts input again, after the event
+    /// that caused the change was handled. It may also be emitted when nothing has changed.
     void frameClosed();
     void commandEnded();
 };

@@ -32,7 +32,7 @@ const char *const NotificationService::ADDRESSEES[2] = {"8E4C1F07-3B6A-4d29-A5C1
 
 NotificationService::NotificationService(QObject *parent) : QObject(parent) {}
 
-// The record is the plug-in's and good during the call only, so nothing of it is kept.
+// The plug-in owns the record, which is valid during the call only.
 int NotificationService::Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                                 NotifyParam)
 {

@@ -6,7 +6,7 @@
 #include "INotifyService.h"
 #include "PaidType.h"
 
-/** What plug-ins tell the dashboard. GUI thread. */
+/** Receives the messages that plug-ins send to the dashboard. GUI thread. */
 class NotificationService : public QObject, public INotifyService
 {
     Q_OBJECT
@@ -14,8 +14,8 @@ class NotificationService : public QObject, public INotifyService
 public:
     /// The identifier under which plug-ins look for the service.
     static const char *const CLSID;
-    /// Whom they address: the two parts of a host that want to know what SIM there is. Here one
-    /// window is both, so what it is told twice it takes once.
+    /// The addressees: two parts of a host that need to know the kind of the SIM. In the dashboard
+    /// one window is both of them, so it receives each message twice.
     static const char *const ADDRESSEES[2];
 
     explicit NotificationService(QObject *parent = nullptr);
@@ -24,7 +24,8 @@ public:
                NotifyParam lParam) override;
 
 signals:
-    /// The network has said which kind the SIM is, or did not answer; comes for each addressee.
+    /// Emitted when the network has reported the kind of the SIM or did not answer in time, once
+    /// for each addressee.
     void paidTypeTold(PaidType type);
 };
 

@@ -29,7 +29,7 @@ bool isOfCountry(const Provider &provider, const QString &countryCode)
     return false;
 }
 
-/// An operator without any code that the plug-in can use is nothing to offer.
+/// Returns whether the operator has a code that the plug-in can use.
 bool isUseful(const Provider &provider, const QString &network)
 {
     return !provisionPlan(provider, network).isEmpty();
@@ -72,7 +72,7 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    return status.imsi.isEmpty() ? m_network : QString(); // the SIM may only not be readable yet
+    return status.imsi.isEmpty() ? m_network : QString(); // no IMSI: the SIM may become readable
 }
 
 void OperatorCodes::look()
@@ -156,7 +156,7 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // What is left of several is no more certain for the others having no codes.
+    // The choice stays uncertain even if only one of several operators has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
 }
@@ -189,7 +189,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
         setDeclined(false);
-        m_folderInUse.clear(); // the files in it may be others
+        m_folderInUse.clear(); // makes use() emit folderChanged(): the files may have changed
         use(order.folder);
     }
     return outcome;

@@ -10,26 +10,27 @@
 class DashboardSettings;
 class DeviceWatcher;
 
-/** Where operators and their codes lie. */
+/** The paths of the operator database and of the folders with operators' codes. */
 struct OperatorPlaces {
-    QString database; // of operators; empty: the installed one
-    QString folders;  // the user's, one for each network code; empty: the usual place
-    /// False: somebody has chosen the plug-in's folder, and it stays.
+    QString database; // empty for the installed one
+    QString folders;  // contains one folder for each network code; empty for the user's own place
+    /// False when the plug-in's folder was set from outside and must not be replaced.
     bool isFree = true;
 
-    /// The usual ones; not free when $USSD_PLUGIN_LIBRARY_PATH names a folder.
+    /// Returns the paths for the user who runs the program; isFree is false when
+    /// $USSD_PLUGIN_LIBRARY_PATH is set.
     static OperatorPlaces ofUser();
 };
 
 /**
- * Whose codes the plug-in uses, for each home network of a SIM: an operator's, once they were taken
- * from the database of operators, or those that come with the program. GUI thread.
+ * Selects the codes that the plug-in uses, for each home network of a SIM: those of an operator,
+ * taken from the operator database, or those that come with the program. GUI thread.
  */
 class OperatorCodes : public QObject
 {
     Q_OBJECT
 public:
-    /// Both outlive the object; `settings` may be null: then what was declined is not remembered.
+    /// Both arguments must outlive this object. When `settings` is null, decisions are not stored.
     OperatorCodes(const DeviceWatcher *device, DashboardSettings *settings,
                   QObject *parent = nullptr);
     ~OperatorCodes() override;
@@ -37,33 +38,38 @@ public:
     void setPlaces(const OperatorPlaces &places);
     bool isFree() const { return m_places.isFree; }
 
-    /// MCC and MNC of the SIM in use, or of the one before while nothing is known of the SIM.
+    /// Returns the MCC and MNC of the SIM in use, or of the previous SIM while the new one is
+    /// unknown.
     QString network() const { return m_network; }
-    /// The operator whose codes are in use; empty for those that come with the program.
+    /// Returns the operator whose codes are in use; empty for the codes that come with the program.
     QString operatorInUse() const;
-    /// Whether the user has been asked about this SIM's network, and has decided.
+    /// Returns whether the user has decided about the codes for this SIM's network.
     bool isDecided() const;
 
-    /// The operators with codes that this SIM may be of.
+    /// Returns the operators that may have issued this SIM and have codes.
     ProviderChoice choice() const;
-    /// All with codes in the SIM's country when none of them is known to be its own.
+    /// Returns the operators of choice(), or all operators with codes in the SIM's country when
+    /// choice() has none.
     QList<Provider> candidates() const;
-    /// Whether there is a database that can be read.
+    /// Returns whether the operator database can be read.
     bool hasDatabase() const;
 
-    /// Takes the operator's codes. With `setAside`, files that somebody has changed go out of use.
+    /// Writes the operator's codes to the folder of the SIM's network and selects it. Files that
+    /// were edited by hand are renamed when `setAside` is true; otherwise nothing is written.
     ProvisionOutcome take(const Provider &provider, bool setAside);
-    /// Uses the codes that come with the program with this SIM's network.
+    /// Selects the codes that come with the program for this SIM's network.
     void decline();
 
 public slots:
-    /// Looks at the SIM, and has the plug-in's folder be that of its operator.
+    /// Reads the SIM's network and selects the plug-in's folder for it.
     void look();
 
 signals:
-    /// Another SIM's network is there; what was told of the one before holds no more.
+    /// Emitted when the SIM's network has changed, so that texts about the previous one are
+    /// outdated.
     void networkChanged();
-    /// CommonUtils::GetPluginLibraryPath() names another folder, or its files are others.
+    /// Emitted when CommonUtils::GetPluginLibraryPath() returns another folder, or the files in the
+    /// folder have changed.
     void folderChanged();
 
 private:
@@ -78,8 +84,8 @@ private:
     DashboardSettings *const m_settings;
     OperatorPlaces m_places;
     QString m_network;
-    QString m_folderInUse;              // empty: the installed one
-    QMap<QString, QString> m_decisions; // network to what was decided, also without settings
+    QString m_folderInUse;              // empty for the installed one
+    QMap<QString, QString> m_decisions; // by network; kept here for use without settings
     mutable ProviderDatabase m_database;
     mutable bool m_isRead = false;
 };

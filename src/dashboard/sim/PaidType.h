@@ -6,7 +6,7 @@
 /** The kind of contract that a SIM belongs to. */
 enum class PaidType { Unknown, Prepaid, Postpaid };
 
-/// "Prepaid" or "Postpaid" in the user's language; empty when unknown.
+/// Returns "Prepaid" or "Postpaid" in the user's language; empty when unknown.
 QString paidTypeText(PaidType type);
 
 #endif

@@ -7,11 +7,11 @@
 namespace
 {
 
-// With a device that went away the plug-in drops its commands, on a thread of the device's, and
-// tells that they failed. A question asked before that would be taken for answered.
+// When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports
+// their failure. A question asked earlier than this would receive that report as its answer.
 const int SETTLING_TIME = 200; // ms
 
-// The plug-in tells of a time-out itself, unless the window that asked was deleted meanwhile.
+// The plug-in reports a time-out itself, unless the window that asked was deleted meanwhile.
 const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
@@ -46,7 +46,7 @@ void PaidTypeFinder::tryToAsk()
     setState(PaidType::Unknown, inUse && wasSent);
 }
 
-// An answer that comes when none is awaited is that to a SIM that is there no more.
+// An unexpected answer belongs to a SIM that was removed, and is ignored.
 void PaidTypeFinder::takeAnswer(PaidType type)
 {
     if (isAsking())

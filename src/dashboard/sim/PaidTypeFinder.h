@@ -11,31 +11,31 @@
 class UiPlugin;
 
 /**
- * Has the plug-in ask the network, once for each SIM, whether it is prepaid or postpaid. The
- * plug-in ends what is open on the device before it asks, so the question waits until the user
- * needs nothing of it. GUI thread; nothing here waits.
+ * Makes the plug-in ask the network, once for each SIM, whether the SIM is prepaid or postpaid. The
+ * plug-in ends an open session on the device before it asks, so the question is delayed while the
+ * user needs the device. GUI thread; no function blocks.
  */
 class PaidTypeFinder : public QObject
 {
     Q_OBJECT
 public:
-    /// `plugin` outlives the finder.
+    /// `plugin` must outlive the finder.
     explicit PaidTypeFinder(UiPlugin *plugin, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
-    /// Whether the question is on its way.
+    /// Returns whether the question was sent and its answer is pending.
     bool isAsking() const { return m_timeLimit.isActive(); }
 
-    /// There is a SIM, perhaps another one: forgets what was found, and wants the question asked.
+    /// Discards the result, so that the question is asked for the SIM that is present now.
     void restart();
-    /// Asks, unless that was done or is too early. To be called while the device can be used and
-    /// nobody else uses it.
+    /// Asks the question, unless it was asked already or the settling time has not passed. Must be
+    /// called only while the device is ready and nobody else uses it.
     void tryToAsk();
 
 signals:
-    /// It is no longer too early to ask.
+    /// Emitted when the settling time has passed, so that the question may be asked.
     void settled();
-    /// What paidType() or isAsking() says is something else now.
+    /// Emitted when the result of paidType() or isAsking() has changed.
     void changed();
 
 private slots:
@@ -48,8 +48,8 @@ private:
     UiPlugin *const m_plugin;
     NotificationService m_notifications;
     PluginContainer m_container;
-    QTimer m_settling;  // runs while it is too early
-    QTimer m_timeLimit; // runs while the question is on its way
+    QTimer m_settling;  // runs while it is too early to ask
+    QTimer m_timeLimit; // runs while the answer is pending
     PaidType m_type = PaidType::Unknown;
     bool m_isWanted = false;
 };

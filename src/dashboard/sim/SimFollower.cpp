@@ -30,7 +30,7 @@ void SimFollower::start()
     offer();
 }
 
-/// A device that is away does not say that its SIM is another one.
+/// Returns the previous IMSI while the device is away, because its SIM may be the same afterwards.
 QString SimFollower::currentImsi() const
 {
     const DeviceStatus &status = m_device->status();
@@ -43,7 +43,7 @@ void SimFollower::look()
         return;
     const QString imsi = currentImsi();
     if (imsi == m_imsi)
-        return ask(); // it may be registered only now
+        return ask(); // the device may have registered only now
     if (!m_imsi.isEmpty())
         m_replies.clear();
     m_imsi = imsi;
@@ -57,21 +57,21 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// Told here as well, since the text may have come before anybody listened to the replies.
+// The tap is informed too because the text may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();
 }
 
-/// Menus end with the device.
+/// A removed device has no open menu.
 void SimFollower::onDeviceLost()
 {
     m_replies.clear();
     m_finder.restart();
 }
 
-/// Neither while the user needs the device nor while a menu waits for his answer: asking would end
-/// both.
+/// Asks neither while the user needs the device nor while a menu waits for an answer, because the
+/// question would end either session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

@@ -11,34 +11,36 @@ class DeviceWatcher;
 class UiPlugin;
 
 /**
- * Keeps plug-in and dashboard up to date with the SIM: tells the plug-in when it is another one,
- * which windows go with it, and whether it is prepaid or postpaid. GUI thread; one at a time; made
- * before the plug-in is loaded.
+ * Keeps the plug-in and the dashboard up to date with the SIM. Notifies the plug-in of another SIM,
+ * and reports which windows to offer for the SIM and whether it is prepaid or postpaid. GUI thread.
+ * Only one follower may exist at a time, constructed before the plug-in is loaded.
  */
 class SimFollower : public QObject
 {
     Q_OBJECT
 public:
-    /// Both outlive the follower.
+    /// The plug-in and the device must outlive the follower.
     SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
-    /// "Prepaid", "Postpaid", or that it is being asked; empty when it is not known.
+    /// Returns "Prepaid", "Postpaid" or that the network is being asked, in the user's language;
+    /// empty when the kind is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
 
 public slots:
-    /// The plug-in is there now, perhaps anew.
+    /// Starts to follow the SIM. To be called whenever the plug-in was loaded or restarted.
     void start();
-    /// The network waits for an answer to a text of its own: nothing is asked until it has ended.
+    /// To be called when the network waits for an answer to a message of its own. The finder asks
+    /// nothing until that session has ended.
     void questionCame();
 
 signals:
-    /// These windows go with the SIM, a set of SimWindow.
+    /// Emitted with the windows to offer for the SIM, a set of SimWindow.
     void windowsOffered(int windows);
-    /// What paidTypeText() or isAsking() says is something else now.
+    /// Emitted when the result of paidTypeText() or isAsking() has changed.
     void paidTypeChanged();
     void frameClosed();
-    /// A command that the user typed has ended.
+    /// Emitted when a command typed by the user has ended.
     void commandEnded();
 
 private slots:
@@ -55,7 +57,7 @@ private:
     ReplyTap m_replies;
     UserActivity m_activity;
     PaidTypeFinder m_finder;
-    QString m_imsi; // of the SIM that was offered for
+    QString m_imsi; // of the SIM that the offered windows belong to
 };
 
 #endif

@@ -5,7 +5,7 @@
 
 class IUSSD;
 
-/** Windows that go with a SIM; the values of the first four are those of IUSSD's question. */
+/** The windows to offer for a SIM. The first four have the values that IUSSD uses. */
 enum SimWindow {
     SIM_WINDOW_PREPAID = 1,
     SIM_WINDOW_POSTPAID = 2,
@@ -14,12 +14,13 @@ enum SimWindow {
     SIM_WINDOWS_ALL = 15
 };
 
-/// The set of windows to offer for the SIM with this IMSI, which is empty when there is none:
+/// Returns the set of windows to offer for the SIM with this IMSI; an empty IMSI means that there
+/// is no SIM. The set contains
 ///
-/// - those that the plug-in's configuration names for it;
-/// - for a SIM that it does not know, and without one, those that serve any subscriber: general
-///   window and services. An account window would send the codes of another contract;
-/// - all of them when the configuration leaves the choice to the user.
+/// - all windows, when the plug-in's configuration leaves the choice to the user;
+/// - the windows that the configuration lists for the IMSI;
+/// - the general window and the services, when the IMSI is not listed or empty. These serve any
+///   subscriber, whereas an account window would send codes of another contract.
 int windowsForSim(IUSSD *ussd, const QString &imsi);
 
 #endif

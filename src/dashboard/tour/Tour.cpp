@@ -13,7 +13,7 @@ const QSize WINDOW_SIZE(900, 700); // pixels
 
 typedef bool (*Part)(TourGuide &guide);
 
-/** In which languages a part is walked. */
+/** A part of the tour and the languages in which it is walked. */
 struct Leg {
     const char *language;
     Part part;

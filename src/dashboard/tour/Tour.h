@@ -8,14 +8,14 @@ class PrivateLibrary;
 
 /**
  * Walks through the windows as a user would, in several languages, takes a picture at each stop and
- * writes down what the windows said. GUI thread; handles events meanwhile.
+ * writes a transcript of the texts shown. GUI thread; handles events meanwhile.
  */
 namespace Tour
 {
 
-/// `window` is shown and has its plug-in, which uses `library`. `folder` is made when needed.
-/// Prints each step. Returns whether every stop was reached and every file written; what went wrong
-/// goes to standard error.
+/// Takes the whole tour and writes its files to `folder`, which is created when needed. `window`
+/// must be visible, with its plug-in loaded from `library`. Prints each step, and errors to
+/// standard error. Returns whether every stop was reached and every file was written.
 bool take(MainWindow *window, PrivateLibrary *library, const QString &folder);
 
 } // namespace Tour

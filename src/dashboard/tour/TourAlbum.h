@@ -7,20 +7,20 @@
 
 class QWidget;
 
-/** A stop of the tour: the end of its picture's name, and what is to be seen there. */
+/** A stop of the tour: the suffix of its picture's name, and what the picture shows. */
 struct TourStop {
     const char *name;
     const char *caption;
 };
 
-/** The tour's pictures and its transcript. What cannot be written goes to standard error. */
+/** Writes the tour's pictures and its transcript. Prints write errors to standard error. */
 class TourAlbum
 {
 public:
     explicit TourAlbum(const QString &folder);
 
     bool makeFolder();
-    /// For the pictures that follow.
+    /// Sets the language code for the names of the following pictures.
     void setLanguage(const QString &code) { m_language = code; }
 
     /// Adds a picture of `place`, with what can be read in it. False when it cannot be written.
@@ -28,7 +28,7 @@ public:
     bool writeTranscript();
     int pictures() const { return m_pictures; }
 
-    /// Says on standard error what went wrong, and returns false. `subject` stands for %1.
+    /// Prints the error message to standard error and returns false. `subject` replaces %1 in it.
     static bool fail(const char *key, const QString &subject);
 
 private:
@@ -38,7 +38,7 @@ private:
     QStringList m_transcript; // lines
 };
 
-/// What can be read in the widget and those in it, from top to bottom, one line for each.
+/// Returns the texts visible in the widget and its descendants, from top to bottom, one line each.
 QString shownText(const QWidget *widget);
 
 #endif

@@ -45,7 +45,7 @@ const TourChange SPEAKING[] = {{"# ---- services", "\n",
 const TourChange KNOWN_HOME[] = {{"[Network]", "State=registered", "HomeNetwork=00101"},
                                  {"[Network]", "Operator=Meridian Mobile", "Operator=Roamtel"}};
 
-/** Has the dashboard show devices that this machine does not have. */
+/** Makes the dashboard show devices that this machine does not have. */
 class Show
 {
 public:
@@ -157,7 +157,7 @@ bool walkPin(TourGuide &guide)
            guide.waitFor([&guide] { return !isShown(part<QWidget>(guide, PIN_DIALOG)); });
 }
 
-// ---- what the network says of its own accord
+// ---- messages on the network's initiative
 
 bool walkTexts(TourGuide &guide)
 {

@@ -82,7 +82,7 @@ int firstFreeRow(const QTableWidget *table)
     return row;
 }
 
-/// As the user does it: opens the cell, types, and presses Return.
+/// Enters the text as a user does: opens the cell, types, and presses Return.
 bool enter(QTableWidget *table, int row, int column, const QString &text)
 {
     QTableWidgetItem *item = itemAt(table, row, column);
@@ -135,7 +135,7 @@ bool renameAndSave(TourGuide &guide, QTableWidget *table, const TourStop &stop)
 
 TourEditor::TourEditor(TourGuide *guide) : m_guide(guide) {}
 
-// The editor has an event loop of its own, so the walk through it begins before it is there.
+// The editor blocks in its own event loop, so the walk is scheduled before the editor is opened.
 bool TourEditor::visit(Walk walk, const TourStop &stop)
 {
     m_walk = walk;

@@ -8,18 +8,17 @@
 class QTableWidget;
 class TourGuide;
 
-/** Opens the editor of the user's own codes from the page, and walks through it while it is open.
- */
+/** Opens the editor of the user's own codes from the page and performs a walk while it is open. */
 class TourEditor : public QObject
 {
     Q_OBJECT
 public:
     typedef bool (*Walk)(TourGuide &guide, QTableWidget *table, const TourStop &stop);
 
-    /// `guide` outlives the object.
+    /// `guide` must outlive this object.
     explicit TourEditor(TourGuide *guide);
 
-    /// Returns when the editor is closed; whether the walk went well.
+    /// Opens the editor and returns when it is closed. Returns whether the walk succeeded.
     bool visit(Walk walk, const TourStop &stop);
 
 private slots:

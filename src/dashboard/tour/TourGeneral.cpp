@@ -11,7 +11,7 @@ namespace
 
 struct Question {
     const char *command;
-    TourStop stop; // with the reply
+    TourStop stop; // the picture with the reply
 };
 
 const TourStop IDLE = {"idle", "nothing was sent yet"};
@@ -20,7 +20,7 @@ const TourStop CONFIRM = {"confirm", "whether the history is to be cleared"};
 const TourStop CLEARED = {"cleared", "the history is empty again"};
 const TourStop OTHER_SIM = {"other-sim", "another SIM, with the windows that go with it"};
 
-// The first is also photographed while it is waited for.
+// A picture is also taken while the first question waits for its answer.
 const Question QUESTIONS[] = {
     {"*100#", {"answered", "the network's reply"}},
     {"*123#", {"menu", "the network's menu, to be answered"}},
@@ -51,7 +51,7 @@ bool ask(TourGuide &guide, const GeneralWindow &general, const Question &questio
     return waitForAnswer(guide, general) && guide.take(question.stop);
 }
 
-// The click returns when the question was answered.
+// The click returns when the confirmation box has been answered.
 bool clearTranscript(TourGuide &guide, const GeneralWindow &general)
 {
     if (!general.clearButton())

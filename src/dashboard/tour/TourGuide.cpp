@@ -19,7 +19,7 @@ const int LIMIT = 10 * TourGuide::REPLY_LIMIT; // ms
 const char CONFIGURATION[] = "USSDPluginConfig.xml";
 const char NETWORK[] = "tour.scenario";
 
-/// The box in the middle of what it was opened over, with a line around it.
+/// Draws the box, with a line around it, in the middle of the picture.
 QPixmap laidOver(QPixmap below, const QPixmap &box)
 {
     QRect place(QPoint(), box.size());
@@ -30,7 +30,7 @@ QPixmap laidOver(QPixmap below, const QPixmap &box)
     return below;
 }
 
-/// The widget where it stands over the window, or as near as the window's picture reaches.
+/// Draws the widget at its position over the window, or at the nearest one inside the picture.
 QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
 {
     QPoint place = over->mapToGlobal(QPoint()) - window->mapToGlobal(QPoint());
@@ -78,7 +78,7 @@ bool TourGuide::useNetwork(const TourChange *changes, int count)
     m_deviceLost = false;
     if (!m_window->useScenario(m_library->fileName(name)))
         return TourAlbum::fail("SCENARIO_UNUSABLE", name);
-    // With the network before, commands sent until then would end.
+    // The change of the network ends commands that are sent before the device is lost.
     return waitFor([this] { return m_deviceLost; });
 }
 
@@ -96,7 +96,7 @@ bool TourGuide::usePlugin(const TourChange *changes, int count)
                     m_library->change(name, changes[i].anchor, changes[i].before, changes[i].after);
     if (!isWritten)
         return TourAlbum::fail("TOUR_NOT_WRITTEN", name);
-    settle(); // frames that were closed are deleted by themselves
+    settle(); // lets deleteLater() delete the frames that were closed
     return m_window->restartPlugin().step == PluginFailure::None || failHere();
 }
 
@@ -112,7 +112,7 @@ QWidget *TourGuide::open(int paidType, const char *widgetName, const char *place
     m_window->openFrame(paidType);
     QWidget *widget = nullptr;
     const auto isOpen = [&widget, widgetName] { return (widget = frameWith(widgetName)); };
-    if (!waitUntil(isOpen, LIMIT)) { // the question whether the SIM is prepaid may come first
+    if (!waitUntil(isOpen, LIMIT)) { // the question whether the SIM is prepaid may delay the window
         failHere();
         return nullptr;
     }
@@ -175,7 +175,7 @@ bool TourGuide::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// Also a box that nobody expected is answered, since the tour would never end.
+// An unexpected box is closed as well; otherwise the tour would never end.
 void TourGuide::onBox()
 {
     if (!m_box || !m_box->isVisible())

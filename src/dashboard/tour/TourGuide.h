@@ -12,7 +12,7 @@
 class MainWindow;
 class PrivateLibrary;
 
-/** A text of a file that is to be another one: the first `before` behind the first `anchor`. */
+/** A change of a file: the first `before` that follows the first `anchor` is replaced. */
 struct TourChange {
     const char *anchor;
     const char *before;
@@ -20,56 +20,59 @@ struct TourChange {
 };
 
 /**
- * What the parts of the tour have in common: the dashboard, the plug-in and the network to walk
- * through, and the album to put the pictures into. GUI thread; handles events while it waits.
+ * Operations shared by the parts of the tour: they set up the dashboard, the plug-in and the
+ * network, and add pictures to the album. GUI thread; handles events while it waits.
  */
 class TourGuide : public QObject
 {
     Q_OBJECT
 public:
-    /// How long the plug-in is to wait for a reply during a tour, in milliseconds.
+    /// The time limit for a reply during the tour, in milliseconds.
     static const int REPLY_LIMIT = 500;
 
-    /// The window is shown and has its plug-in, which uses the library; all outlive the guide.
+    /// `window` must be visible, with its plug-in loaded from `library`. All arguments must outlive
+    /// the guide.
     TourGuide(MainWindow *window, PrivateLibrary *library, TourAlbum *album);
 
     MainWindow *window() const { return m_window; }
     PrivateLibrary *library() const { return m_library; }
 
-    /// The tour's network as it comes, apart from these changes.
+    /// Selects the tour's simulated network with these changes.
     bool useNetwork(const TourChange *changes, int count);
     bool useNetwork() { return useNetwork(nullptr, 0); }
-    /// Has the plug-in begin anew with its configuration as it comes, apart from these changes.
+    /// Restarts the plug-in with the installed configuration and these changes.
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 
-    /// What the pictures that follow show, and how the place is called in their names.
+    /// Sets the widget that the following pictures show, and the name of the place for their names.
     void visit(QWidget *shown, const char *place);
     QWidget *shown() const { return m_shown; }
-    /// Opens a window of the plug-in, a PAID_TYPE, and visits the frame that holds a widget of this
-    /// name. The widget; null, with a word on standard error, when there is none.
+    /// Opens a window of the plug-in, a PAID_TYPE, and visits the frame that contains a widget of
+    /// this name. Returns the widget. Prints an error and returns null when there is no such
+    /// widget.
     QWidget *open(int paidType, const char *widgetName, const char *place);
-    /// Closes what is visited.
+    /// Closes the visited widget.
     void close();
 
     bool take(const TourStop &stop);
-    /// The same with a menu or a dialog that is open over what is visited.
+    /// Takes a picture with a menu or dialog that is open over the visited widget.
     bool takeWith(QWidget *over, const TourStop &stop);
-    /// The next message box is photographed over what is visited, and its first button is pressed.
+    /// Takes a picture of the next message box over the visited widget and presses its first
+    /// button.
     void expectBox(const TourStop &stop);
-    /// Whether that has happened.
+    /// Returns whether the expected message box was shown and its picture was taken.
     bool sawBox() const { return m_boxStop.name && m_boxTaken; }
 
-    /// False, with a word on standard error, when the condition does not come true in time.
+    /// Waits for the condition. Prints an error and returns false when it does not hold in time.
     bool waitFor(const std::function<bool()> &condition);
-    /// Whether the dashboard shows what kind the SIM is; until then it may use the network.
+    /// Returns whether the dashboard shows the kind of the SIM. Until then it may use the network.
     bool isPaidTypeShown() const;
-    /// Says that the plug-in does not show what it should, and returns false.
+    /// Prints that the plug-in does not show what the tour expects, and returns false.
     bool failHere() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Handles all that was asked for, so that it is laid out and painted.
+    /// Handles all pending events, so that widgets are laid out and painted.
     static void settle();
 
 private slots:

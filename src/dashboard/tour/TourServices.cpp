@@ -16,10 +16,10 @@ const char DIALOG[] = "USSDUIPlugin_SMSDialog";
 const TourChange NOT_READY[] = {{"[Network]", "SMS=ready", "SMS=not-ready"}};
 const TourStop NOT_READY_STOP = {"sms-not-ready", "no short message can be sent at the moment"};
 
-/** A service, by its place in the tree, and what is done with it. */
+/** A service, given by its position in the tree, and what the tour does with it. */
 struct Service {
     int row;
-    const char *input; // null when there is no field, or nothing is sent
+    const char *input; // null when the service has no field or is not sent
     bool isSent;
     TourStop idle;
     TourStop waiting;
@@ -44,7 +44,7 @@ const Service SERVICES[] = {
     {3,
      nullptr,
      true,
-     NONE, // looks as the refusal does
+     NONE, // no picture: it would look the same as the outcome
      NONE,
      {"code-refused", "the network refuses it, so the result stays empty"}},
     {5, nullptr, true, NONE, NONE, {"code-timed-out", "the network is silent"}},
@@ -93,7 +93,8 @@ bool send(TourGuide &guide, const QWidget *dialog, const Service &service)
         return guide.failHere();
     if (service.input)
         typeInto(input, QLatin1String(service.input));
-    if (!guide.waitFor([button] { return button->isEnabled(); })) // short messages are ready soon
+    // The SDK reports short messages as ready only after a while.
+    if (!guide.waitFor([button] { return button->isEnabled(); }))
         return false;
     button->click();
     return takeIfWanted(guide, service.waiting) &&

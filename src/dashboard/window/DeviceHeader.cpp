@@ -30,7 +30,8 @@ void emphasise(QLabel *label)
     label->setFont(font);
 }
 
-/// The name comes from the network, so it decides neither the width nor the tool tip's format.
+/// The name comes from the network, so it must affect neither the width of the header nor the
+/// format of the tool tip.
 void setElided(QLabel *label, const QString &text)
 {
     const QFontMetrics metrics(label->font());

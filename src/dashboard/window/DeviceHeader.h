@@ -8,16 +8,16 @@
 class QLabel;
 class SignalBars;
 
-/** Operator, signal and SIM in one line. */
+/** Shows the operator, the signal strength and the SIM in one line. */
 class DeviceHeader : public QFrame
 {
     Q_OBJECT
 public:
     explicit DeviceHeader(QWidget *parent = nullptr);
 
-    /// Also after a change of the language.
+    /// Shows the status; to be called after a language change too.
     void showStatus(const DeviceStatus &status);
-    /// What kind of SIM it is, next to the operator; empty shows nothing.
+    /// Shows the kind of the SIM next to the operator; an empty text hides it.
     void showPaidType(const QString &text);
 
 private:

@@ -10,7 +10,7 @@ namespace
 
 const char DEFAULT_NAME[] = "default";
 
-/// A name means itself, not a mnemonic.
+/// Escapes "&", which would otherwise mark a mnemonic.
 QString asMenuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));

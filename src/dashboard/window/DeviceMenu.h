@@ -8,28 +8,28 @@
 
 class QActionGroup;
 
-/** The devices to choose from: automatic, the modems, the simulated networks. */
+/** A menu of the devices: the automatic choice, the modems and the simulated networks. */
 class DeviceMenu : public QMenu
 {
     Q_OBJECT
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// What is chosen and which modems there are. A menu that is open stays as it is until it is
-    /// opened again, so that nothing moves under the pointer.
+    /// Sets the checked choice and the modems to list. An open menu is not changed until it is
+    /// opened again, so that no entry moves under the pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
 
 public slots:
-    /// Reads the texts again.
+    /// Updates the texts after a language change.
     void retranslate();
 
 signals:
-    /// The word of a DeviceChoice.
+    /// Emitted when the user chooses a device. `word` is that of the DeviceChoice.
     void chosen(const QString &word);
-    /// The user wants to pick a file.
+    /// Emitted when the user wants to open a scenario file.
     void openRequested();
-    /// The user wants to choose whose codes are used.
+    /// Emitted when the user wants to choose an operator's codes.
     void operatorRequested();
 
 private slots:

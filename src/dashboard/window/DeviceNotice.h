@@ -8,17 +8,19 @@
 class DeviceWatcher;
 class PinDialog;
 
-/** Says what is wrong with the device and what to do about it, and takes the PIN of a locked SIM.
+/**
+ * Shows what is wrong with the device and what the user can do about it. Opens the PIN dialog for a
+ * locked SIM.
  */
 class DeviceNotice : public NoticeBar
 {
     Q_OBJECT
 public:
-    /// The watcher outlives the notice.
+    /// The watcher must outlive the notice.
     explicit DeviceNotice(const DeviceWatcher *device, QWidget *parent = nullptr);
 
 public slots:
-    /// Reads device and texts again.
+    /// Updates the notice from the device's status and the current language.
     void update();
     void askForPin();
 

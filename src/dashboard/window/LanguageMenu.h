@@ -5,14 +5,14 @@
 
 class QActionGroup;
 
-/** The languages, each in its own name. */
+/** A menu of the languages, each by its native name. */
 class LanguageMenu : public QMenu
 {
     Q_OBJECT
 public:
     explicit LanguageMenu(QWidget *parent = nullptr);
 
-    /// Reads the title and the choice again.
+    /// Updates the title and the checked language.
     void retranslate();
 
 signals:

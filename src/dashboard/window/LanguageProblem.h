@@ -3,8 +3,8 @@
 
 class QString;
 
-/// The key of the text that says why the language cannot be used: its file, the text's "%1", is
-/// missing or damaged.
+/// Returns the key of the error message for a language whose file is missing or damaged. %1 in the
+/// message is the path of the file.
 const char *languageProblem(const QString &code);
 
 #endif

@@ -40,7 +40,7 @@ namespace
 const QSize FIRST_SIZE(900, 700); // pixels
 const int LONGEST_DELAY = 5000;   // ms that the user may wait for a frame
 
-/// Such a window ends what is open on the device when it appears.
+/// Returns whether a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)
 {
     return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
@@ -104,17 +104,17 @@ void MainWindow::followOperator()
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
 }
 
-/// Later, since the plug-in may be at work on what brought this about.
+/// The restart is queued because the plug-in may still handle the event that led to it.
 void MainWindow::beginAnew()
 {
-    m_isBeginningDue = true;
+    m_isRestartDue = true;
     QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
 }
 
-/// What the user has open or waits for would go with the windows.
+/// Does not restart while the user is busy, because the restart deletes the plug-in's windows.
 void MainWindow::beginAnewIfDue()
 {
-    if (m_isBeginningDue && m_plugin->isUsable() && !UserActivity::isBusy())
+    if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
         restartPlugin();
 }
 
@@ -142,7 +142,7 @@ void MainWindow::makeCentre()
     column->addWidget(m_textPanel);
     column->addWidget(m_page, 1);
     setCentralWidget(centre);
-    m_buttons->setEnabled(false); // until there is a plug-in
+    m_buttons->setEnabled(false); // until the plug-in is loaded
     connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
     connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
 }
@@ -163,14 +163,14 @@ QWidget *MainWindow::page() const
 PluginFailure MainWindow::loadPlugin()
 {
     m_operatorCodes.look();
-    m_isBeginningDue = false;
+    m_isRestartDue = false;
     return startWith(m_plugin->load(UiPlugin::installedFile()));
 }
 
 PluginFailure MainWindow::restartPlugin()
 {
-    m_isBeginningDue = false;
-    m_windows = 0; // its page went with it
+    m_isRestartDue = false;
+    m_windows = 0; // the restart has deleted the page
     return startWith(m_plugin->restart());
 }
 
@@ -233,8 +233,8 @@ void MainWindow::openAwaitedFrame()
         openFrameNow(paidType);
 }
 
-/// The general window's entry field takes the answer. To show the window ends nothing on the
-/// device, and one that is shown already is left alone, with what is being typed there.
+/// Shows the general window, whose entry field accepts the answer. Showing it does not end the
+/// session. A visible window is left unchanged, so that the user's typing is kept.
 void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
                                  bool waitsForAnswer)
 {
@@ -259,7 +259,7 @@ void MainWindow::setLanguage(const QString &code)
 {
     if (!HostCore::Languages::setCurrent(code)) {
         showProblem(dashboardText(languageProblem(code)).arg(HostCore::Languages::file(code)));
-        m_languageMenu->retranslate(); // the mark back to the language that is left
+        m_languageMenu->retranslate(); // resets the check mark to the current language
         return;
     }
     if (m_settings)

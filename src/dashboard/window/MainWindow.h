@@ -27,24 +27,24 @@ class WindowButtons;
 struct DeviceChoice;
 
 /**
- * The dashboard's window: the device on top, a button for each window of the plug-in, the page that
- * the general window is embedded in, and below it what source is used.
+ * The main window of the dashboard. It shows the device's status, a button for each window of the
+ * plug-in, the page with the embedded general window, and the name of the device in the status bar.
  */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// `settings` may be null: then nothing is remembered. Both outlive the window, and the plug-in
-    /// is shut down before the window goes.
+    /// Both arguments must outlive the window. The plug-in must be shut down before the window is
+    /// deleted. When `settings` is null, nothing is stored.
     MainWindow(UiPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
-    /// Makes the scenario file the device's network; empty is the default. When it cannot be used,
-    /// the user is told and the one before stays. Returns whether it is in use.
+    /// Selects the simulated network of the scenario file; an empty name selects the default. On
+    /// failure shows an error, keeps the previous device and returns false.
     bool useScenario(const QString &file);
-    /// Says that this choice is in use.
+    /// Shows the choice, which is already in use.
     void setDevice(const DeviceChoice &choice);
-    /// Tells the user why a scenario file cannot be used, in a message box.
+    /// Shows a message box that tells why a scenario file cannot be used.
     void showScenarioError(const QString &error);
     QWidget *page() const;
     DeviceWatcher &device() { return m_device; }
@@ -53,21 +53,22 @@ public:
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
-    /// Says in the window and on standard error what cannot be kept, or what the computer lacks.
+    /// Shows a problem, such as settings that cannot be written, in the window and on standard
+    /// error.
     void showProblem(const QString &text);
-    /// Loads the installed plug-in and shows its general window in the page; a failure is shown
-    /// there in words, and returned.
+    /// Loads the installed plug-in and shows its general window in the page. A failure is returned
+    /// and shown in the page.
     PluginFailure loadPlugin();
-    /// Has the plug-in begin anew, with its configuration as it is now.
+    /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
-    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own; soon, when that would
-    /// break off the question whether the SIM is prepaid.
+    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own. Waits a short time when
+    /// opening it would cancel the question whether the SIM is prepaid.
     void openFrame(int paidType);
 
 signals:
-    /// A frame of the plug-in was closed; in it, the user may have saved codes.
+    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in it.
     void frameClosed();
 
 protected:
@@ -103,8 +104,8 @@ private:
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
-    bool m_isBeginningDue = false; // the plug-in has another folder than it has read
-    int m_windows = 0;             // offered, a set of SimWindow
+    bool m_isRestartDue = false; // the plug-in's folder has changed since it was read
+    int m_windows = 0;           // offered, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;

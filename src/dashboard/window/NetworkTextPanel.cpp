@@ -29,7 +29,7 @@ bool isCode(const QString &word)
     return word.contains(QLatin1Char('*')) || word.contains(QLatin1Char('#'));
 }
 
-/// A code reads from left to right also in a paragraph that goes the other way.
+/// Adds marks that keep codes readable from left to right in a right-to-left paragraph.
 QString withReadableCodes(const QString &text)
 {
     QString result;

@@ -10,9 +10,9 @@ class QPlainTextEdit;
 class QPushButton;
 
 /**
- * What the network has said of its own accord, in the order it came, the newest in view: plain text
- * with the time of each. It appears with the first text, takes no focus, and can be closed, which
- * forgets the texts. What a text says decides nothing about the panel's size.
+ * Shows the messages that the network sends on its own initiative, as plain text with the time of
+ * each, and scrolls to the newest. The panel appears with the first message, takes no focus, and
+ * discards its messages when it is closed. Its size does not depend on the messages.
  */
 class NetworkTextPanel : public QFrame
 {
@@ -20,13 +20,13 @@ class NetworkTextPanel : public QFrame
 public:
     explicit NetworkTextPanel(QWidget *parent = nullptr);
 
-    /// An empty text is one that is not known any more.
+    /// Adds a message. An empty text means that the text is no longer available.
     void add(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
-    /// Reads the texts around those of the network again.
+    /// Updates the panel's own texts after a language change.
     void retranslate();
 
 public slots:
-    /// Nothing waits for an answer any more.
+    /// Removes the hint that the network waits for an answer.
     void endQuestion();
     void forget();
 
@@ -40,7 +40,7 @@ private:
     void showEntries();
     static QString linesOf(const Entry &entry);
 
-    QList<Entry> m_entries; // the oldest first
+    QList<Entry> m_entries; // sorted by time of arrival
     QLabel *m_title;
     QPlainTextEdit *m_view;
     QLabel *m_question;

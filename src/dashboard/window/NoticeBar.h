@@ -8,20 +8,23 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
-/** A line in the main window that tells something, with buttons to do something about it. It is
- * there only while it has a text, and takes no focus. */
+/**
+ * A line in the main window with a notice and buttons to act on it. It is visible only while it has
+ * a text, and takes no focus.
+ */
 class NoticeBar : public QFrame
 {
     Q_OBJECT
 public:
     explicit NoticeBar(const char *objectName, QWidget *parent = nullptr);
 
-    /// Plain text; an empty one hides the line.
+    /// Shows the plain text; an empty text hides the line.
     void setText(const QString &text);
     QString text() const;
-    /// A button behind the text; the bar's. Hidden and without a text until it is given one.
+    /// Adds a button after the text. The bar owns the button, which is hidden until setButtonText()
+    /// gives it a text.
     QPushButton *addButton(const char *objectName);
-    /// A button without a text is not shown.
+    /// Sets the text and shows the button; an empty text hides the button.
     static void setButtonText(QPushButton *button, const QString &text);
 
 private:

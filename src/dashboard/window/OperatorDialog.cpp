@@ -11,7 +11,7 @@ namespace
 {
 
 const int WIDTH = 380;       // pixels
-const int LIST_HEIGHT = 180; // pixels, so that it scrolls when there are many
+const int LIST_HEIGHT = 180; // pixels; a longer list scrolls
 
 } // namespace
 
@@ -59,8 +59,8 @@ void OperatorDialog::layOut()
     m_list->setFocus();
 }
 
-/// Without one in use, nothing is chosen for the user. What counts is the selection: a list gives
-/// its first row the cursor by itself.
+/// Selects the operator in use. When there is none, clears the selection, because the list makes
+/// its first row the current one by itself.
 void OperatorDialog::select(const QString &current)
 {
     for (int i = 0; i < m_candidates.size(); ++i) {

@@ -9,23 +9,23 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
-/** Asks whose codes are to be used: one of several operators', or those that come with the program.
+/** Asks which codes to use: those of one of several operators or those that come with the program.
  */
 class OperatorDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `current` is the name of the operator whose codes are in use; empty for none.
+    /// `current` is the name of the operator whose codes are in use, or empty.
     OperatorDialog(const QString &network, const QList<Provider> &candidates,
                    const QString &current, QWidget *parent);
 
-    /// Whether an operator was chosen, and not the codes that come with the program.
+    /// Returns whether the user chose an operator and not the codes that come with the program.
     bool choosesOperator() const;
-    /// The one that was chosen.
+    /// Returns the chosen operator.
     Provider provider() const;
 
 public slots:
-    /// Reads the texts again.
+    /// Updates the texts after a language change.
     void retranslate();
 
 private slots:
@@ -35,12 +35,12 @@ private slots:
 private:
     void layOut();
     void select(const QString &current);
-    int selectedRow() const; // -1 when none is
+    int selectedRow() const; // -1 when no row is selected
 
     const QString m_network;
     const QList<Provider> m_candidates;
     QLabel *m_question;
-    QListWidget *m_list; // the candidates, and behind them the codes that come with the program
+    QListWidget *m_list; // the candidates, followed by the codes that come with the program
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

@@ -13,7 +13,7 @@ OperatorNotice::OperatorNotice(OperatorCodes *codes, QWidget *parent)
 {
     connect(m_take, SIGNAL(clicked()), this, SLOT(onTake()));
     connect(m_no, SIGNAL(clicked()), this, SLOT(onNo()));
-    // Later, since the database takes a while to read.
+    // The connection is queued because reading the database takes a while.
     connect(codes, SIGNAL(networkChanged()), this, SLOT(propose()), Qt::QueuedConnection);
 }
 
@@ -106,7 +106,7 @@ void OperatorNotice::onChosen()
     m_isOperatorChosen = m_dialog->choosesOperator();
     m_chosen = m_dialog->provider();
     QMetaObject::invokeMethod(this, "useChosen",
-                              Qt::QueuedConnection); // when the dialog has closed
+                              Qt::QueuedConnection); // runs after the dialog has closed
 }
 
 void OperatorNotice::useChosen()

@@ -9,21 +9,23 @@
 class OperatorCodes;
 class OperatorDialog;
 
-/** Proposes an operator's codes, once for each network of a SIM, and asks whose when it is
- * uncertain. What the user answers can be changed by choose(). */
+/**
+ * Proposes an operator's codes, once for each home network of a SIM, and lets the user choose when
+ * several operators are possible. The user can change the decision later by choose().
+ */
 class OperatorNotice : public NoticeBar
 {
     Q_OBJECT
 public:
-    /// The codes outlive the notice.
+    /// `codes` must outlive the notice.
     explicit OperatorNotice(OperatorCodes *codes, QWidget *parent = nullptr);
 
 public slots:
-    /// Proposes codes if that has not been done for this SIM's network.
+    /// Proposes codes unless the user has already decided for this SIM's network.
     void propose();
-    /// Asks whose codes are to be used.
+    /// Opens the dialog in which the user chooses an operator.
     void choose();
-    /// Reads the texts again.
+    /// Updates the texts after a language change.
     void retranslate();
 
 private slots:
@@ -43,14 +45,14 @@ private:
     void say(const char *key);
 
     OperatorCodes *const m_codes;
-    QPushButton *m_take; // or "Choose", when there are several
-    QPushButton *m_no;   // or "Close", when there is nothing to decide
+    QPushButton *m_take; // reads "Choose" when there are several operators
+    QPushButton *m_no;   // reads "Close" when there is nothing to decide
     QPointer<OperatorDialog> m_dialog;
     State m_state = Nothing;
-    QString m_subject; // an operator
+    QString m_subject; // the name of an operator
     QString m_problem;
     Provider m_proposed;
-    Provider m_chosen; // in the dialog
+    Provider m_chosen; // the operator chosen in the dialog
     bool m_isOperatorChosen = false;
 };
 

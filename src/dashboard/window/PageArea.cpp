@@ -58,7 +58,7 @@ bool PageArea::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// The plug-in's window, found as the child that is not ours.
+/// Returns the plug-in's window: the child of the canvas that this class did not create.
 QWidget *PageArea::page() const
 {
     for (QObject *child : m_canvas->children()) {

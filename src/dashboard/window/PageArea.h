@@ -7,21 +7,21 @@ class QLabel;
 class UiPlugin;
 
 /**
- * The place that the plug-in's general window is embedded in. The window fills it and follows its
- * size; when there is less room than the window needs, it can be scrolled.
+ * Contains the plug-in's embedded general window. The window fills the area and follows its size;
+ * the area scrolls when it is smaller than the window's minimum size.
  */
 class PageArea : public QScrollArea
 {
     Q_OBJECT
 public:
-    /// `plugin` outlives the area, and is shut down before the area goes.
+    /// `plugin` must outlive the area and must be shut down before the area is deleted.
     explicit PageArea(UiPlugin *plugin, QWidget *parent = nullptr);
 
     void showPage();
     void hidePage();
-    /// Shows a plain text in place of the page; an empty one shows nothing.
+    /// Shows a plain text in place of the page; an empty text shows nothing.
     void showText(const QString &text);
-    /// The widget that the plug-in's window is a child of.
+    /// Returns the parent of the plug-in's window.
     QWidget *canvas() const { return m_canvas; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;

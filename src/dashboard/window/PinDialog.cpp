@@ -26,7 +26,7 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
-/// No other string shares the text by now, so this is the memory that held it.
+/// Overwrites the memory of the text. No other QString may share it, or a copy is overwritten.
 void writeOver(QString *secret)
 {
     secret->fill(QLatin1Char('0'));
@@ -110,7 +110,7 @@ void PinDialog::retranslate()
     m_ok->setText(dashboardText("PIN_OK"));
     m_cancel->setText(dashboardText("PIN_CANCEL"));
     showTries();
-    say(m_saidKey);
+    say(m_messageKey);
 }
 
 void PinDialog::showTries()
@@ -119,10 +119,10 @@ void PinDialog::showTries()
     m_tries->setVisible(!m_tries->text().isEmpty());
 }
 
-/// Null: nothing. The dialog keeps its width and grows with what it says.
+/// Shows the message; null clears it. The dialog keeps its width and grows in height.
 void PinDialog::say(const char *key)
 {
-    m_saidKey = key;
+    m_messageKey = key;
     const QString text = key ? dashboardText(key) : QString();
     m_message->setText(text);
     m_message->setAccessibleName(text);
@@ -135,7 +135,7 @@ void PinDialog::onEdited()
     m_ok->setEnabled(m_edit->isEnabled() && m_edit->hasAcceptableInput());
 }
 
-/// What was in the field, which forgets it and how it was typed.
+/// Returns the PIN, clears the field and discards the field's undo history.
 QString PinDialog::takePin()
 {
     QString pin = m_edit->text();
@@ -168,7 +168,7 @@ void PinDialog::setWaiting(bool waiting)
         m_edit->setFocus(Qt::OtherFocusReason);
 }
 
-/// Without a problem, the device only begins to try the PIN.
+/// A device without a problem has only started to check the PIN.
 void PinDialog::onDeviceChanged()
 {
     const DeviceStatus &now = m_device->status();

@@ -10,23 +10,23 @@ class QLineEdit;
 class QPushButton;
 
 /**
- * Takes the PIN of a locked SIM. It stays open while the PIN is wrong, and closes by itself when
- * the SIM waits for none any more. The PIN is not kept: the field is emptied and its text written
- * over as soon as it was sent, and whenever the dialog closes. GUI thread.
+ * Asks for the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
+ * no longer waits for a PIN. The PIN is not kept: the field is cleared and the memory of its text
+ * is overwritten when the PIN has been sent and when the dialog closes. GUI thread.
  */
 class PinDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// The watcher outlives the dialog.
+    /// The watcher must outlive the dialog.
     PinDialog(const DeviceWatcher *device, QWidget *parent);
     ~PinDialog() override;
 
-    /// How long the SIM may take to say whether it was the right one, in milliseconds.
+    /// The time limit for the SIM to accept or reject the PIN, in milliseconds.
     static const int ANSWER_LIMIT = 30000;
 
 public slots:
-    /// Reads the texts again.
+    /// Updates the texts after a language change.
     void retranslate();
     void done(int result) override;
 
@@ -46,7 +46,7 @@ private:
 
     const DeviceWatcher *const m_device;
     QTimer m_answerLimit; // runs while an answer is awaited
-    const char *m_saidKey = nullptr;
+    const char *m_messageKey = nullptr;
     QLabel *m_question;
     QLabel *m_label;
     QLineEdit *m_edit;

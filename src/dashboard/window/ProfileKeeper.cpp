@@ -14,7 +14,7 @@ namespace
 
 enum Answer { NoAnswer, Yes, No };
 
-/// Escape and the window's close button are no answer, so that nothing is deleted by accident.
+/// Escape and the window's close button count as no answer, so that nothing is deleted by accident.
 Answer ask(const QString &text)
 {
     const QPointer<HostCore::MessageBox> box(

@@ -5,8 +5,9 @@
 
 #include "plugin/ProfileBackup.h"
 
-/** Keeps the copy of the user's own codes up to date, and offers it when they have gone. GUI
- * thread.
+/**
+ * Keeps the backup copy of the user's own codes up to date, and offers to restore it when the codes
+ * are missing or damaged. GUI thread.
  */
 class ProfileKeeper : public QObject
 {
@@ -15,15 +16,16 @@ public:
     explicit ProfileKeeper(const ProfileBackup &backup, QObject *parent = nullptr);
 
 public slots:
-    /// Asks the user, if it has to, and then emits ready(). To be called before the plug-in reads
-    /// the codes.
+    /// Asks the user when the codes are missing or damaged, updates the copy and emits ready().
+    /// Must be called before the plug-in reads the codes.
     void start();
-    /// The codes may have been saved.
+    /// Updates the copy; to be called when the codes may have been saved.
     void refresh();
 
 signals:
     void ready();
-    /// Something of the user's cannot be kept; `text` says what, in the current language.
+    /// Emitted when a file of the user's cannot be saved. `text` is the message in the current
+    /// language.
     void problem(QString text);
 
 private:

@@ -35,7 +35,7 @@ QSize SignalBars::sizeHint() const
     return QSize(BARS * (BAR_WIDTH + GAP) - GAP, HEIGHT);
 }
 
-// Any signal at all fills the first bar.
+// Any signal above 0 % fills the first bar.
 void SignalBars::paintEvent(QPaintEvent *)
 {
     const int filled = m_percent <= 0 ? 0 : (m_percent * BARS + FULL - 1) / FULL;

@@ -3,14 +3,14 @@
 
 #include <QWidget>
 
-/** Signal strength as five bars. */
+/** Shows the signal strength as five bars. */
 class SignalBars : public QWidget
 {
     Q_OBJECT
 public:
     explicit SignalBars(QWidget *parent = nullptr);
 
-    /// 0 to 100; anything below is unknown and shows empty bars.
+    /// Sets the signal strength, 0 to 100. A negative value means unknown and shows empty bars.
     void setPercent(int percent);
     QSize sizeHint() const override;
 

@@ -6,31 +6,31 @@
 
 class QPushButton;
 
-/** A button for each window of the plug-in. */
+/** A row with a button for each window of the plug-in. */
 class WindowButtons : public QWidget
 {
     Q_OBJECT
 public:
     explicit WindowButtons(QWidget *parent = nullptr);
 
-    /// Reads the texts again.
+    /// Updates the texts after a language change.
     void retranslate();
     /// Shows the buttons of these windows, a set of SimWindow, and hides the others.
     void offer(int windows);
-    /// Says whether the general window is in the page; emits nothing.
+    /// Sets whether the general window is shown in the page. Emits no signal.
     void setPageShown(bool shown);
 
 signals:
-    /// The user wants the general window in the page, or out of it.
+    /// Emitted when the user wants the general window to be shown in the page or hidden.
     void pageToggled(bool shown);
-    /// The user wants that window, a PAID_TYPE, in a frame of its own.
+    /// Emitted when the user wants a window, a PAID_TYPE, in a frame of its own.
     void frameRequested(int paidType);
 
 private slots:
     void onClicked();
 
 private:
-    QList<QPushButton *> m_buttons; // in the order of the table of windows
+    QList<QPushButton *> m_buttons; // in the same order as the table of windows
 };
 
 #endif
