@@ -165,8 +165,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(
-        HostCore::Languages::current()); // for the application's widgets
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // for widgets too
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);

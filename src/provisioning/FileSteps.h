@@ -5,25 +5,30 @@
 #include <QString>
 
 /*
- * Steps on files that are on the disk when they return, each undivided: a program that is killed
- * has done the whole of one or nothing. False sets `problem` to what the system says.
+ * File operations for replacing a set of files safely. On failure the functions return false and
+ * set `problem` to the system's error message.
  */
 namespace FileSteps
 {
 
-bool makeFolder(const QString &path, QString &problem); ///< with those above it
+/// Creates a folder and its missing parents.
+bool makeFolder(const QString &path, QString &problem);
+/// Writes a file. The content is on the disk when the function returns.
 bool writeNew(const QString &path, const QByteArray &content, QString &problem);
-bool link(const QString &target, const QString &path, QString &problem); ///< must not be there yet
-bool rename(const QString &from, const QString &to, QString &problem);   ///< replaces what is there
+/// Creates a symbolic link. Fails when `path` exists.
+bool link(const QString &target, const QString &path, QString &problem);
+/// Renames a file and atomically replaces an existing one.
+bool rename(const QString &from, const QString &to, QString &problem);
+/// Waits until the folder's entries are on the disk.
 bool syncFolder(const QString &path, QString &problem);
 
-/// What the link says; empty when the path is none.
+/// Returns the target of the link as written; empty when the path is no link.
 QString linkTarget(const QString &path);
-/// Whether something is there, also a link that leads nowhere.
+/// Returns whether the path exists. A dangling link counts as existing.
 bool exists(const QString &path);
 QByteArray content(const QString &path); ///< empty when it cannot be read
 
-/** Waits until no other process holds the lock, and holds it until it is deleted. */
+/** Waits until no other process holds the lock, then holds it until this object is deleted. */
 class Lock
 {
 public:

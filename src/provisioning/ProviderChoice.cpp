@@ -5,7 +5,7 @@ namespace
 
 const int LONGEST_NETWORK = 6;
 const int SHORTEST_NETWORK = 5;
-const int LONGEST_SIM_NAME = 64; // characters that are looked at
+const int LONGEST_SIM_NAME = 64; // characters; the rest of a longer name is ignored
 
 QList<Provider> withNetwork(const QList<Provider> &providers, const QString &network)
 {
@@ -46,7 +46,7 @@ QList<Provider> named(const QList<Provider> &providers, const QString &name)
     return found;
 }
 
-/// The name's letters and digits in one case, without accents.
+/// Returns the letters and digits of the name in lower case, without accents.
 QString comparable(const QString &name)
 {
     const QString parts = name.normalized(QString::NormalizationForm_KD).toCaseFolded();
@@ -67,7 +67,7 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// A person named the operator; the network, and then the SIM, only tell apart who is named alike.
+/// Narrows down the operators of the name that the user has chosen by the network.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {
@@ -78,7 +78,8 @@ ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
     return choiceOf(candidates);
 }
 
-/// "Telekom.de" begins with "Telekom", but "Telekomik" does not.
+/// Returns whether the SIM's name begins with the name as a whole word: "Telekom.de" begins with
+/// "Telekom", but "Telekomik" does not.
 bool beginsWithName(const QString &simName, const QString &name)
 {
     for (int end = 1; end <= simName.length(); ++end) {
@@ -104,8 +105,9 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
     return found;
 }
 
-/// A name that only begins alike may be that of a guest on the network, so it never decides between
-/// several; a name that none has may be that of an operator that the database does not know.
+/// Narrows down the candidates by the SIM's name. A name with the same beginning may belong to a
+/// virtual operator on the network, so it never selects one of several candidates. A name that no
+/// candidate has may belong to an operator that the database lacks.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())

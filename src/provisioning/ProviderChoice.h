@@ -4,47 +4,50 @@
 #include "ProviderDatabase.h"
 
 /*
- * Which operator a SIM card belongs to. A network code alone only proposes: several operators share
- * one. How a program uses it:
+ * Finds the operator of a SIM card. A network code alone may lead to several candidates, because
+ * operators share networks. A program uses it like this:
  *
  *   query.network = networkOfImsi(database, imsi);   // or the SIM's MCC and MNC, when known
- *   query.simName = the operator's name that the SIM or the device tells;
+ *   query.simName = the operator's name as reported by the SIM or the device;
  *   choice = chooseProvider(database, query);
- *   Chosen:    go on with provisionPlan(choice.candidates.first(), query.network);
- *   Ambiguous: ask the user once which of choice.candidates it is, "none of them" included;
+ *   Chosen:    continue with provisionPlan(choice.candidates.first(), query.network);
+ *   Ambiguous: let the user choose one of choice.candidates or "none of them", once;
  *   None:      there is nothing to offer.
  */
 
-/** What is known of the operator. Empty parts do not count. */
+/** The known properties of the operator. Empty properties are ignored. */
 struct ProviderQuery {
     QString network;  // MCC and MNC in one word, such as "26207"
-    QString simName;  // what the SIM calls its operator
+    QString simName;  // the operator's name as stored on the SIM
     QString country;  // ISO 3166-1 alpha-2
-    QString provider; // the operator's name, in any of its languages; a person chose it
+    QString provider; // the operator's name in any of its languages, chosen by the user
 };
 
 struct ProviderChoice {
     enum State {
-        None,     // no operator fits
-        Chosen,   // exactly one
-        Ambiguous // a person has to choose, also when the only one has another name than the SIM's
+        None,     // no operator matches
+        Chosen,   // exactly one operator matches
+        Ambiguous // the user has to choose, even if the only match has another name than on the SIM
     };
 
     State state = None;
-    QList<Provider> candidates; // one when chosen
+    QList<Provider> candidates; // contains one operator when the state is Chosen
 };
 
-/// The operator's name and country are conditions. The network narrows what they leave when several
-/// fit, and is a condition when no name is given. The SIM's name decides when it is that of one
-/// candidate; "Telekom.de" narrows them to those called "Telekom", but does not decide between
-/// several. When it fits none of the candidates they all stay, and nothing is chosen.
+/// Returns the operators that match the query.
+///
+/// The operator's name and the country must match. The network must match when no name is given;
+/// otherwise it only narrows down several candidates. The SIM's name selects a candidate of the
+/// same name. A SIM's name such as "Telekom.de" narrows the candidates down to those called
+/// "Telekom" but does not select one of several. When the SIM's name matches no candidate, all
+/// candidates remain and none is chosen.
 ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQuery &query);
 
-/// The first six or five digits of the IMSI (3GPP TS 23.003), whichever the database knows; six
-/// win. Empty when it knows neither.
+/// Returns the network code of an IMSI: its first six digits when the database has this code, or
+/// else its first five digits (3GPP TS 23.003). Empty when the database has neither.
 QString networkOfImsi(const ProviderDatabase &database, const QString &imsi);
 
-/// Whether two names mean the same: apart from case, accents, blanks and punctuation.
+/// Returns whether two names are equal, ignoring case, accents, blanks and punctuation.
 bool isSameProviderName(const QString &a, const QString &b);
 
 #endif

@@ -7,8 +7,8 @@
 namespace
 {
 
-const int MAX_DEPTH = 30;          // elements inside each other; the format has six
-const qint64 MAX_BYTES = 67108864; // of a file: 64 MB
+const int MAX_DEPTH = 30;          // nesting of elements; the format has six levels
+const qint64 MAX_BYTES = 67108864; // size of a file: 64 MB
 
 bool isDigits(const QString &text, int fewest, int most)
 {
@@ -21,7 +21,7 @@ bool isDigits(const QString &text, int fewest, int most)
     return true;
 }
 
-/** Reads element by element; what it does not know it passes over, with all that is in it. */
+/** Reads the database element by element, and skips unknown elements with their descendants. */
 class Reader
 {
 public:
@@ -62,13 +62,13 @@ QXmlStreamReader::TokenType Reader::next()
         --m_depth;
     else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
         m_xml.raiseError(QLatin1String("The document declares entities of its own."));
-    else if (token == QXmlStreamReader::EntityReference) // the text would lack it
+    else if (token == QXmlStreamReader::EntityReference) // the text would be incomplete
         m_xml.raiseError(
             QString::fromLatin1("Entity '%1' not declared.").arg(m_xml.name().toString()));
     return token;
 }
 
-/// Moves to the next start element inside the current one; false at its end.
+/// Moves to the next child of the current element. Returns false at the end of the element.
 bool Reader::nextChild()
 {
     while (!m_xml.atEnd()) {
@@ -86,7 +86,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// The whole text of the current element, also of elements inside it, without blanks around it.
+/// Returns the text of the current element and its descendants, without blanks at its ends.
 QString Reader::text()
 {
     QString text;

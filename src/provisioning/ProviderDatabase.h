@@ -7,70 +7,70 @@
 #include <QStringList>
 
 /*
- * The database of mobile operators in the format of mobile-broadband-provider-info (format 2.0) as
- * plain values, and the functions that read it. Any thread; nothing here has a state.
+ * Reads the database of mobile operators in the format of mobile-broadband-provider-info (format
+ * 2.0) into plain values. The functions have no state and may be called on any thread.
  */
 
-/** Something in the database that cannot be used, said so that its editor can mend it. */
+/** A part of the database that cannot be used, described for the editor of the database. */
 struct ProviderComplaint {
-    qint64 line = 0;   // from 1
-    qint64 column = 0; // from 0, as the XML reader counts: behind the element's start tag
+    qint64 line = 0;   // counts from 1
+    qint64 column = 0; // of the end of the start tag; counts from 0 as the XML reader does
     QString text;
 };
 
-/** How an operator takes a question, for example that for the balance. */
+/** A way to send a request to an operator, for example the request for the balance. */
 struct ProviderCode {
     enum Way {
-        Ussd,         // code: what is dialled
-        UssdResponse, // code: what is dialled, or the answer to the menu of an earlier code
-        Dtmf,         // code: the number to call
-        Sms           // code: the number to write to
+        Ussd,         // `code` is dialled
+        UssdResponse, // `code` is dialled, or answers the menu of an earlier code
+        Dtmf,         // `code` is the number to call
+        Sms           // `code` is the number to send `smsText` to
     };
 
     Way way = Ussd;
-    QString code;            // without blanks around it
-    bool takesInput = false; // whether there is a replacement attribute
-    QString replacement;     // the part of `code` that stands for what the user enters
-    QString smsText;         // what to write
+    QString code;            // without blanks at its ends
+    bool takesInput = false; // the element has a replacement attribute
+    QString replacement;     // the part of `code` to be replaced by the user's input
+    QString smsText;         // the text of the short message
     qint64 line = 0;
     qint64 column = 0;
 };
 
 struct ProviderName {
     QString text;
-    QString language; // xml:lang; empty for the usual one
+    QString language; // the attribute xml:lang; empty for the default language
 };
 
-/** One operator of one country. */
+/** An operator in a country. */
 struct Provider {
     QString country; // ISO 3166-1 alpha-2, in lower case
     QString countryName;
     QList<ProviderName> names; // at least one
-    QStringList networks;      // MCC and MNC in one word of 5 or 6 digits (ITU-T E.212)
+    QStringList networks;      // each is MCC and MNC, together 5 or 6 digits (ITU-T E.212)
     QList<ProviderCode> balance;
     QList<ProviderCode> topUp;
     QList<ProviderCode> ownNumber;
-    qint64 line = 0; // where its element begins
+    qint64 line = 0; // of the element's start tag
 
-    /// The name without a language, else the first one.
+    /// Returns the name without a language, or else the first name.
     QString name() const;
     bool hasCodes() const { return !balance.isEmpty() || !topUp.isEmpty() || !ownNumber.isEmpty(); }
 };
 
 struct ProviderDatabase {
-    QList<Provider> providers; // in the file's order
+    QList<Provider> providers; // in the order of the file
     QList<ProviderComplaint> complaints;
-    /// Why the file cannot be used at all; empty when it can. There are no providers then.
+    /// Why the whole file cannot be used; empty when it can. With an error, there are no providers.
     QString error;
 };
 
-/// Reads a whole document. It is refused when it is not well-formed, is of another format, declares
-/// entities, or nests deeper than any database does.
+/// Reads a document. Rejects a document that is not well-formed, has another format, declares
+/// entities or is nested too deeply.
 ProviderDatabase readProviderDatabase(const QByteArray &xml);
-/// The same from a file of at most 64 MB.
+/// Reads a file of at most 64 MB.
 ProviderDatabase readProviderDatabaseFile(const QString &path);
 
-/// Where Debian's package puts the database.
+/// Returns the path of the database in Debian's package.
 QString installedProviderDatabase();
 
 #endif

@@ -14,16 +14,16 @@
 namespace
 {
 
-// What may be entered to top up: the database does not say how long a voucher's number is.
+// The maximum length of a voucher's number. The database does not contain the real length.
 const int LONGEST_VOUCHER = 30;
 const int SHORTEST_VOUCHER = 1;
 
-// Looks of the shipped configuration, each with all that is in it.
+// Elements that are copied from the shipped configuration with their descendants.
 const char *const LOOKS[] = {XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CLEAR_HISTORY,
                              XmlName::CMD_EDIT,  XmlName::MAIN_SIZE,     XmlName::TREE_SIZE};
 const int MAX_DEPTH = 30;
 
-// The services window's controls, in pixels: explanation, button, reply.
+// Positions and sizes of the services window's controls, in pixels.
 const QRect EXPLANATION(285, 16, 340, 46);
 const QRect BUTTON(285, 72, 150, 32);
 const QRect REPLY(285, 140, 340, 210);
@@ -31,10 +31,10 @@ const int MOST_SERVICES = 25;
 
 // ---- looks of the shipped configuration ----------------------------------------------------
 
-/** One element with all that is in it, as a list of tokens. */
+/** A token of an element that is copied from the shipped configuration. */
 struct Token {
     QXmlStreamReader::TokenType type = QXmlStreamReader::NoToken;
-    QString text; // name or characters
+    QString text; // the name of an element, or characters
     QXmlStreamAttributes attributes;
 };
 
@@ -81,7 +81,8 @@ Element takeElement(QXmlStreamReader &reader)
     return element;
 }
 
-/// Sets `error` when the document cannot be used.
+/// Returns the elements to copy from the shipped configuration. Sets `error` when it cannot be
+/// used.
 Looks looksOf(const QByteArray &shipped, QString &error)
 {
     Looks looks;
@@ -116,7 +117,7 @@ QString boolText(bool value)
     return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
-/** Writes the elements in the order that the plug-in's reader wants. */
+/** Writes the elements in the order that the plug-in's forward reader needs. */
 class ConfigurationWriter
 {
 public:
@@ -197,7 +198,7 @@ QByteArray ConfigurationWriter::write()
     return m_content;
 }
 
-/// Two hyphens would end a comment.
+/// Writes the comment at the top. Hyphens are replaced because "--" is not allowed in a comment.
 void ConfigurationWriter::writeHead()
 {
     QString provider = m_plan.provider + QLatin1String(", ") + m_plan.country;
@@ -208,7 +209,7 @@ void ConfigurationWriter::writeHead()
                            .arg(provider));
 }
 
-/// The database does not tell how to ask for the kind of contract.
+/// Writes a disabled section: the database has no code that asks for the kind of contract.
 void ConfigurationWriter::writeDetection()
 {
     start(XmlName::PRE_POST_DIFFER);
@@ -284,7 +285,8 @@ void ConfigurationWriter::writeTreeItem(int entry, const QString &key, bool isRo
     end();
 }
 
-/// Explanation, caption of the entry field, entry field, button, reply: always these five.
+/// Writes a group of five controls: explanation, caption of the entry field, entry field, button
+/// and reply.
 void ConfigurationWriter::writeGroup(int entry, const PlannedMessage &message)
 {
     start(XmlName::ITEM);
@@ -322,7 +324,8 @@ void ConfigurationWriter::writeHiddenControl()
     end();
 }
 
-/// The database tells prepaid codes only. Without a prefix the windows do not depend on the SIM.
+/// Writes the SIM cards. The database contains prepaid codes only. Without an IMSI prefix, the
+/// windows do not depend on the SIM.
 void ConfigurationWriter::writeSims()
 {
     const bool account =

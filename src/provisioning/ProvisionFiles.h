@@ -3,15 +3,15 @@
 
 #include "ProvisionPlan.h"
 
-/** The plug-in's two files for one operator. */
+/** The contents of the plug-in's two files for an operator. */
 struct ProvisionFiles {
     QByteArray configuration;
-    QByteArray profiles; // byte for byte as the plug-in's editor would save them
-    QString error;       // why they could not be made; empty when they were
+    QByteArray profiles; // identical to the bytes that the plug-in's editor would save
+    QString error;       // why the files could not be generated; empty on success
 };
 
-/// `shipped` is the content of the configuration that is installed with the plug-in: colours, sizes
-/// and switches are taken from it, and nothing that is an operator's.
+/// Generates the files for a plan. `shipped` is the content of the configuration installed with the
+/// plug-in, which provides colours, sizes and switches. Codes are taken from the plan only.
 ProvisionFiles provisionFiles(const ProvisionPlan &plan, const QByteArray &shipped);
 
 #endif

@@ -6,11 +6,11 @@
 namespace
 {
 
-// Of the general window's buttons, by their place in the file of profiles.
+// The position of the first payment button among the buttons of the general window, from 0.
 const int FIRST_PAYMENT_SLOT = 9;
-const int PAYMENT_BUTTONS = 2; // the last two buttons take the number entered, whatever their code
+const int PAYMENT_BUTTONS = 2; // the last two buttons always use the entered number
 
-/** One kind of code, and the keys of what the plug-in calls it. */
+/** A kind of code, and the keys of its names in the plug-in. */
 struct Kind {
     const char *name;
     const char *textKey;
@@ -30,7 +30,7 @@ bool isMessageNumber(const QString &text)
     return text != QLatin1String("+");
 }
 
-/** Collects what the plan is made of. */
+/** Builds the plan. */
 class Planner
 {
 public:
@@ -70,8 +70,8 @@ ProvisionPlan Planner::plan()
     return m_plan;
 }
 
-/// Takes them all; returns the first for the account window, which needs one with or one without
-/// input.
+/// Adds all codes to the plan. Returns the first code for the account window, which needs a code
+/// with input or a code without input.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;
@@ -82,7 +82,7 @@ QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool w
         else if (code.way == ProviderCode::UssdResponse)
             takeResponse(code, kind);
         else if (code.way == ProviderCode::Dtmf)
-            note(code, QLatin1String("is asked for by a call to ") + code.code);
+            note(code, QLatin1String("needs a call to ") + code.code);
         else if (first.isEmpty())
             first = takeUssd(code, kind, withInput);
         else
@@ -92,7 +92,7 @@ QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool w
     return first;
 }
 
-/// Empty unless the account window can use it.
+/// Adds a code. Returns the code if the account window can use it, otherwise an empty text.
 QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withInput)
 {
     const UssdTemplate ussd = ussdTemplate(code);
@@ -104,7 +104,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// The network answers with a menu, so it is for the general window alone.
+/// Adds a code that the network answers by a menu, which only the general window can show.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
@@ -122,8 +122,8 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
                               .arg(code.smsText, code.code));
     PlannedMessage message;
     message.textKey = QLatin1String(kind.textKey);
-    message.explanation =
-        code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") + code.code; // reads on in Arabic too
+    message.explanation = code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") +
+                          code.code; // U+2192, clear in any language
     message.text = code.smsText;
     message.number = code.code;
     m_plan.messages << message;
@@ -150,7 +150,7 @@ bool Planner::hasProfile(const QString &code) const
     return false;
 }
 
-/// Several of a kind are told apart by what they send.
+/// Distinguishes several profiles of a kind by the codes that they send.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);
@@ -167,7 +167,7 @@ void Planner::nameApart(const Kind &kind)
         USSDProfile &profile = m_plan.profiles[i];
         if (profile.langID != key)
             continue;
-        if (!isFirst) { // the description stays: it says what the code is for
+        if (!isFirst) { // only the name is replaced, because the description tells the purpose
             profile.name = profile.value;
             profile.langID.clear();
         }
@@ -180,9 +180,9 @@ void Planner::note(const ProviderCode &code, const QString &what)
     m_plan.notes << QString::fromLatin1("line %1: ").arg(code.line) + what;
 }
 
-/// The general window's last two buttons send nothing until a number was entered. So a code without
-/// input gets a button only in front of two that take one; otherwise it stands in the list of
-/// codes.
+/// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
+/// until a number is entered, so a code without input gets a button only if two codes with input
+/// follow. Otherwise it is available in the list of codes only.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -196,7 +196,7 @@ void Planner::placeButtons()
         plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
     for (int i = 0; i < paying.count(); ++i)
         paying[i].showButton = i < PAYMENT_BUTTONS;
-    // Buttons beyond the eleventh place do not come, so the paying ones stand in front of the rest.
+    // There are only eleven buttons, so the codes with input precede the remaining codes.
     const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
     m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
                       paying.mid(PAYMENT_BUTTONS);

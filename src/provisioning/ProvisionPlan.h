@@ -4,33 +4,34 @@
 #include "ProviderDatabase.h"
 #include "USSDProfile.h"
 
-/** A short message that comes as a service of the services window. */
+/** A short message to be offered in the services window. */
 struct PlannedMessage {
-    QString textKey; // of the service; a text that is no key is shown as it is
+    QString textKey; // of the service's name; a text that is no key is shown unchanged
     QString explanation;
     QString text;
     QString number;
 };
 
-/** What the plug-in is told about one operator. */
+/** The codes of an operator, arranged for the plug-in's windows. */
 struct ProvisionPlan {
     QString country;
     QString provider;
-    QString network; // the SIM's that it was made for; empty when unknown
-    QString balance; // code; empty: the operator has none, also the two below
-    QString topUp;   // with "%s"
+    QString network; // MCC and MNC of the SIM; empty when unknown
+    QString balance; // code; empty when the operator has none
+    QString topUp;   // code with "%s"; empty when the operator has none
     QString ownNumber;
-    QList<USSDProfile> profiles; // in the order of the file
+    QList<USSDProfile> profiles; // in the order of the profiles file
     QList<PlannedMessage> messages;
     QStringList imsiPrefixes; // in ascending order
-    QStringList notes;        // what the database has but the plug-in cannot use, in English
+    QStringList notes;        // describe codes that the plug-in cannot use, in English
 
-    /// Whether there is anything to write.
+    /// Returns whether there is nothing to write.
     bool isEmpty() const { return profiles.isEmpty() && messages.isEmpty(); }
 };
 
-/// The first usable code of each kind goes into the account window, all of them become profiles.
-/// `network` is the SIM's; it becomes an IMSI prefix also when the database does not know it.
+/// Arranges the operator's codes. The account window gets the first usable code of each kind; every
+/// code becomes a profile. `network` is the MCC and MNC of the SIM. It becomes an IMSI prefix even
+/// if the database does not list it for the operator.
 ProvisionPlan provisionPlan(const Provider &provider, const QString &network = QString());
 
 #endif

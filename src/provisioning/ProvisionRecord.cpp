@@ -21,7 +21,7 @@ bool isChecksum(const QByteArray &text)
     return text.size() == CHECKSUM_DIGITS && QByteArray::fromHex(text).toHex() == text;
 }
 
-/// False when the line is not one of a record.
+/// Parses a line of a record. Returns false when the line is damaged.
 bool takeLine(const QByteArray &line, ProvisionRecord &record)
 {
     const QList<QByteArray> words = line.split(' ');

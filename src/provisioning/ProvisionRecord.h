@@ -7,25 +7,25 @@
 #include <QStringList>
 
 /**
- * What was written into a folder, and for whom: kept beside the files, so that it is known later
- * whether a person has changed them.
+ * The record of the files written into a folder and of the operator they belong to. It is stored
+ * beside the files, so that later changes by hand can be detected.
  */
 struct ProvisionRecord {
     QString country;
     QString provider;
-    QString network;                 // empty when it was not known
-    QMap<QString, QByteArray> files; // name to checksum, SHA-1 in hexadecimal digits
+    QString network;                 // MCC and MNC; empty when unknown
+    QMap<QString, QByteArray> files; // checksums (SHA-1 in hexadecimal digits) by file name
 
     bool isValid() const { return !files.isEmpty(); }
 };
 
 QByteArray provisionRecordText(const ProvisionRecord &record);
-/// Invalid when the text is no record, or a damaged one.
+/// Parses a record. Returns an invalid record when the text is damaged.
 ProvisionRecord provisionRecordFrom(const QByteArray &text);
 
 QByteArray provisionChecksum(const QByteArray &content);
 
-/// The name of the record's file.
+/// Returns the name of the record's file.
 QString provisionRecordName();
 
 #endif

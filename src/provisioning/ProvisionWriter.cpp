@@ -10,15 +10,15 @@ namespace
 {
 
 const QLatin1String PLUGINS("/plugins");
-const QLatin1String IN_USE = PluginFiles::FOLDER; // a link to the set of files in use
+const QLatin1String IN_USE = PluginFiles::FOLDER; // the link to the set of files in use
 const QLatin1String SETS("/provisioned");
-const QLatin1String LINKED_SETS("../provisioned/"); // as seen from the link
+const QLatin1String LINKED_SETS("../provisioned/"); // relative to the link
 const QLatin1String LOCK("/provisioned/.lock");
 const QLatin1String UNFINISHED(".new");
 
 const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/// The number of a set of files from its folder's name; 0 when it is none.
+/// Returns the number of a set of files from the name of its folder, or 0 for any other name.
 int setNumber(const QString &name)
 {
     bool ok = false;
@@ -44,7 +44,8 @@ bool isOurs(const QString &filesFolder, const QString &name, const ProvisionReco
            provisionChecksum(FileSteps::content(path)) == record.files.value(name);
 }
 
-/// What somebody has changed or added; all of it when the record is damaged.
+/// Returns the names of files that were changed or added by hand; all names when the record is
+/// damaged.
 QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
 {
     QStringList changed;
@@ -66,12 +67,12 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes what is as it was written, and the folder when nothing else is in it.
+/// Removes the unchanged files, and the folder when no other file is left in it.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
     if (!changedIn(filesFolder, record).isEmpty())
-        return; // a person's file keeps the record that tells which one it is
+        return; // the record is kept to identify the changed files
     const QStringList names = QDir(filesFolder).entryList(ALL);
     for (int i = 0; i < names.count(); ++i) {
         if (names.at(i) != provisionRecordName() && isOurs(filesFolder, names.at(i), record))
@@ -81,7 +82,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// What a killed process left unfinished was never in use, and its name says whose it is.
+/// Removes files that a killed process has left incomplete. They have names of their own and were
+/// never in use.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);
@@ -90,7 +92,7 @@ void removeUnfinished(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/** Writes one set of files; holds the lock while it lives. */
+/** Writes a set of files, and holds the lock during its lifetime. */
 class Writer
 {
 public:
@@ -150,7 +152,7 @@ ProvisionOutcome Writer::write()
     if (m_old.isForeign)
         return ended(ProvisionOutcome::Refused,
                      m_order.folder + IN_USE +
-                         QLatin1String(" was not provisioned; it is left as it is"));
+                         QLatin1String(" was not provisioned and is left unchanged"));
     if (isSame() && hasAll(m_old.filesFolder, m_old.record)) {
         relink();
         return m_outcome;
@@ -182,7 +184,7 @@ bool Writer::mayReplace()
     return m_old.changedFiles.isEmpty() || m_order.setChangedAside;
 }
 
-/// The files stay; the plug-in may have moved since.
+/// Keeps the files and updates the link to the plug-in, which may have moved.
 void Writer::relink()
 {
     ended(ProvisionOutcome::Current);
@@ -247,7 +249,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// From here on, and not before, the plug-in finds the new files.
+/// Activates the new files: from this call on, the plug-in finds them.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;
@@ -258,7 +260,7 @@ bool Writer::putInUse(int number)
            FileSteps::syncFolder(m_order.folder + PLUGINS, m_outcome.problem);
 }
 
-/// Also what killed processes have left.
+/// Removes old sets of files, including those left by killed processes.
 void Writer::tidyUp(int inUse)
 {
     const QString sets = m_order.folder + SETS + QLatin1Char('/');

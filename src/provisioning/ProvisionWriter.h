@@ -8,69 +8,70 @@
 #include "ProvisionRecord.h"
 
 /*
- * An operator's folder: what GetPluginLibraryPath() is to give for that operator's SIM card.
+ * Writes the folder of an operator, which GetPluginLibraryPath() has to return for the operator's
+ * SIM cards.
  *
- *   FOLDER/plugins/USSDUIPlugin     a link to the folder in use; replaced in one step
+ *   FOLDER/plugins/USSDUIPlugin     a link to the set of files in use; replaced atomically
  *   FOLDER/provisioned/1            the two files, a link to the plug-in, the record
  *
- * A new set of files is made in a folder of its own and comes into use by replacing the link. So
- * the plug-in finds the old set or the new one, whenever the program is killed, and no file is ever
- * written over. The folder that was in use is removed when nobody has changed anything in it.
+ * A new set of files is written to a new folder and activated by replacing the link. The plug-in
+ * therefore finds either the old set or the new one even if the program is killed, and no file is
+ * ever overwritten. The old set is removed unless somebody has changed it.
  *
- * How a dashboard uses it, before the plug-in is loaded (it reads its configuration once):
+ * A program uses it like this, before it loads the plug-in, which reads its configuration once:
  *
  *   folder = operatorFolder(operatorsFolder(), network);
  *   provision = readProvision(folder);
- *   provision.isUsable(): qputenv("USSD_PLUGIN_LIBRARY_PATH", QFile::encodeName(folder)), and done:
- *       the choice was remembered. provision.record says what it was, for a menu to change it.
- *   otherwise: choose as in ProviderChoice.h, then writeProvision(), then as above.
+ *   if provision.isUsable(): qputenv("USSD_PLUGIN_LIBRARY_PATH", QFile::encodeName(folder));
+ *       provision.record describes the operator chosen earlier, for example for a menu;
+ *   otherwise: choose an operator as in ProviderChoice.h, call writeProvision(), and repeat.
  *
- * When the user wants none of the operators, remember that in the dashboard's own settings.
+ * A user's decision for none of the operators has to be stored in the program's own settings.
  */
 
-/** What is in an operator's folder. */
+/** The state of an operator's folder. */
 struct Provision {
-    ProvisionRecord record;   // invalid when nothing was provisioned, or the record is damaged
+    ProvisionRecord record;   // invalid when nothing was provisioned or the record is damaged
     QString filesFolder;      // the folder in use; empty when there is none
-    QStringList changedFiles; // names of files in it that somebody has changed or added
-    bool isForeign = false;   // the place holds something that was not provisioned
+    QStringList changedFiles; // names of files that were changed or added by hand
+    bool isForeign = false;   // the folder contains files that were not provisioned
 
-    /// Whether the plug-in finds its two files there.
+    /// Returns whether the folder contains the plug-in's two files.
     bool isUsable() const;
 };
 
-/// Looks only. Any thread.
+/// Reads the state of a folder without changing it. May be called on any thread.
 Provision readProvision(const QString &folder);
 
 struct ProvisionOrder {
-    QString folder;        // made when it is missing
-    QString pluginLibrary; // installed plug-in, linked beside the files; empty: none
-    /// Whether files that somebody has changed may go out of use. They are kept where they are.
+    QString folder;        // created when it does not exist
+    QString pluginLibrary; // the installed plug-in, to be linked; empty for no link
+    /// Allows files that were changed by hand to be deactivated. They are kept in their folder.
     bool setChangedAside = false;
 };
 
 struct ProvisionOutcome {
     enum State {
         Written,
-        Current, // the files are there already; changes in them stay in use
-        Refused, // changed files, or something that was not provisioned, stand in the way
+        Current, // the files exist already; changes made by hand stay in use
+        Refused, // files changed by hand, or not provisioned, would be replaced
         Failed
     };
 
     State state = Failed;
-    QStringList changedFiles; // with their folder
-    QString keptFolder;       // where changed files are that went out of use
-    QString problem;          // for the user, in English; empty when all went well
+    QStringList changedFiles; // paths
+    QString keptFolder;       // contains the deactivated files that were changed by hand
+    QString problem;          // error message in English; empty on success
 };
 
-/// Writes the files of `plan`, unless its order is refused. One process at a time: another one
-/// waits.
+/// Writes the files of `plan` and activates them, or refuses the order. If several processes write
+/// to the same folder, each waits for its turn.
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 
-/// Where the user's operator folders are, by the XDG base directories.
+/// Returns the folder of the user's operator folders, below $XDG_DATA_HOME or its default.
 QString operatorsFolder();
-/// One for each network code; `network` may be any name without a separator.
+/// Returns the operator folder for a network code. `network` may be any name without a separator.
 QString operatorFolder(const QString &operators, const QString &network);
 
 #endif

@@ -5,8 +5,8 @@
 namespace
 {
 
-/// A replacement that could itself be dialled, such as "1", must not be found where it is not
-/// meant.
+/// Returns whether the replacement is unambiguous. A replacement of dialable characters, such as
+/// "1", must occur only once in the code, because another occurrence may be meant literally.
 bool isClear(const ProviderCode &code)
 {
     return !isDialable(code.replacement) || code.code.count(code.replacement) == 1;
@@ -43,10 +43,10 @@ UssdTemplate ussdTemplate(const ProviderCode &code)
     if (!code.takesInput)
         return checked(code.code, code.code, code.code);
     if (code.replacement.isEmpty() || !code.code.contains(code.replacement))
-        return unusable(QString::fromLatin1("the replacement %1 does not stand in %2")
+        return unusable(QString::fromLatin1("the replacement %1 is not in %2")
                             .arg(quoted(code.replacement), quoted(code.code)));
     if (!isClear(code))
-        return unusable(QString::fromLatin1("the replacement %1 stands in %2 more than once")
+        return unusable(QString::fromLatin1("the replacement %1 is in %2 more than once")
                             .arg(quoted(code.replacement), quoted(code.code)));
     QString result = code.code;
     QString sample = code.code;

@@ -3,15 +3,15 @@
 
 #include "ProviderDatabase.h"
 
-/** A database code in the plug-in's form. */
+/** A code of the database, converted to the plug-in's format. */
 struct UssdTemplate {
-    QString code;            // with "%s" where the user's input goes; empty when it cannot be used
-    bool takesInput = false; // whether there is a "%s"
-    QString problem;         // why it cannot be used; empty when it can
+    QString code;            // contains "%s" in place of the user's input; empty if not usable
+    bool takesInput = false; // the code contains "%s"
+    QString problem;         // why the code is not usable; empty if it is
 };
 
-/// Turns "*103*CODE#" with the replacement "CODE" into "*103*%s#". What is replaced is what the
-/// attribute says and nothing else: without one the code takes no input, whatever it looks like.
+/// Converts "*103*CODE#" with the replacement "CODE" to "*103*%s#". Only the text of the
+/// replacement attribute is replaced; a code without this attribute takes no input.
 UssdTemplate ussdTemplate(const ProviderCode &code);
 
 #endif

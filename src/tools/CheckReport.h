@@ -5,42 +5,43 @@
 #include <QString>
 #include <QStringList>
 
-/** What will not happen as its author may think, and where. */
+/** A place in a file that may not have the effect that its author expects. */
 struct CheckFinding {
-    qint64 line = 0;   // from 1; 0: the file as a whole
-    qint64 column = 0; // from 1; 0: the line as a whole
-    QString rule;      // a word for scripts, such as "order"
-    QString text;      // for people, in English
+    qint64 line = 0;   // counts from 1; 0 stands for the whole file
+    qint64 column = 0; // counts from 1; 0 stands for the whole line
+    QString rule;      // identifies the kind of finding for scripts, such as "order"
+    QString text;      // describes the finding for people, in English
 };
 
-/** What the plug-in makes of one part of a file. */
+/** The values that the plug-in reads from one part of a file. */
 struct CheckTable {
     QString title;
-    QList<QStringList> rows; // name first
+    QList<QStringList> rows; // the first cell is the name
 };
 
-/** Everything about one file. */
+/** The report on one file. */
 struct CheckReport {
     QString file;
     QString kind;  // "configuration", "layout", "profiles" or "scenario"; empty when unusable
-    QString error; // why nothing could be read; empty when something was
-    QList<CheckFinding> findings; // by line
+    QString error; // why the file could not be read; empty on success
+    QList<CheckFinding> findings; // sorted by line
     QList<CheckTable> tables;
 };
 
-/// Adds a finding.
+/// Adds a finding to the report.
 void addFinding(CheckReport &report, qint64 line, qint64 column, const char *rule,
                 const QString &text);
 void sortFindings(CheckReport &report);
 
-/// The part of a value that a line can bear, in quotation marks.
+/// Returns the text in quotation marks, shortened to fit in a line of the report.
 QString quotedPart(const QString &text);
 
-/// "file:line:column: text [rule]", then the tables.
+/// Returns the report as text: each finding as "file:line:column: text [rule]", then the tables.
 QString reportText(const CheckReport &report);
-/// One JSON document (RFC 8259) in ASCII.
+/// Returns the reports as one JSON document (RFC 8259) in ASCII.
 QString reportsJson(const QList<CheckReport> &reports);
-/// A JSON string with its quotation marks: everything but plain ASCII is escaped.
+/// Returns the text as a JSON string with its quotation marks. All characters except printable
+/// ASCII are escaped.
 QString jsonString(const QString &text);
 
 #endif

@@ -10,12 +10,11 @@ const char HELP[] =
     "Usage: ussd-config check [--format=text|json] FILE...\n"
     "\n"
     "Reads configuration, layout, profile and scenario files as the plug-in and the\n"
-    "simulated network do, and tells what will not happen as written, and the\n"
-    "finished tables.\n"
+    "simulated network do. Prints what will not work as written, and the values read.\n"
     "\n"
     "  --format=json   one JSON document, for scripts\n"
-    "  --help, -h      tell this\n"
-    "  --version       tell the version\n"
+    "  --help, -h      print this text\n"
+    "  --version       print the version\n"
     "\n"
     "Exit status: 0 no findings, 1 findings, 2 a file or the arguments cannot be\n"
     "used.";
@@ -31,13 +30,13 @@ QString complaintAbout(const ToolArguments &arguments)
     if (!arguments.error.isEmpty())
         return arguments.error;
     if (arguments.words.value(0) != QLatin1String("check"))
-        return QLatin1String("the first word is to be \"check\"");
+        return QLatin1String("the first word must be \"check\"");
     if (arguments.words.count() < 2)
         return QLatin1String("there is no file to check");
     const QString format = arguments.value("--format");
     if (arguments.has("--format") && format != QLatin1String("json") &&
         format != QLatin1String("text"))
-        return QLatin1String("--format is text or json");
+        return QLatin1String("--format must be text or json");
     return QString();
 }
 

@@ -3,7 +3,7 @@
 
 #include "ToolArguments.h"
 
-/// The program ussd-config: prints what it finds and returns a ToolExit.
+/// Runs the program ussd-config, which checks files and prints its findings. Returns a ToolExit.
 int runConfigTool(const QStringList &words);
 
 #endif

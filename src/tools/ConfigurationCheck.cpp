@@ -15,8 +15,8 @@
 namespace
 {
 
-const int ITEMS = 4;         // that the scan takes for a paid section, wherever it finds them
-const int LONGEST_IMSI = 15; // digits, 3GPP TS 23.003
+const int ITEMS = 4;         // the scan assigns four items to a paid section, wherever they are
+const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
                                 XmlName::SENT_CHAR,       XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
@@ -28,7 +28,7 @@ QStringList components()
                          << QLatin1String(XmlName::ONLINE_CHARGE) << QLatin1String(XmlName::MSISDN);
 }
 
-/** A component of the account window, as the scan read it. */
+/** A component of the account window, as the scan reads it. */
 struct Item {
     int place = -1;
     QString name;
@@ -36,7 +36,7 @@ struct Item {
     int pos = 0;
 };
 
-/** Takes the scan's way and says what is not as its author may think. */
+/** Follows the scan and reports what may surprise the author of the file. */
 class Check
 {
 public:
@@ -74,7 +74,7 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost = false; // the scan has reached the end in search of a section
+    bool m_isLost = false; // the scan reached the end without finding a section
 };
 
 void Check::run()
@@ -101,23 +101,23 @@ int Check::section(const char *name)
     const int passed = m_trace.passed(name);
     if (passed >= 0 && !m_isLost)
         m_check.find(passed, "order",
-                     title + QLatin1String(" stands too early: the reader only looks forward, does "
-                                           "not see it, and reads it and every section sought "
-                                           "after it as empty"));
+                     title + QLatin1String(" is too early: the reader only searches forward, so it "
+                                           "misses this section and reads it and every later "
+                                           "section as empty"));
     else if (passed >= 0)
-        m_check.find(passed, "order",
-                     title +
-                         QLatin1String(" is not read: an earlier section was sought to the end"));
+        m_check.find(
+            passed, "order",
+            title + QLatin1String(" is not read: the search for another section reached the end"));
     else
         m_check.find(-1, "missing",
                      title + QLatin1String(m_isLost ? " is missing"
-                                                    : " is missing: it and every section sought "
-                                                      "after it read as empty"));
+                                                    : " is missing: it and every later section "
+                                                      "are read as empty"));
     m_isLost = true;
     return -1;
 }
 
-/// The next element of this name, which should stand in the section.
+/// Returns the next element with this name. Adds a finding when it is outside the section.
 int Check::child(int section, const char *name)
 {
     const int place = m_trace.seek(name);
@@ -127,13 +127,13 @@ int Check::child(int section, const char *name)
         QString::fromLatin1("<%1> of <%2>").arg(QLatin1String(name), m_check.at(section).name);
     if (place < 0)
         m_check.find(section, "missing",
-                     title + QLatin1String(" is missing or stands too early; it and all that is "
-                                           "sought after it reads as empty"));
+                     title + QLatin1String(" is missing or too early; it and every later element "
+                                           "are read as empty"));
     else if (m_check.at(place).parent != section)
         m_check.find(section, "order",
-                     title + QString::fromLatin1(" is missing or stands too early; the one in line "
-                                                 "%1 is taken for it, and what is before that is "
-                                                 "passed over")
+                     title + QString::fromLatin1(" is missing or too early; the one in line %1 is "
+                                                 "read instead, and everything before that is "
+                                                 "skipped")
                                  .arg(m_check.at(place).line));
     return place;
 }
@@ -218,8 +218,8 @@ Item Check::item(int section, const char *sectionName, int number)
         component(item);
     else if (section >= 0)
         m_check.find(item.place, "items",
-                     QString::fromLatin1("there is no component %1; the item is counted, and "
-                                         "nothing of it is read")
+                     QString::fromLatin1("there is no component %1; the item is counted but "
+                                         "not read")
                          .arg(quotedPart(item.name)));
     item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
     item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
@@ -327,7 +327,7 @@ void Check::twins(const QList<Item> &items)
                 continue;
             if (a.name == b.name)
                 m_check.find(b.place, "items",
-                             QString::fromLatin1("%1 stands in line %2 already; this one counts")
+                             QString::fromLatin1("%1 was already given in line %2; this one counts")
                                  .arg(quotedPart(b.name))
                                  .arg(m_check.at(a.place).line));
             else if (a.shown && b.shown && a.pos == b.pos)
@@ -376,7 +376,7 @@ void Check::editor()
     }
 }
 
-/// It has a pass of its own from the start, so it may stand anywhere.
+/// The plug-in searches this section separately from the start, so it may be anywhere in the file.
 void Check::clearButton()
 {
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);
@@ -401,7 +401,7 @@ void Check::sims()
     for (int place = m_trace.seek(XmlName::ITEM); place >= 0; place = m_trace.seek(XmlName::ITEM)) {
         if (m_check.at(place).parent != section)
             m_check.find(place, "order",
-                         QLatin1String("this item stands behind <autoUSSD> and is taken for a SIM "
+                         QLatin1String("this item follows <autoUSSD> and is read as a SIM "
                                        "card"));
         else
             sim(place, seen);
@@ -419,7 +419,7 @@ void Check::sim(int place, QMap<QString, int> &seen)
                          .arg(LONGEST_IMSI));
     if (seen.contains(imsi))
         m_check.find(place, "imsi",
-                     QString::fromLatin1("imsi %1 stands in line %2 already; this one counts")
+                     QString::fromLatin1("imsi %1 was already given in line %2; this one counts")
                          .arg(quotedPart(imsi))
                          .arg(m_check.at(seen.value(imsi)).line));
     seen.insert(imsi, place);
@@ -447,11 +447,12 @@ void Check::sectionsTwice()
     for (const char *name : SECTIONS) {
         const QList<int> all = m_elements.childrenOf(0, name);
         for (int i = 1; i < all.count(); ++i)
-            m_check.find(all.at(i), "twice",
-                         QString::fromLatin1("<%1> stands in line %2 already; one of them is not "
-                                             "read")
-                             .arg(QLatin1String(name))
-                             .arg(m_check.at(all.first()).line));
+            m_check.find(
+                all.at(i), "twice",
+                QString::fromLatin1("<%1> was already given in line %2; one of them is not "
+                                    "read")
+                    .arg(QLatin1String(name))
+                    .arg(m_check.at(all.first()).line));
     }
 }
 
@@ -462,8 +463,8 @@ PluginConfig readWholeConfiguration(const QByteArray &xml)
     PluginConfig config;
     QXmlStreamReader reader(xml);
     readConfiguration(reader, config);
-    QXmlStreamReader anew(xml);
-    readClearHistory(anew, config.clearHistory);
+    QXmlStreamReader secondPass(xml);
+    readClearHistory(secondPass, config.clearHistory);
     return config;
 }
 

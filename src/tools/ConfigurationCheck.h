@@ -4,10 +4,10 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
-/// What the plug-in's forward scan makes of all sections but SMSUSSD.
+/// Checks how the plug-in's forward scan reads all sections except SMSUSSD. Adds findings.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 
-/// The finished tables, read by the plug-in's own reader.
+/// Returns tables of the values that the plug-in's own reader gets from the configuration.
 QList<CheckTable> configurationTables(const QByteArray &xml);
 
 #endif

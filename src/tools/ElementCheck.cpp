@@ -7,9 +7,9 @@
 namespace
 {
 
-const int MOST_DIFFERENCES = 2; // in a name, for it to be a slip
+const int MOST_DIFFERENCES = 2; // a name with more differences is no misspelling
 
-/// How many letters have to be put in, taken out or exchanged (Levenshtein).
+/// Returns the number of letters to insert, delete or replace (the Levenshtein distance).
 int differences(const QString &a, const QString &b)
 {
     QList<int> row;
@@ -106,14 +106,14 @@ void ElementCheck::key(int place, const QString &key)
 
 void ElementCheck::names(const QStringList &known)
 {
-    for (int i = 1; i < m_elements.list.count(); ++i) { // the root's name is free
+    for (int i = 1; i < m_elements.list.count(); ++i) { // the root may have any name
         const QString &name = at(i).name;
         if (known.contains(name))
             continue;
         const QString meant = likelyName(name, known);
         find(
             i, "name",
-            QString::fromLatin1("nobody reads <%1>").arg(name) +
+            QString::fromLatin1("<%1> is not read").arg(name) +
                 (meant.isEmpty() ? QString() : QString::fromLatin1("; is <%1> meant?").arg(meant)));
     }
 }

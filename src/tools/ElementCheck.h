@@ -4,7 +4,7 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
-/** Checks of single values, with a finding at the element that holds them. */
+/** Checks single values and adds findings at the elements that contain them. */
 class ElementCheck
 {
 public:
@@ -16,23 +16,28 @@ public:
     const XmlElements &elements() const { return m_elements; }
     const XmlElement &at(int place) const { return m_elements.list.at(place); }
 
-    /// At an element, or for the file as a whole when `place` is negative.
+    /// Adds a finding at the element with the index `place`, or for the whole file when `place` is
+    /// negative.
     void find(int place, const char *rule, const QString &text);
 
-    /// Anything but "true" and "false" reads as off.
+    /// Adds a finding unless the text is "true" or "false". The plug-in reads any other text as
+    /// false.
     void boolText(int place, const QString &what, const QString &text);
     void boolAttribute(int place, const char *name);
-    /// What is no number reads as 0. Returns what is read.
+    /// Returns the number that the plug-in reads. Adds a finding when the text is no number, which
+    /// the plug-in reads as 0.
     int numberText(int place, const QString &what, const QString &text);
     int numberAttribute(int place, const char *name);
     int colour(int place, const char *name);
 
-    /// A code with the most characters that may be entered for its "%s".
+    /// Checks a code. `inputLength` is the maximum number of characters that replace its "%s".
     void command(int place, const QString &command, int inputLength);
-    /// A key that a language has no text for. Texts that are no keys are shown as they are.
+    /// Adds a finding when a language has no text for the key. A text that is no key is accepted,
+    /// because the plug-in shows it unchanged.
     void key(int place, const QString &key);
 
-    /// Elements whose name nobody reads, with the name that was perhaps meant.
+    /// Adds a finding for each element whose name is not in `known`, with the name that was
+    /// probably meant.
     void names(const QStringList &known);
 
 private:
@@ -40,7 +45,7 @@ private:
     CheckReport &m_report;
 };
 
-/// The one of the names that is most like it; empty when none is much like it.
+/// Returns the name in `known` that is most similar to `name`; empty when none is similar enough.
 QString likelyName(const QString &name, const QStringList &known);
 
 #endif

@@ -53,7 +53,7 @@ bool isXml(const QByteArray &content)
     return start.startsWith('<');
 }
 
-/// Any section of the name, also misspelt.
+/// Returns whether the document has a section with one of the names, or a similar name.
 bool hasSection(const XmlElements &elements, const QStringList &names)
 {
     for (int i = 0; i < elements.list.count(); ++i) {
@@ -96,7 +96,7 @@ void checkNames(const XmlElements &elements, CheckReport &report)
     check.find(-1, "missing",
                QLatin1String(elements.childrenOf(0, XmlName::SMS_USSD).isEmpty()
                                  ? "<SMSUSSD> is missing: the services window is empty"
-                                 : "<SMSUSSD> stands there more than once"));
+                                 : "<SMSUSSD> is given more than once"));
 }
 
 void checkXml(const QByteArray &content, CheckReport &report)
@@ -111,7 +111,7 @@ void checkXml(const QByteArray &content, CheckReport &report)
     }
     if (!elements.error.isEmpty())
         addFinding(report, elements.errorLine, elements.errorColumn, "xml",
-                   elements.error + QLatin1String(" What is behind this place is not read."));
+                   elements.error + QLatin1String(" The rest of the file is not read."));
     if (elements.isDangerous)
         return;
     if (report.kind == QLatin1String("profiles"))

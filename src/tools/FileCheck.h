@@ -5,10 +5,10 @@
 
 #include "CheckReport.h"
 
-/// Says what the plug-in, or the simulated network, makes of a file's content. The kind of file is
-/// seen from what is in it. `file` is the name in the report.
+/// Checks how the plug-in, or the simulated network, reads the content of a file. The kind of file
+/// is recognised by the content. `file` is the name for the report.
 CheckReport checkContent(const QByteArray &content, const QString &file);
-/// The same of a file.
+/// Reads a file and checks its content. A file that cannot be read gives a report with an error.
 CheckReport checkFile(const QString &path);
 
 #endif

@@ -4,20 +4,22 @@
 #include "XmlElements.h"
 
 /**
- * Walks over a document as the plug-in's forward scan does, and knows at each step where it stands:
- * the next element of a name, wherever it stands; behind an element's text the scan goes on behind
- * the element.
+ * Traverses a document in the same way as the plug-in's forward scan, and keeps track of the
+ * position. The scan finds the next element with a name at any depth. After the text of an element
+ * was read, the scan continues after the end of that element.
  */
 class ForwardTrace
 {
 public:
     explicit ForwardTrace(const XmlElements &elements) : m_elements(elements) {}
 
-    /// The place of the next element with this name; -1 when there is none, and then none any more.
+    /// Moves to the next element with this name and returns its index. Returns -1 when there is
+    /// none; the scan is then at the end of the document.
     int seek(const char *name);
-    /// The text of the element that was found last; empty when none was.
+    /// Returns the text of the element found last; empty when none was found.
     QString text();
-    /// The nearest element with this name that the scan has passed; -1 when there is none.
+    /// Returns the index of the last element with this name before the position; -1 when there is
+    /// none.
     int passed(const char *name) const;
 
 private:

@@ -9,7 +9,7 @@
 namespace
 {
 
-/** The translator reads out of `content`. */
+/** The texts of a language. The translator does not copy `content`, so both live together. */
 struct Texts {
     QByteArray content;
     QTranslator translator;

@@ -4,12 +4,12 @@
 #include <QString>
 #include <QStringList>
 
-/** The plug-in's texts in the language files that are installed. */
+/** Looks up the plug-in's texts in the installed language files. */
 namespace KeyTexts
 {
 
-/// The installed languages that have no text for it. None when it is empty, or does not look like a
-/// key: capital letters, digits and underscores.
+/// Returns the installed languages that have no text for the key. Returns an empty list when the
+/// text is empty or no key; keys consist of capital letters, digits and underscores.
 QStringList languagesWithout(const QString &key);
 
 } // namespace KeyTexts

@@ -10,10 +10,11 @@
 namespace
 {
 
-const int INPUT = 2;  // place of the entry field among a group's controls
-const int BUTTON = 3; // and of what is sent
+const int INPUT = 2;  // index of the entry field among the controls of a group
+const int BUTTON = 3; // index of the button, which has the command
 
-/// The reader counts lines only; the column is that of the last element that begins there.
+/// Returns the column of the last element that begins in the line, because the reader reports
+/// lines only.
 qint64 columnOn(const XmlElements &elements, qint64 line)
 {
     qint64 column = 0;
@@ -35,7 +36,7 @@ void takeComplaint(const XmlElements &elements, const QString &complaint, CheckR
                pattern.cap(2));
 }
 
-/// Those of SMSUSSD, at any depth.
+/// Returns the indexes of the elements with this name in the section, at any depth.
 QList<int> allNamed(const XmlElements &elements, int section, const char *name)
 {
     QList<int> found;
@@ -107,7 +108,7 @@ void checkGroups(ElementCheck &check, int section)
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
         if (controls.count() != SmsLayoutFile::CONTROLS_OF_GROUP)
-            continue; // the reader has said so
+            continue; // the reader has reported the missing controls
         checkInput(check, controls.at(INPUT));
         if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
             QLatin1String(XmlName::OFF))
@@ -147,7 +148,7 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
     SmsLayout layout;
     QXmlStreamReader reader(xml);
     SmsLayoutFile::read(reader, layout);
-    const bool isWhole = elements.error.isEmpty(); // otherwise that was said already
+    const bool isWhole = elements.error.isEmpty(); // otherwise the error was reported already
     for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i)
         takeComplaint(elements, layout.complaints.at(i), report);
     if (layout.furtherComplaints > 0)

@@ -4,7 +4,7 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
-/// What the plug-in's reader makes of the SMSUSSD section: its own complaints, keys and commands.
+/// Checks the SMSUSSD section: the complaints of the plug-in's reader, the keys and the commands.
 /// Adds findings and tables.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 

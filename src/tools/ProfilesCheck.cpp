@@ -12,7 +12,7 @@ namespace
 {
 
 const int BUTTONS = 11;
-const int PAYMENT_BUTTONS = 2; // the last ones
+const int PAYMENT_BUTTONS = 2; // the last two buttons
 
 QStringList fields()
 {
@@ -59,8 +59,8 @@ void checkFields(ElementCheck &check, int item)
     }
     if (known != fields())
         check.find(item, "order",
-                   QString::fromLatin1("an item has %1, in this order; this one has %2. What the "
-                                       "reader misses it takes from the next item, which is lost")
+                   QString::fromLatin1("an item has %1, in this order; this one has %2. The "
+                                       "reader takes the rest from the next item, which is lost")
                        .arg(fields().join(QLatin1String(", ")),
                             known.isEmpty() ? QString::fromLatin1("none of them")
                                             : known.join(QLatin1String(", "))));
@@ -82,7 +82,7 @@ void checkValues(ElementCheck &check, int item)
         check.find(item, "command", QLatin1String("the code is empty"));
     else if (value != value.trimmed())
         check.find(item, "command",
-                   quotedPart(value) + QLatin1String(" has blanks around it, which are sent"));
+                   quotedPart(value) + QLatin1String(" has blanks around it, which are sent too"));
 }
 
 void checkTwins(ElementCheck &check, const QList<int> &items)
@@ -93,7 +93,7 @@ void checkTwins(ElementCheck &check, const QList<int> &items)
         if (seen.contains(value))
             check.find(
                 items.at(i), "twice",
-                QString::fromLatin1("%1 stands in line %2 already; in a user's file this one "
+                QString::fromLatin1("%1 was already given in line %2; in a user's file this one "
                                     "is dropped")
                     .arg(quotedPart(value))
                     .arg(check.at(seen.value(value)).line));
@@ -113,8 +113,8 @@ QList<int> shownItems(const ElementCheck &check, const QList<int> &items)
     return shown;
 }
 
-/// The last two buttons send nothing until a number was entered, and put it in the place of "%s";
-/// the others send their code as it is.
+/// Checks the buttons. The last two require a number, which replaces "%s" in their codes; the other
+/// buttons send their codes unchanged.
 void checkButtons(ElementCheck &check, const QList<int> &items)
 {
     const QList<int> shown = shownItems(check, items);
@@ -130,7 +130,7 @@ void checkButtons(ElementCheck &check, const QList<int> &items)
         else if (!pays && code.contains(INPUT_PLACEHOLDER))
             check.find(shown.at(i), "button",
                        quotedPart(code) + QLatin1String(" is not one of the last two buttons: its "
-                                                        "\"%s\" is sent as it is"));
+                                                        "\"%s\" is sent unchanged"));
     }
     for (int i = BUTTONS; i < items.count(); ++i) {
         if (textOf(check.elements(), items.at(i), XmlName::SHOW_BUTTON) ==

@@ -4,7 +4,7 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
-/// What the plug-in's reader makes of a file of profiles. Adds findings and the table.
+/// Checks how the plug-in reads a file of profiles. Adds findings and the table.
 void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 
 #endif

@@ -18,22 +18,22 @@ const char HELP[] =
     "       ussd-provision --country CC --provider NAME [OPTION...]\n"
     "       ussd-provision --list [--country CC] [--network CODE]\n"
     "\n"
-    "Makes the plug-in's configuration and codes for one mobile operator.\n"
+    "Writes the plug-in's configuration and codes for one mobile operator.\n"
     "\n"
     "  --network CODE    country and network code of the SIM card, such as 26207\n"
-    "  --sim-name NAME   what the SIM card calls its operator\n"
+    "  --sim-name NAME   the operator's name as stored on the SIM card\n"
     "  --country CC      the operator's country, such as de\n"
     "  --provider NAME   the operator's name\n"
-    "  --folder DIR      where to write to; by default a folder of the user's\n"
-    "  --set-aside       put new files into use although somebody has changed the old\n"
-    "                    ones, which are kept\n"
+    "  --folder DIR      the folder to write to; by default a folder of the user's\n"
+    "  --set-aside       use new files even if the old ones were edited; the old ones\n"
+    "                    are kept\n"
     "  --database FILE   the database of operators\n"
     "  --list            print the operators and their codes, write nothing\n"
-    "  --help, -h        tell this\n"
-    "  --version         tell the version\n"
+    "  --help, -h        print this text\n"
+    "  --version         print the version\n"
     "\n"
     "Exit status: 0 done, 1 failed, 2 wrong arguments or database, 3 several operators\n"
-    "fit and none was chosen, 4 files that somebody has changed stand in the way.";
+    "match and none was chosen, 4 edited files would be replaced.";
 
 QStringList list(const char *blankSeparated)
 {
@@ -55,7 +55,7 @@ bool isNetwork(const QString &text)
     return text.length() == 5 || text.length() == 6;
 }
 
-/// What is wrong with the arguments as a whole; empty when nothing is.
+/// Returns an error message when the arguments do not fit together; empty when they do.
 QString complaintAbout(const ToolArguments &arguments)
 {
     if (!arguments.error.isEmpty())
@@ -63,7 +63,7 @@ QString complaintAbout(const ToolArguments &arguments)
     if (!arguments.words.isEmpty())
         return QString::fromLatin1("\"%1\" is not expected").arg(arguments.words.first());
     if (arguments.has("--network") && !isNetwork(arguments.value("--network")))
-        return QLatin1String("--network wants five or six digits");
+        return QLatin1String("--network needs five or six digits");
     const bool named = arguments.has("--country") && arguments.has("--provider");
     if (!arguments.has("--list") && !arguments.has("--network") && !named)
         return QLatin1String("--network is needed, or --country with --provider");
@@ -87,7 +87,7 @@ QString orDash(const QString &text)
     return text.isEmpty() ? QString(QLatin1Char('-')) : text;
 }
 
-/// Country, name, balance, top-up, own number and networks, separated by tabs.
+/// Prints country, name, balance, top-up, own number and networks, separated by tabs.
 void printProvider(const Provider &provider)
 {
     const ProvisionPlan plan = provisionPlan(provider);
@@ -129,14 +129,14 @@ void printComplaints(const QString &file, const ProviderDatabase &database)
     }
 }
 
-// ---- doing ---------------------------------------------------------------------------------
+// ---- writing the folder --------------------------------------------------------------------
 
 QString installedFolder()
 {
     return HostCore::InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
-/// Without a network code there is no other short name for the folder than the operator's own.
+/// Returns the operator's folder. Without a network code it is named after the operator.
 QString folderOf(const ToolArguments &arguments, const ProvisionPlan &plan)
 {
     if (arguments.has("--folder"))

@@ -3,7 +3,8 @@
 
 #include "ToolArguments.h"
 
-/// The program ussd-provision: prints, writes the operator's folder, and returns a ToolExit.
+/// Runs the program ussd-provision, which lists operators or writes the folder of one. Returns a
+/// ToolExit.
 int runProvisionTool(const QStringList &words);
 
 #endif

@@ -5,7 +5,7 @@
 
 #include "CheckReport.h"
 
-/// What the simulated network's reader makes of a scenario file. Adds findings and the table.
+/// Checks how the simulated network reads a scenario file. Adds findings and the table.
 void checkScenario(const QByteArray &content, CheckReport &report);
 
 #endif

@@ -5,7 +5,7 @@
 namespace
 {
 
-/** Takes the words one after the other. */
+/** Parses the words one after another. */
 class Parser
 {
 public:
@@ -68,7 +68,7 @@ void Parser::takeValue(const QString &name, const QString &word, int equals)
     const bool isNext = equals < 0 && !m_words.isEmpty();
     const QString value = isNext ? m_words.takeFirst() : word.mid(equals + 1);
     if ((equals < 0 && !isNext) || value.isEmpty())
-        m_result.error = QString::fromLatin1("%1 wants a value").arg(name);
+        m_result.error = QString::fromLatin1("%1 needs a value").arg(name);
     else
         store(name, value);
 }
@@ -76,7 +76,7 @@ void Parser::takeValue(const QString &name, const QString &word, int equals)
 void Parser::store(const QString &name, const QString &value)
 {
     if (m_result.options.contains(name))
-        m_result.error = QString::fromLatin1("%1 stands there twice").arg(name);
+        m_result.error = QString::fromLatin1("%1 is given twice").arg(name);
     m_result.options.insert(name, value);
 }
 

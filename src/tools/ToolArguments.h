@@ -5,31 +5,31 @@
 #include <QString>
 #include <QStringList>
 
-/** The words of a command line, sorted into options and the rest. */
+/** A parsed command line. */
 struct ToolArguments {
-    QMap<QString, QString> options; // "--name" to its value; empty for a switch
-    QStringList words;              // what is no option
-    QString error;                  // what is wrong, in English; empty when nothing is
+    QMap<QString, QString> options; // values by "--name"; empty for a switch
+    QStringList words;              // the words that are no options
+    QString error;                  // error message in English; empty when there is no error
 
     bool has(const char *option) const { return options.contains(QLatin1String(option)); }
     QString value(const char *option) const { return options.value(QLatin1String(option)); }
 };
 
-/// Reads the words behind the program's name. A value stands behind "=" or in the next word; behind
-/// a lone "--" there are no options. An option stands once.
+/// Parses the words that follow the program's name. The value of an option follows "=" or is the
+/// next word. Words after a lone "--" are no options. An option may be given only once.
 ToolArguments parseToolArguments(const QStringList &words, const QStringList &switches,
                                  const QStringList &valueOptions);
 
-/// The words behind the program's name, and the locale made that of the environment.
+/// Sets the locale of the environment and returns the words that follow the program's name.
 QStringList startTool(int argc, char **argv);
 
-/** What the programs end with. */
+/** The exit codes of the programs. */
 enum ToolExit {
     TOOL_GOOD = 0,
-    TOOL_BAD = 1,    // something failed, or was found
-    TOOL_USAGE = 2,  // the arguments, or what they name, cannot be used
-    TOOL_CHOOSE = 3, // a person has to choose among those printed
-    TOOL_REFUSED = 4 // a person's files stand in the way
+    TOOL_BAD = 1,    // an operation failed, or a check has findings
+    TOOL_USAGE = 2,  // the arguments are wrong, or a file that they name cannot be used
+    TOOL_CHOOSE = 3, // several operators match, and the user has to choose one
+    TOOL_REFUSED = 4 // files edited by hand would be replaced
 };
 
 #endif

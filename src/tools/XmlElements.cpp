@@ -10,7 +10,7 @@ namespace
 
 const int MAX_DEPTH = 30;
 
-/** Puts the tokens of a document into the list. */
+/** Builds the list of elements from the tokens of a document. */
 class Reader
 {
 public:
@@ -90,7 +90,8 @@ void Reader::refuse(const char *why)
     m_xml.raiseError(QLatin1String(why));
 }
 
-/// The XML reader stands behind the start tag, in which there is no other "<".
+/// Sets the line and the column of the start tag. The XML reader's position is after the tag, so
+/// the tag begins at the last "<" before that position.
 void Reader::findPlace(XmlElement &element) const
 {
     int line = int(m_xml.lineNumber()) - 1;

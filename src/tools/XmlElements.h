@@ -6,15 +6,15 @@
 #include <QString>
 #include <QXmlStreamAttributes>
 
-/** One element of a document, and where it begins. */
+/** An element of a document and its position. */
 struct XmlElement {
     QString name;
     QXmlStreamAttributes attributes;
-    QString text;      // of all that is in it
-    int parent = -1;   // its place in the list; -1 for the root
-    int behind = 0;    // place of the first element that is not in it
-    qint64 line = 0;   // from 1
-    qint64 column = 0; // from 1
+    QString text;      // of the element and its descendants
+    int parent = -1;   // index of the parent in the list; -1 for the root
+    int behind = 0;    // index of the first later element that is not a descendant
+    qint64 line = 0;   // of the start tag, counts from 1
+    qint64 column = 0; // of the start tag, counts from 1
 
     bool has(const char *attribute) const
     {
@@ -26,15 +26,16 @@ struct XmlElement {
     }
 };
 
-/** A document as the list of its start elements, in the order in which a reader meets them. */
+/** The elements of a document in the order of their start tags. */
 struct XmlElements {
     QList<XmlElement> list;
-    QString error; // why the document ends early; empty when it is well-formed
+    QString error; // why reading stopped early; empty when the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous = false; // nests too deeply, or declares entities: not for other readers
+    bool isDangerous =
+        false; // nests too deeply or declares entities, so no other reader may get it
 
-    /// Places of the elements with this name inside the one at `parent`, not deeper.
+    /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;
 };
 

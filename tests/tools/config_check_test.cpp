@@ -210,7 +210,7 @@ void ConfigCheckTest::configurationMistakes_data()
     addMistake("component", "item name=\"Balance\"", "item name=\"balance\"", "items",
                "there is no component \"balance\"");
     addMistake("component twice", "item name=\"MSISDN\"", "item name=\"Balance\"", "items",
-               "stands in line", false);
+               "already given in line", false);
     addMistake("no command", "<command>*100#</command>", "<command></command>", "command",
                "Balance is shown and has no command", false);
     addMistake("no placeholder", "<command>*101*%s#</command>", "<command>*101#</command>",
@@ -245,7 +245,7 @@ void ConfigCheckTest::configurationMistakes_data()
     addMistake("behind the cards", "</autoUSSD>", "</autoUSSD><more><item name=\"a\"/></more>",
                "order", "is taken for a SIM card");
     addMistake("section twice", "<send>", "<Prepaid></Prepaid><send>", "twice",
-               "<Prepaid> stands in line");
+               "<Prepaid> was already given in line");
     addMistake("clear button", "<clearHistory visible=\"true\" showConfirmDialog=\"true\"/>", "",
                "missing", "clearHistory", false);
     addMistake("long command", "<command>*110#",
@@ -255,7 +255,7 @@ void ConfigCheckTest::configurationMistakes_data()
     addMistake("controls", "<control posx=\"285\" posy=\"140\" width=\"340\" height=\"210\"/>", "",
                "controls", "has 4 controls", false);
     addMistake("cut off", "<autoUSSD valid=\"true\">", "<autoUSSD valid=", "xml",
-               "What is behind this place is not read", false);
+               "The rest of the file is not read", false);
 }
 
 void ConfigCheckTest::configurationMistakes()
@@ -268,7 +268,7 @@ void ConfigCheckTest::profileMistakes_data()
     addMistakeColumns();
     addMistake("bool", "<readonly>true<", "<readonly>yes<", "bool", "\"yes\" reads as false");
     addMistake("missing field", "<langID>IDS_PROFILE_BALANCE</langID>", "", "order",
-               "takes from the next item", false);
+               "takes the rest from the next item", false);
     addMistake(
         "field out of order", "<readonly>true</readonly>\n        <showButton>true</showButton>",
         "<showButton>true</showButton><readonly>true</readonly>", "order", "in this order", false);
@@ -276,7 +276,7 @@ void ConfigCheckTest::profileMistakes_data()
                "name", "is <showButton> meant");
     addMistake("key", "IDS_PROFILE_BALANCE<", "IDS_PROFILE_BALANCES<", "key", "has no text in ar",
                false);
-    addMistake("code twice", "*102#", "*100#", "twice", "stands in line", false);
+    addMistake("code twice", "*102#", "*100#", "twice", "already given in line", false);
     addMistake("payment button", "*140*%s#", "*140#", "button", "one of the last two", false);
     addMistake("placeholder", "*128#", "*128*%s#", "button", "is not one of the last two", false);
     addMistake("blanks", "*128#", " *128# ", "command", "blanks around it", false);
