@@ -6,21 +6,21 @@
 #include <vector>
 
 /*
- * Figures as ratios: a thing and its baseline are measured in turn in one process, because a
- * machine's speed drifts, and the median of the ratios is what counts.
+ * Measures ratios. A subject and its baseline are measured alternately in one process, because a
+ * machine's speed drifts, and the median of the ratios is compared with the limit.
  */
 namespace Benchmark
 {
 
-/// What one measurement gives for one unit of work.
+/// Performs one measurement and returns the figure for one unit of work.
 typedef std::function<double()> Measurement;
 
 const char MICROSECONDS[] = "µs";
 
-/// In place of a limit, for figures that are only shown.
+/// Replaces the limit for figures that have none.
 const double NO_LIMIT = 0;
 
-/// What is compared with what, and the ratio that is to be reached.
+/// Describes a comparison: the subject, its baseline and the limit of the ratio.
 struct Title {
     std::string what;
     std::string baseline;
@@ -36,23 +36,24 @@ struct Title {
 
 const int ROUNDS = 11;
 
-/// Wall time of `work` in microseconds.
+/// Returns the wall time of `work` in microseconds.
 double microseconds(const std::function<void()> &work);
 
-/// Measures both in turn, one round to warm up, and prints the row.
+/// Measures subject and baseline alternately, after one round to warm up, and prints the row.
 void compare(const Title &title, const Measurement &measure, const Measurement &baseline,
              int rounds = ROUNDS);
 
-/// Prints a row of figures that were taken in turn: what, unit, median, smallest and largest of
-/// both and of the ratios, and the limit, with tabs between. benchmark_report reads it.
+/// Prints a row for benchmark_report. Its fields, separated by tabs, are the title, the unit, the
+/// median, smallest and largest value of the subject, of the baseline and of the ratios, and the
+/// limit.
 void report(const Title &title, const std::vector<double> &measured,
             const std::vector<double> &baseline);
 
-/// Every Qt message goes nowhere.
+/// Discards all messages of Qt.
 void dropMessages();
 
-/// Binds this thread, and those it starts from now on, to one core. False when there is none of
-/// this number.
+/// Binds this thread, and threads that it starts later, to one core. Returns false when there is no
+/// core with this number.
 bool stayOnCore(int core);
 
 } // namespace Benchmark

@@ -3,8 +3,9 @@
 
 class QWidget;
 
-/// A dialog that looks like this one, made of Qt's own widgets with nothing behind them: the same
-/// kinds, texts, sizes, states and layouts, no connections, files or names. The caller owns it.
+/// Returns a dialog that looks like `original` but consists of plain Qt widgets. It has the same
+/// kinds of widgets, texts, sizes, states and layouts, but no connections, files or object names.
+/// The caller owns the dialog.
 QWidget *plainCopy(const QWidget &original, QWidget *parent);
 
 #endif

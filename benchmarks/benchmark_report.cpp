@@ -1,6 +1,6 @@
 /*
- * Makes a Markdown table and a bar chart of the rows that the benchmarks print (see
- * Benchmark::report):
+ * Converts the rows that the benchmarks print (see Benchmark::report) to a Markdown table and a bar
+ * chart:
  *
  *     benchmark_report ROWS.tsv CHART.png >TABLE.md
  */
@@ -16,7 +16,7 @@
 namespace
 {
 
-/// Median with the smallest and the largest value.
+/// A median with the smallest and the largest value.
 struct Spread {
     double median, smallest, largest;
 };
@@ -67,7 +67,7 @@ QList<Row> readRows(const QString &path)
     return rows;
 }
 
-/// Three digits that count, without an exponent for what occurs here.
+/// Returns the value with three significant digits, and without an exponent for usual values.
 QString number(double value)
 {
     const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;
@@ -94,8 +94,7 @@ void printTable(const QList<Row> &rows)
     }
 }
 
-// ---- the chart: a bar for each ratio, with its spread and its limit
-// ------------------------------
+// ---- the chart: a bar for each ratio, with its spread and its limit ----------------------------
 
 const int NAME_WIDTH = 600; // pixels, like all below
 const int BARS_WIDTH = 460;
@@ -103,7 +102,7 @@ const int VALUE_WIDTH = 170;
 const int ROW_HEIGHT = 34;
 const int HEAD = 60;
 const int FOOT = 24;
-const int LARGEST_RATIO = 4; // the scale ends there, and what is longer too
+const int LARGEST_RATIO = 4; // the end of the scale, where longer bars are cut
 
 int place(double ratio)
 {

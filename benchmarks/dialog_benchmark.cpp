@@ -1,5 +1,5 @@
 /*
- * The general window, opened by a host for the first time.
+ * Measures how long a host takes to open the general window for the first time.
  */
 #include <memory>
 
@@ -13,7 +13,7 @@
 namespace
 {
 
-/// Makes, shows and paints a window; what its taking down costs does not count.
+/// Returns the time to create, show and paint a window, without the time to delete it.
 template <typename Make>
 double opening(const Make &make)
 {

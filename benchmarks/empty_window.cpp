@@ -1,7 +1,7 @@
 /*
- * What the start of the dashboard is measured against: a main window of the same size, and nothing
- * in it. With the argument --with-field it holds one text field with the focus, for what is
- * measured while nothing happens: the cursor blinks in any program.
+ * The baseline for the start of the dashboard: an empty main window of the same size. With the
+ * argument --with-field the window contains a text field with the focus. This is the baseline for
+ * the load of an idle program, in which the cursor blinks.
  */
 #include <QApplication>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 /*
- * Reading and writing the plug-in's files, and the look-up of an IMSI in what was read.
+ * Measures reading and writing the plug-in's files, and looking up an IMSI in the configuration.
  */
 #include <QApplication>
 #include <QFile>
@@ -22,7 +22,7 @@ const int FEW_PREFIXES = 10;
 const int IMSIS = 100;
 const int IMSI_ROUNDS = 20;
 
-/// A library folder and a user's folder, which the plug-in is told of.
+/// Creates a library folder and a user data folder for the plug-in.
 class Folders
 {
 public:
@@ -44,7 +44,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// The shipped file, with SIM cards added until it has the size that is measured.
+/// Writes the shipped configuration with additional SIM cards up to the size to be measured.
 void writeConfiguration(const QString &path)
 {
     QFile shipped(QLatin1String(USSD_SHIPPED_CONFIGURATION));
@@ -117,7 +117,7 @@ double bareWrite(const QString &path, const QList<USSDProfile> &profiles)
     });
 }
 
-/// The logic object is made, which loads the configuration.
+/// Returns the time to construct the logic object, which loads the configuration.
 double firstLoad()
 {
     const double time = Benchmark::microseconds([] { USSDLogic::GetUSSDLogicInstance(); });
@@ -155,7 +155,7 @@ void compareProfiles(const Folders &folders)
         [&folders, &profiles] { return bareWrite(folders.otherProfiles(), profiles); });
 }
 
-/// As networks are numbered: five digits, and behind them as many more as the number takes.
+/// Returns a map of `count` IMSI prefixes of at least six digits.
 QHash<QString, int> prefixes(int count)
 {
     QHash<QString, int> map;
@@ -164,7 +164,7 @@ QHash<QString, int> prefixes(int count)
     return map;
 }
 
-/// Cards that match nothing, so that all their prefixes are looked up in either map.
+/// Returns IMSIs without a match, so that all their prefixes are looked up in either map.
 QStringList imsis()
 {
     QStringList result;

@@ -1,7 +1,7 @@
 /*
- * Loaded in front of a program (LD_PRELOAD): ends it when its first window has been painted, and
- * says when that was and what memory it took, as one line on the descriptor $FIRST_WINDOW_FD names:
- * nanoseconds of the monotonic clock, then kB of the greatest resident set.
+ * Ends the program that it is preloaded into (LD_PRELOAD) when the first window has been painted.
+ * Before, writes a line to the file descriptor $FIRST_WINDOW_FD: the time in nanoseconds of the
+ * monotonic clock and the peak resident set size in kB.
  */
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@ long long nanosecondsNow()
     return now.tv_sec * 1000000000LL + now.tv_nsec;
 }
 
-/// The greatest resident set so far.
+/// Returns the peak resident set size so far.
 long peakKilobytes()
 {
     rusage usage = {};
@@ -39,7 +39,7 @@ public:
     {
         const QWidget *widget = qobject_cast<QWidget *>(object);
         if (event->type() == QEvent::Paint && widget && widget->isWindow() && !m_seen) {
-            m_seen = true; // its children are painted after it, before the event loop goes on
+            m_seen = true; // its children are painted before the queued call
             QMetaObject::invokeMethod(this, "report", Qt::QueuedConnection);
         }
         return false;

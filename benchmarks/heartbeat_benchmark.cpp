@@ -1,6 +1,6 @@
 /*
- * How late a heartbeat in the GUI thread is at most while a reply of 10,000 characters is shown, in
- * parts of the 100 ms that it may be late.
+ * Measures the longest delay of a heartbeat in the GUI thread while a reply of 10,000 characters is
+ * shown, as a fraction of the 100 ms that are allowed.
  */
 #include <QApplication>
 #include <QElapsedTimer>
@@ -17,7 +17,7 @@ namespace
 
 const int CHARACTERS = 10000;
 const double MAY_BE_LATE = 100; // ms
-const int QUIET_BEATS = 30;     // after which nothing comes any more
+const int QUIET_BEATS = 30;     // beats without a change after which the window is idle
 const int RUNS = 5;
 
 QString repeated(const QString &piece)
@@ -25,11 +25,12 @@ QString repeated(const QString &piece)
     return piece.repeated(CHARACTERS / piece.length() + 1).left(CHARACTERS);
 }
 
-/** Beats each millisecond, and remembers its longest pause. */
+/** Beats every millisecond and records the longest pause. */
 class Heart
 {
 public:
-    /// Runs the work in the event loop, then waits until the window has come to rest.
+    /// Runs the work in the event loop, waits until the window is idle, and returns the longest
+    /// pause in milliseconds.
     static double longestPause(const std::function<void()> &work, const std::function<int()> &size)
     {
         Heart heart(work, size);
@@ -105,7 +106,7 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
 {
     std::vector<double> pauses;
     pauses.reserve(RUNS);
-    pause(reply); // fonts of other scripts are loaded once
+    pause(reply); // warms up: fonts of other scripts are loaded once
     for (int run = 0; run < RUNS; ++run)
         pauses.push_back(pause(reply));
     Benchmark::report(

@@ -1,9 +1,9 @@
 #ifndef INSTANT_TKSV_H
 #define INSTANT_TKSV_H
 
-/// While held, the device takes a request and answers it when it is let go. GUI thread.
+/// Holds the device, which then delays its answers until it is released. GUI thread.
 extern "C" __attribute__((visibility("default"))) void instant_tksv_hold(bool held);
-/// Lets the device go and returns when its answer has been taken. GUI thread.
+/// Releases the device and returns when its answer has been handled. GUI thread.
 extern "C" __attribute__((visibility("default"))) void instant_tksv_settle();
 
 #endif

@@ -1,14 +1,14 @@
 /*
- * A command's way to a real ModemManager and back, on a private bus, with a fake modem that answers
- * at once: through plug-in, SDK and daemon, against the daemon's own library and its own tool. Then
- * whole programs: from the start to the first reply, and what they do while nothing happens. Built
- * twice, as the pipeline's benchmark: with log lines that go to a handler that drops them, and
- * without any.
+ * Measures a command's round trip to a real ModemManager on a private bus, whose fake modem answers
+ * at once: through plug-in, SDK and daemon, compared with the daemon's own library and tool. Then
+ * measures whole programs: the time from the start to the first reply, and the load of an idle
+ * program. Like the pipeline's benchmark it is built twice: with log lines, which a handler
+ * discards, and without log lines.
  *
- * In the round trips all threads and the daemon stay on one core: left alone, the waking of a
- * sleeping core costs more in one round than all of the library in another.
+ * In the round trips all threads and the daemon are bound to one core. Otherwise waking a sleeping
+ * core could take longer in one round than the whole library takes in another.
  */
-// GLib's headers come before Qt's, to which "signals" is a word of its own.
+// GLib's headers precede Qt's, which define "signals" as a macro.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -191,7 +191,7 @@ void compareFirstReplies()
         [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(TOOL); });
 }
 
-/// How often the threads of a process have begun to wait, and how long they have run.
+/// The number of waits that the threads of a process have started, and their CPU time.
 struct Activity {
     double waits = 0;
     double cpuMilliseconds = 0;
@@ -209,7 +209,7 @@ double valueOf(const std::string &file, const std::string &key)
     return value;
 }
 
-/// The first number of schedstat is the time on a CPU in nanoseconds.
+/// Returns the CPU time of a thread: the first number of its schedstat file.
 double nanosecondsOnCpu(const std::string &thread)
 {
     std::ifstream stream(thread + "/schedstat");
@@ -235,7 +235,7 @@ Activity activityOf(pid_t process)
     return sum;
 }
 
-/// Both at once, after they have had the time to settle.
+/// Measures both programs at the same time, when they have become idle.
 void compareIdling()
 {
     const pid_t ours = spawn({USSD_DASHBOARD});

@@ -1,9 +1,10 @@
 /*
- * A command's way through the pipeline, and what a long queue costs. Built twice: log lines go to a
- * handler that drops them, or are not there at all.
+ * Measures a command's round trip through the pipeline, and the cost of a long queue. It is built
+ * twice: with log lines, which a handler discards, and without log lines.
  *
- * All threads stay on one core, then GUI and device on one each. Left alone they would share a core
- * in one round and not in the next, and the waking of a sleeping core costs more than all the rest.
+ * All threads are bound to one core first; then the GUI and the device have one core each.
+ * Otherwise they would share a core in some rounds only, and waking a sleeping core takes longer
+ * than everything else.
  */
 #include <string>
 
@@ -28,7 +29,7 @@ const double LIMIT = 4;
 const char LOG[] = "log lines to a null handler";
 #endif
 
-/// Counts what arrives on the GUI thread and leaves the event loop when all is there.
+/// Counts the replies on the GUI thread and leaves the event loop after the last one.
 class Counter : public QObject
 {
     Q_OBJECT
@@ -51,7 +52,7 @@ private:
     int m_missing = 0;
 };
 
-/// An end of a bare queued signal.
+/// One end of a bare queued signal.
 class Echo : public QObject
 {
     Q_OBJECT
@@ -62,7 +63,7 @@ signals:
     void answer(int number, QString text);
 };
 
-/// A signal to another thread, and one back.
+/// Sends a signal to another thread, which sends one back.
 class BareRoundTrip
 {
 public:
@@ -94,7 +95,7 @@ private:
     Counter m_counter;
 };
 
-/// The pipeline from its making to its end.
+/// Constructs the pipeline and deletes it at the end.
 class Pipeline
 {
 public:
@@ -135,7 +136,8 @@ public:
         m_counter.await(length);
     }
 
-    /// Behind a cleared list: an answer that finds it empty takes the time-out back.
+    /// To be called after the queue was cleared. The next answer, for which no command is left,
+    /// cancels the timer.
     void settle() { instant_tksv_settle(); }
 
 private:
@@ -158,7 +160,8 @@ double eachOf(int times, const Trip &trip)
            times;
 }
 
-/// Times one step for queues of this length, for as many commands in all as the long one holds.
+/// Measures one step for queues of this length. Short queues are repeated until the total number of
+/// commands equals that of the long queue.
 double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
 {
@@ -171,7 +174,7 @@ double stepOfQueue(int length, const std::function<void()> &before,
     return sum / LONG_QUEUE;
 }
 
-/// A step with the queue of the length that it is asked for.
+/// Performs a step with a queue of the given length and returns its time.
 typedef std::function<double(int)> QueueStep;
 
 void compareQueues(const char *step, const QueueStep &measure)

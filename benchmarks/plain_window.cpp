@@ -1,6 +1,6 @@
 /*
- * The dashboard's main window as it looks at the start, made of Qt's own widgets alone: no device,
- * no files, no languages. It says what of the dashboard's start is Qt's.
+ * A copy of the dashboard's main window that consists of plain Qt widgets, without a device, files
+ * or languages. It shows which part of the dashboard's start-up time Qt needs.
  */
 #include <QApplication>
 #include <QFrame>

@@ -1,6 +1,6 @@
 /*
- * Whole processes: from the start of a program until its first window is painted, and the memory it
- * has taken by then. Both programs are watched by the same library (first_window.cpp).
+ * Measures whole processes: the time from the start of a program until its first window is painted,
+ * and the memory used by then. The same preloaded library (first_window.cpp) watches both programs.
  */
 #include <algorithm>
 #include <cstdio>
@@ -49,7 +49,7 @@ std::string readAll(int descriptor)
     return text;
 }
 
-/// This process's environment with the watching library in front.
+/// Returns this process's environment with the watching library in LD_PRELOAD.
 std::vector<std::string> watchedEnvironment(int descriptor)
 {
     char **end = environ;
@@ -118,7 +118,7 @@ int main()
 {
     std::vector<Start> dashboard, plain, empty;
     for (const char *program : {USSD_DASHBOARD, USSD_PLAIN_WINDOW, USSD_EMPTY_WINDOW})
-        start(program); // into the page cache
+        start(program); // fills the page cache
     for (int i = 0; i < STARTS; ++i) {
         dashboard.push_back(start(USSD_DASHBOARD));
         plain.push_back(start(USSD_PLAIN_WINDOW));

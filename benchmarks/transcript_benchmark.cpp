@@ -1,5 +1,5 @@
 /*
- * One entry more in a transcript that is long already.
+ * Measures adding an entry to a long transcript.
  */
 #include <QApplication>
 
@@ -47,7 +47,7 @@ double addOne(TranscriptView &view)
 
 double addOneToShort(TranscriptView &view)
 {
-    fill(view, SHORT); // the last round made it longer
+    fill(view, SHORT); // the previous round has added entries
     return addOne(view);
 }
 

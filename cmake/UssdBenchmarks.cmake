@@ -1,10 +1,10 @@
-# Benchmarks. They are built with everything else and run by benchmarks/run only.
+# Benchmarks. They are built with everything else, but only benchmarks/run runs them.
 #
 #   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints rows of figures
 #   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks need
-#   ussd_list_benchmarks()                             writes their names down for benchmarks/run
+#   ussd_list_benchmarks()                             writes the list of names for benchmarks/run
 #
-# The target "benchmarks" builds them all.
+# The target "benchmarks" builds all of them.
 add_custom_target(benchmarks)
 
 function(ussd_add_helper name)

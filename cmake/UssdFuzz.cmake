@@ -2,8 +2,9 @@
 #
 #   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
 #
-# NAME is a program for runs of any length, and a test of the same name that tries RUNS inputs with a
-# fixed seed. Seeds lie in corpus/NAME; what once was found stays there as a seed.
+# Adds the program NAME for runs of any length, and a test of the same name that tries RUNS inputs
+# with a fixed random seed. The inputs to start from are in corpus/NAME, which also keeps every input
+# that once caused a failure.
 
 set(USSD_FUZZ_SECONDS_FOR_ONE_INPUT 20)
 
@@ -23,7 +24,7 @@ function(ussd_add_fuzzer name)
     ussd_add_script_test(${name} COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/fixed_runs.sh
                          $<TARGET_FILE:${name}> ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}
                          ${arg_RUNS} ${options} LABELS fuzz)
-    # What scripts/fuzz.sh needs to know of it.
+    # The parameters of the fuzzer, for scripts/fuzz.sh.
     file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/tests/fuzz/${name}.options
          CONTENT "$<JOIN:${options},\n>\n")
 endfunction()

@@ -1,10 +1,10 @@
-# Where things lie. The build tree is laid out like the installed prefix, so that one rule
-# (a path relative to the library that asks) finds the files in both.
+# The layout of the files. The build tree has the same layout as the installed prefix, so that a
+# path relative to the library that uses it is valid in both.
 include(GNUInstallDirs)
 
 set(USSD_PACKAGE ussd-dashboard)
 set(USSD_LIB_DIR ${CMAKE_INSTALL_LIBDIR})
-set(USSD_HOST_DIR ${CMAKE_INSTALL_LIBDIR}/${USSD_PACKAGE}) # what GetPluginLibraryPath() names
+set(USSD_HOST_DIR ${CMAKE_INSTALL_LIBDIR}/${USSD_PACKAGE}) # returned by GetPluginLibraryPath()
 set(USSD_PLUGIN_DIR ${USSD_HOST_DIR}/plugins/USSDUIPlugin)
 set(USSD_SHARE_DIR ${CMAKE_INSTALL_DATAROOTDIR}/${USSD_PACKAGE})
 file(RELATIVE_PATH USSD_SHARE_FROM_LIB /prefix/${USSD_LIB_DIR} /prefix/${USSD_SHARE_DIR})
@@ -13,13 +13,13 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${USSD_LIB_DIR})
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/archives)
 
-# A relative run path keeps an installed prefix movable; the linker writes it as RUNPATH
-# (not RPATH), so that LD_LIBRARY_PATH can put another device SDK library in place.
+# A relative run path keeps an installed prefix movable. The linker writes it as RUNPATH (not RPATH),
+# so that LD_LIBRARY_PATH can select another device SDK library.
 file(RELATIVE_PATH USSD_LIB_FROM_BIN /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${USSD_LIB_DIR})
 file(RELATIVE_PATH USSD_LIB_FROM_PLUGIN /prefix/${USSD_PLUGIN_DIR} /prefix/${USSD_LIB_DIR})
 
-# ussd_add_data(TARGET DESTINATION FILE...): files that are installed to DESTINATION (relative
-# to the prefix) and stand at the same place in the build tree.
+# ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION (relative to the
+# prefix) and copies them to the same place in the build tree.
 function(ussd_add_data target destination)
     set(copies)
     foreach(file IN LISTS ARGN)

@@ -19,7 +19,7 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 5 or 4")
 endif()
-# Strings without a named encoding mean different things in Qt 4 and Qt 5.
+# Forbids implicit conversions of strings, whose encoding differs between Qt 4 and Qt 5.
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)
 target_link_libraries(ussd_qttest INTERFACE ussd_qtcore)

@@ -1,11 +1,10 @@
 /*
- * The smallest host: loads the plug-in, shows its general window in a widget of its own and takes
- * the plug-in down in the order that leaves nothing behind. docs/host-integration.md has the
- * reasons.
+ * A minimal host: loads the plug-in, shows its general window in a widget of its own and shuts the
+ * plug-in down in the required order. docs/host-integration.md explains the order.
  *
  *   minimal-host [--once CODE] [PLUGIN-FILE]
  *
- * --once sends CODE through the window, prints the transcript and ends.
+ * --once sends CODE through the window, prints the transcript and exits.
  */
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -60,7 +59,8 @@ Options optionsOf(QStringList arguments)
     return options;
 }
 
-/// Each step that can fail by itself; the result is what failed, empty when nothing did.
+/// Loads the plug-in and gets its interfaces. Returns an error message, or an empty text on
+/// success.
 QString take(QPluginLoader &loader, Plugin &plugin)
 {
     QObject *instance = loader.instance();
@@ -78,12 +78,12 @@ QString take(QPluginLoader &loader, Plugin &plugin)
     return plugin.ussd ? QString() : QLatin1String("the USSD service lacks its interface");
 }
 
-/// On the GUI thread, while the widgets that host the plug-in's page still exist.
+/// Must be called on the GUI thread while the widgets that contain the plug-in's page still exist.
 void shutDown(QPluginLoader &loader, Plugin &plugin)
 {
     HostCore::HostState::setShuttingDown(true);
     if (plugin.window) {
-        plugin.window->UnSDKRegisterEvent(); // from here on nothing of the device calls in
+        plugin.window->UnSDKRegisterEvent(); // ends all call-backs of the device SDK
         plugin.window->OnDestroy();
     }
     plugin = Plugin();
@@ -93,7 +93,7 @@ void shutDown(QPluginLoader &loader, Plugin &plugin)
     }
 }
 
-/// As a user types: text that is set by a program counts as not edited.
+/// Delivers the text as an input method would, because setText() does not emit textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     QInputMethodEvent event;
@@ -106,7 +106,8 @@ QString named(const char *role)
     return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
 }
 
-/// The field is disabled while the answer is awaited; the plug-in's reply timer ends that at last.
+/// Sends the code and waits for the answer. The plug-in disables the field meanwhile, at most until
+/// its reply timer ends.
 int sendOnce(QWidget *page, const QString &code)
 {
     const QPointer<QLineEdit> edit(page->findChild<QLineEdit *>(named("USSDCmdEdit")));
@@ -143,7 +144,7 @@ int main(int argc, char **argv)
     QWidget page;
     page.setFixedSize(600, 520);
     HostCore::HostState::setMainWindow(
-        &page); // what the plug-in's frames and messages are centred over
+        &page); // frames and messages of the plug-in are centred over it
     QPluginLoader loader(options.file);
     Plugin plugin;
     const QString problem = take(loader, plugin);
