@@ -28,7 +28,8 @@ bool isInFolder(const char *path)
     return strncmp(path, g_folder, strlen(g_folder)) == 0;
 }
 
-/// Relative paths belong to programs that stand in their folder; none of ours does.
+/// Returns whether the path is below the watched folder. Relative paths are ignored because no
+/// program of this project uses them.
 bool isWatched(const char *path)
 {
     return g_kind != DiskFaults::None && isInFolder(path);
@@ -53,7 +54,7 @@ bool isDue()
     return g_stepsLeft > 0 ? --g_stepsLeft == 0 : true;
 }
 
-/// Takes a step; false when it has to fail, with errno set.
+/// Counts a step. Returns false and sets errno when the step has to fail.
 bool take(Need need)
 {
     const int kind = g_kind;
@@ -81,7 +82,7 @@ bool changes(const char *path, int flags)
 
 int openFile(int folder, const char *path, int flags, mode_t mode)
 {
-    const int error = errno; // access() is none of the caller's
+    const int error = errno; // the caller must not see the errno of access()
     const bool changing = isWatched(path) && changes(path, flags);
     const Need need = changing && access(path, F_OK) != 0 ? Room : NoRoom;
     errno = error;
@@ -90,7 +91,7 @@ int openFile(int folder, const char *path, int flags, mode_t mode)
     return int(syscall(SYS_openat, folder, path, flags, mode));
 }
 
-/// A kill in the middle leaves half of it.
+/// Writes only the first half, as a process that is killed during the call does.
 void takeHalfOfWrite(int descriptor, const void *data, size_t size)
 {
     if (g_kind != DiskFaults::Kill || !isDue())

@@ -4,29 +4,29 @@
 #include <string>
 
 /*
- * Faults at the n-th step that this process takes on the files below a folder. What counts as a
- * step: open() that makes or empties a file, write(), fsync(), ftruncate(), rename(), link(),
- * symlink(), mkdir(), chmod(), unlink() and rmdir(), in all their forms. They are put in front of
- * the C library's, for the program that is linked with this file and for all libraries it loads.
+ * Injects a fault at the n-th step of this process on the files below a folder. Steps are open() if
+ * it creates or truncates a file, write(), fsync(), ftruncate(), rename(), link(), symlink(),
+ * mkdir(), chmod(), unlink() and rmdir(), in all their variants. These functions replace those of
+ * the C library, in the program that is linked with this file and in all libraries that it loads.
  *
- * A program that is only started gets its fault from the environment:
+ * A program that a test starts gets its fault from the environment:
  * USSD_DISK_FAULT=kill:STEP:FOLDER, full:STEP:FOLDER or read-only:STEP:FOLDER.
  */
 
-const int KILLED = 77; // what a killed process ends with
+const int KILLED = 77; // exit code of a killed process
 
 namespace DiskFaults
 {
 
 enum Kind {
     None,
-    Kill,    // ends the process, as a kill would, before the step; a write takes two steps, of
-             // which the second one is killed when half is written
-    Full,    // from that step on no file grows, and none is made
-    ReadOnly // from that step on nothing can be changed
+    Kill,    // ends the process before the step, as a kill would; a write counts as two steps, and
+             // a kill at the second one leaves half of the data written
+    Full,    // from that step on, no file can grow or be created
+    ReadOnly // from that step on, nothing can be changed
 };
 
-/// Counts from 1, anew with each call.
+/// Sets the fault. Steps are counted from 1, and each call restarts the count.
 void set(Kind kind, int step, const std::string &folder);
 
 } // namespace DiskFaults

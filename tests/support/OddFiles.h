@@ -4,16 +4,17 @@
 #include <QString>
 
 /*
- * What may stand in the place of a file that a program reads: a named pipe, a folder, a device, a
- * file without end. For a data function and its test function.
+ * Provides a data function and its test function with what a program may find in place of a file
+ * that it reads: a named pipe, a folder, a device, or an endless file.
  */
 namespace OddFiles
 {
 
-/// In the data function: one row for each of them, one of them a file that has a byte too many.
+/// Adds a row for each kind; to be called in the data function. One kind is a file that is a byte
+/// too large.
 void addColumns(qint64 mostBytes = 8 * 1024 * 1024);
-/// In the test function: puts the row's thing there, in place of what is there. Returns what is to
-/// be said of it.
+/// Replaces the file at `path` by the kind of the row; to be called in the test function. Returns
+/// the expected error message.
 QString make(const QString &path);
 
 } // namespace OddFiles

@@ -7,10 +7,10 @@
 
 namespace
 {
-// The plug-in logs on the warning channel too; its lines carry its source path.
+// The plug-in writes log lines as warnings too. They contain its source path.
 const char PLUGIN_SOURCE_PATH[] = "../../src/USSDUIPlugin/";
 
-// The platform without a display says so for each window; that is no fault of ours.
+// The offscreen platform prints this for each window, which is not an error of this project.
 const char OFFSCREEN_NOTICE[] = "This plugin does not support ";
 
 bool isWarning(QtMsgType type)
@@ -91,7 +91,7 @@ QStringList TestLog::missingWarnings() const
     return missing;
 }
 
-// QtTest's own handler is not made for several threads, so that only the main one reaches it.
+// QtTest's handler is not thread-safe, so it is called on the main thread only.
 void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     TestLog &log = instance();
@@ -105,7 +105,8 @@ void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QS
         log.m_previous(type, context, text);
 }
 
-/// False for what has to be shown: unannounced warnings, and lines that are not the plug-in's.
+/// Stores the message. Returns false if it must be shown too: an unexpected warning, or a line that
+/// the plug-in has not written.
 bool TestLog::keep(QtMsgType type, const QString &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -8,23 +8,23 @@
 #include <mutex>
 #include <vector>
 
-/// Takes Qt's messages over, keeps them, and finds the warnings that nobody announced.
+/// Collects Qt's messages and finds warnings that the test has not announced.
 class TestLog
 {
 public:
     static TestLog &instance();
 
-    /// Puts this log in front of the handler that QtTest has set. Twice is the same as once.
+    /// Installs this log as Qt's message handler, in front of QtTest's. A second call does nothing.
     void takeOver();
 
-    /// Forgets lines and announcements.
+    /// Discards all lines and announcements.
     void begin();
     void clearLines();
     void expect(const QString &part, bool required);
 
     QStringList lines() const;
     QStringList unexpectedWarnings() const;
-    QStringList missingWarnings() const; ///< announced as required, but not come
+    QStringList missingWarnings() const; ///< announced as required, but not written
 
 private:
     struct Line {

@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 /*
- * Tells when another thread of this process has come to a place where it waits, so that a test that
- * orders threads needs no pause that is "long enough".
+ * Detects that another thread of this process waits, so that a test which orders threads needs no
+ * pause of a guessed length.
  */
 namespace ThreadWatch
 {
@@ -22,19 +22,19 @@ inline ThreadId currentThread()
     return syscall(SYS_gettid);
 }
 
-/// Whether the thread sleeps in the kernel, waiting for a lock, a condition or a time, or has
-/// ended.
+/// Returns whether the thread sleeps in the kernel, waiting for a lock, a condition or a time, or
+/// has ended.
 inline bool isAsleepOrGone(ThreadId thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
     std::string line;
     if (!std::getline(file, line))
         return true;
-    const std::size_t nameEnd = line.rfind(')'); // a name may hold blanks
+    const std::size_t nameEnd = line.rfind(')'); // a name may contain blanks
     return nameEnd != std::string::npos && line.compare(nameEnd, 3, ") S") == 0;
 }
 
-/// Returns when the thread sleeps or has ended. The watchdog ends what never does.
+/// Waits until the thread sleeps or has ended. The watchdog ends a test in which it never does.
 inline void waitUntilAsleepOrGone(ThreadId thread)
 {
     while (!isAsleepOrGone(thread))

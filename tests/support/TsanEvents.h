@@ -4,18 +4,18 @@
 #include <QApplication>
 
 /*
- * Debian's Qt was not built with the thread sanitizer, which therefore does not see that a queued
- * signal or a QMutex orders two threads, and takes correct code for a race. TsanQt.cpp stands in
- * front of the functions concerned and tells it. In builds without the thread sanitizer none of
- * this does anything.
+ * Tells the thread sanitizer how Qt orders threads. Debian's Qt is built without the sanitizer,
+ * which therefore does not know that a queued signal or a QMutex orders two threads, and reports
+ * races in correct code. TsanQt.cpp wraps the functions concerned. In builds without the thread
+ * sanitizer, these functions do nothing.
  */
 
 namespace TsanEvents
 {
 #ifdef USSD_THREAD_SANITIZER
-/// Called with an event about to be handled: what its sender did before comes before.
+/// To be called before an event is handled: everything that its sender did earlier happened before.
 void acquire();
-/// Called with an event handled: for whoever waits for that.
+/// To be called after an event was handled, for threads that wait for it.
 void releaseHandled();
 #else
 inline void acquire() {}

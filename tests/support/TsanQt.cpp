@@ -1,11 +1,11 @@
 /*
- * Stands in front of Qt's functions that order threads, for the thread sanitizer's eyes only (see
- * TsanEvents.h). Each does what the real one does and tells the sanitizer what that meant. They
- * have the real ones' names as the linker knows them: `this` comes as the first argument.
+ * Wraps the functions of Qt that order threads, for the thread sanitizer (see TsanEvents.h). Each
+ * wrapper calls the original function and tells the sanitizer about its effect. The wrappers have
+ * the mangled names of the original functions, so `this` is the first argument.
  *
- * One label serves all events, since Qt does not say which event a signal became: an event is taken
- * to come after everything that was emitted or posted before, by any thread. Races that are hidden
- * by that are those between the emission and a handler of another signal.
+ * One label is used for all events because Qt does not report which event a signal became. Every
+ * event is assumed to happen after everything that any thread emitted or posted earlier. This hides
+ * races between an emission and the handler of another signal.
  */
 #include "TsanEvents.h"
 
@@ -22,8 +22,8 @@
 
 namespace
 {
-char posted;  // released by who emits or posts, acquired by who handles
-char handled; // released by who has handled, acquired by who waited for it
+char posted;  // released by a thread that emits or posts, acquired by the one that handles
+char handled; // released by a thread that has handled an event, acquired by the one that waited
 
 template <typename Function>
 Function *realOne(const char *symbol)
@@ -93,7 +93,7 @@ void tsanMutexUnlock(QMutex *mutex)
     __tsan_mutex_post_unlock(mutex, 0);
 }
 
-// Another mutex may come to stand at the same address.
+// Another mutex may be created at the same address.
 #define MUTEX_DESTROY "_ZN6QMutexD1Ev"
 void tsanMutexDestroy(QMutex *mutex) STANDS_FOR(MUTEX_DESTROY);
 void tsanMutexDestroy(QMutex *mutex)
@@ -107,7 +107,7 @@ void tsanMutexDestroy(QMutex *mutex)
 
 namespace
 {
-// A wait gives the mutex away and takes it again, deep inside of Qt.
+// A wait unlocks and locks the mutex inside Qt.
 template <typename Wait>
 bool waitWithout(QMutex *mutex, Wait wait)
 {
@@ -189,7 +189,7 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
             "ConnectionTypeEPv");
     const bool blocks = type == Qt::BlockingQueuedConnection;
     if (blocks)
-        slot->ref(); // else it dies inside of Qt, before the sanitizer has learnt that it was used
+        slot->ref(); // keeps it alive until the sanitizer has recorded its use
     __tsan_release(&posted);
     const bool done = real(object, slot, type, result);
     if (blocks) {

@@ -21,19 +21,20 @@ inline QString latin1(const char *text)
 QByteArray contentOf(const QString &path);
 
 /**
- * What every test class of this project is made of. A test function fails when Qt or the code under
- * test prints a warning that nobody announced, is ended with a message when it hangs, and gets a
- * folder of its own.
+ * The base class of all test classes of this project. A test function fails when Qt or the code
+ * under test prints an unexpected warning. A test function that hangs is ended with a message. Each
+ * test function has a folder of its own.
  *
- * Derive from it, override setUp() and tearDown() instead of declaring init() and cleanup(), and
- * close the file with USSD_TEST_MAIN(Class).
+ * A test class derives from it, overrides setUp() and tearDown() instead of declaring init() and
+ * cleanup(), and its file ends with USSD_TEST_MAIN(Class).
  */
 class UssdTest : public QObject
 {
     Q_OBJECT
 
 public:
-    /// True when the base class's own slots ran, and no derived class has hidden them.
+    /// Returns whether the slots of the base class were called, that is, no derived class hides
+    /// them.
     bool isInOrder() const { return m_testsBegun > 0 && m_testsBegun == m_testsEnded; }
 
 protected:
@@ -44,28 +45,29 @@ protected:
     virtual void tearDownClass() {}
 
     // ---- log lines, of any thread
-    /// A warning that contains `part` has to come in this test, at least once.
+    /// Requires at least one warning that contains `part` in this test function.
     void expectWarning(const QString &part);
     void expectWarning(const char *part) { expectWarning(QString::fromUtf8(part)); }
 
-    /// A warning that contains `part` may come in this test.
+    /// Allows warnings that contain `part` in this test function.
     void allowWarning(const QString &part);
     void allowWarning(const char *part) { allowWarning(QString::fromUtf8(part)); }
 
-    /// All lines since the test function began, or since clearLog(), on any channel.
+    /// Returns all lines since the test function started or clearLog() was called, on any channel.
     QStringList logLines() const;
 
-    /// How many of them contain `part`.
+    /// Returns the number of log lines that contain `part`.
     int timesLogged(const QString &part) const;
     int timesLogged(const char *part) const { return timesLogged(QString::fromUtf8(part)); }
     void clearLog();
 
-    // ---- a folder that is empty when the test function begins and gone after it
+    // ---- a folder that is empty when the test function starts and is deleted after it
     QString folder();                                                  ///< no separator at its end
-    QString writeFile(const QString &name, const QByteArray &content); ///< gives its path
+    QString writeFile(const QString &name, const QByteArray &content); ///< returns the path
 
     // ---- events
-    /// Handles what is queued, what that queues in turn, and deferred deletions; waits for nothing.
+    /// Handles all queued events, events that they queue in turn, and deferred deletions. Does not
+    /// wait for further events.
     static void drainEvents();
 
 private slots:
@@ -82,7 +84,7 @@ private:
 
 namespace UssdTestPrivate
 {
-/// Before the application is made: no display, fixed names and language.
+/// Sets up the process before the application is constructed: no display, fixed names and language.
 void prepareProcess();
 int finish(const UssdTest &test, int failures);
 } // namespace UssdTestPrivate

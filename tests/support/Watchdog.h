@@ -7,8 +7,8 @@
 #include <string>
 #include <thread>
 
-/// Ends the process with a message when a test function takes too long: $USSD_TEST_SECONDS, or 90
-/// s, which is less than what CTest allows, so that the message names the function.
+/// Ends the process with a message when a test function takes longer than $USSD_TEST_SECONDS, or 90
+/// s by default. The limit is below that of CTest, so that the message names the function.
 class Watchdog
 {
 public:
@@ -26,10 +26,10 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::string m_what; // empty while nothing is watched
+    std::string m_what; // the watched test function; empty when there is none
     Clock::time_point m_until;
     bool m_ending = false;
-    std::thread m_thread; // last, since it uses all the others
+    std::thread m_thread; // the last member because the thread uses the others
 };
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <thread>
 
-/// Tests that have to fail. CTest runs each of them alone and looks for the reason.
+/// Tests that have to fail. CTest runs each of them separately and checks the reason.
 class SupportFailing : public UssdTest
 {
     Q_OBJECT

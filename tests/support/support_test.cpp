@@ -6,7 +6,7 @@
 
 #include <thread>
 
-/// What UssdTest promises to a test that behaves; support_failing.cpp has those that do not.
+/// Tests what UssdTest promises to a correct test class. support_failing.cpp has incorrect ones.
 class SupportTest : public UssdTest
 {
     Q_OBJECT

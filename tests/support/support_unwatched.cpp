@@ -1,6 +1,6 @@
 #include "UssdTest.h"
 
-/// Hides what watches its tests.
+/// Hides the slots of the base class that watch the tests.
 class SupportUnwatched : public UssdTest
 {
     Q_OBJECT
