@@ -1,6 +1,6 @@
 /*
- * Prints what the core library that was loaded says: first its folders, then one text for each
- * argument of the form LANGUAGE:KEY. For tests that put the library into a place of their own.
+ * Prints the folders that the loaded core library returns, and a text for each argument of the form
+ * LANGUAGE:KEY. It serves tests that copy the library to another place.
  */
 #include <QCoreApplication>
 #include <QTextStream>

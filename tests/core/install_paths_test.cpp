@@ -33,7 +33,7 @@ void store(const QString &path, const QByteArray &content)
 
 } // namespace
 
-/** Where files are found, and with which texts, when the whole prefix lies somewhere else. */
+/** Tests that files and texts are found when the whole prefix has been moved. */
 class InstallPathsTest : public UssdTest
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
-/** Asks for texts on a thread of its own until it ends, and counts those of no language. */
+/** Looks up texts on a thread of its own and counts those that belong to no language. */
 class Reader
 {
 public:
@@ -212,14 +212,14 @@ void LanguagesTest::everyDamageIsSeen_data()
     }
 }
 
-/// About one in a hundred of them ended the program when a text was asked for.
+/// Without the checksum, about one in a hundred damaged files crashed the program at a look-up.
 void LanguagesTest::everyDamageIsSeen()
 {
     QFETCH(QByteArray, content);
     QVERIFY(!HostCore::Languages::isWhole(content));
 }
 
-/// The checksum is a section that others pass over.
+/// The checksum is in a section that QTranslator skips.
 void LanguagesTest::anyTranslatorReadsTheFiles()
 {
     for (const QString &code : HostCore::Languages::codes()) {

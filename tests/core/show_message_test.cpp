@@ -49,7 +49,7 @@ private slots:
     void aLongTextStaysOnTheScreen();
 
 private:
-    /// Asks, and does `answer` with the box once it is open.
+    /// Shows the message, calls `answer` with the open box, and returns the result of the message.
     int ask(const std::function<void(QMessageBox *)> &answer, const QString &text,
             bool secondButton = true, QWidget *parent = nullptr);
     int ask(const std::function<void(QMessageBox *)> &answer, bool secondButton = true)

@@ -11,7 +11,7 @@
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
-/** A dashboard on the device SDK that does what a test says. */
+/** The base class of tests that run the dashboard with the fake device SDK. */
 class DeviceTest : public UssdTest
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    /// What the device tells from now on; waits until the dashboard has heard of it.
+    /// Sets the status of the device and waits until the dashboard has received it.
     void tell(const TKSV_DeviceInfo &info);
     void tellModems(const std::vector<TKSV_Modem> &modems);
     static TKSV_DeviceInfo modemInfo(int state, int problem = 0, int pinRetries = -1);
@@ -27,7 +27,7 @@ protected:
 
     MainWindow &window() { return *m_window; }
     DashboardSettings &settings() { return *m_settings; }
-    /// With the plug-in in its page.
+    /// Loads the plug-in into the page.
     void loadPlugin();
     template <typename T>
     T *part(const char *name) const
@@ -35,7 +35,7 @@ protected:
         return m_window->findChild<T *>(QLatin1String(name));
     }
     QAction *networkAction(const QString &text) const;
-    /// The text of a line that tells something; empty while it is hidden.
+    /// Returns the text of a notice; empty while the notice is hidden.
     QString notice(const char *name) const;
 
 private:

@@ -10,7 +10,8 @@
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
-/** A dashboard on a plug-in library of its own, for tests that change the SIM under it. */
+/** The base class of tests that run the dashboard with a plug-in library folder of its own and
+ * change the SIM. */
 class SimTest : public UssdTest
 {
     Q_OBJECT
@@ -20,20 +21,20 @@ protected:
 
     void makeLibrary();
     void closeDashboard();
-    /// Changes the plug-in's configuration; before openDashboard().
+    /// Changes the plug-in's configuration. Must be called before openDashboard().
     bool configure(const char *anchor, const char *before, const char *after);
     void openDashboard();
-    /// Switches to a network of these lines, with these keys of [Network] and these codes.
+    /// Selects a simulated network with this IMSI, these keys of [Network] and these codes.
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 
     MainWindow &window() { return *m_window; }
     UiPlugin &plugin() { return *m_plugin; }
     GeneralWindow page() const { return GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
-    /// The windows that have a button to be seen, such as "general prepaid".
+    /// Returns the windows whose buttons are visible, such as "general prepaid".
     QString offered() const;
     QString paidType() const;
-    /// The frame of the plug-in that is open; null when none is.
+    /// Returns the open frame of the plug-in, or null.
     static QWidget *frame();
 
     QScopedPointer<PrivateLibrary> m_library;

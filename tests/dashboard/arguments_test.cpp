@@ -4,7 +4,7 @@
 namespace
 {
 
-/// The words of a line; a blank stands between them.
+/// Parses a command line, whose words are separated by single blanks.
 Arguments parse(const char *line)
 {
     return parseArguments(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts));

@@ -3,7 +3,7 @@
 #include "Languages.h"
 #include "window/DeviceMenu.h"
 
-/** The menu of devices, and the words for what is wrong with them. */
+/** Tests the menu of devices and the texts about their problems. */
 class DeviceChoiceTest : public DeviceTest
 {
     Q_OBJECT
@@ -104,7 +104,7 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
 {
     QTest::addColumn<int>("problem");
     QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("word"); // that every language has
+    QTest::addColumn<QString>("word"); // is part of the text in every language
     const auto row = [](int problem, int state, const char *word) {
         QTest::newRow(word) << problem << state << QString::fromLatin1(word);
     };

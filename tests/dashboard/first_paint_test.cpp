@@ -8,7 +8,7 @@
 namespace
 {
 
-/// Counts its paints.
+/// Counts its paint events.
 class Window : public QWidget
 {
 public:

@@ -14,7 +14,8 @@
 namespace
 {
 
-/** Looks to the helper as the plug-in's window does. */
+/** A window with the plug-in's object names, which the keyboard helper takes for the general
+ * window. */
 class LookAlike : public QWidget
 {
 public:
@@ -133,7 +134,7 @@ void KeyboardTest::theFocusComesBackWithTheAnswer()
     QTRY_VERIFY(window.edit->hasFocus());
 }
 
-/// Nothing but keys, and where they go is where the focus is.
+/// Talks to the network by key events only, which are sent to the widget with the focus.
 void KeyboardTest::talk(const GeneralWindow &general)
 {
     QVERIFY(general.isComplete());

@@ -8,7 +8,7 @@
 #include "sim/PaidTypeFinder.h"
 #include "window/NetworkTextPanel.h"
 
-/** What the network says of its own accord. */
+/** Tests how the dashboard shows messages that the network sends on its own initiative. */
 class NetworkTextTest : public DeviceTest
 {
     Q_OBJECT
@@ -156,7 +156,7 @@ void NetworkTextTest::aMenuWithoutItsTextIsSaidInWords()
     QVERIFY(isAsking());
 }
 
-// The question whether the SIM is prepaid would end the menu.
+// The question whether the SIM is prepaid would close the menu.
 void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
 {
     loadPlugin();
@@ -166,7 +166,7 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
     std::strcpy(info.imsi, "001010000000007");
     QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
     tell(info);
-    QVERIFY(settled.wait(10000)); // now the question would go out
+    QVERIFY(settled.wait(10000)); // without a menu, the question would be sent now
     drainEvents();
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());

@@ -1,6 +1,6 @@
 /*
- * Opens the dashboard as its main function does, closes it once the plug-in's page is there, and
- * ends with 0 when it went through its orderly end and remembered its place.
+ * Opens the dashboard as its main function does and closes it when the plug-in's page is visible.
+ * The exit code is 0 if the dashboard ended normally and saved the geometry of its window.
  */
 #include <QApplication>
 #include <QMainWindow>
@@ -34,7 +34,7 @@ public:
     }
 
 private:
-    // With the frame open and a command on its way, so that both have to be ended.
+    // Closes the window while a frame is open and a command is pending, so that both must be ended.
     void look()
     {
         for (QWidget *widget : QApplication::topLevelWidgets()) {

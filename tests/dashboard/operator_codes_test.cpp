@@ -32,7 +32,7 @@ const char SILENT[] = "HomeNetwork=99903";
 
 } // namespace
 
-/** The codes of a SIM's operator, from the proposal to the plug-in. */
+/** Tests how codes of a SIM's operator are proposed, taken and loaded by the plug-in. */
 class OperatorCodesTest : public SimTest
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private:
     QString changedFile();
     void answerBox(bool yes);
 
-    QString m_asked; // in the message box that was answered
+    QString m_asked; // the text of the message box that was answered
 };
 
 void OperatorCodesTest::setUp()
@@ -127,7 +127,7 @@ QString OperatorCodesTest::changedFile()
     return file.fileName();
 }
 
-/// The next message box, whenever it opens.
+/// Answers the next message box as soon as it opens.
 void OperatorCodesTest::answerBox(bool yes)
 {
     QTimer *timer = new QTimer(&window());
@@ -169,7 +169,7 @@ void OperatorCodesTest::ofSeveralNoneIsChosenSilently()
 {
     useSim(SEVERAL);
     QVERIFY(notice().contains(QLatin1String("Several")));
-    take(); // the button asks
+    take(); // the button asks for confirmation
     QCOMPARE(inUse(), QString());
     QPushButton *ok = window().findChild<QPushButton *>(QLatin1String("Dashboard_OperatorOk"));
     QVERIFY(ok && !ok->isEnabled());
@@ -304,7 +304,7 @@ void OperatorCodesTest::whatAPersonChangedIsKeptWhenSetAside()
 
 void OperatorCodesTest::aFolderChosenOutsideStays()
 {
-    QVERIFY(!OperatorPlaces::ofUser().isFree); // the test's own folder is named by the variable
+    QVERIFY(!OperatorPlaces::ofUser().isFree); // the test has set the environment variable
     window().operatorCodes().setPlaces(OperatorPlaces::ofUser());
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());

@@ -32,7 +32,7 @@ QString addressee(int index)
 
 } // namespace
 
-/** Whether the SIM is prepaid or postpaid: how the dashboard asks, hears and shows it. */
+/** Tests how the dashboard finds out and shows whether the SIM is prepaid or postpaid. */
 class PaidTypeTest : public SimTest
 {
     Q_OBJECT
@@ -163,7 +163,7 @@ void PaidTypeTest::aSilentNetworkLeavesItUnknown()
     QTRY_VERIFY(window().sim().isAsking());
     QTRY_VERIFY(!window().sim().isAsking());
     QCOMPARE(paidType(), QString());
-    QVERIFY(page().send(QLatin1String("*100#"))); // and it is not asked again
+    QVERIFY(page().send(QLatin1String("*100#"))); // the question is not sent again
     QTRY_COMPARE(page().lastReceived(), QLatin1String("Here"));
     drainEvents();
     QVERIFY(!window().sim().isAsking());
@@ -191,7 +191,7 @@ void PaidTypeTest::anotherSimIsAskedAnew()
     QTRY_COMPARE(paidType(), QLatin1String("Postpaid"));
 }
 
-// The plug-in takes the failure of the question on its way for "postpaid".
+// The plug-in reports the failure of a pending question as "postpaid".
 void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
 {
     openWith(POSTPAID_SIM, SILENT);
@@ -204,7 +204,7 @@ void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
              qPrintable(shown.join(QLatin1String("|"))));
 }
 
-// The plug-in may still be dropping the commands of the device before, on another thread.
+// The plug-in may still cancel the commands of the previous device on another thread.
 void PaidTypeTest::aNewDeviceIsLeftAloneForAMoment()
 {
     openWith(PREPAID_SIM, PREPAID);

@@ -3,7 +3,7 @@
 #include "DeviceTest.h"
 #include "window/PinDialog.h"
 
-/** The PIN of a locked SIM, from the button to the device. */
+/** Tests entering the PIN of a locked SIM, from the button to the device. */
 class PinDialogTest : public DeviceTest
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ QStringList calls()
 
 } // namespace
 
-/** Each way of failing is a step of its own, with words, file and reason. */
+/** Tests that each failure is reported with its own step, message, file and reason. */
 class PluginLoadingTest : public UssdTest
 {
     Q_OBJECT
@@ -138,7 +138,7 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // Behind the mark stand the form of the data, then the major and minor version of Qt.
+    // The mark is followed by the format of the meta data and the major and minor version of Qt.
     const int mark = content.indexOf("QTMETADATA !");
     QVERIFY(mark > 0);
     QCOMPARE(int(content.at(mark + 13)), 5);
@@ -238,7 +238,7 @@ void PluginLoadingTest::theLanguageChangeReachesThePlugin()
 void PluginLoadingTest::theSimChangeReachesThePlugin()
 {
     UiPlugin plugin;
-    plugin.notifySimChange(); // harmless without one
+    plugin.notifySimChange(); // does nothing without a plug-in
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.notifySimChange();
     QCOMPARE(calls().last(), QLatin1String("Notify 579"));

@@ -35,7 +35,7 @@ QMessageBox *openBox()
 
 } // namespace
 
-/** The copy of the user's own codes: when it is made, and when and how it is offered back. */
+/** Tests when the backup copy of the user's own codes is made, and when and how it is restored. */
 class ProfileBackupTest : public SimTest
 {
     Q_OBJECT
@@ -309,7 +309,8 @@ void ProfileBackupTest::theUsersFoldersAreUsed()
     QCOMPARE(backup.copy(), folder() + QLatin1String("/ussd-dashboard/last-good/ussdprofile.xml"));
 }
 
-/// Presses the button whose text begins so in the next message box; Escape for null.
+/// Presses the button whose text begins with `buttonStart` in the next message box; null presses
+/// Escape.
 void ProfileBackupTest::answer(const char *buttonStart)
 {
     QTimer::singleShot(0, this, [this, buttonStart] {
@@ -403,7 +404,7 @@ void ProfileBackupTest::aRestoreThatFailsIsSaid()
     QVERIFY2(said.at(1).contains(m_copy), qPrintable(said.at(1)));
 }
 
-/// Types a code into the first free row of the editor, and saves.
+/// Enters a code in the first free row of the editor and saves.
 void ProfileBackupTest::typeCode()
 {
     QTableWidget *table = openTable();

@@ -47,7 +47,7 @@ Run run(const char *line)
     return run(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts), quickNetwork());
 }
 
-/** One tour for the tests that look at it. */
+/** Takes a tour once for all tests that check its result. */
 class TakenTour
 {
 public:
@@ -94,7 +94,7 @@ int differentPixels(const QImage &a, const QImage &b)
 
 } // namespace
 
-/** The program as a user starts it, on a machine without a display. */
+/** Tests the program as a user starts it, on a machine without a display. */
 class ProgramTest : public UssdTest
 {
     Q_OBJECT
@@ -282,7 +282,7 @@ void ProgramTest::theDeviceInUseIsToldWhenAskedFor()
     QVERIFY(!run("--send *100#").error.contains(source));
 }
 
-// There is no message bus in the tests.
+// The tests run without a message bus, so no modem can be found.
 void ProgramTest::aModemThatIsNotThereIsSaid()
 {
     const Run result = run("--modem 353612345678901 --verbose --send *100#");
@@ -309,7 +309,7 @@ void ProgramTest::noControlCharacterReachesTheTerminal()
     QCOMPARE(result.code, 0);
     QCOMPARE(result.out, QString::fromUtf8("a\xef\xbf\xbd[31mb\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"
                                            "31m\xef\xbf\xbdgfed\xef\xbf\xbd\tz\n"));
-    QVERIFY(result.error.contains(QLatin1String("[31mb"))); // the log shows the reply as well
+    QVERIFY(result.error.contains(QLatin1String("[31mb"))); // the log contains the reply too
     QVERIFY(!result.error.contains(QChar(0x1b)));
     QVERIFY(!result.error.contains(QChar(0x9b)));
 }
@@ -511,7 +511,7 @@ void ProgramTest::theTourTellsWhatEachPictureShows()
           "The codes of Meridian Mobile are in use"})
         QVERIFY2(text.contains(QLatin1String(part)), part);
     QVERIFY(text.contains(QString::fromUtf8("العربية")));
-    QVERIFY(!text.contains(QLatin1String("1357"))); // a PIN that was typed
+    QVERIFY(!text.contains(QLatin1String("1357"))); // the PIN that the tour enters
 }
 
 void ProgramTest::theTourChangesNobodysFiles()

@@ -7,7 +7,7 @@
 namespace
 {
 
-/** Knows one SIM. */
+/** A USSD service that knows a single SIM. */
 class Service : public IUSSD
 {
 public:
@@ -31,7 +31,7 @@ const char ABSENT_FOR_A_MOMENT[] = "\n[*100#]\nReply=1\n[Event away]\nAfter=100\
 
 } // namespace
 
-/** Which windows of the plug-in go with which SIM, and what happens when it is another one. */
+/** Tests which windows are offered for a SIM, and what happens when the SIM changes. */
 class SimWindowsTest : public SimTest
 {
     Q_OBJECT

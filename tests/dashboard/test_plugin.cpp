@@ -1,6 +1,6 @@
 /*
- * A plug-in that lacks what its defines say. It writes each call of the host into the property
- * "calls" of the application.
+ * A plug-in with the defect that its macros select. It records each call of the host in the
+ * property "calls" of the application.
  */
 #include <QCoreApplication>
 #include <QStringList>

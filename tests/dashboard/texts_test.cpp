@@ -6,7 +6,7 @@
 #include "Languages.h"
 #include "UssdTest.h"
 
-/** Keys stand in tables too, not only where a text is asked for. */
+/** Tests that every key has a text. Keys are searched in all string literals, including tables. */
 class TextsTest : public UssdTest
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ namespace
 
 QStringList keysIn(const QString &code)
 {
-    // The first words of the dashboard's keys; other upper-case names are the environment's.
+    // The prefixes of the dashboard's keys. Other upper-case names are environment variables.
     static const QRegularExpression key(QLatin1String(
         "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
         "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES)_[A-Z_]+)\""));

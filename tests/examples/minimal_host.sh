@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The smallest host sends a code through the plug-in's window, and says what is wrong when it cannot.
+# Tests that the minimal host sends a code through the plug-in's window and reports errors.
 #   minimal_host.sh PROGRAM
 set -u
 program=$1
@@ -10,7 +10,8 @@ complain() {
     bad=1
 }
 
-# expect STATUS PATTERN ARGUMENT...: the exit status, and a line of what was printed.
+# expect STATUS PATTERN ARGUMENT...: runs the program, and checks its exit status and that a line of
+# its output matches the pattern.
 expect() {
     local status=$1 pattern=$2 output
     shift 2

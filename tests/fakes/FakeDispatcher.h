@@ -9,7 +9,7 @@
 #include <mutex>
 #include <set>
 
-/// One service: its call-backs, and the thread that runs jobs in the order of their times.
+/// A service: its call-backs, and a thread that runs jobs in the order of their times.
 class FakeDispatcher
 {
 public:
@@ -17,7 +17,7 @@ public:
     using Job = std::function<void()>;
     using Report = std::function<void(int event, unsigned char result)>;
 
-    /// `report` hears of each call-back that has returned, on the thread that called it.
+    /// `report` is called after each call-back has returned, on the thread of the call-back.
     explicit FakeDispatcher(Report report);
     ~FakeDispatcher();
 
@@ -25,20 +25,22 @@ public:
     void remove(TKSV_EventCallback callback, bool wait);
     std::size_t size() const;
 
-    /// Runs `job` on the service's thread; an erasable one is dropped by eraseWaiting().
+    /// Runs `job` on the service's thread. eraseWaiting() removes erasable jobs that have not
+    /// started.
     void post(Job job, std::chrono::milliseconds delay = std::chrono::milliseconds(0),
               bool erasable = false);
     void eraseWaiting();
 
-    /// Runs `job` at once on a thread that is made for it.
+    /// Runs `job` at once on a new thread.
     void runAside(Job job);
 
-    /// Calls the call-backs; to be used in jobs.
+    /// Calls the call-backs. Must be called in jobs only.
     void deliver(int event, void *data);
 
     bool waitIdle(Clock::time_point until) const;
 
-    /// Drops what waits, joins all threads and forgets the call-backs. Usable again afterwards.
+    /// Removes waiting jobs, joins all threads and removes the call-backs. The object can be used
+    /// again afterwards.
     void stop();
 
 private:
@@ -55,13 +57,13 @@ private:
     void deliverTo(TKSV_EventCallback callback, int event, void *data);
 
     const Report m_report;
-    mutable std::mutex m_mutex; // guards all below
+    mutable std::mutex m_mutex; // guards the members below
     mutable std::condition_variable m_changed;
     std::vector<TKSV_EventCallback> m_callbacks;
     std::multimap<Clock::time_point, Waiting> m_waiting;
     std::multiset<std::pair<TKSV_EventCallback, std::thread::id>> m_running;
     std::vector<std::thread> m_threads;
-    std::size_t m_busy = 0; // jobs under way
+    std::size_t m_busy = 0; // running jobs
     bool m_started = false;
     bool m_stopping = false;
 };

@@ -6,11 +6,11 @@
 #include <cstdint>
 
 /*
- * Records as the SDK lays them out in memory. Each is overwritten when it dies, so that a client
- * that reads one too late reads nonsense instead of the right text by luck.
+ * Records in the memory layout of the SDK. Each record is overwritten when it is deleted, so that a
+ * client that reads it too late does not get the right text by chance.
  */
 
-/// A zero-terminated copy of a text in the SDK's units.
+/// A zero-terminated copy of a text in the SDK's character units.
 class FakeText
 {
 public:
@@ -34,13 +34,13 @@ public:
     void *data() { return m_words.data(); }
 
 private:
-    std::vector<std::uint32_t> m_words; // words, so that the record is aligned
+    std::vector<std::uint32_t> m_words; // 32-bit words, so that the record is aligned
 };
 
-/// The text of a zero-terminated array; empty for a null pointer.
+/// Returns the text of a zero-terminated array; empty for a null pointer.
 std::u16string textOf(const unsigned short *units);
 
-/// The text of a request, as far as its length and its area go.
+/// Returns the text of a request, limited by its length and by the size of its text area.
 std::u16string textOf(const TKSV_USSDRequest &request);
 
 std::vector<unsigned char> bytesOf(const TKSV_USSDRequest &request);

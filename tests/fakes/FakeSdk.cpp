@@ -12,7 +12,7 @@ namespace
 {
 const std::chrono::milliseconds BEFORE_RETURN_PATIENCE(500);
 
-// Lets all threads of a crowd go at the same moment.
+// Releases several threads at the same moment.
 class StartingLine
 {
 public:
@@ -23,7 +23,7 @@ public:
         std::unique_lock<std::mutex> lock(m_mutex);
         if (--m_missing == 0)
             m_complete.notify_all();
-        // A thread that is missing was refused by a service that is being stopped.
+        // A thread may be missing because a service that is being stopped has refused its job.
         m_complete.wait_for(lock, PATIENCE, [this] { return m_missing <= 0; });
     }
 
@@ -91,7 +91,7 @@ std::size_t FakeSdk::enter(FakeCall call)
 long FakeSdk::leave(std::size_t ticket, long result, int status)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (ticket < m_calls.size()) { // not so after a reset
+    if (ticket < m_calls.size()) { // false after a reset
         m_calls[ticket].returned = true;
         m_calls[ticket].result = result;
         m_calls[ticket].status = status;

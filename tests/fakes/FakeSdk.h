@@ -7,7 +7,7 @@
 #include <memory>
 #include <set>
 
-/// All that the library remembers between calls.
+/// The state of the library between calls.
 class FakeSdk
 {
 public:
@@ -17,7 +17,7 @@ public:
     bool waitIdle(std::chrono::milliseconds limit);
 
     // ---- calls and deliveries
-    std::size_t enter(FakeCall call); ///< a ticket for leave()
+    std::size_t enter(FakeCall call); ///< returns a ticket for leave()
     long leave(std::size_t ticket, long result, int status = 0);
     std::vector<FakeCall> calls() const;
     std::vector<FakeDelivery> deliveries() const;
@@ -40,7 +40,7 @@ public:
     void setScript(const std::vector<FakeAnswer> &answers);
     FakeAnswer takeAnswer();
     void block(std::size_t ticket, std::chrono::milliseconds limit);
-    void unblock(); ///< the calls that are under way
+    void unblock(); ///< ends the blocking of pending calls
     void answer(const FakeAnswer &answer);
     void respond(const FakeAnswer &answer);
 
@@ -74,7 +74,7 @@ private:
         std::map<std::string, long> results;
         bool unregisterWaits = true;
         FakeAnswer answer;
-        std::vector<FakeAnswer> script; // the next one last
+        std::vector<FakeAnswer> script; // in reverse order: the next answer is the last element
         std::vector<FakeAnswer> heldBack;
         TKSV_DeviceInfo info{};
         std::vector<TKSV_Modem> modems;
@@ -96,7 +96,7 @@ private:
     void respondFromThreads(const FakeAnswer &answer);
     void tellInfo();
 
-    mutable std::mutex m_mutex; // guards all below but the services, which guard themselves
+    mutable std::mutex m_mutex; // guards the members below, except the services with own mutexes
     std::condition_variable m_changed;
     Settings m_settings;
     std::vector<FakeCall> m_calls;

@@ -1,4 +1,4 @@
-// The controls of fake_tksv.h.
+// Implements the controls of fake_tksv.h.
 #include "FakeSdk.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-// The functions of tksv.h and tksv_device.h: each records its call and does what the test has set.
+// Implements the functions of tksv.h and tksv_device.h. Each records its call and behaves as the
+// test has set.
 #include "FakeSdk.h"
 
 #include <algorithm>

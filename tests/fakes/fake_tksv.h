@@ -1,12 +1,12 @@
 /*
- * Controls of the device SDK that the tests put in the real one's place.
+ * Controls of the fake device SDK that tests use in place of the real one.
  *
- * It speaks the whole of tksv.h and tksv_device.h, calls back on threads of its own (one for each
- * service), does what a test tells it, and records what it was asked. Without being told anything
- * it is a good SDK with a silent network: requests are accepted and never answered.
+ * The fake SDK implements all functions of tksv.h and tksv_device.h, and calls back on threads of
+ * its own, one for each service. It behaves as a test has set, and records all calls. By default it
+ * is a correct SDK with a silent network: requests are accepted and never answered.
  *
- * Every function may be called from any thread, except that fakeSdkReset() and the waiting ones
- * must not be called from inside a call-back.
+ * Every function may be called on any thread. fakeSdkReset() and the functions that wait must not
+ * be called inside a call-back.
  */
 #ifndef FAKE_TKSV_H
 #define FAKE_TKSV_H
@@ -22,57 +22,58 @@
 
 #define FAKE_API __attribute__((visibility("default")))
 
-/// How long the waiting functions wait when no limit is given.
+/// The default time limit of the functions that wait.
 const std::chrono::milliseconds FAKE_SDK_PATIENCE(10000);
 
 // ---- life cycle ------------------------------------------------------------------------------
 
-/// Ends all threads, forgets call-backs, records and settings. Waits for call-backs that run.
+/// Ends all threads and discards call-backs, records and settings. Waits for running call-backs.
 FAKE_API void fakeSdkReset();
 
-/// True as soon as nothing waits to be delivered and no call-back runs; false after `limit`.
+/// Returns true as soon as no delivery is pending and no call-back runs. Returns false after
+/// `limit`.
 FAKE_API bool fakeSdkWaitIdle(std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
-// ---- what was asked --------------------------------------------------------------------------
+// ---- recorded calls --------------------------------------------------------------------------
 
-/// One call of a function of the SDK.
+/// A call of a function of the SDK.
 struct FakeCall {
     std::string function; ///< its name, such as "TKSV_USSDSrv_Request"
     std::thread::id thread;
     std::vector<unsigned char> bytes; ///< the 372 bytes of a request record
     std::u16string text;              ///< of a request or a short message
     std::u16string number;            ///< of a short message
-    std::string path;                 ///< of a scenario; a modem's identifier; a PIN
+    std::string path;                 ///< path of a scenario, identifier of a modem, or PIN
     const void *handle = nullptr;     ///< the SMS record
     TKSV_EventCallback callback = nullptr;
-    bool returned = false; ///< false while the call is under way
-    long result = 0;       ///< meaningful once it has returned
+    bool returned = false; ///< false while the call is running
+    long result = 0;       ///< valid after the call has returned
     int status = 0;        ///< what was written to `*status`
 };
 
-/// All calls in the order in which they came; with a name, those of that function only.
+/// Returns all calls, or only those of the named function, in the order in which they were made.
 FAKE_API std::vector<FakeCall> fakeSdkCalls();
 FAKE_API std::vector<FakeCall> fakeSdkCalls(const std::string &function);
 
-/// The texts of all requests, refused ones included.
+/// Returns the texts of all requests, including rejected ones.
 FAKE_API std::vector<std::u16string> fakeSdkCommands();
 
-/// Forgets the calls and deliveries so far, so that a long test stays small. Call it while nothing
-/// is under way.
+/// Discards the recorded calls and deliveries, so that a long test needs little memory. Must be
+/// called while no call is running.
 FAKE_API void fakeSdkForgetRecords();
 
-/// True as soon as `function` has been called `count` times.
+/// Waits until `function` has been called `count` times. Returns false after `limit`.
 FAKE_API bool fakeSdkWaitForCalls(const std::string &function, std::size_t count,
                                   std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
-/// True as soon as `count` requests have been made.
+/// Waits until `count` requests have been made. Returns false after `limit`.
 FAKE_API bool fakeSdkWaitForRequests(std::size_t count,
                                      std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
-/// The services; each has call-backs and a thread of its own.
+/// The services of the SDK. Each has call-backs and a thread of its own.
 enum class FakeService { Ussd, Device, Sms };
 
-/// One run of a call-back.
+/// A completed run of a call-back.
 struct FakeDelivery {
     FakeService service = FakeService::Ussd;
     int event = 0;
@@ -80,45 +81,46 @@ struct FakeDelivery {
     std::thread::id thread;
 };
 
-/// All call-backs that have returned, in the order in which they did.
+/// Returns all call-backs that have returned, in the order of their returns.
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries();
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries(FakeService service);
 
-/// True as soon as call-backs of `service` have returned `count` times.
+/// Waits until call-backs of `service` have returned `count` times. Returns false after `limit`.
 FAKE_API bool fakeSdkWaitForDeliveries(FakeService service, std::size_t count,
                                        std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
-/// How many call-backs are registered with `service`.
+/// Returns the number of call-backs registered with `service`.
 FAKE_API std::size_t fakeSdkRegistered(FakeService service);
 
-// ---- what a function returns -----------------------------------------------------------------
+// ---- results of functions --------------------------------------------------------------------
 
-/// From now on `function` does nothing and returns `result`; 0 makes it work again. Requests are
-/// refused by a FakeAnswer instead, since they also have a status.
+/// Makes `function` do nothing and return `result`; 0 makes it work again. Requests are rejected by
+/// a FakeAnswer instead, because they also have a status.
 FAKE_API void fakeSdkSetResult(const std::string &function, long result);
 
-/// False: the unregister functions return at once, also while the call-back runs (a bad SDK).
+/// Sets whether the unregister functions wait for a running call-back. Without waiting, the SDK is
+/// faulty.
 FAKE_API void fakeSdkSetUnregisterWaits(bool waits);
 
 // ---- USSD ------------------------------------------------------------------------------------
 
-/// What becomes of one request.
+/// Describes how the SDK handles a request.
 struct FakeAnswer {
     // the call itself
-    long result = 0;                    ///< other than 0: refused, and nothing else happens
+    long result = 0;                    ///< any value except 0 rejects the request
     int status = 0;                     ///< written to `*status`
-    std::chrono::milliseconds block{0}; ///< the call lasts that long, or until fakeSdkUnblock()
+    std::chrono::milliseconds block{0}; ///< duration of the call, unless fakeSdkUnblock() ends it
 
     // the response
-    int times = 0; ///< how often it comes; 0 is never
+    int times = 0; ///< number of responses
     std::u16string text;
     int type = 0;
     std::chrono::milliseconds delay{0};
     bool nullData = false;         ///< the call-back gets a null pointer
     bool beforeReturn = false;     ///< the call returns after the call-back, or half a second later
-    bool afterNextRequest = false; ///< held back until another request has been accepted
-    bool stubborn = false; ///< comes although a later request or a release has ended this one
-    int threads = 1;       ///< more: each sends `times` responses, all at the same moment
+    bool afterNextRequest = false; ///< delayed until another request has been accepted
+    bool stubborn = false; ///< sent even if a later request or a release has ended the session
+    int threads = 1; ///< number of threads that send `times` responses each at the same moment
 };
 
 FAKE_API FakeAnswer fakeReply(const std::u16string &text, int type = 0);
@@ -127,16 +129,16 @@ FAKE_API FakeAnswer fakeNetworkRefusal(); ///< an empty text with a type other t
 FAKE_API FakeAnswer fakeSilence();
 FAKE_API FakeAnswer fakeRefused(long result, int status);
 
-/// What becomes of every request that the script does not reach.
+/// Sets how requests are handled that follow the end of the script.
 FAKE_API void fakeSdkSetAnswer(const FakeAnswer &answer);
 
-/// What becomes of the coming requests, one after another.
+/// Sets how the next requests are handled, one after another.
 FAKE_API void fakeSdkScript(const std::vector<FakeAnswer> &answers);
 
-/// Ends the `block` of the requests under way.
+/// Ends the `block` of the pending requests.
 FAKE_API void fakeSdkUnblock();
 
-/// A response at any time, asked for or not, on the USSD thread.
+/// Sends a response on the USSD thread, whether or not a request is pending.
 FAKE_API void fakeSdkRespond(const std::u16string &text, int type = 0);
 FAKE_API void fakeSdkRespondNull();
 
@@ -144,45 +146,47 @@ FAKE_API void fakeSdkRespondNull();
 
 FAKE_API void fakeSdkRaiseDeviceEvent(int event);
 
-/// What TKSV_Device_GetInfo tells from now on; the info call-back hears of it.
+/// Sets what TKSV_Device_GetInfo returns, and calls the info call-back.
 FAKE_API void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info);
 
-/// What TKSV_Device_GetModems tells from now on; the info call-back hears of it.
+/// Sets what TKSV_Device_GetModems returns, and calls the info call-back.
 FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 
-/// A text of the network's own, on the device's thread; dropped without a call-back.
+/// Sends a message on the network's initiative, on the device's thread. The message is lost when no
+/// call-back is registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,
                                      long long receivedAt);
 
-/// What TKSV_Device_UseScenario returns and says.
+/// Sets the result and the message of TKSV_Device_UseScenario.
 FAKE_API void fakeSdkSetScenarioOutcome(long result, const std::string &message);
 
 // ---- short messages --------------------------------------------------------------------------
 
-/// Readiness, which a call-back that is registered while it is true hears soon after. Changing it
-/// raises no event.
+/// Sets whether short messages can be sent. A call-back that is registered while they can be sent
+/// is told so soon after. A change raises no event.
 FAKE_API void fakeSdkSetCanSendSms(bool can);
 
 FAKE_API void fakeSdkRaiseSmsStatus(int status);
 FAKE_API void fakeSdkRaiseSmsResult(int result, const std::u16string &number,
                                     const std::u16string &text);
 
-/// An event with null data, known or not.
+/// Raises a known or unknown event with null data.
 FAKE_API void fakeSdkRaiseSmsEvent(int event);
 
-/// True: a record is made and handed out although its function fails (a bad SDK).
+/// Sets whether the function that creates a record returns the record even if it fails, as a faulty
+/// SDK may do.
 FAKE_API void fakeSdkSetFailedCreateLeavesRecord(bool leaves);
 
-/// Records that were made and not yet given back.
+/// Returns the number of records that were created and not yet freed.
 FAKE_API std::size_t fakeSdkLiveSmsRecords();
 
-/// Records given back or sent that were never made, or had been given back before.
+/// Returns the number of records that were freed or sent but never created, or already freed.
 FAKE_API std::size_t fakeSdkBadSmsRecords();
 
 // ---- folders ---------------------------------------------------------------------------------
 
-/// What TKSV_GetUserDataDirectory hands out from now on, as it is. Until a test has set it, the
-/// function fails and hands out nothing.
+/// Sets what TKSV_GetUserDataDirectory returns, unchanged. Until a test has set it, the function
+/// fails.
 FAKE_API void fakeSdkSetUserDataDirectory(const std::u16string &directory);
 
 #endif

@@ -1,10 +1,12 @@
 /*
- * The user of a dashboard in which something is wrong with the machine; a part of faulty_dashboard,
- * which is the program itself otherwise. He looks at what it says, answers it, and closes it. What
- * he saw goes to standard output, a line each: "box: TEXT", "notice: TEXT", "codes: LIST".
+ * Simulates the user of a dashboard on a faulty machine. It is linked into faulty_dashboard, which
+ * is the dashboard program otherwise. The user reads the window, answers message boxes and closes
+ * the window. Each observation is a line on standard output: "box: TEXT", "notice: TEXT" or "codes:
+ * LIST".
  *
- *   USSD_USER_SAVES=CODE    he adds the code in the editor and saves
- *   USSD_USER_SAYS=TEXT     he presses the button of message boxes that begins so, else the first
+ *   USSD_USER_SAVES=CODE    adds the code in the editor and saves
+ *   USSD_USER_SAYS=TEXT     presses the button of a message box whose text begins with TEXT, or
+ * else the first button
  */
 #include <QApplication>
 #include <QComboBox>
@@ -41,7 +43,7 @@ MainWindow *mainWindow()
     return nullptr;
 }
 
-/// A long text stands in a view.
+/// Returns the text of the box. A long text is shown in a view instead of a label.
 QString textOf(const QMessageBox *box)
 {
     const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
@@ -58,7 +60,7 @@ void press(QMessageBox *box)
     box->buttons().first()->click();
 }
 
-/// Empty codes of the editor's table come last.
+/// Adds a code in the first empty row. Empty rows are at the end of the editor's table.
 void addCode(QTableWidget *table, const QString &code)
 {
     int row = 0;
@@ -79,7 +81,8 @@ public:
     }
 
 private:
-    /// A new timer each time: one whose slot opens a window does not fire while that is open.
+    /// Starts a new timer for each look: a timer whose slot opens a dialog does not fire again
+    /// while the dialog is open.
     void lookLater() { QTimer::singleShot(INTERVAL, this, &User::look); }
 
     void look()

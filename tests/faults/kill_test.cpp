@@ -26,9 +26,9 @@ const unsigned LIMIT = 5; // seconds that a start may take after a kill
 } // namespace
 
 /**
- * The program is killed at each of its steps on the disk in turn, also when half of a text is
- * written. Whatever the step, the user has what was there before, or what was to be there, or the
- * copy is offered.
+ * Kills the program at each of its steps on the disk in turn, including the moment when half of a
+ * text is written. After each kill, the user must have the old file or the new one, or the copy
+ * must be offered.
  */
 class KillTest : public UssdTest
 {
@@ -50,7 +50,8 @@ private:
 
     static bool write(const QString &path, const QByteArray &content);
     int runInChild(DiskFaults::Kind kind, int step, const Action &action);
-    /// How many kills there were, until the action went through; `check` after each run.
+    /// Repeats the action with a kill at each step until the action completes, and calls `check`
+    /// after each run. Returns the number of kills.
     int killAtEachStep(const Action &prepare, const Action &action, const Action &check);
     void layOut(const QByteArray &file, const QByteArray &copy);
     bool isOldOrNewOrOffered();
@@ -59,7 +60,7 @@ private:
     static int savedLanguage();
 
     int m_step = 0;    // of the last kill
-    QString m_watched; // a folder: the steps below it count
+    QString m_watched; // the folder whose steps are counted
     QString m_file;
     QString m_copy;
 };
@@ -124,7 +125,7 @@ bool KillTest::isOldOrNewOrOffered()
     return isOffered && backup().restore() && contentOf(m_file) == OLD;
 }
 
-/// The editor has read what is new, and finds what is old in its place when it saves.
+/// The editor has read the new codes, and the file contains the old codes when it saves.
 void KillTest::savingTheCodesLeavesThemOrTheCopy()
 {
     layOut(NEW, OLD);
@@ -135,7 +136,7 @@ void KillTest::savingTheCodesLeavesThemOrTheCopy()
                                           restored += backup().isLost() || backup().isDamaged();
                                           QVERIFY(isOldOrNewOrOffered());
                                       });
-    QVERIFY2(killed >= 3, qPrintable(QString::number(killed))); // delete, make, write, half of it
+    QVERIFY2(killed >= 3, qPrintable(QString::number(killed))); // delete, create, write, write half
     QVERIFY2(restored >= 2, qPrintable(QString::number(restored)));
 }
 
@@ -156,7 +157,7 @@ void KillTest::makingTheCopyNeverDamagesIt()
         killAtEachStep([this] { layOut(NEW, OLD); }, [this] { backup().refresh(); },
                        [this] {
                            QVERIFY(contentOf(m_copy) == OLD || contentOf(m_copy) == NEW);
-                           QVERIFY(backup().refresh()); // what lies beside is in nobody's way
+                           QVERIFY(backup().refresh()); // leftover files do no harm
                            QCOMPARE(contentOf(m_copy), QByteArray(NEW));
                        });
     QVERIFY2(killed >= 4, qPrintable(QString::number(killed)));
@@ -190,7 +191,7 @@ void KillTest::restoringADamagedFileCanBeDoneAgain()
 
 namespace
 {
-const char LANGUAGES[][3] = {"de", "fr"}; // old and new
+const char LANGUAGES[][3] = {"de", "fr"}; // the old and the new language
 
 QString settingsFolder()
 {
@@ -205,7 +206,8 @@ void saveLanguage(const char *code)
 }
 } // namespace
 
-/// Asked of a process of its own, since Qt keeps settings in memory: index of LANGUAGES, or 9.
+/// Returns the index of the saved language in LANGUAGES, or 9. A separate process reads it because
+/// Qt caches settings in memory.
 int KillTest::savedLanguage()
 {
     const QString code = DashboardSettings().language();

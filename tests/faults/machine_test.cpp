@@ -21,7 +21,7 @@ struct Run {
     QString error;
 
     bool isGood() const { return code == 0; }
-    /// Everything, for the message of a failure.
+    /// Returns the whole output, for the message of a failure.
     QByteArray all() const
     {
         return (QString::number(code) + QLatin1Char('\n') + out + error).toLocal8Bit();
@@ -30,7 +30,7 @@ struct Run {
 
 } // namespace
 
-/** The program on a machine that lacks something: it says so and goes on. */
+/** Tests that the program reports what a machine lacks and continues. */
 class MachineTest : public UssdTest
 {
     Q_OBJECT
@@ -64,10 +64,10 @@ private:
     QString codesFile() { return home() + text("/data/ussd-dashboard/ussdprofile.xml"); }
     void layOutLibrary();
     void makeCopy();
-    /// Has the program find its texts where there are only these languages.
+    /// Installs only these languages for the program.
     void installTexts(const QStringList &languages);
     QString textsFolder() { return folder() + text("/prefix/" TEXTS_FOLDER); }
-    /// Changes bytes of an installed language, others for each seed.
+    /// Changes bytes of an installed language file. The seed selects the bytes.
     void damageText(const char *file, uint seed);
     static QString text(const char *words) { return QString::fromUtf8(words); }
 
@@ -88,7 +88,7 @@ void MachineTest::setUp()
     m_environment.remove(text("TKSV_USER_DATA"));
 }
 
-/// The editor saves the codes that come with the plug-in too, so it gets files of its own.
+/// Copies the plug-in's files, because the editor also saves the codes that come with the plug-in.
 void MachineTest::layOutLibrary()
 {
     const QString from = text(PLUGIN_LIBRARY "/plugins/USSDUIPlugin/");
@@ -129,7 +129,7 @@ bool MachineTest::write(const QString &path, const QByteArray &content)
            file.write(content) == content.size();
 }
 
-/// As the program does when it starts with codes of the user.
+/// Creates the backup copy, as the program does when it starts.
 void MachineTest::makeCopy()
 {
     QVERIFY(write(codesFile(), OWN_CODES));
@@ -220,7 +220,7 @@ void MachineTest::halfAFileOfCodesIsOfferedBack()
     QCOMPARE(contentOf(codesFile() + text(".damaged")), half);
 }
 
-/// The steps of a whole run of the program; the first ones are those of its start.
+/// Kills the program at each step of a whole run, including the steps of its start.
 void MachineTest::aKillWhileSavingIsMendedByTheNextStart()
 {
     makeCopy();

@@ -2,7 +2,7 @@
 #include "OddFiles.h"
 #include "UssdTest.h"
 
-/// What is opened for reading, and what is said of everything else.
+/// Tests which files are opened for reading, and the error messages for all others.
 class InputFileTest : public UssdTest
 {
     Q_OBJECT

@@ -5,15 +5,15 @@
 #include <vector>
 
 /*
- * The program's own open(), socket() and the calls that start programs stand in front of those of
- * the C library: they note what is asked for, and go on to it.
+ * Records calls of open(), socket() and the functions that start programs. The program's own
+ * definitions of these functions replace those of the C library, which they call.
  */
 namespace SystemCalls
 {
 
-/// Forgets what was noted, and notes from now on.
+/// Discards the record and starts recording.
 void watch();
-/// "open PATH", "socket", "run PATH", in the order in which they came; notes no more.
+/// Stops recording and returns the calls in their order, as "open PATH", "socket" or "run PATH".
 std::vector<std::string> seen();
 
 } // namespace SystemCalls

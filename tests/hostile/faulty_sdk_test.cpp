@@ -17,7 +17,7 @@ TKSV_EventCallback registered(const char *function)
     return calls.empty() ? nullptr : calls.back().callback;
 }
 
-/// As the device SDK hands it over; filled to the end with the letter.
+/// Returns a text of the device SDK without a terminating zero.
 std::vector<unsigned short> unitsWithoutEnd(int count)
 {
     return std::vector<unsigned short>(static_cast<size_t>(count), 'x');
@@ -25,7 +25,7 @@ std::vector<unsigned short> unitsWithoutEnd(int count)
 
 } // namespace
 
-/** A device SDK that breaks its promises, as the user of the general window meets it. */
+/** Tests the general window with a device SDK that violates its contract. */
 class FaultySdkTest : public DialogTest
 {
     Q_OBJECT
@@ -133,7 +133,8 @@ void FaultySdkTest::callBackAfterUnregisterIsTurnedAway()
     QVERIFY(callback);
     USSDLogic::GetUSSDLogicInstance()->unSDKRegisterEvent();
     TKSV_USSDResponse record = {};
-    std::thread([callback, &record] { callback(0, &record); }).join(); // taken, as if in time
+    // The response is accepted as if it had arrived in time.
+    std::thread([callback, &record] { callback(0, &record); }).join();
     drainEvents();
     QVERIFY(isIdle());
 }
@@ -154,7 +155,7 @@ void FaultySdkTest::callBackAfterTheEndIsTurnedAway()
     TKSV_SMSStatus status = {TKSV_SMS_STATUS_CAN_SEND};
     std::thread([&] {
         QCOMPARE(int(ussd(0, &response)), 0);
-        QCOMPARE(int(device(TKSV_DEV_EVENT_GONE, nullptr)), 1); // nothing was pending
+        QCOMPARE(int(device(TKSV_DEV_EVENT_GONE, nullptr)), 1); // no command was pending
         QCOMPARE(int(sms(TKSV_SMS_EVENT_STATUS_CHANGED, &status)), 0);
     }).join();
 }
@@ -222,7 +223,7 @@ void FaultySdkTest::blockingRequestThatFailsIsSaid()
     QVERIFY(isIdle());
 }
 
-/// The next command is handed over on the SDK's thread, where the call blocks.
+/// The next command is sent on the SDK's thread, where the call blocks.
 void FaultySdkTest::endWaitsForABlockingRequest()
 {
     FakeAnswer slow = fakeSilence();
@@ -233,7 +234,7 @@ void FaultySdkTest::endWaitsForABlockingRequest()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*2#")), &status);
     fakeSdkRespond(u"5 EUR");
-    QVERIFY(fakeSdkWaitForRequests(2)); // it blocks now
+    QVERIFY(fakeSdkWaitForRequests(2)); // the second request blocks now
     logic->unSDKRegisterEvent();
     USSDLogic::Destroy();
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Request").back().returned);

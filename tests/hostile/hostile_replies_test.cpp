@@ -17,14 +17,14 @@ namespace
 {
 
 const int MILLION = 1000000;
-const char BAIT[] = "bait"; // in the name of each file that a reply asks for
+const char BAIT[] = "bait"; // part of the name of each file that a reply refers to
 
 QString repeated(const QString &piece, int length)
 {
     return piece.repeated(length / piece.length() + 1).left(length);
 }
 
-/// Resident memory of this process, in bytes.
+/// Returns the resident memory of this process in bytes.
 qint64 residentBytes()
 {
     malloc_trim(0);
@@ -42,7 +42,7 @@ QByteArray loadedLibraries()
 
 } // namespace
 
-/** Takes the place of the desktop, and opens nothing. */
+/** Records the addresses that would be opened on the desktop, and opens none. */
 class UrlRecorder : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private:
 };
 constexpr const char *UrlRecorder::SCHEMES[];
 
-/** Replies that attack whoever shows them. */
+/** Tests replies that attack the program that shows them. */
 class HostileRepliesTest : public DialogTest
 {
     Q_OBJECT
@@ -148,7 +148,7 @@ QString HostileRepliesTest::baitPath(const char *name)
     return folder() + QLatin1Char('/') + latin1(BAIT) + latin1(name);
 }
 
-/// "FILE" stands for a file that is there.
+/// Replaces "FILE" in the reply by the path of an existing file.
 QString HostileRepliesTest::baited(const char *reply)
 {
     return latin1(reply).replace(latin1("FILE"), baitPath(".png"));
@@ -165,7 +165,7 @@ QStringList HostileRepliesTest::baitsTouched()
     return touched;
 }
 
-/// A long reply comes in pieces.
+/// Waits until the whole reply is shown, because a long reply is added in pieces.
 void HostileRepliesTest::waitUntilShown()
 {
     int before = -1;
@@ -224,7 +224,7 @@ void HostileRepliesTest::nothingIsOpenedLoadedOrRun()
     picture.fill(Qt::red);
     QVERIFY(picture.save(baitPath(".png")));
     open();
-    showEverywhere(latin1("first")); // whatever a window loads once
+    showEverywhere(latin1("first")); // makes the windows load what they load once
     const UrlRecorder desktop;
     SystemCalls::watch();
     showEverywhere(baited(reply.constData()));
@@ -277,7 +277,7 @@ void HostileRepliesTest::windowOutlivesReply()
     waitUntilShown();
     history()->grab();
     QVERIFY(isIdle());
-    // And the next one is shown as ever.
+    // The next reply is shown as usual.
     send(latin1("*101#"));
     networkSays(latin1("5 EUR"));
     waitUntilShown();
@@ -318,7 +318,7 @@ void HostileRepliesTest::labelOutlivesReply()
     QCOMPARE(label.text(), reply);
 }
 
-/// Some of the million characters, again and again: what stays does not grow.
+/// Shows long replies repeatedly and checks that the memory does not grow.
 void HostileRepliesTest::memoryComesBack()
 {
     open();
@@ -331,7 +331,7 @@ void HostileRepliesTest::memoryComesBack()
         QVERIFY(history()->document()->characterCount() > MILLION);
         click(clearButton());
         drainEvents();
-        clearLog(); // which holds each reply
+        clearLog(); // the log contains every reply
         fakeSdkForgetRecords();
         if (round == 1)
             warm = residentBytes();
@@ -348,7 +348,7 @@ void HostileRepliesTest::noNetworkLibraryIsLoaded()
     open();
     showEverywhere(latin1("<img src='http://127.0.0.1:1/x.png'>"));
     const QByteArray libraries = loadedLibraries();
-    QVERIFY(libraries.contains("libQt5Widgets")); // the list is one
+    QVERIFY(libraries.contains("libQt5Widgets")); // proves that the list is not empty
     QVERIFY(!libraries.contains("libQt5Network"));
 }
 

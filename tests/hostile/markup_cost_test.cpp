@@ -30,7 +30,8 @@ int tablesIn(const QTextFrame *frame)
 
 } // namespace
 
-/** What is shown as letters because it would cost too much as markup, and in pieces. */
+/** Tests which texts are shown as plain text because their markup would take too long to lay out.
+ */
 class MarkupCostTest : public UssdTest
 {
     Q_OBJECT
@@ -220,7 +221,7 @@ void MarkupCostTest::heavyEntryComesInPieces()
     const QString text = latin1("twelve letters ").repeated(2000);
     view.appendEntry(entry(latin1("5 EUR")));
     view.appendEntry(entry(text));
-    QCOMPARE(view.document()->blockCount(), 1); // nothing of it yet
+    QCOMPARE(view.document()->blockCount(), 1); // nothing of the text is shown yet
     QTRY_VERIFY(view.toPlainText().remove(QLatin1Char('\n')).endsWith(text));
     QVERIFY(view.document()->blockCount() > 25);
     for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next())

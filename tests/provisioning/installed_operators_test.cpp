@@ -11,7 +11,7 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
-/// Every operator of the installed database that has codes, as the plug-in's own code reads it.
+/// Tests that the plug-in's own code reads the files of every operator in the installed database.
 class InstalledOperatorsTest : public PluginTest
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ ProviderChoice choiceFor(const QString &network)
     return chooseProvider(g_database, query);
 }
 
-/// The codes that stand in the database word for word, by a reader of its own.
+/// Returns the usable codes, determined independently of the tested code.
 QStringList usableCodes(const Provider &provider)
 {
     QStringList codes;
@@ -174,7 +174,7 @@ void InstalledOperatorsTest::operatorsOfTheDatabase()
     QFETCH(int, index);
     const Provider &provider = g_database.providers.at(index);
     const ProvisionPlan plan = provisionPlan(provider);
-    if (plan.isEmpty()) { // reached by a call only, or by messages without a text
+    if (plan.isEmpty()) { // the operator has only numbers to call, or messages without a text
         QCOMPARE(usableCodes(provider), QStringList());
         QVERIFY(!plan.notes.isEmpty());
         return;
@@ -189,11 +189,11 @@ void InstalledOperatorsTest::operatorsOfTheDatabase()
     checkProfiles(plan);
     checkSims(plan);
     checkServices(plan);
-    // Saving in the plug-in's editor is no change as long as nothing was edited.
+    // Saving in the plug-in's editor without an edit does not change the file.
     QCOMPARE(USSDEditCmd().saveToXMLFile(true), 0);
     QCOMPARE(readProvision(order.folder).changedFiles, QStringList());
     QCOMPARE(readProvision(order.folder).record.provider, provider.name());
-    // And all the codes of the database came through.
+    // All codes of the database are in the file.
     QStringList codes;
     QList<USSDProfile> profiles;
     USSDEditCmd().GetProfileList(profiles);
@@ -218,7 +218,7 @@ void InstalledOperatorsTest::checkAccount(const ProvisionPlan &plan)
     PrePostDiffer detection;
     detection.value = true;
     USSDLogic::GetUSSDLogicInstance()->GetPrePostDiffer(detection);
-    QVERIFY(!detection.value); // nobody knows how to ask this operator
+    QVERIFY(!detection.value); // the database has no code for the question
     if (plan.topUp.isEmpty())
         return;
     QString longest = plan.topUp;

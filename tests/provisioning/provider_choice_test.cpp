@@ -1,7 +1,7 @@
 #include "ProviderChoice.h"
 #include "UssdTest.h"
 
-/// Who is chosen, who is proposed.
+/// Tests which operators are chosen and which are only candidates.
 class ProviderChoiceTest : public UssdTest
 {
     Q_OBJECT

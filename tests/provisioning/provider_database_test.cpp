@@ -2,7 +2,7 @@
 #include "ProviderDatabase.h"
 #include "UssdTest.h"
 
-/// What the reader makes of good, broken and hostile databases.
+/// Tests reading valid, broken and malicious databases.
 class ProviderDatabaseTest : public UssdTest
 {
     Q_OBJECT

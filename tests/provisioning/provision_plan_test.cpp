@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
-/// What of an operator's codes becomes what, and the files that are made of it.
+/// Tests where an operator's codes are placed, and the files generated from them.
 class ProvisionPlanTest : public UssdTest
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ void ProvisionPlanTest::templates_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("takesInput");
     QTest::addColumn<QString>("replacement");
-    QTest::addColumn<QString>("expected"); // empty: cannot be used
+    QTest::addColumn<QString>("expected"); // empty if the code is not usable
     const auto plain = [](const char *text, const char *expected) {
         QTest::newRow(text) << latin1(text) << false << QString() << latin1(expected);
     };
@@ -98,7 +98,7 @@ void ProvisionPlanTest::templates_data()
     plain("*101#", "*101#");
     plain("#123#", "#123#");
     plain("*#10#", "*#10#");
-    plain("*101*CODE#", ""); // no attribute, no replacement
+    plain("*101*CODE#", ""); // nothing is replaced without the attribute
     plain("*101*%s#", "");
     plain("*101", "");
     plain("101#", "");
@@ -218,7 +218,7 @@ void ProvisionPlanTest::callsAndAnswersAreNoted()
     asked.balance << code("*100#", ProviderCode::UssdResponse);
     const ProvisionPlan plan = provisionPlan(asked);
     QCOMPARE(plan.profiles.count(), 1);
-    QCOMPARE(plan.balance, QString()); // its reply is a menu
+    QCOMPARE(plan.balance, QString()); // the account window cannot show the menu in the reply
 }
 
 void ProvisionPlanTest::networkOfTheSimBecomesAPrefix()
@@ -245,8 +245,8 @@ void ProvisionPlanTest::nameCannotEndTheComment()
     QCOMPARE(sections.count(latin1("Prepaid")), 1);
 }
 
-/// The editor saves this file again whenever the user saves own codes. The same bytes do not count
-/// as a change, also where the name has characters that XML cannot hold.
+/// The editor saves this file whenever the user saves own codes. Identical bytes do not count as a
+/// change, even if the name has characters that XML does not allow.
 void ProvisionPlanTest::profilesHaveTheBytesThatTheEditorWrites()
 {
     ProvisionPlan plan;

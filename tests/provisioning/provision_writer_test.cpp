@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Nothing that a person has made or changed is lost, whenever the program is killed.
+/// Tests that no file created or changed by hand is lost, whenever the program is killed.
 class ProvisionWriterTest : public UssdTest
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ ProvisionPlan planOf(const char *name)
     return plan;
 }
 
-/// As far as the writer is concerned any bytes are files.
+/// Returns files with arbitrary content, which the writer does not check.
 ProvisionFiles filesOf(const char *name)
 {
     ProvisionFiles files;
@@ -88,7 +88,7 @@ void ProvisionWriterTest::change(const char *file, const QByteArray &text)
     QCOMPARE(out.write(text), qint64(text.size()));
 }
 
-/// Both files in use are this operator's, and so says the record.
+/// Returns whether both files in use and the record belong to this operator.
 bool ProvisionWriterTest::isWhole(const char *name)
 {
     const Provision provision = readProvision(target());
@@ -251,12 +251,12 @@ void ProvisionWriterTest::pluginLinkFollowsThePlugin()
     order.pluginLibrary = first;
     QCOMPARE(writeProvision(order, planOf("One"), filesOf("One")).state, ProvisionOutcome::Written);
     QCOMPARE(content("libUSSDUIPlugin.so"), QByteArray("first"));
-    QVERIFY(isWhole("One")); // the link is no change
+    QVERIFY(isWhole("One")); // a changed link does not count as a change of the files
     order.pluginLibrary = second;
     QCOMPARE(writeProvision(order, planOf("One"), filesOf("One")).state, ProvisionOutcome::Current);
     QCOMPARE(content("libUSSDUIPlugin.so"), QByteArray("second"));
     QCOMPARE(writeProvision(order, planOf("Two"), filesOf("Two")).state, ProvisionOutcome::Written);
-    QCOMPARE(contentOf(second), QByteArray("second")); // never through the link
+    QCOMPARE(contentOf(second), QByteArray("second")); // the writer does not write through the link
 }
 
 void ProvisionWriterTest::unwritableFolderIsSaid()
@@ -267,7 +267,7 @@ void ProvisionWriterTest::unwritableFolderIsSaid()
     QVERIFY(outcome.problem.contains(target()));
 }
 
-/// What the child ended with; it is killed before that step.
+/// Runs the writer in a child process that is killed before the step. Returns its exit code.
 int ProvisionWriterTest::runKilled(int step, const char *name)
 {
     const pid_t child = fork();
@@ -291,9 +291,9 @@ void ProvisionWriterTest::killBetweenAnyStepsLeavesOldOrNew()
         QVERIFY(result == KILLED || result == 0);
         const bool isNew = isWhole("New");
         QVERIFY2(isNew || isWhole("Old"), qPrintable(QString::number(step)));
-        QVERIFY(isNew || !sawNew); // never back again
+        QVERIFY(isNew || !sawNew); // the new files stay in use
         sawNew = isNew;
-        // The next run finds its way, and leaves nothing behind.
+        // The next run succeeds and removes leftover files.
         QVERIFY(write("New").problem.isEmpty());
         QVERIFY(isWhole("New"));
         const QDir sets(target() + QLatin1String("/provisioned"));

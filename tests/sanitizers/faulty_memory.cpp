@@ -1,13 +1,13 @@
-// Faults made on purpose. CTest runs each alone and expects the address sanitizer's report.
+// Deliberate faults. CTest runs each separately and expects a report of the address sanitizer.
 #include <cstdio>
 #include <cstring>
 #include <limits>
 
 namespace
 {
-int *volatile g_kept = nullptr; // volatile, so that the compiler keeps what looks unused
+int *volatile g_kept = nullptr; // volatile, so that the compiler does not remove it as unused
 
-// Volatile, so that the compiler sees no fault to warn of.
+// Volatile variables hide the faults from the compiler's warnings.
 int readAfterFree()
 {
     int *volatile value = new int(1);

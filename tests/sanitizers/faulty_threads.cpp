@@ -4,7 +4,7 @@
 
 #include <thread>
 
-/// Faults made on purpose. CTest runs each alone and expects the thread sanitizer's report.
+/// Deliberate faults. CTest runs each separately and expects a report of the thread sanitizer.
 class FaultyThreads : public UssdTest
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ void FaultyThreads::twoThreadsWriteOneInt()
     other.join();
 }
 
-// What came before the signal is in order; what comes after it is not.
+// Writes before the signal are ordered; a write after it is a race.
 void FaultyThreads::writesAfterItsSignal()
 {
     int seen = -1;

@@ -9,7 +9,8 @@
 #include <thread>
 #include <vector>
 
-/// Correct code of every kind that the project uses between threads: no sanitizer may complain.
+/// Runs all kinds of correct code between threads that the project uses. No sanitizer may report
+/// it.
 class QueuedSignalsTest : public UssdTest
 {
     Q_OBJECT
@@ -216,7 +217,7 @@ void QueuedSignalsTest::mutexMayStandWhereAnotherStood()
     for (int round = 0; round < ROUNDS; ++round) {
         QMutex first;
         QMutex second;
-        QMutex *outer = round % 2 ? &first : &second; // another order each time, on new mutexes
+        QMutex *outer = round % 2 ? &first : &second; // alternating order, on new mutexes
         QMutex *inner = round % 2 ? &second : &first;
         const QMutexLocker outerLock(outer);
         const QMutexLocker innerLock(inner);
@@ -230,7 +231,7 @@ void QueuedSignalsTest::whatAThreadWroteIsSeenAfterItsEnd()
     for (int round = 0; round < 20; ++round) {
         QScopedPointer<QThread> thread(QThread::create([&] { m_plain = round; }));
         thread->start();
-        while (round % 2 && !thread->isFinished()) // one wait that sleeps, one that does not
+        while (round % 2 && !thread->isFinished()) // makes every second wait() return at once
             QThread::yieldCurrentThread();
         QVERIFY(thread->wait());
         QCOMPARE(m_plain, round);

@@ -199,11 +199,10 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
     return done;
 }
 
-// ---- QThread
-// -------------------------------------------------------------------------------------
+// ---- QThread -----------------------------------------------------------------------------------
 
-// What a thread did comes before the return of a wait for its end; Qt emits finished() on that
-// thread, before it wakes whoever waits.
+// Everything that a thread did happens before wait() for that thread returns. Qt emits finished()
+// on the thread before it wakes the waiting threads.
 #define THREAD_START "_ZN7QThread5startENS_8PriorityE"
 void tsanThreadStart(QThread *thread, QThread::Priority priority) STANDS_FOR(THREAD_START);
 void tsanThreadStart(QThread *thread, QThread::Priority priority)

@@ -12,7 +12,7 @@
 #include <QRandomGenerator>
 #include <QXmlStreamReader>
 
-/// What is said about good, mistaken, broken and hostile files.
+/// Tests the findings for valid, mistaken, broken and malicious files.
 class ConfigCheckTest : public UssdTest
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ QStringList rulesOf(const CheckReport &report)
     return rules;
 }
 
-/// The first line with this text, from 1.
+/// Returns the number of the first line with this text, counted from 1.
 qint64 lineOf(const QByteArray &content, const QByteArray &text)
 {
     const int at = content.indexOf(text);
@@ -116,8 +116,8 @@ void addMistake(const char *title, const char *before, const char *after, const 
                          << QString::fromLatin1(text) << hasLine;
 }
 
-/// Replaces the first `before`; one of the findings has the rule, the text and, when the changed
-/// text is still there, its line.
+/// Replaces the first `before` and checks that one of the findings has the rule, the text and, if
+/// the changed text still exists, its line.
 void checkMistake(QByteArray content)
 {
     QFETCH(QByteArray, before);
@@ -324,14 +324,14 @@ void ConfigCheckTest::missingThirdItemShowsWhoseValuesAreTaken()
     QVERIFY2(findingsText(report).contains(
                  QLatin1String("this item \"Balance\" of <Postpaid> becomes its item 4")),
              qPrintable(findingsText(report)));
-    // And so do the plug-in's own tables.
+    // The plug-in's own tables have the same values.
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*110#")));
 }
 
 void ConfigCheckTest::everyMissingLineIsFound_data()
 {
     QTest::addColumn<QByteArray>("content");
-    const QList<QByteArray> optional = QList<QByteArray>() // of a service
+    const QList<QByteArray> optional = QList<QByteArray>() // elements of a service
                                        << "<LimitText>0-9</LimitText>"
                                        << "<minlenth>3</minlenth>"
                                        << "<minlenth>1</minlenth>"
@@ -373,7 +373,7 @@ void ConfigCheckTest::longestCommandIsCountedWithItsInput()
 {
     QFETCH(int, length);
     QFETCH(bool, fits);
-    QByteArray content = configuration(); // *101*%s# has six characters of its own
+    QByteArray content = configuration(); // *101*%s# has six characters besides the input
     content.replace("<length>16</length>", "<length>" + QByteArray::number(length) + "</length>");
     QCOMPARE(!rulesOf(check(content)).contains(QLatin1String("command")), fits);
 }
@@ -386,7 +386,7 @@ void ConfigCheckTest::nearlyFullFilesWithFindingsStillHaveTables()
     QVERIFY(rulesOf(report).contains(QLatin1String("missing")));
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*100#")));
     QVERIFY(tableRow(report, "Postpaid", "Balance").contains(QLatin1String("hidden")));
-    // The first is the reason, the others are its consequence, each said once.
+    // The first finding is the cause. Its consequences are reported once each.
     QCOMPARE(rulesOf(report).count(QLatin1String("missing")), 1);
     QCOMPARE(rulesOf(report).count(QLatin1String("order")), 4);
 }
@@ -448,7 +448,7 @@ void ConfigCheckTest::everyPrefixIsChecked()
     QVERIFY(deep.tables.isEmpty());
 }
 
-/// The same steps by the plug-in's scan and by the trace, over documents of any shape.
+/// The plug-in's scan and the trace take the same steps through random documents.
 void ConfigCheckTest::traceWalksAsThePluginDoes()
 {
     QRandomGenerator random(20261120);

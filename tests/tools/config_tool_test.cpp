@@ -5,7 +5,7 @@
 #include <QJsonDocument>
 #include <QProcess>
 
-/// ussd-config as it is started: what it prints and ends with.
+/// Tests the output and the exit code of ussd-config.
 class ConfigToolTest : public UssdTest
 {
     Q_OBJECT

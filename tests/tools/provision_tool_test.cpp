@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
-/// ussd-provision as it is started: what it prints, writes and ends with.
+/// Tests the output, the files and the exit code of ussd-provision.
 class ProvisionToolTest : public UssdTest
 {
     Q_OBJECT
