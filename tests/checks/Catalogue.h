@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// One text of a language file.
+/// A text of a language file.
 struct CatalogueEntry {
     QString context;
     QString key;
@@ -17,16 +17,15 @@ struct CatalogueEntry {
     QString name() const { return context + QLatin1Char('/') + key; }
 };
 
-/// A language file as it stands, and what is wrong with it. Every check gives one line for each
-/// fault, and nothing when all is well.
+/// The content of a language file, and checks of it. Every check returns one line for each fault.
 class Catalogue
 {
 public:
-    /// Reads Qt Linguist's format. What cannot be read is the only complaint of complaints().
+    /// Reads Qt Linguist's format. A syntax error becomes the only line of complaints().
     static Catalogue fromXml(const QByteArray &xml);
 
     const QList<CatalogueEntry> &entries() const { return m_entries; }
-    QMap<QString, QString> texts() const; ///< by name
+    QMap<QString, QString> texts() const; ///< returns the texts by name
     QString text(const QString &context, const QString &key) const;
     QStringList complaints() const { return m_complaints; }
 
@@ -34,13 +33,13 @@ public:
     QStringList unfinished() const;
     QStringList missing(const QStringList &names) const;
 
-    /// Placeholders (%s, %1, %n ...) other than in `english`.
+    /// Finds texts whose placeholders (%s, %1, %n ...) differ from those in `english`.
     QStringList otherPlaceholders(const Catalogue &english) const;
 
-    /// Texts with a code in them that no left-to-right marks enclose.
+    /// Finds texts that contain a code without left-to-right marks around it.
     QStringList unmarkedCodes() const;
 
-    /// Keys of the plug-in whose mnemonics are the same letter.
+    /// Finds keys of the plug-in whose mnemonics use the same letter.
     QStringList clashingMnemonics(const QStringList &keysOfAWindow) const;
 
 private:
@@ -50,10 +49,10 @@ private:
 
 namespace SourceKeys
 {
-/// Names of the keys that C++ code asks for.
+/// Returns the names of the keys that C++ code uses.
 QStringList ofCode(const QString &code);
 
-/// Names of the keys that a data file of the plug-in refers to.
+/// Returns the names of the keys that a data file of the plug-in uses.
 QStringList ofData(const QString &xml);
 } // namespace SourceKeys
 

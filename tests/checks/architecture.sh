@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# The picture of the folders: docs/architecture.dot has each arrow between two folders of src that an
-# #include makes, and no other; the arrows form no circle; docs/pictures/architecture.svg was drawn
-# from it.
+# Checks the picture of the folders. docs/architecture.dot must have an arrow for every #include from
+# one folder of src to another, and no other arrow. The arrows must not form a circle.
+# docs/pictures/architecture.svg must be drawn from docs/architecture.dot.
 . "$(dirname "$0")/common.sh"
 
-# One line for each pair of folders: "FROM TO", below src. The public headers of the device SDK, which
-# lie beside its code, count as a folder of their own, "tksv.h".
+# Prints a line "FROM TO" for each pair of folders below src. The public headers of the device SDK count
+# as a folder named "tksv.h".
 included_folders() {
     local file name
     cpp_files src | while IFS= read -r file; do
@@ -15,7 +15,7 @@ included_folders() {
             done
     done | perl -e '
         sub folder { $_[0] =~ m{^src/sdk/tksv(_device)?\.h$} ? "tksv.h" : $_[0] =~ m{^src/(.*)/} ? $1 : "" }
-        my %place; # all headers by the end of their path
+        my %place; # maps every suffix of a header's path to the header
         for my $header (split /\n/, $ENV{headers}) {
             my @parts = split m{/}, $header;
             $place{join "/", @parts[$_ .. $#parts]} = $header for 0 .. $#parts;
@@ -31,7 +31,7 @@ included_folders() {
         }' | sort -u
 }
 
-# The same of the picture.
+# Prints the pairs of folders in the picture.
 drawn_folders() { sed -nE 's/^ *"([^"]+)" -> "([^"]+)".*/\1 \2/p' docs/architecture.dot | sort -u; }
 
 headers=$(cpp_files src | grep '\.h$')

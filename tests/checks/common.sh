@@ -1,5 +1,5 @@
-# For the checks: each prints one line for each fault and ends with 1 when there was one.
-# The tree to look at is the script's first argument.
+# Common code of the checks. A check prints a line for each fault, and its exit status is 1 when there
+# is a fault. The script's first argument is the root of the tree.
 set -u
 export LC_ALL=C.UTF-8
 root=$(cd "$1" && pwd) || exit 2
@@ -17,7 +17,7 @@ finish() {
     exit 1
 }
 
-# Our C++ files below the folders named.
+# Prints the C++ files below the given folders.
 cpp_files() {
     local folder
     for folder in "$@"; do
@@ -25,7 +25,7 @@ cpp_files() {
     done
 }
 
-# A file without its comments, line for line.
+# Prints a file without its comments and keeps its line numbers.
 without_comments() {
     sed -e 's@//.*$@@' -e 's@/\*.*\*/@@g' -e '/\/\*/,/\*\//s@.*@@' "$1"
 }

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Every C++ file looks as clang-format makes it.
+# Checks that every C++ file is formatted by clang-format.
 . "$(dirname "$0")/common.sh"
 
 command -v clang-format >/dev/null || complain "clang-format is not installed"
-# One line for each file: the first place that differs.
+# Prints the first difference of each file.
 while IFS= read -r hit; do
     complain "$hit"
 done < <(cpp_files src tests benchmarks examples | xargs -r -P 2 -n 20 clang-format --style=file \

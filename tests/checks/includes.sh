@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# The arrows between the parts: which folder may include what.
+# Checks which headers each folder may include.
 . "$(dirname "$0")/common.sh"
 
 standard='^[a-z_]+$'
 qt='^Q[A-Za-z0-9]+$'
 any='.'
 
-# check FILES ANGLE QUOTED...: ANGLE is what may stand in <>, QUOTED are folders or single files
-# whose headers may stand in "".
+# check FILES ANGLE QUOTED...: ANGLE is a pattern for headers in <>. QUOTED are folders or single
+# files whose headers may be included in "".
 check() {
     local files=$1 angle=$2 file name
     [ -n "$files" ] || return 0
@@ -38,7 +38,8 @@ allowed() {
     return 1
 }
 
-# From the includer's own folder or from the folder itself, but never out of it.
+# lies_in_folder: the path is in the including file's own folder or in the given folder, and not
+# outside of it.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
     for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do

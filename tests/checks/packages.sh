@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# packages.txt names each package once, in a section that a command takes. The packages of [run] and
-# [test] exist: they are installed here, where all is built and tested.
+# Checks that packages.txt names each package once, in a section that a command installs, and that the
+# packages of [run] and [test] exist, that is, they are installed on this machine.
 . "$(dirname "$0")/common.sh"
 
 declare -A seen

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Each check finds the faults that it is there for: a small tree is made for each, with one fault.
+# Tests that each check finds its faults, in small trees with one fault each.
 set -u
 checks=$(cd "$(dirname "$0")" && pwd)
 source_tree=$(cd "$1" && pwd) || exit 2
@@ -7,7 +7,7 @@ tree=$(mktemp -d) || exit 2
 trap 'rm -rf "$tree"' EXIT
 wrong=0
 
-# write FILE: its content comes from the standard input.
+# write FILE: writes the standard input to the file.
 write() {
     mkdir -p "$tree/$(dirname "$1")"
     cat >"$tree/$1"
@@ -32,7 +32,7 @@ fresh_tree() {
     write src/dashboard/Program.h </dev/null
 }
 
-# passes CHECK
+# passes CHECK: the check finds no fault.
 passes() {
     local said
     said=$(bash "$checks/$1.sh" "$tree" 2>&1) && return
@@ -40,7 +40,8 @@ passes() {
     wrong=1
 }
 
-# finds CHECK PATTERN FILE: with FILE's content from the standard input.
+# finds CHECK PATTERN FILE: with the standard input as the content of FILE, the check prints a line
+# that matches PATTERN.
 finds() {
     local said
     fresh_tree

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-/// The data files that come with the plug-in fit together, and fit the network that comes with it.
+/// Tests that the shipped data files are consistent with each other and with the shipped network.
 class ShippedDataTest : public UssdTest
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ namespace
 {
 const QString ROOT = QString::fromUtf8(USSD_SOURCE_DIR);
 
-/// One element of a document, as far as these tests look.
+/// An element of a document with the parts that these tests check.
 struct Element {
     QString name;
     QXmlStreamAttributes attributes;

@@ -4,7 +4,7 @@
 #include <QDirIterator>
 #include <QFile>
 
-/// The language files, and the checks that they are held to.
+/// Tests the language files, and tests the checks themselves.
 class TranslationsTest : public UssdTest
 {
     Q_OBJECT
@@ -90,7 +90,7 @@ QStringList keys(const char *blankSeparated)
     return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
 }
 
-/// The push buttons that stand in one window.
+/// Returns the keys of the push buttons of each window.
 QList<QStringList> windows()
 {
     return QList<QStringList>()

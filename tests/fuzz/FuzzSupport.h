@@ -7,9 +7,10 @@
 #include <QByteArray>
 #include <QString>
 
-/* What the fuzzers have in common. Each runs one input in LLVMFuzzerTestOneInput(). */
+/* Common code of the fuzzers. Each fuzzer runs one input in LLVMFuzzerTestOneInput(). */
 
-/// Ends the program with a message, which the fuzzer takes for a crash. Works in every build.
+/// Ends the program with a message when the condition is false. The fuzzer reports it as a crash.
+/// Works in every build type.
 #define FUZZ_REQUIRE(condition)                                                                    \
     ((condition) ? static_cast<void>(0) : FuzzSupport::fail(#condition, __FILE__, __LINE__))
 
@@ -18,20 +19,21 @@ namespace FuzzSupport
 
 [[noreturn]] void fail(const char *condition, const char *file, int line);
 
-/// Log lines are formatted and go nowhere: what they hold of the input is fuzzed with it.
+/// Discards log lines. They are formatted nevertheless, so that formatting the input is fuzzed too.
 void dropMessages();
 
-/// An application without a display, for widgets. Made on the first call, never deleted.
+/// Creates an application without a display, for widgets. The first call creates it, and it is
+/// never deleted.
 void needApplication();
 
-/// A folder that is gone after the program, without a separator at its end.
+/// Returns a folder that is deleted at the end of the program, without a trailing separator.
 QString folder();
 
-/// Makes or replaces a file in an existing folder.
+/// Creates or replaces a file in an existing folder.
 void writeFile(const QString &path, const QByteArray &content);
 
-/// The input as UTF-16 units in the host's byte order, lone surrogates and all; an odd byte at the
-/// end is left out.
+/// Returns the input as UTF-16 code units in the host's byte order, including lone surrogates. An
+/// odd byte at the end is ignored.
 QString units(const uint8_t *data, size_t size);
 
 } // namespace FuzzSupport

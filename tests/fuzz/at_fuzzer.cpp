@@ -1,5 +1,6 @@
 /*
- * What a modem and its host say to each other: text encodings, command lines, messages in PDU mode.
+ * Fuzzes the protocol between a modem and its host: text encodings, command lines, and messages in
+ * PDU mode.
  */
 #include "FuzzSupport.h"
 
@@ -28,7 +29,7 @@ void checkHex(const std::string &raw)
     FUZZ_REQUIRE(!read || read->size() * 2 == raw.size());
 }
 
-/// Bytes of any kind give text; text goes through UCS2 unharmed.
+/// Checks that arbitrary bytes are converted to text, and that a text survives conversion to UCS2.
 void checkCharsets(const std::string &raw)
 {
     const modem::Bytes bytes(raw.begin(), raw.end());
@@ -67,7 +68,8 @@ void checkMessage(const std::string &raw)
         const std::size_t octets = pdu.size() / 2;
         const auto message = modem::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
         FUZZ_REQUIRE(!message || isText(message->number));
-        FUZZ_REQUIRE(!message || message->text.size() <= 2 * raw.size()); // euro signs at most
+        FUZZ_REQUIRE(!message || message->text.size() <=
+                                     2 * raw.size()); // twice the size if all are euro signs
     }
 }
 

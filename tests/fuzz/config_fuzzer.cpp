@@ -1,5 +1,5 @@
 /*
- * USSDPluginConfig.xml through the logic object: the whole load, every getter, the IMSI match.
+ * Fuzzes USSDPluginConfig.xml through the logic object: loading, every getter, and the IMSI match.
  */
 #include "FuzzSupport.h"
 
@@ -20,7 +20,7 @@ bool same(const Char &a, const Char &b)
            a.green == b.green && a.blue == b.blue;
 }
 
-/// Either form answers, or none does; a bool is 0 or 1.
+/// Checks that the getters answer known attributes only, and that a bool is 0 or 1.
 void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute)
 {
     const int number = logic.GetComponentAttrInt(paidType, component, attribute);
@@ -33,7 +33,8 @@ void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute
         FUZZ_REQUIRE(number == 0 || number == 1);
 }
 
-/// Numbers that do not exist are asked for once in a while only: the answer is in no file.
+/// Checks all attributes. Unknown numbers are checked only sometimes, because the file does not
+/// affect them.
 void checkAttributes(USSDLogic &logic, bool alsoUnknown)
 {
     const int beyond = alsoUnknown ? 1 : 0;
@@ -43,7 +44,7 @@ void checkAttributes(USSDLogic &logic, bool alsoUnknown)
                 checkAttribute(logic, paidType, component, attribute);
 }
 
-/// A getter reads its section anew, and gives the same as long as the file is the same.
+/// Checks that a getter, which reads its section again, returns the same for an unchanged file.
 void checkSections(USSDLogic &logic)
 {
     for (const _CHAR_SET_COLOR which : {CHAR_SET_SEND, CHAR_SET_RECEIVE}) {
@@ -65,7 +66,7 @@ void checkSections(USSDLogic &logic)
     logic.GetPrePostDiffer(differ);
 }
 
-/// The longest prefix in the map, found the slow way.
+/// Returns the length of the longest matching prefix, found by trying all prefixes.
 int longestPrefix(const QHash<QString, int> &prefixes, const QString &imsi)
 {
     int longest = 0;
@@ -85,7 +86,7 @@ void checkImsi(USSDLogic &logic, const AutoUSSD &section, const QString &imsi)
     FUZZ_REQUIRE(!matched || flags == section.imsiMap.value(imsi.left(length)));
 }
 
-/// What the logic object has loaded by now, read once more from the bytes.
+/// Reads the section again from the bytes, for comparison with what the logic object has loaded.
 AutoUSSD autoUSSDBehindTheOthers(const QByteArray &file)
 {
     QXmlStreamReader reader(file);
@@ -122,7 +123,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         FuzzSupport::folder() + QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml"), file);
     USSDLogic &logic = *USSDLogic::GetUSSDLogicInstance();
     checkAttributes(logic, size % 64 == 0);
-    checkImsis(logic, file.replace("\r\n", "\n")); // a text file is read so
+    checkImsis(logic, file.replace("\r\n", "\n")); // the logic object reads the file in text mode
     checkSections(logic);
     USSDLogic::Destroy();
     return 0;

@@ -1,5 +1,5 @@
 /*
- * The USSD-SMS section: bounds of what is kept, and what is made of it.
+ * Fuzzes the USSD-SMS section: the limits of what is read, and the values read.
  */
 #include "FuzzSupport.h"
 
@@ -12,7 +12,7 @@ namespace
 
 const int MOST_GROUPS = 500;
 const int MOST_CONTROLS = 6;
-const int MOST_COMPLAINTS = 21; // and the one about the file's form
+const int MOST_COMPLAINTS = 21; // twenty, and one about the syntax of the file
 
 void checkGeometry(const QRect &rect)
 {
@@ -39,7 +39,7 @@ void checkGroup(const CWidget &group, int dialogWidth)
         checkControl(*control, dialogWidth);
 }
 
-/// The tree has two levels, its root first.
+/// Checks that the tree has two levels and begins with its root.
 void checkTree(const SmsLayout &layout)
 {
     FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::MAX_ORDINARY_ENTRIES);

@@ -1,5 +1,5 @@
 /*
- * A user's profile file through the store: read, saved, read again.
+ * Fuzzes a user's profile file, which is read, saved and read again.
  */
 #include "FuzzSupport.h"
 
@@ -23,7 +23,7 @@ QList<USSDProfile> profilesOf(USSDEditCmd &store)
     return profiles;
 }
 
-/// The store as the files are now, saved as it was read.
+/// Reads the files, saves the profiles and returns them.
 QList<USSDProfile> readAndSave()
 {
     USSDEditCmd store;
@@ -34,10 +34,10 @@ QList<USSDProfile> readAndSave()
 void checkProfiles(const QList<USSDProfile> &profiles, size_t bytes)
 {
     FUZZ_REQUIRE(profiles.count() >= 1 && profiles.first().isSystem);
-    FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // "<item>"
+    FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // the length of "<item>"
     QSet<QString> codes;
     for (const USSDProfile &profile : profiles) {
-        FUZZ_REQUIRE(!codes.contains(profile.value)); // the first one wins
+        FUZZ_REQUIRE(!codes.contains(profile.value)); // the store keeps the first of equal codes
         codes.insert(profile.value);
     }
 }
@@ -64,7 +64,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
     FuzzSupport::writeFile(userFolder() + QLatin1String("ussdprofile.xml"), file);
     checkProfiles(readAndSave(), size);
-    // Saving may take blanks off, and so make two codes one; what was saved once stays.
+    // Saving may trim blanks and thereby make two codes equal. A second time changes nothing.
     const QList<USSDProfile> saved = readAndSave();
     checkProfiles(saved, size);
     FUZZ_REQUIRE(readAndSave() == saved);

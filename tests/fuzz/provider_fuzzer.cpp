@@ -1,6 +1,6 @@
 /*
- * The database of operators: whatever it holds, the plug-in's own readers get out of the files what
- * was planned, and nothing goes out that is no code.
+ * Fuzzes the database of operators. The plug-in's readers must get the planned values from the
+ * generated files, and every generated code must be a valid code.
  */
 #include "FuzzSupport.h"
 
@@ -20,7 +20,7 @@
 namespace
 {
 
-const int MOST_PROVIDERS = 20; // of an input, to be gone through
+const int MOST_PROVIDERS = 20; // checked in an input
 
 QByteArray shipped;
 

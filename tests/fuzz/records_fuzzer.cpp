@@ -1,6 +1,6 @@
 /*
- * The device SDK's records, both ways: each lies in memory of exactly its size, so that a unit read
- * too much is seen.
+ * Fuzzes the device SDK's records in both directions. Each record is in memory of exactly its size,
+ * so that reading beyond its end is detected.
  */
 #include "FuzzSupport.h"
 
@@ -25,7 +25,7 @@ std::vector<unsigned short> terminated(const QString &text)
     return result;
 }
 
-/// As far as the first zero unit.
+/// Returns the text up to the first zero unit.
 QString upToZero(const QString &text)
 {
     const int zero = text.indexOf(QChar(0));
@@ -58,7 +58,7 @@ void checkSmsResult(const QString &number, const QString &text, int result)
     FUZZ_REQUIRE(read.text == (record.text ? upToZero(text) : QString()));
 }
 
-/// A command that fits comes out at the device as it went in, or is refused for not being UTF-16.
+/// Checks that a command that fits arrives unchanged, or is rejected because it is not UTF-16.
 void checkRequest(const QString &command)
 {
     TKSV_USSDRequest request;
@@ -75,7 +75,7 @@ void checkRequest(const QString &command)
     FUZZ_REQUIRE(!isText || tksv::toUtf16(*decoded) == command.toStdU16String());
 }
 
-/// Whatever a client writes into the record.
+/// Checks a record with arbitrary content.
 void checkRawRequest(const uint8_t *data, size_t size)
 {
     TKSV_USSDRequest request = {};
@@ -85,7 +85,7 @@ void checkRawRequest(const uint8_t *data, size_t size)
     FUZZ_REQUIRE(!decoded || tksv::toUtf16(*decoded).has_value());
 }
 
-/// A reply on its way from a modem to the plug-in: bytes that are no UTF-8 become nothing.
+/// Checks a reply from a modem. Bytes that are not valid UTF-8 become an empty text.
 void checkReply(const std::string &bytes)
 {
     tksv::UssdReply reply;

@@ -1,5 +1,5 @@
 /*
- * A scenario file: a whole scenario or complaints about it, never both, never neither.
+ * Fuzzes a scenario file. The reader must return either a scenario or complaints, and never both.
  */
 #include "FuzzSupport.h"
 
@@ -22,7 +22,7 @@ void checkComplaints(const std::string &text, const tksv::ScenarioResult &result
     }
 }
 
-/// Each rule is found by its own name, and its reply can be written out.
+/// Checks that a rule is found by its own name and that its reply can be formatted.
 void checkRule(const tksv::Scenario &scenario, const std::string &group, const tksv::Rule &rule)
 {
     if (group.find(tksv::ANY_DIGITS) == std::string::npos && group.find('/') == std::string::npos &&

@@ -1,5 +1,5 @@
 /*
- * A reply in a status box is its letters, whatever it holds.
+ * Fuzzes a reply in a status box, which must show the reply as plain text.
  */
 #include "FuzzSupport.h"
 
@@ -21,7 +21,7 @@ QString withoutMarks(QString text)
     return text.remove(EMBED).remove(POP);
 }
 
-/// Nothing but letters in paragraphs: no picture, link, table or frame.
+/// Checks that the document contains only text in paragraphs: no picture, link, table or frame.
 void checkDocument(const QTextDocument &document)
 {
     FUZZ_REQUIRE(document.rootFrame()->childFrames().isEmpty());
@@ -34,7 +34,8 @@ void checkDocument(const QTextDocument &document)
     }
 }
 
-/// As a document holds them: its own marks for the end of a paragraph, and nothing for a return.
+/// Converts the line ends as a document does: to its own paragraph separators, without carriage
+/// returns.
 QString asLines(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

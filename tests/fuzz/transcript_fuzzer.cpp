@@ -1,5 +1,5 @@
 /*
- * Entries of the transcript, in any number and order, with whatever the network sends in them.
+ * Fuzzes the transcript: entries in any number and order, with arbitrary texts of the network.
  */
 #include "FuzzSupport.h"
 
@@ -16,9 +16,9 @@ namespace
 {
 
 const int MOST_TABLES = 8;
-const QChar NEXT_ENTRY(0x1E); // in an input
+const QChar NEXT_ENTRY(0x1E); // separates the entries of an input
 
-/// Does what QTextEdit would do with files: nothing of that may be asked for.
+/// Checks the resources that QTextEdit requests. No file may be requested.
 class WatchedView : public TranscriptView
 {
 public:
@@ -47,13 +47,13 @@ int tablesIn(const QTextFrame *frame)
     return tables;
 }
 
-/// What must not be laid out, whatever the text did to hide it.
+/// Checks that the document has no elements that take too long to lay out.
 void checkCost(const QTextDocument &document)
 {
     FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= MOST_TABLES);
 }
 
-/// A second view that got the same entries shows the same.
+/// Returns what a second view shows for the same entries.
 QString shownBy(const QStringList &texts, QString *markup)
 {
     WatchedView view;
@@ -70,7 +70,7 @@ QString shownBy(const QStringList &texts, QString *markup)
     return shown;
 }
 
-/// The document that setting the whole transcript gives, text for text.
+/// Returns the text that a view shows when the whole transcript is set at once.
 QString shownAtOnce(const QString &markup)
 {
     WatchedView view;

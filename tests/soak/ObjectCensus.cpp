@@ -11,7 +11,7 @@
 namespace
 {
 
-/** Never destroyed, since objects may be later than anything static. */
+/** Never destroyed, because objects may be deleted after static objects. */
 struct Census {
     std::mutex mutex;
     std::unordered_set<QObject *> living;

@@ -2,17 +2,17 @@
 #define OBJECTCENSUS_H
 
 /**
- * Counts every QObject of the process from install() on, with parent or without, by the hooks that
- * Qt has for inspectors; nothing else sees an object that somebody has forgotten.
+ * Counts every QObject of the process since install(), with and without a parent. It uses Qt's
+ * hooks for inspectors, because no other way finds a leaked object.
  */
 namespace ObjectCensus
 {
 
-/// Before the application object is made.
+/// Starts counting. Must be called before the application object is constructed.
 void install();
-/// QObjects alive. Any thread.
+/// Returns the number of existing QObjects. May be called on any thread.
 int objects();
-/// Timers of Qt that run for objects of the calling thread.
+/// Returns the number of running Qt timers of objects in the calling thread.
 int timers();
 
 } // namespace ObjectCensus

@@ -6,7 +6,7 @@
 namespace
 {
 
-const int WIDTH = 940; // pixels, as all sizes here
+const int WIDTH = 940; // pixels, like all sizes in this file
 const int STRIP = 88;
 const int GAP = 22;
 const int LEFT = 180;
@@ -57,7 +57,7 @@ private:
                area.width() * qreal(sample.commands) / qreal(m_samples.last().commands);
     }
 
-    /// A quarter of room above the highest value.
+    /// Returns the upper end of the scale: the highest value and a quarter.
     double top(const SoakFigure &figure) const
     {
         double highest = 1;

@@ -6,8 +6,9 @@
 
 #include "SoakSample.h"
 
-/// Draws each figure over the commands sent, one strip for each, all from zero, and writes the
-/// picture as a PNG. `warm` is the sample that the end is compared with. Whether it was written.
+/// Draws a strip for each figure over the number of commands, with scales from zero, and writes the
+/// picture as a PNG file. `warm` is the index of the sample that the end is compared with. Returns
+/// whether the file was written.
 bool writeSoakChart(const QString &file, const QVector<SoakSample> &samples, int warm);
 
 #endif

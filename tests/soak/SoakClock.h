@@ -4,16 +4,17 @@
 #include <QtGlobal>
 
 /**
- * The time of the simulated network and of the reply time-out, which passes only when it is told
- * to. One for the whole process; GUI thread, but for reading it.
+ * The clock of the simulated network and of the reply time-out, which advances only on request. The
+ * process has one clock. It may be read on any thread; all other functions must be called on the
+ * GUI thread.
  */
 namespace SoakClock
 {
 
-/// Puts this clock in place of the system's, for good.
+/// Replaces the system's clock permanently.
 void install();
 void advance(int milliseconds);
-/// Milliseconds since install().
+/// Returns the milliseconds since install().
 qint64 now();
 
 } // namespace SoakClock

@@ -24,9 +24,9 @@ namespace
 
 const int PULSE = 5;                  // ms of real time
 const int STEP = 1000;                // ms of simulated time with each pulse
-const int LONGEST_REPLY = 5000;       // ms; the scenarios' slowest
-const int REPLY_LIMIT = 31000;        // ms; a little more than the plug-in waits
-const ReplyTimes TIMES = {30000, 20}; // as shipped, but that the second one is real time
+const int LONGEST_REPLY = 5000;       // ms; the slowest reply of the scenarios
+const int REPLY_LIMIT = 31000;        // ms; a little longer than the plug-in waits
+const ReplyTimes TIMES = {30000, 20}; // ms; the second value is real time and therefore shorter
 const int RESTART_EVERY = 16;         // rounds
 const QSize PAGE_SIZE(800, 600);
 const char *const NETWORKS[] = {"prepaid", "contract", "restless"};
@@ -101,7 +101,7 @@ int SoakHost::cycle()
     return int(HostCore::Languages::codes().size()) * NETWORK_COUNT;
 }
 
-/// The files that ship, in a folder that is this run's own.
+/// Copies the shipped files to a folder of this run. Returns false on failure.
 bool SoakHost::layOutFiles()
 {
     const QString place = m_folder.filePath(QLatin1String("plugins/USSDUIPlugin"));
@@ -152,7 +152,7 @@ void SoakHost::speak(int number)
     CUSSDService::instance()->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }
 
-/// Another SIM and another network, as when somebody changes the modem.
+/// Selects another SIM and another network, as if the modem were replaced.
 void SoakHost::useNetwork(int number)
 {
     const QString file = QLatin1String(SOAK_SCENARIOS "/") +
@@ -165,7 +165,7 @@ void SoakHost::useNetwork(int number)
         CUSSDService::instance()->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
 }
 
-/// The general window in the host's own, as long as it takes to send some codes.
+/// Embeds the general window in the host's window and sends some codes.
 void SoakHost::usePage()
 {
     QRect place(QPoint(), PAGE_SIZE);
@@ -185,7 +185,7 @@ void SoakHost::usePage()
     CUSSDService::instance()->Hide();
 }
 
-/// Comes back when pulse() has closed it.
+/// Opens the editor and returns when pulse() has closed it.
 void SoakHost::openEditor(QWidget *page)
 {
     ++m_openings;
@@ -199,7 +199,7 @@ void SoakHost::openFrame(PAID_TYPE type)
         trouble(QLatin1String("a window does not open"));
     ++m_openings;
     handleEvents();
-    waitUntilIdle(); // it may have asked something by itself
+    waitUntilIdle(); // the window may have sent a command by itself
     QWidget *frame = openFrameWidget();
     if (!frame)
         return trouble(QLatin1String("a frame is not to be seen"));
@@ -240,10 +240,10 @@ void SoakHost::runPipeline()
     letTimeRunOut();
 }
 
-/// A code that the network never answers.
+/// Sends a code that the network never answers.
 void SoakHost::letTimeRunOut()
 {
-    waitUntilIdle(); // else it would wait in the queue while time runs
+    waitUntilIdle(); // otherwise the code would wait in the queue while the time passes
     const qint64 before = m_answers;
     hand("*199#");
     passReplyLimit();
@@ -256,8 +256,8 @@ void SoakHost::passReplyLimit()
     replyTimer()->catchUp();
 }
 
-/// The device goes away in the middle of a command, and comes back. The time-out of that command
-/// goes on, and finds nothing to announce.
+/// Removes the device while a command is pending, and adds it again. The timer of that command
+/// keeps running and has nothing to report when it fires.
 void SoakHost::loseDevice()
 {
     sendAndWait("*194#");
@@ -266,7 +266,7 @@ void SoakHost::loseDevice()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// All replies are due at once; the pulse sees to those that are asked for later.
+/// Advances the clock so that all replies are due. The pulse handles replies to later commands.
 void SoakHost::waitForAnswer(qint64 before)
 {
     SoakClock::advance(LONGEST_REPLY);
@@ -274,8 +274,8 @@ void SoakHost::waitForAnswer(qint64 before)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Nothing was awaited at two pulses in a row: between an answer and the next command of the queue
-/// there is a moment at which nothing is.
+/// Waits until no answer is pending at two consecutive pulses, because no answer is pending for a
+/// moment between an answer and the next queued command.
 void SoakHost::waitUntilIdle()
 {
     SoakClock::advance(LONGEST_REPLY);
@@ -284,7 +284,7 @@ void SoakHost::waitUntilIdle()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// The moment to look at what the process holds.
+/// Brings the process to a state in which its memory and resources can be compared.
 void SoakHost::settle()
 {
     waitUntilIdle();
@@ -296,7 +296,7 @@ void SoakHost::countAnswer()
     ++m_answers;
 }
 
-/// Time passes, and the user closes what waits for him.
+/// Advances the clock, and closes dialogs as a user would.
 void SoakHost::pulse()
 {
     m_quietPulses = isAwaited() ? 0 : m_quietPulses + 1;

@@ -10,17 +10,17 @@
 #include "plugin/PluginContainer.h"
 #include "sim/NotificationService.h"
 
-/** How much one round does. */
+/** The numbers of commands in a round. */
 struct SoakLoad {
-    int pageCommands;     // typed into the general window, and sent by its button
-    int pipelineCommands; // handed to the pipeline one after the other
-    int queuedCommands;   // handed to it at once
+    int pageCommands;     // typed into the general window and sent by its button
+    int pipelineCommands; // sent through the pipeline one after another
+    int queuedCommands;   // sent to the pipeline all at once
 };
 
 /**
- * A host that uses the plug-in as its users do in months: languages, windows, codes, codes without
- * an answer, devices that go away, other SIM cards. Everything runs in this process; only the time
- * is SoakClock's. GUI thread.
+ * A host that uses the plug-in as users do over months, with languages, windows, codes, codes
+ * without an answer, removed devices and changed SIM cards. Everything runs in this process with
+ * the time of SoakClock. GUI thread.
  */
 class SoakHost : public QObject
 {
@@ -29,18 +29,18 @@ public:
     explicit SoakHost(const SoakLoad &load);
     ~SoakHost() override;
 
-    /// Whether the plug-in's files could be laid out and the network be started.
+    /// Returns whether the plug-in's files could be copied and the network could be started.
     bool isReady() const { return m_isReady; }
-    /// Does everything once. Rounds differ by language, network, and what is begun anew; after
-    /// cycle() of them all combinations have been there.
+    /// Uses every function once. Rounds differ in language, network and restarts. After cycle()
+    /// rounds, all combinations have occurred.
     void round(int number);
     static int cycle();
 
     qint64 commands() const { return m_commands; }
     qint64 openings() const { return m_openings; }
-    /// Commands whose outcome has been announced.
+    /// Returns the number of commands whose outcomes have been reported.
     qint64 answers() const { return m_answers; }
-    /// What went otherwise than it must, for people; empty when nothing did.
+    /// Returns descriptions of all failures.
     QStringList troubles() const { return m_troubles; }
 
 private slots:
@@ -78,7 +78,7 @@ private:
     qint64 m_commands = 0;
     qint64 m_openings = 0;
     qint64 m_answers = 0;
-    int m_quietPulses = 0; // in a row, at which no answer was awaited
+    int m_quietPulses = 0; // consecutive pulses without a pending answer
     QStringList m_troubles;
 };
 

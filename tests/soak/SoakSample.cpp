@@ -15,10 +15,11 @@ namespace
 
 const double MEGABYTE = 1 << 20;
 
-/// Caches of Qt and of the C library have no fixed size: glyphs, hashes that grow by doubling, free
-/// lists. Any leak of one block of 16 bytes for each hundredth command of a long run is more.
+/// The allowance for caches of Qt and of the C library, which have no fixed size: glyphs, hashes
+/// that grow by doubling, free lists. A leak of 16 bytes per hundred commands exceeds it in a long
+/// run.
 const double HEAP_MAY_GROW = 0.25; // megabytes
-/// Of what was freed, the C library keeps pages that lie between blocks in use.
+/// The allowance for free pages between used blocks, which the C library cannot return.
 const double RESIDENT_MAY_GROW = 6; // megabytes
 
 double residentMegabytes(const SoakSample &sample)
@@ -76,8 +77,8 @@ const QVector<SoakFigure> &soakFigures()
 SoakSample takeSoakSample()
 {
     SoakSample sample;
-    QPixmapCache::clear(); // it keeps up to 10 MB, however few of them anybody needs again
-    malloc_trim(0);        // what is free now says nothing about leaks
+    QPixmapCache::clear(); // the cache keeps up to 10 MB, whether or not it is used again
+    malloc_trim(0);        // freed memory is no leak
     sample.heapBytes = heapBytes();
     sample.residentBytes = residentBytes();
     sample.descriptors = entriesOf("/proc/self/fd");

@@ -4,25 +4,25 @@
 #include <QString>
 #include <QVector>
 
-/** What the process holds at one moment at which nothing is going on. */
+/** The memory and resources that the process uses at a moment when it is idle. */
 struct SoakSample {
-    qint64 commands = 0;       // sent until now
-    qint64 openings = 0;       // of windows, until now
+    qint64 commands = 0;       // sent since the start
+    qint64 openings = 0;       // windows opened since the start
     double simulatedHours = 0; // since the start
-    qint64 residentBytes = 0;  // RSS
-    qint64 heapBytes = 0;      // handed out by malloc and not given back
+    qint64 residentBytes = 0;  // resident set size
+    qint64 heapBytes = 0;      // allocated by malloc and not freed
     int descriptors = 0;
     int threads = 0;
-    int timers = 0;  // of Qt, in the GUI thread
-    int widgets = 0; // with and without parent
-    int objects = 0; // QObjects, widgets included
+    int timers = 0;  // Qt timers in the GUI thread
+    int widgets = 0; // with and without a parent
+    int objects = 0; // QObjects, including widgets
 };
 
-/** One line of the comparison. */
+/** A figure to compare. */
 struct SoakFigure {
     const char *name;
     double (*value)(const SoakSample &);
-    /// What the end may hold more than the moment after the warm-up: see docs/testing.md.
+    /// The permitted growth between the warm-up and the end; docs/testing.md gives the reasons.
     double mayGrowBy;
     const char *unit;
 };
@@ -31,7 +31,7 @@ const QVector<SoakFigure> &soakFigures();
 
 SoakSample takeSoakSample();
 
-/// What grew by more than it may, one a line; empty when nothing did.
+/// Returns a line for each figure that has grown by more than permitted.
 QString grownBetween(const SoakSample &warm, const SoakSample &end);
 
 #endif

@@ -1,11 +1,11 @@
 /*
- * Months of use in minutes. Plug-in, device SDK and simulated network run in this process; what the
- * process holds at the end is compared with what it held after the warm-up.
+ * Simulates months of use in minutes. Plug-in, device SDK and simulated network run in this
+ * process, whose memory and resources at the end are compared with those after the warm-up.
  *
  *   soak [--commands N] [--openings N] [--report FOLDER]
  *
- * FOLDER gets soak.png and soak.txt. Ends with 0 when nothing has grown and every command had its
- * outcome announced, with 1 otherwise, and with 2 when it could not begin.
+ * Writes soak.png and soak.txt to FOLDER. The exit code is 0 when nothing has grown and the outcome
+ * of every command was reported, 2 when the run could not start, and 1 otherwise.
  */
 #include <QApplication>
 #include <QDir>
@@ -26,19 +26,20 @@ namespace
 
 const double HOUR = 3600 * 1000.0; // ms
 const int OPENINGS_IN_ROUND = 6;   // page, editor, four frames
-const int OTHERS_IN_ROUND = 2;     // commands: the one without an answer, the one that is cut off
+const int OTHERS_IN_ROUND = 2;     // commands: one without an answer, one cancelled by the device
 const int SAMPLES = 200;
 
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a folder; empty: none
+    QString report; // a folder; empty for no report
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;
 };
 
-/// One command in ten by the general window; of the others one in ten in a queue.
+/// Returns the load of a round: every tenth command is sent by the general window, and every tenth
+/// of the others through a queue.
 SoakLoad Order::load() const
 {
     const int each = int((commands + rounds() - 1) / rounds());
@@ -70,7 +71,7 @@ bool readOrder(const QStringList &words, Order *order)
 
 void dropLog(QtMsgType, const QMessageLogContext &, const QString &) {}
 
-/** The run, and what was seen of it. */
+/** Performs the run and collects its samples. */
 class Soak
 {
 public:
@@ -79,7 +80,7 @@ public:
     bool isReady() const { return m_host.isReady(); }
     void run();
     QString report() const;
-    /// Empty when all is well.
+    /// Returns the failures of the run; empty when there are none.
     QString faults() const;
     bool writeReport() const;
 
@@ -102,7 +103,8 @@ SoakSample Soak::sample() const
     return sample;
 }
 
-/// Samples are taken after rounds of one kind only, since each language has texts of its own.
+/// Samples are taken after rounds of the same kind only, because the texts of languages differ in
+/// size.
 void Soak::run()
 {
     const int cycle = SoakHost::cycle();
