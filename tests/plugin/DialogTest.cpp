@@ -7,7 +7,7 @@
 namespace
 {
 
-const int DESCRIPTION_HEIGHT = 112; // the only thing that tells the two nameless labels apart
+const int DESCRIPTION_HEIGHT = 112; // distinguishes the two labels without an object name
 
 } // namespace
 

@@ -12,8 +12,8 @@
 #include "windows/USSDGeneralDlg.h"
 
 /**
- * A test of the general dialog, driven as a user does, on the misbehaving device SDK. The network
- * is silent until a test lets it speak.
+ * The base class of tests that use the general dialog as a user does, with the fake device SDK. The
+ * network is silent until a test sends a reply.
  */
 class DialogTest : public PluginTest
 {
@@ -22,7 +22,8 @@ class DialogTest : public PluginTest
 protected:
     void tearDown() override;
 
-    /// Makes the dialog and shows it; an earlier one is deleted. Embedded, it stands in page().
+    /// Creates and shows the dialog, and deletes an earlier one. An embedded dialog is a child of
+    /// page().
     void open(WINDOW_MODEL model = WINDOW_MODEL_EMBEDDED);
     USSDGeneralDlg *dialog() { return m_dialog; }
     QWidget *page() { return m_page.data(); }
@@ -43,11 +44,11 @@ protected:
     TranscriptView *history() { return part<TranscriptView>("History"); }
     QLabel *promptLabel();
     QLabel *descriptionLabel();
-    QList<QPushButton *> presetButtons(); ///< in the order in which they were made
+    QList<QPushButton *> presetButtons(); ///< in the order of their creation
 
     // ---- what a user does
     static void click(QPushButton *button);
-    void send(const QString &command); ///< types it and presses Send
+    void send(const QString &command); ///< types the command and presses Send
 
     // ---- what the network does
     void networkSays(const QString &text);
@@ -55,8 +56,9 @@ protected:
 
     // ---- what can be seen
     QStringList shownLines(); ///< the transcript's paragraphs, with their captions
-    bool isWaiting();         ///< prompt shown, everything that sends disabled
-    bool isIdle();            ///< no prompt, fields enabled and empty, Send disabled
+    bool isWaiting();         ///< the prompt is shown, and all controls that send are disabled
+    /// Returns whether no prompt is shown, the fields are enabled and empty, and Send is disabled.
+    bool isIdle();
     static QString text(const char *key);
     static QString sentLine(const QString &command);
     static QString receivedLine(const QString &reply);

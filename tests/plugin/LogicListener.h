@@ -10,8 +10,8 @@
 class USSDLogic;
 
 /**
- * Collects the logic's signals as a dialog gets them: queued, on the thread that made it. (A signal
- * spy of QtTest would be written to by the device SDK's threads.)
+ * Collects the logic's signals as a dialog receives them: queued, on the thread that constructed
+ * the listener. QSignalSpy is not used because the device SDK's threads would write to it.
  */
 class LogicListener : public QObject
 {
@@ -21,13 +21,14 @@ public:
 
     typedef QPair<int, QString> Answer;
 
-    /// Waits for the next answer and takes it; (-1, "no answer") after ten seconds.
+    /// Waits for the next answer and removes it from the list. Returns (-1, "no answer") after ten
+    /// seconds.
     Answer nextAnswer();
 
     QList<Answer> answers;
     QList<QList<QVariant>> smsResults;
     QList<bool> readiness;
-    QThread *thread = nullptr; ///< of the newest answer
+    QThread *thread = nullptr; ///< the thread that received the newest answer
 
 private slots:
     void takeAnswer(int component, QString text);

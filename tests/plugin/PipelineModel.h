@@ -8,27 +8,27 @@
 #include <QString>
 
 /**
- * The rules of the request pipeline, written down once more in the simplest way: one thread, no
- * time. The storm holds the real one to it.
+ * A model of the request pipeline: the same rules in their simplest form, without threads and time.
+ * A random test compares the real pipeline with it.
  */
 class PipelineModel
 {
 public:
     typedef QPair<int, QString> Answer; // component, text
 
-    /// Decides whether the device takes the next request.
+    /// Decides whether the device accepts the next request.
     std::function<bool()> deviceAccepts;
 
-    /// 0 or 1, as SendUSSDCommand().
+    /// Returns 0 or 1, as SendUSSDCommand() does.
     int send(int component, const QString &command);
     void reply(const QString &text) { announce(text); }
     void timeOut(const QString &text) { announce(text); }
     void deviceFailed(const QString &text);
-    /// Keeps the entries for whose component `keep` says so.
+    /// Removes all entries except those for whose component `keep` returns true.
     void clear(const std::function<bool(int)> &keep);
 
-    QList<Answer> answers; // what the dialogs must see, in order
-    QList<QString> handed; // what the device must get, in order
+    QList<Answer> answers; // the answers that the dialogs must receive, in order
+    QList<QString> handed; // the commands that the device must receive, in order
     int pending() const { return m_list.count(); }
 
 private:

@@ -7,9 +7,9 @@
 #include <QString>
 
 /**
- * A test of the plug-in's code on the misbehaving device SDK: each test function begins with a
- * fresh SDK, a plug-in library folder and a user data folder of its own, and without a singleton;
- * it ends with the plug-in taken down in the host's order.
+ * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
+ * starts with a reset SDK, without a singleton, and with a plug-in library folder and a user data
+ * folder of its own. It ends with the calls by which a host shuts the plug-in down.
  */
 class PluginTest : public UssdTest
 {
@@ -19,16 +19,16 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    /// Replaces the configuration that the next singleton reads. Empty: there is no file.
+    /// Replaces the configuration that the next singleton reads. An empty text deletes the file.
     void writeConfig(const QByteArray &xml);
-    /// Replaces the system profile file. Empty: there is no file.
+    /// Replaces the system profile file. An empty text deletes the file.
     void writeSystemProfiles(const QByteArray &xml);
-    QString pluginFolder(); ///< holds the two files; no separator at its end
-    QString userFolder();   ///< the user data folder; a separator at its end
+    QString pluginFolder(); ///< contains the two files; without a trailing separator
+    QString userFolder();   ///< the user data folder; with a trailing separator
 
-    /// A small complete configuration: every section, colours, an IMSI table.
+    /// Returns a small complete configuration with every section, colours and an IMSI table.
     static QByteArray completeConfig();
-    /// An "item" of a profile file.
+    /// Returns an "item" element of a profile file.
     static QByteArray profileItem(const QByteArray &name, const QByteArray &value,
                                   const QByteArray &readonly = "false",
                                   const QByteArray &showButton = "true",

@@ -11,7 +11,7 @@
 namespace
 {
 
-const int FRAME_HEIGHT = 20; // that the frame adds to what the dialog wants
+const int FRAME_HEIGHT = 20; // added by the frame to the height of the dialog
 
 QByteArray item(const char *name, int pos, const QByteArray &children)
 {
@@ -24,7 +24,7 @@ QByteArray element(const char *name, const QByteArray &text)
     return QByteArray("<") + name + ">" + text + "</" + name + ">";
 }
 
-/// The reader wants four items, whatever they are.
+/// Returns the item, or an unknown one if it is empty, because the reader needs four items.
 QByteArray orUnknown(const QByteArray &item)
 {
     return item.isEmpty() ? QByteArray("<item name='none'/>") : item;
@@ -41,7 +41,7 @@ QString textOf(const QMessageBox *box)
 void PrepaidTest::setUp()
 {
     PluginTest::setUp();
-    // Opening drops a command in flight, whose time-out the next one would wait for.
+    // Opening the dialog cancels a pending command. The next command would wait for its time-out.
     const ReplyTimes times = {30000, 1};
     USSDLogic::setReplyTimes(times);
 }
@@ -81,7 +81,7 @@ QByteArray PrepaidTest::msisdnItem(int pos)
     return item("MSISDN", pos, element("command", "*102#") + element("UpdateButton", "1"));
 }
 
-/// What the general window reads, and the rule by which event 579 closes windows.
+/// Returns the sections that the general window and the event 579 need.
 QByteArray PrepaidTest::sectionsForOthers()
 {
     const QByteArray looks =

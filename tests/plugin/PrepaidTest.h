@@ -17,15 +17,15 @@
 class QMessageBox;
 
 /**
- * A test of the account window in its frame, driven as a user does, on the misbehaving device SDK.
- * The network is silent until a test lets it speak.
+ * The base class of tests that use the account window in its frame as a user does, with the fake
+ * device SDK. The network is silent until a test sends a reply.
  */
 class PrepaidTest : public PluginTest
 {
     Q_OBJECT
 
 protected:
-    /// The "item" elements of one account; a component without one is not shown.
+    /// The "item" elements of an account. A component without an item is not shown.
     struct Account {
         QByteArray balance = balanceItem(0);
         QByteArray charge = chargeItem(1);
@@ -42,19 +42,19 @@ protected:
                                  const QByteArray &limitText = "0-9");
     static QByteArray onlineItem(int pos, const QByteArray &url);
     static QByteArray msisdnItem(int pos);
-    /// Both accounts and the detection, which is switched on when `pattern` is not empty.
+    /// Writes both accounts and the detection, which is enabled when `pattern` is not empty.
     void configure(const Account &prepaid, const Account &postpaid,
                    const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
     void configure(const Account &both) { configure(both, both); }
 
     // ---- the window
-    /// Makes the dialog in a frame that is shown, as large as the dialog wants it; sends nothing.
+    /// Creates the dialog in a visible frame of the dialog's preferred size. Sends nothing.
     void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
-    /// The same, opened.
+    /// Creates the dialog as make() does and opens it.
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
-    /// As a host does it, in a frame of the service.
+    /// Opens the dialog in a frame of the service, as a host does.
     void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
-    void fitFrame(); ///< to what the dialog wants now
+    void fitFrame(); ///< to the dialog's current preferred size
     USSDDlg *dialog() { return m_dialog; }
     USSDExtendDialog *frame() { return m_frame.data(); }
 
@@ -78,21 +78,22 @@ protected:
     // ---- what a user does
     static void click(QPushButton *button);
     void type(const QString &pin);  ///< into the entry, key by key
-    void topUp(const QString &pin); ///< types it and presses the button
-    QWidget *keyTarget();           ///< what has the focus, in the message box when one is open
-    void pressReturn(bool isRepetition = false); ///< and keeps it down
+    void topUp(const QString &pin); ///< types the PIN and presses the button
+    /// Returns the widget with the focus, in the message box if one is open.
+    QWidget *keyTarget();
+    void pressReturn(bool isRepetition = false); ///< presses the key without releasing it
     void releaseReturn();
 
     // ---- what the network does
     void networkSays(const QString &text);
-    /// The same where a message box comes up: lets `look` see it, presses its button, and gives the
-    /// text it showed; null when there was no box.
+    /// Sends a reply that opens a message box. Calls `look` with the box open, presses its button
+    /// and returns its text, or a null text when no box was opened.
     QString networkSaysIntoBox(const QString &text,
                                const std::function<void(QMessageBox *)> &look = nullptr);
-    static QMessageBox *messageBox(); ///< the one that is open; null when there is none
+    static QMessageBox *messageBox(); ///< the open message box, or null
     static QString textInMessageBox();
-    static void closeMessageBox();                      ///< by its button
-    void logicSays(int component, const QString &text); ///< at once, whatever was sent
+    static void closeMessageBox();                      ///< presses its button
+    void logicSays(int component, const QString &text); ///< sends an answer without a command
     static QStringList requests();                      ///< the texts of all requests so far
 
     static QString text(const char *key);

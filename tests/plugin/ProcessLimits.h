@@ -8,7 +8,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// While it lives, no file can be opened: there is no number left for one.
+/// Prevents the process from opening files during its lifetime, by using up all file descriptors.
 class NoFileCanBeOpened
 {
 public:
@@ -26,7 +26,7 @@ private:
     rlimit m_before;
 };
 
-/// Makes the process a user whom permissions bind, while it lives: root may write anywhere.
+/// Makes the process an ordinary user during its lifetime, because root ignores permissions.
 class OrdinaryUser
 {
 public:
@@ -47,7 +47,7 @@ private:
     bool m_wasRoot;
 };
 
-/// Lets no file grow beyond some bytes, while it lives: a write fails as on a full disk.
+/// Limits the size of files during its lifetime, so that writing fails as on a full disk.
 class FullDisk
 {
 public:

@@ -51,7 +51,7 @@ QByteArray fourItems()
 const char DIFFER[] = "<PrePostDiffer value='true'><command>*103#</command>"
                       "<ReturnPattern>post</ReturnPattern><style>1</style></PrePostDiffer>";
 
-/// The text at the bottom of 100,000 elements.
+/// Returns the text inside 100,000 nested elements.
 QByteArray nested(const QByteArray &text, bool hasEnd = true)
 {
     const int levels = 100000;
@@ -59,7 +59,8 @@ QByteArray nested(const QByteArray &text, bool hasEnd = true)
            (hasEnd ? QByteArray("</a>").repeated(levels) : QByteArray());
 }
 
-/// Another root than that of completeConfig(), since its name is free.
+/// Returns a configuration. Its root differs from that of completeConfig(), because any name is
+/// allowed.
 QByteArray config(const QByteArray &prepaid, const QByteArray &postpaid,
                   const QByteArray &rest = QByteArray())
 {
@@ -73,7 +74,8 @@ QByteArray charSection(const char *name, const char *yHeight, const char *colour
            "<color " + colour + "/></" + name + ">";
 }
 
-/// The sections between "Postpaid" and "autoUSSD"; without one, a scan would pass over the rest.
+/// Returns the sections between "Postpaid" and "autoUSSD". If one were missing, the scan for it
+/// would skip all following sections.
 QByteArray looks()
 {
     return charSection("send", "20", "") + charSection("recevie", "20", "") +
@@ -167,7 +169,8 @@ private:
     static ClearHistory clearSetting();
     static CmdEdit editSetting();
     static PrePostDiffer differ();
-    /// What the longest prefix gives; -1 when none matches, in which case the flags have to be 0.
+    /// Returns the flags of the longest matching prefix. Returns -1 when no prefix matches, and
+    /// checks that the flags are 0 then.
     static int flagsOf(const QString &imsi);
 };
 
@@ -253,7 +256,7 @@ void ConfigTest::threeItemSectionTakesFirstPostpaidItem()
                            onlineItem()));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*7#"));
     QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 13);
-    // The scan for "Postpaid" then starts behind that section's start, and finds nothing.
+    // The scan for "Postpaid" starts after the start of that section and finds nothing.
     QCOMPARE(text(POSTPAID, BALANCE, ATTR_COMMAND), QString());
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
@@ -267,7 +270,8 @@ void ConfigTest::itemNamedInLowerCaseIsConsumedButStoresNothing()
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#")); // it was one of the four
+    // The item was among the four that were read.
+    QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 10);
 }
 
@@ -287,7 +291,7 @@ void ConfigTest::laterItemOfTheSameComponentWins()
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*2#"));
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 2);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
-    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // there was none
+    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // the item is missing
 }
 
 void ConfigTest::numberThatDoesNotParseIsZero_data()
@@ -355,7 +359,7 @@ void ConfigTest::sectionsInWrongOrderAreNotFound()
                 "</autoUSSD></c>");
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10);
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
-    QVERIFY(!logic()->IsImsiDynamicMatch()); // the scan for "Postpaid" had run to the end
+    QVERIFY(!logic()->IsImsiDynamicMatch()); // the scan for "Postpaid" reached the end of the file
     QCOMPARE(flagsOf(latin1("1")), -1);
 }
 
@@ -386,7 +390,7 @@ void ConfigTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// An attribute that stands there twice is no XML; the parser has seen both by then.
+/// A repeated attribute is not well-formed XML, but the parser has read both values by then.
 void ConfigTest::startTagAtFaultHasNoAttributes()
 {
     writeConfig("<c><clearHistory visible='true' showConfirmDialog='true' visible='true'/></c>");
@@ -403,7 +407,7 @@ void ConfigTest::startTagAtFaultHasNoAttributes()
 
 void ConfigTest::textCutByAFaultIsEmpty_data()
 {
-    QTest::addColumn<QByteArray>("before"); // the root
+    QTest::addColumn<QByteArray>("before"); // the text before the root element
     QTest::addColumn<QByteArray>("command");
     QTest::newRow("unknown entity") << QByteArray() << QByteArray("*10&bad;3#");
     QTest::newRow("entity of another file")
@@ -421,7 +425,7 @@ void ConfigTest::textCutByAFaultIsEmpty()
                                     onlineItem() + msisdnItem(),
                                 fourItems()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10); // read before
+    QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10); // read before the error
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), QString());
     QCOMPARE(number(PREPAID, CHARGE, ATTR_VALUE), 0);
     QCOMPARE(differ().command, latin1("*103#"));
@@ -454,14 +458,14 @@ void ConfigTest::brokenDetectionIsOff_data()
     QTest::newRow("no end") << whole << latin1("*103#");
 }
 
-/// A command or a pattern of half a section would misjudge every reply.
+/// With a truncated command or pattern, every reply would be misinterpreted.
 void ConfigTest::brokenDetectionIsOff()
 {
     QFETCH(QByteArray, section);
     QFETCH(QString, command);
     writeConfig("<c>" + section);
     QVERIFY(!differ().value);
-    QCOMPARE(differ().command, command); // what was read whole stays
+    QCOMPARE(differ().command, command); // a value that was read completely is kept
     QCOMPARE(differ().style, 0);
 }
 
@@ -484,7 +488,7 @@ void ConfigTest::brokenSimSectionIsOff_data()
     QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
 }
 
-/// With half of the prefixes, a SIM would get the windows of a shorter one.
+/// If only some prefixes were read, a SIM could get the windows of a shorter prefix.
 void ConfigTest::brokenSimSectionIsOff()
 {
     QFETCH(QByteArray, before);
@@ -506,7 +510,7 @@ void ConfigTest::faultBehindTheSimSectionLeavesItOn()
                                                 imsiItem("003", "Postpaid") + "</anything>"));
     QVERIFY(logic()->IsImsiDynamicMatch());
     QCOMPARE(flagsOf(latin1("0019")), 1);
-    QCOMPARE(flagsOf(latin1("0029")), 2); // taken, though it stands behind the section
+    QCOMPARE(flagsOf(latin1("0029")), 2); // read although the item follows the section
     QCOMPARE(flagsOf(latin1("0039")), -1);
 }
 
@@ -517,7 +521,7 @@ void ConfigTest::deepNestingIsReadToItsEnd()
                        fourItems(), "<name>" + nested("deep") + "</name>" + looks()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*2#"));
-    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20); // behind the other deep element
+    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20); // read after the second deeply nested element
 }
 
 void ConfigTest::deepNestingWithoutEndKeepsWhatWasReadBefore()
@@ -536,7 +540,7 @@ void ConfigTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    for (const char *child : {"yHeight", "yOffset", "color"}) // those of "send" stand first
+    for (const char *child : {"yHeight", "yOffset", "color"}) // the first ones belong to "send"
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
         QTest::newRow(child) << QByteArray(child) << true;
@@ -544,8 +548,8 @@ void ConfigTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// The getters read their sections anew, so what the start has read of them is seen from the last
-/// section alone: the search for one that is missing runs past it.
+/// The getters read their sections again, so only the last section shows whether the initial scan
+/// found each section: a scan for a missing section runs past the last one.
 void ConfigTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);
@@ -608,8 +612,8 @@ void ConfigTest::onlineComponentYieldsItsUrlOnly()
 void ConfigTest::everyComponentAnswersItsOwnAttributesOnly_data()
 {
     QTest::addColumn<int>("component");
-    QTest::addColumn<QList<int>>("numbers"); // -1: no answer
-    QTest::addColumn<QStringList>("texts");  // "unchanged": no answer
+    QTest::addColumn<QList<int>>("numbers"); // -1 for an unknown attribute
+    QTest::addColumn<QStringList>("texts");  // "unchanged" for an unknown attribute
     const QString none = latin1("unchanged");
     // by attribute:             0   1  2   5   6   7  8   9  10
     QTest::newRow("Balance") << BALANCE << QList<int>{1, 10, -1, -1, -1, -1, -1, -1, -1}
@@ -697,7 +701,7 @@ void ConfigTest::windowListMayHoldEmptyParts()
 void ConfigTest::windowNameInLowerCaseIsStoredWithoutFlags()
 {
     writeConfig(autoUSSD(imsiItem("12", "prepaid") + imsiItem("1", "Advanced")));
-    QCOMPARE(flagsOf(latin1("123")), 0); // matches, and is longer than the other
+    QCOMPARE(flagsOf(latin1("123")), 0); // matches, and is longer than the other prefix
 }
 
 void ConfigTest::invalidAutoUssdNeverMatches()
@@ -743,7 +747,7 @@ void ConfigTest::imsiItemsCountAtAnyDepthBehindTheSection()
     writeConfig(config(fourItems() + imsiItem("1", "Prepaid"), fourItems(),
                        looks() + "<autoUSSD valid='true'><x>" + imsiItem("2", "Postpaid") +
                            "</x></autoUSSD><y>" + imsiItem("3", "Commonpaid") + "</y>"));
-    QCOMPARE(flagsOf(latin1("1")), -1); // in front of the section
+    QCOMPARE(flagsOf(latin1("1")), -1); // the item precedes the section
     QCOMPARE(flagsOf(latin1("2")), 2);
     QCOMPARE(flagsOf(latin1("3")), 4);
 }
@@ -761,7 +765,7 @@ void ConfigTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Against the plain walk over the whole map.
+/// Compares the result with a search through the whole map.
 void ConfigTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);
@@ -840,7 +844,7 @@ void ConfigTest::gettersReadTheFileAnew()
     logic()->GetCmdEditSetting(edit);
     QVERIFY(!edit.visible);
 
-    writeConfig("<c/>"); // found empty, the record is emptied too
+    writeConfig("<c/>"); // a file without the section clears the record
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
     QVERIFY(!clearSetting().visible);
 }
@@ -950,7 +954,8 @@ void ConfigTest::shippedFileIsComplete()
     QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // readable
     QVERIFY(look(CHAR_SET_RECEIVE).yHeight >= 20 * 6);
     QVERIFY(clearSetting().visible);
-    QVERIFY(logic()->IsImsiDynamicMatch()); // the last section, so all before it was found
+    // The last section is found only if all sections before it are.
+    QVERIFY(logic()->IsImsiDynamicMatch());
 }
 
 USSD_TEST_MAIN(ConfigTest)

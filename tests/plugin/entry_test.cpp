@@ -1,6 +1,6 @@
 /*
- * The plug-in as a host meets it: the shared library, driven through its entry points and virtual
- * tables alone. Nothing of the plug-in's headers or of the interfaces' is included here.
+ * Tests the shared library as a host uses it, only through its entry points and virtual tables. No
+ * header of the plug-in or of its interfaces is included.
  */
 #include "UssdTest.h"
 
@@ -26,7 +26,7 @@ protected:
     void tearDown() override;
 
 private:
-    /// The plug-in object, made anew when the last one was deleted.
+    /// Returns the plug-in object. Creates a new object when the last one was deleted.
     QObject *instance();
     void *as(const char *name) { return instance()->qt_metacast(name); }
     void *plugin() { return as("IUIPlugin"); }
@@ -114,8 +114,7 @@ void EntryTest::verificationTextIsThatOfTheHost()
                         "buildkey=" USSD_QT4_BUILD_KEY));
 }
 
-/// The text above follows the build's option. This is what the option is without a packager's
-/// choice.
+/// The text above depends on a build option. This test checks the default value of the option.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));
@@ -182,7 +181,7 @@ void EntryTest::unknownInterfaceLeavesTheTargetAlone()
         QCOMPARE(callQueryInterface(plugin(), id, &target), false);
         QCOMPARE(target, untouched);
     }
-    // Without the time, unlike most lines.
+    // These lines have no time, unlike most lines.
     QCOMPARE(logLines().count(QStringLiteral(
                  "../../src/USSDUIPlugin/USSDUIPluginImpl.cpp: QueryInterface called")),
              others.count());
@@ -204,7 +203,7 @@ void EntryTest::changeLangRefusesAnEmptyLanguage()
     QCOMPARE(callChangeLang(plugin(), QString()), false);
     QCOMPARE(callChangeLang(plugin(), QStringLiteral("")), false);
     QCOMPARE(callChangeLang(plugin(), QStringLiteral("en")), true);
-    QVERIFY(fakeSdkCalls().empty()); // and nothing else happened
+    QVERIFY(fakeSdkCalls().empty()); // the calls have no other effect
 }
 
 void EntryTest::changeLangLeavesTheWindowsAlone()

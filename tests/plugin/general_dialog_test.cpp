@@ -15,7 +15,7 @@
 namespace
 {
 
-/// Counts the keys that nobody inside wanted.
+/// Counts the key events that no child widget has accepted.
 class KeyCounter : public QWidget
 {
 public:
@@ -36,7 +36,7 @@ QGridLayout *gridOf(QWidget *widget)
 
 } // namespace
 
-/** The general dialog: entry, sending, answers, transcript. */
+/** Tests the general dialog: entry, sending, answers, transcript. */
 class GeneralDialogTest : public DialogTest
 {
     Q_OBJECT
@@ -45,16 +45,16 @@ protected:
     void setUp() override;
 
 private:
-    /// Answers the question that comes up by pressing the button with this text key, and gives the
-    /// question; with a null key, by Escape. Without a question the result is null.
+    /// Presses Clear and answers the confirmation box by the button with this text key, or by
+    /// Escape for a null key. Returns the text of the box, or a null text when no box was opened.
     QString clearAndAnswer(const char *buttonKey);
-    int lineOf(const char *part); ///< the first log line that holds this; -1 without one
-    void activateWindow();        ///< so that the focus is where the dialog puts it
+    int lineOf(const char *part); ///< index of the first log line that contains `part`, or -1
+    void activateWindow();        ///< makes the dialog's choice of the focus effective
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 
 private slots:
-    // what it is made of
+    // parts
     void partsHaveTheirNames_data();
     void partsHaveTheirNames();
     void textsAreThoseOfTheLanguage();
@@ -72,7 +72,7 @@ private slots:
     void codesReadFromLeftToRightInArabic();
     void keysThatReachTheDialogAreSwallowed();
 
-    // each connection
+    // connections
     void closeButtonAsksToBeClosed();
     void sendButtonSends();
     void returnInTheComboSends();
@@ -226,13 +226,13 @@ void GeneralDialogTest::activateWindow()
     QVERIFY(QTest::qWaitForWindowActive(dialog()->window()));
 }
 
-/// Emits a signal of the combo with an index.
+/// Emits a signal of the combo box with an index.
 void GeneralDialogTest::activate(const char *signal, int index)
 {
     QVERIFY(QMetaObject::invokeMethod(combo(), signal, Q_ARG(int, index)));
 }
 
-// ---- what it is made of ----------------------------------------------------------------------
+// ---- parts -----------------------------------------------------------------------------------
 
 void GeneralDialogTest::partsHaveTheirNames_data()
 {
@@ -329,7 +329,7 @@ void GeneralDialogTest::fieldsOfferNoMenuWhereTheyMustNot()
     QCOMPARE(combo()->contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(paymentEdit()->minimumHeight(), 23);
     QCOMPARE(commandEdit()->minimumHeight(), 23);
-    QVERIFY(commandEdit()->maxLength() > 1000); // only the combo's is limited
+    QVERIFY(commandEdit()->maxLength() > 1000); // only the field of the combo box is limited
 }
 
 void GeneralDialogTest::marginsAreFixed()
@@ -393,7 +393,7 @@ void GeneralDialogTest::codesReadFromLeftToRightInArabic()
     QCOMPARE(dialog()->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(commandEdit()->layoutDirection(), Qt::LeftToRight);
     QCOMPARE(paymentEdit()->layoutDirection(), Qt::LeftToRight);
-    // The mark keeps the code behind an Arabic caption in its order.
+    // The left-to-right mark keeps the order of a code after an Arabic caption.
     QVERIFY(text("IDS_USSD_SEND").endsWith(QChar(0x200e)));
     QVERIFY(text("IDS_USSD_RECEIVED").endsWith(QChar(0x200e)));
 }
@@ -407,12 +407,12 @@ void GeneralDialogTest::keysThatReachTheDialogAreSwallowed()
         QTest::keyClick(dialog(), Qt::Key(key));
     QCOMPARE(outside.keys, 0);
     QTest::keyClick(&outside, Qt::Key_A);
-    QCOMPARE(outside.keys, 1); // it does count
+    QCOMPARE(outside.keys, 1); // proves that keys are counted
     QVERIFY(requests().isEmpty());
     dialog()->setParent(page());
 }
 
-// ---- each connection -------------------------------------------------------------------------
+// ---- connections -----------------------------------------------------------------------------
 
 void GeneralDialogTest::closeButtonAsksToBeClosed()
 {
@@ -431,7 +431,7 @@ void GeneralDialogTest::sendButtonSends()
     QCOMPARE(requests(), QStringList{latin1("*100#")});
 }
 
-/// What is sent is what the command edit holds, not what the combo does.
+/// The text of the command edit is sent, not that of the combo box.
 void GeneralDialogTest::returnInTheComboSends()
 {
     open();
@@ -492,7 +492,7 @@ void GeneralDialogTest::comboTextShowsItsDescription()
     open();
     combo()->setEditText(latin1("*100#"));
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
-    combo()->setEditText(latin1("*100")); // no code: the label keeps what it shows
+    combo()->setEditText(latin1("*100")); // not a known code, so the label is not changed
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
     combo()->setEditText(latin1("*102*%s#")); // a code without description
     QCOMPARE(descriptionLabel()->text(), QString());
@@ -529,7 +529,7 @@ void GeneralDialogTest::typedCommandEnablesSend()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1(" "));
-    QVERIFY(sendButton()->isEnabled()); // any character will do
+    QVERIFY(sendButton()->isEnabled()); // any character enables the button
     QTest::keyClick(commandEdit(), Qt::Key_Backspace);
     QVERIFY(!sendButton()->isEnabled());
 }
@@ -540,7 +540,7 @@ void GeneralDialogTest::emptyCommandIsNotSent()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1("x"));
-    commandEdit()->clear(); // by a program, so that Send stays enabled
+    commandEdit()->clear(); // not typed, so Send stays enabled
     QVERIFY(sendButton()->isEnabled());
     click(sendButton());
     QTest::keyClick(combo()->lineEdit(), Qt::Key_Return);
@@ -655,7 +655,7 @@ void GeneralDialogTest::refusedPresetIsAnsweredLocally()
     QVERIFY(presetButtons().first()->isEnabled());
 }
 
-/// The difference is deliberate.
+/// The different behaviour is intended.
 void GeneralDialogTest::presetDisablesTheComboButSendDoesNot()
 {
     open();
@@ -759,7 +759,7 @@ void GeneralDialogTest::secondAnswerIsIgnored()
     clearLog();
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(5, latin1("second"));
     QCOMPARE(history()->toHtml(), shown);
-    QCOMPARE(commandEdit()->text(), latin1("*1")); // and what is being typed stays
+    QCOMPARE(commandEdit()->text(), latin1("*1")); // the typed text is kept
     QVERIFY(timesLogged("onResponseReceived Exit: USSDGeneralDlg no need to handle") > 0);
 }
 
@@ -782,12 +782,12 @@ void GeneralDialogTest::answersOfManyCommandsStandInOrder()
         expected << sentLine(code) << receivedLine(latin1("reply %1").arg(i));
     }
     QStringList shown = shownLines();
-    shown.removeAll(QString()); // each reply ends with a break
+    shown.removeAll(QString()); // each reply ends with a line break
     QCOMPARE(shown, expected);
     QCOMPARE(requests().count(), 30);
 }
 
-/// No answer says which command it is for.
+/// An answer does not contain the command that it belongs to.
 void GeneralDialogTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);
@@ -828,7 +828,7 @@ void GeneralDialogTest::keysTypedAfterAnAnswerReachTheCommandEdit()
     QTest::keyClicks(QApplication::focusWidget(), latin1("1"));
     QCOMPARE(commandEdit()->text(), latin1("1"));
     QVERIFY(sendButton()->isEnabled());
-    QVERIFY(combo()->hasFocus()); // which stands for the field that can be seen
+    QVERIFY(combo()->hasFocus()); // the combo box is the focus proxy of the visible field
 }
 
 void GeneralDialogTest::keysTypedAfterALocalFailureReachTheCommandEdit()
@@ -902,7 +902,7 @@ void GeneralDialogTest::lineBreakInACommandIsShownAsBr()
     emit dialog()->preBtnClickedEvent(latin1("*1\n2#"));
     QVERIFY(history()->entries().contains(latin1("*1<br>2#</span></p>")));
     QVERIFY(!history()->entries().contains(QLatin1Char('\n')));
-    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // sent as it is
+    QCOMPARE(requests(), QStringList{latin1("*1\n2#")}); // sent unchanged
 }
 
 void GeneralDialogTest::rightToLeftParagraphsSaySo()
@@ -963,7 +963,7 @@ void GeneralDialogTest::looksAreReadAnewForEachEntry()
 
 void GeneralDialogTest::withoutConfigurationTheTranscriptIsShownNevertheless()
 {
-    allowWarning("Point size <= 0"); // the size that is written is zero
+    allowWarning("Point size <= 0"); // the configured size is zero
     writeConfig(QByteArray());
     open();
     send(latin1("*100#"));
@@ -997,7 +997,7 @@ void GeneralDialogTest::clearButtonNeedsSomethingToClear()
     QVERIFY(!clearButton()->isEnabled());
     networkSays(latin1("12"));
     QVERIFY(clearButton()->isEnabled());
-    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the text before is forgotten
+    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the earlier text was cleared
 }
 
 void GeneralDialogTest::withoutQuestionItClearsAtOnce()
@@ -1080,7 +1080,7 @@ void GeneralDialogTest::dialogDeletedWhileItAsksCostsNothing()
         asked = QApplication::activeModalWidget() != nullptr;
         delete asking;
     });
-    // By the slot, since no click survives the button that it is for.
+    // The slot is called directly because a click would use the deleted button.
     QVERIFY(QMetaObject::invokeMethod(dialog(), "clearHistory"));
     QVERIFY(asked);
     QVERIFY(!asking);
@@ -1132,7 +1132,7 @@ void GeneralDialogTest::pasted25DigitsAreCutTo20()
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
     QVERIFY(presetButtons().last()->isEnabled());
     QTest::keyClick(paymentEdit(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(paymentEdit(), latin1("x")); // in place of all
+    QTest::keyClicks(paymentEdit(), latin1("x")); // would replace the selected text
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
 }
 
@@ -1165,7 +1165,7 @@ void GeneralDialogTest::onlyAsciiDigitsAreAllowed()
     QCOMPARE(paymentEdit()->text(), latin1("0123456789"));
 }
 
-/// A number that was paid with once must not be sent again by a slip of the finger.
+/// A number that has been used for a payment must not be sent again by accident.
 void GeneralDialogTest::refusedKeyAfterAnAnswerBringsNoOldNumberBack()
 {
     open();
@@ -1292,7 +1292,7 @@ void GeneralDialogTest::modalDialogShownAgainHasAnEmptyTranscript()
     dialog()->ReInitDialog();
     QVERIFY(shownLines().isEmpty());
     QCOMPARE(history()->entries(), QString());
-    QVERIFY(clearButton()->isEnabled()); // keeps its state
+    QVERIFY(clearButton()->isEnabled()); // the button keeps its state
     send(latin1("*101#"));
     QCOMPARE(shownLines(), QStringList{sentLine(latin1("*101#"))});
 }

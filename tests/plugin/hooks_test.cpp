@@ -7,7 +7,7 @@
 #include "HostState.h"
 #include "requests/USSDLogic.h"
 
-/** Device events and short messages. */
+/** Tests device events and short messages. */
 class HooksTest : public PluginTest
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void HooksTest::deviceEventLeavesTheTimerRunning()
     QElapsedTimer elapsed;
     elapsed.start();
     m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
-    QVERIFY(elapsed.elapsed() >= 24); // waited for the time-out that still ran
+    QVERIFY(elapsed.elapsed() >= 24); // the command waited for the running time-out
 }
 
 // ---- readiness -----------------------------------------------------------------------------
@@ -182,7 +182,8 @@ void HooksTest::statusWithoutDataChangesNothing()
     QVERIFY(m_listener->readiness.isEmpty());
 }
 
-/// The device tells it once, soon after the registration, while the singleton is still being made.
+/// The device reports readiness once, soon after the registration, while the singleton is still
+/// being constructed.
 void HooksTest::readinessToldDuringConstructionIsNotLost()
 {
     for (int i = 0; i < 20; ++i) {

@@ -1,6 +1,6 @@
 /*
- * The table of object names for style sheets in docs/host-integration.md, against the loaded
- * plug-in with the data that ships.
+ * Compares the table of object names for style sheets in docs/host-integration.md with the loaded
+ * plug-in and its shipped data.
  */
 #include "UssdTest.h"
 
@@ -25,7 +25,7 @@ const char TABLE_BEGIN[] = "<!-- object names: begin -->\n";
 const char TABLE_END[] = "<!-- object names: end -->\n";
 const int USSD_SERVICE = 4097;
 
-/// One line of the table. The windows are those that have such a child, in the order of opening.
+/// A line of the table. The windows are those that have such a child, in the order of opening.
 struct Row {
     QStringList windows;
     QString name;
@@ -41,7 +41,8 @@ QString qtClassOf(const QObject *object)
     return QString::fromLatin1(meta->className());
 }
 
-/// Whether the plug-in has named it: Qt names the inner parts of its own widgets too.
+/// Returns whether the plug-in has set the object name. Qt names the inner parts of its own widgets
+/// too.
 bool isOurs(const QObject *object)
 {
     const bool visual = object->isWidgetType() || qobject_cast<const QLayout *>(object);
@@ -204,7 +205,7 @@ void ObjectNamesTest::documentListsEveryObjectName()
     collectFrame(QStringLiteral("postpaid"), PAID_TYPE_POSTPAID);
     collectFrame(QStringLiteral("USSD-SMS"), PAID_TYPE_USSD_SMS);
     collectEditor();
-    QVERIFY(m_rows.count() > 30); // every window has given its share
+    QVERIFY(m_rows.count() > 30); // proves that every window was examined
     if (table() != documentedTable())
         std::fprintf(stderr, "The table ought to be:\n\n%s\n", qPrintable(table()));
     QVERIFY2(table() == documentedTable(),

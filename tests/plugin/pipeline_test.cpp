@@ -15,7 +15,7 @@
 namespace
 {
 
-const int NO_PATIENCE = 60000; // a limit that no test reaches
+const int NO_PATIENCE = 60000; // ms; a limit that no test reaches
 
 std::atomic<qint64> now(0);
 
@@ -29,7 +29,7 @@ QString units(int count)
     return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
 }
 
-/// Runs in the middle of a response's announcement, on the thread that announces it.
+/// Runs code while a response is being announced, on the thread that announces it.
 class Interloper : public QObject
 {
     Q_OBJECT
@@ -69,7 +69,7 @@ public slots:
 
 } // namespace
 
-/** The way of commands through USSDLogic. */
+/** Tests how USSDLogic queues, sends and answers commands. */
 class PipelineTest : public PluginTest
 {
     Q_OBJECT
@@ -83,15 +83,15 @@ private:
     LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
     QList<LogicListener::Answer> &answers() { return m_listener->answers; }
     void setTimes(int reply, int previous);
-    /// From now on time passes by letTimePass() only.
+    /// Stops the clock, which then advances by letTimePass() only.
     void stopClock();
     void letTimePass(int milliseconds);
-    /// Waits until so many lines with this part were logged, which tells how far a thread is.
+    /// Waits until `part` was logged `times` times, which shows the progress of a thread.
     bool waitUntilLogged(const char *part, int times);
-    /// Whether a command goes out without waiting for an earlier time-out.
+    /// Returns whether a command is sent without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
     bool sendWaitsItsTime();
-    /// What the lines of a function of USSDLogic say, in order.
+    /// Returns the log texts of a function of USSDLogic, in order.
     QStringList linesOf(const char *function);
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 
@@ -167,7 +167,8 @@ private slots:
 
 void PipelineTest::setUp()
 {
-    static const ReplyTimes shipped = USSDLogic::replyTimes(); // before any test has set others
+    // The static variable keeps the times from before any test has set others.
+    static const ReplyTimes shipped = USSDLogic::replyTimes();
     m_shippedTimes = shipped;
     PluginTest::setUp();
     setTimes(NO_PATIENCE, NO_PATIENCE);
@@ -222,7 +223,7 @@ QStringList PipelineTest::linesOf(const char *function)
 
 bool PipelineTest::sendsWithoutWaiting()
 {
-    const int wait = 20000; // far more than a loaded machine needs for a send
+    const int wait = 20000; // ms; elapses only if the function returns false
     setTimes(NO_PATIENCE, wait);
     QElapsedTimer elapsed;
     elapsed.start();
@@ -275,7 +276,8 @@ void PipelineTest::commandOf92UnitsIsRefusedAndRemoved()
     QCOMPARE(send(5, units(92)), 1);
     QVERIFY(fakeSdkCommands().empty());
     QCOMPARE(timesLogged("USSDCommand is too large"), 1);
-    QCOMPARE(send(5, QStringLiteral("*1#")), 0); // alone in the list again, so sent at once
+    // The command is the only entry in the list, so it is sent at once.
+    QCOMPARE(send(5, QStringLiteral("*1#")), 0);
     QCOMPARE(fakeSdkCommands().size(), size_t(1));
 }
 
@@ -361,11 +363,11 @@ void PipelineTest::refusedCommandIsSilentAndTheNextOneWaits()
     fakeSdkRespond(u"one");
     QVERIFY(fakeSdkWaitIdle());
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
-    QVERIFY(answers().isEmpty()); // nothing for *2#
+    QVERIFY(answers().isEmpty()); // *2# gets no answer
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
-    QCOMPARE(send(6, QStringLiteral("*4#")), 0); // not alone: waits behind *3#
+    QCOMPARE(send(6, QStringLiteral("*4#")), 0); // waits for *3#
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
-    fakeSdkRespond(u"stale"); // taken for the head, and sets the list going again
+    fakeSdkRespond(u"stale"); // taken as the answer to the head, so the next entry is sent
     QVERIFY(fakeSdkWaitForRequests(3));
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("stale")));
     QVERIFY(fakeSdkCommands().at(2) == u"*4#");
@@ -418,7 +420,7 @@ void PipelineTest::commandSentBySdkThreadTimesOutToo()
 {
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    setTimes(5, NO_PATIENCE); // for the second one
+    setTimes(5, NO_PATIENCE); // applies to the second command
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
     QCOMPARE(nextAnswer(), answer(0, timeOutText()));
@@ -474,7 +476,8 @@ void PipelineTest::sendWaitsForTheEarlierTimeOut()
     elapsed.start();
     QCOMPARE(send(5, QStringLiteral("*2#")), 0);
     QVERIFY(elapsed.elapsed() >= wait - 1);
-    QCOMPARE(fakeSdkCommands().size(), size_t(2)); // the device had it before the wait
+    // The device received the command before the wait.
+    QCOMPARE(fakeSdkCommands().size(), size_t(2));
 }
 
 void PipelineTest::replyEndsTheWaitForTheEarlierTimeOut()
@@ -503,7 +506,7 @@ void PipelineTest::nullDataLeavesListAndTimer()
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
     QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2); // debug and warning
     USSDLogic::ClearQueuedCmds();
-    QVERIFY(sendWaitsItsTime()); // the time-out still runs
+    QVERIFY(sendWaitsItsTime()); // the timer is still running
 }
 
 void PipelineTest::replyWithoutCommandIsDropped()
@@ -568,7 +571,7 @@ void PipelineTest::replyForAClearedCommandAnswersTheHead()
     QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
 }
 
-/// The time-out of a command that was cleared moves on what stands behind it.
+/// The time-out of a cleared command lets the following entry be sent.
 void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
     stopClock();
@@ -598,7 +601,7 @@ void PipelineTest::commandClearedWhileItWaitedIsNotSent()
     int status[3] = {0, 0, 0};
     std::vector<std::thread> senders;
     const char *const commands[] = {"*1#", "*2#", "*3#"};
-    for (int i = 0; i < 3; ++i) { // the first is held up in the device, the others wait for it
+    for (int i = 0; i < 3; ++i) { // the device blocks the first sender, and the others wait for it
         senders.emplace_back([this, i, &status, &commands] {
             m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String(commands[i])),
                                      &status[i]);
@@ -616,7 +619,8 @@ void PipelineTest::commandClearedWhileItWaitedIsNotSent()
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("three")));
 }
 
-/// The call-back removes the command that it announced, not the one that stands there by then.
+/// The call-back removes the command that it has announced, even if the list has a new head by
+/// then.
 void PipelineTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 {
     setTimes(NO_PATIENCE, 1);
@@ -644,7 +648,7 @@ void PipelineTest::oneRequestAtATimeIsUnderWay()
     fakeSdkScript({fakeSilence(), blocked, fakeSilence()});
     send(5, QStringLiteral("*1#"));
     send(5, QStringLiteral("*2#"));
-    fakeSdkRespond(u"one"); // the SDK's thread sends *2# and is held up in there
+    fakeSdkRespond(u"one"); // the SDK's thread sends *2#, and the call blocks
     QVERIFY(fakeSdkWaitForRequests(2));
     USSDLogic::ClearQueuedCmds();
     std::atomic<ThreadWatch::ThreadId> otherId(0);
@@ -682,7 +686,7 @@ void PipelineTest::destroyEndsTheWaitForTheEarlierTimeOut()
     connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
             SLOT(clearAndSendTwice(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
-    fakeSdkRespond(u"one"); // the call-back sends twice, and waits for the first one's time-out
+    fakeSdkRespond(u"one"); // the call-back sends twice, and waits for the time-out of the first
     QVERIFY(fakeSdkWaitForRequests(3));
     QElapsedTimer elapsed;
     elapsed.start();
@@ -830,7 +834,7 @@ void PipelineTest::headLeavesTheListAfterItsAnnouncement_data()
     QTest::newRow("time-out") << true;
 }
 
-/// So a receiver that sends at once waits its turn behind what it was just told of.
+/// A receiver that sends at once is therefore queued after the announced command.
 void PipelineTest::headLeavesTheListAfterItsAnnouncement()
 {
     QFETCH(bool, byTimeOut);
@@ -855,7 +859,8 @@ void PipelineTest::receiverMaySendFromTheSdkThread()
             SLOT(sendMore(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
     fakeSdkRespond(u"one");
-    QVERIFY(fakeSdkWaitForRequests(2)); // a lock held over the signal would be in the way
+    // This would fail if a lock were held while the signal is emitted.
+    QVERIFY(fakeSdkWaitForRequests(2));
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
     disconnect(m_logic, nullptr, &interloper, nullptr);
 }
@@ -871,7 +876,7 @@ void PipelineTest::timeOutReceiverMayShutDown()
     QTRY_VERIFY(!logic);
 }
 
-/// And those only when the object is ready.
+/// Patient callers enter only when the object is ready.
 void PipelineTest::gateLetsOnlyThePatientIn()
 {
     CallbackGate gate;
@@ -938,7 +943,8 @@ void PipelineTest::newSingletonStartsWithAnEmptyList()
     QVERIFY(fakeSdkCommands().back() == u"*3#");
 }
 
-/// Replies, late replies and time-outs meet at random; nobody is answered twice or forgotten.
+/// Replies, late replies and time-outs coincide at random. Each command must be answered exactly
+/// once.
 void PipelineTest::everyCommandIsAnsweredOnce()
 {
     const int count = 400;

@@ -23,7 +23,7 @@ QByteArray chargeIntoBox()
                       "<LimitText>0-9</LimitText></item>");
 }
 
-/// With its PIN one more than can be sent.
+/// Returns a top-up whose code exceeds the maximum length by one when the PIN is inserted.
 QByteArray tooLongCharge()
 {
     return chargeIntoBox().replace("*101*", "*101*" + QByteArray(74, '1'));
@@ -31,7 +31,7 @@ QByteArray tooLongCharge()
 
 } // namespace
 
-/** The message box that a top-up is answered in, and what goes on around it. */
+/** Tests the message box that shows the answer to a top-up, and events while it is open. */
 class PrepaidBoxTest : public PrepaidTest
 {
     Q_OBJECT
@@ -43,8 +43,9 @@ protected:
 private:
     enum HostAct { IMSI_EVENT, ON_DESTROY, DELETION_OF_ITS_WINDOW };
 
-    void openReady(const QByteArray &charge = chargeIntoBox()); ///< nothing is under way
-    void letATopUpTimeOutBeforeAnotherCommand();                ///< which is *9#
+    /// Opens the window without a pending command.
+    void openReady(const QByteArray &charge = chargeIntoBox());
+    void letATopUpTimeOutBeforeAnotherCommand(); ///< the other command is *9#
     void openBox(const QString &reply = QStringLiteral("10 EUR added"));
     void act(int hostAct);
 
@@ -129,7 +130,7 @@ void PrepaidBoxTest::boxIsTheDialogsOwn()
 {
     openReady();
     openBox();
-    // Not the host's, which is of a class of its own.
+    // The box is not the host's, which has a class of its own.
     QCOMPARE(messageBox()->metaObject()->className(), "QMessageBox");
     QCOMPARE(messageBox()->parentWidget(), static_cast<QWidget *>(dialog()));
     QCOMPARE(messageBox()->windowModality(), Qt::ApplicationModal);
@@ -186,7 +187,7 @@ void PrepaidBoxTest::controlsAndBalanceWaitForTheBox()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-/// An operator may confirm a top-up in two parts.
+/// An operator may confirm a top-up by two replies.
 void PrepaidBoxTest::replyInABurstHasABoxOfItsOwn()
 {
     openReady();
@@ -277,7 +278,7 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// The box was opened by Return in the entry, and the host acts from an event of its own.
+/// Return in the entry opens the box, and the host acts in an event of its own.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {
     QFETCH(int, hostAct);
@@ -328,7 +329,7 @@ void PrepaidBoxTest::closingTheDialogTakesTheBoxAlong()
     logicSays(COMPONENT_CHARGE, QStringLiteral("second"));
     drainEvents();
     QVERIFY(messageBox());
-    dialog()->OnClickedCloseButton(); // nobody deletes it here
+    dialog()->OnClickedCloseButton(); // does not delete the dialog in this test
     drainEvents();
     QVERIFY(dialog());
     QVERIFY(!messageBox());

@@ -15,7 +15,7 @@ const char *const PLUGIN = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
 const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
                                   "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
 
-/** A host's notification service: reads the record during the call. */
+/** A host's notification service, which copies the record during the call. */
 class Notifications : public QObject, public INotifyService
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ const char DIGIT[] = "\"\\d\"";
 
 } // namespace
 
-/** Prepaid or postpaid: the question, and what the host is told. */
+/** Tests the question whether the SIM is prepaid, and the notification of the host. */
 class PrepaidDetectionTest : public PrepaidTest
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ private:
 
     QScopedPointer<Notifications> m_notifications;
     QScopedPointer<Container> m_container;
-    PrePostRecord m_given; // the caller's three variables
+    PrePostRecord m_given; // holds the caller's three variables
 
 private slots:
     void replyWithADigitMeansPrepaid();
@@ -216,7 +216,7 @@ void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
     ask();
     QTRY_COMPARE(m_notifications->calls.count(), 2);
     QCOMPARE(told().result, 0);
-    QVERIFY(!told().bPostPaid); // though the text of the time-out has no digit
+    QVERIFY(!told().bPostPaid); // although the text of the time-out has no digit
     QCOMPARE(timesLogged("bPostPaid="), 0);
 }
 
@@ -242,7 +242,7 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Only the prepaid window asks, but the postpaid one hears the answer, too.
+/// Only the prepaid window asks, but the postpaid window receives the answer too.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);
@@ -251,7 +251,7 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
         service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, false);
     openByService(PAID_TYPE_POSTPAID);
     service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, true);
-    for (int answers = 3; answers > 0; --answers) // balance and number come before
+    for (int answers = 3; answers > 0; --answers) // balance and own number are answered first
         networkSays(QStringLiteral("Contract account"));
     QCOMPARE(m_notifications->calls.count(), 4);
     for (int i = 0; i < 4; ++i) {
@@ -334,7 +334,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 {
     fakeSdkSetAnswer(fakeReply(u"balance"));
     FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
-    late.stubborn = true; // the release that opening begins with does not end it
+    late.stubborn = true; // the release at the opening does not end the session
     fakeSdkScript({late});
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);

@@ -17,7 +17,7 @@ QString pin()
     return QLatin1String(PIN);
 }
 
-/// The functions of the USSD service that were called, in their order.
+/// Returns the functions of the USSD service that were called, in order.
 QStringList ussdCalls()
 {
     QStringList names;
@@ -32,7 +32,7 @@ QStringList ussdCalls()
 
 } // namespace
 
-/** The account window: what it sends, when, and what it does with answers. */
+/** Tests what the account window sends, when it sends, and how it handles answers. */
 class PrepaidDialogTest : public PrepaidTest
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     void configureCharge(const QByteArray &charge);
     void refuseAll(int status);
     void sendFrom(int component);
-    Account only(const QByteArray &charge); ///< nothing else is shown
+    Account only(const QByteArray &charge); ///< an account that shows only the top-up
 
 private slots:
     // entry
@@ -153,7 +153,7 @@ PrepaidTest::Account PrepaidDialogTest::only(const QByteArray &charge)
     return account;
 }
 
-/// By its own button; a PIN stands in the entry in any case.
+/// Presses the button of the component. The entry always contains a PIN.
 void PrepaidDialogTest::sendFrom(int component)
 {
     type(pin());
@@ -204,7 +204,7 @@ void PrepaidDialogTest::onlyTheUsersOwnEditsChangeActivation()
 {
     configure(Account());
     open();
-    chargeEdit()->setText(pin()); // as a host's helper for screens without keys could
+    chargeEdit()->setText(pin()); // as a host's on-screen keyboard could do
     QVERIFY(!activateButton()->isEnabled());
     QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
     type(QStringLiteral("2"));
@@ -219,7 +219,7 @@ void PrepaidDialogTest::noMoreThanLengthCanBeTyped()
     open();
     type(pin());
     QCOMPARE(chargeEdit()->text(), pin().left(8));
-    QCOMPARE(chargeEdit()->maxLength(), 8); // of which a pasted one keeps the beginning
+    QCOMPARE(chargeEdit()->maxLength(), 8); // a longer pasted PIN is truncated
 }
 
 void PrepaidDialogTest::onlyTheLimitTextCanBeTyped()
@@ -307,7 +307,7 @@ void PrepaidDialogTest::openingReleasesAndClearsBeforeItSends()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    // Nothing waits any more, so the balance goes out at once.
+    // No command is pending any more, so the balance is requested at once.
     QCOMPARE(ussdCalls(), QStringList() << QStringLiteral("Request") << QStringLiteral("Release")
                                         << QStringLiteral("Request"));
     QCOMPARE(requests(), QStringList() << QStringLiteral("*1#") << QStringLiteral("*100#"));
@@ -337,14 +337,15 @@ void PrepaidDialogTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// A command that a fault of the file cuts is empty.
+/// A command that is truncated by an error in the file is read as empty.
 void PrepaidDialogTest::emptyCommandIsNotSent()
 {
     Account account;
     account.balance.replace("<command>*100#</command>", "<command></command>");
     configure(account);
     open();
-    QCOMPARE(requests(), QStringList{QStringLiteral("*102#")}); // own number, which makes it busy
+    // The request for the own number makes the window busy.
+    QCOMPARE(requests(), QStringList{QStringLiteral("*102#")});
     click(balanceButton());
     QCOMPARE(requests().count(), 1);
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
@@ -471,7 +472,7 @@ void PrepaidDialogTest::openingAgainDoesNotEndIt()
     open();
     refuseAll(1);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED")); // was waiting before
+    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED")); // the box was waiting before
     QVERIFY(balanceButton()->isEnabled());
 }
 
@@ -507,7 +508,7 @@ void PrepaidDialogTest::answerEnablesThemAgain()
     QFETCH(int, component);
     Account account;
     if (component == COMPONENT_CHARGE)
-        account.balance.clear(); // which would be fetched next
+        account.balance.clear(); // the balance would be requested next
     configure(account);
     make();
     sendFrom(component);
@@ -523,7 +524,7 @@ void PrepaidDialogTest::refusalShowsNothingWhenNotBusy()
     refuseAll(5);
     configure(Account());
     open();
-    // What it was made with stays; a time-out would read otherwise.
+    // The box keeps its initial text; after a time-out it would show another one.
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
     QVERIFY(balanceButton()->isEnabled());
 }
@@ -611,7 +612,7 @@ void PrepaidDialogTest::answersAreShownAsPlainText()
     topUp(pin());
     networkSays(reply);
     for (QTextEdit *box : {balanceBox(), msisdnBox(), activateBox()}) {
-        if (box != balanceBox()) // which is being fetched again
+        if (box != balanceBox()) // the balance is being requested again
             QCOMPARE(box->toPlainText(), reply);
         QVERIFY(box->isReadOnly());
         QVERIFY(!box->textInteractionFlags().testFlag(Qt::LinksAccessibleByMouse));
@@ -765,7 +766,7 @@ void PrepaidDialogTest::failedTopUpIsToldLikeAnAnswer()
 
 void PrepaidDialogTest::returnKeySendsOnce()
 {
-    refuseAll(1); // a refused command leaves the button enabled, for a second press to go through
+    refuseAll(1); // after a rejected command the button stays enabled, so a second press would send
     configure(only(chargeItem(0)));
     open();
     type(pin());
@@ -804,7 +805,7 @@ void PrepaidDialogTest::returnKeyElsewhereSendsNothing()
     }
     QVERIFY(requests().isEmpty());
     balanceButton()->setFocus();
-    QTest::keyClick(balanceButton(), Qt::Key_Return); // but a button does what it says
+    QTest::keyClick(balanceButton(), Qt::Key_Return); // Return on a button still presses the button
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
@@ -856,7 +857,7 @@ void PrepaidDialogTest::heldReturnAfterARefusalTriesOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-/// As some remote desktops have it.
+/// Some remote desktops send repeated presses without releases.
 void PrepaidDialogTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);
@@ -993,7 +994,8 @@ void PrepaidDialogTest::closingDropsWhatWaits()
     open();
     dialog()->OnClickedCloseButton();
     networkSays(QStringLiteral("5 EUR"));
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*100#")); // the number is not asked for
+    // The own number is not requested.
+    QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
 void PrepaidDialogTest::closedDialogMayBeDeletedAtOnce()

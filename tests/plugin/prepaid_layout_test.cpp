@@ -38,7 +38,7 @@ QString nameOf(const QWidget *widget)
     return widget->objectName().mid(int(strlen("USSDUIPlugin_")));
 }
 
-/// The text that the widget has to have room for.
+/// Returns the width of the text that must fit in the widget.
 int textWidth(const QWidget *widget)
 {
     QString text;
@@ -59,7 +59,7 @@ QByteArray describe(const QWidget *widget)
 
 } // namespace
 
-/** The account window: what stands where, in every language and both directions. */
+/** Tests the layout of the account window in every language and both directions. */
 class PrepaidLayoutTest : public PrepaidTest
 {
     Q_OBJECT
@@ -134,7 +134,7 @@ QStringList PrepaidLayoutTest::visibleRoles()
 void PrepaidLayoutTest::nothingIsCutOff_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("missing"); // the component that is left out, or none
+    QTest::addColumn<int>("missing"); // the component that is not shown, if any
     for (const QString &language : languages()) {
         for (int missing = -1; missing < 4; ++missing)
             QTest::newRow(qPrintable(QStringLiteral("%1, without %2").arg(language).arg(missing)))
@@ -238,7 +238,7 @@ void PrepaidLayoutTest::rightToLeftIsMirrored()
              balanceBox()->geometry().right());
 }
 
-// ---- what stands where -----------------------------------------------------------------------
+// ---- positions -------------------------------------------------------------------------------
 
 void PrepaidLayoutTest::componentIsShownWithAllItsParts_data()
 {
@@ -345,10 +345,10 @@ void PrepaidLayoutTest::gridHasItsMeasures()
     QCOMPARE(grid()->verticalSpacing(), 0);
     QCOMPARE(grid()->columnMinimumWidth(0), 80);
     QCOMPARE(grid()->columnMinimumWidth(1), 230);
-    const int rows = 2 + 1 + 3 + 1 + 1 + 1 + 1; // with three separators
+    const int rows = 2 + 1 + 3 + 1 + 1 + 1 + 1; // including three separators
     for (int row = 0; row < rows; ++row)
         QCOMPARE(grid()->rowMinimumHeight(row), 20);
-    QCOMPARE(grid()->rowCount(), rows + 1); // the close button's
+    QCOMPARE(grid()->rowCount(), rows + 1); // one more for the close button
     QCOMPARE(dialog()->GetSize(), grid()->sizeHint());
     QVERIFY(dialog()->findChild<QLayout *>(QStringLiteral("USSDUIPlugin_CloseBtn_Layout")));
 }
@@ -436,7 +436,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// The longest address that fits is shown whole; one letter more is cut to what Qt makes of 300.
+/// The longest address that fits is shown completely. An address longer by one letter is elided by
+/// Qt to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();
@@ -448,7 +449,7 @@ void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
         Account account;
         account.online = onlineItem(2, url.toLatin1());
         configure(account);
-        USSDLogic::Destroy(); // the configuration is read anew
+        USSDLogic::Destroy(); // makes the next object read the configuration again
         make();
         const QString shown = metrics.elidedText(url, Qt::ElideRight, 300);
         QCOMPARE(shown == url, url == fits);
@@ -496,7 +497,7 @@ QStringList PrepaidLayoutTest::tabOrder()
         roles << nameOf(frame()->focusWidget());
         QTest::keyClick(frame()->focusWidget(), Qt::Key_Tab);
     } while (frame()->focusWidget() != first && roles.count() < 20);
-    roles.removeDuplicates(); // the link is a stop of its own inside its label
+    roles.removeDuplicates(); // the link inside its label gets the focus separately
     return roles;
 }
 

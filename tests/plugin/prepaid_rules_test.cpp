@@ -20,7 +20,7 @@ ChargeRules rules(int length, int minlenth, const char *limitText = "0-9")
 
 } // namespace
 
-/** What the account window decides, without a window. */
+/** Tests the decisions of the account window without a window. */
 class PrepaidRulesTest : public UssdTest
 {
     Q_OBJECT
@@ -108,7 +108,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable_data()
     QTest::newRow("negative length") << QByteArray("0-9") << -1 << false;
     QTest::newRow("empty") << QByteArray() << 16 << false;
     QTest::newRow("half an escape") << QByteArray("0-9\\") << 16 << false;
-    // An expression, but not of one class.
+    // A valid expression that is more than one character class.
     QTest::newRow("two classes") << QByteArray("0-9]|[a-z") << 16 << false;
     QTest::newRow("back reference") << QByteArray("a](b*)*\\1[c") << 16 << false;
     QTest::newRow("very long") << QByteArray(1001, '7') << 16 << false;
@@ -121,7 +121,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable()
     QTEST(isChargeExpressionUsable(rules(length, 0, limitText.constData())), "usable");
 }
 
-/// It would be multiplied out to a thousand million letters.
+/// The text would be expanded to a thousand million letters.
 void PrepaidRulesTest::hostileLimitTextIsRefusedAtOnce()
 {
     QVERIFY(!isChargeExpressionUsable(rules(16, 12, "a]|((a{1000}){1000}){1000}|[b")));

@@ -11,8 +11,8 @@
 namespace
 {
 
-const int PAYMENT_SLOT = 8; ///< whose box also holds the payment edit
-const int ROUNDING = 1;     ///< pixels that a layout may take off when it shares out the height
+const int PAYMENT_SLOT = 8; ///< the position whose box also contains the payment edit
+const int ROUNDING = 1;     ///< pixels that a layout may lose when it distributes the height
 
 QByteArray nameOf(int index)
 {
@@ -24,7 +24,7 @@ QByteArray codeOf(int index)
     return "*" + QByteArray::number(100 + index) + "#";
 }
 
-/// Where an item stands in the grid, as "row,column rows x columns".
+/// Returns the position of an item in the grid as "row,column rows x columns".
 QString placeInGrid(const QGridLayout *grid, int index)
 {
     int row = 0;
@@ -37,15 +37,15 @@ QString placeInGrid(const QGridLayout *grid, int index)
 
 } // namespace
 
-/** The preset buttons of the general dialog, and its grid. */
+/** Tests the preset buttons of the general dialog and its grid. */
 class PresetButtonsTest : public DialogTest
 {
     Q_OBJECT
 
 private:
-    /// Profiles "Name 0", "*100#" and so on; a '1' in the mask marks one to be shown.
+    /// Writes profiles "Name 0", "*100#" and so on. A '1' in the mask gives the profile a button.
     void writeProfiles(const QByteArray &mask);
-    /// As many, all shown, with these codes.
+    /// Writes a profile with a button for each of these codes.
     void writeCodes(const QList<QByteArray> &codes);
     void writeNames(const QList<QByteArray> &names);
     QGridLayout *grid()
@@ -54,7 +54,7 @@ private:
     }
     QString placeOf(QWidget *widget);
     QStringList labels();
-    /// Presses Edit and, in the editor that opens, Save.
+    /// Presses Edit and then Save in the editor.
     void editAndSave() { editAndPress("SaveButton"); }
     void editAndPress(const char *button);
     QRect shownAt(QWidget *widget);
@@ -162,7 +162,7 @@ void PresetButtonsTest::editAndPress(const char *button)
 {
     bool pressed = false;
     QTimer::singleShot(0, this, [&] {
-        // The editor's window is a child of what the dialog stands in.
+        // The editor's window is a child of the widget that contains the dialog.
         QPushButton *found = page()->findChild<QPushButton *>(
             latin1("USSDUIPlugin_ProfileDialog_") + latin1(button));
         if (!found)
@@ -204,8 +204,8 @@ void PresetButtonsTest::twelfthProfileGetsNoButton()
 void PresetButtonsTest::slotsAreFixedByTheProfilesIndex_data()
 {
     QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("box");   // the place of its box, empty for none
-    QTest::addColumn<QString>("alone"); // its place when only it is shown
+    QTest::addColumn<QString>("box");   // the position of the button's box, empty for none
+    QTest::addColumn<QString>("alone"); // the position of the button when no other one is shown
     QTest::addColumn<QString>("amongAll");
     for (int i = 0; i < 4; ++i)
         QTest::newRow(nameOf(i)) << i << latin1("0,0 4x1") << QString() << QString();
@@ -235,7 +235,7 @@ void PresetButtonsTest::slotsAreFixedByTheProfilesIndex()
             QCOMPARE(placeOf(button), mask == all ? amongAll : alone);
             continue;
         }
-        QStringList places; // of the boxes that hold the button
+        QStringList places; // the positions of the boxes that contain the button
         for (int i = 0; i < grid()->count(); ++i) {
             QLayout *inner = grid()->itemAt(i)->layout();
             if (inner && inner->indexOf(button) >= 0)
@@ -368,7 +368,7 @@ void PresetButtonsTest::nothingOverlapsOrIsCutOff()
     QVERIFY(HostCore::Languages::setCurrent(language));
     writeProfiles(mask);
     open(static_cast<WINDOW_MODEL>(model));
-    send(latin1("*100#")); // so that the prompt is there
+    send(latin1("*100#")); // makes the prompt visible
     QWidgetList shown;
     for (QWidget *widget :
          dialog()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -390,7 +390,7 @@ void PresetButtonsTest::nothingOverlapsOrIsCutOff()
     }
 }
 
-// ---- what they send --------------------------------------------------------------------------
+// ---- sending ---------------------------------------------------------------------------------
 
 void PresetButtonsTest::buttonSendsItsCode()
 {
@@ -407,7 +407,7 @@ void PresetButtonsTest::paymentButtonWithoutNumberSendsNothing()
     writeCodes({"*1#", "*2*%s#", "*3*%s#"});
     open();
     for (int i : {1, 2}) {
-        presetButtons().at(i)->setEnabled(true); // as a host might
+        presetButtons().at(i)->setEnabled(true); // as a host could do
         click(presetButtons().at(i));
     }
     QVERIFY(requests().isEmpty());
@@ -629,7 +629,7 @@ void PresetButtonsTest::codesReadFromLeftToRightInArabicNamesDoNot()
     QCOMPARE(buttons.at(3)->layoutDirection(), Qt::LeftToRight);
 }
 
-/// A tool tip would show it as such, and a picture would be loaded.
+/// A tool tip would interpret markup and load a picture.
 void PresetButtonsTest::namesAreNoMarkup()
 {
     const QByteArray name = "&lt;img src='/dev/zero'&gt; a name that is much too wide";
@@ -664,7 +664,7 @@ void PresetButtonsTest::surplusProfilesHaveNoButton()
     writeProfiles("1011111");
     editAndSave();
     QCOMPARE(labels(), (QStringList{latin1("Name 0"), latin1("Name 2")}));
-    open(); // made again
+    open(); // creates the buttons again
     QCOMPARE(presetButtons().count(), 6);
 }
 
@@ -744,7 +744,7 @@ void PresetButtonsTest::comboIsFilledAnewAfterSaving()
     QCOMPARE(descriptionLabel()->text(), QString());
 }
 
-/// Saving empties the hidden combo, whose text must not decide for the field that can be seen.
+/// Saving clears the hidden combo box, whose text must not affect the visible field.
 void PresetButtonsTest::afterSavingSendFollowsTheCommandEdit()
 {
     writeProfiles("111");

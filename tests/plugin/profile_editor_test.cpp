@@ -22,7 +22,7 @@
 #include "windows/USSDGeneralDlg.h"
 #include "windows/USSDService.h"
 
-/** The profile editor, by itself and behind the general dialog's button. */
+/** Tests the profile editor, alone and opened by the general dialog's button. */
 class ProfileEditorTest : public PluginTest
 {
     Q_OBJECT
@@ -39,20 +39,20 @@ private:
     Widget *find(const char *name);
     QString cell(int row, int column);
     void doubleClick(int row, int column);
-    QLineEdit *cellEditor(); ///< that of the current cell
+    QLineEdit *cellEditor(); ///< the line edit of the current cell
     void type(int row, int column, const QString &text);
-    /// Calls `act` once, from the event loop of the message box that opens next; keeps its text.
+    /// Calls `act` once in the event loop of the next message box, and stores the text of the box.
     void whenMessageOpens(const std::function<void(QMessageBox *)> &act);
-    /// Answers the message box that comes next.
+    /// Answers the next message box.
     void answerNextMessage(const QString &buttonKey);
     void press(QMessageBox *box, const QString &buttonKey);
-    /// Opens the cell, types, and leaves it in one of the five ways.
+    /// Opens the cell, types the text and leaves the cell in one of five ways.
     void typeAndLeave(int row, int column, const QString &text, int way);
     QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
     QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
-    /// Answers the question whether to save, and acknowledges the message behind it.
+    /// Confirms the question whether to save, and the message that follows.
     void saveAndAcknowledge();
-    void shutDown(); ///< all that docs/host-integration.md allows
+    void shutDown(); ///< makes all shut-down calls that docs/host-integration.md allows
     QList<USSDProfile> savedProfiles();
 
     enum WayToLeave { Tab, ClickOnSave, ClickOnAnotherCell, AnotherWindow, Return };
@@ -154,7 +154,7 @@ void ProfileEditorTest::setUp()
 
 void ProfileEditorTest::tearDown()
 {
-    qDeleteAll(findChildren<QTimer *>()); // of messages that did not come
+    qDeleteAll(findChildren<QTimer *>()); // belong to messages that were not shown
     m_editor.reset();
     m_otherWindow.reset();
     HostCore::HostState::setMiniMode(false);
@@ -216,7 +216,8 @@ void ProfileEditorTest::whenMessageOpens(const std::function<void(QMessageBox *)
         poll->deleteLater();
         poll->stop();
         ++m_messages;
-        const QPlainTextEdit *longText = box->findChild<QPlainTextEdit *>(); // a path, that is
+        // A message with a long path is shown in a text view.
+        const QPlainTextEdit *longText = box->findChild<QPlainTextEdit *>();
         m_message = longText ? longText->toPlainText() : box->text();
         act(box);
     });
@@ -255,7 +256,7 @@ void ProfileEditorTest::waysToLeave()
 
 void ProfileEditorTest::typeAndLeave(int row, int column, const QString &text, int way)
 {
-    QApplication::setActiveWindow(table()->window()); // or the editor has no focus to lose
+    QApplication::setActiveWindow(table()->window()); // otherwise the editor has no focus to lose
     doubleClick(row, column);
     QVERIFY(cellEditor());
     cellEditor()->selectAll();
@@ -338,7 +339,7 @@ void ProfileEditorTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(cell(4, 0), QString());
 }
 
-/// Beside the cell that is left by Tab stands one that is filled and can be edited.
+/// The cell next to the one that is left by Tab is filled and editable.
 void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);
@@ -362,11 +363,11 @@ void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing was saved
 }
 
-/// While the delegate and the view work on the cell, the host cannot be let in.
+/// While the delegate and the view handle the cell, the host must not be called.
 void ProfileEditorTest::messageOfADuplicateOpensOutsideTheDelegate()
 {
     openEditor();
-    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab); // would not come back
+    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab); // a message in the delegate would hang here
     QCOMPARE(cell(1, 0), QStringLiteral("Balance"));
     QCOMPARE(m_messages, 0);
     answerNextMessage(QStringLiteral("IDS_OK"));
@@ -402,7 +403,7 @@ void ProfileEditorTest::textThatDiffersInCaseIsNoDuplicate()
     QCOMPARE(cell(4, column), other);
 }
 
-/// Keys that came in one go with the Tab that left the first cell.
+/// The keys arrive together with the Tab that leaves the first cell.
 void ProfileEditorTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
     openEditor();
@@ -412,7 +413,7 @@ void ProfileEditorTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
     QTest::keyClicks(cellEditor(), QStringLiteral("*100#"));
     whenMessageOpens([this](QMessageBox *box) {
         QVERIFY(box->text().contains(USSDLogic::tr(QStringLiteral("IDS_COMMAND_NAME"))));
-        QCOMPARE(table()->currentItem(), table()->item(1, 0)); // that is the one meant
+        QCOMPARE(table()->currentItem(), table()->item(1, 0)); // the duplicate cell
         answerNextMessage(QStringLiteral("IDS_OK"));
         press(box, QStringLiteral("IDS_OK"));
     });
@@ -457,7 +458,7 @@ void ProfileEditorTest::readOnlyProfileCannotBeEditedAndHasItsColour()
 void ProfileEditorTest::savingWithoutChangesAsksNothingAndWrites()
 {
     openEditor();
-    const QByteArray system = contentOf(systemFile()); // in one line
+    const QByteArray system = contentOf(systemFile()); // a file without line breaks
     QVERIFY(!QFile::exists(userFile()));
     QTest::mouseClick(saveButton(), Qt::LeftButton); // a question would hang here
     QVERIFY(QFile::exists(userFile()));
@@ -557,7 +558,8 @@ void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
     QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
 }
 
-/// A code is saved without the blanks around it, and the second one of two would not be read again.
+/// A code is saved without the blanks around it. Of two equal codes, only the first would be read
+/// again.
 void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate()
 {
     QFETCH(QString, typed);
@@ -593,7 +595,7 @@ void ProfileEditorTest::savingChangesAsksFirst()
     const USSDProfile saved = savedProfiles().at(1);
     QCOMPARE(saved.name, QStringLiteral("My menu"));
     QCOMPARE(saved.value, QStringLiteral("*123#"));
-    QCOMPARE(saved.langID, QString()); // or the translated text would hide the new name
+    QCOMPARE(saved.langID, QString()); // a key would hide the new name by the translated text
     QVERIFY(saved.isSystem);
 }
 
@@ -634,7 +636,7 @@ void ProfileEditorTest::openEditorIsCommittedBySaving()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Typed"));
 }
 
-/// The row would otherwise be saved without its code, which leaves it out.
+/// Otherwise the row would be saved without its code, and be lost.
 void ProfileEditorTest::duplicateFoundWhileSavingStopsIt()
 {
     openEditor();
@@ -717,7 +719,7 @@ void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver_data()
     }
 }
 
-/// Not even when nobody changed anything: what was not read would be gone.
+/// The part that was not read would be lost, even if nothing was edited.
 void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver()
 {
     QFETCH(bool, isSystem);
@@ -769,7 +771,7 @@ void ProfileEditorTest::editOfADamagedFileStaysInTheWindow()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// It could be deleted, and with it what nobody has seen.
+/// Saving could delete the file and lose codes that were never read.
 void ProfileEditorTest::fileThatCannotBeOpenedIsNotSavedOver()
 {
     const QByteArray own = profileFile(profileItem("Mine", "*5#"));
@@ -789,7 +791,7 @@ void ProfileEditorTest::fileThatCannotBeOpenedIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// It has nothing that could be lost; a full disk leaves such files.
+/// An empty file, which a full disk may leave, contains nothing that could be lost.
 void ProfileEditorTest::emptyFileIsSavedOver()
 {
     writeFile(QStringLiteral("user/ussdprofile.xml"), QByteArray());
@@ -863,7 +865,7 @@ void ProfileEditorTest::fullDiskIsSaidBeforeOldCodesAreLost()
     QVERIFY(table()->isVisible());
     QCOMPARE(contentOf(userFile()), user);
     QCOMPARE(contentOf(systemFile()), system);
-    answerNextMessage(QStringLiteral("IDS_YES")); // there is room again
+    answerNextMessage(QStringLiteral("IDS_YES")); // the disk has space again
     saveButton()->click();
     QCOMPARE(savedProfiles().at(2).name, QStringLiteral("Other"));
 }
@@ -906,7 +908,7 @@ void ProfileEditorTest::unknownUserFolderIsSaid()
 
 void ProfileEditorTest::fileThatCameAfterTheReadingIsNotSavedOver()
 {
-    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // for a moment
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // fails for a moment
     openEditor();
     fakeSdkSetResult("TKSV_GetUserDataDirectory", 0);
     const QByteArray own = profileFile(profileItem("Own", "*9#"));
@@ -919,7 +921,7 @@ void ProfileEditorTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// The missing folder looks as if it could be made, but its name is taken by a link to nowhere.
+/// The missing folder seems to be creatable, but a dangling link has its name.
 void ProfileEditorTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));
@@ -946,7 +948,7 @@ void ProfileEditorTest::hostMayShutDownWhileTheRefusalIsOpen()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-/// What differs between two pictures, in one part of them.
+/// Returns the bounding rectangle of the differences between two pictures, inside `part`.
 static QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
 {
     QRect difference;
@@ -1013,7 +1015,7 @@ void ProfileEditorTest::frameHasATitleAndACloseButton()
 {
     openEditor();
     QCOMPARE(table()->window()->parentWidget(), m_mainWindow.data());
-    QDialog plain(m_mainWindow.data()); // Qt itself adds a flag
+    QDialog plain(m_mainWindow.data()); // for comparison, because Qt adds a flag
     plain.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint |
                          Qt::WindowCloseButtonHint);
     QCOMPARE(table()->window()->windowFlags(), plain.windowFlags());
@@ -1036,7 +1038,7 @@ void ProfileEditorTest::messagesInMiniModeStandOverTheEditor_data()
     QTest::newRow("otherwise") << false;
 }
 
-/// That about a duplicate, and the question whether to save.
+/// Tests the message about a duplicate and the question whether to save.
 void ProfileEditorTest::messagesInMiniModeStandOverTheEditor()
 {
     QFETCH(bool, mini);
@@ -1097,7 +1099,7 @@ void ProfileEditorTest::headsStandWhereTheirColumnsBegin_data()
     QTest::newRow("Arabic") << QStringLiteral("ar") << true;
 }
 
-/// On the screen: a picture made with QWidget::render() is not mirrored as the screen is.
+/// Uses pictures of the screen, because QWidget::render() does not mirror the widget.
 void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
 {
     QFETCH(QString, language);
@@ -1124,7 +1126,8 @@ void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
     QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-/// In the order of Arabic it would read "#123*". A star is lower than a hash, and has no feet.
+/// In right-to-left order the code would read "#123*". The picture distinguishes a star from a
+/// hash, which extends further down.
 void ProfileEditorTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
     QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
@@ -1211,7 +1214,7 @@ void ProfileEditorTest::hostMayShutDownWhileTheEditorIsOpen()
     QVERIFY(!table());
 }
 
-/// The question has no parent that would take it along.
+/// The question box has no parent that would delete it.
 void ProfileEditorTest::hostMayShutDownWhileTheQuestionIsOpen()
 {
     QRect rect(0, 0, 640, 560);

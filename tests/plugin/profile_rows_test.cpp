@@ -2,7 +2,7 @@
 
 #include "profiles/ProfileRows.h"
 
-/** What the profile editor's table becomes. */
+/** Tests how the rows of the profile editor's table become profiles. */
 class ProfileRowsTest : public UssdTest
 {
     Q_OBJECT
@@ -181,7 +181,7 @@ void ProfileRowsTest::profilesBeyondTheRowsAreKept()
             rows << row("Balance", qPrintable(profile.value));
     }
     QVERIFY(read(rows, shown) == shown);
-    rows[99].code.clear(); // the last row is deleted; those behind it are not
+    rows[99].code.clear(); // deletes the last row of the table, but no profile after it
     QCOMPARE(read(rows, shown).count(), 129);
     QVERIFY(read(rows, shown).last() == shown.last());
 }

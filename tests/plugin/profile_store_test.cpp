@@ -24,7 +24,7 @@
 namespace
 {
 
-/// Arrays that this thread has made and not deleted.
+/// The number of arrays that this thread has allocated and not deleted.
 thread_local int arraysOfThisThread = 0;
 
 } // namespace
@@ -102,7 +102,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-/// A character that XML 1.0 can hold, often one that is special to it or to Unicode.
+/// Returns a character that XML 1.0 allows, often one with a special meaning in XML or Unicode.
 QString randomCharacter(std::mt19937 &random)
 {
     static const char16_t special[] = {
@@ -184,7 +184,7 @@ private slots:
     void shownTextIsTheTranslationOrTheName();
     void shippedFileHasElevenProfiles();
 
-    // the places
+    // paths
     void pathsAreThoseOfTheFolders();
     void userFolderIsTakenExactlyAsReturned();
     void textOfTheSdkIsReleasedAsAnArray();
@@ -232,7 +232,7 @@ private:
     static QByteArray content(const QString &path);
     static QList<USSDProfile> list(USSDEditCmd &store);
     static QList<USSDProfile> loaded();
-    /// The codes of all profiles, those of the system file marked.
+    /// Returns the codes of all profiles. Those of the system file are marked.
     static QStringList codes(const QList<USSDProfile> &profiles);
 };
 
@@ -290,7 +290,8 @@ void ProfileStoreTest::laterUserProfileWithTheSameCodeIsDropped()
     writeUserProfiles(profileItem("First", "*1#") + profileItem("Second", "*1#") +
                       profileItem("Third", "*1# "));
     const QList<USSDProfile> profiles = loaded();
-    QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), latin1("*1# ")})); // exactly equal only
+    // Codes that differ in blanks are not equal.
+    QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), latin1("*1# ")}));
     QCOMPARE(profiles.first().name, latin1("First"));
 }
 
@@ -410,7 +411,7 @@ void ProfileStoreTest::brokenXmlKeepsWhatWasReadBefore()
 void ProfileStoreTest::textCutByAFaultIsEmpty_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("value"); // of the profile with the fault
+    QTest::addColumn<QString>("value"); // the code of the profile with the error
     const QByteArray start = "<tksvdoc>" + profileItem("A", "*1#") + "<item><name>B</name>";
     const QByteArray rest = "<readonly>true</readonly></item></tksvdoc>";
     QTest::newRow("no end") << start + "<value>*2" << QString();
@@ -422,7 +423,8 @@ void ProfileStoreTest::textCutByAFaultIsEmpty_data()
     QTest::newRow("behind the value") << start + "<value>*2#</value><&" + rest << latin1("*2#");
 }
 
-/// What was read whole stays, also of the profile with the fault; never half a code.
+/// Values that were read completely are kept, even in the profile with the error. A truncated code
+/// is never used.
 void ProfileStoreTest::textCutByAFaultIsEmpty()
 {
     QFETCH(QByteArray, content);
@@ -522,7 +524,7 @@ void ProfileStoreTest::getProfileListReplacesTheCallersList()
     profiles << profile(latin1("old"), latin1("*9#"));
     store.GetProfileList(profiles);
     QCOMPARE(codes(profiles), QStringList{latin1("*1#")});
-    profiles.clear(); // a copy
+    profiles.clear(); // clears a copy
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
 }
 
@@ -574,7 +576,7 @@ void ProfileStoreTest::shippedFileHasElevenProfiles()
     QVERIFY(profiles.at(10).value.contains(latin1("%s")));
 }
 
-// ---- the places ------------------------------------------------------------------------------
+// ---- paths -----------------------------------------------------------------------------------
 
 void ProfileStoreTest::pathsAreThoseOfTheFolders()
 {
@@ -607,7 +609,7 @@ void ProfileStoreTest::textOfTheSdkIsReleasedAsAnArray()
     const int before = arraysOfThisThread;
     unsigned short *units = nullptr;
     QCOMPARE(TKSV_GetUserDataDirectory(&units), 0L);
-    QCOMPARE(arraysOfThisThread, before + 1); // what the SDK makes is counted
+    QCOMPARE(arraysOfThisThread, before + 1); // proves that the SDK's allocation is counted
     delete[] units;
     store.getUserProfileXMLFilePath(path);
     QCOMPARE(path, userFile());
@@ -632,7 +634,7 @@ void ProfileStoreTest::legacyFileIsMovedOnceWithItsFolder()
     QVERIFY(QDir().mkpath(userFolder() + latin1("userdata")));
     const QByteArray old = profileFile(profileItem("A", "*1#"));
     write(legacyFile(), old);
-    USSDEditCmd store; // the first call
+    USSDEditCmd store; // calls the SDK for the first time
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
     QCOMPARE(content(userFile()), old);
     QVERIFY(!QFile::exists(legacyFile()));
@@ -662,7 +664,7 @@ void ProfileStoreTest::legacyFolderWithOtherFilesStays()
 
 void ProfileStoreTest::legacyFileThatCannotBeCopiedStaysInUse()
 {
-    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside"))); // a folder exists, but is no file
+    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside"))); // a folder has the name of the file
     USSDEditCmd store;
     clearLog();
     QString path;
@@ -777,7 +779,8 @@ void ProfileStoreTest::failedOpenIs25AndLeavesNoFile()
     QCOMPARE(status, 25);
     QVERIFY(!QFile::exists(userFile()));
     QCOMPARE(timesLogged("saveToXMLFile Exit: XML file open failed"), 2);
-    QCOMPARE(codes(list(store)), QStringList{latin1("*2#")}); // and can be saved later
+    // The codes are kept and can be saved later.
+    QCOMPARE(codes(list(store)), QStringList{latin1("*2#")});
     QCOMPARE(store.saveToXMLFile(false), 0);
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
@@ -821,7 +824,7 @@ void ProfileStoreTest::systemFolderIsNeverMade()
 {
     USSDEditCmd store;
     QVERIFY(QDir(folder() + latin1("/plugins")).removeRecursively());
-    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // one level would be enough
+    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // only the last level is missing
     QCOMPARE(store.saveToXMLFile(true), 25);
     QVERIFY(!QDir(pluginFolder()).exists());
 }
@@ -871,7 +874,7 @@ void ProfileStoreTest::readOnlyFolderIs25()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// It cannot be deleted there, but opened.
+/// In such a folder the file cannot be deleted, but it can be opened.
 void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 {
     writeUserProfiles(profileItem("U", "*2#"));
@@ -888,7 +891,8 @@ void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
 
-/// A file that cannot be deleted keeps its permissions, or its owner could not read it any more.
+/// A file that cannot be deleted keeps its permissions, because its owner must still be able to
+/// read it.
 void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
 {
     const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
@@ -902,12 +906,12 @@ void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
         const OrdinaryUser user;
         status = store.saveToXMLFile(false);
         QFile file(userFile());
-        QVERIFY(file.open(QIODevice::ReadOnly)); // by the effective user, as programs do
+        QVERIFY(file.open(QIODevice::ReadOnly)); // checks the permissions of the effective user
     }
     QCOMPARE(status, 0);
 }
 
-/// No status tells of it; what got onto the disk is read up to where it breaks off.
+/// The failure is not reported. The file is read up to the point where it was truncated.
 void ProfileStoreTest::fullDiskLeavesAFileThatCanBeRead()
 {
     QByteArray items;
@@ -948,7 +952,8 @@ void ProfileStoreTest::randomListsSurvive()
     QVERIFY(texts > 1000);
 }
 
-/// They are written as references: XML would make a line feed of each.
+/// Carriage returns are written as character references, because XML would replace them by line
+/// feeds.
 void ProfileStoreTest::carriageReturnsSurvive()
 {
     const QList<USSDProfile> profiles = QList<USSDProfile>()

@@ -18,7 +18,7 @@ qint64 testClock()
     return now;
 }
 
-/// Counts what the event loop of its owner has to do for it.
+/// Counts the events that the timer causes in its owner's event loop.
 class CountingTimer : public ReplyTimer
 {
 public:
@@ -85,7 +85,7 @@ void ReplyTimerTest::disarmingByAnotherThreadStopsIt()
     timer.arm(0);
     std::thread other([&] { timer.disarm(); });
     other.join();
-    QTRY_VERIFY(!timer.isActive()); // it has woken
+    QTRY_VERIFY(!timer.isActive()); // the timer has fired
     QVERIFY(timeouts.isEmpty());
 }
 
@@ -94,7 +94,7 @@ void ReplyTimerTest::disarmUnderWayDoesNotStopALaterArming()
     ReplyTimer timer;
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     timer.arm(60000);
-    std::thread other([&] { timer.disarm(); }); // its event still waits in the queue
+    std::thread other([&] { timer.disarm(); }); // the timer's event is still queued
     other.join();
     timer.arm(1);
     QVERIFY(timeouts.wait(10000));
@@ -149,7 +149,7 @@ void ReplyTimerTest::busyOwnerDoesNotLengthenTheTime()
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     std::thread other([&] { timer.arm(30000); });
     other.join();
-    now = 30000; // the owner comes to its events only now
+    now = 30000; // the owner handles its events only now
     QTRY_VERIFY(!timeouts.isEmpty());
 }
 
@@ -177,11 +177,11 @@ void ReplyTimerTest::laterArmingRunsOutAtItsOwnTime()
     timer.arm(1);
     std::thread other([&] {
         timer.disarm();
-        timer.arm(40); // the timer wakes before, in vain
+        timer.arm(40); // an earlier wake-up has no effect
     });
     other.join();
     QVERIFY(timeouts.wait(10000));
-    // The clock counts whole milliseconds.
+    // The clock counts whole milliseconds, so one may be missing.
     QVERIFY(std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(40 - 1));
     QCOMPARE(timeouts.count(), 1);
 }
@@ -193,7 +193,7 @@ void ReplyTimerTest::shorterArmingIsNotHeldUpByTheClockOfALongerOne()
     ReplyTimer timer;
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     timer.arm(60000);
-    now = 100000; // that arming's time has passed by this clock, while the timer still waits for it
+    now = 100000; // the time has passed by this clock, but the timer has not fired yet
     std::thread other([&] {
         timer.disarm();
         timer.arm(0);

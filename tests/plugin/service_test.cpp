@@ -14,7 +14,7 @@
 #include "requests/USSDLogic.h"
 #include "windows/USSDService.h"
 
-/** The service with its general window, embedded and framed. */
+/** Tests the service with its general window, embedded and in a frame. */
 class ServiceTest : public PluginTest
 {
     Q_OBJECT
@@ -111,7 +111,8 @@ private slots:
 void ServiceTest::setUp()
 {
     PluginTest::setUp();
-    const ReplyTimes times = {60000, 1}; // a window opened again does not wait for the last one
+    // With these times, a window that is opened again does not wait for the last command.
+    const ReplyTimes times = {60000, 1};
     USSDLogic::setReplyTimes(times);
     writeSystemProfiles(profileFile(profileItem("Balance", "*100#")));
     m_mainWindow.reset(new QWidget);
@@ -205,7 +206,8 @@ void ServiceTest::doModalTwiceReusesFrameAndDialog()
     QCOMPARE(service()->DoModal(), 1);
     QCOMPARE(frame(), firstFrame);
     QCOMPARE(framedDialog(), firstDialog);
-    QVERIFY(part<QTextEdit>(firstDialog, "History")->toPlainText().isEmpty()); // made ready anew
+    // The dialog was reset.
+    QVERIFY(part<QTextEdit>(firstDialog, "History")->toPlainText().isEmpty());
     QCOMPARE(service()->DoPrePostPaidModal(PAID_TYPE_GENERAL), 1);
     QCOMPARE(frame(), firstFrame);
 }
@@ -236,7 +238,7 @@ void ServiceTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
-/// What was opened before is then none that a dialog could ask to close.
+/// A dialog opened earlier can then no longer request to be closed.
 void ServiceTest::unknownTypeIsRememberedNevertheless()
 {
     service()->DoModal();
@@ -267,7 +269,8 @@ void ServiceTest::framesAreCentredOverTheMainWindow()
     QFETCH(int, type);
     m_mainWindow->move(60, 40);
     service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
-    QVERIFY(frame()->testAttribute(Qt::WA_Moved)); // not by QDialog itself, when it is shown
+    // The plug-in has moved the frame; otherwise QDialog would do so when it is shown.
+    QVERIFY(frame()->testAttribute(Qt::WA_Moved));
     const QPoint apart = frame()->frameGeometry().center() - m_mainWindow->frameGeometry().center();
     QVERIFY2(apart.manhattanLength() <= 4,
              qPrintable(QStringLiteral("%1,%2 apart").arg(apart.x()).arg(apart.y())));
@@ -294,7 +297,7 @@ void ServiceTest::rejectedFrameIsClosed_data()
     QTest::newRow("general") << 3;
 }
 
-/// A host's frame may reject itself, as QDialog does, without a close event before it.
+/// A host's frame may be rejected without a close event, as QDialog does.
 void ServiceTest::rejectedFrameIsClosed()
 {
     QFETCH(int, type);
@@ -327,7 +330,7 @@ void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly()
         if (other != type)
             service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(other));
     }
-    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last one decides
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last type is remembered
     QStringList closed;
     for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
         connect(one, &ExtendDialog::dlgCloseEvent,
@@ -430,7 +433,7 @@ void ServiceTest::showPrePostPaidWindowShowsNothingForPrepaid()
 {
     service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
     QCOMPARE(service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_PREPAID), 0);
-    service()->Hide(); // only the type was remembered, so there is nothing to hide
+    service()->Hide(); // does nothing, because the remembered type is not the general window
     QVERIFY(embeddedDialog()->isVisible());
 }
 
@@ -461,7 +464,7 @@ void ServiceTest::fitSizeMovesAndSizes()
 void ServiceTest::fitSizeBeforeAnyWindowMakesNoDialog()
 {
     service()->FitSize(m_rect);
-    QVERIFY(fakeSdkCalls().empty()); // nobody needed the logic
+    QVERIFY(fakeSdkCalls().empty()); // the logic object was not created
     for (QWidget *widget : QApplication::allWidgets())
         QVERIFY(!qobject_cast<USSDGeneralDlg *>(widget));
 }
@@ -597,7 +600,7 @@ void ServiceTest::languageEventReachesTheDialogOfType()
              1);
 }
 
-/// A host may take everything down when it hears of the first frame.
+/// A host may shut the plug-in down when the first frame is closed.
 void ServiceTest::imsiEventMayEndInAShutDown()
 {
     for (int type : {3, 1, 0})
@@ -672,7 +675,8 @@ void ServiceTest::prepaidWindowShownThriceAsksOnceEachTime()
 {
     for (size_t i = 1; i <= 3; ++i) {
         service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
-        QCOMPARE(fakeSdkCommands().size(), i); // the number waits for the balance
+        // The request for the own number waits for the balance.
+        QCOMPARE(fakeSdkCommands().size(), i);
     }
 }
 
@@ -757,7 +761,7 @@ void ServiceTest::ussdSmsWindowFitsItsDialog()
     QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
-/// The remembered type stays that of the USSD-SMS window, which is none of those closed then.
+/// The remembered type stays that of the USSD-SMS window, which a close request does not close.
 void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();
@@ -765,7 +769,8 @@ void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
     QVERIFY(general->isVisible());
-    QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent")); // the window is closed
+    // This call has the effect of closing the window.
+    QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
     drainEvents();
     QVERIFY(!general);
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
@@ -815,9 +820,9 @@ void ServiceTest::detectionWorksWithoutAWindow()
     QVERIFY(!frame());
 }
 
-// ---- taking down -----------------------------------------------------------------------------
+// ---- shutting down ---------------------------------------------------------------------------
 
-/// A class whose code stands in several files is one family for who reads the log.
+/// Log lines of a class whose code is in several files name one file.
 void ServiceTest::logLinesNameTheFileOfTheirClassFamily()
 {
     for (int type : {3, 0, 5})

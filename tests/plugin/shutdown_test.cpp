@@ -1,8 +1,8 @@
 /*
- * Every order in which a host may take the loaded plug-in down, in every state that it can be in:
- * sequences of up to five calls, with repeats, while the device SDK calls back. After each one the
- * library is unloaded, really and in the same turn of the event loop: whatever it left behind then
- * has no code.
+ * Tests every order of the calls by which a host may shut the loaded plug-in down, in every state
+ * of the plug-in: sequences of up to five calls, with repetitions, while the device SDK calls back.
+ * After each sequence the library is unloaded in the same turn of the event loop, so that anything
+ * it left behind would run without code.
  */
 #include "UssdTest.h"
 
@@ -31,7 +31,7 @@ namespace
 
 const char CALLS[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // enough where the way there takes long
+const int EACH_ONCE = 3; // length of the sequences in states that take long to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // by the user, in the same turn of the event loop
+    ModalClosed, // closed by the user in the same turn of the event loop
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,
@@ -51,7 +51,7 @@ enum State {
     MessageOpen
 };
 
-/// Whether the library is in the process's memory, whoever holds it.
+/// Returns whether the library is mapped into the process's memory.
 bool isMapped()
 {
     void *handle = dlopen(USSD_PLUGIN_FILE, RTLD_LAZY | RTLD_NOLOAD);
@@ -91,10 +91,10 @@ private:
     QLibrary m_library;
     QScopedPointer<QWidget> m_window;
     QRect m_rect;
-    std::function<void()> m_closing; // done when the frame closes
+    std::function<void()> m_closing; // called when the frame is closed
 
 protected slots:
-    void onClosing(); ///< does so
+    void onClosing(); ///< calls m_closing
 
 private slots:
     void everyOrderInState_data();
@@ -165,7 +165,7 @@ void ShutdownTest::send(const QString &command)
     button->click();
 }
 
-/// Presses a button that opens a window with an event loop of its own.
+/// Presses a button that opens a window with its own event loop, and calls the function in it.
 void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> &whileItIsSo)
 {
     bool wasOpen = false;
@@ -173,7 +173,7 @@ void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> 
         wasOpen = QApplication::activeModalWidget() != nullptr;
         whileItIsSo();
     });
-    part<QPushButton>(button)->click(); // comes back because its loop is ended
+    part<QPushButton>(button)->click(); // returns when the event loop has ended
     QVERIFY(wasOpen);
 }
 
@@ -182,7 +182,7 @@ void ShutdownTest::openModal(int type)
     QCOMPARE(callDoPrePostPaidModal(ussd(), type), 1);
 }
 
-/// The reply to a top-up comes in a message box, as in the configuration that ships.
+/// Opens the message box that shows the reply to a top-up, as in the shipped configuration.
 void ShutdownTest::topUpIntoBox()
 {
     const QString prefix = QLatin1String("USSDUIPlugin_Charge");
@@ -191,7 +191,7 @@ void ShutdownTest::topUpIntoBox()
         m_window->findChild<QPushButton *>(prefix + QLatin1String("ActivateButton"));
     button->setEnabled(true);
     button->click();
-    for (int commands = 3; commands > 0; --commands) { // after balance and number
+    for (int commands = 3; commands > 0; --commands) { // balance, own number, then the top-up
         fakeSdkRespond(u"reply");
         QVERIFY(fakeSdkWaitIdle());
         drainEvents();
@@ -229,7 +229,7 @@ void ShutdownTest::reach(State state, const std::function<void()> &whileItIsSo)
         whileItIsSo();
 }
 
-/// The device SDK has something to say on each of its threads.
+/// Makes the device SDK call back on each of its threads.
 void ShutdownTest::callBack()
 {
     fakeSdkRespond(u"reply");
@@ -249,7 +249,7 @@ void ShutdownTest::run(const QString &calls)
     }
 }
 
-/// Leaves nothing behind, no call-back registered, and no code in memory.
+/// Makes the calls and unloads the library. Checks that no window, call-back or code is left.
 void ShutdownTest::finish(const QString &calls)
 {
     if (!calls.endsWith(QLatin1String("uod")))
@@ -261,7 +261,7 @@ void ShutdownTest::finish(const QString &calls)
     drainEvents();
     QVERIFY(m_window->findChildren<QWidget *>().isEmpty());
     QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(fakeSdkWaitIdle()); // or a late event would meet the next state
+    QVERIFY(fakeSdkWaitIdle()); // otherwise a late event could affect the next state
     load();
 }
 
@@ -308,7 +308,7 @@ void ShutdownTest::everyOrderInState()
                 callBack();
                 run(calls);
                 if (!calls.contains(QLatin1Char('o')) && !calls.contains(QLatin1Char('d')))
-                    run(QStringLiteral("o")); // or the window's loop would go on
+                    run(QStringLiteral("o")); // ends the window's event loop
             });
             finish(calls);
             if (QTest::currentTestFailed()) {
@@ -332,7 +332,7 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
     }
 }
 
-/// Before the service does, which listens anew each time the window is shown.
+/// Connects to the dialog before the service, which connects again each time the window is shown.
 void ShutdownTest::hearDialogIn(QWidget *frame, int type)
 {
     for (QWidget *widget : frame->findChildren<QWidget *>()) {
@@ -342,7 +342,8 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// A host that sees a frame close and takes everything down at once; it cannot unload there.
+/// The host shuts the plug-in down in the close event of a frame, where it cannot unload the
+/// library.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {
     QFETCH(int, type);
@@ -362,7 +363,7 @@ void ShutdownTest::insideTheCloseEventOfAFrame()
     } else {
         frame->close();
     }
-    QVERIFY(!m_closing); // it was called
+    QVERIFY(!m_closing); // cleared by onClosing()
     QVERIFY(!frame);
     finish(QStringLiteral("uod"));
 }

@@ -2,8 +2,8 @@
 #define SLOT_TABLE_H
 
 /*
- * The plug-in's interfaces as a host built long ago knows them: by the order of bases and of slots
- * in their virtual tables (Itanium C++ ABI), without any header of theirs.
+ * Calls the plug-in's interfaces as a host built long ago does: by the order of base classes and of
+ * slots in their virtual tables (Itanium C++ ABI), without their headers.
  */
 
 class QObject;
@@ -14,7 +14,7 @@ class QWidget;
 namespace SlotTable
 {
 
-/// Slots count from 0 behind the two of the virtual destructor.
+/// The slots are counted from 0 and follow the two slots of the virtual destructor.
 enum BasePluginSlot {
     Release,
     GetLastError,
@@ -43,7 +43,8 @@ enum USSDSlot {
     CheckImsiIsValid
 };
 
-/// The second base of a plug-in interface lies right behind the first one, which has no members.
+/// Returns the second base of a plug-in interface, which directly follows the first one because
+/// that has no members.
 void *secondBase(void *basePlugin);
 
 void callVoid(void *object, int slot);

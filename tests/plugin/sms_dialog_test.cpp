@@ -21,7 +21,7 @@
 #include "windows/USSDService.h"
 #include "windows/USSDSMSDlg.h"
 
-/** The USSD-SMS dialog in a frame, driven by keys and clicks. The network is silent at first. */
+/** Tests the USSD-SMS dialog in a frame by keys and clicks. The network is silent by default. */
 class SmsDialogTest : public PluginTest
 {
     Q_OBJECT
@@ -31,26 +31,26 @@ protected:
     void tearDown() override;
 
 private:
-    /// The services of the configuration, by their numbers.
+    /// The numbers of the services in the configuration.
     enum Service {
         BALANCE = 1, // USSD
         CALL,        // USSD with an input of at least 3 digits
         TWICE,       // USSD with two placeholders
-        FIXED,       // USSD with an input that goes nowhere
+        FIXED,       // USSD with an input that is not used
         TARIFF,      // SMS
         WEATHER,     // SMS with an input of at least 3 characters
         NOWHERE,     // SMS without a number
         FOUR,        // a group of four controls
         BARE,        // no group
-        NO_KIND,     // neither, with an input
-        PREPAID,     // another USSD
+        NO_KIND,     // neither USSD nor SMS, with an input
+        PREPAID,     // USSD
         TOO_LONG,    // USSD of 92 characters
         NOTHING,     // USSD without a command
         SIX          // a group of six controls
     };
 
     static QByteArray config();
-    void open(); ///< anew, in a frame that is shown
+    void open(); ///< creates the dialog in a visible frame
     void openShipped();
     void openWith(const QByteArray &xml);
 
@@ -73,7 +73,7 @@ private:
     QTreeWidgetItem *row(int service);
     QWidget *focused() { return m_frame->focusWidget(); }
 
-    void select(int service); ///< with the mouse
+    void select(int service); ///< clicks the service in the tree
     void press() { QTest::mouseClick(button(), Qt::LeftButton); }
     void type(const QString &text) { QTest::keyClicks(input(), text); }
     void networkSays(const QString &text);
@@ -264,7 +264,7 @@ QByteArray buttonControl(const QByteArray &type, const QByteArray &command,
            command + "</command><number>" + number + "</number></control>";
 }
 
-/// Whether anything but the background is drawn there.
+/// Returns whether anything except the background is drawn in the area.
 bool inkIn(const QImage &image, const QRect &area)
 {
     const QImage part = image.copy(area);
@@ -289,7 +289,7 @@ QByteArray SmsDialogTest::config()
 {
     QByteArray entries;
     for (int service = BALANCE; service <= SIX; ++service)
-        entries.prepend(entry(service)); // the tree sorts them
+        entries.prepend(entry(service)); // in reverse order, because the tree sorts the entries
     const QByteArray five = group(SIX, NO_INPUT, buttonControl(USSD, "*666#"));
     return "<config><SMSUSSD><MainSize width='520' height='360'/>"
            "<TreeSize posx='10' posy='12' width='150' height='330'/>"
@@ -417,7 +417,7 @@ void SmsDialogTest::sendTariff()
     press();
 }
 
-/// How many connections the logic's signal has.
+/// Returns the number of connections of the logic's signal.
 int SmsDialogTest::receivers(const char *signal)
 {
     class Opened : public QObject
@@ -446,7 +446,7 @@ void SmsDialogTest::missingFileLeavesAnEmptyDialogWithoutConnections()
 void SmsDialogTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 {
     writeConfig(QByteArray());
-    // A folder exists, but cannot be opened: by nobody, not even by root.
+    // A folder has the name of the file, so that not even root can open it.
     QVERIFY(QDir().mkpath(pluginFolder() + latin1("/USSDPluginConfig.xml")));
     open();
     QCOMPARE(timesLogged("InitConfig: return fail for the file can't be open as readonly and text "
@@ -458,7 +458,7 @@ void SmsDialogTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 
 void SmsDialogTest::unknownPluginFolderIsLogged()
 {
-    qputenv("USSD_PLUGIN_LIBRARY_PATH", "/"); // for the host, no folder at all
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", "/"); // the host reads it as an empty path
     open();
     QCOMPARE(logLines()
                  .filter(QRegularExpression(latin1("^config file error .*InitConfig : $")))
@@ -483,7 +483,7 @@ void SmsDialogTest::brokenFileKeepsItsServicesButHearsNothing()
     QCOMPARE(receivers(SIGNAL(responseReceived(int, QString))), 0);
     select(BALANCE);
     press();
-    QCOMPARE(requests(), QStringList()); // nobody would hear the answer
+    QCOMPARE(requests(), QStringList()); // nothing is connected that could receive the answer
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QVERIFY(isIdle());
 }
@@ -536,7 +536,7 @@ void SmsDialogTest::shownServiceWorksOnWhenItsGroupIsReplaced()
                             "</Dialog>");
     reader.readNextStartElement();
     m_dialog->ReadWidgetInfo(reader);
-    m_dialog->SetLanguage(); // looks at what is shown
+    m_dialog->SetLanguage(); // translates the visible texts
     QCOMPARE(captionLabel()->text(), caption);
     QCOMPARE(captionLabel()->geometry(), QRect(170, 60, 310, 20));
     press();
@@ -557,7 +557,7 @@ void SmsDialogTest::configurationIsReadAnewOnDemand()
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
     QVERIFY(tree()->isEnabled());
     QVERIFY(button()->isHidden());
-    select(PREPAID); // a row whose entry is gone
+    select(PREPAID); // a row whose entry was removed
     QVERIFY(button()->isHidden());
     m_dialog->InitTree();
     m_dialog->SetLanguage();
@@ -690,7 +690,7 @@ void SmsDialogTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// Also the number that stands for no entry; then none is selected.
+/// This includes the number that means "no entry"; no row is selected then.
 void SmsDialogTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()
@@ -734,9 +734,9 @@ void SmsDialogTest::keysSelectAService()
 {
     tree()->setFocus();
     QTest::keyClick(tree(), Qt::Key_Down);
-    QVERIFY(input()->isVisible()); // that of the second service, not still the first
+    QVERIFY(input()->isVisible()); // the field of the second service replaces that of the first
     QTest::keyClick(tree(), Qt::Key_End);
-    QTest::keyClick(tree(), Qt::Key_Home); // the root
+    QTest::keyClick(tree(), Qt::Key_Home); // selects the root
     QTest::keyClick(tree(), Qt::Key_Down);
     QVERIFY(input()->isHidden());
     press();
@@ -963,13 +963,13 @@ void SmsDialogTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
 }
 
-/// Odd rules, kept so: what is typed counts, not the number; see also the next two.
+/// An odd rule that is kept: the typed text decides, not the number. See also the next two tests.
 void SmsDialogTest::emptyNumberIsSentWhenTyped()
 {
     openWith(config().replace("<number>1200</number>", "<number></number>"));
     select(WEATHER);
     type(latin1("Oslo"));
-    QVERIFY(button()->isEnabled()); // though the device is not ready
+    QVERIFY(button()->isEnabled()); // although the device is not ready
     press();
     QCOMPARE(smsSent(), 1);
     QCOMPARE(fakeSdkCalls("TKSV_SMSSrv_CreateSMSRecord").front().number, std::u16string());
@@ -984,7 +984,7 @@ void SmsDialogTest::emptyNumberIsEnabledByReadiness()
     QVERIFY(button()->isEnabled());
 }
 
-/// The field is disabled by the click, and stays so until a service is selected.
+/// The click disables the field until a service is selected.
 void SmsDialogTest::emptyCommandIsEnabledByReadinessButNotSent()
 {
     openWith(config().replace("WEATHER %s", ""));
@@ -1010,7 +1010,7 @@ void SmsDialogTest::typingDoesNotEnableAnEmptyCommand()
     QVERIFY(!button()->isEnabled());
 }
 
-/// The two tests of the length differ, and are kept so.
+/// The plug-in checks the length in two different ways, and this is kept.
 void SmsDialogTest::typedTextOfMinimumLengthIsEnoughButNotForReadiness()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
@@ -1285,7 +1285,7 @@ void SmsDialogTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// The message may have been sent by somebody else, with the same number and text.
+/// Another program may have sent the message, with the same number and text.
 void SmsDialogTest::smsResultWhileNotBusyIsShown()
 {
     QFETCH(int, fared);
@@ -1350,15 +1350,15 @@ void SmsDialogTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// The device's word comes on its own thread, and its signal is still on the way when the user
-/// clicks. The field stays disabled until a service is selected, and is kept so.
+/// The device reports on its own thread, and its queued signal is not handled yet when the user
+/// clicks. The field stays disabled until a service is selected; this behaviour is kept.
 void SmsDialogTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
     select(WEATHER);
     type(latin1("Oslo"));
     fakeSdkRaiseSmsStatus(TKSV_SMS_STATUS_CANNOT_SEND);
-    QVERIFY(fakeSdkWaitIdle()); // but nothing is handled here
+    QVERIFY(fakeSdkWaitIdle()); // the queued signal is not handled by this call
     press();
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QCOMPARE(smsSent(), 0);
@@ -1434,7 +1434,7 @@ void SmsDialogTest::whileBusySelectionIsIgnored()
     press();
     select(PREPAID);
     QTest::keyClick(tree(), Qt::Key_Down);
-    tree()->setCurrentItem(row(CALL)); // as a host could
+    tree()->setCurrentItem(row(CALL)); // as a host could do
     QVERIFY(input()->isHidden());
     networkSays(latin1("5.00"));
     press();
@@ -1511,7 +1511,7 @@ void SmsDialogTest::resultIsPlainText()
     networkSays(reply);
     QCOMPARE(result(), reply);
     QCOMPARE(resultLabel()->textFormat(), Qt::PlainText);
-    QVERIFY(resultLabel()->grab().width() > 0); // it is drawn, and nothing is loaded
+    QVERIFY(resultLabel()->grab().width() > 0); // drawing the label loads nothing
 }
 
 void SmsDialogTest::longResultDoesNotChangeTheWindow()
@@ -1564,7 +1564,7 @@ void SmsDialogTest::codeInAResultIsNotTurnedRound()
     QCOMPARE(result(), text);
 }
 
-/// Arabic letters around the code: it is drawn as if the reply itself had marks around it.
+/// A code between Arabic letters is drawn as if the reply itself contained marks around the code.
 void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
 {
     const QString reply = QString::fromUtf8("اطلب *124# الآن");
@@ -1576,7 +1576,7 @@ void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
     QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 
-/// The full stop stands behind the last word, left of it, as if a mark held it there.
+/// The full stop is drawn to the left of the last word, as if a right-to-left mark followed it.
 void SmsDialogTest::arabicResultIsARightToLeftParagraph()
 {
     const QString reply = QString::fromUtf8("مرحبا.");
@@ -1628,7 +1628,7 @@ void SmsDialogTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
-/// Ctrl and a click take the selection away from a row, which stays the current one.
+/// A click with Ctrl deselects a row, which remains the current row.
 void SmsDialogTest::languageChangeKeepsInputOfARowNotSelected()
 {
     select(CALL);
@@ -1729,7 +1729,7 @@ void SmsDialogTest::everyShippedServiceCanBeUsed()
         press();
         QVERIFY2(isBusy(), qPrintable(row(service)->text(0)));
         const std::vector<FakeCall> messages = fakeSdkCalls("TKSV_SMSSrv_CreateSMSRecord");
-        networkSays(latin1("answer")); // goes nowhere when it was a message
+        networkSays(latin1("answer")); // is ignored if the service has sent a short message
         if (!messages.empty())
             smsFared(0, QString::fromStdU16String(messages.back().number),
                      QString::fromStdU16String(messages.back().text));

@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <QXmlStreamReader>
 
-/** The reader of the USSD-SMS dialog's section, with good files and with hostile ones. */
+/** Tests the reader of the USSD-SMS dialog's section with valid and malicious files. */
 class SmsLayoutTest : public UssdTest
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ private:
     QScopedPointer<SmsLayout> m_layout;
 
 private slots:
-    // ---- what a good file says
+    // ---- valid files
     void dialogAndTreeSizesAreRead();
     void sectionIsFoundAnywhereInTheFile();
     void partsMayStandInAnyOrder();
@@ -56,7 +56,7 @@ private slots:
     void shippedFileIsReadWithoutComplaints();
     void clearForgetsEverything();
 
-    // ---- what cannot be used
+    // ---- unusable values
     void textInPlaceOfANumberIsZero();
     void numberOfAMillionDigitsIsZero();
     void numbersBeyondAnyScreenStayUsable();
@@ -80,7 +80,7 @@ private slots:
     void longTextIsTakenWhole();
     void complaintsQuoteLittle();
 
-    // ---- what may be entered
+    // ---- input patterns
     void patternIsMadeOfLimitTextAndLength_data();
     void patternIsMadeOfLimitTextAndLength();
     void limitTextThatIsNoClassIsLeftOut_data();
@@ -134,7 +134,7 @@ const CWidgetItemInfo *SmsLayoutTest::onlyControl()
     return controls && controls->controls.count() == 1 ? controls->controls.first() : nullptr;
 }
 
-/// The only control of the only group; null when it was not read.
+/// Returns the only control of the only group, or null when it was not read.
 const CWidgetItemInfo *SmsLayoutTest::readControl(const QByteArray &control)
 {
     m_layout.reset(new SmsLayout);
@@ -142,7 +142,7 @@ const CWidgetItemInfo *SmsLayoutTest::readControl(const QByteArray &control)
     return onlyControl();
 }
 
-// ---- what a good file says -------------------------------------------------------------------
+// ---- valid files -----------------------------------------------------------------------------
 
 void SmsLayoutTest::dialogAndTreeSizesAreRead()
 {
@@ -389,7 +389,7 @@ void SmsLayoutTest::clearForgetsEverything()
     QCOMPARE(m_layout->dialog.width + m_layout->tree.width + m_layout->ordinaryEntries, 0);
 }
 
-// ---- what cannot be used ---------------------------------------------------------------------
+// ---- unusable values -------------------------------------------------------------------------
 
 void SmsLayoutTest::textInPlaceOfANumberIsZero()
 {
@@ -422,7 +422,7 @@ void SmsLayoutTest::numbersBeyondAnyScreenStayUsable()
     const CWidgetItemInfo *control =
         readControl("<control posx='2147483647' posy='-2147483648' width='2147483647' "
                     "height='2147483647'/>");
-    QCOMPARE(control->width, 2147483647); // as written
+    QCOMPARE(control->width, 2147483647); // the width as written in the file
     const QRect place = SmsLayoutFile::geometry(*control, 500, false);
     QCOMPARE(place, QRect(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     QVERIFY(complained("width 2147483647 is out of range"));
@@ -521,7 +521,7 @@ void SmsLayoutTest::tenThousandComplaintsAreCounted()
 {
     QVERIFY(readSection(rootAnd(QByteArray("<item name='x'/>").repeated(10000))));
     const int noNumber = 10000;
-    const int replacing = 25; // number 0 is the root's
+    const int replacing = 25; // number 0 belongs to the root
     const int tooMany = 10000 - 25;
     QCOMPARE(m_layout->complaints.count() + m_layout->furtherComplaints,
              noNumber + replacing + tooMany);
@@ -564,7 +564,7 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
     QCOMPARE(m_layout->dialog.width, 9);
 }
 
-/// Where the entity may stand in another file, the parser itself would pass over it.
+/// If the entity could be defined in an external file, the parser itself would skip it.
 void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
 {
     const QByteArray control = "<control><command>*10&bad;3#</command></control>";
@@ -610,7 +610,7 @@ void SmsLayoutTest::complaintsQuoteLittle()
         QVERIFY(complaint.length() < 200);
 }
 
-// ---- what may be entered ---------------------------------------------------------------------
+// ---- input patterns --------------------------------------------------------------------------
 
 void SmsLayoutTest::patternIsMadeOfLimitTextAndLength_data()
 {

@@ -1,7 +1,7 @@
 /*
- * Very many commands while everything that can happen does, at random.
+ * Sends very many commands while random events of all kinds happen.
  *
- *     USSD_STORM_COMMANDS  how many commands (5000; the full storm is 100000)
+ *     USSD_STORM_COMMANDS  the number of commands (5000 by default; 100000 for the full storm)
  *     USSD_STORM_SEED      the seed, printed at the start
  */
 #include "LogicListener.h"
@@ -19,7 +19,7 @@
 namespace
 {
 
-const int LAST_COMPONENT = 7; // of no dialog, and what the enumeration can still hold
+const int LAST_COMPONENT = 7; // belongs to no dialog; the largest value of the enumeration's type
 
 int number(const char *name, int otherwise)
 {
@@ -68,7 +68,7 @@ private:
 
     std::mt19937 m_random;
     PipelineModel m_model;
-    QList<bool> m_accepted; // what the device does with each request to come
+    QList<bool> m_accepted; // whether the device accepts each of the next requests
     QScopedPointer<LogicListener> m_listener;
     QScopedPointer<QWidget> m_window;
     int m_sent = 0;
@@ -87,7 +87,7 @@ void StormTest::setUp()
     allowWarning("../../src/USSDUIPlugin/");
     const ReplyTimes times = {60000, 0};
     USSDLogic::setReplyTimes(times);
-    // Without answers that make the windows send, or ask the user, by themselves.
+    // This configuration prevents answers after which a window sends by itself or asks the user.
     writeConfig(completeConfig()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
                     .replace("<ReturnStyle>1", "<ReturnStyle>0"));
@@ -116,7 +116,7 @@ QString StormTest::command()
            QLatin1Char('#');
 }
 
-/// One request in twelve is refused; device and model hear of it beforehand.
+/// Decides which requests the device rejects, one in twelve, and sets it in device and model.
 void StormTest::scriptDevice(int requests)
 {
     std::vector<FakeAnswer> script;
@@ -128,7 +128,7 @@ void StormTest::scriptDevice(int requests)
     fakeSdkScript(script);
 }
 
-// ---- what happens ----------------------------------------------------------------------------
+// ---- events ----------------------------------------------------------------------------------
 
 void StormTest::send()
 {
@@ -146,7 +146,7 @@ void StormTest::reply()
     const QString reply = QString::number(m_random());
     fakeSdkRespond(reply.toStdU16String(), dice(3));
     QVERIFY(fakeSdkWaitIdle());
-    drainEvents(); // a time-out does not queue, and would come in front
+    drainEvents(); // a time-out is not queued, and would overtake queued answers
     m_model.reply(reply);
 }
 
@@ -190,7 +190,7 @@ void StormTest::changeLanguage()
     CUSSDService::instance()->Notify(320, 0, 0);
 }
 
-/// The number is asked for; the balance is not configured.
+/// Opens the prepaid window, which requests the own number. The balance is not configured.
 void StormTest::openPrepaid()
 {
     m_model.clear(isDetection);
@@ -243,7 +243,7 @@ void StormTest::step()
         openOrClose();
 }
 
-/// What was announced and handed over since the last look.
+/// Compares the answers and requests since the last check with the model.
 void StormTest::check()
 {
     drainEvents();
@@ -277,8 +277,8 @@ void StormTest::everyCommandIsAnsweredAsTheModelSays()
     QCOMPARE(m_model.pending(), 0);
 }
 
-/// Nothing is serialised here: replies meet time-outs, device events and clears on their threads.
-/// Each command is announced at most once, and what is still pending in the end is answered.
+/// Replies, time-outs, device events and clears run concurrently on their threads. Each command
+/// must be answered at most once, and every command that is pending at the end must be answered.
 void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
 {
     const int commands = number("USSD_STORM_COMMANDS", 5000);
@@ -305,8 +305,8 @@ void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
         if (dice(20) == 0)
             drainEvents();
     }
-    QVERIFY(fakeSdkWaitIdle()); // no device event is on its way that would drop the next one
-    // Each waits for those before it: when this one is announced, nothing is pending any more.
+    QVERIFY(fakeSdkWaitIdle()); // a late device event would cancel the next command
+    // Commands are answered in order: when this one is answered, no command is pending any more.
     USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
         USSDCmdOrResp(static_cast<_COMPONENT>(LAST_COMPONENT), QStringLiteral("*8#")), &status);
     QTRY_VERIFY_WITH_TIMEOUT(!m_listener->answers.isEmpty() &&

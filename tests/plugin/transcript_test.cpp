@@ -42,7 +42,7 @@ QString markup(Transcript::Direction direction, const Char &look, bool rightToLe
     return Transcript::entry(direction, look, rightToLeft, latin1("Caption: "), text).markup;
 }
 
-/// What the view has to be like: the same text, set at once.
+/// Returns the expected content of the view, which results from setting the same text at once.
 QString setAtOnce(const QString &entries)
 {
     TranscriptView view;
@@ -58,7 +58,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-// Pieces of which random texts are made; each kind has its own traps.
+// Pieces for random texts. Each kind has difficulties of its own.
 const char *const WORDS[] = {"Balance", "12.50 EUR", "*100#", "1) Yes", "a", "%s", "%1", "-", "0"};
 const char *const ARABIC[] = {"رصيدك", "١٢٣", "اضغط 1", "ل", "\u200f", "\u200e"};
 const char *const BREAKS[] = {"\n", "\n\n", "\r", "\r\n", "\n ", " \n"};
@@ -109,7 +109,7 @@ Piece anyOf(const char *const (&pieces)[Count])
     return [&pieces](std::mt19937 &random) { return oneOf(pieces, random); };
 }
 
-/// Words, with one piece in three of one of these kinds.
+/// Returns a random text of words, in which one piece in three is of one of these kinds.
 QString randomText(const QVector<Piece> &kinds, std::mt19937 &random)
 {
     QString text;
@@ -126,7 +126,7 @@ struct RandomEntries {
     QVector<Piece> kinds;
     bool leftToRight;
     bool rightToLeft;
-    int oftenBlank; ///< one caption in so many is blank
+    int oftenBlank; ///< one in this number of captions is blank
     std::mt19937 &random;
 
     bool isRightToLeft() { return rightToLeft && (!leftToRight || random() % 2 == 0); }
@@ -164,7 +164,8 @@ QVector<Piece> kindsNamed(const QByteArray &name)
     return text + odd + QVector<Piece>{anyOf(ENTITIES), anyOf(CLOSED), anyOf(OPEN)};
 }
 
-/// Where the whole is set for each entry, fewer of them take the same time.
+/// Returns whether entries of this kind are usually inserted. Otherwise the whole text is set for
+/// each entry, so fewer entries are tested in the same time.
 bool isInsertedAsARule(const QByteArray &kind)
 {
     return kind == "words" || kind == "texts" || kind == "odd characters" || kind == "entities";
@@ -279,7 +280,7 @@ void TranscriptTest::coloursAreSixHexDigits_data()
     QTest::newRow("255/0/16") << 255 << 0 << 16 << latin1("ff0010");
     QTest::newRow("black") << 0 << 0 << 0 << latin1("000000");
     QTest::newRow("low digits") << 1 << 10 << 15 << latin1("010a0f");
-    QTest::newRow("beyond a byte") << 256 << 0 << 0 << latin1("1000000"); // as "%02x" gives it
+    QTest::newRow("beyond a byte") << 256 << 0 << 0 << latin1("1000000"); // the output of "%02x"
     QTest::newRow("negative") << -1 << 0 << 0 << latin1("ffffffff0000");
 }
 
@@ -316,7 +317,7 @@ void TranscriptTest::textGoesInAsItIs()
                 .endsWith(latin1(">Caption: <b>&amp;%1%s</b></span></p>")));
 }
 
-/// What a user sees of a reply between two others.
+/// Returns the visible text of a reply between two others.
 static QString shown(const QString &text)
 {
     TranscriptView view;
@@ -450,7 +451,7 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce_data()
     addKindsAndDirections();
 }
 
-/// An entry that leaves markup open hides in a long transcript what comes after it.
+/// In a long transcript, an entry with unclosed markup would hide the following entries.
 void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
 {
     QFETCH(QByteArray, kind);
@@ -464,7 +465,7 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
         compareWhileGrowing(source, 5, 1);
 }
 
-/// The position of the first letter that changes while an entry is added; -1 when none does.
+/// Adds an entry and returns the position of the first letter that changes, or -1.
 int TranscriptTest::firstChangeBy(TranscriptView &view, const Transcript::Entry &entry)
 {
     int first = -1;
@@ -498,7 +499,7 @@ void TranscriptTest::afterClearingEntriesAreInsertedAgain()
     view.appendEntry(
         Transcript::entry(Received, look(200, 0, 0, 0), false, latin1("R: "), latin1("<b>")));
     view.appendEntry(plain);
-    QCOMPARE(firstChangeBy(view, plain), 0); // the whole is set behind a tag
+    QCOMPARE(firstChangeBy(view, plain), 0); // after markup, the whole text is set again
     view.clearEntries();
     view.appendEntry(plain);
     QVERIFY(firstChangeBy(view, plain) > 0);
@@ -580,7 +581,7 @@ void TranscriptTest::deviceThatNeverEndsIsNotRead_data()
                           << latin1(")\"><li>x</ul>");
 }
 
-/// Whoever opened the pipe would wait for a writer, and the watchdog would end the test.
+/// If the pipe were opened, the call would wait for a writer, and the watchdog would end the test.
 void TranscriptTest::deviceThatNeverEndsIsNotRead()
 {
     QFETCH(QString, before);
