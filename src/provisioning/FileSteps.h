@@ -22,7 +22,7 @@ bool rename(const QString &from, const QString &to, QString &problem);
 /// Waits until the folder's entries are on the disk.
 bool syncFolder(const QString &path, QString &problem);
 
-/// Returns the target of the link as written; empty when the path is no link.
+/// Returns the target of the link as written; empty when the path is not a link.
 QString linkTarget(const QString &path);
 /// Returns whether the path exists. A dangling link counts as existing.
 bool exists(const QString &path);

@@ -6,7 +6,7 @@
 
 /** A short message to be offered in the services window. */
 struct PlannedMessage {
-    QString textKey; // of the service's name; a text that is no key is shown unchanged
+    QString textKey; // of the service's name; a text that is not a key is shown unchanged
     QString explanation;
     QString text;
     QString number;

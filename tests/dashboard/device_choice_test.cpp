@@ -125,15 +125,15 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage()
     QFETCH(int, state);
     QFETCH(QString, word);
     tell(modemInfo(state, problem, 2));
-    QSet<QString> said;
+    QSet<QString> texts;
     for (const QString &code : HostCore::Languages::codes()) {
         window().setLanguage(code);
         const QString text = notice("Dashboard_DeviceNotice");
         QVERIFY2(text.contains(word), qPrintable(code + QLatin1Char(' ') + text));
-        said << text;
+        texts << text;
     }
-    QCOMPARE(said.size(), HostCore::Languages::codes().size());
-    QVERIFY(!said.contains(QString()));
+    QCOMPARE(texts.size(), HostCore::Languages::codes().size());
+    QVERIFY(!texts.contains(QString()));
 }
 
 void DeviceChoiceTest::everyStateOfAModemSaysWhatToDo_data()

@@ -248,16 +248,16 @@ void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
 void MainWindowTest::aBadScenarioIsSaidInWordsAndTheOldOneStays()
 {
     const QString file = writeFile(QLatin1String("bad.scenario"), "[Network]\nOperator=\n");
-    QString said;
+    QString boxText;
     QTimer::singleShot(0, this, [&] {
         QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box)
             return;
-        said = textOf(box);
+        boxText = textOf(box);
         QTest::keyClick(box, Qt::Key_Escape);
     });
     QVERIFY(!m_window->useScenario(file));
-    QVERIFY2(said.contains(QLatin1String("bad.scenario:")), qPrintable(said));
+    QVERIFY2(boxText.contains(QLatin1String("bad.scenario:")), qPrintable(boxText));
     QVERIFY(networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
     theDeviceAndTheSourceAreShown();
     QVERIFY(m_settings->device() == DeviceChoice::automatic());

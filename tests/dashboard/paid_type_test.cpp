@@ -74,15 +74,15 @@ void PaidTypeTest::theServiceTakesWhatIsMeantForIt()
 {
     NotificationService service;
     const PrePostRecord record = {true, false, 1};
-    int told = 0;
-    connect(&service, &NotificationService::paidTypeTold, [&] { ++told; });
+    int timesEmitted = 0;
+    connect(&service, &NotificationService::paidTypeTold, [&] { ++timesEmitted; });
     QCOMPARE(service.Notify(addressee(0), TOLD, addressOf(record), 0), 0);
     QCOMPARE(service.Notify(addressee(1), TOLD, addressOf(record), 0), 0);
-    QCOMPARE(told, 2);
+    QCOMPARE(timesEmitted, 2);
     QVERIFY(service.Notify(QLatin1String("somebody"), TOLD, addressOf(record), 0) != 0);
     QVERIFY(service.Notify(addressee(0), TOLD + 1, addressOf(record), 0) != 0);
     QVERIFY(service.Notify(addressee(0), TOLD, 0, 0) != 0);
-    QCOMPARE(told, 2);
+    QCOMPARE(timesEmitted, 2);
 }
 
 void PaidTypeTest::theServiceTellsWhatTheRecordSays_data()
@@ -104,11 +104,11 @@ void PaidTypeTest::theServiceTellsWhatTheRecordSays()
     QFETCH(int, result);
     QFETCH(int, type);
     NotificationService service;
-    int told = -1;
-    connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { told = int(each); });
+    int received = -1;
+    connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { received = int(each); });
     const PrePostRecord record = {inUse, postpaid, result};
     service.Notify(addressee(0), TOLD, addressOf(record), 0);
-    QCOMPARE(told, type);
+    QCOMPARE(received, type);
 }
 
 void PaidTypeTest::thePluginFindsTheServiceByItsIdentifier()

@@ -1,4 +1,4 @@
-/* A library that is no plug-in. */
+/* A library that is not a plug-in. */
 extern "C" __attribute__((visibility("default"))) int entry();
 int entry()
 {

@@ -389,19 +389,19 @@ void ProfileBackupTest::aRestoreThatFailsIsSaid()
 {
     QVERIFY(writeCopy(GOOD));
     writeFile(QLatin1String("user"), "a file where the folder should be");
-    QStringList said;
+    QStringList boxTexts;
     QTimer watch;
     connect(&watch, &QTimer::timeout, this, [&] {
         QMessageBox *box = openBox();
         if (!box)
             return;
-        said << box->text();
+        boxTexts << box->text();
         QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
     });
     watch.start(1);
     ProfileKeeper(*m_backup).start();
-    QCOMPARE(said.size(), 2);
-    QVERIFY2(said.at(1).contains(m_copy), qPrintable(said.at(1)));
+    QCOMPARE(boxTexts.size(), 2);
+    QVERIFY2(boxTexts.at(1).contains(m_copy), qPrintable(boxTexts.at(1)));
 }
 
 /// Enters a code in the first free row of the editor and saves.

@@ -452,14 +452,14 @@ void FakeSdkTest::deviceEventIsRaised()
 
 void FakeSdkTest::deviceInfoIsTold()
 {
-    std::atomic<int> told(0);
-    TKSV_Device_SetInfoCallback(onInfo, &told);
+    std::atomic<int> callCount(0);
+    TKSV_Device_SetInfoCallback(onInfo, &callCount);
     TKSV_DeviceInfo info{};
     info.signalPercent = 61;
     std::strcpy(info.imsi, "001010123456789");
     fakeSdkSetDeviceInfo(info);
     QVERIFY(fakeSdkWaitIdle());
-    QCOMPARE(told.load(), 1);
+    QCOMPARE(callCount.load(), 1);
     TKSV_DeviceInfo read{};
     QCOMPARE(TKSV_Device_GetInfo(&read), 0L);
     QCOMPARE(read.signalPercent, 61);

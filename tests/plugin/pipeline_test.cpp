@@ -90,6 +90,7 @@ private:
     bool waitUntilLogged(const char *part, int times);
     /// Returns whether a command is sent without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
+    /// Returns whether a command is sent only after the wait for an earlier time-out.
     bool sendWaitsItsTime();
     /// Returns the log texts of a function of USSDLogic, in order.
     QStringList linesOf(const char *function);

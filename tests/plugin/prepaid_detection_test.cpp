@@ -75,7 +75,7 @@ protected:
 
 private:
     int ask(bool reallyAsk = true);
-    const PrePostRecord &told() { return m_notifications->calls.last().record; }
+    const PrePostRecord &lastRecord() { return m_notifications->calls.last().record; }
 
     QScopedPointer<Notifications> m_notifications;
     QScopedPointer<Container> m_container;
@@ -149,9 +149,9 @@ void PrepaidDetectionTest::replyWithADigitMeansPrepaid()
     QCOMPARE(m_given.result, 1);
     QCOMPARE(requests(), QStringList() << QStringLiteral("*103#"));
     networkSays(digitPatternReply());
-    QVERIFY(told().bInUse);
-    QVERIFY(!told().bPostPaid);
-    QCOMPARE(told().result, 1);
+    QVERIFY(lastRecord().bInUse);
+    QVERIFY(!lastRecord().bPostPaid);
+    QCOMPARE(lastRecord().result, 1);
     QCOMPARE(timesLogged("bPostPaid=0"), 1);
 }
 
@@ -159,7 +159,7 @@ void PrepaidDetectionTest::replyWithoutDigitsMeansPostpaid()
 {
     ask();
     networkSays(QStringLiteral("Contract account"));
-    QVERIFY(told().bPostPaid);
+    QVERIFY(lastRecord().bPostPaid);
     QCOMPARE(timesLogged(": onPrePostPaidRspReceived bPostPaid=1"), 1);
 }
 
@@ -167,7 +167,7 @@ void PrepaidDetectionTest::emptyReplyMeansPostpaid()
 {
     ask();
     networkSays(QString());
-    QVERIFY(told().bPostPaid);
+    QVERIFY(lastRecord().bPostPaid);
 }
 
 void PrepaidDetectionTest::emptyReplyIsNoFailureText()
@@ -175,7 +175,7 @@ void PrepaidDetectionTest::emptyReplyIsNoFailureText()
     configure(Account(), Account(), text("USSD_CODE_FAILED").toUtf8());
     ask();
     networkSays(QString());
-    QVERIFY(told().bPostPaid);
+    QVERIFY(lastRecord().bPostPaid);
 }
 
 void PrepaidDetectionTest::otherPatternHasToBeTheReply_data()
@@ -195,7 +195,7 @@ void PrepaidDetectionTest::otherPatternHasToBeTheReply()
     QFETCH(QString, reply);
     ask();
     networkSays(reply);
-    QTEST(told().bPostPaid, "isPostpaid");
+    QTEST(lastRecord().bPostPaid, "isPostpaid");
 }
 
 void PrepaidDetectionTest::blanksOfThePatternCount()
@@ -203,10 +203,10 @@ void PrepaidDetectionTest::blanksOfThePatternCount()
     configure(Account(), Account(), " PREPAID ");
     ask();
     networkSays(QStringLiteral("PREPAID"));
-    QVERIFY(told().bPostPaid);
+    QVERIFY(lastRecord().bPostPaid);
     ask();
     networkSays(QStringLiteral(" PREPAID "));
-    QVERIFY(!told().bPostPaid);
+    QVERIFY(!lastRecord().bPostPaid);
 }
 
 void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
@@ -215,8 +215,8 @@ void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
     USSDLogic::setReplyTimes(impatient);
     ask();
     QTRY_COMPARE(m_notifications->calls.count(), 2);
-    QCOMPARE(told().result, 0);
-    QVERIFY(!told().bPostPaid); // although the text of the time-out has no digit
+    QCOMPARE(lastRecord().result, 0);
+    QVERIFY(!lastRecord().bPostPaid); // although the text of the time-out has no digit
     QCOMPARE(timesLogged("bPostPaid="), 0);
 }
 
@@ -339,7 +339,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
     QTRY_COMPARE(m_notifications->calls.count(), 2);
-    QVERIFY(told().bPostPaid);
+    QVERIFY(lastRecord().bPostPaid);
     QTRY_COMPARE(balanceBox()->toPlainText(), QStringLiteral("balance"));
 }
 
@@ -388,7 +388,7 @@ void PrepaidDetectionTest::hostThatDestroysTheWindowIsToldTwiceAllTheSame()
     networkSays(digitPatternReply());
     QVERIFY(!dialog());
     QCOMPARE(m_notifications->calls.count(), 2);
-    QVERIFY(told().bInUse);
+    QVERIFY(lastRecord().bInUse);
 }
 
 void PrepaidDetectionTest::hostThatAsksAnewHearsOneVerdictTwice()

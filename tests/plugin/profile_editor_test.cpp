@@ -942,7 +942,7 @@ void ProfileEditorTest::hostMayShutDownWhileTheRefusalIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         QTest::mouseClick(saveButton(), Qt::LeftButton);
     });
-    editButton(m_mainWindow.data())->click(); // comes back by itself
+    editButton(m_mainWindow.data())->click(); // returns when the editor is closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!QApplication::activeModalWidget());
@@ -1158,7 +1158,7 @@ void ProfileEditorTest::upAndDownStayInsideTheCell()
     QCOMPARE(edit.text(), QStringLiteral("*00#"));
 }
 
-// ---- behind the general dialog's button --------------------------------------------------------
+// ---- opened by the general dialog ---------------------------------------------------------------
 
 void ProfileEditorTest::editButtonFollowsTheConfiguration()
 {
@@ -1208,7 +1208,8 @@ void ProfileEditorTest::hostMayShutDownWhileTheEditorIsOpen()
         wasOpen = table() && table()->isVisible();
         CUSSDService::Destroy();
     });
-    QTest::mouseClick(editButton(m_mainWindow.data()), Qt::LeftButton); // comes back by itself
+    QTest::mouseClick(editButton(m_mainWindow.data()),
+                      Qt::LeftButton); // returns when the editor is closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
@@ -1228,7 +1229,8 @@ void ProfileEditorTest::hostMayShutDownWhileTheQuestionIsOpen()
         });
         saveButton()->click();
     });
-    QTest::mouseClick(editButton(m_mainWindow.data()), Qt::LeftButton); // comes back by itself
+    QTest::mouseClick(editButton(m_mainWindow.data()),
+                      Qt::LeftButton); // returns when the editor is closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
@@ -1247,7 +1249,7 @@ void ProfileEditorTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         typeAndLeave(1, 0, QStringLiteral("Balance"), way);
     });
-    editButton(m_mainWindow.data())->click(); // comes back by itself
+    editButton(m_mainWindow.data())->click(); // returns when the editor is closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!m_mainWindow);

@@ -10,12 +10,12 @@
 namespace PluginContract
 {
 
-/// The identifier for which IBasePlugin::QueryInterface() hands out the USSD service (IUSSD).
+/// The identifier for which IBasePlugin::QueryInterface() returns the USSD service (IUSSD).
 const int USSD_SERVICE = 4097;
 
 // Events that the host raises by INotify::Notify(). Both parameters of each event are 0.
-const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() answers in another language
-const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was changed or became readable
+const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() returns another language
+const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was replaced or became readable
 
 /// The message that the plug-in raises by INotifyService::Notify(). Its first parameter is the
 /// address of a PrePostRecord, its second one is 0.
@@ -31,7 +31,7 @@ const unsigned int MESSAGE_PRE_POST_INFO = 384;
 struct PrePostRecord {
     bool bInUse = false;    ///< the configuration wants the network to be asked
     bool bPostPaid = false; ///< has no meaning while result is 0
-    int result = 0;         ///< 1: the question was sent; 0: it was not, or nobody answered in time
+    int result = 0; ///< 1 if the question was sent; 0 if it was not sent or not answered in time
 };
 
 static_assert(sizeof(bool) == 1 && sizeof(int) == 4, "the record is made of these two sizes");

@@ -9,7 +9,7 @@ struct PluginFailure {
         None,
         FileMissing,
         NotALibrary, // or a library with an unmet dependency
-        WrongBuild,  // a library that is no plug-in, or a plug-in for another Qt
+        WrongBuild,  // a library that is not a plug-in, or a plug-in for another Qt
         NoInstance,
         NoInterface,
         InitFailed,

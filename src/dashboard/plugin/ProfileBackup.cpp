@@ -70,7 +70,7 @@ QString userDataFolder()
     return result == 0 && units ? QString::fromUtf16(units) : QString();
 }
 
-/// Returns the dashboard's data folder as the XDG base directory specification defines it.
+/// Returns the dashboard's data folder below $XDG_DATA_HOME or its default.
 QString ownFolder()
 {
     const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));

@@ -9,10 +9,11 @@
 
 OperatorNotice::OperatorNotice(OperatorCodes *codes, QWidget *parent)
     : NoticeBar("Dashboard_OperatorNotice", parent), m_codes(codes),
-      m_take(addButton("Dashboard_OperatorTake")), m_no(addButton("Dashboard_OperatorNo"))
+      m_takeButton(addButton("Dashboard_OperatorTake")),
+      m_declineButton(addButton("Dashboard_OperatorNo"))
 {
-    connect(m_take, SIGNAL(clicked()), this, SLOT(onTake()));
-    connect(m_no, SIGNAL(clicked()), this, SLOT(onNo()));
+    connect(m_takeButton, SIGNAL(clicked()), this, SLOT(onTake()));
+    connect(m_declineButton, SIGNAL(clicked()), this, SLOT(onNo()));
     // The connection is queued because reading the database takes a while.
     connect(codes, SIGNAL(networkChanged()), this, SLOT(propose()), Qt::QueuedConnection);
 }
@@ -61,8 +62,8 @@ void OperatorNotice::retranslate()
 {
     const bool proposes = m_state == OneProposed || m_state == SeveralProposed;
     const char *take = m_state == OneProposed ? "CODES_TAKE" : "CODES_CHOOSE";
-    setButtonText(m_take, proposes ? dashboardText(take) : QString());
-    setButtonText(m_no, dashboardText(proposes ? "CODES_NOT_NOW" : "CODES_CLOSE"));
+    setButtonText(m_takeButton, proposes ? dashboardText(take) : QString());
+    setButtonText(m_declineButton, dashboardText(proposes ? "CODES_NOT_NOW" : "CODES_CLOSE"));
     setText(stateText());
     if (m_dialog)
         m_dialog->retranslate();

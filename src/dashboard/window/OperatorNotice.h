@@ -45,8 +45,8 @@ private:
     void say(const char *key);
 
     OperatorCodes *const m_codes;
-    QPushButton *m_take; // reads "Choose" when there are several operators
-    QPushButton *m_no;   // reads "Close" when there is nothing to decide
+    QPushButton *m_takeButton;    // reads "Choose" when there are several operators
+    QPushButton *m_declineButton; // reads "Close" when there is nothing to decide
     QPointer<OperatorDialog> m_dialog;
     State m_state = Nothing;
     QString m_subject; // the name of an operator
