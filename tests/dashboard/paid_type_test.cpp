@@ -105,7 +105,8 @@ void PaidTypeTest::theServiceTellsWhatTheRecordSays()
     QFETCH(int, type);
     NotificationService service;
     int received = -1;
-    connect(&service, &NotificationService::paidTypeTold, [&](PaidType each) { received = int(each); });
+    connect(&service, &NotificationService::paidTypeTold,
+            [&](PaidType each) { received = int(each); });
     const PrePostRecord record = {inUse, postpaid, result};
     service.Notify(addressee(0), TOLD, addressOf(record), 0);
     QCOMPARE(received, type);
