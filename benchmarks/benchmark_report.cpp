@@ -96,7 +96,7 @@ void printTable(const QList<Row> &rows)
 
 // ---- the chart: a bar for each ratio, with its spread and its limit ----------------------------
 
-const int NAME_WIDTH = 600; // pixels, like all below
+const int NAME_WIDTH = 600; // pixels, like the sizes below
 const int BARS_WIDTH = 460;
 const int VALUE_WIDTH = 170;
 const int ROW_HEIGHT = 34;

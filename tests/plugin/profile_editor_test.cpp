@@ -577,7 +577,7 @@ void ProfileEditorTest::blanksAloneAreAnEmptyCell()
     openEditor();
     clearLog();
     type(4, 1, QStringLiteral("  "));
-    type(5, 1, QStringLiteral("  ")); // no duplicate
+    type(5, 1, QStringLiteral("  ")); // an empty code is not a duplicate
     QCOMPARE(cell(4, 1), QString());
     QVERIFY(timesLogged("OnEditorClosed Exit: empty string ") > 0);
 }

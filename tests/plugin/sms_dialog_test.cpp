@@ -690,7 +690,7 @@ void SmsDialogTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// This includes the number that means "no entry"; no row is selected then.
+/// The number -1 means "no entry", so a first row with this number is not selected.
 void SmsDialogTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()

@@ -26,7 +26,7 @@ public:
 
     /// Discards the newest reply. May be called on any thread.
     void clear();
-    /// Records that the network waits for an answer to a text that arrived by another way. May be
+    /// Records that the network waits for an answer to a text that arrived in another way. May be
     /// called on any thread.
     void expectAnswer();
     /// Returns the newest reply. May be called on any thread.

@@ -72,7 +72,8 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    return status.imsi.isEmpty() ? m_network : QString(); // no IMSI: the SIM may become readable
+    // A SIM without an IMSI may merely not be readable yet.
+    return status.imsi.isEmpty() ? m_network : QString();
 }
 
 void OperatorCodes::look()

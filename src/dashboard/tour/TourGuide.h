@@ -44,7 +44,8 @@ public:
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 
-    /// Sets the widget that the following pictures show, and the name of the place for their names.
+    /// Sets the widget that the following pictures show. `place` becomes part of the pictures'
+    /// names.
     void visit(QWidget *shown, const char *place);
     QWidget *shown() const { return m_shown; }
     /// Opens a window of the plug-in, a PAID_TYPE, and visits the frame that contains a widget of
