@@ -15,7 +15,7 @@ included_folders() {
             done
     done | perl -e '
         sub folder { $_[0] =~ m{^src/sdk/tksv(_device)?\.h$} ? "tksv.h" : $_[0] =~ m{^src/(.*)/} ? $1 : "" }
-        my %place; # maps every suffix of a header's path to the header
+        my %place; # maps each suffix of a path to its header
         for my $header (split /\n/, $ENV{headers}) {
             my @parts = split m{/}, $header;
             $place{join "/", @parts[$_ .. $#parts]} = $header for 0 .. $#parts;
