@@ -12,6 +12,8 @@
 #include "profiles/USSDEditCmd.h"
 #include "requests/USSDLogic.h"
 
+using namespace Formats;
+
 namespace
 {
 

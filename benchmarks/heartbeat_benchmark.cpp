@@ -12,6 +12,8 @@
 #include "PluginConfig.h"
 #include "windows/StatusBox.h"
 
+using namespace Formats;
+
 namespace
 {
 

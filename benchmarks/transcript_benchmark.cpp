@@ -7,6 +7,8 @@
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
 
+using namespace Formats;
+
 namespace
 {
 

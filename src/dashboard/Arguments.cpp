@@ -1,5 +1,8 @@
 #include "Arguments.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -168,3 +171,5 @@ Arguments parseArguments(const QStringList &words)
 {
     return Parser(words).parse();
 }
+
+} // namespace Dashboard

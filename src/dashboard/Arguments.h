@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Dashboard
+{
+
 /** The parsed command line. */
 struct Arguments {
     enum Mode { Window, Send, Tour, Help, Version };
@@ -29,5 +32,7 @@ struct Arguments {
 /// All words after a lone "--" are code and answers too. An option and its value may be joined by
 /// "=".
 Arguments parseArguments(const QStringList &words);
+
+} // namespace Dashboard
 
 #endif

@@ -4,6 +4,9 @@
 #include <QTimer>
 #include <QWidget>
 
+namespace Dashboard
+{
+
 FirstPaint::FirstPaint(QWidget *window, int longestWait)
 {
     window->installEventFilter(this);
@@ -27,3 +30,5 @@ void FirstPaint::announce()
     m_isAnnounced = true;
     emit painted();
 }
+
+} // namespace Dashboard

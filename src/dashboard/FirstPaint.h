@@ -5,6 +5,9 @@
 
 class QWidget;
 
+namespace Dashboard
+{
+
 /**
  * Emits a signal once, when a window has been painted for the first time, so that slow work starts
  * after the user sees the window. For a window that is not painted because it is not visible, the
@@ -28,5 +31,7 @@ private slots:
 private:
     bool m_isAnnounced = false;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -26,6 +26,11 @@
 #include "window/MainWindow.h"
 #include "window/ProfileKeeper.h"
 
+using namespace Formats;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -228,3 +233,5 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     plugin.shutDown();
     return taken ? EXIT_GOOD : EXIT_BAD;
 }
+
+} // namespace Dashboard

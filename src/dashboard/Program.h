@@ -1,6 +1,9 @@
 #ifndef PROGRAM_H
 #define PROGRAM_H
 
+namespace Dashboard
+{
+
 struct Arguments;
 
 /** The exit codes of the program. */
@@ -22,5 +25,7 @@ int send(int &argc, char **argv, const Arguments &arguments);
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program
+
+} // namespace Dashboard
 
 #endif

@@ -4,6 +4,9 @@
 
 #include "SmsLayout.h"
 
+namespace Formats
+{
+
 int longestCharge(const ChargeRules &rules)
 {
     return qMax(rules.length, 0);
@@ -25,3 +28,5 @@ bool isChargeExpressionUsable(const ChargeRules &rules)
     return SmsLayoutFile::isCharacterClass(rules.limitText) &&
            QRegExp(chargeExpression(rules)).isValid();
 }
+
+} // namespace Formats

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Formats
+{
+
 /** The configured limits of what the user may enter to top up. */
 struct ChargeRules {
     int length = 0;    // maximum number of characters
@@ -26,5 +29,7 @@ QString chargeExpression(const ChargeRules &rules);
 /// class could make QRegExp use up all time and memory. The layout of the services window follows
 /// the same rule.
 bool isChargeExpressionUsable(const ChargeRules &rules);
+
+} // namespace Formats
 
 #endif

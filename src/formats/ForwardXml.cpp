@@ -4,6 +4,9 @@
 
 #include <QXmlStreamReader>
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -89,3 +92,5 @@ bool isTrue(const QString &text)
 }
 
 } // namespace ForwardXml
+
+} // namespace Formats

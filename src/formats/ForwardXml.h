@@ -5,6 +5,9 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+namespace Formats
+{
+
 /*
  * Forward scans over an XML document. The plug-in's files are read from front to back by element
  * name alone. Nesting is not checked, so the order of the elements is binding.
@@ -43,5 +46,7 @@ bool boolAttribute(const QXmlStreamReader &reader, QLatin1String name);
 bool isTrue(const QString &text);
 
 } // namespace ForwardXml
+
+} // namespace Formats
 
 #endif

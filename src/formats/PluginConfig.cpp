@@ -5,6 +5,9 @@
 #include "ForwardXml.h"
 #include "XmlName.h"
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -206,3 +209,5 @@ bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &fl
     }
     return false;
 }
+
+} // namespace Formats

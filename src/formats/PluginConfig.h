@@ -6,6 +6,9 @@
 
 class QXmlStreamReader;
 
+namespace Formats
+{
+
 /*
  * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
  * not depend on files, windows or the singleton. Each function reads forward from the current
@@ -134,5 +137,7 @@ int windowFlags(const QString &list);
 /// Returns true if the map contains a prefix of `imsi`, and sets `flags` to those of the longest
 /// prefix, or to 0 if there is none.
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags);
+
+} // namespace Formats
 
 #endif

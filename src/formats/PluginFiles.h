@@ -4,6 +4,9 @@
 #include <QLatin1String>
 #include <QString>
 
+namespace Formats
+{
+
 /*
  * The plug-in's folder, which is below the folder that CommonUtils::GetPluginLibraryPath() returns,
  * and the files in it.
@@ -24,5 +27,7 @@ inline QString path(const QString &pluginLibrary, QLatin1String file)
 }
 
 } // namespace PluginFiles
+
+} // namespace Formats
 
 #endif

@@ -6,6 +6,9 @@
 
 #include "ProfileXml.h"
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -42,3 +45,5 @@ bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, Missing
 }
 
 } // namespace ProfileSaveCheck
+
+} // namespace Formats

@@ -6,6 +6,9 @@
 
 #include "USSDProfile.h"
 
+namespace Formats
+{
+
 /* Checks a profile file on the disk before it is written. */
 namespace ProfileSaveCheck
 {
@@ -17,5 +20,7 @@ enum MissingFolder { FolderIsMade, FolderIsNotMade };
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
 } // namespace ProfileSaveCheck
+
+} // namespace Formats
 
 #endif

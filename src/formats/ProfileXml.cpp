@@ -7,6 +7,9 @@
 #include "ForwardXml.h"
 #include "XmlName.h"
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -103,3 +106,5 @@ void write(QIODevice &device, const QList<USSDProfile> &profiles)
 }
 
 } // namespace ProfileXml
+
+} // namespace Formats

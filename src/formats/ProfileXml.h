@@ -8,6 +8,9 @@
 class QIODevice;
 class QXmlStreamReader;
 
+namespace Formats
+{
+
 /*
  * The format of the profile files: the root element "tksvdoc" contains an "item" for each profile,
  * and an item contains six text elements in a fixed order.
@@ -24,5 +27,7 @@ bool readNext(QXmlStreamReader &reader, USSDProfile &profile);
 void write(QIODevice &device, const QList<USSDProfile> &profiles);
 
 } // namespace ProfileXml
+
+} // namespace Formats
 
 #endif

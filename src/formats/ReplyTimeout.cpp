@@ -2,6 +2,9 @@
 
 #include <QByteArray>
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -21,3 +24,5 @@ void setReplyTimeout(int milliseconds)
     if (qgetenv(VARIABLE).isEmpty())
         qputenv(VARIABLE, QByteArray::number(milliseconds));
 }
+
+} // namespace Formats

@@ -6,6 +6,9 @@
 #include "ForwardXml.h"
 #include "XmlName.h"
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -475,3 +478,5 @@ QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored)
 }
 
 } // namespace SmsLayoutFile
+
+} // namespace Formats

@@ -12,6 +12,9 @@ class QTreeWidgetItem;
 class QWidget;
 class QXmlStreamReader;
 
+namespace Formats
+{
+
 /*
  * The layout of the USSD-SMS dialog and the commands of its services, as in their section of the
  * configuration file, and the functions that read them. They do not depend on files, windows or the
@@ -133,5 +136,7 @@ QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored);
 QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored);
 
 } // namespace SmsLayoutFile
+
+} // namespace Formats
 
 #endif

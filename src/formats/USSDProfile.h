@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Formats
+{
+
 /** A named command, as offered by the preset buttons. */
 struct USSDProfile {
     USSDProfile() : readonly(false), showButton(false), isSystem(false) {}
@@ -22,5 +25,7 @@ inline bool operator==(const USSDProfile &a, const USSDProfile &b)
            a.showButton == b.showButton && a.langID == b.langID && a.desLangID == b.desLangID &&
            a.isSystem == b.isSystem;
 }
+
+} // namespace Formats
 
 #endif

@@ -1,5 +1,8 @@
 #include "UssdCode.h"
 
+namespace Formats
+{
+
 namespace
 {
 
@@ -48,3 +51,5 @@ int longestInput(const QString &command)
     const int places = command.count(INPUT_PLACEHOLDER);
     return places == 0 ? 0 : qMax(0, (LONGEST_COMMAND - commandLength(command, 0)) / places);
 }
+
+} // namespace Formats

@@ -6,6 +6,9 @@
 
 #include "tksv.h"
 
+namespace Formats
+{
+
 /*
  * Rules for a USSD command such as *100# or *101*%s#: where the user's input goes, how long the
  * command may get, whether a network accepts it, and in which direction it is read. The windows use
@@ -37,5 +40,7 @@ int commandLength(const QString &command, int input);
 /// Returns how many characters the user can enter before the command becomes longer than
 /// LONGEST_COMMAND; 0 for a command without a placeholder.
 int longestInput(const QString &command);
+
+} // namespace Formats
 
 #endif

@@ -1,6 +1,9 @@
 #ifndef XMLNAME_H
 #define XMLNAME_H
 
+namespace Formats
+{
+
 /*
  * The names of the elements and attributes in the configuration file and the profile files, and the
  * texts that have a meaning there. The spelling is part of the formats.
@@ -93,5 +96,7 @@ const char ON[] = "true";
 const char OFF[] = "false";
 
 } // namespace XmlName
+
+} // namespace Formats
 
 #endif

@@ -15,6 +15,9 @@
 
 #include "InputFile.h"
 
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -107,3 +110,5 @@ Lock::~Lock()
 }
 
 } // namespace FileSteps
+
+} // namespace Provisioning

@@ -4,6 +4,9 @@
 #include <QByteArray>
 #include <QString>
 
+namespace Provisioning
+{
+
 /*
  * File operations for replacing a set of files safely. On failure the functions return false and
  * set `problem` to the system's error message.
@@ -43,5 +46,7 @@ private:
 };
 
 } // namespace FileSteps
+
+} // namespace Provisioning
 
 #endif

@@ -1,5 +1,8 @@
 #include "ProviderChoice.h"
 
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -164,3 +167,5 @@ bool isSameProviderName(const QString &a, const QString &b)
     const QString letters = comparable(a);
     return !letters.isEmpty() && letters == comparable(b);
 }
+
+} // namespace Provisioning

@@ -3,6 +3,9 @@
 
 #include "ProviderDatabase.h"
 
+namespace Provisioning
+{
+
 /*
  * Finds the operator of a SIM card. A network code alone may lead to several candidates, because
  * operators share networks. A program uses it like this:
@@ -49,5 +52,7 @@ QString networkOfImsi(const ProviderDatabase &database, const QString &imsi);
 
 /// Returns whether two names are equal, ignoring case, accents, blanks and punctuation.
 bool isSameProviderName(const QString &a, const QString &b);
+
+} // namespace Provisioning
 
 #endif

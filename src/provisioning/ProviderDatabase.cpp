@@ -4,6 +4,9 @@
 
 #include "InputFile.h"
 
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -274,3 +277,5 @@ QString installedProviderDatabase()
 {
     return QLatin1String("/usr/share/mobile-broadband-provider-info/serviceproviders.xml");
 }
+
+} // namespace Provisioning

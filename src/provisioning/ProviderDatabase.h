@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Provisioning
+{
+
 /*
  * Reads the database of mobile operators in the format of mobile-broadband-provider-info (format
  * 2.0) into plain values. The functions have no state and may be called on any thread.
@@ -72,5 +75,7 @@ ProviderDatabase readProviderDatabaseFile(const QString &path);
 
 /// Returns the path of the database in Debian's package.
 QString installedProviderDatabase();
+
+} // namespace Provisioning
 
 #endif

@@ -11,6 +11,11 @@
 #include "UssdTemplate.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -366,3 +371,5 @@ ProvisionFiles provisionFiles(const ProvisionPlan &plan, const QByteArray &shipp
     files.profiles = profilesOf(plan);
     return files;
 }
+
+} // namespace Provisioning

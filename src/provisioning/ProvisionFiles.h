@@ -3,6 +3,9 @@
 
 #include "ProvisionPlan.h"
 
+namespace Provisioning
+{
+
 /** The contents of the plug-in's two files for an operator. */
 struct ProvisionFiles {
     QByteArray configuration;
@@ -13,5 +16,7 @@ struct ProvisionFiles {
 /// Generates the files for a plan. `shipped` is the content of the configuration installed with the
 /// plug-in, which provides colours, sizes and switches. Codes are taken from the plan only.
 ProvisionFiles provisionFiles(const ProvisionPlan &plan, const QByteArray &shipped);
+
+} // namespace Provisioning
 
 #endif

@@ -3,6 +3,11 @@
 #include "UssdCode.h"
 #include "UssdTemplate.h"
 
+using namespace Formats;
+
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -216,3 +221,5 @@ ProvisionPlan provisionPlan(const Provider &provider, const QString &network)
 {
     return Planner(provider, network).plan();
 }
+
+} // namespace Provisioning

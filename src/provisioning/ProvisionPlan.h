@@ -4,6 +4,9 @@
 #include "ProviderDatabase.h"
 #include "USSDProfile.h"
 
+namespace Provisioning
+{
+
 /** A short message to be offered in the services window. */
 struct PlannedMessage {
     QString textKey; // of the service's name; a text that is not a key is shown unchanged
@@ -20,7 +23,7 @@ struct ProvisionPlan {
     QString balance; // code; empty when the operator has none
     QString topUp;   // code with "%s"; empty when the operator has none
     QString ownNumber;
-    QList<USSDProfile> profiles; // in the order of the profiles file
+    QList<Formats::USSDProfile> profiles; // in the order of the profiles file
     QList<PlannedMessage> messages;
     QStringList imsiPrefixes; // in ascending order
     QStringList notes;        // describe codes that the plug-in cannot use, in English
@@ -33,5 +36,7 @@ struct ProvisionPlan {
 /// code becomes a profile. `network` is the MCC and MNC of the SIM. It becomes an IMSI prefix even
 /// if the database does not list it for the operator.
 ProvisionPlan provisionPlan(const Provider &provider, const QString &network = QString());
+
+} // namespace Provisioning
 
 #endif

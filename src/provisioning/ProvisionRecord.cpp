@@ -4,6 +4,9 @@
 #include <QList>
 #include <QUrl>
 
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -74,3 +77,5 @@ QString provisionRecordName()
 {
     return QLatin1String("provisioned.txt");
 }
+
+} // namespace Provisioning

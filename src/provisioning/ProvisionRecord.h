@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Provisioning
+{
+
 /**
  * The record of the files written into a folder and of the operator they belong to. It is stored
  * beside the files, so that later changes by hand can be detected.
@@ -27,5 +30,7 @@ QByteArray provisionChecksum(const QByteArray &content);
 
 /// Returns the name of the record's file.
 QString provisionRecordName();
+
+} // namespace Provisioning
 
 #endif

@@ -6,6 +6,11 @@
 #include "FileSteps.h"
 #include "PluginFiles.h"
 
+using namespace Formats;
+
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -334,3 +339,5 @@ QString operatorFolder(const QString &operators, const QString &network)
 {
     return operators + QLatin1Char('/') + network;
 }
+
+} // namespace Provisioning

@@ -7,6 +7,9 @@
 #include "ProvisionFiles.h"
 #include "ProvisionRecord.h"
 
+namespace Provisioning
+{
+
 /*
  * Writes the folder of an operator, which GetPluginLibraryPath() has to return for the operator's
  * SIM cards.
@@ -73,5 +76,7 @@ ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan
 QString operatorsFolder();
 /// Returns the operator folder for a network code. `network` may be any name without a separator.
 QString operatorFolder(const QString &operators, const QString &network);
+
+} // namespace Provisioning
 
 #endif

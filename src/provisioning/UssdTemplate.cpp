@@ -2,6 +2,11 @@
 
 #include "UssdCode.h"
 
+using namespace Formats;
+
+namespace Provisioning
+{
+
 namespace
 {
 
@@ -54,3 +59,5 @@ UssdTemplate ussdTemplate(const ProviderCode &code)
     sample.replace(code.replacement, QLatin1String("0"));
     return checked(result, sample, code.code);
 }
+
+} // namespace Provisioning

@@ -3,6 +3,9 @@
 
 #include "ProviderDatabase.h"
 
+namespace Provisioning
+{
+
 /** A code of the database, converted to the plug-in's format. */
 struct UssdTemplate {
     QString code;            // contains "%s" in place of the user's input; empty if not usable
@@ -13,5 +16,7 @@ struct UssdTemplate {
 /// Converts "*103*CODE#" with the replacement "CODE" to "*103*%s#". Only the text of the
 /// replacement attribute is replaced; a code without this attribute takes no input.
 UssdTemplate ussdTemplate(const ProviderCode &code);
+
+} // namespace Provisioning
 
 #endif

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+namespace Tools
+{
+
 namespace
 {
 
@@ -159,3 +162,5 @@ QString jsonString(const QString &text)
     }
     return result + QLatin1Char('"');
 }
+
+} // namespace Tools

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Tools
+{
+
 /** A place in a file that may not have the effect that its author expects. */
 struct CheckFinding {
     qint64 line = 0;   // counts from 1; 0 stands for the whole file
@@ -43,5 +46,7 @@ QString reportsJson(const QList<CheckReport> &reports);
 /// Returns the text as a JSON string with its quotation marks. All characters except printable
 /// ASCII are escaped.
 QString jsonString(const QString &text);
+
+} // namespace Tools
 
 #endif

@@ -3,6 +3,9 @@
 #include "FileCheck.h"
 #include "TerminalText.h"
 
+namespace Tools
+{
+
 namespace
 {
 
@@ -82,3 +85,5 @@ int runConfigTool(const QStringList &words)
     const QString complaint = complaintAbout(arguments);
     return complaint.isEmpty() ? check(arguments) : usage(complaint);
 }
+
+} // namespace Tools

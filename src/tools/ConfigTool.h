@@ -3,7 +3,12 @@
 
 #include "ToolArguments.h"
 
+namespace Tools
+{
+
 /// Runs the program ussd-config, which checks files and prints its findings. Returns a ToolExit.
 int runConfigTool(const QStringList &words);
+
+} // namespace Tools
 
 #endif

@@ -12,6 +12,11 @@
 #include "UssdCode.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -591,3 +596,5 @@ QList<CheckTable> configurationTables(const QByteArray &xml)
                                << paidTable(config, 1, XmlName::POSTPAID) << looksTable(config)
                                << simTable(config.autoUSSD);
 }
+
+} // namespace Tools

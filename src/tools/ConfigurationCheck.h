@@ -4,10 +4,15 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
+namespace Tools
+{
+
 /// Checks how the plug-in's forward scan reads all sections except SMSUSSD. Adds findings.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 
 /// Returns tables of the values that the plug-in's own reader gets from the configuration.
 QList<CheckTable> configurationTables(const QByteArray &xml);
+
+} // namespace Tools
 
 #endif

@@ -4,6 +4,11 @@
 #include "UssdCode.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -133,3 +138,5 @@ QString likelyName(const QString &name, const QStringList &known)
     }
     return best;
 }
+
+} // namespace Tools

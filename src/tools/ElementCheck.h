@@ -4,6 +4,9 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
+namespace Tools
+{
+
 /** Checks single values and adds findings at the elements that contain them. */
 class ElementCheck
 {
@@ -47,5 +50,7 @@ private:
 
 /// Returns the name in `known` that is most similar to `name`; empty when none is similar enough.
 QString likelyName(const QString &name, const QStringList &known);
+
+} // namespace Tools
 
 #endif

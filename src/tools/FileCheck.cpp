@@ -10,6 +10,11 @@
 #include "ScenarioCheck.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -151,3 +156,5 @@ CheckReport checkFile(const QString &path)
         return checkContent(content, path);
     return report;
 }
+
+} // namespace Tools

@@ -5,10 +5,15 @@
 
 #include "CheckReport.h"
 
+namespace Tools
+{
+
 /// Checks how the plug-in, or the simulated network, reads the content of a file. The kind of file
 /// is recognised by the content. `file` is the name for the report.
 CheckReport checkContent(const QByteArray &content, const QString &file);
 /// Reads a file and checks its content. A file that cannot be read gives a report with an error.
 CheckReport checkFile(const QString &path);
+
+} // namespace Tools
 
 #endif

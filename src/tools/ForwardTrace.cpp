@@ -1,5 +1,8 @@
 #include "ForwardTrace.h"
 
+namespace Tools
+{
+
 int ForwardTrace::seek(const char *name)
 {
     const int count = m_elements.list.count();
@@ -27,3 +30,5 @@ int ForwardTrace::passed(const char *name) const
     }
     return -1;
 }
+
+} // namespace Tools

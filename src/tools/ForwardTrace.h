@@ -3,6 +3,9 @@
 
 #include "XmlElements.h"
 
+namespace Tools
+{
+
 /**
  * Traverses a document in the same way as the plug-in's forward scan, and keeps track of the
  * position. The scan finds the next element with a name at any depth. After the text of an element
@@ -27,5 +30,7 @@ private:
     int m_next = 0;
     int m_current = -1;
 };
+
+} // namespace Tools
 
 #endif

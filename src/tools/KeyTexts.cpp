@@ -6,6 +6,9 @@
 
 #include "Languages.h"
 
+namespace Tools
+{
+
 namespace
 {
 
@@ -57,3 +60,5 @@ QStringList KeyTexts::languagesWithout(const QString &key)
     }
     return missing;
 }
+
+} // namespace Tools

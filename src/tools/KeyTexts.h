@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Tools
+{
+
 /** Looks up the plug-in's texts in the installed language files. */
 namespace KeyTexts
 {
@@ -13,5 +16,7 @@ namespace KeyTexts
 QStringList languagesWithout(const QString &key);
 
 } // namespace KeyTexts
+
+} // namespace Tools
 
 #endif

@@ -7,6 +7,11 @@
 #include "SmsLayout.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -165,3 +170,5 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
     }
     report.tables << servicesTable(layout);
 }
+
+} // namespace Tools

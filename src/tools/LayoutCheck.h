@@ -4,8 +4,13 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
+namespace Tools
+{
+
 /// Checks the SMSUSSD section: the complaints of the plug-in's reader, the keys and the commands.
 /// Adds findings and tables.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
+
+} // namespace Tools
 
 #endif

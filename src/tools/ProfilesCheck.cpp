@@ -8,6 +8,11 @@
 #include "UssdCode.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -175,3 +180,5 @@ void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckRepo
     checkButtons(check, items);
     report.tables << table(readAll(xml));
 }
+
+} // namespace Tools

@@ -4,7 +4,12 @@
 #include "CheckReport.h"
 #include "XmlElements.h"
 
+namespace Tools
+{
+
 /// Checks how the plug-in reads a file of profiles. Adds findings and the table.
 void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
+
+} // namespace Tools
 
 #endif

@@ -10,6 +10,12 @@
 #include "ProvisionWriter.h"
 #include "TerminalText.h"
 
+using namespace Formats;
+using namespace Provisioning;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -250,3 +256,5 @@ int runProvisionTool(const QStringList &words)
     printComplaints(path, database);
     return arguments.has("--list") ? printList(arguments, database) : choose(arguments, database);
 }
+
+} // namespace Tools

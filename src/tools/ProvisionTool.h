@@ -3,8 +3,13 @@
 
 #include "ToolArguments.h"
 
+namespace Tools
+{
+
 /// Runs the program ussd-provision, which lists operators or writes the folder of one. Returns a
 /// ToolExit.
 int runProvisionTool(const QStringList &words);
+
+} // namespace Tools
 
 #endif

@@ -2,6 +2,9 @@
 
 #include "sim/ScenarioReader.h"
 
+namespace Tools
+{
+
 namespace
 {
 
@@ -45,3 +48,5 @@ void checkScenario(const QByteArray &content, CheckReport &report)
         return;
     report.tables << networkTable(*result.scenario) << codesTable(*result.scenario);
 }
+
+} // namespace Tools

@@ -5,7 +5,12 @@
 
 #include "CheckReport.h"
 
+namespace Tools
+{
+
 /// Checks how the simulated network reads a scenario file. Adds findings and the table.
 void checkScenario(const QByteArray &content, CheckReport &report);
+
+} // namespace Tools
 
 #endif

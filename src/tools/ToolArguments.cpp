@@ -2,6 +2,9 @@
 
 #include <clocale>
 
+namespace Tools
+{
+
 namespace
 {
 
@@ -96,3 +99,5 @@ QStringList startTool(int argc, char **argv)
         words << QString::fromLocal8Bit(argv[i]);
     return words;
 }
+
+} // namespace Tools

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Tools
+{
+
 /** A parsed command line. */
 struct ToolArguments {
     QMap<QString, QString> options; // values by "--name"; empty for a switch
@@ -31,5 +34,7 @@ enum ToolExit {
     TOOL_CHOOSE = 3, // several operators match, and the user has to choose one
     TOOL_REFUSED = 4 // files edited by hand would be replaced
 };
+
+} // namespace Tools
 
 #endif

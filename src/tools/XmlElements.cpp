@@ -5,6 +5,11 @@
 
 #include "ForwardXml.h"
 
+using namespace Formats;
+
+namespace Tools
+{
+
 namespace
 {
 
@@ -119,3 +124,5 @@ XmlElements readXmlElements(const QByteArray &xml)
 {
     return Reader(xml).read();
 }
+
+} // namespace Tools

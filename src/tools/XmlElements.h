@@ -6,6 +6,9 @@
 #include <QString>
 #include <QXmlStreamAttributes>
 
+namespace Tools
+{
+
 /** An element of a document and its position. */
 struct XmlElement {
     QString name;
@@ -40,5 +43,7 @@ struct XmlElements {
 };
 
 XmlElements readXmlElements(const QByteArray &xml);
+
+} // namespace Tools
 
 #endif

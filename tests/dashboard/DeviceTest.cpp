@@ -9,6 +9,8 @@
 #include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -25,8 +25,8 @@ protected:
     static TKSV_DeviceInfo modemInfo(int state, int problem = 0, int pinRetries = -1);
     static TKSV_Modem modem(const char *equipmentId, const char *name, bool isInUse = false);
 
-    MainWindow &window() { return *m_window; }
-    DashboardSettings &settings() { return *m_settings; }
+    Dashboard::MainWindow &window() { return *m_window; }
+    Dashboard::DashboardSettings &settings() { return *m_settings; }
     /// Loads the plug-in into the page.
     void loadPlugin();
     template <typename T>
@@ -39,9 +39,9 @@ protected:
     QString notice(const char *name) const;
 
 private:
-    QScopedPointer<DashboardSettings> m_settings;
-    QScopedPointer<UiPlugin> m_plugin;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<Dashboard::DashboardSettings> m_settings;
+    QScopedPointer<Dashboard::UiPlugin> m_plugin;
+    QScopedPointer<Dashboard::MainWindow> m_window;
 };
 
 #endif

@@ -5,6 +5,8 @@
 #include "HostState.h"
 #include "Languages.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -27,9 +27,9 @@ protected:
     /// Selects a simulated network with this IMSI, these keys of [Network] and these codes.
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 
-    MainWindow &window() { return *m_window; }
-    UiPlugin &plugin() { return *m_plugin; }
-    GeneralWindow page() const { return GeneralWindow(m_window->page()); }
+    Dashboard::MainWindow &window() { return *m_window; }
+    Dashboard::UiPlugin &plugin() { return *m_plugin; }
+    Dashboard::GeneralWindow page() const { return Dashboard::GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
     /// Returns the windows whose buttons are visible, such as "general prepaid".
     QString offered() const;
@@ -37,11 +37,11 @@ protected:
     /// Returns the open frame of the plug-in, or null.
     static QWidget *frame();
 
-    QScopedPointer<PrivateLibrary> m_library;
+    QScopedPointer<Dashboard::PrivateLibrary> m_library;
 
 private:
-    QScopedPointer<UiPlugin> m_plugin;
-    QScopedPointer<MainWindow> m_window;
+    QScopedPointer<Dashboard::UiPlugin> m_plugin;
+    QScopedPointer<Dashboard::MainWindow> m_window;
 };
 
 #endif

@@ -1,6 +1,8 @@
 #include "Arguments.h"
 #include "UssdTest.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

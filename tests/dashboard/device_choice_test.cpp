@@ -3,6 +3,8 @@
 #include "Languages.h"
 #include "window/DeviceMenu.h"
 
+using namespace Dashboard;
+
 /** Tests the menu of devices and the texts about their problems. */
 class DeviceChoiceTest : public DeviceTest
 {

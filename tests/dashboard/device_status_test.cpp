@@ -10,6 +10,8 @@
 
 #include <QLabel>
 
+using namespace Dashboard;
+
 namespace
 {
 

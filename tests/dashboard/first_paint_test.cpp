@@ -5,6 +5,8 @@
 
 #include "FirstPaint.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -11,6 +11,8 @@
 #include "plugin/UiPlugin.h"
 #include "UssdTest.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -19,6 +19,8 @@
 #include "window/MainWindow.h"
 #include "window/NoticeBar.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -8,6 +8,8 @@
 #include "sim/PaidTypeFinder.h"
 #include "window/NetworkTextPanel.h"
 
+using namespace Dashboard;
+
 /** Tests how the dashboard shows messages that the network sends on its own initiative. */
 class NetworkTextTest : public DeviceTest
 {

@@ -15,6 +15,8 @@
 #include "Program.h"
 #include "window/MainWindow.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

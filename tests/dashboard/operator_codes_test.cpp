@@ -12,6 +12,8 @@
 #include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -6,6 +6,8 @@
 #include "SimTest.h"
 #include "Startup.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 #include "DeviceTest.h"
 #include "window/PinDialog.h"
 
+using namespace Dashboard;
+
 /** Tests entering the PIN of a locked SIM, from the button to the device. */
 class PinDialogTest : public DeviceTest
 {

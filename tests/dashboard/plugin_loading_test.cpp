@@ -6,6 +6,8 @@
 #include "plugin/UiPlugin.h"
 #include "UssdTest.h"
 
+using namespace Dashboard;
+
 Q_DECLARE_METATYPE(PluginFailure::Step)
 
 namespace

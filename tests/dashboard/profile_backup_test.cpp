@@ -11,6 +11,8 @@
 #include "SimTest.h"
 #include "window/ProfileKeeper.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

@@ -5,6 +5,8 @@
 #include "device/DashboardSettings.h"
 #include "UssdTest.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

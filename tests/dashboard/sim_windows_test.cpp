@@ -4,6 +4,8 @@
 #include "sim/SimWindows.h"
 #include "SimTest.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

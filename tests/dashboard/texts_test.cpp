@@ -6,6 +6,8 @@
 #include "Languages.h"
 #include "UssdTest.h"
 
+using namespace Dashboard;
+
 /** Tests that every key has a text. Keys are searched in all string literals, including tables. */
 class TextsTest : public UssdTest
 {

@@ -22,6 +22,8 @@
 #include "window/MainWindow.h"
 #include "window/NoticeBar.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

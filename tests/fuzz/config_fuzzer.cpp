@@ -8,6 +8,8 @@
 
 #include "requests/USSDLogic.h"
 
+using namespace Formats;
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 
 #include "SmsLayout.h"
 
+using namespace Formats;
+
 namespace
 {
 

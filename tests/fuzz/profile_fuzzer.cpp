@@ -8,6 +8,8 @@
 
 #include "profiles/USSDEditCmd.h"
 
+using namespace Formats;
+
 namespace
 {
 

@@ -17,6 +17,9 @@
 #include "UssdCode.h"
 #include "UssdTemplate.h"
 
+using namespace Formats;
+using namespace Provisioning;
+
 namespace
 {
 

@@ -12,6 +12,8 @@
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
 
+using namespace Formats;
+
 namespace
 {
 

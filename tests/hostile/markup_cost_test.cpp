@@ -9,6 +9,8 @@
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
 
+using namespace Formats;
+
 namespace
 {
 

@@ -11,6 +11,8 @@
 #include "SimTest.h"
 #include "tksv_device.h"
 
+using namespace Dashboard;
+
 using modem::Fault;
 using modem::Misbehaviour;
 using modem::SubmittedSms;

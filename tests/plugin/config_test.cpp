@@ -8,6 +8,8 @@
 #include "requests/USSDLogic.h"
 #include "windows/USSDSMSDlg.h"
 
+using namespace Formats;
+
 namespace
 {
 

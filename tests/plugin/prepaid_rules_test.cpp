@@ -6,6 +6,8 @@
 #include "windows/OnlineLink.h"
 #include "windows/PrePostVerdict.h"
 
+using namespace Formats;
+
 namespace
 {
 

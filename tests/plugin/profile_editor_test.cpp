@@ -22,6 +22,8 @@
 #include "windows/USSDGeneralDlg.h"
 #include "windows/USSDService.h"
 
+using namespace Formats;
+
 /** Tests the profile editor, alone and opened by the general dialog's button. */
 class ProfileEditorTest : public PluginTest
 {

@@ -2,6 +2,8 @@
 
 #include "profiles/ProfileRows.h"
 
+using namespace Formats;
+
 /** Tests how the rows of the profile editor's table become profiles. */
 class ProfileRowsTest : public UssdTest
 {

@@ -21,6 +21,8 @@
 #include "requests/USSDLogic.h"
 #include "tksv.h"
 
+using namespace Formats;
+
 namespace
 {
 

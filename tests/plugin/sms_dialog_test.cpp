@@ -21,6 +21,8 @@
 #include "windows/USSDService.h"
 #include "windows/USSDSMSDlg.h"
 
+using namespace Formats;
+
 /** Tests the USSD-SMS dialog in a frame by keys and clicks. The network is silent by default. */
 class SmsDialogTest : public PluginTest
 {

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <QXmlStreamReader>
 
+using namespace Formats;
+
 /** Tests the reader of the USSD-SMS dialog's section with valid and malicious files. */
 class SmsLayoutTest : public UssdTest
 {

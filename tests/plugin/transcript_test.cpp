@@ -15,6 +15,8 @@
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
 
+using namespace Formats;
+
 using Transcript::Received;
 using Transcript::Sent;
 

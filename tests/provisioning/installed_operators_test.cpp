@@ -11,6 +11,9 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
+using namespace Formats;
+using namespace Provisioning;
+
 /// Tests that the plug-in's own code reads the files of every operator in the installed database.
 class InstalledOperatorsTest : public PluginTest
 {

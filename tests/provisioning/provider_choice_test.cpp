@@ -1,6 +1,8 @@
 #include "ProviderChoice.h"
 #include "UssdTest.h"
 
+using namespace Provisioning;
+
 /// Tests which operators are chosen and which are only candidates.
 class ProviderChoiceTest : public UssdTest
 {

@@ -2,6 +2,8 @@
 #include "ProviderDatabase.h"
 #include "UssdTest.h"
 
+using namespace Provisioning;
+
 /// Tests reading valid, broken and malicious databases.
 class ProviderDatabaseTest : public UssdTest
 {

@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
+using namespace Formats;
+using namespace Provisioning;
+
 /// Tests where an operator's codes are placed, and the files generated from them.
 class ProvisionPlanTest : public UssdTest
 {

@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Provisioning;
+
 /// Tests that no file created or changed by hand is lost, whenever the program is killed.
 class ProvisionWriterTest : public UssdTest
 {

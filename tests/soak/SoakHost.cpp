@@ -19,6 +19,8 @@
 #include "tksv_device.h"
 #include "windows/USSDService.h"
 
+using namespace Dashboard;
+
 namespace
 {
 

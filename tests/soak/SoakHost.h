@@ -70,8 +70,8 @@ private:
 
     const SoakLoad m_load;
     QTemporaryDir m_folder;
-    PluginContainer m_container;
-    NotificationService m_notifications;
+    Dashboard::PluginContainer m_container;
+    Dashboard::NotificationService m_notifications;
     QWidget m_window; // the host's main window
     QTimer m_pulse;
     bool m_isReady;

@@ -12,6 +12,10 @@
 #include <QRandomGenerator>
 #include <QXmlStreamReader>
 
+using namespace Formats;
+using namespace Provisioning;
+using namespace Tools;
+
 /// Tests the findings for valid, mistaken, broken and malicious files.
 class ConfigCheckTest : public UssdTest
 {

@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QProcess>
 
+using namespace Tools;
+
 /// Tests the output and the exit code of ussd-config.
 class ConfigToolTest : public UssdTest
 {

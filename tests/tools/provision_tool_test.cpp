@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QProcess>
 
+using namespace Tools;
+
 /// Tests the output, the files and the exit code of ussd-provision.
 class ProvisionToolTest : public UssdTest
 {

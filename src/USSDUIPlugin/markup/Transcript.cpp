@@ -5,6 +5,8 @@
 #include "PluginConfig.h"
 #include "QtCompat.h"
 
+using namespace Formats;
+
 namespace
 {
 

@@ -1,5 +1,7 @@
 #include "ProfileRows.h"
 
+using namespace Formats;
+
 namespace
 {
 

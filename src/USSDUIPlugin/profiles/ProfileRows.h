@@ -25,14 +25,15 @@ struct Row {
 /// profile. A row whose code has been emptied is left out, and so is a new row without a code,
 /// because there is nothing to send. A profile without a code or a name stays unchanged unless its
 /// row is edited. Profiles beyond the last row are kept.
-QList<USSDProfile> profiles(const QList<Row> &rows, const QList<USSDProfile> &shown);
+QList<Formats::USSDProfile> profiles(const QList<Row> &rows,
+                                     const QList<Formats::USSDProfile> &shown);
 
 /// Returns the profiles of the system file if `isSystem` is true, otherwise those of the user file,
 /// in order.
-QList<USSDProfile> ofFile(const QList<USSDProfile> &profiles, bool isSystem);
+QList<Formats::USSDProfile> ofFile(const QList<Formats::USSDProfile> &profiles, bool isSystem);
 
 /// Returns true if the number of profiles, or any name or code, differs.
-bool differ(const QList<USSDProfile> &a, const QList<USSDProfile> &b);
+bool differ(const QList<Formats::USSDProfile> &a, const QList<Formats::USSDProfile> &b);
 
 } // namespace ProfileRows
 

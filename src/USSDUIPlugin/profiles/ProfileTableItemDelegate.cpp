@@ -7,6 +7,8 @@
 #include "ProfileRows.h"
 #include "UssdCode.h"
 
+using namespace Formats;
+
 namespace
 {
 

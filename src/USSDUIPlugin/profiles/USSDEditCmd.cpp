@@ -17,6 +17,8 @@
 #include "tksv.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
 namespace

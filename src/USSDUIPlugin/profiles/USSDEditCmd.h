@@ -50,7 +50,7 @@ public:
     /// Replaces the list by the profiles of both files.
     void load();
     /// Replaces `list` by all profiles, in order.
-    void GetProfileList(QList<USSDProfile> &list);
+    void GetProfileList(QList<Formats::USSDProfile> &list);
     /// Writes the system profiles or the user profiles to their file. The old file is deleted
     /// first, on purpose, so a failure leaves no file.
     int saveToXMLFile(bool isSystem);
@@ -79,10 +79,10 @@ private:
     void initTable();
     void initHeader();
     void clearTable();
-    void showProfile(int row, const USSDProfile &profile);
+    void showProfile(int row, const Formats::USSDProfile &profile);
     /// Sets `list` to the profiles in the table, and `changed` to true if they differ from the
     /// current ones.
-    void readTableProfiles(QList<USSDProfile> &list, bool &changed);
+    void readTableProfiles(QList<Formats::USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
     QString savedText(int row, int column) const;
     bool isDuplicate(int row, int column) const;
@@ -101,8 +101,8 @@ private:
         bool losesChanges; // true if a file with changes cannot be written
         QStringList refusals;
     };
-    SavePlan planSaving(const QList<USSDProfile> &newList);
-    bool planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan);
+    SavePlan planSaving(const QList<Formats::USSDProfile> &newList);
+    bool planFile(bool isSystem, const QList<Formats::USSDProfile> &newList, SavePlan &plan);
     void saveAsPlanned(SavePlan &plan);
     void saveFile(bool isSystem, SavePlan &plan);
     QString fileText(const char *key, bool isSystem);
@@ -117,8 +117,8 @@ private:
     QString movedLegacyFile(const QString &oldPath, const QString &newPath);
     bool makeParentDirectory(const QString &path, bool isSystem);
 
-    QList<USSDProfile> m_listUSSDProfiles;
-    CmdEdit m_cmdEditSetting;
+    QList<Formats::USSDProfile> m_listUSSDProfiles;
+    Formats::CmdEdit m_cmdEditSetting;
     QPointer<USSDLogic> m_pLogic; // not owned
     // This object owns the frame, and the frame owns all other widgets. The host may delete any of
     // them.

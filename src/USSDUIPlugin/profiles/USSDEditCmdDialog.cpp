@@ -14,6 +14,8 @@
 #include "ProfileRows.h"
 #include "ProfileSaveCheck.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 
 namespace

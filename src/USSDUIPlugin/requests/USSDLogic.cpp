@@ -11,6 +11,8 @@
 #include "SdkRecords.h"
 #include "tksv.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
 namespace

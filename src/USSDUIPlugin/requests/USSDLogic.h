@@ -56,10 +56,10 @@ class USSDLogic : public QObject
 {
     Q_OBJECT
 public:
-    typedef ConfigMSISDN MSISDN;
-    typedef ConfigOnlineCharge OnlineCharge;
-    typedef ConfigCharge Charge;
-    typedef ConfigBalance Balance;
+    typedef Formats::ConfigMSISDN MSISDN;
+    typedef Formats::ConfigOnlineCharge OnlineCharge;
+    typedef Formats::ConfigCharge Charge;
+    typedef Formats::ConfigBalance Balance;
     typedef unsigned char (*EventCallback)(int event, void *data);
 
     /// The singleton, made on the first call. GUI thread.
@@ -79,10 +79,10 @@ public:
     void loadClearBtnSettings(QXmlStreamReader &reader);
     void loadAutoUssdSettings(QXmlStreamReader &reader);
     /// These three read their section anew; `out` is unchanged when the file cannot be opened.
-    void GetCharSet(_CHAR_SET_COLOR which, Char &out);
-    void GetClearBtnSetting(ClearHistory &out);
-    void GetCmdEditSetting(CmdEdit &out);
-    void GetPrePostDiffer(PrePostDiffer &out);
+    void GetCharSet(_CHAR_SET_COLOR which, Formats::Char &out);
+    void GetClearBtnSetting(Formats::ClearHistory &out);
+    void GetCmdEditSetting(Formats::CmdEdit &out);
+    void GetPrePostDiffer(Formats::PrePostDiffer &out);
     /// -1, or `out` unchanged, for a paid type, component or attribute that has no answer.
     int GetComponentAttrInt(int paidType, int component, int attr);
     void GetComponentAttrStr(int paidType, int component, int attr, QString &out);
@@ -98,7 +98,7 @@ public:
     bool CheckImsiIsValid(QString const &imsi, int &flags);
     bool IsImsiDynamicMatch();
     /// What a profile is called on the screen.
-    QString getProfileShowText(const USSDProfile &profile);
+    QString getProfileShowText(const Formats::USSDProfile &profile);
 
     // ---- requests
     /// Queues a copy of `cmd` and, when nothing is in flight, hands it over. 0 when it was handed
@@ -173,7 +173,7 @@ private:
     static CallbackGate m_gate;
     static ReplyTimes m_replyTimes;
 
-    PluginConfig m_config;
+    Formats::PluginConfig m_config;
 };
 
 #endif

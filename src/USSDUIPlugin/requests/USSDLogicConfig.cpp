@@ -14,6 +14,8 @@
 #include "PluginFiles.h"
 #include "XmlName.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
 
 namespace

@@ -146,8 +146,8 @@ private:
     bool m_bBusy;
     bool m_bReturnDown; // true from a press of Return until its release is seen
     PrePostRecord m_prePostRecord;
-    PrePostDiffer m_prePostDiffer;
-    ChargeRules m_chargeRules;
+    Formats::PrePostDiffer m_prePostDiffer;
+    Formats::ChargeRules m_chargeRules;
     QString m_strOnlineAddress;
     QPointer<USSDLogic> m_pLogic; // not owned
     QGridLayout *m_pGrid;

@@ -19,6 +19,8 @@
 #include "requests/USSDLogic.h"
 #include "tksv.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
 namespace

@@ -84,7 +84,7 @@ private slots:
     void OnClickedEditButton();
 
 private:
-    typedef QList<QPair<QPushButton *, USSDProfile>> PreBtnList;
+    typedef QList<QPair<QPushButton *, Formats::USSDProfile>> PreBtnList;
 
     bool createWidgets();
     void getConfigure();
@@ -139,10 +139,10 @@ private:
     QPushButton *m_pEditButton;
     QPushButton *m_pCloseButton;
     QPointer<USSDLogic> m_pLogic; // not owned
-    QList<USSDProfile> m_listProfiles;
+    QList<Formats::USSDProfile> m_listProfiles;
     PreBtnList *m_pListPreBtns;
-    ClearHistory m_clearBtnSetting;
-    CmdEdit m_cmdEditSetting;
+    Formats::ClearHistory m_clearBtnSetting;
+    Formats::CmdEdit m_cmdEditSetting;
     QLabel *m_pInfoNumLabel;
     QLineEdit *m_pPaymentEdit;
     QString m_strLastValidPayment;

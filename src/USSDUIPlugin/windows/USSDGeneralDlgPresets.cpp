@@ -19,6 +19,8 @@
 #include "QtCompat.h"
 #include "UssdCode.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 
 namespace

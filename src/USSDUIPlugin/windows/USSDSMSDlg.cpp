@@ -21,6 +21,8 @@
 #include "tksv.h"
 #include "UssdCode.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDSMSDlg.cpp");
 
 namespace

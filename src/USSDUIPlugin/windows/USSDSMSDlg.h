@@ -18,12 +18,12 @@ class USSDLogic;
 
 /** The current service: what it sends and the widgets that it uses. */
 struct CCommandWidget {
-    QString command;                   // USSD code, or text of the short message; may contain "%s"
-    QString number;                    // recipient of the short message
-    int minLength = 0;                 // minimum number of characters in the input
-    int limit = 0;                     // maximum number of characters in the input
-    int kind = CONTROL_KIND_NONE;      // an SmsControlKind: how the command is sent
-    QPushButton *sendButton = nullptr; // null, like the next two, if the service has none
+    QString command;   // USSD code, or text of the short message; may contain "%s"
+    QString number;    // recipient of the short message
+    int minLength = 0; // minimum number of characters in the input
+    int limit = 0;     // maximum number of characters in the input
+    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind: how the command is sent
+    QPushButton *sendButton = nullptr;     // null, like the next two, if the service has none
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
@@ -59,7 +59,7 @@ public:
     void SetTreeGeometry();
     /// Shows the service that these controls describe, and keeps a copy of them. Returns false and
     /// changes nothing unless there is one control for each of the fixed widgets.
-    bool SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirrored);
+    bool SetWidgetGeometry(QList<Formats::CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
     /// Sends a short message. Returns 0 if the device accepted the message; OnSendResult() receives
     /// the outcome.
@@ -104,15 +104,15 @@ private:
     void connectWidgets();
     void addRows();
     void translateTree();
-    const CTreeItem *currentEntry() const;
+    const Formats::CTreeItem *currentEntry() const;
 
-    void takeControls(const QList<CWidgetItemInfo *> &controls);
+    void takeControls(const QList<Formats::CWidgetItemInfo *> &controls);
     void takeCommand();
     void placeControls(bool mirrored);
     void translateControls();
     void translateControl(int position);
     int windowWidth() const;
-    void limitInput(const CWidgetItemInfo &control);
+    void limitInput(const Formats::CWidgetItemInfo &control);
     void enableFirstSend();
     void forgetService();
 
@@ -128,7 +128,7 @@ private:
     void showResult(const QString &text);
     void setResultText(const QString &text);
 
-    SmsLayout m_layout;
+    Formats::SmsLayout m_layout;
     QTreeWidget *m_pTree;
     QLabel *m_pInfoLabel;
     QLabel *m_pCaptionLabel;
@@ -138,7 +138,7 @@ private:
     QRegExpValidator *m_pValidator;
     QList<QWidget *> m_listWidgets; // the labels, field and button, in the order of Position
     // Copies of the controls in m_listWidgets, because the group may be replaced meanwhile.
-    QList<CWidgetItemInfo> m_listControls;
+    QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;
     int m_nSelected; // number of the selected entry; -1 if there is none

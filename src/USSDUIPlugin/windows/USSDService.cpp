@@ -10,6 +10,8 @@
 #include "requests/USSDLogic.h"
 #include "SmsLayout.h"
 
+using namespace Formats;
+
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDService.cpp");
 
 namespace

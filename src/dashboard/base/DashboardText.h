@@ -5,10 +5,15 @@
 
 #include "Change.h"
 
+namespace Dashboard
+{
+
 /// Returns the dashboard's text for the key in the current language.
 inline QString dashboardText(const char *key)
 {
     return Change::tr(QLatin1String("Dashboard"), QLatin1String(key));
 }
+
+} // namespace Dashboard
 
 #endif

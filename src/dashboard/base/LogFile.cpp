@@ -12,6 +12,9 @@
 #include "DashboardText.h"
 #include "TerminalText.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -76,3 +79,5 @@ void LogFile::write(const QString &line)
     if (::write(logFile, bytes.constData(), size_t(bytes.size())) != bytes.size())
         logFile = -1; // the disk is full: the program continues without its log
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 /**
  * The log file, which is written only when the user asks for it. Log lines contain codes and
  * replies, so the file is readable by its owner only, and a symbolic link is not followed.
@@ -19,5 +22,7 @@ QString open(const QString &path);
 void write(const QString &line);
 
 } // namespace LogFile
+
+} // namespace Dashboard
 
 #endif

@@ -3,6 +3,9 @@
 #include <QCoreApplication>
 #include <QTimer>
 
+namespace Dashboard
+{
+
 bool waitUntil(const std::function<bool()> &condition, int milliseconds)
 {
     QTimer deadline; // its event also ends the wait below
@@ -15,3 +18,5 @@ bool waitUntil(const std::function<bool()> &condition, int milliseconds)
     }
     return true;
 }
+
+} // namespace Dashboard

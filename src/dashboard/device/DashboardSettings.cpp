@@ -2,6 +2,9 @@
 
 #include <QFile>
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -92,3 +95,5 @@ void DashboardSettings::set(const char *key, const QVariant &value)
 {
     m_settings.setValue(QLatin1String(key), value);
 }
+
+} // namespace Dashboard

@@ -7,6 +7,9 @@
 
 #include "DeviceChoice.h"
 
+namespace Dashboard
+{
+
 /** The settings of the dashboard, in a file that only its owner can read. */
 class DashboardSettings
 {
@@ -39,5 +42,7 @@ private:
 
     QSettings m_settings;
 };
+
+} // namespace Dashboard
 
 #endif

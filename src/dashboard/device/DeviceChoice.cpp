@@ -3,6 +3,9 @@
 #include "Scenarios.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -64,3 +67,5 @@ QString DeviceChoice::use() const
         TKSV_Device_UseAutomatic();
     return QString();
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 /** The user's choice of a device. */
 struct DeviceChoice {
     enum Kind {
@@ -32,5 +35,7 @@ struct DeviceChoice {
     /// returns the error in the scenario file with its line.
     QString use() const;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -6,6 +6,9 @@
 #include "base/DashboardText.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -180,3 +183,5 @@ DeviceStatus readDeviceStatus()
         status.isSimulated ? QFile::decodeName(info.source) : QString::fromUtf8(info.source);
     return status;
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 /** The state of the device as the dashboard shows it, and its texts in the user's language. */
 struct DeviceStatus {
     bool isSimulated = true;
@@ -41,5 +44,7 @@ struct DeviceStatus {
 /// Reads the status from the device SDK without waiting for the device. May be called on any
 /// thread.
 DeviceStatus readDeviceStatus();
+
+} // namespace Dashboard
 
 #endif

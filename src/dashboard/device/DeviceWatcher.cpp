@@ -4,6 +4,9 @@
 
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -63,3 +66,5 @@ unsigned char DeviceWatcher::onDeviceEvent(int event, void *)
         QMetaObject::invokeMethod(watcher, "lost", Qt::QueuedConnection);
     return 0;
 }
+
+} // namespace Dashboard

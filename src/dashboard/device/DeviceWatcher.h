@@ -8,6 +8,9 @@
 #include "DeviceStatus.h"
 #include "Modem.h"
 
+namespace Dashboard
+{
+
 /** The status of the device in use, and the modems that could be used. */
 struct DeviceReading {
     DeviceStatus status;
@@ -49,5 +52,7 @@ private:
     std::function<DeviceReading()> m_source;
     DeviceReading m_reading;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -5,6 +5,9 @@
 #include "base/DashboardText.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -57,3 +60,5 @@ QString modemTitle(const Modem &modem, const QList<Modem> &all)
     return QString::fromUtf8("%1 (…%2)").arg(modem.name, modem.equipmentId.right(TELLING_DIGITS)) +
            LEFT_TO_RIGHT_MARK;
 }
+
+} // namespace Dashboard

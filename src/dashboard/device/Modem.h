@@ -4,6 +4,9 @@
 #include <QList>
 #include <QString>
 
+namespace Dashboard
+{
+
 /** A modem that can be chosen. */
 struct Modem {
     QString equipmentId;
@@ -20,5 +23,7 @@ QList<Modem> readModems();
 /// Returns the modem's name, followed by the last digits of its identifier when another modem in
 /// `all` has the same name.
 QString modemTitle(const Modem &modem, const QList<Modem> &all);
+
+} // namespace Dashboard
 
 #endif

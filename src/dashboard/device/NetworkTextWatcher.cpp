@@ -2,6 +2,9 @@
 
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -38,3 +41,5 @@ void NetworkTextWatcher::tell(const QString &text, qlonglong receivedAt, bool wa
 {
     emit textReceived(text, localTime(receivedAt), waitsForAnswer);
 }
+
+} // namespace Dashboard

@@ -4,6 +4,9 @@
 #include <QDateTime>
 #include <QObject>
 
+namespace Dashboard
+{
+
 /**
  * Emits a signal for each message that the network sends on its own initiative. GUI thread. Only
  * one watcher may exist at a time, because the SDK has one call-back.
@@ -26,5 +29,7 @@ signals:
 private slots:
     void tell(const QString &text, qlonglong receivedAt, bool waitsForAnswer);
 };
+
+} // namespace Dashboard
 
 #endif

@@ -7,6 +7,9 @@
 #include "InstallPaths.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -37,3 +40,5 @@ QString Scenarios::use(const QString &file)
         return QString();
     return message[0] ? QString::fromUtf8(message) : file;
 }
+
+} // namespace Dashboard

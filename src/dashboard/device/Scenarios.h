@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Dashboard
+{
+
 /** The simulated networks. */
 namespace Scenarios
 {
@@ -19,5 +22,7 @@ QString displayName(const QString &file);
 QString use(const QString &file);
 
 } // namespace Scenarios
+
+} // namespace Dashboard
 
 #endif

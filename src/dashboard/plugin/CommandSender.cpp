@@ -6,6 +6,9 @@
 #include "device/DeviceStatus.h"
 #include "TerminalText.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -85,3 +88,5 @@ void sayWhyNotReady(const DeviceStatus &device)
     if (!device.adviceText().isEmpty())
         HostCore::printErrorLine(device.adviceText());
 }
+
+} // namespace Dashboard

@@ -6,6 +6,9 @@
 #include "GeneralWindow.h"
 #include "ReplyTap.h"
 
+namespace Dashboard
+{
+
 struct DeviceStatus;
 
 /**
@@ -38,5 +41,7 @@ private:
 /// Prints to standard error why the device cannot be used and what to do about it. Prints nothing
 /// when the device can be used.
 void sayWhyNotReady(const DeviceStatus &device);
+
+} // namespace Dashboard
 
 #endif

@@ -7,6 +7,9 @@
 #include "Change.h"
 #include "ExtendDialog.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -98,3 +101,5 @@ QString GeneralWindow::lastReceived() const
     text.remove(QChar(0x200e)); // the left-to-right mark after the caption
     return text.trimmed();
 }
+
+} // namespace Dashboard

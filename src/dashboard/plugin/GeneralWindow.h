@@ -7,6 +7,9 @@
 #include <QString>
 #include <QTextEdit>
 
+namespace Dashboard
+{
+
 /// Replaces the text of the entry field as if the user had typed it.
 void typeInto(QLineEdit *edit, const QString &text);
 
@@ -52,5 +55,7 @@ private:
     QPointer<QPushButton> m_closeButton;
     QPointer<QTextEdit> m_history;
 };
+
+} // namespace Dashboard
 
 #endif

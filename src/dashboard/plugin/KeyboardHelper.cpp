@@ -7,6 +7,9 @@
 
 #include "GeneralWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -63,3 +66,5 @@ bool KeyboardHelper::pressSend(const QLineEdit *edit)
     }
     return false;
 }
+
+} // namespace Dashboard

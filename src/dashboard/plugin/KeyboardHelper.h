@@ -5,6 +5,9 @@
 
 class QLineEdit;
 
+namespace Dashboard
+{
+
 /**
  * Makes the plug-in's general window usable by keyboard alone, embedded or in a frame. Return in
  * the command edit presses Send. The command edit gets the focus when the window appears and when
@@ -22,5 +25,7 @@ public:
 private:
     static bool pressSend(const QLineEdit *edit);
 };
+
+} // namespace Dashboard
 
 #endif

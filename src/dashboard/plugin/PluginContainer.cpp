@@ -4,6 +4,9 @@
 
 #include "HostState.h"
 
+namespace Dashboard
+{
+
 PluginContainer::PluginContainer()
 {
     HostCore::HostState::setPluginContainer(this);
@@ -24,3 +27,5 @@ QObject *PluginContainer::GetPlugin(const QString &clsid)
 {
     return m_plugins.value(clsid);
 }
+
+} // namespace Dashboard

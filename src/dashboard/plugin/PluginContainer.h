@@ -6,6 +6,9 @@
 
 #include "IPluginContainer.h"
 
+namespace Dashboard
+{
+
 /**
  * The objects that the dashboard offers to its plug-ins, by their identifiers. The container
  * registers itself with the core library while it exists; only one may exist at a time. GUI
@@ -26,5 +29,7 @@ public:
 private:
     QHash<QString, QPointer<QObject>> m_plugins;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -2,6 +2,9 @@
 
 #include "base/DashboardText.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -25,3 +28,5 @@ QString PluginFailure::text() const
         return text.arg(file, detail);
     return text.contains(QLatin1String("%1")) ? text.arg(file) : text;
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 /** The reason why a plug-in could not be used: the step that failed, and details about it. */
 struct PluginFailure {
     enum Step {
@@ -23,5 +26,7 @@ struct PluginFailure {
     /// Returns the error message in the user's language; empty for None.
     QString text() const;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -9,6 +9,11 @@
 #include "InstallPaths.h"
 #include "PluginFiles.h"
 
+using namespace Formats;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -109,3 +114,5 @@ bool PrivateLibrary::write(const QString &name, const QByteArray &content)
 {
     return writeFile(fileName(name), content);
 }
+
+} // namespace Dashboard

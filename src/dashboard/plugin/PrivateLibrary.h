@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace Dashboard
+{
+
 /**
  * A temporary plug-in library folder with copies of the installed files that can be changed. While
  * it exists, $USSD_PLUGIN_LIBRARY_PATH is set to the folder and $TKSV_USER_DATA to a folder in it,
@@ -42,5 +45,7 @@ private:
     QByteArray m_oldUserData;
     bool m_isValid = false;
 };
+
+} // namespace Dashboard
 
 #endif

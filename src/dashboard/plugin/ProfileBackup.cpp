@@ -12,6 +12,9 @@
 #include "InputFile.h"
 #include "tksv.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -147,3 +150,5 @@ QDateTime ProfileBackup::time() const
 {
     return QFileInfo(m_copy).lastModified();
 }
+
+} // namespace Dashboard

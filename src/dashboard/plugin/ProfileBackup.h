@@ -4,6 +4,9 @@
 #include <QDateTime>
 #include <QString>
 
+namespace Dashboard
+{
+
 /**
  * The backup copy of the user's own codes. The plug-in deletes the file of codes before it writes
  * it again, so a full disk or a crash at that moment loses all codes or leaves half a file.
@@ -45,5 +48,7 @@ private:
     QString m_legacyFile;
     QString m_copy;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -8,6 +8,9 @@
 
 #include "tksv.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -72,3 +75,5 @@ void ReplyTap::keep(const Reply &reply)
     // waitUntil() checks its condition after each event, so an event wakes the waiting code.
     QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
 }
+
+} // namespace Dashboard

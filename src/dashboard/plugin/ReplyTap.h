@@ -4,6 +4,9 @@
 #include <QMutex>
 #include <QString>
 
+namespace Dashboard
+{
+
 /** A reply of the network, exactly as the device delivered it. */
 struct Reply {
     QString text;               // empty when the network rejected the code or the device failed
@@ -39,5 +42,7 @@ private:
     mutable QMutex m_mutex; // guards the reply
     Reply m_reply;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -11,6 +11,11 @@
 #include "PluginContract.h"
 #include "PluginFiles.h"
 
+using namespace Formats;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -141,3 +146,5 @@ void UiPlugin::shutDown()
     m_ussd = nullptr;
     delete m_instance.data();
 }
+
+} // namespace Dashboard

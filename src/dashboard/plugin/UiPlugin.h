@@ -12,6 +12,9 @@ class IUIPlugin;
 class IUSSD;
 class QWidget;
 
+namespace Dashboard
+{
+
 /**
  * Loads a USSD plug-in and makes the calls that a plug-in expects of its host. GUI thread.
  *
@@ -65,5 +68,7 @@ private:
     INotify *m_notify = nullptr;
     IUSSD *m_ussd = nullptr;
 };
+
+} // namespace Dashboard
 
 #endif

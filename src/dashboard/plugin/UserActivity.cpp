@@ -7,6 +7,9 @@
 #include "ExtendDialog.h"
 #include "GeneralWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -46,3 +49,5 @@ bool UserActivity::eventFilter(QObject *watched, QEvent *event)
         QMetaObject::invokeMethod(this, "commandEnded", Qt::QueuedConnection);
     return false;
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QObject>
 
+namespace Dashboard
+{
+
 /**
  * Reports what the user does with the plug-in's windows. The event filter covers the whole
  * application because the plug-in creates its windows at any time. GUI thread.
@@ -24,5 +27,7 @@ signals:
     void frameClosed();
     void commandEnded();
 };
+
+} // namespace Dashboard
 
 #endif

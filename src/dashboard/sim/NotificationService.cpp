@@ -2,6 +2,9 @@
 
 #include "PluginContract.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -42,3 +45,5 @@ int NotificationService::Notify(const QString &addressee, unsigned int message, 
     emit paidTypeTold(paidTypeOf(*record));
     return TAKEN;
 }
+
+} // namespace Dashboard

@@ -6,6 +6,9 @@
 #include "INotifyService.h"
 #include "PaidType.h"
 
+namespace Dashboard
+{
+
 /** Receives the messages that plug-ins send to the dashboard. GUI thread. */
 class NotificationService : public QObject, public INotifyService
 {
@@ -28,5 +31,7 @@ signals:
     /// for each addressee.
     void paidTypeTold(PaidType type);
 };
+
+} // namespace Dashboard
 
 #endif

@@ -8,6 +8,12 @@
 #include "PluginFiles.h"
 #include "tksv_device.h"
 
+using namespace Formats;
+using namespace Provisioning;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -201,3 +207,5 @@ void OperatorCodes::decline()
     setDeclined(true);
     use(QString());
 }
+
+} // namespace Dashboard

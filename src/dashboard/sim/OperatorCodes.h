@@ -7,6 +7,9 @@
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
 
+namespace Dashboard
+{
+
 class DashboardSettings;
 class DeviceWatcher;
 
@@ -47,16 +50,16 @@ public:
     bool isDecided() const;
 
     /// Returns the operators that may have issued this SIM and have codes.
-    ProviderChoice choice() const;
+    Provisioning::ProviderChoice choice() const;
     /// Returns the operators of choice(), or all operators with codes in the SIM's country when
     /// choice() has none.
-    QList<Provider> candidates() const;
+    QList<Provisioning::Provider> candidates() const;
     /// Returns whether the operator database can be read.
     bool hasDatabase() const;
 
     /// Writes the operator's codes to the folder of the SIM's network and selects it. Files that
     /// were edited by hand are renamed when `setAside` is true; otherwise nothing is written.
-    ProvisionOutcome take(const Provider &provider, bool setAside);
+    Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
     /// Selects the codes that come with the program for this SIM's network.
     void decline();
 
@@ -78,7 +81,7 @@ private:
     bool isDeclined() const;
     void setDeclined(bool declined);
     void use(const QString &folder);
-    const ProviderDatabase &database() const;
+    const Provisioning::ProviderDatabase &database() const;
 
     const DeviceWatcher *const m_device;
     DashboardSettings *const m_settings;
@@ -86,8 +89,10 @@ private:
     QString m_network;
     QString m_folderInUse;              // empty for the installed one
     QMap<QString, QString> m_decisions; // by network; kept here for use without settings
-    mutable ProviderDatabase m_database;
+    mutable Provisioning::ProviderDatabase m_database;
     mutable bool m_isRead = false;
 };
+
+} // namespace Dashboard
 
 #endif

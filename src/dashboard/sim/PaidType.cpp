@@ -2,6 +2,9 @@
 
 #include "base/DashboardText.h"
 
+namespace Dashboard
+{
+
 QString paidTypeText(PaidType type)
 {
     switch (type) {
@@ -13,3 +16,5 @@ QString paidTypeText(PaidType type)
         return QString();
     }
 }
+
+} // namespace Dashboard

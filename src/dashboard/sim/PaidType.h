@@ -3,10 +3,15 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 /** The kind of contract that a SIM belongs to. */
 enum class PaidType { Unknown, Prepaid, Postpaid };
 
 /// Returns "Prepaid" or "Postpaid" in the user's language; empty when unknown.
 QString paidTypeText(PaidType type);
+
+} // namespace Dashboard
 
 #endif

@@ -4,6 +4,11 @@
 #include "plugin/UiPlugin.h"
 #include "ReplyTimeout.h"
 
+using namespace Formats;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -69,3 +74,5 @@ void PaidTypeFinder::setState(PaidType type, bool asking)
     if (!same)
         emit changed();
 }
+
+} // namespace Dashboard

@@ -8,6 +8,9 @@
 #include "PaidType.h"
 #include "plugin/PluginContainer.h"
 
+namespace Dashboard
+{
+
 class UiPlugin;
 
 /**
@@ -53,5 +56,7 @@ private:
     PaidType m_type = PaidType::Unknown;
     bool m_isWanted = false;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -6,6 +6,9 @@
 #include "SimWindows.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 SimFollower::SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject *parent)
     : QObject(parent), m_plugin(plugin), m_device(device), m_finder(plugin, this)
 {
@@ -78,3 +81,5 @@ void SimFollower::ask()
     if (isThere && !UserActivity::isBusy() && !m_replies.reply().asksForAnswer)
         m_finder.tryToAsk();
 }
+
+} // namespace Dashboard

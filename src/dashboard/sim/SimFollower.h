@@ -7,6 +7,9 @@
 #include "plugin/ReplyTap.h"
 #include "plugin/UserActivity.h"
 
+namespace Dashboard
+{
+
 class DeviceWatcher;
 class UiPlugin;
 
@@ -59,5 +62,7 @@ private:
     PaidTypeFinder m_finder;
     QString m_imsi; // of the SIM that the offered windows belong to
 };
+
+} // namespace Dashboard
 
 #endif

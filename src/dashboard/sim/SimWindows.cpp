@@ -2,6 +2,9 @@
 
 #include "IUSSD.h"
 
+namespace Dashboard
+{
+
 int windowsForSim(IUSSD *ussd, const QString &imsi)
 {
     if (!ussd->IsImsiDynamicMatch())
@@ -11,3 +14,5 @@ int windowsForSim(IUSSD *ussd, const QString &imsi)
         return windows;
     return SIM_WINDOW_GENERAL | SIM_WINDOW_SERVICES;
 }
+
+} // namespace Dashboard

@@ -5,6 +5,9 @@
 
 class IUSSD;
 
+namespace Dashboard
+{
+
 /** The windows to offer for a SIM. The first four have the values that IUSSD uses. */
 enum SimWindow {
     SIM_WINDOW_PREPAID = 1,
@@ -22,5 +25,7 @@ enum SimWindow {
 /// - the general window and the services, when the IMSI is not listed or empty. These serve any
 ///   subscriber, whereas an account window would send codes of another contract.
 int windowsForSim(IUSSD *ussd, const QString &imsi);
+
+} // namespace Dashboard
 
 #endif

@@ -6,6 +6,9 @@
 #include "TourParts.h"
 #include "window/MainWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -50,3 +53,5 @@ bool Tour::take(MainWindow *window, PrivateLibrary *library, const QString &fold
     HostCore::printLine(dashboardText("TOUR_DONE").arg(album.pictures()).arg(folder));
     return true;
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace Dashboard
+{
+
 class MainWindow;
 class PrivateLibrary;
 
@@ -19,5 +22,7 @@ namespace Tour
 bool take(MainWindow *window, PrivateLibrary *library, const QString &folder);
 
 } // namespace Tour
+
+} // namespace Dashboard
 
 #endif

@@ -8,6 +8,9 @@
 #include "TourGuide.h"
 #include "TourParts.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -172,3 +175,5 @@ bool TourParts::walkAccount(TourGuide &guide)
            guide.usePlugin(ALL_IN_POSTPAID, sizeof ALL_IN_POSTPAID / sizeof *ALL_IN_POSTPAID) &&
            showAnswered(guide, PAID_TYPE_POSTPAID, POSTPAID_ALL);
 }
+
+} // namespace Dashboard

@@ -17,6 +17,9 @@
 #include "Languages.h"
 #include "TerminalText.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -151,3 +154,5 @@ bool TourAlbum::fail(const char *key, const QString &subject)
     HostCore::printErrorLine(text.contains(QLatin1String("%1")) ? text.arg(subject) : text);
     return false;
 }
+
+} // namespace Dashboard

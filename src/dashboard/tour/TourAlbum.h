@@ -7,6 +7,9 @@
 
 class QWidget;
 
+namespace Dashboard
+{
+
 /** A stop of the tour: the suffix of its picture's name, and what the picture shows. */
 struct TourStop {
     const char *name;
@@ -40,5 +43,7 @@ private:
 
 /// Returns the texts visible in the widget and its descendants, from top to bottom, one line each.
 QString shownText(const QWidget *widget);
+
+} // namespace Dashboard
 
 #endif

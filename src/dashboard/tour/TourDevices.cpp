@@ -14,6 +14,9 @@
 #include "window/DeviceMenu.h"
 #include "window/MainWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -223,3 +226,5 @@ bool TourParts::walkDevices(TourGuide &guide)
     return guide.useNetwork() && walkTroubles(guide) && walkTwoModems(guide) && walkPin(guide) &&
            walkTexts(guide) && walkOperator(guide) && guide.useNetwork() && guide.usePlugin();
 }
+
+} // namespace Dashboard

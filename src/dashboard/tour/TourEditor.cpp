@@ -12,6 +12,9 @@
 #include "TourParts.h"
 #include "window/MainWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -175,3 +178,5 @@ bool TourParts::walkEditor(TourGuide &guide)
                         editor.visit(scrollDown, FULL);
     return library->restore(system) && walked;
 }
+
+} // namespace Dashboard

@@ -6,6 +6,10 @@
 #include "TourAlbum.h"
 
 class QTableWidget;
+
+namespace Dashboard
+{
+
 class TourGuide;
 
 /** Opens the editor of the user's own codes from the page and performs a walk while it is open. */
@@ -30,5 +34,7 @@ private:
     TourStop m_stop = {nullptr, nullptr};
     bool m_walked = false;
 };
+
+} // namespace Dashboard
 
 #endif

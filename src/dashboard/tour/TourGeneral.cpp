@@ -6,6 +6,9 @@
 #include "TourParts.h"
 #include "window/MainWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -109,3 +112,5 @@ bool TourParts::walkGeneral(TourGuide &guide)
     return visitStops(guide, GeneralWindow(window->page())) && walkFrame(guide) &&
            walkOtherSim(guide);
 }
+
+} // namespace Dashboard

@@ -12,6 +12,9 @@
 #include "QtCompat.h"
 #include "window/MainWindow.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -195,3 +198,5 @@ void TourGuide::settle()
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
+
+} // namespace Dashboard

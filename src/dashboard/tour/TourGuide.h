@@ -9,6 +9,9 @@
 
 #include "TourAlbum.h"
 
+namespace Dashboard
+{
+
 class MainWindow;
 class PrivateLibrary;
 
@@ -91,5 +94,7 @@ private:
     bool m_boxTaken = false;
     bool m_deviceLost = false;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -1,6 +1,9 @@
 #ifndef TOURPARTS_H
 #define TOURPARTS_H
 
+namespace Dashboard
+{
+
 class TourGuide;
 
 /** The parts of the tour. Each prints its errors and returns whether every stop was reached. */
@@ -21,5 +24,7 @@ bool walkServices(TourGuide &guide);
 bool walkDevices(TourGuide &guide);
 
 } // namespace TourParts
+
+} // namespace Dashboard
 
 #endif

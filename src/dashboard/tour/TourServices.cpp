@@ -8,6 +8,9 @@
 #include "TourGuide.h"
 #include "TourParts.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -134,3 +137,5 @@ bool TourParts::walkServices(TourGuide &guide)
     return guide.useNetwork() && guide.usePlugin() && walkReady(guide) &&
            guide.useNetwork(NOT_READY, 1) && guide.usePlugin() && walkNotReady(guide);
 }
+
+} // namespace Dashboard

@@ -7,6 +7,9 @@
 #include "QtCompat.h"
 #include "SignalBars.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -79,3 +82,5 @@ void DeviceHeader::showPaidType(const QString &text)
     m_paidType->setVisible(!text.isEmpty());
     m_paidType->setAccessibleName(dashboardText("NAME_PAID_TYPE"));
 }
+
+} // namespace Dashboard

@@ -6,6 +6,10 @@
 #include "device/DeviceStatus.h"
 
 class QLabel;
+
+namespace Dashboard
+{
+
 class SignalBars;
 
 /** Shows the operator, the signal strength and the SIM in one line. */
@@ -27,5 +31,7 @@ private:
     QLabel *m_signal;
     QLabel *m_sim;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -5,6 +5,9 @@
 #include "base/DashboardText.h"
 #include "device/Scenarios.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -98,3 +101,5 @@ void DeviceMenu::onTriggered(QAction *action)
 {
     emit chosen(action->data().toString());
 }
+
+} // namespace Dashboard

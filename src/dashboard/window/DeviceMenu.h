@@ -8,6 +8,9 @@
 
 class QActionGroup;
 
+namespace Dashboard
+{
+
 /** A menu of the devices: the automatic choice, the modems and the simulated networks. */
 class DeviceMenu : public QMenu
 {
@@ -45,5 +48,7 @@ private:
     DeviceChoice m_choice;
     QList<Modem> m_modems;
 };
+
+} // namespace Dashboard
 
 #endif

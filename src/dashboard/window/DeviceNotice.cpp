@@ -7,6 +7,9 @@
 #include "device/DeviceWatcher.h"
 #include "PinDialog.h"
 
+namespace Dashboard
+{
+
 DeviceNotice::DeviceNotice(const DeviceWatcher *device, QWidget *parent)
     : NoticeBar("Dashboard_DeviceNotice", parent), m_device(device),
       m_pinButton(addButton("Dashboard_PinButton"))
@@ -33,3 +36,5 @@ void DeviceNotice::askForPin()
     m_pinDialog->show();
     CommonUtils::MoveCentre(m_pinDialog);
 }
+
+} // namespace Dashboard

@@ -5,6 +5,9 @@
 
 #include "NoticeBar.h"
 
+namespace Dashboard
+{
+
 class DeviceWatcher;
 class PinDialog;
 
@@ -29,5 +32,7 @@ private:
     QPushButton *m_pinButton;
     QPointer<PinDialog> m_pinDialog;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -5,6 +5,9 @@
 #include "base/DashboardText.h"
 #include "Languages.h"
 
+namespace Dashboard
+{
+
 LanguageMenu::LanguageMenu(QWidget *parent) : QMenu(parent), m_group(new QActionGroup(this))
 {
     for (const QString &code : HostCore::Languages::codes()) {
@@ -28,3 +31,5 @@ void LanguageMenu::onTriggered(QAction *action)
 {
     emit chosen(action->data().toString());
 }
+
+} // namespace Dashboard

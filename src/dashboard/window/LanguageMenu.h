@@ -5,6 +5,9 @@
 
 class QActionGroup;
 
+namespace Dashboard
+{
+
 /** A menu of the languages, each by its native name. */
 class LanguageMenu : public QMenu
 {
@@ -24,5 +27,7 @@ private slots:
 private:
     QActionGroup *m_group;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -34,6 +34,9 @@
 #include "TerminalText.h"
 #include "WindowButtons.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -360,3 +363,5 @@ void MainWindow::closeEvent(QCloseEvent *event)
         m_settings->setGeometry(saveGeometry());
     QMainWindow::closeEvent(event);
 }
+
+} // namespace Dashboard

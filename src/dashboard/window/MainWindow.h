@@ -10,6 +10,13 @@
 #include "sim/OperatorCodes.h"
 #include "sim/SimFollower.h"
 
+class QAction;
+class QLabel;
+class QMenu;
+
+namespace Dashboard
+{
+
 class DashboardSettings;
 class DeviceHeader;
 class DeviceNotice;
@@ -19,9 +26,6 @@ class NetworkTextPanel;
 class NoticeBar;
 class OperatorNotice;
 class PageArea;
-class QAction;
-class QLabel;
-class QMenu;
 class UiPlugin;
 class WindowButtons;
 struct DeviceChoice;
@@ -121,5 +125,7 @@ private:
     PageArea *m_page;
     QLabel *m_source;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -10,6 +10,9 @@
 #include "base/DashboardText.h"
 #include "TerminalText.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -130,3 +133,5 @@ QString NetworkTextPanel::linesOf(const Entry &entry)
     const QString text = entry.text.isEmpty() ? dashboardText("TEXT_UNKNOWN") : entry.text;
     return dashboardText("TEXT_AT").arg(time) + QLatin1Char('\n') + withReadableCodes(text);
 }
+
+} // namespace Dashboard

@@ -9,6 +9,9 @@ class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 
+namespace Dashboard
+{
+
 /**
  * Shows the messages that the network sends on its own initiative, as plain text with the time of
  * each, and scrolls to the newest. The panel appears with the first message, takes no focus, and
@@ -46,5 +49,7 @@ private:
     QLabel *m_question;
     QPushButton *m_close;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -4,6 +4,9 @@
 #include <QLabel>
 #include <QPushButton>
 
+namespace Dashboard
+{
+
 NoticeBar::NoticeBar(const char *objectName, QWidget *parent)
     : QFrame(parent), m_label(new QLabel(this)), m_row(new QHBoxLayout(this))
 {
@@ -41,3 +44,5 @@ void NoticeBar::setButtonText(QPushButton *button, const QString &text)
     button->setText(text);
     button->setVisible(!text.isEmpty());
 }
+
+} // namespace Dashboard

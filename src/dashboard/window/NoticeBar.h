@@ -8,6 +8,9 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
+namespace Dashboard
+{
+
 /**
  * A line in the main window with a notice and buttons to act on it. It is visible only while it has
  * a text, and takes no focus.
@@ -31,5 +34,7 @@ private:
     QLabel *m_label;
     QHBoxLayout *m_row;
 };
+
+} // namespace Dashboard
 
 #endif

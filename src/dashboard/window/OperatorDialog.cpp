@@ -7,6 +7,11 @@
 
 #include "base/DashboardText.h"
 
+using namespace Provisioning;
+
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -106,3 +111,5 @@ Provider OperatorDialog::provider() const
 {
     return m_candidates.value(selectedRow());
 }
+
+} // namespace Dashboard

@@ -9,6 +9,9 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
+namespace Dashboard
+{
+
 /** Asks which codes to use: those of one of several operators or those that come with the program.
  */
 class OperatorDialog : public QDialog
@@ -16,13 +19,13 @@ class OperatorDialog : public QDialog
     Q_OBJECT
 public:
     /// `current` is the name of the operator whose codes are in use, or empty.
-    OperatorDialog(const QString &network, const QList<Provider> &candidates,
+    OperatorDialog(const QString &network, const QList<Provisioning::Provider> &candidates,
                    const QString &current, QWidget *parent);
 
     /// Returns whether the user chose an operator and not the codes that come with the program.
     bool choosesOperator() const;
     /// Returns the chosen operator.
-    Provider provider() const;
+    Provisioning::Provider provider() const;
 
 public slots:
     /// Updates the texts after a language change.
@@ -38,11 +41,13 @@ private:
     int selectedRow() const; // -1 when no row is selected
 
     const QString m_network;
-    const QList<Provider> m_candidates;
+    const QList<Provisioning::Provider> m_candidates;
     QLabel *m_question;
     QListWidget *m_list; // the candidates, followed by the codes that come with the program
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -7,6 +7,11 @@
 #include "OperatorDialog.h"
 #include "sim/OperatorCodes.h"
 
+using namespace Provisioning;
+
+namespace Dashboard
+{
+
 OperatorNotice::OperatorNotice(OperatorCodes *codes, QWidget *parent)
     : NoticeBar("Dashboard_OperatorNotice", parent), m_codes(codes),
       m_takeButton(addButton("Dashboard_OperatorTake")),
@@ -146,3 +151,5 @@ void OperatorNotice::say(const char *key)
     CommonUtils::ShowMessage(QMessageBox::Information, window(), dashboardText("CODES_CAPTION"),
                              dashboardText(key), QLatin1String("IDS_OK"));
 }
+
+} // namespace Dashboard

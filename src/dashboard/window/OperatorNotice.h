@@ -6,6 +6,9 @@
 #include "NoticeBar.h"
 #include "ProviderDatabase.h"
 
+namespace Dashboard
+{
+
 class OperatorCodes;
 class OperatorDialog;
 
@@ -40,7 +43,7 @@ private:
     void setState(State state, const QString &subject = QString(),
                   const QString &problem = QString());
     QString stateText() const;
-    void take(const Provider &provider);
+    void take(const Provisioning::Provider &provider);
     bool mayBeSetAside(const QStringList &files, const QString &operatorName);
     void say(const char *key);
 
@@ -51,9 +54,11 @@ private:
     State m_state = Nothing;
     QString m_subject; // the name of an operator
     QString m_problem;
-    Provider m_proposed;
-    Provider m_chosen; // the operator chosen in the dialog
+    Provisioning::Provider m_proposed;
+    Provisioning::Provider m_chosen; // the operator chosen in the dialog
     bool m_isOperatorChosen = false;
 };
+
+} // namespace Dashboard
 
 #endif

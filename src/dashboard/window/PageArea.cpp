@@ -7,6 +7,9 @@
 #include "IUIPlugin.h"
 #include "plugin/UiPlugin.h"
 
+namespace Dashboard
+{
+
 PageArea::PageArea(UiPlugin *plugin, QWidget *parent)
     : QScrollArea(parent), m_plugin(plugin), m_canvas(new QWidget), m_text(new QLabel(m_canvas))
 {
@@ -82,3 +85,5 @@ void PageArea::fitPage()
     QRect rect = m_canvas->rect();
     m_plugin->plugin()->FitSize(rect);
 }
+
+} // namespace Dashboard

@@ -4,6 +4,10 @@
 #include <QScrollArea>
 
 class QLabel;
+
+namespace Dashboard
+{
+
 class UiPlugin;
 
 /**
@@ -36,5 +40,7 @@ private:
     QLabel *m_text;
     bool m_isShown = false;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -10,6 +10,9 @@
 #include "device/DeviceWatcher.h"
 #include "tksv_device.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -203,3 +206,5 @@ void PinDialog::done(int result)
     m_answerLimit.stop();
     QDialog::done(result);
 }
+
+} // namespace Dashboard

@@ -4,10 +4,14 @@
 #include <QDialog>
 #include <QTimer>
 
-class DeviceWatcher;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+
+namespace Dashboard
+{
+
+class DeviceWatcher;
 
 /**
  * Asks for the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
@@ -55,5 +59,7 @@ private:
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -9,6 +9,9 @@
 #include "CommonUtils.h"
 #include "MessageBox.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -80,3 +83,5 @@ void ProfileKeeper::restore()
         dashboardText("RESTORE_FAILED").arg(m_backup.userFile(), m_backup.copy()),
         QLatin1String("IDS_OK"));
 }
+
+} // namespace Dashboard

@@ -5,6 +5,9 @@
 
 #include "plugin/ProfileBackup.h"
 
+namespace Dashboard
+{
+
 /**
  * Keeps the backup copy of the user's own codes up to date, and offers to restore it when the codes
  * are missing or damaged. GUI thread.
@@ -34,5 +37,7 @@ private:
 
     const ProfileBackup m_backup;
 };
+
+} // namespace Dashboard
 
 #endif

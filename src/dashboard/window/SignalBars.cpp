@@ -2,6 +2,9 @@
 
 #include <QPainter>
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -45,3 +48,5 @@ void SignalBars::paintEvent(QPaintEvent *)
         painter.fillRect(barRect(bar, height()), palette().color(role));
     }
 }
+
+} // namespace Dashboard

@@ -3,6 +3,9 @@
 
 #include <QWidget>
 
+namespace Dashboard
+{
+
 /** Shows the signal strength as five bars. */
 class SignalBars : public QWidget
 {
@@ -20,5 +23,7 @@ protected:
 private:
     int m_percent = -1;
 };
+
+} // namespace Dashboard
 
 #endif

@@ -7,6 +7,9 @@
 #include "IUSSD.h"
 #include "sim/SimWindows.h"
 
+namespace Dashboard
+{
+
 namespace
 {
 
@@ -78,3 +81,5 @@ void WindowButtons::onClicked()
     else
         emit frameRequested(WINDOWS[index].type);
 }
+
+} // namespace Dashboard

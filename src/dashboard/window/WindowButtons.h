@@ -6,6 +6,9 @@
 
 class QPushButton;
 
+namespace Dashboard
+{
+
 /** A row with a button for each window of the plug-in. */
 class WindowButtons : public QWidget
 {
@@ -32,5 +35,7 @@ private slots:
 private:
     QList<QPushButton *> m_buttons; // in the same order as the table of windows
 };
+
+} // namespace Dashboard
 
 #endif
