@@ -25,7 +25,8 @@ public:
     static void MoveCentre(QWidget *widget);
     /// Returns whether the host runs in its small mode, in which windows have no frames.
     static bool IsMiniMode();
-    /// Returns whether the host is shutting down. May be called on any thread.
+    /// Returns whether the host is shutting down. A call-back from the device SDK checks it,
+    /// because it may still run then. May be called on any thread.
     static bool IsShuttingDown();
     /// Returns the absolute path of the folder that contains "plugins/USSDUIPlugin/". The path does
     /// not end in a separator. May be called on any thread.

@@ -11,8 +11,8 @@ class Q_DECL_EXPORT ExtendLineEdit : public QLineEdit
 {
     Q_OBJECT
 public:
-    /// Creates an empty field, which is deleted together with its `parent`. Must be called on the
-    /// GUI thread, as every operation of a widget.
+    /// Creates an empty field without a length limit, which is deleted together with its `parent`.
+    /// Must be called on the GUI thread, like every operation of a widget.
     explicit ExtendLineEdit(QWidget *parent = nullptr);
     /// Defined in the core library, which thus holds the only virtual table of the class.
     ~ExtendLineEdit() override;

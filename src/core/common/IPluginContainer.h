@@ -15,8 +15,10 @@ public:
     virtual ~IPluginContainer() {}
 
     /// Returns the plug-in with the identifier `clsid`, or null when it is not loaded. The
-    /// container owns the object; a caller that keeps the pointer across a call into the host uses
-    /// a QPointer, because the host may unload plug-ins meanwhile.
+    /// comparison of identifiers is case-sensitive.
+    ///
+    /// The container owns the object. A caller that keeps the pointer across a call into the host
+    /// uses a QPointer, because the host may unload plug-ins meanwhile.
     virtual QObject *GetPlugin(const QString &clsid) = 0;
 };
 
