@@ -10,7 +10,7 @@
 #include "Benchmark.h"
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
-#include "windows/StatusBox.h"
+#include "windows/AccountReplyView.h"
 
 using namespace Formats;
 
@@ -95,7 +95,7 @@ double inTranscript(const QString &reply)
 
 double inStatusBox(const QString &reply)
 {
-    StatusBox box;
+    AccountReplyView box;
     box.setLines(3);
     box.resize(300, 60);
     box.show();

@@ -15,9 +15,9 @@
 #include "plugin/CommandSender.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/KeyboardHelper.h"
-#include "plugin/PrivateLibrary.h"
+#include "plugin/LoadedPlugin.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "plugin/ReplyTap.h"
-#include "plugin/UiPlugin.h"
 #include "ReplyTimeout.h"
 #include "TerminalText.h"
 #include "tksv.h"
@@ -130,7 +130,7 @@ void saveSettings(DashboardSettings *settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings->file()));
 }
 
-int sendThrough(UiPlugin &plugin, ReplyTap &tap, const QStringList &commands)
+int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands)
 {
     QWidget host;
     QRect rect(QPoint(), UNSEEN_SIZE);
@@ -176,7 +176,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const QString unusable = useDevice(&choice);
     if (!unusable.isEmpty() && namesDevice(arguments))
         return fail(unusable, EXIT_USAGE);
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, &settings);
     window.setDevice(choice);
@@ -207,8 +207,8 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
     ReplyTap tap; // constructed before the device can send a reply
     if (!isDeviceReady(arguments))
         return EXIT_BAD;
-    UiPlugin plugin;
-    const PluginFailure failure = plugin.load(UiPlugin::installedFile());
+    LoadedPlugin plugin;
+    const PluginFailure failure = plugin.load(LoadedPlugin::installedFile());
     if (!plugin.isUsable())
         return fail(failure.text());
     return sendThrough(plugin, tap, arguments.commands);
@@ -218,11 +218,11 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
 {
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
-    PrivateLibrary library;
+    PrivatePluginFolder library;
     QApplication application(argc, argv);
     if (!library.isValid())
         return fail(dashboardText("TOUR_NOT_WRITTEN").arg(library.path()));
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, nullptr);
     window.show();

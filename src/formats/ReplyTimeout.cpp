@@ -9,14 +9,13 @@ namespace
 {
 
 const char VARIABLE[] = "USSD_REPLY_TIMEOUT_MS";
-const int STANDARD = 30000;
 
 } // namespace
 
 int replyTimeout()
 {
     const int chosen = qgetenv(VARIABLE).toInt();
-    return chosen > 0 ? chosen : STANDARD;
+    return chosen > 0 ? chosen : STANDARD_REPLY_TIMEOUT;
 }
 
 void setReplyTimeout(int milliseconds)

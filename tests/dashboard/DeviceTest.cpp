@@ -29,7 +29,7 @@ void DeviceTest::setUp()
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     fakeSdkSetDeviceInfo(modemInfo(TKSV_DEVICE_REGISTERED));
     m_settings.reset(new DashboardSettings);
-    m_plugin.reset(new UiPlugin);
+    m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
     m_window->show();
 }

@@ -7,7 +7,7 @@
 
 #include "device/DashboardSettings.h"
 #include "fake_tksv.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
@@ -40,7 +40,7 @@ protected:
 
 private:
     QScopedPointer<Dashboard::DashboardSettings> m_settings;
-    QScopedPointer<Dashboard::UiPlugin> m_plugin;
+    QScopedPointer<Dashboard::LoadedPlugin> m_plugin;
     QScopedPointer<Dashboard::MainWindow> m_window;
 };
 

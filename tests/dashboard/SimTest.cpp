@@ -30,7 +30,7 @@ void SimTest::setUp()
 
 void SimTest::makeLibrary()
 {
-    m_library.reset(new PrivateLibrary);
+    m_library.reset(new PrivatePluginFolder);
     QVERIFY(m_library->isValid());
 }
 
@@ -55,7 +55,7 @@ bool SimTest::configure(const char *anchor, const char *before, const char *afte
 
 void SimTest::openDashboard()
 {
-    m_plugin.reset(new UiPlugin);
+    m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), nullptr));
     m_window->show();
     const PluginFailure failure = m_window->loadPlugin();

@@ -5,8 +5,8 @@
 #include <QPushButton>
 
 #include "plugin/GeneralWindow.h"
-#include "plugin/PrivateLibrary.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
@@ -28,7 +28,7 @@ protected:
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 
     Dashboard::MainWindow &window() { return *m_window; }
-    Dashboard::UiPlugin &plugin() { return *m_plugin; }
+    Dashboard::LoadedPlugin &plugin() { return *m_plugin; }
     Dashboard::GeneralWindow page() const { return Dashboard::GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
     /// Returns the windows whose buttons are visible, such as "general prepaid".
@@ -37,10 +37,10 @@ protected:
     /// Returns the open frame of the plug-in, or null.
     static QWidget *frame();
 
-    QScopedPointer<Dashboard::PrivateLibrary> m_library;
+    QScopedPointer<Dashboard::PrivatePluginFolder> m_library;
 
 private:
-    QScopedPointer<Dashboard::UiPlugin> m_plugin;
+    QScopedPointer<Dashboard::LoadedPlugin> m_plugin;
     QScopedPointer<Dashboard::MainWindow> m_window;
 };
 

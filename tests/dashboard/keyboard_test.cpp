@@ -8,7 +8,7 @@
 #include "Languages.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/KeyboardHelper.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 
 using namespace Dashboard;
@@ -153,8 +153,8 @@ void KeyboardTest::talk(const GeneralWindow &general)
 
 void KeyboardTest::theWholeDialogueIsTypedInThePage()
 {
-    UiPlugin plugin;
-    QCOMPARE(int(plugin.load(UiPlugin::installedFile()).step), int(PluginFailure::None));
+    LoadedPlugin plugin;
+    QCOMPARE(int(plugin.load(LoadedPlugin::installedFile()).step), int(PluginFailure::None));
     QWidget host;
     host.resize(900, 600);
     host.show();
@@ -166,8 +166,8 @@ void KeyboardTest::theWholeDialogueIsTypedInThePage()
 
 void KeyboardTest::theWholeDialogueIsTypedInTheFrame()
 {
-    UiPlugin plugin;
-    QCOMPARE(int(plugin.load(UiPlugin::installedFile()).step), int(PluginFailure::None));
+    LoadedPlugin plugin;
+    QCOMPARE(int(plugin.load(LoadedPlugin::installedFile()).step), int(PluginFailure::None));
     QCOMPARE(plugin.plugin()->DoModal(), 1);
     talk(GeneralWindow::framed());
     plugin.shutDown();

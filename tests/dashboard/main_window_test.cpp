@@ -14,7 +14,7 @@
 #include "HostState.h"
 #include "Languages.h"
 #include "plugin/GeneralWindow.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 #include "window/NoticeBar.h"
@@ -62,7 +62,7 @@ private:
     GeneralWindow page() const { return GeneralWindow(m_window->page()); }
 
     QScopedPointer<DashboardSettings> m_settings;
-    QScopedPointer<UiPlugin> m_plugin;
+    QScopedPointer<LoadedPlugin> m_plugin;
     QScopedPointer<MainWindow> m_window;
 };
 
@@ -72,7 +72,7 @@ void MainWindowTest::setUp()
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QVERIFY(Scenarios::use(QString()).isEmpty());
     m_settings.reset(new DashboardSettings);
-    m_plugin.reset(new UiPlugin);
+    m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
     m_window->show();
     const PluginFailure failure = m_window->loadPlugin();
@@ -168,7 +168,7 @@ void MainWindowTest::theFrameOpensOverTheWindow()
 
 void MainWindowTest::theButtonsWaitForThePlugin()
 {
-    UiPlugin none;
+    LoadedPlugin none;
     const MainWindow window(&none, nullptr);
     const QPushButton *frame =
         window.findChild<QPushButton *>(QLatin1String("Dashboard_GeneralFrameButton"));
@@ -179,7 +179,7 @@ void MainWindowTest::theButtonsWaitForThePlugin()
 void MainWindowTest::aMissingPluginIsSaidInThePage()
 {
     qputenv("USSD_PLUGIN_LIBRARY_PATH", folder().toLocal8Bit());
-    UiPlugin none;
+    LoadedPlugin none;
     MainWindow window(&none, nullptr);
     window.show();
     QCOMPARE(int(window.loadPlugin().step), int(PluginFailure::FileMissing));

@@ -3,7 +3,7 @@
 #include "IUIPlugin.h"
 #include "IUSSD.h"
 #include "Languages.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 
 using namespace Dashboard;
@@ -73,7 +73,7 @@ void PluginLoadingTest::setUp()
 
 PluginFailure PluginLoadingTest::load(const QString &file)
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     PluginFailure failure = plugin.load(file);
     if (failure.step != PluginFailure::None && plugin.isUsable())
         qWarning("usable in spite of a failure");
@@ -82,8 +82,8 @@ PluginFailure PluginLoadingTest::load(const QString &file)
 
 void PluginLoadingTest::theInstalledPluginLoads()
 {
-    UiPlugin plugin;
-    const PluginFailure failure = plugin.load(UiPlugin::installedFile());
+    LoadedPlugin plugin;
+    const PluginFailure failure = plugin.load(LoadedPlugin::installedFile());
     QVERIFY2(failure.step == PluginFailure::None, qPrintable(failure.text()));
     QVERIFY(plugin.isUsable());
     QCOMPARE(plugin.plugin()->GetPluginName(), QLatin1String("USSDUIPluginImpl"));
@@ -202,7 +202,7 @@ void PluginLoadingTest::aGoodPluginLoadsAfterABadOne()
 
 void PluginLoadingTest::shutDownKeepsItsOrder()
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.shutDown();
     QVERIFY(!plugin.isUsable());
@@ -213,7 +213,7 @@ void PluginLoadingTest::shutDownKeepsItsOrder()
 
 void PluginLoadingTest::shutDownTwiceIsHarmless()
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.shutDown();
     const QStringList once = calls();
@@ -231,7 +231,7 @@ void PluginLoadingTest::aPluginThatFailedHalfwayIsShutDownToo()
 
 void PluginLoadingTest::theLanguageChangeReachesThePlugin()
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.notifyLanguageChange();
     QCOMPARE(calls().last(), QLatin1String("Notify 320"));
@@ -239,7 +239,7 @@ void PluginLoadingTest::theLanguageChangeReachesThePlugin()
 
 void PluginLoadingTest::theSimChangeReachesThePlugin()
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     plugin.notifySimChange(); // does nothing without a plug-in
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     plugin.notifySimChange();
@@ -248,7 +248,7 @@ void PluginLoadingTest::theSimChangeReachesThePlugin()
 
 void PluginLoadingTest::aRestartTakesEverythingDownAndAsksForTheServiceAgain()
 {
-    UiPlugin plugin;
+    LoadedPlugin plugin;
     QCOMPARE(plugin.load(testPlugin("good_plugin")).step, PluginFailure::None);
     qApp->setProperty("calls", QStringList());
     QCOMPARE(plugin.restart().step, PluginFailure::None);

@@ -1,4 +1,4 @@
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -34,10 +34,11 @@ QStringList keysIn(const QString &code)
 
 QStringList keysOfSources()
 {
-    const QDir folder(QLatin1String(DASHBOARD_SOURCES));
+    QDirIterator names(QLatin1String(DASHBOARD_SOURCES), QStringList(QLatin1String("*.cpp")),
+                       QDir::Files, QDirIterator::Subdirectories);
     QStringList keys;
-    for (const QString &name : folder.entryList(QStringList(QLatin1String("*.cpp")))) {
-        QFile file(folder.filePath(name));
+    while (names.hasNext()) {
+        QFile file(names.next());
         if (file.open(QIODevice::ReadOnly))
             keys << keysIn(QString::fromUtf8(file.readAll()));
     }

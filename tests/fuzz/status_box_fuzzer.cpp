@@ -7,8 +7,8 @@
 #include <QTextDocument>
 #include <QTextFrame>
 
-#include "windows/ReplyLabel.h"
-#include "windows/StatusBox.h"
+#include "windows/AccountReplyView.h"
+#include "windows/ServiceReplyLabel.h"
 
 namespace
 {
@@ -64,14 +64,14 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString text =
         asUtf8 ? QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size))
                : FuzzSupport::units(data, size);
-    FUZZ_REQUIRE(withoutMarks(ReplyLabel::withCodesMarked(text)) == withoutMarks(text));
-    StatusBox box;
+    FUZZ_REQUIRE(withoutMarks(ServiceReplyLabel::withCodesMarked(text)) == withoutMarks(text));
+    AccountReplyView box;
     box.resize(300, 60);
     box.showText(text);
     box.grab();
     FUZZ_REQUIRE(withoutMarks(asLines(box.toPlainText())) == withoutMarks(asLines(text)));
     checkDocument(*box.document());
-    ReplyLabel label(&box);
+    ServiceReplyLabel label(&box);
     label.resize(300, 60);
     label.setText(text);
     FUZZ_REQUIRE(label.text() == text && label.textFormat() == Qt::PlainText);

@@ -10,8 +10,8 @@
 
 #include "fake_tksv.h"
 #include "SystemCalls.h"
-#include "windows/ReplyLabel.h"
-#include "windows/StatusBox.h"
+#include "windows/AccountReplyView.h"
+#include "windows/ServiceReplyLabel.h"
 
 namespace
 {
@@ -181,10 +181,10 @@ void HostileRepliesTest::showEverywhere(const QString &reply)
     networkSays(reply);
     waitUntilShown();
     history()->grab();
-    StatusBox box;
+    AccountReplyView box;
     box.showText(reply);
     box.grab();
-    ReplyLabel label(&box);
+    ServiceReplyLabel label(&box);
     label.setText(reply);
     label.grab();
     drainEvents();
@@ -290,7 +290,7 @@ void HostileRepliesTest::windowOutlivesReply()
 void HostileRepliesTest::statusBoxShowsTheLetters()
 {
     QFETCH(QString, reply);
-    StatusBox box;
+    AccountReplyView box;
     box.resize(300, 60);
     box.show();
     box.showText(reply);
@@ -311,7 +311,7 @@ void HostileRepliesTest::labelOutlivesReply()
 {
     QFETCH(QString, reply);
     QWidget window;
-    ReplyLabel label(&window);
+    ServiceReplyLabel label(&window);
     label.resize(300, 60);
     label.setText(reply);
     QVERIFY(!label.grab().isNull());

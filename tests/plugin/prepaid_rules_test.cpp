@@ -4,7 +4,7 @@
 
 #include "ChargeRules.h"
 #include "windows/OnlineLink.h"
-#include "windows/PrePostVerdict.h"
+#include "windows/PostpaidReply.h"
 
 using namespace Formats;
 

@@ -16,7 +16,7 @@
 #include "Languages.h"
 #include "LogicListener.h"
 #include "requests/USSDLogic.h"
-#include "windows/ReplyLabel.h"
+#include "windows/ServiceReplyLabel.h"
 #include "windows/USSDExtendDialog.h"
 #include "windows/USSDService.h"
 #include "windows/USSDSMSDlg.h"
@@ -1560,7 +1560,7 @@ void SmsDialogTest::codeInAResultIsNotTurnedRound()
     QFETCH(QString, text);
     QFETCH(QString, marked);
     marked.replace(QLatin1Char('<'), QChar(0x202A)).replace(QLatin1Char('>'), QChar(0x202C));
-    QCOMPARE(ReplyLabel::withCodesMarked(text), marked);
+    QCOMPARE(ServiceReplyLabel::withCodesMarked(text), marked);
     press();
     networkSays(text);
     QCOMPARE(result(), text);
@@ -1574,7 +1574,7 @@ void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
     networkSays(reply);
     const QImage drawn = resultLabel()->grab().toImage();
     press();
-    networkSays(ReplyLabel::withCodesMarked(reply));
+    networkSays(ServiceReplyLabel::withCodesMarked(reply));
     QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 

@@ -156,7 +156,7 @@ void ConfigCheckTest::shippedFilesAreWithoutFindings_data()
     row("/scenarios/default.scenario", "scenario");
     row("/scenarios/postpaid.scenario", "scenario");
     row("/scenarios/weak-signal.scenario", "scenario");
-    row("/src/dashboard/tour.scenario", "scenario");
+    row("/src/dashboard/tour/tour.scenario", "scenario");
 }
 
 void ConfigCheckTest::shippedFilesAreWithoutFindings()
@@ -247,7 +247,7 @@ void ConfigCheckTest::configurationMistakes_data()
     addMistake("layout number", "MainSize width=\"640\"", "MainSize width=\"wide\"", "layout",
                "wide");
     addMistake("behind the cards", "</autoUSSD>", "</autoUSSD><more><item name=\"a\"/></more>",
-               "order", "is taken for a SIM card");
+               "order", "is read as a SIM card");
     addMistake("section twice", "<send>", "<Prepaid></Prepaid><send>", "twice",
                "<Prepaid> was already given in line");
     addMistake("clear button", "<clearHistory visible=\"true\" showConfirmDialog=\"true\"/>", "",

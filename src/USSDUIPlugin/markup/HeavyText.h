@@ -9,8 +9,8 @@
  * text into pieces that are quick to lay out. Line breaking is slow for long texts, and its time
  * grows with the square of the number of changes from one script to another.
  *
- * Transcript, StatusBox and ReplyBox ask isHeavy(), and PieceFeeder adds the pieces to a text edit
- * one by one. This is about the text only: MarkupCost estimates the cost of markup.
+ * Transcript, AccountReplyView and ReplyMessageBox ask isHeavy(), and PieceFeeder adds the pieces
+ * to a text edit one by one. This is about the text only: MarkupCost estimates the cost of markup.
  */
 namespace HeavyText
 {

@@ -11,7 +11,7 @@ class QTextEdit;
 
 /**
  * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive:
- * each turn of the event loop inserts one piece as a paragraph of its own. StatusBox and
+ * each turn of the event loop inserts one piece as a paragraph of its own. AccountReplyView and
  * TranscriptView feed it with the pieces of a heavy text (see HeavyText). The feeder is a child of
  * the text edit. GUI thread only.
  */

@@ -10,13 +10,13 @@
 #include <QPushButton>
 #include <QRegExpValidator>
 
+#include "AccountReplyView.h"
 #include "base/PluginLog.h"
 #include "base/PluginText.h"
 #include "ExtendLineEdit.h"
 #include "OnlineLink.h"
 #include "QtCompat.h"
-#include "ReplyBox.h"
-#include "StatusBox.h"
+#include "ReplyMessageBox.h"
 #include "tksv.h"
 #include "UssdCode.h"
 
@@ -152,7 +152,7 @@ bool USSDDlg::createWidgets()
 bool USSDDlg::createBalance()
 {
     m_pBalanceLabel = createLabel(this, "BalanceLabel");
-    m_pBalanceStatusTextEdit = createWidget<StatusBox>(this, "BalanceStatusTextEdit");
+    m_pBalanceStatusTextEdit = createWidget<AccountReplyView>(this, "BalanceStatusTextEdit");
     m_pBalanceUpdateButton = createWidget<QPushButton>(this, "BalanceUpdateButton");
     m_pBalanceInfoLabel = createLabel(this, "BalanceInfoLabel");
     m_pBalanceLine = createLine(this, "BalanceLine");
@@ -165,7 +165,7 @@ bool USSDDlg::createCharge()
     m_pChargeLabel = createLabel(this, "ChargeLabel");
     m_pChargeEdit = createCodeEdit(this, "ChargeEdit");
     m_pChargeActivateButton = createWidget<QPushButton>(this, "ChargeActivateButton");
-    m_pActivateStatusTextEdit = createWidget<StatusBox>(this, "ActivateStatusTextEdit");
+    m_pActivateStatusTextEdit = createWidget<AccountReplyView>(this, "ActivateStatusTextEdit");
     m_pChargeLine = createLine(this, "ChargeLine");
     return m_pChargeLabel && m_pChargeEdit && m_pChargeActivateButton &&
            m_pActivateStatusTextEdit && m_pChargeLine;
@@ -182,7 +182,7 @@ bool USSDDlg::createOnlineCharge()
 bool USSDDlg::createMSISDN()
 {
     m_pMSISDNLabel = createLabel(this, "MSISDNLabel");
-    m_pMSISDNStatusTextEdit = createWidget<StatusBox>(this, "MSISDNStatusTextEdit");
+    m_pMSISDNStatusTextEdit = createWidget<AccountReplyView>(this, "MSISDNStatusTextEdit");
     m_pMSISDNUpdateButton = createWidget<QPushButton>(this, "MSISDNUpdateButton");
     return m_pMSISDNLabel && m_pMSISDNStatusTextEdit && m_pMSISDNUpdateButton;
 }
@@ -309,7 +309,7 @@ void USSDDlg::SetLanguage()
     setLanguageForMSISDN();
     m_pCloseButton->setText(text("IDS_BUTTON_CLOSE"));
     if (m_pReplyBox)
-        ReplyBox::retranslate(m_pReplyBox);
+        ReplyMessageBox::retranslate(m_pReplyBox);
     initAccessibility();
 }
 
@@ -533,7 +533,7 @@ void USSDDlg::OnResponseReceived(int component, QString text)
 
 void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
 {
-    if (StatusBox *box = statusBoxOf(component))
+    if (AccountReplyView *box = statusBoxOf(component))
         box->showText(text);
     if (component == COMPONENT_CHARGE && !isWaiting)
         onChargeResponseReceived(text);
@@ -571,7 +571,7 @@ void USSDDlg::openReplyBox()
 {
     if (m_pReplyBox || !isReplyBoxDue())
         return;
-    m_pReplyBox = ReplyBox::create(this, m_listBoxReplies.first());
+    m_pReplyBox = ReplyMessageBox::create(this, m_listBoxReplies.first());
     m_pReplyBox->installEventFilter(this);
     m_pReplyBox->buttons().first()->installEventFilter(this);
     connect(m_pReplyBox, SIGNAL(finished(int)), this, SLOT(OnReplyBoxFinished()));
@@ -623,7 +623,7 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
 void USSDDlg::parkFocus(_COMPONENT component)
 {
     QWidget *focus = window()->focusWidget(); // known even while a message box is active
-    StatusBox *box = statusBoxOf(component);
+    AccountReplyView *box = statusBoxOf(component);
     if (!focus || !box || !controlsOf(component).contains(focus))
         return;
     m_hashParkFocus[component] = focus;
@@ -633,7 +633,7 @@ void USSDDlg::parkFocus(_COMPONENT component)
 void USSDDlg::returnFocus(_COMPONENT component)
 {
     QWidget *parked = m_hashParkFocus.take(component);
-    const StatusBox *box = statusBoxOf(component);
+    const AccountReplyView *box = statusBoxOf(component);
     if (parked && box && window()->focusWidget() == box)
         parked->setFocus(Qt::OtherFocusReason);
 }
@@ -652,7 +652,7 @@ int USSDDlg::chargeReturnStyle() const
 }
 
 /// Returns the box that shows the answers of the component, or null if it has none.
-StatusBox *USSDDlg::statusBoxOf(int component) const
+AccountReplyView *USSDDlg::statusBoxOf(int component) const
 {
     switch (component) {
     case COMPONENT_BALANCE:

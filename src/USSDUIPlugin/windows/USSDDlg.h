@@ -21,7 +21,7 @@ class QLabel;
 class QLineEdit;
 class QMessageBox;
 class QPushButton;
-class StatusBox;
+class AccountReplyView;
 
 /**
  * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page and
@@ -138,7 +138,7 @@ private:
     bool isShown(_COMPONENT component) const;
     int chargeReturnStyle() const;
     QFrame *lineOf(_COMPONENT component) const;
-    StatusBox *statusBoxOf(int component) const;
+    AccountReplyView *statusBoxOf(int component) const;
     QList<QWidget *> controlsOf(int component) const;
 
     PAID_TYPE m_paidType;
@@ -158,7 +158,7 @@ private:
     QPointer<QMessageBox> m_pReplyBox;             // the open box; a child
 
     QLabel *m_pBalanceLabel;
-    StatusBox *m_pBalanceStatusTextEdit;
+    AccountReplyView *m_pBalanceStatusTextEdit;
     QPushButton *m_pBalanceUpdateButton;
     QLabel *m_pBalanceInfoLabel;
     QFrame *m_pBalanceLine;
@@ -166,7 +166,7 @@ private:
     QLabel *m_pChargeLabel;
     QLineEdit *m_pChargeEdit;
     QPushButton *m_pChargeActivateButton;
-    StatusBox *m_pActivateStatusTextEdit;
+    AccountReplyView *m_pActivateStatusTextEdit;
     QFrame *m_pChargeLine;
 
     QLabel *m_pOnlineChargeLabel;
@@ -174,7 +174,7 @@ private:
     QFrame *m_pOnlineChargeLine;
 
     QLabel *m_pMSISDNLabel;
-    StatusBox *m_pMSISDNStatusTextEdit;
+    AccountReplyView *m_pMSISDNStatusTextEdit;
     QPushButton *m_pMSISDNUpdateButton;
 
     QPushButton *m_pCloseButton;

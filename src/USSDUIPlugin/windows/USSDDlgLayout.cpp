@@ -11,8 +11,8 @@
 #include <QMap>
 #include <QPushButton>
 
+#include "AccountReplyView.h"
 #include "base/PluginLog.h"
-#include "StatusBox.h"
 
 static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 

@@ -16,8 +16,8 @@
 #include "CommonUtils.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
-#include "ReplyLabel.h"
 #include "requests/USSDLogic.h"
+#include "ServiceReplyLabel.h"
 #include "tksv.h"
 #include "UssdCode.h"
 
@@ -209,7 +209,7 @@ void CUSSDSMSDlg::createWidgets()
     createInput();
     m_pSendButton = new QPushButton(this);
     m_pSendButton->setObjectName(objectNameOf("SendButton"));
-    m_pResultLabel = initLabel(new ReplyLabel(this), "ResultLabel");
+    m_pResultLabel = initLabel(new ServiceReplyLabel(this), "ResultLabel");
     m_pCaptionLabel->setBuddy(m_pInputEdit);
     m_listWidgets << m_pInfoLabel << m_pCaptionLabel << m_pInputEdit << m_pSendButton
                   << m_pResultLabel;

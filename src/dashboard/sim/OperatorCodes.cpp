@@ -4,7 +4,7 @@
 #include "device/DeviceWatcher.h"
 #include "InputFile.h"
 #include "InstallPaths.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "PluginFiles.h"
 #include "tksv_device.h"
 
@@ -191,7 +191,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
         return outcome;
     ProvisionOrder order;
     order.folder = folder();
-    order.pluginLibrary = UiPlugin::installedFile();
+    order.pluginLibrary = LoadedPlugin::installedFile();
     order.setChangedAside = setAside;
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {

@@ -1,7 +1,7 @@
 #include "PaidTypeFinder.h"
 
 #include "IUSSD.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "ReplyTimeout.h"
 
 using namespace Formats;
@@ -21,7 +21,7 @@ const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
 
-PaidTypeFinder::PaidTypeFinder(UiPlugin *plugin, QObject *parent)
+PaidTypeFinder::PaidTypeFinder(LoadedPlugin *plugin, QObject *parent)
     : QObject(parent), m_plugin(plugin)
 {
     m_container.add(QLatin1String(NotificationService::CLSID), &m_notifications);

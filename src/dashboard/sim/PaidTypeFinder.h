@@ -11,7 +11,7 @@
 namespace Dashboard
 {
 
-class UiPlugin;
+class LoadedPlugin;
 
 /**
  * Makes the plug-in ask the network, once for each SIM, whether the SIM is prepaid or postpaid. The
@@ -23,7 +23,7 @@ class PaidTypeFinder : public QObject
     Q_OBJECT
 public:
     /// `plugin` must outlive the finder.
-    explicit PaidTypeFinder(UiPlugin *plugin, QObject *parent = nullptr);
+    explicit PaidTypeFinder(LoadedPlugin *plugin, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
     /// Returns whether the question was sent and its answer is pending.
@@ -48,7 +48,7 @@ private slots:
 private:
     void setState(PaidType type, bool asking);
 
-    UiPlugin *const m_plugin;
+    LoadedPlugin *const m_plugin;
     NotificationService m_notifications;
     PluginContainer m_container;
     QTimer m_settling;  // runs while it is too early to ask

@@ -2,14 +2,14 @@
 
 #include "base/DashboardText.h"
 #include "device/DeviceWatcher.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "SimWindows.h"
 #include "tksv_device.h"
 
 namespace Dashboard
 {
 
-SimFollower::SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject *parent)
+SimFollower::SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent)
     : QObject(parent), m_plugin(plugin), m_device(device), m_finder(plugin, this)
 {
     connect(device, SIGNAL(changed()), this, SLOT(look()));

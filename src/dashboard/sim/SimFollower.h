@@ -11,7 +11,7 @@ namespace Dashboard
 {
 
 class DeviceWatcher;
-class UiPlugin;
+class LoadedPlugin;
 
 /**
  * Keeps the plug-in and the dashboard up to date with the SIM. Notifies the plug-in of another SIM,
@@ -23,7 +23,7 @@ class SimFollower : public QObject
     Q_OBJECT
 public:
     /// The plug-in and the device must outlive the follower.
-    SimFollower(UiPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
+    SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
     /// Returns "Prepaid", "Postpaid" or that the network is being asked, in the user's language;
     /// empty when the kind is unknown.
@@ -55,7 +55,7 @@ private:
     QString currentImsi() const;
     void offer();
 
-    UiPlugin *const m_plugin;
+    LoadedPlugin *const m_plugin;
     const DeviceWatcher *const m_device;
     ReplyTap m_replies;
     UserActivity m_activity;

@@ -34,7 +34,7 @@ const Leg LEGS[] = {
 
 } // namespace
 
-bool Tour::take(MainWindow *window, PrivateLibrary *library, const QString &folder)
+bool Tour::take(MainWindow *window, PrivatePluginFolder *library, const QString &folder)
 {
     TourAlbum album(folder);
     if (!album.makeFolder())

@@ -7,7 +7,7 @@ namespace Dashboard
 {
 
 class MainWindow;
-class PrivateLibrary;
+class PrivatePluginFolder;
 
 /**
  * Walks through the windows as a user would, in several languages, takes a picture at each stop and
@@ -19,7 +19,7 @@ namespace Tour
 /// Takes the whole tour and writes its files to `folder`, which is created when needed. `window`
 /// must be visible, with its plug-in loaded from `library`. Prints each step, and errors to
 /// standard error. Returns whether every stop was reached and every file was written.
-bool take(MainWindow *window, PrivateLibrary *library, const QString &folder);
+bool take(MainWindow *window, PrivatePluginFolder *library, const QString &folder);
 
 } // namespace Tour
 

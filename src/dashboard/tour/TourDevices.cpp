@@ -6,7 +6,7 @@
 
 #include "device/DeviceWatcher.h"
 #include "InstallPaths.h"
-#include "plugin/PrivateLibrary.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "sim/OperatorCodes.h"
 #include "tksv_device.h"
 #include "TourGuide.h"
@@ -177,7 +177,7 @@ bool walkTexts(TourGuide &guide)
 
 // ---- an operator's codes
 
-OperatorPlaces placesOfTour(const PrivateLibrary *library)
+OperatorPlaces placesOfTour(const PrivatePluginFolder *library)
 {
     OperatorPlaces places;
     places.database = HostCore::InstallPaths::share() + QLatin1String("/tour/tour-operators.xml");

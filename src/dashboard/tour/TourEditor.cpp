@@ -6,7 +6,7 @@
 #include <QTimer>
 
 #include "plugin/GeneralWindow.h"
-#include "plugin/PrivateLibrary.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "TourEditor.h"
 #include "TourGuide.h"
 #include "TourParts.h"
@@ -163,7 +163,7 @@ void TourEditor::onEditor()
 bool TourParts::walkEditor(TourGuide &guide)
 {
     TourEditor editor(&guide);
-    PrivateLibrary *library = guide.library();
+    PrivatePluginFolder *library = guide.library();
     const QString system = QLatin1String(SYSTEM_FILE);
     const int rows = 100;
     if (!guide.useNetwork() || !library->restore(system) || !guide.usePlugin() ||

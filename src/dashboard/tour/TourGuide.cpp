@@ -8,7 +8,7 @@
 #include "ExtendDialog.h"
 #include "InputFile.h"
 #include "InstallPaths.h"
-#include "plugin/PrivateLibrary.h"
+#include "plugin/PrivatePluginFolder.h"
 #include "QtCompat.h"
 #include "window/MainWindow.h"
 
@@ -58,7 +58,7 @@ QWidget *frameWith(const char *widgetName)
 
 } // namespace
 
-TourGuide::TourGuide(MainWindow *window, PrivateLibrary *library, TourAlbum *album)
+TourGuide::TourGuide(MainWindow *window, PrivatePluginFolder *library, TourAlbum *album)
     : m_window(window), m_library(library), m_album(album)
 {
     QCoreApplication::instance()->installEventFilter(this);

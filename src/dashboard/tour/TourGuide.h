@@ -13,7 +13,7 @@ namespace Dashboard
 {
 
 class MainWindow;
-class PrivateLibrary;
+class PrivatePluginFolder;
 
 /** A change of a file: the first `before` that follows the first `anchor` is replaced. */
 struct TourChange {
@@ -35,10 +35,10 @@ public:
 
     /// `window` must be visible, with its plug-in loaded from `library`. All arguments must outlive
     /// the guide.
-    TourGuide(MainWindow *window, PrivateLibrary *library, TourAlbum *album);
+    TourGuide(MainWindow *window, PrivatePluginFolder *library, TourAlbum *album);
 
     MainWindow *window() const { return m_window; }
-    PrivateLibrary *library() const { return m_library; }
+    PrivatePluginFolder *library() const { return m_library; }
 
     /// Selects the tour's simulated network with these changes.
     bool useNetwork(const TourChange *changes, int count);
@@ -85,7 +85,7 @@ private slots:
 
 private:
     MainWindow *const m_window;
-    PrivateLibrary *const m_library;
+    PrivatePluginFolder *const m_library;
     TourAlbum *const m_album;
     QPointer<QWidget> m_shown;
     const char *m_place = "";

@@ -28,7 +28,7 @@
 #include "OperatorNotice.h"
 #include "PageArea.h"
 #include "plugin/GeneralWindow.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 #include "TerminalText.h"
@@ -51,7 +51,7 @@ bool endsSession(int paidType)
 
 } // namespace
 
-MainWindow::MainWindow(UiPlugin *plugin, DashboardSettings *settings)
+MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
       m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
       m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
@@ -167,7 +167,7 @@ PluginFailure MainWindow::loadPlugin()
 {
     m_operatorCodes.look();
     m_isRestartDue = false;
-    return startWith(m_plugin->load(UiPlugin::installedFile()));
+    return startWith(m_plugin->load(LoadedPlugin::installedFile()));
 }
 
 PluginFailure MainWindow::restartPlugin()

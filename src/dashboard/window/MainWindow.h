@@ -26,7 +26,7 @@ class NetworkTextPanel;
 class NoticeBar;
 class OperatorNotice;
 class PageArea;
-class UiPlugin;
+class LoadedPlugin;
 class WindowButtons;
 struct DeviceChoice;
 
@@ -40,7 +40,7 @@ class MainWindow : public QMainWindow
 public:
     /// Both arguments must outlive the window. The plug-in must be shut down before the window is
     /// deleted. When `settings` is null, nothing is stored.
-    MainWindow(UiPlugin *plugin, DashboardSettings *settings);
+    MainWindow(LoadedPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
     /// Selects the simulated network of the scenario file; an empty name selects the default. On
@@ -102,7 +102,7 @@ private:
     void retranslate();
     void openFrameNow(int paidType);
 
-    UiPlugin *const m_plugin;
+    LoadedPlugin *const m_plugin;
     DashboardSettings *const m_settings;
     DeviceWatcher m_device;
     SimFollower m_sim;

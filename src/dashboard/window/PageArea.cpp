@@ -5,12 +5,12 @@
 #include <QVBoxLayout>
 
 #include "IUIPlugin.h"
-#include "plugin/UiPlugin.h"
+#include "plugin/LoadedPlugin.h"
 
 namespace Dashboard
 {
 
-PageArea::PageArea(UiPlugin *plugin, QWidget *parent)
+PageArea::PageArea(LoadedPlugin *plugin, QWidget *parent)
     : QScrollArea(parent), m_plugin(plugin), m_canvas(new QWidget), m_text(new QLabel(m_canvas))
 {
     m_text->setTextFormat(Qt::PlainText);

@@ -8,7 +8,7 @@ class QLabel;
 namespace Dashboard
 {
 
-class UiPlugin;
+class LoadedPlugin;
 
 /**
  * Contains the plug-in's embedded general window. The window fills the area and follows its size;
@@ -19,7 +19,7 @@ class PageArea : public QScrollArea
     Q_OBJECT
 public:
     /// `plugin` must outlive the area and must be shut down before the area is deleted.
-    explicit PageArea(UiPlugin *plugin, QWidget *parent = nullptr);
+    explicit PageArea(LoadedPlugin *plugin, QWidget *parent = nullptr);
 
     void showPage();
     void hidePage();
@@ -35,7 +35,7 @@ private:
     void makeRoom();
     void fitPage();
 
-    UiPlugin *const m_plugin;
+    LoadedPlugin *const m_plugin;
     QWidget *m_canvas;
     QLabel *m_text;
     bool m_isShown = false;

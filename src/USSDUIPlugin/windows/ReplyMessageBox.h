@@ -1,5 +1,5 @@
-#ifndef REPLYBOX_H
-#define REPLYBOX_H
+#ifndef REPLYMESSAGEBOX_H
+#define REPLYMESSAGEBOX_H
 
 #include <QMessageBox>
 
@@ -7,7 +7,7 @@
  * The message box that shows the network's reply to a top-up. The box consists of Qt's own classes
  * only, so that its deletion needs no code of the plug-in.
  */
-namespace ReplyBox
+namespace ReplyMessageBox
 {
 
 /// Returns a modal box, not shown yet, that is a child of `parent`. The box shows the reply as
@@ -17,6 +17,6 @@ QMessageBox *create(QWidget *parent, const QString &reply);
 /// Updates the title and the button to the current language.
 void retranslate(QMessageBox *box);
 
-} // namespace ReplyBox
+} // namespace ReplyMessageBox
 
 #endif

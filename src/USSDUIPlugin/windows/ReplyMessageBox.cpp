@@ -1,4 +1,4 @@
-#include "ReplyBox.h"
+#include "ReplyMessageBox.h"
 
 #include <QAbstractButton>
 #include <QGridLayout>
@@ -66,7 +66,7 @@ void showInView(QMessageBox *box, const QString &text)
 
 } // namespace
 
-namespace ReplyBox
+namespace ReplyMessageBox
 {
 
 QMessageBox *create(QWidget *parent, const QString &reply)
@@ -89,4 +89,4 @@ void retranslate(QMessageBox *box)
     box->buttons().first()->setText(pluginText(QLatin1String("IDS_BUTTON_OK")));
 }
 
-} // namespace ReplyBox
+} // namespace ReplyMessageBox

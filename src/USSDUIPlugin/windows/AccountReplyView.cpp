@@ -1,4 +1,4 @@
-#include "StatusBox.h"
+#include "AccountReplyView.h"
 
 #include <cmath>
 
@@ -11,7 +11,7 @@
 #include "base/PluginText.h"
 #include "markup/HeavyText.h"
 #include "markup/PieceFeeder.h"
-#include "ReplyLabel.h"
+#include "ServiceReplyLabel.h"
 
 namespace
 {
@@ -47,7 +47,7 @@ QString withoutDirectionMarks(QString text)
 
 } // namespace
 
-StatusBox::StatusBox(QWidget *parent)
+AccountReplyView::AccountReplyView(QWidget *parent)
     : QTextEdit(parent), m_feeder(new PieceFeeder(this)), m_lines(1)
 {
     setReadOnly(true);
@@ -59,20 +59,20 @@ StatusBox::StatusBox(QWidget *parent)
     fixHeight();
 }
 
-void StatusBox::setLines(int lines)
+void AccountReplyView::setLines(int lines)
 {
     m_lines = lines;
     fixHeight();
 }
 
-void StatusBox::showText(const QString &text)
+void AccountReplyView::showText(const QString &text)
 {
     m_ownKey = ownKeyOf(text);
-    setReply(holdsRightToLeftLetter(text) ? ReplyLabel::withCodesMarked(text) : text);
+    setReply(holdsRightToLeftLetter(text) ? ServiceReplyLabel::withCodesMarked(text) : text);
 }
 
 /// Shows a heavy text in pieces, each as a paragraph of its own. No network can send such a text.
-void StatusBox::setReply(const QString &text)
+void AccountReplyView::setReply(const QString &text)
 {
     m_feeder->drop();
     if (!HeavyText::isHeavy(text)) {
@@ -85,46 +85,46 @@ void StatusBox::setReply(const QString &text)
         m_feeder->add(pieces.at(i), QTextBlockFormat(), QTextCharFormat());
 }
 
-void StatusBox::retranslate()
+void AccountReplyView::retranslate()
 {
     if (!m_ownKey.isEmpty())
         setReply(pluginText(m_ownKey));
 }
 
-QSize StatusBox::sizeHint() const
+QSize AccountReplyView::sizeHint() const
 {
     return QSize(WIDTH, heightOfLines());
 }
 
-QSize StatusBox::minimumSizeHint() const
+QSize AccountReplyView::minimumSizeHint() const
 {
     return sizeHint();
 }
 
 /// Copies the selection without the direction marks that showText() adds: a copied code must be one
 /// that can be sent.
-QMimeData *StatusBox::createMimeDataFromSelection() const
+QMimeData *AccountReplyView::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;
     data->setText(withoutDirectionMarks(textCursor().selection().toPlainText()));
     return data;
 }
 
-void StatusBox::changeEvent(QEvent *event)
+void AccountReplyView::changeEvent(QEvent *event)
 {
     QTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         fixHeight();
 }
 
-void StatusBox::fixHeight()
+void AccountReplyView::fixHeight()
 {
     setFixedHeight(heightOfLines());
 }
 
 /// Returns the height of m_lines lines in a document, which rounds each line up and adds its own
 /// margins.
-int StatusBox::heightOfLines() const
+int AccountReplyView::heightOfLines() const
 {
     QTextDocument lines;
     lines.setDefaultFont(font());

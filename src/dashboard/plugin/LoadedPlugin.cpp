@@ -1,4 +1,4 @@
-#include "UiPlugin.h"
+#include "LoadedPlugin.h"
 
 #include <QFileInfo>
 #include <QLibrary>
@@ -31,18 +31,18 @@ bool isLoadableLibrary(const QString &file)
 
 } // namespace
 
-UiPlugin::~UiPlugin()
+LoadedPlugin::~LoadedPlugin()
 {
     shutDown();
 }
 
-QString UiPlugin::installedFile()
+QString LoadedPlugin::installedFile()
 {
     return PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
                              PluginFiles::LIBRARY);
 }
 
-PluginFailure UiPlugin::load(const QString &file)
+PluginFailure LoadedPlugin::load(const QString &file)
 {
     PluginFailure result = openLibrary(file);
     if (result.step == PluginFailure::None)
@@ -52,7 +52,7 @@ PluginFailure UiPlugin::load(const QString &file)
     return result;
 }
 
-PluginFailure UiPlugin::openLibrary(const QString &file)
+PluginFailure LoadedPlugin::openLibrary(const QString &file)
 {
     m_loader.setFileName(file);
     if (!QFileInfo(file).isFile()) {
@@ -71,7 +71,7 @@ PluginFailure UiPlugin::openLibrary(const QString &file)
                       : failure(PluginFailure::NoInstance, m_loader.errorString());
 }
 
-PluginFailure UiPlugin::takeInterfaces()
+PluginFailure LoadedPlugin::takeInterfaces()
 {
     IUIPlugin *plugin = qobject_cast<IUIPlugin *>(m_instance.data());
     if (!plugin)
@@ -85,14 +85,14 @@ PluginFailure UiPlugin::takeInterfaces()
     return failure(PluginFailure::None);
 }
 
-PluginFailure UiPlugin::startService()
+PluginFailure LoadedPlugin::startService()
 {
     if (!m_plugin->Init())
         return failure(PluginFailure::InitFailed);
     return takeService();
 }
 
-PluginFailure UiPlugin::takeService()
+PluginFailure LoadedPlugin::takeService()
 {
     QObject *service = nullptr;
     if (!m_plugin->QueryInterface(PluginContract::USSD_SERVICE, &service) || !service)
@@ -103,7 +103,7 @@ PluginFailure UiPlugin::takeService()
                             QLatin1String(qobject_interface_iid<IUSSD *>()));
 }
 
-PluginFailure UiPlugin::failure(PluginFailure::Step step, const QString &detail) const
+PluginFailure LoadedPlugin::failure(PluginFailure::Step step, const QString &detail) const
 {
     PluginFailure result;
     result.step = step;
@@ -112,19 +112,19 @@ PluginFailure UiPlugin::failure(PluginFailure::Step step, const QString &detail)
     return result;
 }
 
-void UiPlugin::notifyLanguageChange()
+void LoadedPlugin::notifyLanguageChange()
 {
     if (m_notify)
         m_notify->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }
 
-void UiPlugin::notifySimChange()
+void LoadedPlugin::notifySimChange()
 {
     if (m_notify)
         m_notify->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
 }
 
-PluginFailure UiPlugin::restart()
+PluginFailure LoadedPlugin::restart()
 {
     m_ussd = nullptr;
     m_plugin->UnSDKRegisterEvent();
@@ -132,7 +132,7 @@ PluginFailure UiPlugin::restart()
     return takeService();
 }
 
-void UiPlugin::shutDown()
+void LoadedPlugin::shutDown()
 {
     if (!m_instance)
         return;

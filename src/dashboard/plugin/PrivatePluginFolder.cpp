@@ -1,4 +1,4 @@
-#include "PrivateLibrary.h"
+#include "PrivatePluginFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,7 +58,7 @@ void setOrUnset(const char *variable, const QByteArray &value)
 
 } // namespace
 
-PrivateLibrary::PrivateLibrary()
+PrivatePluginFolder::PrivatePluginFolder()
     : m_installed(HostCore::InstallPaths::installedPluginLibrary() + PluginFiles::FOLDER),
       m_path(makeTemporaryFolder()), m_oldLibraryPath(qgetenv(LIBRARY_PATH)),
       m_oldUserData(qgetenv(USER_DATA))
@@ -68,7 +68,7 @@ PrivateLibrary::PrivateLibrary()
     qputenv(USER_DATA, QFile::encodeName(m_path + QLatin1String(USER_FOLDER)));
 }
 
-PrivateLibrary::~PrivateLibrary()
+PrivatePluginFolder::~PrivatePluginFolder()
 {
     setOrUnset(LIBRARY_PATH, m_oldLibraryPath);
     setOrUnset(USER_DATA, m_oldUserData);
@@ -76,7 +76,7 @@ PrivateLibrary::~PrivateLibrary()
         removeFolder(m_path);
 }
 
-bool PrivateLibrary::make()
+bool PrivatePluginFolder::make()
 {
     bool isMade = QDir().mkpath(m_path + PluginFiles::FOLDER) &&
                   QDir().mkpath(m_path + QLatin1String(USER_FOLDER));
@@ -86,23 +86,23 @@ bool PrivateLibrary::make()
     return isMade && QFile::link(plugin, fileName(PluginFiles::LIBRARY));
 }
 
-QString PrivateLibrary::fileName(const QString &name) const
+QString PrivatePluginFolder::fileName(const QString &name) const
 {
     return m_path + PluginFiles::FOLDER + QLatin1Char('/') + name;
 }
 
-QString PrivateLibrary::userProfileFile() const
+QString PrivatePluginFolder::userProfileFile() const
 {
     return m_path + QLatin1String(USER_FOLDER) + QLatin1String("ussdprofile.xml");
 }
 
-bool PrivateLibrary::restore(const QString &name)
+bool PrivatePluginFolder::restore(const QString &name)
 {
     return write(name, InputFile::content(m_installed + QLatin1Char('/') + name));
 }
 
-bool PrivateLibrary::change(const QString &name, const QByteArray &anchor, const QByteArray &before,
-                            const QByteArray &after)
+bool PrivatePluginFolder::change(const QString &name, const QByteArray &anchor,
+                                 const QByteArray &before, const QByteArray &after)
 {
     QByteArray content = InputFile::content(fileName(name));
     const int start = content.indexOf(anchor);
@@ -110,7 +110,7 @@ bool PrivateLibrary::change(const QString &name, const QByteArray &anchor, const
     return place >= 0 && write(name, content.replace(place, before.size(), after));
 }
 
-bool PrivateLibrary::write(const QString &name, const QByteArray &content)
+bool PrivatePluginFolder::write(const QString &name, const QByteArray &content)
 {
     return writeFile(fileName(name), content);
 }

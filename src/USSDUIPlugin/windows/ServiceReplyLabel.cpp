@@ -1,4 +1,4 @@
-#include "ReplyLabel.h"
+#include "ServiceReplyLabel.h"
 
 #include <QPainter>
 #include <QRegExp>
@@ -43,30 +43,30 @@ void layOut(QTextLayout &layout, const QSize &space)
 
 } // namespace
 
-ReplyLabel::ReplyLabel(QWidget *parent) : QLabel(parent)
+ServiceReplyLabel::ServiceReplyLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
 }
 
-QSize ReplyLabel::sizeHint() const
+QSize ServiceReplyLabel::sizeHint() const
 {
     return QSize(0, 0);
 }
 
-QSize ReplyLabel::minimumSizeHint() const
+QSize ServiceReplyLabel::minimumSizeHint() const
 {
     return QSize(0, 0);
 }
 
-QString ReplyLabel::withCodesMarked(const QString &text)
+QString ServiceReplyLabel::withCodesMarked(const QString &text)
 {
     QString marked = text;
     const QString around = QChar(EMBED) + QString::fromLatin1("\\1") + QChar(POP);
     return marked.replace(QRegExp(QLatin1String("([*#+][*#0-9]+)")), around);
 }
 
-void ReplyLabel::paintEvent(QPaintEvent *event)
+void ServiceReplyLabel::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event);
     QPainter painter(this);

@@ -1,5 +1,5 @@
-#ifndef PREPOSTVERDICT_H
-#define PREPOSTVERDICT_H
+#ifndef POSTPAIDREPLY_H
+#define POSTPAIDREPLY_H
 
 #include <QString>
 

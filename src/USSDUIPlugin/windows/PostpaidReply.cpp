@@ -1,4 +1,4 @@
-#include "PrePostVerdict.h"
+#include "PostpaidReply.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
-#ifndef PRIVATELIBRARY_H
-#define PRIVATELIBRARY_H
+#ifndef PRIVATEPLUGINFOLDER_H
+#define PRIVATEPLUGINFOLDER_H
 
 #include <QString>
 #include <QStringList>
@@ -13,14 +13,14 @@ namespace Dashboard
  * so that the plug-in changes neither the installed files nor the user's. Only one may exist at a
  * time. It must be constructed and deleted while no other thread uses the environment.
  */
-class PrivateLibrary
+class PrivatePluginFolder
 {
 public:
-    PrivateLibrary();
+    PrivatePluginFolder();
     /// Removes the folder and restores the environment.
-    ~PrivateLibrary();
-    PrivateLibrary(const PrivateLibrary &) = delete;
-    PrivateLibrary &operator=(const PrivateLibrary &) = delete;
+    ~PrivatePluginFolder();
+    PrivatePluginFolder(const PrivatePluginFolder &) = delete;
+    PrivatePluginFolder &operator=(const PrivatePluginFolder &) = delete;
 
     /// Returns false when the folder could not be created at path().
     bool isValid() const { return m_isValid; }

@@ -1,5 +1,5 @@
-#ifndef UIPLUGIN_H
-#define UIPLUGIN_H
+#ifndef LOADEDPLUGIN_H
+#define LOADEDPLUGIN_H
 
 #include <QPluginLoader>
 #include <QPointer>
@@ -20,14 +20,14 @@ namespace Dashboard
  *
  * The library is never unloaded: the plug-in does not allow it while the program runs.
  */
-class UiPlugin
+class LoadedPlugin
 {
 public:
-    UiPlugin() = default;
-    UiPlugin(const UiPlugin &) = delete;
-    UiPlugin &operator=(const UiPlugin &) = delete;
+    LoadedPlugin() = default;
+    LoadedPlugin(const LoadedPlugin &) = delete;
+    LoadedPlugin &operator=(const LoadedPlugin &) = delete;
     /// Calls shutDown().
-    ~UiPlugin();
+    ~LoadedPlugin();
 
     /// Returns the path of the installed plug-in.
     static QString installedFile();

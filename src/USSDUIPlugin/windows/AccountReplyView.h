@@ -1,5 +1,5 @@
-#ifndef STATUSBOX_H
-#define STATUSBOX_H
+#ifndef ACCOUNTREPLYVIEW_H
+#define ACCOUNTREPLYVIEW_H
 
 #include <QTextEdit>
 
@@ -10,10 +10,10 @@ class PieceFeeder;
  * lines; a longer reply scrolls. The plug-in's own texts follow the language. A code such as *111#
  * reads from left to right even among right-to-left letters.
  */
-class StatusBox : public QTextEdit
+class AccountReplyView : public QTextEdit
 {
 public:
-    explicit StatusBox(QWidget *parent = nullptr);
+    explicit AccountReplyView(QWidget *parent = nullptr);
 
     /// Sets how many lines are visible at once.
     void setLines(int lines);

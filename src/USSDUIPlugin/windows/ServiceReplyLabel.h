@@ -1,5 +1,5 @@
-#ifndef REPLYLABEL_H
-#define REPLYLABEL_H
+#ifndef SERVICEREPLYLABEL_H
+#define SERVICEREPLYLABEL_H
 
 #include <QLabel>
 
@@ -9,10 +9,10 @@
  * left to right. text() returns the reply unchanged, and the reply does not affect the size hint.
  * GUI thread only.
  */
-class ReplyLabel : public QLabel
+class ServiceReplyLabel : public QLabel
 {
 public:
-    explicit ReplyLabel(QWidget *parent);
+    explicit ServiceReplyLabel(QWidget *parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
