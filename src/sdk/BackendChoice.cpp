@@ -10,7 +10,7 @@
 #include "sim/SimulatedNetwork.h"
 #include "WaitingDevice.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -234,4 +234,4 @@ void BackendChoice::watchChanged()
     m_observer.infoChanged();
 }
 
-} // namespace tksv
+} // namespace Tksv

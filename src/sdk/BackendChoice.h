@@ -12,7 +12,7 @@
 #include "base/TaskQueue.h"
 #include "modemmanager/ModemWatch.h"
 
-namespace tksv
+namespace Tksv
 {
 
 class ModemManagerBackend;
@@ -90,6 +90,6 @@ private:
     Device m_device;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

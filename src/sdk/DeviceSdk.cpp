@@ -5,7 +5,7 @@
 
 #include "base/Records.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -210,4 +210,4 @@ void DeviceSdk::infoChanged()
         m_infoEvents.post(Event());
 }
 
-} // namespace tksv
+} // namespace Tksv

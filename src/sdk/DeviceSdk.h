@@ -9,7 +9,7 @@
 #include "SmsRecords.h"
 #include "UssdSession.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -70,6 +70,6 @@ private:
     BackendChoice m_choice;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 EventService::EventService(const char *threadName) : m_deliveries(threadName) {}
@@ -148,4 +148,4 @@ void EventService::waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintpt
                      [&] { return m_stopping || m_runningKey != key || m_callCount != callCount; });
 }
 
-} // namespace tksv
+} // namespace Tksv

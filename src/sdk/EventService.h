@@ -11,7 +11,7 @@
 
 #include "base/TaskQueue.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** An event on its way to the listeners of one service. */
@@ -94,6 +94,6 @@ private:
     TaskQueue m_deliveries; // the last member: its thread ends before the others are destroyed
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -36,4 +36,4 @@ std::string initialScenarioPath()
     return (libraryFolder() / USSD_SHARE_FROM_LIB / shipped).lexically_normal().string();
 }
 
-} // namespace tksv
+} // namespace Tksv

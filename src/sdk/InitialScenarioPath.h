@@ -3,13 +3,13 @@
 
 #include <string>
 
-namespace tksv
+namespace Tksv
 {
 
 /// Returns the path of the initial scenario file: $TKSV_SCENARIO, or else the file that is
 /// installed with the library.
 std::string initialScenarioPath();
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

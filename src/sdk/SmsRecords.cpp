@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 TKSV_SMSRecord SmsRecords::create(SmsMessage message)
@@ -29,4 +29,4 @@ bool SmsRecords::release(TKSV_SMSRecord record)
     return m_records.erase(record) > 0;
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -9,10 +9,10 @@
 #include "base/Backend.h"
 
 struct TKSV_SMSRecordData {
-    tksv::SmsMessage message;
+    Tksv::SmsMessage message;
 };
 
-namespace tksv
+namespace Tksv
 {
 
 /** The messages that clients hold. A handle is looked up and never dereferenced. */
@@ -30,6 +30,6 @@ private:
     std::map<TKSV_SMSRecord, std::unique_ptr<TKSV_SMSRecordData>> m_records;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -7,7 +7,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -84,4 +84,4 @@ bool createFolder(const std::string &path)
     return isFolder(path) || createOneFolder(path);
 }
 
-} // namespace tksv
+} // namespace Tksv

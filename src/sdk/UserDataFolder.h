@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -17,6 +17,6 @@ std::string userDataFolder();
 /// whether the folder exists.
 bool createFolder(const std::string &path);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -5,7 +5,7 @@
 #include "base/CodeForm.h"
 #include "base/Records.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -130,4 +130,4 @@ void UssdSession::postHeldTexts()
         handleText(text);
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -11,7 +11,7 @@
 #include "base/Backend.h"
 #include "EventService.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** A text that no call-back of the client took. */
@@ -74,6 +74,6 @@ private:
     std::deque<UntakenText> m_untaken;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

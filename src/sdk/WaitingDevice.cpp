@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 void WaitingDevice::start(BackendObserver &observer)
@@ -71,4 +71,4 @@ void WaitingDevice::handOver(const std::shared_ptr<Backend> &device)
         m_observer->ussdReply(kept->token, UssdReply{UssdEndedByNetwork, std::string()});
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -8,7 +8,7 @@
 
 #include "base/Backend.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -43,6 +43,6 @@ private:
     std::shared_ptr<Backend> m_device;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

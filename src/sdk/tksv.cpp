@@ -7,7 +7,7 @@
 #include "DeviceSdk.h"
 #include "UserDataFolder.h"
 
-using namespace tksv;
+using namespace Tksv;
 
 namespace
 {

@@ -13,7 +13,7 @@ QString text(const std::string &utf8)
     return QString::fromUtf8(utf8.data(), int(utf8.size()));
 }
 
-CheckTable networkTable(const tksv::Scenario &scenario)
+CheckTable networkTable(const Tksv::Scenario &scenario)
 {
     CheckTable table;
     table.title = QLatin1String("Network");
@@ -24,7 +24,7 @@ CheckTable networkTable(const tksv::Scenario &scenario)
     return table;
 }
 
-CheckTable codesTable(const tksv::Scenario &scenario)
+CheckTable codesTable(const Tksv::Scenario &scenario)
 {
     CheckTable table;
     table.title = QLatin1String("Codes and answers");
@@ -40,9 +40,9 @@ CheckTable codesTable(const tksv::Scenario &scenario)
 
 void checkScenario(const QByteArray &content, CheckReport &report)
 {
-    const tksv::ScenarioResult result = tksv::readScenario(
+    const Tksv::ScenarioResult result = Tksv::readScenario(
         std::string(content.constData(), size_t(content.size())), report.file.toUtf8().constData());
-    for (const tksv::Complaint &complaint : result.complaints)
+    for (const Tksv::Complaint &complaint : result.complaints)
         addFinding(report, complaint.line, 0, "scenario", text(complaint.text));
     if (!result.scenario)
         return;

@@ -2,5 +2,5 @@
 
 int main(int argc, char **argv)
 {
-    return runConfigTool(startTool(argc, argv));
+    return Tools::runConfigTool(Tools::startTool(argc, argv));
 }

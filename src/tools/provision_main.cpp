@@ -2,5 +2,5 @@
 
 int main(int argc, char **argv)
 {
-    return runProvisionTool(startTool(argc, argv));
+    return Tools::runProvisionTool(Tools::startTool(argc, argv));
 }

@@ -17,7 +17,7 @@ namespace
 
 bool isText(const std::string &text)
 {
-    return text.empty() || tksv::toUtf16(text).has_value();
+    return text.empty() || Tksv::toUtf16(text).has_value();
 }
 
 void checkHex(const std::string &raw)

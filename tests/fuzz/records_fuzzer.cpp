@@ -64,15 +64,15 @@ void checkRequest(const QString &command)
     TKSV_USSDRequest request;
     const bool fits = SdkRecords::encodeRequest(command, request);
     FUZZ_REQUIRE(fits == (command.length() <= 91));
-    const auto decoded = tksv::decodeRequest(&request);
+    const auto decoded = Tksv::decodeRequest(&request);
     if (!fits || command.isEmpty()) {
         FUZZ_REQUIRE(request.length == 0 && !decoded);
         return;
     }
-    const bool isText = tksv::toUtf8(command.toStdU16String()).has_value();
+    const bool isText = Tksv::toUtf8(command.toStdU16String()).has_value();
     FUZZ_REQUIRE(!isText || !command.contains(QChar(0)));
     FUZZ_REQUIRE(decoded.has_value() == isText);
-    FUZZ_REQUIRE(!isText || tksv::toUtf16(*decoded) == command.toStdU16String());
+    FUZZ_REQUIRE(!isText || Tksv::toUtf16(*decoded) == command.toStdU16String());
 }
 
 /// Checks a record with arbitrary content.
@@ -80,31 +80,31 @@ void checkRawRequest(const uint8_t *data, size_t size)
 {
     TKSV_USSDRequest request = {};
     std::memcpy(&request, data, std::min(size, sizeof request));
-    const auto decoded = tksv::decodeRequest(&request);
+    const auto decoded = Tksv::decodeRequest(&request);
     FUZZ_REQUIRE(!decoded || request.length <= sizeof request.text);
-    FUZZ_REQUIRE(!decoded || tksv::toUtf16(*decoded).has_value());
+    FUZZ_REQUIRE(!decoded || Tksv::toUtf16(*decoded).has_value());
 }
 
 /// Checks a reply from a modem. Bytes that are not valid UTF-8 become an empty text.
 void checkReply(const std::string &bytes)
 {
-    tksv::UssdReply reply;
+    Tksv::UssdReply reply;
     reply.text = bytes;
-    const std::shared_ptr<void> record = tksv::encodeResponse(reply);
+    const std::shared_ptr<void> record = Tksv::encodeResponse(reply);
     const QString text = SdkRecords::responseText(record.get());
-    const auto units = tksv::toUtf16(bytes);
+    const auto units = Tksv::toUtf16(bytes);
     FUZZ_REQUIRE(text == upToZero(QString::fromStdU16String(units.value_or(u""))));
 }
 
 void checkCopiedText(const std::string &bytes, size_t size)
 {
     std::vector<char> target(size + 1, 'x');
-    tksv::copyText(bytes, target.data(), size);
+    Tksv::copyText(bytes, target.data(), size);
     FUZZ_REQUIRE(target[size] == 'x');
     if (size == 0)
         return;
     const std::string copied(target.data());
-    FUZZ_REQUIRE(copied.size() < size && tksv::startsWith(bytes, copied));
+    FUZZ_REQUIRE(copied.size() < size && Tksv::startsWith(bytes, copied));
 }
 
 } // namespace

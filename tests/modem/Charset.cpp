@@ -56,7 +56,7 @@ bool appendSeptets(Bytes &septets, char16_t unit)
 
 std::u16string unitsOf(const std::string &text)
 {
-    return tksv::toUtf16(text).value_or(std::u16string(1, REPLACEMENT));
+    return Tksv::toUtf16(text).value_or(std::u16string(1, REPLACEMENT));
 }
 
 Bytes toUcs2(const std::string &text)
@@ -177,7 +177,7 @@ std::string fromUcs2(const Bytes &bytes)
     std::u16string units;
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
         units += static_cast<char16_t>(bytes[i] << 8 | bytes[i + 1]);
-    return tksv::toUtf8(units).value_or("\uFFFD");
+    return Tksv::toUtf8(units).value_or("\uFFFD");
 }
 
 std::string fromSeptets(const Bytes &septets)
@@ -187,7 +187,7 @@ std::string fromSeptets(const Bytes &septets)
         const bool escaped = septets[i] == ESCAPE && i + 1 < septets.size();
         units += escaped ? extended(septets[++i]) : DEFAULT_ALPHABET[septets[i] % ALPHABET_SIZE];
     }
-    return tksv::toUtf8(units).value_or(std::string());
+    return Tksv::toUtf8(units).value_or(std::string());
 }
 
 std::optional<Bytes> toSeptets(const std::string &text)

@@ -40,7 +40,7 @@ FakeModem::~FakeModem()
     m_core.reset();
 }
 
-void FakeModem::useScenario(tksv::Scenario scenario, Clock clock)
+void FakeModem::useScenario(Tksv::Scenario scenario, Clock clock)
 {
     m_thread->call([&] {
         m_core->useNetwork(std::move(scenario));

@@ -50,7 +50,7 @@ public:
 
     /// Another network, and a SIM for it; what was on its way is forgotten. A daemon reads the SIM
     /// when the modem is plugged in again.
-    void useScenario(tksv::Scenario scenario, Clock clock = Clock::Running);
+    void useScenario(Tksv::Scenario scenario, Clock clock = Clock::Running);
     void startClock();
 
     /// Listens on the port. Empty on success, else why it cannot.

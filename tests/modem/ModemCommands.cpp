@@ -242,10 +242,10 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
 /// an error, since the modem is there to say so.
 AtAnswer ModemCore::startUssd(const std::string &text)
 {
-    switch (m_network ? m_network->sendUssd(text) : tksv::RequestNoDevice) {
-    case tksv::RequestAccepted:
+    switch (m_network ? m_network->sendUssd(text) : Tksv::RequestNoDevice) {
+    case Tksv::RequestAccepted:
         return ok();
-    case tksv::RequestDeviceTimeout:
+    case Tksv::RequestDeviceTimeout:
         return noAnswer();
     default:
         return equipmentError(NO_NETWORK_SERVICE);
@@ -286,7 +286,7 @@ AtAnswer ModemCore::smsFormat(const AtCommand &command)
 
 AtAnswer ModemCore::submit(const AtCommand &command)
 {
-    m_pduLength = tksv::isDigits(command.value(0)) ? std::stoul(command.value(0)) : 0;
+    m_pduLength = Tksv::isDigits(command.value(0)) ? std::stoul(command.value(0)) : 0;
     m_readsPdu = true;
     m_port.write("\r\n> ");
     return noAnswer();
@@ -311,11 +311,11 @@ AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
     for (const auto &part : parts)
         text += part.second;
     m_smsParts.erase(sms.reference);
-    return deliver(tksv::SmsMessage{tksv::toUtf16(sms.number).value_or(std::u16string()),
-                                    tksv::toUtf16(text).value_or(std::u16string())});
+    return deliver(Tksv::SmsMessage{Tksv::toUtf16(sms.number).value_or(std::u16string()),
+                                    Tksv::toUtf16(text).value_or(std::u16string())});
 }
 
-AtAnswer ModemCore::deliver(const tksv::SmsMessage &message)
+AtAnswer ModemCore::deliver(const Tksv::SmsMessage &message)
 {
     if (!m_network || !m_network->sendSms(message))
         return messageError(SMS_NO_NETWORK);
@@ -340,7 +340,7 @@ void ModemCore::receiveSms(const std::string &pdu)
 
 AtAnswer ModemCore::readSms(const AtCommand &command)
 {
-    const int index = tksv::isDigits(command.value(0)) ? std::stoi(command.value(0)) : 0;
+    const int index = Tksv::isDigits(command.value(0)) ? std::stoi(command.value(0)) : 0;
     const auto found = m_storedSms.find(index);
     if (found == m_storedSms.end())
         return messageError(SMS_INVALID_INDEX);

@@ -33,7 +33,7 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 /* ---- the network ------------------------------------------------------------------------- */
 
 /// The PIN is the modem's business: behind a locked SIM lies a network that is ready.
-void ModemCore::useNetwork(tksv::Scenario scenario)
+void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;
     sim.imsi = scenario.imsi;
@@ -62,9 +62,9 @@ void ModemCore::useNetwork(tksv::Scenario scenario)
 NetworkNews ModemCore::networkNews()
 {
     NetworkNews news;
-    news.ussd = [this](const tksv::UssdReply &reply) { sayUssd(reply.type, reply.text); };
+    news.ussd = [this](const Tksv::UssdReply &reply) { sayUssd(reply.type, reply.text); };
     news.lost = [this](int event) { networkLost(event); };
-    news.smsFinished = [this](const tksv::SmsMessage &, int result) { smsFinished(result); };
+    news.smsFinished = [this](const Tksv::SmsMessage &, int result) { smsFinished(result); };
     news.infoChanged = [this] { networkChanged(); };
     return news;
 }
@@ -80,9 +80,9 @@ bool ModemCore::isPresent() const
     return stateOf(m_network) != TKSV_DEVICE_ABSENT;
 }
 
-tksv::DeviceInfo ModemCore::device() const
+Tksv::DeviceInfo ModemCore::device() const
 {
-    return m_network ? m_network->info() : tksv::DeviceInfo();
+    return m_network ? m_network->info() : Tksv::DeviceInfo();
 }
 
 void ModemCore::unplug()
@@ -103,7 +103,7 @@ void ModemCore::networkLost(int event)
 /// order have no line of their own: the registration is lost for that time.
 void ModemCore::networkChanged()
 {
-    const tksv::DeviceInfo now = device();
+    const Tksv::DeviceInfo now = device();
     const TKSV_DeviceState before = std::exchange(m_toldState, now.state);
     if (before == now.state || now.state == TKSV_DEVICE_ABSENT) {
         // the same hardware
@@ -128,7 +128,7 @@ void ModemCore::networkChanged()
 /// The <stat> of 3GPP TS 27.007, 7.2: 1 at home, 5 roaming, 2 searching.
 int ModemCore::registrationStatus() const
 {
-    const tksv::DeviceInfo now = device();
+    const Tksv::DeviceInfo now = device();
     const bool lostSms = m_network && m_network->isSmsReadyAtFirst() && !now.canSendSms;
     if (now.state != TKSV_DEVICE_REGISTERED || lostSms || !m_sim.isUsable() || m_functionality != 1)
         return 2;
@@ -219,7 +219,7 @@ void ModemCore::misbehave(const Misbehaviour &fault, const std::function<AtAnswe
 
 AtAnswer ModemCore::handle(const std::string &line)
 {
-    if (!tksv::startsWith(line, "AT"))
+    if (!Tksv::startsWith(line, "AT"))
         return error();
     const AtCommand command = parseAtCommand(line.substr(2));
     const auto found = handlers().find(command.name);

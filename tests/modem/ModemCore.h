@@ -33,7 +33,7 @@ class ModemCore
 public:
     ModemCore(LoopThread &thread, const std::string &port, ModemSettings settings, ModemNews news);
 
-    void useNetwork(tksv::Scenario scenario);
+    void useNetwork(Tksv::Scenario scenario);
     void startClock();
     /// Empty on success, else why not.
     std::string plugIn() { return m_port.listen(); }
@@ -85,13 +85,13 @@ private:
 
     AtAnswer startUssd(const std::string &text);
     AtAnswer deliverPart(const SubmittedSms &sms);
-    AtAnswer deliver(const tksv::SmsMessage &message);
+    AtAnswer deliver(const Tksv::SmsMessage &message);
     AtAnswer submitted();
     NetworkNews networkNews();
     void smsFinished(int result);
     void networkLost(int event);
     void networkChanged();
-    tksv::DeviceInfo device() const;
+    Tksv::DeviceInfo device() const;
     int registrationStatus() const;
     std::string networkCode() const;
 

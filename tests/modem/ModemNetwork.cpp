@@ -37,7 +37,7 @@ modem::ModemWorld &world()
 }
 
 /// A modem that is switched off is switched on by the library, and then searches.
-bool isReady(const tksv::Scenario &scenario)
+bool isReady(const Tksv::Scenario &scenario)
 {
     const TKSV_DeviceInfo now = deviceInfo();
     if (scenario.state != TKSV_DEVICE_REGISTERED)
@@ -64,9 +64,9 @@ namespace SdkFixture
 /// The library is to see the earlier modem go, or it would take that one for the new one.
 std::string useNetwork(const std::string &scenario)
 {
-    const tksv::ScenarioResult result = tksv::readScenario(scenario, "test.scenario");
+    const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");
     if (!result.scenario)
-        return tksv::describe(result.complaints);
+        return Tksv::describe(result.complaints);
     modem::ModemWorld &here = world();
     if (here.hasModem(MODEM_ID))
         here.unplug(MODEM_ID);

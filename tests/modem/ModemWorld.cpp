@@ -253,9 +253,9 @@ std::string ModemWorld::addModem(const std::string &id, const std::string &scena
 std::string ModemWorld::useScenario(const std::string &id, const std::string &scenario,
                                     FakeModem::Clock clock)
 {
-    tksv::ScenarioResult result = tksv::readScenario(scenario, id + ".scenario");
+    Tksv::ScenarioResult result = Tksv::readScenario(scenario, id + ".scenario");
     if (!result.scenario)
-        return tksv::describe(result.complaints);
+        return Tksv::describe(result.complaints);
     unplug(id);
     modem(id).useScenario(*std::move(result.scenario), clock);
     if (modem(id).isPresent())

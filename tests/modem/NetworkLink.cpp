@@ -7,7 +7,7 @@
 namespace modem
 {
 
-NetworkLink::NetworkLink(LoopThread &thread, tksv::Scenario scenario, NetworkNews news)
+NetworkLink::NetworkLink(LoopThread &thread, Tksv::Scenario scenario, NetworkNews news)
     : m_thread(thread), m_news(std::move(news)), m_smsReadyAtFirst(scenario.smsReady),
       m_network(std::move(scenario))
 {
@@ -29,11 +29,11 @@ void NetworkLink::start()
 int NetworkLink::sendUssd(const std::string &text)
 {
     if (!m_started)
-        return tksv::RequestNoDevice;
-    const bool isAnswer = m_waitsForAnswer && !tksv::hasFormOfCode(text);
+        return Tksv::RequestNoDevice;
+    const bool isAnswer = m_waitsForAnswer && !Tksv::hasFormOfCode(text);
     const int status = m_network.request(
-        ++m_lastToken, isAnswer ? tksv::RequestKind::Answer : tksv::RequestKind::NewSession, text);
-    if (status == tksv::RequestAccepted)
+        ++m_lastToken, isAnswer ? Tksv::RequestKind::Answer : Tksv::RequestKind::NewSession, text);
+    if (status == Tksv::RequestAccepted)
         m_waitsForAnswer = false;
     return status;
 }
@@ -45,7 +45,7 @@ void NetworkLink::endUssd()
     m_network.endSession();
 }
 
-bool NetworkLink::sendSms(const tksv::SmsMessage &message)
+bool NetworkLink::sendSms(const Tksv::SmsMessage &message)
 {
     return m_started && m_network.sendSms(message);
 }
@@ -60,7 +60,7 @@ void NetworkLink::post(std::function<void(NetworkLink &)> action)
     });
 }
 
-void NetworkLink::ussdReply(tksv::RequestToken token, const tksv::UssdReply &reply)
+void NetworkLink::ussdReply(Tksv::RequestToken token, const Tksv::UssdReply &reply)
 {
     post([=](NetworkLink &link) {
         if (token == link.m_lastToken)
@@ -68,7 +68,7 @@ void NetworkLink::ussdReply(tksv::RequestToken token, const tksv::UssdReply &rep
     });
 }
 
-void NetworkLink::ussdText(const tksv::UssdReply &text)
+void NetworkLink::ussdText(const Tksv::UssdReply &text)
 {
     post([=](NetworkLink &link) { link.deliver(text); });
 }
@@ -84,7 +84,7 @@ void NetworkLink::deviceLost(int event)
 /// Stands in the device's information too.
 void NetworkLink::smsStatusChanged(bool) {}
 
-void NetworkLink::smsFinished(const tksv::SmsMessage &message, int result)
+void NetworkLink::smsFinished(const Tksv::SmsMessage &message, int result)
 {
     post([=](NetworkLink &link) { link.m_news.smsFinished(message, result); });
 }
@@ -94,9 +94,9 @@ void NetworkLink::infoChanged()
     post([](NetworkLink &link) { link.m_news.infoChanged(); });
 }
 
-void NetworkLink::deliver(const tksv::UssdReply &reply)
+void NetworkLink::deliver(const Tksv::UssdReply &reply)
 {
-    m_waitsForAnswer = reply.type == tksv::UssdWaitsForAnswer;
+    m_waitsForAnswer = reply.type == Tksv::UssdWaitsForAnswer;
     m_news.ussd(reply);
 }
 

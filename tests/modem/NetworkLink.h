@@ -15,9 +15,9 @@ namespace modem
 
 /** What the network told the modem; each function is called on the modem's thread. */
 struct NetworkNews {
-    std::function<void(const tksv::UssdReply &)> ussd;
+    std::function<void(const Tksv::UssdReply &)> ussd;
     std::function<void(int event)> lost;
-    std::function<void(const tksv::SmsMessage &, int result)> smsFinished;
+    std::function<void(const Tksv::SmsMessage &, int result)> smsFinished;
     std::function<void()> infoChanged;
 };
 
@@ -25,40 +25,40 @@ struct NetworkNews {
  * The simulated network behind the modem, played from a scenario. It speaks on a thread of its own;
  * the link brings that to the modem's thread, in its order. Used there only.
  */
-class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private tksv::BackendObserver
+class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private Tksv::BackendObserver
 {
 public:
     /// The times of the scenario count from start().
-    NetworkLink(LoopThread &thread, tksv::Scenario scenario, NetworkNews news);
+    NetworkLink(LoopThread &thread, Tksv::Scenario scenario, NetworkNews news);
     ~NetworkLink() override;
 
     void start();
     bool isStarted() const { return m_started; }
 
-    /// A tksv::RequestStatus. While a menu waits, a text without the form of a code is its answer.
+    /// A Tksv::RequestStatus. While a menu waits, a text without the form of a code is its answer.
     int sendUssd(const std::string &text);
     void endUssd();
-    bool sendSms(const tksv::SmsMessage &message);
-    tksv::DeviceInfo info() const { return m_network.info(); }
+    bool sendSms(const Tksv::SmsMessage &message);
+    Tksv::DeviceInfo info() const { return m_network.info(); }
     bool isSmsReadyAtFirst() const { return m_smsReadyAtFirst; }
 
 private:
-    void ussdReply(tksv::RequestToken token, const tksv::UssdReply &reply) override;
-    void ussdText(const tksv::UssdReply &text) override;
+    void ussdReply(Tksv::RequestToken token, const Tksv::UssdReply &reply) override;
+    void ussdText(const Tksv::UssdReply &text) override;
     void deviceLost(int event) override;
     void smsStatusChanged(bool canSend) override;
-    void smsFinished(const tksv::SmsMessage &message, int result) override;
+    void smsFinished(const Tksv::SmsMessage &message, int result) override;
     void infoChanged() override;
     void post(std::function<void(NetworkLink &)> action);
-    void deliver(const tksv::UssdReply &reply);
+    void deliver(const Tksv::UssdReply &reply);
 
     LoopThread &m_thread;
     const NetworkNews m_news;
     const bool m_smsReadyAtFirst;
     bool m_started = false;
     bool m_waitsForAnswer = false;
-    tksv::RequestToken m_lastToken = 0;
-    tksv::SimulatedNetwork m_network;
+    Tksv::RequestToken m_lastToken = 0;
+    Tksv::SimulatedNetwork m_network;
 };
 
 } // namespace modem

@@ -4,7 +4,7 @@
 #include "sim/Scenario.h"
 #include "sim/ScenarioReader.h"
 
-using namespace tksv;
+using namespace Tksv;
 
 namespace
 {

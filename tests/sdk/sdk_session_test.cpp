@@ -13,7 +13,7 @@
 #include "SdkFixture.h"
 #include "UssdSession.h"
 
-using namespace tksv;
+using namespace Tksv;
 
 namespace
 {

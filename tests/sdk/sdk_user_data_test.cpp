@@ -106,7 +106,7 @@ void SdkUserData::withoutHomeTheUserDatabaseIsAsked()
     // The path alone: a test makes nothing in somebody's home.
     qputenv("HOME", "");
     const QString home = QString::fromLocal8Bit(getpwuid(getuid())->pw_dir);
-    const QString path = QString::fromStdString(tksv::userDataFolder());
+    const QString path = QString::fromStdString(Tksv::userDataFolder());
     QCOMPARE(path, QDir(home).filePath(QString::fromLatin1(".local/share/ussd-dashboard/")));
 }
 

@@ -10,9 +10,9 @@ namespace
 
 std::atomic<qint64> g_now(0);
 
-tksv::SimulatorClock::Time networkTime()
+Tksv::SimulatorClock::Time networkTime()
 {
-    return tksv::SimulatorClock::Time(std::chrono::milliseconds(g_now.load()));
+    return Tksv::SimulatorClock::Time(std::chrono::milliseconds(g_now.load()));
 }
 
 } // namespace
@@ -23,13 +23,13 @@ namespace SoakClock
 void install()
 {
     ReplyTimer::setClock(&now);
-    tksv::SimulatorClock::setSource(&networkTime);
+    Tksv::SimulatorClock::setSource(&networkTime);
 }
 
 void advance(int milliseconds)
 {
     g_now += milliseconds;
-    tksv::SimulatorClock::notifyJump();
+    Tksv::SimulatorClock::notifyJump();
 }
 
 qint64 now()

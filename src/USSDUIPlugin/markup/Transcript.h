@@ -5,7 +5,10 @@
 
 #include "MarkupCost.h"
 
+namespace Formats
+{
 struct Char;
+}
 
 /*
  * Builds the entries of the general dialog's transcript as markup, by plain functions on plain
@@ -37,8 +40,8 @@ struct Entry {
 
 /// Returns the entry for a text. Tags in `text` count as markup; a "<" that begins no tag is a
 /// letter.
-Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
-            const QString &text);
+Entry entry(Direction direction, const Formats::Char &look, bool rightToLeft,
+            const QString &caption, const QString &text);
 
 /// Returns a complete document with the markup of these entries.
 QString document(const QString &entries);

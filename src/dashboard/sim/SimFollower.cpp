@@ -24,7 +24,7 @@ SimFollower::SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObj
 
 QString SimFollower::paidTypeText() const
 {
-    return isAsking() ? dashboardText("PAID_ASKING") : ::paidTypeText(m_finder.paidType());
+    return isAsking() ? dashboardText("PAID_ASKING") : Dashboard::paidTypeText(m_finder.paidType());
 }
 
 void SimFollower::start()

@@ -7,7 +7,7 @@
 
 #include "tksv_device.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /// Identifies an accepted request; 0 stands for no request.
@@ -126,6 +126,6 @@ public:
     virtual DeviceInfo info() const = 0;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -1,6 +1,6 @@
 #include "CodeForm.h"
 
-namespace tksv
+namespace Tksv
 {
 
 bool hasFormOfCode(const std::string &text)
@@ -8,4 +8,4 @@ bool hasFormOfCode(const std::string &text)
     return text.size() > 1 && (text.front() == '*' || text.front() == '#') && text.back() == '#';
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -3,13 +3,13 @@
 
 #include <string>
 
-namespace tksv
+namespace Tksv
 {
 
 /// Returns whether the text has the form of a code: it starts with * or # and ends with #. Such a
 /// text opens a session of its own, even while the network waits for an answer.
 bool hasFormOfCode(const std::string &text);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -6,7 +6,7 @@
 
 #include "Text.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -73,4 +73,4 @@ std::u16string decodeText(const unsigned short *text)
     return std::u16string(text, end);
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -10,7 +10,7 @@
 
 /* Conversions between the records of tksv.h and plain values. */
 
-namespace tksv
+namespace Tksv
 {
 
 /// Returns the command in UTF-8, or nothing when the record is null or malformed: a length of 0,
@@ -27,6 +27,6 @@ std::shared_ptr<void> encodeSmsStatus(bool canSend);
 /// Returns the text up to its terminating zero unit.
 std::u16string decodeText(const unsigned short *text);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -3,7 +3,7 @@
 #include <system_error>
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 TaskQueue::TaskQueue(const char *threadName) : m_threadName(threadName) {}
@@ -69,4 +69,4 @@ void TaskQueue::run()
     }
 }
 
-} // namespace tksv
+} // namespace Tksv

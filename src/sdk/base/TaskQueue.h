@@ -9,7 +9,7 @@
 
 #include "WorkerThread.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -48,6 +48,6 @@ private:
     WorkerThread m_thread;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <glib.h>
 
-namespace tksv
+namespace Tksv
 {
 
 std::optional<std::string> toUtf8(const std::u16string &text)
@@ -65,4 +65,4 @@ void copyText(const std::string &text, char *target, std::size_t size)
     target[length] = '\0';
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace tksv
+namespace Tksv
 {
 
 /// Returns nothing when the text is malformed (a lone surrogate) or contains a zero unit.
@@ -22,6 +22,6 @@ bool endsWith(const std::string &text, const std::string &end);
 /// that is too long is cut between two characters. Does nothing when `size` is 0.
 void copyText(const std::string &text, char *target, std::size_t size);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -6,7 +6,7 @@
 #include <pthread.h>
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 /** Tells whether the body has returned. The thread shares it and may outlive the WorkerThread. */
@@ -88,4 +88,4 @@ bool WorkerThread::finish(std::chrono::milliseconds limit)
     return false;
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -6,7 +6,7 @@
 #include <memory>
 #include <thread>
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -41,6 +41,6 @@ private:
 /// For finish(): a limit that is never reached.
 const std::chrono::milliseconds NO_LIMIT = std::chrono::hours(24);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -8,7 +8,7 @@
 
 /* Closures as call-backs of GIO's asynchronous functions. */
 
-namespace tksv
+namespace Tksv
 {
 
 using AsyncDone = std::function<void(GObject *source, GAsyncResult *result)>;
@@ -55,6 +55,6 @@ private:
     GCancellable *m_cancellable;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

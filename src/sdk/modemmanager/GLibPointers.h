@@ -7,7 +7,7 @@
 
 /* Smart pointers to the objects and memory of GLib. */
 
-namespace tksv
+namespace Tksv
 {
 
 struct GObjectDeleter {
@@ -60,6 +60,6 @@ private:
     GError *m_error = nullptr;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

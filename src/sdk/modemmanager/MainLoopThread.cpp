@@ -4,7 +4,7 @@
 #include <mutex>
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -138,4 +138,4 @@ void MainLoopThread::stop(const Task &last)
     m_thread.finish(NO_LIMIT);
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -9,7 +9,7 @@
 
 #include "../base/WorkerThread.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -57,6 +57,6 @@ private:
     WorkerThread m_thread;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -5,7 +5,7 @@
 #include "ModemWatch.h"
 #include "UssdErrors.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -232,4 +232,4 @@ TKSV_DeviceProblem ModemDevice::problem() const
     return m_problem;
 }
 
-} // namespace tksv
+} // namespace Tksv

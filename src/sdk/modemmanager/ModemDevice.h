@@ -13,7 +13,7 @@
 #include "SmsSender.h"
 #include "UssdChannel.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -74,6 +74,6 @@ private:
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // found by the last call
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

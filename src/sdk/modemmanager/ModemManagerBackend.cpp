@@ -5,7 +5,7 @@
 
 #include "../base/Text.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -223,4 +223,4 @@ TKSV_DeviceProblem ModemManagerBackend::problemWithoutModem() const
     }
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -9,7 +9,7 @@
 #include "ModemDevice.h"
 #include "ModemWatch.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -62,6 +62,6 @@ private:
 /// Returns whether the daemon can safely put the text between quotes into an AT command.
 bool isSafeForModem(const std::string &text);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -249,4 +249,4 @@ void ModemWatch::setState(ServiceState state)
     m_changed();
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -12,7 +12,7 @@
 #include "MainLoopThread.h"
 #include "SignalConnections.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** A modem as clients see it, see TKSV_Modem. */
@@ -92,6 +92,6 @@ std::string equipmentIdOf(MMObject *object);
 /// Returns maker and model.
 std::string nameOf(MMModem *modem);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

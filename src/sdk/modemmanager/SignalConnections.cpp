@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -66,4 +66,4 @@ void SignalConnections::disconnectAll()
     }
 }
 
-} // namespace tksv
+} // namespace Tksv

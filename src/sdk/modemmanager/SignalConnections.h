@@ -5,7 +5,7 @@
 #include <gio/gio.h>
 #include <vector>
 
-namespace tksv
+namespace Tksv
 {
 
 /** Connections to signals of GObjects. The destructor disconnects them and releases the objects. */
@@ -36,6 +36,6 @@ private:
     std::vector<Connection> m_connections;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

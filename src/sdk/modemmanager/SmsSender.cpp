@@ -5,7 +5,7 @@
 #include "../base/Text.h"
 #include "UssdErrors.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -114,4 +114,4 @@ void SmsSender::failPending()
         m_listener.finished(entry.second, SMS_FAILED);
 }
 
-} // namespace tksv
+} // namespace Tksv

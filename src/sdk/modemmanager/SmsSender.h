@@ -10,7 +10,7 @@
 #include "AsyncCall.h"
 #include "GLibPointers.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -52,6 +52,6 @@ private:
     Id m_lastId = 0;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

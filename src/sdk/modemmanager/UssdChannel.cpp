@@ -4,7 +4,7 @@
 
 #include "UssdErrors.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -302,4 +302,4 @@ void UssdChannel::reportQuestion()
     m_listener.textReceived(UssdReply{UssdWaitsForAnswer, text});
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -13,7 +13,7 @@
 #include "MainLoopThread.h"
 #include "SignalConnections.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -91,6 +91,6 @@ private:
     unsigned m_call = 0; // number of the newest call; results of older calls are ignored
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <libmm-glib/libmm-glib.h>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -72,4 +72,4 @@ TKSV_DeviceProblem problemOfPinError(const GError &error)
     return TKSV_PROBLEM_MODEM_FAILED;
 }
 
-} // namespace tksv
+} // namespace Tksv

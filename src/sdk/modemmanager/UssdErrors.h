@@ -7,7 +7,7 @@
 
 /* The meaning of ModemManager's errors; docs/modems.md lists them. */
 
-namespace tksv
+namespace Tksv
 {
 
 /** How a USSD command ends whose call has failed. */
@@ -31,6 +31,6 @@ bool isNotPermitted(const GError &error);
 /// Returns the problem to show to the user after ModemManager has rejected a PIN.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -32,4 +32,4 @@ std::vector<Complaint> Complaints::sorted() const
     return list;
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace tksv
+namespace Tksv
 {
 
 /** A fault in a file, described for the author of the file. */
@@ -33,6 +33,6 @@ private:
     std::vector<Complaint> m_list;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

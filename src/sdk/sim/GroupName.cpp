@@ -4,7 +4,7 @@
 #include "../base/Text.h"
 #include "Scenario.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -73,4 +73,4 @@ std::string bracketed(const std::string &name)
     return "[" + name + "]";
 }
 
-} // namespace tksv
+} // namespace Tksv

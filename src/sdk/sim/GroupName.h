@@ -5,7 +5,7 @@
 
 /* The names of the groups in a scenario file. */
 
-namespace tksv
+namespace Tksv
 {
 
 enum class GroupKind { Network, Sms, Push, Event, Code, Answer, Unknown };
@@ -20,6 +20,6 @@ bool hasPattern(const std::string &name);
 /// Returns "[name]".
 std::string bracketed(const std::string &name);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -4,7 +4,7 @@
 #include <glib.h>
 #include <memory>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -192,4 +192,4 @@ std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &compl
     return scan.groups;
 }
 
-} // namespace tksv
+} // namespace Tksv

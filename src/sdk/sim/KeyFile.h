@@ -6,7 +6,7 @@
 
 #include "Complaint.h"
 
-namespace tksv
+namespace Tksv
 {
 
 struct KeyFileEntry {
@@ -31,6 +31,6 @@ struct KeyFileGroup {
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

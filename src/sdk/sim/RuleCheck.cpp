@@ -6,7 +6,7 @@
 #include "GroupName.h"
 #include "ScenarioValue.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -170,4 +170,4 @@ void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &
     RuleCheck(scenario, group, complaints).run();
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -4,12 +4,12 @@
 #include "KeyFile.h"
 #include "Scenario.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /// Checks the keys of the group's rule against each other and against the rest of the scenario.
 void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

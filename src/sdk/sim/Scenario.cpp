@@ -2,7 +2,7 @@
 
 #include "../base/Text.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -133,4 +133,4 @@ std::string formatAmount(Amount amount, const std::string &currency)
     return (amount < 0 ? "-" : "") + number + (currency.empty() ? "" : " " + currency);
 }
 
-} // namespace tksv
+} // namespace Tksv

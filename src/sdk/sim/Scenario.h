@@ -11,7 +11,7 @@
 
 /* The simulated network of one operator as plain values; see docs/scenario-file.md. */
 
-namespace tksv
+namespace Tksv
 {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -135,6 +135,6 @@ std::optional<std::vector<std::string>> placeholderNames(const std::string &text
 /// Returns "12.50", or "12.50 EUR" with a currency.
 std::string formatAmount(Amount amount, const std::string &currency);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -8,7 +8,7 @@
 #include "ScenarioValue.h"
 #include "TextFile.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -255,4 +255,4 @@ ScenarioResult readScenarioFile(const std::string &path)
     return ScenarioResult{std::nullopt, {Complaint{path, 0, problem}}};
 }
 
-} // namespace tksv
+} // namespace Tksv

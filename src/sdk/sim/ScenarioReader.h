@@ -8,7 +8,7 @@
 #include "Complaint.h"
 #include "Scenario.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** Either a complete scenario, or the complaints in the order of their lines. */
@@ -22,6 +22,6 @@ ScenarioResult readScenario(const std::string &text, const std::string &file);
 /// Reads a scenario from a regular file of at most 1 MiB.
 ScenarioResult readScenarioFile(const std::string &path);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

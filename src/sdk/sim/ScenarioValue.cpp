@@ -4,7 +4,7 @@
 
 #include "../base/Text.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -148,4 +148,4 @@ void ScenarioValue::expected(const std::string &what) const
                      m_entry.key + ": expected " + what + ", found \"" + text() + "\"");
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -7,7 +7,7 @@
 #include "KeyFile.h"
 #include "Scenario.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** A word of the file and its value. */
@@ -66,6 +66,6 @@ private:
     Complaints &m_complaints;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace tksv
+namespace Tksv
 {
 
 Scheduler::Scheduler()
@@ -72,4 +72,4 @@ void Scheduler::run()
     }
 }
 
-} // namespace tksv
+} // namespace Tksv

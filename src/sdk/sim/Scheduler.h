@@ -10,7 +10,7 @@
 #include "../base/WorkerThread.h"
 #include "SimulatorClock.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /**
@@ -44,6 +44,6 @@ private:
     WorkerThread m_thread;
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -4,7 +4,7 @@
 
 #include "../base/Text.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -357,4 +357,4 @@ void SimulatedNetwork::notifySmsStatus(bool before, Notices &notices)
         notices.push_back([=](BackendObserver &o) { o.smsStatusChanged(now); });
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -10,7 +10,7 @@
 #include "Scenario.h"
 #include "Scheduler.h"
 
-namespace tksv
+namespace Tksv
 {
 
 /** The backend that simulates a device and its operator's network from a scenario. */
@@ -85,6 +85,6 @@ private:
     Scheduler m_scheduler; // the last member: its thread ends before the others are destroyed
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

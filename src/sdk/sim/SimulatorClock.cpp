@@ -6,7 +6,7 @@
 
 #include "Scheduler.h"
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -62,4 +62,4 @@ void SimulatorClock::remove(Scheduler *scheduler)
     schedulerList().schedulers.erase(scheduler);
 }
 
-} // namespace tksv
+} // namespace Tksv

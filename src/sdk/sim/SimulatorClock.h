@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-namespace tksv
+namespace Tksv
 {
 
 class Scheduler;
@@ -30,6 +30,6 @@ private:
     static void remove(Scheduler *scheduler);
 };
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif

@@ -7,7 +7,7 @@
 #include <memory>
 #include <sys/stat.h>
 
-namespace tksv
+namespace Tksv
 {
 
 namespace
@@ -64,4 +64,4 @@ std::string readTextFile(const std::string &path, std::string &text)
     return text.size() > MAX_BYTES ? "expected at most 1 MiB" : std::string();
 }
 
-} // namespace tksv
+} // namespace Tksv

@@ -3,13 +3,13 @@
 
 #include <string>
 
-namespace tksv
+namespace Tksv
 {
 
 /// Reads a regular file of at most 1 MiB. Returns an empty text on success, otherwise the reason of
 /// the failure.
 std::string readTextFile(const std::string &path, std::string &text);
 
-} // namespace tksv
+} // namespace Tksv
 
 #endif
