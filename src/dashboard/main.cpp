@@ -12,6 +12,8 @@
 #include "TerminalText.h"
 #include "window/LanguageProblem.h"
 
+using namespace Dashboard;
+
 namespace
 {
 
