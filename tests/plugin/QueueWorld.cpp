@@ -180,7 +180,8 @@ void QueueWorld::run(Thread thread, int way)
     static_assert(lengthOf(STEPS) == StepCount, "one entry for each step");
     m_way = way;
     Call &call = m_calls[thread];
-    (this->*STEPS[call.next].run)(call);
+    const auto run = STEPS[call.next].run;
+    (this->*run)(call);
     m_isSilent = m_isSilent && m_queue.count() != 0;
     compareLists();
     checkOutcomes();
