@@ -82,8 +82,9 @@ QString text(const Spread &figures, const QString &unit = QString())
 
 void printTable(const QList<Row> &rows)
 {
-    std::printf("| what | median (smallest to largest) | baseline | median (smallest to largest) "
-                "| ratio (smallest to largest) | to reach |\n|---|---|---|---|---|---|\n");
+    std::printf(
+        "| measurement | median (smallest to largest) | baseline | median (smallest to largest) "
+        "| ratio (smallest to largest) | target |\n|---|---|---|---|---|---|\n");
     for (const Row &one : rows) {
         const QString unit = QLatin1Char(' ') + one.unit;
         std::printf("| %s | %s | %s | %s | %s | %s%s |\n", qUtf8Printable(one.what),
@@ -161,7 +162,7 @@ void paintChart(QPainter &painter, const QList<Row> &rows, const QSize &size)
     painter.setFont(QFont(QLatin1String("DejaVu Sans"), 8));
     painter.drawText(QRect(8, 6, size.width() - 16, 20), Qt::AlignVCenter,
                      QLatin1String("Cost as a multiple of its baseline: bar = median, line = "
-                                   "smallest to largest, red = what is to be reached"));
+                                   "smallest to largest, red = target"));
     paintScale(painter, size.height() - FOOT);
     for (int i = 0; i < rows.count(); ++i)
         paintRow(painter, rows.at(i), HEAD + i * ROW_HEIGHT);

@@ -113,7 +113,7 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
         pauses.push_back(pause(reply));
     Benchmark::report(
         Benchmark::Title(std::string("heartbeat, 10,000 characters of ") + what + where,
-                         "what it may be late", 1, "ms"),
+                         "longest permitted pause", 1, "ms"),
         pauses, std::vector<double>(pauses.size(), MAY_BE_LATE));
 }
 
@@ -131,10 +131,10 @@ int main(int argc, char **argv)
         {"words", repeated(QLatin1String("twelve letters "))},
         {"one word", QString(CHARACTERS, QLatin1Char('x'))},
         {"Arabic letters", QString(CHARACTERS, QChar(0x0628))},
-        {"two scripts by turns", repeated(QString(QLatin1Char('a')) + QChar(0x0628))},
-        {"marks on one letter", QString(CHARACTERS, QChar(0x0301))},
+        {"two alternating scripts", repeated(QString(QLatin1Char('a')) + QChar(0x0628))},
+        {"combining accents on one letter", QString(CHARACTERS, QChar(0x0301))},
         {"right-to-left overrides", QString(CHARACTERS, QChar(0x202E))},
-        {"tables in tables", repeated(QLatin1String("<table><tr><td>"))},
+        {"nested tables", repeated(QLatin1String("<table><tr><td>"))},
         {"tags", repeated(QLatin1String("<b>x"))},
     };
     for (const auto &one : replies) {

@@ -107,7 +107,7 @@ void compareStarts(const char *baseline, const std::vector<Start> &measured,
 {
     Benchmark::report(Benchmark::Title("program start to first window", baseline, 1.3, "ms"),
                       figures(measured, &Start::milliseconds), figures(base, &Start::milliseconds));
-    Benchmark::report(Benchmark::Title("memory then, greatest resident set", baseline, 1.2, "MB"),
+    Benchmark::report(Benchmark::Title("peak resident memory at that time", baseline, 1.2, "MB"),
                       figures(measured, &Start::peakMegabytes),
                       figures(base, &Start::peakMegabytes));
 }
