@@ -1,4 +1,4 @@
-# Benchmarks. They are built with everything else, but only benchmarks/run runs them.
+# Functions that add benchmarks. A complete build includes them, but only benchmarks/run runs them.
 #
 #   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints rows of figures
 #   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks need

@@ -1,4 +1,4 @@
-# Fuzzers with coverage feedback (libFuzzer of clang; preset fuzz).
+# Functions that add fuzzers with coverage feedback (libFuzzer of clang; preset fuzz).
 #
 #   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
 #

@@ -1,12 +1,13 @@
-# Precompiled headers. Most of the time of a compilation goes into the headers of Qt, of GLib and of the
-# C++ library, so targets that are compiled alike share one precompiled copy of them:
+# Precompiled headers. Most of the time of a compilation is spent on the headers of Qt, GLib and the C++
+# library. Targets with the same compiler options therefore share one precompiled copy of these headers:
 #
 #   ussd_add_precompiled_headers(KIND LEVEL [HIDDEN] HEADERS... LIBRARIES...)
 #   ussd_use_precompiled_headers(TARGET KIND)
 #
 # The targets of one kind have the same language level (LEVEL), visibility (HIDDEN) and Qt modules
-# (LIBRARIES). The compiler refuses the headers to a target that differs (-Winvalid-pch). A source file
-# includes what it uses all the same: the presets quick and tidy do without these headers.
+# (LIBRARIES). The compiler rejects the precompiled headers for a target with other options
+# (-Winvalid-pch). A source file still has to include every header that it uses, because the presets
+# quick and tidy have no precompiled headers.
 
 set(USSD_PRECOMPILED_CXX
     <algorithm> <atomic> <chrono> <functional> <map> <memory> <mutex> <string> <utility> <vector>)
@@ -41,8 +42,8 @@ function(ussd_use_precompiled_headers target kind)
     endif()
 endfunction()
 
-# A library with nothing in it but the headers. It has no definitions of its own, since the compiler
-# wants to find each of them again where the headers are used.
+# Adds a library that contains only the precompiled headers. The library has no compile definitions,
+# because the compiler would require the same definitions in every target that uses the headers.
 function(ussd_add_precompiled_headers kind level)
     cmake_parse_arguments(arg "HIDDEN" "" "HEADERS;LIBRARIES" ${ARGN})
     if(NOT USSD_PRECOMPILED_HEADERS)

@@ -1,4 +1,5 @@
-# One set of names for both Qt versions: ussd::qtcore, ussd::qtwidgets (all of the GUI), ussd::qttest.
+# Defines the same target names for all Qt versions: ussd::qtcore, ussd::qtwidgets (the whole GUI) and
+# ussd::qttest.
 add_library(ussd_qtcore INTERFACE)
 add_library(ussd_qtwidgets INTERFACE)
 add_library(ussd_qttest INTERFACE)
@@ -19,11 +20,12 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 5 or 4")
 endif()
-# Forbids implicit conversions of strings, whose encoding differs between Qt 4 and Qt 5.
+# Forbids implicit conversions between QString and char *, whose encoding differs between Qt 4 and Qt 5.
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)
 target_link_libraries(ussd_qttest INTERFACE ussd_qtcore)
-# GLib's users are compiled with it, and precompiled headers want it in all tests or in none.
+# Targets that use GLib are compiled with -pthread. All tests need the same option, because they share
+# precompiled headers.
 target_compile_options(ussd_qttest INTERFACE -pthread)
 add_library(ussd::qtcore ALIAS ussd_qtcore)
 add_library(ussd::qtwidgets ALIAS ussd_qtwidgets)

@@ -1,5 +1,5 @@
-# One function for each kind of target, so that warnings, language level, visibility, sanitizers
-# and output folders are the same everywhere.
+# Functions that add targets, one for each kind. They give all targets the same warnings, language
+# level, visibility, sanitizers and output folders.
 #
 #   ussd_add_core_library(NAME SOURCES... LIBRARIES...)     the host core library
 #   ussd_add_sdk_library(NAME SOURCES... LIBRARIES...)      a device SDK library (no Qt)
@@ -8,11 +8,11 @@
 #   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
 #   ussd_add_example(NAME SOURCES... LIBRARIES...)          a program for developers; not installed
 
-# The language level, in which the plug-in and what it is made of compile with Qt 4 too. A folder
-# that is for Qt 5.15 and 6 alone sets another one at the head of its list.
+# The C++ standard of the plug-in and its libraries, which also compile with Qt 4. A folder for Qt 5.15
+# and later sets another standard at the top of its CMakeLists.txt.
 set(USSD_CXX_STANDARD 14)
 
-# Everything that all of our own code has in common.
+# Sets the properties and options that all of our own targets share.
 function(ussd_set_up target)
     set_target_properties(
         ${target}
@@ -26,7 +26,7 @@ function(ussd_set_up target)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
     target_link_options(${target} PRIVATE -Wl,--enable-new-dtags)
-    if(NOT USSD_BUILD_FUZZERS) # clang keeps the sanitizers in the program, for its libraries too
+    if(NOT USSD_BUILD_FUZZERS) # clang links sanitizers into programs only, not into libraries
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
     endif()
     if(USSD_SANITIZE)
@@ -79,7 +79,7 @@ function(ussd_add_plugin name)
     add_library(${name} MODULE ${arg_SOURCES})
     ussd_set_up(${name})
     ussd_hide_symbols(${name})
-    # The version script also hides what the C++ library's own headers would export.
+    # The version script also hides the symbols that the headers of the C++ library would export.
     target_link_options(${name} PRIVATE -Wl,--version-script=${arg_EXPORTS} -Wl,--gc-sections)
     set_target_properties(
         ${name}

@@ -1,16 +1,16 @@
-# Tests. Each runs with a home, settings and user-data folder of its own, without a display, in
-# a fixed language and with a time limit.
+# Functions that add tests. Each test runs with its own home directory, settings and user data
+# directory, without a display, with a fixed language and with a time limit.
 #
 #   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK])
-#   ussd_start_first(NAME...)      long tests, so that none of them is left over at the end
+#   ussd_start_first(NAME...)      starts these long tests first, so that none runs alone at the end
 #
-# FAKE_SDK puts the misbehaving device SDK of tests/fakes in front of the real one, by library path.
+# FAKE_SDK replaces the real device SDK with the fake one of tests/fakes through the library path.
 
 set(USSD_TEST_SECONDS 120)
 
 set(USSD_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
-    "TKSV_BACKEND=simulator" # never the developer's own modem
+    "TKSV_BACKEND=simulator" # so that the developer's own modem is never used
     "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
     "QT_HASH_SEED=0"
     "LC_ALL=C.UTF-8"
@@ -20,12 +20,12 @@ set(USSD_TEST_ENVIRONMENT
     "UBSAN_OPTIONS=print_stacktrace=1"
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/sanitizers/tsan.supp:second_deadlock_stack=1")
 
-# The environment and limits that any test has, also one that is a script.
+# Sets the environment and limits of a test, which may be a program or a script.
 function(ussd_set_up_test name)
     cmake_parse_arguments(arg "" "" "LABELS;ENVIRONMENT" ${ARGN})
     set(home ${PROJECT_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
-    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # it is XDG_RUNTIME_DIR too
+    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # it is also XDG_RUNTIME_DIR
     set_tests_properties(
         ${name}
         PROPERTIES TIMEOUT ${USSD_TEST_SECONDS}
@@ -36,8 +36,8 @@ function(ussd_set_up_test name)
     )
 endfunction()
 
-# What the programs of the tests have in common. They are linked by gold, which takes a third of the
-# time; what users get is linked by the compiler's own choice.
+# Sets the common properties of test programs. gold links them in a third of the time. The programs for
+# users are linked by the compiler's default linker.
 function(ussd_set_up_test_program name)
     ussd_set_up(${name})
     set_target_properties(${name} PROPERTIES CXX_STANDARD 17 AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
@@ -47,7 +47,7 @@ function(ussd_set_up_test_program name)
     endif()
 endfunction()
 
-# A target tests_LABEL for each label, so that the tests of one label can be built alone.
+# Adds the test to the target tests_LABEL of each label, which builds only the tests of this label.
 function(ussd_add_to_labels name)
     foreach(label IN LISTS ARGN)
         if(NOT TARGET tests_${label})
@@ -75,7 +75,8 @@ function(ussd_add_test name)
     ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
 endfunction()
 
-# CTest starts the longest test first by what the last run took. In the first run there is no such figure.
+# CTest starts the tests that took longest in the last run first. This cost replaces the missing figure
+# in the first run.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
 endfunction()

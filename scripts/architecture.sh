@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Draws docs/architecture.dot as docs/pictures/architecture.svg. tests/checks/architecture.sh compares
-# the arrows with the includes, and tells when the picture is older than its text.
+# the arrows with the includes, and fails if the picture was not drawn from the current file.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Runs the fuzzers for as long as one likes:
+# Runs the fuzzers one after another, each for the given time:
 #   scripts/fuzz.sh [SECONDS [FUZZER...]]
-# 600 s for each of them without arguments, one after another. What they learn is kept in
-# build/fuzz-corpus and used again next time; an input that fails is left in build/fuzz-findings,
-# and belongs into tests/fuzz/corpus once it is understood. Ends with 1 when there was one.
+# By default, each fuzzer runs for 600 s. New inputs are stored in build/fuzz-corpus, and the next run
+# continues with them. An input that fails is stored in build/fuzz-findings. Once its failure is
+# understood, copy it to tests/fuzz/corpus. The exit status is 1 if an input failed.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -24,7 +24,7 @@ home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 chmod 700 "$home"
 export HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-export TKSV_BACKEND=simulator # never the developer's own modem
+export TKSV_BACKEND=simulator # so that the developer's own modem is never used
 export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
 
 failed=0

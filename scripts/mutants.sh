@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Puts faults into a copy of the plug-in, one at a time, and tells which test notices each:
+# Applies faults to a copy of the plug-in, one at a time, and prints which tests notice each fault:
 #   scripts/mutants.sh [--part K/N] [--trust] [PATTERN...]
-# PATTERN chooses faults by name; --part runs each Nth fault only, so that N runs can share the work.
-# --trust skips the run without a fault, which shows that the tests pass at all.
-# The faults stand in tests/mutants; docs/testing.md tells how to read and write them.
+# PATTERN selects faults by name. --part tries only every Nth fault, so that N runs can share the work.
+# --trust skips the first run, which verifies that the tests pass without a fault. The faults are in
+# tests/mutants; docs/testing.md describes their format.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -37,8 +37,8 @@ chosen()
     return 1
 }
 
-# The working tree as git sees it, so that the faults never touch the tree itself. Only what differs
-# is copied, also where an earlier run was killed with a fault in its copy.
+# Copies the files of the working tree, so that the faults never change the tree itself. Only files that
+# differ are copied. This also restores a file whose fault remained because an earlier run was killed.
 copy_tree()
 {
     local path
@@ -56,7 +56,8 @@ configure()
         -DUSSD_WARNINGS_AS_ERRORS=OFF
 }
 
-# build_and_run TARGET... -- CTEST-ARGUMENT...: 0 all passed, 1 a test failed, 2 it does not compile.
+# build_and_run TARGET... -- CTEST-ARGUMENT...: builds the targets and runs the tests. Returns 0 if all
+# tests passed, 1 if a test failed, and 2 if the build failed.
 build_and_run()
 {
     local targets=()
@@ -73,7 +74,7 @@ everything() { build_and_run tests_plugin tests_hostile -- -L '^(plugin|hostile)
 
 who_noticed() { sed -n 's/^.* - \([a-z0-9_]*\) (.*$/\1/p' "$root/test.log" | sort -u | tr '\n' ' '; }
 
-# Replaces $old, which has to stand there exactly once, by $new.
+# replace FILE: replaces $old, which must occur in the file exactly once, with $new.
 replace()
 {
     old=$old new=$new perl -0777 -i -pe '
@@ -82,7 +83,8 @@ replace()
         s/\Q$ENV{old}\E/$ENV{new}/' "$1"
 }
 
-# Tries $name: $old by $new in $file, with the tests in $tests first.
+# Tries the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first, and all
+# tests if these pass.
 try_fault()
 {
     local source result=0 pattern
@@ -109,7 +111,7 @@ try_fault()
     esac | tee -a "$report"
 }
 
-# Calls try_fault for each fault of a list that belongs to this part.
+# run_list FILE: calls try_fault for each selected fault of the list.
 run_list()
 {
     local line name='' file='' tests='' old='' new='' number=0

@@ -1,11 +1,11 @@
-# Sourced by ./run, ./test, benchmarks/run and scripts: installs missing Debian packages, configures,
-# builds. Expects the project's root as working directory.
+# Common functions of ./run, ./test, benchmarks/run and the scripts: they install missing Debian
+# packages, configure and build. The working directory must be the root of the project.
 
-PROGRESS_SECONDS=10 # between two lines about a build when there is no terminal
+PROGRESS_SECONDS=10 # between two progress lines of a build without a terminal
 
 say() { printf '%s\n' "$*" >&2; }
 
-# listed_packages SECTION...: the packages in these sections of packages.txt.
+# listed_packages SECTION...: prints the packages in these sections of packages.txt.
 listed_packages()
 {
     awk -v sections="$*" '
@@ -15,7 +15,7 @@ listed_packages()
         take && NF { print $1 }' packages.txt
 }
 
-# missing_packages SECTION...: those that this machine lacks.
+# missing_packages SECTION...: prints the packages in these sections that are not installed.
 missing_packages()
 {
     comm -23 <(listed_packages "$@" | sort -u) \
@@ -23,8 +23,9 @@ missing_packages()
             sed -n 's/^installed //p' | sort -u)
 }
 
-# install_missing_packages SECTION...: only what is missing is named to apt-get, so it upgrades a package
-# that is there only where a dependency wants a newer one.
+# install_missing_packages SECTION...: installs the missing packages in these sections. apt-get
+# receives only the missing ones, so it upgrades an installed package only if a dependency requires
+# this. If the user is not root, prints the command and returns 1.
 install_missing_packages()
 {
     local missing
@@ -42,8 +43,9 @@ install_missing_packages()
         DEBIAN_FRONTEND=noninteractive $install >&2
 }
 
-# Copies a build's output to standard output and says on standard error how far the build is: on a
-# terminal in one line that is rewritten, elsewhere in a line now and then.
+# Copies the output of a build from standard input to standard output, and shows the progress on
+# standard error. A terminal shows one line that is rewritten. Otherwise a new line is printed every
+# PROGRESS_SECONDS.
 follow_build()
 {
     local line next=0 width
@@ -61,8 +63,8 @@ follow_build()
     [ ! -t 2 ] || printf '\r\033[K' >&2
 }
 
-# follow LOG COMMAND...: runs COMMAND quietly. Where it fails, all is shown that it said, but for the
-# lines that tell how far it is.
+# follow LOG COMMAND...: runs COMMAND and shows only its progress. If COMMAND fails, prints its whole
+# output without the progress lines, and returns 1. LOG receives the output.
 follow()
 {
     local log=$1
@@ -74,7 +76,8 @@ follow()
     return 1
 }
 
-# configure_and_build PRESET [TARGET...]
+# configure_and_build PRESET [TARGET...]: configures and builds the targets, or all. The log is
+# build/PRESET.log.
 configure_and_build()
 {
     local preset=$1

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Months of simulated use in minutes: a million commands, ten thousand windows opened and closed.
-# Writes build/soak/soak.png and soak.txt; ends with 0 when nothing has grown.
+# Simulates months of use in minutes: a million commands, and ten thousand windows opened and closed.
+# Writes build/soak/soak.png and soak.txt. The exit status is 0 if no figure has grown too much.
 #   scripts/soak.sh [--commands N] [--openings N] [--report FOLDER]
 set -eu
 cd "$(dirname "$0")/.."
@@ -11,6 +11,7 @@ say "Building preset quick; the first time this takes some minutes."
 configure_and_build quick soak translations
 
 export QT_QPA_PLATFORM=offscreen QT_HASH_SEED=0 TKSV_BACKEND=simulator
-# As in tests/soak/CMakeLists.txt: small lists that malloc keeps ready would count as in use.
+# Disables malloc's free lists of small blocks, which malloc reports as used memory. The values are
+# those of tests/soak/CMakeLists.txt.
 export GLIBC_TUNABLES=glibc.malloc.tcache_count=0:glibc.malloc.mxfast=0:glibc.malloc.arena_max=1
 exec nice build/quick/tests/bin/soak --commands 1000000 --openings 10000 --report build/soak "$@"

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# clang-tidy on each source file of src, examples, tests and benchmarks; ./test --preset tidy runs it:
+# Runs clang-tidy on the source files of src, examples, tests and benchmarks:
 #   scripts/tidy.sh [PATTERN]
-# PATTERN, a regular expression, chooses files by their path. Nothing is compiled. Ends with 1 when
-# clang-tidy has found something.
+# PATTERN is a regular expression that selects files by their path. Nothing is compiled. The exit status
+# is 1 if clang-tidy reports a problem. ./test --preset tidy runs this script.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset tidy
 
-# A file that is compiled for several programs is looked at once, as the first of them compiles it.
+# A file that is compiled for several programs is checked once, with the options of the first program.
 COMPILATIONS=$PWD/build/tidy/once
 mkdir -p "$COMPILATIONS"
 awk '/^\{/ { record = "{"; next }
@@ -18,7 +18,8 @@ awk '/^\{/ { record = "{"; next }
 
 MOC=$(pkg-config --variable=host_bins Qt5Core)/moc
 
-# run_moc FILE FOLDER: with the include folders of the file's compilation.
+# run_moc FILE FOLDER: writes the moc output of FILE to FOLDER. moc gets the include folders of the
+# file's compilation.
 run_moc()
 {
     local includes
@@ -28,7 +29,8 @@ run_moc()
     "$MOC" "${includes[@]}" "$1" -o "$2/$(basename "$1" .cpp).moc"
 }
 
-# look_at "[3/370] FILE": says more only where something is found.
+# look_at "[3/370] FILE": prints its argument and runs clang-tidy on FILE. Prints the output of
+# clang-tidy only if there is a problem.
 look_at()
 {
     local file=${1##* } folder said
