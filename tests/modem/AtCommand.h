@@ -7,34 +7,35 @@
 namespace modem
 {
 
-/** One command line, taken apart (3GPP TS 27.007, chapter 4). */
+/** A parsed AT command line (3GPP TS 27.007, chapter 4). */
 struct AtCommand {
     enum Form { Execute, Read, Test, Set };
 
-    std::string name; // "+CUSD", "E0", "&C1"
+    std::string name; // examples: "+CUSD", "E0", "&C1"
     Form form = Execute;
-    std::vector<std::string> values; // of Set; without their quotes
+    std::vector<std::string> values; // the values of a Set command, without their quotes
 
-    /// The value, or an empty text when there are fewer.
+    /// Returns an empty string if the command has fewer values.
     std::string value(std::size_t index) const;
 };
 
-/// `line` without "AT" at its beginning.
+/// Parses a command line from which the leading "AT" has been removed.
 AtCommand parseAtCommand(const std::string &line);
 
-/** What a modem answers to a command. */
+/** The modem's answer to a command. */
 struct AtAnswer {
     std::vector<std::string> lines;
-    std::string result = "OK"; // empty: no answer yet, or none at all
+    // Empty if the answer follows later or never.
+    std::string result = "OK";
 };
 
 AtAnswer ok();
 AtAnswer info(const std::string &line);
 AtAnswer error();
 AtAnswer noAnswer();
-/// 3GPP TS 27.007, 9.2.
+/// The error codes are listed in 3GPP TS 27.007, 9.2.
 AtAnswer equipmentError(int code);
-/// 3GPP TS 27.005, 3.2.5.
+/// The error codes are listed in 3GPP TS 27.005, 3.2.5.
 AtAnswer messageError(int code);
 
 } // namespace modem

@@ -20,7 +20,7 @@ bool isAbstract(const std::string &name)
     return name.compare(0, sizeof ABSTRACT_PREFIX - 1, ABSTRACT_PREFIX) == 0;
 }
 
-/// The size of the address, or 0 when the name is too long for one.
+/// Returns the size of the address, or 0 if the name is too long for an address.
 socklen_t makeAddress(const std::string &name, sockaddr_un &address)
 {
     const std::size_t shift = isAbstract(name) ? 1 : 0;
@@ -157,7 +157,8 @@ gboolean AtPort::writePiece()
     return G_SOURCE_REMOVE;
 }
 
-/// A few hundred bytes always fit into the socket; a reader that went away is seen by read().
+/// Sends the bytes without queueing, because a few hundred bytes always fit into the socket. A
+/// closed connection is noticed by read().
 void AtPort::send(const char *bytes, std::size_t size)
 {
     while (size > 0) {

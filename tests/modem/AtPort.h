@@ -9,29 +9,32 @@ namespace modem
 {
 
 /**
- * The modem's end of the serial line: a listening unix socket with at most one connection, of which
- * a later one takes the place. Used on the thread of its main context only.
+ * The modem's end of the serial line. The port listens on a Unix socket and has at most one
+ * connection; a new connection replaces the previous one. Must be used on the thread of its main
+ * context only.
  */
 class AtPort
 {
 public:
-    /// `context` and what `onBytes` refers to outlive the port. A name that begins with "abstract:"
-    /// is bound as an abstract socket under that whole name, any other is a path.
+    /// `context` and everything that `onBytes` refers to must outlive the port. A name that starts
+    /// with "abstract:" is bound as an abstract socket under this whole name; any other name is a
+    /// path.
     AtPort(GMainContext *context, std::string name,
            std::function<void(const std::string &)> onBytes, std::function<void()> onOpened);
     ~AtPort();
     AtPort(const AtPort &) = delete;
     AtPort &operator=(const AtPort &) = delete;
 
-    /// Empty on success, else why the name cannot be listened on.
+    /// Returns an empty string on success, otherwise the reason why the port cannot listen.
     std::string listen();
     void stopListening();
 
-    /// Goes out whole, or byte by byte with a turn of the main loop in between.
+    /// Writes the bytes at once. After setPieces(true), it writes them one by one with an iteration
+    /// of the main loop in between.
     void write(const std::string &bytes);
     void setPieces(bool pieces) { m_pieces = pieces; }
 
-    /// Ends the connection; listening goes on.
+    /// Closes the connection. The port keeps listening.
     void hangUp();
 
 private:
@@ -47,7 +50,7 @@ private:
     const std::function<void(const std::string &)> m_onBytes;
     const std::function<void()> m_onOpened;
     bool m_pieces = false;
-    std::string m_unsent; // in pieces
+    std::string m_unsent; // the bytes that still have to be written one by one
     int m_listener = -1;
     int m_connection = -1;
     guint m_listenerSource = 0;

@@ -7,7 +7,7 @@ namespace modem
 
 namespace
 {
-const int CALL_LIMIT = 10000; // milliseconds
+const int CALL_LIMIT = 10000; // in milliseconds
 }
 
 GDBusConnection *connectTo(const std::string &busAddress)

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/* The few D-Bus calls of the harness. */
+/* The few D-Bus calls that the modem tests need. */
 
 namespace modem
 {
@@ -22,20 +22,21 @@ struct Method {
     std::string name;
 };
 
-/** `value` is null when it failed. */
+/** The reply to a method call. `value` is null if the call failed. */
 struct Reply {
     VariantPtr value;
     std::string error;
 };
 
-/// A connection of its own, to be given to closeConnection(); null when there is no such bus.
+/// Opens a private connection, which must be passed to closeConnection(). Returns null if there is
+/// no such bus.
 GDBusConnection *connectTo(const std::string &busAddress);
-/// Harmless for null, which it becomes.
+/// Closes the connection and sets it to null. Does nothing if it is null already.
 void closeConnection(GDBusConnection *&connection);
 
-/// Waits for the reply, ten seconds at most. `arguments` may be floating or null.
+/// Waits for the reply for at most ten seconds. `arguments` may be floating or null.
 Reply call(GDBusConnection *connection, const Method &method, GVariant *arguments);
-/// Does not wait, and does not hear how it went.
+/// Sends the call without waiting for its result.
 void send(GDBusConnection *connection, const Method &method, GVariant *arguments);
 
 } // namespace modem

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
-/* The text encodings of 3GPP TS 27.007 (+CSCS) and 3GPP TS 23.038; our own side is UTF-8. */
+/*
+ * The text encodings of 3GPP TS 27.007 (+CSCS) and 3GPP TS 23.038. The tests themselves use UTF-8.
+ */
 
 namespace modem
 {
@@ -13,27 +15,29 @@ namespace modem
 using Bytes = std::vector<unsigned char>;
 
 std::string toHex(const Bytes &bytes);
-/// Nothing when the text is not hexadecimal or of odd length.
+/// Returns no value if the text is not hexadecimal or has an odd length.
 std::optional<Bytes> fromHex(const std::string &hex);
 
 enum class Charset { Ucs2, Gsm, Ira };
 
-/// The name in +CSCS, "UCS2" for example.
+/// Returns the name that +CSCS uses, for example "UCS2".
 const char *charsetName(Charset charset);
 std::optional<Charset> charsetOf(const std::string &name);
 
-/// Hex digits of the text. What the charset does not have becomes a question mark.
+/// Returns the encoded text as hex digits. A character that the charset lacks becomes a question
+/// mark.
 std::string encodeText(const std::string &text, Charset charset);
-/// The text behind the hex digits; what is no hex is the text itself.
+/// Decodes the hex digits. A text that is not hexadecimal is returned unchanged.
 std::string decodeText(const std::string &raw, Charset charset);
 
-/// The text behind UTF-16BE bytes; a lone surrogate becomes U+FFFD.
+/// Decodes UTF-16BE. An unpaired surrogate becomes U+FFFD.
 std::string fromUcs2(const Bytes &bytes);
-/// Characters of the default alphabet, one septet in each byte (3GPP TS 23.038, 6.2.1).
+/// Decodes text in the default alphabet, with one septet in each byte (3GPP TS 23.038, 6.2.1).
 std::string fromSeptets(const Bytes &septets);
-/// Nothing when a character is not in the default alphabet or its extension.
+/// Returns no value if a character is missing from the default alphabet and from its extension
+/// table.
 std::optional<Bytes> toSeptets(const std::string &text);
-/// `count` septets that begin `skippedBits` bits into the packed bytes.
+/// Unpacks `count` septets, starting `skippedBits` bits into the packed bytes.
 Bytes unpackSeptets(const Bytes &packed, std::size_t count, std::size_t skippedBits);
 
 } // namespace modem

@@ -18,7 +18,8 @@ namespace modem
 namespace
 {
 
-/// The program's path; daemons are often not in the search path of a user.
+/// Returns the path of the program. The search path of a user often lacks the directories of
+/// daemons.
 std::string findProgram(const std::string &name)
 {
     const char *const path = std::getenv("PATH");
@@ -33,13 +34,13 @@ std::string findProgram(const std::string &name)
     return std::string();
 }
 
-/// In the new process, in which only system calls are allowed.
+/// Runs in the new process, where only system calls are allowed.
 [[noreturn]] void become(const char *program, char *const *arguments, int log, int kept,
                          pid_t parent)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
-        ::_exit(127); // it ended before the line above
+        ::_exit(127); // the parent ended before prctl() took effect
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);

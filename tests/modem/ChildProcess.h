@@ -10,8 +10,9 @@ namespace modem
 {
 
 /**
- * A program that ends with us, also when we crash. The kernel ends it with the thread that started
- * it: start it from one that stays.
+ * A program that ends together with the test, even if the test crashes. The kernel kills the
+ * program when the thread that started it ends, so it must be started on a thread that lives long
+ * enough.
  */
 class ChildProcess
 {
@@ -21,17 +22,18 @@ public:
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
-    /// `arguments[0]` is the program, looked for in $PATH and /usr/sbin; output and errors go to
-    /// the file `log`. `keptDescriptor` (or -1) stays open in it.
+    /// Starts the program `arguments[0]`, which is searched for in $PATH and in /usr/sbin. Its
+    /// output and its error messages go to the file `log`. The program inherits `keptDescriptor`
+    /// unless that is -1.
     bool start(const std::vector<std::string> &arguments, const std::string &log,
                int keptDescriptor = -1);
     bool isRunning();
-    /// SIGTERM, and SIGKILL when that is not obeyed within `limit`.
+    /// Sends SIGTERM, and SIGKILL if the process is still running after `limit`.
     void stop(std::chrono::milliseconds limit);
-    /// SIGSTOP: it hangs until resume().
+    /// Stops the process with SIGSTOP until resume() is called.
     void pause();
     void resume();
-    /// SIGKILL; returns when the process has ended.
+    /// Sends SIGKILL and returns when the process has ended.
     void kill();
 
 private:
@@ -39,7 +41,7 @@ private:
     void reap();
 
     pid_t m_pid = -1;
-    int m_handle = -1; // readable when the process has ended
+    int m_handle = -1; // becomes readable when the process has ended
 };
 
 } // namespace modem

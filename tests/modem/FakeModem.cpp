@@ -32,7 +32,7 @@ FakeModem::FakeModem(const std::string &port, const ModemSettings &settings)
         [&] { m_core = std::make_unique<ModemCore>(*m_thread, port, settings, std::move(news)); });
 }
 
-/// The thread ends first, since answers that are late refer to the core.
+/// Stops the thread first, because delayed answers refer to the core.
 FakeModem::~FakeModem()
 {
     unplug();
@@ -134,7 +134,7 @@ void FakeModem::receiveSms(const std::string &pdu)
     m_thread->call([&] { m_core->receiveSms(pdu); });
 }
 
-/* ---- what it was sent -------------------------------------------------------------------- */
+/* ---- the commands the modem has received ------------------------------------------------- */
 
 std::vector<std::string> FakeModem::received() const
 {
@@ -148,7 +148,7 @@ std::vector<SubmittedSms> FakeModem::submitted() const
     return m_submitted;
 }
 
-/// With the lock held.
+/// Must be called with the lock held.
 int FakeModem::count(const std::string &start) const
 {
     return static_cast<int>(

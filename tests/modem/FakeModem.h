@@ -20,27 +20,29 @@ namespace modem
 class ModemCore;
 
 /**
- * An AT modem on a unix socket, with a simulated network behind it. It speaks what a daemon expects
- * of a real one (3GPP TS 27.007, 27.005, 23.040), misbehaves on command, and records all that it
- * was sent. It answers at once, on a thread of its own.
+ * An AT modem on a Unix socket, with a simulated network behind it. The modem speaks the protocol
+ * that a daemon expects of a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on
+ * request and records all that it receives. It answers without a delay, on its own thread.
  *
- * How the outcomes of a scenario look on the line: a refusal is +CUSD: 2, `unsupported` 4 and
- * `network-timeout` 5; at `silence` nothing follows the OK; at `device-timeout` even the OK stays
- * away; `no-device` is +CME ERROR: 30. A device that goes away hangs up and does not listen until
- * it is back. `sim-locked` asks for the PIN of the settings, `disabled` refuses +CFUN=1 and
- * registers nowhere. A device
- * that cannot send SMS from the beginning has no +CNMI; one that can no more loses its network.
+ * The outcomes of a scenario look as follows on the line: a refusal is +CUSD: 2, `unsupported` is 4
+ * and `network-timeout` is 5. With `silence`, nothing follows the OK; with `device-timeout`, even
+ * the OK is missing. `no-device` is +CME ERROR: 30. A device that disappears closes the connection
+ * and does not listen until it is back. With `sim-locked`, the modem requires the PIN of the
+ * scenario. With `disabled`, it refuses +CFUN=1 and does not register. A device that cannot send
+ * SMS from the beginning has no +CNMI; a device that loses the ability to send SMS loses its
+ * registration.
  *
- * Any thread may call.
+ * All functions may be called from any thread.
  */
 class FakeModem
 {
 public:
-    /// Whether the times of the scenario count at once or from startClock() on, which serves tests
-    /// in which the daemon is to find the modem first. Until then commands find no network.
+    /// Determines whether the scenario's clock starts at once or in startClock(). With a stopped
+    /// clock, the daemon can find the modem before the first event; until startClock(), all
+    /// commands fail because there is no network.
     enum class Clock { Running, Stopped };
 
-    /// `port` is a path, or an abstract name that begins with "abstract:".
+    /// `port` is a path, or an abstract name that starts with "abstract:".
     explicit FakeModem(const std::string &port, const ModemSettings &settings = ModemSettings());
     ~FakeModem();
     FakeModem(const FakeModem &) = delete;
@@ -48,35 +50,38 @@ public:
 
     const std::string &port() const { return m_port; }
 
-    /// Another network, and a SIM for it; what was on its way is forgotten. A daemon reads the SIM
-    /// when the modem is plugged in again.
+    /// Switches to another network and to a SIM card for it, and drops all pending requests. A
+    /// daemon reads the new SIM card when the modem is plugged in again.
     void useScenario(Tksv::Scenario scenario, Clock clock = Clock::Running);
     void startClock();
 
-    /// Listens on the port. Empty on success, else why it cannot.
+    /// Listens on the port. Returns an empty string on success, otherwise the reason of the
+    /// failure.
     std::string plugIn();
     void unplug();
-    /// False while the scenario's device is away.
+    /// Returns false as long as the scenario keeps the device away.
     bool isPresent() const;
-    /// Called on the modem's thread when the scenario does something to the hardware. With a
-    /// handler it is the handler's owner who then calls unplug() and plugIn().
+    /// Sets a handler that is called on the modem's thread when the scenario changes the hardware.
+    /// The handler must then call unplug() or plugIn(); without a handler, the modem does this
+    /// itself.
     void onPlugChange(std::function<void(PlugChange)> handler);
 
     // ---- misbehaviour
     void misbehave(const Misbehaviour &misbehaviour);
-    void behave();               ///< forgets faults, pieces and held replies
-    void setPieces(bool pieces); ///< bytes go out one by one
-    void hangUp();               ///< the daemon can open the port again
-    void holdReplies(bool hold); ///< +CUSD lines wait until `false`
+    void behave();               ///< clears all faults and releases held replies
+    void setPieces(bool pieces); ///< sends the bytes one by one
+    void hangUp();               ///< closes the connection; the daemon can open the port again
+    void holdReplies(bool hold); ///< keeps +CUSD lines back until called with `false`
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
-    void receiveSms(const std::string &pdu); ///< SMS-DELIVER in hex digits
+    void receiveSms(const std::string &pdu); ///< takes an SMS-DELIVER as hex digits
 
-    // ---- what it was sent
+    // ---- the commands the modem has received
     std::vector<std::string> received() const;
     std::vector<SubmittedSms> submitted() const;
     int timesReceived(const std::string &start) const;
-    /// Whether so many commands with that beginning have come within ten seconds.
+    /// Returns whether at least `times` commands that start with this text arrive within ten
+    /// seconds.
     bool waitForCommand(const std::string &start, int times = 1) const;
     void forgetReceived();
 
@@ -85,13 +90,13 @@ private:
     int count(const std::string &start) const;
 
     const std::string m_port;
-    mutable std::mutex m_mutex; // guards the three below
+    mutable std::mutex m_mutex; // guards the next three members
     mutable std::condition_variable m_came;
     std::vector<std::string> m_received;
     std::vector<SubmittedSms> m_submitted;
-    std::function<void(PlugChange)> m_plugHandler; // on the modem's thread only
+    std::function<void(PlugChange)> m_plugHandler; // used on the modem's thread only
     std::unique_ptr<LoopThread> m_thread;
-    std::unique_ptr<ModemCore> m_core; // on the modem's thread only
+    std::unique_ptr<ModemCore> m_core; // used on the modem's thread only
 };
 
 } // namespace modem

@@ -51,8 +51,8 @@ LoopThread::~LoopThread()
     g_main_context_unref(m_context);
 }
 
-/// The actions lie in a list of our own, whose lock says what one thread has done before another,
-/// also to a sanitizer that does not see GLib's.
+/// Keeps the actions in a separate list. A thread sanitizer does not see the locks inside GLib, but
+/// it sees the lock of this list.
 void LoopThread::post(Action action, unsigned delayMilliseconds)
 {
     const auto place = keep(std::move(action));

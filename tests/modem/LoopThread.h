@@ -10,26 +10,28 @@
 namespace modem
 {
 
-/** A thread with a main context of its own, which is its thread-default one. */
+/** A thread with its own main context, which is the thread-default one. */
 class LoopThread
 {
 public:
     using Action = std::function<void()>;
 
-    /// `name` is what debuggers show, at most 15 characters.
+    /// `name` is the thread's name in debuggers, of at most 15 characters.
     explicit LoopThread(const char *name);
     ~LoopThread();
     LoopThread(const LoopThread &) = delete;
     LoopThread &operator=(const LoopThread &) = delete;
 
-    /// Waits for the thread's end; what is posted later, or still waits its time, is never done.
+    /// Stops the loop and waits for the thread. Actions that are still waiting are dropped, and so
+    /// are actions that are posted afterwards.
     void stop();
 
     GMainContext *context() const { return m_context; }
 
-    /// Any thread: does it on the loop's thread later.
+    /// Runs the action on the loop's thread, after the delay. May be called from any thread.
     void post(Action action, unsigned delayMilliseconds = 0);
-    /// Any thread: does it on the loop's thread and returns when it is done.
+    /// Runs the action on the loop's thread and returns when it has finished. May be called from
+    /// any thread.
     void call(const Action &action);
 
 private:

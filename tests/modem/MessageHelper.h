@@ -8,13 +8,16 @@
 #include <QStringList>
 #include <QTimer>
 
-/** As long as it lives, each message box is read and closed by its first button. */
+/**
+ * Records the text of each message box and closes the box with its first button, as long as the
+ * helper lives.
+ */
 class MessageHelper : public QObject
 {
 public:
     MessageHelper() { qApp->installEventFilter(this); }
 
-    /// What the boxes have said.
+    /// The texts of the message boxes so far.
     QStringList texts() const { return m_texts; }
 
 protected:

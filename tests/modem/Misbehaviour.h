@@ -8,40 +8,41 @@ namespace modem
 {
 
 enum class Fault {
-    Error,          // ERROR
-    EquipmentError, // +CME ERROR: value
-    MessageError,   // +CMS ERROR: value
-    Silence,        // nothing at all: neither answer nor result
-    Late,           // value milliseconds later
-    Garbled,        // every third character is another one
-    HangUp          // the connection ends in its place
+    Error,          // answers ERROR
+    EquipmentError, // answers +CME ERROR: value
+    MessageError,   // answers +CMS ERROR: value
+    Silence,        // sends nothing, neither an answer nor a result
+    Late,           // sends the line value milliseconds later
+    Garbled,        // replaces every third character
+    HangUp          // closes the connection instead of sending the line
 };
 
 const int ALWAYS = -1;
 
-/** What goes wrong, and where. */
+/** A fault, and the lines that it applies to. */
 struct Misbehaviour {
-    /// Beginning of a command ("AT+CUSD=1") or of an unsolicited line ("+CUSD:").
+    /// The start of a command ("AT+CUSD=1") or of an unsolicited line ("+CUSD:").
     std::string start;
     Fault fault = Fault::Error;
     int value = 0;
     int times = 1;
 };
 
-/** The faults that are still to come. */
+/** The faults that have yet to happen. */
 class Misbehaviours
 {
 public:
     void add(const Misbehaviour &misbehaviour) { m_list.push_back(misbehaviour); }
     void clear() { m_list.clear(); }
-    /// Counts it, when it is one of those that go wrong; `found` says how.
+    /// Returns whether the line is to go wrong. If so, counts one occurrence of the fault and
+    /// stores the fault in `found`.
     bool take(const std::string &line, Misbehaviour &found);
 
 private:
     std::vector<Misbehaviour> m_list;
 };
 
-/// Behind its name and colon, so that the daemon still takes the line for what it was.
+/// Garbles the line after its name and colon, so that the daemon still recognises the kind of line.
 std::string garbled(std::string line);
 
 } // namespace modem

@@ -64,7 +64,7 @@ std::string shownValue(GVariant *value)
 
 MmClient::MmClient(const std::string &busAddress) : m_connection(connectTo(busAddress))
 {
-    // Without signals: each wait of the library reads what it needs by a call.
+    // No signals are needed, because each wait reads the property with a call.
     m_manager = mm_manager_new_sync(m_connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE, nullptr,
                                     nullptr);
 }
@@ -81,7 +81,7 @@ void MmClient::forget()
     g_clear_object(&m_manager);
 }
 
-/// A new manager each time, which sees the objects as they are now.
+/// Creates a new manager for each use, so that it sees the current objects.
 bool MmClient::use(const std::string &object)
 {
     forget();

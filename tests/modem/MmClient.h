@@ -8,7 +8,10 @@
 namespace modem
 {
 
-/** Text on success; else domain and code of the error. */
+/**
+ * The result of a USSD request: the text on success, otherwise the domain and the code of the
+ * error.
+ */
 struct UssdResult {
     std::string text;
     std::string domain;
@@ -16,8 +19,8 @@ struct UssdResult {
 };
 
 /**
- * A plain client of the daemon, through libmm-glib, that waits for each reply. For tests of the
- * harness, and for what a measurement is compared with.
+ * A plain client of the daemon, which uses libmm-glib and waits for each reply. It serves the tests
+ * of the modem fixtures and measurements that compare the plug-in with a plain client.
  */
 class MmClient
 {
@@ -27,27 +30,28 @@ public:
     MmClient(const MmClient &) = delete;
     MmClient &operator=(const MmClient &) = delete;
 
-    /// The modem with that object path; false when there is none.
+    /// Selects the modem with this object path. Returns false if there is none.
     bool use(const std::string &object);
 
     UssdResult initiate(const std::string &code, int limitMilliseconds = 10000);
     UssdResult respond(const std::string &answer);
     bool cancel();
-    /// Whether a property of the USSD interface has that value within ten seconds.
+    /// Returns whether the property of the USSD interface has this value within ten seconds.
     bool waitForProperty(const char *name, const std::string &value);
-    bool waitUntilIdle(); ///< of the USSD session
+    bool waitUntilIdle(); ///< waits until the USSD session is idle
 
-    /// Empty on success, else the error's message; likewise below.
+    /// Returns an empty string on success, otherwise the error message. The functions below do the
+    /// same.
     std::string sendSms(const std::string &number, const std::string &text);
     std::string sendPin(const std::string &pin);
     std::string sendPuk(const std::string &puk, const std::string &newPin);
 
-    int storedMessages(); ///< -1 without a messaging interface
+    int storedMessages(); ///< returns -1 if there is no messaging interface
 
     std::string operatorName();
     std::string operatorCode();
     std::string imei();
-    /// A property of the SIM.
+    /// Returns a property of the SIM card.
     std::string sim(const char *property);
     int signalPercent();
 

@@ -1,4 +1,7 @@
-/* The commands that the modem knows. Any other gets ERROR at once, as real modems do. */
+/*
+ * The commands that the modem supports. Like a real modem, it answers ERROR at once to any other
+ * command.
+ */
 #include "ModemCore.h"
 
 #include <algorithm>
@@ -15,9 +18,9 @@ namespace
 
 const int SMALLEST_SMS_ERROR = 1;
 const int NO_NETWORK_SERVICE = 30; // 3GPP TS 27.007, 9.2.1
-const int NOT_ALLOWED = 3;         // likewise
+const int NOT_ALLOWED = 3;         // 3GPP TS 27.007, 9.2.1
 const int SMS_NO_NETWORK = 331;    // 3GPP TS 27.005, 3.2.5
-const int SMS_INVALID_INDEX = 321; // likewise
+const int SMS_INVALID_INDEX = 321; // 3GPP TS 27.005, 3.2.5
 
 std::string quoted(const std::string &text)
 {
@@ -36,7 +39,7 @@ std::string joined(const std::vector<std::string> &parts)
 
 const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
 {
-    // Never destroyed: a modem that is itself static still answers while the program ends.
+    // The table is never destroyed, because a static modem still answers while the program ends.
     static const auto *const table = new std::map<std::string, Handler>{
         {"", &ModemCore::accept},
         {"Z", &ModemCore::accept},
@@ -131,8 +134,8 @@ AtAnswer ModemCore::charset(const AtCommand &command)
     return ok();
 }
 
-/// A device that its scenario keeps disabled stays at low power, as by the switch for radio. The
-/// daemon does not mind that, and goes on searching for a network.
+/// Keeps a device that the scenario disables at low power, as the radio switch does. The daemon
+/// ignores the refusal and keeps searching for a network.
 AtAnswer ModemCore::functionality(const AtCommand &command)
 {
     if (command.form == AtCommand::Read)
@@ -146,7 +149,7 @@ AtAnswer ModemCore::functionality(const AtCommand &command)
     return ok();
 }
 
-/* ---- the SIM ----------------------------------------------------------------------------- */
+/* ---- the SIM card ------------------------------------------------------------------------ */
 
 AtAnswer ModemCore::simCommand(const AtCommand &command)
 {
@@ -157,7 +160,7 @@ AtAnswer ModemCore::simCommand(const AtCommand &command)
     if (command.name == "+CSIM")
         return m_sim.raw(command);
     AtAnswer answer = m_sim.pin(command);
-    networkChanged(); // an unlocked SIM registers
+    networkChanged(); // an unlocked SIM card registers
     return answer;
 }
 
@@ -189,7 +192,7 @@ std::string ModemCore::networkCode() const
     return m_sim.data().imsi.substr(0, mccLength + mncLength);
 }
 
-/// 3GPP TS 27.007, 7.3: format 0 is the long name, 2 the number.
+/// 3GPP TS 27.007, 7.3: format 0 is the long name, format 2 is the number.
 AtAnswer ModemCore::operatorName(const AtCommand &command)
 {
     if (command.form == AtCommand::Set && command.value(0) == "3")
@@ -203,7 +206,7 @@ AtAnswer ModemCore::operatorName(const AtCommand &command)
                                   : "+COPS: 0,0," + quoted(name) + ",2");
 }
 
-/// 3GPP TS 27.007, 8.5: 0 to 31, 99 when there is none.
+/// 3GPP TS 27.007, 8.5: the signal is 0 to 31, or 99 if it is unknown.
 AtAnswer ModemCore::signal(const AtCommand &)
 {
     const int percent = device().signalPercent;
@@ -238,8 +241,8 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
     return command.values.size() < 2 ? ok() : startUssd(decodeText(command.value(1), m_charset));
 }
 
-/// A device that "does not answer in time" lets even the command without an answer; "no device" is
-/// an error, since the modem is there to say so.
+/// Sends a USSD text. With `device-timeout`, the command gets no answer at all. `no-device` is an
+/// error, since a modem is present and has to answer.
 AtAnswer ModemCore::startUssd(const std::string &text)
 {
     switch (m_network ? m_network->sendUssd(text) : Tksv::RequestNoDevice) {
@@ -254,7 +257,7 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 
 /* ---- short messages ---------------------------------------------------------------------- */
 
-/// A scenario whose device cannot send SMS from the beginning is a modem without them.
+/// Refuses the command if the scenario starts without SMS: such a modem has no messaging.
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())
@@ -298,8 +301,8 @@ AtAnswer ModemCore::submitted()
     return info("+CMGS: " + std::to_string(m_smsReference));
 }
 
-/// The parts of a long message travel alone and are put together in the network: the last one to
-/// come gets the result of the whole.
+/// Takes one part of a long message. The parts travel separately and are joined in the network, so
+/// the last part that arrives gets the result of the whole message.
 AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
 {
     m_news.submitted(sms);
@@ -323,7 +326,8 @@ AtAnswer ModemCore::deliver(const Tksv::SmsMessage &message)
     return noAnswer();
 }
 
-/// The port carries one message at a time, so the result is that of the message on its way.
+/// Reports the result of the pending message. Since the port carries one message at a time, only
+/// one can be pending.
 void ModemCore::smsFinished(int result)
 {
     if (!std::exchange(m_smsOnItsWay, false))

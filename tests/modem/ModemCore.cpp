@@ -32,7 +32,8 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 
 /* ---- the network ------------------------------------------------------------------------- */
 
-/// The PIN is the modem's business: behind a locked SIM lies a network that is ready.
+/// Starts the network in the registered state if the SIM card is locked, because the modem handles
+/// the PIN itself.
 void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;
@@ -99,14 +100,14 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Registration and signal go out as unsolicited lines. SMS that stop working with all else in
-/// order have no line of their own: the registration is lost for that time.
+/// Reports the registration and the signal as unsolicited lines. No line reports that SMS stop
+/// working while all else is in order, so the modem loses its registration for that time.
 void ModemCore::networkChanged()
 {
     const Tksv::DeviceInfo now = device();
     const TKSV_DeviceState before = std::exchange(m_toldState, now.state);
     if (before == now.state || now.state == TKSV_DEVICE_ABSENT) {
-        // the same hardware
+        // the hardware is the same
     } else if (before == TKSV_DEVICE_ABSENT) {
         m_news.plugChanged(PlugChange::Back);
     } else if (before < TKSV_DEVICE_SEARCHING || now.state < TKSV_DEVICE_SEARCHING) {
@@ -125,7 +126,7 @@ void ModemCore::networkChanged()
         say("+CIEV: 2," + std::to_string((now.signalPercent + 10) / 20));
 }
 
-/// The <stat> of 3GPP TS 27.007, 7.2: 1 at home, 5 roaming, 2 searching.
+/// Returns the <stat> of 3GPP TS 27.007, 7.2: 1 is the home network, 5 is roaming, 2 is searching.
 int ModemCore::registrationStatus() const
 {
     const Tksv::DeviceInfo now = device();
@@ -135,7 +136,7 @@ int ModemCore::registrationStatus() const
     return m_settings.isRoaming ? 5 : 1;
 }
 
-/* ---- what comes in ----------------------------------------------------------------------- */
+/* ---- input ------------------------------------------------------------------------------- */
 
 void ModemCore::opened()
 {
@@ -226,7 +227,7 @@ AtAnswer ModemCore::handle(const std::string &line)
     return found == handlers().end() ? error() : (this->*found->second)(command);
 }
 
-/* ---- what goes out ----------------------------------------------------------------------- */
+/* ---- output ------------------------------------------------------------------------------ */
 
 void ModemCore::send(const std::string &line)
 {
@@ -254,8 +255,9 @@ void ModemCore::say(const std::string &line)
         m_thread.post([this, line] { send(line); }, static_cast<unsigned>(fault.value));
 }
 
-/// 3GPP TS 27.007, 7.15. The data coding scheme is that of the text on the air, 15 for the default
-/// alphabet and 72 for UCS2 (3GPP TS 23.038, 5); the text itself goes by +CSCS.
+/// Sends a +CUSD line (3GPP TS 27.007, 7.15). The data coding scheme is the one of the text on the
+/// air: 15 for the default alphabet and 72 for UCS2 (3GPP TS 23.038, 5). The text itself is encoded
+/// as +CSCS requires.
 void ModemCore::sayUssd(int type, const std::string &text)
 {
     std::string line = "+CUSD: " + std::to_string(type);

@@ -20,14 +20,17 @@
 namespace modem
 {
 
-/** What the modem tells its owner; called on the modem's thread. */
+/** The notifications of a modem. All functions are called on the modem's thread. */
 struct ModemNews {
-    std::function<void(const std::string &)> received; // a command, or "PDU " and its digits
+    std::function<void(const std::string &)> received; // a command, or "PDU " and the hex digits
     std::function<void(const SubmittedSms &)> submitted;
     std::function<void(PlugChange)> plugChanged;
 };
 
-/** The modem itself: AT commands in, answers and unsolicited lines out. On its thread only. */
+/**
+ * The protocol of the modem. It reads AT commands and sends answers and unsolicited lines. Must be
+ * used on the modem's thread only.
+ */
 class ModemCore
 {
 public:
@@ -35,7 +38,7 @@ public:
 
     void useNetwork(Tksv::Scenario scenario);
     void startClock();
-    /// Empty on success, else why not.
+    /// Returns an empty string on success, otherwise the reason of the failure.
     std::string plugIn() { return m_port.listen(); }
     void unplug();
     bool isPresent() const;
@@ -44,7 +47,7 @@ public:
     void setPieces(bool pieces) { m_port.setPieces(pieces); }
     void hangUp() { m_port.hangUp(); }
     void holdReplies(bool hold);
-    /// An unsolicited line, as it is.
+    /// Sends an unsolicited line unchanged.
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
     void receiveSms(const std::string &pdu);
@@ -102,10 +105,11 @@ private:
     SimCard m_sim;
     std::shared_ptr<NetworkLink> m_network;
     Misbehaviours m_faults;
-    bool m_present = false; // as far as the owner has been told
+    // The state that was last reported to the owner.
+    bool m_present = false;
     TKSV_DeviceState m_toldState = TKSV_DEVICE_ABSENT;
 
-    std::string m_line; // what has come of it
+    std::string m_line; // the received part of an incomplete line
     bool m_readsPdu = false;
     std::size_t m_pduLength = 0;
 
@@ -114,12 +118,13 @@ private:
     int m_functionality = 1;
     int m_toldRegistration = 0;
     int m_toldSignal = 0;
-    bool m_tellsUssd = false; // since AT+CUSD=1; the network's own texts wait until then
+    // Set by AT+CUSD=1. Until then, the network's messages are kept back.
+    bool m_tellsUssd = false;
     bool m_holdsReplies = false;
     std::vector<std::string> m_heldReplies;
     int m_smsReference = 0;
     bool m_smsOnItsWay = false;
-    std::map<int, std::map<int, std::string>> m_smsParts; // by reference, then part
+    std::map<int, std::map<int, std::string>> m_smsParts; // by reference, then by part number
     std::map<int, std::string> m_storedSms;               // PDUs by index
 };
 

@@ -1,4 +1,4 @@
-/* The fixture's network: a modem under ModemManager. */
+/* The network of the SDK fixture: a modem under ModemManager. */
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -20,7 +20,8 @@ TKSV_DeviceInfo deviceInfo()
     return info;
 }
 
-/// Made before the SDK library is used first, so that it goes after the library has stopped.
+/// Creates the world before the SDK library is used for the first time, so that it is destroyed
+/// after the library has stopped.
 modem::ModemWorld &world()
 {
     static const std::unique_ptr<modem::ModemWorld> instance = [] {
@@ -36,7 +37,8 @@ modem::ModemWorld &world()
     return *instance;
 }
 
-/// A modem that is switched off is switched on by the library, and then searches.
+/// Returns whether the modem is in the state of the scenario. The library enables a modem that is
+/// switched off, and such a modem then searches for a network.
 bool isReady(const Tksv::Scenario &scenario)
 {
     const TKSV_DeviceInfo now = deviceInfo();
@@ -61,7 +63,8 @@ std::string unlessReady(const char *what)
 namespace SdkFixture
 {
 
-/// The library is to see the earlier modem go, or it would take that one for the new one.
+/// Waits until the library has noticed that the earlier modem is gone. Otherwise it would take the
+/// earlier modem for the new one.
 std::string useNetwork(const std::string &scenario)
 {
     const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");

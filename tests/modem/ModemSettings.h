@@ -11,8 +11,8 @@ namespace modem
 {
 
 /**
- * What a modem is, apart from its network. IMSI, PIN, home network and, unless it is given, the
- * SIM's operator name are those of the scenario.
+ * The properties of a modem except for its network. The IMSI, the PIN and the home network come
+ * from the scenario, and so does the operator name of the SIM card unless it is set here.
  */
 struct ModemSettings {
     std::string manufacturer = "Example";
@@ -23,16 +23,20 @@ struct ModemSettings {
     SimData sim;
     bool asksForPin = false;
     bool isRoaming = false;
-    bool tellsSignal = false; // in five steps, but at once; else the daemon asks every 30 s
+    // Whether each change of the signal is reported at once, in five steps. Otherwise the daemon
+    // polls the signal every 30 s.
+    bool tellsSignal = false;
     std::vector<Charset> charsets = {Charset::Ucs2, Charset::Gsm, Charset::Ira};
 };
 
-/** What happens to the modem as a piece of hardware. */
+/** The changes of the modem hardware. */
 enum class PlugChange {
-    Gone,   // pulled out
-    Reset,  // restarted by itself
-    Back,   // after either
-    Changed // its SIM or its power switch: a daemon sees that when the modem is plugged in again
+    Gone,  // the modem was pulled out
+    Reset, // the modem has restarted by itself
+    Back,  // the modem is back after either of them
+    // The SIM card or the power switch has changed. A daemon notices it when the modem is plugged
+    // in again.
+    Changed
 };
 
 } // namespace modem

@@ -20,7 +20,8 @@ const char MODEM_INTERFACE[] = "org.freedesktop.ModemManager1.Modem";
 const char ADDRESS_VARIABLE[] = "DBUS_SYSTEM_BUS_ADDRESS";
 
 const std::chrono::seconds WAIT_LIMIT(10);
-/// With a command that the modem does not answer, the daemon alone would take 20 s.
+/// The time after which the daemon is killed. A daemon with an unanswered command would need 20 s
+/// to end.
 const std::chrono::milliseconds STOP_LIMIT(3000);
 const std::size_t TAIL_SIZE = 6000;
 
@@ -36,7 +37,7 @@ int numberOf(GVariant *dictionary, const char *key, const char *type)
     return number;
 }
 
-/// The modem's state, when the interfaces are those of the device.
+/// Reads the modem's state. Returns false if the interfaces belong to another device.
 bool readModem(GVariant *interfaces, const std::string &device, ModemState &state)
 {
     GVariant *found = g_variant_lookup_value(interfaces, MODEM_INTERFACE, G_VARIANT_TYPE_VARDICT);
@@ -62,7 +63,7 @@ gboolean wakeUp(gpointer)
     return G_SOURCE_CONTINUE;
 }
 
-/** Wakes the thread's main context at each signal on the bus, and now and then. */
+/** Wakes the thread's main context at each signal on the bus and every 50 ms. */
 class Wakeups
 {
 public:
@@ -75,7 +76,7 @@ public:
             [](GDBusConnection *, const gchar *, const gchar *, const gchar *, const gchar *,
                GVariant *, gpointer) {},
             nullptr, nullptr);
-        m_timer = g_timeout_source_new(50); // for conditions that no signal tells of
+        m_timer = g_timeout_source_new(50); // for conditions that no signal reports
         g_source_set_callback(m_timer, wakeUp, nullptr, nullptr);
         g_source_attach(m_timer, m_context);
     }
@@ -120,12 +121,12 @@ void removeFolder(const std::string &folder)
 
 ModemWorld::ModemWorld() = default;
 
-/// The daemon goes before the modems: it would wait for their answers.
+/// Stops the daemon before the modems are deleted, because the daemon would wait for their answers.
 ModemWorld::~ModemWorld()
 {
     for (const auto &entry : m_modems)
         entry.second->onPlugChange(nullptr);
-    m_thread.call([] {}); // what a modem has still asked for
+    m_thread.call([] {}); // finishes the changes that the modems have already posted
     stopDaemon();
     m_modems.clear();
     m_polkit.reset();
@@ -139,7 +140,8 @@ ModemWorld::~ModemWorld()
 
 std::string ModemWorld::start()
 {
-    char folder[] = "/tmp/modem-XXXXXX"; // short, whatever TMPDIR is: sockets lie in it
+    // The path is short whatever TMPDIR is, because the directory holds sockets.
+    char folder[] = "/tmp/modem-XXXXXX";
     if (!mkdtemp(folder))
         return "no temporary folder";
     m_folder = folder;
@@ -169,7 +171,7 @@ bool ModemWorld::startDaemon()
 bool ModemWorld::launchDaemon()
 {
     const std::lock_guard<std::mutex> daemonLock(m_daemonMutex);
-    const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG shows the AT commands
+    const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG logs the AT commands
     if (!m_daemon.start({"ModemManager", "--test-enable", "--test-no-udev",
                          "--test-no-suspend-resume", "--test-no-qrtr", "--no-auto-scan",
                          "--log-file=" + m_folder + "/daemon.log",
@@ -242,7 +244,7 @@ std::string ModemWorld::addModem(const std::string &id, const std::string &scena
 {
     if (hasModem(id))
         unplug(id);
-    m_thread.call([&] { m_modems.erase(id); }); // before the new one takes its socket
+    m_thread.call([&] { m_modems.erase(id); }); // before the new modem takes its socket
     auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
     modem->onPlugChange(
         [this, id](PlugChange change) { m_thread.post([=] { plugChanged(id, change); }); });
@@ -263,9 +265,9 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
     return std::string();
 }
 
-/// Tells the daemon of the device anew. Its earlier object goes, as that of a device which is
-/// pulled out, and a port that nobody listens on makes no new one. Inhibiting the device would have
-/// the daemon disable it first.
+/// Announces the device to the daemon again. The daemon deletes the earlier object like that of a
+/// device which is pulled out. If nothing listens on the port, the daemon creates no new object.
+/// Inhibiting the device does not work, because the daemon would first disable it.
 void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
@@ -296,12 +298,13 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// On the world's thread. What a reset is to a modem that stays plugged in, a daemon that starts
-/// anew is to its clients. The port goes first, or the daemon would disable the modem.
+/// Runs on the world's thread. A modem that resets itself while it stays plugged in looks to
+/// clients like a daemon that restarts. The daemon is killed before the port is closed, otherwise
+/// it would disable the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))
-        return; // another is about to take its place
+        return; // a new modem is about to replace it
     switch (change) {
     case PlugChange::Gone:
         modem(id).unplug();
@@ -321,7 +324,7 @@ void ModemWorld::plugChanged(const std::string &id, PlugChange change)
     }
 }
 
-/* ---- what the daemon says ---------------------------------------------------------------- */
+/* ---- the daemon's reports ---------------------------------------------------------------- */
 
 VariantPtr ModemWorld::managedObjects()
 {

@@ -17,11 +17,11 @@
 namespace modem
 {
 
-/** What the daemon says of a modem. */
+/** The state of a modem as the daemon reports it. */
 struct ModemState {
-    std::string object; // its path; empty while there is none
-    int state = -1; // of MMModemState: 2 locked, 3 disabled, 6 enabled, 7 searching, 8 registered
-    int lock = 0;   // of MMModemLock: 1 none, 2 SIM PIN, 4 SIM PUK
+    std::string object; // the object path, empty while there is none
+    int state = -1;     // MMModemState: 2 locked, 3 disabled, 6 enabled, 7 searching, 8 registered
+    int lock = 0;       // MMModemLock: 1 none, 2 SIM PIN, 4 SIM PUK
     bool hasUssd = false;
     bool hasMessaging = false;
 };
@@ -32,13 +32,14 @@ const int STATE_ENABLED = 6;
 const int STATE_REGISTERED = 8;
 
 /**
- * A real ModemManager with fake modems, apart from the system's: a folder of its own, a private
- * bus, a stub in place of polkit, and the daemon. It sets DBUS_SYSTEM_BUS_ADDRESS for the process,
- * so it is made before anybody connects to the system bus, and there is one at a time. All of it
- * ends with the process, also when that crashes.
+ * A real ModemManager with fake modems, separated from the one of the system. It consists of a
+ * temporary directory, a private bus, a stub for polkit and the daemon. Since it sets
+ * DBUS_SYSTEM_BUS_ADDRESS for the process, it must be created before anything connects to the
+ * system bus. Only one instance may exist at a time. The bus and the daemon end with the process,
+ * even if it crashes.
  *
- * To be made, and the daemon to be started, on a thread that stays. Functions that wait return
- * false (or an empty text) after ten seconds. No function throws.
+ * Must be created on a thread that lives as long as the object. Functions that wait return false or
+ * an empty string after ten seconds. No function throws.
  */
 class ModemWorld
 {
@@ -48,47 +49,52 @@ public:
     ModemWorld(const ModemWorld &) = delete;
     ModemWorld &operator=(const ModemWorld &) = delete;
 
-    /// Starts bus, stub and daemon. Empty on success, else what went wrong.
+    /// Starts the bus, the stub and the daemon. Returns an empty string on success, otherwise the
+    /// error.
     std::string start();
     const std::string &busAddress() const { return m_bus.address(); }
     PolkitStub &polkit() { return *m_polkit; }
 
-    /// A modem in the network of a scenario (its text), known to the daemon as /virtual/<id>. A
-    /// later one takes the place of an earlier one with that name. What is wrong, or empty.
+    /// Adds a modem in the network that the text of a scenario describes. The daemon knows the
+    /// modem as /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an
+    /// empty string on success, otherwise the error.
     std::string addModem(const std::string &id, const std::string &scenario,
                          const ModemSettings &settings = ModemSettings(),
                          FakeModem::Clock clock = FakeModem::Clock::Running);
     bool hasModem(const std::string &id) const { return m_modems.count(id) != 0; }
     FakeModem &modem(const std::string &id) { return *m_modems.at(id); }
 
-    /// Another network for a modem, which is plugged in again for it, unless its device is away.
-    /// What is wrong with the scenario, or empty.
+    /// Switches a modem to another network and plugs it in again, unless the scenario keeps the
+    /// device away. Returns the errors of the scenario, or an empty string if there are none.
     std::string useScenario(const std::string &id, const std::string &scenario,
                             FakeModem::Clock clock = FakeModem::Clock::Running);
 
     // ---- the hardware
-    void unplug(const std::string &id); ///< returns when the object is gone
+    void unplug(const std::string &id); ///< returns when the modem's object has disappeared
     void plugIn(const std::string &id);
 
     // ---- the daemon
-    bool startDaemon(); ///< with the modems that are there
+    bool startDaemon(); ///< announces the modems that are plugged in
     bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
-    void pauseDaemon(); ///< it hangs, with its name still on the bus; nothing here answers then
+    /// Hangs the daemon, whose name stays on the bus. Functions that ask the daemon get no reply
+    /// meanwhile.
+    void pauseDaemon();
     void resumeDaemon();
 
     ModemState stateOf(const std::string &id);
-    /// The modem's object once it has at least that state, failed modems apart; else empty.
+    /// Waits until the modem has at least this state and returns its object path. Returns an empty
+    /// string if it does not get there. A failed modem is ignored.
     std::string waitForState(const std::string &id, int atLeast);
-    /// Waits for the modem and enables it; its object.
+    /// Waits for the modem, enables it and returns its object path.
     std::string switchOn(const std::string &id);
-    /// The same, and waits until it is registered.
+    /// Does the same as switchOn() and waits until the modem is registered.
     std::string enable(const std::string &id);
     bool switchOff(const std::string &id);
     bool waitUntil(const std::function<bool()> &condition);
 
-    /// The end of the daemon's log, for failed tests.
+    /// Returns the end of the daemon's log, which is printed when a test fails.
     std::string logTail();
 
 private:
@@ -101,12 +107,13 @@ private:
     std::string daemonOwner();
 
     std::string m_folder;
-    std::string m_addressBefore; // of the system bus
+    std::string m_addressBefore; // the previous address of the system bus
     PrivateBus m_bus;
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
-    std::mutex m_daemonMutex; // guards the daemon
-    ChildProcess m_daemon;    // started on m_thread, with which it would end
+    std::mutex m_daemonMutex; // guards m_daemon
+    // Started on m_thread, because the process ends with the thread that started it.
+    ChildProcess m_daemon;
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
     LoopThread m_thread{"modem-world"};
 };

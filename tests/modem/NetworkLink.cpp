@@ -24,8 +24,9 @@ void NetworkLink::start()
     m_network.start(*this);
 }
 
-/// A cancel does not always reach the modem: the daemon sends the first one only. So a code begins
-/// a new session, also where a network would take it for the answer to its menu.
+/// Treats each code as the start of a new session, even where a network would take the code as the
+/// answer to its menu. The modem may have missed the cancel before it, because the daemon sends
+/// only the first cancel.
 int NetworkLink::sendUssd(const std::string &text)
 {
     if (!m_started)
@@ -81,7 +82,7 @@ void NetworkLink::deviceLost(int event)
     });
 }
 
-/// Stands in the device's information too.
+/// Does nothing, because the device information contains this status too.
 void NetworkLink::smsStatusChanged(bool) {}
 
 void NetworkLink::smsFinished(const Tksv::SmsMessage &message, int result)

@@ -13,7 +13,7 @@
 namespace modem
 {
 
-/** What the network told the modem; each function is called on the modem's thread. */
+/** The notifications of the network. All functions are called on the modem's thread. */
 struct NetworkNews {
     std::function<void(const Tksv::UssdReply &)> ussd;
     std::function<void(int event)> lost;
@@ -22,8 +22,9 @@ struct NetworkNews {
 };
 
 /**
- * The simulated network behind the modem, played from a scenario. It speaks on a thread of its own;
- * the link brings that to the modem's thread, in its order. Used there only.
+ * The simulated network behind the modem, which plays a scenario. The network runs on its own
+ * thread; the link passes its events to the modem's thread, in their order. Must be used on the
+ * modem's thread only.
  */
 class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private Tksv::BackendObserver
 {
@@ -35,7 +36,8 @@ public:
     void start();
     bool isStarted() const { return m_started; }
 
-    /// A Tksv::RequestStatus. While a menu waits, a text without the form of a code is its answer.
+    /// Returns a Tksv::RequestStatus. While a menu is open, a text that does not have the form of a
+    /// code is sent as the answer.
     int sendUssd(const std::string &text);
     void endUssd();
     bool sendSms(const Tksv::SmsMessage &message);

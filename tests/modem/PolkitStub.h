@@ -11,8 +11,8 @@ namespace modem
 {
 
 /**
- * Answers the daemon's questions whether a client may do something, in place of polkit: everything
- * is allowed until it is told otherwise. It lives on the bus under polkit's name.
+ * Replaces polkit on the bus and owns its name. It answers the daemon's authorization requests and
+ * allows everything until it is set to refuse.
  */
 class PolkitStub
 {
@@ -22,7 +22,7 @@ public:
     PolkitStub(const PolkitStub &) = delete;
     PolkitStub &operator=(const PolkitStub &) = delete;
 
-    /// Returns when the name is owned. Empty on success.
+    /// Returns when the stub owns the name. The result is empty on success, otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
     int timesAsked() const { return m_timesAsked; }

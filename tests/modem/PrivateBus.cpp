@@ -11,7 +11,7 @@ namespace modem
 namespace
 {
 
-const int START_LIMIT = 10000; // milliseconds
+const int START_LIMIT = 10000; // in milliseconds
 const std::chrono::milliseconds STOP_LIMIT(1000);
 
 void writeConfiguration(const std::string &path, const std::string &address)
@@ -31,7 +31,7 @@ void writeConfiguration(const std::string &path, const std::string &address)
                            "</busconfig>\n";
 }
 
-/// The daemon writes its address when it listens.
+/// Waits for the daemon's address, which the daemon writes as soon as it listens.
 bool waitForLine(int descriptor)
 {
     pollfd entry = {descriptor, POLLIN, 0};

@@ -8,12 +8,13 @@
 namespace modem
 {
 
-/** A message bus in a folder, on which everybody may do everything; it ends with the object. */
+/** A message bus in a directory, which allows everything to everybody. It ends with the object. */
 class PrivateBus
 {
 public:
-    /// `folder` has a short path: socket names have at most 107 bytes. Returns when clients can
-    /// connect; empty on success.
+    /// Starts the bus and returns when clients can connect. The result is empty on success,
+    /// otherwise the error. The path of `folder` must be short because socket names have at most
+    /// 107 bytes.
     std::string start(const std::string &folder);
     const std::string &address() const { return m_address; }
     void stop();

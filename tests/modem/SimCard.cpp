@@ -11,7 +11,7 @@ namespace modem
 namespace
 {
 
-/// Errors of 3GPP TS 27.007, 9.2.1.
+/// The error codes of 3GPP TS 27.007, 9.2.1.
 enum EquipmentError {
     NotAllowed = 3,
     SimMissing = 10,
@@ -23,7 +23,7 @@ enum EquipmentError {
 const int PIN_TRIES = 3;
 const int PUK_TRIES = 10;
 
-/// Files of 3GPP TS 31.102, by their decimal identifiers.
+/// The files of 3GPP TS 31.102, by their decimal identifiers.
 const char ICCID_FILE[] = "12258";
 const char ADMINISTRATIVE_FILE[] = "28589";
 const char PROVIDER_NAME_FILE[] = "28486";
@@ -39,7 +39,8 @@ std::string swapped(std::string digits)
     return digits;
 }
 
-/// Display condition, then the name in the default alphabet, filled up (3GPP TS 31.102, 4.2.12).
+/// Returns the display condition and the padded name in the default alphabet (3GPP TS 31.102,
+/// 4.2.12).
 std::string providerName(const std::string &name)
 {
     Bytes bytes = toSeptets(name).value_or(Bytes());
@@ -48,7 +49,7 @@ std::string providerName(const std::string &name)
     return toHex(bytes);
 }
 
-/// The status words that VERIFY without a code gives (ETSI TS 102 221, 11.1.9).
+/// Returns the status words of a VERIFY without a code (ETSI TS 102 221, 11.1.9).
 std::string triesLeft(int tries)
 {
     char words[16];

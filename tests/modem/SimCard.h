@@ -8,17 +8,17 @@
 namespace modem
 {
 
-/** What is written on the card. */
+/** The data on the SIM card. */
 struct SimData {
     std::string imsi;
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
-    std::string operatorName;                  // its service provider name; empty: none
+    std::string operatorName;                  // the service provider name, or empty for none
     int mncLength = 2;
     std::string pin = "0000";
     std::string puk = "12345678";
 };
 
-/** A SIM behind AT commands: lock, counters and the few files that a daemon reads. */
+/** The AT commands of a SIM card: its lock, its counters and the few files that a daemon reads. */
 class SimCard
 {
 public:
@@ -27,15 +27,15 @@ public:
     void setData(SimData data);
     const SimData &data() const { return m_data; }
     void setMissing(bool missing) { m_missing = missing; }
-    /// The PIN is asked for from now on.
+    /// Makes the card require its PIN from now on.
     void lock() { m_lock = Lock::Pin; }
     bool isUsable() const { return !m_missing && m_lock == Lock::None; }
     bool isLocked() const { return !m_missing && m_lock != Lock::None; }
 
-    AtAnswer pin(const AtCommand &command);  // +CPIN
-    AtAnswer imsi() const;                   // +CIMI
-    AtAnswer file(const AtCommand &command); // +CRSM, 3GPP TS 27.007, 8.18
-    AtAnswer raw(const AtCommand &command);  // +CSIM, of which only the counters are known
+    AtAnswer pin(const AtCommand &command);  // answers +CPIN
+    AtAnswer imsi() const;                   // answers +CIMI
+    AtAnswer file(const AtCommand &command); // answers +CRSM, 3GPP TS 27.007, 8.18
+    AtAnswer raw(const AtCommand &command); // answers +CSIM, but only the requests for the counters
 
 private:
     enum class Lock { None, Pin, Puk };

@@ -13,7 +13,9 @@ const unsigned TYPE_SUBMIT = 0x01;
 const unsigned HAS_USER_DATA_HEADER = 0x40;
 const unsigned INTERNATIONAL = 0x91;
 
-/** Reads octets from the front; too few octets make it bad, and zeros follow. */
+/**
+ * Reads octets from the front. A read past the end returns zeros and makes isGood() return false.
+ */
 class Reader
 {
 public:
@@ -46,7 +48,8 @@ private:
     bool m_good = true;
 };
 
-/// 3GPP TS 23.040, 9.1.2.5: two digits in each octet, the first one in the low half.
+/// Reads an address (3GPP TS 23.040, 9.1.2.5). Each octet holds two digits, the first one in the
+/// low half.
 std::string readAddress(Reader &reader)
 {
     const char symbols[] = "0123456789*#abc";
@@ -60,7 +63,7 @@ std::string readAddress(Reader &reader)
     return number;
 }
 
-/// The format is in bits 3 and 4 of the first octet (3GPP TS 23.040, 9.2.3.3).
+/// Bits 3 and 4 of the first octet contain the format (3GPP TS 23.040, 9.2.3.3).
 std::size_t validityOctets(unsigned first)
 {
     switch (first >> 3 & 0x03) {
@@ -73,7 +76,7 @@ std::size_t validityOctets(unsigned first)
     }
 }
 
-/// 3GPP TS 23.040, 9.2.3.24: elements 00 (8-bit reference) and 08 (16-bit reference).
+/// Reads the elements 00 (8-bit reference) and 08 (16-bit reference) of 3GPP TS 23.040, 9.2.3.24.
 void readHeader(const Bytes &header, SubmittedSms &sms)
 {
     for (std::size_t i = 0; i + 1 < header.size(); i += 2U + header[i + 1]) {
@@ -89,7 +92,7 @@ void readHeader(const Bytes &header, SubmittedSms &sms)
 
 enum class Alphabet { Default, Data, Ucs2 };
 
-/// 3GPP TS 23.038, chapter 4, general data coding and message classes.
+/// Supports the general data coding and the message classes of 3GPP TS 23.038, chapter 4.
 Alphabet alphabetOf(unsigned coding)
 {
     const unsigned alphabet = coding >> 2 & 0x03;
@@ -100,7 +103,8 @@ Alphabet alphabetOf(unsigned coding)
     return alphabet == 1 ? Alphabet::Data : Alphabet::Default;
 }
 
-/// `length` counts septets in the default alphabet, header and fill bits included, else octets.
+/// `length` counts septets in the default alphabet, including the header and the fill bits. In the
+/// other alphabets it counts octets.
 std::string decodeUserData(const Bytes &data, std::size_t headerSize, std::size_t length,
                            Alphabet alphabet)
 {
@@ -141,10 +145,10 @@ std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t len
     reader.octets(reader.octet()); // the service centre
     const bool lengthIsRight = reader.left() == length;
     const unsigned first = reader.octet();
-    reader.octet(); // message reference: the modem's own
+    reader.octet(); // the message reference, which the modem chooses itself
     SubmittedSms sms;
     sms.number = readAddress(reader);
-    reader.octet(); // protocol identifier
+    reader.octet(); // the protocol identifier
     const unsigned coding = reader.octet();
     reader.octets(validityOctets(first));
     readUserData(reader, coding, (first & HAS_USER_DATA_HEADER) != 0, sms);

@@ -1,4 +1,7 @@
-/* Which device is used when nobody says: a modem when there is one, otherwise the simulator. */
+/*
+ * Tests which device is used if nobody chooses one: a modem if there is one, otherwise the
+ * simulator.
+ */
 #include "ModemWorld.h"
 
 #include <QtTest>
@@ -76,7 +79,8 @@ private:
     std::unique_ptr<ModemWorld> m_world;
 };
 
-/// Before the library is called first. Tests have the simulator otherwise.
+/// Unsets the variable before the first call of the library, because tests use the simulator by
+/// default.
 void ModemAutomaticTest::setUpClass()
 {
     qunsetenv("TKSV_BACKEND");
@@ -94,7 +98,8 @@ void ModemAutomaticTest::tearDown()
         std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
     unregisterAll();
     m_world.reset();
-    TKSV_Device_UseModem(nullptr); // the next world is looked for once this one's end has been seen
+    // The library looks for the next world once it has noticed the end of this one.
+    TKSV_Device_UseModem(nullptr);
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_BUS; }));
     received().clear();
 }
@@ -104,7 +109,7 @@ void ModemAutomaticTest::addModem()
     QCOMPARE(m_world->addModem("one", NETWORK), std::string());
 }
 
-/// The very first of the process: nothing is known yet.
+/// This test must be the first of the process, because the library has not seen any device yet.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
 {
     addModem();
@@ -159,7 +164,8 @@ void ModemAutomaticTest::whatTheUserChoseStays()
     registerAll();
     QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     addModem();
-    QVERIFY(waitUntil([] { return countModems() == 1; })); // seen, and left alone
+    // The library has found the modem and does not use it.
+    QVERIFY(waitUntil([] { return countModems() == 1; }));
     QCOMPARE(int(info().backend), int(TKSV_BACKEND_SIMULATOR));
     TKSV_Device_UseAutomatic();
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));

@@ -1,5 +1,8 @@
-/* What the device SDK makes of a real ModemManager: the table of docs/modems.md, line by line. */
-// GLib's headers come before Qt's, to which "signals" is a word of its own.
+/*
+ * Tests how the device SDK works with a real ModemManager. The tests follow the table of
+ * docs/modems.md line by line.
+ */
+// The headers of GLib come before those of Qt, where "signals" is a keyword.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -83,13 +86,13 @@ void onNetworkText(void *, const TKSV_NetworkText *text)
     networkTexts().add(text->text + std::string(text->waitsForAnswer ? "?" : "."));
 }
 
-/// As the plug-in does when nothing is waited for.
+/// Ignores the event, as the plug-in does when it waits for no reply.
 unsigned char takesNothing(int, void *)
 {
     return 0;
 }
 
-/** Nobody takes texts; the dashboard hears of them. */
+/** Leaves all texts to the dashboard, because no USSD call-back accepts them. */
 class OnlyDashboard
 {
 public:
@@ -215,7 +218,7 @@ void ModemDeviceTest::useModem(const ModemSettings &settings)
     received().clear();
 }
 
-/* ---- the way to the modem ---------------------------------------------------------------- */
+/* ---- finding the modem ------------------------------------------------------------------- */
 
 void ModemDeviceTest::withoutABusThatIsSaid()
 {
@@ -263,8 +266,8 @@ void ModemDeviceTest::theModemTellsOfItself()
 
 /* ---- replies ----------------------------------------------------------------------------- */
 
-/// In pieces only a little later: of a reply that comes with the OK, the daemon takes as much as is
-/// there when it reads the OK.
+/// Splits the reply only if it comes after the OK. If a reply comes with the OK, the daemon takes
+/// only the bytes that are there when it reads the OK.
 void ModemDeviceTest::repliesArriveWhole()
 {
     useModem();
@@ -341,7 +344,7 @@ void ModemDeviceTest::unsaneTextIsRefused()
 void ModemDeviceTest::aReleasedCommandDoesNotBlockTheNext()
 {
     useModem();
-    for (int i = 0; i < 3; ++i) { // the daemon sends but one cancel to the modem
+    for (int i = 0; i < 3; ++i) { // the daemon sends only one cancel to the modem
         QCOMPARE(request(u"*133#"), 0L);
         QVERIFY(fake().waitForCommand("AT+CUSD=1,", 2 * i + 1));
         TKSV_USSDSrv_Release(nullptr);
@@ -354,12 +357,12 @@ void ModemDeviceTest::aReplacedCommandIsNotAnswered()
 {
     useModem();
     QCOMPARE(request(u"*133#"), 0L);
-    QCOMPARE(request(u"*120#"), 0L); // before or after the first has reached the modem
+    QCOMPARE(request(u"*120#"), 0L); // may come before the modem has received the first one
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
-/// The daemon has no way to know whose reply it was.
+/// The dashboard shows the reply, because the daemon cannot know which command it belongs to.
 void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 {
     useModem();
@@ -380,18 +383,19 @@ void ModemDeviceTest::aSessionThatAnotherClientLeftIsEnded()
     useModem();
     modem::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
-    other.initiate("*133#", 50); // gives up, and leaves the daemon waiting
+    other.initiate("*133#", 50); // times out and leaves the daemon waiting
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
-/// Its state is not known by then.
+/// The library does not yet know the modem's state when the command comes.
 void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
 {
     useModem();
     TKSV_Device_UseModem("350000000000017");
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     TKSV_Device_UseModem("350000000000025");
-    const bool isAccepted = request(u"*100#") == 0; // unless it is known by now that none is there
+    // The library refuses the request if it already knows that this modem is absent.
+    const bool isAccepted = request(u"*100#") == 0;
     QVERIFY(waitForProblem(TKSV_PROBLEM_CHOSEN_ABSENT));
     const std::size_t expected = isAccepted ? 2 : 1;
     QVERIFY(received().responses.waitFor(expected));
@@ -399,7 +403,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     QCOMPARE(received().responses.all().back().type, isAccepted ? 2 : 0);
 }
 
-/// GDBus by itself would wait for 25 s.
+/// Checks that calls do not wait as long as GDBus does by default, which is 25 s.
 void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
 {
     m_world = std::make_unique<ModemWorld>();
@@ -407,7 +411,7 @@ void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
     m_world->pauseDaemon();
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < 200) // some of it comes when the daemon has been asked
+    while (timer.elapsed() < 200) // hits moments in which a reply of the daemon is pending
         TKSV_Device_UseModem(nullptr);
     QVERIFY(timer.elapsed() < 15000);
     m_world->resumeDaemon();
@@ -436,7 +440,7 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, 2);
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // and it stays so
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // and the library leaves it disabled
     QVERIFY(request(u"*100#") != 0);
 }
 
@@ -481,7 +485,7 @@ void ModemDeviceTest::aBusThatDiesEndsTheCommand()
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_BUS));
 }
 
-/* ---- the network's own messages ---------------------------------------------------------- */
+/* ---- messages from the network ----------------------------------------------------------- */
 
 void ModemDeviceTest::theNetworkTellsSomething()
 {
@@ -518,7 +522,7 @@ void ModemDeviceTest::aMenuLeftOpenIsFoundAgain()
     QVERIFY(networkTexts().waitFor(1));
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"?"});
     QCOMPARE(request(u"1"), 0L);
-    QVERIFY(networkTexts().waitFor(2)); // nobody took the reply either
+    QVERIFY(networkTexts().waitFor(2)); // no call-back accepted this reply either
     QCOMPARE(networkTexts().all()[1], std::string("One."));
 }
 
@@ -549,7 +553,8 @@ void ModemDeviceTest::messagesAreDeletedFromTheModem()
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
 }
 
-/// It ends with the device that was to send it; the daemon hears of it later, and forgets it.
+/// The message fails when its device is left. The daemon creates the message later, and the library
+/// then deletes it.
 void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
 {
     useModem();
@@ -578,14 +583,14 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // behind the 7 of before, which may come late
+    QVERIFY(waitUntil([] { // the last status counts, because an earlier 7 may come late
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));
     QVERIFY(sendSms(u"1200", u"x") != 0);
 }
 
-/* ---- SIM and rights ---------------------------------------------------------------------- */
+/* ---- the SIM card and permissions -------------------------------------------------------- */
 
 void ModemDeviceTest::thePinUnlocksTheSim()
 {
@@ -691,7 +696,7 @@ void ModemDeviceTest::oneOfTwoModemsIsChosen()
     QVERIFY(waitUntil([] { return modems().size() == 2; }));
     QVERIFY(modems()[0].isInUse && !modems()[1].isInUse);
     QCOMPARE(modems()[1].name, "Example Fake Two");
-    QCOMPARE(other.timesReceived("AT+CFUN=1"), 0); // left alone so far
+    QCOMPARE(other.timesReceived("AT+CFUN=1"), 0); // not enabled so far
 
     TKSV_Device_UseModem(modems()[1].equipmentId);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));

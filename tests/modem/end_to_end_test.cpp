@@ -1,4 +1,4 @@
-// GLib's headers come before Qt's, to which "signals" is a word of its own.
+// The headers of GLib come before those of Qt, where "signals" is a keyword.
 #include "ModemWorld.h"
 
 #include <QPlainTextEdit>
@@ -61,11 +61,11 @@ Result=0
 Result=28
 )";
 
-const int WEATHER = 9; // rows of the services' tree
+const int WEATHER = 9; // rows of the service tree
 const int TARIFF = 10;
 const int ALERT = 11;
 
-/// All that the labels of a window say.
+/// Returns the text of all labels of a window.
 QString shownText(const QWidget *window)
 {
     QStringList texts;
@@ -84,8 +84,8 @@ const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 } // namespace
 
 /**
- * The dashboard with the plug-in on top, and below it the device SDK, a real ModemManager and an AT
- * modem of our own: what a user does and what reaches the modem.
+ * Tests the dashboard with the plug-in on top of the device SDK, a real ModemManager and an AT
+ * modem. The tests do what a user does and check which commands reach the modem.
  */
 class EndToEndTest : public SimTest
 {
@@ -175,7 +175,7 @@ bool EndToEndTest::waitForRegistration()
         10000);
 }
 
-/// When the question whether the SIM is prepaid has been answered, the pipeline is at rest.
+/// Opens the page and waits until the prepaid detection has finished, so that the pipeline is idle.
 void EndToEndTest::openPage()
 {
     openDashboard();
@@ -212,10 +212,11 @@ T *EndToEndTest::part(const QWidget *dialog, const char *role)
     return found;
 }
 
-/// The send button of a service, shown and with what it asks for entered.
+/// Selects a service, fills in its input field and returns its send button.
 QPushButton *EndToEndTest::openService(int row)
 {
-    allowWarning("TKSV_SMSSrv_CreateSMSRecord = 0"); // which the plug-in also says of success
+    // The plug-in also prints this warning on success.
+    allowWarning("TKSV_SMSSrv_CreateSMSRecord = 0");
     const QWidget *dialog = openDialog(PAID_TYPE_USSD_SMS, "USSDUIPlugin_SMSDialog");
     if (!dialog)
         return nullptr;
@@ -227,7 +228,8 @@ QPushButton *EndToEndTest::openService(int row)
     return part<QPushButton>(dialog, "SMSDialog_SendButton");
 }
 
-/// A message can be sent soon after the window is open.
+/// Waits until the button is enabled, because a message cannot be sent at the moment the window
+/// opens.
 bool EndToEndTest::sendWhenReady(QPushButton *button)
 {
     if (!button || !QTest::qWaitFor([button] { return button->isEnabled(); }))
@@ -250,7 +252,7 @@ void EndToEndTest::aMenuOfThreeSteps()
     QCOMPARE(ask(QLatin1String("*123#")), QLatin1String("Menu\n1 Data\n2 Other"));
     QCOMPARE(ask(QLatin1String("1")), QLatin1String("Data\n1 Day\n2 Week"));
     QCOMPARE(ask(QLatin1String("2")), QLatin1String("A week booked."));
-    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // with the detection's
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // includes the commands of the detection
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
@@ -263,7 +265,8 @@ void EndToEndTest::closingTheDashboardEndsTheSession()
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
 }
 
-/// A window that is closed leaves its menu open; the next one that is opened ends it.
+/// The window of the menu leaves the session open when it closes. The next window that opens ends
+/// it.
 void EndToEndTest::theAccountWindowEndsTheSession()
 {
     openPage();
@@ -280,7 +283,8 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT)); // no cancel goes out now
+    QCOMPARE(ask(QLatin1String("*131#")),
+             QLatin1String(USSD_TIMED_OUT)); // no cancel is sent this time
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
 
@@ -342,13 +346,13 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// 91 is what the plug-in's record has room for.
+/// The command record of the plug-in has room for 91 code units.
 void EndToEndTest::theLongestCommand()
 {
     openPage();
     const QString code = QLatin1Char('*') + QString(89, QLatin1Char('7')) + QLatin1Char('#');
     QCOMPARE(code.size(), 91);
-    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know it
+    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know the code
     QString hex;
     for (const QChar c : code)
         hex += QString::fromLatin1("%1").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
@@ -434,7 +438,7 @@ void EndToEndTest::theModemIsPulledOutWhileAMessageIsSent()
     QTRY_VERIFY(button->isEnabled());
 }
 
-/* ---- what becomes of a command ----------------------------------------------------------- */
+/* ---- the end of a command ---------------------------------------------------------------- */
 
 void EndToEndTest::theModemIsPulledOutWhileACommandIsOut()
 {

@@ -1,6 +1,7 @@
 /*
- * A real ModemManager with fake modems, for use by hand: one modem for each scenario file that is
- * named. It prints what other programs need to find it and ends with Ctrl+C.
+ * Runs a real ModemManager with fake modems for manual tests, with one modem for each scenario file
+ * on the command line. The program prints the values that other programs need to find the daemon,
+ * and ends with Ctrl+C.
  */
 #include <csignal>
 #include <cstdio>
@@ -13,7 +14,8 @@
 namespace
 {
 
-/// In all threads that are made later as well, so that only the wait below sees them.
+/// Blocks the signals in this thread and in all threads that are created later, so that only the
+/// wait below receives them.
 sigset_t blockEndSignals()
 {
     sigset_t signals;

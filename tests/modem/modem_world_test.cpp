@@ -1,4 +1,4 @@
-/* The fake modem under the real daemon, through the library that the daemon's own tools use. */
+/* Tests the fake modem under the real daemon, with the library that the daemon's own tools use. */
 #include <libmm-glib.h>
 
 #include <QtTest>
@@ -166,7 +166,8 @@ void ModemWorldTest::cancelReachesTheModem()
     QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
     QVERIFY(m_client->cancel());
     QCOMPARE(modem().timesReceived("AT+CUSD=2"), 1);
-    QCOMPARE(m_client->initiate("1").code, int(MM_CORE_ERROR_ABORTED)); // no answer any more
+    QCOMPARE(m_client->initiate("1").code,
+             int(MM_CORE_ERROR_ABORTED)); // the session is over, so there is no answer
 }
 
 void ModemWorldTest::networkStartsASession()
@@ -202,7 +203,8 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// A reply behind the OK: of one that comes with it the daemon takes what is there by then.
+/// The reply must come after the OK. If it comes with the OK, the daemon takes only the bytes that
+/// are there by then.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();
@@ -240,7 +242,7 @@ void ModemWorldTest::errorOnBothTriesIsAFailure()
     modem().misbehave({"AT+CUSD=1", Fault::EquipmentError, 100, 2});
     QCOMPARE(m_client->initiate("*100#").code, int(MM_CORE_ERROR_FAILED));
     QCOMPARE(modem().timesReceived("AT+CUSD=1"), 2);
-    QCOMPARE(modem().timesReceived("AT+CUSD=1,\"*100#\""), 1); // the second time unencoded
+    QCOMPARE(modem().timesReceived("AT+CUSD=1,\"*100#\""), 1); // the second attempt is not encoded
 }
 
 void ModemWorldTest::silenceEndsByTheClientsLimit()
@@ -259,7 +261,8 @@ void ModemWorldTest::hungUpPortIsAFailure()
     enable();
     modem().misbehave({"AT+CUSD=1", Fault::HangUp});
     QVERIFY(m_client->initiate("*100#", 300).code >= 0);
-    QVERIFY(!m_world->stateOf("m1").object.empty()); // a virtual port takes no object with it
+    QVERIFY(!m_world->stateOf("m1")
+                 .object.empty()); // closing a virtual port does not delete the object
 }
 
 void ModemWorldTest::submittedMessageIsDecoded_data()
@@ -314,7 +317,7 @@ void ModemWorldTest::incomingMessageIsRead()
 {
     addModem();
     enable();
-    // From +1234, in the default alphabet: "Hi".
+    // "Hi" from +1234, in the default alphabet.
     modem().receiveSms("0004049121430000621102112233000248"
                        "3400");
     QVERIFY(modem().waitForCommand("AT+CMGR=1"));
@@ -344,7 +347,7 @@ void ModemWorldTest::wrongPinsLeadToThePuk()
         QVERIFY(!m_client->sendPin("9999").empty());
     QVERIFY(
         m_world->waitUntil([&] { return m_world->stateOf("m1").lock == MM_MODEM_LOCK_SIM_PUK; }));
-    QVERIFY(m_client->use(m_world->stateOf("m1").object)); // the daemon has made a new one
+    QVERIFY(m_client->use(m_world->stateOf("m1").object)); // the daemon has created a new object
     QCOMPARE(QString::fromStdString(m_client->sendPuk("12345678", "4321")), QString());
     QVERIFY(!m_world->enable("m1").empty());
 }

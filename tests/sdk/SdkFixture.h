@@ -11,7 +11,7 @@
 
 #include "tksv.h"
 
-/** Things that come on other threads, in their order. */
+/** Collects values that arrive on other threads, in their order. */
 template <typename T>
 class Inbox
 {
@@ -23,7 +23,7 @@ public:
         m_changed.notify_all();
     }
 
-    /// Whether that many have come within ten seconds.
+    /// Returns whether at least this many values arrive within ten seconds.
     bool waitFor(std::size_t count)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -49,12 +49,12 @@ private:
     std::vector<T> m_items;
 };
 
-/** Stays shut until it is opened. */
+/** Blocks threads until it is opened. */
 class Gate
 {
 public:
     void open();
-    /// False when it is still shut after ten seconds.
+    /// Returns false if the gate is still shut after ten seconds.
     bool wait();
 
 private:
@@ -76,7 +76,7 @@ struct SmsResult {
     std::u16string text;
 };
 
-/** What the three call-backs of the fixture have been given. */
+/** The data that the three call-backs of the fixture have received. */
 struct Received {
     Inbox<Response> responses;
     Inbox<int> deviceEvents;
@@ -90,17 +90,19 @@ namespace SdkFixture
 
 Received &received();
 
-/// Makes the device one in the network that the text describes, as a client finds it once it is
-/// ready; the times of the text count from then. Empty on success. Linked in with the device.
+/// Switches the device to the network that the text describes and returns when the device is ready.
+/// The times of the text count from that moment. Returns an empty string on success. Each kind of
+/// device links its own implementation.
 std::string useNetwork(const std::string &scenario);
 
-/** In what devices may differ. */
+/** The differences between devices. */
 struct Abilities {
-    /// A device that fails says so in the call. One behind a daemon is asked after the call has
-    /// returned, so that its failure is the response.
+    /// Whether a call fails if the device fails. A device behind a daemon fails only after the call
+    /// has returned, so that the response reports the failure.
     bool failsInTheCall = true;
     bool sendsEmptySms = true;
-    /// Otherwise the characters of UCS2, without those that take two code units.
+    /// If false, the device supports only UCS2, which lacks the characters that need two code
+    /// units.
     bool knowsAllOfUnicode = true;
 };
 Abilities abilities();
@@ -112,32 +114,34 @@ unsigned char onUssd(int event, void *data);
 unsigned char onDevice(int event, void *data);
 unsigned char onSms(int event, void *data);
 
-/** Runs an action inside the USSD call-back, after the response was recorded. */
+/** Runs an action inside the USSD call-back, after the response has been recorded. */
 class InsideUssd
 {
 public:
     explicit InsideUssd(std::function<void(const Response &)> action);
-    /// When it returns, the action is not running: what it refers to may go.
+    /// Returns when the action is no longer running. The objects that it refers to may then be
+    /// deleted.
     ~InsideUssd();
     InsideUssd(const InsideUssd &) = delete;
     InsideUssd &operator=(const InsideUssd &) = delete;
 };
 
-/// Sends the text; the result is that of the call.
+/// Sends the text and returns the result of the call.
 long request(const std::u16string &text, int *status = nullptr);
-/// Sends the text and returns the response to it, of type -1 when none came.
+/// Sends the text and returns the response. The type of the response is -1 if none arrives.
 Response ask(const std::u16string &text);
 
 /**
- * Does something that must be over within `milliseconds`, since then the network speaks; on a busy
- * machine it may take several attempts, each from `prepare` on. False when none was quick enough.
+ * Runs an action that must finish within `milliseconds`, because the network sends something then.
+ * Since a busy machine may need several attempts, each attempt starts with `prepare`. Returns false
+ * if no attempt was fast enough.
  */
 bool doInTime(int milliseconds, const std::function<void()> &prepare,
               const std::function<void()> &action);
 
 long sendSms(const std::u16string &number, const std::u16string &text);
 
-/// Whether the condition has come true within ten seconds.
+/// Returns whether the condition becomes true within ten seconds.
 bool waitUntil(const std::function<bool()> &condition);
 
 } // namespace SdkFixture

@@ -1,4 +1,4 @@
-/* The fixture's network: that of the simulator. */
+/* The network of the SDK fixture: the network of the simulator. */
 #include <cstdio>
 #include <fstream>
 #include <unistd.h>

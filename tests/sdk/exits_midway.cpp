@@ -1,6 +1,6 @@
 /*
- * A client that exits in the middle of something, which the first argument names. It must end with
- * the code that it asked for, whatever the library is doing.
+ * A client that exits while the library is busy. The first argument names the moment. The client
+ * must end with the exit code that it requested, whatever the library is doing.
  */
 #include <atomic>
 #include <cstdio>
@@ -16,7 +16,8 @@ namespace
 const int ASKED_EXIT_CODE = 42;
 
 std::atomic<bool> entered(false);
-const char *mode = ""; // no object: other threads read it until the very end
+// Not an object with a destructor, because other threads read it until the very end.
+const char *mode = "";
 
 bool isMode(const char *name)
 {
@@ -49,7 +50,7 @@ void request(const char *code)
     TKSV_USSDSrv_Request(&record, &status);
 }
 
-/** Calls the library when everything else is gone. */
+/** Calls the library after all other static objects have been destroyed. */
 struct LateCaller {
     ~LateCaller()
     {

@@ -1,4 +1,4 @@
-/* What tksv_device.h promises. */
+/* Tests the guarantees of tksv_device.h. */
 #include <atomic>
 #include <QtTest>
 
@@ -124,7 +124,7 @@ void SdkDevice::pinUnlocksTheSim()
     QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
     QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED; }));
     QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
-    QVERIFY(TKSV_Device_SendPin("4711") != 0); // nothing waits for it any more
+    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is unlocked, so no PIN is expected
 }
 
 void SdkDevice::pinsThatCannotBeAreRefused()
@@ -236,7 +236,8 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    QCOMPARE(useNetwork(SCENARIO_START), std::string()); // where nothing happens by itself
+    QCOMPARE(useNetwork(SCENARIO_START),
+             std::string()); // nothing happens by itself in this network
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
     infoCalls = 0;

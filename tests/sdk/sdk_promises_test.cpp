@@ -1,6 +1,6 @@
 /*
- * What tksv.h promises, one test for each promise. Only tksv.h is used here, and a fixture that
- * gives the device a network; so the same tests can run against any device.
+ * Tests the guarantees of tksv.h, with one test for each guarantee. The tests use only tksv.h and a
+ * fixture that gives the device a network, so they can run against any device.
  */
 #include <algorithm>
 #include <atomic>
@@ -80,16 +80,16 @@ QString shown(const std::u16string &text)
     return QString::fromStdU16String(text);
 }
 
-/// Waits until the device has done all that was asked of it without a delay before this call: the
-/// message's result stands behind it.
+/// Waits until the device has finished all earlier requests that have no delay. The result of a new
+/// message arrives after their responses.
 bool deviceHasCaughtUp()
 {
     const std::size_t before = received().smsResults.all().size();
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
-/// The responses that are not the end of a request with the device. A device behind a daemon may
-/// learn of the request's failure before it learns that it is gone.
+/// Returns all responses except for the failure of a request whose device disappeared. A device
+/// behind a daemon may learn that the request failed before it learns that the device is gone.
 std::vector<Response> responsesBesidesTheLoss()
 {
     std::vector<Response> all = received().responses.all();
@@ -98,16 +98,16 @@ std::vector<Response> responsesBesidesTheLoss()
     return all;
 }
 
-/// A new network, which knows nothing of what was, and no responses so far.
+/// Switches to a new network without open sessions and drops all recorded responses.
 void startAfresh()
 {
     useNetwork(NETWORK);
-    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // a call-back that runs has returned then
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // returns after any running call-back
     received().responses.clear();
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
 }
 
-/** A second USSD call-back, which counts. */
+/** Counts the calls of a second USSD call-back. */
 std::atomic<int> secondCalls(0);
 unsigned char secondUssd(int, void *)
 {
@@ -115,7 +115,7 @@ unsigned char secondUssd(int, void *)
     return 0;
 }
 
-/** For call-backs that must not overlap. */
+/** Detects call-backs that overlap. */
 std::atomic<int> running(0);
 std::atomic<bool> overlapped(false);
 std::atomic<int> overlapCalls(0);
@@ -138,7 +138,7 @@ unsigned char aloneB(int, void *)
     return 1;
 }
 
-/** For a call-back that must not come any more. */
+/** Detects calls that come after the call-back has been unregistered. */
 std::atomic<bool> callAllowed(false);
 std::atomic<bool> cameTooLate(false);
 unsigned char onlyWhileAllowed(int, void *)
@@ -275,7 +275,7 @@ void SdkPromises::callsReturnAtOnce()
     QCOMPARE(request(u"*112#"), 0L);
     unregisterAll();
     QCOMPARE(useNetwork(NETWORK), std::string());
-    QVERIFY(waitMilliseconds(start) < 5000); // the network takes an hour
+    QVERIFY(waitMilliseconds(start) < 5000); // the network would need an hour
 }
 
 void SdkPromises::longestRequestIsTaken()
@@ -312,7 +312,7 @@ void SdkPromises::callbackNeverComesInsideACall()
         if (response.text != u"first")
             return;
         inCall = true;
-        request(u"*101#"); // on the very thread that call-backs come on
+        request(u"*101#"); // on the thread that runs the call-backs
         inCall = false;
     });
     QCOMPARE(request(u"*100#"), 0L);
@@ -336,7 +336,8 @@ void SdkPromises::oneCallbackAtATimeForEachService()
         });
     for (std::thread &sender : senders)
         sender.join();
-    QVERIFY(waitUntil([] { return overlapCalls >= 200; })); // 100 results for two call-backs
+    QVERIFY(
+        waitUntil([] { return overlapCalls >= 200; })); // 100 results for each of two call-backs
     TKSV_SMSSrv_UnRegCallBack(aloneA);
     TKSV_SMSSrv_UnRegCallBack(aloneB);
     QVERIFY(!overlapped);
@@ -375,7 +376,7 @@ void SdkPromises::registeredGetsOnlyWhatComesLater()
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*101#"), 0L);
-    QVERIFY(deviceHasCaughtUp()); // the second response waits its turn now
+    QVERIFY(deviceHasCaughtUp()); // the second response is now queued
     QCOMPARE(TKSV_USSDSrv_RegisterUSSDCallback(secondUssd), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
@@ -500,7 +501,7 @@ void SdkPromises::codeDuringAMenuBeginsANewSession()
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
     QCOMPARE(ask(u"1").type, 2); // the menu is no longer open
     QCOMPARE(ask(u"*120#").type, 1);
-    QCOMPARE(ask(u"#100#").type, 2); // has the form of a code, so it is no answer either
+    QCOMPARE(ask(u"#100#").type, 2); // has the form of a code, so it is not an answer
 }
 
 void SdkPromises::textWithoutASessionIsNoAnswer()
@@ -514,7 +515,7 @@ void SdkPromises::laterRequestReplacesTheEarlier()
 {
     QVERIFY(doInTime(10, startAfresh, [] {
         request(u"*110#");
-        request(u"*111#"); // speaks after the other one would have
+        request(u"*111#"); // replies later than the first request would have
     }));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
@@ -586,7 +587,7 @@ void SdkPromises::releaseTakesBackAResponseThatWaitedItsTurn()
     gate.open();
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
     QCOMPARE(received().responses.all().size(), std::size_t(2));
-    unregisterAll(); // the gate goes
+    unregisterAll(); // the gate is about to be deleted
 }
 
 void SdkPromises::releaseEndsTheSession()
@@ -695,7 +696,8 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7})); // away, and back again
+    QCOMPARE(received().smsStatus.all(),
+             (std::vector<int>{8, 7})); // the device is away, and then back
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
@@ -715,7 +717,8 @@ void SdkPromises::registeringSmsRaisesCanSend()
     QCOMPARE(TKSV_SMSSrv_UnRegCallBack(onSms), 0L);
     QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(1));
-    QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L); // a client that starts anew is told again
+    // A client that registers again is notified again.
+    QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 7}));
 }
@@ -726,12 +729,13 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\nSMS=not-ready\n"),
              std::string());
     registerAll();
-    QCOMPARE(useNetwork(NETWORK), std::string()); // can send
+    QCOMPARE(useNetwork(NETWORK), std::string()); // this network can send
     QVERIFY(deviceHasCaughtUp());
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Devices differ in what they tell of the change of the network itself.
+/// Compares only the end of the list, because devices differ in the events that they raise for the
+/// change of the network itself.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -768,7 +772,8 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L); // gives the record back
+    QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()),
+             0L); // the call releases the record
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
     QCOMPARE(got.result != 0, result != 0);
@@ -816,7 +821,7 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
     QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
 }
 
-/// Makes a request that is on its way when the network has something of its own to say.
+/// Makes a request that is pending when the network sends its own message.
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"
@@ -875,7 +880,7 @@ void SdkPromises::garbageIsRefused()
         QVERIFY(TKSV_USSDSrv_Request(&record, &status) != 0);
         QVERIFY(status != 0);
     }
-    record = TKSV_USSDRequest{2, {0xD800}}; // half a surrogate pair
+    record = TKSV_USSDRequest{2, {0xD800}}; // an unpaired surrogate
     QVERIFY(TKSV_USSDSrv_Request(&record, &status) != 0);
     QVERIFY(TKSV_USSDSrv_Request(nullptr, &status) != 0);
     QVERIFY(TKSV_USSDSrv_Request(&record, nullptr) != 0);
@@ -901,7 +906,7 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Everything at once, for the sanitizers; and the device still works afterwards.
+/// Calls everything at once, for the sanitizers, and checks that the device still works afterwards.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

@@ -1,4 +1,7 @@
-/* The reader of scenario files: what it makes of a good one, and each complaint about a bad one. */
+/*
+ * Tests the reader of scenario files: the values of a good file, and each complaint about a bad
+ * one.
+ */
 #include <QtTest>
 
 #include "sim/Scenario.h"
@@ -120,7 +123,7 @@ void SdkScenario::rulesAreRead()
 
 void SdkScenario::delayOfTheNetworkIsThatOfEachReply()
 {
-    // Also when [Network] stands behind the groups that take it.
+    // The delay also applies if [Network] comes after the groups that use it.
     const Scenario s =
         good("[*1#]\nReply=x\n[SMS]\n[Network]\nDelay=33\nOperator=O\nIMSI=001010\n");
     QCOMPARE(s.rules.at("*1#").delay.count(), 33L);
@@ -185,7 +188,7 @@ void SdkScenario::complaints_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("complaint");
-    // `text` stands behind the four lines of a good [Network].
+    // `text` follows the four lines of a good [Network] group.
     const auto row = [](const char *name, const char *text, const char *complaint) {
         QTest::newRow(name) << QByteArray(text) << QString::fromUtf8(complaint);
     };
@@ -302,7 +305,8 @@ void SdkScenario::complaints()
     QFETCH(QString, complaint);
     const std::string bytes = text.toStdString();
     QCOMPARE(complaintsAbout(SCENARIO_START + bytes), complaint);
-    QVERIFY(!readScenario(SCENARIO_START + bytes, "f").scenario); // nothing is half loaded
+    QVERIFY(
+        !readScenario(SCENARIO_START + bytes, "f").scenario); // a bad file is not loaded in part
 }
 
 void SdkScenario::everyMistakeIsTold()

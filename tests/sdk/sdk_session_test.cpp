@@ -1,4 +1,4 @@
-/* The inside of the library, where no C function leads to. */
+/* Tests classes inside the library that no C function reaches directly. */
 #include <atomic>
 #include <csignal>
 #include <pthread.h>
@@ -18,7 +18,7 @@ using namespace Tksv;
 namespace
 {
 
-/** Takes every request and records it. */
+/** Accepts every request and records it. */
 class RecordingBackend : public Backend
 {
 public:
@@ -45,7 +45,7 @@ public:
     int status = RequestAccepted;
 };
 
-/** A service with one listener that keeps the texts, and takes them or not. */
+/** A service with one listener that records the texts and accepts them or not. */
 class Listening
 {
 public:
@@ -65,7 +65,7 @@ public:
     std::atomic<bool> takes{true};
 };
 
-/// Waits for all that was posted before, whether a listener got it or not.
+/// Waits until all earlier events have been delivered or dropped.
 void drain(EventService &service)
 {
     Gate gate;
@@ -137,11 +137,11 @@ void SdkSession::untakenTextsAreLimited()
 void SdkSession::requestKindFollowsTheSession()
 {
     Listening l;
-    l.session.request(l.backend, "1"); // nothing is open that it could answer
+    l.session.request(l.backend, "1"); // no session is open, so this starts one
     l.session.handleReply(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
     drain(l.service);
     l.session.request(l.backend, "1");
-    l.session.request(l.backend, "2"); // the first answer is still on its way
+    l.session.request(l.backend, "2"); // the first answer is still pending
     l.backend.status = RequestDeviceTimeout;
     QCOMPARE(l.session.request(l.backend, "3"), int(RequestDeviceTimeout));
     QCOMPARE(l.backend.requests.size(), std::size_t(3));
@@ -192,7 +192,7 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
-    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // its own session is over
+    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // the session of this text is over
 }
 
 void SdkSession::textDuringAMenuWaitsForItsEnd()
@@ -251,7 +251,8 @@ void SdkSession::stopDropsWhatWaits()
     gate.open();
     stopping.join();
     service.post(Event());
-    QVERIFY(calls <= 2); // the second one only if it was taken before the stop
+    QVERIFY(calls <=
+            2); // the second event is delivered only if the service took it before the stop
     const int before = calls;
     service.add(2, [&](int, void *) { return ++calls > 0; });
     service.post(Event());
@@ -260,7 +261,8 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // On the heap and given up, as it is at the program's end: the thread still uses it.
+    // The objects are never deleted, as at the end of the program, because the thread still uses
+    // them.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");

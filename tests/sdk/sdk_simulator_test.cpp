@@ -1,4 +1,7 @@
-/* What the simulated network makes of a scenario, beyond what any device promises. */
+/*
+ * Tests how the simulated network plays a scenario, except for the guarantees that hold for any
+ * device.
+ */
 #include <QtTest>
 
 #include "SdkFixture.h"
@@ -61,7 +64,7 @@ QString answerTo(const std::u16string &text)
            QString::fromStdU16String(response.text);
 }
 
-/// Sends the code as soon as the device is registered.
+/// Repeats the request until the device is registered and accepts it.
 bool sendWhenRegistered(const std::u16string &code)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
@@ -145,7 +148,7 @@ void SdkSimulator::replacedRequestTakesNoMoney()
         request(u"*100#");
     }));
     QCOMPARE(answerTo(u"*100#"), is("0 10.00 EUR"));
-    QCOMPARE(answerTo(u"*103#"), is("0 late")); // behind the time of the first
+    QCOMPARE(answerTo(u"*103#"), is("0 late")); // arrives later than the first reply would have
     QCOMPARE(answerTo(u"*100#"), is("0 15.00 EUR"));
 }
 
@@ -185,7 +188,8 @@ void SdkSimulator::eventHappensAgain()
                         "[Event reset]\nAfter=5\nEvery=10\nDeviceEvent=6601\nAway=1\n"),
              std::string());
     QVERIFY(received().deviceEvents.waitFor(4));
-    QCOMPARE(received().deviceEvents.all()[3], 6601); // the first was that of the network before
+    QCOMPARE(received().deviceEvents.all()[3],
+             6601); // the first event came from the previous network
 }
 
 void SdkSimulator::stateThatStaysEndsNothing()
@@ -213,7 +217,7 @@ void SdkSimulator::lostDeviceStaysAwayForEver()
                         "[*1#]\nDeviceEvent=6601\nAway=never\n"),
              std::string());
     QCOMPARE(request(u"*1#"), 0L);
-    QVERIFY(received().deviceEvents.waitFor(2)); // the first: the network before
+    QVERIFY(received().deviceEvents.waitFor(2)); // the first event comes from the previous network
     QCOMPARE(received().deviceEvents.all()[1], 6601);
     QVERIFY(request(u"*1#") != 0);
 }

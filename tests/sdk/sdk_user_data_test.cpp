@@ -1,4 +1,4 @@
-/* Where the user's data folder is, for each environment. */
+/* Tests the location of the user's data directory in each environment. */
 #include <pwd.h>
 #include <QtTest>
 #include <sys/stat.h>
@@ -15,7 +15,7 @@ QString given(const char *name)
     return QString::fromLocal8Bit(qgetenv(name));
 }
 
-/// What the library hands out; null on failure.
+/// Returns the path that the library provides, or a null string on failure.
 QString handedOut()
 {
     unsigned short *directory = nullptr;
@@ -98,12 +98,12 @@ void SdkUserData::homeHoldsTheFolderOtherwise()
 {
     qputenv("XDG_DATA_HOME", "");
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
-    QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/")); // also when it is there already
+    QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/")); // the same if it already exists
 }
 
 void SdkUserData::withoutHomeTheUserDatabaseIsAsked()
 {
-    // The path alone: a test makes nothing in somebody's home.
+    // Only computes the path, because a test must not create anything in a real home directory.
     qputenv("HOME", "");
     const QString home = QString::fromLocal8Bit(getpwuid(getuid())->pw_dir);
     const QString path = QString::fromStdString(Tksv::userDataFolder());
