@@ -46,17 +46,18 @@ protected:
     QLabel *descriptionLabel();
     QList<QPushButton *> presetButtons(); ///< in the order of their creation
 
-    // ---- what a user does
+    // ---- actions of the user
     static void click(QPushButton *button);
     void send(const QString &command); ///< types the command and presses Send
 
-    // ---- what the network does
+    // ---- actions of the network
     void networkSays(const QString &text);
     static QStringList requests(); ///< the texts of all requests so far
 
-    // ---- what can be seen
+    // ---- the visible state
     QStringList shownLines(); ///< the transcript's paragraphs, with their captions
-    bool isWaiting();         ///< the prompt is shown, and all controls that send are disabled
+    bool
+    isWaiting(); ///< returns whether the prompt is shown and all controls that send are disabled
     /// Returns whether no prompt is shown, the fields are enabled and empty, and Send is disabled.
     bool isIdle();
     static QString text(const char *key);

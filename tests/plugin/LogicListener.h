@@ -10,8 +10,9 @@
 class USSDLogic;
 
 /**
- * Collects the logic's signals as a dialog receives them: queued, on the thread that constructed
- * the listener. QSignalSpy is not used because the device SDK's threads would write to it.
+ * Collects the logic's signals like a dialog does, through queued connections to the thread that
+ * constructed the listener. QSignalSpy is not used because the device SDK's threads would write to
+ * it.
  */
 class LogicListener : public QObject
 {

@@ -8,8 +8,8 @@
 #include <QString>
 
 /**
- * A model of the request pipeline: the same rules in their simplest form, without threads and time.
- * A random test compares the real pipeline with it.
+ * A model of the request pipeline, with the same rules in their simplest form, without threads and
+ * without time. A random test compares the real pipeline with the model.
  */
 class PipelineModel
 {

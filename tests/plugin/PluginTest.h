@@ -8,8 +8,8 @@
 
 /**
  * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
- * starts with a reset SDK, without a singleton, and with a plug-in library folder and a user data
- * folder of its own. It ends with the calls by which a host shuts the plug-in down.
+ * starts with a reset SDK, without a singleton, and with its own plug-in library directory and user
+ * data directory. It ends with the calls that a host makes to shut the plug-in down.
  */
 class PluginTest : public UssdTest
 {
@@ -23,10 +23,10 @@ protected:
     void writeConfig(const QByteArray &xml);
     /// Replaces the system profile file. An empty text deletes the file.
     void writeSystemProfiles(const QByteArray &xml);
-    QString pluginFolder(); ///< contains the two files; without a trailing separator
-    QString userFolder();   ///< the user data folder; with a trailing separator
+    QString pluginFolder(); ///< the directory of the two files, without a trailing separator
+    QString userFolder();   ///< the user data directory, with a trailing separator
 
-    /// Returns a small complete configuration with every section, colours and an IMSI table.
+    /// Returns a small but complete configuration with every section, colours and an IMSI table.
     static QByteArray completeConfig();
     /// Returns an "item" element of a profile file.
     static QByteArray profileItem(const QByteArray &name, const QByteArray &value,

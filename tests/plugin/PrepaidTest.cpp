@@ -11,7 +11,7 @@
 namespace
 {
 
-const int FRAME_HEIGHT = 20; // added by the frame to the height of the dialog
+const int FRAME_HEIGHT = 20; // the height that the frame adds to the dialog
 
 QByteArray item(const char *name, int pos, const QByteArray &children)
 {
@@ -24,7 +24,7 @@ QByteArray element(const char *name, const QByteArray &text)
     return QByteArray("<") + name + ">" + text + "</" + name + ">";
 }
 
-/// Returns the item, or an unknown one if it is empty, because the reader needs four items.
+/// Returns the item, or an unknown item if it is empty, because the reader needs four items.
 QByteArray orUnknown(const QByteArray &item)
 {
     return item.isEmpty() ? QByteArray("<item name='none'/>") : item;
@@ -41,7 +41,8 @@ QString textOf(const QMessageBox *box)
 void PrepaidTest::setUp()
 {
     PluginTest::setUp();
-    // Opening the dialog cancels a pending command. The next command would wait for its time-out.
+    // Opening the dialog cancels a pending command. The next command would then wait for the
+    // time-out of the cancelled one.
     const ReplyTimes times = {30000, 1};
     USSDLogic::setReplyTimes(times);
 }
@@ -147,7 +148,7 @@ void PrepaidTest::fitFrame()
     drainEvents();
 }
 
-// ---- users and networks ----------------------------------------------------------------------
+// ---- actions of the user and the network -----------------------------------------------------
 
 void PrepaidTest::click(QPushButton *button)
 {

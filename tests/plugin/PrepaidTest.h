@@ -42,7 +42,7 @@ protected:
                                  const QByteArray &limitText = "0-9");
     static QByteArray onlineItem(int pos, const QByteArray &url);
     static QByteArray msisdnItem(int pos);
-    /// Writes both accounts and the detection, which is enabled when `pattern` is not empty.
+    /// Writes both accounts and the detection. The detection is enabled unless `pattern` is empty.
     void configure(const Account &prepaid, const Account &postpaid,
                    const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
     void configure(const Account &both) { configure(both, both); }
@@ -54,7 +54,7 @@ protected:
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
     /// Opens the dialog in a frame of the service, as a host does.
     void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
-    void fitFrame(); ///< to the dialog's current preferred size
+    void fitFrame(); ///< resizes the frame to the dialog's current preferred size
     USSDDlg *dialog() { return m_dialog; }
     USSDExtendDialog *frame() { return m_frame.data(); }
 
@@ -75,24 +75,24 @@ protected:
     QTextEdit *activateBox() { return part<QTextEdit>("ActivateStatusTextEdit"); }
     QTextEdit *msisdnBox() { return part<QTextEdit>("MSISDNStatusTextEdit"); }
 
-    // ---- what a user does
+    // ---- actions of the user
     static void click(QPushButton *button);
-    void type(const QString &pin);  ///< into the entry, key by key
+    void type(const QString &pin);  ///< types into the entry, key by key
     void topUp(const QString &pin); ///< types the PIN and presses the button
     /// Returns the widget with the focus, in the message box if one is open.
     QWidget *keyTarget();
     void pressReturn(bool isRepetition = false); ///< presses the key without releasing it
     void releaseReturn();
 
-    // ---- what the network does
+    // ---- actions of the network
     void networkSays(const QString &text);
     /// Sends a reply that opens a message box. Calls `look` with the box open, presses its button
     /// and returns its text, or a null text when no box was opened.
     QString networkSaysIntoBox(const QString &text,
                                const std::function<void(QMessageBox *)> &look = nullptr);
-    static QMessageBox *messageBox(); ///< the open message box, or null
+    static QMessageBox *messageBox(); ///< returns the open message box, or null
     static QString textInMessageBox();
-    static void closeMessageBox();                      ///< presses its button
+    static void closeMessageBox();                      ///< presses the box's button
     void logicSays(int component, const QString &text); ///< sends an answer without a command
     static QStringList requests();                      ///< the texts of all requests so far
 

@@ -4,9 +4,10 @@
 #include <vector>
 
 /**
- * What CommandQueue must do, told by commands instead of by the numbers of heads: a mark belongs to
- * its command and goes with it. Commands are called 1, 2, 3 in the order in which they are sent;
- * 0 is no command.
+ * The expected behaviour of CommandQueue. The model identifies the head by its command instead of a
+ * number. The flags "sent" and "claimed" belong to a command and are removed together with it.
+ * Commands are numbered 1, 2, 3 in the order in which they are sent; 0 means that there is no
+ * command.
  */
 struct QueueModel {
     struct Entry {

@@ -27,7 +27,7 @@ bool isNeverKept(const USSDCmdOrResp &)
     return false;
 }
 
-/// The text of a command is its number, as one letter.
+/// Returns a command whose text is its number as one letter.
 USSDCmdOrResp commandOf(int number, int component)
 {
     static const QString letters = QString::fromLatin1("-abcdefgh");
@@ -96,7 +96,8 @@ const char *QueueWorld::nameOf(Thread thread)
     return names[thread];
 }
 
-/// A receiver of the time-out's announcement may call what it likes, and run an event loop.
+/// Returns whether an event can start on the GUI thread. A receiver of the time-out signal may make
+/// any call and may run an event loop.
 bool QueueWorld::canStartOnGui() const
 {
     return isIdle(Gui) || (m_calls[Gui].next == RemoveTimedOut && isIdle(GuiInside));
@@ -188,7 +189,7 @@ void QueueWorld::run(Thread thread, int way)
     checkRest();
 }
 
-/// Ends the call unless `holds`.
+/// Continues with the step if `holds` is true, otherwise ends the call.
 void QueueWorld::goOn(Call &call, bool holds, Step step)
 {
     if (holds)
@@ -214,7 +215,7 @@ void QueueWorld::compareLists()
     expect(same, "the queue holds the commands of the model");
 }
 
-/// The commands that stand in the list, or that a call or the timer still refers to.
+/// Returns the commands that are in the list or that a call or the timer still refers to.
 unsigned QueueWorld::heldCommands() const
 {
     unsigned commands = m_timer.isArmed ? bit(m_timer.command) : 0;
@@ -231,8 +232,8 @@ void QueueWorld::checkOutcomes()
     expect((m_answered | m_refused | m_dropped | heldCommands()) == all, "no command is lost");
 }
 
-/// While no thread is in a call, only a time-out can move the head on. Behind a refused or too long
-/// command there need be none: that is the deliberate silence.
+/// Checks the head while no thread is in a call. Then only a time-out can remove the head. After a
+/// refused or too long command, no time-out needs to be running, and this silence is deliberate.
 void QueueWorld::checkRest()
 {
     if (isBusy() || m_model.entries.empty())
@@ -244,7 +245,7 @@ void QueueWorld::checkRest()
 
 // ---- sending -------------------------------------------------------------------------------
 
-/// Makes the singleton, too, when there is none.
+/// Appends the command. Also constructs the singleton if there is none.
 void QueueWorld::append(Call &call)
 {
     if (!m_gateIsOpen)
@@ -337,7 +338,7 @@ void QueueWorld::disarmTimer(Call &call)
 
 // ---- outcomes ------------------------------------------------------------------------------
 
-/// Whoever claims also announces.
+/// Claims the head. The thread that claims a head also announces its answer.
 CommandQueue::Claim QueueWorld::claim(Call &call, quint64 number, int expected)
 {
     CommandQueue::Head head;
@@ -415,7 +416,7 @@ void QueueWorld::claimForTimeOut(Call &call)
     goOn(call, call.command != 0, RemoveTimedOut);
 }
 
-/// The receivers of the announcement have returned.
+/// Removes the head after the receivers of the announcement have returned.
 void QueueWorld::removeTimedOut(Call &call)
 {
     if (!call.logicIsGone)
@@ -450,7 +451,7 @@ void QueueWorld::clearAll(Call &call)
     call = Call();
 }
 
-/// Cancelling ends the session on the device. Neither list nor time-out changes.
+/// Ends the session on the device. The list and the time-out do not change.
 void QueueWorld::release(Call &call)
 {
     call = Call();
@@ -482,7 +483,8 @@ void QueueWorld::closeGate(Call &call)
     call.next = DeleteLogic;
 }
 
-/// No other thread is in a call, and none gets in.
+/// Deletes the logic object. At this step no other thread is in a call, and no thread can start
+/// one.
 void QueueWorld::deleteLogic(Call &call)
 {
     m_timer.isArmed = false;
@@ -492,7 +494,7 @@ void QueueWorld::deleteLogic(Call &call)
 
 // ---- key -----------------------------------------------------------------------------------
 
-/// Writes values of few bits one behind the other.
+/// Writes values of a few bits one after another.
 class QueueWorld::KeyWriter
 {
 public:
@@ -533,11 +535,11 @@ QueueWorld::Oldest QueueWorld::oldestCompared() const
     return oldest;
 }
 
-/// The steps compare numbers only with other numbers, and commands only with other commands, so the
-/// key holds their distance from the newest one. A mark that is older than every number it can
-/// still be compared with gives the same results as any older mark. A command that is neither
-/// waiting nor used by a call or the timer cannot turn up again, and its outcome was checked when
-/// it left.
+/// Returns the key of this state. The steps compare numbers only with other numbers, and commands
+/// only with other commands. The key therefore contains their distances from the newest one. A mark
+/// that is older than every number it can still be compared with gives the same results as any
+/// older mark. A command that is neither waiting nor used by a call or the timer cannot appear
+/// again, and its outcome was checked when it left.
 QueueWorld::Key QueueWorld::key() const
 {
     KeyWriter writer;
@@ -583,8 +585,8 @@ void QueueWorld::writeCommands(KeyWriter &writer) const
     }
 }
 
-/// The two threads that deliver replies are alike, so it does not matter which one is in which
-/// call.
+/// Writes the calls of all threads. The two threads that deliver replies are interchangeable, so
+/// their calls are written in a fixed order.
 void QueueWorld::writeCalls(KeyWriter &writer) const
 {
     const Call &first = m_calls[FirstReply];

@@ -7,20 +7,21 @@
 #include "requests/CommandQueue.h"
 
 /**
- * A moment in the life of the request pipeline: the queue, the state that USSDLogic keeps beside it
- * (time-out, lock of the hand-over, gate of the call-backs), and how far each thread is.
+ * A state of the request pipeline. It consists of the queue, the other state of USSDLogic (the
+ * reply timer, the lock of the hand-over and the gate of the call-backs) and the position of each
+ * thread.
  *
- * start() lets an event happen, run() takes one thread one step further. A step does the same to
- * the queue and to its model, and failure() tells which rule was broken.
+ * start() lets an event happen, and run() lets one thread perform its next step. A step changes the
+ * queue and its model in the same way, and failure() returns the rule that was broken.
  */
 class QueueWorld
 {
 public:
     enum Event {
-        SendQuery,    // both ways of clearing keep it
-        SendGeneral,  // ClearUSSDSMSQueuedCmds() keeps it
-        SendServices, // neither keeps it
-        Reply,        // also a reply that no command waits for
+        SendQuery,    // kept by both functions that clear
+        SendGeneral,  // kept by ClearUSSDSMSQueuedCmds() only
+        SendServices, // removed by both functions that clear
+        Reply,        // includes a reply that no command waits for
         TimeOut,
         Cancel,
         DeviceGone,
@@ -30,7 +31,8 @@ public:
         EventCount
     };
 
-    /// GuiInside is the GUI thread too: what a receiver of the time-out's announcement calls.
+    /// GuiInside is the GUI thread too: it stands for the calls that a receiver of the time-out
+    /// signal makes.
     enum Thread { Gui, GuiInside, FirstReply, SecondReply, Device, ThreadCount };
 
     typedef std::array<quint64, 4> Key;
@@ -41,7 +43,8 @@ public:
     static const char *nameOf(Event event);
 
     bool canRun(Thread thread) const;
-    /// Returns how many ways the thread's next step has: several when the device decides.
+    /// Returns the number of possible outcomes of the thread's next step. There are several if the
+    /// device decides.
     int ways(Thread thread) const;
     void run(Thread thread, int way);
     const char *nextStep(Thread thread) const;
@@ -49,7 +52,7 @@ public:
 
     /// Returns the rule that was broken, or null.
     const char *failure() const { return m_failure; }
-    /// Worlds with the same key have the same future.
+    /// Returns the key of this state. Two worlds with the same key have the same future.
     Key key() const;
 
 private:
@@ -83,7 +86,7 @@ private:
         StepCount
     };
 
-    /// A call that a thread is in: the next step, and the variables of the call.
+    /// The call that a thread is executing: its next step and its variables.
     struct Call {
         Step next = Idle;
         int component = 0;
@@ -95,7 +98,7 @@ private:
         bool logicIsGone = false;
     };
 
-    /// ReplyTimer, and the head that it was armed for.
+    /// The reply timer, and the head for which it was armed.
     struct Timer {
         bool isArmed = false;
         quint64 arming = 0;
@@ -170,12 +173,13 @@ private:
     QueueModel m_model;
     Timer m_timer;
     Call m_calls[ThreadCount];
-    bool m_isHandingOver = false; // m_mutexSendCmd is held
+    bool m_isHandingOver = false; // true while m_mutexSendCmd is locked
     bool m_gateIsOpen = true;
-    bool m_isSilent = false; // commands wait behind one that was refused or too long
-    int m_way = 0;           // of the step that runs
+    bool m_isSilent = false; // true while commands wait after one that was refused or too long
+    int m_way = 0;           // the outcome chosen for the running step
     int m_lastCommand = 0;
-    unsigned m_handed = 0; // here and in the next three, a bit for each command
+    // A bit for each command, like the next three members.
+    unsigned m_handed = 0;
     unsigned m_answered = 0;
     unsigned m_refused = 0;
     unsigned m_dropped = 0;

@@ -1,26 +1,26 @@
 /*
- * The rules of CommandQueue, first one by one, then under every order of steps.
+ * Tests the rules of CommandQueue, first one by one and then with every order of steps.
  *
- * The walk lets up to eight events happen: send, reply, time-out, cancel, device gone, clear,
- * destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is what a
- * thread does without letting another thread in between: one call of the queue, or one look at the
- * timer, or one change of it. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
- * announcement belongs to the claim before it, and the request to the device belongs to the look
- * before it, because neither reads or changes anything that another thread uses. A sender waits up
- * to 3 s for an earlier time-out; the walk lets this wait end at any moment.
+ * The search lets up to eight events happen: send, reply, time-out, cancel, loss of the device,
+ * clear and destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is
+ * the work that a thread does without interruption: it calls the queue once, reads the timer once,
+ * or changes the timer once. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
+ * announcement belongs to the preceding claim, and the request to the device belongs to the
+ * preceding check, because neither of them uses anything that another thread uses. A sender waits
+ * up to 3 s for an earlier time-out, and the search lets this wait end at any moment.
  *
- * The walk tries every order. Any thread may take its next step, and an event may happen whenever
- * its thread is free: the GUI thread, two threads that deliver replies, one that delivers device
- * events. The receivers of a time-out may send, clear or destroy before they return. The device
- * accepts a command, refuses it, or the command is too long. The walk leaves a state alone only
- * when it has walked on from the same state with as many events left or more. What makes two states
- * the same is explained at QueueWorld::key().
+ * The search tries every order. Any thread may perform its next step, and an event may happen
+ * whenever its thread is idle. There are the GUI thread, two threads that deliver replies and one
+ * that delivers device events. The receivers of a time-out may send, clear or destroy before they
+ * return. The device accepts a command or refuses it, or the command is too long. The search skips
+ * a state only if it has already continued from the same state with at least as many remaining
+ * events. QueueWorld::key() explains which states are the same.
  *
- * After each step the queue must hold the same commands as the model, and its answers must be the
- * same. No command is sent twice, answered twice or lost. When no thread is in a call, the head
- * gets an outcome at the latest from a running time-out. The two deliberate silences are the
- * exceptions: commands wait behind one that was refused or too long, and a stale reply or time-out
- * answers whatever is the head.
+ * After each step the queue must hold the same commands as the model and must give the same
+ * answers. No command may be sent twice, answered twice or lost. When no thread is in a call, a
+ * time-out must be running that gives the head an outcome at the latest. There are two deliberate
+ * exceptions: commands wait after one that was refused or too long, and a stale reply or time-out
+ * answers the current head.
  */
 #include "QueueWorld.h"
 #include "requests/CommandQueue.h"
@@ -44,15 +44,15 @@ struct KeyHash {
     }
 };
 
-/** Walks every order of events and steps, depth first, until a rule is broken. */
+/** Searches every order of events and steps, depth first, until a rule is broken. */
 class Walk
 {
 public:
-    /// Returns whether every order of up to `events` more events keeps the rules.
+    /// Returns whether all orders of up to `events` further events keep the rules.
     bool from(const QueueWorld &world, int events);
     size_t states() const { return m_walked.size(); }
     quint64 steps() const { return m_steps; }
-    /// The way to the broken rule, a line for each step.
+    /// Returns the steps that led to the broken rule, one in each line.
     QByteArray story() const;
 
 private:
@@ -65,7 +65,8 @@ private:
         const char *what;
     };
 
-    std::unordered_map<QueueWorld::Key, int, KeyHash> m_walked; // with so many events to come, + 1
+    // The states that were visited, with the number of remaining events plus one.
+    std::unordered_map<QueueWorld::Key, int, KeyHash> m_walked;
     std::vector<Line> m_path;
     const char *m_failure = nullptr;
     quint64 m_steps = 0;
@@ -212,7 +213,7 @@ void CommandQueueTest::claimOfAnEmptyQueueNamesTheLastHead()
 {
     const quint64 last = m_queue.headNumber();
     m_queue.clear();
-    m_queue.clear(); // takes no number from the next head
+    m_queue.clear(); // does not use up the number of the next head
     QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Empty);
     QCOMPARE(m_head.number, last);
 }

@@ -76,8 +76,8 @@ QByteArray charSection(const char *name, const char *yHeight, const char *colour
            "<color " + colour + "/></" + name + ">";
 }
 
-/// Returns the sections between "Postpaid" and "autoUSSD". If one were missing, the scan for it
-/// would skip all following sections.
+/// Returns the sections between "Postpaid" and "autoUSSD". If one of them were missing, the scan
+/// for it would skip all following sections.
 QByteArray looks()
 {
     return charSection("send", "20", "") + charSection("recevie", "20", "") +
@@ -171,8 +171,8 @@ private:
     static ClearHistory clearSetting();
     static CmdEdit editSetting();
     static PrePostDiffer differ();
-    /// Returns the flags of the longest matching prefix. Returns -1 when no prefix matches, and
-    /// checks that the flags are 0 then.
+    /// Returns the flags of the longest matching prefix. If no prefix matches, checks that the
+    /// flags are 0 and returns -1.
     static int flagsOf(const QString &imsi);
 };
 
@@ -392,7 +392,8 @@ void ConfigTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// A repeated attribute is not well-formed XML, but the parser has read both values by then.
+/// Tests a repeated attribute, which is not well-formed XML. The parser has read both values when
+/// it reports the error.
 void ConfigTest::startTagAtFaultHasNoAttributes()
 {
     writeConfig("<c><clearHistory visible='true' showConfirmDialog='true' visible='true'/></c>");
@@ -460,7 +461,8 @@ void ConfigTest::brokenDetectionIsOff_data()
     QTest::newRow("no end") << whole << latin1("*103#");
 }
 
-/// With a truncated command or pattern, every reply would be misinterpreted.
+/// Tests that a truncated command or pattern disables the detection. Otherwise every reply would be
+/// misinterpreted.
 void ConfigTest::brokenDetectionIsOff()
 {
     QFETCH(QByteArray, section);
@@ -490,7 +492,8 @@ void ConfigTest::brokenSimSectionIsOff_data()
     QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
 }
 
-/// If only some prefixes were read, a SIM could get the windows of a shorter prefix.
+/// Tests that a broken section is ignored as a whole. If only some prefixes were read, a SIM card
+/// could get the windows of a shorter prefix.
 void ConfigTest::brokenSimSectionIsOff()
 {
     QFETCH(QByteArray, before);
@@ -550,8 +553,9 @@ void ConfigTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// The getters read their sections again, so only the last section shows whether the initial scan
-/// found each section: a scan for a missing section runs past the last one.
+/// Checks the last section, because the getters read the other sections again. A scan for a missing
+/// section runs past the last one, so the last section shows whether the initial scan found all of
+/// them.
 void ConfigTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);
@@ -614,8 +618,9 @@ void ConfigTest::onlineComponentYieldsItsUrlOnly()
 void ConfigTest::everyComponentAnswersItsOwnAttributesOnly_data()
 {
     QTest::addColumn<int>("component");
-    QTest::addColumn<QList<int>>("numbers"); // -1 for an unknown attribute
-    QTest::addColumn<QStringList>("texts");  // "unchanged" for an unknown attribute
+    QTest::addColumn<QList<int>>("numbers"); // -1 for an attribute that the component does not have
+    QTest::addColumn<QStringList>(
+        "texts"); // "unchanged" for an attribute that the component does not have
     const QString none = latin1("unchanged");
     // by attribute:             0   1  2   5   6   7  8   9  10
     QTest::newRow("Balance") << BALANCE << QList<int>{1, 10, -1, -1, -1, -1, -1, -1, -1}
@@ -767,7 +772,7 @@ void ConfigTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Compares the result with a search through the whole map.
+/// Compares the result with a linear search through the whole map.
 void ConfigTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);

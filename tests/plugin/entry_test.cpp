@@ -1,6 +1,6 @@
 /*
- * Tests the shared library as a host uses it, only through its entry points and virtual tables. No
- * header of the plug-in or of its interfaces is included.
+ * Tests the shared library like a host uses it, only through its entry points and virtual tables.
+ * The test includes no header of the plug-in or of its interfaces.
  */
 #include "UssdTest.h"
 
@@ -26,7 +26,7 @@ protected:
     void tearDown() override;
 
 private:
-    /// Returns the plug-in object. Creates a new object when the last one was deleted.
+    /// Returns the plug-in object. Creates a new object if the last one was deleted.
     QObject *instance();
     void *as(const char *name) { return instance()->qt_metacast(name); }
     void *plugin() { return as("IUIPlugin"); }
@@ -114,7 +114,7 @@ void EntryTest::verificationTextIsThatOfTheHost()
                         "buildkey=" USSD_QT4_BUILD_KEY));
 }
 
-/// The text above depends on a build option. This test checks the default value of the option.
+/// Checks the default value of the build option that determines the text above.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));

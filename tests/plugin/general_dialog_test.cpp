@@ -36,7 +36,7 @@ QGridLayout *gridOf(QWidget *widget)
 
 } // namespace
 
-/** Tests the general dialog: entry, sending, answers, transcript. */
+/** Tests the general dialog: its entry fields, sending, answers and the transcript. */
 class GeneralDialogTest : public DialogTest
 {
     Q_OBJECT
@@ -45,11 +45,12 @@ protected:
     void setUp() override;
 
 private:
-    /// Presses Clear and answers the confirmation box by the button with this text key, or by
-    /// Escape for a null key. Returns the text of the box, or a null text when no box was opened.
+    /// Presses Clear and answers the confirmation box with the button of this text key, or with
+    /// Escape for a null key. Returns the text of the box, or a null text if no box was opened.
     QString clearAndAnswer(const char *buttonKey);
-    int lineOf(const char *part); ///< index of the first log line that contains `part`, or -1
-    void activateWindow();        ///< makes the dialog's choice of the focus effective
+    int lineOf(
+        const char *part); ///< returns the index of the first log line that contains `part`, or -1
+    void activateWindow(); ///< makes the dialog's choice of the focus effective
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 
@@ -655,7 +656,7 @@ void GeneralDialogTest::refusedPresetIsAnsweredLocally()
     QVERIFY(presetButtons().first()->isEnabled());
 }
 
-/// The different behaviour is intended.
+/// The different behaviour is deliberate.
 void GeneralDialogTest::presetDisablesTheComboButSendDoesNot()
 {
     open();
@@ -787,7 +788,8 @@ void GeneralDialogTest::answersOfManyCommandsStandInOrder()
     QCOMPARE(requests().count(), 30);
 }
 
-/// An answer does not contain the command that it belongs to.
+/// An answer does not contain the command that it belongs to, so it is shown for the current
+/// command.
 void GeneralDialogTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);
@@ -1165,7 +1167,8 @@ void GeneralDialogTest::onlyAsciiDigitsAreAllowed()
     QCOMPARE(paymentEdit()->text(), latin1("0123456789"));
 }
 
-/// A number that has been used for a payment must not be sent again by accident.
+/// Tests that an old number does not come back. A number that has been used for a payment must not
+/// be sent again by accident.
 void GeneralDialogTest::refusedKeyAfterAnAnswerBringsNoOldNumberBack()
 {
     open();

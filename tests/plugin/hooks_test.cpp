@@ -182,8 +182,8 @@ void HooksTest::statusWithoutDataChangesNothing()
     QVERIFY(m_listener->readiness.isEmpty());
 }
 
-/// The device reports readiness once, soon after the registration, while the singleton is still
-/// being constructed.
+/// Tests readiness during construction. The device reports it once, soon after the registration,
+/// while the singleton is still being constructed.
 void HooksTest::readinessToldDuringConstructionIsNotLost()
 {
     for (int i = 0; i < 20; ++i) {

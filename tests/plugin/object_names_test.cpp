@@ -25,7 +25,8 @@ const char TABLE_BEGIN[] = "<!-- object names: begin -->\n";
 const char TABLE_END[] = "<!-- object names: end -->\n";
 const int USSD_SERVICE = 4097;
 
-/// A line of the table. The windows are those that have such a child, in the order of opening.
+/// A line of the table. The windows are those that contain such a child, in the order in which they
+/// are opened.
 struct Row {
     QStringList windows;
     QString name;

@@ -88,7 +88,7 @@ private:
     void letTimePass(int milliseconds);
     /// Waits until `part` was logged `times` times, which shows the progress of a thread.
     bool waitUntilLogged(const char *part, int times);
-    /// Returns whether a command is sent without waiting for an earlier time-out.
+    /// Returns whether a command is sent without a wait for an earlier time-out.
     bool sendsWithoutWaiting();
     /// Returns whether a command is sent only after the wait for an earlier time-out.
     bool sendWaitsItsTime();
@@ -168,7 +168,7 @@ private slots:
 
 void PipelineTest::setUp()
 {
-    // The static variable keeps the times from before any test has set others.
+    // The static variable stores the times before any test has changed them.
     static const ReplyTimes shipped = USSDLogic::replyTimes();
     m_shippedTimes = shipped;
     PluginTest::setUp();
@@ -224,7 +224,8 @@ QStringList PipelineTest::linesOf(const char *function)
 
 bool PipelineTest::sendsWithoutWaiting()
 {
-    const int wait = 20000; // ms; elapses only if the function returns false
+    // The full wait, in milliseconds, elapses only if the function returns false.
+    const int wait = 20000;
     setTimes(NO_PATIENCE, wait);
     QElapsedTimer elapsed;
     elapsed.start();
@@ -232,7 +233,7 @@ bool PipelineTest::sendsWithoutWaiting()
     return result == 0 && elapsed.elapsed() < wait / 2;
 }
 
-/// A send that does not wait takes less than a millisecond.
+/// Compares the times: a send that does not wait takes less than a millisecond.
 bool PipelineTest::sendWaitsItsTime()
 {
     const int wait = 200;
@@ -572,7 +573,7 @@ void PipelineTest::replyForAClearedCommandAnswersTheHead()
     QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
 }
 
-/// The time-out of a cleared command lets the following entry be sent.
+/// Tests that the time-out of a cleared command stays armed, so that the following entry is sent.
 void PipelineTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
     stopClock();
@@ -620,8 +621,8 @@ void PipelineTest::commandClearedWhileItWaitedIsNotSent()
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("three")));
 }
 
-/// The call-back removes the command that it has announced, even if the list has a new head by
-/// then.
+/// Tests that the call-back removes only the command that it has announced, even if the list has a
+/// new head by then.
 void PipelineTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 {
     setTimes(NO_PATIENCE, 1);
@@ -835,7 +836,7 @@ void PipelineTest::headLeavesTheListAfterItsAnnouncement_data()
     QTest::newRow("time-out") << true;
 }
 
-/// A receiver that sends at once is therefore queued after the announced command.
+/// A receiver that sends at once must therefore find its command queued after the announced one.
 void PipelineTest::headLeavesTheListAfterItsAnnouncement()
 {
     QFETCH(bool, byTimeOut);
@@ -877,7 +878,7 @@ void PipelineTest::timeOutReceiverMayShutDown()
     QTRY_VERIFY(!logic);
 }
 
-/// Patient callers enter only when the object is ready.
+/// Tests that only callers which wait can enter, and only when the object is ready.
 void PipelineTest::gateLetsOnlyThePatientIn()
 {
     CallbackGate gate;
@@ -944,8 +945,8 @@ void PipelineTest::newSingletonStartsWithAnEmptyList()
     QVERIFY(fakeSdkCommands().back() == u"*3#");
 }
 
-/// Replies, late replies and time-outs coincide at random. Each command must be answered exactly
-/// once.
+/// Lets replies, late replies and time-outs coincide at random. Each command must be answered
+/// exactly once.
 void PipelineTest::everyCommandIsAnsweredOnce()
 {
     const int count = 400;

@@ -43,7 +43,7 @@ protected:
 private:
     enum HostAct { IMSI_EVENT, ON_DESTROY, DELETION_OF_ITS_WINDOW };
 
-    /// Opens the window without a pending command.
+    /// Opens the window and waits until no command is pending.
     void openReady(const QByteArray &charge = chargeIntoBox());
     void letATopUpTimeOutBeforeAnotherCommand(); ///< the other command is *9#
     void openBox(const QString &reply = QStringLiteral("10 EUR added"));
@@ -130,7 +130,7 @@ void PrepaidBoxTest::boxIsTheDialogsOwn()
 {
     openReady();
     openBox();
-    // The box is not the host's, which has a class of its own.
+    // The box is not one of the host's boxes, which have their own class.
     QCOMPARE(messageBox()->metaObject()->className(), "QMessageBox");
     QCOMPARE(messageBox()->parentWidget(), static_cast<QWidget *>(dialog()));
     QCOMPARE(messageBox()->windowModality(), Qt::ApplicationModal);
@@ -187,7 +187,7 @@ void PrepaidBoxTest::controlsAndBalanceWaitForTheBox()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-/// An operator may confirm a top-up by two replies.
+/// Tests two replies, because an operator may confirm a top-up with two of them.
 void PrepaidBoxTest::replyInABurstHasABoxOfItsOwn()
 {
     openReady();
@@ -278,7 +278,7 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// Return in the entry opens the box, and the host acts in an event of its own.
+/// Return in the entry opens the box, and the host acts in a separate event.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {
     QFETCH(int, hostAct);

@@ -64,7 +64,7 @@ const char DIGIT[] = "\"\\d\"";
 
 } // namespace
 
-/** Tests the question whether the SIM is prepaid, and the notification of the host. */
+/** Tests the detection of prepaid SIM cards, and the notification of the host. */
 class PrepaidDetectionTest : public PrepaidTest
 {
     Q_OBJECT
@@ -242,7 +242,8 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Only the prepaid window asks, but the postpaid window receives the answer too.
+/// Only the prepaid window sends the detection request, but the postpaid window receives the answer
+/// too.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);
@@ -334,7 +335,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 {
     fakeSdkSetAnswer(fakeReply(u"balance"));
     FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
-    late.stubborn = true; // the release at the opening does not end the session
+    late.stubborn = true; // the release when the window opens does not end the session
     fakeSdkScript({late});
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);

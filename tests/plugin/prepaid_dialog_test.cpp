@@ -32,7 +32,10 @@ QStringList ussdCalls()
 
 } // namespace
 
-/** Tests what the account window sends, when it sends, and how it handles answers. */
+/**
+ * Tests the commands of the account window, the moments at which it sends them, and its reactions
+ * to answers.
+ */
 class PrepaidDialogTest : public PrepaidTest
 {
     Q_OBJECT
@@ -337,7 +340,7 @@ void PrepaidDialogTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// A command that is truncated by an error in the file is read as empty.
+/// A command that an error in the file has truncated is read as an empty command.
 void PrepaidDialogTest::emptyCommandIsNotSent()
 {
     Account account;

@@ -134,7 +134,7 @@ QStringList PrepaidLayoutTest::visibleRoles()
 void PrepaidLayoutTest::nothingIsCutOff_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("missing"); // the component that is not shown, if any
+    QTest::addColumn<int>("missing"); // the component that is not shown, or -1
     for (const QString &language : languages()) {
         for (int missing = -1; missing < 4; ++missing)
             QTest::newRow(qPrintable(QStringLiteral("%1, without %2").arg(language).arg(missing)))
@@ -299,7 +299,7 @@ void PrepaidLayoutTest::componentsStandInOrderOfPos()
 
 void PrepaidLayoutTest::separatorsStandBetweenComponents_data()
 {
-    QTest::addColumn<QList<int>>("order"); // of the four components; -1 leaves one out
+    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 leaves one out
     QTest::newRow("as usual") << (QList<int>() << 0 << 1 << 2 << 3);
     QTest::newRow("number first") << (QList<int>() << 1 << 2 << 3 << 0);
     QTest::newRow("number second") << (QList<int>() << 0 << 2 << 3 << 1);
@@ -436,8 +436,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// The longest address that fits is shown completely. An address longer by one letter is elided by
-/// Qt to 300 pixels.
+/// The longest address that fits is shown completely. If the address is longer by one letter, Qt
+/// elides it to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();

@@ -22,7 +22,7 @@ ChargeRules rules(int length, int minlenth, const char *limitText = "0-9")
 
 } // namespace
 
-/** Tests the decisions of the account window without a window. */
+/** Tests the decisions of the account window without the window itself. */
 class PrepaidRulesTest : public UssdTest
 {
     Q_OBJECT
@@ -123,7 +123,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable()
     QTEST(isChargeExpressionUsable(rules(length, 0, limitText.constData())), "usable");
 }
 
-/// The text would be expanded to a thousand million letters.
+/// Such a limit text would be expanded to a thousand million letters.
 void PrepaidRulesTest::hostileLimitTextIsRefusedAtOnce()
 {
     QVERIFY(!isChargeExpressionUsable(rules(16, 12, "a]|((a{1000}){1000}){1000}|[b")));

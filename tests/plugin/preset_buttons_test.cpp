@@ -60,7 +60,7 @@ private:
     QRect shownAt(QWidget *widget);
 
 private slots:
-    // which buttons there are, and where
+    // the buttons and their positions
     void withoutShownProfileThereIsNoButton();
     void twelfthProfileGetsNoButton();
     void slotsAreFixedByTheProfilesIndex_data();
@@ -76,7 +76,7 @@ private slots:
     void nothingOverlapsOrIsCutOff_data();
     void nothingOverlapsOrIsCutOff();
 
-    // what they send
+    // sending
     void buttonSendsItsCode();
     void paymentButtonWithoutNumberSendsNothing();
     void buttonOfAProfileWithoutCodeSendsNothing();
@@ -175,7 +175,7 @@ void PresetButtonsTest::editAndPress(const char *button)
     drainEvents();
 }
 
-// ---- which buttons there are, and where ------------------------------------------------------
+// ---- the buttons and their positions ---------------------------------------------------------
 
 void PresetButtonsTest::withoutShownProfileThereIsNoButton()
 {
@@ -204,8 +204,9 @@ void PresetButtonsTest::twelfthProfileGetsNoButton()
 void PresetButtonsTest::slotsAreFixedByTheProfilesIndex_data()
 {
     QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("box");   // the position of the button's box, empty for none
-    QTest::addColumn<QString>("alone"); // the position of the button when no other one is shown
+    QTest::addColumn<QString>(
+        "box"); // the position of the button's box, or an empty text if it has none
+    QTest::addColumn<QString>("alone"); // the position of the button if no other button is shown
     QTest::addColumn<QString>("amongAll");
     for (int i = 0; i < 4; ++i)
         QTest::newRow(nameOf(i)) << i << latin1("0,0 4x1") << QString() << QString();

@@ -48,7 +48,7 @@ private:
     /// Answers the next message box.
     void answerNextMessage(const QString &buttonKey);
     void press(QMessageBox *box, const QString &buttonKey);
-    /// Opens the cell, types the text and leaves the cell in one of five ways.
+    /// Opens the cell, types the text and leaves the cell in the given way.
     void typeAndLeave(int row, int column, const QString &text, int way);
     QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
     QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
@@ -341,7 +341,7 @@ void ProfileEditorTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(cell(4, 0), QString());
 }
 
-/// The cell next to the one that is left by Tab is filled and editable.
+/// The cell to which Tab moves is filled and editable.
 void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);
@@ -365,7 +365,8 @@ void ProfileEditorTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing was saved
 }
 
-/// While the delegate and the view handle the cell, the host must not be called.
+/// Tests that the message opens later, because the host must not be called while the delegate and
+/// the view handle the cell.
 void ProfileEditorTest::messageOfADuplicateOpensOutsideTheDelegate()
 {
     openEditor();
@@ -560,8 +561,8 @@ void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
     QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
 }
 
-/// A code is saved without the blanks around it. Of two equal codes, only the first would be read
-/// again.
+/// A code is saved without leading and trailing blanks. If two codes are then equal, only the first
+/// one would be read again.
 void ProfileEditorTest::codeThatDiffersInBlanksOnlyIsADuplicate()
 {
     QFETCH(QString, typed);
@@ -638,7 +639,7 @@ void ProfileEditorTest::openEditorIsCommittedBySaving()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Typed"));
 }
 
-/// Otherwise the row would be saved without its code, and be lost.
+/// Otherwise the row would be saved without its code and would be lost.
 void ProfileEditorTest::duplicateFoundWhileSavingStopsIt()
 {
     openEditor();
@@ -699,7 +700,7 @@ static QPushButton *editButton(QWidget *window)
         QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
 }
 
-// ---- what cannot be saved ----------------------------------------------------------------------
+// ---- failures to save --------------------------------------------------------------------------
 
 static void setMode(const QString &path, mode_t mode)
 {
@@ -721,7 +722,7 @@ void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver_data()
     }
 }
 
-/// The part that was not read would be lost, even if nothing was edited.
+/// Otherwise the part of the file that was not read would be lost, even if nothing was edited.
 void ProfileEditorTest::fileThatIsNotWholeIsNotSavedOver()
 {
     QFETCH(bool, isSystem);
@@ -773,7 +774,7 @@ void ProfileEditorTest::editOfADamagedFileStaysInTheWindow()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Saving could delete the file and lose codes that were never read.
+/// Tests that nothing is saved. Saving could delete the file and lose codes that were never read.
 void ProfileEditorTest::fileThatCannotBeOpenedIsNotSavedOver()
 {
     const QByteArray own = profileFile(profileItem("Mine", "*5#"));
@@ -793,7 +794,7 @@ void ProfileEditorTest::fileThatCannotBeOpenedIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// An empty file, which a full disk may leave, contains nothing that could be lost.
+/// Tests an empty file, which a full disk may leave. It contains nothing that could be lost.
 void ProfileEditorTest::emptyFileIsSavedOver()
 {
     writeFile(QStringLiteral("user/ussdprofile.xml"), QByteArray());
@@ -923,7 +924,7 @@ void ProfileEditorTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// The missing folder seems to be creatable, but a dangling link has its name.
+/// Tests a directory that seems possible to create, although a dangling link has its name.
 void ProfileEditorTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));
@@ -1128,8 +1129,8 @@ void ProfileEditorTest::headsStandWhereTheirColumnsBegin()
     QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-/// In right-to-left order the code would read "#123*". The picture distinguishes a star from a
-/// hash, which extends further down.
+/// In right-to-left order the code would read "#123*". In a picture, a star and a hash can be
+/// distinguished because the hash extends further down.
 void ProfileEditorTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
     QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));

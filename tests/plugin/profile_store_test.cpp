@@ -876,7 +876,7 @@ void ProfileStoreTest::readOnlyFolderIs25()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// In such a folder the file cannot be deleted, but it can be opened.
+/// Tests a directory in which the file cannot be deleted but can be opened.
 void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 {
     writeUserProfiles(profileItem("U", "*2#"));
@@ -894,7 +894,7 @@ void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 }
 
 /// A file that cannot be deleted keeps its permissions, because its owner must still be able to
-/// read it.
+/// read the file.
 void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
 {
     const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
@@ -913,7 +913,8 @@ void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
     QCOMPARE(status, 0);
 }
 
-/// The failure is not reported. The file is read up to the point where it was truncated.
+/// Tests a full disk. The failure is not reported, and the file is later read up to the point where
+/// it was truncated.
 void ProfileStoreTest::fullDiskLeavesAFileThatCanBeRead()
 {
     QByteArray items;
@@ -954,8 +955,8 @@ void ProfileStoreTest::randomListsSurvive()
     QVERIFY(texts > 1000);
 }
 
-/// Carriage returns are written as character references, because XML would replace them by line
-/// feeds.
+/// Tests that carriage returns are written as character references, because XML would replace them
+/// with line feeds.
 void ProfileStoreTest::carriageReturnsSurvive()
 {
     const QList<USSDProfile> profiles = QList<USSDProfile>()

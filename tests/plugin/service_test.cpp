@@ -238,7 +238,7 @@ void ServiceTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
-/// A dialog opened earlier can then no longer request to be closed.
+/// A dialog that was opened earlier can then no longer request to be closed.
 void ServiceTest::unknownTypeIsRememberedNevertheless()
 {
     service()->DoModal();
@@ -761,7 +761,7 @@ void ServiceTest::ussdSmsWindowFitsItsDialog()
     QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
-/// The remembered type stays that of the USSD-SMS window, which a close request does not close.
+/// The remembered type is still that of the USSD-SMS window, which a close request does not close.
 void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();
@@ -822,7 +822,8 @@ void ServiceTest::detectionWorksWithoutAWindow()
 
 // ---- shutting down ---------------------------------------------------------------------------
 
-/// Log lines of a class whose code is in several files name one file.
+/// The code of some classes is in several files. The log lines of such a class name only one of
+/// these files.
 void ServiceTest::logLinesNameTheFileOfTheirClassFamily()
 {
     for (int type : {3, 0, 5})

@@ -1,8 +1,8 @@
 /*
- * Tests every order of the calls by which a host may shut the loaded plug-in down, in every state
- * of the plug-in: sequences of up to five calls, with repetitions, while the device SDK calls back.
- * After each sequence the library is unloaded in the same turn of the event loop, so that anything
- * it left behind would run without code.
+ * Tests every order of the calls with which a host may shut down the loaded plug-in, in every state
+ * of the plug-in. The sequences have up to five calls, with repetitions, and the device SDK calls
+ * back meanwhile. After each sequence the library is unloaded in the same iteration of the event
+ * loop, so that anything left behind would run code that no longer exists.
  */
 #include "UssdTest.h"
 
@@ -31,7 +31,7 @@ namespace
 
 const char CALLS[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // length of the sequences in states that take long to reach
+const int EACH_ONCE = 3; // the length of the sequences in states that take long to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // closed by the user in the same turn of the event loop
+    ModalClosed, // closed by the user in the same iteration of the event loop
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,

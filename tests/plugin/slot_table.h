@@ -2,8 +2,8 @@
 #define SLOT_TABLE_H
 
 /*
- * Calls the plug-in's interfaces as a host built long ago does: by the order of base classes and of
- * slots in their virtual tables (Itanium C++ ABI), without their headers.
+ * Calls the plug-in's interfaces like a host that was built long ago. It relies on the order of
+ * base classes and of slots in the virtual tables (Itanium C++ ABI) and does not use the headers.
  */
 
 class QObject;
@@ -43,8 +43,8 @@ enum USSDSlot {
     CheckImsiIsValid
 };
 
-/// Returns the second base of a plug-in interface, which directly follows the first one because
-/// that has no members.
+/// Returns the second base of a plug-in interface. It directly follows the first base, which has no
+/// members.
 void *secondBase(void *basePlugin);
 
 void callVoid(void *object, int slot);

@@ -22,7 +22,8 @@ QSemaphore clockIsRead;
 QSemaphore clockMayGoOn;
 std::atomic<bool> clockStops(false);
 
-/// Stops its first reader. The timer reads the clock while it is armed, with m_mutexTimeout held.
+/// Stops the first thread that reads it. The timer reads the clock while it is armed, with
+/// m_mutexTimeout locked.
 qint64 stoppingClock()
 {
     if (clockStops.exchange(false)) {
@@ -35,7 +36,7 @@ qint64 stoppingClock()
 std::atomic<bool> threadIsHeld(false);
 int heldThreadReads[2];
 
-/// A signal's handler: holds its thread wherever that is, until the pipe is written.
+/// A signal handler that holds its thread at any point until the pipe is written.
 void holdThread(int)
 {
     threadIsHeld = true;
@@ -46,7 +47,7 @@ void holdThread(int)
 
 } // namespace
 
-/** A reply whose thread is held up in the middle of its call-back. */
+/** Tests a reply whose thread is held in the middle of its call-back. */
 class SlowReplyTest : public PluginTest
 {
     Q_OBJECT
@@ -118,8 +119,8 @@ void SlowReplyTest::holdReply()
         std::this_thread::yield();
 }
 
-/// The reply has claimed its command and is held before it stops the time-out. Meanwhile a device
-/// event drops that command, and the next one is sent.
+/// Tests a reply that is held after it has claimed its command and before it stops the time-out.
+/// Meanwhile a device event drops this command, and the next command is sent.
 void SlowReplyTest::timeOutOfTheNextCommandIsNotStopped()
 {
 #ifdef USSD_THREAD_SANITIZER

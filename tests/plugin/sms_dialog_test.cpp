@@ -23,7 +23,7 @@
 
 using namespace Formats;
 
-/** Tests the USSD-SMS dialog in a frame by keys and clicks. The network is silent by default. */
+/** Tests the USSD-SMS dialog in a frame with keys and clicks. The network is silent by default. */
 class SmsDialogTest : public PluginTest
 {
     Q_OBJECT
@@ -189,7 +189,7 @@ private slots:
     void lostReadinessAtTheLastMomentFails();
     void smsLogLines();
 
-    // ---- neither
+    // ---- neither USSD nor SMS
     void controlOfNoKindSendsNothing();
     void withoutLogicNoCommandIsSent();
     void withoutLogicShortMessagesAreSent();
@@ -419,7 +419,7 @@ void SmsDialogTest::sendTariff()
     press();
 }
 
-/// Returns the number of connections of the logic's signal.
+/// Returns the number of connections of this signal of the logic object.
 int SmsDialogTest::receivers(const char *signal)
 {
     class Opened : public QObject
@@ -692,7 +692,7 @@ void SmsDialogTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// The number -1 means "no entry", so a first row with this number is not selected.
+/// The number -1 means that there is no entry, so a first row with this number is not selected.
 void SmsDialogTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()
@@ -965,7 +965,7 @@ void SmsDialogTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
 }
 
-/// An odd rule that is kept: the typed text decides, not the number. See also the next two tests.
+/// The typed text decides, not the number. This odd rule is kept, also in the next two tests.
 void SmsDialogTest::emptyNumberIsSentWhenTyped()
 {
     openWith(config().replace("<number>1200</number>", "<number></number>"));
@@ -986,7 +986,7 @@ void SmsDialogTest::emptyNumberIsEnabledByReadiness()
     QVERIFY(button()->isEnabled());
 }
 
-/// The click disables the field until a service is selected.
+/// The click disables the field until a service is selected again.
 void SmsDialogTest::emptyCommandIsEnabledByReadinessButNotSent()
 {
     openWith(config().replace("WEATHER %s", ""));
@@ -1012,7 +1012,7 @@ void SmsDialogTest::typingDoesNotEnableAnEmptyCommand()
     QVERIFY(!button()->isEnabled());
 }
 
-/// The plug-in checks the length in two different ways, and this is kept.
+/// The plug-in checks the length in two different ways, and both are kept.
 void SmsDialogTest::typedTextOfMinimumLengthIsEnoughButNotForReadiness()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
@@ -1287,7 +1287,7 @@ void SmsDialogTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// Another program may have sent the message, with the same number and text.
+/// The message may come from another program that has sent the same text to the same number.
 void SmsDialogTest::smsResultWhileNotBusyIsShown()
 {
     QFETCH(int, fared);
@@ -1352,8 +1352,8 @@ void SmsDialogTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// The device reports on its own thread, and its queued signal is not handled yet when the user
-/// clicks. The field stays disabled until a service is selected; this behaviour is kept.
+/// The device reports on its own thread, and the queued signal has not been handled when the user
+/// clicks. The field stays disabled until a service is selected. This behaviour is kept.
 void SmsDialogTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
@@ -1380,7 +1380,7 @@ void SmsDialogTest::smsLogLines()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_SendMsg () returned 0"), 1);
 }
 
-// ---- neither ---------------------------------------------------------------------------------
+// ---- neither USSD nor SMS --------------------------------------------------------------------
 
 void SmsDialogTest::controlOfNoKindSendsNothing()
 {
@@ -1566,7 +1566,8 @@ void SmsDialogTest::codeInAResultIsNotTurnedRound()
     QCOMPARE(result(), text);
 }
 
-/// A code between Arabic letters is drawn as if the reply itself contained marks around the code.
+/// A code between Arabic letters must look as if the reply contained directional marks around the
+/// code.
 void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
 {
     const QString reply = QString::fromUtf8("اطلب *124# الآن");
@@ -1578,7 +1579,8 @@ void SmsDialogTest::codeAmongArabicLettersIsDrawnLeftToRight()
     QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 
-/// The full stop is drawn to the left of the last word, as if a right-to-left mark followed it.
+/// The full stop must be drawn to the left of the last word, as if a right-to-left mark followed
+/// it.
 void SmsDialogTest::arabicResultIsARightToLeftParagraph()
 {
     const QString reply = QString::fromUtf8("مرحبا.");
@@ -1630,7 +1632,7 @@ void SmsDialogTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
-/// A click with Ctrl deselects a row, which remains the current row.
+/// A click with Ctrl deselects a row, but the row remains the current row.
 void SmsDialogTest::languageChangeKeepsInputOfARowNotSelected()
 {
     select(CALL);
@@ -1731,7 +1733,7 @@ void SmsDialogTest::everyShippedServiceCanBeUsed()
         press();
         QVERIFY2(isBusy(), qPrintable(row(service)->text(0)));
         const std::vector<FakeCall> messages = fakeSdkCalls("TKSV_SMSSrv_CreateSMSRecord");
-        networkSays(latin1("answer")); // is ignored if the service has sent a short message
+        networkSays(latin1("answer")); // ignored if the service has sent a short message
         if (!messages.empty())
             smsFared(0, QString::fromStdU16String(messages.back().number),
                      QString::fromStdU16String(messages.back().text));

@@ -19,7 +19,8 @@
 namespace
 {
 
-const int LAST_COMPONENT = 7; // belongs to no dialog; the largest value of the enumeration's type
+// The largest value of the enumeration's type, which belongs to no dialog.
+const int LAST_COMPONENT = 7;
 
 int number(const char *name, int otherwise)
 {
@@ -116,7 +117,8 @@ QString StormTest::command()
            QLatin1Char('#');
 }
 
-/// Decides which requests the device rejects, one in twelve, and sets it in device and model.
+/// Decides which requests the device rejects, which is one in twelve, and sets this in the device
+/// and in the model.
 void StormTest::scriptDevice(int requests)
 {
     std::vector<FakeAnswer> script;
@@ -277,8 +279,9 @@ void StormTest::everyCommandIsAnsweredAsTheModelSays()
     QCOMPARE(m_model.pending(), 0);
 }
 
-/// Replies, time-outs, device events and clears run concurrently on their threads. Each command
-/// must be answered at most once, and every command that is pending at the end must be answered.
+/// Lets replies, time-outs, device events and clears run concurrently on their threads. Each
+/// command must be answered at most once. Every command that is pending at the end must be
+/// answered.
 void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
 {
     const int commands = number("USSD_STORM_COMMANDS", 5000);
@@ -306,7 +309,7 @@ void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
             drainEvents();
     }
     QVERIFY(fakeSdkWaitIdle()); // a late device event would cancel the next command
-    // Commands are answered in order: when this one is answered, no command is pending any more.
+    // Commands are answered in order. When this one is answered, no command is pending any more.
     USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
         USSDCmdOrResp(static_cast<_COMPONENT>(LAST_COMPONENT), QStringLiteral("*8#")), &status);
     QTRY_VERIFY_WITH_TIMEOUT(!m_listener->answers.isEmpty() &&

@@ -60,7 +60,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-// Pieces for random texts. Each kind has difficulties of its own.
+// The pieces of random texts. Each kind has its own difficulties.
 const char *const WORDS[] = {"Balance", "12.50 EUR", "*100#", "1) Yes", "a", "%s", "%1", "-", "0"};
 const char *const ARABIC[] = {"رصيدك", "١٢٣", "اضغط 1", "ل", "\u200f", "\u200e"};
 const char *const BREAKS[] = {"\n", "\n\n", "\r", "\r\n", "\n ", " \n"};
@@ -216,7 +216,7 @@ private slots:
     void entriesAfterClearingAreLikeTheFirst();
     void entriesHoldsTheMarkupOfAll();
 
-    // nothing is loaded
+    // no resource is loaded
     void deviceThatNeverEndsIsNotRead_data();
     void deviceThatNeverEndsIsNotRead();
     void pictureOfARealFileIsNotShown();
@@ -561,7 +561,7 @@ void TranscriptTest::entriesHoldsTheMarkupOfAll()
     QCOMPARE(view.entries(), first.markup + second.markup);
 }
 
-// ---- nothing is loaded -----------------------------------------------------------------------
+// ---- no resource is loaded -------------------------------------------------------------------
 
 void TranscriptTest::deviceThatNeverEndsIsNotRead_data()
 {
