@@ -83,8 +83,8 @@ public:
     }
 
 private:
-    /// Starts a new timer for each look: a timer whose slot opens a dialog does not fire again
-    /// while the dialog is open.
+    /// Starts a new timer for each look, because a timer whose slot opens a dialog does not fire
+    /// again while the dialog is open.
     void lookLater() { QTimer::singleShot(INTERVAL, this, &User::look); }
 
     void look()

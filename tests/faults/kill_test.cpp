@@ -23,14 +23,14 @@ const char NEW[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<tksvdoc type=\"USSDProfile\"><item>"
     "<name>New</name><value>*2#</value></item></tksvdoc>\n";
 const int HUNG = -2;
-const unsigned LIMIT = 5; // seconds that a start may take after a kill
+const unsigned LIMIT = 5; // the seconds that a start may take after a kill
 
 } // namespace
 
 /**
- * Kills the program at each of its steps on the disk in turn, including the moment when half of a
- * text is written. After each kill, the user must have the old file or the new one, or the copy
- * must be offered.
+ * Kills the program at each of its disk steps in turn, including the moment when half of a text is
+ * written. After each kill, the user must have the old file or the new file, or the program must
+ * offer the copy.
  */
 class KillTest : public UssdTest
 {
@@ -61,8 +61,8 @@ private:
     static void saveNewCodes(USSDEditCmd *editor) { _exit(editor->saveToXMLFile(false)); }
     static int savedLanguage();
 
-    int m_step = 0;    // of the last kill
-    QString m_watched; // the folder whose steps are counted
+    int m_step = 0;    // the step of the last kill
+    QString m_watched; // the directory whose steps are counted
     QString m_file;
     QString m_copy;
 };
@@ -127,7 +127,7 @@ bool KillTest::isOldOrNewOrOffered()
     return isOffered && backup().restore() && contentOf(m_file) == OLD;
 }
 
-/// The editor has read the new codes, and the file contains the old codes when it saves.
+/// Saves an editor that has read the new codes over a file with the old codes.
 void KillTest::savingTheCodesLeavesThemOrTheCopy()
 {
     layOut(NEW, OLD);
@@ -138,7 +138,8 @@ void KillTest::savingTheCodesLeavesThemOrTheCopy()
                                           restored += backup().isLost() || backup().isDamaged();
                                           QVERIFY(isOldOrNewOrOffered());
                                       });
-    QVERIFY2(killed >= 3, qPrintable(QString::number(killed))); // delete, create, write, write half
+    QVERIFY2(killed >= 3, qPrintable(QString::number(
+                              killed))); // the steps are delete, create, write and the half write
     QVERIFY2(restored >= 2, qPrintable(QString::number(restored)));
 }
 
@@ -208,8 +209,8 @@ void saveLanguage(const char *code)
 }
 } // namespace
 
-/// Returns the index of the saved language in LANGUAGES, or 9. A separate process reads it because
-/// Qt caches settings in memory.
+/// Returns the index of the saved language in LANGUAGES, or 9 if there is none. A separate process
+/// reads it because Qt caches settings in memory.
 int KillTest::savedLanguage()
 {
     const QString code = DashboardSettings().language();

@@ -13,7 +13,7 @@ namespace
 const char OWN_CODES[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<tksvdoc type=\"USSDProfile\">"
     "<item><name>Mine of old</name><value>*777#</value></item></tksvdoc>\n";
-const int LIMIT = 20000; // ms
+const int LIMIT = 20000; // in milliseconds
 
 struct Run {
     int code = -1;
@@ -21,7 +21,7 @@ struct Run {
     QString error;
 
     bool isGood() const { return code == 0; }
-    /// Returns the whole output, for the message of a failure.
+    /// Returns the whole output, which is printed when a test fails.
     QByteArray all() const
     {
         return (QString::number(code) + QLatin1Char('\n') + out + error).toLocal8Bit();
@@ -30,7 +30,7 @@ struct Run {
 
 } // namespace
 
-/** Tests that the program reports what a machine lacks and continues. */
+/** Tests that the program reports missing parts of the machine and keeps running. */
 class MachineTest : public UssdTest
 {
     Q_OBJECT

@@ -9,8 +9,8 @@
 
 /* Common code of the fuzzers. Each fuzzer runs one input in LLVMFuzzerTestOneInput(). */
 
-/// Ends the program with a message when the condition is false. The fuzzer reports it as a crash.
-/// Works in every build type.
+/// Ends the program with a message if the condition is false. The fuzzer reports this as a crash.
+/// The macro works in every build type.
 #define FUZZ_REQUIRE(condition)                                                                    \
     ((condition) ? static_cast<void>(0) : FuzzSupport::fail(#condition, __FILE__, __LINE__))
 
@@ -19,21 +19,22 @@ namespace FuzzSupport
 
 [[noreturn]] void fail(const char *condition, const char *file, int line);
 
-/// Discards log lines. They are formatted nevertheless, so that formatting the input is fuzzed too.
+/// Discards log lines. They are still formatted, so that the formatting is fuzzed too.
 void dropMessages();
 
-/// Creates an application without a display, for widgets. The first call creates it, and it is
+/// Creates an application without a display, for widgets. Only the first call creates it, and it is
 /// never deleted.
 void needApplication();
 
-/// Returns a folder that is deleted at the end of the program, without a trailing separator.
+/// Returns a directory that is deleted at the end of the program. The path has no trailing
+/// separator.
 QString folder();
 
 /// Creates or replaces a file in an existing folder.
 void writeFile(const QString &path, const QByteArray &content);
 
-/// Returns the input as UTF-16 code units in the host's byte order, including lone surrogates. An
-/// odd byte at the end is ignored.
+/// Returns the input as UTF-16 code units in the host's byte order, including unpaired surrogates.
+/// An odd byte at the end is ignored.
 QString units(const uint8_t *data, size_t size);
 
 } // namespace FuzzSupport

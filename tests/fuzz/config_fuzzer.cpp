@@ -22,7 +22,7 @@ bool same(const Char &a, const Char &b)
            a.green == b.green && a.blue == b.blue;
 }
 
-/// Checks that the getters answer known attributes only, and that a bool is 0 or 1.
+/// Checks that the getters support known attributes only, and that a bool is 0 or 1.
 void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute)
 {
     const int number = logic.GetComponentAttrInt(paidType, component, attribute);
@@ -88,7 +88,7 @@ void checkImsi(USSDLogic &logic, const AutoUSSD &section, const QString &imsi)
     FUZZ_REQUIRE(!matched || flags == section.imsiMap.value(imsi.left(length)));
 }
 
-/// Reads the section again from the bytes, for comparison with what the logic object has loaded.
+/// Reads the section again from the bytes, to compare it with the values in the logic object.
 AutoUSSD autoUSSDBehindTheOthers(const QByteArray &file)
 {
     QXmlStreamReader reader(file);

@@ -11,7 +11,7 @@ if [ -z "$(ls -A "$corpus")" ]; then
     echo "$corpus holds no seeds" >&2
     exit 1
 fi
-# Addresses are part of the coverage data, so they are fixed where the system allows it.
+# Addresses are part of the coverage data. They are therefore fixed if the system allows it.
 same=
 setarch -R true 2>/dev/null && same="setarch -R"
 $same "$fuzzer" -seed=1 -runs="$runs" -rss_limit_mb=3000 -artifact_prefix="$PWD/" "$@" "$scratch/new" \
@@ -20,4 +20,4 @@ $same "$fuzzer" -seed=1 -runs="$runs" -rss_limit_mb=3000 -artifact_prefix="$PWD/
     exit 1
 }
 tail -3 "$scratch/log"
-grep -q '^Done ' "$scratch/log" # the fuzzer has finished, and did not only exit with 0
+grep -q '^Done ' "$scratch/log" # an exit status of 0 does not prove that all runs are done

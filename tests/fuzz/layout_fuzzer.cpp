@@ -1,6 +1,4 @@
-/*
- * Fuzzes the USSD-SMS section: the limits of what is read, and the values read.
- */
+/* Fuzzes the USSD-SMS section: the limits of the reader, and the values that it returns. */
 #include "FuzzSupport.h"
 
 #include <QXmlStreamReader>
@@ -14,7 +12,7 @@ namespace
 
 const int MOST_GROUPS = 500;
 const int MOST_CONTROLS = 6;
-const int MOST_COMPLAINTS = 21; // twenty, and one about the syntax of the file
+const int MOST_COMPLAINTS = 21; // twenty complaints, and one about the syntax of the file
 
 void checkGeometry(const QRect &rect)
 {
@@ -41,7 +39,7 @@ void checkGroup(const CWidget &group, int dialogWidth)
         checkControl(*control, dialogWidth);
 }
 
-/// Checks that the tree has two levels and begins with its root.
+/// Checks that the tree has two levels and starts with its root.
 void checkTree(const SmsLayout &layout)
 {
     FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::MAX_ORDINARY_ENTRIES);

@@ -66,7 +66,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
     FuzzSupport::writeFile(userFolder() + QLatin1String("ussdprofile.xml"), file);
     checkProfiles(readAndSave(), size);
-    // Saving may trim blanks and thereby make two codes equal. A second time changes nothing.
+    // Saving may trim blanks and thereby make two codes equal. Saving again changes nothing.
     const QList<USSDProfile> saved = readAndSave();
     checkProfiles(saved, size);
     FUZZ_REQUIRE(readAndSave() == saved);

@@ -1,6 +1,6 @@
 /*
- * Fuzzes the device SDK's records in both directions. Each record is in memory of exactly its size,
- * so that reading beyond its end is detected.
+ * Fuzzes the device SDK's records in both directions. The memory of each record has exactly its
+ * size, so that reading beyond its end is detected.
  */
 #include "FuzzSupport.h"
 
@@ -25,7 +25,7 @@ std::vector<unsigned short> terminated(const QString &text)
     return result;
 }
 
-/// Returns the text up to the first zero unit.
+/// Returns the text before the first zero unit.
 QString upToZero(const QString &text)
 {
     const int zero = text.indexOf(QChar(0));

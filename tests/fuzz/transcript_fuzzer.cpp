@@ -1,6 +1,4 @@
-/*
- * Fuzzes the transcript: entries in any number and order, with arbitrary texts of the network.
- */
+/* Fuzzes the transcript with arbitrary network texts, in any number and order of entries. */
 #include "FuzzSupport.h"
 
 #include <QTextBlock>
@@ -49,13 +47,13 @@ int tablesIn(const QTextFrame *frame)
     return tables;
 }
 
-/// Checks that the document has no elements that take too long to lay out.
+/// Checks that the document has no elements whose layout takes too long.
 void checkCost(const QTextDocument &document)
 {
     FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= MOST_TABLES);
 }
 
-/// Returns what a second view shows for the same entries.
+/// Returns the content of a second view for the same entries.
 QString shownBy(const QStringList &texts, QString *markup)
 {
     WatchedView view;

@@ -223,7 +223,8 @@ void FaultySdkTest::blockingRequestThatFailsIsSaid()
     QVERIFY(isIdle());
 }
 
-/// The next command is sent on the SDK's thread, where the call blocks.
+/// Tests the end of the plug-in while a request blocks. The SDK's thread sends the next command,
+/// and this call blocks.
 void FaultySdkTest::endWaitsForABlockingRequest()
 {
     FakeAnswer slow = fakeSilence();

@@ -42,7 +42,7 @@ QByteArray loadedLibraries()
 
 } // namespace
 
-/** Records the addresses that would be opened on the desktop, and opens none. */
+/** Records the addresses that would be opened on the desktop, without opening them. */
 class UrlRecorder : public QObject
 {
     Q_OBJECT
@@ -148,7 +148,7 @@ QString HostileRepliesTest::baitPath(const char *name)
     return folder() + QLatin1Char('/') + latin1(BAIT) + latin1(name);
 }
 
-/// Replaces "FILE" in the reply by the path of an existing file.
+/// Replaces "FILE" in the reply with the path of an existing file.
 QString HostileRepliesTest::baited(const char *reply)
 {
     return latin1(reply).replace(latin1("FILE"), baitPath(".png"));
@@ -224,7 +224,8 @@ void HostileRepliesTest::nothingIsOpenedLoadedOrRun()
     picture.fill(Qt::red);
     QVERIFY(picture.save(baitPath(".png")));
     open();
-    showEverywhere(latin1("first")); // makes the windows load what they load once
+    // Makes the windows load the resources that they load only once.
+    showEverywhere(latin1("first"));
     const UrlRecorder desktop;
     SystemCalls::watch();
     showEverywhere(baited(reply.constData()));

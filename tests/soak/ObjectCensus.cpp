@@ -11,7 +11,7 @@
 namespace
 {
 
-/** Never destroyed, because objects may be deleted after static objects. */
+/** The census is never destroyed, because objects may be deleted after static objects. */
 struct Census {
     std::mutex mutex;
     std::unordered_set<QObject *> living;

@@ -5,8 +5,8 @@
 
 /**
  * The clock of the simulated network and of the reply time-out, which advances only on request. The
- * process has one clock. It may be read on any thread; all other functions must be called on the
- * GUI thread.
+ * process has one such clock. now() may be called from any thread; all other functions must be
+ * called on the GUI thread.
  */
 namespace SoakClock
 {

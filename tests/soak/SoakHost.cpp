@@ -24,12 +24,13 @@ using namespace Dashboard;
 namespace
 {
 
-const int PULSE = 5;                  // ms of real time
-const int STEP = 1000;                // ms of simulated time with each pulse
-const int LONGEST_REPLY = 5000;       // ms; the slowest reply of the scenarios
-const int REPLY_LIMIT = 31000;        // ms; a little longer than the plug-in waits
-const ReplyTimes TIMES = {30000, 20}; // ms; the second value is real time and therefore shorter
-const int RESTART_EVERY = 16;         // rounds
+const int PULSE = 5;            // milliseconds of real time
+const int STEP = 1000;          // milliseconds of simulated time in each pulse
+const int LONGEST_REPLY = 5000; // milliseconds, the slowest reply of the scenarios
+const int REPLY_LIMIT = 31000;  // milliseconds, a little longer than the plug-in waits
+// In milliseconds. The second value is short because it is real time.
+const ReplyTimes TIMES = {30000, 20};
+const int RESTART_EVERY = 16; // number of rounds between restarts
 const QSize PAGE_SIZE(800, 600);
 const char *const NETWORKS[] = {"prepaid", "contract", "restless"};
 const int NETWORK_COUNT = 3;
@@ -103,7 +104,7 @@ int SoakHost::cycle()
     return int(HostCore::Languages::codes().size()) * NETWORK_COUNT;
 }
 
-/// Copies the shipped files to a folder of this run. Returns false on failure.
+/// Copies the shipped files to a directory of this run. Returns false on failure.
 bool SoakHost::layOutFiles()
 {
     const QString place = m_folder.filePath(QLatin1String("plugins/USSDUIPlugin"));
@@ -276,8 +277,8 @@ void SoakHost::waitForAnswer(qint64 before)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Waits until no answer is pending at two consecutive pulses, because no answer is pending for a
-/// moment between an answer and the next queued command.
+/// Waits until no answer is pending at two consecutive pulses. One pulse is not enough, because
+/// nothing is pending for a moment between an answer and the next queued command.
 void SoakHost::waitUntilIdle()
 {
     SoakClock::advance(LONGEST_REPLY);
@@ -298,7 +299,7 @@ void SoakHost::countAnswer()
     ++m_answers;
 }
 
-/// Advances the clock, and closes dialogs as a user would.
+/// Advances the clock and closes dialogs like a user does.
 void SoakHost::pulse()
 {
     m_quietPulses = isAwaited() ? 0 : m_quietPulses + 1;

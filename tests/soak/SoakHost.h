@@ -10,17 +10,17 @@
 #include "plugin/PluginContainer.h"
 #include "sim/NotificationService.h"
 
-/** The numbers of commands in a round. */
+/** The numbers of commands in one round. */
 struct SoakLoad {
-    int pageCommands;     // typed into the general window and sent by its button
+    int pageCommands;     // typed into the general window and sent with its button
     int pipelineCommands; // sent through the pipeline one after another
     int queuedCommands;   // sent to the pipeline all at once
 };
 
 /**
- * A host that uses the plug-in as users do over months, with languages, windows, codes, codes
- * without an answer, removed devices and changed SIM cards. Everything runs in this process with
- * the time of SoakClock. GUI thread.
+ * A host that uses the plug-in like a user does over months. It changes languages, opens windows,
+ * sends codes with and without an answer, removes devices and changes SIM cards. Everything runs in
+ * this process with the time of SoakClock. Must be used on the GUI thread.
  */
 class SoakHost : public QObject
 {

@@ -15,9 +15,9 @@ namespace
 
 const double MEGABYTE = 1 << 20;
 
-/// The allowance for caches of Qt and of the C library, which have no fixed size: glyphs, hashes
-/// that grow by doubling, free lists. A leak of 16 bytes per hundred commands exceeds it in a long
-/// run.
+/// The allowance for caches of Qt and of the C library, such as glyphs, growing hash tables and
+/// free lists, which have no fixed size. A leak of 16 bytes per hundred commands exceeds the
+/// allowance in a long run.
 const double HEAP_MAY_GROW = 0.25; // megabytes
 /// The allowance for free pages between used blocks, which the C library cannot return.
 const double RESIDENT_MAY_GROW = 6; // megabytes
@@ -77,8 +77,9 @@ const QVector<SoakFigure> &soakFigures()
 SoakSample takeSoakSample()
 {
     SoakSample sample;
-    QPixmapCache::clear(); // the cache keeps up to 10 MB, whether or not it is used again
-    malloc_trim(0);        // freed memory is no leak
+    // The cache keeps up to 10 MB, even if nothing uses it again.
+    QPixmapCache::clear();
+    malloc_trim(0); // freed memory is not a leak
     sample.heapBytes = heapBytes();
     sample.residentBytes = residentBytes();
     sample.descriptors = entriesOf("/proc/self/fd");

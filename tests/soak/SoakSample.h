@@ -4,25 +4,25 @@
 #include <QString>
 #include <QVector>
 
-/** The memory and resources that the process uses at a moment when it is idle. */
+/** The memory and the resources of the process at a moment when it is idle. */
 struct SoakSample {
-    qint64 commands = 0;       // sent since the start
-    qint64 openings = 0;       // windows opened since the start
+    qint64 commands = 0;       // number of commands sent since the start
+    qint64 openings = 0;       // number of windows opened since the start
     double simulatedHours = 0; // since the start
     qint64 residentBytes = 0;  // resident set size
     qint64 heapBytes = 0;      // allocated by malloc and not freed
     int descriptors = 0;
     int threads = 0;
     int timers = 0;  // Qt timers in the GUI thread
-    int widgets = 0; // with and without a parent
+    int widgets = 0; // widgets with and without a parent
     int objects = 0; // QObjects, including widgets
 };
 
-/** A figure to compare. */
+/** A figure that is compared between samples. */
 struct SoakFigure {
     const char *name;
     double (*value)(const SoakSample &);
-    /// The permitted growth between the warm-up and the end; docs/testing.md gives the reasons.
+    /// The permitted growth between the warm-up and the end. docs/testing.md gives the reasons.
     double mayGrowBy;
     const char *unit;
 };

@@ -32,14 +32,14 @@ const int SAMPLES = 200;
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a folder; empty for no report
+    QString report; // a directory, or empty for no report
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;
 };
 
-/// Returns the load of a round: every tenth command is sent by the general window, and every tenth
-/// of the others through a queue.
+/// Returns the load of a round. The general window sends every tenth command, and a queue every
+/// tenth of the others.
 SoakLoad Order::load() const
 {
     const int each = int((commands + rounds() - 1) / rounds());
@@ -80,7 +80,7 @@ public:
     bool isReady() const { return m_host.isReady(); }
     void run();
     QString report() const;
-    /// Returns the failures of the run; empty when there are none.
+    /// Returns the failures of the run, or an empty string if there are none.
     QString faults() const;
     bool writeReport() const;
 
@@ -103,8 +103,7 @@ SoakSample Soak::sample() const
     return sample;
 }
 
-/// Samples are taken after rounds of the same kind only, because the texts of languages differ in
-/// size.
+/// Takes samples only after rounds of the same kind, because the texts of languages differ in size.
 void Soak::run()
 {
     const int cycle = SoakHost::cycle();
