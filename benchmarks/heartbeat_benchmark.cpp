@@ -18,8 +18,9 @@ namespace
 {
 
 const int CHARACTERS = 10000;
-const double MAY_BE_LATE = 100; // ms
-const int QUIET_BEATS = 30;     // beats without a change after which the window is idle
+const double MAY_BE_LATE = 100; // in milliseconds
+// Number of beats without a change after which the window is treated as idle.
+const int QUIET_BEATS = 30;
 const int RUNS = 5;
 
 QString repeated(const QString &piece)

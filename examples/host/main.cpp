@@ -1,5 +1,5 @@
 /*
- * A minimal host: loads the plug-in, shows its general window in a widget of its own and shuts the
+ * A minimal host: loads the plug-in, shows its general window in a widget and shuts the
  * plug-in down in the required order. docs/host-integration.md explains the order.
  *
  *   minimal-host [--once CODE] [PLUGIN-FILE]

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the picture of the folders. docs/architecture.dot must have an arrow for every #include from
-# one folder of src to another, and no other arrow. The arrows must not form a circle.
+# Checks the picture of the folders. docs/architecture.dot must have an arrow for every #include
+# from one folder of src to another, and no other arrow. The arrows must not form a cycle.
 # docs/pictures/architecture.svg must be drawn from docs/architecture.dot.
 . "$(dirname "$0")/common.sh"
 

@@ -9,7 +9,7 @@ using namespace Dashboard;
 namespace
 {
 
-/** A USSD service that knows a single SIM. */
+/** A USSD service that supports a single SIM card. */
 class Service : public IUSSD
 {
 public:

@@ -138,8 +138,8 @@ void KillTest::savingTheCodesLeavesThemOrTheCopy()
                                           restored += backup().isLost() || backup().isDamaged();
                                           QVERIFY(isOldOrNewOrOffered());
                                       });
-    QVERIFY2(killed >= 3, qPrintable(QString::number(
-                              killed))); // the steps are delete, create, write and the half write
+    // The steps are delete, create, write and the half write.
+    QVERIFY2(killed >= 3, qPrintable(QString::number(killed)));
     QVERIFY2(restored >= 2, qPrintable(QString::number(restored)));
 }
 

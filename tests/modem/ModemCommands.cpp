@@ -257,7 +257,9 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 
 /* ---- short messages ---------------------------------------------------------------------- */
 
-/// Refuses the command if the scenario starts without SMS: such a modem has no messaging.
+/// Refuses the command if the scenario starts without SMS, because a modem without +CNMI offers no
+/// messaging.
+/// messaging.
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())

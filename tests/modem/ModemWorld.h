@@ -85,7 +85,7 @@ public:
 
     ModemState stateOf(const std::string &id);
     /// Waits until the modem has at least this state and returns its object path. Returns an empty
-    /// string if it does not get there. A failed modem is ignored.
+    /// string if the modem does not reach the state in time. The state of a failed modem is -1.
     std::string waitForState(const std::string &id, int atLeast);
     /// Waits for the modem, enables it and returns its object path.
     std::string switchOn(const std::string &id);

@@ -283,8 +283,8 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    QCOMPARE(ask(QLatin1String("*131#")),
-             QLatin1String(USSD_TIMED_OUT)); // no cancel is sent this time
+    // No cancel is sent this time.
+    QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
 

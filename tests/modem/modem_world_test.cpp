@@ -166,8 +166,8 @@ void ModemWorldTest::cancelReachesTheModem()
     QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
     QVERIFY(m_client->cancel());
     QCOMPARE(modem().timesReceived("AT+CUSD=2"), 1);
-    QCOMPARE(m_client->initiate("1").code,
-             int(MM_CORE_ERROR_ABORTED)); // the session is over, so there is no answer
+    // The session is over, so there is no answer.
+    QCOMPARE(m_client->initiate("1").code, int(MM_CORE_ERROR_ABORTED));
 }
 
 void ModemWorldTest::networkStartsASession()
@@ -261,8 +261,8 @@ void ModemWorldTest::hungUpPortIsAFailure()
     enable();
     modem().misbehave({"AT+CUSD=1", Fault::HangUp});
     QVERIFY(m_client->initiate("*100#", 300).code >= 0);
-    QVERIFY(!m_world->stateOf("m1")
-                 .object.empty()); // closing a virtual port does not delete the object
+    // Closing a virtual port does not delete the object.
+    QVERIFY(!m_world->stateOf("m1").object.empty());
 }
 
 void ModemWorldTest::submittedMessageIsDecoded_data()

@@ -56,8 +56,8 @@ protected:
 
     // ---- the visible state
     QStringList shownLines(); ///< the transcript's paragraphs, with their captions
-    bool
-    isWaiting(); ///< returns whether the prompt is shown and all controls that send are disabled
+    /// Returns whether the prompt is shown and all controls that send are disabled.
+    bool isWaiting();
     /// Returns whether no prompt is shown, the fields are enabled and empty, and Send is disabled.
     bool isIdle();
     static QString text(const char *key);

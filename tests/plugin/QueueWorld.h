@@ -31,7 +31,7 @@ public:
         EventCount
     };
 
-    /// GuiInside is the GUI thread too: it stands for the calls that a receiver of the time-out
+    /// GuiInside is also the GUI thread. It stands for the calls that a receiver of the time-out
     /// signal makes.
     enum Thread { Gui, GuiInside, FirstReply, SecondReply, Device, ThreadCount };
 

@@ -619,8 +619,8 @@ void ConfigTest::everyComponentAnswersItsOwnAttributesOnly_data()
 {
     QTest::addColumn<int>("component");
     QTest::addColumn<QList<int>>("numbers"); // -1 for an attribute that the component does not have
-    QTest::addColumn<QStringList>(
-        "texts"); // "unchanged" for an attribute that the component does not have
+    // "unchanged" for an attribute that the component does not have.
+    QTest::addColumn<QStringList>("texts");
     const QString none = latin1("unchanged");
     // by attribute:             0   1  2   5   6   7  8   9  10
     QTest::newRow("Balance") << BALANCE << QList<int>{1, 10, -1, -1, -1, -1, -1, -1, -1}

@@ -1,5 +1,5 @@
 /*
- * Tests the shared library like a host uses it, only through its entry points and virtual tables.
+ * Tests the shared library as a host uses it, only through its entry points and virtual tables.
  * The test includes no header of the plug-in or of its interfaces.
  */
 #include "UssdTest.h"

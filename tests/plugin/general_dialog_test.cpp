@@ -48,8 +48,8 @@ private:
     /// Presses Clear and answers the confirmation box with the button of this text key, or with
     /// Escape for a null key. Returns the text of the box, or a null text if no box was opened.
     QString clearAndAnswer(const char *buttonKey);
-    int lineOf(
-        const char *part); ///< returns the index of the first log line that contains `part`, or -1
+    /// Returns the index of the first log line that contains `part`, or -1.
+    int lineOf(const char *part);
     void activateWindow(); ///< makes the dialog's choice of the focus effective
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);

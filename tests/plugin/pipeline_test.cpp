@@ -365,7 +365,7 @@ void PipelineTest::refusedCommandIsSilentAndTheNextOneWaits()
     fakeSdkRespond(u"one");
     QVERIFY(fakeSdkWaitIdle());
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
-    QVERIFY(answers().isEmpty()); // *2# gets no answer
+    QVERIFY(answers().isEmpty()); // there is no answer to *2#
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
     QCOMPARE(send(6, QStringLiteral("*4#")), 0); // waits for *3#
     QCOMPARE(fakeSdkCommands().size(), size_t(2));

@@ -204,8 +204,8 @@ void PresetButtonsTest::twelfthProfileGetsNoButton()
 void PresetButtonsTest::slotsAreFixedByTheProfilesIndex_data()
 {
     QTest::addColumn<int>("index");
-    QTest::addColumn<QString>(
-        "box"); // the position of the button's box, or an empty text if it has none
+    // The position of the button's box, or an empty text if it has none.
+    QTest::addColumn<QString>("box");
     QTest::addColumn<QString>("alone"); // the position of the button if no other button is shown
     QTest::addColumn<QString>("amongAll");
     for (int i = 0; i < 4; ++i)

@@ -236,8 +236,8 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    QCOMPARE(useNetwork(SCENARIO_START),
-             std::string()); // nothing happens by itself in this network
+    // Nothing happens by itself in this network.
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
     infoCalls = 0;

@@ -336,8 +336,8 @@ void SdkPromises::oneCallbackAtATimeForEachService()
         });
     for (std::thread &sender : senders)
         sender.join();
-    QVERIFY(
-        waitUntil([] { return overlapCalls >= 200; })); // 100 results for each of two call-backs
+    // 100 results for each of two call-backs.
+    QVERIFY(waitUntil([] { return overlapCalls >= 200; }));
     TKSV_SMSSrv_UnRegCallBack(aloneA);
     TKSV_SMSSrv_UnRegCallBack(aloneB);
     QVERIFY(!overlapped);
@@ -696,8 +696,8 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    QCOMPARE(received().smsStatus.all(),
-             (std::vector<int>{8, 7})); // the device is away, and then back
+    // The device is away, and then back.
+    QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
@@ -772,8 +772,8 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()),
-             0L); // the call releases the record
+    // The call releases the record.
+    QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L);
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
     QCOMPARE(got.result != 0, result != 0);

@@ -305,8 +305,8 @@ void SdkScenario::complaints()
     QFETCH(QString, complaint);
     const std::string bytes = text.toStdString();
     QCOMPARE(complaintsAbout(SCENARIO_START + bytes), complaint);
-    QVERIFY(
-        !readScenario(SCENARIO_START + bytes, "f").scenario); // a bad file is not loaded in part
+    // A bad file is not loaded in part.
+    QVERIFY(!readScenario(SCENARIO_START + bytes, "f").scenario);
 }
 
 void SdkScenario::everyMistakeIsTold()

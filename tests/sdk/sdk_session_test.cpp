@@ -251,8 +251,8 @@ void SdkSession::stopDropsWhatWaits()
     gate.open();
     stopping.join();
     service.post(Event());
-    QVERIFY(calls <=
-            2); // the second event is delivered only if the service took it before the stop
+    // The second event is delivered only if the service took it before the stop.
+    QVERIFY(calls <= 2);
     const int before = calls;
     service.add(2, [&](int, void *) { return ++calls > 0; });
     service.post(Event());

@@ -188,8 +188,8 @@ void SdkSimulator::eventHappensAgain()
                         "[Event reset]\nAfter=5\nEvery=10\nDeviceEvent=6601\nAway=1\n"),
              std::string());
     QVERIFY(received().deviceEvents.waitFor(4));
-    QCOMPARE(received().deviceEvents.all()[3],
-             6601); // the first event came from the previous network
+    // The first event came from the previous network.
+    QCOMPARE(received().deviceEvents.all()[3], 6601);
 }
 
 void SdkSimulator::stateThatStaysEndsNothing()

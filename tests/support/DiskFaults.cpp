@@ -91,7 +91,7 @@ int openFile(int folder, const char *path, int flags, mode_t mode)
     return int(syscall(SYS_openat, folder, path, flags, mode));
 }
 
-/// Writes only the first half, as a process that is killed during the call does.
+/// Writes only the first half of the data, like a process that is killed during the call.
 void takeHalfOfWrite(int descriptor, const void *data, size_t size)
 {
     if (g_kind != DiskFaults::Kill || !isDue())

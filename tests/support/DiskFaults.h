@@ -20,8 +20,9 @@ namespace DiskFaults
 
 enum Kind {
     None,
-    Kill,    // ends the process before the step, as a kill would; a write counts as two steps, and
-             // a kill at the second one leaves half of the data written
+    // Ends the process before the step, like a kill. A write has two steps, and a kill at the
+    // second step leaves half of the data written.
+    Kill,
     Full,    // from that step on, no file can grow or be created
     ReadOnly // from that step on, nothing can be changed
 };

@@ -33,8 +33,8 @@ class UssdTest : public QObject
     Q_OBJECT
 
 public:
-    /// Returns whether the slots of the base class were called, that is, no derived class hides
-    /// them.
+    /// Returns whether all slots of the base class were called. They are not called if a derived
+    /// class hides them.
     bool isInOrder() const { return m_testsBegun > 0 && m_testsBegun == m_testsEnded; }
 
 protected:
