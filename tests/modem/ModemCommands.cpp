@@ -259,7 +259,6 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 
 /// Refuses the command if the scenario starts without SMS, because a modem without +CNMI offers no
 /// messaging.
-/// messaging.
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())
