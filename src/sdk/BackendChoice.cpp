@@ -16,14 +16,14 @@ namespace Tksv
 namespace
 {
 
-/// How long the choice waits for a slow ModemManager to list its modems before it takes the
+/// The time that the choice waits for a slow ModemManager to list its modems before it selects the
 /// simulator.
 const std::chrono::milliseconds FIRST_LOOK_LIMIT(2000);
 
-/// How long the program's exit waits for a replacement of the backend that is under way.
+/// The time that the program's exit waits for an unfinished replacement of the backend.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-/// Returns the scenario of an absent device, which stands for a file that cannot be used.
+/// Returns the scenario of an absent device, which is used instead of a file that cannot be read.
 Scenario absentDevice(const std::string &source)
 {
     Scenario scenario;
@@ -32,8 +32,8 @@ Scenario absentDevice(const std::string &source)
     return scenario;
 }
 
-/// Returns the network of the initial scenario. Complaints about the file go to stderr, since no
-/// call of the client can report them.
+/// Returns the network of the initial scenario. Prints complaints about the file to stderr, since
+/// no call of the client can report them.
 std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();
@@ -154,8 +154,8 @@ BackendChoice::Device BackendChoice::decide()
     return initialNetwork();
 }
 
-/// The old backend is silent before the new one starts. Its request and session end with it; only
-/// a waiting device hands its request over.
+/// Stops the old backend before it starts the new one, so that their events never mix. The old
+/// request and session end with the old backend. Only a waiting device hands over its request.
 void BackendChoice::replace(const Device &next)
 {
     if (m_stopped)
@@ -166,7 +166,7 @@ void BackendChoice::replace(const Device &next)
     const auto *const waiting = std::get_if<std::shared_ptr<WaitingDevice>>(&old);
     if (oldBackend && !waiting)
         end(*oldBackend);
-    // Before the new backend reports a change itself.
+    // The new status is reported before the new backend can report a change.
     m_observer.smsStatusChanged(nextBackend->info().canSendSms);
     start(next);
     if (waiting)
@@ -188,7 +188,8 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// A watch that runs already looks again: a message bus that was missing may be there by now.
+/// Starts the watch. If the watch is already running, it looks again, since a missing message bus
+/// may have become available.
 void BackendChoice::startWatch()
 {
     if (m_stopped)
@@ -209,8 +210,8 @@ bool BackendChoice::isFirstLookOver() const
     return m_firstLookTimedOut || m_watch.state() != ServiceState::Looking;
 }
 
-/// A modem that appears replaces the simulator. A modem that disappears is not replaced, since
-/// commands meant for the network must not reach a simulated network unnoticed.
+/// Replaces the simulator with a modem that appears. A modem that disappears is not replaced, since
+/// commands for the real network must not reach a simulated network without the user's knowledge.
 void BackendChoice::reconsider()
 {
     const std::lock_guard<std::mutex> lock(m_switchMutex);

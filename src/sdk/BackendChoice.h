@@ -20,44 +20,46 @@ class SimulatedNetwork;
 class WaitingDevice;
 
 /**
- * Decides which backend is the device: the one that $TKSV_BACKEND or the client asks for, otherwise
- * a modem when there is one. The backend is created on first need and can be replaced at any time.
+ * Decides which backend is the device: the backend that $TKSV_BACKEND or the client selects,
+ * otherwise a modem if there is one. The backend is created when it is first needed and can be
+ * replaced at any time.
  *
- * Locks: m_switchMutex is held while a backend is replaced, and is taken before every lock of the
- * session, the backends and the services. m_mutex is taken after all of these. The watch's thread
- * takes only m_mutex; reconsider() needs m_switchMutex and runs on the thread of m_tasks, which may
- * wait for it.
+ * Locks: m_switchMutex is held while a backend is replaced. It is taken before every lock of the
+ * session, the backends and the services; m_mutex is taken after all of these. The watch's thread
+ * takes only m_mutex. reconsider() needs m_switchMutex, which it may have to wait for, so it runs
+ * on the thread of m_tasks.
  */
 class BackendChoice
 {
 public:
-    /// The observer outlives the choice. stop() must be called before the destructor.
+    /// The observer must outlive this object. stop() must be called before the destructor runs.
     explicit BackendChoice(BackendObserver &observer);
     BackendChoice(const BackendChoice &) = delete;
     BackendChoice &operator=(const BackendChoice &) = delete;
 
-    /// Returns the backend in use, and creates it on the first call.
+    /// Returns the backend in use. The first call creates the backend.
     std::shared_ptr<Backend> backend();
     /// Returns the backend in use, or null before the first call of backend() or of a use function.
     std::shared_ptr<Backend> current() const;
 
-    /// Switches to the network of a scenario file; an empty path is the initial scenario. Returns
-    /// an empty text on success, otherwise the complaints about the file.
+    /// Switches to the network of a scenario file. An empty path selects the initial scenario.
+    /// Returns an empty text on success, otherwise the complaints about the file.
     std::string useScenario(const std::string &path);
-    /// Switches to a modem; an empty identifier is whichever modem comes first.
+    /// Switches to a modem. An empty identifier selects the modem that was found first.
     void useModem(const std::string &equipmentId);
     /// Switches back to the choice that the program started with.
     void useAutomatic();
     /// Returns the modems that ModemManager has found, the oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
-    /// Ends the backend and all threads. A backend that is created later refuses everything.
+    /// Stops the backend and all threads. A backend that is created later refuses every request.
     void stop();
 
 private:
     enum class Mode { Automatic, Simulator, ModemManager };
 
-    /// One alternative for each kind of backend; null before the first backend is created.
+    /// The device, with one alternative for each kind of backend. The pointer is null until the
+    /// first backend is created.
     using Device =
         std::variant<std::shared_ptr<SimulatedNetwork>, std::shared_ptr<ModemManagerBackend>,
                      std::shared_ptr<WaitingDevice>>;

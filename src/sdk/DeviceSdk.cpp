@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// How long the program's exit waits for a running call-back of a service.
+/// The time that the program's exit waits for a running call-back of a service.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
 /// The key of the listener of a service that has a single listener.
@@ -37,8 +37,9 @@ Event statusEvent(bool canSend)
 
 } // namespace
 
-/// The first call creates the object and registers its stop(). The exit handlers run in reverse
-/// order, so static objects that the client created earlier are destroyed after the call-backs end.
+/// The first call creates the object and registers its stop(). Exit handlers run in reverse order.
+/// Therefore the call-backs end before static objects that the client created earlier are
+/// destroyed.
 DeviceSdk &DeviceSdk::instance()
 {
     static DeviceSdk *const sdk = [] {
@@ -83,7 +84,8 @@ void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
     m_choice.backend();
 }
 
-/// Nobody would read a reply any more, and the network would keep the session open.
+/// Removes the call-back and ends the session with the last one. Otherwise the network would keep
+/// the session open although nobody reads its replies.
 bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 {
     const bool found = m_ussdEvents.remove(keyOf(callback));
@@ -103,8 +105,8 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
     return m_deviceEvents.remove(keyOf(callback));
 }
 
-/// The status is posted for this call-back only, and is delivered only while it is still true: a
-/// later change raises its own event.
+/// Adds the call-back and posts the current status to this call-back only. The status is dropped if
+/// it is no longer true at delivery, because the change then raises its own event.
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));
@@ -142,7 +144,7 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
     m_infoEvents.replaceAll(ONLY_KEY, std::move(handler));
 }
 
-/// The posted event delivers the texts that were kept so far.
+/// Sets the call-back. The posted event delivers the texts that were kept so far.
 void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     EventService::Handler handler;

@@ -15,11 +15,12 @@ namespace Tksv
 /**
  * The implementation of the C functions: the services, the session, and the backend in use.
  *
- * Threads: each service has a thread, which its first event starts; the backends have their own.
- * All threads end when the program exits. The object itself is never destroyed, since other threads
- * of the client may still be inside a call, and the library is never unmapped.
+ * Threads: each service has a thread, which its first event starts; the backends have their own
+ * threads. All threads end when the program exits. The object itself is never destroyed, since
+ * other threads of the client may still be inside a call, and the library is never unloaded.
  *
- * Locks are taken in this order: UssdSession, backend, services. BackendChoice documents its own.
+ * Locks are taken in this order: UssdSession, backend, services. BackendChoice documents its own
+ * locks.
  */
 class DeviceSdk : private BackendObserver
 {

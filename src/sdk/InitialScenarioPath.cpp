@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// Any address inside this library serves dladdr().
+/// An object whose address dladdr() can look up; any object of this library would do.
 const char ADDRESS_IN_LIBRARY = 0;
 
 /// Returns the folder that this library was loaded from.

@@ -6,8 +6,8 @@
 namespace Tksv
 {
 
-/// Returns the path of the initial scenario file: $TKSV_SCENARIO, or else the file that is
-/// installed with the library.
+/// Returns the path of the initial scenario file. The path is $TKSV_SCENARIO if it is set,
+/// otherwise the path of the file that is installed with the library.
 std::string initialScenarioPath();
 
 } // namespace Tksv

@@ -15,14 +15,14 @@ struct TKSV_SMSRecordData {
 namespace Tksv
 {
 
-/** The messages that clients hold. A handle is looked up and never dereferenced. */
+/** The messages that clients hold. A handle is only looked up and never dereferenced. */
 class SmsRecords
 {
 public:
     TKSV_SMSRecord create(SmsMessage message);
-    /// Returns nothing for a handle that is not a message.
+    /// Returns no value if the handle does not identify a message.
     std::optional<SmsMessage> find(TKSV_SMSRecord record) const;
-    /// Returns whether the handle was a message.
+    /// Deletes the message. Returns whether the handle identified a message.
     bool release(TKSV_SMSRecord record);
 
 private:

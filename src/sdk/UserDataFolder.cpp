@@ -28,7 +28,7 @@ std::string withSlash(std::string path)
     return path;
 }
 
-/// Returns the home folder from the user database, for a process without $HOME.
+/// Returns the home directory from the user database. It is used if the process has no $HOME.
 std::string homeOfUser()
 {
     std::vector<char> buffer(16384);

@@ -9,7 +9,7 @@ namespace Tksv
 /**
  * Returns the folder for the user's data: $TKSV_USER_DATA, or else "ussd-dashboard" in
  * $XDG_DATA_HOME, or else "ussd-dashboard" in ~/.local/share. The path has the file system's
- * encoding and ends in "/". Returns an empty path when the user has no home folder.
+ * encoding and ends in "/". Returns an empty path if the user has no home directory.
  */
 std::string userDataFolder();
 

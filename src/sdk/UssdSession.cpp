@@ -84,9 +84,9 @@ bool UssdSession::acceptReply(RequestToken token, int type)
     return true;
 }
 
-/// Text that the network sent of its own accord must not look like the reply to a request, so the
-/// text is held until the session is idle. By then its own session has ended, and the text cannot
-/// be answered any more.
+/// Returns whether the text can be delivered now. A text that the network sent of its own accord
+/// must not look like the reply to a request, so it is held until the session is idle. By then its
+/// own session has ended, and the text cannot be answered any more.
 bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -99,8 +99,8 @@ bool UssdSession::acceptText(const UssdReply &text)
     return true;
 }
 
-/// An empty text is dropped, unless the network waits for an answer: the client must learn of the
-/// question even when its text is unknown.
+/// Keeps a text that no call-back accepted. An empty text is dropped unless the network waits for
+/// an answer, because the client must learn of the question even if its text is unknown.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
@@ -114,7 +114,7 @@ void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
     m_textUntaken();
 }
 
-/// The caller holds the lock.
+/// Must be called with the lock held.
 void UssdSession::becomeIdle()
 {
     m_state = State::Idle;
@@ -122,7 +122,8 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// The caller holds the lock. The held texts follow the reply whose call-back is about to start.
+/// Posts the held texts, which follow the reply whose call-back is about to start. Must be called
+/// with the lock held.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});

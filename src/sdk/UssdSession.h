@@ -14,7 +14,7 @@
 namespace Tksv
 {
 
-/** A text that no call-back of the client took. */
+/** A text that no call-back of the client accepted. */
 struct UntakenText {
     std::chrono::system_clock::time_point receivedAt;
     UssdReply reply;
@@ -24,9 +24,9 @@ struct UntakenText {
  * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules that
  * tksv.h documents, for every backend.
  *
- * A reply counts as delivered once its call-back has started. Until then, a newer request or a
- * release cancels the reply. A request that is made from inside the call-back finds the session in
- * the state that the reply has set.
+ * A reply is treated as delivered once its call-back has started. Until then, a newer request or a
+ * release cancels the reply. When a call-back makes a request, the session is already in the state
+ * that the reply has set.
  *
  * The lock is held while the backend is called, and never while a call-back runs.
  */
@@ -38,20 +38,20 @@ public:
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
-    /// Sends a text as an answer or in a new session, as the state of the session requires. Returns
-    /// a RequestStatus; a request that is not accepted changes nothing.
+    /// Sends the text as an answer or in a new session, depending on the state of the session.
+    /// Returns a RequestStatus. A request that is not accepted changes nothing.
     int request(Backend &backend, const std::string &text);
-    /// Ends the session and the request in flight, which then gets no reply.
+    /// Ends the session and cancels the request in flight, which then receives no reply.
     void release(Backend &backend);
 
-    /// The backend's reply to a request. A late reply is dropped.
+    /// Delivers the backend's reply to a request. A late reply is dropped.
     void handleReply(RequestToken token, const UssdReply &reply);
-    /// Text that the network sent of its own accord.
+    /// Delivers a text that the network sent of its own accord.
     void handleText(const UssdReply &text);
-    /// The session and the request in flight ended with the device.
+    /// Ends the session and the request in flight after the device was lost.
     void deviceLost();
 
-    /// Returns the last texts that no call-back took, the oldest first, and clears the list.
+    /// Returns the last texts that no call-back accepted, the oldest first, and clears the list.
     std::vector<UntakenText> takeUntakenTexts();
 
 private:
@@ -68,9 +68,9 @@ private:
     const std::function<void()> m_textUntaken;
     mutable std::mutex m_mutex; // guards everything below
     State m_state = State::Idle;
-    RequestToken m_token = 0; // of the request in flight
+    RequestToken m_token = 0; // identifies the request in flight
     RequestToken m_lastToken = 0;
-    std::vector<UssdReply> m_heldTexts; // texts that wait for the session's end
+    std::vector<UssdReply> m_heldTexts; // texts that wait for the end of the session
     std::deque<UntakenText> m_untaken;
 };
 

@@ -12,8 +12,8 @@ namespace Tksv
 {
 
 /**
- * The placeholder that is the device for the few milliseconds until BackendChoice knows whether
- * there is a modem. The placeholder keeps a request for the device that follows.
+ * A placeholder for the device. It is used for the few milliseconds until BackendChoice has found
+ * out whether there is a modem. The placeholder keeps a request for the device that replaces it.
  */
 class WaitingDevice : public Backend
 {
@@ -26,8 +26,8 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// Passes the kept request and all later calls on to the device. A kept request that the device
-    /// refuses ends as a request that failed on the device.
+    /// Passes the kept request and all later calls to the device. If the device refuses the kept
+    /// request, the request ends as one that failed on the device.
     void handOver(const std::shared_ptr<Backend> &device);
 
 private:

@@ -1,4 +1,4 @@
-/* The C functions. Arguments are checked and converted to plain values here and nowhere else. */
+/* The C functions. The arguments are checked and converted to plain values only in this file. */
 
 #include <memory>
 
@@ -15,8 +15,8 @@ namespace
 const long SUCCESS = 0;
 const long FAILURE = 1;
 
-/// Runs the function and turns an exception into a failure, since memory or threads may be used up
-/// and no exception may cross the C interface.
+/// Runs the function and turns an exception into a failure. No exception may cross the C interface,
+/// but memory or threads may be exhausted.
 template <typename Function>
 long guarded(Function function)
 {
@@ -38,7 +38,7 @@ void setStatus(int *status, int value)
         *status = value;
 }
 
-/// Passes the DeviceSdk to the function; fails without a call-back.
+/// Calls the function with the DeviceSdk. Fails if the call-back is null.
 template <typename Function>
 long withCallback(TKSV_EventCallback callback, Function function)
 {

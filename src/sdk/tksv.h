@@ -1,20 +1,19 @@
 /*
  * The device SDK: USSD, short messages and device events of a mobile-broadband device.
  *
- * The interface is plain C, from C89 and C++98 on. All text is UTF-16 in host byte order, counted
- * in units of two bytes.
+ * The interface is plain C, for C89 and C++98 or newer. All text is UTF-16 in host byte order.
  *
  * Results: every function returns 0 on success and another value on failure. A function also fails
- * when a pointer that it needs is null, and when memory or threads are used up.
+ * if a required pointer is null, or if no memory or no thread is available.
  *
- * Threads: every function may be called from any thread, also from inside a call-back, and returns
+ * Threads: every function may be called on any thread, even from inside a call-back, and returns
  * without waiting for the network.
  *
- * Call-backs: the SDK calls them on its own threads, never from inside a call that the client
- * makes, and one at a time for each of the three services (device, USSD, SMS). After an unregister
- * call has returned, the call-back is not running and will not run again; an unregister call from
- * inside the call-back itself returns at once. When the program exits, the SDK waits at most one
- * second for the running call-back of a service.
+ * Call-backs: the SDK calls them on its own threads and never from inside a call that the client
+ * makes. For each of the three services (device, USSD, SMS), only one call-back runs at a time.
+ * When an unregister function has returned, the call-back is not running and will not run again. An
+ * unregister call from inside the call-back itself returns at once. When the program exits, the SDK
+ * waits at most one second for the running call-back of a service.
  */
 #ifndef TKSV_H
 #define TKSV_H
@@ -30,15 +29,16 @@ extern "C" {
 /* ---- call-backs and events --------------------------------------------------------------- */
 
 /**
- * The function that the SDK calls for each event. The service that the call-back is registered with
- * decides what `event` and `data` are. `data` belongs to the SDK and is valid during the call only.
+ * The function that the SDK calls for each event. The meaning of `event` and `data` depends on the
+ * service with which the call-back is registered. `data` belongs to the SDK and is valid during the
+ * call only.
  *
- * Returns 1 when the client took the event, 0 when the client had no use for it. The call-back must
- * not throw an exception.
+ * Returns 1 if the client accepted the event, and 0 if the client had no use for it. The call-back
+ * must not throw an exception.
  */
 typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 
-/* Device events. Each ends the USSD session and a request in flight; `data` is null. */
+/* Device events. Each ends the USSD session and the request in flight. `data` is null. */
 #define TKSV_DEV_EVENT_GONE 6016  /* the device was removed */
 #define TKSV_DEV_EVENT_RESET 6601 /* the device was reset */
 
@@ -50,94 +50,96 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 #define TKSV_SMS_STATUS_CAN_SEND 7
 #define TKSV_SMS_STATUS_CANNOT_SEND 8
 
-/** `*status` of a TKSV_USSDSrv_Request that fails because the device did not answer in time. */
+/**
+ * The value of `*status` when TKSV_USSDSrv_Request fails because the device did not answer in time.
+ */
 #define TKSV_STATUS_DEVICE_TIMEOUT 5
 
 /* ---- records ----------------------------------------------------------------------------- */
 
-/** The capacity of TKSV_USSDRequest::text, in UTF-16 units. */
+/** The capacity of TKSV_USSDRequest::text, in UTF-16 code units. */
 #define TKSV_USSD_MAX_UNITS 184
 
 /**
- * The longest command that a client sends, in bytes; 91 UTF-16 units fit. The SDK itself accepts
- * whatever the record holds.
+ * The longest command that a client sends, in bytes: 91 UTF-16 code units fit. The SDK itself
+ * accepts any length that the record can hold.
  */
 #define TKSV_USSD_MAX_COMMAND_BYTES 183
 
 /** A command to the network (3GPP TS 22.090). The record has 372 bytes on every platform. */
 typedef struct TKSV_USSDRequest {
-    unsigned int length; /* of the command, in bytes: an even number, 2 to 368 */
+    unsigned int length; /* length of the command in bytes: an even number from 2 to 368 */
     unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16 without a terminating zero */
 } TKSV_USSDRequest;
 
 /**
- * The network's reply to a command, or text that the network sent of its own accord.
+ * The network's reply to a command, or a text that the network sent of its own accord.
  *
- * `type` is the <m> of an unsolicited +CUSD result (3GPP TS 27.007, 7.15): 0 when no further action
- * is needed, 1 when the network waits for an answer. A command that the network refused or that
- * failed on the device has an empty text and a type other than 0.
+ * `type` is the <m> of an unsolicited +CUSD result (3GPP TS 27.007, 7.15): 0 if no further action
+ * is needed, 1 if the network waits for an answer. If the network refused a command, or the command
+ * failed on the device, the text is empty and the type is not 0.
  */
 typedef struct TKSV_USSDResponse {
     int type;
     int reserved;
-    unsigned short text[1]; /* UTF-16 of any length, terminated by a zero unit */
+    unsigned short text[1]; /* UTF-16 of any length, terminated by a zero code unit */
 } TKSV_USSDResponse;
 
 /**
- * The outcome of sending a short message. Both texts are those that the message was created with,
- * in UTF-16 and terminated by a zero unit; the record owns them.
+ * The outcome of sending a short message. Both texts are copies of the texts that the message was
+ * created with. They are zero-terminated UTF-16, and the record owns them.
  */
 typedef struct TKSV_SMSSendResult {
     unsigned char reserved0[16];
-    int result; /* 0 when the message was sent; any other value is a failure */
+    int result; /* 0 if the message was sent, otherwise an error */
     unsigned char reserved1[64];
     const unsigned short *number;
     const unsigned short *text;
 } TKSV_SMSSendResult;
 
-/** Whether short messages can be sent. */
+/** The record of an SMS event that reports whether short messages can be sent. */
 typedef struct TKSV_SMSStatus {
     int status; /* TKSV_SMS_STATUS_CAN_SEND or TKSV_SMS_STATUS_CANNOT_SEND */
 } TKSV_SMSStatus;
 
-/** The handle of a short message. Only the SDK knows the contents. */
+/** The handle of a short message, whose contents are private to the SDK. */
 typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
 
 /* ---- USSD (3GPP TS 22.090) --------------------------------------------------------------- */
 
 /**
- * Sends a command to the network and copies the record. An accepted request gets at most one
- * response; the response counts as delivered once its call-back has started.
+ * Sends a command to the network. The record is copied. An accepted request receives at most one
+ * response. The response is treated as delivered once its call-back has started.
  *
- * While the network waits for an answer, the request is that answer. A request in the form of a
- * code (it starts with * or # and ends with #) ends the session instead and starts a new one. A
- * request that is made while an earlier request is in flight replaces the earlier one, which then
- * gets no response.
+ * If the network waits for an answer, the request is sent as this answer. A request in the form of
+ * a code (it starts with * or # and ends with #) ends the session instead and starts a new session.
+ * A request that is made while an earlier request is in flight replaces the earlier request, which
+ * then receives no response.
  *
- * Fails and sets `*status` to a value other than 0 when there is no usable device, and when the
- * record is malformed: a length of 0, odd or over 368, text that is not well-formed UTF-16, or text
- * that contains a zero unit. `*status` is TKSV_STATUS_DEVICE_TIMEOUT when the device did not answer
- * in time. A request that fails changes neither the session nor a request in flight. `status` must
- * not be null.
+ * Fails and sets `*status` to a value other than 0 if there is no usable device, or if the record
+ * is malformed. A record is malformed if its length is 0, odd or over 368, if its text is not
+ * well-formed UTF-16, or if its text contains a zero code unit. `*status` is
+ * TKSV_STATUS_DEVICE_TIMEOUT if the device did not answer in time. A request that fails changes
+ * neither the session nor a request in flight. `status` must not be null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 
 /**
- * Ends the USSD session and a request in flight, which then gets no response. The call succeeds
- * without a session, too. Sets `*status` to 0; `status` may be null.
+ * Ends the USSD session and the request in flight, which then receives no response. The call also
+ * succeeds if there is no session. Sets `*status` to 0; `status` may be null.
  */
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
 /**
- * Registers a call-back for responses and for text that the network sends of its own accord. The
- * event is 0, and `data` is a TKSV_USSDResponse. Registering a call-back twice has no further
- * effect.
+ * Registers a call-back for responses and for texts that the network sends of its own accord.
+ * `event` is 0, and `data` points to a TKSV_USSDResponse. Registering a call-back twice has no
+ * further effect.
  */
 TKSV_API long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback);
 
 /**
- * Unregisters a call-back. Fails when the call-back is not registered. Unregistering the last
- * call-back ends the session.
+ * Unregisters a call-back. Fails if the call-back is not registered. The session ends when the last
+ * call-back is unregistered.
  */
 TKSV_API long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback);
 
@@ -148,37 +150,37 @@ TKSV_API long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback);
  */
 TKSV_API long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callback);
 
-/** Unregisters a call-back. Fails when the call-back is not registered. */
+/** Unregisters a call-back. Fails if the call-back is not registered. */
 TKSV_API long TKSV_DevSrv_UnRegisterDevInitEventCallback(TKSV_EventCallback callback);
 
 /* ---- short messages (3GPP TS 23.040) ----------------------------------------------------- */
 
 /**
- * Registers a call-back for SMS events. When messages can be sent at this time, the call-back soon
- * gets the status TKSV_SMS_STATUS_CAN_SEND.
+ * Registers a call-back for SMS events. If messages can be sent at this time, the call-back soon
+ * receives the status TKSV_SMS_STATUS_CAN_SEND.
  */
 TKSV_API long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback);
 
-/** Unregisters a call-back. Fails when the call-back is not registered. */
+/** Unregisters a call-back. Fails if the call-back is not registered. */
 TKSV_API long TKSV_SMSSrv_UnRegCallBack(TKSV_EventCallback callback);
 
 /**
  * Creates a message from two zero-terminated UTF-16 texts, which are copied. `number` must not be
- * empty. On success, the caller owns `*record` and passes it to TKSV_SMSSrv_ReleaseSMSRecord later.
- * On failure, `*record` is null.
+ * empty. On success, the caller owns `*record` and must release it with
+ * TKSV_SMSSrv_ReleaseSMSRecord. On failure, `*record` is null.
  */
 TKSV_API long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned short *number,
                                           const unsigned short *text);
 
 /**
- * Sends the message. TKSV_SMS_EVENT_SEND_RESULT reports the outcome later. Fails when no message
- * can be sent at this time, and when `record` is not a message; no event follows then.
+ * Sends the message. TKSV_SMS_EVENT_SEND_RESULT reports the outcome later. Fails if no message can
+ * be sent at this time, or if `record` is not a message. No event follows a failure.
  */
 TKSV_API long TKSV_SMSSrv_SendMsg(TKSV_SMSRecord record);
 
 /**
- * Releases a message. The call may directly follow TKSV_SMSSrv_SendMsg, which copies what it needs.
- * Fails when `record` is not a message.
+ * Releases a message. It may be called immediately after TKSV_SMSSrv_SendMsg, which copies the data
+ * that it needs. Fails if `record` is not a message.
  */
 TKSV_API long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record);
 
@@ -197,8 +199,10 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 
 /* ---- layout of the records --------------------------------------------------------------- */
 
-/* Client and library may come from different compilers, so each side checks the layout while it is
- * built. Compilers older than C11 and C++11 have no static assertions and skip the checks. */
+/*
+ * The client and the library may be built by different compilers, so both builds check the layout.
+ * Compilers older than C11 and C++11 have no static assertions and skip the checks.
+ */
 #if defined(__cplusplus) && __cplusplus >= 201103L
 #define TKSV_CHECK_LAYOUT(condition) static_assert(condition, "layout of a device SDK record")
 #elif !defined(__cplusplus) && defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
@@ -206,7 +210,10 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 #endif
 
 #ifdef TKSV_CHECK_LAYOUT
-/* A pointer has 4 bytes on 32-bit platforms and 8 bytes, to which it is aligned, on 64-bit ones. */
+/*
+ * Selects the offset for 32-bit platforms, where a pointer has 4 bytes, or for 64-bit platforms,
+ * where a pointer has 8 bytes and is aligned to 8.
+ */
 #define TKSV_BY_POINTER_SIZE(of4, of8) (sizeof(void *) == 4 ? (of4) : (of8))
 
 TKSV_CHECK_LAYOUT(sizeof(TKSV_USSDRequest) == 372);

@@ -7,7 +7,7 @@ namespace Tksv
 {
 
 /// Returns whether the text has the form of a code: it starts with * or # and ends with #. Such a
-/// text opens a session of its own, even while the network waits for an answer.
+/// text always opens a new session, even if the network waits for an answer.
 bool hasFormOfCode(const std::string &text);
 
 } // namespace Tksv

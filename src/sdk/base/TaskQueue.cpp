@@ -37,10 +37,10 @@ bool TaskQueue::stop(std::chrono::milliseconds limit)
         m_tasks.swap(dropped);
         m_wake.notify_all();
     }
-    return m_thread.finish(limit); // after m_stopping is set, start() is not called any more
+    return m_thread.finish(limit); // once m_stopping is set, start() is not called any more
 }
 
-/// Returns false when the system has no thread left; the next task tries again.
+/// Returns false if the system cannot create a thread. The next task then tries again.
 bool TaskQueue::start()
 {
     if (m_thread.isStarted())
@@ -64,7 +64,7 @@ void TaskQueue::run()
         m_tasks.pop_front();
         lock.unlock();
         task();
-        task = nullptr; // what the task captured is destroyed while the lock is not held
+        task = nullptr; // the captured objects are destroyed while the lock is not held
         lock.lock();
     }
 }

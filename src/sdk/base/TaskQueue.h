@@ -13,27 +13,28 @@ namespace Tksv
 {
 
 /**
- * Runs tasks one after the other, in the order of the calls of post(), on a thread of its own that
- * starts with the first task. Any thread may call, a task included.
+ * Runs tasks one after the other on a separate thread, in the order in which they were posted. The
+ * first task starts the thread. Every function may be called on any thread, even from inside a
+ * task.
  */
 class TaskQueue
 {
 public:
     using Task = std::function<void()>;
 
-    /// `threadName` has at most 15 characters and lives as long as the program.
+    /// `threadName` has at most 15 characters and must stay valid until the program ends.
     explicit TaskQueue(const char *threadName);
-    /// Must not run on the queue's own thread.
+    /// The destructor must not run on the queue's own thread.
     ~TaskQueue();
     TaskQueue(const TaskQueue &) = delete;
     TaskQueue &operator=(const TaskQueue &) = delete;
 
-    /// Drops the task after stop(), and when the system has no thread left.
+    /// Adds the task. The task is dropped after stop(), or if the system cannot create a thread.
     void post(Task task);
-    /// Returns whether the caller runs on the queue's thread; false after stop().
+    /// Returns whether the function is called on the queue's thread. Returns false after stop().
     bool isCurrent() const;
-    /// Drops the waiting tasks, and waits for a running task at most for `limit`. Returns whether
-    /// the thread has ended; only then may the object be destroyed.
+    /// Drops the waiting tasks and waits at most `limit` for a running task. Returns whether the
+    /// thread has ended; the object may be destroyed only then.
     bool stop(std::chrono::milliseconds limit);
 
 private:

@@ -9,7 +9,10 @@
 namespace Tksv
 {
 
-/** Tells whether the body has returned. The thread shares it and may outlive the WorkerThread. */
+/**
+ * Records whether the body has returned. The thread shares this object and may outlive the
+ * WorkerThread.
+ */
 struct WorkerThread::Ended {
     std::mutex mutex;
     std::condition_variable changed;
@@ -32,7 +35,7 @@ struct WorkerThread::Ended {
 namespace
 {
 
-/** Blocks all signals during its lifetime: a new thread inherits the mask of its creator. */
+/** Blocks all signals during its lifetime. A new thread inherits the signal mask of its creator. */
 class AllSignalsBlocked
 {
 public:

@@ -11,7 +11,7 @@ namespace Tksv
 
 /**
  * A thread of the library. The thread blocks all signals, so that the client's own threads handle
- * them. The owner's lock guards the object itself.
+ * them. The class is not thread-safe; the owner's lock must guard each object.
  */
 class WorkerThread
 {
@@ -21,15 +21,15 @@ public:
     WorkerThread(const WorkerThread &) = delete;
     WorkerThread &operator=(const WorkerThread &) = delete;
 
-    /// Runs `body` on a new thread. `name`, at most 15 characters long, is shown by debuggers.
-    /// Throws std::system_error when the system has no thread left.
+    /// Runs `body` on a new thread. Debuggers show `name`, which has at most 15 characters. Throws
+    /// std::system_error if the system cannot create a thread.
     void start(const char *name, std::function<void()> body);
     bool isStarted() const { return m_thread.joinable(); }
-    /// Returns whether the caller runs on this thread.
+    /// Returns whether the function is called on this thread.
     bool isCurrent() const;
-    /// Waits until the body has returned, at most for `limit`. Returns whether the thread has
-    /// ended. A body that still runs, or that calls this function itself, continues on a detached
-    /// thread; everything that the body uses must then stay alive.
+    /// Waits at most `limit` until the body has returned. Returns whether the thread has ended. If
+    /// the body is still running, or calls this function itself, the thread is detached and the
+    /// body continues. All objects that the body uses must then stay alive.
     bool finish(std::chrono::milliseconds limit);
 
 private:
@@ -38,7 +38,7 @@ private:
     std::thread m_thread;
 };
 
-/// For finish(): a limit that is never reached.
+/// A limit for finish() that is never reached.
 const std::chrono::milliseconds NO_LIMIT = std::chrono::hours(24);
 
 } // namespace Tksv

@@ -6,14 +6,14 @@
 #include <memory>
 #include <utility>
 
-/* Closures as call-backs of GIO's asynchronous functions. */
+/* Allows closures to be the call-backs of GIO's asynchronous functions. */
 
 namespace Tksv
 {
 
 using AsyncDone = std::function<void(GObject *source, GAsyncResult *result)>;
 
-/// The GAsyncReadyCallback that belongs to a pointer from asyncDone().
+/// The GAsyncReadyCallback for a pointer that asyncDone() returned.
 inline void runAsyncDone(GObject *source, GAsyncResult *result, gpointer done)
 {
     const std::unique_ptr<AsyncDone> owned(static_cast<AsyncDone *>(done));
@@ -26,7 +26,7 @@ inline gpointer asyncDone(AsyncDone done)
     return new AsyncDone(std::move(done));
 }
 
-/// Returns a closure that does nothing when the owner no longer exists at the time of the call.
+/// Returns a closure that does nothing if the owner no longer exists when the closure is called.
 template <typename Owner, typename Function>
 AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
 {

@@ -30,20 +30,20 @@ using GVariantPtr = std::unique_ptr<GVariant, GVariantDeleter>;
 template <typename T>
 using GMemory = std::unique_ptr<T, GFreeDeleter>;
 
-/// Returns another reference to an object that somebody else owns; null for null.
+/// Returns another reference to an object that somebody else owns. Returns null for null.
 template <typename T>
 GObjectPtr<T> shareObject(T *object)
 {
     return GObjectPtr<T>(object ? static_cast<T *>(g_object_ref(object)) : nullptr);
 }
 
-/// Returns the text; an empty text for null.
+/// Returns the text, or an empty text for null.
 inline std::string textOf(const char *text)
 {
     return text ? text : "";
 }
 
-/** Owns the GError of a call that fails. */
+/** Owns the GError of a failed call. */
 class ErrorSlot
 {
 public:

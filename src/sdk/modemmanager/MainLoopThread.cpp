@@ -68,14 +68,14 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Calls that the last task cancelled run their call-backs here and release what they hold.
+    // Here the calls that the last task cancelled run their call-backs and release their objects.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);
 }
 
-/// The tasks pass through a queue with its own lock: the thread sanitizer sees this lock, but none
-/// of the locks inside GLib.
+/// Adds the task to a queue with its own lock. The thread sanitizer recognizes this lock, but not
+/// the locks inside GLib.
 void MainLoopThread::post(Task task)
 {
     {
@@ -105,7 +105,8 @@ gboolean MainLoopThread::runNext(gpointer self)
     return G_SOURCE_REMOVE;
 }
 
-/// g_main_context_invoke() would run the task on the caller's thread while the loop is not running.
+/// Attaches the source to the context. g_main_context_invoke() is not used, because it runs the
+/// task on the caller's thread while the loop is not running.
 void MainLoopThread::attach(GSource *source, GSourceFunc function, gpointer data,
                             GDestroyNotify destroy)
 {

@@ -13,30 +13,32 @@ namespace Tksv
 {
 
 /**
- * A thread with its own GLib main context. The context is the default of the thread: GDBus delivers
- * signals and replies on the thread that asked for them. The thread sleeps while it has no task.
+ * A thread with its own GLib main context. The context is the thread-default main context, so GDBus
+ * delivers signals and replies on the thread that subscribed to them or made the call. The thread
+ * sleeps while it has no task.
  */
 class MainLoopThread
 {
 public:
     using Task = std::function<void()>;
 
-    /// `name` has at most 15 characters and lives as long as the program.
+    /// `name` has at most 15 characters and must stay valid until the program ends.
     explicit MainLoopThread(const char *name);
-    /// Must not run on the thread itself.
+    /// The destructor must not run on the thread itself.
     ~MainLoopThread();
     MainLoopThread(const MainLoopThread &) = delete;
     MainLoopThread &operator=(const MainLoopThread &) = delete;
 
-    /// Throws std::system_error when the system has no thread left.
+    /// Throws std::system_error if the system cannot create a thread.
     void start();
-    /// Runs the task on the thread, in the order of the calls. Any thread may call. Tasks that are
-    /// posted before start() wait; tasks that still wait during stop() are dropped.
+    /// Runs the task on the thread, in the order in which the tasks were posted. May be called on
+    /// any thread. Tasks that are posted before start() wait. Tasks that are still waiting when
+    /// stop() is called are dropped.
     void post(Task task);
-    /// Runs the task on the thread and waits for its end. On the thread itself, the task runs at
-    /// once. May be called only between start() and stop().
+    /// Runs the task on the thread and waits until it has finished. If called on the thread itself,
+    /// runs the task at once. May only be called between start() and stop().
     void run(const Task &task);
-    /// Runs the task after the delay. May be called on the thread itself only.
+    /// Runs the task after the delay. May only be called on the thread itself.
     void after(std::chrono::milliseconds delay, Task task);
     bool isCurrent() const { return m_thread.isCurrent(); }
 

@@ -20,7 +20,7 @@ TKSV_DeviceState stateOf(MMModemState state)
     return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
 }
 
-/// Returns the number of PINs that may still be tried; -1 when unknown.
+/// Returns the number of PIN attempts that are left, or -1 if it is unknown.
 int pinRetriesOf(MMModem *modem)
 {
     MMUnlockRetries *retries = mm_modem_peek_unlock_retries(modem);
@@ -29,8 +29,8 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
-/// Returns whether another lock than the PIN holds the modem. While the modem checks a PIN, the
-/// lock is unknown.
+/// Returns whether a lock other than the PIN blocks the modem. The lock is unknown while the modem
+/// checks a PIN.
 bool needsMoreThanPin(MMModemLock lock)
 {
     return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&
@@ -65,7 +65,7 @@ ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Li
 {
 }
 
-/// Returns null while the modem does not have the interface.
+/// Returns the interface, or null while the modem does not have it.
 template <typename T>
 T *ModemDevice::peek(const char *name, T *(*peekInterface)(MMObject *)) const
 {
@@ -83,7 +83,7 @@ void ModemDevice::refresh()
         peek(MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, mm_object_peek_modem_3gpp_ussd));
     m_sms->setInterface(peek(MM_DBUS_INTERFACE_MODEM_MESSAGING, mm_object_peek_modem_messaging));
     modemChanged();
-    m_ussd->catchUp(); // after modemChanged() has published that commands can be sent
+    m_ussd->catchUp(); // called after modemChanged() has published that commands can be sent
 }
 
 void ModemDevice::modemChanged()
@@ -94,12 +94,14 @@ void ModemDevice::modemChanged()
     if (now == MM_MODEM_STATE_DISABLED)
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
-        m_problem = TKSV_PROBLEM_NONE; // the modem has got past the problem
+        m_problem = TKSV_PROBLEM_NONE; // the modem has passed the state in which the problem
+                                       // occurred
     fetchSim();
     m_listener.changed();
 }
 
-/// Enables the modem only once: a user who disables the modem later does so on purpose.
+/// Enables the modem. This is done only once, because a user who disables the modem later does so
+/// on purpose.
 void ModemDevice::enable()
 {
     if (std::exchange(m_enableTried, true))
@@ -121,10 +123,10 @@ void ModemDevice::fetchSim()
         return;
     m_simPath = path;
     const auto done = [this, path](GObject *modem, GAsyncResult *result) {
-        ErrorSlot ignored; // without a SIM its fields stay empty
+        ErrorSlot ignored; // without a SIM, its fields stay empty
         GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
         if (path != m_simPath)
-            return; // another SIM has been requested since
+            return; // another SIM has been requested meanwhile
         m_sim = std::move(sim);
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
@@ -145,7 +147,7 @@ void ModemDevice::sendPendingPin()
 
 void ModemDevice::sendPin(const std::string &pin)
 {
-    setProblem(TKSV_PROBLEM_NONE); // so that a second wrong PIN is a change again
+    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second wrong PIN is a change again
     if (!m_sim) {
         m_pendingPin = pin;
         return;

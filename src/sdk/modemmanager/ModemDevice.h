@@ -17,14 +17,14 @@ namespace Tksv
 {
 
 /**
- * The modem in use. The object enables the modem once, and follows its properties. All functions
- * run on the thread of the main loop.
+ * The modem in use. The object enables the modem once and follows its properties. All functions
+ * must be called on the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
 public:
     struct Listener {
-        std::function<void()> changed; // a field of info()
+        std::function<void()> changed; // a field of info() has changed
         std::function<void(RequestToken, const UssdReply &)> replied;
         std::function<void(const UssdReply &)> textReceived;
         std::function<void(const SmsMessage &, int result)> smsFinished;
@@ -32,17 +32,17 @@ public:
 
     ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener);
 
-    /// Fetches the modem's interfaces. Called after construction, and whenever the interfaces have
-    /// changed.
+    /// Fetches the modem's interfaces. Must be called after construction, and whenever the
+    /// interfaces have changed.
     void refresh();
     DeviceInfo info() const;
     std::string path() const { return textOf(mm_object_get_path(m_object.get())); }
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
-    /// Sends the PIN, at once or as soon as the SIM has been fetched.
+    /// Sends the PIN at once, or as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
-    /// Ends the request in flight and the messages on their way as failed.
+    /// Reports the request in flight and the messages that are being sent as failed.
     void failPending();
 
 private:
@@ -66,12 +66,12 @@ private:
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
     std::string m_simPath;    // D-Bus path of the SIM that was requested last
-    std::string m_pendingPin; // sent once the SIM has been fetched; empty when there is none
+    std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableTried = false;
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or later
-    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // found by the last call
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the last call
 };
 
 } // namespace Tksv

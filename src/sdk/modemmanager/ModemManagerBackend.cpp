@@ -71,7 +71,7 @@ int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std
     post([this, token, kind, text, lostModemCount = m_lostModemCount] {
         if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
             return m_device->ussd().request(token, kind, text);
-        if (m_observer) // the modem was lost in between, or was never there
+        if (m_observer) // null if the modem was lost in the meantime or was never there
             m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
     });
     return RequestAccepted;
@@ -126,7 +126,8 @@ void ModemManagerBackend::post(std::function<void()> task)
 
 /* ---- on the watch's thread --------------------------------------------------------------- */
 
-/// A modem stays in use until it is lost, even when any modem may be used.
+/// Follows the modems of the watch. A modem stays in use until it is lost, even if any modem may be
+/// used.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
@@ -160,7 +161,8 @@ void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// The modem was unplugged, or the service has ended and will find the modem again.
+/// Ends the use of a modem that was unplugged, or whose service has ended and will find the modem
+/// again.
 void ModemManagerBackend::loseModem()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
@@ -188,8 +190,8 @@ void ModemManagerBackend::publish()
     notifyChanges(before, now);
 }
 
-/// Requests in flight fail when the registration or the USSD interface is lost, since their outcome
-/// cannot arrive any more.
+/// Reports the changes to the observer. Requests in flight fail if the registration or the USSD
+/// interface is lost, since their outcome cannot arrive any more.
 void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)

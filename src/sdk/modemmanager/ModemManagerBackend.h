@@ -14,14 +14,14 @@ namespace Tksv
 
 /**
  * The backend of a modem that ModemManager controls. The backend runs on the thread of the watch.
- * The functions of Backend post a task to this thread, and take their result from the DeviceInfo
+ * The functions of Backend post a task to this thread. They take their results from the DeviceInfo
  * that the thread published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Uses the modem with that identifier, or for an empty text whichever modem comes first. The
-    /// watch outlives the backend.
+    /// Uses the modem with that identifier, or the modem that was found first if the identifier is
+    /// empty. The watch must outlive the backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
@@ -32,7 +32,8 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// Called on the watch's thread after each change that the watch reports.
+    /// Handles a change that the watch has reported. Must be called on the watch's thread after
+    /// each such change.
     void modemsChanged();
 
 private:
@@ -47,19 +48,21 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // Used on the watch's thread only.
+    // The following two members are used on the watch's thread only.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
 
-    // Only the watch's thread writes the first three members, so it reads them without the mutex.
+    // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount, so it reads them
+    // without the mutex.
     mutable std::mutex m_mutex; // guards everything below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false;    // the thread has published m_info once
-    unsigned m_lostModemCount = 0; // a task for a lost modem must not reach the next modem
+    bool m_isInfoKnown = false;    // whether the thread has published m_info
+    unsigned m_lostModemCount = 0; // identifies the modem, so that a task for a lost modem does not
+                                   // reach the next one
     bool m_stopped = false;
 };
 
-/// Returns whether the daemon can safely put the text between quotes into an AT command.
+/// Returns whether the daemon can safely insert the text between quotes into an AT command.
 bool isSafeForModem(const std::string &text);
 
 } // namespace Tksv

@@ -10,18 +10,19 @@ namespace Tksv
 namespace
 {
 
-/// A daemon that starts owns its bus name a little before it exports its objects.
+/// The watch tries several times, because a daemon that starts owns its bus name shortly before it
+/// exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
-/// Returns the last number of the path: ".../Modem/12" is newer than ".../Modem/3".
+/// Returns the number at the end of the path: ".../Modem/12" is newer than ".../Modem/3".
 long modemNumberOf(MMObject *object)
 {
     const std::string path = textOf(mm_object_get_path(object));
     return std::strtol(path.c_str() + path.rfind('/') + 1, nullptr, 10);
 }
 
-/// Returns an empty text when there is no such bus.
+/// Returns the address of the system bus, or an empty text if there is no such bus.
 std::string systemBusAddress()
 {
     ErrorSlot error;
@@ -65,8 +66,8 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
-/// Cancels the pending calls first: a daemon that does not answer must not delay the exit of the
-/// program.
+/// Stops the thread. Cancels the pending calls first, so that a daemon that does not answer cannot
+/// delay the program's exit.
 void ModemWatch::stop()
 {
     g_cancellable_cancel(m_cancellable.get());
@@ -79,8 +80,8 @@ void ModemWatch::stop()
     });
 }
 
-/// Opens a private connection: the shared connection of g_bus_get() would end the program together
-/// with the bus.
+/// Opens a private connection, because the shared connection of g_bus_get() ends the program when
+/// the bus closes it.
 void ModemWatch::connectToBus()
 {
     if (m_bus && !m_manager && !m_isPinging)
@@ -113,8 +114,8 @@ void ModemWatch::busConnected(GDBusConnection *bus)
     pingService(START_UP_TRIES);
 }
 
-/// Asks for the daemon's version without blocking, so that a daemon that hangs does not block the
-/// thread in createManager(). A daemon that is not running fails the call at once.
+/// Queries the daemon's version without blocking. If the daemon hangs, the thread is therefore not
+/// blocked in createManager(). If the daemon is not running, the call fails at once.
 void ModemWatch::pingService(int triesLeft)
 {
     m_isPinging = true;
@@ -132,9 +133,10 @@ void ModemWatch::pingService(int triesLeft)
         G_MAXINT, m_cancellable.get(), runAsyncDone, asyncDone(done));
 }
 
-/// Blocks until the manager exists. GLib would create the manager on a worker thread otherwise, and
-/// deliver its signals to the program's main context, where no loop may run. The call never starts
-/// the daemon, since the administrator decides whether a system service runs.
+/// Creates the manager and blocks until it exists. With an asynchronous call, GLib would create the
+/// manager on a worker thread and deliver its signals to the program's main context, where no loop
+/// may run. The call never starts the daemon, because the administrator decides whether a system
+/// service runs.
 void ModemWatch::createManager(int triesLeft)
 {
     ErrorSlot error;
@@ -153,7 +155,7 @@ void ModemWatch::createManager(int triesLeft)
     });
 }
 
-/// Clears everything that belongs to the connection; start() can connect again.
+/// Clears everything that belongs to the connection. start() can then connect again.
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();

@@ -15,20 +15,20 @@
 namespace Tksv
 {
 
-/** A modem as clients see it, see TKSV_Modem. */
+/** The properties of a modem that clients see, see TKSV_Modem. */
 struct ModemSummary {
     std::string equipmentId; // never empty
     std::string name;        // maker and model
 };
 
-/** The state of ModemManager; Looking until its first answer. */
+/** The state of ModemManager. The state is Looking until ModemManager first answers. */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
 /** Watches ModemManager's modems. The watch owns the only thread that uses D-Bus. */
 class ModemWatch
 {
 public:
-    /// Called on the thread after each change of the service's state, of the list of modems, or of
+    /// Called on the thread after each change to the service's state, to the list of modems, or to
     /// the interfaces of a modem.
     using Changed = std::function<void()>;
 
@@ -36,22 +36,22 @@ public:
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Starts to look for modems, and returns at once. A second call retries a connection or a
-    /// service that was missing.
+    /// Starts to look for modems and returns at once. Another call tries again if the connection or
+    /// the service was missing.
     void start();
     /// Ends the thread and releases everything that the thread holds.
     void stop();
 
-    /// Returns the modems, the oldest first. Any thread may call.
+    /// Returns the modems, the oldest first. May be called on any thread.
     std::vector<ModemSummary> modems() const;
-    /// Any thread may call.
+    /// Returns the state of ModemManager. May be called on any thread.
     ServiceState state() const;
 
     MainLoopThread &thread() { return m_thread; }
-    /// Returns the modem with that identifier, the first modem for an empty text, or null. May be
-    /// called on the thread only.
+    /// Returns the modem with that identifier, or null. An empty identifier selects the first
+    /// modem. May only be called on the thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
-    /// Returns the modem with that D-Bus path, or null. May be called on the thread only.
+    /// Returns the modem with that D-Bus path, or null. May only be called on the thread.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
@@ -70,7 +70,7 @@ private:
     const Cancellable m_cancellable; // for the calls that stop() must not wait for
     bool m_started = false;          // used by start() only, whose calls never overlap
 
-    // Used on the thread only.
+    // The following members are used on the thread only.
     GObjectPtr<GDBusConnection> m_bus;
     GObjectPtr<MMManager> m_manager;
     bool m_isConnecting = false;
@@ -82,14 +82,14 @@ private:
     ServiceState m_state = ServiceState::Looking;
 };
 
-/// Returns whether the object has that D-Bus interface now. libmm-glib writes a warning to stderr
-/// when it is asked for an interface that is missing.
+/// Returns whether the object has that D-Bus interface at this time. libmm-glib writes a warning to
+/// stderr if a missing interface is requested.
 bool hasInterface(MMObject *object, const char *name);
 
-/// Returns the modem's IMEI, or ModemManager's identifier of the device for a modem that does not
-/// report its IMEI.
+/// Returns the modem's IMEI, or ModemManager's device identifier if the modem does not report its
+/// IMEI.
 std::string equipmentIdOf(MMObject *object);
-/// Returns maker and model.
+/// Returns the maker and the model.
 std::string nameOf(MMModem *modem);
 
 } // namespace Tksv

@@ -8,7 +8,10 @@
 namespace Tksv
 {
 
-/** Connections to signals of GObjects. The destructor disconnects them and releases the objects. */
+/**
+ * Connections to signals of GObjects. The destructor disconnects the signals and releases the
+ * objects.
+ */
 class SignalConnections
 {
 public:

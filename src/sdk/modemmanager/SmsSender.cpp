@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// As for commands, the client decides how long it waits for the outcome.
+/// There is no time limit, because the client decides how long it waits for the outcome.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)
@@ -59,7 +59,8 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
     if (!sms)
         return fail(id, error);
     if (m_inFlight.count(id) == 0)
-        return remove(sms); // reported as failed already: the client may have sent it again
+        return remove(sms); // already reported as failed, so the client may have sent the message
+                            // again
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
@@ -80,8 +81,8 @@ void SmsSender::sent(Id id, MMSms *sms, const GError *error)
     m_listener.finished(message, SMS_SENT);
 }
 
-/// Deletes the message, sent or not, since the SIM has little storage. The message stays there when
-/// the modem does not delete it.
+/// Deletes the stored message, whether it was sent or not, since the SIM has little storage. If the
+/// modem does not delete the message, it stays there.
 void SmsSender::remove(MMSms *sms)
 {
     if (!m_messaging)
@@ -94,12 +95,13 @@ void SmsSender::remove(MMSms *sms)
                               asyncDone(done));
 }
 
-/// Reports that the message was not sent. There is no error when the modem has no interface.
+/// Reports that the message was not sent. `error` is null if the modem has no interface for
+/// messages.
 void SmsSender::fail(Id id, const GError *error)
 {
     const auto found = m_inFlight.find(id);
     if (found == m_inFlight.end())
-        return; // reported as failed already
+        return; // already reported as failed
     const SmsMessage message = found->second;
     m_inFlight.erase(found);
     if (error && isNotPermitted(*error))

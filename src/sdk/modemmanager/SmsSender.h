@@ -15,10 +15,11 @@ namespace Tksv
 
 /**
  * Sends short messages through one modem. Each message is stored on the modem, sent, and deleted.
- * All functions run on the thread of the main loop.
+ * All functions must be called on the thread of the main loop.
  *
  * Pending calls keep the object alive, so that stored messages are deleted even after the owner has
- * released the object. The owner calls failPending() first; afterwards the listener is not called.
+ * released the object. The owner must call failPending() first; after that, the listener is not
+ * called any more.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {
@@ -30,12 +31,12 @@ public:
 
     explicit SmsSender(Listener listener);
 
-    /// Sets the interface; null while the modem has none.
+    /// Sets the interface, or null while the modem has none.
     void setInterface(MMModemMessaging *messaging);
     bool isUsable() const { return m_messaging != nullptr; }
 
     void send(const SmsMessage &message);
-    /// Reports all messages on their way as failed.
+    /// Reports all messages that are being sent as failed.
     void failPending();
 
 private:

@@ -10,11 +10,11 @@ namespace Tksv
 namespace
 {
 
-/// How long the change of the state may lag behind a reply before the channel asks for the state.
+/// The time that the state may lag behind a reply before the channel queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// The client decides how long it waits for a reply; by default, GDBus would cancel the call after
-/// 25 seconds.
+/// There is no time limit, because the client decides how long it waits for a reply. By default,
+/// GDBus would cancel the call after 25 seconds.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 bool contains(GVariant *changed, const char *property)
@@ -39,8 +39,9 @@ UssdChannel::UssdChannel(MainLoopThread &thread, Listener listener)
 {
 }
 
-/// GLib replaces the proxies of an object that the daemon announces twice. The earlier proxy still
-/// makes calls, but gets no changes of properties any more.
+/// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
+/// object's proxies. The earlier proxy can still make calls, but receives no property changes any
+/// more.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -53,7 +54,8 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
-/// Later results of calls to the old interface are ignored, and may never arrive.
+/// Clears the state of the interface that was removed. Later results of its calls are ignored, and
+/// may never arrive.
 void UssdChannel::interfaceRemoved()
 {
     failPending();
@@ -101,7 +103,7 @@ void UssdChannel::failPending()
 
 /* ---- calls ------------------------------------------------------------------------------- */
 
-/// Starts the next call, one at a time.
+/// Starts the next call, since only one call can run at a time.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -162,15 +164,15 @@ void UssdChannel::callFailed(const Request &request, const GError &error)
     startNext();
 }
 
-/// The cancel ends a running call, which then returns an error, or never returns when the port is
-/// stuck.
+/// Cancels the session. The cancellation ends a running call. That call then returns an error, or
+/// never returns if the port is stuck.
 void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
     m_cancelling = true;
     m_isQuestionReported = false;
     const AsyncDone done = [this, call = ++m_call](GObject *ussd, GAsyncResult *result) {
-        ErrorSlot ignored; // the daemon is idle after a failed cancel, too
+        ErrorSlot ignored; // the daemon is idle even after a failed cancellation
         mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, ignored.slot());
         cancelReturned(call);
     };
@@ -194,8 +196,9 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 
 /* ---- the session's state ----------------------------------------------------------------- */
 
-/// After a reply, the state changes from "active" to "idle" or "user response". For a quick command
-/// the daemon may report neither change, and the channel has to ask for the state.
+/// Waits until the state belongs to the reply. After a reply, the state changes from "active" to
+/// "idle" or "user response". For a quick command, the daemon may report neither change, so the
+/// channel queries the state.
 void UssdChannel::waitForState()
 {
     const MMModem3gppUssdSessionState state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
@@ -207,7 +210,8 @@ void UssdChannel::waitForState()
         startLagTimer();
 }
 
-/// All commands share one timer, since every waiting timer slows down each iteration of the loop.
+/// Starts the timer that limits the wait for the state. All commands share one timer, since every
+/// waiting timer slows down each iteration of the loop.
 void UssdChannel::startLagTimer()
 {
     m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
@@ -237,7 +241,8 @@ void UssdChannel::askForState()
                       asyncDone(whileAlive(done)));
 }
 
-/// A notification that is repeated word for word changes no property and is not reported.
+/// Handles the changed properties. A notification that is repeated word for word changes no
+/// property and is therefore not reported.
 void UssdChannel::propertiesChanged(GVariant *changed)
 {
     const auto alive = shared_from_this();
@@ -278,8 +283,8 @@ void UssdChannel::finish(const UssdReply &reply)
 {
     const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
-    // The network asked a question of its own right after the reply. The state belongs to this
-    // question; the idle state in between was never reported.
+    // The network asked another question immediately after the reply. The state belongs to this
+    // question, and the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
     m_isQuestionReported = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
     UssdReply reported = reply;

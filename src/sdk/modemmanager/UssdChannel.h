@@ -19,9 +19,9 @@ namespace Tksv
 /**
  * The USSD session of one modem.
  *
- * The daemon sends the reply before the new state of the session, and only the state tells whether
- * the network waits for an answer. So the channel holds the reply back until the state has left
- * "active". All functions run on the thread of the main loop.
+ * The daemon sends the reply before the new state of the session, and only the state shows whether
+ * the network waits for an answer. Therefore, the channel holds the reply back until the state is
+ * no longer "active". All functions must be called on the thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
@@ -34,18 +34,19 @@ public:
 
     UssdChannel(MainLoopThread &thread, Listener listener);
 
-    /// Sets the interface, or a newer proxy of the same interface; null while the modem has none.
+    /// Sets the interface, or a newer proxy of the same interface, or null while the modem has
+    /// none.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// Called after setInterface(). Reports a menu that another program left open, and starts a
-    /// waiting request.
+    /// Reports a menu that another program left open, and starts a waiting request. Must be called
+    /// after setInterface().
     void catchUp();
 
     /// Sends the text, and replaces a request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
-    /// Ends the session and the request in flight, which gets no reply.
+    /// Ends the session and cancels the request in flight, which then receives no reply.
     void endSession();
-    /// Ends the session, and the request in flight gets an empty reply.
+    /// Ends the session. The request in flight receives an empty reply.
     void failPending();
 
 private:
@@ -83,12 +84,12 @@ private:
     std::optional<Request> m_running; // its call is running, or its reply waits for the state
     std::optional<std::string> m_replyText;
     bool m_isLagTimerRunning = false;
-    bool m_wasActive = false; // the state was active after the call started
+    bool m_wasActive = false; // the state has been active since the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_isQuestionReported = false; // the listener knows the open session's question
+    bool m_isQuestionReported = false; // the listener has received the open session's question
     bool m_hasNewQuestion = false;     // NetworkRequest has changed since the call started
-    unsigned m_call = 0; // number of the newest call; results of older calls are ignored
+    unsigned m_call = 0; // the number of the newest call; results of older calls are ignored
 };
 
 } // namespace Tksv

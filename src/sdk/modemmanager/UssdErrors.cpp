@@ -20,7 +20,7 @@ bool isCoreError(const GError &error, MMCoreError code)
 }
 
 /// Returns the type of a reply whose <m> of +CUSD the daemon does not handle. The daemon writes <m>
-/// into the text of the error: "...: 5 (5)".
+/// into the text of the error, as in "...: 5 (5)".
 int unhandledType(const GError &error)
 {
     const bool timeout =

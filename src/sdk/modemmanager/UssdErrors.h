@@ -5,16 +5,16 @@
 
 #include "../base/Backend.h"
 
-/* The meaning of ModemManager's errors; docs/modems.md lists them. */
+/* The meaning of ModemManager's errors, which docs/modems.md lists. */
 
 namespace Tksv
 {
 
-/** How a USSD command ends whose call has failed. */
+/** The ways to end a USSD command whose call has failed. */
 enum class UssdFailure {
-    Replied,      // the client gets an empty reply of UssdVerdict::type
+    Replied,      // the client receives an empty reply of UssdVerdict::type
     SessionOpen,  // the daemon assumes an open session, which must end before a retry
-    NotPermitted, // polkit denied the call; the client gets an empty reply
+    NotPermitted, // polkit denied the call; the client receives an empty reply
     ServiceLost   // the daemon or the modem is gone, and a device event ends the command
 };
 

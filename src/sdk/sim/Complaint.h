@@ -7,10 +7,10 @@
 namespace Tksv
 {
 
-/** A fault in a file, described for the author of the file. */
+/** A fault in a file, with a description for the author of the file. */
 struct Complaint {
     std::string file;
-    int line = 0; // counts from 1; 0 stands for the whole file
+    int line = 0; // counts from 1; 0 means the whole file
     std::string text;
 };
 

@@ -20,14 +20,14 @@ struct KeyFileGroup {
     int line = 0;
     std::vector<KeyFileEntry> entries;
 
-    /// Returns null when the group has no such key.
+    /// Returns the entry, or null if the group has no such key.
     const KeyFileEntry *find(const std::string &key) const;
 };
 
 /**
  * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
- * not report. Lines that do not belong in a key file, and groups or keys that occur twice, are
- * added to the complaints.
+ * not report. Adds a complaint for each line that does not belong in a key file, and for groups and
+ * keys that occur twice.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 

@@ -49,7 +49,7 @@ private:
         m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
     }
 
-    /// Complains about a key that is not allowed in this group.
+    /// Adds a complaint if the group has a key that is not allowed in it.
     void allow(const char *key, bool allowed, const std::string &where)
     {
         if (const KeyFileEntry *entry = m_group.find(key)) {

@@ -15,14 +15,14 @@ bool hasSyntaxMarks(const std::string &text)
     return text.find_first_of("%/ ") != std::string::npos;
 }
 
-/** A part of a text with {names}: plain text, and then a name, which may be empty. */
+/** A part of a text with {names}: plain text that is followed by a name, which may be empty. */
 struct TextPart {
     std::string plain;
     std::string name;
 };
 
-/// Reads the part of `text` at `position` and advances `position`. Returns false when a { is not
-/// closed or its name is empty.
+/// Reads the part of `text` at `position` and advances `position`. Returns false if a { is not
+/// closed or the name after it is empty.
 bool nextPart(const std::string &text, std::size_t &position, TextPart &part)
 {
     const std::size_t open = text.find('{', position);

@@ -9,24 +9,25 @@
 
 #include "tksv_device.h"
 
-/* The simulated network of one operator as plain values; see docs/scenario-file.md. */
+/* The simulated network of one operator, as plain values; see docs/scenario-file.md. */
 
 namespace Tksv
 {
 
 using Milliseconds = std::chrono::milliseconds;
 
-/// An amount of money, in hundredths of the currency's unit.
+/// An amount of money, in hundredths of the currency unit.
 using Amount = long long;
 
-/// How long a lost device stays away; no value stands for "never comes back".
+/// The time that a lost device stays away. No value means that the device never returns.
 using AwayTime = std::optional<Milliseconds>;
 const Milliseconds DEFAULT_AWAY(3000);
 
-/// The largest number of digits in a code: a request holds as many beside a * and a #.
+/// The largest number of digits in a code, which is what a request can hold besides one * and one
+/// #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
-/** What the network does with a request, see docs/scenario-file.md. */
+/** The network's reaction to a request, see docs/scenario-file.md. */
 enum class Outcome {
     Reply,
     Refuse,
@@ -38,35 +39,36 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** How the network handles a code, or an answer within a menu. */
+/** The rule by which the network handles a code, or an answer within a menu. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
-    std::string goTo; // group whose rule applies instead; may be empty
+    std::string goTo; // group whose rule is applied instead; may be empty
     Milliseconds delay = Milliseconds(0);
 
-    /// Codes with %s: the number of digits allowed, and the reply when there are more or fewer.
+    /// For codes with %s: the smallest and the largest number of digits, and the reply to any other
+    /// number.
     std::size_t minDigits = 1;
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
 
-    /// The change of the balance: `credit`, plus `creditDigits` (1, 0 or -1) times the digits in
+    /// The change to the balance: `credit`, plus `creditDigits` (1, 0 or -1) times the digits in
     /// whole units.
     Amount credit = 0;
     int creditDigits = 0;
-    std::string notEnough; // the reply when the balance does not suffice
+    std::string notEnough; // the reply if the balance is too low
 
     int deviceEvent = 0;
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** How the network handles short messages to a number. */
+/** The rule by which the network handles short messages to a number. */
 struct SmsRule {
-    int result = 0; // of TKSV_SMSSendResult
+    int result = 0; // the `result` of TKSV_SMSSendResult
     Milliseconds delay = Milliseconds(0);
 };
 
-/** An event of the device at a fixed time. */
+/** A change to the device that happens at a set time after the start, and may be repeated. */
 struct TimedEvent {
     Milliseconds after = Milliseconds(0);
     std::optional<Milliseconds> every;
@@ -77,18 +79,18 @@ struct TimedEvent {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** Text that the network sends of its own accord, by the rule of the group. */
+/** A text that the network sends of its own accord, according to the rule of the group. */
 struct Push {
     Milliseconds after = Milliseconds(0);
     std::string group;
 };
 
-/** A scenario file. */
+/** The content of a scenario file. */
 struct Scenario {
     std::string source; // path of the file
     std::string operatorName;
     std::string imsi;
-    std::string homeNetwork; // MCC and MNC; empty when unknown
+    std::string homeNetwork; // MCC and MNC; empty if unknown
     std::string pin = "0000";
     int signalPercent = 75;
     TKSV_DeviceState state = TKSV_DEVICE_REGISTERED;
@@ -98,7 +100,7 @@ struct Scenario {
     std::string currency;
 
     std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
-    std::map<std::string, SmsRule> smsRules; // by number; the empty number is for all others
+    std::map<std::string, SmsRule> smsRules; // by number; the empty number is used for all others
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };
@@ -108,31 +110,32 @@ const char ANY_ANSWER[] = "%s"; // stands for any other answer
 
 /** The rule that matches a text of the client. */
 struct Match {
-    std::string group;  // empty when no rule matches
-    std::string digits; // that %s stands for
+    std::string group;  // empty if no rule matches
+    std::string digits; // the digits that %s stands for
 };
 
-/// Returns the group with exactly this code, or else the longest pattern that matches.
+/// Returns the group with exactly this code, or else the longest pattern that matches the code.
 Match findCode(const Scenario &scenario, const std::string &code);
 /// Returns the group of exactly this answer, or else the group of ANY_ANSWER.
 Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
-/// Returns whether the group has answers, so that its reply leaves the session open.
+/// Returns whether the group has answers. If so, its reply leaves the session open.
 bool isMenu(const Scenario &scenario, const std::string &group);
 /// Returns the rule for the number, or else the rule for all other numbers.
 SmsRule findSms(const Scenario &scenario, const std::string &number);
 
-/// Returns the digits that %s stands for, or nothing when the code does not match the pattern.
+/// Returns the digits that %s stands for, or no value if the code does not match the pattern.
 std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code);
 
 /** The values of the {names} in a reply. */
 using Placeholders = std::map<std::string, std::string>;
 
-/// Returns the text with each {name} replaced by its value, and {{ by {.
+/// Returns the text with each {name} replaced with its value, and each {{ with {.
 std::string expand(const std::string &text, const Placeholders &values);
-/// Returns the names in the text, or nothing when a { is neither {{ nor the start of a {name}.
+/// Returns the names in the text. Returns no value if a { is neither part of {{ nor the start of a
+/// {name}.
 std::optional<std::vector<std::string>> placeholderNames(const std::string &text);
 
-/// Returns "12.50", or "12.50 EUR" with a currency.
+/// Returns the amount as "12.50", or as "12.50 EUR" if there is a currency.
 std::string formatAmount(Amount amount, const std::string &currency);
 
 } // namespace Tksv

@@ -14,7 +14,7 @@ namespace Tksv
 namespace
 {
 
-/// The longest name that fits into TKSV_DeviceInfo.
+/// The size of the longest name that fits into TKSV_DeviceInfo.
 const std::size_t MAX_OPERATOR_BYTES = sizeof TKSV_DeviceInfo::operatorName - 1;
 const std::size_t MAX_CURRENCY_BYTES = 16;
 
@@ -118,7 +118,7 @@ void readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
 
 /* ---- reading the groups ------------------------------------------------------------------ */
 
-/** Reads the groups into a scenario. RuleCheck checks the relations between groups later. */
+/** Reads the groups into a scenario. RuleCheck later checks how the groups refer to each other. */
 class GroupReader
 {
 public:
@@ -144,7 +144,8 @@ public:
     {
         switch (kindOf(group.name)) {
         case GroupKind::Network:
-            break; // readNetwork() has read this group, whose delay the other groups use
+            break; // readNetwork() has already read this group, because the other groups use its
+                   // delay
         case GroupKind::Sms:
             return readSms(group);
         case GroupKind::Push:
@@ -220,7 +221,8 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<const KeyFileGroup *> readWell; // a rule with a fault gets no further complaint
+    std::vector<const KeyFileGroup *> readWell; // the groups without a fault; only these are
+                                                // checked further
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();
         reader.read(group);

@@ -11,7 +11,7 @@ namespace
 {
 
 const int MAX_MILLISECONDS = 24 * 60 * 60 * 1000;
-/// Digits of whole units. Sums of such amounts cannot overflow.
+/// The largest number of digits of whole units. The limit ensures that sums cannot overflow.
 const std::size_t MAX_MONEY_DIGITS = 9;
 
 std::optional<int> parseInt(const std::string &text)

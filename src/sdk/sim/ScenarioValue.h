@@ -21,8 +21,8 @@ struct Word {
 std::string enumerate(const std::vector<std::string> &words);
 
 /**
- * The value of one key. A function that finds another text than expected adds a complaint and
- * returns a value within its range, which the caller ignores.
+ * The value of one key. If the text is not valid, each function adds a complaint and returns a
+ * value within its range, which the caller ignores.
  */
 class ScenarioValue
 {
@@ -33,11 +33,11 @@ public:
     }
 
     const std::string &text() const { return m_entry.value; }
-    /// Returns a text that is not empty and at most `maxBytes` long.
+    /// Returns the text, which must have 1 to `maxBytes` bytes.
     std::string name(std::size_t maxBytes) const;
     int number(int min, int max) const;
     Milliseconds milliseconds() const;
-    /// Returns a number of milliseconds, or nothing for "never".
+    /// Returns a number of milliseconds, or no value for "never".
     AwayTime away() const;
     Amount amount() const;
     std::string digits(std::size_t min, std::size_t max) const;
@@ -58,7 +58,7 @@ public:
         return words[0].value;
     }
 
-    /// Adds the complaint that `what` was expected.
+    /// Adds a complaint with `what` as the expected value.
     void expected(const std::string &what) const;
 
 private:

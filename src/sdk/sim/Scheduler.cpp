@@ -44,7 +44,7 @@ void Scheduler::recheckClock()
     m_wake.notify_one();
 }
 
-/// The wait itself always uses the system's clock.
+/// Waits for the time that is left until `due`. The wait itself always uses the system clock.
 void Scheduler::waitUntil(Time due, std::unique_lock<std::mutex> &lock)
 {
     m_wake.wait_for(lock, due - SimulatorClock::now());

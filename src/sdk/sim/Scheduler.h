@@ -14,8 +14,8 @@ namespace Tksv
 {
 
 /**
- * Runs tasks after a delay, one after the other, on its own thread, which the first task starts.
- * Tasks that are due at the same time run in the order of the calls of after().
+ * Runs tasks after a delay, one after the other, on a separate thread, which the first task starts.
+ * Tasks that are due at the same time run in the order of the calls to after().
  */
 class Scheduler
 {
@@ -25,11 +25,11 @@ public:
     Scheduler(const Scheduler &) = delete;
     Scheduler &operator=(const Scheduler &) = delete;
 
-    /// Any thread may call. Does nothing after stop().
+    /// Schedules the task. May be called on any thread. Does nothing after stop().
     void after(std::chrono::milliseconds delay, std::function<void()> task);
     /// Drops the waiting tasks and waits for a running task. A task must not call this function.
     void stop();
-    /// Reads the clock again after a jump.
+    /// Reads the clock again after it has jumped.
     void recheckClock();
 
 private:

@@ -11,8 +11,8 @@ namespace
 {
 
 const Amount HUNDREDTHS_IN_UNIT = 100;
-const int PIN_RETRIES = 3;               // as on every SIM (ETSI TS 102 221, 9.5.1)
-const std::size_t MAX_AMOUNT_DIGITS = 9; // no balance has more digits
+const int PIN_RETRIES = 3;               // the same as on every SIM (ETSI TS 102 221, 9.5.1)
+const std::size_t MAX_AMOUNT_DIGITS = 9; // a balance never has more digits
 
 /// Returns the type of a reply without a text.
 int refusalType(Outcome outcome)
@@ -148,7 +148,7 @@ DeviceInfo SimulatedNetwork::info() const
     return info;
 }
 
-/// Makes the change on the scheduler's thread while the lock is held, and then calls the observer.
+/// Makes the change on the scheduler's thread with the lock held, and then calls the observer.
 void SimulatedNetwork::schedule(Milliseconds delay, Change change)
 {
     m_scheduler.after(delay, [this, change = std::move(change)] {
@@ -162,7 +162,7 @@ void SimulatedNetwork::schedule(Milliseconds delay, Change change)
     });
 }
 
-/* ---- USSD; the caller holds the lock ----------------------------------------------------- */
+/* ---- USSD; must be called with the lock held --------------------------------------------- */
 
 Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) const
 {
@@ -173,8 +173,8 @@ Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) cons
     return match;
 }
 
-/// Returns the rule of the match, or the rule that its Goto names. The network refuses what no rule
-/// matches.
+/// Returns the rule of the match, or the rule that its Goto names. If no rule matches, the rule is
+/// a refusal.
 Rule SimulatedNetwork::ruleFor(const Match &match) const
 {
     const auto found = m_scenario.rules.find(match.group);
@@ -211,7 +211,8 @@ UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
     return reply.text.empty() ? UssdReply{UssdEndedByNetwork, std::string()} : reply;
 }
 
-/// Returns an empty text when the network refuses the request after all.
+/// Returns the reply to the request. The text is empty if the network refuses the request after
+/// all.
 UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
 {
     const std::string &digits = request.match.digits;
@@ -228,7 +229,7 @@ UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
     return UssdReply{type, expand(rule.reply, placeholders(request))};
 }
 
-/// Changes the balance. Returns false when the balance does not suffice.
+/// Changes the balance. Returns false if the balance is too low.
 bool SimulatedNetwork::takeCredit(const Rule &rule, const std::string &digits)
 {
     if (rule.creditDigits && digits.size() > MAX_AMOUNT_DIGITS)
@@ -249,7 +250,7 @@ Placeholders SimulatedNetwork::placeholders(const Request &request) const
                         {"answer", request.answer}};
 }
 
-/// Ends the request and the menu, and sends the texts that waited for the end of the session.
+/// Ends the request and the menu, and sends the texts that have waited for the end of the session.
 void SimulatedNetwork::closeSession()
 {
     m_inFlight = 0;
@@ -270,7 +271,7 @@ void SimulatedNetwork::push(const std::string &group, Notices &notices)
     notices.push_back([=](BackendObserver &o) { o.ussdText(text); });
 }
 
-/* ---- the device; the caller holds the lock ----------------------------------------------- */
+/* ---- the device; must be called with the lock held --------------------------------------- */
 
 void SimulatedNetwork::apply(const TimedEvent &event, Notices &notices)
 {

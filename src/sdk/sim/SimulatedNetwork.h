@@ -29,15 +29,15 @@ public:
     DeviceInfo info() const override;
 
 private:
-    /// Calls of the observer that follow after the lock is released. Only the scheduler's thread
-    /// makes them, so the observer gets the changes in their order.
+    /// The calls of the observer that are made after the lock is released. Only the scheduler's
+    /// thread makes them, so the observer receives the changes in their order.
     using Notices = std::vector<std::function<void(BackendObserver &)>>;
     using Change = std::function<void(Notices &)>;
 
-    /** The menu that waits for an answer; `group` is empty when there is none. */
+    /** The menu that waits for an answer. `group` is empty if there is none. */
     struct OpenMenu {
         std::string group;
-        std::string digits; // of the code that opened the session
+        std::string digits; // the digits of the code that opened the session
     };
     struct Request {
         RequestToken token = 0;

@@ -19,7 +19,10 @@ SimulatorClock::Time systemTime()
 
 std::atomic<SimulatorClock::Source> g_source(&systemTime);
 
-/** The existing schedulers. Never destroyed: a network may outlive the library's static objects. */
+/**
+ * The existing schedulers. The list is never destroyed, since a network may outlive the library's
+ * static objects.
+ */
 struct SchedulerList {
     std::mutex mutex; // taken before the mutex of a scheduler
     std::set<Scheduler *> schedulers;

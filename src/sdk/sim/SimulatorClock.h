@@ -9,8 +9,8 @@ namespace Tksv
 class Scheduler;
 
 /**
- * The clock of simulated networks: the steady system clock, or the clock of a test that lets hours
- * pass in seconds. Any thread may call.
+ * The clock of simulated networks: the steady system clock, or a test's clock in which hours pass
+ * within seconds. May be used on any thread.
  */
 class SimulatorClock
 {
@@ -19,9 +19,10 @@ public:
     using Source = Time (*)();
 
     static Time now();
-    /// Sets another clock, which must never run backwards; null restores the system's clock.
+    /// Sets another clock, which must never run backwards. Null restores the system clock.
     static void setSource(Source source);
-    /// Tells every scheduler that the clock has jumped. Called after a test has advanced its clock.
+    /// Notifies every scheduler that the clock has jumped. Must be called after a test has advanced
+    /// its clock.
     static void notifyJump();
 
 private:

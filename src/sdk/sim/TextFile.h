@@ -6,8 +6,8 @@
 namespace Tksv
 {
 
-/// Reads a regular file of at most 1 MiB. Returns an empty text on success, otherwise the reason of
-/// the failure.
+/// Reads a regular file of at most 1 MiB. Returns an empty text on success, otherwise the reason
+/// for the failure.
 std::string readTextFile(const std::string &path, std::string &text);
 
 } // namespace Tksv
