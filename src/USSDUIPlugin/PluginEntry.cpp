@@ -1,7 +1,7 @@
 /*
  * The entry points that a plug-in loader looks up. Qt 4 finds the two functions below by name and
- * compares the verification data with that of its own build. Qt 5 and later generate
- * qt_plugin_instance() from the meta data of the class, and their loaders read that meta data
+ * compares the verification data with the data of its own build. Qt 5 and later generate
+ * qt_plugin_instance() from the meta data of the class, and their loaders read this meta data
  * instead.
  */
 #include <QtPlugin>

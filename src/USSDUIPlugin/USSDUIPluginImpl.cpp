@@ -129,7 +129,8 @@ void CUSSDUIPluginImpl::FitSize(QRect &rect)
     CUSSDService::instance()->FitSize(rect);
 }
 
-/// Returns false on purpose: hosts call this function before they offer a page at their start.
+/// Returns false on purpose, because hosts call this function before they offer a page when they
+/// start.
 bool CUSSDUIPluginImpl::IsReady()
 {
     USSD_LOG(" Enter");

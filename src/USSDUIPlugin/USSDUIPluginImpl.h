@@ -9,8 +9,8 @@
 
 /**
  * The object that the host loads. It contains no logic: each function returns a fixed value or
- * calls the service. GUI thread only. OnDestroy(), UnSDKRegisterEvent() and deletion are safe in
- * any order, and the two functions may be called repeatedly.
+ * calls the service. Must be used on the GUI thread. OnDestroy(), UnSDKRegisterEvent() and the
+ * destructor may be called in any order, and the two functions may be called repeatedly.
  */
 class CUSSDUIPluginImpl : public QObject, public IUIPlugin, public INotify
 {

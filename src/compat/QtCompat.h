@@ -2,8 +2,8 @@
 #define QTCOMPAT_H
 
 /*
- * The differences between Qt 4 (4.6 to 4.8) and Qt 5.15 that matter to the plug-in and the core
- * library. No other file of theirs asks for the Qt version.
+ * The differences between Qt 4 (4.6 to 4.8) and Qt 5.15 that affect the plug-in and the core
+ * library. No other file of the two checks the Qt version.
  */
 
 #include <QFontMetrics>
@@ -13,7 +13,7 @@
 #include <QWidget>
 
 /*
- * Qt 4 needs the entry point qt_plugin_instance() to be defined by hand; in Qt 5, moc generates it
+ * In Qt 4, the entry point qt_plugin_instance() must be defined by hand. In Qt 5, moc generates it
  * from Q_PLUGIN_METADATA.
  */
 #if QT_VERSION < 0x050000
@@ -30,8 +30,8 @@
 namespace QtCompat
 {
 
-/// Returns a picture of the widget as the screen shows it. QWidget::render() would not mirror it
-/// in a right-to-left layout.
+/// Returns an image of the widget as it appears on the screen. QWidget::render() would not mirror
+/// the widget in a right-to-left layout.
 inline QPixmap pictureOf(QWidget *widget)
 {
 #if QT_VERSION < 0x050000
@@ -51,7 +51,7 @@ inline int textWidth(const QFontMetrics &metrics, const QString &text)
 #endif
 }
 
-/// Returns the text with HTML's special characters replaced by entities.
+/// Returns the text with the special characters of HTML replaced with entities.
 inline QString escapeHtml(const QString &text)
 {
 #if QT_VERSION < 0x050000
@@ -61,7 +61,7 @@ inline QString escapeHtml(const QString &text)
 #endif
 }
 
-/// Receives a message of Qt. The text is in the local 8-bit encoding.
+/// A function that receives a message of Qt. The text is in the local 8-bit encoding.
 typedef void (*MessageHandler)(QtMsgType type, const char *text);
 
 #if QT_VERSION < 0x050000

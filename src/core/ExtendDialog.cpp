@@ -8,7 +8,10 @@
 namespace
 {
 
-/** Makes Escape close the frame as its close button does; QDialog would hide it unannounced. */
+/**
+ * Makes Escape close the frame like its close button. Otherwise QDialog would hide the frame
+ * without a signal.
+ */
 class EscapeCloses : public QObject
 {
 public:
@@ -35,7 +38,7 @@ void takeContentOut(QLayout *layout)
 
 } // namespace
 
-// This host has one style of frame, so the widget type makes no difference.
+// This host has only one frame style, so it ignores the widget type.
 ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int) : QDialog(parent, flags)
 {
     QVBoxLayout *layout = new QVBoxLayout(this);

@@ -24,8 +24,8 @@ QString findLibraryFolder()
     return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
 }
 
-// The path is resolved once: the loader may know the library by a path that is relative to the
-// working folder at the program's start.
+// Returns the folder of this library. The path is resolved only once, because the loader may have
+// stored a path that is relative to the working directory at the start of the program.
 QString libraryFolder()
 {
     static const QString folder = findLibraryFolder();
@@ -39,7 +39,10 @@ QString withoutTrailingSeparators(QString path)
     return path;
 }
 
-/** The folder that the host uses in place of the installed one; empty when it uses the latter. */
+/**
+ * The folder that the host uses instead of the installed folder. The path is empty if the host uses
+ * the installed folder.
+ */
 struct ChosenFolder {
     QMutex mutex; // guards the path
     QString path;

@@ -8,25 +8,25 @@ namespace HostCore
 
 /**
  * The paths of the program's files. They are relative to the path of this library, so that an
- * installed prefix can be moved; the build tree has the same layout. No path ends in a separator.
+ * installed prefix can be moved. The build tree has the same layout. No path ends in a separator.
  * May be used on any thread.
  */
 class Q_DECL_EXPORT InstallPaths
 {
 public:
-    /// Returns the folder that contains "plugins/": the one set by usePluginLibrary(), or else the
-    /// installed one.
+    /// Returns the folder that contains "plugins/". This is the folder that usePluginLibrary() has
+    /// set, or else the installed folder.
     static QString pluginLibrary();
-    /// Returns the folder of the installed plug-in. $USSD_PLUGIN_LIBRARY_PATH overrides it when it
-    /// is set and not empty.
+    /// Returns the folder of the installed plug-in. If $USSD_PLUGIN_LIBRARY_PATH is set and not
+    /// empty, returns its value instead.
     static QString installedPluginLibrary();
-    /// Sets the folder that plug-ins read their files from; an empty path selects the installed
-    /// one.
+    /// Sets the folder from which plug-ins read their files. An empty path selects the installed
+    /// folder.
     static void usePluginLibrary(const QString &folder);
     /// Returns the folder of architecture-independent data.
     static QString share();
     static QString translations();
-    /// Returns the folder of the simulated networks, which have one file each.
+    /// Returns the folder of the simulated networks, each of which has one file.
     static QString scenarios();
 };
 

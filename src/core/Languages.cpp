@@ -34,12 +34,13 @@ const Language LANGUAGES[] = {
 
 const char ENGLISH[] = "en";
 
-// The last section of a language file, which cmake/seal_translation.sh appends: a tag, a length,
-// and that many hexadecimal digits, which are the SHA-1 of everything before the section.
+// The last section of a language file, which cmake/seal_translation.sh appends. It consists of a
+// tag, a length, and as many hexadecimal digits as the length states. The digits are the SHA-1 hash
+// of the file before this section.
 const char SEAL[] = {'S', 0, 0, 0, 40};
 const int SEAL_DIGITS = 40;
 
-/** The texts of a language. The translator does not copy `content`, so both live together. */
+/** The texts of a language. The translator does not copy `content`, so both are kept together. */
 struct LanguageTexts {
     QByteArray content;
     QTranslator translator;
@@ -55,7 +56,7 @@ struct Loaded {
     Texts english;
 };
 
-/// Returns the texts of the language, or null when its file is missing or damaged.
+/// Returns the texts of the language, or null if its file is missing or damaged.
 Texts load(const QString &code)
 {
     Texts texts(new LanguageTexts);
@@ -66,7 +67,8 @@ Texts load(const QString &code)
     return texts;
 }
 
-// English is loaded at the first use, so that a program that never chooses a language has texts.
+// Returns the loaded languages. The first call loads English, so that a program that never selects
+// a language has texts.
 Loaded &loaded()
 {
     static Loaded instance;
@@ -93,19 +95,23 @@ QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &
     return texts ? texts->translator.translate(context.constData(), key.constData()) : QString();
 }
 
-/** Installs Qt's own texts: those of its dialogs' buttons and of entry fields' context menus. */
+/**
+ * Installs the translations of Qt's own texts, such as those of dialog buttons and of the context
+ * menus of entry fields.
+ */
 void setQtTexts(const QString &code)
 {
     static std::unique_ptr<QTranslator> installed;
     installed.reset(
-        new QTranslator); // the destructor of the old one removes it from the application
+        new QTranslator); // the destructor of the old translator removes it from the application
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
     if (installed->load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm")) ||
         installed->load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm")))
         QCoreApplication::installTranslator(installed.get());
 }
 
-// The direction is set last because Qt 4 resets it when a translator is installed.
+// Applies the language to the application. The direction is set last, because Qt 4 resets it when a
+// translator is installed.
 void setApplicationLanguage(const Language &language)
 {
     const QString code = QLatin1String(language.code);

@@ -8,8 +8,8 @@ namespace HostCore
 {
 
 /**
- * The languages of the host. Each has a compiled Qt Linguist file whose source texts are keys.
- * Languages are named by their ISO 639-1 codes ("en", "ar").
+ * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
+ * keys. Languages are named by their ISO 639-1 codes ("en", "ar").
  */
 class Q_DECL_EXPORT Languages
 {
@@ -17,19 +17,20 @@ public:
     enum FileState { Whole, Missing, Damaged, NoSuchLanguage };
 
     /// Returns the languages whose files are installed, and English in any case, in the order in
-    /// which to offer them. May be called on any thread.
+    /// which they are offered. May be called on any thread.
     static QStringList codes();
-    /// Returns the name of the language in that language, or the code itself when the language is
-    /// not known. May be called on any thread.
+    /// Returns the name of the language in the language itself, or the code if the language is not
+    /// known. May be called on any thread.
     static QString nativeName(const QString &code);
     /// Returns whether the language is written from right to left. May be called on any thread.
     static bool isRightToLeft(const QString &code);
-    /// Returns the language of Change::tr(), initially English. May be called on any thread.
+    /// Returns the language of Change::tr(), which is initially English. May be called on any
+    /// thread.
     static QString current();
 
-    /// Makes `code` the language of Change::tr(), of Qt's own texts and of the default locale, and
-    /// sets the layout direction. Returns false and changes nothing when the language is unknown or
-    /// its file is missing or damaged. Must be called on the GUI thread; other threads may call
+    /// Selects `code` as the language of Change::tr(), of Qt's own texts and of the default locale,
+    /// and sets the layout direction. Returns false and changes nothing if the language is unknown
+    /// or its file is missing or damaged. Must be called on the GUI thread. Other threads may call
     /// Change::tr() meanwhile.
     static bool setCurrent(const QString &code);
 
@@ -37,14 +38,15 @@ public:
     static QString file(const QString &code);
     /// Returns the state of the language's file. May be called on any thread.
     static FileState fileState(const QString &code);
-    /// Returns the content of the language's file for a QTranslator; empty when the file is missing
-    /// or damaged. May be called on any thread.
+    /// Returns the content of the language's file for a QTranslator. Returns an empty array if the
+    /// file is missing or damaged. May be called on any thread.
     static QByteArray content(const QString &code);
-    /// Returns whether `content`, read from a language file, is unchanged since the build.
-    /// QTranslator crashes when it looks up a text in a damaged file. May be called on any thread.
+    /// Returns whether `content`, read from a language file, has not changed since the build. The
+    /// check is necessary because QTranslator crashes when it looks up a text in a damaged file.
+    /// May be called on any thread.
     static bool isWhole(const QByteArray &content);
 
-    /// Returns what Change::tr() returns. May be called on any thread.
+    /// Returns the text that Change::tr() returns. May be called on any thread.
     static QString text(const QString &context, const QString &key);
 };
 

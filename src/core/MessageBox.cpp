@@ -14,13 +14,14 @@ namespace HostCore
 namespace
 {
 
-// A label shows texts up to these limits well; a longer text is shown in a view that scrolls.
+// The limits of a text that is shown in a label. A longer text is shown in a scrolling view.
 const int LABEL_MAX_CHARACTERS = 600;
 const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;
 
 const QSize VIEW_SIZE(420, 220); // pixels
-const int AROUND_VIEW = 160;     // pixels of the screen for the frame, the icon and the buttons
+const int AROUND_VIEW = 160;     // pixels of the screen that are kept for the frame, the icon and
+                                 // the buttons
 
 int longestWord(const QString &text)
 {
@@ -59,7 +60,7 @@ void MessageBox::keyPressEvent(QKeyEvent *event)
         QMessageBox::keyPressEvent(event);
 }
 
-// QMessageBox::closeEvent() would press the only button.
+// Skips QMessageBox::closeEvent(), which would press the only button.
 void MessageBox::closeEvent(QCloseEvent *event)
 {
     QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)

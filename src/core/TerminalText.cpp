@@ -46,7 +46,8 @@ void print(FILE *stream, const QString &text)
     fflush(stream);
 }
 
-// The values of QtMsgType do not follow the severity, so they cannot be compared by "<".
+// Writes a message of Qt to the sink and to standard error. The values of QtMsgType are not ordered
+// by severity, so they cannot be compared with "<".
 void log(QtMsgType type, const char *text)
 {
     if (const LineSink sink = logSink)

@@ -10,8 +10,8 @@ QString notRegular()
     return QLatin1String("it is no regular file");
 }
 
-/// Returns whether the path names something other than a file. Returns false when nothing has that
-/// name, because QFile::errorString() describes this case better.
+/// Returns whether the path names something other than a regular file. Returns false if nothing
+/// with this name exists, because QFile::errorString() describes this case better.
 bool isSomethingElse(const QString &path)
 {
     const QFileInfo info(path);

@@ -11,15 +11,16 @@ namespace
 {
 
 const int USUAL_LENGTH = 256; // bytes; a longer line needs a second allocation
-const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be of any script
+const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be in any script
 
-/// The time of day in the last line as text, and the millisecond for which that text is valid.
+/// The time of day of the last line as text, and the millisecond for which the text is valid.
 struct Stamp {
     qint64 millisecond;
     char text[STAMP_LENGTH];
 };
 
-// Stamp has no destructor: it would keep the library loaded until the last thread has ended.
+// Stamp has no destructor, because a destructor would keep the library loaded until the last thread
+// has ended.
 thread_local Stamp lastStamp = {-1, ""};
 
 qint64 millisecondsNow()
@@ -51,7 +52,8 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-/// Returns source, function and the formatted tail, preceded by `stamp` unless that is null.
+/// Returns the source, the function and the formatted tail. Puts `stamp` in front unless it is
+/// null.
 QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
                     va_list arguments)
 {
@@ -69,8 +71,8 @@ QByteArray composed(const char *stamp, const char *source, const char *function,
 namespace PluginLog
 {
 
-// Determining the local time accesses the time-zone file, and a command logs some twenty lines in a
-// row. All lines of one millisecond therefore share the same text.
+// Returns the time of day as text. All lines of one millisecond share the text, because determining
+// the local time accesses the time-zone file, and a command logs some twenty lines in a row.
 const char *timeOfDay()
 {
     const qint64 now = millisecondsNow();

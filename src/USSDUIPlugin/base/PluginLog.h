@@ -4,15 +4,15 @@
 #include <QtGlobal>
 
 /*
- * The plug-in's log lines. A line is "time: source path: function", followed by a tail that brings
- * its own leading blank or colon. Each .cpp file names itself once:
+ * The plug-in's log lines. A line is "time: source path: function", followed by a tail that starts
+ * with its own blank or colon. Each .cpp file names itself once:
  *
- *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+ * static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
- * Files that share a class name the first file of their family, because that is the file that a
- * reader of the log looks for. All other code writes lines through the macros below only. In a
- * build with USSD_LOG_LINES=OFF the macros write nothing: the compiler still checks their
- * arguments, but the program does not evaluate them.
+ * Files that share a class name the first file of their family, because a reader of the log looks
+ * for this file. All other code writes lines only with the macros below. In a build with
+ * USSD_LOG_LINES=OFF the macros write nothing. The compiler still checks their arguments, but the
+ * program does not evaluate them.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -48,7 +48,7 @@ public:
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
     /// Logs `tail` instead of the plain Exit, at debug level and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Suppresses the Exit line, because the last line has already said everything.
+    /// Suppresses the Exit line, because the last line has already reported everything.
     void leaveSilently() { m_exited = true; }
 
 private:
@@ -88,7 +88,7 @@ private:
 #define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
 
-// These lines carry the name of `function`, of which the calling function is a part.
+// These macros write the name `function`, for functions that are a part of it.
 #define USSD_LOG_AS(function, ...) USSD_LOG_LINE(QtDebugMsg, function, __VA_ARGS__)
 #define USSD_LOG_WARNING_AS(function, ...) USSD_LOG_LINE(QtWarningMsg, function, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_AS(function, ...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, function, __VA_ARGS__)

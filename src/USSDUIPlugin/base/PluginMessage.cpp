@@ -12,8 +12,8 @@ namespace
 
 typedef QList<QPointer<QDialog>> Dialogs;
 
-/// An open message. The host creates the window of the message; the window is recognised by its
-/// caption, and by not being among the dialogs that were open before.
+/// An open message. The host creates the window of the message. The window is recognised by its
+/// caption, and because it is not one of the dialogs that were already open.
 struct OpenMessage {
     QString caption;
     Dialogs before;

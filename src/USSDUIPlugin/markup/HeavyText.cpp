@@ -3,22 +3,22 @@
 namespace
 {
 
-const int NEVER_HEAVY = 1000; // characters; a reply of a network has at most 182
+const int NEVER_HEAVY = 1000; // characters; a reply from a network has at most 182
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
-const int PIECE = 990;    // below NEVER_HEAVY, which leaves room for a surrogate pair
+const int PIECE = 990;    // below NEVER_HEAVY, so that there is room for a surrogate pair
 const int LOOK_BACK = 50; // how far to search back for a blank
 
-/// Returns true if `after` starts another script or is a combining mark on `before`.
+/// Returns true if `after` starts another script, or is a combining character that is added to
+/// `before`.
 bool isChange(QChar before, QChar after)
 {
-    const int charactersOfAScript = 128; // an approximation: Qt's script tables are private
+    const int charactersOfAScript = 128; // an approximation, since Qt's script tables are private
     return before.unicode() / charactersOfAScript != after.unicode() / charactersOfAScript ||
            after.category() == QChar::Mark_NonSpacing;
 }
 
-/// Returns where the piece that starts at `begin` ends; never between the halves of a surrogate
-/// pair.
+/// Returns the end of the piece that starts at `begin`. The end is never inside a surrogate pair.
 int endOfPiece(const QString &text, int begin)
 {
     int end = begin + PIECE;

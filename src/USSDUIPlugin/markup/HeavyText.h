@@ -6,11 +6,12 @@
 
 /*
  * Recognises replies that would freeze a window while Qt breaks them into lines, and splits such a
- * text into pieces that are quick to lay out. Line breaking is slow for long texts, and its time
- * grows with the square of the number of changes from one script to another.
+ * text into pieces that are quick to lay out. Line breaking is slow for long texts. Its time grows
+ * with the square of the number of changes from one script to another.
  *
- * Transcript, AccountReplyView and ReplyMessageBox ask isHeavy(), and PieceFeeder adds the pieces
- * to a text edit one by one. This is about the text only: MarkupCost estimates the cost of markup.
+ * Transcript, AccountReplyView and ReplyMessageBox call isHeavy(), and PieceFeeder adds the pieces
+ * to a text edit one by one. HeavyText considers only plain text; MarkupCost estimates the cost of
+ * markup.
  */
 namespace HeavyText
 {

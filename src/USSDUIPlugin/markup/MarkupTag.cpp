@@ -39,13 +39,14 @@ bool endsName(const QString &text, int place)
            unit == QLatin1Char('=');
 }
 
-/// Returns true for white space except a line feed, which the transcript replaces by a tag.
+/// Returns true for white space other than a line feed, which the transcript replaces with a tag.
 bool isBlank(QChar unit)
 {
     return unit.isSpace() && unit != QLatin1Char('\n');
 }
 
-/// Returns where the tag name after `bracket` begins, past blanks and the slash of a closing tag.
+/// Returns the position at which the tag name after `bracket` begins. Skips blanks and the slash of
+/// a closing tag.
 int nameBegin(const QString &text, int bracket)
 {
     int begin = bracket + 1;
@@ -63,8 +64,8 @@ int nameEnd(const QString &text, int begin)
     return end;
 }
 
-/// Returns true if a quotation opens at `place`. A quote opens one only at the beginning of a word,
-/// as in `size="2"`.
+/// Returns true if a quotation begins at `place`. A quotation mark begins a quotation only at the
+/// start of a word, as in `size="2"`.
 bool opensQuote(const QString &text, int place)
 {
     const QChar unit = text.at(place);
@@ -73,7 +74,7 @@ bool opensQuote(const QString &text, int place)
            (before.isSpace() || before == QLatin1Char('='));
 }
 
-/// Returns true if a ">" outside quotes ends the tag before another tag or a line feed begins.
+/// Returns true if a ">" outside quotations ends the tag before another tag or a line feed begins.
 bool hasEnd(const QString &text, int place)
 {
     for (int i = place; i < text.length(); ++i) {

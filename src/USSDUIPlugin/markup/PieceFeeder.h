@@ -10,10 +10,10 @@
 class QTextEdit;
 
 /**
- * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive:
- * each turn of the event loop inserts one piece as a paragraph of its own. AccountReplyView and
- * TranscriptView feed it with the pieces of a heavy text (see HeavyText). The feeder is a child of
- * the text edit. GUI thread only.
+ * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive.
+ * Each iteration of the event loop inserts one piece as a separate paragraph. AccountReplyView and
+ * TranscriptView pass the pieces of a heavy text (see HeavyText) to it. The feeder is a child of
+ * the text edit. Must be used on the GUI thread.
  */
 class PieceFeeder : public QObject
 {
@@ -22,7 +22,7 @@ public:
     explicit PieceFeeder(QTextEdit *edit);
 
     bool isBusy() const { return !m_pieces.isEmpty(); }
-    /// Queues a piece behind all pieces that are still waiting.
+    /// Adds a piece to the end of the queue.
     void add(const QString &text, const QTextBlockFormat &block, const QTextCharFormat &letters);
     /// Discards all pieces that are still waiting.
     void drop();

@@ -17,8 +17,8 @@ QString hexByte(int value)
     return QString::fromLatin1("%1").arg(static_cast<unsigned int>(value), 2, 16, QLatin1Char('0'));
 }
 
-/// Returns true if a rich-text document does not read `unit` as a letter. Such a character begins a
-/// tag or an entity, or marks a paragraph, a frame or an object.
+/// Returns true if a rich-text document does not treat `unit` as plain text. Such a character
+/// begins a tag or an entity, or marks a paragraph, a frame or an object.
 bool meansMoreThanText(QChar unit)
 {
     switch (unit.unicode()) {
@@ -44,9 +44,9 @@ bool isPlain(const QString &text)
     return true;
 }
 
-/// Returns true if the entry may affect the look of later entries: a tag may stay open, a style
-/// sheet applies from there on, and an entry that turns out blank merges with the next one. A
-/// caption that is not blank prevents the merging, whatever the text is.
+/// Returns true if the entry may affect the appearance of later entries. A tag may stay open, a
+/// style sheet applies to all entries after it, and an entry that turns out to be blank merges with
+/// the next one. A caption that is not blank prevents the merging, whatever the text is.
 bool mayReachOn(const QString &caption, const QString &text)
 {
     return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();

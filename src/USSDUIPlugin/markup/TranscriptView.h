@@ -9,15 +9,16 @@ class PieceFeeder;
 
 /**
  * Shows the transcript of the general dialog. Entries come from the network and may contain any
- * markup, so the view never opens a file or an address that they name.
+ * markup, so the view never opens a file or an address that is named in an entry.
  *
- * A plain entry is appended in a time that does not depend on the entries before it. An entry with
- * markup, and each entry after one that may contain an unclosed tag or a style sheet, sets the
- * whole transcript again. The document looks the same either way.
+ * A plain entry is appended in a time that does not depend on the previous entries. The whole
+ * transcript is set again for an entry with markup, and for each entry after one that may contain
+ * an unclosed tag or a style sheet. The document looks the same either way.
  *
- * Two kinds of entries are shown more simply so that the window stays responsive. An entry whose
- * markup is too expensive (see MarkupCost) is shown as letters. A heavy text (see HeavyText), which
- * no network can send, is added in pieces by PieceFeeder, each as a paragraph.
+ * Two kinds of entries are shown in a simpler form, so that the window stays responsive. An entry
+ * whose markup is too expensive (see MarkupCost) is shown as plain text. A heavy text (see
+ * HeavyText), which no network can send, is added in pieces by PieceFeeder, each as a separate
+ * paragraph.
  */
 class TranscriptView : public QTextEdit
 {
@@ -29,8 +30,8 @@ public:
     void appendEntry(const Transcript::Entry &entry);
     /// Removes all entries.
     void clearEntries();
-    /// Returns the markup of all entries in order. The markup of an entry that is shown as letters
-    /// is escaped.
+    /// Returns the markup of all entries in order. The markup of an entry that is shown as plain
+    /// text is escaped.
     const QString &entries() const { return m_entries; }
 
     QVariant loadResource(int type, const QUrl &name) override;
@@ -45,7 +46,7 @@ private:
     QString m_entries;
     MarkupCost m_cost;
     PieceFeeder *m_feeder; // a child of this widget
-    bool m_isOpen;         // an entry may affect the look of later ones
+    bool m_isOpen;         // an entry may affect the appearance of later entries
     bool m_isInPieces;     // the document is no longer replaced as a whole
 };
 

@@ -4,8 +4,8 @@
 #include "ExtendLineEdit.h"
 
 /**
- * A line edit that keeps Up and Down inside its cell: they move the cursor left and right. The
- * delegate of the table does not use it at present.
+ * A line edit in which Up and Down move the cursor left and right, so that they do not leave the
+ * cell. The delegate of the table does not use it at present.
  */
 class ProfileLineEdit : public ExtendLineEdit
 {

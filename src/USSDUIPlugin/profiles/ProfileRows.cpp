@@ -5,7 +5,7 @@ using namespace Formats;
 namespace
 {
 
-/// Returns the text of a cell: without the blanks around it, or exactly as before if it was not
+/// Returns the text of a cell without the blanks around it, or unchanged if the cell was not
 /// edited.
 QString cellText(const QString &cell, const QString &before)
 {
@@ -22,8 +22,8 @@ bool isSame(const ProfileRows::Row &row, const USSDProfile &profile)
     return row.name == profile.name && row.code == profile.value;
 }
 
-/// Returns true if the user has removed the profile. Emptying the code removes a profile; a profile
-/// that never had a code is removed by emptying its name.
+/// Returns true if the user has removed the profile. A profile is removed if its code is cleared. A
+/// profile that never had a code is removed if its name is cleared.
 bool isTakenAway(const ProfileRows::Row &row, const USSDProfile &before)
 {
     return isBlank(row.code) && (!isBlank(before.value) || isBlank(row.name));

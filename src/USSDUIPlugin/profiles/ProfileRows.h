@@ -12,7 +12,7 @@ namespace ProfileRows
 
 enum Column { NameColumn = 0, CodeColumn = 1, ColumnCount = 2 };
 
-const int ROWS = 100; // the table shows no profiles beyond these rows
+const int ROWS = 100; // the table does not show profiles beyond these rows
 
 /** The two cells of a row. */
 struct Row {
@@ -20,11 +20,11 @@ struct Row {
     QString code;
 };
 
-/// Returns the profiles that the rows stand for, in order. Row i shows profile i of `shown`, if
+/// Returns the profiles that the rows describe, in order. Row i shows profile i of `shown`, if
 /// there is one: the result takes the name and the code from the row and all other fields from the
-/// profile. A row whose code has been emptied is left out, and so is a new row without a code,
-/// because there is nothing to send. A profile without a code or a name stays unchanged unless its
-/// row is edited. Profiles beyond the last row are kept.
+/// profile. A row whose code has been cleared is left out. So is a new row without a code, because
+/// there is nothing to send. A profile without a code or a name stays unchanged unless its row is
+/// edited. Profiles beyond the last row are kept.
 QList<Formats::USSDProfile> profiles(const QList<Row> &rows,
                                      const QList<Formats::USSDProfile> &shown);
 

@@ -28,7 +28,7 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
 {
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
-    // A text from the file may be longer; the editor must not cut it.
+    // A text from the file may be longer than the limit, and the editor must not cut it off.
     edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
     edit->setFrame(false); // the rows have no room for a frame
     if (index.column() == ProfileRows::CodeColumn)

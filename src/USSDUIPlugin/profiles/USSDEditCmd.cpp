@@ -67,8 +67,8 @@ void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
     USSD_LOG_EXIT(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
 }
 
-/// Returns the path to use from now on: the new one, or the old one if the old file cannot be
-/// copied.
+/// Returns the path to use from now on. This is the new path, or the old path if the old file
+/// cannot be copied.
 QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newPath)
 {
     if (QFile::exists(newPath) || !QFile::exists(oldPath))
@@ -135,8 +135,8 @@ void USSDEditCmd::noteReading(bool isSystem, Reading reading)
     (isSystem ? m_systemFileReading : m_userFileReading) = reading;
 }
 
-/// Returns true if the file may be overwritten. A file that was not read completely must be kept,
-/// and so must a file that has appeared since the profiles were read.
+/// Returns true if the file may be overwritten. A file that was not read completely must be kept. A
+/// file that has appeared since the profiles were read must be kept, too.
 bool USSDEditCmd::mayBeSavedOver(bool isSystem)
 {
     const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
@@ -186,8 +186,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // This call has no effect, because the file has been deleted above. A file that could not be
-    // deleted keeps its permissions: its owner must be able to read it afterwards.
+    // This call has no effect, because the file has been deleted above. If the file could not be
+    // deleted, its permissions stay unchanged, so that its owner can still read it.
     if (!file.exists())
         file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {

@@ -20,7 +20,7 @@ class QXmlStreamReader;
 
 /**
  * The command profiles, first those of the system file and then those that the user added, and the
- * window in which the user edits them. GUI thread only.
+ * window in which the user edits them. Must be used on the GUI thread.
  *
  * The constructor reads the list, so a second object reads the files again. InitDialog() builds the
  * window and Exec() runs it. Exec() also returns if the host deletes the window.
@@ -47,17 +47,17 @@ public:
     bool skipXmlReaderTillString(QXmlStreamReader &reader, QString name);
     /// Adds the profiles of one file. A user profile is dropped if its code is already in the list.
     void load(QString xmlFilePath, bool isSystem);
-    /// Replaces the list by the profiles of both files.
+    /// Replaces the list with the profiles of both files.
     void load();
-    /// Replaces `list` by all profiles, in order.
+    /// Replaces `list` with all profiles, in order.
     void GetProfileList(QList<Formats::USSDProfile> &list);
-    /// Writes the system profiles or the user profiles to their file. The old file is deleted
-    /// first, on purpose, so a failure leaves no file.
+    /// Writes the system profiles or the user profiles to their file. Deletes the old file first,
+    /// on purpose, so after a failure there is no file.
     int saveToXMLFile(bool isSystem);
 
     /// Builds the window in a frame whose parent is `parent`.
     void InitDialog(QWidget *parent);
-    /// Runs the window. Returns true if the user saved.
+    /// Runs the window. Returns true if the user has saved the profiles.
     bool Exec();
     void SetLanguage();
     static QString tr(const QString &key);
@@ -92,7 +92,7 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
-    /// Which files can be written, and what to tell the user about the others.
+    /// The files that can be written, and the messages about the other files.
     struct SavePlan {
         SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
 
@@ -120,8 +120,8 @@ private:
     QList<Formats::USSDProfile> m_listUSSDProfiles;
     Formats::CmdEdit m_cmdEditSetting;
     QPointer<USSDLogic> m_pLogic; // not owned
-    // This object owns the frame, and the frame owns all other widgets. The host may delete any of
-    // them.
+    // This object owns the frame, and the frame owns all other widgets. However, the host may
+    // delete any of them.
     QPointer<QWidget> m_pContainer;
     QPointer<ExtendDialog> m_pFrame;
     ProfileTableItemDelegate m_delegate;
@@ -129,10 +129,11 @@ private:
     QPointer<QLabel> m_pInfoLabel;
     QPointer<QPushButton> m_pSaveButton;
     QPointer<QPushButton> m_pCancelButton;
-    QTableWidgetItem *m_pEditedItem; // the last changed cell; null, with indexes -1, if none
+    QTableWidgetItem *m_pEditedItem; // the last changed cell; null, with indexes -1, if there is
+                                     // none
     int m_iEditedColumn;
     int m_iEditedRow;
-    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message waits or is open
+    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message is queued or open
     bool m_bSaved;
     Reading m_systemFileReading;
     Reading m_userFileReading;

@@ -1,4 +1,4 @@
-/* The part of USSDEditCmd that is the window in which the user edits the profiles. */
+/* The part of USSDEditCmd that implements the window in which the user edits the profiles. */
 #include "USSDEditCmd.h"
 
 #include <QHBoxLayout>
@@ -89,7 +89,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // Return ends the editing of a cell; it must not press a button.
+    // Return ends the editing of a cell, so it must not press a button.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }
@@ -267,17 +267,17 @@ bool USSDEditCmd::isDuplicate(int row, int column) const
     return false;
 }
 
-/// Returns the text of a cell as it would be saved: a code loses the blanks around it, which a file
-/// written by hand may contain.
+/// Returns the text of a cell as it would be saved. Blanks around a code are removed; a file
+/// written by hand may contain them.
 QString USSDEditCmd::savedText(int row, int column) const
 {
     const QString text = cellText(row, column);
     return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
-/// Queues the message about a duplicate. The delegate and the table are still working on the cell
-/// when they report that its editor has closed, and a message runs an event loop in which the host
-/// may delete both.
+/// Queues the message about a duplicate. When the delegate and the table report that the editor has
+/// closed, they are still working on the cell. A message runs an event loop in which the host may
+/// delete both.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))
@@ -298,7 +298,7 @@ void USSDEditCmd::OnDuplicatesFound()
     }
 }
 
-/// Tells the user about the duplicate, empties the cell and opens it again.
+/// Informs the user about the duplicate, empties the cell and opens it again.
 void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
 {
     m_pTable->setCurrentItem(item); // closes the editor that Tab opened in the next cell
@@ -343,11 +343,12 @@ void USSDEditCmd::OnClickedSaveButton()
 {
     USSD_LOG_SCOPE();
     if (m_pTable) {
-        m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor,
-        OnEditorClosed(nullptr);          // whose closing the delegate does not report
+        m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor
+        OnEditorClosed(nullptr);          // the delegate does not report that this editor has
+                                          // closed
     }
     if (!m_pTable || !m_refusedItems.isEmpty())
-        return; // the refused cell is about to be opened again
+        return; // the cell of the refused text is about to be opened again
     QList<USSDProfile> newList;
     bool changed = false;
     readTableProfiles(newList, changed);
@@ -363,7 +364,8 @@ void USSDEditCmd::OnClickedSaveButton()
     saveAsPlanned(plan);
 }
 
-/// Finds out what would prevent saving. This happens first, because saving deletes the old files.
+/// Finds out whether something prevents saving. This must happen first, because saving deletes the
+/// old files.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;
@@ -373,7 +375,7 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 }
 
 /// Returns true if the file is to be written. A file that cannot be written may stay as it is if
-/// its profiles have not changed: the system file often belongs to root.
+/// its profiles have not changed. This is common, because the system file often belongs to root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);

@@ -7,22 +7,22 @@
 
 /**
  * Decides whether a call-back of the device SDK may use the logic object, and keeps the object
- * alive until the call-back returns. Call-backs enter from any thread; the GUI thread opens and
- * closes the gate.
+ * alive until the call-back returns. Call-backs enter the gate on any thread; the GUI thread opens
+ * and closes the gate.
  *
  * No call-back enters while the object is being constructed. The SMS call-back, which is registered
- * last, waits until construction is complete, because the device reports only once, soon after the
- * registration, that short messages can be sent.
+ * last, waits until construction is complete. The reason is that the device reports only once, soon
+ * after the registration, that short messages can be sent.
  */
 class CallbackGate
 {
 public:
     CallbackGate();
 
-    /// Announces that this thread is about to construct the object.
+    /// Announces that the calling thread is about to construct the object.
     void startOpening();
     void open();
-    /// Turns new call-backs away and returns once every other thread has left the gate.
+    /// Refuses new call-backs, and returns when every other thread has left the gate.
     void close();
 
     enum Patience { DoNotWait, WaitForOpening };
@@ -41,10 +41,10 @@ private:
     QWaitCondition m_changed;
     State m_state;
     Qt::HANDLE m_maker;         // the thread that constructs the object
-    QList<Qt::HANDLE> m_inside; // the thread of each call-back inside
+    QList<Qt::HANDLE> m_inside; // the thread of each call-back that has entered
 };
 
-/** Holds a pass through the gate for the duration of one call-back. */
+/** Enters the gate for the duration of one call-back, if the gate lets the call-back in. */
 class CallbackPass
 {
 public:

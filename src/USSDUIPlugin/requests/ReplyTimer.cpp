@@ -71,8 +71,8 @@ bool ReplyTimer::isArmed(quint64 arming) const
     return m_armed && m_arming == arming;
 }
 
-/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, which the
-/// QTimer runs on, even if setClock() has set another one. The caller holds m_state.
+/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, by which
+/// the QTimer runs, even if setClock() has set another clock. Must be called with m_state locked.
 bool ReplyTimer::wakesWithin(int milliseconds) const
 {
     return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
@@ -89,8 +89,8 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
-/// Stops the QTimer on its own thread. On any other thread, the QTimer is left to fire once in
-/// vain, which costs less than an event that would stop it.
+/// Stops the QTimer if called on its own thread. On any other thread, the QTimer may fire once
+/// without an effect, which costs less than an event that stops it.
 void ReplyTimer::stopIfOwner(QMutexLocker &locker)
 {
     locker.unlock();
@@ -112,7 +112,7 @@ void ReplyTimer::catchUp()
         stop();
 }
 
-/// Notes when the QTimer fires next. The QTimer repeats until the time-out is disarmed.
+/// Records when the QTimer fires next. The QTimer repeats until the time-out is disarmed.
 void ReplyTimer::repeats()
 {
     QMutexLocker locker(&m_state);
@@ -128,7 +128,7 @@ quint64 ReplyTimer::dueArming() const
 void ReplyTimer::timerEvent(QTimerEvent *event)
 {
     const quint64 due = dueArming();
-    if (due == 0) { // disarmed or armed again while this event was queued
+    if (due == 0) { // disarmed, or armed again, while this event was queued
         catchUp();
         return;
     }

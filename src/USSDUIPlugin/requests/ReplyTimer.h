@@ -7,22 +7,22 @@
 class QMutexLocker;
 
 /**
- * The response time-out. Any thread may arm and disarm it, and isArmed() reflects the change at
- * once. The QTimer itself follows on its own thread, the only thread that may start or stop it.
+ * The response time-out. It may be armed and disarmed on any thread, and isArmed() reflects the
+ * change at once. The QTimer itself is started and stopped only on its own thread, a little later.
  * timeout() is emitted on that thread, only while the time-out is armed, and only after the time
  * has really elapsed.
  *
- * The QTimer follows only where it must. If it fires before the deadline, it checks the clock and
- * restarts for the remaining time; if it is no longer needed, it stops when it fires. A command
- * that is answered in time therefore costs no event and no system timer of its own.
+ * The QTimer is started and stopped only if necessary. If it fires before the deadline, it checks
+ * the clock and restarts for the remaining time. If it is no longer needed, it stops when it fires.
+ * A command that is answered in time therefore needs neither an event nor a separate system timer.
  *
- * Every arming has a number, so that a late disarm() cannot hit a newer arming.
+ * Every arming has a number, so that a late disarm() cannot affect a newer arming.
  */
 class ReplyTimer : public QTimer
 {
     Q_OBJECT
 public:
-    typedef qint64 (*Clock)(); // returns milliseconds that never go back
+    typedef qint64 (*Clock)(); // returns milliseconds and never runs backwards
 
     explicit ReplyTimer(QObject *parent = nullptr);
 
@@ -32,18 +32,18 @@ public:
     /// Disarms the time-out only if `arming` is the newest arming.
     void disarm(quint64 arming);
     bool isArmed() const;
-    /// Returns true if `arming` is the newest arming and still armed.
+    /// Returns true if `arming` is the newest arming and has not been disarmed.
     bool isArmed(quint64 arming) const;
-    /// Returns the arming that has run out while timeout() is being emitted, and 0 otherwise. Only
-    /// for the thread of the timer.
+    /// Returns the arming that has run out while timeout() is being emitted, and 0 otherwise. Must
+    /// be called on the thread of the timer.
     quint64 runOutArming() const { return m_runOut; }
 
     /// Sets the clock of all timers; null restores the monotonic system clock.
     static void setClock(Clock clock);
 
 public slots:
-    /// Starts or stops the QTimer to match the arming. Call this on the thread of the timer after a
-    /// replaced clock has jumped.
+    /// Starts or stops the QTimer to match the arming. Must be called on the thread of the timer
+    /// after a clock that setClock() has set has jumped.
     void catchUp();
 
 protected:
@@ -63,7 +63,7 @@ private:
     qint64 m_deadline;
     qint64 m_wake; // when the QTimer fires next, by the system clock; -1 while it is stopped
 
-    quint64 m_runOut; // only for the thread of the timer
+    quint64 m_runOut; // used on the thread of the timer only
 };
 
 #endif

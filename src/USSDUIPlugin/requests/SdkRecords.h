@@ -16,10 +16,10 @@ int commandBytes(const QString &command);
 /// TKSV_USSD_MAX_COMMAND_BYTES.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
-/// The maximum length of a text in UTF-16 units, in case its terminating zero is missing.
+/// The maximum length of a text in UTF-16 code units, in case its terminating zero is missing.
 const int MOST_UNITS = 1024 * 1024;
 
-/// Returns the text up to the terminating zero unit; empty for null.
+/// Returns the text up to its terminating zero code unit. Returns an empty string for null.
 QString textFromUnits(const unsigned short *units);
 
 /// Returns the text of a response record, which must not be null.
@@ -36,7 +36,7 @@ struct SmsSendResult {
 };
 
 SmsSendResult smsSendResult(const void *record);
-/// Returns the SMS status; 0, which is no valid status, for null.
+/// Returns the SMS status. Returns 0, which is not a valid status, for null.
 int smsStatus(const void *record);
 
 } // namespace SdkRecords

@@ -5,38 +5,38 @@
 
 #include "tksv.h"
 
-/** Who sent a command; also the component index of the configuration. */
+/** The sender of a command. It is also the component index of the configuration. */
 enum _COMPONENT {
     COMPONENT_BALANCE = 0,
     COMPONENT_CHARGE = 1,
-    COMPONENT_ONLINE_CHARGE = 2, // configuration only, nothing is sent with it
+    COMPONENT_ONLINE_CHARGE = 2, // used in the configuration only, never for a command
     COMPONENT_MSISDN = 3,
     COMPONENT_PREPOST_QUERY = 4,
     COMPONENT_GENERAL = 5,
     COMPONENT_USSD_SMS = 6
 };
 
-/** How a dialog is placed. */
+/** The ways to show a dialog. */
 enum WINDOW_MODEL {
-    WINDOW_MODEL_MODAL = 0,   // in a frame of its own
-    WINDOW_MODEL_EMBEDDED = 1 // as a child of a host's widget
+    WINDOW_MODEL_MODAL = 0,   // in a separate frame
+    WINDOW_MODEL_EMBEDDED = 1 // as a child of a widget of the host
 };
 
-/** What SendUSSDCommand() returns. */
+/** The results of SendUSSDCommand(). */
 enum SendResult {
     SEND_OK = 0,
     SEND_FAILED = 1,
-    SEND_QUEUED = 12 // nothing of ours returns it; the dialogs treat it as SEND_OK
+    SEND_QUEUED = 12 // never returned by the plug-in itself; the dialogs treat it as SEND_OK
 };
 
-/// Whether an answer to a command with this result will come.
+/// Returns whether a command with this result will receive an answer.
 inline bool isAnswerAwaited(int result)
 {
     return result == SEND_OK || result == SEND_QUEUED;
 }
 
-/// The key of the text that is shown for a command that could not be sent. `failed` is the key for
-/// every reason but a device that did not answer in time.
+/// Returns the key of the text that is shown for a command that could not be sent. The key is
+/// `failed`, unless the device did not answer in time.
 inline const char *failureKey(int status, const char *failed)
 {
     return status == TKSV_STATUS_DEVICE_TIMEOUT ? "USSD_CODE_TIME_OUT" : failed;
@@ -47,7 +47,7 @@ struct USSDCmdOrResp {
     USSDCmdOrResp() : component(COMPONENT_BALANCE) {}
     USSDCmdOrResp(_COMPONENT sender, const QString &text) : component(sender), command(text) {}
 
-    _COMPONENT component; // whose answer it will be
+    _COMPONENT component; // the sender, which also receives the answer
     QString command;      // as typed or configured
 };
 

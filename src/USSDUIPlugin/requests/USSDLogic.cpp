@@ -20,7 +20,7 @@ namespace
 
 const int SENT = 0;
 const int FAILED = 1;
-const int NOT_THE_HEAD = 2; // inside only
+const int NOT_THE_HEAD = 2; // used in this file only
 
 const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits for the end of the one before it
 
@@ -56,7 +56,7 @@ ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
 
 /**
  * The only access to the pending commands. LockedQueue()->function() holds m_mutex until the end of
- * the expression, so an expression contains nothing else that takes a lock or calls other code.
+ * the expression, so the expression must not take another lock or call other code.
  */
 class USSDLogic::LockedQueue
 {
@@ -110,7 +110,7 @@ void USSDLogic::Destroy()
     LockedQueue()->clear(); // the list goes with its owner, or the next one would wait behind it
 }
 
-// These two log under the constructor's name, of which they are a part.
+// The two functions below are parts of the constructor and log under its name.
 static const char CONSTRUCTOR[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
@@ -228,8 +228,9 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// The silence after a failure is deliberate: the caller sees the result, nobody gets a signal, and
-/// the entries behind wait for the next command that finds itself alone, or for a stale reply.
+/// Sends the head to the device. The silence after a failure is deliberate: the caller receives the
+/// result, and no signal is emitted. The commands after the failed one wait until a new command is
+/// sent alone, or until a late reply arrives.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();
@@ -259,7 +260,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     return SENT;
 }
 
-/// With m_mutexSendCmd held.
+/// Starts the time-out for the head. Must be called with m_mutexSendCmd held.
 void USSDLogic::armReplyTimer(quint64 number)
 {
     if (!m_pTimer)
@@ -270,13 +271,15 @@ void USSDLogic::armReplyTimer(quint64 number)
     m_timedHead = number;
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
     locker.unlock();
-    // A reply that was quicker than this found nothing to take back.
+    // A reply that arrived before the time-out was armed had nothing to cancel, so the time-out is
+    // cancelled here.
     if (!LockedQueue()->awaitsReply(number))
         m_pTimer->disarm(arming);
 }
 
-/// Wakes the waiting sender, and stops the time-out unless it is for a head behind `lastHead`. Such
-/// a head was sent while a reply was on its way from its claim to this call.
+/// Wakes the waiting sender, and cancels the time-out unless it was armed for a head after
+/// `lastHead`. Such a head was sent after a reply had been claimed, but before this function was
+/// called.
 void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
     QMutexLocker locker(&m_mutexTimeout);
@@ -340,7 +343,8 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
 void USSDLogic::OnTimeOut()
 {
     USSD_LOG_SCOPE();
-    // Looked up first: a head that a quick reply brings up from here on has not run out of time.
+    // The number is read first. A quick reply may bring up another head from here on, and that head
+    // has not timed out.
     const quint64 number = LockedQueue()->headNumber();
     CommandQueue::Head head;
     if (!stopRunOutTimer())
@@ -355,8 +359,9 @@ void USSDLogic::OnTimeOut()
     checkPendingCmds();
 }
 
-/// Wakes whoever waits and cancels the arming that ran out. Returns false when the command that it
-/// was for has been answered meanwhile: the head is another one then, perhaps not handed over yet.
+/// Wakes the waiting sender and cancels the arming that ran out. Returns false if the command of
+/// this arming has been answered meanwhile, because the current head is then another command, which
+/// may not have been sent yet.
 bool USSDLogic::stopRunOutTimer()
 {
     const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;
@@ -425,7 +430,7 @@ unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
 
 void USSDLogic::announceSmsResult(void *data)
 {
-    // Logged under the call-back's name, which is what a reader of the log looks for.
+    // The lines use the name of the call-back, because a reader of the log looks for this name.
     static const char function[] = "SmsCallBackMethod";
     USSD_LOG_AS(function, ": Obtained the EVENT_SMS_ONSENDRESULT");
     if (!data)

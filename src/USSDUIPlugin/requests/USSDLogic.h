@@ -17,10 +17,10 @@ class QFile;
 class QXmlStreamReader;
 class ReplyTimer;
 
-/** Whose look GetCharSet() asks for. */
+/** Selects the appearance that GetCharSet() returns. */
 enum _CHAR_SET_COLOR { CHAR_SET_SEND = 0, CHAR_SET_RECEIVE = 1 };
 
-/** What the attribute getters of the configuration are asked for; 3 and 4 are not used. */
+/** The attributes that the attribute getters of the configuration accept. 3 and 4 are not used. */
 enum ComponentAttribute {
     ATTR_VALUE = 0,
     ATTR_POS = 1,
@@ -33,24 +33,25 @@ enum ComponentAttribute {
     ATTR_URL = 10
 };
 
-/** Limits of the request pipeline, in milliseconds. */
+/** The limits of the request pipeline, in milliseconds. */
 struct ReplyTimes {
-    int reply;    // how long a reply may take
-    int previous; // how long a new time-out waits for the one before it to be taken back
+    int reply;    // time until a reply must arrive
+    int previous; // time that a new time-out waits until the previous one is cancelled
 };
 
 /**
- * Holds the configuration, sends the commands of all dialogs to the device, one at a time, and
+ * Holds the configuration, sends the commands of all dialogs to the device one at a time, and
  * announces replies, time-outs, device failures and SMS events.
  *
- * The first use constructs the singleton on the GUI thread, which also sends, clears, handles
- * time-outs and destroys. The device SDK runs the three call-backs on its own threads, and the
- * reply call-back sends the next pending command there.
+ * The singleton is constructed on the GUI thread when it is first used. Commands are sent and
+ * cleared, time-outs are handled, and the singleton is destroyed on this thread, too. The device
+ * SDK runs the three call-backs on its own threads, and the reply call-back sends the next pending
+ * command there.
  *
  * Locks: m_mutex guards the pending commands for one call of CommandQueue, and no other lock is
- * taken meanwhile. m_mutexSendCmd makes the hand-over of one command atomic; m_mutexTimeout, taken
- * inside it, guards the start of the time-out. No lock is held while a signal is emitted or the
- * host is called.
+ * taken meanwhile. m_mutexSendCmd makes the sending of one command atomic. m_mutexTimeout, which is
+ * taken inside it, guards the start of the time-out. No lock is held while a signal is emitted or
+ * the host is called.
  */
 class USSDLogic : public QObject
 {
@@ -62,10 +63,11 @@ public:
     typedef Formats::ConfigBalance Balance;
     typedef unsigned char (*EventCallback)(int event, void *data);
 
-    /// The singleton, made on the first call. GUI thread.
+    /// Returns the singleton, which the first call creates. Must be called on the GUI thread.
     static USSDLogic *GetUSSDLogicInstance();
-    /// Waits for running call-backs, then deletes the singleton with its time-out and its list. The
-    /// call-backs stay registered: that is unSDKRegisterEvent(). GUI thread.
+    /// Waits for running call-backs, and then deletes the singleton with its time-out and its list.
+    /// The call-backs stay registered until unSDKRegisterEvent() is called. Must be called on the
+    /// GUI thread.
     static void Destroy();
     ~USSDLogic() override;
 
@@ -78,12 +80,15 @@ public:
     void loadCmdEditSettings(QXmlStreamReader &reader);
     void loadClearBtnSettings(QXmlStreamReader &reader);
     void loadAutoUssdSettings(QXmlStreamReader &reader);
-    /// These three read their section anew; `out` is unchanged when the file cannot be opened.
+    /// The following functions set `out` to the settings of one section. All but GetPrePostDiffer()
+    /// read the section from the file again, and leave `out` unchanged if the file cannot be
+    /// opened.
     void GetCharSet(_CHAR_SET_COLOR which, Formats::Char &out);
     void GetClearBtnSetting(Formats::ClearHistory &out);
     void GetCmdEditSetting(Formats::CmdEdit &out);
     void GetPrePostDiffer(Formats::PrePostDiffer &out);
-    /// -1, or `out` unchanged, for a paid type, component or attribute that has no answer.
+    /// Returns the attribute. Returns -1, or leaves `out` unchanged, if the paid type, the
+    /// component or the attribute is unknown.
     int GetComponentAttrInt(int paidType, int component, int attr);
     void GetComponentAttrStr(int paidType, int component, int attr, QString &out);
     int getBalanceIntAttr(int paidType, int attr);
@@ -94,25 +99,29 @@ public:
     void getChargeStrAttr(int paidType, int attr, QString &out);
     void getOnlineChargeStrAttr(int paidType, int attr, QString &out);
     void getMSISDNStrAttr(int paidType, int attr, QString &out);
-    /// The window flags that go with the longest configured prefix of this IMSI.
+    /// Sets `flags` to the windows for the longest configured prefix of this IMSI. Returns whether
+    /// there is such a prefix.
     bool CheckImsiIsValid(QString const &imsi, int &flags);
     bool IsImsiDynamicMatch();
-    /// What a profile is called on the screen.
+    /// Returns the name of the profile that is shown on the screen.
     QString getProfileShowText(const Formats::USSDProfile &profile);
 
     // ---- requests
-    /// Queues a copy of `cmd` and, when nothing is in flight, hands it over. 0 when it was handed
-    /// over or queued, 1 when it failed; `*status` is then the device's.
+    /// Queues a copy of `cmd`, and sends it if no command is in flight. Returns 0 if the command
+    /// was sent or queued. Returns 1 if it could not be sent; `*status` is then the status of the
+    /// device.
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
-    /// Hands the head of the list, whose text this is, to the device. A refused or too long command
-    /// leaves the list in silence: no signal, and the next one is not sent.
+    /// Sends the head of the list, whose text is `command`, to the device. A command that is
+    /// refused or too long is removed from the list. In this case no signal is emitted, and the
+    /// next command is not sent.
     int sendUSSDCommand(QString command, int *status);
     void copyCmdToList(USSDCmdOrResp cmd);
     void checkPendingCmds();
-    /// Ends the USSD session on the device; list and time-out stay as they are. 0 or 1.
+    /// Ends the USSD session on the device. The list and the time-out stay unchanged. Returns 0 on
+    /// success, otherwise 1.
     int ReleaseUSSDCommand();
     int releaseUSSDCommand();
-    /// Drops all but the prepaid/postpaid queries, also the command in flight.
+    /// Drops all commands except the prepaid/postpaid queries, even if the command is in flight.
     static void ClearQueuedCmds();
     /// Drops the commands of the USSD-SMS dialog.
     static void ClearUSSDSMSQueuedCmds();
@@ -124,20 +133,21 @@ public:
     static unsigned char OnDeviceMgrInitEvent(int event, void *data);
     static unsigned char SmsCallBackMethod(int event, void *data);
 
-    /// Whether the device last said that it can send short messages.
+    /// Returns whether the device has last reported that it can send short messages.
     bool CanSendSMS();
-    /// Takes all three call-backs off the device SDK.
+    /// Unregisters the three call-backs from the device SDK.
     void unSDKRegisterEvent();
 
     static QString tr(const QString &key);
 
-    /// Replaces the pipeline's limits for all later commands (the shipped ones are 30 s and 3 s,
-    /// the first of which $USSD_REPLY_TIMEOUT_MS can change). GUI thread.
+    /// Replaces the pipeline's limits for all later commands. The default limits are 30 s and 3 s;
+    /// $USSD_REPLY_TIMEOUT_MS can change the limit of 30 s. Must be called on the GUI thread.
     static void setReplyTimes(const ReplyTimes &times);
     static ReplyTimes replyTimes();
 
 signals:
-    // Emitted on the thread that brings the news: receivers on the GUI thread get them queued.
+    // Emitted on the thread that receives the event. The connections to receivers on the GUI thread
+    // are therefore queued.
     void responseReceived(int iComponent, QString strResponse);
     void SmsSendResult(bool ok, QString number, QString text);
     void CanSendSMS(bool can);
@@ -169,7 +179,7 @@ private:
     static QWaitCondition m_waitCondition;
     static ReplyTimer *m_pTimer;
     static std::atomic<bool> m_bCanSendSMS;
-    static quint64 m_timedHead; // the head that the timer was armed for; guarded by m_mutexTimeout
+    static quint64 m_timedHead; // the head for which the timer was armed; guarded by m_mutexTimeout
     static CallbackGate m_gate;
     static ReplyTimes m_replyTimes;
 

@@ -1,6 +1,6 @@
 /*
- * The part of USSDLogic that decides when the configuration file is read, and returns the settings
- * of that file. PluginConfig.cpp reads the sections.
+ * The part of USSDLogic that decides when the configuration file is read, and that returns the
+ * settings in this file. PluginConfig.cpp reads the sections.
  */
 #include "USSDLogic.h"
 

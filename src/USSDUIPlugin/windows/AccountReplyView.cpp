@@ -16,7 +16,7 @@
 namespace
 {
 
-const int WIDTH = 300; // pixels, the width of the link too
+const int WIDTH = 300; // pixels; also the width of the link
 
 const char *const OWN_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"};
 
@@ -71,7 +71,8 @@ void AccountReplyView::showText(const QString &text)
     setReply(holdsRightToLeftLetter(text) ? ServiceReplyLabel::withCodesMarked(text) : text);
 }
 
-/// Shows a heavy text in pieces, each as a paragraph of its own. No network can send such a text.
+/// Shows the reply. A heavy text, which no network can send, is shown in pieces, each as a separate
+/// paragraph.
 void AccountReplyView::setReply(const QString &text)
 {
     m_feeder->drop();
@@ -101,8 +102,8 @@ QSize AccountReplyView::minimumSizeHint() const
     return sizeHint();
 }
 
-/// Copies the selection without the direction marks that showText() adds: a copied code must be one
-/// that can be sent.
+/// Copies the selection without the direction marks that showText() adds, so that a copied code can
+/// be sent.
 QMimeData *AccountReplyView::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;

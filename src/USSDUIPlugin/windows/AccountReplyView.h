@@ -7,15 +7,15 @@ class PieceFeeder;
 
 /**
  * Shows the network's reply as plain text, whatever it contains, in a box with a fixed number of
- * lines; a longer reply scrolls. The plug-in's own texts follow the language. A code such as *111#
- * reads from left to right even among right-to-left letters.
+ * lines. A longer reply can be scrolled. The plug-in's own texts follow the language. A code such
+ * as *111# is read from left to right, even within right-to-left text.
  */
 class AccountReplyView : public QTextEdit
 {
 public:
     explicit AccountReplyView(QWidget *parent = nullptr);
 
-    /// Sets how many lines are visible at once.
+    /// Sets the number of visible lines.
     void setLines(int lines);
     /// Shows a reply, or one of the plug-in's own texts in the current language.
     void showText(const QString &text);

@@ -28,8 +28,8 @@ QString onlineAddress(const QString &configured)
 
 QString onlineLinkMarkup(const QString &address, const QString &shown)
 {
-    // A single arg() call replaces both: an address may contain "%2", which a second call would
-    // replace.
+    // A single arg() call replaces both, because a second call would also replace a "%2" in the
+    // address.
     return QString::fromLatin1("<a href=\"%1\">%2</a>")
         .arg(QtCompat::escapeHtml(address), QtCompat::escapeHtml(shown));
 }

@@ -5,12 +5,12 @@
 
 /* The link to the operator's top-up page. */
 
-/// Returns the address that the link opens: `configured`, with "http://" prepended unless it begins
-/// with "http", or "about:blank" if it is empty.
+/// Returns the address that the link opens. The address is `configured`, with "http://" prepended
+/// unless it begins with "http". Returns "about:blank" if `configured` is empty.
 QString onlineAddress(const QString &configured);
 
-/// Returns a rich-text link to `address` that reads `shown`. Both are escaped, so neither can add
-/// markup.
+/// Returns a rich-text link to `address` with the text `shown`. Both are escaped, so neither can
+/// add markup.
 QString onlineLinkMarkup(const QString &address, const QString &shown);
 
 #endif

@@ -11,7 +11,7 @@
 namespace
 {
 
-// The largest text that a label shows well.
+// The limits of a text that is shown in a label.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;

@@ -4,13 +4,13 @@
 #include <QMessageBox>
 
 /*
- * The message box that shows the network's reply to a top-up. The box consists of Qt's own classes
- * only, so that its deletion needs no code of the plug-in.
+ * The message box that shows the network's reply to a top-up. The box consists only of Qt's own
+ * classes, so it can be deleted without any code of the plug-in.
  */
 namespace ReplyMessageBox
 {
 
-/// Returns a modal box, not shown yet, that is a child of `parent`. The box shows the reply as
+/// Creates a modal box as a child of `parent`, but does not show it. The box contains the reply as
 /// plain text, in a scrolling view if the reply is too long for a label.
 QMessageBox *create(QWidget *parent, const QString &reply);
 

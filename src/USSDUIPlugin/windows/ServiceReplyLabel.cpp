@@ -8,12 +8,11 @@
 namespace
 {
 
-// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING. Qt 4 does not know the newer isolates.
+// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING. Qt 4 does not support the newer isolates.
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 
-/// More characters than a label has room for. Any further character would be laid out in vain at
-/// each repaint.
+/// A label has no room for this many characters. Laying out more at each repaint would be useless.
 const int MOST_LETTERS = 2000;
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)

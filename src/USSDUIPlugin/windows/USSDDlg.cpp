@@ -33,8 +33,8 @@ const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;
 const int MSISDN_LINES = 2;
 
-/// Returns a new child of the dialog with an object name for its role, or null if there is no
-/// memory for the child.
+/// Returns a new child of the dialog with an object name for its role. Returns null if there is not
+/// enough memory.
 template <typename Widget>
 Widget *createWidget(QWidget *dialog, const char *role)
 {
@@ -76,7 +76,7 @@ QString text(const char *key)
 }
 
 /// Returns a tool tip that shows `text` literally, as escaped rich text. In plain text, QToolTip
-/// might take something for markup.
+/// might treat a part as markup.
 QString plainToolTip(const QString &text)
 {
     return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
@@ -141,7 +141,7 @@ void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
 bool USSDDlg::createWidgets()
 {
     m_pCloseButton = createWidget<QPushButton>(this, "CloseButton");
-    // Every function is called, even if one fails, so that each widget that can be created exists.
+    // Every function is called even if one fails, so that as many widgets as possible are created.
     const bool balance = createBalance();
     const bool charge = createCharge();
     const bool onlineCharge = createOnlineCharge();
@@ -216,7 +216,8 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // This text stays if no command can be sent at all, because nothing reports that failure.
+    // If no command can be sent at all, this text stays visible, because nothing reports the
+    // failure.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -234,8 +235,8 @@ void USSDDlg::initChargeComponent()
     limitChargeEdit();
 }
 
-/// Limits what can be entered. If the configuration gives no usable expression, the entry accepts
-/// all characters.
+/// Limits the characters that can be entered. If the configuration contains no usable expression,
+/// the entry accepts all characters.
 void USSDDlg::limitChargeEdit()
 {
     delete m_pChargeEdit->validator();
@@ -340,7 +341,7 @@ void USSDDlg::setLanguageForMSISDN()
     m_pMSISDNStatusTextEdit->retranslate();
 }
 
-/// Names each field after the label beside it, and describes each button by that label, because two
+/// Uses the label next to a field as the field's name and as the button's description, because two
 /// buttons may have the same text.
 void USSDDlg::initAccessibility()
 {
@@ -397,7 +398,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // marks what Return in the entry does
+    m_pChargeActivateButton->setDefault(true); // shows what Return in the entry activates
 }
 
 void USSDDlg::OnCloseButtonClicked()
@@ -414,8 +415,9 @@ void USSDDlg::OnClickedCloseButton()
     emit clickedcloseButton(); // the receiver may delete the dialog
 }
 
-/// Swallows Return: the field or button with the focus has already handled it, and the frame would
-/// also press its default button. Other keys, such as Escape, are passed to the frame.
+/// Accepts Return without any action. The field or button with the focus has already handled it,
+/// and the frame would also press its default button. Other keys, such as Escape, are passed to the
+/// frame.
 void USSDDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -424,7 +426,7 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// Swallows the repeats of Return, so that a key that is held down tops up only once, even if an
+/// Filters out the repeats of Return, so that a key that is held down tops up only once, even if an
 /// answer enables the entry and the button again. A repeat does not close the message box either.
 bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
 {
@@ -433,7 +435,7 @@ bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
     const QKeyEvent *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
         return false;
-    // Some systems do not mark repeats and only leave out the releases between them.
+    // Some systems do not mark repeats; they only omit the releases between them.
     const bool isHeld = key->isAutoRepeat() || m_bReturnDown;
     m_bReturnDown = event->type() == QEvent::KeyPress || key->isAutoRepeat();
     return event->type() == QEvent::KeyPress && isHeld;
@@ -492,8 +494,8 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
-/// Sends the command. A command that could not be read from the configuration is empty, and fails
-/// like a command that the device refuses.
+/// Sends the command. If the command could not be read from the configuration, it is empty. It then
+/// fails like a command that the device refuses.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())
@@ -502,8 +504,8 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
 }
 
 /// Marks the dialog as busy and shows the waiting text. A top-up whose answer appears in a message
-/// box shows no waiting text, but it makes the dialog busy like any other command; otherwise its
-/// answer would be dropped if no other command had been sent before.
+/// box shows no waiting text. However, it makes the dialog busy like any other command; otherwise
+/// its answer would be dropped if no other command had been sent first.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
@@ -541,9 +543,9 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
-/// Shows the answer to a top-up. A message box opens from the event loop, for two reasons: during
-/// the announcement of a reply, it would block the pipeline; in the key handler of the entry, which
-/// reports a refusal, it would let the host delete the entry while the handler runs.
+/// Shows the answer to a top-up. A message box is opened from the event loop for two reasons. While
+/// a reply is announced, the box would block the pipeline. In the key handler of the entry, which
+/// reports a refusal, the host might delete the entry while the handler runs.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
@@ -618,11 +620,11 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
 }
 
 /// Moves the focus from a control that is about to be disabled to the box that will show the
-/// answer. Qt would move it to the next control, which would then receive the keys that are still
-/// being typed.
+/// answer. Otherwise Qt would move it to the next control, which would then receive the keys that
+/// the user is still typing.
 void USSDDlg::parkFocus(_COMPONENT component)
 {
-    QWidget *focus = window()->focusWidget(); // known even while a message box is active
+    QWidget *focus = window()->focusWidget(); // available even while a message box is active
     AccountReplyView *box = statusBoxOf(component);
     if (!focus || !box || !controlsOf(component).contains(focus))
         return;

@@ -25,11 +25,12 @@ class AccountReplyView;
 
 /**
  * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page and
- * own number, each shown if and where the configuration says so. The dialog also asks the network
- * whether the SIM is prepaid or postpaid. GUI thread only.
+ * own number. The configuration decides which of these are shown, and where. The dialog also asks
+ * the network whether the SIM is prepaid or postpaid. Must be used on the GUI thread.
  *
- * The dialog is busy from the first command that is accepted until it is closed; an answer does not
- * end this. A dialog that is not busy drops all answers except the one to the detection.
+ * The dialog becomes busy when its first command is accepted, and stays busy until it is closed,
+ * even after an answer. A dialog that is not busy drops all answers except the answer to the
+ * detection.
  */
 class USSDDlg : public QWidget
 {
@@ -43,20 +44,20 @@ public:
     /// Returns the size that the texts in the current language need, or (-1, -1) before the dialog
     /// is built.
     QSize GetSize();
-    /// Cancels what is in progress, resets and shows the dialog, and requests the balance and the
-    /// own number if they are shown. Does nothing for types other than prepaid and postpaid.
+    /// Cancels the requests in progress, resets and shows the dialog, and requests the balance and
+    /// the own number if they are shown. Does nothing for types other than prepaid and postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the detection if `ask` is true; the outcome goes to the notification service of the
-    /// host. The call copies `inUse`, `postpaid` and `result` to the record that the dialog keeps,
-    /// and sets the three to the values of the record before it returns. Returns 1, or 0 if there
-    /// is no logic.
+    /// Starts the detection if `ask` is true; the notification service of the host receives the
+    /// outcome. The call copies `inUse`, `postpaid` and `result` to the record that the dialog
+    /// keeps. Before it returns, it sets the three to the values of the record. Returns 1, or 0 if
+    /// there is no logic.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
     /// Updates every visible text to the current language, except replies.
     void SetLanguage();
     static QString tr(const QString &key);
 
 public slots:
-    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -151,11 +152,11 @@ private:
     QString m_strOnlineAddress;
     QPointer<USSDLogic> m_pLogic; // not owned
     QGridLayout *m_pGrid;
-    QList<QFrame *> m_listFreeLines;               // separators that have no place in the grid yet
+    QList<QFrame *> m_listFreeLines;               // separators that are not in the grid yet
     QList<QWidget *> m_listTabOrder;               // in the order of the layout
     QHash<int, QPointer<QWidget>> m_hashParkFocus; // by component: the control that had the focus
-    QStringList m_listBoxReplies;                  // replies whose box is still to be closed
-    QPointer<QMessageBox> m_pReplyBox;             // the open box; a child
+    QStringList m_listBoxReplies;                  // replies whose box has not been closed yet
+    QPointer<QMessageBox> m_pReplyBox;             // the open box; a child of the dialog
 
     QLabel *m_pBalanceLabel;
     AccountReplyView *m_pBalanceStatusTextEdit;

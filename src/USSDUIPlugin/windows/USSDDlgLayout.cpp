@@ -28,17 +28,17 @@ const int HORIZONTAL_SPACING = 6;
 const int LABEL_WIDTH = 80;
 const int FIELD_WIDTH = 230;
 const int ROW_HEIGHT = 20;
-const int MARGIN = 16;              // around the whole grid
-const int GAP = 4;                  // between widgets that belong together
-const int ABOVE_CLOSE = 12;         // between the components and the close button
-const int ROWS_OF[] = {2, 3, 1, 1}; // number of rows, by component
+const int MARGIN = 16;              // pixels around the whole grid
+const int GAP = 4;                  // pixels between widgets that belong together
+const int ABOVE_CLOSE = 12;         // pixels between the components and the close button
+const int ROWS_OF[] = {2, 3, 1, 1}; // number of rows of each component
 
 const _COMPONENT COMPONENTS[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_ONLINE_CHARGE,
                                  COMPONENT_MSISDN};
 
 } // namespace
 
-/// Replaces the grid by an empty one. The widgets of the old grid stay.
+/// Replaces the grid with an empty one. The widgets of the old grid are kept.
 void USSDDlg::createGrid()
 {
     delete m_pGrid;
@@ -55,7 +55,7 @@ QSize USSDDlg::GetSize()
 {
     if (!m_pGrid)
         return QSize(-1, -1);
-    // A style sheet may change the font, and so the height of the boxes.
+    // A style sheet may change the font, and with it the height of the boxes.
     for (int i = 0; i < m_listTabOrder.count(); ++i)
         m_listTabOrder.at(i)->ensurePolished();
     m_pGrid->activate(); // otherwise, nested boxes would ignore changes since the last event
@@ -81,7 +81,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     setRowHeights(places.values());
     bool isFirst = true;
     for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
-        // This line has no time, source and function: readers of logs know it in this form.
+        // This line has no time, source or function, because readers of logs expect this form.
         USSD_IF_LOGGING(qDebug("position = %d component=%d", it.key(), it.value()));
         addComponentElements(it.value(), row, isFirst);
     }
@@ -112,7 +112,7 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
         m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
-/// Adds the rows of the component, and a row for a separator if another component is above it.
+/// Counts the rows of the component, and a row for a separator if another component is above it.
 void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
@@ -196,8 +196,8 @@ void USSDDlg::addMSISDNElements(int &row)
     row += ROWS_OF[COMPONENT_MSISDN];
 }
 
-/// Adds a separator between two components. The own number has no separator, so the gap beside it
-/// takes that of its neighbour.
+/// Adds a separator between two components. The own number has no separator, so the gap next to it
+/// uses the separator of its neighbour.
 void USSDDlg::addSeparator(int &row)
 {
     if (!m_listFreeLines.isEmpty())
@@ -214,7 +214,7 @@ void USSDDlg::addCloseButton(int row)
     buttons->addWidget(m_pCloseButton);
     m_pGrid->addLayout(buttons, row, LABEL_COLUMN, 1, COLUMNS, Qt::AlignBottom);
     m_pGrid->setRowStretch(row, 1);
-    // An embedded page has no window of its own that could be closed.
+    // An embedded page has no separate window that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_listTabOrder << m_pCloseButton;
 }
@@ -225,8 +225,9 @@ void USSDDlg::place(QWidget *widget, int row, int column, int columns)
     widget->show();
 }
 
-/// Places the widget in a layout box, below a gap, from the field column on. Inside the box, even a
-/// widget with its own direction starts on the side where the dialog's language begins.
+/// Places the widget in a layout box, below a gap, starting at the field column. Inside the box,
+/// even a widget with its own layout direction starts on the side on which the dialog's text
+/// begins.
 void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
 {
     QHBoxLayout *box = new QHBoxLayout;
@@ -237,7 +238,7 @@ void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int column
     widget->show();
 }
 
-/// Hides all widgets. The layout shows those that it places.
+/// Hides all widgets. The layout shows the widgets that it places.
 void USSDDlg::hideComponents()
 {
     QWidget *const widgets[] = {m_pBalanceLabel,
@@ -262,7 +263,7 @@ void USSDDlg::hideComponents()
     m_listTabOrder.clear();
 }
 
-/// Sets the tab order to the reading order: along each row, then from top to bottom.
+/// Sets the tab order to the reading order: along each row, from top to bottom.
 void USSDDlg::initTabOrder()
 {
     for (int i = 1; i < m_listTabOrder.count(); ++i)

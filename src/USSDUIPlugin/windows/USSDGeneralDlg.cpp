@@ -152,7 +152,7 @@ void USSDGeneralDlg::initWidgets()
     m_pClearButton->setVisible(m_clearBtnSetting.visible);
     if (m_clearBtnSetting.visible)
         enableClearHistoryBtn(false);
-    // An embedded page has no window of its own that could be closed.
+    // An embedded page has no separate window that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_pEditButton->setVisible(m_cmdEditSetting.visible);
     initPreBtns();
@@ -183,7 +183,7 @@ void USSDGeneralDlg::initCombo()
     addProfilesToCombo();
     m_pProfilesCombo->setEditable(true);
     m_pProfilesCombo->setCurrentIndex(-1);
-    // The combo box is hidden, so the field that is visible receives the focus in its place.
+    // The combo box is hidden, so the visible field receives the focus instead.
     m_pProfilesCombo->setFocusProxy(m_pUSSDCmdEdit);
     if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
         edit->setMaxLength(MAX_COMBO_CODE);
@@ -200,7 +200,7 @@ void USSDGeneralDlg::initFixedSizes()
     m_pHistoryView->setCursorWidth(0);
 }
 
-/// Names the fields for screen readers after the labels above them.
+/// Uses the labels above the fields as the fields' names for screen readers.
 void USSDGeneralDlg::initAccessibility()
 {
     m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
@@ -285,7 +285,7 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Swallows every key that reaches the dialog itself, so that Escape does not close the frame and
+/// Accepts every key that reaches the dialog itself, so that Escape does not close the frame and
 /// Return does not press its default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
@@ -441,8 +441,8 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     return false;
 }
 
-/// Moves the focus to the transcript, because the fields are about to be disabled. Qt would move it
-/// to Clear, which would then receive the keys that are still being typed.
+/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise Qt
+/// would move it to Clear, which would then receive the keys that the user is still typing.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -450,8 +450,8 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
-/// Returns true if the user works in a widget of the host, from which an answer must not take the
-/// focus.
+/// Returns true if the user works in a widget of the host. An answer must not take the focus from
+/// it.
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();

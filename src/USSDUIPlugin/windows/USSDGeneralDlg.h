@@ -20,12 +20,12 @@ class QVBoxLayout;
 class TranscriptView;
 
 /**
- * The general window: it sends a command that is typed or belongs to a preset button, and shows
- * what was sent and received in a coloured transcript. GUI thread only.
+ * The general window. It sends a command that the user types or selects with a preset button, and
+ * shows the sent and received texts in a coloured transcript. Must be used on the GUI thread.
  *
  * While the window is idle, Send is enabled if the entry field contains text. While an answer is
  * awaited, every control that sends is disabled. The first answer for this window's component ends
- * the wait; a later one is dropped.
+ * the wait; a later answer is dropped.
  */
 class USSDGeneralDlg : public QWidget
 {
@@ -46,7 +46,7 @@ public:
     void setProfileFocus();
     void showHideCmdBtn();
     static QString tr(const QString &key);
-    /// Returns the object name, as style sheets use it, of the widget with this role.
+    /// Returns the object name of the widget with this role. Style sheets use this name.
     static QString objectNameOf(const char *role);
 
     bool isShowPreBtns();
@@ -57,7 +57,7 @@ public:
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -98,7 +98,8 @@ private:
     void initTabOrder();
 
     void changeSendButtonStatus();
-    /// Sends a command, and shows a refusal as the answer. Returns true if an answer is awaited.
+    /// Sends a command. If the command is refused, shows the refusal as the answer. Returns true if
+    /// an answer is awaited.
     bool sendCommand(const QString &command);
     void parkFocus();
     bool isFocusElsewhere() const;

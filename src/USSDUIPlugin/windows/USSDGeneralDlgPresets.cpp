@@ -36,19 +36,20 @@ const int RIGHT_COLUMN = 2; // the first of five columns with the transcript and
 const int RIGHT_COLUMNS = 5;
 const int PROMPT_ROW = 8;
 const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int BOX_SPACING = 4;        // pixels; with more, the rows would not fit into the fixed window
+const int BOX_SPACING = 4;        // pixels; with a larger spacing, the rows would not fit into the
+                                  // fixed window
 
-const int ELIDE_WIDTH = 127; // pixels; does not depend on the width of the button
+const int ELIDE_WIDTH = 127; // pixels; independent of the width of the button
 const int PAY_BUTTONS = 2;   // the last ones
 
-/// Returns the width of a text with some room around it, within limits.
+/// Returns the width of a text plus some room around it, within the limits.
 int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);
 }
 
-/// Sets the text of a button. A code reads from left to right in every language; a name follows the
-/// language.
+/// Sets the text of a button. A code is read from left to right in every language; a name follows
+/// the direction of the language.
 void setProfileText(QPushButton *button, const QString &text)
 {
     if (isCodeLike(text))
@@ -58,8 +59,8 @@ void setProfileText(QPushButton *button, const QString &text)
     button->setText(text);
 }
 
-/// Makes the tool tip show its text literally. Qt would otherwise interpret anything that looks
-/// like markup, and load a picture that the text names.
+/// Makes the tool tip show its text literally. Otherwise Qt would interpret text that looks like
+/// markup, and would load an image that is named in it.
 void keepToolTipPlain(QPushButton *button)
 {
     const QString tip = button->toolTip();
@@ -230,7 +231,7 @@ void USSDGeneralDlg::update4EditCommandSave()
     resetWidgetsWidth4DyncBtnArea();
 }
 
-/// Assigns the profiles that are shown to the existing buttons. No button is created or deleted.
+/// Assigns the visible profiles to the existing buttons. No button is created or deleted.
 void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
@@ -285,8 +286,8 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
     initTabOrder();
 }
 
-/// Adds the button of a slot. A slot belongs to the profile with the same index; without a profile
-/// that is shown, the slot stays empty.
+/// Adds the button of a slot. A slot belongs to the profile with the same index. If this profile is
+/// missing or not shown, the slot stays empty.
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
@@ -337,7 +338,8 @@ void USSDGeneralDlg::addFixedElements(int row)
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
-    // Two lines are reserved for the prompt, so that nothing moves when it appears or disappears.
+    // Two lines are reserved for the prompt, so that the other widgets do not move when it appears
+    // or disappears.
     m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }

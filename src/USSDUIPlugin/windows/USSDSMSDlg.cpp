@@ -33,7 +33,7 @@ const int NO_ENTRY = -1;
 /** The positions of the fixed widgets in m_listWidgets, and of their controls in a group. */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
-/// Keys of the plug-in's own texts that the result label may show.
+/// The keys of the plug-in's own texts that the result label may show.
 const char *const RESULT_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
                                    "IDS_SMS_SEND_FAILED"};
 
@@ -57,8 +57,8 @@ QString resultKeyOf(const QString &text)
     return QString();
 }
 
-/// Returns the path of the file with the layout; empty if the host does not know the folder of its
-/// plug-ins.
+/// Returns the path of the file with the layout. Returns an empty string if the host has no folder
+/// for its plug-ins.
 QString layoutPath()
 {
     const QString folder = CommonUtils::GetPluginLibraryPath();
@@ -67,7 +67,7 @@ QString layoutPath()
     return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
-/// Logs that there is no path. This is the only line with words before the time.
+/// Logs that there is no path. This is the only line that has words before the time.
 void logNoPath(const char *function, const QString &path)
 {
     USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,
@@ -155,8 +155,9 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the dialog to the logic. A dialog whose file was not read to its end is not connected,
-/// on purpose: it receives no answers and sends no commands, only short messages.
+/// Connects the dialog to the logic. If the file was not read completely, the dialog is
+/// intentionally not connected. It then receives no answers and sends no commands, only short
+/// messages.
 void CUSSDSMSDlg::connectLogic()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
@@ -232,7 +233,8 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // the direction of codes and numbers
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are read from left to
+                                                       // right
     m_pValidator = new QRegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
@@ -266,14 +268,14 @@ QSize CUSSDSMSDlg::sizeHint() const
     return SmsLayoutFile::windowSize(m_layout.dialog);
 }
 
-/// Returns the width of the window, limited to values that can be calculated with.
+/// Returns the width of the window, limited to a range that is safe for calculations.
 int CUSSDSMSDlg::windowWidth() const
 {
     return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
-/// Swallows Return. From the tree, it would reach the frame and press its default button, which
-/// sends.
+/// Ignores Return. Otherwise Return in the tree would reach the frame and press its default button,
+/// which sends a command.
 void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
@@ -322,7 +324,7 @@ void CUSSDSMSDlg::addRows()
         if (entry == rootEntry || !entry->isChild)
             continue;
         entry->treeWidgetItem = new QTreeWidgetItem(root);
-        if (root->childCount() == 1) // the first service; its number may even be NO_ENTRY
+        if (root->childCount() == 1) // the first service, whose number may even be NO_ENTRY
             m_nSelected = entry->number;
     }
 }
@@ -337,7 +339,7 @@ void CUSSDSMSDlg::translateTree()
         row->setText(0, tr(entries.at(i)->textId));
     }
     // sizeHintForColumn() is public only in the base class. The section becomes as wide as the
-    // longest text, so that the user can scroll to its end.
+    // longest text, so that the user can scroll to the end of this text.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
     m_pTree->setAccessibleName(windowTitle());
@@ -351,12 +353,13 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (m_nSelected == NO_ENTRY)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
-    // The current row is not selected again, because that would clear the input.
+    // The current row is not selected again, because this would clear the input.
     if (entry && entry->treeWidgetItem && m_pTree->currentItem() != entry->treeWidgetItem)
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
 
-/// Returns the entry of the current row, or null if no row is current or its entry is gone.
+/// Returns the entry of the current row. Returns null if there is no current row or its entry no
+/// longer exists.
 const CTreeItem *CUSSDSMSDlg::currentEntry() const
 {
     const QTreeWidgetItem *row = m_pTree->currentItem();
@@ -411,7 +414,7 @@ void CUSSDSMSDlg::takeControls(const QList<CWidgetItemInfo *> &controls)
     }
 }
 
-/// Takes the command and its kind from the button's control, and the limits from the input field's
+/// Reads the command and its kind from the button's control, and the limits from the input field's
 /// control.
 void CUSSDSMSDlg::takeCommand()
 {
@@ -516,9 +519,9 @@ bool CUSSDSMSDlg::lacksReadiness() const
     return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
 }
 
-/// Enables or disables the button when the device starts or stops accepting short messages. The
-/// text must be longer than the minimum here, while OnTextChanged() also accepts the minimum
-/// itself; the difference is intended.
+/// Enables or disables the button when the device starts or stops accepting short messages. Here,
+/// the text must be longer than the minimum, while OnTextChanged() also accepts the minimum itself.
+/// The difference is intended.
 void CUSSDSMSDlg::OnCanSendSMS(bool can)
 {
     if (m_command.kind == CONTROL_KIND_USSD)
@@ -543,8 +546,8 @@ void CUSSDSMSDlg::OnClickedUSSDSMSButton()
         returnFocus();
 }
 
-/// Replaces the placeholder in the stored command. The button therefore sends the first input again
-/// and again, until a service is selected again.
+/// Replaces the placeholder in the stored command. Therefore, the button sends the first input each
+/// time, until a service is selected again.
 void CUSSDSMSDlg::fillPlaceholder()
 {
     if (!m_command.inputField)
@@ -650,9 +653,9 @@ void CUSSDSMSDlg::endSending()
     returnFocus();
 }
 
-/// Moves the focus to the dialog, because the widget that has it is about to be disabled. Qt would
-/// move it to the next widget in the window, which would then receive the keys that are still being
-/// typed.
+/// Moves the focus to the dialog, because the widget that has the focus is about to be disabled.
+/// Otherwise Qt would move it to the next widget in the window, which would then receive the keys
+/// that the user is still typing.
 void CUSSDSMSDlg::parkFocus()
 {
     const QWidget *focus = window()->focusWidget();
@@ -662,8 +665,8 @@ void CUSSDSMSDlg::parkFocus()
     m_bFocusParked = true;
 }
 
-/// Moves the focus to the tree, not back to the button: a key that is held down would send, and
-/// buy, again and again.
+/// Moves the focus to the tree and not back to the button. Otherwise a key that is held down would
+/// send the command, and buy the service, again and again.
 void CUSSDSMSDlg::returnFocus()
 {
     if (m_bFocusParked && m_pTree && window()->focusWidget() == this)

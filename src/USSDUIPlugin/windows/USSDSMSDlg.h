@@ -16,25 +16,28 @@ class QTreeWidget;
 class QXmlStreamReader;
 class USSDLogic;
 
-/** The current service: what it sends and the widgets that it uses. */
+/** The current service: the command that it sends and the widgets that it uses. */
 struct CCommandWidget {
     QString command;   // USSD code, or text of the short message; may contain "%s"
     QString number;    // recipient of the short message
     int minLength = 0; // minimum number of characters in the input
     int limit = 0;     // maximum number of characters in the input
-    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind: how the command is sent
-    QPushButton *sendButton = nullptr;     // null, like the next two, if the service has none
+    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind, the way in which the command is
+                                           // sent
+    QPushButton *sendButton = nullptr;     // null if the service has none; the same is true of the
+                                           // next two members
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
 
 /**
- * The window of the operator's services: a tree lists them, the controls of the selected service
- * appear beside the tree, and its button sends a USSD command or a short message. GUI thread only.
+ * The window of the operator's services. A tree lists the services. The controls of the selected
+ * service appear next to the tree, and its button sends a USSD command or a short message. Must be
+ * used on the GUI thread.
  *
- * Tree and controls are laid out as in the configuration file, which the constructor reads. The
- * dialog is busy from a click that sends until the outcome arrives; meanwhile tree, button and
- * field are disabled.
+ * The tree and the controls are laid out as in the configuration file, which the constructor reads.
+ * The dialog is busy from a click that sends until the outcome arrives. Meanwhile, the tree, the
+ * button and the field are disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {
@@ -45,11 +48,11 @@ public:
 
     /// Builds the dialog. Must be called only once.
     void InitDialog();
-    /// Reads the layout again, and connects to the logic if the layout was read to its end. The
+    /// Reads the layout again, and connects to the logic if the layout was read completely. The
     /// constructor calls this function.
     void InitConfig();
     /// Reads the layout. Returns false if the reader has no device or the document is not
-    /// well-formed; everything before the fault is kept.
+    /// well-formed. The elements before the fault are kept.
     bool ReadFile(QXmlStreamReader &reader);
     /// Reads one "Dialog" element. The reader is at its start element.
     void ReadWidgetInfo(QXmlStreamReader &reader);
@@ -58,7 +61,7 @@ public:
     /// Places the tree and selects the current service in it.
     void SetTreeGeometry();
     /// Shows the service that these controls describe, and keeps a copy of them. Returns false and
-    /// changes nothing unless there is one control for each of the fixed widgets.
+    /// changes nothing if the number of controls differs from the number of fixed widgets.
     bool SetWidgetGeometry(QList<Formats::CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
     /// Sends a short message. Returns 0 if the device accepted the message; OnSendResult() receives
@@ -67,12 +70,12 @@ public:
     /// Updates every visible text and the layout direction to the current language. The user's
     /// input and the network's replies stay unchanged.
     void SetLanguage();
-    /// Returns the size as written in the file, even if no window can have that size.
+    /// Returns the size that the file specifies, even if no window can have this size.
     QSize GetSize();
 
     QSize sizeHint() const override;
     static QString tr(const QString &key);
-    /// Returns the object name, as style sheets use it, of the widget with this role.
+    /// Returns the object name of the widget with this role. Style sheets use this name.
     static QString objectNameOf(const char *role);
 
 public slots:
@@ -82,7 +85,7 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Reacts to the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The dialog may be deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -136,7 +139,7 @@ private:
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
     QRegExpValidator *m_pValidator;
-    QList<QWidget *> m_listWidgets; // the labels, field and button, in the order of Position
+    QList<QWidget *> m_listWidgets; // the labels, field and button in the order of Position
     // Copies of the controls in m_listWidgets, because the group may be replaced meanwhile.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;

@@ -32,8 +32,9 @@ const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Fixes the size of the frame to that of the dialog, plus 20 pixels of height. The dialog's size
-/// may come from a file, so it is limited: it could be negative, or need more memory than there is.
+/// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
+/// is limited, because it may come from a file: it could be negative, or need more memory than
+/// there is.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {
@@ -91,7 +92,8 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // This line has the time after source and function: readers of logs know it in this form.
+    // This line has the time after the source and the function, because readers of logs expect this
+    // form.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
 }
@@ -146,8 +148,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down when one of them closes, so this object may be gone
-/// after each.
+/// Closes the frames. The host may shut down when one of them closes, so this object may no longer
+/// exist after each closing.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
@@ -163,7 +165,7 @@ void CUSSDService::changeLanguage()
     setLanguageIfExists(m_pGeneralModalDlg);
     setLanguageIfExists(m_pGeneralEmbeddedDlg);
     setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames get new titles and the size that the new texts need.
+    // Open frames receive new titles and the size that the new texts need.
     if (m_pPrepaidFrame && m_pPrepaidDlg) {
         m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
         fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
@@ -276,7 +278,8 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// Replaces the connection from an earlier showing, so that nothing is handled twice.
+/// Replaces the connection that was made when the dialog was shown earlier, so that no signal is
+/// handled twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
     disconnect(sender, signal, this, slot);
@@ -429,8 +432,8 @@ void CUSSDService::OnClickedCloseButton()
 }
 
 /// Deletes the frame later, because this function may run in the close event of the frame. The
-/// service keeps a list of such frames: a host that shuts down in the same turn of the event loop
-/// may unload the library before the deletion.
+/// service keeps a list of such frames, because a host that shuts down immediately may unload the
+/// library before the frames are deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
     m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // deleted frames

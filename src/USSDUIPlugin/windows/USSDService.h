@@ -13,19 +13,19 @@
 #include "USSDSMSDlg.h"
 
 /**
- * The service that the host receives. It creates each window on first use, shows it either embedded
- * in a widget of the host or modal in a frame of its own, and destroys all windows. GUI thread
- * only.
+ * The service that the host receives. It creates each window when it is first used, shows it either
+ * embedded in a widget of the host or modal in a separate frame, and destroys all windows. Must be
+ * used on the GUI thread.
  *
- * The service owns all dialogs and frames. Its pointers become null if a host deletes the widget
- * that contains a dialog or a frame.
+ * The service owns all dialogs and frames. A pointer becomes null if the host deletes the widget
+ * that contains the dialog or the frame.
  */
 class CUSSDService : public QObject, public IUSSD
 {
     Q_OBJECT
     Q_INTERFACES(IUSSD)
 public:
-    /// Returns the singleton, which is created on the first call; null if it cannot be created.
+    /// Returns the singleton, which the first call creates. Returns null if it cannot be created.
     static CUSSDService *instance();
     /// Destroys all windows, the logic and the singleton. Does nothing if there is no singleton.
     static void Destroy();
@@ -37,7 +37,7 @@ public:
     bool IsImsiDynamicMatch() override;
     bool CheckImsiIsValid(const QString &imsi, int &flags) override;
 
-    /// Shows the general window embedded in `parent`. Other types are only remembered. Always
+    /// Shows the general window embedded in `parent`. For other types, only stores the type. Always
     /// returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
@@ -56,9 +56,9 @@ public:
 public slots:
     /// Deletes the modal dialogs and their frames once a dialog has finished.
     void OnClickedCloseButton();
-    /// Lets the dialog finish when its frame has been closed.
+    /// Handles the closing of a dialog's frame: the dialog finishes as well.
     void OnDlgCloseEvent();
-    /// Closes the frame when the dialog asks for it or the frame has been rejected.
+    /// Closes the frame when the dialog requests it, or when the frame has been rejected.
     void OnCloseButtonClicked();
 
 private:
@@ -94,7 +94,7 @@ private:
     QPointer<USSDExtendDialog> m_pGeneralFrame;
     QPointer<USSDExtendDialog> m_pUSSDSMSFrame;
     QPointer<CUSSDSMSDlg> m_pUSSDSMSDlg;
-    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // frames that await their deletion
+    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // frames that will be deleted
 
     static CUSSDService *m_pInstance;
 };

@@ -4,17 +4,17 @@
 #include <QLineEdit>
 
 /**
- * The host's line edit. Plug-ins use it for their entry fields, so that a style sheet of the host
- * can select these fields by the name of the class. It behaves as QLineEdit does.
+ * The host's line edit. It behaves like QLineEdit. Plug-ins use it for their entry fields, so that
+ * a style sheet of the host can select these fields by the class name.
  */
 class Q_DECL_EXPORT ExtendLineEdit : public QLineEdit
 {
     Q_OBJECT
 public:
-    /// Creates an empty field without a length limit, which is deleted together with its `parent`.
-    /// Must be called on the GUI thread, like every operation of a widget.
+    /// Creates an empty field without a length limit. The field is deleted together with its
+    /// `parent`. Like all functions of a widget, the constructor must be called on the GUI thread.
     explicit ExtendLineEdit(QWidget *parent = nullptr);
-    /// Defined in the core library, which thus holds the only virtual table of the class.
+    /// Defined in the core library, which therefore contains the only virtual table of the class.
     ~ExtendLineEdit() override;
 };
 

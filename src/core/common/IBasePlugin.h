@@ -10,9 +10,9 @@
 class QObject;
 
 /**
- * The operations of a plug-in that do not depend on what it does.
+ * The functions that every plug-in has, whatever its purpose.
  *
- * The order of the base classes and of the operations is part of the binary contract. The host
+ * The order of the base classes and of the functions is part of the binary interface. The host
  * calls all of them on its GUI thread.
  */
 class IBasePlugin : public IBaseInterface, public IDestroyEvent
@@ -20,22 +20,23 @@ class IBasePlugin : public IBaseInterface, public IDestroyEvent
 public:
     ~IBasePlugin() override {}
 
-    /// Prepares the plug-in; the host calls it first after loading. Returns false when the plug-in
-    /// cannot be used.
+    /// Prepares the plug-in. The host calls this function first after it has loaded the plug-in.
+    /// Returns false if the plug-in cannot be used.
     virtual bool Init() = 0;
-    /// Returns the kind of plug-in as a number of the host's; 0 when the plug-in states none.
+    /// Returns the kind of plug-in as a number that the host defines. Returns 0 if the plug-in has
+    /// no such number.
     virtual int GetPluginType() = 0;
-    /// Returns the identifier of the plug-in; empty when the plug-in states none.
+    /// Returns the identifier of the plug-in, or an empty string if it has none.
     virtual QString GetCLSID() = 0;
-    /// Returns the version of the plug-in; 0 when the plug-in states none.
+    /// Returns the version of the plug-in, or 0 if it has none.
     virtual int GetVersion() = 0;
-    /// Returns the name of the plug-in's class. It is not meant for display.
+    /// Returns the name of the plug-in's class. The name is not intended for display.
     virtual QString GetPluginName() = 0;
-    /// Returns whether the host may unload the library while the program keeps running.
+    /// Returns whether the host may unload the library while the program is running.
     virtual bool IsAllowRelease() = 0;
-    /// Stores the service with the identifier `id` in `*out` and returns true. The plug-in owns
-    /// the object, which is valid until OnDestroy(). Returns false and leaves `*out` unchanged
-    /// when there is no such service. `out` may be null.
+    /// Stores the service with the identifier `id` in `*out` and returns true. The plug-in owns the
+    /// service, which is valid until OnDestroy(). Returns false and leaves `*out` unchanged if
+    /// there is no such service. `out` may be null.
     virtual bool QueryInterface(int id, QObject **out) = 0;
 };
 

@@ -2,10 +2,10 @@
 #define IDESTROYEVENT_H
 
 /**
- * The operations that the host calls when it shuts a plug-in down.
+ * The functions that the host calls to shut down a plug-in.
  *
- * The order of the operations is part of the binary contract. The host calls them on its GUI
- * thread, at any time, in any order, more than once or not at all.
+ * The order of the functions is part of the binary interface. The host calls them on its GUI
+ * thread. It may call them at any time, in any order, more than once or not at all.
  */
 class IDestroyEvent
 {
@@ -14,8 +14,9 @@ public:
 
     /// Deletes the plug-in's windows and services. The plug-in object itself stays usable.
     virtual void OnDestroy() = 0;
-    /// Unregisters the plug-in's call-backs from the device SDK. When it returns, no call-back is
-    /// running and none will start. The host may unload the library only after this call.
+    /// Unregisters the plug-in's call-backs from the device SDK. When the function has returned, no
+    /// call-back is running and none will start. The host may unload the library only after this
+    /// call.
     virtual void UnSDKRegisterEvent() = 0;
 };
 

@@ -8,10 +8,10 @@
 typedef quintptr NotifyParam;
 
 /**
- * The host's notification service, by which a plug-in sends messages to other parts of the host.
+ * The host's notification service. A plug-in uses it to send messages to other parts of the host.
  *
- * The host implements it in an object that IPluginContainer::GetPlugin() returns. The plug-in
- * finds it by qobject_cast and calls it on the GUI thread.
+ * The host implements it in an object that IPluginContainer::GetPlugin() returns. The plug-in finds
+ * it with qobject_cast and calls it on the GUI thread.
  */
 class INotifyService
 {
@@ -19,8 +19,8 @@ public:
     virtual ~INotifyService() {}
 
     /// Delivers `message`, such as PluginContract::MESSAGE_PRE_POST_INFO, to `addressee` before it
-    /// returns. The meaning of the two parameters depends on the message. Returns 0 when the
-    /// addressee exists, and any other number when it does not.
+    /// returns. The meaning of the two parameters depends on the message. Returns 0 if the
+    /// addressee exists, otherwise any other number.
     virtual int Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                        NotifyParam lParam) = 0;
 };

@@ -7,18 +7,18 @@ class QObject;
 
 /**
  * The plug-ins that the host has loaded. The host implements and owns the container;
- * Startup::GetPluginContainer() returns it. It is called on the GUI thread only.
+ * Startup::GetPluginContainer() returns it. Must be called on the GUI thread.
  */
 class IPluginContainer
 {
 public:
     virtual ~IPluginContainer() {}
 
-    /// Returns the plug-in with the identifier `clsid`, or null when it is not loaded. The
-    /// comparison of identifiers is case-sensitive.
+    /// Returns the plug-in with the identifier `clsid`, or null if it is not loaded. The comparison
+    /// of identifiers is case-sensitive.
     ///
-    /// The container owns the object. A caller that keeps the pointer across a call into the host
-    /// uses a QPointer, because the host may unload plug-ins meanwhile.
+    /// The container owns the object. A caller that keeps the pointer while it calls the host must
+    /// use a QPointer, because the host may unload plug-ins meanwhile.
     virtual QObject *GetPlugin(const QString &clsid) = 0;
 };
 

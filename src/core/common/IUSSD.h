@@ -7,11 +7,11 @@
 
 class QWidget;
 
-/** The windows of the plug-in. The values are part of the binary contract; 2 is not used. */
+/** The windows of the plug-in. The values are part of the binary interface; 2 is not used. */
 enum PAID_TYPE {
     PAID_TYPE_PREPAID = 0,  ///< account window for a prepaid SIM
     PAID_TYPE_POSTPAID = 1, ///< account window for a postpaid SIM
-    PAID_TYPE_GENERAL = 3,  ///< general window: any code, and the user's own codes
+    PAID_TYPE_GENERAL = 3,  ///< general window, for any code and for the user's own codes
     PAID_TYPE_NONE = 4,     ///< no window
     PAID_TYPE_USSD_SMS = 5  ///< window of the operator's services
 };
@@ -19,7 +19,7 @@ enum PAID_TYPE {
 /**
  * The USSD service, which QueryInterface() returns for PluginContract::USSD_SERVICE.
  *
- * USSD is defined by 3GPP TS 22.090. The order of the operations is part of the binary contract.
+ * USSD is defined in 3GPP TS 22.090. The order of the functions is part of the binary interface.
  * The host calls all of them on its GUI thread.
  */
 class IUSSD
@@ -27,26 +27,28 @@ class IUSSD
 public:
     virtual ~IUSSD() {}
 
-    /// Asks the network whether the SIM is prepaid or postpaid, when `ask` is true and the
-    /// configuration wants it. The answer arrives later as
-    /// PluginContract::MESSAGE_PRE_POST_INFO, by INotifyService.
+    /// Asks the network whether the SIM is prepaid or postpaid, if `ask` is true and the
+    /// configuration enables this query. The answer arrives later through INotifyService as
+    /// PluginContract::MESSAGE_PRE_POST_INFO.
     ///
-    /// `inUse` is set to whether the configuration wants the network to be asked, `postpaid` to
-    /// false, and `result` to 1 when the question was sent or to 0 when it was not. They keep
-    /// their values when `ask` is false; `postpaid` and `result` do so too when `inUse` becomes
-    /// false. Returns 1, or 0 when the plug-in cannot work.
+    /// If `ask` is true, `inUse` is set to whether the configuration enables the query. If it does,
+    /// `postpaid` is set to false, and `result` is set to 1 if the query was sent, otherwise to 0.
+    /// In all other cases, the arguments keep their values. Returns 1, or 0 if the plug-in cannot
+    /// work.
     virtual int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask) = 0;
-    /// Shows the window `type` in a frame of its own that blocks the frame's parent, and returns
-    /// without waiting for the user. Returns 1 when the frame was shown, otherwise 0.
+    /// Shows the window `type` in a separate frame that blocks the frame's parent, and returns
+    /// without waiting for the user. Returns 1 if the frame was shown, otherwise 0.
     virtual int DoPrePostPaidModal(PAID_TYPE type) = 0;
-    /// Shows the general window as a child of `parent`; every other `type` shows nothing. `rect`
-    /// is the window's place in pixels, in the coordinates of `parent`. Always returns 0.
+    /// Shows the general window as a child of `parent`. For any other `type`, no window is shown.
+    /// `rect` is the position and size of the window in pixels, in the coordinates of `parent`.
+    /// Always returns 0.
     virtual int ShowPrePostPaidWindow(QWidget *parent, QRect &rect, PAID_TYPE type) = 0;
-    /// Returns whether the windows to offer depend on the IMSI of the SIM.
+    /// Returns whether the IMSI of the SIM decides which windows are offered.
     virtual bool IsImsiDynamicMatch() = 0;
-    /// Returns whether the configuration knows `imsi`, the digits of an IMSI (3GPP TS 23.003).
-    /// Sets `flags` to the windows to offer for it: the sum of 1 prepaid, 2 postpaid, 4 common and
-    /// 8 advanced (the general window), or 0 when the IMSI is not known.
+    /// Returns whether the configuration contains an entry for `imsi`, the digits of an IMSI (3GPP
+    /// TS 23.003). Sets `flags` to the windows to offer for it: the sum of 1 (prepaid), 2
+    /// (postpaid), 4 (common) and 8 (advanced, the general window). Sets `flags` to 0 if there is
+    /// no entry.
     virtual bool CheckImsiIsValid(const QString &imsi, int &flags) = 0;
 };
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 
 /**
- * The numbers and the record that a host and the plug-in exchange. They are part of the binary
- * contract: a host that is compiled today works with a plug-in that is compiled years later.
+ * The constants and the record that a host and the plug-in exchange. They are part of the binary
+ * interface: a host that is compiled today works with a plug-in that is compiled years later.
  */
 namespace PluginContract
 {
@@ -13,25 +13,25 @@ namespace PluginContract
 /// The identifier for which IBasePlugin::QueryInterface() returns the USSD service (IUSSD).
 const int USSD_SERVICE = 4097;
 
-// Events that the host raises by INotify::Notify(). Both parameters of each event are 0.
-const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() returns another language
+// The events that the host raises with INotify::Notify(). Both parameters of each event are 0.
+const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() now returns another language
 const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was replaced or became readable
 
-/// The message that the plug-in raises by INotifyService::Notify(). Its first parameter is the
-/// address of a PrePostRecord, its second one is 0.
+/// The message that the plug-in sends with INotifyService::Notify(). Its first parameter is the
+/// address of a PrePostRecord, and its second parameter is 0.
 const unsigned int MESSAGE_PRE_POST_INFO = 384;
 
 } // namespace PluginContract
 
 /**
- * Outcome of the question whether the SIM is prepaid or postpaid. The plug-in owns the record,
- * which is valid during the notification only: a host copies what it wants to keep. The order and
- * the size of the fields are part of the binary contract.
+ * The outcome of the query whether the SIM is prepaid or postpaid. The plug-in owns the record,
+ * which is valid during the notification only, so a host must copy the values that it needs. The
+ * order and the size of the fields are part of the binary interface.
  */
 struct PrePostRecord {
-    bool bInUse = false;    ///< the configuration wants the network to be asked
+    bool bInUse = false;    ///< the configuration enables the query
     bool bPostPaid = false; ///< has no meaning while result is 0
-    int result = 0; ///< 1 if the question was sent; 0 if it was not sent or not answered in time
+    int result = 0; ///< 1 if the query was sent; 0 if it was not sent or not answered in time
 };
 
 static_assert(sizeof(bool) == 1 && sizeof(int) == 4, "the record is made of these two sizes");
