@@ -6,28 +6,29 @@
 namespace Formats
 {
 
-/** The configured limits of what the user may enter to top up. */
+/** The configured limits of the user's input for a top-up. */
 struct ChargeRules {
     int length = 0;    // maximum number of characters
     int minlenth = 0;  // minimum number of characters
-    QString limitText; // allowed characters, as between the brackets of a regular expression
+    QString limitText; // allowed characters, written as between the brackets of a regular
+                       // expression
 };
 
-/// Returns the maximum length of an entry, which is never negative.
+/// Returns the maximum length of the input, which is never negative.
 int longestCharge(const ChargeRules &rules);
 
-/// Returns true if an entry of that many characters may be sent. If the minimum exceeds the
-/// maximum, an entry needs the maximum number of characters.
+/// Returns true if an input with this number of characters may be sent. If the minimum exceeds the
+/// maximum, the input must have the maximum number of characters.
 bool isChargeLongEnough(const ChargeRules &rules, int characters);
 
-/// Returns the regular expression that an entry has to match. The limit text goes in unchanged; the
-/// length is limited to what QRegExp can count. Only an expression that passes
-/// isChargeExpressionUsable() may be used.
+/// Returns the regular expression that the input must match. The limit text is inserted unchanged.
+/// The length is limited to the highest count that QRegExp supports. The expression may be used
+/// only if isChargeExpressionUsable() returns true.
 QString chargeExpression(const ChargeRules &rules);
 
-/// Returns true if the expression counts characters of one class. A limit text that closes the
-/// class could make QRegExp use up all time and memory. The layout of the services window follows
-/// the same rule.
+/// Returns true if the expression matches a number of characters of one class. A limit text that
+/// closes the class could make QRegExp use up all time and memory. The same rule applies to the
+/// layout of the services window.
 bool isChargeExpressionUsable(const ChargeRules &rules);
 
 } // namespace Formats

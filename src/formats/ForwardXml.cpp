@@ -10,8 +10,8 @@ namespace Formats
 namespace
 {
 
-/// Raises an error for an undeclared entity. The parser itself would read on without the entity,
-/// and a code with an entity in it would become another code.
+/// Raises an error for an undeclared entity. Otherwise the parser would continue without the
+/// entity, and a code that contains it would become another code.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
@@ -48,8 +48,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// Counts the depth of nested elements. QXmlStreamReader::readElementText() calls itself for each
-/// nested element instead, and deep nesting would overflow the stack.
+/// The function counts the depth of nested elements. QXmlStreamReader::readElementText() calls
+/// itself for each nested element instead, so deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

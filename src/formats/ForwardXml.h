@@ -9,11 +9,12 @@ namespace Formats
 {
 
 /*
- * Forward scans over an XML document. The plug-in's files are read from front to back by element
- * name alone. Nesting is not checked, so the order of the elements is binding.
+ * Forward scans over an XML document. The plug-in's files are read from start to end by element
+ * name alone. Nesting is not checked, so the order of the elements is significant.
  *
- * A document is read up to its first fault. A text or the attributes of a start tag that contain
- * the fault are empty, and so is everything that is read afterwards.
+ * A document is read up to its first fault. If the fault is in a text or in the attributes of a
+ * start tag, this text or these attributes are empty. Everything that is read afterwards is empty,
+ * too.
  */
 namespace ForwardXml
 {
@@ -29,20 +30,20 @@ bool skipTo(QXmlStreamReader &reader, const QString &name);
 /// equals `name` is ignored.
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
-/// Returns the whole text of the current element, including nested elements. The result is empty if
-/// the reader is not at a start element or if the text contains a fault.
+/// Returns the whole text of the current element, including nested elements. Returns an empty
+/// string if the reader is not at a start element or if the text contains a fault.
 QString text(QXmlStreamReader &reader);
 
-/// Returns the text of the current element as a decimal number, or 0 if it is no number.
+/// Returns the text of the current element as a decimal number, or 0 if it is not a number.
 int number(QXmlStreamReader &reader);
 
 QString attribute(const QXmlStreamReader &reader, QLatin1String name);
-/// Returns 0 if the attribute is missing or is no decimal number.
+/// Returns the attribute as a decimal number, or 0 if it is missing or is not a number.
 int numberAttribute(const QXmlStreamReader &reader, QLatin1String name);
-/// Returns true only for the exact text "true".
+/// Returns true only if the attribute is exactly "true".
 bool boolAttribute(const QXmlStreamReader &reader, QLatin1String name);
 
-/// Returns true only for the exact text "true".
+/// Returns true only if the text is exactly "true".
 bool isTrue(const QString &text);
 
 } // namespace ForwardXml

@@ -12,11 +12,11 @@ namespace Formats
 /*
  * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
  * not depend on files, windows or the singleton. Each function reads forward from the current
- * position of the reader. A value that is missing, cannot be parsed or comes after a fault of the
- * document becomes false, 0 or empty.
+ * position of the reader. A value becomes false, 0 or empty if it is missing, cannot be parsed, or
+ * comes after a fault of the document.
  */
 
-/** The look of the lines that were sent, or received, in the transcript. */
+/** The appearance of the sent or received lines in the transcript. */
 struct Char {
     int yHeight = 0; // in twentieths of a point
     int yOffset = 0;
@@ -31,7 +31,7 @@ struct ClearHistory {
     bool showConfirmDialog = false;
 };
 
-/** The profile editor: whether it is available, and the colours of its cells. */
+/** The settings of the profile editor: its availability and the colours of its cells. */
 struct CmdEdit {
     int readonlyRed = 0, readonlyGreen = 0, readonlyBlue = 0;
     int commonRed = 0, commonGreen = 0, commonBlue = 0;
@@ -39,21 +39,21 @@ struct CmdEdit {
     bool visible = false;
 };
 
-/** How to tell a prepaid SIM from a postpaid one. */
+/** The settings for the detection of prepaid and postpaid SIMs. */
 struct PrePostDiffer {
-    bool value = false; // true if the network is asked
+    bool value = false; // true if the detection is enabled
     QString command;
     QString returnPattern;
     int style = 0;
 };
 
-/** Which windows belong to which SIM. */
+/** The windows that are offered for each SIM. */
 struct AutoUSSD {
     bool valid = false;
-    QHash<QString, int> imsiMap; // IMSI prefix to a combination of WindowFlag
+    QHash<QString, int> imsiMap; // maps an IMSI prefix to a combination of WindowFlag
 };
 
-/** A window that belongs to a SIM. An int holds a combination of these flags. */
+/** A window that is offered for a SIM. An int contains a combination of these flags. */
 enum WindowFlag {
     WINDOW_PREPAID = 1,
     WINDOW_POSTPAID = 2,
@@ -95,7 +95,8 @@ struct ConfigBalance {
 };
 
 /**
- * The whole file except its USSD-SMS section. Index 0 of each array is prepaid, index 1 postpaid.
+ * The whole file except its USSD-SMS section. In each array, index 0 is prepaid and index 1 is
+ * postpaid.
  */
 struct PluginConfig {
     static const int PAID_TYPES = 2;
@@ -112,29 +113,29 @@ struct PluginConfig {
     AutoUSSD autoUSSD;
 };
 
-/// Reads all sections except "clearHistory", in their binding order. "clearHistory" may be anywhere
-/// in the file: readClearHistory() needs a reader at the start of the document.
+/// Reads all sections except "clearHistory", in their required order. "clearHistory" may be
+/// anywhere in the file, so readClearHistory() needs a reader at the start of the document.
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
-/// Reads how to tell a prepaid SIM from a postpaid one. A fault in the section switches the
-/// detection off.
+/// Reads the settings for the detection of prepaid and postpaid SIMs. A fault in the section
+/// disables the detection.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
-/// Reads the "Prepaid" (0) or "Postpaid" (1) section. Always reads four items, even if the fourth
+/// Reads the section "Prepaid" (0) or "Postpaid" (1). Always reads four items, even if the fourth
 /// is outside the section.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
-/// Reads a section, which is XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
+/// Reads one of the sections XmlName::SENT_CHAR and XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads to the end of the document: every "item" after "autoUSSD" counts. A fault in the section
-/// switches it off and discards its items.
+/// Reads to the end of the document and includes every "item" after "autoUSSD". A fault in the
+/// section disables it and discards its items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 
-/// Returns the window flags in a "/"-separated list such as "Prepaid/Advanced". Unknown names are
-/// ignored.
+/// Returns the window flags for a list such as "Prepaid/Advanced", whose names are separated by
+/// "/". Unknown names are ignored.
 int windowFlags(const QString &list);
 
-/// Returns true if the map contains a prefix of `imsi`, and sets `flags` to those of the longest
+/// Returns true if the map contains a prefix of `imsi`. Sets `flags` to the flags of the longest
 /// prefix, or to 0 if there is none.
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags);
 

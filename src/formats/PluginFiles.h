@@ -8,8 +8,8 @@ namespace Formats
 {
 
 /*
- * The plug-in's folder, which is below the folder that CommonUtils::GetPluginLibraryPath() returns,
- * and the files in it.
+ * The plug-in's folder and the files in it. The folder is below the one that
+ * CommonUtils::GetPluginLibraryPath() returns.
  */
 namespace PluginFiles
 {
@@ -20,7 +20,7 @@ const QLatin1String CONFIGURATION("USSDPluginConfig.xml");
 const QLatin1String SYSTEM_PROFILES("ussdsysprofile.xml");
 const QLatin1String LIBRARY("libUSSDUIPlugin.so");
 
-/// Returns the path of one of these files. `pluginLibrary` is the folder above FOLDER.
+/// Returns the path of one of these files. `pluginLibrary` is the folder that contains FOLDER.
 inline QString path(const QString &pluginLibrary, QLatin1String file)
 {
     return pluginLibrary + FOLDER + QLatin1Char('/') + file;

@@ -15,8 +15,8 @@ namespace ProfileSaveCheck
 
 enum MissingFolder { FolderIsMade, FolderIsNotMade };
 
-/// Returns true if `profiles` could be written to the file now. Saving deletes the old file first,
-/// so the editor checks this before it saves. Leaves no change on the disk.
+/// Returns true if `profiles` can be written to the file at this time. The editor checks this
+/// before it saves, because saving deletes the old file first. Changes nothing on the disk.
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
 } // namespace ProfileSaveCheck

@@ -12,15 +12,15 @@ namespace Formats
 {
 
 /*
- * The format of the profile files: the root element "tksvdoc" contains an "item" for each profile,
- * and an item contains six text elements in a fixed order.
+ * The format of the profile files. The root element "tksvdoc" contains one "item" for each profile,
+ * and each item contains six text elements in a fixed order.
  */
 namespace ProfileXml
 {
 
-/// Reads the next profile and leaves its isSystem false. Returns false at the end of the document.
-/// If a field is missing, the fields after it are taken from the next item. A fault of the document
-/// leaves the field in which it occurs, and the fields after it, empty or false.
+/// Reads the next profile, without its isSystem, which stays false. Returns false at the end of the
+/// document. If a field is missing, the fields after it are taken from the next item. If the
+/// document has a fault, the field that contains it and all later fields are empty or false.
 bool readNext(QXmlStreamReader &reader, USSDProfile &profile);
 
 /// Writes a complete document with these profiles. Characters that XML forbids are left out.

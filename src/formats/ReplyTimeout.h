@@ -4,14 +4,15 @@
 namespace Formats
 {
 
-/// How long the plug-in waits for a reply of the network, in milliseconds.
+/// The time that the plug-in waits for a reply from the network, in milliseconds.
 const int STANDARD_REPLY_TIMEOUT = 30000;
 
-/// Returns STANDARD_REPLY_TIMEOUT, or the milliseconds in the environment variable
-/// USSD_REPLY_TIMEOUT_MS. The plug-in reads the variable when it is first used.
+/// Returns the number of milliseconds in the environment variable USSD_REPLY_TIMEOUT_MS, or else
+/// STANDARD_REPLY_TIMEOUT. The plug-in reads the variable when it is first used.
 int replyTimeout();
 
-/// Sets the variable for a plug-in that is loaded later, unless the user has set it.
+/// Sets the variable for a plug-in that is loaded later. Does nothing if the user has set the
+/// variable.
 void setReplyTimeout(int milliseconds);
 
 } // namespace Formats

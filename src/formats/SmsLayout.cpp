@@ -15,11 +15,12 @@ namespace
 const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
 
 const int MAX_COMPLAINTS = 20;
-const int MAX_QUOTED = 40;  // characters of a quotation in a complaint
-const int MAX_CONTROLS = 6; // kept per group; enough to detect that there are too many
-const int MAX_GROUPS = 500; // kept per file; far more than the tree has entries
+const int MAX_QUOTED = 40;  // the maximum length of a quotation in a complaint
+const int MAX_CONTROLS = 6; // kept per group; one more than a complete group, to detect groups with
+                            // too many
+const int MAX_GROUPS = 500; // kept per file; far more than the tree can have entries
 
-/// Returns the value in quotation marks, shortened to what a log line can hold.
+/// Returns the value in quotation marks, shortened so that it fits into a log line.
 QString quoted(const QString &text)
 {
     if (text.length() <= MAX_QUOTED)
@@ -28,7 +29,7 @@ QString quoted(const QString &text)
 }
 
 /**
- * Reads the section from front to back by element name. An element with an unknown name is ignored,
+ * Reads the section from start to end by element name. An element with an unknown name is ignored,
  * but the elements in it are read.
  */
 class Reader
@@ -107,7 +108,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// Returns 0, without a complaint, if the attribute is missing.
+/// Returns the attribute as a number. Returns 0, without a complaint, if the attribute is missing.
 int Reader::numberAttribute(const char *name)
 {
     if (!m_xml.attributes().hasAttribute(QLatin1String(name)))
@@ -130,8 +131,8 @@ int Reader::number(const char *name, const QString &text)
     return value;
 }
 
-/// Returns the number as written, even if it is out of range: geometry() limits it when the widget
-/// is placed.
+/// Returns the number in the file, even if it is out of range, because geometry() limits it when
+/// the widget is placed.
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);
@@ -165,7 +166,7 @@ bool Reader::readDocument()
         readSection();
     if (!m_xml.hasError())
         checkGroups();
-    else // is kept even if there are too many complaints
+    else // kept even if there are too many complaints
         m_layout.complaints.prepend(onLine(m_xml.errorString()));
     return !m_xml.hasError();
 }
@@ -252,8 +253,8 @@ void Reader::takeOrdinary(CTreeItem *entry)
     ++m_layout.ordinaryEntries;
 }
 
-/// Returns why the entry is dropped; empty if it is kept. The tree has two levels, and its root
-/// comes first.
+/// Returns the reason why the entry is dropped, or an empty string if it is kept. The tree has two
+/// levels, and its root comes first.
 QString Reader::whyDropped(const CTreeItem &entry) const
 {
     if (m_layout.ordinaryEntries >= SmsLayoutFile::MAX_ORDINARY_ENTRIES)
@@ -367,8 +368,8 @@ void Reader::checkInput(const CWidgetItemInfo &control)
                      .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
-/// Complains about groups without an entry. Called at the end, because a group may come before the
-/// tree.
+/// Adds a complaint for each group without an entry. Called at the end, because a group may come
+/// before the tree.
 void Reader::checkGroups()
 {
     const QList<int> numbers = m_layout.groups.keys();
@@ -445,8 +446,8 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
-/// A bracket that closes the class could be followed by any pattern, even one that QRegExp takes
-/// hours and gigabytes to expand. A bracket in the first position is a letter like any other.
+/// A bracket that closes the class could be followed by any pattern, even by one that QRegExp needs
+/// hours and gigabytes to expand. A bracket in the first position is an ordinary character.
 bool isCharacterClass(const QString &limitText)
 {
     if (limitText.length() > MAX_LIMIT_TEXT)

@@ -16,19 +16,19 @@ namespace Formats
 {
 
 /*
- * The layout of the USSD-SMS dialog and the commands of its services, as in their section of the
- * configuration file, and the functions that read them. They do not depend on files, windows or the
- * singleton. A value that they cannot use is dropped or replaced, and SmsLayout::complaints says
- * so.
+ * The layout of the USSD-SMS dialog and the commands of its services, as they are in their section
+ * of the configuration file, and the functions that read them. They do not depend on files, windows
+ * or the singleton. A value that cannot be used is dropped or replaced, and a complaint is added to
+ * SmsLayout::complaints.
  */
 
-/** The size of the dialog in pixels, as written in the file. */
+/** The size of the dialog in pixels, as the file specifies it. */
 struct CDlgInfo {
     int width = 0;
     int height = 0;
 };
 
-/** The geometry of the tree in pixels relative to the dialog, as written in the file. */
+/** The geometry of the tree in pixels relative to the dialog, as the file specifies it. */
 struct CTreeInfo {
     int posx = 0;
     int posy = 0;
@@ -45,9 +45,12 @@ struct CTreeItem {
     QTreeWidgetItem *treeWidgetItem = nullptr; // owned by the tree; null until it is created
 };
 
-/** What a control sends: a value of CWidgetItemInfo::kind and CCommandWidget::kind. */
+/**
+ * The ways in which a control sends its command: the values of CWidgetItemInfo::kind and
+ * CCommandWidget::kind.
+ */
 enum SmsControlKind {
-    CONTROL_KIND_NONE = 0, // no "type"
+    CONTROL_KIND_NONE = 0, // there is no "type"
     CONTROL_KIND_SMS = 1,  // any other "type"
     CONTROL_KIND_USSD = 2  // "type" is exactly "ussd"
 };
@@ -62,14 +65,15 @@ struct CWidgetItemInfo {
     int posy = 0;
     int width = 0;
     int height = 0;
-    QString limitText; // allowed characters, as between the brackets of a regular expression
+    QString limitText; // allowed characters, written as between the brackets of a regular
+                       // expression
     int length = 0;    // maximum number of characters that can be entered
     int minLength = 0; // minimum number of characters
     QString command;   // USSD code, or text of the short message
     QString number;    // recipient of the short message
 };
 
-/** The controls that appear beside the tree while one of its entries is selected. */
+/** The controls that appear next to the tree while one of its entries is selected. */
 struct CWidget {
     CWidget() = default;
     ~CWidget() { qDeleteAll(controls); }
@@ -85,14 +89,14 @@ struct SmsLayout {
     ~SmsLayout() { clear(); }
     Q_DISABLE_COPY(SmsLayout)
 
-    /// Deletes all records and resets everything to the state of a new object.
+    /// Deletes all records and restores the state of a new object.
     void clear();
 
     CDlgInfo dialog;
     CTreeInfo tree;
     bool hasRoot = false;
     int rootNumber = 0;             // valid only if hasRoot is true
-    int ordinaryEntries = 0;        // accepted entries, including those that replaced another
+    int ordinaryEntries = 0;        // accepted entries, including those that replaced another entry
     QMap<int, CTreeItem *> entries; // by number
     QMap<int, CWidget *> groups;    // by the number of the entry that shows the group
     QStringList complaints;         // the first few complaints, each with its line
@@ -102,36 +106,39 @@ struct SmsLayout {
 namespace SmsLayoutFile
 {
 
-/// The number of controls of a group. A group with more or fewer controls is kept but never shown.
+/// The number of controls in a group. A group with another number of controls is kept but never
+/// shown.
 const int CONTROLS_OF_GROUP = 5;
 const int MAX_ORDINARY_ENTRIES = 25;
-/// The highest count that QRegExp supports, and therefore the most characters of an input field.
+/// The highest count that QRegExp supports, which is therefore the maximum length of an input
+/// field.
 const int MAX_INPUT_LENGTH = 1024;
-/// A longer "LimitText" is ignored.
+/// The maximum length of "LimitText". A longer text is ignored.
 const int MAX_LIMIT_TEXT = 1000;
-/// The longest side of the dialog in pixels. A larger window could need more memory than there is.
+/// The maximum width and height of the dialog in pixels. A larger window could need more memory
+/// than there is.
 const int MAX_WINDOW_SIDE = 4096;
 
-/// Reads to the end of the document. Returns false if the document is not well-formed; everything
-/// before the fault is kept.
+/// Reads to the end of the document. Returns false if the document is not well-formed; the elements
+/// before the fault are kept.
 bool read(QXmlStreamReader &reader, SmsLayout &layout);
 
 /// Reads one "Dialog" element. The reader is at its start element.
 void readDialogElement(QXmlStreamReader &reader, SmsLayout &layout);
 
-/// Returns the pattern of what can be entered in this control. A limit text that is no character
-/// class is ignored, and the length is limited to what QRegExp can count.
+/// Returns the pattern for the input in this control. A limit text that is not a character class is
+/// ignored, and the length is limited to the highest count that QRegExp supports.
 QRegExp inputPattern(const CWidgetItemInfo &control);
 
-/// Returns true if the text between "[" and "]" is one class of characters and nothing else.
+/// Returns true if the text, when written between "[" and "]", is exactly one character class.
 bool isCharacterClass(const QString &limitText);
 
 /// Returns the size of the dialog, with each side limited to the range from 0 to MAX_WINDOW_SIDE.
 QSize windowSize(const CDlgInfo &dialog);
 
-/// Returns the geometry of a control, or of the tree, in a dialog of this width, limited to values
-/// that Qt can calculate with. If `mirrored` is true, the distance to the left side becomes the
-/// distance to the right side.
+/// Returns the geometry of a control, or of the tree, in a dialog of this width. The values are
+/// limited to a range that is safe for Qt's calculations. If `mirrored` is true, the distance from
+/// the left side becomes the distance from the right side.
 QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored);
 QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored);
 

@@ -6,7 +6,7 @@
 namespace Formats
 {
 
-/** A named command, as offered by the preset buttons. */
+/** A named command that a preset button sends. */
 struct USSDProfile {
     USSDProfile() : readonly(false), showButton(false), isSystem(false) {}
 
@@ -16,7 +16,7 @@ struct USSDProfile {
     bool showButton;   // true if the profile has a preset button
     QString langID;    // key of the translated name; may be empty
     QString desLangID; // key of the translated description; may be empty
-    bool isSystem;     // true if read from the system file; not a field of the file
+    bool isSystem;     // true if read from the system file; not stored in the file
 };
 
 inline bool operator==(const USSDProfile &a, const USSDProfile &b)

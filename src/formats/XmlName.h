@@ -6,7 +6,7 @@ namespace Formats
 
 /*
  * The names of the elements and attributes in the configuration file and the profile files, and the
- * texts that have a meaning there. The spelling is part of the formats.
+ * texts that have a meaning in these files. The spelling is part of the formats.
  */
 namespace XmlName
 {
@@ -50,7 +50,7 @@ const char RETURN_STYLE[] = "ReturnStyle";
 const char URL[] = "URL";
 const char UPDATE_BUTTON[] = "UpdateButton";
 
-// The looks of the transcript and the colours of the editor
+// The appearance of the transcript and the colours of the editor
 const char Y_HEIGHT[] = "yHeight";
 const char Y_OFFSET[] = "yOffset";
 const char COLOR[] = "color";
