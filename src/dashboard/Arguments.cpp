@@ -127,7 +127,8 @@ void Parser::parseRest()
     m_words.clear();
 }
 
-// The first of --help and --version overrides all other modes, which exclude each other.
+// Sets the mode. The first --help or --version overrides all other modes. The other modes exclude
+// each other.
 void Parser::setMode(Arguments::Mode mode)
 {
     const Arguments::Mode earlier = m_result.mode;

@@ -12,7 +12,7 @@ struct Arguments {
     enum Mode { Window, Send, Tour, Help, Version };
 
     Mode mode = Window;
-    QStringList commands; // of --send: the code, then the answers
+    QStringList commands; // for --send: the code, then the answers
     QString tourFolder;
     QString scenario;
     QString modem; // equipment identifier
@@ -20,7 +20,7 @@ struct Arguments {
     QString language;
     bool verbose = false;
 
-    /// The key of the error message among the dashboard's texts; null when there is no error.
+    /// The key of the error message among the dashboard's texts, or null if there is no error.
     const char *errorKey = nullptr;
     /// Replaces %1 in the error message.
     QString errorSubject;
@@ -29,8 +29,8 @@ struct Arguments {
 /// Parses the arguments that follow the program's name.
 ///
 /// The words after --send are the code and the answers, up to the next word that begins with "--".
-/// All words after a lone "--" are code and answers too. An option and its value may be joined by
-/// "=".
+/// All words after a separate "--" are code and answers, too. An option and its value may be joined
+/// with "=".
 Arguments parseArguments(const QStringList &words);
 
 } // namespace Dashboard

@@ -36,15 +36,16 @@ namespace
 
 const char PLATFORM[] = "QT_QPA_PLATFORM";
 const int REGISTRATION_LIMIT =
-    10000; // ms that --send waits for the device; the reply limit if that is shorter
-const QSize UNSEEN_SIZE(800, 600); // of the widget that contains the page without a display
+    10000; // ms that --send waits for the device, unless the reply time-out is shorter
+const QSize UNSEEN_SIZE(800, 600); // size of the widget that contains the page if there is no
+                                   // display
 
 bool isSet(const char *variable)
 {
     return !qgetenv(variable).isEmpty();
 }
 
-/// Qt would terminate the program when it finds no display.
+/// Returns whether there is a display. Without one, Qt would terminate the program.
 bool hasDisplay()
 {
     return isSet(PLATFORM) || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
@@ -66,8 +67,9 @@ bool namesDevice(const Arguments &arguments)
     return !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// Returns the device named by the command line, or else by the environment, or else the one chosen
-/// last. A user who names a scenario must not get a modem, whose commands may cost money.
+/// Returns the device that the command line names, or else the one that the environment names, or
+/// else the one that was chosen last. A user who names a scenario must not get a modem, because its
+/// commands may cost money.
 DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings)
 {
     if (!arguments.modem.isEmpty())
@@ -79,8 +81,8 @@ DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &s
     return isSet("TKSV_SCENARIO") ? DeviceChoice::simulated(QString()) : settings.device();
 }
 
-/// Selects the device. Falls back to the automatic choice when a scenario from the settings can no
-/// longer be used. Returns the error in the scenario file.
+/// Selects the device. If a scenario from the settings can no longer be used, selects the automatic
+/// choice instead. Returns the error in the scenario file.
 QString useDevice(DeviceChoice *choice)
 {
     QString error = choice->use();
@@ -91,7 +93,7 @@ QString useDevice(DeviceChoice *choice)
     return error;
 }
 
-/// Waits for a modem that is still registering. On failure prints the reason to standard error and
+/// Waits for a modem that is still registering. On failure, prints the reason to standard error and
 /// returns false.
 bool isDeviceReady(const Arguments &arguments)
 {
@@ -104,7 +106,7 @@ bool isDeviceReady(const Arguments &arguments)
     return isReady;
 }
 
-/// Without a font Qt draws the same box for every letter.
+/// Returns whether there is a font. Without a font, Qt draws the same box for every letter.
 bool hasFonts()
 {
     QPainterPath narrow;
@@ -114,7 +116,8 @@ bool hasFonts()
     return narrow != wide;
 }
 
-/// Warns of missing fonts and of settings that cannot be written, before the user relies on them.
+/// Warns about missing fonts and about settings that cannot be written, before the user relies on
+/// them.
 void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
 {
     if (!hasFonts())
@@ -123,7 +126,8 @@ void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
 }
 
-/// Reports a failure at the end too, because the disk may have become full meanwhile.
+/// Saves the settings. A failure is reported even when the program ends, because the disk may have
+/// become full in the meantime.
 void saveSettings(DashboardSettings *settings, MainWindow *window)
 {
     if (!settings->save())
@@ -139,6 +143,7 @@ int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands
     const bool sent = sender.send(commands);
     int status = 0;
     TKSV_USSDSrv_Release(&status); // closes an open menu, so that the next program does not find it
+                                   // open
     plugin.shutDown();
     return sent ? EXIT_GOOD : EXIT_BAD;
 }
@@ -170,7 +175,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // for widgets too
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // sets the language of
+                                                                     // widgets, too
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -191,7 +197,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = QApplication::exec();
-    plugin.shutDown(); // before the window that contains the plug-in's page is deleted
+    plugin.shutDown(); // must happen before the window that contains the plug-in's page is deleted
     saveSettings(&settings, &window);
     return result;
 }
@@ -204,7 +210,7 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
     const QString unusable = choice.use();
     if (!unusable.isEmpty())
         return fail(unusable, EXIT_USAGE);
-    ReplyTap tap; // constructed before the device can send a reply
+    ReplyTap tap; // must be constructed before the device can send a reply
     if (!isDeviceReady(arguments))
         return EXIT_BAD;
     LoadedPlugin plugin;

@@ -21,7 +21,7 @@ int version();
 int openWindow(int &argc, char **argv, const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
-/// Takes the tour, which needs no display.
+/// Runs the tour, which needs no display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

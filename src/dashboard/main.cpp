@@ -19,7 +19,7 @@ namespace
 
 const char ENGLISH[] = "en";
 const mode_t OTHERS = S_IRWXG | S_IRWXO;
-const int CODE_LENGTH = 2; // of a language's code at the start of a locale's name
+const int CODE_LENGTH = 2; // the length of the language code at the start of a locale's name
 
 QStringList wordsOf(int argc, char **argv)
 {
@@ -29,8 +29,8 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-/// Prints which language file is missing or damaged. The message about the English file is fixed
-/// because no text can be looked up without that file.
+/// Prints which language file is missing or damaged. The message about the English file is fixed,
+/// because no text can be looked up without this file.
 void sayWhichTextsAreMissing(const QString &wanted)
 {
     const QString english = QLatin1String(ENGLISH);
@@ -47,7 +47,7 @@ void sayWhichTextsAreMissing(const QString &wanted)
             dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
 
-/// Returns the language from the settings, or else that of the desktop, or else English.
+/// Returns the language in the settings, or else the language of the desktop, or else English.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
@@ -56,13 +56,13 @@ QString usualLanguage()
     const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
     const bool isAbsent =
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
-    // A desktop language without a file is no error; a language chosen in the dashboard must have
-    // one.
+    // A missing file for the desktop language is no error. A language that was chosen in the
+    // dashboard must have a file.
     sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
     return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
-/// Sets the language. Returns false when the command line names a language that is unknown or whose
+/// Sets the language. Returns false if the command line names a language that is unknown or whose
 /// file is missing or damaged.
 bool chooseLanguage(Arguments *arguments)
 {
@@ -78,8 +78,8 @@ bool chooseLanguage(Arguments *arguments)
     return false;
 }
 
-/// Starts the log, whose lines contain codes and replies. Returns an error message when the log
-/// file cannot be used.
+/// Starts the log, whose lines contain codes and replies. Returns an error message if the log file
+/// cannot be used.
 QString startLog(const Arguments &arguments)
 {
     if (arguments.verbose)
@@ -108,7 +108,7 @@ int run(int &argc, char **argv, const Arguments &arguments)
 
 int main(int argc, char **argv)
 {
-    umask(OTHERS); // files are private to the user because they contain codes and replies
+    umask(OTHERS); // new files are private to the user, because they contain codes and replies
     setlocale(LC_ALL, "");
     Arguments arguments = parseArguments(wordsOf(argc, argv));
     HostCore::installTerminalLog(arguments.verbose);

@@ -8,7 +8,7 @@ namespace Provisioning
 {
 
 /*
- * File operations for replacing a set of files safely. On failure the functions return false and
+ * File operations for replacing a set of files safely. On failure, the functions return false and
  * set `problem` to the system's error message.
  */
 namespace FileSteps
@@ -18,20 +18,22 @@ namespace FileSteps
 bool makeFolder(const QString &path, QString &problem);
 /// Writes a file. The content is on the disk when the function returns.
 bool writeNew(const QString &path, const QByteArray &content, QString &problem);
-/// Creates a symbolic link. Fails when `path` exists.
+/// Creates a symbolic link. Fails if `path` exists.
 bool link(const QString &target, const QString &path, QString &problem);
-/// Renames a file and atomically replaces an existing one.
+/// Renames a file. An existing file is replaced atomically.
 bool rename(const QString &from, const QString &to, QString &problem);
 /// Waits until the folder's entries are on the disk.
 bool syncFolder(const QString &path, QString &problem);
 
-/// Returns the target of the link as written; empty when the path is not a link.
+/// Returns the target of the link as it was written, or an empty string if the path is not a link.
 QString linkTarget(const QString &path);
-/// Returns whether the path exists. A dangling link counts as existing.
+/// Returns whether the path exists. A dangling link is treated as existing.
 bool exists(const QString &path);
-QByteArray content(const QString &path); ///< empty when it cannot be read
+QByteArray content(const QString &path); ///< empty if it cannot be read
 
-/** Waits until no other process holds the lock, then holds it until this object is deleted. */
+/**
+ * Waits until no other process holds the lock. Then holds the lock until this object is deleted.
+ */
 class Lock
 {
 public:

@@ -70,7 +70,8 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// Narrows down the operators of the name that the user has chosen by the network.
+/// Narrows down the operators with the name that the user has chosen. Uses the network for this
+/// purpose.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {
@@ -81,7 +82,7 @@ ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
     return choiceOf(candidates);
 }
 
-/// Returns whether the SIM's name begins with the name as a whole word: "Telekom.de" begins with
+/// Returns whether the SIM's name begins with the whole words of the name: "Telekom.de" begins with
 /// "Telekom", but "Telekomik" does not.
 bool beginsWithName(const QString &simName, const QString &name)
 {
@@ -108,9 +109,10 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
     return found;
 }
 
-/// Narrows down the candidates by the SIM's name. A name with the same beginning may belong to a
-/// virtual operator on the network, so it never selects one of several candidates. A name that no
-/// candidate has may belong to an operator that the database lacks.
+/// Narrows down the candidates with the SIM's name. If the SIM's name only begins with the name of
+/// a candidate, the SIM may belong to a virtual operator on the network. If no candidate has the
+/// name, the operator may be missing from the database. In both cases, the choice is ambiguous,
+/// unless the only candidate has a similar name.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())

@@ -8,10 +8,10 @@ namespace Provisioning
 
 /*
  * Finds the operator of a SIM card. A network code alone may lead to several candidates, because
- * operators share networks. A program uses it like this:
+ * operators share networks. A program uses the function like this:
  *
- *   query.network = networkOfImsi(database, imsi);   // or the SIM's MCC and MNC, when known
- *   query.simName = the operator's name as reported by the SIM or the device;
+ * query.network = networkOfImsi(database, imsi);   // or the SIM's MCC and MNC, if known
+ *   query.simName = the operator's name that the SIM or the device reports;
  *   choice = chooseProvider(database, query);
  *   Chosen:    continue with provisionPlan(choice.candidates.first(), query.network);
  *   Ambiguous: let the user choose one of choice.candidates or "none of them", once;
@@ -20,8 +20,8 @@ namespace Provisioning
 
 /** The known properties of the operator. Empty properties are ignored. */
 struct ProviderQuery {
-    QString network;  // MCC and MNC in one word, such as "26207"
-    QString simName;  // the operator's name as stored on the SIM
+    QString network;  // MCC and MNC without a separator, such as "26207"
+    QString simName;  // service provider name (SPN) that is stored on the SIM
     QString country;  // ISO 3166-1 alpha-2
     QString provider; // the operator's name in any of its languages, chosen by the user
 };
@@ -30,24 +30,26 @@ struct ProviderChoice {
     enum State {
         None,     // no operator matches
         Chosen,   // exactly one operator matches
-        Ambiguous // the user has to choose, even if the only match has another name than on the SIM
+        Ambiguous // the user has to choose, even if the only match does not have the name on the
+                  // SIM
     };
 
     State state = None;
-    QList<Provider> candidates; // contains one operator when the state is Chosen
+    QList<Provider> candidates; // contains one operator if the state is Chosen
 };
 
 /// Returns the operators that match the query.
 ///
-/// The operator's name and the country must match. The network must match when no name is given;
-/// otherwise it only narrows down several candidates. The SIM's name selects a candidate of the
-/// same name. A SIM's name such as "Telekom.de" narrows the candidates down to those called
-/// "Telekom" but does not select one of several. When the SIM's name matches no candidate, all
-/// candidates remain and none is chosen.
+/// The operator's name and the country must match. The network must match if the query has no
+/// operator's name; otherwise, the network only narrows down several candidates. The SIM's name
+/// selects the candidate with the same name. A SIM's name such as "Telekom.de" narrows the
+/// candidates down to those with the name "Telekom", but does not select one of several. If the
+/// SIM's name matches no candidate, all candidates remain and none is selected.
 ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQuery &query);
 
-/// Returns the network code of an IMSI: its first six digits when the database has this code, or
-/// else its first five digits (3GPP TS 23.003). Empty when the database has neither.
+/// Returns the network code of an IMSI: its first six digits if the database contains this code, or
+/// else its first five digits (3GPP TS 23.003). Returns an empty string if the database contains
+/// neither.
 QString networkOfImsi(const ProviderDatabase &database, const QString &imsi);
 
 /// Returns whether two names are equal, ignoring case, accents, blanks and punctuation.

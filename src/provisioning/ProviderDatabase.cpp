@@ -10,8 +10,8 @@ namespace Provisioning
 namespace
 {
 
-const int MAX_DEPTH = 30;          // nesting of elements; the format has six levels
-const qint64 MAX_BYTES = 67108864; // size of a file: 64 MB
+const int MAX_DEPTH = 30;          // maximum nesting of elements; the format has six levels
+const qint64 MAX_BYTES = 67108864; // maximum size of a file: 64 MB
 
 bool isDigits(const QString &text, int fewest, int most)
 {
@@ -89,7 +89,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// Returns the text of the current element and its descendants, without blanks at its ends.
+/// Returns the text of the current element and its descendants, without blanks at either end.
 QString Reader::text()
 {
     QString text;

@@ -14,26 +14,28 @@ namespace Provisioning
  * 2.0) into plain values. The functions have no state and may be called on any thread.
  */
 
-/** A part of the database that cannot be used, described for the editor of the database. */
+/**
+ * A part of the database that cannot be used, with a description for the editor of the database.
+ */
 struct ProviderComplaint {
     qint64 line = 0;   // counts from 1
-    qint64 column = 0; // of the end of the start tag; counts from 0 as the XML reader does
+    qint64 column = 0; // at the end of the start tag; counts from 0 as the XML reader does
     QString text;
 };
 
-/** A way to send a request to an operator, for example the request for the balance. */
+/** A way to send a request to an operator, such as the request for the balance. */
 struct ProviderCode {
     enum Way {
         Ussd,         // `code` is dialled
         UssdResponse, // `code` is dialled, or answers the menu of an earlier code
         Dtmf,         // `code` is the number to call
-        Sms           // `code` is the number to send `smsText` to
+        Sms           // `smsText` is sent to the number `code`
     };
 
     Way way = Ussd;
-    QString code;            // without blanks at its ends
+    QString code;            // without blanks at either end
     bool takesInput = false; // the element has a replacement attribute
-    QString replacement;     // the part of `code` to be replaced by the user's input
+    QString replacement;     // the part of `code` that is replaced with the user's input
     QString smsText;         // the text of the short message
     qint64 line = 0;
     qint64 column = 0;
@@ -53,7 +55,7 @@ struct Provider {
     QList<ProviderCode> balance;
     QList<ProviderCode> topUp;
     QList<ProviderCode> ownNumber;
-    qint64 line = 0; // of the element's start tag
+    qint64 line = 0; // line of the element's start tag
 
     /// Returns the name without a language, or else the first name.
     QString name() const;
@@ -63,7 +65,8 @@ struct Provider {
 struct ProviderDatabase {
     QList<Provider> providers; // in the order of the file
     QList<ProviderComplaint> complaints;
-    /// Why the whole file cannot be used; empty when it can. With an error, there are no providers.
+    /// The reason why the whole file cannot be used, or an empty string. If there is an error,
+    /// there are no providers.
     QString error;
 };
 
@@ -73,7 +76,7 @@ ProviderDatabase readProviderDatabase(const QByteArray &xml);
 /// Reads a file of at most 64 MB.
 ProviderDatabase readProviderDatabaseFile(const QString &path);
 
-/// Returns the path of the database in Debian's package.
+/// Returns the path at which Debian's package installs the database.
 QString installedProviderDatabase();
 
 } // namespace Provisioning

@@ -19,7 +19,7 @@ namespace Provisioning
 namespace
 {
 
-// The maximum length of a voucher's number. The database does not contain the real length.
+// The maximum length of a voucher number. The database does not contain the actual length.
 const int LONGEST_VOUCHER = 30;
 const int SHORTEST_VOUCHER = 1;
 
@@ -28,7 +28,7 @@ const char *const LOOKS[] = {XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName
                              XmlName::CMD_EDIT,  XmlName::MAIN_SIZE,     XmlName::TREE_SIZE};
 const int MAX_DEPTH = 30;
 
-// Positions and sizes of the services window's controls, in pixels.
+// Positions and sizes of the controls of the services window, in pixels.
 const QRect EXPLANATION(285, 16, 340, 46);
 const QRect BUTTON(285, 72, 150, 32);
 const QRect REPLY(285, 140, 340, 210);
@@ -86,8 +86,7 @@ Element takeElement(QXmlStreamReader &reader)
     return element;
 }
 
-/// Returns the elements to copy from the shipped configuration. Sets `error` when it cannot be
-/// used.
+/// Returns the elements to copy from the shipped configuration. Sets `error` if it cannot be used.
 Looks looksOf(const QByteArray &shipped, QString &error)
 {
     Looks looks;
@@ -122,7 +121,7 @@ QString boolText(bool value)
     return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
-/** Writes the elements in the order that the plug-in's forward reader needs. */
+/** Writes the elements in the order that the plug-in's forward scan requires. */
 class ConfigurationWriter
 {
 public:
@@ -203,7 +202,7 @@ QByteArray ConfigurationWriter::write()
     return m_content;
 }
 
-/// Writes the comment at the top. Hyphens are replaced because "--" is not allowed in a comment.
+/// Writes the comment at the top. Hyphens are replaced, because "--" is not allowed in a comment.
 void ConfigurationWriter::writeHead()
 {
     QString provider = m_plan.provider + QLatin1String(", ") + m_plan.country;
@@ -214,7 +213,7 @@ void ConfigurationWriter::writeHead()
                            .arg(provider));
 }
 
-/// Writes a disabled section: the database has no code that asks for the kind of contract.
+/// Writes a disabled section, because the database has no code that queries the kind of contract.
 void ConfigurationWriter::writeDetection()
 {
     start(XmlName::PRE_POST_DIFFER);
@@ -329,7 +328,7 @@ void ConfigurationWriter::writeHiddenControl()
     end();
 }
 
-/// Writes the SIM cards. The database contains prepaid codes only. Without an IMSI prefix, the
+/// Writes the SIM cards. The database contains only prepaid codes. Without an IMSI prefix, the
 /// windows do not depend on the SIM.
 void ConfigurationWriter::writeSims()
 {

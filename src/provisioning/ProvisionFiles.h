@@ -10,11 +10,12 @@ namespace Provisioning
 struct ProvisionFiles {
     QByteArray configuration;
     QByteArray profiles; // identical to the bytes that the plug-in's editor would save
-    QString error;       // why the files could not be generated; empty on success
+    QString error;       // the reason why the files could not be generated; empty on success
 };
 
-/// Generates the files for a plan. `shipped` is the content of the configuration installed with the
-/// plug-in, which provides colours, sizes and switches. Codes are taken from the plan only.
+/// Generates the files for a plan. `shipped` is the content of the configuration that is installed
+/// with the plug-in. Colours, sizes and switches are taken from it. Codes are taken from the plan
+/// only.
 ProvisionFiles provisionFiles(const ProvisionPlan &plan, const QByteArray &shipped);
 
 } // namespace Provisioning

@@ -11,7 +11,7 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button among the buttons of the general window, from 0.
+// The position of the first payment button among the buttons of the general window, counted from 0.
 const int FIRST_PAYMENT_SLOT = 9;
 const int PAYMENT_BUTTONS = 2; // the last two buttons always use the entered number
 
@@ -75,8 +75,8 @@ ProvisionPlan Planner::plan()
     return m_plan;
 }
 
-/// Adds all codes to the plan. Returns the first code for the account window, which needs a code
-/// with input or a code without input.
+/// Adds all codes to the plan. Returns the first code that the account window can use. `withInput`
+/// is whether this code needs input.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;
@@ -109,7 +109,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// Adds a code that the network answers by a menu, which only the general window can show.
+/// Adds a code that the network answers with a menu, which only the general window can show.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
@@ -128,7 +128,7 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
     PlannedMessage message;
     message.textKey = QLatin1String(kind.textKey);
     message.explanation = code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") +
-                          code.code; // U+2192, clear in any language
+                          code.code; // U+2192, an arrow that is clear in any language
     message.text = code.smsText;
     message.number = code.code;
     m_plan.messages << message;
@@ -155,7 +155,8 @@ bool Planner::hasProfile(const QString &code) const
     return false;
 }
 
-/// Distinguishes several profiles of a kind by the codes that they send.
+/// Adds the codes to the names of the profiles if there are several of a kind, so that the user can
+/// distinguish them.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);
@@ -172,7 +173,7 @@ void Planner::nameApart(const Kind &kind)
         USSDProfile &profile = m_plan.profiles[i];
         if (profile.langID != key)
             continue;
-        if (!isFirst) { // only the name is replaced, because the description tells the purpose
+        if (!isFirst) { // only the name is replaced, because the description states the purpose
             profile.name = profile.value;
             profile.langID.clear();
         }
@@ -186,8 +187,8 @@ void Planner::note(const ProviderCode &code, const QString &what)
 }
 
 /// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
-/// until a number is entered, so a code without input gets a button only if two codes with input
-/// follow. Otherwise it is available in the list of codes only.
+/// until a number is entered. A code without input therefore has a button only if two codes with
+/// input follow. Otherwise it is available only in the list of codes.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -201,7 +202,7 @@ void Planner::placeButtons()
         plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
     for (int i = 0; i < paying.count(); ++i)
         paying[i].showButton = i < PAYMENT_BUTTONS;
-    // There are only eleven buttons, so the codes with input precede the remaining codes.
+    // There are only eleven buttons, so two codes with input come before the remaining codes.
     const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
     m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
                       paying.mid(PAYMENT_BUTTONS);

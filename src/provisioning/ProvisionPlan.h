@@ -7,9 +7,9 @@
 namespace Provisioning
 {
 
-/** A short message to be offered in the services window. */
+/** A short message that the services window offers. */
 struct PlannedMessage {
-    QString textKey; // of the service's name; a text that is not a key is shown unchanged
+    QString textKey; // key of the service's name; a text that is not a key is shown unchanged
     QString explanation;
     QString text;
     QString number;
@@ -19,9 +19,9 @@ struct PlannedMessage {
 struct ProvisionPlan {
     QString country;
     QString provider;
-    QString network; // MCC and MNC of the SIM; empty when unknown
-    QString balance; // code; empty when the operator has none
-    QString topUp;   // code with "%s"; empty when the operator has none
+    QString network; // MCC and MNC of the SIM; empty if unknown
+    QString balance; // code; empty if the operator has none
+    QString topUp;   // code with "%s"; empty if the operator has none
     QString ownNumber;
     QList<Formats::USSDProfile> profiles; // in the order of the profiles file
     QList<PlannedMessage> messages;
@@ -32,9 +32,9 @@ struct ProvisionPlan {
     bool isEmpty() const { return profiles.isEmpty() && messages.isEmpty(); }
 };
 
-/// Arranges the operator's codes. The account window gets the first usable code of each kind; every
-/// code becomes a profile. `network` is the MCC and MNC of the SIM. It becomes an IMSI prefix even
-/// if the database does not list it for the operator.
+/// Arranges the operator's codes. The account window receives the first usable code of each kind,
+/// and every code becomes a profile. `network` is the MCC and MNC of the SIM. It becomes an IMSI
+/// prefix even if the database does not list it for the operator.
 ProvisionPlan provisionPlan(const Provider &provider, const QString &network = QString());
 
 } // namespace Provisioning

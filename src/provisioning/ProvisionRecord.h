@@ -10,20 +10,20 @@ namespace Provisioning
 {
 
 /**
- * The record of the files written into a folder and of the operator they belong to. It is stored
- * beside the files, so that later changes by hand can be detected.
+ * A record of the files that were written to a folder, and of their operator. It is stored next to
+ * the files, so that later changes by hand can be detected.
  */
 struct ProvisionRecord {
     QString country;
     QString provider;
-    QString network;                 // MCC and MNC; empty when unknown
+    QString network;                 // MCC and MNC; empty if unknown
     QMap<QString, QByteArray> files; // checksums (SHA-1 in hexadecimal digits) by file name
 
     bool isValid() const { return !files.isEmpty(); }
 };
 
 QByteArray provisionRecordText(const ProvisionRecord &record);
-/// Parses a record. Returns an invalid record when the text is damaged.
+/// Parses a record. Returns an invalid record if the text is damaged.
 ProvisionRecord provisionRecordFrom(const QByteArray &text);
 
 QByteArray provisionChecksum(const QByteArray &content);

@@ -23,7 +23,8 @@ const QLatin1String UNFINISHED(".new");
 
 const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/// Returns the number of a set of files from the name of its folder, or 0 for any other name.
+/// Returns the number of a set of files, which is the name of its folder. Returns 0 for any other
+/// name.
 int setNumber(const QString &name)
 {
     bool ok = false;
@@ -49,8 +50,8 @@ bool isOurs(const QString &filesFolder, const QString &name, const ProvisionReco
            provisionChecksum(FileSteps::content(path)) == record.files.value(name);
 }
 
-/// Returns the names of files that were changed or added by hand; all names when the record is
-/// damaged.
+/// Returns the names of files that were changed or added by hand. Returns all names if the record
+/// is damaged.
 QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
 {
     QStringList changed;
@@ -72,7 +73,7 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes the unchanged files, and the folder when no other file is left in it.
+/// Removes the unchanged files. Also removes the folder if it contains no other file.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
@@ -87,8 +88,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// Removes files that a killed process has left incomplete. They have names of their own and were
-/// never in use.
+/// Removes files that a killed process has left incomplete. Their folder has a different name and
+/// was never in use.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);
@@ -254,7 +255,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// Activates the new files: from this call on, the plug-in finds them.
+/// Activates the new files. The plug-in finds them from now on.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;
@@ -265,7 +266,7 @@ bool Writer::putInUse(int number)
            FileSteps::syncFolder(m_order.folder + PLUGINS, m_outcome.problem);
 }
 
-/// Removes old sets of files, including those left by killed processes.
+/// Removes old sets of files, including those that killed processes have left.
 void Writer::tidyUp(int inUse)
 {
     const QString sets = m_order.folder + SETS + QLatin1Char('/');

@@ -10,8 +10,9 @@ namespace Provisioning
 namespace
 {
 
-/// Returns whether the replacement is unambiguous. A replacement of dialable characters, such as
-/// "1", must occur only once in the code, because another occurrence may be meant literally.
+/// Returns whether the replacement is unambiguous. A replacement that consists of dialable
+/// characters, such as "1", must occur only once in the code, because another occurrence may be
+/// meant literally.
 bool isClear(const ProviderCode &code)
 {
     return !isDialable(code.replacement) || code.code.count(code.replacement) == 1;

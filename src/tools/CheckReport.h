@@ -10,8 +10,8 @@ namespace Tools
 
 /** A place in a file that may not have the effect that its author expects. */
 struct CheckFinding {
-    qint64 line = 0;   // counts from 1; 0 stands for the whole file
-    qint64 column = 0; // counts from 1; 0 stands for the whole line
+    qint64 line = 0;   // counts from 1; 0 means the whole file
+    qint64 column = 0; // counts from 1; 0 means the whole line
     QString rule;      // identifies the kind of finding for scripts, such as "order"
     QString text;      // describes the finding for people, in English
 };
@@ -25,8 +25,9 @@ struct CheckTable {
 /** The report on one file. */
 struct CheckReport {
     QString file;
-    QString kind;  // "configuration", "layout", "profiles" or "scenario"; empty when unusable
-    QString error; // why the file could not be read; empty on success
+    QString kind;  // "configuration", "layout", "profiles" or "scenario"; empty if the file cannot
+                   // be used
+    QString error; // the reason why the file could not be read; empty on success
     QList<CheckFinding> findings; // sorted by line
     QList<CheckTable> tables;
 };
@@ -36,10 +37,11 @@ void addFinding(CheckReport &report, qint64 line, qint64 column, const char *rul
                 const QString &text);
 void sortFindings(CheckReport &report);
 
-/// Returns the text in quotation marks, shortened to fit in a line of the report.
+/// Returns the text in quotation marks, shortened to fit into a line of the report.
 QString quotedPart(const QString &text);
 
-/// Returns the report as text: each finding as "file:line:column: text [rule]", then the tables.
+/// Returns the report as text: each finding as "file:line:column: text [rule]", and then the
+/// tables.
 QString reportText(const CheckReport &report);
 /// Returns the reports as one JSON document (RFC 8259) in ASCII.
 QString reportsJson(const QList<CheckReport> &reports);

@@ -20,7 +20,7 @@ namespace Tools
 namespace
 {
 
-const int ITEMS = 4;         // the scan assigns four items to a paid section, wherever they are
+const int ITEMS = 4;         // the scan always reads four items for a paid section, even outside it
 const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
@@ -41,7 +41,7 @@ struct Item {
     int pos = 0;
 };
 
-/** Follows the scan and reports what may surprise the author of the file. */
+/** Follows the scan and reports results that the author of the file may not expect. */
 class Check
 {
 public:
@@ -79,7 +79,7 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost = false; // the scan reached the end without finding a section
+    bool m_isLost = false; // the scan reached the end of the document without finding a section
 };
 
 void Check::run()
@@ -381,7 +381,8 @@ void Check::editor()
     }
 }
 
-/// The plug-in searches this section separately from the start, so it may be anywhere in the file.
+/// Checks the section of the Clear button. The plug-in searches for this section separately from
+/// the start, so it may be anywhere in the file.
 void Check::clearButton()
 {
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);

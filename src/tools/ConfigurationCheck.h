@@ -7,10 +7,11 @@
 namespace Tools
 {
 
-/// Checks how the plug-in's forward scan reads all sections except SMSUSSD. Adds findings.
+/// Checks how the plug-in's forward scan reads all sections except SMSUSSD. Adds findings to the
+/// report.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 
-/// Returns tables of the values that the plug-in's own reader gets from the configuration.
+/// Returns tables of the values that the plug-in's own reader finds in the configuration.
 QList<CheckTable> configurationTables(const QByteArray &xml);
 
 } // namespace Tools

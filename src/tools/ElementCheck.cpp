@@ -12,7 +12,7 @@ namespace Tools
 namespace
 {
 
-const int MOST_DIFFERENCES = 2; // a name with more differences is no misspelling
+const int MOST_DIFFERENCES = 2; // a name with more differences is not treated as a misspelling
 
 /// Returns the number of letters to insert, delete or replace (the Levenshtein distance).
 int differences(const QString &a, const QString &b)

@@ -7,7 +7,7 @@
 namespace Tools
 {
 
-/** Checks single values and adds findings at the elements that contain them. */
+/** Checks single values, and adds findings for the elements that contain them. */
 class ElementCheck
 {
 public:
@@ -19,7 +19,7 @@ public:
     const XmlElements &elements() const { return m_elements; }
     const XmlElement &at(int place) const { return m_elements.list.at(place); }
 
-    /// Adds a finding at the element with the index `place`, or for the whole file when `place` is
+    /// Adds a finding for the element with the index `place`, or for the whole file if `place` is
     /// negative.
     void find(int place, const char *rule, const QString &text);
 
@@ -27,20 +27,21 @@ public:
     /// false.
     void boolText(int place, const QString &what, const QString &text);
     void boolAttribute(int place, const char *name);
-    /// Returns the number that the plug-in reads. Adds a finding when the text is no number, which
-    /// the plug-in reads as 0.
+    /// Returns the number that the plug-in reads. Adds a finding if the text is not a number; the
+    /// plug-in reads such a text as 0.
     int numberText(int place, const QString &what, const QString &text);
     int numberAttribute(int place, const char *name);
     int colour(int place, const char *name);
 
-    /// Checks a code. `inputLength` is the maximum number of characters that replace its "%s".
+    /// Checks a code. `inputLength` is the maximum number of characters that replace "%s" in the
+    /// code.
     void command(int place, const QString &command, int inputLength);
-    /// Adds a finding when a language has no text for the key. A text that is no key is accepted,
+    /// Adds a finding if a language has no text for the key. A text that is not a key is accepted,
     /// because the plug-in shows it unchanged.
     void key(int place, const QString &key);
 
-    /// Adds a finding for each element whose name is not in `known`, with the name that was
-    /// probably meant.
+    /// Adds a finding for each element whose name is not in `known`. The finding suggests the most
+    /// similar name.
     void names(const QStringList &known);
 
 private:
@@ -48,7 +49,8 @@ private:
     CheckReport &m_report;
 };
 
-/// Returns the name in `known` that is most similar to `name`; empty when none is similar enough.
+/// Returns the name in `known` that is most similar to `name`, or an empty string if none is
+/// similar enough.
 QString likelyName(const QString &name, const QStringList &known);
 
 } // namespace Tools

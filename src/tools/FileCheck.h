@@ -9,9 +9,9 @@ namespace Tools
 {
 
 /// Checks how the plug-in, or the simulated network, reads the content of a file. The kind of file
-/// is recognised by the content. `file` is the name for the report.
+/// is determined from the content. `file` is the name in the report.
 CheckReport checkContent(const QByteArray &content, const QString &file);
-/// Reads a file and checks its content. A file that cannot be read gives a report with an error.
+/// Reads a file and checks its content. If the file cannot be read, the report contains an error.
 CheckReport checkFile(const QString &path);
 
 } // namespace Tools

@@ -8,20 +8,20 @@ namespace Tools
 
 /**
  * Traverses a document in the same way as the plug-in's forward scan, and keeps track of the
- * position. The scan finds the next element with a name at any depth. After the text of an element
- * was read, the scan continues after the end of that element.
+ * position. The scan finds the next element with a given name at any depth. After the scan has read
+ * the text of an element, it continues after the end of that element.
  */
 class ForwardTrace
 {
 public:
     explicit ForwardTrace(const XmlElements &elements) : m_elements(elements) {}
 
-    /// Moves to the next element with this name and returns its index. Returns -1 when there is
-    /// none; the scan is then at the end of the document.
+    /// Moves to the next element with this name and returns its index. Returns -1 if there is none;
+    /// the scan is then at the end of the document.
     int seek(const char *name);
-    /// Returns the text of the element found last; empty when none was found.
+    /// Returns the text of the element that was found last, or an empty string if none was found.
     QString text();
-    /// Returns the index of the last element with this name before the position; -1 when there is
+    /// Returns the index of the last element with this name before the position, or -1 if there is
     /// none.
     int passed(const char *name) const;
 

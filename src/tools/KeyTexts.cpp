@@ -12,7 +12,7 @@ namespace Tools
 namespace
 {
 
-/** The texts of a language. The translator does not copy `content`, so both live together. */
+/** The texts of a language. The translator does not copy `content`, so both are kept together. */
 struct Texts {
     QByteArray content;
     QTranslator translator;

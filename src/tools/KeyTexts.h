@@ -11,8 +11,8 @@ namespace Tools
 namespace KeyTexts
 {
 
-/// Returns the installed languages that have no text for the key. Returns an empty list when the
-/// text is empty or no key; keys consist of capital letters, digits and underscores.
+/// Returns the installed languages that have no text for the key. Returns an empty list if the text
+/// is empty or not a key. A key consists of capital letters, digits and underscores.
 QStringList languagesWithout(const QString &key);
 
 } // namespace KeyTexts

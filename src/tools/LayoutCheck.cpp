@@ -16,10 +16,10 @@ namespace
 {
 
 const int INPUT = 2;  // index of the entry field among the controls of a group
-const int BUTTON = 3; // index of the button, which has the command
+const int BUTTON = 3; // index of the button, which contains the command
 
-/// Returns the column of the last element that begins in the line, because the reader reports
-/// lines only.
+/// Returns the column of the last element that begins in the line. It is an approximation, because
+/// the reader reports only lines.
 qint64 columnOn(const XmlElements &elements, qint64 line)
 {
     qint64 column = 0;
@@ -113,7 +113,7 @@ void checkGroups(ElementCheck &check, int section)
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
         if (controls.count() != SmsLayoutFile::CONTROLS_OF_GROUP)
-            continue; // the reader has reported the missing controls
+            continue; // the reader has already reported the missing controls
         checkInput(check, controls.at(INPUT));
         if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
             QLatin1String(XmlName::OFF))
@@ -153,7 +153,7 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
     SmsLayout layout;
     QXmlStreamReader reader(xml);
     SmsLayoutFile::read(reader, layout);
-    const bool isWhole = elements.error.isEmpty(); // otherwise the error was reported already
+    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
     for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i)
         takeComplaint(elements, layout.complaints.at(i), report);
     if (layout.furtherComplaints > 0)

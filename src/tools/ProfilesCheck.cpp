@@ -17,7 +17,7 @@ namespace
 {
 
 const int BUTTONS = 11;
-const int PAYMENT_BUTTONS = 2; // the last two buttons
+const int PAYMENT_BUTTONS = 2; // the payment buttons are the last two buttons
 
 QStringList fields()
 {
@@ -118,8 +118,8 @@ QList<int> shownItems(const ElementCheck &check, const QList<int> &items)
     return shown;
 }
 
-/// Checks the buttons. The last two require a number, which replaces "%s" in their codes; the other
-/// buttons send their codes unchanged.
+/// Checks the buttons. The last two buttons require a number, which replaces "%s" in their codes.
+/// The other buttons send their codes unchanged.
 void checkButtons(ElementCheck &check, const QList<int> &items)
 {
     const QList<int> shown = shownItems(check, items);

@@ -61,7 +61,7 @@ bool isNetwork(const QString &text)
     return text.length() == 5 || text.length() == 6;
 }
 
-/// Returns an error message when the arguments do not fit together; empty when they do.
+/// Returns an error message if the arguments contradict each other, otherwise an empty string.
 QString complaintAbout(const ToolArguments &arguments)
 {
     if (!arguments.error.isEmpty())
@@ -93,7 +93,7 @@ QString orDash(const QString &text)
     return text.isEmpty() ? QString(QLatin1Char('-')) : text;
 }
 
-/// Prints country, name, balance, top-up, own number and networks, separated by tabs.
+/// Prints the country, name, balance, top-up, own number and networks, separated by tabs.
 void printProvider(const Provider &provider)
 {
     const ProvisionPlan plan = provisionPlan(provider);
@@ -142,7 +142,7 @@ QString installedFolder()
     return HostCore::InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
-/// Returns the operator's folder. Without a network code it is named after the operator.
+/// Returns the operator's folder. Without a network code, the folder is named after the operator.
 QString folderOf(const ToolArguments &arguments, const ProvisionPlan &plan)
 {
     if (arguments.has("--folder"))

@@ -6,8 +6,8 @@
 namespace Tools
 {
 
-/// Runs the program ussd-provision, which lists operators or writes the folder of one. Returns a
-/// ToolExit.
+/// Runs the program ussd-provision, which lists operators or writes the folder of one operator.
+/// Returns a ToolExit.
 int runProvisionTool(const QStringList &words);
 
 } // namespace Tools

@@ -8,7 +8,8 @@
 namespace Tools
 {
 
-/// Checks how the simulated network reads a scenario file. Adds findings and the table.
+/// Checks how the simulated network reads a scenario file. Adds findings and the table to the
+/// report.
 void checkScenario(const QByteArray &content, CheckReport &report);
 
 } // namespace Tools

@@ -11,19 +11,19 @@ namespace Tools
 /** A parsed command line. */
 struct ToolArguments {
     QMap<QString, QString> options; // values by "--name"; empty for a switch
-    QStringList words;              // the words that are no options
-    QString error;                  // error message in English; empty when there is no error
+    QStringList words;              // the words that are not options
+    QString error;                  // error message in English; empty if there is no error
 
     bool has(const char *option) const { return options.contains(QLatin1String(option)); }
     QString value(const char *option) const { return options.value(QLatin1String(option)); }
 };
 
 /// Parses the words that follow the program's name. The value of an option follows "=" or is the
-/// next word. Words after a lone "--" are no options. An option may be given only once.
+/// next word. Words after a separate "--" are not options. An option may be given only once.
 ToolArguments parseToolArguments(const QStringList &words, const QStringList &switches,
                                  const QStringList &valueOptions);
 
-/// Sets the locale of the environment and returns the words that follow the program's name.
+/// Applies the locale of the environment, and returns the words that follow the program's name.
 QStringList startTool(int argc, char **argv);
 
 /** The exit codes of the programs. */

@@ -13,11 +13,11 @@ namespace Tools
 struct XmlElement {
     QString name;
     QXmlStreamAttributes attributes;
-    QString text;      // of the element and its descendants
+    QString text;      // the text of the element and its descendants
     int parent = -1;   // index of the parent in the list; -1 for the root
     int behind = 0;    // index of the first later element that is not a descendant
-    qint64 line = 0;   // of the start tag, counts from 1
-    qint64 column = 0; // of the start tag, counts from 1
+    qint64 line = 0;   // line of the start tag; counts from 1
+    qint64 column = 0; // column of the start tag; counts from 1
 
     bool has(const char *attribute) const
     {
@@ -32,11 +32,11 @@ struct XmlElement {
 /** The elements of a document in the order of their start tags. */
 struct XmlElements {
     QList<XmlElement> list;
-    QString error; // why reading stopped early; empty when the document is well-formed
+    QString error; // the reason why reading stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous =
-        false; // nests too deeply or declares entities, so no other reader may get it
+    bool isDangerous = false; // is nested too deeply or declares entities, so it must not be passed
+                              // to another reader
 
     /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;

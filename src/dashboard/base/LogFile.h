@@ -7,8 +7,8 @@ namespace Dashboard
 {
 
 /**
- * The log file, which is written only when the user asks for it. Log lines contain codes and
- * replies, so the file is readable by its owner only, and a symbolic link is not followed.
+ * The log file, which is written only if the user requests it. Log lines contain codes and replies.
+ * Therefore only the owner can read the file, and a symbolic link is not followed.
  */
 namespace LogFile
 {
@@ -18,7 +18,7 @@ namespace LogFile
 /// thread is started.
 QString open(const QString &path);
 
-/// Appends terminalText(line). Does nothing when no file is open. May be called on any thread.
+/// Appends terminalText(line). Does nothing if no file is open. May be called on any thread.
 void write(const QString &line);
 
 } // namespace LogFile

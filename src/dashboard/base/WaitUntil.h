@@ -6,8 +6,9 @@
 namespace Dashboard
 {
 
-/// Handles events until the condition holds, for at most `milliseconds`; checks it after each
-/// event. Returns whether the condition holds. GUI thread.
+/// Processes events until the condition is true, for at most `milliseconds`. The condition is
+/// checked after each event. Returns whether the condition is true. Must be called on the GUI
+/// thread.
 bool waitUntil(const std::function<bool()> &condition, int milliseconds);
 
 } // namespace Dashboard

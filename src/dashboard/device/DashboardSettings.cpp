@@ -11,12 +11,13 @@ namespace
 const char NAME[] = "ussd-dashboard";
 const char LANGUAGE[] = "language";
 const char DEVICE[] = "device";
-const char SCENARIO[] = "scenario"; // written by earlier versions only
+const char SCENARIO[] = "scenario"; // only earlier versions wrote this key
 const char OPERATOR_CODES[] = "operator-codes/";
 const char GEOMETRY[] = "geometry";
 
-/// Removes an incomplete lock file of Qt's, left by a program that was killed while it wrote the
-/// lock file. The next program would otherwise wait 30 s until Qt considers the lock stale.
+/// Removes an incomplete lock file of Qt. A program that was killed while it wrote the lock file
+/// leaves such a file. Otherwise the next program would wait 30 s until Qt treats the lock as
+/// stale.
 void removeUnfinishedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QLatin1String(".lock"));
@@ -33,7 +34,7 @@ DashboardSettings::DashboardSettings()
     removeUnfinishedLock(file());
 }
 
-// The program's file mask keeps a new file private; an existing file is made private here.
+// Makes the file private. The program's file mode mask protects only new files.
 DashboardSettings::~DashboardSettings()
 {
     m_settings.sync();

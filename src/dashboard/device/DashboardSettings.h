@@ -18,17 +18,18 @@ public:
     /// Writes unsaved changes.
     ~DashboardSettings();
 
-    QString language() const; // an ISO 639-1 code; empty when never chosen
+    QString language() const; // an ISO 639-1 code; empty if the user never chose a language
     void setLanguage(const QString &code);
-    /// Returns the device chosen last, or the automatic choice when none was chosen. Also reads the
-    /// key of earlier versions, which stored a scenario only.
+    /// Returns the device that was chosen last, or the automatic choice if there is none. Also
+    /// reads the key of earlier versions, which stored only a scenario.
     DeviceChoice device() const;
     void setDevice(const DeviceChoice &choice);
     /// Returns the user's decision about the operator's codes for SIMs of a home network (MCC and
-    /// MNC), as the word that the caller has stored; empty when there is no decision.
+    /// MNC). The decision is the word that the caller has stored, or an empty string if there is
+    /// none.
     QString operatorCodes(const QString &homeNetwork) const;
     void setOperatorCodes(const QString &homeNetwork, const QString &word);
-    QByteArray geometry() const; // of the main window
+    QByteArray geometry() const; // the geometry of the main window
     void setGeometry(const QByteArray &geometry);
 
     /// Returns whether changes can be written.

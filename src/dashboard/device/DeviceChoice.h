@@ -21,8 +21,8 @@ struct DeviceChoice {
     static DeviceChoice simulated(const QString &file);
     static DeviceChoice modem(const QString &equipmentId);
 
-    /// Convert the choice to one word and back: "automatic", "simulated:FILE" or
-    /// "modem:IDENTIFIER". Any other word is the automatic choice.
+    /// The following two functions convert the choice to a word and back: "automatic",
+    /// "simulated:FILE" or "modem:IDENTIFIER". Any other word is converted to the automatic choice.
     QString word() const;
     static DeviceChoice fromWord(const QString &word);
 

@@ -11,12 +11,13 @@ struct DeviceStatus {
     bool isSimulated = true;
     int state = 0;          // a TKSV_DeviceState
     int problem = 0;        // a TKSV_DeviceProblem
-    int pinRetries = -1;    // remaining attempts to enter the PIN; -1 when unknown
-    int signalPercent = -1; // 0 to 100; -1 when unknown
-    QString operatorName;   // empty when unknown
-    QString imsi;           // empty when unknown
-    QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty when unknown
-    QString simOperator;    // the operator's name as stored on the SIM; empty when unknown
+    int pinRetries = -1;    // remaining attempts to enter the PIN; -1 if unknown
+    int signalPercent = -1; // 0 to 100; -1 if unknown
+    QString operatorName;   // empty if unknown
+    QString imsi;           // empty if unknown
+    QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty if unknown
+    QString simOperator;    // service provider name (SPN) that is stored on the SIM; empty if
+                            // unknown
     QString source;         // the scenario file, or the modem's manufacturer and model
 
     bool operator==(const DeviceStatus &other) const;
@@ -31,12 +32,13 @@ struct DeviceStatus {
     QString signalText() const;
     /// Returns the IMSI, or the reason why there is none.
     QString simText() const;
-    /// Returns the reason why no command can be sent; empty when a command can be sent.
+    /// Returns the reason why no command can be sent, or an empty string if a command can be sent.
     QString troubleText() const;
-    /// Returns what is wrong and what the user can do about it; empty when there is nothing to do.
+    /// Returns a description of the problem and of the action that the user can take. Returns an
+    /// empty string if the user cannot do anything.
     QString adviceText() const;
-    /// Returns the number of remaining PIN attempts, with a warning before the last one; empty when
-    /// the number is unknown.
+    /// Returns the number of remaining PIN attempts, with a warning before the last one. Returns an
+    /// empty string if the number is unknown.
     QString triesText() const;
     QString sourceText() const;
 };

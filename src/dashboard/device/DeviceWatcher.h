@@ -11,15 +11,15 @@
 namespace Dashboard
 {
 
-/** The status of the device in use, and the modems that could be used. */
+/** The status of the device in use, and the modems that can be used. */
 struct DeviceReading {
     DeviceStatus status;
     QList<Modem> modems;
 };
 
 /**
- * Keeps the device's status up to date. GUI thread. Only one watcher may exist at a time, because
- * the SDK has one call-back.
+ * Keeps the device's status up to date. Must be used on the GUI thread. Only one watcher may exist
+ * at a time, because the SDK accepts only one call-back.
  */
 class DeviceWatcher : public QObject
 {
@@ -32,11 +32,11 @@ public:
     const QList<Modem> &modems() const { return m_reading.modems; }
 
     /// Replaces the source of the status, to demonstrate devices that are not present. Null
-    /// restores the initial source, the device SDK.
+    /// restores the initial source, which is the device SDK.
     void readFrom(const std::function<DeviceReading()> &source);
 
 public slots:
-    /// Reads the status again and emits a signal when it has changed.
+    /// Reads the status again, and emits a signal if it has changed.
     void refresh();
 
 signals:

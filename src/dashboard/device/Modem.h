@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** A modem that can be chosen. */
+/** A modem that the user can choose. */
 struct Modem {
     QString equipmentId;
     QString name; // manufacturer and model; not unique
@@ -16,12 +16,12 @@ struct Modem {
     bool operator==(const Modem &other) const;
 };
 
-/// Returns the modems known to the device SDK, the one present longest first. Does not wait. May be
-/// called on any thread.
+/// Returns the modems that the device SDK reports, in the order in which they were found. Returns
+/// without waiting. May be called on any thread.
 QList<Modem> readModems();
 
-/// Returns the modem's name, followed by the last digits of its identifier when another modem in
-/// `all` has the same name.
+/// Returns the modem's name. Adds the last digits of its identifier if another modem in `all` has
+/// the same name.
 QString modemTitle(const Modem &modem, const QList<Modem> &all);
 
 } // namespace Dashboard

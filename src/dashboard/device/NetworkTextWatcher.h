@@ -8,8 +8,8 @@ namespace Dashboard
 {
 
 /**
- * Emits a signal for each message that the network sends on its own initiative. GUI thread. Only
- * one watcher may exist at a time, because the SDK has one call-back.
+ * Emits a signal for each message that the network sends of its own accord. Must be used on the GUI
+ * thread. Only one watcher may exist at a time, because the SDK accepts only one call-back.
  */
 class NetworkTextWatcher : public QObject
 {
@@ -19,7 +19,7 @@ public:
     ~NetworkTextWatcher() override;
 
 public slots:
-    /// Starts to listen. Messages that arrived earlier are reported too.
+    /// Registers the call-back. Messages that arrived earlier are also reported.
     void start();
 
 signals:

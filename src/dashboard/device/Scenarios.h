@@ -16,7 +16,7 @@ QStringList shipped();
 /// Returns the name of a scenario file for menus.
 QString displayName(const QString &file);
 
-/// Selects the simulated network of the file as the device; an empty name selects the default.
+/// Selects the simulated network of the file as the device. An empty name selects the default.
 /// Returns an empty text on success. Otherwise changes nothing and returns the error in the file
 /// with its line.
 QString use(const QString &file);

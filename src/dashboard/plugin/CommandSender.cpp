@@ -12,7 +12,8 @@ namespace Dashboard
 namespace
 {
 
-// The plug-in ends every wait itself. If a wait is longer by this time, the plug-in is broken.
+// The plug-in ends every wait itself. If a wait takes this much longer than the time-out, the
+// plug-in is broken.
 const int PLUGIN_GRACE = 5000; // ms
 // The time by which the tap may receive a reply later than the plug-in.
 const int TAP_GRACE = 1000; // ms
@@ -73,7 +74,8 @@ bool CommandSender::isFailureText(const QString &text)
            text == pluginText("USSD_CODE_TIME_OUT").trimmed();
 }
 
-/// Prints the device's problem as well, because it is the most likely reason of a failure.
+/// Prints the error and returns false. Prints the device's problem as well, because it is the most
+/// likely reason for a failure.
 bool CommandSender::fail(const QString &text)
 {
     HostCore::printErrorLine(text);

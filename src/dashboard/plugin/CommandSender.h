@@ -13,7 +13,7 @@ struct DeviceStatus;
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
- * prints each reply. GUI thread; handles events while it waits.
+ * prints each reply. Must be used on the GUI thread. Processes events while it waits.
  */
 class CommandSender
 {
@@ -38,8 +38,8 @@ private:
     const int m_replyLimit;
 };
 
-/// Prints to standard error why the device cannot be used and what to do about it. Prints nothing
-/// when the device can be used.
+/// Prints to standard error why the device cannot be used and what the user can do about it. Prints
+/// nothing if the device can be used.
 void sayWhyNotReady(const DeviceStatus &device);
 
 } // namespace Dashboard

@@ -26,8 +26,8 @@ QString receivedCaption()
 
 } // namespace
 
-// setText() does not emit textEdited(), so the text is delivered as an input method would deliver
-// it: as one edit.
+// The text is delivered as a single edit, as an input method delivers it, because setText() does
+// not emit textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     edit->selectAll();
@@ -98,7 +98,7 @@ QString GeneralWindow::lastReceived() const
         block = block.previous();
     QString text = block.text().mid(caption.size());
     text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
-    text.remove(QChar(0x200e)); // the left-to-right mark after the caption
+    text.remove(QChar(0x200e)); // removes the left-to-right mark after the caption
     return text.trimmed();
 }
 

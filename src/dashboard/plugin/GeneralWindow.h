@@ -14,8 +14,8 @@ namespace Dashboard
 void typeInto(QLineEdit *edit, const QString &text);
 
 /**
- * Access to the plug-in's general window by the object names of its widgets. The plug-in owns the
- * widgets and may delete them at any time. GUI thread.
+ * Provides access to the plug-in's general window by the object names of its widgets. The plug-in
+ * owns the widgets and may delete them at any time. Must be used on the GUI thread.
  */
 class GeneralWindow
 {
@@ -26,26 +26,26 @@ public:
     GeneralWindow() = default;
     /// Searches the descendants of `root`, which may be null.
     explicit GeneralWindow(const QWidget *root);
-    /// Returns the general window that the plug-in shows in a frame of its own. The result is
-    /// incomplete when none is shown.
+    /// Returns the general window that the plug-in shows in a separate frame. If there is none,
+    /// isComplete() of the result is false.
     static GeneralWindow framed();
 
     bool isComplete() const;
     QLineEdit *commandEdit() const { return m_commandEdit; }
     QPushButton *sendButton() const { return m_sendButton; }
-    /// The following two buttons are null when the plug-in's configuration leaves them out.
+    /// The following two buttons are null if the plug-in's configuration omits them.
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
     /// Returns whether the window waits for an answer.
     bool isWaiting() const;
-    /// Types the text and presses Send. Returns false when the window does not accept the text.
+    /// Types the text and presses Send. Returns false if the window does not accept the text.
     bool send(const QString &text) const;
 
     /// Returns the transcript as plain text.
     QString transcript() const;
-    /// Returns the newest reply in the transcript without its caption; empty when there is none.
-    /// The markup of the transcript may have changed the reply's white space.
+    /// Returns the newest reply in the transcript without its caption, or an empty string if there
+    /// is none. The markup of the transcript may have changed the white space of the reply.
     QString lastReceived() const;
 
 private:

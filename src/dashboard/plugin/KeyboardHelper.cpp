@@ -26,7 +26,8 @@ bool isReturn(const QKeyEvent *event)
            !event->isAutoRepeat();
 }
 
-// The focus is set later because the plug-in focuses a hidden combo box while it shows the window.
+// Sets the focus later, because the plug-in sets the focus to a hidden combo box while it shows the
+// window.
 void focusSoon(QLineEdit *edit)
 {
     QMetaObject::invokeMethod(edit, "setFocus", Qt::QueuedConnection);
@@ -54,7 +55,8 @@ bool KeyboardHelper::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// Clicks the Send button, which does nothing when it is disabled. Returns whether there is one.
+/// Clicks the Send button, which does nothing if it is disabled. Returns whether there is such a
+/// button.
 bool KeyboardHelper::pressSend(const QLineEdit *edit)
 {
     const QString name = QLatin1String(GeneralWindow::SEND_BUTTON);

@@ -9,10 +9,10 @@ namespace Dashboard
 {
 
 /**
- * Makes the plug-in's general window usable by keyboard alone, embedded or in a frame. Return in
- * the command edit presses Send. The command edit gets the focus when the window appears and when
- * an answer enables the edit again. The event filter covers the whole application because the
- * plug-in creates its windows at any time. GUI thread.
+ * Makes the plug-in's general window usable with the keyboard alone, embedded or in a frame. Return
+ * in the command edit presses Send. The command edit receives the focus when the window appears,
+ * and when an answer enables the edit again. The event filter covers the whole application, because
+ * the plug-in may create its windows at any time. Must be used on the GUI thread.
  */
 class KeyboardHelper : public QObject
 {

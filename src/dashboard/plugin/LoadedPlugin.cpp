@@ -19,7 +19,7 @@ namespace Dashboard
 namespace
 {
 
-/// Returns whether the dynamic loader can load the file, by loading and unloading it.
+/// Returns whether the dynamic loader can load the file. Loads and unloads the file to find out.
 bool isLoadableLibrary(const QString &file)
 {
     QLibrary library(file);
@@ -57,7 +57,8 @@ PluginFailure LoadedPlugin::openLibrary(const QString &file)
     m_loader.setFileName(file);
     if (!QFileInfo(file).isFile()) {
         PluginFailure missing = failure(PluginFailure::FileMissing);
-        missing.file = file; // QPluginLoader clears the name of a file that does not exist
+        missing.file = file; // set again, because QPluginLoader clears the name of a file that does
+                             // not exist
         return missing;
     }
     if (!m_loader.load()) {

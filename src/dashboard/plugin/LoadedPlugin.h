@@ -16,9 +16,11 @@ namespace Dashboard
 {
 
 /**
- * Loads a USSD plug-in and makes the calls that a plug-in expects of its host. GUI thread.
+ * Loads a USSD plug-in and makes the calls that a plug-in expects from its host. Must be used on
+ * the GUI thread.
  *
- * The library is never unloaded: the plug-in does not allow it while the program runs.
+ * The library is never unloaded, because the plug-in does not allow this while the program is
+ * running.
  */
 class LoadedPlugin
 {
@@ -37,22 +39,23 @@ public:
     PluginFailure load(const QString &file);
     bool isUsable() const { return m_plugin && m_ussd; }
 
-    /// Returns the plug-in, or null before load() and after shutDown(). This object owns it.
+    /// Returns the plug-in, or null before load() and after shutDown(). This object owns the
+    /// plug-in.
     IUIPlugin *plugin() const { return m_plugin; }
     IUSSD *ussd() const { return m_ussd; }
 
-    /// Notifies the plug-in that the language has changed. Does nothing when no plug-in is loaded.
+    /// Notifies the plug-in that the language has changed. Does nothing if no plug-in is loaded.
     void notifyLanguageChange();
-    /// Notifies the plug-in that the SIM may have changed. Does nothing when no plug-in is loaded.
+    /// Notifies the plug-in that the SIM may have changed. Does nothing if no plug-in is loaded.
     void notifySimChange();
 
-    /// Makes the plug-in delete its windows and services and requests its USSD service again, so
+    /// Makes the plug-in delete its windows and services, and requests its USSD service again, so
     /// that the plug-in reloads its configuration. All frames and pages of the plug-in are deleted.
     PluginFailure restart();
 
-    /// Makes the plug-in unregister its call-backs and delete its windows, and deletes the plug-in
-    /// object. Must be called before the windows that contain the plug-in's windows are deleted. A
-    /// second call does nothing.
+    /// Makes the plug-in unregister its call-backs and delete its windows, and then deletes the
+    /// plug-in object. Must be called before the windows that contain the plug-in's windows are
+    /// deleted. A second call does nothing.
     void shutDown();
 
 private:

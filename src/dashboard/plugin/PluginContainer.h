@@ -11,8 +11,8 @@ namespace Dashboard
 
 /**
  * The objects that the dashboard offers to its plug-ins, by their identifiers. The container
- * registers itself with the core library while it exists; only one may exist at a time. GUI
- * thread.
+ * registers itself with the core library while it exists. Only one container may exist at a time.
+ * Must be used on the GUI thread.
  */
 class PluginContainer : public IPluginContainer
 {

@@ -21,9 +21,9 @@ struct PluginFailure {
 
     Step step = None;
     QString file;
-    QString detail; // the loader's error message, or the identifier that is missing
+    QString detail; // the loader's error message, or the missing identifier
 
-    /// Returns the error message in the user's language; empty for None.
+    /// Returns the error message in the user's language, or an empty string for None.
     QString text() const;
 };
 

@@ -9,9 +9,10 @@ namespace Dashboard
 
 /**
  * A temporary plug-in library folder with copies of the installed files that can be changed. While
- * it exists, $USSD_PLUGIN_LIBRARY_PATH is set to the folder and $TKSV_USER_DATA to a folder in it,
- * so that the plug-in changes neither the installed files nor the user's. Only one may exist at a
- * time. It must be constructed and deleted while no other thread uses the environment.
+ * it exists, $USSD_PLUGIN_LIBRARY_PATH is set to the folder and $TKSV_USER_DATA to a folder in it.
+ * The plug-in therefore changes neither the installed files nor the user's files. Only one such
+ * folder may exist at a time. It must be constructed and deleted while no other thread uses the
+ * environment.
  */
 class PrivatePluginFolder
 {
@@ -22,7 +23,7 @@ public:
     PrivatePluginFolder(const PrivatePluginFolder &) = delete;
     PrivatePluginFolder &operator=(const PrivatePluginFolder &) = delete;
 
-    /// Returns false when the folder could not be created at path().
+    /// Returns false if the folder could not be created at path().
     bool isValid() const { return m_isValid; }
     QString path() const { return m_path; }
     QString userProfileFile() const;
@@ -30,8 +31,8 @@ public:
 
     /// Restores the installed file of this name.
     bool restore(const QString &name);
-    /// In the file of this name, replaces the first `before` that follows the first `anchor`.
-    /// Returns false when the file does not contain them.
+    /// In the file of this name, replaces the first `before` after the first `anchor` with `after`.
+    /// Returns false if the file does not contain them.
     bool change(const QString &name, const QByteArray &anchor, const QByteArray &before,
                 const QByteArray &after);
     bool write(const QString &name, const QByteArray &content);

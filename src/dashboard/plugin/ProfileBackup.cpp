@@ -31,7 +31,8 @@ bool isWholeXml(const QByteArray &text)
     return !reader.hasError();
 }
 
-/// Returns the content of the file; empty when it cannot be read or is not well-formed XML.
+/// Returns the content of the file. Returns an empty array if the file cannot be read or is not
+/// well-formed XML.
 QByteArray goodContent(const QString &path)
 {
     QByteArray text;
@@ -49,7 +50,7 @@ bool writeWhole(const QString &path, const QByteArray &text)
     return file.write(text) == text.size() && file.flush() && fsync(file.handle()) == 0;
 }
 
-// std::rename() is used because QFile::rename() does not replace an existing file.
+// Moves the file. std::rename() is used, because QFile::rename() does not replace an existing file.
 bool moveFile(const QString &from, const QString &to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
@@ -64,7 +65,8 @@ bool replaceFile(const QString &path, const QByteArray &text)
     return false;
 }
 
-/// Returns the folder of the user's codes, ending in "/"; empty when there is none.
+/// Returns the folder of the user's codes, which ends in "/". Returns an empty string if there is
+/// none.
 QString userDataFolder()
 {
     unsigned short *units = nullptr;
@@ -130,7 +132,8 @@ bool ProfileBackup::isDamaged() const
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }
 
-// If the program ends between the two steps, the file is missing and the copy is offered again.
+// Restores the copy. If the program ends between the two steps, the file is missing, and the copy
+// is offered again.
 bool ProfileBackup::restore() const
 {
     const QByteArray text = goodContent(m_copy);

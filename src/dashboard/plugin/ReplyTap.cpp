@@ -14,7 +14,7 @@ namespace Dashboard
 namespace
 {
 
-const int NETWORK_WAITS = 1; // <m> of +CUSD, 3GPP TS 27.007
+const int NETWORK_WAITS = 1; // the <m> of +CUSD (3GPP TS 27.007)
 
 std::atomic<ReplyTap *> listening(nullptr);
 
@@ -63,7 +63,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     tap->keep(reply);
-    return 0; // the plug-in, not the tap, reports whether the reply was handled
+    return 0; // only the plug-in reports whether the reply was handled
 }
 
 void ReplyTap::keep(const Reply &reply)
@@ -72,7 +72,7 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
     }
-    // waitUntil() checks its condition after each event, so an event wakes the waiting code.
+    // An event wakes the waiting code, because waitUntil() checks its condition after each event.
     QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
 }
 

@@ -7,17 +7,17 @@
 namespace Dashboard
 {
 
-/** A reply of the network, exactly as the device delivered it. */
+/** A reply from the network, exactly as the device delivered it. */
 struct Reply {
-    QString text;               // empty when the network rejected the code or the device failed
-    bool isReceived = false;    // false when no reply has arrived
-    bool asksForAnswer = false; // a menu of the network is open
+    QString text;               // empty if the network rejected the code or the device failed
+    bool isReceived = false;    // false if no reply has arrived
+    bool asksForAnswer = false; // the network waits for an answer to a menu
 };
 
 /**
- * Receives the device's replies in parallel with the plug-in, because the plug-in's transcript is
- * markup and preserves neither white space nor brackets. Only one tap may exist at a time. It must
- * be constructed before the plug-in is loaded, so that it receives each reply first.
+ * Receives the device's replies in parallel with the plug-in. The plug-in's transcript is not used,
+ * because it is markup and preserves neither white space nor brackets. Only one tap may exist at a
+ * time. It must be constructed before the plug-in is loaded, so that it receives each reply first.
  */
 class ReplyTap
 {

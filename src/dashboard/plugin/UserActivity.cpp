@@ -40,7 +40,7 @@ bool UserActivity::isBusy()
     return false;
 }
 
-// The signals are emitted later because the plug-in has not handled the event yet.
+// Queues the signals, because the plug-in has not handled the event yet.
 bool UserActivity::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Hide && qobject_cast<ExtendDialog *>(watched))

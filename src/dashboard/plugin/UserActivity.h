@@ -8,7 +8,8 @@ namespace Dashboard
 
 /**
  * Reports what the user does with the plug-in's windows. The event filter covers the whole
- * application because the plug-in creates its windows at any time. GUI thread.
+ * application, because the plug-in may create its windows at any time. Must be used on the GUI
+ * thread.
  */
 class UserActivity : public QObject
 {
@@ -16,14 +17,16 @@ class UserActivity : public QObject
 public:
     explicit UserActivity(QObject *parent = nullptr);
 
-    /// Returns whether a frame of the plug-in is open or a command typed by the user is pending.
+    /// Returns whether a frame of the plug-in is open, or the command that the user typed is
+    /// pending.
     static bool isBusy();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// Emitted when a frame was closed or the command edit accepts input again, after the event
-    /// that caused the change was handled. It may also be emitted when nothing has changed.
+    /// Emitted when a frame was closed, or when the command edit accepts input again. The signal is
+    /// emitted after the event that caused the change was handled. It may also be emitted if
+    /// nothing has changed.
     void frameClosed();
     void commandEnded();
 };

@@ -9,16 +9,16 @@
 namespace Dashboard
 {
 
-/** Receives the messages that plug-ins send to the dashboard. GUI thread. */
+/** Receives the messages that plug-ins send to the dashboard. Must be used on the GUI thread. */
 class NotificationService : public QObject, public INotifyService
 {
     Q_OBJECT
     Q_INTERFACES(INotifyService)
 public:
-    /// The identifier under which plug-ins look for the service.
+    /// The identifier under which plug-ins find the service.
     static const char *const CLSID;
-    /// The addressees: two parts of a host that need to know the kind of the SIM. In the dashboard
-    /// one window is both of them, so it receives each message twice.
+    /// The addressees: two parts of a host that need the kind of the SIM. In the dashboard, the
+    /// same window is both parts, so it receives each message twice.
     static const char *const ADDRESSEES[2];
 
     explicit NotificationService(QObject *parent = nullptr);
@@ -27,8 +27,8 @@ public:
                NotifyParam lParam) override;
 
 signals:
-    /// Emitted when the network has reported the kind of the SIM or did not answer in time, once
-    /// for each addressee.
+    /// Emitted once for each addressee when the network has reported the kind of the SIM or did not
+    /// answer in time.
     void paidTypeTold(PaidType type);
 };
 

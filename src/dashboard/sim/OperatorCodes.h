@@ -15,25 +15,26 @@ class DeviceWatcher;
 
 /** The paths of the operator database and of the folders with operators' codes. */
 struct OperatorPlaces {
-    QString database; // empty for the installed one
-    QString folders;  // contains one folder for each network code; empty for the user's own place
-    /// False when the plug-in's folder was set from outside and must not be replaced.
+    QString database; // empty for the installed database
+    QString folders;  // contains one folder for each network code; empty for the user's own folder
+    /// false if the plug-in's folder was set from outside and must not be replaced
     bool isFree = true;
 
-    /// Returns the paths for the user who runs the program; isFree is false when
+    /// Returns the paths for the user who runs the program. isFree is false if
     /// $USSD_PLUGIN_LIBRARY_PATH is set.
     static OperatorPlaces ofUser();
 };
 
 /**
- * Selects the codes that the plug-in uses, for each home network of a SIM: those of an operator,
- * taken from the operator database, or those that come with the program. GUI thread.
+ * Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes are
+ * those of an operator, taken from the operator database, or those that are installed with the
+ * program. Must be used on the GUI thread.
  */
 class OperatorCodes : public QObject
 {
     Q_OBJECT
 public:
-    /// Both arguments must outlive this object. When `settings` is null, decisions are not stored.
+    /// Both arguments must outlive this object. If `settings` is null, decisions are not stored.
     OperatorCodes(const DeviceWatcher *device, DashboardSettings *settings,
                   QObject *parent = nullptr);
     ~OperatorCodes() override;
@@ -44,23 +45,25 @@ public:
     /// Returns the MCC and MNC of the SIM in use, or of the previous SIM while the new one is
     /// unknown.
     QString network() const { return m_network; }
-    /// Returns the operator whose codes are in use; empty for the codes that come with the program.
+    /// Returns the operator whose codes are in use. Returns an empty string if the codes of the
+    /// program are in use.
     QString operatorInUse() const;
     /// Returns whether the user has decided about the codes for this SIM's network.
     bool isDecided() const;
 
     /// Returns the operators that may have issued this SIM and have codes.
     Provisioning::ProviderChoice choice() const;
-    /// Returns the operators of choice(), or all operators with codes in the SIM's country when
-    /// choice() has none.
+    /// Returns the operators of choice(). If there are none, returns all operators in the SIM's
+    /// country that have codes.
     QList<Provisioning::Provider> candidates() const;
     /// Returns whether the operator database can be read.
     bool hasDatabase() const;
 
-    /// Writes the operator's codes to the folder of the SIM's network and selects it. Files that
-    /// were edited by hand are renamed when `setAside` is true; otherwise nothing is written.
+    /// Writes the operator's codes to the folder of the SIM's network and selects this folder. If
+    /// there are files that were edited by hand, they are renamed if `setAside` is true; otherwise
+    /// nothing is written.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
-    /// Selects the codes that come with the program for this SIM's network.
+    /// Selects the codes of the program for this SIM's network.
     void decline();
 
 public slots:
@@ -68,7 +71,7 @@ public slots:
     void look();
 
 signals:
-    /// Emitted when the SIM's network has changed, so that texts about the previous one are
+    /// Emitted when the SIM's network has changed. Texts about the previous network are then
     /// outdated.
     void networkChanged();
     /// Emitted when CommonUtils::GetPluginLibraryPath() returns another folder, or the files in the
@@ -87,8 +90,9 @@ private:
     DashboardSettings *const m_settings;
     OperatorPlaces m_places;
     QString m_network;
-    QString m_folderInUse;              // empty for the installed one
-    QMap<QString, QString> m_decisions; // by network; kept here for use without settings
+    QString m_folderInUse;              // empty for the installed folder
+    QMap<QString, QString> m_decisions; // by network; stored here so that decisions work without
+                                        // settings
     mutable Provisioning::ProviderDatabase m_database;
     mutable bool m_isRead = false;
 };

@@ -13,10 +13,11 @@ namespace
 {
 
 // When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports
-// their failure. A question asked earlier than this would receive that report as its answer.
+// their failure. A query that is sent within this time would receive this report as its answer.
 const int SETTLING_TIME = 200; // ms
 
-// The plug-in reports a time-out itself, unless the window that asked was deleted meanwhile.
+// The plug-in itself reports a time-out, unless the window that sent the query has been deleted in
+// the meantime.
 const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
@@ -51,7 +52,7 @@ void PaidTypeFinder::tryToAsk()
     setState(PaidType::Unknown, inUse && wasSent);
 }
 
-// An unexpected answer belongs to a SIM that was removed, and is ignored.
+// Stores the answer. An unexpected answer belongs to a SIM that was removed, and is ignored.
 void PaidTypeFinder::takeAnswer(PaidType type)
 {
     if (isAsking())

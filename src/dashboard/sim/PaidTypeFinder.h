@@ -14,9 +14,9 @@ namespace Dashboard
 class LoadedPlugin;
 
 /**
- * Makes the plug-in ask the network, once for each SIM, whether the SIM is prepaid or postpaid. The
- * plug-in ends an open session on the device before it asks, so the question is delayed while the
- * user needs the device. GUI thread; no function blocks.
+ * Makes the plug-in query the network, once for each SIM, whether the SIM is prepaid or postpaid.
+ * The plug-in first ends an open session on the device, so the query is delayed while the user
+ * needs the device. Must be used on the GUI thread. No function blocks.
  */
 class PaidTypeFinder : public QObject
 {
@@ -26,17 +26,17 @@ public:
     explicit PaidTypeFinder(LoadedPlugin *plugin, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
-    /// Returns whether the question was sent and its answer is pending.
+    /// Returns whether the query was sent and its answer is pending.
     bool isAsking() const { return m_timeLimit.isActive(); }
 
-    /// Discards the result, so that the question is asked for the SIM that is present now.
+    /// Discards the result, so that the query is sent for the SIM that is present now.
     void restart();
-    /// Asks the question, unless it was asked already or the settling time has not passed. Must be
-    /// called only while the device is ready and nobody else uses it.
+    /// Sends the query. Does nothing if the query was already sent or the settling time has not
+    /// passed. Must be called only while the device is ready and nobody else uses it.
     void tryToAsk();
 
 signals:
-    /// Emitted when the settling time has passed, so that the question may be asked.
+    /// Emitted when the settling time has passed, so that the query may be sent.
     void settled();
     /// Emitted when the result of paidType() or isAsking() has changed.
     void changed();
@@ -51,7 +51,7 @@ private:
     LoadedPlugin *const m_plugin;
     NotificationService m_notifications;
     PluginContainer m_container;
-    QTimer m_settling;  // runs while it is too early to ask
+    QTimer m_settling;  // runs while it is too early to send the query
     QTimer m_timeLimit; // runs while the answer is pending
     PaidType m_type = PaidType::Unknown;
     bool m_isWanted = false;

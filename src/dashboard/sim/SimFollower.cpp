@@ -33,7 +33,8 @@ void SimFollower::start()
     offer();
 }
 
-/// Returns the previous IMSI while the device is away, because its SIM may be the same afterwards.
+/// Returns the IMSI of the SIM. While the device is absent, returns the previous IMSI, because the
+/// device may return with the same SIM.
 QString SimFollower::currentImsi() const
 {
     const DeviceStatus &status = m_device->status();
@@ -60,21 +61,21 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// The tap is informed too because the text may have arrived before the tap was installed.
+// Informs the tap as well, because the text may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();
 }
 
-/// A removed device has no open menu.
+/// Discards the state of the removed device, which has no open menu any more.
 void SimFollower::onDeviceLost()
 {
     m_replies.clear();
     m_finder.restart();
 }
 
-/// Asks neither while the user needs the device nor while a menu waits for an answer, because the
-/// question would end either session.
+/// Sends the query, but not while the user needs the device or a menu waits for an answer, because
+/// the query would end that session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

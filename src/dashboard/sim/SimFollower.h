@@ -15,8 +15,9 @@ class LoadedPlugin;
 
 /**
  * Keeps the plug-in and the dashboard up to date with the SIM. Notifies the plug-in of another SIM,
- * and reports which windows to offer for the SIM and whether it is prepaid or postpaid. GUI thread.
- * Only one follower may exist at a time, constructed before the plug-in is loaded.
+ * and reports which windows to offer for the SIM and whether it is prepaid or postpaid. Must be
+ * used on the GUI thread. Only one follower may exist at a time, and it must be constructed before
+ * the plug-in is loaded.
  */
 class SimFollower : public QObject
 {
@@ -25,16 +26,16 @@ public:
     /// The plug-in and the device must outlive the follower.
     SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
-    /// Returns "Prepaid", "Postpaid" or that the network is being asked, in the user's language;
-    /// empty when the kind is unknown.
+    /// Returns "Prepaid", "Postpaid" or a text that the network is being queried, in the user's
+    /// language. Returns an empty string if the kind is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
 
 public slots:
-    /// Starts to follow the SIM. To be called whenever the plug-in was loaded or restarted.
+    /// Starts to follow the SIM. Must be called whenever the plug-in has been loaded or restarted.
     void start();
-    /// To be called when the network waits for an answer to a message of its own. The finder asks
-    /// nothing until that session has ended.
+    /// Must be called when the network waits for an answer to a message that it sent of its own
+    /// accord. The finder sends no query until that session has ended.
     void questionCame();
 
 signals:
@@ -60,7 +61,7 @@ private:
     ReplyTap m_replies;
     UserActivity m_activity;
     PaidTypeFinder m_finder;
-    QString m_imsi; // of the SIM that the offered windows belong to
+    QString m_imsi; // the IMSI of the SIM for which windows are offered
 };
 
 } // namespace Dashboard

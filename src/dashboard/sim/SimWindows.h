@@ -8,7 +8,10 @@ class IUSSD;
 namespace Dashboard
 {
 
-/** The windows to offer for a SIM. The first four have the values that IUSSD uses. */
+/**
+ * The windows to offer for a SIM. The values of the first four constants are the flags that
+ * IUSSD::CheckImsiIsValid() sets.
+ */
 enum SimWindow {
     SIM_WINDOW_PREPAID = 1,
     SIM_WINDOW_POSTPAID = 2,
@@ -17,13 +20,13 @@ enum SimWindow {
     SIM_WINDOWS_ALL = 15
 };
 
-/// Returns the set of windows to offer for the SIM with this IMSI; an empty IMSI means that there
+/// Returns the set of windows to offer for the SIM with this IMSI. An empty IMSI means that there
 /// is no SIM. The set contains
 ///
-/// - all windows, when the plug-in's configuration leaves the choice to the user;
+/// - all windows, if the plug-in's configuration leaves the choice to the user;
 /// - the windows that the configuration lists for the IMSI;
-/// - the general window and the services, when the IMSI is not listed or empty. These serve any
-///   subscriber, whereas an account window would send codes of another contract.
+/// - the general window and the services, if the IMSI is not listed or is empty. These windows are
+///   suitable for any subscriber, whereas an account window would send codes of another contract.
 int windowsForSim(IUSSD *ussd, const QString &imsi);
 
 } // namespace Dashboard

@@ -16,7 +16,7 @@ const QSize WINDOW_SIZE(900, 700); // pixels
 
 typedef bool (*Part)(TourGuide &guide);
 
-/** A part of the tour and the languages in which it is walked. */
+/** A part of the tour, and the languages in which it is shown. */
 struct Leg {
     const char *language;
     Part part;

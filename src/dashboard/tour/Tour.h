@@ -10,14 +10,15 @@ class MainWindow;
 class PrivatePluginFolder;
 
 /**
- * Walks through the windows as a user would, in several languages, takes a picture at each stop and
- * writes a transcript of the texts shown. GUI thread; handles events meanwhile.
+ * Operates the windows as a user does, in several languages. Takes a picture at each stop, and
+ * writes a transcript of the visible texts. Must be called on the GUI thread. Processes events
+ * meanwhile.
  */
 namespace Tour
 {
 
-/// Takes the whole tour and writes its files to `folder`, which is created when needed. `window`
-/// must be visible, with its plug-in loaded from `library`. Prints each step, and errors to
+/// Runs the whole tour and writes its files to `folder`, which is created if necessary. `window`
+/// must be visible, with its plug-in loaded from `library`. Prints each step, and prints errors to
 /// standard error. Returns whether every stop was reached and every file was written.
 bool take(MainWindow *window, PrivatePluginFolder *library, const QString &folder);
 

@@ -10,7 +10,9 @@ class QWidget;
 namespace Dashboard
 {
 
-/** A stop of the tour: the suffix of its picture's name, and what the picture shows. */
+/**
+ * A stop of the tour: the suffix of the file name of its picture, and the caption of the picture.
+ */
 struct TourStop {
     const char *name;
     const char *caption;
@@ -26,12 +28,14 @@ public:
     /// Sets the language code for the names of the following pictures.
     void setLanguage(const QString &code) { m_language = code; }
 
-    /// Adds a picture of `place`, with what can be read in it. False when it cannot be written.
+    /// Adds a picture of `place` and the text that can be read in it. Returns false if the picture
+    /// cannot be written.
     bool add(const QPixmap &picture, const char *place, const TourStop &stop, const QString &text);
     bool writeTranscript();
     int pictures() const { return m_pictures; }
 
-    /// Prints the error message to standard error and returns false. `subject` replaces %1 in it.
+    /// Prints the error message to standard error and returns false. `subject` replaces %1 in the
+    /// message.
     static bool fail(const char *key, const QString &subject);
 
 private:
@@ -41,7 +45,7 @@ private:
     QStringList m_transcript; // lines
 };
 
-/// Returns the texts visible in the widget and its descendants, from top to bottom, one line each.
+/// Returns the visible texts of the widget and its descendants, from top to bottom, one line each.
 QString shownText(const QWidget *widget);
 
 } // namespace Dashboard

@@ -160,7 +160,7 @@ bool walkPin(TourGuide &guide)
            guide.waitFor([&guide] { return !isShown(part<QWidget>(guide, PIN_DIALOG)); });
 }
 
-// ---- messages on the network's initiative
+// ---- messages that the network sends of its own accord
 
 bool walkTexts(TourGuide &guide)
 {

@@ -138,7 +138,7 @@ bool renameAndSave(TourGuide &guide, QTableWidget *table, const TourStop &stop)
 
 TourEditor::TourEditor(TourGuide *guide) : m_guide(guide) {}
 
-// The editor blocks in its own event loop, so the walk is scheduled before the editor is opened.
+// Opens the editor. The walk is scheduled first, because the editor blocks in its own event loop.
 bool TourEditor::visit(Walk walk, const TourStop &stop)
 {
     m_walk = walk;

@@ -12,7 +12,10 @@ namespace Dashboard
 
 class TourGuide;
 
-/** Opens the editor of the user's own codes from the page and performs a walk while it is open. */
+/**
+ * Opens the editor of the user's own codes from the page, and performs a walk while the editor is
+ * open.
+ */
 class TourEditor : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ const TourStop CONFIRM = {"confirm", "whether the history is to be cleared"};
 const TourStop CLEARED = {"cleared", "the history is empty again"};
 const TourStop OTHER_SIM = {"other-sim", "another SIM, with the windows that go with it"};
 
-// A picture is also taken while the first question waits for its answer.
+// The questions of the tour. A picture is also taken while the first question waits for its answer.
 const Question QUESTIONS[] = {
     {"*100#", {"answered", "the network's reply"}},
     {"*123#", {"menu", "the network's menu, to be answered"}},
@@ -54,7 +54,7 @@ bool ask(TourGuide &guide, const GeneralWindow &general, const Question &questio
     return waitForAnswer(guide, general) && guide.take(question.stop);
 }
 
-// The click returns when the confirmation box has been answered.
+// Clears the transcript. The click returns when the confirmation box has been answered.
 bool clearTranscript(TourGuide &guide, const GeneralWindow &general)
 {
     if (!general.clearButton())

@@ -81,7 +81,7 @@ bool TourGuide::useNetwork(const TourChange *changes, int count)
     m_deviceLost = false;
     if (!m_window->useScenario(m_library->fileName(name)))
         return TourAlbum::fail("SCENARIO_UNUSABLE", name);
-    // The change of the network ends commands that are sent before the device is lost.
+    // Commands that were sent before the device was lost end because of the network change.
     return waitFor([this] { return m_deviceLost; });
 }
 
@@ -99,7 +99,7 @@ bool TourGuide::usePlugin(const TourChange *changes, int count)
                     m_library->change(name, changes[i].anchor, changes[i].before, changes[i].after);
     if (!isWritten)
         return TourAlbum::fail("TOUR_NOT_WRITTEN", name);
-    settle(); // lets deleteLater() delete the frames that were closed
+    settle(); // lets deleteLater() delete the closed frames
     return m_window->restartPlugin().step == PluginFailure::None || failHere();
 }
 
@@ -115,7 +115,7 @@ QWidget *TourGuide::open(int paidType, const char *widgetName, const char *place
     m_window->openFrame(paidType);
     QWidget *widget = nullptr;
     const auto isOpen = [&widget, widgetName] { return (widget = frameWith(widgetName)); };
-    if (!waitUntil(isOpen, LIMIT)) { // the question whether the SIM is prepaid may delay the window
+    if (!waitUntil(isOpen, LIMIT)) { // the query whether the SIM is prepaid may delay the window
         failHere();
         return nullptr;
     }
@@ -178,7 +178,8 @@ bool TourGuide::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// An unexpected box is closed as well; otherwise the tour would never end.
+// Answers the message box. An unexpected box is closed as well, because otherwise the tour would
+// never end.
 void TourGuide::onBox()
 {
     if (!m_box || !m_box->isVisible())

@@ -15,7 +15,7 @@ namespace Dashboard
 class MainWindow;
 class PrivatePluginFolder;
 
-/** A change of a file: the first `before` that follows the first `anchor` is replaced. */
+/** A change to a file: the first `before` after the first `anchor` is replaced with `after`. */
 struct TourChange {
     const char *anchor;
     const char *before;
@@ -23,8 +23,9 @@ struct TourChange {
 };
 
 /**
- * Operations shared by the parts of the tour: they set up the dashboard, the plug-in and the
- * network, and add pictures to the album. GUI thread; handles events while it waits.
+ * Operations that the parts of the tour share. They set up the dashboard, the plug-in and the
+ * network, and add pictures to the album. Must be used on the GUI thread. Processes events while it
+ * waits.
  */
 class TourGuide : public QObject
 {
@@ -47,13 +48,12 @@ public:
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 
-    /// Sets the widget that the following pictures show. `place` becomes part of the pictures'
-    /// names.
+    /// Sets the widget that the next pictures show. `place` becomes part of the file names of the
+    /// pictures.
     void visit(QWidget *shown, const char *place);
     QWidget *shown() const { return m_shown; }
     /// Opens a window of the plug-in, a PAID_TYPE, and visits the frame that contains a widget of
-    /// this name. Returns the widget. Prints an error and returns null when there is no such
-    /// widget.
+    /// this name. Returns the widget. If there is no such widget, prints an error and returns null.
     QWidget *open(int paidType, const char *widgetName, const char *place);
     /// Closes the visited widget.
     void close();
@@ -67,16 +67,17 @@ public:
     /// Returns whether the expected message box was shown and its picture was taken.
     bool sawBox() const { return m_boxStop.name && m_boxTaken; }
 
-    /// Waits for the condition. Prints an error and returns false when it does not hold in time.
+    /// Waits until the condition is true. If it is not true in time, prints an error and returns
+    /// false.
     bool waitFor(const std::function<bool()> &condition);
-    /// Returns whether the dashboard shows the kind of the SIM. Until then it may use the network.
+    /// Returns whether the dashboard shows the kind of the SIM. Until then, it may use the network.
     bool isPaidTypeShown() const;
-    /// Prints that the plug-in does not show what the tour expects, and returns false.
+    /// Prints that the plug-in does not show the content that the tour expects, and returns false.
     bool failHere() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Handles all pending events, so that widgets are laid out and painted.
+    /// Processes all pending events, so that widgets are laid out and painted.
     static void settle();
 
 private slots:

@@ -19,7 +19,7 @@ bool walkEditor(TourGuide &guide);
 /// Visits the window of the operator's services.
 bool walkServices(TourGuide &guide);
 
-/// Visits the dashboard without a modem, with several modems, with a locked SIM, with messages of
+/// Visits the dashboard without a modem, with several modems, with a locked SIM, with messages from
 /// the network, and with an operator's codes.
 bool walkDevices(TourGuide &guide);
 

@@ -19,10 +19,10 @@ const char DIALOG[] = "USSDUIPlugin_SMSDialog";
 const TourChange NOT_READY[] = {{"[Network]", "SMS=ready", "SMS=not-ready"}};
 const TourStop NOT_READY_STOP = {"sms-not-ready", "no short message can be sent at the moment"};
 
-/** A service, given by its position in the tree, and what the tour does with it. */
+/** A service, identified by its position in the tree, and the actions of the tour. */
 struct Service {
     int row;
-    const char *input; // null when the service has no field or is not sent
+    const char *input; // null if the service has no field or is not sent
     bool isSent;
     TourStop idle;
     TourStop waiting;
@@ -47,7 +47,7 @@ const Service SERVICES[] = {
     {3,
      nullptr,
      true,
-     NONE, // no picture: it would look the same as the outcome
+     NONE, // no picture, because it would look the same as the outcome
      NONE,
      {"code-refused", "the network refuses it, so the result stays empty"}},
     {5, nullptr, true, NONE, NONE, {"code-timed-out", "the network is silent"}},
@@ -96,7 +96,7 @@ bool send(TourGuide &guide, const QWidget *dialog, const Service &service)
         return guide.failHere();
     if (service.input)
         typeInto(input, QLatin1String(service.input));
-    // The SDK reports short messages as ready only after a while.
+    // It takes some time until the SDK reports that short messages can be sent.
     if (!guide.waitFor([button] { return button->isEnabled(); }))
         return false;
     button->click();

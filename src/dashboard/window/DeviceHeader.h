@@ -19,7 +19,7 @@ class DeviceHeader : public QFrame
 public:
     explicit DeviceHeader(QWidget *parent = nullptr);
 
-    /// Shows the status; to be called after a language change too.
+    /// Shows the status. Must also be called after a language change.
     void showStatus(const DeviceStatus &status);
     /// Shows the kind of the SIM next to the operator; an empty text hides it.
     void showPaidType(const QString &text);

@@ -18,8 +18,8 @@ class DeviceMenu : public QMenu
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the checked choice and the modems to list. An open menu is not changed until it is
-    /// opened again, so that no entry moves under the pointer.
+    /// Sets the checked choice and the modems to list. An open menu does not change until it is
+    /// opened again, so that no entry moves under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
 
@@ -28,7 +28,7 @@ public slots:
     void retranslate();
 
 signals:
-    /// Emitted when the user chooses a device. `word` is that of the DeviceChoice.
+    /// Emitted when the user chooses a device. `word` is the word of the DeviceChoice.
     void chosen(const QString &word);
     /// Emitted when the user wants to open a scenario file.
     void openRequested();

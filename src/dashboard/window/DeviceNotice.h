@@ -12,7 +12,7 @@ class DeviceWatcher;
 class PinDialog;
 
 /**
- * Shows what is wrong with the device and what the user can do about it. Opens the PIN dialog for a
+ * Shows the problem of the device and the action that the user can take. Opens the PIN dialog for a
  * locked SIM.
  */
 class DeviceNotice : public NoticeBar

@@ -107,14 +107,15 @@ void MainWindow::followOperator()
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
 }
 
-/// The restart is queued because the plug-in may still handle the event that led to it.
+/// Queues the restart, because the plug-in may still be handling the event that led to it.
 void MainWindow::beginAnew()
 {
     m_isRestartDue = true;
     QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
 }
 
-/// Does not restart while the user is busy, because the restart deletes the plug-in's windows.
+/// Restarts the plug-in, but not while the user is busy, because the restart deletes the plug-in's
+/// windows.
 void MainWindow::beginAnewIfDue()
 {
     if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
@@ -145,7 +146,7 @@ void MainWindow::makeCentre()
     column->addWidget(m_textPanel);
     column->addWidget(m_page, 1);
     setCentralWidget(centre);
-    m_buttons->setEnabled(false); // until the plug-in is loaded
+    m_buttons->setEnabled(false); // disabled until the plug-in is loaded
     connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
     connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
 }
@@ -205,7 +206,7 @@ void MainWindow::showPage(bool shown)
     else
         m_page->hidePage();
     m_buttons->setPageShown(shown);
-    // The plug-in leaves the close button of an embedded window to the host.
+    // The host must handle the close button of an embedded window, because the plug-in does not.
     if (QPushButton *close = GeneralWindow(page()).closeButton())
         connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
 }
@@ -237,7 +238,7 @@ void MainWindow::openAwaitedFrame()
 }
 
 /// Shows the general window, whose entry field accepts the answer. Showing it does not end the
-/// session. A visible window is left unchanged, so that the user's typing is kept.
+/// session. A visible window is left unchanged, so that text that the user is typing is kept.
 void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
                                  bool waitsForAnswer)
 {

@@ -39,16 +39,16 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 public:
     /// Both arguments must outlive the window. The plug-in must be shut down before the window is
-    /// deleted. When `settings` is null, nothing is stored.
+    /// deleted. If `settings` is null, nothing is stored.
     MainWindow(LoadedPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
-    /// Selects the simulated network of the scenario file; an empty name selects the default. On
-    /// failure shows an error, keeps the previous device and returns false.
+    /// Selects the simulated network of the scenario file. An empty name selects the default. On
+    /// failure, shows an error, keeps the previous device and returns false.
     bool useScenario(const QString &file);
     /// Shows the choice, which is already in use.
     void setDevice(const DeviceChoice &choice);
-    /// Shows a message box that tells why a scenario file cannot be used.
+    /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
     QWidget *page() const;
     DeviceWatcher &device() { return m_device; }
@@ -61,14 +61,14 @@ public slots:
     /// error.
     void showProblem(const QString &text);
     /// Loads the installed plug-in and shows its general window in the page. A failure is returned
-    /// and shown in the page.
+    /// and is also shown in the page.
     PluginFailure loadPlugin();
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
-    /// Opens a window of the plug-in, a PAID_TYPE, in a frame of its own. Waits a short time when
-    /// opening it would cancel the question whether the SIM is prepaid.
+    /// Opens a window of the plug-in, a PAID_TYPE, in a separate frame. Waits a short time if
+    /// opening the frame would cancel the query whether the SIM is prepaid.
     void openFrame(int paidType);
 
 signals:
@@ -109,7 +109,7 @@ private:
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
     bool m_isRestartDue = false; // the plug-in's folder has changed since it was read
-    int m_windows = 0;           // offered, a set of SimWindow
+    int m_windows = 0;           // the windows on offer, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;

@@ -13,9 +13,9 @@ namespace Dashboard
 {
 
 /**
- * Shows the messages that the network sends on its own initiative, as plain text with the time of
- * each, and scrolls to the newest. The panel appears with the first message, takes no focus, and
- * discards its messages when it is closed. Its size does not depend on the messages.
+ * Shows the messages that the network sends of its own accord, as plain text with the time of each
+ * message, and scrolls to the newest. The panel appears with the first message, does not take the
+ * focus, and discards its messages when it is closed. Its size does not depend on the messages.
  */
 class NetworkTextPanel : public QFrame
 {

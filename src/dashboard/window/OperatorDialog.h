@@ -12,7 +12,9 @@ class QPushButton;
 namespace Dashboard
 {
 
-/** Asks which codes to use: those of one of several operators or those that come with the program.
+/**
+ * Lets the user choose the codes of one of several operators, or the codes that are installed with
+ * the program.
  */
 class OperatorDialog : public QDialog
 {
@@ -38,12 +40,13 @@ private slots:
 private:
     void layOut();
     void select(const QString &current);
-    int selectedRow() const; // -1 when no row is selected
+    int selectedRow() const; // returns -1 if no row is selected
 
     const QString m_network;
     const QList<Provisioning::Provider> m_candidates;
     QLabel *m_question;
-    QListWidget *m_list; // the candidates, followed by the codes that come with the program
+    QListWidget *m_list; // the candidates, followed by the codes that are installed with the
+                         // program
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

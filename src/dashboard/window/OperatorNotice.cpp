@@ -19,7 +19,7 @@ OperatorNotice::OperatorNotice(OperatorCodes *codes, QWidget *parent)
 {
     connect(m_takeButton, SIGNAL(clicked()), this, SLOT(onTake()));
     connect(m_declineButton, SIGNAL(clicked()), this, SLOT(onNo()));
-    // The connection is queued because reading the database takes a while.
+    // The connection is queued, because reading the database takes some time.
     connect(codes, SIGNAL(networkChanged()), this, SLOT(propose()), Qt::QueuedConnection);
 }
 
@@ -112,7 +112,7 @@ void OperatorNotice::onChosen()
     m_isOperatorChosen = m_dialog->choosesOperator();
     m_chosen = m_dialog->provider();
     QMetaObject::invokeMethod(this, "useChosen",
-                              Qt::QueuedConnection); // runs after the dialog has closed
+                              Qt::QueuedConnection); // called after the dialog has closed
 }
 
 void OperatorNotice::useChosen()

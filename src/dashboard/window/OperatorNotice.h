@@ -13,8 +13,8 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Proposes an operator's codes, once for each home network of a SIM, and lets the user choose when
- * several operators are possible. The user can change the decision later by choose().
+ * Proposes an operator's codes, once for each home network of a SIM, and lets the user choose if
+ * several operators are possible. The user can change the decision later with choose().
  */
 class OperatorNotice : public NoticeBar
 {
@@ -48,8 +48,8 @@ private:
     void say(const char *key);
 
     OperatorCodes *const m_codes;
-    QPushButton *m_takeButton;    // reads "Choose" when there are several operators
-    QPushButton *m_declineButton; // reads "Close" when there is nothing to decide
+    QPushButton *m_takeButton;    // reads "Choose" if there are several operators
+    QPushButton *m_declineButton; // reads "Close" if there is nothing to decide
     QPointer<OperatorDialog> m_dialog;
     State m_state = Nothing;
     QString m_subject; // the name of an operator

@@ -29,7 +29,8 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
-/// Overwrites the memory of the text. No other QString may share it, or a copy is overwritten.
+/// Overwrites the memory of the text. No other QString may share it, because otherwise only a copy
+/// is overwritten.
 void writeOver(QString *secret)
 {
     secret->fill(QLatin1Char('0'));
@@ -122,7 +123,7 @@ void PinDialog::showTries()
     m_tries->setVisible(!m_tries->text().isEmpty());
 }
 
-/// Shows the message; null clears it. The dialog keeps its width and grows in height.
+/// Shows the message; null clears it. The dialog keeps its width, and its height grows.
 void PinDialog::say(const char *key)
 {
     m_messageKey = key;
@@ -171,7 +172,8 @@ void PinDialog::setWaiting(bool waiting)
         m_edit->setFocus(Qt::OtherFocusReason);
 }
 
-/// A device without a problem has only started to check the PIN.
+/// Reports the result of the PIN check. As long as the device reports no problem, the check is
+/// still running.
 void PinDialog::onDeviceChanged()
 {
     const DeviceStatus &now = m_device->status();

@@ -14,9 +14,10 @@ namespace Dashboard
 class DeviceWatcher;
 
 /**
- * Asks for the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
- * no longer waits for a PIN. The PIN is not kept: the field is cleared and the memory of its text
- * is overwritten when the PIN has been sent and when the dialog closes. GUI thread.
+ * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
+ * no longer waits for a PIN. The PIN is not stored: when the PIN has been sent, and when the dialog
+ * closes, the field is cleared and the memory of its text is overwritten. Must be used on the GUI
+ * thread.
  */
 class PinDialog : public QDialog
 {

@@ -17,7 +17,8 @@ namespace
 
 enum Answer { NoAnswer, Yes, No };
 
-/// Escape and the window's close button count as no answer, so that nothing is deleted by accident.
+/// Shows the question and returns the user's answer. Escape and the window's close button are
+/// treated as no answer, so that nothing is deleted by accident.
 Answer ask(const QString &text)
 {
     const QPointer<HostCore::MessageBox> box(

@@ -9,8 +9,8 @@ namespace Dashboard
 {
 
 /**
- * Keeps the backup copy of the user's own codes up to date, and offers to restore it when the codes
- * are missing or damaged. GUI thread.
+ * Keeps the backup copy of the user's own codes up to date, and offers to restore it if the codes
+ * are missing or damaged. Must be used on the GUI thread.
  */
 class ProfileKeeper : public QObject
 {
@@ -19,15 +19,15 @@ public:
     explicit ProfileKeeper(const ProfileBackup &backup, QObject *parent = nullptr);
 
 public slots:
-    /// Asks the user when the codes are missing or damaged, updates the copy and emits ready().
-    /// Must be called before the plug-in reads the codes.
+    /// Asks the user whether to restore the copy if the codes are missing or damaged, updates the
+    /// copy and emits ready(). Must be called before the plug-in reads the codes.
     void start();
-    /// Updates the copy; to be called when the codes may have been saved.
+    /// Updates the copy. Must be called whenever the codes may have been saved.
     void refresh();
 
 signals:
     void ready();
-    /// Emitted when a file of the user's cannot be saved. `text` is the message in the current
+    /// Emitted when one of the user's files cannot be saved. `text` is the message in the current
     /// language.
     void problem(QString text);
 

@@ -38,7 +38,7 @@ QSize SignalBars::sizeHint() const
     return QSize(BARS * (BAR_WIDTH + GAP) - GAP, HEIGHT);
 }
 
-// Any signal above 0 % fills the first bar.
+// Draws the bars. Any signal above 0 % fills at least the first bar.
 void SignalBars::paintEvent(QPaintEvent *)
 {
     const int filled = m_percent <= 0 ? 0 : (m_percent * BARS + FULL - 1) / FULL;

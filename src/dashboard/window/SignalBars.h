@@ -13,7 +13,8 @@ class SignalBars : public QWidget
 public:
     explicit SignalBars(QWidget *parent = nullptr);
 
-    /// Sets the signal strength, 0 to 100. A negative value means unknown and shows empty bars.
+    /// Sets the signal strength, 0 to 100. A negative value means that it is unknown; the bars are
+    /// then empty.
     void setPercent(int percent);
     QSize sizeHint() const override;
 

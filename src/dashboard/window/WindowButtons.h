@@ -26,7 +26,7 @@ public:
 signals:
     /// Emitted when the user wants the general window to be shown in the page or hidden.
     void pageToggled(bool shown);
-    /// Emitted when the user wants a window, a PAID_TYPE, in a frame of its own.
+    /// Emitted when the user wants to open a window, a PAID_TYPE, in a separate frame.
     void frameRequested(int paidType);
 
 private slots:
