@@ -155,8 +155,8 @@ bool Planner::hasProfile(const QString &code) const
     return false;
 }
 
-/// Adds the codes to the names of the profiles if there are several of a kind, so that the user can
-/// distinguish them.
+/// Gives several profiles or messages of a kind different names, so that the user can distinguish
+/// them.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);

@@ -92,7 +92,8 @@ private:
     std::uintptr_t m_runningKey = 0; // the key of the running listener, or 0 if none is running
     std::uint64_t m_callCount = 0;   // the number of calls of listeners so far
     bool m_stopping = false;
-    TaskQueue m_deliveries; // the last member: its thread ends before the others are destroyed
+    TaskQueue m_deliveries; // the last member, so that its thread ends before the others are
+                            // destroyed
 };
 
 } // namespace Tksv

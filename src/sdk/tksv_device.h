@@ -79,7 +79,7 @@ TKSV_API long TKSV_Device_GetInfo(TKSV_DeviceInfo *info);
 typedef void (*TKSV_DeviceInfoCallback)(void *context);
 
 /**
- * Registers the call-back for changes. Only one such call-back can be registered: a second
+ * Registers the call-back for changes. Only one such call-back can be registered. A second
  * registration replaces the first, and null removes it. When the function has returned, the earlier
  * call-back is not running and will not run again. The caller owns `context`.
  */
@@ -158,11 +158,10 @@ typedef struct TKSV_NetworkText {
 typedef void (*TKSV_NetworkTextCallback)(void *context, const TKSV_NetworkText *text);
 
 /**
- * Registers the call-back for texts that no USSD call-back accepted. This is a text for which each
- * call-back of TKSV_USSDSrv_RegisterUSSDCallback returned 0, or that arrived while no such
- * call-back was registered. The SDK keeps the last 20 of these texts and delivers them first. Only
- * one call-back can be registered: it is replaced and removed in the same way as the call-back of
- * TKSV_Device_SetInfoCallback.
+ * Registers the call-back for texts that no USSD call-back accepted. Each call-back of
+ * TKSV_USSDSrv_RegisterUSSDCallback has returned 0 for such a text, or none was registered. The SDK
+ * keeps the last 20 of these texts and delivers them first. Only one call-back can be registered.
+ * It is replaced and removed in the same way as the call-back of TKSV_Device_SetInfoCallback.
  */
 TKSV_API long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context);
 

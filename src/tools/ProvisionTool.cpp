@@ -61,7 +61,7 @@ bool isNetwork(const QString &text)
     return text.length() == 5 || text.length() == 6;
 }
 
-/// Returns an error message if the arguments contradict each other, otherwise an empty string.
+/// Returns an error message if the arguments are invalid or incomplete, otherwise an empty string.
 QString complaintAbout(const ToolArguments &arguments)
 {
     if (!arguments.error.isEmpty())

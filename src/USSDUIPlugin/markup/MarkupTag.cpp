@@ -10,7 +10,7 @@ namespace
 
 const int LONGEST_TAG = 10; // "blockquote"
 
-/// The tags that QTextDocument knows, in sorted order.
+/// The tags that QTextDocument supports, in sorted order.
 const char *const KNOWN_TAGS[] = {
     "a",    "address", "b",     "big",   "blockquote", "body",  "br",   "caption", "center",
     "cite", "code",    "dd",    "dfn",   "div",        "dl",    "dt",   "em",      "font",

@@ -47,7 +47,7 @@ public:
     /// Returns whether the head with this number is still the head and has not been claimed.
     bool isOpenHead(quint64 number) const;
     /// Returns whether neither this head nor a later head has been claimed. This also applies to a
-    /// head that was cleared: its time-out is still running, and answers the next command.
+    /// head that was cleared, because its time-out is still running and answers the next command.
     bool awaitsReply(quint64 number) const { return m_marks.claimed < number; }
 
     /// Adds a command at the end, even if the same command is already waiting.

@@ -228,8 +228,8 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// Sends the head to the device. The silence after a failure is deliberate: the caller receives the
-/// result, and no signal is emitted. The commands after the failed one wait until a new command is
+/// Sends the head to the device. No signal is emitted after a failure. This is intended, because
+/// the caller receives the result. The commands after the failed one wait until a new command is
 /// sent alone, or until a late reply arrives.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {

@@ -121,7 +121,7 @@ public:
     /// success, otherwise 1.
     int ReleaseUSSDCommand();
     int releaseUSSDCommand();
-    /// Drops all commands except the prepaid/postpaid queries, even if the command is in flight.
+    /// Drops all commands except the prepaid/postpaid queries. A command in flight is dropped, too.
     static void ClearQueuedCmds();
     /// Drops the commands of the USSD-SMS dialog.
     static void ClearUSSDSMSQueuedCmds();

@@ -398,7 +398,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // shows what Return in the entry activates
+    m_pChargeActivateButton->setDefault(true); // shows which button Return in the entry presses
 }
 
 void USSDDlg::OnCloseButtonClicked()

@@ -49,8 +49,8 @@ public:
     void MyDoModal(PAID_TYPE type);
     /// Starts the detection if `ask` is true; the notification service of the host receives the
     /// outcome. The call copies `inUse`, `postpaid` and `result` to the record that the dialog
-    /// keeps. Before it returns, it sets the three to the values of the record. Returns 1, or 0 if
-    /// there is no logic.
+    /// keeps. Before it returns, it sets the three arguments to the values of the record. Returns
+    /// 1, or 0 if there is no logic.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
     /// Updates every visible text to the current language, except replies.
     void SetLanguage();

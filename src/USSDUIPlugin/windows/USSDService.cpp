@@ -33,8 +33,7 @@ const char *paidTitleKey(PAID_TYPE type)
 }
 
 /// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
-/// is limited, because it may come from a file: it could be negative, or need more memory than
-/// there is.
+/// is limited, because a size from a file could be negative or need more memory than there is.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {

@@ -56,7 +56,7 @@ public:
 public slots:
     /// Deletes the modal dialogs and their frames once a dialog has finished.
     void OnClickedCloseButton();
-    /// Handles the closing of a dialog's frame: the dialog finishes as well.
+    /// Handles the closing of a dialog's frame by finishing the dialog.
     void OnDlgCloseEvent();
     /// Closes the frame when the dialog requests it, or when the frame has been rejected.
     void OnCloseButtonClicked();

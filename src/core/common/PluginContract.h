@@ -5,7 +5,7 @@
 
 /**
  * The constants and the record that a host and the plug-in exchange. They are part of the binary
- * interface: a host that is compiled today works with a plug-in that is compiled years later.
+ * interface, so a host that is compiled today works with a plug-in that is compiled years later.
  */
 namespace PluginContract
 {

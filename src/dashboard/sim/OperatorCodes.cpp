@@ -163,8 +163,8 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // The state is not recalculated: if several operators are possible, the choice is ambiguous
-    // even if only one of them has codes.
+    // The state of the whole choice is kept. If several operators are possible, the choice is
+    // ambiguous even if only one of them has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
 }

@@ -15,7 +15,7 @@ class DeviceWatcher;
 
 /**
  * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
- * no longer waits for a PIN. The PIN is not stored: when the PIN has been sent, and when the dialog
+ * no longer waits for a PIN. The PIN is not stored. When the PIN has been sent, and when the dialog
  * closes, the field is cleared and the memory of its text is overwritten. Must be used on the GUI
  * thread.
  */

@@ -15,7 +15,7 @@ enum class UssdFailure {
     Replied,      // the client receives an empty reply of UssdVerdict::type
     SessionOpen,  // the daemon assumes an open session, which must end before a retry
     NotPermitted, // polkit denied the call; the client receives an empty reply
-    ServiceLost   // the daemon or the modem is gone, and a device event ends the command
+    ServiceLost   // the daemon or the modem has disappeared, and a device event ends the command
 };
 
 struct UssdVerdict {

@@ -23,8 +23,7 @@ using Amount = long long;
 using AwayTime = std::optional<Milliseconds>;
 const Milliseconds DEFAULT_AWAY(3000);
 
-/// The largest number of digits in a code, which is what a request can hold besides one * and one
-/// #.
+/// The largest number of digits in a code. A request also has to hold a * and a #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
 /** The network's reaction to a request, see docs/scenario-file.md. */
@@ -46,8 +45,8 @@ struct Rule {
     std::string goTo; // group whose rule is applied instead; may be empty
     Milliseconds delay = Milliseconds(0);
 
-    /// For codes with %s: the smallest and the largest number of digits, and the reply to any other
-    /// number.
+    /// The limits for the number of digits in a code with %s, and the reply if the number is
+    /// outside them.
     std::size_t minDigits = 1;
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;

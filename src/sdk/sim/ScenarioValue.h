@@ -21,8 +21,8 @@ struct Word {
 std::string enumerate(const std::vector<std::string> &words);
 
 /**
- * The value of one key. If the text is not valid, each function adds a complaint and returns a
- * value within its range, which the caller ignores.
+ * The value of one key. If the text is not valid, a function adds a complaint and returns a value
+ * within its range, which the caller ignores.
  */
 class ScenarioValue
 {
