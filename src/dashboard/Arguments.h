@@ -12,7 +12,7 @@ struct Arguments {
     enum Mode { Window, Send, Tour, Help, Version };
 
     Mode mode = Window;
-    QStringList commands; // for --send: the code, then the answers
+    QStringList commands; // the code and the answers of --send, in this order
     QString tourFolder;
     QString scenario;
     QString modem; // equipment identifier

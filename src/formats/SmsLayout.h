@@ -97,8 +97,8 @@ struct SmsLayout {
     bool hasRoot = false;
     int rootNumber = 0;             // valid only if hasRoot is true
     int ordinaryEntries = 0;        // accepted entries, including those that replaced another entry
-    QMap<int, CTreeItem *> entries; // by number
-    QMap<int, CWidget *> groups;    // by the number of the entry that shows the group
+    QMap<int, CTreeItem *> entries; // the entries, by number
+    QMap<int, CWidget *> groups;    // the groups, by the number of the entry that shows them
     QStringList complaints;         // the first few complaints, each with its line
     int furtherComplaints = 0;      // number of complaints that are not listed
 };

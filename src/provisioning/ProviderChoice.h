@@ -10,7 +10,7 @@ namespace Provisioning
  * Finds the operator of a SIM card. A network code alone may lead to several candidates, because
  * operators share networks. A program uses the function like this:
  *
- * query.network = networkOfImsi(database, imsi);   // or the SIM's MCC and MNC, if known
+ *   query.network = networkOfImsi(database, imsi);   // or the SIM's MCC and MNC, if known
  *   query.simName = the operator's name that the SIM or the device reports;
  *   choice = chooseProvider(database, query);
  *   Chosen:    continue with provisionPlan(choice.candidates.first(), query.network);
@@ -30,8 +30,8 @@ struct ProviderChoice {
     enum State {
         None,     // no operator matches
         Chosen,   // exactly one operator matches
-        Ambiguous // the user has to choose, even if the only match does not have the name on the
-                  // SIM
+        Ambiguous // the user has to choose; a single match may have another name than the SIM
+                  // reports
     };
 
     State state = None;

@@ -14,7 +14,7 @@ namespace Provisioning
  * Writes the folder of an operator. GetPluginLibraryPath() has to return this folder for the
  * operator's SIM cards.
  *
- * FOLDER/plugins/USSDUIPlugin     a link to the set of files in use; replaced atomically
+ *   FOLDER/plugins/USSDUIPlugin     a link to the set of files in use; replaced atomically
  *   FOLDER/provisioned/1            the two files, a link to the plug-in, the record
  *
  * A new set of files is written to a new folder and activated by replacing the link. Even if the
@@ -24,7 +24,7 @@ namespace Provisioning
  * The plug-in reads its configuration only once, so a program has to do the following before it
  * loads the plug-in:
  *
- * folder = operatorFolder(operatorsFolder(), network);
+ *   folder = operatorFolder(operatorsFolder(), network);
  *   provision = readProvision(folder);
  *   if provision.isUsable(): qputenv("USSD_PLUGIN_LIBRARY_PATH", QFile::encodeName(folder));
  *       provision.record describes the operator chosen earlier, for example for a menu;

@@ -120,7 +120,7 @@ std::string BackendChoice::useScenario(const std::string &path)
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     m_mode = Mode::Simulator;
     if (m_initialMode != Mode::Simulator)
-        startWatch(); // for the list of modems
+        startWatch(); // the watch provides the list of modems
     replace(std::make_shared<SimulatedNetwork>(*std::move(result.scenario)));
     return std::string();
 }
@@ -176,7 +176,7 @@ void BackendChoice::replace(const Device &next)
 
 void BackendChoice::end(Backend &old)
 {
-    old.stop(); // a device that appears at this moment is lost as well
+    old.stop(); // a device that the old backend finds until here is lost, too
     if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }

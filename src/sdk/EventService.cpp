@@ -50,7 +50,8 @@ bool EventService::isEmpty() const
 
 void EventService::post(Event event)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex); // keeps the order of the identifiers
+    const std::lock_guard<std::mutex> lock(m_mutex); // the lock ensures that events are posted in
+                                                     // the order of their identifiers
     m_deliveries.post(
         [this, id = ++m_lastEventId, event = std::move(event)] { deliver(id, event); });
 }

@@ -39,10 +39,7 @@ typedef enum TKSV_DeviceProblem {
     TKSV_PROBLEM_NONE = 0,
     TKSV_PROBLEM_NO_BUS = 1,        /* the system message bus (D-Bus) cannot be reached */
     TKSV_PROBLEM_NO_SERVICE = 2,    /* ModemManager is not running */
-    TKSV_PROBLEM_NOT_PERMITTED = 3, /*
-                                     * the system's policy (polkit) denies this user access to the
-                                     * device
-                                     */
+    TKSV_PROBLEM_NOT_PERMITTED = 3, /* the system's policy (polkit) denies access to the device */
     TKSV_PROBLEM_CHOSEN_ABSENT = 4, /* there are modems, but not the chosen one */
     TKSV_PROBLEM_WRONG_PIN = 5,     /* the last PIN that was sent is wrong */
     TKSV_PROBLEM_PUK_NEEDED = 6,    /* the SIM needs its PUK, or another lock blocks the modem */
@@ -140,14 +137,10 @@ TKSV_API long TKSV_Device_SendPin(const char *pin);
 /** A text from the network that no USSD call-back accepted. */
 typedef struct TKSV_NetworkText {
     time_t receivedAt;  /* in UTC */
-    int waitsForAnswer; /*
-                         * 1 if the next TKSV_USSDSrv_Request answers the text, unless the request
-                         *                            has the form of a code; otherwise 0
-                         */
-    const char *text;   /*
-                         * empty if the text is unknown, as for a menu that was open before the
-                         *                            program started
-                         */
+    int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers the text, unless the request
+                           has the form of a code; otherwise 0 */
+    const char *text;   /* empty if the text is unknown, as for a menu that was open before the
+                           program started */
 } TKSV_NetworkText;
 
 /**

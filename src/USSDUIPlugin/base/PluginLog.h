@@ -7,7 +7,7 @@
  * The plug-in's log lines. A line is "time: source path: function", followed by a tail that starts
  * with its own blank or colon. Each .cpp file names itself once:
  *
- * static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
+ *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
  * Files that share a class name the first file of their family, because a reader of the log looks
  * for this file. All other code writes lines only with the macros below. In a build with

@@ -7,7 +7,7 @@ const int NEVER_HEAVY = 1000; // characters; a reply from a network has at most 
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
 const int PIECE = 990;    // below NEVER_HEAVY, so that there is room for a surrogate pair
-const int LOOK_BACK = 50; // how far to search back for a blank
+const int LOOK_BACK = 50; // characters in which to search back for a blank
 
 /// Returns true if `after` starts another script, or is a combining character that is added to
 /// `before`.

@@ -17,7 +17,7 @@ struct MarkupCost {
     int tags = 0;
     int tables = 0;
     int rules = 0;     // rules of style sheets
-    bool wide = false; // true if a cell may span very many others
+    bool wide = false; // true if a cell may span a very large number of other cells
 
     /// Returns true if this markup may be added to a transcript whose existing markup has the cost
     /// `before`.

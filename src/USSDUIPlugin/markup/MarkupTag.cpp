@@ -8,7 +8,7 @@
 namespace
 {
 
-const int LONGEST_TAG = 10; // "blockquote"
+const int LONGEST_TAG = 10; // the length of "blockquote"
 
 /// The tags that QTextDocument supports, in sorted order.
 const char *const KNOWN_TAGS[] = {

@@ -41,7 +41,7 @@ private:
         QTextCharFormat letters;
     };
 
-    QTextEdit *m_edit; // the parent object
+    QTextEdit *m_edit; // the parent object of the feeder
     QList<Piece> m_pieces;
     QTimer m_timer;
 };

@@ -61,7 +61,7 @@ private:
     bool m_catchUpPosted;
     quint64 m_arming;
     qint64 m_deadline;
-    qint64 m_wake; // when the QTimer fires next, by the system clock; -1 while it is stopped
+    qint64 m_wake; // the time (system clock) at which the QTimer fires next; -1 while it is stopped
 
     quint64 m_runOut; // used on the thread of the timer only
 };

@@ -48,7 +48,7 @@ struct USSDCmdOrResp {
     USSDCmdOrResp(_COMPONENT sender, const QString &text) : component(sender), command(text) {}
 
     _COMPONENT component; // the sender, which also receives the answer
-    QString command;      // as typed or configured
+    QString command;      // the text that the user typed or the configuration contains
 };
 
 #endif

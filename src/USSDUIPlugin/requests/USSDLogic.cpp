@@ -22,7 +22,8 @@ const int SENT = 0;
 const int FAILED = 1;
 const int NOT_THE_HEAD = 2; // used in this file only
 
-const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits for the end of the one before it
+const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits until the previous one is
+                                   // cancelled
 
 ReplyTimes shippedReplyTimes()
 {
@@ -101,7 +102,7 @@ USSDLogic::~USSDLogic() {}
 void USSDLogic::Destroy()
 {
     USSD_LOG_SCOPE();
-    stopReplyTimer(); // lets go whoever waits for the earlier time-out
+    stopReplyTimer(); // wakes a sender that waits for the earlier time-out
     m_gate.close();
     delete m_pTimer;
     m_pTimer = nullptr;
@@ -238,7 +239,8 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (!status)
         status = &ignoredStatus;
     QMutexLocker sending(&m_mutexSendCmd);
-    if (!LockedQueue()->isOpenHead(number)) // cleared or answered while this waited for its turn
+    if (!LockedQueue()->isOpenHead(number)) // the command was cleared or answered while this
+                                            // function waited for the lock
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {

@@ -145,7 +145,7 @@ private:
     PAID_TYPE m_paidType;
     WINDOW_MODEL m_windowModel;
     bool m_bBusy;
-    bool m_bReturnDown; // true from a press of Return until its release is seen
+    bool m_bReturnDown; // true from a press of Return until its release
     PrePostRecord m_prePostRecord;
     Formats::PrePostDiffer m_prePostDiffer;
     Formats::ChargeRules m_chargeRules;
@@ -154,7 +154,7 @@ private:
     QGridLayout *m_pGrid;
     QList<QFrame *> m_listFreeLines;               // separators that are not in the grid yet
     QList<QWidget *> m_listTabOrder;               // in the order of the layout
-    QHash<int, QPointer<QWidget>> m_hashParkFocus; // by component: the control that had the focus
+    QHash<int, QPointer<QWidget>> m_hashParkFocus; // the control that had the focus, by component
     QStringList m_listBoxReplies;                  // replies whose box has not been closed yet
     QPointer<QMessageBox> m_pReplyBox;             // the open box; a child of the dialog
 

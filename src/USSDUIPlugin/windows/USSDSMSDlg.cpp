@@ -215,7 +215,7 @@ void CUSSDSMSDlg::createWidgets()
     m_listWidgets << m_pInfoLabel << m_pCaptionLabel << m_pInputEdit << m_pSendButton
                   << m_pResultLabel;
     for (int i = 0; i < m_listWidgets.count(); ++i)
-        m_listWidgets.at(i)->hide(); // until a service is shown
+        m_listWidgets.at(i)->hide(); // hidden until a service is shown
     setTabOrder(m_pTree, m_pInputEdit);
     setTabOrder(m_pInputEdit, m_pSendButton);
 }
@@ -288,7 +288,7 @@ void CUSSDSMSDlg::OnClickedCloseButton()
     if (m_pLogic)
         m_pLogic->ClearUSSDSMSQueuedCmds();
     if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
-        endSending();          // its answer was dropped with the queue
+        endSending();          // the answer was dropped with the queue
     emit clickedcloseButton(); // the receiver may delete the dialog
 }
 

@@ -146,7 +146,8 @@ private:
     bool m_bFocusParked;
     int m_nSelected; // number of the selected entry; -1 if there is none
     CCommandWidget m_command;
-    QString m_strResultKey;       // key of the text in the result label; empty if the text has none
+    QString m_strResultKey;       // key of the text in the result label; empty if the text has no
+                                  // key
     QPointer<USSDLogic> m_pLogic; // not owned; null while the dialog is not connected to it
 };
 

@@ -435,7 +435,8 @@ void CUSSDService::OnClickedCloseButton()
 /// library before the frames are deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
-    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // deleted frames
+    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes the frames that have
+                                                                 // been deleted
     if (!frame)
         return;
     frame->deleteLater();

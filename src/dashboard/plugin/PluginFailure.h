@@ -11,8 +11,8 @@ struct PluginFailure {
     enum Step {
         None,
         FileMissing,
-        NotALibrary, // or a library with an unmet dependency
-        WrongBuild,  // a library that is not a plug-in, or a plug-in for another Qt
+        NotALibrary, // the file is not a library, or it has an unmet dependency
+        WrongBuild,  // the library is not a plug-in, or it is a plug-in for another Qt
         NoInstance,
         NoInterface,
         InitFailed,

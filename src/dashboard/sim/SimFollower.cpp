@@ -47,7 +47,7 @@ void SimFollower::look()
         return;
     const QString imsi = currentImsi();
     if (imsi == m_imsi)
-        return ask(); // the device may have registered only now
+        return ask(); // the device may have just registered
     if (!m_imsi.isEmpty())
         m_replies.clear();
     m_imsi = imsi;

@@ -127,7 +127,7 @@ void TourGuide::close()
 {
     if (m_shown)
         m_shown->close();
-    settle(); // the plug-in deletes the frame later
+    settle(); // the plug-in deletes the frame with deleteLater()
 }
 
 bool TourGuide::take(const TourStop &stop)

@@ -15,7 +15,7 @@ namespace
 
 const int OPERATOR_MAX_WIDTH = 320; // pixels
 const int WIDE_GAP = 18;
-const int OPERATOR_FONT_STEP = 3; // points above the application's font
+const int OPERATOR_FONT_STEP = 3; // points by which the font is larger than the application's font
 
 QLabel *makeLabel(const char *name, QWidget *parent)
 {

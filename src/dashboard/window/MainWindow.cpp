@@ -41,7 +41,7 @@ namespace
 {
 
 const QSize FIRST_SIZE(900, 700); // pixels
-const int LONGEST_DELAY = 5000;   // ms that the user may wait for a frame
+const int LONGEST_DELAY = 5000;   // ms; the longest time that the user may have to wait for a frame
 
 /// Returns whether a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)

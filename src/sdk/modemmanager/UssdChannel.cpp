@@ -139,7 +139,7 @@ void UssdChannel::callReturned(unsigned call, const Request &request, GMemory<ch
                                const GError *error)
 {
     if (call != m_call)
-        return; // cancelled
+        return; // the call was cancelled
     if (error)
         return callFailed(request, *error);
     m_replyText = textOf(text.get());

@@ -11,7 +11,7 @@ namespace Tksv
 
 struct KeyFileEntry {
     std::string key;
-    std::string value; // after \n, \t, \s, \r and \\ have been replaced
+    std::string value; // the escapes \n, \t, \s, \r and \\ have been replaced
     int line = 0;      // counts from 1
 };
 
