@@ -20,8 +20,7 @@ const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;
 
 const QSize VIEW_SIZE(420, 220); // pixels
-const int AROUND_VIEW = 160;     // pixels of the screen that are kept for the frame, the icon and
-                                 // the buttons
+const int AROUND_VIEW = 160;     // pixels that are kept for the frame, the icon and the buttons
 
 int longestWord(const QString &text)
 {

@@ -37,8 +37,7 @@ namespace
 const char PLATFORM[] = "QT_QPA_PLATFORM";
 const int REGISTRATION_LIMIT =
     10000; // ms that --send waits for the device, unless the reply time-out is shorter
-const QSize UNSEEN_SIZE(800, 600); // size of the widget that contains the page if there is no
-                                   // display
+const QSize UNSEEN_SIZE(800, 600); // size of the widget with the page if there is no display
 
 bool isSet(const char *variable)
 {
@@ -142,8 +141,7 @@ int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands
     CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
     const bool sent = sender.send(commands);
     int status = 0;
-    TKSV_USSDSrv_Release(&status); // closes an open menu, so that the next program does not find it
-                                   // open
+    TKSV_USSDSrv_Release(&status); // closes an open menu, which the next program would find
     plugin.shutDown();
     return sent ? EXIT_GOOD : EXIT_BAD;
 }
@@ -175,8 +173,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // sets the language of
-                                                                     // widgets, too
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // updates widgets, too
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);

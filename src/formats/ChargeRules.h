@@ -10,8 +10,7 @@ namespace Formats
 struct ChargeRules {
     int length = 0;    // maximum number of characters
     int minlenth = 0;  // minimum number of characters
-    QString limitText; // allowed characters, written as between the brackets of a regular
-                       // expression
+    QString limitText; // allowed characters, as between the brackets of a regular expression
 };
 
 /// Returns the maximum length of the input, which is never negative.

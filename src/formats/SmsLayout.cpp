@@ -16,8 +16,7 @@ const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
 
 const int MAX_COMPLAINTS = 20;
 const int MAX_QUOTED = 40;  // the maximum length of a quotation in a complaint
-const int MAX_CONTROLS = 6; // kept per group; one more than a complete group, to detect groups with
-                            // too many
+const int MAX_CONTROLS = 6; // kept per group; enough to detect a group with too many
 const int MAX_GROUPS = 500; // kept per file; far more than the tree can have entries
 
 /// Returns the value in quotation marks, shortened so that it fits into a log line.

@@ -65,8 +65,7 @@ struct CWidgetItemInfo {
     int posy = 0;
     int width = 0;
     int height = 0;
-    QString limitText; // allowed characters, written as between the brackets of a regular
-                       // expression
+    QString limitText; // allowed characters, as between the brackets of a regular expression
     int length = 0;    // maximum number of characters that can be entered
     int minLength = 0; // minimum number of characters
     QString command;   // USSD code, or text of the short message

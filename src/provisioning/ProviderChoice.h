@@ -30,8 +30,7 @@ struct ProviderChoice {
     enum State {
         None,     // no operator matches
         Chosen,   // exactly one operator matches
-        Ambiguous // the user has to choose; a single match may have another name than the SIM
-                  // reports
+        Ambiguous // the user has to choose, even if the only match has another name
     };
 
     State state = None;

@@ -50,8 +50,7 @@ bool EventService::isEmpty() const
 
 void EventService::post(Event event)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex); // the lock ensures that events are posted in
-                                                     // the order of their identifiers
+    const std::lock_guard<std::mutex> lock(m_mutex); // keeps the events in order
     m_deliveries.post(
         [this, id = ++m_lastEventId, event = std::move(event)] { deliver(id, event); });
 }

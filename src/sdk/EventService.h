@@ -18,8 +18,7 @@ namespace Tksv
 struct Event {
     int number = 0;
     std::shared_ptr<void> data; // the record; destroyed after the last listener has returned
-    std::uintptr_t onlyKey = 0; // the key of the only listener that receives the event, or 0 for
-                                // all listeners
+    std::uintptr_t onlyKey = 0; // the key of the only listener to receive the event; 0: all
     /// Called on the service's thread immediately before delivery. The event is dropped if the
     /// function returns false. An empty function drops no event.
     std::function<bool()> beforeDelivery;
@@ -83,8 +82,7 @@ private:
     bool contains(std::uintptr_t key) const;
     void waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key);
 
-    mutable std::mutex m_mutex; // guards everything below except the queue; taken before the
-                                // queue's mutex
+    mutable std::mutex m_mutex; // guards everything below but the queue; taken before its mutex
     std::condition_variable m_callEnded;
     std::vector<Listener> m_listeners;
     std::uint64_t m_lastListenerId = 0;
@@ -92,8 +90,7 @@ private:
     std::uintptr_t m_runningKey = 0; // the key of the running listener, or 0 if none is running
     std::uint64_t m_callCount = 0;   // the number of calls of listeners so far
     bool m_stopping = false;
-    TaskQueue m_deliveries; // the last member, so that its thread ends before the others are
-                            // destroyed
+    TaskQueue m_deliveries; // declared last, so that its thread ends first
 };
 
 } // namespace Tksv

@@ -35,8 +35,7 @@ struct XmlElements {
     QString error; // the reason why reading stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous = false; // is nested too deeply or declares entities, so it must not be passed
-                              // to another reader
+    bool isDangerous = false; // too deeply nested, or declares entities; unsafe for other readers
 
     /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;

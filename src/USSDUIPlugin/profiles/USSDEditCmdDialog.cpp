@@ -344,8 +344,7 @@ void USSDEditCmd::OnClickedSaveButton()
     USSD_LOG_SCOPE();
     if (m_pTable) {
         m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor
-        OnEditorClosed(nullptr);          // the delegate does not report that this editor has
-                                          // closed
+        OnEditorClosed(nullptr);          // the delegate does not report the closing of this editor
     }
     if (!m_pTable || !m_refusedItems.isEmpty())
         return; // the cell of the refused text is about to be opened again

@@ -22,8 +22,7 @@ const int SENT = 0;
 const int FAILED = 1;
 const int NOT_THE_HEAD = 2; // used in this file only
 
-const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits until the previous one is
-                                   // cancelled
+const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits for the end of the previous one
 
 ReplyTimes shippedReplyTimes()
 {
@@ -239,8 +238,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (!status)
         status = &ignoredStatus;
     QMutexLocker sending(&m_mutexSendCmd);
-    if (!LockedQueue()->isOpenHead(number)) // the command was cleared or answered while this
-                                            // function waited for the lock
+    if (!LockedQueue()->isOpenHead(number)) // cleared or answered while waiting for the lock
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {

@@ -27,8 +27,7 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
-const int RETURN_IN_MESSAGE_BOX = 1; // the return style of a top-up that shows its reply in a
-                                     // message box
+const int RETURN_IN_MESSAGE_BOX = 1; // the return style that shows the reply in a message box
 const int LINK_WIDTH = 300;          // pixels
 const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;

@@ -36,8 +36,7 @@ const int RIGHT_COLUMN = 2; // the first of five columns with the transcript and
 const int RIGHT_COLUMNS = 5;
 const int PROMPT_ROW = 8;
 const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int BOX_SPACING = 4;        // pixels; with a larger spacing, the rows would not fit into the
-                                  // fixed window
+const int BOX_SPACING = 4;        // pixels; a larger spacing does not fit into the fixed window
 
 const int ELIDE_WIDTH = 127; // pixels; independent of the width of the button
 const int PAY_BUTTONS = 2;   // the last ones

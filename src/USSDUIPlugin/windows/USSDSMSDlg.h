@@ -22,10 +22,8 @@ struct CCommandWidget {
     QString number;    // recipient of the short message
     int minLength = 0; // minimum number of characters in the input
     int limit = 0;     // maximum number of characters in the input
-    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind, the way in which the command is
-                                           // sent
-    QPushButton *sendButton = nullptr;     // null if the service has none; the same is true of the
-                                           // next two members
+    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind, which selects how it is sent
+    QPushButton *sendButton = nullptr;     // like the next two, null if the service has none
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
@@ -146,8 +144,7 @@ private:
     bool m_bFocusParked;
     int m_nSelected; // number of the selected entry; -1 if there is none
     CCommandWidget m_command;
-    QString m_strResultKey;       // key of the text in the result label; empty if the text has no
-                                  // key
+    QString m_strResultKey;       // key of the text in the result label; empty if there is none
     QPointer<USSDLogic> m_pLogic; // not owned; null while the dialog is not connected to it
 };
 

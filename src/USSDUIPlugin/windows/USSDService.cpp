@@ -435,8 +435,7 @@ void CUSSDService::OnClickedCloseButton()
 /// library before the frames are deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
-    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes the frames that have
-                                                                 // been deleted
+    m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes null pointers
     if (!frame)
         return;
     frame->deleteLater();

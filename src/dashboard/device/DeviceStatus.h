@@ -16,8 +16,7 @@ struct DeviceStatus {
     QString operatorName;   // empty if unknown
     QString imsi;           // empty if unknown
     QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty if unknown
-    QString simOperator;    // service provider name (SPN) that is stored on the SIM; empty if
-                            // unknown
+    QString simOperator;    // service provider name (SPN) on the SIM; empty if unknown
     QString source;         // the scenario file, or the modem's manufacturer and model
 
     bool operator==(const DeviceStatus &other) const;

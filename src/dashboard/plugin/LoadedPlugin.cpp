@@ -57,8 +57,7 @@ PluginFailure LoadedPlugin::openLibrary(const QString &file)
     m_loader.setFileName(file);
     if (!QFileInfo(file).isFile()) {
         PluginFailure missing = failure(PluginFailure::FileMissing);
-        missing.file = file; // set again, because QPluginLoader clears the name of a file that does
-                             // not exist
+        missing.file = file; // QPluginLoader clears the name of a file that does not exist
         return missing;
     }
     if (!m_loader.load()) {

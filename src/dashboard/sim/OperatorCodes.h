@@ -91,8 +91,7 @@ private:
     OperatorPlaces m_places;
     QString m_network;
     QString m_folderInUse;              // empty for the installed folder
-    QMap<QString, QString> m_decisions; // the decisions by network; stored here so that they work
-                                        // without settings
+    QMap<QString, QString> m_decisions; // by network; needed if there are no settings
     mutable Provisioning::ProviderDatabase m_database;
     mutable bool m_isRead = false;
 };

@@ -94,8 +94,7 @@ void ModemDevice::modemChanged()
     if (now == MM_MODEM_STATE_DISABLED)
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
-        m_problem = TKSV_PROBLEM_NONE; // the modem has passed the state in which the problem
-                                       // occurred
+        m_problem = TKSV_PROBLEM_NONE; // the modem has left the state with the problem
     fetchSim();
     m_listener.changed();
 }

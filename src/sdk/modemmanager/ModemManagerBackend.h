@@ -57,8 +57,7 @@ private:
     mutable std::mutex m_mutex; // guards everything below
     DeviceInfo m_info;
     bool m_isInfoKnown = false;    // whether the thread has published m_info
-    unsigned m_lostModemCount = 0; // identifies the modem, so that a task for a lost modem does not
-                                   // reach the next one
+    unsigned m_lostModemCount = 0; // a task with an older count must not reach this modem
     bool m_stopped = false;
 };
 

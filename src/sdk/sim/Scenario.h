@@ -98,10 +98,8 @@ struct Scenario {
     std::optional<Amount> balance;
     std::string currency;
 
-    std::map<std::string, Rule> rules;       // the rules by group: "*123#", "*101*%s#", "*123#/1",
-                                             // "Push 1"
-    std::map<std::string, SmsRule> smsRules; // the rules by number; the empty number is used for
-                                             // all others
+    std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
+    std::map<std::string, SmsRule> smsRules; // by number; the empty number is for all others
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };

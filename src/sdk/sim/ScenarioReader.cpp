@@ -144,8 +144,7 @@ public:
     {
         switch (kindOf(group.name)) {
         case GroupKind::Network:
-            break; // readNetwork() has already read this group, because the other groups use its
-                   // delay
+            break; // readNetwork() has already read it, since others use its delay
         case GroupKind::Sms:
             return readSms(group);
         case GroupKind::Push:
@@ -221,8 +220,7 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<const KeyFileGroup *> readWell; // the groups without a fault; only these are
-                                                // checked further
+    std::vector<const KeyFileGroup *> readWell; // the groups without a fault
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();
         reader.read(group);

@@ -82,8 +82,7 @@ private:
     unsigned m_lastSms = 0;
     std::map<unsigned, SmsMessage> m_smsInFlight;
 
-    Scheduler m_scheduler; // the last member, so that its thread ends before the others are
-                           // destroyed
+    Scheduler m_scheduler; // declared last, so that its thread ends first
 };
 
 } // namespace Tksv
