@@ -24,9 +24,9 @@ const unsigned int MESSAGE_PRE_POST_INFO = 384;
 } // namespace PluginContract
 
 /**
- * The outcome of the query whether the SIM is prepaid or postpaid. The plug-in owns the record,
- * which is valid during the notification only, so a host must copy the values that it needs. The
- * order and the size of the fields are part of the binary interface.
+ * The outcome of the prepaid/postpaid query. The plug-in owns the record, which is valid during the
+ * notification only, so a host must copy the values that it needs. The order and the size of the
+ * fields are part of the binary interface.
  */
 struct PrePostRecord {
     bool bInUse = false;    ///< the configuration enables the query

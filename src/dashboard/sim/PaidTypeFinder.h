@@ -14,9 +14,9 @@ namespace Dashboard
 class LoadedPlugin;
 
 /**
- * Makes the plug-in query the network, once for each SIM, whether the SIM is prepaid or postpaid.
- * The plug-in first ends an open session on the device, so the query is delayed while the user
- * needs the device. Must be used on the GUI thread. No function blocks.
+ * Makes the plug-in ask the network, once for each SIM, whether the SIM is prepaid or postpaid. The
+ * plug-in first ends an open session on the device, so the query is delayed while the user needs
+ * the device. Must be used on the GUI thread. No function blocks.
  */
 class PaidTypeFinder : public QObject
 {

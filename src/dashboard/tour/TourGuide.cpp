@@ -115,7 +115,7 @@ QWidget *TourGuide::open(int paidType, const char *widgetName, const char *place
     m_window->openFrame(paidType);
     QWidget *widget = nullptr;
     const auto isOpen = [&widget, widgetName] { return (widget = frameWith(widgetName)); };
-    if (!waitUntil(isOpen, LIMIT)) { // the query whether the SIM is prepaid may delay the window
+    if (!waitUntil(isOpen, LIMIT)) { // the prepaid/postpaid query may delay the window
         failHere();
         return nullptr;
     }

@@ -68,7 +68,7 @@ public slots:
     void setLanguage(const QString &code);
     void showPage(bool shown);
     /// Opens a window of the plug-in, a PAID_TYPE, in a separate frame. Waits a short time if
-    /// opening the frame would cancel the query whether the SIM is prepaid.
+    /// opening the frame would cancel the prepaid/postpaid query.
     void openFrame(int paidType);
 
 signals:
