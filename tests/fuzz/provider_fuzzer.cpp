@@ -70,7 +70,7 @@ void checkProfiles(const ProvisionPlan &plan, const QByteArray &file)
     const QList<USSDProfile> profiles = profilesIn(file);
     FUZZ_REQUIRE(profiles.count() == plan.profiles.count());
     for (int i = 0; i < profiles.count(); ++i)
-        FUZZ_REQUIRE(profiles.at(i).value == plan.profiles.at(i).code);
+        FUZZ_REQUIRE(profiles.at(i).value == plan.profiles.at(i).value);
 }
 
 void checkConfiguration(const ProvisionPlan &plan, const QByteArray &file)
