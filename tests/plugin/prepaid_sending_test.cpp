@@ -1,88 +1,12 @@
-#include "PrepaidTest.h"
+#include "PrepaidDialogTest.h"
 
-#include <QMessageBox>
-#include <QScrollBar>
-#include <QSignalSpy>
-
-#include "fake_tksv.h"
-#include "Languages.h"
-
-namespace
-{
-
-const char PIN[] = "123456789012";
-
-QString pin()
-{
-    return QLatin1String(PIN);
-}
-
-/// Returns the functions of the USSD service that were called, in order.
-QStringList ussdCalls()
-{
-    QStringList names;
-    for (const FakeCall &call : fakeSdkCalls()) {
-        const QString name = QString::fromStdString(call.function);
-        if (name == QLatin1String("TKSV_USSDSrv_Release") ||
-            name == QLatin1String("TKSV_USSDSrv_Request"))
-            names << name.mid(int(strlen("TKSV_USSDSrv_")));
-    }
-    return names;
-}
-
-} // namespace
-
-/**
- * Tests the commands of the account window, the moments at which it sends them, and its reactions
- * to answers.
- */
-class PrepaidDialogTest : public PrepaidTest
+/** Tests how the account dialog sends commands and handles answers. */
+class PrepaidSendingTest : public PrepaidDialogTest
 {
     Q_OBJECT
 
-private:
-    void configureCharge(const QByteArray &charge);
-    void refuseAll(int status);
-    void sendFrom(int component);
-    Account only(const QByteArray &charge); ///< an account that shows only the top-up
-
 private slots:
-    // entry
-    void twelveCharactersActivateWithLength16AndMinlenth12();
-    void eightCharactersActivateWithLength8AndMinlenth12();
-    void shorterAgainDisablesActivation();
-    void onlyTheUsersOwnEditsChangeActivation();
-    void noMoreThanLengthCanBeTyped();
-    void onlyTheLimitTextCanBeTyped();
-    void limitTextTellsCapitals();
-    void brokenLimitTextIsLoggedAndLetsEverythingIn();
-    void hostileLimitTextIsLoggedAndLetsEverythingIn();
-    void enormousLengthStillLimitsTheCharacters();
-    void zeroLengthIsLogged();
-    void piecesOfTheExpressionAreLogged();
-
-    // opening
-    void openingAsksForBalanceAndThenForTheNumber();
-    void openingReleasesAndClearsBeforeItSends();
-    void openingAsksOnlyForWhatIsShown_data();
-    void openingAsksOnlyForWhatIsShown();
-    void emptyCommandIsNotSent();
-    void openingAnInvalidTypeDoesNothing_data();
-    void openingAnInvalidTypeDoesNothing();
-    void openingMakesTheEntryReady();
-    void openingAgainEmptiesTheEntry();
-    void openingShowsTheWindow();
-    void eachPaidTypeSendsItsOwn();
-    void openingAsTheOtherTypeShowsThatOne();
-
-    // busy
-    void everyBoxSaysFailedAtFirst();
-    void answersBeforeAnyCommandAreDropped();
-    void answersGoOnAfterTheFirstOne();
-    void closingEndsIt();
-    void openingAgainDoesNotEndIt();
-
-    // sending
+    // ---- sending
     void waitingDisablesItsOwnControlsOnly_data();
     void waitingDisablesItsOwnControlsOnly();
     void answerEnablesThemAgain_data();
@@ -93,7 +17,7 @@ private slots:
     void everyPlaceholderBecomesThePin();
     void withoutLogicNothingIsSent();
 
-    // answers
+    // ---- answers
     void emptyAnswerIsShownAsFailure();
     void answersOfOtherComponentsTouchNothing_data();
     void answersOfOtherComponentsTouchNothing();
@@ -101,7 +25,7 @@ private slots:
     void longAnswerScrollsAndDoesNotGrowTheWindow();
     void timeOutIsShown();
 
-    // topping up
+    // ---- topping up
     void topUpIsAnsweredAndTheBalanceFetchedAtOnce();
     void topUpByMessageBoxShowsItAndThenFetchesTheBalance();
     void topUpByMessageBoxWaitsWithoutSayingSo();
@@ -118,20 +42,20 @@ private slots:
     void heldReturnTopsUpOnce_data();
     void heldReturnTopsUpOnce();
     void heldReturnAfterARefusalTriesOnce();
-    void returnWhoseReleaseWentElsewhereCountsAgainAfterTyping();
     void heldReturnWithoutItsReleasesTopsUpOnce();
+    void returnWhoseReleaseWentElsewhereCountsAgainAfterTyping();
     void heldReturnBehindAWaitingBalanceTopsUpOnce();
     void returnPressedAnewTopsUpAgain();
 
-    // focus
+    // ---- focus
     void focusWaitsInTheStatusBoxAndComesBack();
     void focusThatTheUserMovedStays();
 
-    // language
+    // ---- language
     void textsFollowTheLanguage();
     void ownTextsInBoxesFollowTheLanguageAndAnswersDoNot();
 
-    // closing
+    // ---- closing
     void closeButtonAsksToBeClosed();
     void closingDropsWhatWaits();
     void closedDialogMayBeDeletedAtOnce();
@@ -139,349 +63,9 @@ private slots:
     void dialogDestroyedBehindItsMessageBoxCostsNothing();
 };
 
-void PrepaidDialogTest::configureCharge(const QByteArray &charge)
-{
-    Account account;
-    account.charge = charge;
-    configure(account);
-}
+// ---- sending ------------------------------------------------------------------------------------
 
-PrepaidTest::Account PrepaidDialogTest::only(const QByteArray &charge)
-{
-    Account account;
-    account.balance.clear();
-    account.charge = charge;
-    account.online.clear();
-    account.msisdn.clear();
-    return account;
-}
-
-/// Presses the button of the component. The entry always contains a PIN.
-void PrepaidDialogTest::sendFrom(int component)
-{
-    type(pin());
-    if (component == COMPONENT_CHARGE)
-        click(activateButton());
-    else
-        click(component == COMPONENT_BALANCE ? balanceButton() : msisdnButton());
-}
-
-void PrepaidDialogTest::refuseAll(int status)
-{
-    allowWarning("TKSV_USSDSrv_Request");
-    fakeSdkSetAnswer(fakeRefused(1, status));
-}
-
-// ---- entry -----------------------------------------------------------------------------------
-
-void PrepaidDialogTest::twelveCharactersActivateWithLength16AndMinlenth12()
-{
-    configureCharge(chargeItem(1, 0, 16, 12));
-    open();
-    type(pin().left(11));
-    QVERIFY(!activateButton()->isEnabled());
-    type(QStringLiteral("2"));
-    QVERIFY(activateButton()->isEnabled());
-}
-
-void PrepaidDialogTest::eightCharactersActivateWithLength8AndMinlenth12()
-{
-    configureCharge(chargeItem(1, 0, 8, 12));
-    open();
-    type(pin().left(7));
-    QVERIFY(!activateButton()->isEnabled());
-    type(QStringLiteral("8"));
-    QVERIFY(activateButton()->isEnabled());
-}
-
-void PrepaidDialogTest::shorterAgainDisablesActivation()
-{
-    configure(Account());
-    open();
-    type(pin());
-    QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
-    QVERIFY(!activateButton()->isEnabled());
-}
-
-void PrepaidDialogTest::onlyTheUsersOwnEditsChangeActivation()
-{
-    configure(Account());
-    open();
-    chargeEdit()->setText(pin()); // as a host's on-screen keyboard could do
-    QVERIFY(!activateButton()->isEnabled());
-    QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
-    type(QStringLiteral("2"));
-    QVERIFY(activateButton()->isEnabled());
-    chargeEdit()->clear();
-    QVERIFY(activateButton()->isEnabled());
-}
-
-void PrepaidDialogTest::noMoreThanLengthCanBeTyped()
-{
-    configureCharge(chargeItem(1, 0, 8, 4));
-    open();
-    type(pin());
-    QCOMPARE(chargeEdit()->text(), pin().left(8));
-    QCOMPARE(chargeEdit()->maxLength(), 8); // a longer pasted PIN is truncated
-}
-
-void PrepaidDialogTest::onlyTheLimitTextCanBeTyped()
-{
-    configure(Account());
-    open();
-    type(QStringLiteral("1a*#2 "));
-    QCOMPARE(chargeEdit()->text(), QStringLiteral("12"));
-}
-
-void PrepaidDialogTest::limitTextTellsCapitals()
-{
-    configureCharge(chargeItem(1, 0, 8, 1, "a-z"));
-    open();
-    type(QStringLiteral("aBc"));
-    QCOMPARE(chargeEdit()->text(), QStringLiteral("ac"));
-}
-
-void PrepaidDialogTest::brokenLimitTextIsLoggedAndLetsEverythingIn()
-{
-    expectWarning("LimitText or length make no expression: [0-9\\]{0,16}");
-    configureCharge(chargeItem(1, 0, 16, 2, "0-9\\"));
-    open();
-    type(QStringLiteral("1a*"));
-    QCOMPARE(chargeEdit()->text(), QStringLiteral("1a*"));
-    QVERIFY(activateButton()->isEnabled());
-}
-
-void PrepaidDialogTest::hostileLimitTextIsLoggedAndLetsEverythingIn()
-{
-    expectWarning("LimitText or length make no expression: [a]|((a{1000}){1000}){1000}|[b]{0,16}");
-    configureCharge(chargeItem(1, 0, 16, 2, "a]|((a{1000}){1000}){1000}|[b"));
-    open();
-    type(QStringLiteral("1a*"));
-    QCOMPARE(chargeEdit()->text(), QStringLiteral("1a*"));
-}
-
-void PrepaidDialogTest::enormousLengthStillLimitsTheCharacters()
-{
-    configureCharge(chargeItem(1, 0, 2147483647, 2));
-    open();
-    type(QStringLiteral("1a*2"));
-    QCOMPARE(chargeEdit()->text(), QStringLiteral("12"));
-}
-
-void PrepaidDialogTest::zeroLengthIsLogged()
-{
-    expectWarning("length = 0 lets nothing be entered");
-    configureCharge(chargeItem(1, 0, 0, 2));
-    open();
-    type(QStringLiteral("1"));
-    QVERIFY(chargeEdit()->text().isEmpty());
-}
-
-void PrepaidDialogTest::piecesOfTheExpressionAreLogged()
-{
-    configure(Account());
-    make();
-    QCOMPARE(timesLogged(" limittext = 0-9"), 1);
-    QCOMPARE(timesLogged(" string validator = [0-9]{0,16}"), 1);
-}
-
-// ---- opening ---------------------------------------------------------------------------------
-
-void PrepaidDialogTest::openingAsksForBalanceAndThenForTheNumber()
-{
-    configure(Account());
-    open();
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
-    QCOMPARE(msisdnBox()->toPlainText(), text("USSD_CODE_WAITTING"));
-    networkSays(QStringLiteral("5 EUR"));
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*100#") << QStringLiteral("*102#"));
-    networkSays(QStringLiteral("0170"));
-    QCOMPARE(balanceBox()->toPlainText(), QStringLiteral("5 EUR"));
-    QCOMPARE(msisdnBox()->toPlainText(), QStringLiteral("0170"));
-}
-
-void PrepaidDialogTest::openingReleasesAndClearsBeforeItSends()
-{
-    configure(Account());
-    make();
-    int status = 0;
-    USSDLogic *logic = USSDLogic::GetUSSDLogicInstance();
-    logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*1#")), &status);
-    logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
-    dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    // No command is pending any more, so the balance is requested at once.
-    QCOMPARE(ussdCalls(), QStringList() << QStringLiteral("Request") << QStringLiteral("Release")
-                                        << QStringLiteral("Request"));
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*1#") << QStringLiteral("*100#"));
-}
-
-void PrepaidDialogTest::openingAsksOnlyForWhatIsShown_data()
-{
-    QTest::addColumn<bool>("balance");
-    QTest::addColumn<bool>("msisdn");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("balance") << true << false << QStringList(QStringLiteral("*100#"));
-    QTest::newRow("number") << false << true << QStringList(QStringLiteral("*102#"));
-    QTest::newRow("neither") << false << false << QStringList();
-}
-
-void PrepaidDialogTest::openingAsksOnlyForWhatIsShown()
-{
-    QFETCH(bool, balance);
-    QFETCH(bool, msisdn);
-    Account account = only(chargeItem(0));
-    if (balance)
-        account.balance = balanceItem(1);
-    if (msisdn)
-        account.msisdn = msisdnItem(2);
-    configure(account);
-    open();
-    QTEST(requests(), "sent");
-}
-
-/// A command that an error in the file has truncated is read as an empty command.
-void PrepaidDialogTest::emptyCommandIsNotSent()
-{
-    Account account;
-    account.balance.replace("<command>*100#</command>", "<command></command>");
-    configure(account);
-    open();
-    // The request for the own number makes the window busy.
-    QCOMPARE(requests(), QStringList{QStringLiteral("*102#")});
-    click(balanceButton());
-    QCOMPARE(requests().count(), 1);
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
-    QVERIFY(balanceButton()->isEnabled());
-}
-
-void PrepaidDialogTest::openingAnInvalidTypeDoesNothing_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("general") << int(PAID_TYPE_GENERAL);
-    QTest::newRow("none") << int(PAID_TYPE_NONE);
-    QTest::newRow("unused") << 2;
-}
-
-void PrepaidDialogTest::openingAnInvalidTypeDoesNothing()
-{
-    QFETCH(int, type);
-    configure(Account());
-    make();
-    dialog()->MyDoModal(static_cast<PAID_TYPE>(type));
-    QCOMPARE(timesLogged("MyDoModal Exit: invalid paid type"), 1);
-    QVERIFY(ussdCalls().isEmpty());
-}
-
-void PrepaidDialogTest::openingMakesTheEntryReady()
-{
-    configure(Account());
-    open();
-    QVERIFY(chargeEdit()->isEnabled());
-    QVERIFY(chargeEdit()->hasFocus());
-    QVERIFY(!activateButton()->isEnabled());
-    QVERIFY(activateBox()->toPlainText().isEmpty());
-}
-
-void PrepaidDialogTest::openingAgainEmptiesTheEntry()
-{
-    configure(Account());
-    open();
-    topUp(pin());
-    QVERIFY(!chargeEdit()->isEnabled());
-    dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    QVERIFY(chargeEdit()->isEnabled());
-    QVERIFY(chargeEdit()->text().isEmpty());
-    QVERIFY(!activateButton()->isEnabled());
-    QVERIFY(activateBox()->toPlainText().isEmpty());
-}
-
-void PrepaidDialogTest::openingShowsTheWindow()
-{
-    configure(Account());
-    make();
-    frame()->hide();
-    dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    QVERIFY(dialog()->isVisible());
-}
-
-void PrepaidDialogTest::eachPaidTypeSendsItsOwn()
-{
-    Account postpaid;
-    postpaid.balance.replace("*100#", "*110#");
-    configure(Account(), postpaid);
-    open(PAID_TYPE_POSTPAID);
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*110#"));
-    QCOMPARE(dialog()->windowTitle(), text("IDS_WINDOW_TETLE_POSTPAID"));
-}
-
-void PrepaidDialogTest::openingAsTheOtherTypeShowsThatOne()
-{
-    Account postpaid = only(chargeItem(0, 0, 6, 4));
-    postpaid.balance = balanceItem(1).replace("*100#", "*110#");
-    configure(Account(), postpaid);
-    make(PAID_TYPE_PREPAID);
-    dialog()->MyDoModal(PAID_TYPE_POSTPAID);
-    QCOMPARE(requests(), QStringList() << QStringLiteral("*110#"));
-    QVERIFY(!msisdnBox()->isVisible());
-    QVERIFY(!link()->isVisible());
-    type(pin());
-    QCOMPARE(chargeEdit()->text(), pin().left(6));
-    QCOMPARE(dialog()->windowTitle(), text("IDS_WINDOW_TETLE_POSTPAID"));
-}
-
-// ---- busy ------------------------------------------------------------------------------------
-
-void PrepaidDialogTest::everyBoxSaysFailedAtFirst()
-{
-    configure(Account());
-    make();
-    for (QTextEdit *box : {balanceBox(), activateBox(), msisdnBox()})
-        QCOMPARE(box->toPlainText(), text("USSD_CODE_FAILED"));
-}
-
-void PrepaidDialogTest::answersBeforeAnyCommandAreDropped()
-{
-    configure(Account());
-    make();
-    logicSays(COMPONENT_BALANCE, QStringLiteral("5 EUR"));
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
-    QCOMPARE(timesLogged("OnResponseReceived Exit: USSDDlg no need to handle"), 1);
-}
-
-void PrepaidDialogTest::answersGoOnAfterTheFirstOne()
-{
-    configure(Account());
-    open();
-    networkSays(QStringLiteral("5 EUR"));
-    logicSays(COMPONENT_BALANCE, QStringLiteral("6 EUR"));
-    QCOMPARE(balanceBox()->toPlainText(), QStringLiteral("6 EUR"));
-}
-
-void PrepaidDialogTest::closingEndsIt()
-{
-    configure(Account());
-    open();
-    dialog()->OnClickedCloseButton();
-    logicSays(COMPONENT_BALANCE, QStringLiteral("5 EUR"));
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
-}
-
-void PrepaidDialogTest::openingAgainDoesNotEndIt()
-{
-    Account account = only(chargeItem(0));
-    account.balance = balanceItem(1);
-    configure(account);
-    open();
-    refuseAll(1);
-    dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED")); // the box was waiting before
-    QVERIFY(balanceButton()->isEnabled());
-}
-
-// ---- sending ---------------------------------------------------------------------------------
-
-void PrepaidDialogTest::waitingDisablesItsOwnControlsOnly_data()
+void PrepaidSendingTest::waitingDisablesItsOwnControlsOnly_data()
 {
     QTest::addColumn<int>("component");
     QTest::newRow("balance") << int(COMPONENT_BALANCE);
@@ -489,7 +73,7 @@ void PrepaidDialogTest::waitingDisablesItsOwnControlsOnly_data()
     QTest::newRow("msisdn") << int(COMPONENT_MSISDN);
 }
 
-void PrepaidDialogTest::waitingDisablesItsOwnControlsOnly()
+void PrepaidSendingTest::waitingDisablesItsOwnControlsOnly()
 {
     QFETCH(int, component);
     configure(Account());
@@ -501,12 +85,12 @@ void PrepaidDialogTest::waitingDisablesItsOwnControlsOnly()
     QCOMPARE(msisdnButton()->isEnabled(), component != COMPONENT_MSISDN);
 }
 
-void PrepaidDialogTest::answerEnablesThemAgain_data()
+void PrepaidSendingTest::answerEnablesThemAgain_data()
 {
     waitingDisablesItsOwnControlsOnly_data();
 }
 
-void PrepaidDialogTest::answerEnablesThemAgain()
+void PrepaidSendingTest::answerEnablesThemAgain()
 {
     QFETCH(int, component);
     Account account;
@@ -522,7 +106,7 @@ void PrepaidDialogTest::answerEnablesThemAgain()
     QVERIFY(msisdnButton()->isEnabled());
 }
 
-void PrepaidDialogTest::refusalShowsNothingWhenNotBusy()
+void PrepaidSendingTest::refusalShowsNothingWhenNotBusy()
 {
     refuseAll(5);
     configure(Account());
@@ -532,7 +116,7 @@ void PrepaidDialogTest::refusalShowsNothingWhenNotBusy()
     QVERIFY(balanceButton()->isEnabled());
 }
 
-void PrepaidDialogTest::refusalIsShownWhenBusy_data()
+void PrepaidSendingTest::refusalIsShownWhenBusy_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("key");
@@ -540,7 +124,7 @@ void PrepaidDialogTest::refusalIsShownWhenBusy_data()
     QTest::newRow("other") << 2 << QByteArray("USSD_CODE_FAILED");
 }
 
-void PrepaidDialogTest::refusalIsShownWhenBusy()
+void PrepaidSendingTest::refusalIsShownWhenBusy()
 {
     QFETCH(int, status);
     QFETCH(QByteArray, key);
@@ -554,7 +138,7 @@ void PrepaidDialogTest::refusalIsShownWhenBusy()
     QVERIFY(balanceButton()->isEnabled());
 }
 
-void PrepaidDialogTest::everyPlaceholderBecomesThePin()
+void PrepaidSendingTest::everyPlaceholderBecomesThePin()
 {
     configure(only(chargeItem(0, 0, 16, 4).replace("*101*%s#", "*101*%s*%S*%s#")));
     open();
@@ -564,7 +148,7 @@ void PrepaidDialogTest::everyPlaceholderBecomesThePin()
     QCOMPARE(timesLogged(" USSD command: *101*1234*%S*1234#"), 1);
 }
 
-void PrepaidDialogTest::withoutLogicNothingIsSent()
+void PrepaidSendingTest::withoutLogicNothingIsSent()
 {
     configure(Account());
     make();
@@ -575,9 +159,9 @@ void PrepaidDialogTest::withoutLogicNothingIsSent()
     QVERIFY(requests().isEmpty());
 }
 
-// ---- answers ---------------------------------------------------------------------------------
+// ---- answers ------------------------------------------------------------------------------------
 
-void PrepaidDialogTest::emptyAnswerIsShownAsFailure()
+void PrepaidSendingTest::emptyAnswerIsShownAsFailure()
 {
     configure(Account());
     open();
@@ -585,7 +169,7 @@ void PrepaidDialogTest::emptyAnswerIsShownAsFailure()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
 }
 
-void PrepaidDialogTest::answersOfOtherComponentsTouchNothing_data()
+void PrepaidSendingTest::answersOfOtherComponentsTouchNothing_data()
 {
     QTest::addColumn<int>("component");
     QTest::newRow("online") << int(COMPONENT_ONLINE_CHARGE);
@@ -593,7 +177,7 @@ void PrepaidDialogTest::answersOfOtherComponentsTouchNothing_data()
     QTest::newRow("ussd-sms") << int(COMPONENT_USSD_SMS);
 }
 
-void PrepaidDialogTest::answersOfOtherComponentsTouchNothing()
+void PrepaidSendingTest::answersOfOtherComponentsTouchNothing()
 {
     QFETCH(int, component);
     configure(Account());
@@ -605,7 +189,7 @@ void PrepaidDialogTest::answersOfOtherComponentsTouchNothing()
     QVERIFY(!balanceButton()->isEnabled());
 }
 
-void PrepaidDialogTest::answersAreShownAsPlainText()
+void PrepaidSendingTest::answersAreShownAsPlainText()
 {
     const QString reply = QStringLiteral("<b>5</b> &amp; <img src='/dev/zero'> <a href='x'>y</a>");
     configure(Account());
@@ -622,7 +206,7 @@ void PrepaidDialogTest::answersAreShownAsPlainText()
     }
 }
 
-void PrepaidDialogTest::longAnswerScrollsAndDoesNotGrowTheWindow()
+void PrepaidSendingTest::longAnswerScrollsAndDoesNotGrowTheWindow()
 {
     configure(Account());
     open();
@@ -642,7 +226,7 @@ void PrepaidDialogTest::longAnswerScrollsAndDoesNotGrowTheWindow()
         QCOMPARE(box->minimumHeight(), box->maximumHeight());
 }
 
-void PrepaidDialogTest::timeOutIsShown()
+void PrepaidSendingTest::timeOutIsShown()
 {
     const ReplyTimes impatient = {1, 1};
     USSDLogic::setReplyTimes(impatient);
@@ -653,9 +237,9 @@ void PrepaidDialogTest::timeOutIsShown()
     QVERIFY(balanceButton()->isEnabled());
 }
 
-// ---- topping up ------------------------------------------------------------------------------
+// ---- topping up ---------------------------------------------------------------------------------
 
-void PrepaidDialogTest::topUpIsAnsweredAndTheBalanceFetchedAtOnce()
+void PrepaidSendingTest::topUpIsAnsweredAndTheBalanceFetchedAtOnce()
 {
     configure(Account());
     open();
@@ -673,7 +257,7 @@ void PrepaidDialogTest::topUpIsAnsweredAndTheBalanceFetchedAtOnce()
     QCOMPARE(balanceBox()->toPlainText(), QStringLiteral("15 EUR"));
 }
 
-void PrepaidDialogTest::topUpByMessageBoxShowsItAndThenFetchesTheBalance()
+void PrepaidSendingTest::topUpByMessageBoxShowsItAndThenFetchesTheBalance()
 {
     configureCharge(chargeItem(1, 1));
     open();
@@ -697,7 +281,7 @@ void PrepaidDialogTest::topUpByMessageBoxShowsItAndThenFetchesTheBalance()
     QVERIFY(chargeEdit()->isEnabled());
 }
 
-void PrepaidDialogTest::topUpByMessageBoxWaitsWithoutSayingSo()
+void PrepaidSendingTest::topUpByMessageBoxWaitsWithoutSayingSo()
 {
     configureCharge(chargeItem(1, 1));
     open();
@@ -709,7 +293,7 @@ void PrepaidDialogTest::topUpByMessageBoxWaitsWithoutSayingSo()
     QVERIFY(!chargeEdit()->isEnabled());
 }
 
-void PrepaidDialogTest::messageBoxShowsPlainTextAndStaysSmall()
+void PrepaidSendingTest::messageBoxShowsPlainTextAndStaysSmall()
 {
     configure(only(chargeItem(1, 1)));
     open();
@@ -725,7 +309,7 @@ void PrepaidDialogTest::messageBoxShowsPlainTextAndStaysSmall()
     QVERIFY2(size.width() < 700 && size.height() < 500, qPrintable(QString::number(size.width())));
 }
 
-void PrepaidDialogTest::topUpAloneIsAnswered()
+void PrepaidSendingTest::topUpAloneIsAnswered()
 {
     configure(only(chargeItem(0, 1)));
     open();
@@ -734,7 +318,7 @@ void PrepaidDialogTest::topUpAloneIsAnswered()
     QVERIFY(activateButton()->isEnabled());
 }
 
-void PrepaidDialogTest::topUpWithoutBalanceFetchesNone()
+void PrepaidSendingTest::topUpWithoutBalanceFetchesNone()
 {
     configure(only(chargeItem(0)));
     open();
@@ -743,7 +327,7 @@ void PrepaidDialogTest::topUpWithoutBalanceFetchesNone()
     QCOMPARE(requests(), QStringList() << QStringLiteral("*101*123456789012#"));
 }
 
-void PrepaidDialogTest::queuedTopUpWaitsForItsTurn()
+void PrepaidSendingTest::queuedTopUpWaitsForItsTurn()
 {
     configure(Account());
     open();
@@ -754,7 +338,7 @@ void PrepaidDialogTest::queuedTopUpWaitsForItsTurn()
     QCOMPARE(activateBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-void PrepaidDialogTest::failedTopUpIsToldLikeAnAnswer()
+void PrepaidSendingTest::failedTopUpIsToldLikeAnAnswer()
 {
     configureCharge(chargeItem(1, 0));
     open();
@@ -767,7 +351,7 @@ void PrepaidDialogTest::failedTopUpIsToldLikeAnAnswer()
     QVERIFY(chargeEdit()->isEnabled());
 }
 
-void PrepaidDialogTest::returnKeySendsOnce()
+void PrepaidSendingTest::returnKeySendsOnce()
 {
     refuseAll(1); // after a rejected command the button stays enabled, so a second press would send
     configure(only(chargeItem(0)));
@@ -777,7 +361,7 @@ void PrepaidDialogTest::returnKeySendsOnce()
     QCOMPARE(requests(), QStringList() << QStringLiteral("*101*123456789012#"));
 }
 
-void PrepaidDialogTest::returnKeyObeysTheMinimum()
+void PrepaidSendingTest::returnKeyObeysTheMinimum()
 {
     configure(only(chargeItem(0)));
     open();
@@ -786,7 +370,7 @@ void PrepaidDialogTest::returnKeyObeysTheMinimum()
     QVERIFY(requests().isEmpty());
 }
 
-void PrepaidDialogTest::returnKeyWhileWaitingDoesNothing()
+void PrepaidSendingTest::returnKeyWhileWaitingDoesNothing()
 {
     configure(only(chargeItem(0)));
     open();
@@ -797,7 +381,7 @@ void PrepaidDialogTest::returnKeyWhileWaitingDoesNothing()
     QCOMPARE(requests().count(), 1);
 }
 
-void PrepaidDialogTest::returnKeyElsewhereSendsNothing()
+void PrepaidSendingTest::returnKeyElsewhereSendsNothing()
 {
     configure(Account());
     make();
@@ -812,7 +396,7 @@ void PrepaidDialogTest::returnKeyElsewhereSendsNothing()
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
-void PrepaidDialogTest::secondTopUpSendsTheNewPin()
+void PrepaidSendingTest::secondTopUpSendsTheNewPin()
 {
     configure(only(chargeItem(0, 0, 16, 4)));
     open();
@@ -823,14 +407,14 @@ void PrepaidDialogTest::secondTopUpSendsTheNewPin()
                              << QStringLiteral("*101*1111#") << QStringLiteral("*101*2222#"));
 }
 
-void PrepaidDialogTest::heldReturnTopsUpOnce_data()
+void PrepaidSendingTest::heldReturnTopsUpOnce_data()
 {
     QTest::addColumn<bool>("onTheButton");
     QTest::newRow("in the entry") << false;
     QTest::newRow("on the button") << true;
 }
 
-void PrepaidDialogTest::heldReturnTopsUpOnce()
+void PrepaidSendingTest::heldReturnTopsUpOnce()
 {
     QFETCH(bool, onTheButton);
     configure(only(chargeItem(0)));
@@ -846,7 +430,7 @@ void PrepaidDialogTest::heldReturnTopsUpOnce()
     QCOMPARE(requests().count(), 1);
 }
 
-void PrepaidDialogTest::heldReturnAfterARefusalTriesOnce()
+void PrepaidSendingTest::heldReturnAfterARefusalTriesOnce()
 {
     refuseAll(1);
     configure(Account());
@@ -861,7 +445,7 @@ void PrepaidDialogTest::heldReturnAfterARefusalTriesOnce()
 }
 
 /// Some remote desktops send repeated presses without releases.
-void PrepaidDialogTest::heldReturnWithoutItsReleasesTopsUpOnce()
+void PrepaidSendingTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);
     configure(only(chargeItem(0)));
@@ -872,7 +456,7 @@ void PrepaidDialogTest::heldReturnWithoutItsReleasesTopsUpOnce()
     QCOMPARE(requests().count(), 1);
 }
 
-void PrepaidDialogTest::returnWhoseReleaseWentElsewhereCountsAgainAfterTyping()
+void PrepaidSendingTest::returnWhoseReleaseWentElsewhereCountsAgainAfterTyping()
 {
     refuseAll(1);
     configure(only(chargeItem(0)));
@@ -886,7 +470,7 @@ void PrepaidDialogTest::returnWhoseReleaseWentElsewhereCountsAgainAfterTyping()
     QCOMPARE(requests().count(), 2);
 }
 
-void PrepaidDialogTest::heldReturnBehindAWaitingBalanceTopsUpOnce()
+void PrepaidSendingTest::heldReturnBehindAWaitingBalanceTopsUpOnce()
 {
     Account account = only(chargeItem(0));
     account.balance = balanceItem(1);
@@ -903,7 +487,7 @@ void PrepaidDialogTest::heldReturnBehindAWaitingBalanceTopsUpOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-void PrepaidDialogTest::returnPressedAnewTopsUpAgain()
+void PrepaidSendingTest::returnPressedAnewTopsUpAgain()
 {
     configure(only(chargeItem(0)));
     open();
@@ -915,9 +499,9 @@ void PrepaidDialogTest::returnPressedAnewTopsUpAgain()
     QCOMPARE(requests().count(), 2);
 }
 
-// ---- focus -----------------------------------------------------------------------------------
+// ---- focus --------------------------------------------------------------------------------------
 
-void PrepaidDialogTest::focusWaitsInTheStatusBoxAndComesBack()
+void PrepaidSendingTest::focusWaitsInTheStatusBoxAndComesBack()
 {
     configure(only(chargeItem(0)));
     open();
@@ -928,7 +512,7 @@ void PrepaidDialogTest::focusWaitsInTheStatusBoxAndComesBack()
     QVERIFY(chargeEdit()->hasFocus());
 }
 
-void PrepaidDialogTest::focusThatTheUserMovedStays()
+void PrepaidSendingTest::focusThatTheUserMovedStays()
 {
     configure(only(chargeItem(0)));
     open();
@@ -939,9 +523,9 @@ void PrepaidDialogTest::focusThatTheUserMovedStays()
     QVERIFY(closeButton()->hasFocus());
 }
 
-// ---- language --------------------------------------------------------------------------------
+// ---- language -----------------------------------------------------------------------------------
 
-void PrepaidDialogTest::textsFollowTheLanguage()
+void PrepaidSendingTest::textsFollowTheLanguage()
 {
     configure(Account());
     make();
@@ -961,7 +545,7 @@ void PrepaidDialogTest::textsFollowTheLanguage()
     }
 }
 
-void PrepaidDialogTest::ownTextsInBoxesFollowTheLanguageAndAnswersDoNot()
+void PrepaidSendingTest::ownTextsInBoxesFollowTheLanguageAndAnswersDoNot()
 {
     configure(Account());
     open();
@@ -976,9 +560,9 @@ void PrepaidDialogTest::ownTextsInBoxesFollowTheLanguageAndAnswersDoNot()
     QCOMPARE(msisdnBox()->toPlainText(), text("USSD_CODE_FAILED"));
 }
 
-// ---- closing ---------------------------------------------------------------------------------
+// ---- closing ------------------------------------------------------------------------------------
 
-void PrepaidDialogTest::closeButtonAsksToBeClosed()
+void PrepaidSendingTest::closeButtonAsksToBeClosed()
 {
     configure(Account());
     open();
@@ -991,7 +575,7 @@ void PrepaidDialogTest::closeButtonAsksToBeClosed()
     QCOMPARE(closes.count(), 1);
 }
 
-void PrepaidDialogTest::closingDropsWhatWaits()
+void PrepaidSendingTest::closingDropsWhatWaits()
 {
     configure(Account());
     open();
@@ -1001,7 +585,7 @@ void PrepaidDialogTest::closingDropsWhatWaits()
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
-void PrepaidDialogTest::closedDialogMayBeDeletedAtOnce()
+void PrepaidSendingTest::closedDialogMayBeDeletedAtOnce()
 {
     configure(Account());
     open();
@@ -1012,7 +596,7 @@ void PrepaidDialogTest::closedDialogMayBeDeletedAtOnce()
     QVERIFY(!closed);
 }
 
-void PrepaidDialogTest::escapeClosesTheFrame()
+void PrepaidSendingTest::escapeClosesTheFrame()
 {
     configure(Account());
     open();
@@ -1021,7 +605,7 @@ void PrepaidDialogTest::escapeClosesTheFrame()
     QCOMPARE(closes.count(), 1);
 }
 
-void PrepaidDialogTest::dialogDestroyedBehindItsMessageBoxCostsNothing()
+void PrepaidSendingTest::dialogDestroyedBehindItsMessageBoxCostsNothing()
 {
     configureCharge(chargeItem(1, 1));
     open();
@@ -1038,6 +622,5 @@ void PrepaidDialogTest::dialogDestroyedBehindItsMessageBoxCostsNothing()
     QCOMPARE(requests().last(), QStringLiteral("*101*123456789012#"));
 }
 
-USSD_TEST_MAIN(PrepaidDialogTest)
-
-#include "prepaid_dialog_test.moc"
+USSD_TEST_MAIN(PrepaidSendingTest)
+#include "prepaid_sending_test.moc"

@@ -1,0 +1,56 @@
+#ifndef GENERALDIALOGTEST_H
+#define GENERALDIALOGTEST_H
+
+#include "DialogTest.h"
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include "fake_tksv.h"
+#include "Languages.h"
+#include "requests/USSDLogic.h"
+
+/// Counts the key events that no child widget has accepted.
+class KeyCounter : public QWidget
+{
+public:
+    int keys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        Q_UNUSED(event)
+        ++keys;
+    }
+};
+
+inline QGridLayout *gridOf(QWidget *widget)
+{
+    return qobject_cast<QGridLayout *>(widget->layout());
+}
+
+/** Tests the general dialog: its entry fields, sending, answers and the transcript. */
+class GeneralDialogTest : public DialogTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+
+protected:
+    /// Presses Clear and answers the confirmation box with the button of this text key, or with
+    /// Escape for a null key. Returns the text of the box, or a null text if no box was opened.
+    QString clearAndAnswer(const char *buttonKey);
+    /// Returns the index of the first log line that contains `part`, or -1.
+    int lineOf(const char *part);
+    void activateWindow(); ///< makes the dialog's choice of the focus effective
+    void changeConfig(const char *from, const char *to);
+    void activate(const char *signal, int index);
+};
+
+#endif

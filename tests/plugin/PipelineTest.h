@@ -1,0 +1,108 @@
+#ifndef PIPELINETEST_H
+#define PIPELINETEST_H
+
+#include "LogicListener.h"
+#include "PluginTest.h"
+
+#include <atomic>
+#include <thread>
+
+#include <QSemaphore>
+#include <QThread>
+
+#include "fake_tksv.h"
+#include "requests/ReplyTimer.h"
+#include "requests/USSDLogic.h"
+#include "ThreadWatch.h"
+
+const int NO_PATIENCE = 60000; // ms; a limit that no test reaches
+
+std::atomic<qint64> now(0);
+
+inline qint64 stoppedClock()
+{
+    return now;
+}
+
+inline QString units(int count)
+{
+    return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
+}
+
+/// Runs code while a response is being announced, on the thread that announces it.
+class Interloper : public QObject
+{
+    Q_OBJECT
+public:
+    QSemaphore reached;
+    QSemaphore goOn;
+    std::atomic<bool> done{false};
+    std::atomic<size_t> commands{0};
+
+public slots:
+    void stopHere(int, QString)
+    {
+        reached.release();
+        goOn.acquire();
+        done = true;
+    }
+    void shutDown(int, QString) { USSDLogic::Destroy(); }
+    void sendAndCount(int component, QString text)
+    {
+        sendMore(component, text);
+        commands = fakeSdkCommands().size();
+    }
+    void clearAndSendTwice(int, QString)
+    {
+        for (int i = 0; i < 2; ++i) {
+            USSDLogic::ClearQueuedCmds();
+            sendMore(0, QString());
+        }
+    }
+    void sendMore(int, QString)
+    {
+        int status = 0;
+        USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
+            USSDCmdOrResp(COMPONENT_BALANCE, QStringLiteral("*2#")), &status);
+    }
+};
+
+inline LogicListener::Answer answer(int component, const QString &text)
+{
+    return LogicListener::Answer(component, text);
+}
+
+/** Tests how USSDLogic queues, sends and answers commands. */
+class PipelineTest : public PluginTest
+{
+    Q_OBJECT
+
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+protected:
+    int send(int component, const QString &command);
+    LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
+    QList<LogicListener::Answer> &answers() { return m_listener->answers; }
+    void setTimes(int reply, int previous);
+    /// Stops the clock, which then advances by letTimePass() only.
+    void stopClock();
+    void letTimePass(int milliseconds);
+    /// Waits until `part` was logged `times` times, which shows the progress of a thread.
+    bool waitUntilLogged(const char *part, int times);
+    /// Returns whether a command is sent without a wait for an earlier time-out.
+    bool sendsWithoutWaiting();
+    /// Returns whether a command is sent only after the wait for an earlier time-out.
+    bool sendWaitsItsTime();
+    /// Returns the log texts of a function of USSDLogic, in order.
+    QStringList linesOf(const char *function);
+    static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
+
+    ReplyTimes m_shippedTimes;
+    USSDLogic *m_logic = nullptr;
+    QScopedPointer<LogicListener> m_listener;
+    int m_status = 0;
+};
+
+#endif

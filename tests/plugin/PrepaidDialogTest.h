@@ -1,0 +1,48 @@
+#ifndef PREPAIDDIALOGTEST_H
+#define PREPAIDDIALOGTEST_H
+
+#include "PrepaidTest.h"
+
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+#include "fake_tksv.h"
+#include "Languages.h"
+
+const char PIN[] = "123456789012";
+
+inline QString pin()
+{
+    return QLatin1String(PIN);
+}
+
+/// Returns the functions of the USSD service that were called, in order.
+inline QStringList ussdCalls()
+{
+    QStringList names;
+    for (const FakeCall &call : fakeSdkCalls()) {
+        const QString name = QString::fromStdString(call.function);
+        if (name == QLatin1String("TKSV_USSDSrv_Release") ||
+            name == QLatin1String("TKSV_USSDSrv_Request"))
+            names << name.mid(int(strlen("TKSV_USSDSrv_")));
+    }
+    return names;
+}
+
+/**
+ * Tests the commands of the account window, the moments at which it sends them, and its reactions
+ * to answers.
+ */
+class PrepaidDialogTest : public PrepaidTest
+{
+    Q_OBJECT
+
+protected:
+    void configureCharge(const QByteArray &charge);
+    void refuseAll(int status);
+    void sendFrom(int component);
+    Account only(const QByteArray &charge); ///< an account that shows only the top-up
+};
+
+#endif
