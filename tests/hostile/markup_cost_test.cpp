@@ -4,8 +4,8 @@
 #include <QTextFrame>
 #include <QTextTable>
 
-#include "markup/HeavyText.h"
 #include "markup/MarkupCost.h"
+#include "markup/SlowText.h"
 #include "markup/TranscriptView.h"
 #include "PluginConfig.h"
 
@@ -189,7 +189,7 @@ void MarkupCostTest::heavyTexts_data()
 void MarkupCostTest::heavyTexts()
 {
     QFETCH(QString, text);
-    QTEST(HeavyText::isHeavy(text), "heavy");
+    QTEST(SlowText::isHeavy(text), "heavy");
 }
 
 void MarkupCostTest::piecesAreTheText_data()
@@ -209,10 +209,10 @@ void MarkupCostTest::piecesAreTheText_data()
 void MarkupCostTest::piecesAreTheText()
 {
     QFETCH(QString, text);
-    const QStringList pieces = HeavyText::pieces(text);
+    const QStringList pieces = SlowText::pieces(text);
     QCOMPARE(pieces.join(QString()), text);
     for (const QString &piece : pieces) {
-        QVERIFY(!piece.isEmpty() && !HeavyText::isHeavy(piece));
+        QVERIFY(!piece.isEmpty() && !SlowText::isHeavy(piece));
         QVERIFY(piece == pieces.last() || !piece.at(piece.length() - 1).isHighSurrogate());
     }
 }

@@ -10,8 +10,9 @@
  * a style sheet is matched against each tag. A reply of 182 characters can therefore block a window
  * for hours.
  *
- * The figures are counted in the text, not in the parsed document, and are never too low. MarkupTag
- * decides what is treated as a tag; HeavyText handles text that is slow even without markup.
+ * The figures are counted in the text, not in the parsed document, and are never too low.
+ * MarkupEscaping decides what is treated as a tag; SlowText handles text that is slow even without
+ * markup.
  */
 struct MarkupCost {
     int tags = 0;

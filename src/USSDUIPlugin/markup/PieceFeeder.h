@@ -12,7 +12,7 @@ class QTextEdit;
 /**
  * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive.
  * Each iteration of the event loop inserts one piece as a separate paragraph. AccountReplyView and
- * TranscriptView pass the pieces of a heavy text (see HeavyText) to it. The feeder is a child of
+ * TranscriptView pass the pieces of a heavy text (see SlowText) to it. The feeder is a child of
  * the text edit. Must be used on the GUI thread.
  */
 class PieceFeeder : public QObject

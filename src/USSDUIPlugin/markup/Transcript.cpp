@@ -1,9 +1,9 @@
 #include "Transcript.h"
 
-#include "HeavyText.h"
-#include "MarkupTag.h"
+#include "MarkupEscaping.h"
 #include "PluginConfig.h"
 #include "QtCompat.h"
+#include "SlowText.h"
 
 using namespace Formats;
 
@@ -78,12 +78,12 @@ namespace Transcript
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text)
 {
-    const QString content = MarkupTag::withOthersAsLetters(text);
+    const QString content = MarkupEscaping::withOthersAsLetters(text);
     Entry result;
     result.markup = paragraph(direction, look, rightToLeft, caption + content);
     result.isPlain = isPlain(caption + content);
     result.mayReachOn = mayReachOn(caption, content);
-    result.isHeavy = HeavyText::isHeavy(text);
+    result.isHeavy = SlowText::isHeavy(text);
     result.cost = markupCost(text);
     result.letters = result.markup;
     result.lettersMayReachOn = mayReachOn(caption, QString());

@@ -6,8 +6,8 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
-#include "HeavyText.h"
 #include "PieceFeeder.h"
+#include "SlowText.h"
 
 namespace
 {
@@ -98,7 +98,7 @@ void TranscriptView::insertPieces(const Transcript::Entry &entry)
     sample.setHtml(Transcript::document(entry.sample));
     const QTextBlock block = sample.begin();
     const QTextCharFormat letters = block.begin().fragment().charFormat();
-    const QStringList pieces = HeavyText::pieces(entry.words);
+    const QStringList pieces = SlowText::pieces(entry.words);
     for (int i = 0; i < pieces.count(); ++i)
         m_feeder->add(pieces.at(i), block.blockFormat(), letters);
 }

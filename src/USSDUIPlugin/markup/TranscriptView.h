@@ -17,7 +17,7 @@ class PieceFeeder;
  *
  * Two kinds of entries are shown in a simpler form, so that the window stays responsive. An entry
  * whose markup is too expensive (see MarkupCost) is shown as plain text. A heavy text (see
- * HeavyText), which no network can send, is added in pieces by PieceFeeder, each as a separate
+ * SlowText), which no network can send, is added in pieces by PieceFeeder, each as a separate
  * paragraph.
  */
 class TranscriptView : public QTextEdit

@@ -9,8 +9,8 @@
 #include <QTextDocumentFragment>
 
 #include "base/PluginText.h"
-#include "markup/HeavyText.h"
 #include "markup/PieceFeeder.h"
+#include "markup/SlowText.h"
 #include "ServiceReplyLabel.h"
 
 namespace
@@ -76,11 +76,11 @@ void AccountReplyView::showText(const QString &text)
 void AccountReplyView::setReply(const QString &text)
 {
     m_feeder->drop();
-    if (!HeavyText::isHeavy(text)) {
+    if (!SlowText::isHeavy(text)) {
         setPlainText(text);
         return;
     }
-    const QStringList pieces = HeavyText::pieces(text);
+    const QStringList pieces = SlowText::pieces(text);
     setPlainText(pieces.first());
     for (int i = 1; i < pieces.count(); ++i)
         m_feeder->add(pieces.at(i), QTextBlockFormat(), QTextCharFormat());

@@ -6,7 +6,7 @@
 #include <QPlainTextEdit>
 
 #include "base/PluginText.h"
-#include "markup/HeavyText.h"
+#include "markup/SlowText.h"
 
 namespace
 {
@@ -44,7 +44,7 @@ QPlainTextEdit *createView(QWidget *parent, const QString &text)
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     view->setFixedSize(VIEW_WIDTH, VIEW_HEIGHT);
     view->setPlainText(
-        HeavyText::isHeavy(text) ? HeavyText::pieces(text).join(QString(QLatin1Char('\n'))) : text);
+        SlowText::isHeavy(text) ? SlowText::pieces(text).join(QString(QLatin1Char('\n'))) : text);
     return view;
 }
 

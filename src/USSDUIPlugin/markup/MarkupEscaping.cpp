@@ -1,4 +1,4 @@
-#include "MarkupTag.h"
+#include "MarkupEscaping.h"
 
 #include <algorithm>
 #include <iterator>
@@ -97,7 +97,7 @@ bool beginsTag(const QString &text, int bracket)
 
 } // namespace
 
-namespace MarkupTag
+namespace MarkupEscaping
 {
 
 QString withOthersAsLetters(const QString &text)
@@ -113,4 +113,4 @@ QString withOthersAsLetters(const QString &text)
     return result;
 }
 
-} // namespace MarkupTag
+} // namespace MarkupEscaping

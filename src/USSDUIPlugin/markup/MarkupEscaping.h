@@ -1,5 +1,5 @@
-#ifndef MARKUPTAG_H
-#define MARKUPTAG_H
+#ifndef MARKUPESCAPING_H
+#define MARKUPESCAPING_H
 
 #include <QString>
 
@@ -9,13 +9,13 @@
  * escapes each such "<" before it builds an entry. MarkupCost estimates how expensive the real tags
  * are.
  */
-namespace MarkupTag
+namespace MarkupEscaping
 {
 
 /// Returns `text` with each "<" escaped that does not start a complete tag known to Qt. A tag whose
 /// name is written with entities or in quotes is not recognised and is also escaped.
 QString withOthersAsLetters(const QString &text);
 
-} // namespace MarkupTag
+} // namespace MarkupEscaping
 
 #endif

@@ -1,4 +1,4 @@
-#include "HeavyText.h"
+#include "SlowText.h"
 
 namespace
 {
@@ -35,7 +35,7 @@ int endOfPiece(const QString &text, int begin)
 
 } // namespace
 
-namespace HeavyText
+namespace SlowText
 {
 
 bool isHeavy(const QString &text)
@@ -61,4 +61,4 @@ QStringList pieces(const QString &text)
     return pieces;
 }
 
-} // namespace HeavyText
+} // namespace SlowText

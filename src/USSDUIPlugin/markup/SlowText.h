@@ -1,5 +1,5 @@
-#ifndef HEAVYTEXT_H
-#define HEAVYTEXT_H
+#ifndef SLOWTEXT_H
+#define SLOWTEXT_H
 
 #include <QString>
 #include <QStringList>
@@ -10,10 +10,10 @@
  * with the square of the number of changes from one script to another.
  *
  * Transcript, AccountReplyView and ReplyMessageBox call isHeavy(), and PieceFeeder adds the pieces
- * to a text edit one by one. HeavyText considers only plain text; MarkupCost estimates the cost of
+ * to a text edit one by one. SlowText considers only plain text; MarkupCost estimates the cost of
  * markup.
  */
-namespace HeavyText
+namespace SlowText
 {
 
 /// Returns true if laying out `text` as one paragraph would block the window for more than a
@@ -23,6 +23,6 @@ bool isHeavy(const QString &text);
 /// Splits `text` into pieces that are not heavy, at blanks where possible.
 QStringList pieces(const QString &text);
 
-} // namespace HeavyText
+} // namespace SlowText
 
 #endif
