@@ -17,7 +17,7 @@
 
 const int NO_PATIENCE = 60000; // ms; a limit that no test reaches
 
-std::atomic<qint64> now(0);
+inline std::atomic<qint64> now{0};
 
 inline qint64 stoppedClock()
 {

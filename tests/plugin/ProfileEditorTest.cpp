@@ -25,12 +25,6 @@ void ProfileEditorTest::tearDown()
     m_mainWindow.reset();
 }
 
-template <typename Widget>
-Widget *ProfileEditorTest::find(const char *name)
-{
-    return m_mainWindow->findChild<Widget *>(QString::fromLatin1(name));
-}
-
 void ProfileEditorTest::openEditor()
 {
     m_editor.reset(new USSDEditCmd);

@@ -89,4 +89,10 @@ protected:
     int m_messages = 0;
 };
 
+template <typename Widget>
+Widget *ProfileEditorTest::find(const char *name)
+{
+    return m_mainWindow->findChild<Widget *>(QString::fromLatin1(name));
+}
+
 #endif
