@@ -28,6 +28,7 @@ private slots:
     void hostMayShutDownWhileTheEditorIsOpen_data();
     void hostMayShutDownWhileTheEditorIsOpen();
     void hostMayShutDownWhileTheQuestionIsOpen();
+    void hostMayShutDownWhileTheDuplicateMessageIsOpen_data() { waysToLeave(); }
     void hostMayShutDownWhileTheDuplicateMessageIsOpen();
     void hostMayShutDownBeforeTheDuplicateMessageOpens();
 };

@@ -10,6 +10,7 @@ private slots:
     void doubleClickOnAnEmptyRowOpensAnEditor();
     void codeOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
     void nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty();
+    void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft_data() { waysToLeave(); }
     void duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft();
     void messageOfADuplicateOpensOutsideTheDelegate();
     void nameThatIsTheCodeOfAnotherRowIsNoDuplicate();
