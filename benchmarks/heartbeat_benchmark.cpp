@@ -129,9 +129,9 @@ int main(int argc, char **argv)
         const char *what;
         QString reply;
     } replies[] = {
-        {"words", repeated(QLatin1String("twelve letters "))},
+        {"English text", repeated(QLatin1String("twelve letters "))},
         {"one word", QString(CHARACTERS, QLatin1Char('x'))},
-        {"Arabic letters", QString(CHARACTERS, QChar(0x0628))},
+        {"Arabic text", QString(CHARACTERS, QChar(0x0628))},
         {"two alternating scripts", repeated(QString(QLatin1Char('a')) + QChar(0x0628))},
         {"combining accents on one letter", QString(CHARACTERS, QChar(0x0301))},
         {"right-to-left overrides", QString(CHARACTERS, QChar(0x202E))},

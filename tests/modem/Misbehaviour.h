@@ -34,8 +34,8 @@ class Misbehaviours
 public:
     void add(const Misbehaviour &misbehaviour) { m_list.push_back(misbehaviour); }
     void clear() { m_list.clear(); }
-    /// Returns whether the line is to go wrong. If so, counts one occurrence of the fault and
-    /// stores the fault in `found`.
+    /// Returns whether a fault applies to the line. If so, stores the fault in `found` and reduces
+    /// the number of its remaining occurrences by one.
     bool take(const std::string &line, Misbehaviour &found);
 
 private:

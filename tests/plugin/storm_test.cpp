@@ -88,8 +88,7 @@ void StormTest::setUp()
     allowWarning("../../src/USSDUIPlugin/");
     const ReplyTimes times = {60000, 0};
     USSDLogic::setReplyTimes(times);
-    // This configuration prevents answers after which a window sends a command by itself or asks
-    // the user.
+    // With this configuration, no answer makes a window send a command by itself or ask the user.
     writeConfig(completeConfig()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
                     .replace("<ReturnStyle>1", "<ReturnStyle>0"));

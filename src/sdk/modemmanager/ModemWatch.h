@@ -28,8 +28,8 @@ enum class ServiceState { Looking, NoBus, NoService, Running };
 class ModemWatch
 {
 public:
-    /// Called on the thread after each change to the service's state, to the list of modems, or to
-    /// the interfaces of a modem.
+    /// Called on the D-Bus thread after each change to the service's state, to the list of modems,
+    /// or to the interfaces of a modem.
     using Changed = std::function<void()>;
 
     explicit ModemWatch(Changed changed);
@@ -49,9 +49,9 @@ public:
 
     MainLoopThread &thread() { return m_thread; }
     /// Returns the modem with that identifier, or null. An empty identifier selects the first
-    /// modem. May only be called on the thread.
+    /// modem. May only be called on the D-Bus thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
-    /// Returns the modem with that D-Bus path, or null. May only be called on the thread.
+    /// Returns the modem with that D-Bus path, or null. May only be called on the D-Bus thread.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
@@ -70,7 +70,7 @@ private:
     const Cancellable m_cancellable; // for the calls that stop() must not wait for
     bool m_started = false;          // used by start() only, whose calls never overlap
 
-    // The following members are used on the thread only.
+    // The following members are used only on the D-Bus thread.
     GObjectPtr<GDBusConnection> m_bus;
     GObjectPtr<MMManager> m_manager;
     bool m_isConnecting = false;

@@ -80,8 +80,8 @@ void SmsSender::sent(Id id, MMSms *sms, const GError *error)
     m_listener.finished(message, SMS_SENT);
 }
 
-/// Deletes the stored message, whether it was sent or not, since the SIM has little storage. If the
-/// modem does not delete the message, it stays there.
+/// Deletes the stored message, whether it was sent or not, because the SIM has little storage.
+/// Errors are ignored. The message then remains in the storage.
 void SmsSender::remove(MMSms *sms)
 {
     if (!m_messaging)
