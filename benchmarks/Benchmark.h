@@ -27,9 +27,9 @@ struct Title {
     double limit;
     std::string unit;
 
-    Title(const std::string &what_, const std::string &baseline_, double limit_,
-          const char *unit_ = MICROSECONDS)
-        : what(what_), baseline(baseline_), limit(limit_), unit(unit_)
+    Title(const std::string &measured, const std::string &against, double bound,
+          const char *in = MICROSECONDS)
+        : what(measured), baseline(against), limit(bound), unit(in)
     {
     }
 };

@@ -100,6 +100,7 @@ private:
 pid_t spawn(const std::vector<std::string> &command)
 {
     std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string &argument : command)
         arguments.push_back(const_cast<char *>(argument.c_str()));
     arguments.push_back(nullptr);
@@ -153,7 +154,7 @@ bool waitForRegistration()
 
 const std::string WHAT = std::string("command through plug-in, SDK and ModemManager, ") + LOG;
 
-void compareWithLibrary(Pipeline &pipeline, modem::MmClient &bare, const char *code,
+void compareWithLibrary(Pipeline &pipeline, FakeModems::MmClient &bare, const char *code,
                         const std::string &what)
 {
     Benchmark::compare(
@@ -167,7 +168,7 @@ void compareWithLibrary(Pipeline &pipeline, modem::MmClient &bare, const char *c
         });
 }
 
-void compareRoundTrips(modem::MmClient &bare)
+void compareRoundTrips(FakeModems::MmClient &bare)
 {
     Pipeline pipeline;
     compareWithLibrary(pipeline, bare, CODE, WHAT);
@@ -263,7 +264,7 @@ void compareIdling()
 int main(int argc, char **argv)
 {
     Benchmark::stayOnCore(0);
-    modem::ModemWorld world;
+    FakeModems::ModemWorld world;
     const std::string problem = world.start();
     if (!problem.empty())
         fail(problem);
@@ -274,7 +275,7 @@ int main(int argc, char **argv)
     Benchmark::dropMessages();
     if (!waitForRegistration())
         fail("the modem does not register");
-    modem::MmClient bare(world.busAddress());
+    FakeModems::MmClient bare(world.busAddress());
     if (!bare.use(world.stateOf("one").object))
         fail("bare libmm-glib has no modem");
     compareRoundTrips(bare);

@@ -28,7 +28,7 @@ public:
     }
 
 private:
-    const std::chrono::milliseconds PATIENCE{1000};
+    static constexpr std::chrono::milliseconds PATIENCE{1000};
     std::mutex m_mutex;
     std::condition_variable m_complete;
     int m_missing;

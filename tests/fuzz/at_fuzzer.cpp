@@ -22,51 +22,52 @@ bool isText(const std::string &text)
 
 void checkHex(const std::string &raw)
 {
-    const modem::Bytes bytes(raw.begin(), raw.end());
-    const auto back = modem::fromHex(modem::toHex(bytes));
+    const FakeModems::Bytes bytes(raw.begin(), raw.end());
+    const auto back = FakeModems::fromHex(FakeModems::toHex(bytes));
     FUZZ_REQUIRE(back && *back == bytes);
-    const auto read = modem::fromHex(raw);
+    const auto read = FakeModems::fromHex(raw);
     FUZZ_REQUIRE(!read || read->size() * 2 == raw.size());
 }
 
 /// Checks that arbitrary bytes are converted to text, and that a text survives conversion to UCS2.
 void checkCharsets(const std::string &raw)
 {
-    const modem::Bytes bytes(raw.begin(), raw.end());
-    const std::string text = modem::fromUcs2(bytes);
+    const FakeModems::Bytes bytes(raw.begin(), raw.end());
+    const std::string text = FakeModems::fromUcs2(bytes);
     FUZZ_REQUIRE(isText(text));
-    const std::string coded = modem::encodeText(text, modem::Charset::Ucs2);
+    const std::string coded = FakeModems::encodeText(text, FakeModems::Charset::Ucs2);
     if (text.find('\0') == std::string::npos)
-        FUZZ_REQUIRE(modem::decodeText(coded, modem::Charset::Ucs2) == text);
-    for (const modem::Charset charset : {modem::Charset::Gsm, modem::Charset::Ira}) {
-        const std::string once = modem::encodeText(text, charset);
-        FUZZ_REQUIRE(modem::encodeText(text, charset) == once);
+        FUZZ_REQUIRE(FakeModems::decodeText(coded, FakeModems::Charset::Ucs2) == text);
+    for (const FakeModems::Charset charset : {FakeModems::Charset::Gsm, FakeModems::Charset::Ira}) {
+        const std::string once = FakeModems::encodeText(text, charset);
+        FUZZ_REQUIRE(FakeModems::encodeText(text, charset) == once);
     }
-    for (const modem::Charset charset :
-         {modem::Charset::Ucs2, modem::Charset::Gsm, modem::Charset::Ira})
-        FUZZ_REQUIRE(isText(modem::decodeText(modem::toHex(bytes), charset)) ||
-                     charset == modem::Charset::Ira);
+    for (const FakeModems::Charset charset :
+         {FakeModems::Charset::Ucs2, FakeModems::Charset::Gsm, FakeModems::Charset::Ira})
+        FUZZ_REQUIRE(isText(FakeModems::decodeText(FakeModems::toHex(bytes), charset)) ||
+                     charset == FakeModems::Charset::Ira);
 }
 
 void checkSeptets(const std::string &raw)
 {
-    const modem::Bytes packed(raw.begin(), raw.end());
+    const FakeModems::Bytes packed(raw.begin(), raw.end());
     const std::size_t skipped = packed.empty() ? 0 : packed[0] % 7;
     const std::size_t count = (packed.size() * 8 - std::min(packed.size() * 8, skipped)) / 7;
-    const modem::Bytes septets = modem::unpackSeptets(packed, count, skipped);
+    const FakeModems::Bytes septets = FakeModems::unpackSeptets(packed, count, skipped);
     FUZZ_REQUIRE(septets.size() == count);
     for (const unsigned char septet : septets)
         FUZZ_REQUIRE(septet < 128);
-    const std::string text = modem::fromSeptets(septets);
+    const std::string text = FakeModems::fromSeptets(septets);
     FUZZ_REQUIRE(isText(text));
 }
 
 void checkMessage(const std::string &raw)
 {
-    for (const std::string &pdu : {raw, modem::toHex(modem::Bytes(raw.begin(), raw.end()))}) {
+    for (const std::string &pdu :
+         {raw, FakeModems::toHex(FakeModems::Bytes(raw.begin(), raw.end()))}) {
         const std::size_t smsc = raw.empty() ? 0 : static_cast<unsigned char>(raw[0]);
         const std::size_t octets = pdu.size() / 2;
-        const auto message = modem::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
+        const auto message = FakeModems::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
         FUZZ_REQUIRE(!message || isText(message->number));
         FUZZ_REQUIRE(!message || message->text.size() <=
                                      2 * raw.size()); // twice the size if all are euro signs
@@ -75,7 +76,7 @@ void checkMessage(const std::string &raw)
 
 void checkLine(const std::string &line)
 {
-    const modem::AtCommand command = modem::parseAtCommand(line);
+    const FakeModems::AtCommand command = FakeModems::parseAtCommand(line);
     FUZZ_REQUIRE(command.value(command.values.size()).empty());
     FUZZ_REQUIRE(command.name.size() <= line.size());
 }

@@ -1,6 +1,6 @@
 #include "AtCommand.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -77,4 +77,4 @@ AtAnswer messageError(int code)
     return AtAnswer{{}, "+CMS ERROR: " + std::to_string(code)};
 }
 
-} // namespace modem
+} // namespace FakeModems

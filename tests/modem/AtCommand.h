@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace modem
+namespace FakeModems
 {
 
 /** A parsed AT command line (3GPP TS 27.007, chapter 4). */
@@ -38,6 +38,6 @@ AtAnswer equipmentError(int code);
 /// The error codes are listed in 3GPP TS 27.005, 3.2.5.
 AtAnswer messageError(int code);
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

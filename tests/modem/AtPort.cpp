@@ -7,7 +7,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -170,4 +170,4 @@ void AtPort::send(const char *bytes, std::size_t size)
     }
 }
 
-} // namespace modem
+} // namespace FakeModems

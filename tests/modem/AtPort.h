@@ -5,7 +5,7 @@
 #include <glib-unix.h>
 #include <string>
 
-namespace modem
+namespace FakeModems
 {
 
 /**
@@ -58,6 +58,6 @@ private:
     guint m_writerSource = 0;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -49,4 +49,4 @@ void send(GDBusConnection *connection, const Method &method, GVariant *arguments
                            G_DBUS_CALL_FLAGS_NO_AUTO_START, CALL_LIMIT, nullptr, nullptr, nullptr);
 }
 
-} // namespace modem
+} // namespace FakeModems

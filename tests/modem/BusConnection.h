@@ -7,7 +7,7 @@
 
 /* The few D-Bus calls that the modem tests need. */
 
-namespace modem
+namespace FakeModems
 {
 
 struct VariantDeleter {
@@ -39,6 +39,6 @@ Reply call(GDBusConnection *connection, const Method &method, GVariant *argument
 /// Sends the call without waiting for its result.
 void send(GDBusConnection *connection, const Method &method, GVariant *arguments);
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

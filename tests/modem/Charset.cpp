@@ -4,7 +4,7 @@
 
 #include "base/Text.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -216,4 +216,4 @@ Bytes unpackSeptets(const Bytes &packed, std::size_t count, std::size_t skippedB
     return septets;
 }
 
-} // namespace modem
+} // namespace FakeModems

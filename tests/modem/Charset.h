@@ -9,7 +9,7 @@
  * The text encodings of 3GPP TS 27.007 (+CSCS) and 3GPP TS 23.038. The tests themselves use UTF-8.
  */
 
-namespace modem
+namespace FakeModems
 {
 
 using Bytes = std::vector<unsigned char>;
@@ -40,6 +40,6 @@ std::optional<Bytes> toSeptets(const std::string &text);
 /// Unpacks `count` septets, starting `skippedBits` bits into the packed bytes.
 Bytes unpackSeptets(const Bytes &packed, std::size_t count, std::size_t skippedBits);
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

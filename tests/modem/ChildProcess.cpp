@@ -12,7 +12,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -128,4 +128,4 @@ void ChildProcess::reap()
     ::close(std::exchange(m_handle, -1));
 }
 
-} // namespace modem
+} // namespace FakeModems

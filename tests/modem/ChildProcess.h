@@ -6,7 +6,7 @@
 #include <sys/types.h>
 #include <vector>
 
-namespace modem
+namespace FakeModems
 {
 
 /**
@@ -44,6 +44,6 @@ private:
     int m_handle = -1; // becomes readable when the process has ended
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

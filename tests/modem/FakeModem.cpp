@@ -6,7 +6,7 @@
 
 #include "ModemCore.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -176,4 +176,4 @@ void FakeModem::forgetReceived()
     m_submitted.clear();
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -14,7 +14,7 @@
 #include "sim/Scenario.h"
 #include "SmsPdu.h"
 
-namespace modem
+namespace FakeModems
 {
 
 class ModemCore;
@@ -99,6 +99,6 @@ private:
     std::unique_ptr<ModemCore> m_core; // used on the modem's thread only
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

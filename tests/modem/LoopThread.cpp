@@ -4,7 +4,7 @@
 #include <pthread.h>
 #include <utility>
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -90,4 +90,4 @@ void LoopThread::call(const Action &action)
     done.get_future().wait();
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -7,7 +7,7 @@
 #include <mutex>
 #include <thread>
 
-namespace modem
+namespace FakeModems
 {
 
 /** A thread with its own main context, which is the thread-default one. */
@@ -45,6 +45,6 @@ private:
     std::thread m_thread;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

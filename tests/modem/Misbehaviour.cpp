@@ -1,6 +1,6 @@
 #include "Misbehaviour.h"
 
-namespace modem
+namespace FakeModems
 {
 
 bool Misbehaviours::take(const std::string &line, Misbehaviour &found)
@@ -24,4 +24,4 @@ std::string garbled(std::string line)
     return line;
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace modem
+namespace FakeModems
 {
 
 enum class Fault {
@@ -45,6 +45,6 @@ private:
 /// Garbles the line after its name and colon, so that the daemon still recognises the kind of line.
 std::string garbled(std::string line);
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

@@ -5,7 +5,7 @@
 
 #include "BusConnection.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -223,4 +223,4 @@ int MmClient::signalPercent()
         mm_modem_get_signal_quality(own(mm_object_get_modem(m_object)).get(), &recent));
 }
 
-} // namespace modem
+} // namespace FakeModems

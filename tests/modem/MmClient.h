@@ -5,7 +5,7 @@
 #include <libmm-glib.h>
 #include <string>
 
-namespace modem
+namespace FakeModems
 {
 
 /**
@@ -65,6 +65,6 @@ private:
     std::string m_path;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

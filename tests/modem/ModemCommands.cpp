@@ -10,7 +10,7 @@
 
 #include "base/Text.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -358,4 +358,4 @@ AtAnswer ModemCore::readSms(const AtCommand &command)
     return AtAnswer{{"+CMGR: 0,," + std::to_string(length), found->second}, "OK"};
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -4,7 +4,7 @@
 
 #include "base/Text.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -284,4 +284,4 @@ void ModemCore::sayHeldReplies()
         say(line);
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -17,7 +17,7 @@
 #include "SimCard.h"
 #include "SmsPdu.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /** The notifications of a modem. All functions are called on the modem's thread. */
@@ -128,6 +128,6 @@ private:
     std::map<int, std::string> m_storedSms;               // PDUs by index
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

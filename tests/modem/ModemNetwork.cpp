@@ -22,10 +22,10 @@ TKSV_DeviceInfo deviceInfo()
 
 /// Creates the world before the SDK library is used for the first time, so that it is destroyed
 /// after the library has stopped.
-modem::ModemWorld &world()
+FakeModems::ModemWorld &world()
 {
-    static const std::unique_ptr<modem::ModemWorld> instance = [] {
-        auto made = std::make_unique<modem::ModemWorld>();
+    static const std::unique_ptr<FakeModems::ModemWorld> instance = [] {
+        auto made = std::make_unique<FakeModems::ModemWorld>();
         const std::string complaint = made->start();
         if (!complaint.empty()) {
             std::fprintf(stderr, "%s\n", complaint.c_str());
@@ -70,12 +70,13 @@ std::string useNetwork(const std::string &scenario)
     const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");
     if (!result.scenario)
         return Tksv::describe(result.complaints);
-    modem::ModemWorld &here = world();
+    FakeModems::ModemWorld &here = world();
     if (here.hasModem(MODEM_ID))
         here.unplug(MODEM_ID);
     if (!waitUntil([] { return deviceInfo().state == TKSV_DEVICE_ABSENT; }))
         return unlessReady("gone");
-    here.addModem(MODEM_ID, scenario, modem::ModemSettings(), modem::FakeModem::Clock::Stopped);
+    here.addModem(MODEM_ID, scenario, FakeModems::ModemSettings(),
+                  FakeModems::FakeModem::Clock::Stopped);
     if (!waitUntil([&] { return isReady(*result.scenario); }))
         return unlessReady("ready");
     here.modem(MODEM_ID).startClock();

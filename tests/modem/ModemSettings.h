@@ -7,7 +7,7 @@
 #include "Charset.h"
 #include "SimCard.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /**
@@ -39,6 +39,6 @@ enum class PlugChange {
     Changed
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

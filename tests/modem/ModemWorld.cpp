@@ -8,7 +8,7 @@
 
 #include "sim/ScenarioReader.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -395,4 +395,4 @@ bool ModemWorld::waitUntil(const std::function<bool()> &condition)
     return true;
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -14,7 +14,7 @@
 #include "PolkitStub.h"
 #include "PrivateBus.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /** The state of a modem as the daemon reports it. */
@@ -118,6 +118,6 @@ private:
     LoopThread m_thread{"modem-world"};
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

@@ -4,7 +4,7 @@
 
 #include "base/CodeForm.h"
 
-namespace modem
+namespace FakeModems
 {
 
 NetworkLink::NetworkLink(LoopThread &thread, Tksv::Scenario scenario, NetworkNews news)
@@ -101,4 +101,4 @@ void NetworkLink::deliver(const Tksv::UssdReply &reply)
     m_news.ussd(reply);
 }
 
-} // namespace modem
+} // namespace FakeModems

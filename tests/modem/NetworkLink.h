@@ -10,7 +10,7 @@
 #include "sim/Scenario.h"
 #include "sim/SimulatedNetwork.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /** The notifications of the network. All functions are called on the modem's thread. */
@@ -63,6 +63,6 @@ private:
     Tksv::SimulatedNetwork m_network;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

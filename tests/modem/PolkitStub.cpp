@@ -2,7 +2,7 @@
 
 #include "BusConnection.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -67,4 +67,4 @@ void PolkitStub::answer(GDBusMethodInvocation *invocation)
         invocation, g_variant_new("((bba{ss}))", m_allowed ? TRUE : FALSE, FALSE, nullptr));
 }
 
-} // namespace modem
+} // namespace FakeModems

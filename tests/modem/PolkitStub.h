@@ -7,7 +7,7 @@
 
 #include "LoopThread.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /**
@@ -37,6 +37,6 @@ private:
     LoopThread m_thread{"polkit-stub"};
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

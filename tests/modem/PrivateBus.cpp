@@ -5,7 +5,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -64,4 +64,4 @@ void PrivateBus::stop()
     m_process.stop(STOP_LIMIT);
 }
 
-} // namespace modem
+} // namespace FakeModems

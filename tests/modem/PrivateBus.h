@@ -5,7 +5,7 @@
 
 #include "ChildProcess.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /** A message bus in a directory, which allows everything to everybody. It ends with the object. */
@@ -24,6 +24,6 @@ private:
     ChildProcess m_process;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

@@ -5,7 +5,7 @@
 
 #include "Charset.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -162,4 +162,4 @@ AtAnswer SimCard::raw(const AtCommand &command)
     return equipmentError(NotAllowed);
 }
 
-} // namespace modem
+} // namespace FakeModems

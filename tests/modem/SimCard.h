@@ -5,7 +5,7 @@
 
 #include "AtCommand.h"
 
-namespace modem
+namespace FakeModems
 {
 
 /** The data on the SIM card. */
@@ -51,6 +51,6 @@ private:
     int m_pukTries = 10;
 };
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

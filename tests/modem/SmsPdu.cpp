@@ -2,7 +2,7 @@
 
 #include "Charset.h"
 
-namespace modem
+namespace FakeModems
 {
 
 namespace
@@ -157,4 +157,4 @@ std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t len
     return sms;
 }
 
-} // namespace modem
+} // namespace FakeModems

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace modem
+namespace FakeModems
 {
 
 /** A submitted short message, or one part of a long one (SMS-SUBMIT, 3GPP TS 23.040). */
@@ -21,6 +21,6 @@ struct SubmittedSms {
 /// the PDU is malformed or has another length.
 std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t length);
 
-} // namespace modem
+} // namespace FakeModems
 
 #endif

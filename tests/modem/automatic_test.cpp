@@ -13,7 +13,7 @@
 #include "UssdTest.h"
 
 using namespace SdkFixture;
-using modem::ModemWorld;
+using FakeModems::ModemWorld;
 
 namespace
 {

@@ -13,11 +13,11 @@
 #include "UssdTest.h"
 
 using namespace SdkFixture;
-using modem::FakeModem;
-using modem::Fault;
-using modem::Misbehaviour;
-using modem::ModemSettings;
-using modem::ModemWorld;
+using FakeModems::FakeModem;
+using FakeModems::Fault;
+using FakeModems::Misbehaviour;
+using FakeModems::ModemSettings;
+using FakeModems::ModemWorld;
 
 namespace
 {
@@ -310,7 +310,7 @@ void ModemDeviceTest::outcomesHaveTheirTypes()
 void ModemDeviceTest::whatTheCharsetLacksFails()
 {
     ModemSettings settings;
-    settings.charsets = {modem::Charset::Ira};
+    settings.charsets = {FakeModems::Charset::Ira};
     useModem(settings);
     QCOMPARE(ask(u"*120#").type, 1);
     QCOMPARE(ask(u"€").type, 2);
@@ -367,7 +367,7 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 {
     useModem();
     const OnlyDashboard dashboard;
-    modem::MmClient observer(m_world->busAddress());
+    FakeModems::MmClient observer(m_world->busAddress());
     QVERIFY(observer.use(m_world->stateOf("one").object));
     QCOMPARE(request(u"*133#"), 0L);
     QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
@@ -381,7 +381,7 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 void ModemDeviceTest::aSessionThatAnotherClientLeftIsEnded()
 {
     useModem();
-    modem::MmClient other(m_world->busAddress());
+    FakeModems::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
     other.initiate("*133#", 50); // times out and leaves the daemon waiting
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
@@ -515,7 +515,7 @@ void ModemDeviceTest::aMenuLeftOpenIsFoundAgain()
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     const OnlyDashboard dashboard;
     TKSV_Device_UseScenario(nullptr, nullptr, 0);
-    modem::MmClient before(m_world->busAddress());
+    FakeModems::MmClient before(m_world->busAddress());
     QVERIFY(before.use(m_world->stateOf("one").object));
     QCOMPARE(before.initiate("*120#").text, std::string("Menu"));
     TKSV_Device_UseModem(nullptr);
@@ -545,7 +545,7 @@ void ModemDeviceTest::messagesTellTheirOutcome()
 void ModemDeviceTest::messagesAreDeletedFromTheModem()
 {
     useModem();
-    modem::MmClient client(m_world->busAddress());
+    FakeModems::MmClient client(m_world->busAddress());
     QVERIFY(client.use(m_world->stateOf("one").object));
     QCOMPARE(sendSms(u"1200", u"sent"), 0L);
     QCOMPARE(sendSms(u"28", u"refused"), 0L);
@@ -571,7 +571,7 @@ void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
     QVERIFY(received().smsResults.waitFor(2));
     QCOMPARE(received().smsResults.all()[1].result, 0);
     QCOMPARE(fake().submitted().size(), std::size_t(1));
-    modem::MmClient client(m_world->busAddress());
+    FakeModems::MmClient client(m_world->busAddress());
     QVERIFY(client.use(m_world->stateOf("one").object));
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
     QCOMPARE(received().smsResults.all().size(), std::size_t(2));
@@ -644,7 +644,7 @@ void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
     QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
     QCOMPARE(TKSV_Device_SendPin("0000"), 0L);
     QVERIFY(waitForProblem(TKSV_PROBLEM_WRONG_PIN));
-    modem::MmClient other(m_world->busAddress());
+    FakeModems::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
     QCOMPARE(other.sendPin("4711"), std::string());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
@@ -675,7 +675,7 @@ void ModemDeviceTest::aModemWithoutUssdIsSaid()
 {
     startWorld();
     addModem("one");
-    fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, modem::ALWAYS});
+    fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, FakeModems::ALWAYS});
     m_world->unplug("one");
     m_world->plugIn("one");
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));

@@ -13,9 +13,9 @@
 
 using namespace Dashboard;
 
-using modem::Fault;
-using modem::Misbehaviour;
-using modem::SubmittedSms;
+using FakeModems::Fault;
+using FakeModems::Misbehaviour;
+using FakeModems::SubmittedSms;
 
 namespace
 {
@@ -120,7 +120,7 @@ protected:
     void tearDownClass() override;
 
 private:
-    modem::FakeModem &fake() { return m_world->modem("one"); }
+    FakeModems::FakeModem &fake() { return m_world->modem("one"); }
     bool waitForRegistration();
     void openPage();
     QString ask(const QString &command);
@@ -130,17 +130,17 @@ private:
     QPushButton *openService(int row);
     bool sendWhenReady(QPushButton *button);
 
-    QScopedPointer<modem::ModemWorld> m_world;
+    QScopedPointer<FakeModems::ModemWorld> m_world;
 };
 
 /* ---- set-up ------------------------------------------------------------------------------ */
 
 void EndToEndTest::setUpClass()
 {
-    m_world.reset(new modem::ModemWorld);
+    m_world.reset(new FakeModems::ModemWorld);
     QCOMPARE(m_world->start(), std::string());
     QCOMPARE(m_world->addModem("one", NETWORK), std::string());
-    QVERIFY(!m_world->waitForState("one", modem::STATE_DISABLED).empty());
+    QVERIFY(!m_world->waitForState("one", FakeModems::STATE_DISABLED).empty());
 }
 
 void EndToEndTest::tearDownClass()

@@ -39,9 +39,9 @@ std::string readFile(const char *path)
     return content.str();
 }
 
-modem::ModemSettings settingsOf(int number)
+FakeModems::ModemSettings settingsOf(int number)
 {
-    modem::ModemSettings settings;
+    FakeModems::ModemSettings settings;
     settings.model = "Fake " + std::to_string(number);
     settings.imei = "35000000000001" + std::to_string(number % 10);
     return settings;
@@ -52,7 +52,7 @@ modem::ModemSettings settingsOf(int number)
 int main(int count, char **arguments)
 {
     const sigset_t endSignals = blockEndSignals();
-    modem::ModemWorld world;
+    FakeModems::ModemWorld world;
     const std::string complaint = count < 2 ? "usage: fake_modem SCENARIO..." : world.start();
     if (!complaint.empty())
         return complain(complaint);

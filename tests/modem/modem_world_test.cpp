@@ -7,7 +7,7 @@
 #include "ModemWorld.h"
 #include "UssdTest.h"
 
-using namespace modem;
+using namespace FakeModems;
 
 namespace
 {

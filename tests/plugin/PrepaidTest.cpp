@@ -199,7 +199,7 @@ QString PrepaidTest::networkSaysIntoBox(const QString &text,
     networkSays(text);
     if (!messageBox())
         return QString();
-    const QString shown = textOf(messageBox());
+    QString shown = textOf(messageBox());
     if (look)
         look(messageBox());
     closeMessageBox();

@@ -12,7 +12,7 @@ namespace OddFiles
 
 /// Adds a row for each kind; to be called in the data function. One kind is a file that is a byte
 /// too large.
-void addColumns(qint64 mostBytes = 8 * 1024 * 1024);
+void addColumns(qint64 mostBytes = qint64(8) * 1024 * 1024);
 /// Replaces the file at `path` by the kind of the row; to be called in the test function. Returns
 /// the expected error message.
 QString make(const QString &path);
