@@ -10,6 +10,7 @@ struct TKSV_SMSRecordData {
 
 namespace
 {
+const std::chrono::milliseconds STARTING_LINE_PATIENCE(1000);
 const std::chrono::milliseconds BEFORE_RETURN_PATIENCE(500);
 
 // Releases several threads at the same moment.
@@ -24,11 +25,10 @@ public:
         if (--m_missing == 0)
             m_complete.notify_all();
         // A thread may be missing because a service that is being stopped has refused its job.
-        m_complete.wait_for(lock, PATIENCE, [this] { return m_missing <= 0; });
+        m_complete.wait_for(lock, STARTING_LINE_PATIENCE, [this] { return m_missing <= 0; });
     }
 
 private:
-    static constexpr std::chrono::milliseconds PATIENCE{1000};
     std::mutex m_mutex;
     std::condition_variable m_complete;
     int m_missing;
