@@ -16,6 +16,9 @@ struct Arguments {
     QString tourFolder;
     QString scenario;
     QString modem; // equipment identifier
+    bool demo = false; // use the default simulated network
+    bool enable = false;            // of --send: enable the modem
+    bool endForeignSession = false; // of --send: end the session of another program
     QString logFile;
     QString language;
     bool verbose = false;

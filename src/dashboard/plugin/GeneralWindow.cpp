@@ -48,6 +48,9 @@ GeneralWindow::GeneralWindow(const QWidget *root)
     m_clearButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_ClearButton");
     m_closeButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_CloseButton");
     m_history = named<QTextEdit>(root, "USSDUIPlugin_AdvancedDialog_History");
+    m_presetButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_PreButton");
+    m_numberEdit = named<QLineEdit>(root, "USSDUIPlugin_AdvancedDialog_PaymentEdit");
+    m_numberLabel = named<QLabel>(root, "USSDUIPlugin_AdvancedDialog_InfoNumLabel");
 }
 
 GeneralWindow GeneralWindow::framed()
@@ -65,6 +68,15 @@ GeneralWindow GeneralWindow::framed()
 bool GeneralWindow::isComplete() const
 {
     return m_commandEdit && m_sendButton && m_history;
+}
+
+// The plug-in shows the field even if its configuration contains no codes.
+void GeneralWindow::hideUnusedNumberField() const
+{
+    if (m_presetButton || !m_numberEdit || !m_numberLabel)
+        return;
+    m_numberEdit->hide();
+    m_numberLabel->hide();
 }
 
 bool GeneralWindow::isWaiting() const

@@ -1,6 +1,7 @@
 #ifndef GENERALWINDOW_H
 #define GENERALWINDOW_H
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -37,6 +38,9 @@ public:
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
+    /// Hides the field for numbers if there is no preset button that uses its content.
+    void hideUnusedNumberField() const;
+
     /// Returns whether the window waits for an answer.
     bool isWaiting() const;
     /// Types the text and presses Send. Returns false if the window does not accept the text.
@@ -54,6 +58,9 @@ private:
     QPointer<QPushButton> m_clearButton;
     QPointer<QPushButton> m_closeButton;
     QPointer<QTextEdit> m_history;
+    QPointer<QPushButton> m_presetButton; // the first of them
+    QPointer<QLineEdit> m_numberEdit;
+    QPointer<QLabel> m_numberLabel;
 };
 
 } // namespace Dashboard

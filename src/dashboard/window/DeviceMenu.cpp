@@ -75,7 +75,9 @@ void DeviceMenu::addScenarios()
         files << m_choice.name;
     for (const QString &file : files) {
         if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
-            addChoice(asMenuText(Scenarios::displayName(file)), DeviceChoice::simulated(file));
+            addChoice(dashboardText("NETWORK_DEMONSTRATION")
+                          .arg(asMenuText(Scenarios::displayName(file))),
+                      DeviceChoice::simulated(file));
     }
 }
 
