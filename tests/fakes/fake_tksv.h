@@ -152,6 +152,10 @@ FAKE_API void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info);
 /// Sets what TKSV_Device_GetModems returns, and calls the info call-back.
 FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 
+/// Sets what TKSV_Device_GetLastFailure returns. The fake SDK itself sets it only in
+/// TKSV_Device_CancelRequest.
+FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
+
 /// Sends a message on the network's initiative, on the device's thread. The message is lost when no
 /// call-back is registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,

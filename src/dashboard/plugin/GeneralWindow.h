@@ -34,6 +34,7 @@ public:
     bool isComplete() const;
     QLineEdit *commandEdit() const { return m_commandEdit; }
     QPushButton *sendButton() const { return m_sendButton; }
+    QTextEdit *history() const { return m_history; }
     /// The following two buttons are null if the plug-in's configuration omits them.
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }

@@ -20,6 +20,8 @@ public:
     /// Returns whether a frame of the plug-in is open, or the command that the user typed is
     /// pending.
     static bool isBusy();
+    /// Returns true while a command that the user typed into a general window is pending.
+    static bool isCommandPending();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -22,8 +22,9 @@ const int LIST_HEIGHT = 180; // pixels; a longer list can be scrolled
 
 OperatorDialog::OperatorDialog(const QString &network, const QList<Provider> &candidates,
                                const QString &current, const char *noneKey, QWidget *parent)
-    : QDialog(parent), m_network(network), m_candidates(candidates), m_noneKey(noneKey), m_question(new QLabel(this)),
-      m_list(new QListWidget(this)), m_ok(new QPushButton(this)), m_cancel(new QPushButton(this))
+    : QDialog(parent), m_network(network), m_candidates(candidates), m_noneKey(noneKey),
+      m_question(new QLabel(this)), m_list(new QListWidget(this)), m_ok(new QPushButton(this)),
+      m_cancel(new QPushButton(this))
 {
     setObjectName(QLatin1String("Dashboard_OperatorDialog"));
     setWindowFlags(windowFlags() & ~Qt::WindowFlags(Qt::WindowContextHelpButtonHint));

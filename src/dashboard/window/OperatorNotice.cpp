@@ -58,7 +58,8 @@ QString OperatorNotice::stateText() const
         return dashboardText("CODES_PROPOSE_NONE");
     case Done:
         if (m_subject.isEmpty())
-            return dashboardText(m_codes->areSample() ? "CODES_SHIPPED_IN_USE" : "CODES_NONE_IN_USE");
+            return dashboardText(m_codes->areSample() ? "CODES_SHIPPED_IN_USE"
+                                                      : "CODES_NONE_IN_USE");
         return dashboardText("CODES_IN_USE").arg(m_subject);
     case Failed:
         return dashboardText("CODES_FAILED").arg(m_subject, m_problem);
@@ -109,9 +110,9 @@ void OperatorNotice::choose()
         return say("CODES_NO_LIST");
     if (m_dialog)
         return m_dialog->raise();
-    m_dialog = new OperatorDialog(m_codes->network(), m_codes->candidates(),
-                                  m_codes->operatorInUse(),
-                                  m_codes->isSimulated() ? "CODES_SHIPPED" : "CODES_NONE", window());
+    m_dialog =
+        new OperatorDialog(m_codes->network(), m_codes->candidates(), m_codes->operatorInUse(),
+                           m_codes->isSimulated() ? "CODES_SHIPPED" : "CODES_NONE", window());
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_dialog, SIGNAL(accepted()), this, SLOT(onChosen()));
     m_dialog->show();

@@ -13,8 +13,9 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Proposes an operator's codes, once for each home network of a SIM. The user can choose an operator
- * if several are possible or none is known, and can change the decision later with choose().
+ * Proposes an operator's codes, once for each home network of a SIM. The user can choose an
+ * operator if several are possible or none is known, and can change the decision later with
+ * choose().
  */
 class OperatorNotice : public NoticeBar
 {
