@@ -119,7 +119,10 @@ int CommandSender::fail(const QString &shown)
     } else if (failure.reason == TKSV_FAILURE_NONE) {
         failure.reason = isTimeOutText(shown) ? TKSV_FAILURE_NO_ANSWER : TKSV_FAILURE_REFUSED;
     }
-    return complain(failureWords(failure), Cli::exitCodeOf(failure.reason));
+    HostCore::printErrorLine(failureWords(failure));
+    if (failure.reason == TKSV_FAILURE_IN_USE && m_parts.device.status().hasForeignSession)
+        HostCore::printErrorLine(dashboardText("SEND_END_HINT"));
+    return Cli::exitCodeOf(failure.reason);
 }
 
 /// Ends the command on the device. Waits for the empty response, after which the device accepts the
