@@ -1,6 +1,7 @@
 #include "GeneralWindow.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputMethodEvent>
 #include <QTextBlock>
 
@@ -71,12 +72,30 @@ bool GeneralWindow::isComplete() const
 }
 
 // The plug-in shows the field even if its configuration contains no codes.
-void GeneralWindow::hideUnusedNumberField() const
+void GeneralWindow::hideUnusedPresets() const
 {
     if (m_presetButton || !m_numberEdit || !m_numberLabel)
         return;
     m_numberEdit->hide();
     m_numberLabel->hide();
+    widenHistory();
+}
+
+void GeneralWindow::widenHistory() const
+{
+    QGridLayout *grid = m_history && m_history->parentWidget()
+                            ? qobject_cast<QGridLayout *>(m_history->parentWidget()->layout())
+                            : nullptr;
+    const int index = grid ? grid->indexOf(m_history) : -1;
+    if (index < 0)
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(index, &row, &column, &rows, &columns);
+    for (int i = 0; i < columns - 1; ++i) // the last column contains the Send button
+        grid->setColumnStretch(column + i, 1);
 }
 
 bool GeneralWindow::isWaiting() const

@@ -39,8 +39,9 @@ public:
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
-    /// Hides the field for numbers if there is no preset button that uses its content.
-    void hideUnusedNumberField() const;
+    /// If there are no preset buttons, hides the field for their numbers and gives the space of
+    /// both to the transcript.
+    void hideUnusedPresets() const;
 
     /// Returns whether the window waits for an answer.
     bool isWaiting() const;
@@ -54,6 +55,8 @@ public:
     QString lastReceived() const;
 
 private:
+    void widenHistory() const;
+
     QPointer<QLineEdit> m_commandEdit;
     QPointer<QPushButton> m_sendButton;
     QPointer<QPushButton> m_clearButton;

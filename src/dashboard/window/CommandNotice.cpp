@@ -15,10 +15,11 @@ CommandNotice::CommandNotice(const DeviceWatcher *device, QWidget *parent)
       m_cancelButton(addButton("Dashboard_CancelCommand"))
 {
     setFrameShape(QFrame::NoFrame);
+    setCompact();
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
-    setMinimumHeight(sizeHint().height() + m_cancelButton->sizeHint().height());
+    setMinimumHeight(m_cancelButton->sizeHint().height());
     connect(m_cancelButton, &QPushButton::clicked, this, &CommandNotice::cancel);
     connect(device, &DeviceWatcher::changed, this, &CommandNotice::update);
 }
@@ -27,6 +28,12 @@ void CommandNotice::look()
 {
     m_isPending = UserActivity::isCommandPending();
     m_failure = m_isPending ? TKSV_FailureInfo() : lastFailure();
+    update();
+}
+
+void CommandNotice::forget()
+{
+    m_failure = TKSV_FailureInfo();
     update();
 }
 

@@ -24,6 +24,8 @@ public:
 public slots:
     /// Must be called when a command was sent or has ended.
     void look();
+    /// Removes the failure, which belongs to a device or page that is no longer in use.
+    void forget();
     /// Updates the texts after a change of the device or the language.
     void update();
 

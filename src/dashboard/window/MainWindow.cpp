@@ -166,6 +166,10 @@ void MainWindow::makeCentre()
 {
     QWidget *centre = new QWidget(this);
     QVBoxLayout *column = new QVBoxLayout(centre);
+    m_demonstration->setCompact();
+    m_demonstration->setAutoFillBackground(true);
+    m_demonstration->setBackgroundRole(QPalette::ToolTipBase);
+    m_demonstration->setForegroundRole(QPalette::ToolTipText);
     column->addWidget(m_demonstration);
     column->addWidget(m_header);
     column->addWidget(m_problems);
@@ -211,6 +215,7 @@ PluginFailure MainWindow::restartPlugin()
 PluginFailure MainWindow::startWith(const PluginFailure &failure)
 {
     m_buttons->setEnabled(m_plugin->isUsable());
+    m_commandNotice->forget();
     if (m_plugin->isUsable())
         m_sim.start();
     else
@@ -249,7 +254,7 @@ void MainWindow::showPage(bool shown)
 /// field.
 void MainWindow::followCommands(const GeneralWindow &general)
 {
-    general.hideUnusedNumberField();
+    general.hideUnusedPresets();
     if (QTextEdit *history = general.history())
         connect(history, &QTextEdit::textChanged, m_commandNotice, &CommandNotice::look,
                 Qt::UniqueConnection);
@@ -372,6 +377,7 @@ bool MainWindow::useDevice(const DeviceChoice &choice)
 void MainWindow::setDevice(const DeviceChoice &choice)
 {
     m_deviceMenu->offer(choice, m_device.modems());
+    m_commandNotice->forget();
     m_device.refresh();
 }
 

@@ -24,6 +24,8 @@ public:
     /// Shows the plain text. An empty text hides the line.
     void setText(const QString &text);
     QString text() const;
+    /// Makes the line as low as its content allows.
+    void setCompact();
     /// Adds a button after the text. The bar owns the button, which is hidden until setButtonText()
     /// gives it a text.
     QPushButton *addButton(const char *objectName);
