@@ -140,6 +140,13 @@ void BackendChoice::useAutomatic()
     replace(decide());
 }
 
+void BackendChoice::lookAgain()
+{
+    const std::lock_guard<std::mutex> lock(m_switchMutex);
+    if (m_initialMode != Mode::Simulator || m_isWatching)
+        startWatch();
+}
+
 /* ---- m_switchMutex is held from here on -------------------------------------------------- */
 
 BackendChoice::Device BackendChoice::decide()

@@ -49,6 +49,8 @@ public:
     void useModem(const std::string &equipmentId);
     /// Switches back to the choice that the program started with.
     void useAutomatic();
+    /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
+    void lookAgain();
     /// Returns the modems that ModemManager has found, the oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 

@@ -78,6 +78,17 @@ void DeviceSdk::release()
         m_session.release(*current);
 }
 
+bool DeviceSdk::cancel()
+{
+    const std::shared_ptr<Backend> current = m_choice.current();
+    return current && m_session.cancel(*current);
+}
+
+bool DeviceSdk::endForeignSession()
+{
+    return m_choice.backend()->endForeignSession();
+}
+
 void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
 {
     m_ussdEvents.add(keyOf(callback), handlerOf(callback));
@@ -171,6 +182,11 @@ void DeviceSdk::deliverUntakenTexts(TKSV_NetworkTextCallback callback, void *con
 bool DeviceSdk::sendPin(const std::string &pin)
 {
     return m_choice.backend()->sendPin(pin);
+}
+
+bool DeviceSdk::enable()
+{
+    return m_choice.backend()->enable();
 }
 
 /* ---- events of the backend, on its thread ------------------------------------------------ */

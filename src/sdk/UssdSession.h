@@ -6,6 +6,7 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "base/Backend.h"
@@ -43,6 +44,14 @@ public:
     int request(Backend &backend, const std::string &text);
     /// Ends the session and cancels the request in flight, which then receives no reply.
     void release(Backend &backend);
+    /// Ends the request in flight, which then receives an empty reply. Returns false if there is no
+    /// request in flight.
+    bool cancel(Backend &backend);
+    /// Records why a request failed that did not reach the backend.
+    void recordRefusal(TKSV_Failure reason);
+    /// Returns how the newest request failed. In the call-back of a reply, returns how the request
+    /// of this reply failed.
+    Failure lastFailure() const;
 
     /// Delivers the backend's reply to a request. A late reply is dropped.
     void handleReply(RequestToken token, const UssdReply &reply);
@@ -58,7 +67,10 @@ private:
     enum class State { Idle, InFlight, WaitsForAnswer };
 
     void post(const UssdReply &reply, std::function<bool()> beforeDelivery);
-    bool acceptReply(RequestToken token, int type);
+    void postReply(RequestToken token, const UssdReply &reply);
+    void recordFailure(const Failure &failure);
+    bool acceptReply(RequestToken token, const UssdReply &reply);
+    void delivered(const UntakenText &text, bool taken);
     bool acceptText(const UssdReply &text);
     void keepUnlessTaken(const UntakenText &text, bool taken);
     void becomeIdle();
@@ -72,6 +84,10 @@ private:
     RequestToken m_lastToken = 0;
     std::vector<UssdReply> m_heldTexts; // texts that wait for the end of the session
     std::deque<UntakenText> m_untaken;
+    Failure m_failure; // how the newest request failed
+    // While the call-back of a reply runs, its thread sees the failure of this reply.
+    std::thread::id m_deliveryThread;
+    Failure m_deliveredFailure;
 };
 
 } // namespace Tksv

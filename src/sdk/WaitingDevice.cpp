@@ -16,13 +16,13 @@ void WaitingDevice::stop()
     m_request.reset();
 }
 
-int WaitingDevice::request(RequestToken token, RequestKind kind, const std::string &text)
+RequestResult WaitingDevice::request(RequestToken token, RequestKind kind, const std::string &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_device)
         return m_device->request(token, kind, text);
     m_request = Request{token, kind, text};
-    return RequestAccepted;
+    return {};
 }
 
 void WaitingDevice::endSession()
@@ -59,16 +59,16 @@ DeviceInfo WaitingDevice::info() const
 void WaitingDevice::handOver(const std::shared_ptr<Backend> &device)
 {
     std::optional<Request> kept;
-    int status = RequestAccepted;
+    RequestResult result;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_device = device;
         kept = std::exchange(m_request, std::nullopt);
         if (kept)
-            status = device->request(kept->token, kept->kind, kept->text);
+            result = device->request(kept->token, kept->kind, kept->text);
     }
-    if (status != RequestAccepted)
-        m_observer->ussdReply(kept->token, UssdReply{UssdEndedByNetwork, std::string()});
+    if (result.status != RequestAccepted)
+        m_observer->ussdReply(kept->token, failedReply(Failure{result.refusal, true}));
 }
 
 } // namespace Tksv

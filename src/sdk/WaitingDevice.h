@@ -20,10 +20,12 @@ class WaitingDevice : public Backend
 public:
     void start(BackendObserver &observer) override;
     void stop() override;
-    int request(RequestToken token, RequestKind kind, const std::string &text) override;
+    RequestResult request(RequestToken token, RequestKind kind, const std::string &text) override;
     void endSession() override;
+    bool endForeignSession() override { return false; }
     bool sendSms(const SmsMessage &message) override;
     bool sendPin(const std::string &pin) override;
+    bool enable() override { return false; }
     DeviceInfo info() const override;
 
     /// Passes the kept request and all later calls to the device. If the device refuses the kept

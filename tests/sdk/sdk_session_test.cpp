@@ -24,15 +24,17 @@ class RecordingBackend : public Backend
 public:
     void start(BackendObserver &) override {}
     void stop() override {}
-    int request(RequestToken token, RequestKind kind, const std::string &text) override
+    RequestResult request(RequestToken token, RequestKind kind, const std::string &text) override
     {
         if (status == RequestAccepted)
             requests.push_back({token, kind, text});
-        return status;
+        return {status, refusal};
     }
     void endSession() override { ++ended; }
+    bool endForeignSession() override { return false; }
     bool sendSms(const SmsMessage &) override { return false; }
     bool sendPin(const std::string &) override { return false; }
+    bool enable() override { return false; }
     DeviceInfo info() const override { return DeviceInfo(); }
 
     struct Seen {
@@ -43,6 +45,7 @@ public:
     std::vector<Seen> requests;
     int ended = 0;
     int status = RequestAccepted;
+    TKSV_Failure refusal = TKSV_FAILURE_NONE;
 };
 
 /** A service with one listener that records the texts and accepts them or not. */

@@ -91,7 +91,7 @@ void ModemDevice::modemChanged()
     if (!m_modem)
         return;
     const MMModemState now = mm_modem_get_state(m_modem.get());
-    if (now == MM_MODEM_STATE_DISABLED)
+    if (now == MM_MODEM_STATE_DISABLED && !std::exchange(m_enableTried, true))
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
         m_problem = TKSV_PROBLEM_NONE; // the modem has left the state with the problem
@@ -99,12 +99,8 @@ void ModemDevice::modemChanged()
     m_listener.changed();
 }
 
-/// Enables the modem. This is done only once, because a user who disables the modem later does so
-/// on purpose.
 void ModemDevice::enable()
 {
-    if (std::exchange(m_enableTried, true))
-        return;
     const auto done = [this](GObject *modem, GAsyncResult *result) {
         ErrorSlot error;
         mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());

@@ -42,6 +42,8 @@ public:
     SmsSender &sms() { return *m_sms; }
     /// Sends the PIN at once, or as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
+    /// Enables the modem.
+    void enable();
     /// Reports the request in flight and the messages that are being sent as failed.
     void failPending();
 
@@ -49,7 +51,6 @@ private:
     template <typename T>
     T *peek(const char *name, T *(*peekInterface)(MMObject *)) const;
     void modemChanged();
-    void enable();
     void fetchSim();
     void sendPendingPin();
     void setProblem(TKSV_DeviceProblem problem);

@@ -16,9 +16,21 @@ bool canEndAtCommand(unsigned char unit)
     return unit < 0x20 || unit == 0x7f || unit == '"';
 }
 
+/// Returns the reason why the device sends no commands, or TKSV_FAILURE_NONE if it sends them.
+TKSV_Failure refusalOf(const DeviceInfo &info)
+{
+    return info.problem == TKSV_PROBLEM_NO_USSD ? TKSV_FAILURE_NOT_SUPPORTED
+                                                : Tksv::refusalOf(info.state);
+}
+
 bool takesCommands(const DeviceInfo &info)
 {
-    return info.state == TKSV_DEVICE_REGISTERED && info.problem != TKSV_PROBLEM_NO_USSD;
+    return refusalOf(info) == TKSV_FAILURE_NONE;
+}
+
+UssdReply refusedReply(TKSV_Failure reason)
+{
+    return failedReply(Failure{reason, true});
 }
 
 } // namespace
@@ -61,20 +73,28 @@ void ModemManagerBackend::stop()
     });
 }
 
-int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std::string &text)
+RequestResult ModemManagerBackend::request(RequestToken token, RequestKind kind,
+                                           const std::string &text)
 {
     if (!isSafeForModem(text))
-        return RequestMalformed;
+        return {RequestMalformed, TKSV_FAILURE_NOT_ENCODABLE};
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stopped || (m_isInfoKnown && !takesCommands(m_info)))
-        return RequestNoDevice;
+    if (m_stopped)
+        return {RequestNoDevice, TKSV_FAILURE_NO_DEVICE};
+    if (m_isInfoKnown && !takesCommands(m_info))
+        return {RequestNoDevice, refusalOf(m_info)};
     post([this, token, kind, text, lostModemCount = m_lostModemCount] {
         if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
             return m_device->ussd().request(token, kind, text);
         if (m_observer) // null if the modem was lost in the meantime or was never there
-            m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
+            m_observer->ussdReply(token, refusedReply(refusalOf(m_info)));
     });
-    return RequestAccepted;
+    return {};
+}
+
+bool ModemManagerBackend::endForeignSession()
+{
+    return false;
 }
 
 void ModemManagerBackend::endSession()
@@ -109,6 +129,18 @@ bool ModemManagerBackend::sendPin(const std::string &pin)
     post([this, pin, lostModemCount = m_lostModemCount] {
         if (m_device && lostModemCount == m_lostModemCount)
             m_device->sendPin(pin);
+    });
+    return true;
+}
+
+bool ModemManagerBackend::enable()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_info.state != TKSV_DEVICE_DISABLED)
+        return false;
+    post([this, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
+            m_device->enable();
     });
     return true;
 }

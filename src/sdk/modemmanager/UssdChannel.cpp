@@ -98,7 +98,7 @@ void UssdChannel::failPending()
     const std::optional<Request> request = m_next || isEnding ? m_next : m_running;
     endSession();
     if (request)
-        m_listener.replied(request->token, UssdReply{UssdEndedByNetwork, std::string()});
+        m_listener.replied(request->token, failedReply(Failure{TKSV_FAILURE_ENDED_BY_NETWORK}));
 }
 
 /* ---- calls ------------------------------------------------------------------------------- */
@@ -156,7 +156,7 @@ void UssdChannel::callFailed(const Request &request, const GError &error)
     const bool retry = verdict.failure == UssdFailure::SessionOpen && !request.isRetry &&
                        request.kind == RequestKind::NewSession;
     if (!retry)
-        return finish(UssdReply{verdict.type, std::string()});
+        return finish(failedReply(Failure{verdict.reason}));
     m_running.reset();
     m_next = request;
     m_next->isRetry = true;
@@ -291,7 +291,7 @@ void UssdChannel::finish(const UssdReply &reply)
     if (isStateOfQuestion)
         reported.type = UssdFinal;
     if (reported.text.empty() && reported.type == UssdFinal)
-        reported.type = UssdEndedByNetwork; // a reply without a text is a refusal
+        reported = failedReply(Failure{TKSV_FAILURE_EMPTY_REPLY});
     m_listener.replied(request.token, reported);
     if (isStateOfQuestion)
         reportQuestion();

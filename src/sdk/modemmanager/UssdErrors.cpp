@@ -21,11 +21,11 @@ bool isCoreError(const GError &error, MMCoreError code)
 
 /// Returns the type of a reply whose <m> of +CUSD the daemon does not handle. The daemon writes <m>
 /// into the text of the error, as in "...: 5 (5)".
-int unhandledType(const GError &error)
+TKSV_Failure unhandledReason(const GError &error)
 {
     const bool timeout =
         std::strstr(error.message, "Unhandled USSD reply") && std::strstr(error.message, "(5)");
-    return timeout ? UssdNetworkTimeout : UssdEndedByNetwork;
+    return timeout ? TKSV_FAILURE_NETWORK_TIMEOUT : TKSV_FAILURE_ENDED_BY_NETWORK;
 }
 
 bool isServiceLost(const GError &error)
@@ -44,15 +44,15 @@ bool isServiceLost(const GError &error)
 UssdVerdict classifyUssdError(const GError &error)
 {
     if (isNotPermitted(error))
-        return {UssdFailure::NotPermitted, UssdEndedByNetwork};
+        return {UssdFailure::NotPermitted, TKSV_FAILURE_ENDED_BY_NETWORK};
     if (isServiceLost(error))
-        return {UssdFailure::ServiceLost, UssdEndedByNetwork};
+        return {UssdFailure::ServiceLost, TKSV_FAILURE_ENDED_BY_NETWORK};
     if (isCoreError(error, MM_CORE_ERROR_WRONG_STATE) ||
         isCoreError(error, MM_CORE_ERROR_IN_PROGRESS))
-        return {UssdFailure::SessionOpen, UssdEndedByNetwork};
+        return {UssdFailure::SessionOpen, TKSV_FAILURE_ENDED_BY_NETWORK};
     if (hasCode(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED))
-        return {UssdFailure::Replied, UssdNotSupported};
-    return {UssdFailure::Replied, unhandledType(error)};
+        return {UssdFailure::Replied, TKSV_FAILURE_NOT_SUPPORTED};
+    return {UssdFailure::Replied, unhandledReason(error)};
 }
 
 bool isNotPermitted(const GError &error)

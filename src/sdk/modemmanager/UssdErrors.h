@@ -20,7 +20,7 @@ enum class UssdFailure {
 
 struct UssdVerdict {
     UssdFailure failure = UssdFailure::Replied;
-    int type = UssdEndedByNetwork;
+    TKSV_Failure reason = TKSV_FAILURE_ENDED_BY_NETWORK;
 };
 
 UssdVerdict classifyUssdError(const GError &error);
