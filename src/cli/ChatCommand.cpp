@@ -18,7 +18,8 @@ class Chat
 {
 public:
     explicit Chat(Program &program)
-        : m_program(program), m_conversation(program.waits(), program.options().timeout),
+        : m_program(program),
+          m_conversation(program.device(), program.waits(), program.options().timeout),
           m_texts(program.waits()), m_reader(program.waits()), m_hasPrompt(isatty(STDIN_FILENO))
     {
     }
@@ -88,10 +89,10 @@ void Chat::showPrompt()
 int chat(Program &program)
 {
     const auto &words = program.options().words;
-    const int result = program.prepareDevice(words.empty() ? std::string() : words.front());
-    if (result == EXIT_DONE)
-        Chat(program).run();
-    return result;
+    if (!program.prepareDevice())
+        return program.failOnDevice(words.empty() ? std::string() : words.front());
+    Chat(program).run();
+    return EXIT_DONE;
 }
 
 } // namespace Cli

@@ -1,5 +1,6 @@
 #include "Conversation.h"
 
+#include <algorithm>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -15,6 +16,10 @@ namespace
 /// The time that a request may take to end on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
+/// The time that a request is waited for without following the device. Most networks take longer,
+/// but the first reply of a fast one arrives sooner without a thread for the changes of the device.
+const Milliseconds QUICK_REPLY(100);
+
 /** Passes the response from the thread of the library to the main thread. */
 class Mailbox
 {
@@ -27,10 +32,15 @@ public:
         m_isExpected = true;
         m_response.reset();
     }
+    /// Drops the expected response, which will not arrive.
     void expectNothing()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_isExpected = false;
+    }
+    void closeMenu()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
         m_isMenuOpen = false;
     }
     /// Returns false if no response is expected.
@@ -81,6 +91,11 @@ Mailbox &mailbox()
     return *only;
 }
 
+bool hasResponse()
+{
+    return mailbox().hasResponse();
+}
+
 TKSV_FailureInfo lastFailure(TKSV_Failure otherwise)
 {
     TKSV_FailureInfo failure = {};
@@ -123,7 +138,8 @@ TKSV_FailureInfo notSent(TKSV_Failure reason)
     return failure;
 }
 
-Conversation::Conversation(Waits &waits, Milliseconds timeout) : m_waits(waits), m_timeout(timeout)
+Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
+    : m_device(device), m_waits(waits), m_timeout(timeout)
 {
     TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
     TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);
@@ -144,7 +160,7 @@ Outcome Conversation::send(const std::string &text)
     Outcome outcome;
     mailbox().expect(&m_waits);
     if (TKSV_USSDSrv_Request(&request, &status) == 0) {
-        outcome = await();
+        outcome = await(start);
     } else {
         mailbox().expectNothing();
         outcome.failure = lastFailure(TKSV_FAILURE_NO_DEVICE);
@@ -156,29 +172,33 @@ Outcome Conversation::send(const std::string &text)
 
 /// Waits for the response. A request that has waited for its turn then has the complete time for
 /// its reply.
-Outcome Conversation::await()
+Outcome Conversation::await(Clock::time_point start)
 {
-    bool isAwaiting = false;
-    bool hasNewPhase = true;
-    while (hasNewPhase && !mailbox().hasResponse()) {
-        m_waits.until([&] { return mailbox().hasResponse() || isAwaitingTurn() != isAwaiting; },
-                      Clock::now() + m_timeout);
-        hasNewPhase = isAwaitingTurn() != isAwaiting;
-        isAwaiting = isAwaiting != hasNewPhase;
-        if (hasNewPhase && isAwaiting && m_turnAwaited)
+    Clock::time_point end = start + m_timeout;
+    if (!m_waits.until(hasResponse, std::min(end, start + QUICK_REPLY)))
+        m_device.follow();
+    bool isAwaitingTurn = false;
+    const auto isTurnChanged = [&] {
+        return (m_device.info().waitsForTurn != 0) != isAwaitingTurn;
+    };
+    while (m_waits.until([&] { return hasResponse() || isTurnChanged(); }, end) && !hasResponse()) {
+        isAwaitingTurn = !isAwaitingTurn;
+        end = Clock::now() + m_timeout;
+        if (isAwaitingTurn && m_turnAwaited)
             m_turnAwaited();
     }
-    return mailbox().hasResponse() ? mailbox().take() : giveUp(isAwaiting);
+    return hasResponse() ? mailbox().take() : giveUp(isAwaitingTurn);
 }
 
 /// Ends the request on the device. A reply that arrives at the same time still counts.
 Outcome Conversation::giveUp(bool wasAwaitingTurn)
 {
     TKSV_Device_CancelRequest();
-    m_waits.untilDespiteSignal([] { return mailbox().hasResponse(); }, CANCEL_LIMIT);
-    if (!mailbox().hasResponse()) {
+    m_waits.untilDespiteSignal(hasResponse, CANCEL_LIMIT);
+    if (!hasResponse()) {
         TKSV_USSDSrv_Release(nullptr);
         mailbox().expectNothing();
+        mailbox().closeMenu();
         Outcome silence;
         silence.failure.reason = TKSV_FAILURE_NO_ANSWER;
         return silence;
@@ -189,18 +209,12 @@ Outcome Conversation::giveUp(bool wasAwaitingTurn)
     return outcome;
 }
 
-bool Conversation::isAwaitingTurn()
-{
-    TKSV_DeviceInfo info;
-    return TKSV_Device_GetInfo(&info) == 0 && info.waitsForTurn;
-}
-
 void Conversation::end()
 {
     if (!mailbox().isMenuOpen())
         return;
     TKSV_USSDSrv_Release(nullptr);
-    mailbox().expectNothing();
+    mailbox().closeMenu();
 }
 
 bool Conversation::isMenuOpen() const

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "Device.h"
 #include "tksv_device.h"
 #include "Waits.h"
 
@@ -31,8 +32,8 @@ TKSV_FailureInfo notSent(TKSV_Failure reason);
 class Conversation
 {
 public:
-    /// `waits` must outlive the object. Each reply may take `timeout`.
-    Conversation(Waits &waits, Milliseconds timeout);
+    /// `device` and `waits` must outlive the object. Each reply may take `timeout`.
+    Conversation(Device &device, Waits &waits, Milliseconds timeout);
     /// Ends an open session.
     ~Conversation();
     Conversation(const Conversation &) = delete;
@@ -49,10 +50,10 @@ public:
     bool isMenuOpen() const;
 
 private:
-    Outcome await();
+    Outcome await(Clock::time_point start);
     Outcome giveUp(bool wasAwaitingTurn);
-    bool isAwaitingTurn();
 
+    Device &m_device;
     Waits &m_waits;
     const Milliseconds m_timeout;
     std::function<void()> m_turnAwaited;

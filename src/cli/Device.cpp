@@ -1,5 +1,7 @@
 #include "Device.h"
 
+#include <utility>
+
 namespace Cli
 {
 
@@ -33,14 +35,20 @@ bool isReady(const TKSV_DeviceInfo &device)
 
 Device::~Device()
 {
-    if (m_isSelected)
+    if (m_isFollowed)
         TKSV_Device_SetInfoCallback(nullptr, nullptr);
+}
+
+/// The call-back is registered only when a wait needs it, because the library starts a thread for
+/// it.
+void Device::follow()
+{
+    if (!std::exchange(m_isFollowed, true))
+        TKSV_Device_SetInfoCallback(wake, &m_waits);
 }
 
 std::string Device::select(const Options &options)
 {
-    TKSV_Device_SetInfoCallback(wake, &m_waits);
-    m_isSelected = true;
     if (!options.modem.empty())
         TKSV_Device_UseModem(options.modem.c_str());
     if (!options.isDemo && options.scenario.empty())
@@ -59,14 +67,20 @@ TKSV_DeviceInfo Device::info() const
     return info;
 }
 
+bool Device::await(const Waits::Condition &condition, Clock::time_point end)
+{
+    follow();
+    return m_waits.until(condition, end);
+}
+
 void Device::awaitModem(Milliseconds limit)
 {
-    m_waits.until([this] { return !info().isLooking; }, Clock::now() + limit);
+    await([this] { return !info().isLooking; }, Clock::now() + limit);
 }
 
 bool Device::awaitReady(Milliseconds limit)
 {
-    m_waits.until([this] { return !mayBecomeReady(info()); }, Clock::now() + limit);
+    await([this] { return !mayBecomeReady(info()); }, Clock::now() + limit);
     return isReady(info());
 }
 
@@ -75,7 +89,7 @@ bool Device::enable(Milliseconds limit)
     const Clock::time_point end = Clock::now() + limit;
     if (!isEnabling(info()) || TKSV_Device_Enable() != 0)
         return isReady(info());
-    m_waits.until(
+    await(
         [this] {
             const TKSV_DeviceInfo now = info();
             return !isEnabling(now) && !mayBecomeReady(now);
@@ -87,7 +101,7 @@ bool Device::enable(Milliseconds limit)
 bool Device::endForeignSession(Milliseconds limit)
 {
     TKSV_Device_EndForeignSession();
-    m_waits.until([this] { return !info().hasForeignSession; }, Clock::now() + limit);
+    await([this] { return !info().hasForeignSession; }, Clock::now() + limit);
     return !info().hasForeignSession;
 }
 

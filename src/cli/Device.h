@@ -27,6 +27,11 @@ public:
     /// Returns true if the network is invented, in whichever way it was selected.
     bool isSimulated() const { return info().backend == TKSV_BACKEND_SIMULATOR; }
 
+    /// Lets each change of the device wake the waits.
+    void follow();
+    /// Waits until the condition is true. Returns false if the time is over or a signal has
+    /// arrived.
+    bool await(const Waits::Condition &condition, Clock::time_point end);
     /// Waits until the library knows the modem, or knows that there is none.
     void awaitModem(Milliseconds limit);
     /// Waits until the modem can send codes. Returns early if the state does not change by itself.
@@ -39,7 +44,7 @@ public:
 
 private:
     Waits &m_waits;
-    bool m_isSelected = false;
+    bool m_isFollowed = false;
 };
 
 /// Returns true if codes can be sent.

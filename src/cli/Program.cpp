@@ -31,6 +31,13 @@ std::string messageOf(const TKSV_FailureInfo &failure)
     return message;
 }
 
+/// Returns true if the state of the device is the reason, so that its text says more.
+bool isDeviceNotReady(TKSV_Failure reason)
+{
+    return reason == TKSV_FAILURE_NO_DEVICE || reason == TKSV_FAILURE_DISABLED ||
+           reason == TKSV_FAILURE_NOT_REGISTERED;
+}
+
 void addModem(Json &object, const TKSV_DeviceInfo &device)
 {
     object.add("modem", device.equipmentId);
@@ -65,18 +72,17 @@ void Program::awaitModem()
     m_device.awaitModem(readyLimit());
 }
 
-int Program::prepareDevice(const std::string &code)
+bool Program::prepareDevice()
 {
-    bool isReady = m_device.awaitReady(readyLimit());
-    if (!isReady && m_options.enablesModem)
-        isReady = m_device.enable(m_options.timeout);
-    if (isReady)
-        return EXIT_DONE;
-    return m_waits.signal() ? EXIT_NOT_READY : failOnDevice(code);
+    if (m_device.awaitReady(readyLimit()))
+        return true;
+    return m_options.enablesModem && m_device.enable(m_options.timeout);
 }
 
 int Program::failOnDevice(const std::string &code)
 {
+    if (m_waits.signal())
+        return EXIT_NOT_READY;
     const TKSV_DeviceInfo device = m_device.info();
     Outcome outcome;
     outcome.failure = notSent(deviceFailure(device));
@@ -92,9 +98,19 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
     return exitCodeOf(reason);
 }
 
+/// Sends the text without looking at the device before, because the library keeps a request until
+/// it knows the modem. A command that was not sent is sent again when the obstacle has gone.
 int Program::send(Conversation &conversation, const std::string &text)
 {
-    const Outcome outcome = request(conversation, text);
+    conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
+    const bool isAnswer = conversation.isMenuOpen();
+    Outcome outcome = conversation.send(text);
+    if (!isAnswer && outcome.failure.wasNotSent) {
+        if (removeObstacle(outcome.failure.reason))
+            outcome = conversation.send(text);
+        else if (isDeviceNotReady(outcome.failure.reason))
+            return failOnDevice(text);
+    }
     if (outcome.hasFailed())
         printFailure(text, outcome, messageOf(outcome.failure));
     else
@@ -102,17 +118,13 @@ int Program::send(Conversation &conversation, const std::string &text)
     return exitCodeOf(outcome.failure.reason);
 }
 
-/// An answer belongs to the session of this program, so no other session can be open.
-Outcome Program::request(Conversation &conversation, const std::string &text)
+/// Returns true if the request may now succeed.
+bool Program::removeObstacle(TKSV_Failure reason)
 {
-    conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
-    const bool endsForeign = m_options.endsForeignSession && !conversation.isMenuOpen();
-    if (endsForeign && m_device.info().hasForeignSession)
-        m_device.endForeignSession(m_options.timeout);
-    const Outcome outcome = conversation.send(text);
-    if (outcome.failure.reason != TKSV_FAILURE_IN_USE || !endsForeign)
-        return outcome;
-    return m_device.endForeignSession(m_options.timeout) ? conversation.send(text) : outcome;
+    if (isDeviceNotReady(reason))
+        return prepareDevice();
+    return reason == TKSV_FAILURE_IN_USE && m_options.endsForeignSession &&
+           m_device.endForeignSession(m_options.timeout);
 }
 
 /// Several replies are separated by an empty line. JSON has one object on each line.

@@ -28,23 +28,24 @@ public:
     /// printed why the device cannot be used.
     bool selectDevice();
     /// Waits until the modem can send codes, and switches it on if the options ask for it. Returns
-    /// EXIT_DONE, or the exit code after the failure of `code` was printed.
-    int prepareDevice(const std::string &code);
+    /// true if it can send codes.
+    bool prepareDevice();
     /// Waits until the library knows the modem, or knows that there is none.
     void awaitModem();
     /// Prints why the device cannot be used, and returns the exit code. `code` is the code that is
-    /// not sent for this reason; it may be empty.
+    /// not sent for this reason; it may be empty. Prints nothing if a signal has arrived.
     int failOnDevice(const std::string &code);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
-    /// Sends a code or an answer, and prints the reply or the failure. Ends the session of another
-    /// program if the options ask for it. Returns the exit code.
+    /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. If
+    /// the modem cannot send codes yet, waits for it. Ends the session of another program if the
+    /// options ask for it.
     int send(Conversation &conversation, const std::string &text);
 
 private:
     Milliseconds readyLimit() const;
-    Outcome request(Conversation &conversation, const std::string &text);
+    bool removeObstacle(TKSV_Failure reason);
     void printReply(const std::string &code, const Outcome &outcome);
     void printFailure(const std::string &code, const Outcome &outcome, const std::string &message);
 

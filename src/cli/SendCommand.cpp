@@ -86,10 +86,7 @@ int send(Program &program)
 {
     const Words &words = program.options().words;
     const bool readsInput = words.front() == "-";
-    const int result = program.prepareDevice(readsInput ? std::string() : words.front());
-    if (result != EXIT_DONE)
-        return result;
-    Conversation conversation(program.waits(), program.options().timeout);
+    Conversation conversation(program.device(), program.waits(), program.options().timeout);
     return readsInput ? sendLines(program, conversation) : sendWords(program, conversation, words);
 }
 

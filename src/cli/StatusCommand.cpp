@@ -67,7 +67,7 @@ int printStatus(Program &program)
 {
     Device &device = program.device();
     program.awaitModem();
-    program.waits().until([&] { return hasDetails(device.info()); }, Clock::now() + DETAIL_LIMIT);
+    device.await([&] { return hasDetails(device.info()); }, Clock::now() + DETAIL_LIMIT);
     if (program.waits().signal())
         return EXIT_NOT_READY;
     const TKSV_DeviceInfo info = device.info();

@@ -41,7 +41,7 @@ void Watch::run()
     while (!m_program.waits().signal() && !m_program.output().hasFailed()) {
         noticeState();
         printTexts();
-        m_program.waits().until(
+        m_program.device().await(
             [this, known = m_state] {
                 return !m_texts.isEmpty() || deviceText(m_program.device().info()) != known;
             },
@@ -81,10 +81,10 @@ void Watch::noticeState()
 
 int watch(Program &program)
 {
-    const int result = program.prepareDevice(std::string());
-    if (result == EXIT_DONE)
-        Watch(program).run();
-    return result;
+    if (!program.prepareDevice())
+        return program.failOnDevice(std::string());
+    Watch(program).run();
+    return EXIT_DONE;
 }
 
 } // namespace Cli
