@@ -53,7 +53,9 @@ DeviceSdk &DeviceSdk::instance()
 DeviceSdk::DeviceSdk()
     : m_ussdEvents("tksv-ussd"), m_deviceEvents("tksv-device"), m_smsEvents("tksv-sms"),
       m_infoEvents("tksv-info"), m_textEvents("tksv-text"),
-      m_session(m_ussdEvents, [this] { m_textEvents.post(Event()); }), m_choice(*this)
+      m_session([this](Event event) { m_ussdEvents.post(std::move(event)); },
+                [this] { m_textEvents.post(Event()); }),
+      m_choice(*this)
 {
 }
 

@@ -13,8 +13,8 @@ namespace
 const std::size_t MAX_UNTAKEN_TEXTS = 20;
 }
 
-UssdSession::UssdSession(EventService &service, std::function<void()> textUntaken)
-    : m_service(service), m_textUntaken(std::move(textUntaken))
+UssdSession::UssdSession(Post post, std::function<void()> textUntaken)
+    : m_post(std::move(post)), m_textUntaken(std::move(textUntaken))
 {
 }
 
@@ -112,7 +112,7 @@ void UssdSession::post(const UssdReply &reply, std::function<bool()> beforeDeliv
     event.beforeDelivery = std::move(beforeDelivery);
     const UntakenText text{std::chrono::system_clock::now(), reply};
     event.afterDelivery = [this, text](bool taken) { delivered(text, taken); };
-    m_service.post(std::move(event));
+    m_post(std::move(event));
 }
 
 bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)

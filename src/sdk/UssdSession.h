@@ -34,8 +34,11 @@ struct UntakenText {
 class UssdSession
 {
 public:
-    /// `textUntaken` is called on the service's thread when takeUntakenTexts() has a new text.
-    UssdSession(EventService &service, std::function<void()> textUntaken);
+    using Post = std::function<void(Event)>;
+
+    /// `post` passes an event to the USSD service. `textUntaken` is called on the service's thread
+    /// when takeUntakenTexts() has a new text.
+    UssdSession(Post post, std::function<void()> textUntaken);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
@@ -76,7 +79,7 @@ private:
     void becomeIdle();
     void postHeldTexts();
 
-    EventService &m_service;
+    const Post m_post;
     const std::function<void()> m_textUntaken;
     mutable std::mutex m_mutex; // guards everything below
     State m_state = State::Idle;
