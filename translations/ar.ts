@@ -994,7 +994,7 @@
     </message>
     <message>
         <source>STATE_DENIED</source>
-        <translation>لا تقبل الشبكة هذه الشريحة.</translation>
+        <translation>لا تقبل الشبكة بطاقة SIM هذه.</translation>
     </message>
     <message>
         <source>STATE_BLOCKED</source>
@@ -1002,7 +1002,7 @@
     </message>
     <message>
         <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>لا تقبل الشبكة هذه الشريحة. اسأل المشغّل هل هي مفعّلة، أو استخدم غيرها.</translation>
+        <translation>لا تقبل الشبكة بطاقة SIM هذه. اسأل المشغّل هل هي مفعّلة، أو استخدم غيرها.</translation>
     </message>
     <message>
         <source>ADVICE_SERVICE_SILENT</source>
@@ -1158,7 +1158,7 @@
     </message>
     <message>
         <source>PAID_DETECT</source>
-        <translation>معرفة هل الشريحة مسبقة الدفع أم آجلة (يُرسل رمزًا)</translation>
+        <translation>معرفة هل بطاقة SIM مسبقة الدفع أم آجلة (يُرسل رمزًا)</translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,8 @@
 #include "window/MainWindow.h"
 #include "window/ProfileKeeper.h"
 
+#include <cstdio>
+
 using namespace Formats;
 
 namespace Dashboard
@@ -51,6 +53,12 @@ int fail(const QString &text, ExitCode code = EXIT_BAD)
 {
     HostCore::printErrorLine(text);
     return code;
+}
+
+int print(const QString &text)
+{
+    HostCore::printLine(text);
+    return ferror(stdout) ? fail(dashboardText("SEND_NOT_WRITTEN"), EXIT_NOT_WRITTEN) : EXIT_GOOD;
 }
 
 bool namesDevice(const Arguments &arguments)
@@ -110,14 +118,12 @@ int Program::complain(const Arguments &arguments)
 
 int Program::help()
 {
-    HostCore::printLine(dashboardText("CLI_HELP"));
-    return EXIT_GOOD;
+    return print(dashboardText("CLI_HELP"));
 }
 
 int Program::version()
 {
-    HostCore::printLine(QLatin1String("ussd-dashboard " USSD_VERSION));
-    return EXIT_GOOD;
+    return print(QLatin1String("ussd-dashboard " USSD_VERSION));
 }
 
 int Program::openWindow(int &argc, char **argv, const Arguments &arguments)

@@ -268,7 +268,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
     useSim(ALONE, "Alone");
     take();
     window().deviceMenu()->actions().last()->trigger();
-    choose(QLatin1String("The codes that come"));
+    choose(QLatin1String("The codes of the demonstration"));
     QCOMPARE(inUse(), QString());
     QCOMPARE(HostCore::InstallPaths::pluginLibrary(),
              HostCore::InstallPaths::installedPluginLibrary());
