@@ -270,6 +270,8 @@ int main(int argc, char **argv)
         fail(problem);
     if (!world.addModem("one", NETWORK).empty())
         fail("no modem");
+    if (world.enable("one").empty())
+        fail("the modem does not register");
     setenv("TKSV_BACKEND", "modemmanager", 1);
     const QCoreApplication application(argc, argv);
     Benchmark::dropMessages();
