@@ -223,8 +223,11 @@ void SendTest::aSignalEndsTheCommand()
     QProcess process;
     start(process, words("--send *199# --log") << log, environment);
     QVERIFY(waitForLog(log, "TKSV_USSDSrv_Request Returned"));
+    QElapsedTimer time;
+    time.start();
     QCOMPARE(::kill(pid_t(process.processId()), number), 0);
     const Run result = finished(process);
+    QVERIFY(time.elapsed() < 20000); // the wait for the reply takes 30 s
     QCOMPARE(result.code, 128 + number);
     QVERIFY2(result.error.contains(QLatin1String("The command was cancelled.")),
              qPrintable(result.error));
