@@ -165,6 +165,7 @@ private slots:
     void aMenuThatSendLeavesOpenIsEnded();
     void theSessionOfAnotherProgramIsLeftAlone();
     void severalProgramsGetTheirOwnReplies();
+    void aProgramThatWaitsForItsTurnSaysSo();
 
 protected:
     void setUpClass() override;
@@ -679,6 +680,24 @@ void EndToEndTest::severalProgramsGetTheirOwnReplies()
     }
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4);
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+}
+
+/// The first program waits for a network that is silent.
+void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
+{
+    QProcess first;
+    startSend(first, QStringList(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1"));
+    QProcess second;
+    second.setReadChannel(QProcess::StandardError);
+    startSend(second, QStringList(QLatin1String("*100#")));
+    QVERIFY(second.waitForReadyRead(10000));
+    QVERIFY(second.peek(1000).startsWith("Waiting until another program has finished"));
+    first.terminate();
+    QCOMPARE(endOf(first).code, 128 + SIGTERM);
+    const SendRun run = endOf(second);
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
 USSD_TEST_MAIN(EndToEndTest)
