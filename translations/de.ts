@@ -1115,7 +1115,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>FAILURE_NOT_CARRIED_OUT</source>
-        <translation>Er wurde nicht ausgeführt.</translation>
+        <translation>Der Befehl wurde nicht ausgeführt.</translation>
     </message>
     <message>
         <source>FAILURE_MAYBE_CARRIED_OUT</source>

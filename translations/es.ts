@@ -1114,7 +1114,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>FAILURE_NOT_CARRIED_OUT</source>
-        <translation>No se ha ejecutado.</translation>
+        <translation>La orden no se ha ejecutado.</translation>
     </message>
     <message>
         <source>FAILURE_MAYBE_CARRIED_OUT</source>

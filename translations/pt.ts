@@ -1115,7 +1115,7 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>FAILURE_NOT_CARRIED_OUT</source>
-        <translation>Não foi executado.</translation>
+        <translation>O comando não foi executado.</translation>
     </message>
     <message>
         <source>FAILURE_MAYBE_CARRIED_OUT</source>

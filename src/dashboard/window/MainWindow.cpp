@@ -42,7 +42,7 @@ namespace Dashboard
 namespace
 {
 
-const QSize FIRST_SIZE(900, 700); // pixels
+const QSize FIRST_SIZE(900, 740); // pixels
 const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
 const char SWITCHED_ON[] = "1";
 const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
