@@ -14,6 +14,7 @@
 #include "sim/PaidTypeFinder.h"
 #include "SimTest.h"
 #include "tksv_device.h"
+#include "window/NoticeBar.h"
 
 #include <csignal>
 
@@ -154,6 +155,7 @@ private slots:
     void aQuoteNeverReachesTheModem();
 
     void openingTheWindowSendsNothing();
+    void theWindowLeavesTheSessionOfAnotherProgramAlone();
     void theRadioStaysOff();
     void closingTheDashboardEndsTheCommand();
     void aRefusedDetectionLeavesTheKindUnknown();
@@ -542,6 +544,24 @@ void EndToEndTest::openingTheWindowSendsNothing()
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     QCOMPARE(fake().timesReceived("AT+CFUN="), 0);
+}
+
+/// Neither opening nor using nor closing the window ends the session.
+void EndToEndTest::theWindowLeavesTheSessionOfAnotherProgramAlone()
+{
+    QVERIFY(openSessionOfAnotherProgram());
+    fake().forgetReceived();
+    openDashboard();
+    QVERIFY(waitForRegistration());
+    const QPushButton *end = button("Dashboard_EndForeignSessionButton");
+    QTRY_VERIFY(end->isVisible());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String(USSD_FAILED));
+    const NoticeBar *why =
+        window().findChild<NoticeBar *>(QLatin1String("Dashboard_CommandNotice"));
+    QTRY_VERIFY2(why->text().startsWith(QLatin1String("Another program is using codes")),
+                 qPrintable(why->text()));
+    closeDashboard();
+    QCOMPARE(fake().timesReceived("AT+CUSD="), 0);
 }
 
 void EndToEndTest::theRadioStaysOff()
