@@ -6,6 +6,7 @@
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
 #include "InstallPaths.h"
+#include "IUSSD.h"
 #include "plugin/GeneralWindow.h"
 #include "sim/OperatorCodes.h"
 #include "sim/PaidTypeFinder.h"
@@ -32,6 +33,7 @@ private slots:
     void aDemonstrationHasItsPresets();
     void thePresetsGoWithTheDemonstration();
     void openingSendsNothing();
+    void theFirstOwnCodesAreShownAtOnce();
 
     void theQueryNeedsTheUser_data();
     void theQueryNeedsTheUser();
@@ -202,11 +204,32 @@ void ModemWindowTest::openingSendsNothing()
 {
     tell(modemWithSim());
     loadPlugin();
-    window().openFrame(0); // the general window has no code of its own either
+    window().openFrame(PAID_TYPE_GENERAL);
+    QVERIFY(GeneralWindow::framed().isComplete());
+    GeneralWindow::framed().commandEdit()->window()->close();
     QVERIFY(waitForSettling());
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(fakeSdkCalls("TKSV_Device_Enable").empty());
     QVERIFY(fakeSdkCalls("TKSV_Device_EndForeignSession").empty());
+}
+
+// The editor saves such a file before its frame closes.
+void ModemWindowTest::theFirstOwnCodesAreShownAtOnce()
+{
+    fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
+    tell(modemWithSim());
+    loadPlugin();
+    QCOMPARE(presets(), 0);
+    window().openFrame(PAID_TYPE_GENERAL);
+    const GeneralWindow framed = GeneralWindow::framed();
+    QVERIFY(framed.isComplete());
+    writeFile(QLatin1String("ussdprofile.xml"),
+              "<tksvdoc type=\"USSDProfile\"><item><name>Mine</name><value>*1#</value>"
+              "<readonly>false</readonly><showButton>true</showButton><langID></langID>"
+              "<desLangID></desLangID></item></tksvdoc>");
+    framed.commandEdit()->window()->close();
+    QTRY_COMPARE(presets(), 1);
+    QVERIFY(fakeSdkCommands().empty());
 }
 
 // ---- the prepaid/postpaid query ------------------------------------------------------------

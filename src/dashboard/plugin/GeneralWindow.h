@@ -39,6 +39,7 @@ public:
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
+    bool hasPresets() const { return m_presetButton; }
     /// If there are no preset buttons, hides the field for their numbers and gives the space of
     /// both to the transcript.
     void hideUnusedPresets() const;

@@ -71,7 +71,7 @@ public:
     }
     void status(const DeviceStatus &status)
     {
-        const DeviceReading reading = {status, m_modems};
+        DeviceReading reading = {status, m_modems};
         m_watcher.readFrom([reading] { return reading; });
     }
     void modem(const char *equipmentId, const char *name, bool isInUse)

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDesktopWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -31,6 +32,7 @@
 #include "PageArea.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
+#include "plugin/ProfileBackup.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 #include "TerminalText.h"
@@ -46,6 +48,11 @@ const QSize FIRST_SIZE(900, 740); // pixels
 const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
 const char SWITCHED_ON[] = "1";
 const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
+
+QDateTime ownCodesTime()
+{
+    return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
+}
 
 /// Returns whether a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)
@@ -133,6 +140,7 @@ void MainWindow::followOperator()
     connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
     connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(showFirstOwnCodes()));
 }
 
 /// Queues the restart, because the plug-in may still be handling the event that led to it.
@@ -148,6 +156,16 @@ void MainWindow::beginAnewIfDue()
 {
     if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
         restartPlugin();
+}
+
+/// Restarts the plug-in if the user has saved codes in the editor. The plug-in itself creates no
+/// preset buttons later if there were none at first.
+void MainWindow::showFirstOwnCodes()
+{
+    const bool isWithoutPresets =
+        m_operatorCodes.areAbsent() && !GeneralWindow(page()).hasPresets();
+    if (isWithoutPresets && ownCodesTime() != m_ownCodesTime)
+        beginAnew();
 }
 
 void MainWindow::makeMenus()
@@ -214,6 +232,7 @@ PluginFailure MainWindow::restartPlugin()
 
 PluginFailure MainWindow::startWith(const PluginFailure &failure)
 {
+    m_ownCodesTime = ownCodesTime();
     m_buttons->setEnabled(m_plugin->isUsable());
     m_commandNotice->forget();
     if (m_plugin->isUsable())

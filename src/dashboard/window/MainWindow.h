@@ -93,6 +93,7 @@ private slots:
     void beginAnew();
     void beginAnewIfDue();
     void rememberDetection(bool isOn);
+    void showFirstOwnCodes();
     void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private:
@@ -117,6 +118,7 @@ private:
     OperatorCodes m_operatorCodes;
     bool m_isDetectionOn = false; // the user or the integrator allows the prepaid/postpaid query
     bool m_isRestartDue = false;  // the plug-in's folder has changed since it was read
+    QDateTime m_ownCodesTime;     // of the file with the user's codes that the plug-in has read
     int m_windows = 0;            // the windows on offer, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
