@@ -10,8 +10,8 @@
 
 #include "Change.h"
 #include "HostState.h"
-#include "InstallPaths.h"
 #include "MessageBox.h"
+#include "PluginFolderChoice.h"
 
 namespace
 {
@@ -99,7 +99,7 @@ bool CommonUtils::IsShuttingDown()
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return HostCore::InstallPaths::pluginLibrary();
+    return HostCore::PluginFolderChoice::current();
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,

@@ -4,8 +4,8 @@
 #include <QFileInfo>
 
 #include "InputFile.h"
-#include "InstallPaths.h"
 #include "PluginFiles.h"
+#include "PluginFolderChoice.h"
 #include "ProviderChoice.h"
 #include "ProvisionWriter.h"
 #include "TerminalText.h"
@@ -139,7 +139,7 @@ void printComplaints(const QString &file, const ProviderDatabase &database)
 
 QString installedFolder()
 {
-    return HostCore::InstallPaths::pluginLibrary() + PluginFiles::FOLDER + QLatin1Char('/');
+    return HostCore::PluginFolderChoice::current() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
 /// Returns the operator's folder. Without a network code, the folder is named after the operator.

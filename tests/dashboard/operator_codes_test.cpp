@@ -6,7 +6,7 @@
 #include <QTimer>
 
 #include "device/DashboardSettings.h"
-#include "InstallPaths.h"
+#include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "SimTest.h"
 #include "window/DeviceMenu.h"
@@ -117,7 +117,7 @@ void OperatorCodesTest::choose(const QString &name)
 
 QString OperatorCodesTest::configuration() const
 {
-    return HostCore::InstallPaths::pluginLibrary() +
+    return HostCore::PluginFolderChoice::current() +
            QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
 }
 
@@ -270,8 +270,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
     window().deviceMenu()->actions().last()->trigger();
     choose(QLatin1String("The codes that come"));
     QCOMPARE(inUse(), QString());
-    QCOMPARE(HostCore::InstallPaths::pluginLibrary(),
-             HostCore::InstallPaths::installedPluginLibrary());
+    QCOMPARE(HostCore::PluginFolderChoice::current(), HostCore::PluginFolderChoice::installed());
     QTRY_VERIFY(!offered().contains(QLatin1String("prepaid")));
 }
 

@@ -3,9 +3,9 @@
 #include "device/DashboardSettings.h"
 #include "device/DeviceWatcher.h"
 #include "InputFile.h"
-#include "InstallPaths.h"
 #include "plugin/LoadedPlugin.h"
 #include "PluginFiles.h"
+#include "PluginFolderChoice.h"
 #include "tksv_device.h"
 
 using namespace Formats;
@@ -22,8 +22,8 @@ const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
 
 QByteArray shippedConfiguration()
 {
-    return InputFile::content(PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
-                                                PluginFiles::CONFIGURATION));
+    return InputFile::content(
+        PluginFiles::path(HostCore::PluginFolderChoice::installed(), PluginFiles::CONFIGURATION));
 }
 
 bool isOfCountry(const Provider &provider, const QString &countryCode)
@@ -59,7 +59,7 @@ OperatorCodes::OperatorCodes(const DeviceWatcher *device, DashboardSettings *set
 
 OperatorCodes::~OperatorCodes()
 {
-    HostCore::InstallPaths::usePluginLibrary(QString());
+    HostCore::PluginFolderChoice::use(QString());
 }
 
 void OperatorCodes::setPlaces(const OperatorPlaces &places)
@@ -99,7 +99,7 @@ void OperatorCodes::use(const QString &folder)
     if (folder == m_folderInUse)
         return;
     m_folderInUse = folder;
-    HostCore::InstallPaths::usePluginLibrary(folder);
+    HostCore::PluginFolderChoice::use(folder);
     emit folderChanged();
 }
 
