@@ -4,11 +4,11 @@
 #include <QRegExp>
 #include <QXmlStreamReader>
 
-#include "ChargeRules.h"
 #include "ElementCheck.h"
 #include "ForwardTrace.h"
 #include "PluginConfig.h"
 #include "SmsLayout.h"
+#include "TopUpInputLimits.h"
 #include "UssdCode.h"
 #include "XmlName.h"
 
@@ -64,8 +64,8 @@ private:
     void component(const Item &item);
     void sent(const Item &item);
     void charge(const Item &item);
-    void chargeExpressionOf(const Item &item, const ChargeRules &rules, int place);
-    void chargeLength(const Item &item, const ChargeRules &rules, int place);
+    void chargeExpressionOf(const Item &item, const TopUpInputLimits &rules, int place);
+    void chargeLength(const Item &item, const TopUpInputLimits &rules, int place);
     void twins(const QList<Item> &items);
     void looks(const char *name);
     void colours(int place);
@@ -271,7 +271,7 @@ void Check::sent(const Item &item)
 void Check::charge(const Item &item)
 {
     const QString command = childText(item.place, XmlName::COMMAND);
-    ChargeRules rules;
+    TopUpInputLimits rules;
     int lengthPlace = -1;
     rules.length = childNumber(item.place, XmlName::LENGTH, &lengthPlace);
     rules.minlenth = childNumber(item.place, XmlName::MIN_LENGTH);
@@ -289,7 +289,7 @@ void Check::charge(const Item &item)
     chargeExpressionOf(item, rules, limitPlace);
 }
 
-void Check::chargeLength(const Item &item, const ChargeRules &rules, int place)
+void Check::chargeLength(const Item &item, const TopUpInputLimits &rules, int place)
 {
     const int at = place < 0 ? item.place : place;
     if (rules.length <= 0)
@@ -302,7 +302,7 @@ void Check::chargeLength(const Item &item, const ChargeRules &rules, int place)
                 .arg(rules.length));
 }
 
-void Check::chargeExpressionOf(const Item &item, const ChargeRules &rules, int place)
+void Check::chargeExpressionOf(const Item &item, const TopUpInputLimits &rules, int place)
 {
     const int at = place < 0 ? item.place : place;
     if (!SmsLayoutFile::isCharacterClass(rules.limitText))

@@ -2,7 +2,7 @@
 
 #include <QRegExp>
 
-#include "ChargeRules.h"
+#include "TopUpInputLimits.h"
 #include "windows/OnlineLink.h"
 #include "windows/PostpaidReply.h"
 
@@ -11,9 +11,9 @@ using namespace Formats;
 namespace
 {
 
-ChargeRules rules(int length, int minlenth, const char *limitText = "0-9")
+TopUpInputLimits rules(int length, int minlenth, const char *limitText = "0-9")
 {
-    ChargeRules result;
+    TopUpInputLimits result;
     result.length = length;
     result.minlenth = minlenth;
     result.limitText = QString::fromLatin1(limitText);

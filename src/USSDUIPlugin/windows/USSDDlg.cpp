@@ -191,7 +191,7 @@ void USSDDlg::getConfigure()
 {
     USSD_LOG_SCOPE();
     m_pLogic->GetPrePostDiffer(m_prePostDiffer);
-    m_chargeRules = ChargeRules();
+    m_chargeRules = TopUpInputLimits();
     m_chargeRules.length = m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_LENGTH);
     m_chargeRules.minlenth =
         m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_MINLENTH);

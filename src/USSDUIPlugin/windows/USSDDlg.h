@@ -7,13 +7,13 @@
 #include <QStringList>
 #include <QWidget>
 
-#include "ChargeRules.h"
 #include "INotifyService.h"
 #include "IUSSD.h"
 #include "PluginConfig.h"
 #include "PluginContract.h"
 #include "requests/USSDCommand.h"
 #include "requests/USSDLogic.h"
+#include "TopUpInputLimits.h"
 
 class QFrame;
 class QGridLayout;
@@ -148,7 +148,7 @@ private:
     bool m_bReturnDown; // true from a press of Return until its release
     PrePostRecord m_prePostRecord;
     Formats::PrePostDiffer m_prePostDiffer;
-    Formats::ChargeRules m_chargeRules;
+    Formats::TopUpInputLimits m_chargeRules;
     QString m_strOnlineAddress;
     QPointer<USSDLogic> m_pLogic; // not owned
     QGridLayout *m_pGrid;
