@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <string>
 
+#include "sim/RuleMatching.h"
 #include "sim/ScenarioReader.h"
 
 namespace

@@ -4,6 +4,7 @@
  */
 #include <QtTest>
 
+#include "sim/RuleMatching.h"
 #include "sim/Scenario.h"
 #include "sim/ScenarioReader.h"
 

@@ -107,24 +107,6 @@ struct Scenario {
 const char ANY_DIGITS[] = "%s"; // stands for digits in a code
 const char ANY_ANSWER[] = "%s"; // stands for any other answer
 
-/** The rule that matches a text of the client. */
-struct Match {
-    std::string group;  // empty if no rule matches
-    std::string digits; // the digits that %s stands for
-};
-
-/// Returns the group with exactly this code, or else the longest pattern that matches the code.
-Match findCode(const Scenario &scenario, const std::string &code);
-/// Returns the group of exactly this answer, or else the group of ANY_ANSWER.
-Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
-/// Returns whether the group has answers. If so, its reply leaves the session open.
-bool isMenu(const Scenario &scenario, const std::string &group);
-/// Returns the rule for the number, or else the rule for all other numbers.
-SmsRule findSms(const Scenario &scenario, const std::string &number);
-
-/// Returns the digits that %s stands for, or no value if the code does not match the pattern.
-std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code);
-
 /** The values of the {names} in a reply. */
 using Placeholders = std::map<std::string, std::string>;
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "../base/Backend.h"
+#include "RuleMatching.h"
 #include "Scenario.h"
 #include "Scheduler.h"
 
