@@ -11,7 +11,7 @@
  * for hours.
  *
  * The figures are counted in the text, not in the parsed document, and are never too low.
- * MarkupEscaping decides what is treated as a tag; SlowText handles text that is slow even without
+ * HarmlessMarkup decides what is treated as a tag; SlowText handles text that is slow even without
  * markup.
  */
 struct MarkupCost {

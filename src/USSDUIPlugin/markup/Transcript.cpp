@@ -1,6 +1,6 @@
 #include "Transcript.h"
 
-#include "MarkupEscaping.h"
+#include "HarmlessMarkup.h"
 #include "PluginConfig.h"
 #include "QtCompat.h"
 #include "SlowText.h"
@@ -78,7 +78,7 @@ namespace Transcript
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text)
 {
-    const QString content = MarkupEscaping::withOthersAsLetters(text);
+    const QString content = HarmlessMarkup::withStrayBracketsEscaped(text);
     Entry result;
     result.markup = paragraph(direction, look, rightToLeft, caption + content);
     result.isPlain = isPlain(caption + content);

@@ -12,7 +12,7 @@ struct Char;
 
 /*
  * Builds the entries of the general dialog's transcript as markup. All functions are plain
- * functions on plain values. MarkupEscaping escapes each "<" that begins no tag. SlowText and
+ * functions on plain values. HarmlessMarkup escapes each "<" that begins no tag. SlowText and
  * MarkupCost estimate how expensive an entry is, and TranscriptView chooses one of the entry's
  * forms accordingly.
  */

@@ -1,11 +1,11 @@
 #include "TranscriptView.h"
 
-#include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include "HarmlessMarkup.h"
 #include "PieceFeeder.h"
 #include "SlowText.h"
 
@@ -43,16 +43,6 @@ void insertWithMarkup(QTextDocument &document, const QString &markup)
     cursor.insertFragment(QTextDocumentFragment(&alone));
 }
 
-/// Returns an empty resource. If it were null, Qt would look for a file of that name itself.
-QVariant nothingToLoad(int type)
-{
-    if (type != QTextDocument::ImageResource)
-        return QString(QLatin1String(""));
-    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
-    pixel.fill(0);
-    return pixel;
-}
-
 } // namespace
 
 TranscriptView::TranscriptView(QWidget *parent)
@@ -66,7 +56,7 @@ void TranscriptView::appendEntry(const Transcript::Entry &entry)
 {
     const bool isFirst = m_entries.isEmpty();
     const bool inPieces = entry.isHeavy || m_feeder->isBusy();
-    const bool asMarkup = entry.cost.isBearable(m_cost) && (!inPieces || entry.cost.tags == 0);
+    const bool asMarkup = HarmlessMarkup::mayKeepMarkup(entry.cost, m_cost, inPieces);
     const QString &markup = asMarkup ? entry.markup : entry.letters;
     m_entries += markup;
     if (inPieces)
@@ -121,5 +111,5 @@ void TranscriptView::clearEntries()
 QVariant TranscriptView::loadResource(int type, const QUrl &name)
 {
     Q_UNUSED(name);
-    return nothingToLoad(type);
+    return HarmlessMarkup::emptyResource(type);
 }

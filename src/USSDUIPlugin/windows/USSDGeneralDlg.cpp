@@ -29,7 +29,6 @@ namespace
 const int MODAL_WIDTH = 588;
 const int MODAL_HEIGHT = 465;
 const int MAX_COMBO_CODE = 40;
-const int MAX_PAYMENT_NUMBER = 20;
 
 QLineEdit *createCodeEdit(QWidget *parent)
 {
@@ -355,34 +354,6 @@ void USSDGeneralDlg::setCommandDesByValue(const QString &value)
             return;
         }
     }
-}
-
-bool USSDGeneralDlg::IsLimitValid(const QString &text)
-{
-    if (text.startsWith(QLatin1Char(';')))
-        return false;
-    for (int i = 0; i < text.length(); ++i) {
-        if (!m_strAllowedPayment.contains(text.at(i)))
-            return false;
-    }
-    return true;
-}
-
-void USSDGeneralDlg::OnPaymentEdit()
-{
-    if (!m_pPaymentEdit)
-        return;
-    int cursor = m_pPaymentEdit->cursorPosition();
-    const QString text = m_pPaymentEdit->text();
-    if (IsLimitValid(text)) {
-        m_strLastValidPayment = text;
-    } else {
-        m_pPaymentEdit->setText(m_strLastValidPayment);
-        --cursor;
-    }
-    m_pPaymentEdit->setMaxLength(MAX_PAYMENT_NUMBER); // moves the cursor to the end
-    m_pPaymentEdit->setCursorPosition(cursor);
-    changePayBtnsStatus(!m_pPaymentEdit->text().isEmpty());
 }
 
 // ---- sending and answers -------------------------------------------------------------------

@@ -6,9 +6,9 @@
 #include "base/PluginMessage.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
+#include "FrameLook.h"
 #include "PluginContract.h"
 #include "requests/USSDLogic.h"
-#include "SmsLayout.h"
 
 using namespace Formats;
 
@@ -19,34 +19,11 @@ namespace
 
 const int GENERAL_FRAME_WIDTH = 588;
 const int GENERAL_FRAME_HEIGHT = 465;
-const int MAX_FRAME_SIDE = SmsLayoutFile::MAX_WINDOW_SIDE;
 const int PLAIN_FRAME = 1;
 
 Qt::WindowFlags frameFlags()
 {
     return Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint;
-}
-
-const char *paidTitleKey(PAID_TYPE type)
-{
-    return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
-}
-
-/// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
-/// is limited, because a size from a file could be negative or need more memory than there is.
-template <typename Dialog>
-void fixFrameSize(QWidget *frame, Dialog *dialog)
-{
-    const QSize most(MAX_FRAME_SIDE, MAX_FRAME_SIDE);
-    const QSize size = dialog->GetSize().expandedTo(QSize(0, 0)).boundedTo(most);
-    frame->setFixedSize(size.width(), size.height() + 20);
-}
-
-template <typename Dialog>
-void setLanguageIfExists(const QPointer<Dialog> &dialog)
-{
-    if (dialog)
-        dialog->SetLanguage();
 }
 
 template <typename Dialog>
@@ -155,28 +132,6 @@ void CUSSDService::closeFramesOfTheSim()
                                                  m_pGeneralFrame};
     for (const QPointer<USSDExtendDialog> &frame : frames)
         closeIfExists(frame);
-}
-
-void CUSSDService::changeLanguage()
-{
-    setLanguageIfExists(m_pPrepaidDlg);
-    setLanguageIfExists(m_pPostpaidDlg);
-    setLanguageIfExists(m_pGeneralModalDlg);
-    setLanguageIfExists(m_pGeneralEmbeddedDlg);
-    setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames receive new titles and the size that the new texts need.
-    if (m_pPrepaidFrame && m_pPrepaidDlg) {
-        m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
-        fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
-    }
-    if (m_pPostpaidFrame && m_pPostpaidDlg) {
-        m_pPostpaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_POSTPAID))));
-        fixFrameSize(m_pPostpaidFrame, m_pPostpaidDlg.data());
-    }
-    if (m_pGeneralFrame)
-        m_pGeneralFrame->setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
-    if (m_pUSSDSMSFrame)
-        m_pUSSDSMSFrame->setWindowTitle(tr(QLatin1String("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
 // ---- creating --------------------------------------------------------------------------------

@@ -1,9 +1,11 @@
-#include "MarkupEscaping.h"
+#include "HarmlessMarkup.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include <QByteArray>
+#include <QImage>
+#include <QTextDocument>
 
 namespace
 {
@@ -97,10 +99,10 @@ bool beginsTag(const QString &text, int bracket)
 
 } // namespace
 
-namespace MarkupEscaping
+namespace HarmlessMarkup
 {
 
-QString withOthersAsLetters(const QString &text)
+QString withStrayBracketsEscaped(const QString &text)
 {
     QString result;
     result.reserve(text.length());
@@ -113,4 +115,18 @@ QString withOthersAsLetters(const QString &text)
     return result;
 }
 
-} // namespace MarkupEscaping
+bool mayKeepMarkup(const MarkupCost &cost, const MarkupCost &before, bool isInPieces)
+{
+    return cost.isBearable(before) && (!isInPieces || cost.tags == 0);
+}
+
+QVariant emptyResource(int type)
+{
+    if (type != QTextDocument::ImageResource)
+        return QString(QLatin1String(""));
+    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
+    pixel.fill(0);
+    return pixel;
+}
+
+} // namespace HarmlessMarkup
