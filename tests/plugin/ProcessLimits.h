@@ -8,7 +8,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Prevents the process from opening files during its lifetime, by using up all file descriptors.
+/// Prevents the process from opening files, by using up all file descriptors until it is destroyed.
 class NoFileCanBeOpened
 {
 public:
@@ -26,7 +26,8 @@ private:
     rlimit m_before;
 };
 
-/// Makes the process an ordinary user during its lifetime, because root ignores permissions.
+/// Lets the process run as an ordinary user until it is destroyed, because root ignores
+/// permissions.
 class OrdinaryUser
 {
 public:
@@ -47,7 +48,7 @@ private:
     bool m_wasRoot;
 };
 
-/// Limits the size of files during its lifetime, so that writing fails as on a full disk.
+/// Limits the file size until it is destroyed, so that writing fails as on a full disk.
 class FullDisk
 {
 public:

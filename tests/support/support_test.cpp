@@ -6,7 +6,8 @@
 
 #include <thread>
 
-/// Tests what UssdTest promises to a correct test class. support_failing.cpp has incorrect ones.
+/// Tests the guarantees of UssdTest for correct test classes. Incorrect ones are in
+/// support_failing.cpp.
 class SupportTest : public UssdTest
 {
     Q_OBJECT
