@@ -29,7 +29,10 @@ QStringList calls()
 
 } // namespace
 
-/** Tests that each failure is reported with its own step, message, file and reason. */
+/**
+ * Tests that each failure to load the plug-in is reported with its own step, message, file and
+ * reason.
+ */
 class PluginLoadingTest : public UssdTest
 {
     Q_OBJECT
@@ -140,7 +143,7 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // The mark is followed by the format of the meta data and the major and minor version of Qt.
+    // After the mark come the format of the meta data and the major and minor version of Qt.
     const int mark = content.indexOf("QTMETADATA !");
     QVERIFY(mark > 0);
     QCOMPARE(int(content.at(mark + 13)), 5);

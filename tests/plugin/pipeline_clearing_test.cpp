@@ -254,9 +254,8 @@ void PipelineClearingTest::constructionLogsEachRegistration()
                      QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
                      QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
                      QStringLiteral(" Exit")}));
-    const QString before =
-        // Logged as a debug message and as a warning.
-        QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
+    // Logged as a debug message and as a warning.
+    const QString before = QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
     QCOMPARE(
         linesOf("registerUSSDCallback"),
         (QStringList{QStringLiteral(" Enter"), before, before,
