@@ -67,7 +67,8 @@ QList<Row> readRows(const QString &path)
     return rows;
 }
 
-/// Returns the value with three significant digits, without an exponent for usual values.
+/// Returns the value with three significant digits, without an exponent if the value is not
+/// extreme.
 QString number(double value)
 {
     const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;

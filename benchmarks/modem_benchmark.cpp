@@ -1,9 +1,9 @@
 /*
  * Measures the round trip of a command through the plug-in, the SDK and a real ModemManager on a
  * private bus, whose fake modem answers immediately. The round trip is compared with those of the
- * daemon's own library and tool. Then measures complete programs: the time from the start to the
- * first reply, and the CPU load of an idle program. Like the pipeline benchmark, this program is
- * built twice: with log lines, which a handler discards, and without log lines.
+ * daemon's own library and tool. The program then measures complete programs: the time from the
+ * start to the first reply, and the CPU load of an idle program. Like the pipeline benchmark, this
+ * program is built twice: with log lines, which a handler discards, and without log lines.
  *
  * For the round trips, all threads and the daemon are bound to one core. Otherwise waking up a
  * sleeping core could take longer in one round than the complete library call takes in another.

@@ -2,9 +2,9 @@
  * Measures the round trip of a command through the pipeline, and the cost of a long queue. This
  * program is built twice: with log lines, which a handler discards, and without log lines.
  *
- * In the first part, all threads are bound to one core; in the second part, the GUI and the device
- * have one core each. Otherwise they would share a core only in some rounds, and waking up a
- * sleeping core takes longer than everything else.
+ * In the first part, all threads are bound to one core. In the second part, the GUI and the device
+ * have one core each. Without this binding, they would share a core only in some rounds, and waking
+ * up a sleeping core takes longer than everything else.
  */
 #include <string>
 
@@ -136,8 +136,8 @@ public:
         m_counter.await(length);
     }
 
-    /// Must be called after the queue has been cleared. The next answer, for which no command is
-    /// left, cancels the timer.
+    /// Must be called after the queue has been cleared. The next answer belongs to no command and
+    /// cancels the timer.
     void settle() { instant_tksv_settle(); }
 
 private:

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that packages.txt lists each package once, in a section that a command installs, and that
-# the packages of [run] and [test] are installed on this machine.
+# Checks that packages.txt lists each package once, in a section that a command installs. Also
+# checks that the packages of [run] and [test] are installed on this machine.
 . "$(dirname "$0")/common.sh"
 
 declare -A seen

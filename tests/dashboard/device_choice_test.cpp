@@ -5,7 +5,7 @@
 
 using namespace Dashboard;
 
-/** Tests the device menu and the messages about problems of devices. */
+/** Tests the device menu and the messages about device problems. */
 class DeviceChoiceTest : public DeviceTest
 {
     Q_OBJECT

@@ -137,7 +137,7 @@ void KeyboardTest::theFocusComesBackWithTheAnswer()
     QTRY_VERIFY(window.edit->hasFocus());
 }
 
-/// Conducts the dialogue with the network using only key events, which go to the focus widget.
+/// Exchanges commands and replies with the network, using only key events for the focus widget.
 void KeyboardTest::talk(const GeneralWindow &general)
 {
     QVERIFY(general.isComplete());

@@ -207,8 +207,8 @@ void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
              qPrintable(shown.join(QLatin1String("|"))));
 }
 
-// Tests that the detection starts late on a new device. Another thread of the plug-in may still be
-// cancelling the commands of the previous device.
+// Tests that the detection on a new device starts after a pause. Another thread of the plug-in may
+// still be cancelling the commands of the previous device.
 void PaidTypeTest::aNewDeviceIsLeftAloneForAMoment()
 {
     openWith(PREPAID_SIM, PREPAID);

@@ -5,7 +5,7 @@
 
 using namespace Dashboard;
 
-/** Tests how the PIN of a locked SIM is entered, from the button to the device. */
+/** Tests entering the PIN of a locked SIM, from the button to the device. */
 class PinDialogTest : public DeviceTest
 {
     Q_OBJECT

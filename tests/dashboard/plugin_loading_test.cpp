@@ -143,7 +143,7 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // After the mark come the format of the meta data and the major and minor version of Qt.
+    // The mark is followed by the format of the meta data and the major and minor version of Qt.
     const int mark = content.indexOf("QTMETADATA !");
     QVERIFY(mark > 0);
     QCOMPARE(int(content.at(mark + 13)), 5);

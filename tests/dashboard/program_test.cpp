@@ -47,7 +47,7 @@ Run run(const char *line)
     return run(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts), quickNetwork());
 }
 
-/** A tour that runs once for all tests that check its result. */
+/** A tour that runs once, for all tests that check its result. */
 class TakenTour
 {
 public:

@@ -40,7 +40,7 @@ public:
     void setScript(const std::vector<FakeAnswer> &answers);
     FakeAnswer takeAnswer();
     void block(std::size_t ticket, std::chrono::milliseconds limit);
-    void unblock(); ///< ends all calls that still block
+    void unblock(); ///< makes all blocked calls return
     void answer(const FakeAnswer &answer);
     void respond(const FakeAnswer &answer);
 

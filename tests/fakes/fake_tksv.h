@@ -120,11 +120,11 @@ struct FakeAnswer {
     int type = 0;
     std::chrono::milliseconds delay{0};
     bool nullData = false; ///< the call-back receives a null pointer
-    /// The request returns after the call-back, or half a second later.
+    /// The request returns after the call-back has returned, or after half a second.
     bool beforeReturn = false;
     bool afterNextRequest = false; ///< delayed until another request has been accepted
     bool stubborn = false; ///< sent even if a later request or a release has ended the session
-    int threads = 1;       ///< number of threads that send `times` responses each at the same time
+    int threads = 1;       ///< number of threads that each send `times` responses at the same time
 };
 
 FAKE_API FakeAnswer fakeReply(const std::u16string &text, int type = 0);
@@ -139,7 +139,7 @@ FAKE_API void fakeSdkSetAnswer(const FakeAnswer &answer);
 /// Sets how the next requests are handled, one answer for each request.
 FAKE_API void fakeSdkScript(const std::vector<FakeAnswer> &answers);
 
-/// Ends the blocking of all pending requests.
+/// Makes all blocked requests return.
 FAKE_API void fakeSdkUnblock();
 
 /// Sends a response from the USSD thread, whether a request is pending or not.

@@ -1,8 +1,8 @@
 /*
  * Simulates the user of a dashboard on a faulty machine. The driver is linked into
- * faulty_dashboard, which otherwise equals the dashboard program. The user reads the window,
- * answers message boxes and closes the window. Each observation is printed as a line on standard
- * output: "box: TEXT", "notice: TEXT" or "codes: LIST".
+ * faulty_dashboard, which is otherwise identical to the dashboard program. The user reads the
+ * window, answers message boxes and closes the window. Each observation is printed as a line on
+ * standard output: "box: TEXT", "notice: TEXT" or "codes: LIST".
  *
  *   USSD_USER_SAVES=CODE    adds the code in the editor and saves
  *   USSD_USER_SAYS=TEXT     presses the message-box button whose text begins with TEXT, or the

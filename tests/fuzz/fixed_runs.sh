@@ -12,7 +12,8 @@ if [ -z "$(ls -A "$corpus")" ]; then
     echo "$corpus holds no seeds" >&2
     exit 1
 fi
-# The coverage data contains addresses. The addresses are therefore fixed if the system allows it.
+# The coverage data contains addresses, so address randomisation is switched off if the system
+# allows it.
 same=
 setarch -R true 2>/dev/null && same="setarch -R"
 $same "$fuzzer" -seed=1 -runs="$runs" -rss_limit_mb=3000 -artifact_prefix="$PWD/" "$@" "$scratch/new" \

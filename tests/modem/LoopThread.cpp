@@ -52,7 +52,7 @@ LoopThread::~LoopThread()
 }
 
 /// Keeps the actions in a separate list. The thread sanitizer does not see the locks inside GLib,
-/// but it sees the lock of this list.
+/// but does see the lock of this list.
 void LoopThread::post(Action action, unsigned delayMilliseconds)
 {
     const auto place = keep(std::move(action));

@@ -9,10 +9,10 @@ namespace FakeModems
 
 enum class Fault {
     Error,          // answers ERROR
-    EquipmentError, // answers +CME ERROR: value
-    MessageError,   // answers +CMS ERROR: value
+    EquipmentError, // answers +CME ERROR with `value`
+    MessageError,   // answers +CMS ERROR with `value`
     Silence,        // sends nothing, neither an answer nor a result
-    Late,           // delays the line by value milliseconds
+    Late,           // delays the line by `value` milliseconds
     Garbled,        // replaces every third character
     HangUp          // closes the connection instead of sending the line
 };

@@ -134,8 +134,8 @@ AtAnswer ModemCore::charset(const AtCommand &command)
     return ok();
 }
 
-/// Keeps a device that the scenario disables in low-power mode, as the radio switch does. The
-/// daemon ignores the refusal and keeps searching for a network.
+/// Keeps the modem in low-power mode if the scenario disables the device, as a radio switch does.
+/// The daemon ignores the refusal and keeps searching for a network.
 AtAnswer ModemCore::functionality(const AtCommand &command)
 {
     if (command.form == AtCommand::Read)

@@ -100,8 +100,8 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Reports the registration and the signal as unsolicited lines. There is no line for a modem that
-/// only loses the ability to send SMS, so the modem loses its registration for that time.
+/// Reports the registration and the signal as unsolicited lines. No such line reports that only SMS
+/// have become unavailable, so the modem loses its registration for that time.
 void ModemCore::networkChanged()
 {
     const Tksv::DeviceInfo now = device();

@@ -79,8 +79,8 @@ private:
     std::unique_ptr<ModemWorld> m_world;
 };
 
-/// Unsets the variable, which selects the simulator for tests by default, before the first call of
-/// the library.
+/// Unsets the variable before the first call of the library. Tests use the simulator by default
+/// because of this variable.
 void ModemAutomaticTest::setUpClass()
 {
     qunsetenv("TKSV_BACKEND");

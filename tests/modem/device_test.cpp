@@ -357,7 +357,7 @@ void ModemDeviceTest::aReplacedCommandIsNotAnswered()
 {
     useModem();
     QCOMPARE(request(u"*133#"), 0L);
-    QCOMPARE(request(u"*120#"), 0L); // possibly before the modem receives the first command
+    QCOMPARE(request(u"*120#"), 0L); // possibly sent before the modem receives the first command
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
@@ -404,7 +404,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     QCOMPARE(received().responses.all().back().type, isAccepted ? 2 : 0);
 }
 
-/// Tests that calls do not wait for 25 s, which is the default time-out of GDBus.
+/// Tests that calls return before the default time-out of GDBus, which is 25 s.
 void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
 {
     m_world = std::make_unique<ModemWorld>();
@@ -412,7 +412,7 @@ void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
     m_world->pauseDaemon();
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < 200) // also calls while a reply of the daemon is pending
+    while (timer.elapsed() < 200) // some of these calls are made while a reply is pending
         TKSV_Device_UseModem(nullptr);
     QVERIFY(timer.elapsed() < 15000);
     m_world->resumeDaemon();

@@ -264,8 +264,8 @@ void EndToEndTest::closingTheDashboardEndsTheSession()
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
 }
 
-/// Tests a menu session that stays open when its window closes. The next window that opens ends the
-/// session.
+/// Tests the session of a menu. It stays open when the window of the menu closes, and ends when the
+/// next window opens.
 void EndToEndTest::theAccountWindowEndsTheSession()
 {
     openPage();
@@ -345,7 +345,7 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// Tests a command of 91 code units, which is the size of the plug-in's command record.
+/// Tests a command of 91 code units, the longest that fits in the plug-in's command record.
 void EndToEndTest::theLongestCommand()
 {
     openPage();

@@ -22,7 +22,7 @@ class DialogTest : public PluginTest
 protected:
     void tearDown() override;
 
-    /// Creates and shows the dialog after deleting any earlier one. An embedded dialog is a child
+    /// Deletes any earlier dialog, and creates and shows a new one. An embedded dialog is a child
     /// of page().
     void open(WINDOW_MODEL model = WINDOW_MODEL_EMBEDDED);
     USSDGeneralDlg *dialog() { return m_dialog; }

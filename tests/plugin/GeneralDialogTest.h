@@ -51,7 +51,7 @@ protected:
     QString clearAndAnswer(const char *buttonKey);
     /// Returns the index of the first log line that contains `part`, or -1.
     int lineOf(const char *part);
-    void activateWindow(); ///< the focus exists only in an active window
+    void activateWindow(); ///< a widget has the focus only in an active window
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 };

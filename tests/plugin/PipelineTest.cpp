@@ -2,7 +2,7 @@
 
 void PipelineTest::setUp()
 {
-    // A static variable, so that it holds the times from before any test changed them.
+    // A static variable, to keep the times that were set before any test changed them.
     static const ReplyTimes shipped = USSDLogic::replyTimes();
     m_shippedTimes = shipped;
     PluginTest::setUp();

@@ -15,7 +15,7 @@
 #include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
 
-const int NO_PATIENCE = 60000; // ms; a limit that is never reached
+const int NO_PATIENCE = 60000; // ms; a time-out that no test reaches
 
 inline std::atomic<qint64> now{0};
 
@@ -29,7 +29,7 @@ inline QString units(int count)
     return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
 }
 
-/// Runs code in the thread that announces a response, during the announcement.
+/// Runs code on the thread that announces a response, while the response is being announced.
 class Interloper : public QObject
 {
     Q_OBJECT

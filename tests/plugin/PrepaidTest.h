@@ -95,7 +95,7 @@ protected:
     static QMessageBox *messageBox(); ///< returns the open message box, or null
     static QString textInMessageBox();
     static void closeMessageBox();                      ///< presses the box's button
-    void logicSays(int component, const QString &text); ///< emits an answer without a command
+    void logicSays(int component, const QString &text); ///< emits an answer to no command
     static QStringList requests();                      ///< the commands of all requests so far
 
     static QString text(const char *key);

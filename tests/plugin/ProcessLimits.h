@@ -8,7 +8,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Prevents the process from opening files, by using up all file descriptors until it is destroyed.
+/// Sets the limit of open files to zero while an object exists, so that no file can be opened.
 class NoFileCanBeOpened
 {
 public:
@@ -26,8 +26,7 @@ private:
     rlimit m_before;
 };
 
-/// Lets the process run as an ordinary user until it is destroyed, because root ignores
-/// permissions.
+/// Makes the process an ordinary user while an object exists, because root ignores permissions.
 class OrdinaryUser
 {
 public:
@@ -48,7 +47,7 @@ private:
     bool m_wasRoot;
 };
 
-/// Limits the file size until it is destroyed, so that writing fails as on a full disk.
+/// Limits the size of files while an object exists, so that writing fails as on a full disk.
 class FullDisk
 {
 public:

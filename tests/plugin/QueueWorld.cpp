@@ -232,8 +232,8 @@ void QueueWorld::checkOutcomes()
     expect((m_answered | m_refused | m_dropped | heldCommands()) == all, "no command is lost");
 }
 
-/// Checks the head while no thread is in a call. At this moment, only a time-out can remove the
-/// head. After a command that was refused or is too long, no time-out has to be running; this is
+/// Checks the head while no thread is in a call. In this state, only a time-out can remove the
+/// head. After a command that was refused or is too long, no time-out has to be running. This is
 /// deliberate.
 void QueueWorld::checkRest()
 {

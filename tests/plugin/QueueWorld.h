@@ -51,7 +51,7 @@ public:
 
     /// Returns the rule that was broken, or null.
     const char *failure() const { return m_failure; }
-    /// Returns the key of this state. Two states with the same key behave identically from then on.
+    /// Returns the key of this state. Two states with the same key have the same future.
     Key key() const;
 
 private:

@@ -5,9 +5,10 @@
  * and destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is work
  * that a thread performs without interruption: one call of the queue, one query of the timer, or
  * one change of the timer. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
- * announcement is part of the preceding claim, and the request to the device is part of the
- * preceding check, because neither of them uses anything that another thread uses. A sender waits
- * up to 3 s for an earlier time-out, and the search lets this wait end at any moment.
+ * announcement is part of the preceding claim. The request to the device is part of the preceding
+ * check. They need no steps of their own because they do not use anything that another thread uses.
+ * A sender waits up to 3 s for an earlier time-out, and the search lets this wait end at any
+ * moment.
  *
  * The search tries every order. Any thread may perform its next step, and an event may happen
  * whenever its thread is idle. The threads are the GUI thread, two threads that deliver replies and

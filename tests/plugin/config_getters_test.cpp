@@ -216,7 +216,7 @@ void ConfigGettersTest::imsiItemsCountAtAnyDepthBehindTheSection()
     writeConfig(config(fourItems() + imsiItem("1", "Prepaid"), fourItems(),
                        looks() + "<autoUSSD valid='true'><x>" + imsiItem("2", "Postpaid") +
                            "</x></autoUSSD><y>" + imsiItem("3", "Commonpaid") + "</y>"));
-    QCOMPARE(flagsOf(latin1("1")), -1); // the item is in front of the section
+    QCOMPARE(flagsOf(latin1("1")), -1); // the item precedes the section
     QCOMPARE(flagsOf(latin1("2")), 2);
     QCOMPARE(flagsOf(latin1("3")), 4);
 }
@@ -425,7 +425,7 @@ void ConfigGettersTest::shippedFileIsComplete()
     QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // large enough to read
     QVERIFY(look(CHAR_SET_RECEIVE).yHeight >= 20 * 6);
     QVERIFY(clearSetting().visible);
-    // The last section is found only if all sections in front of it are found.
+    // The last section is found only if all preceding sections are found.
     QVERIFY(logic()->IsImsiDynamicMatch());
 }
 

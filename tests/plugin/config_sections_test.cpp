@@ -86,7 +86,7 @@ void ConfigSectionsTest::itemNamedInLowerCaseIsConsumedButStoresNothing()
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    // This item is one of the four that were read.
+    // The unknown item counts as one of the four items, and MSISDN is the fourth.
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 10);
 }
@@ -359,7 +359,8 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    for (const char *child : {"yHeight", "yOffset", "color"}) // the first ones are in "send"
+    // These elements occur for the first time in "send".
+    for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
         QTest::newRow(child) << QByteArray(child) << true;
@@ -368,8 +369,8 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
 }
 
 /// Checks only the last section, because the getters read the other sections again. The search for
-/// a missing section continues past the last one. If the last section was found, the initial search
-/// therefore found all the others.
+/// a missing section would skip all sections after it. If the last section was found, the initial
+/// search has therefore found all the others.
 void ConfigSectionsTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);

@@ -198,8 +198,8 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin()
     QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-/// Tests that the code does not read "#123*", as it would in right-to-left order. A screenshot
-/// tells a star from a hash because the hash extends further down.
+/// Tests that the code is not painted as "#123*", as it would be in right-to-left order. In a
+/// screenshot, a hash differs from a star in that it extends further down.
 void EditorLooksTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
     QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));

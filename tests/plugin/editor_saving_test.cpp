@@ -371,7 +371,7 @@ void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests a path that seems available for a new folder, although a dangling link has this name.
+/// Tests a folder that cannot be created, because a dangling link has its name.
 void EditorSavingTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));

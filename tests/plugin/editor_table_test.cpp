@@ -91,7 +91,7 @@ void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 }
 
 /// Tests that the message opens only after the delegate and the view have handled the cell. The
-/// host must not be called in between.
+/// host must not be called before that.
 void EditorTableTest::messageOfADuplicateOpensOutsideTheDelegate()
 {
     openEditor();
@@ -286,8 +286,8 @@ void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
     QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
 }
 
-/// Tests that codes which differ only in leading or trailing blanks count as duplicates. Codes are
-/// saved without these blanks, and only the first of two equal codes would be read again.
+/// Tests that codes that differ only in leading or trailing blanks are duplicates. Codes are saved
+/// without these blanks, and only the first of two equal codes would be loaded again.
 void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate()
 {
     QFETCH(QString, typed);

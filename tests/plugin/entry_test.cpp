@@ -114,7 +114,7 @@ void EntryTest::verificationTextIsThatOfTheHost()
                         "buildkey=" USSD_QT4_BUILD_KEY));
 }
 
-/// Checks the default value of the build option that determines the key above.
+/// Checks the default value of the build option that determines the build key above.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));

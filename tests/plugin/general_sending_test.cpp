@@ -163,7 +163,8 @@ void GeneralSendingTest::refusedPresetIsAnsweredLocally()
     QVERIFY(presetButtons().first()->isEnabled());
 }
 
-/// Tests that only a preset button disables the combo box. This difference is deliberate.
+/// Tests that the combo box is disabled by a preset button but not by Send. This difference is
+/// deliberate.
 void GeneralSendingTest::presetDisablesTheComboButSendDoesNot()
 {
     open();
@@ -253,7 +254,7 @@ void GeneralSendingTest::answerOfAnotherComponentIsIgnored()
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, latin1("not mine"));
     QCOMPARE(shownLines().count(), 1);
     QVERIFY(isWaiting());
-    // logged as a debug message and as a warning
+    // Logged as a debug message and as a warning.
     QCOMPARE(timesLogged("OnResponseReceived Exit: USSDGeneralDlg no need to handle"), 2);
 }
 

@@ -1,6 +1,6 @@
 /*
- * Compares the table of object names in docs/host-integration.md, which is meant for authors of
- * style sheets, with the loaded plug-in and its shipped data.
+ * Compares the table of object names for style sheets in docs/host-integration.md with the loaded
+ * plug-in and its shipped data.
  */
 #include "UssdTest.h"
 

@@ -389,7 +389,7 @@ void PipelineClearingTest::timeOutReceiverMayShutDown()
     QTRY_VERIFY(!logic);
 }
 
-/// Tests that the gate admits only callers that wait, and only when the object is ready.
+/// Tests that the gate admits only callers that wait for it, and only when the object is ready.
 void PipelineClearingTest::gateLetsOnlyThePatientIn()
 {
     CallbackGate gate;

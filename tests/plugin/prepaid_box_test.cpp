@@ -282,8 +282,8 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// Tests a host that acts in an event of its own while the box is open. Return in the entry field
-/// opens the box.
+/// Tests a host that acts while the box is open. Return in the entry field opens the box, and the
+/// host acts in a separate event.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {
     QFETCH(int, hostAct);
@@ -334,7 +334,7 @@ void PrepaidBoxTest::closingTheDialogTakesTheBoxAlong()
     logicSays(COMPONENT_CHARGE, QStringLiteral("second"));
     drainEvents();
     QVERIFY(messageBox());
-    dialog()->OnClickedCloseButton(); // this signal does not delete the dialog in this test
+    dialog()->OnClickedCloseButton(); // this call does not delete the dialog in this test
     drainEvents();
     QVERIFY(dialog());
     QVERIFY(!messageBox());

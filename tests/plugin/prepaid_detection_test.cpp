@@ -335,7 +335,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 {
     fakeSdkSetAnswer(fakeReply(u"balance"));
     FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
-    late.stubborn = true; // sent although the opening window releases the session
+    late.stubborn = true; // sent although opening the window releases the session
     fakeSdkScript({late});
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);

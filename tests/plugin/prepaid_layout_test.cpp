@@ -436,7 +436,7 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// Tests the longest address that is shown completely. Qt elides an address that is one letter
+/// Tests an address that just fits and is shown completely. Qt elides an address that is one letter
 /// longer to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
@@ -497,7 +497,7 @@ QStringList PrepaidLayoutTest::tabOrder()
         roles << nameOf(frame()->focusWidget());
         QTest::keyClick(frame()->focusWidget(), Qt::Key_Tab);
     } while (frame()->focusWidget() != first && roles.count() < 20);
-    roles.removeDuplicates(); // the link is focused separately from its label
+    roles.removeDuplicates(); // the link and its label both receive the focus
     return roles;
 }
 

@@ -210,7 +210,7 @@ void PrepaidOpeningTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// Tests that a command that is truncated by an error in the file is read as an empty command.
+/// Tests a command that is truncated by an error in the file. It is read as an empty command.
 void PrepaidOpeningTest::emptyCommandIsNotSent()
 {
     Account account;

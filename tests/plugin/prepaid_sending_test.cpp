@@ -392,7 +392,7 @@ void PrepaidSendingTest::returnKeyElsewhereSendsNothing()
     }
     QVERIFY(requests().isEmpty());
     balanceButton()->setFocus();
-    QTest::keyClick(balanceButton(), Qt::Key_Return); // must still press the focused button
+    QTest::keyClick(balanceButton(), Qt::Key_Return); // must still press the button
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
@@ -444,7 +444,7 @@ void PrepaidSendingTest::heldReturnAfterARefusalTriesOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-/// Tests repeated key presses without releases, which some remote desktops send.
+/// Tests a held key that is reported as presses without releases, as by some remote desktops.
 void PrepaidSendingTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);

@@ -183,7 +183,7 @@ void ProfileRowsTest::profilesBeyondTheRowsAreKept()
             rows << row("Balance", qPrintable(profile.value));
     }
     QVERIFY(read(rows, shown) == shown);
-    rows[99].code.clear(); // deletes the profile of the last row; profiles beyond the table remain
+    rows[99].code.clear(); // deletes only the profile of the last row
     QCOMPARE(read(rows, shown).count(), 129);
     QVERIFY(read(rows, shown).last() == shown.last());
 }

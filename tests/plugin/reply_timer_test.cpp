@@ -149,7 +149,7 @@ void ReplyTimerTest::busyOwnerDoesNotLengthenTheTime()
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     std::thread other([&] { timer.arm(30000); });
     other.join();
-    now = 30000; // the owner does not handle its events until now
+    now = 30000; // the owner handles events only from now on
     QTRY_VERIFY(!timeouts.isEmpty());
 }
 
@@ -177,7 +177,7 @@ void ReplyTimerTest::laterArmingRunsOutAtItsOwnTime()
     timer.arm(1);
     std::thread other([&] {
         timer.disarm();
-        timer.arm(40); // an early wake-up has no effect
+        timer.arm(40); // the wake-up for the first time-out must have no effect
     });
     other.join();
     QVERIFY(timeouts.wait(10000));

@@ -238,8 +238,8 @@ void ServiceTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
-/// Tests that an unknown type is stored nevertheless. After that, a dialog opened earlier can no
-/// longer request to be closed.
+/// Tests that an unknown type is stored, too. A dialog that was opened earlier can then no longer
+/// request to be closed.
 void ServiceTest::unknownTypeIsRememberedNevertheless()
 {
     service()->DoModal();
@@ -762,8 +762,8 @@ void ServiceTest::ussdSmsWindowFitsItsDialog()
     QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
-/// Tests a close request that does nothing: the stored type is still that of the USSD-SMS window,
-/// which cannot be closed in this way.
+/// Tests a close request after the USSD-SMS window was opened. The stored type is that of this
+/// window, which a close request does not close.
 void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();

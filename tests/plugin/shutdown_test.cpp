@@ -345,8 +345,8 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// Tests a host that shuts the plug-in down in the close event of a frame. It cannot unload the
-/// library there.
+/// Tests a host that shuts the plug-in down in the close event of a frame. The host cannot unload
+/// the library there.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {
     QFETCH(int, type);

@@ -2,8 +2,9 @@
 #define SLOT_TABLE_H
 
 /*
- * Calls the plug-in's interfaces like a host that was built long ago. The calls rely on the order
- * of the base classes and of the slots in the virtual tables (Itanium C++ ABI). They do not use the
+ * Calls the plug-in's interfaces like a host that was built long ago. Instead of the headers, the
+ * calls rely on the order of the base classes and of the slots in the virtual tables (Itanium C++
+ * ABI).
  * headers.
  */
 

@@ -70,7 +70,8 @@ void SmsControlsTest::missingFileLeavesAnEmptyDialogWithoutConnections()
 void SmsControlsTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 {
     writeConfig(QByteArray());
-    // A folder with the name of the file, because not even root can open a folder as a file.
+    // Creates a folder with the name of the file, because not even root can read a folder as a
+    // file.
     QVERIFY(QDir().mkpath(pluginFolder() + latin1("/USSDPluginConfig.xml")));
     open();
     QCOMPARE(timesLogged("InitConfig: return fail for the file can't be open as readonly and text "

@@ -566,8 +566,8 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
     QCOMPARE(m_layout->dialog.width, 9);
 }
 
-/// Tests an undefined entity. An external file could define the entity, and the parser itself would
-/// then skip it.
+/// Tests an undeclared entity. With the reference to an external file, the parser itself would skip
+/// it.
 void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
 {
     const QByteArray control = "<control><command>*10&bad;3#</command></control>";

@@ -128,8 +128,8 @@ void SmsSendingTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests that the typed text decides, not the number. This unusual rule is deliberate, also in the
-/// next two tests.
+/// Tests that the typed text decides whether the message is sent, not the number. This unusual rule
+/// is deliberate. The next two tests also depend on it.
 void SmsSendingTest::emptyNumberIsSentWhenTyped()
 {
     openWith(config().replace("<number>1200</number>", "<number></number>"));
@@ -451,8 +451,8 @@ void SmsSendingTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// Tests a result for a message of another program, which has sent the same text to the same
-/// number.
+/// Tests a result while the dialog is not busy. It may belong to another program that has sent the
+/// same text to the same number.
 void SmsSendingTest::smsResultWhileNotBusyIsShown()
 {
     QFETCH(int, fared);
@@ -517,8 +517,8 @@ void SmsSendingTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// Tests a click after the device has reported the loss from its own thread, before the queued
-/// signal is handled. The field deliberately stays disabled until a service is selected.
+/// Tests a click at the moment when the device has reported the loss but the queued signal has not
+/// been handled. The field deliberately stays disabled until a service is selected.
 void SmsSendingTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);

@@ -88,8 +88,8 @@ void StormTest::setUp()
     allowWarning("../../src/USSDUIPlugin/");
     const ReplyTimes times = {60000, 0};
     USSDLogic::setReplyTimes(times);
-    // With this configuration, no answer makes a window send a command automatically or open a
-    // message box.
+    // With this configuration, no answer causes a window to send a command or to open a message
+    // box.
     writeConfig(completeConfig()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
                     .replace("<ReturnStyle>1", "<ReturnStyle>0"));

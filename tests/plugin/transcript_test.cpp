@@ -61,7 +61,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-// The building blocks of random texts. Each kind causes difficulties of its own.
+// The parts of random texts. Each kind of text is difficult in its own way.
 const char *const WORDS[] = {"Balance", "12.50 EUR", "*100#", "1) Yes", "a", "%s", "%1", "-", "0"};
 const char *const ARABIC[] = {"رصيدك", "١٢٣", "اضغط 1", "ل", "\u200f", "\u200e"};
 const char *const BREAKS[] = {"\n", "\n\n", "\r", "\r\n", "\n ", " \n"};

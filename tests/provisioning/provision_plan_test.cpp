@@ -248,9 +248,9 @@ void ProvisionPlanTest::nameCannotEndTheComment()
     QCOMPARE(sections.count(latin1("Prepaid")), 1);
 }
 
-/// Tests that the generated file is identical to the file that the editor saves. If the bytes are
-/// identical, saving does not count as a change, even if the name has characters that XML does not
-/// allow.
+/// Tests that the generated file is identical to the file that the editor saves, even if the name
+/// has characters that XML does not allow. Saving an identical file does not count as a change by
+/// the user.
 void ProvisionPlanTest::profilesHaveTheBytesThatTheEditorWrites()
 {
     ProvisionPlan plan;

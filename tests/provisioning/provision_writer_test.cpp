@@ -11,7 +11,7 @@
 
 using namespace Provisioning;
 
-/// Tests that no manually created or changed file is lost, at whatever step the program is killed.
+/// Tests that no file created or changed by hand is lost, at whatever step the program is killed.
 class ProvisionWriterTest : public UssdTest
 {
     Q_OBJECT

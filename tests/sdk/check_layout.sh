@@ -18,7 +18,7 @@ compiles() {
 } >"$work/good.h"
 compiles "$work/good.h"
 
-# breaks EDIT: requires that the header does not compile after an edit of its records with sed.
+# breaks EDIT: edits the header with sed and requires that the result does not compile.
 breaks() {
     sed "$1" "$header" >"$work/bad.h"
     if cmp -s "$header" "$work/bad.h"; then

@@ -176,7 +176,7 @@ void SdkDevice::badScenarioChangesNothing()
     const std::string complaint = useNetwork("[Network]\nOperator=x\n");
     QVERIFY(QByteArray(complaint.c_str()).endsWith(":1: [Network]: expected a key IMSI"));
     QCOMPARE(info().operatorName, "Test Net");
-    QCOMPARE(ask(u"1").type, 0); // the session is still open, too
+    QCOMPARE(ask(u"1").type, 0); // the session is also still open
     unregisterAll();
     received().clear();
 }

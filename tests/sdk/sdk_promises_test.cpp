@@ -80,8 +80,8 @@ QString shown(const std::u16string &text)
     return QString::fromStdU16String(text);
 }
 
-/// Waits until the device has finished all earlier requests without a delay. Sends a message, whose
-/// result arrives after the responses to these requests.
+/// Sends a message and waits for its result. By then, the device has finished all earlier requests
+/// that have no delay.
 bool deviceHasCaughtUp()
 {
     const std::size_t before = received().smsResults.all().size();
@@ -696,7 +696,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    // The device is away at first, and then back.
+    // The device disappears and returns.
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
@@ -734,8 +734,8 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the end of the list. Devices differ in the events that they raise for the change
-/// of network itself.
+/// Compares only the end of the list. Devices raise different events for the change of the network
+/// itself.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";

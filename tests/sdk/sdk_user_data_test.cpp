@@ -98,7 +98,7 @@ void SdkUserData::homeHoldsTheFolderOtherwise()
 {
     qputenv("XDG_DATA_HOME", "");
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
-    // The same if the directory already exists.
+    // The second call returns the same path, although the folder exists.
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
 }
 

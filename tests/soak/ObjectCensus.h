@@ -2,8 +2,9 @@
 #define OBJECTCENSUS_H
 
 /**
- * Counts all QObjects created since install() that still exist, with and without a parent. The
- * census uses the hooks that Qt provides for inspection tools, because there is no other way to
+ * Counts the QObjects that were created since install() and still exist, with and without a parent.
+ * The census uses the hooks that Qt provides for inspection tools, because there is no other way to
+ * find a leaked object.
  * find a leaked object.
  */
 namespace ObjectCensus

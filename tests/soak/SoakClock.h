@@ -4,8 +4,8 @@
 #include <QtGlobal>
 
 /**
- * The clock of the simulated network and of the reply time-out, which advances only on request.
- * There is one such clock in the process. now() may be called from any thread. All other functions
+ * The clock of the simulated network and of the reply time-out. The clock advances only on request.
+ * The process has only one such clock. now() may be called from any thread. All other functions
  * must be called from the GUI thread.
  */
 namespace SoakClock

@@ -277,8 +277,8 @@ void SoakHost::waitForAnswer(qint64 before)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Waits until no answer is pending at two consecutive pulses. One pulse is not enough, because
-/// there is a moment between an answer and the next queued command when nothing is pending.
+/// Waits until no answer is pending at two consecutive pulses. One pulse is not enough, because for
+/// a moment between an answer and the next queued command, nothing is pending.
 void SoakHost::waitUntilIdle()
 {
     SoakClock::advance(LONGEST_REPLY);

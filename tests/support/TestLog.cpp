@@ -7,7 +7,8 @@
 
 namespace
 {
-// Some of the plug-in's log lines are warnings. Each of them contains the path of its source file.
+// The source path of the plug-in. It identifies the plug-in's own log lines, some of which are
+// warnings.
 const char PLUGIN_SOURCE_PATH[] = "../../src/USSDUIPlugin/";
 
 // The offscreen platform plug-in prints this for each window. It is not an error of this project.

@@ -13,10 +13,11 @@
 namespace TsanEvents
 {
 #ifdef USSD_THREAD_SANITIZER
-/// Must be called before an event is handled: everything that its sender did earlier happened
-/// before.
+/// Must be called before an event is handled. Tells the sanitizer that everything that its sender
+/// did earlier happened before.
 void acquire();
-/// Must be called after an event has been handled, for threads that wait for it.
+/// Must be called after an event has been handled. Threads that wait for the event are then ordered
+/// after it.
 void releaseHandled();
 #else
 inline void acquire() {}

@@ -6,8 +6,8 @@
 
 #include <thread>
 
-/// Tests the guarantees of UssdTest for correct test classes. Incorrect ones are in
-/// support_failing.cpp.
+/// Tests the guarantees of UssdTest for correct test classes. support_failing.cpp contains
+/// incorrect ones.
 class SupportTest : public UssdTest
 {
     Q_OBJECT
