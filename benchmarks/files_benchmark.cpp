@@ -166,7 +166,7 @@ QHash<QString, int> prefixes(int count)
     return map;
 }
 
-/// Returns IMSIs without a match. All their prefixes are therefore looked up in either map.
+/// Returns IMSIs that no prefix matches, so that a search tries all prefixes of each IMSI.
 QStringList imsis()
 {
     QStringList result;

@@ -137,7 +137,7 @@ void KeyboardTest::theFocusComesBackWithTheAnswer()
     QTRY_VERIFY(window.edit->hasFocus());
 }
 
-/// Exchanges commands and replies with the network, using only key events for the focus widget.
+/// Exchanges commands and replies with the network only by sending key events to the focus widget.
 void KeyboardTest::talk(const GeneralWindow &general)
 {
     QVERIFY(general.isComplete());

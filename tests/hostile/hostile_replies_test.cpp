@@ -332,7 +332,7 @@ void HostileRepliesTest::memoryComesBack()
         QVERIFY(history()->document()->characterCount() > MILLION);
         click(clearButton());
         drainEvents();
-        clearLog(); // the log contains every reply
+        clearLog(); // otherwise the log would keep every reply
         fakeSdkForgetRecords();
         if (round == 1)
             warm = residentBytes();

@@ -1,6 +1,6 @@
 #include "ProfileEditorTest.h"
 
-/** Tests how the profile editor saves. */
+/** Tests how the profile editor saves the profiles. */
 class EditorSavingTest : public ProfileEditorTest
 {
     Q_OBJECT

@@ -66,7 +66,7 @@ void EditorTableTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(cell(4, 0), QString());
 }
 
-/// Tests each way to leave the cell. Tab moves to a cell that is filled and editable.
+/// Tests each way of leaving the cell. Tab moves to a cell that is filled and editable.
 void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);

@@ -48,7 +48,7 @@ void GeneralSendingTest::emptyCommandIsNotSent()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1("x"));
-    commandEdit()->clear(); // the text was not cleared by typing, so Send stays enabled
+    commandEdit()->clear(); // no key was pressed, so Send stays enabled
     QVERIFY(sendButton()->isEnabled());
     click(sendButton());
     QTest::keyClick(combo()->lineEdit(), Qt::Key_Return);
