@@ -34,7 +34,7 @@ const char SILENT[] = "HomeNetwork=99903";
 
 } // namespace
 
-/** Tests how codes of a SIM's operator are proposed, taken and loaded by the plug-in. */
+/** Tests how the codes of the SIM's operator are offered, accepted and loaded by the plug-in. */
 class OperatorCodesTest : public SimTest
 {
     Q_OBJECT
@@ -68,7 +68,7 @@ private:
     QString changedFile();
     void answerBox(bool yes);
 
-    QString m_asked; // the text of the message box that was answered
+    QString m_asked; // the text of the message box that was answered last
 };
 
 void OperatorCodesTest::setUp()

@@ -72,7 +72,7 @@ void ConfigSectionsTest::threeItemSectionTakesFirstPostpaidItem()
                            onlineItem()));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*7#"));
     QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 13);
-    // The scan for "Postpaid" starts after the start of that section and finds nothing.
+    // The search for "Postpaid" starts after the start of that section and finds nothing.
     QCOMPARE(text(POSTPAID, BALANCE, ATTR_COMMAND), QString());
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
@@ -86,7 +86,7 @@ void ConfigSectionsTest::itemNamedInLowerCaseIsConsumedButStoresNothing()
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    // The item was among the four that were read.
+    // The unknown item counts as one of the four items, and MSISDN is the fourth.
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 10);
 }
@@ -175,7 +175,7 @@ void ConfigSectionsTest::sectionsInWrongOrderAreNotFound()
                 "</autoUSSD></c>");
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10);
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
-    QVERIFY(!logic()->IsImsiDynamicMatch()); // the scan for "Postpaid" reached the end of the file
+    QVERIFY(!logic()->IsImsiDynamicMatch()); // the search for "Postpaid" has failed
     QCOMPARE(flagsOf(latin1("1")), -1);
 }
 
@@ -206,7 +206,7 @@ void ConfigSectionsTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// Tests a repeated attribute, which is not well-formed XML. The parser has read both values when
+/// Tests a repeated attribute, which makes the XML malformed. The parser has read both values when
 /// it reports the error.
 void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 {
@@ -224,7 +224,7 @@ void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 
 void ConfigSectionsTest::textCutByAFaultIsEmpty_data()
 {
-    QTest::addColumn<QByteArray>("before"); // the text before the root element
+    QTest::addColumn<QByteArray>("before"); // the text that precedes the root element
     QTest::addColumn<QByteArray>("command");
     QTest::newRow("unknown entity") << QByteArray() << QByteArray("*10&bad;3#");
     QTest::newRow("entity of another file")
@@ -306,8 +306,8 @@ void ConfigSectionsTest::brokenSimSectionIsOff_data()
     QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
 }
 
-/// Tests that a broken section is ignored as a whole. If only some prefixes were read, a SIM card
-/// could get the windows of a shorter prefix.
+/// Tests that an incomplete SIM section is ignored as a whole. If only some of its prefixes were
+/// used, a SIM card could get the windows of a shorter prefix.
 void ConfigSectionsTest::brokenSimSectionIsOff()
 {
     QFETCH(QByteArray, before);
@@ -359,7 +359,8 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    for (const char *child : {"yHeight", "yOffset", "color"}) // the first ones belong to "send"
+    // These elements occur for the first time in "send".
+    for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
         QTest::newRow(child) << QByteArray(child) << true;
@@ -367,9 +368,9 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// Checks the last section, because the getters read the other sections again. A scan for a missing
-/// section runs past the last one, so the last section shows whether the initial scan found all of
-/// them.
+/// Checks only the last section, because the getters read the other sections again. The search for
+/// a missing section would skip all sections after it. If the last section was found, the initial
+/// search has therefore found all the others.
 void ConfigSectionsTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);

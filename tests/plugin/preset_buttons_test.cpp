@@ -12,7 +12,7 @@ namespace
 {
 
 const int PAYMENT_SLOT = 8; ///< the position whose box also contains the payment edit
-const int ROUNDING = 1;     ///< pixels that a layout may lose when it distributes the height
+const int ROUNDING = 1;     ///< the pixels that a layout may lose when it distributes the height
 
 QByteArray nameOf(int index)
 {
@@ -24,7 +24,7 @@ QByteArray codeOf(int index)
     return "*" + QByteArray::number(100 + index) + "#";
 }
 
-/// Returns the position of an item in the grid as "row,column rows x columns".
+/// Returns the grid position of an item as "row,column rows x columns".
 QString placeInGrid(const QGridLayout *grid, int index)
 {
     int row = 0;
@@ -43,9 +43,10 @@ class PresetButtonsTest : public DialogTest
     Q_OBJECT
 
 private:
-    /// Writes profiles "Name 0", "*100#" and so on. A '1' in the mask gives the profile a button.
+    /// Writes profiles "Name 0", "*100#" and so on. Each '1' in the mask gives its profile a
+    /// button.
     void writeProfiles(const QByteArray &mask);
-    /// Writes a profile with a button for each of these codes.
+    /// Writes one profile with a button for each code.
     void writeCodes(const QList<QByteArray> &codes);
     void writeNames(const QList<QByteArray> &names);
     QGridLayout *grid()
@@ -54,7 +55,7 @@ private:
     }
     QString placeOf(QWidget *widget);
     QStringList labels();
-    /// Presses Edit and then Save in the editor.
+    /// Presses Edit in the dialog and then Save in the editor.
     void editAndSave() { editAndPress("SaveButton"); }
     void editAndPress(const char *button);
     QRect shownAt(QWidget *widget);
@@ -162,7 +163,7 @@ void PresetButtonsTest::editAndPress(const char *button)
 {
     bool pressed = false;
     QTimer::singleShot(0, this, [&] {
-        // The editor's window is a child of the widget that contains the dialog.
+        // The window of the editor is a child of the widget that contains the dialog.
         QPushButton *found = page()->findChild<QPushButton *>(
             latin1("USSDUIPlugin_ProfileDialog_") + latin1(button));
         if (!found)
@@ -204,9 +205,9 @@ void PresetButtonsTest::twelfthProfileGetsNoButton()
 void PresetButtonsTest::slotsAreFixedByTheProfilesIndex_data()
 {
     QTest::addColumn<int>("index");
-    // The position of the button's box, or an empty text if it has none.
+    // The position of the button's box, or an empty string if the button has no box.
     QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("alone"); // the position of the button if no other button is shown
+    QTest::addColumn<QString>("alone"); // the position of the button if it is the only one
     QTest::addColumn<QString>("amongAll");
     for (int i = 0; i < 4; ++i)
         QTest::newRow(nameOf(i)) << i << latin1("0,0 4x1") << QString() << QString();
@@ -236,7 +237,7 @@ void PresetButtonsTest::slotsAreFixedByTheProfilesIndex()
             QCOMPARE(placeOf(button), mask == all ? amongAll : alone);
             continue;
         }
-        QStringList places; // the positions of the boxes that contain the button
+        QStringList places; // the positions of all boxes that contain the button
         for (int i = 0; i < grid()->count(); ++i) {
             QLayout *inner = grid()->itemAt(i)->layout();
             if (inner && inner->indexOf(button) >= 0)
@@ -408,7 +409,7 @@ void PresetButtonsTest::paymentButtonWithoutNumberSendsNothing()
     writeCodes({"*1#", "*2*%s#", "*3*%s#"});
     open();
     for (int i : {1, 2}) {
-        presetButtons().at(i)->setEnabled(true); // as a host could do
+        presetButtons().at(i)->setEnabled(true); // a host could make this call
         click(presetButtons().at(i));
     }
     QVERIFY(requests().isEmpty());
@@ -464,7 +465,7 @@ void PresetButtonsTest::numberWithPlaceholderLetterIsNotReplacedAgain()
 {
     writeCodes({"%%s"});
     open();
-    paymentEdit()->setText(latin1("s%s")); // not typed, so not checked
+    paymentEdit()->setText(latin1("s%s")); // the text is not typed, so it is not checked
     presetButtons().first()->setEnabled(true);
     click(presetButtons().first());
     QCOMPARE(requests(), QStringList{latin1("%s%s")});
@@ -513,7 +514,7 @@ void PresetButtonsTest::paymentButtonsFollowThePaymentEdit()
     QTest::keyClick(paymentEdit(), Qt::Key_Backspace);
     QVERIFY(!buttons.at(9)->isEnabled());
     QVERIFY(!buttons.at(10)->isEnabled());
-    QTest::keyClicks(paymentEdit(), latin1("x")); // refused
+    QTest::keyClicks(paymentEdit(), latin1("x")); // the letter is refused
     QVERIFY(!buttons.at(10)->isEnabled());
     for (int i = 0; i < 9; ++i)
         QVERIFY(buttons.at(i)->isEnabled());
@@ -630,7 +631,8 @@ void PresetButtonsTest::codesReadFromLeftToRightInArabicNamesDoNot()
     QCOMPARE(buttons.at(3)->layoutDirection(), Qt::LeftToRight);
 }
 
-/// A tool tip would interpret markup and load a picture.
+/// Tests that names are not interpreted as markup. A tool tip would interpret markup and load
+/// pictures.
 void PresetButtonsTest::namesAreNoMarkup()
 {
     const QByteArray name = "&lt;img src='/dev/zero'&gt; a name that is much too wide";
@@ -665,7 +667,7 @@ void PresetButtonsTest::surplusProfilesHaveNoButton()
     writeProfiles("1011111");
     editAndSave();
     QCOMPARE(labels(), (QStringList{latin1("Name 0"), latin1("Name 2")}));
-    open(); // creates the buttons again
+    open(); // creates all buttons again
     QCOMPARE(presetButtons().count(), 6);
 }
 
@@ -745,7 +747,8 @@ void PresetButtonsTest::comboIsFilledAnewAfterSaving()
     QCOMPARE(descriptionLabel()->text(), QString());
 }
 
-/// Saving clears the hidden combo box, whose text must not affect the visible field.
+/// Tests the visible field after saving. Saving clears the hidden combo box, which must not affect
+/// this field.
 void PresetButtonsTest::afterSavingSendFollowsTheCommandEdit()
 {
     writeProfiles("111");

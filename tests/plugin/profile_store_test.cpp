@@ -26,7 +26,7 @@ using namespace Formats;
 namespace
 {
 
-/// The number of arrays that this thread has allocated and not deleted.
+/// The number of arrays that this thread has allocated but not yet deleted.
 thread_local int arraysOfThisThread = 0;
 
 } // namespace
@@ -104,7 +104,8 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-/// Returns a character that XML 1.0 allows, often one with a special meaning in XML or Unicode.
+/// Returns a random character that XML 1.0 allows, often one with a special meaning in XML or
+/// Unicode.
 QString randomCharacter(std::mt19937 &random)
 {
     static const char16_t special[] = {
@@ -234,7 +235,7 @@ private:
     static QByteArray content(const QString &path);
     static QList<USSDProfile> list(USSDEditCmd &store);
     static QList<USSDProfile> loaded();
-    /// Returns the codes of all profiles. Those of the system file are marked.
+    /// Returns the codes of all profiles, and marks those of the system file.
     static QStringList codes(const QList<USSDProfile> &profiles);
 };
 
@@ -292,7 +293,7 @@ void ProfileStoreTest::laterUserProfileWithTheSameCodeIsDropped()
     writeUserProfiles(profileItem("First", "*1#") + profileItem("Second", "*1#") +
                       profileItem("Third", "*1# "));
     const QList<USSDProfile> profiles = loaded();
-    // Codes that differ in blanks are not equal.
+    // Codes that differ in blanks are different codes.
     QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), latin1("*1# ")}));
     QCOMPARE(profiles.first().name, latin1("First"));
 }
@@ -413,7 +414,7 @@ void ProfileStoreTest::brokenXmlKeepsWhatWasReadBefore()
 void ProfileStoreTest::textCutByAFaultIsEmpty_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("value"); // the code of the profile with the error
+    QTest::addColumn<QString>("value"); // the expected code of the profile that contains the error
     const QByteArray start = "<tksvdoc>" + profileItem("A", "*1#") + "<item><name>B</name>";
     const QByteArray rest = "<readonly>true</readonly></item></tksvdoc>";
     QTest::newRow("no end") << start + "<value>*2" << QString();
@@ -425,8 +426,8 @@ void ProfileStoreTest::textCutByAFaultIsEmpty_data()
     QTest::newRow("behind the value") << start + "<value>*2#</value><&" + rest << latin1("*2#");
 }
 
-/// Values that were read completely are kept, even in the profile with the error. A truncated code
-/// is never used.
+/// Tests that a truncated code is never used. Values that were read completely are kept, even in
+/// the profile that contains the error.
 void ProfileStoreTest::textCutByAFaultIsEmpty()
 {
     QFETCH(QByteArray, content);
@@ -459,7 +460,8 @@ void ProfileStoreTest::missingUserFileKeepsTheSystemProfiles()
 {
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
     QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
-    QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2); // debug and warning
+    // Logged as a debug message and as a warning.
+    QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
     QCOMPARE(timesLogged(latin1("load Enter: xmlFilePath = ") + userFile()), 1);
 }
 
@@ -481,7 +483,7 @@ void ProfileStoreTest::oddUserFileKeepsTheSystemProfiles()
     const QString said = userFile() + latin1(": ") + OddFiles::make(userFile());
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
     QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
-    QCOMPARE(timesLogged(latin1("load ") + said), 2); // debug and warning
+    QCOMPARE(timesLogged(latin1("load ") + said), 2); // logged as a debug message and as a warning
     QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
 }
 
@@ -526,7 +528,7 @@ void ProfileStoreTest::getProfileListReplacesTheCallersList()
     profiles << profile(latin1("old"), latin1("*9#"));
     store.GetProfileList(profiles);
     QCOMPARE(codes(profiles), QStringList{latin1("*1#")});
-    profiles.clear(); // clears a copy
+    profiles.clear(); // clears only a copy
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
 }
 
@@ -574,7 +576,7 @@ void ProfileStoreTest::shippedFileHasElevenProfiles()
         QVERIFY(!each.value.isEmpty());
         QVERIFY(!each.name.isEmpty());
     }
-    QVERIFY(profiles.at(9).value.contains(latin1("%s"))); // the payment buttons
+    QVERIFY(profiles.at(9).value.contains(latin1("%s"))); // profiles 9 and 10 are payment codes
     QVERIFY(profiles.at(10).value.contains(latin1("%s")));
 }
 
@@ -611,7 +613,7 @@ void ProfileStoreTest::textOfTheSdkIsReleasedAsAnArray()
     const int before = arraysOfThisThread;
     unsigned short *units = nullptr;
     QCOMPARE(TKSV_GetUserDataDirectory(&units), 0L);
-    QCOMPARE(arraysOfThisThread, before + 1); // proves that the SDK's allocation is counted
+    QCOMPARE(arraysOfThisThread, before + 1); // proves that the test counts the SDK's allocations
     delete[] units;
     store.getUserProfileXMLFilePath(path);
     QCOMPARE(path, userFile());
@@ -666,7 +668,7 @@ void ProfileStoreTest::legacyFolderWithOtherFilesStays()
 
 void ProfileStoreTest::legacyFileThatCannotBeCopiedStaysInUse()
 {
-    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside"))); // a folder has the name of the file
+    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside"))); // a folder with the name of the file
     USSDEditCmd store;
     clearLog();
     QString path;
@@ -781,7 +783,7 @@ void ProfileStoreTest::failedOpenIs25AndLeavesNoFile()
     QCOMPARE(status, 25);
     QVERIFY(!QFile::exists(userFile()));
     QCOMPARE(timesLogged("saveToXMLFile Exit: XML file open failed"), 2);
-    // The codes are kept and can be saved later.
+    // The codes stay in memory and can be saved later.
     QCOMPARE(codes(list(store)), QStringList{latin1("*2#")});
     QCOMPARE(store.saveToXMLFile(false), 0);
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
@@ -826,7 +828,7 @@ void ProfileStoreTest::systemFolderIsNeverMade()
 {
     USSDEditCmd store;
     QVERIFY(QDir(folder() + latin1("/plugins")).removeRecursively());
-    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // only the last level is missing
+    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // only the last folder is missing
     QCOMPARE(store.saveToXMLFile(true), 25);
     QVERIFY(!QDir(pluginFolder()).exists());
 }
@@ -876,7 +878,7 @@ void ProfileStoreTest::readOnlyFolderIs25()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Tests a directory in which the file cannot be deleted but can be opened.
+/// Tests a read-only folder, in which the file can be opened but not deleted.
 void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 {
     writeUserProfiles(profileItem("U", "*2#"));
@@ -893,8 +895,8 @@ void ProfileStoreTest::readOnlyFolderLeavesAnOldFileToBeWritten()
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
 
-/// A file that cannot be deleted keeps its permissions, because its owner must still be able to
-/// read the file.
+/// Tests that a file that cannot be deleted keeps its permissions. Its owner must still be able to
+/// read it.
 void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
 {
     const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
@@ -908,7 +910,7 @@ void ProfileStoreTest::fileThatCannotBeDeletedStaysReadable()
         const OrdinaryUser user;
         status = store.saveToXMLFile(false);
         QFile file(userFile());
-        QVERIFY(file.open(QIODevice::ReadOnly)); // checks the permissions of the effective user
+        QVERIFY(file.open(QIODevice::ReadOnly)); // checks the effective user's permissions
     }
     QCOMPARE(status, 0);
 }

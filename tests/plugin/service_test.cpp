@@ -14,7 +14,7 @@
 #include "requests/USSDLogic.h"
 #include "windows/USSDService.h"
 
-/** Tests the service with its general window, embedded and in a frame. */
+/** Tests the plug-in's service with its windows, embedded and in a frame. */
 class ServiceTest : public PluginTest
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private slots:
 void ServiceTest::setUp()
 {
     PluginTest::setUp();
-    // With these times, a window that is opened again does not wait for the last command.
+    // With these times, a window that is opened again does not have to wait for the last command.
     const ReplyTimes times = {60000, 1};
     USSDLogic::setReplyTimes(times);
     writeSystemProfiles(profileFile(profileItem("Balance", "*100#")));
@@ -206,7 +206,7 @@ void ServiceTest::doModalTwiceReusesFrameAndDialog()
     QCOMPARE(service()->DoModal(), 1);
     QCOMPARE(frame(), firstFrame);
     QCOMPARE(framedDialog(), firstDialog);
-    // The dialog was reset.
+    // The dialog has been reset.
     QVERIFY(part<QTextEdit>(firstDialog, "History")->toPlainText().isEmpty());
     QCOMPARE(service()->DoPrePostPaidModal(PAID_TYPE_GENERAL), 1);
     QCOMPARE(frame(), firstFrame);
@@ -238,7 +238,8 @@ void ServiceTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
-/// A dialog that was opened earlier can then no longer request to be closed.
+/// Tests that an unknown type is stored, too. A dialog that was opened earlier can then no longer
+/// request to be closed.
 void ServiceTest::unknownTypeIsRememberedNevertheless()
 {
     service()->DoModal();
@@ -269,7 +270,7 @@ void ServiceTest::framesAreCentredOverTheMainWindow()
     QFETCH(int, type);
     m_mainWindow->move(60, 40);
     service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
-    // The plug-in has moved the frame; otherwise QDialog would do so when it is shown.
+    // The plug-in has moved the frame. Otherwise QDialog would position it when it is shown.
     QVERIFY(frame()->testAttribute(Qt::WA_Moved));
     const QPoint apart = frame()->frameGeometry().center() - m_mainWindow->frameGeometry().center();
     QVERIFY2(apart.manhattanLength() <= 4,
@@ -297,7 +298,7 @@ void ServiceTest::rejectedFrameIsClosed_data()
     QTest::newRow("general") << 3;
 }
 
-/// A host's frame may be rejected without a close event, as QDialog does.
+/// Tests a frame that is rejected without a close event, as QDialog may do.
 void ServiceTest::rejectedFrameIsClosed()
 {
     QFETCH(int, type);
@@ -330,7 +331,7 @@ void ServiceTest::closeRequestClosesTheWindowOfItsTypeOnly()
         if (other != type)
             service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(other));
     }
-    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last type is remembered
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last type is stored
     QStringList closed;
     for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
         connect(one, &ExtendDialog::dlgCloseEvent,
@@ -433,7 +434,7 @@ void ServiceTest::showPrePostPaidWindowShowsNothingForPrepaid()
 {
     service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
     QCOMPARE(service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_PREPAID), 0);
-    service()->Hide(); // does nothing, because the remembered type is not the general window
+    service()->Hide(); // does nothing, because the stored type is not the general window
     QVERIFY(embeddedDialog()->isVisible());
 }
 
@@ -464,7 +465,7 @@ void ServiceTest::fitSizeMovesAndSizes()
 void ServiceTest::fitSizeBeforeAnyWindowMakesNoDialog()
 {
     service()->FitSize(m_rect);
-    QVERIFY(fakeSdkCalls().empty()); // the logic object was not created
+    QVERIFY(fakeSdkCalls().empty()); // the logic object has not been created
     for (QWidget *widget : QApplication::allWidgets())
         QVERIFY(!qobject_cast<USSDGeneralDlg *>(widget));
 }
@@ -600,7 +601,7 @@ void ServiceTest::languageEventReachesTheDialogOfType()
              1);
 }
 
-/// A host may shut the plug-in down when the first frame is closed.
+/// Tests a host that shuts the plug-in down when the first frame is closed.
 void ServiceTest::imsiEventMayEndInAShutDown()
 {
     for (int type : {3, 1, 0})
@@ -675,7 +676,7 @@ void ServiceTest::prepaidWindowShownThriceAsksOnceEachTime()
 {
     for (size_t i = 1; i <= 3; ++i) {
         service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
-        // The request for the own number waits for the balance.
+        // The own number is requested only after the balance has been answered.
         QCOMPARE(fakeSdkCommands().size(), i);
     }
 }
@@ -761,7 +762,8 @@ void ServiceTest::ussdSmsWindowFitsItsDialog()
     QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
-/// The remembered type is still that of the USSD-SMS window, which a close request does not close.
+/// Tests a close request after the USSD-SMS window was opened. The stored type is that of this
+/// window, which a close request does not close.
 void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();
@@ -769,7 +771,7 @@ void ServiceTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
     QVERIFY(general->isVisible());
-    // This call has the effect of closing the window.
+    // This call has the same effect as closing the window.
     QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
     drainEvents();
     QVERIFY(!general);
@@ -822,7 +824,7 @@ void ServiceTest::detectionWorksWithoutAWindow()
 
 // ---- shutting down ---------------------------------------------------------------------------
 
-/// The code of some classes is in several files. The log lines of such a class name only one of
+/// Tests classes whose code is in several files. The log lines of such a class name only one of
 /// these files.
 void ServiceTest::logLinesNameTheFileOfTheirClassFamily()
 {

@@ -9,7 +9,7 @@
 
 using namespace Formats;
 
-/** Tests the reader of the USSD-SMS dialog's section with valid and malicious files. */
+/** Tests the parser of the USSD-SMS dialog's layout section with valid and malicious files. */
 class SmsLayoutTest : public UssdTest
 {
     Q_OBJECT
@@ -136,7 +136,7 @@ const CWidgetItemInfo *SmsLayoutTest::onlyControl()
     return controls && controls->controls.count() == 1 ? controls->controls.first() : nullptr;
 }
 
-/// Returns the only control of the only group, or null if it was not read.
+/// Returns the only control of the only group, or null if the control was not read.
 const CWidgetItemInfo *SmsLayoutTest::readControl(const QByteArray &control)
 {
     m_layout.reset(new SmsLayout);
@@ -424,7 +424,7 @@ void SmsLayoutTest::numbersBeyondAnyScreenStayUsable()
     const CWidgetItemInfo *control =
         readControl("<control posx='2147483647' posy='-2147483648' width='2147483647' "
                     "height='2147483647'/>");
-    QCOMPARE(control->width, 2147483647); // the width in the file
+    QCOMPARE(control->width, 2147483647); // the width given in the file
     const QRect place = SmsLayoutFile::geometry(*control, 500, false);
     QCOMPARE(place, QRect(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     QVERIFY(complained("width 2147483647 is out of range"));
@@ -566,7 +566,8 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
     QCOMPARE(m_layout->dialog.width, 9);
 }
 
-/// The entity could be defined in an external file. In that case the parser itself would skip it.
+/// Tests an undeclared entity. With the reference to an external file, the parser itself would skip
+/// it.
 void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
 {
     const QByteArray control = "<control><command>*10&bad;3#</command></control>";

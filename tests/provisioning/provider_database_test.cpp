@@ -4,7 +4,7 @@
 
 using namespace Provisioning;
 
-/// Tests reading valid, broken and malicious databases.
+/// Tests the parser with valid, malformed and malicious databases.
 class ProviderDatabaseTest : public UssdTest
 {
     Q_OBJECT

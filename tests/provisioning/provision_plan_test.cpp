@@ -11,7 +11,7 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests where an operator's codes are placed, and the files generated from them.
+/// Tests where an operator's codes are placed, and the files that are generated from them.
 class ProvisionPlanTest : public UssdTest
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ void ProvisionPlanTest::templates_data()
     plain("*101#", "*101#");
     plain("#123#", "#123#");
     plain("*#10#", "*#10#");
-    plain("*101*CODE#", ""); // nothing is replaced without the attribute
+    plain("*101*CODE#", ""); // without the attribute, nothing is replaced
     plain("*101*%s#", "");
     plain("*101", "");
     plain("101#", "");
@@ -248,8 +248,9 @@ void ProvisionPlanTest::nameCannotEndTheComment()
     QCOMPARE(sections.count(latin1("Prepaid")), 1);
 }
 
-/// The editor saves this file whenever the user saves own codes. Identical bytes do not count as a
-/// change, even if the name has characters that XML does not allow.
+/// Tests that the generated file is identical to the file that the editor saves, even if the name
+/// has characters that XML does not allow. Saving an identical file does not count as a change by
+/// the user.
 void ProvisionPlanTest::profilesHaveTheBytesThatTheEditorWrites()
 {
     ProvisionPlan plan;

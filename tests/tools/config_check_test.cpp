@@ -16,7 +16,7 @@ using namespace Formats;
 using namespace Provisioning;
 using namespace Tools;
 
-/// Tests the findings for valid, mistaken, broken and malicious files.
+/// Tests the findings for valid, incorrect, malformed and malicious files.
 class ConfigCheckTest : public UssdTest
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ QStringList rulesOf(const CheckReport &report)
     return rules;
 }
 
-/// Returns the number of the first line with this text, counted from 1.
+/// Returns the number of the first line that contains this text, counted from 1.
 qint64 lineOf(const QByteArray &content, const QByteArray &text)
 {
     const int at = content.indexOf(text);
@@ -120,8 +120,8 @@ void addMistake(const char *title, const char *before, const char *after, const 
                          << QString::fromLatin1(text) << hasLine;
 }
 
-/// Replaces the first `before` and checks that one of the findings has the rule, the text and, if
-/// the changed text still exists, its line.
+/// Replaces the first occurrence of `before`. Checks that one of the findings has the expected rule
+/// and text and, if the changed text still exists, the number of its line.
 void checkMistake(QByteArray content)
 {
     QFETCH(QByteArray, before);
@@ -328,7 +328,7 @@ void ConfigCheckTest::missingThirdItemShowsWhoseValuesAreTaken()
     QVERIFY2(findingsText(report).contains(
                  QLatin1String("this item \"Balance\" of <Postpaid> becomes its item 4")),
              qPrintable(findingsText(report)));
-    // The plug-in's own tables have the same values.
+    // The plug-in's own tables contain the same values.
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*110#")));
 }
 
@@ -390,7 +390,7 @@ void ConfigCheckTest::nearlyFullFilesWithFindingsStillHaveTables()
     QVERIFY(rulesOf(report).contains(QLatin1String("missing")));
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*100#")));
     QVERIFY(tableRow(report, "Postpaid", "Balance").contains(QLatin1String("hidden")));
-    // The first finding is the cause. Its consequences are reported once each.
+    // The first finding is the cause. Each of its consequences is reported once.
     QCOMPARE(rulesOf(report).count(QLatin1String("missing")), 1);
     QCOMPARE(rulesOf(report).count(QLatin1String("order")), 4);
 }
@@ -452,7 +452,7 @@ void ConfigCheckTest::everyPrefixIsChecked()
     QVERIFY(deep.tables.isEmpty());
 }
 
-/// The plug-in's scan and the trace take the same steps through random documents.
+/// Tests that the trace takes the same steps through random documents as the plug-in's search.
 void ConfigCheckTest::traceWalksAsThePluginDoes()
 {
     QRandomGenerator random(20261120);
