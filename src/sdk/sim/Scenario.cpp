@@ -8,14 +8,14 @@ namespace Tksv
 namespace
 {
 
-/// Returns whether the text contains characters that have a meaning in group names. A client's text
-/// with such characters must not match a group.
+/// Returns true if the string contains characters that have a special meaning in group names. A
+/// client's string that contains such characters must not match a group.
 bool hasSyntaxMarks(const std::string &text)
 {
     return text.find_first_of("%/ ") != std::string::npos;
 }
 
-/** A part of a text with {names}: plain text that is followed by a name, which may be empty. */
+/** A part of a string with {names}: plain text, followed by a name, which may be empty. */
 struct TextPart {
     std::string plain;
     std::string name;
