@@ -25,7 +25,7 @@ QString findLibraryFolder()
 }
 
 // Returns the folder of this library. The path is resolved only once, because the loader may have
-// stored a path that is relative to the working directory at the start of the program.
+// stored a path relative to the working directory at program start.
 QString libraryFolder()
 {
     static const QString folder = findLibraryFolder();
@@ -44,7 +44,7 @@ QString withoutTrailingSeparators(QString path)
  * the installed folder.
  */
 struct ChosenFolder {
-    QMutex mutex; // guards the path
+    QMutex mutex; // guards `path`
     QString path;
 };
 

@@ -127,7 +127,7 @@ void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ)
     differ.returnPattern = textOf(reader, XmlName::RETURN_PATTERN);
     differ.style = numberOf(reader, XmlName::STYLE);
     if (reader.hasError())
-        differ.value = false; // half a section would misjudge every reply
+        differ.value = false; // an incomplete section would misinterpret every reply
 }
 
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config)
@@ -175,7 +175,8 @@ void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD)
     while (ForwardXml::skipToBefore(reader, item, QLatin1String(XmlName::AUTO_USSD)))
         readSim(reader, autoUSSD);
     if (reader.hasError()) {
-        autoUSSD = AutoUSSD(); // with half of the prefixes, a SIM could get the windows of another
+        autoUSSD =
+            AutoUSSD(); // with incomplete prefixes, a SIM could get the windows of another SIM
         return;
     }
     while (ForwardXml::skipTo(reader, item))
@@ -198,8 +199,8 @@ int windowFlags(const QString &list)
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags)
 {
     flags = 0;
-    // Each prefix is looked up, from the longest to the shortest, so that the time does not depend
-    // on the size of the map.
+    // Look up each prefix, starting with the longest. The time therefore does not depend on the
+    // size of the map.
     for (int length = imsi.length(); length > 0; --length) {
         const QHash<QString, int>::const_iterator found = prefixes.constFind(imsi.left(length));
         if (found != prefixes.constEnd()) {
