@@ -4,16 +4,15 @@
 #include <QString>
 
 /*
- * Distinguishes the tags in a reply from a "<" that is plain text. A rich-text document would treat
- * such a "<" as the start of a tag and drop the text after it, as in "Balance < 5 EUR". Transcript
- * escapes each such "<" before it builds an entry. MarkupCost estimates how expensive the real tags
- * are.
+ * Distinguishes tags in a reply from a "<" that is plain text. A rich-text document treats such a
+ * "<" as the start of a tag and drops the text after it, as in "Balance < 5 EUR". Transcript
+ * escapes each such "<" before it creates an entry. MarkupCost estimates the cost of the real tags.
  */
 namespace MarkupEscaping
 {
 
-/// Returns `text` with each "<" escaped that does not start a complete tag known to Qt. A tag whose
-/// name is written with entities or in quotes is not recognised and is also escaped.
+/// Returns `text` with each "<" escaped unless it starts a complete tag known to Qt. A tag whose
+/// name contains entities or quotes is not recognized and is also escaped.
 QString withOthersAsLetters(const QString &text);
 
 } // namespace MarkupEscaping

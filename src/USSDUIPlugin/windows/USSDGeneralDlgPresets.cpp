@@ -26,28 +26,28 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 namespace
 {
 
-// The slots of the preset buttons: two boxes with four slots each, a box with one slot and the
+// The slots for the preset buttons: two boxes with four slots each, a box with one slot and the
 // payment field, and two slots outside the boxes.
 const int SLOTS = 11;
 const int SLOTS_IN_BOX = 4;
 const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
-const int RIGHT_COLUMN = 2; // the first of five columns with the transcript and the entry
+const int RIGHT_COLUMN = 2; // the first of the five columns with the transcript and the input field
 const int RIGHT_COLUMNS = 5;
 const int PROMPT_ROW = 8;
 const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int BOX_SPACING = 4;        // pixels; a larger spacing does not fit into the fixed window
+const int BOX_SPACING = 4;        // in pixels; the fixed window is too small for a larger spacing
 
-const int ELIDE_WIDTH = 127; // pixels; independent of the width of the button
+const int ELIDE_WIDTH = 127; // in pixels; does not depend on the width of the button
 const int PAY_BUTTONS = 2;   // the last ones
 
-/// Returns the width of a text plus some room around it, within the limits.
+/// Returns the text width plus a margin, clamped to the limits.
 int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);
 }
 
-/// Sets the text of a button. A code is read from left to right in every language; a name follows
+/// Sets the text of a button. A code is read from left to right in every language. A name follows
 /// the direction of the language.
 void setProfileText(QPushButton *button, const QString &text)
 {
@@ -58,8 +58,8 @@ void setProfileText(QPushButton *button, const QString &text)
     button->setText(text);
 }
 
-/// Makes the tool tip show its text literally. Otherwise Qt would interpret text that looks like
-/// markup, and would load an image that is named in it.
+/// Makes the tool tip show its text literally. Otherwise, Qt would interpret text that looks like
+/// markup, and would load images that the text refers to.
 void keepToolTipPlain(QPushButton *button)
 {
     const QString tip = button->toolTip();
@@ -205,7 +205,7 @@ void USSDGeneralDlg::OnClickedEditButton()
     const QPointer<USSDGeneralDlg> self(this);
     USSDEditCmd editor;
     editor.InitDialog(parentWidget());
-    // If the host deletes this dialog, the event loop of the editor must end as well.
+    // If the host deletes this window, the event loop of the editor must also end.
     connect(this, SIGNAL(destroyed()), &editor, SLOT(OnClickedCancelButton()));
     const bool saved = editor.Exec();
     if (!self || !saved)
@@ -230,7 +230,7 @@ void USSDGeneralDlg::update4EditCommandSave()
     resetWidgetsWidth4DyncBtnArea();
 }
 
-/// Assigns the visible profiles to the existing buttons. No button is created or deleted.
+/// Assigns the visible profiles to the existing buttons. Does not create or delete any buttons.
 void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
@@ -286,7 +286,7 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
 }
 
 /// Adds the button of a slot. A slot belongs to the profile with the same index. If this profile is
-/// missing or not shown, the slot stays empty.
+/// missing or hidden, the slot remains empty.
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
@@ -311,7 +311,7 @@ void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
     }
 }
 
-/// Returns the button of a slot, or null if the profile of the slot is missing or not shown.
+/// Returns the button of a slot, or null if the profile of the slot is missing or hidden.
 QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 {
     if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)
@@ -337,8 +337,8 @@ void USSDGeneralDlg::addFixedElements(int row)
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
-    // Two lines are reserved for the prompt, so that the other widgets do not move when it appears
-    // or disappears.
+    // Reserve two lines for the prompt, so that the other widgets do not move when the prompt
+    // appears or disappears.
     m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
@@ -372,7 +372,7 @@ void USSDGeneralDlg::initTabOrder()
     }
 }
 
-/// Adjusts the widths of the bottom buttons to their texts. Nothing calls this function at present.
+/// Adjusts the widths of the bottom buttons to their texts. Currently, this function is not called.
 void USSDGeneralDlg::setRightLayoutBottomButtons()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();

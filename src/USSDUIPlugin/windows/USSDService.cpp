@@ -32,8 +32,9 @@ const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
-/// is limited, because a size from a file could be negative or need more memory than there is.
+/// Sets the fixed size of the frame to the size of the window, plus 20 pixels of height. The size
+/// is limited, because a size from the file could be negative or require more memory than is
+/// available.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {
@@ -91,7 +92,7 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // This line has the time after the source and the function, because readers of logs expect this
+    // In this line, the time is after the source and the function, because log parsers expect this
     // form.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
@@ -102,7 +103,7 @@ QString CUSSDService::tr(const QString &key)
     return pluginText(key);
 }
 
-// ---- questions to the logic ------------------------------------------------------------------
+// ---- queries to the logic --------------------------------------------------------------------
 
 int CUSSDService::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
 {
@@ -147,8 +148,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down when one of them closes, so this object may no longer
-/// exist after each closing.
+/// Closes the frames. The host may shut down when one of the frames is closed. Therefore, this
+/// object may not exist any more after a frame was closed.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
@@ -164,7 +165,7 @@ void CUSSDService::changeLanguage()
     setLanguageIfExists(m_pGeneralModalDlg);
     setLanguageIfExists(m_pGeneralEmbeddedDlg);
     setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames receive new titles and the size that the new texts need.
+    // Open frames receive new titles and the size required by the new strings.
     if (m_pPrepaidFrame && m_pPrepaidDlg) {
         m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
         fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
@@ -231,7 +232,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// Creates a frame for the prepaid, the postpaid or the USSD-SMS dialog.
+/// Creates a frame for the prepaid, the postpaid or the USSD-SMS window.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))
@@ -277,7 +278,7 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// Replaces the connection that was made when the dialog was shown earlier, so that no signal is
+/// Replaces a connection that was made when the window was shown earlier, so that no signal is
 /// handled twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
@@ -432,7 +433,7 @@ void CUSSDService::OnClickedCloseButton()
 
 /// Deletes the frame later, because this function may run in the close event of the frame. The
 /// service keeps a list of such frames, because a host that shuts down immediately may unload the
-/// library before the frames are deleted.
+/// library before the frames have been deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
     m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes null pointers
