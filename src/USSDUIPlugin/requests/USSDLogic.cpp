@@ -230,8 +230,8 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
 }
 
 /// Sends the head to the device. Intentionally, no signal is emitted after a failure, because the
-/// caller receives the result. The commands after the failed command are not sent until a new
-/// command is sent or a late reply arrives.
+/// caller receives the result. The commands after the failed command remain in the queue until a
+/// late reply arrives or the queue is cleared.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();
