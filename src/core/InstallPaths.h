@@ -7,9 +7,10 @@ namespace HostCore
 {
 
 /**
- * The paths of the program's files. They are relative to the path of this library, so that an
- * installed prefix can be moved. The build tree has the same layout. No path ends in a separator.
- * PluginFolderChoice has the folder of the plug-in's files. May be used on any thread.
+ * The paths of the program's files. They are determined relative to the path of this library, so
+ * that the installation prefix can be moved. The build tree has the same layout. The paths do not
+ * end with a separator. The functions may be called from any thread. See PluginFolderChoice for the
+ * folder of the plug-in's files.
  */
 class Q_DECL_EXPORT InstallPaths
 {
@@ -17,10 +18,10 @@ public:
     /// Returns the folder of this library. The path is resolved only once, because the loader may
     /// have stored a path that is relative to the working directory at the start of the program.
     static QString library();
-    /// Returns the folder of architecture-independent data.
+    /// Returns the folder for architecture-independent data.
     static QString share();
     static QString translations();
-    /// Returns the folder of the simulated networks, each of which has one file.
+    /// Returns the folder that contains the scenario files of the simulated networks.
     static QString scenarios();
 };
 

@@ -26,7 +26,7 @@ QString withoutTrailingSeparators(QString path)
  * the installed folder.
  */
 struct ChosenFolder {
-    QMutex mutex; // guards the path
+    QMutex mutex; // guards `path`
     QString path;
 };
 

@@ -8,7 +8,7 @@ namespace
 
 const char SEPARATOR[] = "--";
 
-/** Parses the words one after another. */
+/** Parses the command-line arguments one after another. */
 class Parser
 {
 public:
@@ -127,8 +127,8 @@ void Parser::parseRest()
     m_words.clear();
 }
 
-// Sets the mode. The first --help or --version overrides all other modes. The other modes exclude
-// each other.
+// Sets the mode. The first --help or --version overrides all other modes. The other modes are
+// mutually exclusive.
 void Parser::setMode(Arguments::Mode mode)
 {
     const Arguments::Mode earlier = m_result.mode;

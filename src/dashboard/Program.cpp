@@ -44,7 +44,7 @@ bool isSet(const char *variable)
     return !qgetenv(variable).isEmpty();
 }
 
-/// Returns whether there is a display. Without one, Qt would terminate the program.
+/// Returns true if there is a display. Without a display, Qt would terminate the program.
 bool hasDisplay()
 {
     return isSet(PLATFORM) || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
@@ -66,9 +66,9 @@ bool namesDevice(const Arguments &arguments)
     return !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// Returns the device that the command line names, or else the one that the environment names, or
-/// else the one that was chosen last. A user who names a scenario must not get a modem, because its
-/// commands may cost money.
+/// Returns the device specified on the command line, or else in the environment, or else the device
+/// that was chosen most recently. A user who specifies a scenario must not get a modem, because
+/// commands sent through a modem may cost money.
 DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings)
 {
     if (!arguments.modem.isEmpty())
@@ -80,7 +80,7 @@ DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &s
     return isSet("TKSV_SCENARIO") ? DeviceChoice::simulated(QString()) : settings.device();
 }
 
-/// Selects the device. If a scenario from the settings can no longer be used, selects the automatic
+/// Selects the device. If a scenario from the settings can no longer be used, makes the automatic
 /// choice instead. Returns the error in the scenario file.
 QString useDevice(DeviceChoice *choice)
 {
@@ -105,7 +105,7 @@ bool isDeviceReady(const Arguments &arguments)
     return isReady;
 }
 
-/// Returns whether there is a font. Without a font, Qt draws the same box for every letter.
+/// Returns true if a font is installed. Without a font, Qt draws the same box for every letter.
 bool hasFonts()
 {
     QPainterPath narrow;
@@ -115,8 +115,7 @@ bool hasFonts()
     return narrow != wide;
 }
 
-/// Warns about missing fonts and about settings that cannot be written, before the user relies on
-/// them.
+/// Warns the user if fonts are missing or the settings cannot be written.
 void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
 {
     if (!hasFonts())
@@ -125,8 +124,8 @@ void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
 }
 
-/// Saves the settings. A failure is reported even when the program ends, because the disk may have
-/// become full in the meantime.
+/// Saves the settings. A failure is reported even if the program is about to end, because the disk
+/// may have become full in the meantime.
 void saveSettings(DashboardSettings *settings, MainWindow *window)
 {
     if (!settings->save())
@@ -141,7 +140,8 @@ int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands
     CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
     const bool sent = sender.send(commands);
     int status = 0;
-    TKSV_USSDSrv_Release(&status); // closes an open menu, which the next program would find
+    TKSV_USSDSrv_Release(
+        &status); // closes an open menu, which would otherwise affect the next program
     plugin.shutDown();
     return sent ? EXIT_GOOD : EXIT_BAD;
 }
@@ -173,7 +173,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // updates widgets, too
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -194,7 +194,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = QApplication::exec();
-    plugin.shutDown(); // must happen before the window that contains the plug-in's page is deleted
+    plugin
+        .shutDown(); // must be called before the window that contains the plug-in's page is deleted
     saveSettings(&settings, &window);
     return result;
 }

@@ -10,8 +10,8 @@ namespace Formats
 namespace
 {
 
-/// Raises an error for an undeclared entity. Otherwise the parser would continue without the
-/// entity, and a code that contains it would become another code.
+/// Raises an error for an undeclared entity. Otherwise, the parser would skip the entity, and a
+/// USSD code that contains the entity would become a different code.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
@@ -48,8 +48,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// The function counts the depth of nested elements. QXmlStreamReader::readElementText() calls
-/// itself for each nested element instead, so deep nesting would overflow the stack.
+/// Counts the depth of nested elements. In contrast, QXmlStreamReader::readElementText() calls
+/// itself for each nested element, so that deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

@@ -70,8 +70,8 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// Narrows down the operators with the name that the user has chosen. Uses the network for this
-/// purpose.
+/// If several operators have the name that the user has chosen, keeps only those that match the
+/// network. If none of them matches, keeps all of them.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {
@@ -82,7 +82,7 @@ ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
     return choiceOf(candidates);
 }
 
-/// Returns whether the SIM's name begins with the whole words of the name: "Telekom.de" begins with
+/// Returns true if the SIM's name begins with complete words of the name: "Telekom.de" begins with
 /// "Telekom", but "Telekomik" does not.
 bool beginsWithName(const QString &simName, const QString &name)
 {
@@ -109,10 +109,10 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
     return found;
 }
 
-/// Narrows down the candidates with the SIM's name. If the SIM's name only begins with the name of
-/// a candidate, the SIM may belong to a virtual operator on the network. If no candidate has the
-/// name, the operator may be missing from the database. In both cases, the choice is ambiguous,
-/// unless the only candidate has a similar name.
+/// Narrows down the candidates with the help of the SIM's name. If the SIM's name only begins with
+/// the name of a candidate, the SIM may belong to a virtual operator on the network. If no
+/// candidate has the SIM's name, the operator may be missing from the database. In both cases, the
+/// choice is ambiguous unless the only candidate has a similar name.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())

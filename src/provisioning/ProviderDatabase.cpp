@@ -89,7 +89,8 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// Returns the text of the current element and its descendants, without blanks at either end.
+/// Returns the text of the current element and its descendants, without leading and trailing
+/// blanks.
 QString Reader::text()
 {
     QString text;

@@ -11,11 +11,11 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button among the buttons of the general window, counted from 0.
+// The position of the first payment button among the buttons of the general window, starting at 0.
 const int FIRST_PAYMENT_SLOT = 9;
-const int PAYMENT_BUTTONS = 2; // the last two buttons always use the entered number
+const int PAYMENT_BUTTONS = 2; // the last two buttons always use the number that the user enters
 
-/** A kind of code, and the keys of its names in the plug-in. */
+/** A kind of code, and the text keys of its names in the plug-in. */
 struct Kind {
     const char *name;
     const char *textKey;
@@ -76,7 +76,7 @@ ProvisionPlan Planner::plan()
 }
 
 /// Adds all codes to the plan. Returns the first code that the account window can use. `withInput`
-/// is whether this code needs input.
+/// is true if this code requires input.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;
@@ -97,7 +97,7 @@ QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool w
     return first;
 }
 
-/// Adds a code. Returns the code if the account window can use it, otherwise an empty text.
+/// Adds a code. Returns the code if the account window can use it, otherwise an empty string.
 QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withInput)
 {
     const UssdTemplate ussd = ussdTemplate(code);
@@ -109,7 +109,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// Adds a code that the network answers with a menu, which only the general window can show.
+/// Adds a code to which the network replies with a menu. Only the general window can show menus.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
@@ -128,7 +128,7 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
     PlannedMessage message;
     message.textKey = QLatin1String(kind.textKey);
     message.explanation = code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") +
-                          code.code; // U+2192, an arrow that is clear in any language
+                          code.code; // U+2192, an arrow that is understood in any language
     message.text = code.smsText;
     message.number = code.code;
     m_plan.messages << message;
@@ -155,8 +155,8 @@ bool Planner::hasProfile(const QString &code) const
     return false;
 }
 
-/// Gives several profiles or messages of a kind different names, so that the user can distinguish
-/// them.
+/// Makes the names of profiles and messages of the same kind unique, so that the user can
+/// distinguish them.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);
@@ -186,9 +186,9 @@ void Planner::note(const ProviderCode &code, const QString &what)
     m_plan.notes << QString::fromLatin1("line %1: ").arg(code.line) + what;
 }
 
-/// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
-/// until a number is entered. A code without input therefore has a button only if two codes with
-/// input follow. Otherwise it is available only in the list of codes.
+/// Sorts the profiles for the buttons. The last two buttons of the general window do not send
+/// anything until a number is entered. Therefore, a code without input has a button only if two
+/// codes with input follow. Otherwise, it is available only in the list of codes.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;

@@ -16,14 +16,14 @@ namespace Tksv
 namespace
 {
 
-/// The time that the choice waits for a slow ModemManager to list its modems before it selects the
-/// simulator.
+/// The time that BackendChoice waits for a slow ModemManager to list its modems. After this time,
+/// BackendChoice selects the simulator.
 const std::chrono::milliseconds FIRST_LOOK_LIMIT(2000);
 
-/// The time that the program's exit waits for an unfinished replacement of the backend.
+/// The time that the exiting program waits for the backend to be replaced.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-/// Returns the scenario of an absent device, which is used instead of a file that cannot be read.
+/// Returns the scenario of an absent device. It replaces a scenario file that cannot be read.
 Scenario absentDevice(const std::string &source)
 {
     Scenario scenario;
@@ -32,8 +32,8 @@ Scenario absentDevice(const std::string &source)
     return scenario;
 }
 
-/// Returns the network of the initial scenario. Prints complaints about the file to stderr, since
-/// no call of the client can report them.
+/// Returns the network of the initial scenario. Prints the errors in the file to stderr, because no
+/// call of the client can report them.
 std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();
@@ -81,7 +81,7 @@ void BackendChoice::stop()
     m_tasks.stop(EXIT_LIMIT);
 }
 
-/* ---- calls of the client ----------------------------------------------------------------- */
+/* ---- calls from the client --------------------------------------------------------------- */
 
 std::shared_ptr<Backend> BackendChoice::backendOf(const Device &device)
 {
@@ -120,7 +120,7 @@ std::string BackendChoice::useScenario(const std::string &path)
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     m_mode = Mode::Simulator;
     if (m_initialMode != Mode::Simulator)
-        startWatch(); // the watch provides the list of modems
+        startWatch(); // the watch provides the modem list
     replace(std::make_shared<SimulatedNetwork>(*std::move(result.scenario)));
     return std::string();
 }
@@ -140,7 +140,7 @@ void BackendChoice::useAutomatic()
     replace(decide());
 }
 
-/* ---- m_switchMutex is held from here on -------------------------------------------------- */
+/* ---- m_switchMutex is locked in the following functions ---------------------------------- */
 
 BackendChoice::Device BackendChoice::decide()
 {
@@ -154,8 +154,9 @@ BackendChoice::Device BackendChoice::decide()
     return initialNetwork();
 }
 
-/// Stops the old backend before it starts the new one, so that their events never mix. The old
-/// request and session end with the old backend. Only a waiting device hands over its request.
+/// Stops the old backend before starting the new one, so that their events never mix. The old
+/// request and session end with the old backend. Only a waiting device passes its request on to the
+/// new backend.
 void BackendChoice::replace(const Device &next)
 {
     if (m_stopped)
@@ -166,7 +167,7 @@ void BackendChoice::replace(const Device &next)
     const auto *const waiting = std::get_if<std::shared_ptr<WaitingDevice>>(&old);
     if (oldBackend && !waiting)
         end(*oldBackend);
-    // The new status is reported before the new backend can report a change.
+    // Report the new status before the new backend can report a change.
     m_observer.smsStatusChanged(nextBackend->info().canSendSms);
     start(next);
     if (waiting)
@@ -176,7 +177,7 @@ void BackendChoice::replace(const Device &next)
 
 void BackendChoice::end(Backend &old)
 {
-    old.stop(); // a device that the old backend finds until here is lost, too
+    old.stop(); // also discards a device that the old backend has found in the meantime
     if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }
@@ -188,8 +189,8 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// Starts the watch. If the watch is already running, it looks again, since a missing message bus
-/// may have become available.
+/// Starts the watch. If the watch is already running, it looks for modems again, because a missing
+/// message bus may have become available.
 void BackendChoice::startWatch()
 {
     if (m_stopped)
@@ -210,8 +211,9 @@ bool BackendChoice::isFirstLookOver() const
     return m_firstLookTimedOut || m_watch.state() != ServiceState::Looking;
 }
 
-/// Replaces the simulator with a modem that appears. A modem that disappears is not replaced, since
-/// commands for the real network must not reach a simulated network without the user's knowledge.
+/// Replaces the simulator with a modem that appears. A modem that disappears is not replaced with
+/// the simulator, because commands for the real network must not reach a simulated network without
+/// the user's knowledge.
 void BackendChoice::reconsider()
 {
     const std::lock_guard<std::mutex> lock(m_switchMutex);
@@ -224,7 +226,7 @@ void BackendChoice::reconsider()
         replace(decide());
 }
 
-/* ---- the watch's thread ------------------------------------------------------------------ */
+/* ---- called from the watch's thread ------------------------------------------------------ */
 
 void BackendChoice::watchChanged()
 {

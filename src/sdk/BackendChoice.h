@@ -20,39 +20,41 @@ class SimulatedNetwork;
 class WaitingDevice;
 
 /**
- * Decides which backend is the device: the backend that $TKSV_BACKEND or the client selects,
- * otherwise a modem if there is one. The backend is created when it is first needed and can be
+ * Selects the backend that represents the device: the backend selected by $TKSV_BACKEND or by the
+ * client, otherwise a modem if there is one. The backend is created on first use and can be
  * replaced at any time.
  *
- * Locks: m_switchMutex is held while a backend is replaced. It is taken before every lock of the
- * session, the backends and the services; m_mutex is taken after all of these. The watch's thread
- * takes only m_mutex. reconsider() needs m_switchMutex, which it may have to wait for, so it runs
- * on the thread of m_tasks.
+ * Locks: m_switchMutex is held while a backend is replaced. It is locked before every lock of the
+ * session, the backends and the services. m_mutex is locked after all of these. The watch's thread
+ * locks only m_mutex. reconsider() may have to wait for m_switchMutex, so it runs on the thread of
+ * m_tasks.
  */
 class BackendChoice
 {
 public:
-    /// The observer must outlive this object. stop() must be called before the destructor runs.
+    /// The observer must outlive this object. stop() must be called before this object is
+    /// destroyed.
     explicit BackendChoice(BackendObserver &observer);
     BackendChoice(const BackendChoice &) = delete;
     BackendChoice &operator=(const BackendChoice &) = delete;
 
-    /// Returns the backend in use. The first call creates the backend.
+    /// Returns the current backend. The first call creates the backend.
     std::shared_ptr<Backend> backend();
-    /// Returns the backend in use, or null before the first call of backend() or of a use function.
+    /// Returns the current backend, or null before the first call of backend() or a use...()
+    /// function.
     std::shared_ptr<Backend> current() const;
 
-    /// Switches to the network of a scenario file. An empty path selects the initial scenario.
-    /// Returns an empty text on success, otherwise the complaints about the file.
+    /// Switches to the simulated network of a scenario file. An empty path selects the initial
+    /// scenario. Returns an empty string on success, otherwise the error messages for the file.
     std::string useScenario(const std::string &path);
     /// Switches to a modem. An empty identifier selects the modem that was found first.
     void useModem(const std::string &equipmentId);
-    /// Switches back to the choice that the program started with.
+    /// Restores the choice that was in effect when the program started.
     void useAutomatic();
-    /// Returns the modems that ModemManager has found, the oldest first.
+    /// Returns the modems that ModemManager has found, oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
-    /// Stops the backend and all threads. A backend that is created later refuses every request.
+    /// Stops the backend and all threads. A backend that is created later rejects every request.
     void stop();
 
 private:

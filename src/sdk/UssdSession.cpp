@@ -76,7 +76,7 @@ bool UssdSession::acceptReply(RequestToken token, int type)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight || token != m_token)
-        return false; // the request was replaced, released, or lost with the device
+        return false; // the request was replaced, released or lost with the device
     if (type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
     else
@@ -84,9 +84,9 @@ bool UssdSession::acceptReply(RequestToken token, int type)
     return true;
 }
 
-/// Returns whether the text can be delivered now. A text that the network sent of its own accord
-/// must not look like the reply to a request, so it is held until the session is idle. By then its
-/// own session has ended, and the text cannot be answered any more.
+/// Returns true if the message can be delivered now. A network-initiated message must not look like
+/// the reply to a request, so it is held back until the session is idle. By then, the message's own
+/// session has ended, and the message cannot be answered any more.
 bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -99,8 +99,8 @@ bool UssdSession::acceptText(const UssdReply &text)
     return true;
 }
 
-/// Keeps a text that no call-back accepted. An empty text is dropped unless the network waits for
-/// an answer, because the client must learn of the question even if its text is unknown.
+/// Keeps a message that no call-back accepted. An empty message is dropped unless the network waits
+/// for an answer. In that case, the client must be notified even though the message is unknown.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
@@ -114,7 +114,7 @@ void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
     m_textUntaken();
 }
 
-/// Must be called with the lock held.
+/// Must be called with m_mutex locked.
 void UssdSession::becomeIdle()
 {
     m_state = State::Idle;
@@ -122,8 +122,8 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// Posts the held texts, which follow the reply whose call-back is about to start. Must be called
-/// with the lock held.
+/// Posts the held messages, which follow the reply whose call-back is about to start. Must be
+/// called with m_mutex locked.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});

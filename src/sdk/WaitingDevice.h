@@ -13,7 +13,7 @@ namespace Tksv
 
 /**
  * A placeholder for the device. It is used for the few milliseconds until BackendChoice has found
- * out whether there is a modem. The placeholder keeps a request for the device that replaces it.
+ * out whether a modem is present. The placeholder keeps a request for the device that replaces it.
  */
 class WaitingDevice : public Backend
 {
@@ -26,8 +26,8 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// Passes the kept request and all later calls to the device. If the device refuses the kept
-    /// request, the request ends as one that failed on the device.
+    /// Passes the kept request and all later calls to the device. If the device rejects the kept
+    /// request, the request ends as if it had failed on the device.
     void handOver(const std::shared_ptr<Backend> &device);
 
 private:
@@ -38,7 +38,7 @@ private:
     };
 
     BackendObserver *m_observer = nullptr;
-    mutable std::mutex m_mutex; // guards everything below
+    mutable std::mutex m_mutex; // guards all members below
     std::optional<Request> m_request;
     std::shared_ptr<Backend> m_device;
 };

@@ -20,7 +20,7 @@ namespace Tools
 namespace
 {
 
-const int ITEMS = 4;         // the scan always reads four items for a paid section, even outside it
+const int ITEMS = 4; // the scan always reads four items for a paid section, even beyond its end
 const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
@@ -33,7 +33,7 @@ QStringList components()
                          << QLatin1String(XmlName::ONLINE_CHARGE) << QLatin1String(XmlName::MSISDN);
 }
 
-/** A component of the account window, as the scan reads it. */
+/** A component of the account window, as read by the scan. */
 struct Item {
     int place = -1;
     QString name;
@@ -79,7 +79,8 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost = false; // the scan reached the end of the document without finding a section
+    bool m_isLost =
+        false; // true if the scan reached the end of the document without finding a section
 };
 
 void Check::run()
@@ -122,7 +123,7 @@ int Check::section(const char *name)
     return -1;
 }
 
-/// Returns the next element with this name. Adds a finding when it is outside the section.
+/// Returns the next element with this name. Adds a finding if the element is outside the section.
 int Check::child(int section, const char *name)
 {
     const int place = m_trace.seek(name);
@@ -382,7 +383,7 @@ void Check::editor()
 }
 
 /// Checks the section of the Clear button. The plug-in searches for this section separately from
-/// the start, so it may be anywhere in the file.
+/// the start of the file, so the section may be anywhere in the file.
 void Check::clearButton()
 {
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);

@@ -111,7 +111,7 @@ void ElementCheck::key(int place, const QString &key)
 
 void ElementCheck::names(const QStringList &known)
 {
-    for (int i = 1; i < m_elements.list.count(); ++i) { // the root may have any name
+    for (int i = 1; i < m_elements.list.count(); ++i) { // the root element may have any name
         const QString &name = at(i).name;
         if (known.contains(name))
             continue;

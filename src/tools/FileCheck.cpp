@@ -58,7 +58,7 @@ bool isXml(const QByteArray &content)
     return start.startsWith('<');
 }
 
-/// Returns whether the document has a section with one of the names, or a similar name.
+/// Returns true if the document has a section with one of the names, or with a similar name.
 bool hasSection(const XmlElements &elements, const QStringList &names)
 {
     for (int i = 0; i < elements.list.count(); ++i) {

@@ -15,11 +15,11 @@ namespace Tools
 namespace
 {
 
-const int INPUT = 2;  // index of the entry field among the controls of a group
+const int INPUT = 2;  // index of the input field among the controls of a group
 const int BUTTON = 3; // index of the button, which contains the command
 
-/// Returns the column of the last element that begins in the line. It is an approximation, because
-/// the reader reports only lines.
+/// Returns the column of the last element that begins in the line. This is an approximation,
+/// because the layout parser reports only lines.
 qint64 columnOn(const XmlElements &elements, qint64 line)
 {
     qint64 column = 0;
@@ -113,7 +113,7 @@ void checkGroups(ElementCheck &check, int section)
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
         if (controls.count() != SmsLayoutFile::CONTROLS_OF_GROUP)
-            continue; // the reader has already reported the missing controls
+            continue; // the layout parser has already reported the missing controls
         checkInput(check, controls.at(INPUT));
         if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
             QLatin1String(XmlName::OFF))

@@ -7,8 +7,8 @@
 namespace Tools
 {
 
-/// Checks the SMSUSSD section: the complaints of the plug-in's reader, the keys and the commands.
-/// Adds findings and tables to the report.
+/// Checks the SMSUSSD section: the complaints of the plug-in's layout parser, the text keys and the
+/// commands. Adds findings and tables to the report.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 
 } // namespace Tools

@@ -7,7 +7,7 @@
 namespace Tools
 {
 
-/// Checks how the plug-in reads a file of profiles. Adds findings and the table to the report.
+/// Checks how the plug-in reads a profile file. Adds findings and the table to the report.
 void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 
 } // namespace Tools

@@ -95,8 +95,8 @@ void Reader::refuse(const char *why)
     m_xml.raiseError(QLatin1String(why));
 }
 
-/// Sets the line and the column of the start tag. The XML reader's position is after the tag, so
-/// the tag begins at the last "<" before that position.
+/// Sets the line and the column of the start tag. The position of QXmlStreamReader is after the
+/// tag, so the tag begins at the last "<" before this position.
 void Reader::findPlace(XmlElement &element) const
 {
     int line = int(m_xml.lineNumber()) - 1;

@@ -16,8 +16,8 @@ struct XmlElement {
     QString text;      // the text of the element and its descendants
     int parent = -1;   // index of the parent in the list; -1 for the root
     int behind = 0;    // index of the first later element that is not a descendant
-    qint64 line = 0;   // line of the start tag; counts from 1
-    qint64 column = 0; // column of the start tag; counts from 1
+    qint64 line = 0;   // line of the start tag; starts at 1
+    qint64 column = 0; // column of the start tag; starts at 1
 
     bool has(const char *attribute) const
     {
@@ -32,10 +32,11 @@ struct XmlElement {
 /** The elements of a document in the order of their start tags. */
 struct XmlElements {
     QList<XmlElement> list;
-    QString error; // the reason why reading stopped early; empty if the document is well-formed
+    QString error; // the reason why parsing stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous = false; // too deeply nested, or declares entities; unsafe for other readers
+    bool isDangerous = false; // true if too deeply nested or with entity declarations, and thus
+                              // unsafe for other parsers
 
     /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;

@@ -13,10 +13,9 @@
 namespace HarmlessMarkup
 {
 
-/// Returns `text` with each "<" escaped that does not start a complete tag known to Qt. A rich-text
+/// Returns `text` with each "<" escaped unless it starts a complete tag known to Qt. A rich-text
 /// document would treat such a "<" as the start of a tag and drop the text after it, as in "Balance
-/// < 5 EUR". A tag whose name is written with entities or in quotes is not recognised and is also
-/// escaped.
+/// < 5 EUR". A tag whose name contains entities or quotes is not recognized and is also escaped.
 QString withStrayBracketsEscaped(const QString &text);
 
 /// Returns true if an entry with this cost may keep its markup in a transcript whose existing
@@ -24,7 +23,7 @@ QString withStrayBracketsEscaped(const QString &text);
 bool mayKeepMarkup(const MarkupCost &cost, const MarkupCost &before, bool isInPieces);
 
 /// Returns an empty resource instead of one that the markup names, so that no file and no address
-/// is opened. If the resource were null, Qt would look for a file of that name itself.
+/// is opened. If the resource were null, Qt would try to open a file with this name.
 QVariant emptyResource(int type);
 
 } // namespace HarmlessMarkup

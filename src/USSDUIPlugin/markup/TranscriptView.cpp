@@ -19,7 +19,7 @@ void insertBlock(QTextCursor &cursor, const QTextBlock &block)
         cursor.insertText(it.fragment().text(), it.fragment().charFormat());
 }
 
-/// Inserts a plain entry. Gives it the same appearance as it has in a separate document.
+/// Inserts a plain entry with the same appearance that it would have in a separate document.
 void insertAtEnd(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -79,8 +79,8 @@ void TranscriptView::showEntry(const Transcript::Entry &entry, const QString &ma
         insertAtEnd(*document(), markup);
 }
 
-/// Inserts the entry in pieces. From now on, only the end of the document changes, because
-/// replacing the whole document would lay out all pieces at once.
+/// Inserts the entry in pieces. From now on, entries are only appended to the document. If the
+/// entire document were replaced, Qt would lay out all pieces at once.
 void TranscriptView::insertPieces(const Transcript::Entry &entry)
 {
     m_isInPieces = true;

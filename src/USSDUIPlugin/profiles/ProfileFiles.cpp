@@ -125,7 +125,7 @@ void USSDEditCmd::noteReading(bool isSystem, Reading reading)
 }
 
 /// Returns true if the file may be overwritten. A file that was not read completely must be kept. A
-/// file that has appeared since the profiles were read must be kept, too.
+/// file that has been created since the profiles were read must also be kept.
 bool USSDEditCmd::mayBeSavedOver(bool isSystem)
 {
     const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
@@ -175,8 +175,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // This call has no effect, because the file has been deleted above. If the file could not be
-    // deleted, its permissions stay unchanged, so that its owner can still read it.
+    // This call has no effect if the file was deleted above. If the file could not be deleted, its
+    // permissions remain unchanged, so that its owner can still read it.
     if (!file.exists())
         file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
@@ -189,7 +189,7 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
     return SAVE_OK;
 }
 
-/// Creates the folder of the user file, but not the folders above it. The folder of the system file
+/// Creates the folder of the user file, but not its parent folders. The folder of the system file
 /// is never created.
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {

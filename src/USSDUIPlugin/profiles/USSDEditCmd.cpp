@@ -280,8 +280,8 @@ bool USSDEditCmd::isDuplicate(int row, int column) const
     return false;
 }
 
-/// Returns the text of a cell as it would be saved. Blanks around a code are removed; a file
-/// written by hand may contain them.
+/// Returns the text of a cell as it would be saved. Blanks around a code are removed, because a
+/// file that was edited manually may contain them.
 QString USSDEditCmd::savedText(int row, int column) const
 {
     const QString text = cellText(row, column);
@@ -289,8 +289,8 @@ QString USSDEditCmd::savedText(int row, int column) const
 }
 
 /// Queues the message about a duplicate. When the delegate and the table report that the editor has
-/// closed, they are still working on the cell. A message runs an event loop in which the host may
-/// delete both.
+/// been closed, they are still processing the cell. A message box runs an event loop in which the
+/// host may delete the delegate and the table.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))
@@ -307,18 +307,18 @@ void USSDEditCmd::OnDuplicatesFound()
         if (m_pContainer && m_pContainer->isVisible())
             refuseDuplicate(m_refusedItems.first());
         else
-            m_refusedItems.clear(); // the window has been closed meanwhile
+            m_refusedItems.clear(); // the window has been closed in the meantime
     }
 }
 
-/// Informs the user about the duplicate, empties the cell and opens it again.
+/// Notifies the user of the duplicate, clears the cell and opens it for editing again.
 void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
 {
-    m_pTable->setCurrentItem(item); // closes the editor that Tab opened in the next cell
-    OnEditorClosed(nullptr);        // the text in that cell may be a duplicate as well
+    m_pTable->setCurrentItem(item); // closes the editor that Tab has opened in the next cell
+    OnEditorClosed(nullptr);        // the text in that cell may also be a duplicate
     const QPointer<USSDEditCmd> self(this);
     sayDuplicate(item->column());
-    if (!self || !m_pTable) // the host deleted the window while the message was open
+    if (!self || !m_pTable) // the host deleted the window while the message box was open
         return;
     m_refusedItems.removeFirst();
     item->setText(QString());
@@ -357,10 +357,10 @@ void USSDEditCmd::OnClickedSaveButton()
     USSD_LOG_SCOPE();
     if (m_pTable) {
         m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor
-        OnEditorClosed(nullptr);          // the delegate does not report the closing of this editor
+        OnEditorClosed(nullptr); // the delegate does not report that this editor was closed
     }
     if (!m_pTable || !m_refusedItems.isEmpty())
-        return; // the cell of the refused text is about to be opened again
+        return; // the cell with the rejected text is about to be opened again
     QList<USSDProfile> newList;
     bool changed = false;
     readTableProfiles(newList, changed);
@@ -370,14 +370,14 @@ void USSDEditCmd::OnClickedSaveButton()
     }
     SavePlan plan = planSaving(newList);
     if (plan.losesChanges)
-        return sayRefusals(plan); // the window stays open and keeps the changes
+        return sayRefusals(plan); // the window remains open and keeps the changes
     m_listUSSDProfiles = newList;
     USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
     saveAsPlanned(plan);
 }
 
-/// Finds out whether something prevents saving. This must happen first, because saving deletes the
-/// old files.
+/// Determines whether the profiles can be saved. This check must come first, because saving deletes
+/// the old files.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;
@@ -386,8 +386,8 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
     return plan;
 }
 
-/// Returns true if the file is to be written. A file that cannot be written may stay as it is if
-/// its profiles have not changed. This is common, because the system file often belongs to root.
+/// Returns true if the file must be written. A file that cannot be written may be skipped if its
+/// profiles have not changed. This is common, because the system file often belongs to root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);

@@ -1,6 +1,6 @@
 /*
- * The part of USSDLogic that decides when the configuration file is read, and that returns the
- * settings in this file. PluginConfig.cpp reads the sections.
+ * The part of USSDLogic that controls when the configuration file is read, and that returns the
+ * settings from this file. PluginConfig.cpp reads the sections.
  */
 #include "USSDLogic.h"
 
@@ -27,7 +27,7 @@ bool isPaidType(int paidType)
            static_cast<unsigned int>(PluginConfig::PAID_TYPES);
 }
 
-/// Returns one of the two attributes that every component has, or -1 for any other attribute.
+/// Returns one of the two attributes that all components have, or -1 for any other attribute.
 template <typename Component>
 int commonIntAttr(const Component &component, int attr)
 {

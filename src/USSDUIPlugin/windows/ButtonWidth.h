@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-/// Returns the width of a text plus some room around it, within the limits.
+/// Returns the text width plus a margin, clamped to the limits.
 inline int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);

@@ -13,8 +13,9 @@ inline const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
-/// is limited, because a size from a file could be negative or need more memory than there is.
+/// Sets the fixed size of the frame to the size of the window, plus 20 pixels of height. The size
+/// is limited, because a size from the file could be negative or require more memory than is
+/// available.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {

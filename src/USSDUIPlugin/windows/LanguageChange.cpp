@@ -22,7 +22,7 @@ void CUSSDService::changeLanguage()
     setLanguageIfExists(m_pGeneralModalDlg);
     setLanguageIfExists(m_pGeneralEmbeddedDlg);
     setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames receive new titles and the size that the new texts need.
+    // Open frames receive new titles and the size required by the new strings.
     if (m_pPrepaidFrame && m_pPrepaidDlg) {
         m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
         fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());

@@ -151,7 +151,7 @@ void USSDGeneralDlg::initWidgets()
     m_pClearButton->setVisible(m_clearBtnSetting.visible);
     if (m_clearBtnSetting.visible)
         enableClearHistoryBtn(false);
-    // An embedded page has no separate window that could be closed.
+    // An embedded page does not have a separate window that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_pEditButton->setVisible(m_cmdEditSetting.visible);
     initPreBtns();
@@ -199,7 +199,7 @@ void USSDGeneralDlg::initFixedSizes()
     m_pHistoryView->setCursorWidth(0);
 }
 
-/// Uses the labels above the fields as the fields' names for screen readers.
+/// Uses the labels above the fields as the fields' accessible names for screen readers.
 void USSDGeneralDlg::initAccessibility()
 {
     m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
@@ -250,7 +250,7 @@ void USSDGeneralDlg::SetLanguage()
     setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
     if (isShowPreBtns())
         updatePreBtnsText();
-    resetWidgetsWidth4DyncBtnArea(); // the new texts may be longer
+    resetWidgetsWidth4DyncBtnArea(); // the new strings may be longer
     initAccessibility();
 }
 
@@ -284,8 +284,8 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Accepts every key that reaches the dialog itself, so that Escape does not close the frame and
-/// Return does not press its default button.
+/// Accepts every key that reaches the window itself, so that Escape does not close the frame and
+/// Return does not press the frame's default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
     Q_UNUSED(event);
@@ -300,7 +300,7 @@ void USSDGeneralDlg::OnClickedCloseButton()
 {
     if (m_windowModel == WINDOW_MODEL_MODAL)
         m_bWaiting = false;
-    emit clickedcloseButton(); // the receiver may delete the dialog
+    emit clickedcloseButton(); // the receiver may delete the window
 }
 
 // ---- entry ---------------------------------------------------------------------------------
@@ -412,8 +412,9 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     return false;
 }
 
-/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise Qt
-/// would move it to Clear, which would then receive the keys that the user is still typing.
+/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise, Qt
+/// would move the focus to Clear. This button would then receive the keys that the user is still
+/// typing.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -421,8 +422,8 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
-/// Returns true if the user works in a widget of the host. An answer must not take the focus from
-/// it.
+/// Returns true if the focus is in a widget of the host. A reply must not take the focus from this
+/// widget.
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -508,7 +509,7 @@ void USSDGeneralDlg::clearHistory()
         return;
     }
     if (m_clearBtnSetting.showConfirmDialog) {
-        const QPointer<USSDGeneralDlg> self(this); // the host may shut down meanwhile
+        const QPointer<USSDGeneralDlg> self(this); // the host may shut down in the meantime
         const int answer =
             PluginMessage::show(QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
                                 tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),

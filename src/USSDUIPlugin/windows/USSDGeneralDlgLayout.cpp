@@ -21,17 +21,17 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 namespace
 {
 
-// The slots of the preset buttons: two boxes with four slots each, a box with one slot and the
+// The slots for the preset buttons: two boxes with four slots each, a box with one slot and the
 // payment field, and two slots outside the boxes.
 const int SLOTS = 11;
 const int SLOTS_IN_BOX = 4;
 const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
-const int RIGHT_COLUMN = 2; // the first of five columns with the transcript and the entry
+const int RIGHT_COLUMN = 2; // the first of the five columns with the transcript and the input field
 const int RIGHT_COLUMNS = 5;
 const int PROMPT_ROW = 8;
 const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int BOX_SPACING = 4;        // pixels; a larger spacing does not fit into the fixed window
+const int BOX_SPACING = 4;        // in pixels; the fixed window is too small for a larger spacing
 
 } // namespace
 
@@ -69,7 +69,7 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
 }
 
 /// Adds the button of a slot. A slot belongs to the profile with the same index. If this profile is
-/// missing or not shown, the slot stays empty.
+/// missing or hidden, the slot remains empty.
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
@@ -106,8 +106,8 @@ void USSDGeneralDlg::addFixedElements(int row)
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
-    // Two lines are reserved for the prompt, so that the other widgets do not move when it appears
-    // or disappears.
+    // Reserve two lines for the prompt, so that the other widgets do not move when the prompt
+    // appears or disappears.
     m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
@@ -124,7 +124,7 @@ void USSDGeneralDlg::addBottomButtons(int row)
     m_pMainGrid->setRowStretch(0, 1);
 }
 
-/// Adjusts the widths of the bottom buttons to their texts. Nothing calls this function at present.
+/// Adjusts the widths of the bottom buttons to their texts. Currently, this function is not called.
 void USSDGeneralDlg::setRightLayoutBottomButtons()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();

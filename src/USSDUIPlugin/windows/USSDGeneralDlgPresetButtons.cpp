@@ -23,9 +23,9 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 namespace
 {
 
-const int ELIDE_WIDTH = 127; // pixels; independent of the width of the button
+const int ELIDE_WIDTH = 127; // in pixels; does not depend on the width of the button
 
-/// Sets the text of a button. A code is read from left to right in every language; a name follows
+/// Sets the text of a button. A code is read from left to right in every language. A name follows
 /// the direction of the language.
 void setProfileText(QPushButton *button, const QString &text)
 {
@@ -36,8 +36,8 @@ void setProfileText(QPushButton *button, const QString &text)
     button->setText(text);
 }
 
-/// Makes the tool tip show its text literally. Otherwise Qt would interpret text that looks like
-/// markup, and would load an image that is named in it.
+/// Makes the tool tip show its text literally. Otherwise, Qt would interpret text that looks like
+/// markup, and would load images that the text refers to.
 void keepToolTipPlain(QPushButton *button)
 {
     const QString tip = button->toolTip();
@@ -168,7 +168,7 @@ void USSDGeneralDlg::OnClickedEditButton()
     const QPointer<USSDGeneralDlg> self(this);
     USSDEditCmd editor;
     editor.InitDialog(parentWidget());
-    // If the host deletes this dialog, the event loop of the editor must end as well.
+    // If the host deletes this window, the event loop of the editor must also end.
     connect(this, SIGNAL(destroyed()), &editor, SLOT(OnClickedCancelButton()));
     const bool saved = editor.Exec();
     if (!self || !saved)
@@ -193,7 +193,7 @@ void USSDGeneralDlg::update4EditCommandSave()
     resetWidgetsWidth4DyncBtnArea();
 }
 
-/// Assigns the visible profiles to the existing buttons. No button is created or deleted.
+/// Assigns the visible profiles to the existing buttons. Does not create or delete any buttons.
 void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
@@ -213,7 +213,7 @@ void USSDGeneralDlg::updateUssdCmdProfileList()
         m_pListPreBtns->at(next).first->setVisible(false);
 }
 
-/// Returns the button of a slot, or null if the profile of the slot is missing or not shown.
+/// Returns the button of a slot, or null if the profile of the slot is missing or hidden.
 QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 {
     if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)

@@ -68,7 +68,7 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // This line has the time after the source and the function, because readers of logs expect this
+    // In this line, the time is after the source and the function, because log parsers expect this
     // form.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
@@ -79,7 +79,7 @@ QString CUSSDService::tr(const QString &key)
     return pluginText(key);
 }
 
-// ---- questions to the logic ------------------------------------------------------------------
+// ---- queries to the logic --------------------------------------------------------------------
 
 int CUSSDService::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
 {
@@ -124,8 +124,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down when one of them closes, so this object may no longer
-/// exist after each closing.
+/// Closes the frames. The host may shut down when one of the frames is closed. Therefore, this
+/// object may not exist any more after a frame was closed.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
@@ -186,7 +186,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// Creates a frame for the prepaid, the postpaid or the USSD-SMS dialog.
+/// Creates a frame for the prepaid, the postpaid or the USSD-SMS window.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))
@@ -232,7 +232,7 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// Replaces the connection that was made when the dialog was shown earlier, so that no signal is
+/// Replaces a connection that was made when the window was shown earlier, so that no signal is
 /// handled twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
@@ -387,7 +387,7 @@ void CUSSDService::OnClickedCloseButton()
 
 /// Deletes the frame later, because this function may run in the close event of the frame. The
 /// service keeps a list of such frames, because a host that shuts down immediately may unload the
-/// library before the frames are deleted.
+/// library before the frames have been deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
     m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes null pointers

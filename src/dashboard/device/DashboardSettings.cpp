@@ -15,9 +15,8 @@ const char SCENARIO[] = "scenario"; // only earlier versions wrote this key
 const char OPERATOR_CODES[] = "operator-codes/";
 const char GEOMETRY[] = "geometry";
 
-/// Removes an incomplete lock file of Qt. A program that was killed while it wrote the lock file
-/// leaves such a file. Otherwise the next program would wait 30 s until Qt treats the lock as
-/// stale.
+/// Removes an incomplete lock file of Qt, which remains if a program is killed while it writes the
+/// lock file. Otherwise, the next program would wait 30 s until Qt treats the lock as stale.
 void removeUnfinishedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QLatin1String(".lock"));
@@ -34,7 +33,7 @@ DashboardSettings::DashboardSettings()
     removeUnfinishedLock(file());
 }
 
-// Makes the file private. The program's file mode mask protects only new files.
+// Makes the file private. The program's file mode mask affects only new files.
 DashboardSettings::~DashboardSettings()
 {
     m_settings.sync();

@@ -8,7 +8,7 @@ namespace Dashboard
 
 bool waitForDevice(int milliseconds)
 {
-    const DeviceWatcher device; // its events end the waits of waitUntil()
+    const DeviceWatcher device; // its events make waitUntil() check the condition
     waitUntil([&device] { return !device.status().mayBecomeReady(); }, milliseconds);
     return device.status().isRegistered();
 }

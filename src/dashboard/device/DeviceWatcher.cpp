@@ -10,7 +10,8 @@ namespace Dashboard
 namespace
 {
 
-std::atomic<DeviceWatcher *> watching(nullptr); // global because device events carry no context
+std::atomic<DeviceWatcher *>
+    watching(nullptr); // global, because device events do not have a context
 
 DeviceReading readFromSdk()
 {

@@ -13,7 +13,8 @@ struct DeviceStatus;
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
- * prints each reply. Must be used on the GUI thread. Processes events while it waits.
+ * prints each reply. Processes events while it waits. All functions must be called from the GUI
+ * thread.
  */
 class CommandSender
 {
@@ -22,8 +23,8 @@ public:
     /// this object.
     CommandSender(const GeneralWindow &window, ReplyTap &tap, int replyLimit);
 
-    /// Sends the commands one after another. Stops at the first failure and prints it to standard
-    /// error. Returns whether all commands were answered.
+    /// Sends the commands one after another. Stops at the first failure and prints the error to
+    /// standard error. Returns true if a reply was received for every command.
     bool send(const QStringList &commands);
 
 private:
@@ -38,8 +39,8 @@ private:
     const int m_replyLimit;
 };
 
-/// Prints to standard error why the device cannot be used and what the user can do about it. Prints
-/// nothing if the device can be used.
+/// Prints to standard error why the device cannot be used and what the user can do. Does not print
+/// anything if the device can be used.
 void sayWhyNotReady(const DeviceStatus &device);
 
 } // namespace Dashboard

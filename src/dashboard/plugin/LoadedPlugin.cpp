@@ -19,7 +19,7 @@ namespace Dashboard
 namespace
 {
 
-/// Returns whether the dynamic loader can load the file. Loads and unloads the file to find out.
+/// Returns true if the dynamic loader can load the file. To check this, loads and unloads the file.
 bool isLoadableLibrary(const QString &file)
 {
     QLibrary library(file);

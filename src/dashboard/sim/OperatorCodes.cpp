@@ -35,7 +35,7 @@ bool isOfCountry(const Provider &provider, const QString &countryCode)
     return false;
 }
 
-/// Returns whether the operator has a code that the plug-in can use.
+/// Returns true if the operator has a code that the plug-in can use.
 bool isUseful(const Provider &provider, const QString &network)
 {
     return !provisionPlan(provider, network).isEmpty();
@@ -78,7 +78,7 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    // A SIM without an IMSI may be one that cannot be read yet.
+    // A SIM without an IMSI may be a SIM that cannot be read yet.
     return status.imsi.isEmpty() ? m_network : QString();
 }
 
@@ -163,7 +163,7 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // The state of the whole choice is kept. If several operators are possible, the choice is
+    // Keep the state of the unfiltered choice. If several operators are possible, the choice is
     // ambiguous even if only one of them has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
@@ -197,7 +197,8 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
         setDeclined(false);
-        m_folderInUse.clear(); // makes use() emit folderChanged(); the files may have changed
+        m_folderInUse
+            .clear(); // makes use() emit folderChanged(), because the files may have changed
         use(order.folder);
     }
     return outcome;

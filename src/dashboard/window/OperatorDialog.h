@@ -20,11 +20,12 @@ class OperatorDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `current` is the name of the operator whose codes are in use, or empty.
+    /// `current` is the name of the operator whose codes are in use, or an empty string.
     OperatorDialog(const QString &network, const QList<Provisioning::Provider> &candidates,
                    const QString &current, QWidget *parent);
 
-    /// Returns whether the user chose an operator and not the codes that come with the program.
+    /// Returns true if the user chose an operator, and false for the codes installed with the
+    /// program.
     bool choosesOperator() const;
     /// Returns the chosen operator.
     Provisioning::Provider provider() const;
@@ -45,7 +46,8 @@ private:
     const QString m_network;
     const QList<Provisioning::Provider> m_candidates;
     QLabel *m_question;
-    QListWidget *m_list; // the candidates, followed by the codes of the program
+    QListWidget
+        *m_list; // the candidates, followed by the codes that are installed with the program
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

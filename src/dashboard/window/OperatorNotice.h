@@ -13,7 +13,7 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Proposes an operator's codes, once for each home network of a SIM, and lets the user choose if
+ * Suggests an operator's codes once for each home network of a SIM, and lets the user choose if
  * several operators are possible. The user can change the decision later with choose().
  */
 class OperatorNotice : public NoticeBar
@@ -24,7 +24,7 @@ public:
     explicit OperatorNotice(OperatorCodes *codes, QWidget *parent = nullptr);
 
 public slots:
-    /// Proposes codes unless the user has already decided for this SIM's network.
+    /// Suggests codes unless the user has already decided for this SIM's network.
     void propose();
     /// Opens the dialog in which the user chooses an operator.
     void choose();

@@ -34,7 +34,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     m_info.backend = TKSV_BACKEND_MODEMMANAGER;
 }
 
-/* ---- any thread -------------------------------------------------------------------------- */
+/* ---- functions for any thread ------------------------------------------------------------ */
 
 void ModemManagerBackend::start(BackendObserver &observer)
 {
@@ -71,7 +71,7 @@ int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std
     post([this, token, kind, text, lostModemCount = m_lostModemCount] {
         if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
             return m_device->ussd().request(token, kind, text);
-        if (m_observer) // null if the modem was lost in the meantime or was never there
+        if (m_observer) // null if the modem was lost in the meantime or has never existed
             m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
     });
     return RequestAccepted;
@@ -124,10 +124,10 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- on the watch's thread --------------------------------------------------------------- */
+/* ---- functions for the watch's thread ---------------------------------------------------- */
 
-/// Follows the modems of the watch. A modem stays in use until it is lost, even if any modem may be
-/// used.
+/// Handles a change to the watch's modem list. The current modem remains in use until it is lost,
+/// even if the backend may use any modem.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
@@ -161,8 +161,8 @@ void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// Ends the use of a modem that was unplugged, or whose service has ended and will find the modem
-/// again.
+/// Stops using a modem that was unplugged, or whose ModemManager has ended. A restarted
+/// ModemManager finds the modem again.
 void ModemManagerBackend::loseModem()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
@@ -191,7 +191,7 @@ void ModemManagerBackend::publish()
 }
 
 /// Reports the changes to the observer. Requests in flight fail if the registration or the USSD
-/// interface is lost, since their outcome cannot arrive any more.
+/// interface is lost, because their outcome can no longer arrive.
 void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)

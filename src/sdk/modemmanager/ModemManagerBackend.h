@@ -13,15 +13,15 @@ namespace Tksv
 {
 
 /**
- * The backend of a modem that ModemManager controls. The backend runs on the thread of the watch.
- * The functions of Backend post a task to this thread. They take their results from the DeviceInfo
- * that the thread published last.
+ * The backend of a modem that ModemManager controls. The backend runs on the watch's thread. The
+ * functions of Backend post a task to this thread. Their results are based on the DeviceInfo that
+ * the thread published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Uses the modem with that identifier, or the modem that was found first if the identifier is
-    /// empty. The watch must outlive the backend.
+    /// Uses the modem with the given identifier. If the identifier is empty, uses the modem that
+    /// was found first. The watch must outlive the backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
@@ -32,7 +32,7 @@ public:
     bool sendPin(const std::string &pin) override;
     DeviceInfo info() const override;
 
-    /// Handles a change that the watch has reported. Must be called on the watch's thread after
+    /// Handles a change that the watch has reported. Must be called from the watch's thread after
     /// each such change.
     void modemsChanged();
 
@@ -48,20 +48,20 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The following two members are used on the watch's thread only.
+    // The following two members are used only on the watch's thread.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
 
     // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount, so it reads them
-    // without the mutex.
-    mutable std::mutex m_mutex; // guards everything below
+    // without locking the mutex.
+    mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false;    // whether the thread has published m_info
-    unsigned m_lostModemCount = 0; // a task with an older count must not reach this modem
+    bool m_isInfoKnown = false;    // true once the thread has published m_info
+    unsigned m_lostModemCount = 0; // a task with a lower count must not reach this modem
     bool m_stopped = false;
 };
 
-/// Returns whether the daemon can safely insert the text between quotes into an AT command.
+/// Returns true if ModemManager can safely insert the string between quotes into an AT command.
 bool isSafeForModem(const std::string &text);
 
 } // namespace Tksv

@@ -10,7 +10,7 @@ namespace Tksv
 namespace
 {
 
-/// The time that the state may lag behind a reply before the channel queries the state.
+/// The time that the channel waits for the state after a reply before it queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
 /// There is no time limit, because the client decides how long it waits for a reply. By default,
@@ -23,7 +23,7 @@ bool contains(GVariant *changed, const char *property)
     return value != nullptr;
 }
 
-/// Returns the state from the reply of org.freedesktop.DBus.Properties.Get.
+/// Returns the state from a reply to org.freedesktop.DBus.Properties.Get.
 MMModem3gppUssdSessionState stateIn(GVariant *answer)
 {
     GVariant *state = nullptr;
@@ -40,8 +40,7 @@ UssdChannel::UssdChannel(MainLoopThread &thread, Listener listener)
 }
 
 /// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
-/// object's proxies. The earlier proxy can still make calls, but receives no property changes any
-/// more.
+/// object's proxies. The old proxy can still make calls, but no longer receives property changes.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -54,8 +53,8 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
-/// Clears the state of the interface that was removed. Later results of its calls are ignored, and
-/// may never arrive.
+/// Clears the state of the interface that was removed. The results of its pending calls may never
+/// arrive. If they do, they are ignored.
 void UssdChannel::interfaceRemoved()
 {
     failPending();
@@ -75,7 +74,7 @@ void UssdChannel::catchUp()
     startNext();
 }
 
-/* ---- requests of the client -------------------------------------------------------------- */
+/* ---- requests from the client ------------------------------------------------------------ */
 
 void UssdChannel::request(RequestToken token, RequestKind kind, const std::string &text)
 {
@@ -101,9 +100,9 @@ void UssdChannel::failPending()
         m_listener.replied(request->token, UssdReply{UssdEndedByNetwork, std::string()});
 }
 
-/* ---- calls ------------------------------------------------------------------------------- */
+/* ---- calls to the daemon ----------------------------------------------------------------- */
 
-/// Starts the next call, since only one call can run at a time.
+/// Starts the next call. Only one call can run at a time.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -164,8 +163,8 @@ void UssdChannel::callFailed(const Request &request, const GError &error)
     startNext();
 }
 
-/// Cancels the session. The cancellation ends a running call. That call then returns an error, or
-/// never returns if the port is stuck.
+/// Cancels the session, which ends a running call. The running call then returns an error, or never
+/// returns if the modem's port is stuck.
 void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
@@ -197,8 +196,8 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 /* ---- the session's state ----------------------------------------------------------------- */
 
 /// Waits until the state belongs to the reply. After a reply, the state changes from "active" to
-/// "idle" or "user response". For a quick command, the daemon may report neither change, so the
-/// channel queries the state.
+/// "idle" or "user response". If a command finishes quickly, the daemon may not report either
+/// change. Therefore, the channel queries the state.
 void UssdChannel::waitForState()
 {
     const MMModem3gppUssdSessionState state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
@@ -210,8 +209,8 @@ void UssdChannel::waitForState()
         startLagTimer();
 }
 
-/// Starts the timer that limits the wait for the state. All commands share one timer, since every
-/// waiting timer slows down each iteration of the loop.
+/// Starts the timer that limits the wait for the state. All commands share one timer, because every
+/// pending timer slows down each iteration of the loop.
 void UssdChannel::startLagTimer()
 {
     m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
@@ -241,8 +240,8 @@ void UssdChannel::askForState()
                       asyncDone(whileAlive(done)));
 }
 
-/// Handles the changed properties. A notification that is repeated word for word changes no
-/// property and is therefore not reported.
+/// Handles the changed properties. A notification that repeats the previous text exactly does not
+/// change a property and is therefore not reported.
 void UssdChannel::propertiesChanged(GVariant *changed)
 {
     const auto alive = shared_from_this();
@@ -252,7 +251,7 @@ void UssdChannel::propertiesChanged(GVariant *changed)
             m_listener.textReceived(UssdReply{UssdFinal, text});
     }
     if (contains(changed, "NetworkRequest")) {
-        m_isQuestionReported = false; // this is a new question
+        m_isQuestionReported = false; // this is a new prompt
         m_hasNewQuestion = true;
     }
     if (m_ussd && (contains(changed, "State") || contains(changed, "NetworkRequest")))
@@ -283,23 +282,23 @@ void UssdChannel::finish(const UssdReply &reply)
 {
     const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
-    // The network asked another question immediately after the reply. The state belongs to this
-    // question, and the idle state in between was never reported.
+    // The network sent another prompt immediately after the reply. The state belongs to this
+    // prompt, and the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
     m_isQuestionReported = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
     UssdReply reported = reply;
     if (isStateOfQuestion)
         reported.type = UssdFinal;
     if (reported.text.empty() && reported.type == UssdFinal)
-        reported.type = UssdEndedByNetwork; // a reply without a text is a refusal
+        reported.type = UssdEndedByNetwork; // a reply without text is a rejection
     m_listener.replied(request.token, reported);
     if (isStateOfQuestion)
         reportQuestion();
     startNext();
 }
 
-/// Reports a question of the network. The text is empty for a menu that was the reply to another
-/// program's command, since the daemon does not keep this text.
+/// Reports a prompt from the network. The text is empty for a menu that was the reply to another
+/// program's command, because the daemon does not store this text.
 void UssdChannel::reportQuestion()
 {
     m_isQuestionReported = true;

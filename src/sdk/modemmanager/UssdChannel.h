@@ -19,9 +19,9 @@ namespace Tksv
 /**
  * The USSD session of one modem.
  *
- * The daemon sends the reply before the new state of the session, and only the state shows whether
+ * The daemon sends the reply before it updates the session state, and only the state shows whether
  * the network waits for an answer. Therefore, the channel holds the reply back until the state is
- * no longer "active". All functions must be called on the thread of the main loop.
+ * no longer "active". All functions must be called from the thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
@@ -34,17 +34,17 @@ public:
 
     UssdChannel(MainLoopThread &thread, Listener listener);
 
-    /// Sets the interface, or a newer proxy of the same interface, or null while the modem has
-    /// none.
+    /// Sets the interface, a newer proxy of the same interface, or null while the modem does not
+    /// have the interface.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// Reports a menu that another program left open, and starts a waiting request. Must be called
+    /// Reports a menu that another program left open, and starts a pending request. Must be called
     /// after setInterface().
     void catchUp();
 
-    /// Sends the text, and replaces a request in flight.
+    /// Sends the string and replaces the request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
-    /// Ends the session and cancels the request in flight, which then receives no reply.
+    /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending();
@@ -80,16 +80,18 @@ private:
     GObjectPtr<MMModem3gppUssd> m_ussd;
     SignalConnections m_signals;
 
-    std::optional<Request> m_next;    // starts when no call is running
-    std::optional<Request> m_running; // its call is running, or its reply waits for the state
+    std::optional<Request> m_next; // starts when no call is running
+    std::optional<Request>
+        m_running; // the call is running, or the reply is held until the state changes
     std::optional<std::string> m_replyText;
     bool m_isLagTimerRunning = false;
-    bool m_wasActive = false; // the state has been active since the call started
+    bool m_wasActive = false; // true if the state has been active since the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_isQuestionReported = false; // the listener has received the open session's question
-    bool m_hasNewQuestion = false;     // NetworkRequest has changed since the call started
-    unsigned m_call = 0; // the number of the newest call; results of older calls are ignored
+    bool m_isQuestionReported =
+        false;                     // true if the listener has received the open session's prompt
+    bool m_hasNewQuestion = false; // true if NetworkRequest has changed since the call started
+    unsigned m_call = 0; // the number of the most recent call; results of earlier calls are ignored
 };
 
 } // namespace Tksv

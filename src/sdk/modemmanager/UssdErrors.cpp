@@ -19,8 +19,8 @@ bool isCoreError(const GError &error, MMCoreError code)
     return hasCode(error, MM_CORE_ERROR, code);
 }
 
-/// Returns the type of a reply whose <m> of +CUSD the daemon does not handle. The daemon writes <m>
-/// into the text of the error, as in "...: 5 (5)".
+/// Returns the type of a reply with a +CUSD <m> value that the daemon does not support. The error
+/// message contains the value, for example "...: 5 (5)".
 int unhandledType(const GError &error)
 {
     const bool timeout =

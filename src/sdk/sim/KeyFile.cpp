@@ -51,7 +51,7 @@ std::string join(const std::vector<std::string> &lines, std::size_t count)
     return text;
 }
 
-/// Returns the index of the first line that GKeyFile rejects. All lines above it form a valid key
+/// Returns the index of the first line that GKeyFile rejects. All lines before it form a valid key
 /// file.
 std::size_t firstRefusedLine(const std::vector<std::string> &lines)
 {
@@ -76,7 +76,7 @@ bool reportNonUtf8(const std::vector<std::string> &lines, Complaints &complaints
     return found;
 }
 
-/// Parses the lines. Reports and clears each line that does not belong in a key file.
+/// Parses the lines. Reports and clears each line that is not valid in a key file.
 GKeyFilePointer parseWithoutBadLines(std::vector<std::string> lines, Complaints &complaints)
 {
     GKeyFilePointer file = parse(join(lines, lines.size()));
@@ -102,7 +102,7 @@ bool containsGroup(const std::vector<KeyFileGroup> &groups, const std::string &n
     return found != groups.end();
 }
 
-/** Collects groups and keys from the lines of a text that GKeyFile has accepted. */
+/** Collects the groups and keys from the lines of a text that GKeyFile has accepted. */
 class LineScan
 {
 public:
@@ -151,7 +151,7 @@ private:
     {
         GError *error = nullptr;
         char *text = g_key_file_get_string(m_file, group.c_str(), key.c_str(), &error);
-        if (error) // GKeyFile may return a text and an error at the same time
+        if (error) // GKeyFile may return both a string and an error
             m_complaints.add(m_line, key + ": expected n, t, s, r or \\ after each \\");
         std::string result = text ? text : "";
         g_clear_error(&error);

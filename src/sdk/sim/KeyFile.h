@@ -11,8 +11,8 @@ namespace Tksv
 
 struct KeyFileEntry {
     std::string key;
-    std::string value; // the escapes \n, \t, \s, \r and \\ have been replaced
-    int line = 0;      // counts from 1
+    std::string value; // the escape sequences \n, \t, \s, \r and \\ have been replaced
+    int line = 0;      // starts at 1
 };
 
 struct KeyFileGroup {
@@ -20,14 +20,14 @@ struct KeyFileGroup {
     int line = 0;
     std::vector<KeyFileEntry> entries;
 
-    /// Returns the entry, or null if the group has no such key.
+    /// Returns the entry with the given key, or null if the group does not contain the key.
     const KeyFileEntry *find(const std::string &key) const;
 };
 
 /**
- * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
- * not report. Adds a complaint for each line that does not belong in a key file, and for groups and
- * keys that occur twice.
+ * Returns the groups of a GLib key file in the order of the file. The result includes line numbers,
+ * which GKeyFile does not report. Adds a complaint for each line that is not valid in a key file,
+ * and for each duplicate group or key.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 

@@ -19,7 +19,9 @@ std::string inBraces(std::vector<std::string> names)
     return enumerate(names);
 }
 
-/** Checks the keys of one rule against each other and against the rest of the scenario. */
+/**
+ * Checks that the keys of a rule are consistent with each other and with the rest of the scenario.
+ */
 class RuleCheck
 {
 public:
@@ -49,7 +51,7 @@ private:
         m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
     }
 
-    /// Adds a complaint if the group has a key that is not allowed in it.
+    /// Adds a complaint if the group contains the key although the key is not allowed there.
     void allow(const char *key, bool allowed, const std::string &where)
     {
         if (const KeyFileEntry *entry = m_group.find(key)) {
@@ -104,7 +106,7 @@ private:
         allow("NotEnough", has("Credit"), "with Credit");
     }
 
-    /// Checks the group of an answer against the group of its menu.
+    /// Checks an answer group against the group of its menu.
     void checkPlace()
     {
         if (kindOf(m_group.name) != GroupKind::Answer)

@@ -7,7 +7,8 @@
 namespace Tksv
 {
 
-/// Checks the keys of the group's rule against each other and against the rest of the scenario.
+/// Checks that the keys of the group's rule are consistent with each other and with the rest of the
+/// scenario.
 void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints);
 
 } // namespace Tksv

@@ -8,8 +8,8 @@ namespace Tksv
 namespace
 {
 
-/// Returns whether the text contains characters that have a meaning in group names. A client's text
-/// with such characters must not match a group.
+/// Returns true if the string contains characters that have a special meaning in group names. A
+/// client's string that contains such characters must not match a group.
 bool hasSyntaxMarks(const std::string &text)
 {
     return text.find_first_of("%/ ") != std::string::npos;

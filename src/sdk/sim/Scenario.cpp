@@ -6,7 +6,7 @@ namespace Tksv
 namespace
 {
 
-/** A part of a text with {names}: plain text that is followed by a name, which may be empty. */
+/** A part of a string with {names}: plain text, followed by a name, which may be empty. */
 struct TextPart {
     std::string plain;
     std::string name;

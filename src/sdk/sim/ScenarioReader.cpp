@@ -14,7 +14,7 @@ namespace Tksv
 namespace
 {
 
-/// The size of the longest name that fits into TKSV_DeviceInfo.
+/// The size of the longest operator name that fits into TKSV_DeviceInfo.
 const std::size_t MAX_OPERATOR_BYTES = sizeof TKSV_DeviceInfo::operatorName - 1;
 const std::size_t MAX_CURRENCY_BYTES = 16;
 
@@ -118,7 +118,7 @@ void readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
 
 /* ---- reading the groups ------------------------------------------------------------------ */
 
-/** Reads the groups into a scenario. RuleCheck later checks how the groups refer to each other. */
+/** Reads the groups into a scenario. RuleCheck later checks the references between groups. */
 class GroupReader
 {
 public:
@@ -144,7 +144,7 @@ public:
     {
         switch (kindOf(group.name)) {
         case GroupKind::Network:
-            break; // readNetwork() has already read it, since others use its delay
+            break; // readNetwork() has already read it, because other groups use its delay
         case GroupKind::Sms:
             return readSms(group);
         case GroupKind::Push:
@@ -220,7 +220,7 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<const KeyFileGroup *> readWell; // the groups without a fault
+    std::vector<const KeyFileGroup *> readWell; // the groups without errors
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();
         reader.read(group);
