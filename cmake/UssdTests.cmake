@@ -10,7 +10,7 @@ set(USSD_TEST_SECONDS 120)
 
 set(USSD_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
-    "TKSV_BACKEND=simulator" # so that the developer's own modem is never used
+    "TKSV_BACKEND=simulator" # never use the developer's own modem
     "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
     "QT_HASH_SEED=0"
     "LC_ALL=C.UTF-8"

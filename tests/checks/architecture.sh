@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Checks the picture of the folders. docs/architecture.dot must have an arrow for every #include
-# from one folder of src to another, and no other arrow. The arrows must not form a cycle.
-# docs/pictures/architecture.svg must be drawn from docs/architecture.dot.
+# Checks the component diagram. docs/architecture.dot must contain an arrow for every #include from
+# one folder of src to another, and no other arrows. The arrows must not form a cycle.
+# docs/pictures/architecture.svg must be generated from the current docs/architecture.dot.
 . "$(dirname "$0")/common.sh"
 
-# Prints a line "FROM TO" for each pair of folders below src. The public headers of the device SDK count
-# as a folder named "tksv.h".
+# Prints a line "FROM TO" for each pair of folders below src. The public headers of the device SDK
+# are treated as a folder named "tksv.h".
 included_folders() {
     local file name
     cpp_files src | while IFS= read -r file; do
@@ -31,7 +31,7 @@ included_folders() {
         }' | sort -u
 }
 
-# Prints the pairs of folders in the picture.
+# Prints the pairs of folders that the diagram connects.
 drawn_folders() { sed -nE 's/^ *"([^"]+)" -> "([^"]+)".*/\1 \2/p' docs/architecture.dot | sort -u; }
 
 headers=$(cpp_files src | grep '\.h$')

@@ -1,5 +1,5 @@
-# Common code of the checks. A check prints a line for each fault, and its exit status is 1 when there
-# is a fault. The script's first argument is the root of the tree.
+# Code that the checks share. A check prints a line for each fault that it finds. Its exit status is
+# 1 if it has found any faults. The first argument of each script is the root of the source tree.
 set -u
 export LC_ALL=C.UTF-8
 root=$(cd "$1" && pwd) || exit 2
@@ -25,7 +25,7 @@ cpp_files() {
     done
 }
 
-# Prints a file without its comments and keeps its line numbers.
+# Prints a file without its comments. The line numbers stay the same.
 without_comments() {
     sed -e 's@//.*$@@' -e 's@/\*.*\*/@@g' -e '/\/\*/,/\*\//s@.*@@' "$1"
 }

@@ -6,8 +6,8 @@ standard='^[a-z_]+$'
 qt='^Q[A-Za-z0-9]+$'
 any='.'
 
-# check FILES ANGLE QUOTED...: ANGLE is a pattern for headers in <>. QUOTED are folders or single
-# files whose headers may be included in "".
+# check FILES ANGLE QUOTED...: checks the includes of FILES. ANGLE is a pattern for the headers that
+# may be included with <>. QUOTED are the folders and files that may be included with "".
 check() {
     local files=$1 angle=$2 file name
     [ -n "$files" ] || return 0
@@ -38,8 +38,8 @@ allowed() {
     return 1
 }
 
-# lies_in_folder: the path is in the including file's own folder or in the given folder, and not
-# outside of it.
+# lies_in_folder NAME FILE FOLDER: succeeds if the header that FILE includes as NAME is inside
+# FOLDER.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
     for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do
@@ -52,17 +52,17 @@ lies_in_folder() {
 }
 
 core_own=$(cpp_files src/core | grep -v '^src/core/common/')
-# check_layers ANGLE PARENT BELOW FOLDER...: each folder of PARENT may include those named before it,
-# and BELOW. The files beside the folders may include all of them.
+# check_layers ANGLE PARENT BELOW FOLDER...: each FOLDER in PARENT may include only itself, the
+# folders listed before it, and BELOW. Files directly in PARENT may include all of these folders.
 check_layers() {
     local angle=$1 parent=$2 below=$3 folder
     shift 3
     for folder in "$@"; do
         below+=" $parent/$folder"
-        # shellcheck disable=SC2086 # a list of words
+        # shellcheck disable=SC2086 # word splitting is intended
         check "$(cpp_files "$parent/$folder")" "$angle" $below
     done
-    # shellcheck disable=SC2086 # a list of words
+    # shellcheck disable=SC2086 # word splitting is intended
     check "$(cpp_files "$parent" | grep -v "^$parent/.*/")" "$angle" "$parent" $below
 }
 

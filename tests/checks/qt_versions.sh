@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Checks that the plug-in and its libraries can be built with Qt 4.6 to Qt 6 from one source: only one
-# header queries the version, and nothing is used that exists in one version only.
+# Checks that the plug-in and its libraries can be built from the same source for Qt 4.6 to Qt 6.
+# Only one header may check the Qt version, and all other code may use only names that all of these
+# versions provide.
 . "$(dirname "$0")/common.sh"
 
 shared="src/USSDUIPlugin src/formats src/files src/core examples/host"
 
-# Names that Qt 4.6 lacks or that are deprecated in Qt 5.15.
+# Names that do not exist in Qt 4.6 or are deprecated in Qt 5.15.
 missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'
 missing_in_qt4+='|QJson[A-Za-z]+|QRegularExpression[A-Za-z]*|QElapsedTimer|QDeadlineTimer'
 missing_in_qt4+='|QTemporaryDir|QLoggingCategory|qInstallMessageHandler|QStringView|QScopeGuard'
@@ -16,7 +17,8 @@ missing_in_qt4+='|toHtmlEscaped|setSectionResizeMode|horizontalAdvance|chopped|a
 missing_in_qt4+='|QMutexLocker<|setTimerType'
 deprecated='qSort|qStableSort|SkipEmptyParts|toSet|qInstallMsgHandler'
 
-# Connections and calls by function pointer instead of by name, even if they span several lines.
+# Connections and calls that use function pointers or lambdas instead of function names, even if
+# they span several lines.
 by_function='(?s)\bconnect\((?:[^;]*?),\s*&\w+::\w+'
 with_lambda='(?s)\b(?:connect|singleShot|invokeMethod)\((?:[^;]*?)\[[&=\w, ]*\]\s*(?:\(|\{)'
 

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Tests that each check finds its faults, in small trees with one fault each.
+# Tests that each check finds the faults for which it is responsible. Each test uses a small source
+# tree with a single fault.
 set -u
 checks=$(cd "$(dirname "$0")" && pwd)
 source_tree=$(cd "$1" && pwd) || exit 2
@@ -7,7 +8,7 @@ tree=$(mktemp -d) || exit 2
 trap 'rm -rf "$tree"' EXIT
 wrong=0
 
-# write FILE: writes the standard input to the file.
+# write FILE: writes standard input to FILE in the test tree.
 write() {
     mkdir -p "$tree/$(dirname "$1")"
     cat >"$tree/$1"
@@ -32,7 +33,7 @@ fresh_tree() {
     write src/dashboard/Program.h </dev/null
 }
 
-# passes CHECK: the check finds no fault.
+# passes CHECK: verifies that CHECK finds no faults in the test tree.
 passes() {
     local said
     said=$(bash "$checks/$1.sh" "$tree" 2>&1) && return
@@ -40,8 +41,8 @@ passes() {
     wrong=1
 }
 
-# finds CHECK PATTERN FILE: with the standard input as the content of FILE, the check prints a line
-# that matches PATTERN.
+# finds CHECK PATTERN FILE: writes standard input to FILE and verifies that CHECK prints a line that
+# matches PATTERN.
 finds() {
     local said
     fresh_tree

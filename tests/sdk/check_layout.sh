@@ -1,6 +1,6 @@
 #!/bin/sh
-# check_layout.sh COMPILER BITS HEADER: the records of tksv.h have the layout that the header itself
-# checks, and a record with another layout does not compile.
+# check_layout.sh COMPILER BITS HEADER: tests that the records in tksv.h pass the layout checks of
+# the header, and that a record with a different layout does not compile.
 set -eu
 compiler=$1
 bits=$2
@@ -18,7 +18,8 @@ compiles() {
 } >"$work/good.h"
 compiles "$work/good.h"
 
-# breaks EDIT: the records as sed changes them.
+# breaks EDIT: applies the sed command EDIT to the header and verifies that the result does not
+# compile.
 breaks() {
     sed "$1" "$header" >"$work/bad.h"
     if cmp -s "$header" "$work/bad.h"; then
