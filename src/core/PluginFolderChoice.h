@@ -7,10 +7,10 @@ namespace HostCore
 {
 
 /**
- * Decides from which folder plug-ins read their configuration and their profiles. The folder
- * contains "plugins/". A host can choose the folder of an operator. Otherwise, it is the folder
- * that $USSD_PLUGIN_LIBRARY_PATH names, or else the installed folder. No path ends in a separator.
- * May be used on any thread.
+ * Decides from which folder plug-ins read their configuration and their profiles. This folder
+ * contains the folder "plugins". A host can select the folder of an operator. If it does not, the
+ * folder is the one that $USSD_PLUGIN_LIBRARY_PATH names, or else the installed folder. The paths
+ * do not end with a separator. The functions may be called from any thread.
  */
 class Q_DECL_EXPORT PluginFolderChoice
 {
