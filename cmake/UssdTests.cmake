@@ -76,7 +76,7 @@ function(ussd_add_test name)
     ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
 endfunction()
 
-# CTest starts those tests first that took longest in the previous run. In the first run, it uses
+# CTest starts those tests first that took longest in the previous run. In the first run, CTest uses
 # this cost instead.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
