@@ -1,6 +1,8 @@
 #ifndef FORWARDXML_H
 #define FORWARDXML_H
 
+#include <QByteArray>
+#include <QIODevice>
 #include <QLatin1String>
 #include <QString>
 #include <QXmlStreamReader>
@@ -18,6 +20,14 @@ namespace Formats
  */
 namespace ForwardXml
 {
+
+/// Makes `reader` parse the document in `device` from the current position. The device must be
+/// random-access and must outlive the parsing. A document that declares entities is refused: the
+/// reader then reports an error and no token. Qt 4 expands entities without a limit, so a document
+/// of 600 bytes could use up all memory.
+void start(QXmlStreamReader &reader, QIODevice &device);
+/// Makes `reader` parse `document` in the same way.
+void start(QXmlStreamReader &reader, const QByteArray &document);
 
 /// Reads and returns the next token. An entity that the document does not declare is an error.
 QXmlStreamReader::TokenType next(QXmlStreamReader &reader);

@@ -24,7 +24,10 @@ private slots:
     void startTagAtFaultHasNoAttributes();
     void textCutByAFaultIsEmpty_data();
     void textCutByAFaultIsEmpty();
-    void entitiesOfTheDocumentAreReplaced();
+    void documentWithEntitiesIsRefused_data();
+    void documentWithEntitiesIsRefused();
+    void documentWithEntitiesInUtf16IsRefused();
+    void characterReferencesAreReplaced();
     void brokenDetectionIsOff_data();
     void brokenDetectionIsOff();
     void faultBehindTheDetectionLeavesItOn();
@@ -248,10 +251,41 @@ void ConfigSectionsTest::textCutByAFaultIsEmpty()
     QCOMPARE(differ().command, latin1("*103#"));
 }
 
-void ConfigSectionsTest::entitiesOfTheDocumentAreReplaced()
+/// Tests that a document with entity declarations is refused, even if no entity is used. Qt 4 would
+/// expand them without a limit.
+void ConfigSectionsTest::documentWithEntitiesIsRefused()
 {
-    writeConfig("<!DOCTYPE anything [<!ENTITY code '*10&digit;#'><!ENTITY digit '3'>]>" +
-                config(balanceItem("pos='&digit;'", "&code;") + chargeItem() + onlineItem() +
+    QFETCH(QByteArray, declaration);
+    const QByteArray sections = config(fourItems(), fourItems());
+    writeConfig("<!DOCTYPE anything [" + declaration + "]>" + sections);
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
+    QVERIFY(timesLogged("The document declares entities, which are not supported.") > 0);
+}
+
+void ConfigSectionsTest::documentWithEntitiesIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::newRow("entity") << QByteArray("<!ENTITY code '*103#'>");
+    QTest::newRow("parameter entity")
+        << QByteArray("<!ENTITY % a '<!-- x -->'><!ENTITY % b '&#37;a;&#37;a;'>%b;");
+    QTest::newRow("behind the first block")
+        << "<!--" + QByteArray(64 * 1024 - 40, 'x') + "--><!ENTITY code '*103#'>";
+}
+
+void ConfigSectionsTest::documentWithEntitiesInUtf16IsRefused()
+{
+    const QString document = latin1("<!DOCTYPE anything [<!ENTITY code '*103#'>]>") +
+                             QString::fromLatin1(config(fourItems(), fourItems()));
+    const QString marked = QChar(QChar::ByteOrderMark) + document;
+    writeConfig(QByteArray(reinterpret_cast<const char *>(marked.utf16()), 2 * marked.size()));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
+    QVERIFY(timesLogged("The document declares entities, which are not supported.") > 0);
+}
+
+void ConfigSectionsTest::characterReferencesAreReplaced()
+{
+    writeConfig("<!DOCTYPE anything>" +
+                config(balanceItem("pos='&#51;'", "*10&#51;#") + chargeItem() + onlineItem() +
                            msisdnItem("&#42;102&#x23;"),
                        fourItems()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*103#"));

@@ -101,7 +101,11 @@ void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
     for (int i = 0; i < m_listUSSDProfiles.count(); ++i)
         codes.insert(m_listUSSDProfiles.at(i).value);
 
-    QXmlStreamReader reader(&file);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, file);
+    if (reader.hasError())
+        USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
+                           reader.errorString().toLocal8Bit().constData());
     USSDProfile profile;
     while (ProfileXml::readNext(reader, profile)) {
         USSD_LOG(" name = %s", profile.name.toLocal8Bit().constData());

@@ -54,7 +54,10 @@ bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return false;
     }
-    reader.setDevice(&file);
+    ForwardXml::start(reader, file);
+    if (reader.hasError())
+        USSD_LOG_IMPORTANT(" %s: %s", path.toLocal8Bit().constData(),
+                           reader.errorString().toLocal8Bit().constData());
     return true;
 }
 

@@ -14,6 +14,7 @@
 #include "base/PluginLog.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
+#include "ForwardXml.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
 #include "requests/USSDLogic.h"
@@ -139,7 +140,8 @@ void CUSSDSMSDlg::readLayoutFile(const QString &path)
                     ": return fail for the file can't be open as readonly and text mode.");
         return;
     }
-    QXmlStreamReader reader(&file);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, file);
     const bool whole = ReadFile(reader);
     file.close();
     logComplaints();
