@@ -70,7 +70,7 @@ public:
     /// Updates every visible string and the layout direction to the current language. The user's
     /// input and the network's replies remain unchanged.
     void SetLanguage();
-    /// Returns the size specified in the file, even if it is impossible for a window.
+    /// Returns the size specified in the file, even if a window cannot have this size.
     QSize GetSize();
 
     QSize sizeHint() const override;

@@ -26,7 +26,7 @@ const Milliseconds DEFAULT_AWAY(3000);
 /// The maximum number of digits in a code. A request also contains a * and a #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
-/** The network's reaction to a request, see docs/scenario-file.md. */
+/** The network's reaction to a request; see docs/scenario-file.md. */
 enum class Outcome {
     Reply,
     Refuse,
