@@ -41,7 +41,7 @@ public:
 
     /// `threadName` has at most 15 characters and must remain valid until the program ends.
     explicit EventService(const char *threadName);
-    /// The object must not be destroyed from the service's own thread.
+    /// The destructor must not be called from the service's own thread.
     ~EventService();
     EventService(const EventService &) = delete;
     EventService &operator=(const EventService &) = delete;

@@ -338,7 +338,7 @@ void CUSSDSMSDlg::translateTree()
             continue;
         row->setText(0, tr(entries.at(i)->textId));
     }
-    // sizeHintForColumn() is public only in the base class. The section is made as wide as the
+    // sizeHintForColumn() is public only in the base class. The column is made as wide as the
     // longest text, so that the user can scroll to the end of this text.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
