@@ -399,8 +399,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(
-        true); // shows which button Return presses in the input field
+    m_pChargeActivateButton->setDefault(true); // marks the button that Return presses
 }
 
 void USSDDlg::OnCloseButtonClicked()

@@ -233,8 +233,7 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(
-        Qt::LeftToRight); // codes and numbers are read from left to right
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are left-to-right
     m_pValidator = new QRegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }

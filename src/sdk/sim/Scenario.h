@@ -98,9 +98,8 @@ struct Scenario {
     std::optional<Amount> balance;
     std::string currency;
 
-    std::map<std::string, Rule> rules; // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
-    std::map<std::string, SmsRule>
-        smsRules; // keyed by number; the rule with the empty key applies to all other numbers
+    std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
+    std::map<std::string, SmsRule> smsRules; // keyed by number; empty key: all other numbers
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };
