@@ -97,7 +97,7 @@ struct SmsLayout {
     int rootNumber = 0;      // valid only if hasRoot is true
     int ordinaryEntries = 0; // accepted entries, including entries that replaced an earlier entry
     QMap<int, CTreeItem *> entries; // keyed by the number of the entry
-    QMap<int, CWidget *> groups;    // keyed by the number of their entry
+    QMap<int, CWidget *> groups;    // keyed by the number of the tree entry
     QStringList complaints;         // the first few complaints, each with its line number
     int furtherComplaints = 0;      // number of complaints that are not stored
 };
