@@ -29,8 +29,8 @@ struct Arguments {
 /// Parses the command-line arguments without the program name.
 ///
 /// The arguments after --send are the code and the answers, up to the next argument that begins
-/// with "--". All arguments after a separate "--" are also treated as code and answers. An option
-/// and its value may be joined with "=".
+/// with "--". All arguments after a separate "--" are also treated as the code and the answers. An
+/// option and its value may be joined with "=".
 Arguments parseArguments(const QStringList &words);
 
 } // namespace Dashboard

@@ -140,8 +140,7 @@ int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands
     CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
     const bool sent = sender.send(commands);
     int status = 0;
-    TKSV_USSDSrv_Release(
-        &status); // closes an open menu, which would otherwise affect the next program
+    TKSV_USSDSrv_Release(&status); // closes an open menu before the next program starts
     plugin.shutDown();
     return sent ? EXIT_GOOD : EXIT_BAD;
 }
@@ -194,8 +193,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = QApplication::exec();
-    plugin
-        .shutDown(); // must be called before the window that contains the plug-in's page is deleted
+    plugin.shutDown(); // must precede the deletion of the window with the plug-in's page
     saveSettings(&settings, &window);
     return result;
 }

@@ -15,11 +15,9 @@ namespace
 const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; the value of QWIDGETSIZE_MAX
 
 const int MAX_COMPLAINTS = 20;
-const int MAX_QUOTED = 40; // the maximum length of a quoted value in a complaint
-const int MAX_CONTROLS =
-    6; // the number of controls stored per group; enough to detect a group with too many controls
-const int MAX_GROUPS =
-    500; // the number of groups stored per file; far more than the number of tree entries
+const int MAX_QUOTED = 40;  // the maximum length of a quoted value in a complaint
+const int MAX_CONTROLS = 6; // per group; enough to detect a group with too many controls
+const int MAX_GROUPS = 500; // per file; far more than the number of tree entries
 
 /// Returns the value in quotation marks, shortened to fit into a log line.
 QString quoted(const QString &text)

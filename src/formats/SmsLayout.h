@@ -97,10 +97,9 @@ struct SmsLayout {
     int rootNumber = 0;      // valid only if hasRoot is true
     int ordinaryEntries = 0; // accepted entries, including entries that replaced an earlier entry
     QMap<int, CTreeItem *> entries; // keyed by the number of the entry
-    QMap<int, CWidget *>
-        groups;                // keyed by the number of the entry whose controls the group contains
-    QStringList complaints;    // the first few complaints, each with its line number
-    int furtherComplaints = 0; // number of complaints that are not stored
+    QMap<int, CWidget *> groups;    // keyed by the number of the tree entry
+    QStringList complaints;         // the first few complaints, each with its line number
+    int furtherComplaints = 0;      // number of complaints that are not stored
 };
 
 namespace SmsLayoutFile

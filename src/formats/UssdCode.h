@@ -28,9 +28,9 @@ bool isDialable(const QString &text);
 /// begins with a star or a hash, and ends with a hash (3GPP TS 22.090).
 bool isUssdCode(const QString &text);
 
-/// Returns true if `text` begins with a star or a hash (*100#) or does not contain any letters (a
-/// number). Such a string is read from left to right in every language. Any other string follows
-/// the direction of the language.
+/// Returns true if `text` begins with a star or a hash, as in *100#, or does not contain any
+/// letters, as in a phone number. Such a string is read from left to right in every language. Any
+/// other string follows the direction of the language.
 bool isCodeLike(const QString &text);
 
 /// Returns the length of the command in UTF-16 code units after each placeholder has been replaced

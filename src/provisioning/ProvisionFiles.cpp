@@ -39,7 +39,7 @@ const int MOST_SERVICES = 25;
 /** A token of an element that is copied from the installed configuration. */
 struct Token {
     QXmlStreamReader::TokenType type = QXmlStreamReader::NoToken;
-    QString text; // the name of an element, or characters
+    QString text; // the name of the element, or character data
     QXmlStreamAttributes attributes;
 };
 

@@ -9,8 +9,7 @@ namespace Provisioning
 
 /** A short message that the services window offers. */
 struct PlannedMessage {
-    QString
-        textKey; // text key of the service's name; a string that is not a key is shown unchanged
+    QString textKey; // text key of the service's name; other strings are shown unchanged
     QString explanation;
     QString text;
     QString number;

@@ -50,7 +50,7 @@ Provision readProvision(const QString &folder);
 
 struct ProvisionOrder {
     QString folder;        // created if it does not exist
-    QString pluginLibrary; // the installed plug-in, to which a link is created; empty for no link
+    QString pluginLibrary; // the path of the installed plug-in to link to; empty for no link
     /// Allows the writer to deactivate manually edited files. The files are kept in their folder.
     bool setChangedAside = false;
 };

@@ -33,7 +33,7 @@ Scenario absentDevice(const std::string &source)
 }
 
 /// Returns the network of the initial scenario. Prints the errors in the file to stderr, because no
-/// call of the client can report them.
+/// API function can return them.
 std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();

@@ -40,7 +40,7 @@ public:
 
     /// Returns the current backend. The first call creates the backend.
     std::shared_ptr<Backend> backend();
-    /// Returns the current backend, or null before the first call of backend() or a use...()
+    /// Returns the current backend, or null before the first call to backend() or a use...()
     /// function.
     std::shared_ptr<Backend> current() const;
 

@@ -27,8 +27,8 @@ bool EventService::remove(std::uintptr_t key)
     const auto end = std::remove_if(m_listeners.begin(), m_listeners.end(), hasKey);
     const bool found = end != m_listeners.end();
     m_listeners.erase(end, m_listeners.end());
-    // Wait even if another thread has removed the listener, because the listener must not run after
-    // this call either.
+    // Wait even if another thread has removed the listener. The listener must not run after this
+    // call in that case either.
     waitUntilIdle(lock, key);
     return found;
 }

@@ -18,8 +18,7 @@ namespace Tksv
 struct Event {
     int number = 0;
     std::shared_ptr<void> data; // the record; destroyed after the last listener has returned
-    std::uintptr_t onlyKey =
-        0; // the key of the only listener that receives the event; 0: all listeners
+    std::uintptr_t onlyKey = 0; // the only listener to receive the event; 0: all
     /// Called from the service's thread immediately before delivery. If the function returns false,
     /// the event is dropped. If the function is empty, the event is always delivered.
     std::function<bool()> beforeDelivery;
@@ -41,7 +40,7 @@ public:
 
     /// `threadName` has at most 15 characters and must remain valid until the program ends.
     explicit EventService(const char *threadName);
-    /// The object must not be destroyed from the service's own thread.
+    /// The destructor must not be called from the service's own thread.
     ~EventService();
     EventService(const EventService &) = delete;
     EventService &operator=(const EventService &) = delete;
@@ -85,8 +84,8 @@ private:
     bool contains(std::uintptr_t key) const;
     void waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key);
 
-    mutable std::mutex m_mutex; // guards all members below except m_deliveries; locked before the
-                                // mutex of m_deliveries
+    // Guards all members below except m_deliveries. Locked before the mutex of m_deliveries.
+    mutable std::mutex m_mutex;
     std::condition_variable m_callEnded;
     std::vector<Listener> m_listeners;
     std::uint64_t m_lastListenerId = 0;

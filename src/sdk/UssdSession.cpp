@@ -100,7 +100,8 @@ bool UssdSession::acceptText(const UssdReply &text)
 }
 
 /// Keeps a message that no call-back accepted. An empty message is dropped unless the network waits
-/// for an answer. In that case, the client must be notified even though the message is unknown.
+/// for an answer. In that case, the client must be notified even though the text of the message is
+/// unknown.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))

@@ -62,7 +62,7 @@ typedef struct TKSV_DeviceInfo {
     char imsi[16];             /* the subscriber's IMSI, at most 15 digits (3GPP TS 23.003) */
     char simOperatorCode[8];   /* MCC and MNC of the SIM's home network, 5 or 6 digits */
     char simOperatorName[128]; /* service provider name (SPN) stored on the SIM */
-    char equipmentId[64];      /* identifier of the current modem, see TKSV_Modem */
+    char equipmentId[64];      /* identifier of the current modem; see TKSV_Modem */
     char source[1024]; /* path of the scenario file, or manufacturer and model of the modem */
 } TKSV_DeviceInfo;
 

@@ -79,8 +79,7 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost =
-        false; // true if the scan reached the end of the document without finding a section
+    bool m_isLost = false; // true if the scan reached the end of the document
 };
 
 void Check::run()

@@ -10,7 +10,7 @@ namespace Tools
 
 /** The parsed command-line arguments. */
 struct ToolArguments {
-    QMap<QString, QString> options; // values by "--name"; empty for a switch
+    QMap<QString, QString> options; // values keyed by "--name"; empty for a switch
     QStringList words;              // the arguments that are not options
     QString error;                  // error message in English; empty if there is no error
 

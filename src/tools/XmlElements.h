@@ -35,8 +35,9 @@ struct XmlElements {
     QString error; // the reason why parsing stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous = false; // true if too deeply nested or with entity declarations, and thus
-                              // unsafe for other parsers
+    /// True if the document is nested too deeply or declares entities. Such a document is unsafe
+    /// for other parsers.
+    bool isDangerous = false;
 
     /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;

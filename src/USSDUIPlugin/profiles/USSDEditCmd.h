@@ -130,8 +130,7 @@ private:
     QPointer<QLabel> m_pInfoLabel;
     QPointer<QPushButton> m_pSaveButton;
     QPointer<QPushButton> m_pCancelButton;
-    QTableWidgetItem
-        *m_pEditedItem; // the last changed cell; null (and the indexes -1) if there is none
+    QTableWidgetItem *m_pEditedItem; // the last changed cell; null if there is none
     int m_iEditedColumn;
     int m_iEditedRow;
     QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message box is queued or open

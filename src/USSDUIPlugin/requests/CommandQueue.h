@@ -19,7 +19,7 @@ public:
     /// The first command, and the number that distinguishes it from earlier and later heads.
     struct Head {
         Head() : number(0) {}
-        quint64 number; // never 0 for a head
+        quint64 number; // never 0 if there is a head
         USSDCmdOrResp command;
     };
 

@@ -9,7 +9,7 @@
 namespace SdkRecords
 {
 
-/// Returns the size of `command` in UTF-16, in bytes.
+/// Returns the size of `command` in bytes when encoded as UTF-16.
 int commandBytes(const QString &command);
 
 /// Fills the complete record. Returns false and zeroes the record if the command is longer than

@@ -22,8 +22,7 @@ const int SENT = 0;
 const int FAILED = 1;
 const int NOT_THE_HEAD = 2; // used only in this file
 
-const int PREVIOUS_TIMEOUT =
-    3000; // ms that a new time-out waits for the end of the previous time-out
+const int PREVIOUS_TIMEOUT = 3000; // ms to wait for the end of the previous time-out
 
 ReplyTimes shippedReplyTimes()
 {

@@ -75,8 +75,8 @@ QString text(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Returns a tool tip that shows `text` literally, as escaped rich text. If `text` were plain,
-/// QToolTip might interpret parts of it as markup.
+/// Returns a tool tip that shows `text` literally, as escaped rich text. If the tool tip were plain
+/// text, QToolTip might interpret parts of it as markup.
 QString plainToolTip(const QString &text)
 {
     return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
@@ -399,8 +399,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(
-        true); // shows which button Return presses in the input field
+    m_pChargeActivateButton->setDefault(true); // marks the button that Return presses
 }
 
 void USSDDlg::OnCloseButtonClicked()

@@ -156,8 +156,7 @@ private:
     QGridLayout *m_pGrid;
     QList<QFrame *> m_listFreeLines; // separators that have not been placed in the grid yet
     QList<QWidget *> m_listTabOrder; // in the order of the layout
-    QHash<int, QPointer<QWidget>>
-        m_hashParkFocus;               // the control that had the focus, keyed by component
+    QHash<int, QPointer<QWidget>> m_hashParkFocus; // previous focus, keyed by component
     QStringList m_listBoxReplies;      // replies whose message box has not been closed yet
     QPointer<QMessageBox> m_pReplyBox; // the open message box; a child of the window
 

@@ -235,8 +235,7 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(
-        Qt::LeftToRight); // codes and numbers are read from left to right
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are left-to-right
     m_pValidator = new QRegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
@@ -340,7 +339,7 @@ void CUSSDSMSDlg::translateTree()
             continue;
         row->setText(0, tr(entries.at(i)->textId));
     }
-    // sizeHintForColumn() is public only in the base class. The section is made as wide as the
+    // sizeHintForColumn() is public only in the base class. The column is made as wide as the
     // longest text, so that the user can scroll to the end of this text.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));

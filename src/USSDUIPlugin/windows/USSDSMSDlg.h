@@ -22,10 +22,9 @@ struct CCommandWidget {
     QString number;    // recipient of the short message
     int minLength = 0; // minimum number of characters in the input
     int limit = 0;     // maximum number of characters in the input
-    int kind =
-        Formats::CONTROL_KIND_NONE; // an SmsControlKind, which determines how the command is sent
-    QPushButton *sendButton =
-        nullptr; // null if the service has no such widget; the same applies to the next two members
+    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind: how to send the command
+    // Each of the following pointers is null if the service does not have the widget.
+    QPushButton *sendButton = nullptr;
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
@@ -70,7 +69,7 @@ public:
     /// Updates every visible string and the layout direction to the current language. The user's
     /// input and the network's replies remain unchanged.
     void SetLanguage();
-    /// Returns the size specified in the file, even if it is impossible for a window.
+    /// Returns the size specified in the file, even if a window cannot have this size.
     QSize GetSize();
 
     QSize sizeHint() const override;

@@ -10,8 +10,7 @@ namespace Dashboard
 namespace
 {
 
-std::atomic<DeviceWatcher *>
-    watching(nullptr); // global, because device events do not have a context
+std::atomic<DeviceWatcher *> watching(nullptr); // global; device events have no context
 
 DeviceReading readFromSdk()
 {

@@ -197,8 +197,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
         setDeclined(false);
-        m_folderInUse
-            .clear(); // makes use() emit folderChanged(), because the files may have changed
+        m_folderInUse.clear(); // makes use() emit folderChanged()
         use(order.folder);
     }
     return outcome;

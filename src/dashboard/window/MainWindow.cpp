@@ -41,8 +41,7 @@ namespace
 {
 
 const QSize FIRST_SIZE(900, 700); // in pixels
-const int LONGEST_DELAY =
-    5000; // ms; the maximum time for which the opening of a frame may be delayed
+const int LONGEST_DELAY = 5000;   // ms; the maximum delay before a frame is opened
 
 /// Returns true if a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)

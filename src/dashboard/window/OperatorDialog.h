@@ -46,8 +46,7 @@ private:
     const QString m_network;
     const QList<Provisioning::Provider> m_candidates;
     QLabel *m_question;
-    QListWidget
-        *m_list; // the candidates, followed by the codes that are installed with the program
+    QListWidget *m_list; // the candidates, followed by the installed codes
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

@@ -33,7 +33,8 @@ enum RequestStatus {
 };
 
 /**
- * A USSD message from the network. A rejection has an empty text and a type other than UssdFinal.
+ * A USSD message from the network. If the network rejected the request, the text is empty and the
+ * type is not UssdFinal.
  */
 struct UssdReply {
     int type = UssdFinal;
@@ -54,7 +55,7 @@ const int SMS_SENT = 0;
 const int SMS_FAILED = 1;
 
 /**
- * The state and the properties of the device, see TKSV_DeviceInfo. Strings are UTF-8. An unknown
+ * The state and the properties of the device; see TKSV_DeviceInfo. Strings are UTF-8. An unknown
  * string is empty.
  */
 struct DeviceInfo {

@@ -24,7 +24,7 @@ public:
 
     /// `threadName` has at most 15 characters and must remain valid until the program ends.
     explicit TaskQueue(const char *threadName);
-    /// The object must not be destroyed from the queue's own thread.
+    /// The destructor must not be called from the queue's own thread.
     ~TaskQueue();
     TaskQueue(const TaskQueue &) = delete;
     TaskQueue &operator=(const TaskQueue &) = delete;

@@ -24,7 +24,7 @@ public:
 
     /// `name` has at most 15 characters and must remain valid until the program ends.
     explicit MainLoopThread(const char *name);
-    /// The object must not be destroyed from the thread itself.
+    /// The destructor must not be called from the thread itself.
     ~MainLoopThread();
     MainLoopThread(const MainLoopThread &) = delete;
     MainLoopThread &operator=(const MainLoopThread &) = delete;

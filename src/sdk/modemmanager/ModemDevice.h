@@ -70,9 +70,8 @@ private:
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableTried = false;
-    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or later
-    TKSV_DeviceProblem m_problem =
-        TKSV_PROBLEM_NONE; // the problem reported by the most recent call
+    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or higher
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the most recent call
 };
 
 } // namespace Tksv

@@ -15,7 +15,7 @@
 namespace Tksv
 {
 
-/** The properties of a modem that are visible to clients, see TKSV_Modem. */
+/** The properties of a modem that are visible to clients; see TKSV_Modem. */
 struct ModemSummary {
     std::string equipmentId; // never empty
     std::string name;        // manufacturer and model

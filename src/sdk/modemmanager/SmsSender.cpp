@@ -59,8 +59,7 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
     if (!sms)
         return fail(id, error);
     if (m_inFlight.count(id) == 0)
-        return remove(
-            sms); // the message was reported as failed, so the client may have sent it again
+        return remove(sms); // reported as failed; the client may have sent it again
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;

@@ -80,17 +80,15 @@ private:
     GObjectPtr<MMModem3gppUssd> m_ussd;
     SignalConnections m_signals;
 
-    std::optional<Request> m_next; // starts when no call is running
-    std::optional<Request>
-        m_running; // the call is running, or the reply is held until the state changes
+    std::optional<Request> m_next;    // starts when no call is running
+    std::optional<Request> m_running; // its call is running, or its reply waits for the state
     std::optional<std::string> m_replyText;
     bool m_isLagTimerRunning = false;
     bool m_wasActive = false; // true if the state has been active since the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_isQuestionReported =
-        false;                     // true if the listener has received the open session's prompt
-    bool m_hasNewQuestion = false; // true if NetworkRequest has changed since the call started
+    bool m_isQuestionReported = false; // true if the prompt has been reported
+    bool m_hasNewQuestion = false;     // true if NetworkRequest has changed since the call started
     unsigned m_call = 0; // the number of the most recent call; results of earlier calls are ignored
 };
 

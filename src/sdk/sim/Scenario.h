@@ -26,7 +26,7 @@ const Milliseconds DEFAULT_AWAY(3000);
 /// The maximum number of digits in a code. A request also contains a * and a #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
-/** The network's reaction to a request, see docs/scenario-file.md. */
+/** The network's reaction to a request; see docs/scenario-file.md. */
 enum class Outcome {
     Reply,
     Refuse,
@@ -98,9 +98,8 @@ struct Scenario {
     std::optional<Amount> balance;
     std::string currency;
 
-    std::map<std::string, Rule> rules; // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
-    std::map<std::string, SmsRule>
-        smsRules; // keyed by number; the rule with the empty key applies to all other numbers
+    std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
+    std::map<std::string, SmsRule> smsRules; // keyed by number; empty key: all other numbers
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };
