@@ -1,5 +1,6 @@
 #include "PresetButtonsTest.h"
 
+#include <QFile>
 #include <QGridLayout>
 #include <QVBoxLayout>
 

@@ -1,6 +1,7 @@
 #include "ProfileStoreTest.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <cstdlib>
 #include <new>
@@ -52,6 +53,7 @@ private slots:
     void userFolderIsTakenExactlyAsReturned();
     void textOfTheSdkIsReleasedAsAnArray();
     void withoutUserFolderThereIsNoUserPath();
+    void emptyUserFolderIsUnavailable();
 
     // ---- legacy file
     void legacyFileIsMovedOnceWithItsFolder();
@@ -113,6 +115,19 @@ void ProfilePathsTest::withoutUserFolderThereIsNoUserPath()
     store.getUserProfileXMLFilePath(path);
     QCOMPARE(path, QString());
     QVERIFY(timesLogged("after caling TKSV_GetUserDataDirectory(), retVal=7") > 0);
+}
+
+/// Tests that the profiles are not written to the working directory.
+void ProfilePathsTest::emptyUserFolderIsUnavailable()
+{
+    fakeSdkSetUserDataDirectory(u"");
+    USSDEditCmd store;
+    QString path = latin1("old");
+    store.getUserProfileXMLFilePath(path);
+    QCOMPARE(path, QString());
+    QVERIFY(timesLogged("after caling TKSV_GetUserDataDirectory(), retVal=0") > 0);
+    QCOMPARE(store.saveToXMLFile(false), 23);
+    QVERIFY(!QFile::exists(latin1("ussdprofile.xml")));
 }
 
 // ---- legacy file --------------------------------------------------------------------------------

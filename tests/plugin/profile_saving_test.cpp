@@ -1,6 +1,7 @@
 #include "ProfileStoreTest.h"
 
 #include <QDir>
+#include <QFile>
 #include <QXmlStreamReader>
 
 #include <sys/stat.h>
