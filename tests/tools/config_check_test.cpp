@@ -30,6 +30,10 @@ private slots:
     void profileMistakes_data();
     void profileMistakes();
     void scenarioMistakesHaveTheirLine();
+    void everyMistakeOfAScenarioIsFound_data();
+    void everyMistakeOfAScenarioIsFound();
+    void misspeltNetworkHasOneFinding_data();
+    void misspeltNetworkHasOneFinding();
     void placeIsThatOfTheStartTag();
     void missingThirdItemShowsWhoseValuesAreTaken();
     void everyMissingLineIsFound_data();
@@ -303,6 +307,65 @@ void ConfigCheckTest::scenarioMistakesHaveTheirLine()
     QCOMPARE(report.kind, QLatin1String("scenario"));
     QCOMPARE(rulesOf(report), QStringList() << QLatin1String("scenario"));
     QCOMPARE(report.findings.first().line, qint64(7));
+}
+
+/// Each row is a file after the three lines of [Network], and the lines of all findings. A mistake
+/// hides no other mistake, and has no finding for its consequences.
+void ConfigCheckTest::everyMistakeOfAScenarioIsFound_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QList<int>>("lines");
+    const auto row = [](const char *name, const char *text, const QList<int> &lines) {
+        QTest::newRow(name) << QByteArray(text) << lines;
+    };
+    row("bad line, bad value", "[*1#]\nReply\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
+    row("bad header, bad value", "[*1#\nReply=x\nDelay=soon\n", {4, 6});
+    row("bad header of a menu", "[*1#\nReply=x\n[*1#/1]\nReply=y\n[*1#/2]\nReply=z\n", {4});
+    row("empty header", "[*1#]\nReply=x\n[]\nReply=y\n[*2#]\nDelay=soon\n", {6, 9});
+    row("not UTF-8, bad value", "[*1#]\nReply=\xff\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
+    row("group twice, bad value", "[*1#]\nReply=x\n[*1#]\nDelay=soon\n", {6, 7});
+    row("unknown key, bad placeholder", "[*1#]\nReply={town}\nDelya=1\n", {5, 6});
+    row("unknown key only", "[*1#]\nRepyl=x\n", {5});
+    row("unknown key of an event", "[Event e]\nAfter=1\nSignl=1\n", {6});
+    row("unknown key of a push", "[Push p]\nAfter=1\nRepyl=1\n", {6});
+    row("missing menu", "[*1#/1]\nReply=x\n[*1#/2]\nReply=x\n[*1#/3]\nReply=x\n", {4});
+    row("missing target", "[*1#]\nGoto=*9#\n[*2#]\nGoto=*9#\n[*9#/1]\nReply=x\n", {5});
+    row("two missing targets", "[*1#]\nGoto=*8#\n[*2#]\nGoto=*9#\n", {5, 7});
+}
+
+void ConfigCheckTest::everyMistakeOfAScenarioIsFound()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QList<int>, lines);
+    const CheckReport report = check("[Network]\nOperator=A\nIMSI=001010123456789\n" + text);
+    QList<int> found;
+    for (const CheckFinding &finding : report.findings)
+        found << int(finding.line);
+    QVERIFY2(found == lines, qPrintable(findingsText(report)));
+}
+
+void ConfigCheckTest::misspeltNetworkHasOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("name") << QByteArray("[Network]") << QByteArray("[Netwrok]");
+    QTest::newRow("header") << QByteArray("[Network]") << QByteArray("[Network");
+    QTest::newRow("operator") << QByteArray("Operator=") << QByteArray("Opertor=");
+    QTest::newRow("balance") << QByteArray("Balance=") << QByteArray("Balanse=");
+    QTest::newRow("comma") << QByteArray("12.50") << QByteArray("12,50");
+}
+
+/// Tests that the many rules that use the balance do not report it as missing.
+void ConfigCheckTest::misspeltNetworkHasOneFinding()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QByteArray content = contentOf(QLatin1String(USSD_SOURCE_DIR "/scenarios/default.scenario"));
+    QVERIFY(content.contains(before));
+    const CheckReport report =
+        check(content.replace(content.indexOf(before), before.size(), after));
+    QVERIFY2(report.findings.count() == 1, qPrintable(findingsText(report)));
+    QCOMPARE(report.findings.first().line, lineOf(content, after));
 }
 
 void ConfigCheckTest::placeIsThatOfTheStartTag()

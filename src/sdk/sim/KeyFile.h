@@ -19,6 +19,7 @@ struct KeyFileGroup {
     std::string name;
     int line = 0;
     std::vector<KeyFileEntry> entries;
+    bool isDamaged = false; // a line of the group does not belong in a key file, or occurs twice
 
     /// Returns the entry, or null if the group has no such key.
     const KeyFileEntry *find(const std::string &key) const;
@@ -27,7 +28,8 @@ struct KeyFileGroup {
 /**
  * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
  * not report. Adds a complaint for each line that does not belong in a key file, and for groups and
- * keys that occur twice.
+ * keys that occur twice. Even then, returns everything else, so that its mistakes can be found,
+ * too.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 
