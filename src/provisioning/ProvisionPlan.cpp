@@ -1,5 +1,7 @@
 #include "ProvisionPlan.h"
 
+#include <QSet>
+
 #include "UssdCode.h"
 #include "UssdTemplate.h"
 
@@ -48,7 +50,6 @@ private:
     void takeResponse(const ProviderCode &code, const Kind &kind);
     void takeMessage(const ProviderCode &code, const Kind &kind);
     void addProfile(const QString &code, const Kind &kind);
-    bool hasProfile(const QString &code) const;
     void nameApart(const Kind &kind);
     void note(const ProviderCode &code, const QString &what);
     void placeButtons();
@@ -56,6 +57,7 @@ private:
 
     const Provider &m_provider;
     ProvisionPlan m_plan;
+    QSet<QString> m_codes; // the codes of m_plan.profiles
 };
 
 Planner::Planner(const Provider &provider, const QString &network) : m_provider(provider)
@@ -136,23 +138,15 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
 
 void Planner::addProfile(const QString &code, const Kind &kind)
 {
-    if (hasProfile(code))
+    if (m_codes.contains(code))
         return;
+    m_codes.insert(code);
     USSDProfile profile;
     profile.name = QLatin1String(kind.name);
     profile.value = code;
     profile.langID = QLatin1String(kind.textKey);
     profile.desLangID = QLatin1String(kind.descriptionKey);
     m_plan.profiles << profile;
-}
-
-bool Planner::hasProfile(const QString &code) const
-{
-    for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        if (m_plan.profiles.at(i).value == code)
-            return true;
-    }
-    return false;
 }
 
 /// Gives several profiles or messages of a kind different names, so that the user can distinguish

@@ -15,6 +15,13 @@ namespace
 
 const int MAX_DEPTH = 30;
 
+/// Returns the index of the last "<" before the index `end`, or -1. Does not copy the line, because
+/// a document may consist of one long line.
+int lastTagStart(const QString &line, int end)
+{
+    return end > 0 ? line.lastIndexOf(QLatin1Char('<'), qMin(end, line.length()) - 1) : -1;
+}
+
 /** Builds the list of elements from the tokens of a document. */
 class Reader
 {
@@ -100,9 +107,11 @@ void Reader::refuse(const char *why)
 void Reader::findPlace(XmlElement &element) const
 {
     int line = int(m_xml.lineNumber()) - 1;
-    int column = m_lines.value(line).left(int(m_xml.columnNumber())).lastIndexOf(QLatin1Char('<'));
-    while (column < 0 && line > 0)
-        column = m_lines.value(--line).lastIndexOf(QLatin1Char('<'));
+    int column = lastTagStart(m_lines.value(line), int(m_xml.columnNumber()));
+    while (column < 0 && line > 0) {
+        const QString above = m_lines.value(--line);
+        column = lastTagStart(above, above.length());
+    }
     element.line = line + 1;
     element.column = column + 1;
 }
