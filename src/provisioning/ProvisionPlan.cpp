@@ -13,7 +13,8 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button among the buttons of the general window, counted from 0.
+// The position of the first payment button if the general window has all eleven buttons, counted
+// from 0.
 const int FIRST_PAYMENT_SLOT = 9;
 const int PAYMENT_BUTTONS = 2; // the last two buttons always use the entered number
 
@@ -27,6 +28,25 @@ struct Kind {
 const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DESC"};
 const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
 const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
+
+/// Returns a profile that only takes the place of a payment button.
+USSDProfile placeholder()
+{
+    USSDProfile profile;
+    profile.name = placeholderName();
+    profile.readonly = true;
+    profile.showButton = true;
+    return profile;
+}
+
+/// Returns the profiles from `first` on, at most `count`. `hasButton` is whether they have buttons.
+QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
+{
+    QList<USSDProfile> result = profiles.mid(first, count);
+    for (int i = 0; i < result.count(); ++i)
+        result[i].showButton = hasButton;
+    return result;
+}
 
 bool isMessageNumber(const QString &text)
 {
@@ -181,8 +201,8 @@ void Planner::note(const ProviderCode &code, const QString &what)
 }
 
 /// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
-/// until a number is entered. A code without input therefore has a button only if two codes with
-/// input follow. Otherwise it is available only in the list of codes.
+/// until a number is entered. Codes with input therefore come last, after a placeholder for each
+/// missing one, so that every code without input has a button that works at once.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -191,15 +211,14 @@ void Planner::placeButtons()
         const USSDProfile &profile = m_plan.profiles.at(i);
         (profile.value.contains(INPUT_PLACEHOLDER) ? paying : plain) << profile;
     }
-    const bool plainToo = paying.count() >= PAYMENT_BUTTONS;
-    for (int i = 0; i < plain.count(); ++i)
-        plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
-    for (int i = 0; i < paying.count(); ++i)
-        paying[i].showButton = i < PAYMENT_BUTTONS;
+    QList<USSDProfile> placeholders;
+    while (!plain.isEmpty() && placeholders.count() + paying.count() < PAYMENT_BUTTONS)
+        placeholders << placeholder();
     // There are only eleven buttons, so two codes with input come before the remaining codes.
-    const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
-    m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
-                      paying.mid(PAYMENT_BUTTONS);
+    m_plan.profiles = taken(plain, 0, FIRST_PAYMENT_SLOT, true) + placeholders +
+                      taken(paying, 0, PAYMENT_BUTTONS, true) +
+                      taken(plain, FIRST_PAYMENT_SLOT, -1, false) +
+                      taken(paying, PAYMENT_BUTTONS, -1, false);
 }
 
 void Planner::placePrefixes(const QString &network)
