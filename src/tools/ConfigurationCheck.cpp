@@ -22,6 +22,8 @@ namespace
 
 const int ITEMS = 4;         // the scan always reads four items for a paid section, even outside it
 const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
+const int TWENTIETHS = 20;   // the unit of font sizes is a twentieth of a point
+const int MOST_POINTS = 200; // a larger letter is higher than the transcript
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
                                 XmlName::SENT_CHAR,       XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
@@ -33,6 +35,11 @@ QStringList components()
                          << QLatin1String(XmlName::ONLINE_CHARGE) << QLatin1String(XmlName::MSISDN);
 }
 
+QString titleOf(const char *section)
+{
+    return QString::fromLatin1("<%1>").arg(QLatin1String(section));
+}
+
 /** A component of the account window, as the scan reads it. */
 struct Item {
     int place = -1;
@@ -41,7 +48,11 @@ struct Item {
     int pos = 0;
 };
 
-/** Follows the scan and reports results that the author of the file may not expect. */
+/**
+ * Follows the scan and reports results that the author of the file may not expect. If the scan does
+ * not find an element, the check reports this once and continues as if the element had been found,
+ * so that each cause has one finding and no mistake hides another one.
+ */
 class Check
 {
 public:
@@ -59,13 +70,15 @@ private:
 
     void detection();
     void paid(const char *name);
-    Item item(int section, const char *sectionName, int number);
-    void itemOutside(const Item &item, const char *sectionName, int number);
+    bool nextItem(int section, int number);
+    Item item();
+    void itemOutside(int section, int place, int number);
     void component(const Item &item);
+    void plainCommand(int place, const QString &command);
     void sent(const Item &item);
     void charge(const Item &item);
-    void chargeExpressionOf(const Item &item, const ChargeRules &rules, int place);
-    void chargeLength(const Item &item, const ChargeRules &rules, int place);
+    void chargeExpressionOf(const ChargeRules &rules, int place);
+    void chargeLength(const ChargeRules &rules, int place);
     void twins(const QList<Item> &items);
     void looks(const char *name);
     void colours(int place);
@@ -79,7 +92,6 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost = false; // the scan reached the end of the document without finding a section
 };
 
 void Check::run()
@@ -99,48 +111,50 @@ void Check::run()
 
 int Check::section(const char *name)
 {
-    const QString title = QString::fromLatin1("<%1>").arg(QLatin1String(name));
+    const QString title = titleOf(name);
+    const int before = m_trace.position();
+    const int passed = m_trace.passed(name);
     const int place = m_trace.seek(name);
     if (place >= 0)
         return place;
-    const int passed = m_trace.passed(name);
-    if (passed >= 0 && !m_isLost)
-        m_check.find(passed, "order",
-                     title + QLatin1String(" is too early: the reader only searches forward, so it "
-                                           "misses this section and reads it and every later "
-                                           "section as empty"));
-    else if (passed >= 0)
-        m_check.find(
-            passed, "order",
-            title + QLatin1String(" is not read: the search for another section reached the end"));
-    else
+    if (passed < 0) {
+        m_trace.moveTo(before);
         m_check.find(-1, "missing",
-                     title + QLatin1String(m_isLost ? " is missing"
-                                                    : " is missing: it and every later section "
-                                                      "are read as empty"));
-    m_isLost = true;
-    return -1;
+                     title + QLatin1String(" is missing: it and every later section are read as "
+                                           "empty"));
+        return -1;
+    }
+    m_check.find(passed, "order",
+                 title + QLatin1String(" is too early: the reader only searches forward, so it "
+                                       "misses this section and reads it and every later section "
+                                       "as empty"));
+    m_trace.moveTo(passed + 1);
+    return passed;
 }
 
-/// Returns the next element with this name. Adds a finding when it is outside the section.
+/// Returns the next element with this name. Adds a finding and returns -1 if it is outside the
+/// section.
 int Check::child(int section, const char *name)
 {
-    const int place = m_trace.seek(name);
     if (section < 0)
+        return -1;
+    const int before = m_trace.position();
+    const int place = m_trace.seek(name);
+    if (place >= 0 && m_check.at(place).parent == section)
         return place;
-    const QString title =
-        QString::fromLatin1("<%1> of <%2>").arg(QLatin1String(name), m_check.at(section).name);
+    m_trace.moveTo(before);
+    const QString title = QString::fromLatin1("%1 of <%2> is missing or too early; ")
+                              .arg(titleOf(name), m_check.at(section).name);
     if (place < 0)
         m_check.find(section, "missing",
-                     title + QLatin1String(" is missing or too early; it and every later element "
-                                           "are read as empty"));
-    else if (m_check.at(place).parent != section)
+                     title + QLatin1String("it and every later element are read as empty"));
+    else
         m_check.find(section, "order",
-                     title + QString::fromLatin1(" is missing or too early; the one in line %1 is "
-                                                 "read instead, and everything before that is "
-                                                 "skipped")
-                                 .arg(m_check.at(place).line));
-    return place;
+                     title +
+                         QString::fromLatin1("the one in line %1 is read instead, and everything "
+                                             "before that is skipped")
+                             .arg(m_check.at(place).line));
+    return -1;
 }
 
 QString Check::childText(int section, const char *name, int *place)
@@ -167,15 +181,17 @@ void Check::detection()
     const int section = this->section(XmlName::PRE_POST_DIFFER);
     if (section >= 0)
         m_check.boolAttribute(section, XmlName::VALUE);
-    const QString command = childText(section, XmlName::COMMAND);
+    int commandPlace = -1;
+    const QString command = childText(section, XmlName::COMMAND, &commandPlace);
     int place = -1;
     const QString pattern = childText(section, XmlName::RETURN_PATTERN, &place);
     childNumber(section, XmlName::STYLE);
     if (section < 0)
         return;
-    m_check.command(section, command, 0);
     const bool isOn = m_check.at(section).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    if (isOn && command.isEmpty())
+    if (!command.isEmpty())
+        plainCommand(section, command);
+    else if (isOn && commandPlace >= 0)
         m_check.find(section, "command",
                      QLatin1String("the detection has no command; nothing is asked"));
     if (isOn && place >= 0 && pattern.contains(QLatin1Char('\\')) &&
@@ -190,8 +206,12 @@ void Check::paid(const char *name)
 {
     const int section = this->section(name);
     QList<Item> items;
-    for (int number = 1; number <= ITEMS; ++number)
-        items << item(section, name, number);
+    bool isComplete = section >= 0;
+    for (int number = 1; isComplete && number <= ITEMS; ++number) {
+        isComplete = nextItem(section, number);
+        if (isComplete)
+            items << item();
+    }
     if (section < 0)
         return;
     const QList<int> own = m_elements.childrenOf(section, XmlName::ITEM);
@@ -204,48 +224,73 @@ void Check::paid(const char *name)
     twins(items);
 }
 
-Item Check::item(int section, const char *sectionName, int number)
+/// Moves to the next item. Adds a finding and returns false if it is outside the section.
+bool Check::nextItem(int section, int number)
+{
+    const int before = m_trace.position();
+    const int place = m_trace.seek(XmlName::ITEM);
+    if (place >= 0 && m_check.at(place).parent == section) {
+        m_trace.moveTo(place);
+        return true;
+    }
+    m_trace.moveTo(before);
+    if (place < 0)
+        m_check.find(
+            section, "missing",
+            QString::fromLatin1("<%1> has no item %2").arg(m_check.at(section).name).arg(number));
+    else
+        itemOutside(section, place, number);
+    return false;
+}
+
+Item Check::item()
 {
     Item item;
     item.place = m_trace.seek(XmlName::ITEM);
-    if (item.place < 0) {
-        if (section >= 0)
-            m_check.find(section, "items",
-                         QString::fromLatin1("<%1> has no item %2")
-                             .arg(QLatin1String(sectionName))
-                             .arg(number));
-        return item;
-    }
     item.name = m_check.at(item.place).attribute(XmlName::NAME);
-    if (section >= 0 && m_check.at(item.place).parent != section)
-        itemOutside(item, sectionName, number);
+    item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
+    item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
     if (components().contains(item.name))
         component(item);
-    else if (section >= 0)
+    else
         m_check.find(item.place, "items",
                      QString::fromLatin1("there is no component %1; the item is counted but "
                                          "not read")
                          .arg(quotedPart(item.name)));
-    item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
     return item;
 }
 
-void Check::itemOutside(const Item &item, const char *sectionName, int number)
+void Check::itemOutside(int section, int place, int number)
 {
-    const int parent = m_check.at(item.place).parent;
-    m_check.find(item.place, "items",
+    const int parent = m_check.at(place).parent;
+    m_check.find(place, "items",
                  QString::fromLatin1("<%1> has fewer than four items: this item %2 of <%3> becomes "
                                      "its item %4")
-                     .arg(QLatin1String(sectionName), quotedPart(item.name),
+                     .arg(m_check.at(section).name,
+                          quotedPart(m_check.at(place).attribute(XmlName::NAME)),
                           parent < 0 ? QString() : m_check.at(parent).name)
                      .arg(number));
+}
+
+/// Checks a code that is sent as it is.
+void Check::plainCommand(int place, const QString &command)
+{
+    m_check.command(place, command, 0);
+    if (command.contains(INPUT_PLACEHOLDER))
+        m_check.find(place, "command",
+                     quotedPart(command) +
+                         QLatin1String(" has a \"%s\", for which nothing can be entered; it is "
+                                       "sent unchanged"));
 }
 
 void Check::component(const Item &item)
 {
     m_check.boolAttribute(item.place, XmlName::VALUE);
     m_check.numberAttribute(item.place, XmlName::POSITION);
+    if (m_check.at(item.place).behind == item.place + 1)
+        return m_check.find(item.place, "order",
+                            QLatin1String("the item has no elements; the reader takes them from "
+                                          "later items, and skips everything before them"));
     if (item.name == QLatin1String(XmlName::CHARGE))
         return charge(item);
     if (item.name == QLatin1String(XmlName::ONLINE_CHARGE)) {
@@ -259,18 +304,21 @@ void Check::component(const Item &item)
 
 void Check::sent(const Item &item)
 {
-    const QString command = childText(item.place, XmlName::COMMAND);
+    int place = -1;
+    const QString command = childText(item.place, XmlName::COMMAND, &place);
     const bool shown =
         m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    m_check.command(item.place, command, 0);
-    if (shown && command.isEmpty())
+    if (!command.isEmpty())
+        plainCommand(item.place, command);
+    else if (shown && place >= 0)
         m_check.find(item.place, "command",
                      item.name + QLatin1String(" is shown and has no command"));
 }
 
 void Check::charge(const Item &item)
 {
-    const QString command = childText(item.place, XmlName::COMMAND);
+    int commandPlace = -1;
+    const QString command = childText(item.place, XmlName::COMMAND, &commandPlace);
     ChargeRules rules;
     int lengthPlace = -1;
     rules.length = childNumber(item.place, XmlName::LENGTH, &lengthPlace);
@@ -278,45 +326,47 @@ void Check::charge(const Item &item)
     childNumber(item.place, XmlName::RETURN_STYLE);
     int limitPlace = -1;
     rules.limitText = childText(item.place, XmlName::LIMIT_TEXT, &limitPlace);
-    m_check.command(item.place, command, rules.length);
+    if (!command.isEmpty())
+        m_check.command(item.place, command, rules.length);
     if (m_check.at(item.place).attribute(XmlName::VALUE) != QLatin1String(XmlName::ON))
         return;
-    if (!command.contains(INPUT_PLACEHOLDER))
+    if (commandPlace >= 0 && !command.contains(INPUT_PLACEHOLDER))
         m_check.find(item.place, "command",
                      QLatin1String("the top-up's command has no \"%s\"; what is entered is not "
                                    "sent"));
-    chargeLength(item, rules, lengthPlace);
-    chargeExpressionOf(item, rules, limitPlace);
+    if (lengthPlace >= 0)
+        chargeLength(rules, lengthPlace);
+    if (limitPlace >= 0)
+        chargeExpressionOf(rules, limitPlace);
 }
 
-void Check::chargeLength(const Item &item, const ChargeRules &rules, int place)
+void Check::chargeLength(const ChargeRules &rules, int place)
 {
-    const int at = place < 0 ? item.place : place;
     if (rules.length <= 0)
-        m_check.find(at, "length", QLatin1String("length is 0: nothing can be entered to top up"));
+        m_check.find(place, "length",
+                     QLatin1String("length is 0: nothing can be entered to top up"));
     else if (rules.minlenth > rules.length)
         m_check.find(
-            at, "length",
+            place, "length",
             QString::fromLatin1("minlenth %1 is more than length %2: exactly %2 are needed")
                 .arg(rules.minlenth)
                 .arg(rules.length));
 }
 
-void Check::chargeExpressionOf(const Item &item, const ChargeRules &rules, int place)
+void Check::chargeExpressionOf(const ChargeRules &rules, int place)
 {
-    const int at = place < 0 ? item.place : place;
     if (!SmsLayoutFile::isCharacterClass(rules.limitText))
-        m_check.find(at, "expression",
+        m_check.find(place, "expression",
                      QString::fromLatin1("LimitText %1 is no class of characters")
                          .arg(quotedPart(rules.limitText)));
     else if (rules.length > 0 && rules.length <= SmsLayoutFile::MAX_INPUT_LENGTH &&
              !QRegExp(chargeExpression(rules)).isValid())
-        m_check.find(at, "expression",
+        m_check.find(place, "expression",
                      QString::fromLatin1("%1 is no regular expression")
                          .arg(quotedPart(chargeExpression(rules))));
     else if (rules.length > SmsLayoutFile::MAX_INPUT_LENGTH)
         m_check.find(
-            at, "expression",
+            place, "expression",
             QString::fromLatin1("length %1 is more than a regular expression can count (%2)")
                 .arg(rules.length)
                 .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
@@ -357,6 +407,12 @@ void Check::looks(const char *name)
     if (place >= 0 && height <= 0)
         m_check.find(place, "size",
                      QLatin1String("yHeight is not above 0: letters get Qt's smallest size"));
+    if (height > MOST_POINTS * TWENTIETHS)
+        m_check.find(place, "size",
+                     QString::fromLatin1("yHeight %1 is a font size of %2 points: not even one "
+                                         "letter fits into the window")
+                         .arg(height)
+                         .arg(height / TWENTIETHS));
     colours(colour);
 }
 
