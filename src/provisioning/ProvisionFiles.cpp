@@ -334,15 +334,18 @@ void ConfigurationWriter::writeSims()
 {
     const bool account =
         !m_plan.balance.isEmpty() || !m_plan.topUp.isEmpty() || !m_plan.ownNumber.isEmpty();
-    QString windows = QLatin1String(account ? "Prepaid/Advanced" : XmlName::ADVANCED);
+    QStringList windows;
+    if (account)
+        windows << QLatin1String(XmlName::PREPAID);
+    windows << QLatin1String(XmlName::ADVANCED);
     if (!m_plan.messages.isEmpty())
-        windows += QLatin1String("/Commonpaid");
+        windows << QLatin1String(XmlName::COMMONPAID);
     start(XmlName::AUTO_USSD);
     attribute(XmlName::VALID, boolText(!m_plan.imsiPrefixes.isEmpty()));
     for (int i = 0; i < m_plan.imsiPrefixes.count(); ++i) {
         start(XmlName::ITEM);
         attribute(XmlName::IMSI, m_plan.imsiPrefixes.at(i));
-        attribute(XmlName::USSD, windows);
+        attribute(XmlName::USSD, windows.join(QString(QLatin1Char('/'))));
         end();
     }
     end();

@@ -346,19 +346,20 @@ void Check::chargeLength(const ChargeRules &rules, int place)
         m_check.find(place, "length",
                      QLatin1String("length is 0: nothing can be entered to top up"));
     else if (rules.minlenth > rules.length)
-        m_check.find(
-            place, "length",
-            QString::fromLatin1("minlenth %1 is more than length %2: exactly %2 are needed")
-                .arg(rules.minlenth)
-                .arg(rules.length));
+        m_check.find(place, "length",
+                     QString::fromLatin1("%1 %2 is more than %3 %4: exactly %4 are needed")
+                         .arg(QLatin1String(XmlName::MIN_LENGTH))
+                         .arg(rules.minlenth)
+                         .arg(QLatin1String(XmlName::LENGTH))
+                         .arg(rules.length));
 }
 
 void Check::chargeExpressionOf(const ChargeRules &rules, int place)
 {
     if (!SmsLayoutFile::isCharacterClass(rules.limitText))
         m_check.find(place, "expression",
-                     QString::fromLatin1("LimitText %1 is no class of characters")
-                         .arg(quotedPart(rules.limitText)));
+                     QString::fromLatin1("%1 %2 is no class of characters")
+                         .arg(QLatin1String(XmlName::LIMIT_TEXT), quotedPart(rules.limitText)));
     else if (rules.length > 0 && rules.length <= SmsLayoutFile::MAX_INPUT_LENGTH &&
              !QRegExp(chargeExpression(rules)).isValid())
         m_check.find(place, "expression",
@@ -386,11 +387,11 @@ void Check::twins(const QList<Item> &items)
                                  .arg(quotedPart(b.name))
                                  .arg(m_check.at(a.place).line));
             else if (a.shown && b.shown && a.pos == b.pos)
-                m_check.find(b.place, "position",
-                             QString::fromLatin1("%1 and %2 have the same pos %3; only one of them "
-                                                 "is shown")
-                                 .arg(a.name, b.name)
-                                 .arg(a.pos));
+                m_check.find(
+                    b.place, "position",
+                    QString::fromLatin1("%1 and %2 have the same %3 %4; only one of them is shown")
+                        .arg(a.name, b.name, QLatin1String(XmlName::POSITION))
+                        .arg(a.pos));
         }
     }
 }
@@ -406,13 +407,16 @@ void Check::looks(const char *name)
         return;
     if (place >= 0 && height <= 0)
         m_check.find(place, "size",
-                     QLatin1String("yHeight is not above 0: letters get Qt's smallest size"));
+                     QLatin1String(XmlName::Y_HEIGHT) +
+                         QLatin1String(" is not above 0: letters get Qt's smallest size"));
     if (height > MOST_POINTS * TWENTIETHS)
-        m_check.find(place, "size",
-                     QString::fromLatin1("yHeight %1 is a font size of %2 points: not even one "
-                                         "letter fits into the window")
-                         .arg(height)
-                         .arg(height / TWENTIETHS));
+        m_check.find(
+            place, "size",
+            QString::fromLatin1(
+                "%1 %2 is a font size of %3 points: not even one letter fits into the window")
+                .arg(QLatin1String(XmlName::Y_HEIGHT))
+                .arg(height)
+                .arg(height / TWENTIETHS));
     colours(colour);
 }
 
@@ -444,7 +448,8 @@ void Check::clearButton()
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);
     if (place < 0)
         return m_check.find(-1, "missing",
-                            QLatin1String("<clearHistory> is missing: there is no Clear button"));
+                            titleOf(XmlName::CLEAR_HISTORY) +
+                                QLatin1String(" is missing: there is no Clear button"));
     m_check.boolAttribute(place, XmlName::VISIBLE);
     m_check.boolAttribute(place, XmlName::SHOW_CONFIRM_DIALOG);
 }
@@ -463,8 +468,8 @@ void Check::sims()
     for (int place = m_trace.seek(XmlName::ITEM); place >= 0; place = m_trace.seek(XmlName::ITEM)) {
         if (m_check.at(place).parent != section)
             m_check.find(place, "order",
-                         QLatin1String("this item follows <autoUSSD> and is read as a SIM "
-                                       "card"));
+                         QString::fromLatin1("this item follows %1 and is read as a SIM card")
+                             .arg(titleOf(XmlName::AUTO_USSD)));
         else
             sim(place, seen);
     }
@@ -492,7 +497,8 @@ void Check::windows(int place)
 {
     const QString list = m_check.at(place).attribute(XmlName::USSD);
     const QStringList known =
-        QString::fromLatin1("Prepaid Postpaid Commonpaid Advanced").split(QLatin1Char(' '));
+        QStringList() << QLatin1String(XmlName::PREPAID) << QLatin1String(XmlName::POSTPAID)
+                      << QLatin1String(XmlName::COMMONPAID) << QLatin1String(XmlName::ADVANCED);
     const QStringList parts = list.split(QLatin1Char('/'));
     for (int i = 0; i < parts.count(); ++i) {
         if (!parts.at(i).isEmpty() && !known.contains(parts.at(i)))
@@ -543,9 +549,14 @@ QStringList row(const char *name, const QString &a, const QString &b = QString()
     return QStringList() << QLatin1String(name) << a << b << c;
 }
 
+QString named(const char *name, int value)
+{
+    return QString::fromLatin1("%1 %2").arg(QLatin1String(name)).arg(value);
+}
+
 QString positionOf(bool shown, int pos)
 {
-    return shown ? QString::fromLatin1("pos %1").arg(pos) : QString::fromLatin1("hidden");
+    return shown ? named(XmlName::POSITION, pos) : QString::fromLatin1("hidden");
 }
 
 CheckTable paidTable(const PluginConfig &config, int paidType, const char *title)
@@ -558,14 +569,14 @@ CheckTable paidTable(const PluginConfig &config, int paidType, const char *title
     table.title = QLatin1String(title);
     table.rows << row(XmlName::BALANCE, positionOf(balance.value, balance.pos), balance.command)
                << row(XmlName::CHARGE, positionOf(charge.value, charge.pos), charge.command,
-                      QString::fromLatin1("%1 to %2 of [%3], ReturnStyle %4")
-                          .arg(charge.minlenth)
-                          .arg(charge.length)
-                          .arg(charge.limitText)
-                          .arg(charge.returnStyle))
+                      QString::fromLatin1("%1 to %2 of [%3], ")
+                              .arg(charge.minlenth)
+                              .arg(charge.length)
+                              .arg(charge.limitText) +
+                          named(XmlName::RETURN_STYLE, charge.returnStyle))
                << row(XmlName::ONLINE_CHARGE, positionOf(online.value, online.pos), online.url)
                << row(XmlName::MSISDN, positionOf(number.value, number.pos), number.command,
-                      QString::fromLatin1("UpdateButton %1").arg(number.updateButton));
+                      named(XmlName::UPDATE_BUTTON, number.updateButton));
     return table;
 }
 
@@ -576,8 +587,7 @@ QString colourText(int red, int green, int blue)
 
 QStringList charRow(const char *name, const Char &look)
 {
-    return row(name, QString::fromLatin1("yHeight %1").arg(look.yHeight),
-               QString::fromLatin1("yOffset %1").arg(look.yOffset),
+    return row(name, named(XmlName::Y_HEIGHT, look.yHeight), named(XmlName::Y_OFFSET, look.yOffset),
                colourText(look.red, look.green, look.blue));
 }
 
@@ -589,7 +599,7 @@ CheckTable looksTable(const PluginConfig &config)
     table.rows << charRow(XmlName::SENT_CHAR, config.sentChar)
                << charRow(XmlName::RECEIVED_CHAR, config.receivedChar)
                << row(XmlName::CLEAR_HISTORY, boolWord(config.clearHistory.visible),
-                      QLatin1String("showConfirmDialog ") +
+                      QLatin1String(XmlName::SHOW_CONFIRM_DIALOG) + QLatin1Char(' ') +
                           boolWord(config.clearHistory.showConfirmDialog))
                << row(XmlName::CMD_EDIT, boolWord(edit.visible))
                << row(XmlName::READONLY_COLOR,

@@ -249,8 +249,9 @@ void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport
     takeComplaints(elements, layout.complaints.mid(isWhole ? 0 : 1), report);
     if (layout.furtherComplaints > 0)
         addFinding(report, 0, 0, "layout",
-                   QString::fromLatin1("%1 more faults of SMSUSSD are not listed")
-                       .arg(layout.furtherComplaints));
+                   QString::fromLatin1("%1 more faults of %2 are not listed")
+                       .arg(layout.furtherComplaints)
+                       .arg(QLatin1String(XmlName::SMS_USSD)));
     ElementCheck check(elements, report);
     for (int i = 0; i < elements.list.count(); ++i) {
         if (elements.list.at(i).name != QLatin1String(XmlName::SMS_USSD))
