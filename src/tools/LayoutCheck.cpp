@@ -41,31 +41,6 @@ void takeComplaint(const XmlElements &elements, const QString &complaint, CheckR
                pattern.cap(2));
 }
 
-/// Returns the complaint without its numbers, such as the line.
-QString kindOfComplaint(QString complaint)
-{
-    return complaint.remove(QRegExp(QLatin1String("\\d+")));
-}
-
-/// Adds findings for the complaints of the plug-in's reader. Complaints that differ only in numbers
-/// often have the same cause, so only the first of them is listed, together with their count.
-void takeComplaints(const XmlElements &elements, const QStringList &complaints, CheckReport &report)
-{
-    QStringList kinds;
-    for (int i = 0; i < complaints.count(); ++i)
-        kinds << kindOfComplaint(complaints.at(i));
-    for (int i = 0; i < complaints.count(); ++i) {
-        const int more = kinds.count(kinds.at(i)) - 1;
-        if (kinds.indexOf(kinds.at(i)) == i)
-            takeComplaint(elements,
-                          complaints.at(i) +
-                              (more == 0
-                                   ? QString()
-                                   : QString::fromLatin1(" (and %1 more of this kind)").arg(more)),
-                          report);
-    }
-}
-
 /// Returns the indexes of the elements with this name in the section, at any depth.
 QList<int> allNamed(const XmlElements &elements, int section, const char *name)
 {
@@ -75,6 +50,77 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
             found << i;
     }
     return found;
+}
+
+/// Returns the complaint with its line, but without other numbers.
+QString kindOfComplaint(const QString &complaint)
+{
+    const int colon = complaint.indexOf(QLatin1Char(':'));
+    QString rest = complaint.mid(colon);
+    return complaint.left(colon) + rest.remove(QRegExp(QLatin1String("\\d+")));
+}
+
+/// Returns true if the complaint is a consequence of the root not being the first entry.
+bool isAboutRoot(const QString &complaint)
+{
+    return complaint.contains(QLatin1String("it stands before the root")) ||
+           complaint.contains(QLatin1String("the tree has no entry"));
+}
+
+/// Adds findings for the complaints of the plug-in's reader. If a line has several complaints that
+/// differ only in numbers, only the first of them is listed, together with their count.
+void takeComplaints(const XmlElements &elements, const QStringList &complaints, CheckReport &report)
+{
+    QStringList kinds;
+    for (int i = 0; i < complaints.count(); ++i)
+        kinds << kindOfComplaint(complaints.at(i));
+    for (int i = 0; i < complaints.count(); ++i) {
+        const int more = kinds.count(kinds.at(i)) - 1;
+        const QString count = QString::fromLatin1(" (and %1 more of this kind)").arg(more);
+        if (kinds.indexOf(kinds.at(i)) == i)
+            takeComplaint(elements, complaints.at(i) + (more == 0 ? QString() : count), report);
+    }
+}
+
+/// Checks that the first entry of the tree is the root. Returns false if it is another entry.
+bool checkRoot(ElementCheck &check)
+{
+    for (int i = 0; i < check.elements().list.count(); ++i) {
+        if (check.at(i).name != QLatin1String(XmlName::TREE))
+            continue;
+        const int first = check.elements().childrenOf(i, XmlName::ITEM).value(0, -1);
+        if (first < 0 ||
+            check.at(first).attribute(XmlName::TYPE) == QLatin1String(XmlName::TREE_ROOT))
+            continue;
+        check.find(first, "layout",
+                   QString::fromLatin1("the first entry does not have the type \"%1\"; all entries "
+                                       "before the root are left out")
+                       .arg(QLatin1String(XmlName::TREE_ROOT)));
+        return false;
+    }
+    return true;
+}
+
+/// Adds findings for what the plug-in's reader complains about.
+void checkWithReader(ElementCheck &check, const QByteArray &xml, CheckReport &report)
+{
+    SmsLayout layout;
+    QXmlStreamReader reader(xml);
+    SmsLayoutFile::read(reader, layout);
+    const XmlElements &elements = check.elements();
+    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
+    const bool hasRoot = checkRoot(check);
+    QStringList complaints;
+    for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i) {
+        if (hasRoot || !isAboutRoot(layout.complaints.at(i)))
+            complaints << layout.complaints.at(i);
+    }
+    takeComplaints(elements, complaints, report);
+    if (hasRoot && layout.furtherComplaints > 0)
+        check.find(elements.list.count() - 1, "layout",
+                   QString::fromLatin1("%1 more faults of %2 are not listed")
+                       .arg(layout.furtherComplaints)
+                       .arg(QLatin1String(XmlName::SMS_USSD)));
 }
 
 void checkKeys(ElementCheck &check, int section)
@@ -242,17 +288,8 @@ CheckTable servicesTable(const SmsLayout &layout)
 
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report)
 {
-    SmsLayout layout;
-    QXmlStreamReader reader(xml);
-    SmsLayoutFile::read(reader, layout);
-    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
-    takeComplaints(elements, layout.complaints.mid(isWhole ? 0 : 1), report);
-    if (layout.furtherComplaints > 0)
-        addFinding(report, 0, 0, "layout",
-                   QString::fromLatin1("%1 more faults of %2 are not listed")
-                       .arg(layout.furtherComplaints)
-                       .arg(QLatin1String(XmlName::SMS_USSD)));
     ElementCheck check(elements, report);
+    checkWithReader(check, xml, report);
     for (int i = 0; i < elements.list.count(); ++i) {
         if (elements.list.at(i).name != QLatin1String(XmlName::SMS_USSD))
             continue;
