@@ -13,6 +13,7 @@ namespace Tools
 namespace
 {
 
+const int MOST_ATTRIBUTES = 50; // for an element with more, the comparison would take too long
 const int MOST_DIFFERENCES = 2; // a name with more differences is not a misspelling
 
 /// Returns the number of letters to insert, delete or replace (the Levenshtein distance).
@@ -50,9 +51,9 @@ public:
     QString correct();
 
 private:
-    void takeTag(int begin, int end);
+    void takeTag(int begin);
     void replaceFrom(int at, const QString &name, const QString &meant);
-    void correctAttributes(const XmlElement &element, int begin, int end);
+    void correctAttributes(const XmlElement &element, int begin);
 
     const QString &m_text;
     const KnownNames &m_known;
@@ -72,12 +73,12 @@ QString Corrector::correct()
         const int begin = m_text.lastIndexOf(QLatin1Char('<'), end - 1);
         const bool isEndTag = m_text.mid(begin + 1, 1) == QLatin1String("/");
         if (begin >= m_copied && isStart != isEndTag) // an empty element has only one tag
-            takeTag(begin, end);
+            takeTag(begin);
     }
     return m_result + m_text.mid(m_copied);
 }
 
-void Corrector::takeTag(int begin, int end)
+void Corrector::takeTag(int begin)
 {
     XmlElement element;
     element.name = m_xml.name().toString();
@@ -87,7 +88,7 @@ void Corrector::takeTag(int begin, int end)
     if (!meant.isEmpty() && m_text.mid(at, element.name.length()) == element.name)
         replaceFrom(at, element.name, meant);
     if (m_xml.isStartElement())
-        correctAttributes(element, begin, end);
+        correctAttributes(element, begin);
 }
 
 void Corrector::replaceFrom(int at, const QString &name, const QString &meant)
@@ -96,15 +97,19 @@ void Corrector::replaceFrom(int at, const QString &name, const QString &meant)
     m_copied = at + name.length();
 }
 
-void Corrector::correctAttributes(const XmlElement &element, int begin, int end)
+void Corrector::correctAttributes(const XmlElement &element, int begin)
 {
+    int from = qMax(begin, m_copied); // the attributes follow each other, so the search continues
     for (int i = 0; i < element.attributes.count(); ++i) {
-        const QString name = element.attributes.at(i).name().toString();
+        const QString name = element.attributes.at(i).qualifiedName().toString();
         const QString meant = meantAttribute(element, name, m_known);
+        if (meant.isEmpty())
+            continue;
         const QRegExp place(QString::fromLatin1("\\s%1\\s*=").arg(QRegExp::escape(name)));
-        const int at = meant.isEmpty() ? -1 : place.indexIn(m_text.mid(begin, end - begin));
-        if (at >= 0 && begin + at + 1 >= m_copied)
-            replaceFrom(begin + at + 1, name, meant);
+        from = place.indexIn(m_text, from) + 1;
+        if (from <= 0)
+            return;
+        replaceFrom(from, name, meant);
     }
 }
 
@@ -137,7 +142,8 @@ QString meantElement(const XmlElement &element, const KnownNames &known)
 
 QString meantAttribute(const XmlElement &element, const QString &name, const KnownNames &known)
 {
-    if (known.attributes.contains(name))
+    if (known.attributes.contains(name) || name.contains(QLatin1Char(':')) ||
+        element.attributes.count() > MOST_ATTRIBUTES)
         return QString();
     QStringList free;
     for (int i = 0; i < known.attributes.count(); ++i) {

@@ -14,6 +14,7 @@ namespace
 {
 
 const int MAX_DEPTH = 30;
+const int MAX_ATTRIBUTES = 1000; // Qt compares each attribute with all others of the element
 
 /// Returns the index of the last "<" before the index `end`, or -1. Does not copy the line, because
 /// a document may consist of one long line.
@@ -81,6 +82,8 @@ void Reader::start()
     findPlace(element);
     m_open << m_elements.list.count();
     m_elements.list << element;
+    if (element.attributes.count() > MAX_ATTRIBUTES)
+        refuse("An element has too many attributes.");
     if (m_open.count() > MAX_DEPTH)
         refuse("Elements are nested too deeply.");
 }

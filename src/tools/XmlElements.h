@@ -35,7 +35,9 @@ struct XmlElements {
     QString error; // the reason why reading stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    bool isDangerous = false; // too deeply nested, or declares entities; unsafe for other readers
+    /// True if the document is nested too deeply, declares entities or has too many attributes.
+    /// Such a document is unsafe for other readers.
+    bool isDangerous = false;
 
     /// Returns the indexes of the direct children of `parent` that have this name.
     QList<int> childrenOf(int parent, const char *name) const;

@@ -715,6 +715,12 @@ void ConfigCheckTest::everyPrefixIsChecked()
     const CheckReport deep = check("<a><Prepaid>" + QByteArray("<b>").repeated(100000));
     QVERIFY(rulesOf(deep).contains(QLatin1String("xml")));
     QVERIFY(deep.tables.isEmpty());
+    QByteArray attributes;
+    for (int i = 0; i < 5000; ++i)
+        attributes += " a" + QByteArray::number(i) + "='1'";
+    const CheckReport wide = check("<a><Prepaid" + attributes + "/></a>");
+    QCOMPARE(rulesOf(wide), QStringList(QLatin1String("xml")));
+    QVERIFY(wide.tables.isEmpty());
 }
 
 /// The plug-in's scan and the trace take the same steps through random documents.
