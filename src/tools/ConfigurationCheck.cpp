@@ -234,12 +234,12 @@ bool Check::nextItem(int section, int number)
         return true;
     }
     m_trace.moveTo(before);
-    if (place < 0)
-        m_check.find(
-            section, "missing",
-            QString::fromLatin1("<%1> has no item %2").arg(m_check.at(section).name).arg(number));
-    else
+    if (place >= 0)
         itemOutside(section, place, number);
+    else if (m_elements.error.isEmpty()) // otherwise, the item may be behind the error
+        m_check.find(
+            section, "items",
+            QString::fromLatin1("<%1> has no item %2").arg(m_check.at(section).name).arg(number));
     return false;
 }
 
