@@ -125,13 +125,29 @@ void checkLayoutSection(const XmlElements &elements, CheckReport &report)
                                                  : " is given more than once"));
 }
 
-/// Removes the findings about missing elements, which are behind the error in the document.
-void dropConsequencesOfError(CheckReport &report)
+/// Returns true if the finding is about an element that is incomplete because of an error in the
+/// document, or about what is missing behind the error.
+bool isConsequenceOfError(const CheckFinding &finding, const XmlElements &elements)
+{
+    if (finding.rule == QLatin1String("missing") || finding.rule == QLatin1String("button"))
+        return true;
+    for (int i = 0; i < elements.list.count(); ++i) {
+        const XmlElement &element = elements.list.at(i);
+        if (!element.isWhole && element.line == finding.line && element.column == finding.column)
+            return true;
+    }
+    return false;
+}
+
+void dropConsequencesOfError(const XmlElements &elements, CheckReport &report)
 {
     QList<CheckFinding> kept;
     for (int i = 0; i < report.findings.count(); ++i) {
-        if (report.findings.at(i).rule != QLatin1String("missing"))
-            kept << report.findings.at(i);
+        const CheckFinding &finding = report.findings.at(i);
+        const bool isCause =
+            finding.rule == QLatin1String("xml") || finding.rule == QLatin1String("name");
+        if (isCause || !isConsequenceOfError(finding, elements))
+            kept << finding;
     }
     report.findings = kept;
 }
@@ -149,7 +165,7 @@ void checkSections(const QByteArray &xml, CheckReport &report)
         checkLayout(elements, xml, report);
     }
     if (!elements.error.isEmpty())
-        dropConsequencesOfError(report);
+        dropConsequencesOfError(elements, report);
 }
 
 /// Returns what the plug-in reads from the document as it is, with the misspelt names.

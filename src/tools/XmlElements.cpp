@@ -36,6 +36,7 @@ public:
 private:
     void take(QXmlStreamReader::TokenType token);
     void start();
+    void endTag();
     void end();
     void characters();
     void refuse(const char *why);
@@ -66,7 +67,7 @@ void Reader::take(QXmlStreamReader::TokenType token)
     if (token == QXmlStreamReader::StartElement)
         start();
     else if (token == QXmlStreamReader::EndElement)
-        end();
+        endTag();
     else if (token == QXmlStreamReader::Characters)
         characters();
     else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
@@ -86,6 +87,12 @@ void Reader::start()
         refuse("An element has too many attributes.");
     if (m_open.count() > MAX_DEPTH)
         refuse("Elements are nested too deeply.");
+}
+
+void Reader::endTag()
+{
+    m_elements.list[m_open.last()].isWhole = true;
+    end();
 }
 
 void Reader::end()

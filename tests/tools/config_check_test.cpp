@@ -53,6 +53,8 @@ private slots:
     void misspeltNameHasOneFinding();
     void oneCauseHasOneFinding_data();
     void oneCauseHasOneFinding();
+    void brokenProfilesHaveOneFinding_data();
+    void brokenProfilesHaveOneFinding();
     void itemWithoutElementsHasOneFinding();
     void layoutAloneIsChecked();
     void unusableContent_data();
@@ -648,6 +650,31 @@ void ConfigCheckTest::oneCauseHasOneFinding()
     const int findings = rule == QLatin1String("name") ? 2 : 1; // the end tag is a second mistake
     QVERIFY2(report.findings.count() == findings, qPrintable(findingsText(report)));
     QCOMPARE(report.findings.first().rule, rule);
+}
+
+void ConfigCheckTest::brokenProfilesHaveOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("no angle bracket") << QByteArray("</value>") << QByteArray("/value>");
+    QTest::newRow("two angle brackets") << QByteArray("<value>") << QByteArray("<value<");
+    QTest::newRow("cut off") << QByteArray("<readonly>true</readonly>")
+                             << QByteArray("<readonly>tr<");
+    QTest::newRow("ampersand") << QByteArray("*126#") << QByteArray("*12&6#");
+}
+
+/// Tests that an error in the document is not mixed up with what it does to the profiles.
+void ConfigCheckTest::brokenProfilesHaveOneFinding()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QByteArray content = profiles();
+    const int at = content.lastIndexOf(before);
+    QVERIFY(at >= 0);
+    content.replace(at, before.size(), after);
+    const CheckReport report = check(content);
+    QVERIFY2(rulesOf(report) == QStringList(QLatin1String("xml")),
+             qPrintable(findingsText(report)));
 }
 
 void ConfigCheckTest::itemWithoutElementsHasOneFinding()
