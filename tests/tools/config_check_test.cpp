@@ -468,6 +468,8 @@ void ConfigCheckTest::everyMistakeOfAScenarioIsFound_data()
     row("bad line, bad value", "[*1#]\nReply\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
     row("bad header, bad value", "[*1#\nReply=x\nDelay=soon\n", {4, 6});
     row("bad header of a menu", "[*1#\nReply=x\n[*1#/1]\nReply=y\n[*1#/2]\nReply=z\n", {4});
+    row("header without a bracket", "[*1#]\nReply=x\n*2#]\nReply=x\nDelay=soon\n", {6, 8});
+    row("encoding", "Encoding=x\nSignal\n[*1#]\nReply=x\nEncoding=y\n", {4, 5, 8});
     row("empty header", "[*1#]\nReply=x\n[]\nReply=y\n[*2#]\nDelay=soon\n", {6, 9});
     row("not UTF-8, bad value", "[*1#]\nReply=\xff\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
     row("group twice, bad value", "[*1#]\nReply=x\n[*1#]\nDelay=soon\n", {6, 7});

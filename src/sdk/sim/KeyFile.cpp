@@ -98,10 +98,17 @@ private:
 std::string repairedHeader(const std::string &line)
 {
     const std::string content = trimmed(line);
-    std::string name = content.substr(1, content.find(']') - 1);
+    std::string name = content.substr(0, content.find(']'));
     const auto isForbidden = [](char c) { return c == '[' || g_ascii_iscntrl(c); };
     name.erase(std::remove_if(name.begin(), name.end(), isForbidden), name.end());
     return name.empty() ? name : "[" + name + "]";
+}
+
+/// Returns true if a bad line seems to be a header without its first bracket.
+bool isMeantAsHeader(const std::string &line)
+{
+    const std::string content = trimmed(line);
+    return !content.empty() && content.back() == ']' && content.find('=') == std::string::npos;
 }
 
 void complainAboutLine(std::size_t index, const std::string &line, Complaints &complaints)
@@ -120,14 +127,14 @@ void mendBadLines(std::vector<std::string> &lines, Complaints &complaints)
     BadLineSearch search;
     bool isGroupLost = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const bool startsGroup = isHeader(lines[i]);
         const bool isBad = search.isBad(lines[i]);
+        const bool startsGroup = isHeader(lines[i]) || (isBad && isMeantAsHeader(lines[i]));
         if (isBad && (startsGroup || !isGroupLost))
             complainAboutLine(i, lines[i], complaints);
         if (isBad)
             lines[i] = startsGroup ? repairedHeader(lines[i]) : std::string();
         if (startsGroup)
-            isGroupLost = lines[i].empty() || search.isBad(lines[i]);
+            isGroupLost = isBad && (lines[i].empty() || search.isBad(lines[i]));
         if (isGroupLost)
             lines[i].clear();
     }
