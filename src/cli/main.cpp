@@ -1,0 +1,76 @@
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "Commands.h"
+#include "ExitCodes.h"
+#include "Options.h"
+#include "Program.h"
+
+using namespace Cli;
+
+namespace
+{
+
+/// Opens the standard streams that are closed, so that no other file gets their numbers. A reply
+/// would otherwise be written to the message bus, for example. The files are opened for reading
+/// only, so that output still fails.
+void reserveStandardStreams()
+{
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1)
+            open("/dev/null", O_RDONLY); // the lowest free number, which is this one
+    }
+}
+
+int runCommand(Program &program)
+{
+    switch (program.options().command) {
+    case Command::Send:
+        return send(program);
+    case Command::Chat:
+        return chat(program);
+    case Command::Status:
+        return printStatus(program);
+    case Command::Modems:
+        return printModems(program);
+    case Command::Watch:
+        return watch(program);
+    case Command::Cancel:
+        return cancel(program);
+    case Command::Help:
+        program.output().line(program.options().help);
+        break;
+    case Command::Version:
+        program.output().line("ussd " USSD_VERSION);
+        break;
+    }
+    return EXIT_DONE;
+}
+
+int run(const Options &options)
+{
+    Program program(options);
+    if (!options.error.empty()) {
+        program.output().error("ussd: " + options.error + ".\nTry 'ussd --help'.");
+        return EXIT_WRONG_USAGE;
+    }
+    const bool usesDevice = options.command != Command::Help && options.command != Command::Version;
+    if (usesDevice && !program.selectDevice())
+        return EXIT_WRONG_USAGE;
+    const int result = runCommand(program);
+    if (!program.output().finish())
+        return EXIT_NOT_WRITTEN;
+    const int signal = program.waits().signal();
+    return signal ? EXIT_SIGNAL + signal : result;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    reserveStandardStreams();
+    std::signal(SIGPIPE, SIG_IGN);
+    return run(parseOptions(argc, argv));
+}
