@@ -6,18 +6,18 @@
 #include <vector>
 
 /*
- * Measures ratios. A subject and its baseline are measured alternately in one process, because a
- * machine's speed drifts, and the median of the ratios is compared with the limit.
+ * Measures ratios. A subject and its baseline are measured alternately in one process, because the
+ * speed of a machine drifts. The median of the ratios is compared with the limit.
  */
 namespace Benchmark
 {
 
-/// Performs one measurement and returns the figure for one unit of work.
+/// Performs one measurement and returns the result per unit of work.
 typedef std::function<double()> Measurement;
 
 const char MICROSECONDS[] = "µs";
 
-/// Replaces the limit for figures that have none.
+/// Used for comparisons that have no limit.
 const double NO_LIMIT = 0;
 
 /// Describes a comparison: the subject, its baseline and the limit of the ratio.
@@ -36,24 +36,23 @@ struct Title {
 
 const int ROUNDS = 11;
 
-/// Returns the wall time of `work` in microseconds.
+/// Returns the wall-clock time of `work` in microseconds.
 double microseconds(const std::function<void()> &work);
 
-/// Measures subject and baseline alternately, after one round to warm up, and prints the row.
+/// Measures subject and baseline alternately, after one warm-up round, and prints the row.
 void compare(const Title &title, const Measurement &measure, const Measurement &baseline,
              int rounds = ROUNDS);
 
-/// Prints a row for benchmark_report. Its fields, separated by tabs, are the title, the unit, the
-/// median, smallest and largest value of the subject, of the baseline and of the ratios, and the
-/// limit.
+/// Prints a row for benchmark_report. Its fields, separated by tabs, are: the title; the unit; the
+/// median, minimum and maximum of the subject, of the baseline and of the ratios; and the limit.
 void report(const Title &title, const std::vector<double> &measured,
             const std::vector<double> &baseline);
 
-/// Discards all messages of Qt.
+/// Discards all Qt messages.
 void dropMessages();
 
-/// Binds this thread, and threads that it starts later, to one core. Returns false when there is no
-/// core with this number.
+/// Binds this thread, and the threads that it starts later, to one core. Returns false if no core
+/// has this number.
 bool stayOnCore(int core);
 
 } // namespace Benchmark

@@ -16,7 +16,7 @@
 namespace
 {
 
-/// A median with the smallest and the largest value.
+/// A median with its minimum and maximum.
 struct Spread {
     double median, smallest, largest;
 };
@@ -67,7 +67,8 @@ QList<Row> readRows(const QString &path)
     return rows;
 }
 
-/// Returns the value with three significant digits, and without an exponent for usual values.
+/// Returns the value with three significant digits, without an exponent if the value is not
+/// extreme.
 QString number(double value)
 {
     const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;
@@ -103,7 +104,7 @@ const int VALUE_WIDTH = 170;
 const int ROW_HEIGHT = 34;
 const int HEAD = 60;
 const int FOOT = 24;
-const int LARGEST_RATIO = 4; // the end of the scale, where longer bars are cut
+const int LARGEST_RATIO = 4; // the end of the scale, where longer bars are cut off
 
 int place(double ratio)
 {

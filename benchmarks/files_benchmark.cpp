@@ -1,5 +1,6 @@
 /*
- * Measures reading and writing the plug-in's files, and looking up an IMSI in the configuration.
+ * Measures the time to read and write the plug-in's files, and to look up an IMSI in the
+ * configuration.
  */
 #include <QApplication>
 #include <QFile>
@@ -46,7 +47,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Writes the shipped configuration with additional SIM cards up to the size to be measured.
+/// Writes the shipped configuration, enlarged with additional SIM cards to the size to be measured.
 void writeConfiguration(const QString &path)
 {
     QFile shipped(QLatin1String(USSD_SHIPPED_CONFIGURATION));
@@ -165,7 +166,7 @@ QHash<QString, int> prefixes(int count)
     return map;
 }
 
-/// Returns IMSIs without a match, so that all their prefixes are looked up in either map.
+/// Returns IMSIs that no prefix matches, so that a search tries all prefixes of each IMSI.
 QStringList imsis()
 {
     QStringList result;

@@ -1,7 +1,7 @@
 /*
- * Ends the program that it is preloaded into (LD_PRELOAD) when the first window has been painted.
- * Before, writes a line to the file descriptor $FIRST_WINDOW_FD: the time in nanoseconds of the
- * monotonic clock and the peak resident set size in kB.
+ * Ends the program into which it is preloaded (LD_PRELOAD) when the first window has been painted.
+ * Before that, writes a line to the file descriptor $FIRST_WINDOW_FD. The line contains the time of
+ * the monotonic clock in nanoseconds and the peak resident set size in kB.
  */
 #include <cstdio>
 #include <cstdlib>
@@ -39,7 +39,7 @@ public:
     {
         const QWidget *widget = qobject_cast<QWidget *>(object);
         if (event->type() == QEvent::Paint && widget && widget->isWindow() && !m_seen) {
-            m_seen = true; // its children are painted before the queued call
+            m_seen = true; // the children are painted before the queued call
             QMetaObject::invokeMethod(this, "report", Qt::QueuedConnection);
         }
         return false;

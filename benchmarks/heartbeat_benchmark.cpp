@@ -1,6 +1,6 @@
 /*
  * Measures the longest delay of a heartbeat in the GUI thread while a reply of 10,000 characters is
- * shown, as a fraction of the 100 ms that are allowed.
+ * shown. The result is given as a fraction of the permitted 100 ms.
  */
 #include <QApplication>
 #include <QElapsedTimer>
@@ -19,7 +19,7 @@ namespace
 
 const int CHARACTERS = 10000;
 const double MAY_BE_LATE = 100; // in milliseconds
-// Number of beats without a change after which the window is treated as idle.
+// The number of beats without a change after which the window is considered idle.
 const int QUIET_BEATS = 30;
 const int RUNS = 5;
 
@@ -28,7 +28,7 @@ QString repeated(const QString &piece)
     return piece.repeated(CHARACTERS / piece.length() + 1).left(CHARACTERS);
 }
 
-/** Beats every millisecond and records the longest pause. */
+/** Beats every millisecond and records the longest pause between two beats. */
 class Heart
 {
 public:
@@ -109,7 +109,7 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
 {
     std::vector<double> pauses;
     pauses.reserve(RUNS);
-    pause(reply); // warms up: fonts of other scripts are loaded once
+    pause(reply); // warm-up: fonts of other scripts are loaded only once
     for (int run = 0; run < RUNS; ++run)
         pauses.push_back(pause(reply));
     Benchmark::report(

@@ -1,14 +1,14 @@
 /*
- * Measures a command's round trip to a real ModemManager on a private bus, whose fake modem answers
- * at once: through plug-in, SDK and daemon, compared with the daemon's own library and tool. Then
- * measures whole programs: the time from the start to the first reply, and the load of an idle
- * program. Like the pipeline's benchmark it is built twice: with log lines, which a handler
- * discards, and without log lines.
+ * Measures the round trip of a command through the plug-in, the SDK and a real ModemManager on a
+ * private bus, whose fake modem answers immediately. The round trip is compared with those of the
+ * daemon's own library and tool. The program then measures complete programs: the time from the
+ * start to the first reply, and the CPU load of an idle program. Like the pipeline benchmark, this
+ * program is built twice: with log lines, which a handler discards, and without log lines.
  *
- * In the round trips all threads and the daemon are bound to one core. Otherwise waking a sleeping
- * core could take longer in one round than the whole library takes in another.
+ * For the round trips, all threads and the daemon are bound to one core. Otherwise waking up a
+ * sleeping core could take longer in one round than the complete library call takes in another.
  */
-// GLib's headers precede Qt's, which define "signals" as a macro.
+// The GLib headers precede the Qt headers, which define "signals" as a macro.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -212,7 +212,7 @@ void compareRoundTrips(FakeModems::MmClient &bare)
                            [] { return eachOf(10, [] { runToItsEnd(TOOL); }); });
 }
 
-/* ---- whole programs ---------------------------------------------------------------------- */
+/* ---- complete programs ------------------------------------------------------------------- */
 
 void compareFirstReplies()
 {
@@ -230,13 +230,14 @@ void compareFirstReplies()
         [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(TOOL); });
 }
 
-/// The number of waits that the threads of a process have started, and their CPU time.
+/// The number of waits that the threads of a process have started, and the CPU time of these
+/// threads.
 struct Activity {
     double waits = 0;
     double cpuMilliseconds = 0;
 };
 
-/// Returns the CPU time of a thread: the first number of its schedstat file.
+/// Returns the CPU time of a thread, which is the first number in its schedstat file.
 double nanosecondsOnCpu(const std::string &thread)
 {
     std::ifstream stream(thread + "/schedstat");
@@ -262,7 +263,7 @@ Activity activityOf(pid_t process)
     return sum;
 }
 
-/// Measures both programs at the same time, when they have become idle.
+/// Measures both programs at the same time, after they have become idle.
 void compareIdling()
 {
     const pid_t ours = spawn({USSD_DASHBOARD});

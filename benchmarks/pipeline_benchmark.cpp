@@ -1,10 +1,10 @@
 /*
- * Measures a command's round trip through the pipeline, and the cost of a long queue. It is built
- * twice: with log lines, which a handler discards, and without log lines.
+ * Measures the round trip of a command through the pipeline, and the cost of a long queue. This
+ * program is built twice: with log lines, which a handler discards, and without log lines.
  *
- * All threads are bound to one core first; then the GUI and the device have one core each.
- * Otherwise they would share a core in some rounds only, and waking a sleeping core takes longer
- * than everything else.
+ * In the first part, all threads are bound to one core. In the second part, the GUI and the device
+ * have one core each. Without this binding, they would share a core only in some rounds, and waking
+ * up a sleeping core takes longer than everything else.
  */
 #include <string>
 
@@ -29,7 +29,7 @@ const double LIMIT = 4;
 const char LOG[] = "log lines to a null handler";
 #endif
 
-/// Counts the replies on the GUI thread and leaves the event loop after the last one.
+/// Counts the replies on the GUI thread and exits the event loop after the last one.
 class Counter : public QObject
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ private:
     int m_missing = 0;
 };
 
-/// One end of a bare queued signal.
+/// One end of a bare queued connection.
 class Echo : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ signals:
     void answer(int number, QString text);
 };
 
-/// Sends a signal to another thread, which sends one back.
+/// Sends a signal to another thread, which sends a signal back.
 class BareRoundTrip
 {
 public:
@@ -136,7 +136,7 @@ public:
         m_counter.await(length);
     }
 
-    /// To be called after the queue was cleared. The next answer, for which no command is left,
+    /// Must be called after the queue has been cleared. The next answer belongs to no command and
     /// cancels the timer.
     void settle() { instant_tksv_settle(); }
 
@@ -160,8 +160,8 @@ double eachOf(int times, const Trip &trip)
            times;
 }
 
-/// Measures one step for queues of this length. Short queues are repeated until the total number of
-/// commands equals that of the long queue.
+/// Measures one step with queues of this length. The step is repeated with short queues until the
+/// total number of commands equals that of the long queue.
 double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
 {
@@ -174,7 +174,7 @@ double stepOfQueue(int length, const std::function<void()> &before,
     return sum / LONG_QUEUE;
 }
 
-/// Performs a step with a queue of the given length and returns its time.
+/// Performs a step with a queue of the given length and returns the time that the step takes.
 typedef std::function<double(int)> QueueStep;
 
 void compareQueues(const char *step, const QueueStep &measure)

@@ -1,6 +1,7 @@
 /*
- * Measures whole processes: the time from the start of a program until its first window is painted,
- * and the memory used by then. The same preloaded library (first_window.cpp) watches both programs.
+ * Measures complete processes: the time from the start of a program until its first window is
+ * painted, and the memory used by then. The same preloaded library (first_window.cpp) observes all
+ * programs.
  */
 #include <algorithm>
 #include <cstdio>
@@ -49,7 +50,7 @@ std::string readAll(int descriptor)
     return text;
 }
 
-/// Returns this process's environment with the watching library in LD_PRELOAD.
+/// Returns the environment of this process, with the observing library in LD_PRELOAD.
 std::vector<std::string> watchedEnvironment(int descriptor)
 {
     char **end = environ;
@@ -118,7 +119,7 @@ int main()
 {
     std::vector<Start> dashboard, plain, empty;
     for (const char *program : {USSD_DASHBOARD, USSD_PLAIN_WINDOW, USSD_EMPTY_WINDOW})
-        start(program); // fills the page cache
+        start(program); // loads the files into the page cache
     for (int i = 0; i < STARTS; ++i) {
         dashboard.push_back(start(USSD_DASHBOARD));
         plain.push_back(start(USSD_PLAIN_WINDOW));

@@ -1,5 +1,5 @@
 /*
- * Measures adding an entry to a long transcript.
+ * Measures the time to add an entry to a long transcript.
  */
 #include <QApplication>
 
@@ -16,7 +16,7 @@ const int LONG = 10000;
 const int MIDDLE = 1000;
 const int SHORT = 10;
 const int ADDED = 20;       // entries in a measurement
-const int WHOLE_ROUNDS = 3; // setting a long text takes a while
+const int WHOLE_ROUNDS = 3; // setting a long text takes some time
 
 Transcript::Entry entry(int number)
 {

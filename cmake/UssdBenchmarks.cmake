@@ -1,8 +1,9 @@
-# Functions that add benchmarks. A complete build includes them, but only benchmarks/run runs them.
+# Functions that add benchmarks. A complete build includes the benchmarks, but only benchmarks/run
+# runs them.
 #
-#   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints rows of figures
-#   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks need
-#   ussd_list_benchmarks()                             writes the list of names for benchmarks/run
+#   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints measurements
+#   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks use
+#   ussd_list_benchmarks()                             writes the benchmark names for benchmarks/run
 #
 # The target "benchmarks" builds all of them.
 add_custom_target(benchmarks)

@@ -1,10 +1,10 @@
-# Functions that add fuzzers with coverage feedback (libFuzzer of clang; preset fuzz).
+# Functions that add fuzzers with coverage feedback (libFuzzer from clang; preset fuzz).
 #
 #   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
 #
-# Adds the program NAME for runs of any length, and a test of the same name that tries RUNS inputs
-# with a fixed random seed. The inputs to start from are in corpus/NAME, which also keeps every input
-# that once caused a failure.
+# Adds the program NAME, which can run for any length of time, and a test with the same name, which
+# tries RUNS inputs with a fixed random seed. The folder corpus/NAME contains the initial inputs and
+# every input that has ever caused a failure.
 
 set(USSD_FUZZ_SECONDS_FOR_ONE_INPUT 20)
 

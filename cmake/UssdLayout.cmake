@@ -1,5 +1,5 @@
-# The layout of the files. The build tree has the same layout as the installed prefix, so that a
-# path relative to the library that uses it is valid in both.
+# The installation layout. The build tree has the same layout as the installation prefix, so that a
+# path relative to a library is valid in both.
 include(GNUInstallDirs)
 
 set(USSD_PACKAGE ussd-dashboard)
@@ -13,13 +13,13 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${USSD_LIB_DIR})
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/archives)
 
-# A relative run path keeps an installed prefix movable. The linker writes it as RUNPATH (not RPATH),
-# so that LD_LIBRARY_PATH can select another device SDK library.
+# The run path is relative, so that users can move the installation to another folder. The linker
+# writes it as RUNPATH (not RPATH), so that LD_LIBRARY_PATH can select another device SDK library.
 file(RELATIVE_PATH USSD_LIB_FROM_BIN /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${USSD_LIB_DIR})
 file(RELATIVE_PATH USSD_LIB_FROM_PLUGIN /prefix/${USSD_PLUGIN_DIR} /prefix/${USSD_LIB_DIR})
 
 # ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION (relative to the
-# prefix) and copies them to the same place in the build tree.
+# prefix) and copies them to the same relative folder in the build tree.
 function(ussd_add_data target destination)
     set(copies)
     foreach(file IN LISTS ARGN)

@@ -1,13 +1,14 @@
-# Precompiled headers. Most of the time of a compilation is spent on the headers of Qt, GLib and the C++
-# library. Targets with the same compiler options therefore share one precompiled copy of these headers:
+# Functions for precompiled headers. The compiler spends most of its time on the headers of Qt, GLib
+# and the C++ standard library. Targets with the same compiler options therefore share one
+# precompiled copy of these headers:
 #
 #   ussd_add_precompiled_headers(KIND LEVEL [HIDDEN] HEADERS... LIBRARIES...)
 #   ussd_use_precompiled_headers(TARGET KIND)
 #
-# The targets of one kind have the same language level (LEVEL), visibility (HIDDEN) and Qt modules
-# (LIBRARIES). The compiler rejects the precompiled headers for a target with other options
+# All targets of one KIND have the same C++ standard (LEVEL), symbol visibility (HIDDEN) and Qt
+# modules (LIBRARIES). The compiler rejects precompiled headers for a target with different options
 # (-Winvalid-pch). A source file still has to include every header that it uses, because the presets
-# quick and tidy have no precompiled headers.
+# quick and tidy do not use precompiled headers.
 
 set(USSD_PRECOMPILED_CXX
     <algorithm> <atomic> <chrono> <functional> <map> <memory> <mutex> <string> <utility> <vector>)
@@ -43,7 +44,7 @@ function(ussd_use_precompiled_headers target kind)
 endfunction()
 
 # Adds a library that contains only the precompiled headers. The library has no compile definitions,
-# because the compiler would require the same definitions in every target that uses the headers.
+# because the compiler would require the same definitions for every target that uses the headers.
 function(ussd_add_precompiled_headers kind level)
     cmake_parse_arguments(arg "HIDDEN" "" "HEADERS;LIBRARIES" ${ARGN})
     if(NOT USSD_PRECOMPILED_HEADERS)

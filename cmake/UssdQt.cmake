@@ -1,5 +1,5 @@
-# Defines the same target names for all Qt versions: ussd::qtcore, ussd::qtwidgets (the whole GUI) and
-# ussd::qttest.
+# Defines the same target names for all Qt versions: ussd::qtcore, ussd::qtwidgets (all GUI modules)
+# and ussd::qttest.
 add_library(ussd_qtcore INTERFACE)
 add_library(ussd_qtwidgets INTERFACE)
 add_library(ussd_qttest INTERFACE)
@@ -24,8 +24,8 @@ endif()
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)
 target_link_libraries(ussd_qttest INTERFACE ussd_qtcore)
-# Targets that use GLib are compiled with -pthread. All tests need the same option, because they share
-# precompiled headers.
+# Targets that use GLib are compiled with -pthread. All tests require the same option, because they
+# share precompiled headers.
 target_compile_options(ussd_qttest INTERFACE -pthread)
 add_library(ussd::qtcore ALIAS ussd_qtcore)
 add_library(ussd::qtwidgets ALIAS ussd_qtwidgets)

@@ -1,5 +1,5 @@
-# Functions that add targets, one for each kind. They give all targets the same warnings, language
-# level, visibility, sanitizers and output folders.
+# Functions that add targets, one function for each kind of target. They use the same warnings, C++
+# standard, symbol visibility, sanitizers and output folders for all targets.
 #
 #   ussd_add_core_library(NAME SOURCES... LIBRARIES...)     the host core library
 #   ussd_add_sdk_library(NAME SOURCES... LIBRARIES...)      a device SDK library (no Qt)
@@ -8,8 +8,8 @@
 #   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
 #   ussd_add_example(NAME SOURCES... LIBRARIES...)          a program for developers; not installed
 
-# The C++ standard of the plug-in and its libraries, which also compile with Qt 4. A folder for Qt 5.15
-# and later sets another standard at the top of its CMakeLists.txt.
+# The C++ standard of the plug-in and its libraries, which can also be compiled with Qt 4. Folders
+# whose code requires Qt 5.15 or later set another standard at the top of their CMakeLists.txt.
 set(USSD_CXX_STANDARD 14)
 
 # Sets the properties and options that all of our own targets share.
@@ -87,7 +87,8 @@ function(ussd_add_plugin name)
     add_library(${name} MODULE ${arg_SOURCES})
     ussd_set_up(${name})
     ussd_hide_symbols(${name})
-    # The version script also hides the symbols that the headers of the C++ library would export.
+    # The version script also hides the symbols that the headers of the C++ standard library would
+    # export.
     target_link_options(${name} PRIVATE -Wl,--version-script=${arg_EXPORTS} -Wl,--gc-sections)
     set_target_properties(
         ${name}

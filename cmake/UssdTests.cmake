@@ -1,16 +1,16 @@
 # Functions that add tests. Each test runs with its own home directory, settings and user data
-# directory, without a display, with a fixed language and with a time limit.
+# folder, with a fixed language and a time limit, and without a display.
 #
 #   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK])
-#   ussd_start_first(NAME...)      starts these long tests first, so that none runs alone at the end
+#   ussd_start_first(NAME...)      starts these long tests first, to shorten the total time
 #
-# FAKE_SDK replaces the real device SDK with the fake one of tests/fakes through the library path.
+# FAKE_SDK replaces the real device SDK with the fake one from tests/fakes through the library path.
 
 set(USSD_TEST_SECONDS 120)
 
 set(USSD_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
-    "TKSV_BACKEND=simulator" # so that the developer's own modem is never used
+    "TKSV_BACKEND=simulator" # never use the developer's own modem
     "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
     "QT_HASH_SEED=0"
     "LC_ALL=C.UTF-8"
@@ -20,12 +20,12 @@ set(USSD_TEST_ENVIRONMENT
     "UBSAN_OPTIONS=print_stacktrace=1"
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/sanitizers/tsan.supp:second_deadlock_stack=1")
 
-# Sets the environment and limits of a test, which may be a program or a script.
+# Sets the environment and the time limit of a test, which may be a program or a script.
 function(ussd_set_up_test name)
     cmake_parse_arguments(arg "" "" "LABELS;ENVIRONMENT" ${ARGN})
     set(home ${PROJECT_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
-    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # it is also XDG_RUNTIME_DIR
+    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # also used as XDG_RUNTIME_DIR
     set_tests_properties(
         ${name}
         PROPERTIES TIMEOUT ${USSD_TEST_SECONDS}
@@ -36,8 +36,8 @@ function(ussd_set_up_test name)
     )
 endfunction()
 
-# Sets the common properties of test programs. gold links them in a third of the time. The programs for
-# users are linked by the compiler's default linker.
+# Sets the common properties of test programs. They are linked with gold, which takes only a third
+# of the time. All other programs are linked with the compiler's default linker.
 function(ussd_set_up_test_program name)
     ussd_set_up(${name})
     set_target_properties(${name} PROPERTIES CXX_STANDARD 17 AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
@@ -47,7 +47,8 @@ function(ussd_set_up_test_program name)
     endif()
 endfunction()
 
-# Adds the test to the target tests_LABEL of each label, which builds only the tests of this label.
+# Adds the test to the target tests_LABEL of each label. This target builds only the tests with this
+# label.
 function(ussd_add_to_labels name)
     foreach(label IN LISTS ARGN)
         if(NOT TARGET tests_${label})
@@ -75,8 +76,8 @@ function(ussd_add_test name)
     ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
 endfunction()
 
-# CTest starts the tests that took longest in the last run first. This cost replaces the missing figure
-# in the first run.
+# CTest starts those tests first that took longest in the previous run. In the first run, CTest uses
+# this cost instead.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
 endfunction()

@@ -1,7 +1,8 @@
 #!/bin/sh
-# seal_translation.sh FILE.qm: appends the SHA-1 of the file, so that Languages.cpp recognises a
-# damaged file before QTranslator reads it and crashes. The checksum is a section in the file's own
-# format, 40 ("(") bytes long, with the tag "S", which QTranslator skips.
+# seal_translation.sh FILE.qm: appends the SHA-1 checksum of the file, so that Languages.cpp can
+# detect a damaged file before QTranslator reads it and crashes. The checksum is stored as a section
+# in the QM format with the tag "S" and a length of 40 bytes (the character "("). QTranslator skips
+# this section.
 set -e
 sum=$(sha1sum <"$1")
 printf 'S\000\000\000(%.40s' "$sum" >>"$1"

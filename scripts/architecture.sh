@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Draws docs/architecture.dot as docs/pictures/architecture.svg. tests/checks/architecture.sh compares
-# the arrows with the includes, and fails if the picture was not drawn from the current file.
+# Generates docs/pictures/architecture.svg from docs/architecture.dot. tests/checks/architecture.sh
+# compares the arrows with the includes, and fails if the picture is not up to date.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

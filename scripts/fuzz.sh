@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Runs the fuzzers one after another, each for the given time:
 #   scripts/fuzz.sh [SECONDS [FUZZER...]]
-# By default, each fuzzer runs for 600 s. New inputs are stored in build/fuzz-corpus, and the next run
-# continues with them. An input that fails is stored in build/fuzz-findings. Once its failure is
-# understood, copy it to tests/fuzz/corpus. The exit status is 1 if an input failed.
+# By default, each fuzzer runs for 600 s. New inputs are stored in build/fuzz-corpus, and the next
+# run continues with them. An input that causes a failure is stored in build/fuzz-findings. When you
+# have understood the failure, copy the input to tests/fuzz/corpus. The exit status is 1 if any
+# input has caused a failure.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -24,7 +25,7 @@ home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 chmod 700 "$home"
 export HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-export TKSV_BACKEND=simulator # so that the developer's own modem is never used
+export TKSV_BACKEND=simulator # never use the developer's own modem
 export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
 
 failed=0

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Applies faults to a copy of the plug-in, one at a time, and prints which tests notice each fault:
+# Applies faults to a copy of the plug-in, one at a time, and prints which tests detect each fault:
 #   scripts/mutants.sh [--part K/N] [--trust] [PATTERN...]
-# PATTERN selects faults by name. --part tries only every Nth fault, so that N runs can share the work.
-# --trust skips the first run, which verifies that the tests pass without a fault. The faults are in
-# tests/mutants; docs/testing.md describes their format.
+# PATTERN selects faults by name. --part tries only every Nth fault, so that N processes can share
+# the work. --trust skips the initial run, which verifies that the tests pass without a fault.
+# tests/mutants contains the faults; docs/testing.md describes the format of these files.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -37,8 +37,9 @@ chosen()
     return 1
 }
 
-# Copies the files of the working tree, so that the faults never change the tree itself. Only files that
-# differ are copied. This also restores a file whose fault remained because an earlier run was killed.
+# Copies the files of the working tree, so that the faults never change the original files. Only
+# files that differ are copied. This also restores a file that still contains a fault because a
+# previous run was killed.
 copy_tree()
 {
     local path

@@ -1,5 +1,6 @@
-# Common functions of ./run, ./test, benchmarks/run and the scripts: they install missing Debian
-# packages, configure and build. The working directory must be the root of the project.
+# Functions that ./run, ./test, benchmarks/run and the other scripts share: they install missing
+# Debian packages, and configure and build the project. The working directory must be the root of
+# the source tree.
 
 PROGRESS_SECONDS=10 # between two progress lines of a build without a terminal
 
@@ -23,8 +24,8 @@ missing_packages()
             sed -n 's/^installed //p' | sort -u)
 }
 
-# install_missing_packages SECTION...: installs the missing packages in these sections. apt-get
-# receives only the missing ones, so it upgrades an installed package only if a dependency requires
+# install_missing_packages SECTION...: installs the missing packages in these sections. Only missing
+# packages are passed to apt-get, so it upgrades an installed package only if a dependency requires
 # this. If the user is not root, prints the command and returns 1.
 install_missing_packages()
 {
@@ -44,7 +45,7 @@ install_missing_packages()
 }
 
 # Copies the output of a build from standard input to standard output, and shows the progress on
-# standard error. A terminal shows one line that is rewritten. Otherwise a new line is printed every
+# standard error. On a terminal, a single line is updated. Otherwise, a new line is printed every
 # PROGRESS_SECONDS.
 follow_build()
 {
@@ -63,8 +64,8 @@ follow_build()
     [ ! -t 2 ] || printf '\r\033[K' >&2
 }
 
-# follow LOG COMMAND...: runs COMMAND and shows only its progress. If COMMAND fails, prints its whole
-# output without the progress lines, and returns 1. LOG receives the output.
+# follow LOG COMMAND...: runs COMMAND, shows only the progress, and writes the output to LOG. If
+# COMMAND fails, prints the complete output without the progress lines, and returns 1.
 follow()
 {
     local log=$1
@@ -76,8 +77,8 @@ follow()
     return 1
 }
 
-# configure_and_build PRESET [TARGET...]: configures and builds the targets, or all. The log is
-# build/PRESET.log.
+# configure_and_build PRESET [TARGET...]: configures the project and builds the given targets, or
+# all targets by default. The log file is build/PRESET.log.
 configure_and_build()
 {
     local preset=$1

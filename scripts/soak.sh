@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Simulates months of use in minutes: a million commands, and ten thousand windows opened and closed.
-# Writes build/soak/soak.png and soak.txt. The exit status is 0 if no figure has grown too much.
+# Simulates months of use in minutes by sending a million commands and opening ten thousand windows.
+# Writes build/soak/soak.png and soak.txt. The exit status is 0 if no measured resource exceeds its
+# permitted growth.
 #   scripts/soak.sh [--commands N] [--openings N] [--report FOLDER]
 set -eu
 cd "$(dirname "$0")/.."
@@ -12,6 +13,6 @@ configure_and_build quick soak translations
 
 export QT_QPA_PLATFORM=offscreen QT_HASH_SEED=0 TKSV_BACKEND=simulator
 # Disables malloc's free lists of small blocks, which malloc reports as used memory. The values are
-# those of tests/soak/CMakeLists.txt.
+# the same as in tests/soak/CMakeLists.txt.
 export GLIBC_TUNABLES=glibc.malloc.tcache_count=0:glibc.malloc.mxfast=0:glibc.malloc.arena_max=1
 exec nice build/quick/tests/bin/soak --commands 1000000 --openings 10000 --report build/soak "$@"

@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Runs clang-tidy on the source files of src, examples, tests and benchmarks:
 #   scripts/tidy.sh [PATTERN]
-# PATTERN is a regular expression that selects files by their path. Nothing is compiled. The exit status
-# is 1 if clang-tidy reports a problem. ./test --preset tidy runs this script.
+# PATTERN is a regular expression that selects files by their path. The script does not compile
+# anything. The exit status is 1 if clang-tidy reports a problem. ./test --preset tidy runs this
+# script.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset tidy
 
-# A file that is compiled for several programs is checked once, with the options of the first program.
+# A file that is compiled for several programs is checked only once, with the options of the first
+# program.
 COMPILATIONS=$PWD/build/tidy/once
 mkdir -p "$COMPILATIONS"
 awk '/^\{/ { record = "{"; next }
@@ -18,8 +20,8 @@ awk '/^\{/ { record = "{"; next }
 
 MOC=$(pkg-config --variable=host_bins Qt5Core)/moc
 
-# run_moc FILE FOLDER: writes the moc output of FILE to FOLDER. moc gets the include folders of the
-# file's compilation.
+# run_moc FILE FOLDER: writes the moc output of FILE to FOLDER. moc uses the include paths with
+# which FILE is compiled.
 run_moc()
 {
     local includes
@@ -30,7 +32,7 @@ run_moc()
 }
 
 # look_at "[3/370] FILE": prints its argument and runs clang-tidy on FILE. Prints the output of
-# clang-tidy only if there is a problem.
+# clang-tidy only if clang-tidy reports a problem.
 look_at()
 {
     local file=${1##* } folder said

@@ -1,6 +1,6 @@
 /*
- * A minimal host: loads the plug-in, shows its general window in a widget and shuts the
- * plug-in down in the required order. docs/host-integration.md explains the order.
+ * A minimal host. It loads the plug-in, shows the general window in a widget and shuts the plug-in
+ * down in the required order. docs/host-integration.md explains this order.
  *
  *   minimal-host [--once CODE] [PLUGIN-FILE]
  *
@@ -33,7 +33,7 @@ struct Options {
 };
 
 struct Plugin {
-    IUIPlugin *window = nullptr; // the general window, and the life cycle
+    IUIPlugin *window = nullptr; // the general window and the plug-in's life cycle
     IUSSD *ussd = nullptr;       // all four windows; valid until OnDestroy()
 };
 
@@ -59,7 +59,7 @@ Options optionsOf(QStringList arguments)
     return options;
 }
 
-/// Loads the plug-in and gets its interfaces. Returns an error message, or an empty text on
+/// Loads the plug-in and gets its interfaces. Returns an error message, or an empty string on
 /// success.
 QString take(QPluginLoader &loader, Plugin &plugin)
 {
@@ -78,7 +78,8 @@ QString take(QPluginLoader &loader, Plugin &plugin)
     return plugin.ussd ? QString() : QLatin1String("the USSD service lacks its interface");
 }
 
-/// Must be called on the GUI thread while the widgets that contain the plug-in's page still exist.
+/// Must be called from the GUI thread while the widgets that contain the plug-in's page still
+/// exist.
 void shutDown(QPluginLoader &loader, Plugin &plugin)
 {
     HostCore::HostState::setShuttingDown(true);
@@ -89,11 +90,11 @@ void shutDown(QPluginLoader &loader, Plugin &plugin)
     plugin = Plugin();
     if (loader.isLoaded()) {
         delete loader.instance();
-        loader.unload(); // not before UnSDKRegisterEvent()
+        loader.unload(); // must not be called before UnSDKRegisterEvent()
     }
 }
 
-/// Delivers the text as an input method would, because setText() does not emit textEdited().
+/// Enters the text like an input method, because setText() does not emit textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     QInputMethodEvent event;
@@ -106,8 +107,8 @@ QString named(const char *role)
     return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
 }
 
-/// Sends the code and waits for the answer. The plug-in disables the field meanwhile, at most until
-/// its reply timer ends.
+/// Sends the code and waits for the reply. The plug-in disables the input field until the reply
+/// arrives or the reply timer expires.
 int sendOnce(QWidget *page, const QString &code)
 {
     const QPointer<QLineEdit> edit(page->findChild<QLineEdit *>(named("USSDCmdEdit")));
@@ -144,7 +145,7 @@ int main(int argc, char **argv)
     QWidget page;
     page.setFixedSize(600, 520);
     HostCore::HostState::setMainWindow(
-        &page); // frames and messages of the plug-in are centred over it
+        &page); // the plug-in's frames and message boxes are centred over it
     QPluginLoader loader(options.file);
     Plugin plugin;
     const QString problem = take(loader, plugin);

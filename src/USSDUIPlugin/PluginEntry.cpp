@@ -1,8 +1,8 @@
 /*
- * The entry points that a plug-in loader looks up. Qt 4 finds the two functions below by name and
- * compares the verification data with the data of its own build. Qt 5 and later generate
- * qt_plugin_instance() from the meta data of the class, and their loaders read this meta data
- * instead.
+ * The entry points for the plug-in loader. Qt 4 looks up the two functions below by name and
+ * compares the verification data with the data of its own build. In Qt 5 and later,
+ * qt_plugin_instance() is generated from the meta data of the class, and the loader reads this meta
+ * data instead.
  */
 #include <QtPlugin>
 
@@ -21,7 +21,7 @@ USSD_ENTRY_POINT const char *qt_plugin_query_verification_data();
 
 const char *qt_plugin_query_verification_data()
 {
-    // Qt 4's loader also searches the library file for this text without loading the library.
+    // Qt 4's loader also searches the library file for this string without loading the library.
     static const char data[] = USSD_VERIFICATION_DATA;
     return data;
 }

@@ -129,8 +129,8 @@ void CUSSDUIPluginImpl::FitSize(QRect &rect)
     CUSSDService::instance()->FitSize(rect);
 }
 
-/// Returns false on purpose, because hosts call this function before they offer a page when they
-/// start.
+/// Intentionally returns false, because a host calls this function before it offers a page at
+/// start-up.
 bool CUSSDUIPluginImpl::IsReady()
 {
     USSD_LOG(" Enter");

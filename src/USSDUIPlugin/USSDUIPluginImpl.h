@@ -8,9 +8,10 @@
 #include "QtCompat.h"
 
 /**
- * The object that the host loads. It contains no logic: each function returns a fixed value or
- * calls the service. Must be used on the GUI thread. OnDestroy(), UnSDKRegisterEvent() and the
- * destructor may be called in any order, and the two functions may be called repeatedly.
+ * The object that the host loads. It does not contain any logic: each function returns a fixed
+ * value or calls the service. All functions must be called from the GUI thread. OnDestroy(),
+ * UnSDKRegisterEvent() and the destructor may be called in any order. The first two may be called
+ * repeatedly.
  */
 class CUSSDUIPluginImpl : public QObject, public IUIPlugin, public INotify
 {
@@ -45,7 +46,7 @@ public:
     int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
 private:
-    QObject *m_pService; // the service that QueryInterface() returned
+    QObject *m_pService; // the service returned by QueryInterface()
 };
 
 #endif

@@ -3,7 +3,7 @@
 
 /*
  * The differences between Qt 4 (4.6 to 4.8) and Qt 5.15 that affect the plug-in and the core
- * library. No other file of the two checks the Qt version.
+ * library. No other file in these two components checks the Qt version.
  */
 
 #include <QFontMetrics>
@@ -30,7 +30,7 @@
 namespace QtCompat
 {
 
-/// Returns an image of the widget as it appears on the screen. QWidget::render() would not mirror
+/// Returns an image of the widget as it appears on the screen. QWidget::render() does not mirror
 /// the widget in a right-to-left layout.
 inline QPixmap pictureOf(QWidget *widget)
 {
@@ -51,7 +51,7 @@ inline int textWidth(const QFontMetrics &metrics, const QString &text)
 #endif
 }
 
-/// Returns the text with the special characters of HTML replaced with entities.
+/// Returns the string with the special characters of HTML replaced with entities.
 inline QString escapeHtml(const QString &text)
 {
 #if QT_VERSION < 0x050000
@@ -61,7 +61,7 @@ inline QString escapeHtml(const QString &text)
 #endif
 }
 
-/// A function that receives a message of Qt. The text is in the local 8-bit encoding.
+/// The type of a function that receives a Qt log message. `text` is in the local 8-bit encoding.
 typedef void (*MessageHandler)(QtMsgType type, const char *text);
 
 #if QT_VERSION < 0x050000
@@ -85,8 +85,8 @@ inline void forwardMessage(QtMsgType type, const QMessageLogContext &, const QSt
 }
 } // namespace Private
 
-/// Passes every message of Qt to `handler`, on the thread that writes the message. Null restores
-/// Qt's own handler.
+/// Passes every Qt log message to `handler`, which is called from the thread that logs the message.
+/// Null restores Qt's default handler.
 inline void installMessageHandler(MessageHandler handler)
 {
     Private::currentMessageHandler() = handler;

@@ -10,8 +10,8 @@
 
 #include "Change.h"
 #include "HostState.h"
-#include "InstallPaths.h"
 #include "MessageBox.h"
+#include "PluginFolderChoice.h"
 
 namespace
 {
@@ -21,7 +21,7 @@ QString buttonText(const QString &key)
     return Change::tr(QLatin1String("USSDUIPlugin"), key);
 }
 
-/// Returns the rectangle over which the widget is centred, in screen coordinates.
+/// Returns the rectangle, in screen coordinates, over which the widget is centred.
 QRect surroundings(const QWidget *widget, const QRect &screen)
 {
     const QWidget *mainWindow = HostCore::HostState::mainWindow();
@@ -30,15 +30,15 @@ QRect surroundings(const QWidget *widget, const QRect &screen)
     return usable ? mainWindow->window()->frameGeometry() : screen;
 }
 
-/// Returns the size of the window including its frame. The frameGeometry() of a window that has
-/// never been shown does not include the frame and is one pixel too small.
+/// Returns the size of the window including its frame. For a window that has never been shown,
+/// frameGeometry() does not include the frame and is one pixel too small.
 QSize outerSize(const QWidget *window)
 {
     return window->isVisible() ? window->frameGeometry().size() : window->size();
 }
 
-/// Returns the position closest to `corner` at which the window lies inside the screen. If the
-/// window is larger than the screen, its upper left corner stays visible.
+/// Returns the position closest to `corner` at which the window is completely inside the screen. If
+/// the window is larger than the screen, its upper left corner remains visible.
 QPoint keptInside(const QPoint &corner, const QSize &size, const QRect &screen)
 {
     const int x = qMin(corner.x(), screen.x() + screen.width() - size.width());
@@ -52,9 +52,9 @@ qint64 millisecondsNow()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// Returns the local time for log lines of the GUI thread. The text is cached for one millisecond,
-/// because a row of buttons writes many lines and each query of the local time checks the time-zone
-/// file.
+/// Returns the local time for log lines of the GUI thread. The string is cached for one
+/// millisecond, because a row of buttons logs many lines and each query of the local time checks
+/// the time-zone file.
 QByteArray timeOfDay()
 {
     static qint64 lastLook = -1;
@@ -99,14 +99,14 @@ bool CommonUtils::IsShuttingDown()
 
 QString CommonUtils::GetPluginLibraryPath()
 {
-    return HostCore::InstallPaths::pluginLibrary();
+    return HostCore::PluginFolderChoice::current();
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,
                              const QString &text, const QString &firstButtonKey,
                              const QString &secondButtonKey)
 {
-    // The parent also owns the box, and may be deleted while exec() waits for the user.
+    // The parent also owns the message box and may be deleted while exec() waits for the user.
     const QPointer<HostCore::MessageBox> box(new HostCore::MessageBox(icon, caption, text, parent));
     const QAbstractButton *first =
         box->addButton(buttonText(firstButtonKey), QMessageBox::AcceptRole);

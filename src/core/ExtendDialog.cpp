@@ -9,8 +9,8 @@ namespace
 {
 
 /**
- * Makes Escape close the frame like its close button. Otherwise QDialog would hide the frame
- * without a signal.
+ * Makes Escape close the frame in the same way as the close button. By default, QDialog hides the
+ * frame on Escape without emitting dlgCloseEvent().
  */
 class EscapeCloses : public QObject
 {

@@ -11,26 +11,26 @@ namespace HostCore
 
 /**
  * The state of the host program. The program sets the state, and plug-ins read it through
- * CommonUtils and Startup. Does not own the objects. Must be used on the GUI thread, unless a
- * comment allows any thread.
+ * CommonUtils and Startup. HostState does not own the objects. The functions must be called from
+ * the GUI thread, unless their comments allow any thread.
  */
 class Q_DECL_EXPORT HostState
 {
 public:
-    /// Sets the window that is the parent of frames, and over which frames are centred. The window
-    /// may be deleted at any time; mainWindow() then returns null.
+    /// Sets the window that is the parent of frames and over which frames are centred. The window
+    /// may be deleted at any time. mainWindow() then returns null.
     static void setMainWindow(QWidget *window);
     static QWidget *mainWindow();
 
     static void setMiniMode(bool mini);
     static bool isMiniMode();
 
-    /// Announces that the host is shutting down. Must be called before the plug-ins are shut down.
-    /// May be called on any thread.
+    /// Sets the flag that the host is shutting down. Must be called before the plug-ins are shut
+    /// down. May be called from any thread.
     static void setShuttingDown(bool shuttingDown);
     static bool isShuttingDown();
 
-    /// Sets the container. It must be reset to null before the container is deleted.
+    /// Sets the container. Must be called with null before the container is deleted.
     static void setPluginContainer(IPluginContainer *container);
     static IPluginContainer *pluginContainer();
 };

@@ -3,8 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutex>
-#include <QMutexLocker>
 
 #include <dlfcn.h>
 
@@ -14,8 +12,6 @@ namespace HostCore
 namespace
 {
 
-const char LIBRARY_PATH_VARIABLE[] = "USSD_PLUGIN_LIBRARY_PATH";
-
 QString findLibraryFolder()
 {
     Dl_info info;
@@ -24,63 +20,17 @@ QString findLibraryFolder()
     return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
 }
 
-// Returns the folder of this library. The path is resolved only once, because the loader may have
-// stored a path that is relative to the working directory at the start of the program.
-QString libraryFolder()
+} // namespace
+
+QString InstallPaths::library()
 {
     static const QString folder = findLibraryFolder();
     return folder;
 }
 
-QString withoutTrailingSeparators(QString path)
-{
-    while (path.endsWith(QLatin1Char('/')))
-        path.chop(1);
-    return path;
-}
-
-/**
- * The folder that the host uses instead of the installed folder. The path is empty if the host uses
- * the installed folder.
- */
-struct ChosenFolder {
-    QMutex mutex; // guards the path
-    QString path;
-};
-
-ChosenFolder &chosenFolder()
-{
-    static ChosenFolder chosen;
-    return chosen;
-}
-
-} // namespace
-
-QString InstallPaths::pluginLibrary()
-{
-    ChosenFolder &chosen = chosenFolder();
-    QMutexLocker lock(&chosen.mutex);
-    return chosen.path.isEmpty() ? installedPluginLibrary() : chosen.path;
-}
-
-void InstallPaths::usePluginLibrary(const QString &folder)
-{
-    ChosenFolder &chosen = chosenFolder();
-    QMutexLocker lock(&chosen.mutex);
-    chosen.path = withoutTrailingSeparators(folder);
-}
-
-QString InstallPaths::installedPluginLibrary()
-{
-    const QByteArray chosen = qgetenv(LIBRARY_PATH_VARIABLE);
-    if (!chosen.isEmpty())
-        return withoutTrailingSeparators(QFile::decodeName(chosen));
-    return libraryFolder() + QLatin1String("/" USSD_PACKAGE_NAME);
-}
-
 QString InstallPaths::share()
 {
-    return QDir::cleanPath(libraryFolder() + QLatin1String("/" USSD_SHARE_FROM_LIB));
+    return QDir::cleanPath(library() + QLatin1String("/" USSD_SHARE_FROM_LIB));
 }
 
 QString InstallPaths::translations()

@@ -7,26 +7,21 @@ namespace HostCore
 {
 
 /**
- * The paths of the program's files. They are relative to the path of this library, so that an
- * installed prefix can be moved. The build tree has the same layout. No path ends in a separator.
- * May be used on any thread.
+ * The paths of the program's files. They are determined relative to the path of this library, so
+ * that the installation prefix can be moved. The build tree has the same layout. The paths do not
+ * end with a separator. The functions may be called from any thread. See PluginFolderChoice for the
+ * folder of the plug-in's files.
  */
 class Q_DECL_EXPORT InstallPaths
 {
 public:
-    /// Returns the folder that contains "plugins/". This is the folder that usePluginLibrary() has
-    /// set, or else the installed folder.
-    static QString pluginLibrary();
-    /// Returns the folder of the installed plug-in. If $USSD_PLUGIN_LIBRARY_PATH is set and not
-    /// empty, returns its value instead.
-    static QString installedPluginLibrary();
-    /// Sets the folder from which plug-ins read their files. An empty path selects the installed
-    /// folder.
-    static void usePluginLibrary(const QString &folder);
-    /// Returns the folder of architecture-independent data.
+    /// Returns the folder of this library. The path is resolved only once, because the loader may
+    /// have stored a path that is relative to the working directory at the start of the program.
+    static QString library();
+    /// Returns the folder for architecture-independent data.
     static QString share();
     static QString translations();
-    /// Returns the folder of the simulated networks, each of which has one file.
+    /// Returns the folder that contains the scenario files of the simulated networks.
     static QString scenarios();
 };
 

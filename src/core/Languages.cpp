@@ -34,13 +34,15 @@ const Language LANGUAGES[] = {
 
 const char ENGLISH[] = "en";
 
-// The last section of a language file, which cmake/seal_translation.sh appends. It consists of a
-// tag, a length, and as many hexadecimal digits as the length states. The digits are the SHA-1 hash
-// of the file before this section.
+// The start of the last section of a language file, which cmake/seal_translation.sh appends. The
+// section consists of a tag, a length and the number of hexadecimal digits that the length
+// specifies. The digits are the SHA-1 hash of the part of the file before this section.
 const char SEAL[] = {'S', 0, 0, 0, 40};
 const int SEAL_DIGITS = 40;
 
-/** The texts of a language. The translator does not copy `content`, so both are kept together. */
+/**
+ * The translations of a language. The translator does not copy `content`, so this struct owns both.
+ */
 struct LanguageTexts {
     QByteArray content;
     QTranslator translator;
@@ -56,7 +58,7 @@ struct Loaded {
     Texts english;
 };
 
-/// Returns the texts of the language, or null if its file is missing or damaged.
+/// Returns the translations for the language, or null if its file is missing or damaged.
 Texts load(const QString &code)
 {
     Texts texts(new LanguageTexts);
@@ -67,8 +69,8 @@ Texts load(const QString &code)
     return texts;
 }
 
-// Returns the loaded languages. The first call loads English, so that a program that never selects
-// a language has texts.
+// Returns the loaded languages. The first call loads English, so that translations are available
+// even if the program never selects a language.
 Loaded &loaded()
 {
     static Loaded instance;
@@ -96,8 +98,8 @@ QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &
 }
 
 /**
- * Installs the translations of Qt's own texts, such as those of dialog buttons and of the context
- * menus of entry fields.
+ * Installs the translations of Qt's own strings, for example for dialog buttons and for the context
+ * menus of input fields.
  */
 void setQtTexts(const QString &code)
 {
@@ -110,8 +112,8 @@ void setQtTexts(const QString &code)
         QCoreApplication::installTranslator(installed.get());
 }
 
-// Applies the language to the application. The direction is set last, because Qt 4 resets it when a
-// translator is installed.
+// Applies the language to the application. The layout direction is set last, because Qt 4 resets it
+// when a translator is installed.
 void setApplicationLanguage(const Language &language)
 {
     const QString code = QLatin1String(language.code);

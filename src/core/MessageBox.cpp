@@ -14,13 +14,13 @@ namespace HostCore
 namespace
 {
 
-// The limits of a text that is shown in a label. A longer text is shown in a scrolling view.
+// The size limits for text in a label. Longer text is shown in a scrolling view.
 const int LABEL_MAX_CHARACTERS = 600;
 const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;
 
-const QSize VIEW_SIZE(420, 220); // pixels
-const int AROUND_VIEW = 160;     // pixels that are kept for the frame, the icon and the buttons
+const QSize VIEW_SIZE(420, 220); // in pixels
+const int AROUND_VIEW = 160;     // pixels reserved for the frame, the icon and the buttons
 
 int longestWord(const QString &text)
 {
@@ -59,7 +59,7 @@ void MessageBox::keyPressEvent(QKeyEvent *event)
         QMessageBox::keyPressEvent(event);
 }
 
-// Skips QMessageBox::closeEvent(), which would press the only button.
+// Skips QMessageBox::closeEvent(), which would press the button if the box has only one.
 void MessageBox::closeEvent(QCloseEvent *event)
 {
     QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)

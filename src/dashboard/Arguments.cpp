@@ -19,7 +19,7 @@ const Switch SWITCHES[] = {{"--verbose", &Arguments::verbose},
                            {"--enable", &Arguments::enable},
                            {"--end-foreign-session", &Arguments::endForeignSession}};
 
-/** Parses the words one after another. */
+/** Parses the command-line arguments one after another. */
 class Parser
 {
 public:
@@ -151,8 +151,8 @@ void Parser::parseRest()
     m_words.clear();
 }
 
-// Sets the mode. The first --help or --version overrides all other modes. The other modes exclude
-// each other.
+// Sets the mode. The first --help or --version overrides all other modes. The other modes are
+// mutually exclusive.
 void Parser::setMode(Arguments::Mode mode)
 {
     const Arguments::Mode earlier = m_result.mode;

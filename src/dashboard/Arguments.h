@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** The parsed command line. */
+/** The parsed command-line arguments. */
 struct Arguments {
     enum Mode { Window, Send, Tour, Help, Version };
 
@@ -23,17 +23,17 @@ struct Arguments {
     QString language;
     bool verbose = false;
 
-    /// The key of the error message among the dashboard's texts, or null if there is no error.
+    /// The text key of the error message, or null if there is no error.
     const char *errorKey = nullptr;
     /// Replaces %1 in the error message.
     QString errorSubject;
 };
 
-/// Parses the arguments that follow the program's name.
+/// Parses the command-line arguments without the program name.
 ///
-/// The words after --send are the code and the answers, up to the next word that begins with "--".
-/// All words after a separate "--" are code and answers, too. An option and its value may be joined
-/// with "=".
+/// The arguments after --send are the code and the answers, up to the next argument that begins
+/// with "--". All arguments after a separate "--" are also treated as the code and the answers. An
+/// option and its value may be joined with "=".
 Arguments parseArguments(const QStringList &words);
 
 } // namespace Dashboard

@@ -9,9 +9,9 @@ namespace Dashboard
 {
 
 /**
- * Emits a signal once when a window has been painted for the first time, so that slow work starts
- * after the window is visible to the user. If the window is not painted because it is hidden, the
- * signal is emitted after a time limit. Must be used on the GUI thread.
+ * Emits a signal when a window has been painted for the first time, so that slow operations start
+ * after the window has become visible. If the window is hidden and therefore not painted, the
+ * signal is emitted after a time limit. All functions must be called from the GUI thread.
  */
 class FirstPaint : public QObject
 {

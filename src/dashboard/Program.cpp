@@ -38,7 +38,7 @@ bool isSet(const char *variable)
     return !qgetenv(variable).isEmpty();
 }
 
-/// Returns whether there is a display. Without one, Qt would terminate the program.
+/// Returns true if there is a display. Without a display, Qt would terminate the program.
 bool hasDisplay()
 {
     return isSet(PLATFORM) || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
@@ -66,7 +66,7 @@ bool namesDevice(const Arguments &arguments)
     return arguments.demo || !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// Selects the device. If a scenario from the settings can no longer be used, selects the automatic
+/// Selects the device. If a scenario from the settings can no longer be used, makes the automatic
 /// choice instead. Returns the error in the scenario file.
 QString useDevice(DeviceChoice *choice)
 {
@@ -78,7 +78,7 @@ QString useDevice(DeviceChoice *choice)
     return error;
 }
 
-/// Returns whether there is a font. Without a font, Qt draws the same box for every letter.
+/// Returns true if a font is installed. Without a font, Qt draws the same box for every letter.
 bool hasFonts()
 {
     QPainterPath narrow;
@@ -88,8 +88,7 @@ bool hasFonts()
     return narrow != wide;
 }
 
-/// Warns about missing fonts and about settings that cannot be written, before the user relies on
-/// them.
+/// Warns the user if fonts are missing or the settings cannot be written.
 void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
 {
     if (!hasFonts())
@@ -98,8 +97,8 @@ void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
 }
 
-/// Saves the settings. A failure is reported even when the program ends, because the disk may have
-/// become full in the meantime.
+/// Saves the settings. A failure is reported even if the program is about to end, because the disk
+/// may have become full in the meantime.
 void saveSettings(DashboardSettings *settings, MainWindow *window)
 {
     if (!settings->save())
@@ -131,7 +130,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
     QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // updates widgets, too
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
     DashboardSettings settings;
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
@@ -154,7 +153,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = interruption.signalNumber() == 0 ? QApplication::exec() : EXIT_GOOD;
-    plugin.shutDown(); // must happen before the window that contains the plug-in's page is deleted
+    plugin.shutDown(); // must precede the deletion of the window with the plug-in's page
     saveSettings(&settings, &window);
     return result;
 }

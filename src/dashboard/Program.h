@@ -13,17 +13,17 @@ enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2, EXIT_NOT_WRITTEN = 
 namespace Program
 {
 
-/// Prints the error in the arguments.
+/// Prints the error in the command-line arguments.
 int complain(const Arguments &arguments);
 int help();
 int version();
-/// Opens the dashboard and returns when it is closed.
+/// Opens the dashboard and returns when it has been closed.
 int openWindow(int &argc, char **argv, const Arguments &arguments);
 /// Prints that the replies of --send are invented, if its device is a simulated network.
 void announceDemonstration(const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
-/// Runs the tour, which needs no display.
+/// Runs the tour, which does not need a display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

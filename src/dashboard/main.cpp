@@ -19,7 +19,7 @@ namespace
 
 const char ENGLISH[] = "en";
 const mode_t OTHERS = S_IRWXG | S_IRWXO;
-const int CODE_LENGTH = 2; // the length of the language code at the start of a locale's name
+const int CODE_LENGTH = 2; // the length of the language code at the start of a locale name
 
 QStringList wordsOf(int argc, char **argv)
 {
@@ -29,8 +29,8 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-/// Prints which language file is missing or damaged. The message about the English file is fixed,
-/// because no text can be looked up without this file.
+/// Prints which language file is missing or damaged. The message about the English file is
+/// hard-coded, because strings cannot be looked up without this file.
 void sayWhichTextsAreMissing(const QString &wanted)
 {
     const QString english = QLatin1String(ENGLISH);
@@ -47,7 +47,7 @@ void sayWhichTextsAreMissing(const QString &wanted)
             dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
 
-/// Returns the language in the settings, or else the language of the desktop, or else English.
+/// Returns the language from the settings, or else the desktop language, or else English.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
@@ -56,14 +56,14 @@ QString usualLanguage()
     const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
     const bool isAbsent =
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
-    // A missing file for the desktop language is no error. A language that was chosen in the
-    // dashboard must have a file.
+    // A missing file for the desktop language is not an error. However, a language that was chosen
+    // in the dashboard must have a file.
     sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
     return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
-/// Sets the language. Returns false if the command line names a language that is unknown or whose
-/// file is missing or damaged.
+/// Sets the language. Returns false if the language on the command line is unknown, or if its file
+/// is missing or damaged.
 bool chooseLanguage(Arguments *arguments)
 {
     const QString &wanted = arguments->language;

@@ -10,18 +10,18 @@ QString notRegular()
     return QLatin1String("it is no regular file");
 }
 
-/// Returns whether the path names something other than a regular file. Returns false if nothing
-/// with this name exists, because QFile::errorString() describes this case better.
+/// Returns true if the path exists but is not a regular file. If the path does not exist,
+/// QFile::errorString() provides a better error message.
 bool isSomethingElse(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() && !info.isFile();
 }
 
-/// Opens the file. Returns an error message, or an empty text on success.
+/// Opens the file. Returns an error message, or an empty string on success.
 QString problemOfOpening(QFile &file, QIODevice::OpenMode mode, qint64 mostBytes)
 {
-    if (isSomethingElse(file.fileName())) // checked first because opening a pipe waits for a writer
+    if (isSomethingElse(file.fileName())) // before open(), which would wait at a pipe
         return notRegular();
     if (!file.open(QIODevice::ReadOnly | mode))
         return file.errorString();

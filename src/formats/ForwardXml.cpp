@@ -10,18 +10,67 @@ namespace Formats
 namespace
 {
 
-/// Raises an error for an undeclared entity. Otherwise the parser would continue without the
-/// entity, and a code that contains it would become another code.
+const char ENTITY_DECLARATION[] = "<!ENTITY";
+const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
+const qint64 BLOCK_SIZE = 64 * 1024;
+
+/// Raises an error for an undeclared entity. Otherwise, the parser would skip the entity, and a
+/// USSD code that contains the entity would become a different code.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
         QString::fromLatin1("Entity '%1' not declared.").arg(reader.name().toString()));
 }
 
+/// Returns true if the bytes contain an entity declaration. In UTF-16, the letters of the
+/// declaration are separated by zero bytes, which are therefore ignored.
+bool declaresEntity(QByteArray bytes)
+{
+    return bytes.replace('\0', "").contains(ENTITY_DECLARATION);
+}
+
+/// Searches the device for an entity declaration and returns to the current position. The search
+/// does not parse the document, because parsing would already expand parameter entities.
+bool declaresEntity(QIODevice &device)
+{
+    const qint64 start = device.pos();
+    QByteArray end; // the end of the previous block, which may contain the start of a declaration
+    bool found = false;
+    while (!found && !device.atEnd()) {
+        const QByteArray block = end + device.read(BLOCK_SIZE);
+        found = declaresEntity(block);
+        end = block.right(LONGEST_DECLARATION_START);
+    }
+    return !device.seek(start) || found;
+}
+
+void refuseEntities(QXmlStreamReader &reader)
+{
+    reader.clear();
+    reader.raiseError(QLatin1String("The document declares entities, which are not supported."));
+}
+
 } // namespace
 
 namespace ForwardXml
 {
+
+void start(QXmlStreamReader &reader, QIODevice &device)
+{
+    if (declaresEntity(device))
+        refuseEntities(reader);
+    else
+        reader.setDevice(&device);
+}
+
+void start(QXmlStreamReader &reader, const QByteArray &document)
+{
+    reader.clear();
+    if (declaresEntity(document))
+        refuseEntities(reader);
+    else
+        reader.addData(document);
+}
 
 QXmlStreamReader::TokenType next(QXmlStreamReader &reader)
 {
@@ -48,8 +97,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// The function counts the depth of nested elements. QXmlStreamReader::readElementText() calls
-/// itself for each nested element instead, so deep nesting would overflow the stack.
+/// Counts the depth of nested elements. In contrast, QXmlStreamReader::readElementText() calls
+/// itself for each nested element, so that deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

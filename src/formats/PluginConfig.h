@@ -12,11 +12,11 @@ namespace Formats
 /*
  * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
  * not depend on files, windows or the singleton. Each function reads forward from the current
- * position of the reader. A value becomes false, 0 or empty if it is missing, cannot be parsed, or
- * comes after a fault of the document.
+ * position of the reader. A value is set to false, 0 or an empty string if it is missing, cannot be
+ * parsed, or comes after an error in the document.
  */
 
-/** The appearance of the sent or received lines in the transcript. */
+/** The appearance of sent or received lines in the transcript. */
 struct Char {
     int yHeight = 0; // in twentieths of a point
     int yOffset = 0;
@@ -25,13 +25,13 @@ struct Char {
     int blue = 0;
 };
 
-/** The clear button of the general dialog. */
+/** The clear button of the general window. */
 struct ClearHistory {
     bool visible = false;
     bool showConfirmDialog = false;
 };
 
-/** The settings of the profile editor: its availability and the colours of its cells. */
+/** The settings of the profile editor: its availability and its cell colours. */
 struct CmdEdit {
     int readonlyRed = 0, readonlyGreen = 0, readonlyBlue = 0;
     int commonRed = 0, commonGreen = 0, commonBlue = 0;
@@ -39,7 +39,7 @@ struct CmdEdit {
     bool visible = false;
 };
 
-/** The settings for the detection of prepaid and postpaid SIMs. */
+/** The settings for the prepaid/postpaid detection. */
 struct PrePostDiffer {
     bool value = false; // true if the detection is enabled
     QString command;
@@ -53,7 +53,7 @@ struct AutoUSSD {
     QHash<QString, int> imsiMap; // maps an IMSI prefix to a combination of WindowFlag
 };
 
-/** A window that is offered for a SIM. An int contains a combination of these flags. */
+/** A window that is offered for a SIM. The flags are combined in an int. */
 enum WindowFlag {
     WINDOW_PREPAID = 1,
     WINDOW_POSTPAID = 2,
@@ -61,7 +61,7 @@ enum WindowFlag {
     WINDOW_ADVANCED = 8
 };
 
-/** The component that shows the own number. */
+/** The component that shows the subscriber's own phone number. */
 struct ConfigMSISDN {
     bool value = false;
     int pos = 0;
@@ -76,7 +76,7 @@ struct ConfigOnlineCharge {
     QString url;
 };
 
-/** The component that tops up with the code that the user enters. */
+/** The component that tops up the balance with a code that the user enters. */
 struct ConfigCharge {
     bool value = false;
     int pos = 0;
@@ -95,8 +95,8 @@ struct ConfigBalance {
 };
 
 /**
- * The whole file except its USSD-SMS section. In each array, index 0 is prepaid and index 1 is
- * postpaid.
+ * The entire file except its USSD-SMS section. In each array, index 0 is for prepaid and index 1 is
+ * for postpaid.
  */
 struct PluginConfig {
     static const int PAID_TYPES = 2;
@@ -114,21 +114,21 @@ struct PluginConfig {
 };
 
 /// Reads all sections except "clearHistory", in their required order. "clearHistory" may be
-/// anywhere in the file, so readClearHistory() needs a reader at the start of the document.
+/// anywhere in the file, so readClearHistory() needs a reader that is at the start of the document.
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
-/// Reads the settings for the detection of prepaid and postpaid SIMs. A fault in the section
-/// disables the detection.
+/// Reads the settings for the prepaid/postpaid detection. An error in the section disables the
+/// detection.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
 /// Reads the section "Prepaid" (0) or "Postpaid" (1). Always reads four items, even if the fourth
 /// is outside the section.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
-/// Reads one of the sections XmlName::SENT_CHAR and XmlName::RECEIVED_CHAR.
+/// Reads the section XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads to the end of the document and includes every "item" after "autoUSSD". A fault in the
-/// section disables it and discards its items.
+/// Reads to the end of the document and includes every "item" after "autoUSSD". An error in the
+/// section disables the section and discards its items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 
 /// Returns the window flags for a list such as "Prepaid/Advanced", whose names are separated by
@@ -136,7 +136,7 @@ void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 int windowFlags(const QString &list);
 
 /// Returns true if the map contains a prefix of `imsi`. Sets `flags` to the flags of the longest
-/// prefix, or to 0 if there is none.
+/// such prefix, or to 0 if there is none.
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags);
 
 } // namespace Formats

@@ -8,13 +8,13 @@ namespace Formats
 {
 
 /*
- * The plug-in's folder and the files in it. The folder is below the one that
+ * The plug-in's folder and its files. The folder is inside the folder that
  * CommonUtils::GetPluginLibraryPath() returns.
  */
 namespace PluginFiles
 {
 
-const QLatin1String FOLDER("/plugins/USSDUIPlugin"); // has no trailing separator
+const QLatin1String FOLDER("/plugins/USSDUIPlugin"); // does not end with a separator
 
 const QLatin1String CONFIGURATION("USSDPluginConfig.xml");
 const QLatin1String SYSTEM_PROFILES("ussdsysprofile.xml");

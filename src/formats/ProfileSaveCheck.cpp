@@ -12,15 +12,15 @@ namespace Formats
 namespace
 {
 
-/// Returns true if the disk has enough room for the profiles. Only a complete write detects a full
-/// disk. QTemporaryFile deletes the trial file.
+/// Returns true if there is enough disk space for the profiles. Only a complete write detects a
+/// full disk. QTemporaryFile deletes the trial file.
 bool isRoomFor(QTemporaryFile &trial, const QList<USSDProfile> &profiles)
 {
     ProfileXml::write(trial, profiles);
     return trial.flush() && trial.error() == QFile::NoError;
 }
 
-/// Returns true if the existing file can be opened for writing. This may be possible even if no
+/// Returns true if the existing file can be opened for writing. This may be possible even if no new
 /// file can be created in the folder.
 bool canBeOpened(const QString &path)
 {

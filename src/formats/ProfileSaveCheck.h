@@ -9,14 +9,15 @@
 namespace Formats
 {
 
-/* Checks a profile file on the disk before it is written. */
+/* Checks that a profile file can be written. */
 namespace ProfileSaveCheck
 {
 
 enum MissingFolder { FolderIsMade, FolderIsNotMade };
 
-/// Returns true if `profiles` can be written to the file at this time. The editor checks this
-/// before it saves, because saving deletes the old file first. Changes nothing on the disk.
+/// Returns true if `profiles` can be written to the file at this time. The editor makes this check
+/// before it saves profiles, because saving starts by deleting the old file. The function does not
+/// change any files.
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
 } // namespace ProfileSaveCheck

@@ -25,7 +25,7 @@ bool isXmlCharacter(ushort unit)
     return unit >= 0x20 ? unit < 0xFFFE : unit == 0x09 || unit == 0x0A || unit == 0x0D;
 }
 
-/// Returns the text without the characters that XML 1.0 forbids, such as control characters and
+/// Returns the string without the characters that XML 1.0 forbids, such as control characters and
 /// unpaired surrogates.
 QString xmlText(const QString &text)
 {
@@ -47,8 +47,8 @@ QString boolText(bool value)
     return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
-/// Writes the field. A carriage return is written as a character reference, because a parser would
-/// read a plain carriage return as a line feed.
+/// Writes the field. A carriage return is written as a character reference, because a parser reads
+/// a plain carriage return as a line feed.
 void writeField(QXmlStreamWriter &writer, const char *field, const QString &text)
 {
     const QStringList parts = xmlText(text).split(QLatin1Char('\r'));

@@ -12,14 +12,14 @@ namespace Formats
 namespace
 {
 
-const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; QWIDGETSIZE_MAX of QWidget
+const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; the value of QWIDGETSIZE_MAX
 
 const int MAX_COMPLAINTS = 20;
-const int MAX_QUOTED = 40;  // the maximum length of a quotation in a complaint
-const int MAX_CONTROLS = 6; // kept per group; enough to detect a group with too many
-const int MAX_GROUPS = 500; // kept per file; far more than the tree can have entries
+const int MAX_QUOTED = 40;  // the maximum length of a quoted value in a complaint
+const int MAX_CONTROLS = 6; // per group; enough to detect a group with too many controls
+const int MAX_GROUPS = 500; // per file; far more than the number of tree entries
 
-/// Returns the value in quotation marks, shortened so that it fits into a log line.
+/// Returns the value in quotation marks, shortened to fit into a log line.
 QString quoted(const QString &text)
 {
     if (text.length() <= MAX_QUOTED)
@@ -29,7 +29,7 @@ QString quoted(const QString &text)
 
 /**
  * Reads the section from start to end by element name. An element with an unknown name is ignored,
- * but the elements in it are read.
+ * but the elements inside it are read.
  */
 class Reader
 {
@@ -43,7 +43,7 @@ private:
     bool nextStart(const char *fence);
     bool nextStart(const char *name, const char *fence);
     bool isAt(const char *name) const { return m_xml.name() == QLatin1String(name); }
-    /// Returns the whole text of the current element, including nested elements.
+    /// Returns the complete text of the current element, including nested elements.
     QString text() { return ForwardXml::text(m_xml); }
     void skipElement() { text(); }
     QString attribute(const char *name) const;
@@ -79,7 +79,7 @@ private:
 
 // ---- tokens --------------------------------------------------------------------------------
 
-/// Moves to the next start element. Returns false at the end element `fence` and at the end of the
+/// Moves to the next start element. Returns false at the end element `fence` or at the end of the
 /// document.
 bool Reader::nextStart(const char *fence)
 {
@@ -107,7 +107,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// Returns the attribute as a number. Returns 0, without a complaint, if the attribute is missing.
+/// Returns the attribute as a number. If the attribute is missing, returns 0 without a complaint.
 int Reader::numberAttribute(const char *name)
 {
     if (!m_xml.attributes().hasAttribute(QLatin1String(name)))
@@ -130,8 +130,8 @@ int Reader::number(const char *name, const QString &text)
     return value;
 }
 
-/// Returns the number in the file, even if it is out of range, because geometry() limits it when
-/// the widget is placed.
+/// Returns the number from the file even if it is out of range, because geometry() limits the value
+/// when the widget is placed.
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);
@@ -252,8 +252,8 @@ void Reader::takeOrdinary(CTreeItem *entry)
     ++m_layout.ordinaryEntries;
 }
 
-/// Returns the reason why the entry is dropped, or an empty string if it is kept. The tree has two
-/// levels, and its root comes first.
+/// Returns the reason why the entry is dropped, or an empty string if the entry is kept. The tree
+/// has two levels, and its root comes first.
 QString Reader::whyDropped(const CTreeItem &entry) const
 {
     if (m_layout.ordinaryEntries >= SmsLayoutFile::MAX_ORDINARY_ENTRIES)
@@ -367,8 +367,8 @@ void Reader::checkInput(const CWidgetItemInfo &control)
                      .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
-/// Adds a complaint for each group without an entry. Called at the end, because a group may come
-/// before the tree.
+/// Adds a complaint for each group without an entry. Must be called at the end of the section,
+/// because a group may come before the tree.
 void Reader::checkGroups()
 {
     const QList<int> numbers = m_layout.groups.keys();
@@ -388,7 +388,7 @@ QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
     return QRect(QPoint(dialogWidth - asRead.x() - asRead.width(), asRead.y()), asRead.size());
 }
 
-/// Returns a coordinate that Qt can add and subtract without an overflow.
+/// Returns a coordinate that Qt can add and subtract without an integer overflow.
 int boundedPlace(int pixels)
 {
     return qBound(-LARGEST_SIDE, pixels, LARGEST_SIDE);
@@ -445,8 +445,9 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
-/// A bracket that closes the class could be followed by any pattern, even by one that QRegExp needs
-/// hours and gigabytes to expand. A bracket in the first position is an ordinary character.
+/// A bracket that closes the character class could be followed by any pattern, even by one that
+/// takes QRegExp hours and gigabytes of memory to expand. A bracket in the first position is an
+/// ordinary character.
 bool isCharacterClass(const QString &limitText)
 {
     if (limitText.length() > MAX_LIMIT_TEXT)

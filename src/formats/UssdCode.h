@@ -10,10 +10,9 @@ namespace Formats
 {
 
 /*
- * Rules for a USSD command such as *100# or *101*%s#: the place of the user's input, the maximum
- * length, the form that a network accepts, and the direction in which the command is read. The
- * windows use these rules to build and show commands. The provisioning and the tools use them to
- * check files.
+ * Rules for USSD commands such as *100# or *101*%s#: the position of the user's input, the maximum
+ * length, the form that a network accepts, and the reading direction. The windows use these rules
+ * to build and show commands. The provisioning library and the tools use them to check files.
  */
 
 /// The placeholder in a command. It is replaced with the user's input.
@@ -22,23 +21,23 @@ const QLatin1String INPUT_PLACEHOLDER("%s");
 /// The length of the longest command that the plug-in sends, in UTF-16 code units.
 const int LONGEST_COMMAND = TKSV_USSD_MAX_COMMAND_BYTES / int(sizeof(unsigned short));
 
-/// Returns true if `text` contains only digits, stars and hashes, which a telephone can dial.
+/// Returns true if `text` contains only digits, stars and hashes, which a phone can dial.
 bool isDialable(const QString &text);
 
 /// Returns true if a network accepts `text` as a code. A code consists of digits, stars and hashes,
 /// begins with a star or a hash, and ends with a hash (3GPP TS 22.090).
 bool isUssdCode(const QString &text);
 
-/// Returns true if `text` begins with a star or a hash, like *100#, or contains no letter, like a
-/// number. Such a text is read from left to right in every language. Any other text follows the
-/// direction of the language.
+/// Returns true if `text` begins with a star or a hash, as in *100#, or does not contain any
+/// letters, as in a phone number. Such a string is read from left to right in every language. Any
+/// other string follows the direction of the language.
 bool isCodeLike(const QString &text);
 
 /// Returns the length of the command in UTF-16 code units after each placeholder has been replaced
 /// with `input` characters.
 int commandLength(const QString &command, int input);
 
-/// Returns the number of characters that the user can enter before the command becomes longer than
+/// Returns the number of characters that the user can enter without making the command longer than
 /// LONGEST_COMMAND. Returns 0 for a command without a placeholder.
 int longestInput(const QString &command);
 

@@ -6,12 +6,12 @@ namespace Formats
 
 /*
  * The names of the elements and attributes in the configuration file and the profile files, and the
- * texts that have a meaning in these files. The spelling is part of the formats.
+ * values that have a meaning in these files. The spelling is part of the formats.
  */
 namespace XmlName
 {
 
-// Sections of the configuration
+// Sections of the configuration file
 const char ROOT[] = "ussdPlugin";
 const char PRE_POST_DIFFER[] = "PrePostDiffer";
 const char PREPAID[] = "Prepaid";
@@ -23,7 +23,7 @@ const char CMD_EDIT[] = "cmdEdit";
 const char SMS_USSD[] = "SMSUSSD";
 const char AUTO_USSD[] = "autoUSSD";
 
-// Elements and attributes of several sections
+// Elements and attributes that occur in several sections
 const char ITEM[] = "item";
 const char NAME[] = "name";
 const char VALUE[] = "value";
@@ -36,7 +36,7 @@ const char LIMIT_TEXT[] = "LimitText";
 const char WIDTH[] = "width";
 const char HEIGHT[] = "height";
 
-// The detection of prepaid and postpaid
+// The prepaid/postpaid detection
 const char RETURN_PATTERN[] = "ReturnPattern";
 const char STYLE[] = "style";
 
@@ -50,7 +50,7 @@ const char RETURN_STYLE[] = "ReturnStyle";
 const char URL[] = "URL";
 const char UPDATE_BUTTON[] = "UpdateButton";
 
-// The appearance of the transcript and the colours of the editor
+// The appearance of the transcript and the colours of the profile editor
 const char Y_HEIGHT[] = "yHeight";
 const char Y_OFFSET[] = "yOffset";
 const char COLOR[] = "color";
@@ -62,7 +62,7 @@ const char COMMON_COLOR[] = "commoncolor";
 const char HEAD_COLOR[] = "headcolor";
 const char SHOW_CONFIRM_DIALOG[] = "showConfirmDialog";
 
-// The windows of each SIM
+// The windows offered for each SIM
 const char VALID[] = "valid";
 const char IMSI[] = "imsi";
 const char USSD[] = "ussd";
@@ -91,7 +91,7 @@ const char SHOW_BUTTON[] = "showButton";
 const char LANG_ID[] = "langID";
 const char DESCRIPTION_LANG_ID[] = "desLangID";
 
-// The texts of switches
+// The values of switches
 const char ON[] = "true";
 const char OFF[] = "false";
 

@@ -16,23 +16,23 @@ namespace FileSteps
 
 /// Creates a folder and its missing parents.
 bool makeFolder(const QString &path, QString &problem);
-/// Writes a file. The content is on the disk when the function returns.
+/// Writes a file. The contents are on the disk when the function returns.
 bool writeNew(const QString &path, const QByteArray &content, QString &problem);
 /// Creates a symbolic link. Fails if `path` exists.
 bool link(const QString &target, const QString &path, QString &problem);
 /// Renames a file. An existing file is replaced atomically.
 bool rename(const QString &from, const QString &to, QString &problem);
-/// Waits until the folder's entries are on the disk.
+/// Waits until the directory entries of the folder are on the disk.
 bool syncFolder(const QString &path, QString &problem);
 
-/// Returns the target of the link as it was written, or an empty string if the path is not a link.
+/// Returns the target as stored in the link, or an empty string if the path is not a link.
 QString linkTarget(const QString &path);
-/// Returns whether the path exists. A dangling link is treated as existing.
+/// Returns true if the path exists. A dangling link is treated as existing.
 bool exists(const QString &path);
-QByteArray content(const QString &path); ///< empty if it cannot be read
+QByteArray content(const QString &path); ///< empty if the file cannot be read
 
 /**
- * Waits until no other process holds the lock. Then holds the lock until this object is deleted.
+ * Waits until no other process holds the lock. Then holds the lock until this object is destroyed.
  */
 class Lock
 {

@@ -70,8 +70,8 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// Narrows down the operators with the name that the user has chosen. Uses the network for this
-/// purpose.
+/// If several operators have the name that the user has chosen, keeps only those that match the
+/// network. If none of them matches, keeps all of them.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {
@@ -82,7 +82,7 @@ ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
     return choiceOf(candidates);
 }
 
-/// Returns whether the SIM's name begins with the whole words of the name: "Telekom.de" begins with
+/// Returns true if the SIM's name begins with complete words of the name: "Telekom.de" begins with
 /// "Telekom", but "Telekomik" does not.
 bool beginsWithName(const QString &simName, const QString &name)
 {
@@ -109,10 +109,10 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
     return found;
 }
 
-/// Narrows down the candidates with the SIM's name. If the SIM's name only begins with the name of
-/// a candidate, the SIM may belong to a virtual operator on the network. If no candidate has the
-/// name, the operator may be missing from the database. In both cases, the choice is ambiguous,
-/// unless the only candidate has a similar name.
+/// Narrows down the candidates with the help of the SIM's name. If the SIM's name only begins with
+/// the name of a candidate, the SIM may belong to a virtual operator on the network. If no
+/// candidate has the SIM's name, the operator may be missing from the database. In both cases, the
+/// choice is ambiguous unless the only candidate has a similar name.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())
@@ -126,6 +126,14 @@ ProviderChoice proposed(const QList<Provider> &candidates, const QString &simNam
     if (choice.state == ProviderChoice::Chosen && !confirmed)
         choice.state = ProviderChoice::Ambiguous;
     return choice;
+}
+
+bool selects(const ProviderDatabase &database, const ProviderQuery &query, const Provider &provider)
+{
+    const ProviderChoice choice = chooseProvider(database, query);
+    return choice.state == ProviderChoice::Chosen &&
+           choice.candidates.first().line == provider.line &&
+           choice.candidates.first().name() == provider.name();
 }
 
 bool isDigitsOnly(const QString &text)
@@ -151,6 +159,23 @@ ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQu
     if (!query.network.isEmpty())
         candidates = withNetwork(candidates, query.network);
     return proposed(candidates, query.simName);
+}
+
+ProviderQuery queryThatSelects(const ProviderDatabase &database, const Provider &provider,
+                               const QString &network)
+{
+    const QStringList networks = QStringList(network) + provider.networks;
+    ProviderQuery query;
+    query.country = provider.country;
+    for (int i = 0; i < networks.count(); ++i) {
+        query.network = networks.at(i);
+        for (int n = 0; n < provider.names.count(); ++n) {
+            query.provider = provider.names.at(n).text;
+            if (selects(database, query, provider))
+                return query;
+        }
+    }
+    return ProviderQuery();
 }
 
 QString networkOfImsi(const ProviderDatabase &database, const QString &imsi)

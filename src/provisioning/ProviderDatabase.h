@@ -11,19 +11,19 @@ namespace Provisioning
 
 /*
  * Reads the database of mobile operators in the format of mobile-broadband-provider-info (format
- * 2.0) into plain values. The functions have no state and may be called on any thread.
+ * 2.0) into plain values. The functions are stateless and may be called from any thread.
  */
 
 /**
- * A part of the database that cannot be used, with a description for the editor of the database.
+ * A part of the database that cannot be used, with a message for the editor of the database.
  */
 struct ProviderComplaint {
-    qint64 line = 0;   // counts from 1
-    qint64 column = 0; // at the end of the start tag; counts from 0 as the XML reader does
+    qint64 line = 0;   // starts at 1
+    qint64 column = 0; // at the end of the start tag; starts at 0, as in QXmlStreamReader
     QString text;
 };
 
-/** A way to send a request to an operator, such as the request for the balance. */
+/** A way to send a request to an operator, for example a balance request. */
 struct ProviderCode {
     enum Way {
         Ussd,         // `code` is dialled
@@ -33,8 +33,8 @@ struct ProviderCode {
     };
 
     Way way = Ussd;
-    QString code;            // without blanks at either end
-    bool takesInput = false; // the element has a replacement attribute
+    QString code;            // without leading and trailing blanks
+    bool takesInput = false; // true if the element has a replacement attribute
     QString replacement;     // the part of `code` that is replaced with the user's input
     QString smsText;         // the text of the short message
     qint64 line = 0;
@@ -43,7 +43,7 @@ struct ProviderCode {
 
 struct ProviderName {
     QString text;
-    QString language; // the attribute xml:lang; empty for the default language
+    QString language; // value of the attribute xml:lang; empty for the default language
 };
 
 /** An operator in a country. */
@@ -57,7 +57,7 @@ struct Provider {
     QList<ProviderCode> ownNumber;
     qint64 line = 0; // line of the element's start tag
 
-    /// Returns the name without a language, or else the first name.
+    /// Returns the name that has no language attribute, or else the first name.
     QString name() const;
     bool hasCodes() const { return !balance.isEmpty() || !topUp.isEmpty() || !ownNumber.isEmpty(); }
 };
@@ -65,18 +65,18 @@ struct Provider {
 struct ProviderDatabase {
     QList<Provider> providers; // in the order of the file
     QList<ProviderComplaint> complaints;
-    /// The reason why the whole file cannot be used, or an empty string. If there is an error,
-    /// there are no providers.
+    /// The reason why the file cannot be used at all, or an empty string. If there is an error,
+    /// `providers` is empty.
     QString error;
 };
 
-/// Reads a document. Rejects a document that is not well-formed, has another format, declares
-/// entities or is nested too deeply.
+/// Reads a document. Rejects a document that is not well-formed, has a different format, declares
+/// entities, is nested too deeply, or has a tag or comment of more than 64 KB.
 ProviderDatabase readProviderDatabase(const QByteArray &xml);
 /// Reads a file of at most 64 MB.
 ProviderDatabase readProviderDatabaseFile(const QString &path);
 
-/// Returns the path at which Debian's package installs the database.
+/// Returns the path at which the Debian package installs the database.
 QString installedProviderDatabase();
 
 } // namespace Provisioning

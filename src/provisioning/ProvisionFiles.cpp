@@ -6,6 +6,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include "ForwardXml.h"
 #include "ProfileXml.h"
 #include "UssdCode.h"
 #include "UssdTemplate.h"
@@ -23,12 +24,12 @@ namespace
 const int LONGEST_VOUCHER = 30;
 const int SHORTEST_VOUCHER = 1;
 
-// Elements that are copied from the shipped configuration with their descendants.
+// Elements that are copied from the installed configuration with their descendants.
 const char *const LOOKS[] = {XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CLEAR_HISTORY,
                              XmlName::CMD_EDIT,  XmlName::MAIN_SIZE,     XmlName::TREE_SIZE};
 const int MAX_DEPTH = 30;
 
-// Positions and sizes of the controls of the services window, in pixels.
+// Positions and sizes of the controls in the services window, in pixels.
 const QRect EXPLANATION(285, 16, 340, 46);
 const QRect BUTTON(285, 72, 150, 32);
 const QRect REPLY(285, 140, 340, 210);
@@ -36,10 +37,10 @@ const int MOST_SERVICES = 25;
 
 // ---- looks of the shipped configuration ----------------------------------------------------
 
-/** A token of an element that is copied from the shipped configuration. */
+/** A token of an element that is copied from the installed configuration. */
 struct Token {
     QXmlStreamReader::TokenType type = QXmlStreamReader::NoToken;
-    QString text; // the name of an element, or characters
+    QString text; // the name of the element, or character data
     QXmlStreamAttributes attributes;
 };
 
@@ -81,18 +82,20 @@ Element takeElement(QXmlStreamReader &reader)
         if (depth > MAX_DEPTH)
             reader.raiseError(QLatin1String("Elements are nested too deeply."));
         if (depth > 0)
-            reader.readNext();
+            ForwardXml::next(reader);
     } while (depth > 0 && !reader.atEnd());
     return element;
 }
 
-/// Returns the elements to copy from the shipped configuration. Sets `error` if it cannot be used.
+/// Returns the elements to copy from the installed configuration. Sets `error` if it cannot be
+/// used.
 Looks looksOf(const QByteArray &shipped, QString &error)
 {
     Looks looks;
-    QXmlStreamReader reader(shipped);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, shipped);
     while (!reader.atEnd()) {
-        reader.readNext();
+        ForwardXml::next(reader);
         const QString name = reader.name().toString();
         if (reader.isStartElement() && isLook(name) && !looks.contains(name))
             looks.insert(name, takeElement(reader));
@@ -213,7 +216,8 @@ void ConfigurationWriter::writeHead()
                            .arg(provider));
 }
 
-/// Writes a disabled section, because the database has no code that queries the kind of contract.
+/// Writes a disabled section, because the database does not contain codes for querying the kind of
+/// contract.
 void ConfigurationWriter::writeDetection()
 {
     start(XmlName::PRE_POST_DIFFER);
@@ -289,7 +293,7 @@ void ConfigurationWriter::writeTreeItem(int entry, const QString &key, bool isRo
     end();
 }
 
-/// Writes a group of five controls: explanation, caption of the entry field, entry field, button
+/// Writes a group of five controls: explanation, caption of the input field, input field, button
 /// and reply.
 void ConfigurationWriter::writeGroup(int entry, const PlannedMessage &message)
 {
@@ -328,21 +332,24 @@ void ConfigurationWriter::writeHiddenControl()
     end();
 }
 
-/// Writes the SIM cards. The database contains only prepaid codes. Without an IMSI prefix, the
-/// windows do not depend on the SIM.
+/// Writes the SIM cards. The database contains only prepaid codes. If there are no IMSI prefixes,
+/// the windows do not depend on the SIM.
 void ConfigurationWriter::writeSims()
 {
     const bool account =
         !m_plan.balance.isEmpty() || !m_plan.topUp.isEmpty() || !m_plan.ownNumber.isEmpty();
-    QString windows = QLatin1String(account ? "Prepaid/Advanced" : XmlName::ADVANCED);
+    QStringList windows;
+    if (account)
+        windows << QLatin1String(XmlName::PREPAID);
+    windows << QLatin1String(XmlName::ADVANCED);
     if (!m_plan.messages.isEmpty())
-        windows += QLatin1String("/Commonpaid");
+        windows << QLatin1String(XmlName::COMMONPAID);
     start(XmlName::AUTO_USSD);
     attribute(XmlName::VALID, boolText(!m_plan.imsiPrefixes.isEmpty()));
     for (int i = 0; i < m_plan.imsiPrefixes.count(); ++i) {
         start(XmlName::ITEM);
         attribute(XmlName::IMSI, m_plan.imsiPrefixes.at(i));
-        attribute(XmlName::USSD, windows);
+        attribute(XmlName::USSD, windows.join(QString(QLatin1Char('/'))));
         end();
     }
     end();

@@ -1,5 +1,7 @@
 #include "ProvisionPlan.h"
 
+#include <QSet>
+
 #include "UssdCode.h"
 #include "UssdTemplate.h"
 
@@ -11,11 +13,12 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button among the buttons of the general window, counted from 0.
+// The position of the first payment button if the general window has all eleven buttons, counted
+// from 0.
 const int FIRST_PAYMENT_SLOT = 9;
-const int PAYMENT_BUTTONS = 2; // the last two buttons always use the entered number
+const int PAYMENT_BUTTONS = 2; // the last two buttons always use the number that the user enters
 
-/** A kind of code, and the keys of its names in the plug-in. */
+/** A kind of code, and the text keys of its names in the plug-in. */
 struct Kind {
     const char *name;
     const char *textKey;
@@ -25,6 +28,25 @@ struct Kind {
 const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DESC"};
 const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
 const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
+
+/// Returns a profile that only takes the place of a payment button.
+USSDProfile placeholder()
+{
+    USSDProfile profile;
+    profile.name = placeholderName();
+    profile.readonly = true;
+    profile.showButton = true;
+    return profile;
+}
+
+/// Returns the profiles from `first` on, at most `count`. `hasButton` is whether they have buttons.
+QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
+{
+    QList<USSDProfile> result = profiles.mid(first, count);
+    for (int i = 0; i < result.count(); ++i)
+        result[i].showButton = hasButton;
+    return result;
+}
 
 bool isMessageNumber(const QString &text)
 {
@@ -48,7 +70,6 @@ private:
     void takeResponse(const ProviderCode &code, const Kind &kind);
     void takeMessage(const ProviderCode &code, const Kind &kind);
     void addProfile(const QString &code, const Kind &kind);
-    bool hasProfile(const QString &code) const;
     void nameApart(const Kind &kind);
     void note(const ProviderCode &code, const QString &what);
     void placeButtons();
@@ -56,6 +77,7 @@ private:
 
     const Provider &m_provider;
     ProvisionPlan m_plan;
+    QSet<QString> m_codes; // the codes of m_plan.profiles
 };
 
 Planner::Planner(const Provider &provider, const QString &network) : m_provider(provider)
@@ -76,7 +98,7 @@ ProvisionPlan Planner::plan()
 }
 
 /// Adds all codes to the plan. Returns the first code that the account window can use. `withInput`
-/// is whether this code needs input.
+/// is true if this code requires input.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;
@@ -97,7 +119,7 @@ QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool w
     return first;
 }
 
-/// Adds a code. Returns the code if the account window can use it, otherwise an empty text.
+/// Adds a code. Returns the code if the account window can use it, otherwise an empty string.
 QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withInput)
 {
     const UssdTemplate ussd = ussdTemplate(code);
@@ -109,7 +131,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// Adds a code that the network answers with a menu, which only the general window can show.
+/// Adds a code to which the network replies with a menu. Only the general window can show menus.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
@@ -128,7 +150,7 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
     PlannedMessage message;
     message.textKey = QLatin1String(kind.textKey);
     message.explanation = code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") +
-                          code.code; // U+2192, an arrow that is clear in any language
+                          code.code; // U+2192, an arrow that is understood in any language
     message.text = code.smsText;
     message.number = code.code;
     m_plan.messages << message;
@@ -136,8 +158,9 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
 
 void Planner::addProfile(const QString &code, const Kind &kind)
 {
-    if (hasProfile(code))
+    if (m_codes.contains(code))
         return;
+    m_codes.insert(code);
     USSDProfile profile;
     profile.name = QLatin1String(kind.name);
     profile.value = code;
@@ -146,17 +169,8 @@ void Planner::addProfile(const QString &code, const Kind &kind)
     m_plan.profiles << profile;
 }
 
-bool Planner::hasProfile(const QString &code) const
-{
-    for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        if (m_plan.profiles.at(i).value == code)
-            return true;
-    }
-    return false;
-}
-
-/// Gives several profiles or messages of a kind different names, so that the user can distinguish
-/// them.
+/// Makes the names of profiles and messages of the same kind unique, so that the user can
+/// distinguish them.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);
@@ -187,8 +201,8 @@ void Planner::note(const ProviderCode &code, const QString &what)
 }
 
 /// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
-/// until a number is entered. A code without input therefore has a button only if two codes with
-/// input follow. Otherwise it is available only in the list of codes.
+/// until a number is entered. Codes with input therefore come last, after a placeholder for each
+/// missing one, so that every code without input has a button that works at once.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -197,15 +211,14 @@ void Planner::placeButtons()
         const USSDProfile &profile = m_plan.profiles.at(i);
         (profile.value.contains(INPUT_PLACEHOLDER) ? paying : plain) << profile;
     }
-    const bool plainToo = paying.count() >= PAYMENT_BUTTONS;
-    for (int i = 0; i < plain.count(); ++i)
-        plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
-    for (int i = 0; i < paying.count(); ++i)
-        paying[i].showButton = i < PAYMENT_BUTTONS;
+    QList<USSDProfile> placeholders;
+    while (!plain.isEmpty() && placeholders.count() + paying.count() < PAYMENT_BUTTONS)
+        placeholders << placeholder();
     // There are only eleven buttons, so two codes with input come before the remaining codes.
-    const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
-    m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
-                      paying.mid(PAYMENT_BUTTONS);
+    m_plan.profiles = taken(plain, 0, FIRST_PAYMENT_SLOT, true) + placeholders +
+                      taken(paying, 0, PAYMENT_BUTTONS, true) +
+                      taken(plain, FIRST_PAYMENT_SLOT, -1, false) +
+                      taken(paying, PAYMENT_BUTTONS, -1, false);
 }
 
 void Planner::placePrefixes(const QString &network)

@@ -9,7 +9,7 @@ namespace Provisioning
 
 /** A short message that the services window offers. */
 struct PlannedMessage {
-    QString textKey; // key of the service's name; a text that is not a key is shown unchanged
+    QString textKey; // text key of the service's name; other strings are shown unchanged
     QString explanation;
     QString text;
     QString number;
@@ -20,15 +20,15 @@ struct ProvisionPlan {
     QString country;
     QString provider;
     QString network; // MCC and MNC of the SIM; empty if unknown
-    QString balance; // code; empty if the operator has none
-    QString topUp;   // code with "%s"; empty if the operator has none
+    QString balance; // the code; empty if the operator does not have one
+    QString topUp;   // the code with "%s"; empty if the operator does not have one
     QString ownNumber;
     QList<Formats::USSDProfile> profiles; // in the order of the profiles file
     QList<PlannedMessage> messages;
     QStringList imsiPrefixes; // in ascending order
-    QStringList notes;        // describe codes that the plug-in cannot use, in English
+    QStringList notes;        // descriptions of codes that the plug-in cannot use, in English
 
-    /// Returns whether there is nothing to write.
+    /// Returns true if there is nothing to write.
     bool isEmpty() const { return profiles.isEmpty() && messages.isEmpty(); }
 };
 

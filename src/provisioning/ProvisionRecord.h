@@ -10,25 +10,25 @@ namespace Provisioning
 {
 
 /**
- * A record of the files that were written to a folder, and of their operator. It is stored next to
- * the files, so that later changes by hand can be detected.
+ * A record of the files that were written to a folder, and of their operator. The record is stored
+ * next to the files, so that later manual changes can be detected.
  */
 struct ProvisionRecord {
     QString country;
     QString provider;
     QString network;                 // MCC and MNC; empty if unknown
-    QMap<QString, QByteArray> files; // checksums (SHA-1 in hexadecimal digits) by file name
+    QMap<QString, QByteArray> files; // checksums (SHA-1 in hexadecimal digits), keyed by file name
 
     bool isValid() const { return !files.isEmpty(); }
 };
 
 QByteArray provisionRecordText(const ProvisionRecord &record);
-/// Parses a record. Returns an invalid record if the text is damaged.
+/// Parses a record. Returns an invalid record if `text` is damaged.
 ProvisionRecord provisionRecordFrom(const QByteArray &text);
 
 QByteArray provisionChecksum(const QByteArray &content);
 
-/// Returns the name of the record's file.
+/// Returns the file name of the record.
 QString provisionRecordName();
 
 } // namespace Provisioning

@@ -15,7 +15,7 @@ namespace
 {
 
 const QLatin1String PLUGINS("/plugins");
-const QLatin1String IN_USE = PluginFiles::FOLDER; // the link to the set of files in use
+const QLatin1String IN_USE = PluginFiles::FOLDER; // the link to the current set of files
 const QLatin1String SETS("/provisioned");
 const QLatin1String LINKED_SETS("../provisioned/"); // relative to the link
 const QLatin1String LOCK("/provisioned/.lock");
@@ -50,8 +50,8 @@ bool isOurs(const QString &filesFolder, const QString &name, const ProvisionReco
            provisionChecksum(FileSteps::content(path)) == record.files.value(name);
 }
 
-/// Returns the names of files that were changed or added by hand. Returns all names if the record
-/// is damaged.
+/// Returns the names of files that were changed or added manually. Returns all file names if the
+/// record is damaged.
 QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
 {
     QStringList changed;
@@ -73,7 +73,7 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes the unchanged files. Also removes the folder if it contains no other file.
+/// Removes the unchanged files. Also removes the folder if it does not contain any other files.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
@@ -88,8 +88,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// Removes files that a killed process has left incomplete. Their folder has a different name and
-/// was never in use.
+/// Removes incomplete files that remain from a killed process. Their folder has a different name
+/// and has never been in use.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);
@@ -98,7 +98,7 @@ void removeUnfinished(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/** Writes a set of files, and holds the lock during its lifetime. */
+/** Writes a set of files, and holds the lock while this object exists. */
 class Writer
 {
 public:
@@ -255,7 +255,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// Activates the new files. The plug-in finds them from now on.
+/// Activates the new files. From now on, the plug-in uses these files.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;
@@ -266,7 +266,7 @@ bool Writer::putInUse(int number)
            FileSteps::syncFolder(m_order.folder + PLUGINS, m_outcome.problem);
 }
 
-/// Removes old sets of files, including those that killed processes have left.
+/// Removes old sets of files, including those that remain from killed processes.
 void Writer::tidyUp(int inUse)
 {
     const QString sets = m_order.folder + SETS + QLatin1Char('/');
@@ -327,13 +327,18 @@ ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan
     return Writer(order, plan, files).write();
 }
 
-QString operatorsFolder()
+QString userDataHome()
 {
     const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
     const QString data = chosen.startsWith(QLatin1Char('/'))
                              ? chosen
                              : QDir::homePath() + QLatin1String("/.local/share");
-    return data + QLatin1String("/ussd-dashboard/operators");
+    return data + QLatin1String("/ussd-dashboard");
+}
+
+QString operatorsFolder()
+{
+    return userDataHome() + QLatin1String("/operators");
 }
 
 QString operatorFolder(const QString &operators, const QString &network)

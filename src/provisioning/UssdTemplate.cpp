@@ -10,9 +10,9 @@ namespace Provisioning
 namespace
 {
 
-/// Returns whether the replacement is unambiguous. A replacement that consists of dialable
+/// Returns true if the replacement is unambiguous. A replacement that consists of dialable
 /// characters, such as "1", must occur only once in the code, because another occurrence may be
-/// meant literally.
+/// intended as part of the code.
 bool isClear(const ProviderCode &code)
 {
     return !isDialable(code.replacement) || code.code.count(code.replacement) == 1;

@@ -15,7 +15,7 @@ namespace Tksv
 namespace
 {
 
-/// Returns the scenario of an absent device, which is used instead of a file that cannot be read.
+/// Returns the scenario of an absent device. It replaces a scenario file that cannot be read.
 Scenario absentDevice(const std::string &source)
 {
     Scenario scenario;
@@ -24,8 +24,8 @@ Scenario absentDevice(const std::string &source)
     return scenario;
 }
 
-/// Returns the network of the initial scenario. Prints complaints about the file to stderr, since
-/// no call of the client can report them.
+/// Returns the network of the initial scenario. Prints the errors in the file to stderr, because no
+/// API function can return them.
 std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();
@@ -75,7 +75,7 @@ void BackendChoice::stop()
         m_watch.stop();
 }
 
-/* ---- calls of the client ----------------------------------------------------------------- */
+/* ---- calls from the client --------------------------------------------------------------- */
 
 BackendChoice::Device BackendChoice::device() const
 {
@@ -108,7 +108,7 @@ std::string BackendChoice::useScenario(const std::string &path)
         return describe(result.complaints);
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     if (m_initialKind != Kind::Simulator)
-        startWatch(); // the watch provides the list of modems
+        startWatch(); // the watch provides the modem list
     replace({std::make_shared<SimulatedNetwork>(*std::move(result.scenario)), nullptr});
     return std::string();
 }
@@ -132,7 +132,7 @@ void BackendChoice::lookAgain()
         startWatch();
 }
 
-/* ---- m_switchMutex is held from here on -------------------------------------------------- */
+/* ---- m_switchMutex is locked in the following functions ---------------------------------- */
 
 BackendChoice::Device BackendChoice::initialDevice()
 {
@@ -155,7 +155,7 @@ void BackendChoice::replace(const Device &next)
         return;
     if (const std::shared_ptr<Backend> old = current())
         end(*old);
-    // The new status is reported before the new backend can report a change.
+    // Report the new status before the new backend can report a change.
     m_observer.smsStatusChanged(next.backend->info().canSendSms);
     start(next);
     m_observer.infoChanged();
@@ -163,7 +163,7 @@ void BackendChoice::replace(const Device &next)
 
 void BackendChoice::end(Backend &old)
 {
-    old.stop(); // a device that the old backend finds until here is lost, too
+    old.stop(); // also discards a device that the old backend has found in the meantime
     if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }
@@ -175,8 +175,8 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// Starts the watch. If the watch is already running, it looks again, since a missing message bus
-/// may have become available.
+/// Starts the watch. If the watch is already running, it looks for modems again, because a missing
+/// message bus may have become available.
 void BackendChoice::startWatch()
 {
     if (m_stopped)
@@ -185,7 +185,7 @@ void BackendChoice::startWatch()
     m_isWatching = true;
 }
 
-/* ---- the watch's thread ------------------------------------------------------------------ */
+/* ---- called from the watch's thread ------------------------------------------------------ */
 
 void BackendChoice::watchChanged()
 {

@@ -26,18 +26,20 @@ class ModemManagerBackend;
 class BackendChoice
 {
 public:
-    /// The observer must outlive this object. stop() must be called before the destructor runs.
+    /// The observer must outlive this object. stop() must be called before this object is
+    /// destroyed.
     explicit BackendChoice(BackendObserver &observer);
     BackendChoice(const BackendChoice &) = delete;
     BackendChoice &operator=(const BackendChoice &) = delete;
 
-    /// Returns the backend in use. The first call creates the backend.
+    /// Returns the current backend. The first call creates the backend.
     std::shared_ptr<Backend> backend();
-    /// Returns the backend in use, or null before the first call of backend() or of a use function.
+    /// Returns the current backend, or null before the first call to backend() or a use...()
+    /// function.
     std::shared_ptr<Backend> current() const;
 
-    /// Switches to the network of a scenario file. An empty path selects the initial scenario.
-    /// Returns an empty text on success, otherwise the complaints about the file.
+    /// Switches to the simulated network of a scenario file. An empty path selects the initial
+    /// scenario. Returns an empty string on success, otherwise the error messages for the file.
     std::string useScenario(const std::string &path);
     /// Switches to a modem. An empty identifier selects the first modem that is registered, or the
     /// first modem that was found if none is registered.
@@ -46,10 +48,10 @@ public:
     void useAutomatic();
     /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
     void lookAgain();
-    /// Returns the modems that ModemManager has found, the oldest first.
+    /// Returns the modems that ModemManager has found, oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
-    /// Stops the backend and all threads. A backend that is created later refuses every request.
+    /// Stops the backend and all threads. A backend that is created later rejects every request.
     void stop();
 
 private:

@@ -11,10 +11,10 @@ namespace Tksv
 namespace
 {
 
-/// The time that the program's exit waits for a running call-back of a service.
+/// The time that the exiting program waits for a running call-back of a service.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-/// The key of the listener of a service that has a single listener.
+/// The listener key in a service that has only one listener.
 const std::uintptr_t ONLY_KEY = 1;
 
 std::uintptr_t keyOf(TKSV_EventCallback callback)
@@ -37,9 +37,9 @@ Event statusEvent(bool canSend)
 
 } // namespace
 
-/// The first call creates the object and registers its stop(). Exit handlers run in reverse order.
-/// Therefore the call-backs end before static objects that the client created earlier are
-/// destroyed.
+/// The first call creates the object and registers an exit handler that calls stop(). Exit handlers
+/// run in reverse order. Therefore, the call-backs end before static objects that the client
+/// created earlier are destroyed.
 DeviceSdk &DeviceSdk::instance()
 {
     static DeviceSdk *const sdk = [] {
@@ -67,7 +67,7 @@ void DeviceSdk::stop()
         service->stop(EXIT_LIMIT);
 }
 
-/* ---- calls of the client ----------------------------------------------------------------- */
+/* ---- calls from the client --------------------------------------------------------------- */
 
 int DeviceSdk::request(const std::string &text)
 {
@@ -97,8 +97,8 @@ void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
     m_choice.backend();
 }
 
-/// Removes the call-back and ends the session with the last one. Otherwise the network would keep
-/// the session open although nobody reads its replies.
+/// Removes the call-back. Removing the last call-back also ends the session. Otherwise, the network
+/// would keep the session open although no call-back receives its replies.
 bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 {
     const bool found = m_ussdEvents.remove(keyOf(callback));
@@ -118,13 +118,13 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
     return m_deviceEvents.remove(keyOf(callback));
 }
 
-/// Adds the call-back and posts the current status to this call-back only. The status is dropped if
-/// it is no longer true at delivery, because the change then raises its own event.
+/// Adds the call-back and posts the current status to this call-back only. The event is dropped if
+/// the status has changed before delivery, because the change raises its own event.
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));
     if (!info().canSendSms)
-        return; // a later change raises an event
+        return; // the next status change raises an event
     Event event = statusEvent(true);
     event.onlyKey = keyOf(callback);
     event.beforeDelivery = [this] { return info().canSendSms; };
@@ -157,7 +157,7 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
     m_infoEvents.replaceAll(ONLY_KEY, std::move(handler));
 }
 
-/// Sets the call-back. The posted event delivers the texts that were kept so far.
+/// Sets the call-back. The posted event delivers the messages that have been kept so far.
 void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     EventService::Handler handler;
@@ -191,7 +191,7 @@ bool DeviceSdk::enable()
     return m_choice.backend()->enable();
 }
 
-/* ---- events of the backend, on its thread ------------------------------------------------ */
+/* ---- events from the backend, called from the backend's thread --------------------------- */
 
 void DeviceSdk::ussdReply(RequestToken token, const UssdReply &reply)
 {

@@ -13,14 +13,15 @@ namespace Tksv
 {
 
 /**
- * The implementation of the C functions: the services, the session, and the backend in use.
+ * The implementation of the C functions. It owns the services, the session and the current backend.
  *
- * Threads: each service has a thread, which its first event starts; the backends have their own
- * threads. All threads end when the program exits. The object itself is never destroyed, since
- * other threads of the client may still be inside a call, and the library is never unloaded.
+ * Threads: each service has a thread, which is started by the first event. The backends have their
+ * own threads. All threads end when the program exits. The object itself is never destroyed,
+ * because other threads of the client may still be inside a call. For the same reason, the library
+ * is never unloaded.
  *
- * Locks are taken in this order: UssdSession, backend, services. BackendChoice documents its own
- * locks.
+ * Lock order: UssdSession, backend, services. The locks of BackendChoice are documented in that
+ * class.
  */
 class DeviceSdk : private BackendObserver
 {

@@ -27,8 +27,8 @@ bool EventService::remove(std::uintptr_t key)
     const auto end = std::remove_if(m_listeners.begin(), m_listeners.end(), hasKey);
     const bool found = end != m_listeners.end();
     m_listeners.erase(end, m_listeners.end());
-    // The function waits even if another thread has removed the listener, because the listener must
-    // not run after this call either.
+    // Wait even if another thread has removed the listener. The listener must not run after this
+    // call in that case either.
     waitUntilIdle(lock, key);
     return found;
 }
@@ -105,7 +105,8 @@ bool EventService::call(std::uint64_t listenerId, const Event &event)
     return taken;
 }
 
-/// Returns whether the listener still exists. If it does, it is treated as running until endCall().
+/// Returns true if the listener still exists. The listener is then treated as running until
+/// endCall().
 bool EventService::beginCall(std::uint64_t listenerId, Handler &handler)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -137,9 +138,9 @@ bool EventService::contains(std::uintptr_t key) const
     return std::any_of(m_listeners.begin(), m_listeners.end(), hasKey);
 }
 
-/// Waits for the current call of the listener, but not for a later call of a listener that was
-/// added again. Does not wait after stop(), so that a call-back that hangs does not block the
-/// client's exit.
+/// Waits until the current call to the listener has returned. Does not wait for later calls to a
+/// listener that was added again. Does not wait after stop(), so that a hanging call-back cannot
+/// block the client's exit.
 void EventService::waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key)
 {
     if (m_stopping || !key || m_runningKey != key || m_deliveries.isCurrent())

@@ -14,33 +14,33 @@
 namespace Tksv
 {
 
-/** An event on its way to the listeners of one service. */
+/** An event to be delivered to the listeners of one service. */
 struct Event {
     int number = 0;
     std::shared_ptr<void> data; // the record; destroyed after the last listener has returned
-    std::uintptr_t onlyKey = 0; // the key of the only listener to receive the event; 0: all
-    /// Called on the service's thread immediately before delivery. The event is dropped if the
-    /// function returns false. An empty function drops no event.
+    std::uintptr_t onlyKey = 0; // the only listener to receive the event; 0: all
+    /// Called from the service's thread immediately before delivery. If the function returns false,
+    /// the event is dropped. If the function is empty, the event is always delivered.
     std::function<bool()> beforeDelivery;
-    /// Called after delivery. `taken` is whether a listener accepted the event. May be empty.
+    /// Called after delivery. `taken` is true if a listener accepted the event. May be empty.
     std::function<void(bool taken)> afterDelivery;
 };
 
 /**
- * One service of the SDK: its listeners, and a thread that calls them one after the other.
+ * A service of the SDK. It calls its listeners one after the other from its own thread.
  *
- * Any thread may call any function, even from inside a listener. No lock is held while a listener,
- * `beforeDelivery` or `afterDelivery` runs.
+ * Every function may be called from any thread, even from inside a listener. No lock is held while
+ * a listener, `beforeDelivery` or `afterDelivery` runs.
  */
 class EventService
 {
 public:
-    /// The function of a listener. Returns whether the listener accepted the event.
+    /// The type of a listener function. Returns true if the listener accepted the event.
     using Handler = std::function<bool(int number, void *data)>;
 
-    /// `threadName` has at most 15 characters and must stay valid until the program ends.
+    /// `threadName` has at most 15 characters and must remain valid until the program ends.
     explicit EventService(const char *threadName);
-    /// The destructor must not run on the service's own thread.
+    /// The destructor must not be called from the service's own thread.
     ~EventService();
     EventService(const EventService &) = delete;
     EventService &operator=(const EventService &) = delete;
@@ -49,19 +49,21 @@ public:
     /// key is already in use.
     void add(std::uintptr_t key, Handler handler);
     /// Removes a listener. When the function returns, the listener is not running and will not run
-    /// again. A call from inside the listener itself returns at once. Returns whether there was
-    /// such a listener.
+    /// again. If the listener itself makes the call, the function returns immediately. Returns true
+    /// if there was a listener with this key.
     bool remove(std::uintptr_t key);
-    /// Removes all listeners as remove() does, and then adds one unless `handler` is empty.
+    /// Removes all listeners in the same way as remove(). Then adds a listener unless `handler` is
+    /// empty.
     void replaceAll(std::uintptr_t key, Handler handler);
-    /// Returns whether there is no listener.
+    /// Returns true if there are no listeners.
     bool isEmpty() const;
 
-    /// Delivers the event on the service's thread.
+    /// Delivers the event from the service's thread.
     void post(Event event);
 
-    /// Drops the waiting events and calls no more listeners. Waits at most `limit` for a running
-    /// listener. Returns whether the thread has ended; the object may be destroyed only then.
+    /// Drops the pending events and does not call any more listeners. Waits at most `limit` for a
+    /// running listener. Returns true if the thread has ended. The object may be destroyed only if
+    /// the function has returned true.
     bool stop(std::chrono::milliseconds limit);
 
 private:
@@ -82,13 +84,14 @@ private:
     bool contains(std::uintptr_t key) const;
     void waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key);
 
-    mutable std::mutex m_mutex; // guards everything below but the queue; taken before its mutex
+    // Guards all members below except m_deliveries. Locked before the mutex of m_deliveries.
+    mutable std::mutex m_mutex;
     std::condition_variable m_callEnded;
     std::vector<Listener> m_listeners;
     std::uint64_t m_lastListenerId = 0;
     std::uint64_t m_lastEventId = 0;
-    std::uintptr_t m_runningKey = 0; // the key of the running listener, or 0 if none is running
-    std::uint64_t m_callCount = 0;   // the number of calls of listeners so far
+    std::uintptr_t m_runningKey = 0; // the key of the running listener; 0 if none is running
+    std::uint64_t m_callCount = 0;   // the number of listener calls so far
     bool m_stopping = false;
     TaskQueue m_deliveries; // declared last, so that its thread ends first
 };

@@ -11,16 +11,16 @@ namespace Tksv
 namespace
 {
 
-/// An object whose address dladdr() can look up; any object of this library would do.
+/// An object whose address is passed to dladdr(). Any object of this library would do.
 const char ADDRESS_IN_LIBRARY = 0;
 
-/// Returns the folder that this library was loaded from.
+/// Returns the folder from which this library was loaded.
 std::filesystem::path libraryFolder()
 {
     Dl_info info = {};
     if (dladdr(&ADDRESS_IN_LIBRARY, &info) == 0 || !info.dli_fname)
         return {};
-    std::error_code ignored; // a path that cannot be resolved is used as it is
+    std::error_code ignored; // a path that cannot be resolved is used unchanged
     const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);
     return path.empty() ? std::filesystem::path(info.dli_fname).parent_path() : path.parent_path();
 }

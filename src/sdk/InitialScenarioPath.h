@@ -6,8 +6,8 @@
 namespace Tksv
 {
 
-/// Returns the path of the initial scenario file. The path is $TKSV_SCENARIO if it is set,
-/// otherwise the path of the file that is installed with the library.
+/// Returns the path of the initial scenario file. This is $TKSV_SCENARIO if the variable is set,
+/// otherwise the file that is installed with the library.
 std::string initialScenarioPath();
 
 } // namespace Tksv

@@ -15,18 +15,18 @@ struct TKSV_SMSRecordData {
 namespace Tksv
 {
 
-/** The messages that clients hold. A handle is only looked up and never dereferenced. */
+/** The messages owned by clients. A handle is only looked up, never dereferenced. */
 class SmsRecords
 {
 public:
     TKSV_SMSRecord create(SmsMessage message);
     /// Returns no value if the handle does not identify a message.
     std::optional<SmsMessage> find(TKSV_SMSRecord record) const;
-    /// Deletes the message. Returns whether the handle identified a message.
+    /// Deletes the message. Returns true if the handle identified a message.
     bool release(TKSV_SMSRecord record);
 
 private:
-    mutable std::mutex m_mutex; // guards the map
+    mutable std::mutex m_mutex; // guards m_records
     std::map<TKSV_SMSRecord, std::unique_ptr<TKSV_SMSRecordData>> m_records;
 };
 

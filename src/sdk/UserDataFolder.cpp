@@ -28,7 +28,8 @@ std::string withSlash(std::string path)
     return path;
 }
 
-/// Returns the home directory from the user database. It is used if the process has no $HOME.
+/// Returns the user's home directory from the user database. This is the fallback if $HOME is not
+/// set.
 std::string homeOfUser()
 {
     std::vector<char> buffer(16384);
@@ -63,7 +64,7 @@ std::string userDataFolder()
     const std::string chosen = environment("TKSV_USER_DATA");
     if (!chosen.empty())
         return withSlash(chosen);
-    // The XDG Base Directory Specification requires that a relative path is ignored.
+    // The XDG Base Directory Specification requires relative paths to be ignored.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
         return withSlash(dataHome) + APP_FOLDER;

@@ -7,14 +7,14 @@ namespace Tksv
 {
 
 /**
- * Returns the folder for the user's data: $TKSV_USER_DATA, or else "ussd-dashboard" in
- * $XDG_DATA_HOME, or else "ussd-dashboard" in ~/.local/share. The path has the file system's
- * encoding and ends in "/". Returns an empty path if the user has no home directory.
+ * Returns the user's data folder: $TKSV_USER_DATA, or else "ussd-dashboard" in $XDG_DATA_HOME, or
+ * else "ussd-dashboard" in ~/.local/share. The path is in the file system's encoding and ends with
+ * "/". Returns an empty string if the user has no home directory.
  */
 std::string userDataFolder();
 
-/// Creates the folder and its missing parents, accessible to this user only (mode 0700). Returns
-/// whether the folder exists.
+/// Creates the folder and its missing parents with access for this user only (mode 0700). Returns
+/// true if the folder exists afterwards.
 bool createFolder(const std::string &path);
 
 } // namespace Tksv

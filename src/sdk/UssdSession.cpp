@@ -119,7 +119,7 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight || token != m_token)
-        return false; // the request was replaced, released, or lost with the device
+        return false; // the request was replaced, released or lost with the device
     m_failure = m_deliveredFailure = reply.failure;
     m_deliveryThread = std::this_thread::get_id();
     if (reply.type == UssdWaitsForAnswer)
@@ -129,9 +129,9 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
     return true;
 }
 
-/// Returns whether the text can be delivered now. A text that the network sent of its own accord
-/// must not look like the reply to a request, so it is held until the session is idle. By then its
-/// own session has ended, and the text cannot be answered any more.
+/// Returns true if the message can be delivered now. A network-initiated message must not look like
+/// the reply to a request, so it is held back until the session is idle. By then, the message's own
+/// session has ended, and the message cannot be answered any more.
 bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -153,8 +153,9 @@ void UssdSession::delivered(const UntakenText &text, bool taken)
     keepUnlessTaken(text, taken);
 }
 
-/// Keeps a text that no call-back accepted. An empty text is dropped unless the network waits for
-/// an answer, because the client must learn of the question even if its text is unknown.
+/// Keeps a message that no call-back accepted. An empty message is dropped unless the network waits
+/// for an answer. In that case, the client must be notified even though the text of the message is
+/// unknown.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
@@ -168,7 +169,7 @@ void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
     m_textUntaken();
 }
 
-/// Must be called with the lock held.
+/// Must be called with m_mutex locked.
 void UssdSession::becomeIdle()
 {
     m_state = State::Idle;
@@ -176,8 +177,8 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// Posts the held texts, which follow the reply whose call-back is about to start. Must be called
-/// with the lock held.
+/// Posts the held messages, which follow the reply whose call-back is about to start. Must be
+/// called with m_mutex locked.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});

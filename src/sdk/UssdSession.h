@@ -15,21 +15,21 @@
 namespace Tksv
 {
 
-/** A text that no call-back of the client accepted. */
+/** A message that no call-back of the client accepted. */
 struct UntakenText {
     std::chrono::system_clock::time_point receivedAt;
     UssdReply reply;
 };
 
 /**
- * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules that
- * tksv.h documents, for every backend.
+ * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules
+ * documented in tksv.h for every backend.
  *
  * A reply is treated as delivered once its call-back has started. Until then, a newer request or a
- * release cancels the reply. When a call-back makes a request, the session is already in the state
- * that the reply has set.
+ * release cancels the reply. A call-back that makes a request finds the session in the state that
+ * the reply has set.
  *
- * The lock is held while the backend is called, and never while a call-back runs.
+ * m_mutex is locked while the backend is called, but never while a call-back runs.
  */
 class UssdSession
 {
@@ -42,10 +42,10 @@ public:
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
-    /// Sends the text as an answer or in a new session, depending on the state of the session.
-    /// Returns a RequestStatus. A request that is not accepted changes nothing.
+    /// Sends the string as an answer or in a new session, depending on the session's state. Returns
+    /// a RequestStatus. A request that is not accepted has no effect.
     int request(Backend &backend, const std::string &text);
-    /// Ends the session and cancels the request in flight, which then receives no reply.
+    /// Ends the session. The request in flight is cancelled and receives no reply.
     void release(Backend &backend);
     /// Ends the request in flight, which then receives an empty reply. Returns false if there is no
     /// request in flight.
@@ -58,12 +58,12 @@ public:
 
     /// Delivers the backend's reply to a request. A late reply is dropped.
     void handleReply(RequestToken token, const UssdReply &reply);
-    /// Delivers a text that the network sent of its own accord.
+    /// Delivers a network-initiated message.
     void handleText(const UssdReply &text);
-    /// Ends the session and the request in flight after the device was lost.
+    /// Ends the session and the request in flight after the device has been lost.
     void deviceLost();
 
-    /// Returns the last texts that no call-back accepted, the oldest first, and clears the list.
+    /// Returns the most recent messages that no call-back accepted, oldest first. Clears the list.
     std::vector<UntakenText> takeUntakenTexts();
 
 private:
@@ -81,11 +81,11 @@ private:
 
     const Post m_post;
     const std::function<void()> m_textUntaken;
-    mutable std::mutex m_mutex; // guards everything below
+    mutable std::mutex m_mutex; // guards all members below
     State m_state = State::Idle;
     RequestToken m_token = 0; // identifies the request in flight
     RequestToken m_lastToken = 0;
-    std::vector<UssdReply> m_heldTexts; // texts that wait for the end of the session
+    std::vector<UssdReply> m_heldTexts; // messages held back until the session ends
     std::deque<UntakenText> m_untaken;
     Failure m_failure; // how the newest request failed
     // While the call-back of a reply runs, its thread sees the failure of this reply.

@@ -1,4 +1,4 @@
-/* The C functions. The arguments are checked and converted to plain values only in this file. */
+/* The C functions. Arguments are checked and converted to plain value types only in this file. */
 
 #include <memory>
 
@@ -15,8 +15,8 @@ namespace
 const long SUCCESS = 0;
 const long FAILURE = 1;
 
-/// Runs the function and turns an exception into a failure. No exception may cross the C interface,
-/// but memory or threads may be exhausted.
+/// Runs the function and converts an exception to a failure. Exceptions must not cross the C
+/// interface, but the function may throw if memory or threads are exhausted.
 template <typename Function>
 long guarded(Function function)
 {

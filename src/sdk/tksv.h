@@ -1,19 +1,20 @@
 /*
  * The device SDK: USSD, short messages and device events of a mobile-broadband device.
  *
- * The interface is plain C, for C89 and C++98 or newer. All text is UTF-16 in host byte order.
+ * The interface is plain C and can be used from C89, C++98 or newer. All strings are UTF-16 in host
+ * byte order.
  *
  * Results: every function returns 0 on success and another value on failure. A function also fails
  * if a required pointer is null, or if no memory or no thread is available.
  *
- * Threads: every function may be called on any thread, even from inside a call-back, and returns
- * without waiting for the network.
+ * Threads: every function may be called from any thread, even from inside a call-back. Functions do
+ * not wait for the network.
  *
- * Call-backs: the SDK calls them on its own threads and never from inside a call that the client
+ * Call-backs: the SDK calls them from its own threads, and never from inside a call that the client
  * makes. For each of the three services (device, USSD, SMS), only one call-back runs at a time.
- * When an unregister function has returned, the call-back is not running and will not run again. An
- * unregister call from inside the call-back itself returns at once. When the program exits, the SDK
- * waits at most one second for the running call-back of a service.
+ * When an unregister function has returned, the call-back is not running and will not run again. If
+ * the call-back itself calls the unregister function, that function returns immediately. When the
+ * program exits, the SDK waits at most one second for the running call-back of a service.
  */
 #ifndef TKSV_H
 #define TKSV_H
@@ -29,16 +30,16 @@ extern "C" {
 /* ---- call-backs and events --------------------------------------------------------------- */
 
 /**
- * The function that the SDK calls for each event. The meaning of `event` and `data` depends on the
- * service with which the call-back is registered. `data` belongs to the SDK and is valid during the
- * call only.
+ * The type of a function that the SDK calls for each event. The meaning of `event` and `data`
+ * depends on the service with which the call-back is registered. The SDK owns `data`, which is
+ * valid only during the call.
  *
- * Returns 1 if the client accepted the event, and 0 if the client had no use for it. The call-back
- * must not throw an exception.
+ * Returns 1 if the client accepted the event, otherwise 0. The call-back must not throw an
+ * exception.
  */
 typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 
-/* Device events. Each ends the USSD session and the request in flight. `data` is null. */
+/* Device events. Each event ends the USSD session and the request in flight. `data` is null. */
 #define TKSV_DEV_EVENT_GONE 6016  /* the device was removed */
 #define TKSV_DEV_EVENT_RESET 6601 /* the device was reset */
 
@@ -51,7 +52,7 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 #define TKSV_SMS_STATUS_CANNOT_SEND 8
 
 /**
- * The value of `*status` when TKSV_USSDSrv_Request fails because the device did not answer in time.
+ * The value that TKSV_USSDSrv_Request stores in `*status` if the device did not respond in time.
  */
 #define TKSV_STATUS_DEVICE_TIMEOUT 5
 
@@ -61,23 +62,25 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 #define TKSV_USSD_MAX_UNITS 184
 
 /**
- * The longest command that a client sends, in bytes: 91 UTF-16 code units fit. The SDK itself
- * accepts any length that the record can hold.
+ * The maximum length of a command that a client sends, in bytes. This is enough for 91 UTF-16 code
+ * units. The SDK itself accepts any length that fits into the record.
  */
 #define TKSV_USSD_MAX_COMMAND_BYTES 183
 
-/** A command to the network (3GPP TS 22.090). The record has 372 bytes on every platform. */
+/**
+ * A command to the network (3GPP TS 22.090). The record has a size of 372 bytes on every platform.
+ */
 typedef struct TKSV_USSDRequest {
     unsigned int length; /* length of the command in bytes: an even number from 2 to 368 */
     unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16 without a terminating zero */
 } TKSV_USSDRequest;
 
 /**
- * The network's reply to a command, or a text that the network sent of its own accord.
+ * The network's reply to a command, or a network-initiated message.
  *
  * `type` is the <m> of an unsolicited +CUSD result (3GPP TS 27.007, 7.15): 0 if no further action
- * is needed, 1 if the network waits for an answer. If the network refused a command, or the command
- * failed on the device, the text is empty and the type is not 0.
+ * is required, 1 if the network waits for an answer. If the network rejected a command, or the
+ * command failed on the device, the text is empty and the type is not 0.
  */
 typedef struct TKSV_USSDResponse {
     int type;
@@ -86,8 +89,8 @@ typedef struct TKSV_USSDResponse {
 } TKSV_USSDResponse;
 
 /**
- * The outcome of sending a short message. Both texts are copies of the texts that the message was
- * created with. They are zero-terminated UTF-16, and the record owns them.
+ * The outcome of sending a short message. Both strings are copies of the strings that were passed
+ * to TKSV_SMSSrv_CreateSMSRecord. They are zero-terminated UTF-16 strings owned by the record.
  */
 typedef struct TKSV_SMSSendResult {
     unsigned char reserved0[16];
@@ -111,29 +114,28 @@ typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
  * Sends a command to the network. The record is copied. An accepted request receives at most one
  * response. The response is treated as delivered once its call-back has started.
  *
- * If the network waits for an answer, the request is sent as this answer. A request in the form of
- * a code (it starts with * or # and ends with #) ends the session instead and starts a new session.
- * A request that is made while an earlier request is in flight replaces the earlier request, which
- * then receives no response.
+ * If the network waits for an answer, the request is sent as the answer. A request in the form of a
+ * code (it starts with * or # and ends with #) ends the session and starts a new session instead. A
+ * request that is made while an earlier request is in flight replaces the earlier request. The
+ * earlier request then receives no response.
  *
  * Fails and sets `*status` to a value other than 0 if there is no usable device, or if the record
  * is malformed. A record is malformed if its length is 0, odd or over 368, if its text is not
  * well-formed UTF-16, or if its text contains a zero code unit. `*status` is
- * TKSV_STATUS_DEVICE_TIMEOUT if the device did not answer in time. A request that fails changes
+ * TKSV_STATUS_DEVICE_TIMEOUT if the device did not respond in time. A request that fails affects
  * neither the session nor a request in flight. `status` must not be null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 
 /**
  * Ends the USSD session and the request in flight, which then receives no response. The call also
- * succeeds if there is no session. Sets `*status` to 0; `status` may be null.
+ * succeeds if no session is open. Sets `*status` to 0. `status` may be null.
  */
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
 /**
- * Registers a call-back for responses and for texts that the network sends of its own accord.
- * `event` is 0, and `data` points to a TKSV_USSDResponse. Registering a call-back twice has no
- * further effect.
+ * Registers a call-back for responses and for network-initiated messages. `event` is 0, and `data`
+ * points to a TKSV_USSDResponse. Registering the same call-back again has no effect.
  */
 TKSV_API long TKSV_USSDSrv_RegisterUSSDCallback(TKSV_EventCallback callback);
 
@@ -146,7 +148,7 @@ TKSV_API long TKSV_USSDSrv_UnRegisterUSSDCallback(TKSV_EventCallback callback);
 /* ---- device ------------------------------------------------------------------------------ */
 
 /**
- * Registers a call-back for device events. Registering a call-back twice has no further effect.
+ * Registers a call-back for device events. Registering the same call-back again has no effect.
  */
 TKSV_API long TKSV_DevSrv_RegisterDevInitEventCallback(TKSV_EventCallback callback);
 
@@ -165,7 +167,7 @@ TKSV_API long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback);
 TKSV_API long TKSV_SMSSrv_UnRegCallBack(TKSV_EventCallback callback);
 
 /**
- * Creates a message from two zero-terminated UTF-16 texts, which are copied. `number` must not be
+ * Creates a message from two zero-terminated UTF-16 strings, which are copied. `number` must not be
  * empty. On success, the caller owns `*record` and must release it with
  * TKSV_SMSSrv_ReleaseSMSRecord. On failure, `*record` is null.
  */
@@ -174,13 +176,13 @@ TKSV_API long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned
 
 /**
  * Sends the message. TKSV_SMS_EVENT_SEND_RESULT reports the outcome later. Fails if no message can
- * be sent at this time, or if `record` is not a message. No event follows a failure.
+ * be sent at this time, or if `record` is not a valid handle. After a failure, no event is sent.
  */
 TKSV_API long TKSV_SMSSrv_SendMsg(TKSV_SMSRecord record);
 
 /**
- * Releases a message. It may be called immediately after TKSV_SMSSrv_SendMsg, which copies the data
- * that it needs. Fails if `record` is not a message.
+ * Releases a message. May be called immediately after TKSV_SMSSrv_SendMsg, which copies the data
+ * that it needs. Fails if `record` is not a valid handle.
  */
 TKSV_API long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record);
 
@@ -188,8 +190,8 @@ TKSV_API long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record);
 
 /**
  * Returns the user's data folder as a new zero-terminated UTF-16 array. The caller owns the array
- * and frees it with delete[]. The path ends in "/", and the folder exists. On failure, `*directory`
- * is null.
+ * and frees it with delete[]. The path ends with "/", and the folder exists. On failure,
+ * `*directory` is null.
  */
 TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 
@@ -200,8 +202,8 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 /* ---- layout of the records --------------------------------------------------------------- */
 
 /*
- * The client and the library may be built by different compilers, so both builds check the layout.
- * Compilers older than C11 and C++11 have no static assertions and skip the checks.
+ * The client and the library may be built with different compilers, so the layout is checked in
+ * both builds. Compilers older than C11 and C++11 have no static assertions and skip the checks.
  */
 #if defined(__cplusplus) && __cplusplus >= 201103L
 #define TKSV_CHECK_LAYOUT(condition) static_assert(condition, "layout of a device SDK record")
@@ -212,7 +214,7 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 #ifdef TKSV_CHECK_LAYOUT
 /*
  * Selects the offset for 32-bit platforms, where a pointer has 4 bytes, or for 64-bit platforms,
- * where a pointer has 8 bytes and is aligned to 8.
+ * where a pointer has 8 bytes and is aligned to 8 bytes.
  */
 #define TKSV_BY_POINTER_SIZE(of4, of8) (sizeof(void *) == 4 ? (of4) : (of8))
 

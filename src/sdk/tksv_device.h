@@ -1,11 +1,11 @@
 /*
- * Functions and records for a dashboard that the services of tksv.h do not cover: the subscriber,
+ * Functions and records for a dashboard that the services of tksv.h do not provide: the subscriber,
  * the signal strength, and the choice between a simulated network and a modem. Plug-ins do not
  * include this header.
  *
- * The interface is plain C. All text is UTF-8 and terminated by a zero byte. Results, threads and
- * call-backs follow tksv.h: every function returns 0 on success and another value on failure, may
- * be called on any thread, and returns without waiting for the network.
+ * The interface is plain C. All strings are UTF-8 and terminated by a zero byte. Results, threads
+ * and call-backs follow the rules of tksv.h: every function returns 0 on success and another value
+ * on failure. Every function may be called from any thread and does not wait for the network.
  */
 #ifndef TKSV_DEVICE_H
 #define TKSV_DEVICE_H
@@ -21,7 +21,7 @@ extern "C" {
 /** The kind of device that the services of tksv.h use. */
 typedef enum TKSV_Backend {
     TKSV_BACKEND_SIMULATOR = 0,   /* a network simulated from a scenario file */
-    TKSV_BACKEND_MODEMMANAGER = 1 /* a modem, reached through ModemManager */
+    TKSV_BACKEND_MODEMMANAGER = 1 /* a modem that is controlled by ModemManager */
 } TKSV_Backend;
 
 /** The state of the device, from the least to the most usable. */
@@ -41,7 +41,7 @@ typedef enum TKSV_DeviceProblem {
     TKSV_PROBLEM_NO_SERVICE = 2,    /* ModemManager is not running */
     TKSV_PROBLEM_NOT_PERMITTED = 3, /* the system's policy (polkit) denies access to the device */
     TKSV_PROBLEM_CHOSEN_ABSENT = 4, /* there are modems, but not the chosen one */
-    TKSV_PROBLEM_WRONG_PIN = 5,     /* the last PIN that was sent is wrong */
+    TKSV_PROBLEM_WRONG_PIN = 5,     /* the most recently sent PIN is wrong */
     TKSV_PROBLEM_PUK_NEEDED = 6,    /* the SIM needs its PUK, or another lock blocks the modem */
     TKSV_PROBLEM_NO_USSD = 7,       /* the modem does not support USSD */
     TKSV_PROBLEM_MODEM_FAILED = 8,  /* ModemManager reports that the modem has failed */
@@ -51,8 +51,8 @@ typedef enum TKSV_DeviceProblem {
 } TKSV_DeviceProblem;
 
 /**
- * A snapshot of the device. An unknown text is empty. A text that is longer than its field is cut
- * off at the end of a whole character.
+ * A snapshot of the device. An unknown string is empty. A string that is too long for its field is
+ * truncated after a complete character.
  */
 typedef struct TKSV_DeviceInfo {
     TKSV_Backend backend;
@@ -60,43 +60,43 @@ typedef struct TKSV_DeviceInfo {
     TKSV_DeviceProblem problem;
     int signalPercent;         /* signal strength, 0 to 100; -1 if unknown */
     int canSendSMS;            /* 1 if short messages can be sent, otherwise 0 */
-    int pinRetries;            /* number of PIN attempts that are left; -1 if unknown */
+    int pinRetries;            /* number of remaining PIN attempts; -1 if unknown */
     char operatorName[128];    /* name of the network that the device is registered with */
     char imsi[16];             /* the subscriber's IMSI, at most 15 digits (3GPP TS 23.003) */
     char simOperatorCode[8];   /* MCC and MNC of the SIM's home network, 5 or 6 digits */
-    char simOperatorName[128]; /* service provider name (SPN) that is stored on the SIM */
-    char equipmentId[64];      /* identifier of the modem in use, see TKSV_Modem */
-    char source[1024];         /* path of the scenario file, or maker and model of the modem */
-    int isLooking;             /* 1 until ModemManager has first reported its modems, otherwise 0 */
-    int hasForeignSession;     /* 1 while a USSD session is open that another program opened */
-    int waitsForTurn;          /* 1 while a request waits for another program of the same user */
+    char simOperatorName[128]; /* service provider name (SPN) stored on the SIM */
+    char equipmentId[64];      /* identifier of the current modem; see TKSV_Modem */
+    char source[1024];     /* path of the scenario file, or manufacturer and model of the modem */
+    int isLooking;         /* 1 until ModemManager has first reported its modems, otherwise 0 */
+    int hasForeignSession; /* 1 while a USSD session is open that another program opened */
+    int waitsForTurn;      /* 1 while a request waits for another program of the same user */
 } TKSV_DeviceInfo;
 
 /** Copies a snapshot to `*info`. Fails if `info` is null. */
 TKSV_API long TKSV_Device_GetInfo(TKSV_DeviceInfo *info);
 
 /**
- * The function that the SDK calls on its own thread after a field of TKSV_DeviceInfo or the list of
- * modems has changed. `context` is the pointer that was registered with the call-back.
+ * The type of a function that the SDK calls from its own thread after a field of TKSV_DeviceInfo or
+ * the list of modems has changed. `context` is the pointer that was registered with the call-back.
  */
 typedef void (*TKSV_DeviceInfoCallback)(void *context);
 
 /**
  * Registers the call-back for changes. Only one such call-back can be registered. A second
- * registration replaces the first, and null removes it. When the function has returned, the earlier
- * call-back is not running and will not run again. The caller owns `context`.
+ * registration replaces the first, and null removes it. When the function has returned, the
+ * previous call-back is not running and will not run again. The caller owns `context`.
  */
 TKSV_API long TKSV_Device_SetInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
 
 /**
- * Switches to the simulated network of a scenario file, which replaces the device in use. A request
- * in flight ends with TKSV_DEV_EVENT_GONE, and the SMS call-backs receive the new status. If `path`
- * is null or empty, the file is the one that $TKSV_SCENARIO names, or else the file that is
- * installed with the library.
+ * Switches to the simulated network of a scenario file, which replaces the current device. A
+ * request in flight ends with TKSV_DEV_EVENT_GONE, and the SMS call-backs receive the new status.
+ * If `path` is null or empty, the path is the value of $TKSV_SCENARIO. If the variable is not set,
+ * the path is that of the file installed with the library.
  *
- * If the file cannot be used, the function fails and changes nothing. It then copies the complaints
- * to `message`, an array of `messageSize` bytes that may be null. Each complaint names the file,
- * the line and the expected value. On success, `message` is empty.
+ * If the file cannot be used, the function fails and has no effect. It then copies the error
+ * messages to `message`, an array of `messageSize` bytes that may be null. Each error message
+ * contains the file, the line and the expected value. On success, `message` is empty.
  */
 TKSV_API long TKSV_Device_UseScenario(const char *path, char *message, unsigned long messageSize);
 
@@ -106,15 +106,15 @@ TKSV_API long TKSV_Device_UseScenario(const char *path, char *message, unsigned 
  */
 typedef struct TKSV_Modem {
     char equipmentId[64]; /* never empty */
-    char name[256];       /* maker and model */
-    int isInUse;          /* 1 if the modem is the device in use, otherwise 0 */
+    char name[256];       /* manufacturer and model */
+    int isInUse;          /* 1 if the modem is the current device, otherwise 0 */
     TKSV_DeviceState state;
 } TKSV_Modem;
 
 /**
  * Copies at most `capacity` entries to the array `modems`, in the order in which the modems were
- * found. Sets `*count` to the number of modems that exist. `modems` may be null if `capacity` is 0.
- * The call-back of TKSV_Device_SetInfoCallback reports changes to the list.
+ * found. Sets `*count` to the total number of modems. `modems` may be null if `capacity` is 0. The
+ * call-back of TKSV_Device_SetInfoCallback reports changes to the list.
  */
 TKSV_API long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity,
                                     unsigned long *count);
@@ -136,8 +136,8 @@ TKSV_API long TKSV_Device_UseModem(const char *equipmentId);
 TKSV_API long TKSV_Device_UseAutomatic(void);
 
 /**
- * Sends the PIN, 4 to 8 digits, to unlock the SIM (ETSI TS 102 221). Fails if the text is not a
- * PIN, or if the SIM does not wait for a PIN. Otherwise the call-back of
+ * Sends the PIN, which has 4 to 8 digits, to unlock the SIM (ETSI TS 102 221). Fails if the string
+ * is not a PIN, or if the SIM does not wait for a PIN. Otherwise, the call-back of
  * TKSV_Device_SetInfoCallback reports the outcome as a change to `state` or `problem`.
  */
 TKSV_API long TKSV_Device_SendPin(const char *pin);
@@ -215,26 +215,26 @@ TKSV_API long TKSV_Device_EndForeignSession(void);
 
 /* ---- texts that the network sends of its own accord -------------------------------------- */
 
-/** A text from the network that no USSD call-back accepted. */
+/** A USSD message from the network that no USSD call-back accepted. */
 typedef struct TKSV_NetworkText {
     time_t receivedAt;  /* in UTC */
-    int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers the text, unless the request
-                           has the form of a code; otherwise 0 */
+    int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers this message, unless the
+                           request has the form of a code; otherwise 0 */
     const char *text;
 } TKSV_NetworkText;
 
 /**
- * The function that the SDK calls on its own thread for each text that no USSD call-back accepted.
- * The SDK owns `text`, which is valid during the call only. `context` is the pointer that was
- * registered with the call-back.
+ * The type of a function that the SDK calls from its own thread for each message that no USSD
+ * call-back accepted. The SDK owns `text`, which is valid only during the call. `context` is the
+ * pointer that was registered with the call-back.
  */
 typedef void (*TKSV_NetworkTextCallback)(void *context, const TKSV_NetworkText *text);
 
 /**
- * Registers the call-back for texts that no USSD call-back accepted. Each call-back of
- * TKSV_USSDSrv_RegisterUSSDCallback has returned 0 for such a text, or none was registered. The SDK
- * keeps the last 20 of these texts and delivers them first. Only one call-back can be registered.
- * It is replaced and removed in the same way as the call-back of TKSV_Device_SetInfoCallback.
+ * Registers the call-back for messages that no USSD call-back accepted: either no call-back was
+ * registered, or each call-back of TKSV_USSDSrv_RegisterUSSDCallback returned 0. The SDK keeps the
+ * 20 most recent such messages and delivers them first. Only one call-back can be registered. It is
+ * replaced and removed in the same way as the call-back of TKSV_Device_SetInfoCallback.
  */
 TKSV_API long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context);
 

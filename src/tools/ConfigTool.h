@@ -6,7 +6,7 @@
 namespace Tools
 {
 
-/// Runs the program ussd-config, which checks files and prints its findings. Returns a ToolExit.
+/// Runs the program ussd-config, which checks files and prints the findings. Returns a ToolExit.
 int runConfigTool(const QStringList &words);
 
 } // namespace Tools

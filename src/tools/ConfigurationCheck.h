@@ -11,7 +11,7 @@ namespace Tools
 /// report.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 
-/// Returns tables of the values that the plug-in's own reader finds in the configuration.
+/// Returns tables of the values that the plug-in's own parser reads from the configuration.
 QList<CheckTable> configurationTables(const QByteArray &xml);
 
 } // namespace Tools

@@ -8,10 +8,10 @@
 namespace Tools
 {
 
-/// Checks how the plug-in, or the simulated network, reads the content of a file. The kind of file
-/// is determined from the content. `file` is the name in the report.
+/// Checks how the plug-in or the simulated network reads the contents of a file. The kind of file
+/// is determined from the contents. `file` is the name in the report.
 CheckReport checkContent(const QByteArray &content, const QString &file);
-/// Reads a file and checks its content. If the file cannot be read, the report contains an error.
+/// Reads a file and checks its contents. If the file cannot be read, the report contains an error.
 CheckReport checkFile(const QString &path);
 
 } // namespace Tools

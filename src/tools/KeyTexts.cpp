@@ -12,7 +12,9 @@ namespace Tools
 namespace
 {
 
-/** The texts of a language. The translator does not copy `content`, so both are kept together. */
+/**
+ * The translations of a language. The translator does not copy `content`, so this struct owns both.
+ */
 struct Texts {
     QByteArray content;
     QTranslator translator;

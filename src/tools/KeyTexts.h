@@ -7,12 +7,12 @@
 namespace Tools
 {
 
-/** Looks up the plug-in's texts in the installed language files. */
+/** Looks up the plug-in's text keys in the installed language files. */
 namespace KeyTexts
 {
 
-/// Returns the installed languages that have no text for the key. Returns an empty list if the text
-/// is empty or not a key. A key consists of capital letters, digits and underscores.
+/// Returns the installed languages that have no translation for the key. Returns an empty list if
+/// the string is empty or not a key. A key consists of capital letters, digits and underscores.
 QStringList languagesWithout(const QString &key);
 
 } // namespace KeyTexts

@@ -6,7 +6,7 @@
 namespace Tools
 {
 
-/// Runs the program ussd-provision, which lists operators or writes the folder of one operator.
+/// Runs the program ussd-provision, which lists operators or writes the folder of an operator.
 /// Returns a ToolExit.
 int runProvisionTool(const QStringList &words);
 

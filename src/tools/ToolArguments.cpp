@@ -8,7 +8,7 @@ namespace Tools
 namespace
 {
 
-/** Parses the words one after another. */
+/** Parses the command-line arguments one after another. */
 class Parser
 {
 public:

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// A text of a language file.
+/// A translated text in a language file.
 struct CatalogueEntry {
     QString context;
     QString key;
@@ -17,15 +17,16 @@ struct CatalogueEntry {
     QString name() const { return context + QLatin1Char('/') + key; }
 };
 
-/// The content of a language file, and checks of it. Every check returns one line for each fault.
+/// The content of a language file, and checks of this content. Every check returns one line per
+/// fault.
 class Catalogue
 {
 public:
-    /// Reads Qt Linguist's format. A syntax error becomes the only line of complaints().
+    /// Reads the format of Qt Linguist. After a syntax error, complaints() returns only that error.
     static Catalogue fromXml(const QByteArray &xml);
 
     const QList<CatalogueEntry> &entries() const { return m_entries; }
-    QMap<QString, QString> texts() const; ///< returns the texts by name
+    QMap<QString, QString> texts() const; ///< the texts by key
     QString text(const QString &context, const QString &key) const;
     QStringList complaints() const { return m_complaints; }
 
@@ -36,10 +37,10 @@ public:
     /// Finds texts whose placeholders (%s, %1, %n ...) differ from those in `english`.
     QStringList otherPlaceholders(const Catalogue &english) const;
 
-    /// Finds texts that contain a code without left-to-right marks around it.
+    /// Finds texts that contain a code without left-to-right marks around the code.
     QStringList unmarkedCodes() const;
 
-    /// Finds keys of the plug-in whose mnemonics use the same letter.
+    /// Finds text keys of the plug-in whose mnemonics use the same letter.
     QStringList clashingMnemonics(const QStringList &keysOfAWindow) const;
 
 private:
@@ -49,10 +50,10 @@ private:
 
 namespace SourceKeys
 {
-/// Returns the names of the keys that C++ code uses.
+/// Returns the text keys that the C++ code uses.
 QStringList ofCode(const QString &code);
 
-/// Returns the names of the keys that a data file of the plug-in uses.
+/// Returns the text keys that the plug-in's data file uses.
 QStringList ofData(const QString &xml);
 } // namespace SourceKeys
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Checks the picture of the folders. docs/architecture.dot must have an arrow for every #include
+# Checks the diagram of the folders. docs/architecture.dot must contain an arrow for every #include
 # from one folder of src to another, and no other arrow. The arrows must not form a cycle.
-# docs/pictures/architecture.svg must be drawn from docs/architecture.dot.
+# docs/pictures/architecture.svg must have been generated from docs/architecture.dot.
 . "$(dirname "$0")/common.sh"
 
-# Prints a line "FROM TO" for each pair of folders below src. The public headers of the device SDK count
-# as a folder named "tksv.h".
+# Prints a line "FROM TO" for each pair of folders below src that an #include connects. The public
+# headers of the device SDK count as a folder named "tksv.h".
 included_folders() {
     local file name
     cpp_files src | while IFS= read -r file; do
@@ -31,7 +31,7 @@ included_folders() {
         }' | sort -u
 }
 
-# Prints the pairs of folders in the picture.
+# Prints the pairs of folders in the diagram.
 drawn_folders() { sed -nE 's/^ *"([^"]+)" -> "([^"]+)".*/\1 \2/p' docs/architecture.dot | sort -u; }
 
 headers=$(cpp_files src | grep '\.h$')

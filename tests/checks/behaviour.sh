@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks that each test named in the last column of the tables in docs/behaviour.md exists, and that
-# each fault of tests/mutants matches the code that it changes.
+# each fault in tests/mutants matches the code that it changes.
 . "$(dirname "$0")/common.sh"
 
 if [ -f docs/behaviour.md ]; then

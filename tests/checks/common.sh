@@ -1,5 +1,5 @@
-# Common code of the checks. A check prints a line for each fault, and its exit status is 1 when there
-# is a fault. The script's first argument is the root of the tree.
+# Common code of the checks. A check prints one line for each fault, and its exit status is 1 if
+# there is a fault. The first argument of each script is the root folder of the source tree.
 set -u
 export LC_ALL=C.UTF-8
 root=$(cd "$1" && pwd) || exit 2
@@ -17,7 +17,7 @@ finish() {
     exit 1
 }
 
-# Prints the C++ files below the given folders.
+# Prints the names of the C++ files below the given folders.
 cpp_files() {
     local folder
     for folder in "$@"; do
@@ -25,7 +25,7 @@ cpp_files() {
     done
 }
 
-# Prints a file without its comments and keeps its line numbers.
+# Prints a file without its comments, and preserves its line numbers.
 without_comments() {
     sed -e 's@//.*$@@' -e 's@/\*.*\*/@@g' -e '/\/\*/,/\*\//s@.*@@' "$1"
 }

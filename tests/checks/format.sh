@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Checks that every C++ file is formatted by clang-format.
+# Checks that clang-format would not change any C++ file.
 . "$(dirname "$0")/common.sh"
 
 command -v clang-format >/dev/null || complain "clang-format is not installed"
-# Prints the first difference of each file.
+# Prints the first difference in each file.
 while IFS= read -r hit; do
     complain "$hit"
 done < <(cpp_files src tests benchmarks examples | xargs -r -P 2 -n 20 clang-format --style=file \

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Checks which headers each folder may include.
+# Checks which headers the files of each folder may include.
 . "$(dirname "$0")/common.sh"
 
 standard='^[a-z_]+$'
 qt='^Q[A-Za-z0-9]+$'
 any='.'
 
-# check FILES ANGLE QUOTED...: ANGLE is a pattern for headers in <>. QUOTED are folders or single
-# files whose headers may be included in "".
+# check FILES ANGLE QUOTED...: ANGLE is a pattern for headers in <>. QUOTED are the folders or
+# single files whose headers may be included in "".
 check() {
     local files=$1 angle=$2 file name
     [ -n "$files" ] || return 0
@@ -38,8 +38,7 @@ allowed() {
     return 1
 }
 
-# lies_in_folder: the path is in the including file's own folder or in the given folder, and not
-# outside of it.
+# lies_in_folder NAME FILE FOLDER: succeeds if NAME, as included by FILE, is a file inside FOLDER.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
     for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do
@@ -52,8 +51,8 @@ lies_in_folder() {
 }
 
 core_own=$(cpp_files src/core | grep -v '^src/core/common/')
-# check_layers ANGLE PARENT BELOW FOLDER...: each folder of PARENT may include those named before it,
-# and BELOW. The files beside the folders may include all of them.
+# check_layers ANGLE PARENT BELOW FOLDER...: each folder of PARENT may include BELOW and the folders
+# listed before it. The files directly in PARENT may include all of these folders.
 check_layers() {
     local angle=$1 parent=$2 below=$3 folder
     shift 3

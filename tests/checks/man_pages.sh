@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks that every manual page is typeset without a warning.
+# Checks that every manual page is formatted without a warning.
 . "$(dirname "$0")/common.sh"
 
 while IFS= read -r page; do

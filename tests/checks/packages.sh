@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that packages.txt names each package once, in a section that a command installs, and that the
-# packages of [run] and [test] exist, that is, they are installed on this machine.
+# Checks that packages.txt lists each package once, in a section that a command installs. Also
+# checks that the packages of [run] and [test] are installed on this machine.
 . "$(dirname "$0")/common.sh"
 
 declare -A seen
@@ -21,7 +21,7 @@ while read -r package rest; do
     [ -z "$rest" ] || complain "packages.txt: more than one name in a line: $package $rest"
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
-    [ "$section" != '[check]' ] || continue # ./test does without them
+    [ "$section" != '[check]' ] || continue # ./test does not need these packages
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"
 done <packages.txt

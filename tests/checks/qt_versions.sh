@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Checks that the plug-in and its libraries can be built with Qt 4.6 to Qt 6 from one source: only one
-# header queries the version, and nothing is used that exists in one version only.
+# Checks that the plug-in and its libraries can be built with Qt 4.6 to Qt 6 from the same source:
+# only one header may query the Qt version, and nothing may be used that only some versions have.
 . "$(dirname "$0")/common.sh"
 
 shared="src/USSDUIPlugin src/formats src/files src/core examples/host"
 
-# Names that Qt 4.6 lacks or that are deprecated in Qt 5.15.
+# Names that do not exist in Qt 4.6 or are deprecated in Qt 5.15.
 missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'
 missing_in_qt4+='|QJson[A-Za-z]+|QRegularExpression[A-Za-z]*|QElapsedTimer|QDeadlineTimer'
 missing_in_qt4+='|QTemporaryDir|QLoggingCategory|qInstallMessageHandler|QStringView|QScopeGuard'
@@ -16,21 +16,29 @@ missing_in_qt4+='|toHtmlEscaped|setSectionResizeMode|horizontalAdvance|chopped|a
 missing_in_qt4+='|QMutexLocker<|setTimerType'
 deprecated='qSort|qStableSort|SkipEmptyParts|toSet|qInstallMsgHandler'
 
-# Connections and calls by function pointer instead of by name, even if they span several lines.
+# Connections and calls that use a function pointer instead of a name, even if they span several
+# lines.
 by_function='(?s)\bconnect\((?:[^;]*?),\s*&\w+::\w+'
 with_lambda='(?s)\b(?:connect|singleShot|invokeMethod)\((?:[^;]*?)\[[&=\w, ]*\]\s*(?:\(|\{)'
+
+# The calls that give a document to a parser. Only ForwardXml::start() may call them, because it refuses
+# documents that declare entities, which Qt 4 would expand without a limit.
+parser_input='QXmlStreamReader [A-Za-z_]+[({]|\.(setDevice|addData)\('
 
 while IFS= read -r hit; do
     complain "$hit"
 done < <(cpp_files src | grep -v '^src/compat/QtCompat\.h$' | xargs -r grep -nH QT_VERSION)
 
-# Word splitting of the list of folders is intended.
+# Word splitting of the folder list is intended.
 # shellcheck disable=SC2086
 while IFS= read -r file; do
     code=$(without_comments "$file")
     while IFS= read -r hit; do
         complain "$file:$hit"
     done < <(printf '%s\n' "$code" | grep -nwE "$missing_in_qt4|$deprecated")
+    while IFS= read -r hit; do
+        [ "$file" = src/formats/ForwardXml.cpp ] || complain "$file: not by ForwardXml::start(): $hit"
+    done < <(printf '%s\n' "$code" | grep -nE "$parser_input")
     for pattern in "$by_function" "$with_lambda"; do
         hit=$(printf '%s\n' "$code" | grep -Pzo "$pattern" | tr '\0\n' '  ')
         [ -z "$hit" ] || complain "$file: by function: $hit"

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Tests that each check finds its faults, in small trees with one fault each.
+# Tests that each check finds the faults that it looks for, in small source trees with one fault
+# each.
 set -u
 checks=$(cd "$(dirname "$0")" && pwd)
 source_tree=$(cd "$1" && pwd) || exit 2
@@ -32,7 +33,7 @@ fresh_tree() {
     write src/dashboard/Program.h </dev/null
 }
 
-# passes CHECK: the check finds no fault.
+# passes CHECK: requires that the check finds no fault.
 passes() {
     local said
     said=$(bash "$checks/$1.sh" "$tree" 2>&1) && return
@@ -40,8 +41,8 @@ passes() {
     wrong=1
 }
 
-# finds CHECK PATTERN FILE: with the standard input as the content of FILE, the check prints a line
-# that matches PATTERN.
+# finds CHECK PATTERN FILE: writes the standard input to FILE and requires that the check prints a
+# line that matches PATTERN.
 finds() {
     local said
     fresh_tree

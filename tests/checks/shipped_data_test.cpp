@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-/// Tests that the shipped data files are consistent with each other and with the shipped network.
+/// Tests that the shipped data files are consistent with each other and with the default scenario.
 class ShippedDataTest : public UssdTest
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ namespace
 {
 const QString ROOT = QString::fromUtf8(USSD_SOURCE_DIR);
 
-/// An element of a document with the parts that these tests check.
+/// An XML element, reduced to the parts that these tests check.
 struct Element {
     QString name;
     QXmlStreamAttributes attributes;

@@ -4,7 +4,7 @@
 #include <QDirIterator>
 #include <QFile>
 
-/// Tests the language files, and tests the checks themselves.
+/// Tests the language files, and the checks that are applied to them.
 class TranslationsTest : public UssdTest
 {
     Q_OBJECT
@@ -90,7 +90,7 @@ QStringList keys(const char *blankSeparated)
     return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
 }
 
-/// Returns the keys of the push buttons of each window.
+/// Returns the text keys of the push buttons of each window.
 QList<QStringList> windows()
 {
     return QList<QStringList>()
@@ -214,8 +214,7 @@ void TranslationsTest::mnemonicsOfAWindowDiffer()
         NO_COMPLAINTS(current().clashingMnemonics(window));
 }
 
-// ---- the checks themselves
-// -----------------------------------------------------------------------
+// ---- the checks themselves ---------------------------------------------------------------------
 
 void TranslationsTest::damagedFileIsFound()
 {

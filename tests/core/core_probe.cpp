@@ -1,6 +1,6 @@
 /*
  * Prints the folders that the loaded core library returns, and a text for each argument of the form
- * LANGUAGE:KEY. It serves tests that copy the library to another place.
+ * LANGUAGE:KEY. Tests that copy the library to another place run this program.
  */
 #include <QCoreApplication>
 #include <QTextStream>

@@ -19,7 +19,7 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
-/** Looks up texts on a thread of its own and counts those that belong to no language. */
+/** Looks up texts in a separate thread and counts texts that do not belong to any language. */
 class Reader
 {
 public:
@@ -212,14 +212,15 @@ void LanguagesTest::everyDamageIsSeen_data()
     }
 }
 
-/// Without the checksum, about one in a hundred damaged files crashed the program at a look-up.
+/// Tests that every damage is detected. Without the checksum, about one in a hundred damaged files
+/// crashed the program when a text was looked up.
 void LanguagesTest::everyDamageIsSeen()
 {
     QFETCH(QByteArray, content);
     QVERIFY(!HostCore::Languages::isWhole(content));
 }
 
-/// The checksum is in a section that QTranslator skips.
+/// Tests that QTranslator can read the files. It skips the section that contains the checksum.
 void LanguagesTest::anyTranslatorReadsTheFiles()
 {
     for (const QString &code : HostCore::Languages::codes()) {

@@ -19,7 +19,7 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    /// Sets the status of the device and waits until the dashboard has received it.
+    /// Sets the device status and waits until the dashboard has received it.
     void tell(const TKSV_DeviceInfo &info);
     void tellModems(const std::vector<TKSV_Modem> &modems);
     static TKSV_DeviceInfo modemInfo(int state, int problem = 0, int pinRetries = -1);
@@ -35,7 +35,7 @@ protected:
         return m_window->findChild<T *>(QLatin1String(name));
     }
     QAction *networkAction(const QString &text) const;
-    /// Returns the text of a notice; empty while the notice is hidden.
+    /// Returns the text of the notice, or an empty string if the notice is hidden.
     QString notice(const char *name) const;
 
 private:

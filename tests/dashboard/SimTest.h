@@ -10,8 +10,10 @@
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
-/** The base class of tests that run the dashboard with a plug-in library folder of its own and
- * change the SIM. */
+/**
+ * The base class of tests that change the SIM. They run the dashboard with their own plug-in
+ * library folder.
+ */
 class SimTest : public UssdTest
 {
     Q_OBJECT
@@ -21,20 +23,20 @@ protected:
 
     void makeLibrary();
     void closeDashboard();
-    /// Changes the plug-in's configuration. Must be called before openDashboard().
+    /// Replaces text in the plug-in's configuration. Must be called before openDashboard().
     bool configure(const char *anchor, const char *before, const char *after);
     void openDashboard();
-    /// Selects a simulated network with this IMSI, these keys of [Network] and these codes.
+    /// Selects a simulated network with this IMSI, these [Network] keys and these codes.
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 
     Dashboard::MainWindow &window() { return *m_window; }
     Dashboard::LoadedPlugin &plugin() { return *m_plugin; }
     Dashboard::GeneralWindow page() const { return Dashboard::GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
-    /// Returns the windows whose buttons are visible, such as "general prepaid".
+    /// Returns the names of the windows whose buttons are visible, for example "general prepaid".
     QString offered() const;
     QString paidType() const;
-    /// Returns the open frame of the plug-in, or null.
+    /// Returns the plug-in's open frame, or null if there is none.
     static QWidget *frame();
 
     QScopedPointer<Dashboard::PrivatePluginFolder> m_library;

@@ -5,7 +5,7 @@
 
 using namespace Dashboard;
 
-/** Tests the menu of devices and the texts about their problems. */
+/** Tests the device menu and the messages about device problems. */
 class DeviceChoiceTest : public DeviceTest
 {
     Q_OBJECT
@@ -106,7 +106,7 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
 {
     QTest::addColumn<int>("problem");
     QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("word"); // is part of the text in every language
+    QTest::addColumn<QString>("word"); // a part of the message in every language
     const auto row = [](int problem, int state, const char *word) {
         QTest::newRow(qPrintable(QString::number(problem)))
             << problem << state << QString::fromLatin1(word);

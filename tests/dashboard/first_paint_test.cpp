@@ -10,7 +10,7 @@ using namespace Dashboard;
 namespace
 {
 
-/// Counts its paint events.
+/// Counts the paint events that it receives.
 class Window : public QWidget
 {
 public:

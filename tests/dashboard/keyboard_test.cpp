@@ -16,8 +16,9 @@ using namespace Dashboard;
 namespace
 {
 
-/** A window with the plug-in's object names, which the keyboard helper takes for the general
- * window. */
+/**
+ * A window with the plug-in's object names. The keyboard helper mistakes it for the general window.
+ */
 class LookAlike : public QWidget
 {
 public:
@@ -136,7 +137,7 @@ void KeyboardTest::theFocusComesBackWithTheAnswer()
     QTRY_VERIFY(window.edit->hasFocus());
 }
 
-/// Talks to the network by key events only, which are sent to the widget with the focus.
+/// Exchanges commands and replies with the network only by sending key events to the focus widget.
 void KeyboardTest::talk(const GeneralWindow &general)
 {
     QVERIFY(general.isComplete());

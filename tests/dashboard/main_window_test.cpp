@@ -129,7 +129,7 @@ void MainWindowTest::thePageFollowsTheWindowsSize()
         m_window->resize(size);
         QTRY_COMPARE(dialog->geometry(), m_window->page()->rect());
     }
-    m_window->resize(300, 200); // smaller than the page needs, so the area scrolls
+    m_window->resize(300, 200); // smaller than the page, so the area scrolls
     QTRY_VERIFY(dialog->height() >= dialog->minimumSizeHint().height());
 }
 
@@ -214,7 +214,7 @@ void MainWindowTest::aLanguageWithoutItsFileIsSaid()
 {
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
-    german->setData(QLatin1String("xx")); // as if the language file had been deleted meanwhile
+    german->setData(QLatin1String("xx")); // as if the language file had been deleted
     german->trigger();
     const NoticeBar *problems =
         m_window->findChild<NoticeBar *>(QLatin1String("Dashboard_Problems"));

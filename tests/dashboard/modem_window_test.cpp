@@ -5,9 +5,9 @@
 
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
-#include "InstallPaths.h"
 #include "IUSSD.h"
 #include "plugin/GeneralWindow.h"
+#include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "sim/PaidTypeFinder.h"
 #include "window/DeviceMenu.h"
@@ -113,7 +113,7 @@ void ModemWindowTest::useIntegratorsFolder()
 {
     DeviceTest::tearDown();
     qputenv("USSD_PLUGIN_LIBRARY_PATH",
-            QFile::encodeName(HostCore::InstallPaths::installedPluginLibrary()));
+            QFile::encodeName(HostCore::PluginFolderChoice::installed()));
     setUp();
 }
 

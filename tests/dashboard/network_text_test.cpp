@@ -10,7 +10,7 @@
 
 using namespace Dashboard;
 
-/** Tests how the dashboard shows messages that the network sends on its own initiative. */
+/** Tests how the dashboard shows messages that the network initiates. */
 class NetworkTextTest : public DeviceTest
 {
     Q_OBJECT
@@ -158,7 +158,7 @@ void NetworkTextTest::aMenuWithoutItsTextIsSaidInWords()
     QVERIFY(isAsking());
 }
 
-// The question whether the SIM is prepaid would close the menu.
+// The request that detects the paid type would close the menu.
 void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
 {
     loadPlugin();
@@ -168,7 +168,7 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
     std::strcpy(info.imsi, "001010000000007");
     QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
     tell(info);
-    QVERIFY(settled.wait(10000)); // without a menu, the question would be sent now
+    QVERIFY(settled.wait(10000)); // without a menu, the request would be sent now
     drainEvents();
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());

@@ -1,6 +1,6 @@
 /*
- * Opens the dashboard as its main function does and closes it when the plug-in's page is visible.
- * The exit code is 0 if the dashboard ended normally and saved the geometry of its window.
+ * Opens the dashboard in the same way as its main function, and closes it when the plug-in's page
+ * is visible. The exit code is 0 if the dashboard ended normally and saved its window geometry.
  */
 #include <QApplication>
 #include <QMainWindow>
@@ -21,7 +21,7 @@ namespace
 {
 
 const int INTERVAL = 20; // ms
-const int LIMIT = 500;   // intervals
+const int LIMIT = 500;   // number of intervals
 bool pageSeen = false;
 bool frameSeen = false;
 
@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    // Closes the window while a frame is open and a command is pending, so that both must be ended.
+    // Closes the main window while a frame is open and a command is pending. Both must end with it.
     void look()
     {
         for (QWidget *widget : QApplication::topLevelWidgets()) {

@@ -6,7 +6,7 @@
 #include <QTimer>
 
 #include "device/DashboardSettings.h"
-#include "InstallPaths.h"
+#include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "SimTest.h"
 #include "window/DeviceMenu.h"
@@ -34,7 +34,7 @@ const char SILENT[] = "HomeNetwork=99903";
 
 } // namespace
 
-/** Tests how codes of a SIM's operator are proposed, taken and loaded by the plug-in. */
+/** Tests how the codes of the SIM's operator are offered, accepted and loaded by the plug-in. */
 class OperatorCodesTest : public SimTest
 {
     Q_OBJECT
@@ -68,7 +68,7 @@ private:
     QString changedFile();
     void answerBox(bool yes);
 
-    QString m_asked; // the text of the message box that was answered
+    QString m_asked; // the text of the message box that was answered last
 };
 
 void OperatorCodesTest::setUp()
@@ -117,7 +117,7 @@ void OperatorCodesTest::choose(const QString &name)
 
 QString OperatorCodesTest::configuration() const
 {
-    return HostCore::InstallPaths::pluginLibrary() +
+    return HostCore::PluginFolderChoice::current() +
            QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml");
 }
 
@@ -270,8 +270,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
     window().deviceMenu()->actions().last()->trigger();
     choose(QLatin1String("The codes of the demonstration"));
     QCOMPARE(inUse(), QString());
-    QCOMPARE(HostCore::InstallPaths::pluginLibrary(),
-             HostCore::InstallPaths::installedPluginLibrary());
+    QCOMPARE(HostCore::PluginFolderChoice::current(), HostCore::PluginFolderChoice::installed());
     QTRY_VERIFY(!offered().contains(QLatin1String("prepaid")));
 }
 

@@ -29,7 +29,10 @@ QStringList calls()
 
 } // namespace
 
-/** Tests that each failure is reported with its own step, message, file and reason. */
+/**
+ * Tests that each failure to load the plug-in is reported with its own step, message, file and
+ * reason.
+ */
 class PluginLoadingTest : public UssdTest
 {
     Q_OBJECT

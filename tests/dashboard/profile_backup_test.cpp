@@ -37,7 +37,7 @@ QMessageBox *openBox()
 
 } // namespace
 
-/** Tests when the backup copy of the user's own codes is made, and when and how it is restored. */
+/** Tests when the user's own codes are backed up, and when and how the backup is restored. */
 class ProfileBackupTest : public SimTest
 {
     Q_OBJECT
@@ -311,8 +311,8 @@ void ProfileBackupTest::theUsersFoldersAreUsed()
     QCOMPARE(backup.copy(), folder() + QLatin1String("/ussd-dashboard/last-good/ussdprofile.xml"));
 }
 
-/// Presses the button whose text begins with `buttonStart` in the next message box; null presses
-/// Escape.
+/// Answers the next message box with the button whose text begins with `buttonStart`, or with
+/// Escape if `buttonStart` is null.
 void ProfileBackupTest::answer(const char *buttonStart)
 {
     QTimer::singleShot(0, this, [this, buttonStart] {
@@ -406,7 +406,7 @@ void ProfileBackupTest::aRestoreThatFailsIsSaid()
     QVERIFY2(boxTexts.at(1).contains(m_copy), qPrintable(boxTexts.at(1)));
 }
 
-/// Enters a code in the first free row of the editor and saves.
+/// Enters a code in the first empty row of the editor and saves.
 void ProfileBackupTest::typeCode()
 {
     QTableWidget *table = openTable();

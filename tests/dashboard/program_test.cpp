@@ -13,7 +13,7 @@ namespace
 const QFile::Permissions OWNER =
     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
 
-/** Takes a tour once for all tests that check its result. */
+/** A tour that runs once, for all tests that check its result. */
 class TakenTour
 {
 public:
@@ -60,7 +60,7 @@ int differentPixels(const QImage &a, const QImage &b)
 
 } // namespace
 
-/** Tests the program as a user starts it, on a machine without a display. */
+/** Tests the program as a user would start it, on a machine without a display. */
 class ProgramTest : public UssdTest
 {
     Q_OBJECT
@@ -249,7 +249,8 @@ void ProgramTest::theDeviceInUseIsToldWhenAskedFor()
     QVERIFY(!run("--send *100#").error.contains(source));
 }
 
-// The tests run without a message bus, so no modem can be found.
+// Tests a modem that is not available. The tests run without a message bus, so no modem can be
+// found.
 void ProgramTest::aModemThatIsNotThereIsSaid()
 {
     const Run result = run("--modem 353612345678901 --verbose --send *100#");
@@ -276,7 +277,7 @@ void ProgramTest::noControlCharacterReachesTheTerminal()
     QCOMPARE(result.code, 0);
     QCOMPARE(result.out, QString::fromUtf8("a\xef\xbf\xbd[31mb\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"
                                            "31m\xef\xbf\xbdgfed\xef\xbf\xbd\tz\n"));
-    QVERIFY(result.error.contains(QLatin1String("[31mb"))); // the log contains the reply too
+    QVERIFY(result.error.contains(QLatin1String("[31mb"))); // the log also contains the reply
     QVERIFY(!result.error.contains(QChar(0x1b)));
     QVERIFY(!result.error.contains(QChar(0x9b)));
 }

@@ -9,7 +9,7 @@ using namespace Dashboard;
 namespace
 {
 
-/** A USSD service that supports a single SIM card. */
+/** A USSD service that supports only one SIM card. */
 class Service : public IUSSD
 {
 public:

@@ -1,6 +1,6 @@
 /*
- * A plug-in with the defect that its macros select. It records each call of the host in the
- * property "calls" of the application.
+ * A plug-in with the defect that its macros select. It records each call by the host in the "calls"
+ * property of the application.
  */
 #include <QCoreApplication>
 #include <QStringList>

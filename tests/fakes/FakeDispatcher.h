@@ -9,7 +9,8 @@
 #include <mutex>
 #include <set>
 
-/// A service: its call-backs, and a thread that runs jobs in the order of their times.
+/// A service of the SDK: its call-backs, and a thread that runs jobs in the order of their due
+/// times.
 class FakeDispatcher
 {
 public:
@@ -17,7 +18,7 @@ public:
     using Job = std::function<void()>;
     using Report = std::function<void(int event, unsigned char result)>;
 
-    /// `report` is called after each call-back has returned, on the thread of the call-back.
+    /// `report` is called after each call-back has returned, from the thread of the call-back.
     explicit FakeDispatcher(Report report);
     ~FakeDispatcher();
 
@@ -25,16 +26,16 @@ public:
     void remove(TKSV_EventCallback callback, bool wait);
     std::size_t size() const;
 
-    /// Runs `job` on the service's thread. eraseWaiting() removes erasable jobs that have not
-    /// started.
+    /// Runs `job` on the service's thread after the delay. eraseWaiting() removes erasable jobs
+    /// that have not started yet.
     void post(Job job, std::chrono::milliseconds delay = std::chrono::milliseconds(0),
               bool erasable = false);
     void eraseWaiting();
 
-    /// Runs `job` at once on a new thread.
+    /// Runs `job` immediately on a new thread.
     void runAside(Job job);
 
-    /// Calls the call-backs. Must be called in jobs only.
+    /// Calls all registered call-backs. Must be called only from jobs.
     void deliver(int event, void *data);
 
     bool waitIdle(Clock::time_point until) const;
@@ -63,7 +64,7 @@ private:
     std::multimap<Clock::time_point, Waiting> m_waiting;
     std::multiset<std::pair<TKSV_EventCallback, std::thread::id>> m_running;
     std::vector<std::thread> m_threads;
-    std::size_t m_busy = 0; // running jobs
+    std::size_t m_busy = 0; // number of running jobs
     bool m_started = false;
     bool m_stopping = false;
 };

@@ -6,11 +6,11 @@
 #include <cstdint>
 
 /*
- * Records in the memory layout of the SDK. Each record is overwritten when it is deleted, so that a
- * client that reads it too late does not get the right text by chance.
+ * Records in the memory layout of the SDK. Each record is overwritten when it is deleted. A client
+ * that reads it too late therefore does not get the correct text by chance.
  */
 
-/// A zero-terminated copy of a text in the SDK's character units.
+/// A zero-terminated copy of a string in the SDK's character units.
 class FakeText
 {
 public:
@@ -37,10 +37,10 @@ private:
     std::vector<std::uint32_t> m_words; // 32-bit words, so that the record is aligned
 };
 
-/// Returns the text of a zero-terminated array; empty for a null pointer.
+/// Returns the text of a zero-terminated array, or an empty string for a null pointer.
 std::u16string textOf(const unsigned short *units);
 
-/// Returns the text of a request, limited by its length and by the size of its text area.
+/// Returns the text of a request, limited by its length and by the size of its text array.
 std::u16string textOf(const TKSV_USSDRequest &request);
 
 std::vector<unsigned char> bytesOf(const TKSV_USSDRequest &request);

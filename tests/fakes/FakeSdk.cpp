@@ -13,7 +13,7 @@ namespace
 const std::chrono::milliseconds STARTING_LINE_PATIENCE(1000);
 const std::chrono::milliseconds BEFORE_RETURN_PATIENCE(500);
 
-// Releases several threads at the same moment.
+// Makes several threads continue at the same moment.
 class StartingLine
 {
 public:
@@ -24,7 +24,7 @@ public:
         std::unique_lock<std::mutex> lock(m_mutex);
         if (--m_missing == 0)
             m_complete.notify_all();
-        // A thread may be missing because a service that is being stopped has refused its job.
+        // A thread may be missing if a service that is being stopped has refused its job.
         m_complete.wait_for(lock, STARTING_LINE_PATIENCE, [this] { return m_missing <= 0; });
     }
 
@@ -91,7 +91,7 @@ std::size_t FakeSdk::enter(FakeCall call)
 long FakeSdk::leave(std::size_t ticket, long result, int status)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (ticket < m_calls.size()) { // false after a reset
+    if (ticket < m_calls.size()) { // false if the SDK has been reset during the call
         m_calls[ticket].returned = true;
         m_calls[ticket].result = result;
         m_calls[ticket].status = status;

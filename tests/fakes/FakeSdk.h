@@ -7,7 +7,7 @@
 #include <memory>
 #include <set>
 
-/// The state of the library between calls.
+/// The state that the fake library keeps between calls.
 class FakeSdk
 {
 public:
@@ -17,7 +17,7 @@ public:
     bool waitIdle(std::chrono::milliseconds limit);
 
     // ---- calls and deliveries
-    std::size_t enter(FakeCall call); ///< returns a ticket for leave()
+    std::size_t enter(FakeCall call); ///< returns the number to pass to leave()
     long leave(std::size_t ticket, long result, int status = 0);
     std::vector<FakeCall> calls() const;
     std::vector<FakeDelivery> deliveries() const;
@@ -40,7 +40,7 @@ public:
     void setScript(const std::vector<FakeAnswer> &answers);
     FakeAnswer takeAnswer();
     void block(std::size_t ticket, std::chrono::milliseconds limit);
-    void unblock(); ///< ends the blocking of pending calls
+    void unblock(); ///< makes all blocked calls return
     void answer(const FakeAnswer &answer);
     void respond(const FakeAnswer &answer);
 
@@ -99,14 +99,14 @@ private:
     void respondFromThreads(const FakeAnswer &answer);
     void tellInfo();
 
-    mutable std::mutex m_mutex; // guards the members below, except the services with own mutexes
+    mutable std::mutex m_mutex; // guards the members below, except services with their own mutexes
     std::condition_variable m_changed;
     Settings m_settings;
     std::vector<FakeCall> m_calls;
     std::vector<FakeDelivery> m_deliveries;
     std::set<TKSV_SMSRecord> m_records;
-    std::size_t m_unblocked = 0; // calls with a lower ticket no longer block
-    std::mutex m_infoMutex;      // held while the info call-back runs
+    std::size_t m_unblocked = 0; // calls with a lower number no longer block
+    std::mutex m_infoMutex;      // locked while the info call-back runs
     TKSV_DeviceInfoCallback m_infoCallback = nullptr;
     void *m_infoContext = nullptr;
     TKSV_NetworkTextCallback m_textCallback = nullptr;

@@ -49,7 +49,7 @@ bool fakeSdkWaitIdle(std::chrono::milliseconds limit)
     return sdk().waitIdle(limit);
 }
 
-// ---- what was asked ----------------------------------------------------------------------------
+// ---- recorded calls ----------------------------------------------------------------------------
 
 Calls fakeSdkCalls()
 {
@@ -110,7 +110,7 @@ std::size_t fakeSdkRegistered(FakeService service)
     return sdk().dispatcher(service).size();
 }
 
-// ---- what a function returns -------------------------------------------------------------------
+// ---- results of functions ----------------------------------------------------------------------
 
 void fakeSdkSetResult(const std::string &function, long result)
 {

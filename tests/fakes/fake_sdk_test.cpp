@@ -119,7 +119,7 @@ FakeAnswer times(int count, const std::u16string &text)
     return answer;
 }
 
-/// Keeps the call-back from returning until this object is deleted.
+/// Prevents the call-back from returning until this object is deleted.
 class HeldCallback
 {
 public:

@@ -1,5 +1,5 @@
-// Implements the functions of tksv.h and tksv_device.h. Each records its call and behaves as the
-// test has set.
+// Implements the functions of tksv.h and tksv_device.h. Each function records its call and behaves
+// as the test has specified.
 #include "FakeSdk.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 /*
- * Simulates the user of a dashboard on a faulty machine. It is linked into faulty_dashboard, which
- * is the dashboard program otherwise. The user reads the window, answers message boxes and closes
- * the window. Each observation is a line on standard output: "box: TEXT", "notice: TEXT" or "codes:
- * LIST".
+ * Simulates the user of a dashboard on a faulty machine. The driver is linked into
+ * faulty_dashboard, which is otherwise identical to the dashboard program. The user reads the
+ * window, answers message boxes and closes the window. Each observation is printed as a line on
+ * standard output: "box: TEXT", "notice: TEXT" or "codes: LIST".
  *
  *   USSD_USER_SAVES=CODE    adds the code in the editor and saves
- *   USSD_USER_SAYS=TEXT     presses the button of a message box whose text begins with TEXT, or
- * else the first button
+ *   USSD_USER_SAYS=TEXT     presses the message-box button whose text begins with TEXT, or the
+ *                           first button if there is no such button
  */
 #include <QApplication>
 #include <QComboBox>
@@ -45,7 +45,7 @@ MainWindow *mainWindow()
     return nullptr;
 }
 
-/// Returns the text of the box. A long text is shown in a view instead of a label.
+/// Returns the text of the message box. A long text is in a text view instead of a label.
 QString textOf(const QMessageBox *box)
 {
     const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
@@ -62,7 +62,7 @@ void press(QMessageBox *box)
     box->buttons().first()->click();
 }
 
-/// Adds a code in the first empty row. Empty rows are at the end of the editor's table.
+/// Adds a code in the first empty row. All empty rows are at the end of the editor's table.
 void addCode(QTableWidget *table, const QString &code)
 {
     int row = 0;
@@ -83,8 +83,8 @@ public:
     }
 
 private:
-    /// Starts a new timer for each look, because a timer whose slot opens a dialog does not fire
-    /// again while the dialog is open.
+    /// Starts a new timer each time. If the slot of a timer opens a dialog, that timer does not
+    /// fire again while the dialog is open.
     void lookLater() { QTimer::singleShot(INTERVAL, this, &User::look); }
 
     void look()

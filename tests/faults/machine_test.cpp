@@ -21,7 +21,7 @@ struct Run {
     QString error;
 
     bool isGood() const { return code == 0; }
-    /// Returns the whole output, which is printed when a test fails.
+    /// Returns the exit code and the output. They are printed if a test fails.
     QByteArray all() const
     {
         return (QString::number(code) + QLatin1Char('\n') + out + error).toLocal8Bit();
@@ -30,7 +30,7 @@ struct Run {
 
 } // namespace
 
-/** Tests that the program reports missing parts of the machine and keeps running. */
+/** Tests that the program keeps running and reports a problem if part of the system is missing. */
 class MachineTest : public UssdTest
 {
     Q_OBJECT
@@ -64,10 +64,10 @@ private:
     QString codesFile() { return home() + text("/data/ussd-dashboard/ussdprofile.xml"); }
     void layOutLibrary();
     void makeCopy();
-    /// Installs only these languages for the program.
+    /// Installs only the given languages for the program.
     void installTexts(const QStringList &languages);
     QString textsFolder() { return folder() + text("/prefix/" TEXTS_FOLDER); }
-    /// Changes bytes of an installed language file. The seed selects the bytes.
+    /// Changes bytes in an installed language file. The seed selects the bytes.
     void damageText(const char *file, uint seed);
     static QString text(const char *words) { return QString::fromUtf8(words); }
 
@@ -88,7 +88,8 @@ void MachineTest::setUp()
     m_environment.remove(text("TKSV_USER_DATA"));
 }
 
-/// Copies the plug-in's files, because the editor also saves the codes that come with the plug-in.
+/// Copies the plug-in's data files, because the editor also saves the codes that the plug-in
+/// provides.
 void MachineTest::layOutLibrary()
 {
     const QString from = text(PLUGIN_LIBRARY "/plugins/USSDUIPlugin/");
@@ -129,7 +130,7 @@ bool MachineTest::write(const QString &path, const QByteArray &content)
            file.write(content) == content.size();
 }
 
-/// Creates the backup copy, as the program does when it starts.
+/// Creates the backup copy by starting the program, which makes the copy when it starts.
 void MachineTest::makeCopy()
 {
     QVERIFY(write(codesFile(), OWN_CODES));
@@ -221,7 +222,7 @@ void MachineTest::halfAFileOfCodesIsOfferedBack()
     QCOMPARE(contentOf(codesFile() + text(".damaged")), half);
 }
 
-/// Kills the program at each step of a whole run, including the steps of its start.
+/// Tests a complete run that is killed at each step in turn, including the steps at start-up.
 void MachineTest::aKillWhileSavingIsMendedByTheNextStart()
 {
     makeCopy();

@@ -2,7 +2,7 @@
 #include "OddFiles.h"
 #include "UssdTest.h"
 
-/// Tests which files are opened for reading, and the error messages for all others.
+/// Tests which files can be opened for reading, and the error messages for all others.
 class InputFileTest : public UssdTest
 {
     Q_OBJECT

@@ -9,8 +9,8 @@
 
 /* Common code of the fuzzers. Each fuzzer runs one input in LLVMFuzzerTestOneInput(). */
 
-/// Ends the program with a message if the condition is false. The fuzzer reports this as a crash.
-/// The macro works in every build type.
+/// Aborts the program with a message if the condition is false, which the fuzzer reports as a
+/// crash. The macro is active in every build type.
 #define FUZZ_REQUIRE(condition)                                                                    \
     ((condition) ? static_cast<void>(0) : FuzzSupport::fail(#condition, __FILE__, __LINE__))
 
@@ -19,22 +19,22 @@ namespace FuzzSupport
 
 [[noreturn]] void fail(const char *condition, const char *file, int line);
 
-/// Discards log lines. They are still formatted, so that the formatting is fuzzed too.
+/// Discards log lines. The lines are still formatted, so that the formatting is fuzzed too.
 void dropMessages();
 
-/// Creates an application without a display, for widgets. Only the first call creates it, and it is
-/// never deleted.
+/// Creates an application without a display, for widgets. Only the first call creates the
+/// application, which is never deleted.
 void needApplication();
 
-/// Returns a directory that is deleted at the end of the program. The path has no trailing
-/// separator.
+/// Returns a temporary folder, without a trailing separator. The folder is deleted when the program
+/// ends.
 QString folder();
 
 /// Creates or replaces a file in an existing folder.
 void writeFile(const QString &path, const QByteArray &content);
 
-/// Returns the input as UTF-16 code units in the host's byte order, including unpaired surrogates.
-/// An odd byte at the end is ignored.
+/// Returns the input as UTF-16 code units in the byte order of the host, including unpaired
+/// surrogates. An odd byte at the end is ignored.
 QString units(const uint8_t *data, size_t size);
 
 } // namespace FuzzSupport

@@ -29,7 +29,8 @@ void checkHex(const std::string &raw)
     FUZZ_REQUIRE(!read || read->size() * 2 == raw.size());
 }
 
-/// Checks that arbitrary bytes are converted to text, and that a text survives conversion to UCS2.
+/// Checks that arbitrary bytes can be converted to text, and that a text survives conversion to
+/// UCS2.
 void checkCharsets(const std::string &raw)
 {
     const FakeModems::Bytes bytes(raw.begin(), raw.end());
@@ -70,7 +71,8 @@ void checkMessage(const std::string &raw)
         const auto message = FakeModems::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
         FUZZ_REQUIRE(!message || isText(message->number));
         FUZZ_REQUIRE(!message || message->text.size() <=
-                                     2 * raw.size()); // twice the size if all are euro signs
+                                     // Twice the size if all characters are euro signs.
+                                     2 * raw.size());
     }
 }
 

@@ -1,5 +1,5 @@
 /*
- * Fuzzes USSDPluginConfig.xml through the logic object: loading, every getter, and the IMSI match.
+ * Fuzzes USSDPluginConfig.xml through the logic object: loading, every getter, and IMSI matching.
  */
 #include "FuzzSupport.h"
 
@@ -35,8 +35,8 @@ void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute
         FUZZ_REQUIRE(number == 0 || number == 1);
 }
 
-/// Checks all attributes. Unknown numbers are checked only sometimes, because the file does not
-/// affect them.
+/// Checks all attributes. The file does not affect unknown attribute numbers, so these are checked
+/// only occasionally.
 void checkAttributes(USSDLogic &logic, bool alsoUnknown)
 {
     const int beyond = alsoUnknown ? 1 : 0;
@@ -46,7 +46,7 @@ void checkAttributes(USSDLogic &logic, bool alsoUnknown)
                 checkAttribute(logic, paidType, component, attribute);
 }
 
-/// Checks that a getter, which reads its section again, returns the same for an unchanged file.
+/// Checks that a getter that reads its section again returns the same values for an unchanged file.
 void checkSections(USSDLogic &logic)
 {
     for (const _CHAR_SET_COLOR which : {CHAR_SET_SEND, CHAR_SET_RECEIVE}) {
@@ -68,7 +68,7 @@ void checkSections(USSDLogic &logic)
     logic.GetPrePostDiffer(differ);
 }
 
-/// Returns the length of the longest matching prefix, found by trying all prefixes.
+/// Returns the length of the longest matching prefix. Tries all prefixes.
 int longestPrefix(const QHash<QString, int> &prefixes, const QString &imsi)
 {
     int longest = 0;
@@ -88,7 +88,8 @@ void checkImsi(USSDLogic &logic, const AutoUSSD &section, const QString &imsi)
     FUZZ_REQUIRE(!matched || flags == section.imsiMap.value(imsi.left(length)));
 }
 
-/// Reads the section again from the bytes, to compare it with the values in the logic object.
+/// Reads the section from the bytes independently, to compare it with the values in the logic
+/// object.
 AutoUSSD autoUSSDBehindTheOthers(const QByteArray &file)
 {
     QXmlStreamReader reader(file);

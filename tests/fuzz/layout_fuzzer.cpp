@@ -1,4 +1,4 @@
-/* Fuzzes the USSD-SMS section: the limits of the reader, and the values that it returns. */
+/* Fuzzes the USSD-SMS section: the limits of its parser, and the values that the parser returns. */
 #include "FuzzSupport.h"
 
 #include <QXmlStreamReader>
@@ -12,7 +12,7 @@ namespace
 
 const int MOST_GROUPS = 500;
 const int MOST_CONTROLS = 6;
-const int MOST_COMPLAINTS = 21; // twenty complaints, and one about the syntax of the file
+const int MOST_COMPLAINTS = 21; // twenty complaints, and one about the XML syntax
 
 void checkGeometry(const QRect &rect)
 {
@@ -39,7 +39,7 @@ void checkGroup(const CWidget &group, int dialogWidth)
         checkControl(*control, dialogWidth);
 }
 
-/// Checks that the tree has two levels and starts with its root.
+/// Checks that the tree starts with its root and has two levels.
 void checkTree(const SmsLayout &layout)
 {
     FUZZ_REQUIRE(layout.ordinaryEntries <= SmsLayoutFile::MAX_ORDINARY_ENTRIES);

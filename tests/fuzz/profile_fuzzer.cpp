@@ -1,5 +1,5 @@
 /*
- * Fuzzes a user's profile file, which is read, saved and read again.
+ * Fuzzes a user's profile file. The file is read, saved and read again.
  */
 #include "FuzzSupport.h"
 
@@ -39,7 +39,8 @@ void checkProfiles(const QList<USSDProfile> &profiles, size_t bytes)
     FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // the length of "<item>"
     QSet<QString> codes;
     for (const USSDProfile &profile : profiles) {
-        FUZZ_REQUIRE(!codes.contains(profile.value)); // the store keeps the first of equal codes
+        // The store keeps only the first of equal codes.
+        FUZZ_REQUIRE(!codes.contains(profile.value));
         codes.insert(profile.value);
     }
 }
@@ -66,7 +67,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
     FuzzSupport::writeFile(userFolder() + QLatin1String("ussdprofile.xml"), file);
     checkProfiles(readAndSave(), size);
-    // Saving may trim blanks and thereby make two codes equal. Saving again changes nothing.
+    // Saving may trim blanks, which can make two codes equal. Saving again must not change
+    // anything.
     const QList<USSDProfile> saved = readAndSave();
     checkProfiles(saved, size);
     FUZZ_REQUIRE(readAndSave() == saved);

@@ -1,11 +1,12 @@
 /*
- * Fuzzes a scenario file. The reader must return either a scenario or complaints, and never both.
+ * Fuzzes a scenario file. The parser must return either a scenario or complaints, but never both.
  */
 #include "FuzzSupport.h"
 
 #include <algorithm>
 #include <string>
 
+#include "sim/RuleMatching.h"
 #include "sim/ScenarioReader.h"
 
 namespace
@@ -22,7 +23,7 @@ void checkComplaints(const std::string &text, const Tksv::ScenarioResult &result
     }
 }
 
-/// Checks that a rule is found by its own name and that its reply can be formatted.
+/// Checks that a rule is found by its own name, and that its reply can be formatted.
 void checkRule(const Tksv::Scenario &scenario, const std::string &group, const Tksv::Rule &rule)
 {
     if (group.find(Tksv::ANY_DIGITS) == std::string::npos && group.find('/') == std::string::npos &&

@@ -1,6 +1,6 @@
 /*
- * A device SDK that accepts everything, never calls back and has no thread. The fuzzers use it for
- * code that only registers call-backs. The user data directory is $USSD_FUZZ_USER_FOLDER.
+ * A device SDK that accepts everything, never calls back and starts no thread. The fuzzers use it
+ * for code that only registers call-backs. $USSD_FUZZ_USER_FOLDER is the user data directory.
  */
 #include "tksv.h"
 

@@ -1,5 +1,5 @@
 /*
- * Fuzzes a reply in a status box, which must show the reply as plain text.
+ * Fuzzes a reply in a status box. The box must show the reply as plain text.
  */
 #include "FuzzSupport.h"
 
@@ -21,7 +21,7 @@ QString withoutMarks(QString text)
     return text.remove(EMBED).remove(POP);
 }
 
-/// Checks that the document contains only text in paragraphs: no picture, link, table or frame.
+/// Checks that the document contains only paragraphs of text: no picture, link, table or frame.
 void checkDocument(const QTextDocument &document)
 {
     FUZZ_REQUIRE(document.rootFrame()->childFrames().isEmpty());
@@ -34,8 +34,7 @@ void checkDocument(const QTextDocument &document)
     }
 }
 
-/// Converts the line ends as a document does: to its own paragraph separators, without carriage
-/// returns.
+/// Converts the line ends like a document: to paragraph separators, without carriage returns.
 QString asLines(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

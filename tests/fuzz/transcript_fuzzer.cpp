@@ -1,4 +1,4 @@
-/* Fuzzes the transcript with arbitrary network texts, in any number and order of entries. */
+/* Fuzzes the transcript with arbitrary messages from the network, in any number and order. */
 #include "FuzzSupport.h"
 
 #include <QTextBlock>
@@ -18,14 +18,14 @@ namespace
 const int MOST_TABLES = 8;
 const QChar NEXT_ENTRY(0x1E); // separates the entries of an input
 
-/// Checks the resources that QTextEdit requests. No file may be requested.
+/// Checks the resources that QTextEdit requests. No file may be opened.
 class WatchedView : public TranscriptView
 {
 public:
     QVariant loadResource(int type, const QUrl &name) override
     {
         const QVariant resource = TranscriptView::loadResource(type, name);
-        FUZZ_REQUIRE(resource.isValid()); // otherwise Qt opens the file itself
+        FUZZ_REQUIRE(resource.isValid()); // otherwise Qt would open the file itself
         return resource;
     }
 };
@@ -47,13 +47,13 @@ int tablesIn(const QTextFrame *frame)
     return tables;
 }
 
-/// Checks that the document has no elements whose layout takes too long.
+/// Checks that the document contains no elements that take too long to lay out.
 void checkCost(const QTextDocument &document)
 {
     FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= MOST_TABLES);
 }
 
-/// Returns the content of a second view for the same entries.
+/// Returns the content of a second view that shows the same entries.
 QString shownBy(const QStringList &texts, QString *markup)
 {
     WatchedView view;
@@ -70,7 +70,7 @@ QString shownBy(const QStringList &texts, QString *markup)
     return shown;
 }
 
-/// Returns the text that a view shows when the whole transcript is set at once.
+/// Returns the text of a view in which the complete transcript is set at once.
 QString shownAtOnce(const QString &markup)
 {
     WatchedView view;

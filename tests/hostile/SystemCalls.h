@@ -5,15 +5,15 @@
 #include <vector>
 
 /*
- * Records calls of open(), socket() and the functions that start programs. The program's own
- * definitions of these functions replace those of the C library, which they call.
+ * Records calls of open(), socket() and the functions that start programs. The definitions in the
+ * program replace those of the C library, which they then call.
  */
 namespace SystemCalls
 {
 
-/// Discards the record and starts recording.
+/// Discards the recorded calls and starts recording.
 void watch();
-/// Stops recording and returns the calls in their order, as "open PATH", "socket" or "run PATH".
+/// Stops recording and returns the calls in order, as "open PATH", "socket" or "run PATH".
 std::vector<std::string> seen();
 
 } // namespace SystemCalls

@@ -17,7 +17,7 @@ TKSV_EventCallback registered(const char *function)
     return calls.empty() ? nullptr : calls.back().callback;
 }
 
-/// Returns a text of the device SDK without a terminating zero.
+/// Returns a string of the device SDK without a terminating zero.
 std::vector<unsigned short> unitsWithoutEnd(int count)
 {
     return std::vector<unsigned short>(static_cast<size_t>(count), 'x');
@@ -25,7 +25,7 @@ std::vector<unsigned short> unitsWithoutEnd(int count)
 
 } // namespace
 
-/** Tests the general window with a device SDK that violates its contract. */
+/** Tests the general window with a device SDK that breaks its own guarantees. */
 class FaultySdkTest : public DialogTest
 {
     Q_OBJECT
@@ -223,7 +223,7 @@ void FaultySdkTest::blockingRequestThatFailsIsSaid()
     QVERIFY(isIdle());
 }
 
-/// Tests the end of the plug-in while a request blocks. The SDK's thread sends the next command,
+/// Tests shutting the plug-in down while a request blocks. The SDK's thread sends the next command,
 /// and this call blocks.
 void FaultySdkTest::endWaitsForABlockingRequest()
 {
@@ -235,7 +235,7 @@ void FaultySdkTest::endWaitsForABlockingRequest()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*2#")), &status);
     fakeSdkRespond(u"5 EUR");
-    QVERIFY(fakeSdkWaitForRequests(2)); // the second request blocks now
+    QVERIFY(fakeSdkWaitForRequests(2)); // the second request is blocked now
     logic->unSDKRegisterEvent();
     USSDLogic::Destroy();
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Request").back().returned);

@@ -42,7 +42,7 @@ QByteArray loadedLibraries()
 
 } // namespace
 
-/** Records the addresses that would be opened on the desktop, without opening them. */
+/** Records the addresses that would be opened on the desktop, instead of opening them. */
 class UrlRecorder : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private:
 };
 constexpr const char *UrlRecorder::SCHEMES[];
 
-/** Tests replies that attack the program that shows them. */
+/** Tests replies that attack the program in which they are shown. */
 class HostileRepliesTest : public DialogTest
 {
     Q_OBJECT
@@ -148,7 +148,7 @@ QString HostileRepliesTest::baitPath(const char *name)
     return folder() + QLatin1Char('/') + latin1(BAIT) + latin1(name);
 }
 
-/// Replaces "FILE" in the reply with the path of an existing file.
+/// Replaces "FILE" in the reply by the path of an existing file.
 QString HostileRepliesTest::baited(const char *reply)
 {
     return latin1(reply).replace(latin1("FILE"), baitPath(".png"));
@@ -165,7 +165,7 @@ QStringList HostileRepliesTest::baitsTouched()
     return touched;
 }
 
-/// Waits until the whole reply is shown, because a long reply is added in pieces.
+/// Waits until the complete reply is shown. A long reply is added in pieces.
 void HostileRepliesTest::waitUntilShown()
 {
     int before = -1;
@@ -253,7 +253,7 @@ void HostileRepliesTest::linkInAReplyOpensNothing()
     const UrlRecorder desktop;
     SystemCalls::watch();
     const QPoint middle = history()->viewport()->rect().center();
-    QVERIFY(!history()->anchorAt(middle).isEmpty()); // the link is under the pointer
+    QVERIFY(!history()->anchorAt(middle).isEmpty()); // the mouse pointer is on the link
     QTest::mouseClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::mouseDClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::keyClick(history(), Qt::Key_Return);
@@ -319,7 +319,7 @@ void HostileRepliesTest::labelOutlivesReply()
     QCOMPARE(label.text(), reply);
 }
 
-/// Shows long replies repeatedly and checks that the memory does not grow.
+/// Shows long replies repeatedly and checks that memory use does not grow.
 void HostileRepliesTest::memoryComesBack()
 {
     open();
@@ -332,7 +332,7 @@ void HostileRepliesTest::memoryComesBack()
         QVERIFY(history()->document()->characterCount() > MILLION);
         click(clearButton());
         drainEvents();
-        clearLog(); // the log contains every reply
+        clearLog(); // otherwise the log would keep every reply
         fakeSdkForgetRecords();
         if (round == 1)
             warm = residentBytes();

@@ -13,19 +13,19 @@ struct AtCommand {
 
     std::string name; // examples: "+CUSD", "E0", "&C1"
     Form form = Execute;
-    std::vector<std::string> values; // the values of a Set command, without their quotes
+    std::vector<std::string> values; // the values of a Set command, without quotes
 
     /// Returns an empty string if the command has fewer values.
     std::string value(std::size_t index) const;
 };
 
-/// Parses a command line from which the leading "AT" has been removed.
+/// Parses a command line without its leading "AT".
 AtCommand parseAtCommand(const std::string &line);
 
 /** The modem's answer to a command. */
 struct AtAnswer {
     std::vector<std::string> lines;
-    // Empty if the answer follows later or never.
+    // Empty if the answer comes later or never.
     std::string result = "OK";
 };
 

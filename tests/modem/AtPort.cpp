@@ -20,7 +20,7 @@ bool isAbstract(const std::string &name)
     return name.compare(0, sizeof ABSTRACT_PREFIX - 1, ABSTRACT_PREFIX) == 0;
 }
 
-/// Returns the size of the address, or 0 if the name is too long for an address.
+/// Returns the size of the address, or 0 if the name is too long for a socket address.
 socklen_t makeAddress(const std::string &name, sockaddr_un &address)
 {
     const std::size_t shift = isAbstract(name) ? 1 : 0;
@@ -157,8 +157,8 @@ gboolean AtPort::writePiece()
     return G_SOURCE_REMOVE;
 }
 
-/// Sends the bytes without queueing, because a few hundred bytes always fit into the socket. A
-/// closed connection is noticed by read().
+/// Sends the bytes without queueing them, because a few hundred bytes always fit into the socket
+/// buffer. read() notices if the connection has been closed.
 void AtPort::send(const char *bytes, std::size_t size)
 {
     while (size > 0) {

@@ -9,16 +9,16 @@ namespace FakeModems
 {
 
 /**
- * The modem's end of the serial line. The port listens on a Unix socket and has at most one
- * connection; a new connection replaces the previous one. Must be used on the thread of its main
- * context only.
+ * The modem's end of the serial line. The port listens on a Unix socket and accepts one connection
+ * at a time; a new connection replaces the previous one. Must be used only on the thread of its
+ * main context.
  */
 class AtPort
 {
 public:
     /// `context` and everything that `onBytes` refers to must outlive the port. A name that starts
-    /// with "abstract:" is bound as an abstract socket under this whole name; any other name is a
-    /// path.
+    /// with "abstract:" is used as the name of an abstract socket, including this prefix. Any other
+    /// name is a path.
     AtPort(GMainContext *context, std::string name,
            std::function<void(const std::string &)> onBytes, std::function<void()> onOpened);
     ~AtPort();
@@ -29,8 +29,8 @@ public:
     std::string listen();
     void stopListening();
 
-    /// Writes the bytes at once. After setPieces(true), it writes them one by one with an iteration
-    /// of the main loop in between.
+    /// Writes all bytes at once. After setPieces(true), writes them one at a time, with an
+    /// iteration of the main loop in between.
     void write(const std::string &bytes);
     void setPieces(bool pieces) { m_pieces = pieces; }
 
@@ -50,7 +50,7 @@ private:
     const std::function<void(const std::string &)> m_onBytes;
     const std::function<void()> m_onOpened;
     bool m_pieces = false;
-    std::string m_unsent; // the bytes that still have to be written one by one
+    std::string m_unsent; // the bytes that have yet to be written one at a time
     int m_listener = -1;
     int m_connection = -1;
     guint m_listenerSource = 0;

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/* The few D-Bus calls that the modem tests need. */
+/* The few D-Bus functions that the modem tests need. */
 
 namespace FakeModems
 {
@@ -28,13 +28,13 @@ struct Reply {
     std::string error;
 };
 
-/// Opens a private connection, which must be passed to closeConnection(). Returns null if there is
-/// no such bus.
+/// Opens a private connection, which must be closed with closeConnection(). Returns null if no bus
+/// has this address.
 GDBusConnection *connectTo(const std::string &busAddress);
-/// Closes the connection and sets it to null. Does nothing if it is null already.
+/// Closes the connection and sets the pointer to null. Does nothing if the pointer is already null.
 void closeConnection(GDBusConnection *&connection);
 
-/// Waits for the reply for at most ten seconds. `arguments` may be floating or null.
+/// Waits up to ten seconds for the reply. `arguments` may be floating or null.
 Reply call(GDBusConnection *connection, const Method &method, GVariant *arguments);
 /// Sends the call without waiting for its result.
 void send(GDBusConnection *connection, const Method &method, GVariant *arguments);

@@ -13,8 +13,8 @@ namespace
 const unsigned char ESCAPE = 0x1B;
 const char16_t REPLACEMENT = 0xFFFD;
 
-/// The default alphabet of 3GPP TS 23.038, 6.2.1. The position of Escape holds a character that is
-/// never used.
+/// The default alphabet of 3GPP TS 23.038, 6.2.1. At the position of the escape character there is
+/// a character that is never used.
 const char16_t DEFAULT_ALPHABET[] = u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞ\uFFFFÆæßÉ !\"#¤%&'()*+,-./"
                                     u"0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿"
                                     u"abcdefghijklmnopqrstuvwxyzäöñüà";
@@ -22,7 +22,7 @@ const std::size_t ALPHABET_SIZE = 128;
 static_assert(sizeof DEFAULT_ALPHABET / sizeof DEFAULT_ALPHABET[0] == ALPHABET_SIZE + 1,
               "one character for each septet");
 
-/// The characters that follow Escape (3GPP TS 23.038, 6.2.1.1).
+/// The characters that follow the escape character (3GPP TS 23.038, 6.2.1.1).
 const std::pair<unsigned char, char16_t> EXTENSION[] = {
     {0x0A, u'\f'}, {0x14, u'^'}, {0x28, u'{'}, {0x29, u'}'}, {0x2F, u'\\'},
     {0x3C, u'['},  {0x3D, u'~'}, {0x3E, u']'}, {0x40, u'|'}, {0x65, u'€'}};
@@ -36,7 +36,7 @@ char16_t extended(unsigned char septet)
     return u' ';
 }
 
-/// False when the alphabet does not have it.
+/// Returns false if the alphabet does not contain the character.
 bool appendSeptets(Bytes &septets, char16_t unit)
 {
     for (std::size_t i = 0; i < ALPHABET_SIZE; ++i) {

@@ -18,8 +18,7 @@ namespace FakeModems
 namespace
 {
 
-/// Returns the path of the program. The search path of a user often lacks the directories of
-/// daemons.
+/// Returns the path of the program. A user's search path often lacks the directories of daemons.
 std::string findProgram(const std::string &name)
 {
     const char *const path = std::getenv("PATH");
@@ -34,13 +33,13 @@ std::string findProgram(const std::string &name)
     return std::string();
 }
 
-/// Runs in the new process, where only system calls are allowed.
+/// Runs in the child process, where only system calls are allowed.
 [[noreturn]] void become(const char *program, char *const *arguments, int log, int kept,
                          pid_t parent)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
-        ::_exit(127); // the parent ended before prctl() took effect
+        ::_exit(127); // the parent has ended before prctl() took effect
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -10,9 +10,9 @@ namespace FakeModems
 {
 
 /**
- * A program that ends together with the test, even if the test crashes. The kernel kills the
- * program when the thread that started it ends, so it must be started on a thread that lives long
- * enough.
+ * A program that ends with the test, even if the test crashes. The kernel kills the program when
+ * the thread that started it ends. The program must therefore be started on a thread that exists
+ * long enough.
  */
 class ChildProcess
 {
@@ -23,12 +23,12 @@ public:
     ChildProcess &operator=(const ChildProcess &) = delete;
 
     /// Starts the program `arguments[0]`, which is searched for in $PATH and in /usr/sbin. Its
-    /// output and its error messages go to the file `log`. The program inherits `keptDescriptor`
-    /// unless that is -1.
+    /// standard output and standard error are written to the file `log`. The program inherits
+    /// `keptDescriptor` unless this is -1.
     bool start(const std::vector<std::string> &arguments, const std::string &log,
                int keptDescriptor = -1);
     bool isRunning();
-    /// Sends SIGTERM, and SIGKILL if the process is still running after `limit`.
+    /// Sends SIGTERM. Sends SIGKILL if the process is still running after `limit`.
     void stop(std::chrono::milliseconds limit);
     /// Stops the process with SIGSTOP until resume() is called.
     void pause();

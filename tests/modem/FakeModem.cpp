@@ -134,7 +134,7 @@ void FakeModem::receiveSms(const std::string &pdu)
     m_thread->call([&] { m_core->receiveSms(pdu); });
 }
 
-/* ---- the commands the modem has received ------------------------------------------------- */
+/* ---- received commands ------------------------------------------------------------------- */
 
 std::vector<std::string> FakeModem::received() const
 {
@@ -148,7 +148,7 @@ std::vector<SubmittedSms> FakeModem::submitted() const
     return m_submitted;
 }
 
-/// Must be called with the lock held.
+/// Must be called with the mutex locked.
 int FakeModem::count(const std::string &start) const
 {
     return static_cast<int>(

@@ -20,29 +20,29 @@ namespace FakeModems
 class ModemCore;
 
 /**
- * An AT modem on a Unix socket, with a simulated network behind it. The modem speaks the protocol
- * that a daemon expects of a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on
- * request and records all that it receives. It answers without a delay, on its own thread.
+ * An AT modem on a Unix socket, with a simulated network behind it. The modem uses the protocol
+ * that a daemon expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on
+ * request, and records everything that it receives. It answers without delay, on its own thread.
  *
- * The outcomes of a scenario look as follows on the line: a refusal is +CUSD: 2, `unsupported` is 4
- * and `network-timeout` is 5. With `silence`, nothing follows the OK; with `device-timeout`, even
- * the OK is missing. `no-device` is +CME ERROR: 30. A device that disappears closes the connection
- * and does not listen until it is back. With `sim-locked`, the modem requires the PIN of the
- * scenario. With `disabled`, it refuses +CFUN=1 and does not register. A device that cannot send
- * SMS from the beginning has no +CNMI; a device that loses the ability to send SMS loses its
- * registration.
+ * The outcomes of a scenario appear on the serial line as follows. A refusal is +CUSD: 2,
+ * `unsupported` is +CUSD: 4 and `network-timeout` is +CUSD: 5. With `silence`, nothing follows the
+ * OK; with `device-timeout`, even the OK is missing. `no-device` is +CME ERROR: 30. A device that
+ * disappears closes the connection and does not listen until it returns. With `sim-locked`, the
+ * modem requires the PIN of the scenario. With `disabled`, it refuses +CFUN=1 and does not
+ * register. A device that cannot send SMS from the start does not support +CNMI. A device that
+ * loses the ability to send SMS loses its registration.
  *
  * All functions may be called from any thread.
  */
 class FakeModem
 {
 public:
-    /// Determines whether the scenario's clock starts at once or in startClock(). With a stopped
-    /// clock, the daemon can find the modem before the first event; until startClock(), all
-    /// commands fail because there is no network.
+    /// Determines whether the scenario's clock starts immediately or in startClock(). With a
+    /// stopped clock, the daemon can find the modem before the first event. Until startClock() is
+    /// called, all commands fail because there is no network.
     enum class Clock { Running, Stopped };
 
-    /// `port` is a path, or an abstract name that starts with "abstract:".
+    /// `port` is a path, or the name of an abstract socket, which starts with "abstract:".
     explicit FakeModem(const std::string &port, const ModemSettings &settings = ModemSettings());
     ~FakeModem();
     FakeModem(const FakeModem &) = delete;
@@ -50,38 +50,37 @@ public:
 
     const std::string &port() const { return m_port; }
 
-    /// Switches to another network and to a SIM card for it, and drops all pending requests. A
+    /// Switches to another network with a matching SIM card, and drops all pending requests. The
     /// daemon reads the new SIM card when the modem is plugged in again.
     void useScenario(Tksv::Scenario scenario, Clock clock = Clock::Running);
     void startClock();
 
-    /// Listens on the port. Returns an empty string on success, otherwise the reason of the
-    /// failure.
+    /// Listens on the port. Returns an empty string on success, otherwise the error.
     std::string plugIn();
     void unplug();
-    /// Returns false as long as the scenario keeps the device away.
+    /// Returns false while the scenario keeps the device away.
     bool isPresent() const;
     /// Sets a handler that is called on the modem's thread when the scenario changes the hardware.
-    /// The handler must then call unplug() or plugIn(); without a handler, the modem does this
+    /// The handler must then call unplug() or plugIn(). Without a handler, the modem does this
     /// itself.
     void onPlugChange(std::function<void(PlugChange)> handler);
 
     // ---- misbehaviour
     void misbehave(const Misbehaviour &misbehaviour);
-    void behave();               ///< clears all faults and releases held replies
-    void setPieces(bool pieces); ///< sends the bytes one by one
-    void hangUp();               ///< closes the connection; the daemon can open the port again
-    void holdReplies(bool hold); ///< keeps +CUSD lines back until called with `false`
+    void behave();               ///< clears all faults and sends held replies
+    void setPieces(bool pieces); ///< sends the bytes one at a time
+    void hangUp();               ///< closes the connection; the daemon can reopen the port
+    void holdReplies(bool hold); ///< holds +CUSD lines back until called with `false`
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
-    void receiveSms(const std::string &pdu); ///< takes an SMS-DELIVER as hex digits
+    void receiveSms(const std::string &pdu); ///< receives an SMS-DELIVER, given as hex digits
 
-    // ---- the commands the modem has received
+    // ---- received commands
     std::vector<std::string> received() const;
     std::vector<SubmittedSms> submitted() const;
     int timesReceived(const std::string &start) const;
-    /// Returns whether at least `times` commands that start with this text arrive within ten
-    /// seconds.
+    /// Waits up to ten seconds. Returns true if at least `times` commands that start with this text
+    /// arrive.
     bool waitForCommand(const std::string &start, int times = 1) const;
     void forgetReceived();
 
@@ -94,9 +93,9 @@ private:
     mutable std::condition_variable m_came;
     std::vector<std::string> m_received;
     std::vector<SubmittedSms> m_submitted;
-    std::function<void(PlugChange)> m_plugHandler; // used on the modem's thread only
+    std::function<void(PlugChange)> m_plugHandler; // used only on the modem's thread
     std::unique_ptr<LoopThread> m_thread;
-    std::unique_ptr<ModemCore> m_core; // used on the modem's thread only
+    std::unique_ptr<ModemCore> m_core; // used only on the modem's thread
 };
 
 } // namespace FakeModems

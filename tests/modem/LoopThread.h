@@ -10,25 +10,25 @@
 namespace FakeModems
 {
 
-/** A thread with its own main context, which is the thread-default one. */
+/** A thread with its own main context, which is the default context of the thread. */
 class LoopThread
 {
 public:
     using Action = std::function<void()>;
 
-    /// `name` is the thread's name in debuggers, of at most 15 characters.
+    /// `name` is the thread name that debuggers show. It can have at most 15 characters.
     explicit LoopThread(const char *name);
     ~LoopThread();
     LoopThread(const LoopThread &) = delete;
     LoopThread &operator=(const LoopThread &) = delete;
 
-    /// Stops the loop and waits for the thread. Actions that are still waiting are dropped, and so
-    /// are actions that are posted afterwards.
+    /// Stops the loop and waits for the thread. Actions that are still waiting are dropped, as are
+    /// actions that are posted later.
     void stop();
 
     GMainContext *context() const { return m_context; }
 
-    /// Runs the action on the loop's thread, after the delay. May be called from any thread.
+    /// Runs the action on the loop's thread after the delay. May be called from any thread.
     void post(Action action, unsigned delayMilliseconds = 0);
     /// Runs the action on the loop's thread and returns when it has finished. May be called from
     /// any thread.

@@ -9,15 +9,15 @@
 #include <QTimer>
 
 /**
- * Records the text of each message box and closes the box with its first button, as long as the
- * helper lives.
+ * Records the text of each message box, and closes the box with its first button, for as long as
+ * the helper exists.
  */
 class MessageHelper : public QObject
 {
 public:
     MessageHelper() { qApp->installEventFilter(this); }
 
-    /// The texts of the message boxes so far.
+    /// The texts of all message boxes so far.
     QStringList texts() const { return m_texts; }
 
 protected:

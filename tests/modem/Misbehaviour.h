@@ -9,17 +9,17 @@ namespace FakeModems
 
 enum class Fault {
     Error,          // answers ERROR
-    EquipmentError, // answers +CME ERROR: value
-    MessageError,   // answers +CMS ERROR: value
+    EquipmentError, // answers +CME ERROR with `value`
+    MessageError,   // answers +CMS ERROR with `value`
     Silence,        // sends nothing, neither an answer nor a result
-    Late,           // sends the line value milliseconds later
+    Late,           // delays the line by `value` milliseconds
     Garbled,        // replaces every third character
     HangUp          // closes the connection instead of sending the line
 };
 
 const int ALWAYS = -1;
 
-/** A fault, and the lines that it applies to. */
+/** A fault and the lines to which it applies. */
 struct Misbehaviour {
     /// The start of a command ("AT+CUSD=1") or of an unsolicited line ("+CUSD:").
     std::string start;
@@ -28,21 +28,22 @@ struct Misbehaviour {
     int times = 1;
 };
 
-/** The faults that have yet to happen. */
+/** The faults that have not yet occurred. */
 class Misbehaviours
 {
 public:
     void add(const Misbehaviour &misbehaviour) { m_list.push_back(misbehaviour); }
     void clear() { m_list.clear(); }
-    /// Returns whether a fault applies to the line. If so, stores the fault in `found` and reduces
-    /// the number of its remaining occurrences by one.
+    /// Returns true if a fault applies to the line. In this case, stores the fault in `found` and
+    /// decrements the number of its remaining occurrences.
     bool take(const std::string &line, Misbehaviour &found);
 
 private:
     std::vector<Misbehaviour> m_list;
 };
 
-/// Garbles the line after its name and colon, so that the daemon still recognises the kind of line.
+/// Garbles the line after its name and colon, so that the daemon still recognises the type of the
+/// line.
 std::string garbled(std::string line);
 
 } // namespace FakeModems

@@ -64,7 +64,7 @@ std::string shownValue(GVariant *value)
 
 MmClient::MmClient(const std::string &busAddress) : m_connection(connectTo(busAddress))
 {
-    // No signals are needed, because each wait reads the property with a call.
+    // No signals are needed, because each wait queries the property with a call.
     m_manager = mm_manager_new_sync(m_connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE, nullptr,
                                     nullptr);
 }
@@ -81,7 +81,7 @@ void MmClient::forget()
     g_clear_object(&m_manager);
 }
 
-/// Creates a new manager for each use, so that it sees the current objects.
+/// Creates a new manager for each use, so that the manager knows the current objects.
 bool MmClient::use(const std::string &object)
 {
     forget();

@@ -9,7 +9,7 @@ namespace FakeModems
 {
 
 /**
- * The result of a USSD request: the text on success, otherwise the domain and the code of the
+ * The result of a USSD request: the reply on success, otherwise the domain and the code of the
  * error.
  */
 struct UssdResult {
@@ -19,8 +19,8 @@ struct UssdResult {
 };
 
 /**
- * A plain client of the daemon, which uses libmm-glib and waits for each reply. It serves the tests
- * of the modem fixtures and measurements that compare the plug-in with a plain client.
+ * A simple client of the daemon that uses libmm-glib and waits for each reply. Used by the tests of
+ * the modem fixtures, and by measurements that compare the plug-in with a simple client.
  */
 class MmClient
 {
@@ -30,18 +30,18 @@ public:
     MmClient(const MmClient &) = delete;
     MmClient &operator=(const MmClient &) = delete;
 
-    /// Selects the modem with this object path. Returns false if there is none.
+    /// Selects the modem with this object path. Returns false if there is no such modem.
     bool use(const std::string &object);
 
     UssdResult initiate(const std::string &code, int limitMilliseconds = 10000);
     UssdResult respond(const std::string &answer);
     bool cancel();
-    /// Returns whether the property of the USSD interface has this value within ten seconds.
+    /// Returns true if the property of the USSD interface has this value within ten seconds.
     bool waitForProperty(const char *name, const std::string &value);
     bool waitUntilIdle(); ///< waits until the USSD session is idle
 
-    /// Returns an empty string on success, otherwise the error message. The functions below do the
-    /// same.
+    /// Returns an empty string on success, otherwise the error message. sendPin() and sendPuk()
+    /// return the same.
     std::string sendSms(const std::string &number, const std::string &text);
     std::string sendPin(const std::string &pin);
     std::string sendPuk(const std::string &puk, const std::string &newPin);

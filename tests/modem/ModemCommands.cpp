@@ -1,6 +1,6 @@
 /*
- * The commands that the modem supports. Like a real modem, it answers ERROR at once to any other
- * command.
+ * The commands that the modem supports. Like a real modem, it immediately answers ERROR to any
+ * other command.
  */
 #include "ModemCore.h"
 
@@ -134,8 +134,8 @@ AtAnswer ModemCore::charset(const AtCommand &command)
     return ok();
 }
 
-/// Keeps a device that the scenario disables at low power, as the radio switch does. The daemon
-/// ignores the refusal and keeps searching for a network.
+/// Keeps the modem in low-power mode if the scenario disables the device, as a radio switch does.
+/// The daemon ignores the refusal and keeps searching for a network.
 AtAnswer ModemCore::functionality(const AtCommand &command)
 {
     if (command.form == AtCommand::Read)
@@ -192,7 +192,7 @@ std::string ModemCore::networkCode() const
     return m_sim.data().imsi.substr(0, mccLength + mncLength);
 }
 
-/// 3GPP TS 27.007, 7.3: format 0 is the long name, format 2 is the number.
+/// Format 0 is the long name, format 2 is the number (3GPP TS 27.007, 7.3).
 AtAnswer ModemCore::operatorName(const AtCommand &command)
 {
     if (command.form == AtCommand::Set && command.value(0) == "3")
@@ -206,7 +206,7 @@ AtAnswer ModemCore::operatorName(const AtCommand &command)
                                   : "+COPS: 0,0," + quoted(name) + ",2");
 }
 
-/// 3GPP TS 27.007, 8.5: the signal is 0 to 31, or 99 if it is unknown.
+/// The signal is 0 to 31, or 99 if it is unknown (3GPP TS 27.007, 8.5).
 AtAnswer ModemCore::signal(const AtCommand &)
 {
     const int percent = device().signalPercent;
@@ -241,8 +241,8 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
     return command.values.size() < 2 ? ok() : startUssd(decodeText(command.value(1), m_charset));
 }
 
-/// Sends a USSD text. With `device-timeout`, the command gets no answer at all. `no-device` is an
-/// error, since a modem is present and has to answer.
+/// Sends the USSD command to the network. With `device-timeout`, the modem does not answer at all.
+/// `no-device` becomes an error, since the modem itself is present and has to answer.
 AtAnswer ModemCore::startUssd(const std::string &text)
 {
     switch (m_network ? m_network->sendUssd(text) : Tksv::RequestNoDevice) {
@@ -257,8 +257,8 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 
 /* ---- short messages ---------------------------------------------------------------------- */
 
-/// Refuses the command if the scenario starts without SMS, because a modem without +CNMI offers no
-/// messaging.
+/// Refuses the command if the scenario starts without SMS. The daemon does not offer messaging for
+/// a modem without +CNMI.
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())
@@ -302,8 +302,8 @@ AtAnswer ModemCore::submitted()
     return info("+CMGS: " + std::to_string(m_smsReference));
 }
 
-/// Takes one part of a long message. The parts travel separately and are joined in the network, so
-/// the last part that arrives gets the result of the whole message.
+/// Accepts one part of a long message. The parts travel separately and are joined in the network,
+/// so the last part to arrive receives the result of the complete message.
 AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
 {
     m_news.submitted(sms);
@@ -327,8 +327,8 @@ AtAnswer ModemCore::deliver(const Tksv::SmsMessage &message)
     return noAnswer();
 }
 
-/// Reports the result of the pending message. Since the port carries one message at a time, only
-/// one can be pending.
+/// Reports the result of the pending message. Only one message can be pending, because the port
+/// transmits one message at a time.
 void ModemCore::smsFinished(int result)
 {
     if (!std::exchange(m_smsOnItsWay, false))

@@ -32,7 +32,7 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 
 /* ---- the network ------------------------------------------------------------------------- */
 
-/// Starts the network in the registered state if the SIM card is locked, because the modem handles
+/// If the SIM card is locked, starts the network in the registered state, because the modem handles
 /// the PIN itself.
 void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
@@ -104,14 +104,14 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Reports the registration and the signal as unsolicited lines. No line reports that SMS stop
-/// working while all else is in order, so the modem loses its registration for that time.
+/// Reports the registration and the signal as unsolicited lines. No such line reports that only SMS
+/// have become unavailable, so the modem loses its registration for that time.
 void ModemCore::networkChanged()
 {
     const Tksv::DeviceInfo now = device();
     const TKSV_DeviceState before = std::exchange(m_toldState, now.state);
     if (before == now.state || now.state == TKSV_DEVICE_ABSENT) {
-        // the hardware is the same
+        // the hardware has not changed
     } else if (before == TKSV_DEVICE_ABSENT) {
         m_news.plugChanged(PlugChange::Back);
     } else if (before < TKSV_DEVICE_SEARCHING || now.state < TKSV_DEVICE_SEARCHING) {
@@ -130,7 +130,7 @@ void ModemCore::networkChanged()
         say("+CIEV: 2," + std::to_string((now.signalPercent + 10) / 20));
 }
 
-/// Returns the <stat> of 3GPP TS 27.007, 7.2: 1 is the home network, 5 is roaming, 2 is searching.
+/// Returns <stat> of 3GPP TS 27.007, 7.2: 1 is the home network, 2 is searching, 5 is roaming.
 int ModemCore::registrationStatus() const
 {
     const Tksv::DeviceInfo now = device();
@@ -259,9 +259,9 @@ void ModemCore::say(const std::string &line)
         m_thread.post([this, line] { send(line); }, static_cast<unsigned>(fault.value));
 }
 
-/// Sends a +CUSD line (3GPP TS 27.007, 7.15). The data coding scheme is the one of the text on the
-/// air: 15 for the default alphabet and 72 for UCS2 (3GPP TS 23.038, 5). The text itself is encoded
-/// as +CSCS requires.
+/// Sends a +CUSD line (3GPP TS 27.007, 7.15). The data coding scheme is that of the message as
+/// transmitted by the network: 15 for the default alphabet and 72 for UCS2 (3GPP TS 23.038, 5). The
+/// text itself is encoded as +CSCS requires.
 void ModemCore::sayUssd(int type, const std::string &text)
 {
     std::string line = "+CUSD: " + std::to_string(type);

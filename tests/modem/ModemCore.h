@@ -20,16 +20,16 @@
 namespace FakeModems
 {
 
-/** The notifications of a modem. All functions are called on the modem's thread. */
+/** The notifications of a modem. All functions are called from the modem's thread. */
 struct ModemNews {
-    std::function<void(const std::string &)> received; // a command, or "PDU " and the hex digits
+    std::function<void(const std::string &)> received; // a command, or "PDU " and hex digits
     std::function<void(const SubmittedSms &)> submitted;
     std::function<void(PlugChange)> plugChanged;
 };
 
 /**
- * The protocol of the modem. It reads AT commands and sends answers and unsolicited lines. Must be
- * used on the modem's thread only.
+ * The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. Must be
+ * used only on the modem's thread.
  */
 class ModemCore
 {
@@ -38,7 +38,7 @@ public:
 
     void useNetwork(Tksv::Scenario scenario);
     void startClock();
-    /// Returns an empty string on success, otherwise the reason of the failure.
+    /// Returns an empty string on success, otherwise the error.
     std::string plugIn() { return m_port.listen(); }
     void unplug();
     bool isPresent() const;
@@ -105,7 +105,7 @@ private:
     SimCard m_sim;
     std::shared_ptr<NetworkLink> m_network;
     Misbehaviours m_faults;
-    // The state that was last reported to the owner.
+    // The state that was reported to the owner last.
     bool m_present = false;
     TKSV_DeviceState m_toldState = TKSV_DEVICE_ABSENT;
 
@@ -118,7 +118,7 @@ private:
     int m_functionality = 1;
     int m_toldRegistration = 0;
     int m_toldSignal = 0;
-    // Set by AT+CUSD=1. Until then, the network's messages are kept back.
+    // Set by AT+CUSD=1. Until then, messages from the network are held back.
     bool m_tellsUssd = false;
     bool m_holdsReplies = false;
     std::vector<std::string> m_heldReplies;

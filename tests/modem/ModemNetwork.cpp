@@ -1,4 +1,4 @@
-/* The network of the SDK fixture: a modem under ModemManager. */
+/* Implements the network of the SDK fixture with a modem under ModemManager. */
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -21,8 +21,8 @@ TKSV_DeviceInfo deviceInfo()
     return info;
 }
 
-/// Creates the world before the SDK library is used for the first time, so that it is destroyed
-/// after the library has stopped.
+/// Creates the world before the first use of the SDK library. It is then destroyed after the
+/// library has stopped.
 FakeModems::ModemWorld &world()
 {
     static const std::unique_ptr<FakeModems::ModemWorld> instance = [] {
@@ -71,8 +71,8 @@ std::string unlessReady(const char *what)
 namespace SdkFixture
 {
 
-/// Waits until the library has noticed that the earlier modem is gone. Otherwise it would take the
-/// earlier modem for the new one.
+/// Waits until the library has noticed that the earlier modem is gone. Otherwise it would mistake
+/// the earlier modem for the new one.
 std::string useNetwork(const std::string &scenario)
 {
     const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");

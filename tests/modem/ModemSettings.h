@@ -12,7 +12,8 @@ namespace FakeModems
 
 /**
  * The properties of a modem except for its network. The IMSI, the PIN and the home network come
- * from the scenario, and so does the operator name of the SIM card unless it is set here.
+ * from the scenario. The operator name of the SIM card also comes from the scenario unless it is
+ * set here.
  */
 struct ModemSettings {
     std::string manufacturer = "Example";
@@ -23,19 +24,19 @@ struct ModemSettings {
     SimData sim;
     bool asksForPin = false;
     bool isRoaming = false;
-    // Whether each change of the signal is reported at once, in five steps. Otherwise the daemon
-    // polls the signal every 30 s.
+    // If true, the modem reports each change of the signal immediately, in five steps. Otherwise
+    // the daemon polls the signal every 30 s.
     bool tellsSignal = false;
     std::vector<Charset> charsets = {Charset::Ucs2, Charset::Gsm, Charset::Ira};
 };
 
 /** The changes of the modem hardware. */
 enum class PlugChange {
-    Gone,  // the modem was pulled out
-    Reset, // the modem has restarted by itself
-    Back,  // the modem is back after either of them
-    // The SIM card or the power switch has changed. A daemon notices it when the modem is plugged
-    // in again.
+    Gone,  // the modem was unplugged
+    Reset, // the modem has restarted on its own
+    Back,  // the modem has returned after either of these
+    // The SIM card or the radio switch has changed. The daemon notices this when the modem is
+    // plugged in again.
     Changed
 };
 

@@ -20,8 +20,8 @@ const char MODEM_INTERFACE[] = "org.freedesktop.ModemManager1.Modem";
 const char ADDRESS_VARIABLE[] = "DBUS_SYSTEM_BUS_ADDRESS";
 
 const std::chrono::seconds WAIT_LIMIT(10);
-/// The time after which the daemon is killed. A daemon with an unanswered command would need 20 s
-/// to end.
+/// The time after which the daemon is killed. A daemon that is waiting for an answer would need 20
+/// s to end.
 const std::chrono::milliseconds STOP_LIMIT(3000);
 const std::size_t TAIL_SIZE = 6000;
 
@@ -37,7 +37,7 @@ int numberOf(GVariant *dictionary, const char *key, const char *type)
     return number;
 }
 
-/// Reads the modem's state. Returns false if the interfaces belong to another device.
+/// Reads the state of the modem. Returns false if the interfaces belong to another device.
 bool readModem(GVariant *interfaces, const std::string &device, ModemState &state)
 {
     GVariant *found = g_variant_lookup_value(interfaces, MODEM_INTERFACE, G_VARIANT_TYPE_VARDICT);
@@ -63,7 +63,7 @@ gboolean wakeUp(gpointer)
     return G_SOURCE_CONTINUE;
 }
 
-/** Wakes the thread's main context at each signal on the bus and every 50 ms. */
+/** Wakes up the thread's main context at each D-Bus signal and every 50 ms. */
 class Wakeups
 {
 public:
@@ -126,7 +126,7 @@ ModemWorld::~ModemWorld()
 {
     for (const auto &entry : m_modems)
         entry.second->onPlugChange(nullptr);
-    m_thread.call([] {}); // finishes the changes that the modems have already posted
+    m_thread.call([] {}); // completes the changes that the modems have posted
     stopDaemon();
     m_modems.clear();
     m_polkit.reset();
@@ -140,7 +140,7 @@ ModemWorld::~ModemWorld()
 
 std::string ModemWorld::start()
 {
-    // The path is short whatever TMPDIR is, because the directory holds sockets.
+    // The path must be short regardless of TMPDIR, because the folder contains sockets.
     char folder[] = "/tmp/modem-XXXXXX";
     if (!mkdtemp(folder))
         return "no temporary folder";
@@ -171,7 +171,7 @@ bool ModemWorld::startDaemon()
 bool ModemWorld::launchDaemon()
 {
     const std::lock_guard<std::mutex> daemonLock(m_daemonMutex);
-    const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG logs the AT commands
+    const char *const level = std::getenv("USSD_MODEM_LOG"); // DEBUG also logs the AT commands
     if (!m_daemon.start({"ModemManager", "--test-enable", "--test-no-udev",
                          "--test-no-suspend-resume", "--test-no-qrtr", "--no-auto-scan",
                          "--log-file=" + m_folder + "/daemon.log",
@@ -244,7 +244,7 @@ std::string ModemWorld::addModem(const std::string &id, const std::string &scena
 {
     if (hasModem(id))
         unplug(id);
-    m_thread.call([&] { m_modems.erase(id); }); // before the new modem takes its socket
+    m_thread.call([&] { m_modems.erase(id); }); // before the new modem uses its socket
     auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
     modem->onPlugChange(
         [this, id](PlugChange change) { m_thread.post([=] { plugChanged(id, change); }); });
@@ -265,9 +265,9 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
     return std::string();
 }
 
-/// Announces the device to the daemon again. The daemon deletes the earlier object like that of a
-/// device which is pulled out. If nothing listens on the port, the daemon creates no new object.
-/// Inhibiting the device does not work, because the daemon would first disable it.
+/// Announces the device to the daemon again. The daemon deletes the earlier object as if the device
+/// were unplugged. If nothing listens on the port, the daemon does not create a new object.
+/// Inhibiting the device is no alternative, because the daemon would disable it first.
 void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
@@ -298,13 +298,13 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// Runs on the world's thread. A modem that resets itself while it stays plugged in looks to
-/// clients like a daemon that restarts. The daemon is killed before the port is closed, otherwise
-/// it would disable the modem.
+/// Runs on the world's thread. To clients, a modem that resets itself while it stays plugged in
+/// looks like a daemon that restarts. The daemon is killed before the port is closed. Otherwise it
+/// would disable the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))
-        return; // a new modem is about to replace it
+        return; // a new modem is about to replace this one
     switch (change) {
     case PlugChange::Gone:
         modem(id).unplug();

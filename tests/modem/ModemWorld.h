@@ -17,9 +17,9 @@
 namespace FakeModems
 {
 
-/** The state of a modem as the daemon reports it. */
+/** The state of a modem as reported by the daemon. */
 struct ModemState {
-    std::string object; // the object path, empty while there is none
+    std::string object; // the object path, or empty if there is no object
     int state = -1;     // MMModemState: 2 locked, 3 disabled, 6 enabled, 7 searching, 8 registered
     int lock = 0;       // MMModemLock: 1 none, 2 SIM PIN, 4 SIM PUK
     bool hasUssd = false;
@@ -32,14 +32,14 @@ const int STATE_ENABLED = 6;
 const int STATE_REGISTERED = 8;
 
 /**
- * A real ModemManager with fake modems, separated from the one of the system. It consists of a
- * temporary directory, a private bus, a stub for polkit and the daemon. Since it sets
+ * A real ModemManager with fake modems, isolated from the ModemManager of the system. It consists
+ * of a temporary folder, a private bus, a polkit stub and the daemon. Since it sets
  * DBUS_SYSTEM_BUS_ADDRESS for the process, it must be created before anything connects to the
  * system bus. Only one instance may exist at a time. The bus and the daemon end with the process,
- * even if it crashes.
+ * even if the process crashes.
  *
- * Must be created on a thread that lives as long as the object. Functions that wait return false or
- * an empty string after ten seconds. No function throws.
+ * Must be created on a thread that exists as long as the object. Functions that wait return false
+ * or an empty string after ten seconds. The functions do not throw exceptions.
  */
 class ModemWorld
 {
@@ -55,17 +55,17 @@ public:
     const std::string &busAddress() const { return m_bus.address(); }
     PolkitStub &polkit() { return *m_polkit; }
 
-    /// Adds a modem in the network that the text of a scenario describes. The daemon knows the
-    /// modem as /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an
-    /// empty string on success, otherwise the error.
+    /// Adds a modem in the network that the scenario text describes. The daemon knows the modem as
+    /// /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an empty
+    /// string on success, otherwise the error.
     std::string addModem(const std::string &id, const std::string &scenario,
                          const ModemSettings &settings = ModemSettings(),
                          FakeModem::Clock clock = FakeModem::Clock::Running);
     bool hasModem(const std::string &id) const { return m_modems.count(id) != 0; }
     FakeModem &modem(const std::string &id) { return *m_modems.at(id); }
 
-    /// Switches a modem to another network and plugs it in again, unless the scenario keeps the
-    /// device away. Returns the errors of the scenario, or an empty string if there are none.
+    /// Switches a modem to another network. Plugs the modem in again unless the scenario keeps the
+    /// device away. Returns the errors in the scenario, or an empty string if there are none.
     std::string useScenario(const std::string &id, const std::string &scenario,
                             FakeModem::Clock clock = FakeModem::Clock::Running);
 
@@ -78,23 +78,23 @@ public:
     bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
-    /// Hangs the daemon, whose name stays on the bus. Functions that ask the daemon get no reply
-    /// meanwhile.
+    /// Suspends the daemon, whose name stays on the bus. Until resumeDaemon() is called, functions
+    /// that call the daemon get no reply.
     void pauseDaemon();
     void resumeDaemon();
 
     ModemState stateOf(const std::string &id);
-    /// Waits until the modem has at least this state and returns its object path. Returns an empty
+    /// Waits until the modem has reached at least this state. Returns its object path, or an empty
     /// string if the modem does not reach the state in time. The state of a failed modem is -1.
     std::string waitForState(const std::string &id, int atLeast);
     /// Waits for the modem, enables it and returns its object path.
     std::string switchOn(const std::string &id);
-    /// Does the same as switchOn() and waits until the modem is registered.
+    /// Like switchOn(), but also waits until the modem is registered.
     std::string enable(const std::string &id);
     bool switchOff(const std::string &id);
     bool waitUntil(const std::function<bool()> &condition);
 
-    /// Returns the end of the daemon's log, which is printed when a test fails.
+    /// Returns the end of the daemon's log, which is printed if a test fails.
     std::string logTail();
 
 private:
@@ -112,7 +112,7 @@ private:
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
     std::mutex m_daemonMutex; // guards m_daemon
-    // Started on m_thread, because the process ends with the thread that started it.
+    // Started on m_thread, because the daemon ends with the thread that started it.
     ChildProcess m_daemon;
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
     LoopThread m_thread{"modem-world"};

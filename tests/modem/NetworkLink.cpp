@@ -24,8 +24,8 @@ void NetworkLink::start()
     m_network.start(*this);
 }
 
-/// Treats each code as the start of a new session, even where a network would take the code as the
-/// answer to its menu. The modem may have missed the cancel before it, because the daemon sends
+/// Treats each code as the start of a new session, even where a network would treat the code as the
+/// answer to its menu. The modem may have missed the preceding cancel, because the daemon sends
 /// only the first cancel.
 int NetworkLink::sendUssd(const std::string &text)
 {
@@ -83,7 +83,7 @@ void NetworkLink::deviceLost(int event)
     });
 }
 
-/// Does nothing, because the device information contains this status too.
+/// Does nothing, because the device information also contains this status.
 void NetworkLink::smsStatusChanged(bool) {}
 
 void NetworkLink::smsFinished(const Tksv::SmsMessage &message, int result)

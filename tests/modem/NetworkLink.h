@@ -13,7 +13,7 @@
 namespace FakeModems
 {
 
-/** The notifications of the network. All functions are called on the modem's thread. */
+/** The notifications of the network. All functions are called from the modem's thread. */
 struct NetworkNews {
     std::function<void(const Tksv::UssdReply &)> ussd;
     std::function<void(int event)> lost;
@@ -23,21 +23,21 @@ struct NetworkNews {
 
 /**
  * The simulated network behind the modem, which plays a scenario. The network runs on its own
- * thread; the link passes its events to the modem's thread, in their order. Must be used on the
- * modem's thread only.
+ * thread. The link passes the network's events to the modem's thread in the same order. Must be
+ * used only on the modem's thread.
  */
 class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private Tksv::BackendObserver
 {
 public:
-    /// The times of the scenario count from start().
+    /// The times in the scenario are relative to start().
     NetworkLink(LoopThread &thread, Tksv::Scenario scenario, NetworkNews news);
     ~NetworkLink() override;
 
     void start();
     bool isStarted() const { return m_started; }
 
-    /// Returns a Tksv::RequestStatus. While a menu is open, a text that does not have the form of a
-    /// code is sent as the answer.
+    /// Returns a Tksv::RequestStatus. While a menu is open, text that does not have the form of a
+    /// code is sent as the answer to the menu.
     int sendUssd(const std::string &text);
     void endUssd();
     bool sendSms(const Tksv::SmsMessage &message);

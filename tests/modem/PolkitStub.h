@@ -11,8 +11,8 @@ namespace FakeModems
 {
 
 /**
- * Replaces polkit on the bus and owns its name. It answers the daemon's authorization requests and
- * allows everything until it is set to refuse.
+ * Replaces polkit on the bus and owns its name. The stub answers the daemon's authorization
+ * requests. It permits everything unless it is set to refuse.
  */
 class PolkitStub
 {
@@ -22,7 +22,7 @@ public:
     PolkitStub(const PolkitStub &) = delete;
     PolkitStub &operator=(const PolkitStub &) = delete;
 
-    /// Returns when the stub owns the name. The result is empty on success, otherwise the error.
+    /// Returns when the stub owns the name: an empty string on success, otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
     /// Keeps the answer to the next request back, as if polkit asked the user for a password.

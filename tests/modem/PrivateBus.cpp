@@ -31,7 +31,7 @@ void writeConfiguration(const std::string &path, const std::string &address)
                            "</busconfig>\n";
 }
 
-/// Waits for the daemon's address, which the daemon writes as soon as it listens.
+/// Waits for the address line, which the bus daemon writes as soon as it listens.
 bool waitForLine(int descriptor)
 {
     pollfd entry = {descriptor, POLLIN, 0};

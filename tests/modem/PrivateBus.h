@@ -8,13 +8,13 @@
 namespace FakeModems
 {
 
-/** A message bus in a directory, which allows everything to everybody. It ends with the object. */
+/** A message bus in a folder. It permits everything to everybody and ends with this object. */
 class PrivateBus
 {
 public:
-    /// Starts the bus and returns when clients can connect. The result is empty on success,
-    /// otherwise the error. The path of `folder` must be short because socket names have at most
-    /// 107 bytes.
+    /// Starts the bus and returns when clients can connect. Returns an empty string on success,
+    /// otherwise the error. The path of `folder` must be short because a socket name can have at
+    /// most 107 bytes.
     std::string start(const std::string &folder);
     const std::string &address() const { return m_address; }
     void stop();

@@ -39,8 +39,8 @@ std::string swapped(std::string digits)
     return digits;
 }
 
-/// Returns the display condition and the padded name in the default alphabet (3GPP TS 31.102,
-/// 4.2.12).
+/// Returns the display condition and the padded name, encoded in the default alphabet (3GPP TS
+/// 31.102, 4.2.12).
 std::string providerName(const std::string &name)
 {
     Bytes bytes = toSeptets(name).value_or(Bytes());
@@ -49,7 +49,7 @@ std::string providerName(const std::string &name)
     return toHex(bytes);
 }
 
-/// Returns the status words of a VERIFY without a code (ETSI TS 102 221, 11.1.9).
+/// Returns the status words of a VERIFY command without a PIN (ETSI TS 102 221, 11.1.9).
 std::string triesLeft(int tries)
 {
     char words[16];

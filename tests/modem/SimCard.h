@@ -12,13 +12,16 @@ namespace FakeModems
 struct SimData {
     std::string imsi;
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
-    std::string operatorName;                  // the service provider name, or empty for none
+    std::string operatorName;                  // the service provider name, or empty
     int mncLength = 2;
     std::string pin = "0000";
     std::string puk = "12345678";
 };
 
-/** The AT commands of a SIM card: its lock, its counters and the few files that a daemon reads. */
+/**
+ * The AT commands of a SIM card: the lock, the retry counters and the few files that a daemon
+ * reads.
+ */
 class SimCard
 {
 public:

@@ -14,7 +14,7 @@ const unsigned HAS_USER_DATA_HEADER = 0x40;
 const unsigned INTERNATIONAL = 0x91;
 
 /**
- * Reads octets from the front. A read past the end returns zeros and makes isGood() return false.
+ * Reads octets in sequence. Reading past the end returns zeros and makes isGood() return false.
  */
 class Reader
 {
@@ -48,8 +48,8 @@ private:
     bool m_good = true;
 };
 
-/// Reads an address (3GPP TS 23.040, 9.1.2.5). Each octet holds two digits, the first one in the
-/// low half.
+/// Reads an address (3GPP TS 23.040, 9.1.2.5). Each octet contains two digits; the first digit is
+/// in the low half.
 std::string readAddress(Reader &reader)
 {
     const char symbols[] = "0123456789*#abc";
@@ -63,7 +63,8 @@ std::string readAddress(Reader &reader)
     return number;
 }
 
-/// Bits 3 and 4 of the first octet contain the format (3GPP TS 23.040, 9.2.3.3).
+/// Returns the length of the validity period. Bits 3 and 4 of the first octet contain its format
+/// (3GPP TS 23.040, 9.2.3.3).
 std::size_t validityOctets(unsigned first)
 {
     switch (first >> 3 & 0x03) {
@@ -76,7 +77,8 @@ std::size_t validityOctets(unsigned first)
     }
 }
 
-/// Reads the elements 00 (8-bit reference) and 08 (16-bit reference) of 3GPP TS 23.040, 9.2.3.24.
+/// Reads the header elements 00 (8-bit reference) and 08 (16-bit reference) of 3GPP TS 23.040,
+/// 9.2.3.24.
 void readHeader(const Bytes &header, SubmittedSms &sms)
 {
     for (std::size_t i = 0; i + 1 < header.size(); i += 2U + header[i + 1]) {
@@ -103,8 +105,8 @@ Alphabet alphabetOf(unsigned coding)
     return alphabet == 1 ? Alphabet::Data : Alphabet::Default;
 }
 
-/// `length` counts septets in the default alphabet, including the header and the fill bits. In the
-/// other alphabets it counts octets.
+/// In the default alphabet, `length` is the number of septets, including the header and the fill
+/// bits. In the other alphabets, it is the number of octets.
 std::string decodeUserData(const Bytes &data, std::size_t headerSize, std::size_t length,
                            Alphabet alphabet)
 {

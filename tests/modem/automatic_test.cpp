@@ -83,8 +83,8 @@ private:
     std::unique_ptr<ModemWorld> m_world;
 };
 
-/// Unsets the variable before the first call of the library, because tests use the simulator by
-/// default.
+/// Unsets the variable before the first call of the library. Tests use the simulator by default
+/// because of this variable.
 void ModemAutomaticTest::setUpClass()
 {
     qunsetenv("TKSV_BACKEND");
@@ -102,7 +102,7 @@ void ModemAutomaticTest::tearDown()
         std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
     unregisterAll();
     m_world.reset();
-    // The library looks for the next world once it has noticed the end of this one.
+    // The library searches for the next world only after it has noticed the end of this one.
     TKSV_Device_UseModem(nullptr);
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_BUS; }));
     received().clear();
@@ -122,7 +122,8 @@ void ModemAutomaticTest::addSecondModem()
     QCOMPARE(m_world->addModem("two", network, settings), std::string());
 }
 
-/// This test must be the first of the process, because the library has not seen any device yet.
+/// Tests a library that has not seen any device yet. This test must therefore be the first in the
+/// process.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
 {
     addModem();
@@ -239,7 +240,7 @@ void ModemAutomaticTest::whatTheUserChoseStays()
     registerAll();
     QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     addModem();
-    // The library has found the modem and does not use it.
+    // The library has found the modem but does not use it.
     QVERIFY(waitUntil([] { return countModems() == 1; }));
     QCOMPARE(int(info().backend), int(TKSV_BACKEND_SIMULATOR));
     TKSV_Device_UseAutomatic();

@@ -1,6 +1,6 @@
 /*
- * Tests how the device SDK works with a real ModemManager. The tests follow the table of
- * docs/modems.md line by line.
+ * Tests how the device SDK works with a real ModemManager. The tests follow the rows of the table
+ * in docs/modems.md.
  */
 #include "ModemTest.h"
 
@@ -36,13 +36,13 @@ void onNetworkText(void *, const TKSV_NetworkText *text)
     networkTexts().add(text->text + std::string(text->waitsForAnswer ? "?" : "."));
 }
 
-/// Ignores the event, as the plug-in does when it waits for no reply.
+/// Ignores the event, like the plug-in when it is not waiting for a reply.
 unsigned char takesNothing(int, void *)
 {
     return 0;
 }
 
-/** Leaves all texts to the dashboard, because no USSD call-back accepts them. */
+/** Leaves all network messages to the dashboard, because no USSD call-back accepts them. */
 class OnlyDashboard
 {
 public:
@@ -169,8 +169,8 @@ void ModemDeviceTest::theModemTellsOfItself()
 
 /* ---- replies ----------------------------------------------------------------------------- */
 
-/// Splits the reply only if it comes after the OK. If a reply comes with the OK, the daemon takes
-/// only the bytes that are there when it reads the OK.
+/// Tests replies that arrive in pieces after the OK. If a reply comes together with the OK, the
+/// daemon uses only the bytes that have arrived when it reads the OK.
 void ModemDeviceTest::repliesArriveWhole()
 {
     useModem();
@@ -293,7 +293,7 @@ void ModemDeviceTest::unsaneTextIsRefused()
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
 }
 
-/* ---- the end of a command ---------------------------------------------------------------- */
+/* ---- how commands end -------------------------------------------------------------------- */
 
 void ModemDeviceTest::aReleasedCommandDoesNotBlockTheNext()
 {
@@ -311,12 +311,13 @@ void ModemDeviceTest::aReplacedCommandIsNotAnswered()
 {
     useModem();
     QCOMPARE(request(u"*133#"), 0L);
-    QCOMPARE(request(u"*120#"), 0L); // may come before the modem has received the first one
+    QCOMPARE(request(u"*120#"), 0L); // possibly sent before the modem receives the first command
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
-/// The dashboard shows the reply, because the daemon cannot know which command it belongs to.
+/// Tests that the dashboard shows the reply, because the daemon cannot know which command it
+/// belongs to.
 void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 {
     useModem();
@@ -332,7 +333,7 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"late."});
 }
 
-/// The library does not yet know the modem's state when the command comes.
+/// Tests a command that is sent before the library knows the state of the modem.
 void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
 {
     useModem();
@@ -348,7 +349,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     QCOMPARE(received().responses.all().back().type, isAccepted ? int(TKSV_FAILURE_NO_DEVICE) : 0);
 }
 
-/// Checks that calls do not wait as long as GDBus does by default, which is 25 s.
+/// Tests that calls return before the default time-out of GDBus, which is 25 s.
 void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
 {
     m_world = std::make_unique<ModemWorld>();
@@ -356,7 +357,7 @@ void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
     m_world->pauseDaemon();
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < 200) // hits moments in which a reply of the daemon is pending
+    while (timer.elapsed() < 200) // some of these calls are made while a reply is pending
         TKSV_Device_UseModem(nullptr);
     QVERIFY(timer.elapsed() < 15000);
     m_world->resumeDaemon();
@@ -385,7 +386,7 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // and the library leaves it disabled
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library leaves the modem disabled
     QVERIFY(request(u"*100#") != 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
@@ -488,8 +489,8 @@ void ModemDeviceTest::messagesAreDeletedFromTheModem()
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
 }
 
-/// The message fails when its device is left. The daemon creates the message later, and the library
-/// then deletes it.
+/// Tests a message that fails because the user selects another device. The daemon creates the
+/// message later, and the library then deletes it.
 void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
 {
     useModem();
@@ -518,7 +519,7 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // the last status counts, because an earlier 7 may come late
+    QVERIFY(waitUntil([] { // only the last status counts, because an earlier 7 may come late
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));

@@ -1,4 +1,4 @@
-// The headers of GLib come before those of Qt, where "signals" is a keyword.
+// The GLib headers precede the Qt headers, in which "signals" is a keyword.
 #include "ModemWorld.h"
 
 #include <QElapsedTimer>
@@ -72,7 +72,7 @@ const int WEATHER = 9; // rows of the service tree
 const int TARIFF = 10;
 const int ALERT = 11;
 
-/// Returns the text of all labels of a window.
+/// Returns the text of all labels in a window.
 QString shownText(const QWidget *window)
 {
     QStringList texts;
@@ -126,7 +126,7 @@ const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
 /**
  * Tests the dashboard with the plug-in on top of the device SDK, a real ModemManager and an AT
- * modem. The tests do what a user does and check which commands reach the modem.
+ * modem. The tests act like a user and check which commands reach the modem.
  */
 class EndToEndTest : public SimTest
 {
@@ -275,7 +275,7 @@ T *EndToEndTest::part(const QWidget *dialog, const char *role)
 /// Selects a service, fills in its input field and returns its send button.
 QPushButton *EndToEndTest::openService(int row)
 {
-    // The plug-in also prints this warning on success.
+    // The plug-in also logs this warning on success.
     allowWarning("TKSV_SMSSrv_CreateSMSRecord = 0");
     const QWidget *dialog = openDialog(PAID_TYPE_USSD_SMS, "USSDUIPlugin_SMSDialog");
     if (!dialog)
@@ -288,8 +288,7 @@ QPushButton *EndToEndTest::openService(int row)
     return part<QPushButton>(dialog, "SMSDialog_SendButton");
 }
 
-/// Waits until the button is enabled, because a message cannot be sent at the moment the window
-/// opens.
+/// Waits until the button is enabled. A message cannot be sent at the moment when the window opens.
 bool EndToEndTest::sendWhenReady(QPushButton *button)
 {
     if (!button || !QTest::qWaitFor([button] { return button->isEnabled(); }))
@@ -312,7 +311,7 @@ void EndToEndTest::aMenuOfThreeSteps()
     QCOMPARE(ask(QLatin1String("*123#")), QLatin1String("Menu\n1 Data\n2 Other"));
     QCOMPARE(ask(QLatin1String("1")), QLatin1String("Data\n1 Day\n2 Week"));
     QCOMPARE(ask(QLatin1String("2")), QLatin1String("A week booked."));
-    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // includes the commands of the detection
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // includes the detection commands
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
@@ -325,8 +324,8 @@ void EndToEndTest::closingTheDashboardEndsTheSession()
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
 }
 
-/// The window of the menu leaves the session open when it closes. The next window that opens ends
-/// it.
+/// Tests the session of a menu. It stays open when the window of the menu closes, and ends when the
+/// next window opens.
 void EndToEndTest::theAccountWindowEndsTheSession()
 {
     openPage();
@@ -343,7 +342,7 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    // No cancel is sent this time.
+    // This time, no cancel is sent.
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
@@ -406,13 +405,13 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// The command record of the plug-in has room for 91 code units.
+/// Tests a command of 91 code units, the longest that fits in the plug-in's command record.
 void EndToEndTest::theLongestCommand()
 {
     openPage();
     const QString code = QLatin1Char('*') + QString(89, QLatin1Char('7')) + QLatin1Char('#');
     QCOMPARE(code.size(), 91);
-    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know the code
+    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know this code
     QString hex;
     for (const QChar c : code)
         hex += QString::fromLatin1("%1").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
@@ -499,7 +498,7 @@ void EndToEndTest::theModemIsPulledOutWhileAMessageIsSent()
     QTRY_VERIFY(button->isEnabled());
 }
 
-/* ---- the end of a command ---------------------------------------------------------------- */
+/* ---- how commands end -------------------------------------------------------------------- */
 
 void EndToEndTest::theModemIsPulledOutWhileACommandIsOut()
 {

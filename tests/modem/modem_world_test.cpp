@@ -166,7 +166,7 @@ void ModemWorldTest::cancelReachesTheModem()
     QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
     QVERIFY(m_client->cancel());
     QCOMPARE(modem().timesReceived("AT+CUSD=2"), 1);
-    // The session is over, so there is no answer.
+    // The session is over, so there is no reply.
     QCOMPARE(m_client->initiate("1").code, int(MM_CORE_ERROR_ABORTED));
 }
 
@@ -203,8 +203,8 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// The reply must come after the OK. If it comes with the OK, the daemon takes only the bytes that
-/// are there by then.
+/// Tests a reply that arrives in pieces. The reply must come after the OK. If it comes together
+/// with the OK, the daemon uses only the bytes that have arrived by then.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();

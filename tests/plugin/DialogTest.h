@@ -12,8 +12,8 @@
 #include "windows/USSDGeneralDlg.h"
 
 /**
- * The base class of tests that use the general dialog as a user does, with the fake device SDK. The
- * network is silent until a test sends a reply.
+ * The base class of tests that operate the general dialog like a user, with the fake device SDK.
+ * The network is silent until a test sends a reply.
  */
 class DialogTest : public PluginTest
 {
@@ -22,13 +22,13 @@ class DialogTest : public PluginTest
 protected:
     void tearDown() override;
 
-    /// Creates and shows the dialog, and deletes an earlier one. An embedded dialog is a child of
-    /// page().
+    /// Deletes any earlier dialog, and creates and shows a new one. An embedded dialog is a child
+    /// of page().
     void open(WINDOW_MODEL model = WINDOW_MODEL_EMBEDDED);
     USSDGeneralDlg *dialog() { return m_dialog; }
     QWidget *page() { return m_page.data(); }
 
-    // ---- parts of the dialog
+    // ---- widgets of the dialog
     template <typename Widget>
     Widget *part(const char *role)
     {
@@ -44,21 +44,22 @@ protected:
     TranscriptView *history() { return part<TranscriptView>("History"); }
     QLabel *promptLabel();
     QLabel *descriptionLabel();
-    QList<QPushButton *> presetButtons(); ///< in the order of their creation
+    QList<QPushButton *> presetButtons(); ///< in order of creation
 
-    // ---- actions of the user
+    // ---- user actions
     static void click(QPushButton *button);
     void send(const QString &command); ///< types the command and presses Send
 
-    // ---- actions of the network
+    // ---- network actions
     void networkSays(const QString &text);
-    static QStringList requests(); ///< the texts of all requests so far
+    static QStringList requests(); ///< the commands of all requests so far
 
-    // ---- the visible state
-    QStringList shownLines(); ///< the transcript's paragraphs, with their captions
-    /// Returns whether the prompt is shown and all controls that send are disabled.
+    // ---- visible state
+    QStringList shownLines(); ///< the paragraphs of the transcript, with their captions
+    /// Returns true if the prompt is shown and all controls that send are disabled.
     bool isWaiting();
-    /// Returns whether no prompt is shown, the fields are enabled and empty, and Send is disabled.
+    /// Returns true if the prompt is hidden, the fields are enabled and empty, and Send is
+    /// disabled.
     bool isIdle();
     static QString text(const char *key);
     static QString sentLine(const QString &command);

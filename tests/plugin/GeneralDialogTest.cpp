@@ -56,7 +56,7 @@ void GeneralDialogTest::activateWindow()
     QVERIFY(QTest::qWaitForWindowActive(dialog()->window()));
 }
 
-/// Emits a signal of the combo box with an index.
+/// Emits the given signal of the combo box with `index` as the argument.
 void GeneralDialogTest::activate(const char *signal, int index)
 {
     QVERIFY(QMetaObject::invokeMethod(combo(), signal, Q_ARG(int, index)));

@@ -15,7 +15,7 @@
 #include "Languages.h"
 #include "requests/USSDLogic.h"
 
-/// Counts the key events that no child widget has accepted.
+/// Counts the key events that no child widget accepts.
 class KeyCounter : public QWidget
 {
 public:
@@ -34,7 +34,9 @@ inline QGridLayout *gridOf(QWidget *widget)
     return qobject_cast<QGridLayout *>(widget->layout());
 }
 
-/** Tests the general dialog: its entry fields, sending, answers and the transcript. */
+/**
+ * The base class of tests of the general dialog: its fields, sending, answers and the transcript.
+ */
 class GeneralDialogTest : public DialogTest
 {
     Q_OBJECT
@@ -43,12 +45,13 @@ protected:
     void setUp() override;
 
 protected:
-    /// Presses Clear and answers the confirmation box with the button of this text key, or with
-    /// Escape for a null key. Returns the text of the box, or a null text if no box was opened.
+    /// Presses Clear, and then the button of the confirmation box whose text key is `buttonKey`, or
+    /// Escape if the key is null. Returns the text of the box, or a null string if no box was
+    /// opened.
     QString clearAndAnswer(const char *buttonKey);
     /// Returns the index of the first log line that contains `part`, or -1.
     int lineOf(const char *part);
-    void activateWindow(); ///< makes the dialog's choice of the focus effective
+    void activateWindow(); ///< a widget has the focus only in an active window
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 };

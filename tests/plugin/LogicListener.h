@@ -10,9 +10,9 @@
 class USSDLogic;
 
 /**
- * Collects the logic's signals like a dialog does, through queued connections to the thread that
- * constructed the listener. QSignalSpy is not used because the device SDK's threads would write to
- * it.
+ * Collects the logic object's signals like a dialog: through queued connections to the thread that
+ * constructed the listener. QSignalSpy cannot be used because the device SDK's threads would write
+ * to it.
  */
 class LogicListener : public QObject
 {
@@ -29,7 +29,7 @@ public:
     QList<Answer> answers;
     QList<QList<QVariant>> smsResults;
     QList<bool> readiness;
-    QThread *thread = nullptr; ///< the thread that received the newest answer
+    QThread *thread = nullptr; ///< the thread that received the latest answer
 
 private slots:
     void takeAnswer(int component, QString text);

@@ -14,7 +14,7 @@ int PipelineModel::send(int component, const QString &command)
 }
 
 /// Sends the head of the list. If this fails, the head is removed without an answer, and the
-/// following entries keep waiting.
+/// entries that follow keep waiting.
 int PipelineModel::handOverHead()
 {
     const QString command = m_list.first().second;

@@ -8,15 +8,15 @@
 #include <QString>
 
 /**
- * A model of the request pipeline, with the same rules in their simplest form, without threads and
- * without time. A random test compares the real pipeline with the model.
+ * A model of the request pipeline that follows the same rules in their simplest form, without
+ * threads and without timers. A random test compares the real pipeline with the model.
  */
 class PipelineModel
 {
 public:
     typedef QPair<int, QString> Answer; // component, text
 
-    /// Decides whether the device accepts the next request.
+    /// Returns true if the device accepts the next request.
     std::function<bool()> deviceAccepts;
 
     /// Returns 0 or 1, as SendUSSDCommand() does.
@@ -24,7 +24,7 @@ public:
     void reply(const QString &text) { announce(text); }
     void timeOut(const QString &text) { announce(text); }
     void deviceFailed(const QString &text);
-    /// Removes all entries except those for whose component `keep` returns true.
+    /// Removes all entries except those of components for which `keep` returns true.
     void clear(const std::function<bool(int)> &keep);
 
     QList<Answer> answers; // the answers that the dialogs must receive, in order

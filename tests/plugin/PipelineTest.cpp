@@ -2,7 +2,7 @@
 
 void PipelineTest::setUp()
 {
-    // The static variable stores the times before any test has changed them.
+    // A static variable, to keep the times that were set before any test changed them.
     static const ReplyTimes shipped = USSDLogic::replyTimes();
     m_shippedTimes = shipped;
     PluginTest::setUp();
@@ -58,7 +58,7 @@ QStringList PipelineTest::linesOf(const char *function)
 
 bool PipelineTest::sendsWithoutWaiting()
 {
-    // The full wait, in milliseconds, elapses only if the function returns false.
+    // In milliseconds. The full wait elapses only if the function returns false.
     const int wait = 20000;
     setTimes(NO_PATIENCE, wait);
     QElapsedTimer elapsed;
@@ -67,7 +67,7 @@ bool PipelineTest::sendsWithoutWaiting()
     return result == 0 && elapsed.elapsed() < wait / 2;
 }
 
-/// Compares the times: a send that does not wait takes less than a millisecond.
+/// Measures the time of the call. Without a wait, sending takes less than a millisecond.
 bool PipelineTest::sendWaitsItsTime()
 {
     const int wait = 200;

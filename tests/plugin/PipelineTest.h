@@ -15,7 +15,7 @@
 #include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
 
-const int NO_PATIENCE = 60000; // ms; a limit that no test reaches
+const int NO_PATIENCE = 60000; // ms; a time-out that no test reaches
 
 inline std::atomic<qint64> now{0};
 
@@ -29,7 +29,7 @@ inline QString units(int count)
     return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
 }
 
-/// Runs code while a response is being announced, on the thread that announces it.
+/// Runs code on the thread that announces a response, while the response is being announced.
 class Interloper : public QObject
 {
     Q_OBJECT
@@ -86,16 +86,17 @@ protected:
     LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
     QList<LogicListener::Answer> &answers() { return m_listener->answers; }
     void setTimes(int reply, int previous);
-    /// Stops the clock, which then advances by letTimePass() only.
+    /// Stops the clock. From then on, only letTimePass() advances it.
     void stopClock();
     void letTimePass(int milliseconds);
-    /// Waits until `part` was logged `times` times, which shows the progress of a thread.
+    /// Waits until `part` has been logged `times` times, which shows how far a thread has
+    /// progressed.
     bool waitUntilLogged(const char *part, int times);
-    /// Returns whether a command is sent without a wait for an earlier time-out.
+    /// Returns true if a command is sent without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
-    /// Returns whether a command is sent only after the wait for an earlier time-out.
+    /// Returns true if a command is sent only after waiting for an earlier time-out.
     bool sendWaitsItsTime();
-    /// Returns the log texts of a function of USSDLogic, in order.
+    /// Returns the texts that a function of USSDLogic has logged, in order.
     QStringList linesOf(const char *function);
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 

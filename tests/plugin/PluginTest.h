@@ -8,8 +8,8 @@
 
 /**
  * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
- * starts with a reset SDK, without a singleton, and with its own plug-in library directory and user
- * data directory. It ends with the calls that a host makes to shut the plug-in down.
+ * starts with a reset SDK, without the singleton, and with its own plug-in library directory and
+ * user data directory. It ends with the calls that a host makes to shut the plug-in down.
  */
 class PluginTest : public UssdTest
 {
@@ -19,14 +19,14 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    /// Replaces the configuration that the next singleton reads. An empty text deletes the file.
+    /// Replaces the configuration that the next singleton reads. An empty string deletes the file.
     void writeConfig(const QByteArray &xml);
-    /// Replaces the system profile file. An empty text deletes the file.
+    /// Replaces the system profile file. An empty string deletes the file.
     void writeSystemProfiles(const QByteArray &xml);
-    QString pluginFolder(); ///< the directory of the two files, without a trailing separator
+    QString pluginFolder(); ///< the directory of both files, without a trailing separator
     QString userFolder();   ///< the user data directory, with a trailing separator
 
-    /// Returns a small but complete configuration with every section, colours and an IMSI table.
+    /// Returns a small but complete configuration: every section, colours and an IMSI table.
     static QByteArray completeConfig();
     /// Returns an "item" element of a profile file.
     static QByteArray profileItem(const QByteArray &name, const QByteArray &value,

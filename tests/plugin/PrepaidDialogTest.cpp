@@ -17,7 +17,7 @@ PrepaidTest::Account PrepaidDialogTest::only(const QByteArray &charge)
     return account;
 }
 
-/// Presses the button of the component. The entry always contains a PIN.
+/// Types a PIN and presses the button of the component.
 void PrepaidDialogTest::sendFrom(int component)
 {
     type(pin());

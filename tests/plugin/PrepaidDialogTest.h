@@ -31,8 +31,8 @@ inline QStringList ussdCalls()
 }
 
 /**
- * Tests the commands of the account window, the moments at which it sends them, and its reactions
- * to answers.
+ * The base class of tests that check which commands the account window sends, when it sends them,
+ * and how it handles the answers.
  */
 class PrepaidDialogTest : public PrepaidTest
 {
@@ -42,7 +42,7 @@ protected:
     void configureCharge(const QByteArray &charge);
     void refuseAll(int status);
     void sendFrom(int component);
-    Account only(const QByteArray &charge); ///< an account that shows only the top-up
+    Account only(const QByteArray &charge); ///< returns an account that shows only the top-up
 };
 
 #endif

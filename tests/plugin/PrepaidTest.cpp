@@ -24,7 +24,7 @@ QByteArray element(const char *name, const QByteArray &text)
     return QByteArray("<") + name + ">" + text + "</" + name + ">";
 }
 
-/// Returns the item, or an unknown item if it is empty, because the reader needs four items.
+/// Returns the item, or an unknown item if it is empty, because the parser requires four items.
 QByteArray orUnknown(const QByteArray &item)
 {
     return item.isEmpty() ? QByteArray("<item name='none'/>") : item;
@@ -42,7 +42,7 @@ void PrepaidTest::setUp()
 {
     PluginTest::setUp();
     // Opening the dialog cancels a pending command. The next command would then wait for the
-    // time-out of the cancelled one.
+    // time-out of the cancelled command.
     const ReplyTimes times = {30000, 1};
     USSDLogic::setReplyTimes(times);
 }
@@ -82,7 +82,7 @@ QByteArray PrepaidTest::msisdnItem(int pos)
     return item("MSISDN", pos, element("command", "*102#") + element("UpdateButton", "1"));
 }
 
-/// Returns the sections that the general window and the event 579 need.
+/// Returns the sections that the general window and the device event 579 require.
 QByteArray PrepaidTest::sectionsForOthers()
 {
     const QByteArray looks =
@@ -148,7 +148,7 @@ void PrepaidTest::fitFrame()
     drainEvents();
 }
 
-// ---- actions of the user and the network -----------------------------------------------------
+// ---- user and network actions ----------------------------------------------------------------
 
 void PrepaidTest::click(QPushButton *button)
 {

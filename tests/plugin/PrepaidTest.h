@@ -17,7 +17,7 @@
 class QMessageBox;
 
 /**
- * The base class of tests that use the account window in its frame as a user does, with the fake
+ * The base class of tests that operate the account window in its frame like a user, with the fake
  * device SDK. The network is silent until a test sends a reply.
  */
 class PrepaidTest : public PluginTest
@@ -42,17 +42,19 @@ protected:
                                  const QByteArray &limitText = "0-9");
     static QByteArray onlineItem(int pos, const QByteArray &url);
     static QByteArray msisdnItem(int pos);
-    /// Writes both accounts and the detection. The detection is enabled unless `pattern` is empty.
+    /// Writes both accounts and the detection section. The detection is enabled unless `pattern` is
+    /// empty.
     void configure(const Account &prepaid, const Account &postpaid,
                    const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
     void configure(const Account &both) { configure(both, both); }
 
     // ---- the window
-    /// Creates the dialog in a visible frame of the dialog's preferred size. Sends nothing.
+    /// Creates the dialog in a visible frame that has the dialog's preferred size. Does not send
+    /// anything.
     void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
-    /// Creates the dialog as make() does and opens it.
+    /// Creates the dialog with make() and opens it.
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
-    /// Opens the dialog in a frame of the service, as a host does.
+    /// Opens the dialog through the service, like a host.
     void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
     void fitFrame(); ///< resizes the frame to the dialog's current preferred size
     USSDDlg *dialog() { return m_dialog; }
@@ -75,26 +77,26 @@ protected:
     QTextEdit *activateBox() { return part<QTextEdit>("ActivateStatusTextEdit"); }
     QTextEdit *msisdnBox() { return part<QTextEdit>("MSISDNStatusTextEdit"); }
 
-    // ---- actions of the user
+    // ---- user actions
     static void click(QPushButton *button);
-    void type(const QString &pin);  ///< types into the entry, key by key
+    void type(const QString &pin);  ///< types into the entry field, key by key
     void topUp(const QString &pin); ///< types the PIN and presses the button
-    /// Returns the widget with the focus, in the message box if one is open.
+    /// Returns the widget with the focus. While a message box is open, this is a widget of the box.
     QWidget *keyTarget();
     void pressReturn(bool isRepetition = false); ///< presses the key without releasing it
     void releaseReturn();
 
-    // ---- actions of the network
+    // ---- network actions
     void networkSays(const QString &text);
-    /// Sends a reply that opens a message box. Calls `look` with the box open, presses its button
-    /// and returns its text, or a null text when no box was opened.
+    /// Sends a reply that opens a message box. While the box is open, calls `look`; then presses
+    /// the button of the box. Returns the text of the box, or a null string if no box was opened.
     QString networkSaysIntoBox(const QString &text,
                                const std::function<void(QMessageBox *)> &look = nullptr);
     static QMessageBox *messageBox(); ///< returns the open message box, or null
     static QString textInMessageBox();
     static void closeMessageBox();                      ///< presses the box's button
-    void logicSays(int component, const QString &text); ///< sends an answer without a command
-    static QStringList requests();                      ///< the texts of all requests so far
+    void logicSays(int component, const QString &text); ///< emits an answer to no command
+    static QStringList requests();                      ///< the commands of all requests so far
 
     static QString text(const char *key);
     static QStringList languages();

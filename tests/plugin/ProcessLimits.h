@@ -8,7 +8,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Prevents the process from opening files during its lifetime, by using up all file descriptors.
+/// Sets the limit of open files to zero while an object exists, so that no file can be opened.
 class NoFileCanBeOpened
 {
 public:
@@ -26,7 +26,7 @@ private:
     rlimit m_before;
 };
 
-/// Makes the process an ordinary user during its lifetime, because root ignores permissions.
+/// Makes the process an ordinary user while an object exists, because root ignores permissions.
 class OrdinaryUser
 {
 public:
@@ -47,7 +47,7 @@ private:
     bool m_wasRoot;
 };
 
-/// Limits the size of files during its lifetime, so that writing fails as on a full disk.
+/// Limits the size of files while an object exists, so that writing fails as on a full disk.
 class FullDisk
 {
 public:

@@ -33,7 +33,7 @@ inline QPushButton *editButton(QWidget *window)
         QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
 }
 
-/// Returns the bounding rectangle of the differences between two pictures, inside `part`.
+/// Returns the bounding rectangle of the differences between two images within `part`.
 inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
 {
     QRect difference;
@@ -46,7 +46,7 @@ inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
     return difference;
 }
 
-/** Tests the profile editor, alone and opened by the general dialog's button. */
+/** The base class of tests of the profile editor, alone or opened from the general dialog. */
 class ProfileEditorTest : public PluginTest
 {
     Q_OBJECT
@@ -63,20 +63,20 @@ protected:
     Widget *find(const char *name);
     QString cell(int row, int column);
     void doubleClick(int row, int column);
-    QLineEdit *cellEditor(); ///< the line edit of the current cell
+    QLineEdit *cellEditor(); ///< the line edit in the current cell
     void type(int row, int column, const QString &text);
     /// Calls `act` once in the event loop of the next message box, and stores the text of the box.
     void whenMessageOpens(const std::function<void(QMessageBox *)> &act);
-    /// Answers the next message box.
+    /// Answers the next message box with the button whose text key is `buttonKey`.
     void answerNextMessage(const QString &buttonKey);
     void press(QMessageBox *box, const QString &buttonKey);
-    /// Opens the cell, types the text and leaves the cell in the given way.
+    /// Opens the cell's editor, types the text and leaves the cell in the given way.
     void typeAndLeave(int row, int column, const QString &text, int way);
     QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
     QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
-    /// Confirms the question whether to save, and the message that follows.
+    /// Confirms the message box that asks whether to save, and then the message that follows.
     void saveAndAcknowledge();
-    void shutDown(); ///< makes all shut-down calls that docs/host-integration.md allows
+    void shutDown(); ///< makes all shut-down calls listed in docs/host-integration.md
     QList<USSDProfile> savedProfiles();
 
     enum WayToLeave { Tab, ClickOnSave, ClickOnAnotherCell, AnotherWindow, Return };

@@ -6,8 +6,8 @@
 /**
  * The expected behaviour of CommandQueue. The model identifies the head by its command instead of a
  * number. The flags "sent" and "claimed" belong to a command and are removed together with it.
- * Commands are numbered 1, 2, 3 in the order in which they are sent; 0 means that there is no
- * command.
+ * Commands are numbered 1, 2, 3 in the order in which they are sent. The number 0 means "no
+ * command".
  */
 struct QueueModel {
     struct Entry {

@@ -27,7 +27,7 @@ bool isNeverKept(const USSDCmdOrResp &)
     return false;
 }
 
-/// Returns a command whose text is its number as one letter.
+/// Returns a command whose text is its number, written as one letter.
 USSDCmdOrResp commandOf(int number, int component)
 {
     static const QString letters = QString::fromLatin1("-abcdefgh");
@@ -96,7 +96,7 @@ const char *QueueWorld::nameOf(Thread thread)
     return names[thread];
 }
 
-/// Returns whether an event can start on the GUI thread. A receiver of the time-out signal may make
+/// Returns true if an event can start on the GUI thread. A receiver of the time-out signal may make
 /// any call and may run an event loop.
 bool QueueWorld::canStartOnGui() const
 {
@@ -189,7 +189,7 @@ void QueueWorld::run(Thread thread, int way)
     checkRest();
 }
 
-/// Continues with the step if `holds` is true, otherwise ends the call.
+/// Continues with the step if `holds` is true. Otherwise ends the call.
 void QueueWorld::goOn(Call &call, bool holds, Step step)
 {
     if (holds)
@@ -215,7 +215,7 @@ void QueueWorld::compareLists()
     expect(same, "the queue holds the commands of the model");
 }
 
-/// Returns the commands that are in the list or that a call or the timer still refers to.
+/// Returns the commands that are in the list or to which a call or the timer still refers.
 unsigned QueueWorld::heldCommands() const
 {
     unsigned commands = m_timer.isArmed ? bit(m_timer.command) : 0;
@@ -232,8 +232,9 @@ void QueueWorld::checkOutcomes()
     expect((m_answered | m_refused | m_dropped | heldCommands()) == all, "no command is lost");
 }
 
-/// Checks the head while no thread is in a call. Then only a time-out can remove the head. After a
-/// refused or too long command, no time-out needs to be running, and this silence is deliberate.
+/// Checks the head while no thread is in a call. In this state, only a time-out can remove the
+/// head. After a command that was refused or is too long, no time-out has to be running. This is
+/// deliberate.
 void QueueWorld::checkRest()
 {
     if (isBusy() || m_model.entries.empty())
@@ -245,7 +246,7 @@ void QueueWorld::checkRest()
 
 // ---- sending -------------------------------------------------------------------------------
 
-/// Appends the command. Also constructs the singleton if there is none.
+/// Appends the command. Constructs the singleton first if there is none.
 void QueueWorld::append(Call &call)
 {
     if (!m_gateIsOpen)
@@ -338,7 +339,7 @@ void QueueWorld::disarmTimer(Call &call)
 
 // ---- outcomes ------------------------------------------------------------------------------
 
-/// Claims the head. The thread that claims a head also announces its answer.
+/// Claims the head. The thread that claims the head also announces its answer.
 CommandQueue::Claim QueueWorld::claim(Call &call, quint64 number, int expected)
 {
     CommandQueue::Head head;
@@ -416,7 +417,7 @@ void QueueWorld::claimForTimeOut(Call &call)
     goOn(call, call.command != 0, RemoveTimedOut);
 }
 
-/// Removes the head after the receivers of the announcement have returned.
+/// Removes the head after all receivers of the announcement have returned.
 void QueueWorld::removeTimedOut(Call &call)
 {
     if (!call.logicIsGone)
@@ -451,7 +452,7 @@ void QueueWorld::clearAll(Call &call)
     call = Call();
 }
 
-/// Ends the session on the device. The list and the time-out do not change.
+/// Ends the session on the device. The list and the time-out stay unchanged.
 void QueueWorld::release(Call &call)
 {
     call = Call();
@@ -483,7 +484,7 @@ void QueueWorld::closeGate(Call &call)
     call.next = DeleteLogic;
 }
 
-/// Deletes the logic object. At this step no other thread is in a call, and no thread can start
+/// Deletes the logic object. At this step, no other thread is in a call, and no thread can start
 /// one.
 void QueueWorld::deleteLogic(Call &call)
 {
@@ -494,7 +495,7 @@ void QueueWorld::deleteLogic(Call &call)
 
 // ---- key -----------------------------------------------------------------------------------
 
-/// Writes values of a few bits one after another.
+/// Writes values of a few bits each, one after another.
 class QueueWorld::KeyWriter
 {
 public:
@@ -536,10 +537,10 @@ QueueWorld::Oldest QueueWorld::oldestCompared() const
 }
 
 /// Returns the key of this state. The steps compare numbers only with other numbers, and commands
-/// only with other commands. The key therefore contains their distances from the newest one. A mark
-/// that is older than every number it can still be compared with gives the same results as any
-/// older mark. A command that is neither waiting nor used by a call or the timer cannot appear
-/// again, and its outcome was checked when it left.
+/// only with other commands. The key therefore contains their distances from the newest number or
+/// command. A mark that is older than every number with which it can still be compared gives the
+/// same results as any older mark. A command that is neither pending nor used by a call or by the
+/// timer cannot appear again. Its outcome was checked when it left the queue.
 QueueWorld::Key QueueWorld::key() const
 {
     KeyWriter writer;

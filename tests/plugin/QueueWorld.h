@@ -8,20 +8,19 @@
 
 /**
  * A state of the request pipeline. It consists of the queue, the other state of USSDLogic (the
- * reply timer, the lock of the hand-over and the gate of the call-backs) and the position of each
- * thread.
+ * reply timer, the send lock and the call-back gate), and the position of each thread.
  *
- * start() lets an event happen, and run() lets one thread perform its next step. A step changes the
- * queue and its model in the same way, and failure() returns the rule that was broken.
+ * start() makes an event happen, and run() makes one thread perform its next step. A step changes
+ * the queue and its model in the same way. failure() returns the rule that was broken.
  */
 class QueueWorld
 {
 public:
     enum Event {
-        SendQuery,    // kept by both functions that clear
+        SendQuery,    // not removed by either of the two clear functions
         SendGeneral,  // kept by ClearUSSDSMSQueuedCmds() only
-        SendServices, // removed by both functions that clear
-        Reply,        // includes a reply that no command waits for
+        SendServices, // removed by both clear functions
+        Reply,        // also stands for a reply when no command is pending
         TimeOut,
         Cancel,
         DeviceGone,
@@ -31,20 +30,20 @@ public:
         EventCount
     };
 
-    /// GuiInside is also the GUI thread. It stands for the calls that a receiver of the time-out
-    /// signal makes.
+    /// GuiInside is the GUI thread too. It stands for calls that a receiver of the time-out signal
+    /// makes.
     enum Thread { Gui, GuiInside, FirstReply, SecondReply, Device, ThreadCount };
 
     typedef std::array<quint64, 4> Key;
 
     bool canStart(Event event) const;
-    /// Runs the first step of the event.
+    /// Performs the first step of the event.
     void start(Event event);
     static const char *nameOf(Event event);
 
     bool canRun(Thread thread) const;
-    /// Returns the number of possible outcomes of the thread's next step. There are several if the
-    /// device decides.
+    /// Returns the number of possible outcomes of the thread's next step. There is more than one if
+    /// the device decides.
     int ways(Thread thread) const;
     void run(Thread thread, int way);
     const char *nextStep(Thread thread) const;
@@ -52,7 +51,7 @@ public:
 
     /// Returns the rule that was broken, or null.
     const char *failure() const { return m_failure; }
-    /// Returns the key of this state. Two worlds with the same key have the same future.
+    /// Returns the key of this state. Two states with the same key have the same future.
     Key key() const;
 
 private:
@@ -86,7 +85,7 @@ private:
         StepCount
     };
 
-    /// The call that a thread is executing: its next step and its variables.
+    /// A call in progress on a thread: its next step and its variables.
     struct Call {
         Step next = Idle;
         int component = 0;
@@ -98,7 +97,7 @@ private:
         bool logicIsGone = false;
     };
 
-    /// The reply timer, and the head for which it was armed.
+    /// The reply timer, and the head for which it was started.
     struct Timer {
         bool isArmed = false;
         quint64 arming = 0;
@@ -176,9 +175,9 @@ private:
     bool m_isHandingOver = false; // true while m_mutexSendCmd is locked
     bool m_gateIsOpen = true;
     bool m_isSilent = false; // true while commands wait after one that was refused or too long
-    int m_way = 0;           // the outcome chosen for the running step
+    int m_way = 0;           // the outcome chosen for the current step
     int m_lastCommand = 0;
-    // A bit for each command, like the next three members.
+    // One bit for each command, as in the next three members.
     unsigned m_handed = 0;
     unsigned m_answered = 0;
     unsigned m_refused = 0;

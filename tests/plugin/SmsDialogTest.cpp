@@ -132,7 +132,7 @@ void SmsDialogTest::sendTariff()
     press();
 }
 
-/// Returns the number of connections of this signal of the logic object.
+/// Returns the number of connections to this signal of the logic object.
 int SmsDialogTest::receivers(const char *signal)
 {
     class Opened : public QObject

@@ -55,7 +55,7 @@ inline QByteArray buttonControl(const QByteArray &type, const QByteArray &comman
            command + "</command><number>" + number + "</number></control>";
 }
 
-/// Returns whether anything except the background is drawn in the area.
+/// Returns true if anything other than the background is drawn in the area.
 inline bool inkIn(const QImage &image, const QRect &area)
 {
     const QImage part = image.copy(area);
@@ -74,7 +74,10 @@ const char WORDS[] = "<length>30</length><minlenth>3</minlenth>";
 const char USSD[] = "type='ussd'";
 const char SMS[] = "type='sms'";
 
-/** Tests the USSD-SMS dialog in a frame with keys and clicks. The network is silent by default. */
+/**
+ * The base class of tests that operate the USSD-SMS dialog in a frame with keys and clicks. The
+ * network is silent by default.
+ */
 class SmsDialogTest : public PluginTest
 {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #!/bin/sh
-# check_exports.sh PLUGIN: checks that the plug-in exports only the entry points of both loaders.
+# check_exports.sh PLUGIN: checks that the plug-in exports only the entry points for the two plug-in
+# loaders.
 set -eu
 expected="qt_plugin_instance
 qt_plugin_query_metadata
@@ -9,7 +10,8 @@ if [ "$actual" != "$expected" ]; then
     printf 'exported:\n%s\nexpected:\n%s\n' "$actual" "$expected" >&2
     exit 1
 fi
-# The plug-in may link only Qt, the core library, the device SDK, and libraries of the compiler and C.
+# The plug-in may link only to Qt, the core library, the device SDK, and the compiler and C
+# libraries.
 if readelf -d "$1" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' |
     grep -vE '^(libQt5(Core|Gui|Widgets)\.so|libhostcore\.so|libtksv\.so|libstdc\+\+|libgcc_s|libm\.|libc\.|ld-linux|lib(a|ub|t)san)'; then
     echo "the plug-in links to what stands above" >&2

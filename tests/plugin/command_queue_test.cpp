@@ -1,26 +1,27 @@
 /*
- * Tests the rules of CommandQueue, first one by one and then with every order of steps.
+ * Tests the rules of CommandQueue, first individually and then with every possible order of steps.
  *
- * The search lets up to eight events happen: send, reply, time-out, cancel, loss of the device,
- * clear and destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is
- * the work that a thread does without interruption: it calls the queue once, reads the timer once,
- * or changes the timer once. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
- * announcement belongs to the preceding claim, and the request to the device belongs to the
- * preceding check, because neither of them uses anything that another thread uses. A sender waits
- * up to 3 s for an earlier time-out, and the search lets this wait end at any moment.
+ * The search combines up to eight events: send, reply, time-out, cancel, loss of the device, clear
+ * and destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is work
+ * that a thread performs without interruption: one call of the queue, one query of the timer, or
+ * one change of the timer. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
+ * announcement is part of the preceding claim. The request to the device is part of the preceding
+ * check. They need no steps of their own because they do not use anything that another thread uses.
+ * A sender waits up to 3 s for an earlier time-out, and the search lets this wait end at any
+ * moment.
  *
  * The search tries every order. Any thread may perform its next step, and an event may happen
- * whenever its thread is idle. There are the GUI thread, two threads that deliver replies and one
- * that delivers device events. The receivers of a time-out may send, clear or destroy before they
- * return. The device accepts a command or refuses it, or the command is too long. The search skips
- * a state only if it has already continued from the same state with at least as many remaining
- * events. QueueWorld::key() explains which states are the same.
+ * whenever its thread is idle. The threads are the GUI thread, two threads that deliver replies and
+ * one thread that delivers device events. The receivers of a time-out may send, clear or destroy
+ * before they return. The device accepts or refuses a command, or the command is too long. The
+ * search skips a state only if it has already continued from the same state with at least as many
+ * remaining events. QueueWorld::key() explains which states count as the same.
  *
- * After each step the queue must hold the same commands as the model and must give the same
+ * After each step, the queue must contain the same commands as the model and must give the same
  * answers. No command may be sent twice, answered twice or lost. When no thread is in a call, a
- * time-out must be running that gives the head an outcome at the latest. There are two deliberate
- * exceptions: commands wait after one that was refused or too long, and a stale reply or time-out
- * answers the current head.
+ * running time-out must ensure that the head is eventually answered or removed. There are two
+ * deliberate exceptions: commands keep waiting after a command that was refused or too long, and a
+ * stale reply or time-out answers the current head.
  */
 #include "QueueWorld.h"
 #include "requests/CommandQueue.h"
@@ -48,11 +49,11 @@ struct KeyHash {
 class Walk
 {
 public:
-    /// Returns whether all orders of up to `events` further events keep the rules.
+    /// Returns true if all orders of up to `events` further events follow the rules.
     bool from(const QueueWorld &world, int events);
     size_t states() const { return m_walked.size(); }
     quint64 steps() const { return m_steps; }
-    /// Returns the steps that led to the broken rule, one in each line.
+    /// Returns the steps that led to the broken rule, one per line.
     QByteArray story() const;
 
 private:
@@ -65,7 +66,7 @@ private:
         const char *what;
     };
 
-    // The states that were visited, with the number of remaining events plus one.
+    // The states already visited. The value is the number of remaining events plus one.
     std::unordered_map<QueueWorld::Key, int, KeyHash> m_walked;
     std::vector<Line> m_path;
     const char *m_failure = nullptr;

@@ -1,6 +1,6 @@
 #include "ConfigTest.h"
 
-/** Tests the getters of the configuration and the match of the IMSI. */
+/** Tests the getters of the configuration and the IMSI matching. */
 class ConfigGettersTest : public ConfigTest
 {
     Q_OBJECT
@@ -40,6 +40,7 @@ private slots:
     void oddFileIsLikeAMissingOne_data();
     void oddFileIsLikeAMissingOne();
     void missingFileLeavesTheRecordsOfGettersUnchanged();
+    void gettersLogTheirOwnName();
     void shippedFileIsComplete();
 };
 
@@ -84,7 +85,7 @@ void ConfigGettersTest::everyComponentAnswersItsOwnAttributesOnly_data()
     // "unchanged" for an attribute that the component does not have.
     QTest::addColumn<QStringList>("texts");
     const QString none = latin1("unchanged");
-    // by attribute:             0   1  2   5   6   7  8   9  10
+    // attribute numbers:        0   1  2   5   6   7  8   9  10
     QTest::newRow("Balance") << BALANCE << QList<int>{1, 10, -1, -1, -1, -1, -1, -1, -1}
                              << QStringList{none, none, latin1("*100#"), none, none, none, none,
                                             none, none};
@@ -234,7 +235,7 @@ void ConfigGettersTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Compares the result with a linear search through the whole map.
+/// Compares the result with that of a linear search through the map.
 void ConfigGettersTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);
@@ -352,7 +353,8 @@ void ConfigGettersTest::missingFileLeavesDefaultsAndIsLogged()
     logic();
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     QCOMPARE(timesLogged(latin1("xmlFilePath = ") + path), 1);
-    QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2); // debug and warning
+    // Logged as a debug message and as a warning.
+    QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     for (int component : {BALANCE, CHARGE, ONLINE_CHARGE, MSISDN}) {
         QCOMPARE(number(PREPAID, component, ATTR_VALUE), 0);
         QCOMPARE(number(POSTPAID, component, ATTR_POS), 0);
@@ -373,7 +375,8 @@ void ConfigGettersTest::oddFileIsLikeAMissingOne()
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     const QString said = path + latin1(": ") + OddFiles::make(path);
     logic();
-    QCOMPARE(timesLogged(latin1("openXMLFile ") + said), 2); // debug and warning
+    // Logged as a debug message and as a warning.
+    QCOMPARE(timesLogged(latin1("openXMLFile ") + said), 2);
     QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     QVERIFY(!logic()->IsImsiDynamicMatch());
     Char sent;
@@ -407,6 +410,27 @@ void ConfigGettersTest::missingFileLeavesTheRecordsOfGettersUnchanged()
     QVERIFY(!edit.visible);
 }
 
+/// Tests that each getter logs its name, although the getters share the code that opens the file.
+/// Without a file, there is no Exit line.
+void ConfigGettersTest::gettersLogTheirOwnName()
+{
+    logic();
+    for (const bool exists : {true, false}) {
+        if (!exists)
+            writeConfig(QByteArray());
+        clearLog();
+        look(CHAR_SET_SEND);
+        clearSetting();
+        editSetting();
+        for (const char *getter : {"GetCharSet", "GetClearBtnSetting", "GetCmdEditSetting"}) {
+            const QString start = latin1("/src/USSDUIPlugin/USSDLogic.cpp: ") + latin1(getter);
+            QCOMPARE(timesLogged(start + latin1(" Enter")), 1);
+            QCOMPARE(timesLogged(start + latin1(" Exit")), exists ? 1 : 0);
+        }
+        QCOMPARE(timesLogged("openXMLFile xmlFilePath = "), 3);
+    }
+}
+
 void ConfigGettersTest::shippedFileIsComplete()
 {
     QFile shipped(latin1(SHIPPED_DATA_DIR "/USSDPluginConfig.xml"));
@@ -420,10 +444,10 @@ void ConfigGettersTest::shippedFileIsComplete()
         QVERIFY(!text(paidType, ONLINE_CHARGE, ATTR_URL).isEmpty());
         QVERIFY(!text(paidType, MSISDN, ATTR_COMMAND).isEmpty());
     }
-    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // readable
+    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // large enough to read
     QVERIFY(look(CHAR_SET_RECEIVE).yHeight >= 20 * 6);
     QVERIFY(clearSetting().visible);
-    // The last section is found only if all sections before it are.
+    // The last section is found only if all preceding sections are found.
     QVERIFY(logic()->IsImsiDynamicMatch());
 }
 

@@ -24,7 +24,10 @@ private slots:
     void startTagAtFaultHasNoAttributes();
     void textCutByAFaultIsEmpty_data();
     void textCutByAFaultIsEmpty();
-    void entitiesOfTheDocumentAreReplaced();
+    void documentWithEntitiesIsRefused_data();
+    void documentWithEntitiesIsRefused();
+    void documentWithEntitiesInUtf16IsRefused();
+    void characterReferencesAreReplaced();
     void brokenDetectionIsOff_data();
     void brokenDetectionIsOff();
     void faultBehindTheDetectionLeavesItOn();
@@ -72,7 +75,7 @@ void ConfigSectionsTest::threeItemSectionTakesFirstPostpaidItem()
                            onlineItem()));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*7#"));
     QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 13);
-    // The scan for "Postpaid" starts after the start of that section and finds nothing.
+    // The search for "Postpaid" starts after the start of that section and finds nothing.
     QCOMPARE(text(POSTPAID, BALANCE, ATTR_COMMAND), QString());
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
@@ -86,7 +89,7 @@ void ConfigSectionsTest::itemNamedInLowerCaseIsConsumedButStoresNothing()
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    // The item was among the four that were read.
+    // The unknown item counts as one of the four items, and MSISDN is the fourth.
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 10);
 }
@@ -175,7 +178,7 @@ void ConfigSectionsTest::sectionsInWrongOrderAreNotFound()
                 "</autoUSSD></c>");
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 10);
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
-    QVERIFY(!logic()->IsImsiDynamicMatch()); // the scan for "Postpaid" reached the end of the file
+    QVERIFY(!logic()->IsImsiDynamicMatch()); // the search for "Postpaid" has failed
     QCOMPARE(flagsOf(latin1("1")), -1);
 }
 
@@ -206,7 +209,7 @@ void ConfigSectionsTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// Tests a repeated attribute, which is not well-formed XML. The parser has read both values when
+/// Tests a repeated attribute, which makes the XML malformed. The parser has read both values when
 /// it reports the error.
 void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 {
@@ -224,7 +227,7 @@ void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 
 void ConfigSectionsTest::textCutByAFaultIsEmpty_data()
 {
-    QTest::addColumn<QByteArray>("before"); // the text before the root element
+    QTest::addColumn<QByteArray>("before"); // the text that precedes the root element
     QTest::addColumn<QByteArray>("command");
     QTest::newRow("unknown entity") << QByteArray() << QByteArray("*10&bad;3#");
     QTest::newRow("entity of another file")
@@ -248,10 +251,41 @@ void ConfigSectionsTest::textCutByAFaultIsEmpty()
     QCOMPARE(differ().command, latin1("*103#"));
 }
 
-void ConfigSectionsTest::entitiesOfTheDocumentAreReplaced()
+/// Tests that a document with entity declarations is refused, even if no entity is used. Qt 4 would
+/// expand them without a limit.
+void ConfigSectionsTest::documentWithEntitiesIsRefused()
 {
-    writeConfig("<!DOCTYPE anything [<!ENTITY code '*10&digit;#'><!ENTITY digit '3'>]>" +
-                config(balanceItem("pos='&digit;'", "&code;") + chargeItem() + onlineItem() +
+    QFETCH(QByteArray, declaration);
+    const QByteArray sections = config(fourItems(), fourItems());
+    writeConfig("<!DOCTYPE anything [" + declaration + "]>" + sections);
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
+    QVERIFY(timesLogged("The document declares entities, which are not supported.") > 0);
+}
+
+void ConfigSectionsTest::documentWithEntitiesIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::newRow("entity") << QByteArray("<!ENTITY code '*103#'>");
+    QTest::newRow("parameter entity")
+        << QByteArray("<!ENTITY % a '<!-- x -->'><!ENTITY % b '&#37;a;&#37;a;'>%b;");
+    QTest::newRow("behind the first block")
+        << "<!--" + QByteArray(64 * 1024 - 40, 'x') + "--><!ENTITY code '*103#'>";
+}
+
+void ConfigSectionsTest::documentWithEntitiesInUtf16IsRefused()
+{
+    const QString document = latin1("<!DOCTYPE anything [<!ENTITY code '*103#'>]>") +
+                             QString::fromLatin1(config(fourItems(), fourItems()));
+    const QString marked = QChar(QChar::ByteOrderMark) + document;
+    writeConfig(QByteArray(reinterpret_cast<const char *>(marked.utf16()), 2 * marked.size()));
+    QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
+    QVERIFY(timesLogged("The document declares entities, which are not supported.") > 0);
+}
+
+void ConfigSectionsTest::characterReferencesAreReplaced()
+{
+    writeConfig("<!DOCTYPE anything>" +
+                config(balanceItem("pos='&#51;'", "*10&#51;#") + chargeItem() + onlineItem() +
                            msisdnItem("&#42;102&#x23;"),
                        fourItems()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*103#"));
@@ -306,8 +340,8 @@ void ConfigSectionsTest::brokenSimSectionIsOff_data()
     QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
 }
 
-/// Tests that a broken section is ignored as a whole. If only some prefixes were read, a SIM card
-/// could get the windows of a shorter prefix.
+/// Tests that an incomplete SIM section is ignored as a whole. If only some of its prefixes were
+/// used, a SIM card could get the windows of a shorter prefix.
 void ConfigSectionsTest::brokenSimSectionIsOff()
 {
     QFETCH(QByteArray, before);
@@ -359,7 +393,8 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    for (const char *child : {"yHeight", "yOffset", "color"}) // the first ones belong to "send"
+    // These elements occur for the first time in "send".
+    for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
         QTest::newRow(child) << QByteArray(child) << true;
@@ -367,9 +402,9 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// Checks the last section, because the getters read the other sections again. A scan for a missing
-/// section runs past the last one, so the last section shows whether the initial scan found all of
-/// them.
+/// Checks only the last section, because the getters read the other sections again. The search for
+/// a missing section would skip all sections after it. If the last section was found, the initial
+/// search has therefore found all the others.
 void ConfigSectionsTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);

@@ -1,12 +1,12 @@
 #include "ProfileEditorTest.h"
 
-/** Tests the looks of the profile editor and how the general dialog opens it. */
+/** Tests the appearance of the profile editor and how the general dialog opens it. */
 class EditorLooksTest : public ProfileEditorTest
 {
     Q_OBJECT
 
 private slots:
-    // ---- looks
+    // ---- appearance
     void columnsAndSizesAreFixed();
     void marginsAreFixed();
     void cellsAreColouredAndNotSelected();
@@ -33,7 +33,7 @@ private slots:
     void hostMayShutDownBeforeTheDuplicateMessageOpens();
 };
 
-// ---- looks --------------------------------------------------------------------------------------
+// ---- appearance ---------------------------------------------------------------------------------
 
 void EditorLooksTest::columnsAndSizesAreFixed()
 {
@@ -110,7 +110,7 @@ void EditorLooksTest::messagesInMiniModeStandOverTheEditor_data()
     QTest::newRow("otherwise") << false;
 }
 
-/// Tests the message about a duplicate and the question whether to save.
+/// Tests the message about a duplicate and the message box that asks whether to save.
 void EditorLooksTest::messagesInMiniModeStandOverTheEditor()
 {
     QFETCH(bool, mini);
@@ -171,7 +171,7 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin_data()
     QTest::newRow("Arabic") << QStringLiteral("ar") << true;
 }
 
-/// Uses pictures of the screen, because QWidget::render() does not mirror the widget.
+/// Compares screenshots, because QWidget::render() does not mirror the widget.
 void EditorLooksTest::headsStandWhereTheirColumnsBegin()
 {
     QFETCH(QString, language);
@@ -198,8 +198,8 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin()
     QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-/// In right-to-left order the code would read "#123*". In a picture, a star and a hash can be
-/// distinguished because the hash extends further down.
+/// Tests that the code is not painted as "#123*", as it would be in right-to-left order. In a
+/// screenshot, a hash differs from a star in that it extends further down.
 void EditorLooksTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
     QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
@@ -281,13 +281,13 @@ void EditorLooksTest::hostMayShutDownWhileTheEditorIsOpen()
         CUSSDService::Destroy();
     });
     QTest::mouseClick(editButton(m_mainWindow.data()),
-                      Qt::LeftButton); // returns when the editor is closed
+                      Qt::LeftButton); // this call returns when the editor is closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
 }
 
-/// The question box has no parent that would delete it.
+/// Tests a shut-down while the message box is open. The box has no parent that would delete it.
 void EditorLooksTest::hostMayShutDownWhileTheQuestionIsOpen()
 {
     QRect rect(0, 0, 640, 560);
@@ -302,7 +302,7 @@ void EditorLooksTest::hostMayShutDownWhileTheQuestionIsOpen()
         saveButton()->click();
     });
     QTest::mouseClick(editButton(m_mainWindow.data()),
-                      Qt::LeftButton); // returns when the editor is closed
+                      Qt::LeftButton); // this call returns when the editor is closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
@@ -321,7 +321,7 @@ void EditorLooksTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         typeAndLeave(1, 0, QStringLiteral("Balance"), way);
     });
-    editButton(m_mainWindow.data())->click(); // returns when the editor is closed
+    editButton(m_mainWindow.data())->click(); // this call returns when the editor is closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!m_mainWindow);
@@ -337,7 +337,7 @@ void EditorLooksTest::hostMayShutDownBeforeTheDuplicateMessageOpens()
         shutDown();
     });
     editButton(m_mainWindow.data())->click();
-    drainEvents(); // a message would hang here
+    drainEvents(); // the test would hang here if a message opened
     QVERIFY(!m_mainWindow);
 }
 

@@ -1,6 +1,6 @@
 #include "ProfileEditorTest.h"
 
-/** Tests how the profile editor saves. */
+/** Tests how the profile editor saves the profiles. */
 class EditorSavingTest : public ProfileEditorTest
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ void EditorSavingTest::savingChangesAsksFirst()
     const USSDProfile saved = savedProfiles().at(1);
     QCOMPARE(saved.name, QStringLiteral("My menu"));
     QCOMPARE(saved.value, QStringLiteral("*123#"));
-    QCOMPARE(saved.langID, QString()); // a key would hide the new name by the translated text
+    QCOMPARE(saved.langID, QString()); // with a key, the translated text would replace the new name
     QVERIFY(saved.isSystem);
 }
 
@@ -89,7 +89,8 @@ void EditorSavingTest::openEditorIsCommittedBySaving()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Typed"));
 }
 
-/// Otherwise the row would be saved without its code and would be lost.
+/// Tests that a duplicate prevents saving. Otherwise its row would be saved without the code and
+/// would be lost.
 void EditorSavingTest::duplicateFoundWhileSavingStopsIt()
 {
     openEditor();
@@ -166,7 +167,8 @@ void EditorSavingTest::fileThatIsNotWholeIsNotSavedOver_data()
     }
 }
 
-/// Otherwise the part of the file that was not read would be lost, even if nothing was edited.
+/// Tests that a file that cannot be read completely is not overwritten, even if nothing was edited.
+/// Otherwise its unread part would be lost.
 void EditorSavingTest::fileThatIsNotWholeIsNotSavedOver()
 {
     QFETCH(bool, isSystem);
@@ -218,7 +220,8 @@ void EditorSavingTest::editOfADamagedFileStaysInTheWindow()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Tests that nothing is saved. Saving could delete the file and lose codes that were never read.
+/// Tests that nothing is saved if the file cannot be opened. Saving could delete the file and lose
+/// codes that were never read.
 void EditorSavingTest::fileThatCannotBeOpenedIsNotSavedOver()
 {
     const QByteArray own = profileFile(profileItem("Mine", "*5#"));
@@ -238,12 +241,12 @@ void EditorSavingTest::fileThatCannotBeOpenedIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests an empty file, which a full disk may leave. It contains nothing that could be lost.
+/// Tests an empty file, which a full disk may leave behind. It contains nothing that could be lost.
 void EditorSavingTest::emptyFileIsSavedOver()
 {
     writeFile(QStringLiteral("user/ussdprofile.xml"), QByteArray());
     openEditor();
-    saveButton()->click(); // a message would hang here
+    saveButton()->click(); // the test would hang here if a message opened
     QVERIFY(contentOf(userFile()).contains("<tksvdoc"));
 }
 
@@ -259,7 +262,7 @@ void EditorSavingTest::systemFileOfRootLeavesOwnCodesToBeSaved()
     answerNextMessage(QStringLiteral("IDS_YES"));
     {
         const OrdinaryUser user;
-        saveButton()->click(); // another message would hang here
+        saveButton()->click(); // the test would hang here if another message opened
     }
     QVERIFY(!table()->isVisible());
     QVERIFY(contentOf(userFile()).contains("<value>*5#</value>"));
@@ -312,7 +315,7 @@ void EditorSavingTest::fullDiskIsSaidBeforeOldCodesAreLost()
     QVERIFY(table()->isVisible());
     QCOMPARE(contentOf(userFile()), user);
     QCOMPARE(contentOf(systemFile()), system);
-    answerNextMessage(QStringLiteral("IDS_YES")); // the disk has space again
+    answerNextMessage(QStringLiteral("IDS_YES")); // the disk has free space again
     saveButton()->click();
     QCOMPARE(savedProfiles().at(2).name, QStringLiteral("Other"));
 }
@@ -328,7 +331,7 @@ void EditorSavingTest::fileThatCanBeWrittenInAFolderThatCannotIsSaved()
     answerNextMessage(QStringLiteral("IDS_YES"));
     {
         const OrdinaryUser user;
-        saveButton()->click(); // another message would hang here
+        saveButton()->click(); // the test would hang here if another message opened
     }
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Other"));
 }
@@ -339,7 +342,7 @@ void EditorSavingTest::missingUserFolderIsMade()
     openEditor();
     type(7, 1, QStringLiteral("*5#"));
     answerNextMessage(QStringLiteral("IDS_YES"));
-    saveButton()->click(); // another message would hang here
+    saveButton()->click(); // the test would hang here if another message opened
     QVERIFY(contentOf(folder() + QLatin1String("/new/ussdprofile.xml")).contains("*5#"));
 }
 
@@ -355,7 +358,7 @@ void EditorSavingTest::unknownUserFolderIsSaid()
 
 void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
 {
-    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // fails for a moment
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // fails temporarily
     openEditor();
     fakeSdkSetResult("TKSV_GetUserDataDirectory", 0);
     const QByteArray own = profileFile(profileItem("Own", "*9#"));
@@ -368,7 +371,7 @@ void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests a directory that seems possible to create, although a dangling link has its name.
+/// Tests a folder that cannot be created, because a dangling link has its name.
 void EditorSavingTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));
@@ -389,7 +392,7 @@ void EditorSavingTest::hostMayShutDownWhileTheRefusalIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         QTest::mouseClick(saveButton(), Qt::LeftButton);
     });
-    editButton(m_mainWindow.data())->click(); // returns when the editor is closed
+    editButton(m_mainWindow.data())->click(); // this call returns when the editor is closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!QApplication::activeModalWidget());

@@ -66,7 +66,7 @@ void EditorTableTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(cell(4, 0), QString());
 }
 
-/// The cell to which Tab moves is filled and editable.
+/// Tests each way of leaving the cell. Tab moves to a cell that is filled and editable.
 void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);
@@ -77,7 +77,7 @@ void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     typeAndLeave(1, 0, QStringLiteral("Balance"), way);
     drainEvents();
     QCOMPARE(m_messages, 1);
-    drainEvents(); // a second message would hang here
+    drainEvents(); // the test would hang here if a second message opened
     QVERIFY(table()->isVisible());
     QCOMPARE(cell(1, 0), QString());
     QCOMPARE(cell(1, 1), QStringLiteral("*123#"));
@@ -87,11 +87,11 @@ void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     QTest::keyClick(cellEditor(), Qt::Key_Return);
     drainEvents();
     QCOMPARE(cell(1, 0), QStringLiteral("Other"));
-    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing was saved
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing has been saved
 }
 
-/// Tests that the message opens later, because the host must not be called while the delegate and
-/// the view handle the cell.
+/// Tests that the message opens only after the delegate and the view have handled the cell. The
+/// host must not be called before that.
 void EditorTableTest::messageOfADuplicateOpensOutsideTheDelegate()
 {
     openEditor();
@@ -107,7 +107,7 @@ void EditorTableTest::messageOfADuplicateOpensOutsideTheDelegate()
 void EditorTableTest::nameThatIsTheCodeOfAnotherRowIsNoDuplicate()
 {
     openEditor();
-    type(4, 0, QStringLiteral("*100#")); // a message would hang here
+    type(4, 0, QStringLiteral("*100#")); // the test would hang here if a message opened
     type(4, 1, QStringLiteral("Menu"));
     QCOMPARE(cell(4, 0), QStringLiteral("*100#"));
     QCOMPARE(cell(4, 1), QStringLiteral("Menu"));
@@ -127,11 +127,11 @@ void EditorTableTest::textThatDiffersInCaseIsNoDuplicate()
     openEditor();
     const QString other = cell(0, column).toLower();
     QVERIFY(other != cell(0, column));
-    type(4, column, other); // a message would hang here
+    type(4, column, other); // the test would hang here if a message opened
     QCOMPARE(cell(4, column), other);
 }
 
-/// The keys arrive together with the Tab that leaves the first cell.
+/// Tests keys that arrive together with the Tab that leaves the first cell.
 void EditorTableTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
     openEditor();
@@ -158,7 +158,7 @@ void EditorTableTest::duplicateIsNotSpokenOfAfterCancel()
     openEditor();
     typeAndLeave(1, 0, QStringLiteral("Balance"), Tab);
     QTest::mouseClick(find<QPushButton>("USSDUIPlugin_ProfileDialog_CancelButton"), Qt::LeftButton);
-    drainEvents(); // a message would hang here
+    drainEvents(); // the test would hang here if a message opened
     QVERIFY(!table()->isVisible());
 }
 
@@ -188,7 +188,7 @@ void EditorTableTest::savingWithoutChangesAsksNothingAndWrites()
     openEditor();
     const QByteArray system = contentOf(systemFile()); // a file without line breaks
     QVERIFY(!QFile::exists(userFile()));
-    QTest::mouseClick(saveButton(), Qt::LeftButton); // a question would hang here
+    QTest::mouseClick(saveButton(), Qt::LeftButton); // an open box would hang here
     QVERIFY(QFile::exists(userFile()));
     QVERIFY(contentOf(systemFile()) != system);
     QVERIFY(contentOf(systemFile()).contains("\n    <item>"));
@@ -207,7 +207,7 @@ void EditorTableTest::savingWithoutChangesKeepsProfilesWithoutNameOrCode()
     const QList<USSDProfile> before = savedProfiles();
     QCOMPARE(before.count(), 6);
     openEditor();
-    saveButton()->click(); // a question would hang here
+    saveButton()->click(); // the test would hang here if a message box opened
     QVERIFY(savedProfiles() == before);
 }
 
@@ -242,7 +242,7 @@ void EditorTableTest::longerTextSurvivesItsEditor()
     }
     QCOMPARE(cell(0, 0), QString(50, QLatin1Char('n')));
     QCOMPARE(cell(0, 1), QString::fromLatin1(longCode()));
-    saveButton()->click(); // a question would hang here
+    saveButton()->click(); // the test would hang here if a message box opened
     QCOMPARE(savedProfiles().at(0).value, QString::fromLatin1(longCode()));
 }
 
@@ -286,8 +286,8 @@ void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
     QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
 }
 
-/// A code is saved without leading and trailing blanks. If two codes are then equal, only the first
-/// one would be read again.
+/// Tests that codes that differ only in leading or trailing blanks are duplicates. Codes are saved
+/// without these blanks, and only the first of two equal codes would be loaded again.
 void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate()
 {
     QFETCH(QString, typed);

@@ -1,6 +1,6 @@
 /*
- * Tests the shared library as a host uses it, only through its entry points and virtual tables.
- * The test includes no header of the plug-in or of its interfaces.
+ * Tests the shared library as a host uses it: only through its entry points and virtual tables. The
+ * test does not include any header of the plug-in or of its interfaces.
  */
 #include "UssdTest.h"
 
@@ -26,7 +26,7 @@ protected:
     void tearDown() override;
 
 private:
-    /// Returns the plug-in object. Creates a new object if the last one was deleted.
+    /// Returns the plug-in object. Creates a new object if the previous one was deleted.
     QObject *instance();
     void *as(const char *name) { return instance()->qt_metacast(name); }
     void *plugin() { return as("IUIPlugin"); }
@@ -114,7 +114,7 @@ void EntryTest::verificationTextIsThatOfTheHost()
                         "buildkey=" USSD_QT4_BUILD_KEY));
 }
 
-/// Checks the default value of the build option that determines the text above.
+/// Checks the default value of the build option that determines the build key above.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));
@@ -181,7 +181,7 @@ void EntryTest::unknownInterfaceLeavesTheTargetAlone()
         QCOMPARE(callQueryInterface(plugin(), id, &target), false);
         QCOMPARE(target, untouched);
     }
-    // These lines have no time, unlike most lines.
+    // Unlike most log lines, these lines contain no time.
     QCOMPARE(logLines().count(QStringLiteral(
                  "../../src/USSDUIPlugin/USSDUIPluginImpl.cpp: QueryInterface called")),
              others.count());

@@ -137,7 +137,7 @@ void GeneralPartsTest::fieldsOfferNoMenuWhereTheyMustNot()
     QCOMPARE(combo()->contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(paymentEdit()->minimumHeight(), 23);
     QCOMPARE(commandEdit()->minimumHeight(), 23);
-    QVERIFY(commandEdit()->maxLength() > 1000); // only the field of the combo box is limited
+    QVERIFY(commandEdit()->maxLength() > 1000); // only the line edit of the combo box has a limit
 }
 
 void GeneralPartsTest::marginsAreFixed()
@@ -201,7 +201,7 @@ void GeneralPartsTest::codesReadFromLeftToRightInArabic()
     QCOMPARE(dialog()->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(commandEdit()->layoutDirection(), Qt::LeftToRight);
     QCOMPARE(paymentEdit()->layoutDirection(), Qt::LeftToRight);
-    // The left-to-right mark keeps the order of a code after an Arabic caption.
+    // The left-to-right mark keeps a code in order after an Arabic caption.
     QVERIFY(text("IDS_USSD_SEND").endsWith(QChar(0x200e)));
     QVERIFY(text("IDS_USSD_RECEIVED").endsWith(QChar(0x200e)));
 }
@@ -215,7 +215,7 @@ void GeneralPartsTest::keysThatReachTheDialogAreSwallowed()
         QTest::keyClick(dialog(), Qt::Key(key));
     QCOMPARE(outside.keys, 0);
     QTest::keyClick(&outside, Qt::Key_A);
-    QCOMPARE(outside.keys, 1); // proves that keys are counted
+    QCOMPARE(outside.keys, 1); // proves that the widget counts keys
     QVERIFY(requests().isEmpty());
     dialog()->setParent(page());
 }
@@ -239,7 +239,8 @@ void GeneralPartsTest::sendButtonSends()
     QCOMPARE(requests(), QStringList{latin1("*100#")});
 }
 
-/// The text of the command edit is sent, not that of the combo box.
+/// Tests that Return in the combo box sends the text of the command edit, not that of the combo
+/// box.
 void GeneralPartsTest::returnInTheComboSends()
 {
     open();
@@ -300,7 +301,7 @@ void GeneralPartsTest::comboTextShowsItsDescription()
     open();
     combo()->setEditText(latin1("*100#"));
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
-    combo()->setEditText(latin1("*100")); // not a known code, so the label is not changed
+    combo()->setEditText(latin1("*100")); // not a known code, so the label does not change
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
     combo()->setEditText(latin1("*102*%s#")); // a code without description
     QCOMPARE(descriptionLabel()->text(), QString());

@@ -1,6 +1,6 @@
 #include "GeneralDialogTest.h"
 
-/** Tests how the general dialog sends commands and handles answers and the focus. */
+/** Tests how the general dialog sends commands and handles answers and the keyboard focus. */
 class GeneralSendingTest : public GeneralDialogTest
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ void GeneralSendingTest::emptyCommandIsNotSent()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1("x"));
-    commandEdit()->clear(); // not typed, so Send stays enabled
+    commandEdit()->clear(); // no key was pressed, so Send stays enabled
     QVERIFY(sendButton()->isEnabled());
     click(sendButton());
     QTest::keyClick(combo()->lineEdit(), Qt::Key_Return);
@@ -163,7 +163,8 @@ void GeneralSendingTest::refusedPresetIsAnsweredLocally()
     QVERIFY(presetButtons().first()->isEnabled());
 }
 
-/// The different behaviour is deliberate.
+/// Tests that the combo box is disabled by a preset button but not by Send. This difference is
+/// deliberate.
 void GeneralSendingTest::presetDisablesTheComboButSendDoesNot()
 {
     open();
@@ -253,7 +254,7 @@ void GeneralSendingTest::answerOfAnotherComponentIsIgnored()
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, latin1("not mine"));
     QCOMPARE(shownLines().count(), 1);
     QVERIFY(isWaiting());
-    // debug and warning
+    // Logged as a debug message and as a warning.
     QCOMPARE(timesLogged("OnResponseReceived Exit: USSDGeneralDlg no need to handle"), 2);
 }
 
@@ -295,8 +296,8 @@ void GeneralSendingTest::answersOfManyCommandsStandInOrder()
     QCOMPARE(requests().count(), 30);
 }
 
-/// An answer does not contain the command that it belongs to, so it is shown for the current
-/// command.
+/// Tests an answer that arrives late. An answer does not identify the command that it belongs to,
+/// so it is shown as the answer to the current command.
 void GeneralSendingTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);

@@ -1,6 +1,6 @@
 #include "GeneralDialogTest.h"
 
-/** Tests the transcript of the general dialog, the payment edit and the life of the dialog. */
+/** Tests the transcript of the general dialog, the payment edit, the language and closing. */
 class GeneralTranscriptTest : public GeneralDialogTest
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private slots:
     void transcriptKeepsItsLanguage();
     void descriptionFollowsTheLanguage();
 
-    // ---- being closed and shown again
+    // ---- closing and showing again
     void closeRequestIsPassedOnInEveryModel_data();
     void closeRequestIsPassedOnInEveryModel();
     void closingTheModalDialogEndsTheWaiting();
@@ -123,7 +123,7 @@ void GeneralTranscriptTest::looksAreReadAnewForEachEntry()
 
 void GeneralTranscriptTest::withoutConfigurationTheTranscriptIsShownNevertheless()
 {
-    allowWarning("Point size <= 0"); // the configured size is zero
+    allowWarning("Point size <= 0"); // the configured font size is zero
     writeConfig(QByteArray());
     open();
     send(latin1("*100#"));
@@ -157,7 +157,7 @@ void GeneralTranscriptTest::clearButtonNeedsSomethingToClear()
     QVERIFY(!clearButton()->isEnabled());
     networkSays(latin1("12"));
     QVERIFY(clearButton()->isEnabled());
-    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the earlier text was cleared
+    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the earlier text has been cleared
 }
 
 void GeneralTranscriptTest::withoutQuestionItClearsAtOnce()
@@ -240,7 +240,7 @@ void GeneralTranscriptTest::dialogDeletedWhileItAsksCostsNothing()
         asked = QApplication::activeModalWidget() != nullptr;
         delete asking;
     });
-    // The slot is called directly because a click would use the deleted button.
+    // The slot is called directly because a click would use the deleted button afterwards.
     QVERIFY(QMetaObject::invokeMethod(dialog(), "clearHistory"));
     QVERIFY(asked);
     QVERIFY(!asking);
@@ -292,7 +292,7 @@ void GeneralTranscriptTest::pasted25DigitsAreCutTo20()
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
     QVERIFY(presetButtons().last()->isEnabled());
     QTest::keyClick(paymentEdit(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(paymentEdit(), latin1("x")); // would replace the selected text
+    QTest::keyClicks(paymentEdit(), latin1("x")); // the selected text would be replaced
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
 }
 
@@ -325,7 +325,7 @@ void GeneralTranscriptTest::onlyAsciiDigitsAreAllowed()
     QCOMPARE(paymentEdit()->text(), latin1("0123456789"));
 }
 
-/// Tests that an old number does not come back. A number that has been used for a payment must not
+/// Tests that an old number does not reappear. A number that has been used for a payment must not
 /// be sent again by accident.
 void GeneralTranscriptTest::refusedKeyAfterAnAnswerBringsNoOldNumberBack()
 {
@@ -382,7 +382,7 @@ void GeneralTranscriptTest::transcriptKeepsItsLanguage()
     dialog()->SetLanguage();
     QCOMPARE(history()->toHtml(), shown);
     send(latin1("*101#"));
-    QCOMPARE(shownLines().last(), sentLine(latin1("*101#"))); // in German
+    QCOMPARE(shownLines().last(), sentLine(latin1("*101#"))); // the caption is German now
     QVERIFY(!shownLines().first().startsWith(text("IDS_USSD_SEND")));
 }
 
@@ -395,7 +395,7 @@ void GeneralTranscriptTest::descriptionFollowsTheLanguage()
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
 }
 
-// ---- being closed and shown again ---------------------------------------------------------------
+// ---- closing and showing again ------------------------------------------------------------------
 
 void GeneralTranscriptTest::closeRequestIsPassedOnInEveryModel_data()
 {
@@ -436,7 +436,7 @@ void GeneralTranscriptTest::reopenedModalDialogSendsAtOnceAndDropsTheLateAnswer(
     open(WINDOW_MODEL_MODAL);
     send(latin1("*100#"));
     dialog()->OnClickedCloseButton();
-    open(WINDOW_MODEL_MODAL); // as the outer window does
+    open(WINDOW_MODEL_MODAL); // the outer window opens the dialog in this way
     QVERIFY(isIdle());
     networkSays(latin1("late"));
     QVERIFY(shownLines().isEmpty());

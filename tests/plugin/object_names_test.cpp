@@ -25,8 +25,8 @@ const char TABLE_BEGIN[] = "<!-- object names: begin -->\n";
 const char TABLE_END[] = "<!-- object names: end -->\n";
 const int USSD_SERVICE = 4097;
 
-/// A line of the table. The windows are those that contain such a child, in the order in which they
-/// are opened.
+/// A row of the table. The windows are those that contain a child with this name, in the order in
+/// which they are opened.
 struct Row {
     QStringList windows;
     QString name;
@@ -42,8 +42,8 @@ QString qtClassOf(const QObject *object)
     return QString::fromLatin1(meta->className());
 }
 
-/// Returns whether the plug-in has set the object name. Qt names the inner parts of its own widgets
-/// too.
+/// Returns true if the plug-in has set the object name. Qt also names the inner parts of its own
+/// widgets.
 bool isOurs(const QObject *object)
 {
     const bool visual = object->isWidgetType() || qobject_cast<const QLayout *>(object);
@@ -171,7 +171,7 @@ void ObjectNamesTest::collectEditor()
         collect(QStringLiteral("profile editor"), editor);
         editor->close();
     });
-    button->click(); // returns when the editor is closed
+    button->click(); // this call returns when the editor is closed
     QVERIFY(isOpen);
 }
 

@@ -1,6 +1,8 @@
 #include "PipelineTest.h"
 
-/** Tests how the pipeline is cleared, and how it meets device events, threads and its end. */
+/**
+ * Tests how the pipeline is cleared, and how it handles device events, threads and its destruction.
+ */
 class PipelineClearingTest : public PipelineTest
 {
     Q_OBJECT
@@ -68,7 +70,7 @@ void PipelineClearingTest::clearUssdSmsLeavesTheOthers()
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
     QVERIFY(fakeSdkWaitIdle());
-    QCOMPARE(fakeSdkCommands().size(), size_t(1)); // the list is empty now
+    QCOMPARE(fakeSdkCommands().size(), size_t(1)); // the queue is empty now
 }
 
 void PipelineClearingTest::replyForAClearedCommandAnswersTheHead()
@@ -80,7 +82,7 @@ void PipelineClearingTest::replyForAClearedCommandAnswersTheHead()
     QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
 }
 
-/// Tests that the time-out of a cleared command stays armed, so that the following entry is sent.
+/// Tests that the time-out of a cleared command keeps running, so that the next command is sent.
 void PipelineClearingTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
     stopClock();
@@ -128,7 +130,7 @@ void PipelineClearingTest::commandClearedWhileItWaitedIsNotSent()
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("three")));
 }
 
-/// Tests that the call-back removes only the command that it has announced, even if the list has a
+/// Tests that the call-back removes only the command that it has announced, even if the queue has a
 /// new head by then.
 void PipelineClearingTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 {
@@ -157,7 +159,7 @@ void PipelineClearingTest::oneRequestAtATimeIsUnderWay()
     fakeSdkScript({fakeSilence(), blocked, fakeSilence()});
     send(5, QStringLiteral("*1#"));
     send(5, QStringLiteral("*2#"));
-    fakeSdkRespond(u"one"); // the SDK's thread sends *2#, and the call blocks
+    fakeSdkRespond(u"one"); // the SDK's thread sends *2#, and this call blocks
     QVERIFY(fakeSdkWaitForRequests(2));
     USSDLogic::ClearQueuedCmds();
     std::atomic<ThreadWatch::ThreadId> otherId(0);
@@ -195,7 +197,8 @@ void PipelineClearingTest::destroyEndsTheWaitForTheEarlierTimeOut()
     connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
             SLOT(clearAndSendTwice(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
-    fakeSdkRespond(u"one"); // the call-back sends twice, and waits for the time-out of the first
+    // The call-back sends twice; the second time, it waits for the first time-out.
+    fakeSdkRespond(u"one");
     QVERIFY(fakeSdkWaitForRequests(3));
     QElapsedTimer elapsed;
     elapsed.start();
@@ -251,8 +254,8 @@ void PipelineClearingTest::constructionLogsEachRegistration()
                      QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
                      QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
                      QStringLiteral(" Exit")}));
-    const QString before =
-        QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()"); // debug and warning
+    // Logged as a debug message and as a warning.
+    const QString before = QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
     QCOMPARE(
         linesOf("registerUSSDCallback"),
         (QStringList{QStringLiteral(" Enter"), before, before,
@@ -343,7 +346,8 @@ void PipelineClearingTest::headLeavesTheListAfterItsAnnouncement_data()
     QTest::newRow("time-out") << true;
 }
 
-/// A receiver that sends at once must therefore find its command queued after the announced one.
+/// Tests that the head stays in the queue during its announcement. A receiver that sends at once
+/// must find its own command queued after the announced one.
 void PipelineClearingTest::headLeavesTheListAfterItsAnnouncement()
 {
     QFETCH(bool, byTimeOut);
@@ -368,7 +372,7 @@ void PipelineClearingTest::receiverMaySendFromTheSdkThread()
             SLOT(sendMore(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
     fakeSdkRespond(u"one");
-    // This would fail if a lock were held while the signal is emitted.
+    // This would fail if a lock were held during the emission of the signal.
     QVERIFY(fakeSdkWaitForRequests(2));
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
     disconnect(m_logic, nullptr, &interloper, nullptr);
@@ -385,7 +389,7 @@ void PipelineClearingTest::timeOutReceiverMayShutDown()
     QTRY_VERIFY(!logic);
 }
 
-/// Tests that only callers which wait can enter, and only when the object is ready.
+/// Tests that the gate admits only callers that wait for it, and only when the object is ready.
 void PipelineClearingTest::gateLetsOnlyThePatientIn()
 {
     CallbackGate gate;
@@ -452,7 +456,7 @@ void PipelineClearingTest::newSingletonStartsWithAnEmptyList()
     QVERIFY(fakeSdkCommands().back() == u"*3#");
 }
 
-/// Lets replies, late replies and time-outs coincide at random. Each command must be answered
+/// Makes replies, late replies and time-outs coincide at random. Each command must be answered
 /// exactly once.
 void PipelineClearingTest::everyCommandIsAnsweredOnce()
 {

@@ -35,7 +35,7 @@ private slots:
     void sendWaitsForTheEarlierTimeOut();
     void replyEndsTheWaitForTheEarlierTimeOut();
 
-    // ---- replies that nobody expects
+    // ---- unexpected replies
     void nullDataLeavesListAndTimer();
     void replyWithoutCommandIsDropped();
     void twoRepliesAtOnceAnswerOnce();
@@ -65,7 +65,7 @@ void PipelineSendingTest::commandOf92UnitsIsRefusedAndRemoved()
     QCOMPARE(send(5, units(92)), 1);
     QVERIFY(fakeSdkCommands().empty());
     QCOMPARE(timesLogged("USSDCommand is too large"), 1);
-    // The command is the only entry in the list, so it is sent at once.
+    // The command is the only one in the queue, so it is sent at once.
     QCOMPARE(send(5, QStringLiteral("*1#")), 0);
     QCOMPARE(fakeSdkCommands().size(), size_t(1));
 }
@@ -156,7 +156,7 @@ void PipelineSendingTest::refusedCommandIsSilentAndTheNextOneWaits()
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
     QCOMPARE(send(6, QStringLiteral("*4#")), 0); // waits for *3#
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
-    fakeSdkRespond(u"stale"); // taken as the answer to the head, so the next entry is sent
+    fakeSdkRespond(u"stale"); // answers the head, so the next command is sent
     QVERIFY(fakeSdkWaitForRequests(3));
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("stale")));
     QVERIFY(fakeSdkCommands().at(2) == u"*4#");
@@ -265,7 +265,7 @@ void PipelineSendingTest::sendWaitsForTheEarlierTimeOut()
     elapsed.start();
     QCOMPARE(send(5, QStringLiteral("*2#")), 0);
     QVERIFY(elapsed.elapsed() >= wait - 1);
-    // The device received the command before the wait.
+    // The device received the command before the wait started.
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
 }
 
@@ -285,7 +285,7 @@ void PipelineSendingTest::replyEndsTheWaitForTheEarlierTimeOut()
     QCOMPARE(nextAnswer(), answer(0, QStringLiteral("two")));
 }
 
-// ---- replies that nobody expects ----------------------------------------------------------------
+// ---- unexpected replies -------------------------------------------------------------------------
 
 void PipelineSendingTest::nullDataLeavesListAndTimer()
 {
@@ -293,7 +293,8 @@ void PipelineSendingTest::nullDataLeavesListAndTimer()
     fakeSdkRespondNull();
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
-    QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2); // debug and warning
+    // Logged as a debug message and as a warning.
+    QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2);
     USSDLogic::ClearQueuedCmds();
     QVERIFY(sendWaitsItsTime()); // the timer is still running
 }

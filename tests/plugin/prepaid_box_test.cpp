@@ -23,7 +23,8 @@ QByteArray chargeIntoBox()
                       "<LimitText>0-9</LimitText></item>");
 }
 
-/// Returns a top-up whose code exceeds the maximum length by one when the PIN is inserted.
+/// Returns a top-up whose code exceeds the maximum length by one character when the PIN is
+/// inserted.
 QByteArray tooLongCharge()
 {
     return chargeIntoBox().replace("*101*", "*101*" + QByteArray(74, '1'));
@@ -31,7 +32,9 @@ QByteArray tooLongCharge()
 
 } // namespace
 
-/** Tests the message box that shows the answer to a top-up, and events while it is open. */
+/**
+ * Tests the message box that shows the reply to a top-up, and events that occur while it is open.
+ */
 class PrepaidBoxTest : public PrepaidTest
 {
     Q_OBJECT
@@ -45,7 +48,7 @@ private:
 
     /// Opens the window and waits until no command is pending.
     void openReady(const QByteArray &charge = chargeIntoBox());
-    void letATopUpTimeOutBeforeAnotherCommand(); ///< the other command is *9#
+    void letATopUpTimeOutBeforeAnotherCommand(); ///< sends *9# as the other command
     void openBox(const QString &reply = QStringLiteral("10 EUR added"));
     void act(int hostAct);
 
@@ -130,7 +133,7 @@ void PrepaidBoxTest::boxIsTheDialogsOwn()
 {
     openReady();
     openBox();
-    // The box is not one of the host's boxes, which have their own class.
+    // The box does not belong to the host, whose message boxes have their own class.
     QCOMPARE(messageBox()->metaObject()->className(), "QMessageBox");
     QCOMPARE(messageBox()->parentWidget(), static_cast<QWidget *>(dialog()));
     QCOMPARE(messageBox()->windowModality(), Qt::ApplicationModal);
@@ -187,7 +190,8 @@ void PrepaidBoxTest::controlsAndBalanceWaitForTheBox()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-/// Tests two replies, because an operator may confirm a top-up with two of them.
+/// Tests two replies in quick succession, because an operator may confirm a top-up with two
+/// replies.
 void PrepaidBoxTest::replyInABurstHasABoxOfItsOwn()
 {
     openReady();
@@ -278,7 +282,8 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// Return in the entry opens the box, and the host acts in a separate event.
+/// Tests a host that acts while the box is open. Return in the entry field opens the box, and the
+/// host acts in a separate event.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {
     QFETCH(int, hostAct);
@@ -329,7 +334,7 @@ void PrepaidBoxTest::closingTheDialogTakesTheBoxAlong()
     logicSays(COMPONENT_CHARGE, QStringLiteral("second"));
     drainEvents();
     QVERIFY(messageBox());
-    dialog()->OnClickedCloseButton(); // does not delete the dialog in this test
+    dialog()->OnClickedCloseButton(); // this call does not delete the dialog in this test
     drainEvents();
     QVERIFY(dialog());
     QVERIFY(!messageBox());

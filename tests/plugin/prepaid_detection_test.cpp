@@ -15,7 +15,7 @@ const char *const PLUGIN = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
 const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
                                   "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
 
-/** A host's notification service, which copies the record during the call. */
+/** The notification service of a host, which copies the record during the call. */
 class Notifications : public QObject, public INotifyService
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ const char DIGIT[] = "\"\\d\"";
 
 } // namespace
 
-/** Tests the detection of prepaid SIM cards, and the notification of the host. */
+/** Tests how the plug-in detects prepaid SIM cards and notifies the host. */
 class PrepaidDetectionTest : public PrepaidTest
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ private:
 
     QScopedPointer<Notifications> m_notifications;
     QScopedPointer<Container> m_container;
-    PrePostRecord m_given; // holds the caller's three variables
+    PrePostRecord m_given; // refers to the caller's three variables
 
 private slots:
     void replyWithADigitMeansPrepaid();
@@ -216,7 +216,7 @@ void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
     ask();
     QTRY_COMPARE(m_notifications->calls.count(), 2);
     QCOMPARE(lastRecord().result, 0);
-    QVERIFY(!lastRecord().bPostPaid); // although the text of the time-out has no digit
+    QVERIFY(!lastRecord().bPostPaid); // although the time-out message contains no digit
     QCOMPARE(timesLogged("bPostPaid="), 0);
 }
 
@@ -242,8 +242,8 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Only the prepaid window sends the detection request, but the postpaid window receives the answer
-/// too.
+/// Tests the notifications of two windows. Only the prepaid window sends the detection request, but
+/// the postpaid window receives the answer too.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);
@@ -252,7 +252,7 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
         service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, false);
     openByService(PAID_TYPE_POSTPAID);
     service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, true);
-    for (int answers = 3; answers > 0; --answers) // balance and own number are answered first
+    for (int answers = 3; answers > 0; --answers) // the balance and the number are answered first
         networkSays(QStringLiteral("Contract account"));
     QCOMPARE(m_notifications->calls.count(), 4);
     for (int i = 0; i < 4; ++i) {
@@ -335,7 +335,7 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 {
     fakeSdkSetAnswer(fakeReply(u"balance"));
     FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
-    late.stubborn = true; // the release when the window opens does not end the session
+    late.stubborn = true; // sent although opening the window releases the session
     fakeSdkScript({late});
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
@@ -352,7 +352,8 @@ void PrepaidDetectionTest::withoutAContainerItIsLogged()
     expectWarning(": sendNotify: Plugin container is null ");
     ask();
     networkSays(digitPatternReply());
-    QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2); // debug and warning
+    // Logged as a debug message and as a warning.
+    QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2);
 }
 
 void PrepaidDetectionTest::withoutThePluginItIsLogged()

@@ -38,7 +38,7 @@ QString nameOf(const QWidget *widget)
     return widget->objectName().mid(int(strlen("USSDUIPlugin_")));
 }
 
-/// Returns the width of the text that must fit in the widget.
+/// Returns the width of the text that has to fit in the widget.
 int textWidth(const QWidget *widget)
 {
     QString text;
@@ -299,7 +299,7 @@ void PrepaidLayoutTest::componentsStandInOrderOfPos()
 
 void PrepaidLayoutTest::separatorsStandBetweenComponents_data()
 {
-    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 leaves one out
+    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 omits a component
     QTest::newRow("as usual") << (QList<int>() << 0 << 1 << 2 << 3);
     QTest::newRow("number first") << (QList<int>() << 1 << 2 << 3 << 0);
     QTest::newRow("number second") << (QList<int>() << 0 << 2 << 3 << 1);
@@ -348,7 +348,7 @@ void PrepaidLayoutTest::gridHasItsMeasures()
     const int rows = 2 + 1 + 3 + 1 + 1 + 1 + 1; // including three separators
     for (int row = 0; row < rows; ++row)
         QCOMPARE(grid()->rowMinimumHeight(row), 20);
-    QCOMPARE(grid()->rowCount(), rows + 1); // one more for the close button
+    QCOMPARE(grid()->rowCount(), rows + 1); // plus one for the close button
     QCOMPARE(dialog()->GetSize(), grid()->sizeHint());
     QVERIFY(dialog()->findChild<QLayout *>(QStringLiteral("USSDUIPlugin_CloseBtn_Layout")));
 }
@@ -436,8 +436,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// The longest address that fits is shown completely. If the address is longer by one letter, Qt
-/// elides it to 300 pixels.
+/// Tests an address that just fits and is shown completely. Qt elides an address that is one letter
+/// longer to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics = QApplication::fontMetrics();
@@ -449,7 +449,7 @@ void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
         Account account;
         account.online = onlineItem(2, url.toLatin1());
         configure(account);
-        USSDLogic::Destroy(); // makes the next object read the configuration again
+        USSDLogic::Destroy(); // the next logic object reads the configuration again
         make();
         const QString shown = metrics.elidedText(url, Qt::ElideRight, 300);
         QCOMPARE(shown == url, url == fits);
@@ -497,7 +497,7 @@ QStringList PrepaidLayoutTest::tabOrder()
         roles << nameOf(frame()->focusWidget());
         QTest::keyClick(frame()->focusWidget(), Qt::Key_Tab);
     } while (frame()->focusWidget() != first && roles.count() < 20);
-    roles.removeDuplicates(); // the link inside its label gets the focus separately
+    roles.removeDuplicates(); // the link and its label both receive the focus
     return roles;
 }
 

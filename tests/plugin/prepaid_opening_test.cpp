@@ -77,7 +77,7 @@ void PrepaidOpeningTest::onlyTheUsersOwnEditsChangeActivation()
 {
     configure(Account());
     open();
-    chargeEdit()->setText(pin()); // as a host's on-screen keyboard could do
+    chargeEdit()->setText(pin()); // a host's on-screen keyboard could make this call
     QVERIFY(!activateButton()->isEnabled());
     QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
     type(QStringLiteral("2"));
@@ -92,7 +92,7 @@ void PrepaidOpeningTest::noMoreThanLengthCanBeTyped()
     open();
     type(pin());
     QCOMPARE(chargeEdit()->text(), pin().left(8));
-    QCOMPARE(chargeEdit()->maxLength(), 8); // a longer pasted PIN is truncated
+    QCOMPARE(chargeEdit()->maxLength(), 8); // a longer PIN is truncated when it is pasted
 }
 
 void PrepaidOpeningTest::onlyTheLimitTextCanBeTyped()
@@ -180,7 +180,7 @@ void PrepaidOpeningTest::openingReleasesAndClearsBeforeItSends()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    // No command is pending any more, so the balance is requested at once.
+    // No command is pending, so the balance is requested at once.
     QCOMPARE(ussdCalls(), QStringList() << QStringLiteral("Request") << QStringLiteral("Release")
                                         << QStringLiteral("Request"));
     QCOMPARE(requests(), QStringList() << QStringLiteral("*1#") << QStringLiteral("*100#"));
@@ -210,14 +210,14 @@ void PrepaidOpeningTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// A command that an error in the file has truncated is read as an empty command.
+/// Tests a command that is truncated by an error in the file. It is read as an empty command.
 void PrepaidOpeningTest::emptyCommandIsNotSent()
 {
     Account account;
     account.balance.replace("<command>*100#</command>", "<command></command>");
     configure(account);
     open();
-    // The request for the own number makes the window busy.
+    // The window is busy because it requests the subscriber's own number.
     QCOMPARE(requests(), QStringList{QStringLiteral("*102#")});
     click(balanceButton());
     QCOMPARE(requests().count(), 1);
@@ -345,7 +345,8 @@ void PrepaidOpeningTest::openingAgainDoesNotEndIt()
     open();
     refuseAll(1);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED")); // the box was waiting before
+    // The box showed the waiting text before.
+    QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
     QVERIFY(balanceButton()->isEnabled());
 }
 

@@ -95,7 +95,7 @@ void PrepaidSendingTest::answerEnablesThemAgain()
     QFETCH(int, component);
     Account account;
     if (component == COMPONENT_CHARGE)
-        account.balance.clear(); // the balance would be requested next
+        account.balance.clear(); // otherwise the balance would be requested next
     configure(account);
     make();
     sendFrom(component);
@@ -111,7 +111,7 @@ void PrepaidSendingTest::refusalShowsNothingWhenNotBusy()
     refuseAll(5);
     configure(Account());
     open();
-    // The box keeps its initial text; after a time-out it would show another one.
+    // The box keeps its initial text. A time-out would change it.
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
     QVERIFY(balanceButton()->isEnabled());
 }
@@ -353,7 +353,7 @@ void PrepaidSendingTest::failedTopUpIsToldLikeAnAnswer()
 
 void PrepaidSendingTest::returnKeySendsOnce()
 {
-    refuseAll(1); // after a rejected command the button stays enabled, so a second press would send
+    refuseAll(1); // a rejected command leaves the button enabled, so a second press would send
     configure(only(chargeItem(0)));
     open();
     type(pin());
@@ -392,7 +392,7 @@ void PrepaidSendingTest::returnKeyElsewhereSendsNothing()
     }
     QVERIFY(requests().isEmpty());
     balanceButton()->setFocus();
-    QTest::keyClick(balanceButton(), Qt::Key_Return); // Return on a button still presses the button
+    QTest::keyClick(balanceButton(), Qt::Key_Return); // must still press the button
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
@@ -444,7 +444,7 @@ void PrepaidSendingTest::heldReturnAfterARefusalTriesOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-/// Some remote desktops send repeated presses without releases.
+/// Tests a held key that is reported as presses without releases, as by some remote desktops.
 void PrepaidSendingTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);
@@ -581,7 +581,7 @@ void PrepaidSendingTest::closingDropsWhatWaits()
     open();
     dialog()->OnClickedCloseButton();
     networkSays(QStringLiteral("5 EUR"));
-    // The own number is not requested.
+    // The subscriber's own number is not requested.
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 

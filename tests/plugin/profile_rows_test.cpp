@@ -4,7 +4,7 @@
 
 using namespace Formats;
 
-/** Tests how the rows of the profile editor's table become profiles. */
+/** Tests how the table rows of the profile editor become profiles. */
 class ProfileRowsTest : public UssdTest
 {
     Q_OBJECT
@@ -183,7 +183,7 @@ void ProfileRowsTest::profilesBeyondTheRowsAreKept()
             rows << row("Balance", qPrintable(profile.value));
     }
     QVERIFY(read(rows, shown) == shown);
-    rows[99].code.clear(); // deletes the last row of the table, but no profile after it
+    rows[99].code.clear(); // deletes only the profile of the last row
     QCOMPARE(read(rows, shown).count(), 129);
     QVERIFY(read(rows, shown).last() == shown.last());
 }

@@ -18,7 +18,7 @@ qint64 testClock()
     return now;
 }
 
-/// Counts the events that the timer causes in its owner's event loop.
+/// Counts the events that the timer causes in the event loop of its owner's thread.
 class CountingTimer : public ReplyTimer
 {
 public:
@@ -149,7 +149,7 @@ void ReplyTimerTest::busyOwnerDoesNotLengthenTheTime()
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     std::thread other([&] { timer.arm(30000); });
     other.join();
-    now = 30000; // the owner handles its events only now
+    now = 30000; // the owner handles events only from now on
     QTRY_VERIFY(!timeouts.isEmpty());
 }
 
@@ -177,11 +177,11 @@ void ReplyTimerTest::laterArmingRunsOutAtItsOwnTime()
     timer.arm(1);
     std::thread other([&] {
         timer.disarm();
-        timer.arm(40); // an earlier wake-up has no effect
+        timer.arm(40); // the wake-up for the first time-out must have no effect
     });
     other.join();
     QVERIFY(timeouts.wait(10000));
-    // The clock counts whole milliseconds, so one may be missing.
+    // The clock counts whole milliseconds, so the measured time may be one millisecond short.
     QVERIFY(std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(40 - 1));
     QCOMPARE(timeouts.count(), 1);
 }
@@ -193,7 +193,7 @@ void ReplyTimerTest::shorterArmingIsNotHeldUpByTheClockOfALongerOne()
     ReplyTimer timer;
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     timer.arm(60000);
-    now = 100000; // the time has passed by this clock, but the timer has not fired yet
+    now = 100000; // this clock has passed the time-out, but the timer has not fired yet
     std::thread other([&] {
         timer.disarm();
         timer.arm(0);

@@ -1,8 +1,8 @@
 /*
- * Tests every order of the calls with which a host may shut down the loaded plug-in, in every state
- * of the plug-in. The sequences have up to five calls, with repetitions, and the device SDK calls
- * back meanwhile. After each sequence the library is unloaded in the same iteration of the event
- * loop, so that anything left behind would run code that no longer exists.
+ * Tests the calls with which a host may shut down the loaded plug-in, in every order and in every
+ * state of the plug-in. A sequence consists of up to five calls, including repeated ones, and the
+ * device SDK calls back in between. After each sequence, the library is unloaded in the same
+ * iteration of the event loop. Anything left behind would then run code that no longer exists.
  */
 #include "UssdTest.h"
 
@@ -31,7 +31,7 @@ namespace
 
 const char CALLS[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // the length of the sequences in states that take long to reach
+const int EACH_ONCE = 3; // the length of the sequences in states that are slow to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // closed by the user in the same iteration of the event loop
+    ModalClosed, // closed by the user in the same event loop iteration
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,
@@ -51,7 +51,7 @@ enum State {
     MessageOpen
 };
 
-/// Returns whether the library is mapped into the process's memory.
+/// Returns true if the library is mapped into the memory of this process.
 bool isMapped()
 {
     void *handle = dlopen(USSD_PLUGIN_FILE, RTLD_LAZY | RTLD_NOLOAD);
@@ -165,7 +165,8 @@ void ShutdownTest::send(const QString &command)
     button->click();
 }
 
-/// Presses a button that opens a window with its own event loop, and calls the function in it.
+/// Presses a button that opens a window with its own event loop, and calls the function in this
+/// loop.
 void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> &whileItIsSo)
 {
     bool wasOpen = false;
@@ -173,7 +174,7 @@ void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> 
         wasOpen = QApplication::activeModalWidget() != nullptr;
         whileItIsSo();
     });
-    part<QPushButton>(button)->click(); // returns when the event loop has ended
+    part<QPushButton>(button)->click(); // this call returns when the event loop has ended
     QVERIFY(wasOpen);
 }
 
@@ -182,7 +183,7 @@ void ShutdownTest::openModal(int type)
     QCOMPARE(callDoPrePostPaidModal(ussd(), type), 1);
 }
 
-/// Opens the message box that shows the reply to a top-up, as in the shipped configuration.
+/// Opens the message box that shows the reply to a top-up, as with the shipped configuration.
 void ShutdownTest::topUpIntoBox()
 {
     const QString prefix = QLatin1String("USSDUIPlugin_Charge");
@@ -191,7 +192,7 @@ void ShutdownTest::topUpIntoBox()
         m_window->findChild<QPushButton *>(prefix + QLatin1String("ActivateButton"));
     button->setEnabled(true);
     button->click();
-    for (int commands = 3; commands > 0; --commands) { // balance, own number, then the top-up
+    for (int commands = 3; commands > 0; --commands) { // balance, own number and top-up
         fakeSdkRespond(u"reply");
         QVERIFY(fakeSdkWaitIdle());
         drainEvents();
@@ -249,7 +250,8 @@ void ShutdownTest::run(const QString &calls)
     }
 }
 
-/// Makes the calls and unloads the library. Checks that no window, call-back or code is left.
+/// Makes the calls and unloads the library. Checks that no window, no call-back and no code
+/// remains.
 void ShutdownTest::finish(const QString &calls)
 {
     if (!calls.endsWith(QLatin1String("uod")))
@@ -332,7 +334,8 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
     }
 }
 
-/// Connects to the dialog before the service, which connects again each time the window is shown.
+/// Connects to the dialog before the service does. The service connects again each time the window
+/// is shown.
 void ShutdownTest::hearDialogIn(QWidget *frame, int type)
 {
     for (QWidget *widget : frame->findChildren<QWidget *>()) {
@@ -342,8 +345,8 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// The host shuts the plug-in down in the close event of a frame, where it cannot unload the
-/// library.
+/// Tests a host that shuts the plug-in down in the close event of a frame. The host cannot unload
+/// the library there.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {
     QFETCH(int, type);

@@ -2,8 +2,10 @@
 #define SLOT_TABLE_H
 
 /*
- * Calls the plug-in's interfaces like a host that was built long ago. It relies on the order of
- * base classes and of slots in the virtual tables (Itanium C++ ABI) and does not use the headers.
+ * Calls the plug-in's interfaces like a host that was built long ago. Instead of the headers, the
+ * calls rely on the order of the base classes and of the slots in the virtual tables (Itanium C++
+ * ABI).
+ * headers.
  */
 
 class QObject;
@@ -14,7 +16,7 @@ class QWidget;
 namespace SlotTable
 {
 
-/// The slots are counted from 0 and follow the two slots of the virtual destructor.
+/// The indexes of the slots, counted from 0 after the two slots of the virtual destructor.
 enum BasePluginSlot {
     Release,
     GetLastError,
@@ -44,7 +46,7 @@ enum USSDSlot {
 };
 
 /// Returns the second base of a plug-in interface. It directly follows the first base, which has no
-/// members.
+/// data members.
 void *secondBase(void *basePlugin);
 
 void callVoid(void *object, int slot);

@@ -1,6 +1,6 @@
 #include "SmsDialogTest.h"
 
-/** Tests what the USSD-SMS dialog shows: the layout file, the tree and the controls. */
+/** Tests the widgets of the USSD-SMS dialog: the layout file, the tree and the controls. */
 class SmsControlsTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -70,7 +70,8 @@ void SmsControlsTest::missingFileLeavesAnEmptyDialogWithoutConnections()
 void SmsControlsTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 {
     writeConfig(QByteArray());
-    // A folder has the name of the file, so that not even root can open it.
+    // Creates a folder with the name of the file, because not even root can read a folder as a
+    // file.
     QVERIFY(QDir().mkpath(pluginFolder() + latin1("/USSDPluginConfig.xml")));
     open();
     QCOMPARE(timesLogged("InitConfig: return fail for the file can't be open as readonly and text "
@@ -82,7 +83,8 @@ void SmsControlsTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 
 void SmsControlsTest::unknownPluginFolderIsLogged()
 {
-    qputenv("USSD_PLUGIN_LIBRARY_PATH", "/"); // the host reads it as an empty path
+    // The host's path lookup treats this value as an empty path.
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", "/");
     open();
     QCOMPARE(logLines()
                  .filter(QRegularExpression(latin1("^config file error .*InitConfig : $")))
@@ -107,7 +109,7 @@ void SmsControlsTest::brokenFileKeepsItsServicesButHearsNothing()
     QCOMPARE(receivers(SIGNAL(responseReceived(int, QString))), 0);
     select(BALANCE);
     press();
-    QCOMPARE(requests(), QStringList()); // nothing is connected that could receive the answer
+    QCOMPARE(requests(), QStringList()); // nothing is connected that could receive an answer
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QVERIFY(isIdle());
 }
@@ -181,7 +183,7 @@ void SmsControlsTest::configurationIsReadAnewOnDemand()
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
     QVERIFY(tree()->isEnabled());
     QVERIFY(button()->isHidden());
-    select(PREPAID); // a row whose entry was removed
+    select(PREPAID); // selects a row whose entry was removed
     QVERIFY(button()->isHidden());
     m_dialog->InitTree();
     m_dialog->SetLanguage();
@@ -314,7 +316,8 @@ void SmsControlsTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// The number -1 means that there is no entry, so a first row with this number is not selected.
+/// Tests that a first row with the number -1 is not selected. This number means that there is no
+/// entry.
 void SmsControlsTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()
@@ -358,7 +361,7 @@ void SmsControlsTest::keysSelectAService()
 {
     tree()->setFocus();
     QTest::keyClick(tree(), Qt::Key_Down);
-    QVERIFY(input()->isVisible()); // the field of the second service replaces that of the first
+    QVERIFY(input()->isVisible()); // the field of the second service has replaced that of the first
     QTest::keyClick(tree(), Qt::Key_End);
     QTest::keyClick(tree(), Qt::Key_Home); // selects the root
     QTest::keyClick(tree(), Qt::Key_Down);

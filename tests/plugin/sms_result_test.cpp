@@ -1,6 +1,6 @@
 #include "SmsDialogTest.h"
 
-/** Tests the results of the USSD-SMS dialog, its languages and its end. */
+/** Tests the results that the USSD-SMS dialog shows, its languages and its closing. */
 class SmsResultTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ void SmsResultTest::resultIsPlainText()
     networkSays(reply);
     QCOMPARE(result(), reply);
     QCOMPARE(resultLabel()->textFormat(), Qt::PlainText);
-    QVERIFY(resultLabel()->grab().width() > 0); // drawing the label loads nothing
+    QVERIFY(resultLabel()->grab().width() > 0); // drawing the label must not load any resource
 }
 
 void SmsResultTest::longResultDoesNotChangeTheWindow()
@@ -68,7 +68,7 @@ void SmsResultTest::longWordInAResultIsBroken()
     press();
     networkSays(QString(60, QLatin1Char('M')));
     const QImage shown = resultLabel()->grab().toImage();
-    // Something is drawn below the first line.
+    // Text is also drawn below the first line.
     const int secondLine = resultLabel()->fontMetrics().height();
     QVERIFY(inkIn(shown, QRect(0, secondLine, shown.width(), secondLine)));
 }
@@ -98,8 +98,7 @@ void SmsResultTest::codeInAResultIsNotTurnedRound()
     QCOMPARE(result(), text);
 }
 
-/// A code between Arabic letters must look as if the reply contained directional marks around the
-/// code.
+/// Tests that a code between Arabic letters looks as if the reply had directional marks around it.
 void SmsResultTest::codeAmongArabicLettersIsDrawnLeftToRight()
 {
     const QString reply = QString::fromUtf8("اطلب *124# الآن");
@@ -111,8 +110,8 @@ void SmsResultTest::codeAmongArabicLettersIsDrawnLeftToRight()
     QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 
-/// The full stop must be drawn to the left of the last word, as if a right-to-left mark followed
-/// it.
+/// Tests that the full stop is drawn to the left of the last word, as if a right-to-left mark
+/// followed it.
 void SmsResultTest::arabicResultIsARightToLeftParagraph()
 {
     const QString reply = QString::fromUtf8("مرحبا.");
@@ -164,7 +163,7 @@ void SmsResultTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
-/// A click with Ctrl deselects a row, but the row remains the current row.
+/// Tests a row that is deselected but remains the current row, as after a click with Ctrl.
 void SmsResultTest::languageChangeKeepsInputOfARowNotSelected()
 {
     select(CALL);

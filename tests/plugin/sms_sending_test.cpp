@@ -1,6 +1,6 @@
 #include "SmsDialogTest.h"
 
-/** Tests when the USSD-SMS dialog sends, and what it sends. */
+/** Tests when the USSD-SMS dialog sends a command or a message, and which one. */
 class SmsSendingTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -128,7 +128,8 @@ void SmsSendingTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
 }
 
-/// The typed text decides, not the number. This odd rule is kept, also in the next two tests.
+/// Tests that the typed text decides whether the message is sent, not the number. This unusual rule
+/// is deliberate. The next two tests also depend on it.
 void SmsSendingTest::emptyNumberIsSentWhenTyped()
 {
     openWith(config().replace("<number>1200</number>", "<number></number>"));
@@ -149,7 +150,7 @@ void SmsSendingTest::emptyNumberIsEnabledByReadiness()
     QVERIFY(button()->isEnabled());
 }
 
-/// The click disables the field until a service is selected again.
+/// Tests that the click disables the field until a service is selected again.
 void SmsSendingTest::emptyCommandIsEnabledByReadinessButNotSent()
 {
     openWith(config().replace("WEATHER %s", ""));
@@ -175,7 +176,7 @@ void SmsSendingTest::typingDoesNotEnableAnEmptyCommand()
     QVERIFY(!button()->isEnabled());
 }
 
-/// The plug-in checks the length in two different ways, and both are kept.
+/// Tests that the plug-in checks the length in two different ways. This is deliberate.
 void SmsSendingTest::typedTextOfMinimumLengthIsEnoughButNotForReadiness()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
@@ -450,7 +451,8 @@ void SmsSendingTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// The message may come from another program that has sent the same text to the same number.
+/// Tests a result while the dialog is not busy. It may belong to another program that has sent the
+/// same text to the same number.
 void SmsSendingTest::smsResultWhileNotBusyIsShown()
 {
     QFETCH(int, fared);
@@ -515,15 +517,15 @@ void SmsSendingTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// The device reports on its own thread, and the queued signal has not been handled when the user
-/// clicks. The field stays disabled until a service is selected. This behaviour is kept.
+/// Tests a click at the moment when the device has reported the loss but the queued signal has not
+/// been handled. The field deliberately stays disabled until a service is selected.
 void SmsSendingTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
     select(WEATHER);
     type(latin1("Oslo"));
     fakeSdkRaiseSmsStatus(TKSV_SMS_STATUS_CANNOT_SEND);
-    QVERIFY(fakeSdkWaitIdle()); // the queued signal is not handled by this call
+    QVERIFY(fakeSdkWaitIdle()); // this call does not handle the queued signal
     press();
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QCOMPARE(smsSent(), 0);
@@ -599,7 +601,7 @@ void SmsSendingTest::whileBusySelectionIsIgnored()
     press();
     select(PREPAID);
     QTest::keyClick(tree(), Qt::Key_Down);
-    tree()->setCurrentItem(row(CALL)); // as a host could do
+    tree()->setCurrentItem(row(CALL)); // a host could make this call
     QVERIFY(input()->isHidden());
     networkSays(latin1("5.00"));
     press();

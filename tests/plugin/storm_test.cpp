@@ -1,5 +1,5 @@
 /*
- * Sends very many commands while random events of all kinds happen.
+ * Sends thousands of commands while random events of all kinds happen.
  *
  *     USSD_STORM_COMMANDS  the number of commands (5000 by default; 100000 for the full storm)
  *     USSD_STORM_SEED      the seed, printed at the start
@@ -19,7 +19,7 @@
 namespace
 {
 
-// The largest value of the enumeration's type, which belongs to no dialog.
+// The largest value that the enumeration's type can hold. It does not belong to any dialog.
 const int LAST_COMPONENT = 7;
 
 int number(const char *name, int otherwise)
@@ -69,7 +69,7 @@ private:
 
     std::mt19937 m_random;
     PipelineModel m_model;
-    QList<bool> m_accepted; // whether the device accepts each of the next requests
+    QList<bool> m_accepted; // for each of the next requests, true if the device accepts it
     QScopedPointer<LogicListener> m_listener;
     QScopedPointer<QWidget> m_window;
     int m_sent = 0;
@@ -88,7 +88,8 @@ void StormTest::setUp()
     allowWarning("../../src/USSDUIPlugin/");
     const ReplyTimes times = {60000, 0};
     USSDLogic::setReplyTimes(times);
-    // With this configuration, no answer makes a window send a command by itself or ask the user.
+    // With this configuration, no answer causes a window to send a command or to open a message
+    // box.
     writeConfig(completeConfig()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
                     .replace("<ReturnStyle>1", "<ReturnStyle>0"));
@@ -117,8 +118,8 @@ QString StormTest::command()
            QLatin1Char('#');
 }
 
-/// Decides which requests the device rejects, which is one in twelve, and sets this in the device
-/// and in the model.
+/// Decides which requests the device rejects (one in twelve), and configures the device and the
+/// model accordingly.
 void StormTest::scriptDevice(int requests)
 {
     std::vector<FakeAnswer> script;
@@ -148,7 +149,7 @@ void StormTest::reply()
     const QString reply = QString::number(m_random());
     fakeSdkRespond(reply.toStdU16String(), dice(3));
     QVERIFY(fakeSdkWaitIdle());
-    drainEvents(); // a time-out is not queued, and would overtake queued answers
+    drainEvents(); // a time-out is not queued and would overtake queued answers
     m_model.reply(reply);
 }
 
@@ -192,7 +193,8 @@ void StormTest::changeLanguage()
     CUSSDService::instance()->Notify(320, 0, 0);
 }
 
-/// Opens the prepaid window, which requests the own number. The balance is not configured.
+/// Opens the prepaid window, which requests the subscriber's own number. The balance is not
+/// configured.
 void StormTest::openPrepaid()
 {
     m_model.clear(isDetection);
@@ -245,7 +247,7 @@ void StormTest::step()
         openOrClose();
 }
 
-/// Compares the answers and requests since the last check with the model.
+/// Compares the answers and requests since the previous check with the model.
 void StormTest::check()
 {
     drainEvents();
@@ -279,8 +281,8 @@ void StormTest::everyCommandIsAnsweredAsTheModelSays()
     QCOMPARE(m_model.pending(), 0);
 }
 
-/// Lets replies, time-outs, device events and clears run concurrently on their threads. Each
-/// command must be answered at most once. Every command that is pending at the end must be
+/// Runs replies, time-outs, device events and clears concurrently, each on its own thread. Each
+/// command must be answered at most once, and every command that is pending at the end must be
 /// answered.
 void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
 {
@@ -309,7 +311,8 @@ void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
             drainEvents();
     }
     QVERIFY(fakeSdkWaitIdle()); // a late device event would cancel the next command
-    // Commands are answered in order. When this one is answered, no command is pending any more.
+    // Commands are answered in order. When this command has been answered, no earlier one is
+    // pending.
     USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
         USSDCmdOrResp(static_cast<_COMPONENT>(LAST_COMPONENT), QStringLiteral("*8#")), &status);
     QTRY_VERIFY_WITH_TIMEOUT(!m_listener->answers.isEmpty() &&

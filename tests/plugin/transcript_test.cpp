@@ -44,7 +44,8 @@ QString markup(Transcript::Direction direction, const Char &look, bool rightToLe
     return Transcript::entry(direction, look, rightToLeft, latin1("Caption: "), text).markup;
 }
 
-/// Returns the expected content of the view, which results from setting the same text at once.
+/// Returns the expected content of the view, which is the result of setting the complete text at
+/// once.
 QString setAtOnce(const QString &entries)
 {
     TranscriptView view;
@@ -60,7 +61,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-// The pieces of random texts. Each kind has its own difficulties.
+// The parts of random texts. Each kind of text is difficult in its own way.
 const char *const WORDS[] = {"Balance", "12.50 EUR", "*100#", "1) Yes", "a", "%s", "%1", "-", "0"};
 const char *const ARABIC[] = {"رصيدك", "١٢٣", "اضغط 1", "ل", "\u200f", "\u200e"};
 const char *const BREAKS[] = {"\n", "\n\n", "\r", "\r\n", "\n ", " \n"};
@@ -111,7 +112,7 @@ Piece anyOf(const char *const (&pieces)[Count])
     return [&pieces](std::mt19937 &random) { return oneOf(pieces, random); };
 }
 
-/// Returns a random text of words, in which one piece in three is of one of these kinds.
+/// Returns a random text. About one piece in three is of one of the given kinds.
 QString randomText(const QVector<Piece> &kinds, std::mt19937 &random)
 {
     QString text;
@@ -128,7 +129,7 @@ struct RandomEntries {
     QVector<Piece> kinds;
     bool leftToRight;
     bool rightToLeft;
-    int oftenBlank; ///< one in this number of captions is blank
+    int oftenBlank; ///< one in this many captions is blank
     std::mt19937 &random;
 
     bool isRightToLeft() { return rightToLeft && (!leftToRight || random() % 2 == 0); }
@@ -166,8 +167,8 @@ QVector<Piece> kindsNamed(const QByteArray &name)
     return text + odd + QVector<Piece>{anyOf(ENTITIES), anyOf(CLOSED), anyOf(OPEN)};
 }
 
-/// Returns whether entries of this kind are usually inserted. Otherwise the whole text is set for
-/// each entry, so fewer entries are tested in the same time.
+/// Returns true if entries of this kind are usually inserted. For the other kinds, the whole text
+/// is set for each entry, so fewer entries can be tested in the same time.
 bool isInsertedAsARule(const QByteArray &kind)
 {
     return kind == "words" || kind == "texts" || kind == "odd characters" || kind == "entities";
@@ -319,7 +320,7 @@ void TranscriptTest::textGoesInAsItIs()
                 .endsWith(latin1(">Caption: <b>&amp;%1%s</b></span></p>")));
 }
 
-/// Returns the visible text of a reply between two others.
+/// Returns the visible text of a reply that stands between two others.
 static QString shown(const QString &text)
 {
     TranscriptView view;
@@ -441,7 +442,7 @@ void TranscriptTest::randomEntriesEqualTheWholeTextSetAtOnce()
     QFETCH(QByteArray, kind);
     QFETCH(bool, leftToRight);
     QFETCH(bool, rightToLeft);
-    allowWarning("Point size <= 0"); // entries of a configuration without sizes
+    allowWarning("Point size <= 0"); // the entries come from a configuration without sizes
     std::mt19937 random(seedOfThisRun());
     RandomEntries source = {kindsNamed(kind), leftToRight, rightToLeft, blankCaptions(kind),
                             random};
@@ -453,13 +454,14 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce_data()
     addKindsAndDirections();
 }
 
-/// In a long transcript, an entry with unclosed markup would hide the following entries.
+/// Tests that an entry with unclosed markup does not hide the entries that follow, even in a long
+/// transcript.
 void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
 {
     QFETCH(QByteArray, kind);
     QFETCH(bool, leftToRight);
     QFETCH(bool, rightToLeft);
-    allowWarning("Point size <= 0"); // entries of a configuration without sizes
+    allowWarning("Point size <= 0"); // the entries come from a configuration without sizes
     std::mt19937 random(seedOfThisRun());
     RandomEntries source = {kindsNamed(kind), leftToRight, rightToLeft, blankCaptions(kind),
                             random};
@@ -467,7 +469,7 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
         compareWhileGrowing(source, 5, 1);
 }
 
-/// Adds an entry and returns the position of the first letter that changes, or -1.
+/// Adds an entry. Returns the position of the first character that changes, or -1 if none does.
 int TranscriptTest::firstChangeBy(TranscriptView &view, const Transcript::Entry &entry)
 {
     int first = -1;
@@ -501,7 +503,7 @@ void TranscriptTest::afterClearingEntriesAreInsertedAgain()
     view.appendEntry(
         Transcript::entry(Received, look(200, 0, 0, 0), false, latin1("R: "), latin1("<b>")));
     view.appendEntry(plain);
-    QCOMPARE(firstChangeBy(view, plain), 0); // after markup, the whole text is set again
+    QCOMPARE(firstChangeBy(view, plain), 0); // after markup, the complete text is set again
     view.clearEntries();
     view.appendEntry(plain);
     QVERIFY(firstChangeBy(view, plain) > 0);
@@ -583,7 +585,8 @@ void TranscriptTest::deviceThatNeverEndsIsNotRead_data()
                           << latin1(")\"><li>x</ul>");
 }
 
-/// If the pipe were opened, the call would wait for a writer, and the watchdog would end the test.
+/// Tests that a named pipe is not opened. Opening it would wait for a writer, and the watchdog
+/// would end the test.
 void TranscriptTest::deviceThatNeverEndsIsNotRead()
 {
     QFETCH(QString, before);
@@ -651,7 +654,7 @@ void TranscriptTest::resourcesAreAnsweredWithoutAFile()
         QUrl::fromLocalFile(writeFile(latin1("real"), "p { color: red } <b>content</b>"));
     TranscriptView view;
     const QVariant answer = view.document()->resource(type, url);
-    QVERIFY(!answer.isNull()); // a null answer lets Qt open the file itself
+    QVERIFY(!answer.isNull()); // for a null answer, Qt would open the file itself
     if (type == QTextDocument::ImageResource)
         QCOMPARE(answer.value<QImage>().size(), QSize(1, 1));
     else

@@ -11,12 +11,14 @@
 
 using namespace Provisioning;
 
-/// Tests that no file created or changed by hand is lost, whenever the program is killed.
+/// Tests that no file created or changed by hand is lost, at whatever step the program is killed.
 class ProvisionWriterTest : public UssdTest
 {
     Q_OBJECT
 
 private slots:
+    void folderOfTheUser_data();
+    void folderOfTheUser();
     void writesWhatThePluginLooksFor();
     void remembersTheOperator();
     void sameOperatorAgainWritesNothing();
@@ -60,7 +62,7 @@ ProvisionPlan planOf(const char *name)
     return plan;
 }
 
-/// Returns files with arbitrary content, which the writer does not check.
+/// Returns files with arbitrary content. The writer does not check the content.
 ProvisionFiles filesOf(const char *name)
 {
     ProvisionFiles files;
@@ -90,7 +92,7 @@ void ProvisionWriterTest::change(const char *file, const QByteArray &text)
     QCOMPARE(out.write(text), qint64(text.size()));
 }
 
-/// Returns whether both files in use and the record belong to this operator.
+/// Returns true if both files in use and the record belong to this operator.
 bool ProvisionWriterTest::isWhole(const char *name)
 {
     const Provision provision = readProvision(target());
@@ -258,7 +260,7 @@ void ProvisionWriterTest::pluginLinkFollowsThePlugin()
     QCOMPARE(writeProvision(order, planOf("One"), filesOf("One")).state, ProvisionOutcome::Current);
     QCOMPARE(content("libUSSDUIPlugin.so"), QByteArray("second"));
     QCOMPARE(writeProvision(order, planOf("Two"), filesOf("Two")).state, ProvisionOutcome::Written);
-    QCOMPARE(contentOf(second), QByteArray("second")); // the writer does not write through the link
+    QCOMPARE(contentOf(second), QByteArray("second")); // the writer must not write through the link
 }
 
 void ProvisionWriterTest::unwritableFolderIsSaid()
@@ -269,7 +271,7 @@ void ProvisionWriterTest::unwritableFolderIsSaid()
     QVERIFY(outcome.problem.contains(target()));
 }
 
-/// Runs the writer in a child process that is killed before the step. Returns its exit code.
+/// Runs the writer in a child process that is killed before the given step. Returns its exit code.
 int ProvisionWriterTest::runKilled(int step, const char *name)
 {
     const pid_t child = fork();
@@ -293,9 +295,9 @@ void ProvisionWriterTest::killBetweenAnyStepsLeavesOldOrNew()
         QVERIFY(result == KILLED || result == 0);
         const bool isNew = isWhole("New");
         QVERIFY2(isNew || isWhole("Old"), qPrintable(QString::number(step)));
-        QVERIFY(isNew || !sawNew); // the new files stay in use
+        QVERIFY(isNew || !sawNew); // once the new files are in use, they stay in use
         sawNew = isNew;
-        // The next run succeeds and removes leftover files.
+        // The next run succeeds and removes left-over files.
         QVERIFY(write("New").problem.isEmpty());
         QVERIFY(isWhole("New"));
         const QDir sets(target() + QLatin1String("/provisioned"));
@@ -319,6 +321,29 @@ void ProvisionWriterTest::killBetweenAnyFirstStepsLeavesNothingOrNew()
         if (result == 0)
             break;
     }
+}
+
+void ProvisionWriterTest::folderOfTheUser_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QString>("folder");
+    const QString usual = QDir::homePath() + QLatin1String("/.local/share/ussd-dashboard");
+    QTest::newRow("absolute") << QByteArray("/data") << QString::fromLatin1("/data/ussd-dashboard");
+    QTest::newRow("relative") << QByteArray("data") << usual;
+    QTest::newRow("empty") << QByteArray() << usual;
+}
+
+void ProvisionWriterTest::folderOfTheUser()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(QString, folder);
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", variable);
+    const QString home = userDataHome();
+    const QString operators = operatorsFolder();
+    qputenv("XDG_DATA_HOME", before);
+    QCOMPARE(home, folder);
+    QCOMPARE(operators, folder + QLatin1String("/operators"));
 }
 
 USSD_TEST_MAIN(ProvisionWriterTest)

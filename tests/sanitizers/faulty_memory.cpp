@@ -1,13 +1,14 @@
-// Deliberate faults. CTest runs each separately and expects a report of the address sanitizer.
+// Deliberate faults. CTest runs each of them separately and expects a report from the address
+// sanitizer.
 #include <cstdio>
 #include <cstring>
 #include <limits>
 
 namespace
 {
-int *volatile g_kept = nullptr; // volatile, so that the compiler does not remove it as unused
+int *volatile g_kept = nullptr; // volatile, so that the compiler keeps it although it is unused
 
-// Volatile variables hide the faults from the compiler's warnings.
+// Volatile variables prevent compiler warnings about the faults.
 int readAfterFree()
 {
     int *volatile value = new int(1);

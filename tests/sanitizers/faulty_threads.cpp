@@ -4,7 +4,8 @@
 
 #include <thread>
 
-/// Deliberate faults. CTest runs each separately and expects a report of the thread sanitizer.
+/// Deliberate faults. CTest runs each of them separately and expects a report from the thread
+/// sanitizer.
 class FaultyThreads : public UssdTest
 {
     Q_OBJECT
@@ -29,7 +30,7 @@ void FaultyThreads::twoThreadsWriteOneInt()
     other.join();
 }
 
-// Writes before the signal are ordered; a write after it is a race.
+// Writes before the signal are synchronized; a write after it is a race.
 void FaultyThreads::writesAfterItsSignal()
 {
     int seen = -1;

@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-/// Runs all kinds of correct code between threads that the project uses. No sanitizer may report
+/// Runs correct code of all kinds that this project uses between threads. No sanitizer may report
 /// it.
 class QueuedSignalsTest : public UssdTest
 {
@@ -217,7 +217,8 @@ void QueuedSignalsTest::mutexMayStandWhereAnotherStood()
     for (int round = 0; round < ROUNDS; ++round) {
         QMutex first;
         QMutex second;
-        QMutex *outer = round % 2 ? &first : &second; // alternating order, on new mutexes
+        // Alternating order of locking, with new mutexes.
+        QMutex *outer = round % 2 ? &first : &second;
         QMutex *inner = round % 2 ? &second : &first;
         const QMutexLocker outerLock(outer);
         const QMutexLocker innerLock(inner);
@@ -231,7 +232,7 @@ void QueuedSignalsTest::whatAThreadWroteIsSeenAfterItsEnd()
     for (int round = 0; round < 20; ++round) {
         QScopedPointer<QThread> thread(QThread::create([&] { m_plain = round; }));
         thread->start();
-        while (round % 2 && !thread->isFinished()) // makes every second wait() return at once
+        while (round % 2 && !thread->isFinished()) // every second wait() returns at once
             QThread::yieldCurrentThread();
         QVERIFY(thread->wait());
         QCOMPARE(m_plain, round);

@@ -5,7 +5,7 @@
 namespace
 {
 
-std::mutex insideMutex; // locked while the action runs
+std::mutex insideMutex; // locked while the action is running
 std::function<void(const Response &)> insideUssd;
 
 std::u16string textAt(const unsigned short *units)

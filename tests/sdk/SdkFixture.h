@@ -11,7 +11,7 @@
 
 #include "tksv.h"
 
-/** Collects values that arrive on other threads, in their order. */
+/** Collects values that arrive on other threads, in order. */
 template <typename T>
 class Inbox
 {
@@ -23,7 +23,7 @@ public:
         m_changed.notify_all();
     }
 
-    /// Returns whether at least this many values arrive within ten seconds.
+    /// Returns true if at least this many values arrive within ten seconds.
     bool waitFor(std::size_t count)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -54,7 +54,7 @@ class Gate
 {
 public:
     void open();
-    /// Returns false if the gate is still shut after ten seconds.
+    /// Returns false if the gate is still closed after ten seconds.
     bool wait();
 
 private:
@@ -90,15 +90,15 @@ namespace SdkFixture
 
 Received &received();
 
-/// Switches the device to the network that the text describes and returns when the device is ready.
-/// The times of the text count from that moment. Returns an empty string on success. Each kind of
-/// device links its own implementation.
+/// Switches the device to the network that the scenario text describes, and returns when the device
+/// is ready. The times in the text are relative to that moment. Returns an empty string on success.
+/// Each kind of device links its own implementation.
 std::string useNetwork(const std::string &scenario);
 
 /** The differences between devices. */
 struct Abilities {
-    /// Whether a call fails if the device fails. A device behind a daemon fails only after the call
-    /// has returned, so that the response reports the failure.
+    /// If true, a call fails if the device fails. A device behind a daemon fails only after the
+    /// call has returned, and the response reports the failure.
     bool failsInTheCall = true;
     bool sendsEmptySms = true;
     /// If false, the device supports only UCS2, which lacks the characters that need two code
@@ -114,34 +114,34 @@ unsigned char onUssd(int event, void *data);
 unsigned char onDevice(int event, void *data);
 unsigned char onSms(int event, void *data);
 
-/** Runs an action inside the USSD call-back, after the response has been recorded. */
+/** Runs an action in the USSD call-back, after the response has been recorded. */
 class InsideUssd
 {
 public:
     explicit InsideUssd(std::function<void(const Response &)> action);
-    /// Returns when the action is no longer running. The objects that it refers to may then be
+    /// Returns when the action is no longer running. The objects to which it refers may then be
     /// deleted.
     ~InsideUssd();
     InsideUssd(const InsideUssd &) = delete;
     InsideUssd &operator=(const InsideUssd &) = delete;
 };
 
-/// Sends the text and returns the result of the call.
+/// Sends the command and returns the result of the call.
 long request(const std::u16string &text, int *status = nullptr);
-/// Sends the text and returns the response. The type of the response is -1 if none arrives.
+/// Sends the command and returns the response. The type is -1 if no response arrives.
 Response ask(const std::u16string &text);
 
 /**
- * Runs an action that must finish within `milliseconds`, because the network sends something then.
- * Since a busy machine may need several attempts, each attempt starts with `prepare`. Returns false
- * if no attempt was fast enough.
+ * Runs an action that must finish within `milliseconds`, because the network sends something after
+ * that time. Each attempt starts with `prepare`. A busy machine may need several attempts. Returns
+ * false if no attempt was fast enough.
  */
 bool doInTime(int milliseconds, const std::function<void()> &prepare,
               const std::function<void()> &action);
 
 long sendSms(const std::u16string &number, const std::u16string &text);
 
-/// Returns whether the condition becomes true within ten seconds.
+/// Returns true if the condition becomes true within ten seconds.
 bool waitUntil(const std::function<bool()> &condition);
 
 } // namespace SdkFixture

@@ -1,4 +1,4 @@
-/* The network of the SDK fixture: the network of the simulator. */
+/* Implements the network of the SDK fixture with the simulator. */
 #include <cstdio>
 #include <fstream>
 #include <unistd.h>

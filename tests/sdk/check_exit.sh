@@ -1,5 +1,5 @@
 #!/bin/sh
-# check_exit.sh PROGRAM MODE: the program ends with the code that it asks for.
+# check_exit.sh PROGRAM MODE: tests that the program ends with the exit code that it requests.
 code=0
 "$1" "$2" || code=$?
 if [ "$code" -ne 42 ]; then

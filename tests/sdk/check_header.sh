@@ -1,6 +1,6 @@
 #!/bin/sh
-# check_header.sh C-COMPILER C++-COMPILER HEADER...: each header compiles by itself, in old and new
-# C and in C++.
+# check_header.sh C-COMPILER C++-COMPILER HEADER...: tests that each header compiles on its own, in
+# old and new C and in C++.
 set -eu
 c=$1
 cxx=$2

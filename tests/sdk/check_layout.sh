@@ -1,6 +1,6 @@
 #!/bin/sh
-# check_layout.sh COMPILER BITS HEADER: the records of tksv.h have the layout that the header itself
-# checks, and a record with another layout does not compile.
+# check_layout.sh COMPILER BITS HEADER: tests that the records of tksv.h have the layout that the
+# header itself asserts, and that a record with another layout does not compile.
 set -eu
 compiler=$1
 bits=$2
@@ -18,7 +18,7 @@ compiles() {
 } >"$work/good.h"
 compiles "$work/good.h"
 
-# breaks EDIT: the records as sed changes them.
+# breaks EDIT: edits the header with sed and requires that the result does not compile.
 breaks() {
     sed "$1" "$header" >"$work/bad.h"
     if cmp -s "$header" "$work/bad.h"; then

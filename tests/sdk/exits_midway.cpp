@@ -1,6 +1,6 @@
 /*
- * A client that exits while the library is busy. The first argument names the moment. The client
- * must end with the exit code that it requested, whatever the library is doing.
+ * A client that exits while the library is busy. The first argument selects the moment of the exit.
+ * The client must end with the exit code that it requested, whatever the library is doing.
  */
 #include <atomic>
 #include <cstdio>
@@ -16,7 +16,7 @@ namespace
 const int ASKED_EXIT_CODE = 42;
 
 std::atomic<bool> entered(false);
-// Not an object with a destructor, because other threads read it until the very end.
+// Not an object with a destructor, because other threads read it until the process ends.
 const char *mode = "";
 
 bool isMode(const char *name)
@@ -82,7 +82,7 @@ void prepare()
     waitUntilEntered();
     if (isMode("exit-in-callback")) {
         for (;;)
-            std::this_thread::sleep_for(std::chrono::seconds(1)); // the call-back exits
+            std::this_thread::sleep_for(std::chrono::seconds(1)); // the call-back exits the process
     }
 }
 

@@ -124,7 +124,7 @@ void SdkDevice::pinUnlocksTheSim()
     QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
     QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED; }));
     QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
-    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is unlocked, so no PIN is expected
+    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is unlocked and does not expect a PIN
 }
 
 void SdkDevice::pinsThatCannotBeAreRefused()
@@ -176,7 +176,7 @@ void SdkDevice::badScenarioChangesNothing()
     const std::string complaint = useNetwork("[Network]\nOperator=x\n");
     QVERIFY(QByteArray(complaint.c_str()).endsWith(":1: [Network]: expected a key IMSI"));
     QCOMPARE(info().operatorName, "Test Net");
-    QCOMPARE(ask(u"1").type, 0); // even the session is still open
+    QCOMPARE(ask(u"1").type, 0); // the session is also still open
     unregisterAll();
     received().clear();
 }
@@ -236,7 +236,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    // Nothing happens by itself in this network.
+    // Nothing happens on its own in this network.
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);

@@ -1,6 +1,6 @@
 /*
  * Tests the guarantees of tksv.h, with one test for each guarantee. The tests use only tksv.h and a
- * fixture that gives the device a network, so they can run against any device.
+ * fixture that provides the device with a network. They can therefore be run with any device.
  */
 #include <algorithm>
 #include <atomic>
@@ -80,16 +80,16 @@ QString shown(const std::u16string &text)
     return QString::fromStdU16String(text);
 }
 
-/// Waits until the device has finished all earlier requests that have no delay. The result of a new
-/// message arrives after their responses.
+/// Sends a message and waits for its result. By then, the device has finished all earlier requests
+/// that have no delay.
 bool deviceHasCaughtUp()
 {
     const std::size_t before = received().smsResults.all().size();
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
-/// Returns all responses except for the failure of a request whose device disappeared. A device
-/// behind a daemon may learn that the request failed before it learns that the device is gone.
+/// Returns all responses except the failure of a request whose device disappeared. A device behind
+/// a daemon may report that the request failed before it reports that the device is gone.
 std::vector<Response> responsesBesidesTheLoss()
 {
     std::vector<Response> all = received().responses.all();
@@ -98,11 +98,11 @@ std::vector<Response> responsesBesidesTheLoss()
     return all;
 }
 
-/// Switches to a new network without open sessions and drops all recorded responses.
+/// Switches to a new network without open sessions and discards all recorded responses.
 void startAfresh()
 {
     useNetwork(NETWORK);
-    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // returns after any running call-back
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // returns after any call-back that is running
     received().responses.clear();
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
 }
@@ -115,7 +115,7 @@ unsigned char secondUssd(int, void *)
     return 0;
 }
 
-/** Detects call-backs that overlap. */
+/** Detects call-backs that run at the same time. */
 std::atomic<int> running(0);
 std::atomic<bool> overlapped(false);
 std::atomic<int> overlapCalls(0);
@@ -138,7 +138,7 @@ unsigned char aloneB(int, void *)
     return 1;
 }
 
-/** Detects calls that come after the call-back has been unregistered. */
+/** Detects calls that arrive after the call-back has been unregistered. */
 std::atomic<bool> callAllowed(false);
 std::atomic<bool> cameTooLate(false);
 unsigned char onlyWhileAllowed(int, void *)
@@ -281,7 +281,7 @@ void SdkPromises::callsReturnAtOnce()
 void SdkPromises::longestRequestIsTaken()
 {
     const std::u16string longest = u"*" + std::u16string(TKSV_USSD_MAX_UNITS - 2, u'1') + u"#";
-    QCOMPARE(ask(longest).type, 2); // the network does not know it
+    QCOMPARE(ask(longest).type, 2); // the network does not know this code
     QVERIFY(request(longest + u"#") != 0);
 }
 
@@ -312,7 +312,7 @@ void SdkPromises::callbackNeverComesInsideACall()
         if (response.text != u"first")
             return;
         inCall = true;
-        request(u"*101#"); // on the thread that runs the call-backs
+        request(u"*101#"); // sent from the thread that runs the call-backs
         inCall = false;
     });
     QCOMPARE(request(u"*100#"), 0L);
@@ -376,7 +376,7 @@ void SdkPromises::registeredGetsOnlyWhatComesLater()
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*101#"), 0L);
-    QVERIFY(deviceHasCaughtUp()); // the second response is now queued
+    QVERIFY(deviceHasCaughtUp()); // the second response is in the queue now
     QCOMPARE(TKSV_USSDSrv_RegisterUSSDCallback(secondUssd), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
@@ -587,7 +587,7 @@ void SdkPromises::releaseTakesBackAResponseThatWaitedItsTurn()
     gate.open();
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
     QCOMPARE(received().responses.all().size(), std::size_t(2));
-    unregisterAll(); // the gate is about to be deleted
+    unregisterAll(); // the gate is about to be destroyed
 }
 
 void SdkPromises::releaseEndsTheSession()
@@ -696,7 +696,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    // The device is away, and then back.
+    // The device disappears and returns.
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
@@ -717,7 +717,7 @@ void SdkPromises::registeringSmsRaisesCanSend()
     QCOMPARE(TKSV_SMSSrv_UnRegCallBack(onSms), 0L);
     QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(1));
-    // A client that registers again is notified again.
+    // A client that registers again receives the status again.
     QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 7}));
@@ -734,8 +734,8 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the end of the list, because devices differ in the events that they raise for the
-/// change of the network itself.
+/// Compares only the end of the list. Devices raise different events for the change of the network
+/// itself.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -772,7 +772,7 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    // The call releases the record.
+    // This call frees the record.
     QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L);
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
@@ -821,7 +821,7 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
     QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
 }
 
-/// Makes a request that is pending when the network sends its own message.
+/// Sends a request that is still pending when the network sends a message of its own.
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"
@@ -906,7 +906,8 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Calls everything at once, for the sanitizers, and checks that the device still works afterwards.
+/// Calls all functions concurrently, for the sanitizers, and checks that the device still works
+/// afterwards.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

@@ -1,9 +1,10 @@
 /*
- * Tests the reader of scenario files: the values of a good file, and each complaint about a bad
- * one.
+ * Tests the parser of scenario files: the values of a valid file, and each complaint about an
+ * invalid file.
  */
 #include <QtTest>
 
+#include "sim/RuleMatching.h"
 #include "sim/Scenario.h"
 #include "sim/ScenarioReader.h"
 
@@ -123,7 +124,7 @@ void SdkScenario::rulesAreRead()
 
 void SdkScenario::delayOfTheNetworkIsThatOfEachReply()
 {
-    // The delay also applies if [Network] comes after the groups that use it.
+    // The delay also applies if [Network] follows the groups that use the delay.
     const Scenario s =
         good("[*1#]\nReply=x\n[SMS]\n[Network]\nDelay=33\nOperator=O\nIMSI=001010\n");
     QCOMPARE(s.rules.at("*1#").delay.count(), 33L);
@@ -188,7 +189,7 @@ void SdkScenario::complaints_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("complaint");
-    // `text` follows the four lines of a good [Network] group.
+    // `text` is appended to the four lines of a valid [Network] group.
     const auto row = [](const char *name, const char *text, const char *complaint) {
         QTest::newRow(name) << QByteArray(text) << QString::fromUtf8(complaint);
     };
@@ -305,7 +306,7 @@ void SdkScenario::complaints()
     QFETCH(QString, complaint);
     const std::string bytes = text.toStdString();
     QCOMPARE(complaintsAbout(SCENARIO_START + bytes), complaint);
-    // A bad file is not loaded in part.
+    // An invalid file is not loaded partially.
     QVERIFY(!readScenario(SCENARIO_START + bytes, "f").scenario);
 }
 

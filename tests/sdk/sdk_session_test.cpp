@@ -1,4 +1,4 @@
-/* Tests classes inside the library that no C function reaches directly. */
+/* Tests internal classes of the library that no C function reaches directly. */
 #include <atomic>
 #include <csignal>
 #include <pthread.h>
@@ -19,7 +19,7 @@ using namespace Tksv;
 namespace
 {
 
-/** A service with one listener that records the texts and accepts them or not. */
+/** A service with one listener, which records replies and either accepts or refuses them. */
 class Listening
 {
 public:
@@ -113,7 +113,7 @@ void SdkSession::untakenTextsAreLimited()
 void SdkSession::requestKindFollowsTheSession()
 {
     Listening l;
-    l.session.request(l.backend, "1"); // no session is open, so this starts one
+    l.session.request(l.backend, "1"); // no session is open, so this request starts one
     l.session.handleReply(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
     drain(l.service);
     l.session.request(l.backend, "1");
@@ -168,7 +168,7 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
-    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // the session of this text is over
+    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // this reply ends its session
 }
 
 void SdkSession::textDuringAMenuWaitsForItsEnd()
@@ -227,7 +227,7 @@ void SdkSession::stopDropsWhatWaits()
     gate.open();
     stopping.join();
     service.post(Event());
-    // The second event is delivered only if the service took it before the stop.
+    // The second event is delivered only if the service fetched it before it was stopped.
     QVERIFY(calls <= 2);
     const int before = calls;
     service.add(2, [&](int, void *) { return ++calls > 0; });
@@ -237,8 +237,7 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // The objects are never deleted, as at the end of the program, because the thread still uses
-    // them.
+    // The objects are never deleted, as at program exit, because the thread still uses them.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");
@@ -252,7 +251,7 @@ void SdkSession::stopDoesNotWaitForEver()
     service->post(Event());
     QVERIFY(entered.wait());
     QVERIFY(!service->stop(std::chrono::milliseconds(10)));
-    QVERIFY(service->remove(1)); // does not wait for the call-back that hangs
+    QVERIFY(service->remove(1)); // does not wait for the hanging call-back
     gate.open();
     QVERIFY(left.wait());
 }

@@ -1,6 +1,6 @@
 /*
- * Tests how the simulated network plays a scenario, except for the guarantees that hold for any
- * device.
+ * Tests how the simulated network plays a scenario. sdk_promises_test.cpp tests the guarantees that
+ * apply to all devices.
  */
 #include <QtTest>
 
@@ -65,7 +65,7 @@ QString answerTo(const std::u16string &text)
            QString::fromStdU16String(response.text);
 }
 
-/// Repeats the request until the device is registered and accepts it.
+/// Repeats the request until the device is registered and accepts the request.
 bool sendWhenRegistered(const std::u16string &code)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {

@@ -1,4 +1,4 @@
-/* Tests the location of the user's data directory in each environment. */
+/* Tests the location of the user data directory in various environments. */
 #include <pwd.h>
 #include <QtTest>
 #include <sys/stat.h>
@@ -98,7 +98,8 @@ void SdkUserData::homeHoldsTheFolderOtherwise()
 {
     qputenv("XDG_DATA_HOME", "");
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
-    QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/")); // the same if it already exists
+    // The second call returns the same path, although the folder exists.
+    QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
 }
 
 void SdkUserData::withoutHomeTheUserDatabaseIsAsked()

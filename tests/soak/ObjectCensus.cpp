@@ -11,7 +11,9 @@
 namespace
 {
 
-/** The census is never destroyed, because objects may be deleted after static objects. */
+/**
+ * The census is never destroyed, because objects may be deleted after static objects are destroyed.
+ */
 struct Census {
     std::mutex mutex;
     std::unordered_set<QObject *> living;

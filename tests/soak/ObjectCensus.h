@@ -2,8 +2,10 @@
 #define OBJECTCENSUS_H
 
 /**
- * Counts all QObjects that the process has created since install(), with and without a parent. It
- * uses the hooks that Qt provides for inspectors, because no other way finds a leaked object.
+ * Counts the QObjects that were created since install() and still exist, with and without a parent.
+ * The census uses the hooks that Qt provides for inspection tools, because there is no other way to
+ * find a leaked object.
+ * find a leaked object.
  */
 namespace ObjectCensus
 {

@@ -6,9 +6,9 @@
 
 #include "SoakSample.h"
 
-/// Draws a strip for each figure over the number of commands, with scales from zero, and writes the
-/// picture as a PNG file. `warm` is the index of the sample that the end is compared with. Returns
-/// whether the file was written.
+/// Draws a strip for each figure, with the number of commands on the horizontal axis and scales
+/// that start at zero. Writes the chart as a PNG file. `warm` is the index of the sample with which
+/// the last sample is compared. Returns true if the file was written.
 bool writeSoakChart(const QString &file, const QVector<SoakSample> &samples, int warm);
 
 #endif

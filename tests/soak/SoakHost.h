@@ -13,14 +13,14 @@
 /** The numbers of commands in one round. */
 struct SoakLoad {
     int pageCommands;     // typed into the general window and sent with its button
-    int pipelineCommands; // sent through the pipeline one after another
+    int pipelineCommands; // sent through the pipeline one by one
     int queuedCommands;   // sent to the pipeline all at once
 };
 
 /**
- * A host that uses the plug-in like a user does over months. It changes languages, opens windows,
- * sends codes with and without an answer, removes devices and changes SIM cards. Everything runs in
- * this process with the time of SoakClock. Must be used on the GUI thread.
+ * A host that uses the plug-in like a user over many months. It changes languages, opens windows,
+ * sends codes with and without replies, removes devices and changes SIM cards. Everything runs in
+ * this process and uses the time of SoakClock. Must be used only on the GUI thread.
  */
 class SoakHost : public QObject
 {
@@ -29,7 +29,7 @@ public:
     explicit SoakHost(const SoakLoad &load);
     ~SoakHost() override;
 
-    /// Returns whether the plug-in's files could be copied and the network could be started.
+    /// Returns true if the plug-in's files could be copied and the network could be started.
     bool isReady() const { return m_isReady; }
     /// Uses every function once. Rounds differ in language, network and restarts. After cycle()
     /// rounds, all combinations have occurred.
@@ -38,9 +38,9 @@ public:
 
     qint64 commands() const { return m_commands; }
     qint64 openings() const { return m_openings; }
-    /// Returns the number of commands whose outcomes have been reported.
+    /// Returns the number of commands whose outcome has been reported.
     qint64 answers() const { return m_answers; }
-    /// Returns descriptions of all failures.
+    /// Returns the descriptions of all failures.
     QStringList troubles() const { return m_troubles; }
 
 private slots:

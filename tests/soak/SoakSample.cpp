@@ -15,9 +15,9 @@ namespace
 
 const double MEGABYTE = 1 << 20;
 
-/// The allowance for caches of Qt and of the C library, such as glyphs, growing hash tables and
-/// free lists, which have no fixed size. A leak of 16 bytes per hundred commands exceeds the
-/// allowance in a long run.
+/// The allowance for caches of Qt and of the C library that have no fixed size, such as glyphs,
+/// growing hash tables and free lists. In a long run, leaking one block, however small, per
+/// hundred commands exceeds the allowance, because malloc() uses at least 32 bytes for a block.
 const double HEAP_MAY_GROW = 0.25; // megabytes
 /// The allowance for free pages between used blocks, which the C library cannot return.
 const double RESIDENT_MAY_GROW = 6; // megabytes
@@ -77,7 +77,7 @@ const QVector<SoakFigure> &soakFigures()
 SoakSample takeSoakSample()
 {
     SoakSample sample;
-    // The cache keeps up to 10 MB, even if nothing uses it again.
+    // The cache keeps up to 10 MB, even if nothing uses this data again.
     QPixmapCache::clear();
     malloc_trim(0); // freed memory is not a leak
     sample.heapBytes = heapBytes();

@@ -4,13 +4,13 @@
 #include <QString>
 #include <QVector>
 
-/** The memory and the resources of the process at a moment when it is idle. */
+/** The memory and resources of the process at a moment when it is idle. */
 struct SoakSample {
     qint64 commands = 0;       // number of commands sent since the start
     qint64 openings = 0;       // number of windows opened since the start
     double simulatedHours = 0; // since the start
     qint64 residentBytes = 0;  // resident set size
-    qint64 heapBytes = 0;      // allocated by malloc and not freed
+    qint64 heapBytes = 0;      // allocated with malloc() and not freed
     int descriptors = 0;
     int threads = 0;
     int timers = 0;  // Qt timers in the GUI thread
@@ -18,7 +18,7 @@ struct SoakSample {
     int objects = 0; // QObjects, including widgets
 };
 
-/** A figure that is compared between samples. */
+/** A figure that is compared between two samples. */
 struct SoakFigure {
     const char *name;
     double (*value)(const SoakSample &);
@@ -31,7 +31,7 @@ const QVector<SoakFigure> &soakFigures();
 
 SoakSample takeSoakSample();
 
-/// Returns a line for each figure that has grown by more than permitted.
+/// Returns one line for each figure that has grown by more than permitted.
 QString grownBetween(const SoakSample &warm, const SoakSample &end);
 
 #endif

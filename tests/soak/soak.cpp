@@ -1,11 +1,11 @@
 /*
- * Simulates months of use in minutes. Plug-in, device SDK and simulated network run in this
- * process, whose memory and resources at the end are compared with those after the warm-up.
+ * Simulates months of use in minutes. The plug-in, the device SDK and the simulated network run in
+ * this process. Its memory and resources at the end are compared with those after the warm-up.
  *
  *   soak [--commands N] [--openings N] [--report FOLDER]
  *
- * Writes soak.png and soak.txt to FOLDER. The exit code is 0 when nothing has grown and the outcome
- * of every command was reported, 2 when the run could not start, and 1 otherwise.
+ * Writes soak.png and soak.txt to FOLDER. The exit code is 0 if nothing has grown and the outcome
+ * of every command was reported, 2 if the run could not start, and 1 otherwise.
  */
 #include <QApplication>
 #include <QDir>
@@ -32,14 +32,14 @@ const int SAMPLES = 200;
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a directory, or empty for no report
+    QString report; // a folder, or empty for no report
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;
 };
 
-/// Returns the load of a round. The general window sends every tenth command, and a queue every
-/// tenth of the others.
+/// Returns the load of a round. The general window sends every tenth command. Every tenth of the
+/// remaining commands goes into a queue.
 SoakLoad Order::load() const
 {
     const int each = int((commands + rounds() - 1) / rounds());
@@ -103,7 +103,8 @@ SoakSample Soak::sample() const
     return sample;
 }
 
-/// Takes samples only after rounds of the same kind, because the texts of languages differ in size.
+/// Takes samples only after rounds of the same kind, because languages differ in the size of their
+/// texts.
 void Soak::run()
 {
     const int cycle = SoakHost::cycle();

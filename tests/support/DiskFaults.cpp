@@ -17,7 +17,7 @@
 namespace
 {
 
-enum Need { Room, NoRoom }; // whether a step fails on a full disk
+enum Need { Room, NoRoom }; // whether a step needs free space on the disk
 
 std::atomic<int> g_kind(DiskFaults::None);
 std::atomic<int> g_stepsLeft(0);
@@ -28,7 +28,7 @@ bool isInFolder(const char *path)
     return strncmp(path, g_folder, strlen(g_folder)) == 0;
 }
 
-/// Returns whether the path is below the watched folder. Relative paths are ignored because no
+/// Returns true if the path is below the watched folder. Relative paths are ignored because no
 /// program of this project uses them.
 bool isWatched(const char *path)
 {
@@ -54,7 +54,7 @@ bool isDue()
     return g_stepsLeft > 0 ? --g_stepsLeft == 0 : true;
 }
 
-/// Counts a step. Returns false and sets errno when the step has to fail.
+/// Counts a step. Returns false and sets errno if the step must fail.
 bool take(Need need)
 {
     const int kind = g_kind;
@@ -91,7 +91,7 @@ int openFile(int folder, const char *path, int flags, mode_t mode)
     return int(syscall(SYS_openat, folder, path, flags, mode));
 }
 
-/// Writes only the first half of the data, like a process that is killed during the call.
+/// Writes only the first half of the data, as if the process were killed during the call.
 void takeHalfOfWrite(int descriptor, const void *data, size_t size)
 {
     if (g_kind != DiskFaults::Kill || !isDue())

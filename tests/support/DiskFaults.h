@@ -4,12 +4,14 @@
 #include <string>
 
 /*
- * Injects a fault at the n-th step of this process on the files below a folder. Steps are open() if
- * it creates or truncates a file, write(), fsync(), ftruncate(), rename(), link(), symlink(),
- * mkdir(), chmod(), unlink() and rmdir(), in all their variants. These functions replace those of
- * the C library, in the program that is linked with this file and in all libraries that it loads.
+ * Injects a fault into the n-th step that this process performs on the files below a folder. Steps
+ * are calls of write(), fsync(), ftruncate(), rename(), link(), symlink(), mkdir(), chmod(),
+ * unlink() and rmdir(), and of open() if it creates or truncates a file. All variants of these
+ * functions are included. The functions are replaced in the program that is linked with this file
+ * and in all libraries that it loads.
+ * libraries that it loads.
  *
- * A program that a test starts gets its fault from the environment:
+ * A program that is started by a test reads its fault from the environment:
  * USSD_DISK_FAULT=kill:STEP:FOLDER, full:STEP:FOLDER or read-only:STEP:FOLDER.
  */
 
@@ -20,11 +22,11 @@ namespace DiskFaults
 
 enum Kind {
     None,
-    // Ends the process before the step, like a kill. A write has two steps, and a kill at the
+    // Ends the process before the step, like a kill. A write consists of two steps: a kill at the
     // second step leaves half of the data written.
     Kill,
-    Full,    // from that step on, no file can grow or be created
-    ReadOnly // from that step on, nothing can be changed
+    Full,    // from this step on, no file can grow or be created
+    ReadOnly // from this step on, nothing can be changed
 };
 
 /// Sets the fault. Steps are counted from 1, and each call restarts the count.

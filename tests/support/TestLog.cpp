@@ -7,10 +7,11 @@
 
 namespace
 {
-// The plug-in writes log lines as warnings too. They contain its source path.
+// The source path of the plug-in. It identifies the plug-in's own log lines, some of which are
+// warnings.
 const char PLUGIN_SOURCE_PATH[] = "../../src/USSDUIPlugin/";
 
-// The offscreen platform prints this for each window, which is not an error of this project.
+// The offscreen platform plug-in prints this for each window. It is not an error of this project.
 const char OFFSCREEN_NOTICE[] = "This plugin does not support ";
 
 bool isWarning(QtMsgType type)
@@ -91,7 +92,7 @@ QStringList TestLog::missingWarnings() const
     return missing;
 }
 
-// QtTest's handler is not thread-safe, so it is called on the main thread only.
+// QtTest's handler is not thread-safe, so it is called only from the main thread.
 void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     TestLog &log = instance();
@@ -105,8 +106,7 @@ void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QS
         log.m_previous(type, context, text);
 }
 
-/// Stores the message. Returns false if it must be shown too: an unexpected warning, or a line that
-/// the plug-in has not written.
+/// Stores the message. Returns false for an unexpected warning, which must also be printed.
 bool TestLog::keep(QtMsgType type, const QString &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -8,23 +8,24 @@
 #include <mutex>
 #include <vector>
 
-/// Collects Qt's messages and finds warnings that the test has not announced.
+/// Collects Qt's messages and detects warnings that the test did not announce.
 class TestLog
 {
 public:
     static TestLog &instance();
 
-    /// Installs this log as Qt's message handler, in front of QtTest's. A second call does nothing.
+    /// Installs this log as Qt's message handler, in place of QtTest's handler. Further calls do
+    /// nothing.
     void takeOver();
 
-    /// Discards all lines and announcements.
+    /// Discards all collected lines and announcements.
     void begin();
     void clearLines();
     void expect(const QString &part, bool required);
 
     QStringList lines() const;
     QStringList unexpectedWarnings() const;
-    QStringList missingWarnings() const; ///< announced as required, but not written
+    QStringList missingWarnings() const; ///< required by the test, but not logged
 
 private:
     struct Line {

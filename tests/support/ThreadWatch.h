@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 /*
- * Detects that another thread of this process waits, so that a test which orders threads needs no
- * pause of a guessed length.
+ * Detects that another thread of this process is waiting. A test that needs threads to run in a
+ * certain order can then do without pauses of a guessed length.
  */
 namespace ThreadWatch
 {
@@ -22,8 +22,8 @@ inline ThreadId currentThread()
     return syscall(SYS_gettid);
 }
 
-/// Returns whether the thread sleeps in the kernel, waiting for a lock, a condition or a time, or
-/// has ended.
+/// Returns true if the thread has ended, or sleeps in the kernel while it waits for a lock, a
+/// condition or a time-out.
 inline bool isAsleepOrGone(ThreadId thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
@@ -34,7 +34,7 @@ inline bool isAsleepOrGone(ThreadId thread)
     return nameEnd != std::string::npos && line.compare(nameEnd, 3, ") S") == 0;
 }
 
-/// Waits until the thread sleeps or has ended. The watchdog ends a test in which it never does.
+/// Waits until the thread sleeps or has ended. If it never does, the watchdog ends the test.
 inline void waitUntilAsleepOrGone(ThreadId thread)
 {
     while (!isAsleepOrGone(thread))

@@ -4,18 +4,20 @@
 #include <QApplication>
 
 /*
- * Tells the thread sanitizer how Qt orders threads. Debian's Qt is built without the sanitizer,
- * which therefore does not know that a queued signal or a QMutex orders two threads, and reports
- * races in correct code. TsanQt.cpp wraps the functions concerned. In builds without the thread
- * sanitizer, these functions do nothing.
+ * Informs the thread sanitizer how Qt synchronizes threads. Debian's Qt is built without the
+ * sanitizer, which therefore does not know that a queued signal or a QMutex synchronizes two
+ * threads, and reports races in correct code. TsanQt.cpp wraps the Qt functions concerned. In
+ * builds without the thread sanitizer, the functions below do nothing.
  */
 
 namespace TsanEvents
 {
 #ifdef USSD_THREAD_SANITIZER
-/// To be called before an event is handled: everything that its sender did earlier happened before.
+/// Must be called before an event is handled. Tells the sanitizer that everything that its sender
+/// did earlier happened before.
 void acquire();
-/// To be called after an event was handled, for threads that wait for it.
+/// Must be called after an event has been handled. Threads that wait for the event are then ordered
+/// after it.
 void releaseHandled();
 #else
 inline void acquire() {}
@@ -23,7 +25,7 @@ inline void releaseHandled() {}
 #endif
 } // namespace TsanEvents
 
-/// The application of all tests.
+/// The application class of all tests.
 class TsanApplication : public QApplication
 {
 public:

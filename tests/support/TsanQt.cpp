@@ -1,11 +1,11 @@
 /*
- * Wraps the functions of Qt that order threads, for the thread sanitizer (see TsanEvents.h). Each
- * wrapper calls the original function and tells the sanitizer about its effect. The wrappers have
- * the mangled names of the original functions, so `this` is the first argument.
+ * Wraps the Qt functions that synchronize threads, for the thread sanitizer (see TsanEvents.h).
+ * Each wrapper calls the original function and informs the sanitizer of its effect. The wrappers
+ * have the mangled names of the original functions, so `this` is their first parameter.
  *
- * One label is used for all events because Qt does not report which event a signal became. Every
- * event is assumed to happen after everything that any thread emitted or posted earlier. This hides
- * races between an emission and the handler of another signal.
+ * All events share one label because Qt does not report which event a signal became. Every event is
+ * therefore assumed to happen after everything that any thread emitted or posted earlier. This
+ * hides races between the emission of one signal and the handler of another.
  */
 #include "TsanEvents.h"
 
@@ -22,8 +22,8 @@
 
 namespace
 {
-char posted;  // released by a thread that emits or posts, acquired by the one that handles
-char handled; // released by a thread that has handled an event, acquired by the one that waited
+char posted;  // released when an event is emitted or posted, acquired when it is handled
+char handled; // released when an event has been handled, acquired by the thread that waited
 
 template <typename Function>
 Function *realOne(const char *symbol)
@@ -93,7 +93,7 @@ void tsanMutexUnlock(QMutex *mutex)
     __tsan_mutex_post_unlock(mutex, 0);
 }
 
-// Another mutex may be created at the same address.
+// A new mutex may later be created at the same address.
 #define MUTEX_DESTROY "_ZN6QMutexD1Ev"
 void tsanMutexDestroy(QMutex *mutex) STANDS_FOR(MUTEX_DESTROY);
 void tsanMutexDestroy(QMutex *mutex)
@@ -107,7 +107,7 @@ void tsanMutexDestroy(QMutex *mutex)
 
 namespace
 {
-// A wait unlocks and locks the mutex inside Qt.
+// QWaitCondition unlocks and locks the mutex inside Qt.
 template <typename Wait>
 bool waitWithout(QMutex *mutex, Wait wait)
 {
@@ -189,7 +189,7 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
             "ConnectionTypeEPv");
     const bool blocks = type == Qt::BlockingQueuedConnection;
     if (blocks)
-        slot->ref(); // keeps it alive until the sanitizer has recorded its use
+        slot->ref(); // keeps the slot object alive until the sanitizer has recorded its use
     __tsan_release(&posted);
     const bool done = real(object, slot, type, result);
     if (blocks) {
@@ -202,7 +202,7 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
 // ---- QThread -----------------------------------------------------------------------------------
 
 // Everything that a thread did happens before wait() for that thread returns. Qt emits finished()
-// on the thread before it wakes the waiting threads.
+// from the thread before it wakes the waiting threads.
 #define THREAD_START "_ZN7QThread5startENS_8PriorityE"
 void tsanThreadStart(QThread *thread, QThread::Priority priority) STANDS_FOR(THREAD_START);
 void tsanThreadStart(QThread *thread, QThread::Priority priority)

@@ -11,29 +11,29 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Returns the Latin-1 text as a QString.
+/// Converts the Latin-1 string to a QString.
 inline QString latin1(const char *text)
 {
     return QString::fromLatin1(text);
 }
 
-/// Returns the whole content of the file, or "no file" if the file cannot be read.
+/// Returns the content of the file, or "no file" if the file cannot be read.
 QByteArray contentOf(const QString &path);
 
 /**
- * The base class of all test classes of this project. A test function fails when Qt or the code
- * under test prints an unexpected warning. A test function that hangs is ended with a message. Each
- * test function has a folder of its own.
+ * The base class of all test classes of this project. A test function fails if Qt or the code under
+ * test prints an unexpected warning. A watchdog ends a test function that hangs. Each test function
+ * has its own folder.
  *
- * A test class derives from it, overrides setUp() and tearDown() instead of declaring init() and
- * cleanup(), and its file ends with USSD_TEST_MAIN(Class).
+ * A test class derives from UssdTest and overrides setUp() and tearDown() instead of declaring
+ * init() and cleanup(). Its file ends with USSD_TEST_MAIN(Class).
  */
 class UssdTest : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Returns whether all slots of the base class were called. They are not called if a derived
+    /// Returns true if all slots of the base class were called. They are not called if a derived
     /// class hides them.
     bool isInOrder() const { return m_testsBegun > 0 && m_testsBegun == m_testsEnded; }
 
@@ -44,16 +44,16 @@ protected:
     virtual void tearDown() {}
     virtual void tearDownClass() {}
 
-    // ---- log lines, of any thread
-    /// Requires at least one warning that contains `part` in this test function.
+    // ---- log lines of all threads
     void expectWarning(const QString &part);
     void expectWarning(const char *part) { expectWarning(QString::fromUtf8(part)); }
 
-    /// Allows warnings that contain `part` in this test function.
+    /// Allows warnings that contain `part` in the current test function.
     void allowWarning(const QString &part);
     void allowWarning(const char *part) { allowWarning(QString::fromUtf8(part)); }
 
-    /// Returns all lines since the test function started or clearLog() was called, on any channel.
+    /// Returns all lines logged since the test function started or clearLog() was called, on any
+    /// channel.
     QStringList logLines() const;
 
     /// Returns the number of log lines that contain `part`.
@@ -61,13 +61,13 @@ protected:
     int timesLogged(const char *part) const { return timesLogged(QString::fromUtf8(part)); }
     void clearLog();
 
-    // ---- a folder that is empty when the test function starts and is deleted after it
-    QString folder();                                                  ///< no separator at its end
-    QString writeFile(const QString &name, const QByteArray &content); ///< returns the path
+    // ---- a folder that is empty at the start of each test function and deleted at its end
+    QString folder();                                                  ///< no trailing separator
+    QString writeFile(const QString &name, const QByteArray &content); ///< returns the file's path
 
     // ---- events
-    /// Handles all queued events, events that they queue in turn, and deferred deletions. Does not
-    /// wait for further events.
+    /// Handles all queued events, all events that they queue in turn, and deferred deletions. Does
+    /// not wait for later events.
     static void drainEvents();
 
 private slots:
@@ -84,7 +84,8 @@ private:
 
 namespace UssdTestPrivate
 {
-/// Sets up the process before the application is constructed: no display, fixed names and language.
+/// Prepares the process before the application is constructed: no display, fixed names, fixed
+/// language.
 void prepareProcess();
 int finish(const UssdTest &test, int failures);
 } // namespace UssdTestPrivate

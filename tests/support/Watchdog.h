@@ -7,8 +7,8 @@
 #include <string>
 #include <thread>
 
-/// Ends the process with a message when a test function takes longer than $USSD_TEST_SECONDS, or 90
-/// s by default. The limit is below that of CTest, so that the message names the function.
+/// Ends the process with a message if a test function runs longer than $USSD_TEST_SECONDS seconds
+/// (90 by default). The limit is lower than CTest's, so that the message can name the function.
 class Watchdog
 {
 public:
@@ -26,10 +26,10 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::string m_what; // the watched test function; empty when there is none
+    std::string m_what; // the watched test function; empty if there is none
     Clock::time_point m_until;
     bool m_ending = false;
-    std::thread m_thread; // the last member because the thread uses the others
+    std::thread m_thread; // declared last because the thread uses the other members
 };
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <thread>
 
-/// Tests that have to fail. CTest runs each of them separately and checks the reason.
+/// Tests that must fail. CTest runs each of them separately and checks the reason for the failure.
 class SupportFailing : public UssdTest
 {
     Q_OBJECT

@@ -6,7 +6,8 @@
 
 #include <thread>
 
-/// Tests what UssdTest promises to a correct test class. support_failing.cpp has incorrect ones.
+/// Tests the guarantees of UssdTest for correct test classes. support_failing.cpp contains
+/// incorrect ones.
 class SupportTest : public UssdTest
 {
     Q_OBJECT

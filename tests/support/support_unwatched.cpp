@@ -1,6 +1,6 @@
 #include "UssdTest.h"
 
-/// Hides the slots of the base class that watch the tests.
+/// Hides the slots of the base class that watch the test functions.
 class SupportUnwatched : public UssdTest
 {
     Q_OBJECT

@@ -10,17 +10,17 @@
 namespace
 {
 
-const int USUAL_LENGTH = 256; // bytes; a longer line needs a second allocation
+const int USUAL_LENGTH = 256; // bytes; a longer line requires a second allocation
 const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be in any script
 
-/// The time of day of the last line as text, and the millisecond for which the text is valid.
+/// The time string of the last line, and the millisecond for which it is valid.
 struct Stamp {
     qint64 millisecond;
     char text[STAMP_LENGTH];
 };
 
-// Stamp has no destructor, because a destructor would keep the library loaded until the last thread
-// has ended.
+// Stamp does not have a destructor, because a destructor would keep the library loaded until the
+// last thread has ended.
 thread_local Stamp lastStamp = {-1, ""};
 
 qint64 millisecondsNow()
@@ -52,8 +52,7 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-/// Returns the source, the function and the formatted tail. Puts `stamp` in front unless it is
-/// null.
+/// Returns the source, the function and the formatted tail. Prepends `stamp` unless it is null.
 QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
                     va_list arguments)
 {
@@ -71,8 +70,9 @@ QByteArray composed(const char *stamp, const char *source, const char *function,
 namespace PluginLog
 {
 
-// Returns the time of day as text. All lines of one millisecond share the text, because determining
-// the local time accesses the time-zone file, and a command logs some twenty lines in a row.
+// Returns the time of day as a string. All lines within one millisecond share the string, because
+// determining the local time accesses the time-zone file, and a command logs about twenty lines in
+// a row.
 const char *timeOfDay()
 {
     const qint64 now = millisecondsNow();

@@ -4,15 +4,15 @@
 #include <QtGlobal>
 
 /*
- * The plug-in's log lines. A line is "time: source path: function", followed by a tail that starts
- * with its own blank or colon. Each .cpp file names itself once:
+ * The plug-in's log lines. A line has the form "time: source path: function", followed by a tail
+ * that starts with a blank or a colon. Each .cpp file defines its name once:
  *
  *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
- * Files that share a class name the first file of their family, because a reader of the log looks
- * for this file. All other code writes lines only with the macros below. In a build with
- * USSD_LOG_LINES=OFF the macros write nothing. The compiler still checks their arguments, but the
- * program does not evaluate them.
+ * The .cpp files of a class share the name of the first file, because users who search the log look
+ * for this name. All other code writes log lines only with the macros below. In a build with
+ * USSD_LOG_LINES=OFF, the macros do not write anything. The compiler still checks their arguments,
+ * but the arguments are not evaluated at run time.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -22,8 +22,8 @@ namespace PluginLog
 
 #define USSD_PRINTF(text, first) __attribute__((format(printf, text, first)))
 
-/// Returns the local time as hh:mm:ss:zzz in the local 8-bit encoding. The text is valid until the
-/// next call on the same thread.
+/// Returns the local time as hh:mm:ss:zzz in the local 8-bit encoding. The string is valid until
+/// the next call on the same thread.
 const char *timeOfDay();
 
 /// Writes "time: source: function" and the formatted tail.
@@ -37,18 +37,18 @@ void important(const char *source, const char *function, const char *tail, ...) 
 void untimed(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// Logs Enter on construction, and Exit on destruction unless another line has reported the exit.
+/// Logs Enter on construction, and Exit on destruction unless the exit has already been logged.
 class Scope
 {
 public:
     Scope(const char *source, const char *function);
     ~Scope();
 
-    /// Logs `tail` instead of the plain Exit.
+    /// Logs `tail` instead of the default Exit line.
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Logs `tail` instead of the plain Exit, at debug level and again at warning level.
+    /// Logs `tail` instead of the default Exit line, at debug level and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Suppresses the Exit line, because the last line has already reported everything.
+    /// Suppresses the Exit line, because the previous line has already reported everything.
     void leaveSilently() { m_exited = true; }
 
 private:
@@ -65,17 +65,19 @@ private:
 
 #ifndef USSD_NO_LOG_LINES
 #define USSD_IF_LOGGING(call) (call)
-#define USSD_LOG_SCOPE() PluginLog::Scope logScope(LOG_SOURCE, __func__)
+#define USSD_LOG_SCOPE_AS(function) PluginLog::Scope logScope(LOG_SOURCE, function)
 #define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
 #define USSD_LOG_NO_EXIT() logScope.leaveSilently()
 #else
 #define USSD_IF_LOGGING(call) (false ? (call) : static_cast<void>(0))
-#define USSD_LOG_SCOPE() static_cast<void>(LOG_SOURCE)
+#define USSD_LOG_SCOPE_AS(function) static_cast<void>(function), static_cast<void>(LOG_SOURCE)
 #define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
 #define USSD_LOG_NO_EXIT() static_cast<void>(LOG_SOURCE)
 #endif
+
+#define USSD_LOG_SCOPE() USSD_LOG_SCOPE_AS(__func__)
 
 #define USSD_LOG_LINE(type, function, ...)                                                         \
     USSD_IF_LOGGING(PluginLog::line(type, LOG_SOURCE, function, __VA_ARGS__))
@@ -88,7 +90,8 @@ private:
 #define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
 
-// These macros write the name `function`, for functions that are a part of it.
+// These macros log the given function name. Use them in helper functions that log under the name of
+// another function.
 #define USSD_LOG_AS(function, ...) USSD_LOG_LINE(QtDebugMsg, function, __VA_ARGS__)
 #define USSD_LOG_WARNING_AS(function, ...) USSD_LOG_LINE(QtWarningMsg, function, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_AS(function, ...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, function, __VA_ARGS__)

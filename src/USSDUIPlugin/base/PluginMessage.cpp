@@ -12,8 +12,8 @@ namespace
 
 typedef QList<QPointer<QDialog>> Dialogs;
 
-/// An open message. The host creates the window of the message. The window is recognised by its
-/// caption, and because it is not one of the dialogs that were already open.
+/// An open message box. The host creates the message box. To identify it, the plug-in compares the
+/// caption and excludes the dialogs that were already open.
 struct OpenMessage {
     QString caption;
     Dialogs before;

@@ -5,7 +5,7 @@
 
 #include "Change.h"
 
-/// Returns the plug-in's text for `key` in the user's language. May be called on any thread.
+/// Returns the plug-in's string for `key` in the user's language. May be called from any thread.
 inline QString pluginText(const QString &key)
 {
     return Change::tr(QLatin1String("USSDUIPlugin"), key);

@@ -6,11 +6,11 @@
 namespace
 {
 
-const int MAX_TAGS = 60; // in one reply; the longest reply from a network has 182 characters
+const int MAX_TAGS = 60; // per reply; the longest reply from a network has 182 characters
 const int MAX_TABLES = 8;
 const int MAX_RULES = 8;
 
-/// Returns the name of a tag in lower case. `behind` is the text after the "<" of the tag.
+/// Returns the tag name in lower case. `behind` is the text after the "<" of the tag.
 QString tagName(const QString &behind)
 {
     const int begin = behind.indexOf(QRegExp(QLatin1String("[^\\s]")));
@@ -20,15 +20,15 @@ QString tagName(const QString &behind)
     return behind.mid(begin, end < 0 ? -1 : end - begin).toLower();
 }
 
-/// Returns true if quotes or entities hide the name of the tag, which may then be any tag.
+/// Returns true if quotes or entities disguise the tag name, so that it may be any name.
 bool isDisguised(const QString &name)
 {
     return name.contains(QLatin1Char('&')) || name.contains(QLatin1Char('"')) ||
            name.contains(QLatin1Char('\''));
 }
 
-/// Returns true if the tag contains a number of at least three digits, or an entity. An entity may
-/// hide such a number or the name of its attribute.
+/// Returns true if the tag contains an entity or a number with at least three digits. An entity may
+/// disguise such a number or the name of its attribute.
 bool maySpanMany(const QString &behind)
 {
     return behind.contains(QLatin1Char('&')) || behind.contains(QRegExp(QLatin1String("\\d{3}")));
@@ -71,7 +71,7 @@ MarkupCost markupCost(const QString &text)
         return cost;
     cost.tags = text.count(QLatin1Char('<'));
     if (cost.tags > MAX_TAGS)
-        return cost; // with too many tags, their kinds do not matter
+        return cost; // if there are too many tags, their kinds do not matter
     cost.tags = 0;
     const QStringList parts = text.split(QLatin1Char('<'));
     for (int i = 1; i < parts.count(); ++i)

@@ -10,10 +10,10 @@
 class QTextEdit;
 
 /**
- * Adds a long text to the end of a QTextEdit piece by piece, so that the window stays responsive.
- * Each iteration of the event loop inserts one piece as a separate paragraph. AccountReplyView and
- * TranscriptView pass the pieces of a heavy text (see SlowText) to it. The feeder is a child of
- * the text edit. Must be used on the GUI thread.
+ * Appends a long text to a QTextEdit in pieces, so that the window remains responsive. Each
+ * iteration of the event loop inserts one piece as a separate paragraph. AccountReplyView and
+ * TranscriptView pass the pieces of a slow text (see SlowText) to the feeder. The feeder is a child
+ * of the text edit. All functions must be called from the GUI thread.
  */
 class PieceFeeder : public QObject
 {
@@ -24,7 +24,7 @@ public:
     bool isBusy() const { return !m_pieces.isEmpty(); }
     /// Adds a piece to the end of the queue.
     void add(const QString &text, const QTextBlockFormat &block, const QTextCharFormat &letters);
-    /// Discards all pieces that are still waiting.
+    /// Discards all pieces that have not been inserted yet.
     void drop();
 
 signals:
@@ -41,7 +41,7 @@ private:
         QTextCharFormat letters;
     };
 
-    QTextEdit *m_edit; // the parent object of the feeder
+    QTextEdit *m_edit; // the parent of the feeder
     QList<Piece> m_pieces;
     QTimer m_timer;
 };

@@ -6,14 +6,13 @@ namespace
 const int NEVER_HEAVY = 1000; // characters; a reply from a network has at most 182
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
-const int PIECE = 990;    // below NEVER_HEAVY, so that there is room for a surrogate pair
-const int LOOK_BACK = 50; // characters in which to search back for a blank
+const int PIECE = 990;    // less than NEVER_HEAVY, so that there is room for a surrogate pair
+const int LOOK_BACK = 50; // number of characters in which to search backwards for a blank
 
-/// Returns true if `after` starts another script, or is a combining character that is added to
-/// `before`.
+/// Returns true if `after` starts another script, or is a combining character for `before`.
 bool isChange(QChar before, QChar after)
 {
-    const int charactersOfAScript = 128; // an approximation, since Qt's script tables are private
+    const int charactersOfAScript = 128; // an approximation, because Qt's script tables are private
     return before.unicode() / charactersOfAScript != after.unicode() / charactersOfAScript ||
            after.category() == QChar::Mark_NonSpacing;
 }

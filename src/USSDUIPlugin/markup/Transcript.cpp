@@ -1,6 +1,6 @@
 #include "Transcript.h"
 
-#include "MarkupEscaping.h"
+#include "HarmlessMarkup.h"
 #include "PluginConfig.h"
 #include "QtCompat.h"
 #include "SlowText.h"
@@ -44,9 +44,9 @@ bool isPlain(const QString &text)
     return true;
 }
 
-/// Returns true if the entry may affect the appearance of later entries. A tag may stay open, a
-/// style sheet applies to all entries after it, and an entry that turns out to be blank merges with
-/// the next one. A caption that is not blank prevents the merging, whatever the text is.
+/// Returns true if the entry may affect the appearance of later entries. A tag may remain open, a
+/// style sheet applies to all later entries, and an entry that turns out to be blank is merged with
+/// the next one. An entry with a caption that is not blank is never merged, regardless of the text.
 bool mayReachOn(const QString &caption, const QString &text)
 {
     return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();
@@ -78,7 +78,7 @@ namespace Transcript
 Entry entry(Direction direction, const Char &look, bool rightToLeft, const QString &caption,
             const QString &text)
 {
-    const QString content = MarkupEscaping::withOthersAsLetters(text);
+    const QString content = HarmlessMarkup::withStrayBracketsEscaped(text);
     Entry result;
     result.markup = paragraph(direction, look, rightToLeft, caption + content);
     result.isPlain = isPlain(caption + content);

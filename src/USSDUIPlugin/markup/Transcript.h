@@ -11,40 +11,40 @@ struct Char;
 }
 
 /*
- * Builds the entries of the general dialog's transcript as markup. All functions are plain
- * functions on plain values. MarkupEscaping escapes each "<" that begins no tag. SlowText and
- * MarkupCost estimate how expensive an entry is, and TranscriptView chooses one of the entry's
- * forms accordingly.
+ * Builds the entries of the general window's transcript as markup. All functions depend only on
+ * their arguments. HarmlessMarkup escapes each "<" that does not begin a tag. SlowText and
+ * MarkupCost estimate how expensive an entry is. Based on this estimate, TranscriptView selects one
+ * of the forms of the entry.
  */
 namespace Transcript
 {
 
-/// The direction of an entry: the user sent its text or received it.
+/// The direction of an entry: the user sent or received the text.
 enum Direction { Sent, Received };
 
-/** One entry in all forms that TranscriptView may show. */
+/** An entry in all forms in which TranscriptView may show it. */
 struct Entry {
     QString markup;
-    bool isPlain;    // caption and text contain no markup
-    bool mayReachOn; // the markup may affect the appearance of later entries
-    bool isHeavy;    // the text takes long to lay out, even without markup
+    bool isPlain;    // true if the caption and the text do not contain markup
+    bool mayReachOn; // true if the markup may affect the appearance of later entries
+    bool isHeavy;    // true if the layout of the text is slow even without markup
     MarkupCost cost; // cost of the markup in the text
 
-    // The entry with its markup escaped, which is shown if the markup costs too much.
+    // The entry with escaped markup, which is shown if the markup is too expensive.
     QString letters;
-    bool lettersMayReachOn; // the escaped text may affect the appearance of later entries
+    bool lettersMayReachOn; // true if the escaped text may affect the appearance of later entries
 
-    // The contents of an entry that is shown piece by piece.
-    QString words;  // caption and text; a line feed ends a line
+    // The contents of an entry that is shown in pieces.
+    QString words;  // caption and text; lines end with a line feed
     QString sample; // markup of a short entry with the same appearance
 };
 
-/// Returns the entry for a text. Tags in `text` are treated as markup; a "<" that begins no tag is
-/// plain text.
+/// Returns the entry for a text. Tags in `text` are treated as markup. A "<" that does not begin a
+/// tag is plain text.
 Entry entry(Direction direction, const Formats::Char &look, bool rightToLeft,
             const QString &caption, const QString &text);
 
-/// Returns a complete document with the markup of these entries.
+/// Returns a complete document with the markup of the entries.
 QString document(const QString &entries);
 
 } // namespace Transcript

@@ -1,11 +1,11 @@
 #include "TranscriptView.h"
 
-#include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include "HarmlessMarkup.h"
 #include "PieceFeeder.h"
 #include "SlowText.h"
 
@@ -19,7 +19,7 @@ void insertBlock(QTextCursor &cursor, const QTextBlock &block)
         cursor.insertText(it.fragment().text(), it.fragment().charFormat());
 }
 
-/// Inserts a plain entry. Gives it the same appearance as it has in a separate document.
+/// Inserts a plain entry with the same appearance that it would have in a separate document.
 void insertAtEnd(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -43,16 +43,6 @@ void insertWithMarkup(QTextDocument &document, const QString &markup)
     cursor.insertFragment(QTextDocumentFragment(&alone));
 }
 
-/// Returns an empty resource. If it were null, Qt would look for a file of that name itself.
-QVariant nothingToLoad(int type)
-{
-    if (type != QTextDocument::ImageResource)
-        return QString(QLatin1String(""));
-    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
-    pixel.fill(0);
-    return pixel;
-}
-
 } // namespace
 
 TranscriptView::TranscriptView(QWidget *parent)
@@ -66,7 +56,7 @@ void TranscriptView::appendEntry(const Transcript::Entry &entry)
 {
     const bool isFirst = m_entries.isEmpty();
     const bool inPieces = entry.isHeavy || m_feeder->isBusy();
-    const bool asMarkup = entry.cost.isBearable(m_cost) && (!inPieces || entry.cost.tags == 0);
+    const bool asMarkup = HarmlessMarkup::mayKeepMarkup(entry.cost, m_cost, inPieces);
     const QString &markup = asMarkup ? entry.markup : entry.letters;
     m_entries += markup;
     if (inPieces)
@@ -89,8 +79,8 @@ void TranscriptView::showEntry(const Transcript::Entry &entry, const QString &ma
         insertAtEnd(*document(), markup);
 }
 
-/// Inserts the entry in pieces. From now on, only the end of the document changes, because
-/// replacing the whole document would lay out all pieces at once.
+/// Inserts the entry in pieces. From now on, entries are only appended to the document. If the
+/// entire document were replaced, Qt would lay out all pieces at once.
 void TranscriptView::insertPieces(const Transcript::Entry &entry)
 {
     m_isInPieces = true;
@@ -121,5 +111,5 @@ void TranscriptView::clearEntries()
 QVariant TranscriptView::loadResource(int type, const QUrl &name)
 {
     Q_UNUSED(name);
-    return nothingToLoad(type);
+    return HarmlessMarkup::emptyResource(type);
 }

@@ -5,8 +5,8 @@ using namespace Formats;
 namespace
 {
 
-/// Returns the text of a cell without the blanks around it, or unchanged if the cell was not
-/// edited.
+/// Returns the text of a cell without leading and trailing blanks. If the cell was not edited,
+/// returns the text unchanged.
 QString cellText(const QString &cell, const QString &before)
 {
     return cell == before ? before : cell.trimmed();
@@ -22,8 +22,8 @@ bool isSame(const ProfileRows::Row &row, const USSDProfile &profile)
     return row.name == profile.name && row.code == profile.value;
 }
 
-/// Returns true if the user has removed the profile. A profile is removed if its code is cleared. A
-/// profile that never had a code is removed if its name is cleared.
+/// Returns true if the user has removed the profile. Clearing the code removes a profile. Clearing
+/// the name removes a profile that never had a code.
 bool isTakenAway(const ProfileRows::Row &row, const USSDProfile &before)
 {
     return isBlank(row.code) && (!isBlank(before.value) || isBlank(row.name));

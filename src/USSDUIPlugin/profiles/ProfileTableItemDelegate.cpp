@@ -28,9 +28,9 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
 {
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
-    // A text from the file may be longer than the limit, and the editor must not cut it off.
+    // Text from the file may exceed the limit, and the editor must not truncate it.
     edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
-    edit->setFrame(false); // the rows have no room for a frame
+    edit->setFrame(false); // the rows are too small for a frame
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);
     return edit;

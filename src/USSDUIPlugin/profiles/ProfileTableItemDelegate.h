@@ -4,8 +4,8 @@
 #include <QItemDelegate>
 
 /**
- * Edits a cell of the profile table with the host's line edit. The line edit accepts 40 characters,
- * or as many as the cell already contains.
+ * Lets the user edit a cell of the profile table in the host's line edit. The line edit accepts 40
+ * characters, or the current length of the cell text if this is longer.
  */
 class ProfileTableItemDelegate : public QItemDelegate
 {
@@ -15,7 +15,7 @@ public:
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
-    /// Stores the edited text without the blanks around it. A text that was not edited stays
+    /// Stores the edited text without leading and trailing blanks. Text that was not edited remains
     /// unchanged.
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;

@@ -1,21 +1,19 @@
+/* The window in which the user edits the profiles. ProfileFiles.cpp reads and writes their files.
+ */
 #include "USSDEditCmd.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSet>
-#include <QXmlStreamReader>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include "base/PluginLog.h"
+#include "base/PluginMessage.h"
+#include "base/PluginText.h"
 #include "CommonUtils.h"
-#include "ForwardXml.h"
-#include "InputFile.h"
-#include "PluginFiles.h"
 #include "ProfileRows.h"
-#include "ProfileXml.h"
-#include "requests/SdkRecords.h"
-#include "tksv.h"
-#include "XmlName.h"
+#include "ProfileSaveCheck.h"
 
 using namespace Formats;
 
@@ -24,9 +22,16 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDEditCmd.cpp");
 namespace
 {
 
-QString parentDirectory(const QString &path)
+const int COLUMN_WIDTH = 177;
+const int ROW_HEIGHT = 19;
+const int TABLE_HEIGHT = 310;
+const int PLAIN_FRAME = 1;
+
+QTableWidgetItem *createItem(const QString &text, const QColor &background)
 {
-    return path.left(path.lastIndexOf(QLatin1Char('/')));
+    QTableWidgetItem *item = new QTableWidgetItem(text);
+    item->setData(Qt::BackgroundRole, QBrush(background));
+    return item;
 }
 
 } // namespace
@@ -43,168 +48,420 @@ USSDEditCmd::~USSDEditCmd()
     delete m_pFrame;
 }
 
-void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
+QString USSDEditCmd::tr(const QString &key)
+{
+    return pluginText(key);
+}
+
+// ---- building --------------------------------------------------------------------------------
+
+void USSDEditCmd::InitDialog(QWidget *parent)
 {
     USSD_LOG_SCOPE();
-    path = PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES);
-    USSD_LOG_EXIT(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
-}
-
-void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
-{
-    USSD_LOG_SCOPE();
-    path.clear();
-    USSD_LOG(" before caling TKSV_GetUserDataDirectory()");
-    unsigned short *units = nullptr;
-    const long result = TKSV_GetUserDataDirectory(&units);
-    USSD_LOG(" after caling TKSV_GetUserDataDirectory(), retVal=%ld", result);
-    const QString directory = result == 0 ? SdkRecords::textFromUnits(units) : QString();
-    delete[] units;
-    if (!directory.isEmpty()) {
-        const QString newPath = directory + QLatin1String("ussdprofile.xml");
-        path = movedLegacyFile(directory + QLatin1String("userdata/ussdprofile.xml"), newPath);
-    }
-    USSD_LOG_EXIT(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
-}
-
-/// Returns the path to use from now on. This is the new path, or the old path if the old file
-/// cannot be copied.
-QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newPath)
-{
-    if (QFile::exists(newPath) || !QFile::exists(oldPath))
-        return newPath;
-    USSD_LOG(" %s exists!", oldPath.toLocal8Bit().constData());
-    QFile oldFile(oldPath);
-    QString problem = InputFile::problem(oldPath);
-    if (problem.isEmpty() && !oldFile.copy(newPath))
-        problem = oldFile.errorString();
-    if (!problem.isEmpty()) {
-        USSD_LOG(" %s copy failed! error : %s", oldPath.toLocal8Bit().constData(),
-                 problem.toLocal8Bit().constData());
-        return oldPath;
-    }
-    oldFile.remove();
-    const QString oldDirectory = parentDirectory(oldPath);
-    if (!QDir().rmdir(oldDirectory))
-        USSD_LOG(" the path %s remove failed!", oldDirectory.toLocal8Bit().constData());
-    return newPath;
-}
-
-bool USSDEditCmd::skipXmlReaderTillString(QXmlStreamReader &reader, QString name)
-{
-    return ForwardXml::skipToBefore(reader, name, QLatin1String(XmlName::ITEM));
-}
-
-void USSDEditCmd::load(QString xmlFilePath, bool isSystem)
-{
-    USSD_LOG(" Enter: xmlFilePath = %s", xmlFilePath.toLocal8Bit().constData());
-    QFile file(xmlFilePath);
-    QString problem;
-    if (!InputFile::open(file, QIODevice::Text, problem)) {
-        noteReading(isSystem, file.exists() ? NotReadWhole : NoFile);
-        if (file.exists())
-            USSD_LOG_IMPORTANT(" %s: %s", xmlFilePath.toLocal8Bit().constData(),
-                               problem.toLocal8Bit().constData());
-        USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
+    m_pContainer = new QWidget;
+    m_pFrame = new ExtendDialog(parent, Qt::WindowCloseButtonHint, PLAIN_FRAME);
+    m_pFrame->AddMainWidget(m_pContainer);
+    if (!createWidgets()) {
+        USSD_LOG_EXIT(" Exit: either of the objects creation failed");
         return;
     }
-    QSet<QString> codes;
-    for (int i = 0; i < m_listUSSDProfiles.count(); ++i)
-        codes.insert(m_listUSSDProfiles.at(i).value);
+    initWidgets();
+    m_pLogic->GetCmdEditSetting(m_cmdEditSetting);
+    initTable();
+    layoutWidgets();
+    connectWidgets();
+    if (!CommonUtils::IsMiniMode())
+        m_pFrame->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint |
+                                 Qt::WindowCloseButtonHint);
+    m_bSaved = false;
+    CommonUtils::MoveCentre(m_pFrame);
+    SetLanguage();
+}
 
-    QXmlStreamReader reader(&file);
-    USSDProfile profile;
-    while (ProfileXml::readNext(reader, profile)) {
-        USSD_LOG(" name = %s", profile.name.toLocal8Bit().constData());
-        USSD_LOG(" value = %s", profile.value.toLocal8Bit().constData());
-        profile.isSystem = isSystem;
-        if (!isSystem && codes.contains(profile.value)) {
-            USSD_LOG(" command = %s, already exists!!!", profile.value.toLocal8Bit().constData());
-            continue;
-        }
-        if (!isSystem)
-            codes.insert(profile.value);
-        m_listUSSDProfiles.append(profile);
+bool USSDEditCmd::createWidgets()
+{
+    m_pLogic = USSDLogic::GetUSSDLogicInstance();
+    m_pTable = new ProfileTableWidget(ProfileRows::ROWS, ProfileRows::ColumnCount, m_pContainer);
+    m_pInfoLabel = new QLabel(m_pContainer);
+    m_pSaveButton = new QPushButton(m_pContainer);
+    m_pCancelButton = new QPushButton(m_pContainer);
+    return m_pLogic;
+}
+
+void USSDEditCmd::initWidgets()
+{
+    m_pContainer->setObjectName(QLatin1String("USSDUIPlugin_ProfileWidget"));
+    m_pTable->setObjectName(QLatin1String("USSDUIPlugin_ProfileTable"));
+    m_pInfoLabel->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_InfoLabel"));
+    m_pSaveButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"));
+    m_pCancelButton->setObjectName(QLatin1String("USSDUIPlugin_ProfileDialog_CancelButton"));
+    m_pTable->setFixedHeight(TABLE_HEIGHT);
+    m_pContainer->setWindowModality(Qt::WindowModal);
+    m_pContainer->setFixedSize(420, 440);
+    m_pInfoLabel->setTextFormat(Qt::PlainText);
+    m_pInfoLabel->setWordWrap(true);
+    m_pInfoLabel->setBuddy(m_pTable);
+    m_pTable->setTabKeyNavigation(true);
+    // Return ends the editing of a cell, so it must not press a button.
+    m_pSaveButton->setAutoDefault(false);
+    m_pCancelButton->setAutoDefault(false);
+}
+
+void USSDEditCmd::layoutWidgets()
+{
+    QHBoxLayout *buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->addWidget(m_pSaveButton);
+    buttons->addWidget(m_pCancelButton);
+    buttons->setAlignment(Qt::AlignRight);
+    QVBoxLayout *column = new QVBoxLayout(m_pContainer);
+    column->setContentsMargins(20, 32, 20, 5);
+    column->addWidget(m_pTable);
+    column->addWidget(m_pInfoLabel);
+    column->addLayout(buttons);
+}
+
+void USSDEditCmd::connectWidgets()
+{
+    connect(m_pSaveButton, SIGNAL(clicked()), this, SLOT(OnClickedSaveButton()));
+    connect(m_pCancelButton, SIGNAL(clicked()), this, SLOT(OnClickedCancelButton()));
+}
+
+void USSDEditCmd::SetLanguage()
+{
+    if (!m_pFrame || !m_pTable)
+        return;
+    m_pInfoLabel->setText(tr(QLatin1String("IDC_STATIC_CMDTIP")));
+    m_pSaveButton->setText(tr(QLatin1String("IDC_CMDEDIT_SAVE")));
+    m_pCancelButton->setText(tr(QLatin1String("IDS_BUTTON_CANCEL")));
+    m_pFrame->setWindowTitle(tr(QLatin1String("IDC_TITLE_EDITCOMMAND")));
+    m_pTable->setAccessibleName(m_pFrame->windowTitle());
+}
+
+// ---- table -----------------------------------------------------------------------------------
+
+void USSDEditCmd::clearTable()
+{
+    if (!m_pTable) {
+        USSD_LOG(" Exit Null Table");
+        return;
     }
-    noteReading(isSystem, !reader.hasError() || file.size() == 0 ? ReadWhole : NotReadWhole);
-    USSD_LOG(" Exit");
+    USSD_LOG(" row = %d column = %d", m_pTable->rowCount(), m_pTable->columnCount());
+    for (int row = 0; row < m_pTable->rowCount(); ++row) {
+        for (int column = 0; column < m_pTable->columnCount(); ++column)
+            delete m_pTable->takeItem(row, column);
+    }
+    for (int column = 0; column < m_pTable->columnCount(); ++column)
+        delete m_pTable->takeHorizontalHeaderItem(column);
 }
 
-void USSDEditCmd::noteReading(bool isSystem, Reading reading)
+void USSDEditCmd::initTable()
 {
-    (isSystem ? m_systemFileReading : m_userFileReading) = reading;
+    USSD_LOG_SCOPE();
+    clearTable();
+    m_pTable->verticalHeader()->setMinimumSectionSize(ROW_HEIGHT);
+    for (int row = 0; row < m_pTable->rowCount(); ++row)
+        m_pTable->setRowHeight(row, ROW_HEIGHT);
+    m_pTable->setTextElideMode(Qt::ElideRight);
+    m_pTable->setWordWrap(false);
+    m_pTable->setMouseTracking(true);
+    initHeader();
+    for (int i = 0; i < m_listUSSDProfiles.count() && i < m_pTable->rowCount(); ++i)
+        showProfile(i, m_listUSSDProfiles.at(i));
+    m_pTable->setItemDelegate(&m_delegate);
+    m_pTable->setSelectionMode(QAbstractItemView::NoSelection);
+    connect(&m_delegate, SIGNAL(closeEditor(QWidget *)), this, SLOT(OnEditorClosed(QWidget *)));
+    connect(m_pTable, SIGNAL(cellChanged(int, int)), this, SLOT(OnCellChanged(int, int)));
 }
 
-/// Returns true if the file may be overwritten. A file that was not read completely must be kept. A
-/// file that has appeared since the profiles were read must be kept, too.
-bool USSDEditCmd::mayBeSavedOver(bool isSystem)
+void USSDEditCmd::initHeader()
 {
-    const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
-    return reading == ReadWhole || (reading == NoFile && !QFile::exists(profileFilePath(isSystem)));
+    const QColor colour(m_cmdEditSetting.headRed, m_cmdEditSetting.headGreen,
+                        m_cmdEditSetting.headBlue);
+    m_pTable->setHorizontalHeaderItem(ProfileRows::NameColumn,
+                                      createItem(tr(QLatin1String("IDS_COMMAND_NAME")), colour));
+    m_pTable->setHorizontalHeaderItem(ProfileRows::CodeColumn,
+                                      createItem(tr(QLatin1String("IDS_COMMAND_CODE")), colour));
+    m_pTable->verticalHeader()->setVisible(false);
+    QHeaderView *header = m_pTable->horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter); // Qt mirrors it in Arabic
+    header->setTextElideMode(Qt::ElideRight);
+    header->setStretchLastSection(false);
+    for (int column = 0; column < ProfileRows::ColumnCount; ++column)
+        m_pTable->setColumnWidth(column, COLUMN_WIDTH);
 }
 
-void USSDEditCmd::load()
+void USSDEditCmd::showProfile(int row, const USSDProfile &profile)
 {
-    m_listUSSDProfiles.clear();
-    QString path;
-    getSystemProfileXMLFilePath(path);
-    if (!path.isEmpty())
-        load(path, true);
-    getUserProfileXMLFilePath(path);
-    if (!path.isEmpty())
-        load(path, false);
-    USSD_LOG(" number of profiles = %d", m_listUSSDProfiles.count());
+    USSD_LOG(" name=%s value = %s", profile.name.toLocal8Bit().constData(),
+             profile.value.toLocal8Bit().constData());
+    const CmdEdit &set = m_cmdEditSetting;
+    const QColor colour = profile.readonly
+                              ? QColor(set.readonlyRed, set.readonlyGreen, set.readonlyBlue)
+                              : QColor(set.commonRed, set.commonGreen, set.commonBlue);
+    QTableWidgetItem *const items[] = {createItem(profile.name, colour),
+                                       createItem(profile.value, colour)};
+    for (int column = 0; column < ProfileRows::ColumnCount; ++column) {
+        if (profile.readonly)
+            items[column]->setFlags(items[column]->flags() & ~Qt::ItemIsEditable);
+        m_pTable->setItem(row, column, items[column]);
+    }
 }
 
-void USSDEditCmd::GetProfileList(QList<USSDProfile> &list)
+QString USSDEditCmd::cellText(int row, int column) const
 {
-    list = m_listUSSDProfiles;
+    const QTableWidgetItem *item = m_pTable->item(row, column);
+    return item ? item->text() : QString();
 }
 
-QString USSDEditCmd::profileFilePath(bool isSystem)
+void USSDEditCmd::readTableProfiles(QList<USSDProfile> &list, bool &changed)
 {
-    QString path;
-    if (isSystem)
-        getSystemProfileXMLFilePath(path);
+    QList<ProfileRows::Row> rows;
+    for (int row = 0; row < m_pTable->rowCount(); ++row) {
+        const ProfileRows::Row cells = {cellText(row, ProfileRows::NameColumn),
+                                        cellText(row, ProfileRows::CodeColumn)};
+        rows.append(cells);
+    }
+    list = ProfileRows::profiles(rows, m_listUSSDProfiles);
+    changed = ProfileRows::differ(list, m_listUSSDProfiles);
+}
+
+// ---- editing ---------------------------------------------------------------------------------
+
+void USSDEditCmd::OnCellChanged(int row, int column)
+{
+    m_pEditedItem = m_pTable ? m_pTable->item(row, column) : nullptr;
+    m_iEditedColumn = column;
+    m_iEditedRow = row;
+}
+
+void USSDEditCmd::forgetEditedCell()
+{
+    m_pEditedItem = nullptr;
+    m_iEditedColumn = -1;
+    m_iEditedRow = -1;
+}
+
+void USSDEditCmd::OnEditorClosed(QWidget *editor)
+{
+    USSD_LOG_SCOPE();
+    Q_UNUSED(editor);
+    if (!m_pTable)
+        return;
+    if (!m_pEditedItem || m_iEditedRow == -1 || m_iEditedColumn == -1) {
+        deselectCurrentCell();
+        return;
+    }
+    m_pEditedItem->setSelected(false);
+    if (m_pEditedItem->text().isEmpty()) {
+        USSD_LOG_EXIT(" Exit: empty string ");
+        return;
+    }
+    if (isDuplicate(m_iEditedRow, m_iEditedColumn))
+        refuseLater(m_pEditedItem);
     else
-        getUserProfileXMLFilePath(path);
-    return path;
+        deselectCurrentCell();
 }
 
-int USSDEditCmd::saveToXMLFile(bool isSystem)
+void USSDEditCmd::deselectCurrentCell()
 {
-    USSD_LOG(" Enter");
+    m_pTable->setCurrentCell(m_pTable->currentRow(), m_pTable->currentColumn(),
+                             QItemSelectionModel::Clear);
+}
+
+/// Returns true if the cell is not empty and another row has the same text in this column.
+bool USSDEditCmd::isDuplicate(int row, int column) const
+{
+    const QString text = savedText(row, column);
+    for (int other = 0; other < m_pTable->rowCount(); ++other) {
+        if (other != row && !text.isEmpty() && savedText(other, column) == text)
+            return true;
+    }
+    return false;
+}
+
+/// Returns the text of a cell as it would be saved. Blanks around a code are removed, because a
+/// file that was edited manually may contain them.
+QString USSDEditCmd::savedText(int row, int column) const
+{
+    const QString text = cellText(row, column);
+    return column == ProfileRows::CodeColumn ? text.trimmed() : text;
+}
+
+/// Queues the message about a duplicate. When the delegate and the table report that the editor has
+/// been closed, they are still processing the cell. A message box runs an event loop in which the
+/// host may delete the delegate and the table.
+void USSDEditCmd::refuseLater(QTableWidgetItem *item)
+{
+    if (m_refusedItems.contains(item))
+        return;
+    if (m_refusedItems.isEmpty())
+        QMetaObject::invokeMethod(this, "OnDuplicatesFound", Qt::QueuedConnection);
+    m_refusedItems.append(item);
+}
+
+void USSDEditCmd::OnDuplicatesFound()
+{
+    const QPointer<USSDEditCmd> self(this);
+    while (self && !m_refusedItems.isEmpty()) {
+        if (m_pContainer && m_pContainer->isVisible())
+            refuseDuplicate(m_refusedItems.first());
+        else
+            m_refusedItems.clear(); // the window has been closed in the meantime
+    }
+}
+
+/// Notifies the user of the duplicate, clears the cell and opens it for editing again.
+void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
+{
+    m_pTable->setCurrentItem(item); // closes the editor that Tab has opened in the next cell
+    OnEditorClosed(nullptr);        // the text in that cell may also be a duplicate
+    const QPointer<USSDEditCmd> self(this);
+    sayDuplicate(item->column());
+    if (!self || !m_pTable) // the host deleted the window while the message box was open
+        return;
+    m_refusedItems.removeFirst();
+    item->setText(QString());
+    m_pTable->setCurrentItem(item);
+    m_pTable->editItem(item);
+    forgetEditedCell();
+}
+
+void USSDEditCmd::sayDuplicate(int column)
+{
+    const QString what = tr(
+        QLatin1String(column == ProfileRows::CodeColumn ? "IDS_COMMAND_CODE" : "IDS_COMMAND_NAME"));
+    PluginMessage::show(
+        QMessageBox::Information, messageParent(), tr(QLatin1String("IDS_PROMPT_CAPTION")),
+        tr(QLatin1String("IDC_CMDEDIT_EXISTTIP")).replace(QLatin1String("%s"), what),
+        QLatin1String("IDS_OK"));
+}
+
+QWidget *USSDEditCmd::messageParent() const
+{
+    return CommonUtils::IsMiniMode() ? m_pContainer.data() : nullptr;
+}
+
+// ---- leaving ---------------------------------------------------------------------------------
+
+bool USSDEditCmd::Exec()
+{
+    USSD_LOG_SCOPE();
+    if (m_pFrame)
+        m_pFrame->exec();
+    return m_bSaved;
+}
+
+void USSDEditCmd::OnClickedSaveButton()
+{
+    USSD_LOG_SCOPE();
+    if (m_pTable) {
+        m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor
+        OnEditorClosed(nullptr); // the delegate does not report that this editor was closed
+    }
+    if (!m_pTable || !m_refusedItems.isEmpty())
+        return; // the cell with the rejected text is about to be opened again
+    QList<USSDProfile> newList;
+    bool changed = false;
+    readTableProfiles(newList, changed);
+    if (changed && !confirmSaving()) {
+        USSD_LOG(" No is pressed");
+        return;
+    }
+    SavePlan plan = planSaving(newList);
+    if (plan.losesChanges)
+        return sayRefusals(plan); // the window remains open and keeps the changes
+    m_listUSSDProfiles = newList;
+    USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
+    saveAsPlanned(plan);
+}
+
+/// Determines whether the profiles can be saved. This check must come first, because saving deletes
+/// the old files.
+USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
+{
+    SavePlan plan;
+    plan.writesSystemFile = planFile(true, newList, plan);
+    plan.writesUserFile = planFile(false, newList, plan);
+    return plan;
+}
+
+/// Returns true if the file must be written. A file that cannot be written may be skipped if its
+/// profiles have not changed. This is common, because the system file often belongs to root.
+bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
+{
+    const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);
+    const bool isWhole = mayBeSavedOver(isSystem);
+    const bool isWritten =
+        isWhole && ProfileSaveCheck::canBeSaved(profileFilePath(isSystem), profiles,
+                                                isSystem ? ProfileSaveCheck::FolderIsNotMade
+                                                         : ProfileSaveCheck::FolderIsMade);
+    const bool loses =
+        !isWritten &&
+        ProfileRows::differ(profiles, ProfileRows::ofFile(m_listUSSDProfiles, isSystem));
+    if (!isWhole)
+        plan.refusals.append(fileText("IDC_CMDEDIT_DAMAGEDTIP", isSystem));
+    else if (loses)
+        plan.refusals.append(fileText("IDC_CMDEDIT_WRITETIP", isSystem));
+    plan.losesChanges = plan.losesChanges || loses;
+    return isWritten;
+}
+
+void USSDEditCmd::saveAsPlanned(SavePlan &plan)
+{
+    const QPointer<USSDEditCmd> self(this);
+    if (plan.writesSystemFile)
+        saveFile(true, plan);
+    if (plan.writesUserFile)
+        saveFile(false, plan);
+    sayRefusals(plan);
+    if (!self)
+        return;
+    closeWindow();
+    m_bSaved = true;
+}
+
+void USSDEditCmd::saveFile(bool isSystem, SavePlan &plan)
+{
+    if (saveToXMLFile(isSystem) != SAVE_OK)
+        plan.refusals.append(fileText("IDC_CMDEDIT_WRITETIP", isSystem));
+}
+
+QString USSDEditCmd::fileText(const char *key, bool isSystem)
+{
     const QString path = profileFilePath(isSystem);
-    if (path.isEmpty()) {
-        USSD_LOG_IMPORTANT(" Fail Exit: user profile file name is empty");
-        return SAVE_NO_PATH;
-    }
-    QFile file(path);
-    if (file.exists())
-        file.remove();
-    if (!makeParentDirectory(path, isSystem)) {
-        USSD_LOG_IMPORTANT(" Exit: Directory is not created");
-        return SAVE_NO_DIRECTORY;
-    }
-    // This call has no effect, because the file has been deleted above. If the file could not be
-    // deleted, its permissions stay unchanged, so that its owner can still read it.
-    if (!file.exists())
-        file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        USSD_LOG_IMPORTANT(" Exit: XML file open failed");
-        return SAVE_NOT_OPENED;
-    }
-    ProfileXml::write(file, ProfileRows::ofFile(m_listUSSDProfiles, isSystem));
-    file.close();
-    USSD_LOG(" Exit");
-    return SAVE_OK;
+    return tr(QLatin1String(key))
+        .replace(QLatin1String("%s"),
+                 path.isEmpty() ? QString(QLatin1String("ussdprofile.xml")) : path);
 }
 
-/// Creates the folder of the user file, but not the folders above it. The folder of the system file
-/// is never created.
-bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
+void USSDEditCmd::sayRefusals(const SavePlan &plan)
 {
-    const QString directory = parentDirectory(path);
-    USSD_LOG_AS("saveToXMLFile", " Dir path=%s", directory.toLocal8Bit().constData());
-    return isSystem || QFileInfo(directory).isDir() || QDir().mkdir(directory);
+    if (!plan.refusals.isEmpty())
+        PluginMessage::show(QMessageBox::Information, messageParent(),
+                            tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                            plan.refusals.join(QLatin1String("\n\n")), QLatin1String("IDS_OK"));
+}
+
+bool USSDEditCmd::confirmSaving()
+{
+    const int answer = PluginMessage::show(QMessageBox::Information, messageParent(),
+                                           tr(QLatin1String("IDS_PROMPT_CAPTION")),
+                                           tr(QLatin1String("IDC_CMDEDIT_SAVETIP")),
+                                           QLatin1String("IDS_YES"), QLatin1String("IDS_NO"));
+    return m_pFrame && answer == QMessageBox::Ok;
+}
+
+void USSDEditCmd::OnClickedCancelButton()
+{
+    USSD_LOG_SCOPE();
+    closeWindow();
+}
+
+void USSDEditCmd::closeWindow()
+{
+    if (m_pContainer)
+        m_pContainer->close();
+    if (m_pFrame)
+        m_pFrame->close();
 }

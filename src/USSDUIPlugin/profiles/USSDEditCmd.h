@@ -19,11 +19,12 @@ class QTableWidgetItem;
 class QXmlStreamReader;
 
 /**
- * The command profiles, first those of the system file and then those that the user added, and the
- * window in which the user edits them. Must be used on the GUI thread.
+ * The command profiles, and the window in which the user edits them. The profiles of the system
+ * file come first, followed by the profiles that the user has added. All functions must be called
+ * from the GUI thread.
  *
- * The constructor reads the list, so a second object reads the files again. InitDialog() builds the
- * window and Exec() runs it. Exec() also returns if the host deletes the window.
+ * The constructor reads the profiles, so a second object reads the files again. InitDialog() builds
+ * the window, and Exec() runs it. Exec() also returns if the host deletes the window.
  */
 class USSDEditCmd : public QObject
 {
@@ -42,7 +43,7 @@ public:
 
     void getSystemProfileXMLFilePath(QString &path);
     /// Sets `path` to the path of the user file, or to an empty string if there is no user data
-    /// folder. Moves a file from its former folder to the current one.
+    /// folder. If the file is still in its former folder, moves it to the current folder.
     void getUserProfileXMLFilePath(QString &path);
     bool skipXmlReaderTillString(QXmlStreamReader &reader, QString name);
     /// Adds the profiles of one file. A user profile is dropped if its code is already in the list.
@@ -51,8 +52,8 @@ public:
     void load();
     /// Replaces `list` with all profiles, in order.
     void GetProfileList(QList<Formats::USSDProfile> &list);
-    /// Writes the system profiles or the user profiles to their file. Deletes the old file first,
-    /// on purpose, so after a failure there is no file.
+    /// Writes the system profiles or the user profiles to their file. Intentionally deletes the old
+    /// file first. Therefore, the file does not exist after a failure.
     int saveToXMLFile(bool isSystem);
 
     /// Builds the window in a frame whose parent is `parent`.
@@ -80,8 +81,8 @@ private:
     void initHeader();
     void clearTable();
     void showProfile(int row, const Formats::USSDProfile &profile);
-    /// Sets `list` to the profiles in the table, and `changed` to true if they differ from the
-    /// current ones.
+    /// Sets `list` to the profiles in the table. Sets `changed` to true if they differ from the
+    /// current profiles.
     void readTableProfiles(QList<Formats::USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
     QString savedText(int row, int column) const;
@@ -92,7 +93,7 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
-    /// The files that can be written, and the messages about the other files.
+    /// The files that can be written, and the error messages for the other files.
     struct SavePlan {
         SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
 
@@ -129,10 +130,10 @@ private:
     QPointer<QLabel> m_pInfoLabel;
     QPointer<QPushButton> m_pSaveButton;
     QPointer<QPushButton> m_pCancelButton;
-    QTableWidgetItem *m_pEditedItem; // the last changed cell; null, with indexes -1, if none
+    QTableWidgetItem *m_pEditedItem; // the last changed cell; null if there is none
     int m_iEditedColumn;
     int m_iEditedRow;
-    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message is queued or open
+    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message box is queued or open
     bool m_bSaved;
     Reading m_systemFileReading;
     Reading m_userFileReading;

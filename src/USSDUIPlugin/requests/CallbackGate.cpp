@@ -37,8 +37,8 @@ bool CallbackGate::enter(Patience patience)
 {
     const Qt::HANDLE self = QThread::currentThreadId();
     QMutexLocker locker(&m_mutex);
-    // The SDK may call back from inside the registration. The thread that constructs the object is
-    // therefore excluded, because it would wait for itself.
+    // The SDK may invoke the call-back from inside the registration. Therefore, the thread that
+    // constructs the object does not wait, because it would wait for itself.
     while (patience == WaitForOpening && m_state == Opening && m_maker != self)
         m_changed.wait(&m_mutex);
     if (m_state != Open)

@@ -6,12 +6,12 @@
 #include <QWaitCondition>
 
 /**
- * Decides whether a call-back of the device SDK may use the logic object, and keeps the object
- * alive until the call-back returns. Call-backs enter the gate on any thread; the GUI thread opens
- * and closes the gate.
+ * Controls whether a call-back of the device SDK may use the logic object, and keeps the object
+ * alive until the call-back returns. Call-backs enter the gate from any thread. The GUI thread
+ * opens and closes the gate.
  *
- * No call-back enters while the object is being constructed. The SMS call-back, which is registered
- * last, waits until construction is complete. The reason is that the device reports only once, soon
+ * Call-backs cannot enter the gate while the object is being constructed. The SMS call-back, which
+ * is registered last, waits until construction is complete. The device reports only once, soon
  * after the registration, that short messages can be sent.
  */
 class CallbackGate
@@ -19,10 +19,10 @@ class CallbackGate
 public:
     CallbackGate();
 
-    /// Announces that the calling thread is about to construct the object.
+    /// Must be called before the calling thread constructs the object.
     void startOpening();
     void open();
-    /// Refuses new call-backs, and returns when every other thread has left the gate.
+    /// Rejects new call-backs. Returns after all other threads have left the gate.
     void close();
 
     enum Patience { DoNotWait, WaitForOpening };
@@ -41,10 +41,10 @@ private:
     QWaitCondition m_changed;
     State m_state;
     Qt::HANDLE m_maker;         // the thread that constructs the object
-    QList<Qt::HANDLE> m_inside; // the thread of each call-back that has entered
+    QList<Qt::HANDLE> m_inside; // the thread of each call-back that has entered the gate
 };
 
-/** Enters the gate for the duration of one call-back, if the gate lets the call-back in. */
+/** Enters the gate for the duration of one call-back, if the gate admits the call-back. */
 class CallbackPass
 {
 public:

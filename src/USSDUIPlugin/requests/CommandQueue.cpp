@@ -33,8 +33,8 @@ CommandQueue::Claim CommandQueue::claimHead(Head &head, quint64 number)
     return Claimed;
 }
 
-/// Marks the head as sent. The mark prevents two threads from sending the same command, because a
-/// command may become the head before its own sender has checked whether it is the only command.
+/// Marks the head as sent. The mark prevents two threads from sending the same command. A command
+/// may become the head before its own sender has checked that no other command is queued.
 bool CommandQueue::markHeadSent(Head &head)
 {
     if (m_commands.isEmpty() || m_marks.sent == m_marks.current)

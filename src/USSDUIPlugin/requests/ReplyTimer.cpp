@@ -71,8 +71,9 @@ bool ReplyTimer::isArmed(quint64 arming) const
     return m_armed && m_arming == arming;
 }
 
-/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, by which
-/// the QTimer runs, even if setClock() has set another clock. Must be called with m_state locked.
+/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, on which
+/// the QTimer is based, even if setClock() has set another clock. Must be called with m_state
+/// locked.
 bool ReplyTimer::wakesWithin(int milliseconds) const
 {
     return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
@@ -89,8 +90,8 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
-/// Stops the QTimer if called on its own thread. On any other thread, the QTimer may fire once
-/// without an effect, which costs less than an event that stops it.
+/// Stops the QTimer if called from its own thread. If called from another thread, lets the QTimer
+/// fire once without effect, which costs less than an event that stops the timer.
 void ReplyTimer::stopIfOwner(QMutexLocker &locker)
 {
     locker.unlock();
@@ -128,7 +129,7 @@ quint64 ReplyTimer::dueArming() const
 void ReplyTimer::timerEvent(QTimerEvent *event)
 {
     const quint64 due = dueArming();
-    if (due == 0) { // disarmed, or armed again, while this event was queued
+    if (due == 0) { // disarmed or re-armed while this event was queued
         catchUp();
         return;
     }

@@ -7,14 +7,15 @@
 class QMutexLocker;
 
 /**
- * The response time-out. It may be armed and disarmed on any thread, and isArmed() reflects the
- * change at once. The QTimer itself is started and stopped only on its own thread, a little later.
- * timeout() is emitted on that thread, only while the time-out is armed, and only after the time
- * has really elapsed.
+ * The response time-out. It may be armed and disarmed from any thread, and isArmed() reflects the
+ * change immediately. The QTimer itself is started and stopped slightly later, and only from its
+ * own thread. timeout() is emitted on this thread, but only while the time-out is armed and only
+ * after the time has really elapsed.
  *
  * The QTimer is started and stopped only if necessary. If it fires before the deadline, it checks
- * the clock and restarts for the remaining time. If it is no longer needed, it stops when it fires.
- * A command that is answered in time therefore needs neither an event nor a separate system timer.
+ * the clock and restarts for the remaining time. If the QTimer is no longer needed, it stops when
+ * it fires. Therefore, a command that is answered in time requires neither an event nor a separate
+ * system timer.
  *
  * Every arming has a number, so that a late disarm() cannot affect a newer arming.
  */
@@ -29,21 +30,21 @@ public:
     /// Restarts the time-out and returns the number of the arming, which is never 0.
     quint64 arm(int milliseconds);
     void disarm();
-    /// Disarms the time-out only if `arming` is the newest arming.
+    /// Disarms the time-out only if `arming` is the most recent arming.
     void disarm(quint64 arming);
     bool isArmed() const;
-    /// Returns true if `arming` is the newest arming and has not been disarmed.
+    /// Returns true if `arming` is the most recent arming and has not been disarmed.
     bool isArmed(quint64 arming) const;
-    /// Returns the arming that has run out while timeout() is being emitted, and 0 otherwise. Must
-    /// be called on the thread of the timer.
+    /// Returns the number of the expired arming while timeout() is being emitted, otherwise 0. Must
+    /// be called from the timer's thread.
     quint64 runOutArming() const { return m_runOut; }
 
-    /// Sets the clock of all timers; null restores the monotonic system clock.
+    /// Sets the clock of all timers. Null restores the monotonic system clock.
     static void setClock(Clock clock);
 
 public slots:
-    /// Starts or stops the QTimer to match the arming. Must be called on the thread of the timer
-    /// after a clock that setClock() has set has jumped.
+    /// Starts or stops the QTimer to match the arming. Must be called from the timer's thread after
+    /// a clock that was set with setClock() has jumped.
     void catchUp();
 
 protected:
@@ -63,7 +64,7 @@ private:
     qint64 m_deadline;
     qint64 m_wake; // the time (system clock) at which the QTimer fires next; -1 while it is stopped
 
-    quint64 m_runOut; // used on the thread of the timer only
+    quint64 m_runOut; // used only on the timer's thread
 };
 
 #endif

@@ -9,17 +9,17 @@
 namespace SdkRecords
 {
 
-/// Returns the size of `command` in UTF-16, in bytes.
+/// Returns the size of `command` in bytes when encoded as UTF-16.
 int commandBytes(const QString &command);
 
-/// Fills the whole record. Returns false and zeroes the record if the command is longer than
+/// Fills the complete record. Returns false and zeroes the record if the command is longer than
 /// TKSV_USSD_MAX_COMMAND_BYTES.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
-/// The maximum length of a text in UTF-16 code units, in case its terminating zero is missing.
+/// The maximum length of a string in UTF-16 code units, in case the terminating zero is missing.
 const int MOST_UNITS = 1024 * 1024;
 
-/// Returns the text up to its terminating zero code unit. Returns an empty string for null.
+/// Returns the string up to its terminating zero code unit. Returns an empty string for null.
 QString textFromUnits(const unsigned short *units);
 
 /// Returns the text of a response record, which must not be null.
@@ -36,7 +36,7 @@ struct SmsSendResult {
 };
 
 SmsSendResult smsSendResult(const void *record);
-/// Returns the SMS status. Returns 0, which is not a valid status, for null.
+/// Returns the SMS status. If `record` is null, returns 0, which is not a valid status.
 int smsStatus(const void *record);
 
 } // namespace SdkRecords

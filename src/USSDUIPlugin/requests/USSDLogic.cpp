@@ -20,9 +20,9 @@ namespace
 
 const int SENT = 0;
 const int FAILED = 1;
-const int NOT_THE_HEAD = 2; // used in this file only
+const int NOT_THE_HEAD = 2; // used only in this file
 
-const int PREVIOUS_TIMEOUT = 3000; // ms that a new time-out waits for the end of the previous one
+const int PREVIOUS_TIMEOUT = 3000; // ms to wait for the end of the previous time-out
 
 ReplyTimes shippedReplyTimes()
 {
@@ -55,8 +55,8 @@ CallbackGate USSDLogic::m_gate;
 ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
 
 /**
- * The only access to the pending commands. LockedQueue()->function() holds m_mutex until the end of
- * the expression, so the expression must not take another lock or call other code.
+ * The only access to the pending commands. LockedQueue()->function() locks m_mutex until the end of
+ * the expression. Therefore, the expression must not lock another mutex or call other code.
  */
 class USSDLogic::LockedQueue
 {
@@ -101,7 +101,7 @@ USSDLogic::~USSDLogic() {}
 void USSDLogic::Destroy()
 {
     USSD_LOG_SCOPE();
-    stopReplyTimer(); // wakes a sender that waits for the earlier time-out
+    stopReplyTimer(); // wakes a sender that waits for the previous time-out
     m_gate.close();
     delete m_pTimer;
     m_pTimer = nullptr;
@@ -110,7 +110,7 @@ void USSDLogic::Destroy()
     LockedQueue()->clear(); // the list goes with its owner, or the next one would wait behind it
 }
 
-// The two functions below are parts of the constructor and log under its name.
+// The two functions below are parts of the constructor and log under the constructor's name.
 static const char CONSTRUCTOR[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
@@ -228,9 +228,9 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// Sends the head to the device. No signal is emitted after a failure. This is intended, because
-/// the caller receives the result. The commands after the failed one wait until a new command is
-/// sent alone, or until a late reply arrives.
+/// Sends the head to the device. Intentionally, no signal is emitted after a failure, because the
+/// caller receives the result. The commands after the failed command remain in the queue until a
+/// late reply arrives or the queue is cleared.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
     USSD_LOG_SCOPE();
@@ -260,7 +260,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     return SENT;
 }
 
-/// Starts the time-out for the head. Must be called with m_mutexSendCmd held.
+/// Starts the time-out for the head. Must be called with m_mutexSendCmd locked.
 void USSDLogic::armReplyTimer(quint64 number)
 {
     if (!m_pTimer)
@@ -271,8 +271,8 @@ void USSDLogic::armReplyTimer(quint64 number)
     m_timedHead = number;
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
     locker.unlock();
-    // A reply that arrived before the time-out was armed had nothing to cancel, so the time-out is
-    // cancelled here.
+    // If the reply arrived before the time-out was armed, it could not cancel the time-out. Cancel
+    // it here.
     if (!LockedQueue()->awaitsReply(number))
         m_pTimer->disarm(arming);
 }
@@ -343,8 +343,8 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
 void USSDLogic::OnTimeOut()
 {
     USSD_LOG_SCOPE();
-    // The number is read first. A quick reply may bring up another head from here on, and that head
-    // has not timed out.
+    // Read the number first. From here on, a quick reply may make another command the head, and
+    // that command has not timed out.
     const quint64 number = LockedQueue()->headNumber();
     CommandQueue::Head head;
     if (!stopRunOutTimer())
@@ -359,9 +359,9 @@ void USSDLogic::OnTimeOut()
     checkPendingCmds();
 }
 
-/// Wakes the waiting sender and cancels the arming that ran out. Returns false if the command of
-/// this arming has been answered meanwhile, because the current head is then another command, which
-/// may not have been sent yet.
+/// Wakes the waiting sender and cancels the expired arming. Returns false if the command of this
+/// arming has been answered in the meantime. In that case, the head is another command, which may
+/// not have been sent yet.
 bool USSDLogic::stopRunOutTimer()
 {
     const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;
@@ -387,7 +387,7 @@ unsigned char USSDLogic::OnDeviceMgrInitEvent(int event, void *data)
         return 0;
     const CallbackPass pass(m_gate, CallbackGate::DoNotWait);
     if (!pass.isValid())
-        return 1; // nothing is pending
+        return 1; // there is no pending command
     CommandQueue::Head head;
     const CommandQueue::Claim claim = LockedQueue()->claimHead(head);
     if (claim == CommandQueue::Empty)
@@ -430,7 +430,8 @@ unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
 
 void USSDLogic::announceSmsResult(void *data)
 {
-    // The lines use the name of the call-back, because a reader of the log looks for this name.
+    // The log lines use the name of the call-back, because users who search the log look for this
+    // name.
     static const char function[] = "SmsCallBackMethod";
     USSD_LOG_AS(function, ": Obtained the EVENT_SMS_ONSENDRESULT");
     if (!data)

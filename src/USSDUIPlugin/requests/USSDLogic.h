@@ -33,25 +33,25 @@ enum ComponentAttribute {
     ATTR_URL = 10
 };
 
-/** The limits of the request pipeline, in milliseconds. */
+/** The time limits of the request pipeline, in milliseconds. */
 struct ReplyTimes {
-    int reply;    // time until a reply must arrive
-    int previous; // time that a new time-out waits until the previous one is cancelled
+    int reply;    // time in which a reply must arrive
+    int previous; // time for which a new time-out waits until the previous time-out is cancelled
 };
 
 /**
- * Holds the configuration, sends the commands of all dialogs to the device one at a time, and
- * announces replies, time-outs, device failures and SMS events.
+ * Stores the configuration, and sends the commands of all windows to the device one at a time.
+ * Emits signals for replies, time-outs, device failures and SMS events.
  *
- * The singleton is constructed on the GUI thread when it is first used. Commands are sent and
- * cleared, time-outs are handled, and the singleton is destroyed on this thread, too. The device
- * SDK runs the three call-backs on its own threads, and the reply call-back sends the next pending
- * command there.
+ * The singleton is constructed on first use from the GUI thread. Commands are sent and cleared,
+ * time-outs are handled, and the singleton is destroyed on the same thread. The device SDK runs the
+ * three call-backs on its own threads. The reply call-back sends the next pending command on such a
+ * thread.
  *
- * Locks: m_mutex guards the pending commands for one call of CommandQueue, and no other lock is
- * taken meanwhile. m_mutexSendCmd makes the sending of one command atomic. m_mutexTimeout, which is
- * taken inside it, guards the start of the time-out. No lock is held while a signal is emitted or
- * the host is called.
+ * Locks: m_mutex guards the pending commands during one call of CommandQueue. No other lock is
+ * taken during this call. m_mutexSendCmd makes the sending of one command atomic. m_mutexTimeout,
+ * which is locked after m_mutexSendCmd, guards the start of the time-out. No lock is held while a
+ * signal is emitted or the host is called.
  */
 class USSDLogic : public QObject
 {
@@ -63,11 +63,12 @@ public:
     typedef Formats::ConfigBalance Balance;
     typedef unsigned char (*EventCallback)(int event, void *data);
 
-    /// Returns the singleton, which the first call creates. Must be called on the GUI thread.
+    /// Returns the singleton, which is created by the first call. Must be called from the GUI
+    /// thread.
     static USSDLogic *GetUSSDLogicInstance();
-    /// Waits for running call-backs, and then deletes the singleton with its time-out and its list.
-    /// The call-backs stay registered until unSDKRegisterEvent() is called. Must be called on the
-    /// GUI thread.
+    /// Waits for running call-backs, and then deletes the singleton, the time-out and the pending
+    /// commands. The call-backs remain registered until unSDKRegisterEvent() is called. Must be
+    /// called from the GUI thread.
     static void Destroy();
     ~USSDLogic() override;
 
@@ -80,15 +81,15 @@ public:
     void loadCmdEditSettings(QXmlStreamReader &reader);
     void loadClearBtnSettings(QXmlStreamReader &reader);
     void loadAutoUssdSettings(QXmlStreamReader &reader);
-    /// The following functions set `out` to the settings of one section. All but GetPrePostDiffer()
-    /// read the section from the file again, and leave `out` unchanged if the file cannot be
-    /// opened.
+    /// The following functions set `out` to the settings of one section. All functions except
+    /// GetPrePostDiffer() read the section from the file again. They leave `out` unchanged if the
+    /// file cannot be opened.
     void GetCharSet(_CHAR_SET_COLOR which, Formats::Char &out);
     void GetClearBtnSetting(Formats::ClearHistory &out);
     void GetCmdEditSetting(Formats::CmdEdit &out);
     void GetPrePostDiffer(Formats::PrePostDiffer &out);
-    /// Returns the attribute. Returns -1, or leaves `out` unchanged, if the paid type, the
-    /// component or the attribute is unknown.
+    /// Returns the attribute. If the paid type, the component or the attribute is unknown, returns
+    /// -1 or leaves `out` unchanged.
     int GetComponentAttrInt(int paidType, int component, int attr);
     void GetComponentAttrStr(int paidType, int component, int attr, QString &out);
     int getBalanceIntAttr(int paidType, int attr);
@@ -99,31 +100,31 @@ public:
     void getChargeStrAttr(int paidType, int attr, QString &out);
     void getOnlineChargeStrAttr(int paidType, int attr, QString &out);
     void getMSISDNStrAttr(int paidType, int attr, QString &out);
-    /// Sets `flags` to the windows for the longest configured prefix of this IMSI. Returns whether
+    /// Sets `flags` to the windows for the longest configured prefix of this IMSI. Returns true if
     /// there is such a prefix.
     bool CheckImsiIsValid(QString const &imsi, int &flags);
     bool IsImsiDynamicMatch();
-    /// Returns the name of the profile that is shown on the screen.
+    /// Returns the name under which the profile is displayed.
     QString getProfileShowText(const Formats::USSDProfile &profile);
 
     // ---- requests
     /// Queues a copy of `cmd`, and sends it if no command is in flight. Returns 0 if the command
-    /// was sent or queued. Returns 1 if it could not be sent; `*status` is then the status of the
-    /// device.
+    /// was sent or queued. Returns 1 if the command could not be sent. `*status` then contains the
+    /// status of the device.
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
-    /// Sends the head of the list, whose text is `command`, to the device. A command that is
-    /// refused or too long is removed from the list. In this case no signal is emitted, and the
+    /// Sends the head of the queue, whose string is `command`, to the device. A command that is
+    /// rejected or too long is removed from the queue. In this case, no signal is emitted, and the
     /// next command is not sent.
     int sendUSSDCommand(QString command, int *status);
     void copyCmdToList(USSDCmdOrResp cmd);
     void checkPendingCmds();
-    /// Ends the USSD session on the device. The list and the time-out stay unchanged. Returns 0 on
-    /// success, otherwise 1.
+    /// Ends the USSD session on the device. The queue and the time-out remain unchanged. Returns 0
+    /// on success, otherwise 1.
     int ReleaseUSSDCommand();
     int releaseUSSDCommand();
-    /// Drops all commands except the prepaid/postpaid queries. A command in flight is dropped, too.
+    /// Drops all commands except the prepaid/postpaid queries, including a command in flight.
     static void ClearQueuedCmds();
-    /// Drops the commands of the USSD-SMS dialog.
+    /// Drops the commands of the USSD-SMS window.
     static void ClearUSSDSMSQueuedCmds();
     int registerUSSDCallback(EventCallback fn);
     int unregisterUSSDCallback(EventCallback fn);
@@ -133,21 +134,22 @@ public:
     static unsigned char OnDeviceMgrInitEvent(int event, void *data);
     static unsigned char SmsCallBackMethod(int event, void *data);
 
-    /// Returns whether the device has last reported that it can send short messages.
+    /// Returns true if the device has most recently reported that it can send short messages.
     bool CanSendSMS();
     /// Unregisters the three call-backs from the device SDK.
     void unSDKRegisterEvent();
 
     static QString tr(const QString &key);
 
-    /// Replaces the pipeline's limits for all later commands. The default limits are 30 s and 3 s;
-    /// $USSD_REPLY_TIMEOUT_MS can change the limit of 30 s. Must be called on the GUI thread.
+    /// Sets the time limits for all later commands. The default limits are 30 s for a reply and 3 s
+    /// for the previous time-out. $USSD_REPLY_TIMEOUT_MS can change the limit for a reply. Must be
+    /// called from the GUI thread.
     static void setReplyTimes(const ReplyTimes &times);
     static ReplyTimes replyTimes();
 
 signals:
-    // Emitted on the thread that receives the event. The connections to receivers on the GUI thread
-    // are therefore queued.
+    // Emitted on the thread that receives the event. Therefore, connections to receivers on the GUI
+    // thread are queued.
     void responseReceived(int iComponent, QString strResponse);
     void SmsSendResult(bool ok, QString number, QString text);
     void CanSendSMS(bool can);
@@ -172,7 +174,7 @@ private:
     void announceSmsStatus(void *data);
 
     static USSDLogic *m_pUSSDLogicInstance;
-    static CommandQueue m_listOfCommandsToSend; // used through LockedQueue only
+    static CommandQueue m_listOfCommandsToSend; // accessed only through LockedQueue
     static QMutex m_mutex;
     static QMutex m_mutexSendCmd;
     static QMutex m_mutexTimeout;

@@ -39,7 +39,7 @@ bool holdsRightToLeftLetter(const QString &text)
     return false;
 }
 
-/// Removes the direction marks, LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
+/// Removes the direction marks from LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
 QString withoutDirectionMarks(QString text)
 {
     return text.remove(QRegExp(QString::fromLatin1("[%1-%2]").arg(QChar(0x202A), QChar(0x202E))));
@@ -71,8 +71,8 @@ void AccountReplyView::showText(const QString &text)
     setReply(holdsRightToLeftLetter(text) ? ServiceReplyLabel::withCodesMarked(text) : text);
 }
 
-/// Shows the reply. A heavy text, which no network can send, is shown in pieces, each as a separate
-/// paragraph.
+/// Shows the reply. A heavy text, which networks cannot send, is shown in pieces. Each piece is a
+/// separate paragraph.
 void AccountReplyView::setReply(const QString &text)
 {
     m_feeder->drop();
@@ -123,8 +123,8 @@ void AccountReplyView::fixHeight()
     setFixedHeight(heightOfLines());
 }
 
-/// Returns the height of m_lines lines in a document, which rounds each line up and adds its own
-/// margins.
+/// Returns the height of m_lines lines in a document. The document rounds the height of each line
+/// up and adds its own margins.
 int AccountReplyView::heightOfLines() const
 {
     QTextDocument lines;

@@ -6,9 +6,9 @@
 class PieceFeeder;
 
 /**
- * Shows the network's reply as plain text, whatever it contains, in a box with a fixed number of
- * lines. A longer reply can be scrolled. The plug-in's own texts follow the language. A code such
- * as *111# is read from left to right, even within right-to-left text.
+ * Shows the network's reply as plain text in a box with a fixed number of lines, even if the reply
+ * contains markup. A longer reply can be scrolled. The plug-in's own messages follow the language.
+ * A code such as *111# is read from left to right, even within right-to-left text.
  */
 class AccountReplyView : public QTextEdit
 {
@@ -17,9 +17,10 @@ public:
 
     /// Sets the number of visible lines.
     void setLines(int lines);
-    /// Shows a reply, or one of the plug-in's own texts in the current language.
+    /// Shows a reply, or one of the plug-in's own messages in the current language.
     void showText(const QString &text);
-    /// Updates one of the plug-in's own texts to the current language; a reply stays unchanged.
+    /// Updates one of the plug-in's own messages to the current language. A reply remains
+    /// unchanged.
     void retranslate();
 
     QSize sizeHint() const override;
@@ -36,7 +37,7 @@ private:
 
     PieceFeeder *m_feeder; // a child of this widget
     int m_lines;
-    QString m_ownKey; // key of the shown text; empty for a reply
+    QString m_ownKey; // text key of the message shown; empty for a reply
 };
 
 #endif

@@ -28,7 +28,7 @@ QString onlineAddress(const QString &configured)
 
 QString onlineLinkMarkup(const QString &address, const QString &shown)
 {
-    // A single arg() call replaces both, because a second call would also replace a "%2" in the
+    // Replace both with a single arg() call, because a second call would also replace a "%2" in the
     // address.
     return QString::fromLatin1("<a href=\"%1\">%2</a>")
         .arg(QtCompat::escapeHtml(address), QtCompat::escapeHtml(shown));

@@ -9,8 +9,8 @@
 /// unless it begins with "http". Returns "about:blank" if `configured` is empty.
 QString onlineAddress(const QString &configured);
 
-/// Returns a rich-text link to `address` with the text `shown`. Both are escaped, so neither can
-/// add markup.
+/// Returns a rich-text link to `address` with the text `shown`. Both strings are escaped, so that
+/// neither can add markup.
 QString onlineLinkMarkup(const QString &address, const QString &shown);
 
 #endif

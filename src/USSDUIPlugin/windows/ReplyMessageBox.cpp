@@ -11,12 +11,12 @@
 namespace
 {
 
-// The limits of a text that is shown in a label.
+// The size limits for text that is shown in a label.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;
 
-const int VIEW_WIDTH = 420; // pixels
+const int VIEW_WIDTH = 420; // in pixels
 const int VIEW_HEIGHT = 220;
 
 int longestWord(const QString &text)
@@ -48,7 +48,7 @@ QPlainTextEdit *createView(QWidget *parent, const QString &text)
     return view;
 }
 
-/// Shows the text in a scrolling view instead of the label, whose width would grow with the longest
+/// Shows the text in a scrolling view instead of the label. A label becomes as wide as the longest
 /// word.
 void showInView(QMessageBox *box, const QString &text)
 {

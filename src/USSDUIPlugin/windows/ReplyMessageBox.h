@@ -4,14 +4,14 @@
 #include <QMessageBox>
 
 /*
- * The message box that shows the network's reply to a top-up. The box consists only of Qt's own
- * classes, so it can be deleted without any code of the plug-in.
+ * The message box that shows the network's reply to a top-up. The box uses only Qt's own classes,
+ * so that it can be deleted without running any code of the plug-in.
  */
 namespace ReplyMessageBox
 {
 
-/// Creates a modal box as a child of `parent`, but does not show it. The box contains the reply as
-/// plain text, in a scrolling view if the reply is too long for a label.
+/// Creates a modal message box as a child of `parent`, but does not show it. The box contains the
+/// reply as plain text, in a scrolling view if the reply is too long for a label.
 QMessageBox *create(QWidget *parent, const QString &reply);
 
 /// Updates the title and the button to the current language.

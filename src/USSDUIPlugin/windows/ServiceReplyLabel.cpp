@@ -12,7 +12,8 @@ namespace
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 
-/// A label has no room for this many characters. Laying out more at each repaint would be useless.
+/// A label is too small for this many characters. Laying out more characters at each repaint would
+/// be useless.
 const int MOST_LETTERS = 2000;
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)
@@ -24,7 +25,7 @@ QTextOption textOption(const QLabel &label, bool rightToLeft)
     return option;
 }
 
-/// Breaks the text into as many lines as the label has room for.
+/// Breaks the text into as many lines as fit into the label.
 void layOut(QTextLayout &layout, const QSize &space)
 {
     qreal bottom = 0;

@@ -4,10 +4,10 @@
 #include <QLabel>
 
 /**
- * A label for the network's replies. It shows plain text in the direction of the text's own
- * letters. A word that is too long for a line can be broken anywhere, and codes in the text are
- * read from left to right. text() returns the reply unchanged, and the reply does not affect the
- * size hint. Must be used on the GUI thread.
+ * A label for the network's replies. It shows plain text in the direction of the letters in the
+ * text. A word that is too long for a line can be broken anywhere, and codes in the text are read
+ * from left to right. text() returns the reply unchanged. The reply does not affect the size hint.
+ * All functions must be called from the GUI thread.
  */
 class ServiceReplyLabel : public QLabel
 {
@@ -18,7 +18,7 @@ public:
     QSize minimumSizeHint() const override;
 
     /// Returns `text` with direction marks around each code, such as *111#, and around each number
-    /// with a plus sign. Without the marks, right-to-left letters next to a code would reverse it.
+    /// with a plus sign. Without the marks, adjacent right-to-left letters would reverse a code.
     static QString withCodesMarked(const QString &text);
 
 protected:

@@ -28,13 +28,13 @@ namespace
 {
 
 const int RETURN_IN_MESSAGE_BOX = 1; // the return style that shows the reply in a message box
-const int LINK_WIDTH = 300;          // pixels
+const int LINK_WIDTH = 300;          // in pixels
 const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;
 const int MSISDN_LINES = 2;
 
-/// Returns a new child of the dialog with an object name for its role. Returns null if there is not
-/// enough memory.
+/// Returns a new child of the window with an object name for the given role. Returns null if there
+/// is not enough memory.
 template <typename Widget>
 Widget *createWidget(QWidget *dialog, const char *role)
 {
@@ -75,8 +75,8 @@ QString text(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Returns a tool tip that shows `text` literally, as escaped rich text. In plain text, QToolTip
-/// might treat a part as markup.
+/// Returns a tool tip that shows `text` literally, as escaped rich text. If the tool tip were plain
+/// text, QToolTip might interpret parts of it as markup.
 QString plainToolTip(const QString &text)
 {
     return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
@@ -141,7 +141,7 @@ void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
 bool USSDDlg::createWidgets()
 {
     m_pCloseButton = createWidget<QPushButton>(this, "CloseButton");
-    // Every function is called even if one fails, so that as many widgets as possible are created.
+    // Call every function even if one fails, so that as many widgets as possible are created.
     const bool balance = createBalance();
     const bool charge = createCharge();
     const bool onlineCharge = createOnlineCharge();
@@ -191,7 +191,7 @@ void USSDDlg::getConfigure()
 {
     USSD_LOG_SCOPE();
     m_pLogic->GetPrePostDiffer(m_prePostDiffer);
-    m_chargeRules = ChargeRules();
+    m_chargeRules = TopUpInputLimits();
     m_chargeRules.length = m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_LENGTH);
     m_chargeRules.minlenth =
         m_pLogic->GetComponentAttrInt(m_paidType, COMPONENT_CHARGE, ATTR_MINLENTH);
@@ -216,8 +216,8 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // If no command can be sent at all, this text stays visible, because nothing reports the
-    // failure.
+    // If no command can be sent at all, this message remains visible, because the failure is not
+    // reported in any other way.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -235,8 +235,8 @@ void USSDDlg::initChargeComponent()
     limitChargeEdit();
 }
 
-/// Limits the characters that can be entered. If the configuration contains no usable expression,
-/// the entry accepts all characters.
+/// Limits the characters that can be entered. If the configuration does not contain a usable
+/// expression, the input field accepts all characters.
 void USSDDlg::limitChargeEdit()
 {
     delete m_pChargeEdit->validator();
@@ -279,11 +279,12 @@ void USSDDlg::connectWidgets()
             SLOT(OnResponseReceived(int, QString)));
     m_pChargeEdit->installEventFilter(this);
     m_pChargeActivateButton->installEventFilter(this);
-    // The status box has the focus while the entry and the button are disabled.
+    // The status box has the focus while the input field and the button are disabled.
     m_pActivateStatusTextEdit->installEventFilter(this);
 }
 
-/// Rebuilds the dialog for another type, because the whole configuration depends on the type.
+/// Rebuilds the window for another paid type, because the complete configuration depends on the
+/// type.
 void USSDDlg::changePaidType(PAID_TYPE type)
 {
     if (type == m_paidType || !m_pLogic || !m_pGrid)
@@ -341,8 +342,8 @@ void USSDDlg::setLanguageForMSISDN()
     m_pMSISDNStatusTextEdit->retranslate();
 }
 
-/// Uses the label next to a field as the field's name and as the button's description, because two
-/// buttons may have the same text.
+/// Uses the label next to a field as the field's accessible name and as the button's description,
+/// because two buttons may have the same text.
 void USSDDlg::initAccessibility()
 {
     m_pBalanceLabel->setBuddy(m_pBalanceStatusTextEdit);
@@ -398,12 +399,12 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // shows which button Return in the entry presses
+    m_pChargeActivateButton->setDefault(true); // marks the button that Return presses
 }
 
 void USSDDlg::OnCloseButtonClicked()
 {
-    emit closeButtonClicked(); // the receiver may delete the dialog
+    emit closeButtonClicked(); // the receiver may delete the window
 }
 
 void USSDDlg::OnClickedCloseButton()
@@ -412,12 +413,12 @@ void USSDDlg::OnClickedCloseButton()
     USSDLogic::ClearQueuedCmds();
     m_bBusy = false;
     dropReplyBoxes();
-    emit clickedcloseButton(); // the receiver may delete the dialog
+    emit clickedcloseButton(); // the receiver may delete the window
 }
 
-/// Accepts Return without any action. The field or button with the focus has already handled it,
-/// and the frame would also press its default button. Other keys, such as Escape, are passed to the
-/// frame.
+/// Accepts Return without any action. The field or button with the focus has already handled the
+/// key, and the frame would also press its default button. Other keys, such as Escape, are passed
+/// to the frame.
 void USSDDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -426,8 +427,9 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// Filters out the repeats of Return, so that a key that is held down tops up only once, even if an
-/// answer enables the entry and the button again. A repeat does not close the message box either.
+/// Filters out key repeats of Return, so that holding the key tops up only once, even if a reply
+/// enables the input field and the button again. A key repeat does not close the message box
+/// either.
 bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
@@ -435,7 +437,7 @@ bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
     const QKeyEvent *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
         return false;
-    // Some systems do not mark repeats; they only omit the releases between them.
+    // Some systems do not mark key repeats; they only omit the key releases between them.
     const bool isHeld = key->isAutoRepeat() || m_bReturnDown;
     m_bReturnDown = event->type() == QEvent::KeyPress || key->isAutoRepeat();
     return event->type() == QEvent::KeyPress && isHeld;
@@ -448,8 +450,8 @@ void USSDDlg::OnClickedBalanceUpdateButton()
     sendUSSDCommand(COMPONENT_BALANCE, ATTR_COMMAND);
 }
 
-/// Tops up when the button is clicked, or when Return is pressed in the entry while the button is
-/// enabled.
+/// Tops up when the user clicks the button, or presses Return in the input field while the button
+/// is enabled.
 void USSDDlg::OnClickedActivateButton()
 {
     if (m_pChargeActivateButton && m_pChargeActivateButton->isEnabled())
@@ -494,8 +496,8 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
-/// Sends the command. If the command could not be read from the configuration, it is empty. It then
-/// fails like a command that the device refuses.
+/// Sends the command. If the command could not be read from the configuration, it is empty. An
+/// empty command fails like a command that the device rejects.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())
@@ -503,9 +505,10 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
     return m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), status);
 }
 
-/// Marks the dialog as busy and shows the waiting text. A top-up whose answer appears in a message
-/// box shows no waiting text. However, it makes the dialog busy like any other command; otherwise
-/// its answer would be dropped if no other command had been sent first.
+/// Marks the window as busy and shows the waiting message. If the reply to a top-up appears in a
+/// message box, the waiting message is not shown. However, the top-up makes the window busy like
+/// any other command. Otherwise, its reply would be dropped unless another command had been sent
+/// first.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
@@ -543,9 +546,10 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
-/// Shows the answer to a top-up. A message box is opened from the event loop for two reasons. While
-/// a reply is announced, the box would block the pipeline. In the key handler of the entry, which
-/// reports a refusal, the host might delete the entry while the handler runs.
+/// Shows the reply to a top-up. A message box is opened from the event loop for two reasons. If the
+/// box were opened while a reply is being reported, it would block the pipeline. If it were opened
+/// in the key handler of the input field, which reports a rejected command, the host might delete
+/// the field while the handler runs.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
@@ -561,14 +565,14 @@ void USSDDlg::onChargeResponseReceived(const QString &text)
     updateBalanceAfterCharge();
 }
 
-/// Returns true until the user has closed the box of every reply.
+/// Returns true until the user has closed the message boxes of all replies.
 bool USSDDlg::isReplyBoxDue() const
 {
     return !m_listBoxReplies.isEmpty();
 }
 
-/// Opens the box of the next reply. A reply that arrives while a box is open waits until the user
-/// has closed that box.
+/// Opens the message box of the next reply. A reply that arrives while a message box is open is
+/// shown after the user has closed this message box.
 void USSDDlg::openReplyBox()
 {
     if (m_pReplyBox || !isReplyBoxDue())
@@ -619,9 +623,9 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
         returnFocus(component);
 }
 
-/// Moves the focus from a control that is about to be disabled to the box that will show the
-/// answer. Otherwise Qt would move it to the next control, which would then receive the keys that
-/// the user is still typing.
+/// Moves the focus from a control that is about to be disabled to the box that will show the reply.
+/// Otherwise, Qt would move the focus to the next control. This control would then receive the keys
+/// that the user is still typing.
 void USSDDlg::parkFocus(_COMPONENT component)
 {
     QWidget *focus = window()->focusWidget(); // available even while a message box is active
@@ -653,7 +657,7 @@ int USSDDlg::chargeReturnStyle() const
                     : -1;
 }
 
-/// Returns the box that shows the answers of the component, or null if it has none.
+/// Returns the box that shows the replies of the component, or null if the component has none.
 AccountReplyView *USSDDlg::statusBoxOf(int component) const
 {
     switch (component) {
@@ -668,7 +672,7 @@ AccountReplyView *USSDDlg::statusBoxOf(int component) const
     }
 }
 
-/// Returns the controls that are disabled while the component awaits an answer.
+/// Returns the controls that are disabled while the component waits for a reply.
 QList<QWidget *> USSDDlg::controlsOf(int component) const
 {
     QList<QWidget *> controls;

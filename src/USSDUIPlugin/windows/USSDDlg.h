@@ -7,13 +7,13 @@
 #include <QStringList>
 #include <QWidget>
 
-#include "ChargeRules.h"
 #include "INotifyService.h"
 #include "IUSSD.h"
 #include "PluginConfig.h"
 #include "PluginContract.h"
 #include "requests/USSDCommand.h"
 #include "requests/USSDLogic.h"
+#include "TopUpInputLimits.h"
 
 class QFrame;
 class QGridLayout;
@@ -24,13 +24,14 @@ class QPushButton;
 class AccountReplyView;
 
 /**
- * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page and
- * own number. The configuration decides which of these are shown, and where. The dialog also asks
- * the network whether the SIM is prepaid or postpaid. Must be used on the GUI thread.
+ * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page, and
+ * the subscriber's own number. The configuration determines which of these components are shown,
+ * and where. The window also sends the query for the prepaid/postpaid detection. All functions must
+ * be called from the GUI thread.
  *
- * The dialog becomes busy when its first command is accepted, and stays busy until it is closed,
- * even after an answer. A dialog that is not busy drops all answers except the answer to the
- * detection.
+ * The window becomes busy when its first command is accepted. It remains busy until it is closed,
+ * even after a reply. A window that is not busy drops all replies except the reply to the detection
+ * query.
  */
 class USSDDlg : public QWidget
 {
@@ -39,25 +40,26 @@ public:
     USSDDlg();
     ~USSDDlg() override;
 
-    /// Builds the dialog. Must be called only once.
+    /// Builds the window. Must be called only once.
     void InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model);
-    /// Returns the size that the texts in the current language need, or (-1, -1) before the dialog
-    /// is built.
+    /// Returns the size required by the strings of the current language, or (-1, -1) before the
+    /// window has been built.
     QSize GetSize();
-    /// Cancels the requests in progress, resets and shows the dialog, and requests the balance and
-    /// the own number if they are shown. Does nothing for types other than prepaid and postpaid.
+    /// Cancels the pending requests, and resets and shows the window. Requests the balance and the
+    /// subscriber's own number if they are shown. Does nothing for types other than prepaid and
+    /// postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the detection if `ask` is true; the notification service of the host receives the
-    /// outcome. The call copies `inUse`, `postpaid` and `result` to the record that the dialog
-    /// keeps. Before it returns, it sets the three arguments to the values of the record. Returns
-    /// 1, or 0 if there is no logic.
+    /// Starts the detection if `ask` is true. The result is sent to the host's notification
+    /// service. The function copies `inUse`, `postpaid` and `result` to the window's own record.
+    /// Before it returns, it sets the three arguments to the values of the record. Returns 1, or 0
+    /// if the logic object does not exist.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
-    /// Updates every visible text to the current language, except replies.
+    /// Updates every visible string to the current language, except replies.
     void SetLanguage();
     static QString tr(const QString &key);
 
 public slots:
-    /// Handles the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The object may have been deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -148,15 +150,15 @@ private:
     bool m_bReturnDown; // true from a press of Return until its release
     PrePostRecord m_prePostRecord;
     Formats::PrePostDiffer m_prePostDiffer;
-    Formats::ChargeRules m_chargeRules;
+    Formats::TopUpInputLimits m_chargeRules;
     QString m_strOnlineAddress;
     QPointer<USSDLogic> m_pLogic; // not owned
     QGridLayout *m_pGrid;
-    QList<QFrame *> m_listFreeLines;               // separators that are not in the grid yet
-    QList<QWidget *> m_listTabOrder;               // in the order of the layout
-    QHash<int, QPointer<QWidget>> m_hashParkFocus; // the control that had the focus, by component
-    QStringList m_listBoxReplies;                  // replies whose box has not been closed yet
-    QPointer<QMessageBox> m_pReplyBox;             // the open box; a child of the dialog
+    QList<QFrame *> m_listFreeLines; // separators that have not been placed in the grid yet
+    QList<QWidget *> m_listTabOrder; // in the order of the layout
+    QHash<int, QPointer<QWidget>> m_hashParkFocus; // previous focus, keyed by component
+    QStringList m_listBoxReplies;      // replies whose message box has not been closed yet
+    QPointer<QMessageBox> m_pReplyBox; // the open message box; a child of the window
 
     QLabel *m_pBalanceLabel;
     AccountReplyView *m_pBalanceStatusTextEdit;

@@ -19,7 +19,7 @@ const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
 
 } // namespace
 
-/// Notifies both addressees with a copy of the record. They receive the same values, even if the
+/// Notifies both addressees with a copy of the record. Both receive the same values, even if the
 /// host starts another detection or shuts down in response to the first notification.
 void USSDDlg::notifyHost()
 {

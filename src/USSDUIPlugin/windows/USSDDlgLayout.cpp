@@ -28,8 +28,8 @@ const int HORIZONTAL_SPACING = 6;
 const int LABEL_WIDTH = 80;
 const int FIELD_WIDTH = 230;
 const int ROW_HEIGHT = 20;
-const int MARGIN = 16;              // pixels around the whole grid
-const int GAP = 4;                  // pixels between widgets that belong together
+const int MARGIN = 16;              // pixels around the entire grid
+const int GAP = 4;                  // pixels between related widgets
 const int ABOVE_CLOSE = 12;         // pixels between the components and the close button
 const int ROWS_OF[] = {2, 3, 1, 1}; // number of rows of each component
 
@@ -38,7 +38,7 @@ const _COMPONENT COMPONENTS[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_
 
 } // namespace
 
-/// Replaces the grid with an empty one. The widgets of the old grid are kept.
+/// Replaces the grid with an empty grid. The widgets of the old grid are kept.
 void USSDDlg::createGrid()
 {
     delete m_pGrid;
@@ -55,10 +55,10 @@ QSize USSDDlg::GetSize()
 {
     if (!m_pGrid)
         return QSize(-1, -1);
-    // A style sheet may change the font, and with it the height of the boxes.
+    // A style sheet may change the font, and thus the height of the boxes.
     for (int i = 0; i < m_listTabOrder.count(); ++i)
         m_listTabOrder.at(i)->ensurePolished();
-    m_pGrid->activate(); // otherwise, nested boxes would ignore changes since the last event
+    m_pGrid->activate(); // without this call, nested boxes ignore changes since the last event
     return m_pGrid->sizeHint();
 }
 
@@ -71,7 +71,8 @@ void USSDDlg::findPosAndAddElements(int &row)
     }
     setUpGrid();
     hideComponents();
-    // The map sorts the components by position. If two have the same position, the later one wins.
+    // The map sorts the components by position. If two components have the same position, the later
+    // one is used.
     QMap<int, _COMPONENT> places;
     for (_COMPONENT component : COMPONENTS) {
         if (isShown(component))
@@ -81,7 +82,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     setRowHeights(places.values());
     bool isFirst = true;
     for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
-        // This line has no time, source or function, because readers of logs expect this form.
+        // This line has no time, source or function, because log parsers expect this form.
         USSD_IF_LOGGING(qDebug("position = %d component=%d", it.key(), it.value()));
         addComponentElements(it.value(), row, isFirst);
     }
@@ -112,7 +113,8 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
         m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
-/// Counts the rows of the component, and a row for a separator if another component is above it.
+/// Counts the rows of the component. Adds a row for a separator if there is another component above
+/// it.
 void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
@@ -196,8 +198,8 @@ void USSDDlg::addMSISDNElements(int &row)
     row += ROWS_OF[COMPONENT_MSISDN];
 }
 
-/// Adds a separator between two components. The own number has no separator, so the gap next to it
-/// uses the separator of its neighbour.
+/// Adds a separator between two components. The own-number component has no separator, so the gap
+/// next to it uses the separator of the adjacent component.
 void USSDDlg::addSeparator(int &row)
 {
     if (!m_listFreeLines.isEmpty())
@@ -214,7 +216,7 @@ void USSDDlg::addCloseButton(int row)
     buttons->addWidget(m_pCloseButton);
     m_pGrid->addLayout(buttons, row, LABEL_COLUMN, 1, COLUMNS, Qt::AlignBottom);
     m_pGrid->setRowStretch(row, 1);
-    // An embedded page has no separate window that could be closed.
+    // An embedded page does not have a separate window that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_listTabOrder << m_pCloseButton;
 }
@@ -226,8 +228,8 @@ void USSDDlg::place(QWidget *widget, int row, int column, int columns)
 }
 
 /// Places the widget in a layout box, below a gap, starting at the field column. Inside the box,
-/// even a widget with its own layout direction starts on the side on which the dialog's text
-/// begins.
+/// the widget is aligned to the side on which the window's text begins, even if the widget has a
+/// different layout direction.
 void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
 {
     QHBoxLayout *box = new QHBoxLayout;
@@ -270,7 +272,7 @@ void USSDDlg::initTabOrder()
         QWidget::setTabOrder(m_listTabOrder.at(i - 1), m_listTabOrder.at(i));
 }
 
-/// Returns the separator of a component, or null for the own number, which has none.
+/// Returns the separator of a component, or null for the own-number component, which has none.
 QFrame *USSDDlg::lineOf(_COMPONENT component) const
 {
     switch (component) {

@@ -29,7 +29,6 @@ namespace
 const int MODAL_WIDTH = 588;
 const int MODAL_HEIGHT = 465;
 const int MAX_COMBO_CODE = 40;
-const int MAX_PAYMENT_NUMBER = 20;
 
 QLineEdit *createCodeEdit(QWidget *parent)
 {
@@ -152,7 +151,7 @@ void USSDGeneralDlg::initWidgets()
     m_pClearButton->setVisible(m_clearBtnSetting.visible);
     if (m_clearBtnSetting.visible)
         enableClearHistoryBtn(false);
-    // An embedded page has no separate window that could be closed.
+    // An embedded page does not have a separate window that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_pEditButton->setVisible(m_cmdEditSetting.visible);
     initPreBtns();
@@ -200,7 +199,7 @@ void USSDGeneralDlg::initFixedSizes()
     m_pHistoryView->setCursorWidth(0);
 }
 
-/// Uses the labels above the fields as the fields' names for screen readers.
+/// Uses the labels above the fields as the fields' accessible names for screen readers.
 void USSDGeneralDlg::initAccessibility()
 {
     m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
@@ -251,7 +250,7 @@ void USSDGeneralDlg::SetLanguage()
     setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
     if (isShowPreBtns())
         updatePreBtnsText();
-    resetWidgetsWidth4DyncBtnArea(); // the new texts may be longer
+    resetWidgetsWidth4DyncBtnArea(); // the new strings may be longer
     initAccessibility();
 }
 
@@ -285,8 +284,8 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Accepts every key that reaches the dialog itself, so that Escape does not close the frame and
-/// Return does not press its default button.
+/// Accepts every key that reaches the window itself, so that Escape does not close the frame and
+/// Return does not press the frame's default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
     Q_UNUSED(event);
@@ -301,7 +300,7 @@ void USSDGeneralDlg::OnClickedCloseButton()
 {
     if (m_windowModel == WINDOW_MODEL_MODAL)
         m_bWaiting = false;
-    emit clickedcloseButton(); // the receiver may delete the dialog
+    emit clickedcloseButton(); // the receiver may delete the window
 }
 
 // ---- entry ---------------------------------------------------------------------------------
@@ -355,34 +354,6 @@ void USSDGeneralDlg::setCommandDesByValue(const QString &value)
             return;
         }
     }
-}
-
-bool USSDGeneralDlg::IsLimitValid(const QString &text)
-{
-    if (text.startsWith(QLatin1Char(';')))
-        return false;
-    for (int i = 0; i < text.length(); ++i) {
-        if (!m_strAllowedPayment.contains(text.at(i)))
-            return false;
-    }
-    return true;
-}
-
-void USSDGeneralDlg::OnPaymentEdit()
-{
-    if (!m_pPaymentEdit)
-        return;
-    int cursor = m_pPaymentEdit->cursorPosition();
-    const QString text = m_pPaymentEdit->text();
-    if (IsLimitValid(text)) {
-        m_strLastValidPayment = text;
-    } else {
-        m_pPaymentEdit->setText(m_strLastValidPayment);
-        --cursor;
-    }
-    m_pPaymentEdit->setMaxLength(MAX_PAYMENT_NUMBER); // moves the cursor to the end
-    m_pPaymentEdit->setCursorPosition(cursor);
-    changePayBtnsStatus(!m_pPaymentEdit->text().isEmpty());
 }
 
 // ---- sending and answers -------------------------------------------------------------------
@@ -441,8 +412,9 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     return false;
 }
 
-/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise Qt
-/// would move it to Clear, which would then receive the keys that the user is still typing.
+/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise, Qt
+/// would move the focus to Clear. This button would then receive the keys that the user is still
+/// typing.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -450,8 +422,8 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
-/// Returns true if the user works in a widget of the host. An answer must not take the focus from
-/// it.
+/// Returns true if the focus is in a widget of the host. A reply must not take the focus from this
+/// widget.
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -537,7 +509,7 @@ void USSDGeneralDlg::clearHistory()
         return;
     }
     if (m_clearBtnSetting.showConfirmDialog) {
-        const QPointer<USSDGeneralDlg> self(this); // the host may shut down meanwhile
+        const QPointer<USSDGeneralDlg> self(this); // the host may shut down in the meantime
         const int answer =
             PluginMessage::show(QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
                                 tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),

@@ -20,12 +20,13 @@ class QVBoxLayout;
 class TranscriptView;
 
 /**
- * The general window. It sends a command that the user types or selects with a preset button, and
- * shows the sent and received texts in a coloured transcript. Must be used on the GUI thread.
+ * The general window. It sends a command that the user types or selects with a preset button. A
+ * coloured transcript shows the sent and received messages. All functions must be called from the
+ * GUI thread.
  *
- * While the window is idle, Send is enabled if the entry field contains text. While an answer is
- * awaited, every control that sends is disabled. The first answer for this window's component ends
- * the wait; a later answer is dropped.
+ * While the window is idle, Send is enabled if the input field contains text. While the window
+ * waits for a reply, every control that sends a command is disabled. The first reply for this
+ * window's component ends the wait. A later reply is dropped.
  */
 class USSDGeneralDlg : public QWidget
 {
@@ -34,13 +35,13 @@ public:
     USSDGeneralDlg();
     ~USSDGeneralDlg() override;
 
-    /// Builds the dialog. Must be called only once.
+    /// Builds the window. Must be called only once.
     void InitDialog(QWidget *parent, WINDOW_MODEL model);
-    /// Updates every visible text to the current language, except the lines of the transcript.
+    /// Updates every visible string to the current language, except the lines of the transcript.
     void SetLanguage();
-    /// Prepares the dialog for input when it is shown again.
+    /// Prepares the window for input when it is shown again.
     void ReInitDialog();
-    /// Returns the size hint of the layout, or (-1, -1) before there is a layout.
+    /// Returns the size hint of the layout, or (-1, -1) before the layout exists.
     QSize GetSize();
     virtual void resize(const QSize &size);
     void setProfileFocus();
@@ -57,7 +58,7 @@ public:
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// Handles the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The object may have been deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -98,8 +99,8 @@ private:
     void initTabOrder();
 
     void changeSendButtonStatus();
-    /// Sends a command. If the command is refused, shows the refusal as the answer. Returns true if
-    /// an answer is awaited.
+    /// Sends a command. If the command is rejected, shows the failure as the reply. Returns true if
+    /// a reply is expected.
     bool sendCommand(const QString &command);
     void parkFocus();
     bool isFocusElsewhere() const;

@@ -14,6 +14,7 @@
 #include "base/PluginLog.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
+#include "ForwardXml.h"
 #include "InputFile.h"
 #include "PluginFiles.h"
 #include "requests/USSDLogic.h"
@@ -33,7 +34,7 @@ const int NO_ENTRY = -1;
 /** The positions of the fixed widgets in m_listWidgets, and of their controls in a group. */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
-/// The keys of the plug-in's own texts that the result label may show.
+/// The text keys of the plug-in's own messages that the result label may show.
 const char *const RESULT_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
                                    "IDS_SMS_SEND_FAILED"};
 
@@ -47,7 +48,7 @@ QString textOf(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Returns the key of `text`, or an empty key if the text comes from the network.
+/// Returns the text key of the message `text`, or an empty key if the network sent the message.
 QString resultKeyOf(const QString &text)
 {
     for (const char *key : RESULT_KEYS) {
@@ -57,7 +58,7 @@ QString resultKeyOf(const QString &text)
     return QString();
 }
 
-/// Returns the path of the file with the layout. Returns an empty string if the host has no folder
+/// Returns the path of the layout file. Returns an empty string if the host does not have a folder
 /// for its plug-ins.
 QString layoutPath()
 {
@@ -67,7 +68,7 @@ QString layoutPath()
     return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
-/// Logs that there is no path. This is the only line that has words before the time.
+/// Logs that there is no path. This is the only line in which text precedes the time.
 void logNoPath(const char *function, const QString &path)
 {
     USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,
@@ -122,7 +123,7 @@ void CUSSDSMSDlg::forgetLayout()
         disconnect(m_pLogic, nullptr, this, nullptr);
     m_pLogic = nullptr;
     if (m_bBusy)
-        endSending(); // nothing will report the outcome any more
+        endSending(); // the outcome will not be reported any more
     forgetService();
     m_nSelected = NO_ENTRY;
     m_layout.clear();
@@ -139,7 +140,8 @@ void CUSSDSMSDlg::readLayoutFile(const QString &path)
                     ": return fail for the file can't be open as readonly and text mode.");
         return;
     }
-    QXmlStreamReader reader(&file);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, file);
     const bool whole = ReadFile(reader);
     file.close();
     logComplaints();
@@ -155,9 +157,9 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the dialog to the logic. If the file was not read completely, the dialog is
-/// intentionally not connected. It then receives no answers and sends no commands, only short
-/// messages.
+/// Connects the window to the logic. If the file was not read completely, the window is
+/// intentionally not connected. It then does not receive replies and can send only short messages,
+/// but not commands.
 void CUSSDSMSDlg::connectLogic()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
@@ -233,7 +235,7 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // the direction of codes and numbers
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are left-to-right
     m_pValidator = new QRegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
@@ -273,7 +275,7 @@ int CUSSDSMSDlg::windowWidth() const
     return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
-/// Ignores Return. Otherwise Return in the tree would reach the frame and press its default button,
+/// Ignores Return. Otherwise, pressing Return in the tree would press the frame's default button,
 /// which sends a command.
 void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
 {
@@ -287,8 +289,8 @@ void CUSSDSMSDlg::OnClickedCloseButton()
     if (m_pLogic)
         m_pLogic->ClearUSSDSMSQueuedCmds();
     if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
-        endSending();          // the answer was dropped with the queue
-    emit clickedcloseButton(); // the receiver may delete the dialog
+        endSending();          // the reply was dropped with the queue
+    emit clickedcloseButton(); // the receiver may delete the window
 }
 
 // ---- tree ----------------------------------------------------------------------------------
@@ -337,7 +339,7 @@ void CUSSDSMSDlg::translateTree()
             continue;
         row->setText(0, tr(entries.at(i)->textId));
     }
-    // sizeHintForColumn() is public only in the base class. The section becomes as wide as the
+    // sizeHintForColumn() is public only in the base class. The column is made as wide as the
     // longest text, so that the user can scroll to the end of this text.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
@@ -352,7 +354,7 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (m_nSelected == NO_ENTRY)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
-    // The current row is not selected again, because this would clear the input.
+    // Do not select the current row again, because this would clear the input.
     if (entry && entry->treeWidgetItem && m_pTree->currentItem() != entry->treeWidgetItem)
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
@@ -378,8 +380,8 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
     if (!entry)
         return;
     m_nSelected = entry->number;
-    // If the entry has no group that can be shown, the controls of the previous service stay
-    // usable.
+    // If the entry does not have a group that can be shown, the controls of the previous service
+    // remain usable.
     if (const CWidget *group = m_layout.groups.value(m_nSelected))
         SetWidgetGeometry(group->controls, isMirrored());
 }
@@ -518,9 +520,9 @@ bool CUSSDSMSDlg::lacksReadiness() const
     return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
 }
 
-/// Enables or disables the button when the device starts or stops accepting short messages. Here,
-/// the text must be longer than the minimum, while OnTextChanged() also accepts the minimum itself.
-/// The difference is intended.
+/// Enables or disables the button when the device becomes able or unable to send short messages.
+/// Here, the input must be longer than the minimum, whereas OnTextChanged() also accepts the
+/// minimum itself. This difference is intended.
 void CUSSDSMSDlg::OnCanSendSMS(bool can)
 {
     if (m_command.kind == CONTROL_KIND_USSD)
@@ -546,7 +548,7 @@ void CUSSDSMSDlg::OnClickedUSSDSMSButton()
 }
 
 /// Replaces the placeholder in the stored command. Therefore, the button sends the first input each
-/// time, until a service is selected again.
+/// time until a service is selected again.
 void CUSSDSMSDlg::fillPlaceholder()
 {
     if (!m_command.inputField)
@@ -577,7 +579,8 @@ void CUSSDSMSDlg::startSending()
         SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
 }
 
-/// Sends the short message. This works without the logic, but the outcome is then not reported.
+/// Sends the short message. This works even without the logic object, but then the outcome is not
+/// reported.
 void CUSSDSMSDlg::startSms()
 {
     showResult(textOf("USSD_CODE_WAITTING"));
@@ -652,8 +655,8 @@ void CUSSDSMSDlg::endSending()
     returnFocus();
 }
 
-/// Moves the focus to the dialog, because the widget that has the focus is about to be disabled.
-/// Otherwise Qt would move it to the next widget in the window, which would then receive the keys
+/// Moves the focus to the window, because the widget that has the focus is about to be disabled.
+/// Otherwise, Qt would move the focus to the next widget. This widget would then receive the keys
 /// that the user is still typing.
 void CUSSDSMSDlg::parkFocus()
 {
@@ -664,8 +667,8 @@ void CUSSDSMSDlg::parkFocus()
     m_bFocusParked = true;
 }
 
-/// Moves the focus to the tree and not back to the button. Otherwise a key that is held down would
-/// send the command, and buy the service, again and again.
+/// Moves the focus to the tree and not back to the button. Otherwise, holding a key would send the
+/// command, and thus buy the service, again and again.
 void CUSSDSMSDlg::returnFocus()
 {
     if (m_bFocusParked && m_pTree && window()->focusWidget() == this)

@@ -22,20 +22,21 @@ struct CCommandWidget {
     QString number;    // recipient of the short message
     int minLength = 0; // minimum number of characters in the input
     int limit = 0;     // maximum number of characters in the input
-    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind, which selects how it is sent
-    QPushButton *sendButton = nullptr;     // like the next two, null if the service has none
+    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind: how to send the command
+    // Each of the following pointers is null if the service does not have the widget.
+    QPushButton *sendButton = nullptr;
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
 
 /**
  * The window of the operator's services. A tree lists the services. The controls of the selected
- * service appear next to the tree, and its button sends a USSD command or a short message. Must be
- * used on the GUI thread.
+ * service are shown next to the tree, and its button sends a USSD command or a short message. All
+ * functions must be called from the GUI thread.
  *
- * The tree and the controls are laid out as in the configuration file, which the constructor reads.
- * The dialog is busy from a click that sends until the outcome arrives. Meanwhile, the tree, the
- * button and the field are disabled.
+ * The tree and the controls are placed as specified in the configuration file, which the
+ * constructor reads. The window is busy from a click that sends a command or short message until
+ * the outcome arrives. While it is busy, the tree, the button and the field are disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {
@@ -44,31 +45,31 @@ public:
     CUSSDSMSDlg();
     ~CUSSDSMSDlg() override;
 
-    /// Builds the dialog. Must be called only once.
+    /// Builds the window. Must be called only once.
     void InitDialog();
-    /// Reads the layout again, and connects to the logic if the layout was read completely. The
+    /// Reads the layout again, and connects to the logic if the complete layout was read. The
     /// constructor calls this function.
     void InitConfig();
     /// Reads the layout. Returns false if the reader has no device or the document is not
-    /// well-formed. The elements before the fault are kept.
+    /// well-formed. The elements before the error are kept.
     bool ReadFile(QXmlStreamReader &reader);
-    /// Reads one "Dialog" element. The reader is at its start element.
+    /// Reads one "Dialog" element. The reader must be at its start element.
     void ReadWidgetInfo(QXmlStreamReader &reader);
     /// Replaces the rows of the tree. SetLanguage() sets their texts.
     void InitTree();
-    /// Places the tree and selects the current service in it.
+    /// Places the tree and selects the current service in the tree.
     void SetTreeGeometry();
-    /// Shows the service that these controls describe, and keeps a copy of them. Returns false and
-    /// changes nothing if the number of controls differs from the number of fixed widgets.
+    /// Shows the service that these controls describe, and stores a copy of them. If the number of
+    /// controls differs from the number of fixed widgets, returns false and has no effect.
     bool SetWidgetGeometry(QList<Formats::CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
-    /// Sends a short message. Returns 0 if the device accepted the message; OnSendResult() receives
+    /// Sends a short message. Returns 0 if the device accepted the message. OnSendResult() receives
     /// the outcome.
     int SendSMS(QString *number, QString *text);
-    /// Updates every visible text and the layout direction to the current language. The user's
-    /// input and the network's replies stay unchanged.
+    /// Updates every visible string and the layout direction to the current language. The user's
+    /// input and the network's replies remain unchanged.
     void SetLanguage();
-    /// Returns the size that the file specifies, even if no window can have this size.
+    /// Returns the size specified in the file, even if a window cannot have this size.
     QSize GetSize();
 
     QSize sizeHint() const override;
@@ -83,7 +84,7 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Handles the closing of the outer window. The dialog may be deleted when this function
+    /// Handles the closing of the outer window. The object may have been deleted when this function
     /// returns.
     void OnClickedCloseButton();
 
@@ -137,15 +138,15 @@ private:
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
     QRegExpValidator *m_pValidator;
-    QList<QWidget *> m_listWidgets; // the labels, field and button in the order of Position
-    // Copies of the controls in m_listWidgets, because the group may be replaced meanwhile.
+    QList<QWidget *> m_listWidgets; // the labels, the field and the button in the order of Position
+    // Copies of the controls in m_listWidgets, because the group may be replaced in the meantime.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;
     int m_nSelected; // number of the selected entry; -1 if there is none
     CCommandWidget m_command;
-    QString m_strResultKey;       // key of the text in the result label; empty if there is none
-    QPointer<USSDLogic> m_pLogic; // not owned; null while the dialog is not connected to it
+    QString m_strResultKey; // text key of the message in the result label; empty if there is none
+    QPointer<USSDLogic> m_pLogic; // not owned; null while the window is not connected to the logic
 };
 
 #endif

@@ -6,9 +6,9 @@
 #include "base/PluginMessage.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
+#include "FrameLook.h"
 #include "PluginContract.h"
 #include "requests/USSDLogic.h"
-#include "SmsLayout.h"
 
 using namespace Formats;
 
@@ -19,34 +19,11 @@ namespace
 
 const int GENERAL_FRAME_WIDTH = 588;
 const int GENERAL_FRAME_HEIGHT = 465;
-const int MAX_FRAME_SIDE = SmsLayoutFile::MAX_WINDOW_SIDE;
 const int PLAIN_FRAME = 1;
 
 Qt::WindowFlags frameFlags()
 {
     return Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint;
-}
-
-const char *paidTitleKey(PAID_TYPE type)
-{
-    return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
-}
-
-/// Sets the fixed size of the frame to the size of the dialog, plus 20 pixels of height. The size
-/// is limited, because a size from a file could be negative or need more memory than there is.
-template <typename Dialog>
-void fixFrameSize(QWidget *frame, Dialog *dialog)
-{
-    const QSize most(MAX_FRAME_SIDE, MAX_FRAME_SIDE);
-    const QSize size = dialog->GetSize().expandedTo(QSize(0, 0)).boundedTo(most);
-    frame->setFixedSize(size.width(), size.height() + 20);
-}
-
-template <typename Dialog>
-void setLanguageIfExists(const QPointer<Dialog> &dialog)
-{
-    if (dialog)
-        dialog->SetLanguage();
 }
 
 template <typename Dialog>
@@ -91,7 +68,7 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // This line has the time after the source and the function, because readers of logs expect this
+    // In this line, the time is after the source and the function, because log parsers expect this
     // form.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
@@ -102,7 +79,7 @@ QString CUSSDService::tr(const QString &key)
     return pluginText(key);
 }
 
-// ---- questions to the logic ------------------------------------------------------------------
+// ---- queries to the logic --------------------------------------------------------------------
 
 int CUSSDService::GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask)
 {
@@ -147,36 +124,14 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down when one of them closes, so this object may no longer
-/// exist after each closing.
+/// Closes the frames. The host may shut down when one of the frames is closed. Therefore, this
+/// object may not exist any more after a frame was closed.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
                                                  m_pGeneralFrame};
     for (const QPointer<USSDExtendDialog> &frame : frames)
         closeIfExists(frame);
-}
-
-void CUSSDService::changeLanguage()
-{
-    setLanguageIfExists(m_pPrepaidDlg);
-    setLanguageIfExists(m_pPostpaidDlg);
-    setLanguageIfExists(m_pGeneralModalDlg);
-    setLanguageIfExists(m_pGeneralEmbeddedDlg);
-    setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames receive new titles and the size that the new texts need.
-    if (m_pPrepaidFrame && m_pPrepaidDlg) {
-        m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
-        fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());
-    }
-    if (m_pPostpaidFrame && m_pPostpaidDlg) {
-        m_pPostpaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_POSTPAID))));
-        fixFrameSize(m_pPostpaidFrame, m_pPostpaidDlg.data());
-    }
-    if (m_pGeneralFrame)
-        m_pGeneralFrame->setWindowTitle(tr(QLatin1String("IDS_ADVANCE_USSD")));
-    if (m_pUSSDSMSFrame)
-        m_pUSSDSMSFrame->setWindowTitle(tr(QLatin1String("IDS_WINDOW_TITLE_SMSUSSD")));
 }
 
 // ---- creating --------------------------------------------------------------------------------
@@ -231,7 +186,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// Creates a frame for the prepaid, the postpaid or the USSD-SMS dialog.
+/// Creates a frame for the prepaid, the postpaid or the USSD-SMS window.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))
@@ -277,7 +232,7 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// Replaces the connection that was made when the dialog was shown earlier, so that no signal is
+/// Replaces a connection that was made when the window was shown earlier, so that no signal is
 /// handled twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
@@ -432,7 +387,7 @@ void CUSSDService::OnClickedCloseButton()
 
 /// Deletes the frame later, because this function may run in the close event of the frame. The
 /// service keeps a list of such frames, because a host that shuts down immediately may unload the
-/// library before the frames are deleted.
+/// library before the frames have been deleted.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
     m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes null pointers

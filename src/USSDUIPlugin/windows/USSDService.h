@@ -13,21 +13,23 @@
 #include "USSDSMSDlg.h"
 
 /**
- * The service that the host receives. It creates each window when it is first used, shows it either
- * embedded in a widget of the host or modal in a separate frame, and destroys all windows. Must be
- * used on the GUI thread.
+ * The service that the host receives. It creates each window on first use, shows it embedded in a
+ * widget of the host or as a modal window in a separate frame, and destroys all windows. All
+ * functions must be called from the GUI thread.
  *
- * The service owns all dialogs and frames. A pointer becomes null if the host deletes the widget
- * that contains the dialog or the frame.
+ * The service owns all windows and frames. A pointer becomes null if the host deletes the widget
+ * that contains the window or the frame.
  */
 class CUSSDService : public QObject, public IUSSD
 {
     Q_OBJECT
     Q_INTERFACES(IUSSD)
 public:
-    /// Returns the singleton, which the first call creates. Returns null if it cannot be created.
+    /// Returns the singleton, which is created by the first call. Returns null if it cannot be
+    /// created.
     static CUSSDService *instance();
-    /// Destroys all windows, the logic and the singleton. Does nothing if there is no singleton.
+    /// Destroys all windows, the logic and the singleton. Does nothing if the singleton does not
+    /// exist.
     static void Destroy();
     ~CUSSDService() override;
 
@@ -41,24 +43,24 @@ public:
     /// returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
-    /// Shows a modal window and returns at once; the frame of the window blocks its parent. Returns
-    /// 1 if the window was shown, otherwise 0.
+    /// Shows a modal window, whose frame blocks its parent. Returns immediately. Returns 1 if the
+    /// window was shown, otherwise 0.
     int doModal(PAID_TYPE type);
     void Hide();
     void FitSize(QRect &rect);
     int Notify(unsigned int event, unsigned int param1, unsigned int param2);
     void unSDKRegisterEvent();
-    /// Deletes the dialogs, the frames and the logic.
+    /// Deletes the windows, the frames and the logic.
     void destroyUSSD();
 
     static QString tr(const QString &key);
 
 public slots:
-    /// Deletes the modal dialogs and their frames once a dialog has finished.
+    /// Deletes the modal windows and their frames after a window has been closed.
     void OnClickedCloseButton();
-    /// Handles the closing of a dialog's frame by finishing the dialog.
+    /// Handles the closing of a window's frame by closing the window itself.
     void OnDlgCloseEvent();
-    /// Closes the frame when the dialog requests it, or when the frame has been rejected.
+    /// Closes the frame when the window requests this, or when the frame has been rejected.
     void OnCloseButtonClicked();
 
 private:
@@ -83,8 +85,8 @@ private:
     void dropFrame(QPointer<USSDExtendDialog> &frame);
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 
-    PAID_TYPE m_modalPaidType; // type of the last doModal()
-    PAID_TYPE m_shownPaidType; // type of the last showWindow() or DoModal()
+    PAID_TYPE m_modalPaidType; // the type of the last doModal() call
+    PAID_TYPE m_shownPaidType; // the type of the last showWindow() or DoModal() call
     QPointer<USSDDlg> m_pPrepaidDlg;
     QPointer<USSDDlg> m_pPostpaidDlg;
     QPointer<USSDGeneralDlg> m_pGeneralModalDlg;

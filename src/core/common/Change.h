@@ -4,19 +4,21 @@
 #include <QString>
 
 /**
- * Looks up texts in the user's language.
+ * Looks up strings in the user's language.
  *
- * The texts are stored in compiled Qt Linguist files whose source texts are keys. The host selects
- * the language and raises PluginContract::EVENT_LANGUAGE_CHANGED when the language has changed.
+ * The strings are stored in compiled Qt Linguist files whose source texts are the text keys. The
+ * host selects the language. When the language has changed, the host sends
+ * PluginContract::EVENT_LANGUAGE_CHANGED.
  */
 class Q_DECL_EXPORT Change
 {
 public:
-    /// Returns the text for `key` in the current language. `context` is the name of the plug-in
-    /// that the key belongs to, such as "USSDUIPlugin".
+    /// Returns the string for `key` in the current language. `context` is the name of the plug-in
+    /// to which the key belongs, such as "USSDUIPlugin".
     ///
-    /// If the language has no such text, returns the English text, or the key itself if English has
-    /// none either. Returns an empty text for an empty key. May be called on any thread.
+    /// If the language has no string for the key, returns the English string. If there is no
+    /// English string either, returns the key itself. Returns an empty string if the key is empty.
+    /// May be called from any thread.
     static QString tr(const QString &context, const QString &key);
 };
 

@@ -10,41 +10,43 @@
 class QWidget;
 
 /**
- * Services of the host for its plug-ins. The functions must be called on the GUI thread, unless
- * their comments allow any thread.
+ * Services that the host provides to its plug-ins. The functions must be called from the GUI
+ * thread, unless their comments allow any thread.
  */
 class Q_DECL_EXPORT CommonUtils
 {
 public:
-    /// Returns the host's main window, which is the parent of frames. Returns null if there is
-    /// none. The host owns the window.
+    /// Returns the host's main window, which is the parent of frames. Returns null if there is no
+    /// main window. The host owns the window.
     static QWidget *GetMainWindow();
-    /// Centres `widget`, a top-level window, over the main window, or on the screen if the main
-    /// window is null, hidden or minimized. Keeps `widget` inside the available area of the screen.
-    /// Does nothing if `widget` is null.
+    /// Centres `widget`, a top-level window, over the main window. If the main window is null,
+    /// hidden or minimized, centres `widget` on the screen. Keeps `widget` inside the available
+    /// area of the screen. Does nothing if `widget` is null.
     static void MoveCentre(QWidget *widget);
-    /// Returns whether the host runs in its small mode, in which windows have no frames.
+    /// Returns true if the host runs in its small mode, in which windows have no frames.
     static bool IsMiniMode();
-    /// Returns whether the host is shutting down. A call-back of the device SDK checks this,
-    /// because it may still run at that time. May be called on any thread.
+    /// Returns true if the host is shutting down. Call-backs of the device SDK check this, because
+    /// they may still run during the shutdown. May be called from any thread.
     static bool IsShuttingDown();
     /// Returns the absolute path of the folder that contains "plugins/USSDUIPlugin/". The path does
-    /// not end in a separator. May be called on any thread.
+    /// not end with a separator. May be called from any thread.
     static QString GetPluginLibraryPath();
 
-    /// Shows `text` as plain text in a message box and waits for the user's choice, while events
-    /// are processed. The button keys are translated in the context "USSDUIPlugin". If the second
-    /// key is empty, the box has one button.
+    /// Shows `text` as plain text in a message box and waits for the user's choice. Events are
+    /// processed in the meantime. The button keys are translated in the context "USSDUIPlugin". If
+    /// the second key is empty, the message box has only one button.
     ///
-    /// Returns QMessageBox::Ok for the first button. Returns QMessageBox::Cancel for the second
-    /// button, for Escape, for the window's close button, and if `parent` is deleted meanwhile.
+    /// Returns QMessageBox::Ok if the user presses the first button. Returns QMessageBox::Cancel if
+    /// the user presses the second button or Escape or closes the window, or if `parent` is
+    /// deleted.
     static int ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QString &caption,
                            const QString &text, const QString &firstButtonKey,
                            const QString &secondButtonKey = QString());
 
-    /// Elides the text of `widget` to `maxWidth` pixels and sets the whole text as its tool tip, if
-    /// the text is at least that wide. Otherwise clears the tool tip. `T` must have fontMetrics(),
-    /// text(), setText() and setToolTip(). The template is compiled into the plug-in.
+    /// If the text of `widget` is at least `maxWidth` pixels wide, elides it to this width and sets
+    /// the full text as the tool tip. Otherwise, clears the tool tip. `T` must provide
+    /// fontMetrics(), text(), setText() and setToolTip(). The template is compiled into the
+    /// plug-in.
     template <typename T>
     static void setElidedTextForWidgetText(T *widget, int maxWidth, Qt::TextElideMode mode)
     {

@@ -10,18 +10,18 @@
 class QObject;
 
 /**
- * The functions that every plug-in has, whatever its purpose.
+ * The functions that every plug-in has, regardless of its purpose.
  *
  * The order of the base classes and of the functions is part of the binary interface. The host
- * calls all of them on its GUI thread.
+ * calls all functions from its GUI thread.
  */
 class IBasePlugin : public IBaseInterface, public IDestroyEvent
 {
 public:
     ~IBasePlugin() override {}
 
-    /// Prepares the plug-in. The host calls this function first after it has loaded the plug-in.
-    /// Returns false if the plug-in cannot be used.
+    /// Prepares the plug-in. This is the first function that the host calls after it has loaded the
+    /// plug-in. Returns false if the plug-in cannot be used.
     virtual bool Init() = 0;
     /// Returns the kind of plug-in as a number that the host defines. Returns 0 if the plug-in has
     /// no such number.
@@ -32,11 +32,11 @@ public:
     virtual int GetVersion() = 0;
     /// Returns the name of the plug-in's class. The name is not intended for display.
     virtual QString GetPluginName() = 0;
-    /// Returns whether the host may unload the library while the program is running.
+    /// Returns true if the host may unload the library while the program is running.
     virtual bool IsAllowRelease() = 0;
     /// Stores the service with the identifier `id` in `*out` and returns true. The plug-in owns the
-    /// service, which is valid until OnDestroy(). Returns false and leaves `*out` unchanged if
-    /// there is no such service. `out` may be null.
+    /// service, which is valid until OnDestroy(). If there is no such service, returns false and
+    /// leaves `*out` unchanged. `out` may be null.
     virtual bool QueryInterface(int id, QObject **out) = 0;
 };
 

@@ -4,18 +4,18 @@
 /**
  * The functions that the host calls to shut down a plug-in.
  *
- * The order of the functions is part of the binary interface. The host calls them on its GUI
- * thread. It may call them at any time, in any order, more than once or not at all.
+ * The order of the functions is part of the binary interface. The host calls them from its GUI
+ * thread. The host may call them at any time, in any order, more than once or not at all.
  */
 class IDestroyEvent
 {
 public:
     virtual ~IDestroyEvent() {}
 
-    /// Deletes the plug-in's windows and services. The plug-in object itself stays usable.
+    /// Deletes the plug-in's windows and services. The plug-in object itself remains usable.
     virtual void OnDestroy() = 0;
     /// Unregisters the plug-in's call-backs from the device SDK. When the function has returned, no
-    /// call-back is running and none will start. The host may unload the library only after this
+    /// call-back is running and none will start. The host must not unload the library before this
     /// call.
     virtual void UnSDKRegisterEvent() = 0;
 };

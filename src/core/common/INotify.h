@@ -4,8 +4,8 @@
 #include <QtPlugin>
 
 /**
- * Receives the host's events. A plug-in object implements this interface in addition to its other
- * interfaces. The host finds it with qobject_cast and calls it on the GUI thread.
+ * Receives events from the host. A plug-in object implements this interface in addition to its
+ * other interfaces. The host finds it with qobject_cast and calls it from the GUI thread.
  */
 class INotify
 {
@@ -13,9 +13,9 @@ public:
     /// Allows the host to delete a plug-in object through this interface.
     virtual ~INotify() {}
 
-    /// Handles `event`, which is one of the EVENT_ constants of PluginContract. Ignores an unknown
-    /// event. The meaning of the two parameters depends on the event. Always returns 0, so the host
-    /// cannot find out from the result whether the event was known.
+    /// Handles `event`, which is one of the EVENT_ constants of PluginContract. Unknown events are
+    /// ignored. The meaning of the two parameters depends on the event. Always returns 0, so the
+    /// host cannot tell from the result whether the event is known.
     virtual int Notify(unsigned int event, unsigned int param1, unsigned int param2) = 0;
 };
 

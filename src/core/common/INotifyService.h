@@ -4,14 +4,14 @@
 #include <QString>
 #include <QtPlugin>
 
-/// A parameter of a message: a number or an address. An address is valid during the call only.
+/// A message parameter: a number or an address. An address is valid only during the call.
 typedef quintptr NotifyParam;
 
 /**
- * The host's notification service. A plug-in uses it to send messages to other parts of the host.
+ * The host's notification service. Plug-ins use it to send messages to other parts of the host.
  *
- * The host implements it in an object that IPluginContainer::GetPlugin() returns. The plug-in finds
- * it with qobject_cast and calls it on the GUI thread.
+ * The host implements this interface in an object that IPluginContainer::GetPlugin() returns. The
+ * plug-in finds the interface with qobject_cast and calls it from the GUI thread.
  */
 class INotifyService
 {
@@ -20,7 +20,7 @@ public:
 
     /// Delivers `message`, such as PluginContract::MESSAGE_PRE_POST_INFO, to `addressee` before it
     /// returns. The meaning of the two parameters depends on the message. Returns 0 if the
-    /// addressee exists, otherwise any other number.
+    /// addressee exists, otherwise a number other than 0.
     virtual int Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                        NotifyParam lParam) = 0;
 };

@@ -6,19 +6,19 @@
 class QObject;
 
 /**
- * The plug-ins that the host has loaded. The host implements and owns the container;
- * Startup::GetPluginContainer() returns it. Must be called on the GUI thread.
+ * The plug-ins that the host has loaded. The host implements and owns the container, which
+ * Startup::GetPluginContainer() returns. The container must be used only on the GUI thread.
  */
 class IPluginContainer
 {
 public:
     virtual ~IPluginContainer() {}
 
-    /// Returns the plug-in with the identifier `clsid`, or null if it is not loaded. The comparison
-    /// of identifiers is case-sensitive.
+    /// Returns the plug-in with the identifier `clsid`, or null if it is not loaded. Identifiers
+    /// are case-sensitive.
     ///
-    /// The container owns the object. A caller that keeps the pointer while it calls the host must
-    /// use a QPointer, because the host may unload plug-ins meanwhile.
+    /// The container owns the plug-in object. A caller that keeps the pointer while it calls the
+    /// host must use a QPointer, because the host may unload the plug-in during the call.
     virtual QObject *GetPlugin(const QString &clsid) = 0;
 };
 

@@ -9,31 +9,31 @@
 class QWidget;
 
 /**
- * A plug-in with windows. Its page is the window that the host can embed.
+ * A plug-in with windows. The page of the plug-in is the window that the host can embed.
  *
- * The order of the functions is part of the binary interface. The host calls all of them on its GUI
- * thread.
+ * The order of the functions is part of the binary interface. The host calls all functions from its
+ * GUI thread.
  */
 class IUIPlugin : public IBasePlugin
 {
 public:
     ~IUIPlugin() override {}
 
-    /// Shows the page as a child of `parent`, a widget of the host. `rect` is the position and size
-    /// of the page in pixels, in the coordinates of `parent`. Always returns 0.
+    /// Shows the page as a child of `parent`, a widget of the host. `rect` specifies the position
+    /// and size of the page in pixels, in the coordinates of `parent`. Always returns 0.
     virtual int ShowWindow(QWidget *parent, QRect &rect) = 0;
-    /// Shows the page in a separate frame that blocks the frame's parent, and returns without
-    /// waiting for the user. Returns 1 if the frame was shown, otherwise 0.
+    /// Shows the page in a separate frame that blocks the frame's parent. Returns without waiting
+    /// for the user. Returns 1 if the frame was shown, otherwise 0.
     virtual int DoModal() = 0;
-    /// Hides the page that ShowWindow() showed.
+    /// Hides the page that ShowWindow() has shown.
     virtual void Hide() = 0;
-    /// Moves and resizes the page that ShowWindow() showed. `rect` has the same meaning as in
+    /// Moves and resizes the page that ShowWindow() has shown. `rect` has the same meaning as in
     /// ShowWindow().
     virtual void FitSize(QRect &rect) = 0;
-    /// Returns whether the host should offer the page when it starts.
+    /// Returns true if the host should offer the page when the host starts.
     virtual bool IsReady() = 0;
-    /// Returns whether the plug-in accepts the language `lang`, an ISO 639-1 code. Changes nothing,
-    /// because the plug-in updates its texts when it receives
+    /// Returns true if the plug-in supports the language `lang`, an ISO 639-1 code. Does not change
+    /// the language, because the plug-in updates its strings when it receives
     /// PluginContract::EVENT_LANGUAGE_CHANGED.
     virtual bool ChangeLang(const QString &lang) = 0;
 };

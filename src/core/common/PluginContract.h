@@ -5,7 +5,7 @@
 
 /**
  * The constants and the record that a host and the plug-in exchange. They are part of the binary
- * interface, so a host that is compiled today works with a plug-in that is compiled years later.
+ * interface, so that a host that is built today works with a plug-in that is built years later.
  */
 namespace PluginContract
 {
@@ -13,24 +13,24 @@ namespace PluginContract
 /// The identifier for which IBasePlugin::QueryInterface() returns the USSD service (IUSSD).
 const int USSD_SERVICE = 4097;
 
-// The events that the host raises with INotify::Notify(). Both parameters of each event are 0.
-const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< Change::tr() now returns another language
+// The events that the host sends with INotify::Notify(). Both parameters of each event are 0.
+const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< the language of Change::tr() has changed
 const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was replaced or became readable
 
-/// The message that the plug-in sends with INotifyService::Notify(). Its first parameter is the
-/// address of a PrePostRecord, and its second parameter is 0.
+/// The message that the plug-in sends with INotifyService::Notify(). The first parameter is the
+/// address of a PrePostRecord. The second parameter is 0.
 const unsigned int MESSAGE_PRE_POST_INFO = 384;
 
 } // namespace PluginContract
 
 /**
- * The outcome of the prepaid/postpaid query. The plug-in owns the record, which is valid during the
- * notification only, so a host must copy the values that it needs. The order and the size of the
- * fields are part of the binary interface.
+ * The result of the prepaid/postpaid query. The plug-in owns the record, which is valid only during
+ * the notification. Therefore, a host must copy the values that it needs. The order and the size of
+ * the fields are part of the binary interface.
  */
 struct PrePostRecord {
-    bool bInUse = false;    ///< the configuration enables the query
-    bool bPostPaid = false; ///< has no meaning while result is 0
+    bool bInUse = false;    ///< true if the configuration enables the query
+    bool bPostPaid = false; ///< has no meaning while `result` is 0
     int result = 0; ///< 1 if the query was sent; 0 if it was not sent or not answered in time
 };
 

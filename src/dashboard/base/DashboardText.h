@@ -8,7 +8,7 @@
 namespace Dashboard
 {
 
-/// Returns the dashboard's text for the key in the current language.
+/// Returns the dashboard's string for the key in the current language.
 inline QString dashboardText(const char *key)
 {
     return Change::tr(QLatin1String("Dashboard"), QLatin1String(key));

@@ -28,8 +28,8 @@ QString whyNotOpened()
                           : QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/// Returns whether the file is a regular file that the user owns and that has no further hard
-/// links. Otherwise somebody else could read the file.
+/// Returns true if the file is a regular file that belongs to the user and has no other hard links.
+/// In all other cases, another user could read the file.
 bool isOwnFile(int file)
 {
     struct stat found;
@@ -37,14 +37,14 @@ bool isOwnFile(int file)
            found.st_nlink == 1;
 }
 
-/// Empties the file and makes it private. Must be called only after isOwnFile(), so that the file
-/// of another user is never emptied.
+/// Empties the file and makes it private. Must be called only if isOwnFile() has returned true, so
+/// that another user's file is never emptied.
 bool makeEmptyAndPrivate(int file)
 {
     return fchmod(file, OWNER_ONLY) == 0 && ftruncate(file, 0) == 0;
 }
 
-/// Returns the error message, or an empty string if the file can be used.
+/// Returns an error message, or an empty string if the file can be used.
 QString whyNotUsable(int file)
 {
     if (!isOwnFile(file))
@@ -56,7 +56,7 @@ QString whyNotUsable(int file)
 
 QString LogFile::open(const QString &path)
 {
-    // O_NONBLOCK prevents the opening of a named pipe from waiting for a reader.
+    // With O_NONBLOCK, opening a named pipe does not wait for a reader.
     const int flags = O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
     const int file = ::open(QFile::encodeName(path).constData(), flags, OWNER_ONLY);
     const QString problem = file < 0 ? whyNotOpened() : whyNotUsable(file);
@@ -71,14 +71,14 @@ QString LogFile::open(const QString &path)
     return QString();
 }
 
-// Writes the line with a single call, so that the lines of several threads do not mix.
+// Writes the line with a single call, so that lines from several threads are not mixed.
 void LogFile::write(const QString &line)
 {
     if (logFile < 0)
         return;
     const QByteArray bytes = HostCore::terminalText(line).toUtf8() + '\n';
     if (::write(logFile, bytes.constData(), size_t(bytes.size())) != bytes.size())
-        logFile = -1; // the disk is full, so the program continues without its log
+        logFile = -1; // the disk is full, so the program continues without a log
 }
 
 } // namespace Dashboard

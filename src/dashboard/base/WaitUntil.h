@@ -6,8 +6,8 @@
 namespace Dashboard
 {
 
-/// Processes events until the condition is true, for at most `milliseconds`. The condition is
-/// checked after each event. Returns whether the condition is true. Must be called on the GUI
+/// Processes events until the condition is true or `milliseconds` have elapsed. The condition is
+/// checked after each event. Returns true if the condition is true. Must be called from the GUI
 /// thread.
 bool waitUntil(const std::function<bool()> &condition, int milliseconds);
 

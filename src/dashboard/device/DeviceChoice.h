@@ -21,8 +21,9 @@ struct DeviceChoice {
     static DeviceChoice simulated(const QString &file);
     static DeviceChoice modem(const QString &equipmentId);
 
-    /// The following two functions convert the choice to a word and back: "automatic",
-    /// "simulated:FILE" or "modem:IDENTIFIER". Any other word is converted to the automatic choice.
+    /// The following two functions convert the choice to a string and back: "automatic",
+    /// "simulated:FILE" or "modem:IDENTIFIER". Any other string is converted to the automatic
+    /// choice.
     QString word() const;
     static DeviceChoice fromWord(const QString &word);
 
@@ -31,8 +32,8 @@ struct DeviceChoice {
         return kind == other.kind && name == other.name;
     }
 
-    /// Selects the chosen device. Returns an empty text on success. Otherwise changes nothing and
-    /// returns the error in the scenario file with its line.
+    /// Selects the chosen device. Returns an empty string on success. On failure, has no effect and
+    /// returns the error in the scenario file with its line number.
     QString use() const;
 };
 

@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-/// Returns the key of the reason why the device cannot be used, or null if it can be used.
+/// Returns the text key of the reason why the device cannot be used, or null if it can be used.
 const char *trouble(const DeviceStatus &status)
 {
     if (status.problem == TKSV_PROBLEM_REGISTRATION_DENIED)
@@ -35,7 +35,7 @@ const char *trouble(const DeviceStatus &status)
     }
 }
 
-/// Returns the key of the advice on a problem, or null if there is no problem.
+/// Returns the text key of the advice on a problem, or null if there is no problem.
 const char *adviceOnProblem(int problem)
 {
     switch (problem) {
@@ -66,8 +66,9 @@ const char *adviceOnProblem(int problem)
     }
 }
 
-/// Returns the key of the advice on a modem's state, or null if the user cannot do anything. There
-/// is no advice on a simulated device, because it becomes ready again by itself.
+/// Returns the text key of the advice on the state of a modem, or null if the user cannot do
+/// anything. There is no advice for a simulated device, because it becomes ready again without any
+/// action.
 const char *adviceOnState(const DeviceStatus &status)
 {
     if (status.state == TKSV_DEVICE_SIM_LOCKED)
@@ -148,7 +149,7 @@ QString DeviceStatus::troubleText() const
     return key ? dashboardText(key) : QString();
 }
 
-// Returns the text about the SIM. A device that searches for a network has a SIM.
+// Returns the description of the SIM. A device that searches for a network has a SIM.
 QString DeviceStatus::simText() const
 {
     if (isLooking)

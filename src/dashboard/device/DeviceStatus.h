@@ -6,17 +6,17 @@
 namespace Dashboard
 {
 
-/** The state of the device as the dashboard shows it, and its texts in the user's language. */
+/** The device status that the dashboard shows, and its description in the user's language. */
 struct DeviceStatus {
     bool isSimulated = true;
     int state = 0;          // a TKSV_DeviceState
     int problem = 0;        // a TKSV_DeviceProblem
-    int pinRetries = -1;    // remaining attempts to enter the PIN; -1 if unknown
+    int pinRetries = -1;    // remaining PIN attempts; -1 if unknown
     int signalPercent = -1; // 0 to 100; -1 if unknown
     QString operatorName;   // empty if unknown
     QString imsi;           // empty if unknown
     QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty if unknown
-    QString simOperator;    // service provider name (SPN) on the SIM; empty if unknown
+    QString simOperator;    // service provider name (SPN) stored on the SIM; empty if unknown
     QString source;         // the scenario file, or the modem's manufacturer and model
     bool isLooking = false; // ModemManager has not reported its modems yet
     bool hasForeignSession = false; // another program has opened a USSD session
@@ -26,7 +26,7 @@ struct DeviceStatus {
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }
 
     bool isRegistered() const;
-    /// Returns whether the SIM waits for a PIN and allows another attempt.
+    /// Returns true if the SIM waits for a PIN and allows another attempt.
     bool waitsForPin() const;
     /// Returns true if the device may become ready without the user's help.
     bool mayBecomeReady() const;
@@ -34,20 +34,20 @@ struct DeviceStatus {
     bool mayBeFound() const;
     QString operatorText() const;
     QString signalText() const;
-    /// Returns the IMSI, or the reason why there is none.
+    /// Returns the IMSI, or the reason why it is not available.
     QString simText() const;
-    /// Returns the reason why no command can be sent, or an empty string if a command can be sent.
+    /// Returns the reason why no commands can be sent, or an empty string if commands can be sent.
     QString troubleText() const;
     /// Returns a description of the problem and of the action that the user can take. Returns an
     /// empty string if the user cannot do anything.
     QString adviceText() const;
-    /// Returns the number of remaining PIN attempts, with a warning before the last one. Returns an
-    /// empty string if the number is unknown.
+    /// Returns a message with the number of remaining PIN attempts, and a warning before the last
+    /// attempt. Returns an empty string if the number is unknown.
     QString triesText() const;
     QString sourceText() const;
 };
 
-/// Reads the status from the device SDK without waiting for the device. May be called on any
+/// Reads the status from the device SDK without waiting for the device. May be called from any
 /// thread.
 DeviceStatus readDeviceStatus();
 

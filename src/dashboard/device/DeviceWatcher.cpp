@@ -10,7 +10,7 @@ namespace Dashboard
 namespace
 {
 
-std::atomic<DeviceWatcher *> watching(nullptr); // global because device events carry no context
+std::atomic<DeviceWatcher *> watching(nullptr); // global; device events have no context
 
 DeviceReading readFromSdk()
 {

@@ -11,15 +11,15 @@
 namespace Dashboard
 {
 
-/** The status of the device in use, and the modems that can be used. */
+/** The status of the current device, and the modems that can be used. */
 struct DeviceReading {
     DeviceStatus status;
     QList<Modem> modems;
 };
 
 /**
- * Keeps the device's status up to date. Must be used on the GUI thread. Only one watcher may exist
- * at a time, because the SDK accepts only one call-back.
+ * Keeps the device's status up to date. All functions must be called from the GUI thread. Only one
+ * watcher may exist at a time, because the SDK accepts only one call-back.
  */
 class DeviceWatcher : public QObject
 {
@@ -31,17 +31,17 @@ public:
     const DeviceStatus &status() const { return m_reading.status; }
     const QList<Modem> &modems() const { return m_reading.modems; }
 
-    /// Replaces the source of the status, to demonstrate devices that are not present. Null
-    /// restores the initial source, which is the device SDK.
+    /// Replaces the source of the status in order to demonstrate devices that are not available.
+    /// Null restores the initial source, which is the device SDK.
     void readFrom(const std::function<DeviceReading()> &source);
 
 public slots:
-    /// Reads the status again, and emits a signal if it has changed.
+    /// Reads the status again and emits a signal if the status has changed.
     void refresh();
 
 signals:
     void changed();
-    /// Emitted when the device was removed or reset. Pending commands have ended.
+    /// Emitted when the device was removed or reset. All pending commands have ended.
     void lost();
 
 private:

@@ -18,11 +18,11 @@ struct Modem {
 };
 
 /// Returns the modems that the device SDK reports, in the order in which they were found. Returns
-/// without waiting. May be called on any thread.
+/// immediately. May be called from any thread.
 QList<Modem> readModems();
 
-/// Returns the modem's name. Adds the last digits of its identifier if another modem in `all` has
-/// the same name.
+/// Returns the modem's name. Appends the last digits of the modem's identifier if another modem in
+/// `all` has the same name.
 QString modemTitle(const Modem &modem, const QList<Modem> &all);
 
 } // namespace Dashboard

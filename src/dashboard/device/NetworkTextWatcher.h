@@ -8,7 +8,7 @@ namespace Dashboard
 {
 
 /**
- * Emits a signal for each message that the network sends of its own accord. Must be used on the GUI
+ * Emits a signal for each network-initiated message. All functions must be called from the GUI
  * thread. Only one watcher may exist at a time, because the SDK accepts only one call-back.
  */
 class NetworkTextWatcher : public QObject
@@ -19,11 +19,11 @@ public:
     ~NetworkTextWatcher() override;
 
 public slots:
-    /// Registers the call-back. Messages that arrived earlier are also reported.
+    /// Registers the call-back. Messages that have arrived earlier are also reported.
     void start();
 
 signals:
-    /// `receivedAt` is in local time. An empty text means that the text is no longer available.
+    /// `receivedAt` is in local time. `text` is empty if the text is no longer available.
     void textReceived(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private slots:

@@ -18,10 +18,10 @@ namespace Dashboard
 namespace
 {
 
-// The plug-in ends every wait itself. If a wait takes this much longer than the time-out, the
-// plug-in is broken.
+// The plug-in itself ends every wait. If a wait exceeds the time-out by this amount, the plug-in is
+// broken.
 const int PLUGIN_GRACE = 5000; // ms
-// The time by which the tap may receive a reply later than the plug-in.
+// The maximum time between the arrival of a reply at the plug-in and at the tap.
 const int TAP_GRACE = 1000; // ms
 
 QString pluginText(const char *key)

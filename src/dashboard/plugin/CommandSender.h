@@ -21,7 +21,8 @@ struct SendingParts {
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
- * prints each reply. Must be used on the GUI thread. Processes events while it waits.
+ * prints each reply. Processes events while it waits. All functions must be called from the GUI
+ * thread.
  */
 class CommandSender
 {

@@ -27,8 +27,8 @@ QString receivedCaption()
 
 } // namespace
 
-// The text is delivered as a single edit, as an input method delivers it, because setText() does
-// not emit textEdited().
+// Enters the text in a single edit, like an input method, because setText() does not emit
+// textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     edit->selectAll();

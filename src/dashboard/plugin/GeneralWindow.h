@@ -11,12 +11,13 @@
 namespace Dashboard
 {
 
-/// Replaces the text of the entry field as if the user had typed it.
+/// Replaces the text of the input field as if the user had typed the new text.
 void typeInto(QLineEdit *edit, const QString &text);
 
 /**
- * Provides access to the plug-in's general window by the object names of its widgets. The plug-in
- * owns the widgets and may delete them at any time. Must be used on the GUI thread.
+ * Provides access to the plug-in's general window through the object names of its widgets. The
+ * plug-in owns the widgets and may delete them at any time. All functions must be called from the
+ * GUI thread.
  */
 class GeneralWindow
 {
@@ -27,8 +28,8 @@ public:
     GeneralWindow() = default;
     /// Searches the descendants of `root`, which may be null.
     explicit GeneralWindow(const QWidget *root);
-    /// Returns the general window that the plug-in shows in a separate frame. If there is none,
-    /// isComplete() of the result is false.
+    /// Returns the general window that the plug-in shows in a separate frame. If there is no such
+    /// window, isComplete() returns false for the result.
     static GeneralWindow framed();
 
     bool isComplete() const;
@@ -44,15 +45,15 @@ public:
     /// both to the transcript.
     void hideUnusedPresets() const;
 
-    /// Returns whether the window waits for an answer.
+    /// Returns true if the window waits for a reply.
     bool isWaiting() const;
     /// Types the text and presses Send. Returns false if the window does not accept the text.
     bool send(const QString &text) const;
 
     /// Returns the transcript as plain text.
     QString transcript() const;
-    /// Returns the newest reply in the transcript without its caption, or an empty string if there
-    /// is none. The markup of the transcript may have changed the white space of the reply.
+    /// Returns the most recent reply in the transcript without its caption, or an empty string if
+    /// there is no reply. The transcript's markup may have changed the white space of the reply.
     QString lastReceived() const;
 
 private:

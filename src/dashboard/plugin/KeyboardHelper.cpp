@@ -55,8 +55,8 @@ bool KeyboardHelper::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// Clicks the Send button, which does nothing if it is disabled. Returns whether there is such a
-/// button.
+/// Clicks the Send button. The click has no effect if the button is disabled. Returns true if the
+/// button exists.
 bool KeyboardHelper::pressSend(const QLineEdit *edit)
 {
     const QString name = QLatin1String(GeneralWindow::SEND_BUTTON);

@@ -9,10 +9,11 @@ namespace Dashboard
 {
 
 /**
- * Makes the plug-in's general window usable with the keyboard alone, embedded or in a frame. Return
- * in the command edit presses Send. The command edit receives the focus when the window appears,
- * and when an answer enables the edit again. The event filter covers the whole application, because
- * the plug-in may create its windows at any time. Must be used on the GUI thread.
+ * Makes the plug-in's general window usable with the keyboard alone, both embedded and in a frame.
+ * Return in the command field presses Send. The command field receives the focus when the window
+ * appears, and when a reply enables the field again. The event filter is installed on the
+ * application, because the plug-in may create its windows at any time. All functions must be called
+ * from the GUI thread.
  */
 class KeyboardHelper : public QObject
 {

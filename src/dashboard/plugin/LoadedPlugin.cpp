@@ -5,11 +5,11 @@
 
 #include "HostState.h"
 #include "INotify.h"
-#include "InstallPaths.h"
 #include "IUIPlugin.h"
 #include "IUSSD.h"
 #include "PluginContract.h"
 #include "PluginFiles.h"
+#include "PluginFolderChoice.h"
 
 using namespace Formats;
 
@@ -19,7 +19,7 @@ namespace Dashboard
 namespace
 {
 
-/// Returns whether the dynamic loader can load the file. Loads and unloads the file to find out.
+/// Returns true if the dynamic loader can load the file. To check this, loads and unloads the file.
 bool isLoadableLibrary(const QString &file)
 {
     QLibrary library(file);
@@ -38,8 +38,7 @@ LoadedPlugin::~LoadedPlugin()
 
 QString LoadedPlugin::installedFile()
 {
-    return PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
-                             PluginFiles::LIBRARY);
+    return PluginFiles::path(HostCore::PluginFolderChoice::installed(), PluginFiles::LIBRARY);
 }
 
 PluginFailure LoadedPlugin::load(const QString &file)

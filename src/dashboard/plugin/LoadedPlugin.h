@@ -16,8 +16,8 @@ namespace Dashboard
 {
 
 /**
- * Loads a USSD plug-in and makes the calls that a plug-in expects from its host. Must be used on
- * the GUI thread.
+ * Loads a USSD plug-in and makes the calls that a plug-in expects from its host. All functions must
+ * be called from the GUI thread.
  *
  * The library is never unloaded, because the plug-in does not allow this while the program is
  * running.
@@ -34,8 +34,8 @@ public:
     /// Returns the path of the installed plug-in.
     static QString installedFile();
 
-    /// Loads and initialises the plug-in and requests its USSD service. Must be called only once
-    /// for each object.
+    /// Loads and initializes the plug-in and gets its USSD service. Must be called only once for
+    /// each object.
     PluginFailure load(const QString &file);
     bool isUsable() const { return m_plugin && m_ussd; }
 
@@ -49,13 +49,13 @@ public:
     /// Notifies the plug-in that the SIM may have changed. Does nothing if no plug-in is loaded.
     void notifySimChange();
 
-    /// Makes the plug-in delete its windows and services, and requests its USSD service again, so
-    /// that the plug-in reloads its configuration. All frames and pages of the plug-in are deleted.
+    /// Makes the plug-in delete its windows and services, including all frames and pages. Then gets
+    /// the USSD service again, so that the plug-in reloads its configuration.
     PluginFailure restart();
 
     /// Makes the plug-in unregister its call-backs and delete its windows, and then deletes the
     /// plug-in object. Must be called before the windows that contain the plug-in's windows are
-    /// deleted. A second call does nothing.
+    /// deleted. Further calls have no effect.
     void shutDown();
 
 private:

@@ -10,9 +10,9 @@ namespace Dashboard
 {
 
 /**
- * The objects that the dashboard offers to its plug-ins, by their identifiers. The container
- * registers itself with the core library while it exists. Only one container may exist at a time.
- * Must be used on the GUI thread.
+ * The objects that the dashboard provides to its plug-ins. Each object has an identifier. While the
+ * container exists, it is registered with the core library. Only one container may exist at a time.
+ * All functions must be called from the GUI thread.
  */
 class PluginContainer : public IPluginContainer
 {

@@ -6,13 +6,13 @@
 namespace Dashboard
 {
 
-/** The reason why a plug-in could not be used: the step that failed, and details about it. */
+/** The reason why a plug-in could not be used: the failed step and its details. */
 struct PluginFailure {
     enum Step {
         None,
         FileMissing,
-        NotALibrary, // the file is not a library, or it has an unmet dependency
-        WrongBuild,  // the library is not a plug-in, or it is a plug-in for another Qt
+        NotALibrary, // the file is not a library, or the library has an unmet dependency
+        WrongBuild,  // the library is not a plug-in, or is a plug-in for another Qt version
         NoInstance,
         NoInterface,
         InitFailed,

@@ -6,8 +6,8 @@
 #include <cstdlib>
 
 #include "InputFile.h"
-#include "InstallPaths.h"
 #include "PluginFiles.h"
+#include "PluginFolderChoice.h"
 
 using namespace Formats;
 
@@ -59,7 +59,7 @@ void setOrUnset(const char *variable, const QByteArray &value)
 } // namespace
 
 PrivatePluginFolder::PrivatePluginFolder()
-    : m_installed(HostCore::InstallPaths::installedPluginLibrary() + PluginFiles::FOLDER),
+    : m_installed(HostCore::PluginFolderChoice::installed() + PluginFiles::FOLDER),
       m_path(makeTemporaryFolder()), m_oldLibraryPath(qgetenv(LIBRARY_PATH)),
       m_oldUserData(qgetenv(USER_DATA))
 {

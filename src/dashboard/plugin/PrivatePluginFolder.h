@@ -8,11 +8,11 @@ namespace Dashboard
 {
 
 /**
- * A temporary plug-in library folder with copies of the installed files that can be changed. While
- * it exists, $USSD_PLUGIN_LIBRARY_PATH is set to the folder and $TKSV_USER_DATA to a folder in it.
- * The plug-in therefore changes neither the installed files nor the user's files. Only one such
- * folder may exist at a time. It must be constructed and deleted while no other thread uses the
- * environment.
+ * A temporary plug-in library folder with modifiable copies of the installed files. While this
+ * object exists, $USSD_PLUGIN_LIBRARY_PATH is set to the folder and $TKSV_USER_DATA to a subfolder.
+ * Therefore, the plug-in changes neither the installed files nor the user's files. Only one such
+ * folder may exist at a time. The object must be constructed and deleted while no other thread uses
+ * the environment.
  */
 class PrivatePluginFolder
 {
@@ -29,10 +29,10 @@ public:
     QString userProfileFile() const;
     QString fileName(const QString &name) const;
 
-    /// Restores the installed file of this name.
+    /// Restores the installed file with this name.
     bool restore(const QString &name);
-    /// In the file of this name, replaces the first `before` after the first `anchor` with `after`.
-    /// Returns false if the file does not contain them.
+    /// Replaces the first `before` after the first `anchor` with `after` in the file with this
+    /// name. Returns false if the file does not contain them.
     bool change(const QString &name, const QByteArray &anchor, const QByteArray &before,
                 const QByteArray &after);
     bool write(const QString &name, const QByteArray &content);

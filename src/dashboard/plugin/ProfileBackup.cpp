@@ -9,7 +9,9 @@
 #include <memory>
 #include <unistd.h>
 
+#include "ForwardXml.h"
 #include "InputFile.h"
+#include "ProvisionWriter.h"
 #include "tksv.h"
 
 namespace Dashboard
@@ -19,19 +21,20 @@ namespace
 {
 
 const char FILE_NAME[] = "ussdprofile.xml";
-const qint64 LARGEST = 4 << 20; // bytes; the plug-in never writes a larger file
+const qint64 LARGEST = 4 << 20; // in bytes; the plug-in never writes a larger file
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 bool isWholeXml(const QByteArray &text)
 {
-    QXmlStreamReader reader(text);
+    QXmlStreamReader reader;
+    Formats::ForwardXml::start(reader, text);
     while (!reader.atEnd())
-        reader.readNext();
+        Formats::ForwardXml::next(reader);
     return !reader.hasError();
 }
 
-/// Returns the content of the file. Returns an empty array if the file cannot be read or is not
+/// Returns the contents of the file. Returns an empty array if the file cannot be read or is not
 /// well-formed XML.
 QByteArray goodContent(const QString &path)
 {
@@ -50,7 +53,7 @@ bool writeWhole(const QString &path, const QByteArray &text)
     return file.write(text) == text.size() && file.flush() && fsync(file.handle()) == 0;
 }
 
-// Moves the file. std::rename() is used, because QFile::rename() does not replace an existing file.
+// Moves the file with std::rename(), because QFile::rename() does not replace an existing file.
 bool moveFile(const QString &from, const QString &to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
@@ -65,24 +68,14 @@ bool replaceFile(const QString &path, const QByteArray &text)
     return false;
 }
 
-/// Returns the folder of the user's codes, which ends in "/". Returns an empty string if there is
-/// none.
+/// Returns the folder of the user's codes, which ends with "/". Returns an empty string if there is
+/// no such folder.
 QString userDataFolder()
 {
     unsigned short *units = nullptr;
     const long result = TKSV_GetUserDataDirectory(&units);
     const std::unique_ptr<unsigned short[]> owner(units);
     return result == 0 && units ? QString::fromUtf16(units) : QString();
-}
-
-/// Returns the dashboard's data folder below $XDG_DATA_HOME or its default.
-QString ownFolder()
-{
-    const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
-    const QString data = chosen.startsWith(QLatin1Char('/'))
-                             ? chosen
-                             : QDir::homePath() + QLatin1String("/.local/share");
-    return data + QLatin1String("/ussd-dashboard/last-good/");
 }
 
 } // namespace
@@ -96,7 +89,7 @@ ProfileBackup::ProfileBackup(const QString &userFile, const QString &legacyFile,
 ProfileBackup ProfileBackup::ofUser()
 {
     const QString name = QLatin1String(FILE_NAME);
-    const QString copy = ownFolder() + name;
+    const QString copy = Provisioning::userDataHome() + QLatin1String("/last-good/") + name;
     const QString folder = userDataFolder();
     if (folder.isEmpty())
         return ProfileBackup(QString(), QString(), copy);
@@ -132,8 +125,8 @@ bool ProfileBackup::isDamaged() const
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }
 
-// Restores the copy. If the program ends between the two steps, the file is missing, and the copy
-// is offered again.
+// Restores the backup copy. If the program ends between the two steps, the user's file is missing,
+// and the dashboard offers the backup copy again.
 bool ProfileBackup::restore() const
 {
     const QByteArray text = goodContent(m_copy);

@@ -8,29 +8,30 @@ namespace Dashboard
 {
 
 /**
- * The backup copy of the user's own codes. The plug-in deletes the file with the codes before it
- * writes the file again. If the disk is full or the program crashes at that moment, all codes are
- * lost or the file is incomplete.
+ * The backup copy of the user's own codes. The plug-in deletes the file that contains the codes
+ * before it writes the file again. If the disk is full or the program crashes at that moment, all
+ * codes are lost or the file is incomplete.
  *
- * Only a file that is well-formed XML is copied or restored. Files are replaced atomically with a
- * rename, and only their owner can read them.
+ * Only a well-formed XML file is copied or restored. Files are replaced atomically by renaming, and
+ * only their owner can read them.
  */
 class ProfileBackup
 {
 public:
-    /// An empty `userFile` means that the user has no folder for the file; every function then does
-    /// nothing. `legacyFile` is the file of earlier versions, which the plug-in still reads.
+    /// If `userFile` is empty, the user does not have a folder for the file, and none of the
+    /// functions has any effect. `legacyFile` is the file of earlier versions, which the plug-in
+    /// still reads.
     ProfileBackup(const QString &userFile, const QString &legacyFile, const QString &copy);
     /// Returns a backup with the paths of the user who runs the program.
     static ProfileBackup ofUser();
 
-    /// Copies the user's file if it is well-formed. Returns whether the copy is up to date.
+    /// Copies the user's file if it is well-formed. Returns true if the copy is up to date.
     bool refresh() const;
-    /// Returns whether refresh() would copy the file.
+    /// Returns true if refresh() would copy the file.
     bool isOutdated() const;
-    /// Returns whether the user's file is missing and there is a usable copy.
+    /// Returns true if the user's file is missing and there is a usable copy.
     bool isLost() const;
-    /// Returns whether the user's file exists but is not well-formed, and there is a usable copy.
+    /// Returns true if the user's file exists but is not well-formed, and there is a usable copy.
     bool isDamaged() const;
     /// Replaces the user's file with the copy. A damaged file is kept as damagedFile(). Returns
     /// false if the file cannot be written or the copy is not usable.
@@ -41,7 +42,7 @@ public:
     QString userFile() const { return m_userFile; }
     QString damagedFile() const { return m_userFile + QLatin1String(".damaged"); }
     QString copy() const { return m_copy; }
-    /// Returns the time at which the copy was made.
+    /// Returns the time at which the copy was created.
     QDateTime time() const;
 
 private:

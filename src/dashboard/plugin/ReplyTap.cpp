@@ -63,7 +63,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     tap->keep(reply);
-    return 0; // only the plug-in reports whether the reply was handled
+    return 0; // only the plug-in reports whether it has accepted the reply
 }
 
 void ReplyTap::keep(const Reply &reply)
@@ -72,7 +72,7 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
     }
-    // An event wakes the waiting code, because waitUntil() checks its condition after each event.
+    // The event wakes waitUntil(), which checks its condition after each event.
     QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
 }
 

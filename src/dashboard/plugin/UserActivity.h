@@ -7,9 +7,9 @@ namespace Dashboard
 {
 
 /**
- * Reports what the user does with the plug-in's windows. The event filter covers the whole
- * application, because the plug-in may create its windows at any time. Must be used on the GUI
- * thread.
+ * Reports the user's activity in the plug-in's windows. The event filter is installed on the
+ * application, because the plug-in may create its windows at any time. All functions must be called
+ * from the GUI thread.
  */
 class UserActivity : public QObject
 {
@@ -17,7 +17,7 @@ class UserActivity : public QObject
 public:
     explicit UserActivity(QObject *parent = nullptr);
 
-    /// Returns whether a frame of the plug-in is open, or the command that the user typed is
+    /// Returns true if a frame of the plug-in is open, or if a command typed by the user is
     /// pending.
     static bool isBusy();
     /// Returns true while a command that the user typed into a general window is pending.
@@ -26,9 +26,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// Emitted when a frame was closed, or when the command edit accepts input again. The signal is
-    /// emitted after the event that caused the change was handled. It may also be emitted if
-    /// nothing has changed.
+    /// Emitted when a frame was closed, or when the command field accepts input again. The signal
+    /// is emitted after the event that caused the change has been handled. It may also be emitted
+    /// if nothing has changed.
     void frameClosed();
     void commandEnded();
 };

@@ -35,7 +35,7 @@ const char *const NotificationService::ADDRESSEES[2] = {"8E4C1F07-3B6A-4d29-A5C1
 
 NotificationService::NotificationService(QObject *parent) : QObject(parent) {}
 
-// Emits the type in the record, which the plug-in owns and which is valid during the call only.
+// Emits the type from the record, which the plug-in owns and which is valid only during the call.
 int NotificationService::Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                                 NotifyParam)
 {

@@ -9,7 +9,10 @@
 namespace Dashboard
 {
 
-/** Receives the messages that plug-ins send to the dashboard. Must be used on the GUI thread. */
+/**
+ * Receives the messages that plug-ins send to the dashboard. All functions must be called from the
+ * GUI thread.
+ */
 class NotificationService : public QObject, public INotifyService
 {
     Q_OBJECT
@@ -17,8 +20,8 @@ class NotificationService : public QObject, public INotifyService
 public:
     /// The identifier under which plug-ins find the service.
     static const char *const CLSID;
-    /// The addressees: two parts of a host that need the kind of the SIM. In the dashboard, the
-    /// same window is both parts, so it receives each message twice.
+    /// The addressees: two parts of a host that need the kind of SIM. In the dashboard, one window
+    /// takes the role of both parts, so it receives each message twice.
     static const char *const ADDRESSEES[2];
 
     explicit NotificationService(QObject *parent = nullptr);
@@ -27,8 +30,8 @@ public:
                NotifyParam lParam) override;
 
 signals:
-    /// Emitted once for each addressee when the network has reported the kind of the SIM or did not
-    /// answer in time.
+    /// Emitted once for each addressee when the network has reported the kind of SIM or did not
+    /// reply in time.
     void paidTypeTold(PaidType type);
 };
 

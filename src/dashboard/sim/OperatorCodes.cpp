@@ -6,6 +6,7 @@
 #include "InstallPaths.h"
 #include "plugin/LoadedPlugin.h"
 #include "PluginFiles.h"
+#include "PluginFolderChoice.h"
 #include "tksv_device.h"
 
 using namespace Formats;
@@ -28,8 +29,8 @@ QString folderWithoutCodes()
 
 QByteArray shippedConfiguration()
 {
-    return InputFile::content(PluginFiles::path(HostCore::InstallPaths::installedPluginLibrary(),
-                                                PluginFiles::CONFIGURATION));
+    return InputFile::content(
+        PluginFiles::path(HostCore::PluginFolderChoice::installed(), PluginFiles::CONFIGURATION));
 }
 
 bool isOfCountry(const Provider &provider, const QString &countryCode)
@@ -41,7 +42,7 @@ bool isOfCountry(const Provider &provider, const QString &countryCode)
     return false;
 }
 
-/// Returns whether the operator has a code that the plug-in can use.
+/// Returns true if the operator has a code that the plug-in can use.
 bool isUseful(const Provider &provider, const QString &network)
 {
     return !provisionPlan(provider, network).isEmpty();
@@ -65,7 +66,7 @@ OperatorCodes::OperatorCodes(const DeviceWatcher *device, DashboardSettings *set
 
 OperatorCodes::~OperatorCodes()
 {
-    HostCore::InstallPaths::usePluginLibrary(QString());
+    HostCore::PluginFolderChoice::use(QString());
 }
 
 void OperatorCodes::setPlaces(const OperatorPlaces &places)
@@ -85,7 +86,7 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    // A SIM without an IMSI may be one that cannot be read yet.
+    // A SIM without an IMSI may be a SIM that cannot be read yet.
     return status.imsi.isEmpty() ? m_network : QString();
 }
 
@@ -119,7 +120,7 @@ void OperatorCodes::use(const QString &folder)
     if (folder == m_folderInUse)
         return;
     m_folderInUse = folder;
-    HostCore::InstallPaths::usePluginLibrary(folder);
+    HostCore::PluginFolderChoice::use(folder);
     emit folderChanged();
 }
 
@@ -203,7 +204,7 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // The state of the whole choice is kept. If several operators are possible, the choice is
+    // Keep the state of the unfiltered choice. If several operators are possible, the choice is
     // ambiguous even if only one of them has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
@@ -237,7 +238,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
         setDeclined(false);
-        m_folderInUse.clear(); // makes use() emit folderChanged(); the files may have changed
+        m_folderInUse.clear(); // makes use() emit folderChanged()
         use(order.folder);
     }
     return outcome;

@@ -13,14 +13,14 @@ namespace Dashboard
 class DashboardSettings;
 class DeviceWatcher;
 
-/** The paths of the operator database and of the folders with operators' codes. */
+/** The paths of the operator database and of the operator folders. */
 struct OperatorPlaces {
     QString database; // empty for the installed database
     QString folders;  // contains one folder for each network code; empty for the user's own folder
-    /// false if the plug-in's folder was set from outside and must not be replaced
+    /// False if the plug-in's folder was set in the environment and must not be replaced.
     bool isFree = true;
 
-    /// Returns the paths for the user who runs the program. isFree is false if
+    /// Returns the paths for the user who runs the program. `isFree` is false if
     /// $USSD_PLUGIN_LIBRARY_PATH is set.
     static OperatorPlaces ofUser();
 };
@@ -42,8 +42,8 @@ public:
     void setPlaces(const OperatorPlaces &places);
     bool isFree() const { return m_places.isFree; }
 
-    /// Returns the MCC and MNC of the SIM in use, or of the previous SIM while the new one is
-    /// unknown.
+    /// Returns the MCC and MNC of the current SIM. While the current SIM is unknown, returns the
+    /// MCC and MNC of the previous SIM.
     QString network() const { return m_network; }
     /// Returns the operator whose codes are in use. Returns an empty string if there is none.
     QString operatorInUse() const;
@@ -56,7 +56,7 @@ public:
     /// Returns true if the codes in use belong to the operator of the SIM. They were chosen by the
     /// user, or by the system integrator with $USSD_PLUGIN_LIBRARY_PATH.
     bool areOfOperator() const;
-    /// Returns whether the user has decided about the codes for this SIM's network.
+    /// Returns true if the user has decided which codes to use for this SIM's network.
     bool isDecided() const;
 
     /// Returns the operators that may have issued this SIM and have codes.
@@ -64,25 +64,25 @@ public:
     /// Returns the operators of choice(). If there are none, returns all operators in the SIM's
     /// country that have codes.
     QList<Provisioning::Provider> candidates() const;
-    /// Returns whether the operator database can be read.
+    /// Returns true if the operator database can be read.
     bool hasDatabase() const;
 
     /// Writes the operator's codes to the folder of the SIM's network and selects this folder. If
-    /// there are files that were edited by hand, they are renamed if `setAside` is true; otherwise
-    /// nothing is written.
+    /// the folder contains manually edited files, they are renamed if `setAside` is true.
+    /// Otherwise, nothing is written.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
     /// Selects no operator for this SIM's network.
     void decline();
 
 public slots:
-    /// Reads the SIM's network and selects the plug-in's folder for it.
+    /// Reads the SIM's network and selects the plug-in's folder for this network.
     void look();
 
 signals:
-    /// Emitted when the SIM's network has changed. Texts about the previous network are then
+    /// Emitted when the SIM's network has changed. Messages about the previous network are then
     /// outdated.
     void networkChanged();
-    /// Emitted when CommonUtils::GetPluginLibraryPath() returns another folder, or the files in the
+    /// Emitted when the return value of CommonUtils::GetPluginLibraryPath() or the files in the
     /// folder have changed.
     void folderChanged();
 
@@ -103,7 +103,7 @@ private:
     bool m_isSimulated = true;
     bool m_hasLooked = false;
     QString m_folderInUse;              // empty for the installed folder
-    QMap<QString, QString> m_decisions; // by network; needed if there are no settings
+    QMap<QString, QString> m_decisions; // keyed by network; used if there are no settings
     mutable Provisioning::ProviderDatabase m_database;
     mutable bool m_isRead = false;
 };

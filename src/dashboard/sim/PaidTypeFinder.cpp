@@ -14,7 +14,8 @@ namespace
 {
 
 // When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports
-// their failure. A query that is sent within this time would receive this report as its answer.
+// their failure. If a query were sent within this time, this report would be mistaken for the reply
+// to the query.
 const int SETTLING_TIME = 200; // ms
 
 // The plug-in itself reports a time-out, unless the window that sent the query has been deleted in

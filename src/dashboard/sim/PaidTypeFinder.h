@@ -15,9 +15,9 @@ class LoadedPlugin;
 class ReplyTap;
 
 /**
- * Makes the plug-in ask the network, once for each SIM, whether the SIM is prepaid or postpaid. The
- * plug-in first ends an open session on the device, so the query is delayed while the user needs
- * the device. Must be used on the GUI thread. No function blocks.
+ * Makes the plug-in query the network once for each SIM to determine whether the SIM is prepaid or
+ * postpaid. The plug-in first ends an open session on the device, so the query is delayed while the
+ * user needs the device. All functions must be called from the GUI thread and return immediately.
  */
 class PaidTypeFinder : public QObject
 {
@@ -27,19 +27,19 @@ public:
     PaidTypeFinder(LoadedPlugin *plugin, ReplyTap *replies, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
-    /// Returns whether the query was sent and its answer is pending.
+    /// Returns true if the query was sent and the reply is pending.
     bool isAsking() const { return m_timeLimit.isActive(); }
 
-    /// Discards the result, so that the query is sent for the SIM that is present now.
+    /// Discards the result, so that the query is sent for the current SIM.
     void restart();
-    /// Sends the query. Does nothing if the query was already sent or the settling time has not
-    /// passed. Must be called only while the device is ready and nobody else uses it.
+    /// Sends the query. Does nothing if the query has already been sent or the settling time has
+    /// not elapsed. Must be called only while the device is ready and not in use.
     void tryToAsk();
 
 signals:
-    /// Emitted when the settling time has passed, so that the query may be sent.
+    /// Emitted when the settling time has elapsed, so that the query may be sent.
     void settled();
-    /// Emitted when the result of paidType() or isAsking() has changed.
+    /// Emitted when the return value of paidType() or isAsking() has changed.
     void changed();
 
 private slots:
@@ -54,7 +54,7 @@ private:
     NotificationService m_notifications;
     PluginContainer m_container;
     QTimer m_settling;  // runs while it is too early to send the query
-    QTimer m_timeLimit; // runs while the answer is pending
+    QTimer m_timeLimit; // runs while the reply is pending
     PaidType m_type = PaidType::Unknown;
     bool m_isWanted = false;
 };

@@ -61,21 +61,21 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// Informs the tap as well, because the text may have arrived before the tap was installed.
+// Also notifies the tap, because the message may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();
 }
 
-/// Discards the state of the removed device, which has no open menu any more.
+/// Discards the state of the removed device, which no longer has an open menu.
 void SimFollower::onDeviceLost()
 {
     m_replies.clear();
     m_finder.restart();
 }
 
-/// Sends the query, but not while the user needs the device or a menu waits for an answer, because
-/// the query would end that session.
+/// Sends the query, but not while the user needs the device or a menu waits for an answer. The
+/// query would end the user's session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

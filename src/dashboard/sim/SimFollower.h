@@ -16,10 +16,10 @@ class DeviceWatcher;
 class LoadedPlugin;
 
 /**
- * Keeps the plug-in and the dashboard up to date with the SIM. Notifies the plug-in of another SIM,
- * and reports which windows to offer for the SIM and whether it is prepaid or postpaid. Must be
- * used on the GUI thread. Only one follower may exist at a time, and it must be constructed before
- * the plug-in is loaded.
+ * Keeps the plug-in and the dashboard up to date when the SIM changes. Notifies the plug-in when
+ * the SIM was replaced. Reports which windows to offer for the SIM, and whether the SIM is prepaid
+ * or postpaid. All functions must be called from the GUI thread. Only one follower may exist at a
+ * time, and it must be constructed before the plug-in is loaded.
  */
 class SimFollower : public QObject
 {
@@ -28,8 +28,8 @@ public:
     /// The plug-in and the device must outlive the follower.
     SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
-    /// Returns "Prepaid", "Postpaid" or a text that the network is being queried, in the user's
-    /// language. Returns an empty string if the kind is unknown.
+    /// Returns "Prepaid", "Postpaid" or a message that the query is in progress, in the user's
+    /// language. Returns an empty string if the kind of SIM is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
     /// Sets the function that decides whether the network may be queried. Without it, no query is
@@ -37,18 +37,18 @@ public:
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
-    /// Starts to follow the SIM. Must be called whenever the plug-in has been loaded or restarted.
+    /// Starts to follow the SIM. Must be called each time the plug-in has been loaded or restarted.
     void start();
-    /// Must be called when the network waits for an answer to a message that it sent of its own
-    /// accord. The finder sends no query until that session has ended.
+    /// Must be called when the network waits for an answer to a network-initiated message. The
+    /// query is not sent until that session has ended.
     void questionCame();
     /// Sends the query if it is due and allowed. Must be called when it has become allowed.
     void ask();
 
 signals:
-    /// Emitted with the windows to offer for the SIM, a set of SimWindow.
+    /// Emitted with the windows to offer for the SIM, as a combination of SimWindow flags.
     void windowsOffered(int windows);
-    /// Emitted when the result of paidTypeText() or isAsking() has changed.
+    /// Emitted when the return value of paidTypeText() or isAsking() has changed.
     void paidTypeChanged();
     void frameClosed();
     /// Emitted when a command typed by the user has ended.

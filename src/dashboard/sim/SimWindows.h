@@ -20,8 +20,8 @@ enum SimWindow {
     SIM_WINDOWS_ALL = 15
 };
 
-/// Returns the set of windows to offer for the SIM with this IMSI. An empty IMSI means that there
-/// is no SIM. The set contains
+/// Returns the windows to offer for the SIM with this IMSI, as a combination of SimWindow flags. An
+/// empty IMSI means that there is no SIM. The result contains
 ///
 /// - all windows, if the plug-in's configuration leaves the choice to the user;
 /// - the windows that the configuration lists for the IMSI;

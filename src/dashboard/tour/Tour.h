@@ -10,16 +10,16 @@ class MainWindow;
 class PrivatePluginFolder;
 
 /**
- * Operates the windows as a user does, in several languages. Takes a picture at each stop, and
- * writes a transcript of the visible texts. Must be called on the GUI thread. Processes events
- * meanwhile.
+ * Operates the windows as a user would, in several languages. Takes a picture at each stop and
+ * writes a transcript of the visible texts. Processes events while it runs. Must be called from the
+ * GUI thread.
  */
 namespace Tour
 {
 
-/// Runs the whole tour and writes its files to `folder`, which is created if necessary. `window`
-/// must be visible, with its plug-in loaded from `library`. Prints each step, and prints errors to
-/// standard error. Returns whether every stop was reached and every file was written.
+/// Runs the complete tour and writes its files to `folder`, which is created if necessary. `window`
+/// must be visible, with its plug-in loaded from `library`. Prints each step to standard output and
+/// errors to standard error. Returns true if every stop was reached and every file was written.
 bool take(MainWindow *window, PrivatePluginFolder *library, const QString &folder);
 
 } // namespace Tour

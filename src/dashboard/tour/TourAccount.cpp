@@ -70,7 +70,7 @@ bool isWaiting(const QWidget *dialog, const char *role)
     return box && box->isVisible() && box->toPlainText() == waiting;
 }
 
-/// Returns whether the dialog does not wait for any answer.
+/// Returns true if the window does not wait for any reply.
 bool isAtRest(const QWidget *dialog)
 {
     const QLineEdit *pin = part<QLineEdit>(dialog, "ChargeEdit");
@@ -102,7 +102,7 @@ QWidget *openAccount(TourGuide &guide, PAID_TYPE type)
     return guide.open(type, DIALOG, type == PAID_TYPE_PREPAID ? "prepaid" : "postpaid");
 }
 
-/// Opens the window, and takes a picture when its answers have arrived.
+/// Opens the window and takes a picture after its replies have arrived.
 bool showAnswered(TourGuide &guide, PAID_TYPE type, const TourStop &stop)
 {
     const QWidget *dialog = openAccount(guide, type);

@@ -76,7 +76,7 @@ QString textOf(const QWidget *widget)
         return button->text().isEmpty() ? QString()
                                         : QLatin1Char('[') + button->text() + QLatin1Char(']');
     if (const QLineEdit *edit = qobject_cast<const QLineEdit *>(widget))
-        return edit->displayText(); // does not contain a PIN in plain text, unlike text()
+        return edit->displayText(); // unlike text(), does not contain a PIN in plain text
     if (const QTextEdit *edit = qobject_cast<const QTextEdit *>(widget))
         return edit->toPlainText();
     if (const QPlainTextEdit *edit = qobject_cast<const QPlainTextEdit *>(widget))

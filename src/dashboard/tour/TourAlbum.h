@@ -11,25 +11,25 @@ namespace Dashboard
 {
 
 /**
- * A stop of the tour: the suffix of the file name of its picture, and the caption of the picture.
+ * A stop of the tour: the suffix for the file name of its picture, and the caption of the picture.
  */
 struct TourStop {
     const char *name;
     const char *caption;
 };
 
-/** Writes the tour's pictures and its transcript. Prints write errors to standard error. */
+/** Writes the tour's pictures and transcript. Prints write errors to standard error. */
 class TourAlbum
 {
 public:
     explicit TourAlbum(const QString &folder);
 
     bool makeFolder();
-    /// Sets the language code for the names of the following pictures.
+    /// Sets the language code for the file names of the following pictures.
     void setLanguage(const QString &code) { m_language = code; }
 
-    /// Adds a picture of `place` and the text that can be read in it. Returns false if the picture
-    /// cannot be written.
+    /// Adds a picture of `place` and the text that is visible in the picture. Returns false if the
+    /// picture cannot be written.
     bool add(const QPixmap &picture, const char *place, const TourStop &stop, const QString &text);
     bool writeTranscript();
     int pictures() const { return m_pictures; }
@@ -45,7 +45,7 @@ private:
     QStringList m_transcript; // lines
 };
 
-/// Returns the visible texts of the widget and its descendants, from top to bottom, one line each.
+/// Returns the visible texts of the widget and its descendants from top to bottom, one per line.
 QString shownText(const QWidget *widget);
 
 } // namespace Dashboard

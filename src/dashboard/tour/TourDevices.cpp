@@ -51,7 +51,7 @@ const TourChange SPEAKING[] = {{"# ---- services", "\n",
 const TourChange KNOWN_HOME[] = {{"[Network]", "State=registered", "HomeNetwork=00101"},
                                  {"[Network]", "Operator=Meridian Mobile", "Operator=Roamtel"}};
 
-/** Makes the dashboard show devices that this machine does not have. */
+/** Makes the dashboard show devices that this computer does not have. */
 class Show
 {
 public:

@@ -85,7 +85,7 @@ int firstFreeRow(const QTableWidget *table)
     return row;
 }
 
-/// Enters the text as a user does: opens the cell, types, and presses Return.
+/// Enters the text as a user would: opens the cell, types, and presses Return.
 bool enter(QTableWidget *table, int row, int column, const QString &text)
 {
     QTableWidgetItem *item = itemAt(table, row, column);

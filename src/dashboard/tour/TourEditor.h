@@ -13,7 +13,7 @@ namespace Dashboard
 class TourGuide;
 
 /**
- * Opens the editor of the user's own codes from the page, and performs a walk while the editor is
+ * Opens the editor for the user's own codes from the page, and runs a walk while the editor is
  * open.
  */
 class TourEditor : public QObject
@@ -25,7 +25,7 @@ public:
     /// `guide` must outlive this object.
     explicit TourEditor(TourGuide *guide);
 
-    /// Opens the editor and returns when it is closed. Returns whether the walk succeeded.
+    /// Opens the editor and returns when it has been closed. Returns true if the walk succeeded.
     bool visit(Walk walk, const TourStop &stop);
 
 private slots:

@@ -23,7 +23,8 @@ const TourStop CONFIRM = {"confirm", "whether the history is to be cleared"};
 const TourStop CLEARED = {"cleared", "the history is empty again"};
 const TourStop OTHER_SIM = {"other-sim", "another SIM, with the windows that go with it"};
 
-// The questions of the tour. A picture is also taken while the first question waits for its answer.
+// The codes and answers that the tour sends. A picture is also taken while the first reply is
+// pending.
 const Question QUESTIONS[] = {
     {"*100#", {"answered", "the network's reply"}},
     {"*123#", {"menu", "the network's menu, to be answered"}},
@@ -54,7 +55,7 @@ bool ask(TourGuide &guide, const GeneralWindow &general, const Question &questio
     return waitForAnswer(guide, general) && guide.take(question.stop);
 }
 
-// Clears the transcript. The click returns when the confirmation box has been answered.
+// Clears the transcript. click() returns after the confirmation box has been answered.
 bool clearTranscript(TourGuide &guide, const GeneralWindow &general)
 {
     if (!general.clearButton())

@@ -22,7 +22,7 @@ const int LIMIT = 10 * TourGuide::REPLY_LIMIT; // ms
 const char CONFIGURATION[] = "USSDPluginConfig.xml";
 const char NETWORK[] = "tour.scenario";
 
-/// Draws the box, with a line around it, in the middle of the picture.
+/// Draws the box, with a border around it, in the middle of the picture.
 QPixmap laidOver(QPixmap below, const QPixmap &box)
 {
     QRect place(QPoint(), box.size());
@@ -33,7 +33,7 @@ QPixmap laidOver(QPixmap below, const QPixmap &box)
     return below;
 }
 
-/// Draws the widget at its position over the window, or at the nearest one inside the picture.
+/// Draws the widget at its position over the window, or at the nearest position inside the picture.
 QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
 {
     QPoint place = over->mapToGlobal(QPoint()) - window->mapToGlobal(QPoint());
@@ -81,7 +81,7 @@ bool TourGuide::useNetwork(const TourChange *changes, int count)
     m_deviceLost = false;
     if (!m_window->useScenario(m_library->fileName(name)))
         return TourAlbum::fail("SCENARIO_UNUSABLE", name);
-    // Commands that were sent before the device was lost end because of the network change.
+    // Commands that were sent before the device was lost end because of the change of network.
     return waitFor([this] { return m_deviceLost; });
 }
 
@@ -178,8 +178,8 @@ bool TourGuide::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// Answers the message box. An unexpected box is closed as well, because otherwise the tour would
-// never end.
+// Answers the message box. An unexpected message box is also closed, because otherwise the tour
+// would never end.
 void TourGuide::onBox()
 {
     if (!m_box || !m_box->isVisible())

@@ -23,9 +23,9 @@ struct TourChange {
 };
 
 /**
- * Operations that the parts of the tour share. They set up the dashboard, the plug-in and the
- * network, and add pictures to the album. Must be used on the GUI thread. Processes events while it
- * waits.
+ * Operations shared by the parts of the tour. They set up the dashboard, the plug-in and the
+ * network, and add pictures to the album. Events are processed during waits. All functions must be
+ * called from the GUI thread.
  */
 class TourGuide : public QObject
 {
@@ -48,12 +48,13 @@ public:
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 
-    /// Sets the widget that the next pictures show. `place` becomes part of the file names of the
-    /// pictures.
+    /// Sets the widget that the following pictures show. `place` becomes part of the file names of
+    /// the pictures.
     void visit(QWidget *shown, const char *place);
     QWidget *shown() const { return m_shown; }
-    /// Opens a window of the plug-in, a PAID_TYPE, and visits the frame that contains a widget of
-    /// this name. Returns the widget. If there is no such widget, prints an error and returns null.
+    /// Opens a window of the plug-in (a PAID_TYPE), and visits the frame that contains a widget
+    /// with this name. Returns the widget. If there is no such widget, prints an error and returns
+    /// null.
     QWidget *open(int paidType, const char *widgetName, const char *place);
     /// Closes the visited widget.
     void close();
@@ -61,18 +62,19 @@ public:
     bool take(const TourStop &stop);
     /// Takes a picture with a menu or dialog that is open over the visited widget.
     bool takeWith(QWidget *over, const TourStop &stop);
-    /// Takes a picture of the next message box over the visited widget and presses its first
-    /// button.
+    /// Takes a picture of the next message box over the visited widget and presses the first button
+    /// of the message box.
     void expectBox(const TourStop &stop);
-    /// Returns whether the expected message box was shown and its picture was taken.
+    /// Returns true if the expected message box was shown and its picture was taken.
     bool sawBox() const { return m_boxStop.name && m_boxTaken; }
 
-    /// Waits until the condition is true. If it is not true in time, prints an error and returns
-    /// false.
+    /// Waits until the condition is true. If it does not become true in time, prints an error and
+    /// returns false.
     bool waitFor(const std::function<bool()> &condition);
-    /// Returns whether the dashboard shows the kind of the SIM. Until then, it may use the network.
+    /// Returns true if the dashboard shows the kind of SIM. Until then, the dashboard may use the
+    /// network.
     bool isPaidTypeShown() const;
-    /// Prints that the plug-in does not show the content that the tour expects, and returns false.
+    /// Prints that the plug-in does not show the contents that the tour expects. Returns false.
     bool failHere() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

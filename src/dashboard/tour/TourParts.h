@@ -6,7 +6,9 @@ namespace Dashboard
 
 class TourGuide;
 
-/** The parts of the tour. Each prints its errors and returns whether every stop was reached. */
+/**
+ * The parts of the tour. Each function prints errors and returns true if every stop was reached.
+ */
 namespace TourParts
 {
 
@@ -14,13 +16,13 @@ namespace TourParts
 bool walkGeneral(TourGuide &guide);
 /// Visits the prepaid and the postpaid window with several configurations.
 bool walkAccount(TourGuide &guide);
-/// Visits the editor of the user's own codes.
+/// Visits the editor for the user's own codes.
 bool walkEditor(TourGuide &guide);
 /// Visits the window of the operator's services.
 bool walkServices(TourGuide &guide);
 
-/// Visits the dashboard without a modem, with several modems, with a locked SIM, with messages from
-/// the network, and with an operator's codes.
+/// Visits the dashboard without a modem, with several modems, with a locked SIM, with
+/// network-initiated messages, and with an operator's codes.
 bool walkDevices(TourGuide &guide);
 
 } // namespace TourParts

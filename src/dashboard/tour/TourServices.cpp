@@ -22,7 +22,7 @@ const TourStop NOT_READY_STOP = {"sms-not-ready", "no short message can be sent 
 /** A service, identified by its position in the tree, and the actions of the tour. */
 struct Service {
     int row;
-    const char *input; // null if the service has no field or is not sent
+    const char *input; // null if the service has no input field or is not sent
     bool isSent;
     TourStop idle;
     TourStop waiting;

@@ -13,9 +13,9 @@ namespace Dashboard
 namespace
 {
 
-const int OPERATOR_MAX_WIDTH = 320; // pixels
+const int OPERATOR_MAX_WIDTH = 320; // in pixels
 const int WIDE_GAP = 18;
-const int OPERATOR_FONT_STEP = 3; // points by which the font is larger than the application's font
+const int OPERATOR_FONT_STEP = 3; // points by which the font is larger than the application font
 
 QLabel *makeLabel(const char *name, QWidget *parent)
 {

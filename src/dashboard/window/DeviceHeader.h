@@ -21,7 +21,7 @@ public:
 
     /// Shows the status. Must also be called after a language change.
     void showStatus(const DeviceStatus &status);
-    /// Shows the kind of the SIM next to the operator; an empty text hides it.
+    /// Shows the kind of SIM next to the operator. An empty string hides the label.
     void showPaidType(const QString &text);
 
 private:

@@ -13,7 +13,7 @@ namespace
 
 const char DEFAULT_NAME[] = "default";
 
-/// Returns the name with "&" escaped, which would otherwise mark a mnemonic.
+/// Returns the name with "&" escaped, because a single "&" would mark a mnemonic.
 QString asMenuText(QString name)
 {
     return name.replace(QLatin1Char('&'), QLatin1String("&&"));

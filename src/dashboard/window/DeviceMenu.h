@@ -18,8 +18,8 @@ class DeviceMenu : public QMenu
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the checked choice and the modems to list. An open menu does not change until it is
-    /// opened again, so that no entry moves under the mouse pointer.
+    /// Sets the selected choice and the modems to list. An open menu does not change until it is
+    /// opened again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
     /// Sets the check mark of the entry for the prepaid/postpaid query.
@@ -30,13 +30,13 @@ public slots:
     void retranslate();
 
 signals:
-    /// Emitted when the user chooses a device. `word` is the word of the DeviceChoice.
+    /// Emitted when the user selects a device. `word` is the return value of DeviceChoice::word().
     void chosen(const QString &word);
-    /// Emitted when the user wants to open a scenario file.
+    /// Emitted when the user requests to open a scenario file.
     void openRequested();
     /// Emitted when the user switches the prepaid/postpaid query on or off.
     void detectionToggled(bool isOn);
-    /// Emitted when the user wants to choose an operator's codes.
+    /// Emitted when the user requests to select an operator's codes.
     void operatorRequested();
 
 private slots:

@@ -22,7 +22,7 @@ public:
     explicit DeviceNotice(const DeviceWatcher *device, QWidget *parent = nullptr);
 
 public slots:
-    /// Updates the notice from the device's status and the current language.
+    /// Updates the notice according to the device's status and the current language.
     void update();
     void askForPin();
 

@@ -8,14 +8,14 @@ class QActionGroup;
 namespace Dashboard
 {
 
-/** A menu of the languages, each by its native name. */
+/** A menu of the languages, each with its native name. */
 class LanguageMenu : public QMenu
 {
     Q_OBJECT
 public:
     explicit LanguageMenu(QWidget *parent = nullptr);
 
-    /// Updates the title and the checked language.
+    /// Updates the title and the check mark.
     void retranslate();
 
 signals:

@@ -54,7 +54,7 @@ QDateTime ownCodesTime()
     return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
 }
 
-/// Returns whether a window of this PAID_TYPE ends an open session on the device when it appears.
+/// Returns true if a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)
 {
     return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
@@ -143,7 +143,7 @@ void MainWindow::followOperator()
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(showFirstOwnCodes()));
 }
 
-/// Queues the restart, because the plug-in may still be handling the event that led to it.
+/// Queues the restart, because the plug-in may still be handling the event that caused it.
 void MainWindow::beginAnew()
 {
     m_isRestartDue = true;
@@ -263,7 +263,8 @@ void MainWindow::showPage(bool shown)
         m_page->hidePage();
     m_buttons->setPageShown(shown);
     const GeneralWindow general(page());
-    // The host must handle the close button of an embedded window, because the plug-in does not.
+    // The host must handle the close button of an embedded window, because the plug-in does not
+    // handle it.
     if (QPushButton *close = general.closeButton())
         connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
     followCommands(general);
@@ -305,8 +306,9 @@ void MainWindow::openAwaitedFrame()
         openFrameNow(paidType);
 }
 
-/// Shows the general window, whose entry field accepts the answer. Showing it does not end the
-/// session. A visible window is left unchanged, so that text that the user is typing is kept.
+/// Shows the general window, whose input field accepts the answer. This does not end the session. A
+/// window that is already visible is left unchanged, so that the text that the user is typing is
+/// kept.
 void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
                                  bool waitsForAnswer)
 {

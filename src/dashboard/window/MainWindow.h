@@ -34,21 +34,21 @@ struct DeviceChoice;
 
 /**
  * The main window of the dashboard. It shows the device's status, a button for each window of the
- * plug-in, the page with the embedded general window, and the name of the device in the status bar.
+ * plug-in, the page with the embedded general window, and the device name in the status bar.
  */
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
     /// Both arguments must outlive the window. The plug-in must be shut down before the window is
-    /// deleted. If `settings` is null, nothing is stored.
+    /// deleted. If `settings` is null, the settings are not stored.
     MainWindow(LoadedPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
     /// Selects the simulated network of the scenario file. An empty name selects the default. On
     /// failure, shows an error, keeps the previous device and returns false.
     bool useScenario(const QString &file);
-    /// Shows the choice, which is already in use.
+    /// Shows the choice, which must already be in effect.
     void setDevice(const DeviceChoice &choice);
     /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
@@ -59,11 +59,11 @@ public:
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
-    /// Shows a problem, such as settings that cannot be written, in the window and on standard
+    /// Shows a problem, for example settings that cannot be written, in the window and on standard
     /// error.
     void showProblem(const QString &text);
     /// Loads the installed plug-in and shows its general window in the page. A failure is returned
-    /// and is also shown in the page.
+    /// and also shown in the page.
     PluginFailure loadPlugin();
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
@@ -71,12 +71,12 @@ public slots:
     void showPage(bool shown);
     /// Closes the window, even if a frame or a message box is open, and ends the program.
     void quit();
-    /// Opens a window of the plug-in, a PAID_TYPE, in a separate frame. Waits a short time if
+    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
     /// opening the frame would cancel the prepaid/postpaid query.
     void openFrame(int paidType);
 
 signals:
-    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in it.
+    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in the frame.
     void frameClosed();
 
 protected:

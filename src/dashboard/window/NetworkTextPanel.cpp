@@ -18,7 +18,7 @@ namespace
 
 const int MOST_ENTRIES = 50;
 const int LONGEST_TEXT = 10000; // characters; far more than a network can send
-const int VIEW_HEIGHT = 100;    // pixels
+const int VIEW_HEIGHT = 100;    // in pixels
 const QChar LEFT_TO_RIGHT_MARK(0x200e);
 
 bool isCodeCharacter(QChar character)
@@ -32,7 +32,7 @@ bool isCode(const QString &word)
     return word.contains(QLatin1Char('*')) || word.contains(QLatin1Char('#'));
 }
 
-/// Adds direction marks that keep codes readable from left to right in a right-to-left paragraph.
+/// Adds direction marks so that codes are read from left to right in a right-to-left paragraph.
 QString withReadableCodes(const QString &text)
 {
     QString result;

@@ -13,9 +13,9 @@ namespace Dashboard
 {
 
 /**
- * Shows the messages that the network sends of its own accord, as plain text with the time of each
- * message, and scrolls to the newest. The panel appears with the first message, does not take the
- * focus, and discards its messages when it is closed. Its size does not depend on the messages.
+ * Shows network-initiated messages as plain text with the time of each message, and scrolls to the
+ * most recent message. The panel appears with the first message and does not take the focus. It
+ * discards its messages when it is closed. The size of the panel does not depend on the messages.
  */
 class NetworkTextPanel : public QFrame
 {
@@ -23,7 +23,7 @@ class NetworkTextPanel : public QFrame
 public:
     explicit NetworkTextPanel(QWidget *parent = nullptr);
 
-    /// Adds a message. An empty text means that the text is no longer available.
+    /// Adds a message. An empty `text` means that the text is no longer available.
     void add(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
     /// Updates the panel's own texts after a language change.
     void retranslate();

@@ -12,8 +12,8 @@ namespace Dashboard
 {
 
 /**
- * A line in the main window with a notice and buttons to respond to it. It is visible only while it
- * has a text, and does not take the focus.
+ * A line in the main window with a notice and buttons to respond to the notice. The line is visible
+ * only while it has a text, and does not take the focus.
  */
 class NoticeBar : public QFrame
 {
@@ -21,15 +21,15 @@ class NoticeBar : public QFrame
 public:
     explicit NoticeBar(const char *objectName, QWidget *parent = nullptr);
 
-    /// Shows the plain text. An empty text hides the line.
+    /// Shows the text as plain text. An empty string hides the line.
     void setText(const QString &text);
     QString text() const;
     /// Makes the line as low as its content allows.
     void setCompact();
     /// Adds a button after the text. The bar owns the button, which is hidden until setButtonText()
-    /// gives it a text.
+    /// sets its text.
     QPushButton *addButton(const char *objectName);
-    /// Sets the text and shows the button. An empty text hides the button.
+    /// Sets the text and shows the button. An empty string hides the button.
     static void setButtonText(QPushButton *button, const QString &text);
 
 private:

@@ -15,8 +15,8 @@ namespace Dashboard
 namespace
 {
 
-const int WIDTH = 380;       // pixels
-const int LIST_HEIGHT = 180; // pixels; a longer list can be scrolled
+const int WIDTH = 380;       // in pixels
+const int LIST_HEIGHT = 180; // in pixels; a longer list can be scrolled
 
 } // namespace
 
@@ -65,8 +65,8 @@ void OperatorDialog::layOut()
     m_list->setFocus();
 }
 
-/// Selects the operator in use. If it is not in the list, no row is selected, and the OK button is
-/// disabled.
+/// Selects the current operator. If the operator is not in the list, no row is selected, and the OK
+/// button is disabled.
 void OperatorDialog::select(const QString &current)
 {
     for (int i = 0; i < m_candidates.size(); ++i) {

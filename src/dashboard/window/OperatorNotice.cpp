@@ -124,7 +124,7 @@ void OperatorNotice::onChosen()
     m_isOperatorChosen = m_dialog->choosesOperator();
     m_chosen = m_dialog->provider();
     QMetaObject::invokeMethod(this, "useChosen",
-                              Qt::QueuedConnection); // called after the dialog has closed
+                              Qt::QueuedConnection); // called after the dialog has been closed
 }
 
 void OperatorNotice::useChosen()

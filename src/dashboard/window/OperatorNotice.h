@@ -25,7 +25,7 @@ public:
     explicit OperatorNotice(OperatorCodes *codes, QWidget *parent = nullptr);
 
 public slots:
-    /// Proposes codes unless the user has already decided for this SIM's network.
+    /// Suggests codes unless the user has already decided for this SIM's network.
     void propose();
     /// Opens the dialog in which the user chooses an operator.
     void choose();

@@ -61,8 +61,8 @@ bool PageArea::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-/// Returns the plug-in's window, which is the only child of the canvas that this class did not
-/// create.
+/// Returns the plug-in's window, which is the only child of the canvas that was not created by this
+/// class.
 QWidget *PageArea::page() const
 {
     for (QObject *child : m_canvas->children()) {

@@ -11,8 +11,8 @@ namespace Dashboard
 class LoadedPlugin;
 
 /**
- * Contains the plug-in's embedded general window. The window fills the area and follows its size.
- * The area can be scrolled if it is smaller than the window's minimum size.
+ * Contains the plug-in's embedded general window. The window fills the area and is resized with the
+ * area. If the area is smaller than the window's minimum size, the area can be scrolled.
  */
 class PageArea : public QScrollArea
 {
@@ -23,7 +23,7 @@ public:
 
     void showPage();
     void hidePage();
-    /// Shows a plain text instead of the page. An empty text shows nothing.
+    /// Shows a plain text instead of the page. An empty string leaves the area empty.
     void showText(const QString &text);
     /// Returns the parent of the plug-in's window.
     QWidget *canvas() const { return m_canvas; }

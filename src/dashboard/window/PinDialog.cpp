@@ -18,7 +18,7 @@ namespace
 
 const int SHORTEST = 4; // digits of a PIN (3GPP TS 31.101, 9.4)
 const int LONGEST = 8;
-const int TEXT_WIDTH = 360; // pixels
+const int TEXT_WIDTH = 360; // in pixels
 
 QLabel *makeLabel(const char *name, QWidget *parent)
 {
@@ -29,8 +29,8 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
-/// Overwrites the memory of the text. No other QString may share it, because otherwise only a copy
-/// is overwritten.
+/// Overwrites the memory of the string. The string must not be shared implicitly with another
+/// QString, because otherwise only a copy is overwritten.
 void writeOver(QString *secret)
 {
     secret->fill(QLatin1Char('0'));
@@ -123,7 +123,8 @@ void PinDialog::showTries()
     m_tries->setVisible(!m_tries->text().isEmpty());
 }
 
-/// Shows the message; null clears it. The dialog keeps its width, and its height grows.
+/// Shows the message whose text key is `key`. Null clears the message. The dialog keeps its width
+/// and increases its height if necessary.
 void PinDialog::say(const char *key)
 {
     m_messageKey = key;
@@ -172,8 +173,8 @@ void PinDialog::setWaiting(bool waiting)
         m_edit->setFocus(Qt::OtherFocusReason);
 }
 
-/// Reports the result of the PIN check. As long as the device reports no problem, the check is
-/// still running.
+/// Reports the result of the PIN check. While the device does not report a problem, the check is
+/// still in progress.
 void PinDialog::onDeviceChanged()
 {
     const DeviceStatus &now = m_device->status();

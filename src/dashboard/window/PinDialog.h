@@ -14,10 +14,10 @@ namespace Dashboard
 class DeviceWatcher;
 
 /**
- * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
- * no longer waits for a PIN. The PIN is not stored. When the PIN has been sent, and when the dialog
- * closes, the field is cleared and the memory of its text is overwritten. Must be used on the GUI
- * thread.
+ * Requests the PIN of a locked SIM. The dialog remains open after a wrong PIN and closes when the
+ * SIM no longer waits for a PIN. The PIN is not stored. When the PIN has been sent and when the
+ * dialog is closed, the field is cleared and the memory of the PIN is overwritten. All functions
+ * must be called from the GUI thread.
  */
 class PinDialog : public QDialog
 {
@@ -50,7 +50,7 @@ private:
     QString takePin();
 
     const DeviceWatcher *const m_device;
-    QTimer m_answerLimit; // runs while an answer is awaited
+    QTimer m_answerLimit; // runs while the result of the PIN check is pending
     const char *m_messageKey = nullptr;
     QLabel *m_question;
     QLabel *m_label;

@@ -17,8 +17,8 @@ namespace
 
 enum Answer { NoAnswer, Yes, No };
 
-/// Shows the question and returns the user's answer. Escape and the window's close button are
-/// treated as no answer, so that nothing is deleted by accident.
+/// Shows a message box and returns the user's choice. Escape and the window's close button are
+/// treated as no answer, so that nothing is deleted accidentally.
 Answer ask(const QString &text)
 {
     const QPointer<HostCore::MessageBox> box(

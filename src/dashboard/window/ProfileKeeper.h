@@ -10,7 +10,7 @@ namespace Dashboard
 
 /**
  * Keeps the backup copy of the user's own codes up to date, and offers to restore it if the codes
- * are missing or damaged. Must be used on the GUI thread.
+ * are missing or damaged. All functions must be called from the GUI thread.
  */
 class ProfileKeeper : public QObject
 {
@@ -19,16 +19,16 @@ public:
     explicit ProfileKeeper(const ProfileBackup &backup, QObject *parent = nullptr);
 
 public slots:
-    /// Asks the user whether to restore the copy if the codes are missing or damaged, updates the
-    /// copy and emits ready(). Must be called before the plug-in reads the codes.
+    /// If the codes are missing or damaged, asks the user whether to restore the backup copy. Then
+    /// updates the copy and emits ready(). Must be called before the plug-in reads the codes.
     void start();
-    /// Updates the copy. Must be called whenever the codes may have been saved.
+    /// Updates the backup copy. Must be called each time the codes may have been saved.
     void refresh();
 
 signals:
     void ready();
-    /// Emitted when one of the user's files cannot be saved. `text` is the message in the current
-    /// language.
+    /// Emitted when one of the user's files cannot be saved. `text` is an error message in the
+    /// current language.
     void problem(QString text);
 
 private:

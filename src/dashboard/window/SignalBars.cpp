@@ -9,7 +9,7 @@ namespace
 {
 
 const int BARS = 5;
-const int BAR_WIDTH = 5; // pixels
+const int BAR_WIDTH = 5; // in pixels
 const int GAP = 3;
 const int HEIGHT = 20;
 const int FULL = 100;

@@ -13,8 +13,8 @@ class SignalBars : public QWidget
 public:
     explicit SignalBars(QWidget *parent = nullptr);
 
-    /// Sets the signal strength, 0 to 100. A negative value means that it is unknown; the bars are
-    /// then empty.
+    /// Sets the signal strength, 0 to 100. If the value is negative, the signal strength is
+    /// unknown, and the bars are empty.
     void setPercent(int percent);
     QSize sizeHint() const override;
 

@@ -18,22 +18,22 @@ public:
 
     /// Updates the texts after a language change.
     void retranslate();
-    /// Shows the buttons of these windows, a set of SimWindow, and hides the others.
+    /// Shows the buttons of these windows, a combination of SimWindow flags, and hides the others.
     void offer(int windows);
-    /// Sets whether the general window is shown in the page. Emits no signal.
+    /// Sets whether the general window is shown in the page. Does not emit a signal.
     void setPageShown(bool shown);
 
 signals:
-    /// Emitted when the user wants the general window to be shown in the page or hidden.
+    /// Emitted when the user requests that the general window be shown in the page or hidden.
     void pageToggled(bool shown);
-    /// Emitted when the user wants to open a window, a PAID_TYPE, in a separate frame.
+    /// Emitted when the user requests to open a window (a PAID_TYPE) in a separate frame.
     void frameRequested(int paidType);
 
 private slots:
     void onClicked();
 
 private:
-    QList<QPushButton *> m_buttons; // in the same order as the table of windows
+    QList<QPushButton *> m_buttons; // in the same order as in the table of windows
 };
 
 } // namespace Dashboard

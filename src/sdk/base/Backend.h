@@ -18,7 +18,7 @@ enum class RequestKind { NewSession, Answer };
 /// The types of a reply with a text: the values of <m> in +CUSD (3GPP TS 27.007, 7.15).
 enum UssdType { UssdFinal = 0, UssdWaitsForAnswer = 1 };
 
-/// The values of `*status` that TKSV_USSDSrv_Request sets.
+/// The values that TKSV_USSDSrv_Request stores in `*status`.
 enum RequestStatus {
     RequestAccepted = 0,
     RequestNoDevice = 1,
@@ -52,19 +52,22 @@ inline UssdReply failedReply(const Failure &failure)
     return UssdReply{failure.reason, std::string(), failure};
 }
 
-/** A short message in UTF-16. The client receives both texts back without any conversion. */
+/**
+ * A short message in UTF-16. The strings are returned to the client exactly as the client passed
+ * them.
+ */
 struct SmsMessage {
     std::u16string number;
     std::u16string text;
 };
 
-/// The results of sending a short message, which every backend uses.
+/// The result codes of sending a short message, used by every backend.
 const int SMS_SENT = 0;
 const int SMS_FAILED = 1;
 
 /**
- * The state and the properties of the device, see TKSV_DeviceInfo. Texts are UTF-8 and empty if
- * unknown.
+ * The state and the properties of the device; see TKSV_DeviceInfo. Strings are UTF-8. An unknown
+ * string is empty.
  */
 struct DeviceInfo {
     TKSV_Backend backend = TKSV_BACKEND_SIMULATOR;
@@ -95,19 +98,19 @@ inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
 }
 
 /**
- * Receives the events of a backend. The backend calls the observer on its own thread only. It never
- * calls the observer from inside a call of Backend or while it holds a lock. Each function must
- * return at once.
+ * Receives the events of a backend. The backend calls the observer only from its own thread. It
+ * never calls the observer from inside a Backend function or while it holds a lock. Each function
+ * of the observer must return immediately.
  */
 class BackendObserver
 {
 public:
     virtual ~BackendObserver() = default;
 
-    /// Reports the network's reply to a request. The observer ignores a reply to a request that has
-    /// ended.
+    /// Reports the network's reply to a request. The observer ignores the reply if the request has
+    /// already ended.
     virtual void ussdReply(RequestToken token, const UssdReply &reply) = 0;
-    /// Reports a text that the network sent of its own accord while no session was open.
+    /// Reports a network-initiated message that arrived while no session was open.
     virtual void ussdText(const UssdReply &text) = 0;
     /// Reports that the device was lost, which ends the session and the request in flight. `event`
     /// is TKSV_DEV_EVENT_GONE or TKSV_DEV_EVENT_RESET.
@@ -120,9 +123,9 @@ public:
 };
 
 /**
- * A device and its network. Every function may be called on any thread and returns at once.
- * UssdSession implements the rules of a session (answers and new codes, replaced requests, late
- * replies) for every backend.
+ * A device and its network. Every function may be called from any thread and returns immediately.
+ * The rules of a session (answers and new codes, replaced requests, late replies) are the same for
+ * every backend. UssdSession implements them.
  */
 class Backend
 {
@@ -131,8 +134,8 @@ public:
 
     /// Must be called once, before any other function. `observer` must outlive the backend.
     virtual void start(BackendObserver &observer) = 0;
-    /// Waits until the backend's thread has ended. After that, the observer is not called any more,
-    /// and requests are refused with RequestNoDevice.
+    /// Waits until the backend's thread has ended. Afterwards, the observer is not called any more,
+    /// and requests are rejected with RequestNoDevice.
     virtual void stop() = 0;
 
     /// Sends the text to the network and replaces the request in flight. A new session ends the
@@ -145,10 +148,10 @@ public:
     /// infoChanged() reports the outcome.
     virtual bool endForeignSession() = 0;
 
-    /// Returns false if no message can be sent at this time; otherwise smsFinished() reports the
+    /// Returns false if no message can be sent at this time. Otherwise, smsFinished() reports the
     /// outcome.
     virtual bool sendSms(const SmsMessage &message) = 0;
-    /// Returns false if the SIM does not wait for a PIN; otherwise infoChanged() reports the
+    /// Returns false if the SIM does not wait for a PIN. Otherwise, infoChanged() reports the
     /// outcome.
     virtual bool sendPin(const std::string &pin) = 0;
     /// Enables the device. Returns false if it is not disabled; otherwise infoChanged() reports the

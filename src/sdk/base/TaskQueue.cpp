@@ -30,14 +30,14 @@ bool TaskQueue::isCurrent() const
 
 bool TaskQueue::stop(std::chrono::milliseconds limit)
 {
-    std::deque<Task> dropped; // destroyed while the lock is not held
+    std::deque<Task> dropped; // destroyed while m_mutex is not locked
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_stopping = true;
         m_tasks.swap(dropped);
         m_wake.notify_all();
     }
-    return m_thread.finish(limit); // once m_stopping is set, start() is not called any more
+    return m_thread.finish(limit); // start() is not called any more once m_stopping is set
 }
 
 /// Returns false if the system cannot create a thread. The next task then tries again.
@@ -64,7 +64,7 @@ void TaskQueue::run()
         m_tasks.pop_front();
         lock.unlock();
         task();
-        task = nullptr; // the captured objects are destroyed while the lock is not held
+        task = nullptr; // destroys the captured objects while m_mutex is not locked
         lock.lock();
     }
 }

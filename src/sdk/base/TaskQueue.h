@@ -14,7 +14,7 @@ namespace Tksv
 
 /**
  * Runs tasks one after the other on a separate thread, in the order in which they were posted. The
- * first task starts the thread. Every function may be called on any thread, even from inside a
+ * first task starts the thread. Every function may be called from any thread, even from inside a
  * task.
  */
 class TaskQueue
@@ -22,19 +22,20 @@ class TaskQueue
 public:
     using Task = std::function<void()>;
 
-    /// `threadName` has at most 15 characters and must stay valid until the program ends.
+    /// `threadName` has at most 15 characters and must remain valid until the program ends.
     explicit TaskQueue(const char *threadName);
-    /// The destructor must not run on the queue's own thread.
+    /// The destructor must not be called from the queue's own thread.
     ~TaskQueue();
     TaskQueue(const TaskQueue &) = delete;
     TaskQueue &operator=(const TaskQueue &) = delete;
 
-    /// Adds the task. The task is dropped after stop(), or if the system cannot create a thread.
+    /// Adds the task. The task is dropped if stop() has been called or the system cannot create a
+    /// thread.
     void post(Task task);
-    /// Returns whether the function is called on the queue's thread. Returns false after stop().
+    /// Returns true if called from the queue's thread. Always returns false after stop().
     bool isCurrent() const;
-    /// Drops the waiting tasks and waits at most `limit` for a running task. Returns whether the
-    /// thread has ended; the object may be destroyed only then.
+    /// Drops the pending tasks and waits at most `limit` for a running task. Returns true if the
+    /// thread has ended. The object may be destroyed only if the function has returned true.
     bool stop(std::chrono::milliseconds limit);
 
 private:
@@ -42,7 +43,7 @@ private:
     void run();
 
     const char *const m_threadName;
-    mutable std::mutex m_mutex; // guards everything below; not held while a task runs
+    mutable std::mutex m_mutex; // guards all members below; not locked while a task runs
     std::condition_variable m_wake;
     std::deque<Task> m_tasks;
     bool m_stopping = false;

@@ -8,19 +8,20 @@
 namespace Tksv
 {
 
-/// Returns the text in UTF-8. Returns no value if the text has an unpaired surrogate or a zero code
-/// unit.
+/// Returns the string in UTF-8, or no value if the string contains an unpaired surrogate or a zero
+/// code unit.
 std::optional<std::string> toUtf8(const std::u16string &text);
-/// Returns the text in UTF-16, or no value if the text is malformed.
+/// Returns the string in UTF-16, or no value if the string is malformed.
 std::optional<std::u16string> toUtf16(const std::string &text);
 
-/// Returns whether the text consists of one or more ASCII digits.
+/// Returns true if the string consists of one or more ASCII digits.
 bool isDigits(const std::string &text);
 bool startsWith(const std::string &text, const std::string &start);
 bool endsWith(const std::string &text, const std::string &end);
 
-/// Copies the UTF-8 text to the `size` bytes at `target` and terminates it with a zero byte. A text
-/// that is too long is cut off at the end of a whole character. Does nothing if `size` is 0.
+/// Copies the UTF-8 string to the buffer `target` of `size` bytes and terminates it with a zero
+/// byte. A string that is too long is truncated after a complete character. Does nothing if `size`
+/// is 0.
 void copyText(const std::string &text, char *target, std::size_t size);
 
 } // namespace Tksv

@@ -10,7 +10,7 @@ namespace Tksv
 {
 
 /**
- * Records whether the body has returned. The thread shares this object and may outlive the
+ * Records whether `body` has returned. The thread shares this object and may outlive the
  * WorkerThread.
  */
 struct WorkerThread::Ended {
@@ -35,7 +35,9 @@ struct WorkerThread::Ended {
 namespace
 {
 
-/** Blocks all signals during its lifetime. A new thread inherits the signal mask of its creator. */
+/**
+ * Blocks all signals while the object exists. A new thread inherits the signal mask of its creator.
+ */
 class AllSignalsBlocked
 {
 public:

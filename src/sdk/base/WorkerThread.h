@@ -11,7 +11,7 @@ namespace Tksv
 
 /**
  * A thread of the library. The thread blocks all signals, so that the client's own threads handle
- * them. The class is not thread-safe; the owner's lock must guard each object.
+ * them. The class is not thread-safe. The owner's lock must guard each object.
  */
 class WorkerThread
 {
@@ -25,11 +25,11 @@ public:
     /// std::system_error if the system cannot create a thread.
     void start(const char *name, std::function<void()> body);
     bool isStarted() const { return m_thread.joinable(); }
-    /// Returns whether the function is called on this thread.
+    /// Returns true if called from this thread.
     bool isCurrent() const;
-    /// Waits at most `limit` until the body has returned. Returns whether the thread has ended. If
-    /// the body is still running, or calls this function itself, the thread is detached and the
-    /// body continues. All objects that the body uses must then stay alive.
+    /// Waits at most `limit` for `body` to return. Returns true if the thread has ended. If `body`
+    /// is still running or calls this function itself, the thread is detached and `body` continues.
+    /// All objects that `body` uses must then remain valid.
     bool finish(std::chrono::milliseconds limit);
 
 private:

@@ -6,21 +6,22 @@
 #include <memory>
 #include <utility>
 
-/* Allows closures to be the call-backs of GIO's asynchronous functions. */
+/* Lets closures serve as call-backs of GIO's asynchronous functions. */
 
 namespace Tksv
 {
 
 using AsyncDone = std::function<void(GObject *source, GAsyncResult *result)>;
 
-/// The GAsyncReadyCallback for a pointer that asyncDone() returned.
+/// The GAsyncReadyCallback for a pointer returned by asyncDone().
 inline void runAsyncDone(GObject *source, GAsyncResult *result, gpointer done)
 {
     const std::unique_ptr<AsyncDone> owned(static_cast<AsyncDone *>(done));
     (*owned)(source, result);
 }
 
-/// Returns the user data for runAsyncDone(), which deletes it. GIO calls each call-back once.
+/// Returns the user data for runAsyncDone(), which deletes it. GIO calls each call-back exactly
+/// once.
 inline gpointer asyncDone(AsyncDone done)
 {
     return new AsyncDone(std::move(done));

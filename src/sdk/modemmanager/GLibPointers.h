@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/* Smart pointers to the objects and memory of GLib. */
+/* Smart pointers to GLib objects and memory. */
 
 namespace Tksv
 {
@@ -30,14 +30,14 @@ using GVariantPtr = std::unique_ptr<GVariant, GVariantDeleter>;
 template <typename T>
 using GMemory = std::unique_ptr<T, GFreeDeleter>;
 
-/// Returns another reference to an object that somebody else owns. Returns null for null.
+/// Returns a new reference to an object that is owned elsewhere. Returns null if `object` is null.
 template <typename T>
 GObjectPtr<T> shareObject(T *object)
 {
     return GObjectPtr<T>(object ? static_cast<T *>(g_object_ref(object)) : nullptr);
 }
 
-/// Returns the text, or an empty text for null.
+/// Returns the string, or an empty string for null.
 inline std::string textOf(const char *text)
 {
     return text ? text : "";

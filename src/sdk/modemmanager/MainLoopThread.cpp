@@ -24,7 +24,7 @@ void deleteTask(gpointer task)
     delete static_cast<Task *>(task);
 }
 
-/** Blocks wait() until open() has been called. */
+/** A latch: wait() blocks until open() has been called. */
 class Latch
 {
 public:
@@ -69,14 +69,15 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Here the calls that the last task cancelled run their call-backs and release their objects.
+    // Runs the call-backs of the calls that the last task has cancelled. The call-backs release
+    // their objects.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);
 }
 
-/// Adds the task to a queue with its own lock. The thread sanitizer recognizes this lock, but not
-/// the locks inside GLib.
+/// Adds the task to a queue that has its own mutex. Unlike the locks inside GLib, this mutex is
+/// visible to the thread sanitizer.
 void MainLoopThread::post(Task task)
 {
     {
@@ -106,8 +107,8 @@ gboolean MainLoopThread::runNext(gpointer self)
     return G_SOURCE_REMOVE;
 }
 
-/// Attaches the source to the context. g_main_context_invoke() is not used, because it runs the
-/// task on the caller's thread while the loop is not running.
+/// Attaches the source to the context. g_main_context_invoke() is not used because it runs the task
+/// on the caller's thread while the loop is not running.
 void MainLoopThread::attach(GSource *source, GSourceFunc function, gpointer data,
                             GDestroyNotify destroy)
 {

@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// Returns the number of PIN attempts that are left, or -1 if it is unknown.
+/// Returns the number of remaining PIN attempts, or -1 if it is unknown.
 int pinRetriesOf(MMModem *modem)
 {
     MMUnlockRetries *retries = mm_modem_peek_unlock_retries(modem);
@@ -20,8 +20,8 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
-/// Returns whether a lock other than the PIN blocks the modem. The lock is unknown while the modem
-/// checks a PIN.
+/// Returns true if the modem is blocked by a lock other than the PIN. The lock is unknown while the
+/// modem checks a PIN.
 bool needsMoreThanPin(MMModemLock lock)
 {
     return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&
@@ -70,7 +70,7 @@ SmsSender::Listener ModemDevice::smsListener()
     return listener;
 }
 
-/// Returns the interface, or null while the modem does not have it.
+/// Returns the interface, or null if the modem does not have it at this time.
 template <typename T>
 T *ModemDevice::peek(const char *name, T *(*peekInterface)(MMObject *)) const
 {
@@ -101,7 +101,7 @@ void ModemDevice::modemChanged()
     if (now == MM_MODEM_STATE_DISABLED && std::exchange(m_enableWanted, false))
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
-        m_problem = TKSV_PROBLEM_NONE; // the modem has left the state with the problem
+        m_problem = TKSV_PROBLEM_NONE; // the modem has left the state that caused the problem
     fetchSim();
     m_listener.changed();
     if (now == MM_MODEM_STATE_DISABLED)
@@ -128,10 +128,10 @@ void ModemDevice::fetchSim()
         return;
     m_simPath = path;
     const auto done = [this, path](GObject *modem, GAsyncResult *result) {
-        ErrorSlot ignored; // without a SIM, its fields stay empty
+        ErrorSlot ignored; // without a SIM, the SIM's fields remain empty
         GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
         if (path != m_simPath)
-            return; // another SIM has been requested meanwhile
+            return; // another SIM has been requested in the meantime
         m_sim = std::move(sim);
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
@@ -152,7 +152,7 @@ void ModemDevice::sendPendingPin()
 
 void ModemDevice::sendPin(const std::string &pin)
 {
-    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second wrong PIN is a change again
+    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second wrong PIN is reported as a change
     if (!m_sim) {
         m_pendingPin = pin;
         return;

@@ -32,7 +32,7 @@ public:
 
     ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener);
 
-    /// Fetches the modem's interfaces. Must be called after construction, and whenever the
+    /// Fetches the modem's interfaces. Must be called after construction and whenever the
     /// interfaces have changed.
     void refresh();
     DeviceInfo info() const;
@@ -40,7 +40,7 @@ public:
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
-    /// Sends the PIN at once, or as soon as the SIM has been fetched.
+    /// Sends the PIN immediately, or as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
     /// Enables the modem.
     void enable();
@@ -71,13 +71,13 @@ private:
     GObjectPtr<MMModem> m_modem;
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
-    std::string m_simPath;    // D-Bus path of the SIM that was requested last
+    std::string m_simPath;    // D-Bus path of the most recently requested SIM
     std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
     bool m_enableWanted = false; // as soon as the modem with the unlocked SIM can be enabled
-    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or later
-    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the last call
+    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or higher
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the most recent call
 };
 
 } // namespace Tksv

@@ -51,7 +51,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     m_info.isLooking = m_watch.state() == ServiceState::Looking;
 }
 
-/* ---- any thread -------------------------------------------------------------------------- */
+/* ---- functions for any thread ------------------------------------------------------------ */
 
 void ModemManagerBackend::start(BackendObserver &observer)
 {
@@ -169,7 +169,7 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- on the watch's thread --------------------------------------------------------------- */
+/* ---- functions for the watch's thread ---------------------------------------------------- */
 
 /// Sends the request, or keeps it until ModemManager has reported its modems. The request fails if
 /// its modem was lost in the meantime or was never there.
@@ -243,8 +243,8 @@ void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// Ends the use of a modem that was unplugged, or whose service has ended and will find the modem
-/// again.
+/// Stops using a modem that was unplugged, or whose ModemManager has ended. A restarted
+/// ModemManager finds the modem again.
 void ModemManagerBackend::loseModem()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
@@ -275,7 +275,7 @@ void ModemManagerBackend::publish()
 }
 
 /// Reports the changes to the observer. Requests in flight fail if the registration or the USSD
-/// interface is lost, since their outcome cannot arrive any more.
+/// interface is lost, because their outcome can no longer arrive.
 void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)

@@ -14,9 +14,9 @@ namespace Tksv
 {
 
 /**
- * The backend of a modem that ModemManager controls. The backend runs on the thread of the watch.
- * The functions of Backend post a task to this thread. They take their results from the DeviceInfo
- * that the thread published last.
+ * The backend of a modem that ModemManager controls. The backend runs on the watch's thread. The
+ * functions of Backend post a task to this thread. Their results are based on the DeviceInfo that
+ * the thread published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
@@ -36,7 +36,7 @@ public:
     bool enable() override;
     DeviceInfo info() const override;
 
-    /// Handles a change that the watch has reported. Must be called on the watch's thread after
+    /// Handles a change that the watch has reported. Must be called from the watch's thread after
     /// each such change.
     void modemsChanged();
 
@@ -69,15 +69,15 @@ private:
     std::optional<Request> m_waiting; // waits until ModemManager has reported its modems
 
     // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount, so it reads them
-    // without the mutex.
-    mutable std::mutex m_mutex; // guards everything below
+    // without locking the mutex.
+    mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false;    // whether the thread has published m_info
-    unsigned m_lostModemCount = 0; // a task with an older count must not reach this modem
+    bool m_isInfoKnown = false;    // true once the thread has published m_info
+    unsigned m_lostModemCount = 0; // a task with a lower count must not reach this modem
     bool m_stopped = false;
 };
 
-/// Returns whether the daemon can safely insert the text between quotes into an AT command.
+/// Returns true if ModemManager can safely insert the string between quotes into an AT command.
 bool isSafeForModem(const std::string &text);
 
 } // namespace Tksv

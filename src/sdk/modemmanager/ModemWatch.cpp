@@ -10,19 +10,20 @@ namespace Tksv
 namespace
 {
 
-/// The watch tries several times, because a daemon that starts owns its bus name shortly before it
-/// exports its objects.
+/// The number of attempts to read the objects. A daemon that is starting acquires its bus name
+/// shortly before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
-/// Returns the number at the end of the path: ".../Modem/12" is newer than ".../Modem/3".
+/// Returns the number at the end of the object path. A modem ".../Modem/12" is newer than
+/// ".../Modem/3".
 long modemNumberOf(MMObject *object)
 {
     const std::string path = textOf(mm_object_get_path(object));
     return std::strtol(path.c_str() + path.rfind('/') + 1, nullptr, 10);
 }
 
-/// Returns the address of the system bus, or an empty text if there is no such bus.
+/// Returns the address of the system bus, or an empty string if there is no such bus.
 std::string systemBusAddress()
 {
     ErrorSlot error;
@@ -84,7 +85,7 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
-/// Stops the thread. Cancels the pending calls first, so that a daemon that does not answer cannot
+/// Stops the thread. Cancels the pending calls first, so that a daemon that does not respond cannot
 /// delay the program's exit.
 void ModemWatch::stop()
 {
@@ -99,8 +100,8 @@ void ModemWatch::stop()
     });
 }
 
-/// Opens a private connection, because the shared connection of g_bus_get() ends the program when
-/// the bus closes it.
+/// Opens a private connection. The shared connection of g_bus_get() terminates the program when the
+/// bus closes the connection.
 void ModemWatch::connectToBus()
 {
     if (m_bus && !m_isPinging)
@@ -133,8 +134,8 @@ void ModemWatch::busConnected(GDBusConnection *bus)
     pingService(START_UP_TRIES);
 }
 
-/// Queries the daemon's version without blocking. If the daemon hangs, the thread is therefore not
-/// blocked in createManager(). If the daemon is not running, the call fails at once.
+/// Queries the daemon's version asynchronously. A hanging daemon therefore cannot block the thread
+/// in createManager(). If the daemon is not running, the call fails immediately.
 void ModemWatch::pingService(int triesLeft)
 {
     m_isPinging = true;
@@ -174,8 +175,8 @@ void ModemWatch::setSilent(bool isSilent)
 
 /// Creates the manager and blocks until it exists. With an asynchronous call, GLib would create the
 /// manager on a worker thread and deliver its signals to the program's main context, where no loop
-/// may run. The call never starts the daemon, because the administrator decides whether a system
-/// service runs.
+/// may be running. The call never starts the daemon, because the administrator decides whether a
+/// system service runs.
 void ModemWatch::createManager(int triesLeft)
 {
     ErrorSlot error;
@@ -194,7 +195,7 @@ void ModemWatch::createManager(int triesLeft)
     });
 }
 
-/// Clears everything that belongs to the connection. start() can then connect again.
+/// Clears all data that belong to the connection. start() can then connect again.
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();
@@ -245,7 +246,7 @@ void ModemWatch::modemChanged(GVariant *changed)
         refresh();
 }
 
-/// Returns the modems whose identifier is known, the oldest first.
+/// Returns the modems whose identifier is known, oldest first.
 std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
 {
     std::vector<GObjectPtr<MMObject>> found;

@@ -17,17 +17,19 @@
 namespace Tksv
 {
 
-/** The properties of a modem that clients see, see TKSV_Modem. */
+/** The properties of a modem that are visible to clients; see TKSV_Modem. */
 struct ModemSummary {
     std::string equipmentId; // never empty
-    std::string name;        // maker and model
+    std::string name;        // manufacturer and model
     TKSV_DeviceState state = TKSV_DEVICE_ABSENT;
 };
 
-/** The state of ModemManager. The state is Looking until ModemManager first answers. */
+/**
+ * The state of ModemManager. The state is Looking until ModemManager responds for the first time.
+ */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
-/** Watches ModemManager's modems. The watch owns the only thread that uses D-Bus. */
+/** Tracks ModemManager's modems. The watch owns the only thread that uses D-Bus. */
 class ModemWatch
 {
 public:
@@ -43,12 +45,12 @@ public:
     /// Starts to look for modems and returns at once. Another call tries again if the connection or
     /// the service was missing, and otherwise checks whether the service still answers.
     void start();
-    /// Ends the thread and releases everything that the thread holds.
+    /// Ends the thread and releases all objects that the thread holds.
     void stop();
 
-    /// Returns the modems, the oldest first. May be called on any thread.
+    /// Returns the modems, oldest first. May be called from any thread.
     std::vector<ModemSummary> modems() const;
-    /// Returns the state of ModemManager. May be called on any thread.
+    /// Returns the state of ModemManager. May be called from any thread.
     ServiceState state() const;
     /// Returns true if ModemManager is running but does not answer. May be called on any thread.
     bool isSilent() const;
@@ -58,7 +60,8 @@ public:
     /// that is registered, or the first modem if none is registered. May only be called on the
     /// D-Bus thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
-    /// Returns the modem with that D-Bus path, or null. May only be called on the D-Bus thread.
+    /// Returns the modem with the given D-Bus path, or null. May only be called from the D-Bus
+    /// thread.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
@@ -80,8 +83,8 @@ private:
     MainLoopThread m_thread;
     const Changed m_changed;
     const std::chrono::milliseconds m_silenceLimit;
-    const Cancellable m_cancellable; // for the calls that stop() must not wait for
-    bool m_started = false;          // used by start() only, whose calls never overlap
+    const Cancellable m_cancellable; // cancels calls that stop() must not wait for
+    bool m_started = false;          // used only by start(), whose calls never overlap
 
     // The following members are used only on the D-Bus thread.
     GObjectPtr<GDBusConnection> m_bus;
@@ -92,20 +95,20 @@ private:
     SignalConnections m_signals;
     SignalConnections m_modemSignals;
 
-    mutable std::mutex m_mutex; // guards everything below
+    mutable std::mutex m_mutex; // guards all members below
     std::vector<ModemSummary> m_modems;
     ServiceState m_state = ServiceState::Looking;
     bool m_isSilent = false;
 };
 
-/// Returns whether the object has that D-Bus interface at this time. libmm-glib writes a warning to
-/// stderr if a missing interface is requested.
+/// Returns true if the object currently has the given D-Bus interface. libmm-glib prints a warning
+/// to stderr if a missing interface is requested.
 bool hasInterface(MMObject *object, const char *name);
 
 /// Returns the modem's IMEI, or ModemManager's device identifier if the modem does not report its
 /// IMEI.
 std::string equipmentIdOf(MMObject *object);
-/// Returns the maker and the model.
+/// Returns the manufacturer and the model.
 std::string nameOf(MMModem *modem);
 /// Returns the state of the modem.
 TKSV_DeviceState stateOf(MMModem *modem);

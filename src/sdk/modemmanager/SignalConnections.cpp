@@ -10,7 +10,7 @@ namespace
 
 void runChanged(GDBusProxy *, GVariant *changed, GStrv, gpointer handler)
 {
-    // The handler is copied, because it may disconnect itself, which deletes the original.
+    // Copy the handler, because it may disconnect itself, which deletes the original.
     const SignalConnections::Changed copy = *static_cast<SignalConnections::Changed *>(handler);
     copy(changed);
 }
@@ -34,7 +34,8 @@ SignalConnections::~SignalConnections()
     disconnectAll();
 }
 
-/// Connects to the signal after the handlers of libmm-glib, which update its cached properties.
+/// Connects to the signal. The handler runs after the handlers of libmm-glib, which update its
+/// cached properties.
 void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
 {
     if (!proxy)
@@ -44,8 +45,8 @@ void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
                               new Changed(std::move(handler)), destroy<Changed>, G_CONNECT_AFTER));
 }
 
-/// Connects to the signal. G_CONNECT_SWAPPED passes the handler as the first argument, so
-/// runHandler() fits every signal.
+/// Connects to the signal. G_CONNECT_SWAPPED passes the handler as the first argument, so that
+/// runHandler() can be connected to any signal.
 void SignalConnections::on(gpointer object, const char *signal, Handler handler)
 {
     add(object, g_signal_connect_data(object, signal, G_CALLBACK(runHandler),

@@ -9,8 +9,7 @@ namespace Tksv
 {
 
 /**
- * Connections to signals of GObjects. The destructor disconnects the signals and releases the
- * objects.
+ * Connections to GObject signals. The destructor disconnects the signals and releases the objects.
  */
 class SignalConnections
 {
@@ -23,9 +22,9 @@ public:
     SignalConnections(const SignalConnections &) = delete;
     SignalConnections &operator=(const SignalConnections &) = delete;
 
-    /// Connects to "g-properties-changed" of a D-Bus proxy. Does nothing for null.
+    /// Connects to "g-properties-changed" of a D-Bus proxy. Does nothing if `proxy` is null.
     void onPropertiesChanged(gpointer proxy, Changed handler);
-    /// Connects to any signal and ignores its arguments.
+    /// Connects to any signal. The handler does not receive the signal's arguments.
     void on(gpointer object, const char *signal, Handler handler);
     void disconnectAll();
 

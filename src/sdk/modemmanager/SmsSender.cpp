@@ -59,7 +59,7 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
     if (!sms)
         return fail(id, error);
     if (m_inFlight.count(id) == 0)
-        return remove(sms); // reported as failed, so the client may have sent it again
+        return remove(sms); // reported as failed; the client may have sent it again
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
@@ -80,8 +80,8 @@ void SmsSender::sent(Id id, MMSms *sms, const GError *error)
     m_listener.finished(message, SMS_SENT);
 }
 
-/// Deletes the stored message, whether it was sent or not, because the SIM has little storage.
-/// Errors are ignored. The message then remains in the storage.
+/// Deletes the stored message regardless of whether it was sent, because the SIM has little
+/// storage. Errors are ignored. After an error, the message remains in the storage.
 void SmsSender::remove(MMSms *sms)
 {
     if (!m_messaging)
@@ -94,8 +94,7 @@ void SmsSender::remove(MMSms *sms)
                               asyncDone(done));
 }
 
-/// Reports that the message was not sent. `error` is null if the modem has no interface for
-/// messages.
+/// Reports that the message was not sent. `error` is null if the modem has no messaging interface.
 void SmsSender::fail(Id id, const GError *error)
 {
     const auto found = m_inFlight.find(id);

@@ -14,11 +14,11 @@ namespace Tksv
 {
 
 /**
- * Sends short messages through one modem. Each message is stored on the modem, sent, and deleted.
- * All functions must be called on the thread of the main loop.
+ * Sends short messages through one modem. Each message is stored on the modem, sent, and then
+ * deleted. All functions must be called from the thread of the main loop.
  *
  * Pending calls keep the object alive, so that stored messages are deleted even after the owner has
- * released the object. The owner must call failPending() first; after that, the listener is not
+ * released the object. The owner must call failPending() first. Afterwards, the listener is not
  * called any more.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
@@ -31,7 +31,7 @@ public:
 
     explicit SmsSender(Listener listener);
 
-    /// Sets the interface, or null while the modem has none.
+    /// Sets the messaging interface, or null while the modem does not have it.
     void setInterface(MMModemMessaging *messaging);
     bool isUsable() const { return m_messaging != nullptr; }
 

@@ -14,7 +14,7 @@ const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
 const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
 const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
 
-/// The time that the state may lag behind a reply before the channel queries the state.
+/// The time that the channel waits for the state after a reply before it queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
 /// The time within which the daemon refuses a call because another program has a session. It asks
@@ -34,7 +34,7 @@ bool contains(GVariant *changed, const char *property)
     return value != nullptr;
 }
 
-/// Returns the state from the reply of org.freedesktop.DBus.Properties.Get.
+/// Returns the state from a reply to org.freedesktop.DBus.Properties.Get.
 MMModem3gppUssdSessionState stateIn(GVariant *answer)
 {
     GVariant *state = nullptr;
@@ -51,8 +51,7 @@ UssdChannel::UssdChannel(MainLoopThread &thread, const std::string &equipmentId,
 }
 
 /// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
-/// object's proxies. The earlier proxy can still make calls, but receives no property changes any
-/// more.
+/// object's proxies. The old proxy can still make calls, but no longer receives property changes.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -66,8 +65,8 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
-/// Clears the state of the interface that was removed. Later results of its calls are ignored, and
-/// may never arrive.
+/// Clears the state of the interface that was removed. The results of its pending calls may never
+/// arrive. If they do, they are ignored.
 void UssdChannel::interfaceRemoved()
 {
     failPending(TKSV_FAILURE_DEVICE_LOST);
@@ -91,7 +90,7 @@ void UssdChannel::catchUp()
     startNext();
 }
 
-/* ---- requests of the client -------------------------------------------------------------- */
+/* ---- requests from the client ------------------------------------------------------------ */
 
 void UssdChannel::request(RequestToken token, RequestKind kind, const std::string &text)
 {
@@ -143,9 +142,9 @@ void UssdChannel::endForeignSession()
         startCancel();
 }
 
-/* ---- calls ------------------------------------------------------------------------------- */
+/* ---- calls to the daemon ----------------------------------------------------------------- */
 
-/// Starts the next call, since only one call can run at a time.
+/// Starts the next call. Only one call can run at a time.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -346,8 +345,8 @@ void UssdChannel::askForStateOfCall()
     });
 }
 
-/// Cancels the session. The cancellation ends a running call. That call then returns an error, or
-/// never returns if the port is stuck.
+/// Cancels the session, which ends a running call. The running call then returns an error, or never
+/// returns if the modem's port is stuck.
 void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
@@ -387,8 +386,8 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 /* ---- the session's state ----------------------------------------------------------------- */
 
 /// Waits until the state belongs to the reply. After a reply, the state changes from "active" to
-/// "idle" or "user response". For a quick command, the daemon may report neither change, so the
-/// channel queries the state.
+/// "idle" or "user response". If a command finishes quickly, the daemon may not report either
+/// change. Therefore, the channel queries the state.
 void UssdChannel::waitForState()
 {
     if (!m_wasActive)
@@ -400,8 +399,8 @@ void UssdChannel::waitForState()
         startLagTimer();
 }
 
-/// Starts the timer that limits the wait for the state. All commands share one timer, since every
-/// waiting timer slows down each iteration of the loop.
+/// Starts the timer that limits the wait for the state. All commands share one timer, because every
+/// pending timer slows down each iteration of the loop.
 void UssdChannel::startLagTimer()
 {
     m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
@@ -452,8 +451,8 @@ void UssdChannel::askForStateOfOthers()
     });
 }
 
-/// Handles the changed properties. A notification that is repeated word for word changes no
-/// property and is therefore not reported.
+/// Handles the changed properties. A notification that repeats the previous text exactly does not
+/// change a property and is therefore not reported.
 void UssdChannel::propertiesChanged(GVariant *changed)
 {
     const auto alive = shared_from_this();
@@ -540,8 +539,8 @@ void UssdChannel::finish(const UssdReply &reply)
 {
     const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
-    // The network asked another question immediately after the reply. The state belongs to this
-    // question, and the idle state in between was never reported.
+    // The network sent another prompt immediately after the reply. The state belongs to this
+    // prompt, and the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
     UssdReply reported = reply;
     if (isStateOfQuestion)

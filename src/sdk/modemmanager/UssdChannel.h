@@ -21,7 +21,7 @@ namespace Tksv
 /**
  * The USSD session of one modem.
  *
- * The daemon sends the reply before the new state of the session, and only the state shows whether
+ * The daemon sends the reply before it updates the session state, and only the state shows whether
  * the network waits for an answer. Therefore, the channel holds the reply back until the state is
  * no longer "active".
  *
@@ -46,8 +46,8 @@ public:
     /// `equipmentId` identifies the modem among the programs of the user.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
-    /// Sets the interface, or a newer proxy of the same interface, or null while the modem has
-    /// none.
+    /// Sets the interface, a newer proxy of the same interface, or null while the modem does not
+    /// have the interface.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
     /// Finds out whether a session is open, and starts a waiting request. Must be called after
@@ -60,9 +60,9 @@ public:
     /// Returns true if no call is running and no session has to be ended.
     bool isSettled() const { return !m_running && !m_cancelWanted && !m_cancelling; }
 
-    /// Sends the text, and replaces a request in flight.
+    /// Sends the string and replaces the request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
-    /// Ends the session and cancels the request in flight, which then receives no reply.
+    /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);

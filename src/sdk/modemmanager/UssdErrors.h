@@ -5,7 +5,7 @@
 
 #include "../base/Backend.h"
 
-/* The meaning of ModemManager's errors, which docs/modems.md lists. */
+/* The meaning of ModemManager's errors. docs/modems.md lists the errors. */
 
 namespace Tksv
 {
@@ -25,13 +25,13 @@ bool isInProgress(const GError &error);
 /// Returns true if the daemon or the modem has disappeared. A device event then ends the command.
 bool isServiceLost(const GError &error);
 
-/// Returns whether the system's policy denied the call.
+/// Returns true if the system's policy denied the call.
 bool isNotPermitted(const GError &error);
 
 /// Returns the problem to show to the user after ModemManager has not enabled the modem.
 TKSV_DeviceProblem problemOfEnableError(const GError &error);
 
-/// Returns the problem to show to the user after ModemManager has rejected a PIN.
+/// Returns the problem to report to the user after ModemManager has rejected a PIN.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
 } // namespace Tksv

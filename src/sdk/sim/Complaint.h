@@ -7,17 +7,17 @@
 namespace Tksv
 {
 
-/** A fault in a file, with a description for the author of the file. */
+/** An error in a file, with a message for the author of the file. */
 struct Complaint {
     std::string file;
-    int line = 0; // counts from 1; 0 means the whole file
+    int line = 0; // starts at 1; 0 refers to the file as a whole
     std::string text;
 };
 
-/// Returns one line "file:line: text" for each complaint, without a line feed at the end.
+/// Returns one line "file:line: text" for each complaint. The last line has no line feed.
 std::string describe(const std::vector<Complaint> &complaints);
 
-/** Collects the complaints about one file. */
+/** Collects the errors in one file. */
 class Complaints
 {
 public:
@@ -25,7 +25,7 @@ public:
     void add(int line, const std::string &text) { m_list.push_back({m_file, line, text}); }
     bool isEmpty() const { return m_list.empty(); }
     std::size_t count() const { return m_list.size(); }
-    /// Returns the complaints in the order of their lines.
+    /// Returns the complaints, sorted by line number.
     std::vector<Complaint> sorted() const;
 
 private:

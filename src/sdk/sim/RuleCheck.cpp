@@ -19,22 +19,30 @@ std::string inBraces(std::vector<std::string> names)
     return enumerate(names);
 }
 
-/** Checks the keys of one rule against each other and against the rest of the scenario. */
+/**
+ * Checks that the keys of a rule are consistent with each other and with the rest of the scenario.
+ */
 class RuleCheck
 {
 public:
-    RuleCheck(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+    RuleCheck(const Scenario &scenario, const KeyFileGroup &group, MissingGroups &missing,
+              Complaints &complaints)
         : m_scenario(scenario), m_group(group), m_rule(scenario.rules.at(group.name)),
-          m_complaints(complaints)
+          m_missing(missing), m_complaints(complaints)
     {
     }
 
-    void run()
+    void checkKeysTogether()
     {
         checkOutcome();
-        checkGoto();
+        checkGotoAlone();
         checkDigits();
         checkCredit();
+    }
+
+    void checkEachKey()
+    {
+        checkGotoTarget();
         checkPlace();
         checkReply();
         for (const char *key : {"Reply", "WrongDigits", "NotEnough"})
@@ -49,7 +57,7 @@ private:
         m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
     }
 
-    /// Adds a complaint if the group has a key that is not allowed in it.
+    /// Adds a complaint if the group contains the key although the key is not allowed there.
     void allow(const char *key, bool allowed, const std::string &where)
     {
         if (const KeyFileEntry *entry = m_group.find(key)) {
@@ -71,14 +79,23 @@ private:
         allow("Away", has("DeviceEvent"), "with DeviceEvent");
     }
 
-    void checkGoto()
+    /// Returns true the first time that the missing group is needed. Each is reported only once.
+    bool isNewlyMissing(const std::string &group) { return m_missing.insert(group).second; }
+
+    void checkGotoAlone()
+    {
+        if (has("Goto") && m_group.entries.size() > 1)
+            complain("expected no other key beside Goto");
+    }
+
+    void checkGotoTarget()
     {
         if (!has("Goto"))
             return;
-        if (m_group.entries.size() > 1)
-            complain("expected no other key beside Goto");
         const auto target = m_scenario.rules.find(m_rule.goTo);
         const int line = m_group.find("Goto")->line;
+        if (target == m_scenario.rules.end() && !isNewlyMissing(m_rule.goTo))
+            return;
         if (target == m_scenario.rules.end())
             m_complaints.add(
                 line, "Goto: expected a code or answer of this file, such as *123#, found \"" +
@@ -105,7 +122,7 @@ private:
         allow("NotEnough", has("Credit"), "with Credit");
     }
 
-    /// Checks the group of an answer against the group of its menu.
+    /// Checks an answer group against the group of its menu.
     void checkPlace()
     {
         if (kindOf(m_group.name) != GroupKind::Answer)
@@ -113,8 +130,11 @@ private:
         const std::string menu = menuOf(m_group.name);
         const std::string answer = m_group.name.substr(menu.size() + 1);
         const auto rule = m_scenario.rules.find(menu);
-        if (rule == m_scenario.rules.end())
+        const bool isMissing = rule == m_scenario.rules.end();
+        if (isMissing && isNewlyMissing(menu))
             complain("expected a group " + bracketed(menu) + ", which this is an answer to");
+        else if (isMissing)
+            return;
         else if (rule->second.outcome != Outcome::Reply || !rule->second.goTo.empty())
             complain("expected a Reply in " + bracketed(menu) + ", which this is an answer to");
         const bool isPlain = !answer.empty() && answer.find('%') == std::string::npos;
@@ -161,14 +181,19 @@ private:
     const Scenario &m_scenario;
     const KeyFileGroup &m_group;
     const Rule &m_rule;
+    MissingGroups &m_missing;
     Complaints &m_complaints;
 };
 
 } // namespace
 
-void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+void checkRule(const Scenario &scenario, const KeyFileGroup &group, bool isComplete,
+               MissingGroups &missing, Complaints &complaints)
 {
-    RuleCheck(scenario, group, complaints).run();
+    RuleCheck check(scenario, group, missing, complaints);
+    if (isComplete)
+        check.checkKeysTogether();
+    check.checkEachKey();
 }
 
 } // namespace Tksv

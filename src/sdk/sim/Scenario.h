@@ -9,24 +9,24 @@
 
 #include "tksv_device.h"
 
-/* The simulated network of one operator, as plain values; see docs/scenario-file.md. */
+/* The simulated network of an operator, stored in plain value types; see docs/scenario-file.md. */
 
 namespace Tksv
 {
 
 using Milliseconds = std::chrono::milliseconds;
 
-/// An amount of money, in hundredths of the currency unit.
+/// An amount of money in hundredths of the currency unit.
 using Amount = long long;
 
-/// The time that a lost device stays away. No value means that the device never returns.
+/// The time for which a lost device is absent. No value means that the device never returns.
 using AwayTime = std::optional<Milliseconds>;
 const Milliseconds DEFAULT_AWAY(3000);
 
-/// The largest number of digits in a code. A request also has to hold a * and a #.
+/// The maximum number of digits in a code. A request also contains a * and a #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
-/** The network's reaction to a request, see docs/scenario-file.md. */
+/** The network's reaction to a request; see docs/scenario-file.md. */
 enum class Outcome {
     Reply,
     Refuse,
@@ -38,21 +38,21 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** The rule by which the network handles a code, or an answer within a menu. */
+/** The rule that determines how the network handles a code, or an answer to a menu. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
-    std::string goTo; // group whose rule is applied instead; may be empty
+    std::string goTo; // the group whose rule is applied instead; may be empty
     Milliseconds delay = Milliseconds(0);
 
-    /// The limits for the number of digits in a code with %s, and the reply if the number is
-    /// outside them.
+    /// The minimum and maximum number of digits in a code with %s, and the reply to a number of
+    /// digits outside this range.
     std::size_t minDigits = 1;
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
 
-    /// The change to the balance: `credit`, plus `creditDigits` (1, 0 or -1) times the digits in
-    /// whole units.
+    /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the value of the
+    /// digits, in whole currency units.
     Amount credit = 0;
     int creditDigits = 0;
     std::string notEnough; // the reply if the balance is too low
@@ -61,13 +61,13 @@ struct Rule {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** The rule by which the network handles short messages to a number. */
+/** The rule that determines how the network handles short messages to a number. */
 struct SmsRule {
-    int result = 0; // the `result` of TKSV_SMSSendResult
+    int result = 0; // the value of TKSV_SMSSendResult::result
     Milliseconds delay = Milliseconds(0);
 };
 
-/** A change to the device that happens at a set time after the start, and may be repeated. */
+/** A change to the device at a set time after the start. The change may be repeated. */
 struct TimedEvent {
     Milliseconds after = Milliseconds(0);
     std::optional<Milliseconds> every;
@@ -78,15 +78,15 @@ struct TimedEvent {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** A text that the network sends of its own accord, according to the rule of the group. */
+/** A network-initiated message. Its text comes from the rule of the group. */
 struct Push {
     Milliseconds after = Milliseconds(0);
     std::string group;
 };
 
-/** The content of a scenario file. */
+/** The contents of a scenario file. */
 struct Scenario {
-    std::string source; // path of the file
+    std::string source; // path of the scenario file
     std::string operatorName;
     std::string imsi;
     std::string homeNetwork; // MCC and MNC; empty if unknown
@@ -99,42 +99,24 @@ struct Scenario {
     std::string currency;
 
     std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
-    std::map<std::string, SmsRule> smsRules; // by number; the empty number is for all others
+    std::map<std::string, SmsRule> smsRules; // keyed by number; empty key: all other numbers
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };
 
-const char ANY_DIGITS[] = "%s"; // stands for digits in a code
-const char ANY_ANSWER[] = "%s"; // stands for any other answer
-
-/** The rule that matches a text of the client. */
-struct Match {
-    std::string group;  // empty if no rule matches
-    std::string digits; // the digits that %s stands for
-};
-
-/// Returns the group with exactly this code, or else the longest pattern that matches the code.
-Match findCode(const Scenario &scenario, const std::string &code);
-/// Returns the group of exactly this answer, or else the group of ANY_ANSWER.
-Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
-/// Returns whether the group has answers. If so, its reply leaves the session open.
-bool isMenu(const Scenario &scenario, const std::string &group);
-/// Returns the rule for the number, or else the rule for all other numbers.
-SmsRule findSms(const Scenario &scenario, const std::string &number);
-
-/// Returns the digits that %s stands for, or no value if the code does not match the pattern.
-std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code);
+const char ANY_DIGITS[] = "%s"; // placeholder for the digits in a code
+const char ANY_ANSWER[] = "%s"; // placeholder for any other answer
 
 /** The values of the {names} in a reply. */
 using Placeholders = std::map<std::string, std::string>;
 
-/// Returns the text with each {name} replaced with its value, and each {{ with {.
+/// Returns the string with each {name} replaced by its value, and each {{ replaced by {.
 std::string expand(const std::string &text, const Placeholders &values);
-/// Returns the names in the text. Returns no value if a { is neither part of {{ nor the start of a
-/// {name}.
+/// Returns the placeholder names in the string. Returns no value if a { is neither part of {{ nor
+/// the start of a {name}.
 std::optional<std::vector<std::string>> placeholderNames(const std::string &text);
 
-/// Returns the amount as "12.50", or as "12.50 EUR" if there is a currency.
+/// Returns the amount as "12.50", or as "12.50 EUR" if `currency` is not empty.
 std::string formatAmount(Amount amount, const std::string &currency);
 
 } // namespace Tksv

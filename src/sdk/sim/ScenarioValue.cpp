@@ -11,7 +11,8 @@ namespace
 {
 
 const int MAX_MILLISECONDS = 24 * 60 * 60 * 1000;
-/// The largest number of digits of whole units. The limit ensures that sums cannot overflow.
+/// The maximum number of digits before the decimal point. The limit ensures that sums cannot
+/// overflow.
 const std::size_t MAX_MONEY_DIGITS = 9;
 
 std::optional<int> parseInt(const std::string &text)

@@ -10,7 +10,7 @@
 namespace Tksv
 {
 
-/** A word of the file and its value. */
+/** A keyword of the scenario file and the value that it represents. */
 template <typename T>
 struct Word {
     const char *word;
@@ -21,8 +21,8 @@ struct Word {
 std::string enumerate(const std::vector<std::string> &words);
 
 /**
- * The value of one key. If the text is not valid, a function adds a complaint and returns a value
- * within its range, which the caller ignores.
+ * The value of one key. If the text is not valid, the functions add a complaint and return a value
+ * within the range, which the caller ignores.
  */
 class ScenarioValue
 {
@@ -33,7 +33,7 @@ public:
     }
 
     const std::string &text() const { return m_entry.value; }
-    /// Returns the text, which must have 1 to `maxBytes` bytes.
+    /// Returns the text, which must be 1 to `maxBytes` bytes long.
     std::string name(std::size_t maxBytes) const;
     int number(int min, int max) const;
     Milliseconds milliseconds() const;
@@ -58,7 +58,7 @@ public:
         return words[0].value;
     }
 
-    /// Adds a complaint with `what` as the expected value.
+    /// Adds a complaint that names `what` as the expected value.
     void expected(const std::string &what) const;
 
 private:

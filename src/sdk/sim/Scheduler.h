@@ -14,8 +14,8 @@ namespace Tksv
 {
 
 /**
- * Runs tasks after a delay, one after the other, on a separate thread, which the first task starts.
- * Tasks that are due at the same time run in the order of the calls to after().
+ * Runs tasks after a delay, one after the other, on a separate thread. The first task starts the
+ * thread. Tasks that are due at the same time run in the order in which they were scheduled.
  */
 class Scheduler
 {
@@ -25,11 +25,11 @@ public:
     Scheduler(const Scheduler &) = delete;
     Scheduler &operator=(const Scheduler &) = delete;
 
-    /// Schedules the task. May be called on any thread. Does nothing after stop().
+    /// Schedules the task. May be called from any thread. Does nothing after stop().
     void after(std::chrono::milliseconds delay, std::function<void()> task);
-    /// Drops the waiting tasks and waits for a running task. A task must not call this function.
+    /// Drops the pending tasks and waits for a running task. Must not be called from inside a task.
     void stop();
-    /// Reads the clock again after it has jumped.
+    /// Reads the clock again. Must be called after the clock has jumped.
     void recheckClock();
 
 private:
@@ -37,7 +37,7 @@ private:
     void run();
     void waitUntil(Time due, std::unique_lock<std::mutex> &lock);
 
-    std::mutex m_mutex; // guards everything below; not held while a task runs
+    std::mutex m_mutex; // guards all members below; not locked while a task runs
     std::condition_variable m_wake;
     std::multimap<Time, std::function<void()>> m_tasks;
     bool m_stopping = false;

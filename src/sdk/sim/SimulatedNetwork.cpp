@@ -168,7 +168,7 @@ DeviceInfo SimulatedNetwork::info() const
     return info;
 }
 
-/// Makes the change on the scheduler's thread with the lock held, and then calls the observer.
+/// Applies the change on the scheduler's thread with m_mutex locked, and then calls the observer.
 void SimulatedNetwork::schedule(Milliseconds delay, Change change)
 {
     m_scheduler.after(delay, [this, change = std::move(change)] {
@@ -182,7 +182,7 @@ void SimulatedNetwork::schedule(Milliseconds delay, Change change)
     });
 }
 
-/* ---- USSD; must be called with the lock held --------------------------------------------- */
+/* ---- USSD; must be called with m_mutex locked -------------------------------------------- */
 
 Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) const
 {
@@ -193,8 +193,8 @@ Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) cons
     return match;
 }
 
-/// Returns the rule of the match, or the rule that its Goto names. If no rule matches, the rule is
-/// a refusal.
+/// Returns the rule of the match, or the rule to which its Goto key refers. If no rule matches,
+/// returns a rule that rejects the request.
 Rule SimulatedNetwork::ruleFor(const Match &match) const
 {
     const auto found = m_scenario.rules.find(match.group);
@@ -232,8 +232,8 @@ UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
     return reply.text.empty() ? emptyReply(TKSV_FAILURE_ENDED_BY_NETWORK) : reply;
 }
 
-/// Returns the reply to the request. The text is empty if the network refuses the request after
-/// all.
+/// Returns the reply to the request. The text is empty if the rule does not provide a reply. The
+/// network then rejects the request.
 UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
 {
     const std::string &digits = request.match.digits;
@@ -271,7 +271,7 @@ Placeholders SimulatedNetwork::placeholders(const Request &request) const
                         {"answer", request.answer}};
 }
 
-/// Ends the request and the menu, and sends the texts that have waited for the end of the session.
+/// Ends the request and the menu, and sends the network-initiated messages that are due.
 void SimulatedNetwork::closeSession()
 {
     m_inFlight = 0;
@@ -292,7 +292,7 @@ void SimulatedNetwork::push(const std::string &group, Notices &notices)
     notices.push_back([=](BackendObserver &o) { o.ussdText(text); });
 }
 
-/* ---- the device; must be called with the lock held --------------------------------------- */
+/* ---- the device; must be called with m_mutex locked -------------------------------------- */
 
 void SimulatedNetwork::apply(const TimedEvent &event, Notices &notices)
 {

@@ -7,13 +7,14 @@
 #include <vector>
 
 #include "../base/Backend.h"
+#include "RuleMatching.h"
 #include "Scenario.h"
 #include "Scheduler.h"
 
 namespace Tksv
 {
 
-/** The backend that simulates a device and its operator's network from a scenario. */
+/** The backend that simulates a device and its operator's network as described by a scenario. */
 class SimulatedNetwork : public Backend
 {
 public:
@@ -31,12 +32,12 @@ public:
     DeviceInfo info() const override;
 
 private:
-    /// The calls of the observer that are made after the lock is released. Only the scheduler's
-    /// thread makes them, so the observer receives the changes in their order.
+    /// The calls to the observer that are made after m_mutex is unlocked. Only the scheduler's
+    /// thread makes these calls, so the observer receives the changes in their order.
     using Notices = std::vector<std::function<void(BackendObserver &)>>;
     using Change = std::function<void(Notices &)>;
 
-    /** The menu that waits for an answer. `group` is empty if there is none. */
+    /** The menu that waits for an answer. `group` is empty if no menu is open. */
     struct OpenMenu {
         std::string group;
         std::string digits; // the digits of the code that opened the session
@@ -70,7 +71,7 @@ private:
     const Scenario m_scenario;
     BackendObserver *m_observer = nullptr;
 
-    mutable std::mutex m_mutex; // guards everything below; not held while the observer is called
+    mutable std::mutex m_mutex; // guards all members below; not locked while the observer is called
     bool m_stopped = false;
     TKSV_DeviceState m_state;
     int m_signalPercent;
@@ -80,7 +81,7 @@ private:
     Amount m_balance;
     RequestToken m_inFlight = 0;
     OpenMenu m_menu;
-    std::vector<std::string> m_duePushes; // groups that wait for the end of a session
+    std::vector<std::string> m_duePushes; // groups of messages to send when the session ends
     unsigned m_lastSms = 0;
     std::map<unsigned, SmsMessage> m_smsInFlight;
 

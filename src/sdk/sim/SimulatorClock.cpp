@@ -20,11 +20,11 @@ SimulatorClock::Time systemTime()
 std::atomic<SimulatorClock::Source> g_source(&systemTime);
 
 /**
- * The existing schedulers. The list is never destroyed, since a network may outlive the library's
+ * The existing schedulers. The list is never destroyed, because a network may outlive the library's
  * static objects.
  */
 struct SchedulerList {
-    std::mutex mutex; // taken before the mutex of a scheduler
+    std::mutex mutex; // locked before the mutex of a scheduler
     std::set<Scheduler *> schedulers;
 };
 

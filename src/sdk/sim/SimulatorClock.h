@@ -9,8 +9,8 @@ namespace Tksv
 class Scheduler;
 
 /**
- * The clock of simulated networks: the steady system clock, or a test's clock in which hours pass
- * within seconds. May be used on any thread.
+ * The clock of simulated networks: the steady system clock, or a test clock in which hours pass
+ * within seconds. The functions may be called from any thread.
  */
 class SimulatorClock
 {
@@ -21,8 +21,8 @@ public:
     static Time now();
     /// Sets another clock, which must never run backwards. Null restores the system clock.
     static void setSource(Source source);
-    /// Notifies every scheduler that the clock has jumped. Must be called after a test has advanced
-    /// its clock.
+    /// Notifies every scheduler that the clock has jumped. A test must call this function after it
+    /// has advanced its clock.
     static void notifyJump();
 
 private:

@@ -6,7 +6,7 @@
 namespace Tksv
 {
 
-/// Reads a regular file of at most 1 MiB. Returns an empty text on success, otherwise the reason
+/// Reads a regular file of at most 1 MiB. Returns an empty string on success, otherwise the reason
 /// for the failure.
 std::string readTextFile(const std::string &path, std::string &text);
 

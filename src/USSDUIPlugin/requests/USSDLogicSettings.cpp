@@ -1,6 +1,6 @@
 /*
- * The part of USSDLogic that decides when the configuration file is read, and that returns the
- * settings in this file. PluginConfig.cpp reads the sections.
+ * The part of USSDLogic that controls when the configuration file is read, and that returns the
+ * settings from this file. PluginConfig.cpp reads the sections.
  */
 #include "USSDLogic.h"
 
@@ -27,7 +27,7 @@ bool isPaidType(int paidType)
            static_cast<unsigned int>(PluginConfig::PAID_TYPES);
 }
 
-/// Returns one of the two attributes that every component has, or -1 for any other attribute.
+/// Returns one of the two attributes that all components have, or -1 for any other attribute.
 template <typename Component>
 int commonIntAttr(const Component &component, int attr)
 {
@@ -36,6 +36,19 @@ int commonIntAttr(const Component &component, int attr)
     if (attr == ATTR_POS)
         return component.pos;
     return -1;
+}
+
+/// Opens the configuration file and passes its reader to `read`. The log lines name `function`.
+template <typename Read>
+void readConfigurationFile(USSDLogic &logic, const char *function, const Read &read)
+{
+    USSD_LOG_SCOPE_AS(function);
+    QXmlStreamReader reader;
+    QFile file;
+    if (logic.openXMLFile(reader, file))
+        read(reader);
+    else
+        USSD_LOG_NO_EXIT(); // openXMLFile() has logged the reason
 }
 
 } // namespace
@@ -54,7 +67,10 @@ bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
         USSD_LOG_IMPORTANT(" Exit: XML File is not opened");
         return false;
     }
-    reader.setDevice(&file);
+    ForwardXml::start(reader, file);
+    if (reader.hasError())
+        USSD_LOG_IMPORTANT(" %s: %s", path.toLocal8Bit().constData(),
+                           reader.errorString().toLocal8Bit().constData());
     return true;
 }
 
@@ -65,14 +81,8 @@ void USSDLogic::skipReaderTillString(QXmlStreamReader &reader, QString name)
 
 void USSDLogic::load()
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    readConfiguration(reader, m_config);
+    readConfigurationFile(
+        *this, __func__, [this](QXmlStreamReader &reader) { readConfiguration(reader, m_config); });
 }
 
 void USSDLogic::loadSendCharSettings(QXmlStreamReader &reader)
@@ -102,46 +112,31 @@ void USSDLogic::loadAutoUssdSettings(QXmlStreamReader &reader)
 
 void USSDLogic::GetCharSet(_CHAR_SET_COLOR which, Char &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    if (which == CHAR_SET_SEND) {
-        loadSendCharSettings(reader);
-        out = m_config.sentChar;
-    } else if (which == CHAR_SET_RECEIVE) {
-        loadRecvCharSettings(reader);
-        out = m_config.receivedChar;
-    }
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        if (which == CHAR_SET_SEND) {
+            loadSendCharSettings(reader);
+            out = m_config.sentChar;
+        } else if (which == CHAR_SET_RECEIVE) {
+            loadRecvCharSettings(reader);
+            out = m_config.receivedChar;
+        }
+    });
 }
 
 void USSDLogic::GetClearBtnSetting(ClearHistory &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    loadClearBtnSettings(reader);
-    out = m_config.clearHistory;
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        loadClearBtnSettings(reader);
+        out = m_config.clearHistory;
+    });
 }
 
 void USSDLogic::GetCmdEditSetting(CmdEdit &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    loadCmdEditSettings(reader);
-    out = m_config.cmdEdit;
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        loadCmdEditSettings(reader);
+        out = m_config.cmdEdit;
+    });
 }
 
 void USSDLogic::GetPrePostDiffer(PrePostDiffer &out)

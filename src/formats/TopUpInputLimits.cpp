@@ -1,4 +1,4 @@
-#include "ChargeRules.h"
+#include "TopUpInputLimits.h"
 
 #include <QRegExp>
 
@@ -7,23 +7,23 @@
 namespace Formats
 {
 
-int longestCharge(const ChargeRules &rules)
+int longestCharge(const TopUpInputLimits &rules)
 {
     return qMax(rules.length, 0);
 }
 
-bool isChargeLongEnough(const ChargeRules &rules, int characters)
+bool isChargeLongEnough(const TopUpInputLimits &rules, int characters)
 {
     return characters >= qMin(longestCharge(rules), rules.minlenth);
 }
 
-QString chargeExpression(const ChargeRules &rules)
+QString chargeExpression(const TopUpInputLimits &rules)
 {
     return QLatin1Char('[') + rules.limitText + QLatin1String("]{0,") +
            QString::number(qMin(rules.length, SmsLayoutFile::MAX_INPUT_LENGTH)) + QLatin1Char('}');
 }
 
-bool isChargeExpressionUsable(const ChargeRules &rules)
+bool isChargeExpressionUsable(const TopUpInputLimits &rules)
 {
     return SmsLayoutFile::isCharacterClass(rules.limitText) &&
            QRegExp(chargeExpression(rules)).isValid();

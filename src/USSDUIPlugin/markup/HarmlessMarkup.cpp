@@ -1,9 +1,11 @@
-#include "MarkupEscaping.h"
+#include "HarmlessMarkup.h"
 
 #include <algorithm>
 #include <iterator>
 
 #include <QByteArray>
+#include <QImage>
+#include <QTextDocument>
 
 namespace
 {
@@ -39,7 +41,8 @@ bool endsName(const QString &text, int place)
            unit == QLatin1Char('=');
 }
 
-/// Returns true for white space other than a line feed, which the transcript replaces with a tag.
+/// Returns true if the character is white space other than a line feed. The transcript replaces
+/// line feeds with tags.
 bool isBlank(QChar unit)
 {
     return unit.isSpace() && unit != QLatin1Char('\n');
@@ -64,8 +67,8 @@ int nameEnd(const QString &text, int begin)
     return end;
 }
 
-/// Returns true if a quotation begins at `place`. A quotation mark begins a quotation only at the
-/// start of a word, as in `size="2"`.
+/// Returns true if a quoted value begins at `place`. A quotation mark begins a quoted value only at
+/// the start of a word, as in `size="2"`.
 bool opensQuote(const QString &text, int place)
 {
     const QChar unit = text.at(place);
@@ -74,7 +77,7 @@ bool opensQuote(const QString &text, int place)
            (before.isSpace() || before == QLatin1Char('='));
 }
 
-/// Returns true if a ">" outside quotations ends the tag before another tag or a line feed begins.
+/// Returns true if the tag is closed by an unquoted ">" before another tag or a line feed begins.
 bool hasEnd(const QString &text, int place)
 {
     for (int i = place; i < text.length(); ++i) {
@@ -97,10 +100,10 @@ bool beginsTag(const QString &text, int bracket)
 
 } // namespace
 
-namespace MarkupEscaping
+namespace HarmlessMarkup
 {
 
-QString withOthersAsLetters(const QString &text)
+QString withStrayBracketsEscaped(const QString &text)
 {
     QString result;
     result.reserve(text.length());
@@ -113,4 +116,18 @@ QString withOthersAsLetters(const QString &text)
     return result;
 }
 
-} // namespace MarkupEscaping
+bool mayKeepMarkup(const MarkupCost &cost, const MarkupCost &before, bool isInPieces)
+{
+    return cost.isBearable(before) && (!isInPieces || cost.tags == 0);
+}
+
+QVariant emptyResource(int type)
+{
+    if (type != QTextDocument::ImageResource)
+        return QString(QLatin1String(""));
+    QImage pixel(1, 1, QImage::Format_ARGB32_Premultiplied);
+    pixel.fill(0);
+    return pixel;
+}
+
+} // namespace HarmlessMarkup
