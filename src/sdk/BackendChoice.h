@@ -1,33 +1,27 @@
 #ifndef TKSV_INTERNAL_BACKENDCHOICE_H
 #define TKSV_INTERNAL_BACKENDCHOICE_H
 
-#include <atomic>
 #include <memory>
 #include <mutex>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "base/Backend.h"
-#include "base/TaskQueue.h"
 #include "modemmanager/ModemWatch.h"
 
 namespace Tksv
 {
 
 class ModemManagerBackend;
-class SimulatedNetwork;
-class WaitingDevice;
 
 /**
- * Decides which backend is the device: the backend that $TKSV_BACKEND or the client selects,
- * otherwise a modem if there is one. The backend is created when it is first needed and can be
- * replaced at any time.
+ * Decides which backend is the device: the backend that the environment or the client selects,
+ * otherwise a modem. The simulator is used only if it was selected. The backend is created when it
+ * is first needed and can be replaced at any time.
  *
  * Locks: m_switchMutex is held while a backend is replaced. It is taken before every lock of the
  * session, the backends and the services; m_mutex is taken after all of these. The watch's thread
- * takes only m_mutex. reconsider() needs m_switchMutex, which it may have to wait for, so it runs
- * on the thread of m_tasks.
+ * takes only m_mutex.
  */
 class BackendChoice
 {
@@ -45,9 +39,10 @@ public:
     /// Switches to the network of a scenario file. An empty path selects the initial scenario.
     /// Returns an empty text on success, otherwise the complaints about the file.
     std::string useScenario(const std::string &path);
-    /// Switches to a modem. An empty identifier selects the modem that was found first.
+    /// Switches to a modem. An empty identifier selects the first modem that is registered, or the
+    /// first modem that was found if none is registered.
     void useModem(const std::string &equipmentId);
-    /// Switches back to the choice that the program started with.
+    /// Switches back to the device that the program started with.
     void useAutomatic();
     /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
     void lookAgain();
@@ -58,37 +53,32 @@ public:
     void stop();
 
 private:
-    enum class Mode { Automatic, Simulator, ModemManager };
+    enum class Kind { Simulator, Modem };
 
-    /// The device, with one alternative for each kind of backend. The pointer is null until the
-    /// first backend is created.
-    using Device =
-        std::variant<std::shared_ptr<SimulatedNetwork>, std::shared_ptr<ModemManagerBackend>,
-                     std::shared_ptr<WaitingDevice>>;
+    /// The backend in use. `modem` is the same backend if it is a modem, otherwise null. Both are
+    /// null until the first backend is created.
+    struct Device {
+        std::shared_ptr<Backend> backend;
+        std::shared_ptr<ModemManagerBackend> modem;
+    };
 
-    static Mode initialMode();
-    static std::shared_ptr<Backend> backendOf(const Device &device);
+    static Kind initialKind();
     Device device() const;
-    Device decide();
+    Device initialDevice();
+    Device modemDevice(const std::string &equipmentId);
     void replace(const Device &next);
     void end(Backend &old);
     void start(const Device &device);
     void startWatch();
-    bool isFirstLookOver() const;
-    void reconsider();
     void watchChanged();
 
     BackendObserver &m_observer;
-    const Mode m_initialMode;
-    TaskQueue m_tasks; // runs reconsider()
+    const Kind m_initialKind;
     ModemWatch m_watch;
 
-    std::mutex m_switchMutex; // guards m_mode, m_isWatching and m_stopped
-    Mode m_mode;
+    std::mutex m_switchMutex; // guards the following two members
     bool m_isWatching = false;
     bool m_stopped = false;
-
-    std::atomic<bool> m_firstLookTimedOut{false};
 
     mutable std::mutex m_mutex; // guards m_device
     Device m_device;

@@ -219,6 +219,7 @@ long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned 
             copyText(found[i].equipmentId, modems[i].equipmentId, sizeof modems[i].equipmentId);
             copyText(found[i].name, modems[i].name, sizeof modems[i].name);
             modems[i].isInUse = found[i].equipmentId == inUse ? 1 : 0;
+            modems[i].state = found[i].state;
         }
         return SUCCESS;
     });

@@ -168,6 +168,8 @@ private slots:
     void aPinFromElsewhereMakesGoodAWrongOne();
     void whatPolkitRefusesIsSaid();
     void aRefusalIsForgottenWhenItIsTakenBack();
+    void theModemIsEnabledOnRequestOnly();
+    void aModemDisabledAfterThePinStaysDisabled();
     void aModemWithoutUssdIsSaid();
 
     void oneOfTwoModemsIsChosen();
@@ -214,6 +216,7 @@ void ModemDeviceTest::useModem(const ModemSettings &settings)
 {
     startWorld();
     addModem("one", settings);
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED && info().canSendSMS; }));
     received().clear();
 }
@@ -244,6 +247,7 @@ void ModemDeviceTest::theDaemonMayStartLater()
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
     addModem("one");
     QVERIFY(m_world->startDaemon());
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
@@ -400,7 +404,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     const std::size_t expected = isAccepted ? 2 : 1;
     QVERIFY(received().responses.waitFor(expected));
     QCOMPARE(received().responses.all().size(), expected);
-    QCOMPARE(received().responses.all().back().type, isAccepted ? 2 : 0);
+    QCOMPARE(received().responses.all().back().type, isAccepted ? int(TKSV_FAILURE_NO_DEVICE) : 0);
 }
 
 /// Checks that calls do not wait as long as GDBus does by default, which is 25 s.
@@ -416,7 +420,7 @@ void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
     QVERIFY(timer.elapsed() < 15000);
     m_world->resumeDaemon();
     addModem("one");
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
 }
 
 void ModemDeviceTest::aLostRegistrationEndsTheCommand()
@@ -454,6 +458,7 @@ void ModemDeviceTest::anUnpluggedModemEndsTheCommand()
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
     QVERIFY(waitForState(TKSV_DEVICE_ABSENT));
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
@@ -469,6 +474,7 @@ void ModemDeviceTest::aDaemonThatDiesEndsTheCommand()
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_RESET});
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
     QVERIFY(m_world->startDaemon());
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
@@ -512,6 +518,7 @@ void ModemDeviceTest::aMenuLeftOpenIsFoundAgain()
 {
     startWorld();
     addModem("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     const OnlyDashboard dashboard;
     TKSV_Device_UseScenario(nullptr, nullptr, 0);
@@ -647,7 +654,7 @@ void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
     FakeModems::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
     QCOMPARE(other.sendPin("4711"), std::string());
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library enables it only after its own PIN
     QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
 }
 
@@ -667,8 +674,56 @@ void ModemDeviceTest::whatPolkitRefusesIsSaid()
     startWorld();
     m_world->polkit().allow(false);
     addModem("one");
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
+    QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForProblem(TKSV_PROBLEM_NOT_PERMITTED));
     QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    m_world->polkit().allow(true);
+    QCOMPARE(TKSV_Device_Enable(), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
+}
+
+/* ---- the radio --------------------------------------------------------------------------- */
+
+/// The fake modem records each attempt of the daemon to enable it.
+void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
+{
+    startWorld();
+    addModem("one");
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    registerAll();
+    QVERIFY(request(u"*100#") != 0);
+    QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
+    QCOMPARE(TKSV_Device_Enable(), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(TKSV_Device_Enable() != 0);
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    const int before = fake().timesReceived("AT+CFUN=1");
+    TKSV_Device_UseModem(nullptr); // not even a program that starts enables it
+    QVERIFY(waitUntil([] { return *info().imsi && info().state == TKSV_DEVICE_DISABLED; }));
+    QCOMPARE(fake().timesReceived("AT+CFUN=1"), before);
+}
+
+void ModemDeviceTest::aModemDisabledAfterThePinStaysDisabled()
+{
+    ModemSettings settings;
+    settings.asksForPin = true;
+    startWorld();
+    const std::string network = std::string(NETWORK).insert(10, "PIN=4711\n");
+    QCOMPARE(m_world->addModem("one", network, settings), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
+    QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    const int before = fake().timesReceived("AT+CFUN=1");
+    FakeModems::MmClient observer(m_world->busAddress()); // a round trip through the daemon
+    QVERIFY(observer.use(m_world->stateOf("one").object));
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    QCOMPARE(fake().timesReceived("AT+CFUN=1"), before);
 }
 
 void ModemDeviceTest::aModemWithoutUssdIsSaid()
@@ -678,6 +733,7 @@ void ModemDeviceTest::aModemWithoutUssdIsSaid()
     fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, FakeModems::ALWAYS});
     m_world->unplug("one");
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_USSD));
     QVERIFY(request(u"*100#") != 0);
@@ -696,8 +752,7 @@ void ModemDeviceTest::oneOfTwoModemsIsChosen()
     QVERIFY(waitUntil([] { return modems().size() == 2; }));
     QVERIFY(modems()[0].isInUse && !modems()[1].isInUse);
     QCOMPARE(modems()[1].name, "Example Fake Two");
-    QCOMPARE(other.timesReceived("AT+CFUN=1"), 0); // not enabled so far
-
+    QVERIFY(!m_world->enable("two").empty());
     TKSV_Device_UseModem(modems()[1].equipmentId);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(info().equipmentId, "350000000000025");
@@ -716,7 +771,7 @@ void ModemDeviceTest::theChosenModemIsWaitedFor()
     ModemSettings second;
     second.imei = "350000000000025";
     addModem("two", second);
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     QCOMPARE(info().equipmentId, "350000000000025");
 }
 
@@ -729,7 +784,7 @@ void ModemDeviceTest::anyModemMayTakeThePlaceOfAnother()
     QVERIFY(waitUntil([] { return modems().size() == 2; }));
     m_world->unplug("one");
     QVERIFY(waitUntil([] { return QByteArray(info().equipmentId) == "350000000000025"; }));
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
 }
 

@@ -11,15 +11,6 @@ namespace Tksv
 namespace
 {
 
-TKSV_DeviceState stateOf(MMModemState state)
-{
-    if (state == MM_MODEM_STATE_LOCKED)
-        return TKSV_DEVICE_SIM_LOCKED;
-    if (state >= MM_MODEM_STATE_REGISTERED)
-        return TKSV_DEVICE_REGISTERED;
-    return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
-}
-
 /// Returns the number of PIN attempts that are left, or -1 if it is unknown.
 int pinRetriesOf(MMModem *modem)
 {
@@ -91,7 +82,9 @@ void ModemDevice::modemChanged()
     if (!m_modem)
         return;
     const MMModemState now = mm_modem_get_state(m_modem.get());
-    if (now == MM_MODEM_STATE_DISABLED && !std::exchange(m_enableTried, true))
+    if (now > MM_MODEM_STATE_DISABLED || now == MM_MODEM_STATE_FAILED)
+        m_enableWanted = false;
+    if (now == MM_MODEM_STATE_DISABLED && std::exchange(m_enableWanted, false))
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
         m_problem = TKSV_PROBLEM_NONE; // the modem has left the state with the problem
@@ -101,11 +94,12 @@ void ModemDevice::modemChanged()
 
 void ModemDevice::enable()
 {
+    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second failure is a change again
     const auto done = [this](GObject *modem, GAsyncResult *result) {
         ErrorSlot error;
         mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());
-        if (error && isNotPermitted(*error.get()))
-            setProblem(TKSV_PROBLEM_NOT_PERMITTED);
+        if (error)
+            setProblem(problemOfEnableError(*error.get()));
     };
     mm_modem_enable(m_modem.get(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
@@ -150,7 +144,9 @@ void ModemDevice::sendPin(const std::string &pin)
     const auto done = [this](GObject *sim, GAsyncResult *result) {
         ErrorSlot error;
         mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
+        m_enableWanted = !error; // the user wants to use the modem
         setProblem(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
+        modemChanged();
     };
     mm_sim_send_pin(m_sim.get(), pin.c_str(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
@@ -207,13 +203,7 @@ bool ModemDevice::isLocked() const
 
 TKSV_DeviceState ModemDevice::state() const
 {
-    if (!m_modem)
-        return TKSV_DEVICE_ABSENT;
-    const MMModemState state = mm_modem_get_state(m_modem.get());
-    if (state == MM_MODEM_STATE_FAILED &&
-        mm_modem_get_state_failed_reason(m_modem.get()) == MM_MODEM_STATE_FAILED_REASON_SIM_MISSING)
-        return TKSV_DEVICE_SIM_MISSING;
-    return stateOf(state);
+    return m_modem ? stateOf(m_modem.get()) : TKSV_DEVICE_ABSENT;
 }
 
 TKSV_DeviceProblem ModemDevice::problem() const
@@ -226,7 +216,15 @@ TKSV_DeviceProblem ModemDevice::problem() const
         return TKSV_PROBLEM_MODEM_FAILED;
     if (now == TKSV_DEVICE_REGISTERED && !m_ussd->isUsable())
         return TKSV_PROBLEM_NO_USSD;
+    if (now == TKSV_DEVICE_SEARCHING && m_problem == TKSV_PROBLEM_NONE && isRegistrationDenied())
+        return TKSV_PROBLEM_REGISTRATION_DENIED;
     return m_problem;
+}
+
+bool ModemDevice::isRegistrationDenied() const
+{
+    return m_3gpp && mm_modem_3gpp_get_registration_state(m_3gpp.get()) ==
+                         MM_MODEM_3GPP_REGISTRATION_STATE_DENIED;
 }
 
 } // namespace Tksv

@@ -17,8 +17,8 @@ namespace Tksv
 {
 
 /**
- * The modem in use. The object enables the modem once and follows its properties. All functions
- * must be called on the thread of the main loop.
+ * The modem in use, whose properties the object follows. The modem is enabled only on request, or
+ * after the PIN has unlocked its SIM. All functions must be called on the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
@@ -58,6 +58,7 @@ private:
     TKSV_DeviceState state() const;
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
+    bool isRegistrationDenied() const;
 
     const Listener m_listener;
     const GObjectPtr<MMObject> m_object;
@@ -70,7 +71,7 @@ private:
     std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
-    bool m_enableTried = false;
+    bool m_enableWanted = false; // as soon as the modem with the unlocked SIM can be enabled
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or later
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the last call
 };

@@ -44,6 +44,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     : m_watch(watch), m_equipmentId(std::move(equipmentId))
 {
     m_info.backend = TKSV_BACKEND_MODEMMANAGER;
+    m_info.isLooking = m_watch.state() == ServiceState::Looking;
 }
 
 /* ---- any thread -------------------------------------------------------------------------- */
@@ -64,6 +65,7 @@ void ModemManagerBackend::stop()
             return;
     }
     m_watch.thread().run([this] {
+        m_waiting.reset();
         if (m_device) {
             m_device->ussd().endSession();
             m_device->sms().failPending();
@@ -81,13 +83,10 @@ RequestResult ModemManagerBackend::request(RequestToken token, RequestKind kind,
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped)
         return {RequestNoDevice, TKSV_FAILURE_NO_DEVICE};
-    if (m_isInfoKnown && !takesCommands(m_info))
+    if (m_isInfoKnown && !m_info.isLooking && !takesCommands(m_info))
         return {RequestNoDevice, refusalOf(m_info)};
-    post([this, token, kind, text, lostModemCount = m_lostModemCount] {
-        if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
-            return m_device->ussd().request(token, kind, text);
-        if (m_observer) // null if the modem was lost in the meantime or was never there
-            m_observer->ussdReply(token, refusedReply(refusalOf(m_info)));
+    post([this, request = Request{token, kind, text}, lostModemCount = m_lostModemCount] {
+        perform(request, lostModemCount);
     });
     return {};
 }
@@ -100,6 +99,7 @@ bool ModemManagerBackend::endForeignSession()
 void ModemManagerBackend::endSession()
 {
     post([this] {
+        m_waiting.reset();
         if (m_device)
             m_device->ussd().endSession();
     });
@@ -158,24 +158,61 @@ void ModemManagerBackend::post(std::function<void()> task)
 
 /* ---- on the watch's thread --------------------------------------------------------------- */
 
-/// Follows the modems of the watch. A modem stays in use until it is lost, even if any modem may be
-/// used.
+/// Sends the request, or keeps it until ModemManager has reported its modems. The request fails if
+/// its modem was lost in the meantime or was never there.
+void ModemManagerBackend::perform(const Request &request, unsigned lostModemCount)
+{
+    m_waiting.reset();
+    if (!m_device && m_watch.state() == ServiceState::Looking)
+        m_waiting = request;
+    else if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
+        m_device->ussd().request(request.token, request.kind, request.text);
+    else if (m_observer)
+        m_observer->ussdReply(
+            request.token,
+            refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
+}
+
+/// Follows the modems of the watch. If any modem may be used, a modem stays in use from its first
+/// registration until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
         return;
-    GObjectPtr<MMObject> wanted = m_watch.findAt(m_device ? m_device->path() : std::string());
-    if (m_device && !wanted)
+    if (m_device && !m_watch.findAt(m_device->path()))
         loseModem();
-    if (!m_device && (wanted = m_watch.find(m_equipmentId)))
+    if (m_device && prefersAnotherModem())
+        leaveModem();
+    if (GObjectPtr<MMObject> wanted = m_device ? nullptr : m_watch.find(m_equipmentId))
         adopt(std::move(wanted));
     if (m_device)
         m_device->refresh();
     publish();
+    if (m_waiting && m_watch.state() != ServiceState::Looking)
+        perform(*std::exchange(m_waiting, std::nullopt), m_lostModemCount);
+}
+
+bool ModemManagerBackend::prefersAnotherModem() const
+{
+    if (!m_equipmentId.empty() || m_wasRegistered)
+        return false;
+    const GObjectPtr<MMObject> best = m_watch.find(m_equipmentId);
+    return best && textOf(mm_object_get_path(best.get())) != m_device->path() &&
+           stateOf(mm_object_peek_modem(best.get())) == TKSV_DEVICE_REGISTERED;
+}
+
+/// Ends the use of a modem that has never been registered. It has neither a session nor requests.
+void ModemManagerBackend::leaveModem()
+{
+    m_device.reset();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ++m_lostModemCount;
 }
 
 void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
 {
+    m_wasRegistered = false;
+    m_isModemRemoved = false;
     ModemDevice::Listener listener;
     listener.changed = [this] { publish(); };
     listener.replied = [this](RequestToken token, const UssdReply &reply) {
@@ -203,6 +240,7 @@ void ModemManagerBackend::loseModem()
         ++m_lostModemCount;
     }
     const bool serviceEnded = m_watch.state() != ServiceState::Running;
+    m_isModemRemoved = !serviceEnded;
     m_observer->deviceLost(serviceEnded ? TKSV_DEV_EVENT_RESET : TKSV_DEV_EVENT_GONE);
     gone->sms().failPending();
     publish();
@@ -213,6 +251,7 @@ void ModemManagerBackend::publish()
     if (!m_observer)
         return;
     const DeviceInfo now = currentInfo();
+    m_wasRegistered = m_wasRegistered || now.state == TKSV_DEVICE_REGISTERED;
     DeviceInfo before;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -237,11 +276,14 @@ void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceIn
 
 DeviceInfo ModemManagerBackend::currentInfo() const
 {
-    if (m_device)
-        return m_device->info();
     DeviceInfo info;
     info.backend = TKSV_BACKEND_MODEMMANAGER;
-    info.problem = problemWithoutModem();
+    info.problem = m_device ? TKSV_PROBLEM_NONE : problemWithoutModem();
+    if (m_device)
+        info = m_device->info();
+    if (info.problem == TKSV_PROBLEM_NONE && m_watch.isSilent())
+        info.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    info.isLooking = m_watch.state() == ServiceState::Looking;
     return info;
 }
 
@@ -253,8 +295,11 @@ TKSV_DeviceProblem ModemManagerBackend::problemWithoutModem() const
     case ServiceState::NoService:
         return TKSV_PROBLEM_NO_SERVICE;
     default:
-        return m_watch.modems().empty() ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_CHOSEN_ABSENT;
+        break;
     }
+    if (m_isModemRemoved)
+        return TKSV_PROBLEM_MODEM_REMOVED;
+    return m_watch.modems().empty() ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_CHOSEN_ABSENT;
 }
 
 } // namespace Tksv

@@ -61,6 +61,17 @@ bool isNotPermitted(const GError &error)
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
+/// A modem whose state is changing can refuse the call. This is no problem, because its next state
+/// is reported.
+TKSV_DeviceProblem problemOfEnableError(const GError &error)
+{
+    if (isNotPermitted(error))
+        return TKSV_PROBLEM_NOT_PERMITTED;
+    const bool isPassing = isCoreError(error, MM_CORE_ERROR_WRONG_STATE) ||
+                           isCoreError(error, MM_CORE_ERROR_IN_PROGRESS) || isServiceLost(error);
+    return isPassing ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_MODEM_FAILED;
+}
+
 TKSV_DeviceProblem problemOfPinError(const GError &error)
 {
     if (isNotPermitted(error))

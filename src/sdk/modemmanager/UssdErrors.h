@@ -28,6 +28,9 @@ UssdVerdict classifyUssdError(const GError &error);
 /// Returns whether the system's policy denied the call.
 bool isNotPermitted(const GError &error);
 
+/// Returns the problem to show to the user after ModemManager has not enabled the modem.
+TKSV_DeviceProblem problemOfEnableError(const GError &error);
+
 /// Returns the problem to show to the user after ModemManager has rejected a PIN.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
