@@ -102,6 +102,13 @@ std::string take(char *text)
     return text ? text : "";
 }
 
+std::string withoutLastLineEnd(std::string text)
+{
+    if (!text.empty() && text.back() == '\n')
+        text.pop_back();
+    return text;
+}
+
 std::vector<std::string> takeWords(char **words)
 {
     std::vector<std::string> copies;
@@ -239,7 +246,8 @@ Options parseOptions(int argc, char **argv)
     }
     options.error = readValues(values, options);
     if (options.error.empty() && options.command == Command::Help)
-        options.help = take(g_option_context_get_help(context.get(), TRUE, nullptr));
+        options.help =
+            withoutLastLineEnd(take(g_option_context_get_help(context.get(), TRUE, nullptr)));
     return options;
 }
 

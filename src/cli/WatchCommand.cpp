@@ -10,6 +10,8 @@ namespace Cli
 namespace
 {
 
+const char WATCHING[] = "Watching for messages of the network; Ctrl-C ends the program.";
+
 /** Prints the messages of the network, and notices about changes of the modem. */
 class Watch
 {
@@ -83,6 +85,7 @@ int watch(Program &program)
 {
     if (!program.prepareDevice())
         return program.failOnDevice(std::string());
+    program.output().notice(WATCHING);
     Watch(program).run();
     return EXIT_DONE;
 }

@@ -16,6 +16,12 @@ UssdProcess::UssdProcess(const QStringList &arguments)
     setArguments(arguments);
 }
 
+UssdProcess::~UssdProcess()
+{
+    kill();
+    waitForFinished();
+}
+
 /// Runs in the new process before the program.
 void UssdProcess::setupChildProcess()
 {

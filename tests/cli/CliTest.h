@@ -21,6 +21,7 @@ class UssdProcess : public QProcess
     Q_OBJECT
 public:
     explicit UssdProcess(const QStringList &arguments);
+    ~UssdProcess() override; ///< kills the program if it is still running
 
     /// Replaces a standard stream of the program. Must be called before start().
     void replaceStream(int stream, int file) { m_streams.insert(stream, file); }

@@ -8,6 +8,7 @@
 #include "TerminalText.h"
 #include "UssdTest.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Cli;
@@ -145,9 +146,9 @@ void PartsTest::theSecondSignalIsNotHeldBack()
     const pid_t child = fork();
     if (child == 0) {
         signal(SIGTERM, SIG_DFL);
-        Signals signals;
+        Signals blocked;
         kill(getpid(), SIGTERM);
-        if (signals.take() != SIGTERM)
+        if (blocked.take() != SIGTERM)
             _exit(1);
         kill(getpid(), SIGTERM);
         _exit(2);
