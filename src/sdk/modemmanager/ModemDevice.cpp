@@ -38,22 +38,36 @@ int signalOf(MMModem *modem)
 
 ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener)
     : m_listener(std::move(listener)), m_object(std::move(object)),
-      m_ussd(std::make_shared<UssdChannel>(
-          thread, UssdChannel::Listener{[this](RequestToken token, const UssdReply &reply) {
-                                            if (reply.type <= UssdWaitsForAnswer)
-                                                clearNotPermitted();
-                                            m_listener.replied(token, reply);
-                                        },
-                                        m_listener.textReceived,
-                                        [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }})),
-      m_sms(std::make_shared<SmsSender>(
-          SmsSender::Listener{[this](const SmsMessage &message, int result) {
-                                  if (result == SMS_SENT)
-                                      clearNotPermitted();
-                                  m_listener.smsFinished(message, result);
-                              },
-                              [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }}))
+      m_ussd(std::make_shared<UssdChannel>(thread, equipmentIdOf(m_object.get()), ussdListener())),
+      m_sms(std::make_shared<SmsSender>(smsListener()))
 {
+}
+
+UssdChannel::Listener ModemDevice::ussdListener()
+{
+    UssdChannel::Listener listener;
+    listener.replied = [this](RequestToken token, const UssdReply &reply) {
+        if (reply.failure.reason == TKSV_FAILURE_NONE)
+            clearNotPermitted();
+        m_listener.replied(token, reply);
+    };
+    listener.textReceived = m_listener.textReceived;
+    listener.notPermitted = [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); };
+    listener.changed = [this] { m_listener.changed(); };
+    listener.isOnlyOn4G = [this] { return isOnlyOn4G(); };
+    return listener;
+}
+
+SmsSender::Listener ModemDevice::smsListener()
+{
+    SmsSender::Listener listener;
+    listener.finished = [this](const SmsMessage &message, int result) {
+        if (result == SMS_SENT)
+            clearNotPermitted();
+        m_listener.smsFinished(message, result);
+    };
+    listener.notPermitted = [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); };
+    return listener;
 }
 
 /// Returns the interface, or null while the modem does not have it.
@@ -152,9 +166,9 @@ void ModemDevice::sendPin(const std::string &pin)
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-void ModemDevice::failPending()
+void ModemDevice::failPending(TKSV_Failure reason)
 {
-    m_ussd->failPending();
+    m_ussd->failPending(reason);
     m_sms->failPending();
 }
 
@@ -187,6 +201,8 @@ DeviceInfo ModemDevice::info() const
         info.signalPercent = signalOf(m_modem.get());
     if (info.state == TKSV_DEVICE_REGISTERED && m_3gpp)
         info.operatorName = textOf(mm_modem_3gpp_get_operator_name(m_3gpp.get()));
+    info.hasForeignSession = m_ussd->hasForeignSession();
+    info.waitsForTurn = m_ussd->waitsForTurn();
     info.canSendSms = info.state == TKSV_DEVICE_REGISTERED && m_sms->isUsable();
     if (m_sim) {
         info.imsi = textOf(mm_sim_get_imsi(m_sim.get()));
@@ -194,6 +210,15 @@ DeviceInfo ModemDevice::info() const
         info.simOperatorName = textOf(mm_sim_get_operator_name(m_sim.get()));
     }
     return info;
+}
+
+/// Returns true if the modem uses 4G or 5G, and neither 2G nor 3G.
+bool ModemDevice::isOnlyOn4G() const
+{
+    const guint newer = MM_MODEM_ACCESS_TECHNOLOGY_LTE | MM_MODEM_ACCESS_TECHNOLOGY_LTE_CAT_M |
+                        MM_MODEM_ACCESS_TECHNOLOGY_LTE_NB_IOT | MM_MODEM_ACCESS_TECHNOLOGY_5GNR;
+    const guint inUse = m_modem ? guint(mm_modem_get_access_technologies(m_modem.get())) : 0;
+    return inUse != 0 && (inUse & ~newer) == 0;
 }
 
 bool ModemDevice::isLocked() const

@@ -44,8 +44,9 @@ public:
     void sendPin(const std::string &pin);
     /// Enables the modem.
     void enable();
-    /// Reports the request in flight and the messages that are being sent as failed.
-    void failPending();
+    /// Reports the request in flight and the messages that are being sent as failed. `reason` is
+    /// that of the request.
+    void failPending(TKSV_Failure reason);
 
 private:
     template <typename T>
@@ -59,6 +60,9 @@ private:
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
     bool isRegistrationDenied() const;
+    bool isOnlyOn4G() const;
+    UssdChannel::Listener ussdListener();
+    SmsSender::Listener smsListener();
 
     const Listener m_listener;
     const GObjectPtr<MMObject> m_object;

@@ -11,6 +11,10 @@ namespace Tksv
 namespace
 {
 
+/// The time that the end of a program or the switch to another device waits for the end of the
+/// session.
+const std::chrono::milliseconds END_LIMIT(300);
+
 bool canEndAtCommand(unsigned char unit)
 {
     return unit < 0x20 || unit == 0x7f || unit == '"';
@@ -71,6 +75,8 @@ void ModemManagerBackend::stop()
             m_device->sms().failPending();
         }
         m_observer = nullptr;
+        if (m_device)
+            m_watch.thread().runUntil([this] { return m_device->ussd().isSettled(); }, END_LIMIT);
         m_device.reset();
     });
 }
@@ -93,7 +99,14 @@ RequestResult ModemManagerBackend::request(RequestToken token, RequestKind kind,
 
 bool ModemManagerBackend::endForeignSession()
 {
-    return false;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || !m_info.hasForeignSession)
+        return false;
+    post([this, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
+            m_device->ussd().endForeignSession();
+    });
+    return true;
 }
 
 void ModemManagerBackend::endSession()
@@ -268,7 +281,7 @@ void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceIn
     if (before == now)
         return;
     if (takesCommands(before) && !takesCommands(now) && m_device)
-        m_device->failPending();
+        m_device->failPending(refusalOf(now));
     if (before.canSendSms != now.canSendSms)
         m_observer->smsStatusChanged(now.canSendSms);
     m_observer->infoChanged();

@@ -10,20 +10,18 @@
 namespace Tksv
 {
 
-/** The ways to end a USSD command whose call has failed. */
-enum class UssdFailure {
-    Replied,      // the client receives an empty reply of UssdVerdict::type
-    SessionOpen,  // the daemon assumes an open session, which must end before a retry
-    NotPermitted, // polkit denied the call; the client receives an empty reply
-    ServiceLost   // the daemon or the modem has disappeared, and a device event ends the command
+/** The circumstances of a USSD call that has failed. */
+struct UssdCallContext {
+    bool isAnswer = false;
+    double seconds = 0; // the duration of the call
+    bool isOnlyOn4G = false;
 };
 
-struct UssdVerdict {
-    UssdFailure failure = UssdFailure::Replied;
-    TKSV_Failure reason = TKSV_FAILURE_ENDED_BY_NETWORK;
-};
+/// Returns the reason why a USSD call has failed. Must not be called if isServiceLost().
+Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
 
-UssdVerdict classifyUssdError(const GError &error);
+/// Returns true if the daemon or the modem has disappeared. A device event then ends the command.
+bool isServiceLost(const GError &error);
 
 /// Returns whether the system's policy denied the call.
 bool isNotPermitted(const GError &error);
