@@ -125,16 +125,18 @@ std::string quoted(const std::string &word)
 
 /* ---- what is wrong ----------------------------------------------------------------------- */
 
+const char READS_INPUT[] = "-"; // in place of a code
+
 std::string problemOfWord(const std::string &word)
 {
+    if (word == READS_INPUT)
+        return "'-' stands for codes from standard input, and only 'send -' takes it";
     const std::string problem = commandProblem(word);
     return problem.empty() ? problem : quoted(word) + " cannot be sent: " + problem;
 }
 
 std::string problemOfAnswer(const std::string &word)
 {
-    if (word == "-")
-        return "'-' stands for codes from standard input, so nothing may stand beside it";
     if (hasFormOfCode(word))
         return quoted(word) + " is a code and no answer; send each code with a command of its own";
     return problemOfWord(word);
@@ -142,16 +144,15 @@ std::string problemOfAnswer(const std::string &word)
 
 std::string problemOfWords(const CommandRow &row, const std::vector<std::string> &words)
 {
-    const std::string name = quoted(row.name);
     if (words.size() < row.fewestWords)
-        return name + " needs a code";
+        return quoted(row.name) + " needs a code";
     if (words.size() > row.mostWords)
-        return name + " takes no argument " + quoted(words[row.mostWords]);
+        return quoted(row.name) + " takes no argument " + quoted(words[row.mostWords]);
+    if (row.command == Command::Send && words.size() == 1 && words.front() == READS_INPUT)
+        return std::string();
     std::string problem;
     for (std::size_t i = 0; i < words.size() && problem.empty(); ++i)
         problem = i == 0 ? problemOfWord(words[i]) : problemOfAnswer(words[i]);
-    if (problem.empty() && words.size() > 1 && words.front() == "-")
-        problem = problemOfAnswer("-");
     return problem;
 }
 

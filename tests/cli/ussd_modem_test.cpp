@@ -104,6 +104,8 @@ private slots:
     void cancelEndsTheSessionOfAnotherProgram();
     void twoProgramsGetTheirOwnReplies();
     void eightProgramsGetTheirOwnReplies();
+    void aProgramWaitsForItsTurn();
+    void theWaitForATurnEnds();
 
     void modemsAreListedAndSelected();
     void anAbsentModemIsSaid();
@@ -388,6 +390,40 @@ void UssdModemTest::twoProgramsGetTheirOwnReplies()
 void UssdModemTest::eightProgramsGetTheirOwnReplies()
 {
     compareManyPrograms(8);
+}
+
+/// The first program holds the modem until a signal ends it. The time-out of the second program
+/// starts when it gets its turn.
+void UssdModemTest::aProgramWaitsForItsTurn()
+{
+    UssdProcess first(words("send *131#"));
+    first.start();
+    QVERIFY(modem().waitForCommand(INITIATE));
+    UssdProcess second(words("send *100#"));
+    second.start();
+    QVERIFY(second.waitForError(latin1("Waiting for another program of yours")));
+    QCOMPARE(modem().timesReceived(INITIATE), 1);
+    first.sendSignal(SIGTERM);
+    COMPARE_EXIT(first.finish(), EXIT_SIGNAL + SIGTERM);
+    const Run result = second.finish();
+    COMPARE_EXIT(result, EXIT_DONE);
+    QCOMPARE(result.out, latin1("Your balance is 12.50 EUR.\n"));
+    QCOMPARE(result.error.count(latin1("Waiting")), 1);
+}
+
+void UssdModemTest::theWaitForATurnEnds()
+{
+    UssdProcess first(words("send *131#"));
+    first.start();
+    QVERIFY(modem().waitForCommand(INITIATE));
+    const Run result = run("send --json --quiet --timeout 0.3 *100#");
+    COMPARE_EXIT(result, EXIT_IN_USE);
+    QCOMPARE(objectsIn(result.out).value(0).value(latin1("notSent")).toBool(false), true);
+    QVERIFY2(!result.error.contains(latin1("Waiting")), qPrintable(result.error));
+    QCOMPARE(modem().timesReceived(INITIATE), 1);
+    QCOMPARE(modem().timesReceived(CANCEL), 0);
+    first.sendSignal(SIGTERM);
+    COMPARE_EXIT(first.finish(), EXIT_SIGNAL + SIGTERM);
 }
 
 /* ---- modems, status, watch --------------------------------------------------------------- */

@@ -45,6 +45,7 @@ private slots:
 
     void theReplyIsPrinted();
     void menusAreAnsweredInTurn();
+    void anAnswerMayStartWithAHyphen();
     void anUnansweredMenuIsEnded();
     void answersWithoutAMenuAreNotSent();
     void answersAfterAFailureAreNotSent();
@@ -140,6 +141,7 @@ void UssdProgramTest::mistakesEndWithUsage_data()
     row("code as an answer", words("send *123# *100#"), "'*100#'");
     row("words beside standard input", words("send - 1"), "'-'");
     row("standard input as an answer", words("send *123# -"), "'-'");
+    row("standard input for a chat", words("chat -"), "'-'");
     row("two codes for a chat", words("chat *123# 1"), "'1'");
     row("argument", words("status *100#"), "'*100#'");
     row("zero", words("send --timeout 0 *100#"), "--timeout '0'");
@@ -190,6 +192,13 @@ void UssdProgramTest::menusAreAnsweredInTurn()
     QCOMPARE(result.out,
              QLatin1String("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n\nDeep enough.\n"));
     QCOMPARE(result.error, QLatin1String(DEMONSTRATION));
+}
+
+void UssdProgramTest::anAnswerMayStartWithAHyphen()
+{
+    const Run result = run("send *124# -- -5 -");
+    COMPARE_EXIT(result, EXIT_WRONG_USAGE); // "-" is never an answer
+    QCOMPARE(run("send *124# -- -5").out, latin1("How cold?\n\nIt is -5.\n"));
 }
 
 void UssdProgramTest::anUnansweredMenuIsEnded()
