@@ -50,8 +50,7 @@ const StateRow STATES[] = {
      "The SIM card is locked with its PIN. Enter the PIN in ussd-dashboard, or use 'mmcli -i any "
      "--pin=PIN'.",
      TKSV_FAILURE_NO_DEVICE},
-    {TKSV_DEVICE_DISABLED, "disabled",
-     "The modem is switched off. The option --enable switches it on.", TKSV_FAILURE_DISABLED},
+    {TKSV_DEVICE_DISABLED, "disabled", "The modem is switched off.", TKSV_FAILURE_DISABLED},
     {TKSV_DEVICE_SEARCHING, "searching", "The modem is searching for a network.",
      TKSV_FAILURE_NOT_REGISTERED},
     {TKSV_DEVICE_REGISTERED, "registered", "", TKSV_FAILURE_NONE},

@@ -18,6 +18,9 @@ const char AWAITING_TURN[] = "Waiting for another program of yours that uses thi
 const char END_FOREIGN_HINT[] =
     " The option --end-foreign-session ends the session of the other program.";
 
+const char ENABLE_HINT[] = " The option --enable switches it on.";
+const char NOT_ENABLED[] = " It could not be switched on.";
+
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
 /// Returns the failure in sentences, with the option that helps.
@@ -86,7 +89,9 @@ int Program::failOnDevice(const std::string &code)
     const TKSV_DeviceInfo device = m_device.info();
     Outcome outcome;
     outcome.failure = notSent(deviceFailure(device));
-    printFailure(code, outcome, deviceText(device));
+    const bool isDisabled = outcome.failure.reason == TKSV_FAILURE_DISABLED;
+    const char *const hint = m_options.enablesModem ? NOT_ENABLED : ENABLE_HINT;
+    printFailure(code, outcome, deviceText(device) + (isDisabled ? hint : ""));
     return exitCodeOf(outcome.failure.reason);
 }
 
