@@ -96,6 +96,12 @@ bool hasResponse()
     return mailbox().hasResponse();
 }
 
+/// Returns true while no modem is known, because ModemManager does not answer.
+bool isStuck(const TKSV_DeviceInfo &device)
+{
+    return device.isLooking && device.problem != TKSV_PROBLEM_NONE;
+}
+
 TKSV_FailureInfo lastFailure(TKSV_Failure otherwise)
 {
     TKSV_FailureInfo failure = {};
@@ -130,14 +136,6 @@ unsigned char takeLoss(int, void *)
 
 } // namespace
 
-TKSV_FailureInfo notSent(TKSV_Failure reason)
-{
-    TKSV_FailureInfo failure = {};
-    failure.reason = reason;
-    failure.wasNotSent = 1;
-    return failure;
-}
-
 Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
     : m_device(device), m_waits(waits), m_timeout(timeout)
 {
@@ -171,41 +169,49 @@ Outcome Conversation::send(const std::string &text)
 }
 
 /// Waits for the response. A request that has waited for its turn then has the complete time for
-/// its reply.
+/// its reply. The wait ends early if ModemManager does not answer.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;
     if (!m_waits.until(hasResponse, std::min(end, start + QUICK_REPLY)))
         m_device.follow();
     bool isAwaitingTurn = false;
-    const auto isTurnChanged = [&] {
-        return (m_device.info().waitsForTurn != 0) != isAwaitingTurn;
+    const auto isStateChanged = [&] {
+        const TKSV_DeviceInfo device = m_device.info();
+        return (device.waitsForTurn != 0) != isAwaitingTurn || isStuck(device);
     };
-    while (m_waits.until([&] { return hasResponse() || isTurnChanged(); }, end) && !hasResponse()) {
+    while (m_waits.until([&] { return hasResponse() || isStateChanged(); }, end)) {
+        if (hasResponse())
+            return mailbox().take();
+        if (isStuck(m_device.info()))
+            break;
         isAwaitingTurn = !isAwaitingTurn;
         end = Clock::now() + m_timeout;
         if (isAwaitingTurn && m_turnAwaited)
             m_turnAwaited();
     }
-    return hasResponse() ? mailbox().take() : giveUp(isAwaitingTurn);
+    if (m_device.info().isLooking)
+        return giveUp(TKSV_FAILURE_NO_DEVICE);
+    return giveUp(isAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER);
 }
 
-/// Ends the request on the device. A reply that arrives at the same time still counts.
-Outcome Conversation::giveUp(bool wasAwaitingTurn)
+/// Ends the request on the device, for a reason that is not a signal. A reply that arrives at the
+/// same time still counts.
+Outcome Conversation::giveUp(TKSV_Failure reason)
 {
     TKSV_Device_CancelRequest();
     m_waits.untilDespiteSignal(hasResponse, CANCEL_LIMIT);
-    if (!hasResponse()) {
+    Outcome outcome;
+    if (hasResponse()) {
+        outcome = mailbox().take();
+    } else {
         TKSV_USSDSrv_Release(nullptr);
         mailbox().expectNothing();
         mailbox().closeMenu();
-        Outcome silence;
-        silence.failure.reason = TKSV_FAILURE_NO_ANSWER;
-        return silence;
+        outcome.failure.reason = TKSV_FAILURE_CANCELLED;
     }
-    Outcome outcome = mailbox().take();
     if (outcome.failure.reason == TKSV_FAILURE_CANCELLED && !m_waits.signal())
-        outcome.failure.reason = wasAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER;
+        outcome.failure.reason = reason;
     return outcome;
 }
 

@@ -22,9 +22,6 @@ struct Outcome {
     bool isMenu() const { return !hasFailed() && type == 1; }
 };
 
-/** Returns a failure for a command that did not reach the network. */
-TKSV_FailureInfo notSent(TKSV_Failure reason);
-
 /**
  * The USSD session of this program. Only one object may exist, because the call-backs of the device
  * library have no context.
@@ -51,7 +48,7 @@ public:
 
 private:
     Outcome await(Clock::time_point start);
-    Outcome giveUp(bool wasAwaitingTurn);
+    Outcome giveUp(TKSV_Failure reason);
 
     Device &m_device;
     Waits &m_waits;

@@ -17,8 +17,8 @@ void wake(void *waits)
 
 bool mayBecomeReady(const TKSV_DeviceInfo &device)
 {
-    return device.isLooking ||
-           (device.state == TKSV_DEVICE_SEARCHING && device.problem == TKSV_PROBLEM_NONE);
+    return device.problem == TKSV_PROBLEM_NONE &&
+           (device.isLooking || device.state == TKSV_DEVICE_SEARCHING);
 }
 
 bool isEnabling(const TKSV_DeviceInfo &device)
@@ -75,7 +75,11 @@ bool Device::await(const Waits::Condition &condition, Clock::time_point end)
 
 void Device::awaitModem(Milliseconds limit)
 {
-    await([this] { return !info().isLooking; }, Clock::now() + limit);
+    const auto isKnown = [this] {
+        const TKSV_DeviceInfo now = info();
+        return !now.isLooking || now.problem != TKSV_PROBLEM_NONE;
+    };
+    await(isKnown, Clock::now() + limit);
 }
 
 bool Device::awaitReady(Milliseconds limit)

@@ -7,6 +7,11 @@
 namespace Cli
 {
 
+namespace
+{
+const std::size_t LONGEST_LINE = 65536; // bytes; a longer line is no code, wherever it ends
+}
+
 LineReader::Result LineReader::next(std::string &line, const Waits::Condition &isInterrupted)
 {
     while (!takeLine(line)) {
@@ -23,7 +28,8 @@ LineReader::Result LineReader::next(std::string &line, const Waits::Condition &i
 bool LineReader::takeLine(std::string &line)
 {
     const std::size_t end = m_buffer.find('\n');
-    if (end == std::string::npos && (!m_hasEnded || m_buffer.empty()))
+    const bool isWhole = m_hasEnded || m_buffer.size() > LONGEST_LINE;
+    if (end == std::string::npos && (!isWhole || m_buffer.empty()))
         return false;
     line = m_buffer.substr(0, end);
     m_buffer.erase(0, end == std::string::npos ? end : end + 1);

@@ -82,16 +82,24 @@ bool Program::prepareDevice()
     return m_options.enablesModem && m_device.enable(m_options.timeout);
 }
 
-int Program::failOnDevice(const std::string &code)
+int Program::failOnDevice(const std::string &code, bool wasNotSent)
 {
     if (m_waits.signal())
         return EXIT_NOT_READY;
-    const TKSV_DeviceInfo device = m_device.info();
+    TKSV_DeviceInfo device = m_device.info();
+    if (device.isLooking && device.problem == TKSV_PROBLEM_NONE)
+        device.problem = TKSV_PROBLEM_SERVICE_SILENT;
     Outcome outcome;
-    outcome.failure = notSent(deviceFailure(device));
-    const bool isDisabled = outcome.failure.reason == TKSV_FAILURE_DISABLED;
-    const char *const hint = m_options.enablesModem ? NOT_ENABLED : ENABLE_HINT;
-    printFailure(code, outcome, deviceText(device) + (isDisabled ? hint : ""));
+    outcome.failure.reason = deviceFailure(device);
+    outcome.failure.wasNotSent = wasNotSent;
+    std::string message = deviceText(device);
+    if (outcome.failure.reason == TKSV_FAILURE_DISABLED)
+        message += m_options.enablesModem ? NOT_ENABLED : ENABLE_HINT;
+    if (outcome.failure.reason == TKSV_FAILURE_NONE) { // the modem has become ready too late
+        outcome.failure.reason = TKSV_FAILURE_NOT_REGISTERED;
+        message = failureText(outcome.failure);
+    }
+    printFailure(code, outcome, message);
     return exitCodeOf(outcome.failure.reason);
 }
 
@@ -110,12 +118,11 @@ int Program::send(Conversation &conversation, const std::string &text)
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
     const bool isAnswer = conversation.isMenuOpen();
     Outcome outcome = conversation.send(text);
-    if (!isAnswer && outcome.failure.wasNotSent) {
-        if (removeObstacle(outcome.failure.reason))
-            outcome = conversation.send(text);
-        else if (isDeviceNotReady(outcome.failure.reason))
-            return failOnDevice(text);
-    }
+    const TKSV_FailureInfo first = outcome.failure;
+    if (!isAnswer && first.wasNotSent && removeObstacle(first.reason))
+        outcome = conversation.send(text);
+    else if (!isAnswer && isDeviceNotReady(first.reason))
+        return failOnDevice(text, first.wasNotSent);
     if (outcome.hasFailed())
         printFailure(text, outcome, messageOf(outcome.failure));
     else

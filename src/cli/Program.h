@@ -34,7 +34,7 @@ public:
     void awaitModem();
     /// Prints why the device cannot be used, and returns the exit code. `code` is the code that is
     /// not sent for this reason; it may be empty. Prints nothing if a signal has arrived.
-    int failOnDevice(const std::string &code);
+    int failOnDevice(const std::string &code, bool wasNotSent = true);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 

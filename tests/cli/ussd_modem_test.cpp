@@ -98,6 +98,8 @@ private slots:
     void aMissingPermissionIsSaid();
     void aModemThatSearchesIsNamed();
     void aModemThatGoesAwayIsLost();
+    void aDaemonThatHangsIsSaid();
+    void aDaemonThatIsNotRunningIsSaid();
 
     void theSessionOfAnotherProgramIsLeftAlone();
     void theSessionOfAnotherProgramIsEndedOnRequest();
@@ -328,6 +330,27 @@ void UssdModemTest::aModemThatGoesAwayIsLost()
     const QJsonObject failure = objectsIn(result.out).value(0);
     QCOMPARE(failure.value(latin1("reason")).toString(), latin1("device-lost"));
     QCOMPARE(failure.value(latin1("notSent")).toBool(true), false);
+}
+
+void UssdModemTest::aDaemonThatHangsIsSaid()
+{
+    m_world->pauseDaemon();
+    const Run result = run("send *100#");
+    const Run status = run("status");
+    m_world->resumeDaemon();
+    COMPARE_EXIT(result, EXIT_NOT_READY);
+    QVERIFY2(result.error.contains(latin1("does not answer")), qPrintable(result.error));
+    COMPARE_EXIT(status, EXIT_NOT_READY);
+    QVERIFY2(status.error.contains(latin1("does not answer")), qPrintable(status.error));
+}
+
+void UssdModemTest::aDaemonThatIsNotRunningIsSaid()
+{
+    m_world->stopDaemon();
+    const Run result = run("send *100#");
+    QVERIFY(m_world->startDaemon());
+    COMPARE_EXIT(result, EXIT_NOT_READY);
+    QVERIFY2(result.error.contains(latin1("systemctl start")), qPrintable(result.error));
 }
 
 /* ---- other programs ---------------------------------------------------------------------- */

@@ -70,6 +70,7 @@ private slots:
     void theFirstFailureEndsTheInput();
     void aLineThatIsNoCodeEndsTheInput();
     void aMenuInTheInputIsEnded();
+    void anEndlessLineIsNoCode();
 
     void standardOutputThatFails_data();
     void standardOutputThatFails();
@@ -440,6 +441,15 @@ void UssdProgramTest::aMenuInTheInputIsEnded()
     const Run result = run(words("send -"), "*123#\n*100#\n");
     COMPARE_EXIT(result, EXIT_MENU_OPEN);
     QVERIFY(!result.out.contains(QLatin1String("balance")));
+}
+
+/// The program does not read the whole line before it fails.
+void UssdProgramTest::anEndlessLineIsNoCode()
+{
+    UssdProcess process(words("send -"));
+    process.start();
+    process.write(QByteArray(100000, '1'));
+    COMPARE_EXIT(process.finish(), EXIT_WRONG_USAGE); // standard input is still open
 }
 
 /* ---- standard output --------------------------------------------------------------------- */
