@@ -104,6 +104,8 @@ void ModemDevice::modemChanged()
         m_problem = TKSV_PROBLEM_NONE; // the modem has left the state with the problem
     fetchSim();
     m_listener.changed();
+    if (now == MM_MODEM_STATE_DISABLED)
+        m_ussd->abandonCall(); // its request has failed in changed()
 }
 
 void ModemDevice::enable()

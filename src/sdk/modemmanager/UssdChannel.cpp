@@ -17,6 +17,10 @@ const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STA
 /// The time that the state may lag behind a reply before the channel queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
+/// The time within which the daemon refuses a call because another program has a session. It asks
+/// polkit first, which takes a few milliseconds unless polkit asks the user.
+const std::chrono::milliseconds REFUSAL_LIMIT(150);
+
 /// The time between two looks at the queue of programs.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
@@ -72,6 +76,7 @@ void UssdChannel::interfaceRemoved()
     m_replyText.reset();
     m_cancelWanted = false;
     m_cancelling = false;
+    m_isChecking = false;
     leaveTurn();
     setOwner(Owner::Nobody);
 }
@@ -116,6 +121,20 @@ void UssdChannel::failPending(TKSV_Failure reason)
     endSession();
     if (request)
         m_listener.replied(request->token, failedReply(Failure{reason, wasNotSent}));
+}
+
+/// The daemon neither finishes nor cancels the call of a modem that is disabled. The call blocks
+/// the next one, see cancelStuckCall().
+void UssdChannel::abandonCall()
+{
+    if (!m_running || !m_isCallPending || m_cancelling)
+        return;
+    ++m_call;
+    m_isCallStuck = true;
+    m_running.reset();
+    m_cancelWanted = false;
+    setOwner(Owner::Nobody);
+    startNext();
 }
 
 void UssdChannel::endForeignSession()
@@ -170,12 +189,34 @@ void UssdChannel::setWaitsForTurn(bool waits)
         m_listener.changed();
 }
 
-/// Starts the call. An answer needs the session that it answers.
+/// Starts the call if the session permits it. An answer needs the session that it answers. A code
+/// needs an idle session.
 void UssdChannel::start(const Request &request)
 {
     const bool isAnswer = request.kind == RequestKind::Answer;
-    if (!isAnswer || canAnswer())
+    if (isAnswer ? canAnswer() : m_state == IDLE)
         return call(request);
+    if (isAnswer)
+        return refuse(request);
+    m_next = request;
+    if (!std::exchange(m_isChecking, true))
+        checkSession();
+}
+
+/// Queries whether the session of another program is still open, and refuses the code in that case.
+/// polkit is then not asked in vain.
+void UssdChannel::checkSession()
+{
+    askForState([this](State state) {
+        handleState(state);
+        m_isChecking = false;
+        if (state != IDLE && !canAnswer() && m_next)
+            refuse(*std::exchange(m_next, std::nullopt));
+    });
+}
+
+void UssdChannel::refuse(const Request &request)
+{
     const TKSV_Failure reason =
         hasForeignSession() ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_ENDED_BY_NETWORK;
     m_listener.replied(request.token, failedReply(Failure{reason, true}));
@@ -192,6 +233,7 @@ void UssdChannel::call(const Request &request)
     m_wasActive = false;
     m_isConfirmed = isAnswer; // the session is ours already
     m_isConfirming = false;
+    m_isChecking = false;
     m_hasNewQuestion = false;
     const auto finishCall =
         isAnswer ? mm_modem_3gpp_ussd_respond_finish : mm_modem_3gpp_ussd_initiate_finish;
@@ -222,6 +264,8 @@ void UssdChannel::callFailed(const GError &error)
 {
     if (isServiceLost(error))
         return; // the device event ends the command
+    if (m_isCallStuck && isInProgress(error))
+        return cancelStuckCall();
     const Failure failure = failureOf(error);
     if (failure.reason == TKSV_FAILURE_NOT_PERMITTED)
         m_listener.notPermitted();
@@ -237,10 +281,19 @@ void UssdChannel::callFailed(const GError &error)
     askForStateOfOthers();
 }
 
+/// Cancels an earlier call of ours that the daemon has neither finished nor cancelled, and repeats
+/// the request.
+void UssdChannel::cancelStuckCall()
+{
+    if (!m_next && !m_cancelWanted)
+        m_next = m_running;
+    m_running.reset();
+    startCancel();
+}
+
 Failure UssdChannel::failureOf(const GError &error) const
 {
     UssdCallContext context;
-    context.isAnswer = m_running && m_running->kind == RequestKind::Answer;
     context.seconds = std::chrono::duration<double>(Clock::now() - m_callStart).count();
     context.isOnlyOn4G = m_listener.isOnlyOn4G();
     return failureOfUssdError(error, context);
@@ -248,10 +301,9 @@ Failure UssdChannel::failureOf(const GError &error) const
 
 /// Cancels our session, but never the session of another program. While another program has a
 /// session, the daemon is about to refuse our call, and a cancellation would end that session.
-/// Therefore, a call that is running must be confirmed first: the session has become active, and
-/// the daemon has answered a later query while the call was still running. Otherwise, the channel
-/// waits until the session becomes active or the call returns. This takes long if polkit asks the
-/// user.
+/// Therefore, a call that is running must be confirmed first: the daemon has had the time to refuse
+/// it, and the session has become active and still is. Otherwise, the channel waits until the
+/// session becomes active or the call returns. This takes long if polkit asks the user.
 void UssdChannel::cancelWhenOurs()
 {
     if (!m_running && !canAnswer()) {
@@ -266,16 +318,27 @@ void UssdChannel::cancelWhenOurs()
 
 void UssdChannel::confirm()
 {
-    if (m_isConfirmed || std::exchange(m_isConfirming, true))
+    if (std::exchange(m_isConfirming, true))
         return;
+    const auto left = REFUSAL_LIMIT - (Clock::now() - m_callStart);
+    if (left <= left.zero())
+        return askForStateOfCall();
+    const auto pause = std::chrono::duration_cast<std::chrono::milliseconds>(left);
+    m_thread.after(pause + std::chrono::milliseconds(1), [self = weak_from_this(), call = m_call] {
+        const std::shared_ptr<UssdChannel> alive = self.lock();
+        if (alive && alive->m_call == call)
+            alive->askForStateOfCall();
+    });
+}
+
+void UssdChannel::askForStateOfCall()
+{
     askForState([this](State state) {
         m_isConfirming = false;
         if (!m_isCallPending)
             return;
-        if (state == ACTIVE && m_wasActive)
-            m_isConfirmed = true;
-        else
-            handleState(state);
+        m_isConfirmed = m_isConfirmed || (m_wasActive && state == ACTIVE);
+        handleState(state);
         if (m_isConfirmed && m_cancelWanted)
             startNext();
     });
@@ -287,6 +350,7 @@ void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
     m_cancelling = true;
+    m_isChecking = false;
     const AsyncDone done = [this, call = ++m_call](GObject *ussd, GAsyncResult *result) {
         ErrorSlot error;
         mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, error.slot());
@@ -295,12 +359,14 @@ void UssdChannel::startCancel()
     mm_modem_3gpp_ussd_cancel(m_ussd.get(), nullptr, runAsyncDone, asyncDone(whileAlive(done)));
 }
 
-/// The daemon is idle even after a failed cancellation, unless the policy denies it.
+/// The daemon is idle even after a failed cancellation, unless the policy denies it. However, the
+/// daemon does not cancel the call of a modem that is being disabled.
 void UssdChannel::cancelReturned(unsigned call, const GError *error)
 {
     if (call != m_call)
         return;
     m_cancelling = false;
+    m_isCallStuck = error && m_running && m_isCallPending;
     m_running.reset();
     m_replyText.reset();
     m_state = IDLE;
@@ -422,14 +488,23 @@ void UssdChannel::handleState(State state)
 void UssdChannel::handleStateDuringCall(State state)
 {
     if (state == ACTIVE) {
-        if (m_isCallPending && m_cancelWanted && m_wasActive)
+        if (m_isCallPending && m_wasActive && m_cancelWanted && !m_isConfirmed)
             confirm();
         return;
     }
     if (!m_replyText)
-        m_wasActive = false;
+        sessionEndedDuringCall();
     else if (m_wasActive)
         replyIsWhole(state == USER_RESPONSE);
+}
+
+/// The session has ended, but our call has not returned. If the daemon has had the time to refuse
+/// the call, the session was ours.
+void UssdChannel::sessionEndedDuringCall()
+{
+    const bool hadTime = Clock::now() - m_callStart >= REFUSAL_LIMIT;
+    m_isConfirmed = m_isConfirmed || (m_wasActive && hadTime);
+    m_wasActive = false;
 }
 
 /// Handles a state that no call of ours has caused. Only the network asks a question without an

@@ -66,6 +66,9 @@ public:
     void endSession();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);
+    /// Forgets a running call that the daemon will not finish. Must be called after the modem was
+    /// disabled.
+    void abandonCall();
     /// Ends the session that another program has opened.
     void endForeignSession();
 
@@ -90,12 +93,16 @@ private:
     void leaveTurn();
     void setWaitsForTurn(bool waits);
     void start(const Request &request);
+    void checkSession();
+    void refuse(const Request &request);
     void call(const Request &request);
     void callReturned(unsigned call, GMemory<char> text, const GError *error);
     void callFailed(const GError &error);
+    void cancelStuckCall();
     Failure failureOf(const GError &error) const;
     void cancelWhenOurs();
     void confirm();
+    void askForStateOfCall();
     void startCancel();
     void cancelReturned(unsigned call, const GError *error);
 
@@ -107,6 +114,7 @@ private:
     void propertiesChanged(GVariant *changed);
     void handleState(State state);
     void handleStateDuringCall(State state);
+    void sessionEndedDuringCall();
     void handleStateOfOthers(State state);
     void replyIsWhole(bool waits);
     void finish(const UssdReply &reply);
@@ -135,6 +143,8 @@ private:
     bool m_wasActive = false;     // the state became "active" after the call had started
     bool m_isConfirmed = false;   // the call has opened a session, see cancelWhenOurs()
     bool m_isConfirming = false;
+    bool m_isChecking = false;  // m_next waits for the state
+    bool m_isCallStuck = false; // the daemon could not cancel an earlier call
     bool m_isLagTimerRunning = false;
     bool m_cancelWanted = false;
     bool m_cancelling = false;

@@ -36,6 +36,8 @@ TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
         return says(error, "(5)") ? TKSV_FAILURE_NETWORK_TIMEOUT : TKSV_FAILURE_ENDED_BY_NETWORK;
     if (says(error, "missing field separator"))
         return TKSV_FAILURE_EMPTY_REPLY;
+    if (says(error, "Invalid USSD message received") || says(error, "Cannot decode USSD"))
+        return TKSV_FAILURE_UNDECODABLE;
     if (context.seconds >= UNANSWERED_SECONDS)
         return TKSV_FAILURE_NO_ANSWER;
     return context.isOnlyOn4G ? TKSV_FAILURE_NOT_ON_4G : TKSV_FAILURE_REFUSED;
@@ -98,8 +100,10 @@ Failure failureOfUssdError(const GError &error, const UssdCallContext &context)
         return Failure{TKSV_FAILURE_NOT_PERMITTED, true};
     if (isCoreError(error, MM_CORE_ERROR_WRONG_STATE))
         return Failure{reasonOfWrongState(error), true};
-    if (isCoreError(error, MM_CORE_ERROR_IN_PROGRESS))
+    if (isInProgress(error))
         return Failure{TKSV_FAILURE_IN_USE, true};
+    if (error.domain == G_CONVERT_ERROR && says(error, "to UTF-8")) // of the reply
+        return Failure{TKSV_FAILURE_UNDECODABLE};
     if (error.domain == G_CONVERT_ERROR)
         return Failure{TKSV_FAILURE_NOT_ENCODABLE, true};
     if (error.domain == MM_CORE_ERROR)
@@ -109,6 +113,11 @@ Failure failureOfUssdError(const GError &error, const UssdCallContext &context)
     if (error.domain == MM_SERIAL_ERROR || hasCode(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT))
         return Failure{TKSV_FAILURE_NO_ANSWER};
     return Failure{TKSV_FAILURE_REFUSED};
+}
+
+bool isInProgress(const GError &error)
+{
+    return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
 bool isNotPermitted(const GError &error)

@@ -12,13 +12,15 @@ namespace Tksv
 
 /** The circumstances of a USSD call that has failed. */
 struct UssdCallContext {
-    bool isAnswer = false;
     double seconds = 0; // the duration of the call
     bool isOnlyOn4G = false;
 };
 
 /// Returns the reason why a USSD call has failed. Must not be called if isServiceLost().
 Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
+
+/// Returns true if the daemon has not finished an earlier call.
+bool isInProgress(const GError &error);
 
 /// Returns true if the daemon or the modem has disappeared. A device event then ends the command.
 bool isServiceLost(const GError &error);
