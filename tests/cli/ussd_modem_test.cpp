@@ -107,6 +107,7 @@ private slots:
     void twoProgramsGetTheirOwnReplies();
     void eightProgramsGetTheirOwnReplies();
     void aProgramWaitsForItsTurn();
+    void theTimeOutStartsWithTheTurn();
     void theWaitForATurnEnds();
 
     void modemsAreListedAndSelected();
@@ -420,8 +421,7 @@ void UssdModemTest::eightProgramsGetTheirOwnReplies()
     compareManyPrograms(8);
 }
 
-/// The first program holds the modem until a signal ends it. The time-out of the second program
-/// starts when it gets its turn.
+/// The first program holds the modem until a signal ends it.
 void UssdModemTest::aProgramWaitsForItsTurn()
 {
     UssdProcess first(words("send *131#"));
@@ -437,6 +437,24 @@ void UssdModemTest::aProgramWaitsForItsTurn()
     COMPARE_EXIT(result, EXIT_DONE);
     QCOMPARE(result.out, latin1("Your balance is 12.50 EUR.\n"));
     QCOMPARE(result.error.count(latin1("Waiting")), 1);
+}
+
+/// The second program notices after 100 ms or more that it has to wait. Its time-out then starts
+/// again, so that the program ends 100 ms or more after a time-out that had started at once.
+void UssdModemTest::theTimeOutStartsWithTheTurn()
+{
+    UssdProcess first(words("send *131#"));
+    first.start();
+    QVERIFY(modem().waitForCommand(INITIATE));
+    UssdProcess second(words("send --json --timeout 0.6 *131#"));
+    second.start();
+    QVERIFY(second.waitForError(latin1("Waiting")));
+    first.sendSignal(SIGTERM);
+    const Run result = second.finish();
+    COMPARE_EXIT(result, EXIT_NO_ANSWER);
+    QVERIFY2(objectsIn(result.out).value(0).value(latin1("seconds")).toDouble() > 0.69,
+             qPrintable(result.out));
+    QVERIFY(isIdle());
 }
 
 void UssdModemTest::theWaitForATurnEnds()
