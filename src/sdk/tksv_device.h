@@ -122,7 +122,8 @@ TKSV_API long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity,
 /**
  * Switches to the modem with that identifier, which replaces the device in use in the same way as
  * TKSV_Device_UseScenario does. While the modem is missing, no other modem replaces it. A null or
- * empty identifier selects the modem that was found first.
+ * empty identifier selects the first modem that is registered, or, as long as no modem is
+ * registered, the modem that was found first.
  */
 TKSV_API long TKSV_Device_UseModem(const char *equipmentId);
 
@@ -219,8 +220,7 @@ typedef struct TKSV_NetworkText {
     time_t receivedAt;  /* in UTC */
     int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers the text, unless the request
                            has the form of a code; otherwise 0 */
-    const char *text;   /* empty if the text is unknown, as for a menu that was open before the
-                           program started */
+    const char *text;
 } TKSV_NetworkText;
 
 /**

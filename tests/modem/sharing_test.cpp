@@ -61,6 +61,12 @@ public:
         return m_process.readAllStandardOutput().trimmed();
     }
 
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
 private:
     QProcess m_process;
 };
@@ -88,6 +94,7 @@ private slots:
     void switchingTheDeviceEndsOurMenu();
     void aProgramThatEndsEndsItsSession();
     void aProgramThatEndsLeavesAForeignSession();
+    void theSessionOfACrashedProgramIsForeign();
 
     void eightProgramsGetTheirOwnReplies();
     void aCommandWaitsForItsTurn();
@@ -353,6 +360,22 @@ void ModemSharingTest::aProgramThatEndsLeavesAForeignSession()
     QCOMPARE(program.output(), QByteArray());
     QCOMPARE(other.respond("1").text, std::string("One"));
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+}
+
+/// The library cannot know that the program has crashed and that nobody has opened another session
+/// since then.
+void ModemSharingTest::theSessionOfACrashedProgramIsForeign()
+{
+    useModem();
+    OneCommand program("*133#", "reply");
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    QVERIFY(!isTurnFree());
+    program.kill();
+    QVERIFY(isTurnFree());
+    QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_IN_USE));
+    QCOMPARE(TKSV_Device_EndForeignSession(), 0L);
+    QVERIFY(waitForForeignSession(false));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
 /* ---- turns ------------------------------------------------------------------------------- */

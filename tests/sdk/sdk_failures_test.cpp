@@ -23,6 +23,9 @@ Reply=Menu
 Reply=One
 [*130#]
 Outcome=refuse
+[*134#]
+Outcome=refuse
+Reply=Not in this network
 [*131#]
 Outcome=unsupported
 [*132#]
@@ -54,6 +57,7 @@ private slots:
 
     void emptyResponseHasTheReasonAsItsType_data();
     void emptyResponseHasTheReasonAsItsType();
+    void closingTextIsReported();
     void replyIsNoFailure();
     void reasonBelongsToTheResponseInItsCallback();
     void refusedRequestHasAReason_data();
@@ -98,6 +102,16 @@ void SdkFailures::emptyResponseHasTheReasonAsItsType()
     QVERIFY(response.text.empty());
     QCOMPARE(int(lastFailure().reason), reason);
     QCOMPARE(lastFailure().wasNotSent, 0);
+    QCOMPARE(lastFailure().text, "");
+}
+
+/// ModemManager 1.20 drops the closing text of a modem.
+void SdkFailures::closingTextIsReported()
+{
+    QCOMPARE(ask(u"*134#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
+    QVERIFY(received().responses.all().back().text.empty());
+    QCOMPARE(lastFailure().text, abilities().failsInTheCall ? "Not in this network" : "");
+    ask(u"*100#");
     QCOMPARE(lastFailure().text, "");
 }
 

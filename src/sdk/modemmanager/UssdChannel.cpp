@@ -278,7 +278,8 @@ void UssdChannel::callFailed(const GError &error)
     } else {
         finish(failedReply(failure));
     }
-    askForStateOfOthers();
+    if (!isInProgress(error)) // such a call of another program blocks the modem although it is idle
+        askForStateOfOthers();
 }
 
 /// Cancels an earlier call of ours that the daemon has neither finished nor cancelled, and repeats
@@ -288,6 +289,7 @@ void UssdChannel::cancelStuckCall()
     if (!m_next && !m_cancelWanted)
         m_next = m_running;
     m_running.reset();
+    m_isCallStuck = false; // tried once only
     startCancel();
 }
 
@@ -366,7 +368,7 @@ void UssdChannel::cancelReturned(unsigned call, const GError *error)
     if (call != m_call)
         return;
     m_cancelling = false;
-    m_isCallStuck = error && m_running && m_isCallPending;
+    m_isCallStuck = error && (m_isCallStuck || (m_running && m_isCallPending));
     m_running.reset();
     m_replyText.reset();
     m_state = IDLE;

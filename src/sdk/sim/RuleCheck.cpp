@@ -63,7 +63,8 @@ private:
         const bool replies = m_rule.outcome == Outcome::Reply;
         if (replies && !has("Reply") && !has("Goto"))
             complain("expected Reply, Goto, Outcome or DeviceEvent");
-        allow("Reply", replies, "with Outcome=reply");
+        allow("Reply", replies || m_rule.outcome == Outcome::Refuse,
+              "with Outcome=reply or Outcome=refuse");
         allow("Goto", replies, "with Outcome=reply");
         allow("Credit", replies, "with Outcome=reply");
         allow("Outcome", !has("DeviceEvent"), "without DeviceEvent");

@@ -226,7 +226,8 @@ void SimulatedNetwork::perform(const Request &request, Notices &notices)
 UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
 {
     if (rule.outcome != Outcome::Reply)
-        return emptyReply(reasonOf(rule.outcome));
+        return failedReply(
+            Failure{reasonOf(rule.outcome), false, expand(rule.reply, placeholders(request))});
     const UssdReply reply = textReply(request, rule);
     return reply.text.empty() ? emptyReply(TKSV_FAILURE_ENDED_BY_NETWORK) : reply;
 }
