@@ -1,4 +1,5 @@
 #include <csignal>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -49,6 +50,15 @@ int runCommand(Program &program)
     return EXIT_DONE;
 }
 
+/// Ends the program without the library's exit handler, which waits for its threads: a tenth of the
+/// run of `ussd send`. No session is open, nothing is left to be sent, and the output is written.
+void exitQuickly()
+{
+#ifdef USSD_EXITS_QUICKLY
+    std::_Exit(EXIT_DONE);
+#endif
+}
+
 int run(const Options &options)
 {
     Program program(options);
@@ -63,6 +73,8 @@ int run(const Options &options)
     if (!program.output().finish())
         return EXIT_NOT_WRITTEN;
     const int signal = program.waits().signal();
+    if (options.command == Command::Send && result == EXIT_DONE && !signal)
+        exitQuickly();
     return signal ? EXIT_SIGNAL + signal : result;
 }
 

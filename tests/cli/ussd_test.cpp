@@ -51,6 +51,7 @@ private slots:
     void answersAfterAFailureAreNotSent();
     void failuresHaveTheirExitCode_data();
     void failuresHaveTheirExitCode();
+    void theClosingTextOfTheNetworkIsPrinted();
     void theTimeOutEndsTheRequest();
     void aDeviceThatIsNotReadyIsNamed_data();
     void aDeviceThatIsNotReadyIsNamed();
@@ -249,6 +250,16 @@ void UssdProgramTest::failuresHaveTheirExitCode()
     COMPARE_EXIT(result, exitCode);
     QVERIFY(result.out.isEmpty());
     QVERIFY2(result.error.contains(QString::fromUtf8(message)), qPrintable(result.error));
+}
+
+void UssdProgramTest::theClosingTextOfTheNetworkIsPrinted()
+{
+    const Run result = run("send --json *135#");
+    COMPARE_EXIT(result, EXIT_REFUSED);
+    QCOMPARE(objectsIn(result.out).value(0).value(latin1("text")).toString(),
+             latin1("This code has expired."));
+    QVERIFY2(result.error.contains(latin1("It said: This code has expired.\n")),
+             qPrintable(result.error));
 }
 
 void UssdProgramTest::theTimeOutEndsTheRequest()
