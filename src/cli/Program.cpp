@@ -23,7 +23,7 @@ const char NOT_ENABLED[] = " It could not be switched on.";
 
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
-/// Returns the failure in sentences, with the option that helps.
+/// Returns the failure in sentences, with the closing text of the network and a suitable option.
 std::string messageOf(const TKSV_FailureInfo &failure)
 {
     std::string message = failureText(failure);
@@ -34,7 +34,7 @@ std::string messageOf(const TKSV_FailureInfo &failure)
     return message;
 }
 
-/// Returns true if the state of the device is the reason, so that its text says more.
+/// Returns true if the state of the device is the reason. deviceText() is then more precise.
 bool isDeviceNotReady(TKSV_Failure reason)
 {
     return reason == TKSV_FAILURE_NO_DEVICE || reason == TKSV_FAILURE_DISABLED ||
@@ -111,8 +111,8 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
     return exitCodeOf(reason);
 }
 
-/// Sends the text without looking at the device before, because the library keeps a request until
-/// it knows the modem. A command that was not sent is sent again when the obstacle has gone.
+/// Sends the text without checking the device first, because the library keeps a request until it
+/// has found the modem. If the command was not sent, sends it again after the obstacle is removed.
 int Program::send(Conversation &conversation, const std::string &text)
 {
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });

@@ -14,9 +14,9 @@ using namespace Cli;
 namespace
 {
 
-/// Opens the standard streams that are closed, so that no other file gets their numbers. A reply
-/// would otherwise be written to the message bus, for example. The files are opened for reading
-/// only, so that output still fails.
+/// Opens standard streams that are closed, so that no other file gets their descriptors. Otherwise,
+/// a reply could be written to the message bus, for example. The files are opened for reading only,
+/// so that writing still fails.
 void reserveStandardStreams()
 {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
@@ -50,8 +50,9 @@ int runCommand(Program &program)
     return EXIT_DONE;
 }
 
-/// Ends the program without the library's exit handler, which waits for its threads: a tenth of the
-/// run of `ussd send`. No session is open, nothing is left to be sent, and the output is written.
+/// Ends the program without running the exit handler of the library. The handler waits for the
+/// threads of the library, which takes a tenth of the time of `ussd send`. May be called only if no
+/// session is open and the output has been written.
 void exitQuickly()
 {
 #ifdef USSD_EXITS_QUICKLY

@@ -59,8 +59,8 @@ std::string networkFor(int programs)
 {
     std::string network = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nDelay=20\n";
     for (int i = 0; i < programs; ++i) {
-        const std::string number = std::to_string(i);
-        network += "[*10" + number + "#]\nReply=Reply " + number + "\n";
+        network += "[*10" + std::to_string(i);
+        network += "#]\nReply=Reply " + std::to_string(i) + "\n";
     }
     return network;
 }

@@ -90,6 +90,7 @@ private slots:
 
     void theStatusIsPrinted();
     void messagesOfTheNetworkArePrinted();
+    void changesOfTheModemAreNoticed();
     void aSimulatedDeviceIsNoModem();
     void withoutASessionThereIsNothingToCancel();
 
@@ -648,6 +649,17 @@ void UssdProgramTest::messagesOfTheNetworkArePrinted()
     QCOMPARE(message.value(latin1("text")).toString(), latin1("A bonus\nfor you"));
     QVERIFY(QDateTime::fromString(message.value(latin1("time")).toString(), Qt::ISODate).isValid());
     QCOMPARE(message.value(latin1("waitsForAnswer")).toBool(true), false);
+}
+
+void UssdProgramTest::changesOfTheModemAreNoticed()
+{
+    const QByteArray changes = "[Event gone]\nAfter=100\nState=searching\n"
+                               "[Event back]\nAfter=200\nState=registered\n";
+    const QString file = writeFile(latin1("changes.scenario"), scenarioWithReply("x") + changes);
+    UssdProcess process(words("watch --scenario") << file);
+    process.start();
+    QVERIFY(process.waitForError(latin1("searching for a network.\n")));
+    QVERIFY(process.waitForError(latin1("registered again.\n")));
 }
 
 void UssdProgramTest::aSimulatedDeviceIsNoModem()
