@@ -86,6 +86,7 @@ private slots:
     void aChatReadsAnswers();
     void aChatHasAPromptOnATerminal();
     void aChatSurvivesAFailure();
+    void aChatAnswersTheNetwork();
     void aSignalEndsAChat();
 
     void theStatusIsPrinted();
@@ -596,6 +597,21 @@ void UssdProgramTest::aChatSurvivesAFailure()
     COMPARE_EXIT(result, EXIT_DONE);
     QCOMPARE(result.out, QLatin1String("Your balance is 7.00 EUR.\n"));
     QVERIFY2(result.error.contains(QLatin1String("quote")), qPrintable(result.error));
+}
+
+/// The network asks a question of its own accord.
+void UssdProgramTest::aChatAnswersTheNetwork()
+{
+    const QByteArray push = "[Push offer]\nAfter=100\nReply=A gigabyte for 1 EUR?\n"
+                            "[Push offer/1]\nReply=Booked.\n";
+    const QString file = writeFile(latin1("offer.scenario"), scenarioWithReply("x") + push);
+    UssdProcess process(words("chat --scenario") << file);
+    process.start();
+    QVERIFY(process.waitForOutput(latin1("A gigabyte for 1 EUR?\n")));
+    process.write("1\n");
+    QVERIFY(process.waitForOutput(latin1("Booked.\n")));
+    process.closeWriteChannel();
+    COMPARE_EXIT(process.finish(), EXIT_DONE);
 }
 
 void UssdProgramTest::aSignalEndsAChat()
