@@ -10,6 +10,7 @@ namespace Tksv
 namespace
 {
 
+const MMModem3gppUssdSessionState UNKNOWN = MM_MODEM_3GPP_USSD_SESSION_STATE_UNKNOWN;
 const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
 const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
 const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
@@ -210,7 +211,7 @@ void UssdChannel::checkSession()
     askForState([this](State state) {
         handleState(state);
         m_isChecking = false;
-        if (state != IDLE && !canAnswer() && m_next)
+        if (m_state != IDLE && !canAnswer() && m_next)
             refuse(*std::exchange(m_next, std::nullopt));
     });
 }
@@ -473,8 +474,11 @@ void UssdChannel::propertiesChanged(GVariant *changed)
     handleState(state);
 }
 
-void UssdChannel::handleState(State state)
+/// Handles a state that was reported or queried. It is unknown while the modem is disabled, and a
+/// disabled modem has no session.
+void UssdChannel::handleState(State reported)
 {
+    const State state = reported == UNKNOWN ? IDLE : reported;
     const State before = std::exchange(m_state, state);
     if (m_cancelling)
         return;

@@ -112,7 +112,7 @@ private:
     void askForStateOfReply();
     void askForStateOfOthers();
     void propertiesChanged(GVariant *changed);
-    void handleState(State state);
+    void handleState(State reported);
     void handleStateDuringCall(State state);
     void sessionEndedDuringCall();
     void handleStateOfOthers(State state);
