@@ -212,6 +212,7 @@ Outcome Conversation::giveUp(TKSV_Failure reason)
     }
     if (outcome.failure.reason == TKSV_FAILURE_CANCELLED && !m_waits.signal())
         outcome.failure.reason = reason;
+    outcome.hasMissedTurn = outcome.failure.reason == TKSV_FAILURE_IN_USE;
     return outcome;
 }
 

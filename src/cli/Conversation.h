@@ -17,6 +17,7 @@ struct Outcome {
     int type = 0;                  // see TKSV_USSDResponse
     std::string text;              // the reply, in UTF-8
     double seconds = 0;            // from the request to its end
+    bool hasMissedTurn = false;    // another program of the user did not free the modem in time
 
     bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
     bool isMenu() const { return !hasFailed() && type == 1; }

@@ -18,20 +18,17 @@ const char AWAITING_TURN[] = "Waiting for another program of yours that uses thi
 const char END_FOREIGN_HINT[] =
     " The option --end-foreign-session ends the session of the other program.";
 
+const char NOT_ENDED[] = " Its session could not be ended.";
 const char ENABLE_HINT[] = " The option --enable switches it on.";
 const char NOT_ENABLED[] = " It could not be switched on.";
 
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
-/// Returns the failure in sentences, with the closing text of the network and a suitable option.
+/// Returns the failure in sentences, with the closing text of the network.
 std::string messageOf(const TKSV_FailureInfo &failure)
 {
-    std::string message = failureText(failure);
-    if (*failure.text)
-        message += std::string(" It said: ") + failure.text;
-    if (failure.reason == TKSV_FAILURE_IN_USE)
-        message += END_FOREIGN_HINT;
-    return message;
+    const std::string message = failureText(failure);
+    return *failure.text ? message + " It said: " + failure.text : message;
 }
 
 /// Returns true if the state of the device is the reason. deviceText() is then more precise.
@@ -119,15 +116,25 @@ int Program::send(Conversation &conversation, const std::string &text)
     const bool isAnswer = conversation.isMenuOpen();
     Outcome outcome = conversation.send(text);
     const TKSV_FailureInfo first = outcome.failure;
-    if (!isAnswer && first.wasNotSent && removeObstacle(first.reason))
+    const bool mayBeRepeated = !isAnswer && first.wasNotSent && !outcome.hasMissedTurn;
+    if (mayBeRepeated && removeObstacle(first.reason))
         outcome = conversation.send(text);
     else if (!isAnswer && isDeviceNotReady(first.reason))
         return failOnDevice(text, first.wasNotSent);
     if (outcome.hasFailed())
-        printFailure(text, outcome, messageOf(outcome.failure));
+        printFailure(text, outcome, messageOf(outcome.failure) + hintFor(outcome));
     else
         printReply(text, outcome);
     return exitCodeOf(outcome.failure.reason);
+}
+
+/// Returns a sentence about the session of another program. Programs of this user finish by
+/// themselves.
+std::string Program::hintFor(const Outcome &outcome) const
+{
+    if (outcome.failure.reason != TKSV_FAILURE_IN_USE || outcome.hasMissedTurn)
+        return std::string();
+    return m_options.endsForeignSession ? NOT_ENDED : END_FOREIGN_HINT;
 }
 
 /// Returns true if the request may now succeed.

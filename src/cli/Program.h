@@ -45,6 +45,7 @@ public:
 
 private:
     Milliseconds readyLimit() const;
+    std::string hintFor(const Outcome &outcome) const;
     bool removeObstacle(TKSV_Failure reason);
     void printReply(const std::string &code, const Outcome &outcome);
     void printFailure(const std::string &code, const Outcome &outcome, const std::string &message);

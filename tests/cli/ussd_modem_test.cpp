@@ -464,6 +464,7 @@ void UssdModemTest::theWaitForATurnEnds()
     const Run result = run("send --quiet --timeout 0.3 *100#");
     COMPARE_EXIT(result, EXIT_IN_USE);
     QVERIFY2(!result.error.contains(latin1("Waiting")), qPrintable(result.error));
+    QVERIFY2(!result.error.contains(latin1("--end-foreign-session")), qPrintable(result.error));
     QCOMPARE(modem().timesReceived(INITIATE), 1);
     QCOMPARE(modem().timesReceived(CANCEL), 0);
     first.sendSignal(SIGTERM);
