@@ -22,7 +22,7 @@ const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 /// polkit first, which takes a few milliseconds unless polkit asks the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The time between two looks at the queue of programs.
+/// The time between two looks at the queue of programs, and the time that a turn is kept.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
 /// There is no time limit, because the client decides how long it waits for a reply. By default,
@@ -161,27 +161,48 @@ void UssdChannel::startNext()
         start(*std::exchange(m_next, std::nullopt));
 }
 
-/// Returns true if it is this program's turn. Otherwise, startNext() is called again later.
+/// Returns true if it is this program's turn. Otherwise, startNext() is called again later. A kept
+/// turn is used again unless another program waits.
 bool UssdChannel::takeTurn()
 {
+    if (std::exchange(m_keepsTurn, false) && m_turn.isWanted())
+        m_turn.leave();
     const bool isOurTurn = m_turn.tryEnter();
+    if (!isOurTurn)
+        startTurnTimer();
     setWaitsForTurn(!isOurTurn);
-    if (isOurTurn || std::exchange(m_isTurnTimerRunning, true))
-        return isOurTurn;
-    m_thread.after(TURN_PAUSE, [self = weak_from_this()] {
-        const std::shared_ptr<UssdChannel> alive = self.lock();
-        if (!alive)
-            return;
-        alive->m_isTurnTimerRunning = false;
-        alive->startNext();
-    });
-    return false;
+    return isOurTurn;
 }
 
+/// Leaves the turn. If nobody waits, the program keeps its turn for a moment, because the files of
+/// the queue would slow down commands that follow each other.
 void UssdChannel::leaveTurn()
 {
-    m_turn.leave();
+    m_keepsTurn = m_turn.isInQueue() && !m_waitsForTurn && !m_turn.isWanted();
+    if (m_keepsTurn)
+        startTurnTimer();
+    else
+        m_turn.leave();
     setWaitsForTurn(false);
+}
+
+void UssdChannel::startTurnTimer()
+{
+    if (std::exchange(m_isTurnTimerRunning, true))
+        return;
+    m_thread.after(TURN_PAUSE, [self = weak_from_this()] {
+        if (const std::shared_ptr<UssdChannel> alive = self.lock())
+            alive->turnTimerElapsed();
+    });
+}
+
+void UssdChannel::turnTimerElapsed()
+{
+    m_isTurnTimerRunning = false;
+    if (std::exchange(m_keepsTurn, false))
+        m_turn.leave();
+    else
+        startNext();
 }
 
 void UssdChannel::setWaitsForTurn(bool waits)
