@@ -237,7 +237,7 @@ struct Activity {
     double cpuMilliseconds = 0;
 };
 
-/// Returns the CPU time of a thread, which is the first number in its schedstat file.
+/// Returns the CPU time of a thread: the first number of its schedstat file.
 double nanosecondsOnCpu(const std::string &thread)
 {
     std::ifstream stream(thread + "/schedstat");

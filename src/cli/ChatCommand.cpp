@@ -36,10 +36,10 @@ private:
     NetworkTexts m_texts;
     LineReader m_reader;
     const bool m_hasPrompt;
-    bool m_isAsked = false; // a message of the network waits for an answer
+    bool m_isAsked = false; // the last message of the network waits for an answer
 };
 
-/// Failures do not end the conversation, because the user has read them.
+/// Reads and sends lines until standard input ends. Failures are printed, but do not end the chat.
 void Chat::run()
 {
     const auto &words = m_program.options().words;

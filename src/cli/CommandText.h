@@ -16,7 +16,7 @@ std::string commandProblem(const std::string &text);
 /// text as a new code, even if a menu is open.
 bool hasFormOfCode(const std::string &text);
 
-/// Returns the record for a text without a problem.
+/// Converts the text to a request record. commandProblem() must have returned an empty string.
 TKSV_USSDRequest requestOf(const std::string &text);
 
 /// Returns the text of a response in UTF-8. Lone surrogates are replaced with U+FFFD.

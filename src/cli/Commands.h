@@ -7,8 +7,8 @@ namespace Cli
 class Program;
 
 /*
- * The commands. The device was selected before. Each function returns the exit code, which a signal
- * or a failure of standard output overrides.
+ * One function for each command. selectDevice() must have succeeded. Each function returns the exit
+ * code; if a signal arrives or standard output fails, the caller returns another one.
  */
 
 int send(Program &program);

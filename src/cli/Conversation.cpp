@@ -16,15 +16,15 @@ namespace
 /// The time that a request may take to end on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// The time that a request is waited for without following the device. Most networks take longer,
-/// but the first reply of a fast one arrives sooner without a thread for the changes of the device.
+/// If the reply arrives within this time, the changes of the device are not observed. The library
+/// needs another thread to report them.
 const Milliseconds QUICK_REPLY(100);
 
 /** Passes the response from the thread of the library to the main thread. */
 class Mailbox
 {
 public:
-    /// From now on, a response belongs to the request of this program.
+    /// Prepares for the response to a request. The response wakes `waits`.
     void expect(Waits *waits)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -32,7 +32,7 @@ public:
         m_isExpected = true;
         m_response.reset();
     }
-    /// Drops the expected response, which will not arrive.
+    /// Called if no response will arrive.
     void expectNothing()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -43,7 +43,7 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_isMenuOpen = false;
     }
-    /// Returns false if no response is expected.
+    /// Stores the response. Returns false if no response is expected.
     bool put(const Outcome &response)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -96,7 +96,7 @@ bool hasResponse()
     return mailbox().hasResponse();
 }
 
-/// Returns true while no modem is known, because ModemManager does not answer.
+/// Returns true if no modem has been found because ModemManager does not answer.
 bool isStuck(const TKSV_DeviceInfo &device)
 {
     return device.isLooking && device.problem != TKSV_PROBLEM_NONE;
@@ -168,8 +168,8 @@ Outcome Conversation::send(const std::string &text)
     return outcome;
 }
 
-/// Waits for the response. A request that has waited for its turn then has the complete time for
-/// its reply. The wait ends early if ModemManager does not answer.
+/// Waits for the response. The time limit starts again when the request gets its turn. The wait
+/// ends early if ModemManager does not answer.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;
@@ -195,8 +195,8 @@ Outcome Conversation::await(Clock::time_point start)
     return giveUp(isAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER);
 }
 
-/// Ends the request on the device, for a reason that is not a signal. A reply that arrives at the
-/// same time still counts.
+/// Cancels the request on the device. Returns a reply that arrives at the same time. Otherwise,
+/// returns a failure with the reason, or TKSV_FAILURE_CANCELLED if a signal has arrived.
 Outcome Conversation::giveUp(TKSV_Failure reason)
 {
     TKSV_Device_CancelRequest();
@@ -212,6 +212,7 @@ Outcome Conversation::giveUp(TKSV_Failure reason)
     }
     if (outcome.failure.reason == TKSV_FAILURE_CANCELLED && !m_waits.signal())
         outcome.failure.reason = reason;
+    outcome.hasMissedTurn = outcome.failure.reason == TKSV_FAILURE_IN_USE;
     return outcome;
 }
 

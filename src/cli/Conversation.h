@@ -11,12 +11,13 @@
 namespace Cli
 {
 
-/** What became of a code or an answer. */
+/** The outcome of sending a code or an answer. */
 struct Outcome {
-    TKSV_FailureInfo failure = {}; // the reason is TKSV_FAILURE_NONE if there is a reply
+    TKSV_FailureInfo failure = {}; // TKSV_FAILURE_NONE if there is a reply
     int type = 0;                  // see TKSV_USSDResponse
-    std::string text;              // of the reply, in UTF-8
+    std::string text;              // the reply, in UTF-8
     double seconds = 0;            // from the request to its end
+    bool hasMissedTurn = false;    // another program of the user did not free the modem in time
 
     bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
     bool isMenu() const { return !hasFailed() && type == 1; }
@@ -29,7 +30,7 @@ struct Outcome {
 class Conversation
 {
 public:
-    /// `device` and `waits` must outlive the object. Each reply may take `timeout`.
+    /// `device` and `waits` must outlive the object. `timeout` is the time limit for each reply.
     Conversation(Device &device, Waits &waits, Milliseconds timeout);
     /// Ends an open session.
     ~Conversation();
@@ -39,8 +40,8 @@ public:
     /// Sets a function that is called once when a request has to wait for another program.
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
-    /// Sends the text and waits for the reply, until the time is over or a signal arrives. The
-    /// request is then ended on the device.
+    /// Sends the text and waits for the reply. If the reply does not arrive in time, or if a signal
+    /// arrives first, the function cancels the request on the device.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

@@ -39,8 +39,8 @@ Device::~Device()
         TKSV_Device_SetInfoCallback(nullptr, nullptr);
 }
 
-/// The call-back is registered only when a wait needs it, because the library starts a thread for
-/// it.
+/// Registers the call-back when a wait first needs it, since the library starts a thread for the
+/// call-back.
 void Device::follow()
 {
     if (!std::exchange(m_isFollowed, true))

@@ -33,7 +33,7 @@ const char DESCRIPTION[] =
     "written,\n"
     "128 plus the number of the signal if a signal ended the program. See 'man ussd'.";
 
-/** The values that GLib's parser fills in. */
+/** The values of the options, which GLib's parser sets. */
 struct Values {
     char *modem = nullptr;
     char *scenario = nullptr;
@@ -123,9 +123,9 @@ std::string quoted(const std::string &word)
     return "'" + word + "'";
 }
 
-/* ---- what is wrong ----------------------------------------------------------------------- */
+/* ---- error messages ---------------------------------------------------------------------- */
 
-const char READS_INPUT[] = "-"; // in place of a code
+const char READS_INPUT[] = "-"; // used instead of a code
 
 std::string problemOfWord(const std::string &word)
 {
@@ -170,7 +170,7 @@ std::string problemOfOptions(const CommandRow &row, const Options &options)
     return std::string();
 }
 
-/* ---- the parts of the result ------------------------------------------------------------- */
+/* ---- reading the values ------------------------------------------------------------------ */
 
 std::string readTimeout(const std::string &text, Milliseconds &timeout)
 {
@@ -199,7 +199,7 @@ std::string readCommand(Options &options)
     return "there is no command " + quoted(name);
 }
 
-/// Moves the values to `options` and returns what is wrong with them.
+/// Moves the values to `options`. Returns an error message, or an empty string.
 std::string readValues(Values &values, Options &options)
 {
     const bool hasTimeout = values.timeout != nullptr;

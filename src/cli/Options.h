@@ -24,8 +24,8 @@ struct Options {
     bool enablesModem = false;
     bool endsForeignSession = false;
 
-    std::string help;  // what --help prints
-    std::string error; // what is wrong with the command line; empty if nothing is wrong
+    std::string help;  // the output of --help
+    std::string error; // error message; empty if the command line is valid
 };
 
 Options parseOptions(int argc, char **argv);

@@ -10,13 +10,13 @@ namespace Cli
 {
 
 /**
- * What the program prints. Results go to standard output, messages to standard error. Texts are
- * made safe for a terminal here.
+ * Prints results to standard output and messages to standard error. Replaces or escapes all
+ * characters that are unsafe for a terminal.
  */
 class Output
 {
 public:
-    /// `isQuiet` drops notices.
+    /// If `isQuiet` is true, notices are not printed.
     Output(Waits &waits, bool isQuiet);
 
     void line(const std::string &text); ///< prints a line of the result
@@ -25,7 +25,7 @@ public:
     void error(const std::string &text);
     void prompt(const std::string &text); ///< prints the text without a line feed
 
-    /// Closes standard output and returns false if any part of the result could not be written.
+    /// Closes standard output. Returns false if any part of the results could not be written.
     bool finish();
     /// Returns true after standard output has failed.
     bool hasFailed() const { return m_error != 0; }

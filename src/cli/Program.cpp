@@ -18,23 +18,20 @@ const char AWAITING_TURN[] = "Waiting for another program of yours that uses thi
 const char END_FOREIGN_HINT[] =
     " The option --end-foreign-session ends the session of the other program.";
 
+const char NOT_ENDED[] = " Its session could not be ended.";
 const char ENABLE_HINT[] = " The option --enable switches it on.";
 const char NOT_ENABLED[] = " It could not be switched on.";
 
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
-/// Returns the failure in sentences, with the option that helps.
+/// Returns the failure in sentences, with the closing text of the network.
 std::string messageOf(const TKSV_FailureInfo &failure)
 {
-    std::string message = failureText(failure);
-    if (*failure.text)
-        message += std::string(" It said: ") + failure.text;
-    if (failure.reason == TKSV_FAILURE_IN_USE)
-        message += END_FOREIGN_HINT;
-    return message;
+    const std::string message = failureText(failure);
+    return *failure.text ? message + " It said: " + failure.text : message;
 }
 
-/// Returns true if the state of the device is the reason, so that its text says more.
+/// Returns true if the state of the device is the reason. deviceText() is then more precise.
 bool isDeviceNotReady(TKSV_Failure reason)
 {
     return reason == TKSV_FAILURE_NO_DEVICE || reason == TKSV_FAILURE_DISABLED ||
@@ -111,23 +108,33 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
     return exitCodeOf(reason);
 }
 
-/// Sends the text without looking at the device before, because the library keeps a request until
-/// it knows the modem. A command that was not sent is sent again when the obstacle has gone.
+/// Sends the text without checking the device first, because the library keeps a request until it
+/// has found the modem. If the command was not sent, sends it again after the obstacle is removed.
 int Program::send(Conversation &conversation, const std::string &text)
 {
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
     const bool isAnswer = conversation.isMenuOpen();
     Outcome outcome = conversation.send(text);
     const TKSV_FailureInfo first = outcome.failure;
-    if (!isAnswer && first.wasNotSent && removeObstacle(first.reason))
+    const bool mayBeRepeated = !isAnswer && first.wasNotSent && !outcome.hasMissedTurn;
+    if (mayBeRepeated && removeObstacle(first.reason))
         outcome = conversation.send(text);
     else if (!isAnswer && isDeviceNotReady(first.reason))
         return failOnDevice(text, first.wasNotSent);
     if (outcome.hasFailed())
-        printFailure(text, outcome, messageOf(outcome.failure));
+        printFailure(text, outcome, messageOf(outcome.failure) + hintFor(outcome));
     else
         printReply(text, outcome);
     return exitCodeOf(outcome.failure.reason);
+}
+
+/// Returns a sentence about the session of another program. Programs of this user finish by
+/// themselves.
+std::string Program::hintFor(const Outcome &outcome) const
+{
+    if (outcome.failure.reason != TKSV_FAILURE_IN_USE || outcome.hasMissedTurn)
+        return std::string();
+    return m_options.endsForeignSession ? NOT_ENDED : END_FOREIGN_HINT;
 }
 
 /// Returns true if the request may now succeed.

@@ -12,7 +12,7 @@
 namespace Cli
 {
 
-/** What all commands share: the command line, the device, and the output. */
+/** The objects that all commands use: command line, waits, output and device. */
 class Program
 {
 public:
@@ -24,27 +24,28 @@ public:
     Output &output() { return m_output; }
     Device &device() { return m_device; }
 
-    /// Selects the device, and says so if its network is simulated. Returns false after it has
-    /// printed why the device cannot be used.
+    /// Selects the device, and prints a line if its network is simulated. Returns false after
+    /// printing the error if the device cannot be used.
     bool selectDevice();
-    /// Waits until the modem can send codes, and switches it on if the options ask for it. Returns
-    /// true if it can send codes.
+    /// Waits until the modem can send codes. With --enable, switches on a modem that is switched
+    /// off. Returns true if the modem can send codes.
     bool prepareDevice();
-    /// Waits until the library knows the modem, or knows that there is none.
+    /// Waits until the library has found the modem, or has found that there is none.
     void awaitModem();
-    /// Prints why the device cannot be used, and returns the exit code. `code` is the code that is
-    /// not sent for this reason; it may be empty. Prints nothing if a signal has arrived.
+    /// Prints why the device cannot be used, and returns the exit code. `code` is the code that
+    /// could not be sent; it may be empty. Prints nothing if a signal has arrived.
     int failOnDevice(const std::string &code, bool wasNotSent = true);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
-    /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. If
-    /// the modem cannot send codes yet, waits for it. Ends the session of another program if the
-    /// options ask for it.
+    /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. Waits
+    /// for a modem that is not ready yet. With --end-foreign-session, ends the session of another
+    /// program.
     int send(Conversation &conversation, const std::string &text);
 
 private:
     Milliseconds readyLimit() const;
+    std::string hintFor(const Outcome &outcome) const;
     bool removeObstacle(TKSV_Failure reason);
     void printReply(const std::string &code, const Outcome &outcome);
     void printFailure(const std::string &code, const Outcome &outcome, const std::string &message);

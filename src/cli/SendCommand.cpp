@@ -14,7 +14,7 @@ const char NOT_ANSWERED[] = "The menu was not answered, and the session was ende
 
 using Words = std::vector<std::string>;
 
-/// Prints the answers from `first` on, which are not sent.
+/// Prints the message, and the answers from `first` on, which are not sent.
 void reportUnsent(Program &program, std::string message, const Words &words, std::size_t first)
 {
     for (std::size_t i = first; i < words.size(); ++i)

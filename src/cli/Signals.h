@@ -23,7 +23,8 @@ public:
 
     /// Returns the descriptor that becomes readable when a signal has arrived.
     int descriptor() const { return m_descriptor; }
-    /// Returns the signal that has arrived. From then on, the next signal ends the program at once.
+    /// Returns the signal that has arrived, or 0, and unblocks the signals. The next signal
+    /// therefore ends the program at once.
     int take();
 
 private:

@@ -10,7 +10,7 @@ namespace Cli
 namespace
 {
 
-/// The time that SIM card and network may take to report their names.
+/// The time limit for the details, which arrive shortly after the state.
 const Milliseconds DETAIL_LIMIT = std::chrono::seconds(1);
 
 bool hasDetails(const TKSV_DeviceInfo &device)
@@ -62,7 +62,7 @@ void fill(Json &object, const TKSV_DeviceInfo &device)
 
 } // namespace
 
-/// Succeeds if codes can be sent.
+/// Returns EXIT_DONE if codes can be sent.
 int printStatus(Program &program)
 {
     Device &device = program.device();

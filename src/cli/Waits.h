@@ -23,7 +23,7 @@ const Clock::time_point NEVER = Clock::time_point::max();
 class Waits
 {
 public:
-    /// A function that checks whether the wait is over. It runs after each call of wake().
+    /// Returns true if the wait is over. It is called after each call of wake().
     using Condition = std::function<bool()>;
 
     Waits();

@@ -27,7 +27,7 @@ private:
 
     Program &m_program;
     NetworkTexts m_texts;
-    std::string m_state; // what the user was told last
+    std::string m_state; // the text that was printed last
 };
 
 std::string localTime(time_t time, const char *format)

@@ -1,4 +1,5 @@
 #include <csignal>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -13,9 +14,9 @@ using namespace Cli;
 namespace
 {
 
-/// Opens the standard streams that are closed, so that no other file gets their numbers. A reply
-/// would otherwise be written to the message bus, for example. The files are opened for reading
-/// only, so that output still fails.
+/// Opens standard streams that are closed, so that no other file gets their descriptors. Otherwise,
+/// a reply could be written to the message bus, for example. The files are opened for reading only,
+/// so that writing still fails.
 void reserveStandardStreams()
 {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
@@ -49,6 +50,16 @@ int runCommand(Program &program)
     return EXIT_DONE;
 }
 
+/// Ends the program without running the exit handler of the library. The handler waits for the
+/// threads of the library, which takes a tenth of the time of `ussd send`. May be called only if no
+/// session is open and the output has been written.
+void exitQuickly()
+{
+#ifdef USSD_EXITS_QUICKLY
+    std::_Exit(EXIT_DONE);
+#endif
+}
+
 int run(const Options &options)
 {
     Program program(options);
@@ -63,6 +74,8 @@ int run(const Options &options)
     if (!program.output().finish())
         return EXIT_NOT_WRITTEN;
     const int signal = program.waits().signal();
+    if (options.command == Command::Send && result == EXIT_DONE && !signal)
+        exitQuickly();
     return signal ? EXIT_SIGNAL + signal : result;
 }
 

@@ -51,6 +51,7 @@ private slots:
     void answersAfterAFailureAreNotSent();
     void failuresHaveTheirExitCode_data();
     void failuresHaveTheirExitCode();
+    void theClosingTextOfTheNetworkIsPrinted();
     void theTimeOutEndsTheRequest();
     void aDeviceThatIsNotReadyIsNamed_data();
     void aDeviceThatIsNotReadyIsNamed();
@@ -85,10 +86,12 @@ private slots:
     void aChatReadsAnswers();
     void aChatHasAPromptOnATerminal();
     void aChatSurvivesAFailure();
+    void aChatAnswersTheNetwork();
     void aSignalEndsAChat();
 
     void theStatusIsPrinted();
     void messagesOfTheNetworkArePrinted();
+    void changesOfTheModemAreNoticed();
     void aSimulatedDeviceIsNoModem();
     void withoutASessionThereIsNothingToCancel();
 
@@ -249,6 +252,16 @@ void UssdProgramTest::failuresHaveTheirExitCode()
     COMPARE_EXIT(result, exitCode);
     QVERIFY(result.out.isEmpty());
     QVERIFY2(result.error.contains(QString::fromUtf8(message)), qPrintable(result.error));
+}
+
+void UssdProgramTest::theClosingTextOfTheNetworkIsPrinted()
+{
+    const Run result = run("send --json *135#");
+    COMPARE_EXIT(result, EXIT_REFUSED);
+    QCOMPARE(objectsIn(result.out).value(0).value(latin1("text")).toString(),
+             latin1("This code has expired."));
+    QVERIFY2(result.error.contains(latin1("It said: This code has expired.\n")),
+             qPrintable(result.error));
 }
 
 void UssdProgramTest::theTimeOutEndsTheRequest()
@@ -586,6 +599,21 @@ void UssdProgramTest::aChatSurvivesAFailure()
     QVERIFY2(result.error.contains(QLatin1String("quote")), qPrintable(result.error));
 }
 
+/// The network asks a question of its own accord.
+void UssdProgramTest::aChatAnswersTheNetwork()
+{
+    const QByteArray push = "[Push offer]\nAfter=100\nReply=A gigabyte for 1 EUR?\n"
+                            "[Push offer/1]\nReply=Booked.\n";
+    const QString file = writeFile(latin1("offer.scenario"), scenarioWithReply("x") + push);
+    UssdProcess process(words("chat --scenario") << file);
+    process.start();
+    QVERIFY(process.waitForOutput(latin1("A gigabyte for 1 EUR?\n")));
+    process.write("1\n");
+    QVERIFY(process.waitForOutput(latin1("Booked.\n")));
+    process.closeWriteChannel();
+    COMPARE_EXIT(process.finish(), EXIT_DONE);
+}
+
 void UssdProgramTest::aSignalEndsAChat()
 {
     UssdProcess process(words("chat *123#"));
@@ -637,6 +665,17 @@ void UssdProgramTest::messagesOfTheNetworkArePrinted()
     QCOMPARE(message.value(latin1("text")).toString(), latin1("A bonus\nfor you"));
     QVERIFY(QDateTime::fromString(message.value(latin1("time")).toString(), Qt::ISODate).isValid());
     QCOMPARE(message.value(latin1("waitsForAnswer")).toBool(true), false);
+}
+
+void UssdProgramTest::changesOfTheModemAreNoticed()
+{
+    const QByteArray changes = "[Event gone]\nAfter=100\nState=searching\n"
+                               "[Event back]\nAfter=200\nState=registered\n";
+    const QString file = writeFile(latin1("changes.scenario"), scenarioWithReply("x") + changes);
+    UssdProcess process(words("watch --scenario") << file);
+    process.start();
+    QVERIFY(process.waitForError(latin1("searching for a network.\n")));
+    QVERIFY(process.waitForError(latin1("registered again.\n")));
 }
 
 void UssdProgramTest::aSimulatedDeviceIsNoModem()

@@ -388,6 +388,7 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library leaves the modem disabled
     QVERIFY(request(u"*100#") != 0);
+    QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance")); // the first command is cancelled
@@ -617,24 +618,28 @@ void ModemDeviceTest::whatPolkitRefusesIsSaid()
 
 /* ---- the radio --------------------------------------------------------------------------- */
 
-/// The fake modem records each attempt of the daemon to enable it.
+/// The daemon asks polkit before it enables the modem. The library reads the SIM after it would
+/// enable the modem.
 void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
 {
     startWorld();
     addModem("one");
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
-    registerAll();
+    QVERIFY(waitUntil([] { return *info().imsi != 0; }));
     QVERIFY(request(u"*100#") != 0);
-    QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
+    QVERIFY(!m_world->polkit().isHolding()); // waits until the stub has handled earlier requests
+    QCOMPARE(m_world->polkit().timesAsked(), 0);
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QVERIFY(TKSV_Device_Enable() != 0);
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
-    const int before = fake().timesReceived("AT+CFUN=1");
+    const int before = m_world->polkit().timesAsked();
     TKSV_Device_UseModem(nullptr); // not even a program that starts enables it
     QVERIFY(waitUntil([] { return *info().imsi && info().state == TKSV_DEVICE_DISABLED; }));
-    QCOMPARE(fake().timesReceived("AT+CFUN=1"), before);
+    QVERIFY(!m_world->polkit().isHolding());
+    QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
 void ModemDeviceTest::aModemDisabledAfterThePinStaysDisabled()
@@ -649,11 +654,11 @@ void ModemDeviceTest::aModemDisabledAfterThePinStaysDisabled()
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
-    const int before = fake().timesReceived("AT+CFUN=1");
-    FakeModems::MmClient observer(m_world->busAddress()); // a round trip through the daemon
-    QVERIFY(observer.use(m_world->stateOf("one").object));
+    const int before = m_world->polkit().timesAsked();
+    for (int i = 0; i < 10; ++i) // enough time to enable the modem
+        QCOMPARE(m_world->stateOf("one").state, FakeModems::STATE_DISABLED);
     QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
-    QCOMPARE(fake().timesReceived("AT+CFUN=1"), before);
+    QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
 void ModemDeviceTest::aDeniedRegistrationIsSaid()

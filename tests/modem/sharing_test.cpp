@@ -262,6 +262,11 @@ void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
     QCOMPARE(TKSV_Device_CancelRequest(), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_CANCELLED));
+    QCOMPARE(TKSV_USSDSrv_Release(nullptr), 0L);
+    for (int i = 0; i < 10; ++i)
+        QVERIFY(other.waitUntilIdle()); // enough time for a cancellation that is too early
+    QVERIFY(!isTurnFree());             // the library still waits for its call
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     m_world->polkit().answerHeld();
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
     QVERIFY(other.waitUntilIdle());

@@ -101,7 +101,8 @@ std::vector<unsigned long> ticketsIn(int folder)
 }
 
 /// Returns true if a living program holds the ticket. Removes the ticket of a program that has
-/// crashed.
+/// crashed. Must not be called for a later ticket than one's own, because its program may not have
+/// locked it yet.
 bool isHeld(int folder, unsigned long number)
 {
     const std::string name = std::to_string(number);
@@ -129,13 +130,30 @@ bool SessionTurn::tryEnter()
 {
     if (m_ticket < 0 && !takeTicket())
         return m_isUnusable;
-    return !waitsForAnother();
+    m_isFirst = m_isFirst || !isBehindAnother();
+    return m_isFirst;
+}
+
+bool SessionTurn::isBehindAnother() const
+{
+    const std::vector<unsigned long> numbers = ticketsIn(m_folder);
+    return std::any_of(numbers.begin(), numbers.end(), [this](unsigned long number) {
+        return number < m_number && isHeld(m_folder, number);
+    });
+}
+
+bool SessionTurn::isWanted() const
+{
+    const std::vector<unsigned long> numbers = ticketsIn(m_folder);
+    return std::any_of(numbers.begin(), numbers.end(),
+                       [this](unsigned long number) { return number > m_number; });
 }
 
 void SessionTurn::leave()
 {
     if (m_ticket < 0)
         return;
+    m_isFirst = false;
     unlinkat(m_folder, std::to_string(m_number).c_str(), 0);
     flock(m_ticket, LOCK_UN); // also for a child process that has inherited the descriptor
     close(std::exchange(m_ticket, -1));
@@ -180,15 +198,6 @@ bool SessionTurn::createTicket()
     }
     m_ticket = ticket.take();
     return true;
-}
-
-bool SessionTurn::waitsForAnother() const
-{
-    for (const unsigned long number : ticketsIn(m_folder)) {
-        if (number < m_number && isHeld(m_folder, number))
-            return true;
-    }
-    return false;
 }
 
 void SessionTurn::giveUp(const char *what)

@@ -29,18 +29,24 @@ public:
     bool tryEnter();
     /// Leaves the queue. Does nothing if the program is not in the queue.
     void leave();
+    /// Returns true if the program is in the queue.
+    bool isInQueue() const { return m_ticket >= 0; }
+    /// Returns true if another program may be waiting behind this program, which must be in the
+    /// queue.
+    bool isWanted() const;
 
 private:
     bool openFolder();
     bool takeTicket();
     bool createTicket();
-    bool waitsForAnother() const;
+    bool isBehindAnother() const;
     void giveUp(const char *what);
 
     const std::string m_modem;
     int m_folder = -1;
     int m_ticket = -1;
     unsigned long m_number = 0; // of the ticket
+    bool m_isFirst = false;     // there is no earlier ticket, and there will be none
     bool m_isUnusable = false;  // the folder cannot be used
 };
 

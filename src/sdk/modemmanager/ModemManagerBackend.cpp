@@ -48,7 +48,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     : m_watch(watch), m_equipmentId(std::move(equipmentId))
 {
     m_info.backend = TKSV_BACKEND_MODEMMANAGER;
-    m_info.isLooking = m_watch.state() == ServiceState::Looking;
+    m_info.isLooking = true; // until the first call of publish()
 }
 
 /* ---- functions for any thread ------------------------------------------------------------ */

@@ -10,6 +10,7 @@ namespace Tksv
 namespace
 {
 
+const MMModem3gppUssdSessionState UNKNOWN = MM_MODEM_3GPP_USSD_SESSION_STATE_UNKNOWN;
 const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
 const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
 const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
@@ -21,7 +22,7 @@ const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 /// polkit first, which takes a few milliseconds unless polkit asks the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The time between two looks at the queue of programs.
+/// The time between two looks at the queue of programs, and the time that a turn is kept.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
 /// There is no time limit, because the client decides how long it waits for a reply. By default,
@@ -159,27 +160,48 @@ void UssdChannel::startNext()
         start(*std::exchange(m_next, std::nullopt));
 }
 
-/// Returns true if it is this program's turn. Otherwise, startNext() is called again later.
+/// Returns true if it is this program's turn. Otherwise, startNext() is called again later. A kept
+/// turn is used again unless another program waits.
 bool UssdChannel::takeTurn()
 {
+    if (std::exchange(m_keepsTurn, false) && m_turn.isWanted())
+        m_turn.leave();
     const bool isOurTurn = m_turn.tryEnter();
+    if (!isOurTurn)
+        startTurnTimer();
     setWaitsForTurn(!isOurTurn);
-    if (isOurTurn || std::exchange(m_isTurnTimerRunning, true))
-        return isOurTurn;
-    m_thread.after(TURN_PAUSE, [self = weak_from_this()] {
-        const std::shared_ptr<UssdChannel> alive = self.lock();
-        if (!alive)
-            return;
-        alive->m_isTurnTimerRunning = false;
-        alive->startNext();
-    });
-    return false;
+    return isOurTurn;
 }
 
+/// Leaves the turn. If nobody waits, the program keeps its turn for a moment, because the files of
+/// the queue would slow down commands that follow each other.
 void UssdChannel::leaveTurn()
 {
-    m_turn.leave();
+    m_keepsTurn = m_turn.isInQueue() && !m_waitsForTurn && !m_turn.isWanted();
+    if (m_keepsTurn)
+        startTurnTimer();
+    else
+        m_turn.leave();
     setWaitsForTurn(false);
+}
+
+void UssdChannel::startTurnTimer()
+{
+    if (std::exchange(m_isTurnTimerRunning, true))
+        return;
+    m_thread.after(TURN_PAUSE, [self = weak_from_this()] {
+        if (const std::shared_ptr<UssdChannel> alive = self.lock())
+            alive->turnTimerElapsed();
+    });
+}
+
+void UssdChannel::turnTimerElapsed()
+{
+    m_isTurnTimerRunning = false;
+    if (std::exchange(m_keepsTurn, false))
+        m_turn.leave();
+    else
+        startNext();
 }
 
 void UssdChannel::setWaitsForTurn(bool waits)
@@ -209,7 +231,7 @@ void UssdChannel::checkSession()
     askForState([this](State state) {
         handleState(state);
         m_isChecking = false;
-        if (state != IDLE && !canAnswer() && m_next)
+        if (m_state != IDLE && !canAnswer() && m_next)
             refuse(*std::exchange(m_next, std::nullopt));
     });
 }
@@ -472,8 +494,11 @@ void UssdChannel::propertiesChanged(GVariant *changed)
     handleState(state);
 }
 
-void UssdChannel::handleState(State state)
+/// Handles a state that was reported or queried. It is unknown while the modem is disabled, and a
+/// disabled modem has no session.
+void UssdChannel::handleState(State reported)
 {
+    const State state = reported == UNKNOWN ? IDLE : reported;
     const State before = std::exchange(m_state, state);
     if (m_cancelling)
         return;

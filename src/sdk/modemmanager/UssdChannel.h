@@ -91,6 +91,8 @@ private:
     void startNext();
     bool takeTurn();
     void leaveTurn();
+    void startTurnTimer();
+    void turnTimerElapsed();
     void setWaitsForTurn(bool waits);
     void start(const Request &request);
     void checkSession();
@@ -112,7 +114,7 @@ private:
     void askForStateOfReply();
     void askForStateOfOthers();
     void propertiesChanged(GVariant *changed);
-    void handleState(State state);
+    void handleState(State reported);
     void handleStateDuringCall(State state);
     void sessionEndedDuringCall();
     void handleStateOfOthers(State state);
@@ -128,6 +130,7 @@ private:
     SignalConnections m_signals;
     SessionTurn m_turn;
     bool m_waitsForTurn = false;
+    bool m_keepsTurn = false; // no command needs the turn at this time
     bool m_isTurnTimerRunning = false;
 
     Owner m_owner = Owner::Nobody;
