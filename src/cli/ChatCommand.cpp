@@ -13,7 +13,7 @@ namespace Cli
 namespace
 {
 
-/** A conversation on the terminal. */
+/** Sends codes and answers interactively. */
 class Chat
 {
 public:
@@ -36,10 +36,11 @@ private:
     NetworkTexts m_texts;
     LineReader m_reader;
     const bool m_hasPrompt;
-    bool m_isAsked = false; // the last message of the network waits for an answer
+    bool m_isAsked = false; // true if the network is waiting for an answer
 };
 
-/// Reads and sends lines until standard input ends. Failures are printed, but do not end the chat.
+/// Reads and sends lines until the end of standard input. Failures are printed, but do not end the
+/// program.
 void Chat::run()
 {
     const auto &words = m_program.options().words;

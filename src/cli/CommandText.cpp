@@ -19,8 +19,7 @@ Units toUtf16(const std::string &text, long &count)
         g_free);
 }
 
-/// Returns true for the characters that could end the modem's command: quotes and control
-/// characters.
+/// Returns true for quotes and control characters, which could end the AT command.
 bool breaksCommand(gunichar character)
 {
     return character == '"' || g_unichar_type(character) == G_UNICODE_CONTROL;

@@ -6,9 +6,9 @@ namespace Cli
 
 class Program;
 
-/*
- * One function for each command. selectDevice() must have succeeded. Each function returns the exit
- * code; if a signal arrives or standard output fails, the caller returns another one.
+/* Each function executes one command and returns its exit code. Program::selectDevice() must have
+ * succeeded before. If a signal arrives or standard output cannot be written, the caller replaces
+ * the exit code.
  */
 
 int send(Program &program);

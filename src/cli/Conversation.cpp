@@ -13,18 +13,18 @@ namespace Cli
 namespace
 {
 
-/// The time that a request may take to end on the device.
+/// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// If the reply arrives within this time, the changes of the device are not observed. The library
-/// needs another thread to report them.
+/// If the reply arrives within this time, the program does not observe changes of the device,
+/// because the library would need an additional thread to report them.
 const Milliseconds QUICK_REPLY(100);
 
 /** Passes the response from the thread of the library to the main thread. */
 class Mailbox
 {
 public:
-    /// Prepares for the response to a request. The response wakes `waits`.
+    /// Prepares the mailbox for the response to a request. The response wakes `waits`.
     void expect(Waits *waits)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -32,7 +32,7 @@ public:
         m_isExpected = true;
         m_response.reset();
     }
-    /// Called if no response will arrive.
+    /// Must be called if no response will arrive.
     void expectNothing()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -83,7 +83,7 @@ private:
     std::optional<Outcome> m_response;
 };
 
-/// Returns the mailbox, which is never destroyed, because a call-back may run while the program
+/// Returns the only mailbox. It is never destroyed, because a call-back may run while the program
 /// exits.
 Mailbox &mailbox()
 {
@@ -96,7 +96,7 @@ bool hasResponse()
     return mailbox().hasResponse();
 }
 
-/// Returns true if no modem has been found because ModemManager does not answer.
+/// Returns true if no modem has been found because ModemManager does not respond.
 bool isStuck(const TKSV_DeviceInfo &device)
 {
     return device.isLooking && device.problem != TKSV_PROBLEM_NONE;
@@ -111,12 +111,13 @@ TKSV_FailureInfo lastFailure(TKSV_Failure otherwise)
     return failure;
 }
 
-/* ---- on threads of the library ----------------------------------------------------------- */
+/* ---- functions that run on threads of the library
+ * ----------------------------------------------------------- */
 
 unsigned char takeResponse(int, void *data)
 {
     if (!mailbox().isExpected())
-        return 0; // the network's own message
+        return 0; // a network-initiated message
     const auto *const response = static_cast<const TKSV_USSDResponse *>(data);
     Outcome outcome;
     outcome.type = response->type;
@@ -168,8 +169,8 @@ Outcome Conversation::send(const std::string &text)
     return outcome;
 }
 
-/// Waits for the response. The time limit starts again when the request gets its turn. The wait
-/// ends early if ModemManager does not answer.
+/// Waits for the response. Restarts the time limit when it is the turn of the request. The wait
+/// ends early if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;
@@ -195,8 +196,9 @@ Outcome Conversation::await(Clock::time_point start)
     return giveUp(isAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER);
 }
 
-/// Cancels the request on the device. Returns a reply that arrives at the same time. Otherwise,
-/// returns a failure with the reason, or TKSV_FAILURE_CANCELLED if a signal has arrived.
+/// Cancels the request on the device. If the reply arrives at the same time, returns this reply.
+/// Otherwise, returns a failure with the given reason, or with TKSV_FAILURE_CANCELLED if a signal
+/// has arrived.
 Outcome Conversation::giveUp(TKSV_Failure reason)
 {
     TKSV_Device_CancelRequest();

@@ -16,16 +16,15 @@ struct Outcome {
     TKSV_FailureInfo failure = {}; // TKSV_FAILURE_NONE if there is a reply
     int type = 0;                  // see TKSV_USSDResponse
     std::string text;              // the reply, in UTF-8
-    double seconds = 0;            // from the request to its end
-    bool hasMissedTurn = false;    // another program of the user did not free the modem in time
+    double seconds = 0;            // the time from the request to its outcome
+    bool hasMissedTurn = false;    // another program of the user did not release the modem in time
 
     bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
     bool isMenu() const { return !hasFailed() && type == 1; }
 };
 
-/**
- * The USSD session of this program. Only one object may exist, because the call-backs of the device
- * library have no context.
+/** The USSD session of this program. Only one object may exist at a time, because the call-backs of
+ * the device library do not have a context argument.
  */
 class Conversation
 {
@@ -37,11 +36,11 @@ public:
     Conversation(const Conversation &) = delete;
     Conversation &operator=(const Conversation &) = delete;
 
-    /// Sets a function that is called once when a request has to wait for another program.
+    /// Sets a function that is called once for each request that has to wait for another program.
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
-    /// Sends the text and waits for the reply. If the reply does not arrive in time, or if a signal
-    /// arrives first, the function cancels the request on the device.
+    /// Sends the string and waits for the reply. Cancels the request on the device if the reply
+    /// does not arrive in time or a signal arrives first.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

@@ -8,7 +8,7 @@ namespace Cli
 namespace
 {
 
-const std::size_t LONGEST_COMPLAINT = 4096; // bytes
+const std::size_t LONGEST_COMPLAINT = 4096; // the maximum size of an error message, in bytes
 
 void wake(void *waits)
 {
@@ -39,8 +39,8 @@ Device::~Device()
         TKSV_Device_SetInfoCallback(nullptr, nullptr);
 }
 
-/// Registers the call-back when a wait first needs it, since the library starts a thread for the
-/// call-back.
+/// Registers the call-back only when it is first needed, because the library starts a thread for
+/// the call-back.
 void Device::follow()
 {
     if (!std::exchange(m_isFollowed, true))

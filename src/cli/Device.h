@@ -20,22 +20,22 @@ public:
     Device(const Device &) = delete;
     Device &operator=(const Device &) = delete;
 
-    /// Selects the device that the options name. Returns an empty string on success, otherwise the
-    /// error. Must be the first call.
+    /// Selects the device that the options specify. Returns an empty string on success, otherwise
+    /// an error message. Must be called before all other functions.
     std::string select(const Options &options);
     TKSV_DeviceInfo info() const;
     /// Returns true if the network is simulated.
     bool isSimulated() const { return info().backend == TKSV_BACKEND_SIMULATOR; }
 
-    /// From now on, each change of the device wakes `waits`.
+    /// Wakes `waits` after each change of the device from now on.
     void follow();
-    /// Waits until the condition is true. Returns false if the time is over or a signal has
-    /// arrived.
+    /// Waits until the condition is true. Returns false if the time limit expires or a signal
+    /// arrives first.
     bool await(const Waits::Condition &condition, Clock::time_point end);
     /// Waits until the library has found the modem, or has found that there is none.
     void awaitModem(Milliseconds limit);
-    /// Waits until the modem can send codes. Returns early if the modem does not leave its state by
-    /// itself. Returns true if codes can be sent.
+    /// Waits until the modem can send codes, unless only the user can change the state of the
+    /// modem. Returns true if codes can be sent.
     bool awaitReady(Milliseconds limit);
     /// Switches the modem on if it is off, and waits until it can send codes.
     bool enable(Milliseconds limit);

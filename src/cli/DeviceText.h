@@ -8,11 +8,11 @@
 namespace Cli
 {
 
-/// Returns why no codes can be sent, and what the user can do about it, in English sentences.
-/// Returns an empty string if the device is registered and has no problem.
+/// Returns an English message that explains why no codes can be sent and how the user can solve the
+/// problem. Returns an empty string if the device is registered and has no problem.
 std::string deviceText(const TKSV_DeviceInfo &device);
 
-/// Returns the failure of a request that this device could not send.
+/// Returns the reason why a device in this state cannot send a request.
 TKSV_Failure deviceFailure(const TKSV_DeviceInfo &device);
 
 /// Returns the name of the state for scripts, such as "sim-locked".

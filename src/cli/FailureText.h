@@ -8,13 +8,13 @@
 namespace Cli
 {
 
-/// Returns the exit code for a request that failed for this reason, see ExitCodes.h.
+/// Returns the exit code for a request that failed for this reason.
 int exitCodeOf(TKSV_Failure reason);
 
-/// Returns the failure in English sentences. The text contains "It was not carried out." only if
-/// the command certainly did not reach the network. If the outcome is unknown, the text says that
-/// the network may have carried out the command. The closing text of the network is not part of the
-/// text. Returns an empty string for TKSV_FAILURE_NONE.
+/// Returns an English error message for the failure. The message contains "It was not carried out."
+/// only if the command certainly did not reach the network. If the outcome is unknown, the message
+/// states that the network may have executed the command. The message does not contain the closing
+/// message of the network. Returns an empty string for TKSV_FAILURE_NONE.
 std::string failureText(const TKSV_FailureInfo &failure);
 
 /// Returns the name of the reason for scripts, such as "in-use".

@@ -7,7 +7,8 @@
 namespace Cli
 {
 
-/** A JSON object that is written on one line. Its members keep their order. */
+/** A JSON object that is printed on a single line. The members stay in the order in which they were
+ * added. */
 class Json
 {
 public:
@@ -16,16 +17,16 @@ public:
     Json(const Json &) = delete;
     Json &operator=(const Json &) = delete;
 
-    /// Adds a member. A string is UTF-8.
+    /// Adds a member. Strings must be encoded in UTF-8.
     void add(const char *name, const std::string &value);
     void add(const char *name, const char *value);
     void add(const char *name, int value);
     void add(const char *name, bool value);
-    /// Adds the last member, a number that is rounded to milliseconds. json-glib writes all digits,
-    /// such as 0.69999999999999996 for 0.7.
+    /// Adds the last member, a number that is rounded to milliseconds. json-glib is not used for
+    /// this number, because it would write all digits, such as 0.69999999999999996 for 0.7.
     void addSeconds(const char *name, double value);
 
-    /// Returns the object without a line feed. Characters that control a terminal are escaped.
+    /// Returns the object without a line feed. Control characters are escaped.
     std::string text() const;
 
 private:

@@ -17,8 +17,8 @@ public:
     /// `waits` must outlive the object.
     explicit LineReader(Waits &waits) : m_waits(waits) {}
 
-    /// Waits for the next line and copies it without its line end. Returns Interrupted when
-    /// `isInterrupted` becomes true or a signal arrives.
+    /// Waits for the next line and copies it to `line` without the line terminator. Returns
+    /// Interrupted if `isInterrupted` returns true or a signal arrives.
     Result next(std::string &line, const Waits::Condition &isInterrupted);
 
 private:

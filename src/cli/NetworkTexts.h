@@ -12,25 +12,25 @@
 namespace Cli
 {
 
-/** A message that the network has sent of its own accord. */
+/** A message that the network has sent without a request. */
 struct NetworkText {
     time_t receivedAt = 0;
     bool waitsForAnswer = false;
     std::string text;
 };
 
-/** Collects the messages on the thread of the library and passes them to the main thread. */
+/** Receives messages on the thread of the library and passes them to the main thread. */
 class NetworkTexts
 {
 public:
-    /// `waits` is woken for each message. It must outlive the object.
+    /// Each message wakes `waits`, which must outlive the object.
     explicit NetworkTexts(Waits &waits);
     ~NetworkTexts();
     NetworkTexts(const NetworkTexts &) = delete;
     NetworkTexts &operator=(const NetworkTexts &) = delete;
 
     bool isEmpty() const;
-    NetworkText take(); ///< takes the oldest message; there must be one
+    NetworkText take(); ///< removes and returns the oldest message; there must be one
 
 private:
     static void receive(void *self, const TKSV_NetworkText *text);

@@ -33,7 +33,7 @@ const char DESCRIPTION[] =
     "written,\n"
     "128 plus the number of the signal if a signal ended the program. See 'man ussd'.";
 
-/** The values of the options, which GLib's parser sets. */
+/** The option values that GLib's parser has set. */
 struct Values {
     char *modem = nullptr;
     char *scenario = nullptr;
@@ -48,7 +48,8 @@ struct Values {
     char **words = nullptr;
 };
 
-/** A command: its name, the range of its arguments, and the options that it takes. */
+/** A command: its name, its minimum and maximum number of arguments, and the options that it
+ * supports. */
 struct CommandRow {
     const char *name;
     Command command;
@@ -71,8 +72,8 @@ const CommandRow COMMANDS[] = {
 
 std::vector<GOptionEntry> entriesFor(Values &values)
 {
-    // Strings are taken as bytes. GLib would convert the type "string" from the character set of
-    // the locale, and codes are UTF-8 in every locale.
+    // Strings are declared as file names, which GLib does not convert. GLib would convert the type
+    // "string" from the character set of the locale, but codes are UTF-8 in every locale.
     return {
         {"modem", 'm', 0, G_OPTION_ARG_FILENAME, &values.modem,
          "Use the modem with this identifier (its IMEI, see 'ussd modems')", "ID"},
@@ -199,7 +200,7 @@ std::string readCommand(Options &options)
     return "there is no command " + quoted(name);
 }
 
-/// Moves the values to `options`. Returns an error message, or an empty string.
+/// Moves the values to `options`. Returns an error message, or an empty string on success.
 std::string readValues(Values &values, Options &options)
 {
     const bool hasTimeout = values.timeout != nullptr;

@@ -15,7 +15,7 @@ namespace Cli
 namespace
 {
 
-/// Writes a message to standard error. A failure is ignored, because it cannot be reported.
+/// Writes a message to standard error. Ignores failures, because there is no way to report them.
 void tell(const std::string &text)
 {
     [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
@@ -51,14 +51,14 @@ void Output::prompt(const std::string &text)
     tell(safeText(text));
 }
 
-/// Writes in pieces that do not block on a pipe. A signal could not end a write that blocks,
-/// because signals are blocked and arrive through Waits.
+/// Writes the string in small pieces, so that writing to a pipe does not block. A signal could not
+/// interrupt a blocking write, because signals are blocked and handled by Waits.
 void Output::write(const std::string &text)
 {
     std::size_t done = 0;
     while (!m_error && done < text.size()) {
         if (!m_waits.untilReady(STDOUT_FILENO, POLLOUT, [] { return false; }))
-            return; // a signal has arrived while nobody reads the output
+            return; // a signal has arrived, but no process has read the output
         const std::size_t size = std::min<std::size_t>(text.size() - done, PIPE_BUF);
         const ssize_t written = ::write(STDOUT_FILENO, text.data() + done, size);
         if (written >= 0)

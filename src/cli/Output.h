@@ -9,9 +9,8 @@
 namespace Cli
 {
 
-/**
- * Prints results to standard output and messages to standard error. Replaces or escapes all
- * characters that are unsafe for a terminal.
+/** Prints results to standard output, and prints notices and errors to standard error. Replaces or
+ * escapes all characters that are unsafe for a terminal.
  */
 class Output
 {
@@ -25,9 +24,9 @@ public:
     void error(const std::string &text);
     void prompt(const std::string &text); ///< prints the text without a line feed
 
-    /// Closes standard output. Returns false if any part of the results could not be written.
+    /// Closes standard output. Returns false if any of the results could not be written.
     bool finish();
-    /// Returns true after standard output has failed.
+    /// Returns true if an error has occurred while writing to standard output.
     bool hasFailed() const { return m_error != 0; }
 
 private:
@@ -35,7 +34,7 @@ private:
 
     Waits &m_waits;
     const bool m_isQuiet;
-    int m_error = 0; // the errno of the first failure of standard output
+    int m_error = 0; // the errno of the first error on standard output
 };
 
 } // namespace Cli

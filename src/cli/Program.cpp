@@ -24,14 +24,15 @@ const char NOT_ENABLED[] = " It could not be switched on.";
 
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
-/// Returns the failure in sentences, with the closing text of the network.
+/// Returns an error message for the failure, including the closing message of the network.
 std::string messageOf(const TKSV_FailureInfo &failure)
 {
     const std::string message = failureText(failure);
     return *failure.text ? message + " It said: " + failure.text : message;
 }
 
-/// Returns true if the state of the device is the reason. deviceText() is then more precise.
+/// Returns true if the state of the device caused the failure. In this case, deviceText() is more
+/// precise than failureText().
 bool isDeviceNotReady(TKSV_Failure reason)
 {
     return reason == TKSV_FAILURE_NO_DEVICE || reason == TKSV_FAILURE_DISABLED ||
@@ -92,7 +93,8 @@ int Program::failOnDevice(const std::string &code, bool wasNotSent)
     std::string message = deviceText(device);
     if (outcome.failure.reason == TKSV_FAILURE_DISABLED)
         message += m_options.enablesModem ? NOT_ENABLED : ENABLE_HINT;
-    if (outcome.failure.reason == TKSV_FAILURE_NONE) { // the modem has become ready too late
+    if (outcome.failure.reason ==
+        TKSV_FAILURE_NONE) { // the modem became ready after the time limit
         outcome.failure.reason = TKSV_FAILURE_NOT_REGISTERED;
         message = failureText(outcome.failure);
     }
@@ -108,8 +110,9 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
     return exitCodeOf(reason);
 }
 
-/// Sends the text without checking the device first, because the library keeps a request until it
-/// has found the modem. If the command was not sent, sends it again after the obstacle is removed.
+/// Sends the string without checking the device first, because the library holds a request until it
+/// has found the modem. If the command was not sent, solves the problem if possible and sends the
+/// command again.
 int Program::send(Conversation &conversation, const std::string &text)
 {
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
@@ -128,8 +131,8 @@ int Program::send(Conversation &conversation, const std::string &text)
     return exitCodeOf(outcome.failure.reason);
 }
 
-/// Returns a sentence about the session of another program. Programs of this user finish by
-/// themselves.
+/// Returns a hint if the session of another program caused the failure. There is no hint if the
+/// other program belongs to the same user, because it will release the modem without intervention.
 std::string Program::hintFor(const Outcome &outcome) const
 {
     if (outcome.failure.reason != TKSV_FAILURE_IN_USE || outcome.hasMissedTurn)
@@ -137,7 +140,8 @@ std::string Program::hintFor(const Outcome &outcome) const
     return m_options.endsForeignSession ? NOT_ENDED : END_FOREIGN_HINT;
 }
 
-/// Returns true if the request may now succeed.
+/// Tries to solve the problem that made a request fail. Returns true if the request may now
+/// succeed.
 bool Program::removeObstacle(TKSV_Failure reason)
 {
     if (isDeviceNotReady(reason))
@@ -146,7 +150,8 @@ bool Program::removeObstacle(TKSV_Failure reason)
            m_device.endForeignSession(m_options.timeout);
 }
 
-/// Several replies are separated by an empty line. JSON has one object on each line.
+/// Prints the reply. Empty lines separate several replies. With --json, prints one object on each
+/// line.
 void Program::printReply(const std::string &code, const Outcome &outcome)
 {
     if (!m_options.isJson) {

@@ -12,7 +12,8 @@
 namespace Cli
 {
 
-/** The objects that all commands use: command line, waits, output and device. */
+/** Contains the objects that all commands use: the command line, the waits, the output and the
+ * device. */
 class Program
 {
 public:
@@ -24,22 +25,23 @@ public:
     Output &output() { return m_output; }
     Device &device() { return m_device; }
 
-    /// Selects the device, and prints a line if its network is simulated. Returns false after
-    /// printing the error if the device cannot be used.
+    /// Selects the device, and prints a notice if the network is simulated. If the device cannot be
+    /// used, prints the error and returns false.
     bool selectDevice();
     /// Waits until the modem can send codes. With --enable, switches on a modem that is switched
     /// off. Returns true if the modem can send codes.
     bool prepareDevice();
     /// Waits until the library has found the modem, or has found that there is none.
     void awaitModem();
-    /// Prints why the device cannot be used, and returns the exit code. `code` is the code that
-    /// could not be sent; it may be empty. Prints nothing if a signal has arrived.
+    /// Prints the reason why the device cannot be used, and returns the exit code. `code` is the
+    /// code that could not be sent; it may be empty. Does not print anything if a signal has
+    /// arrived.
     int failOnDevice(const std::string &code, bool wasNotSent = true);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
     /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. Waits
-    /// for a modem that is not ready yet. With --end-foreign-session, ends the session of another
+    /// if the modem is not ready yet. With --end-foreign-session, first ends the session of another
     /// program.
     int send(Conversation &conversation, const std::string &text);
 

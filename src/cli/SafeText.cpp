@@ -29,7 +29,7 @@ bool isUnsafe(gunichar character)
     return g_unichar_type(character) == G_UNICODE_CONTROL || overridesDirection(character);
 }
 
-/// Returns the character that stands for `character` on a terminal.
+/// Returns the character to print instead of `character`.
 gunichar shown(gunichar character)
 {
     if (character == '\n' || character == '\t')
@@ -62,7 +62,7 @@ std::string safeText(const std::string &text)
     bool followsReturn = false;
     for (const char *at = valid.c_str(); *at; at = g_utf8_next_char(at)) {
         const gunichar character = g_utf8_get_char(at);
-        if (character != '\n' || !followsReturn) // CR LF is one line end
+        if (character != '\n' || !followsReturn) // CR LF is a single line terminator
             append(safe, shown(character));
         followsReturn = character == '\r';
     }

@@ -14,7 +14,7 @@ const char NOT_ANSWERED[] = "The menu was not answered, and the session was ende
 
 using Words = std::vector<std::string>;
 
-/// Prints the message, and the answers from `first` on, which are not sent.
+/// Prints the message, followed by the answers that are not sent, which start at the index `first`.
 void reportUnsent(Program &program, std::string message, const Words &words, std::size_t first)
 {
     for (std::size_t i = first; i < words.size(); ++i)
@@ -23,7 +23,7 @@ void reportUnsent(Program &program, std::string message, const Words &words, std
         program.output().error(message);
 }
 
-/// Ends the session if the last reply was a menu.
+/// Ends the session if the last reply was a menu. Returns the exit code.
 int closeMenu(Program &program, Conversation &conversation)
 {
     if (!conversation.isMenuOpen())
@@ -33,7 +33,7 @@ int closeMenu(Program &program, Conversation &conversation)
     return EXIT_MENU_OPEN;
 }
 
-/// Sends a code and the answers to its menus. Stops at the first failure.
+/// Sends a code and the answers to the menus. Stops at the first failure.
 int sendWords(Program &program, Conversation &conversation, const Words &words)
 {
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -50,7 +50,7 @@ int sendWords(Program &program, Conversation &conversation, const Words &words)
     return closeMenu(program, conversation);
 }
 
-/// Sends the code of line `number`. Returns EXIT_WRONG_USAGE for a line that is no code.
+/// Sends the code of line `number`. Returns EXIT_WRONG_USAGE if the line is not a code.
 int sendLine(Program &program, Conversation &conversation, const std::string &code, int number)
 {
     const std::string line = "Line " + std::to_string(number);
@@ -64,8 +64,8 @@ int sendLine(Program &program, Conversation &conversation, const std::string &co
     return result;
 }
 
-/// Sends each line of standard input that is not empty. Stops at the first line that does not end
-/// with EXIT_DONE.
+/// Sends each line of standard input that is not empty. Stops after the first line whose exit code
+/// is not EXIT_DONE.
 int sendLines(Program &program, Conversation &conversation)
 {
     LineReader reader(program.waits());

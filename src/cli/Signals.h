@@ -6,16 +6,15 @@
 namespace Cli
 {
 
-/**
- * The signals that end the program: SIGINT, SIGTERM and SIGHUP. They are blocked and arrive through
- * a file descriptor, so that no code runs in a signal handler. A signal that was ignored when the
- * program started stays ignored, as nohup requires.
+/** Receives the signals that end the program: SIGINT, SIGTERM and SIGHUP. The signals are blocked
+ * and are read from a file descriptor, so that no code runs in a signal handler. A signal that was
+ * ignored when the program started is still ignored, as nohup requires.
  */
 class Signals
 {
 public:
-    /// Must be created before the program has a second thread, because a new thread inherits the
-    /// blocked signals.
+    /// Blocks the signals. Must be called before the program starts any thread, because a new
+    /// thread inherits the blocked signals.
     Signals();
     ~Signals();
     Signals(const Signals &) = delete;
@@ -23,8 +22,8 @@ public:
 
     /// Returns the descriptor that becomes readable when a signal has arrived.
     int descriptor() const { return m_descriptor; }
-    /// Returns the signal that has arrived, or 0, and unblocks the signals. The next signal
-    /// therefore ends the program at once.
+    /// Returns the signal that has arrived, or 0 if there is none. Unblocks the signals, so that
+    /// the next signal ends the program at once.
     int take();
 
 private:

@@ -10,7 +10,7 @@ namespace Cli
 namespace
 {
 
-/// The time limit for the details, which arrive shortly after the state.
+/// The time limit for details of the modem, which the library reports shortly after the state.
 const Milliseconds DETAIL_LIMIT = std::chrono::seconds(1);
 
 bool hasDetails(const TKSV_DeviceInfo &device)
@@ -62,7 +62,7 @@ void fill(Json &object, const TKSV_DeviceInfo &device)
 
 } // namespace
 
-/// Returns EXIT_DONE if codes can be sent.
+/// Prints the state of the modem. Returns EXIT_DONE if codes can be sent.
 int printStatus(Program &program)
 {
     Device &device = program.device();

@@ -15,8 +15,8 @@ namespace
 const pollfd NO_FILE = {-1, 0, 0};
 const Milliseconds LONGEST_SLEEP = std::chrono::hours(1);
 
-/// Returns the time-out for poll(): -1 for NEVER. The time is rounded up, so that poll() does not
-/// return early.
+/// Returns the time-out for poll(), which is -1 for NEVER. The time is rounded up, so that poll()
+/// does not return early.
 int pollTimeout(Clock::time_point end)
 {
     if (end == NEVER)
@@ -76,8 +76,8 @@ bool Waits::untilReady(int file, short events, const Condition &condition)
     return false;
 }
 
-/// Sleeps until something happens. poll() also reports errors on the file, which the next read or
-/// write then returns.
+/// Sleeps until a wake-up, a signal or an event on the file arrives, or until `end`. poll() also
+/// reports errors on the file, which the next read or write operation then returns.
 void Waits::sleep(Clock::time_point end, pollfd &extra)
 {
     pollfd files[] = {{m_wakeUps, POLLIN, 0}, {m_signals.descriptor(), POLLIN, 0}, extra};

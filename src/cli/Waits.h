@@ -16,14 +16,14 @@ using Milliseconds = std::chrono::milliseconds;
 
 const Clock::time_point NEVER = Clock::time_point::max();
 
-/**
- * The waits of the program, which all take place on the main thread. A wait ends when its condition
- * is true, when its time is over, or when a signal arrives that ends the program.
+/** Contains all functions in which the program waits. They must be called from the main thread. A
+ * wait ends when its condition becomes true, when its time limit expires, or when a signal arrives
+ * that ends the program.
  */
 class Waits
 {
 public:
-    /// Returns true if the wait is over. It is called after each call of wake().
+    /// A function that returns true if the wait must end. It is called after each call of wake().
     using Condition = std::function<bool()>;
 
     Waits();
@@ -31,16 +31,17 @@ public:
     Waits(const Waits &) = delete;
     Waits &operator=(const Waits &) = delete;
 
-    /// Lets the current wait check its condition. May be called from any thread.
+    /// Makes the current wait check its condition. May be called from any thread.
     void wake();
 
-    /// Waits until the condition is true. Returns false if the time is over or a signal has
-    /// arrived.
+    /// Waits until the condition is true. Returns false if the time limit expires or a signal
+    /// arrives first.
     bool until(const Condition &condition, Clock::time_point end);
-    /// Waits in the same way, even if a signal has already arrived.
+    /// Waits until the condition is true or the time limit expires, even if a signal has arrived.
     bool untilDespiteSignal(const Condition &condition, Milliseconds limit);
-    /// Waits until `events` of poll() occur on the file, or until the condition is true. Returns
-    /// true if the events have occurred. After a signal has arrived, the function does not wait.
+    /// Waits until one of the poll() events in `events` occurs on the file, or until the condition
+    /// is true. Returns true if an event has occurred. Does not wait if a signal has already
+    /// arrived.
     bool untilReady(int file, short events, const Condition &condition);
 
     /// Returns the signal that has arrived, or 0.

@@ -14,14 +14,15 @@ using namespace Cli;
 namespace
 {
 
-/// Opens standard streams that are closed, so that no other file gets their descriptors. Otherwise,
-/// a reply could be written to the message bus, for example. The files are opened for reading only,
-/// so that writing still fails.
+/// Opens /dev/null in place of each standard stream that is closed, so that no other file receives
+/// its descriptor. Otherwise, a reply could be written to the message bus, for example. /dev/null
+/// is opened for reading only, so that writing still fails.
 void reserveStandardStreams()
 {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (fcntl(stream, F_GETFD) == -1)
-            open("/dev/null", O_RDONLY); // the lowest free number, which is this one
+            open("/dev/null",
+                 O_RDONLY); // open() returns the lowest free descriptor, which is this one
     }
 }
 
@@ -51,8 +52,8 @@ int runCommand(Program &program)
 }
 
 /// Ends the program without running the exit handler of the library. The handler waits for the
-/// threads of the library, which takes a tenth of the time of `ussd send`. May be called only if no
-/// session is open and the output has been written.
+/// threads of the library, which would increase the running time of `ussd send` by a tenth. May be
+/// called only if no session is open and the output has been written.
 void exitQuickly()
 {
 #ifdef USSD_EXITS_QUICKLY
