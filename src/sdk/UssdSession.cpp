@@ -41,8 +41,8 @@ void UssdSession::release(Backend &backend)
     backend.endSession();
 }
 
-/// Gives the request in flight a new token. A reply that has already been posted is then late, and
-/// only the empty reply is delivered.
+/// Assigns a new token to the request in flight. A reply that has already been posted is then
+/// treated as late, and only the empty reply is delivered.
 bool UssdSession::cancel(Backend &backend)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -76,8 +76,8 @@ Failure UssdSession::lastFailure() const
     return m_deliveryThread == std::this_thread::get_id() ? m_deliveredFailure : m_failure;
 }
 
-/// Records how the newest request failed. From now on, a call-back that made this request sees this
-/// failure, too. Must be called with the lock held.
+/// Records how the newest request failed. If a call-back made this request, lastFailure() also
+/// returns this failure in the call-back from now on. Must be called with m_mutex locked.
 void UssdSession::recordFailure(const Failure &failure)
 {
     m_failure = failure;
@@ -129,9 +129,9 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
     return true;
 }
 
-/// Returns true if the message can be delivered now. A network-initiated message must not look like
-/// the reply to a request, so it is held back until the session is idle. By then, the message's own
-/// session has ended, and the message cannot be answered any more.
+/// Returns true if the message can be delivered now. A network-initiated message must not be
+/// mistaken for the reply to a request, so it is held back until the session is idle. By then, the
+/// session of the message has ended, and the message can no longer be answered.
 bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -153,9 +153,9 @@ void UssdSession::delivered(const UntakenText &text, bool taken)
     keepUnlessTaken(text, taken);
 }
 
-/// Keeps a message that no call-back accepted. An empty message is dropped unless the network waits
-/// for an answer. In that case, the client must be notified even though the text of the message is
-/// unknown.
+/// Stores a message that no call-back accepted. Drops an empty message unless the network is
+/// waiting for an answer. In this case, the client must be notified even though the content of the
+/// message is unknown.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
@@ -177,8 +177,8 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// Posts the held messages, which follow the reply whose call-back is about to start. Must be
-/// called with m_mutex locked.
+/// Posts the messages that were held back. They are delivered after the reply whose call-back is
+/// about to start. Must be called with m_mutex locked.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});

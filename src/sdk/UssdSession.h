@@ -23,11 +23,9 @@ struct UntakenText {
 
 /**
  * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules
- * documented in tksv.h for every backend.
- *
- * A reply is treated as delivered once its call-back has started. Until then, a newer request or a
- * release cancels the reply. A call-back that makes a request finds the session in the state that
- * the reply has set.
+ * documented in tksv.h for every backend. A reply counts as delivered once its call-back has
+ * started. Until then, a newer request or a release cancels the reply. If the call-back makes a
+ * request, the session is already in the state that follows from the reply.
  *
  * m_mutex is locked while the backend is called, but never while a call-back runs.
  */
@@ -36,8 +34,8 @@ class UssdSession
 public:
     using Post = std::function<void(Event)>;
 
-    /// `post` passes an event to the USSD service. `textUntaken` is called on the service's thread
-    /// when takeUntakenTexts() has a new text.
+    /// `post` passes an event to the USSD service. `textUntaken` is called from the service's
+    /// thread when takeUntakenTexts() would return a new message.
     UssdSession(Post post, std::function<void()> textUntaken);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
@@ -50,10 +48,10 @@ public:
     /// Ends the request in flight, which then receives an empty reply. Returns false if there is no
     /// request in flight.
     bool cancel(Backend &backend);
-    /// Records why a request failed that did not reach the backend.
+    /// Records the reason why a request failed before it reached the backend.
     void recordRefusal(TKSV_Failure reason);
-    /// Returns how the newest request failed. In the call-back of a reply, returns how the request
-    /// of this reply failed.
+    /// Returns the failure of the newest request. If called from the call-back of a reply, returns
+    /// the failure of the request to which the reply belongs.
     Failure lastFailure() const;
 
     /// Delivers the backend's reply to a request. A late reply is dropped.
@@ -87,8 +85,9 @@ private:
     RequestToken m_lastToken = 0;
     std::vector<UssdReply> m_heldTexts; // messages held back until the session ends
     std::deque<UntakenText> m_untaken;
-    Failure m_failure; // how the newest request failed
-    // While the call-back of a reply runs, its thread sees the failure of this reply.
+    Failure m_failure; // the failure of the newest request
+    // The thread that is running the call-back of a reply. For this thread, lastFailure() returns
+    // the failure of this reply.
     std::thread::id m_deliveryThread;
     Failure m_deliveredFailure;
 };

@@ -100,9 +100,9 @@ std::vector<unsigned long> ticketsIn(int folder)
     return numbers;
 }
 
-/// Returns true if a living program holds the ticket. Removes the ticket of a program that has
-/// crashed. Must not be called for a later ticket than one's own, because its program may not have
-/// locked it yet.
+/// Returns true if a running program holds the ticket. Removes the ticket of a program that has
+/// crashed. Must be called only for tickets with a lower number than this program's own, because
+/// the program of a newer ticket may not have locked it yet.
 bool isHeld(int folder, unsigned long number)
 {
     const std::string name = std::to_string(number);
@@ -155,7 +155,8 @@ void SessionTurn::leave()
         return;
     m_isFirst = false;
     unlinkat(m_folder, std::to_string(m_number).c_str(), 0);
-    flock(m_ticket, LOCK_UN); // also for a child process that has inherited the descriptor
+    flock(m_ticket,
+          LOCK_UN); // unlocks the ticket even if a child process has inherited the descriptor
     close(std::exchange(m_ticket, -1));
 }
 
@@ -169,9 +170,9 @@ bool SessionTurn::openFolder()
     return m_folder >= 0;
 }
 
-/// Takes the next ticket. The door is locked meanwhile, so that two programs never take the same
-/// ticket and nobody sees a ticket before its program has locked it. Returns false if another
-/// program has locked the door.
+/// Takes the next ticket. The door file is locked during this call, so that two programs never take
+/// the same ticket and no program finds a ticket that is not locked yet. Returns false if another
+/// program has locked the door file.
 bool SessionTurn::takeTicket()
 {
     if (m_isUnusable || (m_folder < 0 && !openFolder()))

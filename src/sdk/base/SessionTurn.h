@@ -8,12 +8,10 @@ namespace Tksv
 
 /**
  * A program's place in the queue for the USSD session of one modem. The programs of one user take
- * turns, first come first served.
- *
- * The queue is a folder with one file for each program, the ticket. The name of a ticket is its
- * number, and the program locks its ticket with flock() while it waits and while it uses the
- * session. The kernel unlocks the ticket of a program that crashes, and the next program removes
- * it. If the folder cannot be used, nobody waits.
+ * turns, first come first served. The queue is a folder that contains one file, the ticket, for
+ * each program. The name of the ticket is a number. A program locks its ticket with flock() while
+ * it waits and while it uses the session. If a program crashes, the kernel unlocks its ticket, and
+ * the next program removes the ticket. If the folder cannot be used, programs do not wait.
  */
 class SessionTurn
 {
@@ -24,10 +22,10 @@ public:
     SessionTurn(const SessionTurn &) = delete;
     SessionTurn &operator=(const SessionTurn &) = delete;
 
-    /// Joins the queue unless the program is in the queue already. Returns true if it is the
-    /// program's turn. Never blocks. The caller repeats the call until it returns true.
+    /// Joins the queue unless the program is already in the queue. Returns true if it is the
+    /// program's turn. Never blocks. The caller must repeat the call until it returns true.
     bool tryEnter();
-    /// Leaves the queue. Does nothing if the program is not in the queue.
+    /// Leaves the queue. Has no effect if the program is not in the queue.
     void leave();
     /// Returns true if the program is in the queue.
     bool isInQueue() const { return m_ticket >= 0; }
@@ -45,8 +43,8 @@ private:
     const std::string m_modem;
     int m_folder = -1;
     int m_ticket = -1;
-    unsigned long m_number = 0; // of the ticket
-    bool m_isFirst = false;     // there is no earlier ticket, and there will be none
+    unsigned long m_number = 0; // the number of the ticket
+    bool m_isFirst = false;     // there is no ticket with a lower number, and none can be added
     bool m_isUnusable = false;  // the folder cannot be used
 };
 

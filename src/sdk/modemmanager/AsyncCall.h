@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-/* Lets closures serve as call-backs of GIO's asynchronous functions. */
+/* Functions for using closures as call-backs of GIO's asynchronous functions. */
 
 namespace Tksv
 {
@@ -20,8 +20,8 @@ inline void runAsyncDone(GObject *source, GAsyncResult *result, gpointer done)
     (*owned)(source, result);
 }
 
-/// Returns the user data for runAsyncDone(), which deletes it. GIO calls each call-back exactly
-/// once.
+/// Returns the user data for runAsyncDone(), which deletes the user data. GIO invokes each
+/// call-back exactly once.
 inline gpointer asyncDone(AsyncDone done)
 {
     return new AsyncDone(std::move(done));

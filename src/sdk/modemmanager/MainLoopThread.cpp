@@ -69,14 +69,14 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Runs the call-backs of the calls that the last task has cancelled. The call-backs release
-    // their objects.
+    // Run the call-backs of the calls that the last task has cancelled, because these call-backs
+    // release their objects.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);
 }
 
-/// Adds the task to a queue that has its own mutex. Unlike the locks inside GLib, this mutex is
+/// Adds the task to a queue with a separate mutex. Unlike the locks inside GLib, this mutex is
 /// visible to the thread sanitizer.
 void MainLoopThread::post(Task task)
 {

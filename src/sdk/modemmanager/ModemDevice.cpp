@@ -110,7 +110,7 @@ void ModemDevice::modemChanged()
 
 void ModemDevice::enable()
 {
-    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second failure is a change again
+    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second failure is reported as a change
     const auto done = [this](GObject *modem, GAsyncResult *result) {
         ErrorSlot error;
         mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());
@@ -128,7 +128,7 @@ void ModemDevice::fetchSim()
         return;
     m_simPath = path;
     const auto done = [this, path](GObject *modem, GAsyncResult *result) {
-        ErrorSlot ignored; // without a SIM, the SIM's fields remain empty
+        ErrorSlot ignored; // if there is no SIM, the fields of the SIM remain empty
         GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
         if (path != m_simPath)
             return; // another SIM has been requested in the meantime

@@ -16,9 +16,9 @@
 namespace Tksv
 {
 
-/**
- * The modem in use, whose properties the object follows. The modem is enabled only on request, or
- * after the PIN has unlocked its SIM. All functions must be called on the thread of the main loop.
+/** Represents the modem in use and keeps the properties of the modem up to date. The modem is
+ * enabled only on request, or after the PIN has unlocked its SIM. All functions must be called from
+ * the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
@@ -44,8 +44,8 @@ public:
     void sendPin(const std::string &pin);
     /// Enables the modem.
     void enable();
-    /// Reports the request in flight and the messages that are being sent as failed. `reason` is
-    /// that of the request.
+    /// Reports that the request in flight and the messages that are being sent have failed.
+    /// `reason` is the reason for the request's failure.
     void failPending(TKSV_Failure reason);
 
 private:
@@ -75,7 +75,7 @@ private:
     std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
-    bool m_enableWanted = false; // as soon as the modem with the unlocked SIM can be enabled
+    bool m_enableWanted = false; // true if the modem is to be enabled as soon as this is possible
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or higher
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the most recent call
 };

@@ -11,8 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// The time that the end of a program or the switch to another device waits for the end of the
-/// session.
+/// The time limit for ending the session when the program exits or switches to another device.
 const std::chrono::milliseconds END_LIMIT(300);
 
 bool canEndAtCommand(unsigned char unit)
@@ -20,7 +19,7 @@ bool canEndAtCommand(unsigned char unit)
     return unit < 0x20 || unit == 0x7f || unit == '"';
 }
 
-/// Returns the reason why the device sends no commands, or TKSV_FAILURE_NONE if it sends them.
+/// Returns the reason why the device cannot send commands, or TKSV_FAILURE_NONE if it can.
 TKSV_Failure refusalOf(const DeviceInfo &info)
 {
     return info.problem == TKSV_PROBLEM_NO_USSD ? TKSV_FAILURE_NOT_SUPPORTED
@@ -51,7 +50,8 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     m_info.isLooking = true; // until the first call of publish()
 }
 
-/* ---- functions for any thread ------------------------------------------------------------ */
+/* ---- functions that may be called from any thread
+ * ------------------------------------------------------------ */
 
 void ModemManagerBackend::start(BackendObserver &observer)
 {
@@ -169,10 +169,11 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- functions for the watch's thread ---------------------------------------------------- */
+/* ---- functions that run on the watch's thread
+ * ---------------------------------------------------- */
 
-/// Sends the request, or keeps it until ModemManager has reported its modems. The request fails if
-/// its modem was lost in the meantime or was never there.
+/// Sends the request, or holds it until ModemManager has reported its modems. The request fails if
+/// its modem was not available or has been lost since the request was posted.
 void ModemManagerBackend::perform(const Request &request, unsigned lostModemCount)
 {
     m_waiting.reset();
@@ -186,8 +187,8 @@ void ModemManagerBackend::perform(const Request &request, unsigned lostModemCoun
             refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
 }
 
-/// Follows the modems of the watch. If any modem may be used, a modem stays in use from its first
-/// registration until it is lost.
+/// Selects the modem to use from the modems of the watch. If the user has not selected a modem, a
+/// modem stays in use from its first registration until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
@@ -214,7 +215,8 @@ bool ModemManagerBackend::prefersAnotherModem() const
            stateOf(mm_object_peek_modem(best.get())) == TKSV_DEVICE_REGISTERED;
 }
 
-/// Ends the use of a modem that has never been registered. It has neither a session nor requests.
+/// Stops using a modem that has never been registered and therefore has neither a session nor
+/// requests.
 void ModemManagerBackend::leaveModem()
 {
     m_device.reset();

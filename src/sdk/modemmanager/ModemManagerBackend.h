@@ -13,17 +13,16 @@
 namespace Tksv
 {
 
-/**
- * The backend of a modem that ModemManager controls. The backend runs on the watch's thread. The
- * functions of Backend post a task to this thread. Their results are based on the DeviceInfo that
- * the thread published last.
+/** The backend for a modem that ModemManager controls. The backend runs on the watch's thread, and
+ * the functions of the Backend interface post tasks to this thread. The return values of these
+ * functions are based on the DeviceInfo that the thread published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Uses the modem with that identifier. If the identifier is empty, uses the first modem that
-    /// is registered, or the first modem as long as none is registered. The watch must outlive the
-    /// backend.
+    /// Uses the modem with the given identifier. If the identifier is empty, uses the first modem
+    /// that is registered, or the first modem as long as no modem is registered. The watch must
+    /// outlive the backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
@@ -61,23 +60,24 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The following members are used on the watch's thread only.
+    // The following members are used only on the watch's thread.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
     bool m_wasRegistered = false;     // the modem in use has been registered at least once
-    bool m_isModemRemoved = false;    // the modem in use was removed, and none is in use since then
+    bool m_isModemRemoved = false;    // the modem in use was removed and has not been replaced yet
     std::optional<Request> m_waiting; // waits until ModemManager has reported its modems
 
-    // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount, so it reads them
-    // without locking the mutex.
+    // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount. This thread
+    // therefore reads them without locking the mutex.
     mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false;    // true once the thread has published m_info
-    unsigned m_lostModemCount = 0; // a task with a lower count must not reach this modem
+    bool m_isInfoKnown = false; // true once the thread has published m_info
+    unsigned m_lostModemCount =
+        0; // a task that was posted with a lower count must not use this modem
     bool m_stopped = false;
 };
 
-/// Returns true if ModemManager can safely insert the string between quotes into an AT command.
+/// Returns true if ModemManager can safely insert the string between the quotes of an AT command.
 bool isSafeForModem(const std::string &text);
 
 } // namespace Tksv

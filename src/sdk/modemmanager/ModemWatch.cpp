@@ -10,8 +10,8 @@ namespace Tksv
 namespace
 {
 
-/// The number of attempts to read the objects. A daemon that is starting acquires its bus name
-/// shortly before it exports its objects.
+/// The maximum number of attempts to read the objects. A daemon that is starting acquires its bus
+/// name shortly before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
@@ -94,7 +94,7 @@ void ModemWatch::stop()
         m_signals.disconnectAll();
         m_modemSignals.disconnectAll();
         m_manager.reset();
-        if (m_bus) // sends the call that ends an open session
+        if (m_bus) // flush the connection, so that the call that ends an open session is sent
             g_dbus_connection_flush_sync(m_bus.get(), nullptr, nullptr);
         m_bus.reset();
     });
@@ -134,7 +134,7 @@ void ModemWatch::busConnected(GDBusConnection *bus)
     pingService(START_UP_TRIES);
 }
 
-/// Queries the daemon's version asynchronously. A hanging daemon therefore cannot block the thread
+/// Queries the daemon's version asynchronously, so that a daemon that hangs cannot block the thread
 /// in createManager(). If the daemon is not running, the call fails immediately.
 void ModemWatch::pingService(int triesLeft)
 {
@@ -195,7 +195,7 @@ void ModemWatch::createManager(int triesLeft)
     });
 }
 
-/// Clears all data that belong to the connection. start() can then connect again.
+/// Clears all data that belongs to the connection, so that start() can connect again.
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();
@@ -238,7 +238,8 @@ void ModemWatch::refresh()
     setState(owner ? ServiceState::Running : ServiceState::NoService);
 }
 
-/// Reports the new state of any modem, since the modem in use may depend on it.
+/// Reports the new state of any modem, because the selection of the modem in use may depend on this
+/// state.
 void ModemWatch::modemChanged(GVariant *changed)
 {
     const GVariantPtr state(g_variant_lookup_value(changed, "State", nullptr));

@@ -33,17 +33,18 @@ enum class ServiceState { Looking, NoBus, NoService, Running };
 class ModemWatch
 {
 public:
-    /// Called on the D-Bus thread after each change to the service's state, to the list of modems,
-    /// or to the interfaces or the state of a modem.
+    /// Called from the D-Bus thread after each change to the service's state, to the list of
+    /// modems, or to the interfaces or the state of a modem.
     using Changed = std::function<void()>;
 
-    /// The service is silent if it does not answer a ping within `silenceLimit`.
+    /// The service counts as silent if it does not answer a ping within `silenceLimit`.
     explicit ModemWatch(Changed changed, std::chrono::milliseconds silenceLimit = SILENCE_LIMIT);
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Starts to look for modems and returns at once. Another call tries again if the connection or
-    /// the service was missing, and otherwise checks whether the service still answers.
+    /// Starts to search for modems and returns immediately. A further call tries again if the
+    /// connection or the service was missing. Otherwise, it checks whether the service still
+    /// responds.
     void start();
     /// Ends the thread and releases all objects that the thread holds.
     void stop();
@@ -52,13 +53,13 @@ public:
     std::vector<ModemSummary> modems() const;
     /// Returns the state of ModemManager. May be called from any thread.
     ServiceState state() const;
-    /// Returns true if ModemManager is running but does not answer. May be called on any thread.
+    /// Returns true if ModemManager is running but does not respond. May be called from any thread.
     bool isSilent() const;
 
     MainLoopThread &thread() { return m_thread; }
-    /// Returns the modem with that identifier, or null. An empty identifier selects the first modem
-    /// that is registered, or the first modem if none is registered. May only be called on the
-    /// D-Bus thread.
+    /// Returns the modem with the given identifier, or null. An empty identifier selects the first
+    /// modem that is registered, or the first modem if none is registered. May only be called from
+    /// the D-Bus thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
     /// Returns the modem with the given D-Bus path, or null. May only be called from the D-Bus
     /// thread.
@@ -83,7 +84,7 @@ private:
     MainLoopThread m_thread;
     const Changed m_changed;
     const std::chrono::milliseconds m_silenceLimit;
-    const Cancellable m_cancellable; // cancels calls that stop() must not wait for
+    const Cancellable m_cancellable; // cancels the calls for which stop() must not wait
     bool m_started = false;          // used only by start(), whose calls never overlap
 
     // The following members are used only on the D-Bus thread.

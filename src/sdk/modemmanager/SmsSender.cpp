@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// There is no time limit, because the client decides how long it waits for the outcome.
+/// There is no time limit, because the client decides how long to wait for the outcome.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)

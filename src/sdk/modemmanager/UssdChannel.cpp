@@ -15,17 +15,18 @@ const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
 const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
 const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
 
-/// The time that the channel waits for the state after a reply before it queries the state.
+/// The time that the channel waits for a state change after a reply before it queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// The time within which the daemon refuses a call because another program has a session. It asks
-/// polkit first, which takes a few milliseconds unless polkit asks the user.
+/// The time within which the daemon refuses a call because another program has a session. The
+/// daemon queries polkit first, which takes a few milliseconds unless polkit prompts the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The time between two looks at the queue of programs, and the time that a turn is kept.
+/// The interval at which the channel checks the queue of programs, and the time for which the
+/// program keeps its turn.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
-/// There is no time limit, because the client decides how long it waits for a reply. By default,
+/// There is no time limit, because the client decides how long to wait for a reply. By default,
 /// GDBus would cancel the call after 25 seconds.
 const int NO_TIME_LIMIT = G_MAXINT;
 
@@ -52,7 +53,8 @@ UssdChannel::UssdChannel(MainLoopThread &thread, const std::string &equipmentId,
 }
 
 /// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
-/// object's proxies. The old proxy can still make calls, but no longer receives property changes.
+/// proxies of the object. An old proxy can still make calls, but no longer receives property
+/// changes.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -67,7 +69,7 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 }
 
 /// Clears the state of the interface that was removed. The results of its pending calls may never
-/// arrive. If they do, they are ignored.
+/// arrive, and are ignored if they do.
 void UssdChannel::interfaceRemoved()
 {
     failPending(TKSV_FAILURE_DEVICE_LOST);
@@ -123,8 +125,8 @@ void UssdChannel::failPending(TKSV_Failure reason)
         m_listener.replied(request->token, failedReply(Failure{reason, wasNotSent}));
 }
 
-/// The daemon neither finishes nor cancels the call of a modem that is disabled. The call blocks
-/// the next one, see cancelStuckCall().
+/// Discards the running call. If a modem is disabled, the daemon neither finishes nor cancels a
+/// call to this modem, and the call blocks the next one. See cancelStuckCall().
 void UssdChannel::abandonCall()
 {
     if (!m_running || !m_isCallPending || m_cancelling)
@@ -156,12 +158,12 @@ void UssdChannel::startNext()
         return;
     if (!m_next && !canAnswer())
         return leaveTurn();
-    if (m_next && takeTurn() && m_next) // a change that takeTurn() has reported may end the request
+    if (m_next && takeTurn() && m_next) // takeTurn() may report a change that ends the request
         start(*std::exchange(m_next, std::nullopt));
 }
 
-/// Returns true if it is this program's turn. Otherwise, startNext() is called again later. A kept
-/// turn is used again unless another program waits.
+/// Returns true if it is this program's turn. Otherwise, arranges for startNext() to be called
+/// again. A turn that the program has kept is used again unless another program is waiting.
 bool UssdChannel::takeTurn()
 {
     if (std::exchange(m_keepsTurn, false) && m_turn.isWanted())
@@ -173,8 +175,8 @@ bool UssdChannel::takeTurn()
     return isOurTurn;
 }
 
-/// Leaves the turn. If nobody waits, the program keeps its turn for a moment, because the files of
-/// the queue would slow down commands that follow each other.
+/// Ends the turn. If no other program is waiting, this program keeps its turn for a moment, because
+/// using the files of the queue for each command would slow down a sequence of commands.
 void UssdChannel::leaveTurn()
 {
     m_keepsTurn = m_turn.isInQueue() && !m_waitsForTurn && !m_turn.isWanted();
@@ -210,8 +212,8 @@ void UssdChannel::setWaitsForTurn(bool waits)
         m_listener.changed();
 }
 
-/// Starts the call if the session permits it. An answer needs the session that it answers. A code
-/// needs an idle session.
+/// Starts the call if the session permits it. An answer requires that the session of its menu is
+/// still open. A code requires that the session is idle.
 void UssdChannel::start(const Request &request)
 {
     const bool isAnswer = request.kind == RequestKind::Answer;
@@ -224,8 +226,8 @@ void UssdChannel::start(const Request &request)
         checkSession();
 }
 
-/// Queries whether the session of another program is still open, and refuses the code in that case.
-/// polkit is then not asked in vain.
+/// Queries whether the session of another program is still open. If so, refuses the code
+/// immediately, so that polkit does not prompt the user for a call that would fail.
 void UssdChannel::checkSession()
 {
     askForState([this](State state) {
@@ -252,7 +254,7 @@ void UssdChannel::call(const Request &request)
     m_callStart = Clock::now();
     m_isCallPending = true;
     m_wasActive = false;
-    m_isConfirmed = isAnswer; // the session is ours already
+    m_isConfirmed = isAnswer; // the session of an answer is already ours
     m_isConfirming = false;
     m_isChecking = false;
     m_hasNewQuestion = false;
@@ -280,7 +282,7 @@ void UssdChannel::callReturned(unsigned call, GMemory<char> text, const GError *
     waitForState();
 }
 
-/// Ends the command. Its session is over or was never opened, so there is nothing to cancel.
+/// Ends the command. Its session has ended or was never opened, so there is nothing to cancel.
 void UssdChannel::callFailed(const GError &error)
 {
     if (isServiceLost(error))
@@ -299,7 +301,8 @@ void UssdChannel::callFailed(const GError &error)
     } else {
         finish(failedReply(failure));
     }
-    if (!isInProgress(error)) // such a call of another program blocks the modem although it is idle
+    if (!isInProgress(
+            error)) // an unfinished call of another program blocks the modem while it is idle
         askForStateOfOthers();
 }
 
@@ -310,7 +313,7 @@ void UssdChannel::cancelStuckCall()
     if (!m_next && !m_cancelWanted)
         m_next = m_running;
     m_running.reset();
-    m_isCallStuck = false; // tried once only
+    m_isCallStuck = false; // cleared, so that the cancellation is tried only once
     startCancel();
 }
 
@@ -322,11 +325,12 @@ Failure UssdChannel::failureOf(const GError &error) const
     return failureOfUssdError(error, context);
 }
 
-/// Cancels our session, but never the session of another program. While another program has a
-/// session, the daemon is about to refuse our call, and a cancellation would end that session.
-/// Therefore, a call that is running must be confirmed first: the daemon has had the time to refuse
-/// it, and the session has become active and still is. Otherwise, the channel waits until the
-/// session becomes active or the call returns. This takes long if polkit asks the user.
+/// Cancels our session, but never the session of another program. If another program has a session,
+/// the daemon will refuse our call, but a cancellation would end that session. Therefore, a running
+/// call must be confirmed before it is cancelled. It is confirmed if the daemon has had enough time
+/// to refuse it, and the session has become active and is still active. Otherwise, the channel
+/// waits until the session becomes active or the call returns. This may take a long time if polkit
+/// prompts the user.
 void UssdChannel::cancelWhenOurs()
 {
     if (!m_running && !canAnswer()) {
@@ -382,8 +386,9 @@ void UssdChannel::startCancel()
     mm_modem_3gpp_ussd_cancel(m_ussd.get(), nullptr, runAsyncDone, asyncDone(whileAlive(done)));
 }
 
-/// The daemon is idle even after a failed cancellation, unless the policy denies it. However, the
-/// daemon does not cancel the call of a modem that is being disabled.
+/// Handles the result of the cancellation. The daemon is idle even if the cancellation failed,
+/// unless the policy denied it. However, the daemon does not cancel a call to a modem that is being
+/// disabled.
 void UssdChannel::cancelReturned(unsigned call, const GError *error)
 {
     if (call != m_call)
@@ -408,8 +413,8 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 /* ---- the session's state ----------------------------------------------------------------- */
 
 /// Waits until the state belongs to the reply. After a reply, the state changes from "active" to
-/// "idle" or "user response". If a command finishes quickly, the daemon may not report either
-/// change. Therefore, the channel queries the state.
+/// "idle" or "user response". If a command finishes quickly, the daemon may report neither of the
+/// changes to and from "active". In this case, the channel queries the state.
 void UssdChannel::waitForState()
 {
     if (!m_wasActive)
@@ -463,8 +468,8 @@ void UssdChannel::askForStateOfReply()
     });
 }
 
-/// Finds out whether another program has a session. The last reported state may be that of our own
-/// session, which has just ended.
+/// Queries whether another program has a session. The last state that was reported may be the state
+/// of our own session, which has just ended.
 void UssdChannel::askForStateOfOthers()
 {
     askForState([this](State state) {
@@ -490,12 +495,12 @@ void UssdChannel::propertiesChanged(GVariant *changed)
     if (hasQuestion)
         m_hasNewQuestion = true;
     else if (!m_running && state != USER_RESPONSE)
-        m_hasNewQuestion = false; // the question has been withdrawn
+        m_hasNewQuestion = false; // the network has withdrawn its prompt
     handleState(state);
 }
 
-/// Handles a state that was reported or queried. It is unknown while the modem is disabled, and a
-/// disabled modem has no session.
+/// Handles a state that was reported or queried. An unknown state means that the modem is disabled
+/// and therefore has no session.
 void UssdChannel::handleState(State reported)
 {
     const State state = reported == UNKNOWN ? IDLE : reported;
@@ -524,8 +529,8 @@ void UssdChannel::handleStateDuringCall(State state)
         replyIsWhole(state == USER_RESPONSE);
 }
 
-/// The session has ended, but our call has not returned. If the daemon has had the time to refuse
-/// the call, the session was ours.
+/// Handles the end of a session while our call is still running. If the daemon has had enough time
+/// to refuse the call, the session was ours.
 void UssdChannel::sessionEndedDuringCall()
 {
     const bool hadTime = Clock::now() - m_callStart >= REFUSAL_LIMIT;
@@ -533,9 +538,10 @@ void UssdChannel::sessionEndedDuringCall()
     m_wasActive = false;
 }
 
-/// Handles a state that no call of ours has caused. Only the network asks a question without an
-/// active session before it. A question that repeats the network's previous question word for word
-/// looks like a menu of another program, and is treated as such.
+/// Handles a state that was not caused by any of our calls. If the session waits for an answer
+/// without having been active before, the network itself opened the session. However, a prompt that
+/// is identical to the previous prompt of the network cannot be distinguished from a menu of
+/// another program, and is treated as such a menu.
 void UssdChannel::handleStateOfOthers(State state)
 {
     const bool hasNewQuestion = m_hasNewQuestion && state == USER_RESPONSE;
@@ -549,7 +555,7 @@ void UssdChannel::handleStateOfOthers(State state)
 }
 
 /// Ends the command, whose reply and state are known. If the command was cancelled in the meantime,
-/// ends its session instead.
+/// ends the session of the command instead.
 void UssdChannel::replyIsWhole(bool waits)
 {
     if (!m_cancelWanted)
@@ -580,7 +586,7 @@ void UssdChannel::finish(const UssdReply &reply)
     startNext();
 }
 
-/// Reports a question that the network asks of its own accord.
+/// Reports a network-initiated message that waits for an answer.
 void UssdChannel::reportQuestion()
 {
     m_hasNewQuestion = false;

@@ -19,18 +19,14 @@ namespace Tksv
 {
 
 /**
- * The USSD session of one modem.
- *
- * The daemon sends the reply before it updates the session state, and only the state shows whether
- * the network waits for an answer. Therefore, the channel holds the reply back until the state is
- * no longer "active".
- *
- * Every program on the bus can use the session. A session is ours only if our call opened it: the
- * call is running, or its reply left the session open and nothing else has happened since. A
- * question that the network asks of its own accord belongs to everybody. The channel neither ends
- * nor answers any other session. The programs of one user take turns, see SessionTurn.
- *
- * All functions must be called on the thread of the main loop.
+ * The USSD session of one modem. The daemon sends the reply before it updates the session state,
+ * and only the state indicates whether the network is waiting for an answer. Therefore, the channel
+ * holds the reply back until the state is no longer "active". Every program on the bus can use the
+ * session. A session is ours only if our call opened it: the call is running, or its reply left the
+ * session open and nothing else has happened since. If the network itself opens a session and waits
+ * for an answer, any program may answer. The channel neither ends nor answers any other session.
+ * The programs of one user take turns; see SessionTurn. All functions must be called from the
+ * thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
@@ -50,14 +46,14 @@ public:
     /// have the interface.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// Finds out whether a session is open, and starts a waiting request. Must be called after
+    /// Checks whether a session is open, and starts a waiting request. Must be called after
     /// setInterface().
     void catchUp();
     /// Returns true if another program has opened a session.
     bool hasForeignSession() const { return m_owner == Owner::Foreign; }
     /// Returns true if a request waits for another program of the same user.
     bool waitsForTurn() const { return m_waitsForTurn; }
-    /// Returns true if no call is running and no session has to be ended.
+    /// Returns true if no call is running and no session remains to be ended.
     bool isSettled() const { return !m_running && !m_cancelWanted && !m_cancelling; }
 
     /// Sends the string and replaces the request in flight.
@@ -66,8 +62,8 @@ public:
     void endSession();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);
-    /// Forgets a running call that the daemon will not finish. Must be called after the modem was
-    /// disabled.
+    /// Discards a running call that the daemon will not finish. Must be called after the modem has
+    /// been disabled.
     void abandonCall();
     /// Ends the session that another program has opened.
     void endForeignSession();
@@ -76,7 +72,8 @@ private:
     using State = MMModem3gppUssdSessionState;
     using Clock = std::chrono::steady_clock;
 
-    /// The opener of the session: nobody while the session is idle, or while our call is running.
+    /// The program or network that opened the session. The owner is Nobody while the session is
+    /// idle, or while our call is running.
     enum class Owner { Nobody, Ours, Network, Foreign };
 
     struct Request {
@@ -130,13 +127,14 @@ private:
     SignalConnections m_signals;
     SessionTurn m_turn;
     bool m_waitsForTurn = false;
-    bool m_keepsTurn = false; // no command needs the turn at this time
+    bool m_keepsTurn = false; // the program keeps its turn, although no command needs it now
     bool m_isTurnTimerRunning = false;
 
     Owner m_owner = Owner::Nobody;
     State m_state = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE; // the last state that was reported
-    bool m_isStateNew = false;     // the interface was replaced, and its state was not handled yet
-    bool m_hasNewQuestion = false; // NetworkRequest has changed since the call started, or alone
+    bool m_isStateNew = false; // the interface was replaced, and its state was not handled yet
+    bool m_hasNewQuestion =
+        false; // NetworkRequest has changed since the call started, or without a call
 
     std::optional<Request> m_next;    // starts when no call is running
     std::optional<Request> m_running; // its call is running, or its reply waits for the state
@@ -151,7 +149,7 @@ private:
     bool m_isLagTimerRunning = false;
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    unsigned m_call = 0; // the number of the newest call; results of older calls are ignored
+    unsigned m_call = 0; // the number of the latest call; results of earlier calls are ignored
 };
 
 } // namespace Tksv

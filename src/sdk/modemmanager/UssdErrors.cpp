@@ -24,15 +24,15 @@ bool says(const GError &error, const char *text)
     return std::strstr(error.message, text) != nullptr;
 }
 
-/// The modem leaves a command unanswered. The daemon gives up after 10 s for each of its two
-/// attempts.
+/// A call that fails after this time failed because the modem did not answer. The daemon makes two
+/// attempts and waits 10 s for each of them.
 const double UNANSWERED_SECONDS = 9;
 
-/// Returns the reason of an error whose code is MM_CORE_ERROR_FAILED. Only the text of the error
-/// tells the cases apart.
+/// Returns the reason for an error with the code MM_CORE_ERROR_FAILED. Only the error message
+/// distinguishes the cases.
 TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
 {
-    if (says(error, "Unhandled USSD reply")) // the <m> of +CUSD follows, as in "...: 5 (5)"
+    if (says(error, "Unhandled USSD reply")) // followed by the <m> of +CUSD, as in "...: 5 (5)"
         return says(error, "(5)") ? TKSV_FAILURE_NETWORK_TIMEOUT : TKSV_FAILURE_ENDED_BY_NETWORK;
     if (says(error, "missing field separator"))
         return TKSV_FAILURE_EMPTY_REPLY;
@@ -43,7 +43,7 @@ TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
     return context.isOnlyOn4G ? TKSV_FAILURE_NOT_ON_4G : TKSV_FAILURE_REFUSED;
 }
 
-/// Returns the reason of an error that the modem has reported.
+/// Returns the reason for an error that the modem has reported.
 TKSV_Failure reasonOfEquipmentError(int code, const UssdCallContext &context)
 {
     switch (code) {
@@ -58,10 +58,10 @@ TKSV_Failure reasonOfEquipmentError(int code, const UssdCallContext &context)
     }
 }
 
-/// Returns the reason of an error that the daemon reports before it sends anything.
+/// Returns the reason for an error that the daemon reports before it sends the command.
 TKSV_Failure reasonOfWrongState(const GError &error)
 {
-    if (says(error, "no active session")) // an answer came too late
+    if (says(error, "no active session")) // the answer was sent too late
         return TKSV_FAILURE_ENDED_BY_NETWORK;
     const bool isAboutSession = says(error, "session") || says(error, "response");
     return isAboutSession ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_DISABLED;
@@ -102,7 +102,7 @@ Failure failureOfUssdError(const GError &error, const UssdCallContext &context)
         return Failure{reasonOfWrongState(error), true};
     if (isInProgress(error))
         return Failure{TKSV_FAILURE_IN_USE, true};
-    if (error.domain == G_CONVERT_ERROR && says(error, "to UTF-8")) // of the reply
+    if (error.domain == G_CONVERT_ERROR && says(error, "to UTF-8")) // the reply cannot be converted
         return Failure{TKSV_FAILURE_UNDECODABLE};
     if (error.domain == G_CONVERT_ERROR)
         return Failure{TKSV_FAILURE_NOT_ENCODABLE, true};
@@ -126,8 +126,8 @@ bool isNotPermitted(const GError &error)
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
-/// A modem whose state is changing can refuse the call. This is no problem, because its next state
-/// is reported.
+/// A modem whose state is changing can refuse the call. Such an error is not a problem, because the
+/// modem reports its next state.
 TKSV_DeviceProblem problemOfEnableError(const GError &error)
 {
     if (isNotPermitted(error))

@@ -5,7 +5,7 @@
 
 #include "../base/Backend.h"
 
-/* The meaning of ModemManager's errors. docs/modems.md lists the errors. */
+/* Functions that classify ModemManager's errors. docs/modems.md lists the errors. */
 
 namespace Tksv
 {
@@ -28,7 +28,7 @@ bool isServiceLost(const GError &error);
 /// Returns true if the system's policy denied the call.
 bool isNotPermitted(const GError &error);
 
-/// Returns the problem to show to the user after ModemManager has not enabled the modem.
+/// Returns the problem to report to the user after ModemManager has failed to enable the modem.
 TKSV_DeviceProblem problemOfEnableError(const GError &error);
 
 /// Returns the problem to report to the user after ModemManager has rejected a PIN.
