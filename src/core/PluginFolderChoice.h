@@ -6,20 +6,20 @@
 namespace HostCore
 {
 
-/**
- * Decides from which folder plug-ins read their configuration and their profiles. This folder
- * contains the folder "plugins". A host can select the folder of an operator. If it does not, the
- * folder is the one that $USSD_PLUGIN_LIBRARY_PATH names, or else the installed folder. The paths
- * do not end with a separator. The functions may be called from any thread.
+/** Selects the folder from which plug-ins read their configuration and their profiles. This folder
+ * contains the folder "plugins". A host can select the folder of an operator. If the host does not
+ * select a folder, $USSD_PLUGIN_LIBRARY_PATH specifies the folder. If this variable is not set
+ * either, the installed folder is used. The paths do not end with a separator. The functions may be
+ * called from any thread.
  */
 class Q_DECL_EXPORT PluginFolderChoice
 {
 public:
     /// Returns the folder in use. Plug-ins receive it from CommonUtils::GetPluginLibraryPath().
     static QString current();
-    /// Returns the folder that is used if the host has not chosen one.
+    /// Returns the folder that is used if the host has not selected a folder.
     static QString installed();
-    /// Chooses a folder. An empty path selects installed() again.
+    /// Selects a folder. An empty path selects installed() again.
     static void use(const QString &folder);
 };
 

@@ -13,10 +13,11 @@ namespace Tools
 namespace
 {
 
-const int MOST_ATTRIBUTES = 50; // for an element with more, the comparison would take too long
+const int MOST_ATTRIBUTES = 50; // comparing more attributes of an element would take too long
 const int MOST_DIFFERENCES = 2; // a name with more differences is not a misspelling
 
-/// Returns the number of letters to insert, delete or replace (the Levenshtein distance).
+/// Returns the number of letters that have to be inserted, deleted or replaced (the Levenshtein
+/// distance).
 int differences(const QString &a, const QString &b)
 {
     QList<int> row;
@@ -34,13 +35,13 @@ int differences(const QString &a, const QString &b)
     return row.last();
 }
 
-/// Returns the largest number of differences from a misspelling of the name.
+/// Returns the maximum number of differences between the name and a misspelling of the name.
 int mostDifferences(const QString &name)
 {
     return name.length() <= 4 ? name.length() / 3 : MOST_DIFFERENCES;
 }
 
-/** Copies a document, and replaces misspelt names on the way. */
+/** Copies a document and replaces misspelt names in the copy. */
 class Corrector
 {
 public:
@@ -59,7 +60,7 @@ private:
     const KnownNames &m_known;
     QXmlStreamReader m_xml;
     QString m_result;
-    int m_copied = 0; // characters of the text that are in the result
+    int m_copied = 0; // the number of characters that have been copied
 };
 
 QString Corrector::correct()

@@ -8,26 +8,27 @@
 namespace Tools
 {
 
-/** The names that the plug-in reads in one kind of file. */
+/** The names that the plug-in reads in one type of file. */
 struct KnownNames {
     QStringList elements;
     QStringList attributes;
 };
 
-/// Returns the name in `known` that is most similar to `name`, or an empty string if none is
-/// similar enough.
+/// Returns the name in `known` that is most similar to `name`. Returns an empty string if no name
+/// is similar enough.
 QString likelyName(const QString &name, const QStringList &known);
 
-/// Returns the known name for which an element's name is probably a misspelling. Returns an empty
-/// string if the name is known, or similar to none.
+/// Returns the known name that was probably meant if the name of the element is misspelt. Returns
+/// an empty string if the name is known, or is not similar to any known name.
 QString meantElement(const XmlElement &element, const KnownNames &known);
-/// Returns the same for one of the element's attributes. A name that the element already has as
-/// another attribute is never meant.
+/// Returns the known name that was probably meant if the attribute name `name` of the element is
+/// misspelt. Never returns the name of an attribute that the element already has.
 QString meantAttribute(const XmlElement &element, const QString &name, const KnownNames &known);
 
-/// Returns the document with the names that are probably meant. Otherwise, one misspelt name would
-/// have a finding for everything that the plug-in does not find because of it. Lines stay the same.
-/// Returns the document unchanged if it is not UTF-8.
+/// Returns the document with all misspelt names replaced by the names that were probably meant.
+/// Without this correction, a single misspelt name would cause a finding for each element that the
+/// plug-in consequently does not find. Line numbers do not change. Returns the document unchanged
+/// if it is not encoded in UTF-8.
 QByteArray spellingCorrected(const QByteArray &xml, const KnownNames &known);
 
 } // namespace Tools

@@ -7,8 +7,9 @@ class PieceFeeder;
 
 /**
  * Shows the network's reply as plain text in a box with a fixed number of lines, even if the reply
- * contains markup. A longer reply can be scrolled. The plug-in's own messages follow the language.
- * A code such as *111# is read from left to right, even within right-to-left text.
+ * contains markup. A longer reply can be scrolled. Messages of the plug-in itself are updated when
+ * the language changes. Codes such as *111# are displayed from left to right, even within
+ * right-to-left text.
  */
 class AccountReplyView : public QTextEdit
 {
@@ -19,8 +20,7 @@ public:
     void setLines(int lines);
     /// Shows a reply, or one of the plug-in's own messages in the current language.
     void showText(const QString &text);
-    /// Updates one of the plug-in's own messages to the current language. A reply remains
-    /// unchanged.
+    /// Updates a message of the plug-in to the current language. Replies remain unchanged.
     void retranslate();
 
     QSize sizeHint() const override;

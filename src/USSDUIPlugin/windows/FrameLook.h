@@ -6,7 +6,8 @@
 #include "IUSSD.h"
 #include "SmsLayout.h"
 
-/* The title and the size of a frame, which are set when it opens and after a language change. */
+/* Functions that set the title and the size of a frame when it opens and after a language change.
+ */
 
 inline const char *paidTitleKey(PAID_TYPE type)
 {
@@ -14,8 +15,8 @@ inline const char *paidTitleKey(PAID_TYPE type)
 }
 
 /// Sets the fixed size of the frame to the size of the window, plus 20 pixels of height. The size
-/// is limited, because a size from the file could be negative or require more memory than is
-/// available.
+/// is limited, because a size from the configuration file could be negative or require more memory
+/// than is available.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {

@@ -10,7 +10,7 @@
 namespace ReplyMessageBox
 {
 
-/// Creates a modal message box as a child of `parent`, but does not show it. The box contains the
+/// Creates a modal message box as a child of `parent` without showing it. The box contains the
 /// reply as plain text, in a scrolling view if the reply is too long for a label.
 QMessageBox *create(QWidget *parent, const QString &reply);
 

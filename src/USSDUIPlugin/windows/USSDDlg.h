@@ -49,12 +49,12 @@ public:
     /// subscriber's own number if they are shown. Does nothing for types other than prepaid and
     /// postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the detection if `ask` is true. The result is sent to the host's notification
-    /// service. The function copies `inUse`, `postpaid` and `result` to the window's own record.
-    /// Before it returns, it sets the three arguments to the values of the record. Returns 1, or 0
-    /// if the logic object does not exist.
+    /// Starts the prepaid/postpaid detection if `ask` is true. The host's notification service
+    /// receives the result. The function copies `inUse`, `postpaid` and `result` to a record of the
+    /// window. Before it returns, it copies the values of the record back to these three arguments.
+    /// Returns 1, or 0 if the logic object does not exist.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
-    /// Updates every visible string to the current language, except replies.
+    /// Updates all visible strings except replies to the current language.
     void SetLanguage();
     static QString tr(const QString &key);
 

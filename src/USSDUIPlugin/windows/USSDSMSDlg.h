@@ -29,14 +29,12 @@ struct CCommandWidget {
     QLabel *resultLabel = nullptr;
 };
 
-/**
- * The window of the operator's services. A tree lists the services. The controls of the selected
- * service are shown next to the tree, and its button sends a USSD command or a short message. All
- * functions must be called from the GUI thread.
- *
- * The tree and the controls are placed as specified in the configuration file, which the
- * constructor reads. The window is busy from a click that sends a command or short message until
- * the outcome arrives. While it is busy, the tree, the button and the field are disabled.
+/** The window for the operator's services. A tree lists the services. The controls of the selected
+ * service are shown next to the tree. They include a button that sends a USSD command or a short
+ * message, and an input field. All functions must be called from the GUI thread. The tree and the
+ * controls are placed as specified in the configuration file, which the constructor reads. When the
+ * user sends a command or a short message, the window becomes busy and remains busy until the
+ * outcome arrives. Meanwhile, the tree, the button and the input field are disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {
@@ -55,7 +53,7 @@ public:
     bool ReadFile(QXmlStreamReader &reader);
     /// Reads one "Dialog" element. The reader must be at its start element.
     void ReadWidgetInfo(QXmlStreamReader &reader);
-    /// Replaces the rows of the tree. SetLanguage() sets their texts.
+    /// Replaces the rows of the tree. SetLanguage() sets the strings of the rows.
     void InitTree();
     /// Places the tree and selects the current service in the tree.
     void SetTreeGeometry();
@@ -138,8 +136,8 @@ private:
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
     QRegExpValidator *m_pValidator;
-    QList<QWidget *> m_listWidgets; // the labels, the field and the button in the order of Position
-    // Copies of the controls in m_listWidgets, because the group may be replaced in the meantime.
+    QList<QWidget *> m_listWidgets; // labels, input field and button, in the order of Position
+    // Copies of the controls in m_listWidgets, because the original group may be replaced.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;

@@ -43,8 +43,8 @@ public:
     /// returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
-    /// Shows a modal window, whose frame blocks its parent. Returns immediately. Returns 1 if the
-    /// window was shown, otherwise 0.
+    /// Shows a window in a separate frame, which is modal to the host's main window. Returns
+    /// immediately. Returns 1 if the window was shown, otherwise 0.
     int doModal(PAID_TYPE type);
     void Hide();
     void FitSize(QRect &rect);
