@@ -16,8 +16,8 @@ const char OPERATOR_CODES[] = "operator-codes/";
 const char DETECTS_PAID_TYPE[] = "detect-paid-type";
 const char GEOMETRY[] = "geometry";
 
-/// Removes an incomplete lock file of Qt, which remains if a program is killed while it writes the
-/// lock file. Otherwise, the next program would wait 30 s until Qt treats the lock as stale.
+/// Removes an incomplete lock file of Qt, which remains if the program is killed while it writes
+/// this file. Otherwise, the next program would wait 30 s until Qt treats the lock as stale.
 void removeUnfinishedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QLatin1String(".lock"));
@@ -34,7 +34,7 @@ DashboardSettings::DashboardSettings()
     removeUnfinishedLock(file());
 }
 
-// Makes the file private. The program's file mode mask affects only new files.
+// Also makes an existing file private, because the program's file mode mask affects only new files.
 DashboardSettings::~DashboardSettings()
 {
     m_settings.sync();

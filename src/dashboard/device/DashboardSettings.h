@@ -10,7 +10,7 @@
 namespace Dashboard
 {
 
-/** The settings of the dashboard. They are stored in a file that only its owner can read. */
+/** The settings of the dashboard, which are stored in a file that only its owner can read. */
 class DashboardSettings
 {
 public:
@@ -18,18 +18,19 @@ public:
     /// Writes unsaved changes.
     ~DashboardSettings();
 
-    QString language() const; // an ISO 639-1 code; empty if the user has never chosen a language
+    QString language() const; // an ISO 639-1 code; empty if the user has never selected a language
     void setLanguage(const QString &code);
-    /// Returns the device that was chosen most recently, or the automatic choice if no device was
-    /// chosen. Also reads the key of earlier versions, which stored only a scenario.
+    /// Returns the device that the user selected last, or the automatic choice if the user has not
+    /// selected a device. Also reads the key of earlier versions, which stored only a scenario.
     DeviceChoice device() const;
     void setDevice(const DeviceChoice &choice);
     /// Returns the user's decision about the operator's codes for SIMs of the given home network
-    /// (MCC and MNC). The decision is the string that the caller has stored, or an empty string if
-    /// there is no decision.
+    /// (MCC and MNC). The decision is the string that the caller has stored. Returns an empty
+    /// string if the user has not made a decision.
     QString operatorCodes(const QString &homeNetwork) const;
     void setOperatorCodes(const QString &homeNetwork, const QString &word);
-    /// Returns true if the user lets the dashboard find out whether a SIM is prepaid or postpaid.
+    /// Returns true if the user permits the dashboard to query whether a SIM is prepaid or
+    /// postpaid.
     bool detectsPaidType() const;
     void setDetectsPaidType(bool detects);
     QByteArray geometry() const; // the geometry of the main window

@@ -21,9 +21,8 @@ struct DeviceChoice {
     static DeviceChoice simulated(const QString &file);
     static DeviceChoice modem(const QString &equipmentId);
 
-    /// The following two functions convert the choice to a string and back: "automatic",
-    /// "simulated:FILE" or "modem:IDENTIFIER". Any other string is converted to the automatic
-    /// choice.
+    /// Convert the choice to a string and back. The string is "automatic", "simulated:FILE" or
+    /// "modem:IDENTIFIER". Any other string is converted to the automatic choice.
     QString word() const;
     static DeviceChoice fromWord(const QString &word);
 
@@ -32,8 +31,8 @@ struct DeviceChoice {
         return kind == other.kind && name == other.name;
     }
 
-    /// Selects the chosen device. Returns an empty string on success. On failure, has no effect and
-    /// returns the error in the scenario file with its line number.
+    /// Makes the device SDK use the selected device, and returns an empty string. If the scenario
+    /// file contains an error, has no effect and returns the error with its line number.
     QString use() const;
 };
 

@@ -67,8 +67,7 @@ const char *adviceOnProblem(int problem)
 }
 
 /// Returns the text key of the advice on the state of a modem, or null if the user cannot do
-/// anything. There is no advice for a simulated device, because it becomes ready again without any
-/// action.
+/// anything. There is no advice for a simulated device, because it becomes ready again by itself.
 const char *adviceOnState(const DeviceStatus &status)
 {
     if (status.state == TKSV_DEVICE_SIM_LOCKED)

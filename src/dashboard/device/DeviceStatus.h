@@ -20,7 +20,7 @@ struct DeviceStatus {
     QString source;         // the scenario file, or the modem's manufacturer and model
     bool isLooking = false; // ModemManager has not reported its modems yet
     bool hasForeignSession = false; // another program has opened a USSD session
-    bool waitsForTurn = false;      // a request waits for another program of the same user
+    bool waitsForTurn = false;      // a request is waiting for another program of the same user
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }
@@ -28,21 +28,21 @@ struct DeviceStatus {
     bool isRegistered() const;
     /// Returns true if the SIM waits for a PIN and allows another attempt.
     bool waitsForPin() const;
-    /// Returns true if the device may become ready without the user's help.
+    /// Returns true if the device may become ready without any action of the user.
     bool mayBecomeReady() const;
-    /// Returns true if looking for modems again may help.
+    /// Returns true if searching for modems again may solve the problem.
     bool mayBeFound() const;
     QString operatorText() const;
     QString signalText() const;
     /// Returns the IMSI, or the reason why it is not available.
     QString simText() const;
-    /// Returns the reason why no commands can be sent, or an empty string if commands can be sent.
+    /// Returns the reason why commands cannot be sent, or an empty string if they can be sent.
     QString troubleText() const;
     /// Returns a description of the problem and of the action that the user can take. Returns an
-    /// empty string if the user cannot do anything.
+    /// empty string if the user cannot solve the problem.
     QString adviceText() const;
-    /// Returns a message with the number of remaining PIN attempts, and a warning before the last
-    /// attempt. Returns an empty string if the number is unknown.
+    /// Returns a message with the number of remaining PIN attempts, which includes a warning before
+    /// the last attempt. Returns an empty string if the number is unknown.
     QString triesText() const;
     QString sourceText() const;
 };

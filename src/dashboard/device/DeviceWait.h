@@ -8,14 +8,15 @@ class DeviceWatcher;
 class SignalWatcher;
 struct DeviceChoice;
 
-/** The conditions of a wait for a device. */
+/** Waits for states of the device. */
 struct DeviceWait {
     const DeviceWatcher &device;
-    const SignalWatcher &interruption; // a signal ends every wait
-    int limit;                         // milliseconds
+    const SignalWatcher &interruption; // ends every wait when a signal arrives
+    int limit;                         // the time limit in milliseconds
 
-    /// Waits while the device may become ready by itself. With the automatic choice, waits also
-    /// while another modem may become ready. Processes events while it waits.
+    /// Waits as long as the device may become ready without any action of the user. With the
+    /// automatic choice, also waits as long as any other modem may become ready. Processes events
+    /// in the meantime.
     void untilReady(const DeviceChoice &choice) const;
     /// Enables the device and waits until it is enabled. Returns false if it cannot be enabled.
     bool untilEnabled() const;

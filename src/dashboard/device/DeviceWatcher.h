@@ -11,15 +11,14 @@
 namespace Dashboard
 {
 
-/** The status of the current device, and the modems that can be used. */
+/** The status of the current device, and the modems that the user can select. */
 struct DeviceReading {
     DeviceStatus status;
     QList<Modem> modems;
 };
 
-/**
- * Keeps the device's status up to date. All functions must be called from the GUI thread. Only one
- * watcher may exist at a time, because the SDK accepts only one call-back.
+/** Keeps the status of the device up to date. All functions must be called from the GUI thread.
+ * Only one watcher may exist at a time, because the SDK accepts only one call-back.
  */
 class DeviceWatcher : public QObject
 {
@@ -31,8 +30,8 @@ public:
     const DeviceStatus &status() const { return m_reading.status; }
     const QList<Modem> &modems() const { return m_reading.modems; }
 
-    /// Replaces the source of the status in order to demonstrate devices that are not available.
-    /// Null restores the initial source, which is the device SDK.
+    /// Replaces the source of the status, in order to show the states of devices that are not
+    /// available. A null function restores the initial source, which is the device SDK.
     void readFrom(const std::function<DeviceReading()> &source);
 
 public slots:

@@ -8,10 +8,10 @@
 namespace Dashboard
 {
 
-/// Returns how the newest request failed. May be called on any thread.
+/// Returns the failure of the newest request. May be called from any thread.
 TKSV_FailureInfo lastFailure();
 
-/// Returns the failure in sentences of the user's language, with the closing text of the network if
+/// Returns an error message in the user's language, including the closing message of the network if
 /// there is one. Returns an empty string for TKSV_FAILURE_NONE.
 QString failureWords(const TKSV_FailureInfo &failure);
 

@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** A modem that the user can choose. */
+/** A modem that the user can select. */
 struct Modem {
     QString equipmentId;
     QString name; // manufacturer and model; not unique

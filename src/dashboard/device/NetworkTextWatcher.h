@@ -19,11 +19,12 @@ public:
     ~NetworkTextWatcher() override;
 
 public slots:
-    /// Registers the call-back. Messages that have arrived earlier are also reported.
+    /// Registers the call-back. Messages that arrived before are also reported.
     void start();
 
 signals:
-    /// `receivedAt` is in local time. `text` is empty if the text is no longer available.
+    /// Emitted when a message has arrived. `receivedAt` is in local time. `text` is empty if the
+    /// content of the message is no longer available.
     void textReceived(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private slots:

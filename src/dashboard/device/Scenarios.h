@@ -16,9 +16,9 @@ QStringList shipped();
 /// Returns the name of a scenario file as shown in menus.
 QString displayName(const QString &file);
 
-/// Selects the simulated network of the file as the device. An empty name selects the default.
-/// Returns an empty string on success. On failure, has no effect and returns the error in the file
-/// with its line number.
+/// Makes the device SDK use the simulated network of the file, and returns an empty string. An
+/// empty name selects the default network. If the file contains an error, has no effect and returns
+/// the error with its line number.
 QString use(const QString &file);
 
 } // namespace Scenarios

@@ -20,8 +20,9 @@ class NotificationService : public QObject, public INotifyService
 public:
     /// The identifier under which plug-ins find the service.
     static const char *const CLSID;
-    /// The addressees: two parts of a host that need the kind of SIM. In the dashboard, one window
-    /// takes the role of both parts, so it receives each message twice.
+    /// The addressees of the messages: two components of a host that show the type of contract. In
+    /// the dashboard, one window has the role of both components and therefore receives each
+    /// message twice.
     static const char *const ADDRESSEES[2];
 
     explicit NotificationService(QObject *parent = nullptr);
@@ -30,8 +31,8 @@ public:
                NotifyParam lParam) override;
 
 signals:
-    /// Emitted once for each addressee when the network has reported the kind of SIM or did not
-    /// reply in time.
+    /// Emitted once for each addressee when the network has reported the type of contract or did
+    /// not reply in time.
     void paidTypeTold(PaidType type);
 };
 

@@ -97,7 +97,7 @@ void OperatorCodes::look()
     const bool isSimulated = m_device->status().isSimulated;
     const QString before = m_network;
     if (isSimulated != m_isSimulated)
-        m_network.clear(); // another device has another SIM
+        m_network.clear(); // a different device has a different SIM
     m_network = currentNetwork();
     if (m_hasLooked && m_network == before && isSimulated == m_isSimulated)
         return;
@@ -204,8 +204,8 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // Keep the state of the unfiltered choice. If several operators are possible, the choice is
-    // ambiguous even if only one of them has codes.
+    // Keep the state of the unfiltered choice, because several possible operators are ambiguous
+    // even if only one of them has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
 }

@@ -25,10 +25,10 @@ struct OperatorPlaces {
     static OperatorPlaces ofUser();
 };
 
-/**
- * Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes are
- * those of an operator, taken from the operator database. Without an operator, the sample codes are
- * used for a simulated network, and no codes for a modem. Must be used on the GUI thread.
+/** Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes of
+ * an operator are taken from the operator database. If no operator is selected, a simulated network
+ * uses the sample codes, and a modem uses no codes. All functions must be called from the GUI
+ * thread.
  */
 class OperatorCodes : public QObject
 {
@@ -49,12 +49,13 @@ public:
     QString operatorInUse() const;
     /// Returns true if the device is a simulated network.
     bool isSimulated() const { return m_isSimulated; }
-    /// Returns true if the sample codes are in use, which suit a simulated network only.
+    /// Returns true if the sample codes are in use, which are suitable only for a simulated
+    /// network.
     bool areSample() const;
     /// Returns true if no codes are in use, because the operator of the SIM is not set up.
     bool areAbsent() const;
-    /// Returns true if the codes in use belong to the operator of the SIM. They were chosen by the
-    /// user, or by the system integrator with $USSD_PLUGIN_LIBRARY_PATH.
+    /// Returns true if the codes in use belong to the operator of the SIM. Such codes were selected
+    /// by the user, or by the system integrator with $USSD_PLUGIN_LIBRARY_PATH.
     bool areOfOperator() const;
     /// Returns true if the user has decided which codes to use for this SIM's network.
     bool isDecided() const;
@@ -68,18 +69,18 @@ public:
     bool hasDatabase() const;
 
     /// Writes the operator's codes to the folder of the SIM's network and selects this folder. If
-    /// the folder contains manually edited files, they are renamed if `setAside` is true.
-    /// Otherwise, nothing is written.
+    /// the folder contains manually edited files and `setAside` is false, does not write anything.
+    /// If `setAside` is true, keeps the edited files in their folder.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
-    /// Selects no operator for this SIM's network.
+    /// Records that no operator is to be used for this SIM's network.
     void decline();
 
 public slots:
-    /// Reads the SIM's network and selects the plug-in's folder for this network.
+    /// Reads the network of the SIM and selects the plug-in's folder for this network.
     void look();
 
 signals:
-    /// Emitted when the SIM's network has changed. Messages about the previous network are then
+    /// Emitted when the SIM's network has changed. Notices about the previous network are then
     /// outdated.
     void networkChanged();
     /// Emitted when the return value of CommonUtils::GetPluginLibraryPath() or the files in the

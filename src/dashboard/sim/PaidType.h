@@ -6,7 +6,7 @@
 namespace Dashboard
 {
 
-/** The kind of contract to which a SIM belongs. */
+/** The type of contract to which a SIM belongs. */
 enum class PaidType { Unknown, Prepaid, Postpaid };
 
 /// Returns "Prepaid" or "Postpaid" in the user's language, or an empty string if the type is

@@ -13,13 +13,13 @@ namespace Dashboard
 namespace
 {
 
-// When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports
-// their failure. If a query were sent within this time, this report would be mistaken for the reply
-// to the query.
+// When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports the
+// failure of the commands. If a query were sent in the meantime, the failure would be mistaken for
+// the reply to the query.
 const int SETTLING_TIME = 200; // ms
 
-// The plug-in itself reports a time-out, unless the window that sent the query has been deleted in
-// the meantime.
+// The additional time in which the plug-in can report a time-out. The plug-in does not report a
+// time-out if the window that sent the query has been deleted.
 const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
@@ -55,8 +55,9 @@ void PaidTypeFinder::tryToAsk()
     setState(PaidType::Unknown, inUse && wasSent);
 }
 
-// Stores the answer. An unexpected answer belongs to a SIM that was removed, and is ignored. The
-// plug-in reports "postpaid" if the query failed, so only the answer to a real reply counts.
+// Stores the result. A result that is not expected belongs to a SIM that was removed, and is
+// ignored. If the query failed, the plug-in reports "postpaid", so the result is used only after a
+// real reply.
 void PaidTypeFinder::takeAnswer(PaidType type)
 {
     if (isAsking())

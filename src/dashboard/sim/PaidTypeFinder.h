@@ -14,10 +14,9 @@ namespace Dashboard
 class LoadedPlugin;
 class ReplyTap;
 
-/**
- * Makes the plug-in query the network once for each SIM to determine whether the SIM is prepaid or
- * postpaid. The plug-in first ends an open session on the device, so the query is delayed while the
- * user needs the device. All functions must be called from the GUI thread and return immediately.
+/** Makes the plug-in query once for each SIM whether the SIM is prepaid or postpaid. The query ends
+ * any open session on the device, and is therefore delayed while the user needs the device. All
+ * functions must be called from the GUI thread and return immediately.
  */
 class PaidTypeFinder : public QObject
 {
@@ -27,7 +26,7 @@ public:
     PaidTypeFinder(LoadedPlugin *plugin, ReplyTap *replies, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
-    /// Returns true if the query was sent and the reply is pending.
+    /// Returns true if the query has been sent and its reply is pending.
     bool isAsking() const { return m_timeLimit.isActive(); }
 
     /// Discards the result, so that the query is sent for the current SIM.

@@ -61,7 +61,7 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// Also notifies the tap, because the message may have arrived before the tap was installed.
+// Also notifies the reply tap, because the message may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();
@@ -74,8 +74,8 @@ void SimFollower::onDeviceLost()
     m_finder.restart();
 }
 
-/// Sends the query, but not while the user needs the device or a menu waits for an answer. The
-/// query would end the user's session.
+/// Sends the query. Does nothing while the user needs the device or a menu is waiting for an
+/// answer, because the query would end the user's session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

@@ -29,20 +29,20 @@ public:
     SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent = nullptr);
 
     /// Returns "Prepaid", "Postpaid" or a message that the query is in progress, in the user's
-    /// language. Returns an empty string if the kind of SIM is unknown.
+    /// language. Returns an empty string if the type of contract is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
-    /// Sets the function that decides whether the network may be queried. Without it, no query is
-    /// sent.
+    /// Sets the function that determines whether the query may be sent. If no function is set, the
+    /// query is not sent.
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
     /// Starts to follow the SIM. Must be called each time the plug-in has been loaded or restarted.
     void start();
-    /// Must be called when the network waits for an answer to a network-initiated message. The
-    /// query is not sent until that session has ended.
+    /// Must be called when the network starts to wait for an answer to a network-initiated message.
+    /// The query is not sent until this session has ended.
     void questionCame();
-    /// Sends the query if it is due and allowed. Must be called when it has become allowed.
+    /// Sends the query if it is due and permitted. Must be called when the query becomes permitted.
     void ask();
 
 signals:

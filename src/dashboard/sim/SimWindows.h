@@ -25,8 +25,9 @@ enum SimWindow {
 ///
 /// - all windows, if the plug-in's configuration leaves the choice to the user;
 /// - the windows that the configuration lists for the IMSI;
-/// - the general window and the services, if the IMSI is not listed or is empty. These windows are
-///   suitable for any subscriber, whereas an account window would send codes of another contract.
+/// - the general window and the services window, if the IMSI is not listed or is empty. These
+///   windows are suitable for every subscriber, whereas an account window could send codes that are
+///   intended for another type of contract.
 int windowsForSim(IUSSD *ussd, const QString &imsi);
 
 } // namespace Dashboard

@@ -49,7 +49,7 @@ QString CommandNotice::pendingText() const
                                                          : "COMMAND_PENDING");
 }
 
-// The plug-in receives an empty reply, which ends its wait.
+// Cancels the command. The plug-in then receives an empty reply and stops waiting.
 void CommandNotice::cancel()
 {
     TKSV_Device_CancelRequest();

@@ -9,10 +9,9 @@ namespace Dashboard
 
 class DeviceWatcher;
 
-/**
- * Shows that the command of the general window is in flight, with a button to cancel it, and then
- * why it failed. The line is empty if the command was answered. It keeps its place while it is
- * empty, so that the general window does not move.
+/** A line below the general window. While a command is in flight, the line shows this and contains
+ * a button to cancel the command. If the command has failed, the line shows the reason. Otherwise,
+ * the line is empty, but still occupies its space, so that the general window does not move.
  */
 class CommandNotice : public NoticeBar
 {
@@ -22,11 +21,12 @@ public:
     explicit CommandNotice(const DeviceWatcher *device, QWidget *parent = nullptr);
 
 public slots:
-    /// Must be called when a command was sent or has ended.
+    /// Updates the line. Must be called after a command was sent or has ended.
     void look();
-    /// Removes the failure, which belongs to a device or page that is no longer in use.
+    /// Removes the failure. Must be called when the device or the page of the failed command is no
+    /// longer in use.
     void forget();
-    /// Updates the texts after a change of the device or the language.
+    /// Updates the strings after a change of the device or the language.
     void update();
 
 private slots:

@@ -33,8 +33,8 @@ void emphasise(QLabel *label)
     label->setFont(font);
 }
 
-/// Shows the text, elided if necessary. The text comes from the network, so it must affect neither
-/// the width of the header nor the format of the tool tip.
+/// Shows the text, which is elided if necessary. Since the text comes from the network, it must
+/// affect neither the width of the header nor the format of the tool tip.
 void setElided(QLabel *label, const QString &text)
 {
     const QFontMetrics metrics(label->font());

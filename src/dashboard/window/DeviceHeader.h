@@ -21,7 +21,7 @@ public:
 
     /// Shows the status. Must also be called after a language change.
     void showStatus(const DeviceStatus &status);
-    /// Shows the kind of SIM next to the operator. An empty string hides the label.
+    /// Shows the type of contract, `text`, next to the operator. An empty string hides the label.
     void showPaidType(const QString &text);
 
 private:

@@ -11,22 +11,23 @@ class QActionGroup;
 namespace Dashboard
 {
 
-/** A menu of the devices: the automatic choice, the modems and the simulated networks. */
+/** The menu in which the user selects a device: the automatic choice, a modem or a simulated
+ * network. */
 class DeviceMenu : public QMenu
 {
     Q_OBJECT
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the selected choice and the modems to list. An open menu does not change until it is
-    /// opened again, so that menu items do not move under the mouse pointer.
+    /// Sets the current choice and the modems to list. An open menu does not change until the user
+    /// opens it again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
-    /// Sets the check mark of the entry for the prepaid/postpaid query.
+    /// Sets the check mark of the menu item for the prepaid/postpaid query.
     void setDetection(bool isOn);
 
 public slots:
-    /// Updates the texts after a language change.
+    /// Updates the strings after a language change.
     void retranslate();
 
 signals:

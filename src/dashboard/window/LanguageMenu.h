@@ -8,7 +8,7 @@ class QActionGroup;
 namespace Dashboard
 {
 
-/** A menu of the languages, each with its native name. */
+/** The menu in which the user selects a language. Each language is listed with its native name. */
 class LanguageMenu : public QMenu
 {
     Q_OBJECT

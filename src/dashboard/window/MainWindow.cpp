@@ -54,7 +54,7 @@ QDateTime ownCodesTime()
     return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
 }
 
-/// Returns true if a window of this PAID_TYPE ends an open session on the device when it appears.
+/// Returns true if opening a window of this PAID_TYPE ends an open session on the device.
 bool endsSession(int paidType)
 {
     return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
@@ -108,8 +108,8 @@ void MainWindow::followSim()
     connect(m_deviceMenu, &DeviceMenu::detectionToggled, this, &MainWindow::rememberDetection);
 }
 
-/// Returns true if the prepaid/postpaid query may be sent. A modem sends only a code of the SIM's
-/// operator, because the same code may buy something in another network.
+/// Returns true if the prepaid/postpaid query may be sent. A modem may send only a code that
+/// belongs to the SIM's operator, because the same code may buy something in another network.
 bool MainWindow::mayDetectPaidType() const
 {
     if (m_device.status().isSimulated)
@@ -158,8 +158,8 @@ void MainWindow::beginAnewIfDue()
         restartPlugin();
 }
 
-/// Restarts the plug-in if the user has saved codes in the editor. The plug-in itself creates no
-/// preset buttons later if there were none at first.
+/// Restarts the plug-in if the user has saved the first codes in the editor. If there were no
+/// preset buttons when the plug-in created the window, it does not create any later.
 void MainWindow::showFirstOwnCodes()
 {
     const bool isWithoutPresets =
@@ -226,7 +226,7 @@ PluginFailure MainWindow::loadPlugin()
 PluginFailure MainWindow::restartPlugin()
 {
     m_isRestartDue = false;
-    m_windows = 0; // the restart has deleted the page
+    m_windows = 0; // the restart has deleted the plug-in's windows
     return startWith(m_plugin->restart());
 }
 
@@ -263,15 +263,14 @@ void MainWindow::showPage(bool shown)
         m_page->hidePage();
     m_buttons->setPageShown(shown);
     const GeneralWindow general(page());
-    // The host must handle the close button of an embedded window, because the plug-in does not
-    // handle it.
+    // The host must handle the Close button of an embedded window, because the plug-in does not.
     if (QPushButton *close = general.closeButton())
         connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
     followCommands(general);
 }
 
-/// Follows the transcript, because a command that is rejected at once does not disable the entry
-/// field.
+/// Observes the transcript in addition to the command field, because a command that is rejected
+/// immediately does not disable the field.
 void MainWindow::followCommands(const GeneralWindow &general)
 {
     general.hideUnusedPresets();
@@ -306,9 +305,9 @@ void MainWindow::openAwaitedFrame()
         openFrameNow(paidType);
 }
 
-/// Shows the general window, whose input field accepts the answer. This does not end the session. A
-/// window that is already visible is left unchanged, so that the text that the user is typing is
-/// kept.
+/// Shows the general window, in which the user can type the answer. Showing this window does not
+/// end the session. A window that is already visible is left unchanged, so that the input of the
+/// user is kept.
 void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
                                  bool waitsForAnswer)
 {

@@ -45,10 +45,10 @@ public:
     MainWindow(LoadedPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
-    /// Selects the simulated network of the scenario file. An empty name selects the default. On
-    /// failure, shows an error, keeps the previous device and returns false.
+    /// Selects the simulated network of the scenario file. An empty name selects the default
+    /// network. On failure, shows an error, keeps the previous device and returns false.
     bool useScenario(const QString &file);
-    /// Shows the choice, which must already be in effect.
+    /// Shows that this device is selected. The device must already be in use.
     void setDevice(const DeviceChoice &choice);
     /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
@@ -59,17 +59,17 @@ public:
     const SimFollower &sim() const { return m_sim; }
 
 public slots:
-    /// Shows a problem, for example settings that cannot be written, in the window and on standard
-    /// error.
+    /// Reports a problem in the window and on standard error, for example that the settings cannot
+    /// be written.
     void showProblem(const QString &text);
-    /// Loads the installed plug-in and shows its general window in the page. A failure is returned
-    /// and also shown in the page.
+    /// Loads the installed plug-in and shows its general window in the page. If this fails, shows
+    /// the failure in the page and returns it.
     PluginFailure loadPlugin();
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
-    /// Closes the window, even if a frame or a message box is open, and ends the program.
+    /// Closes the window and ends the program, even if a frame or a message box is open.
     void quit();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
     /// opening the frame would cancel the prepaid/postpaid query.
@@ -116,10 +116,12 @@ private:
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
-    bool m_isDetectionOn = false; // the user or the integrator allows the prepaid/postpaid query
-    bool m_isRestartDue = false;  // the plug-in's folder has changed since it was read
-    QDateTime m_ownCodesTime;     // of the file with the user's codes that the plug-in has read
-    int m_windows = 0;            // the windows on offer, a set of SimWindow
+    bool m_isDetectionOn =
+        false; // the user or the integrator has enabled the prepaid/postpaid query
+    bool m_isRestartDue = false; // the plug-in's folder has changed since the plug-in read it
+    QDateTime
+        m_ownCodesTime; // modification time of the file with the user's codes when it was read
+    int m_windows = 0;  // the windows that are offered, a combination of SimWindow flags
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;

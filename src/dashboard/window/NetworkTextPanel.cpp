@@ -32,7 +32,8 @@ bool isCode(const QString &word)
     return word.contains(QLatin1Char('*')) || word.contains(QLatin1Char('#'));
 }
 
-/// Adds direction marks so that codes are read from left to right in a right-to-left paragraph.
+/// Adds direction marks, so that codes are displayed from left to right in a right-to-left
+/// paragraph.
 QString withReadableCodes(const QString &text)
 {
     QString result;

@@ -23,13 +23,14 @@ class NetworkTextPanel : public QFrame
 public:
     explicit NetworkTextPanel(QWidget *parent = nullptr);
 
-    /// Adds a message. An empty `text` means that the text is no longer available.
+    /// Adds a message. An empty `text` means that the content of the message is no longer
+    /// available.
     void add(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
-    /// Updates the panel's own texts after a language change.
+    /// Updates all strings except the messages after a language change.
     void retranslate();
 
 public slots:
-    /// Removes the hint that the network waits for an answer.
+    /// Removes the hint that the network is waiting for an answer.
     void endQuestion();
     void forget();
 

@@ -11,9 +11,8 @@ class QPushButton;
 namespace Dashboard
 {
 
-/**
- * A line in the main window with a notice and buttons to respond to the notice. The line is visible
- * only while it has a text, and does not take the focus.
+/** A line in the main window with a notice, and with buttons to respond to the notice. The line is
+ * visible only while it contains a notice. It does not take the focus.
  */
 class NoticeBar : public QFrame
 {
@@ -21,15 +20,15 @@ class NoticeBar : public QFrame
 public:
     explicit NoticeBar(const char *objectName, QWidget *parent = nullptr);
 
-    /// Shows the text as plain text. An empty string hides the line.
+    /// Sets the notice, which is shown as plain text. An empty string hides the line.
     void setText(const QString &text);
     QString text() const;
-    /// Makes the line as low as its content allows.
+    /// Reduces the height of the line to the minimum that its content requires.
     void setCompact();
-    /// Adds a button after the text. The bar owns the button, which is hidden until setButtonText()
-    /// sets its text.
+    /// Adds a button after the notice. The bar owns the button, which is hidden until
+    /// setButtonText() sets its label.
     QPushButton *addButton(const char *objectName);
-    /// Sets the text and shows the button. An empty string hides the button.
+    /// Sets the label of the button and shows the button. An empty string hides the button.
     static void setButtonText(QPushButton *button, const QString &text);
 
 private:

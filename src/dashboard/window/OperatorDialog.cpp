@@ -65,8 +65,8 @@ void OperatorDialog::layOut()
     m_list->setFocus();
 }
 
-/// Selects the current operator. If the operator is not in the list, no row is selected, and the OK
-/// button is disabled.
+/// Selects the row of the current operator. If the operator is not in the list, no row is selected,
+/// and the OK button is disabled.
 void OperatorDialog::select(const QString &current)
 {
     for (int i = 0; i < m_candidates.size(); ++i) {

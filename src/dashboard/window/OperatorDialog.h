@@ -12,25 +12,25 @@ class QPushButton;
 namespace Dashboard
 {
 
-/**
- * Lets the user choose the codes of one of several operators, or of none of them.
+/** The dialog in which the user selects an operator, whose codes are then used, or no operator.
  */
 class OperatorDialog : public QDialog
 {
     Q_OBJECT
 public:
     /// `current` is the name of the operator whose codes are in use, or empty. `noneKey` is the
-    /// text key of the last row, which stands for no operator.
+    /// text key of the last row, which represents no operator.
     OperatorDialog(const QString &network, const QList<Provisioning::Provider> &candidates,
                    const QString &current, const char *noneKey, QWidget *parent);
 
-    /// Returns true if the user chose an operator, false for the last row.
+    /// Returns true if the user selected an operator. Returns false if the user selected the last
+    /// row.
     bool choosesOperator() const;
-    /// Returns the chosen operator.
+    /// Returns the selected operator.
     Provisioning::Provider provider() const;
 
 public slots:
-    /// Updates the texts after a language change.
+    /// Updates the strings after a language change.
     void retranslate();
 
 private slots:
@@ -46,7 +46,7 @@ private:
     const QList<Provisioning::Provider> m_candidates;
     const char *const m_noneKey;
     QLabel *m_question;
-    QListWidget *m_list; // the candidates, followed by the row for no operator
+    QListWidget *m_list; // the candidates, followed by the row that represents no operator
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

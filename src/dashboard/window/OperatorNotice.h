@@ -12,10 +12,9 @@ namespace Dashboard
 class OperatorCodes;
 class OperatorDialog;
 
-/**
- * Proposes an operator's codes, once for each home network of a SIM. The user can choose an
- * operator if several are possible or none is known, and can change the decision later with
- * choose().
+/** A line that suggests an operator's codes, once for each home network of a SIM. If several
+ * operators are possible or none is known, the user can select one. choose() lets the user change
+ * the decision later.
  */
 class OperatorNotice : public NoticeBar
 {
@@ -27,9 +26,9 @@ public:
 public slots:
     /// Suggests codes unless the user has already decided for this SIM's network.
     void propose();
-    /// Opens the dialog in which the user chooses an operator.
+    /// Opens the dialog in which the user selects an operator.
     void choose();
-    /// Updates the texts after a language change.
+    /// Updates the strings after a language change.
     void retranslate();
 
 private slots:
@@ -50,14 +49,14 @@ private:
     void say(const char *key);
 
     OperatorCodes *const m_codes;
-    QPushButton *m_takeButton;    // reads "Choose" if there are several operators
-    QPushButton *m_declineButton; // reads "Close" if there is nothing to decide
+    QPushButton *m_takeButton;    // labelled "Choose" if there are several operators
+    QPushButton *m_declineButton; // labelled "Close" if there is nothing to decide
     QPointer<OperatorDialog> m_dialog;
     State m_state = Nothing;
     QString m_subject; // the name of an operator
     QString m_problem;
     Provisioning::Provider m_proposed;
-    Provisioning::Provider m_chosen; // the operator chosen in the dialog
+    Provisioning::Provider m_chosen; // the operator that was selected in the dialog
     bool m_isOperatorChosen = false;
 };
 

@@ -23,7 +23,7 @@ public:
 
     void showPage();
     void hidePage();
-    /// Shows a plain text instead of the page. An empty string leaves the area empty.
+    /// Shows a message as plain text instead of the page. An empty string leaves the area empty.
     void showText(const QString &text);
     /// Returns the parent of the plug-in's window.
     QWidget *canvas() const { return m_canvas; }

@@ -29,8 +29,8 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
-/// Overwrites the memory of the string. The string must not be shared implicitly with another
-/// QString, because otherwise only a copy is overwritten.
+/// Overwrites the memory of the string. The string must not be implicitly shared with another
+/// QString. Otherwise, only a copy would be overwritten.
 void writeOver(QString *secret)
 {
     secret->fill(QLatin1Char('0'));
@@ -123,8 +123,8 @@ void PinDialog::showTries()
     m_tries->setVisible(!m_tries->text().isEmpty());
 }
 
-/// Shows the message whose text key is `key`. Null clears the message. The dialog keeps its width
-/// and increases its height if necessary.
+/// Shows the message whose text key is `key`. A null key clears the message. The dialog keeps its
+/// width and increases its height if necessary.
 void PinDialog::say(const char *key)
 {
     m_messageKey = key;

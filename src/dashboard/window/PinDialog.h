@@ -14,9 +14,9 @@ namespace Dashboard
 class DeviceWatcher;
 
 /**
- * Requests the PIN of a locked SIM. The dialog remains open after a wrong PIN and closes when the
- * SIM no longer waits for a PIN. The PIN is not stored. When the PIN has been sent and when the
- * dialog is closed, the field is cleared and the memory of the PIN is overwritten. All functions
+ * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
+ * no longer waits for a PIN. The PIN is not stored. When the dialog has sent the PIN and when it
+ * closes, it clears the input field and overwrites the memory that contained the PIN. All functions
  * must be called from the GUI thread.
  */
 class PinDialog : public QDialog
@@ -27,11 +27,11 @@ public:
     PinDialog(const DeviceWatcher *device, QWidget *parent);
     ~PinDialog() override;
 
-    /// The time limit for the SIM to accept or reject the PIN, in milliseconds.
+    /// The time limit for checking the PIN, in milliseconds.
     static const int ANSWER_LIMIT = 30000;
 
 public slots:
-    /// Updates the texts after a language change.
+    /// Updates the strings after a language change.
     void retranslate();
     void done(int result) override;
 

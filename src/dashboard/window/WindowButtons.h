@@ -16,9 +16,10 @@ class WindowButtons : public QWidget
 public:
     explicit WindowButtons(QWidget *parent = nullptr);
 
-    /// Updates the texts after a language change.
+    /// Updates the strings after a language change.
     void retranslate();
-    /// Shows the buttons of these windows, a combination of SimWindow flags, and hides the others.
+    /// Shows the buttons for `windows`, a combination of SimWindow flags, and hides the other
+    /// buttons.
     void offer(int windows);
     /// Sets whether the general window is shown in the page. Does not emit a signal.
     void setPageShown(bool shown);
