@@ -22,7 +22,7 @@ UssdProcess::~UssdProcess()
     waitForFinished();
 }
 
-/// Runs in the new process before the program.
+/// Called in the child process before the program is executed.
 void UssdProcess::setupChildProcess()
 {
     for (auto stream = m_streams.constBegin(); stream != m_streams.constEnd(); ++stream)

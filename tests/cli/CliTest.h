@@ -8,13 +8,12 @@
 
 /** The result of a finished program. */
 struct Run {
-    int code = -1; // -1 if the program did not end, or if a signal ended it
+    int code = -1; // the exit code; -1 if the program did not end, or if a signal ended it
     QString out;
     QString error;
 };
 
-/**
- * A running `ussd`. Its standard output can be replaced with a file descriptor of the test.
+/** A `ussd` process. Its standard streams can be replaced with file descriptors of the test.
  */
 class UssdProcess : public QProcess
 {
@@ -25,14 +24,14 @@ public:
 
     /// Replaces a standard stream of the program. Must be called before start().
     void replaceStream(int stream, int file) { m_streams.insert(stream, file); }
-    /// Starts the program with a signal ignored, as nohup does.
+    /// Makes start() run the program with this signal ignored, as nohup does.
     void ignoreSignal(int signal) { m_ignoredSignal = signal; }
     void start();
     /// Waits until standard output or standard error contains the text.
     bool waitForOutput(const QString &text);
     bool waitForError(const QString &text);
     void sendSignal(int signal);
-    /// Waits for the end of the program.
+    /// Waits until the program has ended.
     Run finish();
 
 protected:
@@ -47,21 +46,22 @@ private:
     QString m_error;
 };
 
-/** The base class of the tests that run `ussd`. */
+/** The base class of tests that run `ussd`. */
 class CliTest : public UssdTest
 {
 protected:
-    /// Runs the program to its end.
+    /// Runs the program and waits until it has ended.
     static Run run(const QStringList &arguments, const QByteArray &input = QByteArray());
-    /// Runs the program with the words of the line, which are separated by blanks.
+    /// Runs the program with the arguments in `line`, which are separated by spaces.
     static Run run(const char *line);
     static QStringList words(const char *line);
 };
 
-/// Returns the JSON object on each line of the output. An object is empty if its line is not JSON.
+/// Returns the JSON objects that the lines of the output contain. Returns an empty object for a
+/// line that is not JSON.
 QList<QJsonObject> objectsIn(const QString &output);
 
-/// Compares the exit code, and prints what the program has printed if it is wrong.
+/// Compares the exit code. If it is wrong, prints the output of the program.
 #define COMPARE_EXIT(run, expected)                                                                \
     QVERIFY2((run).code == (expected), qPrintable(QString::fromLatin1("exit code %1\n%2\n%3")      \
                                                       .arg((run).code)                             \

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check_completions.sh PROGRAM ROOT: man page and completions know every option and command of the
-# program, and the completion for bash proposes what fits.
+# check_completions.sh PROGRAM ROOT: checks that the man page and the completions contain every
+# option and command of the program, and that the completion for bash suggests the right words.
 set -u
 program=$1
 root=$2
@@ -11,7 +11,7 @@ complain() {
     faults=1
 }
 
-# ---- every option and command is known everywhere
+# ---- every option and command is in the man page and in the completions
 
 options=$("$program" --help | grep -oE -- '^ +(-[a-z], )?--[a-z-]+' | grep -oE -- '--[a-z-]+')
 commands=$("$program" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]\{1,\}\) .*/\1/p' | sort -u)
@@ -33,7 +33,7 @@ ussd() {
     [ "$*" = modems ] && printf '350000000000017\tExample One\tregistered\n'
 }
 
-# proposes WORDS EXPECTED: the completion of the last word of the line WORDS.
+# proposes WORDS EXPECTED: checks the completion of the last word of the command line WORDS.
 proposes() {
     read -ra COMP_WORDS <<<"$1"
     [ "${1% }" = "$1" ] || COMP_WORDS+=('')

@@ -13,7 +13,8 @@
 
 using namespace Cli;
 
-/** Tests parts of `ussd` that other programs share, or that a whole program cannot show. */
+/** Tests parts of `ussd` that other programs share, or that cannot be tested by running the
+ * program. */
 class PartsTest : public UssdTest
 {
     Q_OBJECT
@@ -50,7 +51,7 @@ std::string textOf(int reason, bool wasNotSent)
 
 } // namespace
 
-/// Compares all characters of the basic plane, and one outside it.
+/// Tests all characters of the basic multilingual plane, and one character outside it.
 void PartsTest::eachCharacterIsAsSafeAsInTheDashboard()
 {
     for (int unit = 1; unit < 0x10000; ++unit) {
@@ -140,7 +141,8 @@ void PartsTest::loneSurrogatesAreReplaced()
                                            "b\xef\xbf\xbd\xef\xbf\xbd"));
 }
 
-/// The first signal arrives through the descriptor. The next one ends a process at once.
+/// Tests that the first signal is read from the descriptor, and that the second signal ends the
+/// process at once.
 void PartsTest::theSecondSignalIsNotHeldBack()
 {
     const pid_t child = fork();

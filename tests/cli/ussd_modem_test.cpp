@@ -1,4 +1,4 @@
-// The headers of GLib come before those of Qt, where "signals" is a keyword.
+// The GLib headers precede the Qt headers, in which "signals" is a keyword.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -54,7 +54,8 @@ const char CANCEL[] = "AT+CUSD=2";
 const char FIRST_IMEI[] = "350000000000017";
 const char SECOND_IMEI[] = "350000000000025";
 
-/// A network with a code for each of these programs, whose reply takes a moment.
+/// Returns a scenario with one code for each program. The network replies to each code after a
+/// short delay.
 std::string networkFor(int programs)
 {
     std::string network = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nDelay=20\n";
@@ -67,9 +68,8 @@ std::string networkFor(int programs)
 
 } // namespace
 
-/**
- * Tests `ussd` with a real ModemManager and a fake AT modem. The modem's list of received commands
- * shows what was sent over the air.
+/** Tests `ussd` with a real ModemManager and a fake AT modem. The commands that the modem has
+ * received show what the program sent.
  */
 class UssdModemTest : public CliTest
 {
@@ -175,7 +175,7 @@ void UssdModemTest::repliesAndMenus()
     const Run reply = run("send *100#");
     COMPARE_EXIT(reply, EXIT_DONE);
     QCOMPARE(reply.out, latin1("Your balance is 12.50 EUR.\n"));
-    QCOMPARE(reply.error, QString()); // nothing is simulated
+    QCOMPARE(reply.error, QString()); // no demonstration is announced
     QCOMPARE(run("send *101#").out, QString::fromUtf8("رصيدك ١٢٫٥٠\n"));
     const Run menu = run("send *123# 1");
     COMPARE_EXIT(menu, EXIT_DONE);
@@ -392,7 +392,7 @@ void UssdModemTest::cancelEndsTheSessionOfAnotherProgram()
     QVERIFY(isIdle());
 }
 
-/// Starts the programs at the same time. Each must print the reply to its own code.
+/// Starts several programs at the same time. Each program must print the reply to its own code.
 void UssdModemTest::compareManyPrograms(int count)
 {
     QCOMPARE(m_world->useScenario("one", networkFor(count)), std::string());
@@ -420,7 +420,8 @@ void UssdModemTest::eightProgramsGetTheirOwnReplies()
     compareManyPrograms(8);
 }
 
-/// The first program holds the modem until a signal ends it.
+/// Tests a second program that waits while the first program uses the modem. A signal ends the
+/// first program.
 void UssdModemTest::aProgramWaitsForItsTurn()
 {
     UssdProcess first(words("send *131#"));
@@ -438,8 +439,9 @@ void UssdModemTest::aProgramWaitsForItsTurn()
     QCOMPARE(result.error.count(latin1("Waiting")), 1);
 }
 
-/// The second program notices after 100 ms or more that it has to wait. Its time-out then starts
-/// again, so that the program ends 100 ms or more after a time-out that had started at once.
+/// Tests that the time-out of the second program starts again when the program detects that it has
+/// to wait. This takes at least 100 ms, so the program must end at least 100 ms later than without
+/// this restart.
 void UssdModemTest::theTimeOutStartsWithTheTurn()
 {
     UssdProcess first(words("send *131#"));

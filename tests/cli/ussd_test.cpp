@@ -14,14 +14,14 @@ namespace
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
-/// A scenario whose device is in this state, and whose codes are answered.
+/// Returns a scenario in which the device is in this state and the network replies to codes.
 QByteArray scenarioWithState(const QByteArray &state)
 {
     return "[Network]\nOperator=O\nIMSI=001010000000007\nState=" + state +
            "\n[*100#]\nReply=Unexpected\n";
 }
 
-/// A scenario that replies to *100# with this text.
+/// Returns a scenario in which the network replies to *100# with `reply`.
 QByteArray scenarioWithReply(const QByteArray &reply)
 {
     return "[Network]\nOperator=O\nIMSI=001010000000007\n[*100#]\nReply=" + reply + "\n";
@@ -99,7 +99,7 @@ private:
     Run runWith(const QByteArray &scenario, const QStringList &arguments);
 };
 
-/// The environment is that of each program. CTest sets TKSV_BACKEND=simulator.
+/// Sets the environment that the programs inherit. CTest itself sets TKSV_BACKEND=simulator.
 void UssdProgramTest::setUp()
 {
     qputenv("TKSV_SCENARIO", CLI_SCENARIO);
@@ -201,7 +201,7 @@ void UssdProgramTest::menusAreAnsweredInTurn()
 void UssdProgramTest::anAnswerMayStartWithAHyphen()
 {
     const Run result = run("send *124# -- -5 -");
-    COMPARE_EXIT(result, EXIT_WRONG_USAGE); // "-" is never an answer
+    COMPARE_EXIT(result, EXIT_WRONG_USAGE); // "-" cannot be an answer
     QCOMPARE(run("send *124# -- -5").out, latin1("How cold?\n\nIt is -5.\n"));
 }
 
@@ -352,7 +352,8 @@ void UssdProgramTest::withoutAModemNothingIsInvented_data()
         QTest::newRow(line) << QByteArray(line);
 }
 
-/// There is no message bus, and nobody asks for a simulated network.
+/// Tests that the program does not simulate a network if there is no message bus and a simulated
+/// network was not requested.
 void UssdProgramTest::withoutAModemNothingIsInvented()
 {
     QFETCH(QByteArray, line);
@@ -409,7 +410,8 @@ void UssdProgramTest::failuresAreJson()
     QCOMPARE(disabled.value(latin1("notSent")).toBool(false), true);
 }
 
-/// The reply is complete, and no character of the line controls a terminal.
+/// Tests that the JSON object contains the complete reply, but no character that controls a
+/// terminal.
 void UssdProgramTest::jsonKeepsControlCharacters()
 {
     const QString text = QString::fromUtf8("a\x1b[31m\"\\\x7f\xc2\x9b\xe2\x80\xae\tz");
@@ -456,7 +458,7 @@ void UssdProgramTest::aMenuInTheInputIsEnded()
     QVERIFY(!result.out.contains(QLatin1String("balance")));
 }
 
-/// The program does not read the whole line before it fails.
+/// Tests that the program fails before it has read the complete line.
 void UssdProgramTest::anEndlessLineIsNoCode()
 {
     UssdProcess process(words("send -"));
@@ -499,7 +501,7 @@ void UssdProgramTest::aClosedPipeIsAFailure()
     COMPARE_EXIT(process.finish(), EXIT_NOT_WRITTEN);
 }
 
-/// No other file of the program gets the number of the closed stream.
+/// Tests that no other file of the program receives the descriptor of the closed stream.
 void UssdProgramTest::aClosedStandardOutputIsAFailure()
 {
     QProcess shell;
@@ -540,7 +542,7 @@ void UssdProgramTest::anIgnoredSignalStaysIgnored()
     COMPARE_EXIT(process.finish(), EXIT_NO_ANSWER);
 }
 
-/// Nobody reads from the pipe, which is full.
+/// Tests that a signal ends the program while it writes to a full pipe that no process reads.
 void UssdProgramTest::aSignalEndsABlockedWrite()
 {
     int ends[2];
@@ -568,7 +570,7 @@ void UssdProgramTest::aChatReadsAnswers()
     COMPARE_EXIT(result, EXIT_DONE);
     QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n\n"
                                        "Deep enough.\n\nYour balance is 7.00 EUR.\n"));
-    QCOMPARE(result.error, QLatin1String(DEMONSTRATION)); // no prompt, because this is no terminal
+    QCOMPARE(result.error, QLatin1String(DEMONSTRATION)); // there is no prompt without a terminal
 }
 
 void UssdProgramTest::aChatHasAPromptOnATerminal()
@@ -599,7 +601,7 @@ void UssdProgramTest::aChatSurvivesAFailure()
     QVERIFY2(result.error.contains(QLatin1String("quote")), qPrintable(result.error));
 }
 
-/// The network asks a question of its own accord.
+/// Tests the answer to a network-initiated message.
 void UssdProgramTest::aChatAnswersTheNetwork()
 {
     const QByteArray push = "[Push offer]\nAfter=100\nReply=A gigabyte for 1 EUR?\n"

@@ -22,10 +22,10 @@ struct AtCommand {
 /// Parses a command line without its leading "AT".
 AtCommand parseAtCommand(const std::string &line);
 
-/** The modem's answer to a command. */
+/** The answer of the modem to a command. */
 struct AtAnswer {
     std::vector<std::string> lines;
-    // Empty if the answer comes later or never.
+    // The final result code. Empty if the modem answers later or never.
     std::string result = "OK";
 };
 
@@ -33,9 +33,9 @@ AtAnswer ok();
 AtAnswer info(const std::string &line);
 AtAnswer error();
 AtAnswer noAnswer();
-/// The error codes are listed in 3GPP TS 27.007, 9.2.
+/// Returns the answer +CME ERROR. 3GPP TS 27.007, 9.2, lists the error codes.
 AtAnswer equipmentError(int code);
-/// The error codes are listed in 3GPP TS 27.005, 3.2.5.
+/// Returns the answer +CMS ERROR. 3GPP TS 27.005, 3.2.5, lists the error codes.
 AtAnswer messageError(int code);
 
 } // namespace FakeModems

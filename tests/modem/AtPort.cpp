@@ -158,7 +158,7 @@ gboolean AtPort::writePiece()
 }
 
 /// Sends the bytes without queueing them, because a few hundred bytes always fit into the socket
-/// buffer. read() notices if the connection has been closed.
+/// buffer. read() detects whether the connection has been closed.
 void AtPort::send(const char *bytes, std::size_t size)
 {
     while (size > 0) {

@@ -10,8 +10,8 @@ namespace FakeModems
 
 /**
  * The modem's end of the serial line. The port listens on a Unix socket and accepts one connection
- * at a time; a new connection replaces the previous one. Must be used only on the thread of its
- * main context.
+ * at a time; a new connection replaces the previous one. All functions must be called from the
+ * thread of the port's main context.
  */
 class AtPort
 {
@@ -50,7 +50,7 @@ private:
     const std::function<void(const std::string &)> m_onBytes;
     const std::function<void()> m_onOpened;
     bool m_pieces = false;
-    std::string m_unsent; // the bytes that have yet to be written one at a time
+    std::string m_unsent; // the bytes that remain to be written one at a time
     int m_listener = -1;
     int m_connection = -1;
     guint m_listenerSource = 0;

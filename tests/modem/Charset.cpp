@@ -13,8 +13,8 @@ namespace
 const unsigned char ESCAPE = 0x1B;
 const char16_t REPLACEMENT = 0xFFFD;
 
-/// The default alphabet of 3GPP TS 23.038, 6.2.1. At the position of the escape character there is
-/// a character that is never used.
+/// The default alphabet of 3GPP TS 23.038, 6.2.1. The position of the escape character contains a
+/// character that is never used.
 const char16_t DEFAULT_ALPHABET[] = u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞ\uFFFFÆæßÉ !\"#¤%&'()*+,-./"
                                     u"0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿"
                                     u"abcdefghijklmnopqrstuvwxyzäöñüà";

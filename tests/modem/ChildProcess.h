@@ -9,10 +9,9 @@
 namespace FakeModems
 {
 
-/**
- * A program that ends with the test, even if the test crashes. The kernel kills the program when
- * the thread that started it ends. The program must therefore be started on a thread that exists
- * long enough.
+/** A program that ends together with the test, even if the test crashes. The kernel kills the
+ * program when the thread that started the program ends. Therefore, this thread must exist for as
+ * long as the program is needed.
  */
 class ChildProcess
 {

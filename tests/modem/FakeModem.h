@@ -19,27 +19,26 @@ namespace FakeModems
 
 class ModemCore;
 
-/**
- * An AT modem on a Unix socket, with a simulated network behind it. The modem uses the protocol
- * that a daemon expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on
- * request, and records everything that it receives. It answers without delay, on its own thread.
+/** An AT modem on a Unix socket, with a simulated network. The modem uses the protocol that the
+ * daemon expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on request,
+ * and records everything that it receives. It answers without delay, from its own thread.
  *
  * The outcomes of a scenario appear on the serial line as follows. A refusal is +CUSD: 2,
  * `unsupported` is +CUSD: 4 and `network-timeout` is +CUSD: 5. With `silence`, nothing follows the
  * OK; with `device-timeout`, even the OK is missing. `no-device` is +CME ERROR: 30. A device that
  * disappears closes the connection and does not listen until it returns. With `sim-locked`, the
  * modem requires the PIN of the scenario. With `disabled`, it refuses +CFUN=1 and does not
- * register. A device that cannot send SMS from the start does not support +CNMI. A device that
- * loses the ability to send SMS loses its registration.
+ * register. A device that cannot send short messages when the scenario starts does not support
+ * +CNMI. A device that can no longer send short messages loses its registration.
  *
  * All functions may be called from any thread.
  */
 class FakeModem
 {
 public:
-    /// Determines whether the scenario's clock starts immediately or in startClock(). With a
-    /// stopped clock, the daemon can find the modem before the first event. Until startClock() is
-    /// called, all commands fail because there is no network.
+    /// Determines whether the clock of the scenario starts immediately or in startClock(). If the
+    /// clock is stopped, the daemon can find the modem before the first event. Until startClock()
+    /// is called, all commands fail because there is no network.
     enum class Clock { Running, Stopped };
 
     /// `port` is a path, or the name of an abstract socket, which starts with "abstract:".
@@ -60,9 +59,9 @@ public:
     void unplug();
     /// Returns false while the scenario keeps the device away.
     bool isPresent() const;
-    /// Sets a handler that is called on the modem's thread when the scenario changes the hardware.
-    /// The handler must then call unplug() or plugIn(). Without a handler, the modem does this
-    /// itself.
+    /// Sets a handler that is called from the modem's thread when the scenario changes the
+    /// hardware. The handler must then call unplug() or plugIn(). If there is no handler, the modem
+    /// calls these functions itself.
     void onPlugChange(std::function<void(PlugChange)> handler);
 
     // ---- misbehaviour
@@ -73,14 +72,14 @@ public:
     void holdReplies(bool hold); ///< holds +CUSD lines back until called with `false`
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
-    void receiveSms(const std::string &pdu); ///< receives an SMS-DELIVER, given as hex digits
+    void receiveSms(const std::string &pdu); ///< receives an SMS-DELIVER PDU, given as hex digits
 
     // ---- received commands
     std::vector<std::string> received() const;
     std::vector<SubmittedSms> submitted() const;
     int timesReceived(const std::string &start) const;
-    /// Waits up to ten seconds. Returns true if at least `times` commands that start with this text
-    /// arrive.
+    /// Waits up to ten seconds until at least `times` commands that start with this string have
+    /// been received. Returns false if they have not been received by then.
     bool waitForCommand(const std::string &start, int times = 1) const;
     void forgetReceived();
 

@@ -16,14 +16,14 @@ class LoopThread
 public:
     using Action = std::function<void()>;
 
-    /// `name` is the thread name that debuggers show. It can have at most 15 characters.
+    /// `name` is the thread name that debuggers show. It must not exceed 15 characters.
     explicit LoopThread(const char *name);
     ~LoopThread();
     LoopThread(const LoopThread &) = delete;
     LoopThread &operator=(const LoopThread &) = delete;
 
-    /// Stops the loop and waits for the thread. Actions that are still waiting are dropped, as are
-    /// actions that are posted later.
+    /// Stops the loop and waits until the thread has ended. Actions that are still pending or are
+    /// posted later are dropped.
     void stop();
 
     GMainContext *context() const { return m_context; }

@@ -8,9 +8,8 @@
 #include <QStringList>
 #include <QTimer>
 
-/**
- * Records the text of each message box, and closes the box with its first button, for as long as
- * the helper exists.
+/** As long as the helper exists, it records the text of each message box and closes the box with
+ * the first button of the box.
  */
 class MessageHelper : public QObject
 {

@@ -18,9 +18,8 @@ struct UssdResult {
     int code = -1;
 };
 
-/**
- * A simple client of the daemon that uses libmm-glib and waits for each reply. Used by the tests of
- * the modem fixtures, and by measurements that compare the plug-in with a simple client.
+/** A simple client of the daemon that uses libmm-glib and waits for each reply. The tests of the
+ * modem fixtures use this client, as do benchmarks that compare the plug-in with a simple client.
  */
 class MmClient
 {
@@ -36,12 +35,13 @@ public:
     UssdResult initiate(const std::string &code, int limitMilliseconds = 10000);
     UssdResult respond(const std::string &answer);
     bool cancel();
-    /// Returns true if the property of the USSD interface has this value within ten seconds.
+    /// Waits up to ten seconds until the property of the USSD interface has this value. Returns
+    /// false if it does not have this value by then.
     bool waitForProperty(const char *name, const std::string &value);
     bool waitUntilIdle(); ///< waits until the USSD session is idle
 
-    /// Returns an empty string on success, otherwise the error message. sendPin() and sendPuk()
-    /// return the same.
+    /// Sends a short message. Like sendPin() and sendPuk(), returns an empty string on success,
+    /// otherwise the error message.
     std::string sendSms(const std::string &number, const std::string &text);
     std::string sendPin(const std::string &pin);
     std::string sendPuk(const std::string &puk, const std::string &newPin);

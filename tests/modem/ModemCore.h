@@ -27,9 +27,8 @@ struct ModemNews {
     std::function<void(PlugChange)> plugChanged;
 };
 
-/**
- * The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. Must be
- * used only on the modem's thread.
+/** The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. All
+ * functions must be called from the modem's thread.
  */
 class ModemCore
 {

@@ -1,4 +1,4 @@
-/* Implements the network of the SDK fixture with a modem under ModemManager. */
+/* Implements the network of the SDK fixture with a fake modem and ModemManager. */
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -40,14 +40,15 @@ FakeModems::ModemWorld &world()
 
 std::atomic<bool> wantsEnabledModem(true);
 
-/// Enables the modem as a user would, even after it was reset. The library does not do so.
+/// Enables the modem as a user would, also after it was reset. The library itself does not enable
+/// it.
 void enableModem(void *)
 {
     if (wantsEnabledModem && deviceInfo().state == TKSV_DEVICE_DISABLED)
         TKSV_Device_Enable();
 }
 
-/// Returns whether the modem is in the state of the scenario.
+/// Returns true if the modem is in the state that the scenario specifies.
 bool isReady(const Tksv::Scenario &scenario)
 {
     const TKSV_DeviceInfo now = deviceInfo();
@@ -71,8 +72,8 @@ std::string unlessReady(const char *what)
 namespace SdkFixture
 {
 
-/// Waits until the library has noticed that the earlier modem is gone. Otherwise it would mistake
-/// the earlier modem for the new one.
+/// Waits until the library has detected that the earlier modem was removed. Otherwise, the library
+/// would mistake the earlier modem for the new one.
 std::string useNetwork(const std::string &scenario)
 {
     const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");

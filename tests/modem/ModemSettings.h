@@ -34,7 +34,7 @@ struct ModemSettings {
 enum class PlugChange {
     Gone,  // the modem was unplugged
     Reset, // the modem has restarted on its own
-    Back,  // the modem has returned after either of these
+    Back,  // the modem has returned after it was unplugged or has restarted
     // The SIM card or the radio switch has changed. The daemon notices this when the modem is
     // plugged in again.
     Changed

@@ -1,7 +1,7 @@
 #ifndef MODEM_MODEMTEST_H
 #define MODEM_MODEMTEST_H
 
-// The headers of GLib come before those of Qt, where "signals" is a keyword.
+// The GLib headers precede the Qt headers, in which "signals" is a keyword.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -9,11 +9,12 @@
 #include "tksv_device.h"
 #include "UssdTest.h"
 
-/** A test that uses the device SDK with a real ModemManager and fake modems. */
+/** The base class of tests that use the device SDK with a real ModemManager and fake modems. */
 class ModemTest : public UssdTest
 {
 protected:
-    /// The network of the modems. It has codes with every outcome, and the menu *120#.
+    /// The scenario of the modems' network. It contains codes with every outcome, and the menu
+    /// *120#.
     static const char NETWORK[];
 
     static TKSV_DeviceInfo info();
@@ -26,11 +27,11 @@ protected:
     void tearDown() override;
 
     FakeModems::FakeModem &fake() { return m_world->modem("one"); }
-    /// Starts ModemManager, which has no modem yet, and makes any modem the device in use.
+    /// Starts ModemManager without a modem, and makes the library use any modem.
     void startWorld();
     void addModem(const char *id,
                   const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
-    /// Starts ModemManager with a modem that is registered.
+    /// Starts ModemManager with a modem, and waits until the modem is registered.
     void useModem(const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
     /// Makes the client use the modem "one".
     bool connect(FakeModems::MmClient &client);

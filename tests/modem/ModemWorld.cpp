@@ -20,7 +20,7 @@ const char MODEM_INTERFACE[] = "org.freedesktop.ModemManager1.Modem";
 const char ADDRESS_VARIABLE[] = "DBUS_SYSTEM_BUS_ADDRESS";
 
 const std::chrono::seconds WAIT_LIMIT(10);
-/// The time after which the daemon is killed. A daemon that is waiting for an answer would need 20
+/// The time after which the daemon is killed. A daemon that is waiting for an answer would take 20
 /// s to end.
 const std::chrono::milliseconds STOP_LIMIT(3000);
 const std::size_t TAIL_SIZE = 6000;
@@ -265,9 +265,9 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
     return std::string();
 }
 
-/// Announces the device to the daemon again. The daemon deletes the earlier object as if the device
-/// were unplugged. If nothing listens on the port, the daemon does not create a new object.
-/// Inhibiting the device is no alternative, because the daemon would disable it first.
+/// Announces the device to the daemon again. The daemon deletes the earlier object, as if the
+/// device were unplugged. If nothing listens on the port, the daemon does not create a new object.
+/// Inhibiting the device is not an alternative, because the daemon would disable it first.
 void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
@@ -299,8 +299,8 @@ void ModemWorld::plugIn(const std::string &id)
 }
 
 /// Runs on the world's thread. To clients, a modem that resets itself while it stays plugged in
-/// looks like a daemon that restarts. The daemon is killed before the port is closed. Otherwise it
-/// would disable the modem.
+/// looks like a daemon that restarts. The daemon is killed before the port is closed. Otherwise,
+/// the daemon would disable the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))

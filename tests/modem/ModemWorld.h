@@ -36,10 +36,9 @@ const int STATE_REGISTERED = 8;
  * of a temporary folder, a private bus, a polkit stub and the daemon. Since it sets
  * DBUS_SYSTEM_BUS_ADDRESS for the process, it must be created before anything connects to the
  * system bus. Only one instance may exist at a time. The bus and the daemon end with the process,
- * even if the process crashes.
- *
- * Must be created on a thread that exists as long as the object. Functions that wait return false
- * or an empty string after ten seconds. The functions do not throw exceptions.
+ * even if the process crashes. Must be created on a thread that exists as long as the object.
+ * Functions that wait give up after ten seconds and return false or an empty string. The functions
+ * do not throw exceptions.
  */
 class ModemWorld
 {
@@ -55,9 +54,9 @@ public:
     const std::string &busAddress() const { return m_bus.address(); }
     PolkitStub &polkit() { return *m_polkit; }
 
-    /// Adds a modem in the network that the scenario text describes. The daemon knows the modem as
-    /// /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an empty
-    /// string on success, otherwise the error.
+    /// Adds a modem in the network that the scenario describes. In the daemon, the modem has the
+    /// name /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an
+    /// empty string on success, otherwise the error.
     std::string addModem(const std::string &id, const std::string &scenario,
                          const ModemSettings &settings = ModemSettings(),
                          FakeModem::Clock clock = FakeModem::Clock::Running);
@@ -78,8 +77,8 @@ public:
     bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
-    /// Suspends the daemon, whose name stays on the bus. Until resumeDaemon() is called, functions
-    /// that call the daemon get no reply.
+    /// Suspends the daemon, which keeps its bus name. Until resumeDaemon() is called, functions
+    /// that call the daemon do not receive a reply.
     void pauseDaemon();
     void resumeDaemon();
 

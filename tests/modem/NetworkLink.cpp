@@ -25,8 +25,8 @@ void NetworkLink::start()
 }
 
 /// Treats each code as the start of a new session, even where a network would treat the code as the
-/// answer to its menu. The modem may have missed the preceding cancel, because the daemon sends
-/// only the first cancel.
+/// answer to its menu. The modem may not have received the preceding cancellation, because the
+/// daemon sends only the first one.
 int NetworkLink::sendUssd(const std::string &text)
 {
     if (!m_started)

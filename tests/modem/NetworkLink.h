@@ -21,10 +21,9 @@ struct NetworkNews {
     std::function<void()> infoChanged;
 };
 
-/**
- * The simulated network behind the modem, which plays a scenario. The network runs on its own
- * thread. The link passes the network's events to the modem's thread in the same order. Must be
- * used only on the modem's thread.
+/** Connects the modem to its simulated network, which plays a scenario. The network runs on its own
+ * thread. The link passes the network's events to the modem's thread in the same order. All
+ * functions must be called from the modem's thread.
  */
 class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private Tksv::BackendObserver
 {

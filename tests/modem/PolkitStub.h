@@ -10,9 +10,8 @@
 namespace FakeModems
 {
 
-/**
- * Replaces polkit on the bus and owns its name. The stub answers the daemon's authorization
- * requests. It permits everything unless it is set to refuse.
+/** Replaces polkit on the bus and owns polkit's bus name. The stub answers the authorization
+ * requests of the daemon. It grants all requests unless it is set to refuse them.
  */
 class PolkitStub
 {
@@ -22,10 +21,12 @@ public:
     PolkitStub(const PolkitStub &) = delete;
     PolkitStub &operator=(const PolkitStub &) = delete;
 
-    /// Returns when the stub owns the name: an empty string on success, otherwise the error.
+    /// Starts the stub and returns when it owns the bus name. Returns an empty string on success,
+    /// otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
-    /// Keeps the answer to the next request back, as if polkit asked the user for a password.
+    /// Holds back the answer to the next request, as polkit does while it prompts the user for a
+    /// password.
     void holdNext() { m_holdsNext = true; }
     bool isHolding();
     void answerHeld();

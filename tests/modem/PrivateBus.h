@@ -8,7 +8,8 @@
 namespace FakeModems
 {
 
-/** A message bus in a folder. It permits everything to everybody and ends with this object. */
+/** A message bus whose socket is in a given folder. It has no access restrictions and ends with
+ * this object. */
 class PrivateBus
 {
 public:

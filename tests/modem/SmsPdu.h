@@ -18,7 +18,7 @@ struct SubmittedSms {
 
 /// Decodes the PDU of AT+CMGS, given as hex digits that start with the service centre. `length` is
 /// the parameter of the command, which is the number of octets after the service centre. Returns no
-/// value if the PDU is malformed or has another length.
+/// value if the PDU is malformed or has a different length.
 std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t length);
 
 } // namespace FakeModems

@@ -1,6 +1,5 @@
-/*
- * Tests which device is used if nobody chooses one: the first modem that is registered, and never
- * the simulator.
+/* Tests which device the library uses if none is selected: the first modem that is registered, and
+ * never the simulator.
  */
 #include "ModemWorld.h"
 
@@ -83,8 +82,8 @@ private:
     std::unique_ptr<ModemWorld> m_world;
 };
 
-/// Unsets the variable before the first call of the library. Tests use the simulator by default
-/// because of this variable.
+/// Unsets TKSV_BACKEND, which makes tests use the simulator by default. The variable must be unset
+/// before the first call of the library.
 void ModemAutomaticTest::setUpClass()
 {
     qunsetenv("TKSV_BACKEND");
@@ -102,7 +101,7 @@ void ModemAutomaticTest::tearDown()
         std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
     unregisterAll();
     m_world.reset();
-    // The library searches for the next world only after it has noticed the end of this one.
+    // The library searches for the next world only after it has detected the end of this one.
     TKSV_Device_UseModem(nullptr);
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_BUS; }));
     received().clear();
@@ -122,8 +121,8 @@ void ModemAutomaticTest::addSecondModem()
     QCOMPARE(m_world->addModem("two", network, settings), std::string());
 }
 
-/// Tests a library that has not seen any device yet. This test must therefore be the first in the
-/// process.
+/// Tests a command that is sent before the library has found any device. This test must therefore
+/// be the first in the process.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
 {
     addModem();
@@ -192,7 +191,7 @@ void ModemAutomaticTest::theDaemonMayStartLater()
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
 }
 
-/// The library starts with a modem that is disabled, and changes to another one that registers.
+/// Tests that the library changes from a modem that is disabled to another modem that registers.
 void ModemAutomaticTest::theRegisteredModemIsPreferred()
 {
     registerAll();
@@ -217,7 +216,8 @@ void ModemAutomaticTest::theRegisteredModemIsPreferred()
     QCOMPARE(list[1].isInUse, 1);
 }
 
-/// The user's SIM must not change because the modem loses its network for a moment.
+/// Tests that the library does not change to another modem, and thus to another SIM, when the modem
+/// in use loses its network for a moment.
 void ModemAutomaticTest::theModemInUseStaysInUse()
 {
     registerAll();

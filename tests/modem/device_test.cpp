@@ -42,7 +42,8 @@ unsigned char takesNothing(int, void *)
     return 0;
 }
 
-/** Leaves all network messages to the dashboard, because no USSD call-back accepts them. */
+/** As long as this object exists, no USSD call-back accepts network messages, so the dashboard
+ * receives them. */
 class OnlyDashboard
 {
 public:
@@ -252,7 +253,8 @@ void ModemDeviceTest::brokenRepliesHaveAReason()
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
-/// The last number of +CREG is the access technology: 7 is 4G, 2 is 3G (3GPP TS 27.007, 7.2).
+/// Tests the reason for a failure on 4G. The last number of +CREG is the access technology: 7 is
+/// 4G, and 2 is 3G (3GPP TS 27.007, 7.2).
 void ModemDeviceTest::aModemOn4GOnlyIsSaid()
 {
     useModem();
@@ -265,7 +267,8 @@ void ModemDeviceTest::aModemOn4GOnlyIsSaid()
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_ON_4G; }));
     fake().misbehave(Misbehaviour{"AT+CUSD=1", Fault::Error, 100, 2});
     QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_ON_4G));
-    QCOMPARE(ask(u"*130#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK)); // another reason is likelier
+    QCOMPARE(ask(u"*130#").type,
+             int(TKSV_FAILURE_ENDED_BY_NETWORK)); // another reason is more likely
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     register4G("2");
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_SUPPORTED; }));
@@ -316,8 +319,8 @@ void ModemDeviceTest::aReplacedCommandIsNotAnswered()
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
-/// Tests that the dashboard shows the reply, because the daemon cannot know which command it
-/// belongs to.
+/// Tests that the dashboard receives the late reply, because the daemon cannot determine to which
+/// command a reply belongs.
 void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 {
     useModem();
@@ -349,7 +352,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     QCOMPARE(received().responses.all().back().type, isAccepted ? int(TKSV_FAILURE_NO_DEVICE) : 0);
 }
 
-/// Tests that calls return before the default time-out of GDBus, which is 25 s.
+/// Tests that calls return immediately, and not only after the 25-second default time-out of GDBus.
 void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
 {
     m_world = std::make_unique<ModemWorld>();
@@ -520,7 +523,7 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // only the last status counts, because an earlier 7 may come late
+    QVERIFY(waitUntil([] { // only the last status counts, because an earlier 7 may arrive late
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));
@@ -618,8 +621,8 @@ void ModemDeviceTest::whatPolkitRefusesIsSaid()
 
 /* ---- the radio --------------------------------------------------------------------------- */
 
-/// The daemon asks polkit before it enables the modem. The library reads the SIM after it would
-/// enable the modem.
+/// Tests that the library enables the modem only on request. The daemon queries polkit before it
+/// enables the modem. The library would enable the modem before it reads the SIM.
 void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
 {
     startWorld();
@@ -636,7 +639,7 @@ void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     const int before = m_world->polkit().timesAsked();
-    TKSV_Device_UseModem(nullptr); // not even a program that starts enables it
+    TKSV_Device_UseModem(nullptr); // selecting the modem again does not enable it either
     QVERIFY(waitUntil([] { return *info().imsi && info().state == TKSV_DEVICE_DISABLED; }));
     QVERIFY(!m_world->polkit().isHolding());
     QCOMPARE(m_world->polkit().timesAsked(), before);

@@ -94,7 +94,7 @@ void startSend(QProcess &process, const QStringList &arguments)
     process.start(QLatin1String(PROGRAM_FILE), QStringList(QLatin1String("--send")) + arguments);
 }
 
-/** What a run of `--send` has printed, and how it ended. */
+/** The output and the exit code of a run of `--send`. */
 struct SendRun {
     int code = -1;
     QString out;
@@ -124,9 +124,8 @@ const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
 } // namespace
 
-/**
- * Tests the dashboard with the plug-in on top of the device SDK, a real ModemManager and an AT
- * modem. The tests act like a user and check which commands reach the modem.
+/** Tests the dashboard and the plug-in with the device SDK, a real ModemManager and a fake AT
+ * modem. The tests operate the dashboard as a user would, and check which commands reach the modem.
  */
 class EndToEndTest : public SimTest
 {
@@ -288,7 +287,8 @@ QPushButton *EndToEndTest::openService(int row)
     return part<QPushButton>(dialog, "SMSDialog_SendButton");
 }
 
-/// Waits until the button is enabled. A message cannot be sent at the moment when the window opens.
+/// Waits until the button is enabled, because messages cannot be sent immediately after the window
+/// has opened.
 bool EndToEndTest::sendWhenReady(QPushButton *button)
 {
     if (!button || !QTest::qWaitFor([button] { return button->isEnabled(); }))
@@ -411,7 +411,7 @@ void EndToEndTest::theLongestCommand()
     openPage();
     const QString code = QLatin1Char('*') + QString(89, QLatin1Char('7')) + QLatin1Char('#');
     QCOMPARE(code.size(), 91);
-    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network does not know this code
+    QCOMPARE(ask(code), QLatin1String(USSD_FAILED)); // the network refuses unknown codes
     QString hex;
     for (const QChar c : code)
         hex += QString::fromLatin1("%1").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
@@ -527,12 +527,13 @@ void EndToEndTest::theDaemonCrashesWhileACommandIsOut()
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
 
-/* ---- nothing that the user did not ask for ------------------------------------------------- */
+/* ---- nothing is sent without a request ------------------------------------------------- */
 
-/// The operator of the SIM is not set up, and the user has allowed the detection.
+/// Tests that opening the window does not send anything if the operator of the SIM is not set up,
+/// even if the user has enabled the detection.
 void EndToEndTest::openingTheWindowSendsNothing()
 {
-    m_library.reset(); // the folder of this test counts as that of an integrator
+    m_library.reset(); // otherwise, the folder of this test would count as an integrator's folder
     openDashboard();
     QVERIFY(waitForRegistration());
     QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
@@ -545,7 +546,8 @@ void EndToEndTest::openingTheWindowSendsNothing()
     QCOMPARE(fake().timesReceived("AT+CFUN="), 0);
 }
 
-/// Neither opening nor using nor closing the window ends the session.
+/// Tests that the session of another program does not end when the window is opened, used or
+/// closed.
 void EndToEndTest::theWindowLeavesTheSessionOfAnotherProgramAlone()
 {
     QVERIFY(openSessionOfAnotherProgram());
@@ -701,7 +703,8 @@ void EndToEndTest::severalProgramsGetTheirOwnReplies()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// The first program waits for a network that is silent.
+/// Tests the notice of a second program, while the first program waits for a network that does not
+/// reply.
 void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
 {
     QProcess first;

@@ -1,8 +1,7 @@
-/*
- * Tests internals of the device SDK that need ModemManager or its library, and whose time limits or
- * errors are too slow or too rare for the other tests.
+/* Tests internals of the device SDK that require ModemManager or its library, and whose time limits
+ * are too long or whose errors are too rare for the other tests.
  */
-// The headers of GLib come before those of Qt, where "signals" is a keyword.
+// The GLib headers precede the Qt headers, in which "signals" is a keyword.
 #include "modemmanager/ModemManagerBackend.h"
 #include "modemmanager/ModemWatch.h"
 #include "modemmanager/UssdErrors.h"
@@ -132,7 +131,8 @@ void ModemInternalsTest::errorsHaveAReason()
     QCOMPARE(failure.wasNotSent, wasNotSent);
 }
 
-/// The daemon reports the same error for both, but gives up on a silent modem only after 20 s.
+/// Tests that an unanswered command is distinguished from a refused command. The daemon reports the
+/// same error in both cases, but reports an unanswered command only after 20 s.
 void ModemInternalsTest::unansweredCommandsAreNotRefused()
 {
     UssdCallContext context;

@@ -1,4 +1,5 @@
-/* Tests the fake modem under the real daemon, with the library that the daemon's own tools use. */
+/* Tests the fake modem with the real daemon. The client uses the same library as the daemon's own
+ * tools. */
 #include <libmm-glib.h>
 
 #include <QtTest>
@@ -166,7 +167,7 @@ void ModemWorldTest::cancelReachesTheModem()
     QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
     QVERIFY(m_client->cancel());
     QCOMPARE(modem().timesReceived("AT+CUSD=2"), 1);
-    // The session is over, so there is no reply.
+    // The session has ended, so there is no reply.
     QCOMPARE(m_client->initiate("1").code, int(MM_CORE_ERROR_ABORTED));
 }
 
@@ -203,8 +204,8 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// Tests a reply that arrives in pieces. The reply must come after the OK. If it comes together
-/// with the OK, the daemon uses only the bytes that have arrived by then.
+/// Tests a reply that arrives in pieces after the OK. If the reply arrived together with the OK,
+/// the daemon would use only the bytes that have arrived when it reads the OK.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();

@@ -1,7 +1,6 @@
-/*
- * Tests that a modem can be shared: the library leaves the sessions of other programs alone, ends
- * its own sessions, and the programs of one user take turns. A plain client of ModemManager is the
- * other program.
+/* Tests that several programs can share a modem. The library does not touch the sessions of other
+ * programs and ends its own sessions, and the programs of one user take turns. The other program is
+ * a simple client of ModemManager.
  */
 #include "ModemTest.h"
 
@@ -23,10 +22,10 @@ const char ACTIVE[] = "2"; // values of the property State
 const char USER_RESPONSE[] = "3";
 const int AT_ONCE = 8;
 
-/// Starts a session of the other program that waits for the network, which does not answer.
+/// Starts a session of the other program that waits for a reply, which the network never sends.
 void startForeignSession(MmClient &other)
 {
-    other.initiate("*133#", 50); // the client gives up, but the daemon does not
+    other.initiate("*133#", 50); // the client stops waiting, but the daemon does not
 }
 
 bool waitForForeignSession(bool isOpen)
@@ -52,7 +51,7 @@ public:
                         {QString::fromLatin1(code), QString::fromLatin1(mode)});
     }
 
-    /// Returns what the program has printed, or the error.
+    /// Returns the output of the program, or an error message.
     QByteArray output()
     {
         if (!m_process.waitForFinished() || m_process.exitCode() != 0)
@@ -176,7 +175,7 @@ void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
     received().clear();
     TKSV_Device_UseModem(nullptr);
     QVERIFY(waitForForeignSession(true));
-    TKSV_Device_UseModem(IMEI); // the program leaves the modem and comes back
+    TKSV_Device_UseModem(IMEI); // the program stops using the modem and selects it again
     QVERIFY(waitForForeignSession(true));
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitForForeignSession(false));
@@ -190,8 +189,9 @@ void ModemSharingTest::aMenuThatAnotherProgramAnsweredIsNotAnsweredAgain()
     QVERIFY(connect(other));
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
     QCOMPARE(other.respond("1").text, std::string("One"));
-    QVERIFY(waitUntil([this] { return isTurnFree(); })); // the library has noticed the other answer
-    QVERIFY(waitForForeignSession(false));               // and its end
+    QVERIFY(
+        waitUntil([this] { return isTurnFree(); })); // the library has detected the other answer
+    QVERIFY(waitForForeignSession(false));           // and its end
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 2);
     QCOMPARE(ask(u"1").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
     QCOMPARE(lastFailure().wasNotSent, 1);
@@ -225,8 +225,8 @@ void ModemSharingTest::theNetworksQuestionIsAnswered()
     QVERIFY(waitUntil([this] { return isTurnFree(); }));
 }
 
-/// The daemon refuses our call in the same moment. A cancellation that is too early would end the
-/// other session.
+/// Tests that a command is not cancelled before the daemon has refused it. A cancellation that is
+/// too early would end the session of the other program.
 void ModemSharingTest::cancelDoesNotEndAForeignSession()
 {
     useModem();
@@ -250,7 +250,7 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// polkit asks the user while our call runs. In the meantime, the user cancels the command.
+/// Tests a command that the user cancels while polkit is prompting for a password.
 void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
 {
     useModem();
@@ -265,7 +265,7 @@ void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
     QCOMPARE(TKSV_USSDSrv_Release(nullptr), 0L);
     for (int i = 0; i < 10; ++i)
         QVERIFY(other.waitUntilIdle()); // enough time for a cancellation that is too early
-    QVERIFY(!isTurnFree());             // the library still waits for its call
+    QVERIFY(!isTurnFree());             // the library is still waiting for its call to return
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     m_world->polkit().answerHeld();
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
@@ -274,7 +274,7 @@ void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
     QCOMPARE(received().responses.all().size(), std::size_t(2));
 }
 
-/// polkit may ask the user for a password, which would be in vain.
+/// Tests that polkit does not prompt the user for a password if the call would fail anyway.
 void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
 {
     useModem();
@@ -287,8 +287,8 @@ void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
     QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
-/// Both programs start a session in the same moment. One of them is refused, and the cancellation
-/// of our command never reaches the session of the other program.
+/// Tests two programs that start a session at the same time. The daemon refuses one of them, and
+/// the cancellation of our command never ends the session of the other program.
 void ModemSharingTest::aCommandCancelledAtOnceSparesTheOtherProgram()
 {
     useModem();
@@ -367,8 +367,8 @@ void ModemSharingTest::aProgramThatEndsLeavesAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// The library cannot know that the program has crashed and that nobody has opened another session
-/// since then.
+/// Tests that the session of a crashed program counts as foreign. The library cannot determine
+/// whether another program has opened a new session since the crash.
 void ModemSharingTest::theSessionOfACrashedProgramIsForeign()
 {
     useModem();
@@ -425,7 +425,7 @@ void ModemSharingTest::aWaitingCommandIsCancelled()
         QVERIFY(waitUntil([] { return info().waitsForTurn == 1; }));
         cancels ? TKSV_Device_CancelRequest() : TKSV_USSDSrv_Release(nullptr);
         QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
-        QVERIFY(received().responses.waitFor(1)); // that of the cancellation
+        QVERIFY(received().responses.waitFor(1)); // the response to the cancellation
     }
     another.leave();
     QVERIFY(isTurnFree()); // the command has left the queue

@@ -61,8 +61,8 @@ inline QByteArray nested(const QByteArray &text, bool hasEnd = true)
            (hasEnd ? QByteArray("</a>").repeated(levels) : QByteArray());
 }
 
-/// Returns a configuration. The name of its root element differs from that in completeConfig(),
-/// because any name is allowed.
+/// Returns a configuration. Its root element has a different name than in completeConfig(), because
+/// any name is permitted.
 inline QByteArray config(const QByteArray &prepaid, const QByteArray &postpaid,
                          const QByteArray &rest = QByteArray())
 {
@@ -76,8 +76,8 @@ inline QByteArray charSection(const char *name, const char *yHeight, const char 
            "<color " + colour + "/></" + name + ">";
 }
 
-/// Returns the sections between "Postpaid" and "autoUSSD". If one of them were missing, the search
-/// for it would skip all sections that follow.
+/// Returns the sections between "Postpaid" and "autoUSSD". If one of these sections were missing,
+/// the parser would skip all following sections while searching for it.
 inline QByteArray looks()
 {
     return charSection("send", "20", "") + charSection("recevie", "20", "") +

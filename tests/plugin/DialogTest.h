@@ -11,9 +11,8 @@
 #include "markup/TranscriptView.h"
 #include "windows/USSDGeneralDlg.h"
 
-/**
- * The base class of tests that operate the general dialog like a user, with the fake device SDK.
- * The network is silent until a test sends a reply.
+/** The base class of tests that operate the general dialog as a user would, with the fake device
+ * SDK. The fake network does not reply until a test sends a reply.
  */
 class DialogTest : public PluginTest
 {
@@ -22,8 +21,8 @@ class DialogTest : public PluginTest
 protected:
     void tearDown() override;
 
-    /// Deletes any earlier dialog, and creates and shows a new one. An embedded dialog is a child
-    /// of page().
+    /// Deletes the previous dialog, if any, and shows a new one. An embedded dialog is a child of
+    /// page().
     void open(WINDOW_MODEL model = WINDOW_MODEL_EMBEDDED);
     USSDGeneralDlg *dialog() { return m_dialog; }
     QWidget *page() { return m_page.data(); }

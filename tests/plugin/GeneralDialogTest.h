@@ -34,8 +34,7 @@ inline QGridLayout *gridOf(QWidget *widget)
     return qobject_cast<QGridLayout *>(widget->layout());
 }
 
-/**
- * The base class of tests of the general dialog: its fields, sending, answers and the transcript.
+/** The base class of tests of the general dialog: input fields, sending, answers and transcript.
  */
 class GeneralDialogTest : public DialogTest
 {
@@ -51,7 +50,7 @@ protected:
     QString clearAndAnswer(const char *buttonKey);
     /// Returns the index of the first log line that contains `part`, or -1.
     int lineOf(const char *part);
-    void activateWindow(); ///< a widget has the focus only in an active window
+    void activateWindow(); ///< required because a widget has the focus only in an active window
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 };

@@ -29,7 +29,7 @@ inline QString units(int count)
     return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
 }
 
-/// Runs code on the thread that announces a response, while the response is being announced.
+/// Runs code on the thread that emits the signal for a response, while the signal is being emitted.
 class Interloper : public QObject
 {
     Q_OBJECT
@@ -92,11 +92,11 @@ protected:
     /// Waits until `part` has been logged `times` times, which shows how far a thread has
     /// progressed.
     bool waitUntilLogged(const char *part, int times);
-    /// Returns true if a command is sent without waiting for an earlier time-out.
+    /// Returns true if a command is sent without waiting until an earlier time-out expires.
     bool sendsWithoutWaiting();
-    /// Returns true if a command is sent only after waiting for an earlier time-out.
+    /// Returns true if a command is sent only after an earlier time-out has expired.
     bool sendWaitsItsTime();
-    /// Returns the texts that a function of USSDLogic has logged, in order.
+    /// Returns the log messages of a function of USSDLogic, in order.
     QStringList linesOf(const char *function);
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 

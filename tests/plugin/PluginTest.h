@@ -6,10 +6,10 @@
 #include <QByteArray>
 #include <QString>
 
-/**
- * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
- * starts with a reset SDK, without the singleton, and with its own plug-in library directory and
- * user data directory. It ends with the calls that a host makes to shut the plug-in down.
+/** The base class of tests that run the plug-in's code with the fake device SDK. Each test function
+ * starts with a reset SDK and without the singleton, and uses its own plug-in library directory and
+ * user data directory. After each test function, the plug-in is shut down with the calls that a
+ * host makes.
  */
 class PluginTest : public UssdTest
 {

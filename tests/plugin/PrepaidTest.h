@@ -16,9 +16,8 @@
 
 class QMessageBox;
 
-/**
- * The base class of tests that operate the account window in its frame like a user, with the fake
- * device SDK. The network is silent until a test sends a reply.
+/** The base class of tests that operate the account window in its frame as a user would, with the
+ * fake device SDK. The fake network does not reply until a test sends a reply.
  */
 class PrepaidTest : public PluginTest
 {
@@ -42,8 +41,8 @@ protected:
                                  const QByteArray &limitText = "0-9");
     static QByteArray onlineItem(int pos, const QByteArray &url);
     static QByteArray msisdnItem(int pos);
-    /// Writes both accounts and the detection section. The detection is enabled unless `pattern` is
-    /// empty.
+    /// Writes a configuration with the two accounts and the detection section. The detection is
+    /// enabled unless `pattern` is empty.
     void configure(const Account &prepaid, const Account &postpaid,
                    const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
     void configure(const Account &both) { configure(both, both); }
@@ -54,7 +53,7 @@ protected:
     void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
     /// Creates the dialog with make() and opens it.
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
-    /// Opens the dialog through the service, like a host.
+    /// Opens the dialog through the service, as a host does.
     void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
     void fitFrame(); ///< resizes the frame to the dialog's current preferred size
     USSDDlg *dialog() { return m_dialog; }
@@ -79,8 +78,8 @@ protected:
 
     // ---- user actions
     static void click(QPushButton *button);
-    void type(const QString &pin);  ///< types into the entry field, key by key
-    void topUp(const QString &pin); ///< types the PIN and presses the button
+    void type(const QString &pin);  ///< types the PIN into the input field, key by key
+    void topUp(const QString &pin); ///< types the PIN and presses the Activate button
     /// Returns the widget with the focus. While a message box is open, this is a widget of the box.
     QWidget *keyTarget();
     void pressReturn(bool isRepetition = false); ///< presses the key without releasing it
@@ -94,9 +93,10 @@ protected:
                                const std::function<void(QMessageBox *)> &look = nullptr);
     static QMessageBox *messageBox(); ///< returns the open message box, or null
     static QString textInMessageBox();
-    static void closeMessageBox();                      ///< presses the box's button
-    void logicSays(int component, const QString &text); ///< emits an answer to no command
-    static QStringList requests();                      ///< the commands of all requests so far
+    static void closeMessageBox(); ///< presses the box's button
+    void logicSays(int component,
+                   const QString &text); ///< emits a reply that does not belong to a command
+    static QStringList requests();       ///< the commands of all requests so far
 
     static QString text(const char *key);
     static QStringList languages();

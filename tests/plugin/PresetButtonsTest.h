@@ -11,7 +11,8 @@ class PresetButtonsTest : public DialogTest
 protected:
     static QByteArray nameOf(int index); ///< "Name 0" and so on
     static QByteArray codeOf(int index); ///< "*100#" and so on
-    /// Writes profiles with these names and codes. Each '1' in the mask gives its profile a button.
+    /// Writes profiles with the names of nameOf() and the codes of codeOf(). Each character of the
+    /// mask stands for a profile, which has a button if the character is '1'.
     void writeProfiles(const QByteArray &mask);
     /// Writes one profile with a button for each name.
     void writeNames(const QList<QByteArray> &names);

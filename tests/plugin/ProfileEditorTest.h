@@ -46,7 +46,8 @@ inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
     return difference;
 }
 
-/** The base class of tests of the profile editor, alone or opened from the general dialog. */
+/** The base class of tests of the profile editor, as a separate widget or opened from the general
+ * dialog. */
 class ProfileEditorTest : public PluginTest
 {
     Q_OBJECT
@@ -70,11 +71,12 @@ protected:
     /// Answers the next message box with the button whose text key is `buttonKey`.
     void answerNextMessage(const QString &buttonKey);
     void press(QMessageBox *box, const QString &buttonKey);
-    /// Opens the cell's editor, types the text and leaves the cell in the given way.
+    /// Opens the editor of the cell, types the text, and leaves the cell in the specified way.
     void typeAndLeave(int row, int column, const QString &text, int way);
     QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
     QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
-    /// Confirms the message box that asks whether to save, and then the message that follows.
+    /// Confirms the message box that requests confirmation for saving, and then the message box
+    /// that follows.
     void saveAndAcknowledge();
     void shutDown(); ///< makes all shut-down calls listed in docs/host-integration.md
     QList<USSDProfile> savedProfiles();

@@ -23,8 +23,8 @@ protected:
     void writeUserProfiles(const QByteArray &items) { write(userFile(), profileFile(items)); }
     static void write(const QString &path, const QByteArray &content);
     static QList<USSDProfile> list(USSDEditCmd &store);
-    static QList<USSDProfile> loaded(); ///< the profiles that a new object reads
-    /// Returns the codes of all profiles, and marks those of the system file.
+    static QList<USSDProfile> loaded(); ///< the profiles that a new USSDEditCmd object reads
+    /// Returns the codes of all profiles. The codes of the system file are marked.
     static QStringList codes(const QList<USSDProfile> &profiles);
     /// Reads the profiles from the content of a file, and sets `error` to the XML error.
     static QList<USSDProfile> readBack(QByteArray xml, QString *error = nullptr);

@@ -21,7 +21,7 @@ protected:
 
     static void addFramedTypes(); ///< adds a row for each type of window that has a frame
     CUSSDService *service() { return CUSSDService::instance(); }
-    USSDExtendDialog *frame(); ///< null unless there is exactly one frame
+    USSDExtendDialog *frame(); ///< returns the frame, or null unless there is exactly one
     USSDGeneralDlg *framedDialog();
     USSDGeneralDlg *embeddedDialog();
     template <typename Widget>

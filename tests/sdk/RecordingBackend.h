@@ -9,7 +9,7 @@
 namespace Tksv
 {
 
-/** Accepts every request and records it, unless `status` is set. */
+/** A backend that records every request. Accepts all requests unless `status` is set. */
 class RecordingBackend : public Backend
 {
 public:

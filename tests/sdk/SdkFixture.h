@@ -11,7 +11,7 @@
 
 #include "tksv.h"
 
-/** Collects values that arrive on other threads, in order. */
+/** Collects values from other threads in the order in which they arrive. */
 template <typename T>
 class Inbox
 {
@@ -23,7 +23,8 @@ public:
         m_changed.notify_all();
     }
 
-    /// Returns true if at least this many values arrive within ten seconds.
+    /// Waits up to ten seconds until at least `count` values have arrived. Returns false if fewer
+    /// values have arrived by then.
     bool waitFor(std::size_t count)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -49,7 +50,7 @@ private:
     std::vector<T> m_items;
 };
 
-/** Blocks threads until it is opened. */
+/** Blocks threads until the gate is opened. */
 class Gate
 {
 public:
@@ -90,15 +91,15 @@ namespace SdkFixture
 
 Received &received();
 
-/// Switches the device to the network that the scenario text describes, and returns when the device
-/// is ready. The times in the text are relative to that moment. Returns an empty string on success.
-/// Each kind of device links its own implementation.
+/// Switches the device to the network that the scenario describes, and returns when the device is
+/// ready. The times in the scenario are relative to this moment. Returns an empty string on
+/// success. There is a separate implementation for each type of device.
 std::string useNetwork(const std::string &scenario);
 
 /** The differences between devices. */
 struct Abilities {
-    /// If true, a call fails if the device fails. A device behind a daemon fails only after the
-    /// call has returned, and the response reports the failure.
+    /// If true, a call fails if the device fails. If ModemManager controls the device, the device
+    /// fails only after the call has returned, and the response reports the failure.
     bool failsInTheCall = true;
     bool sendsEmptySms = true;
     /// If false, the device supports only UCS2, which lacks the characters that need two code
@@ -119,8 +120,8 @@ class InsideUssd
 {
 public:
     explicit InsideUssd(std::function<void(const Response &)> action);
-    /// Returns when the action is no longer running. The objects to which it refers may then be
-    /// deleted.
+    /// Waits until the action is no longer running. The objects to which the action refers may then
+    /// be deleted.
     ~InsideUssd();
     InsideUssd(const InsideUssd &) = delete;
     InsideUssd &operator=(const InsideUssd &) = delete;
@@ -131,17 +132,16 @@ long request(const std::u16string &text, int *status = nullptr);
 /// Sends the command and returns the response. The type is -1 if no response arrives.
 Response ask(const std::u16string &text);
 
-/**
- * Runs an action that must finish within `milliseconds`, because the network sends something after
- * that time. Each attempt starts with `prepare`. A busy machine may need several attempts. Returns
- * false if no attempt was fast enough.
+/** Runs an action that must finish within `milliseconds`, because the network sends something after
+ * this time. Each attempt starts with a call of `prepare`. On a busy machine, several attempts may
+ * be necessary. Returns false if no attempt was fast enough.
  */
 bool doInTime(int milliseconds, const std::function<void()> &prepare,
               const std::function<void()> &action);
 
 long sendSms(const std::u16string &number, const std::u16string &text);
 
-/// Returns true if the condition becomes true within ten seconds.
+/// Waits up to ten seconds until the condition is true. Returns false if it is not true by then.
 bool waitUntil(const std::function<bool()> &condition);
 
 } // namespace SdkFixture

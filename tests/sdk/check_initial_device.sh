@@ -1,5 +1,5 @@
 #!/bin/sh
-# check_initial_device.sh PROGRAM SCENARIO: the simulator is the device only if somebody selects it.
+# check_initial_device.sh PROGRAM SCENARIO: tests that the simulator is used only if it is selected.
 set -eu
 program=$1
 scenario=$2

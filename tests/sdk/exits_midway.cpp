@@ -1,6 +1,6 @@
-/*
- * A client that exits while the library is busy. The first argument selects the moment of the exit.
- * The client must end with the exit code that it requested, whatever the library is doing.
+/* A client that exits while the library is busy. The first argument selects the moment of the exit.
+ * The client must end with the exit code that it requested, regardless of what the library is
+ * doing.
  */
 #include <atomic>
 #include <cstdio>

@@ -1,4 +1,4 @@
-/* Prints the kind of the device that the program starts with. */
+/* Prints the type of device that the library uses initially. */
 #include <cstdio>
 
 #include "tksv_device.h"

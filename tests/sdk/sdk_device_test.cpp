@@ -236,7 +236,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    // Nothing happens on its own in this network.
+    // In this network, no event happens without a request.
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);

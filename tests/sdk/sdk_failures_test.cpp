@@ -105,7 +105,8 @@ void SdkFailures::emptyResponseHasTheReasonAsItsType()
     QCOMPARE(lastFailure().text, "");
 }
 
-/// ModemManager 1.20 drops the closing text of a modem.
+/// Tests the closing message. With a modem, the message is empty because ModemManager 1.20 drops
+/// it.
 void SdkFailures::closingTextIsReported()
 {
     QCOMPARE(ask(u"*134#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
@@ -216,7 +217,7 @@ void SdkFailures::cancelledRequestGetsNoReplyThatWaitedItsTurn()
     QCOMPARE(request(u"*131#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*100#"), 0L);
-    QVERIFY(sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(1)); // the reply has come
+    QVERIFY(sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(1)); // the reply has arrived
     QCOMPARE(TKSV_Device_CancelRequest(), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));

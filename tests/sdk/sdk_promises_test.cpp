@@ -80,16 +80,17 @@ QString shown(const std::u16string &text)
     return QString::fromStdU16String(text);
 }
 
-/// Sends a message and waits for its result. By then, the device has finished all earlier requests
-/// that have no delay.
+/// Sends a short message and waits for its result. When the result arrives, the device has finished
+/// all earlier requests that have no delay.
 bool deviceHasCaughtUp()
 {
     const std::size_t before = received().smsResults.all().size();
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
-/// Returns all responses except the failure of a request whose device disappeared. A device behind
-/// a daemon may report that the request failed before it reports that the device is gone.
+/// Returns all responses except the failure of a request whose device disappeared. If ModemManager
+/// controls the device, the library may report this failure before it reports the loss of the
+/// device.
 std::vector<Response> responsesBesidesTheLoss()
 {
     std::vector<Response> all = received().responses.all();
@@ -275,13 +276,13 @@ void SdkPromises::callsReturnAtOnce()
     QCOMPARE(request(u"*112#"), 0L);
     unregisterAll();
     QCOMPARE(useNetwork(NETWORK), std::string());
-    QVERIFY(waitMilliseconds(start) < 5000); // the network would need an hour
+    QVERIFY(waitMilliseconds(start) < 5000); // the network would take an hour
 }
 
 void SdkPromises::longestRequestIsTaken()
 {
     const std::u16string longest = u"*" + std::u16string(TKSV_USSD_MAX_UNITS - 2, u'1') + u"#";
-    QCOMPARE(ask(longest).type, 2); // the network does not know this code
+    QCOMPARE(ask(longest).type, 2); // the network refuses unknown codes
     QVERIFY(request(longest + u"#") != 0);
 }
 
@@ -734,8 +735,8 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the end of the list. Devices raise different events for the change of the network
-/// itself.
+/// Compares only the end of the list, because the events for the change of the network depend on
+/// the device.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -821,7 +822,7 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
     QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
 }
 
-/// Sends a request that is still pending when the network sends a message of its own.
+/// Sends a request that is still pending when the network-initiated message arrives.
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"
@@ -906,8 +907,8 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Calls all functions concurrently, for the sanitizers, and checks that the device still works
-/// afterwards.
+/// Calls all functions concurrently, so that the sanitizers can detect faults, and checks that the
+/// device still works afterwards.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

@@ -1,5 +1,4 @@
-/*
- * Tests the parser of scenario files: the values of a valid file, and each complaint about an
+/* Tests the parser of scenario files: the values of a valid file, and each error message for an
  * invalid file.
  */
 #include <QtTest>

@@ -1,4 +1,4 @@
-/* Tests internal classes of the library that no C function reaches directly. */
+/* Tests internal classes of the library that cannot be tested directly through the C functions. */
 #include <atomic>
 #include <csignal>
 #include <pthread.h>

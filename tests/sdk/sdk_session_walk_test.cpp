@@ -1,15 +1,12 @@
 /*
- * Tests the rules of UssdSession with every order of events.
- *
- * Each public function of UssdSession runs under one lock, so the calls of several threads take
- * effect in some order. The walk tries every order of up to seven steps: a request, a request that
- * the device refuses, the reply to the newest request, its menu, a cancellation, a release, the
- * loss of the device, and the start and the end of a delivery. A delivery starts when the service's
- * thread asks whether the event is still valid, and ends when the call-backs have returned. The
- * same reply may arrive several times.
- *
- * The model knows each request and its outcome. At the end of each order, all remaining events are
- * delivered. Then each request must have exactly one outcome.
+ * Tests the rules of UssdSession with every order of events. All public functions of UssdSession
+ * lock the same mutex, so calls from several threads take effect one after another. The walk tries
+ * every order of up to seven steps. A step is a request, a request that the device refuses, a reply
+ * or a menu for the newest request, a cancellation, a release, the loss of the device, or the start
+ * or end of a delivery. A delivery starts when the service's thread checks whether the event is
+ * still valid, and ends when the call-backs have returned. The same reply may arrive several times.
+ * The model records each request and its outcome. At the end of each order, all remaining events
+ * are delivered. Each request must then have exactly one outcome.
  */
 #include <cstring>
 #include <deque>
@@ -135,7 +132,8 @@ void World::cancel()
     m_isCancelled = m_inFlight;
 }
 
-/// Does what the service's thread does with its next event up to the call of the first call-back.
+/// Performs the steps of the service's thread for the next event, up to the call of the first
+/// call-back.
 bool World::startDelivery()
 {
     if (m_events.empty() || m_runningDelivery)
@@ -183,8 +181,8 @@ void World::expectFailure(TKSV_Failure reason)
           "the last failure is that of the newest request");
 }
 
-/// Delivers the remaining events. Every request that the device or a cancellation has ended must
-/// have received its response by then.
+/// Delivers the remaining events. Every request that was ended by the device or a cancellation must
+/// then have received its response.
 void World::finish()
 {
     do
@@ -193,7 +191,7 @@ void World::finish()
     check(!m_inFlight || (!m_isReplied && !m_isCancelled), "every outcome reaches the client");
 }
 
-/** Repeats each order of steps from the start, until a rule is broken. */
+/** Tries each order of steps from the start, until an order breaks a rule. */
 class Walk
 {
 public:
@@ -257,7 +255,7 @@ void SdkSessionWalk::everyRequestHasOneOutcome()
 {
     Walk walk;
     QVERIFY2(walk.from(DEPTH), walk.story().constData());
-    QVERIFY(walk.orders() > 100000); // the walk has not ended early
+    QVERIFY(walk.orders() > 100000); // the walk has not ended prematurely
 }
 
 QTEST_APPLESS_MAIN(SdkSessionWalk)

@@ -55,7 +55,7 @@ private:
     bool m_isOpen = false;
 };
 
-/// Runs the function in a child process, which ends with the function's result.
+/// Runs the function in a child process. The function's result is the exit code of the process.
 pid_t startProgram(const std::function<int()> &function)
 {
     const pid_t child = fork();
@@ -127,10 +127,10 @@ void SdkTurn::firstComeFirstServed()
     QVERIFY(first.tryEnter());
     QVERIFY(!second.tryEnter());
     QVERIFY(!third.tryEnter());
-    QVERIFY(first.tryEnter()); // it is still in the queue
+    QVERIFY(first.tryEnter()); // this program is still in the queue
     first.leave();
     QVERIFY(!third.tryEnter());
-    QVERIFY(!first.tryEnter()); // now it is the last one
+    QVERIFY(!first.tryEnter()); // this program is now the last one in the queue
     QVERIFY(second.tryEnter());
     second.leave();
     QVERIFY(third.tryEnter());
@@ -165,7 +165,7 @@ void SdkTurn::programsTakeTurnsInTheirOrder()
             turn.leave();
             return hasWaited ? 0 : 1;
         }));
-        QCOMPARE(waiting.read(), 'w'); // the next program comes later
+        QCOMPARE(waiting.read(), 'w'); // the next program must join the queue later
     }
     holder.leave();
     for (char i = 0; i < PROGRAMS; ++i)
@@ -186,7 +186,7 @@ void SdkTurn::eightProgramsAtOnceExcludeEachOther()
                 waitForTurn(turn);
                 const int file = open(inside.constData(), O_CREAT | O_EXCL | O_CLOEXEC, 0600);
                 if (file < 0)
-                    return 1; // another program has its turn as well
+                    return 1; // another program has its turn at the same time
                 sched_yield();
                 close(file);
                 unlink(inside.constData());
@@ -212,7 +212,7 @@ void SdkTurn::programThatCrashesLeavesTheQueue()
     QCOMPARE(tickets().size(), 1);
     SessionTurn next(MODEM);
     QVERIFY(next.tryEnter());
-    QCOMPARE(tickets().size(), 1); // only its own
+    QCOMPARE(tickets().size(), 1); // only this program's ticket
 }
 
 void SdkTurn::waitingProgramThatCrashesIsSkipped()
@@ -249,7 +249,7 @@ void SdkTurn::symbolicLinkIsNotFollowed()
     SessionTurn first(MODEM);
     SessionTurn second(MODEM);
     QVERIFY(first.tryEnter());
-    QVERIFY(second.tryEnter()); // nobody waits
+    QVERIFY(second.tryEnter()); // no other program is waiting
     QVERIFY(QDir(target).isEmpty());
 }
 
@@ -260,7 +260,7 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     SessionTurn first(MODEM);
     SessionTurn second(MODEM);
     QVERIFY(first.tryEnter());
-    QVERIFY(second.tryEnter()); // nobody waits
+    QVERIFY(second.tryEnter()); // no other program is waiting
     QVERIFY(QDir(queues()).isEmpty());
 }
 
