@@ -93,8 +93,7 @@ int Program::failOnDevice(const std::string &code, bool wasNotSent)
     std::string message = deviceText(device);
     if (outcome.failure.reason == TKSV_FAILURE_DISABLED)
         message += m_options.enablesModem ? NOT_ENABLED : ENABLE_HINT;
-    if (outcome.failure.reason ==
-        TKSV_FAILURE_NONE) { // the modem became ready after the time limit
+    if (outcome.failure.reason == TKSV_FAILURE_NONE) { // the modem became ready too late
         outcome.failure.reason = TKSV_FAILURE_NOT_REGISTERED;
         message = failureText(outcome.failure);
     }

@@ -76,8 +76,8 @@ Failure UssdSession::lastFailure() const
     return m_deliveryThread == std::this_thread::get_id() ? m_deliveredFailure : m_failure;
 }
 
-/// Records how the newest request failed. If a call-back made this request, lastFailure() also
-/// returns this failure in the call-back from now on. Must be called with m_mutex locked.
+/// Records the failure of the newest request. If a call-back made this request, lastFailure()
+/// returns this failure inside the call-back, too. Must be called with m_mutex locked.
 void UssdSession::recordFailure(const Failure &failure)
 {
     m_failure = failure;

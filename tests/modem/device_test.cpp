@@ -267,8 +267,7 @@ void ModemDeviceTest::aModemOn4GOnlyIsSaid()
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_ON_4G; }));
     fake().misbehave(Misbehaviour{"AT+CUSD=1", Fault::Error, 100, 2});
     QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_ON_4G));
-    QCOMPARE(ask(u"*130#").type,
-             int(TKSV_FAILURE_ENDED_BY_NETWORK)); // another reason is more likely
+    QCOMPARE(ask(u"*130#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK)); // not caused by 4G
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     register4G("2");
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_SUPPORTED; }));

@@ -93,10 +93,9 @@ protected:
                                const std::function<void(QMessageBox *)> &look = nullptr);
     static QMessageBox *messageBox(); ///< returns the open message box, or null
     static QString textInMessageBox();
-    static void closeMessageBox(); ///< presses the box's button
-    void logicSays(int component,
-                   const QString &text); ///< emits a reply that does not belong to a command
-    static QStringList requests();       ///< the commands of all requests so far
+    static void closeMessageBox();                      ///< presses the box's button
+    void logicSays(int component, const QString &text); ///< emits a reply without a command
+    static QStringList requests();                      ///< the commands of all requests so far
 
     static QString text(const char *key);
     static QStringList languages();

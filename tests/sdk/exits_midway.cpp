@@ -16,7 +16,8 @@ namespace
 const int ASKED_EXIT_CODE = 42;
 
 std::atomic<bool> entered(false);
-// Not an object with a destructor, because other threads read it until the process ends.
+// A pointer instead of an object with a destructor, because other threads read the mode until the
+// process ends.
 const char *mode = "";
 
 bool isMode(const char *name)

@@ -35,8 +35,8 @@ const char *const NotificationService::ADDRESSEES[2] = {"8E4C1F07-3B6A-4d29-A5C1
 
 NotificationService::NotificationService(QObject *parent) : QObject(parent) {}
 
-// Reads the type of contract during the call, because the record of the plug-in is valid only
-// during the call.
+// Emits the type of contract immediately, because the record of the plug-in is valid only during
+// the call.
 int NotificationService::Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                                 NotifyParam)
 {

@@ -116,12 +116,10 @@ private:
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
-    bool m_isDetectionOn =
-        false; // the user or the integrator has enabled the prepaid/postpaid query
-    bool m_isRestartDue = false; // the plug-in's folder has changed since the plug-in read it
-    QDateTime
-        m_ownCodesTime; // modification time of the file with the user's codes when it was read
-    int m_windows = 0;  // the windows that are offered, a combination of SimWindow flags
+    bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
+    bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
+    QDateTime m_ownCodesTime;     // modification time of the user's codes when they were read
+    int m_windows = 0;            // the windows that are offered, a combination of SimWindow flags
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;

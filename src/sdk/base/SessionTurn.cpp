@@ -155,8 +155,7 @@ void SessionTurn::leave()
         return;
     m_isFirst = false;
     unlinkat(m_folder, std::to_string(m_number).c_str(), 0);
-    flock(m_ticket,
-          LOCK_UN); // unlocks the ticket even if a child process has inherited the descriptor
+    flock(m_ticket, LOCK_UN); // a child process may have inherited the descriptor
     close(std::exchange(m_ticket, -1));
 }
 

@@ -71,9 +71,8 @@ private:
     // therefore reads them without locking the mutex.
     mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false; // true once the thread has published m_info
-    unsigned m_lostModemCount =
-        0; // a task that was posted with a lower count must not use this modem
+    bool m_isInfoKnown = false;    // true once the thread has published m_info
+    unsigned m_lostModemCount = 0; // tasks posted with a lower count are for an earlier modem
     bool m_stopped = false;
 };
 

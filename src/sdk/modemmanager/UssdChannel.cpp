@@ -301,8 +301,7 @@ void UssdChannel::callFailed(const GError &error)
     } else {
         finish(failedReply(failure));
     }
-    if (!isInProgress(
-            error)) // an unfinished call of another program blocks the modem while it is idle
+    if (!isInProgress(error)) // another program's unfinished call blocks the idle modem
         askForStateOfOthers();
 }
 

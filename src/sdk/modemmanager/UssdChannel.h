@@ -132,9 +132,8 @@ private:
 
     Owner m_owner = Owner::Nobody;
     State m_state = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE; // the last state that was reported
-    bool m_isStateNew = false; // the interface was replaced, and its state was not handled yet
-    bool m_hasNewQuestion =
-        false; // NetworkRequest has changed since the call started, or without a call
+    bool m_isStateNew = false;     // the interface was replaced, and its state was not handled yet
+    bool m_hasNewQuestion = false; // NetworkRequest has changed during the call, or without one
 
     std::optional<Request> m_next;    // starts when no call is running
     std::optional<Request> m_running; // its call is running, or its reply waits for the state
