@@ -35,7 +35,7 @@ public:
     using Post = std::function<void(Event)>;
 
     /// `post` passes an event to the USSD service. `textUntaken` is called from the service's
-    /// thread when takeUntakenTexts() would return a new message.
+    /// thread when a new message is available from takeUntakenTexts().
     UssdSession(Post post, std::function<void()> textUntaken);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;

@@ -16,7 +16,7 @@ class MessageHelper : public QObject
 public:
     MessageHelper() { qApp->installEventFilter(this); }
 
-    /// The texts of all message boxes so far.
+    /// Returns the texts of all message boxes so far.
     QStringList texts() const { return m_texts; }
 
 protected:

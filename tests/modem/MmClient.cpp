@@ -81,7 +81,7 @@ void MmClient::forget()
     g_clear_object(&m_manager);
 }
 
-/// Creates a new manager for each use, so that the manager knows the current objects.
+/// Creates a new manager each time, so that the manager contains the current objects.
 bool MmClient::use(const std::string &object)
 {
     forget();

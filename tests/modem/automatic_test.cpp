@@ -140,7 +140,7 @@ void ModemAutomaticTest::theSimulatorIsNotUsedWithoutAModem()
     TKSV_Device_UseAutomatic();
     QVERIFY(waitUntil([] { return info().isLooking == 0; }));
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_ABSENT));
-    QVERIFY(waitUntil([] { return request(u"*100#") != 0; })); // the library knows the state
+    QVERIFY(waitUntil([] { return request(u"*100#") != 0; })); // the state of the modem is known
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NONE; }));
     TKSV_FailureInfo failure;
     QCOMPARE(TKSV_Device_GetLastFailure(&failure), 0L);

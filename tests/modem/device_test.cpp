@@ -335,14 +335,14 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"late."});
 }
 
-/// Tests a command that is sent before the library knows the state of the modem.
+/// Tests a command that is sent before the library has read the state of the modem.
 void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
 {
     useModem();
     TKSV_Device_UseModem("350000000000017");
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     TKSV_Device_UseModem("350000000000025");
-    // The library refuses the request if it already knows that this modem is absent.
+    // The library refuses the request if it has already detected that this modem is absent.
     const bool isAccepted = request(u"*100#") == 0;
     QVERIFY(waitForProblem(TKSV_PROBLEM_CHOSEN_ABSENT));
     const std::size_t expected = isAccepted ? 2 : 1;

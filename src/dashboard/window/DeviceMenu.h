@@ -33,11 +33,11 @@ public slots:
 signals:
     /// Emitted when the user selects a device. `word` is the return value of DeviceChoice::word().
     void chosen(const QString &word);
-    /// Emitted when the user requests to open a scenario file.
+    /// Emitted when the user selects the menu item for opening a scenario file.
     void openRequested();
     /// Emitted when the user switches the prepaid/postpaid query on or off.
     void detectionToggled(bool isOn);
-    /// Emitted when the user requests to select an operator's codes.
+    /// Emitted when the user selects the menu item for choosing an operator's codes.
     void operatorRequested();
 
 private slots:

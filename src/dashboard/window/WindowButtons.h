@@ -27,7 +27,7 @@ public:
 signals:
     /// Emitted when the user requests that the general window be shown in the page or hidden.
     void pageToggled(bool shown);
-    /// Emitted when the user requests to open a window (a PAID_TYPE) in a separate frame.
+    /// Emitted when the user requests that a window (a PAID_TYPE) be opened in a separate frame.
     void frameRequested(int paidType);
 
 private slots:

@@ -42,8 +42,8 @@ public:
     /// `equipmentId` identifies the modem among the programs of the user.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
-    /// Sets the interface, a newer proxy of the same interface, or null while the modem does not
-    /// have the interface.
+    /// Sets the proxy of the USSD interface, which may replace an earlier proxy. Null means that
+    /// the modem does not have the interface at this time.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
     /// Checks whether a session is open, and starts a waiting request. Must be called after
