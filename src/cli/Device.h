@@ -32,7 +32,7 @@ public:
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
     /// arrives first.
     bool await(const Waits::Condition &condition, Clock::time_point end);
-    /// Waits until the library has found the modem, or has found that there is none.
+    /// Waits until the library has found the modem, or has determined that there is none.
     void awaitModem(Milliseconds limit);
     /// Waits until the modem can send codes, unless only the user can change the state of the
     /// modem. Returns true if codes can be sent.

@@ -13,8 +13,8 @@ int exitCodeOf(TKSV_Failure reason);
 
 /// Returns an English error message for the failure. The message contains "It was not carried out."
 /// only if the command certainly did not reach the network. If the outcome is unknown, the message
-/// states that the network may have executed the command. The message does not contain the closing
-/// message of the network. Returns an empty string for TKSV_FAILURE_NONE.
+/// states that the network may have executed the command. The closing message of the network is not
+/// included. Returns an empty string for TKSV_FAILURE_NONE.
 std::string failureText(const TKSV_FailureInfo &failure);
 
 /// Returns the name of the reason for scripts, such as "in-use".

@@ -31,7 +31,7 @@ public:
     /// Waits until the modem can send codes. With --enable, switches on a modem that is switched
     /// off. Returns true if the modem can send codes.
     bool prepareDevice();
-    /// Waits until the library has found the modem, or has found that there is none.
+    /// Waits until the library has found the modem, or has determined that there is none.
     void awaitModem();
     /// Prints the reason why the device cannot be used, and returns the exit code. `code` is the
     /// code that could not be sent; it may be empty. Does not print anything if a signal has

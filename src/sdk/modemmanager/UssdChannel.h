@@ -35,7 +35,7 @@ public:
         std::function<void(RequestToken, const UssdReply &)> replied;
         std::function<void(const UssdReply &)> textReceived;
         std::function<void()> notPermitted;
-        std::function<void()> changed; // hasForeignSession() or waitsForTurn()
+        std::function<void()> changed; // hasForeignSession() or waitsForTurn() has changed
         std::function<bool()> isOnlyOn4G;
     };
 
