@@ -190,7 +190,7 @@ void ModemSharingTest::aMenuThatAnotherProgramAnsweredIsNotAnsweredAgain()
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitUntil([this] { return isTurnFree(); })); // the library has seen the other answer
-    QVERIFY(waitForForeignSession(false));               // and its end
+    QVERIFY(waitForForeignSession(false));               // and the end of the session
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 2);
     QCOMPARE(ask(u"1").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
     QCOMPARE(lastFailure().wasNotSent, 1);
