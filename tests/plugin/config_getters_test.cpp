@@ -40,6 +40,7 @@ private slots:
     void oddFileIsLikeAMissingOne_data();
     void oddFileIsLikeAMissingOne();
     void missingFileLeavesTheRecordsOfGettersUnchanged();
+    void gettersLogTheirOwnName();
     void shippedFileIsComplete();
 };
 
@@ -407,6 +408,27 @@ void ConfigGettersTest::missingFileLeavesTheRecordsOfGettersUnchanged()
     logic()->GetCmdEditSetting(edit);
     QCOMPARE(edit.headBlue, 77);
     QVERIFY(!edit.visible);
+}
+
+/// Tests that each getter logs its name, although the getters share the code that opens the file.
+/// Without a file, there is no Exit line.
+void ConfigGettersTest::gettersLogTheirOwnName()
+{
+    logic();
+    for (const bool exists : {true, false}) {
+        if (!exists)
+            writeConfig(QByteArray());
+        clearLog();
+        look(CHAR_SET_SEND);
+        clearSetting();
+        editSetting();
+        for (const char *getter : {"GetCharSet", "GetClearBtnSetting", "GetCmdEditSetting"}) {
+            const QString start = latin1("/src/USSDUIPlugin/USSDLogic.cpp: ") + latin1(getter);
+            QCOMPARE(timesLogged(start + latin1(" Enter")), 1);
+            QCOMPARE(timesLogged(start + latin1(" Exit")), exists ? 1 : 0);
+        }
+        QCOMPARE(timesLogged("openXMLFile xmlFilePath = "), 3);
+    }
 }
 
 void ConfigGettersTest::shippedFileIsComplete()

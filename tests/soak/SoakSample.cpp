@@ -16,8 +16,8 @@ namespace
 const double MEGABYTE = 1 << 20;
 
 /// The allowance for caches of Qt and of the C library that have no fixed size, such as glyphs,
-/// growing hash tables and free lists. A leak of 16 bytes per hundred commands exceeds the
-/// allowance in a long run.
+/// growing hash tables and free lists. In a long run, leaking one block, however small, per
+/// hundred commands exceeds the allowance, because malloc() uses at least 32 bytes for a block.
 const double HEAP_MAY_GROW = 0.25; // megabytes
 /// The allowance for free pages between used blocks, which the C library cannot return.
 const double RESIDENT_MAY_GROW = 6; // megabytes

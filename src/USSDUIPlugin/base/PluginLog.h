@@ -65,17 +65,19 @@ private:
 
 #ifndef USSD_NO_LOG_LINES
 #define USSD_IF_LOGGING(call) (call)
-#define USSD_LOG_SCOPE() PluginLog::Scope logScope(LOG_SOURCE, __func__)
+#define USSD_LOG_SCOPE_AS(function) PluginLog::Scope logScope(LOG_SOURCE, function)
 #define USSD_LOG_EXIT(...) logScope.exitWith(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) logScope.exitWithWarning(__VA_ARGS__)
 #define USSD_LOG_NO_EXIT() logScope.leaveSilently()
 #else
 #define USSD_IF_LOGGING(call) (false ? (call) : static_cast<void>(0))
-#define USSD_LOG_SCOPE() static_cast<void>(LOG_SOURCE)
+#define USSD_LOG_SCOPE_AS(function) static_cast<void>(function), static_cast<void>(LOG_SOURCE)
 #define USSD_LOG_EXIT(...) USSD_LOG(__VA_ARGS__)
 #define USSD_LOG_EXIT_IMPORTANT(...) USSD_LOG_IMPORTANT(__VA_ARGS__)
 #define USSD_LOG_NO_EXIT() static_cast<void>(LOG_SOURCE)
 #endif
+
+#define USSD_LOG_SCOPE() USSD_LOG_SCOPE_AS(__func__)
 
 #define USSD_LOG_LINE(type, function, ...)                                                         \
     USSD_IF_LOGGING(PluginLog::line(type, LOG_SOURCE, function, __VA_ARGS__))

@@ -38,6 +38,19 @@ int commonIntAttr(const Component &component, int attr)
     return -1;
 }
 
+/// Opens the configuration file and passes its reader to `read`. The log lines name `function`.
+template <typename Read>
+void readConfigurationFile(USSDLogic &logic, const char *function, const Read &read)
+{
+    USSD_LOG_SCOPE_AS(function);
+    QXmlStreamReader reader;
+    QFile file;
+    if (logic.openXMLFile(reader, file))
+        read(reader);
+    else
+        USSD_LOG_NO_EXIT(); // openXMLFile() has logged the reason
+}
+
 } // namespace
 
 bool USSDLogic::openXMLFile(QXmlStreamReader &reader, QFile &file)
@@ -68,14 +81,8 @@ void USSDLogic::skipReaderTillString(QXmlStreamReader &reader, QString name)
 
 void USSDLogic::load()
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    readConfiguration(reader, m_config);
+    readConfigurationFile(
+        *this, __func__, [this](QXmlStreamReader &reader) { readConfiguration(reader, m_config); });
 }
 
 void USSDLogic::loadSendCharSettings(QXmlStreamReader &reader)
@@ -105,46 +112,31 @@ void USSDLogic::loadAutoUssdSettings(QXmlStreamReader &reader)
 
 void USSDLogic::GetCharSet(_CHAR_SET_COLOR which, Char &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    if (which == CHAR_SET_SEND) {
-        loadSendCharSettings(reader);
-        out = m_config.sentChar;
-    } else if (which == CHAR_SET_RECEIVE) {
-        loadRecvCharSettings(reader);
-        out = m_config.receivedChar;
-    }
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        if (which == CHAR_SET_SEND) {
+            loadSendCharSettings(reader);
+            out = m_config.sentChar;
+        } else if (which == CHAR_SET_RECEIVE) {
+            loadRecvCharSettings(reader);
+            out = m_config.receivedChar;
+        }
+    });
 }
 
 void USSDLogic::GetClearBtnSetting(ClearHistory &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    loadClearBtnSettings(reader);
-    out = m_config.clearHistory;
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        loadClearBtnSettings(reader);
+        out = m_config.clearHistory;
+    });
 }
 
 void USSDLogic::GetCmdEditSetting(CmdEdit &out)
 {
-    USSD_LOG_SCOPE();
-    QXmlStreamReader reader;
-    QFile file;
-    if (!openXMLFile(reader, file)) {
-        USSD_LOG_NO_EXIT();
-        return;
-    }
-    loadCmdEditSettings(reader);
-    out = m_config.cmdEdit;
+    readConfigurationFile(*this, __func__, [&](QXmlStreamReader &reader) {
+        loadCmdEditSettings(reader);
+        out = m_config.cmdEdit;
+    });
 }
 
 void USSDLogic::GetPrePostDiffer(PrePostDiffer &out)
