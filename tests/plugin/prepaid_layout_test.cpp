@@ -440,7 +440,7 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
 /// longer to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
-    const QFontMetrics metrics = QApplication::fontMetrics();
+    const QFontMetrics metrics(QApplication::font());
     QString fits = QStringLiteral("http://");
     while (metrics.horizontalAdvance(fits + QLatin1Char('i')) <= 300)
         fits += QLatin1Char('i');
