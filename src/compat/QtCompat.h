@@ -22,6 +22,7 @@
 #include <QDesktopWidget>
 #include <QRegExpValidator>
 #else
+#include <QCloseEvent>
 #include <QScreen>
 #endif
 
@@ -92,6 +93,20 @@ inline QPixmap pictureOf(QWidget *widget)
 #else
     return widget->grab();
 #endif
+}
+
+/// Closes the widget. In Qt 6, QWidget::close() sends no close event to a hidden window, which a
+/// rejected dialog is.
+inline void closeEvenIfHidden(QWidget *widget)
+{
+#if QT_VERSION >= 0x060000
+    if (widget->isHidden()) {
+        QCloseEvent event;
+        QCoreApplication::sendEvent(widget, &event);
+        return;
+    }
+#endif
+    widget->close();
 }
 
 /// Returns the area that windows may cover on the screen that shows `widget`.
