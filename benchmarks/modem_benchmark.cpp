@@ -26,6 +26,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <signal.h>
+#include <sys/ptrace.h>
 
 #include "Benchmark.h"
 #include "requests/USSDLogic.h"
@@ -128,6 +129,36 @@ double millisecondsOf(const std::vector<std::string> &command)
     return Benchmark::microseconds([&] { runToItsEnd(command); }) / 1000;
 }
 
+double valueOf(const std::string &file, const std::string &key)
+{
+    std::ifstream stream(file);
+    std::string word;
+    double value = 0;
+    while (stream >> word) {
+        if (word == key && stream >> value)
+            return value;
+    }
+    return value;
+}
+
+/// Returns the peak of the resident memory of a program in MB, read in the moment when the program
+/// exits. The figure of wait4() would contain the memory of this process, which the program shared
+/// until its start.
+double megabytesOf(const std::vector<std::string> &command)
+{
+    const pid_t child = spawn(command);
+    if (ptrace(PTRACE_SEIZE, child, nullptr, PTRACE_O_TRACEEXIT) != 0)
+        fail("cannot trace " + command[0]);
+    int status = 0;
+    waitpid(child, &status, 0);
+    const double kilobytes = valueOf("/proc/" + std::to_string(child) + "/status", "VmHWM:");
+    ptrace(PTRACE_DETACH, child, nullptr, nullptr);
+    waitpid(child, &status, 0);
+    if (status != 0 || kilobytes == 0)
+        fail(command[0] + " has failed");
+    return kilobytes / 1000;
+}
+
 template <typename Trip>
 double eachOf(int times, const Trip &trip)
 {
@@ -185,6 +216,13 @@ void compareRoundTrips(FakeModems::MmClient &bare)
 
 void compareFirstReplies()
 {
+    const std::vector<std::string> script = {USSD_PROGRAM, "send", CODE};
+    Benchmark::compare(
+        Benchmark::Title("program start to its end, with a reply (ussd send)", "mmcli", 1.2, "ms"),
+        [&] { return millisecondsOf(script); }, [] { return millisecondsOf(TOOL); });
+    Benchmark::compare(
+        Benchmark::Title("peak resident memory of ussd send", "mmcli", 1.2, "MB"),
+        [&] { return megabytesOf(script); }, [] { return megabytesOf(TOOL); });
     const std::vector<std::string> dashboard = {USSD_DASHBOARD, "--send", CODE};
     Benchmark::compare(
         Benchmark::Title("program start to the first reply (ussd-dashboard --send)", "mmcli",
@@ -199,19 +237,7 @@ struct Activity {
     double cpuMilliseconds = 0;
 };
 
-double valueOf(const std::string &file, const std::string &key)
-{
-    std::ifstream stream(file);
-    std::string word;
-    double value = 0;
-    while (stream >> word) {
-        if (word == key && stream >> value)
-            return value;
-    }
-    return value;
-}
-
-/// Returns the CPU time of a thread, which is the first number in its schedstat file.
+/// Returns the CPU time of a thread: the first number of its schedstat file.
 double nanosecondsOnCpu(const std::string &thread)
 {
     std::ifstream stream(thread + "/schedstat");
@@ -269,8 +295,10 @@ int main(int argc, char **argv)
     const std::string problem = world.start();
     if (!problem.empty())
         fail(problem);
-    if (!world.addModem("one", NETWORK).empty())
+    if (!world.addModem("one", NETWORK).empty() || world.enable("one").empty())
         fail("no modem");
+    if (world.enable("one").empty())
+        fail("the modem does not register");
     setenv("TKSV_BACKEND", "modemmanager", 1);
     const QCoreApplication application(argc, argv);
     Benchmark::dropMessages();

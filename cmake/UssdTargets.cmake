@@ -40,6 +40,14 @@ function(ussd_set_up target)
     endif()
 endfunction()
 
+# Links the runtime of the compiler into the target. The dynamic linker needs a millisecond and almost
+# a megabyte for libstdc++.so, which is a third of the start of a small program.
+function(ussd_link_runtime_statically target)
+    if(NOT USSD_SANITIZE)
+        target_link_options(${target} PRIVATE -static-libstdc++ -static-libgcc)
+    endif()
+endfunction()
+
 function(ussd_hide_symbols target)
     set_target_properties(${target} PROPERTIES C_VISIBILITY_PRESET hidden CXX_VISIBILITY_PRESET hidden
                                                VISIBILITY_INLINES_HIDDEN ON)

@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>الشبكة المحاكاة الافتراضية</translation>
+        <translation>عرض تجريبي (شبكة مُختلَقة)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>المصدر: شبكة محاكاة (%1)</translation>
+        <translation>عرض تجريبي: شبكة مُختلَقة (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>يأتي --tour بأجهزته الخاصة، فلا يُستخدم معه --scenario ولا --modem.</translation>
+        <translation>يأتي ‎--tour‎ بأجهزته الخاصة، فلا يُستخدم معه ‎--demo‎ ولا ‎--scenario‎ ولا ‎--modem‎.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -641,16 +641,23 @@
                            قوائم الشبكة بالترتيب
   --tour مجلد              المرور على كل النوافذ دون شاشة، مع ترك صور
                            وملف transcript.txt في المجلد
-  --scenario ملف           استخدام الشبكة المحاكاة في هذا الملف
+  --demo                   استخدام شبكة مُختلَقة دون إرسال أي شيء
+  --scenario ملف           استخدام الشبكة المُختلَقة في هذا الملف
   --modem معرّف            استخدام المودم ذي هذا المعرّف (IMEI)
+  --enable                 مع ‎--send‎: تشغيل المودم إن كان متوقفًا
+  --end-foreign-session    مع ‎--send‎: إنهاء رموز برنامج آخر أولًا
   --language رمز           اللغة، مثل en أو ar
   --verbose                كتابة سجل البرنامج والملحق
   --log ملف                السجل نفسه في ملف لا يقرأه سواك
   --help                   هذا النص
   --version                إصدار البرنامج
 
-رمز الإنهاء 0 عند النجاح، و1 عند الفشل، و2 إذا كانت الوسائط أو ملف السيناريو
-غير صحيحة.</translation>
+رمز إنهاء ‎--send‎ هو 0 إذا جاء رد على كل أمر، و1 عند الرفض، و2 عند خطأ في
+الاستخدام، و3 إذا لم يوجد مودم أو لم يكن جاهزًا، و4 إذا لم يأت رد في الوقت
+المحدد، و5 إذا كان برنامج آخر يستخدمه، و6 إذا لم يُسمح بذلك، و7 إذا بقيت قائمة
+مفتوحة، و8 إذا تعذّرت كتابة الخرج، و128 مع رقم الإشارة عند المقاطعة. وفي سوى
+ذلك رمز الإنهاء 0 عند النجاح، و1 عند الفشل، و2 إذا كانت الوسائط أو ملف
+السيناريو غير صحيحة.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -724,7 +731,7 @@
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>تلقائي: مودم، وإلا شبكة محاكاة</translation>
+        <translation>تلقائي: أول مودم</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -752,11 +759,11 @@
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>تعذّر الوصول إلى ناقل رسائل النظام (‎D-Bus‎)، فلا يُعثر على مودم. شغّل الخدمة ‎dbus‎ أو اختر شبكة محاكاة من القائمة.</translation>
+        <translation>تعذّر الوصول إلى ناقل رسائل النظام (‎D-Bus‎)، فلا يُعثر على مودم. شغّل الخدمة ‎dbus‎ أو اختر العرض التجريبي من القائمة.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>لا يعمل ‎ModemManager‎، فلا يُعثر على مودم. ثبّته وشغّله (‎systemctl start ModemManager‎) أو اختر شبكة محاكاة من القائمة.</translation>
+        <translation>لا يعمل ‎ModemManager‎، فلا يُعثر على مودم. ثبّته وشغّله (‎systemctl start ModemManager‎) أو اختر العرض التجريبي من القائمة.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -784,7 +791,7 @@
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>لا يوجد مودم. صِل مودمًا أو اختر شبكة محاكاة من القائمة.</translation>
+        <translation>لا يوجد مودم. صِل مودمًا أو اختر العرض التجريبي من القائمة.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -796,7 +803,7 @@
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>المودم متوقف. شغّله من إعدادات الشبكة في النظام.</translation>
+        <translation>المودم متوقف. لن يرسل رموزًا إلى أن يُشغَّل.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -884,7 +891,7 @@
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>‎--modem‎ و‎--scenario‎ لا يجتمعان.</translation>
+        <translation>لا يجتمع ‎--modem‎ مع ‎--demo‎ ولا مع ‎--scenario‎.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -924,7 +931,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>الرموز المرفقة بالبرنامج</translation>
+        <translation>رموز العرض التجريبي</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -940,7 +947,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>تُستخدم الآن الرموز المرفقة بالبرنامج.</translation>
+        <translation>تُستخدم الآن رموز العرض التجريبي.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -964,6 +971,194 @@
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>الإعداد محدد بواسطة ‎USSD_PLUGIN_LIBRARY_PATH‎.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>لوحة USSD – عرض تجريبي</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>عرض تجريبي: الشبكة مُختلَقة ولا يُرسل شيء.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>عرض تجريبي: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>جارٍ البحث عن مودم…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>لا تقبل الشبكة بطاقة SIM هذه.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>بطاقة SIM أو المودم مقفل.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>لا تقبل الشبكة بطاقة SIM هذه. اسأل المشغّل هل هي مفعّلة، أو استخدم غيرها.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>يعمل ‎ModemManager‎ لكنه لا يجيب. انتظر لحظة أو أعد تشغيله (‎systemctl restart ModemManager‎).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>أُزيل المودم. صِله من جديد.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>يستخدم برنامج آخر رموزًا على هذا المودم.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>البحث من جديد</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>إنهاؤه</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>رموز برنامج آخر</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>هل تُنهى جلسة البرنامج الآخر مع أنه قد يكون بصدد شراء شيء؟</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>يمكنك إيقاف الانتظار، لكن الشبكة قد تنفّذ الأمر رغم ذلك.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>في انتظار أن يفرغ برنامج آخر من المودم…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>أنهت الشبكة الجلسة.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>لا تدعم الشبكة أو المودم هذا الرمز.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>انتظرت الشبكة طويلًا فأنهت الجلسة.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>لم ترد الشبكة في الوقت المحدد.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>أرسلت الشبكة ردًا فارغًا.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>ردّت الشبكة، لكن المودم لم يستطع فك ترميز الرد.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>لا يستطيع المودم إرسال أحد أحرف هذا الأمر.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>لا يوجد مودم يستطيع إرسال الرموز.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>المودم متوقف.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>المودم غير مسجّل في أي شبكة.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>أُزيل المودم، أو توقف ‎ModemManager‎.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>ليس مسموحًا لك بإرسال الرموز عبر هذا المودم.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>يستخدم برنامج آخر رموزًا على هذا المودم.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>المودم متصل بشبكة 4G فقط، بينما تجيب الشبكة عن الرموز على 2G و3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>أُلغي الأمر.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>رفضت الشبكة أو المودم الأمر.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>لم يُنفَّذ الأمر.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>ربما نفّذت الشبكة الأمر رغم ذلك.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>آخر رسالة من الشبكة: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>لا يُستخدم %1 إلا مع ‎--send‎.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>يشغّله الخيار ‎--enable‎.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>ينهي ‎--end-foreign-session‎ جلسة البرنامج الآخر، الذي قد يكون بصدد شراء شيء.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>كانت الشبكة تنتظر جوابًا عن هذه القائمة. أُنهيت الجلسة.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>تعذّرت الكتابة إلى الخرج القياسي.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>لا شيء: حقل الرموز وحده</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>لا تُستخدم الآن رموز أي مشغّل. اكتب الرموز في الحقل.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>لا رموز معدّة لهذه البطاقة. اكتب رمزًا في الحقل أو اختر المشغّل.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>معرفة هل بطاقة SIM مسبقة الدفع أم آجلة (يُرسل رمزًا)</translation>
     </message>
 </context>
 </TS>

@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>&amp;Standardnetz (simuliert)</translation>
+        <translation>&amp;Vorführung (erfundenes Netz)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Quelle: simuliertes Netz (%1)</translation>
+        <translation>Vorführung: erfundenes Netz (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour bringt eigene Geräte mit; weder --scenario noch --modem passt dazu.</translation>
+        <translation>--tour bringt eigene Geräte mit; --demo, --scenario und --modem passen nicht dazu.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -641,16 +641,24 @@ Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
                            und die Menüs des Netzes der Reihe nach beantworten
   --tour ORDNER            ohne Anzeige durch alle Fenster gehen; lässt Bilder
                            und transcript.txt im Ordner
-  --scenario DATEI         das simulierte Netz dieser Datei verwenden
+  --demo                   ein erfundenes Netz verwenden; nichts wird gesendet
+  --scenario DATEI         das erfundene Netz dieser Datei verwenden
   --modem KENNUNG          das Modem mit dieser Gerätekennung (IMEI) verwenden
+  --enable                 bei --send: das Modem einschalten, wenn es aus ist
+  --end-foreign-session    bei --send: zuerst die Codes eines anderen Programms
+                           beenden
   --language CODE          Sprache, zum Beispiel en oder ar
   --verbose                ausgeben, was Programm und Plug-in protokollieren
   --log DATEI              dasselbe in eine Datei, die nur Sie lesen können
   --help                   dieser Text
   --version                die Version des Programms
 
-Das Ende ist 0, wenn alles gelang, 1, wenn etwas misslang, und 2, wenn die
-Argumente oder die Szenariodatei falsch sind.</translation>
+--send endet mit 0, wenn jeder Befehl beantwortet wurde, 1 abgelehnt, 2 falscher
+Aufruf, 3 kein Modem oder nicht bereit, 4 keine Antwort in der Zeit, 5 von einem
+anderen Programm belegt, 6 nicht erlaubt, 7 Menü offen geblieben, 8 Ausgabe nicht
+geschrieben, 128 und die Nummer des Signals bei einem Abbruch. Sonst ist das Ende
+0, wenn alles gelang, 1, wenn etwas misslang, und 2, wenn die Argumente oder die
+Szenariodatei falsch sind.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -724,7 +732,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Automatisch: Modem, sonst simuliert</translation>
+        <translation>&amp;Automatisch: das erste Modem</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -752,11 +760,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>Der Nachrichtenbus des Systems (D-Bus) ist nicht erreichbar, daher wird kein Modem gefunden. Den Dienst dbus starten oder im Menü ein simuliertes Netz wählen.</translation>
+        <translation>Der Nachrichtenbus des Systems (D-Bus) ist nicht erreichbar, daher wird kein Modem gefunden. Den Dienst dbus starten oder im Menü die Vorführung wählen.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager läuft nicht, daher wird kein Modem gefunden. Installieren und starten (systemctl start ModemManager) oder im Menü ein simuliertes Netz wählen.</translation>
+        <translation>ModemManager läuft nicht, daher wird kein Modem gefunden. Installieren und starten (systemctl start ModemManager) oder im Menü die Vorführung wählen.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -784,7 +792,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>Es ist kein Modem da. Eines anschließen oder im Menü ein simuliertes Netz wählen.</translation>
+        <translation>Es ist kein Modem da. Eines anschließen oder im Menü die Vorführung wählen.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -796,7 +804,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>Das Modem ist ausgeschaltet. In den Netzwerkeinstellungen des Systems einschalten.</translation>
+        <translation>Das Modem ist ausgeschaltet. Es sendet keine Codes, bis es eingeschaltet wird.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -884,7 +892,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem und --scenario passen nicht zusammen.</translation>
+        <translation>Zu --modem passt weder --demo noch --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -924,7 +932,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>Die mit dem Programm gelieferten Codes</translation>
+        <translation>Die Codes der Vorführung</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -940,7 +948,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Jetzt werden die mit dem Programm gelieferten Codes verwendet.</translation>
+        <translation>Jetzt werden die Codes der Vorführung verwendet.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -964,6 +972,194 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>Die Konfiguration ist durch USSD_PLUGIN_LIBRARY_PATH bestimmt.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>USSD-Dashboard – Vorführung</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Vorführung: Das Netz ist erfunden; es wird nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Vorführung: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>Kein Modem</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Ein Modem wird gesucht …</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>Das Netz nimmt diese SIM nicht an.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>Die SIM-Karte oder das Modem ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>Das Netz nimmt diese SIM nicht an. Beim Betreiber fragen, ob sie freigeschaltet ist, oder eine andere verwenden.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager läuft, antwortet aber nicht. Einen Augenblick warten oder neu starten (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>Das Modem wurde entfernt. Bitte wieder anschließen.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Ein anderes Programm verwendet gerade Codes auf diesem Modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>&amp;Einschalten</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>Erneut s&amp;uchen</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Codes eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>Die Sitzung des anderen Programms beenden, obwohl es gerade etwas kaufen könnte?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>Das Warten lässt sich abbrechen, doch das Netz führt den Befehl möglicherweise trotzdem aus.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>Es wird gewartet, bis ein anderes Programm mit dem Modem fertig ist …</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>Das Netz hat die Sitzung beendet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>Das Netz oder das Modem unterstützt diesen Code nicht.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>Das Netz hat zu lange gewartet und die Sitzung beendet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>Das Netz hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>Das Netz hat eine leere Antwort gesendet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>Das Netz hat geantwortet, aber das Modem konnte die Antwort nicht entschlüsseln.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>Das Modem kann ein Zeichen dieses Befehls nicht senden.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>Es ist kein Modem da, das Codes senden kann.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>Das Modem ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>Das Modem ist in keinem Netz angemeldet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>Das Modem wurde entfernt, oder ModemManager wurde beendet.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>Sie dürfen mit diesem Modem keine Codes senden.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Ein anderes Programm verwendet gerade Codes auf diesem Modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>Das Modem ist nur mit einem 4G-Netz verbunden; das Netz beantwortet Codes über 2G und 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>Der Befehl wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>Das Netz oder das Modem hat den Befehl abgelehnt.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>Der Befehl wurde nicht ausgeführt.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>Das Netz hat den Befehl möglicherweise trotzdem ausgeführt.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Letzte Nachricht des Netzes: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 passt nur zu --send.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable schaltet es ein.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session beendet die Sitzung des anderen Programms, das gerade etwas kaufen könnte.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>Das Netz hat auf eine Antwort auf dieses Menü gewartet. Die Sitzung wurde beendet.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>Die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>Keine: nur das Feld für Codes</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>Jetzt werden keine Codes eines Betreibers verwendet. Codes in das Feld eingeben.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>Für diese SIM-Karte sind keine Codes eingerichtet. Einen Code in das Feld eingeben oder den Betreiber wählen.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>&amp;Feststellen, ob die SIM Prepaid oder Vertrag ist (sendet einen Code)</translation>
     </message>
 </context>
 </TS>

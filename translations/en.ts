@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>&amp;Default simulated network</translation>
+        <translation>&amp;Demonstration (invented network)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Source: simulated network (%1)</translation>
+        <translation>Demonstration: invented network (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour brings devices of its own, so neither --scenario nor --modem goes with it.</translation>
+        <translation>--tour brings devices of its own, so none of --demo, --scenario and --modem goes with it.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -641,16 +641,23 @@ Shows the windows of the USSD plug-in and the state of the device.
                            answer the network's menus with the answers in turn
   --tour FOLDER            walk through all windows without a display; leaves
                            pictures and transcript.txt in the folder
-  --scenario FILE          use the simulated network of this file
+  --demo                   use an invented network; nothing is sent
+  --scenario FILE          use the invented network of this file
   --modem ID               use the modem with this equipment identifier (IMEI)
+  --enable                 with --send: switch the modem on if it is off
+  --end-foreign-session    with --send: end the codes of another program first
   --language CODE          language, for example en or ar
   --verbose                write what the program and the plug-in log
   --log FILE               write the same to a file that only you can read
   --help                   this text
   --version                the program's version
 
-It ends with 0 when all went well, 1 when something failed, and 2 when the
-arguments or the scenario file are wrong.</translation>
+--send ends with 0 when every command was answered, 1 refused, 2 wrong usage,
+3 no modem or not ready, 4 no answer in time, 5 in use by another program,
+6 not permitted, 7 menu left open, 8 output not written, 128 and the number of
+the signal when it was interrupted. Otherwise the program ends with 0 when all
+went well, 1 when something failed, and 2 when the arguments or the scenario
+file are wrong.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -724,7 +731,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Automatic: a modem, or else simulated</translation>
+        <translation>&amp;Automatic: the first modem</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -752,11 +759,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>The system’s message bus (D-Bus) cannot be reached, so no modem is found. Start the service dbus, or choose a simulated network in the menu.</translation>
+        <translation>The system’s message bus (D-Bus) cannot be reached, so no modem is found. Start the service dbus, or choose the demonstration in the menu.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager does not run, so no modem is found. Install and start it (systemctl start ModemManager), or choose a simulated network in the menu.</translation>
+        <translation>ModemManager does not run, so no modem is found. Install and start it (systemctl start ModemManager), or choose the demonstration in the menu.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -784,7 +791,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>There is no modem. Connect one, or choose a simulated network in the menu.</translation>
+        <translation>There is no modem. Connect one, or choose the demonstration in the menu.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -796,7 +803,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>The modem is switched off. Switch it on in the system’s network settings.</translation>
+        <translation>The modem is switched off. It sends no codes until somebody switches it on.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -884,7 +891,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem and --scenario do not go together.</translation>
+        <translation>--modem goes with neither --demo nor --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -924,7 +931,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>The codes that come with the program</translation>
+        <translation>The codes of the demonstration</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -940,7 +947,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>The codes that come with the program are in use now.</translation>
+        <translation>The codes of the demonstration are in use now.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -964,6 +971,194 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>The configuration is chosen by USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>USSD dashboard – demonstration</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Demonstration: the network is invented; nothing is sent.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Demonstration: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>No modem</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Looking for a modem…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>The network does not accept this SIM.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>The SIM card or the modem is blocked.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>The network does not accept this SIM. Ask the operator whether it is active, or use another one.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager runs but does not answer. Wait a moment, or start it again (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>The modem was removed. Connect it again.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Another program is using codes on this modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>S&amp;witch on</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>Look a&amp;gain</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>&amp;End it</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Codes of another program</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>End the session of the other program, although it may be buying something?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>You can stop waiting, but the network may carry out the command all the same.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>Waiting until another program has finished with the modem…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>Cance&amp;l</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>The network ended the session.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>The network or the modem does not support this code.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>The network waited too long and ended the session.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>The network did not reply in time.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>The network sent an empty reply.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>The network replied, but the modem could not decode the reply.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>The modem cannot send a character of this command.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>There is no modem that can send codes.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>The modem is switched off.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>The modem is not registered with a network.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>The modem was removed, or ModemManager ended.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>You are not permitted to send codes with this modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Another program is using codes on this modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>The modem is connected to a 4G network only, and the network answers codes on 2G and 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>The command was cancelled.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>The network or the modem refused the command.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>It was not carried out.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>The network may have carried out the command all the same.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Last message of the network: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 goes with --send only.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable switches it on.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session ends the session of the other program, which may be buying something.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>The network waited for an answer to this menu. The session was ended.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>Standard output cannot be written.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>None: only the field for codes</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>No operator’s codes are in use now. Type codes into the field.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>No codes are set up for this SIM card. Type a code into the field, or choose the operator.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>&amp;Find out whether the SIM is prepaid or postpaid (sends a code)</translation>
     </message>
 </context>
 </TS>

@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>Red simulada pre&amp;determinada</translation>
+        <translation>&amp;Demostración (red inventada)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Fuente: red simulada (%1)</translation>
+        <translation>Demostración: red inventada (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour trae sus propios dispositivos; no se puede añadir --scenario ni --modem.</translation>
+        <translation>--tour trae sus propios dispositivos; no se puede añadir --demo, --scenario ni --modem.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -642,16 +642,22 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
                            contestar por turno a los menús de la red
   --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
                            imágenes y transcript.txt en la carpeta
-  --scenario ARCHIVO       usar la red simulada de este archivo
+  --demo                   usar una red inventada; no se envía nada
+  --scenario ARCHIVO       usar la red inventada de este archivo
   --modem ID               usar el módem con este identificador (IMEI)
+  --enable                 con --send: encender el módem si está apagado
+  --end-foreign-session    con --send: terminar antes los códigos de otro programa
   --language CÓDIGO        idioma, por ejemplo en o ar
   --verbose                escribir el registro del programa y del complemento
   --log ARCHIVO            lo mismo en un archivo que solo usted puede leer
   --help                   este texto
   --version                la versión del programa
 
-Termina con 0 si todo salió bien, con 1 si algo falló y con 2 si los argumentos
-o el archivo de escenario son incorrectos.</translation>
+--send termina con 0 si cada orden tuvo respuesta, 1 rechazada, 2 uso incorrecto,
+3 sin módem o no preparado, 4 sin respuesta a tiempo, 5 en uso por otro programa,
+6 no permitido, 7 menú abierto, 8 salida no escrita, 128 más el número de la señal
+si fue interrumpido. En los demás casos termina con 0 si todo salió bien, con 1 si
+algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -725,7 +731,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Automático: un módem o, si no hay, simulado</translation>
+        <translation>&amp;Automático: el primer módem</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -753,11 +759,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>No se puede acceder al bus de mensajes del sistema (D-Bus), así que no se encuentra ningún módem. Inicie el servicio dbus o elija una red simulada en el menú.</translation>
+        <translation>No se puede acceder al bus de mensajes del sistema (D-Bus), así que no se encuentra ningún módem. Inicie el servicio dbus o elija la demostración en el menú.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager no está en marcha, así que no se encuentra ningún módem. Instálelo e inícielo (systemctl start ModemManager) o elija una red simulada en el menú.</translation>
+        <translation>ModemManager no está en marcha, así que no se encuentra ningún módem. Instálelo e inícielo (systemctl start ModemManager) o elija la demostración en el menú.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -785,7 +791,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>No hay ningún módem. Conecte uno o elija una red simulada en el menú.</translation>
+        <translation>No hay ningún módem. Conecte uno o elija la demostración en el menú.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -797,7 +803,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>El módem está apagado. Enciéndalo en los ajustes de red del sistema.</translation>
+        <translation>El módem está apagado. No envía códigos hasta que se encienda.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -885,7 +891,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem y --scenario no van juntos.</translation>
+        <translation>--modem no va ni con --demo ni con --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -925,7 +931,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>Los códigos que vienen con el programa</translation>
+        <translation>Los códigos de la demostración</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -941,7 +947,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Ahora se usan los códigos que vienen con el programa.</translation>
+        <translation>Ahora se usan los códigos de la demostración.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -965,6 +971,194 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>La configuración la determina USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>Panel USSD – demostración</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Demostración: la red es inventada; no se envía nada.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Demostración: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>Sin módem</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Buscando un módem…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>La red no acepta esta SIM.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>La tarjeta SIM o el módem está bloqueado.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>La red no acepta esta SIM. Pregunte al operador si está activa o use otra.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager está en marcha, pero no responde. Espere un momento o reinícielo (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>Se ha retirado el módem. Vuelva a conectarlo.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Otro programa está usando códigos en este módem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>Enc&amp;ender</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>&amp;Buscar de nuevo</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>&amp;Terminarlo</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Códigos de otro programa</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>¿Terminar la sesión del otro programa, aunque quizá esté comprando algo?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>Puede dejar de esperar, pero es posible que la red ejecute la orden de todos modos.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>Esperando a que otro programa termine con el módem…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>C&amp;ancelar</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>La red ha terminado la sesión.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>La red o el módem no admite este código.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>La red ha esperado demasiado y ha terminado la sesión.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>La red no ha respondido a tiempo.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>La red ha enviado una respuesta vacía.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>La red ha respondido, pero el módem no ha podido descodificar la respuesta.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>El módem no puede enviar un carácter de esta orden.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>No hay ningún módem que pueda enviar códigos.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>El módem está apagado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>El módem no está registrado en ninguna red.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>Se ha retirado el módem, o ModemManager ha terminado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>No tiene permiso para enviar códigos con este módem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Otro programa está usando códigos en este módem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>El módem solo está conectado a una red 4G, y la red responde a los códigos por 2G y 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>La orden se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>La red o el módem ha rechazado la orden.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>La orden no se ha ejecutado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>Es posible que la red haya ejecutado la orden de todos modos.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Último mensaje de la red: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 solo va con --send.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable lo enciende.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session termina la sesión del otro programa, que quizá esté comprando algo.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>La red esperaba una respuesta a este menú. Se ha cerrado la sesión.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>Ninguno: solo el campo de códigos</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>Ahora no se usan códigos de ningún operador. Escriba los códigos en el campo.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>No hay códigos configurados para esta tarjeta SIM. Escriba un código en el campo o elija el operador.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>A&amp;veriguar si la SIM es de prepago o de pospago (envía un código)</translation>
     </message>
 </context>
 </TS>

@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>Réseau simulé par &amp;défaut</translation>
+        <translation>&amp;Démonstration (réseau inventé)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Source : réseau simulé (%1)</translation>
+        <translation>Démonstration : réseau inventé (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour apporte ses propres appareils ; ni --scenario ni --modem ne peut l’accompagner.</translation>
+        <translation>--tour apporte ses propres appareils ; --demo, --scenario et --modem ne peuvent l’accompagner.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -641,16 +641,24 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
                            répondre tour à tour aux menus du réseau
   --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
                            images et transcript.txt dans le dossier
-  --scenario FICHIER       utiliser le réseau simulé de ce fichier
+  --demo                   utiliser un réseau inventé ; rien n’est envoyé
+  --scenario FICHIER       utiliser le réseau inventé de ce fichier
   --modem IDENTIFIANT      utiliser le modem de cet identifiant (IMEI)
+  --enable                 avec --send : allumer le modem s’il est éteint
+  --end-foreign-session    avec --send : mettre d’abord fin aux codes d’un autre
+                           programme
   --language CODE          langue, par exemple en ou ar
   --verbose                écrire le journal du programme et du module
   --log FICHIER            la même chose dans un fichier lisible de vous seul
   --help                   ce texte
   --version                la version du programme
 
-Le résultat est 0 quand tout a réussi, 1 en cas d’échec et 2 quand les
-arguments ou le fichier de scénario sont incorrects.</translation>
+--send se termine par 0 quand chaque commande a eu sa réponse, 1 refusée, 2 appel
+incorrect, 3 pas de modem ou pas prêt, 4 pas de réponse à temps, 5 utilisé par un
+autre programme, 6 non autorisé, 7 menu resté ouvert, 8 sortie non écrite, 128
+plus le numéro du signal en cas d’interruption. Sinon, le résultat est 0 quand
+tout a réussi, 1 en cas d’échec et 2 quand les arguments ou le fichier de
+scénario sont incorrects.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -724,7 +732,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Automatique : un modem, sinon simulé</translation>
+        <translation>&amp;Automatique : le premier modem</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -752,11 +760,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>Le bus de messages du système (D-Bus) est inaccessible : aucun modem n’est trouvé. Démarrez le service dbus ou choisissez un réseau simulé dans le menu.</translation>
+        <translation>Le bus de messages du système (D-Bus) est inaccessible : aucun modem n’est trouvé. Démarrez le service dbus ou choisissez la démonstration dans le menu.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager ne fonctionne pas : aucun modem n’est trouvé. Installez-le et démarrez-le (systemctl start ModemManager), ou choisissez un réseau simulé dans le menu.</translation>
+        <translation>ModemManager ne fonctionne pas : aucun modem n’est trouvé. Installez-le et démarrez-le (systemctl start ModemManager), ou choisissez la démonstration dans le menu.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -784,7 +792,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>Il n’y a pas de modem. Branchez-en un ou choisissez un réseau simulé dans le menu.</translation>
+        <translation>Il n’y a pas de modem. Branchez-en un ou choisissez la démonstration dans le menu.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -796,7 +804,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>Le modem est éteint. Allumez-le dans les paramètres réseau du système.</translation>
+        <translation>Le modem est éteint. Il n’envoie aucun code tant qu’il n’est pas allumé.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -884,7 +892,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem et --scenario ne vont pas ensemble.</translation>
+        <translation>--modem ne va ni avec --demo ni avec --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -924,7 +932,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>Les codes fournis avec le programme</translation>
+        <translation>Les codes de la démonstration</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -940,7 +948,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Les codes fournis avec le programme sont maintenant utilisés.</translation>
+        <translation>Les codes de la démonstration sont maintenant utilisés.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -964,6 +972,194 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>La configuration est choisie par USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>Tableau de bord USSD – démonstration</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Démonstration : le réseau est inventé ; rien n’est envoyé.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Démonstration : %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>Pas de modem</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Recherche d’un modem…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>Le réseau n’accepte pas cette carte SIM.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>La carte SIM ou le modem est bloqué.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>Le réseau n’accepte pas cette carte SIM. Demandez à l’opérateur si elle est active, ou utilisez-en une autre.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager fonctionne mais ne répond pas. Patientez un instant ou redémarrez-le (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>Le modem a été retiré. Rebranchez-le.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Un autre programme utilise des codes sur ce modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>A&amp;llumer</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>Chercher à no&amp;uveau</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>Y &amp;mettre fin</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Codes d’un autre programme</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>Mettre fin à la session de l’autre programme, même s’il est peut-être en train d’acheter quelque chose ?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>Vous pouvez interrompre l’attente, mais le réseau exécutera peut-être quand même la commande.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>En attente : un autre programme doit d’abord en avoir fini avec le modem…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>Annule&amp;r</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>Le réseau a mis fin à la session.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>Le réseau ou le modem ne prend pas en charge ce code.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>Le réseau a attendu trop longtemps et a mis fin à la session.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>Le réseau n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>Le réseau a envoyé une réponse vide.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>Le réseau a répondu, mais le modem n’a pas pu décoder la réponse.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>Le modem ne peut pas envoyer un caractère de cette commande.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>Aucun modem ne peut envoyer de codes.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>Le modem est éteint.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>Le modem n’est inscrit sur aucun réseau.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>Le modem a été retiré, ou ModemManager s’est arrêté.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>Vous n’êtes pas autorisé à envoyer des codes avec ce modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Un autre programme utilise des codes sur ce modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>Le modem n’est connecté qu’en 4G, et le réseau répond aux codes en 2G et en 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>La commande a été annulée.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>Le réseau ou le modem a refusé la commande.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>La commande n’a pas été exécutée.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>Le réseau a peut-être quand même exécuté la commande.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Dernier message du réseau : %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 ne va qu’avec --send.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable l’allume.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session met fin à la session de l’autre programme, qui est peut-être en train d’acheter quelque chose.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>Le réseau attendait une réponse à ce menu. La session a été fermée.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>Aucun : seulement le champ des codes</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>Aucun code d’opérateur n’est utilisé maintenant. Saisissez les codes dans le champ.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>Aucun code n’est configuré pour cette carte SIM. Saisissez un code dans le champ ou choisissez l’opérateur.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>&amp;Déterminer si la carte SIM est prépayée ou postpayée (envoie un code)</translation>
     </message>
 </context>
 </TS>

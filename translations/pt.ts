@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>Rede simulada &amp;predefinida</translation>
+        <translation>&amp;Demonstração (rede inventada)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Fonte: rede simulada (%1)</translation>
+        <translation>Demonstração: rede inventada (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour traz os seus próprios dispositivos; não se pode acrescentar --scenario nem --modem.</translation>
+        <translation>--tour traz os seus próprios dispositivos; não se pode acrescentar --demo, --scenario nem --modem.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -642,16 +642,23 @@ Mostra as janelas do suplemento USSD e o estado do dispositivo.
                            responder à vez aos menus da rede
   --tour PASTA             percorrer todas as janelas sem ecrã; deixa imagens e
                            transcript.txt na pasta
-  --scenario FICHEIRO      usar a rede simulada deste ficheiro
+  --demo                   usar uma rede inventada; nada é enviado
+  --scenario FICHEIRO      usar a rede inventada deste ficheiro
   --modem ID               usar o modem com este identificador (IMEI)
+  --enable                 com --send: ligar o modem se estiver desligado
+  --end-foreign-session    com --send: terminar antes os códigos de outro programa
   --language CÓDIGO        idioma, por exemplo en ou ar
   --verbose                escrever o registo do programa e do suplemento
   --log FICHEIRO           o mesmo num ficheiro que só você pode ler
   --help                   este texto
   --version                a versão do programa
 
-Termina com 0 quando tudo correu bem, com 1 quando algo falhou e com 2 quando
-os argumentos ou o ficheiro de cenário estão errados.</translation>
+--send termina com 0 quando cada comando teve resposta, 1 recusado, 2 uso errado,
+3 sem modem ou não preparado, 4 sem resposta a tempo, 5 em uso por outro programa,
+6 não permitido, 7 menu aberto, 8 saída não escrita, 128 mais o número do sinal
+quando foi interrompido. De resto, termina com 0 quando tudo correu bem, com 1
+quando algo falhou e com 2 quando os argumentos ou o ficheiro de cenário estão
+errados.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -725,7 +732,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Automático: um modem ou, sem ele, simulado</translation>
+        <translation>&amp;Automático: o primeiro modem</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -753,11 +760,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>O barramento de mensagens do sistema (D-Bus) não está acessível, por isso nenhum modem é encontrado. Inicie o serviço dbus ou escolha uma rede simulada no menu.</translation>
+        <translation>O barramento de mensagens do sistema (D-Bus) não está acessível, por isso nenhum modem é encontrado. Inicie o serviço dbus ou escolha a demonstração no menu.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>O ModemManager não está em execução, por isso nenhum modem é encontrado. Instale-o e inicie-o (systemctl start ModemManager) ou escolha uma rede simulada no menu.</translation>
+        <translation>O ModemManager não está em execução, por isso nenhum modem é encontrado. Instale-o e inicie-o (systemctl start ModemManager) ou escolha a demonstração no menu.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -785,7 +792,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>Não há modem. Conecte um ou escolha uma rede simulada no menu.</translation>
+        <translation>Não há modem. Conecte um ou escolha a demonstração no menu.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -797,7 +804,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>O modem está desligado. Ligue-o nas configurações de rede do sistema.</translation>
+        <translation>O modem está desligado. Não envia códigos enquanto não for ligado.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -885,7 +892,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem e --scenario não combinam.</translation>
+        <translation>--modem não combina com --demo nem com --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -925,7 +932,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>Os códigos que vêm com o programa</translation>
+        <translation>Os códigos da demonstração</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -941,7 +948,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Agora são usados os códigos que vêm com o programa.</translation>
+        <translation>Agora são usados os códigos da demonstração.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -965,6 +972,194 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>A configuração é determinada por USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>Painel USSD – demonstração</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Demonstração: a rede é inventada; nada é enviado.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Demonstração: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>Sem modem</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Procurando um modem…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>A rede não aceita este SIM.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>O cartão SIM ou o modem está bloqueado.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>A rede não aceita este SIM. Pergunte à operadora se está ativo ou use outro.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>O ModemManager está em execução, mas não responde. Aguarde um momento ou reinicie-o (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>O modem foi removido. Volte a conectá-lo.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Outro programa está a usar códigos neste modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>&amp;Ligar</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>Procurar de no&amp;vo</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>&amp;Terminar</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Códigos de outro programa</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>Terminar a sessão do outro programa, embora ele possa estar a comprar algo?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>Pode parar de esperar, mas a rede poderá executar o comando mesmo assim.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>A aguardar que outro programa termine de usar o modem…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>C&amp;ancelar</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>A rede terminou a sessão.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>A rede ou o modem não suporta este código.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>A rede esperou demasiado e terminou a sessão.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>A rede não respondeu a tempo.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>A rede enviou uma resposta vazia.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>A rede respondeu, mas o modem não conseguiu descodificar a resposta.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>O modem não consegue enviar um carácter deste comando.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>Não há nenhum modem que possa enviar códigos.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>O modem está desligado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>O modem não está registado em nenhuma rede.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>O modem foi removido, ou o ModemManager terminou.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>Não tem permissão para enviar códigos com este modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Outro programa está a usar códigos neste modem.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>O modem está ligado apenas a uma rede 4G, e a rede responde aos códigos em 2G e 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>O comando foi cancelado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>A rede ou o modem recusou o comando.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>O comando não foi executado.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>A rede pode ter executado o comando mesmo assim.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Última mensagem da rede: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 só combina com --send.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable liga-o.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session termina a sessão do outro programa, que pode estar a comprar algo.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>A rede esperava uma resposta a este menu. A sessão foi encerrada.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>Não é possível escrever na saída padrão.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>Nenhum: só o campo de códigos</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>Agora não são usados códigos de nenhuma operadora. Escreva os códigos no campo.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>Não há códigos configurados para este cartão SIM. Escreva um código no campo ou escolha a operadora.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>De&amp;scobrir se o SIM é pré-pago ou pós-pago (envia um código)</translation>
     </message>
 </context>
 </TS>

@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>&amp;Имитация сети по умолчанию</translation>
+        <translation>&amp;Демонстрация (вымышленная сеть)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>Источник: имитация сети (%1)</translation>
+        <translation>Демонстрация: вымышленная сеть (%1)</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>У --tour свои устройства, поэтому --scenario и --modem с ним не указываются.</translation>
+        <translation>У --tour свои устройства, поэтому --demo, --scenario и --modem с ним не указываются.</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -641,16 +641,22 @@
                            очереди ответить на её меню
   --tour ПАПКА             пройти по всем окнам без экрана; оставляет в папке
                            изображения и transcript.txt
-  --scenario ФАЙЛ          использовать имитацию сети из этого файла
+  --demo                   вымышленная сеть; ничего не отправляется
+  --scenario ФАЙЛ          вымышленная сеть из этого файла
   --modem ID               использовать модем с этим номером (IMEI)
+  --enable                 для --send: включить модем, если он выключен
+  --end-foreign-session    для --send: сначала завершить коды другой программы
   --language КОД           язык, например en или ar
   --verbose                выводить журнал программы и модуля
   --log ФАЙЛ               то же в файл, который можете читать только вы
   --help                   этот текст
   --version                версия программы
 
-Код завершения: 0 — всё удалось, 1 — что-то не удалось, 2 — неверны аргументы
-или файл сценария.</translation>
+Код завершения --send: 0 — на все команды получен ответ, 1 — отказ, 2 — неверный
+вызов, 3 — нет модема или он не готов, 4 — нет ответа вовремя, 5 — занято другой
+программой, 6 — не разрешено, 7 — меню осталось открытым, 8 — вывод не записан,
+128 и номер сигнала — прервано. В остальных случаях: 0 — всё удалось, 1 — что-то
+не удалось, 2 — неверны аргументы или файл сценария.</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -724,7 +730,7 @@
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>&amp;Автоматически: модем, иначе имитация</translation>
+        <translation>&amp;Автоматически: первый модем</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -752,11 +758,11 @@
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>Системная шина сообщений (D-Bus) недоступна, поэтому модем не найден. Запустите службу dbus или выберите в меню имитацию сети.</translation>
+        <translation>Системная шина сообщений (D-Bus) недоступна, поэтому модем не найден. Запустите службу dbus или выберите в меню демонстрацию.</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager не запущен, поэтому модем не найден. Установите и запустите его (systemctl start ModemManager) или выберите в меню имитацию сети.</translation>
+        <translation>ModemManager не запущен, поэтому модем не найден. Установите и запустите его (systemctl start ModemManager) или выберите в меню демонстрацию.</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -784,7 +790,7 @@
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>Модема нет. Подключите его или выберите в меню имитацию сети.</translation>
+        <translation>Модема нет. Подключите его или выберите в меню демонстрацию.</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -796,7 +802,7 @@
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>Модем выключен. Включите его в сетевых настройках системы.</translation>
+        <translation>Модем выключен. Пока его не включат, он не отправляет коды.</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -884,7 +890,7 @@
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem и --scenario несовместимы.</translation>
+        <translation>--modem несовместим с --demo и --scenario.</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -924,7 +930,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>Коды, поставляемые с программой</translation>
+        <translation>Коды демонстрации</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -940,7 +946,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Теперь используются коды, поставляемые с программой.</translation>
+        <translation>Теперь используются коды демонстрации.</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -964,6 +970,194 @@
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>Конфигурация задана переменной USSD_PLUGIN_LIBRARY_PATH.</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>Панель USSD – демонстрация</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>Демонстрация: сеть вымышлена, ничего не отправляется.</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>Демонстрация: %1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>Нет модема</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>Поиск модема…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>Сеть не принимает эту SIM-карту.</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>SIM-карта или модем заблокированы.</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>Сеть не принимает эту SIM-карту. Узнайте у оператора, активна ли она, или возьмите другую.</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager запущен, но не отвечает. Подождите немного или перезапустите его (systemctl restart ModemManager).</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>Модем отключён. Подключите его снова.</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>Другая программа использует коды на этом модеме.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>&amp;Включить</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>Ис&amp;кать снова</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>&amp;Завершить</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>Коды другой программы</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>Завершить сеанс другой программы, хотя она, возможно, что-то покупает?</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>Ожидание можно прервать, но сеть всё равно может выполнить команду.</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>Ожидание, пока другая программа закончит работу с модемом…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>От&amp;мена</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>Сеть завершила сеанс.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>Сеть или модем не поддерживает этот код.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>Сеть ждала слишком долго и завершила сеанс.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>Сеть не ответила вовремя.</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>Сеть прислала пустой ответ.</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>Сеть ответила, но модем не смог декодировать ответ.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>Модем не может отправить один из символов этой команды.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>Нет модема, который может отправлять коды.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>Модем выключен.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>Модем не зарегистрирован в сети.</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>Модем отключён, или ModemManager завершил работу.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>Вам не разрешено отправлять коды через этот модем.</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>Другая программа использует коды на этом модеме.</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>Модем подключён только к сети 4G, а сеть отвечает на коды в 2G и 3G.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>Команда отменена.</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>Сеть или модем отклонили команду.</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>Команда не выполнена.</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>Сеть всё равно могла выполнить команду.</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>Последнее сообщение сети: %1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 указывается только вместе с --send.</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>Его включает --enable.</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session завершает сеанс другой программы, которая, возможно, что-то покупает.</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>Сеть ждала ответа на это меню. Сеанс завершён.</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>Не удаётся записать стандартный вывод.</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>Никакие: только поле для кодов</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>Теперь коды оператора не используются. Вводите коды в поле.</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>Для этой SIM-карты коды не настроены. Введите код в поле или выберите оператора.</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>&amp;Узнать, предоплата или постоплата у SIM-карты (отправляет код)</translation>
     </message>
 </context>
 </TS>

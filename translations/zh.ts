@@ -450,7 +450,7 @@
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
-        <translation>默认模拟网络(&amp;D)</translation>
+        <translation>演示（虚构的网络）(&amp;D)</translation>
     </message>
     <message>
         <source>NETWORK_OPEN</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>SOURCE_SIMULATED</source>
-        <translation>来源：模拟网络（%1）</translation>
+        <translation>演示：虚构的网络（%1）</translation>
     </message>
     <message>
         <source>SOURCE_MODEM</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>CLI_TOUR_SCENARIO</source>
-        <translation>--tour 自带设备，不能与 --scenario 或 --modem 同时使用。</translation>
+        <translation>--tour 自带设备，不能与 --demo、--scenario 或 --modem 同时使用。</translation>
     </message>
     <message>
         <source>CLI_BAD_COMMAND</source>
@@ -640,15 +640,21 @@
   --send 代码 [回答...]    不打开窗口发送代码，打印回复，并依次回答网络菜单
   --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
                            transcript.txt
-  --scenario 文件          使用该文件的模拟网络
+  --demo                   使用虚构的网络，不发送任何内容
+  --scenario 文件          使用该文件的虚构网络
   --modem 标识             使用具有此设备标识 (IMEI) 的调制解调器
+  --enable                 用于 --send：调制解调器关闭时将其打开
+  --end-foreign-session    用于 --send：先结束另一个程序的代码
   --language 代码          语言，例如 en 或 ar
   --verbose                输出程序和插件的日志
   --log 文件               将日志写入只有您能读取的文件
   --help                   显示本文
   --version                显示程序版本
 
-全部成功时返回 0，有失败时返回 1，参数或场景文件有误时返回 2。</translation>
+--send 的返回值：0 每条命令都有回复，1 被拒绝，2 用法有误，3 没有调制解调器或
+未就绪，4 未及时回复，5 另一个程序正在使用，6 未获许可，7 菜单未回答，8 输出无法
+写入，被中断时为 128 加信号编号。其他情况：全部成功时返回 0，有失败时返回 1，
+参数或场景文件有误时返回 2。</translation>
     </message>
     <message>
         <source>PAID_PREPAID</source>
@@ -722,7 +728,7 @@
     </message>
     <message>
         <source>NETWORK_AUTOMATIC</source>
-        <translation>自动(&amp;A)：优先调制解调器，否则模拟</translation>
+        <translation>自动(&amp;A)：第一个调制解调器</translation>
     </message>
     <message>
         <source>NETWORK_NO_MODEM</source>
@@ -750,11 +756,11 @@
     </message>
     <message>
         <source>ADVICE_NO_BUS</source>
-        <translation>无法访问系统消息总线 (D-Bus)，因此找不到调制解调器。请启动 dbus 服务，或在菜单中选择模拟网络。</translation>
+        <translation>无法访问系统消息总线 (D-Bus)，因此找不到调制解调器。请启动 dbus 服务，或在菜单中选择演示。</translation>
     </message>
     <message>
         <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager 未运行，因此找不到调制解调器。请安装并启动它 (systemctl start ModemManager)，或在菜单中选择模拟网络。</translation>
+        <translation>ModemManager 未运行，因此找不到调制解调器。请安装并启动它 (systemctl start ModemManager)，或在菜单中选择演示。</translation>
     </message>
     <message>
         <source>ADVICE_NOT_PERMITTED</source>
@@ -782,7 +788,7 @@
     </message>
     <message>
         <source>ADVICE_NO_MODEM</source>
-        <translation>没有调制解调器。请连接一个，或在菜单中选择模拟网络。</translation>
+        <translation>没有调制解调器。请连接一个，或在菜单中选择演示。</translation>
     </message>
     <message>
         <source>ADVICE_SIM_MISSING</source>
@@ -794,7 +800,7 @@
     </message>
     <message>
         <source>ADVICE_DISABLED</source>
-        <translation>调制解调器已关闭。请在系统网络设置中打开它。</translation>
+        <translation>调制解调器已关闭。打开后才能发送代码。</translation>
     </message>
     <message>
         <source>PIN_CAPTION</source>
@@ -882,7 +888,7 @@
     </message>
     <message>
         <source>CLI_MODEM_SCENARIO</source>
-        <translation>--modem 与 --scenario 不能同时使用。</translation>
+        <translation>--modem 不能与 --demo 或 --scenario 同时使用。</translation>
     </message>
     <message>
         <source>CODES_MENU</source>
@@ -922,7 +928,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED</source>
-        <translation>程序自带的代码</translation>
+        <translation>演示的代码</translation>
     </message>
     <message>
         <source>CODES_OK</source>
@@ -938,7 +944,7 @@
     </message>
     <message>
         <source>CODES_SHIPPED_IN_USE</source>
-        <translation>现在使用程序自带的代码。</translation>
+        <translation>现在使用演示的代码。</translation>
     </message>
     <message>
         <source>CODES_FAILED</source>
@@ -962,6 +968,194 @@
     <message>
         <source>CODES_CHOSEN_OUTSIDE</source>
         <translation>配置由 USSD_PLUGIN_LIBRARY_PATH 指定。</translation>
+    </message>
+    <message>
+        <source>APP_TITLE_DEMONSTRATION</source>
+        <translation>USSD 面板 – 演示</translation>
+    </message>
+    <message>
+        <source>DEMONSTRATION_NOTE</source>
+        <translation>演示：网络是虚构的，不会发送任何内容。</translation>
+    </message>
+    <message>
+        <source>NETWORK_DEMONSTRATION</source>
+        <translation>演示：%1</translation>
+    </message>
+    <message>
+        <source>OPERATOR_NO_MODEM</source>
+        <translation>无调制解调器</translation>
+    </message>
+    <message>
+        <source>STATE_LOOKING</source>
+        <translation>正在查找调制解调器…</translation>
+    </message>
+    <message>
+        <source>STATE_DENIED</source>
+        <translation>网络不接受这张 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>STATE_BLOCKED</source>
+        <translation>SIM 卡或调制解调器已锁定。</translation>
+    </message>
+    <message>
+        <source>ADVICE_REGISTRATION_DENIED</source>
+        <translation>网络不接受这张 SIM 卡。请向运营商确认它是否已启用，或换一张卡。</translation>
+    </message>
+    <message>
+        <source>ADVICE_SERVICE_SILENT</source>
+        <translation>ModemManager 正在运行但没有回应。请稍候，或重新启动它 (systemctl restart ModemManager)。</translation>
+    </message>
+    <message>
+        <source>ADVICE_MODEM_REMOVED</source>
+        <translation>调制解调器已拔出。请重新连接。</translation>
+    </message>
+    <message>
+        <source>ADVICE_FOREIGN_SESSION</source>
+        <translation>另一个程序正在此调制解调器上使用代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_ENABLE</source>
+        <translation>打开(&amp;W)</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOK_AGAIN</source>
+        <translation>重新查找(&amp;G)</translation>
+    </message>
+    <message>
+        <source>DEVICE_END_SESSION</source>
+        <translation>结束(&amp;E)</translation>
+    </message>
+    <message>
+        <source>FOREIGN_CAPTION</source>
+        <translation>另一个程序的代码</translation>
+    </message>
+    <message>
+        <source>FOREIGN_QUESTION</source>
+        <translation>另一个程序可能正在购买，仍要结束它的会话吗？</translation>
+    </message>
+    <message>
+        <source>COMMAND_PENDING</source>
+        <translation>您可以停止等待，但网络仍可能执行该命令。</translation>
+    </message>
+    <message>
+        <source>COMMAND_WAITS_FOR_TURN</source>
+        <translation>正在等待另一个程序用完调制解调器…</translation>
+    </message>
+    <message>
+        <source>COMMAND_CANCEL</source>
+        <translation>取消(&amp;L)</translation>
+    </message>
+    <message>
+        <source>FAILURE_ENDED_BY_NETWORK</source>
+        <translation>网络结束了会话。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_SUPPORTED</source>
+        <translation>网络或调制解调器不支持此代码。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NETWORK_TIMEOUT</source>
+        <translation>网络等待过久，结束了会话。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_ANSWER</source>
+        <translation>网络没有及时回复。</translation>
+    </message>
+    <message>
+        <source>FAILURE_EMPTY_REPLY</source>
+        <translation>网络的回复是空的。</translation>
+    </message>
+    <message>
+        <source>FAILURE_UNDECODABLE</source>
+        <translation>网络已回复，但调制解调器无法解码。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_ENCODABLE</source>
+        <translation>调制解调器无法发送此命令中的某个字符。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NO_DEVICE</source>
+        <translation>没有可以发送代码的调制解调器。</translation>
+    </message>
+    <message>
+        <source>FAILURE_DISABLED</source>
+        <translation>调制解调器已关闭。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_REGISTERED</source>
+        <translation>调制解调器没有注册到网络。</translation>
+    </message>
+    <message>
+        <source>FAILURE_DEVICE_LOST</source>
+        <translation>调制解调器已拔出，或 ModemManager 已结束。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_PERMITTED</source>
+        <translation>您无权用此调制解调器发送代码。</translation>
+    </message>
+    <message>
+        <source>FAILURE_IN_USE</source>
+        <translation>另一个程序正在此调制解调器上使用代码。</translation>
+    </message>
+    <message>
+        <source>FAILURE_ON_LTE</source>
+        <translation>调制解调器只连接了 4G 网络，而网络在 2G 和 3G 上答复代码。</translation>
+    </message>
+    <message>
+        <source>FAILURE_CANCELLED</source>
+        <translation>命令已取消。</translation>
+    </message>
+    <message>
+        <source>FAILURE_REFUSED</source>
+        <translation>网络或调制解调器拒绝了命令。</translation>
+    </message>
+    <message>
+        <source>FAILURE_NOT_CARRIED_OUT</source>
+        <translation>命令没有执行。</translation>
+    </message>
+    <message>
+        <source>FAILURE_MAYBE_CARRIED_OUT</source>
+        <translation>网络仍可能已执行该命令。</translation>
+    </message>
+    <message>
+        <source>FAILURE_CLOSING_TEXT</source>
+        <translation>网络的最后一条消息：%1</translation>
+    </message>
+    <message>
+        <source>CLI_ONLY_SEND</source>
+        <translation>%1 只能与 --send 同时使用。</translation>
+    </message>
+    <message>
+        <source>SEND_ENABLE_HINT</source>
+        <translation>--enable 可将其打开。</translation>
+    </message>
+    <message>
+        <source>SEND_END_HINT</source>
+        <translation>--end-foreign-session 会结束另一个程序的会话，而它可能正在购买。</translation>
+    </message>
+    <message>
+        <source>SEND_MENU_OPEN</source>
+        <translation>网络在等待对此菜单的回答。会话已结束。</translation>
+    </message>
+    <message>
+        <source>SEND_NOT_WRITTEN</source>
+        <translation>无法写入标准输出。</translation>
+    </message>
+    <message>
+        <source>CODES_NONE</source>
+        <translation>无：只有代码栏</translation>
+    </message>
+    <message>
+        <source>CODES_NONE_IN_USE</source>
+        <translation>现在不使用任何运营商的代码。请在代码栏中输入代码。</translation>
+    </message>
+    <message>
+        <source>CODES_PROPOSE_NONE</source>
+        <translation>尚未为这张 SIM 卡设置代码。请在代码栏中输入代码，或选择运营商。</translation>
+    </message>
+    <message>
+        <source>PAID_DETECT</source>
+        <translation>查明 SIM 卡是预付费还是后付费（会发送代码）(&amp;F)</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,17 @@ namespace
 
 const char SEPARATOR[] = "--";
 
+/** An option without a value. */
+struct Switch {
+    const char *name;
+    bool Arguments::*value;
+};
+
+const Switch SWITCHES[] = {{"--verbose", &Arguments::verbose},
+                           {"--demo", &Arguments::demo},
+                           {"--enable", &Arguments::enable},
+                           {"--end-foreign-session", &Arguments::endForeignSession}};
+
 /** Parses the command-line arguments one after another. */
 class Parser
 {
@@ -18,12 +29,14 @@ public:
 private:
     void parseOption(const QString &word);
     bool parseFlag(const QString &name);
+    bool parseSwitch(const QString &name);
     bool parseValueOption(const QString &name, const QString &value, bool hasValue);
     void parseCommands();
     void parseRest();
     void setMode(Arguments::Mode mode);
     void checkCommands();
     void checkDevice();
+    void checkSendSwitches();
     void fail(const char *key, const QString &subject);
     bool failed() const { return m_result.errorKey; }
 
@@ -58,6 +71,8 @@ Arguments Parser::parse()
     }
     if (m_result.mode == Arguments::Send)
         checkCommands();
+    else
+        checkSendSwitches();
     checkDevice();
     return m_result;
 }
@@ -82,13 +97,22 @@ bool Parser::parseFlag(const QString &name)
         m_result.mode = Arguments::Help;
     else if (name == QLatin1String("--version"))
         m_result.mode = Arguments::Version;
-    else if (name == QLatin1String("--verbose"))
-        m_result.verbose = true;
     else if (name == QLatin1String("--send"))
         parseCommands();
     else
-        return false;
+        return parseSwitch(name);
     return true;
+}
+
+bool Parser::parseSwitch(const QString &name)
+{
+    for (const Switch &each : SWITCHES) {
+        if (name == QLatin1String(each.name)) {
+            m_result.*each.value = true;
+            return true;
+        }
+    }
+    return false;
 }
 
 bool Parser::parseValueOption(const QString &name, const QString &value, bool hasValue)
@@ -151,11 +175,22 @@ void Parser::checkCommands()
 
 void Parser::checkDevice()
 {
-    const bool isNamed = !m_result.scenario.isEmpty() || !m_result.modem.isEmpty();
-    if (m_result.mode == Arguments::Tour && isNamed)
+    const bool isSimulated = m_result.demo || !m_result.scenario.isEmpty();
+    const bool isModem = !m_result.modem.isEmpty();
+    if (m_result.mode == Arguments::Tour && (isSimulated || isModem))
         fail("CLI_TOUR_SCENARIO", QString());
-    if (!m_result.scenario.isEmpty() && !m_result.modem.isEmpty())
+    if (isSimulated && isModem)
         fail("CLI_MODEM_SCENARIO", QString());
+}
+
+void Parser::checkSendSwitches()
+{
+    if (m_result.mode != Arguments::Window && m_result.mode != Arguments::Tour)
+        return;
+    if (m_result.enable)
+        fail("CLI_ONLY_SEND", QLatin1String("--enable"));
+    if (m_result.endForeignSession)
+        fail("CLI_ONLY_SEND", QLatin1String("--end-foreign-session"));
 }
 
 void Parser::fail(const char *key, const QString &subject)

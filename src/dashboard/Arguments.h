@@ -15,7 +15,10 @@ struct Arguments {
     QStringList commands; // the code and the answers of --send, in this order
     QString tourFolder;
     QString scenario;
-    QString modem; // equipment identifier
+    QString modem;                  // equipment identifier
+    bool demo = false;              // use the default simulated network
+    bool enable = false;            // of --send: enable the modem
+    bool endForeignSession = false; // of --send: end the session of another program
     QString logFile;
     QString language;
     bool verbose = false;

@@ -2,29 +2,26 @@
 
 #include <QApplication>
 #include <QPainterPath>
-#include <QRect>
 
 #include "Arguments.h"
 #include "base/DashboardText.h"
+#include "base/SignalWatcher.h"
 #include "device/DashboardSettings.h"
-#include "device/DeviceStatus.h"
-#include "device/DeviceWait.h"
+#include "device/Scenarios.h"
 #include "FirstPaint.h"
-#include "IUIPlugin.h"
 #include "Languages.h"
-#include "plugin/CommandSender.h"
-#include "plugin/GeneralWindow.h"
 #include "plugin/KeyboardHelper.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/PrivatePluginFolder.h"
-#include "plugin/ReplyTap.h"
 #include "ReplyTimeout.h"
 #include "TerminalText.h"
-#include "tksv.h"
 #include "tour/Tour.h"
 #include "tour/TourGuide.h"
+#include "WantedDevice.h"
 #include "window/MainWindow.h"
 #include "window/ProfileKeeper.h"
+
+#include <cstdio>
 
 using namespace Formats;
 
@@ -35,9 +32,6 @@ namespace
 {
 
 const char PLATFORM[] = "QT_QPA_PLATFORM";
-const int REGISTRATION_LIMIT =
-    10000; // ms that --send waits for the device, unless the reply time-out is shorter
-const QSize UNSEEN_SIZE(800, 600); // size of the widget with the page if there is no display
 
 bool isSet(const char *variable)
 {
@@ -61,23 +55,15 @@ int fail(const QString &text, ExitCode code = EXIT_BAD)
     return code;
 }
 
-bool namesDevice(const Arguments &arguments)
+int print(const QString &text)
 {
-    return !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
+    HostCore::printLine(text);
+    return ferror(stdout) ? fail(dashboardText("SEND_NOT_WRITTEN"), EXIT_NOT_WRITTEN) : EXIT_GOOD;
 }
 
-/// Returns the device specified on the command line, or else in the environment, or else the device
-/// that was chosen most recently. A user who specifies a scenario must not get a modem, because
-/// commands sent through a modem may cost money.
-DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings)
+bool namesDevice(const Arguments &arguments)
 {
-    if (!arguments.modem.isEmpty())
-        return DeviceChoice::modem(arguments.modem);
-    if (!arguments.scenario.isEmpty())
-        return DeviceChoice::simulated(arguments.scenario);
-    if (isSet("TKSV_BACKEND"))
-        return DeviceChoice::automatic();
-    return isSet("TKSV_SCENARIO") ? DeviceChoice::simulated(QString()) : settings.device();
+    return arguments.demo || !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
 /// Selects the device. If a scenario from the settings can no longer be used, makes the automatic
@@ -90,19 +76,6 @@ QString useDevice(DeviceChoice *choice)
         choice->use();
     }
     return error;
-}
-
-/// Waits for a modem that is still registering. On failure, prints the reason to standard error and
-/// returns false.
-bool isDeviceReady(const Arguments &arguments)
-{
-    const bool isReady = waitForDevice(qMin(replyTimeout(), REGISTRATION_LIMIT));
-    const DeviceStatus device = readDeviceStatus();
-    if (arguments.verbose)
-        HostCore::printErrorLine(device.sourceText());
-    if (!isReady)
-        sayWhyNotReady(device);
-    return isReady;
 }
 
 /// Returns true if a font is installed. Without a font, Qt draws the same box for every letter.
@@ -132,19 +105,6 @@ void saveSettings(DashboardSettings *settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings->file()));
 }
 
-int sendThrough(LoadedPlugin &plugin, ReplyTap &tap, const QStringList &commands)
-{
-    QWidget host;
-    QRect rect(QPoint(), UNSEEN_SIZE);
-    plugin.plugin()->ShowWindow(&host, rect);
-    CommandSender sender(GeneralWindow(&host), tap, replyTimeout());
-    const bool sent = sender.send(commands);
-    int status = 0;
-    TKSV_USSDSrv_Release(&status); // closes an open menu before the next program starts
-    plugin.shutDown();
-    return sent ? EXIT_GOOD : EXIT_BAD;
-}
-
 } // namespace
 
 int Program::complain(const Arguments &arguments)
@@ -157,14 +117,12 @@ int Program::complain(const Arguments &arguments)
 
 int Program::help()
 {
-    HostCore::printLine(dashboardText("CLI_HELP"));
-    return EXIT_GOOD;
+    return print(dashboardText("CLI_HELP"));
 }
 
 int Program::version()
 {
-    HostCore::printLine(QLatin1String("ussd-dashboard " USSD_VERSION));
-    return EXIT_GOOD;
+    return print(QLatin1String("ussd-dashboard " USSD_VERSION));
 }
 
 int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
@@ -182,6 +140,8 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     KeyboardHelper keyboard;
     MainWindow window(&plugin, &settings);
     window.setDevice(choice);
+    const SignalWatcher interruption;
+    QObject::connect(&interruption, &SignalWatcher::received, &window, &MainWindow::quit);
     FirstPaint shown(&window);
     window.show();
     ProfileKeeper profiles(ProfileBackup::ofUser());
@@ -192,28 +152,10 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     sayWhatIsMissing(settings, &window);
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
-    const int result = QApplication::exec();
+    const int result = interruption.signalNumber() == 0 ? QApplication::exec() : EXIT_GOOD;
     plugin.shutDown(); // must precede the deletion of the window with the plug-in's page
     saveSettings(&settings, &window);
     return result;
-}
-
-int Program::send(int &argc, char **argv, const Arguments &arguments)
-{
-    doWithoutDisplay();
-    QApplication application(argc, argv);
-    DeviceChoice choice = wantedDevice(arguments, DashboardSettings());
-    const QString unusable = choice.use();
-    if (!unusable.isEmpty())
-        return fail(unusable, EXIT_USAGE);
-    ReplyTap tap; // must be constructed before the device can send a reply
-    if (!isDeviceReady(arguments))
-        return EXIT_BAD;
-    LoadedPlugin plugin;
-    const PluginFailure failure = plugin.load(LoadedPlugin::installedFile());
-    if (!plugin.isUsable())
-        return fail(failure.text());
-    return sendThrough(plugin, tap, arguments.commands);
 }
 
 int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
@@ -224,6 +166,9 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     QApplication application(argc, argv);
     if (!library.isValid())
         return fail(dashboardText("TOUR_NOT_WRITTEN").arg(library.path()));
+    const QString unusable = Scenarios::use(QString()); // the tour never uses a modem
+    if (!unusable.isEmpty())
+        return fail(unusable);
     LoadedPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, nullptr);

@@ -6,10 +6,10 @@ namespace Dashboard
 
 struct Arguments;
 
-/** The exit codes of the program. */
-enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2 };
+/** The exit codes of the program, except those of --send, which are in Cli::ExitCode. */
+enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2, EXIT_NOT_WRITTEN = 8 };
 
-/** The modes of the program. Each function returns an ExitCode. */
+/** The modes of the program. The functions return exit codes. */
 namespace Program
 {
 
@@ -19,6 +19,8 @@ int help();
 int version();
 /// Opens the dashboard and returns when it has been closed.
 int openWindow(int &argc, char **argv, const Arguments &arguments);
+/// Prints that the replies of --send are invented, if its device is a simulated network.
+void announceDemonstration(const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
 /// Runs the tour, which does not need a display.

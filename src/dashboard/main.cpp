@@ -114,6 +114,8 @@ int main(int argc, char **argv)
     HostCore::installTerminalLog(arguments.verbose);
     if (!chooseLanguage(&arguments) || arguments.errorKey)
         return Program::complain(arguments);
+    if (arguments.mode == Arguments::Send)
+        Program::announceDemonstration(arguments);
     const QString unusableLog = startLog(arguments);
     if (!unusableLog.isEmpty()) {
         HostCore::printErrorLine(unusableLog);

@@ -19,6 +19,13 @@ struct USSDProfile {
     bool isSystem;     // true if read from the system file; not stored in the file
 };
 
+/// Returns the name of a placeholder, which is a profile without a code. The button of a
+/// placeholder sends nothing. It only keeps the buttons before it from being payment buttons.
+inline QString placeholderName()
+{
+    return QString(QChar(0x2013)); // an en dash, which is clear in any language
+}
+
 inline bool operator==(const USSDProfile &a, const USSDProfile &b)
 {
     return a.name == b.name && a.value == b.value && a.readonly == b.readonly &&

@@ -128,6 +128,14 @@ ProviderChoice proposed(const QList<Provider> &candidates, const QString &simNam
     return choice;
 }
 
+bool selects(const ProviderDatabase &database, const ProviderQuery &query, const Provider &provider)
+{
+    const ProviderChoice choice = chooseProvider(database, query);
+    return choice.state == ProviderChoice::Chosen &&
+           choice.candidates.first().line == provider.line &&
+           choice.candidates.first().name() == provider.name();
+}
+
 bool isDigitsOnly(const QString &text)
 {
     for (int i = 0; i < text.length(); ++i) {
@@ -151,6 +159,23 @@ ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQu
     if (!query.network.isEmpty())
         candidates = withNetwork(candidates, query.network);
     return proposed(candidates, query.simName);
+}
+
+ProviderQuery queryThatSelects(const ProviderDatabase &database, const Provider &provider,
+                               const QString &network)
+{
+    const QStringList networks = QStringList(network) + provider.networks;
+    ProviderQuery query;
+    query.country = provider.country;
+    for (int i = 0; i < networks.count(); ++i) {
+        query.network = networks.at(i);
+        for (int n = 0; n < provider.names.count(); ++n) {
+            query.provider = provider.names.at(n).text;
+            if (selects(database, query, provider))
+                return query;
+        }
+    }
+    return ProviderQuery();
 }
 
 QString networkOfImsi(const ProviderDatabase &database, const QString &imsi)

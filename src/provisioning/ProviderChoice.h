@@ -46,6 +46,13 @@ struct ProviderChoice {
 /// SIM's name does not match any candidate, all candidates remain and none is selected.
 ProviderChoice chooseProvider(const ProviderDatabase &database, const ProviderQuery &query);
 
+/// Returns a query that selects exactly this operator of the database. The query has the country, a
+/// name and, if it is not empty, the network. If operators of the same name have this network, too,
+/// the query has another network of the operator. Returns an empty query if nothing distinguishes
+/// the operators.
+ProviderQuery queryThatSelects(const ProviderDatabase &database, const Provider &provider,
+                               const QString &network);
+
 /// Returns the network code of an IMSI: its first six digits if the database contains this code, or
 /// else its first five digits (3GPP TS 23.003). Returns an empty string if the database contains
 /// neither.

@@ -1,5 +1,6 @@
 #include "ProviderDatabase.h"
 
+#include <QSet>
 #include <QXmlStreamReader>
 
 #include "InputFile.h"
@@ -12,6 +13,8 @@ namespace
 
 const int MAX_DEPTH = 30;          // maximum nesting of elements; the format has six levels
 const qint64 MAX_BYTES = 67108864; // maximum size of a file: 64 MB
+const int PIECE_BYTES = 16384; // the document is passed to the XML reader in pieces of this size
+const int MAX_TOKEN_BYTES = 65536; // maximum size of a tag or comment
 
 bool isDigits(const QString &text, int fewest, int most)
 {
@@ -28,10 +31,11 @@ bool isDigits(const QString &text, int fewest, int most)
 class Reader
 {
 public:
-    explicit Reader(const QByteArray &xml) : m_xml(xml) {}
+    explicit Reader(const QByteArray &xml) : m_document(xml) {}
     ProviderDatabase read();
 
 private:
+    QXmlStreamReader::TokenType readToken();
     QXmlStreamReader::TokenType next();
     bool nextChild();
     bool isAt(const char *name) const { return m_xml.name() == QLatin1String(name); }
@@ -49,16 +53,39 @@ private:
     void readCodes(QList<ProviderCode> &codes);
     void readCode(ProviderCode::Way way, QList<ProviderCode> &codes);
 
+    const QByteArray m_document;
+    int m_passed = 0; // bytes of the document that were passed to the XML reader
     QXmlStreamReader m_xml;
     ProviderDatabase m_database;
+    QSet<QString> m_networks; // of the current provider
     int m_depth = 0;
 };
 
 // ---- tokens --------------------------------------------------------------------------------
 
+/// Reads a token, and passes as much of the document to the XML reader as the token needs. A huge
+/// token is refused before the XML reader processes it, because the time to compare the attributes
+/// of a tag grows with the square of their number.
+QXmlStreamReader::TokenType Reader::readToken()
+{
+    const int before = m_passed;
+    QXmlStreamReader::TokenType token = m_xml.readNext();
+    while (m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError &&
+           m_passed < m_document.size()) {
+        if (m_passed - before > MAX_TOKEN_BYTES) {
+            m_xml.raiseError(QLatin1String("A tag or comment is longer than 64 KB."));
+            break;
+        }
+        m_xml.addData(m_document.mid(m_passed, PIECE_BYTES));
+        m_passed += PIECE_BYTES;
+        token = m_xml.readNext();
+    }
+    return token;
+}
+
 QXmlStreamReader::TokenType Reader::next()
 {
-    const QXmlStreamReader::TokenType token = m_xml.readNext();
+    const QXmlStreamReader::TokenType token = readToken();
     if (token == QXmlStreamReader::StartElement && ++m_depth > MAX_DEPTH)
         m_xml.raiseError(QLatin1String("Elements are nested too deeply."));
     else if (token == QXmlStreamReader::EndElement)
@@ -160,6 +187,7 @@ void Reader::readCountry()
 void Reader::readProvider(Provider provider)
 {
     provider.line = m_xml.lineNumber();
+    m_networks.clear();
     while (nextChild()) {
         if (isAt("name"))
             provider.names << readName();
@@ -206,8 +234,9 @@ void Reader::readNetwork(Provider &provider)
         complain(
             QString::fromLatin1("mcc \"%1\" with mnc \"%2\" is no network code; it is left out")
                 .arg(mcc, mnc));
-    else if (!provider.networks.contains(mcc + mnc))
+    else if (!m_networks.contains(mcc + mnc))
         provider.networks << mcc + mnc;
+    m_networks.insert(mcc + mnc);
     skip();
 }
 

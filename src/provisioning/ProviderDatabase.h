@@ -71,7 +71,7 @@ struct ProviderDatabase {
 };
 
 /// Reads a document. Rejects a document that is not well-formed, has a different format, declares
-/// entities or is nested too deeply.
+/// entities, is nested too deeply, or has a tag or comment of more than 64 KB.
 ProviderDatabase readProviderDatabase(const QByteArray &xml);
 /// Reads a file of at most 64 MB.
 ProviderDatabase readProviderDatabaseFile(const QString &path);

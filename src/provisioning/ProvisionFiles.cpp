@@ -6,6 +6,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include "ForwardXml.h"
 #include "ProfileXml.h"
 #include "UssdCode.h"
 #include "UssdTemplate.h"
@@ -81,7 +82,7 @@ Element takeElement(QXmlStreamReader &reader)
         if (depth > MAX_DEPTH)
             reader.raiseError(QLatin1String("Elements are nested too deeply."));
         if (depth > 0)
-            reader.readNext();
+            ForwardXml::next(reader);
     } while (depth > 0 && !reader.atEnd());
     return element;
 }
@@ -91,9 +92,10 @@ Element takeElement(QXmlStreamReader &reader)
 Looks looksOf(const QByteArray &shipped, QString &error)
 {
     Looks looks;
-    QXmlStreamReader reader(shipped);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, shipped);
     while (!reader.atEnd()) {
-        reader.readNext();
+        ForwardXml::next(reader);
         const QString name = reader.name().toString();
         if (reader.isStartElement() && isLook(name) && !looks.contains(name))
             looks.insert(name, takeElement(reader));
@@ -336,15 +338,18 @@ void ConfigurationWriter::writeSims()
 {
     const bool account =
         !m_plan.balance.isEmpty() || !m_plan.topUp.isEmpty() || !m_plan.ownNumber.isEmpty();
-    QString windows = QLatin1String(account ? "Prepaid/Advanced" : XmlName::ADVANCED);
+    QStringList windows;
+    if (account)
+        windows << QLatin1String(XmlName::PREPAID);
+    windows << QLatin1String(XmlName::ADVANCED);
     if (!m_plan.messages.isEmpty())
-        windows += QLatin1String("/Commonpaid");
+        windows << QLatin1String(XmlName::COMMONPAID);
     start(XmlName::AUTO_USSD);
     attribute(XmlName::VALID, boolText(!m_plan.imsiPrefixes.isEmpty()));
     for (int i = 0; i < m_plan.imsiPrefixes.count(); ++i) {
         start(XmlName::ITEM);
         attribute(XmlName::IMSI, m_plan.imsiPrefixes.at(i));
-        attribute(XmlName::USSD, windows);
+        attribute(XmlName::USSD, windows.join(QString(QLatin1Char('/'))));
         end();
     }
     end();

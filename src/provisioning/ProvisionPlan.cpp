@@ -1,5 +1,7 @@
 #include "ProvisionPlan.h"
 
+#include <QSet>
+
 #include "UssdCode.h"
 #include "UssdTemplate.h"
 
@@ -11,7 +13,8 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button among the buttons of the general window, starting at 0.
+// The position of the first payment button if the general window has all eleven buttons, counted
+// from 0.
 const int FIRST_PAYMENT_SLOT = 9;
 const int PAYMENT_BUTTONS = 2; // the last two buttons always use the number that the user enters
 
@@ -25,6 +28,25 @@ struct Kind {
 const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DESC"};
 const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
 const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
+
+/// Returns a profile that only takes the place of a payment button.
+USSDProfile placeholder()
+{
+    USSDProfile profile;
+    profile.name = placeholderName();
+    profile.readonly = true;
+    profile.showButton = true;
+    return profile;
+}
+
+/// Returns the profiles from `first` on, at most `count`. `hasButton` is whether they have buttons.
+QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
+{
+    QList<USSDProfile> result = profiles.mid(first, count);
+    for (int i = 0; i < result.count(); ++i)
+        result[i].showButton = hasButton;
+    return result;
+}
 
 bool isMessageNumber(const QString &text)
 {
@@ -48,7 +70,6 @@ private:
     void takeResponse(const ProviderCode &code, const Kind &kind);
     void takeMessage(const ProviderCode &code, const Kind &kind);
     void addProfile(const QString &code, const Kind &kind);
-    bool hasProfile(const QString &code) const;
     void nameApart(const Kind &kind);
     void note(const ProviderCode &code, const QString &what);
     void placeButtons();
@@ -56,6 +77,7 @@ private:
 
     const Provider &m_provider;
     ProvisionPlan m_plan;
+    QSet<QString> m_codes; // the codes of m_plan.profiles
 };
 
 Planner::Planner(const Provider &provider, const QString &network) : m_provider(provider)
@@ -136,23 +158,15 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
 
 void Planner::addProfile(const QString &code, const Kind &kind)
 {
-    if (hasProfile(code))
+    if (m_codes.contains(code))
         return;
+    m_codes.insert(code);
     USSDProfile profile;
     profile.name = QLatin1String(kind.name);
     profile.value = code;
     profile.langID = QLatin1String(kind.textKey);
     profile.desLangID = QLatin1String(kind.descriptionKey);
     m_plan.profiles << profile;
-}
-
-bool Planner::hasProfile(const QString &code) const
-{
-    for (int i = 0; i < m_plan.profiles.count(); ++i) {
-        if (m_plan.profiles.at(i).value == code)
-            return true;
-    }
-    return false;
 }
 
 /// Makes the names of profiles and messages of the same kind unique, so that the user can
@@ -186,9 +200,9 @@ void Planner::note(const ProviderCode &code, const QString &what)
     m_plan.notes << QString::fromLatin1("line %1: ").arg(code.line) + what;
 }
 
-/// Sorts the profiles for the buttons. The last two buttons of the general window do not send
-/// anything until a number is entered. Therefore, a code without input has a button only if two
-/// codes with input follow. Otherwise, it is available only in the list of codes.
+/// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
+/// until a number is entered. Codes with input therefore come last, after a placeholder for each
+/// missing one, so that every code without input has a button that works at once.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -197,15 +211,14 @@ void Planner::placeButtons()
         const USSDProfile &profile = m_plan.profiles.at(i);
         (profile.value.contains(INPUT_PLACEHOLDER) ? paying : plain) << profile;
     }
-    const bool plainToo = paying.count() >= PAYMENT_BUTTONS;
-    for (int i = 0; i < plain.count(); ++i)
-        plain[i].showButton = plainToo && i < FIRST_PAYMENT_SLOT;
-    for (int i = 0; i < paying.count(); ++i)
-        paying[i].showButton = i < PAYMENT_BUTTONS;
+    QList<USSDProfile> placeholders;
+    while (!plain.isEmpty() && placeholders.count() + paying.count() < PAYMENT_BUTTONS)
+        placeholders << placeholder();
     // There are only eleven buttons, so two codes with input come before the remaining codes.
-    const int ahead = qMin(plain.count(), FIRST_PAYMENT_SLOT);
-    m_plan.profiles = plain.mid(0, ahead) + paying.mid(0, PAYMENT_BUTTONS) + plain.mid(ahead) +
-                      paying.mid(PAYMENT_BUTTONS);
+    m_plan.profiles = taken(plain, 0, FIRST_PAYMENT_SLOT, true) + placeholders +
+                      taken(paying, 0, PAYMENT_BUTTONS, true) +
+                      taken(plain, FIRST_PAYMENT_SLOT, -1, false) +
+                      taken(paying, PAYMENT_BUTTONS, -1, false);
 }
 
 void Planner::placePrefixes(const QString &network)

@@ -327,13 +327,18 @@ ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan
     return Writer(order, plan, files).write();
 }
 
-QString operatorsFolder()
+QString userDataHome()
 {
     const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
     const QString data = chosen.startsWith(QLatin1Char('/'))
                              ? chosen
                              : QDir::homePath() + QLatin1String("/.local/share");
-    return data + QLatin1String("/ussd-dashboard/operators");
+    return data + QLatin1String("/ussd-dashboard");
+}
+
+QString operatorsFolder()
+{
+    return userDataHome() + QLatin1String("/operators");
 }
 
 QString operatorFolder(const QString &operators, const QString &network)

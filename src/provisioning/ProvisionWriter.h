@@ -74,8 +74,10 @@ struct ProvisionOutcome {
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 
-/// Returns the folder that contains the user's operator folders. It is inside $XDG_DATA_HOME or its
-/// default.
+/// Returns the folder for the user's data, "ussd-dashboard" below $XDG_DATA_HOME or its default. A
+/// relative path in the variable is invalid and ignored. QStandardPaths of Qt 5 would use it.
+QString userDataHome();
+/// Returns the folder that contains the user's operator folders.
 QString operatorsFolder();
 /// Returns the operator folder for a network code. `network` may be any name without a separator.
 QString operatorFolder(const QString &operators, const QString &network);

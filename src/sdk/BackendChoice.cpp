@@ -8,20 +8,12 @@
 #include "modemmanager/ModemManagerBackend.h"
 #include "sim/ScenarioReader.h"
 #include "sim/SimulatedNetwork.h"
-#include "WaitingDevice.h"
 
 namespace Tksv
 {
 
 namespace
 {
-
-/// The time that BackendChoice waits for a slow ModemManager to list its modems. After this time,
-/// BackendChoice selects the simulator.
-const std::chrono::milliseconds FIRST_LOOK_LIMIT(2000);
-
-/// The time that the exiting program waits for the backend to be replaced.
-const std::chrono::milliseconds EXIT_LIMIT(1000);
 
 /// Returns the scenario of an absent device. It replaces a scenario file that cannot be read.
 Scenario absentDevice(const std::string &source)
@@ -44,49 +36,46 @@ std::shared_ptr<SimulatedNetwork> initialNetwork()
     return std::make_shared<SimulatedNetwork>(absentDevice(path));
 }
 
+/// Returns the value of the environment variable, or an empty text if it is not set.
+std::string valueOf(const char *variable)
+{
+    const char *value = std::getenv(variable);
+    return value ? value : "";
+}
+
 } // namespace
 
 BackendChoice::BackendChoice(BackendObserver &observer)
-    : m_observer(observer), m_initialMode(initialMode()), m_tasks("tksv-choice"),
-      m_watch([this] { watchChanged(); }), m_mode(m_initialMode)
+    : m_observer(observer), m_initialKind(initialKind()), m_watch([this] { watchChanged(); })
 {
 }
 
-BackendChoice::Mode BackendChoice::initialMode()
+/// Returns the kind that the environment selects. A scenario file selects the simulator unless
+/// $TKSV_BACKEND selects a modem.
+BackendChoice::Kind BackendChoice::initialKind()
 {
-    const char *value = std::getenv("TKSV_BACKEND");
-    const std::string name = value ? value : "";
+    const std::string name = valueOf("TKSV_BACKEND");
     if (name == "simulator")
-        return Mode::Simulator;
-    if (name == "modemmanager")
-        return Mode::ModemManager;
-    if (!name.empty())
-        std::fprintf(stderr,
-                     "TKSV_BACKEND=%s: expected simulator or modemmanager; taking a modem when "
-                     "there is one, otherwise the simulator\n",
+        return Kind::Simulator;
+    if (name.empty())
+        return valueOf("TKSV_SCENARIO").empty() ? Kind::Modem : Kind::Simulator;
+    if (name != "modemmanager")
+        std::fprintf(stderr, "TKSV_BACKEND=%s: expected simulator or modemmanager; using a modem\n",
                      name.c_str());
-    return Mode::Automatic;
+    return Kind::Modem;
 }
 
 void BackendChoice::stop()
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_switchMutex);
-        m_stopped = true;
-        if (const std::shared_ptr<Backend> last = current())
-            last->stop();
-        if (m_isWatching)
-            m_watch.stop();
-    }
-    m_tasks.stop(EXIT_LIMIT);
+    const std::lock_guard<std::mutex> lock(m_switchMutex);
+    m_stopped = true;
+    if (const std::shared_ptr<Backend> last = current())
+        last->stop();
+    if (m_isWatching)
+        m_watch.stop();
 }
 
 /* ---- calls from the client --------------------------------------------------------------- */
-
-std::shared_ptr<Backend> BackendChoice::backendOf(const Device &device)
-{
-    return std::visit([](const auto &kind) -> std::shared_ptr<Backend> { return kind; }, device);
-}
 
 BackendChoice::Device BackendChoice::device() const
 {
@@ -96,7 +85,7 @@ BackendChoice::Device BackendChoice::device() const
 
 std::shared_ptr<Backend> BackendChoice::current() const
 {
-    return backendOf(device());
+    return device().backend;
 }
 
 std::shared_ptr<Backend> BackendChoice::backend()
@@ -105,7 +94,7 @@ std::shared_ptr<Backend> BackendChoice::backend()
         return made;
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     if (!current()) {
-        start(decide());
+        start(initialDevice());
         if (m_stopped)
             current()->stop();
     }
@@ -118,60 +107,57 @@ std::string BackendChoice::useScenario(const std::string &path)
     if (!result.scenario)
         return describe(result.complaints);
     const std::lock_guard<std::mutex> lock(m_switchMutex);
-    m_mode = Mode::Simulator;
-    if (m_initialMode != Mode::Simulator)
+    if (m_initialKind != Kind::Simulator)
         startWatch(); // the watch provides the modem list
-    replace(std::make_shared<SimulatedNetwork>(*std::move(result.scenario)));
+    replace({std::make_shared<SimulatedNetwork>(*std::move(result.scenario)), nullptr});
     return std::string();
 }
 
 void BackendChoice::useModem(const std::string &equipmentId)
 {
     const std::lock_guard<std::mutex> lock(m_switchMutex);
-    m_mode = Mode::ModemManager;
-    startWatch();
-    replace(std::make_shared<ModemManagerBackend>(m_watch, equipmentId));
+    replace(modemDevice(equipmentId));
 }
 
 void BackendChoice::useAutomatic()
 {
     const std::lock_guard<std::mutex> lock(m_switchMutex);
-    m_mode = m_initialMode;
-    replace(decide());
+    replace(initialDevice());
+}
+
+void BackendChoice::lookAgain()
+{
+    const std::lock_guard<std::mutex> lock(m_switchMutex);
+    if (m_initialKind != Kind::Simulator || m_isWatching)
+        startWatch();
 }
 
 /* ---- m_switchMutex is locked in the following functions ---------------------------------- */
 
-BackendChoice::Device BackendChoice::decide()
+BackendChoice::Device BackendChoice::initialDevice()
 {
-    if (m_mode == Mode::Simulator)
-        return initialNetwork();
-    startWatch();
-    if (m_mode == Mode::ModemManager || !m_watch.modems().empty())
-        return std::make_shared<ModemManagerBackend>(m_watch, std::string());
-    if (!isFirstLookOver())
-        return std::make_shared<WaitingDevice>();
-    return initialNetwork();
+    return m_initialKind == Kind::Simulator ? Device{initialNetwork(), nullptr}
+                                            : modemDevice(std::string());
 }
 
-/// Stops the old backend before starting the new one, so that their events never mix. The old
-/// request and session end with the old backend. Only a waiting device passes its request on to the
-/// new backend.
+BackendChoice::Device BackendChoice::modemDevice(const std::string &equipmentId)
+{
+    startWatch();
+    const auto modem = std::make_shared<ModemManagerBackend>(m_watch, equipmentId);
+    return {modem, modem};
+}
+
+/// Stops the old backend before it starts the new one, so that their events never mix. The old
+/// request and session end with the old backend.
 void BackendChoice::replace(const Device &next)
 {
     if (m_stopped)
         return;
-    const Device old = device();
-    const std::shared_ptr<Backend> oldBackend = backendOf(old);
-    const std::shared_ptr<Backend> nextBackend = backendOf(next);
-    const auto *const waiting = std::get_if<std::shared_ptr<WaitingDevice>>(&old);
-    if (oldBackend && !waiting)
-        end(*oldBackend);
+    if (const std::shared_ptr<Backend> old = current())
+        end(*old);
     // Report the new status before the new backend can report a change.
-    m_observer.smsStatusChanged(nextBackend->info().canSendSms);
+    m_observer.smsStatusChanged(next.backend->info().canSendSms);
     start(next);
-    if (waiting)
-        (*waiting)->handOver(nextBackend);
     m_observer.infoChanged();
 }
 
@@ -184,7 +170,7 @@ void BackendChoice::end(Backend &old)
 
 void BackendChoice::start(const Device &device)
 {
-    backendOf(device)->start(m_observer);
+    device.backend->start(m_observer);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_device = device;
 }
@@ -196,44 +182,15 @@ void BackendChoice::startWatch()
     if (m_stopped)
         return;
     m_watch.start();
-    if (std::exchange(m_isWatching, true))
-        return;
-    m_watch.thread().post([this] {
-        m_watch.thread().after(FIRST_LOOK_LIMIT, [this] {
-            m_firstLookTimedOut = true;
-            watchChanged();
-        });
-    });
-}
-
-bool BackendChoice::isFirstLookOver() const
-{
-    return m_firstLookTimedOut || m_watch.state() != ServiceState::Looking;
-}
-
-/// Replaces the simulator with a modem that appears. A modem that disappears is not replaced with
-/// the simulator, because commands for the real network must not reach a simulated network without
-/// the user's knowledge.
-void BackendChoice::reconsider()
-{
-    const std::lock_guard<std::mutex> lock(m_switchMutex);
-    const Device now = device();
-    if (m_stopped || m_mode != Mode::Automatic || !backendOf(now))
-        return;
-    const bool isWaiting = std::holds_alternative<std::shared_ptr<WaitingDevice>>(now);
-    const bool isSimulated = std::holds_alternative<std::shared_ptr<SimulatedNetwork>>(now);
-    if ((isWaiting && isFirstLookOver()) || (isSimulated && !m_watch.modems().empty()))
-        replace(decide());
+    m_isWatching = true;
 }
 
 /* ---- called from the watch's thread ------------------------------------------------------ */
 
 void BackendChoice::watchChanged()
 {
-    const Device now = device();
-    if (const auto *const modem = std::get_if<std::shared_ptr<ModemManagerBackend>>(&now))
-        (*modem)->modemsChanged();
-    m_tasks.post([this] { reconsider(); });
+    if (const std::shared_ptr<ModemManagerBackend> modem = device().modem)
+        modem->modemsChanged();
     m_observer.infoChanged();
 }
 

@@ -1,33 +1,27 @@
 #ifndef TKSV_INTERNAL_BACKENDCHOICE_H
 #define TKSV_INTERNAL_BACKENDCHOICE_H
 
-#include <atomic>
 #include <memory>
 #include <mutex>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "base/Backend.h"
-#include "base/TaskQueue.h"
 #include "modemmanager/ModemWatch.h"
 
 namespace Tksv
 {
 
 class ModemManagerBackend;
-class SimulatedNetwork;
-class WaitingDevice;
 
 /**
- * Selects the backend that represents the device: the backend selected by $TKSV_BACKEND or by the
- * client, otherwise a modem if there is one. The backend is created on first use and can be
- * replaced at any time.
+ * Decides which backend is the device: the backend that the environment or the client selects,
+ * otherwise a modem. The simulator is used only if it was selected. The backend is created when it
+ * is first needed and can be replaced at any time.
  *
- * Locks: m_switchMutex is held while a backend is replaced. It is locked before every lock of the
- * session, the backends and the services. m_mutex is locked after all of these. The watch's thread
- * locks only m_mutex. reconsider() may have to wait for m_switchMutex, so it runs on the thread of
- * m_tasks.
+ * Locks: m_switchMutex is held while a backend is replaced. It is taken before every lock of the
+ * session, the backends and the services; m_mutex is taken after all of these. The watch's thread
+ * takes only m_mutex.
  */
 class BackendChoice
 {
@@ -47,10 +41,13 @@ public:
     /// Switches to the simulated network of a scenario file. An empty path selects the initial
     /// scenario. Returns an empty string on success, otherwise the error messages for the file.
     std::string useScenario(const std::string &path);
-    /// Switches to a modem. An empty identifier selects the modem that was found first.
+    /// Switches to a modem. An empty identifier selects the first modem that is registered, or the
+    /// first modem that was found if none is registered.
     void useModem(const std::string &equipmentId);
-    /// Restores the choice that was in effect when the program started.
+    /// Switches back to the device that the program started with.
     void useAutomatic();
+    /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
+    void lookAgain();
     /// Returns the modems that ModemManager has found, oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
@@ -58,37 +55,32 @@ public:
     void stop();
 
 private:
-    enum class Mode { Automatic, Simulator, ModemManager };
+    enum class Kind { Simulator, Modem };
 
-    /// The device, with one alternative for each kind of backend. The pointer is null until the
-    /// first backend is created.
-    using Device =
-        std::variant<std::shared_ptr<SimulatedNetwork>, std::shared_ptr<ModemManagerBackend>,
-                     std::shared_ptr<WaitingDevice>>;
+    /// The backend in use. `modem` is the same backend if it is a modem, otherwise null. Both are
+    /// null until the first backend is created.
+    struct Device {
+        std::shared_ptr<Backend> backend;
+        std::shared_ptr<ModemManagerBackend> modem;
+    };
 
-    static Mode initialMode();
-    static std::shared_ptr<Backend> backendOf(const Device &device);
+    static Kind initialKind();
     Device device() const;
-    Device decide();
+    Device initialDevice();
+    Device modemDevice(const std::string &equipmentId);
     void replace(const Device &next);
     void end(Backend &old);
     void start(const Device &device);
     void startWatch();
-    bool isFirstLookOver() const;
-    void reconsider();
     void watchChanged();
 
     BackendObserver &m_observer;
-    const Mode m_initialMode;
-    TaskQueue m_tasks; // runs reconsider()
+    const Kind m_initialKind;
     ModemWatch m_watch;
 
-    std::mutex m_switchMutex; // guards m_mode, m_isWatching and m_stopped
-    Mode m_mode;
+    std::mutex m_switchMutex; // guards the following two members
     bool m_isWatching = false;
     bool m_stopped = false;
-
-    std::atomic<bool> m_firstLookTimedOut{false};
 
     mutable std::mutex m_mutex; // guards m_device
     Device m_device;

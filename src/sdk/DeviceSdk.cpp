@@ -53,7 +53,9 @@ DeviceSdk &DeviceSdk::instance()
 DeviceSdk::DeviceSdk()
     : m_ussdEvents("tksv-ussd"), m_deviceEvents("tksv-device"), m_smsEvents("tksv-sms"),
       m_infoEvents("tksv-info"), m_textEvents("tksv-text"),
-      m_session(m_ussdEvents, [this] { m_textEvents.post(Event()); }), m_choice(*this)
+      m_session([this](Event event) { m_ussdEvents.post(std::move(event)); },
+                [this] { m_textEvents.post(Event()); }),
+      m_choice(*this)
 {
 }
 
@@ -76,6 +78,17 @@ void DeviceSdk::release()
 {
     if (const std::shared_ptr<Backend> current = m_choice.current())
         m_session.release(*current);
+}
+
+bool DeviceSdk::cancel()
+{
+    const std::shared_ptr<Backend> current = m_choice.current();
+    return current && m_session.cancel(*current);
+}
+
+bool DeviceSdk::endForeignSession()
+{
+    return m_choice.backend()->endForeignSession();
 }
 
 void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
@@ -171,6 +184,11 @@ void DeviceSdk::deliverUntakenTexts(TKSV_NetworkTextCallback callback, void *con
 bool DeviceSdk::sendPin(const std::string &pin)
 {
     return m_choice.backend()->sendPin(pin);
+}
+
+bool DeviceSdk::enable()
+{
+    return m_choice.backend()->enable();
 }
 
 /* ---- events from the backend, called from the backend's thread --------------------------- */

@@ -30,6 +30,9 @@ public:
 
     int request(const std::string &text);
     void release();
+    bool cancel();
+    bool endForeignSession();
+    UssdSession &session() { return m_session; }
     void addUssdCallback(TKSV_EventCallback callback);
     bool removeUssdCallback(TKSV_EventCallback callback);
 
@@ -45,6 +48,7 @@ public:
     void setInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
     void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
     bool sendPin(const std::string &pin);
+    bool enable();
     BackendChoice &choice() { return m_choice; }
 
 private:

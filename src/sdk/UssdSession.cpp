@@ -13,8 +13,8 @@ namespace
 const std::size_t MAX_UNTAKEN_TEXTS = 20;
 }
 
-UssdSession::UssdSession(EventService &service, std::function<void()> textUntaken)
-    : m_service(service), m_textUntaken(std::move(textUntaken))
+UssdSession::UssdSession(Post post, std::function<void()> textUntaken)
+    : m_post(std::move(post)), m_textUntaken(std::move(textUntaken))
 {
 }
 
@@ -23,13 +23,15 @@ int UssdSession::request(Backend &backend, const std::string &text)
     const std::lock_guard<std::mutex> lock(m_mutex);
     const bool isAnswer = m_state == State::WaitsForAnswer && !hasFormOfCode(text);
     const RequestToken token = ++m_lastToken;
-    const int status =
+    const RequestResult result =
         backend.request(token, isAnswer ? RequestKind::Answer : RequestKind::NewSession, text);
-    if (status == RequestAccepted) {
+    const bool isAccepted = result.status == RequestAccepted;
+    recordFailure(Failure{result.refusal, !isAccepted});
+    if (isAccepted) {
         m_state = State::InFlight;
         m_token = token;
     }
-    return status;
+    return result.status;
 }
 
 void UssdSession::release(Backend &backend)
@@ -39,9 +41,48 @@ void UssdSession::release(Backend &backend)
     backend.endSession();
 }
 
+/// Gives the request in flight a new token. A reply that has already been posted is then late, and
+/// only the empty reply is delivered.
+bool UssdSession::cancel(Backend &backend)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_state != State::InFlight)
+        return false;
+    m_token = ++m_lastToken;
+    backend.endSession();
+    postReply(m_token, failedReply(Failure{TKSV_FAILURE_CANCELLED}));
+    return true;
+}
+
 void UssdSession::handleReply(RequestToken token, const UssdReply &reply)
 {
-    post(reply, [this, token, type = reply.type] { return acceptReply(token, type); });
+    postReply(token, reply);
+}
+
+void UssdSession::postReply(RequestToken token, const UssdReply &reply)
+{
+    post(reply, [this, token, reply] { return acceptReply(token, reply); });
+}
+
+void UssdSession::recordRefusal(TKSV_Failure reason)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    recordFailure(Failure{reason, true});
+}
+
+Failure UssdSession::lastFailure() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_deliveryThread == std::this_thread::get_id() ? m_deliveredFailure : m_failure;
+}
+
+/// Records how the newest request failed. From now on, a call-back that made this request sees this
+/// failure, too. Must be called with the lock held.
+void UssdSession::recordFailure(const Failure &failure)
+{
+    m_failure = failure;
+    if (m_deliveryThread == std::this_thread::get_id())
+        m_deliveryThread = std::thread::id();
 }
 
 void UssdSession::handleText(const UssdReply &text)
@@ -52,6 +93,8 @@ void UssdSession::handleText(const UssdReply &text)
 void UssdSession::deviceLost()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_state == State::InFlight)
+        recordFailure(Failure{TKSV_FAILURE_DEVICE_LOST});
     becomeIdle();
 }
 
@@ -68,16 +111,18 @@ void UssdSession::post(const UssdReply &reply, std::function<bool()> beforeDeliv
     event.data = encodeResponse(reply);
     event.beforeDelivery = std::move(beforeDelivery);
     const UntakenText text{std::chrono::system_clock::now(), reply};
-    event.afterDelivery = [this, text](bool taken) { keepUnlessTaken(text, taken); };
-    m_service.post(std::move(event));
+    event.afterDelivery = [this, text](bool taken) { delivered(text, taken); };
+    m_post(std::move(event));
 }
 
-bool UssdSession::acceptReply(RequestToken token, int type)
+bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight || token != m_token)
         return false; // the request was replaced, released or lost with the device
-    if (type == UssdWaitsForAnswer)
+    m_failure = m_deliveredFailure = reply.failure;
+    m_deliveryThread = std::this_thread::get_id();
+    if (reply.type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
     else
         becomeIdle();
@@ -97,6 +142,15 @@ bool UssdSession::acceptText(const UssdReply &text)
     if (text.type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
     return true;
+}
+
+void UssdSession::delivered(const UntakenText &text, bool taken)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_deliveryThread = std::thread::id();
+    }
+    keepUnlessTaken(text, taken);
 }
 
 /// Keeps a message that no call-back accepted. An empty message is dropped unless the network waits

@@ -6,6 +6,7 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "base/Backend.h"
@@ -33,8 +34,11 @@ struct UntakenText {
 class UssdSession
 {
 public:
-    /// `textUntaken` is called from the service's thread when takeUntakenTexts() has a new message.
-    UssdSession(EventService &service, std::function<void()> textUntaken);
+    using Post = std::function<void(Event)>;
+
+    /// `post` passes an event to the USSD service. `textUntaken` is called on the service's thread
+    /// when takeUntakenTexts() has a new text.
+    UssdSession(Post post, std::function<void()> textUntaken);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
@@ -43,6 +47,14 @@ public:
     int request(Backend &backend, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void release(Backend &backend);
+    /// Ends the request in flight, which then receives an empty reply. Returns false if there is no
+    /// request in flight.
+    bool cancel(Backend &backend);
+    /// Records why a request failed that did not reach the backend.
+    void recordRefusal(TKSV_Failure reason);
+    /// Returns how the newest request failed. In the call-back of a reply, returns how the request
+    /// of this reply failed.
+    Failure lastFailure() const;
 
     /// Delivers the backend's reply to a request. A late reply is dropped.
     void handleReply(RequestToken token, const UssdReply &reply);
@@ -58,13 +70,16 @@ private:
     enum class State { Idle, InFlight, WaitsForAnswer };
 
     void post(const UssdReply &reply, std::function<bool()> beforeDelivery);
-    bool acceptReply(RequestToken token, int type);
+    void postReply(RequestToken token, const UssdReply &reply);
+    void recordFailure(const Failure &failure);
+    bool acceptReply(RequestToken token, const UssdReply &reply);
+    void delivered(const UntakenText &text, bool taken);
     bool acceptText(const UssdReply &text);
     void keepUnlessTaken(const UntakenText &text, bool taken);
     void becomeIdle();
     void postHeldTexts();
 
-    EventService &m_service;
+    const Post m_post;
     const std::function<void()> m_textUntaken;
     mutable std::mutex m_mutex; // guards all members below
     State m_state = State::Idle;
@@ -72,6 +87,10 @@ private:
     RequestToken m_lastToken = 0;
     std::vector<UssdReply> m_heldTexts; // messages held back until the session ends
     std::deque<UntakenText> m_untaken;
+    Failure m_failure; // how the newest request failed
+    // While the call-back of a reply runs, its thread sees the failure of this reply.
+    std::thread::id m_deliveryThread;
+    Failure m_deliveredFailure;
 };
 
 } // namespace Tksv

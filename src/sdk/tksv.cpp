@@ -51,10 +51,13 @@ long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status)
 {
     return guarded([&] {
         setStatus(status, RequestMalformed);
+        DeviceSdk &sdk = DeviceSdk::instance();
         const auto text = decodeRequest(request);
-        if (!text)
+        if (!text) {
+            sdk.session().recordRefusal(TKSV_FAILURE_NOT_ENCODABLE);
             return FAILURE;
-        const int result = DeviceSdk::instance().request(*text);
+        }
+        const int result = sdk.request(*text);
         setStatus(status, result);
         return resultOf(result == RequestAccepted);
     });
@@ -178,6 +181,9 @@ long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
         copyText(source.simOperatorName, info->simOperatorName, sizeof info->simOperatorName);
         copyText(source.equipmentId, info->equipmentId, sizeof info->equipmentId);
         copyText(source.source, info->source, sizeof info->source);
+        info->isLooking = source.isLooking ? 1 : 0;
+        info->hasForeignSession = source.hasForeignSession ? 1 : 0;
+        info->waitsForTurn = source.waitsForTurn ? 1 : 0;
         return SUCCESS;
     });
 }
@@ -213,6 +219,7 @@ long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity, unsigned 
             copyText(found[i].equipmentId, modems[i].equipmentId, sizeof modems[i].equipmentId);
             copyText(found[i].name, modems[i].name, sizeof modems[i].name);
             modems[i].isInUse = found[i].equipmentId == inUse ? 1 : 0;
+            modems[i].state = found[i].state;
         }
         return SUCCESS;
     });
@@ -241,6 +248,43 @@ long TKSV_Device_SendPin(const char *pin)
         const bool isPin = isDigits(digits) && digits.size() >= 4 && digits.size() <= 8;
         return resultOf(isPin && DeviceSdk::instance().sendPin(digits));
     });
+}
+
+long TKSV_Device_Enable(void)
+{
+    return guarded([] { return resultOf(DeviceSdk::instance().enable()); });
+}
+
+long TKSV_Device_LookAgain(void)
+{
+    return guarded([] {
+        DeviceSdk::instance().choice().lookAgain();
+        return SUCCESS;
+    });
+}
+
+long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure)
+{
+    if (!failure)
+        return FAILURE;
+    return guarded([&] {
+        const Failure last = DeviceSdk::instance().session().lastFailure();
+        *failure = TKSV_FailureInfo();
+        failure->reason = last.reason;
+        failure->wasNotSent = last.wasNotSent ? 1 : 0;
+        copyText(last.text, failure->text, sizeof failure->text);
+        return SUCCESS;
+    });
+}
+
+long TKSV_Device_CancelRequest(void)
+{
+    return guarded([] { return resultOf(DeviceSdk::instance().cancel()); });
+}
+
+long TKSV_Device_EndForeignSession(void)
+{
+    return guarded([] { return resultOf(DeviceSdk::instance().endForeignSession()); });
 }
 
 long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context)

@@ -44,7 +44,10 @@ typedef enum TKSV_DeviceProblem {
     TKSV_PROBLEM_WRONG_PIN = 5,     /* the most recently sent PIN is wrong */
     TKSV_PROBLEM_PUK_NEEDED = 6,    /* the SIM needs its PUK, or another lock blocks the modem */
     TKSV_PROBLEM_NO_USSD = 7,       /* the modem does not support USSD */
-    TKSV_PROBLEM_MODEM_FAILED = 8   /* ModemManager reports that the modem has failed */
+    TKSV_PROBLEM_MODEM_FAILED = 8,  /* ModemManager reports that the modem has failed */
+    TKSV_PROBLEM_REGISTRATION_DENIED = 9, /* the network does not accept the SIM */
+    TKSV_PROBLEM_SERVICE_SILENT = 10,     /* ModemManager is running, but does not answer */
+    TKSV_PROBLEM_MODEM_REMOVED = 11       /* the modem in use was removed */
 } TKSV_DeviceProblem;
 
 /**
@@ -63,7 +66,10 @@ typedef struct TKSV_DeviceInfo {
     char simOperatorCode[8];   /* MCC and MNC of the SIM's home network, 5 or 6 digits */
     char simOperatorName[128]; /* service provider name (SPN) stored on the SIM */
     char equipmentId[64];      /* identifier of the current modem; see TKSV_Modem */
-    char source[1024]; /* path of the scenario file, or manufacturer and model of the modem */
+    char source[1024];     /* path of the scenario file, or manufacturer and model of the modem */
+    int isLooking;         /* 1 until ModemManager has first reported its modems, otherwise 0 */
+    int hasForeignSession; /* 1 while a USSD session is open that another program opened */
+    int waitsForTurn;      /* 1 while a request waits for another program of the same user */
 } TKSV_DeviceInfo;
 
 /** Copies a snapshot to `*info`. Fails if `info` is null. */
@@ -102,6 +108,7 @@ typedef struct TKSV_Modem {
     char equipmentId[64]; /* never empty */
     char name[256];       /* manufacturer and model */
     int isInUse;          /* 1 if the modem is the current device, otherwise 0 */
+    TKSV_DeviceState state;
 } TKSV_Modem;
 
 /**
@@ -113,17 +120,18 @@ TKSV_API long TKSV_Device_GetModems(TKSV_Modem *modems, unsigned long capacity,
                                     unsigned long *count);
 
 /**
- * Switches to the modem with the given identifier, which replaces the current device in the same
- * way as in TKSV_Device_UseScenario. While the modem is missing, no other modem replaces it. A null
- * or empty identifier selects the modem that was found first.
+ * Switches to the modem with that identifier, which replaces the device in use in the same way as
+ * TKSV_Device_UseScenario does. While the modem is missing, no other modem replaces it. A null or
+ * empty identifier selects the first modem that is registered, or, as long as no modem is
+ * registered, the modem that was found first.
  */
 TKSV_API long TKSV_Device_UseModem(const char *equipmentId);
 
 /**
- * Switches back to the device choice with which the program started. $TKSV_BACKEND selects this
- * device. With "simulator", the SDK does not look for modems. With "modemmanager", the SDK waits
- * for a modem. If the variable is not set, the device is a modem as soon as there is one. Until
- * then, the device is the simulated network of the initial scenario.
+ * Switches back to the device that the program started with. If $TKSV_BACKEND is "simulator", or if
+ * the variable is not set and $TKSV_SCENARIO names a file, this is a simulated network. Otherwise
+ * it is the first modem that is registered, or, as long as no modem is registered, the modem that
+ * was found first. A simulated network never replaces a modem.
  */
 TKSV_API long TKSV_Device_UseAutomatic(void);
 
@@ -134,13 +142,85 @@ TKSV_API long TKSV_Device_UseAutomatic(void);
  */
 TKSV_API long TKSV_Device_SendPin(const char *pin);
 
+/**
+ * Enables the modem in use, which then registers with its network. The SDK never enables a modem on
+ * its own, except after TKSV_Device_SendPin has unlocked the SIM. Fails if there is no modem or if
+ * the modem is not disabled. The call-back of TKSV_Device_SetInfoCallback reports the outcome as a
+ * change to `state` or `problem`.
+ */
+TKSV_API long TKSV_Device_Enable(void);
+
+/**
+ * Looks for ModemManager and its modems again, for example after the message bus or the service was
+ * started. The call-back of TKSV_Device_SetInfoCallback reports changes.
+ */
+TKSV_API long TKSV_Device_LookAgain(void);
+
+/* ---- requests that fail ------------------------------------------------------------------ */
+
+/**
+ * The reason why a request has no reply. If the request receives an empty response, the reason is
+ * also the `type` of the TKSV_USSDResponse. The values up to 5 are the <m> of +CUSD (3GPP TS
+ * 27.007, 7.15).
+ */
+typedef enum TKSV_Failure {
+    TKSV_FAILURE_NONE = 0,
+    TKSV_FAILURE_ENDED_BY_NETWORK = 2,
+    TKSV_FAILURE_NOT_SUPPORTED = 4,   /* by the network or by the modem */
+    TKSV_FAILURE_NETWORK_TIMEOUT = 5, /* the network waited too long for the answer of the user */
+    TKSV_FAILURE_REFUSED = 16,        /* the network or the modem refused the command */
+    TKSV_FAILURE_NO_ANSWER = 17,      /* the modem did not answer in time */
+    TKSV_FAILURE_EMPTY_REPLY = 18,    /* the network answered without a text */
+    TKSV_FAILURE_UNDECODABLE = 19,    /* the reply could not be decoded */
+    TKSV_FAILURE_NOT_ENCODABLE = 20,  /* the modem's character set lacks a character */
+    TKSV_FAILURE_NO_DEVICE = 21,      /* no modem, or its SIM is missing or locked */
+    TKSV_FAILURE_DISABLED = 22,       /* the modem is disabled */
+    TKSV_FAILURE_NOT_REGISTERED = 23, /* the modem is not registered with a network */
+    TKSV_FAILURE_DEVICE_LOST = 24,    /* the modem or ModemManager disappeared */
+    TKSV_FAILURE_NOT_PERMITTED = 25,  /* the system's policy (polkit) denies USSD */
+    TKSV_FAILURE_IN_USE = 26,         /* another program uses codes on this modem */
+    TKSV_FAILURE_NOT_ON_4G = 27,      /* not supported while the modem is on 4G only; the network
+                                         answers codes on 2G or 3G */
+    TKSV_FAILURE_CANCELLED = 28       /* TKSV_Device_CancelRequest ended the request */
+} TKSV_Failure;
+
+/** How the newest request failed. */
+typedef struct TKSV_FailureInfo {
+    TKSV_Failure reason;
+    int wasNotSent; /* 1 if the command certainly did not reach the network, otherwise 0 */
+    char text[512]; /* the network's closing text, in UTF-8; empty if unknown */
+} TKSV_FailureInfo;
+
+/**
+ * Copies how the newest request failed to `*failure`. The reason is TKSV_FAILURE_NONE if there was
+ * no request yet, if the newest request is in flight, or if it received a reply. In the call-back
+ * of an empty response, the function reports the failure of this response. It also reports why
+ * TKSV_USSDSrv_Request failed. Fails if `failure` is null.
+ */
+TKSV_API long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure);
+
+/**
+ * Ends the request in flight on the device. The client receives one response, which is empty and
+ * whose type is TKSV_FAILURE_CANCELLED. A reply that arrives at the same time is dropped, unless
+ * its call-back has already started. Fails if no request is in flight.
+ */
+TKSV_API long TKSV_Device_CancelRequest(void);
+
+/**
+ * Ends the USSD session that another program opened on the modem in use. Call this function only if
+ * the user has asked for it, since a purchase may be in progress. Fails if there is no such
+ * session. `hasForeignSession` changes when the session has ended.
+ */
+TKSV_API long TKSV_Device_EndForeignSession(void);
+
+/* ---- texts that the network sends of its own accord -------------------------------------- */
+
 /** A USSD message from the network that no USSD call-back accepted. */
 typedef struct TKSV_NetworkText {
     time_t receivedAt;  /* in UTC */
     int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers this message, unless the
                            request has the form of a code; otherwise 0 */
-    const char *text;   /* empty if the text is unknown, as for a menu that was open before the
-                           program started */
+    const char *text;
 } TKSV_NetworkText;
 
 /**

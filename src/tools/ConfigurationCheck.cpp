@@ -6,6 +6,7 @@
 
 #include "ElementCheck.h"
 #include "ForwardTrace.h"
+#include "ForwardXml.h"
 #include "PluginConfig.h"
 #include "SmsLayout.h"
 #include "TopUpInputLimits.h"
@@ -22,6 +23,8 @@ namespace
 
 const int ITEMS = 4; // the scan always reads four items for a paid section, even beyond its end
 const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
+const int TWENTIETHS = 20;   // the unit of font sizes is a twentieth of a point
+const int MOST_POINTS = 200; // a larger letter is higher than the transcript
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
                                 XmlName::SENT_CHAR,       XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
@@ -33,6 +36,11 @@ QStringList components()
                          << QLatin1String(XmlName::ONLINE_CHARGE) << QLatin1String(XmlName::MSISDN);
 }
 
+QString titleOf(const char *section)
+{
+    return QString::fromLatin1("<%1>").arg(QLatin1String(section));
+}
+
 /** A component of the account window, as read by the scan. */
 struct Item {
     int place = -1;
@@ -41,7 +49,11 @@ struct Item {
     int pos = 0;
 };
 
-/** Follows the scan and reports results that the author of the file may not expect. */
+/**
+ * Follows the scan and reports results that the author of the file may not expect. If the scan does
+ * not find an element, the check reports this once and continues as if the element had been found,
+ * so that each cause has one finding and no mistake hides another one.
+ */
 class Check
 {
 public:
@@ -59,13 +71,15 @@ private:
 
     void detection();
     void paid(const char *name);
-    Item item(int section, const char *sectionName, int number);
-    void itemOutside(const Item &item, const char *sectionName, int number);
+    bool nextItem(int section, int number);
+    Item item();
+    void itemOutside(int section, int place, int number);
     void component(const Item &item);
+    void plainCommand(int place, const QString &command);
     void sent(const Item &item);
     void charge(const Item &item);
-    void chargeExpressionOf(const Item &item, const TopUpInputLimits &rules, int place);
-    void chargeLength(const Item &item, const TopUpInputLimits &rules, int place);
+    void chargeExpressionOf(const TopUpInputLimits &rules, int place);
+    void chargeLength(const TopUpInputLimits &rules, int place);
     void twins(const QList<Item> &items);
     void looks(const char *name);
     void colours(int place);
@@ -79,7 +93,6 @@ private:
     const XmlElements &m_elements;
     ElementCheck m_check;
     ForwardTrace m_trace;
-    bool m_isLost = false; // true if the scan reached the end of the document
 };
 
 void Check::run()
@@ -99,48 +112,50 @@ void Check::run()
 
 int Check::section(const char *name)
 {
-    const QString title = QString::fromLatin1("<%1>").arg(QLatin1String(name));
+    const QString title = titleOf(name);
+    const int before = m_trace.position();
+    const int passed = m_trace.passed(name);
     const int place = m_trace.seek(name);
     if (place >= 0)
         return place;
-    const int passed = m_trace.passed(name);
-    if (passed >= 0 && !m_isLost)
-        m_check.find(passed, "order",
-                     title + QLatin1String(" is too early: the reader only searches forward, so it "
-                                           "misses this section and reads it and every later "
-                                           "section as empty"));
-    else if (passed >= 0)
-        m_check.find(
-            passed, "order",
-            title + QLatin1String(" is not read: the search for another section reached the end"));
-    else
+    if (passed < 0) {
+        m_trace.moveTo(before);
         m_check.find(-1, "missing",
-                     title + QLatin1String(m_isLost ? " is missing"
-                                                    : " is missing: it and every later section "
-                                                      "are read as empty"));
-    m_isLost = true;
-    return -1;
+                     title + QLatin1String(" is missing: it and every later section are read as "
+                                           "empty"));
+        return -1;
+    }
+    m_check.find(passed, "order",
+                 title + QLatin1String(" is too early: the reader only searches forward, so it "
+                                       "misses this section and reads it and every later section "
+                                       "as empty"));
+    m_trace.moveTo(passed + 1);
+    return passed;
 }
 
-/// Returns the next element with this name. Adds a finding if the element is outside the section.
+/// Returns the next element with this name. Adds a finding and returns -1 if it is outside the
+/// section.
 int Check::child(int section, const char *name)
 {
-    const int place = m_trace.seek(name);
     if (section < 0)
+        return -1;
+    const int before = m_trace.position();
+    const int place = m_trace.seek(name);
+    if (place >= 0 && m_check.at(place).parent == section)
         return place;
-    const QString title =
-        QString::fromLatin1("<%1> of <%2>").arg(QLatin1String(name), m_check.at(section).name);
+    m_trace.moveTo(before);
+    const QString title = QString::fromLatin1("%1 of <%2> is missing or too early; ")
+                              .arg(titleOf(name), m_check.at(section).name);
     if (place < 0)
         m_check.find(section, "missing",
-                     title + QLatin1String(" is missing or too early; it and every later element "
-                                           "are read as empty"));
-    else if (m_check.at(place).parent != section)
+                     title + QLatin1String("it and every later element are read as empty"));
+    else
         m_check.find(section, "order",
-                     title + QString::fromLatin1(" is missing or too early; the one in line %1 is "
-                                                 "read instead, and everything before that is "
-                                                 "skipped")
-                                 .arg(m_check.at(place).line));
-    return place;
+                     title +
+                         QString::fromLatin1("the one in line %1 is read instead, and everything "
+                                             "before that is skipped")
+                             .arg(m_check.at(place).line));
+    return -1;
 }
 
 QString Check::childText(int section, const char *name, int *place)
@@ -167,15 +182,17 @@ void Check::detection()
     const int section = this->section(XmlName::PRE_POST_DIFFER);
     if (section >= 0)
         m_check.boolAttribute(section, XmlName::VALUE);
-    const QString command = childText(section, XmlName::COMMAND);
+    int commandPlace = -1;
+    const QString command = childText(section, XmlName::COMMAND, &commandPlace);
     int place = -1;
     const QString pattern = childText(section, XmlName::RETURN_PATTERN, &place);
     childNumber(section, XmlName::STYLE);
     if (section < 0)
         return;
-    m_check.command(section, command, 0);
     const bool isOn = m_check.at(section).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    if (isOn && command.isEmpty())
+    if (!command.isEmpty())
+        plainCommand(section, command);
+    else if (isOn && commandPlace >= 0)
         m_check.find(section, "command",
                      QLatin1String("the detection has no command; nothing is asked"));
     if (isOn && place >= 0 && pattern.contains(QLatin1Char('\\')) &&
@@ -190,8 +207,12 @@ void Check::paid(const char *name)
 {
     const int section = this->section(name);
     QList<Item> items;
-    for (int number = 1; number <= ITEMS; ++number)
-        items << item(section, name, number);
+    bool isComplete = section >= 0;
+    for (int number = 1; isComplete && number <= ITEMS; ++number) {
+        isComplete = nextItem(section, number);
+        if (isComplete)
+            items << item();
+    }
     if (section < 0)
         return;
     const QList<int> own = m_elements.childrenOf(section, XmlName::ITEM);
@@ -204,48 +225,73 @@ void Check::paid(const char *name)
     twins(items);
 }
 
-Item Check::item(int section, const char *sectionName, int number)
+/// Moves to the next item. Adds a finding and returns false if it is outside the section.
+bool Check::nextItem(int section, int number)
+{
+    const int before = m_trace.position();
+    const int place = m_trace.seek(XmlName::ITEM);
+    if (place >= 0 && m_check.at(place).parent == section) {
+        m_trace.moveTo(place);
+        return true;
+    }
+    m_trace.moveTo(before);
+    if (place >= 0)
+        itemOutside(section, place, number);
+    else if (m_elements.error.isEmpty()) // otherwise, the item may be behind the error
+        m_check.find(
+            section, "items",
+            QString::fromLatin1("<%1> has no item %2").arg(m_check.at(section).name).arg(number));
+    return false;
+}
+
+Item Check::item()
 {
     Item item;
     item.place = m_trace.seek(XmlName::ITEM);
-    if (item.place < 0) {
-        if (section >= 0)
-            m_check.find(section, "items",
-                         QString::fromLatin1("<%1> has no item %2")
-                             .arg(QLatin1String(sectionName))
-                             .arg(number));
-        return item;
-    }
     item.name = m_check.at(item.place).attribute(XmlName::NAME);
-    if (section >= 0 && m_check.at(item.place).parent != section)
-        itemOutside(item, sectionName, number);
+    item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
+    item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
     if (components().contains(item.name))
         component(item);
-    else if (section >= 0)
+    else
         m_check.find(item.place, "items",
                      QString::fromLatin1("there is no component %1; the item is counted but "
                                          "not read")
                          .arg(quotedPart(item.name)));
-    item.shown = m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    item.pos = m_check.at(item.place).attribute(XmlName::POSITION).toInt();
     return item;
 }
 
-void Check::itemOutside(const Item &item, const char *sectionName, int number)
+void Check::itemOutside(int section, int place, int number)
 {
-    const int parent = m_check.at(item.place).parent;
-    m_check.find(item.place, "items",
+    const int parent = m_check.at(place).parent;
+    m_check.find(place, "items",
                  QString::fromLatin1("<%1> has fewer than four items: this item %2 of <%3> becomes "
                                      "its item %4")
-                     .arg(QLatin1String(sectionName), quotedPart(item.name),
+                     .arg(m_check.at(section).name,
+                          quotedPart(m_check.at(place).attribute(XmlName::NAME)),
                           parent < 0 ? QString() : m_check.at(parent).name)
                      .arg(number));
+}
+
+/// Checks a code that is sent as it is.
+void Check::plainCommand(int place, const QString &command)
+{
+    m_check.command(place, command, 0);
+    if (command.contains(INPUT_PLACEHOLDER))
+        m_check.find(place, "command",
+                     quotedPart(command) +
+                         QLatin1String(" has a \"%s\", for which nothing can be entered; it is "
+                                       "sent unchanged"));
 }
 
 void Check::component(const Item &item)
 {
     m_check.boolAttribute(item.place, XmlName::VALUE);
     m_check.numberAttribute(item.place, XmlName::POSITION);
+    if (m_check.at(item.place).behind == item.place + 1)
+        return m_check.find(item.place, "order",
+                            QLatin1String("the item has no elements; the reader takes them from "
+                                          "later items, and skips everything before them"));
     if (item.name == QLatin1String(XmlName::CHARGE))
         return charge(item);
     if (item.name == QLatin1String(XmlName::ONLINE_CHARGE)) {
@@ -259,18 +305,21 @@ void Check::component(const Item &item)
 
 void Check::sent(const Item &item)
 {
-    const QString command = childText(item.place, XmlName::COMMAND);
+    int place = -1;
+    const QString command = childText(item.place, XmlName::COMMAND, &place);
     const bool shown =
         m_check.at(item.place).attribute(XmlName::VALUE) == QLatin1String(XmlName::ON);
-    m_check.command(item.place, command, 0);
-    if (shown && command.isEmpty())
+    if (!command.isEmpty())
+        plainCommand(item.place, command);
+    else if (shown && place >= 0)
         m_check.find(item.place, "command",
                      item.name + QLatin1String(" is shown and has no command"));
 }
 
 void Check::charge(const Item &item)
 {
-    const QString command = childText(item.place, XmlName::COMMAND);
+    int commandPlace = -1;
+    const QString command = childText(item.place, XmlName::COMMAND, &commandPlace);
     TopUpInputLimits rules;
     int lengthPlace = -1;
     rules.length = childNumber(item.place, XmlName::LENGTH, &lengthPlace);
@@ -278,45 +327,48 @@ void Check::charge(const Item &item)
     childNumber(item.place, XmlName::RETURN_STYLE);
     int limitPlace = -1;
     rules.limitText = childText(item.place, XmlName::LIMIT_TEXT, &limitPlace);
-    m_check.command(item.place, command, rules.length);
+    if (!command.isEmpty())
+        m_check.command(item.place, command, rules.length);
     if (m_check.at(item.place).attribute(XmlName::VALUE) != QLatin1String(XmlName::ON))
         return;
-    if (!command.contains(INPUT_PLACEHOLDER))
+    if (commandPlace >= 0 && !command.contains(INPUT_PLACEHOLDER))
         m_check.find(item.place, "command",
                      QLatin1String("the top-up's command has no \"%s\"; what is entered is not "
                                    "sent"));
-    chargeLength(item, rules, lengthPlace);
-    chargeExpressionOf(item, rules, limitPlace);
+    if (lengthPlace >= 0)
+        chargeLength(rules, lengthPlace);
+    if (limitPlace >= 0)
+        chargeExpressionOf(rules, limitPlace);
 }
 
-void Check::chargeLength(const Item &item, const TopUpInputLimits &rules, int place)
+void Check::chargeLength(const TopUpInputLimits &rules, int place)
 {
-    const int at = place < 0 ? item.place : place;
     if (rules.length <= 0)
-        m_check.find(at, "length", QLatin1String("length is 0: nothing can be entered to top up"));
+        m_check.find(place, "length",
+                     QLatin1String("length is 0: nothing can be entered to top up"));
     else if (rules.minlenth > rules.length)
-        m_check.find(
-            at, "length",
-            QString::fromLatin1("minlenth %1 is more than length %2: exactly %2 are needed")
-                .arg(rules.minlenth)
-                .arg(rules.length));
+        m_check.find(place, "length",
+                     QString::fromLatin1("%1 %2 is more than %3 %4: exactly %4 are needed")
+                         .arg(QLatin1String(XmlName::MIN_LENGTH))
+                         .arg(rules.minlenth)
+                         .arg(QLatin1String(XmlName::LENGTH))
+                         .arg(rules.length));
 }
 
-void Check::chargeExpressionOf(const Item &item, const TopUpInputLimits &rules, int place)
+void Check::chargeExpressionOf(const TopUpInputLimits &rules, int place)
 {
-    const int at = place < 0 ? item.place : place;
     if (!SmsLayoutFile::isCharacterClass(rules.limitText))
-        m_check.find(at, "expression",
-                     QString::fromLatin1("LimitText %1 is no class of characters")
-                         .arg(quotedPart(rules.limitText)));
+        m_check.find(place, "expression",
+                     QString::fromLatin1("%1 %2 is no class of characters")
+                         .arg(QLatin1String(XmlName::LIMIT_TEXT), quotedPart(rules.limitText)));
     else if (rules.length > 0 && rules.length <= SmsLayoutFile::MAX_INPUT_LENGTH &&
              !QRegExp(chargeExpression(rules)).isValid())
-        m_check.find(at, "expression",
+        m_check.find(place, "expression",
                      QString::fromLatin1("%1 is no regular expression")
                          .arg(quotedPart(chargeExpression(rules))));
     else if (rules.length > SmsLayoutFile::MAX_INPUT_LENGTH)
         m_check.find(
-            at, "expression",
+            place, "expression",
             QString::fromLatin1("length %1 is more than a regular expression can count (%2)")
                 .arg(rules.length)
                 .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
@@ -336,11 +388,11 @@ void Check::twins(const QList<Item> &items)
                                  .arg(quotedPart(b.name))
                                  .arg(m_check.at(a.place).line));
             else if (a.shown && b.shown && a.pos == b.pos)
-                m_check.find(b.place, "position",
-                             QString::fromLatin1("%1 and %2 have the same pos %3; only one of them "
-                                                 "is shown")
-                                 .arg(a.name, b.name)
-                                 .arg(a.pos));
+                m_check.find(
+                    b.place, "position",
+                    QString::fromLatin1("%1 and %2 have the same %3 %4; only one of them is shown")
+                        .arg(a.name, b.name, QLatin1String(XmlName::POSITION))
+                        .arg(a.pos));
         }
     }
 }
@@ -356,7 +408,16 @@ void Check::looks(const char *name)
         return;
     if (place >= 0 && height <= 0)
         m_check.find(place, "size",
-                     QLatin1String("yHeight is not above 0: letters get Qt's smallest size"));
+                     QLatin1String(XmlName::Y_HEIGHT) +
+                         QLatin1String(" is not above 0: letters get Qt's smallest size"));
+    if (height > MOST_POINTS * TWENTIETHS)
+        m_check.find(
+            place, "size",
+            QString::fromLatin1(
+                "%1 %2 is a font size of %3 points: not even one letter fits into the window")
+                .arg(QLatin1String(XmlName::Y_HEIGHT))
+                .arg(height)
+                .arg(height / TWENTIETHS));
     colours(colour);
 }
 
@@ -388,7 +449,8 @@ void Check::clearButton()
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);
     if (place < 0)
         return m_check.find(-1, "missing",
-                            QLatin1String("<clearHistory> is missing: there is no Clear button"));
+                            titleOf(XmlName::CLEAR_HISTORY) +
+                                QLatin1String(" is missing: there is no Clear button"));
     m_check.boolAttribute(place, XmlName::VISIBLE);
     m_check.boolAttribute(place, XmlName::SHOW_CONFIRM_DIALOG);
 }
@@ -407,8 +469,8 @@ void Check::sims()
     for (int place = m_trace.seek(XmlName::ITEM); place >= 0; place = m_trace.seek(XmlName::ITEM)) {
         if (m_check.at(place).parent != section)
             m_check.find(place, "order",
-                         QLatin1String("this item follows <autoUSSD> and is read as a SIM "
-                                       "card"));
+                         QString::fromLatin1("this item follows %1 and is read as a SIM card")
+                             .arg(titleOf(XmlName::AUTO_USSD)));
         else
             sim(place, seen);
     }
@@ -436,7 +498,8 @@ void Check::windows(int place)
 {
     const QString list = m_check.at(place).attribute(XmlName::USSD);
     const QStringList known =
-        QString::fromLatin1("Prepaid Postpaid Commonpaid Advanced").split(QLatin1Char(' '));
+        QStringList() << QLatin1String(XmlName::PREPAID) << QLatin1String(XmlName::POSTPAID)
+                      << QLatin1String(XmlName::COMMONPAID) << QLatin1String(XmlName::ADVANCED);
     const QStringList parts = list.split(QLatin1Char('/'));
     for (int i = 0; i < parts.count(); ++i) {
         if (!parts.at(i).isEmpty() && !known.contains(parts.at(i)))
@@ -467,7 +530,8 @@ void Check::sectionsTwice()
 PluginConfig readWholeConfiguration(const QByteArray &xml)
 {
     PluginConfig config;
-    QXmlStreamReader reader(xml);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, xml);
     readConfiguration(reader, config);
     QXmlStreamReader secondPass(xml);
     readClearHistory(secondPass, config.clearHistory);
@@ -487,9 +551,14 @@ QStringList row(const char *name, const QString &a, const QString &b = QString()
     return QStringList() << QLatin1String(name) << a << b << c;
 }
 
+QString named(const char *name, int value)
+{
+    return QString::fromLatin1("%1 %2").arg(QLatin1String(name)).arg(value);
+}
+
 QString positionOf(bool shown, int pos)
 {
-    return shown ? QString::fromLatin1("pos %1").arg(pos) : QString::fromLatin1("hidden");
+    return shown ? named(XmlName::POSITION, pos) : QString::fromLatin1("hidden");
 }
 
 CheckTable paidTable(const PluginConfig &config, int paidType, const char *title)
@@ -502,14 +571,14 @@ CheckTable paidTable(const PluginConfig &config, int paidType, const char *title
     table.title = QLatin1String(title);
     table.rows << row(XmlName::BALANCE, positionOf(balance.value, balance.pos), balance.command)
                << row(XmlName::CHARGE, positionOf(charge.value, charge.pos), charge.command,
-                      QString::fromLatin1("%1 to %2 of [%3], ReturnStyle %4")
-                          .arg(charge.minlenth)
-                          .arg(charge.length)
-                          .arg(charge.limitText)
-                          .arg(charge.returnStyle))
+                      QString::fromLatin1("%1 to %2 of [%3], ")
+                              .arg(charge.minlenth)
+                              .arg(charge.length)
+                              .arg(charge.limitText) +
+                          named(XmlName::RETURN_STYLE, charge.returnStyle))
                << row(XmlName::ONLINE_CHARGE, positionOf(online.value, online.pos), online.url)
                << row(XmlName::MSISDN, positionOf(number.value, number.pos), number.command,
-                      QString::fromLatin1("UpdateButton %1").arg(number.updateButton));
+                      named(XmlName::UPDATE_BUTTON, number.updateButton));
     return table;
 }
 
@@ -520,8 +589,7 @@ QString colourText(int red, int green, int blue)
 
 QStringList charRow(const char *name, const Char &look)
 {
-    return row(name, QString::fromLatin1("yHeight %1").arg(look.yHeight),
-               QString::fromLatin1("yOffset %1").arg(look.yOffset),
+    return row(name, named(XmlName::Y_HEIGHT, look.yHeight), named(XmlName::Y_OFFSET, look.yOffset),
                colourText(look.red, look.green, look.blue));
 }
 
@@ -533,7 +601,7 @@ CheckTable looksTable(const PluginConfig &config)
     table.rows << charRow(XmlName::SENT_CHAR, config.sentChar)
                << charRow(XmlName::RECEIVED_CHAR, config.receivedChar)
                << row(XmlName::CLEAR_HISTORY, boolWord(config.clearHistory.visible),
-                      QLatin1String("showConfirmDialog ") +
+                      QLatin1String(XmlName::SHOW_CONFIRM_DIALOG) + QLatin1Char(' ') +
                           boolWord(config.clearHistory.showConfirmDialog))
                << row(XmlName::CMD_EDIT, boolWord(edit.visible))
                << row(XmlName::READONLY_COLOR,

@@ -12,24 +12,13 @@ namespace Tools
 namespace
 {
 
-const int MOST_DIFFERENCES = 2; // a name with more differences is not treated as a misspelling
+const int LONGEST_ANSWER = 2; // digits of a short code, such as an answer to a menu
 
-/// Returns the number of letters to insert, delete or replace (the Levenshtein distance).
-int differences(const QString &a, const QString &b)
+/// Returns true if a network accepts the text, which may also be a short code (3GPP TS 22.030).
+bool isAccepted(const QString &code)
 {
-    QList<int> row;
-    for (int j = 0; j <= b.length(); ++j)
-        row << j;
-    for (int i = 1; i <= a.length(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i;
-        for (int j = 1; j <= b.length(); ++j) {
-            const int exchanged = diagonal + (a.at(i - 1) == b.at(j - 1) ? 0 : 1);
-            diagonal = row.at(j);
-            row[j] = qMin(exchanged, qMin(row.at(j), row.at(j - 1)) + 1);
-        }
-    }
-    return row.last();
+    const bool isShort = code.length() <= LONGEST_ANSWER && isDialable(code);
+    return isUssdCode(code) || isShort;
 }
 
 } // namespace
@@ -98,6 +87,13 @@ void ElementCheck::command(int place, const QString &command, int inputLength)
                  .arg(quotedPart(command))
                  .arg(length)
                  .arg(LONGEST_COMMAND));
+    QString sample = command.trimmed();
+    sample.replace(INPUT_PLACEHOLDER, QLatin1String("0"));
+    if (!isAccepted(sample))
+        find(place, "command",
+             quotedPart(command) +
+                 QLatin1String(" is no code: a code consists of digits, * and #, begins with * or "
+                               "#, and ends with #"));
 }
 
 void ElementCheck::key(int place, const QString &key)
@@ -109,34 +105,32 @@ void ElementCheck::key(int place, const QString &key)
                  .arg(quotedPart(key), missing.join(QLatin1String(", "))));
 }
 
-void ElementCheck::names(const QStringList &known)
+void ElementCheck::names(const KnownNames &known)
 {
     for (int i = 1; i < m_elements.list.count(); ++i) { // the root element may have any name
-        const QString &name = at(i).name;
-        if (known.contains(name))
-            continue;
-        const QString meant = likelyName(name, known);
-        find(
-            i, "name",
-            QString::fromLatin1("<%1> is not read").arg(name) +
-                (meant.isEmpty() ? QString() : QString::fromLatin1("; is <%1> meant?").arg(meant)));
+        const XmlElement &element = at(i);
+        const QString meant = meantElement(element, known);
+        if (!known.elements.contains(element.name))
+            find(i, "name",
+                 QString::fromLatin1("<%1> is not read").arg(element.name) +
+                     (meant.isEmpty() ? QString()
+                                      : QString::fromLatin1("; is <%1> meant?").arg(meant)));
+        attributeNames(i, known);
     }
 }
 
-QString likelyName(const QString &name, const QStringList &known)
+void ElementCheck::attributeNames(int place, const KnownNames &known)
 {
-    QString best;
-    int fewest = MOST_DIFFERENCES + 1;
-    for (int i = 0; i < known.count(); ++i) {
-        if (qAbs(known.at(i).length() - name.length()) > MOST_DIFFERENCES)
+    const XmlElement &element = at(place);
+    for (int i = 0; i < element.attributes.count(); ++i) {
+        const QString name = element.attributes.at(i).qualifiedName().toString();
+        if (known.attributes.contains(name) || name.contains(QLatin1Char(':')))
             continue;
-        const int count = differences(name.toLower(), known.at(i).toLower());
-        if (count < fewest && count < known.at(i).length() / 2) {
-            fewest = count;
-            best = known.at(i);
-        }
+        const QString meant = meantAttribute(element, name, known);
+        find(place, "name",
+             QString::fromLatin1("the attribute %1 is not read").arg(name) +
+                 (meant.isEmpty() ? QString() : QString::fromLatin1("; is %1 meant?").arg(meant)));
     }
-    return best;
 }
 
 } // namespace Tools

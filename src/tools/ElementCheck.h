@@ -2,6 +2,7 @@
 #define ELEMENTCHECK_H
 
 #include "CheckReport.h"
+#include "Spelling.h"
 #include "XmlElements.h"
 
 namespace Tools
@@ -33,25 +34,23 @@ public:
     int numberAttribute(int place, const char *name);
     int colour(int place, const char *name);
 
-    /// Checks a code. `inputLength` is the maximum number of characters that replace "%s" in the
-    /// code.
+    /// Checks the length and the form of a code. `inputLength` is the maximum number of characters
+    /// that replace "%s" in the code.
     void command(int place, const QString &command, int inputLength);
     /// Adds a finding if the key is not translated in all languages. A string that is not a key is
     /// accepted, because the plug-in shows it unchanged.
     void key(int place, const QString &key);
 
-    /// Adds a finding for each element whose name is not in `known`. The finding suggests the most
-    /// similar name.
-    void names(const QStringList &known);
+    /// Adds a finding for each element and attribute whose name is not known. The finding suggests
+    /// the name that is probably meant.
+    void names(const KnownNames &known);
 
 private:
+    void attributeNames(int place, const KnownNames &known);
+
     const XmlElements &m_elements;
     CheckReport &m_report;
 };
-
-/// Returns the name in `known` that is most similar to `name`, or an empty string if no name is
-/// similar enough.
-QString likelyName(const QString &name, const QStringList &known);
 
 } // namespace Tools
 

@@ -8,6 +8,7 @@
 #include "LayoutCheck.h"
 #include "ProfilesCheck.h"
 #include "ScenarioCheck.h"
+#include "Spelling.h"
 #include "XmlName.h"
 
 using namespace Formats;
@@ -48,6 +49,27 @@ QStringList layoutNames()
     return listOf({XmlName::SMS_USSD, XmlName::MAIN_SIZE, XmlName::TREE_SIZE, XmlName::TREE,
                    XmlName::DIALOG, XmlName::ITEM, XmlName::CONTROL, XmlName::LIMIT_TEXT,
                    XmlName::LENGTH, XmlName::MIN_LENGTH, XmlName::COMMAND, XmlName::NUMBER});
+}
+
+KnownNames namesOfConfigurations()
+{
+    KnownNames known;
+    known.elements = configurationNames() + layoutNames();
+    known.attributes =
+        listOf({XmlName::NAME, XmlName::VALUE, XmlName::VISIBLE, XmlName::TYPE, XmlName::WIDTH,
+                XmlName::HEIGHT, XmlName::POSITION, XmlName::RED, XmlName::GREEN, XmlName::BLUE,
+                XmlName::SHOW_CONFIRM_DIALOG, XmlName::VALID, XmlName::IMSI, XmlName::USSD,
+                XmlName::PARENT, XmlName::ID, XmlName::POS_X, XmlName::POS_Y});
+    return known;
+}
+
+KnownNames namesOf(const QString &kind)
+{
+    if (kind != QLatin1String("profiles"))
+        return namesOfConfigurations();
+    KnownNames known;
+    known.elements = profileFields() << QLatin1String(XmlName::ITEM);
+    return known;
 }
 
 bool isXml(const QByteArray &content)
@@ -91,17 +113,69 @@ QString kindOf(const XmlElements &elements)
     return QString();
 }
 
-void checkNames(const XmlElements &elements, CheckReport &report)
+void checkLayoutSection(const XmlElements &elements, CheckReport &report)
 {
-    ElementCheck check(elements, report);
-    check.names(configurationNames() + layoutNames());
-    if (elements.list.at(0).name == QLatin1String(XmlName::SMS_USSD) ||
-        elements.childrenOf(0, XmlName::SMS_USSD).count() == 1)
+    const int count = elements.childrenOf(0, XmlName::SMS_USSD).count();
+    if (elements.list.at(0).name == QLatin1String(XmlName::SMS_USSD) || count == 1)
         return;
-    check.find(-1, "missing",
-               QLatin1String(elements.childrenOf(0, XmlName::SMS_USSD).isEmpty()
-                                 ? "<SMSUSSD> is missing: the services window is empty"
-                                 : "<SMSUSSD> is given more than once"));
+    const QString section = QString::fromLatin1("<%1>").arg(QLatin1String(XmlName::SMS_USSD));
+    ElementCheck(elements, report)
+        .find(-1, "missing",
+              section + QLatin1String(count == 0 ? " is missing: the services window is empty"
+                                                 : " is given more than once"));
+}
+
+/// Returns true if the finding is about an element that is incomplete because of an error in the
+/// document, or about what is missing behind the error.
+bool isConsequenceOfError(const CheckFinding &finding, const XmlElements &elements)
+{
+    if (finding.rule == QLatin1String("missing") || finding.rule == QLatin1String("button"))
+        return true;
+    for (int i = 0; i < elements.list.count(); ++i) {
+        const XmlElement &element = elements.list.at(i);
+        if (!element.isWhole && element.line == finding.line && element.column == finding.column)
+            return true;
+    }
+    return false;
+}
+
+void dropConsequencesOfError(const XmlElements &elements, CheckReport &report)
+{
+    QList<CheckFinding> kept;
+    for (int i = 0; i < report.findings.count(); ++i) {
+        const CheckFinding &finding = report.findings.at(i);
+        const bool isCause =
+            finding.rule == QLatin1String("xml") || finding.rule == QLatin1String("name");
+        if (isCause || !isConsequenceOfError(finding, elements))
+            kept << finding;
+    }
+    report.findings = kept;
+}
+
+/// Checks a document whose names are spelt correctly.
+void checkSections(const QByteArray &xml, CheckReport &report)
+{
+    const XmlElements elements = readXmlElements(xml);
+    if (report.kind == QLatin1String("profiles")) {
+        checkProfiles(elements, report);
+    } else {
+        checkLayoutSection(elements, report);
+        if (report.kind == QLatin1String("configuration"))
+            checkConfiguration(elements, report);
+        checkLayout(elements, xml, report);
+    }
+    if (!elements.error.isEmpty())
+        dropConsequencesOfError(elements, report);
+}
+
+/// Returns what the plug-in reads from the document as it is, with the misspelt names.
+QList<CheckTable> tablesOf(const QByteArray &xml, const QString &kind)
+{
+    if (kind == QLatin1String("profiles"))
+        return profileTables(xml);
+    if (kind == QLatin1String("configuration"))
+        return configurationTables(xml) << layoutTable(xml);
+    return QList<CheckTable>() << layoutTable(xml);
 }
 
 void checkXml(const QByteArray &content, CheckReport &report)
@@ -119,14 +193,10 @@ void checkXml(const QByteArray &content, CheckReport &report)
                    elements.error + QLatin1String(" The rest of the file is not read."));
     if (elements.isDangerous)
         return;
-    if (report.kind == QLatin1String("profiles"))
-        return checkProfiles(elements, content, report);
-    checkNames(elements, report);
-    if (report.kind == QLatin1String("configuration")) {
-        checkConfiguration(elements, report);
-        report.tables << configurationTables(content);
-    }
-    checkLayout(elements, content, report);
+    const KnownNames known = namesOf(report.kind);
+    ElementCheck(elements, report).names(known);
+    checkSections(spellingCorrected(content, known), report);
+    report.tables = tablesOf(content, report.kind);
 }
 
 } // namespace

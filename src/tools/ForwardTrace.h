@@ -21,6 +21,13 @@ public:
     int seek(const char *name);
     /// Returns the text of the most recently found element, or an empty string if none was found.
     QString text();
+    /// Returns the position, to which moveTo() can return.
+    int position() const { return m_next; }
+    void moveTo(int position)
+    {
+        m_next = position;
+        m_current = -1;
+    }
     /// Returns the index of the last element with this name before the current position, or -1 if
     /// there is no such element.
     int passed(const char *name) const;

@@ -4,6 +4,7 @@
 #include <QXmlStreamReader>
 
 #include "ElementCheck.h"
+#include "ForwardXml.h"
 #include "SmsLayout.h"
 #include "XmlName.h"
 
@@ -52,6 +53,78 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
     return found;
 }
 
+/// Returns the complaint with its line, but without other numbers.
+QString kindOfComplaint(const QString &complaint)
+{
+    const int colon = complaint.indexOf(QLatin1Char(':'));
+    QString rest = complaint.mid(colon);
+    return complaint.left(colon) + rest.remove(QRegExp(QLatin1String("\\d+")));
+}
+
+/// Returns true if the complaint is a consequence of the root not being the first entry.
+bool isAboutRoot(const QString &complaint)
+{
+    return complaint.contains(QLatin1String("it stands before the root")) ||
+           complaint.contains(QLatin1String("the tree has no entry"));
+}
+
+/// Adds findings for the complaints of the plug-in's reader. If a line has several complaints that
+/// differ only in numbers, only the first of them is listed, together with their count.
+void takeComplaints(const XmlElements &elements, const QStringList &complaints, CheckReport &report)
+{
+    QStringList kinds;
+    for (int i = 0; i < complaints.count(); ++i)
+        kinds << kindOfComplaint(complaints.at(i));
+    for (int i = 0; i < complaints.count(); ++i) {
+        const int more = kinds.count(kinds.at(i)) - 1;
+        const QString count = QString::fromLatin1(" (and %1 more of this kind)").arg(more);
+        if (kinds.indexOf(kinds.at(i)) == i)
+            takeComplaint(elements, complaints.at(i) + (more == 0 ? QString() : count), report);
+    }
+}
+
+/// Checks that the first entry of the tree is the root. Returns false if it is another entry.
+bool checkRoot(ElementCheck &check)
+{
+    for (int i = 0; i < check.elements().list.count(); ++i) {
+        if (check.at(i).name != QLatin1String(XmlName::TREE))
+            continue;
+        const int first = check.elements().childrenOf(i, XmlName::ITEM).value(0, -1);
+        if (first < 0 ||
+            check.at(first).attribute(XmlName::TYPE) == QLatin1String(XmlName::TREE_ROOT))
+            continue;
+        check.find(first, "layout",
+                   QString::fromLatin1("the first entry does not have the type \"%1\"; all entries "
+                                       "before the root are left out")
+                       .arg(QLatin1String(XmlName::TREE_ROOT)));
+        return false;
+    }
+    return true;
+}
+
+/// Adds findings for what the plug-in's reader complains about.
+void checkWithReader(ElementCheck &check, const QByteArray &xml, CheckReport &report)
+{
+    SmsLayout layout;
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, xml);
+    SmsLayoutFile::read(reader, layout);
+    const XmlElements &elements = check.elements();
+    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
+    const bool hasRoot = checkRoot(check);
+    QStringList complaints;
+    for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i) {
+        if (hasRoot || !isAboutRoot(layout.complaints.at(i)))
+            complaints << layout.complaints.at(i);
+    }
+    takeComplaints(elements, complaints, report);
+    if (hasRoot && layout.furtherComplaints > 0)
+        check.find(elements.list.count() - 1, "layout",
+                   QString::fromLatin1("%1 more faults of %2 are not listed")
+                       .arg(layout.furtherComplaints)
+                       .arg(QLatin1String(XmlName::SMS_USSD)));
+}
+
 void checkKeys(ElementCheck &check, int section)
 {
     for (const char *name : {XmlName::ITEM, XmlName::CONTROL}) {
@@ -83,9 +156,10 @@ void checkButton(ElementCheck &check, int button, int input)
                        .arg(quotedPart(type)));
     if (command.isEmpty())
         check.find(button, "command", QLatin1String("the button has no command and sends nothing"));
-    if (type == QLatin1String(XmlName::USSD))
+    if (type == QLatin1String(XmlName::USSD) && !command.isEmpty())
         check.command(button, command, childText(check.elements(), input, XmlName::LENGTH).toInt());
-    else if (childText(check.elements(), button, XmlName::NUMBER).isEmpty())
+    if (type != QLatin1String(XmlName::USSD) &&
+        childText(check.elements(), button, XmlName::NUMBER).isEmpty())
         check.find(button, "command", QLatin1String("the short message has no number"));
 }
 
@@ -97,13 +171,79 @@ void checkInput(ElementCheck &check, int input)
                    QLatin1String("length is 0 or missing: nothing can be entered"));
 }
 
+/// Returns the geometry of an element. QRect cannot hold every geometry of a file.
+CTreeInfo geometryOf(const XmlElement &element)
+{
+    CTreeInfo geometry;
+    geometry.posx = element.attribute(XmlName::POS_X).toInt();
+    geometry.posy = element.attribute(XmlName::POS_Y).toInt();
+    geometry.width = element.attribute(XmlName::WIDTH).toInt();
+    geometry.height = element.attribute(XmlName::HEIGHT).toInt();
+    return geometry;
+}
+
+/// Returns the size of the services window, which is empty if the section does not have a valid
+/// one.
+QSize windowSizeOf(const ElementCheck &check, int section)
+{
+    const QList<int> sizes = check.elements().childrenOf(section, XmlName::MAIN_SIZE);
+    if (sizes.isEmpty())
+        return QSize();
+    CDlgInfo dialog;
+    dialog.width = geometryOf(check.at(sizes.last())).width;
+    dialog.height = geometryOf(check.at(sizes.last())).height;
+    return SmsLayoutFile::windowSize(dialog);
+}
+
 void checkSizes(ElementCheck &check, int section)
 {
     for (const char *name : {XmlName::MAIN_SIZE, XmlName::TREE_SIZE}) {
-        if (check.elements().childrenOf(section, name).isEmpty())
+        const QList<int> found = check.elements().childrenOf(section, name);
+        if (!found.isEmpty() && name == XmlName::MAIN_SIZE &&
+            windowSizeOf(check, section).isEmpty())
+            check.find(found.last(), "outside", QLatin1String("the window has no size"));
+        if (found.isEmpty())
             check.find(
                 section, "missing",
                 QString::fromLatin1("<%1> is missing: every side is 0").arg(QLatin1String(name)));
+    }
+}
+
+/// Checks that the control, or the tree, is visible in the window. The coordinates may be any
+/// numbers, so the sums have 64 bits.
+void checkPlace(ElementCheck &check, int place, const QSize &window)
+{
+    const CTreeInfo own = geometryOf(check.at(place));
+    const qint64 right = qint64(own.posx) + own.width;
+    const qint64 bottom = qint64(own.posy) + own.height;
+    const bool isHidden =
+        right <= 0 || bottom <= 0 || own.posx >= window.width() || own.posy >= window.height();
+    const bool isCut =
+        own.posx < 0 || own.posy < 0 || right > window.width() || bottom > window.height();
+    if (own.width <= 0 || own.height <= 0)
+        check.find(place, "outside",
+                   QString::fromLatin1("a size of %1 x %2 pixels cannot be seen")
+                       .arg(own.width)
+                       .arg(own.height));
+    else if (isHidden || isCut)
+        check.find(place, "outside",
+                   QString::fromLatin1("the area from %1, %2 to %3, %4 is %5 the window of %6 x %7")
+                       .arg(QString::number(own.posx), QString::number(own.posy),
+                            QString::number(right), QString::number(bottom),
+                            QLatin1String(isHidden ? "outside" : "partly outside"),
+                            QString::number(window.width()), QString::number(window.height())));
+}
+
+void checkGeometry(ElementCheck &check, int section)
+{
+    const QSize window = windowSizeOf(check, section);
+    if (window.isEmpty()) // MainSize itself has a finding
+        return;
+    const QList<int> places = check.elements().childrenOf(section, XmlName::TREE_SIZE) +
+                              allNamed(check.elements(), section, XmlName::CONTROL);
+    for (int i = 0; i < places.count(); ++i) {
+        if (check.at(places.at(i)).attribute(XmlName::VISIBLE) != QLatin1String(XmlName::OFF))
+            checkPlace(check, places.at(i), window);
     }
 }
 
@@ -150,25 +290,25 @@ CheckTable servicesTable(const SmsLayout &layout)
 
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report)
 {
-    SmsLayout layout;
-    QXmlStreamReader reader(xml);
-    SmsLayoutFile::read(reader, layout);
-    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
-    for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i)
-        takeComplaint(elements, layout.complaints.at(i), report);
-    if (layout.furtherComplaints > 0)
-        addFinding(report, 0, 0, "layout",
-                   QString::fromLatin1("%1 more faults of SMSUSSD are not listed")
-                       .arg(layout.furtherComplaints));
     ElementCheck check(elements, report);
+    checkWithReader(check, xml, report);
     for (int i = 0; i < elements.list.count(); ++i) {
         if (elements.list.at(i).name != QLatin1String(XmlName::SMS_USSD))
             continue;
         checkSizes(check, i);
         checkKeys(check, i);
         checkGroups(check, i);
+        checkGeometry(check, i);
     }
-    report.tables << servicesTable(layout);
+}
+
+CheckTable layoutTable(const QByteArray &xml)
+{
+    SmsLayout layout;
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, xml);
+    SmsLayoutFile::read(reader, layout);
+    return servicesTable(layout);
 }
 
 } // namespace Tools

@@ -7,9 +7,12 @@
 namespace Tools
 {
 
-/// Checks the SMSUSSD section: the complaints of the plug-in's layout parser, the text keys and the
-/// commands. Adds findings and tables to the report.
+/// Checks the SMSUSSD section: the complaints of the plug-in's reader, the keys, the commands and
+/// the geometry. Adds findings to the report.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
+
+/// Returns the table of the services that the plug-in's reader finds in the section.
+CheckTable layoutTable(const QByteArray &xml);
 
 } // namespace Tools
 

@@ -4,6 +4,7 @@
 #include <QXmlStreamReader>
 
 #include "ElementCheck.h"
+#include "ForwardXml.h"
 #include "ProfileXml.h"
 #include "UssdCode.h"
 #include "XmlName.h"
@@ -19,19 +20,11 @@ namespace
 const int BUTTONS = 11;
 const int PAYMENT_BUTTONS = 2; // the payment buttons are the last two buttons
 
-QStringList fields()
-{
-    QStringList names;
-    for (const char *name : {XmlName::NAME, XmlName::VALUE, XmlName::READONLY, XmlName::SHOW_BUTTON,
-                             XmlName::LANG_ID, XmlName::DESCRIPTION_LANG_ID})
-        names << QLatin1String(name);
-    return names;
-}
-
 QList<USSDProfile> readAll(const QByteArray &xml)
 {
     QList<USSDProfile> profiles;
-    QXmlStreamReader reader(xml);
+    QXmlStreamReader reader;
+    ForwardXml::start(reader, xml);
     USSDProfile profile;
     while (ProfileXml::readNext(reader, profile))
         profiles << profile;
@@ -54,19 +47,25 @@ QString textOf(const XmlElements &elements, int item, const char *name)
     return found.isEmpty() ? QString() : elements.list.at(found.first()).text;
 }
 
+bool isPlaceholder(const XmlElements &elements, int item)
+{
+    return textOf(elements, item, XmlName::VALUE).isEmpty() &&
+           textOf(elements, item, XmlName::NAME) == placeholderName();
+}
+
 void checkFields(ElementCheck &check, int item)
 {
     const QStringList names = childNames(check.elements(), item);
     QStringList known;
     for (int i = 0; i < names.count(); ++i) {
-        if (fields().contains(names.at(i)))
+        if (profileFields().contains(names.at(i)))
             known << names.at(i);
     }
-    if (known != fields())
+    if (known != profileFields())
         check.find(item, "order",
                    QString::fromLatin1("an item has %1, in this order; this one has %2. The "
                                        "reader takes the rest from the next item, which is lost")
-                       .arg(fields().join(QLatin1String(", ")),
+                       .arg(profileFields().join(QLatin1String(", ")),
                             known.isEmpty() ? QString::fromLatin1("none of them")
                                             : known.join(QLatin1String(", "))));
 }
@@ -82,10 +81,12 @@ void checkValues(ElementCheck &check, int item)
     check.key(item, textOf(elements, item, XmlName::LANG_ID));
     check.key(item, textOf(elements, item, XmlName::DESCRIPTION_LANG_ID));
     const QString value = textOf(elements, item, XmlName::VALUE);
-    check.command(item, value, 0);
+    if (isPlaceholder(elements, item))
+        return;
     if (value.isEmpty())
-        check.find(item, "command", QLatin1String("the code is empty"));
-    else if (value != value.trimmed())
+        return check.find(item, "command", QLatin1String("the code is empty"));
+    check.command(item, value, 0);
+    if (value != value.trimmed())
         check.find(item, "command",
                    quotedPart(value) + QLatin1String(" has blanks around it, which are sent too"));
 }
@@ -95,6 +96,8 @@ void checkTwins(ElementCheck &check, const QList<int> &items)
     QMap<QString, int> seen;
     for (int i = 0; i < items.count(); ++i) {
         const QString value = textOf(check.elements(), items.at(i), XmlName::VALUE);
+        if (value.isEmpty())
+            continue;
         if (seen.contains(value))
             check.find(
                 items.at(i), "twice",
@@ -118,25 +121,49 @@ QList<int> shownItems(const ElementCheck &check, const QList<int> &items)
     return shown;
 }
 
+bool takesNumber(const ElementCheck &check, int item)
+{
+    return textOf(check.elements(), item, XmlName::VALUE).contains(INPUT_PLACEHOLDER);
+}
+
 /// Checks the buttons. The last two buttons require a number, which replaces "%s" in their codes.
 /// The other buttons send their codes unchanged.
-void checkButtons(ElementCheck &check, const QList<int> &items)
+void checkButtons(ElementCheck &check, const QList<int> &shown)
 {
-    const QList<int> shown = shownItems(check, items);
     for (int i = 0; i < shown.count(); ++i) {
         const bool pays = i >= shown.count() - PAYMENT_BUTTONS;
-        const QString code = textOf(check.elements(), shown.at(i), XmlName::VALUE);
-        if (pays && !code.contains(INPUT_PLACEHOLDER))
+        const QString code = quotedPart(textOf(check.elements(), shown.at(i), XmlName::VALUE));
+        if (isPlaceholder(check.elements(), shown.at(i)))
+            continue;
+        if (pays && !takesNumber(check, shown.at(i)))
             check.find(shown.at(i), "button",
-                       quotedPart(code) +
-                           QLatin1String(" is one of the last two buttons and has no "
-                                         "\"%s\": it is sent only after a number "
-                                         "was entered, without it"));
-        else if (!pays && code.contains(INPUT_PLACEHOLDER))
+                       code + QLatin1String(" is one of the last two buttons and has no \"%s\": it "
+                                            "is sent only after a number was entered, without "
+                                            "it"));
+        else if (!pays && takesNumber(check, shown.at(i)))
             check.find(shown.at(i), "button",
-                       quotedPart(code) + QLatin1String(" is not one of the last two buttons: its "
-                                                        "\"%s\" is sent unchanged"));
+                       code + QLatin1String(" is not one of the last two buttons: its \"%s\" is "
+                                            "sent unchanged"));
     }
+}
+
+/// Checks what happens when the user adds a code in the editor. Its button becomes the last one, if
+/// there is room for another button. The first of the former payment buttons then works at once.
+void checkOneMore(ElementCheck &check, const QList<int> &items, const QList<int> &shown)
+{
+    const int first = shown.value(shown.count() - PAYMENT_BUTTONS, -1);
+    if (items.count() >= BUTTONS || first < 0 || !takesNumber(check, first))
+        return;
+    const QString code = quotedPart(textOf(check.elements(), first, XmlName::VALUE));
+    const QString last = quotedPart(textOf(check.elements(), shown.last(), XmlName::VALUE));
+    check.find(first, "button",
+               QString::fromLatin1("with one more code the last two buttons would be %1 and that "
+                                   "code: %2 would be sent with its \"%s\" unchanged")
+                   .arg(last, code));
+}
+
+void checkMissingButtons(ElementCheck &check, const QList<int> &items)
+{
     for (int i = BUTTONS; i < items.count(); ++i) {
         if (textOf(check.elements(), items.at(i), XmlName::SHOW_BUTTON) ==
             QLatin1String(XmlName::ON))
@@ -161,12 +188,52 @@ CheckTable table(const QList<USSDProfile> &profiles)
     return table;
 }
 
+QString effectOf(const USSDProfile &profile, bool pays)
+{
+    if (profile.value.isEmpty())
+        return QLatin1String("sends nothing");
+    return QLatin1String(pays ? "sends after a number was entered" : "sends at once");
+}
+
+/// Returns a table of the buttons in their order, and of the last two if the user adds a code.
+CheckTable buttonTable(const QList<USSDProfile> &profiles)
+{
+    CheckTable table;
+    table.title = QLatin1String("Buttons");
+    QList<USSDProfile> shown;
+    for (int i = 0; i < profiles.count() && i < BUTTONS; ++i) {
+        if (profiles.at(i).showButton)
+            shown << profiles.at(i);
+    }
+    for (int i = 0; i < shown.count(); ++i)
+        table.rows << (QStringList()
+                       << shown.at(i).name << shown.at(i).value
+                       << effectOf(shown.at(i), i >= shown.count() - PAYMENT_BUTTONS));
+    if (profiles.count() < BUTTONS)
+        table.rows << (QStringList()
+                       << QLatin1String("with one more code")
+                       << (shown.isEmpty()
+                               ? QString::fromLatin1("it would be the only button")
+                               : QString::fromLatin1("the last two buttons would be %1 and that "
+                                                     "code")
+                                     .arg(quotedPart(shown.last().name))));
+    return table;
+}
+
 } // namespace
 
-void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report)
+QStringList profileFields()
+{
+    QStringList names;
+    for (const char *name : {XmlName::NAME, XmlName::VALUE, XmlName::READONLY, XmlName::SHOW_BUTTON,
+                             XmlName::LANG_ID, XmlName::DESCRIPTION_LANG_ID})
+        names << QLatin1String(name);
+    return names;
+}
+
+void checkProfiles(const XmlElements &elements, CheckReport &report)
 {
     ElementCheck check(elements, report);
-    check.names(fields() << QLatin1String(XmlName::ITEM));
     QList<int> items;
     for (int i = 0; i < elements.list.count(); ++i) {
         if (elements.list.at(i).name == QLatin1String(XmlName::ITEM))
@@ -176,9 +243,17 @@ void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckRepo
         checkFields(check, items.at(i));
         checkValues(check, items.at(i));
     }
+    const QList<int> shown = shownItems(check, items);
     checkTwins(check, items);
-    checkButtons(check, items);
-    report.tables << table(readAll(xml));
+    checkButtons(check, shown);
+    checkOneMore(check, items, shown);
+    checkMissingButtons(check, items);
+}
+
+QList<CheckTable> profileTables(const QByteArray &xml)
+{
+    const QList<USSDProfile> profiles = readAll(xml);
+    return QList<CheckTable>() << table(profiles) << buttonTable(profiles);
 }
 
 } // namespace Tools

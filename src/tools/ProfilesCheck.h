@@ -7,8 +7,14 @@
 namespace Tools
 {
 
-/// Checks how the plug-in reads a profile file. Adds findings and the table to the report.
-void checkProfiles(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
+/// Returns the names of the elements of a profile, in their order.
+QStringList profileFields();
+
+/// Checks how the plug-in reads a file of profiles. Adds findings to the report.
+void checkProfiles(const XmlElements &elements, CheckReport &report);
+
+/// Returns tables of the profiles that the plug-in's own reader finds, and of their buttons.
+QList<CheckTable> profileTables(const QByteArray &xml);
 
 } // namespace Tools
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegExp>
 
 #include "InputFile.h"
 #include "PluginFiles.h"
@@ -40,6 +41,8 @@ const char HELP[] =
     "\n"
     "Exit status: 0 done, 1 failed, 2 wrong arguments or database, 3 several operators\n"
     "match and none was chosen, 4 edited files would be replaced.";
+
+const int MOST_WAYS = 20; // the largest number of operators for which arguments are printed
 
 QStringList list(const char *blankSeparated)
 {
@@ -87,6 +90,16 @@ ProviderQuery queryOf(const ToolArguments &arguments)
 }
 
 // ---- printing ------------------------------------------------------------------------------
+
+/// Returns the text as one word for a shell.
+QString shellWord(const QString &text)
+{
+    if (text.contains(QRegExp(QLatin1String("^[\\w.+-]+$"))))
+        return text;
+    QString quoted = text;
+    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
+}
 
 QString orDash(const QString &text)
 {
@@ -210,6 +223,29 @@ int provision(const ToolArguments &arguments, const Provider &provider)
     return report(order, plan, writeProvision(order, plan, files));
 }
 
+/// Prints the arguments that select each of the operators.
+void printWaysToSelect(const ProviderDatabase &database, const QList<Provider> &candidates,
+                       const QString &network)
+{
+    for (int i = 0; i < candidates.count() && i < MOST_WAYS; ++i) {
+        const Provider &candidate = candidates.at(i);
+        const ProviderQuery query = queryThatSelects(database, candidate, network);
+        QString way = QString::fromLatin1("  --country %1 --provider %2")
+                          .arg(shellWord(query.country), shellWord(query.provider));
+        if (!query.network.isEmpty())
+            way += QLatin1String(" --network ") + query.network;
+        if (query.provider.isEmpty())
+            way = QString::fromLatin1("  nothing distinguishes %1 (line %2) from another operator; "
+                                      "change a copy of the database and name it with --database")
+                      .arg(candidate.name())
+                      .arg(candidate.line);
+        HostCore::printErrorLine(way);
+    }
+    if (candidates.count() > MOST_WAYS)
+        HostCore::printErrorLine(
+            QString::fromLatin1("  and %1 more").arg(candidates.count() - MOST_WAYS));
+}
+
 int choose(const ToolArguments &arguments, const ProviderDatabase &database)
 {
     const ProviderChoice choice = chooseProvider(database, queryOf(arguments));
@@ -218,8 +254,9 @@ int choose(const ToolArguments &arguments, const ProviderDatabase &database)
         return fail(QLatin1String("the database has no such operator"), TOOL_BAD);
     case ProviderChoice::Ambiguous:
         printProviders(choice.candidates);
-        return fail(QLatin1String("choose one of these with --country and --provider"),
-                    TOOL_CHOOSE);
+        fail(QLatin1String("several operators match; select one of them with"), TOOL_CHOOSE);
+        printWaysToSelect(database, choice.candidates, arguments.value("--network"));
+        return TOOL_CHOOSE;
     case ProviderChoice::Chosen:
         break;
     }

@@ -14,20 +14,30 @@ namespace
 {
 
 const int MAX_DEPTH = 30;
+const int MAX_ATTRIBUTES = 1000; // Qt compares each attribute with all others of the element
+
+/// Returns the index of the last "<" before the index `end`, or -1. Does not copy the line, because
+/// a document may consist of one long line.
+int lastTagStart(const QString &line, int end)
+{
+    return end > 0 ? line.lastIndexOf(QLatin1Char('<'), qMin(end, line.length()) - 1) : -1;
+}
 
 /** Builds the list of elements from the tokens of a document. */
 class Reader
 {
 public:
     explicit Reader(const QByteArray &xml)
-        : m_xml(xml), m_lines(QString::fromUtf8(xml).split(QLatin1Char('\n')))
+        : m_lines(QString::fromUtf8(xml).split(QLatin1Char('\n')))
     {
+        ForwardXml::start(m_xml, xml);
     }
     XmlElements read();
 
 private:
     void take(QXmlStreamReader::TokenType token);
     void start();
+    void endTag();
     void end();
     void characters();
     void refuse(const char *why);
@@ -58,7 +68,7 @@ void Reader::take(QXmlStreamReader::TokenType token)
     if (token == QXmlStreamReader::StartElement)
         start();
     else if (token == QXmlStreamReader::EndElement)
-        end();
+        endTag();
     else if (token == QXmlStreamReader::Characters)
         characters();
     else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
@@ -74,8 +84,16 @@ void Reader::start()
     findPlace(element);
     m_open << m_elements.list.count();
     m_elements.list << element;
+    if (element.attributes.count() > MAX_ATTRIBUTES)
+        refuse("An element has too many attributes.");
     if (m_open.count() > MAX_DEPTH)
         refuse("Elements are nested too deeply.");
+}
+
+void Reader::endTag()
+{
+    m_elements.list[m_open.last()].isWhole = true;
+    end();
 }
 
 void Reader::end()
@@ -100,9 +118,11 @@ void Reader::refuse(const char *why)
 void Reader::findPlace(XmlElement &element) const
 {
     int line = int(m_xml.lineNumber()) - 1;
-    int column = m_lines.value(line).left(int(m_xml.columnNumber())).lastIndexOf(QLatin1Char('<'));
-    while (column < 0 && line > 0)
-        column = m_lines.value(--line).lastIndexOf(QLatin1Char('<'));
+    int column = lastTagStart(m_lines.value(line), int(m_xml.columnNumber()));
+    while (column < 0 && line > 0) {
+        const QString above = m_lines.value(--line);
+        column = lastTagStart(above, above.length());
+    }
     element.line = line + 1;
     element.column = column + 1;
 }

@@ -13,11 +13,12 @@ namespace Tools
 struct XmlElement {
     QString name;
     QXmlStreamAttributes attributes;
-    QString text;      // the text of the element and its descendants
-    int parent = -1;   // index of the parent in the list; -1 for the root
-    int behind = 0;    // index of the first later element that is not a descendant
-    qint64 line = 0;   // line of the start tag; starts at 1
-    qint64 column = 0; // column of the start tag; starts at 1
+    QString text;         // the text of the element and its descendants
+    int parent = -1;      // index of the parent in the list; -1 for the root
+    int behind = 0;       // index of the first later element that is not a descendant
+    bool isWhole = false; // the end tag was read
+    qint64 line = 0;      // line of the start tag; counts from 1
+    qint64 column = 0;    // column of the start tag; counts from 1
 
     bool has(const char *attribute) const
     {
@@ -35,8 +36,8 @@ struct XmlElements {
     QString error; // the reason why parsing stopped early; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
-    /// True if the document is nested too deeply or declares entities. Such a document is unsafe
-    /// for other parsers.
+    /// True if the document is nested too deeply, declares entities or has too many attributes.
+    /// Such a document is unsafe for other readers.
     bool isDangerous = false;
 
     /// Returns the indexes of the direct children of `parent` that have this name.

@@ -28,6 +28,7 @@ private slots:
     void sendStopsAtTheNextOption();
     void behindTwoHyphensEverythingIsAnAnswer();
     void aModemAndALogAreNamed();
+    void switchesOfSendAreTaken();
     void valuesMayStandBehindAnEqualsSign();
     void helpAndVersionWin();
     void mistakesAreNamed_data();
@@ -79,6 +80,15 @@ void ArgumentsTest::aModemAndALogAreNamed()
     QCOMPARE(arguments.logFile, QLatin1String("/tmp/a.log"));
 }
 
+void ArgumentsTest::switchesOfSendAreTaken()
+{
+    const Arguments arguments = parse("--demo --send *1# --enable --end-foreign-session");
+    QVERIFY(!arguments.errorKey);
+    QVERIFY(arguments.demo && arguments.enable && arguments.endForeignSession);
+    const Arguments without = parse("--send *1#");
+    QVERIFY(!without.demo && !without.enable && !without.endForeignSession);
+}
+
 void ArgumentsTest::valuesMayStandBehindAnEqualsSign()
 {
     const Arguments arguments = parse("--tour=/tmp/a=b --language=ar");
@@ -122,6 +132,11 @@ void ArgumentsTest::mistakesAreNamed_data()
     row("--tour x --scenario y", "CLI_TOUR_SCENARIO", "");
     row("--modem 1 --tour x", "CLI_TOUR_SCENARIO", "");
     row("--modem 1 --scenario y", "CLI_MODEM_SCENARIO", "");
+    row("--modem 1 --demo", "CLI_MODEM_SCENARIO", "");
+    row("--tour x --demo", "CLI_TOUR_SCENARIO", "");
+    row("--enable", "CLI_ONLY_SEND", "--enable");
+    row("--tour x --end-foreign-session", "CLI_ONLY_SEND", "--end-foreign-session");
+    row("--demo=yes", "CLI_UNKNOWN_OPTION", "--demo=yes");
     row("--modem", "CLI_MISSING_VALUE", "--modem");
     row("--log=", "CLI_MISSING_VALUE", "--log");
 }

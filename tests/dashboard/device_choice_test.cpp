@@ -108,7 +108,8 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
     QTest::addColumn<int>("state");
     QTest::addColumn<QString>("word"); // a part of the message in every language
     const auto row = [](int problem, int state, const char *word) {
-        QTest::newRow(word) << problem << state << QString::fromLatin1(word);
+        QTest::newRow(qPrintable(QString::number(problem)))
+            << problem << state << QString::fromLatin1(word);
     };
     row(TKSV_PROBLEM_NO_BUS, TKSV_DEVICE_ABSENT, "D-Bus");
     row(TKSV_PROBLEM_NO_SERVICE, TKSV_DEVICE_ABSENT, "systemctl start ModemManager");
@@ -118,6 +119,9 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
     row(TKSV_PROBLEM_WRONG_PIN, TKSV_DEVICE_SIM_LOCKED, "2");
     row(TKSV_PROBLEM_PUK_NEEDED, TKSV_DEVICE_SIM_LOCKED, "PUK");
     row(TKSV_PROBLEM_NO_USSD, TKSV_DEVICE_REGISTERED, "USSD");
+    row(TKSV_PROBLEM_REGISTRATION_DENIED, TKSV_DEVICE_SEARCHING, "SIM");
+    row(TKSV_PROBLEM_SERVICE_SILENT, TKSV_DEVICE_ABSENT, "systemctl restart ModemManager");
+    row(TKSV_PROBLEM_MODEM_REMOVED, TKSV_DEVICE_ABSENT, "");
     row(TKSV_PROBLEM_MODEM_FAILED, TKSV_DEVICE_ABSENT, "ModemManager");
 }
 
@@ -145,7 +149,7 @@ void DeviceChoiceTest::everyStateOfAModemSaysWhatToDo_data()
     QTest::newRow("absent") << int(TKSV_DEVICE_ABSENT) << QString::fromLatin1("no modem");
     QTest::newRow("missing") << int(TKSV_DEVICE_SIM_MISSING) << QString::fromLatin1("Insert");
     QTest::newRow("locked") << int(TKSV_DEVICE_SIM_LOCKED) << QString::fromLatin1("PIN");
-    QTest::newRow("disabled") << int(TKSV_DEVICE_DISABLED) << QString::fromLatin1("Switch it on");
+    QTest::newRow("disabled") << int(TKSV_DEVICE_DISABLED) << QString::fromLatin1("switched off");
 }
 
 void DeviceChoiceTest::everyStateOfAModemSaysWhatToDo()
@@ -172,7 +176,7 @@ void DeviceChoiceTest::theStatusLineSaysWhichModem()
     none.source[0] = 0;
     tell(none);
     QCOMPARE(source->text(), QLatin1String("Source: modem (none)"));
-    none.state = TKSV_DEVICE_SEARCHING;
+    none.isLooking = 1;
     tell(none);
     QCOMPARE(source->text(), dashboardText("SOURCE_LOOKING"));
 }

@@ -20,6 +20,14 @@ QByteArray network(const char *more)
     return QByteArray("[Network]\nOperator=Other\nIMSI=001019999999999\n") + more + "\n";
 }
 
+DeviceStatus modemStatus(int state)
+{
+    DeviceStatus status;
+    status.isSimulated = false;
+    status.state = state;
+    return status;
+}
+
 } // namespace
 
 class DeviceStatusTest : public UssdTest
@@ -34,6 +42,10 @@ private slots:
     void everyStateHasItsWords_data();
     void everyStateHasItsWords();
     void anUnknownSignalIsSaidInWords();
+    void aBlockedSimIsSaidWithoutThePin();
+    void aSimThatIsNotAcceptedIsSaid();
+    void whoMayBecomeReady_data();
+    void whoMayBecomeReady();
     void aModemIsNamed();
     void aChangeOfTheNetworkIsTold();
     void aBadScenarioChangesNothingAndNamesTheLine();
@@ -50,7 +62,8 @@ void DeviceStatusTest::theScenarioOfTheEnvironmentIsShown()
     QCOMPARE(status.operatorText(), QLatin1String("Test & Mobile"));
     QCOMPARE(status.signalText(), QLatin1String("Signal: 64%"));
     QCOMPARE(status.simText(), QLatin1String("SIM card: 001010000000007"));
-    QCOMPARE(status.sourceText(), QLatin1String("Source: simulated network (quick.scenario)"));
+    QCOMPARE(status.sourceText(),
+             QLatin1String("Demonstration: invented network (quick.scenario)"));
     QVERIFY(status.troubleText().isEmpty());
 }
 
@@ -88,6 +101,56 @@ void DeviceStatusTest::anUnknownSignalIsSaidInWords()
     status.signalPercent = -1;
     QCOMPARE(status.signalText(), QLatin1String("Signal: unknown"));
     QVERIFY(!status.operatorText().isEmpty());
+}
+
+void DeviceStatusTest::aBlockedSimIsSaidWithoutThePin()
+{
+    DeviceStatus status = modemStatus(TKSV_DEVICE_SIM_LOCKED);
+    QVERIFY(status.troubleText().contains(QLatin1String("PIN")));
+    status.problem = TKSV_PROBLEM_PUK_NEEDED;
+    QVERIFY2(!status.troubleText().contains(QLatin1String("PIN")),
+             qPrintable(status.troubleText()));
+    QVERIFY(!status.waitsForPin());
+}
+
+void DeviceStatusTest::aSimThatIsNotAcceptedIsSaid()
+{
+    DeviceStatus status = modemStatus(TKSV_DEVICE_SEARCHING);
+    QVERIFY(status.operatorText().startsWith(QLatin1String("Searching")));
+    status.problem = TKSV_PROBLEM_REGISTRATION_DENIED;
+    QCOMPARE(status.operatorText(), QLatin1String("No network"));
+    QCOMPARE(status.troubleText(), QLatin1String("The network does not accept this SIM."));
+    QVERIFY(status.adviceText().startsWith(status.troubleText()));
+}
+
+void DeviceStatusTest::whoMayBecomeReady_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("problem");
+    QTest::addColumn<bool>("isLooking");
+    QTest::addColumn<bool>("mayBecomeReady");
+    const int none = TKSV_PROBLEM_NONE;
+    QTest::newRow("searching") << int(TKSV_DEVICE_SEARCHING) << none << false << true;
+    QTest::newRow("looking") << int(TKSV_DEVICE_ABSENT) << none << true << true;
+    QTest::newRow("no modem") << int(TKSV_DEVICE_ABSENT) << none << false << false;
+    QTest::newRow("disabled") << int(TKSV_DEVICE_DISABLED) << none << false << false;
+    QTest::newRow("registered") << int(TKSV_DEVICE_REGISTERED) << none << false << false;
+    QTest::newRow("not permitted")
+        << int(TKSV_DEVICE_SEARCHING) << int(TKSV_PROBLEM_NOT_PERMITTED) << false << false;
+    QTest::newRow("denied") << int(TKSV_DEVICE_SEARCHING) << int(TKSV_PROBLEM_REGISTRATION_DENIED)
+                            << false << false;
+}
+
+void DeviceStatusTest::whoMayBecomeReady()
+{
+    QFETCH(int, state);
+    QFETCH(int, problem);
+    QFETCH(bool, isLooking);
+    QFETCH(bool, mayBecomeReady);
+    DeviceStatus status = modemStatus(state);
+    status.problem = problem;
+    status.isLooking = isLooking;
+    QCOMPARE(status.mayBecomeReady(), mayBecomeReady);
 }
 
 void DeviceStatusTest::aModemIsNamed()

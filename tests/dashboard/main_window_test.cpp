@@ -110,7 +110,7 @@ void MainWindowTest::theDeviceAndTheSourceAreShown()
              QLatin1String("Test & Mobile"));
     const QLabel *source = m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"));
     QVERIFY(source->isVisible());
-    QCOMPARE(source->text(), QLatin1String("Source: simulated network (quick.scenario)"));
+    QCOMPARE(source->text(), QLatin1String("Demonstration: invented network (quick.scenario)"));
 }
 
 void MainWindowTest::theGeneralWindowIsInThePage()
@@ -196,7 +196,7 @@ void MainWindowTest::aChosenLanguageReachesEverything()
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
     german->trigger();
-    QCOMPARE(m_window->windowTitle(), QLatin1String("USSD-Dashboard"));
+    QCOMPARE(m_window->windowTitle(), QString::fromUtf8("USSD-Dashboard – Vorführung"));
     QVERIFY(page().sendButton()->text() != send);
     QVERIFY(button("Dashboard_GeneralFrameButton")->text().contains(QLatin1String("Fenster")));
     QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT")));
@@ -236,7 +236,7 @@ void MainWindowTest::arabicTurnsTheWindow()
 void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
 {
     QVERIFY(networkAction(dashboardText("NETWORK_AUTOMATIC"))->isChecked());
-    QAction *postpaid = networkAction(QLatin1String("postpaid"));
+    QAction *postpaid = networkAction(QLatin1String("Demonstration: postpaid"));
     QVERIFY(postpaid);
     postpaid->trigger();
     QTRY_VERIFY(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"))
@@ -244,7 +244,7 @@ void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
                     .contains(QLatin1String("postpaid.scenario")));
     QVERIFY(m_settings->device().word().startsWith(QLatin1String("simulated:/")));
     QVERIFY(m_settings->device().name.endsWith(QLatin1String("/postpaid.scenario")));
-    QVERIFY(networkAction(QLatin1String("postpaid"))->isChecked());
+    QVERIFY(networkAction(QLatin1String("Demonstration: postpaid"))->isChecked());
 }
 
 void MainWindowTest::aBadScenarioIsSaidInWordsAndTheOldOneStays()

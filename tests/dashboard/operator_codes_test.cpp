@@ -268,7 +268,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
     useSim(ALONE, "Alone");
     take();
     window().deviceMenu()->actions().last()->trigger();
-    choose(QLatin1String("The codes that come"));
+    choose(QLatin1String("The codes of the demonstration"));
     QCOMPARE(inUse(), QString());
     QCOMPARE(HostCore::PluginFolderChoice::current(), HostCore::PluginFolderChoice::installed());
     QTRY_VERIFY(!offered().contains(QLatin1String("prepaid")));

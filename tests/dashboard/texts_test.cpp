@@ -28,7 +28,8 @@ QStringList keysIn(const QString &code)
     // The prefixes of the dashboard's text keys. Other upper-case names are environment variables.
     static const QRegularExpression key(QLatin1String(
         "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
-        "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES)_[A-Z_]+)\""));
+        "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES|"
+        "DEMONSTRATION|FAILURE|COMMAND|DEVICE|FOREIGN)_[A-Z_]+)\""));
     QStringList keys;
     for (auto match = key.globalMatch(code); match.hasNext();)
         keys << match.next().captured(1);
@@ -68,8 +69,9 @@ void TextsTest::theHelpNamesEveryOption()
     for (const QString &code : HostCore::Languages::codes()) {
         QVERIFY(HostCore::Languages::setCurrent(code));
         const QString help = dashboardText("CLI_HELP");
-        for (const char *option : {"--send", "--tour", "--scenario", "--modem", "--language",
-                                   "--verbose", "--log", "--help", "--version"})
+        for (const char *option :
+             {"--send", "--tour", "--demo", "--scenario", "--modem", "--enable",
+              "--end-foreign-session", "--language", "--verbose", "--log", "--help", "--version"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 }

@@ -332,6 +332,18 @@ std::vector<TKSV_Modem> FakeSdk::modems() const
     return m_settings.modems;
 }
 
+void FakeSdk::setLastFailure(const TKSV_FailureInfo &failure)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.lastFailure = failure;
+}
+
+TKSV_FailureInfo FakeSdk::lastFailure() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_settings.lastFailure;
+}
+
 void FakeSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     const std::lock_guard<std::mutex> lock(m_infoMutex);

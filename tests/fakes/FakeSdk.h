@@ -50,6 +50,8 @@ public:
     void setInfoCallback(TKSV_DeviceInfoCallback callback, void *context);
     void setModems(const std::vector<TKSV_Modem> &modems);
     std::vector<TKSV_Modem> modems() const;
+    void setLastFailure(const TKSV_FailureInfo &failure);
+    TKSV_FailureInfo lastFailure() const;
     void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
     void tellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt);
     void setScenarioOutcome(long result, const std::string &message);
@@ -78,6 +80,7 @@ private:
         std::vector<FakeAnswer> heldBack;
         TKSV_DeviceInfo info{};
         std::vector<TKSV_Modem> modems;
+        TKSV_FailureInfo lastFailure{};
         long scenarioResult = 0;
         std::string scenarioMessage;
         bool canSendSms = false;

@@ -196,6 +196,11 @@ void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems)
     sdk().setModems(modems);
 }
 
+void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure)
+{
+    sdk().setLastFailure(failure);
+}
+
 void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt)
 {
     sdk().tellNetworkText(text, waitsForAnswer, receivedAt);

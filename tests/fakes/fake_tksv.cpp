@@ -122,6 +122,47 @@ long TKSV_Device_SendPin(const char *pin)
     return sdk().leave(ticket, sdk().resultOf(__func__));
 }
 
+long TKSV_Device_Enable(void)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_LookAgain(void)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    if (!failure)
+        return sdk().leave(ticket, 1);
+    *failure = sdk().lastFailure();
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_CancelRequest(void)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    const long result = sdk().resultOf(__func__);
+    if (result == 0) {
+        TKSV_FailureInfo cancelled = {};
+        cancelled.reason = TKSV_FAILURE_CANCELLED;
+        sdk().setLastFailure(cancelled);
+        sdk().dispatcher(FakeService::Ussd).eraseWaiting();
+        fakeSdkRespond(u"", TKSV_FAILURE_CANCELLED);
+    }
+    return sdk().leave(ticket, result);
+}
+
+long TKSV_Device_EndForeignSession(void)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
 long TKSV_Device_SetTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     const std::size_t ticket = sdk().enter(callOf(__func__));

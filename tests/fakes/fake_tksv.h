@@ -156,6 +156,10 @@ FAKE_API void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info);
 /// Sets the result of TKSV_Device_GetModems and calls the info call-back.
 FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 
+/// Sets what TKSV_Device_GetLastFailure returns. The fake SDK itself sets it only in
+/// TKSV_Device_CancelRequest.
+FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
+
 /// Sends a message that the network initiates, from the device's thread. The message is lost if no
 /// call-back is registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,

@@ -63,7 +63,11 @@ void ModemCore::useNetwork(Tksv::Scenario scenario)
 NetworkNews ModemCore::networkNews()
 {
     NetworkNews news;
-    news.ussd = [this](const Tksv::UssdReply &reply) { sayUssd(reply.type, reply.text); };
+    news.ussd = [this](const Tksv::UssdReply &reply) {
+        const bool isNetworks = reply.type <= TKSV_FAILURE_NETWORK_TIMEOUT; // a value of <m>
+        sayUssd(isNetworks ? reply.type : TKSV_FAILURE_ENDED_BY_NETWORK,
+                reply.text + reply.failure.text); // the closing text if there is no reply
+    };
     news.lost = [this](int event) { networkLost(event); };
     news.smsFinished = [this](const Tksv::SmsMessage &, int result) { smsFinished(result); };
     news.infoChanged = [this] { networkChanged(); };

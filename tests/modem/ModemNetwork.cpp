@@ -1,4 +1,5 @@
 /* Implements the network of the SDK fixture with a modem under ModemManager. */
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -37,14 +38,21 @@ FakeModems::ModemWorld &world()
     return *instance;
 }
 
-/// Returns true if the modem is in the state that the scenario requires. The library enables a
-/// disabled modem, which then searches for a network.
+std::atomic<bool> wantsEnabledModem(true);
+
+/// Enables the modem as a user would, even after it was reset. The library does not do so.
+void enableModem(void *)
+{
+    if (wantsEnabledModem && deviceInfo().state == TKSV_DEVICE_DISABLED)
+        TKSV_Device_Enable();
+}
+
+/// Returns whether the modem is in the state of the scenario.
 bool isReady(const Tksv::Scenario &scenario)
 {
     const TKSV_DeviceInfo now = deviceInfo();
     if (scenario.state != TKSV_DEVICE_REGISTERED)
-        return now.state ==
-               (scenario.state == TKSV_DEVICE_DISABLED ? TKSV_DEVICE_SEARCHING : scenario.state);
+        return now.state == scenario.state;
     return now.state == TKSV_DEVICE_REGISTERED && scenario.operatorName == now.operatorName &&
            scenario.imsi == now.imsi && (now.canSendSMS != 0) == scenario.smsReady;
 }
@@ -71,6 +79,8 @@ std::string useNetwork(const std::string &scenario)
     if (!result.scenario)
         return Tksv::describe(result.complaints);
     FakeModems::ModemWorld &here = world();
+    wantsEnabledModem = result.scenario->state != TKSV_DEVICE_DISABLED;
+    TKSV_Device_SetInfoCallback(enableModem, nullptr);
     if (here.hasModem(MODEM_ID))
         here.unplug(MODEM_ID);
     if (!waitUntil([] { return deviceInfo().state == TKSV_DEVICE_ABSENT; }))

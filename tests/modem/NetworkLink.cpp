@@ -32,8 +32,9 @@ int NetworkLink::sendUssd(const std::string &text)
     if (!m_started)
         return Tksv::RequestNoDevice;
     const bool isAnswer = m_waitsForAnswer && !Tksv::hasFormOfCode(text);
-    const int status = m_network.request(
-        ++m_lastToken, isAnswer ? Tksv::RequestKind::Answer : Tksv::RequestKind::NewSession, text);
+    const Tksv::RequestKind kind =
+        isAnswer ? Tksv::RequestKind::Answer : Tksv::RequestKind::NewSession;
+    const int status = m_network.request(++m_lastToken, kind, text).status;
     if (status == Tksv::RequestAccepted)
         m_waitsForAnswer = false;
     return status;

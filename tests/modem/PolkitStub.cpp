@@ -1,5 +1,7 @@
 #include "PolkitStub.h"
 
+#include <utility>
+
 #include "BusConnection.h"
 
 namespace FakeModems
@@ -63,8 +65,27 @@ std::string PolkitStub::publish(const std::string &busAddress)
 void PolkitStub::answer(GDBusMethodInvocation *invocation)
 {
     ++m_timesAsked;
+    if (m_holdsNext.exchange(false)) {
+        m_held = invocation;
+        return;
+    }
     g_dbus_method_invocation_return_value(
         invocation, g_variant_new("((bba{ss}))", m_allowed ? TRUE : FALSE, FALSE, nullptr));
+}
+
+bool PolkitStub::isHolding()
+{
+    bool isHolding = false;
+    m_thread.call([&] { isHolding = m_held != nullptr; });
+    return isHolding;
+}
+
+void PolkitStub::answerHeld()
+{
+    m_thread.call([this] {
+        if (GDBusMethodInvocation *const held = std::exchange(m_held, nullptr))
+            answer(held);
+    });
 }
 
 } // namespace FakeModems

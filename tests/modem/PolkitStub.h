@@ -25,6 +25,10 @@ public:
     /// Returns when the stub owns the name: an empty string on success, otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
+    /// Keeps the answer to the next request back, as if polkit asked the user for a password.
+    void holdNext() { m_holdsNext = true; }
+    bool isHolding();
+    void answerHeld();
     int timesAsked() const { return m_timesAsked; }
 
 private:
@@ -32,6 +36,8 @@ private:
     std::string publish(const std::string &busAddress);
 
     std::atomic<bool> m_allowed{true};
+    std::atomic<bool> m_holdsNext{false};
+    GDBusMethodInvocation *m_held = nullptr; // used on the stub's thread only
     std::atomic<int> m_timesAsked{0};
     GDBusConnection *m_connection = nullptr;
     LoopThread m_thread{"polkit-stub"};

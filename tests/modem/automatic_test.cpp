@@ -1,6 +1,6 @@
 /*
- * Tests which device is used if the user has not chosen one: a modem if there is one, otherwise the
- * simulator.
+ * Tests which device is used if nobody chooses one: the first modem that is registered, and never
+ * the simulator.
  */
 #include "ModemWorld.h"
 
@@ -67,14 +67,18 @@ protected:
 
 private slots:
     void theFirstCommandWaitsForTheModem();
-    void aModemThatComesTakesTheSimulatorsPlace();
+    void theSimulatorIsNotUsedWithoutAModem();
+    void aModemThatComesIsUsed();
     void theSimulatorDoesNotTakeAModemsPlace();
     void theDaemonMayStartLater();
+    void theRegisteredModemIsPreferred();
+    void theModemInUseStaysInUse();
     void whatTheUserChoseStays();
     void choicesOfManyThreadsEndInTheLast();
 
 private:
     void addModem();
+    void addSecondModem();
 
     std::unique_ptr<ModemWorld> m_world;
 };
@@ -109,6 +113,15 @@ void ModemAutomaticTest::addModem()
     QCOMPARE(m_world->addModem("one", NETWORK), std::string());
 }
 
+void ModemAutomaticTest::addSecondModem()
+{
+    FakeModems::ModemSettings settings;
+    settings.imei = "350000000000025";
+    const std::string network =
+        QByteArray(NETWORK).replace("the modem", "the second modem").toStdString();
+    QCOMPARE(m_world->addModem("two", network, settings), std::string());
+}
+
 /// Tests a library that has not seen any device yet. This test must therefore be the first in the
 /// process.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
@@ -122,17 +135,31 @@ void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
-void ModemAutomaticTest::aModemThatComesTakesTheSimulatorsPlace()
+void ModemAutomaticTest::theSimulatorIsNotUsedWithoutAModem()
 {
     registerAll();
     TKSV_Device_UseAutomatic();
-    QVERIFY(waitForDevice(TKSV_BACKEND_SIMULATOR, TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitUntil([] { return info().isLooking == 0; }));
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_ABSENT));
+    QVERIFY(waitUntil([] { return request(u"*100#") != 0; })); // the library knows the state
+    QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NONE; }));
+    TKSV_FailureInfo failure;
+    QCOMPARE(TKSV_Device_GetLastFailure(&failure), 0L);
+    QCOMPARE(int(failure.reason), int(TKSV_FAILURE_NO_DEVICE));
+}
+
+void ModemAutomaticTest::aModemThatComesIsUsed()
+{
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    QVERIFY(waitUntil([] { return info().isLooking == 0; }));
     received().clear();
     addModem();
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
-    QVERIFY(received().deviceEvents.waitFor(1));
-    QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
     QCOMPARE(reply(), QLatin1String("From the modem"));
+    QVERIFY(received().deviceEvents.all().empty());
 }
 
 void ModemAutomaticTest::theSimulatorDoesNotTakeAModemsPlace()
@@ -140,12 +167,16 @@ void ModemAutomaticTest::theSimulatorDoesNotTakeAModemsPlace()
     registerAll();
     TKSV_Device_UseAutomatic();
     addModem();
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
     m_world->unplug("one");
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_ABSENT));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_MODEM_REMOVED));
     QVERIFY(request(u"*100#") != 0);
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
     QCOMPARE(reply(), QLatin1String("From the modem"));
 }
 
@@ -154,10 +185,54 @@ void ModemAutomaticTest::theDaemonMayStartLater()
     m_world->stopDaemon();
     registerAll();
     TKSV_Device_UseAutomatic();
-    QVERIFY(waitForDevice(TKSV_BACKEND_SIMULATOR, TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_SERVICE; }));
     addModem();
     QVERIFY(m_world->startDaemon());
+    QCOMPARE(TKSV_Device_LookAgain(), 0L);
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
+}
+
+/// The library starts with a modem that is disabled, and changes to another one that registers.
+void ModemAutomaticTest::theRegisteredModemIsPreferred()
+{
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    addModem();
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
+    addSecondModem();
+    QVERIFY(waitUntil([] { return countModems() == 2; }));
+    QCOMPARE(info().equipmentId, "350000000000017");
+    QVERIFY(!m_world->enable("two").empty());
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QCOMPARE(info().equipmentId, "350000000000025");
+    QVERIFY(received().deviceEvents.all().empty());
+    QCOMPARE(reply(), QLatin1String("From the second modem"));
+
+    TKSV_Modem list[2];
+    unsigned long count = 0;
+    QCOMPARE(TKSV_Device_GetModems(list, 2, &count), 0L);
+    QCOMPARE(int(list[0].state), int(TKSV_DEVICE_DISABLED));
+    QCOMPARE(int(list[1].state), int(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(list[0].isInUse, 0);
+    QCOMPARE(list[1].isInUse, 1);
+}
+
+/// The user's SIM must not change because the modem loses its network for a moment.
+void ModemAutomaticTest::theModemInUseStaysInUse()
+{
+    registerAll();
+    TKSV_Device_UseAutomatic();
+    addModem();
+    QVERIFY(!m_world->enable("one").empty());
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    addSecondModem();
+    QVERIFY(!m_world->enable("two").empty());
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
+    QCOMPARE(info().equipmentId, "350000000000017");
+    m_world->unplug("one");
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QCOMPARE(info().equipmentId, "350000000000025");
 }
 
 void ModemAutomaticTest::whatTheUserChoseStays()
@@ -169,13 +244,14 @@ void ModemAutomaticTest::whatTheUserChoseStays()
     QVERIFY(waitUntil([] { return countModems() == 1; }));
     QCOMPARE(int(info().backend), int(TKSV_BACKEND_SIMULATOR));
     TKSV_Device_UseAutomatic();
-    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
 }
 
 void ModemAutomaticTest::choicesOfManyThreadsEndInTheLast()
 {
     registerAll();
     addModem();
+    QVERIFY(!m_world->enable("one").empty());
     std::atomic<std::size_t> accepted(0);
     const auto inThread = [](const std::function<void()> &step) {
         return std::thread([step] {

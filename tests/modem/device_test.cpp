@@ -2,15 +2,9 @@
  * Tests how the device SDK works with a real ModemManager. The tests follow the rows of the table
  * in docs/modems.md.
  */
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
-#include "MmClient.h"
-#include "ModemWorld.h"
+#include "ModemTest.h"
 
 #include <QtTest>
-
-#include "SdkFixture.h"
-#include "tksv_device.h"
-#include "UssdTest.h"
 
 using namespace SdkFixture;
 using FakeModems::FakeModem;
@@ -21,50 +15,6 @@ using FakeModems::ModemWorld;
 
 namespace
 {
-
-const char NETWORK[] = R"([Network]
-Operator=Test Net
-IMSI=001010000000001
-Signal=60
-[*100#]
-Reply=Balance
-[*120#]
-Reply=Menu
-[*120#/1]
-Reply=One
-[*130#]
-Outcome=refuse
-[*131#]
-Outcome=unsupported
-[*132#]
-Outcome=network-timeout
-[*133#]
-Outcome=silence
-[*150#]
-Reply=€ رصيدك Баланс\nline two
-[*151#]
-Reply=€ رصيدك Баланс\nline two
-Delay=100
-[SMS 28]
-Result=28
-)";
-
-TKSV_DeviceInfo info()
-{
-    TKSV_DeviceInfo result;
-    TKSV_Device_GetInfo(&result);
-    return result;
-}
-
-bool waitForState(TKSV_DeviceState state)
-{
-    return waitUntil([state] { return info().state == state; });
-}
-
-bool waitForProblem(TKSV_DeviceProblem problem)
-{
-    return waitUntil([problem] { return info().problem == problem; });
-}
 
 std::vector<TKSV_Modem> modems()
 {
@@ -113,20 +63,11 @@ public:
     OnlyDashboard &operator=(const OnlyDashboard &) = delete;
 };
 
-QString shown(const std::u16string &text)
-{
-    return QString::fromStdU16String(text);
-}
-
 } // namespace
 
-class ModemDeviceTest : public UssdTest
+class ModemDeviceTest : public ModemTest
 {
     Q_OBJECT
-
-protected:
-    void setUp() override;
-    void tearDown() override;
 
 private slots:
     void withoutABusThatIsSaid();
@@ -138,13 +79,15 @@ private slots:
     void outcomesHaveTheirTypes_data();
     void outcomesHaveTheirTypes();
     void whatTheCharsetLacksFails();
+    void brokenRepliesHaveAReason_data();
+    void brokenRepliesHaveAReason();
+    void aModemOn4GOnlyIsSaid();
     void unsaneTextIsRefused_data();
     void unsaneTextIsRefused();
 
     void aReleasedCommandDoesNotBlockTheNext();
     void aReplacedCommandIsNotAnswered();
     void theReplyToAReleasedCommandIsToldToTheDashboard();
-    void aSessionThatAnotherClientLeftIsEnded();
     void aCommandForAModemJustChosenIsSent();
     void aDaemonThatHangsHoldsNobodyUp();
     void aLostRegistrationEndsTheCommand();
@@ -155,7 +98,6 @@ private slots:
 
     void theNetworkTellsSomething();
     void theNetworkAsksSomething();
-    void aMenuLeftOpenIsFoundAgain();
 
     void messagesTellTheirOutcome();
     void messagesAreDeletedFromTheModem();
@@ -168,55 +110,15 @@ private slots:
     void aPinFromElsewhereMakesGoodAWrongOne();
     void whatPolkitRefusesIsSaid();
     void aRefusalIsForgottenWhenItIsTakenBack();
+    void theModemIsEnabledOnRequestOnly();
+    void aModemDisabledAfterThePinStaysDisabled();
+    void aDeniedRegistrationIsSaid();
     void aModemWithoutUssdIsSaid();
 
     void oneOfTwoModemsIsChosen();
     void theChosenModemIsWaitedFor();
     void anyModemMayTakeThePlaceOfAnother();
-
-private:
-    FakeModem &fake() { return m_world->modem("one"); }
-    void startWorld();
-    void addModem(const char *id, const ModemSettings &settings = ModemSettings());
-    void useModem(const ModemSettings &settings = ModemSettings());
-
-    std::unique_ptr<ModemWorld> m_world;
 };
-
-void ModemDeviceTest::setUp()
-{
-    registerAll();
-}
-
-void ModemDeviceTest::tearDown()
-{
-    if (QTest::currentTestFailed() && m_world)
-        std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
-    unregisterAll();
-    m_world.reset();
-    QVERIFY(waitForState(TKSV_DEVICE_ABSENT));
-    received().clear();
-}
-
-void ModemDeviceTest::startWorld()
-{
-    m_world = std::make_unique<ModemWorld>();
-    QCOMPARE(m_world->start(), std::string());
-    TKSV_Device_UseModem(nullptr);
-}
-
-void ModemDeviceTest::addModem(const char *id, const ModemSettings &settings)
-{
-    QCOMPARE(m_world->addModem(id, NETWORK, settings), std::string());
-}
-
-void ModemDeviceTest::useModem(const ModemSettings &settings)
-{
-    startWorld();
-    addModem("one", settings);
-    QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED && info().canSendSMS; }));
-    received().clear();
-}
 
 /* ---- finding the modem ------------------------------------------------------------------- */
 
@@ -244,6 +146,7 @@ void ModemDeviceTest::theDaemonMayStartLater()
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
     addModem("one");
     QVERIFY(m_world->startDaemon());
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
@@ -287,9 +190,10 @@ void ModemDeviceTest::outcomesHaveTheirTypes_data()
     QTest::newRow("refused") << QString::fromLatin1("*130#") << none << 2;
     QTest::newRow("unsupported") << QString::fromLatin1("*131#") << none << 4;
     QTest::newRow("network timed out") << QString::fromLatin1("*132#") << none << 5;
-    QTest::newRow("error") << QString::fromLatin1("*100#") << int(Fault::Error) << 2;
+    QTest::newRow("error") << QString::fromLatin1("*100#") << int(Fault::Error)
+                           << int(TKSV_FAILURE_REFUSED);
     QTest::newRow("equipment error")
-        << QString::fromLatin1("*100#") << int(Fault::EquipmentError) << 2;
+        << QString::fromLatin1("*100#") << int(Fault::EquipmentError) << int(TKSV_FAILURE_REFUSED);
 }
 
 void ModemDeviceTest::outcomesHaveTheirTypes()
@@ -313,8 +217,58 @@ void ModemDeviceTest::whatTheCharsetLacksFails()
     settings.charsets = {FakeModems::Charset::Ira};
     useModem(settings);
     QCOMPARE(ask(u"*120#").type, 1);
-    QCOMPARE(ask(u"€").type, 2);
+    QCOMPARE(ask(u"€").type, int(TKSV_FAILURE_NOT_ENCODABLE));
+    QCOMPARE(lastFailure().wasNotSent, 1);
     QCOMPARE(ask(u"*100#").type, 0);
+}
+
+void ModemDeviceTest::brokenRepliesHaveAReason_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("reason");
+    const auto row = [](const char *name, const char *line, TKSV_Failure reason) {
+        QTest::newRow(name) << QString::fromLatin1(line) << int(reason);
+    };
+    row("no text", "+CUSD: 0", TKSV_FAILURE_EMPTY_REPLY);
+    row("empty text", "+CUSD: 0,\"\",15", TKSV_FAILURE_EMPTY_REPLY);
+    row("half a character", "+CUSD: 0,\"D83D\",15", TKSV_FAILURE_UNDECODABLE);
+    row("garbled", "+CUSD: ~,\"~04~\",~5", TKSV_FAILURE_UNDECODABLE);
+    row("other client", "+CUSD: 3", TKSV_FAILURE_ENDED_BY_NETWORK);
+    row("closing text", "+CUSD: 2,\"00410042\",15", TKSV_FAILURE_ENDED_BY_NETWORK);
+}
+
+void ModemDeviceTest::brokenRepliesHaveAReason()
+{
+    QFETCH(QString, line);
+    QFETCH(int, reason);
+    useModem();
+    QCOMPARE(request(u"*133#"), 0L);
+    QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
+    fake().say(line.toStdString());
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(received().responses.all()[0].type, reason);
+    QCOMPARE(int(lastFailure().reason), reason);
+    QCOMPARE(lastFailure().wasNotSent, 0);
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+}
+
+/// The last number of +CREG is the access technology: 7 is 4G, 2 is 3G (3GPP TS 27.007, 7.2).
+void ModemDeviceTest::aModemOn4GOnlyIsSaid()
+{
+    useModem();
+    const auto register4G = [this](const char *technology) {
+        for (const char *line :
+             {"+CREG: 1,\"1234\",\"001122BB\",", "+CGREG: 1,\"1234\",\"001122BB\","})
+            fake().say(std::string(line) + technology);
+    };
+    register4G("7");
+    QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_ON_4G; }));
+    fake().misbehave(Misbehaviour{"AT+CUSD=1", Fault::Error, 100, 2});
+    QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_ON_4G));
+    QCOMPARE(ask(u"*130#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK)); // another reason is likelier
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
+    register4G("2");
+    QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_SUPPORTED; }));
 }
 
 void ModemDeviceTest::unsaneTextIsRefused_data()
@@ -379,15 +333,6 @@ void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
     QCOMPARE(networkTexts().all(), std::vector<std::string>{"late."});
 }
 
-void ModemDeviceTest::aSessionThatAnotherClientLeftIsEnded()
-{
-    useModem();
-    FakeModems::MmClient other(m_world->busAddress());
-    QVERIFY(other.use(m_world->stateOf("one").object));
-    other.initiate("*133#", 50); // times out and leaves the daemon waiting
-    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
-}
-
 /// Tests a command that is sent before the library knows the state of the modem.
 void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
 {
@@ -401,7 +346,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     const std::size_t expected = isAccepted ? 2 : 1;
     QVERIFY(received().responses.waitFor(expected));
     QCOMPARE(received().responses.all().size(), expected);
-    QCOMPARE(received().responses.all().back().type, isAccepted ? 2 : 0);
+    QCOMPARE(received().responses.all().back().type, isAccepted ? int(TKSV_FAILURE_NO_DEVICE) : 0);
 }
 
 /// Tests that calls return before the default time-out of GDBus, which is 25 s.
@@ -417,7 +362,7 @@ void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
     QVERIFY(timer.elapsed() < 15000);
     m_world->resumeDaemon();
     addModem("one");
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
 }
 
 void ModemDeviceTest::aLostRegistrationEndsTheCommand()
@@ -428,7 +373,7 @@ void ModemDeviceTest::aLostRegistrationEndsTheCommand()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(received().responses.waitFor(1));
-    QCOMPARE(received().responses.all()[0].type, 2);
+    QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_NOT_REGISTERED));
     QVERIFY(received().responses.all()[0].text.empty());
     QVERIFY(info().state != TKSV_DEVICE_REGISTERED);
 }
@@ -440,9 +385,13 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(fake().waitForCommand("AT+CUSD=1,"));
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
-    QCOMPARE(received().responses.all()[0].type, 2);
+    QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library leaves the modem disabled
     QVERIFY(request(u"*100#") != 0);
+    QCOMPARE(info().hasForeignSession, 0);
+    QCOMPARE(TKSV_Device_Enable(), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance")); // the first command is cancelled
 }
 
 void ModemDeviceTest::anUnpluggedModemEndsTheCommand()
@@ -453,8 +402,11 @@ void ModemDeviceTest::anUnpluggedModemEndsTheCommand()
     m_world->unplug("one");
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
+    QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_DEVICE_LOST));
     QVERIFY(waitForState(TKSV_DEVICE_ABSENT));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_MODEM_REMOVED));
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
@@ -468,8 +420,10 @@ void ModemDeviceTest::aDaemonThatDiesEndsTheCommand()
     m_world->killDaemon();
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_RESET});
+    QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_DEVICE_LOST));
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_SERVICE));
     QVERIFY(m_world->startDaemon());
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
@@ -507,24 +461,6 @@ void ModemDeviceTest::theNetworkAsksSomething()
         QVERIFY(networkTexts().waitFor(1));
         QCOMPARE(networkTexts().all(), std::vector<std::string>{"Continue??"});
     }
-}
-
-void ModemDeviceTest::aMenuLeftOpenIsFoundAgain()
-{
-    startWorld();
-    addModem("one");
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
-    const OnlyDashboard dashboard;
-    TKSV_Device_UseScenario(nullptr, nullptr, 0);
-    FakeModems::MmClient before(m_world->busAddress());
-    QVERIFY(before.use(m_world->stateOf("one").object));
-    QCOMPARE(before.initiate("*120#").text, std::string("Menu"));
-    TKSV_Device_UseModem(nullptr);
-    QVERIFY(networkTexts().waitFor(1));
-    QCOMPARE(networkTexts().all(), std::vector<std::string>{"?"});
-    QCOMPARE(request(u"1"), 0L);
-    QVERIFY(networkTexts().waitFor(2)); // no call-back accepted this reply either
-    QCOMPARE(networkTexts().all()[1], std::string("One."));
 }
 
 /* ---- short messages ---------------------------------------------------------------------- */
@@ -648,7 +584,7 @@ void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
     FakeModems::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
     QCOMPARE(other.sendPin("4711"), std::string());
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library enables it only after its own PIN
     QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
 }
 
@@ -656,7 +592,8 @@ void ModemDeviceTest::aRefusalIsForgottenWhenItIsTakenBack()
 {
     useModem();
     m_world->polkit().allow(false);
-    QCOMPARE(ask(u"*100#").type, 2);
+    QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_PERMITTED));
+    QCOMPARE(lastFailure().wasNotSent, 1);
     QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NOT_PERMITTED));
     m_world->polkit().allow(true);
     QCOMPARE(ask(u"*100#").type, 0);
@@ -668,8 +605,74 @@ void ModemDeviceTest::whatPolkitRefusesIsSaid()
     startWorld();
     m_world->polkit().allow(false);
     addModem("one");
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
+    QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForProblem(TKSV_PROBLEM_NOT_PERMITTED));
     QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    m_world->polkit().allow(true);
+    QCOMPARE(TKSV_Device_Enable(), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
+}
+
+/* ---- the radio --------------------------------------------------------------------------- */
+
+/// The daemon asks polkit before it enables the modem. The library reads the SIM after it would
+/// enable the modem.
+void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
+{
+    startWorld();
+    addModem("one");
+    QVERIFY(waitUntil([] { return *info().imsi != 0; }));
+    QVERIFY(request(u"*100#") != 0);
+    QVERIFY(!m_world->polkit().isHolding()); // waits until the stub has handled earlier requests
+    QCOMPARE(m_world->polkit().timesAsked(), 0);
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    QCOMPARE(info().hasForeignSession, 0);
+    QCOMPARE(TKSV_Device_Enable(), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(TKSV_Device_Enable() != 0);
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    const int before = m_world->polkit().timesAsked();
+    TKSV_Device_UseModem(nullptr); // not even a program that starts enables it
+    QVERIFY(waitUntil([] { return *info().imsi && info().state == TKSV_DEVICE_DISABLED; }));
+    QVERIFY(!m_world->polkit().isHolding());
+    QCOMPARE(m_world->polkit().timesAsked(), before);
+}
+
+void ModemDeviceTest::aModemDisabledAfterThePinStaysDisabled()
+{
+    ModemSettings settings;
+    settings.asksForPin = true;
+    startWorld();
+    const std::string network = std::string(NETWORK).insert(10, "PIN=4711\n");
+    QCOMPARE(m_world->addModem("one", network, settings), std::string());
+    QVERIFY(waitForState(TKSV_DEVICE_SIM_LOCKED));
+    QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(m_world->switchOff("one"));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
+    const int before = m_world->polkit().timesAsked();
+    for (int i = 0; i < 10; ++i) // enough time to enable the modem
+        QCOMPARE(m_world->stateOf("one").state, FakeModems::STATE_DISABLED);
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
+    QCOMPARE(m_world->polkit().timesAsked(), before);
+}
+
+void ModemDeviceTest::aDeniedRegistrationIsSaid()
+{
+    useModem();
+    for (const char *line : {"+CREG: 3", "+CGREG: 3"})
+        fake().say(line);
+    QVERIFY(waitForProblem(TKSV_PROBLEM_REGISTRATION_DENIED));
+    QCOMPARE(int(info().state), int(TKSV_DEVICE_SEARCHING));
+    QVERIFY(request(u"*100#") != 0);
+    for (const char *line : {"+CREG: 1,\"1234\",\"001122BB\"", "+CGREG: 1,\"1234\",\"001122BB\""})
+        fake().say(line);
+    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
 }
 
 void ModemDeviceTest::aModemWithoutUssdIsSaid()
@@ -679,6 +682,7 @@ void ModemDeviceTest::aModemWithoutUssdIsSaid()
     fake().misbehave(Misbehaviour{"AT+CUSD=?", Fault::Error, 0, FakeModems::ALWAYS});
     m_world->unplug("one");
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QVERIFY(waitForProblem(TKSV_PROBLEM_NO_USSD));
     QVERIFY(request(u"*100#") != 0);
@@ -697,8 +701,7 @@ void ModemDeviceTest::oneOfTwoModemsIsChosen()
     QVERIFY(waitUntil([] { return modems().size() == 2; }));
     QVERIFY(modems()[0].isInUse && !modems()[1].isInUse);
     QCOMPARE(modems()[1].name, "Example Fake Two");
-    QCOMPARE(other.timesReceived("AT+CFUN=1"), 0); // the library has not enabled it yet
-
+    QVERIFY(!m_world->enable("two").empty());
     TKSV_Device_UseModem(modems()[1].equipmentId);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QCOMPARE(info().equipmentId, "350000000000025");
@@ -717,7 +720,7 @@ void ModemDeviceTest::theChosenModemIsWaitedFor()
     ModemSettings second;
     second.imei = "350000000000025";
     addModem("two", second);
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     QCOMPARE(info().equipmentId, "350000000000025");
 }
 
@@ -730,7 +733,7 @@ void ModemDeviceTest::anyModemMayTakeThePlaceOfAnother()
     QVERIFY(waitUntil([] { return modems().size() == 2; }));
     m_world->unplug("one");
     QVERIFY(waitUntil([] { return QByteArray(info().equipmentId) == "350000000000025"; }));
-    QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{TKSV_DEV_EVENT_GONE});
 }
 

@@ -1,15 +1,22 @@
 // The GLib headers precede the Qt headers, in which "signals" is a keyword.
 #include "ModemWorld.h"
 
+#include <QElapsedTimer>
 #include <QPlainTextEdit>
+#include <QProcess>
+#include <QSignalSpy>
 #include <QTextEdit>
 #include <QTreeWidget>
 
 #include "IUSSD.h"
 #include "Languages.h"
 #include "MessageHelper.h"
+#include "sim/PaidTypeFinder.h"
 #include "SimTest.h"
 #include "tksv_device.h"
+#include "window/NoticeBar.h"
+
+#include <csignal>
 
 using namespace Dashboard;
 
@@ -78,6 +85,40 @@ QString shownText(const QWidget *window)
     return texts.join(QLatin1Char('\n'));
 }
 
+/// Starts `ussd-dashboard --send` with these arguments.
+void startSend(QProcess &process, const QStringList &arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String("USSD_REPLY_TIMEOUT_MS"), QLatin1String("10000"));
+    process.setProcessEnvironment(environment);
+    process.start(QLatin1String(PROGRAM_FILE), QStringList(QLatin1String("--send")) + arguments);
+}
+
+/** What a run of `--send` has printed, and how it ended. */
+struct SendRun {
+    int code = -1;
+    QString out;
+    QString error;
+};
+
+SendRun endOf(QProcess &process)
+{
+    SendRun run;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return run;
+    run.code = process.exitCode();
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.error = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+SendRun sendRun(const char *arguments)
+{
+    QProcess process;
+    startSend(process, QString::fromUtf8(arguments).split(QLatin1Char(' ')));
+    return endOf(process);
+}
+
 const char USSD_FAILED[] = "The command was not carried out.";
 const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
@@ -113,6 +154,21 @@ private slots:
     void aCommandThatIsTooLong();
     void aQuoteNeverReachesTheModem();
 
+    void openingTheWindowSendsNothing();
+    void theWindowLeavesTheSessionOfAnotherProgramAlone();
+    void theRadioStaysOff();
+    void closingTheDashboardEndsTheCommand();
+    void aRefusedDetectionLeavesTheKindUnknown();
+    void sendPrintsTheReply();
+    void sendDoesNotSwitchTheModemOn();
+    void sendSwitchesTheModemOnIfTold();
+    void aSignalEndsTheSessionOfSend_data();
+    void aSignalEndsTheSessionOfSend();
+    void aMenuThatSendLeavesOpenIsEnded();
+    void theSessionOfAnotherProgramIsLeftAlone();
+    void severalProgramsGetTheirOwnReplies();
+    void aProgramThatWaitsForItsTurnSaysSo();
+
 protected:
     void setUpClass() override;
     void setUp() override;
@@ -129,6 +185,7 @@ private:
     T *part(const QWidget *dialog, const char *role);
     QPushButton *openService(int row);
     bool sendWhenReady(QPushButton *button);
+    bool openSessionOfAnotherProgram();
 
     QScopedPointer<FakeModems::ModemWorld> m_world;
 };
@@ -152,14 +209,17 @@ void EndToEndTest::setUp()
 {
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     makeLibrary();
+    qputenv("USSD_DETECT_PAID_TYPE", "1");
     QCOMPARE(m_world->useScenario("one", NETWORK), std::string());
     fake().behave();
+    QVERIFY(!m_world->enable("one").empty());
     fake().forgetReceived();
 }
 
 void EndToEndTest::tearDown()
 {
     closeDashboard();
+    qunsetenv("USSD_DETECT_PAID_TYPE");
     if (QTest::currentTestFailed())
         fprintf(stderr, "%s\n", m_world->logTail().c_str());
 }
@@ -433,6 +493,7 @@ void EndToEndTest::theModemIsPulledOutWhileAMessageIsSent()
     m_world->unplug("one");
     QTRY_VERIFY(shownText(frame()).contains(QLatin1String("Sending failed.")));
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForRegistration());
     QTRY_VERIFY(button->isEnabled());
 }
@@ -448,6 +509,7 @@ void EndToEndTest::theModemIsPulledOutWhileACommandIsOut()
     QTRY_COMPARE(page().lastReceived(), QLatin1String(USSD_FAILED));
     QVERIFY(!page().isWaiting());
     m_world->plugIn("one");
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForRegistration());
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
@@ -460,8 +522,201 @@ void EndToEndTest::theDaemonCrashesWhileACommandIsOut()
     m_world->killDaemon();
     QTRY_COMPARE(page().lastReceived(), QLatin1String(USSD_FAILED));
     QVERIFY(m_world->startDaemon());
+    QVERIFY(!m_world->enable("one").empty());
     QVERIFY(waitForRegistration());
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+}
+
+/* ---- nothing that the user did not ask for ------------------------------------------------- */
+
+/// The operator of the SIM is not set up, and the user has allowed the detection.
+void EndToEndTest::openingTheWindowSendsNothing()
+{
+    m_library.reset(); // the folder of this test counts as that of an integrator
+    openDashboard();
+    QVERIFY(waitForRegistration());
+    QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
+    QVERIFY(settled.wait(10000));
+    drainEvents();
+    QCOMPARE(offered(), QLatin1String("general framed"));
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+    QCOMPARE(fake().timesReceived("AT+CFUN="), 0);
+}
+
+/// Neither opening nor using nor closing the window ends the session.
+void EndToEndTest::theWindowLeavesTheSessionOfAnotherProgramAlone()
+{
+    QVERIFY(openSessionOfAnotherProgram());
+    fake().forgetReceived();
+    openDashboard();
+    QVERIFY(waitForRegistration());
+    const QPushButton *end = button("Dashboard_EndForeignSessionButton");
+    QTRY_VERIFY(end->isVisible());
+    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String(USSD_FAILED));
+    const NoticeBar *why =
+        window().findChild<NoticeBar *>(QLatin1String("Dashboard_CommandNotice"));
+    QTRY_VERIFY2(why->text().startsWith(QLatin1String("Another program is using codes")),
+                 qPrintable(why->text()));
+    closeDashboard();
+    QCOMPARE(fake().timesReceived("AT+CUSD="), 0);
+}
+
+void EndToEndTest::theRadioStaysOff()
+{
+    QVERIFY(m_world->switchOff("one"));
+    fake().forgetReceived();
+    openDashboard();
+    QPushButton *enable = button("Dashboard_EnableButton");
+    QTRY_VERIFY(enable->isVisible());
+    QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
+    QTest::mouseClick(enable, Qt::LeftButton);
+    QVERIFY(waitForRegistration());
+}
+
+void EndToEndTest::closingTheDashboardEndsTheCommand()
+{
+    openPage();
+    QVERIFY(page().send(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1", 2));
+    closeDashboard();
+    QVERIFY(fake().waitForCommand("AT+CUSD=2"));
+}
+
+void EndToEndTest::aRefusedDetectionLeavesTheKindUnknown()
+{
+    std::string network = NETWORK;
+    network.replace(network.find("Reply=Account 1"), 15, "Outcome=refuse");
+    QCOMPARE(m_world->useScenario("one", network), std::string());
+    QVERIFY(!m_world->enable("one").empty());
+    openDashboard();
+    QVERIFY(waitForRegistration());
+    QTRY_COMPARE(fake().timesReceived("AT+CUSD=1,\"002A0031003000330023\""), 1);
+    QTRY_VERIFY(!window().sim().isAsking());
+    QCOMPARE(paidType(), QString());
+}
+
+/* ---- --send -------------------------------------------------------------------------------- */
+
+void EndToEndTest::sendPrintsTheReply()
+{
+    const SendRun run = sendRun("*100#");
+    QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
+    QCOMPARE(run.error, QString());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
+}
+
+void EndToEndTest::sendDoesNotSwitchTheModemOn()
+{
+    QVERIFY(m_world->switchOff("one"));
+    fake().forgetReceived();
+    QElapsedTimer time;
+    time.start();
+    const SendRun run = sendRun("*100#");
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.error.contains(QLatin1String("--enable")), qPrintable(run.error));
+    QVERIFY(time.elapsed() < 9000); // the wait for a modem takes 10 s
+    QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
+}
+
+void EndToEndTest::sendSwitchesTheModemOnIfTold()
+{
+    QVERIFY(m_world->switchOff("one"));
+    const SendRun run = sendRun("*100# --enable");
+    QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
+    QCOMPARE(run.code, 0);
+}
+
+void EndToEndTest::aSignalEndsTheSessionOfSend_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void EndToEndTest::aSignalEndsTheSessionOfSend()
+{
+    QFETCH(int, number);
+    QProcess process;
+    startSend(process, QStringList(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1"));
+    QCOMPARE(::kill(pid_t(process.processId()), number), 0);
+    const SendRun run = endOf(process);
+    QCOMPARE(run.code, 128 + number);
+    QVERIFY(run.error.contains(QLatin1String("The command was cancelled.")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=2"));
+    QCOMPARE(sendRun("*100#").code, 0); // the session is idle
+}
+
+void EndToEndTest::aMenuThatSendLeavesOpenIsEnded()
+{
+    const SendRun run = sendRun("*123#");
+    QCOMPARE(run.code, 7);
+    QCOMPARE(run.out, QLatin1String("Menu\n1 Data\n2 Other\n"));
+    QVERIFY(fake().waitForCommand("AT+CUSD=2"));
+    QCOMPARE(sendRun("*100#").code, 0);
+}
+
+bool EndToEndTest::openSessionOfAnotherProgram()
+{
+    QProcess other;
+    other.start(QLatin1String("mmcli"), QStringList()
+                                            << QLatin1String("-m") << QLatin1String("any")
+                                            << QLatin1String("--3gpp-ussd-initiate=*123#"));
+    return other.waitForFinished(30000) && other.exitCode() == 0;
+}
+
+void EndToEndTest::theSessionOfAnotherProgramIsLeftAlone()
+{
+    QVERIFY(openSessionOfAnotherProgram());
+    fake().forgetReceived();
+    const SendRun refused = sendRun("*100#");
+    QCOMPARE(refused.code, 5);
+    QVERIFY2(refused.error.contains(QLatin1String("Another program")), qPrintable(refused.error));
+    QVERIFY(refused.error.contains(QLatin1String("--end-foreign-session")));
+    QCOMPARE(refused.out, QString());
+    QCOMPARE(fake().timesReceived("AT+CUSD="), 0);
+    const SendRun told = sendRun("*100# --end-foreign-session");
+    QCOMPARE(told.out, QLatin1String("Your balance is 12.50 EUR.\n"));
+    QCOMPARE(told.code, 0);
+}
+
+void EndToEndTest::severalProgramsGetTheirOwnReplies()
+{
+    const char *const codes[] = {"*100#", "*102#", "*103#", "*142#"};
+    const char *const replies[] = {"Your balance is 12.50 EUR.\n", "0123 456\n", "Account 1\n",
+                                   "Noch 12,50 € übrig\n"};
+    QProcess processes[4];
+    for (int i = 0; i < 4; ++i)
+        startSend(processes[i], QStringList(QLatin1String(codes[i])));
+    for (int i = 0; i < 4; ++i) {
+        const SendRun run = endOf(processes[i]);
+        QCOMPARE(run.out, QString::fromUtf8(replies[i]));
+        QCOMPARE(run.code, 0);
+    }
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4);
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+}
+
+/// The first program waits for a network that is silent.
+void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
+{
+    QProcess first;
+    startSend(first, QStringList(QLatin1String("*131#")));
+    QVERIFY(fake().waitForCommand("AT+CUSD=1"));
+    QProcess second;
+    second.setReadChannel(QProcess::StandardError);
+    startSend(second, QStringList(QLatin1String("*100#")));
+    QVERIFY(second.waitForReadyRead(10000));
+    QVERIFY(second.peek(1000).startsWith("Waiting until another program has finished"));
+    first.terminate();
+    QCOMPARE(endOf(first).code, 128 + SIGTERM);
+    const SendRun run = endOf(second);
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
 USSD_TEST_MAIN(EndToEndTest)

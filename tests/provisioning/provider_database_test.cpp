@@ -21,6 +21,7 @@ private slots:
     void oddFilesAreRefused_data();
     void oddFilesAreRefused();
     void everyPrefixOfADatabaseIsReadOrRefused();
+    void largeDatabaseIsReadInPieces();
 };
 
 namespace
@@ -35,6 +36,14 @@ QByteArray provider(const QByteArray &gsm)
 {
     return database("<country code='DE'><name>Germany</name><provider><name>One</name><gsm>" + gsm +
                     "</gsm></provider></country>");
+}
+
+QByteArray attributes(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += " a" + QByteArray::number(i) + "='1'";
+    return text;
 }
 
 const char RICH[] =
@@ -137,6 +146,11 @@ void ProviderDatabaseTest::refusedDocuments_data()
         << QString::fromLatin1("Entity 'bad' not declared");
     QTest::newRow("deep") << provider(QByteArray("<a>").repeated(100000))
                           << QString::fromLatin1("nested too deeply");
+    QTest::newRow("huge tag") << provider("<balance-check><ussd " + attributes(60000) +
+                                          ">*1#</ussd></balance-check>")
+                              << QString::fromLatin1("A tag or comment is longer than 64 KB.");
+    QTest::newRow("huge comment") << provider("<!--" + QByteArray(100000, 'a') + "-->")
+                                  << QString::fromLatin1("A tag or comment is longer than 64 KB.");
     QTest::newRow("deep text") << provider("<balance-check><ussd>" +
                                            QByteArray("<a>").repeated(100000))
                                << QString::fromLatin1("nested too deeply");
@@ -179,6 +193,26 @@ void ProviderDatabaseTest::everyPrefixOfADatabaseIsReadOrRefused()
         QVERIFY2(!read.error.isEmpty() && read.providers.isEmpty(),
                  qPrintable(QString::number(length)));
     }
+}
+
+/// Tests that no piece of a large document is lost or read twice. The Euro sign has three bytes, so
+/// some of the signs are in two pieces.
+void ProviderDatabaseTest::largeDatabaseIsReadInPieces()
+{
+    QByteArray gsm = "<!--" + QByteArray(60000, 'a') + "--><balance-check>\n";
+    for (int i = 0; i < 20000; ++i)
+        gsm += "<sms text='\xe2\x82\xac'>" + QByteArray::number(i) + "</sms>\n";
+    gsm += "</balance-check><network-id mcc='1' mnc='1'/>";
+    const ProviderDatabase read = readProviderDatabase(provider(gsm));
+    QCOMPARE(read.error, QString());
+    const QList<ProviderCode> codes = read.providers.value(0).balance;
+    QCOMPARE(codes.count(), 20000);
+    for (int i = 0; i < codes.count(); ++i) {
+        QCOMPARE(codes.at(i).code, QString::number(i));
+        QCOMPARE(codes.at(i).smsText, QString(QChar(0x20ac)));
+        QCOMPARE(codes.at(i).line, qint64(i + 3));
+    }
+    QCOMPARE(read.complaints.value(0).line, qint64(20003));
 }
 
 USSD_TEST_MAIN(ProviderDatabaseTest)

@@ -22,7 +22,8 @@ private slots:
     void longestInputFillsTheCommand();
     void firstUsableCodeGoesIntoTheAccountWindow();
     void topUpWithoutReplacementIsACodeOnly();
-    void plainCodesGetButtonsOnlyBeforeTwoPaymentButtons();
+    void plainCodesGetButtonsBeforeTwoPaymentButtons();
+    void placeholdersSendNothing();
     void messagesBecomeServices();
     void callsAndAnswersAreNoted();
     void networkOfTheSimBecomesAPrefix();
@@ -160,7 +161,7 @@ void ProvisionPlanTest::firstUsableCodeGoesIntoTheAccountWindow()
     QCOMPARE(plan.balance, latin1("*1#"));
     QCOMPARE(plan.ownNumber, latin1("*3#"));
     QCOMPARE(plan.topUp, latin1("*4*%s#"));
-    QCOMPARE(plan.profiles.count(), 4);
+    QCOMPARE(plan.profiles.count(), 5); // with a placeholder before the top-up
     QCOMPARE(plan.profiles.at(0).langID, latin1("IDS_PROFILE_BALANCE"));
     QCOMPARE(plan.profiles.at(1).langID, QString());
     QCOMPARE(plan.profiles.at(1).name, latin1("*2#"));
@@ -173,17 +174,22 @@ void ProvisionPlanTest::topUpWithoutReplacementIsACodeOnly()
     asked.topUp << code("*4#");
     const ProvisionPlan plan = provisionPlan(asked);
     QCOMPARE(plan.topUp, QString());
-    QCOMPARE(plan.profiles.count(), 1);
-    QCOMPARE(plan.profiles.at(0).value, latin1("*4#"));
+    QCOMPARE(shown(plan), QStringList() << latin1("*4#") << QString() << QString());
 }
 
-void ProvisionPlanTest::plainCodesGetButtonsOnlyBeforeTwoPaymentButtons()
+void ProvisionPlanTest::plainCodesGetButtonsBeforeTwoPaymentButtons()
 {
     Provider asked = provider();
-    asked.balance << code("*1#") << code("*2#");
-    QCOMPARE(shown(provisionPlan(asked)), QStringList());
     asked.topUp << replaced("*4*X#", "X");
     QCOMPARE(shown(provisionPlan(asked)), QStringList() << latin1("*4*%s#"));
+    asked.topUp.clear();
+    asked.balance << code("*1#") << code("*2#");
+    QCOMPARE(shown(provisionPlan(asked)), QStringList()
+                                              << latin1("*1#") << latin1("*2#") << QString()
+                                              << QString()); // two placeholders
+    asked.topUp << replaced("*4*X#", "X");
+    QCOMPARE(shown(provisionPlan(asked)),
+             QStringList() << latin1("*1#") << latin1("*2#") << QString() << latin1("*4*%s#"));
     asked.topUp << replaced("*5*X#", "X") << replaced("*6*X#", "X");
     QCOMPARE(shown(provisionPlan(asked)), QStringList() << latin1("*1#") << latin1("*2#")
                                                         << latin1("*4*%s#") << latin1("*5*%s#"));
@@ -194,6 +200,18 @@ void ProvisionPlanTest::plainCodesGetButtonsOnlyBeforeTwoPaymentButtons()
     QCOMPARE(shown(many).mid(9), QStringList() << latin1("*4*%s#") << latin1("*5*%s#"));
     QCOMPARE(many.profiles.count(), 17);
     QCOMPARE(many.profiles.at(9).value, latin1("*4*%s#"));
+}
+
+void ProvisionPlanTest::placeholdersSendNothing()
+{
+    Provider asked = provider();
+    asked.balance << code("*1#");
+    const ProvisionPlan plan = provisionPlan(asked);
+    QCOMPARE(plan.profiles.count(), 3);
+    for (const USSDProfile &profile : plan.profiles.mid(1)) {
+        QCOMPARE(profile.name, placeholderName());
+        QVERIFY(profile.value.isEmpty() && profile.langID.isEmpty() && profile.readonly);
+    }
 }
 
 void ProvisionPlanTest::messagesBecomeServices()
@@ -220,7 +238,7 @@ void ProvisionPlanTest::callsAndAnswersAreNoted()
     QCOMPARE(provisionPlan(asked).notes.count(), 2);
     asked.balance << code("*100#", ProviderCode::UssdResponse);
     const ProvisionPlan plan = provisionPlan(asked);
-    QCOMPARE(plan.profiles.count(), 1);
+    QCOMPARE(shown(plan).value(0), latin1("*100#"));
     QCOMPARE(plan.balance, QString()); // the account window cannot show the menu in the reply
 }
 

@@ -17,6 +17,8 @@ class ProvisionWriterTest : public UssdTest
     Q_OBJECT
 
 private slots:
+    void folderOfTheUser_data();
+    void folderOfTheUser();
     void writesWhatThePluginLooksFor();
     void remembersTheOperator();
     void sameOperatorAgainWritesNothing();
@@ -319,6 +321,29 @@ void ProvisionWriterTest::killBetweenAnyFirstStepsLeavesNothingOrNew()
         if (result == 0)
             break;
     }
+}
+
+void ProvisionWriterTest::folderOfTheUser_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QString>("folder");
+    const QString usual = QDir::homePath() + QLatin1String("/.local/share/ussd-dashboard");
+    QTest::newRow("absolute") << QByteArray("/data") << QString::fromLatin1("/data/ussd-dashboard");
+    QTest::newRow("relative") << QByteArray("data") << usual;
+    QTest::newRow("empty") << QByteArray() << usual;
+}
+
+void ProvisionWriterTest::folderOfTheUser()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(QString, folder);
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", variable);
+    const QString home = userDataHome();
+    const QString operators = operatorsFolder();
+    qputenv("XDG_DATA_HOME", before);
+    QCOMPARE(home, folder);
+    QCOMPARE(operators, folder + QLatin1String("/operators"));
 }
 
 USSD_TEST_MAIN(ProvisionWriterTest)

@@ -252,8 +252,8 @@ void SdkScenario::complaints_data()
     row("nothing to reply", "[*1#]\nDelay=1\n",
         "f:5: [*1#]: expected Reply, Goto, Outcome or DeviceEvent");
     row("empty reply", "[*1#]\nReply=\n", "f:6: Reply: expected a text");
-    row("reply and refusal", "[*1#]\nReply=x\nOutcome=refuse\n",
-        "f:6: Reply: expected only with Outcome=reply");
+    row("reply and silence", "[*1#]\nReply=x\nOutcome=silence\n",
+        "f:6: Reply: expected only with Outcome=reply or Outcome=refuse");
     row("event and outcome", "[*1#]\nOutcome=silence\nDeviceEvent=6016\n",
         "f:6: Outcome: expected only without DeviceEvent");
     row("answer to nothing", "[*1#/2]\nReply=x\n",

@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "base/WorkerThread.h"
 #include "EventService.h"
+#include "RecordingBackend.h"
 #include "SdkFixture.h"
 #include "UssdSession.h"
 
@@ -18,38 +19,13 @@ using namespace Tksv;
 namespace
 {
 
-/** Accepts every request and records it. */
-class RecordingBackend : public Backend
-{
-public:
-    void start(BackendObserver &) override {}
-    void stop() override {}
-    int request(RequestToken token, RequestKind kind, const std::string &text) override
-    {
-        if (status == RequestAccepted)
-            requests.push_back({token, kind, text});
-        return status;
-    }
-    void endSession() override { ++ended; }
-    bool sendSms(const SmsMessage &) override { return false; }
-    bool sendPin(const std::string &) override { return false; }
-    DeviceInfo info() const override { return DeviceInfo(); }
-
-    struct Seen {
-        RequestToken token;
-        RequestKind kind;
-        std::string text;
-    };
-    std::vector<Seen> requests;
-    int ended = 0;
-    int status = RequestAccepted;
-};
-
 /** A service with one listener, which records replies and either accepts or refuses them. */
 class Listening
 {
 public:
-    Listening() : service("test"), session(service, [this] { ++untakenCount; })
+    Listening()
+        : service("test"), session([this](Event event) { service.post(std::move(event)); },
+                                   [this] { ++untakenCount; })
     {
         service.add(1, [this](int, void *data) {
             const auto *record = static_cast<const TKSV_USSDResponse *>(data);

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include "SdkFixture.h"
+#include "tksv_device.h"
 
 using namespace SdkFixture;
 
@@ -208,7 +209,7 @@ void SdkSimulator::stateThatChangesRefusesTheRequest()
              std::string());
     QVERIFY(sendWhenRegistered(u"*1#"));
     QVERIFY(received().responses.waitFor(1));
-    QCOMPARE(received().responses.all()[0].type, 2);
+    QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_NOT_REGISTERED));
 }
 
 void SdkSimulator::lostDeviceStaysAwayForEver()

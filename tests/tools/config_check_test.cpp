@@ -3,6 +3,7 @@
 #include "ForwardXml.h"
 #include "ProviderChoice.h"
 #include "ProvisionFiles.h"
+#include "USSDProfile.h"
 #include "UssdTest.h"
 
 #include <QFile>
@@ -10,6 +11,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 using namespace Formats;
@@ -27,9 +29,19 @@ private slots:
     void provisionedFilesAreWithoutFindings();
     void configurationMistakes_data();
     void configurationMistakes();
+    void mistakenCodes_data();
+    void mistakenCodes();
+    void mistakenAreas_data();
+    void mistakenAreas();
     void profileMistakes_data();
     void profileMistakes();
+    void oneMoreCodeIsForeseen_data();
+    void oneMoreCodeIsForeseen();
     void scenarioMistakesHaveTheirLine();
+    void everyMistakeOfAScenarioIsFound_data();
+    void everyMistakeOfAScenarioIsFound();
+    void misspeltNetworkHasOneFinding_data();
+    void misspeltNetworkHasOneFinding();
     void placeIsThatOfTheStartTag();
     void missingThirdItemShowsWhoseValuesAreTaken();
     void everyMissingLineIsFound_data();
@@ -37,6 +49,13 @@ private slots:
     void longestCommandIsCountedWithItsInput_data();
     void longestCommandIsCountedWithItsInput();
     void nearlyFullFilesWithFindingsStillHaveTables();
+    void misspeltNameHasOneFinding_data();
+    void misspeltNameHasOneFinding();
+    void oneCauseHasOneFinding_data();
+    void oneCauseHasOneFinding();
+    void brokenProfilesHaveOneFinding_data();
+    void brokenProfilesHaveOneFinding();
+    void itemWithoutElementsHasOneFinding();
     void layoutAloneIsChecked();
     void unusableContent_data();
     void unusableContent();
@@ -118,6 +137,42 @@ void addMistake(const char *title, const char *before, const char *after, const 
 {
     QTest::newRow(title) << QByteArray(before) << QByteArray(after) << QString::fromLatin1(rule)
                          << QString::fromLatin1(text) << hasLine;
+}
+
+/// Returns the text with the last letter of a name replaced. `at` is the index before the name. If
+/// the name is that of an element with an end tag, the end tag is changed as well.
+QString misspelt(const QString &whole, int at, const QString &name, bool isElement)
+{
+    const QString other = name.left(name.length() - 1) + QLatin1Char('q');
+    QString changed = whole;
+    changed.replace(at + 1, name.length(), other);
+    const QChar last = whole.at(whole.indexOf(QLatin1Char('>'), at) - 1);
+    const int end = whole.indexOf(QLatin1String("</") + name + QLatin1Char('>'), at);
+    if (isElement && last != QLatin1Char('/'))
+        changed.replace(end + 2, name.length(), other);
+    return changed;
+}
+
+/// Adds a row for each name in the file except those of the root.
+void addMisspeltRows(const QByteArray &content)
+{
+    QString whole = QString::fromUtf8(content);
+    const QRegularExpression comment(QLatin1String("<!--.*?-->"),
+                                     QRegularExpression::DotMatchesEverythingOption);
+    for (QRegularExpressionMatch match = comment.match(whole); match.hasMatch();
+         match = comment.match(whole)) {
+        const QString lines(match.captured().count(QLatin1Char('\n')), QLatin1Char('\n'));
+        whole.replace(match.capturedStart(), match.capturedLength(), lines);
+    }
+    QRegExp name(QLatin1String("<([A-Za-z]+)[ />]| ([A-Za-z]+)=\""));
+    const int root = whole.indexOf(QRegExp(QLatin1String("<[A-Za-z]")));
+    for (int at = name.indexIn(whole, whole.indexOf(QLatin1Char('>'), root)); at >= 0;
+         at = name.indexIn(whole, at + 1)) {
+        const QString found = name.cap(1) + name.cap(2);
+        const int line = whole.left(at).count(QLatin1Char('\n')) + 1;
+        QTest::newRow(qPrintable(QString::fromLatin1("%1 %2 %3").arg(at).arg(line).arg(found)))
+            << misspelt(whole, at, found, !name.cap(1).isEmpty()).toUtf8() << line;
+    }
 }
 
 /// Replaces the first occurrence of `before`. Checks that one of the findings has the expected rule
@@ -206,9 +261,15 @@ void ConfigCheckTest::configurationMistakes_data()
                "Charge and MSISDN have the same pos 1", false);
     addMistake("colour", "red=\"0\" green=\"51\"", "red=\"256\" green=\"51\"", "colour", "256");
     addMistake("size", "<yHeight>200", "<yHeight>0", "size", "not above 0");
+    addMistake("huge letters", "<yHeight>200", "<yHeight>2147483640", "size",
+               "a font size of 107374182 points");
     addMistake("misspelt section", "<recevie>", "<receive>", "name", "is <recevie> meant", false);
-    addMistake("section in small letters", "<Postpaid>", "<postpaid>", "missing", "<Postpaid>",
-               false);
+    addMistake("section in small letters", "<Postpaid>", "<postpaid>", "name",
+               "is <Postpaid> meant");
+    addMistake("attribute", "pos=\"3\"", "poss=\"3\"", "name",
+               "attribute poss is not read; is pos");
+    addMistake("other attribute", "pos=\"3\"", "pos=\"3\" note=\"a\"", "name",
+               "attribute note is not read");
     addMistake("misspelt child", "<minlenth>12</minlenth>", "<minlength>12</minlength>", "name",
                "is <minlenth> meant");
     addMistake("component", "item name=\"Balance\"", "item name=\"balance\"", "items",
@@ -267,6 +328,52 @@ void ConfigCheckTest::configurationMistakes()
     checkMistake(configuration());
 }
 
+void ConfigCheckTest::mistakenCodes_data()
+{
+    addMistakeColumns();
+    addMistake("balance is no code", "<command>*100#</command>", "<command>balance</command>",
+               "command", "\"balance\" is no code", false);
+    addMistake("code without hash", "<command>*102#</command>", "<command>*102</command>",
+               "command", "\"*102\" is no code", false);
+    addMistake("detection is no code", "<command>*103#", "<command>103?", "command",
+               "\"103?\" is no code", false);
+    addMistake("top-up is no code", "*101*%s#", "*101*%s", "command", "\"*101*%s\" is no code",
+               false);
+    addMistake("service is no code", "*124*1#", "one day", "command", "\"one day\" is no code",
+               false);
+    addMistake("input of a balance", "<command>*100#", "<command>*100*%s#", "command",
+               "for which nothing can be entered", false);
+}
+
+void ConfigCheckTest::mistakenCodes()
+{
+    checkMistake(configuration());
+}
+
+void ConfigCheckTest::mistakenAreas_data()
+{
+    addMistakeColumns();
+    addMistake("control outside", "posx=\"285\" posy=\"16\"", "posx=\"640\" posy=\"16\"", "outside",
+               "from 640, 16 to 980, 62 is outside the window of 640 x 360");
+    addMistake("control above", "posx=\"285\" posy=\"16\"", "posx=\"285\" posy=\"-46\"", "outside",
+               "is outside the window");
+    addMistake("control partly outside", "posx=\"285\" posy=\"16\"", "posx=\"301\" posy=\"16\"",
+               "outside", "to 641, 62 is partly outside the window of 640 x 360");
+    addMistake("huge control", "width=\"340\" height=\"46\"", "width=\"2147483640\" height=\"46\"",
+               "outside", "partly outside");
+    addMistake("control without a size", "width=\"340\" height=\"46\"",
+               "width=\"340\" height=\"0\"", "outside", "a size of 340 x 0 pixels cannot be seen");
+    addMistake("tree outside", "TreeSize posx=\"10\"", "TreeSize posx=\"-300\"", "outside",
+               "is outside the window");
+    addMistake("window without a size", "MainSize width=\"640\"", "MainSize width=\"0\"", "outside",
+               "the window has no size");
+}
+
+void ConfigCheckTest::mistakenAreas()
+{
+    checkMistake(configuration());
+}
+
 void ConfigCheckTest::profileMistakes_data()
 {
     addMistakeColumns();
@@ -285,6 +392,7 @@ void ConfigCheckTest::profileMistakes_data()
     addMistake("placeholder", "*128#", "*128*%s#", "button", "is not one of the last two", false);
     addMistake("blanks", "*128#", " *128# ", "command", "blanks around it", false);
     addMistake("empty", "*128#", "", "command", "empty", false);
+    addMistake("no code", "*128#", "128#", "command", "\"128#\" is no code", false);
     addMistake("twelfth", "</tksvdoc>",
                "<item><name>a</name><value>*9#</value><readonly>true</readonly>"
                "<showButton>true</showButton><langID/><desLangID/></item></tksvdoc>",
@@ -296,6 +404,49 @@ void ConfigCheckTest::profileMistakes()
     checkMistake(profiles());
 }
 
+void ConfigCheckTest::oneMoreCodeIsForeseen_data()
+{
+    QTest::addColumn<QStringList>("codes");
+    QTest::addColumn<QString>("finding"); // empty for no finding
+    QTest::addColumn<QString>("row");
+    const auto row = [](const char *name, const char *codes, const char *finding,
+                        const char *text) {
+        QTest::newRow(name) << QString::fromUtf8(codes).split(QLatin1Char(' '))
+                            << QString::fromLatin1(finding) << QString::fromUtf8(text);
+    };
+    row("two payment codes", "*1# *2*%s# *3*%s#",
+        "with one more code the last two buttons would be \"*3*%s#\" and that code: \"*2*%s#\" "
+        "would be sent with its \"%s\" unchanged",
+        "the last two buttons would be \"*3*%s#\" and that code");
+    row("placeholder", "*1# \xe2\x80\x93 *3*%s#", "",
+        "the last two buttons would be \"*3*%s#\" and that code");
+    row("placeholders", "*1# \xe2\x80\x93 \xe2\x80\x93", "",
+        "the last two buttons would be \"\u2013\" and that code");
+    row("one payment code", "*1*%s#", "", "the last two buttons would be \"*1*%s#\" and that code");
+    row("no room", "*1# *2# *3# *4# *5# *6# *7# *8# *9# *10*%s# *11*%s#", "", "");
+}
+
+void ConfigCheckTest::oneMoreCodeIsForeseen()
+{
+    QFETCH(QStringList, codes);
+    QFETCH(QString, finding);
+    QFETCH(QString, row);
+    QByteArray items;
+    for (const QString &code : codes) {
+        const bool isPlaceholder = code == placeholderName();
+        items += "<item><name>" + code.toUtf8() + "</name><value>" +
+                 (isPlaceholder ? QByteArray() : code.toUtf8()) +
+                 "</value><readonly>true</readonly><showButton>true</showButton><langID/>"
+                 "<desLangID/></item>";
+    }
+    const CheckReport report = check("<tksvdoc>" + items + "</tksvdoc>");
+    QStringList texts;
+    for (const CheckFinding &found : report.findings)
+        texts << found.text;
+    QCOMPARE(texts, finding.isEmpty() ? QStringList() : QStringList(finding));
+    QCOMPARE(tableRow(report, "Buttons", "with one more code").value(1), row);
+}
+
 void ConfigCheckTest::scenarioMistakesHaveTheirLine()
 {
     const CheckReport report = check("[Network]\nOperator=A\nIMSI=001010123456789\n\n[*100#]\n"
@@ -303,6 +454,67 @@ void ConfigCheckTest::scenarioMistakesHaveTheirLine()
     QCOMPARE(report.kind, QLatin1String("scenario"));
     QCOMPARE(rulesOf(report), QStringList() << QLatin1String("scenario"));
     QCOMPARE(report.findings.first().line, qint64(7));
+}
+
+/// Each row is a file after the three lines of [Network], and the lines of all findings. A mistake
+/// hides no other mistake, and has no finding for its consequences.
+void ConfigCheckTest::everyMistakeOfAScenarioIsFound_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QList<int>>("lines");
+    const auto row = [](const char *name, const char *text, const QList<int> &lines) {
+        QTest::newRow(name) << QByteArray(text) << lines;
+    };
+    row("bad line, bad value", "[*1#]\nReply\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
+    row("bad header, bad value", "[*1#\nReply=x\nDelay=soon\n", {4, 6});
+    row("bad header of a menu", "[*1#\nReply=x\n[*1#/1]\nReply=y\n[*1#/2]\nReply=z\n", {4});
+    row("header without a bracket", "[*1#]\nReply=x\n*2#]\nReply=x\nDelay=soon\n", {6, 8});
+    row("encoding", "Encoding=x\nSignal\n[*1#]\nReply=x\nEncoding=y\n", {4, 5, 8});
+    row("empty header", "[*1#]\nReply=x\n[]\nReply=y\n[*2#]\nDelay=soon\n", {6, 9});
+    row("not UTF-8, bad value", "[*1#]\nReply=\xff\n[*2#]\nReply=x\nDelay=soon\n", {5, 8});
+    row("group twice, bad value", "[*1#]\nReply=x\n[*1#]\nDelay=soon\n", {6, 7});
+    row("unknown key, bad placeholder", "[*1#]\nReply={town}\nDelya=1\n", {5, 6});
+    row("unknown key only", "[*1#]\nRepyl=x\n", {5});
+    row("unknown key of an event", "[Event e]\nAfter=1\nSignl=1\n", {6});
+    row("unknown key of a push", "[Push p]\nAfter=1\nRepyl=1\n", {6});
+    row("missing menu", "[*1#/1]\nReply=x\n[*1#/2]\nReply=x\n[*1#/3]\nReply=x\n", {4});
+    row("missing target", "[*1#]\nGoto=*9#\n[*2#]\nGoto=*9#\n[*9#/1]\nReply=x\n", {5});
+    row("two missing targets", "[*1#]\nGoto=*8#\n[*2#]\nGoto=*9#\n", {5, 7});
+}
+
+void ConfigCheckTest::everyMistakeOfAScenarioIsFound()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QList<int>, lines);
+    const CheckReport report = check("[Network]\nOperator=A\nIMSI=001010123456789\n" + text);
+    QList<int> found;
+    for (const CheckFinding &finding : report.findings)
+        found << int(finding.line);
+    QVERIFY2(found == lines, qPrintable(findingsText(report)));
+}
+
+void ConfigCheckTest::misspeltNetworkHasOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("name") << QByteArray("[Network]") << QByteArray("[Netwrok]");
+    QTest::newRow("header") << QByteArray("[Network]") << QByteArray("[Network");
+    QTest::newRow("operator") << QByteArray("Operator=") << QByteArray("Opertor=");
+    QTest::newRow("balance") << QByteArray("Balance=") << QByteArray("Balanse=");
+    QTest::newRow("comma") << QByteArray("12.50") << QByteArray("12,50");
+}
+
+/// Tests that the many rules that use the balance do not report it as missing.
+void ConfigCheckTest::misspeltNetworkHasOneFinding()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QByteArray content = contentOf(QLatin1String(USSD_SOURCE_DIR "/scenarios/default.scenario"));
+    QVERIFY(content.contains(before));
+    const CheckReport report =
+        check(content.replace(content.indexOf(before), before.size(), after));
+    QVERIFY2(report.findings.count() == 1, qPrintable(findingsText(report)));
+    QCOMPARE(report.findings.first().line, lineOf(content, after));
 }
 
 void ConfigCheckTest::placeIsThatOfTheStartTag()
@@ -387,12 +599,96 @@ void ConfigCheckTest::nearlyFullFilesWithFindingsStillHaveTables()
     QByteArray content = configuration();
     content.replace("<Postpaid>", "<Postpayed>").replace("</Postpaid>", "</Postpayed>");
     const CheckReport report = check(content);
-    QVERIFY(rulesOf(report).contains(QLatin1String("missing")));
+    QVERIFY(rulesOf(report).contains(QLatin1String("name")));
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*100#")));
     QVERIFY(tableRow(report, "Postpaid", "Balance").contains(QLatin1String("hidden")));
-    // The first finding is the cause. Each of its consequences is reported once.
-    QCOMPARE(rulesOf(report).count(QLatin1String("missing")), 1);
-    QCOMPARE(rulesOf(report).count(QLatin1String("order")), 4);
+}
+
+/// The rows are the shipped files with each of their names misspelt once.
+void ConfigCheckTest::misspeltNameHasOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("line");
+    addMisspeltRows(configuration());
+    addMisspeltRows(profiles());
+}
+
+/// Tests that a misspelt name is reported with its line, and without its consequences.
+void ConfigCheckTest::misspeltNameHasOneFinding()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, line);
+    const CheckReport report = check(content);
+    QVERIFY2(rulesOf(report) == QStringList(QLatin1String("name")),
+             qPrintable(findingsText(report)));
+    QCOMPARE(report.findings.first().line, qint64(line));
+}
+
+void ConfigCheckTest::oneCauseHasOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("rule");
+    const auto row = [](const char *name, const char *before, const char *after, const char *rule) {
+        QTest::newRow(name) << QByteArray(before) << QByteArray(after) << QString::fromLatin1(rule);
+    };
+    row("missing command", "<command>*101*%s#</command>", "", "order");
+    row("missing length", "<length>16</length>", "", "order");
+    row("root of the tree", "type=\"root\"", "type=\"rot\"", "layout");
+    row("cut off", "<autoUSSD valid=\"true\">", "<autoUSSD valid=", "xml");
+    row("cut off early", "<item name=\"MSISDN\"", "<item name=", "xml");
+    row("section without its name", "<cmdEdit", "<other", "name");
+}
+
+void ConfigCheckTest::oneCauseHasOneFinding()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(QString, rule);
+    QByteArray content = configuration();
+    QVERIFY(content.contains(before));
+    content.replace(content.indexOf(before), before.size(), after);
+    const CheckReport report = check(content);
+    const int findings = rule == QLatin1String("name") ? 2 : 1; // the end tag is a second mistake
+    QVERIFY2(report.findings.count() == findings, qPrintable(findingsText(report)));
+    QCOMPARE(report.findings.first().rule, rule);
+}
+
+void ConfigCheckTest::brokenProfilesHaveOneFinding_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("no angle bracket") << QByteArray("</value>") << QByteArray("/value>");
+    QTest::newRow("two angle brackets") << QByteArray("<value>") << QByteArray("<value<");
+    QTest::newRow("cut off") << QByteArray("<readonly>true</readonly>")
+                             << QByteArray("<readonly>tr<");
+    QTest::newRow("ampersand") << QByteArray("*126#") << QByteArray("*12&6#");
+}
+
+/// Tests that an error in the document is not mixed up with what it does to the profiles.
+void ConfigCheckTest::brokenProfilesHaveOneFinding()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QByteArray content = profiles();
+    const int at = content.lastIndexOf(before);
+    QVERIFY(at >= 0);
+    content.replace(at, before.size(), after);
+    const CheckReport report = check(content);
+    QVERIFY2(rulesOf(report) == QStringList(QLatin1String("xml")),
+             qPrintable(findingsText(report)));
+}
+
+void ConfigCheckTest::itemWithoutElementsHasOneFinding()
+{
+    QByteArray content = configuration();
+    const QByteArray tag = "<item name=\"Charge\" value=\"true\" pos=\"1\">";
+    const int start = content.indexOf(tag) + tag.size();
+    QVERIFY(start > tag.size());
+    content.remove(start, content.indexOf("</item>", start) - start);
+    const CheckReport report = check(content);
+    QVERIFY2(rulesOf(report) == QStringList(QLatin1String("order")),
+             qPrintable(findingsText(report)));
 }
 
 void ConfigCheckTest::layoutAloneIsChecked()
@@ -450,6 +746,12 @@ void ConfigCheckTest::everyPrefixIsChecked()
     const CheckReport deep = check("<a><Prepaid>" + QByteArray("<b>").repeated(100000));
     QVERIFY(rulesOf(deep).contains(QLatin1String("xml")));
     QVERIFY(deep.tables.isEmpty());
+    QByteArray attributes;
+    for (int i = 0; i < 5000; ++i)
+        attributes += " a" + QByteArray::number(i) + "='1'";
+    const CheckReport wide = check("<a><Prepaid" + attributes + "/></a>");
+    QCOMPARE(rulesOf(wide), QStringList(QLatin1String("xml")));
+    QVERIFY(wide.tables.isEmpty());
 }
 
 /// Tests that the trace takes the same steps through random documents as the plug-in's search.

@@ -18,6 +18,8 @@ protected:
 
 private slots:
     void severalOperatorsArePrintedAndNoneIsWritten();
+    void everyNamesakeCanBeSelected();
+    void argumentsThatSelectKeepTheNetwork();
     void namedOperatorIsWritten();
     void nameOfTheSimDecides();
     void folderGoesByTheNetwork();
@@ -95,6 +97,45 @@ void ProvisionToolTest::severalOperatorsArePrintedAndNoneIsWritten()
     QCOMPARE(m_out.count(QLatin1Char('\n')), 2);
     QVERIFY(m_out.contains(QLatin1String("Alpha")) && m_out.contains(QLatin1String("Beta")));
     QVERIFY(!QFileInfo::exists(target()));
+}
+
+/// Uses the arguments that the program prints for each operator, and expects that operator.
+void ProvisionToolTest::everyNamesakeCanBeSelected()
+{
+    m_database =
+        writeFile(QLatin1String("namesakes.xml"),
+                  "<serviceproviders format='2.0'><country code='jp'>"
+                  "<provider><name>It's M</name><gsm><network-id mcc='440' mnc='10'/>"
+                  "<balance-check><ussd>*1#</ussd></balance-check></gsm></provider>"
+                  "<provider><name>It's M</name><gsm><network-id mcc='440' mnc='10'/>"
+                  "<network-id mcc='440' mnc='51'/>"
+                  "<balance-check><ussd>*2#</ussd></balance-check></gsm></provider>"
+                  "<provider><name>It's M</name><name xml:lang='ja'>\xe3\x83\x9e</name><gsm>"
+                  "<network-id mcc='440' mnc='10'/>"
+                  "<balance-check><ussd>*3#</ussd></balance-check></gsm></provider>"
+                  "</country></serviceproviders>");
+    QCOMPARE(run(words("--country jp --provider") << QLatin1String("It's M")), int(TOOL_CHOOSE));
+    const QStringList lines = m_error.trimmed().split(QLatin1Char('\n'));
+    QCOMPARE(lines.count(), 4);
+    QVERIFY(lines.at(1).contains(QLatin1String("nothing distinguishes It's M")));
+    QCOMPARE(lines.at(2), QLatin1String("  --country jp --provider 'It'\\''s M' --network 44051"));
+    QCOMPARE(lines.at(3), QString::fromUtf8("  --country jp --provider \xe3\x83\x9e"));
+    QCOMPARE(run(words("--country jp --provider")
+                 << QLatin1String("It's M") << words("--network 44051 --folder") << target()),
+             int(TOOL_GOOD));
+    QVERIFY(m_out.contains(QLatin1String("*2#")));
+    QCOMPARE(run(words("--country jp --provider \xe3\x83\x9e --folder") << target()),
+             int(TOOL_GOOD));
+    QVERIFY(m_out.contains(QLatin1String("*3#")));
+}
+
+/// The arguments keep the network code, because it determines the folder.
+void ProvisionToolTest::argumentsThatSelectKeepTheNetwork()
+{
+    QCOMPARE(run(words("--network 26207")), int(TOOL_CHOOSE));
+    QVERIFY2(m_error.contains(QLatin1String("\n  --country de --provider Alpha --network 26207\n"
+                                            "  --country de --provider Beta --network 26207\n")),
+             qPrintable(m_error));
 }
 
 void ProvisionToolTest::namedOperatorIsWritten()

@@ -13,6 +13,7 @@ const char LANGUAGE[] = "language";
 const char DEVICE[] = "device";
 const char SCENARIO[] = "scenario"; // only earlier versions wrote this key
 const char OPERATOR_CODES[] = "operator-codes/";
+const char DETECTS_PAID_TYPE[] = "detect-paid-type";
 const char GEOMETRY[] = "geometry";
 
 /// Removes an incomplete lock file of Qt, which remains if a program is killed while it writes the
@@ -79,6 +80,16 @@ QString DashboardSettings::operatorCodes(const QString &homeNetwork) const
 void DashboardSettings::setOperatorCodes(const QString &homeNetwork, const QString &word)
 {
     m_settings.setValue(QLatin1String(OPERATOR_CODES) + homeNetwork, word);
+}
+
+bool DashboardSettings::detectsPaidType() const
+{
+    return m_settings.value(QLatin1String(DETECTS_PAID_TYPE)).toBool();
+}
+
+void DashboardSettings::setDetectsPaidType(bool detects)
+{
+    set(DETECTS_PAID_TYPE, detects);
 }
 
 QByteArray DashboardSettings::geometry() const

@@ -29,6 +29,9 @@ public:
     /// there is no decision.
     QString operatorCodes(const QString &homeNetwork) const;
     void setOperatorCodes(const QString &homeNetwork, const QString &word);
+    /// Returns true if the user lets the dashboard find out whether a SIM is prepaid or postpaid.
+    bool detectsPaidType() const;
+    void setDetectsPaidType(bool detects);
     QByteArray geometry() const; // the geometry of the main window
     void setGeometry(const QByteArray &geometry);
 

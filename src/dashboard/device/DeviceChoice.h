@@ -9,8 +9,8 @@ namespace Dashboard
 /** The user's choice of a device. */
 struct DeviceChoice {
     enum Kind {
-        Automatic, // a modem if there is one, otherwise a simulated network
-        Simulated,
+        Automatic, // the device that TKSV_Device_UseAutomatic() selects
+        Simulated, // a demonstration
         Modem
     };
 

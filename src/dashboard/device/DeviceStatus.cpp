@@ -13,9 +13,13 @@ namespace
 {
 
 /// Returns the text key of the reason why the device cannot be used, or null if it can be used.
-const char *trouble(int state)
+const char *trouble(const DeviceStatus &status)
 {
-    switch (state) {
+    if (status.problem == TKSV_PROBLEM_REGISTRATION_DENIED)
+        return "STATE_DENIED";
+    if (status.problem == TKSV_PROBLEM_PUK_NEEDED)
+        return "STATE_BLOCKED";
+    switch (status.state) {
     case TKSV_DEVICE_ABSENT:
         return "STATE_ABSENT";
     case TKSV_DEVICE_SIM_MISSING:
@@ -51,6 +55,12 @@ const char *adviceOnProblem(int problem)
         return "ADVICE_NO_USSD";
     case TKSV_PROBLEM_MODEM_FAILED:
         return "ADVICE_MODEM_FAILED";
+    case TKSV_PROBLEM_REGISTRATION_DENIED:
+        return "ADVICE_REGISTRATION_DENIED";
+    case TKSV_PROBLEM_SERVICE_SILENT:
+        return "ADVICE_SERVICE_SILENT";
+    case TKSV_PROBLEM_MODEM_REMOVED:
+        return "ADVICE_MODEM_REMOVED";
     default:
         return nullptr;
     }
@@ -67,7 +77,7 @@ const char *adviceOnState(const DeviceStatus &status)
         return nullptr;
     switch (status.state) {
     case TKSV_DEVICE_ABSENT:
-        return "ADVICE_NO_MODEM";
+        return status.isLooking ? nullptr : "ADVICE_NO_MODEM";
     case TKSV_DEVICE_SIM_MISSING:
         return "ADVICE_SIM_MISSING";
     case TKSV_DEVICE_DISABLED:
@@ -90,7 +100,8 @@ bool DeviceStatus::operator==(const DeviceStatus &other) const
            signalPercent == other.signalPercent && operatorName == other.operatorName &&
            imsi == other.imsi && source == other.source && problem == other.problem &&
            pinRetries == other.pinRetries && homeNetwork == other.homeNetwork &&
-           simOperator == other.simOperator;
+           simOperator == other.simOperator && isLooking == other.isLooking &&
+           hasForeignSession == other.hasForeignSession && waitsForTurn == other.waitsForTurn;
 }
 
 bool DeviceStatus::isRegistered() const
@@ -105,16 +116,24 @@ bool DeviceStatus::waitsForPin() const
 
 bool DeviceStatus::mayBecomeReady() const
 {
-    return problem == TKSV_PROBLEM_NONE &&
-           (state == TKSV_DEVICE_SEARCHING || state == TKSV_DEVICE_DISABLED ||
-            (state == TKSV_DEVICE_ABSENT && !isSimulated));
+    return problem == TKSV_PROBLEM_NONE && (state == TKSV_DEVICE_SEARCHING || isLooking);
+}
+
+bool DeviceStatus::mayBeFound() const
+{
+    return !isSimulated && !isLooking && state == TKSV_DEVICE_ABSENT;
 }
 
 QString DeviceStatus::operatorText() const
 {
     if (!operatorName.isEmpty())
         return operatorName;
-    return dashboardText(state == TKSV_DEVICE_SEARCHING ? "STATE_SEARCHING" : "OPERATOR_NONE");
+    if (state == TKSV_DEVICE_SEARCHING && problem == TKSV_PROBLEM_NONE)
+        return dashboardText("STATE_SEARCHING");
+    if (isLooking)
+        return dashboardText("STATE_LOOKING");
+    const bool isModemMissing = !isSimulated && state == TKSV_DEVICE_ABSENT;
+    return dashboardText(isModemMissing ? "OPERATOR_NO_MODEM" : "OPERATOR_NONE");
 }
 
 QString DeviceStatus::signalText() const
@@ -126,14 +145,16 @@ QString DeviceStatus::signalText() const
 
 QString DeviceStatus::troubleText() const
 {
-    const char *key = trouble(state);
+    const char *key = trouble(*this);
     return key ? dashboardText(key) : QString();
 }
 
 // Returns the description of the SIM. A device that searches for a network has a SIM.
 QString DeviceStatus::simText() const
 {
-    if (state != TKSV_DEVICE_SEARCHING && trouble(state))
+    if (isLooking)
+        return QString();
+    if (state != TKSV_DEVICE_SEARCHING && trouble(*this))
         return troubleText();
     return imsi.isEmpty() ? dashboardText("SIM_WITHOUT_IMSI") : dashboardText("SIM_IMSI").arg(imsi);
 }
@@ -143,6 +164,8 @@ QString DeviceStatus::adviceText() const
     const char *key = adviceOnProblem(problem);
     if (!key)
         key = adviceOnState(*this);
+    if (!key && hasForeignSession)
+        key = "ADVICE_FOREIGN_SESSION";
     if (!key)
         return QString();
     return sentences(dashboardText(key), waitsForPin() ? triesText() : QString());
@@ -160,9 +183,7 @@ QString DeviceStatus::sourceText() const
     if (isSimulated)
         return dashboardText("SOURCE_SIMULATED").arg(QFileInfo(source).fileName());
     if (source.isEmpty())
-        return dashboardText(mayBecomeReady() && state == TKSV_DEVICE_SEARCHING
-                                 ? "SOURCE_LOOKING"
-                                 : "SOURCE_MODEM_NONE");
+        return dashboardText(isLooking ? "SOURCE_LOOKING" : "SOURCE_MODEM_NONE");
     return dashboardText("SOURCE_MODEM").arg(source);
 }
 
@@ -180,6 +201,9 @@ DeviceStatus readDeviceStatus()
     status.imsi = QString::fromUtf8(info.imsi);
     status.homeNetwork = QString::fromUtf8(info.simOperatorCode);
     status.simOperator = QString::fromUtf8(info.simOperatorName);
+    status.isLooking = info.isLooking != 0;
+    status.hasForeignSession = info.hasForeignSession != 0;
+    status.waitsForTurn = info.waitsForTurn != 0;
     status.source =
         status.isSimulated ? QFile::decodeName(info.source) : QString::fromUtf8(info.source);
     return status;

@@ -18,6 +18,9 @@ struct DeviceStatus {
     QString homeNetwork;    // MCC and MNC of the SIM's operator, 5 or 6 digits; empty if unknown
     QString simOperator;    // service provider name (SPN) stored on the SIM; empty if unknown
     QString source;         // the scenario file, or the modem's manufacturer and model
+    bool isLooking = false; // ModemManager has not reported its modems yet
+    bool hasForeignSession = false; // another program has opened a USSD session
+    bool waitsForTurn = false;      // a request waits for another program of the same user
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }
@@ -25,8 +28,10 @@ struct DeviceStatus {
     bool isRegistered() const;
     /// Returns true if the SIM waits for a PIN and allows another attempt.
     bool waitsForPin() const;
-    /// Returns true if the device may become ready without any action by the user.
+    /// Returns true if the device may become ready without the user's help.
     bool mayBecomeReady() const;
+    /// Returns true if looking for modems again may help.
+    bool mayBeFound() const;
     QString operatorText() const;
     QString signalText() const;
     /// Returns the IMSI, or the reason why it is not available.

@@ -29,6 +29,7 @@ Modem fromRecord(const TKSV_Modem &record)
     modem.equipmentId = QString::fromUtf8(record.equipmentId);
     modem.name = QString::fromUtf8(record.name);
     modem.isInUse = record.isInUse != 0;
+    modem.state = record.state;
     return modem;
 }
 
@@ -36,7 +37,8 @@ Modem fromRecord(const TKSV_Modem &record)
 
 bool Modem::operator==(const Modem &other) const
 {
-    return equipmentId == other.equipmentId && name == other.name && isInUse == other.isInUse;
+    return equipmentId == other.equipmentId && name == other.name && isInUse == other.isInUse &&
+           state == other.state;
 }
 
 QList<Modem> readModems()

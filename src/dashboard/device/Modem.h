@@ -12,6 +12,7 @@ struct Modem {
     QString equipmentId;
     QString name; // manufacturer and model; not unique
     bool isInUse = false;
+    int state = 0; // a TKSV_DeviceState
 
     bool operator==(const Modem &other) const;
 };

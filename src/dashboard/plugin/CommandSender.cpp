@@ -1,10 +1,16 @@
 #include "CommandSender.h"
 
 #include "base/DashboardText.h"
+#include "base/SignalWatcher.h"
 #include "base/WaitUntil.h"
 #include "Change.h"
-#include "device/DeviceStatus.h"
+#include "device/DeviceWatcher.h"
+#include "device/FailureWords.h"
+#include "ExitCodes.h"
+#include "FailureText.h"
 #include "TerminalText.h"
+
+#include <cstdio>
 
 namespace Dashboard
 {
@@ -23,72 +29,117 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
+bool isTimeOutText(const QString &text)
+{
+    return text == pluginText("USSD_CODE_TIME_OUT").trimmed();
+}
+
+bool isFailureText(const QString &text)
+{
+    return text == pluginText("USSD_CODE_FAILED").trimmed() || isTimeOutText(text);
+}
+
+int complain(const QString &text, int exitCode)
+{
+    HostCore::printErrorLine(text);
+    return exitCode;
+}
+
 } // namespace
 
-CommandSender::CommandSender(const GeneralWindow &window, ReplyTap &tap, int replyLimit)
-    : m_window(window), m_tap(tap), m_replyLimit(replyLimit)
+CommandSender::CommandSender(const GeneralWindow &window, const SendingParts &parts, int replyLimit)
+    : m_window(window), m_parts(parts), m_replyLimit(replyLimit)
 {
 }
 
-bool CommandSender::send(const QStringList &commands)
+int CommandSender::send(const QStringList &commands)
 {
     for (int i = 0; i < commands.size(); ++i) {
-        const Reply earlier = m_tap.reply();
+        const Reply earlier = m_parts.tap.reply();
         if (earlier.isReceived && !earlier.asksForAnswer)
-            return fail(dashboardText("SEND_NOT_ASKED")
-                            .arg(QStringList(commands.mid(i)).join(QLatin1String(" "))));
-        if (!sendOne(commands.at(i)))
-            return false;
+            return complain(dashboardText("SEND_NOT_ASKED")
+                                .arg(QStringList(commands.mid(i)).join(QLatin1String(" "))),
+                            Cli::EXIT_REFUSED);
+        const int exitCode = sendOne(commands.at(i));
+        if (exitCode != Cli::EXIT_DONE)
+            return exitCode;
     }
-    return true;
+    if (m_parts.tap.reply().asksForAnswer)
+        return complain(dashboardText("SEND_MENU_OPEN"), Cli::EXIT_MENU_OPEN);
+    return Cli::EXIT_DONE;
 }
 
-bool CommandSender::sendOne(const QString &command)
+int CommandSender::sendOne(const QString &command)
 {
-    m_tap.clear();
+    m_parts.tap.clear();
     if (!m_window.send(command))
-        return fail(dashboardText("SEND_NOT_TAKEN").arg(command));
-    return waitForAnswer() ? print() : fail(dashboardText("SEND_NO_ANSWER"));
+        return complain(dashboardText("SEND_NOT_TAKEN").arg(command), Cli::EXIT_REFUSED);
+    const bool isAnswered = waitForAnswer();
+    if (isInterrupted())
+        return interrupt();
+    return isAnswered ? printAnswer()
+                      : complain(dashboardText("SEND_NO_ANSWER"), Cli::EXIT_NO_ANSWER);
 }
 
 bool CommandSender::waitForAnswer()
 {
-    return waitUntil([this] { return !m_window.isWaiting(); }, m_replyLimit + PLUGIN_GRACE);
+    return waitUntil([this] { return isWaitOver(); }, m_replyLimit + PLUGIN_GRACE);
 }
 
-bool CommandSender::print()
+bool CommandSender::isWaitOver()
+{
+    if (m_parts.device.status().waitsForTurn && !m_hasToldTurn) {
+        m_hasToldTurn = true;
+        HostCore::printErrorLine(dashboardText("COMMAND_WAITS_FOR_TURN"));
+    }
+    return !m_window.isWaiting() || isInterrupted();
+}
+
+int CommandSender::printAnswer()
 {
     const QString shown = m_window.lastReceived();
     if (!isFailureText(shown))
-        waitUntil([this] { return m_tap.reply().isReceived; }, TAP_GRACE);
-    const Reply reply = m_tap.reply();
+        waitUntil([this] { return m_parts.tap.reply().isReceived; }, TAP_GRACE);
+    const Reply reply = m_parts.tap.reply();
     if (reply.text.isEmpty() && (reply.isReceived || isFailureText(shown)))
         return fail(shown);
     HostCore::printLine(reply.isReceived ? reply.text : shown);
-    return true;
+    return ferror(stdout) ? complain(dashboardText("SEND_NOT_WRITTEN"), Cli::EXIT_NOT_WRITTEN)
+                          : Cli::EXIT_DONE;
 }
 
-bool CommandSender::isFailureText(const QString &text)
+/// Prints why the command failed. The plug-in may end its wait while the device still waits, and
+/// the device has no reason then.
+int CommandSender::fail(const QString &shown)
 {
-    return text == pluginText("USSD_CODE_FAILED").trimmed() ||
-           text == pluginText("USSD_CODE_TIME_OUT").trimmed();
+    TKSV_FailureInfo failure = lastFailure();
+    if (failure.reason == TKSV_FAILURE_NONE && m_parts.device.status().waitsForTurn) {
+        failure.reason = TKSV_FAILURE_IN_USE;
+        failure.wasNotSent = 1;
+    } else if (failure.reason == TKSV_FAILURE_NONE) {
+        failure.reason = isTimeOutText(shown) ? TKSV_FAILURE_NO_ANSWER : TKSV_FAILURE_REFUSED;
+    }
+    HostCore::printErrorLine(failureWords(failure));
+    if (failure.reason == TKSV_FAILURE_IN_USE && m_parts.device.status().hasForeignSession)
+        HostCore::printErrorLine(dashboardText("SEND_END_HINT"));
+    return Cli::exitCodeOf(failure.reason);
 }
 
-/// Prints the error and returns false. Also prints the device's problem, because it is the most
-/// likely reason for a failure.
-bool CommandSender::fail(const QString &text)
+/// Ends the command on the device. Waits for the empty response, after which the device accepts the
+/// end of the session.
+int CommandSender::interrupt()
 {
-    HostCore::printErrorLine(text);
-    sayWhyNotReady(readDeviceStatus());
-    return false;
+    if (TKSV_Device_CancelRequest() == 0)
+        waitUntil([this] { return m_parts.tap.reply().isReceived; }, TAP_GRACE);
+    TKSV_FailureInfo cancelled = {};
+    cancelled.reason = TKSV_FAILURE_CANCELLED;
+    return complain(failureWords(cancelled),
+                    Cli::EXIT_SIGNAL + m_parts.interruption.signalNumber());
 }
 
-void sayWhyNotReady(const DeviceStatus &device)
+bool CommandSender::isInterrupted() const
 {
-    if (!device.isRegistered())
-        HostCore::printErrorLine(device.troubleText());
-    if (!device.adviceText().isEmpty())
-        HostCore::printErrorLine(device.adviceText());
+    return m_parts.interruption.signalNumber() != 0;
 }
 
 } // namespace Dashboard

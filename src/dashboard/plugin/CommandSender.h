@@ -9,7 +9,15 @@
 namespace Dashboard
 {
 
-struct DeviceStatus;
+class DeviceWatcher;
+class SignalWatcher;
+
+/** The objects that a CommandSender uses. All of them must outlive it. */
+struct SendingParts {
+    ReplyTap &tap;
+    const DeviceWatcher &device;
+    const SignalWatcher &interruption;
+};
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
@@ -19,29 +27,27 @@ struct DeviceStatus;
 class CommandSender
 {
 public:
-    /// `replyLimit` is the plug-in's time-out in milliseconds. The window and the tap must outlive
-    /// this object.
-    CommandSender(const GeneralWindow &window, ReplyTap &tap, int replyLimit);
+    /// `replyLimit` is the plug-in's time-out in milliseconds. The window must outlive this object.
+    CommandSender(const GeneralWindow &window, const SendingParts &parts, int replyLimit);
 
-    /// Sends the commands one after another. Stops at the first failure and prints the error to
-    /// standard error. Returns true if a reply was received for every command.
-    bool send(const QStringList &commands);
+    /// Sends the commands one after another. Stops at the first failure and prints it to standard
+    /// error. Returns an exit code of Cli::ExitCode. A menu that is left open counts as a failure.
+    int send(const QStringList &commands);
 
 private:
-    bool sendOne(const QString &command);
+    int sendOne(const QString &command);
     bool waitForAnswer();
-    bool print();
-    static bool isFailureText(const QString &text);
-    static bool fail(const QString &text);
+    bool isWaitOver();
+    int printAnswer();
+    int fail(const QString &shown);
+    int interrupt();
+    bool isInterrupted() const;
 
     GeneralWindow m_window;
-    ReplyTap &m_tap;
+    SendingParts m_parts;
     const int m_replyLimit;
+    bool m_hasToldTurn = false;
 };
-
-/// Prints to standard error why the device cannot be used and what the user can do. Does not print
-/// anything if the device can be used.
-void sayWhyNotReady(const DeviceStatus &device);
 
 } // namespace Dashboard
 

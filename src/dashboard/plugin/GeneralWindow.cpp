@@ -1,6 +1,7 @@
 #include "GeneralWindow.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputMethodEvent>
 #include <QTextBlock>
 
@@ -48,6 +49,9 @@ GeneralWindow::GeneralWindow(const QWidget *root)
     m_clearButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_ClearButton");
     m_closeButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_CloseButton");
     m_history = named<QTextEdit>(root, "USSDUIPlugin_AdvancedDialog_History");
+    m_presetButton = named<QPushButton>(root, "USSDUIPlugin_AdvancedDialog_PreButton");
+    m_numberEdit = named<QLineEdit>(root, "USSDUIPlugin_AdvancedDialog_PaymentEdit");
+    m_numberLabel = named<QLabel>(root, "USSDUIPlugin_AdvancedDialog_InfoNumLabel");
 }
 
 GeneralWindow GeneralWindow::framed()
@@ -65,6 +69,33 @@ GeneralWindow GeneralWindow::framed()
 bool GeneralWindow::isComplete() const
 {
     return m_commandEdit && m_sendButton && m_history;
+}
+
+// The plug-in shows the field even if its configuration contains no codes.
+void GeneralWindow::hideUnusedPresets() const
+{
+    if (m_presetButton || !m_numberEdit || !m_numberLabel)
+        return;
+    m_numberEdit->hide();
+    m_numberLabel->hide();
+    widenHistory();
+}
+
+void GeneralWindow::widenHistory() const
+{
+    QGridLayout *grid = m_history && m_history->parentWidget()
+                            ? qobject_cast<QGridLayout *>(m_history->parentWidget()->layout())
+                            : nullptr;
+    const int index = grid ? grid->indexOf(m_history) : -1;
+    if (index < 0)
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(index, &row, &column, &rows, &columns);
+    for (int i = 0; i < columns - 1; ++i) // the last column contains the Send button
+        grid->setColumnStretch(column + i, 1);
 }
 
 bool GeneralWindow::isWaiting() const

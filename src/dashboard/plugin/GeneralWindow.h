@@ -1,6 +1,7 @@
 #ifndef GENERALWINDOW_H
 #define GENERALWINDOW_H
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -34,9 +35,15 @@ public:
     bool isComplete() const;
     QLineEdit *commandEdit() const { return m_commandEdit; }
     QPushButton *sendButton() const { return m_sendButton; }
+    QTextEdit *history() const { return m_history; }
     /// The following two buttons are null if the plug-in's configuration omits them.
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
+
+    bool hasPresets() const { return m_presetButton; }
+    /// If there are no preset buttons, hides the field for their numbers and gives the space of
+    /// both to the transcript.
+    void hideUnusedPresets() const;
 
     /// Returns true if the window waits for a reply.
     bool isWaiting() const;
@@ -50,11 +57,16 @@ public:
     QString lastReceived() const;
 
 private:
+    void widenHistory() const;
+
     QPointer<QLineEdit> m_commandEdit;
     QPointer<QPushButton> m_sendButton;
     QPointer<QPushButton> m_clearButton;
     QPointer<QPushButton> m_closeButton;
     QPointer<QTextEdit> m_history;
+    QPointer<QPushButton> m_presetButton; // the first of them
+    QPointer<QLineEdit> m_numberEdit;
+    QPointer<QLabel> m_numberLabel;
 };
 
 } // namespace Dashboard

@@ -9,7 +9,9 @@
 #include <memory>
 #include <unistd.h>
 
+#include "ForwardXml.h"
 #include "InputFile.h"
+#include "ProvisionWriter.h"
 #include "tksv.h"
 
 namespace Dashboard
@@ -25,9 +27,10 @@ const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 bool isWholeXml(const QByteArray &text)
 {
-    QXmlStreamReader reader(text);
+    QXmlStreamReader reader;
+    Formats::ForwardXml::start(reader, text);
     while (!reader.atEnd())
-        reader.readNext();
+        Formats::ForwardXml::next(reader);
     return !reader.hasError();
 }
 
@@ -75,16 +78,6 @@ QString userDataFolder()
     return result == 0 && units ? QString::fromUtf16(units) : QString();
 }
 
-/// Returns the dashboard's data folder inside $XDG_DATA_HOME or its default.
-QString ownFolder()
-{
-    const QString chosen = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
-    const QString data = chosen.startsWith(QLatin1Char('/'))
-                             ? chosen
-                             : QDir::homePath() + QLatin1String("/.local/share");
-    return data + QLatin1String("/ussd-dashboard/last-good/");
-}
-
 } // namespace
 
 ProfileBackup::ProfileBackup(const QString &userFile, const QString &legacyFile,
@@ -96,7 +89,7 @@ ProfileBackup::ProfileBackup(const QString &userFile, const QString &legacyFile,
 ProfileBackup ProfileBackup::ofUser()
 {
     const QString name = QLatin1String(FILE_NAME);
-    const QString copy = ownFolder() + name;
+    const QString copy = Provisioning::userDataHome() + QLatin1String("/last-good/") + name;
     const QString folder = userDataFolder();
     if (folder.isEmpty())
         return ProfileBackup(QString(), QString(), copy);

@@ -34,7 +34,16 @@ UserActivity::UserActivity(QObject *parent) : QObject(parent)
 bool UserActivity::isBusy()
 {
     for (const QWidget *widget : QApplication::allWidgets()) {
-        if (isOpenFrame(widget) || (isCommandEdit(widget) && !widget->isEnabled()))
+        if (isOpenFrame(widget))
+            return true;
+    }
+    return isCommandPending();
+}
+
+bool UserActivity::isCommandPending()
+{
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        if (isCommandEdit(widget) && !widget->isEnabled())
             return true;
     }
     return false;

@@ -20,6 +20,8 @@ public:
     /// Returns true if a frame of the plug-in is open, or if a command typed by the user is
     /// pending.
     static bool isBusy();
+    /// Returns true while a command that the user typed into a general window is pending.
+    static bool isCommandPending();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

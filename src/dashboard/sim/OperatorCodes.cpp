@@ -3,6 +3,7 @@
 #include "device/DashboardSettings.h"
 #include "device/DeviceWatcher.h"
 #include "InputFile.h"
+#include "InstallPaths.h"
 #include "plugin/LoadedPlugin.h"
 #include "PluginFiles.h"
 #include "PluginFolderChoice.h"
@@ -19,6 +20,12 @@ namespace
 
 const char DECLINED[] = "none";
 const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
+
+/// Returns the folder whose files contain no codes.
+QString folderWithoutCodes()
+{
+    return HostCore::InstallPaths::share() + QLatin1String("/plain");
+}
 
 QByteArray shippedConfiguration()
 {
@@ -67,6 +74,7 @@ void OperatorCodes::setPlaces(const OperatorPlaces &places)
     m_places = places;
     m_isRead = false;
     m_network.clear();
+    m_hasLooked = false;
     look();
     emit networkChanged();
 }
@@ -86,12 +94,25 @@ void OperatorCodes::look()
 {
     if (!m_places.isFree)
         return use(QString());
-    const QString network = currentNetwork();
-    if (network == m_network)
+    const bool isSimulated = m_device->status().isSimulated;
+    const QString before = m_network;
+    if (isSimulated != m_isSimulated)
+        m_network.clear(); // another device has another SIM
+    m_network = currentNetwork();
+    if (m_hasLooked && m_network == before && isSimulated == m_isSimulated)
         return;
-    m_network = network;
-    use(isDeclined() || !readProvision(folder()).isUsable() ? QString() : folder());
-    emit networkChanged();
+    m_hasLooked = true;
+    m_isSimulated = isSimulated;
+    use(wantedFolder());
+    if (m_network != before)
+        emit networkChanged();
+}
+
+QString OperatorCodes::wantedFolder() const
+{
+    if (!isDeclined() && readProvision(folder()).isUsable())
+        return folder();
+    return m_isSimulated ? QString() : folderWithoutCodes();
 }
 
 void OperatorCodes::use(const QString &folder)
@@ -113,12 +134,32 @@ QString OperatorCodes::folder() const
 
 QString OperatorCodes::operatorInUse() const
 {
-    return m_folderInUse.isEmpty() ? QString() : readProvision(m_folderInUse).record.provider;
+    return isProvisioned() ? readProvision(m_folderInUse).record.provider : QString();
+}
+
+bool OperatorCodes::isProvisioned() const
+{
+    return !m_folderInUse.isEmpty() && m_folderInUse == folder();
+}
+
+bool OperatorCodes::areSample() const
+{
+    return m_places.isFree && m_folderInUse.isEmpty();
+}
+
+bool OperatorCodes::areAbsent() const
+{
+    return m_folderInUse == folderWithoutCodes();
+}
+
+bool OperatorCodes::areOfOperator() const
+{
+    return !m_places.isFree || isProvisioned();
 }
 
 bool OperatorCodes::isDecided() const
 {
-    return isDeclined() || !m_folderInUse.isEmpty();
+    return isDeclined() || isProvisioned();
 }
 
 bool OperatorCodes::isDeclined() const
@@ -206,7 +247,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
 void OperatorCodes::decline()
 {
     setDeclined(true);
-    use(QString());
+    use(wantedFolder());
 }
 
 } // namespace Dashboard

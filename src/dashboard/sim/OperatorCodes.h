@@ -27,8 +27,8 @@ struct OperatorPlaces {
 
 /**
  * Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes are
- * either those of an operator from the operator database, or those that are installed with the
- * program. All functions must be called from the GUI thread.
+ * those of an operator, taken from the operator database. Without an operator, the sample codes are
+ * used for a simulated network, and no codes for a modem. Must be used on the GUI thread.
  */
 class OperatorCodes : public QObject
 {
@@ -45,9 +45,17 @@ public:
     /// Returns the MCC and MNC of the current SIM. While the current SIM is unknown, returns the
     /// MCC and MNC of the previous SIM.
     QString network() const { return m_network; }
-    /// Returns the operator whose codes are in use. Returns an empty string if the codes that are
-    /// installed with the program are in use.
+    /// Returns the operator whose codes are in use. Returns an empty string if there is none.
     QString operatorInUse() const;
+    /// Returns true if the device is a simulated network.
+    bool isSimulated() const { return m_isSimulated; }
+    /// Returns true if the sample codes are in use, which suit a simulated network only.
+    bool areSample() const;
+    /// Returns true if no codes are in use, because the operator of the SIM is not set up.
+    bool areAbsent() const;
+    /// Returns true if the codes in use belong to the operator of the SIM. They were chosen by the
+    /// user, or by the system integrator with $USSD_PLUGIN_LIBRARY_PATH.
+    bool areOfOperator() const;
     /// Returns true if the user has decided which codes to use for this SIM's network.
     bool isDecided() const;
 
@@ -63,7 +71,7 @@ public:
     /// the folder contains manually edited files, they are renamed if `setAside` is true.
     /// Otherwise, nothing is written.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
-    /// Selects the codes that are installed with the program for this SIM's network.
+    /// Selects no operator for this SIM's network.
     void decline();
 
 public slots:
@@ -81,6 +89,8 @@ signals:
 private:
     QString currentNetwork() const;
     QString folder() const;
+    QString wantedFolder() const;
+    bool isProvisioned() const;
     bool isDeclined() const;
     void setDeclined(bool declined);
     void use(const QString &folder);
@@ -90,6 +100,8 @@ private:
     DashboardSettings *const m_settings;
     OperatorPlaces m_places;
     QString m_network;
+    bool m_isSimulated = true;
+    bool m_hasLooked = false;
     QString m_folderInUse;              // empty for the installed folder
     QMap<QString, QString> m_decisions; // keyed by network; used if there are no settings
     mutable Provisioning::ProviderDatabase m_database;

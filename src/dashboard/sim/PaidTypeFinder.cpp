@@ -2,6 +2,7 @@
 
 #include "IUSSD.h"
 #include "plugin/LoadedPlugin.h"
+#include "plugin/ReplyTap.h"
 #include "ReplyTimeout.h"
 
 using namespace Formats;
@@ -23,8 +24,8 @@ const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
 
-PaidTypeFinder::PaidTypeFinder(LoadedPlugin *plugin, QObject *parent)
-    : QObject(parent), m_plugin(plugin)
+PaidTypeFinder::PaidTypeFinder(LoadedPlugin *plugin, ReplyTap *replies, QObject *parent)
+    : QObject(parent), m_plugin(plugin), m_replies(replies)
 {
     m_container.add(QLatin1String(NotificationService::CLSID), &m_notifications);
     m_settling.setSingleShot(true);
@@ -49,16 +50,17 @@ void PaidTypeFinder::tryToAsk()
     bool inUse = false;
     bool postpaid = false;
     int wasSent = 0;
+    m_replies->clear();
     m_plugin->ussd()->GetPrePostInfo(inUse, postpaid, wasSent, true);
     setState(PaidType::Unknown, inUse && wasSent);
 }
 
-// Stores the result of the query. An unexpected result belongs to a SIM that was removed, and is
-// ignored.
+// Stores the answer. An unexpected answer belongs to a SIM that was removed, and is ignored. The
+// plug-in reports "postpaid" if the query failed, so only the answer to a real reply counts.
 void PaidTypeFinder::takeAnswer(PaidType type)
 {
     if (isAsking())
-        setState(type, false);
+        setState(m_replies->reply().text.isEmpty() ? PaidType::Unknown : type, false);
 }
 
 void PaidTypeFinder::giveUp()

@@ -12,6 +12,7 @@ namespace Dashboard
 {
 
 class LoadedPlugin;
+class ReplyTap;
 
 /**
  * Makes the plug-in query the network once for each SIM to determine whether the SIM is prepaid or
@@ -22,8 +23,8 @@ class PaidTypeFinder : public QObject
 {
     Q_OBJECT
 public:
-    /// `plugin` must outlive the finder.
-    explicit PaidTypeFinder(LoadedPlugin *plugin, QObject *parent = nullptr);
+    /// `plugin` and `replies` must outlive the finder.
+    PaidTypeFinder(LoadedPlugin *plugin, ReplyTap *replies, QObject *parent = nullptr);
 
     PaidType paidType() const { return m_type; }
     /// Returns true if the query was sent and the reply is pending.
@@ -49,6 +50,7 @@ private:
     void setState(PaidType type, bool asking);
 
     LoadedPlugin *const m_plugin;
+    ReplyTap *const m_replies;
     NotificationService m_notifications;
     PluginContainer m_container;
     QTimer m_settling;  // runs while it is too early to send the query

@@ -10,7 +10,7 @@ namespace Dashboard
 {
 
 SimFollower::SimFollower(LoadedPlugin *plugin, const DeviceWatcher *device, QObject *parent)
-    : QObject(parent), m_plugin(plugin), m_device(device), m_finder(plugin, this)
+    : QObject(parent), m_plugin(plugin), m_device(device), m_finder(plugin, &m_replies, this)
 {
     connect(device, SIGNAL(changed()), this, SLOT(look()));
     connect(device, SIGNAL(lost()), this, SLOT(onDeviceLost()));
@@ -79,7 +79,8 @@ void SimFollower::onDeviceLost()
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();
-    if (isThere && !UserActivity::isBusy() && !m_replies.reply().asksForAnswer)
+    if (isThere && m_mayDetect && m_mayDetect() && !UserActivity::isBusy() &&
+        !m_replies.reply().asksForAnswer)
         m_finder.tryToAsk();
 }
 

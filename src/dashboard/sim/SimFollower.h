@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 #include "PaidTypeFinder.h"
 #include "plugin/ReplyTap.h"
 #include "plugin/UserActivity.h"
@@ -30,6 +32,9 @@ public:
     /// language. Returns an empty string if the kind of SIM is unknown.
     QString paidTypeText() const;
     bool isAsking() const { return m_finder.isAsking(); }
+    /// Sets the function that decides whether the network may be queried. Without it, no query is
+    /// sent.
+    void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
     /// Starts to follow the SIM. Must be called each time the plug-in has been loaded or restarted.
@@ -37,6 +42,8 @@ public slots:
     /// Must be called when the network waits for an answer to a network-initiated message. The
     /// query is not sent until that session has ended.
     void questionCame();
+    /// Sends the query if it is due and allowed. Must be called when it has become allowed.
+    void ask();
 
 signals:
     /// Emitted with the windows to offer for the SIM, as a combination of SimWindow flags.
@@ -50,7 +57,6 @@ signals:
 private slots:
     void look();
     void onDeviceLost();
-    void ask();
 
 private:
     QString currentImsi() const;
@@ -61,6 +67,7 @@ private:
     ReplyTap m_replies;
     UserActivity m_activity;
     PaidTypeFinder m_finder;
+    std::function<bool()> m_mayDetect;
     QString m_imsi; // the IMSI of the SIM for which windows are offered
 };
 

@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-const QSize WINDOW_SIZE(900, 700); // in pixels
+const QSize WINDOW_SIZE(900, 740); // pixels
 
 typedef bool (*Part)(TourGuide &guide);
 

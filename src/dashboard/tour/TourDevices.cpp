@@ -27,6 +27,9 @@ const char PIN_DIALOG[] = "Dashboard_PinDialog";
 
 const TourStop NO_MODEM = {"no-modem", "no modem is there"};
 const TourStop NO_SERVICE = {"no-service", "ModemManager does not run"};
+const TourStop SWITCHED_OFF = {"switched-off", "the modem is switched off"};
+const TourStop NO_CODES = {"no-codes", "no codes are set up for the SIM of a modem"};
+const TourStop FOREIGN = {"foreign-session", "another program uses codes"};
 const TourStop NOT_PERMITTED = {"not-permitted", "the system's policy refuses the modem"};
 const TourStop TWO_MODEMS = {"two-modems", "the menu, with two modems of the same name"};
 const TourStop LOCKED = {"locked-sim", "the SIM waits for its PIN"};
@@ -59,12 +62,16 @@ public:
 
     void device(int state, int problem, const char *model = "")
     {
-        DeviceReading reading;
-        reading.status.isSimulated = false;
-        reading.status.state = state;
-        reading.status.problem = problem;
-        reading.status.source = QLatin1String(model);
-        reading.modems = m_modems;
+        DeviceStatus status;
+        status.isSimulated = false;
+        status.state = state;
+        status.problem = problem;
+        status.source = QLatin1String(model);
+        this->status(status);
+    }
+    void status(const DeviceStatus &status)
+    {
+        DeviceReading reading = {status, m_modems};
         m_watcher.readFrom([reading] { return reading; });
     }
     void modem(const char *equipmentId, const char *name, bool isInUse)
@@ -94,6 +101,15 @@ bool isShown(const QWidget *widget)
 
 // ---- modems
 
+OperatorPlaces placesOfTour(const PrivatePluginFolder *library)
+{
+    OperatorPlaces places;
+    places.database = HostCore::InstallPaths::share() + QLatin1String("/tour/tour-operators.xml");
+    places.folders = library->path() + QLatin1String("/operators-") +
+                     QString::number(QDir(library->path()).count());
+    return places;
+}
+
 bool walkTroubles(TourGuide &guide)
 {
     const struct {
@@ -103,7 +119,8 @@ bool walkTroubles(TourGuide &guide)
         TourStop stop;
     } troubles[] = {{TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
                     {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
-                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, MODEL, NOT_PERMITTED}};
+                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, MODEL, NOT_PERMITTED},
+                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NONE, MODEL, SWITCHED_OFF}};
     Show show(guide.window()->device());
     for (const auto &trouble : troubles) {
         show.device(trouble.state, trouble.problem, trouble.model);
@@ -129,6 +146,35 @@ bool walkTwoModems(TourGuide &guide)
     menu->popup(guide.window()->menuBar()->mapToGlobal(below));
     const bool isTaken = guide.takeWith(menu, TWO_MODEMS);
     menu->close();
+    return isTaken;
+}
+
+bool walkUnknownOperator(TourGuide &guide)
+{
+    Show show(guide.window()->device());
+    DeviceStatus status;
+    status.isSimulated = false;
+    status.state = TKSV_DEVICE_REGISTERED;
+    status.operatorName = QLatin1String("Roamtel");
+    status.signalPercent = 64;
+    status.imsi = QLatin1String("001990123456789");
+    status.homeNetwork = QLatin1String("00199");
+    status.source = QLatin1String(MODEL);
+    show.status(status);
+    if (!guide.take(NO_CODES))
+        return false;
+    status.hasForeignSession = true;
+    show.status(status);
+    return guide.take(FOREIGN);
+}
+
+/// Shows modems as the user sees them, without the codes of the tour's network.
+bool walkModems(TourGuide &guide)
+{
+    OperatorCodes &codes = guide.window()->operatorCodes();
+    codes.setPlaces(placesOfTour(guide.library()));
+    const bool isTaken = walkTroubles(guide) && walkTwoModems(guide) && walkUnknownOperator(guide);
+    codes.setPlaces(OperatorPlaces::ofUser());
     return isTaken;
 }
 
@@ -177,15 +223,6 @@ bool walkTexts(TourGuide &guide)
 
 // ---- an operator's codes
 
-OperatorPlaces placesOfTour(const PrivatePluginFolder *library)
-{
-    OperatorPlaces places;
-    places.database = HostCore::InstallPaths::share() + QLatin1String("/tour/tour-operators.xml");
-    places.folders = library->path() + QLatin1String("/operators-") +
-                     QString::number(QDir(library->path()).count());
-    return places;
-}
-
 bool chooseFirstOperator(TourGuide &guide)
 {
     part<QPushButton>(guide, "Dashboard_OperatorTake")->click();
@@ -223,8 +260,8 @@ bool TourParts::walkDevices(TourGuide &guide)
 {
     guide.window()->showPage(true);
     guide.visit(guide.window(), MAIN);
-    return guide.useNetwork() && walkTroubles(guide) && walkTwoModems(guide) && walkPin(guide) &&
-           walkTexts(guide) && walkOperator(guide) && guide.useNetwork() && guide.usePlugin();
+    return guide.useNetwork() && walkModems(guide) && walkPin(guide) && walkTexts(guide) &&
+           walkOperator(guide) && guide.useNetwork() && guide.usePlugin();
 }
 
 } // namespace Dashboard

@@ -50,7 +50,26 @@ void DeviceMenu::retranslate()
     addScenarios();
     addAction(dashboardText("NETWORK_OPEN"), this, SIGNAL(openRequested()));
     addSeparator();
+    addDetection();
     addAction(dashboardText("CODES_MENU"), this, SIGNAL(operatorRequested()));
+}
+
+void DeviceMenu::setDetection(bool isOn)
+{
+    m_isDetectionOn = isOn;
+    if (!isVisible())
+        retranslate();
+}
+
+void DeviceMenu::addDetection()
+{
+    QAction *detection = addAction(dashboardText("PAID_DETECT"));
+    detection->setCheckable(true);
+    detection->setChecked(m_isDetectionOn);
+    connect(detection, &QAction::toggled, this, [this](bool isOn) {
+        m_isDetectionOn = isOn;
+        emit detectionToggled(isOn);
+    });
 }
 
 void DeviceMenu::addModems()
@@ -75,7 +94,9 @@ void DeviceMenu::addScenarios()
         files << m_choice.name;
     for (const QString &file : files) {
         if (Scenarios::displayName(file) != QLatin1String(DEFAULT_NAME))
-            addChoice(asMenuText(Scenarios::displayName(file)), DeviceChoice::simulated(file));
+            addChoice(dashboardText("NETWORK_DEMONSTRATION")
+                          .arg(asMenuText(Scenarios::displayName(file))),
+                      DeviceChoice::simulated(file));
     }
 }
 

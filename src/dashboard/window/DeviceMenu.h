@@ -22,6 +22,8 @@ public:
     /// opened again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
+    /// Sets the check mark of the entry for the prepaid/postpaid query.
+    void setDetection(bool isOn);
 
 public slots:
     /// Updates the texts after a language change.
@@ -32,6 +34,8 @@ signals:
     void chosen(const QString &word);
     /// Emitted when the user requests to open a scenario file.
     void openRequested();
+    /// Emitted when the user switches the prepaid/postpaid query on or off.
+    void detectionToggled(bool isOn);
     /// Emitted when the user requests to select an operator's codes.
     void operatorRequested();
 
@@ -39,6 +43,7 @@ private slots:
     void onTriggered(QAction *action);
 
 private:
+    void addDetection();
     void addModems();
     void addScenarios();
     void addChoice(const QString &text, const DeviceChoice &choice);
@@ -47,6 +52,7 @@ private:
     QActionGroup *m_group = nullptr;
     DeviceChoice m_choice;
     QList<Modem> m_modems;
+    bool m_isDetectionOn = false;
 };
 
 } // namespace Dashboard

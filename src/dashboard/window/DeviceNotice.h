@@ -12,8 +12,7 @@ class DeviceWatcher;
 class PinDialog;
 
 /**
- * Shows the problem of the device and the action that the user can take. Opens the PIN dialog for a
- * locked SIM.
+ * Shows the problem of the device, with a button for the action that the user can take.
  */
 class DeviceNotice : public NoticeBar
 {
@@ -27,9 +26,17 @@ public slots:
     void update();
     void askForPin();
 
+private slots:
+    void endForeignSession();
+
 private:
+    void showButton(QPushButton *button, bool isShown, const char *textKey);
+
     const DeviceWatcher *const m_device;
     QPushButton *m_pinButton;
+    QPushButton *m_enableButton;
+    QPushButton *m_lookButton;
+    QPushButton *m_endButton;
     QPointer<PinDialog> m_pinDialog;
 };
 

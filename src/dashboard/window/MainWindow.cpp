@@ -4,13 +4,16 @@
 #include <QCloseEvent>
 #include <QDesktopWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 #include "base/DashboardText.h"
+#include "CommandNotice.h"
 #include "CommonUtils.h"
 #include "device/DashboardSettings.h"
 #include "DeviceHeader.h"
@@ -29,6 +32,7 @@
 #include "PageArea.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
+#include "plugin/ProfileBackup.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 #include "TerminalText.h"
@@ -40,8 +44,15 @@ namespace Dashboard
 namespace
 {
 
-const QSize FIRST_SIZE(900, 700); // in pixels
-const int LONGEST_DELAY = 5000;   // ms; the maximum delay before a frame is opened
+const QSize FIRST_SIZE(900, 740); // pixels
+const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
+const char SWITCHED_ON[] = "1";
+const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
+
+QDateTime ownCodesTime()
+{
+    return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
+}
 
 /// Returns true if a window of this PAID_TYPE ends an open session on the device when it appears.
 bool endsSession(int paidType)
@@ -57,10 +68,11 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
       m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
       m_deviceMenu(new DeviceMenu(this)), m_header(new DeviceHeader(this)),
       m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
+      m_demonstration(new NoticeBar("Dashboard_Demonstration", this)),
       m_problems(new NoticeBar("Dashboard_Problems", this)),
       m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
       m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
-      m_source(new QLabel(this))
+      m_commandNotice(new CommandNotice(&m_device, this)), m_source(new QLabel(this))
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
@@ -88,6 +100,29 @@ void MainWindow::followSim()
     connect(&m_sim, SIGNAL(windowsOffered(int)), this, SLOT(offerWindows(int)));
     connect(&m_sim, SIGNAL(paidTypeChanged()), this, SLOT(showPaidType()));
     connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
+    connect(&m_sim, &SimFollower::commandEnded, m_commandNotice, &CommandNotice::look);
+    m_isDetectionOn =
+        (m_settings && m_settings->detectsPaidType()) || qgetenv(DETECT_PAID_TYPE) == SWITCHED_ON;
+    m_deviceMenu->setDetection(m_isDetectionOn);
+    m_sim.setDetectionRule([this] { return mayDetectPaidType(); });
+    connect(m_deviceMenu, &DeviceMenu::detectionToggled, this, &MainWindow::rememberDetection);
+}
+
+/// Returns true if the prepaid/postpaid query may be sent. A modem sends only a code of the SIM's
+/// operator, because the same code may buy something in another network.
+bool MainWindow::mayDetectPaidType() const
+{
+    if (m_device.status().isSimulated)
+        return true;
+    return m_isDetectionOn && m_operatorCodes.areOfOperator() && !m_isRestartDue;
+}
+
+void MainWindow::rememberDetection(bool isOn)
+{
+    m_isDetectionOn = isOn;
+    if (m_settings)
+        m_settings->setDetectsPaidType(isOn);
+    m_sim.ask();
 }
 
 void MainWindow::followNetworkTexts()
@@ -105,6 +140,7 @@ void MainWindow::followOperator()
     connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
     connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
     connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
+    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(showFirstOwnCodes()));
 }
 
 /// Queues the restart, because the plug-in may still be handling the event that caused it.
@@ -120,6 +156,16 @@ void MainWindow::beginAnewIfDue()
 {
     if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
         restartPlugin();
+}
+
+/// Restarts the plug-in if the user has saved codes in the editor. The plug-in itself creates no
+/// preset buttons later if there were none at first.
+void MainWindow::showFirstOwnCodes()
+{
+    const bool isWithoutPresets =
+        m_operatorCodes.areAbsent() && !GeneralWindow(page()).hasPresets();
+    if (isWithoutPresets && ownCodesTime() != m_ownCodesTime)
+        beginAnew();
 }
 
 void MainWindow::makeMenus()
@@ -138,6 +184,11 @@ void MainWindow::makeCentre()
 {
     QWidget *centre = new QWidget(this);
     QVBoxLayout *column = new QVBoxLayout(centre);
+    m_demonstration->setCompact();
+    m_demonstration->setAutoFillBackground(true);
+    m_demonstration->setBackgroundRole(QPalette::ToolTipBase);
+    m_demonstration->setForegroundRole(QPalette::ToolTipText);
+    column->addWidget(m_demonstration);
     column->addWidget(m_header);
     column->addWidget(m_problems);
     column->addWidget(m_deviceNotice);
@@ -145,6 +196,7 @@ void MainWindow::makeCentre()
     column->addWidget(m_buttons);
     column->addWidget(m_textPanel);
     column->addWidget(m_page, 1);
+    column->addWidget(m_commandNotice);
     setCentralWidget(centre);
     m_buttons->setEnabled(false); // disabled until the plug-in is loaded
     connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
@@ -180,7 +232,9 @@ PluginFailure MainWindow::restartPlugin()
 
 PluginFailure MainWindow::startWith(const PluginFailure &failure)
 {
+    m_ownCodesTime = ownCodesTime();
     m_buttons->setEnabled(m_plugin->isUsable());
+    m_commandNotice->forget();
     if (m_plugin->isUsable())
         m_sim.start();
     else
@@ -190,6 +244,8 @@ PluginFailure MainWindow::startWith(const PluginFailure &failure)
 
 void MainWindow::offerWindows(int windows)
 {
+    if (m_operatorCodes.areAbsent())
+        windows &= SIM_WINDOW_GENERAL; // the configuration has no services
     const int changed = m_windows ^ windows;
     m_windows = windows;
     m_awaitedFrame = PAID_TYPE_NONE;
@@ -206,10 +262,22 @@ void MainWindow::showPage(bool shown)
     else
         m_page->hidePage();
     m_buttons->setPageShown(shown);
+    const GeneralWindow general(page());
     // The host must handle the close button of an embedded window, because the plug-in does not
     // handle it.
-    if (QPushButton *close = GeneralWindow(page()).closeButton())
+    if (QPushButton *close = general.closeButton())
         connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
+    followCommands(general);
+}
+
+/// Follows the transcript, because a command that is rejected at once does not disable the entry
+/// field.
+void MainWindow::followCommands(const GeneralWindow &general)
+{
+    general.hideUnusedPresets();
+    if (QTextEdit *history = general.history())
+        connect(history, &QTextEdit::textChanged, m_commandNotice, &CommandNotice::look,
+                Qt::UniqueConnection);
 }
 
 void MainWindow::hidePage()
@@ -255,10 +323,12 @@ void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedA
 
 void MainWindow::openFrameNow(int paidType)
 {
-    if (paidType == PAID_TYPE_GENERAL)
-        m_plugin->plugin()->DoModal();
-    else
+    if (paidType != PAID_TYPE_GENERAL) {
         m_plugin->ussd()->DoPrePostPaidModal(static_cast<PAID_TYPE>(paidType));
+        return;
+    }
+    m_plugin->plugin()->DoModal();
+    followCommands(GeneralWindow::framed());
 }
 
 void MainWindow::setLanguage(const QString &code)
@@ -276,11 +346,11 @@ void MainWindow::setLanguage(const QString &code)
 
 void MainWindow::retranslate()
 {
-    setWindowTitle(dashboardText("APP_TITLE"));
     m_fileMenu->setTitle(dashboardText("MENU_FILE"));
     m_quit->setText(dashboardText("ACTION_QUIT"));
     m_languageMenu->retranslate();
     m_textPanel->retranslate();
+    m_commandNotice->update();
     m_operatorNotice->retranslate();
     m_buttons->retranslate();
     if (m_plugin->isUsable() && !m_windows)
@@ -297,6 +367,9 @@ void MainWindow::showPaidType()
 
 void MainWindow::showDevice()
 {
+    const bool isDemonstration = m_device.status().isSimulated;
+    setWindowTitle(dashboardText(isDemonstration ? "APP_TITLE_DEMONSTRATION" : "APP_TITLE"));
+    m_demonstration->setText(isDemonstration ? dashboardText("DEMONSTRATION_NOTE") : QString());
     m_deviceMenu->offer(m_deviceMenu->choice(), m_device.modems());
     m_deviceNotice->update();
     m_header->showStatus(m_device.status());
@@ -325,6 +398,7 @@ bool MainWindow::useDevice(const DeviceChoice &choice)
 void MainWindow::setDevice(const DeviceChoice &choice)
 {
     m_deviceMenu->offer(choice, m_device.modems());
+    m_commandNotice->forget();
     m_device.refresh();
 }
 
@@ -358,6 +432,12 @@ void MainWindow::openScenario()
                                                       HostCore::InstallPaths::scenarios(), filter);
     if (!file.isEmpty())
         chooseDevice(DeviceChoice::simulated(file).word());
+}
+
+void MainWindow::quit()
+{
+    close();
+    QCoreApplication::quit();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

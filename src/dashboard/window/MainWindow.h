@@ -17,11 +17,13 @@ class QMenu;
 namespace Dashboard
 {
 
+class CommandNotice;
 class DashboardSettings;
 class DeviceHeader;
 class DeviceNotice;
 class LanguageMenu;
 class DeviceMenu;
+class GeneralWindow;
 class NetworkTextPanel;
 class NoticeBar;
 class OperatorNotice;
@@ -67,6 +69,8 @@ public slots:
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
     void showPage(bool shown);
+    /// Closes the window, even if a frame or a message box is open, and ends the program.
+    void quit();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
     /// opening the frame would cancel the prepaid/postpaid query.
     void openFrame(int paidType);
@@ -88,12 +92,16 @@ private slots:
     void openAwaitedFrame();
     void beginAnew();
     void beginAnewIfDue();
+    void rememberDetection(bool isOn);
+    void showFirstOwnCodes();
     void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private:
     bool useDevice(const DeviceChoice &choice);
     void followNetworkTexts();
     void followOperator();
+    void followCommands(const GeneralWindow &general);
+    bool mayDetectPaidType() const;
     void followSim();
     void makeMenus();
     void makeCentre();
@@ -108,8 +116,10 @@ private:
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
-    bool m_isRestartDue = false; // true if the plug-in's folder has changed since it was read
-    int m_windows = 0;           // the windows on offer, a combination of SimWindow flags
+    bool m_isDetectionOn = false; // the user or the integrator allows the prepaid/postpaid query
+    bool m_isRestartDue = false;  // the plug-in's folder has changed since it was read
+    QDateTime m_ownCodesTime;     // of the file with the user's codes that the plug-in has read
+    int m_windows = 0;            // the windows on offer, a set of SimWindow
     int m_awaitedFrame;
     QTimer m_frameDelay;
     QMenu *m_fileMenu;
@@ -119,10 +129,12 @@ private:
     DeviceHeader *m_header;
     DeviceNotice *m_deviceNotice;
     NetworkTextPanel *m_textPanel;
+    NoticeBar *m_demonstration;
     NoticeBar *m_problems;
     OperatorNotice *m_operatorNotice;
     WindowButtons *m_buttons;
     PageArea *m_page;
+    CommandNotice *m_commandNotice;
     QLabel *m_source;
 };
 

@@ -7,6 +7,13 @@
 namespace Dashboard
 {
 
+namespace
+{
+
+const QMargins COMPACT_MARGINS(10, 2, 10, 2); // pixels
+
+} // namespace
+
 NoticeBar::NoticeBar(const char *objectName, QWidget *parent)
     : QFrame(parent), m_label(new QLabel(this)), m_row(new QHBoxLayout(this))
 {
@@ -28,6 +35,11 @@ void NoticeBar::setText(const QString &text)
 QString NoticeBar::text() const
 {
     return m_label->text();
+}
+
+void NoticeBar::setCompact()
+{
+    m_row->setContentsMargins(COMPACT_MARGINS);
 }
 
 QPushButton *NoticeBar::addButton(const char *objectName)

@@ -24,6 +24,8 @@ public:
     /// Shows the text as plain text. An empty string hides the line.
     void setText(const QString &text);
     QString text() const;
+    /// Makes the line as low as its content allows.
+    void setCompact();
     /// Adds a button after the text. The bar owns the button, which is hidden until setButtonText()
     /// sets its text.
     QPushButton *addButton(const char *objectName);

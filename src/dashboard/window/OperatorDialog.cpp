@@ -21,9 +21,10 @@ const int LIST_HEIGHT = 180; // in pixels; a longer list can be scrolled
 } // namespace
 
 OperatorDialog::OperatorDialog(const QString &network, const QList<Provider> &candidates,
-                               const QString &current, QWidget *parent)
-    : QDialog(parent), m_network(network), m_candidates(candidates), m_question(new QLabel(this)),
-      m_list(new QListWidget(this)), m_ok(new QPushButton(this)), m_cancel(new QPushButton(this))
+                               const QString &current, const char *noneKey, QWidget *parent)
+    : QDialog(parent), m_network(network), m_candidates(candidates), m_noneKey(noneKey),
+      m_question(new QLabel(this)), m_list(new QListWidget(this)), m_ok(new QPushButton(this)),
+      m_cancel(new QPushButton(this))
 {
     setObjectName(QLatin1String("Dashboard_OperatorDialog"));
     setWindowFlags(windowFlags() & ~Qt::WindowFlags(Qt::WindowContextHelpButtonHint));
@@ -97,7 +98,7 @@ void OperatorDialog::retranslate()
     setWindowTitle(dashboardText("CODES_CAPTION"));
     m_question->setText(dashboardText("CODES_QUESTION").arg(m_network));
     m_list->setAccessibleName(dashboardText("CODES_CAPTION"));
-    m_list->item(m_candidates.size())->setText(dashboardText("CODES_SHIPPED"));
+    m_list->item(m_candidates.size())->setText(dashboardText(m_noneKey));
     m_ok->setText(dashboardText("CODES_OK"));
     m_cancel->setText(dashboardText("CODES_CANCEL"));
 }

@@ -13,19 +13,18 @@ namespace Dashboard
 {
 
 /**
- * Lets the user choose the codes of one of several operators, or the codes that are installed with
- * the program.
+ * Lets the user choose the codes of one of several operators, or of none of them.
  */
 class OperatorDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `current` is the name of the operator whose codes are in use, or an empty string.
+    /// `current` is the name of the operator whose codes are in use, or empty. `noneKey` is the
+    /// text key of the last row, which stands for no operator.
     OperatorDialog(const QString &network, const QList<Provisioning::Provider> &candidates,
-                   const QString &current, QWidget *parent);
+                   const QString &current, const char *noneKey, QWidget *parent);
 
-    /// Returns true if the user chose an operator, and false for the codes installed with the
-    /// program.
+    /// Returns true if the user chose an operator, false for the last row.
     bool choosesOperator() const;
     /// Returns the chosen operator.
     Provisioning::Provider provider() const;
@@ -45,8 +44,9 @@ private:
 
     const QString m_network;
     const QList<Provisioning::Provider> m_candidates;
+    const char *const m_noneKey;
     QLabel *m_question;
-    QListWidget *m_list; // the candidates, followed by the installed codes
+    QListWidget *m_list; // the candidates, followed by the row for no operator
     QPushButton *m_ok;
     QPushButton *m_cancel;
 };

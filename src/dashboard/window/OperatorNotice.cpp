@@ -34,6 +34,8 @@ void OperatorNotice::propose()
         setState(OneProposed, m_proposed.name());
     } else if (choice.state == ProviderChoice::Ambiguous) {
         setState(SeveralProposed);
+    } else if (m_codes->areAbsent() && m_codes->hasDatabase()) {
+        setState(Unknown);
     }
 }
 
@@ -52,9 +54,13 @@ QString OperatorNotice::stateText() const
         return dashboardText("CODES_PROPOSE_ONE").arg(m_subject);
     case SeveralProposed:
         return dashboardText("CODES_PROPOSE_SEVERAL");
+    case Unknown:
+        return dashboardText("CODES_PROPOSE_NONE");
     case Done:
-        return m_subject.isEmpty() ? dashboardText("CODES_SHIPPED_IN_USE")
-                                   : dashboardText("CODES_IN_USE").arg(m_subject);
+        if (m_subject.isEmpty())
+            return dashboardText(m_codes->areSample() ? "CODES_SHIPPED_IN_USE"
+                                                      : "CODES_NONE_IN_USE");
+        return dashboardText("CODES_IN_USE").arg(m_subject);
     case Failed:
         return dashboardText("CODES_FAILED").arg(m_subject, m_problem);
     case Nothing:
@@ -63,9 +69,14 @@ QString OperatorNotice::stateText() const
     return QString();
 }
 
+bool OperatorNotice::isProposal() const
+{
+    return m_state == OneProposed || m_state == SeveralProposed || m_state == Unknown;
+}
+
 void OperatorNotice::retranslate()
 {
-    const bool proposes = m_state == OneProposed || m_state == SeveralProposed;
+    const bool proposes = isProposal();
     const char *take = m_state == OneProposed ? "CODES_TAKE" : "CODES_CHOOSE";
     setButtonText(m_takeButton, proposes ? dashboardText(take) : QString());
     setButtonText(m_declineButton, dashboardText(proposes ? "CODES_NOT_NOW" : "CODES_CLOSE"));
@@ -84,7 +95,7 @@ void OperatorNotice::onTake()
 
 void OperatorNotice::onNo()
 {
-    if (m_state == OneProposed || m_state == SeveralProposed)
+    if (isProposal())
         m_codes->decline();
     setState(Nothing);
 }
@@ -99,8 +110,9 @@ void OperatorNotice::choose()
         return say("CODES_NO_LIST");
     if (m_dialog)
         return m_dialog->raise();
-    m_dialog = new OperatorDialog(m_codes->network(), m_codes->candidates(),
-                                  m_codes->operatorInUse(), window());
+    m_dialog =
+        new OperatorDialog(m_codes->network(), m_codes->candidates(), m_codes->operatorInUse(),
+                           m_codes->isSimulated() ? "CODES_SHIPPED" : "CODES_NONE", window());
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_dialog, SIGNAL(accepted()), this, SLOT(onChosen()));
     m_dialog->show();

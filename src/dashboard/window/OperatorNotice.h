@@ -13,8 +13,9 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Suggests an operator's codes once for each home network of a SIM, and lets the user choose if
- * several operators are possible. The user can change the decision later with choose().
+ * Proposes an operator's codes, once for each home network of a SIM. The user can choose an
+ * operator if several are possible or none is known, and can change the decision later with
+ * choose().
  */
 class OperatorNotice : public NoticeBar
 {
@@ -38,10 +39,11 @@ private slots:
     void useChosen();
 
 private:
-    enum State { Nothing, OneProposed, SeveralProposed, Done, Failed };
+    enum State { Nothing, OneProposed, SeveralProposed, Unknown, Done, Failed };
 
     void setState(State state, const QString &subject = QString(),
                   const QString &problem = QString());
+    bool isProposal() const;
     QString stateText() const;
     void take(const Provisioning::Provider &provider);
     bool mayBeSetAside(const QStringList &files, const QString &operatorName);

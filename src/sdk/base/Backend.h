@@ -15,14 +15,8 @@ using RequestToken = std::uint64_t;
 
 enum class RequestKind { NewSession, Answer };
 
-/// The values of <m> in +CUSD (3GPP TS 27.007, 7.15).
-enum UssdType {
-    UssdFinal = 0,
-    UssdWaitsForAnswer = 1,
-    UssdEndedByNetwork = 2,
-    UssdNotSupported = 4,
-    UssdNetworkTimeout = 5
-};
+/// The types of a reply with a text: the values of <m> in +CUSD (3GPP TS 27.007, 7.15).
+enum UssdType { UssdFinal = 0, UssdWaitsForAnswer = 1 };
 
 /// The values that TKSV_USSDSrv_Request stores in `*status`.
 enum RequestStatus {
@@ -32,14 +26,31 @@ enum RequestStatus {
     RequestDeviceTimeout = TKSV_STATUS_DEVICE_TIMEOUT
 };
 
-/**
- * A USSD message from the network. If the network rejected the request, the text is empty and the
- * type is not UssdFinal.
- */
-struct UssdReply {
-    int type = UssdFinal;
-    std::string text; // UTF-8
+/** The result of Backend::request(). */
+struct RequestResult {
+    int status = RequestAccepted;             // a RequestStatus
+    TKSV_Failure refusal = TKSV_FAILURE_NONE; // the reason why the request is not accepted
 };
+
+/** The reason why a request has no reply, see TKSV_FailureInfo. */
+struct Failure {
+    TKSV_Failure reason = TKSV_FAILURE_NONE;
+    bool wasNotSent = false;
+    std::string text = {}; // UTF-8
+};
+
+/** A reply to a request, or a text that the network sent of its own accord. */
+struct UssdReply {
+    int type = UssdFinal; // a UssdType; the reason if the request failed
+    std::string text;     // UTF-8; empty if the request failed
+    Failure failure = {}; // the reason is TKSV_FAILURE_NONE unless the request failed
+};
+
+/// Returns the empty reply of a request that failed.
+inline UssdReply failedReply(const Failure &failure)
+{
+    return UssdReply{failure.reason, std::string(), failure};
+}
 
 /**
  * A short message in UTF-16. The strings are returned to the client exactly as the client passed
@@ -71,6 +82,9 @@ struct DeviceInfo {
     std::string simOperatorName;
     std::string equipmentId;
     std::string source;
+    bool isLooking = false;
+    bool hasForeignSession = false;
+    bool waitsForTurn = false;
 };
 
 inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
@@ -78,7 +92,7 @@ inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
     const auto fields = [](const DeviceInfo &i) {
         return std::tie(i.backend, i.state, i.problem, i.signalPercent, i.canSendSms, i.pinRetries,
                         i.operatorName, i.imsi, i.simOperatorCode, i.simOperatorName, i.equipmentId,
-                        i.source);
+                        i.source, i.isLooking, i.hasForeignSession, i.waitsForTurn);
     };
     return fields(a) == fields(b);
 }
@@ -124,11 +138,15 @@ public:
     /// and requests are rejected with RequestNoDevice.
     virtual void stop() = 0;
 
-    /// Sends the string to the network and replaces the request in flight. A new session ends the
-    /// open session. Returns a RequestStatus. A request that is not accepted has no effect.
-    virtual int request(RequestToken token, RequestKind kind, const std::string &text) = 0;
+    /// Sends the text to the network and replaces the request in flight. A new session ends the
+    /// open session. A request that is not accepted changes nothing.
+    virtual RequestResult request(RequestToken token, RequestKind kind,
+                                  const std::string &text) = 0;
     /// Ends the session and the request in flight.
     virtual void endSession() = 0;
+    /// Ends the session that another program opened. Returns false if there is none; otherwise
+    /// infoChanged() reports the outcome.
+    virtual bool endForeignSession() = 0;
 
     /// Returns false if no message can be sent at this time. Otherwise, smsFinished() reports the
     /// outcome.
@@ -136,8 +154,14 @@ public:
     /// Returns false if the SIM does not wait for a PIN. Otherwise, infoChanged() reports the
     /// outcome.
     virtual bool sendPin(const std::string &pin) = 0;
+    /// Enables the device. Returns false if it is not disabled; otherwise infoChanged() reports the
+    /// outcome.
+    virtual bool enable() = 0;
     virtual DeviceInfo info() const = 0;
 };
+
+/// Returns the reason why a device in this state sends no commands.
+TKSV_Failure refusalOf(TKSV_DeviceState state);
 
 } // namespace Tksv
 

@@ -1,6 +1,7 @@
 #include "MainLoopThread.h"
 
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -127,6 +128,15 @@ void MainLoopThread::run(const Task &task)
         done.open();
     });
     done.wait();
+}
+
+void MainLoopThread::runUntil(const std::function<bool()> &condition,
+                              std::chrono::milliseconds limit)
+{
+    const auto isOver = std::make_shared<bool>(false);
+    after(limit, [isOver] { *isOver = true; });
+    while (!condition() && !*isOver)
+        g_main_context_iteration(m_context, TRUE);
 }
 
 void MainLoopThread::stop(const Task &last)

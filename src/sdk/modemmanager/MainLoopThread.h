@@ -40,6 +40,9 @@ public:
     void run(const Task &task);
     /// Runs the task after the delay. May only be called from the thread itself.
     void after(std::chrono::milliseconds delay, Task task);
+    /// Runs other tasks and handles events until the condition is true, at most for the time limit.
+    /// May only be called on the thread itself.
+    void runUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit);
     bool isCurrent() const { return m_thread.isCurrent(); }
 
     /// Runs `last` as the thread's last task and waits until the thread has ended.

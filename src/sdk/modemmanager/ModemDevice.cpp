@@ -11,15 +11,6 @@ namespace Tksv
 namespace
 {
 
-TKSV_DeviceState stateOf(MMModemState state)
-{
-    if (state == MM_MODEM_STATE_LOCKED)
-        return TKSV_DEVICE_SIM_LOCKED;
-    if (state >= MM_MODEM_STATE_REGISTERED)
-        return TKSV_DEVICE_REGISTERED;
-    return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
-}
-
 /// Returns the number of remaining PIN attempts, or -1 if it is unknown.
 int pinRetriesOf(MMModem *modem)
 {
@@ -47,22 +38,36 @@ int signalOf(MMModem *modem)
 
 ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener)
     : m_listener(std::move(listener)), m_object(std::move(object)),
-      m_ussd(std::make_shared<UssdChannel>(
-          thread, UssdChannel::Listener{[this](RequestToken token, const UssdReply &reply) {
-                                            if (reply.type <= UssdWaitsForAnswer)
-                                                clearNotPermitted();
-                                            m_listener.replied(token, reply);
-                                        },
-                                        m_listener.textReceived,
-                                        [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }})),
-      m_sms(std::make_shared<SmsSender>(
-          SmsSender::Listener{[this](const SmsMessage &message, int result) {
-                                  if (result == SMS_SENT)
-                                      clearNotPermitted();
-                                  m_listener.smsFinished(message, result);
-                              },
-                              [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); }}))
+      m_ussd(std::make_shared<UssdChannel>(thread, equipmentIdOf(m_object.get()), ussdListener())),
+      m_sms(std::make_shared<SmsSender>(smsListener()))
 {
+}
+
+UssdChannel::Listener ModemDevice::ussdListener()
+{
+    UssdChannel::Listener listener;
+    listener.replied = [this](RequestToken token, const UssdReply &reply) {
+        if (reply.failure.reason == TKSV_FAILURE_NONE)
+            clearNotPermitted();
+        m_listener.replied(token, reply);
+    };
+    listener.textReceived = m_listener.textReceived;
+    listener.notPermitted = [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); };
+    listener.changed = [this] { m_listener.changed(); };
+    listener.isOnlyOn4G = [this] { return isOnlyOn4G(); };
+    return listener;
+}
+
+SmsSender::Listener ModemDevice::smsListener()
+{
+    SmsSender::Listener listener;
+    listener.finished = [this](const SmsMessage &message, int result) {
+        if (result == SMS_SENT)
+            clearNotPermitted();
+        m_listener.smsFinished(message, result);
+    };
+    listener.notPermitted = [this] { setProblem(TKSV_PROBLEM_NOT_PERMITTED); };
+    return listener;
 }
 
 /// Returns the interface, or null if the modem does not have it at this time.
@@ -91,25 +96,26 @@ void ModemDevice::modemChanged()
     if (!m_modem)
         return;
     const MMModemState now = mm_modem_get_state(m_modem.get());
-    if (now == MM_MODEM_STATE_DISABLED)
+    if (now > MM_MODEM_STATE_DISABLED || now == MM_MODEM_STATE_FAILED)
+        m_enableWanted = false;
+    if (now == MM_MODEM_STATE_DISABLED && std::exchange(m_enableWanted, false))
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
         m_problem = TKSV_PROBLEM_NONE; // the modem has left the state that caused the problem
     fetchSim();
     m_listener.changed();
+    if (now == MM_MODEM_STATE_DISABLED)
+        m_ussd->abandonCall(); // its request has failed in changed()
 }
 
-/// Enables the modem. This is done only once, because a user who disables the modem later does so
-/// on purpose.
 void ModemDevice::enable()
 {
-    if (std::exchange(m_enableTried, true))
-        return;
+    setProblem(TKSV_PROBLEM_NONE); // cleared, so that a second failure is a change again
     const auto done = [this](GObject *modem, GAsyncResult *result) {
         ErrorSlot error;
         mm_modem_enable_finish(MM_MODEM(modem), result, error.slot());
-        if (error && isNotPermitted(*error.get()))
-            setProblem(TKSV_PROBLEM_NOT_PERMITTED);
+        if (error)
+            setProblem(problemOfEnableError(*error.get()));
     };
     mm_modem_enable(m_modem.get(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
@@ -154,15 +160,17 @@ void ModemDevice::sendPin(const std::string &pin)
     const auto done = [this](GObject *sim, GAsyncResult *result) {
         ErrorSlot error;
         mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
+        m_enableWanted = !error; // the user wants to use the modem
         setProblem(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
+        modemChanged();
     };
     mm_sim_send_pin(m_sim.get(), pin.c_str(), nullptr, runAsyncDone,
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-void ModemDevice::failPending()
+void ModemDevice::failPending(TKSV_Failure reason)
 {
-    m_ussd->failPending();
+    m_ussd->failPending(reason);
     m_sms->failPending();
 }
 
@@ -195,6 +203,8 @@ DeviceInfo ModemDevice::info() const
         info.signalPercent = signalOf(m_modem.get());
     if (info.state == TKSV_DEVICE_REGISTERED && m_3gpp)
         info.operatorName = textOf(mm_modem_3gpp_get_operator_name(m_3gpp.get()));
+    info.hasForeignSession = m_ussd->hasForeignSession();
+    info.waitsForTurn = m_ussd->waitsForTurn();
     info.canSendSms = info.state == TKSV_DEVICE_REGISTERED && m_sms->isUsable();
     if (m_sim) {
         info.imsi = textOf(mm_sim_get_imsi(m_sim.get()));
@@ -204,6 +214,15 @@ DeviceInfo ModemDevice::info() const
     return info;
 }
 
+/// Returns true if the modem uses 4G or 5G, and neither 2G nor 3G.
+bool ModemDevice::isOnlyOn4G() const
+{
+    const guint newer = MM_MODEM_ACCESS_TECHNOLOGY_LTE | MM_MODEM_ACCESS_TECHNOLOGY_LTE_CAT_M |
+                        MM_MODEM_ACCESS_TECHNOLOGY_LTE_NB_IOT | MM_MODEM_ACCESS_TECHNOLOGY_5GNR;
+    const guint inUse = m_modem ? guint(mm_modem_get_access_technologies(m_modem.get())) : 0;
+    return inUse != 0 && (inUse & ~newer) == 0;
+}
+
 bool ModemDevice::isLocked() const
 {
     return m_modem && mm_modem_get_state(m_modem.get()) == MM_MODEM_STATE_LOCKED;
@@ -211,13 +230,7 @@ bool ModemDevice::isLocked() const
 
 TKSV_DeviceState ModemDevice::state() const
 {
-    if (!m_modem)
-        return TKSV_DEVICE_ABSENT;
-    const MMModemState state = mm_modem_get_state(m_modem.get());
-    if (state == MM_MODEM_STATE_FAILED &&
-        mm_modem_get_state_failed_reason(m_modem.get()) == MM_MODEM_STATE_FAILED_REASON_SIM_MISSING)
-        return TKSV_DEVICE_SIM_MISSING;
-    return stateOf(state);
+    return m_modem ? stateOf(m_modem.get()) : TKSV_DEVICE_ABSENT;
 }
 
 TKSV_DeviceProblem ModemDevice::problem() const
@@ -230,7 +243,15 @@ TKSV_DeviceProblem ModemDevice::problem() const
         return TKSV_PROBLEM_MODEM_FAILED;
     if (now == TKSV_DEVICE_REGISTERED && !m_ussd->isUsable())
         return TKSV_PROBLEM_NO_USSD;
+    if (now == TKSV_DEVICE_SEARCHING && m_problem == TKSV_PROBLEM_NONE && isRegistrationDenied())
+        return TKSV_PROBLEM_REGISTRATION_DENIED;
     return m_problem;
+}
+
+bool ModemDevice::isRegistrationDenied() const
+{
+    return m_3gpp && mm_modem_3gpp_get_registration_state(m_3gpp.get()) ==
+                         MM_MODEM_3GPP_REGISTRATION_STATE_DENIED;
 }
 
 } // namespace Tksv

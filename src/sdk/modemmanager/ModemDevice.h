@@ -17,8 +17,8 @@ namespace Tksv
 {
 
 /**
- * The current modem. The object enables the modem once and tracks its properties. All functions
- * must be called from the thread of the main loop.
+ * The modem in use, whose properties the object follows. The modem is enabled only on request, or
+ * after the PIN has unlocked its SIM. All functions must be called on the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
@@ -42,14 +42,16 @@ public:
     SmsSender &sms() { return *m_sms; }
     /// Sends the PIN immediately, or as soon as the SIM has been fetched.
     void sendPin(const std::string &pin);
-    /// Reports the request in flight and all messages that are being sent as failed.
-    void failPending();
+    /// Enables the modem.
+    void enable();
+    /// Reports the request in flight and the messages that are being sent as failed. `reason` is
+    /// that of the request.
+    void failPending(TKSV_Failure reason);
 
 private:
     template <typename T>
     T *peek(const char *name, T *(*peekInterface)(MMObject *)) const;
     void modemChanged();
-    void enable();
     void fetchSim();
     void sendPendingPin();
     void setProblem(TKSV_DeviceProblem problem);
@@ -57,6 +59,10 @@ private:
     TKSV_DeviceState state() const;
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
+    bool isRegistrationDenied() const;
+    bool isOnlyOn4G() const;
+    UssdChannel::Listener ussdListener();
+    SmsSender::Listener smsListener();
 
     const Listener m_listener;
     const GObjectPtr<MMObject> m_object;
@@ -69,7 +75,7 @@ private:
     std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
-    bool m_enableTried = false;
+    bool m_enableWanted = false; // as soon as the modem with the unlocked SIM can be enabled
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or higher
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the most recent call
 };

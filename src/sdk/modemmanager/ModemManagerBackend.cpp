@@ -11,14 +11,30 @@ namespace Tksv
 namespace
 {
 
+/// The time that the end of a program or the switch to another device waits for the end of the
+/// session.
+const std::chrono::milliseconds END_LIMIT(300);
+
 bool canEndAtCommand(unsigned char unit)
 {
     return unit < 0x20 || unit == 0x7f || unit == '"';
 }
 
+/// Returns the reason why the device sends no commands, or TKSV_FAILURE_NONE if it sends them.
+TKSV_Failure refusalOf(const DeviceInfo &info)
+{
+    return info.problem == TKSV_PROBLEM_NO_USSD ? TKSV_FAILURE_NOT_SUPPORTED
+                                                : Tksv::refusalOf(info.state);
+}
+
 bool takesCommands(const DeviceInfo &info)
 {
-    return info.state == TKSV_DEVICE_REGISTERED && info.problem != TKSV_PROBLEM_NO_USSD;
+    return refusalOf(info) == TKSV_FAILURE_NONE;
+}
+
+UssdReply refusedReply(TKSV_Failure reason)
+{
+    return failedReply(Failure{reason, true});
 }
 
 } // namespace
@@ -32,6 +48,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     : m_watch(watch), m_equipmentId(std::move(equipmentId))
 {
     m_info.backend = TKSV_BACKEND_MODEMMANAGER;
+    m_info.isLooking = true; // until the first call of publish()
 }
 
 /* ---- functions for any thread ------------------------------------------------------------ */
@@ -52,34 +69,50 @@ void ModemManagerBackend::stop()
             return;
     }
     m_watch.thread().run([this] {
+        m_waiting.reset();
         if (m_device) {
             m_device->ussd().endSession();
             m_device->sms().failPending();
         }
         m_observer = nullptr;
+        if (m_device)
+            m_watch.thread().runUntil([this] { return m_device->ussd().isSettled(); }, END_LIMIT);
         m_device.reset();
     });
 }
 
-int ModemManagerBackend::request(RequestToken token, RequestKind kind, const std::string &text)
+RequestResult ModemManagerBackend::request(RequestToken token, RequestKind kind,
+                                           const std::string &text)
 {
     if (!isSafeForModem(text))
-        return RequestMalformed;
+        return {RequestMalformed, TKSV_FAILURE_NOT_ENCODABLE};
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stopped || (m_isInfoKnown && !takesCommands(m_info)))
-        return RequestNoDevice;
-    post([this, token, kind, text, lostModemCount = m_lostModemCount] {
-        if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
-            return m_device->ussd().request(token, kind, text);
-        if (m_observer) // null if the modem was lost in the meantime or has never existed
-            m_observer->ussdReply(token, UssdReply{UssdEndedByNetwork, std::string()});
+    if (m_stopped)
+        return {RequestNoDevice, TKSV_FAILURE_NO_DEVICE};
+    if (m_isInfoKnown && !m_info.isLooking && !takesCommands(m_info))
+        return {RequestNoDevice, refusalOf(m_info)};
+    post([this, request = Request{token, kind, text}, lostModemCount = m_lostModemCount] {
+        perform(request, lostModemCount);
     });
-    return RequestAccepted;
+    return {};
+}
+
+bool ModemManagerBackend::endForeignSession()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || !m_info.hasForeignSession)
+        return false;
+    post([this, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
+            m_device->ussd().endForeignSession();
+    });
+    return true;
 }
 
 void ModemManagerBackend::endSession()
 {
     post([this] {
+        m_waiting.reset();
         if (m_device)
             m_device->ussd().endSession();
     });
@@ -113,6 +146,18 @@ bool ModemManagerBackend::sendPin(const std::string &pin)
     return true;
 }
 
+bool ModemManagerBackend::enable()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_info.state != TKSV_DEVICE_DISABLED)
+        return false;
+    post([this, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
+            m_device->enable();
+    });
+    return true;
+}
+
 DeviceInfo ModemManagerBackend::info() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -126,24 +171,61 @@ void ModemManagerBackend::post(std::function<void()> task)
 
 /* ---- functions for the watch's thread ---------------------------------------------------- */
 
-/// Handles a change to the watch's modem list. The current modem remains in use until it is lost,
-/// even if the backend may use any modem.
+/// Sends the request, or keeps it until ModemManager has reported its modems. The request fails if
+/// its modem was lost in the meantime or was never there.
+void ModemManagerBackend::perform(const Request &request, unsigned lostModemCount)
+{
+    m_waiting.reset();
+    if (!m_device && m_watch.state() == ServiceState::Looking)
+        m_waiting = request;
+    else if (m_device && lostModemCount == m_lostModemCount && takesCommands(m_info))
+        m_device->ussd().request(request.token, request.kind, request.text);
+    else if (m_observer)
+        m_observer->ussdReply(
+            request.token,
+            refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
+}
+
+/// Follows the modems of the watch. If any modem may be used, a modem stays in use from its first
+/// registration until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
         return;
-    GObjectPtr<MMObject> wanted = m_watch.findAt(m_device ? m_device->path() : std::string());
-    if (m_device && !wanted)
+    if (m_device && !m_watch.findAt(m_device->path()))
         loseModem();
-    if (!m_device && (wanted = m_watch.find(m_equipmentId)))
+    if (m_device && prefersAnotherModem())
+        leaveModem();
+    if (GObjectPtr<MMObject> wanted = m_device ? nullptr : m_watch.find(m_equipmentId))
         adopt(std::move(wanted));
     if (m_device)
         m_device->refresh();
     publish();
+    if (m_waiting && m_watch.state() != ServiceState::Looking)
+        perform(*std::exchange(m_waiting, std::nullopt), m_lostModemCount);
+}
+
+bool ModemManagerBackend::prefersAnotherModem() const
+{
+    if (!m_equipmentId.empty() || m_wasRegistered)
+        return false;
+    const GObjectPtr<MMObject> best = m_watch.find(m_equipmentId);
+    return best && textOf(mm_object_get_path(best.get())) != m_device->path() &&
+           stateOf(mm_object_peek_modem(best.get())) == TKSV_DEVICE_REGISTERED;
+}
+
+/// Ends the use of a modem that has never been registered. It has neither a session nor requests.
+void ModemManagerBackend::leaveModem()
+{
+    m_device.reset();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ++m_lostModemCount;
 }
 
 void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
 {
+    m_wasRegistered = false;
+    m_isModemRemoved = false;
     ModemDevice::Listener listener;
     listener.changed = [this] { publish(); };
     listener.replied = [this](RequestToken token, const UssdReply &reply) {
@@ -171,6 +253,7 @@ void ModemManagerBackend::loseModem()
         ++m_lostModemCount;
     }
     const bool serviceEnded = m_watch.state() != ServiceState::Running;
+    m_isModemRemoved = !serviceEnded;
     m_observer->deviceLost(serviceEnded ? TKSV_DEV_EVENT_RESET : TKSV_DEV_EVENT_GONE);
     gone->sms().failPending();
     publish();
@@ -181,6 +264,7 @@ void ModemManagerBackend::publish()
     if (!m_observer)
         return;
     const DeviceInfo now = currentInfo();
+    m_wasRegistered = m_wasRegistered || now.state == TKSV_DEVICE_REGISTERED;
     DeviceInfo before;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -197,7 +281,7 @@ void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceIn
     if (before == now)
         return;
     if (takesCommands(before) && !takesCommands(now) && m_device)
-        m_device->failPending();
+        m_device->failPending(refusalOf(now));
     if (before.canSendSms != now.canSendSms)
         m_observer->smsStatusChanged(now.canSendSms);
     m_observer->infoChanged();
@@ -205,11 +289,14 @@ void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceIn
 
 DeviceInfo ModemManagerBackend::currentInfo() const
 {
-    if (m_device)
-        return m_device->info();
     DeviceInfo info;
     info.backend = TKSV_BACKEND_MODEMMANAGER;
-    info.problem = problemWithoutModem();
+    info.problem = m_device ? TKSV_PROBLEM_NONE : problemWithoutModem();
+    if (m_device)
+        info = m_device->info();
+    if (info.problem == TKSV_PROBLEM_NONE && m_watch.isSilent())
+        info.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    info.isLooking = m_watch.state() == ServiceState::Looking;
     return info;
 }
 
@@ -221,8 +308,11 @@ TKSV_DeviceProblem ModemManagerBackend::problemWithoutModem() const
     case ServiceState::NoService:
         return TKSV_PROBLEM_NO_SERVICE;
     default:
-        return m_watch.modems().empty() ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_CHOSEN_ABSENT;
+        break;
     }
+    if (m_isModemRemoved)
+        return TKSV_PROBLEM_MODEM_REMOVED;
+    return m_watch.modems().empty() ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_CHOSEN_ABSENT;
 }
 
 } // namespace Tksv

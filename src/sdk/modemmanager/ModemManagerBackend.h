@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "../base/Backend.h"
@@ -20,16 +21,19 @@ namespace Tksv
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Uses the modem with the given identifier. If the identifier is empty, uses the modem that
-    /// was found first. The watch must outlive the backend.
+    /// Uses the modem with that identifier. If the identifier is empty, uses the first modem that
+    /// is registered, or the first modem as long as none is registered. The watch must outlive the
+    /// backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
     void stop() override;
-    int request(RequestToken token, RequestKind kind, const std::string &text) override;
+    RequestResult request(RequestToken token, RequestKind kind, const std::string &text) override;
     void endSession() override;
+    bool endForeignSession() override;
     bool sendSms(const SmsMessage &message) override;
     bool sendPin(const std::string &pin) override;
+    bool enable() override;
     DeviceInfo info() const override;
 
     /// Handles a change that the watch has reported. Must be called from the watch's thread after
@@ -37,7 +41,16 @@ public:
     void modemsChanged();
 
 private:
+    struct Request {
+        RequestToken token;
+        RequestKind kind;
+        std::string text;
+    };
+
     void post(std::function<void()> task);
+    void perform(const Request &request, unsigned lostModemCount);
+    bool prefersAnotherModem() const;
+    void leaveModem();
     void loseModem();
     void adopt(GObjectPtr<MMObject> object);
     void publish();
@@ -48,9 +61,12 @@ private:
     ModemWatch &m_watch;
     const std::string m_equipmentId;
 
-    // The following two members are used only on the watch's thread.
+    // The following members are used on the watch's thread only.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
+    bool m_wasRegistered = false;     // the modem in use has been registered at least once
+    bool m_isModemRemoved = false;    // the modem in use was removed, and none is in use since then
+    std::optional<Request> m_waiting; // waits until ModemManager has reported its modems
 
     // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount, so it reads them
     // without locking the mutex.

@@ -34,6 +34,19 @@ std::string systemBusAddress()
 
 } // namespace
 
+TKSV_DeviceState stateOf(MMModem *modem)
+{
+    const MMModemState state = mm_modem_get_state(modem);
+    if (state == MM_MODEM_STATE_FAILED &&
+        mm_modem_get_state_failed_reason(modem) == MM_MODEM_STATE_FAILED_REASON_SIM_MISSING)
+        return TKSV_DEVICE_SIM_MISSING;
+    if (state == MM_MODEM_STATE_LOCKED)
+        return TKSV_DEVICE_SIM_LOCKED;
+    if (state >= MM_MODEM_STATE_REGISTERED)
+        return TKSV_DEVICE_REGISTERED;
+    return state >= MM_MODEM_STATE_ENABLED ? TKSV_DEVICE_SEARCHING : TKSV_DEVICE_DISABLED;
+}
+
 std::string nameOf(MMModem *modem)
 {
     const std::string maker = textOf(mm_modem_get_manufacturer(modem));
@@ -57,7 +70,12 @@ std::string equipmentIdOf(MMObject *object)
     return imei.empty() ? textOf(mm_modem_get_device_identifier(modem)) : imei;
 }
 
-ModemWatch::ModemWatch(Changed changed) : m_thread("tksv-modems"), m_changed(std::move(changed)) {}
+constexpr std::chrono::milliseconds ModemWatch::SILENCE_LIMIT;
+
+ModemWatch::ModemWatch(Changed changed, std::chrono::milliseconds silenceLimit)
+    : m_thread("tksv-modems"), m_changed(std::move(changed)), m_silenceLimit(silenceLimit)
+{
+}
 
 void ModemWatch::start()
 {
@@ -74,6 +92,7 @@ void ModemWatch::stop()
     g_cancellable_cancel(m_cancellable.get());
     m_thread.stop([this] {
         m_signals.disconnectAll();
+        m_modemSignals.disconnectAll();
         m_manager.reset();
         if (m_bus) // sends the call that ends an open session
             g_dbus_connection_flush_sync(m_bus.get(), nullptr, nullptr);
@@ -85,7 +104,7 @@ void ModemWatch::stop()
 /// bus closes the connection.
 void ModemWatch::connectToBus()
 {
-    if (m_bus && !m_manager && !m_isPinging)
+    if (m_bus && !m_isPinging)
         return pingService(0);
     if (m_bus || m_isConnecting)
         return;
@@ -120,11 +139,13 @@ void ModemWatch::busConnected(GDBusConnection *bus)
 void ModemWatch::pingService(int triesLeft)
 {
     m_isPinging = true;
+    startSilenceTimer();
     const AsyncDone done = [this, triesLeft](GObject *bus, GAsyncResult *result) {
         m_isPinging = false;
         ErrorSlot ignored;
         const GVariantPtr answer(
             g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, ignored.slot()));
+        setSilent(false);
         if (G_OBJECT(m_bus.get()) == bus && !m_manager)
             createManager(triesLeft);
     };
@@ -132,6 +153,24 @@ void ModemWatch::pingService(int triesLeft)
         m_bus.get(), MM_DBUS_SERVICE, MM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", MM_DBUS_SERVICE, "Version"), nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
         G_MAXINT, m_cancellable.get(), runAsyncDone, asyncDone(done));
+}
+
+void ModemWatch::startSilenceTimer()
+{
+    m_thread.after(m_silenceLimit, [this, ping = ++m_pingCount] {
+        if (m_isPinging && ping == m_pingCount)
+            setSilent(true);
+    });
+}
+
+void ModemWatch::setSilent(bool isSilent)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (std::exchange(m_isSilent, isSilent) == isSilent)
+            return;
+    }
+    m_changed();
 }
 
 /// Creates the manager and blocks until it exists. With an asynchronous call, GLib would create the
@@ -160,11 +199,13 @@ void ModemWatch::createManager(int triesLeft)
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();
+    m_modemSignals.disconnectAll();
     m_manager.reset();
     m_bus.reset();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_modems.clear();
+        m_isSilent = false;
     }
     setState(ServiceState::NoBus);
 }
@@ -181,9 +222,13 @@ void ModemWatch::managerCreated(MMManager *manager)
 void ModemWatch::refresh()
 {
     std::vector<ModemSummary> modems;
-    for (const GObjectPtr<MMObject> &object : objects())
-        modems.push_back(
-            ModemSummary{equipmentIdOf(object.get()), nameOf(mm_object_peek_modem(object.get()))});
+    m_modemSignals.disconnectAll();
+    for (const GObjectPtr<MMObject> &object : objects()) {
+        MMModem *const modem = mm_object_peek_modem(object.get());
+        modems.push_back(ModemSummary{equipmentIdOf(object.get()), nameOf(modem), stateOf(modem)});
+        m_modemSignals.onPropertiesChanged(modem,
+                                           [this](GVariant *changed) { modemChanged(changed); });
+    }
     const GMemory<char> owner(
         g_dbus_object_manager_client_get_name_owner(G_DBUS_OBJECT_MANAGER_CLIENT(m_manager.get())));
     {
@@ -191,6 +236,14 @@ void ModemWatch::refresh()
         m_modems = std::move(modems);
     }
     setState(owner ? ServiceState::Running : ServiceState::NoService);
+}
+
+/// Reports the new state of any modem, since the modem in use may depend on it.
+void ModemWatch::modemChanged(GVariant *changed)
+{
+    const GVariantPtr state(g_variant_lookup_value(changed, "State", nullptr));
+    if (state)
+        refresh();
 }
 
 /// Returns the modems whose identifier is known, oldest first.
@@ -215,11 +268,17 @@ std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
 
 GObjectPtr<MMObject> ModemWatch::find(const std::string &equipmentId) const
 {
+    GObjectPtr<MMObject> found;
     for (GObjectPtr<MMObject> &object : objects()) {
-        if (equipmentId.empty() || equipmentIdOf(object.get()) == equipmentId)
-            return std::move(object);
+        const bool fits = equipmentId.empty() || equipmentIdOf(object.get()) == equipmentId;
+        const bool isReady =
+            fits && stateOf(mm_object_peek_modem(object.get())) == TKSV_DEVICE_REGISTERED;
+        if (isReady || (fits && !found))
+            found = std::move(object);
+        if (isReady)
+            break;
     }
-    return nullptr;
+    return found;
 }
 
 GObjectPtr<MMObject> ModemWatch::findAt(const std::string &path) const
@@ -241,6 +300,12 @@ ServiceState ModemWatch::state() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_state;
+}
+
+bool ModemWatch::isSilent() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_isSilent;
 }
 
 void ModemWatch::setState(ServiceState state)

@@ -1,12 +1,14 @@
 #ifndef TKSV_INTERNAL_MODEMWATCH_H
 #define TKSV_INTERNAL_MODEMWATCH_H
 
+#include <chrono>
 #include <functional>
 #include <libmm-glib/libmm-glib.h>
 #include <mutex>
 #include <string>
 #include <vector>
 
+#include "../base/Backend.h"
 #include "AsyncCall.h"
 #include "GLibPointers.h"
 #include "MainLoopThread.h"
@@ -19,6 +21,7 @@ namespace Tksv
 struct ModemSummary {
     std::string equipmentId; // never empty
     std::string name;        // manufacturer and model
+    TKSV_DeviceState state = TKSV_DEVICE_ABSENT;
 };
 
 /**
@@ -30,16 +33,17 @@ enum class ServiceState { Looking, NoBus, NoService, Running };
 class ModemWatch
 {
 public:
-    /// Called from the D-Bus thread after each change to the state of ModemManager, to the modem
-    /// list or to the interfaces of a modem.
+    /// Called on the D-Bus thread after each change to the service's state, to the list of modems,
+    /// or to the interfaces or the state of a modem.
     using Changed = std::function<void()>;
 
-    explicit ModemWatch(Changed changed);
+    /// The service is silent if it does not answer a ping within `silenceLimit`.
+    explicit ModemWatch(Changed changed, std::chrono::milliseconds silenceLimit = SILENCE_LIMIT);
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Starts to look for modems and returns immediately. If the connection or ModemManager was
-    /// missing, another call tries again.
+    /// Starts to look for modems and returns at once. Another call tries again if the connection or
+    /// the service was missing, and otherwise checks whether the service still answers.
     void start();
     /// Ends the thread and releases all objects that the thread holds.
     void stop();
@@ -48,20 +52,28 @@ public:
     std::vector<ModemSummary> modems() const;
     /// Returns the state of ModemManager. May be called from any thread.
     ServiceState state() const;
+    /// Returns true if ModemManager is running but does not answer. May be called on any thread.
+    bool isSilent() const;
 
     MainLoopThread &thread() { return m_thread; }
-    /// Returns the modem with the given identifier, or null. An empty identifier selects the first
-    /// modem. May only be called from the D-Bus thread.
+    /// Returns the modem with that identifier, or null. An empty identifier selects the first modem
+    /// that is registered, or the first modem if none is registered. May only be called on the
+    /// D-Bus thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
     /// Returns the modem with the given D-Bus path, or null. May only be called from the D-Bus
     /// thread.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
+    static constexpr std::chrono::milliseconds SILENCE_LIMIT{3000};
+
     void connectToBus();
     void busConnected(GDBusConnection *bus);
     void busClosed();
     void pingService(int triesLeft);
+    void startSilenceTimer();
+    void setSilent(bool isSilent);
+    void modemChanged(GVariant *changed);
     void createManager(int triesLeft);
     void managerCreated(MMManager *manager);
     void refresh();
@@ -70,6 +82,7 @@ private:
 
     MainLoopThread m_thread;
     const Changed m_changed;
+    const std::chrono::milliseconds m_silenceLimit;
     const Cancellable m_cancellable; // cancels calls that stop() must not wait for
     bool m_started = false;          // used only by start(), whose calls never overlap
 
@@ -78,11 +91,14 @@ private:
     GObjectPtr<MMManager> m_manager;
     bool m_isConnecting = false;
     bool m_isPinging = false;
+    unsigned m_pingCount = 0;
     SignalConnections m_signals;
+    SignalConnections m_modemSignals;
 
     mutable std::mutex m_mutex; // guards all members below
     std::vector<ModemSummary> m_modems;
     ServiceState m_state = ServiceState::Looking;
+    bool m_isSilent = false;
 };
 
 /// Returns true if the object currently has the given D-Bus interface. libmm-glib prints a warning
@@ -94,6 +110,8 @@ bool hasInterface(MMObject *object, const char *name);
 std::string equipmentIdOf(MMObject *object);
 /// Returns the manufacturer and the model.
 std::string nameOf(MMModem *modem);
+/// Returns the state of the modem.
+TKSV_DeviceState stateOf(MMModem *modem);
 
 } // namespace Tksv
 

@@ -10,8 +10,20 @@ namespace Tksv
 namespace
 {
 
+const MMModem3gppUssdSessionState UNKNOWN = MM_MODEM_3GPP_USSD_SESSION_STATE_UNKNOWN;
+const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
+const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
+const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
+
 /// The time that the channel waits for the state after a reply before it queries the state.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
+
+/// The time within which the daemon refuses a call because another program has a session. It asks
+/// polkit first, which takes a few milliseconds unless polkit asks the user.
+const std::chrono::milliseconds REFUSAL_LIMIT(150);
+
+/// The time between two looks at the queue of programs, and the time that a turn is kept.
+const std::chrono::milliseconds TURN_PAUSE(20);
 
 /// There is no time limit, because the client decides how long it waits for a reply. By default,
 /// GDBus would cancel the call after 25 seconds.
@@ -34,8 +46,8 @@ MMModem3gppUssdSessionState stateIn(GVariant *answer)
 
 } // namespace
 
-UssdChannel::UssdChannel(MainLoopThread &thread, Listener listener)
-    : m_thread(thread), m_listener(std::move(listener))
+UssdChannel::UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener)
+    : m_thread(thread), m_listener(std::move(listener)), m_turn(equipmentId)
 {
 }
 
@@ -49,6 +61,7 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_ussd = shareObject(ussd);
     if (!m_ussd)
         return interfaceRemoved();
+    m_isStateNew = true;
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(ussd), NO_TIME_LIMIT);
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
@@ -57,20 +70,24 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 /// arrive. If they do, they are ignored.
 void UssdChannel::interfaceRemoved()
 {
-    failPending();
+    failPending(TKSV_FAILURE_DEVICE_LOST);
     ++m_call;
     m_running.reset();
     m_replyText.reset();
     m_cancelWanted = false;
     m_cancelling = false;
-    m_isQuestionReported = false;
+    m_isChecking = false;
+    leaveTurn();
+    setOwner(Owner::Nobody);
 }
 
+/// Handles the state of a new interface. A session that is already open belongs to another program.
 void UssdChannel::catchUp()
 {
     if (!m_ussd)
         return;
-    handleState(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
+    if (std::exchange(m_isStateNew, false))
+        handleState(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
     startNext();
 }
 
@@ -78,26 +95,52 @@ void UssdChannel::catchUp()
 
 void UssdChannel::request(RequestToken token, RequestKind kind, const std::string &text)
 {
-    m_next = Request{token, kind, text, false};
+    m_next = Request{token, kind, text};
     if (kind == RequestKind::NewSession)
-        m_cancelWanted = m_running || m_isQuestionReported;
+        endOwnSession();
     startNext();
 }
 
 void UssdChannel::endSession()
 {
     m_next.reset();
-    m_cancelWanted = m_running || m_isQuestionReported;
+    endOwnSession();
     startNext();
 }
 
-void UssdChannel::failPending()
+void UssdChannel::endOwnSession()
+{
+    m_cancelWanted = m_running || canAnswer();
+}
+
+void UssdChannel::failPending(TKSV_Failure reason)
 {
     const bool isEnding = m_cancelWanted || m_cancelling;
-    const std::optional<Request> request = m_next || isEnding ? m_next : m_running;
+    const bool wasNotSent = m_next || isEnding;
+    const std::optional<Request> request = wasNotSent ? m_next : m_running;
     endSession();
     if (request)
-        m_listener.replied(request->token, UssdReply{UssdEndedByNetwork, std::string()});
+        m_listener.replied(request->token, failedReply(Failure{reason, wasNotSent}));
+}
+
+/// The daemon neither finishes nor cancels the call of a modem that is disabled. The call blocks
+/// the next one, see cancelStuckCall().
+void UssdChannel::abandonCall()
+{
+    if (!m_running || !m_isCallPending || m_cancelling)
+        return;
+    ++m_call;
+    m_isCallStuck = true;
+    m_running.reset();
+    m_cancelWanted = false;
+    setOwner(Owner::Nobody);
+    startNext();
+}
+
+void UssdChannel::endForeignSession()
+{
+    if (m_ussd && hasForeignSession() && !m_running && !m_cancelling)
+        startCancel();
 }
 
 /* ---- calls to the daemon ----------------------------------------------------------------- */
@@ -108,59 +151,220 @@ void UssdChannel::startNext()
     if (!m_ussd || m_cancelling)
         return;
     if (m_cancelWanted)
-        return startCancel();
-    if (!m_running && m_next)
+        return cancelWhenOurs();
+    if (m_running)
+        return;
+    if (!m_next && !canAnswer())
+        return leaveTurn();
+    if (m_next && takeTurn() && m_next) // a change that takeTurn() has reported may end the request
         start(*std::exchange(m_next, std::nullopt));
 }
 
+/// Returns true if it is this program's turn. Otherwise, startNext() is called again later. A kept
+/// turn is used again unless another program waits.
+bool UssdChannel::takeTurn()
+{
+    if (std::exchange(m_keepsTurn, false) && m_turn.isWanted())
+        m_turn.leave();
+    const bool isOurTurn = m_turn.tryEnter();
+    if (!isOurTurn)
+        startTurnTimer();
+    setWaitsForTurn(!isOurTurn);
+    return isOurTurn;
+}
+
+/// Leaves the turn. If nobody waits, the program keeps its turn for a moment, because the files of
+/// the queue would slow down commands that follow each other.
+void UssdChannel::leaveTurn()
+{
+    m_keepsTurn = m_turn.isInQueue() && !m_waitsForTurn && !m_turn.isWanted();
+    if (m_keepsTurn)
+        startTurnTimer();
+    else
+        m_turn.leave();
+    setWaitsForTurn(false);
+}
+
+void UssdChannel::startTurnTimer()
+{
+    if (std::exchange(m_isTurnTimerRunning, true))
+        return;
+    m_thread.after(TURN_PAUSE, [self = weak_from_this()] {
+        if (const std::shared_ptr<UssdChannel> alive = self.lock())
+            alive->turnTimerElapsed();
+    });
+}
+
+void UssdChannel::turnTimerElapsed()
+{
+    m_isTurnTimerRunning = false;
+    if (std::exchange(m_keepsTurn, false))
+        m_turn.leave();
+    else
+        startNext();
+}
+
+void UssdChannel::setWaitsForTurn(bool waits)
+{
+    if (std::exchange(m_waitsForTurn, waits) != waits)
+        m_listener.changed();
+}
+
+/// Starts the call if the session permits it. An answer needs the session that it answers. A code
+/// needs an idle session.
 void UssdChannel::start(const Request &request)
 {
+    const bool isAnswer = request.kind == RequestKind::Answer;
+    if (isAnswer ? canAnswer() : m_state == IDLE)
+        return call(request);
+    if (isAnswer)
+        return refuse(request);
+    m_next = request;
+    if (!std::exchange(m_isChecking, true))
+        checkSession();
+}
+
+/// Queries whether the session of another program is still open, and refuses the code in that case.
+/// polkit is then not asked in vain.
+void UssdChannel::checkSession()
+{
+    askForState([this](State state) {
+        handleState(state);
+        m_isChecking = false;
+        if (m_state != IDLE && !canAnswer() && m_next)
+            refuse(*std::exchange(m_next, std::nullopt));
+    });
+}
+
+void UssdChannel::refuse(const Request &request)
+{
+    const TKSV_Failure reason =
+        hasForeignSession() ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_ENDED_BY_NETWORK;
+    m_listener.replied(request.token, failedReply(Failure{reason, true}));
+    startNext();
+}
+
+void UssdChannel::call(const Request &request)
+{
+    const bool isAnswer = request.kind == RequestKind::Answer;
     m_running = request;
     m_replyText.reset();
+    m_callStart = Clock::now();
+    m_isCallPending = true;
     m_wasActive = false;
-    m_isQuestionReported = false;
+    m_isConfirmed = isAnswer; // the session is ours already
+    m_isConfirming = false;
+    m_isChecking = false;
     m_hasNewQuestion = false;
-    const bool isAnswer = request.kind == RequestKind::Answer;
     const auto finishCall =
         isAnswer ? mm_modem_3gpp_ussd_respond_finish : mm_modem_3gpp_ussd_initiate_finish;
-    const AsyncDone done = [this, call = ++m_call, request, finishCall](GObject *ussd,
-                                                                        GAsyncResult *result) {
+    const AsyncDone done = [this, call = ++m_call, finishCall](GObject *ussd,
+                                                               GAsyncResult *result) {
         ErrorSlot error;
         GMemory<char> text(finishCall(MM_MODEM_3GPP_USSD(ussd), result, error.slot()));
-        callReturned(call, request, std::move(text), error.get());
+        callReturned(call, std::move(text), error.get());
     };
     const auto startCall = isAnswer ? mm_modem_3gpp_ussd_respond : mm_modem_3gpp_ussd_initiate;
     startCall(m_ussd.get(), request.text.c_str(), nullptr, runAsyncDone,
               asyncDone(whileAlive(done)));
 }
 
-void UssdChannel::callReturned(unsigned call, const Request &request, GMemory<char> text,
-                               const GError *error)
+void UssdChannel::callReturned(unsigned call, GMemory<char> text, const GError *error)
 {
     if (call != m_call)
         return; // the call was cancelled
+    m_isCallPending = false;
     if (error)
-        return callFailed(request, *error);
+        return callFailed(*error);
     m_replyText = textOf(text.get());
     waitForState();
 }
 
-void UssdChannel::callFailed(const Request &request, const GError &error)
+/// Ends the command. Its session is over or was never opened, so there is nothing to cancel.
+void UssdChannel::callFailed(const GError &error)
 {
-    const UssdVerdict verdict = classifyUssdError(error);
-    if (verdict.failure == UssdFailure::ServiceLost)
+    if (isServiceLost(error))
         return; // the device event ends the command
-    if (verdict.failure == UssdFailure::NotPermitted)
+    if (m_isCallStuck && isInProgress(error))
+        return cancelStuckCall();
+    const Failure failure = failureOf(error);
+    if (failure.reason == TKSV_FAILURE_NOT_PERMITTED)
         m_listener.notPermitted();
-    const bool retry = verdict.failure == UssdFailure::SessionOpen && !request.isRetry &&
-                       request.kind == RequestKind::NewSession;
-    if (!retry)
-        return finish(UssdReply{verdict.type, std::string()});
+    const bool isInUse = failure.reason == TKSV_FAILURE_IN_USE;
+    m_state = isInUse ? m_state : IDLE;
+    setOwner(isInUse ? Owner::Foreign : Owner::Nobody);
+    if (std::exchange(m_cancelWanted, false)) {
+        m_running.reset();
+        startNext();
+    } else {
+        finish(failedReply(failure));
+    }
+    if (!isInProgress(error)) // such a call of another program blocks the modem although it is idle
+        askForStateOfOthers();
+}
+
+/// Cancels an earlier call of ours that the daemon has neither finished nor cancelled, and repeats
+/// the request.
+void UssdChannel::cancelStuckCall()
+{
+    if (!m_next && !m_cancelWanted)
+        m_next = m_running;
     m_running.reset();
-    m_next = request;
-    m_next->isRetry = true;
-    m_cancelWanted = true;
-    startNext();
+    m_isCallStuck = false; // tried once only
+    startCancel();
+}
+
+Failure UssdChannel::failureOf(const GError &error) const
+{
+    UssdCallContext context;
+    context.seconds = std::chrono::duration<double>(Clock::now() - m_callStart).count();
+    context.isOnlyOn4G = m_listener.isOnlyOn4G();
+    return failureOfUssdError(error, context);
+}
+
+/// Cancels our session, but never the session of another program. While another program has a
+/// session, the daemon is about to refuse our call, and a cancellation would end that session.
+/// Therefore, a call that is running must be confirmed first: the daemon has had the time to refuse
+/// it, and the session has become active and still is. Otherwise, the channel waits until the
+/// session becomes active or the call returns. This takes long if polkit asks the user.
+void UssdChannel::cancelWhenOurs()
+{
+    if (!m_running && !canAnswer()) {
+        m_cancelWanted = false;
+        return startNext();
+    }
+    if (!m_running || m_isConfirmed)
+        return startCancel();
+    if (m_isCallPending)
+        confirm();
+}
+
+void UssdChannel::confirm()
+{
+    if (std::exchange(m_isConfirming, true))
+        return;
+    const auto left = REFUSAL_LIMIT - (Clock::now() - m_callStart);
+    if (left <= left.zero())
+        return askForStateOfCall();
+    const auto pause = std::chrono::duration_cast<std::chrono::milliseconds>(left);
+    m_thread.after(pause + std::chrono::milliseconds(1), [self = weak_from_this(), call = m_call] {
+        const std::shared_ptr<UssdChannel> alive = self.lock();
+        if (alive && alive->m_call == call)
+            alive->askForStateOfCall();
+    });
+}
+
+void UssdChannel::askForStateOfCall()
+{
+    askForState([this](State state) {
+        m_isConfirming = false;
+        if (!m_isCallPending)
+            return;
+        m_isConfirmed = m_isConfirmed || (m_wasActive && state == ACTIVE);
+        handleState(state);
+        if (m_isConfirmed && m_cancelWanted)
+            startNext();
+    });
 }
 
 /// Cancels the session, which ends a running call. The running call then returns an error, or never
@@ -169,23 +373,31 @@ void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
     m_cancelling = true;
-    m_isQuestionReported = false;
+    m_isChecking = false;
     const AsyncDone done = [this, call = ++m_call](GObject *ussd, GAsyncResult *result) {
-        ErrorSlot ignored; // the daemon is idle even after a failed cancellation
-        mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, ignored.slot());
-        cancelReturned(call);
+        ErrorSlot error;
+        mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(ussd), result, error.slot());
+        cancelReturned(call, error.get());
     };
     mm_modem_3gpp_ussd_cancel(m_ussd.get(), nullptr, runAsyncDone, asyncDone(whileAlive(done)));
 }
 
-void UssdChannel::cancelReturned(unsigned call)
+/// The daemon is idle even after a failed cancellation, unless the policy denies it. However, the
+/// daemon does not cancel the call of a modem that is being disabled.
+void UssdChannel::cancelReturned(unsigned call, const GError *error)
 {
     if (call != m_call)
         return;
     m_cancelling = false;
+    m_isCallStuck = error && (m_isCallStuck || (m_running && m_isCallPending));
     m_running.reset();
     m_replyText.reset();
+    m_state = IDLE;
+    if (error && isNotPermitted(*error))
+        m_listener.notPermitted();
+    setOwner(Owner::Nobody);
     startNext();
+    askForStateOfOthers();
 }
 
 AsyncDone UssdChannel::whileAlive(AsyncDone function)
@@ -200,10 +412,10 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 /// change. Therefore, the channel queries the state.
 void UssdChannel::waitForState()
 {
-    const MMModem3gppUssdSessionState state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
     if (!m_wasActive)
-        return askForState();
-    if (state != MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE)
+        return askForStateOfReply();
+    const State state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
+    if (state != ACTIVE)
         return handleState(state);
     if (!std::exchange(m_isLagTimerRunning, true))
         startLagTimer();
@@ -219,25 +431,46 @@ void UssdChannel::startLagTimer()
             return;
         alive->m_isLagTimerRunning = false;
         if (alive->m_replyText)
-            alive->m_call == call ? alive->askForState() : alive->waitForState();
+            alive->m_call == call ? alive->askForStateOfReply() : alive->waitForState();
     });
 }
 
-void UssdChannel::askForState()
+/// Queries the state. Drops the answer if another call has started in the meantime. The session is
+/// treated as idle if the query fails.
+void UssdChannel::askForState(std::function<void(State)> done)
 {
-    const AsyncDone done = [this, call = m_call](GObject *proxy, GAsyncResult *result) {
+    if (!m_ussd)
+        return;
+    const AsyncDone answered = [this, call = m_call, done = std::move(done)](GObject *proxy,
+                                                                             GAsyncResult *result) {
         ErrorSlot error;
         const GVariantPtr answer(
             g_dbus_proxy_call_finish(G_DBUS_PROXY(proxy), result, error.slot()));
-        if (call != m_call)
-            return;
-        m_wasActive = true;
-        handleState(answer ? stateIn(answer.get()) : MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE);
+        if (call == m_call)
+            done(answer ? stateIn(answer.get()) : IDLE);
     };
     g_dbus_proxy_call(G_DBUS_PROXY(m_ussd.get()), "org.freedesktop.DBus.Properties.Get",
                       g_variant_new("(ss)", MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, "State"),
                       G_DBUS_CALL_FLAGS_NONE, -1, nullptr, runAsyncDone,
-                      asyncDone(whileAlive(done)));
+                      asyncDone(whileAlive(answered)));
+}
+
+void UssdChannel::askForStateOfReply()
+{
+    askForState([this](State state) {
+        m_wasActive = true;
+        handleState(state);
+    });
+}
+
+/// Finds out whether another program has a session. The last reported state may be that of our own
+/// session, which has just ended.
+void UssdChannel::askForStateOfOthers()
+{
+    askForState([this](State state) {
+        if (!m_running && !m_cancelling)
+            handleState(state);
+    });
 }
 
 /// Handles the changed properties. A notification that repeats the previous text exactly does not
@@ -250,32 +483,81 @@ void UssdChannel::propertiesChanged(GVariant *changed)
         if (!text.empty())
             m_listener.textReceived(UssdReply{UssdFinal, text});
     }
-    if (contains(changed, "NetworkRequest")) {
-        m_isQuestionReported = false; // this is a new prompt
+    const bool hasQuestion = contains(changed, "NetworkRequest");
+    if (!m_ussd || (!hasQuestion && !contains(changed, "State")))
+        return;
+    const State state = mm_modem_3gpp_ussd_get_state(m_ussd.get());
+    if (hasQuestion)
         m_hasNewQuestion = true;
-    }
-    if (m_ussd && (contains(changed, "State") || contains(changed, "NetworkRequest")))
-        handleState(mm_modem_3gpp_ussd_get_state(m_ussd.get()));
+    else if (!m_running && state != USER_RESPONSE)
+        m_hasNewQuestion = false; // the question has been withdrawn
+    handleState(state);
 }
 
-void UssdChannel::handleState(MMModem3gppUssdSessionState state)
+/// Handles a state that was reported or queried. It is unknown while the modem is disabled, and a
+/// disabled modem has no session.
+void UssdChannel::handleState(State reported)
 {
-    if (state == MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE) {
+    const State state = reported == UNKNOWN ? IDLE : reported;
+    const State before = std::exchange(m_state, state);
+    if (m_cancelling)
+        return;
+    if (!m_running)
+        return handleStateOfOthers(state);
+    if (state == ACTIVE && (before == IDLE || m_running->kind == RequestKind::Answer))
         m_wasActive = true;
+    handleStateDuringCall(state);
+}
+
+/// Handles a state that was reported while our call is running. Until the call has returned, the
+/// session may belong to another program.
+void UssdChannel::handleStateDuringCall(State state)
+{
+    if (state == ACTIVE) {
+        if (m_isCallPending && m_wasActive && m_cancelWanted && !m_isConfirmed)
+            confirm();
         return;
     }
-    const bool waits = state == MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
-    if (!waits)
-        m_isQuestionReported = false;
-    if (m_cancelling || m_cancelWanted)
-        return;
-    if (m_running) {
-        if (m_replyText && m_wasActive)
-            finish(UssdReply{waits ? UssdWaitsForAnswer : UssdFinal, *m_replyText});
-        return;
-    }
-    if (waits && !m_isQuestionReported)
+    if (!m_replyText)
+        sessionEndedDuringCall();
+    else if (m_wasActive)
+        replyIsWhole(state == USER_RESPONSE);
+}
+
+/// The session has ended, but our call has not returned. If the daemon has had the time to refuse
+/// the call, the session was ours.
+void UssdChannel::sessionEndedDuringCall()
+{
+    const bool hadTime = Clock::now() - m_callStart >= REFUSAL_LIMIT;
+    m_isConfirmed = m_isConfirmed || (m_wasActive && hadTime);
+    m_wasActive = false;
+}
+
+/// Handles a state that no call of ours has caused. Only the network asks a question without an
+/// active session before it. A question that repeats the network's previous question word for word
+/// looks like a menu of another program, and is treated as such.
+void UssdChannel::handleStateOfOthers(State state)
+{
+    const bool hasNewQuestion = m_hasNewQuestion && state == USER_RESPONSE;
+    if (state == IDLE)
+        setOwner(Owner::Nobody);
+    else if (hasNewQuestion && !hasForeignSession())
         reportQuestion();
+    else if (state == ACTIVE || !canAnswer())
+        setOwner(Owner::Foreign);
+    startNext();
+}
+
+/// Ends the command, whose reply and state are known. If the command was cancelled in the meantime,
+/// ends its session instead.
+void UssdChannel::replyIsWhole(bool waits)
+{
+    if (!m_cancelWanted)
+        return finish(UssdReply{waits ? UssdWaitsForAnswer : UssdFinal, *m_replyText});
+    m_running.reset();
+    m_replyText.reset();
+    setOwner(waits ? Owner::Ours : Owner::Nobody);
+    startNext();
 }
 
 void UssdChannel::finish(const UssdReply &reply)
@@ -285,25 +567,34 @@ void UssdChannel::finish(const UssdReply &reply)
     // The network sent another prompt immediately after the reply. The state belongs to this
     // prompt, and the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
-    m_isQuestionReported = reply.type == UssdWaitsForAnswer && !isStateOfQuestion;
     UssdReply reported = reply;
     if (isStateOfQuestion)
         reported.type = UssdFinal;
     if (reported.text.empty() && reported.type == UssdFinal)
-        reported.type = UssdEndedByNetwork; // a reply without text is a rejection
+        reported = failedReply(Failure{TKSV_FAILURE_EMPTY_REPLY});
+    if (reply.failure.reason == TKSV_FAILURE_NONE)
+        setOwner(reported.type == UssdWaitsForAnswer ? Owner::Ours : Owner::Nobody);
     m_listener.replied(request.token, reported);
     if (isStateOfQuestion)
         reportQuestion();
     startNext();
 }
 
-/// Reports a prompt from the network. The text is empty for a menu that was the reply to another
-/// program's command, because the daemon does not store this text.
+/// Reports a question that the network asks of its own accord.
 void UssdChannel::reportQuestion()
 {
-    m_isQuestionReported = true;
+    m_hasNewQuestion = false;
+    setOwner(Owner::Network);
     const std::string text = textOf(mm_modem_3gpp_ussd_get_network_request(m_ussd.get()));
     m_listener.textReceived(UssdReply{UssdWaitsForAnswer, text});
+}
+
+void UssdChannel::setOwner(Owner owner)
+{
+    const bool hadForeignSession = hasForeignSession();
+    m_owner = owner;
+    if (hadForeignSession != hasForeignSession())
+        m_listener.changed();
 }
 
 } // namespace Tksv

@@ -1,6 +1,7 @@
 #ifndef TKSV_INTERNAL_USSDCHANNEL_H
 #define TKSV_INTERNAL_USSDCHANNEL_H
 
+#include <chrono>
 #include <functional>
 #include <libmm-glib/libmm-glib.h>
 #include <memory>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include "../base/Backend.h"
+#include "../base/SessionTurn.h"
 #include "AsyncCall.h"
 #include "GLibPointers.h"
 #include "MainLoopThread.h"
@@ -21,7 +23,14 @@ namespace Tksv
  *
  * The daemon sends the reply before it updates the session state, and only the state shows whether
  * the network waits for an answer. Therefore, the channel holds the reply back until the state is
- * no longer "active". All functions must be called from the thread of the main loop.
+ * no longer "active".
+ *
+ * Every program on the bus can use the session. A session is ours only if our call opened it: the
+ * call is running, or its reply left the session open and nothing else has happened since. A
+ * question that the network asks of its own accord belongs to everybody. The channel neither ends
+ * nor answers any other session. The programs of one user take turns, see SessionTurn.
+ *
+ * All functions must be called on the thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
@@ -30,66 +39,119 @@ public:
         std::function<void(RequestToken, const UssdReply &)> replied;
         std::function<void(const UssdReply &)> textReceived;
         std::function<void()> notPermitted;
+        std::function<void()> changed; // hasForeignSession() or waitsForTurn()
+        std::function<bool()> isOnlyOn4G;
     };
 
-    UssdChannel(MainLoopThread &thread, Listener listener);
+    /// `equipmentId` identifies the modem among the programs of the user.
+    UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
     /// Sets the interface, a newer proxy of the same interface, or null while the modem does not
     /// have the interface.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// Reports a menu that another program left open, and starts a pending request. Must be called
-    /// after setInterface().
+    /// Finds out whether a session is open, and starts a waiting request. Must be called after
+    /// setInterface().
     void catchUp();
+    /// Returns true if another program has opened a session.
+    bool hasForeignSession() const { return m_owner == Owner::Foreign; }
+    /// Returns true if a request waits for another program of the same user.
+    bool waitsForTurn() const { return m_waitsForTurn; }
+    /// Returns true if no call is running and no session has to be ended.
+    bool isSettled() const { return !m_running && !m_cancelWanted && !m_cancelling; }
 
     /// Sends the string and replaces the request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
     /// Ends the session. The request in flight receives an empty reply.
-    void failPending();
+    void failPending(TKSV_Failure reason);
+    /// Forgets a running call that the daemon will not finish. Must be called after the modem was
+    /// disabled.
+    void abandonCall();
+    /// Ends the session that another program has opened.
+    void endForeignSession();
 
 private:
+    using State = MMModem3gppUssdSessionState;
+    using Clock = std::chrono::steady_clock;
+
+    /// The opener of the session: nobody while the session is idle, or while our call is running.
+    enum class Owner { Nobody, Ours, Network, Foreign };
+
     struct Request {
         RequestToken token;
         RequestKind kind;
         std::string text;
-        bool isRetry;
     };
 
     void interfaceRemoved();
+    bool canAnswer() const { return m_owner == Owner::Ours || m_owner == Owner::Network; }
+    void endOwnSession();
     void startNext();
+    bool takeTurn();
+    void leaveTurn();
+    void startTurnTimer();
+    void turnTimerElapsed();
+    void setWaitsForTurn(bool waits);
     void start(const Request &request);
-    void callReturned(unsigned call, const Request &request, GMemory<char> text,
-                      const GError *error);
-    void callFailed(const Request &request, const GError &error);
+    void checkSession();
+    void refuse(const Request &request);
+    void call(const Request &request);
+    void callReturned(unsigned call, GMemory<char> text, const GError *error);
+    void callFailed(const GError &error);
+    void cancelStuckCall();
+    Failure failureOf(const GError &error) const;
+    void cancelWhenOurs();
+    void confirm();
+    void askForStateOfCall();
     void startCancel();
-    void cancelReturned(unsigned call);
+    void cancelReturned(unsigned call, const GError *error);
 
     void waitForState();
     void startLagTimer();
-    void askForState();
+    void askForState(std::function<void(State)> done);
+    void askForStateOfReply();
+    void askForStateOfOthers();
     void propertiesChanged(GVariant *changed);
-    void handleState(MMModem3gppUssdSessionState state);
+    void handleState(State reported);
+    void handleStateDuringCall(State state);
+    void sessionEndedDuringCall();
+    void handleStateOfOthers(State state);
+    void replyIsWhole(bool waits);
     void finish(const UssdReply &reply);
     void reportQuestion();
+    void setOwner(Owner owner);
     AsyncDone whileAlive(AsyncDone function);
 
     MainLoopThread &m_thread;
     const Listener m_listener;
     GObjectPtr<MMModem3gppUssd> m_ussd;
     SignalConnections m_signals;
+    SessionTurn m_turn;
+    bool m_waitsForTurn = false;
+    bool m_keepsTurn = false; // no command needs the turn at this time
+    bool m_isTurnTimerRunning = false;
+
+    Owner m_owner = Owner::Nobody;
+    State m_state = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE; // the last state that was reported
+    bool m_isStateNew = false;     // the interface was replaced, and its state was not handled yet
+    bool m_hasNewQuestion = false; // NetworkRequest has changed since the call started, or alone
 
     std::optional<Request> m_next;    // starts when no call is running
     std::optional<Request> m_running; // its call is running, or its reply waits for the state
     std::optional<std::string> m_replyText;
+    Clock::time_point m_callStart;
+    bool m_isCallPending = false; // the call of m_running has not returned
+    bool m_wasActive = false;     // the state became "active" after the call had started
+    bool m_isConfirmed = false;   // the call has opened a session, see cancelWhenOurs()
+    bool m_isConfirming = false;
+    bool m_isChecking = false;  // m_next waits for the state
+    bool m_isCallStuck = false; // the daemon could not cancel an earlier call
     bool m_isLagTimerRunning = false;
-    bool m_wasActive = false; // true if the state has been active since the call started
     bool m_cancelWanted = false;
     bool m_cancelling = false;
-    bool m_isQuestionReported = false; // true if the prompt has been reported
-    bool m_hasNewQuestion = false;     // true if NetworkRequest has changed since the call started
-    unsigned m_call = 0; // the number of the most recent call; results of earlier calls are ignored
+    unsigned m_call = 0; // the number of the newest call; results of older calls are ignored
 };
 
 } // namespace Tksv

@@ -19,14 +19,69 @@ bool isCoreError(const GError &error, MMCoreError code)
     return hasCode(error, MM_CORE_ERROR, code);
 }
 
-/// Returns the type of a reply with a +CUSD <m> value that the daemon does not support. The error
-/// message contains the value, for example "...: 5 (5)".
-int unhandledType(const GError &error)
+bool says(const GError &error, const char *text)
 {
-    const bool timeout =
-        std::strstr(error.message, "Unhandled USSD reply") && std::strstr(error.message, "(5)");
-    return timeout ? UssdNetworkTimeout : UssdEndedByNetwork;
+    return std::strstr(error.message, text) != nullptr;
 }
+
+/// The modem leaves a command unanswered. The daemon gives up after 10 s for each of its two
+/// attempts.
+const double UNANSWERED_SECONDS = 9;
+
+/// Returns the reason of an error whose code is MM_CORE_ERROR_FAILED. Only the text of the error
+/// tells the cases apart.
+TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
+{
+    if (says(error, "Unhandled USSD reply")) // the <m> of +CUSD follows, as in "...: 5 (5)"
+        return says(error, "(5)") ? TKSV_FAILURE_NETWORK_TIMEOUT : TKSV_FAILURE_ENDED_BY_NETWORK;
+    if (says(error, "missing field separator"))
+        return TKSV_FAILURE_EMPTY_REPLY;
+    if (says(error, "Invalid USSD message received") || says(error, "Cannot decode USSD"))
+        return TKSV_FAILURE_UNDECODABLE;
+    if (context.seconds >= UNANSWERED_SECONDS)
+        return TKSV_FAILURE_NO_ANSWER;
+    return context.isOnlyOn4G ? TKSV_FAILURE_NOT_ON_4G : TKSV_FAILURE_REFUSED;
+}
+
+/// Returns the reason of an error that the modem has reported.
+TKSV_Failure reasonOfEquipmentError(int code, const UssdCallContext &context)
+{
+    switch (code) {
+    case MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED:
+        return context.isOnlyOn4G ? TKSV_FAILURE_NOT_ON_4G : TKSV_FAILURE_NOT_SUPPORTED;
+    case MM_MOBILE_EQUIPMENT_ERROR_NO_NETWORK:
+        return TKSV_FAILURE_NOT_REGISTERED;
+    case MM_MOBILE_EQUIPMENT_ERROR_NETWORK_TIMEOUT:
+        return TKSV_FAILURE_NETWORK_TIMEOUT;
+    default:
+        return TKSV_FAILURE_REFUSED;
+    }
+}
+
+/// Returns the reason of an error that the daemon reports before it sends anything.
+TKSV_Failure reasonOfWrongState(const GError &error)
+{
+    if (says(error, "no active session")) // an answer came too late
+        return TKSV_FAILURE_ENDED_BY_NETWORK;
+    const bool isAboutSession = says(error, "session") || says(error, "response");
+    return isAboutSession ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_DISABLED;
+}
+
+TKSV_Failure reasonOfCoreError(const GError &error, const UssdCallContext &context)
+{
+    switch (error.code) {
+    case MM_CORE_ERROR_ABORTED:
+        return TKSV_FAILURE_ENDED_BY_NETWORK;
+    case MM_CORE_ERROR_UNSUPPORTED:
+        return TKSV_FAILURE_NOT_SUPPORTED;
+    case MM_CORE_ERROR_INVALID_ARGS:
+        return TKSV_FAILURE_NOT_ENCODABLE;
+    default:
+        return reasonOfText(error, context);
+    }
+}
+
+} // namespace
 
 bool isServiceLost(const GError &error)
 {
@@ -39,26 +94,47 @@ bool isServiceLost(const GError &error)
     return hasCode(error, G_IO_ERROR, G_IO_ERROR_CLOSED);
 }
 
-} // namespace
-
-UssdVerdict classifyUssdError(const GError &error)
+Failure failureOfUssdError(const GError &error, const UssdCallContext &context)
 {
     if (isNotPermitted(error))
-        return {UssdFailure::NotPermitted, UssdEndedByNetwork};
-    if (isServiceLost(error))
-        return {UssdFailure::ServiceLost, UssdEndedByNetwork};
-    if (isCoreError(error, MM_CORE_ERROR_WRONG_STATE) ||
-        isCoreError(error, MM_CORE_ERROR_IN_PROGRESS))
-        return {UssdFailure::SessionOpen, UssdEndedByNetwork};
-    if (hasCode(error, MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED))
-        return {UssdFailure::Replied, UssdNotSupported};
-    return {UssdFailure::Replied, unhandledType(error)};
+        return Failure{TKSV_FAILURE_NOT_PERMITTED, true};
+    if (isCoreError(error, MM_CORE_ERROR_WRONG_STATE))
+        return Failure{reasonOfWrongState(error), true};
+    if (isInProgress(error))
+        return Failure{TKSV_FAILURE_IN_USE, true};
+    if (error.domain == G_CONVERT_ERROR && says(error, "to UTF-8")) // of the reply
+        return Failure{TKSV_FAILURE_UNDECODABLE};
+    if (error.domain == G_CONVERT_ERROR)
+        return Failure{TKSV_FAILURE_NOT_ENCODABLE, true};
+    if (error.domain == MM_CORE_ERROR)
+        return Failure{reasonOfCoreError(error, context)};
+    if (error.domain == MM_MOBILE_EQUIPMENT_ERROR)
+        return Failure{reasonOfEquipmentError(error.code, context)};
+    if (error.domain == MM_SERIAL_ERROR || hasCode(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT))
+        return Failure{TKSV_FAILURE_NO_ANSWER};
+    return Failure{TKSV_FAILURE_REFUSED};
+}
+
+bool isInProgress(const GError &error)
+{
+    return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
 bool isNotPermitted(const GError &error)
 {
     return isCoreError(error, MM_CORE_ERROR_UNAUTHORIZED) ||
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
+}
+
+/// A modem whose state is changing can refuse the call. This is no problem, because its next state
+/// is reported.
+TKSV_DeviceProblem problemOfEnableError(const GError &error)
+{
+    if (isNotPermitted(error))
+        return TKSV_PROBLEM_NOT_PERMITTED;
+    const bool isPassing = isCoreError(error, MM_CORE_ERROR_WRONG_STATE) ||
+                           isCoreError(error, MM_CORE_ERROR_IN_PROGRESS) || isServiceLost(error);
+    return isPassing ? TKSV_PROBLEM_NONE : TKSV_PROBLEM_MODEM_FAILED;
 }
 
 TKSV_DeviceProblem problemOfPinError(const GError &error)

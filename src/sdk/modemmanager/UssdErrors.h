@@ -10,23 +10,26 @@
 namespace Tksv
 {
 
-/** The ways to end a USSD command whose call has failed. */
-enum class UssdFailure {
-    Replied,      // the client receives an empty reply with the type UssdVerdict::type
-    SessionOpen,  // the daemon assumes an open session, which must end before a retry
-    NotPermitted, // polkit denied the call; the client receives an empty reply
-    ServiceLost   // the daemon or the modem has disappeared; a device event ends the command
+/** The circumstances of a USSD call that has failed. */
+struct UssdCallContext {
+    double seconds = 0; // the duration of the call
+    bool isOnlyOn4G = false;
 };
 
-struct UssdVerdict {
-    UssdFailure failure = UssdFailure::Replied;
-    int type = UssdEndedByNetwork;
-};
+/// Returns the reason why a USSD call has failed. Must not be called if isServiceLost().
+Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
 
-UssdVerdict classifyUssdError(const GError &error);
+/// Returns true if the daemon has not finished an earlier call.
+bool isInProgress(const GError &error);
+
+/// Returns true if the daemon or the modem has disappeared. A device event then ends the command.
+bool isServiceLost(const GError &error);
 
 /// Returns true if the system's policy denied the call.
 bool isNotPermitted(const GError &error);
+
+/// Returns the problem to show to the user after ModemManager has not enabled the modem.
+TKSV_DeviceProblem problemOfEnableError(const GError &error);
 
 /// Returns the problem to report to the user after ModemManager has rejected a PIN.
 TKSV_DeviceProblem problemOfPinError(const GError &error);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <glib.h>
 #include <memory>
+#include <unordered_map>
 
 namespace Tksv
 {
@@ -43,63 +44,100 @@ std::vector<std::string> splitLines(const std::string &text)
     return lines;
 }
 
-std::string join(const std::vector<std::string> &lines, std::size_t count)
+std::string join(const std::vector<std::string> &lines)
 {
     std::string text;
-    for (std::size_t i = 0; i < count; ++i)
-        text += lines[i] + "\n";
+    for (const std::string &line : lines)
+        text += line + "\n";
     return text;
 }
 
-/// Returns the index of the first line that GKeyFile rejects. All lines before it form a valid key
-/// file.
-std::size_t firstRefusedLine(const std::vector<std::string> &lines)
+bool isHeader(const std::string &line)
 {
-    std::size_t good = 0;
-    std::size_t bad = lines.size();
-    while (bad - good > 1) {
-        const std::size_t middle = good + (bad - good) / 2;
-        (parse(join(lines, middle)) ? good : bad) = middle;
-    }
-    return bad - 1;
+    const std::string content = trimmed(line);
+    return !content.empty() && content.front() == '[';
 }
 
-bool reportNonUtf8(const std::vector<std::string> &lines, Complaints &complaints)
+/// Reports each line that is not UTF-8, and replaces its invalid bytes, so that the rest of the
+/// file can be checked.
+void mendNonUtf8(std::vector<std::string> &lines, Complaints &complaints)
 {
-    bool found = false;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (g_utf8_validate(lines[i].data(), static_cast<gssize>(lines[i].size()), nullptr))
+        const gssize size = static_cast<gssize>(lines[i].size());
+        if (g_utf8_validate(lines[i].data(), size, nullptr))
             continue;
         complaints.add(static_cast<int>(i) + 1, "expected text in UTF-8");
-        found = true;
+        char *valid = g_utf8_make_valid(lines[i].data(), size);
+        lines[i] = valid;
+        g_free(valid);
     }
-    return found;
 }
 
-/// Parses the lines. Reports and clears each line that is not valid in a key file.
-GKeyFilePointer parseWithoutBadLines(std::vector<std::string> lines, Complaints &complaints)
+/**
+ * Finds the lines that GKeyFile rejects. GKeyFile reports only the first such line, without its
+ * number. The search parses each line separately, so its time grows linearly with the file.
+ */
+class BadLineSearch
 {
-    GKeyFilePointer file = parse(join(lines, lines.size()));
-    while (!file) {
-        const std::size_t bad = firstRefusedLine(lines);
-        complaints.add(
-            static_cast<int>(bad) + 1,
-            "expected [group], key=value below a group, a comment that begins with #, or "
-            "an empty line, found \"" +
-                trimmed(lines[bad]) + "\"");
-        lines[bad].clear();
-        file = parse(join(lines, lines.size()));
+public:
+    bool isBad(const std::string &line)
+    {
+        const std::string groups = m_groups == 0 ? "" : m_groups == 1 ? "[1]\n" : "[1]\n[2]\n";
+        const bool isBad = !parse((isHeader(line) ? "" : groups) + line);
+        if (!isBad && isHeader(line) && m_groups < 2)
+            ++m_groups;
+        return isBad;
     }
-    return file;
+
+private:
+    int m_groups = 0; // groups before the line; counted up to 2, since only the first is special
+};
+
+/// Returns the header without the characters that are not allowed in it, or an empty string if
+/// nothing remains.
+std::string repairedHeader(const std::string &line)
+{
+    const std::string content = trimmed(line);
+    std::string name = content.substr(0, content.find(']'));
+    const auto isForbidden = [](char c) { return c == '[' || g_ascii_iscntrl(c); };
+    name.erase(std::remove_if(name.begin(), name.end(), isForbidden), name.end());
+    return name.empty() ? name : "[" + name + "]";
 }
 
-bool containsGroup(const std::vector<KeyFileGroup> &groups, const std::string &name, int &line)
+/// Returns true if a bad line seems to be a header without its first bracket.
+bool isMeantAsHeader(const std::string &line)
 {
-    const auto matches = [&name](const KeyFileGroup &group) { return group.name == name; };
-    const auto found = std::find_if(groups.begin(), groups.end(), matches);
-    if (found != groups.end())
-        line = found->line;
-    return found != groups.end();
+    const std::string content = trimmed(line);
+    return !content.empty() && content.back() == ']' && content.find('=') == std::string::npos;
+}
+
+void complainAboutLine(std::size_t index, const std::string &line, Complaints &complaints)
+{
+    complaints.add(static_cast<int>(index) + 1,
+                   "expected [group], key=value below a group, a comment that begins with #, or "
+                   "an empty line, found \"" +
+                       trimmed(line) + "\"");
+}
+
+/// Reports each line that does not belong in a key file. Repairs such a header, and clears any
+/// other such line. If a header cannot be repaired, its keys are cleared as well, because they
+/// would otherwise belong to the group above.
+void mendBadLines(std::vector<std::string> &lines, Complaints &complaints)
+{
+    BadLineSearch search;
+    bool isGroupLost = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const bool isBad = search.isBad(lines[i]);
+        const bool startsGroup = isHeader(lines[i]) || (isBad && isMeantAsHeader(lines[i]));
+        if (isBad && (startsGroup || !isGroupLost))
+            complainAboutLine(i, lines[i], complaints);
+        if (isBad)
+            lines[i] = startsGroup ? repairedHeader(lines[i]) : std::string();
+        if (startsGroup)
+            isGroupLost = isBad && (lines[i].empty() || search.isBad(lines[i]));
+        if (isGroupLost)
+            lines[i].clear();
+    }
 }
 
 /** Collects the groups and keys from the lines of a text that GKeyFile has accepted. */
@@ -125,17 +163,19 @@ public:
 private:
     void takeGroup(const std::string &name)
     {
-        int earlier = 0;
-        if (containsGroup(groups, name, earlier))
-            complainAboutSecond("[" + name + "]: expected each group once", earlier);
-        groups.push_back(KeyFileGroup{name, m_line, {}});
+        const auto added = m_groupLines.emplace(name, m_line);
+        if (!added.second)
+            complainAboutSecond("[" + name + "]: expected each group once", added.first->second);
+        groups.push_back(KeyFileGroup{name, m_line, {}, false});
+        m_keyLines.clear();
     }
 
     void takeKey(const std::string &key)
     {
         KeyFileGroup &group = groups.back();
-        if (const KeyFileEntry *earlier = group.find(key)) {
-            complainAboutSecond(key + ": expected each key once in a group", earlier->line);
+        const auto added = m_keyLines.emplace(key, m_line);
+        if (!added.second) {
+            complainAboutSecond(key + ": expected each key once in a group", added.first->second);
             return;
         }
         group.entries.push_back(KeyFileEntry{key, value(group.name, key), m_line});
@@ -161,8 +201,22 @@ private:
 
     GKeyFile *m_file;
     Complaints &m_complaints;
+    std::unordered_map<std::string, int> m_groupLines; // the line of each group
+    std::unordered_map<std::string, int> m_keyLines;   // the line of each key of the last group
     int m_line = 0;
 };
+
+/// Marks the groups that contain a line with a complaint.
+void markDamaged(std::vector<KeyFileGroup> &groups, const std::vector<Complaint> &sorted)
+{
+    std::size_t next = 0; // the first group below the complaint
+    for (const Complaint &complaint : sorted) {
+        while (next < groups.size() && groups[next].line <= complaint.line)
+            ++next;
+        if (next > 0)
+            groups[next - 1].isDamaged = true;
+    }
+}
 
 std::string withoutByteOrderMark(const std::string &text)
 {
@@ -181,15 +235,21 @@ const KeyFileEntry *KeyFileGroup::find(const std::string &key) const
 
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints)
 {
-    const std::vector<std::string> lines = splitLines(withoutByteOrderMark(text));
-    if (reportNonUtf8(lines, complaints))
+    std::vector<std::string> lines = splitLines(withoutByteOrderMark(text));
+    mendNonUtf8(lines, complaints);
+    GKeyFilePointer file = parse(join(lines));
+    if (!file) {
+        mendBadLines(lines, complaints);
+        file = parse(join(lines));
+    }
+    if (!file) {
+        complaints.add(0, "expected a key file");
         return {};
-    const GKeyFilePointer file = parseWithoutBadLines(lines, complaints);
-    if (!complaints.isEmpty())
-        return {};
+    }
     LineScan scan(file.get(), complaints);
     for (const std::string &line : lines)
         scan.take(line);
+    markDamaged(scan.groups, complaints.sorted());
     return scan.groups;
 }
 

@@ -19,15 +19,17 @@ struct KeyFileGroup {
     std::string name;
     int line = 0;
     std::vector<KeyFileEntry> entries;
+    bool isDamaged = false; // a line of the group does not belong in a key file, or occurs twice
 
     /// Returns the entry with the given key, or null if the group does not contain the key.
     const KeyFileEntry *find(const std::string &key) const;
 };
 
 /**
- * Returns the groups of a GLib key file in the order of the file. The result includes line numbers,
- * which GKeyFile does not report. Adds a complaint for each line that is not valid in a key file,
- * and for each duplicate group or key.
+ * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
+ * not report. Adds a complaint for each line that does not belong in a key file, and for groups and
+ * keys that occur twice. Even then, returns everything else, so that its mistakes can be found,
+ * too.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 

@@ -25,18 +25,24 @@ std::string inBraces(std::vector<std::string> names)
 class RuleCheck
 {
 public:
-    RuleCheck(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+    RuleCheck(const Scenario &scenario, const KeyFileGroup &group, MissingGroups &missing,
+              Complaints &complaints)
         : m_scenario(scenario), m_group(group), m_rule(scenario.rules.at(group.name)),
-          m_complaints(complaints)
+          m_missing(missing), m_complaints(complaints)
     {
     }
 
-    void run()
+    void checkKeysTogether()
     {
         checkOutcome();
-        checkGoto();
+        checkGotoAlone();
         checkDigits();
         checkCredit();
+    }
+
+    void checkEachKey()
+    {
+        checkGotoTarget();
         checkPlace();
         checkReply();
         for (const char *key : {"Reply", "WrongDigits", "NotEnough"})
@@ -65,21 +71,31 @@ private:
         const bool replies = m_rule.outcome == Outcome::Reply;
         if (replies && !has("Reply") && !has("Goto"))
             complain("expected Reply, Goto, Outcome or DeviceEvent");
-        allow("Reply", replies, "with Outcome=reply");
+        allow("Reply", replies || m_rule.outcome == Outcome::Refuse,
+              "with Outcome=reply or Outcome=refuse");
         allow("Goto", replies, "with Outcome=reply");
         allow("Credit", replies, "with Outcome=reply");
         allow("Outcome", !has("DeviceEvent"), "without DeviceEvent");
         allow("Away", has("DeviceEvent"), "with DeviceEvent");
     }
 
-    void checkGoto()
+    /// Returns true the first time that the missing group is needed. Each is reported only once.
+    bool isNewlyMissing(const std::string &group) { return m_missing.insert(group).second; }
+
+    void checkGotoAlone()
+    {
+        if (has("Goto") && m_group.entries.size() > 1)
+            complain("expected no other key beside Goto");
+    }
+
+    void checkGotoTarget()
     {
         if (!has("Goto"))
             return;
-        if (m_group.entries.size() > 1)
-            complain("expected no other key beside Goto");
         const auto target = m_scenario.rules.find(m_rule.goTo);
         const int line = m_group.find("Goto")->line;
+        if (target == m_scenario.rules.end() && !isNewlyMissing(m_rule.goTo))
+            return;
         if (target == m_scenario.rules.end())
             m_complaints.add(
                 line, "Goto: expected a code or answer of this file, such as *123#, found \"" +
@@ -114,8 +130,11 @@ private:
         const std::string menu = menuOf(m_group.name);
         const std::string answer = m_group.name.substr(menu.size() + 1);
         const auto rule = m_scenario.rules.find(menu);
-        if (rule == m_scenario.rules.end())
+        const bool isMissing = rule == m_scenario.rules.end();
+        if (isMissing && isNewlyMissing(menu))
             complain("expected a group " + bracketed(menu) + ", which this is an answer to");
+        else if (isMissing)
+            return;
         else if (rule->second.outcome != Outcome::Reply || !rule->second.goTo.empty())
             complain("expected a Reply in " + bracketed(menu) + ", which this is an answer to");
         const bool isPlain = !answer.empty() && answer.find('%') == std::string::npos;
@@ -162,14 +181,19 @@ private:
     const Scenario &m_scenario;
     const KeyFileGroup &m_group;
     const Rule &m_rule;
+    MissingGroups &m_missing;
     Complaints &m_complaints;
 };
 
 } // namespace
 
-void checkRule(const Scenario &scenario, const KeyFileGroup &group, Complaints &complaints)
+void checkRule(const Scenario &scenario, const KeyFileGroup &group, bool isComplete,
+               MissingGroups &missing, Complaints &complaints)
 {
-    RuleCheck(scenario, group, complaints).run();
+    RuleCheck check(scenario, group, missing, complaints);
+    if (isComplete)
+        check.checkKeysTogether();
+    check.checkEachKey();
 }
 
 } // namespace Tksv

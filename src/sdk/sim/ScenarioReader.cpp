@@ -1,6 +1,7 @@
 #include "ScenarioReader.h"
 
 #include <algorithm>
+#include <set>
 
 #include "GroupName.h"
 #include "KeyFile.h"
@@ -99,21 +100,41 @@ const Key<TimedEvent> EVENT_KEYS[] = {
     {"Away", [](const ScenarioValue &v, TimedEvent &e) { e.away = v.away(); }},
 };
 
+/// Reads the keys of a group. Returns true if each line of the group is a known key. Otherwise, a
+/// key that seems to be missing may only be misspelt.
 template <typename T, std::size_t N>
-void readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Complaints &complaints)
+bool readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Complaints &complaints)
 {
+    bool isComplete = !group.isDamaged;
     std::vector<std::string> names;
     for (const Key<T> &key : keys)
         names.push_back(key.name);
     for (const KeyFileEntry &entry : group.entries) {
         const auto matches = [&entry](const Key<T> &key) { return entry.key == key.name; };
         const auto key = std::find_if(std::begin(keys), std::end(keys), matches);
-        if (key == std::end(keys))
+        if (key == std::end(keys)) {
             complaints.add(entry.line,
                            "unknown key " + entry.key + "; expected " + enumerate(names));
-        else
+            isComplete = false;
+        } else {
             key->read(ScenarioValue(entry, complaints), target);
+        }
     }
+    return isComplete;
+}
+
+/// Returns the group [Network], or a group whose name seems to be a misspelling of it, or null.
+const KeyFileGroup *findNetwork(const std::vector<KeyFileGroup> &groups)
+{
+    const KeyFileGroup *similar = nullptr;
+    for (const KeyFileGroup &group : groups) {
+        const GroupKind kind = kindOf(group.name);
+        if (kind == GroupKind::Network)
+            return &group;
+        if (kind == GroupKind::Unknown && (group.find("Operator") || group.find("IMSI")))
+            similar = &group;
+    }
+    return similar;
 }
 
 /* ---- reading the groups ------------------------------------------------------------------ */
@@ -129,15 +150,15 @@ public:
 
     void readNetwork(const std::vector<KeyFileGroup> &groups)
     {
-        const auto matches = [](const KeyFileGroup &group) { return group.name == "Network"; };
-        const auto network = std::find_if(groups.begin(), groups.end(), matches);
-        if (network == groups.end()) {
+        const KeyFileGroup *network = findNetwork(groups);
+        if (!network) {
             m_complaints.add(1, "expected a group [Network] with Operator= and IMSI=");
-            return;
+        } else if (readKeys(*network, NETWORK_KEYS, m_scenario, m_complaints)) {
+            require(*network, "Operator");
+            require(*network, "IMSI");
+        } else if (!m_scenario.balance) {
+            m_scenario.balance = 0; // the key may be misspelt; otherwise each use would be reported
         }
-        readKeys(*network, NETWORK_KEYS, m_scenario, m_complaints);
-        require(*network, "Operator");
-        require(*network, "IMSI");
     }
 
     void read(const KeyFileGroup &group)
@@ -182,26 +203,33 @@ private:
     {
         PushTarget target;
         target.push.group = group.name;
-        readKeys(group, PUSH_KEYS, target, m_complaints);
-        require(group, "After");
-        require(group, "Reply");
+        if (readKeys(group, PUSH_KEYS, target, m_complaints)) {
+            require(group, "After");
+            require(group, "Reply");
+        }
         m_scenario.pushes.push_back(target.push);
-        m_scenario.rules[group.name] = target.rule;
+        m_scenario.rules.emplace(group.name, target.rule);
     }
 
     void readEvent(const KeyFileGroup &group)
     {
         TimedEvent event;
-        readKeys(group, EVENT_KEYS, event, m_complaints);
-        require(group, "After");
+        if (readKeys(group, EVENT_KEYS, event, m_complaints)) {
+            require(group, "After");
+            requireEffect(group, event);
+        }
+        if (event.every && event.every->count() == 0)
+            m_complaints.add(group.find("Every")->line, "Every: expected more than 0 milliseconds");
+        m_scenario.events.push_back(event);
+    }
+
+    void requireEffect(const KeyFileGroup &group, const TimedEvent &event)
+    {
         const bool doesSomething =
             event.smsReady || event.signalPercent || event.state || event.deviceEvent;
         if (!doesSomething)
             m_complaints.add(group.line, bracketed(group.name) +
                                              ": expected SMS, Signal, State or DeviceEvent");
-        if (event.every && event.every->count() == 0)
-            m_complaints.add(group.find("Every")->line, "Every: expected more than 0 milliseconds");
-        m_scenario.events.push_back(event);
     }
 
     void readRule(const KeyFileGroup &group)
@@ -209,7 +237,7 @@ private:
         Rule rule;
         rule.delay = m_scenario.delay;
         readKeys(group, RULE_KEYS, rule, m_complaints);
-        m_scenario.rules[group.name] = rule;
+        m_scenario.rules.emplace(group.name, rule);
     }
 
     Scenario &m_scenario;
@@ -220,15 +248,17 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<const KeyFileGroup *> readWell; // the groups without errors
+    std::vector<std::pair<const KeyFileGroup *, bool>> rules; // true if the group has no mistake
+    std::set<std::string> names;
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();
         reader.read(group);
-        if (complaints.count() == before && scenario.rules.count(group.name))
-            readWell.push_back(&group);
+        if (names.insert(group.name).second && scenario.rules.count(group.name))
+            rules.emplace_back(&group, !group.isDamaged && complaints.count() == before);
     }
-    for (const KeyFileGroup *group : readWell)
-        checkRule(scenario, *group, complaints);
+    MissingGroups missing;
+    for (const auto &rule : rules)
+        checkRule(scenario, *rule.first, rule.second, missing, complaints);
 }
 
 } // namespace
@@ -239,7 +269,7 @@ ScenarioResult readScenario(const std::string &text, const std::string &file)
     Scenario scenario;
     scenario.source = file;
     const std::vector<KeyFileGroup> groups = readKeyFile(text, complaints);
-    if (complaints.isEmpty())
+    if (complaints.isEmpty() || !groups.empty())
         readGroups(groups, scenario, complaints);
     if (complaints.isEmpty())
         return ScenarioResult{std::move(scenario), {}};

@@ -14,28 +14,33 @@ const Amount HUNDREDTHS_IN_UNIT = 100;
 const int PIN_RETRIES = 3;               // the same as on every SIM (ETSI TS 102 221, 9.5.1)
 const std::size_t MAX_AMOUNT_DIGITS = 9; // a balance never has more digits
 
-/// Returns the type of a reply without text.
-int refusalType(Outcome outcome)
+UssdReply emptyReply(TKSV_Failure reason)
+{
+    return failedReply(Failure{reason});
+}
+
+/// Returns the reason of a reply without a text.
+TKSV_Failure reasonOf(Outcome outcome)
 {
     switch (outcome) {
     case Outcome::Unsupported:
-        return UssdNotSupported;
+        return TKSV_FAILURE_NOT_SUPPORTED;
     case Outcome::NetworkTimeout:
-        return UssdNetworkTimeout;
+        return TKSV_FAILURE_NETWORK_TIMEOUT;
     default:
-        return UssdEndedByNetwork;
+        return TKSV_FAILURE_ENDED_BY_NETWORK;
     }
 }
 
-int statusFor(Outcome outcome)
+RequestResult resultFor(Outcome outcome)
 {
     switch (outcome) {
     case Outcome::NoDevice:
-        return RequestNoDevice;
+        return {RequestNoDevice, TKSV_FAILURE_NO_DEVICE};
     case Outcome::DeviceTimeout:
-        return RequestDeviceTimeout;
+        return {RequestDeviceTimeout, TKSV_FAILURE_NO_ANSWER};
     default:
-        return RequestAccepted;
+        return {};
     }
 }
 
@@ -77,22 +82,25 @@ void SimulatedNetwork::stop()
     m_scheduler.stop();
 }
 
-int SimulatedNetwork::request(RequestToken token, RequestKind kind, const std::string &text)
+RequestResult SimulatedNetwork::request(RequestToken token, RequestKind kind,
+                                        const std::string &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_stopped || !isRegistered())
-        return RequestNoDevice;
+    if (m_stopped)
+        return {RequestNoDevice, TKSV_FAILURE_NO_DEVICE};
+    if (!isRegistered())
+        return {RequestNoDevice, refusalOf(m_state)};
     const Request request{token, findRule(kind, text),
                           kind == RequestKind::Answer ? text : std::string()};
     const Rule rule = ruleFor(request.match);
-    const int status = statusFor(rule.outcome);
-    if (status != RequestAccepted)
-        return status;
+    const RequestResult result = resultFor(rule.outcome);
+    if (result.status != RequestAccepted)
+        return result;
     m_inFlight = token;
     m_menu = OpenMenu();
     if (rule.outcome != Outcome::Silence)
         schedule(rule.delay, [this, request](Notices &notices) { perform(request, notices); });
-    return RequestAccepted;
+    return result;
 }
 
 void SimulatedNetwork::endSession()
@@ -122,6 +130,18 @@ bool SimulatedNetwork::sendPin(const std::string &pin)
     if (m_stopped || m_state != TKSV_DEVICE_SIM_LOCKED || m_pinRetries == 0)
         return false;
     schedule(m_scenario.delay, [this, pin](Notices &notices) { tryPin(pin, notices); });
+    return true;
+}
+
+bool SimulatedNetwork::enable()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_state != TKSV_DEVICE_DISABLED)
+        return false;
+    schedule(m_scenario.delay, [this](Notices &notices) {
+        if (m_state == TKSV_DEVICE_DISABLED)
+            setState(TKSV_DEVICE_REGISTERED, notices);
+    });
     return true;
 }
 
@@ -206,9 +226,10 @@ void SimulatedNetwork::perform(const Request &request, Notices &notices)
 UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
 {
     if (rule.outcome != Outcome::Reply)
-        return UssdReply{refusalType(rule.outcome), std::string()};
+        return failedReply(
+            Failure{reasonOf(rule.outcome), false, expand(rule.reply, placeholders(request))});
     const UssdReply reply = textReply(request, rule);
-    return reply.text.empty() ? UssdReply{UssdEndedByNetwork, std::string()} : reply;
+    return reply.text.empty() ? emptyReply(TKSV_FAILURE_ENDED_BY_NETWORK) : reply;
 }
 
 /// Returns the reply to the request. The text is empty if the rule does not provide a reply. The
@@ -299,7 +320,7 @@ void SimulatedNetwork::setState(TKSV_DeviceState state, Notices &notices)
     const bool couldSend = canSendSms();
     m_state = state;
     if (const RequestToken failed = isRegistered() ? 0 : m_inFlight) {
-        const UssdReply failure{UssdEndedByNetwork, std::string()};
+        const UssdReply failure = emptyReply(refusalOf(m_state));
         notices.push_back([=](BackendObserver &o) { o.ussdReply(failed, failure); });
     }
     if (!isRegistered())

@@ -23,10 +23,12 @@ public:
 
     void start(BackendObserver &observer) override;
     void stop() override;
-    int request(RequestToken token, RequestKind kind, const std::string &text) override;
+    RequestResult request(RequestToken token, RequestKind kind, const std::string &text) override;
     void endSession() override;
+    bool endForeignSession() override { return false; }
     bool sendSms(const SmsMessage &message) override;
     bool sendPin(const std::string &pin) override;
+    bool enable() override;
     DeviceInfo info() const override;
 
 private:

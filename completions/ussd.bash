@@ -1,0 +1,54 @@
+# Completion of ussd(1) for bash.
+
+# Prints the command on the line, if there is one.
+_ussd_command() {
+    local word
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        case $word in
+        send | chat | status | modems | watch | cancel)
+            printf '%s' "$word"
+            return
+            ;;
+        esac
+    done
+}
+
+_ussd() {
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options
+    # bash takes "=" as a word of its own.
+    if [[ $current == = ]]; then
+        current=
+    elif [[ $previous == = ]]; then
+        previous=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    COMPREPLY=()
+    case $previous in
+    -m | --modem)
+        mapfile -t COMPREPLY < <(compgen -W "$(ussd modems 2>/dev/null | cut -f1)" -- "$current")
+        return
+        ;;
+    --scenario)
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+        return
+        ;;
+    -t | --timeout)
+        return
+        ;;
+    esac
+    if [[ $current == -* ]]; then
+        options='--modem --timeout --quiet --demo --scenario --help --version'
+        case $(_ussd_command) in
+        send) options+=' --enable --end-foreign-session --json' ;;
+        chat) options+=' --enable --end-foreign-session' ;;
+        watch) options+=' --enable --json' ;;
+        status | modems | cancel) options+=' --json' ;;
+        *) options+=' --enable --end-foreign-session --json' ;;
+        esac
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
+    elif [[ -z $(_ussd_command) ]]; then
+        mapfile -t COMPREPLY < <(compgen -W 'send chat status modems watch cancel' -- "$current")
+    fi
+}
+
+complete -F _ussd ussd

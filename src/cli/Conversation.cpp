@@ -1,0 +1,232 @@
+#include "Conversation.h"
+
+#include <algorithm>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include "CommandText.h"
+
+namespace Cli
+{
+
+namespace
+{
+
+/// The time that a request may take to end on the device.
+const Milliseconds CANCEL_LIMIT(1000);
+
+/// If the reply arrives within this time, the changes of the device are not observed. The library
+/// needs another thread to report them.
+const Milliseconds QUICK_REPLY(100);
+
+/** Passes the response from the thread of the library to the main thread. */
+class Mailbox
+{
+public:
+    /// Prepares for the response to a request. The response wakes `waits`.
+    void expect(Waits *waits)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_waits = waits;
+        m_isExpected = true;
+        m_response.reset();
+    }
+    /// Called if no response will arrive.
+    void expectNothing()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isExpected = false;
+    }
+    void closeMenu()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isMenuOpen = false;
+    }
+    /// Stores the response. Returns false if no response is expected.
+    bool put(const Outcome &response)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isMenuOpen = response.isMenu();
+        if (!std::exchange(m_isExpected, false))
+            return false;
+        m_response = response;
+        m_waits->wake();
+        return true;
+    }
+    bool hasResponse() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_response.has_value();
+    }
+    Outcome take()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return *std::exchange(m_response, std::nullopt);
+    }
+    bool isExpected() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_isExpected;
+    }
+    bool isMenuOpen() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_isMenuOpen;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    Waits *m_waits = nullptr;
+    bool m_isExpected = false;
+    bool m_isMenuOpen = false;
+    std::optional<Outcome> m_response;
+};
+
+/// Returns the mailbox, which is never destroyed, because a call-back may run while the program
+/// exits.
+Mailbox &mailbox()
+{
+    static auto *const only = new Mailbox;
+    return *only;
+}
+
+bool hasResponse()
+{
+    return mailbox().hasResponse();
+}
+
+/// Returns true if no modem has been found because ModemManager does not answer.
+bool isStuck(const TKSV_DeviceInfo &device)
+{
+    return device.isLooking && device.problem != TKSV_PROBLEM_NONE;
+}
+
+TKSV_FailureInfo lastFailure(TKSV_Failure otherwise)
+{
+    TKSV_FailureInfo failure = {};
+    TKSV_Device_GetLastFailure(&failure);
+    if (failure.reason == TKSV_FAILURE_NONE)
+        failure.reason = otherwise;
+    return failure;
+}
+
+/* ---- on threads of the library ----------------------------------------------------------- */
+
+unsigned char takeResponse(int, void *data)
+{
+    if (!mailbox().isExpected())
+        return 0; // the network's own message
+    const auto *const response = static_cast<const TKSV_USSDResponse *>(data);
+    Outcome outcome;
+    outcome.type = response->type;
+    outcome.text = fromUtf16(response->text);
+    if (outcome.text.empty() && outcome.type != 1)
+        outcome.failure = lastFailure(TKSV_FAILURE_REFUSED);
+    return mailbox().put(outcome) ? 1 : 0;
+}
+
+unsigned char takeLoss(int, void *)
+{
+    Outcome outcome;
+    outcome.failure = lastFailure(TKSV_FAILURE_DEVICE_LOST);
+    mailbox().put(outcome);
+    return 1;
+}
+
+} // namespace
+
+Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
+    : m_device(device), m_waits(waits), m_timeout(timeout)
+{
+    TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
+    TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);
+}
+
+Conversation::~Conversation()
+{
+    end();
+    TKSV_DevSrv_UnRegisterDevInitEventCallback(takeLoss);
+    TKSV_USSDSrv_UnRegisterUSSDCallback(takeResponse);
+}
+
+Outcome Conversation::send(const std::string &text)
+{
+    const Clock::time_point start = Clock::now();
+    TKSV_USSDRequest request = requestOf(text);
+    int status = 0;
+    Outcome outcome;
+    mailbox().expect(&m_waits);
+    if (TKSV_USSDSrv_Request(&request, &status) == 0) {
+        outcome = await(start);
+    } else {
+        mailbox().expectNothing();
+        outcome.failure = lastFailure(TKSV_FAILURE_NO_DEVICE);
+        outcome.failure.wasNotSent = 1;
+    }
+    outcome.seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    return outcome;
+}
+
+/// Waits for the response. The time limit starts again when the request gets its turn. The wait
+/// ends early if ModemManager does not answer.
+Outcome Conversation::await(Clock::time_point start)
+{
+    Clock::time_point end = start + m_timeout;
+    if (!m_waits.until(hasResponse, std::min(end, start + QUICK_REPLY)))
+        m_device.follow();
+    bool isAwaitingTurn = false;
+    const auto isStateChanged = [&] {
+        const TKSV_DeviceInfo device = m_device.info();
+        return (device.waitsForTurn != 0) != isAwaitingTurn || isStuck(device);
+    };
+    while (m_waits.until([&] { return hasResponse() || isStateChanged(); }, end)) {
+        if (hasResponse())
+            return mailbox().take();
+        if (isStuck(m_device.info()))
+            break;
+        isAwaitingTurn = !isAwaitingTurn;
+        end = Clock::now() + m_timeout;
+        if (isAwaitingTurn && m_turnAwaited)
+            m_turnAwaited();
+    }
+    if (m_device.info().isLooking)
+        return giveUp(TKSV_FAILURE_NO_DEVICE);
+    return giveUp(isAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER);
+}
+
+/// Cancels the request on the device. Returns a reply that arrives at the same time. Otherwise,
+/// returns a failure with the reason, or TKSV_FAILURE_CANCELLED if a signal has arrived.
+Outcome Conversation::giveUp(TKSV_Failure reason)
+{
+    TKSV_Device_CancelRequest();
+    m_waits.untilDespiteSignal(hasResponse, CANCEL_LIMIT);
+    Outcome outcome;
+    if (hasResponse()) {
+        outcome = mailbox().take();
+    } else {
+        TKSV_USSDSrv_Release(nullptr);
+        mailbox().expectNothing();
+        mailbox().closeMenu();
+        outcome.failure.reason = TKSV_FAILURE_CANCELLED;
+    }
+    if (outcome.failure.reason == TKSV_FAILURE_CANCELLED && !m_waits.signal())
+        outcome.failure.reason = reason;
+    outcome.hasMissedTurn = outcome.failure.reason == TKSV_FAILURE_IN_USE;
+    return outcome;
+}
+
+void Conversation::end()
+{
+    if (!mailbox().isMenuOpen())
+        return;
+    TKSV_USSDSrv_Release(nullptr);
+    mailbox().closeMenu();
+}
+
+bool Conversation::isMenuOpen() const
+{
+    return mailbox().isMenuOpen();
+}
+
+} // namespace Cli

@@ -1,0 +1,62 @@
+#ifndef CLI_CONVERSATION_H
+#define CLI_CONVERSATION_H
+
+#include <functional>
+#include <string>
+
+#include "Device.h"
+#include "tksv_device.h"
+#include "Waits.h"
+
+namespace Cli
+{
+
+/** The outcome of sending a code or an answer. */
+struct Outcome {
+    TKSV_FailureInfo failure = {}; // TKSV_FAILURE_NONE if there is a reply
+    int type = 0;                  // see TKSV_USSDResponse
+    std::string text;              // the reply, in UTF-8
+    double seconds = 0;            // from the request to its end
+    bool hasMissedTurn = false;    // another program of the user did not free the modem in time
+
+    bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
+    bool isMenu() const { return !hasFailed() && type == 1; }
+};
+
+/**
+ * The USSD session of this program. Only one object may exist, because the call-backs of the device
+ * library have no context.
+ */
+class Conversation
+{
+public:
+    /// `device` and `waits` must outlive the object. `timeout` is the time limit for each reply.
+    Conversation(Device &device, Waits &waits, Milliseconds timeout);
+    /// Ends an open session.
+    ~Conversation();
+    Conversation(const Conversation &) = delete;
+    Conversation &operator=(const Conversation &) = delete;
+
+    /// Sets a function that is called once when a request has to wait for another program.
+    void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
+
+    /// Sends the text and waits for the reply. If the reply does not arrive in time, or if a signal
+    /// arrives first, the function cancels the request on the device.
+    Outcome send(const std::string &text);
+    /// Ends the session if a menu is open.
+    void end();
+    bool isMenuOpen() const;
+
+private:
+    Outcome await(Clock::time_point start);
+    Outcome giveUp(TKSV_Failure reason);
+
+    Device &m_device;
+    Waits &m_waits;
+    const Milliseconds m_timeout;
+    std::function<void()> m_turnAwaited;
+};
+
+} // namespace Cli
+
+#endif

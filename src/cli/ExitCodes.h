@@ -1,0 +1,27 @@
+#ifndef CLI_EXITCODES_H
+#define CLI_EXITCODES_H
+
+namespace Cli
+{
+
+/**
+ * The exit codes of the programs that send codes, one for each kind of outcome. A program that a
+ * signal ends returns EXIT_SIGNAL plus the number of the signal.
+ */
+enum ExitCode {
+    EXIT_DONE = 0,
+    EXIT_REFUSED = 1,       // the network or the modem did not carry out the command
+    EXIT_WRONG_USAGE = 2,   // the command line is wrong
+    EXIT_NOT_READY = 3,     // there is no modem, or the modem cannot send codes
+    EXIT_NO_ANSWER = 4,     // no reply arrived in time
+    EXIT_IN_USE = 5,        // another program uses codes on the modem
+    EXIT_NOT_PERMITTED = 6, // the system's policy denies access to the modem
+    EXIT_MENU_OPEN = 7,     // the last reply was a menu, and there was no answer to it
+    EXIT_NOT_WRITTEN = 8,   // standard output could not be written
+    EXIT_SIGNAL = 128,
+    EXIT_CANCELLED = 130 // Ctrl-C: EXIT_SIGNAL plus SIGINT
+};
+
+} // namespace Cli
+
+#endif

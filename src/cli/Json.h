@@ -1,0 +1,38 @@
+#ifndef CLI_JSON_H
+#define CLI_JSON_H
+
+#include <json-glib/json-glib.h>
+#include <string>
+
+namespace Cli
+{
+
+/** A JSON object that is written on one line. Its members keep their order. */
+class Json
+{
+public:
+    Json();
+    ~Json();
+    Json(const Json &) = delete;
+    Json &operator=(const Json &) = delete;
+
+    /// Adds a member. A string is UTF-8.
+    void add(const char *name, const std::string &value);
+    void add(const char *name, const char *value);
+    void add(const char *name, int value);
+    void add(const char *name, bool value);
+    /// Adds the last member, a number that is rounded to milliseconds. json-glib writes all digits,
+    /// such as 0.69999999999999996 for 0.7.
+    void addSeconds(const char *name, double value);
+
+    /// Returns the object without a line feed. Characters that control a terminal are escaped.
+    std::string text() const;
+
+private:
+    JsonObject *const m_object;
+    std::string m_seconds; // the last member
+};
+
+} // namespace Cli
+
+#endif

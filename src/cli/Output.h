@@ -1,0 +1,43 @@
+#ifndef CLI_OUTPUT_H
+#define CLI_OUTPUT_H
+
+#include <string>
+
+#include "Json.h"
+#include "Waits.h"
+
+namespace Cli
+{
+
+/**
+ * Prints results to standard output and messages to standard error. Replaces or escapes all
+ * characters that are unsafe for a terminal.
+ */
+class Output
+{
+public:
+    /// If `isQuiet` is true, notices are not printed.
+    Output(Waits &waits, bool isQuiet);
+
+    void line(const std::string &text); ///< prints a line of the result
+    void line(const Json &object);
+    void notice(const std::string &text);
+    void error(const std::string &text);
+    void prompt(const std::string &text); ///< prints the text without a line feed
+
+    /// Closes standard output. Returns false if any part of the results could not be written.
+    bool finish();
+    /// Returns true after standard output has failed.
+    bool hasFailed() const { return m_error != 0; }
+
+private:
+    void write(const std::string &text);
+
+    Waits &m_waits;
+    const bool m_isQuiet;
+    int m_error = 0; // the errno of the first failure of standard output
+};
+
+} // namespace Cli
+
+#endif

@@ -1,0 +1,108 @@
+#include "CliTest.h"
+
+#include <csignal>
+
+#include <QJsonDocument>
+#include <unistd.h>
+
+namespace
+{
+const int LIMIT = 30000; // ms
+}
+
+UssdProcess::UssdProcess(const QStringList &arguments)
+{
+    setProgram(QLatin1String(USSD_PROGRAM));
+    setArguments(arguments);
+}
+
+UssdProcess::~UssdProcess()
+{
+    kill();
+    waitForFinished();
+}
+
+/// Runs in the new process before the program.
+void UssdProcess::setupChildProcess()
+{
+    for (auto stream = m_streams.constBegin(); stream != m_streams.constEnd(); ++stream)
+        dup2(stream.value(), stream.key());
+    if (m_ignoredSignal)
+        signal(m_ignoredSignal, SIG_IGN);
+}
+
+void UssdProcess::start()
+{
+    QProcess::start();
+    waitForStarted();
+}
+
+void UssdProcess::readAll()
+{
+    m_out += QString::fromUtf8(readAllStandardOutput());
+    m_error += QString::fromUtf8(readAllStandardError());
+}
+
+bool UssdProcess::waitForOutput(const QString &text)
+{
+    return QTest::qWaitFor(
+        [&] {
+            readAll();
+            return m_out.contains(text);
+        },
+        LIMIT);
+}
+
+bool UssdProcess::waitForError(const QString &text)
+{
+    return QTest::qWaitFor(
+        [&] {
+            readAll();
+            return m_error.contains(text);
+        },
+        LIMIT);
+}
+
+void UssdProcess::sendSignal(int signal)
+{
+    ::kill(pid_t(processId()), signal);
+}
+
+Run UssdProcess::finish()
+{
+    Run run;
+    if (state() != NotRunning && !waitForFinished(LIMIT))
+        return run;
+    readAll();
+    run.code = exitStatus() == NormalExit ? exitCode() : -1;
+    run.out = m_out;
+    run.error = m_error;
+    return run;
+}
+
+Run CliTest::run(const QStringList &arguments, const QByteArray &input)
+{
+    UssdProcess process(arguments);
+    process.start();
+    process.write(input);
+    process.closeWriteChannel();
+    return process.finish();
+}
+
+Run CliTest::run(const char *line)
+{
+    return run(words(line));
+}
+
+QStringList CliTest::words(const char *line)
+{
+    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QList<QJsonObject> objectsIn(const QString &output)
+{
+    QList<QJsonObject> objects;
+    for (const QString &line : output.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        objects << QJsonDocument::fromJson(line.toUtf8()).object();
+    return objects;
+}

@@ -1,0 +1,70 @@
+#ifndef CLITEST_H
+#define CLITEST_H
+
+#include "UssdTest.h"
+
+#include <QJsonObject>
+#include <QProcess>
+
+/** The result of a finished program. */
+struct Run {
+    int code = -1; // -1 if the program did not end, or if a signal ended it
+    QString out;
+    QString error;
+};
+
+/**
+ * A running `ussd`. Its standard output can be replaced with a file descriptor of the test.
+ */
+class UssdProcess : public QProcess
+{
+    Q_OBJECT
+public:
+    explicit UssdProcess(const QStringList &arguments);
+    ~UssdProcess() override; ///< kills the program if it is still running
+
+    /// Replaces a standard stream of the program. Must be called before start().
+    void replaceStream(int stream, int file) { m_streams.insert(stream, file); }
+    /// Starts the program with a signal ignored, as nohup does.
+    void ignoreSignal(int signal) { m_ignoredSignal = signal; }
+    void start();
+    /// Waits until standard output or standard error contains the text.
+    bool waitForOutput(const QString &text);
+    bool waitForError(const QString &text);
+    void sendSignal(int signal);
+    /// Waits for the end of the program.
+    Run finish();
+
+protected:
+    void setupChildProcess() override;
+
+private:
+    void readAll();
+
+    QMap<int, int> m_streams;
+    int m_ignoredSignal = 0;
+    QString m_out;
+    QString m_error;
+};
+
+/** The base class of the tests that run `ussd`. */
+class CliTest : public UssdTest
+{
+protected:
+    /// Runs the program to its end.
+    static Run run(const QStringList &arguments, const QByteArray &input = QByteArray());
+    /// Runs the program with the words of the line, which are separated by blanks.
+    static Run run(const char *line);
+    static QStringList words(const char *line);
+};
+
+/// Returns the JSON object on each line of the output. An object is empty if its line is not JSON.
+QList<QJsonObject> objectsIn(const QString &output);
+
+/// Compares the exit code, and prints what the program has printed if it is wrong.
+#define COMPARE_EXIT(run, expected)                                                                \
+    QVERIFY2((run).code == (expected), qPrintable(QString::fromLatin1("exit code %1\n%2\n%3")      \
+                                                      .arg((run).code)                             \
+                                                      .arg((run).out, (run).error)))
+
+#endif

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# check_completions.sh PROGRAM ROOT: man page and completions know every option and command of the
+# program, and the completion for bash proposes what fits.
+set -u
+program=$1
+root=$2
+faults=0
+
+complain() {
+    printf '%s\n' "$*"
+    faults=1
+}
+
+# ---- every option and command is known everywhere
+
+options=$("$program" --help | grep -oE -- '^ +(-[a-z], )?--[a-z-]+' | grep -oE -- '--[a-z-]+')
+commands=$("$program" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]\{1,\}\) .*/\1/p' | sort -u)
+[ "$(wc -w <<<"$options")" -ge 10 ] || complain "the options of --help were not recognised: $options"
+[ "$(wc -w <<<"$commands")" -eq 6 ] || complain "the commands of --help were not recognised: $commands"
+page=$(sed 's/\\-/-/g; s/\\f.//g' "$root/man/ussd.1")
+for word in $options $commands; do
+    grep -qE -- "(^|[^a-z-])$word([^a-z-]|\$)" <<<"$page" || complain "man/ussd.1 lacks $word"
+    for file in ussd.bash _ussd; do
+        grep -qE -- "(^|[^a-z-])$word([^a-z-]|\$)" "$root/completions/$file" ||
+            complain "completions/$file lacks $word"
+    done
+done
+
+# ---- the completion for bash
+
+. "$root/completions/ussd.bash"
+ussd() {
+    [ "$*" = modems ] && printf '350000000000017\tExample One\tregistered\n'
+}
+
+# proposes WORDS EXPECTED: the completion of the last word of the line WORDS.
+proposes() {
+    read -ra COMP_WORDS <<<"$1"
+    [ "${1% }" = "$1" ] || COMP_WORDS+=('')
+    COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
+    COMPREPLY=()
+    _ussd
+    [ "${COMPREPLY[*]}" = "$2" ] || complain "'$1' is completed to '${COMPREPLY[*]}', not '$2'"
+}
+
+proposes 'ussd s' 'send status'
+proposes 'ussd ' 'send chat status modems watch cancel'
+proposes 'ussd send --en' '--enable --end-foreign-session'
+proposes 'ussd watch --en' '--enable'
+proposes 'ussd modems --e' ''
+proposes 'ussd chat --j' ''
+proposes 'ussd --json c' 'chat cancel'
+proposes 'ussd --modem ' '350000000000017'
+proposes 'ussd --modem = 35' '350000000000017'
+proposes 'ussd --modem 9' ''
+proposes 'ussd send *100# ' ''
+cd "$root" || exit 2
+proposes 'ussd --scenario scenarios/po' 'scenarios/postpaid.scenario'
+exit $faults

@@ -1,0 +1,449 @@
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstring>
+
+#include "base/DashboardText.h"
+#include "DeviceTest.h"
+#include "IUSSD.h"
+#include "plugin/GeneralWindow.h"
+#include "PluginFolderChoice.h"
+#include "sim/OperatorCodes.h"
+#include "sim/PaidTypeFinder.h"
+#include "window/DeviceMenu.h"
+#include "window/NoticeBar.h"
+
+using namespace Dashboard;
+
+/**
+ * Tests the window with a modem: no code that belongs to a demonstration is shown or sent, and the
+ * user learns why a command failed.
+ */
+class ModemWindowTest : public DeviceTest
+{
+    Q_OBJECT
+protected:
+    void tearDown() override;
+
+private slots:
+    void aDemonstrationIsMarkedInEveryLanguage();
+    void aModemIsNoDemonstration();
+    void withoutAModemNothingIsInvented();
+    void aModemHasNoPresetsOfAnotherOperator();
+    void aDemonstrationHasItsPresets();
+    void thePresetsGoWithTheDemonstration();
+    void openingSendsNothing();
+    void theFirstOwnCodesAreShownAtOnce();
+
+    void theQueryNeedsTheUser_data();
+    void theQueryNeedsTheUser();
+    void theQueryNeedsTheOperatorsCodes();
+    void theUserSwitchesTheQueryOn();
+    void onlyARealReplyIsAVerdict_data();
+    void onlyARealReplyIsAVerdict();
+
+    void aFailureIsSaidUntilTheNextCommand();
+    void aRejectedCommandIsSaid();
+    void aPendingCommandCanBeCancelled();
+    void theTurnOfAnotherProgramIsSaid();
+
+    void theModemIsSwitchedOnFromTheNotice();
+    void nobodyMaySwitchOnWithoutPermission();
+    void theModemsAreLookedForAgain_data();
+    void theModemsAreLookedForAgain();
+    void aForeignSessionIsEndedOnlyAfterAYes_data();
+    void aForeignSessionIsEndedOnlyAfterAYes();
+
+private:
+    TKSV_DeviceInfo modemWithSim();
+    TKSV_DeviceInfo demonstration();
+    GeneralWindow page() { return GeneralWindow(window().page()); }
+    int presets();
+    bool isVisible(const char *name) const { return part<QWidget>(name)->isVisible(); }
+    QString commandNotice() const { return notice("Dashboard_CommandNotice"); }
+    bool waitForSettling();
+    void useIntegratorsFolder();
+    void send(const char *code);
+};
+
+void ModemWindowTest::tearDown()
+{
+    DeviceTest::tearDown();
+    qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
+    qunsetenv("USSD_DETECT_PAID_TYPE");
+}
+
+TKSV_DeviceInfo ModemWindowTest::modemWithSim()
+{
+    TKSV_DeviceInfo info = modemInfo(TKSV_DEVICE_REGISTERED);
+    std::strcpy(info.imsi, "001990123456789");
+    std::strcpy(info.simOperatorCode, "00199");
+    return info;
+}
+
+TKSV_DeviceInfo ModemWindowTest::demonstration()
+{
+    TKSV_DeviceInfo info = modemInfo(TKSV_DEVICE_REGISTERED);
+    info.backend = TKSV_BACKEND_SIMULATOR;
+    std::strcpy(info.imsi, "001010123456789");
+    return info;
+}
+
+int ModemWindowTest::presets()
+{
+    return window()
+        .page()
+        ->findChildren<QPushButton *>(QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"))
+        .size();
+}
+
+/// Waits until the query would have been sent.
+bool ModemWindowTest::waitForSettling()
+{
+    PaidTypeFinder *finder = window().findChild<PaidTypeFinder *>();
+    QSignalSpy settled(finder, SIGNAL(settled()));
+    finder->restart();
+    const bool isSettled = settled.wait(10000);
+    drainEvents();
+    return isSettled;
+}
+
+/// Opens the window again with the sample configuration as that of an integrator.
+void ModemWindowTest::useIntegratorsFolder()
+{
+    DeviceTest::tearDown();
+    qputenv("USSD_PLUGIN_LIBRARY_PATH",
+            QFile::encodeName(HostCore::PluginFolderChoice::installed()));
+    setUp();
+}
+
+void ModemWindowTest::send(const char *code)
+{
+    QVERIFY(page().send(QLatin1String(code)));
+    QVERIFY(fakeSdkWaitIdle());
+    drainEvents();
+}
+
+// ---- what is shown -------------------------------------------------------------------------
+
+void ModemWindowTest::aDemonstrationIsMarkedInEveryLanguage()
+{
+    tell(demonstration());
+    QSet<QString> texts;
+    for (const char *code : {"en", "de", "fr", "es", "pt", "ru", "ar", "zh"}) {
+        window().setLanguage(QLatin1String(code));
+        texts << notice("Dashboard_Demonstration");
+        QCOMPARE(window().windowTitle(), dashboardText("APP_TITLE_DEMONSTRATION"));
+        QVERIFY(part<QLabel>("Dashboard_Source")->text().contains(QLatin1String("Maker Model")));
+        QVERIFY(part<QLabel>("Dashboard_Source")->text() !=
+                dashboardText("SOURCE_MODEM").arg(QLatin1String("Maker Model")));
+    }
+    QCOMPARE(texts.size(), 8);
+    QVERIFY(
+        texts.contains(QLatin1String("Demonstration: the network is invented; nothing is sent.")));
+}
+
+void ModemWindowTest::aModemIsNoDemonstration()
+{
+    tell(demonstration());
+    tell(modemWithSim());
+    QCOMPARE(notice("Dashboard_Demonstration"), QString());
+    QCOMPARE(window().windowTitle(), dashboardText("APP_TITLE"));
+}
+
+void ModemWindowTest::withoutAModemNothingIsInvented()
+{
+    TKSV_DeviceInfo none = modemInfo(TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE);
+    none.source[0] = 0;
+    tell(none);
+    loadPlugin();
+    QCOMPARE(part<QLabel>("Dashboard_Operator")->text(), QLatin1String("No modem"));
+    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("ModemManager")));
+    QCOMPARE(presets(), 0);
+    QVERIFY(!isVisible("Dashboard_PrepaidButton") && !isVisible("Dashboard_UssdSmsButton"));
+}
+
+void ModemWindowTest::aModemHasNoPresetsOfAnotherOperator()
+{
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(page().commandEdit()->isVisible());
+    QCOMPARE(presets(), 0);
+    QVERIFY(isVisible("Dashboard_GeneralPageButton"));
+    for (const char *button :
+         {"Dashboard_PrepaidButton", "Dashboard_PostpaidButton", "Dashboard_UssdSmsButton"})
+        QVERIFY2(!isVisible(button), button);
+    const QLineEdit *number = window().page()->findChild<QLineEdit *>(
+        QLatin1String("USSDUIPlugin_AdvancedDialog_PaymentEdit"));
+    QVERIFY(number && !number->isVisible());
+    QTRY_VERIFY2(notice("Dashboard_OperatorNotice").contains(QLatin1String("choose the operator")),
+                 qPrintable(notice("Dashboard_OperatorNotice")));
+}
+
+void ModemWindowTest::aDemonstrationHasItsPresets()
+{
+    tell(demonstration());
+    loadPlugin();
+    QVERIFY(presets() > 5);
+    QVERIFY(isVisible("Dashboard_PrepaidButton"));
+    QVERIFY(window().operatorCodes().areSample());
+}
+
+void ModemWindowTest::thePresetsGoWithTheDemonstration()
+{
+    tell(demonstration());
+    loadPlugin();
+    tell(modemWithSim());
+    QTRY_COMPARE(presets(), 0);
+    QVERIFY(window().operatorCodes().areAbsent());
+    tell(demonstration());
+    QTRY_VERIFY(presets() > 5);
+}
+
+void ModemWindowTest::openingSendsNothing()
+{
+    tell(modemWithSim());
+    loadPlugin();
+    window().openFrame(PAID_TYPE_GENERAL);
+    QVERIFY(GeneralWindow::framed().isComplete());
+    GeneralWindow::framed().commandEdit()->window()->close();
+    QVERIFY(waitForSettling());
+    QVERIFY(fakeSdkCommands().empty());
+    QVERIFY(fakeSdkCalls("TKSV_Device_Enable").empty());
+    QVERIFY(fakeSdkCalls("TKSV_Device_EndForeignSession").empty());
+}
+
+// The editor saves such a file before its frame closes.
+void ModemWindowTest::theFirstOwnCodesAreShownAtOnce()
+{
+    fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
+    tell(modemWithSim());
+    loadPlugin();
+    QCOMPARE(presets(), 0);
+    window().openFrame(PAID_TYPE_GENERAL);
+    const GeneralWindow framed = GeneralWindow::framed();
+    QVERIFY(framed.isComplete());
+    writeFile(QLatin1String("ussdprofile.xml"),
+              "<tksvdoc type=\"USSDProfile\"><item><name>Mine</name><value>*1#</value>"
+              "<readonly>false</readonly><showButton>true</showButton><langID></langID>"
+              "<desLangID></desLangID></item></tksvdoc>");
+    framed.commandEdit()->window()->close();
+    QTRY_COMPARE(presets(), 1);
+    QVERIFY(fakeSdkCommands().empty());
+}
+
+// ---- the prepaid/postpaid query ------------------------------------------------------------
+
+void ModemWindowTest::theQueryNeedsTheUser_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<bool>("setting");
+    QTest::addColumn<int>("queries");
+    QTest::newRow("off") << QByteArray() << false << 0;
+    QTest::newRow("other value") << QByteArray("yes") << false << 0;
+    QTest::newRow("integrator") << QByteArray("1") << false << 1;
+    QTest::newRow("user") << QByteArray() << true << 1;
+}
+
+void ModemWindowTest::theQueryNeedsTheUser()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(bool, setting);
+    QFETCH(int, queries);
+    qputenv("USSD_DETECT_PAID_TYPE", variable);
+    useIntegratorsFolder();
+    window().deviceMenu(); // the settings are those of the new window
+    if (setting)
+        networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(waitForSettling());
+    QCOMPARE(int(fakeSdkCommands().size()), queries);
+}
+
+void ModemWindowTest::theQueryNeedsTheOperatorsCodes()
+{
+    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(!window().operatorCodes().areOfOperator());
+    QVERIFY(waitForSettling());
+    QVERIFY(fakeSdkCommands().empty());
+}
+
+void ModemWindowTest::theUserSwitchesTheQueryOn()
+{
+    useIntegratorsFolder();
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(waitForSettling());
+    QVERIFY(fakeSdkCommands().empty());
+    QVERIFY(!settings().detectsPaidType());
+    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    QVERIFY(settings().detectsPaidType());
+    QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"*103#"});
+}
+
+void ModemWindowTest::onlyARealReplyIsAVerdict_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("digit") << 0 << QString::fromLatin1("Prepaid");
+    QTest::newRow("words") << 1 << QString::fromLatin1("Postpaid");
+    QTest::newRow("refusal") << 2 << QString();
+    QTest::newRow("silence") << 3 << QString();
+    QTest::newRow("failed call") << 4 << QString();
+}
+
+void ModemWindowTest::onlyARealReplyIsAVerdict()
+{
+    QFETCH(int, answer);
+    QFETCH(QString, shown);
+    const FakeAnswer answers[] = {fakeReply(u"Account 1"), fakeReply(u"Contract"),
+                                  fakeNetworkRefusal(), fakeSilence(), fakeRefused(1, 1)};
+    useIntegratorsFolder();
+    fakeSdkSetAnswer(answers[answer]);
+    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(waitForSettling());
+    QCOMPARE(int(fakeSdkCommands().size()), 1);
+    QTRY_VERIFY(!window().sim().isAsking());
+    QCOMPARE(window().sim().paidTypeText(), shown);
+}
+
+// ---- the end of a command ------------------------------------------------------------------
+
+void ModemWindowTest::aFailureIsSaidUntilTheNextCommand()
+{
+    tell(modemWithSim());
+    loadPlugin();
+    TKSV_FailureInfo failure = {};
+    failure.reason = TKSV_FAILURE_NOT_ON_4G;
+    fakeSdkSetLastFailure(failure);
+    fakeSdkSetAnswer(fakeNetworkRefusal());
+    send("*100#");
+    QTRY_VERIFY2(commandNotice().contains(QLatin1String("4G")), qPrintable(commandNotice()));
+    window().setLanguage(QLatin1String("de"));
+    QVERIFY(commandNotice().contains(QLatin1String("4G-Netz")));
+    fakeSdkSetLastFailure(TKSV_FailureInfo());
+    fakeSdkSetAnswer(fakeReply(u"Balance"));
+    send("*100#");
+    QTRY_COMPARE(commandNotice(), QString());
+}
+
+// The plug-in does not disable the entry field for such a command.
+void ModemWindowTest::aRejectedCommandIsSaid()
+{
+    tell(modemWithSim());
+    loadPlugin();
+    TKSV_FailureInfo failure = {};
+    failure.reason = TKSV_FAILURE_IN_USE;
+    failure.wasNotSent = 1;
+    fakeSdkSetLastFailure(failure);
+    fakeSdkSetAnswer(fakeRefused(1, 1));
+    send("*100#");
+    QCOMPARE(commandNotice(), QLatin1String("Another program is using codes on this modem. "
+                                            "It was not carried out."));
+}
+
+void ModemWindowTest::aPendingCommandCanBeCancelled()
+{
+    tell(modemWithSim());
+    loadPlugin();
+    QVERIFY(!isVisible("Dashboard_CancelCommand"));
+    QVERIFY(page().send(QLatin1String("*100#")));
+    QTRY_VERIFY(isVisible("Dashboard_CancelCommand"));
+    QVERIFY(page().isWaiting());
+    QTest::mouseClick(part<QPushButton>("Dashboard_CancelCommand"), Qt::LeftButton);
+    QTRY_VERIFY(!page().isWaiting());
+    QCOMPARE(fakeSdkCalls("TKSV_Device_CancelRequest").size(), std::size_t(1));
+    QTRY_VERIFY(commandNotice().startsWith(QLatin1String("The command was cancelled.")));
+    QVERIFY(!isVisible("Dashboard_CancelCommand"));
+}
+
+void ModemWindowTest::theTurnOfAnotherProgramIsSaid()
+{
+    TKSV_DeviceInfo info = modemWithSim();
+    tell(info);
+    loadPlugin();
+    QVERIFY(page().send(QLatin1String("*100#")));
+    QTRY_COMPARE(commandNotice(), dashboardText("COMMAND_PENDING"));
+    info.waitsForTurn = 1;
+    tell(info);
+    QCOMPARE(commandNotice(), dashboardText("COMMAND_WAITS_FOR_TURN"));
+}
+
+// ---- buttons of the device's notice --------------------------------------------------------
+
+void ModemWindowTest::theModemIsSwitchedOnFromTheNotice()
+{
+    tell(modemInfo(TKSV_DEVICE_DISABLED));
+    QVERIFY(fakeSdkCalls("TKSV_Device_Enable").empty());
+    QTest::mouseClick(part<QPushButton>("Dashboard_EnableButton"), Qt::LeftButton);
+    QCOMPARE(fakeSdkCalls("TKSV_Device_Enable").size(), std::size_t(1));
+    tell(modemInfo(TKSV_DEVICE_REGISTERED));
+    QVERIFY(!isVisible("Dashboard_EnableButton"));
+}
+
+void ModemWindowTest::nobodyMaySwitchOnWithoutPermission()
+{
+    tell(modemInfo(TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED));
+    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("polkit")));
+    QVERIFY(!isVisible("Dashboard_EnableButton"));
+}
+
+void ModemWindowTest::theModemsAreLookedForAgain_data()
+{
+    QTest::addColumn<int>("problem");
+    QTest::newRow("no modem") << int(TKSV_PROBLEM_NONE);
+    QTest::newRow("no bus") << int(TKSV_PROBLEM_NO_BUS);
+    QTest::newRow("no service") << int(TKSV_PROBLEM_NO_SERVICE);
+    QTest::newRow("silent") << int(TKSV_PROBLEM_SERVICE_SILENT);
+}
+
+void ModemWindowTest::theModemsAreLookedForAgain()
+{
+    QFETCH(int, problem);
+    tell(modemInfo(TKSV_DEVICE_ABSENT, problem));
+    QVERIFY(!notice("Dashboard_DeviceNotice").isEmpty());
+    QTest::mouseClick(part<QPushButton>("Dashboard_LookAgainButton"), Qt::LeftButton);
+    QCOMPARE(fakeSdkCalls("TKSV_Device_LookAgain").size(), std::size_t(1));
+    TKSV_DeviceInfo looking = modemInfo(TKSV_DEVICE_ABSENT);
+    looking.isLooking = 1;
+    tell(looking);
+    QCOMPARE(notice("Dashboard_DeviceNotice"), QString());
+    QVERIFY(part<QLabel>("Dashboard_Operator")->text().startsWith(QLatin1String("Looking")));
+}
+
+void ModemWindowTest::aForeignSessionIsEndedOnlyAfterAYes_data()
+{
+    QTest::addColumn<bool>("yes");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("yes") << true << 1;
+    QTest::newRow("no") << false << 0;
+}
+
+void ModemWindowTest::aForeignSessionIsEndedOnlyAfterAYes()
+{
+    QFETCH(bool, yes);
+    QFETCH(int, calls);
+    TKSV_DeviceInfo info = modemWithSim();
+    info.hasForeignSession = 1;
+    tell(info);
+    QCOMPARE(notice("Dashboard_DeviceNotice"),
+             QLatin1String("Another program is using codes on this modem."));
+    bool isAsked = false;
+    QTimer::singleShot(0, this, [&] {
+        if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            isAsked = true;
+            box->buttons().value(yes ? 0 : 1)->click();
+        }
+    });
+    QTest::mouseClick(part<QPushButton>("Dashboard_EndForeignSessionButton"), Qt::LeftButton);
+    QVERIFY(isAsked);
+    QCOMPARE(int(fakeSdkCalls("TKSV_Device_EndForeignSession").size()), calls);
+}
+
+USSD_TEST_MAIN(ModemWindowTest)
+#include "modem_window_test.moc"

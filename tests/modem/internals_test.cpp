@@ -1,0 +1,153 @@
+/*
+ * Tests internals of the device SDK that need ModemManager or its library, and whose time limits or
+ * errors are too slow or too rare for the other tests.
+ */
+// The headers of GLib come before those of Qt, where "signals" is a keyword.
+#include "modemmanager/ModemManagerBackend.h"
+#include "modemmanager/ModemWatch.h"
+#include "modemmanager/UssdErrors.h"
+#include "ModemWorld.h"
+
+#include <QtTest>
+
+#include "UssdTest.h"
+
+using namespace Tksv;
+
+namespace
+{
+
+const std::chrono::milliseconds SILENCE_LIMIT(50);
+
+class NoObserver : public BackendObserver
+{
+    void ussdReply(RequestToken, const UssdReply &) override {}
+    void ussdText(const UssdReply &) override {}
+    void deviceLost(int) override {}
+    void smsStatusChanged(bool) override {}
+    void smsFinished(const SmsMessage &, int) override {}
+    void infoChanged() override {}
+};
+
+/// Creates the error and returns the reason for it.
+Failure failureOf(GQuark domain, int code, const char *text, const UssdCallContext &context = {})
+{
+    const GErrorPtr error(g_error_new_literal(domain, code, text));
+    return failureOfUssdError(*error, context);
+}
+
+} // namespace
+
+class ModemInternalsTest : public UssdTest
+{
+    Q_OBJECT
+
+private slots:
+    void aSilentServiceIsNoticed();
+    void errorsHaveAReason_data();
+    void errorsHaveAReason();
+    void unansweredCommandsAreNotRefused();
+};
+
+void ModemInternalsTest::aSilentServiceIsNoticed()
+{
+    FakeModems::ModemWorld world;
+    QCOMPARE(world.start(), std::string());
+    std::shared_ptr<ModemManagerBackend> backend;
+    ModemWatch watch([&backend] { backend->modemsChanged(); }, SILENCE_LIMIT);
+    backend = std::make_shared<ModemManagerBackend>(watch, std::string());
+    NoObserver observer;
+    const auto problemIs = [&](TKSV_DeviceProblem problem) {
+        return world.waitUntil([&] { return backend->info().problem == problem; });
+    };
+    QVERIFY(backend->info().isLooking);
+    world.pauseDaemon();
+    watch.start();
+    backend->start(observer);
+    QVERIFY(problemIs(TKSV_PROBLEM_SERVICE_SILENT));
+    QVERIFY(backend->info().isLooking);
+    world.resumeDaemon();
+    QVERIFY(problemIs(TKSV_PROBLEM_NONE));
+    QVERIFY(world.waitUntil([&] { return !backend->info().isLooking; }));
+    world.pauseDaemon();
+    watch.start(); // looks again
+    QVERIFY(problemIs(TKSV_PROBLEM_SERVICE_SILENT));
+    world.resumeDaemon();
+    QVERIFY(problemIs(TKSV_PROBLEM_NONE));
+    backend->stop();
+    watch.stop();
+}
+
+void ModemInternalsTest::errorsHaveAReason_data()
+{
+    QTest::addColumn<unsigned>("domain");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("reason");
+    QTest::addColumn<bool>("wasNotSent");
+    const auto row = [](const char *name, GQuark domain, int code, const char *text,
+                        TKSV_Failure reason, bool wasNotSent) {
+        QTest::newRow(name) << domain << code << QByteArray(text) << int(reason) << wasNotSent;
+    };
+    row("refused", MM_CORE_ERROR, MM_CORE_ERROR_FAILED, "Sending USSD command failed",
+        TKSV_FAILURE_REFUSED, false);
+    row("ended", MM_CORE_ERROR, MM_CORE_ERROR_ABORTED, "USSD terminated by network",
+        TKSV_FAILURE_ENDED_BY_NETWORK, false);
+    row("timed out", MM_CORE_ERROR, MM_CORE_ERROR_FAILED, "Unhandled USSD reply: 5 (5)",
+        TKSV_FAILURE_NETWORK_TIMEOUT, false);
+    row("session open", MM_CORE_ERROR, MM_CORE_ERROR_WRONG_STATE,
+        "Cannot initiate USSD: a session is already active", TKSV_FAILURE_IN_USE, true);
+    row("another answer", MM_CORE_ERROR, MM_CORE_ERROR_WRONG_STATE,
+        "Cannot respond USSD: no response is expected", TKSV_FAILURE_IN_USE, true);
+    row("late answer", MM_CORE_ERROR, MM_CORE_ERROR_WRONG_STATE,
+        "Cannot respond USSD: no active session", TKSV_FAILURE_ENDED_BY_NETWORK, true);
+    row("disabled", MM_CORE_ERROR, MM_CORE_ERROR_WRONG_STATE, "modem in disabled state",
+        TKSV_FAILURE_DISABLED, true);
+    row("in progress", MM_CORE_ERROR, MM_CORE_ERROR_IN_PROGRESS, "ongoing", TKSV_FAILURE_IN_USE,
+        true);
+    row("not permitted", MM_CORE_ERROR, MM_CORE_ERROR_UNAUTHORIZED, "denied",
+        TKSV_FAILURE_NOT_PERMITTED, true);
+    row("charset", G_CONVERT_ERROR, 1, "Couldn't convert from UTF-8 to IRA",
+        TKSV_FAILURE_NOT_ENCODABLE, true);
+    row("charset of the reply", G_CONVERT_ERROR, 1, "Couldn't convert from UCS2 to UTF-8",
+        TKSV_FAILURE_UNDECODABLE, false);
+    row("no charset", MM_CORE_ERROR, MM_CORE_ERROR_INVALID_ARGS, "unknown target charset",
+        TKSV_FAILURE_NOT_ENCODABLE, false);
+    row("no network", MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NO_NETWORK, "",
+        TKSV_FAILURE_NOT_REGISTERED, false);
+    row("serial port", MM_SERIAL_ERROR, MM_SERIAL_ERROR_RESPONSE_TIMEOUT, "",
+        TKSV_FAILURE_NO_ANSWER, false);
+    row("unknown", G_FILE_ERROR, 1, "", TKSV_FAILURE_REFUSED, false);
+}
+
+void ModemInternalsTest::errorsHaveAReason()
+{
+    QFETCH(unsigned, domain);
+    QFETCH(int, code);
+    QFETCH(QByteArray, text);
+    QFETCH(int, reason);
+    QFETCH(bool, wasNotSent);
+    const Failure failure = failureOf(domain, code, text.constData());
+    QCOMPARE(int(failure.reason), reason);
+    QCOMPARE(failure.wasNotSent, wasNotSent);
+}
+
+/// The daemon reports the same error for both, but gives up on a silent modem only after 20 s.
+void ModemInternalsTest::unansweredCommandsAreNotRefused()
+{
+    UssdCallContext context;
+    const auto reasonAfter = [&context](double seconds) {
+        context.seconds = seconds;
+        return int(
+            failureOf(MM_CORE_ERROR, MM_CORE_ERROR_FAILED, "Sending USSD command failed", context)
+                .reason);
+    };
+    QCOMPARE(reasonAfter(8.9), int(TKSV_FAILURE_REFUSED));
+    QCOMPARE(reasonAfter(20), int(TKSV_FAILURE_NO_ANSWER));
+    context.isOnlyOn4G = true;
+    QCOMPARE(reasonAfter(0), int(TKSV_FAILURE_NOT_ON_4G));
+    QCOMPARE(reasonAfter(20), int(TKSV_FAILURE_NO_ANSWER));
+}
+
+USSD_TEST_MAIN(ModemInternalsTest)
+#include "internals_test.moc"
