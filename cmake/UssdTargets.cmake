@@ -10,7 +10,11 @@
 
 # The C++ standard of the plug-in and its libraries, which can also be compiled with Qt 4. Folders
 # whose code requires Qt 5.15 or later set another standard at the top of their CMakeLists.txt.
-set(USSD_CXX_STANDARD 14)
+if(USSD_QT_VERSION EQUAL 6)
+    set(USSD_CXX_STANDARD 17) # the headers of Qt 6 require it
+else()
+    set(USSD_CXX_STANDARD 14)
+endif()
 
 # Sets the properties and options that all of our own targets share.
 function(ussd_set_up target)

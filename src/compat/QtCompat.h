@@ -2,15 +2,29 @@
 #define QTCOMPAT_H
 
 /*
- * The differences between Qt 4 (4.6 to 4.8) and Qt 5.15 that affect the plug-in and the core
+ * The differences between Qt 4 (4.6 to 4.8), Qt 5.15 and Qt 6 that affect the plug-in and the core
  * library. No other file in these two components checks the Qt version.
  */
 
+#include <QApplication>
 #include <QFontMetrics>
+#include <QLibraryInfo>
+#include <QMutexLocker>
 #include <QPixmap>
+#include <QRect>
+#include <QRegExp>
 #include <QString>
 #include <QtGlobal>
+#include <QValidator>
 #include <QWidget>
+
+#if QT_VERSION < 0x060000
+#include <QDesktopWidget>
+#include <QRegExpValidator>
+#else
+#include <QCloseEvent>
+#include <QScreen>
+#endif
 
 /*
  * In Qt 4, the entry point qt_plugin_instance() must be defined by hand. In Qt 5, moc generates it
@@ -30,6 +44,46 @@
 namespace QtCompat
 {
 
+#if QT_VERSION < 0x060000
+typedef ::QMutexLocker MutexLocker;
+typedef ::QRegExpValidator RegExpValidator;
+#else
+typedef ::QMutexLocker<QMutex> MutexLocker;
+
+/** The QRegExpValidator of Qt 4 and Qt 5, which Qt 6 does not have. */
+class RegExpValidator : public QValidator
+{
+public:
+    explicit RegExpValidator(QObject *parent) : QValidator(parent) {}
+    RegExpValidator(const QRegExp &pattern, QObject *parent)
+        : QValidator(parent), m_pattern(pattern)
+    {
+    }
+
+    void setRegExp(const QRegExp &pattern)
+    {
+        m_pattern = pattern;
+        emit changed();
+    }
+    const QRegExp &regExp() const { return m_pattern; }
+
+    State validate(QString &input, int &position) const override
+    {
+        const QRegExp pattern(
+            m_pattern); // the const function must not change the member's captures
+        if (pattern.exactMatch(input))
+            return Acceptable;
+        if (pattern.matchedLength() == input.size())
+            return Intermediate;
+        position = int(input.size());
+        return Invalid;
+    }
+
+private:
+    QRegExp m_pattern;
+};
+#endif
+
 /// Returns an image of the widget as it appears on the screen. QWidget::render() does not mirror
 /// the widget in a right-to-left layout.
 inline QPixmap pictureOf(QWidget *widget)
@@ -38,6 +92,40 @@ inline QPixmap pictureOf(QWidget *widget)
     return QPixmap::grabWidget(widget);
 #else
     return widget->grab();
+#endif
+}
+
+/// Closes the widget. In Qt 6, QWidget::close() sends no close event to a hidden window, which a
+/// rejected dialog is.
+inline void closeEvenIfHidden(QWidget *widget)
+{
+#if QT_VERSION >= 0x060000
+    if (widget->isHidden()) {
+        QCloseEvent event;
+        QCoreApplication::sendEvent(widget, &event);
+        return;
+    }
+#endif
+    widget->close();
+}
+
+/// Returns the area that windows may cover on the screen that shows `widget`.
+inline QRect availableGeometry(const QWidget *widget)
+{
+#if QT_VERSION < 0x060000
+    return QApplication::desktop()->availableGeometry(widget);
+#else
+    return widget->screen()->availableGeometry();
+#endif
+}
+
+/// Returns the folder of Qt's own translations.
+inline QString qtTranslations()
+{
+#if QT_VERSION < 0x060000
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
 #endif
 }
 

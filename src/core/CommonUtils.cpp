@@ -2,8 +2,6 @@
 
 #include <chrono>
 
-#include <QApplication>
-#include <QDesktopWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QTime>
@@ -12,6 +10,7 @@
 #include "HostState.h"
 #include "MessageBox.h"
 #include "PluginFolderChoice.h"
+#include "QtCompat.h"
 
 namespace
 {
@@ -80,8 +79,7 @@ void CommonUtils::MoveCentre(QWidget *widget)
     if (!widget->testAttribute(Qt::WA_Resized))
         widget->adjustSize();
     const QWidget *mainWindow = HostCore::HostState::mainWindow();
-    const QDesktopWidget *desktop = QApplication::desktop();
-    const QRect screen = desktop->availableGeometry(mainWindow ? mainWindow : widget);
+    const QRect screen = QtCompat::availableGeometry(mainWindow ? mainWindow : widget);
     QRect target(QPoint(), outerSize(widget));
     target.moveCenter(surroundings(widget, screen).center());
     widget->move(keptInside(target.topLeft(), target.size(), screen));

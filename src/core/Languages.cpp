@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QFile>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMutex>
 #include <QMutexLocker>
@@ -13,6 +12,7 @@
 
 #include "InputFile.h"
 #include "InstallPaths.h"
+#include "QtCompat.h"
 
 namespace HostCore
 {
@@ -106,7 +106,7 @@ void setQtTexts(const QString &code)
     static std::unique_ptr<QTranslator> installed;
     installed.reset(
         new QTranslator); // the destructor of the old translator removes it from the application
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QString folder = QtCompat::qtTranslations();
     if (installed->load(folder + QLatin1String("/qtbase_") + code + QLatin1String(".qm")) ||
         installed->load(folder + QLatin1String("/qt_") + code + QLatin1String(".qm")))
         QCoreApplication::installTranslator(installed.get());

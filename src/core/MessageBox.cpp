@@ -1,12 +1,12 @@
 #include "MessageBox.h"
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopWidget>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+
+#include "QtCompat.h"
 
 namespace HostCore
 {
@@ -76,7 +76,7 @@ void MessageBox::showInView(const QString &text)
     view->setTabChangesFocus(true);
     view->setAccessibleName(windowTitle());
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    const QSize screen = QApplication::desktop()->availableGeometry(this).size();
+    const QSize screen = QtCompat::availableGeometry(this).size();
     view->setFixedSize(VIEW_SIZE.boundedTo(screen - QSize(AROUND_VIEW, AROUND_VIEW)));
     int row = 0, column = 0, rows = 0, columns = 0;
     grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);

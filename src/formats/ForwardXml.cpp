@@ -12,7 +12,7 @@ namespace
 
 const char ENTITY_DECLARATION[] = "<!ENTITY";
 const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
-const qint64 BLOCK_SIZE = 64 * 1024;
+const qint64 BLOCK_SIZE = qint64(64) * 1024;
 
 /// Raises an error for an undeclared entity. Otherwise, the parser would skip the entity, and a
 /// USSD code that contains the entity would become a different code.

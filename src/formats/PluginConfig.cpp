@@ -88,7 +88,7 @@ void readColourOf(QXmlStreamReader &reader, const char *element, int &red, int &
     readColour(reader, red, green, blue);
 }
 
-int windowFlag(const QStringRef &name)
+int windowFlag(const QString &name)
 {
     if (name == QLatin1String(XmlName::PREPAID))
         return WINDOW_PREPAID;
@@ -189,7 +189,7 @@ int windowFlags(const QString &list)
     while (start <= list.length()) {
         const int slash = list.indexOf(QLatin1Char('/'), start);
         const int end = slash < 0 ? list.length() : slash;
-        flags |= windowFlag(list.midRef(start, end - start));
+        flags |= windowFlag(list.mid(start, end - start));
         start = end + 1;
     }
     return flags;

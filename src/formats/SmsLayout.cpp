@@ -1,7 +1,8 @@
 #include "SmsLayout.h"
 
-#include <QScopedPointer>
 #include <QXmlStreamReader>
+
+#include <memory>
 
 #include "ForwardXml.h"
 #include "XmlName.h"
@@ -216,14 +217,14 @@ void Reader::readTree()
 
 void Reader::readEntry()
 {
-    QScopedPointer<CTreeItem> entry(new CTreeItem);
+    std::unique_ptr<CTreeItem> entry(new CTreeItem);
     entry->number = numberAttribute(XmlName::NAME);
     entry->parent = numberAttribute(XmlName::PARENT);
     entry->textId = attribute(XmlName::ID);
     if (attribute(XmlName::TYPE) == QLatin1String(XmlName::TREE_ROOT))
-        takeRoot(entry.take());
+        takeRoot(entry.release());
     else
-        takeOrdinary(entry.take());
+        takeOrdinary(entry.release());
 }
 
 void Reader::takeRoot(CTreeItem *entry)
@@ -284,14 +285,14 @@ void Reader::readDialog()
 
 void Reader::readGroup()
 {
-    QScopedPointer<CWidget> group(new CWidget);
+    std::unique_ptr<CWidget> group(new CWidget);
     group->number = numberAttribute(XmlName::NAME);
     const int entry = numberAttribute(XmlName::PARENT);
     int count = 0;
     while (nextStart(XmlName::CONTROL, XmlName::ITEM)) {
-        QScopedPointer<CWidgetItemInfo> control(readControl());
+        std::unique_ptr<CWidgetItemInfo> control(readControl());
         if (++count <= MAX_CONTROLS)
-            group->controls << control.take();
+            group->controls << control.release();
     }
     if (m_xml.hasError())
         return; // the group is incomplete
@@ -300,7 +301,7 @@ void Reader::readGroup()
                      .arg(entry)
                      .arg(count)
                      .arg(SmsLayoutFile::CONTROLS_OF_GROUP));
-    storeGroup(entry, group.take());
+    storeGroup(entry, group.release());
 }
 
 void Reader::storeGroup(int entry, CWidget *group)
@@ -319,12 +320,12 @@ void Reader::storeGroup(int entry, CWidget *group)
 
 CWidgetItemInfo *Reader::readControl()
 {
-    QScopedPointer<CWidgetItemInfo> control(new CWidgetItemInfo);
+    std::unique_ptr<CWidgetItemInfo> control(new CWidgetItemInfo);
     readControlAttributes(*control);
     while (nextStart(XmlName::CONTROL))
         readControlElement(*control);
     checkInput(*control);
-    return control.take();
+    return control.release();
 }
 
 void Reader::readControlAttributes(CWidgetItemInfo &control)

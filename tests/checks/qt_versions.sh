@@ -25,6 +25,11 @@ with_lambda='(?s)\b(?:connect|singleShot|invokeMethod)\((?:[^;]*?)\[[&=\w, ]*\]\
 # documents that declare entities, which Qt 4 would expand without a limit.
 parser_input='QXmlStreamReader [A-Za-z_]+[({]|\.(setDevice|addData)\('
 
+algorithm='\bstd::((stable_)?sort|find(_if)?|(any|all|none)_of|(lower|upper)_bound|unique|reverse|count(_if)?)\('
+
+# The headers that declare the namespace Qt in every version of Qt.
+declares_qt='#include (<Qt>|<Q[A-Za-z]*(Widget|Dialog|Edit|Label|Button|Frame|Application|Delegate)>|")'
+
 while IFS= read -r hit; do
     complain "$hit"
 done < <(cpp_files src | grep -v '^src/compat/QtCompat\.h$' | xargs -r grep -nH QT_VERSION)
@@ -39,6 +44,18 @@ while IFS= read -r file; do
     while IFS= read -r hit; do
         [ "$file" = src/formats/ForwardXml.cpp ] || complain "$file: not by ForwardXml::start(): $hit"
     done < <(printf '%s\n' "$code" | grep -nE "$parser_input")
+    # The headers of Qt 5 include <algorithm>, those of Qt 4 do not.
+    if grep -qE "$algorithm" <<<"$code" && ! grep -qE '#include <algorithm>' <<<"$code"; then
+        complain "$file: calls an algorithm without <algorithm>"
+    fi
+    case $file in
+    *.h)
+        # In Qt 4, the non-widget headers do not declare the namespace Qt.
+        if grep -qE '\<Qt::' <<<"$code" && ! grep -qE "$declares_qt" <<<"$code"; then
+            complain "$file: uses Qt:: without <Qt> or the header of a widget"
+        fi
+        ;;
+    esac
     for pattern in "$by_function" "$with_lambda"; do
         hit=$(printf '%s\n' "$code" | grep -Pzo "$pattern" | tr '\0\n' '  ')
         [ -z "$hit" ] || complain "$file: by function: $hit"

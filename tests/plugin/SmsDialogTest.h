@@ -3,12 +3,12 @@
 
 #include "PluginTest.h"
 
+#include "QtCompat.h"
 #include <QBuffer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>

@@ -314,6 +314,10 @@ void EditorLooksTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
 {
     QFETCH(int, way);
     QFETCH(bool, mini);
+#if QT_VERSION >= 0x060000
+    // With Return, the delegate reports the end of the editing later. By then, the view is deleted.
+    allowWarning("called with an editor that does not belong to this view");
+#endif
     HostCore::HostState::setMiniMode(mini);
     QRect rect(0, 0, 640, 560);
     CUSSDService::instance()->showWindow(m_mainWindow.data(), rect, PAID_TYPE_GENERAL);

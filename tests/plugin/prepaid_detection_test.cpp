@@ -1,6 +1,7 @@
 #include "PrepaidTest.h"
 
 #include <functional>
+#include <memory>
 
 #include "fake_tksv.h"
 #include "HostState.h"
@@ -77,8 +78,8 @@ private:
     int ask(bool reallyAsk = true);
     const PrePostRecord &lastRecord() { return m_notifications->calls.last().record; }
 
-    QScopedPointer<Notifications> m_notifications;
-    QScopedPointer<Container> m_container;
+    std::unique_ptr<Notifications> m_notifications;
+    std::unique_ptr<Container> m_container;
     PrePostRecord m_given; // refers to the caller's three variables
 
 private slots:
@@ -118,8 +119,8 @@ void PrepaidDetectionTest::setUp()
     m_given = PrePostRecord();
     m_notifications.reset(new Notifications);
     m_container.reset(new Container);
-    m_container->plugin = m_notifications.data();
-    HostCore::HostState::setPluginContainer(m_container.data());
+    m_container->plugin = m_notifications.get();
+    HostCore::HostState::setPluginContainer(m_container.get());
     configure(Account(), Account(), DIGIT);
 }
 
@@ -408,7 +409,7 @@ void PrepaidDetectionTest::hostThatUnloadsThePluginIsNotToldAgain()
     int calls = 0;
     m_notifications->onCall = [this, &calls] {
         ++calls;
-        delete m_notifications.take();
+        delete m_notifications.release();
     };
     ask();
     fakeSdkRespond(u"5");

@@ -37,7 +37,7 @@ void PresetTextsTest::wideNameIsElidedWithATip()
 
 void PresetTextsTest::nameThatFitsHasNoTip()
 {
-    const QFontMetrics metrics = QApplication::fontMetrics();
+    const QFontMetrics metrics(QApplication::font());
     QString name = latin1("x");
     while (metrics.horizontalAdvance(name + QLatin1Char('x')) < 127)
         name += QLatin1Char('x');
@@ -61,7 +61,7 @@ void PresetTextsTest::allButtonsAreEquallyWide()
     const QByteArray name(letters, 'n');
     writeNames({"a", name, "b"});
     open();
-    const int text = QApplication::fontMetrics().boundingRect(latin1(name)).width();
+    const int text = QFontMetrics(QApplication::font()).boundingRect(latin1(name)).width();
     for (QPushButton *button : presetButtons()) {
         QCOMPARE(button->minimumWidth(), qBound(80, text + 30, 150));
         QCOMPARE(button->maximumWidth(), qBound(80, text + 30, 150));

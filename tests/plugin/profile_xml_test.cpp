@@ -48,7 +48,7 @@ QString randomCharacter(std::mt19937 &random)
     case 0:
         return QString(QChar(special[random() % (sizeof(special) / sizeof(special[0]))]));
     case 1: {
-        const uint beyond = 0x10000 + random() % 0x100000;
+        const char32_t beyond = 0x10000 + random() % 0x100000;
         return QString::fromUcs4(&beyond, 1);
     }
     case 2:

@@ -486,8 +486,8 @@ void SmsControlsTest::idsAreTranslated()
 void SmsControlsTest::validatorFollowsLimitTextAndLength()
 {
     select(CALL);
-    const QRegExpValidator *validator =
-        qobject_cast<const QRegExpValidator *>(input()->validator());
+    const QtCompat::RegExpValidator *validator =
+        dynamic_cast<const QtCompat::RegExpValidator *>(input()->validator());
     QVERIFY(validator);
     QCOMPARE(validator->regExp().pattern(), latin1("[0-9]{0,15}"));
     type(latin1("12a3*45678901234567"));

@@ -1,6 +1,5 @@
 #include "MarkupCost.h"
 
-#include <QRegExp>
 #include <QStringList>
 
 namespace
@@ -10,14 +9,22 @@ const int MAX_TAGS = 60; // per reply; the longest reply from a network has 182 
 const int MAX_TABLES = 8;
 const int MAX_RULES = 8;
 
+bool endsName(QChar unit)
+{
+    return unit.isSpace() || unit == QLatin1Char('>') || unit == QLatin1Char('/') ||
+           unit == QLatin1Char('=');
+}
+
 /// Returns the tag name in lower case. `behind` is the text after the "<" of the tag.
 QString tagName(const QString &behind)
 {
-    const int begin = behind.indexOf(QRegExp(QLatin1String("[^\\s]")));
-    if (begin < 0)
-        return QString();
-    const int end = behind.indexOf(QRegExp(QLatin1String("[\\s>/=]")), begin);
-    return behind.mid(begin, end < 0 ? -1 : end - begin).toLower();
+    int begin = 0;
+    while (begin < behind.length() && behind.at(begin).isSpace())
+        ++begin;
+    int end = begin;
+    while (end < behind.length() && !endsName(behind.at(end)))
+        ++end;
+    return behind.mid(begin, end - begin).toLower();
 }
 
 /// Returns true if quotes or entities disguise the tag name, so that it may be any name.
@@ -31,7 +38,10 @@ bool isDisguised(const QString &name)
 /// disguise such a number or the name of its attribute.
 bool maySpanMany(const QString &behind)
 {
-    return behind.contains(QLatin1Char('&')) || behind.contains(QRegExp(QLatin1String("\\d{3}")));
+    int digits = 0;
+    for (int i = 0; i < behind.length() && digits < 3; ++i)
+        digits = behind.at(i).isDigit() ? digits + 1 : 0;
+    return digits == 3 || behind.contains(QLatin1Char('&'));
 }
 
 void addTag(const QString &behind, MarkupCost &cost)

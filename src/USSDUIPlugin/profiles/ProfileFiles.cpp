@@ -146,7 +146,7 @@ void USSDEditCmd::load()
     getUserProfileXMLFilePath(path);
     if (!path.isEmpty())
         load(path, false);
-    USSD_LOG(" number of profiles = %d", m_listUSSDProfiles.count());
+    USSD_LOG(" number of profiles = %d", int(m_listUSSDProfiles.count()));
 }
 
 void USSDEditCmd::GetProfileList(QList<USSDProfile> &list)

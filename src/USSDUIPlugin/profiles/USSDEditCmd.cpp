@@ -372,7 +372,7 @@ void USSDEditCmd::OnClickedSaveButton()
     if (plan.losesChanges)
         return sayRefusals(plan); // the window remains open and keeps the changes
     m_listUSSDProfiles = newList;
-    USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", m_listUSSDProfiles.count());
+    USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", int(m_listUSSDProfiles.count()));
     saveAsPlanned(plan);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QMutex>
+#include <Qt>
 #include <QWaitCondition>
 
 /**

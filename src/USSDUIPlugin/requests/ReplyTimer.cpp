@@ -3,7 +3,6 @@
 #include <atomic>
 #include <chrono>
 
-#include <QMutexLocker>
 #include <QPointer>
 #include <QThread>
 #include <QTimerEvent>
@@ -34,7 +33,7 @@ void ReplyTimer::setClock(Clock clock)
 
 quint64 ReplyTimer::arm(int milliseconds)
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     m_armed = true;
     m_deadline = currentClock.load()() + milliseconds;
     const quint64 arming = ++m_arming;
@@ -45,14 +44,14 @@ quint64 ReplyTimer::arm(int milliseconds)
 
 void ReplyTimer::disarm()
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     m_armed = false;
     stopIfOwner(locker);
 }
 
 void ReplyTimer::disarm(quint64 arming)
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     if (!m_armed || m_arming != arming)
         return;
     m_armed = false;
@@ -61,13 +60,13 @@ void ReplyTimer::disarm(quint64 arming)
 
 bool ReplyTimer::isArmed() const
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     return m_armed;
 }
 
 bool ReplyTimer::isArmed(quint64 arming) const
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     return m_armed && m_arming == arming;
 }
 
@@ -79,7 +78,7 @@ bool ReplyTimer::wakesWithin(int milliseconds) const
     return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
 }
 
-void ReplyTimer::letTimerFollow(QMutexLocker &locker)
+void ReplyTimer::letTimerFollow(QtCompat::MutexLocker &locker)
 {
     const bool alreadyPosted = m_catchUpPosted;
     m_catchUpPosted = true;
@@ -92,7 +91,7 @@ void ReplyTimer::letTimerFollow(QMutexLocker &locker)
 
 /// Stops the QTimer if called from its own thread. If called from another thread, lets the QTimer
 /// fire once without effect, which costs less than an event that stops the timer.
-void ReplyTimer::stopIfOwner(QMutexLocker &locker)
+void ReplyTimer::stopIfOwner(QtCompat::MutexLocker &locker)
 {
     locker.unlock();
     if (QThread::currentThread() == thread())
@@ -101,7 +100,7 @@ void ReplyTimer::stopIfOwner(QMutexLocker &locker)
 
 void ReplyTimer::catchUp()
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     m_catchUpPosted = false;
     const bool armed = m_armed;
     const qint64 remaining = qMax<qint64>(0, m_deadline - currentClock.load()());
@@ -116,13 +115,13 @@ void ReplyTimer::catchUp()
 /// Records when the QTimer fires next. The QTimer repeats until the time-out is disarmed.
 void ReplyTimer::repeats()
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     m_wake = systemClock() + interval();
 }
 
 quint64 ReplyTimer::dueArming() const
 {
-    QMutexLocker locker(&m_state);
+    QtCompat::MutexLocker locker(&m_state);
     return m_armed && currentClock.load()() >= m_deadline ? m_arming : 0;
 }
 

@@ -4,7 +4,7 @@
 #include <QMutex>
 #include <QTimer>
 
-class QMutexLocker;
+#include "QtCompat.h"
 
 /**
  * The response time-out. It may be armed and disarmed from any thread, and isArmed() reflects the
@@ -52,8 +52,8 @@ protected:
 
 private:
     bool wakesWithin(int milliseconds) const;
-    void letTimerFollow(QMutexLocker &locker);
-    void stopIfOwner(QMutexLocker &locker);
+    void letTimerFollow(QtCompat::MutexLocker &locker);
+    void stopIfOwner(QtCompat::MutexLocker &locker);
     void repeats();
     quint64 dueArming() const;
 

@@ -1,11 +1,11 @@
 #include "USSDLogic.h"
 
-#include <QMutexLocker>
 #include <QPointer>
 
 #include "base/PluginLog.h"
 #include "base/PluginText.h"
 #include "CommonUtils.h"
+#include "QtCompat.h"
 #include "ReplyTimeout.h"
 #include "ReplyTimer.h"
 #include "SdkRecords.h"
@@ -65,7 +65,7 @@ public:
     CommandQueue *operator->() { return &m_listOfCommandsToSend; }
 
 private:
-    QMutexLocker m_locker;
+    QtCompat::MutexLocker m_locker;
 };
 
 // ---- life cycle ----------------------------------------------------------------------------
@@ -237,7 +237,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     int ignoredStatus = 0;
     if (!status)
         status = &ignoredStatus;
-    QMutexLocker sending(&m_mutexSendCmd);
+    QtCompat::MutexLocker sending(&m_mutexSendCmd);
     if (!LockedQueue()->isOpenHead(number)) // cleared or answered while waiting for the lock
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
@@ -265,7 +265,7 @@ void USSDLogic::armReplyTimer(quint64 number)
 {
     if (!m_pTimer)
         return;
-    QMutexLocker locker(&m_mutexTimeout);
+    QtCompat::MutexLocker locker(&m_mutexTimeout);
     if (m_pTimer->isArmed()) // an earlier request's; its reply may be under way on another thread
         m_waitCondition.wait(&m_mutexTimeout, static_cast<unsigned long>(m_replyTimes.previous));
     m_timedHead = number;
@@ -282,7 +282,7 @@ void USSDLogic::armReplyTimer(quint64 number)
 /// called.
 void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
-    QMutexLocker locker(&m_mutexTimeout);
+    QtCompat::MutexLocker locker(&m_mutexTimeout);
     m_waitCondition.wakeAll();
     if (m_pTimer && m_timedHead <= lastHead)
         m_pTimer->disarm();
@@ -369,7 +369,7 @@ bool USSDLogic::stopRunOutTimer()
         stopReplyTimer();
         return true;
     }
-    QMutexLocker locker(&m_mutexTimeout);
+    QtCompat::MutexLocker locker(&m_mutexTimeout);
     m_waitCondition.wakeAll();
     if (!m_pTimer->isArmed(runOut))
         return false;

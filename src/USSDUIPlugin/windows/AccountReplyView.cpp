@@ -40,9 +40,14 @@ bool holdsRightToLeftLetter(const QString &text)
 }
 
 /// Removes the direction marks from LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
-QString withoutDirectionMarks(QString text)
+QString withoutDirectionMarks(const QString &text)
 {
-    return text.remove(QRegExp(QString::fromLatin1("[%1-%2]").arg(QChar(0x202A), QChar(0x202E))));
+    QString kept;
+    for (int i = 0; i < text.length(); ++i) {
+        if (text.at(i) < QChar(0x202A) || text.at(i) > QChar(0x202E))
+            kept += text.at(i);
+    }
+    return kept;
 }
 
 } // namespace

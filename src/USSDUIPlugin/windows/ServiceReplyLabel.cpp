@@ -1,7 +1,6 @@
 #include "ServiceReplyLabel.h"
 
 #include <QPainter>
-#include <QRegExp>
 #include <QStyle>
 #include <QTextLayout>
 
@@ -15,6 +14,26 @@ const ushort POP = 0x202C;
 /// A label is too small for this many characters. Laying out more characters at each repaint would
 /// be useless.
 const int MOST_LETTERS = 2000;
+
+/// Returns true if a code may contain this character after its first character.
+bool continuesCode(QChar unit)
+{
+    return unit == QLatin1Char('*') || unit == QLatin1Char('#') ||
+           (unit >= QLatin1Char('0') && unit <= QLatin1Char('9'));
+}
+
+/// Returns the end of the code or number that starts at `start`, such as *100# or +4930, or `start`
+/// if there is none.
+int codeEnd(const QString &text, int start)
+{
+    const QChar first = text.at(start);
+    if (first != QLatin1Char('*') && first != QLatin1Char('#') && first != QLatin1Char('+'))
+        return start;
+    int end = start + 1;
+    while (end < text.length() && continuesCode(text.at(end)))
+        ++end;
+    return end > start + 1 ? end : start;
+}
 
 QTextOption textOption(const QLabel &label, bool rightToLeft)
 {
@@ -61,9 +80,17 @@ QSize ServiceReplyLabel::minimumSizeHint() const
 
 QString ServiceReplyLabel::withCodesMarked(const QString &text)
 {
-    QString marked = text;
-    const QString around = QChar(EMBED) + QString::fromLatin1("\\1") + QChar(POP);
-    return marked.replace(QRegExp(QLatin1String("([*#+][*#0-9]+)")), around);
+    QString marked;
+    for (int i = 0; i < text.length(); ++i) {
+        const int end = codeEnd(text, i);
+        if (end == i) {
+            marked += text.at(i);
+            continue;
+        }
+        marked += QChar(EMBED) + text.mid(i, end - i) + QChar(POP);
+        i = end - 1;
+    }
+    return marked;
 }
 
 void ServiceReplyLabel::paintEvent(QPaintEvent *event)

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegExpValidator>
 
 #include "AccountReplyView.h"
 #include "base/PluginLog.h"
@@ -245,7 +244,7 @@ void USSDDlg::limitChargeEdit()
     USSD_LOG(" string validator = %s", pattern.toLocal8Bit().constData());
     if (isChargeExpressionUsable(m_chargeRules))
         m_pChargeEdit->setValidator(
-            new QRegExpValidator(QRegExp(pattern, Qt::CaseSensitive), m_pChargeEdit));
+            new QtCompat::RegExpValidator(QRegExp(pattern, Qt::CaseSensitive), m_pChargeEdit));
     else
         USSD_LOG_IMPORTANT(" Charge: LimitText or length make no expression: %s; any character can "
                            "be entered",
@@ -254,8 +253,8 @@ void USSDDlg::limitChargeEdit()
 
 void USSDDlg::initOnlineChargeComponent()
 {
-    const QString shown =
-        QApplication::fontMetrics().elidedText(m_strOnlineAddress, Qt::ElideRight, LINK_WIDTH);
+    const QString shown = QFontMetrics(QApplication::font())
+                              .elidedText(m_strOnlineAddress, Qt::ElideRight, LINK_WIDTH);
     m_pOnlineURL->setTextFormat(Qt::RichText);
     m_pOnlineURL->setTextInteractionFlags(Qt::TextBrowserInteraction);
     m_pOnlineURL->setOpenExternalLinks(true);

@@ -330,7 +330,7 @@ void USSDGeneralDlg::changeSendButtonStatus()
 void USSDGeneralDlg::OnActivated(int index)
 {
     USSD_LOG(" Enter: Item Index = %d", index);
-    USSD_LOG(" profiles count = %d", m_listProfiles.count());
+    USSD_LOG(" profiles count = %d", int(m_listProfiles.count()));
     if (index < 0 || index >= m_listProfiles.count()) {
         USSD_LOG(" Exit: Invalid Index = %d", index);
         return;

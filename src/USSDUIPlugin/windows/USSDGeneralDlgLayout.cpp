@@ -127,7 +127,7 @@ void USSDGeneralDlg::addBottomButtons(int row)
 /// Adjusts the widths of the bottom buttons to their texts. Currently, this function is not called.
 void USSDGeneralDlg::setRightLayoutBottomButtons()
 {
-    const QFontMetrics metrics = QApplication::fontMetrics();
+    const QFontMetrics metrics(QApplication::font());
     const int send = QtCompat::textWidth(metrics, m_pSendButton->text());
     const int clear = QtCompat::textWidth(metrics, m_pClearButton->text());
     const int close = QtCompat::textWidth(metrics, m_pCloseButton->text());

@@ -112,7 +112,7 @@ void USSDGeneralDlg::getProfileList()
 {
     USSDEditCmd profiles;
     profiles.GetProfileList(m_listProfiles);
-    USSD_LOG(" profiles count = %d", m_listProfiles.count());
+    USSD_LOG(" profiles count = %d", int(m_listProfiles.count()));
 }
 
 void USSDGeneralDlg::addProfilesToCombo()
@@ -129,7 +129,7 @@ void USSDGeneralDlg::addProfilesToCombo()
 
 int USSDGeneralDlg::getPreBtnMaxTextWidth()
 {
-    const QFontMetrics metrics = QApplication::fontMetrics();
+    const QFontMetrics metrics(QApplication::font());
     int widest = 0;
     for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
         const QString text = m_pLogic->getProfileShowText(m_pListPreBtns->at(i).second);

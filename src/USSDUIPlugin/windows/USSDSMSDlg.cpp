@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
 #include <QTreeWidget>
 #include <QXmlStreamReader>
 
@@ -236,7 +235,7 @@ void CUSSDSMSDlg::createInput()
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
     m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are left-to-right
-    m_pValidator = new QRegExpValidator(m_pInputEdit);
+    m_pValidator = new QtCompat::RegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
 
@@ -392,7 +391,7 @@ bool CUSSDSMSDlg::SetWidgetGeometry(QList<CWidgetItemInfo *> controls, bool mirr
 {
     if (controls.isEmpty() || controls.count() > SmsLayoutFile::CONTROLS_OF_GROUP ||
         controls.count() != m_listWidgets.count()) {
-        USSD_LOG(" Fail Exit: %d controls", controls.count());
+        USSD_LOG(" Fail Exit: %d controls", int(controls.count()));
         return false;
     }
     takeControls(controls);

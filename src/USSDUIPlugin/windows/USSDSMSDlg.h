@@ -5,13 +5,13 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "QtCompat.h"
 #include "requests/USSDCommand.h"
 #include "SmsLayout.h"
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QRegExpValidator;
 class QTreeWidget;
 class QXmlStreamReader;
 class USSDLogic;
@@ -135,7 +135,7 @@ private:
     QLineEdit *m_pInputEdit;
     QPushButton *m_pSendButton;
     QLabel *m_pResultLabel;
-    QRegExpValidator *m_pValidator;
+    QtCompat::RegExpValidator *m_pValidator;
     QList<QWidget *> m_listWidgets; // labels, input field and button, in the order of Position
     // Copies of the controls in m_listWidgets, because the original group may be replaced.
     QList<Formats::CWidgetItemInfo> m_listControls;

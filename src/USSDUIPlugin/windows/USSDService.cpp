@@ -8,6 +8,7 @@
 #include "CommonUtils.h"
 #include "FrameLook.h"
 #include "PluginContract.h"
+#include "QtCompat.h"
 #include "requests/USSDLogic.h"
 
 using namespace Formats;
@@ -37,7 +38,7 @@ template <typename Widget>
 void closeIfExists(const QPointer<Widget> &widget)
 {
     if (widget)
-        widget->close();
+        QtCompat::closeEvenIfHidden(widget);
 }
 
 } // namespace
