@@ -6,7 +6,8 @@ namespace Cli
 
 class Program;
 
-/* Each function executes one command and returns its exit code. Program::selectDevice() must have
+/*
+ * Each function executes one command and returns its exit code. Program::selectDevice() must have
  * succeeded before. If a signal arrives or standard output cannot be written, the caller replaces
  * the exit code.
  */

@@ -111,8 +111,7 @@ TKSV_FailureInfo lastFailure(TKSV_Failure otherwise)
     return failure;
 }
 
-/* ---- functions that run on threads of the library
- * ----------------------------------------------------------- */
+/* ---- functions that run on threads of the library ---------------------------------------- */
 
 unsigned char takeResponse(int, void *data)
 {

@@ -23,7 +23,8 @@ struct Outcome {
     bool isMenu() const { return !hasFailed() && type == 1; }
 };
 
-/** The USSD session of this program. Only one object may exist at a time, because the call-backs of
+/**
+ * The USSD session of this program. Only one object may exist at a time, because the call-backs of
  * the device library do not have a context argument.
  */
 class Conversation

@@ -4,7 +4,8 @@
 namespace Cli
 {
 
-/** The exit codes of the programs that send codes, one for each kind of outcome. If a signal ends
+/**
+ * The exit codes of the programs that send codes, one for each kind of outcome. If a signal ends
  * the program, the exit code is EXIT_SIGNAL plus the signal number.
  */
 enum ExitCode {

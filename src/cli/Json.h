@@ -7,8 +7,10 @@
 namespace Cli
 {
 
-/** A JSON object that is printed on a single line. The members stay in the order in which they were
- * added. */
+/**
+ * A JSON object that is printed on a single line. The members stay in the order in which they were
+ * added.
+ */
 class Json
 {
 public:

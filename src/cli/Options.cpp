@@ -48,8 +48,10 @@ struct Values {
     char **words = nullptr;
 };
 
-/** A command: its name, its minimum and maximum number of arguments, and the options that it
- * supports. */
+/**
+ * A command: its name, its minimum and maximum number of arguments, and the options that it
+ * supports.
+ */
 struct CommandRow {
     const char *name;
     Command command;

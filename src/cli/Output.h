@@ -9,7 +9,8 @@
 namespace Cli
 {
 
-/** Prints results to standard output, and prints notices and errors to standard error. Replaces or
+/**
+ * Prints results to standard output, and prints notices and errors to standard error. Replaces or
  * escapes all characters that are unsafe for a terminal.
  */
 class Output

@@ -12,8 +12,10 @@
 namespace Cli
 {
 
-/** Contains the objects that all commands use: the command line, the waits, the output and the
- * device. */
+/**
+ * Contains the objects that all commands use: the command line, the waits, the output and the
+ * device.
+ */
 class Program
 {
 public:

@@ -6,7 +6,8 @@
 namespace Cli
 {
 
-/* Replies come from the network and may therefore contain characters that control a terminal or
+/*
+ * Replies come from the network and may therefore contain characters that control a terminal or
  * disguise the meaning of the reply. All programs of the project treat these characters as unsafe:
  * control characters (C0, DEL and C1), and characters that embed, override or isolate a text
  * direction (U+202A to U+202E and U+2066 to U+2069). Line feeds and tabs are safe. Every other line

@@ -6,7 +6,8 @@
 namespace Cli
 {
 
-/** Receives the signals that end the program: SIGINT, SIGTERM and SIGHUP. The signals are blocked
+/**
+ * Receives the signals that end the program: SIGINT, SIGTERM and SIGHUP. The signals are blocked
  * and are read from a file descriptor, so that no code runs in a signal handler. A signal that was
  * ignored when the program started is still ignored, as nohup requires.
  */

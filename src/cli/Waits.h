@@ -16,7 +16,8 @@ using Milliseconds = std::chrono::milliseconds;
 
 const Clock::time_point NEVER = Clock::time_point::max();
 
-/** Contains all functions in which the program waits. Except for wake(), all functions must be
+/**
+ * Contains all functions in which the program waits. Except for wake(), all functions must be
  * called from the main thread. A wait ends when its condition becomes true, when its time limit
  * expires, or when a signal arrives that ends the program.
  */

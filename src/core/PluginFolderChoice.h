@@ -6,7 +6,8 @@
 namespace HostCore
 {
 
-/** Selects the folder from which plug-ins read their configuration and their profiles. This folder
+/**
+ * Selects the folder from which plug-ins read their configuration and their profiles. This folder
  * contains the folder "plugins". A host can select the folder of an operator. If the host does not
  * select a folder, $USSD_PLUGIN_LIBRARY_PATH specifies the folder. If this variable is not set
  * either, the installed folder is used. The paths do not end with a separator. The functions may be

@@ -23,9 +23,11 @@ struct UntakenText {
 
 /**
  * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules
- * documented in tksv.h for every backend. A reply counts as delivered once its call-back has
- * started. Until then, a newer request or a release cancels the reply. If the call-back makes a
- * request, the session is already in the state that follows from the reply.
+ * documented in tksv.h for every backend.
+ *
+ * A reply counts as delivered once its call-back has started. Until then, a newer request or a
+ * release cancels the reply. If the call-back makes a request, the session is already in the state
+ * that follows from the reply.
  *
  * m_mutex is locked while the backend is called, but never while a call-back runs.
  */

@@ -13,8 +13,9 @@
 
 using namespace Cli;
 
-/** Tests parts of `ussd` that other programs share, or that cannot be tested by running the
- * program. */
+/**
+ * Tests parts of `ussd` that other programs share, or that cannot be tested by running the program.
+ */
 class PartsTest : public UssdTest
 {
     Q_OBJECT

@@ -68,7 +68,8 @@ std::string networkFor(int programs)
 
 } // namespace
 
-/** Tests `ussd` with a real ModemManager and a fake AT modem. The commands that the modem has
+/**
+ * Tests `ussd` with a real ModemManager and a fake AT modem. The commands that the modem has
  * received show what the program sent.
  */
 class UssdModemTest : public CliTest

@@ -9,7 +9,8 @@
 namespace FakeModems
 {
 
-/** A program that ends together with the test, even if the test crashes. The kernel kills the
+/**
+ * A program that ends together with the test, even if the test crashes. The kernel kills the
  * program when the thread that started the program ends. Therefore, this thread must exist for as
  * long as the program is needed.
  */

@@ -19,7 +19,8 @@ namespace FakeModems
 
 class ModemCore;
 
-/** An AT modem on a Unix socket, with a simulated network. The modem uses the protocol that the
+/**
+ * An AT modem on a Unix socket, with a simulated network. The modem uses the protocol that the
  * daemon expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on request,
  * and records everything that it receives. It answers without delay, from its own thread.
  *

@@ -8,8 +8,9 @@
 #include <QStringList>
 #include <QTimer>
 
-/** As long as the helper exists, it records the text of each message box and closes the box with
- * the first button of the box.
+/**
+ * As long as the helper exists, it records the text of each message box and closes the box with the
+ * first button of the box.
  */
 class MessageHelper : public QObject
 {

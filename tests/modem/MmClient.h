@@ -18,7 +18,8 @@ struct UssdResult {
     int code = -1;
 };
 
-/** A simple client of the daemon that uses libmm-glib and waits for each reply. The tests of the
+/**
+ * A simple client of the daemon that uses libmm-glib and waits for each reply. The tests of the
  * modem fixtures use this client, as do benchmarks that compare the plug-in with a simple client.
  */
 class MmClient

@@ -27,7 +27,8 @@ struct ModemNews {
     std::function<void(PlugChange)> plugChanged;
 };
 
-/** The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. All
+/**
+ * The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. All
  * functions must be called from the modem's thread.
  */
 class ModemCore

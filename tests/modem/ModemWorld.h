@@ -36,9 +36,10 @@ const int STATE_REGISTERED = 8;
  * of a temporary folder, a private bus, a polkit stub and the daemon. Since it sets
  * DBUS_SYSTEM_BUS_ADDRESS for the process, it must be created before anything connects to the
  * system bus. Only one instance may exist at a time. The bus and the daemon end with the process,
- * even if the process crashes. Must be created on a thread that exists as long as the object.
- * Functions that wait give up after ten seconds and return false or an empty string. The functions
- * do not throw exceptions.
+ * even if the process crashes.
+ *
+ * Must be created on a thread that exists as long as the object. Functions that wait give up after
+ * ten seconds and return false or an empty string. The functions do not throw exceptions.
  */
 class ModemWorld
 {

@@ -21,7 +21,8 @@ struct NetworkNews {
     std::function<void()> infoChanged;
 };
 
-/** Connects the modem to its simulated network, which plays a scenario. The network runs on its own
+/**
+ * Connects the modem to its simulated network, which plays a scenario. The network runs on its own
  * thread. The link passes the network's events to the modem's thread in the same order. All
  * functions must be called from the modem's thread.
  */

@@ -10,7 +10,8 @@
 namespace FakeModems
 {
 
-/** Replaces polkit on the bus and owns polkit's bus name. The stub answers the authorization
+/**
+ * Replaces polkit on the bus and owns polkit's bus name. The stub answers the authorization
  * requests of the daemon. It grants all requests unless it is set to refuse them.
  */
 class PolkitStub

@@ -8,8 +8,10 @@
 namespace FakeModems
 {
 
-/** A message bus whose socket is in a given folder. It has no access restrictions and ends with
- * this object. */
+/**
+ * A message bus whose socket is in a given folder. It has no access restrictions and ends with this
+ * object.
+ */
 class PrivateBus
 {
 public:

@@ -1,4 +1,5 @@
-/* Tests which device the library uses if none is selected: the first modem that is registered, and
+/*
+ * Tests which device the library uses if none is selected: the first modem that is registered, and
  * never the simulator.
  */
 #include "ModemWorld.h"

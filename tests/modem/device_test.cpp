@@ -42,8 +42,10 @@ unsigned char takesNothing(int, void *)
     return 0;
 }
 
-/** As long as this object exists, no USSD call-back accepts network messages, so the dashboard
- * receives them. */
+/**
+ * As long as this object exists, no USSD call-back accepts network messages, so the dashboard
+ * receives them.
+ */
 class OnlyDashboard
 {
 public:

@@ -124,8 +124,9 @@ const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
 } // namespace
 
-/** Tests the dashboard and the plug-in with the device SDK, a real ModemManager and a fake AT
- * modem. The tests operate the dashboard as a user would, and check which commands reach the modem.
+/**
+ * Tests the dashboard and the plug-in with the device SDK, a real ModemManager and a fake AT modem.
+ * The tests operate the dashboard as a user would, and check which commands reach the modem.
  */
 class EndToEndTest : public SimTest
 {
@@ -527,7 +528,7 @@ void EndToEndTest::theDaemonCrashesWhileACommandIsOut()
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
 
-/* ---- nothing is sent without a request ------------------------------------------------- */
+/* ---- nothing is sent without a request --------------------------------------------------- */
 
 /// Tests that opening the window does not send anything if the operator of the SIM is not set up,
 /// even if the user has enabled the detection.

@@ -1,4 +1,5 @@
-/* Tests internals of the device SDK that require ModemManager or its library, and whose time limits
+/*
+ * Tests internals of the device SDK that require ModemManager or its library, and whose time limits
  * are too long or whose errors are too rare for the other tests.
  */
 // The GLib headers precede the Qt headers, in which "signals" is a keyword.

@@ -1,5 +1,7 @@
-/* Tests the fake modem with the real daemon. The client uses the same library as the daemon's own
- * tools. */
+/*
+ * Tests the fake modem with the real daemon. The client uses the same library as the daemon's own
+ * tools.
+ */
 #include <libmm-glib.h>
 
 #include <QtTest>

@@ -1,5 +1,8 @@
-/* one_command CODE reply: sends the code when the modem is registered, and prints the type and the
- * string of the reply. one_command CODE exit: exits as soon as the library has accepted the code.
+/*
+ * one_command CODE reply: sends the code when the modem is registered, and prints the type and the
+ * string of the reply.
+ *
+ * one_command CODE exit: exits as soon as the library has accepted the code.
  */
 #include <condition_variable>
 #include <cstdio>

@@ -1,4 +1,5 @@
-/* Tests that several programs can share a modem. The library does not touch the sessions of other
+/*
+ * Tests that several programs can share a modem. The library does not touch the sessions of other
  * programs and ends its own sessions, and the programs of one user take turns. The other program is
  * a simple client of ModemManager.
  */

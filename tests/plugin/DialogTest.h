@@ -11,7 +11,8 @@
 #include "markup/TranscriptView.h"
 #include "windows/USSDGeneralDlg.h"
 
-/** The base class of tests that operate the general dialog as a user would, with the fake device
+/**
+ * The base class of tests that operate the general dialog as a user would, with the fake device
  * SDK. The fake network does not reply until a test sends a reply.
  */
 class DialogTest : public PluginTest

@@ -6,7 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
-/** The base class of tests that run the plug-in's code with the fake device SDK. Each test function
+/**
+ * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
  * starts with a reset SDK and without the singleton, and uses its own plug-in library directory and
  * user data directory. After each test function, the plug-in is shut down with the calls that a
  * host makes.

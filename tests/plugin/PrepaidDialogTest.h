@@ -30,7 +30,8 @@ inline QStringList ussdCalls()
     return names;
 }
 
-/** The base class of tests that check which commands the account window sends, when it sends these
+/**
+ * The base class of tests that check which commands the account window sends, when it sends these
  * commands, and how it handles the replies.
  */
 class PrepaidDialogTest : public PrepaidTest

@@ -16,7 +16,8 @@
 
 class QMessageBox;
 
-/** The base class of tests that operate the account window in its frame as a user would, with the
+/**
+ * The base class of tests that operate the account window in its frame as a user would, with the
  * fake device SDK. The fake network does not reply until a test sends a reply.
  */
 class PrepaidTest : public PluginTest

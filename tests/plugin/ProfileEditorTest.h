@@ -46,8 +46,10 @@ inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
     return difference;
 }
 
-/** The base class of tests of the profile editor, as a separate widget or opened from the general
- * dialog. */
+/**
+ * The base class of tests of the profile editor, as a separate widget or opened from the general
+ * dialog.
+ */
 class ProfileEditorTest : public PluginTest
 {
     Q_OBJECT

@@ -74,7 +74,8 @@ const char WORDS[] = "<length>30</length><minlenth>3</minlenth>";
 const char USSD[] = "type='ussd'";
 const char SMS[] = "type='sms'";
 
-/** The base class of tests that operate the USSD-SMS dialog in a frame with keys and clicks. By
+/**
+ * The base class of tests that operate the USSD-SMS dialog in a frame with keys and clicks. By
  * default, the fake network does not reply.
  */
 class SmsDialogTest : public PluginTest

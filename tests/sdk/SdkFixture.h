@@ -132,7 +132,8 @@ long request(const std::u16string &text, int *status = nullptr);
 /// Sends the command and returns the response. The type is -1 if no response arrives.
 Response ask(const std::u16string &text);
 
-/** Runs an action that must finish within `milliseconds`, because the network sends something after
+/**
+ * Runs an action that must finish within `milliseconds`, because the network sends something after
  * this time. Each attempt starts with a call of `prepare`. On a busy machine, several attempts may
  * be necessary. Returns false if no attempt was fast enough.
  */

@@ -1,4 +1,5 @@
-/* A client that exits while the library is busy. The first argument selects the moment of the exit.
+/*
+ * A client that exits while the library is busy. The first argument selects the moment of the exit.
  * The client must end with the exit code that it requested, regardless of what the library is
  * doing.
  */

@@ -1,4 +1,5 @@
-/* Tests the parser of scenario files: the values of a valid file, and each error message for an
+/*
+ * Tests the parser of scenario files: the values of a valid file, and each error message for an
  * invalid file.
  */
 #include <QtTest>

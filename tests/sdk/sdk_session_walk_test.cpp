@@ -1,10 +1,13 @@
 /*
- * Tests the rules of UssdSession with every order of events. All public functions of UssdSession
- * lock the same mutex, so calls from several threads take effect one after another. The walk tries
- * every order of up to seven steps. A step is a request, a request that the device refuses, a reply
- * or a menu for the newest request, a cancellation, a release, the loss of the device, or the start
- * or end of a delivery. A delivery starts when the service's thread checks whether the event is
- * still valid, and ends when the call-backs have returned. The same reply may arrive several times.
+ * Tests the rules of UssdSession with every order of events.
+ *
+ * All public functions of UssdSession lock the same mutex, so calls from several threads take
+ * effect one after another. The walk tries every order of up to seven steps. A step is a request, a
+ * request that the device refuses, a reply or a menu for the newest request, a cancellation, a
+ * release, the loss of the device, or the start or end of a delivery. A delivery starts when the
+ * service's thread checks whether the event is still valid, and ends when the call-backs have
+ * returned. The same reply may arrive several times.
+ *
  * The model records each request and its outcome. At the end of each order, all remaining events
  * are delivered. Each request must then have exactly one outcome.
  */

@@ -3,7 +3,8 @@
 
 #include <QLabel>
 
-/** A label that shows replies of the network as plain text. The letters of a reply determine its
+/**
+ * A label that shows replies of the network as plain text. The letters of a reply determine its
  * text direction, but codes are always displayed from left to right. A word that is too long for a
  * line can be broken anywhere. text() returns the reply unchanged. The reply does not affect the
  * size hint. All functions must be called from the GUI thread.

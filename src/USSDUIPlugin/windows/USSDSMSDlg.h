@@ -29,12 +29,15 @@ struct CCommandWidget {
     QLabel *resultLabel = nullptr;
 };
 
-/** The window for the operator's services. A tree lists the services. The controls of the selected
+/**
+ * The window for the operator's services. A tree lists the services. The controls of the selected
  * service are shown next to the tree. They include a button that sends a USSD command or a short
- * message, and an input field. All functions must be called from the GUI thread. The tree and the
- * controls are placed as specified in the configuration file, which the constructor reads. When the
- * user sends a command or a short message, the window becomes busy and remains busy until the
- * outcome arrives. Meanwhile, the tree, the button and the input field are disabled.
+ * message, and an input field. All functions must be called from the GUI thread.
+ *
+ * The tree and the controls are placed as specified in the configuration file, which the
+ * constructor reads. When the user sends a command or a short message, the window becomes busy and
+ * remains busy until the outcome arrives. Meanwhile, the tree, the button and the input field are
+ * disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {

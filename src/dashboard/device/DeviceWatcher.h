@@ -17,8 +17,9 @@ struct DeviceReading {
     QList<Modem> modems;
 };
 
-/** Keeps the status of the device up to date. All functions must be called from the GUI thread.
- * Only one watcher may exist at a time, because the SDK accepts only one call-back.
+/**
+ * Keeps the status of the device up to date. All functions must be called from the GUI thread. Only
+ * one watcher may exist at a time, because the SDK accepts only one call-back.
  */
 class DeviceWatcher : public QObject
 {

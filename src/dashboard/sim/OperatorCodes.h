@@ -25,7 +25,8 @@ struct OperatorPlaces {
     static OperatorPlaces ofUser();
 };
 
-/** Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes of
+/**
+ * Selects the codes that the plug-in uses, separately for each home network of a SIM. The codes of
  * an operator are taken from the operator database. If no operator is selected, a simulated network
  * uses the sample codes, and a modem uses no codes. All functions must be called from the GUI
  * thread.

@@ -14,7 +14,8 @@ namespace Dashboard
 class LoadedPlugin;
 class ReplyTap;
 
-/** Makes the plug-in query once for each SIM whether the SIM is prepaid or postpaid. The query ends
+/**
+ * Makes the plug-in query once for each SIM whether the SIM is prepaid or postpaid. The query ends
  * any open session on the device, and is therefore delayed while the user needs the device. All
  * functions must be called from the GUI thread and return immediately.
  */

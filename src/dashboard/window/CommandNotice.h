@@ -9,8 +9,9 @@ namespace Dashboard
 
 class DeviceWatcher;
 
-/** A line below the general window. While a command is in flight, the line shows this and contains
- * a button to cancel the command. If the command has failed, the line shows the reason. Otherwise,
+/**
+ * A line below the general window. While a command is in flight, the line shows this and contains a
+ * button to cancel the command. If the command has failed, the line shows the reason. Otherwise,
  * the line is empty, but still occupies its space, so that the general window does not move.
  */
 class CommandNotice : public NoticeBar

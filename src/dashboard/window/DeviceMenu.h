@@ -11,8 +11,10 @@ class QActionGroup;
 namespace Dashboard
 {
 
-/** The menu in which the user selects a device: the automatic choice, a modem or a simulated
- * network. */
+/**
+ * The menu in which the user selects a device: the automatic choice, a modem or a simulated
+ * network.
+ */
 class DeviceMenu : public QMenu
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ namespace Dashboard
 class DeviceWatcher;
 class PinDialog;
 
-/** A line that shows the problem of the device, with a button for the action that the user can
- * take.
+/**
+ * A line that shows the problem of the device, with a button for the action that the user can take.
  */
 class DeviceNotice : public NoticeBar
 {

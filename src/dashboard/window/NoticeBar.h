@@ -11,7 +11,8 @@ class QPushButton;
 namespace Dashboard
 {
 
-/** A line in the main window with a notice, and with buttons to respond to the notice. The line is
+/**
+ * A line in the main window with a notice, and with buttons to respond to the notice. The line is
  * visible only while it contains a notice. It does not take the focus.
  */
 class NoticeBar : public QFrame

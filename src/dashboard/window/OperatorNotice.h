@@ -12,7 +12,8 @@ namespace Dashboard
 class OperatorCodes;
 class OperatorDialog;
 
-/** A line that suggests an operator's codes, once for each home network of a SIM. If several
+/**
+ * A line that suggests an operator's codes, once for each home network of a SIM. If several
  * operators are possible or none is known, the user can select one. choose() lets the user change
  * the decision later.
  */

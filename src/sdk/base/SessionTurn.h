@@ -8,10 +8,12 @@ namespace Tksv
 
 /**
  * A program's place in the queue for the USSD session of one modem. The programs of one user take
- * turns, first come first served. The queue is a folder that contains one file, the ticket, for
- * each program. The name of the ticket is a number. A program locks its ticket with flock() while
- * it waits and while it uses the session. If a program crashes, the kernel unlocks its ticket, and
- * the next program removes the ticket. If the folder cannot be used, programs do not wait.
+ * turns, first come first served.
+ *
+ * The queue is a folder that contains one file, the ticket, for each program. The name of the
+ * ticket is a number. A program locks its ticket with flock() while it waits and while it uses the
+ * session. If a program crashes, the kernel unlocks its ticket, and the next program removes the
+ * ticket. If the folder cannot be used, programs do not wait.
  */
 class SessionTurn
 {

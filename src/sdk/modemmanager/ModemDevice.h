@@ -16,7 +16,8 @@
 namespace Tksv
 {
 
-/** Represents the modem in use and keeps the properties of the modem up to date. The modem is
+/**
+ * Represents the modem in use and keeps the properties of the modem up to date. The modem is
  * enabled only on request, or after the PIN has unlocked its SIM. All functions must be called from
  * the thread of the main loop.
  */

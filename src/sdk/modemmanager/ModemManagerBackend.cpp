@@ -50,8 +50,7 @@ ModemManagerBackend::ModemManagerBackend(ModemWatch &watch, std::string equipmen
     m_info.isLooking = true; // until the first call of publish()
 }
 
-/* ---- functions that may be called from any thread
- * ------------------------------------------------------------ */
+/* ---- functions that may be called from any thread ---------------------------------------- */
 
 void ModemManagerBackend::start(BackendObserver &observer)
 {
@@ -169,8 +168,7 @@ void ModemManagerBackend::post(std::function<void()> task)
     m_watch.thread().post([self = shared_from_this(), task = std::move(task)] { task(); });
 }
 
-/* ---- functions that run on the watch's thread
- * ---------------------------------------------------- */
+/* ---- functions that run on the watch's thread -------------------------------------------- */
 
 /// Sends the request, or holds it until ModemManager has reported its modems. The request fails if
 /// its modem was not available or has been lost since the request was posted.

@@ -13,7 +13,8 @@
 namespace Tksv
 {
 
-/** The backend for a modem that ModemManager controls. The backend runs on the watch's thread, and
+/**
+ * The backend for a modem that ModemManager controls. The backend runs on the watch's thread, and
  * the functions of the Backend interface post tasks to this thread. The return values of these
  * functions are based on the DeviceInfo that the thread published last.
  */

@@ -15,10 +15,11 @@ namespace Tksv
 
 /**
  * Sends short messages through one modem. Each message is stored on the modem, sent, and then
- * deleted. All functions must be called from the thread of the main loop. Pending calls keep the
- * object alive, so that stored messages are deleted even after the owner has released the object.
- * The owner must call failPending() before it releases the object. After this call, the listener is
- * no longer called.
+ * deleted. All functions must be called from the thread of the main loop.
+ *
+ * Pending calls keep the object alive, so that stored messages are deleted even after the owner has
+ * released the object. The owner must call failPending() before it releases the object. After this
+ * call, the listener is no longer called.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {

@@ -19,14 +19,18 @@ namespace Tksv
 {
 
 /**
- * The USSD session of one modem. The daemon sends the reply before it updates the session state,
- * and only the state indicates whether the network is waiting for an answer. Therefore, the channel
- * holds the reply back until the state is no longer "active". Every program on the bus can use the
- * session. A session is ours only if our call opened it: the call is running, or its reply left the
- * session open and nothing else has happened since. If the network itself opens a session and waits
- * for an answer, any program may answer. The channel neither ends nor answers any other session.
- * The programs of one user take turns; see SessionTurn. All functions must be called from the
- * thread of the main loop.
+ * The USSD session of one modem.
+ *
+ * The daemon sends the reply before it updates the session state, and only the state indicates
+ * whether the network is waiting for an answer. Therefore, the channel holds the reply back until
+ * the state is no longer "active".
+ *
+ * Every program on the bus can use the session. A session is ours only if our call opened it: the
+ * call is running, or its reply left the session open and nothing else has happened since. If the
+ * network itself opens a session and waits for an answer, any program may answer. The channel
+ * neither ends nor answers any other session. The programs of one user take turns; see SessionTurn.
+ *
+ * All functions must be called from the thread of the main loop.
  */
 class UssdChannel : public std::enable_shared_from_this<UssdChannel>
 {
