@@ -171,7 +171,7 @@ void ProgramTest::aReplyInOtherLettersIsWhole()
 void ProgramTest::theMenuIsAnsweredInTurn()
 {
     const Run result = run("--send *123# 2 1");
-    QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\nSecond\n1 Deeper\nDeep enough\n"));
+    QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n\nDeep enough\n"));
     QCOMPARE(result.code, 0);
 }
 
