@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Double-clic pour modifier&#xa0;; lignes colorées fixes. Dans un code, %s est le numéro.</translation>
+        <translation>Double-clic pour modifier&#xa0;; lignes colorées fixes. Les 2 derniers boutons exigent un numéro (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

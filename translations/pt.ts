@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Duplo clique para alterar; as linhas coloridas são fixas. %s num código é o número.</translation>
+        <translation>Duplo clique para alterar; linhas coloridas fixas. Os 2 últimos botões exigem um número (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

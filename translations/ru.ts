@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Двойной щелчок меняет ячейку; цветные строки постоянны. В коде %s — номер.</translation>
+        <translation>Правка двойным щелчком; цветные строки постоянны. Двум последним кнопкам нужен номер (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>
