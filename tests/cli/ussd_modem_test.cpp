@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include <unistd.h>
+
 #include "CliTest.h"
 #include "ExitCodes.h"
 
@@ -92,6 +94,7 @@ private slots:
     void signalsEndTheSession_data();
     void signalsEndTheSession();
     void aSignalEndsTheMenuOfAChat();
+    void afterASignalNoAnswerIsSent();
 
     void aDisabledModemStaysDisabled();
     void aDisabledModemIsEnabledOnRequest();
@@ -267,6 +270,23 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
     QVERIFY(process.waitForOutput(latin1("Menu")));
     process.sendSignal(SIGTERM);
     COMPARE_EXIT(process.finish(), EXIT_SIGNAL + SIGTERM);
+    QVERIFY(isIdle());
+}
+
+/// The signal arrives while the menu is being written. The answer could be a purchase.
+void UssdModemTest::afterASignalNoAnswerIsSent()
+{
+    const FullPipe pipe;
+    UssdProcess process(words("send *123# 1"));
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
+    process.start();
+    QVERIFY(modem().waitForCommand(INITIATE));
+    QVERIFY(!process.waitForFinished(500)); // the menu arrives after a few milliseconds
+    process.sendSignal(SIGINT);
+    const Run result = process.finish();
+    COMPARE_EXIT(result, EXIT_CANCELLED);
+    QVERIFY2(result.error.contains(latin1("It was not carried out.")), qPrintable(result.error));
+    QCOMPARE(modem().timesReceived(INITIATE), 1);
     QVERIFY(isIdle());
 }
 

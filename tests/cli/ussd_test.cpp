@@ -27,32 +27,6 @@ QByteArray scenarioWithReply(const QByteArray &reply)
     return "[Network]\nOperator=O\nIMSI=001010000000007\n[*100#]\nReply=" + reply + "\n";
 }
 
-/// A pipe that is full, and from which nobody reads.
-class FullPipe
-{
-public:
-    FullPipe()
-    {
-        if (pipe2(m_ends, O_CLOEXEC | O_NONBLOCK) != 0)
-            return;
-        const QByteArray page(4096, 'x');
-        while (write(m_ends[1], page.constData(), size_t(page.size())) > 0) {
-        }
-        fcntl(m_ends[1], F_SETFL, fcntl(m_ends[1], F_GETFL) & ~O_NONBLOCK);
-    }
-    ~FullPipe()
-    {
-        close(m_ends[0]);
-        close(m_ends[1]);
-    }
-    FullPipe(const FullPipe &) = delete;
-    FullPipe &operator=(const FullPipe &) = delete;
-    int end() const { return m_ends[1]; }
-
-private:
-    int m_ends[2] = {-1, -1};
-};
-
 } // namespace
 
 /** Tests `ussd` with simulated networks, as a script would run it. */
@@ -572,7 +546,7 @@ void UssdProgramTest::aSignalEndsABlockedWrite()
 {
     const FullPipe pipe;
     UssdProcess process(words("send *100#"));
-    process.replaceStream(STDOUT_FILENO, pipe.end());
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
     process.start();
     QVERIFY(process.waitForError(latin1("Demonstration")));
     QVERIFY(!process.waitForFinished(300)); // the reply arrives after 5 ms
@@ -600,7 +574,7 @@ void UssdProgramTest::afterASignalNothingIsSent()
     QFETCH(QByteArray, notSent);
     const FullPipe pipe;
     UssdProcess process(words(line.constData()));
-    process.replaceStream(STDOUT_FILENO, pipe.end());
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
     process.start();
     process.write(input);
     QVERIFY(process.waitForError(latin1("Demonstration")));
