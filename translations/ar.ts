@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>لم يُنفَّذ الأمر.</translation>
+        <translation>لا يوجد رد.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

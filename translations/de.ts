@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>Der Befehl wurde nicht ausgeführt.</translation>
+        <translation>Es gibt keine Antwort.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

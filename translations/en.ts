@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>The command was not carried out.</translation>
+        <translation>There is no reply.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

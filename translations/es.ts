@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>No se ejecutó la orden.</translation>
+        <translation>No hay respuesta.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>La commande n’a pas été exécutée.</translation>
+        <translation>Il n’y a pas de réponse.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>O comando não foi executado.</translation>
+        <translation>Não há resposta.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

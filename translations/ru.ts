@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>Команда не выполнена.</translation>
+        <translation>Ответа нет.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>

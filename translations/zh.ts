@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>命令未能执行。</translation>
+        <translation>没有回复。</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
