@@ -72,6 +72,14 @@ void Program::awaitModem()
     m_device.awaitModem(readyLimit());
 }
 
+TKSV_DeviceInfo Program::awaitedInfo() const
+{
+    TKSV_DeviceInfo device = m_device.info();
+    if (device.isLooking && device.problem == TKSV_PROBLEM_NONE)
+        device.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    return device;
+}
+
 bool Program::prepareDevice()
 {
     if (m_device.awaitReady(readyLimit()))
@@ -83,9 +91,7 @@ int Program::failOnDevice(const std::string &code, bool wasNotSent)
 {
     if (m_waits.signal())
         return EXIT_NOT_READY;
-    TKSV_DeviceInfo device = m_device.info();
-    if (device.isLooking && device.problem == TKSV_PROBLEM_NONE)
-        device.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    const TKSV_DeviceInfo device = awaitedInfo();
     Outcome outcome;
     outcome.failure.reason = deviceFailure(device);
     outcome.failure.wasNotSent = wasNotSent;

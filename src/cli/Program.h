@@ -32,6 +32,9 @@ public:
     bool prepareDevice();
     /// Waits until the library has found the modem, or has found that there is none.
     void awaitModem();
+    /// Returns the state of the device after a wait. If the library is still looking for the modem,
+    /// ModemManager does not answer.
+    TKSV_DeviceInfo awaitedInfo() const;
     /// Prints why the device cannot be used, and returns the exit code. `code` is the code that
     /// could not be sent; it may be empty. Prints nothing if a signal has arrived.
     int failOnDevice(const std::string &code, bool wasNotSent = true);

@@ -358,10 +358,14 @@ void UssdModemTest::aDaemonThatHangsIsSaid()
     m_world->pauseDaemon();
     const Run result = run("send *100#");
     const Run status = run("status --timeout 1");
+    const Run modems = run("modems --timeout 1");
     m_world->resumeDaemon();
     COMPARE_EXIT(result, EXIT_NOT_READY);
     QVERIFY2(result.error.contains(latin1("does not answer")), qPrintable(result.error));
-    COMPARE_EXIT(status, EXIT_NOT_READY);
+    for (const Run &other : {status, modems}) {
+        COMPARE_EXIT(other, EXIT_NOT_READY);
+        QVERIFY2(other.error.contains(latin1("does not answer")), qPrintable(other.error));
+    }
 }
 
 void UssdModemTest::aDaemonThatIsNotRunningIsSaid()
