@@ -41,7 +41,8 @@ public:
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
     /// Sends the text and waits for the reply. If the reply does not arrive in time, or if a signal
-    /// arrives first, the function cancels the request on the device.
+    /// arrives first, the function cancels the request on the device. Does not send the text if a
+    /// signal has already arrived.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

@@ -32,16 +32,22 @@ public:
     bool prepareDevice();
     /// Waits until the library has found the modem, or has found that there is none.
     void awaitModem();
+    /// Returns the state of the device after a wait. If the library is still looking for the modem,
+    /// ModemManager does not answer.
+    TKSV_DeviceInfo awaitedInfo() const;
     /// Prints why the device cannot be used, and returns the exit code. `code` is the code that
     /// could not be sent; it may be empty. Prints nothing if a signal has arrived.
     int failOnDevice(const std::string &code, bool wasNotSent = true);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
-    /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. Waits
-    /// for a modem that is not ready yet. With --end-foreign-session, ends the session of another
-    /// program.
-    int send(Conversation &conversation, const std::string &text);
+    enum class Kind { Code, Answer };
+
+    /// Sends the text, and prints the reply or the failure. Returns the exit code. For a code,
+    /// waits for a modem that is not ready yet, and with --end-foreign-session ends the session of
+    /// another program. An answer is never repeated, because without its menu it would be sent as a
+    /// code.
+    int send(Conversation &conversation, const std::string &text, Kind kind);
 
 private:
     Milliseconds readyLimit() const;
