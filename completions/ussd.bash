@@ -13,6 +13,15 @@ _ussd_command() {
     done
 }
 
+# Completes the identifier of a modem. The modem itself reports it, so it may contain any character.
+# "compgen -W" would expand it, and would even run commands in it.
+_ussd_modems() {
+    local id
+    while read -r id; do
+        [[ $id == "$1"* ]] && COMPREPLY+=("$(printf '%q' "$id")")
+    done < <(ussd modems 2>/dev/null | cut -f1)
+}
+
 _ussd() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} options
     # bash takes "=" as a word of its own.
@@ -24,7 +33,7 @@ _ussd() {
     COMPREPLY=()
     case $previous in
     -m | --modem)
-        mapfile -t COMPREPLY < <(compgen -W "$(ussd modems 2>/dev/null | cut -f1)" -- "$current")
+        _ussd_modems "$current"
         return
         ;;
     --scenario)

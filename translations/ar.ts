@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>لم يُنفَّذ الأمر.</translation>
+        <translation>لا يوجد رد.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>انقر نقرًا مزدوجًا فوق خلية لتغييرها؛ الصفوف الملونة ثابتة. يشير &#x200e;%s&#x200e; في الرمز إلى الرقم المُدخل.</translation>
+        <translation>انقر نقرًا مزدوجًا فوق خلية لتغييرها؛ الصفوف الملونة ثابتة. يحتاج آخر زرّين إلى رقم يحل محل &#x200e;%s&#x200e;.</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>Der Befehl wurde nicht ausgeführt.</translation>
+        <translation>Es gibt keine Antwort.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Doppelklick ändert eine Zelle; farbige Zeilen sind fest. %s im Code steht für die Nummer.</translation>
+        <translation>Doppelklick ändert; farbige Zeilen sind fest. Die letzten zwei Knöpfe brauchen eine Nummer (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

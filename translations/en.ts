@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>The command was not carried out.</translation>
+        <translation>There is no reply.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Double-click to change a cell; coloured rows are fixed. %s in a code is the number.</translation>
+        <translation>Double-click to edit; coloured rows are fixed. The last two buttons need a number (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

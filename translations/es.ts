@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>No se ejecutó la orden.</translation>
+        <translation>No hay respuesta.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Doble clic para cambiar; las filas de color son fijas. %s en un código es el número.</translation>
+        <translation>Doble clic para cambiar; filas de color fijas. Los 2 últimos botones exigen un número (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>La commande n’a pas été exécutée.</translation>
+        <translation>Il n’y a pas de réponse.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Double-clic pour modifier&#xa0;; lignes colorées fixes. Dans un code, %s est le numéro.</translation>
+        <translation>Double-clic pour modifier&#xa0;; lignes colorées fixes. Les 2 derniers boutons exigent un numéro (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

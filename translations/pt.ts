@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>O comando não foi executado.</translation>
+        <translation>Não há resposta.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Duplo clique para alterar; as linhas coloridas são fixas. %s num código é o número.</translation>
+        <translation>Duplo clique para alterar; linhas coloridas fixas. Os 2 últimos botões exigem um número (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

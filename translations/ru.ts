@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>Команда не выполнена.</translation>
+        <translation>Ответа нет.</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>Двойной щелчок меняет ячейку; цветные строки постоянны. В коде %s — номер.</translation>
+        <translation>Правка двойным щелчком; цветные строки постоянны. Двум последним кнопкам нужен номер (%s).</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

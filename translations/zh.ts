@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>USSD_CODE_FAILED</source>
-        <translation>命令未能执行。</translation>
+        <translation>没有回复。</translation>
     </message>
     <message>
         <source>USSD_CODE_WAITTING</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>IDC_STATIC_CMDTIP</source>
-        <translation>双击单元格即可修改；彩色行不可修改。代码中的 %s 代表所输入的号码。</translation>
+        <translation>双击单元格即可修改；彩色行不可修改。最后两个按钮需要先输入号码，号码会代替 %s。</translation>
     </message>
     <message>
         <source>IDC_CMDEDIT_SAVE</source>

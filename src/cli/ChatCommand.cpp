@@ -30,6 +30,7 @@ private:
     void sendLine(const std::string &line);
     void printTexts();
     void showPrompt();
+    bool expectsAnswer() const { return m_conversation.isMenuOpen() || m_isAsked; }
 
     Program &m_program;
     Conversation m_conversation;
@@ -66,8 +67,10 @@ void Chat::sendLine(const std::string &line)
     const std::string problem = commandProblem(line);
     if (!problem.empty())
         return m_program.output().error("This cannot be sent: " + problem + ".");
+    const Program::Kind kind =
+        expectsAnswer() && !hasFormOfCode(line) ? Program::Kind::Answer : Program::Kind::Code;
     m_isAsked = false;
-    m_program.send(m_conversation, line);
+    m_program.send(m_conversation, line, kind);
 }
 
 void Chat::printTexts()
@@ -82,7 +85,7 @@ void Chat::printTexts()
 void Chat::showPrompt()
 {
     if (m_hasPrompt)
-        m_program.output().prompt(m_conversation.isMenuOpen() || m_isAsked ? "answer> " : "code> ");
+        m_program.output().prompt(expectsAnswer() ? "answer> " : "code> ");
 }
 
 } // namespace

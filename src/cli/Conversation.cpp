@@ -156,6 +156,11 @@ Outcome Conversation::send(const std::string &text)
     TKSV_USSDRequest request = requestOf(text);
     int status = 0;
     Outcome outcome;
+    if (m_waits.isEnding()) {
+        outcome.failure.reason = TKSV_FAILURE_CANCELLED;
+        outcome.failure.wasNotSent = 1;
+        return outcome;
+    }
     mailbox().expect(&m_waits);
     if (TKSV_USSDSrv_Request(&request, &status) == 0) {
         outcome = await(start);

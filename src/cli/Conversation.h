@@ -41,7 +41,8 @@ public:
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
     /// Sends the string and waits for the reply. Cancels the request on the device if the reply
-    /// does not arrive in time or a signal arrives first.
+    /// does not arrive in time or a signal arrives first. Does not send the string if a signal has
+    /// already arrived.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

@@ -47,7 +47,7 @@ int printModems(Program &program)
         print(program, modem);
     if (!found.empty() || program.waits().signal())
         return EXIT_DONE;
-    TKSV_DeviceInfo none = program.device().info();
+    TKSV_DeviceInfo none = program.awaitedInfo();
     none.state = TKSV_DEVICE_ABSENT; // a simulated device does not count as a modem
     program.output().error(deviceText(none));
     return EXIT_NOT_READY;

@@ -73,6 +73,14 @@ void Program::awaitModem()
     m_device.awaitModem(readyLimit());
 }
 
+TKSV_DeviceInfo Program::awaitedInfo() const
+{
+    TKSV_DeviceInfo device = m_device.info();
+    if (device.isLooking && device.problem == TKSV_PROBLEM_NONE)
+        device.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    return device;
+}
+
 bool Program::prepareDevice()
 {
     if (m_device.awaitReady(readyLimit()))
@@ -84,9 +92,7 @@ int Program::failOnDevice(const std::string &code, bool wasNotSent)
 {
     if (m_waits.signal())
         return EXIT_NOT_READY;
-    TKSV_DeviceInfo device = m_device.info();
-    if (device.isLooking && device.problem == TKSV_PROBLEM_NONE)
-        device.problem = TKSV_PROBLEM_SERVICE_SILENT;
+    const TKSV_DeviceInfo device = awaitedInfo();
     Outcome outcome;
     outcome.failure.reason = deviceFailure(device);
     outcome.failure.wasNotSent = wasNotSent;
@@ -112,16 +118,15 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
 /// Sends the string without checking the device first, because the library holds a request until it
 /// has found the modem. If the command was not sent, solves the problem if possible and sends the
 /// command again.
-int Program::send(Conversation &conversation, const std::string &text)
+int Program::send(Conversation &conversation, const std::string &text, Kind kind)
 {
     conversation.onTurnAwaited([this] { m_output.notice(AWAITING_TURN); });
-    const bool isAnswer = conversation.isMenuOpen();
     Outcome outcome = conversation.send(text);
     const TKSV_FailureInfo first = outcome.failure;
-    const bool mayBeRepeated = !isAnswer && first.wasNotSent && !outcome.hasMissedTurn;
+    const bool mayBeRepeated = kind == Kind::Code && first.wasNotSent && !outcome.hasMissedTurn;
     if (mayBeRepeated && removeObstacle(first.reason))
         outcome = conversation.send(text);
-    else if (!isAnswer && isDeviceNotReady(first.reason))
+    else if (kind == Kind::Code && isDeviceNotReady(first.reason))
         return failOnDevice(text, first.wasNotSent);
     if (outcome.hasFailed())
         printFailure(text, outcome, messageOf(outcome.failure) + hintFor(outcome));

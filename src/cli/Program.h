@@ -35,6 +35,9 @@ public:
     bool prepareDevice();
     /// Waits until the library has found the modem, or has determined that there is none.
     void awaitModem();
+    /// Returns the state of the device after a wait. If this state shows that the library is still
+    /// searching for the modem, ModemManager does not respond.
+    TKSV_DeviceInfo awaitedInfo() const;
     /// Prints the reason why the device cannot be used, and returns the exit code. `code` is the
     /// code that could not be sent; it may be empty. Does not print anything if a signal has
     /// arrived.
@@ -42,10 +45,13 @@ public:
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
-    /// Sends a code or an answer, and prints the reply or the failure. Returns the exit code. Waits
-    /// if the modem is not ready yet. With --end-foreign-session, first ends the session of another
-    /// program.
-    int send(Conversation &conversation, const std::string &text);
+    enum class Kind { Code, Answer };
+
+    /// Sends the string, and prints the reply or the failure. Returns the exit code. Before it
+    /// sends a code, waits if the modem is not ready yet, and with --end-foreign-session, ends the
+    /// session of another program. Never repeats an answer, because without its menu, the answer
+    /// would be sent as a code.
+    int send(Conversation &conversation, const std::string &text, Kind kind);
 
 private:
     Milliseconds readyLimit() const;

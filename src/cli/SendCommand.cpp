@@ -41,7 +41,8 @@ int sendWords(Program &program, Conversation &conversation, const Words &words)
             reportUnsent(program, "There is no menu to answer. ", words, i);
             return EXIT_REFUSED;
         }
-        const int result = program.send(conversation, words[i]);
+        const Program::Kind kind = i == 0 ? Program::Kind::Code : Program::Kind::Answer;
+        const int result = program.send(conversation, words[i], kind);
         if (result != EXIT_DONE || program.output().hasFailed()) {
             reportUnsent(program, std::string(), words, i + 1);
             return result;

@@ -70,7 +70,7 @@ int printStatus(Program &program)
     device.await([&] { return hasDetails(device.info()); }, Clock::now() + DETAIL_LIMIT);
     if (program.waits().signal())
         return EXIT_NOT_READY;
-    const TKSV_DeviceInfo info = device.info();
+    const TKSV_DeviceInfo info = program.awaitedInfo();
     if (program.options().isJson) {
         Json object;
         fill(object, info);

@@ -76,6 +76,13 @@ bool Waits::untilReady(int file, short events, const Condition &condition)
     return false;
 }
 
+bool Waits::isEnding()
+{
+    pollfd none = NO_FILE;
+    sleep(Clock::now(), none);
+    return m_signal != 0;
+}
+
 /// Sleeps until a wake-up, a signal or an event on the file arrives, or until `end`. poll() also
 /// reports errors on the file, which the next read or write operation then returns.
 void Waits::sleep(Clock::time_point end, pollfd &extra)

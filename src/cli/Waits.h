@@ -47,6 +47,8 @@ public:
 
     /// Returns the signal that has arrived, or 0.
     int signal() const { return m_signal; }
+    /// Returns true if a signal has arrived, even if no wait has noticed the signal yet.
+    bool isEnding();
 
 private:
     void sleep(Clock::time_point end, pollfd &extra);

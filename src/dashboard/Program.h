@@ -19,7 +19,8 @@ int help();
 int version();
 /// Opens the dashboard and returns when it has been closed.
 int openWindow(int &argc, char **argv, const Arguments &arguments);
-/// Prints that the replies of --send are invented, if its device is a simulated network.
+/// Prints that the replies of --send or of the tour are invented, if the device is a simulated
+/// network. The tour always uses one.
 void announceDemonstration(const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);

@@ -86,7 +86,8 @@ int sendThrough(LoadedPlugin &plugin, const SendingParts &parts, const QStringLi
 
 void Program::announceDemonstration(const Arguments &arguments)
 {
-    if (isDemonstration(wantedDevice(arguments, DashboardSettings())))
+    const bool isTour = arguments.mode == Arguments::Tour;
+    if (isTour || isDemonstration(wantedDevice(arguments, DashboardSettings())))
         HostCore::printErrorLine(dashboardText("DEMONSTRATION_NOTE"));
 }
 

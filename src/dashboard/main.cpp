@@ -114,7 +114,7 @@ int main(int argc, char **argv)
     HostCore::installTerminalLog(arguments.verbose);
     if (!chooseLanguage(&arguments) || arguments.errorKey)
         return Program::complain(arguments);
-    if (arguments.mode == Arguments::Send)
+    if (arguments.mode == Arguments::Send || arguments.mode == Arguments::Tour)
         Program::announceDemonstration(arguments);
     const QString unusableLog = startLog(arguments);
     if (!unusableLog.isEmpty()) {

@@ -2,6 +2,7 @@
 
 #include <csignal>
 
+#include <fcntl.h>
 #include <QJsonDocument>
 #include <unistd.h>
 
@@ -78,6 +79,22 @@ Run UssdProcess::finish()
     run.out = m_out;
     run.error = m_error;
     return run;
+}
+
+FullPipe::FullPipe()
+{
+    if (pipe2(m_ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    const QByteArray page(4096, 'x');
+    while (write(m_ends[1], page.constData(), size_t(page.size())) > 0) {
+    }
+    fcntl(m_ends[1], F_SETFL, fcntl(m_ends[1], F_GETFL) & ~O_NONBLOCK);
+}
+
+FullPipe::~FullPipe()
+{
+    close(m_ends[0]);
+    close(m_ends[1]);
 }
 
 Run CliTest::run(const QStringList &arguments, const QByteArray &input)

@@ -46,6 +46,20 @@ private:
     QString m_error;
 };
 
+/** A pipe that is full and that no process reads. A program that writes to the pipe is blocked. */
+class FullPipe
+{
+public:
+    FullPipe();
+    ~FullPipe();
+    FullPipe(const FullPipe &) = delete;
+    FullPipe &operator=(const FullPipe &) = delete;
+    int writeEnd() const { return m_ends[1]; }
+
+private:
+    int m_ends[2] = {-1, -1};
+};
+
 /** The base class of tests that run `ussd`. */
 class CliTest : public UssdTest
 {

@@ -30,7 +30,9 @@ done
 
 . "$root/completions/ussd.bash"
 ussd() {
-    [ "$*" = modems ] && printf '350000000000017\tExample One\tregistered\n'
+    [ "$*" = modems ] || return
+    printf '350000000000017\tExample One\tregistered\n'
+    printf '%s\tHostile\tregistered\n' '$(complain a modem ran a command >&3)'
 }
 
 # proposes WORDS EXPECTED: checks the completion of the last word of the command line WORDS.
@@ -50,9 +52,13 @@ proposes 'ussd watch --en' '--enable'
 proposes 'ussd modems --e' ''
 proposes 'ussd chat --j' ''
 proposes 'ussd --json c' 'chat cancel'
-proposes 'ussd --modem ' '350000000000017'
+proposes 'ussd --modem 3' '350000000000017'
 proposes 'ussd --modem = 35' '350000000000017'
 proposes 'ussd --modem 9' ''
+
+# The identifier of a modem comes from the modem. The shell must not expand it.
+exec 3>&1
+proposes 'ussd --modem ' '350000000000017 \$\(complain\ a\ modem\ ran\ a\ command\ \>\&3\)'
 proposes 'ussd send *100# ' ''
 cd "$root" || exit 2
 proposes 'ussd --scenario scenarios/po' 'scenarios/postpaid.scenario'

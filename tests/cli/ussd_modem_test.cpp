@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include <unistd.h>
+
 #include "CliTest.h"
 #include "ExitCodes.h"
 
@@ -93,6 +95,7 @@ private slots:
     void signalsEndTheSession_data();
     void signalsEndTheSession();
     void aSignalEndsTheMenuOfAChat();
+    void afterASignalNoAnswerIsSent();
 
     void aDisabledModemStaysDisabled();
     void aDisabledModemIsEnabledOnRequest();
@@ -271,6 +274,23 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
     QVERIFY(isIdle());
 }
 
+/// The signal arrives while the menu is being written. The answer could be a purchase.
+void UssdModemTest::afterASignalNoAnswerIsSent()
+{
+    const FullPipe pipe;
+    UssdProcess process(words("send *123# 1"));
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
+    process.start();
+    QVERIFY(modem().waitForCommand(INITIATE));
+    QVERIFY(!process.waitForFinished(500)); // the menu arrives after a few milliseconds
+    process.sendSignal(SIGINT);
+    const Run result = process.finish();
+    COMPARE_EXIT(result, EXIT_CANCELLED);
+    QVERIFY2(result.error.contains(latin1("It was not carried out.")), qPrintable(result.error));
+    QCOMPARE(modem().timesReceived(INITIATE), 1);
+    QVERIFY(isIdle());
+}
+
 /* ---- modems that are not ready ----------------------------------------------------------- */
 
 void UssdModemTest::aDisabledModemStaysDisabled()
@@ -339,10 +359,14 @@ void UssdModemTest::aDaemonThatHangsIsSaid()
     m_world->pauseDaemon();
     const Run result = run("send *100#");
     const Run status = run("status --timeout 1");
+    const Run modems = run("modems --timeout 1");
     m_world->resumeDaemon();
     COMPARE_EXIT(result, EXIT_NOT_READY);
     QVERIFY2(result.error.contains(latin1("does not answer")), qPrintable(result.error));
-    COMPARE_EXIT(status, EXIT_NOT_READY);
+    for (const Run &other : {status, modems}) {
+        COMPARE_EXIT(other, EXIT_NOT_READY);
+        QVERIFY2(other.error.contains(latin1("does not answer")), qPrintable(other.error));
+    }
 }
 
 void UssdModemTest::aDaemonThatIsNotRunningIsSaid()

@@ -82,6 +82,8 @@ private slots:
     void signalsEndTheRequest();
     void anIgnoredSignalStaysIgnored();
     void aSignalEndsABlockedWrite();
+    void afterASignalNothingIsSent_data();
+    void afterASignalNothingIsSent();
 
     void aChatReadsAnswers();
     void aChatHasAPromptOnATerminal();
@@ -542,24 +544,48 @@ void UssdProgramTest::anIgnoredSignalStaysIgnored()
     COMPARE_EXIT(process.finish(), EXIT_NO_ANSWER);
 }
 
-/// Tests that a signal ends the program while it writes to a full pipe that no process reads.
 void UssdProgramTest::aSignalEndsABlockedWrite()
 {
-    int ends[2];
-    QCOMPARE(pipe2(ends, O_CLOEXEC | O_NONBLOCK), 0);
-    const QByteArray page(4096, 'x');
-    while (write(ends[1], page.constData(), size_t(page.size())) > 0) {
-    }
-    fcntl(ends[1], F_SETFL, fcntl(ends[1], F_GETFL) & ~O_NONBLOCK);
+    const FullPipe pipe;
     UssdProcess process(words("send *100#"));
-    process.replaceStream(STDOUT_FILENO, ends[1]);
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
     process.start();
     QVERIFY(process.waitForError(latin1("Demonstration")));
     QVERIFY(!process.waitForFinished(300)); // the reply arrives after 5 ms
     process.sendSignal(SIGTERM);
     COMPARE_EXIT(process.finish(), EXIT_SIGNAL + SIGTERM);
-    close(ends[0]);
-    close(ends[1]);
+}
+
+void UssdProgramTest::afterASignalNothingIsSent_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("notSent");
+    QTest::newRow("answer") << QByteArray("send *123# 2 1") << QByteArray()
+                            << QByteArray("It was not carried out.\nNot sent: 1\n");
+    QTest::newRow("line of the input") << QByteArray("send -") << QByteArray("*100#\n*101#\n")
+                                       << QByteArray("It was not carried out.\n");
+    QTest::newRow("chat") << QByteArray("chat *123#") << QByteArray("1\n") << QByteArray();
+}
+
+/// The signal arrives while the first reply is being written. The next text could be a purchase.
+void UssdProgramTest::afterASignalNothingIsSent()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, input);
+    QFETCH(QByteArray, notSent);
+    const FullPipe pipe;
+    UssdProcess process(words(line.constData()));
+    process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
+    process.start();
+    process.write(input);
+    QVERIFY(process.waitForError(latin1("Demonstration")));
+    QVERIFY(!process.waitForFinished(300)); // the reply arrives after 5 ms
+    process.sendSignal(SIGINT);
+    const Run result = process.finish();
+    COMPARE_EXIT(result, EXIT_CANCELLED);
+    QVERIFY2(result.error.endsWith(QString::fromUtf8(notSent)), qPrintable(result.error));
+    QVERIFY2(!result.error.contains(latin1("may have carried out")), qPrintable(result.error));
 }
 
 /* ---- chat -------------------------------------------------------------------------------- */

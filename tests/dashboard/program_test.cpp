@@ -171,7 +171,8 @@ void ProgramTest::aReplyInOtherLettersIsWhole()
 void ProgramTest::theMenuIsAnsweredInTurn()
 {
     const Run result = run("--send *123# 2 1");
-    QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\nSecond\n1 Deeper\nDeep enough\n"));
+    QCOMPARE(result.out,
+             QLatin1String("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n\nDeep enough\n"));
     QCOMPARE(result.code, 0);
 }
 
@@ -453,6 +454,7 @@ void ProgramTest::theTourLeavesPicturesAndTranscript()
     QFETCH(QString, pattern);
     QFETCH(int, pictures);
     QVERIFY2(takenTour().run.code == 0, qPrintable(takenTour().run.error));
+    QVERIFY(takenTour().run.isDemonstration);
     QCOMPARE(takenTour().folder().entryList(QStringList(pattern)).size(), pictures);
 }
 

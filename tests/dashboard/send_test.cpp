@@ -3,6 +3,10 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "Arguments.h"
 #include "base/SignalWatcher.h"
 #include "device/DashboardSettings.h"
@@ -37,6 +41,7 @@ private slots:
     void aModemThatIsOffIsNotWaitedFor();
     void aSignalEndsTheCommand_data();
     void aSignalEndsTheCommand();
+    void afterASignalNoAnswerIsSent();
     void aSignalEndsTheWaitForTheDevice();
     void aSignalClosesTheWindowInTheOrdinaryWay();
     void anIgnoredSignalStaysIgnored();
@@ -232,6 +237,32 @@ void SendTest::aSignalEndsTheCommand()
     QVERIFY2(result.error.contains(QLatin1String("The command was cancelled.")),
              qPrintable(result.error));
     QVERIFY(result.out.isEmpty());
+}
+
+/// The signal arrives while the first reply is being written to a full pipe. The answer could be a
+/// purchase.
+void SendTest::afterASignalNoAnswerIsSent()
+{
+    const QString name = folder() + QLatin1String("/pipe");
+    QCOMPARE(mkfifo(QFile::encodeName(name).constData(), S_IRWXU), 0);
+    const int pipe = open(QFile::encodeName(name).constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    QByteArray page(4096, 'x');
+    while (write(pipe, page.constData(), size_t(page.size())) > 0) {
+    }
+    const QString log = folder() + QLatin1String("/a.log");
+    QProcess process;
+    process.setStandardOutputFile(name);
+    start(process, words("--send *123# 2 --log") << log, quickNetwork());
+    QVERIFY(waitForLog(log, "TKSV_USSDSrv_Request Returned"));
+    QVERIFY(!process.waitForFinished(500)); // the reply arrives after a few milliseconds
+    QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
+    while (read(pipe, page.data(), size_t(page.size())) > 0) {
+    }
+    const Run result = finished(process);
+    close(pipe);
+    QCOMPARE(result.code, 128 + SIGINT);
+    QVERIFY2(result.error.contains(QLatin1String("It was not carried out.")),
+             qPrintable(result.error));
 }
 
 void SendTest::aSignalEndsTheWaitForTheDevice()

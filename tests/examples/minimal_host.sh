@@ -22,7 +22,7 @@ expect() {
 }
 
 expect 0 '^Received: Your balance is 7\.00' --once '*100#'
-expect 0 '^Received: The command was not carried out\.' --once '*198#'
+expect 0 '^Received: There is no reply\.' --once '*198#'
 expect 1 '^minimal-host: usage: ' --once
 expect 1 '^minimal-host: usage: ' one two
 expect 1 '^minimal-host: .*missing\.so: ' --once '*100#' "$PWD/missing.so"

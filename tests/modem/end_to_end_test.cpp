@@ -119,7 +119,7 @@ SendRun sendRun(const char *arguments)
     return endOf(process);
 }
 
-const char USSD_FAILED[] = "The command was not carried out.";
+const char USSD_FAILED[] = "There is no reply.";
 const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
 } // namespace

@@ -1,3 +1,5 @@
+#include <QLabel>
+
 #include "ProfileEditorTest.h"
 
 /** Tests the appearance of the profile editor and how the general dialog opens it. */
@@ -9,6 +11,7 @@ private slots:
     // ---- appearance
     void columnsAndSizesAreFixed();
     void marginsAreFixed();
+    void hintIsCompleteInEveryLanguage();
     void cellsAreColouredAndNotSelected();
     void frameHasATitleAndACloseButton();
     void frameInMiniModeKeepsItsFlags();
@@ -61,6 +64,18 @@ void EditorLooksTest::marginsAreFixed()
     QCOMPARE(buttons->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(buttons->alignment(), Qt::AlignRight);
     QCOMPARE(buttons->itemAt(0)->widget(), saveButton());
+}
+
+/// No line of the hint is cut off.
+void EditorLooksTest::hintIsCompleteInEveryLanguage()
+{
+    for (const QString &language : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(language));
+        openEditor();
+        const QLabel *hint = find<QLabel>("USSDUIPlugin_ProfileDialog_InfoLabel");
+        QVERIFY2(hint->text().contains(QStringLiteral("%s")), qPrintable(language));
+        QVERIFY2(hint->heightForWidth(hint->width()) <= hint->height(), qPrintable(language));
+    }
 }
 
 void EditorLooksTest::cellsAreColouredAndNotSelected()

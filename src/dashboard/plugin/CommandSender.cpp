@@ -1,5 +1,7 @@
 #include "CommandSender.h"
 
+#include <QCoreApplication>
+
 #include "base/DashboardText.h"
 #include "base/SignalWatcher.h"
 #include "base/WaitUntil.h"
@@ -71,12 +73,15 @@ int CommandSender::send(const QStringList &commands)
 
 int CommandSender::sendOne(const QString &command)
 {
+    QCoreApplication::processEvents(); // a signal may have arrived while a reply was written
+    if (isInterrupted())
+        return interrupt(true);
     m_parts.tap.clear();
     if (!m_window.send(command))
         return complain(dashboardText("SEND_NOT_TAKEN").arg(command), Cli::EXIT_REFUSED);
     const bool isAnswered = waitForAnswer();
     if (isInterrupted())
-        return interrupt();
+        return interrupt(false);
     return isAnswered ? printAnswer()
                       : complain(dashboardText("SEND_NO_ANSWER"), Cli::EXIT_NO_ANSWER);
 }
@@ -103,7 +108,9 @@ int CommandSender::printAnswer()
     const Reply reply = m_parts.tap.reply();
     if (reply.text.isEmpty() && (reply.isReceived || isFailureText(shown)))
         return fail(shown);
-    HostCore::printLine(reply.isReceived ? reply.text : shown);
+    const QString text = reply.isReceived ? reply.text : shown;
+    HostCore::printLine(m_hasPrintedReply ? QLatin1Char('\n') + text : text);
+    m_hasPrintedReply = true;
     return ferror(stdout) ? complain(dashboardText("SEND_NOT_WRITTEN"), Cli::EXIT_NOT_WRITTEN)
                           : Cli::EXIT_DONE;
 }
@@ -127,12 +134,13 @@ int CommandSender::fail(const QString &shown)
 
 /// Ends the command on the device. Waits for the empty response, after which the device accepts the
 /// end of the session.
-int CommandSender::interrupt()
+int CommandSender::interrupt(bool wasNotSent)
 {
     if (TKSV_Device_CancelRequest() == 0)
         waitUntil([this] { return m_parts.tap.reply().isReceived; }, TAP_GRACE);
     TKSV_FailureInfo cancelled = {};
     cancelled.reason = TKSV_FAILURE_CANCELLED;
+    cancelled.wasNotSent = wasNotSent;
     return complain(failureWords(cancelled),
                     Cli::EXIT_SIGNAL + m_parts.interruption.signalNumber());
 }

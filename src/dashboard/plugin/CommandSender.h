@@ -21,8 +21,8 @@ struct SendingParts {
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
- * prints each reply. Processes events while it waits. All functions must be called from the GUI
- * thread.
+ * prints each reply, separated by an empty line. Processes events while it waits. All functions
+ * must be called from the GUI thread.
  */
 class CommandSender
 {
@@ -40,13 +40,14 @@ private:
     bool isWaitOver();
     int printAnswer();
     int fail(const QString &shown);
-    int interrupt();
+    int interrupt(bool wasNotSent);
     bool isInterrupted() const;
 
     GeneralWindow m_window;
     SendingParts m_parts;
     const int m_replyLimit;
     bool m_hasToldTurn = false;
+    bool m_hasPrintedReply = false;
 };
 
 } // namespace Dashboard
