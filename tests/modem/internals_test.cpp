@@ -107,6 +107,11 @@ void ModemInternalsTest::errorsHaveAReason_data()
         true);
     row("not permitted", MM_CORE_ERROR, MM_CORE_ERROR_UNAUTHORIZED, "denied",
         TKSV_FAILURE_NOT_PERMITTED, true);
+    row("no polkit", MM_CORE_ERROR, MM_CORE_ERROR_FAILED,
+        "PolicyKit authorization failed: 'The name is not activatable'", TKSV_FAILURE_NOT_PERMITTED,
+        true);
+    row("polkit missing since the start", MM_CORE_ERROR, MM_CORE_ERROR_FAILED,
+        "PolicyKit authorization error: 'authority not found'", TKSV_FAILURE_NOT_PERMITTED, true);
     row("charset", G_CONVERT_ERROR, 1, "Couldn't convert from UTF-8 to IRA",
         TKSV_FAILURE_NOT_ENCODABLE, true);
     row("charset of the reply", G_CONVERT_ERROR, 1, "Couldn't convert from UCS2 to UTF-8",
