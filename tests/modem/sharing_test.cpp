@@ -85,6 +85,7 @@ private slots:
     void aMenuThatAnotherProgramAnsweredIsNotAnsweredAgain();
     void anAnswerDoesNotReachTheMenuOfAnotherProgram();
     void theNetworksQuestionIsAnswered();
+    void leavingTheModemLeavesTheNetworksQuestion();
     void cancelDoesNotEndAForeignSession();
     void aCommandThatPolkitHoldsUpIsCancelledLater();
     void polkitIsNotAskedDuringAForeignSession();
@@ -171,7 +172,7 @@ void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
     useModem();
     MmClient other(m_world->busAddress());
     QVERIFY(connect(other));
-    TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QCOMPARE(other.initiate("*120#").text, std::string("Menu"));
     received().clear();
     TKSV_Device_UseModem(nullptr);
@@ -223,6 +224,23 @@ void ModemSharingTest::theNetworksQuestionIsAnswered()
     QVERIFY(fake().waitForCommand("AT+CUSD=1,", before + 1));
     QVERIFY(received().responses.waitFor(2));
     QVERIFY(waitUntil([this] { return isTurnFree(); }));
+}
+
+/// Another program may be about to answer the question.
+void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
+{
+    useModem();
+    MmClient other(m_world->busAddress());
+    QVERIFY(connect(other));
+    fake().sayUssd(1, "Continue?");
+    QVERIFY(received().responses.waitFor(1));
+    // Returns after the library has left the modem.
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+    QVERIFY(other.waitForProperty("State", USER_RESPONSE));
+    QVERIFY(isTurnFree());
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(waitForForeignSession(true));
 }
 
 /// The daemon refuses our call in the same moment. A cancellation that is too early would end the
@@ -335,7 +353,7 @@ void ModemSharingTest::switchingTheDeviceEndsOurMenu()
     MmClient observer(m_world->busAddress());
     QVERIFY(connect(observer));
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
-    TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QVERIFY(observer.waitUntilIdle());
     QVERIFY(isTurnFree());
     TKSV_Device_UseModem(nullptr);

@@ -108,6 +108,13 @@ void UssdChannel::endSession()
     startNext();
 }
 
+void UssdChannel::leave()
+{
+    m_next.reset();
+    m_cancelWanted = m_cancelWanted || m_running || m_owner == Owner::Ours;
+    startNext();
+}
+
 void UssdChannel::endOwnSession()
 {
     m_cancelWanted = m_running || canAnswer();

@@ -64,6 +64,9 @@ public:
     void request(RequestToken token, RequestKind kind, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
+    /// Ends the session that our call has opened. Must be called before the modem is left. A
+    /// question of the network remains open, because another program may be about to answer it.
+    void leave();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);
     /// Forgets a running call that the daemon will not finish. Must be called after the modem was
