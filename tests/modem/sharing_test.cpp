@@ -101,6 +101,7 @@ private slots:
     void aCommandWaitsForItsTurn();
     void aWaitingCommandIsCancelled();
     void aWaitingCommandFailsWithTheRegistration();
+    void aCommandThatMissesItsTurnIsNeverSent();
     void anOpenMenuKeepsTheTurn();
 
 private:
@@ -466,6 +467,25 @@ void ModemSharingTest::aWaitingCommandFailsWithTheRegistration()
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_NOT_REGISTERED));
     QCOMPARE(lastFailure().wasNotSent, 1);
     QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
+}
+
+/// A client that has given up must not be surprised by a purchase an hour later.
+void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
+{
+    useModem();
+    SessionTurn another(IMEI);
+    QVERIFY(another.tryEnter());
+    QCOMPARE(TKSV_Device_SetTurnLimit(50), 0L);
+    QCOMPARE(request(u"*100#"), 0L);
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(TKSV_Device_SetTurnLimit(29000), 0L);
+    QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_IN_USE));
+    QCOMPARE(lastFailure().wasNotSent, 1);
+    QCOMPARE(info().waitsForTurn, 0);
+    another.leave();
+    QVERIFY(isTurnFree()); // the command has left the queue
+    QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
 }
 
 void ModemSharingTest::anOpenMenuKeepsTheTurn()
