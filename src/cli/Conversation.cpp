@@ -16,6 +16,9 @@ namespace
 /// The time that a request may take to end on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
+/// The time by which the library waits longer for a turn than the conversation does.
+const Milliseconds TURN_GRACE(5000);
+
 /// If the reply arrives within this time, the changes of the device are not observed. The library
 /// needs another thread to report them.
 const Milliseconds QUICK_REPLY(100);
@@ -139,6 +142,8 @@ unsigned char takeLoss(int, void *)
 Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
     : m_device(device), m_waits(waits), m_timeout(timeout)
 {
+    // await() gives up first.
+    TKSV_Device_SetTurnLimit(static_cast<unsigned>((timeout + TURN_GRACE).count()));
     TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
     TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);
 }

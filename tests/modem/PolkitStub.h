@@ -25,6 +25,8 @@ public:
     /// Returns when the stub owns the name: an empty string on success, otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
+    /// Answers every request with an error, as the bus does if polkit is missing.
+    void fail(bool fails) { m_fails = fails; }
     /// Keeps the answer to the next request back, as if polkit asked the user for a password.
     void holdNext() { m_holdsNext = true; }
     bool isHolding();
@@ -36,6 +38,7 @@ private:
     std::string publish(const std::string &busAddress);
 
     std::atomic<bool> m_allowed{true};
+    std::atomic<bool> m_fails{false};
     std::atomic<bool> m_holdsNext{false};
     GDBusMethodInvocation *m_held = nullptr; // used on the stub's thread only
     std::atomic<int> m_timesAsked{0};

@@ -46,6 +46,10 @@ public:
     /// `equipmentId` identifies the modem among the programs of the user.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
+    /// Sets how long each later request of any modem may wait for its turn. May be called from any
+    /// thread.
+    static void setTurnLimit(std::chrono::milliseconds limit);
+
     /// Sets the interface, a newer proxy of the same interface, or null while the modem does not
     /// have the interface.
     void setInterface(MMModem3gppUssd *ussd);
@@ -64,6 +68,9 @@ public:
     void request(RequestToken token, RequestKind kind, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
+    /// Ends the session that our call has opened. Must be called before the modem is left. A
+    /// question of the network remains open, because another program may be about to answer it.
+    void leave();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);
     /// Forgets a running call that the daemon will not finish. Must be called after the modem was
@@ -93,6 +100,7 @@ private:
     void leaveTurn();
     void startTurnTimer();
     void turnTimerElapsed();
+    void missTurn();
     void setWaitsForTurn(bool waits);
     void start(const Request &request);
     void checkSession();
@@ -130,7 +138,8 @@ private:
     SignalConnections m_signals;
     SessionTurn m_turn;
     bool m_waitsForTurn = false;
-    bool m_keepsTurn = false; // no command needs the turn at this time
+    Clock::time_point m_turnEnd; // when m_next stops waiting for its turn
+    bool m_keepsTurn = false;    // no command needs the turn at this time
     bool m_isTurnTimerRunning = false;
 
     Owner m_owner = Owner::Nobody;
