@@ -16,6 +16,9 @@ namespace
 /// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
+/// The additional time that the library waits for a turn after the conversation has given up.
+const Milliseconds TURN_GRACE(5000);
+
 /// If the reply arrives within this time, the program does not observe changes of the device,
 /// because the library would need an additional thread to report them.
 const Milliseconds QUICK_REPLY(100);
@@ -139,6 +142,8 @@ unsigned char takeLoss(int, void *)
 Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
     : m_device(device), m_waits(waits), m_timeout(timeout)
 {
+    // await() gives up first.
+    TKSV_Device_SetTurnLimit(static_cast<unsigned>((timeout + TURN_GRACE).count()));
     TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
     TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);
 }

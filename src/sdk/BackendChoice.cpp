@@ -132,6 +132,11 @@ void BackendChoice::lookAgain()
         startWatch();
 }
 
+void BackendChoice::setTurnLimit(std::chrono::milliseconds limit)
+{
+    UssdChannel::setTurnLimit(limit);
+}
+
 /* ---- m_switchMutex is locked in the following functions ---------------------------------- */
 
 BackendChoice::Device BackendChoice::initialDevice()

@@ -1,6 +1,7 @@
 #ifndef TKSV_INTERNAL_BACKENDCHOICE_H
 #define TKSV_INTERNAL_BACKENDCHOICE_H
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -48,6 +49,8 @@ public:
     void useAutomatic();
     /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
     void lookAgain();
+    /// Sets how long each later request may wait for another program of the same user.
+    void setTurnLimit(std::chrono::milliseconds limit);
     /// Returns the modems that ModemManager has found, oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 

@@ -282,6 +282,14 @@ long TKSV_Device_CancelRequest(void)
     return guarded([] { return resultOf(DeviceSdk::instance().cancel()); });
 }
 
+long TKSV_Device_SetTurnLimit(unsigned int milliseconds)
+{
+    return guarded([&] {
+        DeviceSdk::instance().choice().setTurnLimit(std::chrono::milliseconds(milliseconds));
+        return SUCCESS;
+    });
+}
+
 long TKSV_Device_EndForeignSession(void)
 {
     return guarded([] { return resultOf(DeviceSdk::instance().endForeignSession()); });

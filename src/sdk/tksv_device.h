@@ -207,6 +207,14 @@ TKSV_API long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure);
 TKSV_API long TKSV_Device_CancelRequest(void);
 
 /**
+ * Sets how long a later request may wait for another program of the same user. The initial value is
+ * 29000 ms, which is less than the 30 s that the plug-in waits for a reply. Then the request fails
+ * with TKSV_FAILURE_IN_USE and is not sent, so that no command is sent after its client has given
+ * up.
+ */
+TKSV_API long TKSV_Device_SetTurnLimit(unsigned int milliseconds);
+
+/**
  * Ends the USSD session that another program opened on the modem in use. Call this function only if
  * the user has asked for it, since a purchase may be in progress. Fails if there is no such
  * session. `hasForeignSession` changes when the session has ended.

@@ -69,6 +69,11 @@ void PolkitStub::answer(GDBusMethodInvocation *invocation)
         m_held = invocation;
         return;
     }
+    if (m_fails) {
+        g_dbus_method_invocation_return_dbus_error(
+            invocation, "org.freedesktop.DBus.Error.ServiceUnknown", "The name is not activatable");
+        return;
+    }
     g_dbus_method_invocation_return_value(
         invocation, g_variant_new("((bba{ss}))", m_allowed ? TRUE : FALSE, FALSE, nullptr));
 }

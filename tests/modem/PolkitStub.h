@@ -26,6 +26,8 @@ public:
     /// otherwise the error.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
+    /// Makes the stub answer every request with an error, as the bus does if polkit is missing.
+    void fail(bool fails) { m_fails = fails; }
     /// Holds back the answer to the next request, as polkit does while it prompts the user for a
     /// password.
     void holdNext() { m_holdsNext = true; }
@@ -38,6 +40,7 @@ private:
     std::string publish(const std::string &busAddress);
 
     std::atomic<bool> m_allowed{true};
+    std::atomic<bool> m_fails{false};
     std::atomic<bool> m_holdsNext{false};
     GDBusMethodInvocation *m_held = nullptr; // used on the stub's thread only
     std::atomic<int> m_timesAsked{0};

@@ -112,6 +112,7 @@ private slots:
     void aMissingSimIsSaid();
     void aPinFromElsewhereMakesGoodAWrongOne();
     void whatPolkitRefusesIsSaid();
+    void aMissingPolkitIsSaid();
     void aRefusalIsForgottenWhenItIsTakenBack();
     void theModemIsEnabledOnRequestOnly();
     void aModemDisabledAfterThePinStaysDisabled();
@@ -618,6 +619,18 @@ void ModemDeviceTest::whatPolkitRefusesIsSaid()
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
     QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
+}
+
+void ModemDeviceTest::aMissingPolkitIsSaid()
+{
+    useModem();
+    m_world->polkit().fail(true);
+    QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_PERMITTED));
+    QCOMPARE(lastFailure().wasNotSent, 1);
+    QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NOT_PERMITTED));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 0);
+    m_world->polkit().fail(false);
+    QCOMPARE(ask(u"*100#").type, 0);
 }
 
 /* ---- the radio --------------------------------------------------------------------------- */

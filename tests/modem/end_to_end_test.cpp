@@ -8,6 +8,7 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 
+#include "base/SessionTurn.h"
 #include "IUSSD.h"
 #include "Languages.h"
 #include "MessageHelper.h"
@@ -168,6 +169,7 @@ private slots:
     void theSessionOfAnotherProgramIsLeftAlone();
     void severalProgramsGetTheirOwnReplies();
     void aProgramThatWaitsForItsTurnSaysSo();
+    void aProgramThatMissesItsTurnClaimsNothing();
 
 protected:
     void setUpClass() override;
@@ -721,6 +723,18 @@ void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
     const SendRun run = endOf(second);
     QCOMPARE(run.code, 0);
     QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
+}
+
+/// The turn may come in the moment in which the program gives up.
+void EndToEndTest::aProgramThatMissesItsTurnClaimsNothing()
+{
+    Tksv::SessionTurn another("350000000000017");
+    QVERIFY(another.tryEnter());
+    const SendRun run = sendRun("*100#");
+    QCOMPARE(run.code, 5);
+    QVERIFY2(run.error.contains(QLatin1String("Another program")), qPrintable(run.error));
+    QVERIFY2(!run.error.contains(QLatin1String("not carried out")), qPrintable(run.error));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 0);
 }
 
 USSD_TEST_MAIN(EndToEndTest)

@@ -21,12 +21,25 @@ const std::chrono::milliseconds SILENCE_LIMIT(50);
 
 class NoObserver : public BackendObserver
 {
+protected:
     void ussdReply(RequestToken, const UssdReply &) override {}
     void ussdText(const UssdReply &) override {}
     void deviceLost(int) override {}
     void smsStatusChanged(bool) override {}
     void smsFinished(const SmsMessage &, int) override {}
     void infoChanged() override {}
+};
+
+class ReplyObserver : public NoObserver
+{
+public:
+    std::vector<std::pair<RequestToken, Failure>> failures; // read after Backend::stop()
+
+protected:
+    void ussdReply(RequestToken token, const UssdReply &reply) override
+    {
+        failures.emplace_back(token, reply.failure);
+    }
 };
 
 /// Creates the error and returns the reason for it.
@@ -44,6 +57,7 @@ class ModemInternalsTest : public UssdTest
 
 private slots:
     void aSilentServiceIsNoticed();
+    void aRequestThatWaitsForTheServiceFailsWithTheDevice();
     void errorsHaveAReason_data();
     void errorsHaveAReason();
     void unansweredCommandsAreNotRefused();
@@ -78,6 +92,27 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     watch.stop();
 }
 
+/// The user selects another device before ModemManager has reported its modems.
+void ModemInternalsTest::aRequestThatWaitsForTheServiceFailsWithTheDevice()
+{
+    FakeModems::ModemWorld world;
+    QCOMPARE(world.start(), std::string());
+    ModemWatch watch([] {}, SILENCE_LIMIT);
+    const auto backend = std::make_shared<ModemManagerBackend>(watch, std::string());
+    ReplyObserver observer;
+    world.pauseDaemon();
+    watch.start();
+    backend->start(observer);
+    QCOMPARE(backend->request(7, RequestKind::NewSession, "*100#").status, int(RequestAccepted));
+    backend->stop();
+    QCOMPARE(observer.failures.size(), std::size_t(1));
+    QCOMPARE(observer.failures[0].first, RequestToken(7));
+    QCOMPARE(int(observer.failures[0].second.reason), int(TKSV_FAILURE_DEVICE_LOST));
+    QVERIFY(observer.failures[0].second.wasNotSent);
+    watch.stop();
+    world.resumeDaemon();
+}
+
 void ModemInternalsTest::errorsHaveAReason_data()
 {
     QTest::addColumn<unsigned>("domain");
@@ -107,6 +142,11 @@ void ModemInternalsTest::errorsHaveAReason_data()
         true);
     row("not permitted", MM_CORE_ERROR, MM_CORE_ERROR_UNAUTHORIZED, "denied",
         TKSV_FAILURE_NOT_PERMITTED, true);
+    row("no polkit", MM_CORE_ERROR, MM_CORE_ERROR_FAILED,
+        "PolicyKit authorization failed: 'The name is not activatable'", TKSV_FAILURE_NOT_PERMITTED,
+        true);
+    row("polkit missing since the start", MM_CORE_ERROR, MM_CORE_ERROR_FAILED,
+        "PolicyKit authorization error: 'authority not found'", TKSV_FAILURE_NOT_PERMITTED, true);
     row("charset", G_CONVERT_ERROR, 1, "Couldn't convert from UTF-8 to IRA",
         TKSV_FAILURE_NOT_ENCODABLE, true);
     row("charset of the reply", G_CONVERT_ERROR, 1, "Couldn't convert from UCS2 to UTF-8",

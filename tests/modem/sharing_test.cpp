@@ -85,6 +85,7 @@ private slots:
     void aMenuThatAnotherProgramAnsweredIsNotAnsweredAgain();
     void anAnswerDoesNotReachTheMenuOfAnotherProgram();
     void theNetworksQuestionIsAnswered();
+    void leavingTheModemLeavesTheNetworksQuestion();
     void cancelDoesNotEndAForeignSession();
     void aCommandThatPolkitHoldsUpIsCancelledLater();
     void polkitIsNotAskedDuringAForeignSession();
@@ -100,6 +101,7 @@ private slots:
     void aCommandWaitsForItsTurn();
     void aWaitingCommandIsCancelled();
     void aWaitingCommandFailsWithTheRegistration();
+    void aCommandThatMissesItsTurnIsNeverSent();
     void anOpenMenuKeepsTheTurn();
 
 private:
@@ -171,7 +173,7 @@ void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
     useModem();
     MmClient other(m_world->busAddress());
     QVERIFY(connect(other));
-    TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QCOMPARE(other.initiate("*120#").text, std::string("Menu"));
     received().clear();
     TKSV_Device_UseModem(nullptr);
@@ -223,6 +225,24 @@ void ModemSharingTest::theNetworksQuestionIsAnswered()
     QVERIFY(fake().waitForCommand("AT+CUSD=1,", before + 1));
     QVERIFY(received().responses.waitFor(2));
     QVERIFY(waitUntil([this] { return isTurnFree(); }));
+}
+
+/// Tests that a network-initiated session stays open when the library stops using the modem,
+/// because another program may be about to answer it.
+void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
+{
+    useModem();
+    MmClient other(m_world->busAddress());
+    QVERIFY(connect(other));
+    fake().sayUssd(1, "Continue?");
+    QVERIFY(received().responses.waitFor(1));
+    // Returns after the library has left the modem.
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
+    QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
+    QVERIFY(other.waitForProperty("State", USER_RESPONSE));
+    QVERIFY(isTurnFree());
+    TKSV_Device_UseModem(nullptr);
+    QVERIFY(waitForForeignSession(true));
 }
 
 /// Tests that a command is not cancelled before the daemon has refused it. A cancellation that is
@@ -335,7 +355,7 @@ void ModemSharingTest::switchingTheDeviceEndsOurMenu()
     MmClient observer(m_world->busAddress());
     QVERIFY(connect(observer));
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
-    TKSV_Device_UseScenario(nullptr, nullptr, 0);
+    QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QVERIFY(observer.waitUntilIdle());
     QVERIFY(isTurnFree());
     TKSV_Device_UseModem(nullptr);
@@ -448,6 +468,25 @@ void ModemSharingTest::aWaitingCommandFailsWithTheRegistration()
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_NOT_REGISTERED));
     QCOMPARE(lastFailure().wasNotSent, 1);
     QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
+}
+
+/// A client that has given up must not be surprised by a purchase an hour later.
+void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
+{
+    useModem();
+    SessionTurn another(IMEI);
+    QVERIFY(another.tryEnter());
+    QCOMPARE(TKSV_Device_SetTurnLimit(50), 0L);
+    QCOMPARE(request(u"*100#"), 0L);
+    QVERIFY(received().responses.waitFor(1));
+    QCOMPARE(TKSV_Device_SetTurnLimit(29000), 0L);
+    QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_IN_USE));
+    QCOMPARE(lastFailure().wasNotSent, 1);
+    QCOMPARE(info().waitsForTurn, 0);
+    another.leave();
+    QVERIFY(isTurnFree()); // the command has left the queue
+    QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
 }
 
 void ModemSharingTest::anOpenMenuKeepsTheTurn()

@@ -91,6 +91,7 @@ private slots:
     void nameOfAModemStaysInTheFolder();
     void symbolicLinkIsNotFollowed();
     void folderThatOthersCanWriteToIsNotUsed();
+    void runtimeFolderOfAnotherUserIsNotUsed();
 
 private:
     QString queues() const { return m_folder->path() + QLatin1String("/ussd-dashboard"); }
@@ -262,6 +263,21 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     QVERIFY(first.tryEnter());
     QVERIFY(second.tryEnter()); // no other program is waiting
     QVERIFY(QDir(queues()).isEmpty());
+}
+
+/// A program that "su" has started can inherit the variable. If it created the queue there, the
+/// other user's programs could not use the queue any more.
+void SdkTurn::runtimeFolderOfAnotherUserIsNotUsed()
+{
+    const uid_t another = 65534;
+    if (geteuid() == 0)
+        QCOMPARE(chown(m_folder->path().toUtf8().constData(), another, gid_t(-1)), 0);
+    else
+        qputenv("XDG_RUNTIME_DIR", "/");
+    SessionTurn turn("modem of process " + std::to_string(getpid()));
+    QVERIFY(turn.tryEnter());
+    QVERIFY(!QDir(queues()).exists());
+    QVERIFY(!QDir(QLatin1String("/ussd-dashboard")).exists());
 }
 
 QTEST_APPLESS_MAIN(SdkTurn)

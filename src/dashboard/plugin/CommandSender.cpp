@@ -116,16 +116,15 @@ int CommandSender::printAnswer()
 }
 
 /// Prints why the command failed. The plug-in may end its wait while the device still waits, and
-/// the device has no reason then.
+/// the device has no reason then. The command may get its turn before it is cancelled, so it is not
+/// certain that the command is not sent.
 int CommandSender::fail(const QString &shown)
 {
     TKSV_FailureInfo failure = lastFailure();
-    if (failure.reason == TKSV_FAILURE_NONE && m_parts.device.status().waitsForTurn) {
+    if (failure.reason == TKSV_FAILURE_NONE && m_parts.device.status().waitsForTurn)
         failure.reason = TKSV_FAILURE_IN_USE;
-        failure.wasNotSent = 1;
-    } else if (failure.reason == TKSV_FAILURE_NONE) {
+    else if (failure.reason == TKSV_FAILURE_NONE)
         failure.reason = isTimeOutText(shown) ? TKSV_FAILURE_NO_ANSWER : TKSV_FAILURE_REFUSED;
-    }
     HostCore::printErrorLine(failureWords(failure));
     if (failure.reason == TKSV_FAILURE_IN_USE && m_parts.device.status().hasForeignSession)
         HostCore::printErrorLine(dashboardText("SEND_END_HINT"));

@@ -58,11 +58,19 @@ std::string safeName(const std::string &text)
     return name;
 }
 
-/// Returns the folder of all queues of the user.
+/// Returns true if the user owns the folder and can write to it.
+bool isOwnFolder(const char *path)
+{
+    struct stat info = {};
+    return stat(path, &info) == 0 && info.st_uid == geteuid() && access(path, W_OK | X_OK) == 0;
+}
+
+/// Returns the folder of all queues of the user. A program that "su" has started may have inherited
+/// the variable of another user.
 std::string queuesFolder()
 {
     const char *runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime && *runtime == '/' && access(runtime, W_OK | X_OK) == 0)
+    if (runtime && *runtime == '/' && isOwnFolder(runtime))
         return std::string(runtime) + "/ussd-dashboard";
     return "/tmp/ussd-dashboard-" + std::to_string(geteuid());
 }

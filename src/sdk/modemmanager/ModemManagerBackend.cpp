@@ -68,9 +68,11 @@ void ModemManagerBackend::stop()
             return;
     }
     m_watch.thread().run([this] {
+        if (m_waiting && m_observer)
+            m_observer->ussdReply(m_waiting->token, refusedReply(TKSV_FAILURE_DEVICE_LOST));
         m_waiting.reset();
         if (m_device) {
-            m_device->ussd().endSession();
+            m_device->ussd().leave();
             m_device->sms().failPending();
         }
         m_observer = nullptr;

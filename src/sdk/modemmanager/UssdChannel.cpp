@@ -1,5 +1,6 @@
 #include "UssdChannel.h"
 
+#include <atomic>
 #include <utility>
 
 #include "UssdErrors.h"
@@ -26,6 +27,9 @@ const std::chrono::milliseconds REFUSAL_LIMIT(150);
 /// program keeps its turn.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
+/// The time limit for waiting for a turn, in milliseconds. See TKSV_Device_SetTurnLimit().
+std::atomic<std::chrono::milliseconds::rep> turnLimit(29000);
+
 /// There is no time limit, because the client decides how long to wait for a reply. By default,
 /// GDBus would cancel the call after 25 seconds.
 const int NO_TIME_LIMIT = G_MAXINT;
@@ -50,6 +54,11 @@ MMModem3gppUssdSessionState stateIn(GVariant *answer)
 UssdChannel::UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener)
     : m_thread(thread), m_listener(std::move(listener)), m_turn(equipmentId)
 {
+}
+
+void UssdChannel::setTurnLimit(std::chrono::milliseconds limit)
+{
+    turnLimit = limit.count();
 }
 
 /// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
@@ -98,6 +107,7 @@ void UssdChannel::catchUp()
 void UssdChannel::request(RequestToken token, RequestKind kind, const std::string &text)
 {
     m_next = Request{token, kind, text};
+    m_turnEnd = Clock::now() + std::chrono::milliseconds(turnLimit.load());
     if (kind == RequestKind::NewSession)
         endOwnSession();
     startNext();
@@ -107,6 +117,13 @@ void UssdChannel::endSession()
 {
     m_next.reset();
     endOwnSession();
+    startNext();
+}
+
+void UssdChannel::leave()
+{
+    m_next.reset();
+    m_cancelWanted = m_cancelWanted || m_running || m_owner == Owner::Ours;
     startNext();
 }
 
@@ -202,8 +219,19 @@ void UssdChannel::turnTimerElapsed()
     m_isTurnTimerRunning = false;
     if (std::exchange(m_keepsTurn, false))
         m_turn.leave();
+    else if (m_waitsForTurn && m_next && Clock::now() >= m_turnEnd)
+        missTurn();
     else
         startNext();
+}
+
+/// Fails the request whose turn has not come in time. Its client has given up or is about to, and
+/// must not be surprised by a command that is sent much later.
+void UssdChannel::missTurn()
+{
+    const Request request = *std::exchange(m_next, std::nullopt);
+    leaveTurn();
+    m_listener.replied(request.token, failedReply(Failure{TKSV_FAILURE_IN_USE, true}));
 }
 
 void UssdChannel::setWaitsForTurn(bool waits)

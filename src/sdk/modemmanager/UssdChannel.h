@@ -46,6 +46,10 @@ public:
     /// `equipmentId` identifies the modem among the programs of the user.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
+    /// Sets the time limit for waiting for a turn, which applies to all later requests of all
+    /// modems. May be called from any thread.
+    static void setTurnLimit(std::chrono::milliseconds limit);
+
     /// Sets the proxy of the USSD interface, which may replace an earlier proxy. Null means that
     /// the modem does not have the interface at this time.
     void setInterface(MMModem3gppUssd *ussd);
@@ -64,6 +68,10 @@ public:
     void request(RequestToken token, RequestKind kind, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
+    /// Ends the session that our call has opened. Must be called before the library stops using the
+    /// modem. A session that the network opened stays open, because another program may be about to
+    /// answer it.
+    void leave();
     /// Ends the session. The request in flight receives an empty reply.
     void failPending(TKSV_Failure reason);
     /// Discards a running call that the daemon will not finish. Must be called after the modem has
@@ -94,6 +102,7 @@ private:
     void leaveTurn();
     void startTurnTimer();
     void turnTimerElapsed();
+    void missTurn();
     void setWaitsForTurn(bool waits);
     void start(const Request &request);
     void checkSession();
@@ -131,7 +140,8 @@ private:
     SignalConnections m_signals;
     SessionTurn m_turn;
     bool m_waitsForTurn = false;
-    bool m_keepsTurn = false; // the program keeps its turn, although no command needs it now
+    Clock::time_point m_turnEnd; // when m_next stops waiting for its turn
+    bool m_keepsTurn = false;    // the program keeps its turn, although no command needs it now
     bool m_isTurnTimerRunning = false;
 
     Owner m_owner = Owner::Nobody;

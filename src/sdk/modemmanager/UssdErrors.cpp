@@ -120,9 +120,12 @@ bool isInProgress(const GError &error)
     return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
+/// If polkit is missing or does not answer, the daemon refuses the call with MM_CORE_ERROR_FAILED.
 bool isNotPermitted(const GError &error)
 {
-    return isCoreError(error, MM_CORE_ERROR_UNAUTHORIZED) ||
+    const bool lacksPolkit =
+        isCoreError(error, MM_CORE_ERROR_FAILED) && says(error, "PolicyKit authorization");
+    return lacksPolkit || isCoreError(error, MM_CORE_ERROR_UNAUTHORIZED) ||
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
