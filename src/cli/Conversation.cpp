@@ -142,7 +142,7 @@ unsigned char takeLoss(int, void *)
 Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
     : m_device(device), m_waits(waits), m_timeout(timeout)
 {
-    // await() gives up first.
+    // The limit of the library is longer, so that await() stops waiting first.
     TKSV_Device_SetTurnLimit(static_cast<unsigned>((timeout + TURN_GRACE).count()));
     TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
     TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);

@@ -47,7 +47,7 @@ public:
 
     /// Returns the signal that has arrived, or 0.
     int signal() const { return m_signal; }
-    /// Returns true if a signal has arrived, even if no wait has noticed the signal yet.
+    /// Returns true if a signal has arrived, even if no wait has detected the signal yet.
     bool isEnding();
 
 private:

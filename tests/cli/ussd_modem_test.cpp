@@ -274,7 +274,8 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
     QVERIFY(isIdle());
 }
 
-/// The signal arrives while the menu is being written. The answer could be a purchase.
+/// Tests a signal that arrives while the menu is being written. The answer must not be sent,
+/// because it could be a purchase.
 void UssdModemTest::afterASignalNoAnswerIsSent()
 {
     const FullPipe pipe;

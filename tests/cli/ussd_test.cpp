@@ -568,7 +568,8 @@ void UssdProgramTest::afterASignalNothingIsSent_data()
     QTest::newRow("chat") << QByteArray("chat *123#") << QByteArray("1\n") << QByteArray();
 }
 
-/// The signal arrives while the first reply is being written. The next text could be a purchase.
+/// Tests a signal that arrives while the first reply is being written. The next code or answer must
+/// not be sent, because it could be a purchase.
 void UssdProgramTest::afterASignalNothingIsSent()
 {
     QFETCH(QByteArray, line);

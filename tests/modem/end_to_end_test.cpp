@@ -725,7 +725,8 @@ void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
     QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
-/// The turn may come in the moment in which the program gives up.
+/// Tests that a program that misses its turn does not claim that the code was not carried out,
+/// because the turn may come at the moment when the program stops waiting.
 void EndToEndTest::aProgramThatMissesItsTurnClaimsNothing()
 {
     Tksv::SessionTurn another("350000000000017");

@@ -92,7 +92,8 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     watch.stop();
 }
 
-/// The user selects another device before ModemManager has reported its modems.
+/// Tests a request that is waiting when the user selects another device before ModemManager has
+/// reported its modems.
 void ModemInternalsTest::aRequestThatWaitsForTheServiceFailsWithTheDevice()
 {
     FakeModems::ModemWorld world;

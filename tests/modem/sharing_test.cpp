@@ -236,7 +236,7 @@ void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
     QVERIFY(connect(other));
     fake().sayUssd(1, "Continue?");
     QVERIFY(received().responses.waitFor(1));
-    // Returns after the library has left the modem.
+    // This call returns after the library has stopped using the modem.
     QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     QVERIFY(other.waitForProperty("State", USER_RESPONSE));
@@ -448,7 +448,7 @@ void ModemSharingTest::aWaitingCommandIsCancelled()
         QVERIFY(received().responses.waitFor(1)); // the response to the cancellation
     }
     another.leave();
-    QVERIFY(isTurnFree()); // the command has left the queue
+    QVERIFY(isTurnFree()); // the command is no longer in the queue
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_CANCELLED));
@@ -470,7 +470,8 @@ void ModemSharingTest::aWaitingCommandFailsWithTheRegistration()
     QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
 }
 
-/// A client that has given up must not be surprised by a purchase an hour later.
+/// Tests that a command fails if its turn does not come in time. A client that has stopped waiting
+/// must not be surprised by a purchase an hour later.
 void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
 {
     useModem();
@@ -484,7 +485,7 @@ void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
     QCOMPARE(lastFailure().wasNotSent, 1);
     QCOMPARE(info().waitsForTurn, 0);
     another.leave();
-    QVERIFY(isTurnFree()); // the command has left the queue
+    QVERIFY(isTurnFree()); // the command is no longer in the queue
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 1);
 }

@@ -265,8 +265,9 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     QVERIFY(QDir(queues()).isEmpty());
 }
 
-/// A program that "su" has started can inherit the variable. If it created the queue there, the
-/// other user's programs could not use the queue any more.
+/// Tests a variable that specifies a folder of another user, because a program that was started by
+/// "su" can inherit such a variable. If the program created the queue in this folder, programs of
+/// the other user could no longer use the queue.
 void SdkTurn::runtimeFolderOfAnotherUserIsNotUsed()
 {
     const uid_t another = 65534;

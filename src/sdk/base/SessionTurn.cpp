@@ -65,8 +65,8 @@ bool isOwnFolder(const char *path)
     return stat(path, &info) == 0 && info.st_uid == geteuid() && access(path, W_OK | X_OK) == 0;
 }
 
-/// Returns the folder of all queues of the user. A program that "su" has started may have inherited
-/// the variable of another user.
+/// Returns the folder of all queues of the user. The variable may specify a folder of another user,
+/// because a program that was started by "su" can inherit it.
 std::string queuesFolder()
 {
     const char *runtime = std::getenv("XDG_RUNTIME_DIR");

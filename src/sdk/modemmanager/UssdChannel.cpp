@@ -225,8 +225,8 @@ void UssdChannel::turnTimerElapsed()
         startNext();
 }
 
-/// Fails the request whose turn has not come in time. Its client has given up or is about to, and
-/// must not be surprised by a command that is sent much later.
+/// Fails the request whose turn has not come in time. The client has stopped waiting or is about to
+/// do so, and must not be surprised by a command that is sent much later.
 void UssdChannel::missTurn()
 {
     const Request request = *std::exchange(m_next, std::nullopt);

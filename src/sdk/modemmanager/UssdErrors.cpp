@@ -120,7 +120,8 @@ bool isInProgress(const GError &error)
     return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
-/// If polkit is missing or does not answer, the daemon refuses the call with MM_CORE_ERROR_FAILED.
+/// Returns true if the policy denied the call, or if polkit is missing or does not respond. In the
+/// latter case, the daemon refuses the call with MM_CORE_ERROR_FAILED.
 bool isNotPermitted(const GError &error)
 {
     const bool lacksPolkit =
