@@ -13,7 +13,8 @@ struct Run {
     QString error;
 };
 
-/** A `ussd` process. Its standard streams can be replaced with file descriptors of the test.
+/**
+ * A `ussd` process. Its standard streams can be replaced with file descriptors of the test.
  */
 class UssdProcess : public QProcess
 {

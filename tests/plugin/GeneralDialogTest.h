@@ -34,7 +34,8 @@ inline QGridLayout *gridOf(QWidget *widget)
     return qobject_cast<QGridLayout *>(widget->layout());
 }
 
-/** The base class of tests of the general dialog: input fields, sending, answers and transcript.
+/**
+ * The base class of tests of the general dialog: input fields, sending, answers and transcript.
  */
 class GeneralDialogTest : public DialogTest
 {

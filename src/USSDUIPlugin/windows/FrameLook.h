@@ -6,7 +6,8 @@
 #include "IUSSD.h"
 #include "SmsLayout.h"
 
-/* Functions that set the title and the size of a frame when it opens and after a language change.
+/*
+ * Functions that set the title and the size of a frame when it opens and after a language change.
  */
 
 inline const char *paidTitleKey(PAID_TYPE type)

@@ -12,7 +12,8 @@ class QPushButton;
 namespace Dashboard
 {
 
-/** The dialog in which the user selects an operator, whose codes are then used, or no operator.
+/**
+ * The dialog in which the user selects an operator, whose codes are then used, or no operator.
  */
 class OperatorDialog : public QDialog
 {
