@@ -24,8 +24,8 @@ struct ModemSettings {
     SimData sim;
     bool asksForPin = false;
     bool isRoaming = false;
-    // If true, the modem reports each change of the signal immediately, in five steps. Otherwise
-    // the daemon polls the signal every 30 s.
+    // If true, the modem reports each change in signal strength immediately, in five steps.
+    // Otherwise, the daemon polls the signal strength every 30 s.
     bool tellsSignal = false;
     std::vector<Charset> charsets = {Charset::Ucs2, Charset::Gsm, Charset::Ira};
 };

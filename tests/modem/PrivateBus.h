@@ -9,8 +9,8 @@ namespace FakeModems
 {
 
 /**
- * A message bus whose socket is in a given folder. It has no access restrictions and ends with this
- * object.
+ * A message bus whose socket is in a given folder. The bus has no access restrictions. It is shut
+ * down when this object is destroyed.
  */
 class PrivateBus
 {

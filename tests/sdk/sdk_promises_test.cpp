@@ -735,7 +735,7 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the end of the list, because the events for the change of the network depend on
+/// Compares only the last recorded events, because the preceding network-change events depend on
 /// the device.
 void SdkPromises::smsStatusFollowsTheDevice()
 {

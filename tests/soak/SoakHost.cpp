@@ -104,7 +104,7 @@ int SoakHost::cycle()
     return int(HostCore::Languages::codes().size()) * NETWORK_COUNT;
 }
 
-/// Copies the shipped files to a folder of this run. Returns false on failure.
+/// Copies the shipped files to the temporary folder of this run. Returns false on failure.
 bool SoakHost::layOutFiles()
 {
     const QString place = m_folder.filePath(QLatin1String("plugins/USSDUIPlugin"));

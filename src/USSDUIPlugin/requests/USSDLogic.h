@@ -100,8 +100,8 @@ public:
     void getChargeStrAttr(int paidType, int attr, QString &out);
     void getOnlineChargeStrAttr(int paidType, int attr, QString &out);
     void getMSISDNStrAttr(int paidType, int attr, QString &out);
-    /// Sets `flags` to the windows for the longest configured prefix of this IMSI. Returns true if
-    /// there is such a prefix.
+    /// Sets `flags` to the window flags that are configured for the longest prefix that matches
+    /// `imsi`. Returns true if a prefix matches.
     bool CheckImsiIsValid(QString const &imsi, int &flags);
     bool IsImsiDynamicMatch();
     /// Returns the name under which the profile is displayed.

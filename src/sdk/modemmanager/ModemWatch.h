@@ -42,11 +42,11 @@ public:
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Starts to search for modems and returns immediately. A further call tries again if the
-    /// connection or the service was missing. Otherwise, it checks whether the service still
-    /// responds.
+    /// Starts searching for modems and returns immediately. If the connection failed or the service
+    /// was not available, a further call tries again. Otherwise, a further call checks whether the
+    /// service still responds.
     void start();
-    /// Ends the thread and releases all objects that the thread holds.
+    /// Stops the thread and releases all objects that the thread holds.
     void stop();
 
     /// Returns the modems, oldest first. May be called from any thread.

@@ -597,8 +597,8 @@ void UssdChannel::finish(const UssdReply &reply)
 {
     const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
-    // The network sent another prompt immediately after the reply. The state belongs to this
-    // prompt, and the idle state in between was never reported.
+    // If the network sent another prompt immediately after the reply, the current state belongs to
+    // that prompt, because the idle state in between was never reported.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
     UssdReply reported = reply;
     if (isStateOfQuestion)
