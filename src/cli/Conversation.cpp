@@ -155,20 +155,31 @@ Conversation::~Conversation()
     TKSV_USSDSrv_UnRegisterUSSDCallback(takeResponse);
 }
 
+/// Returns TKSV_FAILURE_NONE if a string may be sent.
+TKSV_Failure Conversation::reasonNotToSend()
+{
+    if (m_waits.isEnding())
+        return TKSV_FAILURE_CANCELLED;
+    const bool isSameModem = m_modem.empty() || m_device.info().equipmentId == m_modem;
+    return isSameModem ? TKSV_FAILURE_NONE : TKSV_FAILURE_DEVICE_LOST;
+}
+
 Outcome Conversation::send(const std::string &text)
 {
     const Clock::time_point start = Clock::now();
     TKSV_USSDRequest request = requestOf(text);
     int status = 0;
     Outcome outcome;
-    if (m_waits.isEnding()) {
-        outcome.failure.reason = TKSV_FAILURE_CANCELLED;
+    outcome.failure.reason = reasonNotToSend();
+    if (outcome.hasFailed()) {
         outcome.failure.wasNotSent = 1;
         return outcome;
     }
     mailbox().expect(&m_waits);
     if (TKSV_USSDSrv_Request(&request, &status) == 0) {
         outcome = await(start);
+        if (m_modem.empty()) // the modem may be unknown before its first reply
+            m_modem = m_device.info().equipmentId;
     } else {
         mailbox().expectNothing();
         outcome.failure = lastFailure(TKSV_FAILURE_NO_DEVICE);

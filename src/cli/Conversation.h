@@ -42,19 +42,22 @@ public:
 
     /// Sends the string and waits for the reply. Cancels the request on the device if the reply
     /// does not arrive in time or a signal arrives first. Does not send the string if a signal has
-    /// already arrived.
+    /// already arrived, or if another modem has replaced the modem of the first string, because the
+    /// string would then be charged to another subscriber.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();
     bool isMenuOpen() const;
 
 private:
+    TKSV_Failure reasonNotToSend();
     Outcome await(Clock::time_point start);
     Outcome giveUp(TKSV_Failure reason);
 
     Device &m_device;
     Waits &m_waits;
     const Milliseconds m_timeout;
+    std::string m_modem; // the identifier of the modem that the first string was sent to
     std::function<void()> m_turnAwaited;
 };
 

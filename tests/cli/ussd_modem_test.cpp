@@ -102,6 +102,7 @@ private slots:
     void aMissingPermissionIsSaid();
     void aModemThatSearchesIsNamed();
     void aModemThatGoesAwayIsLost();
+    void anotherModemGetsNoFurtherCode();
     void aDaemonThatHangsIsSaid();
     void aDaemonThatIsNotRunningIsSaid();
 
@@ -353,6 +354,29 @@ void UssdModemTest::aModemThatGoesAwayIsLost()
     const QJsonObject failure = objectsIn(result.out).value(0);
     QCOMPARE(failure.value(latin1("reason")).toString(), latin1("device-lost"));
     QCOMPARE(failure.value(latin1("notSent")).toBool(true), false);
+}
+
+/// Tests that the next code is not charged to the subscriber of another modem.
+void UssdModemTest::anotherModemGetsNoFurtherCode()
+{
+    UssdProcess process(words("send -"));
+    process.start();
+    process.write("*100#\n");
+    QVERIFY(process.waitForOutput(latin1("Your balance is 12.50 EUR.")));
+    FakeModems::ModemSettings settings;
+    settings.imei = SECOND_IMEI;
+    QCOMPARE(m_world->addModem("two", SECOND_NETWORK, settings), std::string());
+    QVERIFY(!m_world->enable("two").empty());
+    m_world->unplug("one");
+    process.write("*100#\n");
+    process.closeWriteChannel();
+    const Run result = process.finish();
+    const int sentBySecond = modem("two").timesReceived(INITIATE);
+    m_world->unplug("two");
+    m_world->plugIn("one");
+    COMPARE_EXIT(result, EXIT_NOT_READY);
+    QCOMPARE(sentBySecond, 0);
+    QVERIFY2(result.error.contains(latin1("was not carried out")), qPrintable(result.error));
 }
 
 void UssdModemTest::aDaemonThatHangsIsSaid()

@@ -180,6 +180,7 @@ void SdkTurn::eightProgramsAtOnceExcludeEachOther()
 {
     const QByteArray inside = (m_folder->path() + QLatin1String("/inside")).toUtf8();
     std::vector<pid_t> children;
+    children.reserve(PROGRAMS);
     for (int i = 0; i < PROGRAMS; ++i)
         children.push_back(startProgram([&] {
             SessionTurn turn(MODEM);
