@@ -11,6 +11,8 @@ namespace Tksv
 namespace
 {
 
+const std::chrono::milliseconds SIM_DELAY(20);
+
 /// Returns the number of remaining PIN attempts, or -1 if it is unknown.
 int pinRetriesOf(MMModem *modem)
 {
@@ -37,7 +39,7 @@ int signalOf(MMModem *modem)
 } // namespace
 
 ModemDevice::ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener)
-    : m_listener(std::move(listener)), m_object(std::move(object)),
+    : m_thread(thread), m_listener(std::move(listener)), m_object(std::move(object)),
       m_ussd(std::make_shared<UssdChannel>(thread, equipmentIdOf(m_object.get()), ussdListener())),
       m_sms(std::make_shared<SmsSender>(smsListener()))
 {
@@ -102,7 +104,7 @@ void ModemDevice::modemChanged()
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
         m_problem = TKSV_PROBLEM_NONE; // the modem has left the state that caused the problem
-    fetchSim();
+    fetchSimSoon();
     m_listener.changed();
     if (now == MM_MODEM_STATE_DISABLED)
         m_ussd->abandonCall(); // its request has failed in changed()
@@ -121,11 +123,26 @@ void ModemDevice::enable()
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
+/// Fetches the SIM after a short delay if it has changed. The calls that read the SIM would delay a
+/// program that sends one command and does not need the SIM.
+void ModemDevice::fetchSimSoon()
+{
+    if (textOf(mm_modem_get_sim_path(m_modem.get())) == m_simPath ||
+        std::exchange(m_isSimFetchPlanned, true))
+        return;
+    m_thread.after(SIM_DELAY, [self = weak_from_this()] {
+        const std::shared_ptr<ModemDevice> alive = self.lock();
+        if (!alive)
+            return;
+        alive->m_isSimFetchPlanned = false;
+        if (alive->m_modem)
+            alive->fetchSim();
+    });
+}
+
 void ModemDevice::fetchSim()
 {
     const std::string path = textOf(mm_modem_get_sim_path(m_modem.get()));
-    if (path == m_simPath)
-        return;
     m_simPath = path;
     const auto done = [this, path](GObject *modem, GAsyncResult *result) {
         ErrorSlot ignored; // if there is no SIM, the fields of the SIM remain empty

@@ -53,6 +53,7 @@ private:
     template <typename T>
     T *peek(const char *name, T *(*peekInterface)(MMObject *)) const;
     void modemChanged();
+    void fetchSimSoon();
     void fetchSim();
     void sendPendingPin();
     void setProblem(TKSV_DeviceProblem problem);
@@ -65,6 +66,7 @@ private:
     UssdChannel::Listener ussdListener();
     SmsSender::Listener smsListener();
 
+    MainLoopThread &m_thread;
     const Listener m_listener;
     const GObjectPtr<MMObject> m_object;
     const std::shared_ptr<UssdChannel> m_ussd;
@@ -72,7 +74,8 @@ private:
     GObjectPtr<MMModem> m_modem;
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
-    std::string m_simPath;    // D-Bus path of the most recently requested SIM
+    std::string m_simPath; // D-Bus path of the most recently requested SIM
+    bool m_isSimFetchPlanned = false;
     std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
