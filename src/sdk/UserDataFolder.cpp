@@ -64,7 +64,7 @@ std::string userDataFolder()
     const std::string chosen = environment("TKSV_USER_DATA");
     if (!chosen.empty())
         return withSlash(chosen);
-    // The XDG Base Directory Specification requires relative paths to be ignored.
+    // XDG_DATA_HOME is ignored unless its path is absolute.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
         return withSlash(dataHome) + APP_FOLDER;
