@@ -8,7 +8,7 @@ section=
 while read -r package rest; do
     case "$package" in
     '' | '#'*) continue ;;
-    '[run]' | '[test]' | '[check]')
+    '[run]' | '[test]' | '[check]' | '[qt6]')
         section=$package
         continue
         ;;
@@ -21,7 +21,9 @@ while read -r package rest; do
     [ -z "$rest" ] || complain "packages.txt: more than one name in a line: $package $rest"
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
-    [ "$section" != '[check]' ] || continue # ./test does not need these packages
+    case $section in
+    '[check]' | '[qt6]') continue ;; # ./test does not need these packages by default
+    esac
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"
 done <packages.txt
