@@ -29,7 +29,8 @@ QStringList keysIn(const QString &code)
     static const QRegularExpression key(QLatin1String(
         "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
         "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES|"
-        "DEMONSTRATION|FAILURE|COMMAND|DEVICE|FOREIGN)_[A-Z_]+)\""));
+        "DEMONSTRATION|FAILURE|COMMAND|DEVICE|FOREIGN|LOOK|NAV|BANNER|SETTINGS|FIRST|HEADER|STRIP|"
+        "HISTORY|CHOICE|CHAIN|SHEET|HOME|ACCOUNT|REMEDY|SERVICE|MESSAGE|QUESTION)_[A-Z_]+)\""));
     QStringList keys;
     for (auto match = key.globalMatch(code); match.hasNext();)
         keys << match.next().captured(1);
