@@ -41,7 +41,8 @@ long TKSV_USSDSrv_Release(int *status)
 {
     const std::size_t ticket = sdk().enter(callOf(__func__));
     const long result = sdk().resultOf(__func__);
-    *status = 0;
+    if (status)
+        *status = 0;
     if (result == 0) {
         sdk().setSessionState(TKSV_SESSION_IDLE);
         sdk().dispatcher(FakeService::Ussd).eraseWaiting();
