@@ -1627,5 +1627,17 @@
         <source>QUESTION_LATER</source>
         <translation>Позже</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Файл с балансами был повреждён. Он сохранён как %1, создан новый.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Не удаётся сохранить балансы в %1. Они хранятся до закрытия программы.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Файл %1 записан более новой версией программы. Балансы хранятся до закрытия программы.</translation>
+    </message>
 </context>
 </TS>
