@@ -807,11 +807,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>رمز PIN لبطاقة SIM</translation>
+        <translation>أدخل PIN الخاص بـSIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>بطاقة SIM مقفلة. رمز PIN من 4 إلى 8 أرقام، ولا يُحفظ.</translation>
+        <translation>من 4 إلى 8 خانات. يُرسل إلى SIM ولا يُحفظ.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>تعذّر إرسال الرمز إلى بطاقة SIM. حاول مرة أخرى.</translation>
+        <translation>تعذر إرسال PIN إلى SIM. حاول مجددًا.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>لم تجب بطاقة SIM في الوقت المحدد. حاول مرة أخرى.</translation>
+        <translation>لم تستجب SIM في الوقت المناسب. حاول مجددًا.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1627,6 +1627,10 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>إظهار PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

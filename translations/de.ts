@@ -808,11 +808,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN der SIM-Karte</translation>
+        <translation>PIN der SIM eingeben</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>Die SIM-Karte ist gesperrt. Ihre PIN hat 4 bis 8 Ziffern; sie wird nicht gespeichert.</translation>
+        <translation>4 bis 8 Ziffern. Sie geht an die SIM und wird nicht aufbewahrt.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Die PIN konnte nicht an die SIM-Karte gesendet werden. Bitte noch einmal versuchen.</translation>
+        <translation>Die PIN konnte nicht an die SIM gesendet werden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>Die SIM-Karte hat nicht rechtzeitig geantwortet. Bitte noch einmal versuchen.</translation>
+        <translation>Die SIM hat nicht rechtzeitig geantwortet. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1628,6 +1628,10 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>QUESTION_LATER</source>
         <translation>Später</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>PIN anzeigen</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

@@ -807,11 +807,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN of the SIM card</translation>
+        <translation>Enter the PIN of the SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>The SIM card is locked. Its PIN has 4 to 8 digits; it is not stored.</translation>
+        <translation>4 to 8 digits. It goes to the SIM and is not kept.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>The PIN could not be sent to the SIM card. Please try again.</translation>
+        <translation>The PIN could not be sent to the SIM. Try again.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>The SIM card did not answer in time. Please try again.</translation>
+        <translation>The SIM did not answer in time. Try again.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1627,6 +1627,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>QUESTION_LATER</source>
         <translation>Later</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Show the PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

@@ -807,11 +807,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN de la tarjeta SIM</translation>
+        <translation>Introduzca el PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La tarjeta SIM está bloqueada. Su PIN tiene de 4 a 8 cifras; no se guarda.</translation>
+        <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>No se pudo enviar el PIN a la tarjeta SIM. Inténtelo de nuevo.</translation>
+        <translation>No se pudo enviar el PIN a la SIM. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La tarjeta SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
+        <translation>La SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1627,6 +1627,10 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>QUESTION_LATER</source>
         <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar el PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

@@ -808,11 +808,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>Code PIN de la carte SIM</translation>
+        <translation>Saisir le PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La carte SIM est verrouillée. Son code PIN a 4 à 8 chiffres ; il n’est pas conservé.</translation>
+        <translation>4 à 8 chiffres. Il va à la SIM et n’est pas conservé.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Le code PIN n’a pas pu être envoyé à la carte SIM. Veuillez réessayer.</translation>
+        <translation>Le PIN n’a pas pu être envoyé à la SIM. Réessayez.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La carte SIM n’a pas répondu à temps. Veuillez réessayer.</translation>
+        <translation>La SIM n’a pas répondu à temps. Réessayez.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1628,6 +1628,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>QUESTION_LATER</source>
         <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Afficher le PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

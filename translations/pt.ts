@@ -808,11 +808,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN do cartão SIM</translation>
+        <translation>Introduzir o PIN do SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>O cartão SIM está bloqueado. O PIN tem 4 a 8 algarismos; não é guardado.</translation>
+        <translation>4 a 8 algarismos. Vai para o SIM e não é guardado.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Não foi possível enviar o PIN ao cartão SIM. Tente novamente.</translation>
+        <translation>Não foi possível enviar o PIN ao SIM. Tente de novo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>O cartão SIM não respondeu a tempo. Tente novamente.</translation>
+        <translation>O SIM não respondeu a tempo. Tente de novo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1628,6 +1628,10 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>QUESTION_LATER</source>
         <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar o PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

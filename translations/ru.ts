@@ -806,11 +806,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN-код SIM-карты</translation>
+        <translation>Введите PIN для SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>SIM-карта заблокирована. PIN-код состоит из 4–8 цифр и не сохраняется.</translation>
+        <translation>От 4 до 8 цифр. Он передаётся SIM и не сохраняется.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -846,11 +846,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Не удалось передать PIN-код SIM-карте. Попробуйте ещё раз.</translation>
+        <translation>Не удалось передать PIN. Попробуйте ещё раз.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>SIM-карта не ответила вовремя. Попробуйте ещё раз.</translation>
+        <translation>SIM не ответила вовремя. Попробуйте ещё раз.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1626,6 +1626,10 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>Позже</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Показать PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>

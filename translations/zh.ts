@@ -804,11 +804,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>SIM 卡 PIN 码</translation>
+        <translation>输入 SIM 卡的 PIN</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>SIM 卡已锁定。PIN 码为 4 至 8 位数字，不会被保存。</translation>
+        <translation>4 至 8 位数字。只发送给 SIM 卡，不会保存。</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -844,11 +844,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>无法将 PIN 码发送到 SIM 卡。请重试。</translation>
+        <translation>无法将 PIN 发送给 SIM 卡。请重试。</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>SIM 卡未及时应答。请重试。</translation>
+        <translation>SIM 卡没有及时响应。请重试。</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1624,6 +1624,10 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>稍后</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>显示 PIN</translation>
     </message>
     <message>
         <source>ACCOUNT_DAMAGED</source>
