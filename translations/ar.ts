@@ -1920,5 +1920,17 @@
         <source>PIN_SHOW</source>
         <translation>إظهار PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>كان ملف الأرصدة تالفًا. حُفظ باسم %1 وأُنشئ ملف جديد.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>تعذّر حفظ الأرصدة في %1. تبقى حتى إغلاق البرنامج.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>كتبت نسخة أحدث من البرنامج الملف %1. تبقى الأرصدة حتى إغلاق البرنامج.</translation>
+    </message>
 </context>
 </TS>

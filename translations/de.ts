@@ -1921,5 +1921,17 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <source>PIN_SHOW</source>
         <translation>PIN anzeigen</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Die Datei mit Ihren Guthaben war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Guthaben können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Eine neuere Version des Programms hat %1 geschrieben. Guthaben bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
 </context>
 </TS>

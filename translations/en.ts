@@ -1920,5 +1920,17 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <source>PIN_SHOW</source>
         <translation>Show the PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>The file with your balances was damaged. It is kept as %1, and a new one has been started.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Balances cannot be stored in %1. They are kept until the program ends.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>A later version of the program has written %1. Balances are kept until the program ends.</translation>
+    </message>
 </context>
 </TS>

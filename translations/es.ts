@@ -1920,5 +1920,17 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <source>PIN_SHOW</source>
         <translation>Mostrar el PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
+    </message>
 </context>
 </TS>

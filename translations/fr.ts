@@ -1921,5 +1921,17 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <source>PIN_SHOW</source>
         <translation>Afficher le PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Le fichier de vos soldes était endommagé. Il est conservé sous %1 et un nouveau a été créé.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Les soldes ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Une version plus récente du programme a écrit %1. Les soldes sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
 </context>
 </TS>

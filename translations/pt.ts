@@ -1921,5 +1921,17 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <source>PIN_SHOW</source>
         <translation>Mostrar o PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>O ficheiro com os seus saldos estava danificado. Fica guardado como %1 e foi criado um novo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Não é possível guardar os saldos em %1. Ficam disponíveis até o programa fechar.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Uma versão mais recente do programa escreveu %1. Os saldos ficam disponíveis até o programa fechar.</translation>
+    </message>
 </context>
 </TS>

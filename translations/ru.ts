@@ -1919,5 +1919,17 @@
         <source>PIN_SHOW</source>
         <translation>Показать PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Файл с балансами был повреждён. Он сохранён как %1, создан новый.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Не удаётся сохранить балансы в %1. Они хранятся до закрытия программы.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Файл %1 записан более новой версией программы. Балансы хранятся до закрытия программы.</translation>
+    </message>
 </context>
 </TS>

@@ -1917,5 +1917,17 @@
         <source>PIN_SHOW</source>
         <translation>显示 PIN</translation>
     </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>余额文件已损坏。它已保留为 %1，并新建了一个文件。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>无法将余额保存到 %1。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>%1 由更新版本的程序写入。余额将保留到程序关闭。</translation>
+    </message>
 </context>
 </TS>

@@ -196,7 +196,7 @@ const Words WORDS[] = {
      "办理|夜间|赠|价格|定向|speed|slow|drossel|roaming|share|transfer|from$|up to|less than|below|"
      "under$|weniger|menos|moins|менее|меньше|اقل|不足|低于|only$|reply|press|minimum|if$|when$|"
      "after$|nach$|hotspot|streaming|video|expire in|yesterday|gestern|last|advance|loan|valid "
-     "for|eur$|will be|every|daily|monthly|tomorrow"},
+     "for|will be|every|daily|monthly|tomorrow"},
 };
 
 struct Stem {
