@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QDesktopWidget>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -21,19 +20,13 @@
 #include "DeviceNotice.h"
 #include "HostState.h"
 #include "InstallPaths.h"
-#include "IUIPlugin.h"
-#include "IUSSD.h"
 #include "LanguageMenu.h"
-#include "LanguageProblem.h"
-#include "Languages.h"
 #include "NetworkTextPanel.h"
 #include "NoticeBar.h"
 #include "OperatorNotice.h"
 #include "PageArea.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
-#include "plugin/ProfileBackup.h"
-#include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 #include "TerminalText.h"
 #include "WindowButtons.h"
@@ -45,34 +38,18 @@ namespace
 {
 
 const QSize FIRST_SIZE(900, 740); // pixels
-const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
-const char SWITCHED_ON[] = "1";
-const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
-
-QDateTime ownCodesTime()
-{
-    return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
-}
-
-/// Returns true if opening a window of this PAID_TYPE ends an open session on the device.
-bool endsSession(int paidType)
-{
-    return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
-}
-
 } // namespace
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
-    : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
-      m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
+    : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
       m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
       m_deviceMenu(new DeviceMenu(this)), m_header(new DeviceHeader(this)),
-      m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
+      m_deviceNotice(new DeviceNotice(&device(), this)), m_textPanel(new NetworkTextPanel(this)),
       m_demonstration(new NoticeBar("Dashboard_Demonstration", this)),
       m_problems(new NoticeBar("Dashboard_Problems", this)),
-      m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
+      m_operatorNotice(new OperatorNotice(&operatorCodes(), this)),
       m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
-      m_commandNotice(new CommandNotice(&m_device, this)), m_source(new QLabel(this))
+      m_commandNotice(new CommandNotice(&device(), this)), m_source(new QLabel(this))
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
@@ -81,91 +58,41 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     m_source->setObjectName(QLatin1String("Dashboard_Source"));
     m_source->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_source, 1);
-    followSim();
+    m_controller.setPageWindow([this] { return GeneralWindow(page()); });
+    followController();
     followNetworkTexts();
-    followOperator();
     retranslate();
     restorePlace();
 }
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::followSim()
+void MainWindow::followController()
 {
-    m_frameDelay.setParent(this);
-    m_frameDelay.setObjectName(QLatin1String("Dashboard_FrameDelay"));
-    m_frameDelay.setSingleShot(true);
-    connect(&m_frameDelay, SIGNAL(timeout()), this, SLOT(openAwaitedFrame()));
-    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
-    connect(&m_sim, SIGNAL(windowsOffered(int)), this, SLOT(offerWindows(int)));
-    connect(&m_sim, SIGNAL(paidTypeChanged()), this, SLOT(showPaidType()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
-    connect(&m_sim, &SimFollower::commandEnded, m_commandNotice, &CommandNotice::look);
-    m_isDetectionOn =
-        (m_settings && m_settings->detectsPaidType()) || qgetenv(DETECT_PAID_TYPE) == SWITCHED_ON;
-    m_deviceMenu->setDetection(m_isDetectionOn);
-    m_sim.setDetectionRule([this] { return mayDetectPaidType(); });
-    connect(m_deviceMenu, &DeviceMenu::detectionToggled, this, &MainWindow::rememberDetection);
-}
-
-/// Returns true if the prepaid/postpaid query may be sent. A modem may send only a code that
-/// belongs to the SIM's operator, because the same code may buy something in another network.
-bool MainWindow::mayDetectPaidType() const
-{
-    if (m_device.status().isSimulated)
-        return true;
-    return m_isDetectionOn && m_operatorCodes.areOfOperator() && !m_isRestartDue;
-}
-
-void MainWindow::rememberDetection(bool isOn)
-{
-    m_isDetectionOn = isOn;
-    if (m_settings)
-        m_settings->setDetectsPaidType(isOn);
-    m_sim.ask();
+    connect(&device(), &DeviceWatcher::changed, this, &MainWindow::showDevice);
+    connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::onDeviceChosen);
+    connect(&m_controller, &AppController::pluginStarted, this, &MainWindow::onPluginStarted);
+    connect(&m_controller, &AppController::windowsOffered, this, &MainWindow::offerWindows);
+    connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showPaidType);
+    connect(&m_controller, &AppController::frameOpened, this,
+            [this] { followCommands(GeneralWindow::framed()); });
+    connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
+    connect(&m_controller, &AppController::commandEnded, m_commandNotice, &CommandNotice::look);
+    connect(&m_controller, &AppController::languageChanged, this, &MainWindow::retranslate);
+    connect(&m_controller, &AppController::problem, this, &MainWindow::showProblem);
+    m_deviceMenu->setDetection(m_controller.isDetectionOn());
+    connect(m_deviceMenu, &DeviceMenu::detectionToggled, &m_controller,
+            &AppController::setDetection);
+    connect(m_deviceMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
 }
 
 void MainWindow::followNetworkTexts()
 {
-    connect(&m_networkTexts, SIGNAL(textReceived(QString, QDateTime, bool)), this,
-            SLOT(showNetworkText(QString, QDateTime, bool)));
-    connect(&m_sim, SIGNAL(commandEnded()), m_textPanel, SLOT(endQuestion()));
-    connect(&m_device, SIGNAL(lost()), m_textPanel, SLOT(endQuestion()));
-    m_networkTexts.start();
-}
-
-void MainWindow::followOperator()
-{
-    connect(m_deviceMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
-    connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
-    connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(showFirstOwnCodes()));
-}
-
-/// Queues the restart, because the plug-in may still be handling the event that caused it.
-void MainWindow::beginAnew()
-{
-    m_isRestartDue = true;
-    QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
-}
-
-/// Restarts the plug-in, but not while the user is busy, because the restart deletes the plug-in's
-/// windows.
-void MainWindow::beginAnewIfDue()
-{
-    if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
-        restartPlugin();
-}
-
-/// Restarts the plug-in if the user has saved the first codes in the editor. If there were no
-/// preset buttons when the plug-in created the window, it does not create any later.
-void MainWindow::showFirstOwnCodes()
-{
-    const bool isWithoutPresets =
-        m_operatorCodes.areAbsent() && !GeneralWindow(page()).hasPresets();
-    if (isWithoutPresets && ownCodesTime() != m_ownCodesTime)
-        beginAnew();
+    connect(&m_controller, &AppController::textReceived, this, &MainWindow::showNetworkText);
+    connect(&m_controller, &AppController::commandEnded, m_textPanel,
+            &NetworkTextPanel::endQuestion);
+    connect(&device(), &DeviceWatcher::lost, m_textPanel, &NetworkTextPanel::endQuestion);
+    m_controller.start();
 }
 
 void MainWindow::makeMenus()
@@ -218,40 +145,31 @@ QWidget *MainWindow::page() const
 
 PluginFailure MainWindow::loadPlugin()
 {
-    m_operatorCodes.look();
-    m_isRestartDue = false;
-    return startWith(m_plugin->load(LoadedPlugin::installedFile()));
+    return m_controller.loadPlugin();
 }
 
 PluginFailure MainWindow::restartPlugin()
 {
-    m_isRestartDue = false;
-    m_windows = 0; // the restart has deleted the plug-in's windows
-    return startWith(m_plugin->restart());
+    return m_controller.restartPlugin();
 }
 
-PluginFailure MainWindow::startWith(const PluginFailure &failure)
+void MainWindow::onPluginStarted(const PluginFailure &failure)
 {
-    m_ownCodesTime = ownCodesTime();
+    m_isPageOffered = false;
     m_buttons->setEnabled(m_plugin->isUsable());
     m_commandNotice->forget();
-    if (m_plugin->isUsable())
-        m_sim.start();
-    else
+    if (!m_plugin->isUsable())
         m_page->showText(failure.text());
-    return failure;
 }
 
-void MainWindow::offerWindows(int windows)
+void MainWindow::offerWindows()
 {
-    if (m_operatorCodes.areAbsent())
-        windows &= SIM_WINDOW_GENERAL; // the configuration has no services
-    const int changed = m_windows ^ windows;
-    m_windows = windows;
-    m_awaitedFrame = PAID_TYPE_NONE;
+    const int windows = m_controller.windows();
+    const bool isPageOffered = windows & SIM_WINDOW_GENERAL;
     m_buttons->offer(windows);
-    if (changed & SIM_WINDOW_GENERAL)
-        showPage(windows & SIM_WINDOW_GENERAL);
+    if (isPageOffered != m_isPageOffered)
+        showPage(isPageOffered);
+    m_isPageOffered = isPageOffered;
     m_page->showText(windows ? QString() : dashboardText("WINDOWS_NONE"));
 }
 
@@ -286,23 +204,7 @@ void MainWindow::hidePage()
 
 void MainWindow::openFrame(int paidType)
 {
-    if (!m_plugin->isUsable())
-        return;
-    if (endsSession(paidType) && m_sim.isAsking()) {
-        m_awaitedFrame = paidType;
-        m_frameDelay.start(LONGEST_DELAY);
-        return;
-    }
-    openFrameNow(paidType);
-}
-
-void MainWindow::openAwaitedFrame()
-{
-    m_frameDelay.stop();
-    const int paidType = m_awaitedFrame;
-    m_awaitedFrame = PAID_TYPE_NONE;
-    if (paidType != PAID_TYPE_NONE && m_plugin->isUsable())
-        openFrameNow(paidType);
+    m_controller.openFrame(paidType);
 }
 
 /// Shows the general window, in which the user can type the answer. Showing this window does not
@@ -314,33 +216,15 @@ void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedA
     m_textPanel->add(text, receivedAt, waitsForAnswer);
     if (!waitsForAnswer)
         return;
-    m_sim.questionCame();
     const QLineEdit *entry = GeneralWindow(page()).commandEdit();
     if (m_plugin->isUsable() && !(entry && entry->isVisible()))
         showPage(true);
 }
 
-void MainWindow::openFrameNow(int paidType)
-{
-    if (paidType != PAID_TYPE_GENERAL) {
-        m_plugin->ussd()->DoPrePostPaidModal(static_cast<PAID_TYPE>(paidType));
-        return;
-    }
-    m_plugin->plugin()->DoModal();
-    followCommands(GeneralWindow::framed());
-}
-
 void MainWindow::setLanguage(const QString &code)
 {
-    if (!HostCore::Languages::setCurrent(code)) {
-        showProblem(dashboardText(languageProblem(code)).arg(HostCore::Languages::file(code)));
+    if (!m_controller.setLanguage(code))
         m_languageMenu->retranslate(); // resets the check mark to the current language
-        return;
-    }
-    if (m_settings)
-        m_settings->setLanguage(code);
-    m_plugin->notifyLanguageChange();
-    retranslate();
 }
 
 void MainWindow::retranslate()
@@ -352,53 +236,50 @@ void MainWindow::retranslate()
     m_commandNotice->update();
     m_operatorNotice->retranslate();
     m_buttons->retranslate();
-    if (m_plugin->isUsable() && !m_windows)
+    if (m_plugin->isUsable() && !m_controller.windows())
         m_page->showText(dashboardText("WINDOWS_NONE"));
     showDevice();
 }
 
 void MainWindow::showPaidType()
 {
-    m_header->showPaidType(m_sim.paidTypeText());
-    if (!m_sim.isAsking())
-        openAwaitedFrame();
+    m_header->showPaidType(sim().paidTypeText());
 }
 
 void MainWindow::showDevice()
 {
-    const bool isDemonstration = m_device.status().isSimulated;
+    const bool isDemonstration = device().status().isSimulated;
     setWindowTitle(dashboardText(isDemonstration ? "APP_TITLE_DEMONSTRATION" : "APP_TITLE"));
     m_demonstration->setText(isDemonstration ? dashboardText("DEMONSTRATION_NOTE") : QString());
-    m_deviceMenu->offer(m_deviceMenu->choice(), m_device.modems());
+    m_deviceMenu->offer(m_controller.choice(), device().modems());
     m_deviceNotice->update();
-    m_header->showStatus(m_device.status());
-    m_header->showPaidType(m_sim.paidTypeText());
-    m_source->setText(m_device.status().sourceText());
+    m_header->showStatus(device().status());
+    m_header->showPaidType(sim().paidTypeText());
+    m_source->setText(device().status().sourceText());
     m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
 }
 
 bool MainWindow::useScenario(const QString &file)
 {
-    return useDevice(DeviceChoice::simulated(file));
+    return useDevice(m_controller.useDevice(DeviceChoice::simulated(file)));
 }
 
-bool MainWindow::useDevice(const DeviceChoice &choice)
+bool MainWindow::useDevice(const QString &error)
 {
-    const QString error = choice.use();
-    if (!error.isEmpty()) {
-        setDevice(m_deviceMenu->choice());
+    if (!error.isEmpty())
         showScenarioError(error);
-        return false;
-    }
-    setDevice(choice);
-    return true;
+    return error.isEmpty();
 }
 
 void MainWindow::setDevice(const DeviceChoice &choice)
 {
-    m_deviceMenu->offer(choice, m_device.modems());
+    m_controller.setDevice(choice);
+}
+
+void MainWindow::onDeviceChosen()
+{
+    m_deviceMenu->offer(m_controller.choice(), device().modems());
     m_commandNotice->forget();
-    m_device.refresh();
 }
 
 void MainWindow::showProblem(const QString &text)
@@ -418,9 +299,7 @@ void MainWindow::showScenarioError(const QString &error)
 
 void MainWindow::chooseDevice(const QString &word)
 {
-    const DeviceChoice choice = DeviceChoice::fromWord(word);
-    if (useDevice(choice) && m_settings)
-        m_settings->setDevice(choice);
+    useDevice(m_controller.chooseDevice(DeviceChoice::fromWord(word)));
 }
 
 void MainWindow::openScenario()

@@ -2,13 +2,8 @@
 #define MAINWINDOW_H
 
 #include <QMainWindow>
-#include <QTimer>
 
-#include "device/DeviceWatcher.h"
-#include "device/NetworkTextWatcher.h"
-#include "plugin/PluginFailure.h"
-#include "sim/OperatorCodes.h"
-#include "sim/SimFollower.h"
+#include "AppController.h"
 
 class QAction;
 class QLabel;
@@ -53,10 +48,11 @@ public:
     /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
     QWidget *page() const;
-    DeviceWatcher &device() { return m_device; }
+    AppController &controller() { return m_controller; }
+    DeviceWatcher &device() { return m_controller.device(); }
     DeviceMenu *deviceMenu() const { return m_deviceMenu; }
-    OperatorCodes &operatorCodes() { return m_operatorCodes; }
-    const SimFollower &sim() const { return m_sim; }
+    OperatorCodes &operatorCodes() { return m_controller.operatorCodes(); }
+    const SimFollower &sim() const { return m_controller.sim(); }
 
 public slots:
     /// Reports a problem in the window and on standard error, for example that the settings cannot
@@ -71,8 +67,7 @@ public slots:
     void showPage(bool shown);
     /// Closes the window and ends the program, even if a frame or a message box is open.
     void quit();
-    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
-    /// opening the frame would cancel the prepaid/postpaid query.
+    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame.
     void openFrame(int paidType);
 
 signals:
@@ -87,41 +82,26 @@ private slots:
     void openScenario();
     void showDevice();
     void hidePage();
-    void offerWindows(int windows);
+    void offerWindows();
     void showPaidType();
-    void openAwaitedFrame();
-    void beginAnew();
-    void beginAnewIfDue();
-    void rememberDetection(bool isOn);
-    void showFirstOwnCodes();
+    void onPluginStarted(const PluginFailure &failure);
+    void onDeviceChosen();
     void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private:
-    bool useDevice(const DeviceChoice &choice);
+    bool useDevice(const QString &error);
+    void followController();
     void followNetworkTexts();
-    void followOperator();
     void followCommands(const GeneralWindow &general);
-    bool mayDetectPaidType() const;
-    void followSim();
     void makeMenus();
     void makeCentre();
     void restorePlace();
-    PluginFailure startWith(const PluginFailure &failure);
     void retranslate();
-    void openFrameNow(int paidType);
 
     LoadedPlugin *const m_plugin;
     DashboardSettings *const m_settings;
-    DeviceWatcher m_device;
-    SimFollower m_sim;
-    NetworkTextWatcher m_networkTexts;
-    OperatorCodes m_operatorCodes;
-    bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
-    bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
-    QDateTime m_ownCodesTime;     // modification time of the user's codes when they were read
-    int m_windows = 0;            // the windows that are offered, a combination of SimWindow flags
-    int m_awaitedFrame;
-    QTimer m_frameDelay;
+    AppController m_controller;
+    bool m_isPageOffered = false;
     QMenu *m_fileMenu;
     QAction *m_quit;
     LanguageMenu *m_languageMenu;
