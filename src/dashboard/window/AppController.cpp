@@ -10,6 +10,7 @@
 #include "Languages.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/ProfileBackup.h"
+#include "plugin/TranscriptColors.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 
@@ -136,6 +137,7 @@ PluginFailure AppController::restartPlugin()
 PluginFailure AppController::startWith(const PluginFailure &failure)
 {
     m_ownCodesTime = ownCodesTime();
+    warnAboutPaleTranscript();
     emit pluginStarted(failure);
     if (m_plugin->isUsable())
         m_sim.start();
