@@ -1633,5 +1633,13 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <source>PIN_SHOW</source>
         <translation>PIN anzeigen</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>fragt nach einem Text</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Beenden Sie zuerst das Menü.</translation>
+    </message>
 </context>
 </TS>

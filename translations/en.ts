@@ -1632,5 +1632,13 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <source>PIN_SHOW</source>
         <translation>Show the PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>asks for a text</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>End the menu first.</translation>
+    </message>
 </context>
 </TS>

@@ -1632,5 +1632,13 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <source>PIN_SHOW</source>
         <translation>Mostrar el PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pide un texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine antes el menú.</translation>
+    </message>
 </context>
 </TS>

@@ -1633,5 +1633,13 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <source>PIN_SHOW</source>
         <translation>Afficher le PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>demande un texte</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Terminez d’abord le menu.</translation>
+    </message>
 </context>
 </TS>

@@ -1633,5 +1633,13 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <source>PIN_SHOW</source>
         <translation>Mostrar o PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pede um texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine primeiro o menu.</translation>
+    </message>
 </context>
 </TS>

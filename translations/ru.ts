@@ -1631,5 +1631,13 @@
         <source>PIN_SHOW</source>
         <translation>Показать PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>запрашивает текст</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Сначала завершите меню.</translation>
+    </message>
 </context>
 </TS>

@@ -1629,5 +1629,13 @@
         <source>PIN_SHOW</source>
         <translation>显示 PIN</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>需要输入文字</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>请先结束菜单。</translation>
+    </message>
 </context>
 </TS>
