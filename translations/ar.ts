@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>هذه آخر محاولة: رمز خاطئ آخر يحظر بطاقة SIM، ولا يفتحها إلا رمز PUK.</translation>
+        <translation>بقيت محاولة واحدة. بعد PIN خاطئ آخر ستحتاج SIM إلى PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -843,7 +843,7 @@
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>هذا ليس رمز PIN. حاول مرة أخرى.</translation>
+        <translation>لم يكن هذا هو PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1159,6 +1159,270 @@
     <message>
         <source>PAID_DETECT</source>
         <translation>معرفة هل بطاقة SIM مسبقة الدفع أم آجلة (يُرسل رمزًا)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>أرسل رمزًا أو اختر رمزًا أدناه.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>رموز مشغّل شبكتك غير معروفة</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>اختر مشغّل شبكتك لتظهر هنا رموز الرصيد والشحن. يمكنك كتابة الرموز دون ذلك.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>في انتظار الدور</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>نافذة أخرى ترسل طلبًا الآن.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>برنامج آخر يستخدم الرموز</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>يمكن إرسال الرموز عندما ينتهي. قد يكون في أثناء شراء شيء ما.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>جارٍ البحث عن مودم</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>يستغرق هذا لحظة.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>صِل مودمًا أو شغّله. تعمل هذه الصفحة عندئذ من تلقاء نفسها.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 غير متصل</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>المودم المختار غير متصل</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>صِله أو اختر مودمًا آخر.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>أُزيل المودم</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>صِله مجددًا. تعمل هذه الصفحة عندئذ من تلقاء نفسها.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>المودم لا يعمل</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>تخلّى عنه ModemManager. افصله وصِله مجددًا. السبب مذكور في سجل ModemManager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>ناقل الرسائل لا يعمل</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>يتعذر الوصول إلى D-Bus الخاص بالنظام، لذا لا يُعثر على أي مودم.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>خدمة المودم لا تعمل</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager غير مثبّت أو تم إيقافه.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>خدمة المودم لا تستجيب</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager يعمل لكنه لا يستجيب. انتظر لحظة أو أعد تشغيله.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>غير مسموح</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>لا يسمح لك هذا الحاسوب باستخدام المودم. يمكن لمديره السماح بذلك لحسابك.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>لا توجد SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>ضع SIM في المودم. يجب إطفاء بعض أجهزة المودم لذلك.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>SIM مقفلة</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>أدخل رقم PIN الخاص بها لاستخدامها.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>تحتاج SIM إلى PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>أُدخل PIN خاطئ مرات كثيرة. افتح قفلها في هاتف باستخدام PUK من مشغّل شبكتك ثم أعدها.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>المودم مطفأ</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>شغّله لاستخدامه. يحتاج إلى لحظة للعثور على شبكته.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>جارٍ البحث عن شبكة</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>قد يستغرق هذا دقيقة. يمكن إرسال الرموز فور العثور على الشبكة.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>الشبكة لا تقبل هذه الـSIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>اسأل مشغّل شبكتك هل هي مفعّلة، أو استخدم SIM أخرى.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>لا يمكن لهذا المودم إرسال الرموز</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>لا يدعم USSD. اختر مودمًا آخر أو استخدم هاتفًا للرموز.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>هذه الحالة جزء من العرض التوضيحي.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>ينشئ المدير الملف المذكور في السطر الأول بهذه القاعدة ويضيف حسابك إلى المجموعة netdev. ثم سجّل الدخول مجددًا.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>اكتب هذا في الطرفية بكلمة مرور المدير. إذا لم تكن الخدمة موجودة فثبّت أولًا الحزمة modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>اكتب هذا في الطرفية بكلمة مرور المدير.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>PUK رقم من 8 خانات يفتح قفل SIM بعد إدخال PIN خاطئ مرات كثيرة. تجده على البطاقة التي جاءت فيها SIM، ويمكن لمشغّل شبكتك إعطاؤه. بعد عشرة أرقام PUK خاطئة تصبح SIM غير صالحة.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>المحاولات المتبقية: %1</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>محاولة واحدة متبقية</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>إدخال PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>البحث مجددًا</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>اختيار مودم</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>كيفية السماح بذلك</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>كيفية التشغيل</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>ما هو PUK؟</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>تجربة العرض التوضيحي</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>استخدام المودم الخاص بي</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>إنهاؤها</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>اختيار المشغّل</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>كتابة رمز</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>تم النسخ</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>هل تريد إنهاء جلسة البرنامج الآخر؟ قد يكون في أثناء شراء شيء ما.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>إنهاء الجلسة</translation>
     </message>
 </context>
 </TS>

@@ -832,11 +832,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Verbleibende Versuche: %1.</translation>
+        <translation>Noch %1 Versuche.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>Das ist der letzte Versuch: Eine weitere falsche PIN sperrt die SIM-Karte, und nur die PUK entsperrt sie.</translation>
+        <translation>Noch ein Versuch. Nach einer weiteren falschen PIN braucht die SIM ihre PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -844,7 +844,7 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Das war nicht die PIN. Bitte noch einmal versuchen.</translation>
+        <translation>Das war nicht die PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1160,6 +1160,270 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>PAID_DETECT</source>
         <translation>&amp;Feststellen, ob die SIM Prepaid oder Vertrag ist (sendet einen Code)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Code senden oder unten einen wählen.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>Die Codes Ihres Anbieters sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Wählen Sie Ihren Anbieter, dann erscheinen hier seine Codes für Guthaben und Aufladung. Codes eintippen können Sie auch so.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>Wartet, bis es an der Reihe ist</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Ein anderes Fenster fragt gerade.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Ein anderes Programm verwendet Codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Codes können gesendet werden, sobald es fertig ist. Vielleicht kauft es gerade etwas.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Modem wird gesucht</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Das dauert einen Moment.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Kein Modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Schließen Sie ein Modem an oder schalten Sie es ein. Diese Seite füllt sich dann von selbst.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 ist nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>Das gewählte Modem ist nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Schließen Sie es an oder wählen Sie ein anderes Modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Das Modem wurde entfernt</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Schließen Sie es wieder an. Diese Seite füllt sich dann von selbst.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>Das Modem arbeitet nicht</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager hat es aufgegeben. Ziehen Sie es ab und schließen Sie es wieder an. Den Grund nennt das Protokoll von ModemManager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>Der Nachrichtenbus läuft nicht</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>Der D-Bus des Systems ist nicht erreichbar. Deshalb wird kein Modem gefunden.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>Der Modemdienst läuft nicht</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager ist nicht installiert oder wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>Der Modemdienst antwortet nicht</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager läuft, antwortet aber nicht. Warten Sie einen Moment oder starten Sie den Dienst neu.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Dieser Computer lässt Sie sein Modem nicht verwenden. Seine Verwaltung kann es Ihrem Konto erlauben.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Keine SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Legen Sie eine SIM in das Modem ein. Manche Modems müssen dafür ausgeschaltet sein.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>Die SIM ist gesperrt</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Geben Sie ihre PIN ein, um sie zu verwenden.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>Die SIM braucht ihre PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Zu viele falsche PINs. Entsperren Sie sie in einem Telefon mit der PUK Ihres Anbieters und legen Sie sie dann wieder ein.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>Das Modem ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Schalten Sie es ein, um es zu verwenden. Es braucht einen Moment, um sein Netz zu finden.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Netz wird gesucht</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Das kann eine Minute dauern. Codes können gesendet werden, sobald das Netz gefunden ist.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>Das Netz nimmt diese SIM nicht an</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Fragen Sie Ihren Anbieter, ob sie freigeschaltet ist, oder verwenden Sie eine andere SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Dieses Modem kann keine Codes senden</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>Es kann kein USSD. Wählen Sie ein anderes Modem oder nehmen Sie für Codes ein Telefon.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Dieser Zustand gehört zur Demonstration.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Die Verwaltung legt die Datei der ersten Zeile mit dieser Regel an und nimmt Ihr Konto in die Gruppe netdev auf. Melden Sie sich danach neu an.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Geben Sie dies in einem Terminal mit dem Passwort der Verwaltung ein. Gibt es den Dienst nicht, installieren Sie zuerst das Paket modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Geben Sie dies in einem Terminal mit dem Passwort der Verwaltung ein.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>Die PUK ist eine Nummer mit 8 Ziffern, die eine SIM nach zu vielen falschen PINs entsperrt. Sie steht auf der Karte, aus der die SIM stammt, und Ihr Anbieter kann sie nennen. Nach zehn falschen PUKs ist die SIM unbrauchbar.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>Noch %1 Versuche</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>Noch 1 Versuch</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>PIN eingeben</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Einschalten</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Noch einmal suchen</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Modem wählen</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>So wird es erlaubt</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>So wird er gestartet</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>Was ist eine PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Demonstration ausprobieren</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Mein Modem verwenden</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Anbieter wählen</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Code eintippen</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>Sitzung des anderen Programms beenden? Vielleicht kauft es gerade etwas.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Sitzung beenden</translation>
     </message>
 </context>
 </TS>

@@ -831,11 +831,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Tries left: %1.</translation>
+        <translation>%1 tries are left.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>This is the last try: another wrong PIN blocks the SIM card, and only its PUK unblocks it.</translation>
+        <translation>One try is left. After another wrong PIN the SIM needs its PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -843,7 +843,7 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>That was not the PIN. Please try again.</translation>
+        <translation>That was not the PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1159,6 +1159,270 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>PAID_DETECT</source>
         <translation>&amp;Find out whether the SIM is prepaid or postpaid (sends a code)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Send a code, or choose one below.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>We do not know your operator’s codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Choose your operator, and its balance and top-up codes appear here. You can type codes without it.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>Waiting for its turn</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Another window is asking.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Another program is using codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Codes can be sent when it has finished. It may be buying something.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Looking for a modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>This takes a moment.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>No modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Connect a modem, or switch it on. This page comes to life by itself.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 is not connected</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>The chosen modem is not connected</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Connect it, or choose another modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>The modem was removed</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Connect it again. This page comes to life by itself.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>The modem does not work</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager has given it up. Unplug it and connect it again. The log of ModemManager gives the reason.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>The message bus does not run</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>The D-Bus of the system cannot be reached, so no modem is found.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>The modem service does not run</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager is not installed, or it was stopped.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>The modem service does not answer</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager runs but does not answer. Wait a moment, or start it again.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Not permitted</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>This computer does not let you use its modem. Its administrator can allow it for your account.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>No SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Put a SIM into the modem. Some modems must be switched off for that.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>The SIM is locked</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Enter its PIN to use it.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>The SIM needs its PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Too many wrong PINs. Unlock it in a phone with the PUK of your operator, then put it back.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>The modem is switched off</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Switch it on to use it. It needs a moment to find its network.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Looking for a network</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>This can take a minute. Codes can be sent as soon as the network is found.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>The network does not accept this SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Ask your operator whether it is active, or use another SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>This modem cannot send codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>It has no USSD. Choose another modem, or use a phone for codes.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>This state belongs to the demonstration.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>An administrator creates the file in the first line with this rule, and adds your account to the group netdev. Then log in again.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Type this in a terminal, with the password of an administrator. If it says that there is no such service, install the package modemmanager first.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Type this in a terminal, with the password of an administrator.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>The PUK is a number of 8 digits that unlocks a SIM after too many wrong PINs. It stands on the card that the SIM came in, and your operator can tell it. After ten wrong PUKs the SIM is useless.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>%1 tries left</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>1 try left</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Enter the PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Switch on</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Look again</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Choose a modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>How to allow it</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>How to start it</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>What is a PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Try the demonstration</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Use my modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>End it</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Choose operator</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Type a code</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>End the session of the other program? It may be buying something.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>End the session</translation>
     </message>
 </context>
 </TS>

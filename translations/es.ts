@@ -831,11 +831,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Intentos restantes: %1.</translation>
+        <translation>Quedan %1 intentos.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>Es el último intento: otro PIN erróneo bloquea la tarjeta SIM, y solo el PUK la desbloquea.</translation>
+        <translation>Queda un intento. Tras otro PIN incorrecto, la SIM necesita su PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -843,7 +843,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Ese no era el PIN. Inténtelo de nuevo.</translation>
+        <translation>Ese no era el PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1159,6 +1159,270 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>PAID_DETECT</source>
         <translation>A&amp;veriguar si la SIM es de prepago o de pospago (envía un código)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Envíe un código o elija uno abajo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>No conocemos los códigos de su operador</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Elija su operador y aquí aparecerán sus códigos de saldo y recarga. También puede escribir códigos sin elegirlo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>Esperando su turno</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Otra ventana está preguntando.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Otro programa está usando códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Podrá enviar códigos cuando termine. Quizá esté comprando algo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Buscando un módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Esto tarda un momento.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Sin módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Conecte un módem o enciéndalo. Esta página se activará por sí sola.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 no está conectado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>El módem elegido no está conectado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Conéctelo o elija otro módem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Se ha retirado el módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Conéctelo de nuevo. Esta página se activará por sí sola.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>El módem no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager lo ha descartado. Desconéctelo y vuelva a conectarlo. El registro de ModemManager indica el motivo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>El bus de mensajes no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>No se puede acceder al D-Bus del sistema, por lo que no se encuentra ningún módem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>El servicio de módem no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager no está instalado o se ha detenido.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>El servicio de módem no responde</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager funciona pero no responde. Espere un momento o reinícielo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>No permitido</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Este equipo no le deja usar su módem. Su administrador puede permitirlo para su cuenta.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Sin SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Inserte una SIM en el módem. Algunos módems deben estar apagados para ello.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>La SIM está bloqueada</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Introduzca su PIN para usarla.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>La SIM necesita su PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Demasiados PIN incorrectos. Desbloquéela en un teléfono con el PUK de su operador y vuelva a ponerla.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>El módem está apagado</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Enciéndalo para usarlo. Necesita un momento para encontrar su red.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Buscando una red</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Puede tardar un minuto. Podrá enviar códigos en cuanto se encuentre la red.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>La red no acepta esta SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Pregunte a su operador si está activa o use otra SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Este módem no puede enviar códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>No tiene USSD. Elija otro módem o use un teléfono para los códigos.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Este estado forma parte de la demostración.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Un administrador crea el archivo de la primera línea con esta regla y añade su cuenta al grupo netdev. Después, vuelva a iniciar la sesión.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Escriba esto en un terminal, con la contraseña de un administrador. Si indica que el servicio no existe, instale antes el paquete modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Escriba esto en un terminal, con la contraseña de un administrador.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>El PUK es un número de 8 cifras que desbloquea una SIM tras demasiados PIN incorrectos. Está en la tarjeta en la que venía la SIM, y su operador puede indicárselo. Tras diez PUK incorrectos, la SIM queda inservible.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>Quedan %1 intentos</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>Queda 1 intento</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Introducir el PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Encender</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Buscar de nuevo</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Elegir un módem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Cómo permitirlo</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Cómo iniciarlo</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>¿Qué es un PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Probar la demostración</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Usar mi módem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>Finalizarla</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Elegir operador</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Escribir un código</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>¿Finalizar la sesión del otro programa? Quizá esté comprando algo.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Finalizar la sesión</translation>
     </message>
 </context>
 </TS>

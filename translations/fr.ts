@@ -832,11 +832,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Essais restants : %1.</translation>
+        <translation>Il reste %1 essais.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>C’est le dernier essai : un autre code erroné bloque la carte SIM, et seul le code PUK la débloque.</translation>
+        <translation>Il reste un essai. Après un autre PIN erroné, la SIM demande son PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -844,7 +844,7 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Ce n’était pas le code PIN. Veuillez réessayer.</translation>
+        <translation>Ce n’était pas le PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1160,6 +1160,270 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>PAID_DETECT</source>
         <translation>&amp;Déterminer si la carte SIM est prépayée ou postpayée (envoie un code)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>Les codes de votre opérateur sont inconnus</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Choisissez votre opérateur : ses codes de solde et de recharge apparaîtront ici. Vous pouvez saisir des codes sans cela.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>En attente de son tour</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Une autre fenêtre interroge le réseau.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Un autre programme utilise des codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Des codes pourront être envoyés quand il aura terminé. Il est peut-être en train d’acheter quelque chose.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Recherche d’un modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Cela prend un instant.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Aucun modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Branchez un modem ou allumez-le. Cette page s’active d’elle-même.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 n’est pas branché</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>Le modem choisi n’est pas branché</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Branchez-le ou choisissez un autre modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Le modem a été retiré</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Rebranchez-le. Cette page s’active d’elle-même.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>Le modem ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager l’a abandonné. Débranchez-le puis rebranchez-le. Le journal de ModemManager en donne la raison.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>Le bus de messages ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>Le D-Bus du système est inaccessible, aucun modem n’est donc trouvé.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>Le service des modems ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager n’est pas installé ou a été arrêté.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>Le service des modems ne répond pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager fonctionne mais ne répond pas. Attendez un instant ou redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Non autorisé</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Cet ordinateur ne vous laisse pas utiliser son modem. Son administrateur peut l’autoriser pour votre compte.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Aucune SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Insérez une SIM dans le modem. Certains modems doivent être éteints pour cela.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>La SIM est verrouillée</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Saisissez son PIN pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>La SIM demande son PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Trop de PIN erronés. Déverrouillez-la dans un téléphone avec le PUK de votre opérateur, puis remettez-la.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>Le modem est éteint</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Allumez-le pour l’utiliser. Il lui faut un instant pour trouver son réseau.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Recherche d’un réseau</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Cela peut prendre une minute. Des codes pourront être envoyés dès que le réseau sera trouvé.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>Le réseau n’accepte pas cette SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Demandez à votre opérateur si elle est active, ou utilisez une autre SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Ce modem ne peut pas envoyer de codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>Il n’a pas l’USSD. Choisissez un autre modem, ou utilisez un téléphone pour les codes.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Cet état fait partie de la démonstration.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Un administrateur crée le fichier de la première ligne avec cette règle et ajoute votre compte au groupe netdev. Reconnectez-vous ensuite.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Saisissez ceci dans un terminal, avec le mot de passe d’un administrateur. Si le service n’existe pas, installez d’abord le paquet modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Saisissez ceci dans un terminal, avec le mot de passe d’un administrateur.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>Le PUK est un numéro de 8 chiffres qui déverrouille une SIM après trop de PIN erronés. Il figure sur la carte qui contenait la SIM, et votre opérateur peut le donner. Après dix PUK erronés, la SIM est inutilisable.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>%1 essais restants</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>1 essai restant</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Saisir le PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Allumer</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Chercher à nouveau</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Choisir un modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Comment l’autoriser</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Comment le démarrer</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>Qu’est-ce qu’un PUK ?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Essayer la démonstration</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Utiliser mon modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>La terminer</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Choisir l’opérateur</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Saisir un code</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>Terminer la session de l’autre programme ? Il est peut-être en train d’acheter quelque chose.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Terminer la session</translation>
     </message>
 </context>
 </TS>

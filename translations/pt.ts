@@ -832,11 +832,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Tentativas restantes: %1.</translation>
+        <translation>Restam %1 tentativas.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>É a última tentativa: outro PIN errado bloqueia o cartão SIM, e só o PUK o desbloqueia.</translation>
+        <translation>Resta uma tentativa. Depois de outro PIN errado, o SIM precisa do PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -844,7 +844,7 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Esse não era o PIN. Tente novamente.</translation>
+        <translation>Esse não era o PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1160,6 +1160,270 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>PAID_DETECT</source>
         <translation>De&amp;scobrir se o SIM é pré-pago ou pós-pago (envia um código)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Envie um código ou escolha um abaixo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>Não conhecemos os códigos da sua operadora</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Escolha a sua operadora, e os códigos de saldo e recarga aparecem aqui. Pode digitar códigos sem isso.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>À espera da vez</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Outra janela está a perguntar.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Outro programa está a usar códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Os códigos podem ser enviados quando ele terminar. Talvez esteja a comprar algo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>À procura de um modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Isto demora um momento.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Sem modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Ligue um modem ou acenda-o. Esta página ativa-se sozinha.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 não está ligado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>O modem escolhido não está ligado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Ligue-o ou escolha outro modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>O modem foi retirado</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Ligue-o de novo. Esta página ativa-se sozinha.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>O modem não funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>O ModemManager desistiu dele. Desligue-o e ligue-o de novo. O registo do ModemManager indica o motivo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>O barramento de mensagens não está a funcionar</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>O D-Bus do sistema não está acessível, por isso nenhum modem é encontrado.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>O serviço de modem não está a funcionar</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>O ModemManager não está instalado ou foi parado.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>O serviço de modem não responde</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>O ModemManager está a funcionar mas não responde. Aguarde um momento ou reinicie-o.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Não permitido</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Este computador não lhe permite usar o modem. O administrador pode autorizar a sua conta.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Sem SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Coloque um SIM no modem. Alguns modems têm de estar desligados para isso.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>O SIM está bloqueado</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Introduza o PIN para o usar.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>O SIM precisa do PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Demasiados PIN errados. Desbloqueie-o num telefone com o PUK da sua operadora e volte a colocá-lo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>O modem está desligado</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Ligue-o para o usar. Precisa de um momento para encontrar a rede.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>À procura de uma rede</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Pode demorar um minuto. Os códigos podem ser enviados assim que a rede for encontrada.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>A rede não aceita este SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Pergunte à sua operadora se está ativo ou use outro SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Este modem não pode enviar códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>Não tem USSD. Escolha outro modem ou use um telefone para os códigos.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Este estado faz parte da demonstração.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Um administrador cria o ficheiro da primeira linha com esta regra e adiciona a sua conta ao grupo netdev. Depois, inicie a sessão de novo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Digite isto num terminal, com a palavra-passe de um administrador. Se o serviço não existir, instale primeiro o pacote modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Digite isto num terminal, com a palavra-passe de um administrador.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>O PUK é um número de 8 algarismos que desbloqueia um SIM depois de demasiados PIN errados. Está no cartão em que o SIM veio, e a sua operadora pode indicá-lo. Depois de dez PUK errados, o SIM fica inutilizável.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>Restam %1 tentativas</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>Resta 1 tentativa</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Introduzir o PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Ligar</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Procurar de novo</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Escolher um modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Como permitir</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Como iniciar</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>O que é um PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Experimentar a demonstração</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Usar o meu modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>Terminá-la</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Escolher a operadora</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Digitar um código</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>Terminar a sessão do outro programa? Talvez esteja a comprar algo.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Terminar a sessão</translation>
     </message>
 </context>
 </TS>

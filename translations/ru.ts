@@ -834,7 +834,7 @@
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>Это последняя попытка: после ещё одной ошибки SIM-карта блокируется, и её разблокирует только PUK.</translation>
+        <translation>Осталась одна попытка. После ещё одного неверного PIN для SIM понадобится PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -842,7 +842,7 @@
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>PIN-код неверен. Попробуйте ещё раз.</translation>
+        <translation>Это был не тот PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1158,6 +1158,270 @@
     <message>
         <source>PAID_DETECT</source>
         <translation>&amp;Узнать, предоплата или постоплата у SIM-карты (отправляет код)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Отправьте код или выберите его ниже.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>Коды вашего оператора неизвестны</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Выберите оператора, и здесь появятся его коды баланса и пополнения. Вводить коды можно и без этого.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>Ожидание очереди</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Другое окно ждёт ответа.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Коды использует другая программа</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Коды можно будет отправлять, когда она закончит. Возможно, она что-то покупает.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Поиск модема</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Это займёт немного времени.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Нет модема</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Подключите модем или включите его. Страница оживёт сама.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 не подключён</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>Выбранный модем не подключён</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Подключите его или выберите другой модем.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Модем отключён</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Подключите его снова. Страница оживёт сама.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>Модем не работает</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager отказался от него. Отключите и снова подключите его. Причина указана в журнале ModemManager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>Шина сообщений не запущена</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>Системная шина D-Bus недоступна, поэтому модем не найден.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>Служба модемов не запущена</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager не установлен или остановлен.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>Служба модемов не отвечает</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager запущен, но не отвечает. Подождите немного или перезапустите его.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Нет разрешения</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Этот компьютер не разрешает вам использовать модем. Администратор может разрешить это для вашей учётной записи.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Нет SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Вставьте SIM в модем. Некоторые модемы нужно для этого выключить.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>SIM заблокирована</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Введите её PIN, чтобы пользоваться ею.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>Для SIM нужен PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Слишком много неверных PIN. Разблокируйте её в телефоне с помощью PUK от оператора и верните на место.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>Модем выключен</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Включите его, чтобы пользоваться им. Ему нужно немного времени, чтобы найти сеть.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Поиск сети</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Это может занять минуту. Коды можно будет отправлять, как только сеть найдена.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>Сеть не принимает эту SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Узнайте у оператора, активна ли она, или используйте другую SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Этот модем не может отправлять коды</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>В нём нет USSD. Выберите другой модем или отправляйте коды с телефона.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Это состояние относится к демонстрации.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Администратор создаёт файл, указанный в первой строке, с этим правилом и добавляет вашу учётную запись в группу netdev. Затем войдите в систему снова.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Введите это в терминале с паролем администратора. Если такой службы нет, сначала установите пакет modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Введите это в терминале с паролем администратора.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>PUK — это номер из 8 цифр, который разблокирует SIM после слишком многих неверных PIN. Он указан на карте, в которой была SIM, его может сообщить оператор. После десяти неверных PUK SIM становится непригодной.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>Осталось попыток: %1</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>Осталась 1 попытка</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Ввести PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Включить</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Искать снова</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Выбрать модем</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Как это разрешить</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Как запустить</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>Что такое PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Попробовать демонстрацию</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Использовать мой модем</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>Завершить</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Выбрать оператора</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Ввести код</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Скопировано</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>Завершить сеанс другой программы? Возможно, она что-то покупает.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Завершить сеанс</translation>
     </message>
 </context>
 </TS>

@@ -828,11 +828,11 @@
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>剩余尝试次数：%1。</translation>
+        <translation>还可尝试 %1 次。</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>这是最后一次机会：再输错 SIM 卡将被锁死，只有 PUK 码才能解锁。</translation>
+        <translation>还可尝试一次。PIN 再输错一次，SIM 卡就需要 PUK。</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -840,7 +840,7 @@
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>PIN 码不对。请重试。</translation>
+        <translation>PIN 不正确。</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
@@ -1156,6 +1156,270 @@
     <message>
         <source>PAID_DETECT</source>
         <translation>查明 SIM 卡是预付费还是后付费（会发送代码）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>发送代码，或在下面选择一个。</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>尚不知道您的运营商的代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>选择您的运营商后，余额和充值代码会显示在这里。不选择也可以输入代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>正在排队</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>另一个窗口正在查询。</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>另一个程序正在使用代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>它结束后即可发送代码。它可能正在购买服务。</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>正在查找调制解调器</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>这需要片刻。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>没有调制解调器</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>请连接或打开调制解调器。此页面会自动更新。</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 未连接</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>所选调制解调器未连接</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>请连接它，或选择其他调制解调器。</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>调制解调器已移除</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>请重新连接。此页面会自动更新。</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>调制解调器无法工作</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager 已放弃它。请拔下后重新连接。原因见 ModemManager 的日志。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>消息总线未运行</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>无法连接系统的 D-Bus，因此找不到调制解调器。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>调制解调器服务未运行</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager 未安装或已停止。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>调制解调器服务没有响应</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager 正在运行但没有响应。请稍候或重新启动它。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>此计算机不允许您使用其调制解调器。管理员可以为您的帐户授权。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>没有 SIM 卡</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>请将 SIM 卡插入调制解调器。有些调制解调器需要先关机。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>SIM 卡已锁定</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>输入 PIN 后即可使用。</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>SIM 卡需要 PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>PIN 输错次数过多。请在手机中用运营商提供的 PUK 解锁，然后放回。</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>调制解调器已关闭</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>打开后即可使用。它需要片刻来查找网络。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>正在查找网络</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>这可能需要一分钟。找到网络后即可发送代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>网络不接受此 SIM 卡</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>请向运营商确认它是否已激活，或使用其他 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>此调制解调器无法发送代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>它不支持 USSD。请选择其他调制解调器，或用手机发送代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>此状态属于演示。</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>管理员用此规则创建第一行所示的文件，并将您的帐户加入 netdev 组。然后请重新登录。</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>在终端中输入此命令，并输入管理员密码。如果没有该服务，请先安装软件包 modemmanager。</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>在终端中输入此命令，并输入管理员密码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>PUK 是一个 8 位号码，用于在多次输错 PIN 后解锁 SIM 卡。它印在 SIM 卡的卡托上，运营商也可以提供。输错十次 PUK 后，SIM 卡将无法使用。</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>还可尝试 %1 次</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>还可尝试 1 次</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>输入 PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>重新查找</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>选择调制解调器</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>如何允许</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>如何启动</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>什么是 PUK？</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>试用演示</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>使用我的调制解调器</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>结束它</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>选择运营商</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>输入代码</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>结束另一个程序的会话？它可能正在购买服务。</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>结束会话</translation>
     </message>
 </context>
 </TS>

@@ -146,8 +146,8 @@ void PinDialogTest::theLastTryIsWarnedOf()
     tell(modemInfo(TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_WRONG_PIN, 1));
     const QLabel *tries = part<QLabel>("Dashboard_PinTries");
     QVERIFY(tries->isVisible());
-    QVERIFY(tries->text().contains(QLatin1String("last try")));
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("last try")));
+    QVERIFY(tries->text().contains(QLatin1String("One try is left")));
+    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("One try is left")));
 }
 
 void PinDialogTest::thePukEndsTheTrying()
