@@ -1424,5 +1424,209 @@
         <source>REMEDY_END_SESSION</source>
         <translation>إنهاء الجلسة</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>تتعذر الكتابة في %1. ستُفقد الرسائل الجديدة عند انتهاء البرنامج.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>كان ملف الرسائل تالفًا. اسمه الآن %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>يتعذر حذف %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>الرسائل</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>تعليم الكل كمقروء</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>البحث في الرسائل</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>غير مقروءة %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>غير مقروءة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>منتظرة %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>منتظرة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>أمس</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1، %2 · من الشبكة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>تنتظر إجابتك</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>غير مقروءة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>أو اكتب إجابة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>اكتب إجابة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>إرسال</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>قد تكلّف الإجابة مالًا. الإنهاء يخبر الشبكة بأنك لا تريد شيئًا.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>إنهاء دون إجابة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>هناك رمز آخر قيد الإرسال.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>نسخ الرسالة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>حذف الرسالة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>لا توجد رسائل بعد</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>تظهر هنا الرسائل التي ترسلها الشبكة من تلقاء نفسها.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>لم يُعثر على رسائل</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>اختر رسالة لقراءتها.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>رسائل الشبكة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>نص الرسالة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>رسالة من %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>رسالة من الشبكة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>تنتظر إجابتك.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>لديك رسالة جديدة.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>قراءة</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>لا تزال هناك قائمة مفتوحة في الشبكة، لكن نصها لم يعد معروفًا. أجب عنها أو أنهِها.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>رصيدك %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>الخدمات</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>باقات وخيارات %1. تُفتح كل خدمة في نافذة الخدمات التي تعرض ما تفعله قبل إرسال أي شيء.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>باقات وخيارات مشغّل شبكتك. تُفتح كل خدمة في نافذة الخدمات التي تعرض ما تفعله قبل إرسال أي شيء.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>بالرمز</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>برسالة نصية</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>إلى %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>تطلب رقمًا</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>ليس لمشغّل شبكتك خدمات هنا.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>الشبكة تنتظر إجابتك</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>اختر أو اكتب الإجابة أدناه.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>اكتب إجابتك أدناه.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>لاحقًا</translation>
+    </message>
 </context>
 </TS>

@@ -1425,5 +1425,209 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <source>REMEDY_END_SESSION</source>
         <translation>Sitzung beenden</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>%1 kann nicht geschrieben werden. Neue Nachrichten gehen verloren, wenn das Programm endet.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>Die Datei mit den Nachrichten war beschädigt. Sie heißt jetzt %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>%1 kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Alle als gelesen markieren</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Nachrichten durchsuchen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Ungelesen %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Ungelesen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>Wartend %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>Wartend</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Gestern</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · vom Netz</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Wartet auf Ihre Antwort</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Ungelesen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Oder Antwort eintippen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Antwort eintippen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Antworten kann Geld kosten. Mit dem Beenden erfährt das Netz, dass Sie nichts möchten.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Ohne Antwort beenden</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Ein anderer Code ist unterwegs.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Nachricht kopieren</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Nachricht löschen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Noch keine Nachrichten</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Nachrichten, die das Netz von sich aus sendet, erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Keine Nachricht gefunden</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Wählen Sie eine Nachricht, um sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Nachrichten des Netzes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Text der Nachricht</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Nachricht von %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Nachricht vom Netz</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Sie wartet auf Ihre Antwort.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Sie haben eine neue Nachricht.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Im Netz ist noch ein Menü offen, sein Text ist aber nicht mehr bekannt. Antworten Sie oder beenden Sie es.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Ihr Guthaben beträgt %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Dienste</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Pakete und Schalter von %1. Jeder Dienst öffnet sich im Fenster der Dienste. Es zeigt, was er tut, bevor etwas gesendet wird.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Pakete und Schalter Ihres Anbieters. Jeder Dienst öffnet sich im Fenster der Dienste. Es zeigt, was er tut, bevor etwas gesendet wird.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Per Code</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Per SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>an %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>fragt nach einer Nummer</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Ihr Anbieter hat hier keine Dienste.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>Das Netz wartet auf Ihre Antwort</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Wählen Sie oder tippen Sie die Antwort unten ein.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Tippen Sie Ihre Antwort unten ein.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Später</translation>
+    </message>
 </context>
 </TS>

@@ -1424,5 +1424,209 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <source>REMEDY_END_SESSION</source>
         <translation>End the session</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>%1 cannot be written. New messages are lost when the program ends.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>The file with the messages was damaged. It is now called %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>%1 cannot be deleted.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Mark all read</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Search messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Unread %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Unread</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>Waiting %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Yesterday</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · from the network</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Waits for your answer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Unread</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Or type an answer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Type an answer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Answering may cost money. Ending it tells the network that you want nothing.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>End without an answer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Another code is on its way.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copy the message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Delete the message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>No messages yet</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Messages that the network sends by itself appear here.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>No message found</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Choose a message to read it.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Messages of the network</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Text of the message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Message from %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Message from the network</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>It waits for your answer.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>You have a new message.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Read</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>A menu is still open in the network, but its text is not known any more. Answer it, or end it.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Your balance is %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Packs and switches of %1. Each opens in the services window, which shows what it does before anything is sent.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Packs and switches of your operator. Each opens in the services window, which shows what it does before anything is sent.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>By code</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>By text message</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>to %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>asks for a number</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Your operator has no services here.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>The network waits for your answer</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Choose one, or type the answer below.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Type your answer below.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Later</translation>
+    </message>
 </context>
 </TS>

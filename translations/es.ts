@@ -1424,5 +1424,209 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <source>REMEDY_END_SESSION</source>
         <translation>Finalizar la sesión</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>No se puede escribir %1. Los mensajes nuevos se perderán al cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>El archivo de los mensajes estaba dañado. Ahora se llama %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>No se puede eliminar %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Marcar todo como leído</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Buscar mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>No leídos %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>No leídos</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>En espera %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Ayer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · de la red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Espera su respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>No leído</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>O escriba una respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Escriba una respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Responder puede costar dinero. Al terminar, la red sabe que no quiere nada.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Terminar sin responder</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Hay otro código en curso.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copiar el mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Eliminar el mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Aún no hay mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Aquí aparecen los mensajes que la red envía por sí misma.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Ningún mensaje encontrado</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Elija un mensaje para leerlo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Texto del mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Mensaje de %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Mensaje de la red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Espera su respuesta.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Tiene un mensaje nuevo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Sigue abierto un menú en la red, pero ya no se conoce su texto. Respóndalo o termínelo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Su saldo es de %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Paquetes y ajustes de %1. Cada uno se abre en la ventana de servicios, que muestra lo que hace antes de enviar nada.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Paquetes y ajustes de su operador. Cada uno se abre en la ventana de servicios, que muestra lo que hace antes de enviar nada.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Por código</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Por SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>a %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>pide un número</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Su operador no tiene servicios aquí.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>La red espera su respuesta</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Elija una o escriba la respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Escriba su respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Más tarde</translation>
+    </message>
 </context>
 </TS>

@@ -1425,5 +1425,209 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <source>REMEDY_END_SESSION</source>
         <translation>Terminer la session</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>%1 ne peut pas être écrit. Les nouveaux messages seront perdus à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>Le fichier des messages était endommagé. Il s’appelle maintenant %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>%1 ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Tout marquer comme lu</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Non lus %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Non lus</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>En attente %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · du réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Attend votre réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Non lu</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Ou saisissez une réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Saisissez une réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Répondre peut être payant. Terminer indique au réseau que vous ne voulez rien.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Terminer sans répondre</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Un autre code est en cours.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copier le message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Supprimer le message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Pas encore de messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Les messages que le réseau envoie de lui-même apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Aucun message trouvé</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Choisissez un message pour le lire.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Messages du réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Texte du message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Message de %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Message du réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Il attend votre réponse.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Vous avez un nouveau message.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Un menu est encore ouvert dans le réseau, mais son texte n’est plus connu. Répondez-y ou terminez-le.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Votre solde est de %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Forfaits et réglages de %1. Chacun s’ouvre dans la fenêtre des services, qui montre ce qu’il fait avant tout envoi.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Forfaits et réglages de votre opérateur. Chacun s’ouvre dans la fenêtre des services, qui montre ce qu’il fait avant tout envoi.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Par code</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Par SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>au %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>demande un numéro</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Votre opérateur n’a pas de services ici.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>Le réseau attend votre réponse</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Choisissez ou saisissez la réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Saisissez votre réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Plus tard</translation>
+    </message>
 </context>
 </TS>

@@ -1425,5 +1425,209 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <source>REMEDY_END_SESSION</source>
         <translation>Terminar a sessão</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>Não é possível escrever %1. As mensagens novas perdem-se quando o programa termina.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>O ficheiro das mensagens estava danificado. Agora chama-se %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>Não é possível eliminar %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Mensagens</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Marcar tudo como lido</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Procurar mensagens</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Por ler %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Por ler</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>À espera %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>À espera</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Hoje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Ontem</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · da rede</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Espera a sua resposta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Por ler</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Ou digite uma resposta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Digite uma resposta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Responder pode custar dinheiro. Terminar diz à rede que não quer nada.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Terminar sem responder</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Há outro código a caminho.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copiar a mensagem</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Eliminar a mensagem</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Ainda sem mensagens</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Aqui aparecem as mensagens que a rede envia por si.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Nenhuma mensagem encontrada</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Escolha uma mensagem para a ler.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Mensagens da rede</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Texto da mensagem</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Mensagem de %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Mensagem da rede</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Espera a sua resposta.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Tem uma mensagem nova.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Ler</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Ainda há um menu aberto na rede, mas o seu texto já não é conhecido. Responda ou termine-o.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>O seu saldo é %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Serviços</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Pacotes e opções de %1. Cada um abre na janela de serviços, que mostra o que faz antes de enviar algo.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Pacotes e opções da sua operadora. Cada um abre na janela de serviços, que mostra o que faz antes de enviar algo.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Por código</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Por SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>para %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>pede um número</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>A sua operadora não tem serviços aqui.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>A rede espera a sua resposta</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Escolha uma ou digite a resposta abaixo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Digite a sua resposta abaixo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Mais tarde</translation>
+    </message>
 </context>
 </TS>

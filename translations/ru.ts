@@ -1423,5 +1423,209 @@
         <source>REMEDY_END_SESSION</source>
         <translation>Завершить сеанс</translation>
     </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>Не удаётся записать %1. Новые сообщения пропадут, когда программа завершится.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>Файл с сообщениями был повреждён. Теперь он называется %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>Не удаётся удалить %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Сообщения</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Отметить все прочитанными</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Поиск сообщений</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Новые %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Новые</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>Ждут %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>Ждут</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Вчера</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · от сети</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Ждёт вашего ответа</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Не прочитано</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Или введите ответ</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Введите ответ</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Отправить</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Ответ может стоить денег. Если завершить, сеть узнает, что вам ничего не нужно.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Завершить без ответа</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BUSY</source>
+        <translation>Отправляется другой код.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Скопировать сообщение</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Удалить сообщение</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Сообщений пока нет</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Здесь появляются сообщения, которые сеть присылает сама.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Сообщения не найдены</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Выберите сообщение, чтобы прочитать его.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Сообщения сети</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Текст сообщения</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Сообщение от %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM_NETWORK</source>
+        <translation>Сообщение от сети</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Оно ждёт вашего ответа.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>У вас новое сообщение.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Прочитать</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>В сети ещё открыто меню, но его текст больше не известен. Ответьте на него или завершите его.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Ваш баланс: %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Услуги</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Пакеты и переключатели %1. Каждый открывается в окне услуг, которое показывает его действие до отправки.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Пакеты и переключатели вашего оператора. Каждый открывается в окне услуг, которое показывает его действие до отправки.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>По коду</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>По SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>на %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>запрашивает номер</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>У вашего оператора здесь нет услуг.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>Сеть ждёт вашего ответа</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Выберите вариант или введите ответ ниже.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Введите ответ ниже.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Позже</translation>
+    </message>
 </context>
 </TS>
