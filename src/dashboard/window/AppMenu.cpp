@@ -60,7 +60,8 @@ QAction *AppMenu::addWindow(const char *objectName, int paidType)
 {
     QAction *action = addAction(QString());
     action->setObjectName(QLatin1String(objectName));
-    connect(action, &QAction::triggered, this, [this, paidType] { emit windowRequested(paidType); });
+    connect(action, &QAction::triggered, this,
+            [this, paidType] { emit windowRequested(paidType); });
     return action;
 }
 

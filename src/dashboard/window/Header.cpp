@@ -36,9 +36,9 @@ Header::Header(QWidget *parent)
     : QFrame(parent), m_grid(new QGridLayout(this)),
       m_operator(named(new ElidedLabel(this), "Dashboard_Operator")),
       m_chip(named(new Chip(this), "Dashboard_PaidType")),
-      m_kind(named(makeLabel("cap", this), "Dashboard_PaidTypeWord")),
-      m_bars(new SignalBars(this)), m_signal(named(makeLabel("small", this), "Dashboard_Signal")),
-      m_simIcon(new IconView(this)), m_sim(named(makeLabel("small", this), "Dashboard_Sim")),
+      m_kind(named(makeLabel("cap", this), "Dashboard_PaidTypeWord")), m_bars(new SignalBars(this)),
+      m_signal(named(makeLabel("small", this), "Dashboard_Signal")), m_simIcon(new IconView(this)),
+      m_sim(named(makeLabel("small", this), "Dashboard_Sim")),
       m_eye(named(makeIconButton("eye", this), "Dashboard_ShowNumber")),
       m_bell(named(makeIconButton("bell", this), "Dashboard_Bell")),
       m_menu(named(makeIconButton("more", this), "Dashboard_Menu")), m_dot(new StatusDot(m_menu))
@@ -191,8 +191,9 @@ void Header::setUnread(int count)
 void Header::retranslate()
 {
     const QString messages = dashboardText("NAV_MESSAGES");
-    setIconButtonText(m_bell, m_unread > 0 ? dashboardText("HEADER_UNREAD").arg(messages).arg(m_unread)
-                                           : messages);
+    setIconButtonText(m_bell, m_unread > 0
+                                  ? dashboardText("HEADER_UNREAD").arg(messages).arg(m_unread)
+                                  : messages);
     setIconButtonText(m_menu, dashboardText("HEADER_MENU"));
     showContent(m_content);
 }

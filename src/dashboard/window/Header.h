@@ -18,8 +18,8 @@ struct DeviceStatus;
 
 /** What the header shows. */
 struct HeaderContent {
-    QString title;       // the operator, or the title of the situation
-    QString chip;        // the type of contract or "Demonstration"; may be empty
+    QString title; // the operator, or the title of the situation
+    QString chip;  // the type of contract or "Demonstration"; may be empty
     bool isDemonstration = false;
     int signalPercent = -1;
     QString simNumber; // empty if it is unknown

@@ -183,8 +183,8 @@ void Navigation::setUnread(int count)
         messages->setBadge(QString::number(MOST_UNREAD) + QLatin1Char('+'));
     else
         messages->setBadge(QString::number(count));
-    messages->setAccessibleDescription(
-        count > 0 ? dashboardText("NAV_UNREAD").arg(count) : QString());
+    messages->setAccessibleDescription(count > 0 ? dashboardText("NAV_UNREAD").arg(count)
+                                                 : QString());
 }
 
 void Navigation::retranslate()

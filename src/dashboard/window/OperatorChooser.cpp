@@ -104,8 +104,8 @@ void OperatorChooser::choose()
         const bool isOperator = m_dialog->choosesOperator();
         const Provider provider = m_dialog->provider();
         // Called after the dialog has been closed.
-        QTimer::singleShot(
-            0, this, [this, isOperator, provider] { useChosen(isOperator, provider); });
+        QTimer::singleShot(0, this,
+                           [this, isOperator, provider] { useChosen(isOperator, provider); });
     });
     m_dialog->show();
     CommonUtils::MoveCentre(m_dialog);
