@@ -807,11 +807,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>رمز PIN لبطاقة SIM</translation>
+        <translation>أدخل PIN الخاص بـSIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>بطاقة SIM مقفلة. رمز PIN من 4 إلى 8 أرقام، ولا يُحفظ.</translation>
+        <translation>من 4 إلى 8 خانات. يُرسل إلى SIM ولا يُحفظ.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>تعذّر إرسال الرمز إلى بطاقة SIM. حاول مرة أخرى.</translation>
+        <translation>تعذر إرسال PIN إلى SIM. حاول مجددًا.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>لم تجب بطاقة SIM في الوقت المحدد. حاول مرة أخرى.</translation>
+        <translation>لم تستجب SIM في الوقت المناسب. حاول مجددًا.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1123,6 +1123,294 @@
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>آخر رسالة من الشبكة: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>لم تفتح الشبكة أي قائمة. لم يُرسل شيء آخر.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>لم تعد القائمة تعرض «%1» على المفتاح %2. لم يُرسل شيء آخر.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>توقف %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>اسم المسار:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>حفظ هذا المسار…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>شحن الرصيد</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>رموز للإرسال</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>يتعذر حفظ سجل الرموز: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>أمس %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>اليوم %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>كتابة الرمز</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>الرقم أو رمز PIN لـ %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>الرقم</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>لم يُرسل أي رمز بعد</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>حذف السجل</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>لا تُحفظ الأرقام ورموز PIN</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 خيارات أخرى</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>حالة الرموز</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>العودة إلى 4G فقط</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>السماح بـ 2G و3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>تتعذر الكتابة في %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>ملفات نصية</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>إغلاق البحث</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>المزيد</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>حفظ النص…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>البحث في النص</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>نسخ الرد</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>ماذا حدث</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>إرسال مجددًا</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>إنهاء القائمة</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>الرموز في نافذة</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>تعذرت قراءة الرد على %1</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>ردت الشبكة دون نص.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>لا نص في الرد على %1</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>أوقفت %1. لم يُرسل.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>أوقفت %1. ربما نفذته الشبكة مع ذلك.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>أُلغي</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>المودم ليس جاهزًا.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>لم يُرسل %1</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>اختفى المودم. لا يُعرف هل نفذته الشبكة.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>انقطع %1</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>لا تعرف الشبكة هذا الرمز، أو أنه ليس لعقدك.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>رُفض %1</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>لم ترد الشبكة خلال 30 ثانية. ربما نفذت الرمز مع ذلك.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>لا رد على %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>أُبلغت الشبكة بذلك.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>انتهت القائمة</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>اكتب ردك أدناه.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>اختر أو اكتب أدناه.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>اختر ردًا أو اكتبه أدناه.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>القائمة مفتوحة</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>الشبكة تنتظر ردك</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>برنامج آخر يستخدم المودم.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>نافذة أخرى تستعلم الآن.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>في انتظار دوره</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>تصل معظم الردود خلال 10 ثوانٍ. الإلغاء يحرر المودم فورًا.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 من %2 ثانية</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>في انتظار الرد على %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>أرسل رمزًا.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>أرسل رمزًا أو اختر واحدًا أدناه.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>جاهز</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1627,6 +1915,22 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>إظهار PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>كان ملف الأرصدة تالفًا. حُفظ باسم %1 وأُنشئ ملف جديد.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>تعذّر حفظ الأرصدة في %1. تبقى حتى إغلاق البرنامج.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>كتبت نسخة أحدث من البرنامج الملف %1. تبقى الأرصدة حتى إغلاق البرنامج.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

@@ -808,11 +808,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN der SIM-Karte</translation>
+        <translation>PIN der SIM eingeben</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>Die SIM-Karte ist gesperrt. Ihre PIN hat 4 bis 8 Ziffern; sie wird nicht gespeichert.</translation>
+        <translation>4 bis 8 Ziffern. Sie geht an die SIM und wird nicht aufbewahrt.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Die PIN konnte nicht an die SIM-Karte gesendet werden. Bitte noch einmal versuchen.</translation>
+        <translation>Die PIN konnte nicht an die SIM gesendet werden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>Die SIM-Karte hat nicht rechtzeitig geantwortet. Bitte noch einmal versuchen.</translation>
+        <translation>Die SIM hat nicht rechtzeitig geantwortet. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1124,6 +1124,294 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Letzte Nachricht des Netzes: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>Das Netz hat kein Menü geöffnet. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>Das Menü bietet „%1“ nicht mehr mit Taste %2 an. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 angehalten</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Merken</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Name des Weges:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Diesen Weg merken…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Aufladen</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Codes zum Senden</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Der Verlauf der Codes kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>gestern %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>heute %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Code eintragen</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Nummer oder PIN für %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Noch kein Code gesendet</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Nummern und PINs werden nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 weitere Möglichkeiten</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Zustand der Codes</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Zurück zu nur 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>2G und 3G erlauben</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Textdateien</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Suche schließen</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Verlauf speichern…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Im Verlauf suchen</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Antwort kopieren</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Was ist passiert</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Erneut senden</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Menü beenden</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Codes in einem Fenster</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>Die Antwort auf %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>Das Netz hat ohne Text geantwortet.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>Kein Text in der Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Sie haben %1 abgebrochen. Er wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Sie haben %1 abgebrochen. Das Netz kann ihn trotzdem ausgeführt haben.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>Das Modem ist nicht bereit.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 wurde nicht gesendet</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>Das Modem ist weg. Ob das Netz ihn ausgeführt hat, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 wurde unterbrochen</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>Das Netz kennt diesen Code nicht, oder er gilt nicht für Ihren Vertrag.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 wurde abgelehnt</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>Das Netz hat 30 Sekunden lang nicht geantwortet. Es kann den Code trotzdem ausgeführt haben.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Keine Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Dem Netz wurde es mitgeteilt.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menü beendet</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Tippen Sie Ihre Antwort unten.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Wählen oder unten tippen.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Wählen Sie, oder tippen Sie die Antwort unten.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menü offen</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>Das Netz wartet auf Ihre Antwort</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Ein anderes Programm benutzt das Modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Ein anderes Fenster fragt gerade.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Wartet, bis es an der Reihe ist</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>Die meisten Antworten kommen in 10 Sekunden. Abbrechen gibt das Modem sofort frei.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 von %2 Sekunden</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Warten auf die Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Senden Sie einen Code.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Senden Sie einen Code, oder wählen Sie unten einen.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1628,6 +1916,22 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>QUESTION_LATER</source>
         <translation>Später</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>PIN anzeigen</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Die Datei mit Ihren Guthaben war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Guthaben können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Eine neuere Version des Programms hat %1 geschrieben. Guthaben bleiben bis zum Ende des Programms erhalten.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

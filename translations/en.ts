@@ -807,11 +807,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN of the SIM card</translation>
+        <translation>Enter the PIN of the SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>The SIM card is locked. Its PIN has 4 to 8 digits; it is not stored.</translation>
+        <translation>4 to 8 digits. It goes to the SIM and is not kept.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>The PIN could not be sent to the SIM card. Please try again.</translation>
+        <translation>The PIN could not be sent to the SIM. Try again.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>The SIM card did not answer in time. Please try again.</translation>
+        <translation>The SIM did not answer in time. Try again.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1123,6 +1123,294 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Last message of the network: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>The network opened no menu. Nothing more was sent.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>The menu no longer offers “%1” on key %2. Nothing more was sent.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 stopped</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Keep</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Name of the walk:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Keep this walk…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Top up</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Codes to send</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>The history of codes cannot be kept: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>yesterday %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>today %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Type the code</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Number or PIN for %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>No code was sent yet</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Delete history</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Numbers and PINs are not kept</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 more choices</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>State of the codes</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Back to 4G only</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Allow 2G and 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Text files</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Close the search</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>More</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Save the transcript…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Find in the transcript</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copy the reply</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Dismiss</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>What happened</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Send again</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>End menu</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Codes in a window</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>The reply to %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>The network answered without a text.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>No text in the reply to %1</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>You stopped %1. It was not sent.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>You stopped %1. The network may have carried it out all the same.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Cancelled</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>The modem is not ready.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 was not sent</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>The modem went away. Whether the network carried it out is not known.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 was broken off</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>The network does not know this code, or it is not for your contract.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 was refused</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>The network did not answer within 30 seconds. It may have carried the code out all the same.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>No reply to %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>The network was told.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menu ended</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Type your answer below.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Choose, or type below.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Choose one, or type the answer below.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menu open</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>The network waits for your answer</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Another program is using the modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Another window is asking.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Waiting for its turn</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>Most replies come within 10 seconds. Cancel frees the modem at once.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 of %2 seconds</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Waiting for the reply to %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Send a code.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Send a code, or choose one below.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Ready</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1627,6 +1915,22 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>QUESTION_LATER</source>
         <translation>Later</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Show the PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>The file with your balances was damaged. It is kept as %1, and a new one has been started.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Balances cannot be stored in %1. They are kept until the program ends.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>A later version of the program has written %1. Balances are kept until the program ends.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

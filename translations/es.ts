@@ -807,11 +807,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN de la tarjeta SIM</translation>
+        <translation>Introduzca el PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La tarjeta SIM está bloqueada. Su PIN tiene de 4 a 8 cifras; no se guarda.</translation>
+        <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>No se pudo enviar el PIN a la tarjeta SIM. Inténtelo de nuevo.</translation>
+        <translation>No se pudo enviar el PIN a la SIM. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La tarjeta SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
+        <translation>La SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1123,6 +1123,294 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Último mensaje de la red: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>La red no abrió ningún menú. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>El menú ya no ofrece «%1» en la tecla %2. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 se detuvo</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nombre del recorrido:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Guardar este recorrido…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Códigos para enviar</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>No se puede guardar el historial de códigos: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>ayer %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>hoy %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Escribir el código</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Número o PIN para %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Aún no se ha enviado ningún código</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Borrar historial</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Los números y PIN no se guardan</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 opciones más</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Estado de los códigos</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Volver a solo 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Permitir 2G y 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Guardar la conversación…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Buscar en la conversación</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copiar la respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Qué pasó</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminar menú</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>No se puede leer la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>La red respondió sin texto.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>La respuesta a %1 no tiene texto</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Usted detuvo %1. No se envió.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Usted detuvo %1. Puede que la red lo haya ejecutado de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>El módem no está listo.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 no se envió</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>El módem desapareció. No se sabe si la red lo ejecutó.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 se interrumpió</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>La red no conoce este código, o no es para su contrato.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 fue rechazado</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>La red no respondió en 30 segundos. Puede que haya ejecutado el código de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Sin respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Se ha informado a la red.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menú terminado</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Escriba su respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Elija o escriba abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Elija una opción o escriba la respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menú abierto</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>La red espera su respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Otro programa está usando el módem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Otra ventana está consultando.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Esperando su turno</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>La mayoría de las respuestas llegan en 10 segundos. Cancelar libera el módem al instante.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 de %2 segundos</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Esperando la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envíe un código.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envíe un código o elija uno abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1627,6 +1915,22 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>QUESTION_LATER</source>
         <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar el PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

@@ -808,11 +808,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>Code PIN de la carte SIM</translation>
+        <translation>Saisir le PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La carte SIM est verrouillée. Son code PIN a 4 à 8 chiffres ; il n’est pas conservé.</translation>
+        <translation>4 à 8 chiffres. Il va à la SIM et n’est pas conservé.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Le code PIN n’a pas pu être envoyé à la carte SIM. Veuillez réessayer.</translation>
+        <translation>Le PIN n’a pas pu être envoyé à la SIM. Réessayez.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La carte SIM n’a pas répondu à temps. Veuillez réessayer.</translation>
+        <translation>La SIM n’a pas répondu à temps. Réessayez.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1124,6 +1124,294 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Dernier message du réseau : %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>Le réseau n’a ouvert aucun menu. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>Le menu ne propose plus « %1 » sur la touche %2. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 s’est arrêté</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nom du parcours :</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Garder ce parcours…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Codes à envoyer</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Impossible de conserver l’historique des codes : %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>hier %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>aujourd’hui %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Saisir le code</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Numéro ou PIN pour %1 :</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Aucun code envoyé pour l’instant</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Les numéros et PIN ne sont pas conservés</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 autres choix</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>État des codes</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Revenir à la 4G seule</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Autoriser 2G et 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Fichiers texte</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Fermer la recherche</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Enregistrer l’échange…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Rechercher dans l’échange</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copier la réponse</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Que s’est-il passé</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Renvoyer</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Finir</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminer le menu</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Codes dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>La réponse à %1 est illisible</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>Le réseau a répondu sans texte.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>Réponse à %1 sans texte</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Vous avez arrêté %1. Il n’a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Vous avez arrêté %1. Le réseau l’a peut-être exécuté quand même.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>Le modem n’est pas prêt.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 n’a pas été envoyé</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>Le modem a disparu. On ignore si le réseau l’a exécuté.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 a été interrompu</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>Le réseau ne connaît pas ce code, ou il n’est pas prévu pour votre contrat.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 a été refusé</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>Le réseau n’a pas répondu en 30 secondes. Il a peut-être exécuté le code quand même.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Pas de réponse à %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Le réseau en a été informé.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menu terminé</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Saisissez votre réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Choisissez ou saisissez.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Choisissez, ou saisissez la réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menu ouvert</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>Le réseau attend votre réponse</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Un autre programme utilise le modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Une autre fenêtre interroge le réseau.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>En attente de son tour</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>La plupart des réponses arrivent en 10 secondes. Annuler libère le modem aussitôt.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 sur %2 secondes</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>En attente de la réponse à %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envoyez un code.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1628,6 +1916,22 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>QUESTION_LATER</source>
         <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Afficher le PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Le fichier de vos soldes était endommagé. Il est conservé sous %1 et un nouveau a été créé.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Les soldes ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Une version plus récente du programme a écrit %1. Les soldes sont conservés jusqu’à la fermeture du programme.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

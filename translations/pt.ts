@@ -808,11 +808,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN do cartão SIM</translation>
+        <translation>Introduzir o PIN do SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>O cartão SIM está bloqueado. O PIN tem 4 a 8 algarismos; não é guardado.</translation>
+        <translation>4 a 8 algarismos. Vai para o SIM e não é guardado.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Não foi possível enviar o PIN ao cartão SIM. Tente novamente.</translation>
+        <translation>Não foi possível enviar o PIN ao SIM. Tente de novo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>O cartão SIM não respondeu a tempo. Tente novamente.</translation>
+        <translation>O SIM não respondeu a tempo. Tente de novo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1124,6 +1124,294 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Última mensagem da rede: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>A rede não abriu nenhum menu. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>O menu já não oferece “%1” na tecla %2. Nada mais foi enviado.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 parou</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nome do percurso:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Guardar este percurso…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Carregar</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Códigos para enviar</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Não é possível guardar o histórico de códigos: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>ontem %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>hoje %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Escrever o código</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Número ou PIN para %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Ainda não foi enviado nenhum código</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Apagar histórico</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Os números e PIN não são guardados</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>Mais %1 opções</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Estado dos códigos</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Voltar a só 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Permitir 2G e 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>Não é possível escrever %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Ficheiros de texto</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Fechar a procura</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Seguinte</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Não encontrado</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Mais</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Guardar a conversa…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Procurar na conversa</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copiar a resposta</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>O que aconteceu</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Enviar de novo</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminar menu</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Códigos numa janela</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>Não é possível ler a resposta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>A rede respondeu sem texto.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>A resposta a %1 não tem texto</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Parou %1. Não foi enviado.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Parou %1. A rede pode tê-lo executado mesmo assim.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>O modem não está pronto.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 não foi enviado</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>O modem desapareceu. Não se sabe se a rede o executou.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 foi interrompido</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>A rede não conhece este código, ou ele não é para o seu contrato.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 foi recusado</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>A rede não respondeu em 30 segundos. Pode ter executado o código mesmo assim.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Sem resposta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>A rede foi informada.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menu terminado</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Escreva a sua resposta abaixo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Escolha ou escreva abaixo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Escolha uma opção ou escreva a resposta abaixo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menu aberto</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>A rede espera pela sua resposta</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Outro programa está a usar o modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Outra janela está a consultar.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>À espera da sua vez</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>A maioria das respostas chega em 10 segundos. Cancelar liberta o modem de imediato.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 de %2 segundos</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>À espera da resposta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envie um código.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envie um código ou escolha um abaixo.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1628,6 +1916,22 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>QUESTION_LATER</source>
         <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar o PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>O ficheiro com os seus saldos estava danificado. Fica guardado como %1 e foi criado um novo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Não é possível guardar os saldos em %1. Ficam disponíveis até o programa fechar.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Uma versão mais recente do programa escreveu %1. Os saldos ficam disponíveis até o programa fechar.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

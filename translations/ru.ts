@@ -806,11 +806,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN-код SIM-карты</translation>
+        <translation>Введите PIN для SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>SIM-карта заблокирована. PIN-код состоит из 4–8 цифр и не сохраняется.</translation>
+        <translation>От 4 до 8 цифр. Он передаётся SIM и не сохраняется.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -846,11 +846,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Не удалось передать PIN-код SIM-карте. Попробуйте ещё раз.</translation>
+        <translation>Не удалось передать PIN. Попробуйте ещё раз.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>SIM-карта не ответила вовремя. Попробуйте ещё раз.</translation>
+        <translation>SIM не ответила вовремя. Попробуйте ещё раз.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1122,6 +1122,294 @@
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Последнее сообщение сети: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>Сеть не открыла меню. Больше ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>В меню больше нет «%1» на клавише %2. Больше ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1: остановлено</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Запомнить</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Название пути:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Запомнить этот путь…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Пополнить</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Коды для отправки</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Не удаётся сохранить историю кодов: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>вчера %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>сегодня %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Ввести код</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Номер или PIN для %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Коды ещё не отправлялись</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Удалить историю</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Номера и PIN не сохраняются</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>Ещё вариантов: %1</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Состояние кодов</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Снова только 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Разрешить 2G и 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>Не удаётся записать %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Текстовые файлы</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Закрыть поиск</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Не найдено</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Сохранить переписку…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Найти в переписке</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Скопировать ответ</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Что случилось</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Отправить снова</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Закрыть меню</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Коды в отдельном окне</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>Ответ на %1 не читается</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>Сеть ответила без текста.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>В ответе на %1 нет текста</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Вы остановили %1. Код не отправлен.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Вы остановили %1. Возможно, сеть всё же выполнила код.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Отменено</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>Модем не готов.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1: не отправлено</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>Модем пропал. Выполнила ли сеть код, неизвестно.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1: прервано</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>Сеть не знает этот код, или он не для вашего тарифа.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1: отказано</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>Сеть не ответила за 30 секунд. Возможно, она всё же выполнила код.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Нет ответа на %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Сеть об этом знает.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Меню закрыто</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Введите ответ ниже.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Выберите или введите ниже.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Выберите или введите ответ ниже.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Меню открыто</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>Сеть ждёт вашего ответа</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Модем занят другой программой.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Запрос отправило другое окно.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Ожидание очереди</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>Обычно ответ приходит за 10 секунд. Отмена сразу освобождает модем.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 из %2 секунд</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Ожидание ответа на %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Отправьте код.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Отправьте код или выберите ниже.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Готово</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1626,6 +1914,22 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>Позже</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Показать PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Файл с балансами был повреждён. Он сохранён как %1, создан новый.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Не удаётся сохранить балансы в %1. Они хранятся до закрытия программы.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Файл %1 записан более новой версией программы. Балансы хранятся до закрытия программы.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

@@ -804,11 +804,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>SIM 卡 PIN 码</translation>
+        <translation>输入 SIM 卡的 PIN</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>SIM 卡已锁定。PIN 码为 4 至 8 位数字，不会被保存。</translation>
+        <translation>4 至 8 位数字。只发送给 SIM 卡，不会保存。</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -844,11 +844,11 @@
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>无法将 PIN 码发送到 SIM 卡。请重试。</translation>
+        <translation>无法将 PIN 发送给 SIM 卡。请重试。</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>SIM 卡未及时应答。请重试。</translation>
+        <translation>SIM 卡没有及时响应。请重试。</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1120,6 +1120,294 @@
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>网络的最后一条消息：%1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>网络没有打开菜单。没有再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>菜单的按键 %2 不再是“%1”。没有再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 已停止</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>路径名称：</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>保存此路径…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>充值</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>可发送的代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>无法保存代码历史记录：%1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>昨天 %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>输入代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>%1 的号码或 PIN：</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>号码</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>尚未发送代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>删除历史记录</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>不保存号码和 PIN</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>还有 %1 个选项</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>代码状态</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>恢复仅 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>允许 2G 和 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>文本文件</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>关闭查找</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>保存记录…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>在记录中查找</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>复制回复</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>发生了什么</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>重新发送</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>结束菜单</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>在窗口中打开代码</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>无法读取 %1 的回复</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>网络的回复没有文字。</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>%1 的回复没有文字</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>您停止了 %1。它未发送。</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>您停止了 %1。网络仍可能已执行。</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>调制解调器未就绪。</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 未发送</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>调制解调器已断开。不知道网络是否已执行。</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 已中断</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>网络不认识此代码，或它不适用于您的合约。</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 被拒绝</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>网络在 30 秒内没有回复。它仍可能已执行该代码。</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>%1 没有回复</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>已通知网络。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>菜单已结束</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>请在下方输入答复。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>选择或在下方输入。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>请选择，或在下方输入答复。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>菜单已打开</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>网络正在等待您的答复</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>另一个程序正在使用调制解调器。</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>另一个窗口正在查询。</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>正在排队</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>大多数回复会在 10 秒内到达。取消会立即释放调制解调器。</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>第 %1 秒，共 %2 秒</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>正在等待 %1 的回复</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>发送代码。</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>发送代码，或在下方选择一个。</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>就绪</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1624,6 +1912,22 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>稍后</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>显示 PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>余额文件已损坏。它已保留为 %1，并新建了一个文件。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>无法将余额保存到 %1。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>%1 由更新版本的程序写入。余额将保留到程序关闭。</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>

@@ -15,6 +15,7 @@ namespace
 {
 
 const int BUTTON_ICON = 18; // in pixels, at 100 %
+const int ICON_GAP = 4;     // makes the gap between icon and text larger than that of the style
 const int ICON_BUTTON = 40;
 const char ICON_BUTTON_KIND[] = "iconbtn";
 
@@ -139,7 +140,7 @@ void setButtonIcon(QPushButton *button, const char *iconName, Token token)
     button->setIcon(icon(iconName, token));
     keepUpdated(button, [button] {
         const int side = Look::instance().px(BUTTON_ICON);
-        button->setIconSize(QSize(side, side));
+        button->setIconSize(QSize(side + ICON_GAP, side));
     });
 }
 

@@ -71,6 +71,7 @@ void LabelledButton::setSecondLine(const QString &text)
 {
     m_second = text;
     setAccessibleDescription(text);
+    setStyleProperty(this, "lines", text.isEmpty() ? QLatin1String("1") : QLatin1String("2"));
     updateGeometry();
     update();
 }

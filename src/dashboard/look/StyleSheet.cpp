@@ -54,11 +54,13 @@ QString sheetTemplate()
     return QString::fromUtf8(file.readAll());
 }
 
-void fillInColors(QString *sheet, Shade shade)
+void fillInShade(QString *sheet, Shade shade)
 {
     for (int i = 0; i < TOKEN_COUNT; ++i)
         sheet->replace(QLatin1Char('@') + tokenName(Token(i)) + QLatin1Char('@'),
                        tokenColor(Token(i), shade).name());
+    sheet->replace(QLatin1String("@shade@"),
+                   shade == Shade::Light ? QLatin1String("light") : QLatin1String("dark"));
 }
 
 void fillInSides(QString *sheet, Qt::LayoutDirection direction)
@@ -70,16 +72,18 @@ void fillInSides(QString *sheet, Qt::LayoutDirection direction)
     sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
 }
 
-/// Replaces every "#14px" with the scaled size.
+/// Replaces every "#14px" with the scaled size, and every "#14-1px" with one pixel less. The thick
+/// border of the focus is compensated in this way without a rounding error.
 QString withSizes(const QString &sheet, double scale)
 {
-    static const QRegularExpression size(QLatin1String("#(\\d+)px"));
+    static const QRegularExpression size(QLatin1String("#(\\d+)(?:-(\\d+))?px"));
     QString result;
     int end = 0;
     for (auto hits = size.globalMatch(sheet); hits.hasNext();) {
         const QRegularExpressionMatch hit = hits.next();
         result += sheet.mid(end, hit.capturedStart() - end);
-        result += QString::number(qRound(hit.captured(1).toInt() * scale)) + QLatin1String("px");
+        const int pixels = qRound(hit.captured(1).toInt() * scale) - hit.captured(2).toInt();
+        result += QString::number(pixels) + QLatin1String("px");
         end = int(hit.capturedEnd());
     }
     return result + sheet.mid(end);
@@ -90,7 +94,7 @@ QString withSizes(const QString &sheet, double scale)
 QString styleSheet(Shade shade, Qt::LayoutDirection direction, double scale)
 {
     QString sheet = sheetTemplate();
-    fillInColors(&sheet, shade);
+    fillInShade(&sheet, shade);
     fillInSides(&sheet, direction);
     return withSizes(sheet, scale);
 }
