@@ -2349,5 +2349,13 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <source>CLI_DEVICE_STAYS</source>
         <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält sein Gerät.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>fragt nach einem Text</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Beenden Sie zuerst das Menü.</translation>
+    </message>
 </context>
 </TS>

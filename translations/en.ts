@@ -2348,5 +2348,13 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <source>CLI_DEVICE_STAYS</source>
         <translation>The dashboard already runs. Its window is in front now and keeps its device.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>asks for a text</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>End the menu first.</translation>
+    </message>
 </context>
 </TS>

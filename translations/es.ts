@@ -2348,5 +2348,13 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <source>CLI_DEVICE_STAYS</source>
         <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pide un texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine antes el menú.</translation>
+    </message>
 </context>
 </TS>

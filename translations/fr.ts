@@ -2349,5 +2349,13 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <source>CLI_DEVICE_STAYS</source>
         <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde son appareil.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>demande un texte</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Terminez d’abord le menu.</translation>
+    </message>
 </context>
 </TS>

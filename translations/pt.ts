@@ -2349,5 +2349,13 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <source>CLI_DEVICE_STAYS</source>
         <translation>O painel já está aberto. A sua janela está agora à frente e mantém o dispositivo.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pede um texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine primeiro o menu.</translation>
+    </message>
 </context>
 </TS>

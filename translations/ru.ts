@@ -2347,5 +2347,13 @@
         <source>CLI_DEVICE_STAYS</source>
         <translation>Панель уже запущена. Её окно теперь впереди и сохраняет своё устройство.</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>запрашивает текст</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Сначала завершите меню.</translation>
+    </message>
 </context>
 </TS>

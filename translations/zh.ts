@@ -2345,5 +2345,13 @@
         <source>CLI_DEVICE_STAYS</source>
         <translation>面板已在运行。其窗口现已置于最前，设备保持不变。</translation>
     </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>需要输入文字</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>请先结束菜单。</translation>
+    </message>
 </context>
 </TS>
