@@ -139,6 +139,7 @@ PluginFailure AppController::startWith(const PluginFailure &failure)
 {
     m_ownCodesTime = ownCodesTime();
     m_monitor.forget();
+    warnAboutPaleTranscript();
     emit pluginStarted(failure);
     if (m_plugin->isUsable())
         m_sim.start();
