@@ -33,6 +33,13 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 6, 5 or 4")
 endif()
+# The loader of Qt 4 refuses a library whose build key differs from its own. No Qt 4 has a key that ends
+# with the version of another Qt, so a Qt 4 host never loads a library that requires that Qt.
+set(USSD_PLUGIN_BUILD_KEY "${USSD_QT4_BUILD_KEY}")
+if(NOT USSD_QT_VERSION EQUAL 4)
+    string(APPEND USSD_PLUGIN_BUILD_KEY " qt${USSD_QT_VERSION}")
+endif()
+
 # Forbids implicit conversions between QString and char *, whose encoding differs between Qt 4 and Qt 5.
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)

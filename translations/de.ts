@@ -808,11 +808,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN der SIM-Karte</translation>
+        <translation>PIN der SIM eingeben</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>Die SIM-Karte ist gesperrt. Ihre PIN hat 4 bis 8 Ziffern; sie wird nicht gespeichert.</translation>
+        <translation>4 bis 8 Ziffern. Sie geht an die SIM und wird nicht aufbewahrt.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -848,11 +848,11 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Die PIN konnte nicht an die SIM-Karte gesendet werden. Bitte noch einmal versuchen.</translation>
+        <translation>Die PIN konnte nicht an die SIM gesendet werden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>Die SIM-Karte hat nicht rechtzeitig geantwortet. Bitte noch einmal versuchen.</translation>
+        <translation>Die SIM hat nicht rechtzeitig geantwortet. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1124,6 +1124,294 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Letzte Nachricht des Netzes: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>Das Netz hat kein Menü geöffnet. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>Das Menü bietet „%1“ nicht mehr mit Taste %2 an. Es wurde nichts weiter gesendet.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 angehalten</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Merken</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Name des Weges:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Diesen Weg merken…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Aufladen</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Codes zum Senden</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Der Verlauf der Codes kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>gestern %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>heute %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Code eintragen</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Nummer oder PIN für %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Noch kein Code gesendet</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Nummern und PINs werden nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 weitere Möglichkeiten</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Zustand der Codes</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Zurück zu nur 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>2G und 3G erlauben</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Textdateien</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Suche schließen</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Verlauf speichern…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Im Verlauf suchen</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Antwort kopieren</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Was ist passiert</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Erneut senden</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Menü beenden</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Codes in einem Fenster</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>Die Antwort auf %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>Das Netz hat ohne Text geantwortet.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>Kein Text in der Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Sie haben %1 abgebrochen. Er wurde nicht gesendet.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Sie haben %1 abgebrochen. Das Netz kann ihn trotzdem ausgeführt haben.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>Das Modem ist nicht bereit.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 wurde nicht gesendet</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>Das Modem ist weg. Ob das Netz ihn ausgeführt hat, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 wurde unterbrochen</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>Das Netz kennt diesen Code nicht, oder er gilt nicht für Ihren Vertrag.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 wurde abgelehnt</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>Das Netz hat 30 Sekunden lang nicht geantwortet. Es kann den Code trotzdem ausgeführt haben.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Keine Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Dem Netz wurde es mitgeteilt.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menü beendet</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Tippen Sie Ihre Antwort unten.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Wählen oder unten tippen.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Wählen Sie, oder tippen Sie die Antwort unten.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menü offen</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>Das Netz wartet auf Ihre Antwort</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Ein anderes Programm benutzt das Modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Ein anderes Fenster fragt gerade.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Wartet, bis es an der Reihe ist</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>Die meisten Antworten kommen in 10 Sekunden. Abbrechen gibt das Modem sofort frei.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 von %2 Sekunden</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Warten auf die Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Senden Sie einen Code.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Senden Sie einen Code, oder wählen Sie unten einen.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1628,6 +1916,446 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>QUESTION_LATER</source>
         <translation>Später</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>PIN anzeigen</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Die Datei mit Ihren Guthaben war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Guthaben können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Eine neuere Version des Programms hat %1 geschrieben. Guthaben bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>NAV_TITLE</source>
+        <translation>USSD-Dashboard</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Codes</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Dienste</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 ungelesen</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Anbieter: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Vorführung</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Starkes Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Gutes Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Schwaches Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Kein Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM mit Ende %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>SIM-Nummer zeigen</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>SIM-Nummer verbergen</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 ungelesen</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem bereit</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Kein Modem in Gebrauch</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Wird gesucht</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Alles hier ist erfunden. Kein Modem wird benutzt, und nichts kostet Geld.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Noch keine Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Etwas stimmt nicht</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Ihre eigenen Codes können wiederhergestellt werden</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Ihre Datei ist weg. Es gibt eine Kopie vom %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Ihre Datei ist unvollständig. Es gibt eine Kopie vom %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Kopie löschen</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Codes in einem Fenster</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>&amp;Kontofenster</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>&amp;Kontofenster, Prepaid</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Kontofenster, &amp;Vertrag</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>Codes &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Modem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>USSD-Dashboard %1. Es sendet USSD-Codes über ein Modem und zeigt die Antworten.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privatsphäre</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Gewähltes Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Keine: Sie tippen Codes selbst</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Vertragsart feststellen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Sendet einmal je SIM einen Code. Das kann Geld kosten.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Textgröße</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Nach einem Neustart</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Weniger Bewegung</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Folgt dem System</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Nachrichten aus dem Netz</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Wenn das Fenster nicht vorn ist</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Ihren Text zeigen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Andere können ihn auf dem Bildschirm lesen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Niedriges Guthaben</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Unter %1, nachdem eine Antwort das Guthaben nannte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Nachdem eine Antwort das Guthaben nannte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>SIM-Nummer verbergen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Nur die letzten vier Ziffern werden gezeigt</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Verlauf und Guthaben behalten</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Nur auf diesem Computer, 12 Monate lang</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Alles löschen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Alles löschen…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Guthaben, Nachrichten und gesendete Codes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Alle Guthaben, Nachrichten und gesendeten Codes löschen? Sie lassen sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Drei Schritte, dann sehen Sie hier Ihr Guthaben, senden Codes und kaufen Pakete.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem gefunden</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM bereit</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM mit Ende %1, in einem Netz angemeldet.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Dann die SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Wessen Codes sollen benutzt werden?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Das wählen Sie, sobald die SIM bereit ist.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Ihre SIM passt zu einem Anbieter der Liste. Sie können das jederzeit in den Einstellungen ändern.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Ihre SIM passt zu %1 Anbietern der Liste. Sie können das jederzeit in den Einstellungen ändern.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Kein Anbieter der Liste passt zu Ihrer SIM. Sie können Codes selbst tippen.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Codes: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>Guthaben</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>Aufladen</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>eigene Nummer</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Ohne Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Sie tippen Codes selbst, nichts ist vorgegeben</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>%1 benutzen</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Codes benutzen</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Ohne weiter</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Stattdessen die Vorführung ansehen</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nichts wird an das Netz gesendet, bevor Sie einen Knopf drücken. Codes können Geld kosten.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält sein Gerät.</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>fragt nach einem Text</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Beenden Sie zuerst das Menü.</translation>
     </message>
 </context>
 </TS>

@@ -807,11 +807,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN de la tarjeta SIM</translation>
+        <translation>Introduzca el PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La tarjeta SIM está bloqueada. Su PIN tiene de 4 a 8 cifras; no se guarda.</translation>
+        <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
     </message>
     <message>
         <source>PIN_LABEL</source>
@@ -847,11 +847,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>No se pudo enviar el PIN a la tarjeta SIM. Inténtelo de nuevo.</translation>
+        <translation>No se pudo enviar el PIN a la SIM. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La tarjeta SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
+        <translation>La SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -1123,6 +1123,294 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>FAILURE_CLOSING_TEXT</source>
         <translation>Último mensaje de la red: %1</translation>
+    </message>
+    <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>La red no abrió ningún menú. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>El menú ya no ofrece «%1» en la tecla %2. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 se detuvo</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nombre del recorrido:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Guardar este recorrido…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Códigos para enviar</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>No se puede guardar el historial de códigos: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>ayer %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>hoy %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Escribir el código</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Número o PIN para %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Aún no se ha enviado ningún código</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Borrar historial</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Los números y PIN no se guardan</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 opciones más</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Estado de los códigos</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Volver a solo 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Permitir 2G y 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Guardar la conversación…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Buscar en la conversación</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copiar la respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Qué pasó</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminar menú</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>No se puede leer la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>La red respondió sin texto.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>La respuesta a %1 no tiene texto</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Usted detuvo %1. No se envió.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Usted detuvo %1. Puede que la red lo haya ejecutado de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>El módem no está listo.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 no se envió</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>El módem desapareció. No se sabe si la red lo ejecutó.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 se interrumpió</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>La red no conoce este código, o no es para su contrato.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 fue rechazado</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>La red no respondió en 30 segundos. Puede que haya ejecutado el código de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Sin respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Se ha informado a la red.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menú terminado</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Escriba su respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Elija o escriba abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Elija una opción o escriba la respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menú abierto</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>La red espera su respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Otro programa está usando el módem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Otra ventana está consultando.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Esperando su turno</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>La mayoría de las respuestas llegan en 10 segundos. Cancelar libera el módem al instante.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 de %2 segundos</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Esperando la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envíe un código.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envíe un código o elija uno abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>CLI_ONLY_SEND</source>
@@ -1627,6 +1915,446 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>QUESTION_LATER</source>
         <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar el PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>NAV_TITLE</source>
+        <translation>Panel USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Códigos</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Operador: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Demostración</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Señal fuerte</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Señal buena</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Señal débil</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Sin señal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Señal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM terminada en %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Mostrar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Módem listo</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Ningún módem en uso</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Buscando uno</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Todo aquí es inventado. No se usa ningún módem y nada cuesta dinero.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Aún sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Algo no está bien</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Sus propios códigos se pueden restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Su archivo ha desaparecido. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Su archivo está incompleto. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Eliminar la copia</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Ventana de la c&amp;uenta</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Ventana de la c&amp;uenta, prepago</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Ventana de la cuenta, c&amp;ontrato</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Editar códigos</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Módem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Ajustes</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>Acerca &amp;de</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Panel USSD %1. Envía códigos USSD por un módem y muestra las respuestas.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notificaciones</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privacidad</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Módem elegido</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Códigos del operador</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Ninguno: usted escribe los códigos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Averiguar el tipo de contrato</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envía un código una vez por SIM. Puede costar dinero.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Después de reiniciar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Reducir el movimiento</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Sigue al sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Cuando la ventana no está delante</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Mostrar su texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Otras personas pueden leerlo en la pantalla</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Por debajo de %1, cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Solo se muestran las últimas cuatro cifras</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Guardar historial y saldos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Solo en este equipo, durante 12 meses</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Eliminar todo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Eliminar todo…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Saldos, mensajes y códigos enviados</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>¿Eliminar todos los saldos, mensajes y códigos enviados? No se pueden recuperar.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Bienvenida</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Tres pasos, y desde aquí verá su saldo, enviará códigos y comprará paquetes.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Módem encontrado</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM lista</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM terminada en %1, registrada en una red.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Después la SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>¿De quién son los códigos que se usarán?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Podrá elegirlo cuando la SIM esté lista.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Su SIM coincide con un operador de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Su SIM coincide con %1 operadores de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Ningún operador de la lista coincide con su SIM. Puede escribir los códigos.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Códigos: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>saldo</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>recarga</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>número propio</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Usted escribe los códigos, nada viene puesto</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Usar códigos</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Seguir sin ellos</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Probar la demostración</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nada se envía a la red hasta que pulse un botón. Los códigos pueden costar dinero.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pide un texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine antes el menú.</translation>
     </message>
 </context>
 </TS>

@@ -94,7 +94,7 @@ ProviderQuery queryOf(const ToolArguments &arguments)
 /// Returns the text as one word for a shell.
 QString shellWord(const QString &text)
 {
-    if (text.contains(QRegExp(QLatin1String("^[\\w.+-]+$"))))
+    if (QRegExp(QLatin1String("[\\w.+-]+")).exactMatch(text))
         return text;
     QString quoted = text;
     quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
