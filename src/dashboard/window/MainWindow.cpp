@@ -25,6 +25,7 @@
 #include "pages/SettingsPage.h"
 #include "plugin/LoadedPlugin.h"
 #include "ProfileKeeper.h"
+#include "RemedyRunner.h"
 #include "Scrim.h"
 #include "StandIns.h"
 #include "TerminalText.h"
@@ -57,7 +58,8 @@ bool isAbsent(Situation::Kind kind)
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
-      m_chooser(new OperatorChooser(&operatorCodes(), this)), m_menu(new AppMenu(this)),
+      m_chooser(new OperatorChooser(&operatorCodes(), this)),
+      m_remedies(new RemedyRunner(&m_controller, this)), m_menu(new AppMenu(this)),
       m_root(new QWidget(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
       m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
       m_textPanel(new NetworkTextPanel(m_root)), m_stack(new QStackedWidget(m_root)),
@@ -74,6 +76,7 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     m_controller.setPageWindow([this] { return GeneralWindow(page()); });
     followController();
     followBanners();
+    followRemedies();
     followNetworkTexts();
     QCoreApplication::instance()->installEventFilter(this);
     retranslate();
@@ -101,6 +104,17 @@ void MainWindow::followBanners()
     connect(m_banners, &Banners::closeRequested, this, &MainWindow::onBannerClosed);
     connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
     connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
+}
+
+void MainWindow::followRemedies()
+{
+    connect(m_remedies, &RemedyRunner::modemMenuRequested, this, &MainWindow::showModemMenu);
+    connect(m_remedies, &RemedyRunner::operatorRequested, m_chooser, &OperatorChooser::choose);
+    connect(m_remedies, &RemedyRunner::deviceFailed, this, &MainWindow::showScenarioError);
+    connect(m_remedies, &RemedyRunner::typingRequested, this, [this] {
+        showPage(PageId::Codes);
+        focusPage();
+    });
 }
 
 void MainWindow::followNetworkTexts()
@@ -159,6 +173,7 @@ void MainWindow::retranslate()
     m_navigation->retranslate();
     m_menu->retranslate();
     m_chooser->retranslate();
+    m_remedies->retranslate();
     m_textPanel->retranslate();
     for (Page *page : m_pages)
         page->retranslate();
