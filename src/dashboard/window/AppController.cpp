@@ -10,6 +10,7 @@
 #include "Languages.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/ProfileBackup.h"
+#include "plugin/TranscriptColors.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 
@@ -139,6 +140,7 @@ PluginFailure AppController::startWith(const PluginFailure &failure)
 {
     m_ownCodesTime = ownCodesTime();
     m_monitor.forget();
+    warnAboutPaleTranscript();
     emit pluginStarted(failure);
     if (m_plugin->isUsable())
         m_sim.start();
