@@ -10,7 +10,6 @@
 #include "Languages.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/ProfileBackup.h"
-#include "plugin/TranscriptColors.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 
