@@ -974,7 +974,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>لوحة USSD – عرض تجريبي</translation>
+        <translation>عرض توضيحي – لوحة USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

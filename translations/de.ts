@@ -975,7 +975,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD-Dashboard – Vorführung</translation>
+        <translation>Vorführung – USSD-Dashboard</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

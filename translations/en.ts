@@ -974,7 +974,7 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD dashboard – demonstration</translation>
+        <translation>Demonstration – USSD dashboard</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

@@ -974,7 +974,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Panel USSD – demostración</translation>
+        <translation>Demostración – Panel USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

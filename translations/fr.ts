@@ -975,7 +975,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Tableau de bord USSD – démonstration</translation>
+        <translation>Démonstration – Tableau de bord USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

@@ -975,7 +975,7 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Painel USSD – demonstração</translation>
+        <translation>Demonstração – Painel USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

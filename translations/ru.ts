@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Панель USSD – демонстрация</translation>
+        <translation>Демонстрация – Панель USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

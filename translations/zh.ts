@@ -971,7 +971,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD 面板 – 演示</translation>
+        <translation>演示 – USSD 面板</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>

@@ -228,7 +228,9 @@ void MainWindow::showHeader(const Situation &situation)
     const DeviceStatus &status = device().status();
     HeaderContent content;
     content.isDemonstration = status.isSimulated;
-    content.tone = status.isSimulated ? Tone::Warn : situation.tone;
+    content.tone = hasOperator(situation.kind) ? Tone::Ok : situation.tone;
+    if (status.isSimulated)
+        content.tone = Tone::Warn;
     if (hasOperator(situation.kind)) {
         content.title = status.operatorText();
         content.signalPercent = status.signalPercent;

@@ -186,6 +186,7 @@ void MainWindow::showFirstRun()
     const bool isDue = m_firstRun->isDue();
     m_navigation->setVisible(!isDue);
     m_header->setVisible(!isDue);
+    m_banners->setSuppressed(isDue);
     QWidget *const wanted = isDue ? m_firstRun : pageOf(currentPage());
     m_stack->setCurrentWidget(wanted);
 }
