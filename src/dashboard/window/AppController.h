@@ -10,6 +10,7 @@
 #include "device/DeviceChoice.h"
 #include "device/DeviceWatcher.h"
 #include "device/NetworkTextWatcher.h"
+#include "plugin/CommandMonitor.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/PluginFailure.h"
 #include "sim/OperatorCodes.h"
@@ -40,6 +41,7 @@ public:
     const DeviceWatcher &device() const { return m_device; }
     NetworkTextWatcher &networkTexts() { return m_networkTexts; }
     OperatorCodes &operatorCodes() { return m_operatorCodes; }
+    CommandMonitor &commands() { return m_commands; }
     const SimFollower &sim() const { return m_sim; }
 
     /// Sets the function that returns the general window of the page. The function may return an
@@ -118,6 +120,7 @@ private:
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
     std::function<GeneralWindow()> m_pageWindow;
+    CommandMonitor m_commands;
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
     bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
