@@ -641,6 +641,8 @@
                            قوائم الشبكة بالترتيب
   --tour مجلد              المرور على كل النوافذ دون شاشة، مع ترك صور
                            وملف transcript.txt في المجلد
+  --export ملف             كتابة الردود المحفوظة عن الأرصدة في
+                           ملف ‎.csv أو ‎.json
   --demo                   استخدام شبكة مُختلَقة دون إرسال أي شيء
   --scenario ملف           استخدام الشبكة المُختلَقة في هذا الملف
   --modem معرّف            استخدام المودم ذي هذا المعرّف (IMEI)
@@ -2559,6 +2561,22 @@
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>آخر استعلام %1. ربما تغيّر منذ ذلك الحين.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>تصدير الأرصدة</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: يجب أن ينتهي الاسم بـ .csv أو .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>تعذّرت قراءة %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>تعذّرت كتابة %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -641,6 +641,8 @@ Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
                            und die Menüs des Netzes der Reihe nach beantworten
   --tour ORDNER            ohne Anzeige durch alle Fenster gehen; lässt Bilder
                            und transcript.txt im Ordner
+  --export DATEI           die gespeicherten Antworten zum Guthaben in
+                           eine .csv- oder .json-Datei schreiben
   --demo                   ein erfundenes Netz verwenden; nichts wird gesendet
   --scenario DATEI         das erfundene Netz dieser Datei verwenden
   --modem KENNUNG          das Modem mit dieser Gerätekennung (IMEI) verwenden
@@ -2560,6 +2562,22 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Abgefragt %1. Es kann sich seither geändert haben.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Guthaben exportieren</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: Der Name muss auf .csv oder .json enden.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 </TS>

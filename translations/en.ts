@@ -641,6 +641,8 @@ Shows the windows of the USSD plug-in and the state of the device.
                            answer the network's menus with the answers in turn
   --tour FOLDER            walk through all windows without a display; leaves
                            pictures and transcript.txt in the folder
+  --export FILE            write the kept replies about balances to a
+                           .csv or .json file
   --demo                   use an invented network; nothing is sent
   --scenario FILE          use the invented network of this file
   --modem ID               use the modem with this equipment identifier (IMEI)
@@ -2559,6 +2561,22 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Asked %1. It may have changed since.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Export balances</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: the name has to end with .csv or .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 cannot be written: %2</translation>
     </message>
 </context>
 </TS>

@@ -642,6 +642,8 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
                            contestar por turno a los menús de la red
   --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
                            imágenes y transcript.txt en la carpeta
+  --export ARCHIVO         escribir las respuestas guardadas sobre saldos
+                           en un archivo .csv o .json
   --demo                   usar una red inventada; no se envía nada
   --scenario ARCHIVO       usar la red inventada de este archivo
   --modem ID               usar el módem con este identificador (IMEI)
@@ -2559,6 +2561,22 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Consultado %1. Puede haber cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exportar saldos</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: el nombre debe terminar en .csv o .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -641,6 +641,8 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
                            répondre tour à tour aux menus du réseau
   --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
                            images et transcript.txt dans le dossier
+  --export FICHIER         écrire les réponses conservées sur les soldes
+                           dans un fichier .csv ou .json
   --demo                   utiliser un réseau inventé ; rien n’est envoyé
   --scenario FICHIER       utiliser le réseau inventé de ce fichier
   --modem IDENTIFIANT      utiliser le modem de cet identifiant (IMEI)
@@ -2560,6 +2562,22 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Demandé %1. Il a pu changer depuis.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exporter les soldes</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1 : le nom doit se terminer par .csv ou .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
 </context>
 </TS>

@@ -642,6 +642,8 @@ Mostra as janelas do suplemento USSD e o estado do dispositivo.
                            responder à vez aos menus da rede
   --tour PASTA             percorrer todas as janelas sem ecrã; deixa imagens e
                            transcript.txt na pasta
+  --export FICHEIRO        escrever as respostas guardadas sobre saldos
+                           num ficheiro .csv ou .json
   --demo                   usar uma rede inventada; nada é enviado
   --scenario FICHEIRO      usar a rede inventada deste ficheiro
   --modem ID               usar o modem com este identificador (IMEI)
@@ -2560,6 +2562,22 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Consultado %1. Pode ter mudado desde então.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exportar saldos</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: o nome tem de terminar em .csv ou .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>Não é possível ler %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>Não é possível escrever %1: %2</translation>
     </message>
 </context>
 </TS>

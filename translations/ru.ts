@@ -641,6 +641,8 @@
                            очереди ответить на её меню
   --tour ПАПКА             пройти по всем окнам без экрана; оставляет в папке
                            изображения и transcript.txt
+  --export ФАЙЛ            записать сохранённые ответы о балансе
+                           в файл .csv или .json
   --demo                   вымышленная сеть; ничего не отправляется
   --scenario ФАЙЛ          вымышленная сеть из этого файла
   --modem ID               использовать модем с этим номером (IMEI)
@@ -2558,6 +2560,22 @@
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>Запрошен %1. С тех пор он мог измениться.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Экспорт балансов</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: имя должно оканчиваться на .csv или .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>Не удаётся прочитать %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>Не удаётся записать %1: %2</translation>
     </message>
 </context>
 </TS>

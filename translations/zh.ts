@@ -640,6 +640,8 @@
   --send 代码 [回答...]    不打开窗口发送代码，打印回复，并依次回答网络菜单
   --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
                            transcript.txt
+  --export 文件            将保存的余额回复写入
+                           .csv 或 .json 文件
   --demo                   使用虚构的网络，不发送任何内容
   --scenario 文件          使用该文件的虚构网络
   --modem 标识             使用具有此设备标识 (IMEI) 的调制解调器
@@ -2556,6 +2558,22 @@
     <message>
         <source>HOME_LAST_ASKED</source>
         <translation>查询于%1。之后可能已变化。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>导出余额</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1：文件名须以 .csv 或 .json 结尾。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 </TS>
