@@ -16,6 +16,7 @@
 #include "Header.h"
 #include "HostState.h"
 #include "LanguageMenu.h"
+#include "HomeSetup.h"
 #include "look/Look.h"
 #include "Navigation.h"
 #include "NetworkTextPanel.h"
@@ -205,6 +206,7 @@ void MainWindow::showDevice()
     showBanners();
     m_settingsPage->setDeviceChoice(choiceText());
     m_firstRun->showSituation(now);
+    m_home->setSituation(now);
     showFirstRun();
 }
 
