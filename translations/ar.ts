@@ -1917,6 +1917,422 @@
         <translation>لاحقًا</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>لوحة USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>الرموز</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>الخدمات</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>الرسائل</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 غير مقروءة</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>المشغّل: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>عرض توضيحي</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>إشارة قوية</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>إشارة جيدة</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>إشارة ضعيفة</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>لا توجد إشارة</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>الإشارة %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1، %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>الشريحة %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>الشريحة ••%1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>إظهار رقم الشريحة</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>إخفاء رقم الشريحة</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>القائمة</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1، %2 غير مقروءة</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>المودم جاهز</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>لا يُستخدم أي مودم</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>جارٍ البحث عن مودم</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>كل ما هنا مُختلَق. لا يُستخدم أي مودم ولا شيء يكلّف مالًا.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>لا توجد رموز المشغّل بعد</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>هناك مشكلة</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>يمكن استعادة رموزك</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>اختفى ملفها. توجد نسخة من %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>ملفها غير مكتمل. توجد نسخة من %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>استعادة</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>حذف النسخة</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>ال&amp;رموز في نافذة</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>نافذة ال&amp;حساب</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>نافذة ال&amp;حساب، مسبق الدفع</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>نافذة الحساب، &amp;لاحق الدفع</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;تحرير الرموز</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>ال&amp;مودم</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>ال&amp;إعدادات</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>&amp;حول</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>لوحة USSD %1. ترسل رموز USSD عبر مودم وتعرض الردود.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>الجهاز</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>الإشعارات</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>الخصوصية</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>المودم</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>المودم المختار</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>رموز المشغّل</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>لا شيء: تكتب الرموز بنفسك</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>تغيير</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>معرفة نوع العقد</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>يرسل رمزًا مرة واحدة لكل شريحة. قد يكلّف مالًا.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>النظام</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>فاتحة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>داكنة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>حجم النص</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>بعد إعادة التشغيل</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>تقليل الحركة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>يتبع النظام</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>رسائل الشبكة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>عندما لا تكون النافذة في المقدمة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>إظهار نصها</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>قد يقرؤها الآخرون على الشاشة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>رصيد منخفض</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>أقل من %1، بعد رد ذكر الرصيد</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>بعد رد ذكر الرصيد</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>المبلغ</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>إخفاء رقم الشريحة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>تظهر آخر أربعة أرقام فقط</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>حفظ السجل والأرصدة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>على هذا الحاسوب فقط، لمدة 12 شهرًا</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>حذف الكل</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>حذف الكل…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>الأرصدة والرسائل والرموز المرسلة</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>هل تُحذف كل الأرصدة والرسائل والرموز المرسلة؟ لا يمكن استعادتها.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>مرحبًا</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>ثلاث خطوات، ثم ترى رصيدك وترسل الرموز وتشتري الباقات من هنا.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>عُثر على المودم</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>الشريحة جاهزة</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>الشريحة المنتهية بـ %1 مسجّلة في شبكة.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>ثم الشريحة</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>رموز أي مشغّل تُستخدم؟</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>تختار ذلك عندما تجهز الشريحة.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>تطابق شريحتك مشغّلًا واحدًا في القائمة. يمكنك تغيير ذلك في أي وقت من الإعدادات.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>تطابق شريحتك %1 من المشغّلين في القائمة. يمكنك تغيير ذلك في أي وقت من الإعدادات.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>لا يطابق أي مشغّل في القائمة شريحتك. يمكنك كتابة الرموز بنفسك.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>الرموز: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>الرصيد</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>الشحن</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>الرقم الخاص</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>من دون رموز المشغّل</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>تكتب الرموز بنفسك، ولا شيء معدّ مسبقًا</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>استخدام %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>استخدام</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>المتابعة من دونها</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>ليس الآن</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>تجربة العرض التوضيحي بدلًا من ذلك</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>لا يُرسل شيء إلى الشبكة حتى تضغط زرًا. قد تكلّف الرموز مالًا.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بجهازها.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>إظهار PIN</translation>
     </message>

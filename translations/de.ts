@@ -1918,6 +1918,422 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Später</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>USSD-Dashboard</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Codes</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Dienste</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Nachrichten</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 ungelesen</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Anbieter: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Vorführung</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Starkes Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Gutes Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Schwaches Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Kein Signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM mit Ende %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>SIM-Nummer zeigen</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>SIM-Nummer verbergen</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 ungelesen</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem bereit</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Kein Modem in Gebrauch</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Wird gesucht</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Alles hier ist erfunden. Kein Modem wird benutzt, und nichts kostet Geld.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Noch keine Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Etwas stimmt nicht</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Ihre eigenen Codes können wiederhergestellt werden</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Ihre Datei ist weg. Es gibt eine Kopie vom %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Ihre Datei ist unvollständig. Es gibt eine Kopie vom %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Kopie löschen</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Codes in einem Fenster</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>&amp;Kontofenster</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>&amp;Kontofenster, Prepaid</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Kontofenster, &amp;Vertrag</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>Codes &amp;bearbeiten</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Modem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>USSD-Dashboard %1. Es sendet USSD-Codes über ein Modem und zeigt die Antworten.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privatsphäre</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Gewähltes Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Keine: Sie tippen Codes selbst</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Vertragsart feststellen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Sendet einmal je SIM einen Code. Das kann Geld kosten.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Textgröße</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Nach einem Neustart</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Weniger Bewegung</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Folgt dem System</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Nachrichten aus dem Netz</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Wenn das Fenster nicht vorn ist</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Ihren Text zeigen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Andere können ihn auf dem Bildschirm lesen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Niedriges Guthaben</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Unter %1, nachdem eine Antwort das Guthaben nannte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Nachdem eine Antwort das Guthaben nannte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>SIM-Nummer verbergen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Nur die letzten vier Ziffern werden gezeigt</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Verlauf und Guthaben behalten</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Nur auf diesem Computer, 12 Monate lang</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Alles löschen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Alles löschen…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Guthaben, Nachrichten und gesendete Codes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Alle Guthaben, Nachrichten und gesendeten Codes löschen? Sie lassen sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Drei Schritte, dann sehen Sie hier Ihr Guthaben, senden Codes und kaufen Pakete.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem gefunden</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM bereit</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM mit Ende %1, in einem Netz angemeldet.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Dann die SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Wessen Codes sollen benutzt werden?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Das wählen Sie, sobald die SIM bereit ist.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Ihre SIM passt zu einem Anbieter der Liste. Sie können das jederzeit in den Einstellungen ändern.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Ihre SIM passt zu %1 Anbietern der Liste. Sie können das jederzeit in den Einstellungen ändern.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Kein Anbieter der Liste passt zu Ihrer SIM. Sie können Codes selbst tippen.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Codes: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>Guthaben</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>Aufladen</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>eigene Nummer</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Ohne Codes des Anbieters</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Sie tippen Codes selbst, nichts ist vorgegeben</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>%1 benutzen</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Codes benutzen</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Ohne weiter</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Stattdessen die Vorführung ansehen</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nichts wird an das Netz gesendet, bevor Sie einen Knopf drücken. Codes können Geld kosten.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält sein Gerät.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>PIN anzeigen</translation>
     </message>

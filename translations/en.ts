@@ -1917,6 +1917,422 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Later</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>USSD Dashboard</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Codes</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 unread</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Operator: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Demonstration</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Strong signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Good signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Weak signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>No signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM ending %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Show the SIM’s number</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Hide the SIM’s number</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 unread</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem ready</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>No modem in use</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Looking for one</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Everything here is invented. No modem is used and nothing costs money.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>No operator’s codes yet</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Something is not right</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Your own codes can be restored</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Their file has gone. There is a copy of %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Their file is incomplete. There is a copy of %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Delete the copy</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Codes in a window</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>&amp;Account window</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>&amp;Account window, prepaid</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Account &amp;window, postpaid</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Edit codes</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Modem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Settings</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>A&amp;bout</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>USSD dashboard %1. It sends USSD codes through a modem and shows the replies.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privacy</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Chosen modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Operator’s codes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>None: you type codes yourself</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Change</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Find out the kind of contract</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Sends a code once for each SIM. It may cost money.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Text size</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>After a restart</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Reduce motion</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Follows the system</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Messages from the network</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>When the window is not in front</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Show their text</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Others may read it on the screen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Low balance</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Below %1, after an answer told the balance</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>After an answer told the balance</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Amount</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Hide the SIM number</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Only the last four digits are shown</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Keep history and balances</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>On this computer only, for 12 months</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Delete all</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Delete all…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Balances, messages and codes sent</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Delete all balances, messages and codes sent? They cannot be brought back.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Welcome</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Three steps, and you see your balance, send codes and buy packs from here.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem found</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM ready</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM ending %1, registered with a network.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Then the SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Whose codes shall be used?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>You choose this when the SIM is ready.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Your SIM fits one operator in the list. You can change this at any time in Settings.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Your SIM fits %1 operators in the list. You can change this at any time in Settings.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>No operator in the list fits your SIM. You can type codes yourself.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Codes: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>balance</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>top-up</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>own number</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Without operator’s codes</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>You type codes yourself, nothing is preset</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Use %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Use codes</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Go on without</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Not now</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Try the demonstration instead</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nothing is sent to the network until you press a button. Codes may cost money.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>The dashboard already runs. Its window is in front now and keeps its device.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>Show the PIN</translation>
     </message>

@@ -1917,6 +1917,422 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Más tarde</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>Panel USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Códigos</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Operador: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Demostración</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Señal fuerte</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Señal buena</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Señal débil</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Sin señal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Señal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM terminada en %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Mostrar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Módem listo</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Ningún módem en uso</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Buscando uno</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Todo aquí es inventado. No se usa ningún módem y nada cuesta dinero.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Aún sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Algo no está bien</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Sus propios códigos se pueden restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Su archivo ha desaparecido. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Su archivo está incompleto. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Eliminar la copia</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Ventana de la c&amp;uenta</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Ventana de la c&amp;uenta, prepago</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Ventana de la cuenta, c&amp;ontrato</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Editar códigos</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Módem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Ajustes</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>Acerca &amp;de</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Panel USSD %1. Envía códigos USSD por un módem y muestra las respuestas.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notificaciones</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privacidad</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Módem elegido</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Códigos del operador</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Ninguno: usted escribe los códigos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Averiguar el tipo de contrato</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envía un código una vez por SIM. Puede costar dinero.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Después de reiniciar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Reducir el movimiento</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Sigue al sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Cuando la ventana no está delante</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Mostrar su texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Otras personas pueden leerlo en la pantalla</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Por debajo de %1, cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Solo se muestran las últimas cuatro cifras</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Guardar historial y saldos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Solo en este equipo, durante 12 meses</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Eliminar todo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Eliminar todo…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Saldos, mensajes y códigos enviados</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>¿Eliminar todos los saldos, mensajes y códigos enviados? No se pueden recuperar.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Bienvenida</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Tres pasos, y desde aquí verá su saldo, enviará códigos y comprará paquetes.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Módem encontrado</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM lista</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM terminada en %1, registrada en una red.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Después la SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>¿De quién son los códigos que se usarán?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Podrá elegirlo cuando la SIM esté lista.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Su SIM coincide con un operador de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Su SIM coincide con %1 operadores de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Ningún operador de la lista coincide con su SIM. Puede escribir los códigos.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Códigos: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>saldo</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>recarga</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>número propio</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Usted escribe los códigos, nada viene puesto</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Usar códigos</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Seguir sin ellos</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Probar la demostración</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nada se envía a la red hasta que pulse un botón. Los códigos pueden costar dinero.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>Mostrar el PIN</translation>
     </message>

@@ -1918,6 +1918,422 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Plus tard</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>Tableau USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Codes</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 non lus</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Opérateur : %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Démonstration</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Signal fort</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Bon signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Signal faible</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Pas de signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM finissant par %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Afficher le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Masquer le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 non lus</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem prêt</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Aucun modem utilisé</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Recherche en cours</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Tout est inventé ici. Aucun modem n’est utilisé et rien ne coûte d’argent.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Pas encore de codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Quelque chose ne va pas</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Vos propres codes peuvent être restaurés</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Leur fichier a disparu. Il y a une copie du %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Leur fichier est incomplet. Il y a une copie du %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Supprimer la copie</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Codes dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Fenêtre du c&amp;ompte</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Fenêtre du c&amp;ompte, prépayé</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Fenêtre du compte, &amp;forfait</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Modifier les codes</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>M&amp;odem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Réglages</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Tableau de bord USSD %1. Il envoie des codes USSD par un modem et affiche les réponses.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Vie privée</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Modem choisi</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Aucun : vous tapez les codes vous-même</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Changer</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Déterminer le type de contrat</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envoie un code une fois par SIM. Cela peut coûter de l’argent.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Après un redémarrage</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Réduire les animations</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Suit le système</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Messages du réseau</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Quand la fenêtre n’est pas au premier plan</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Afficher leur texte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>D’autres peuvent le lire à l’écran</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Solde faible</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Sous %1, quand une réponse a indiqué le solde</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Quand une réponse a indiqué le solde</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Montant</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Masquer le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Seuls les quatre derniers chiffres sont affichés</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Conserver l’historique et les soldes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Sur cet ordinateur seulement, pendant 12 mois</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Tout supprimer…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Soldes, messages et codes envoyés</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Supprimer tous les soldes, messages et codes envoyés ? Ils ne pourront pas être récupérés.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Bienvenue</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Trois étapes, et vous voyez ici votre solde, envoyez des codes et achetez des forfaits.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem trouvé</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM prête</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM finissant par %1, inscrite sur un réseau.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Puis la SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Les codes de qui faut-il utiliser ?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Vous choisirez quand la SIM sera prête.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Votre SIM correspond à un opérateur de la liste. Vous pouvez changer cela à tout moment dans Réglages.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Votre SIM correspond à %1 opérateurs de la liste. Vous pouvez changer cela à tout moment dans Réglages.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Aucun opérateur de la liste ne correspond à votre SIM. Vous pouvez taper les codes.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Codes : %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>solde</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>recharge</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>numéro propre</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sans codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Vous tapez les codes, rien n’est prédéfini</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Utiliser les codes</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Continuer sans</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Essayer plutôt la démonstration</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Rien n’est envoyé au réseau avant que vous n’appuyiez sur un bouton. Les codes peuvent coûter de l’argent.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde son appareil.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>Afficher le PIN</translation>
     </message>

@@ -1918,6 +1918,422 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>Mais tarde</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>Painel USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Códigos</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Serviços</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Mensagens</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 por ler</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Operador: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Demonstração</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Sinal forte</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Sinal bom</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Sinal fraco</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Sem sinal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Sinal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM terminado em %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Mostrar o número do SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Ocultar o número do SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 por ler</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem pronto</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Nenhum modem em uso</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>À procura de um</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Tudo aqui é inventado. Nenhum modem é usado e nada custa dinheiro.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Ainda sem códigos do operador</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Algo não está bem</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Os seus códigos podem ser restaurados</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>O ficheiro desapareceu. Há uma cópia de %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>O ficheiro está incompleto. Há uma cópia de %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Eliminar a cópia</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Códigos numa janela</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>J&amp;anela da conta</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>J&amp;anela da conta, pré-pago</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Janela da conta, pós-pag&amp;o</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Editar códigos</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Modem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Definições</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>So&amp;bre</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Painel USSD %1. Envia códigos USSD por um modem e mostra as respostas.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Aspeto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notificações</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privacidade</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Modem escolhido</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Códigos do operador</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Nenhum: escreve os códigos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Alterar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Determinar o tipo de contrato</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envia um código uma vez por SIM. Pode custar dinheiro.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Tamanho do texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Depois de reiniciar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Reduzir o movimento</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Segue o sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Mensagens da rede</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Quando a janela não está à frente</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Mostrar o seu texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Outras pessoas podem lê-lo no ecrã</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Saldo baixo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Abaixo de %1, quando uma resposta indica o saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Quando uma resposta indica o saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Montante</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Ocultar o número do SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Só se mostram os últimos quatro algarismos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Guardar histórico e saldos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Só neste computador, durante 12 meses</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Eliminar tudo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Eliminar tudo…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Saldos, mensagens e códigos enviados</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Eliminar todos os saldos, mensagens e códigos enviados? Não podem ser recuperados.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Boas-vindas</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Três passos, e aqui vê o saldo, envia códigos e compra pacotes.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem encontrado</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM pronto</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM terminado em %1, registado numa rede.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Depois o SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>De quem são os códigos a usar?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Escolhe quando o SIM estiver pronto.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>O seu SIM corresponde a um operador da lista. Pode alterar isto a qualquer momento em Definições.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>O seu SIM corresponde a %1 operadores da lista. Pode alterar isto a qualquer momento em Definições.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Nenhum operador da lista corresponde ao seu SIM. Pode escrever os códigos.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Códigos: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>saldo</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>carregamento</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>número próprio</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sem códigos do operador</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Escreve os códigos, nada vem predefinido</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Usar códigos</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Continuar sem</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Agora não</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Experimentar a demonstração</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nada é enviado à rede até premir um botão. Os códigos podem custar dinheiro.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>O painel já está aberto. A sua janela está agora à frente e mantém o dispositivo.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>Mostrar o PIN</translation>
     </message>

@@ -1916,6 +1916,422 @@
         <translation>Позже</translation>
     </message>
     <message>
+        <source>NAV_TITLE</source>
+        <translation>Панель USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Коды</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Услуги</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Сообщения</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>непрочитанных: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Оператор: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Демонстрация</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Сильный сигнал</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Хороший сигнал</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Слабый сигнал</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Нет сигнала</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Сигнал %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM, в конце %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Показать номер SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Скрыть номер SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, непрочитанных: %2</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Модем готов</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Модем не используется</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Идёт поиск</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Здесь всё вымышлено. Модем не используется, и ничто не стоит денег.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Кодов оператора пока нет</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Что-то не так</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Ваши коды можно восстановить</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Файл с ними пропал. Есть копия от %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Файл с ними неполон. Есть копия от %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Удалить копию</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Коды в окне</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Окно с&amp;чёта</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Окно с&amp;чёта, предоплата</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Окно счёта, п&amp;остоплата</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Изменить коды</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Модем</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Настройки</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>О про&amp;грамме</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Панель USSD %1. Отправляет коды USSD через модем и показывает ответы.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Устройство</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Внешний вид</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Уведомления</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Конфиденциальность</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Модем</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Выбранный модем</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Коды оператора</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Нет: коды вводите сами</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Определять вид договора</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Отправляет код один раз для каждой SIM. Это может стоить денег.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Система</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Размер текста</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>После перезапуска</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Меньше движения</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Сообщения сети</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Когда окно не впереди</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Показывать их текст</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Другие могут прочесть его на экране</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Низкий баланс</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Ниже %1, когда ответ сообщил баланс</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Когда ответ сообщил баланс</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Сумма</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Скрывать номер SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Видны только последние четыре цифры</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Хранить историю и балансы</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Только на этом компьютере, 12 месяцев</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Удалить всё</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Удалить всё…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Балансы, сообщения и отправленные коды</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Удалить все балансы, сообщения и отправленные коды? Вернуть их нельзя.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Добро пожаловать</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Три шага — и здесь видны баланс, коды и пакеты.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Модем найден</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM готова</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM, в конце %1, зарегистрирована в сети.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Затем SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Чьи коды использовать?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Вы выберете, когда SIM будет готова.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Ваша SIM подходит одному оператору из списка. Это можно изменить в настройках.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Ваша SIM подходит нескольким операторам из списка (%1). Это можно изменить в настройках.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>В списке нет оператора вашей SIM. Коды можно вводить самому.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Коды: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>баланс</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>пополнение</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>свой номер</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Без кодов оператора</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Вы вводите коды сами, заготовок нет</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Использовать %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Использовать</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Продолжить без них</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Посмотреть демонстрацию</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Ничего не отправляется в сеть, пока вы не нажмёте кнопку. Коды могут стоить денег.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>Панель уже запущена. Её окно теперь впереди и сохраняет своё устройство.</translation>
+    </message>
+    <message>
         <source>PIN_SHOW</source>
         <translation>Показать PIN</translation>
     </message>

@@ -2,34 +2,32 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopWidget>
-#include <QFileDialog>
-#include <QLabel>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QTextEdit>
-#include <QVBoxLayout>
+#include <QStackedWidget>
 
+#include "AccessibleRoles.h"
+#include "AppMenu.h"
 #include "base/DashboardText.h"
-#include "CommandNotice.h"
-#include "CommonUtils.h"
 #include "device/DashboardSettings.h"
-#include "DeviceHeader.h"
+#include "device/Situation.h"
+#include "DeviceLine.h"
 #include "DeviceMenu.h"
 #include "DeviceNotice.h"
+#include "ExtendDialog.h"
+#include "Header.h"
 #include "HostState.h"
-#include "InstallPaths.h"
 #include "LanguageMenu.h"
+#include "look/Look.h"
+#include "Navigation.h"
 #include "NetworkTextPanel.h"
-#include "NoticeBar.h"
-#include "OperatorNotice.h"
+#include "OperatorChooser.h"
 #include "PageArea.h"
-#include "plugin/GeneralWindow.h"
+#include "pages/FirstRunPage.h"
+#include "pages/SettingsPage.h"
 #include "plugin/LoadedPlugin.h"
-#include "sim/SimWindows.h"
+#include "ProfileKeeper.h"
+#include "Scrim.h"
+#include "StandIns.h"
 #include "TerminalText.h"
-#include "WindowButtons.h"
 
 namespace Dashboard
 {
@@ -37,30 +35,47 @@ namespace Dashboard
 namespace
 {
 
-const QSize FIRST_SIZE(900, 740); // pixels
+bool isFrame(const QObject *object)
+{
+    return qobject_cast<const ExtendDialog *>(object);
+}
+
+/// Returns true if the SIM can be used, so that the operator is known.
+bool hasOperator(Situation::Kind kind)
+{
+    return kind == Situation::Kind::Ready || kind == Situation::Kind::CodesUnknown ||
+           kind == Situation::Kind::WaitsForTurn || kind == Situation::Kind::ForeignSession;
+}
+
+bool isAbsent(Situation::Kind kind)
+{
+    return kind == Situation::Kind::NoModem || kind == Situation::Kind::LookingForModem ||
+           kind == Situation::Kind::ModemRemoved;
+}
+
 } // namespace
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
-      m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
-      m_deviceMenu(new DeviceMenu(this)), m_header(new DeviceHeader(this)),
-      m_deviceNotice(new DeviceNotice(&device(), this)), m_textPanel(new NetworkTextPanel(this)),
-      m_demonstration(new NoticeBar("Dashboard_Demonstration", this)),
-      m_problems(new NoticeBar("Dashboard_Problems", this)),
-      m_operatorNotice(new OperatorNotice(&operatorCodes(), this)),
-      m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
-      m_commandNotice(new CommandNotice(&device(), this)), m_source(new QLabel(this))
+      m_chooser(new OperatorChooser(&operatorCodes(), this)), m_menu(new AppMenu(this)),
+      m_root(new QWidget(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
+      m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
+      m_textPanel(new NetworkTextPanel(m_root)), m_stack(new QStackedWidget(m_root)),
+      m_scrim(new Scrim(m_root))
 {
     HostCore::HostState::setMainWindow(this);
+    installAccessibleRoles();
     setObjectName(QLatin1String("Dashboard_MainWindow"));
-    makeMenus();
+    makePages();
     makeCentre();
-    m_source->setObjectName(QLatin1String("Dashboard_Source"));
-    m_source->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(m_source, 1);
+    makeMenu();
+    makeShortcuts();
+    makeRegions();
     m_controller.setPageWindow([this] { return GeneralWindow(page()); });
     followController();
+    followBanners();
     followNetworkTexts();
+    QCoreApplication::instance()->installEventFilter(this);
     retranslate();
     restorePlace();
 }
@@ -70,77 +85,50 @@ MainWindow::~MainWindow() = default;
 void MainWindow::followController()
 {
     connect(&device(), &DeviceWatcher::changed, this, &MainWindow::showDevice);
-    connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::onDeviceChosen);
+    connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::pluginStarted, this, &MainWindow::onPluginStarted);
-    connect(&m_controller, &AppController::windowsOffered, this, &MainWindow::offerWindows);
-    connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showPaidType);
-    connect(&m_controller, &AppController::frameOpened, this,
-            [this] { followCommands(GeneralWindow::framed()); });
+    connect(&m_controller, &AppController::windowsOffered, this,
+            [this] { m_menu->offer(m_controller.windows()); });
+    connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
-    connect(&m_controller, &AppController::commandEnded, m_commandNotice, &CommandNotice::look);
     connect(&m_controller, &AppController::languageChanged, this, &MainWindow::retranslate);
     connect(&m_controller, &AppController::problem, this, &MainWindow::showProblem);
-    m_deviceMenu->setDetection(m_controller.isDetectionOn());
-    connect(m_deviceMenu, &DeviceMenu::detectionToggled, &m_controller,
-            &AppController::setDetection);
-    connect(m_deviceMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
+}
+
+void MainWindow::followBanners()
+{
+    connect(m_banners, &Banners::actionRequested, this, &MainWindow::onBannerAction);
+    connect(m_banners, &Banners::closeRequested, this, &MainWindow::onBannerClosed);
+    connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
+    connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
 }
 
 void MainWindow::followNetworkTexts()
 {
-    connect(&m_controller, &AppController::textReceived, this, &MainWindow::showNetworkText);
+    connect(&m_controller, &AppController::textReceived, m_textPanel, &NetworkTextPanel::add);
     connect(&m_controller, &AppController::commandEnded, m_textPanel,
             &NetworkTextPanel::endQuestion);
     connect(&device(), &DeviceWatcher::lost, m_textPanel, &NetworkTextPanel::endQuestion);
     m_controller.start();
 }
 
-void MainWindow::makeMenus()
+void MainWindow::setProfiles(ProfileKeeper *profiles)
 {
-    m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
-    m_quit->setShortcut(QKeySequence::Quit);
-    menuBar()->addMenu(m_fileMenu);
-    menuBar()->addMenu(m_deviceMenu);
-    menuBar()->addMenu(m_languageMenu);
-    connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
-    connect(m_deviceMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
-    connect(m_deviceMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
-}
-
-void MainWindow::makeCentre()
-{
-    QWidget *centre = new QWidget(this);
-    QVBoxLayout *column = new QVBoxLayout(centre);
-    m_demonstration->setCompact();
-    m_demonstration->setAutoFillBackground(true);
-    m_demonstration->setBackgroundRole(QPalette::ToolTipBase);
-    m_demonstration->setForegroundRole(QPalette::ToolTipText);
-    column->addWidget(m_demonstration);
-    column->addWidget(m_header);
-    column->addWidget(m_problems);
-    column->addWidget(m_deviceNotice);
-    column->addWidget(m_operatorNotice);
-    column->addWidget(m_buttons);
-    column->addWidget(m_textPanel);
-    column->addWidget(m_page, 1);
-    column->addWidget(m_commandNotice);
-    setCentralWidget(centre);
-    m_buttons->setEnabled(false); // disabled until the plug-in is loaded
-    connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
-    connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
-}
-
-void MainWindow::restorePlace()
-{
-    if (m_settings && restoreGeometry(m_settings->geometry()))
-        return;
-    resize(FIRST_SIZE.boundedTo(QApplication::desktop()->availableGeometry(this).size()));
-    CommonUtils::MoveCentre(this);
+    m_profiles = profiles;
+    connect(profiles, &ProfileKeeper::offerChanged, this, &MainWindow::showBanners);
+    connect(profiles, &ProfileKeeper::problem, this, &MainWindow::showProblem);
+    connect(profiles, &ProfileKeeper::restored, &m_controller, &AppController::beginAnew);
+    connect(this, &MainWindow::frameClosed, profiles, &ProfileKeeper::refresh);
 }
 
 QWidget *MainWindow::page() const
 {
-    return m_page->canvas();
+    return m_codes->area()->canvas();
+}
+
+DeviceMenu *MainWindow::deviceMenu() const
+{
+    return m_menu->deviceMenu();
 }
 
 PluginFailure MainWindow::loadPlugin()
@@ -155,108 +143,108 @@ PluginFailure MainWindow::restartPlugin()
 
 void MainWindow::onPluginStarted(const PluginFailure &failure)
 {
-    m_isPageOffered = false;
-    m_buttons->setEnabled(m_plugin->isUsable());
-    m_commandNotice->forget();
     if (!m_plugin->isUsable())
-        m_page->showText(failure.text());
-}
-
-void MainWindow::offerWindows()
-{
-    const int windows = m_controller.windows();
-    const bool isPageOffered = windows & SIM_WINDOW_GENERAL;
-    m_buttons->offer(windows);
-    if (isPageOffered != m_isPageOffered)
-        showPage(isPageOffered);
-    m_isPageOffered = isPageOffered;
-    m_page->showText(windows ? QString() : dashboardText("WINDOWS_NONE"));
-}
-
-void MainWindow::showPage(bool shown)
-{
-    if (shown)
-        m_page->showPage();
-    else
-        m_page->hidePage();
-    m_buttons->setPageShown(shown);
-    const GeneralWindow general(page());
-    // The host must handle the Close button of an embedded window, because the plug-in does not.
-    if (QPushButton *close = general.closeButton())
-        connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
-    followCommands(general);
-}
-
-/// Observes the transcript in addition to the command field, because a command that is rejected
-/// immediately does not disable the field.
-void MainWindow::followCommands(const GeneralWindow &general)
-{
-    general.hideUnusedPresets();
-    if (QTextEdit *history = general.history())
-        connect(history, &QTextEdit::textChanged, m_commandNotice, &CommandNotice::look,
-                Qt::UniqueConnection);
-}
-
-void MainWindow::hidePage()
-{
-    showPage(false);
-}
-
-void MainWindow::openFrame(int paidType)
-{
-    m_controller.openFrame(paidType);
-}
-
-/// Shows the general window, in which the user can type the answer. Showing this window does not
-/// end the session. A window that is already visible is left unchanged, so that the input of the
-/// user is kept.
-void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
-                                 bool waitsForAnswer)
-{
-    m_textPanel->add(text, receivedAt, waitsForAnswer);
-    if (!waitsForAnswer)
-        return;
-    const QLineEdit *entry = GeneralWindow(page()).commandEdit();
-    if (m_plugin->isUsable() && !(entry && entry->isVisible()))
-        showPage(true);
+        m_codes->area()->showText(failure.text());
 }
 
 void MainWindow::setLanguage(const QString &code)
 {
     if (!m_controller.setLanguage(code))
-        m_languageMenu->retranslate(); // resets the check mark to the current language
+        m_menu->languageMenu()->retranslate(); // resets the check mark to the current language
 }
 
 void MainWindow::retranslate()
 {
-    m_fileMenu->setTitle(dashboardText("MENU_FILE"));
-    m_quit->setText(dashboardText("ACTION_QUIT"));
-    m_languageMenu->retranslate();
+    m_header->retranslate();
+    m_navigation->retranslate();
+    m_menu->retranslate();
+    m_chooser->retranslate();
     m_textPanel->retranslate();
-    m_commandNotice->update();
-    m_operatorNotice->retranslate();
-    m_buttons->retranslate();
-    if (m_plugin->isUsable() && !m_controller.windows())
-        m_page->showText(dashboardText("WINDOWS_NONE"));
+    for (Page *page : m_pages)
+        page->retranslate();
+    m_firstRun->retranslate();
     showDevice();
 }
 
-void MainWindow::showPaidType()
+Situation MainWindow::situation() const
 {
-    m_header->showPaidType(sim().paidTypeText());
+    const DeviceChoice &choice = m_controller.choice();
+    QString chosenModem;
+    for (const Modem &modem : m_controller.device().modems()) {
+        if (choice.kind == DeviceChoice::Modem && modem.equipmentId == choice.name)
+            chosenModem = modemTitle(modem, m_controller.device().modems());
+    }
+    const bool areCodesKnown = !m_controller.operatorCodes().areAbsent();
+    return situationOf(m_controller.device().status(), areCodesKnown, chosenModem);
 }
 
 void MainWindow::showDevice()
 {
     const bool isDemonstration = device().status().isSimulated;
+    const Situation now = situation();
     setWindowTitle(dashboardText(isDemonstration ? "APP_TITLE_DEMONSTRATION" : "APP_TITLE"));
-    m_demonstration->setText(isDemonstration ? dashboardText("DEMONSTRATION_NOTE") : QString());
-    m_deviceMenu->offer(m_controller.choice(), device().modems());
+    deviceMenu()->offer(m_controller.choice(), device().modems());
     m_deviceNotice->update();
-    m_header->showStatus(device().status());
-    m_header->showPaidType(sim().paidTypeText());
-    m_source->setText(device().status().sourceText());
-    m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
+    showHeader(now);
+    showDeviceLine(now);
+    showBanners();
+    m_settingsPage->setDeviceChoice(choiceText());
+    m_firstRun->showSituation(now);
+    showFirstRun();
+}
+
+/// Returns the choice of the device, for example "Automatic".
+QString MainWindow::choiceText() const
+{
+    const DeviceChoice &choice = m_controller.choice();
+    if (choice.kind == DeviceChoice::Automatic)
+        return dashboardText("SETTINGS_AUTOMATIC");
+    if (choice.kind == DeviceChoice::Simulated)
+        return dashboardText("HEADER_DEMONSTRATION");
+    for (const Modem &modem : m_controller.device().modems()) {
+        if (modem.equipmentId == choice.name)
+            return modemTitle(modem, m_controller.device().modems());
+    }
+    return dashboardText("SETTINGS_CHOSEN_MODEM");
+}
+
+void MainWindow::showHeader(const Situation &situation)
+{
+    const DeviceStatus &status = device().status();
+    HeaderContent content;
+    content.isDemonstration = status.isSimulated;
+    content.tone = status.isSimulated ? Tone::Warn : situation.tone;
+    if (hasOperator(situation.kind)) {
+        content.title = status.operatorText();
+        content.signalPercent = status.signalPercent;
+    } else {
+        content.title = situation.title;
+    }
+    content.chip =
+        status.isSimulated ? dashboardText("HEADER_DEMONSTRATION") : sim().paidTypeText();
+    content.simNumber = status.imsi;
+    m_header->showContent(content);
+    m_menu->setSim(m_header->simText(), m_form == Form::Narrow);
+}
+
+void MainWindow::showDeviceLine(const Situation &situation)
+{
+    const DeviceStatus &status = device().status();
+    const bool isReady = hasOperator(situation.kind);
+    QString state = isReady ? dashboardText("HEADER_MODEM_READY") : situation.title;
+    QString name = status.source;
+    Tone tone = isReady ? Tone::Ok : situation.tone;
+    if (status.isSimulated) {
+        state = dashboardText("HEADER_DEMONSTRATION");
+        name = dashboardText("HEADER_NO_MODEM_IN_USE");
+        tone = Tone::Warn;
+    } else if (isAbsent(situation.kind)) {
+        name = dashboardText("HEADER_LOOKING_FOR_ONE");
+        tone = situation.kind == Situation::Kind::LookingForModem ? Tone::Warn : Tone::Danger;
+    }
+    DeviceLine *line = m_navigation->deviceLine();
+    line->showDevice(tone, state, name);
+    line->setToolTip(status.sourceText());
 }
 
 bool MainWindow::useScenario(const QString &file)
@@ -276,40 +264,61 @@ void MainWindow::setDevice(const DeviceChoice &choice)
     m_controller.setDevice(choice);
 }
 
-void MainWindow::onDeviceChosen()
-{
-    m_deviceMenu->offer(m_controller.choice(), device().modems());
-    m_commandNotice->forget();
-}
-
 void MainWindow::showProblem(const QString &text)
 {
-    const QString before = m_problems->text();
-    if (before.contains(text))
+    if (m_problem.contains(text))
         return;
     HostCore::printErrorLine(text);
-    m_problems->setText(before.isEmpty() ? text : before + QLatin1Char('\n') + text);
+    m_problem = m_problem.isEmpty() ? text : m_problem + QLatin1Char(' ') + text;
+    showBanners();
 }
 
-void MainWindow::showScenarioError(const QString &error)
+void MainWindow::showBanners()
 {
-    CommonUtils::ShowMessage(QMessageBox::Warning, this, dashboardText("SCENARIO_UNUSABLE"), error,
-                             QLatin1String("IDS_OK"));
+    const bool isDemonstration = device().status().isSimulated;
+    Banner demonstration;
+    if (isDemonstration)
+        demonstration = {dashboardText("HEADER_DEMONSTRATION"),
+                         dashboardText("BANNER_DEMONSTRATION"), remedyText(Remedy::UseMyModem),
+                         QString()};
+    Banner proposal;
+    if (m_chooser->isProposing())
+        proposal = {dashboardText("BANNER_NO_CODES"), m_chooser->proposal(),
+                    m_chooser->acceptText(), dashboardText("CODES_NOT_NOW")};
+    Banner problem;
+    if (!m_problem.isEmpty())
+        problem = {dashboardText("BANNER_PROBLEM"), m_problem, QString(),
+                   dashboardText("CODES_CLOSE")};
+    Banner restore;
+    if (m_profiles && !m_profiles->offer().isEmpty())
+        restore = {dashboardText("BANNER_RESTORE"), m_profiles->offer(),
+                   dashboardText("BANNER_RESTORE_YES"), dashboardText("BANNER_RESTORE_NO")};
+    m_banners->setBanner(Banners::Demonstration, demonstration);
+    m_banners->setBanner(Banners::Operator, proposal);
+    m_banners->setBanner(Banners::Problem, problem);
+    m_banners->setBanner(Banners::Restore, restore);
 }
 
-void MainWindow::chooseDevice(const QString &word)
+void MainWindow::onBannerAction(Banners::Kind kind)
 {
-    useDevice(m_controller.chooseDevice(DeviceChoice::fromWord(word)));
+    if (kind == Banners::Demonstration)
+        perform(Remedy::UseMyModem);
+    else if (kind == Banners::Operator)
+        m_chooser->accept();
+    else if (kind == Banners::Restore && m_profiles)
+        m_profiles->restore();
 }
 
-void MainWindow::openScenario()
+void MainWindow::onBannerClosed(Banners::Kind kind)
 {
-    const QString filter = dashboardText("SCENARIO_FILTER") + QLatin1String(" (*.scenario);;") +
-                           dashboardText("ALL_FILES") + QLatin1String(" (*)");
-    const QString file = QFileDialog::getOpenFileName(this, dashboardText("SCENARIO_CHOOSE"),
-                                                      HostCore::InstallPaths::scenarios(), filter);
-    if (!file.isEmpty())
-        chooseDevice(DeviceChoice::simulated(file).word());
+    if (kind == Banners::Operator) {
+        m_chooser->decline();
+    } else if (kind == Banners::Problem) {
+        m_problem.clear();
+        showBanners();
+    } else if (kind == Banners::Restore && m_profiles) {
+        m_profiles->forget();
+    }
 }
 
 void MainWindow::quit()
@@ -323,6 +332,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_settings)
         m_settings->setGeometry(saveGeometry());
     QMainWindow::closeEvent(event);
+}
+
+// Dims the window while a window of the plug-in is open. The event is sent before the frame is
+// visible or hidden, so the state is read afterwards.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isShown = event->type() == QEvent::Show;
+    if ((isShown || event->type() == QEvent::Hide) && isFrame(watched)) {
+        m_scrim->setShown(isShown);
+        if (!isShown)
+            QMetaObject::invokeMethod(
+                this, [this] { updateForm(); }, Qt::QueuedConnection);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 } // namespace Dashboard
