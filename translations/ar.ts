@@ -1538,7 +1538,7 @@
     </message>
     <message>
         <source>DEVICE_NO_SERVICE_TEXT</source>
-        <translation>ModemManager غير مثبّت أو تم إيقافه.</translation>
+        <translation>لم يُثبّت ModemManager أو تم إيقافه.</translation>
     </message>
     <message>
         <source>DEVICE_SERVICE_SILENT</source>
@@ -1546,7 +1546,7 @@
     </message>
     <message>
         <source>DEVICE_SERVICE_SILENT_TEXT</source>
-        <translation>ModemManager يعمل لكنه لا يستجيب. انتظر لحظة أو أعد تشغيله.</translation>
+        <translation>يعمل ModemManager لكنه لا يستجيب. انتظر لحظة أو أعد تشغيله.</translation>
     </message>
     <message>
         <source>DEVICE_NOT_PERMITTED</source>
@@ -1566,7 +1566,7 @@
     </message>
     <message>
         <source>DEVICE_SIM_LOCKED</source>
-        <translation>SIM مقفلة</translation>
+        <translation>بطاقة SIM مقفلة</translation>
     </message>
     <message>
         <source>DEVICE_SIM_LOCKED_TEXT</source>
@@ -1630,7 +1630,7 @@
     </message>
     <message>
         <source>DEVICE_WHAT_IS_PUK</source>
-        <translation>PUK رقم من 8 خانات يفتح قفل SIM بعد إدخال PIN خاطئ مرات كثيرة. تجده على البطاقة التي جاءت فيها SIM، ويمكن لمشغّل شبكتك إعطاؤه. بعد عشرة أرقام PUK خاطئة تصبح SIM غير صالحة.</translation>
+        <translation>رمز PUK رقم من 8 خانات يفتح قفل SIM بعد إدخال PIN خاطئ مرات كثيرة. تجده على البطاقة التي جاءت فيها SIM، ويمكن لمشغّل شبكتك إعطاؤه. بعد عشرة أرقام PUK خاطئة تصبح SIM غير صالحة.</translation>
     </message>
     <message>
         <source>PIN_TRIES_SHORT</source>
@@ -1915,6 +1915,22 @@
     <message>
         <source>QUESTION_LATER</source>
         <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>إظهار PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>كان ملف الأرصدة تالفًا. حُفظ باسم %1 وأُنشئ ملف جديد.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>تعذّر حفظ الأرصدة في %1. تبقى حتى إغلاق البرنامج.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>كتبت نسخة أحدث من البرنامج الملف %1. تبقى الأرصدة حتى إغلاق البرنامج.</translation>
     </message>
     <message>
         <source>NAV_TITLE</source>
@@ -2333,20 +2349,12 @@
         <translation>اللوحة تعمل بالفعل. نافذتها الآن في المقدمة وتحتفظ بجهازها.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>إظهار PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>تطلب نصًا</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>كان ملف الأرصدة تالفًا. حُفظ باسم %1 وأُنشئ ملف جديد.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>تعذّر حفظ الأرصدة في %1. تبقى حتى إغلاق البرنامج.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>كتبت نسخة أحدث من البرنامج الملف %1. تبقى الأرصدة حتى إغلاق البرنامج.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>أنهِ القائمة أولًا.</translation>
     </message>
 </context>
 </TS>

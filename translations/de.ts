@@ -1918,6 +1918,22 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Später</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>PIN anzeigen</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Die Datei mit Ihren Guthaben war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Guthaben können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Eine neuere Version des Programms hat %1 geschrieben. Guthaben bleiben bis zum Ende des Programms erhalten.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>USSD-Dashboard</translation>
     </message>
@@ -2334,20 +2350,12 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Das Dashboard läuft schon. Sein Fenster ist jetzt vorn und behält sein Gerät.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>PIN anzeigen</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>fragt nach einem Text</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>Die Datei mit Ihren Guthaben war beschädigt. Sie bleibt als %1 erhalten, und eine neue wurde angelegt.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>Guthaben können nicht in %1 gespeichert werden. Sie bleiben bis zum Ende des Programms erhalten.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>Eine neuere Version des Programms hat %1 geschrieben. Guthaben bleiben bis zum Ende des Programms erhalten.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>Beenden Sie zuerst das Menü.</translation>
     </message>
 </context>
 </TS>

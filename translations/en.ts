@@ -1917,6 +1917,22 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Later</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>Show the PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>The file with your balances was damaged. It is kept as %1, and a new one has been started.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Balances cannot be stored in %1. They are kept until the program ends.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>A later version of the program has written %1. Balances are kept until the program ends.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>USSD Dashboard</translation>
     </message>
@@ -2333,20 +2349,12 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>The dashboard already runs. Its window is in front now and keeps its device.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>Show the PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>asks for a text</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>The file with your balances was damaged. It is kept as %1, and a new one has been started.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>Balances cannot be stored in %1. They are kept until the program ends.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>A later version of the program has written %1. Balances are kept until the program ends.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>End the menu first.</translation>
     </message>
 </context>
 </TS>

@@ -1917,6 +1917,22 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Más tarde</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar el PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>Panel USSD</translation>
     </message>
@@ -2333,20 +2349,12 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>Mostrar el PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pide un texto</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine antes el menú.</translation>
     </message>
 </context>
 </TS>

@@ -1918,6 +1918,22 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Plus tard</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>Afficher le PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Le fichier de vos soldes était endommagé. Il est conservé sous %1 et un nouveau a été créé.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Les soldes ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Une version plus récente du programme a écrit %1. Les soldes sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>Tableau USSD</translation>
     </message>
@@ -2334,20 +2350,12 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde son appareil.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>Afficher le PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>demande un texte</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>Le fichier de vos soldes était endommagé. Il est conservé sous %1 et un nouveau a été créé.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>Les soldes ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>Une version plus récente du programme a écrit %1. Les soldes sont conservés jusqu’à la fermeture du programme.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>Terminez d’abord le menu.</translation>
     </message>
 </context>
 </TS>

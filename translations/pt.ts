@@ -1918,6 +1918,22 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>Mais tarde</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar o PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>O ficheiro com os seus saldos estava danificado. Fica guardado como %1 e foi criado um novo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Não é possível guardar os saldos em %1. Ficam disponíveis até o programa fechar.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Uma versão mais recente do programa escreveu %1. Os saldos ficam disponíveis até o programa fechar.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>Painel USSD</translation>
     </message>
@@ -2334,20 +2350,12 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>O painel já está aberto. A sua janela está agora à frente e mantém o dispositivo.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>Mostrar o PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pede um texto</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>O ficheiro com os seus saldos estava danificado. Fica guardado como %1 e foi criado um novo.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>Não é possível guardar os saldos em %1. Ficam disponíveis até o programa fechar.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>Uma versão mais recente do programa escreveu %1. Os saldos ficam disponíveis até o programa fechar.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine primeiro o menu.</translation>
     </message>
 </context>
 </TS>

@@ -1916,6 +1916,22 @@
         <translation>Позже</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>Показать PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Файл с балансами был повреждён. Он сохранён как %1, создан новый.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Не удаётся сохранить балансы в %1. Они хранятся до закрытия программы.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Файл %1 записан более новой версией программы. Балансы хранятся до закрытия программы.</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>Панель USSD</translation>
     </message>
@@ -2332,20 +2348,12 @@
         <translation>Панель уже запущена. Её окно теперь впереди и сохраняет своё устройство.</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>Показать PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>запрашивает текст</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>Файл с балансами был повреждён. Он сохранён как %1, создан новый.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>Не удаётся сохранить балансы в %1. Они хранятся до закрытия программы.</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>Файл %1 записан более новой версией программы. Балансы хранятся до закрытия программы.</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>Сначала завершите меню.</translation>
     </message>
 </context>
 </TS>

@@ -1914,6 +1914,22 @@
         <translation>稍后</translation>
     </message>
     <message>
+        <source>PIN_SHOW</source>
+        <translation>显示 PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>余额文件已损坏。它已保留为 %1，并新建了一个文件。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>无法将余额保存到 %1。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>%1 由更新版本的程序写入。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
         <source>NAV_TITLE</source>
         <translation>USSD 面板</translation>
     </message>
@@ -2330,20 +2346,12 @@
         <translation>面板已在运行。其窗口现已置于最前，设备保持不变。</translation>
     </message>
     <message>
-        <source>PIN_SHOW</source>
-        <translation>显示 PIN</translation>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>需要输入文字</translation>
     </message>
     <message>
-        <source>ACCOUNT_DAMAGED</source>
-        <translation>余额文件已损坏。它已保留为 %1，并新建了一个文件。</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_NOT_STORED</source>
-        <translation>无法将余额保存到 %1。余额将保留到程序关闭。</translation>
-    </message>
-    <message>
-        <source>ACCOUNT_LATER_VERSION</source>
-        <translation>%1 由更新版本的程序写入。余额将保留到程序关闭。</translation>
+        <source>SERVICE_END_MENU</source>
+        <translation>请先结束菜单。</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "base/DashboardText.h"
+#include "base/Isolate.h"
 #include "DeviceStatus.h"
 #include "look/Controls.h"
 #include "tksv_device.h"
@@ -223,7 +224,7 @@ QString titleOf(const Row &row, const QString &chosenModem)
         return dashboardText(row.title);
     if (chosenModem.isEmpty())
         return dashboardText("DEVICE_CHOSEN_ABSENT_UNNAMED");
-    return dashboardText(row.title).arg(chosenModem);
+    return dashboardText(row.title).arg(isolated(chosenModem));
 }
 
 void addOnce(QList<Remedy> *remedies, Remedy remedy, bool isUseful)

@@ -88,8 +88,9 @@ void setRemedyButton(QPushButton *button, Remedy remedy, bool isMain)
 
 // ---- buttons ------------------------------------------------------------------------------------
 
-RemedyButtons::RemedyButtons(QWidget *parent)
-    : QWidget(parent), m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this))
+RemedyButtons::RemedyButtons(Qt::Alignment alignment, QWidget *parent)
+    : QWidget(parent), m_alignment(alignment),
+      m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_layout, 8);
@@ -134,11 +135,15 @@ int RemedyButtons::rowWidth() const
     return width;
 }
 
+/// Aligns the buttons. No button is stretched, because a style sheet would then move icon and text
+/// apart in a right-to-left layout.
 void RemedyButtons::arrange()
 {
     const bool isRow = rowWidth() <= width();
     m_layout->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    m_layout->setAlignment(isRow ? Qt::AlignHCenter : Qt::Alignment());
+    m_layout->setAlignment(isRow ? m_alignment : Qt::Alignment());
+    for (QPushButton *button : m_buttons)
+        m_layout->setAlignment(button, isRow ? Qt::Alignment() : m_alignment);
 }
 
 void RemedyButtons::resizeEvent(QResizeEvent *event)
@@ -162,7 +167,8 @@ StateCard::StateCard(QWidget *parent)
     : QWidget(parent), m_card(Dashboard::makeCard(this)), m_icon(new IconDisc(m_card)),
       m_title(makeWrapped("h2", "Dashboard_StateTitle", m_card)),
       m_text(makeWrapped("muted", "Dashboard_StateText", m_card)),
-      m_remedies(new RemedyButtons(m_card)), m_lastKnown(Dashboard::makeCard(this)),
+      m_remedies(new RemedyButtons(Qt::AlignHCenter, m_card)),
+      m_lastKnown(Dashboard::makeCard(this)),
       m_lastTitle(makeWrapped("strong", "Dashboard_LastKnownTitle", m_lastKnown)),
       m_lastText(makeWrapped("small", "Dashboard_LastKnownText", m_lastKnown))
 {

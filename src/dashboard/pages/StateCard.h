@@ -25,7 +25,8 @@ class RemedyButtons : public QWidget
 {
     Q_OBJECT
 public:
-    explicit RemedyButtons(QWidget *parent = nullptr);
+    /// `alignment` is the horizontal alignment of the buttons.
+    explicit RemedyButtons(Qt::Alignment alignment, QWidget *parent = nullptr);
 
     /// Replaces the buttons if the remedies differ, and updates their texts.
     void setRemedies(const QList<Remedy> &remedies);
@@ -43,6 +44,7 @@ private:
     void arrange();
     int rowWidth() const;
 
+    const Qt::Alignment m_alignment;
     QList<Remedy> m_remedies;
     QList<QPushButton *> m_buttons;
     QBoxLayout *m_layout;
