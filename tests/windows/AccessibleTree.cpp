@@ -4,6 +4,9 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 
+#include <algorithm>
+#include <iterator>
+
 namespace
 {
 
@@ -51,8 +54,8 @@ bool Accessible::isShown() const
 
 bool Accessible::isSilent() const
 {
-    static const char *const GROUPS[] = {"filler", "panel",       "unknown",
-                                         "label",  "scroll pane", "separator"};
+    static const char *const GROUPS[] = {"filler", "frame",       "panel",     "unknown",
+                                         "label",  "scroll pane", "separator", "layered pane"};
     const bool isGroup = std::any_of(std::begin(GROUPS), std::end(GROUPS),
                                      [this](const char *group) { return role == text(group); });
     return isGroup && name.isEmpty() && description.isEmpty();
@@ -158,6 +161,8 @@ void AccessibleTree::addVisible(QList<Accessible> &list, const QString &service,
         return;
     if (!object.isSilent())
         list << object;
+    if (object.role == text("push button") || object.role == text("page tab"))
+        return; // a screen reader does not read the parts of a button
     const QList<QPair<QString, QString>> below = children(service, path);
     for (const QPair<QString, QString> &child : below.mid(0, MOST_CHILDREN))
         addVisible(list, child.first, child.second);

@@ -21,6 +21,7 @@ namespace
 
 const int LIMIT = 20000;       // ms
 const int LOOK_AGAIN_TIME = 5; // ms
+const std::chrono::milliseconds STOP_LIMIT(2000);
 const char LAUNCHER[] = "/usr/libexec/at-spi-bus-launcher";
 const char ADDRESS_PROPERTY[] = "AT_SPI_BUS";
 const char BUS_NAME[] = "org.a11y.Bus";
@@ -74,6 +75,12 @@ QDBusMessage busCall(const char *interface, const char *method)
 }
 
 } // namespace
+
+// The launcher stops its bus only on SIGTERM.
+PrivateDesktop::~PrivateDesktop()
+{
+    m_launcher.stop(STOP_LIMIT);
+}
 
 QStringList PrivateDesktop::missingPrograms()
 {

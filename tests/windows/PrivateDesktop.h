@@ -7,16 +7,20 @@
 #include "ChildProcess.h"
 #include "PrivateBus.h"
 
-class QDBusMessage;
-
 /**
  * An X server without a screen, a session bus and an accessibility bus for the programs of a test.
- * They are isolated from the desktop of the person who runs the test, and end together with the
- * test, even if the test crashes. Must be created on a thread that exists as long as the object.
+ * They are isolated from the desktop of the person who runs the test, and end with the object. If
+ * the test crashes, only the daemon of the accessibility bus remains. Must be created on a thread
+ * that exists as long as the object.
  */
 class PrivateDesktop
 {
 public:
+    PrivateDesktop() = default;
+    ~PrivateDesktop();
+    PrivateDesktop(const PrivateDesktop &) = delete;
+    PrivateDesktop &operator=(const PrivateDesktop &) = delete;
+
     /// Returns the programs that this class needs and that are not installed.
     static QStringList missingPrograms();
 

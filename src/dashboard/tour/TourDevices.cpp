@@ -258,7 +258,7 @@ bool walkOperator(TourGuide &guide)
 
 bool TourParts::walkDevices(TourGuide &guide)
 {
-    guide.window()->showPage(true);
+    guide.window()->showPage(PageId::Codes);
     guide.visit(guide.window(), MAIN);
     return guide.useNetwork() && walkModems(guide) && walkPin(guide) && walkTexts(guide) &&
            walkOperator(guide) && guide.useNetwork() && guide.usePlugin();

@@ -40,6 +40,7 @@ public:
     const DeviceWatcher &device() const { return m_device; }
     NetworkTextWatcher &networkTexts() { return m_networkTexts; }
     OperatorCodes &operatorCodes() { return m_operatorCodes; }
+    const OperatorCodes &operatorCodes() const { return m_operatorCodes; }
     const SimFollower &sim() const { return m_sim; }
 
     /// Sets the function that returns the general window of the page. The function may return an
