@@ -11,6 +11,7 @@
 #include "FirstPaint.h"
 #include "Languages.h"
 #include "look/Look.h"
+#include "look/StartEnvironment.h"
 #include "look/TextSize.h"
 #include "plugin/KeyboardHelper.h"
 #include "plugin/LoadedPlugin.h"
@@ -153,7 +154,9 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
         return fail(dashboardText("CLI_NO_DISPLAY"));
     DashboardSettings settings;
     applyTextSize(settings.textSize());
+    StartEnvironment::instance().leaveOpenGlOut();
     QApplication application(argc, argv);
+    StartEnvironment::instance().restore();
     const SingleInstance instance(SingleInstance::sessionName(settings.file()));
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
@@ -190,7 +193,8 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
-    applyTextSize(100); // per cent
+    qputenv("QT_FONT_DPI", "96"); // the platform "offscreen" has another resolution
+    applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())
         return fail(dashboardText("TOUR_NOT_WRITTEN").arg(library.path()));

@@ -7,6 +7,7 @@
 #include "InputFile.h"
 #include "LayoutCheck.h"
 #include "ProfilesCheck.h"
+#include "ReplyPatternCheck.h"
 #include "ScenarioCheck.h"
 #include "Spelling.h"
 #include "XmlName.h"
@@ -205,13 +206,17 @@ CheckReport checkContent(const QByteArray &content, const QString &file)
 {
     CheckReport report;
     report.file = file;
-    if (isXml(content)) {
+    if (areReplyPatterns(content)) {
+        report.kind = QLatin1String("patterns");
+        checkReplyPatterns(content, report);
+    } else if (isXml(content)) {
         checkXml(content, report);
     } else if (content.contains('[')) {
         report.kind = QLatin1String("scenario");
         checkScenario(content, report);
     } else {
-        report.error = QLatin1String("this is neither XML nor a scenario file");
+        report.error =
+            QLatin1String("this is neither XML nor a scenario file nor a file of reply patterns");
     }
     sortFindings(report);
     return report;

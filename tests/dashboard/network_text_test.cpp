@@ -22,7 +22,7 @@ private slots:
     void aCodeReadsFromLeftToRight();
     void aLongTextChangesNoSize();
     void thePanelTakesNoFocus();
-    void aQuestionOpensTheGeneralWindow();
+    void aQuestionDoesNotMoveThePage();
     void openingTheGeneralWindowEndsNothingOnTheDevice();
     void whatIsBeingTypedStays();
     void anAnswerEndsTheQuestion();
@@ -111,20 +111,20 @@ void NetworkTextTest::thePanelTakesNoFocus()
     QCOMPARE(before, edit);
 }
 
-void NetworkTextTest::aQuestionOpensTheGeneralWindow()
+void NetworkTextTest::aQuestionDoesNotMoveThePage()
 {
     loadPlugin();
-    window().showPage(false);
+    window().showPage(PageId::Home);
     QVERIFY(!page().commandEdit()->isVisible());
     say("A gigabyte?\n1 Yes", true);
-    QVERIFY(page().commandEdit()->isVisible());
+    QVERIFY(!page().commandEdit()->isVisible()); // a message never moves the page
     QVERIFY(isAsking());
 }
 
 void NetworkTextTest::openingTheGeneralWindowEndsNothingOnTheDevice()
 {
     loadPlugin();
-    window().showPage(false);
+    window().showPage(PageId::Home);
     fakeSdkForgetRecords();
     say("A gigabyte?\n1 Yes", true);
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());

@@ -59,6 +59,8 @@ class VolumeReader
 public:
     explicit VolumeReader(const ReplyText &text) : m_text(text) {}
     std::optional<DataVolume> left();
+    /// Returns the bytes of the only volume, or -1.
+    qint64 only();
 
 private:
     void find();
@@ -71,7 +73,7 @@ private:
     ReplyPart wordsOf(const Volume &volume) const;
     std::optional<DataVolume> leftOfPair() const;
 
-    const ReplyText &m_text;
+    const ReplyText m_text;
     QList<Volume> m_volumes;
 };
 
@@ -194,7 +196,18 @@ std::optional<DataVolume> VolumeReader::left()
     return volume;
 }
 
+qint64 VolumeReader::only()
+{
+    find();
+    return m_volumes.size() == 1 ? m_volumes.first().bytes : -1;
+}
+
 } // namespace
+
+qint64 bytesOf(const QString &volume)
+{
+    return VolumeReader(ReplyText(volume)).only();
+}
 
 std::optional<DataVolume> readVolume(const ReplyText &text)
 {

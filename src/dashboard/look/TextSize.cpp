@@ -2,14 +2,15 @@
 
 #include <QGuiApplication>
 
+#include "StartEnvironment.h"
+
 namespace Dashboard
 {
 
 namespace
 {
 
-const char FONT_DPI[] = "QT_FONT_DPI";
-const int DPI_AT_100_PERCENT = 96;
+const char SCALE_FACTOR[] = "QT_SCALE_FACTOR";
 
 void scaleWithScreen()
 {
@@ -21,13 +22,23 @@ void scaleWithScreen()
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
+double scaleOfUser()
+{
+    bool isNumber = false;
+    const double scale = qgetenv(SCALE_FACTOR).toDouble(&isNumber);
+    return isNumber && scale > 0 ? scale : 1;
+}
+
 } // namespace
 
+// The resolution of fonts (QT_FONT_DPI) would not do: it replaces the resolution of the screen
+// instead of being multiplied with it.
 void applyTextSize(int percent)
 {
     scaleWithScreen();
-    if (percent > 100 && !qEnvironmentVariableIsSet(FONT_DPI))
-        qputenv(FONT_DPI, QByteArray::number(DPI_AT_100_PERCENT * percent / 100));
+    if (percent > 100)
+        StartEnvironment::instance().set(SCALE_FACTOR,
+                                         QByteArray::number(scaleOfUser() * percent / 100));
 }
 
 } // namespace Dashboard

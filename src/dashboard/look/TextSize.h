@@ -4,8 +4,9 @@
 namespace Dashboard
 {
 
-/// Makes all text larger, and sharp on every screen. Must be called before the QApplication is
-/// constructed. `percent` is 100 to 200. A value of QT_FONT_DPI that the user has set is kept.
+/// Makes everything larger, and sharp on every screen. Must be called before the QApplication is
+/// constructed. `percent` is 100 to 200. It is multiplied with the scale of the screen and with
+/// that of the user (QT_SCALE_FACTOR). Sets a variable of StartEnvironment.
 void applyTextSize(int percent);
 
 } // namespace Dashboard

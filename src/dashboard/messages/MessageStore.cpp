@@ -1,5 +1,7 @@
 #include "MessageStore.h"
 
+#include <utility>
+
 #include "base/DashboardText.h"
 #include "MessageDatabase.h"
 #include "TerminalText.h"
@@ -64,6 +66,7 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
         keepInMemory();
         message.id = m_database->add(m_sim, message);
     }
+    endWaiting(); // a newer message ends the session of an older one
     m_waiting = waitsForAnswer ? message.id : 0;
     report();
     emit added(message);
@@ -118,7 +121,7 @@ void MessageStore::markRead(qint64 id)
 {
     if (!message(id).isUnread || !m_database->markRead(id))
         return;
-    emit changed();
+    emit changed(id);
     count();
 }
 
@@ -126,7 +129,7 @@ void MessageStore::markAllRead()
 {
     if (m_unreadCount == 0 || !m_database->markAllRead(m_sim))
         return;
-    emit changed();
+    emit allRead();
     count();
 }
 
@@ -136,16 +139,15 @@ void MessageStore::remove(qint64 id)
         return;
     if (id == m_waiting)
         m_waiting = 0;
-    emit changed();
+    emit changed(id);
     count();
 }
 
 void MessageStore::endWaiting()
 {
-    if (m_waiting == 0)
-        return;
-    m_waiting = 0;
-    emit changed();
+    const qint64 id = std::exchange(m_waiting, 0);
+    if (id != 0)
+        emit changed(id);
 }
 
 void MessageStore::removeAll()

@@ -63,8 +63,10 @@ public slots:
 
 signals:
     void added(const Message &message);
-    /// Emitted when a message was marked as read, was removed, or no longer waits.
-    void changed();
+    /// Emitted when this message was marked as read, was removed, or no longer waits.
+    void changed(qint64 id);
+    /// Emitted when all messages were marked as read.
+    void allRead();
     /// Emitted when the current messages have been replaced, for example by those of another SIM.
     void reset();
     void unreadCountChanged(int count);

@@ -84,6 +84,7 @@ FirstRunStep::FirstRunStep(const char *objectName, QWidget *parent)
       m_text(makeLabel("small", this)), m_button(makeButton("", this))
 {
     setObjectName(QLatin1String(objectName));
+    m_title->setObjectName(QLatin1String(objectName) + QLatin1String("Title"));
     m_title->setWordWrap(true);
     m_text->setWordWrap(true);
     QGridLayout *grid = new QGridLayout(this);

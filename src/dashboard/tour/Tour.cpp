@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-const QSize WINDOW_SIZE(900, 740); // pixels
+const QSize WINDOW_SIZE(1120, 720); // pixels
 
 typedef bool (*Part)(TourGuide &guide);
 

@@ -1,7 +1,7 @@
+#include <QAction>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QPushButton>
 
 #include "device/DeviceWatcher.h"
@@ -11,6 +11,7 @@
 #include "tksv_device.h"
 #include "TourGuide.h"
 #include "TourParts.h"
+#include "window/Banners.h"
 #include "window/DeviceMenu.h"
 #include "window/MainWindow.h"
 
@@ -48,9 +49,6 @@ const TourChange SPEAKING[] = {{"# ---- services", "\n",
                                 "Dial *124*1# for it.\n\n[Push question]\nAfter=600\n"
                                 "Reply=A gigabyte for 1.00 EUR?\\n1 Yes\\n2 No\n"
                                 "[Push question/1]\nReply=Booked.\n\n"}};
-const TourChange KNOWN_HOME[] = {{"[Network]", "State=registered", "HomeNetwork=00101"},
-                                 {"[Network]", "Operator=Meridian Mobile", "Operator=Roamtel"}};
-
 /** Makes the dashboard show devices that this computer does not have. */
 class Show
 {
@@ -139,27 +137,31 @@ bool walkTwoModems(TourGuide &guide)
     guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
     DeviceMenu *menu = guide.window()->deviceMenu();
     TourGuide::settle();
-    const QRect entry = guide.window()->menuBar()->actionGeometry(menu->menuAction());
-    const bool isMirrored = guide.window()->layoutDirection() == Qt::RightToLeft;
-    const QPoint below =
-        isMirrored ? entry.bottomRight() - QPoint(menu->sizeHint().width(), 0) : entry.bottomLeft();
-    menu->popup(guide.window()->menuBar()->mapToGlobal(below));
+    QWidget *line = part<QWidget>(guide, "Dashboard_DeviceLine");
+    menu->popup(line->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
     const bool isTaken = guide.takeWith(menu, TWO_MODEMS);
     menu->close();
     return isTaken;
 }
 
-bool walkUnknownOperator(TourGuide &guide)
+/// Returns the status of a registered modem whose SIM has this home network.
+DeviceStatus modemOf(const char *operatorName, const char *homeNetwork)
 {
-    Show show(guide.window()->device());
     DeviceStatus status;
     status.isSimulated = false;
     status.state = TKSV_DEVICE_REGISTERED;
-    status.operatorName = QLatin1String("Roamtel");
+    status.operatorName = QLatin1String(operatorName);
     status.signalPercent = 64;
-    status.imsi = QLatin1String("001990123456789");
-    status.homeNetwork = QLatin1String("00199");
+    status.imsi = QLatin1String(homeNetwork) + QLatin1String("0123456789");
+    status.homeNetwork = QLatin1String(homeNetwork);
     status.source = QLatin1String(MODEL);
+    return status;
+}
+
+bool walkUnknownOperator(TourGuide &guide)
+{
+    Show show(guide.window()->device());
+    DeviceStatus status = modemOf("Roamtel", "00199");
     show.status(status);
     if (!guide.take(NO_CODES))
         return false;
@@ -225,7 +227,7 @@ bool walkTexts(TourGuide &guide)
 
 bool chooseFirstOperator(TourGuide &guide)
 {
-    part<QPushButton>(guide, "Dashboard_OperatorTake")->click();
+    part<QPushButton>(guide, "Dashboard_BannerAction")->click();
     QListWidget *list = part<QListWidget>(guide, "Dashboard_OperatorList");
     if (!list)
         return guide.failHere();
@@ -236,18 +238,24 @@ bool chooseFirstOperator(TourGuide &guide)
     return true;
 }
 
+bool isProposing(const TourGuide &guide)
+{
+    const Banners *banners = part<Banners>(guide, "Dashboard_Banner");
+    return banners->isVisible() && banners->shown() == Banners::Operator;
+}
+
 bool walkOperator(TourGuide &guide)
 {
     OperatorCodes &codes = guide.window()->operatorCodes();
-    const QWidget *notice = part<QWidget>(guide, "Dashboard_OperatorNotice");
-    if (!guide.useNetwork(KNOWN_HOME, 2))
-        return false;
+    Show show(guide.window()->device());
+    DeviceStatus status = modemOf("Roamtel", "00101");
+    show.status(status);
     codes.setPlaces(placesOfTour(guide.library()));
-    const bool isTaken = guide.waitFor([notice] { return isShown(notice); }) &&
+    const bool isTaken = guide.waitFor([&guide] { return isProposing(guide); }) &&
                          guide.take(PROPOSAL) && chooseFirstOperator(guide) &&
                          guide.waitFor([&codes] { return !codes.operatorInUse().isEmpty(); }) &&
                          guide.waitFor([&guide] {
-                             return isShown(part<QWidget>(guide, "Dashboard_PrepaidButton"));
+                             return part<QAction>(guide, "Dashboard_ActionPrepaid")->isVisible();
                          }) &&
                          guide.take(PROVISIONED);
     codes.setPlaces(OperatorPlaces::ofUser());

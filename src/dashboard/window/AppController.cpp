@@ -38,7 +38,9 @@ bool endsSession(int paidType)
 
 AppController::AppController(LoadedPlugin *plugin, DashboardSettings *settings, QObject *parent)
     : QObject(parent), m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
-      m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE)
+      m_operatorCodes(&m_device, settings),
+      m_monitor([this] { return pageWindow(); }, &m_device, m_sim.replies()),
+      m_awaitedFrame(PAID_TYPE_NONE)
 {
     m_frameDelay.setParent(this);
     m_frameDelay.setObjectName(QLatin1String("Dashboard_FrameDelay"));
@@ -136,6 +138,8 @@ PluginFailure AppController::restartPlugin()
 PluginFailure AppController::startWith(const PluginFailure &failure)
 {
     m_ownCodesTime = ownCodesTime();
+    m_monitor.forget();
+    warnAboutPaleTranscript();
     emit pluginStarted(failure);
     if (m_plugin->isUsable())
         m_sim.start();
@@ -204,6 +208,7 @@ bool AppController::setLanguage(const QString &code)
     if (m_settings)
         m_settings->setLanguage(code);
     m_plugin->notifyLanguageChange();
+    m_monitor.retranslate();
     emit languageChanged();
     return true;
 }
@@ -226,6 +231,7 @@ QString AppController::chooseDevice(const DeviceChoice &choice)
 void AppController::setDevice(const DeviceChoice &choice)
 {
     m_choice = choice;
+    m_monitor.forget();
     emit deviceChosen();
     m_device.refresh();
 }

@@ -10,6 +10,7 @@
 #include "device/DeviceChoice.h"
 #include "device/DeviceWatcher.h"
 #include "device/NetworkTextWatcher.h"
+#include "plugin/CommandMonitor.h"
 #include "plugin/GeneralWindow.h"
 #include "plugin/PluginFailure.h"
 #include "sim/OperatorCodes.h"
@@ -42,6 +43,7 @@ public:
     OperatorCodes &operatorCodes() { return m_operatorCodes; }
     const OperatorCodes &operatorCodes() const { return m_operatorCodes; }
     const SimFollower &sim() const { return m_sim; }
+    CommandMonitor &monitor() { return m_monitor; }
 
     /// Sets the function that returns the general window of the page. The function may return an
     /// incomplete window.
@@ -119,6 +121,7 @@ private:
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;
     std::function<GeneralWindow()> m_pageWindow;
+    CommandMonitor m_monitor;
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
     bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it

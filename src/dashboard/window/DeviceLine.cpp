@@ -27,7 +27,7 @@ ElidedLabel *makeLine(const char *type, const char *name, QWidget *parent)
 DeviceLine::DeviceLine(QWidget *parent)
     : QPushButton(parent), m_dot(new StatusDot(this)),
       m_state(makeLine("small", "Dashboard_DeviceState", this)),
-      m_name(makeLine("cap", "Dashboard_Source", this))
+      m_name(makeLine("cap", "Dashboard_DeviceName", this))
 {
     setObjectName(QLatin1String("Dashboard_DeviceLine"));
     setAutoDefault(false);

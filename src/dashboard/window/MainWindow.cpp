@@ -25,6 +25,7 @@
 #include "pages/SettingsPage.h"
 #include "plugin/LoadedPlugin.h"
 #include "ProfileKeeper.h"
+#include "RemedyRunner.h"
 #include "Scrim.h"
 #include "StandIns.h"
 #include "TerminalText.h"
@@ -65,7 +66,8 @@ QWidget *makeRoot(QWidget *window)
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
-      m_chooser(new OperatorChooser(&operatorCodes(), this)), m_menu(new AppMenu(this)),
+      m_chooser(new OperatorChooser(&operatorCodes(), this)),
+      m_remedies(new RemedyRunner(&m_controller, this)), m_menu(new AppMenu(this)),
       m_root(makeRoot(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
       m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
       m_textPanel(new NetworkTextPanel(m_root)), m_stack(new QStackedWidget(m_root)),
@@ -81,6 +83,7 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     m_controller.setPageWindow([this] { return GeneralWindow(page()); });
     followController();
     followBanners();
+    followRemedies();
     followNetworkTexts();
     QCoreApplication::instance()->installEventFilter(this);
     retranslate();
@@ -108,6 +111,17 @@ void MainWindow::followBanners()
     connect(m_banners, &Banners::closeRequested, this, &MainWindow::onBannerClosed);
     connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
     connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
+}
+
+void MainWindow::followRemedies()
+{
+    connect(m_remedies, &RemedyRunner::modemMenuRequested, this, &MainWindow::showModemMenu);
+    connect(m_remedies, &RemedyRunner::operatorRequested, m_chooser, &OperatorChooser::choose);
+    connect(m_remedies, &RemedyRunner::deviceFailed, this, &MainWindow::showScenarioError);
+    connect(m_remedies, &RemedyRunner::typingRequested, this, [this] {
+        showPage(PageId::Codes);
+        focusPage();
+    });
 }
 
 void MainWindow::followNetworkTexts()
@@ -166,6 +180,7 @@ void MainWindow::retranslate()
     m_navigation->retranslate();
     m_menu->retranslate();
     m_chooser->retranslate();
+    m_remedies->retranslate();
     m_textPanel->retranslate();
     for (Page *page : m_pages)
         page->retranslate();

@@ -25,6 +25,7 @@ class Navigation;
 class NetworkTextPanel;
 class OperatorChooser;
 class ProfileKeeper;
+class RemedyRunner;
 class Scrim;
 class SettingsPage;
 struct Situation;
@@ -112,6 +113,7 @@ private:
     void followController();
     void followNetworkTexts();
     void followBanners();
+    void followRemedies();
     void restorePlace();
     void updateForm();
     void applyForm();
@@ -142,6 +144,7 @@ private:
     Form m_form = Form::Wide;
     RegionCycle m_regions;
     OperatorChooser *m_chooser;
+    RemedyRunner *m_remedies;
     ProfileKeeper *m_profiles = nullptr;
     QString m_problem;
     AppMenu *m_menu;

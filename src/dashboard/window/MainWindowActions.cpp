@@ -12,7 +12,6 @@
 #include "device/Situation.h"
 #include "DeviceLine.h"
 #include "DeviceMenu.h"
-#include "DeviceNotice.h"
 #include "ExtendDialog.h"
 #include "Header.h"
 #include "InstallPaths.h"
@@ -21,8 +20,8 @@
 #include "MainWindow.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
+#include "RemedyRunner.h"
 #include "sim/SimWindows.h"
-#include "tksv_device.h"
 
 namespace Dashboard
 {
@@ -190,7 +189,7 @@ void MainWindow::openFrame(int paidType)
 void MainWindow::sendCode(const QString &code)
 {
     showPage(PageId::Codes);
-    m_controller.pageWindow().send(code);
+    m_controller.monitor().send(code);
 }
 
 void MainWindow::typeCode(const QString &code)
@@ -235,38 +234,18 @@ void MainWindow::editCodes()
         edit->click();
 }
 
+/// Cancels the command in flight or ends the open menu.
 void MainWindow::cancelCommand()
 {
-    TKSV_Device_CancelRequest();
+    if (m_controller.monitor().state().isPending())
+        m_controller.monitor().cancel();
+    else
+        m_controller.monitor().endMenu();
 }
 
 void MainWindow::perform(Remedy remedy)
 {
-    switch (remedy) {
-    case Remedy::EnterPin:
-        return m_deviceNotice->askForPin();
-    case Remedy::Enable:
-        TKSV_Device_Enable();
-        return;
-    case Remedy::LookAgain:
-        TKSV_Device_LookAgain();
-        return;
-    case Remedy::ChooseModem:
-        return showModemMenu();
-    case Remedy::TryDemonstration:
-        useDevice(m_controller.useDevice(DeviceChoice::simulated(QString())));
-        return;
-    case Remedy::UseMyModem:
-        useDevice(m_controller.chooseDevice(DeviceChoice::automatic()));
-        return;
-    case Remedy::ChooseOperator:
-        return m_chooser->choose();
-    case Remedy::TypeCode:
-        showPage(PageId::Codes);
-        return focusPage();
-    default:
-        return;
-    }
+    m_remedies->perform(remedy);
 }
 
 } // namespace Dashboard
