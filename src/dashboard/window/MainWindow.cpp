@@ -55,19 +55,26 @@ bool isAbsent(Situation::Kind kind)
            kind == Situation::Kind::ModemRemoved;
 }
 
+// A widget keeps the role that it has when a screen reader first hears of it, which may be while
+// the widget is constructed.
+QWidget *makeRoot(QWidget *window)
+{
+    installAccessibleRoles();
+    return new QWidget(window);
+}
+
 } // namespace
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
       m_chooser(new OperatorChooser(&operatorCodes(), this)),
       m_remedies(new RemedyRunner(&m_controller, this)), m_menu(new AppMenu(this)),
-      m_root(new QWidget(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
+      m_root(makeRoot(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
       m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
       m_textPanel(new NetworkTextPanel(m_root)), m_stack(new QStackedWidget(m_root)),
       m_scrim(new Scrim(m_root))
 {
     HostCore::HostState::setMainWindow(this);
-    installAccessibleRoles();
     setObjectName(QLatin1String("Dashboard_MainWindow"));
     makePages();
     makeCentre();
