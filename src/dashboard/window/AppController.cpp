@@ -10,6 +10,7 @@
 #include "Languages.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/ProfileBackup.h"
+#include "plugin/TranscriptColors.h"
 #include "plugin/UserActivity.h"
 #include "sim/SimWindows.h"
 
