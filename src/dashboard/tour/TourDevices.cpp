@@ -214,12 +214,16 @@ bool walkTexts(TourGuide &guide)
 {
     if (!guide.useNetwork(SPEAKING, 1))
         return false;
-    const QWidget *panel = part<QWidget>(guide, "Dashboard_NetworkTexts");
-    const QWidget *question = part<QWidget>(guide, "Dashboard_NetworkQuestion");
-    const bool isTaken = guide.waitFor([panel] { return isShown(panel); }) && guide.take(MESSAGE) &&
-                         guide.waitFor([question] { return isShown(question); }) &&
-                         guide.take(QUESTION);
-    part<QPushButton>(guide, "Dashboard_CloseNetworkTexts")->click();
+    const QWidget *messages = part<QWidget>(guide, "Dashboard_NavMessages");
+    const CommandMonitor &monitor = guide.window()->controller().monitor();
+    guide.window()->showPage(PageId::Messages);
+    const bool isTaken =
+        guide.waitFor([messages] { return !messages->accessibleDescription().isEmpty(); }) &&
+        guide.take(MESSAGE) && guide.waitFor([&monitor] {
+            return monitor.state().kind == CommandState::Kind::MenuOpen;
+        }) &&
+        guide.take(QUESTION);
+    guide.window()->showPage(PageId::Codes);
     return isTaken;
 }
 

@@ -18,11 +18,13 @@
 #include "LanguageMenu.h"
 #include "HomeSetup.h"
 #include "look/Look.h"
+#include "MessageParts.h"
 #include "Navigation.h"
-#include "NetworkTextPanel.h"
 #include "OperatorChooser.h"
 #include "PageArea.h"
 #include "pages/FirstRunPage.h"
+#include "pages/MessagesPage.h"
+#include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
 #include "plugin/LoadedPlugin.h"
 #include "ProfileKeeper.h"
@@ -68,11 +70,11 @@ QWidget *makeRoot(QWidget *window)
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
       m_chooser(new OperatorChooser(&operatorCodes(), this)),
-      m_remedies(new RemedyRunner(&m_controller, this)), m_menu(new AppMenu(this)),
+      m_remedies(new RemedyRunner(&m_controller, this)),
+      m_messages(new MessageParts(&m_controller, this)), m_menu(new AppMenu(this)),
       m_root(makeRoot(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
       m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
-      m_textPanel(new NetworkTextPanel(m_root)), m_stack(new QStackedWidget(m_root)),
-      m_scrim(new Scrim(m_root))
+      m_stack(new QStackedWidget(m_root)), m_scrim(new Scrim(m_root))
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
@@ -85,7 +87,7 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
     followController();
     followBanners();
     followRemedies();
-    followNetworkTexts();
+    followMessages();
     QCoreApplication::instance()->installEventFilter(this);
     retranslate();
     restorePlace();
@@ -100,6 +102,9 @@ void MainWindow::followController()
     connect(&m_controller, &AppController::pluginStarted, this, &MainWindow::onPluginStarted);
     connect(&m_controller, &AppController::windowsOffered, this,
             [this] { m_menu->offer(m_controller.windows()); });
+    connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
+            &ServicesPage::readServices);
+    connect(&m_controller.monitor(), &CommandMonitor::changed, this, &MainWindow::showServices);
     connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
     connect(&m_controller, &AppController::languageChanged, this, &MainWindow::retranslate);
@@ -125,13 +130,37 @@ void MainWindow::followRemedies()
     });
 }
 
-void MainWindow::followNetworkTexts()
+void MainWindow::followMessages()
 {
-    connect(&m_controller, &AppController::textReceived, m_textPanel, &NetworkTextPanel::add);
-    connect(&m_controller, &AppController::commandEnded, m_textPanel,
-            &NetworkTextPanel::endQuestion);
-    connect(&device(), &DeviceWatcher::lost, m_textPanel, &NetworkTextPanel::endQuestion);
+    MessageStore *store = &m_messages->store();
+    connect(store, &MessageStore::unreadCountChanged, m_navigation, &Navigation::setUnread);
+    connect(store, &MessageStore::unreadCountChanged, m_header, &Header::setUnread);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, store, &MessageStore::removeAll);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
+            &MessageCenter::look);
+    connect(&m_messages->notifier(), &DesktopNotifier::activated, this,
+            [this](DesktopNote::Kind kind, qint64 id) {
+                if (kind == DesktopNote::Kind::Message)
+                    openMessage(id);
+            });
+    connect(&m_messages->notifier(), &DesktopNotifier::attention, this,
+            [this] { QApplication::alert(this); });
     m_controller.start();
+}
+
+/// Shows the message of a notification that the user has clicked.
+void MainWindow::openMessage(qint64 id)
+{
+    raiseAgain();
+    showPage(PageId::Messages);
+    m_messagesPage->open(id);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_messages->center().onInFront();
 }
 
 void MainWindow::setProfiles(ProfileKeeper *profiles)
@@ -182,7 +211,7 @@ void MainWindow::retranslate()
     m_menu->retranslate();
     m_chooser->retranslate();
     m_remedies->retranslate();
-    m_textPanel->retranslate();
+    m_messages->retranslate();
     for (Page *page : m_pages)
         page->retranslate();
     m_firstRun->retranslate();
@@ -214,6 +243,8 @@ void MainWindow::showDevice()
     m_settingsPage->setDeviceChoice(choiceText());
     m_firstRun->showSituation(now);
     m_home->setSituation(now);
+    m_servicesPage->setSituation(now);
+    m_servicesPage->setOperatorName(device().status().operatorName);
     showFirstRun();
 }
 
@@ -230,6 +261,12 @@ QString MainWindow::choiceText() const
             return modemTitle(modem, m_controller.device().modems());
     }
     return dashboardText("SETTINGS_CHOSEN_MODEM");
+}
+
+void MainWindow::showServices()
+{
+    const CommandState::Kind kind = m_controller.monitor().state().kind;
+    m_servicesPage->setMenuOpen(kind == CommandState::Kind::MenuOpen);
 }
 
 void MainWindow::showHeader(const Situation &situation)

@@ -22,12 +22,14 @@ class DeviceNotice;
 class FirstRunPage;
 class Header;
 class HomeSetup;
+class MessageParts;
+class MessagesPage;
 class Navigation;
-class NetworkTextPanel;
 class OperatorChooser;
 class ProfileKeeper;
 class RemedyRunner;
 class Scrim;
+class ServicesPage;
 class SettingsPage;
 struct Situation;
 
@@ -98,6 +100,7 @@ signals:
     void frameClosed();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -112,7 +115,7 @@ private:
     void makeRegions();
     void addShortcut(const QKeySequence &key, const std::function<void()> &action);
     void followController();
-    void followNetworkTexts();
+    void followMessages();
     void followBanners();
     void followRemedies();
     void restorePlace();
@@ -128,6 +131,8 @@ private:
     void onBannerAction(Banners::Kind kind);
     void onBannerClosed(Banners::Kind kind);
     void showDevice();
+    void showServices();
+    void openMessage(qint64 id);
     void showHeader(const Situation &situation);
     void showDeviceLine(const Situation &situation);
     void showBanners();
@@ -146,6 +151,7 @@ private:
     RegionCycle m_regions;
     OperatorChooser *m_chooser;
     RemedyRunner *m_remedies;
+    MessageParts *m_messages;
     ProfileKeeper *m_profiles = nullptr;
     QString m_problem;
     AppMenu *m_menu;
@@ -155,11 +161,12 @@ private:
     Header *m_header;
     Banners *m_banners;
     DeviceNotice *m_deviceNotice;
-    NetworkTextPanel *m_textPanel;
     QStackedWidget *m_stack;
     HomeSetup *m_home = nullptr;
     CodesStandIn *m_codes = nullptr;
     Page *m_pages[int(PageId::Settings) + 1] = {};
+    ServicesPage *m_servicesPage = nullptr;
+    MessagesPage *m_messagesPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
     FirstRunPage *m_firstRun = nullptr;
     Scrim *m_scrim;

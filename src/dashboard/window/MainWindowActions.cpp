@@ -20,6 +20,7 @@
 #include "MainWindow.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
+#include "pages/MessagesPage.h"
 #include "RemedyRunner.h"
 #include "sim/SimWindows.h"
 
@@ -106,6 +107,10 @@ void MainWindow::makeShortcuts()
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_Period), [this] { cancelCommand(); });
+    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] {
+        showPage(PageId::Messages);
+        m_messagesPage->focusSearch();
+    });
     addShortcut(QKeySequence(Qt::Key_F10), [this] { showMenu(); });
     addShortcut(QKeySequence(Qt::Key_F6), [this] { m_regions.move(1); });
     addShortcut(QKeySequence(int(Qt::SHIFT) + Qt::Key_F6), [this] { m_regions.move(-1); });

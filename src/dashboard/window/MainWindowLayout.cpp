@@ -17,11 +17,13 @@
 #include "look/Controls.h"
 #include "look/Look.h"
 #include "MainWindow.h"
+#include "MessageParts.h"
 #include "Navigation.h"
-#include "NetworkTextPanel.h"
 #include "OperatorChooser.h"
 #include "pages/HomePage.h"
 #include "pages/FirstRunPage.h"
+#include "pages/MessagesPage.h"
+#include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
 #include "Scrim.h"
 #include "StandIns.h"
@@ -37,7 +39,7 @@ const QSize SMALLEST_SIZE(360, 560);
 const int WIDE_FROM = 66; // em
 const int MEDIUM_FROM = 46;
 
-enum Row { HeaderRow, BannerRow, NoticeRow, TextRow, PageRow, BarRow, Rows };
+enum Row { HeaderRow, BannerRow, NoticeRow, PageRow, BarRow, Rows };
 
 Form formOf(int width)
 {
@@ -64,8 +66,10 @@ void MainWindow::makePages()
     m_home = new HomeSetup(&m_controller, this, this);
     m_pages[int(PageId::Home)] = m_home->page();
     m_pages[int(PageId::Codes)] = m_codes;
-    m_pages[int(PageId::Services)] = new PlainPage("Dashboard_ServicesPage", "NAV_SERVICES");
-    m_pages[int(PageId::Messages)] = new PlainPage("Dashboard_MessagesPage", "NAV_MESSAGES");
+    m_servicesPage = new ServicesPage(this);
+    m_messagesPage = new MessagesPage(&m_messages->store(), &m_controller.monitor());
+    m_pages[int(PageId::Services)] = m_servicesPage;
+    m_pages[int(PageId::Messages)] = m_messagesPage;
     m_settingsPage = new SettingsPage(
         {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()});
     m_pages[int(PageId::Settings)] = m_settingsPage;
@@ -123,7 +127,7 @@ void MainWindow::makeCentre()
 void MainWindow::placeParts()
 {
     const bool isNarrow = m_form == Form::Narrow;
-    const QList<QWidget *> column = {m_header, m_banners, m_deviceNotice, m_textPanel, m_stack};
+    const QList<QWidget *> column = {m_header, m_banners, m_deviceNotice, m_stack};
     m_grid->removeWidget(m_navigation);
     if (isNarrow)
         m_grid->addWidget(m_navigation, BarRow, 1);
