@@ -14,6 +14,9 @@ using namespace Dashboard;
 class NetworkTextTest : public DeviceTest
 {
     Q_OBJECT
+protected:
+    void setUp() override;
+
 private slots:
     void aTextIsCountedAndKept();
     void readingMakesTheBadgeDisappear();
@@ -39,6 +42,12 @@ private:
 namespace
 {
 const long long NOON = 1795262400; // 2026-11-21 12:00 UTC
+}
+
+void NetworkTextTest::setUp()
+{
+    DeviceTest::setUp();
+    store().removeAll(); // the messages of an earlier test
 }
 
 void NetworkTextTest::say(const char *text, bool waitsForAnswer)
