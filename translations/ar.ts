@@ -816,10 +816,6 @@
         <translation>من 4 إلى 8 خانات. يُرسل إلى SIM ولا يُحفظ.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>رمز PIN:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>إدخال رمز PIN…</translation>
     </message>
@@ -1803,10 +1799,6 @@
         <translation>إنهاء دون إجابة</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>هناك رمز آخر قيد الإرسال.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>نسخ الرسالة</translation>
     </message>
@@ -1845,10 +1837,6 @@
     <message>
         <source>MESSAGE_FROM</source>
         <translation>رسالة من %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>رسالة من الشبكة</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

@@ -817,10 +817,6 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
         <translation>4 bis 8 Ziffern. Sie geht an die SIM und wird nicht aufbewahrt.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>PI&amp;N eingeben …</translation>
     </message>
@@ -1804,10 +1800,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Ohne Antwort beenden</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Ein anderer Code ist unterwegs.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Nachricht kopieren</translation>
     </message>
@@ -1846,10 +1838,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Nachricht von %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Nachricht vom Netz</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

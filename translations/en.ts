@@ -816,10 +816,6 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
         <translation>4 to 8 digits. It goes to the SIM and is not kept.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>Enter the PI&amp;N…</translation>
     </message>
@@ -1803,10 +1799,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>End without an answer</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Another code is on its way.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Copy the message</translation>
     </message>
@@ -1845,10 +1837,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Message from %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Message from the network</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

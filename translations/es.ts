@@ -816,10 +816,6 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>Introducir el PI&amp;N…</translation>
     </message>
@@ -1803,10 +1799,6 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Terminar sin responder</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Hay otro código en curso.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Copiar el mensaje</translation>
     </message>
@@ -1845,10 +1837,6 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Mensaje de %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Mensaje de la red</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

@@ -817,10 +817,6 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
         <translation>4 à 8 chiffres. Il va à la SIM et n’est pas conservé.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>Code &amp;PIN :</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>Saisir le code PI&amp;N…</translation>
     </message>
@@ -1804,10 +1800,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Terminer sans répondre</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Un autre code est en cours.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Copier le message</translation>
     </message>
@@ -1846,10 +1838,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Message de %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Message du réseau</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

@@ -817,10 +817,6 @@ Há uma cópia de %2. Quer recuperá-la? O ficheiro incompleto fica então guard
         <translation>4 a 8 algarismos. Vai para o SIM e não é guardado.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>Introduzir o PI&amp;N…</translation>
     </message>
@@ -1804,10 +1800,6 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>Terminar sem responder</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Há outro código a caminho.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Copiar a mensagem</translation>
     </message>
@@ -1846,10 +1838,6 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Mensagem de %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Mensagem da rede</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

@@ -815,10 +815,6 @@
         <translation>От 4 до 8 цифр. Он передаётся SIM и не сохраняется.</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN-код:</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>Ввести PI&amp;N-код…</translation>
     </message>
@@ -1802,10 +1798,6 @@
         <translation>Завершить без ответа</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>Отправляется другой код.</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>Скопировать сообщение</translation>
     </message>
@@ -1844,10 +1836,6 @@
     <message>
         <source>MESSAGE_FROM</source>
         <translation>Сообщение от %1</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>Сообщение от сети</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

@@ -813,10 +813,6 @@
         <translation>4 至 8 位数字。只发送给 SIM 卡，不会保存。</translation>
     </message>
     <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN 码：</translation>
-    </message>
-    <message>
         <source>PIN_BUTTON</source>
         <translation>输入 PI&amp;N 码…</translation>
     </message>
@@ -1800,10 +1796,6 @@
         <translation>不回答并结束</translation>
     </message>
     <message>
-        <source>MESSAGE_BUSY</source>
-        <translation>另一个代码正在发送。</translation>
-    </message>
-    <message>
         <source>MESSAGE_COPY</source>
         <translation>复制消息</translation>
     </message>
@@ -1842,10 +1834,6 @@
     <message>
         <source>MESSAGE_FROM</source>
         <translation>来自 %1 的消息</translation>
-    </message>
-    <message>
-        <source>MESSAGE_FROM_NETWORK</source>
-        <translation>来自网络的消息</translation>
     </message>
     <message>
         <source>MESSAGE_WAITS_SENTENCE</source>

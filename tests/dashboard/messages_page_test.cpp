@@ -35,6 +35,7 @@ private slots:
     void reachingTheEndReadsMoreRows();
     void aMessageThatComesLateHasItsPlace();
     void choosingAMessageReadsIt();
+    void theFocusReadsNothing();
     void aNewMessageMovesNothing();
     void filtersAndCounts();
     void wordsAreSearched();
@@ -177,6 +178,17 @@ void MessagesPageTest::choosingAMessageReadsIt()
     QCOMPARE(textOf("Dashboard_MessageSender"), SENDER);
     QVERIFY(textOf("Dashboard_MessageWhen").startsWith(latin1("Today, ")));
     QVERIFY(!part<QLabel>("Dashboard_MessageHint")->isVisible());
+}
+
+void MessagesPageTest::theFocusReadsNothing()
+{
+    add("text");
+    m_page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    list()->setFocus(Qt::TabFocusReason);
+    QVERIFY(list()->hasFocus());
+    QCOMPARE(m_store->unreadCount(), 1);
+    QVERIFY(part<QLabel>("Dashboard_MessageHint")->isVisible());
 }
 
 void MessagesPageTest::aNewMessageMovesNothing()

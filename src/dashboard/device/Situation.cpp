@@ -283,7 +283,7 @@ const char POLKIT_RULE[] = "// /etc/polkit-1/rules.d/50-modem.rules\n"
                            "    if (action.id.indexOf(\"org.freedesktop.ModemManager1.\") == 0 &&\n"
                            "        subject.isInGroup(\"netdev\"))\n"
                            "        return polkit.Result.YES;\n"
-                           "});\n";
+                           "});";
 
 Instruction howToStart(Kind kind)
 {

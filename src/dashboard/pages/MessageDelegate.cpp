@@ -35,6 +35,13 @@ QFont fontOf(int pixels, QFont::Weight weight)
     return font;
 }
 
+/// Returns the first line between U+2068 and U+2069, so that it keeps its own direction.
+QString firstLine(const QString &text)
+{
+    return QChar(0x2068) + text.trimmed().section(QLatin1Char('\n'), 0, 0).simplified() +
+           QChar(0x2069);
+}
+
 /** Paints one row. All rectangles are those of a left-to-right layout and are mirrored on use. */
 class RowPainter
 {
@@ -149,7 +156,7 @@ private:
         const QRect line(textStart(), m_row.top() + px(PADDING + 20), textEnd() - textStart(),
                          px(20));
         const QString text = m_message.text.isEmpty() ? dashboardText("MESSAGE_UNKNOWN_TEXT")
-                                                      : m_message.text.simplified();
+                                                      : firstLine(m_message.text);
         drawText(line, text, fontOf(13, QFont::Normal), Token::Text2,
                  Qt::AlignLeft | Qt::AlignVCenter);
     }
@@ -159,7 +166,7 @@ private:
         const QFont font = fontOf(12, QFont::DemiBold);
         const QString text = dashboardText("MESSAGE_WAITS");
         const int width =
-            qMin(QFontMetrics(font).horizontalAdvance(text) + px(16), textEnd() - textStart());
+            qMin(QFontMetrics(font).horizontalAdvance(text) + px(20), textEnd() - textStart());
         const QRect chip(textStart(), m_row.top() + px(PADDING + 42), width, px(CHIP_HEIGHT));
         m_painter->setPen(Qt::NoPen);
         m_painter->setBrush(color(isSelected() ? Token::Surface : Token::AccentSoft));

@@ -227,6 +227,7 @@ MessageReader::MessageReader(QWidget *parent)
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidgetResizable(true);
     scroll->setWidget(m_content);
+    setBox(scroll, "plain");
     setBox(scroll->viewport(), "plain");
     setBox(m_content, "plain");
     QVBoxLayout *column = new QVBoxLayout(this);
@@ -286,6 +287,9 @@ void MessageReader::retranslate()
 {
     const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);
     m_back->setText(dashboardText("MESSAGE_BACK"));
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft; // a Latin name starts there too
+    m_sender->setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                           Qt::AlignVCenter);
     m_sender->setText(m_message.sender);
     m_when->setText(dashboardText("MESSAGE_WHEN").arg(m_day, time));
     m_text->setText(m_message.text.isEmpty() ? dashboardText("MESSAGE_UNKNOWN_TEXT")

@@ -125,10 +125,10 @@ void MessagesPage::connectParts()
 {
     connect(m_markAll, &QPushButton::clicked, m_store, &MessageStore::markAllRead);
     connect(m_search, &QLineEdit::textChanged, this, &MessagesPage::search);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &MessagesPage::showCurrent);
-    connect(m_list, &QListView::clicked, this, &MessagesPage::showCurrent);
-    connect(m_list, &QListView::activated, this, &MessagesPage::showCurrent);
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MessagesPage::onChosen);
+    connect(m_list, &QListView::clicked, this, &MessagesPage::readChosen);
+    connect(m_list, &QListView::activated, this, &MessagesPage::readChosen);
     connect(m_reader, &MessageReader::backRequested, this, &MessagesPage::showList);
     connect(m_reader, &MessageReader::deleteRequested, this, &MessagesPage::removeCurrent);
     connect(m_reader->answerBox(), &AnswerBox::answered, m_monitor, &CommandMonitor::answer);
@@ -205,10 +205,26 @@ void MessagesPage::showEvent(QShowEvent *event)
 
 // ---- reading ------------------------------------------------------------------------------------
 
-/// Shows the current message and marks it as read.
-void MessagesPage::showCurrent()
+/// Returns the selected row. The current row may differ, because the list makes its first row the
+/// current one when it gets the focus.
+QModelIndex MessagesPage::chosen() const
 {
-    const Message message = m_model->message(m_list->currentIndex());
+    return m_list->selectionModel()->selectedIndexes().value(0);
+}
+
+/// In the narrow form, the arrow keys only move in the list.
+void MessagesPage::onChosen()
+{
+    if (m_form == Form::Narrow)
+        showAnswers();
+    else
+        readChosen();
+}
+
+/// Shows the selected message and marks it as read.
+void MessagesPage::readChosen()
+{
+    const Message message = m_model->message(chosen());
     if (message.isNull())
         return showAnswers();
     m_isReading = true;
@@ -220,7 +236,7 @@ void MessagesPage::showCurrent()
 /// Shows the message with its answers, or a hint if it no longer exists.
 void MessagesPage::showAnswers()
 {
-    const Message message = m_model->message(m_list->currentIndex());
+    const Message message = m_model->message(chosen());
     const bool isWaiting = !message.isNull() && message.id == m_store->waiting();
     const QDate day = message.receivedAt.date();
     m_reader->setMessage(message, isWaiting, dayText(day, QDate::currentDate()));
@@ -251,7 +267,7 @@ void MessagesPage::open(qint64 id)
         return;
     m_list->setCurrentIndex(index);
     m_list->scrollTo(index);
-    showCurrent();
+    readChosen();
 }
 
 void MessagesPage::removeCurrent()

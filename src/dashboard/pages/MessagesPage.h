@@ -9,6 +9,7 @@ class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListView;
+class QModelIndex;
 class QPushButton;
 
 namespace Dashboard
@@ -51,7 +52,9 @@ private:
     void connectParts();
     void setFilter(MessageQuery::Filter filter);
     void search();
-    void showCurrent();
+    QModelIndex chosen() const;
+    void onChosen();
+    void readChosen();
     void showList();
     void showParts();
     void showCounts();

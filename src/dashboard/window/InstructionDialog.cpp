@@ -85,6 +85,7 @@ void InstructionDialog::layOut(bool hasCommand)
     column->addWidget(m_title);
     column->addWidget(m_text);
     column->addWidget(box);
+    column->addStretch();
     column->addLayout(buttons);
     setMinimumWidth(widthOn(QGuiApplication::primaryScreen()));
 }

@@ -88,6 +88,9 @@ void QuestionDialog::layOut()
     scroll->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     scroll->setMaximumHeight(Look::instance().px(HIGHEST_TEXT));
     scroll->setWidget(m_text);
+    setBox(scroll, "plain");
+    setBox(scroll->viewport(), "plain");
+    setBox(m_text, "plain");
     QVBoxLayout *column = new QVBoxLayout(this);
     setMargins(column, 20, 18, 20, 18);
     setSpacing(column, 12);
