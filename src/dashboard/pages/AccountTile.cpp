@@ -120,7 +120,7 @@ void AccountTile::arrangeNarrow()
     setMargins(m_grid, 12, 9, 14, 9);
     setMinimumHeight(0);
     m_grid->addWidget(m_disc, 0, 0, 2, 1, Qt::AlignVCenter);
-    m_grid->addWidget(m_caption, 0, 1);
+    m_grid->addWidget(m_caption, 0, 1, 1, 2);
     m_grid->addWidget(m_value, 1, 1);
     m_grid->addWidget(m_note, 1, 2, Qt::AlignBottom);
     m_grid->setHorizontalSpacing(Look::instance().px(12));

@@ -4,6 +4,9 @@
 
 #include "Banners.h"
 #include "Navigation.h"
+#include "pages/AccountTile.h"
+#include "pages/BalanceCard.h"
+#include "pages/BalanceChart.h"
 #include "SignalBars.h"
 
 namespace Dashboard
@@ -54,6 +57,10 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
         return new QAccessibleWidget(bars, QAccessible::Graphic);
     if (Banners *banners = qobject_cast<Banners *>(object))
         return new QAccessibleWidget(banners, QAccessible::AlertMessage);
+    if (ChartView *chart = qobject_cast<ChartView *>(object))
+        return new QAccessibleWidget(chart, QAccessible::Graphic);
+    if (qobject_cast<BalanceCard *>(object) || qobject_cast<AccountTile *>(object))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Grouping);
     return nullptr;
 }
 
