@@ -40,6 +40,7 @@ private slots:
     void returnSendsWhatIsTyped();
     void escapeEmptiesTheField();
     void theReplyIsCopied();
+    void theRingIsRoundWithTheStyleSheet();
 
 private:
     CodesPage &codes() { return *m_page; }
@@ -297,6 +298,17 @@ void CodesPageTest::theReplyIsCopied()
     settle();
     shortcut(QKeySequence(QLatin1String("Ctrl+Shift+C")))->trigger();
     QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 7.00 EUR."));
+}
+
+// The style sheet makes other progress bars flat.
+void CodesPageTest::theRingIsRoundWithTheStyleSheet()
+{
+    Look::instance().start();
+    monitor().send(QLatin1String("*104#"));
+    settle();
+    const QWidget *ring = codes().findChild<QWidget *>(QLatin1String("Dashboard_SecondsRing"));
+    QVERIFY(ring->isVisible());
+    QCOMPARE(ring->size(), QSize(Look::instance().px(40), Look::instance().px(40)));
 }
 
 USSD_TEST_MAIN(CodesPageTest)

@@ -171,6 +171,7 @@ void HistoryPopup::addFooter()
 
 void HistoryPopup::choose(const QModelIndex &index)
 {
+    m_isKeyPressed = false;
     const QString code = index.data(CODE_ROLE).toString();
     if (code.isEmpty())
         m_history->deleteAll();
@@ -187,7 +188,7 @@ bool HistoryPopup::eventFilter(QObject *watched, QEvent *event)
     QKeyEvent *key = static_cast<QKeyEvent *>(event);
     if (watched == m_view)
         return onPopupKey(key);
-    m_isKeyPressed = true;
+    m_isKeyPressed = !key->text().isEmpty();
     return key->modifiers() == Qt::NoModifier && onEditKey(key->key());
 }
 

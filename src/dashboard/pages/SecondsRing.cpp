@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "look/Controls.h"
 #include "look/Look.h"
 #include "plugin/CommandMonitor.h"
 
@@ -22,6 +23,7 @@ SecondsRing::SecondsRing(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, REPLY_SECONDS);
     setTextVisible(false);
+    setBox(this, "ring"); // other progress bars are flat
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(&Look::instance(), &Look::changed, this, [this] {
         updateGeometry();

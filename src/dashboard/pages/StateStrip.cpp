@@ -296,7 +296,7 @@ void StateStrip::setSeconds(int seconds)
 
 void StateStrip::announce()
 {
-    const QString words = title() + QLatin1String(" · ") + text();
+    const QString words = title() + QString::fromUtf8(" · ") + text();
     const bool isCounting = !isBlocked() && m_state.kind == Kind::Waiting;
     const QString news = isCounting ? title() : words;
     setAccessibleName(title());
