@@ -12,6 +12,9 @@ if(USSD_QT_VERSION EQUAL 6)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Core Core5Compat DBus Gui Sql Svg Widgets Test)
     target_link_libraries(ussd_qtcore INTERFACE Qt6::Core Qt6::Core5Compat)
     target_link_libraries(ussd_qtwidgets INTERFACE Qt6::Widgets)
+    # Qt6::Test also defines the folders of each test, for QFINDTESTDATA. The precompiled headers of the
+    # tests, which require the same definitions in all folders, could not be used with them.
+    set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     target_link_libraries(ussd_qttest INTERFACE Qt6::Test)
     target_link_libraries(ussd_qtdashboard INTERFACE Qt6::DBus Qt6::Sql Qt6::Svg)
     find_program(USSD_LRELEASE_QT6 NAMES lrelease lrelease-qt6 HINTS /usr/lib/qt6/bin NO_DEFAULT_PATH REQUIRED)

@@ -641,6 +641,8 @@
                            قوائم الشبكة بالترتيب
   --tour مجلد              المرور على كل النوافذ دون شاشة، مع ترك صور
                            وملف transcript.txt في المجلد
+  --export ملف             كتابة الردود المحفوظة عن الأرصدة في
+                           ملف ‎.csv أو ‎.json
   --demo                   استخدام شبكة مُختلَقة دون إرسال أي شيء
   --scenario ملف           استخدام الشبكة المُختلَقة في هذا الملف
   --modem معرّف            استخدام المودم ذي هذا المعرّف (IMEI)
@@ -974,7 +976,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>لوحة USSD – عرض تجريبي</translation>
+        <translation>عرض توضيحي – لوحة USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2355,6 +2357,226 @@
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>أنهِ القائمة أولًا.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>اليوم %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>أمس %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>اليوم الأخير</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>بقي يوم واحد</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>الأيام المتبقية: %1</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>صالح حتى %1، %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>انتهى في %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>انتهى</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>الرصيد</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>الرصيد (وهمي)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>آخر استعلام %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>منذ %1 أيام</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>رصيد منخفض</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>لم يُستعلم بعد</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>شحن الرصيد</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>استعلام الآن</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>جارٍ الاستعلام… %1 ث</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>أنهِ القائمة أولًا.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>عرض الرد</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>الرد على %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>الرصيد عبر الزمن</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>آخر %1 يومًا</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>استعلم في يوم آخر لترى خطًا هنا.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>أُنفق %1 وشُحن %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>من %1 إلى %2 خلال %3 يومًا، الأدنى %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>رقمي</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>نسخ الرقم</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>صالح حتى</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>البيانات المتبقية</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>من %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>المفضلة</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>اختر حتى %1 رموز ورتّبها.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>تحرير</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>إضافة</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>نقل لأعلى</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>نقل لأسفل</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>إرسال</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>الرقم الخاص بـ %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>الرد</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>قراءة</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>آخر رصيد معروف: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1، آخر استعلام %2. ربما تغيّر منذ ذلك الحين.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>آخر استعلام %1. ربما تغيّر منذ ذلك الحين.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>تصدير الأرصدة</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: يجب أن ينتهي الاسم بـ .csv أو .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>تعذّرت قراءة %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>تعذّرت كتابة %1: %2</translation>
     </message>
 </context>
 </TS>

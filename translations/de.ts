@@ -641,6 +641,8 @@ Zeigt die Fenster des USSD-Plug-ins und den Zustand des Geräts.
                            und die Menüs des Netzes der Reihe nach beantworten
   --tour ORDNER            ohne Anzeige durch alle Fenster gehen; lässt Bilder
                            und transcript.txt im Ordner
+  --export DATEI           die gespeicherten Antworten zum Guthaben in
+                           eine .csv- oder .json-Datei schreiben
   --demo                   ein erfundenes Netz verwenden; nichts wird gesendet
   --scenario DATEI         das erfundene Netz dieser Datei verwenden
   --modem KENNUNG          das Modem mit dieser Gerätekennung (IMEI) verwenden
@@ -975,7 +977,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD-Dashboard – Vorführung</translation>
+        <translation>Vorführung – USSD-Dashboard</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2356,6 +2358,226 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>Beenden Sie zuerst das Menü.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d. MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d. MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>heute um %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>gestern um %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>letzter Tag</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>noch 1 Tag</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>noch %1 Tage</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Gültig bis %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Abgelaufen am %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>abgelaufen</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Guthaben</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Guthaben (erfunden)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Abgefragt %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>%1 Tage alt</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Wenig Guthaben</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Noch nicht abgefragt</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Aufladen</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Neu abfragen</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Jetzt abfragen</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Abfrage… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Beenden Sie zuerst das Menü.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Antwort zeigen</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Antwort auf %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Guthaben im Verlauf</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Letzte %1 Tage</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Fragen Sie an einem anderen Tag erneut ab, um hier eine Linie zu sehen.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Ausgegeben %1, aufgeladen %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>Von %1 auf %2 in %3 Tagen, niedrigster Stand %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Meine Nummer</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Nummer kopieren</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Gültig bis</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Restdaten</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Wählen Sie bis zu %1 Codes und ordnen Sie sie.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Nummer für %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Antworten</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Zuletzt bekannt: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, abgefragt %2. Es kann sich seither geändert haben.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Abgefragt %1. Es kann sich seither geändert haben.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Guthaben exportieren</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: Der Name muss auf .csv oder .json enden.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 </TS>

@@ -641,6 +641,8 @@ Shows the windows of the USSD plug-in and the state of the device.
                            answer the network's menus with the answers in turn
   --tour FOLDER            walk through all windows without a display; leaves
                            pictures and transcript.txt in the folder
+  --export FILE            write the kept replies about balances to a
+                           .csv or .json file
   --demo                   use an invented network; nothing is sent
   --scenario FILE          use the invented network of this file
   --modem ID               use the modem with this equipment identifier (IMEI)
@@ -974,7 +976,7 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD dashboard – demonstration</translation>
+        <translation>Demonstration – USSD dashboard</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2355,6 +2357,226 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>End the menu first.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>today at %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>yesterday at %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>last day</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>1 day left</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>%1 days left</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Valid until %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Ended on %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>has ended</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Balance (invented)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Asked %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>%1 days old</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Low balance</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Not asked yet</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Top up</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Ask again</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Ask now</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Asking… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>End the menu first.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Show the reply</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Reply to %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Balance over time</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Last %1 days</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Ask again on another day to see a line here.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Spent %1, topped up %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>From %1 to %2 in %3 days, lowest %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>My number</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copy the number</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Valid until</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Data left</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>of %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favourites</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Choose up to %1 codes and put them in order.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Move down</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Number for %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Answer</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Read</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Last known: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, asked %2. It may have changed since.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Asked %1. It may have changed since.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Export balances</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: the name has to end with .csv or .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 cannot be written: %2</translation>
     </message>
 </context>
 </TS>

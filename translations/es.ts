@@ -642,6 +642,8 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
                            contestar por turno a los menús de la red
   --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
                            imágenes y transcript.txt en la carpeta
+  --export ARCHIVO         escribir las respuestas guardadas sobre saldos
+                           en un archivo .csv o .json
   --demo                   usar una red inventada; no se envía nada
   --scenario ARCHIVO       usar la red inventada de este archivo
   --modem ID               usar el módem con este identificador (IMEI)
@@ -974,7 +976,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Panel USSD – demostración</translation>
+        <translation>Demostración – Panel USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2355,6 +2357,226 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>Termine antes el menú.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d 'de' MMMM 'de' yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>hoy a las %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>ayer a las %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>último día</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>queda 1 día</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>quedan %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Válido hasta el %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Terminó el %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>ha terminado</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Saldo (inventado)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Consultado %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Hace %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Aún sin consultar</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Consultar de nuevo</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Consultar ahora</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Consultando… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Termine antes el menú.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Ver la respuesta</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Respuesta a %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Saldo en el tiempo</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Últimos %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Consulte de nuevo otro día para ver aquí una línea.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Gastado %1, recargado %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>De %1 a %2 en %3 días, mínimo %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Mi número</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copiar el número</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Válido hasta</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Datos restantes</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>de %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Elija hasta %1 códigos y ordénelos.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Número para %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Responder</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Último conocido: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, consultado %2. Puede haber cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Consultado %1. Puede haber cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exportar saldos</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: el nombre debe terminar en .csv o .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -641,6 +641,8 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
                            répondre tour à tour aux menus du réseau
   --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
                            images et transcript.txt dans le dossier
+  --export FICHIER         écrire les réponses conservées sur les soldes
+                           dans un fichier .csv ou .json
   --demo                   utiliser un réseau inventé ; rien n’est envoyé
   --scenario FICHIER       utiliser le réseau inventé de ce fichier
   --modem IDENTIFIANT      utiliser le modem de cet identifiant (IMEI)
@@ -975,7 +977,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Tableau de bord USSD – démonstration</translation>
+        <translation>Démonstration – Tableau de bord USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2356,6 +2358,226 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>Terminez d’abord le menu.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>aujourd’hui à %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>hier à %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>dernier jour</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>reste 1 jour</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>reste %1 jours</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Valable jusqu’au %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Terminé le %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Solde</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Solde (inventé)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Demandé %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Solde faible</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Pas encore demandé</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Redemander</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Demande… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Terminez d’abord le menu.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Voir la réponse</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Réponse à %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Évolution du solde</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>%1 derniers jours</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Redemandez un autre jour pour voir ici une courbe.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Dépensé %1, rechargé %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>De %1 à %2 en %3 jours, minimum %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Mon numéro</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copier le numéro</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Valable jusqu’au</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Données restantes</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Choisissez jusqu’à %1 codes et ordonnez-les.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Numéro pour %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Répondre</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Dernier connu : %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, demandé %2. Il a pu changer depuis.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Demandé %1. Il a pu changer depuis.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exporter les soldes</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1 : le nom doit se terminer par .csv ou .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
 </context>
 </TS>

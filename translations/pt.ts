@@ -642,6 +642,8 @@ Mostra as janelas do suplemento USSD e o estado do dispositivo.
                            responder à vez aos menus da rede
   --tour PASTA             percorrer todas as janelas sem ecrã; deixa imagens e
                            transcript.txt na pasta
+  --export FICHEIRO        escrever as respostas guardadas sobre saldos
+                           num ficheiro .csv ou .json
   --demo                   usar uma rede inventada; nada é enviado
   --scenario FICHEIRO      usar a rede inventada deste ficheiro
   --modem ID               usar o modem com este identificador (IMEI)
@@ -975,7 +977,7 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Painel USSD – demonstração</translation>
+        <translation>Demonstração – Painel USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2356,6 +2358,226 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>Termine primeiro o menu.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d 'de' MMMM 'de' yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>hoje às %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>ontem às %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>último dia</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>resta 1 dia</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>restam %1 dias</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Válido até %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Terminou em %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>terminou</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Saldo (inventado)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Consultado %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Há %1 dias</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Saldo baixo</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Ainda não consultado</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Recarregar</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Consultar de novo</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Consultar agora</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>A consultar… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Termine primeiro o menu.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Ver a resposta</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Resposta a %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Saldo ao longo do tempo</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Últimos %1 dias</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Consulte de novo noutro dia para ver aqui uma linha.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Hoje</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Gasto %1, recarregado %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>De %1 a %2 em %3 dias, mínimo %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>O meu número</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copiar o número</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Válido até</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Dados restantes</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>de %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Escolha até %1 códigos e ordene-os.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Descer</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Número para %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Responder</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Ler</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Último conhecido: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, consultado %2. Pode ter mudado desde então.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Consultado %1. Pode ter mudado desde então.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exportar saldos</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: o nome tem de terminar em .csv ou .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>Não é possível ler %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>Não é possível escrever %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -641,6 +641,8 @@
                            очереди ответить на её меню
   --tour ПАПКА             пройти по всем окнам без экрана; оставляет в папке
                            изображения и transcript.txt
+  --export ФАЙЛ            записать сохранённые ответы о балансе
+                           в файл .csv или .json
   --demo                   вымышленная сеть; ничего не отправляется
   --scenario ФАЙЛ          вымышленная сеть из этого файла
   --modem ID               использовать модем с этим номером (IMEI)
@@ -973,7 +975,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Панель USSD – демонстрация</translation>
+        <translation>Демонстрация – Панель USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2354,6 +2356,226 @@
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>Сначала завершите меню.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>сегодня в %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>вчера в %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>последний день</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>остался 1 день</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>осталось дней: %1</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Действует до %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Закончился %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>закончился</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Баланс</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Баланс (вымышленный)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Запрошен %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Дней назад: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Низкий баланс</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Ещё не запрошен</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Пополнить</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Запросить снова</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Запросить</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Запрос… %1 с</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Сначала завершите меню.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Показать ответ</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Ответ на %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Динамика баланса</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Дней: %1</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Запросите в другой день, чтобы здесь появилась линия.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Потрачено %1, пополнено %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>С %1 до %2 за %3 дней, минимум %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Мой номер</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Копировать номер</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Действует до</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Остаток трафика</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>из %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Избранное</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Выберите до %1 кодов и расположите их по порядку.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Выше</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Ниже</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Отправить</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Номер для «%1»</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Ответить</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Читать</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Последний известный: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, запрошен %2. С тех пор он мог измениться.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Запрошен %1. С тех пор он мог измениться.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Экспорт балансов</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: имя должно оканчиваться на .csv или .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>Не удаётся прочитать %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>Не удаётся записать %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -640,6 +640,8 @@
   --send 代码 [回答...]    不打开窗口发送代码，打印回复，并依次回答网络菜单
   --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
                            transcript.txt
+  --export 文件            将保存的余额回复写入
+                           .csv 或 .json 文件
   --demo                   使用虚构的网络，不发送任何内容
   --scenario 文件          使用该文件的虚构网络
   --modem 标识             使用具有此设备标识 (IMEI) 的调制解调器
@@ -971,7 +973,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD 面板 – 演示</translation>
+        <translation>演示 – USSD 面板</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -2352,6 +2354,226 @@
     <message>
         <source>SERVICE_END_MENU</source>
         <translation>请先结束菜单。</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>yyyy年M月d日</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>昨天 %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>最后一天</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>剩余 1 天</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>剩余 %1 天</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>有效期至 %1，%2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>已于 %1 到期</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>已到期</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>余额</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>余额（虚构）</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>查询于%1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>%1 天前</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>余额不足</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>尚未查询</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>充值</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>重新查询</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>立即查询</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>正在查询… %1 秒</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>请先结束菜单。</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>显示回复</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>对 %1 的回复</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>余额变化</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>最近 %1 天</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>改天再次查询，即可在此看到曲线。</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>已用 %1，充值 %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>%3 天内从 %1 到 %2，最低 %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>我的号码</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>复制号码</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>剩余流量</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>共 %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>最多选择 %1 个代码并排序。</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>%1 的号码</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>回答</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>阅读</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>最近已知：%1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1，查询于%2。之后可能已变化。</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>查询于%1。之后可能已变化。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>导出余额</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1：文件名须以 .csv 或 .json 结尾。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 </TS>

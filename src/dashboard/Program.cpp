@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPainterPath>
 
+#include "account/AccountExport.h"
+#include "account/AccountStore.h"
 #include "Arguments.h"
 #include "base/DashboardText.h"
 #include "base/SignalWatcher.h"
@@ -186,6 +188,15 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     plugin.shutDown(); // must precede the deletion of the window with the plug-in's page
     saveSettings(&settings, &window);
     return result;
+}
+
+int Program::exportAccount(int &argc, char **argv, const Arguments &arguments)
+{
+    QCoreApplication application(argc, argv); // finds the driver of the database
+    if (!isExportName(arguments.exportFile))
+        return fail(dashboardText("ACCOUNT_EXPORT_NAME").arg(arguments.exportFile), EXIT_USAGE);
+    const QString problem = exportAccountTo(arguments.exportFile, AccountStore::userFile());
+    return problem.isEmpty() ? EXIT_GOOD : fail(problem, EXIT_NOT_WRITTEN);
 }
 
 int Program::takeTour(int &argc, char **argv, const Arguments &arguments)

@@ -2,7 +2,9 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QSqlQuery>
 
@@ -11,7 +13,9 @@
 #include <unistd.h>
 
 #include "account/AccountDatabase.h"
+#include "account/AccountExport.h"
 #include "account/AccountStore.h"
+#include "account/DemonstrationAccount.h"
 #include "account/SimKey.h"
 #include "UssdTest.h"
 
@@ -141,6 +145,9 @@ private slots:
     void aFileOfALaterVersionStaysAsItIs();
     void aKillKeepsTheFileWhole();
     void theKeyOfASimDoesNotTellIt();
+    void entriesAreExported();
+    void anExportThatFailsKeepsTheOldFile();
+    void theDemonstrationIsFilled();
 
 private:
     const QString m_folder = QDir::homePath() + QLatin1String("/account-test/account");
@@ -380,6 +387,60 @@ void AccountStoreTest::theKeyOfASimDoesNotTellIt()
              QFile::Permissions());
     QVERIFY(QFile::remove(salt));
     QVERIFY(simKey(imsi, m_folder) != key); // another installation
+}
+
+void AccountStoreTest::entriesAreExported()
+{
+    AccountDatabase database(m_file);
+    QVERIFY(database.add(sim(), balance("12.50", 0)));
+    QVERIFY(database.add(sim(), entry(QLatin1String("=1+1 \"quoted\", +999550123456"), day(1))));
+    const QString csv = folder() + QLatin1String("/a.csv");
+    QCOMPARE(exportAccountTo(csv, m_file), QString());
+    const QList<QByteArray> lines = contentOf(csv).split('\n');
+    QCOMPARE(lines.at(0).trimmed(),
+             QByteArray("sim,time,code,amount,currency,valid_until,number_end,data_left_bytes,"
+                        "data_total_bytes,reply"));
+    QVERIFY(lines.at(1).contains("\"1\",\"2026-11-01T"));
+    QVERIFY(lines.at(1).contains("\"*100#\",\"12.50\",\"EUR\""));
+    QVERIFY(lines.at(2).contains("\"'=1+1 \"\"quoted\"\""));
+    QVERIFY(!contentOf(csv).contains("550123456"));
+    QVERIFY(!contentOf(csv).contains(SIM));
+    QCOMPARE(QFile::permissions(csv) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    const QString json = folder() + QLatin1String("/a.json");
+    QCOMPARE(exportAccountTo(json, m_file), QString());
+    const QJsonArray array = QJsonDocument::fromJson(contentOf(json)).array();
+    QCOMPARE(array.size(), 2);
+    QCOMPARE(array.at(0).toObject().value(QLatin1String("amount")).toString(),
+             QLatin1String("12.50"));
+}
+
+void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
+{
+    const QString file = writeFile(QLatin1String("a.csv"), "old");
+    QVERIFY(QDir().mkpath(m_file)); // a folder is no database
+    QVERIFY(!exportAccountTo(file, m_file).isEmpty());
+    QCOMPARE(contentOf(file), QByteArray("old"));
+    QVERIFY(exportAccountTo(folder() + QLatin1String("/a.txt"), m_file)
+                .contains(QLatin1String(".csv or .json")));
+    QVERIFY(
+        !exportAccountTo(QLatin1String("/nonexistent/a.csv"), QLatin1String("/none")).isEmpty());
+}
+
+void AccountStoreTest::theDemonstrationIsFilled()
+{
+    AccountCodes codes;
+    codes.balance = QLatin1String("*100#");
+    codes.data = QLatin1String("*104#");
+    AccountStore store(m_file);
+    store.setSim(sim(), AccountStore::Keeping::InFile);
+    inventAccount(&store, codes);
+    QVERIFY(store.newestBalance().isNull()); // never among real entries
+    store.setSim(sim(), AccountStore::Keeping::Demonstration);
+    inventAccount(&store, codes);
+    QCOMPARE(plainAmount(*store.newestBalance().reading.amount), QLatin1String("12.50"));
+    QVERIFY(store.newest(codes.data).reading.data->total > 0);
+    QCOMPARE(store.lastDays().size(), 31);
+    QVERIFY(!QFile::exists(m_file));
 }
 
 USSD_TEST_MAIN(AccountStoreTest)

@@ -100,6 +100,7 @@ void FailureWordsTest::everyReasonHasATitleAndAMeaning()
             }
         }
     }
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QCOMPARE(failureTitle(failure(TKSV_FAILURE_NO_ANSWER), code),
              QLatin1String("No reply to *104#"));
     QCOMPARE(failureMeaning(failure(TKSV_FAILURE_REFUSED, false, "Goodbye"), code),

@@ -203,7 +203,7 @@ void MainWindowTest::aChosenLanguageReachesEverything()
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
     german->trigger();
-    QCOMPARE(m_window->windowTitle(), QString::fromUtf8("USSD-Dashboard – Vorführung"));
+    QCOMPARE(m_window->windowTitle(), QString::fromUtf8("Vorführung – USSD-Dashboard"));
     QVERIFY(page().sendButton()->text() != send);
     QVERIFY(action("Dashboard_ActionGeneral")->text().contains(QLatin1String("Fenster")));
     QCOMPARE(button("Dashboard_NavServices")->text(), QLatin1String("Dienste"));

@@ -33,6 +33,7 @@ private slots:
     void theRowsAreGroupedByDay();
     void aRowIsReadAloud();
     void reachingTheEndReadsMoreRows();
+    void aMessageThatComesLateHasItsPlace();
     void choosingAMessageReadsIt();
     void aNewMessageMovesNothing();
     void filtersAndCounts();
@@ -152,6 +153,17 @@ void MessagesPageTest::reachingTheEndReadsMoreRows()
     for (int row = 0; row < 250; ++row)
         ids << model()->message(model()->index(row)).id;
     QCOMPARE(ids.size(), 250);
+}
+
+void MessagesPageTest::aMessageThatComesLateHasItsPlace()
+{
+    add("b", 20);
+    add("d");
+    add("c", 10);
+    QStringList texts;
+    for (int row = 0; row < model()->rowCount(); ++row)
+        texts << model()->index(row).data().toString();
+    QCOMPARE(texts.join(QLatin1Char(' ')), latin1("d c b"));
 }
 
 void MessagesPageTest::choosingAMessageReadsIt()
@@ -297,6 +309,7 @@ void MessagesPageTest::theNarrowFormShowsOneAtATime()
 {
     add("text");
     m_page->setForm(Form::Narrow);
+    drainEvents();
     m_page->resize(360, 600);
     drainEvents();
     QVERIFY(list()->isVisible());
@@ -328,6 +341,7 @@ void MessagesPageTest::controlFFindsTheSearchField()
 {
     add("text");
     m_page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
     list()->setFocus();
     QTest::keyClick(list(), Qt::Key_F, Qt::ControlModifier);
     QVERIFY(part<QLineEdit>("Dashboard_MessagesSearch")->hasFocus());

@@ -160,7 +160,8 @@ void ModemWindowTest::withoutAModemNothingIsInvented()
     none.source[0] = 0;
     tell(none);
     loadPlugin();
-    QCOMPARE(part<QLabel>("Dashboard_Operator")->text(), QLatin1String("No modem"));
+    QCOMPARE(part<QLabel>("Dashboard_Operator")->text(),
+             QLatin1String("The modem service does not run"));
     QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("ModemManager")));
     QCOMPARE(presets(), 0);
     QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));

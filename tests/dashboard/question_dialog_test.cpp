@@ -99,11 +99,12 @@ void QuestionDialogTest::theDialogTakesInputAboveTheFrame()
     ask();
     QCOMPARE(QApplication::activeModalWidget(), m_dialog.data());
     QLineEdit *field = m_dialog->answerBox()->field();
-    QTest::keyClicks(m_dialog->windowHandle(), latin1("Paris")); // only an unblocked window gets it
-    QCOMPARE(field->text(), latin1("Paris"));
+    for (const char character : {'p', 'a', 'r', 'i', 's'}) // only an unblocked window gets them
+        QTest::keyClick(m_dialog->windowHandle(), character);
+    QCOMPARE(field->text(), latin1("paris"));
     QTest::keyClick(m_dialog->windowHandle(), Qt::Key_Return);
     settle();
-    QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"Paris"});
+    QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"paris"});
 }
 
 void QuestionDialogTest::aChoiceAnswersAndClosesTheDialog()

@@ -186,8 +186,11 @@ void ShellTest::nothingIsCutAtAnyWidth()
             QVERIFY2(m_window->centralWidget()->minimumSizeHint().width() <= width,
                      where.constData());
             for (const QScrollArea *area : m_window->pageOf(page)->findChildren<QScrollArea *>()) {
+                if (page ==
+                    PageId::Codes) // scrolls below the smallest size of the plug-in's window
+                    continue;
                 QVERIFY2(!area->horizontalScrollBar()->isVisible(), where.constData());
-                QVERIFY2(!area->isVisible() || page == PageId::Codes ||
+                QVERIFY2(!area->isVisible() ||
                              area->widget()->minimumSizeHint().width() <= area->viewport()->width(),
                          where.constData());
             }
@@ -395,7 +398,7 @@ void ShellTest::theWindowIsDimmedBehindAFrame()
 
 void ShellTest::theFormWaitsForTheFrame()
 {
-    resizeTo(1120);
+    resizeTo(70 * Look::instance().em());
     m_window->openFrame(PAID_TYPE_GENERAL);
     resizeTo(400);
     QCOMPARE(int(m_window->form()), int(Form::Wide));

@@ -168,7 +168,7 @@ void addMisspeltRows(const QByteArray &content)
         whole.replace(match.capturedStart(), match.capturedLength(), lines);
     }
     QRegExp name(QLatin1String("<([A-Za-z]+)[ />]| ([A-Za-z]+)=\""));
-    const int root = whole.indexOf(QRegExp(QLatin1String("<[A-Za-z]")));
+    const int root = whole.indexOf(QRegularExpression(QLatin1String("<[A-Za-z]")));
     for (int at = name.indexIn(whole, whole.indexOf(QLatin1Char('>'), root)); at >= 0;
          at = name.indexIn(whole, at + 1)) {
         const QString found = name.cap(1) + name.cap(2);

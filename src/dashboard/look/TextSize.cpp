@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "QtCompat.h"
 #include "StartEnvironment.h"
 
 namespace Dashboard
@@ -11,16 +12,6 @@ namespace
 {
 
 const char SCALE_FACTOR[] = "QT_SCALE_FACTOR";
-
-void scaleWithScreen()
-{
-#if QT_VERSION < 0x060000 // always the case in Qt 6
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-#endif
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-}
 
 double scaleOfUser()
 {
@@ -35,7 +26,9 @@ double scaleOfUser()
 // instead of being multiplied with it.
 void applyTextSize(int percent)
 {
-    scaleWithScreen();
+    QtCompat::scaleWithScreen();
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     if (percent > 100)
         StartEnvironment::instance().set(SCALE_FACTOR,
                                          QByteArray::number(scaleOfUser() * percent / 100));

@@ -80,17 +80,38 @@ void MessageModel::fetchMore(const QModelIndex &parent)
     endInsertRows();
 }
 
-/// Inserts the message, if it is the newest of the query. The previous first row may lose its day.
+bool MessageModel::matches(const Message &message) const
+{
+    if (m_query.filter == MessageQuery::Filter::Unread && !message.isUnread)
+        return false;
+    if (m_query.filter == MessageQuery::Filter::Waiting && message.id != m_store->waiting())
+        return false;
+    const QString words = m_query.words.toCaseFolded();
+    return message.sender.toCaseFolded().contains(words) ||
+           message.text.toCaseFolded().contains(words);
+}
+
+/// Returns the row of a new message. Messages that were kept by the device may be older than those
+/// of the store.
+int MessageModel::rowFor(const Message &message) const
+{
+    int row = 0;
+    while (row < m_messages.size() && m_messages.at(row).receivedAt > message.receivedAt)
+        ++row;
+    return row;
+}
+
+/// Inserts the message, unless its row has not been read yet. The row after it may lose its day.
 void MessageModel::onAdded(const Message &message)
 {
-    const Message newest = m_store->older(m_query, Message(), 1).value(0);
-    if (newest.id != message.id)
+    const int row = rowFor(message);
+    if (!matches(message) || (row == m_messages.size() && !m_isComplete))
         return;
-    beginInsertRows(QModelIndex(), 0, 0);
-    m_messages.prepend(newest);
+    beginInsertRows(QModelIndex(), row, row);
+    m_messages.insert(row, message);
     endInsertRows();
-    if (rowCount() > 1)
-        emit dataChanged(index(1), index(1));
+    if (row + 1 < rowCount())
+        emit dataChanged(index(row + 1), index(row + 1));
 }
 
 /// Updates one row. A message that was read stays in the list of unread messages until the user

@@ -49,6 +49,8 @@ public:
 
 private:
     void onAdded(const Message &message);
+    bool matches(const Message &message) const;
+    int rowFor(const Message &message) const;
     void onChanged(qint64 id);
     void onAllRead();
     QString dayOf(int row) const;

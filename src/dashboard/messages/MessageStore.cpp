@@ -29,8 +29,8 @@ void MessageStore::begin(const QString &file)
 {
     m_database.reset(new MessageDatabase(file));
     m_waiting = 0;
-    emit reset();
     count();
+    emit reset();
 }
 
 void MessageStore::setSim(const QString &key)
@@ -42,8 +42,8 @@ void MessageStore::setSim(const QString &key)
         m_database->adopt(key);
     if (m_database->message(m_waiting).isNull())
         m_waiting = 0;
-    emit reset();
     count();
+    emit reset();
     report();
 }
 
@@ -69,8 +69,8 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
     endWaiting(); // a newer message ends the session of an older one
     m_waiting = waitsForAnswer ? message.id : 0;
     report();
-    emit added(message);
     count();
+    emit added(message);
     return message;
 }
 
@@ -121,16 +121,16 @@ void MessageStore::markRead(qint64 id)
 {
     if (!message(id).isUnread || !m_database->markRead(id))
         return;
-    emit changed(id);
     count();
+    emit changed(id);
 }
 
 void MessageStore::markAllRead()
 {
     if (m_unreadCount == 0 || !m_database->markAllRead(m_sim))
         return;
-    emit allRead();
     count();
+    emit allRead();
 }
 
 void MessageStore::remove(qint64 id)
@@ -139,8 +139,8 @@ void MessageStore::remove(qint64 id)
         return;
     if (id == m_waiting)
         m_waiting = 0;
-    emit changed(id);
     count();
+    emit changed(id);
 }
 
 void MessageStore::endWaiting()

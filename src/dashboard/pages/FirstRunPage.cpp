@@ -154,6 +154,7 @@ void FirstRunPage::makeCard()
     setMargins(card, 32, 24, 32, 24);
     setSpacing(card, 0);
     card->addWidget(m_title);
+    card->addSpacing(4);
     card->addWidget(m_intro);
     card->addSpacing(12);
     for (FirstRunStep *step : {m_modem, m_sim, m_choice}) {
@@ -286,6 +287,7 @@ void FirstRunPage::showChoice()
     m_use->setEnabled(index >= 0);
     m_use->setText(isOperator ? dashboardText("FIRST_USE").arg(m_providers.at(index).name())
                               : dashboardText(index >= 0 ? "FIRST_GO_ON" : "FIRST_USE_NOBODY"));
+    arrangeButtons();
 }
 
 void FirstRunPage::useChosen()
@@ -329,9 +331,25 @@ void FirstRunPage::setForm(Form form)
 {
     m_column->setForm(form);
     const bool isNarrow = form == Form::Narrow;
-    m_buttons->setDirection(isNarrow ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight);
     setMargins(m_card->layout(), isNarrow ? 16 : 32, 20, isNarrow ? 16 : 32, 20);
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
+}
+
+void FirstRunPage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    arrangeButtons();
+}
+
+/// Puts the buttons below each other if they are too wide for a row.
+void FirstRunPage::arrangeButtons()
+{
+    const QMargins margins = m_card->layout()->contentsMargins();
+    const int room = m_card->width() - margins.left() - margins.right();
+    int wanted = 2 * m_buttons->spacing();
+    for (const QPushButton *button : {m_demonstration, m_notNow, m_use})
+        wanted += button->sizeHint().width();
+    m_buttons->setDirection(wanted > room ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight);
 }
 
 QWidget *FirstRunPage::firstFocus() const

@@ -79,8 +79,12 @@ signals:
     /// Emitted when isDue() may have changed.
     void finished();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void makeCard();
+    void arrangeButtons();
     void makeButtons(QVBoxLayout *card);
     void addOption(const QString &title, const QString &text);
     void clearOptions();

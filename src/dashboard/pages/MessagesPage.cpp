@@ -84,7 +84,6 @@ QWidget *MessagesPage::makeList()
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
-    m_list->setStyleSheet(QString());
     QPalette palette = m_list->palette();
     palette.setColor(QPalette::Base, Qt::transparent);
     m_list->setPalette(palette);
@@ -136,8 +135,8 @@ void MessagesPage::connectParts()
     connect(m_reader->answerBox(), &AnswerBox::endRequested, m_monitor, &CommandMonitor::endMenu);
     connect(m_monitor, &CommandMonitor::changed, this, &MessagesPage::showAnswers);
     connect(m_model, &MessageModel::rowsInserted, this, &MessagesPage::keepPlace);
-    for (const auto signal : {&MessageStore::reset, &MessageStore::allRead})
-        connect(m_store, signal, this, &MessagesPage::showCounts);
+    connect(m_store, &MessageStore::reset, this, &MessagesPage::showCounts);
+    connect(m_store, &MessageStore::allRead, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::added, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::changed, this, &MessagesPage::showCounts);
     QShortcut *find = new QShortcut(QKeySequence::Find, this);

@@ -199,14 +199,21 @@ void SettingsPage::retranslate()
     m_theme->setItems({dashboardText("SETTINGS_THEME_SYSTEM"),
                        dashboardText("SETTINGS_THEME_LIGHT"),
                        dashboardText("SETTINGS_THEME_DARK")});
-    QStringList sizes;
-    for (const int percent : TEXT_SIZES)
-        sizes << dashboardText("SETTINGS_PERCENT").arg(percent);
-    m_textSize->setItems(sizes);
+    nameTextSizes();
     m_amount->setAccessibleName(dashboardText("SETTINGS_AMOUNT"));
     showValues();
     showLowBalance();
     showDevice();
+}
+
+// Four choices with the sign for per cent do not fit into the narrow form.
+void SettingsPage::nameTextSizes()
+{
+    const QString word = dashboardText("SETTINGS_PERCENT");
+    QStringList sizes;
+    for (const int percent : TEXT_SIZES)
+        sizes << (m_form == Form::Narrow ? QString::number(percent) : word.arg(percent));
+    m_textSize->setItems(sizes);
 }
 
 void SettingsPage::showValues()
@@ -255,7 +262,9 @@ void SettingsPage::setDetection(bool isOn)
 
 void SettingsPage::setForm(Form form)
 {
+    m_form = form;
     m_column->setForm(form);
+    nameTextSizes();
     for (const Row &row : m_rows)
         row.row->setForm(form);
 }

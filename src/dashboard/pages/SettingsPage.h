@@ -82,6 +82,7 @@ private:
     SettingsRow *addRow(QVBoxLayout *card, const char *icon, const char *titleKey,
                         const char *textKey, QWidget *control, bool isControlWide = false);
     Switch *makeSwitch(const char *objectName, bool isOn, void (SettingsPage::*chosen)(bool));
+    void nameTextSizes();
     void showValues();
     void showLowBalance();
     void showDevice();
@@ -97,6 +98,7 @@ private:
     void askToDeleteAll();
 
     const SettingsParts m_parts;
+    Form m_form = Form::Wide;
     PageColumn *m_column;
     QLabel *m_title;
     QList<Section> m_sections;

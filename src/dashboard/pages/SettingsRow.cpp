@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "look/Controls.h"
+#include "look/Look.h"
 
 namespace Dashboard
 {
@@ -33,10 +34,10 @@ void SettingsRow::place(bool isControlBelow)
     m_grid->addWidget(m_title, 0, 1, Qt::AlignBottom);
     m_grid->addWidget(m_description, 1, 1, Qt::AlignTop);
     if (isControlBelow)
-        m_grid->addWidget(m_control, 2, 0, 1, 3, Qt::AlignLeading);
+        m_grid->addWidget(m_control, 3, 0, 1, 3, Qt::AlignLeading);
     else
         m_grid->addWidget(m_control, 0, 2, 2, 1, Qt::AlignTrailing | Qt::AlignVCenter);
-    m_grid->setRowMinimumHeight(2, 0);
+    m_grid->setRowMinimumHeight(2, isControlBelow ? Look::instance().px(6) : 0);
 }
 
 void SettingsRow::setTexts(const QString &title, const QString &description)

@@ -68,6 +68,9 @@ public:
                    ReplyTap *replies, QObject *parent = nullptr);
     ~CommandMonitor() override;
 
+    /// Replaces the function that returns the embedded general window.
+    void setWindow(const std::function<GeneralWindow()> &window) { m_window = window; }
+
     const CommandState &state() const { return m_state; }
     /// Returns true if a code can be sent now.
     bool canSend() const;
@@ -138,7 +141,7 @@ private:
     void setTexts(const char *titleKey, const char *textKey);
     int secondsSinceStart() const;
 
-    const std::function<GeneralWindow()> m_window;
+    std::function<GeneralWindow()> m_window;
     const DeviceWatcher *const m_device;
     ReplyTap *const m_replies;
     UserActivity m_activity;

@@ -67,8 +67,10 @@ public:
     /// Returns the most recent command in the transcript without its caption, or an empty string.
     QString lastSent() const;
 
-private:
+    /// Gives the space that no button needs to the transcript.
     void widenHistory() const;
+
+private:
     QString lastEntry(const char *captionKey) const;
 
     QPointer<QLineEdit> m_commandEdit;

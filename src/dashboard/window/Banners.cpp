@@ -73,13 +73,19 @@ void Banners::setForm(Form form)
     layOut();
 }
 
-// In the narrow form, two buttons do not fit beside the text.
+void Banners::setSuppressed(bool isSuppressed)
+{
+    m_isSuppressed = isSuppressed;
+    refresh();
+}
+
+// In the narrow form, the buttons do not fit beside the text.
 void Banners::layOut()
 {
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
         m_grid->removeWidget(widget);
     const bool isNarrow = m_form == Form::Narrow;
-    const bool hasTwoRows = isNarrow && !m_close->isHidden() && !m_action->isHidden();
+    const bool hasTwoRows = isNarrow && !(m_close->isHidden() && m_action->isHidden());
     const int columns = hasTwoRows ? 3 : 1;
     m_grid->addWidget(m_icon, 0, 0, 2, 1);
     m_grid->addWidget(m_title, 0, 1, 1, columns, Qt::AlignBottom);
@@ -96,7 +102,7 @@ void Banners::layOut()
 void Banners::refresh()
 {
     const int kind = shown();
-    setVisible(kind >= 0);
+    setVisible(kind >= 0 && !m_isSuppressed);
     if (kind < 0)
         return;
     const Banner &banner = m_banners[kind];

@@ -36,6 +36,8 @@ public:
     /// Returns the kind of the visible banner, or -1 if there is none.
     int shown() const;
     void setForm(Form form);
+    /// Hides every banner while `isSuppressed` is true.
+    void setSuppressed(bool isSuppressed);
 
 signals:
     void actionRequested(Banners::Kind kind);
@@ -53,6 +55,7 @@ private:
     QPushButton *m_action;
     QPushButton *m_close;
     Form m_form = Form::Wide;
+    bool m_isSuppressed = false;
 };
 
 } // namespace Dashboard

@@ -16,6 +16,7 @@
 #include "Header.h"
 #include "HostState.h"
 #include "LanguageMenu.h"
+#include "HomeSetup.h"
 #include "look/Look.h"
 #include "Navigation.h"
 #include "NetworkTextPanel.h"
@@ -212,6 +213,7 @@ void MainWindow::showDevice()
     showBanners();
     m_settingsPage->setDeviceChoice(choiceText());
     m_firstRun->showSituation(now);
+    m_home->setSituation(now);
     showFirstRun();
 }
 
@@ -235,7 +237,9 @@ void MainWindow::showHeader(const Situation &situation)
     const DeviceStatus &status = device().status();
     HeaderContent content;
     content.isDemonstration = status.isSimulated;
-    content.tone = status.isSimulated ? Tone::Warn : situation.tone;
+    content.tone = hasOperator(situation.kind) ? Tone::Ok : situation.tone;
+    if (status.isSimulated)
+        content.tone = Tone::Warn;
     if (hasOperator(situation.kind)) {
         content.title = status.operatorText();
         content.signalPercent = status.signalPercent;

@@ -21,6 +21,7 @@ class DeviceMenu;
 class DeviceNotice;
 class FirstRunPage;
 class Header;
+class HomeSetup;
 class Navigation;
 class NetworkTextPanel;
 class OperatorChooser;
@@ -156,6 +157,7 @@ private:
     DeviceNotice *m_deviceNotice;
     NetworkTextPanel *m_textPanel;
     QStackedWidget *m_stack;
+    HomeSetup *m_home = nullptr;
     CodesStandIn *m_codes = nullptr;
     Page *m_pages[int(PageId::Settings) + 1] = {};
     SettingsPage *m_settingsPage = nullptr;

@@ -103,6 +103,7 @@ void MainWindow::makeShortcuts()
         showPage(PageId::Codes);
         focusPage();
     });
+    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_Period), [this] { cancelCommand(); });
     addShortcut(QKeySequence(Qt::Key_F10), [this] { showMenu(); });

@@ -13,12 +13,14 @@
 #include "ExtendDialog.h"
 #include "Header.h"
 #include "LanguageMenu.h"
+#include "HomeSetup.h"
 #include "look/Controls.h"
 #include "look/Look.h"
 #include "MainWindow.h"
 #include "Navigation.h"
 #include "NetworkTextPanel.h"
 #include "OperatorChooser.h"
+#include "pages/HomePage.h"
 #include "pages/FirstRunPage.h"
 #include "pages/SettingsPage.h"
 #include "Scrim.h"
@@ -59,7 +61,8 @@ bool isFrameOpen()
 void MainWindow::makePages()
 {
     m_codes = new CodesStandIn(&m_controller);
-    m_pages[int(PageId::Home)] = new PlainPage("Dashboard_HomePage", "NAV_HOME");
+    m_home = new HomeSetup(&m_controller, this, this);
+    m_pages[int(PageId::Home)] = m_home->page();
     m_pages[int(PageId::Codes)] = m_codes;
     m_pages[int(PageId::Services)] = new PlainPage("Dashboard_ServicesPage", "NAV_SERVICES");
     m_pages[int(PageId::Messages)] = new PlainPage("Dashboard_MessagesPage", "NAV_MESSAGES");
@@ -90,6 +93,10 @@ void MainWindow::followSettings()
             &AppController::setDetection);
     connect(m_settingsPage, &SettingsPage::operatorRequested, m_chooser, &OperatorChooser::choose);
     connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
+    connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, &m_home->store(),
+            &AccountStore::removeAll);
     connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
 }
 
@@ -186,6 +193,7 @@ void MainWindow::showFirstRun()
     const bool isDue = m_firstRun->isDue();
     m_navigation->setVisible(!isDue);
     m_header->setVisible(!isDue);
+    m_banners->setSuppressed(isDue);
     QWidget *const wanted = isDue ? m_firstRun : pageOf(currentPage());
     m_stack->setCurrentWidget(wanted);
 }
