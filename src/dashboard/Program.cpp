@@ -221,7 +221,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     const PluginFailure failure = window.loadPlugin();
     if (!plugin.isUsable())
         return fail(failure.text());
-    const bool taken = Tour::take(&window, &library, arguments.tourFolder);
+    const bool taken = Tour::take(&window, &library, arguments.tourFolder, arguments.language);
     plugin.shutDown();
     return taken ? EXIT_GOOD : EXIT_BAD;
 }

@@ -7,6 +7,7 @@
 #include "device/DeviceWatcher.h"
 #include "InstallPaths.h"
 #include "plugin/PrivatePluginFolder.h"
+#include "ShownDevice.h"
 #include "sim/OperatorCodes.h"
 #include "tksv_device.h"
 #include "TourGuide.h"
@@ -22,7 +23,6 @@ namespace
 {
 
 const char MAIN[] = "dashboard";
-const char MODEL[] = "Northwind N7";
 const char MODEM[] = "353612345678901";
 const char PIN_DIALOG[] = "Dashboard_PinDialog";
 
@@ -49,42 +49,6 @@ const TourChange SPEAKING[] = {{"# ---- services", "\n",
                                 "Dial *124*1# for it.\n\n[Push question]\nAfter=600\n"
                                 "Reply=A gigabyte for 1.00 EUR?\\n1 Yes\\n2 No\n"
                                 "[Push question/1]\nReply=Booked.\n\n"}};
-/** Makes the dashboard show devices that this computer does not have. */
-class Show
-{
-public:
-    explicit Show(DeviceWatcher &watcher) : m_watcher(watcher) {}
-    ~Show() { m_watcher.readFrom(nullptr); }
-    Show(const Show &) = delete;
-    Show &operator=(const Show &) = delete;
-
-    void device(int state, int problem, const char *model = "")
-    {
-        DeviceStatus status;
-        status.isSimulated = false;
-        status.state = state;
-        status.problem = problem;
-        status.source = QLatin1String(model);
-        this->status(status);
-    }
-    void status(const DeviceStatus &status)
-    {
-        DeviceReading reading = {status, m_modems};
-        m_watcher.readFrom([reading] { return reading; });
-    }
-    void modem(const char *equipmentId, const char *name, bool isInUse)
-    {
-        Modem modem;
-        modem.equipmentId = QLatin1String(equipmentId);
-        modem.name = QLatin1String(name);
-        modem.isInUse = isInUse;
-        m_modems << modem;
-    }
-
-private:
-    DeviceWatcher &m_watcher;
-    QList<Modem> m_modems;
-};
 
 template <typename T>
 T *part(const TourGuide &guide, const char *name)
@@ -115,13 +79,14 @@ bool walkTroubles(TourGuide &guide)
         int problem;
         const char *model;
         TourStop stop;
-    } troubles[] = {{TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
-                    {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
-                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, MODEL, NOT_PERMITTED},
-                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NONE, MODEL, SWITCHED_OFF}};
-    Show show(guide.window()->device());
+    } troubles[] = {
+        {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
+        {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
+        {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, ShownDevice::MODEL, NOT_PERMITTED},
+        {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NONE, ShownDevice::MODEL, SWITCHED_OFF}};
+    ShownDevice shown(guide.window()->device());
     for (const auto &trouble : troubles) {
-        show.device(trouble.state, trouble.problem, trouble.model);
+        shown.show(trouble.state, trouble.problem, trouble.model);
         if (!guide.take(trouble.stop))
             return false;
     }
@@ -130,10 +95,10 @@ bool walkTroubles(TourGuide &guide)
 
 bool walkTwoModems(TourGuide &guide)
 {
-    Show show(guide.window()->device());
-    show.modem(MODEM, MODEL, true);
-    show.modem("353612345674417", MODEL, false);
-    show.device(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, MODEL);
+    ShownDevice shown(guide.window()->device());
+    shown.addModem(MODEM, ShownDevice::MODEL, true);
+    shown.addModem("353612345674417", ShownDevice::MODEL, false);
+    shown.show(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, ShownDevice::MODEL);
     guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
     DeviceMenu *menu = guide.window()->deviceMenu();
     TourGuide::settle();
@@ -144,29 +109,15 @@ bool walkTwoModems(TourGuide &guide)
     return isTaken;
 }
 
-/// Returns the status of a registered modem whose SIM has this home network.
-DeviceStatus modemOf(const char *operatorName, const char *homeNetwork)
-{
-    DeviceStatus status;
-    status.isSimulated = false;
-    status.state = TKSV_DEVICE_REGISTERED;
-    status.operatorName = QLatin1String(operatorName);
-    status.signalPercent = 64;
-    status.imsi = QLatin1String(homeNetwork) + QLatin1String("0123456789");
-    status.homeNetwork = QLatin1String(homeNetwork);
-    status.source = QLatin1String(MODEL);
-    return status;
-}
-
 bool walkUnknownOperator(TourGuide &guide)
 {
-    Show show(guide.window()->device());
-    DeviceStatus status = modemOf("Roamtel", "00199");
-    show.status(status);
+    ShownDevice shown(guide.window()->device());
+    DeviceStatus status = ShownDevice::registered("Roamtel", "00199");
+    shown.show(status);
     if (!guide.take(NO_CODES))
         return false;
     status.hasForeignSession = true;
-    show.status(status);
+    shown.show(status);
     return guide.take(FOREIGN);
 }
 
@@ -251,9 +202,9 @@ bool isProposing(const TourGuide &guide)
 bool walkOperator(TourGuide &guide)
 {
     OperatorCodes &codes = guide.window()->operatorCodes();
-    Show show(guide.window()->device());
-    DeviceStatus status = modemOf("Roamtel", "00101");
-    show.status(status);
+    ShownDevice shown(guide.window()->device());
+    DeviceStatus status = ShownDevice::registered("Roamtel", "00101");
+    shown.show(status);
     codes.setPlaces(placesOfTour(guide.library()));
     const bool isTaken = guide.waitFor([&guide] { return isProposing(guide); }) &&
                          guide.take(PROPOSAL) && chooseFirstOperator(guide) &&
