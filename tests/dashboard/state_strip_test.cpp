@@ -47,6 +47,25 @@ Situation locked()
     return situation;
 }
 
+/** Counts how often a widget is painted. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count() const { return m_count; }
+    void reset() { m_count = 0; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_count += event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
 } // namespace
 
 /** Tests what the strip shows in each state, and that its height never changes. */
@@ -62,6 +81,7 @@ private slots:
     void theSmallestWindowIsWideEnough();
     void readyOffersTheLastCodes();
     void waitingShowsTheSeconds();
+    void theRingShowsEverySecond();
     void choicesThatDoNotFitAreInAList();
     void aChoiceIsAnswered();
     void aTextWithoutChoicesIsShown();
@@ -194,6 +214,18 @@ void StateStripTest::waitingShowsTheSeconds()
     QSignalSpy cancelled(&strip(), &StateStrip::cancelled);
     part<QPushButton>("Dashboard_CancelCommand")->click();
     QCOMPARE(cancelled.count(), 1);
+}
+
+void StateStripTest::theRingShowsEverySecond()
+{
+    show(stateOf(Kind::Waiting));
+    PaintCounter counter(part<SecondsRing>("Dashboard_SecondsRing"));
+    for (int second = 1; second <= 3; ++second) {
+        counter.reset();
+        strip().setSeconds(second);
+        drainEvents();
+        QVERIFY2(counter.count() > 0, QByteArray::number(second).constData());
+    }
 }
 
 void StateStripTest::choicesThatDoNotFitAreInAList()
