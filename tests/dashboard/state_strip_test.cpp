@@ -1,9 +1,11 @@
 #include <QAccessible>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 #include "base/DashboardText.h"
 #include "Languages.h"
@@ -66,6 +68,15 @@ private:
     int m_count = 0;
 };
 
+/// Returns the widget that the Tab key reaches next.
+QWidget *nextTabStop(const QWidget *widget)
+{
+    QWidget *next = widget->nextInFocusChain();
+    while (next != widget && !(next->isVisible() && (next->focusPolicy() & Qt::TabFocus)))
+        next = next->nextInFocusChain();
+    return next;
+}
+
 } // namespace
 
 /** Tests what the strip shows in each state, and that its height never changes. */
@@ -83,6 +94,7 @@ private slots:
     void waitingShowsTheSeconds();
     void theRingShowsEverySecond();
     void choicesThatDoNotFitAreInAList();
+    void theTabKeyReachesTheRowsInOrder();
     void aChoiceIsAnswered();
     void aTextWithoutChoicesIsShown();
     void aFailureOffersWhatHelps();
@@ -244,6 +256,27 @@ void StateStripTest::choicesThatDoNotFitAreInAList()
     show(stateOf(Kind::MenuOpen, 2));
     QCOMPARE(choices().size(), 2);
     QVERIFY(!part<QPushButton>("Dashboard_MoreChoices"));
+}
+
+void StateStripTest::theTabKeyReachesTheRowsInOrder()
+{
+    QWidget window;
+    QVBoxLayout layout(&window);
+    layout.addWidget(m_strip.data());
+    QLineEdit below;
+    layout.addWidget(&below);
+    window.resize(840, 200);
+    window.show();
+    show(stateOf(Kind::MenuOpen, 2));
+    const QWidget *widget = part<QPushButton>("Dashboard_EndMenu");
+    for (const char *choice : {"1  A choice with words", "2  A choice with words"}) {
+        widget = nextTabStop(widget);
+        const QPushButton *button = qobject_cast<const QPushButton *>(widget);
+        QCOMPARE(button ? button->text() : QString(), QLatin1String(choice));
+    }
+    QCOMPARE(nextTabStop(widget), static_cast<QWidget *>(&below));
+    layout.removeWidget(m_strip.data());
+    m_strip->setParent(nullptr);
 }
 
 void StateStripTest::aChoiceIsAnswered()
