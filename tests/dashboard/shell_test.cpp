@@ -187,9 +187,6 @@ void ShellTest::nothingIsCutAtAnyWidth()
             QVERIFY2(m_window->centralWidget()->minimumSizeHint().width() <= width,
                      where.constData());
             for (const QScrollArea *area : m_window->pageOf(page)->findChildren<QScrollArea *>()) {
-                if (page ==
-                    PageId::Codes) // scrolls below the smallest size of the plug-in's window
-                    continue;
                 QVERIFY2(!area->horizontalScrollBar()->isVisible(), where.constData());
                 QVERIFY2(!area->isVisible() ||
                              area->widget()->minimumSizeHint().width() <= area->viewport()->width(),
