@@ -56,7 +56,7 @@ const TourChange SPEAKING[] = {
 
 bool hasMessages(const TourGuide &guide)
 {
-    const MessageParts *parts = guide.window()->findChild<MessageParts *>();
+    MessageParts *parts = guide.window()->findChild<MessageParts *>();
     return parts && parts->store().unreadCount() >= 2;
 }
 
