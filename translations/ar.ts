@@ -2071,6 +2071,10 @@
         <translation>&amp;تحرير الرموز</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>&amp;تصدير الأرصدة…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>ال&amp;مودم</translation>
     </message>

@@ -2072,6 +2072,10 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Codes &amp;bearbeiten</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>Guthaben e&amp;xportieren …</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>&amp;Modem</translation>
     </message>

@@ -2071,6 +2071,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>&amp;Edit codes</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xport balances…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>&amp;Modem</translation>
     </message>

@@ -2071,6 +2071,10 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>&amp;Editar códigos</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xportar saldos…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>&amp;Módem</translation>
     </message>

@@ -2072,6 +2072,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>&amp;Modifier les codes</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xporter les soldes…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>M&amp;odem</translation>
     </message>

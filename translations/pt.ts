@@ -2072,6 +2072,10 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>&amp;Editar códigos</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xportar saldos…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>&amp;Modem</translation>
     </message>

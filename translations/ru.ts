@@ -2070,6 +2070,10 @@
         <translation>&amp;Изменить коды</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>&amp;Экспорт балансов…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>&amp;Модем</translation>
     </message>

@@ -2068,6 +2068,10 @@
         <translation>编辑代码(&amp;E)</translation>
     </message>
     <message>
+        <source>MENU_EXPORT</source>
+        <translation>导出余额(&amp;X)…</translation>
+    </message>
+    <message>
         <source>MENU_MODEM</source>
         <translation>调制解调器(&amp;M)</translation>
     </message>

@@ -48,6 +48,12 @@ bool startsWith(const QString &code, const QString &name, const QString &start)
     return code.startsWith(start) || name.startsWith(start, Qt::CaseInsensitive);
 }
 
+bool isMove(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown;
+}
+
 } // namespace
 
 HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *parent)
@@ -95,11 +101,13 @@ void HistoryPopup::open()
     m_edit->setFocus(Qt::ShortcutFocusReason);
     fill(QString());
     popUp();
+    m_isRowChosen = true;
     m_view->setCurrentIndex(m_view->model()->index(0, 0));
 }
 
 void HistoryPopup::popUp()
 {
+    m_isRowChosen = false;
     m_completer->complete();
     m_view->setMinimumWidth(m_edit->width());
     for (int column = 0; column < COLUMNS; ++column)
@@ -206,11 +214,15 @@ bool HistoryPopup::onEditKey(int key)
     return false;
 }
 
-/// Lets Return send what the user has typed, unless the user has chosen a row of the list.
+/// Lets Return send what the user has typed, unless the user has chosen a row of the list. The
+/// current row does not show this, because a list makes its first row the current one when it gets
+/// the focus.
 bool HistoryPopup::onPopupKey(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isReturn || m_view->currentIndex().isValid() || !m_edit)
+    if (isMove(event->key()))
+        m_isRowChosen = true;
+    if (!isReturn || m_isRowChosen || !m_edit)
         return false;
     m_view->hide();
     QKeyEvent typed(QEvent::KeyPress, event->key(), event->modifiers());

@@ -64,6 +64,7 @@ private:
     QCompleter *m_completer;
     bool m_isOpenedByTyping = true;
     bool m_isKeyPressed = false; // false while the dashboard itself types into the field
+    bool m_isRowChosen = false;  // the user has chosen a row with the keyboard
 };
 
 } // namespace Dashboard

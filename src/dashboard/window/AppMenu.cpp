@@ -32,6 +32,7 @@ AppMenu::AppMenu(QWidget *parent)
     m_postpaid = addWindow("Dashboard_ActionPostpaid", PAID_TYPE_POSTPAID);
     m_edit = add("Dashboard_ActionEdit", &AppMenu::editRequested);
     m_edit->setShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_E));
+    m_export = add("Dashboard_ActionExport", &AppMenu::exportRequested);
     addSeparator();
     addMenu(m_device);
     m_operator = add("Dashboard_ActionOperator", &AppMenu::operatorRequested);
@@ -102,6 +103,7 @@ void AppMenu::retranslate()
     m_prepaid->setText(dashboardText(hasBoth ? "MENU_PREPAID" : "MENU_ACCOUNT"));
     m_postpaid->setText(dashboardText(hasBoth ? "MENU_POSTPAID" : "MENU_ACCOUNT"));
     m_edit->setText(dashboardText("MENU_EDIT_CODES"));
+    m_export->setText(dashboardText("MENU_EXPORT"));
     m_operator->setText(dashboardText("CODES_MENU"));
     m_settings->setText(dashboardText("MENU_SETTINGS"));
     m_about->setText(dashboardText("MENU_ABOUT"));

@@ -40,6 +40,7 @@ signals:
     /// Emitted with the PAID_TYPE of the window to open.
     void windowRequested(int paidType);
     void editRequested();
+    void exportRequested();
     void operatorRequested();
     void settingsRequested();
     void aboutRequested();
@@ -59,6 +60,7 @@ private:
     QAction *m_prepaid;
     QAction *m_postpaid;
     QAction *m_edit;
+    QAction *m_export;
     QAction *m_operator;
     QAction *m_settings;
     QAction *m_about;

@@ -5,24 +5,27 @@
 #include <QStackedWidget>
 
 #include "AccessibleRoles.h"
+#include "account/AccountWords.h"
 #include "AppMenu.h"
 #include "base/DashboardText.h"
+#include "CodesSetup.h"
 #include "device/DashboardSettings.h"
 #include "device/Situation.h"
 #include "DeviceLine.h"
 #include "DeviceMenu.h"
-#include "DeviceNotice.h"
 #include "ExtendDialog.h"
 #include "Header.h"
+#include "HomeSetup.h"
 #include "HostState.h"
 #include "LanguageMenu.h"
-#include "HomeSetup.h"
 #include "look/Look.h"
 #include "MessageParts.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
-#include "PageArea.h"
+#include "pages/CodesPage.h"
 #include "pages/FirstRunPage.h"
+#include "pages/GeneralArea.h"
+#include "pages/HomePage.h"
 #include "pages/MessagesPage.h"
 #include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
@@ -30,7 +33,6 @@
 #include "ProfileKeeper.h"
 #include "RemedyRunner.h"
 #include "Scrim.h"
-#include "StandIns.h"
 #include "TerminalText.h"
 
 namespace Dashboard
@@ -73,8 +75,8 @@ MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
       m_remedies(new RemedyRunner(&m_controller, this)),
       m_messages(new MessageParts(&m_controller, this)), m_menu(new AppMenu(this)),
       m_root(makeRoot(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
-      m_banners(new Banners(m_root)), m_deviceNotice(new DeviceNotice(&device(), m_root)),
-      m_stack(new QStackedWidget(m_root)), m_scrim(new Scrim(m_root))
+      m_banners(new Banners(m_root)), m_stack(new QStackedWidget(m_root)),
+      m_scrim(new Scrim(m_root))
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
@@ -99,7 +101,6 @@ void MainWindow::followController()
 {
     connect(&device(), &DeviceWatcher::changed, this, &MainWindow::showDevice);
     connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::showDevice);
-    connect(&m_controller, &AppController::pluginStarted, this, &MainWindow::onPluginStarted);
     connect(&m_controller, &AppController::windowsOffered, this,
             [this] { m_menu->offer(m_controller.windows()); });
     connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
@@ -145,10 +146,34 @@ void MainWindow::followMessages()
             });
     connect(&m_messages->notifier(), &DesktopNotifier::attention, this,
             [this] { QApplication::alert(this); });
+    connect(store, &MessageStore::unreadCountChanged, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::added, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::changed, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::reset, this, &MainWindow::showNewestMessage);
+    connect(m_home->page(), &HomePage::messageChosen, this, &MainWindow::openMessage);
+    connect(&m_home->recorder(), &AccountRecorder::lowBalance, &m_messages->center(),
+            &MessageCenter::notifyLowBalance);
     m_controller.start();
 }
 
-/// Shows the message of a notification that the user has clicked.
+/// Shows the newest message on the front page if it is unread or waits for an answer.
+void MainWindow::showNewestMessage()
+{
+    MessageStore &store = m_messages->store();
+    const Message newest = store.newest();
+    HomeMessage shown;
+    shown.waitsForAnswer = !newest.isNull() && newest.id == store.waiting();
+    if (shown.waitsForAnswer || newest.isUnread) {
+        shown.id = newest.id;
+        shown.title = newest.text.section(QLatin1Char('\n'), 0, 0);
+        shown.note = whenText(newest.receivedAt, QDateTime::currentDateTime());
+        if (shown.waitsForAnswer)
+            shown.note += QLatin1String(" \u00b7 ") + dashboardText("MESSAGE_WAITS");
+    }
+    m_home->page()->setMessage(shown);
+}
+
+/// Shows the message in its page.
 void MainWindow::openMessage(qint64 id)
 {
     raiseAgain();
@@ -174,7 +199,7 @@ void MainWindow::setProfiles(ProfileKeeper *profiles)
 
 QWidget *MainWindow::page() const
 {
-    return m_codes->area()->canvas();
+    return m_codes->page()->area()->canvas();
 }
 
 DeviceMenu *MainWindow::deviceMenu() const
@@ -190,12 +215,6 @@ PluginFailure MainWindow::loadPlugin()
 PluginFailure MainWindow::restartPlugin()
 {
     return m_controller.restartPlugin();
-}
-
-void MainWindow::onPluginStarted(const PluginFailure &failure)
-{
-    if (!m_plugin->isUsable())
-        m_codes->area()->showText(failure.text());
 }
 
 void MainWindow::setLanguage(const QString &code)
@@ -214,7 +233,9 @@ void MainWindow::retranslate()
     m_messages->retranslate();
     for (Page *page : m_pages)
         page->retranslate();
+    m_codes->retranslate();
     m_firstRun->retranslate();
+    showNewestMessage();
     showDevice();
 }
 
@@ -236,13 +257,13 @@ void MainWindow::showDevice()
     const Situation now = situation();
     setWindowTitle(dashboardText(isDemonstration ? "APP_TITLE_DEMONSTRATION" : "APP_TITLE"));
     deviceMenu()->offer(m_controller.choice(), device().modems());
-    m_deviceNotice->update();
     showHeader(now);
     showDeviceLine(now);
     showBanners();
     m_settingsPage->setDeviceChoice(choiceText());
     m_firstRun->showSituation(now);
     m_home->setSituation(now);
+    m_codes->page()->setSituation(now);
     m_servicesPage->setSituation(now);
     m_servicesPage->setOperatorName(device().status().operatorName);
     showFirstRun();
@@ -267,6 +288,8 @@ void MainWindow::showServices()
 {
     const CommandState::Kind kind = m_controller.monitor().state().kind;
     m_servicesPage->setMenuOpen(kind == CommandState::Kind::MenuOpen);
+    if (kind == CommandState::Kind::Ready || kind == CommandState::Kind::MenuEnded)
+        m_messages->store().endWaiting();
 }
 
 void MainWindow::showHeader(const Situation &situation)

@@ -16,9 +16,8 @@ namespace Dashboard
 {
 
 class AppMenu;
-class CodesStandIn;
+class CodesSetup;
 class DeviceMenu;
-class DeviceNotice;
 class FirstRunPage;
 class Header;
 class HomeSetup;
@@ -116,6 +115,7 @@ private:
     void addShortcut(const QKeySequence &key, const std::function<void()> &action);
     void followController();
     void followMessages();
+    void showNewestMessage();
     void followBanners();
     void followRemedies();
     void restorePlace();
@@ -127,7 +127,6 @@ private:
     QString choiceText() const;
     void chooseDevice(const QString &word);
     void openScenario();
-    void onPluginStarted(const PluginFailure &failure);
     void onBannerAction(Banners::Kind kind);
     void onBannerClosed(Banners::Kind kind);
     void showDevice();
@@ -139,7 +138,7 @@ private:
     void showFirstRun();
     void showAbout();
     void showModemMenu();
-    void cancelCommand();
+    void openTopUpWindow();
     void focusPage();
     void retranslate();
     Situation situation() const;
@@ -160,10 +159,9 @@ private:
     Navigation *m_navigation;
     Header *m_header;
     Banners *m_banners;
-    DeviceNotice *m_deviceNotice;
     QStackedWidget *m_stack;
     HomeSetup *m_home = nullptr;
-    CodesStandIn *m_codes = nullptr;
+    CodesSetup *m_codes = nullptr;
     Page *m_pages[int(PageId::Settings) + 1] = {};
     ServicesPage *m_servicesPage = nullptr;
     MessagesPage *m_messagesPage = nullptr;

@@ -3,24 +3,28 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QShortcut>
-#include <QTreeWidget>
 
 #include "AltKey.h"
 #include "AppMenu.h"
 #include "base/DashboardText.h"
+#include "CodesSetup.h"
 #include "CommonUtils.h"
 #include "device/Situation.h"
 #include "DeviceLine.h"
 #include "DeviceMenu.h"
 #include "ExtendDialog.h"
 #include "Header.h"
+#include "HomeSetup.h"
 #include "InstallPaths.h"
 #include "IUSSD.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
+#include "pages/CodesPage.h"
+#include "pages/HomePage.h"
 #include "pages/MessagesPage.h"
+#include "plugin/ServiceList.h"
 #include "RemedyRunner.h"
 #include "sim/SimWindows.h"
 
@@ -31,8 +35,8 @@ namespace
 {
 
 const char EDIT_BUTTON[] = "USSDUIPlugin_AdvancedDialog_EditButton";
+const char PIN_FIELD[] = "USSDUIPlugin_ChargeEdit";
 const char NUMBER_FIELD[] = "USSDUIPlugin_AdvancedDialog_PaymentEdit";
-const char SERVICE_TREE[] = "USSDUIPlugin_SMSDialog_ServiceTree";
 const char STRIP[] = "Dashboard_StateStrip";
 
 const PageId NUMBERED_PAGES[] = {PageId::Home, PageId::Codes, PageId::Services, PageId::Messages};
@@ -46,19 +50,6 @@ QWidget *inOpenFrame(const char *name)
             return widget;
     }
     return nullptr;
-}
-
-/// Selects the service with this index among all services in the tree.
-void selectService(int row)
-{
-    QTreeWidget *tree = qobject_cast<QTreeWidget *>(inOpenFrame(SERVICE_TREE));
-    if (!tree || row < 0)
-        return;
-    int index = 0;
-    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
-        if ((*item)->childCount() == 0 && index++ == row)
-            tree->setCurrentItem(*item);
-    }
 }
 
 } // namespace
@@ -77,6 +68,7 @@ void MainWindow::makeMenu()
     connect(m_menu, &AppMenu::settingsRequested, this, [this] { showPage(PageId::Settings); });
     connect(m_menu, &AppMenu::aboutRequested, this, &MainWindow::showAbout);
     connect(m_menu, &AppMenu::numberRequested, m_header, &Header::toggleNumber);
+    connect(m_menu, &AppMenu::exportRequested, m_home, &HomeSetup::exportAccount);
     connect(m_menu, &AppMenu::quitRequested, this, &MainWindow::close);
     connect(m_menu->languageMenu(), &LanguageMenu::chosen, this, &MainWindow::setLanguage);
     connect(deviceMenu(), &DeviceMenu::chosen, this, &MainWindow::chooseDevice);
@@ -100,13 +92,11 @@ void MainWindow::makeShortcuts()
             focusPage();
         });
     }
-    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_L), [this] {
-        showPage(PageId::Codes);
-        focusPage();
-    });
+    for (QAction *action : m_codes->page()->shortcuts())
+        addAction(action);
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
-    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_Period), [this] { cancelCommand(); });
+    addShortcut(QKeySequence(Qt::Key_F5), [this] { m_home->page()->askAgain(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] {
         showPage(PageId::Messages);
         m_messagesPage->focusSearch();
@@ -195,25 +185,29 @@ void MainWindow::openFrame(int paidType)
 void MainWindow::sendCode(const QString &code)
 {
     showPage(PageId::Codes);
-    m_controller.monitor().send(code);
+    m_codes->page()->useCode(code);
 }
 
 void MainWindow::typeCode(const QString &code)
 {
     showPage(PageId::Codes);
-    QLineEdit *edit = m_controller.pageWindow().commandEdit();
-    if (!edit || !edit->isEnabled())
-        return;
-    typeInto(edit, code);
-    focusPage();
+    m_codes->page()->typeCode(code);
 }
 
 void MainWindow::topUp()
 {
     if (m_controller.windows() & (SIM_WINDOW_PREPAID | SIM_WINDOW_POSTPAID))
-        return openAccountWindow();
+        return openTopUpWindow();
     showPage(PageId::Codes);
     if (QWidget *field = page()->findChild<QWidget *>(QLatin1String(NUMBER_FIELD)))
+        field->setFocus(Qt::ShortcutFocusReason);
+}
+
+/// Opens the account window with the focus in the field for the PIN of a voucher.
+void MainWindow::openTopUpWindow()
+{
+    openAccountWindow();
+    if (QWidget *field = inOpenFrame(PIN_FIELD))
         field->setFocus(Qt::ShortcutFocusReason);
 }
 
@@ -231,22 +225,13 @@ void MainWindow::openServicesWindow(int row)
     if (!(m_controller.windows() & SIM_WINDOW_SERVICES))
         return;
     openFrame(PAID_TYPE_USSD_SMS);
-    selectService(row);
+    selectServiceInFrame(row);
 }
 
 void MainWindow::editCodes()
 {
     if (QPushButton *edit = page()->findChild<QPushButton *>(QLatin1String(EDIT_BUTTON)))
         edit->click();
-}
-
-/// Cancels the command in flight or ends the open menu.
-void MainWindow::cancelCommand()
-{
-    if (m_controller.monitor().state().isPending())
-        m_controller.monitor().cancel();
-    else
-        m_controller.monitor().endMenu();
 }
 
 void MainWindow::perform(Remedy remedy)

@@ -6,27 +6,27 @@
 
 #include "AppMenu.h"
 #include "Banners.h"
+#include "CodesSetup.h"
 #include "CommonUtils.h"
 #include "device/DashboardSettings.h"
 #include "DeviceMenu.h"
-#include "DeviceNotice.h"
 #include "ExtendDialog.h"
 #include "Header.h"
-#include "LanguageMenu.h"
 #include "HomeSetup.h"
+#include "LanguageMenu.h"
 #include "look/Controls.h"
 #include "look/Look.h"
 #include "MainWindow.h"
 #include "MessageParts.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
-#include "pages/HomePage.h"
+#include "pages/CodesPage.h"
 #include "pages/FirstRunPage.h"
+#include "pages/HomePage.h"
 #include "pages/MessagesPage.h"
 #include "pages/ServicesPage.h"
 #include "pages/SettingsPage.h"
 #include "Scrim.h"
-#include "StandIns.h"
 
 namespace Dashboard
 {
@@ -39,7 +39,7 @@ const QSize SMALLEST_SIZE(360, 560);
 const int WIDE_FROM = 66; // em
 const int MEDIUM_FROM = 46;
 
-enum Row { HeaderRow, BannerRow, NoticeRow, PageRow, BarRow, Rows };
+enum Row { HeaderRow, BannerRow, PageRow, BarRow, Rows };
 
 Form formOf(int width)
 {
@@ -62,10 +62,10 @@ bool isFrameOpen()
 
 void MainWindow::makePages()
 {
-    m_codes = new CodesStandIn(&m_controller);
+    m_codes = new CodesSetup(&m_controller, this, this);
     m_home = new HomeSetup(&m_controller, this, this);
     m_pages[int(PageId::Home)] = m_home->page();
-    m_pages[int(PageId::Codes)] = m_codes;
+    m_pages[int(PageId::Codes)] = m_codes->page();
     m_servicesPage = new ServicesPage(this);
     m_messagesPage = new MessagesPage(&m_messages->store(), &m_controller.monitor());
     m_pages[int(PageId::Services)] = m_servicesPage;
@@ -99,6 +99,8 @@ void MainWindow::followSettings()
     connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
     connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
     connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, m_codes, &CodesSetup::followSettings);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, m_codes, &CodesSetup::deleteAll);
     connect(m_settingsPage, &SettingsPage::deleteAllRequested, &m_home->store(),
             &AccountStore::removeAll);
     connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
@@ -127,7 +129,7 @@ void MainWindow::makeCentre()
 void MainWindow::placeParts()
 {
     const bool isNarrow = m_form == Form::Narrow;
-    const QList<QWidget *> column = {m_header, m_banners, m_deviceNotice, m_stack};
+    const QList<QWidget *> column = {m_header, m_banners, m_stack};
     m_grid->removeWidget(m_navigation);
     if (isNarrow)
         m_grid->addWidget(m_navigation, BarRow, 1);

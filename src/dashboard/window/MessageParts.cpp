@@ -25,7 +25,6 @@ MessageParts::MessageParts(AppController *controller, QWidget *window)
 {
     m_center.setInFront([window] { return window->isActiveWindow(); });
     connect(controller, &AppController::textReceived, &m_center, &MessageCenter::add);
-    connect(controller, &AppController::commandEnded, &m_store, &MessageStore::endWaiting);
     connect(controller, &AppController::frameOpened, &m_question, &QuestionDialog::look);
     connect(controller, &AppController::frameClosed, &m_question, &QuestionDialog::look);
     connect(&m_store, &MessageStore::problem, controller, &AppController::problem);
