@@ -7,6 +7,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QAction;
 class QLineEdit;
 class QListView;
 class QModelIndex;
@@ -69,6 +70,7 @@ private:
     QPushButton *m_markAll;
     QWidget *m_listSide;
     QLineEdit *m_search;
+    QAction *m_searchIcon = nullptr;
     QPushButton *m_filters[3];
     QListView *m_list;
     QLabel *m_empty;
