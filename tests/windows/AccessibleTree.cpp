@@ -242,12 +242,16 @@ bool AccessibleTree::listen()
                .type() == QDBusMessage::ReplyMessage;
 }
 
+// The event names the object instead of the new value.
 void AccessibleTree::onEvent(const QDBusMessage &message)
 {
-    const QVariantList arguments = message.arguments();
-    QVariant value = arguments.value(3);
-    while (value.canConvert<QDBusVariant>())
-        value = value.value<QDBusVariant>().variant();
-    m_events << QStringList{message.member(), arguments.value(0).toString(), value.toString()}.join(
-        QLatin1Char(' '));
+    const QString detail = message.arguments().value(0).toString();
+    QStringList words = {message.member(), detail};
+    if (detail == text("accessible-name")) {
+        Accessible object;
+        object.service = message.service();
+        object.path = message.path();
+        words << property(object, ACCESSIBLE, "Name").toString();
+    }
+    m_events << words.join(QLatin1Char(' '));
 }

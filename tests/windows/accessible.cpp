@@ -115,9 +115,10 @@ int operate(const QString &action, const QString &pattern)
         printTree(tree);
         return fail(QLatin1String("no success in time: ") + action + QLatin1Char(' ') + pattern);
     }
-    const QPoint centre = tree.place(found).center();
-    if (action == QLatin1String("at"))
+    if (action == QLatin1String("at")) {
+        const QPoint centre = tree.place(found).center();
         printf("%d %d\n", centre.x(), centre.y());
+    }
     if (action == QLatin1String("press") && !tree.press(found))
         return fail(QLatin1String("cannot be pressed: ") + pattern);
     return 0;

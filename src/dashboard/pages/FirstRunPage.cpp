@@ -1,6 +1,7 @@
 #include "FirstRunPage.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 

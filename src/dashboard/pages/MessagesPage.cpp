@@ -1,5 +1,6 @@
 #include "MessagesPage.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>

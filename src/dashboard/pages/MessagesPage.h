@@ -5,9 +5,9 @@
 #include "Page.h"
 #include "plugin/MenuChoices.h"
 
+class QAction;
 class QHBoxLayout;
 class QLabel;
-class QAction;
 class QLineEdit;
 class QListView;
 class QModelIndex;
