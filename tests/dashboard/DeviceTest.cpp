@@ -6,9 +6,9 @@
 
 #include "HostState.h"
 #include "Languages.h"
+#include "pages/StateStrip.h"
 #include "window/Banners.h"
 #include "window/DeviceMenu.h"
-#include "window/NoticeBar.h"
 
 using namespace Dashboard;
 
@@ -19,6 +19,11 @@ template <std::size_t SIZE>
 void copy(char (&target)[SIZE], const char *text)
 {
     std::strncpy(target, text, SIZE - 1);
+}
+
+QString withoutIsolates(QString text)
+{
+    return text.remove(QChar(0x2066)).remove(QChar(0x2069));
 }
 
 } // namespace
@@ -103,8 +108,34 @@ QString DeviceTest::banner() const
     return banners->isVisible() ? banners->banner(Banners::Kind(banners->shown())).text : QString();
 }
 
-QString DeviceTest::notice(const char *name) const
+QString DeviceTest::stripText() const
 {
-    const NoticeBar *bar = part<NoticeBar>(name);
-    return bar && bar->isVisible() ? bar->text() : QString();
+    const StateStrip *strip = part<StateStrip>("Dashboard_StateStrip");
+    if (!strip->isVisible())
+        return QString();
+    const QString text = strip->title() + QLatin1String(". ") + strip->text();
+    return withoutIsolates(text);
+}
+
+QString DeviceTest::trouble() const
+{
+    const bool isBlocked = part<StateStrip>("Dashboard_StateStrip")->isBlocked();
+    return isBlocked ? stripText() : QString();
+}
+
+QString DeviceTest::commandText() const
+{
+    const CommandState &state = m_window->controller().monitor().state();
+    const bool isBlocked = part<StateStrip>("Dashboard_StateStrip")->isBlocked();
+    return isBlocked || state.kind == CommandState::Kind::Ready ? QString() : stripText();
+}
+
+QPushButton *DeviceTest::remedyButton(Remedy remedy) const
+{
+    const QString name = QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy));
+    for (QPushButton *button : m_window->findChildren<QPushButton *>(name)) {
+        if (button->isVisible())
+            return button;
+    }
+    return nullptr;
 }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "device/DashboardSettings.h"
+#include "device/Situation.h"
 #include "fake_tksv.h"
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
@@ -35,12 +36,20 @@ protected:
         return m_window->findChild<T *>(QLatin1String(name));
     }
     QAction *networkAction(const QString &text) const;
-    /// Returns the text of the notice, or an empty string if the notice is hidden.
-    QString notice(const char *name) const;
+    /// Returns the title and the text with which the page of codes says why it cannot send, or an
+    /// empty string if it can send.
+    QString trouble() const;
+    /// Returns the title and the text of the page of codes about the last command, or an empty
+    /// string if nothing goes on.
+    QString commandText() const;
+    /// Returns the visible button, or null if there is none.
+    QPushButton *remedyButton(Dashboard::Remedy remedy) const;
     /// Returns the text of the visible banner, or an empty string if there is none.
     QString banner() const;
 
 private:
+    QString stripText() const;
+
     QScopedPointer<Dashboard::DashboardSettings> m_settings;
     QScopedPointer<Dashboard::LoadedPlugin> m_plugin;
     QScopedPointer<Dashboard::MainWindow> m_window;

@@ -1,5 +1,4 @@
 #include <QMessageBox>
-#include <QTimer>
 
 #include <cstring>
 
@@ -12,7 +11,6 @@
 #include "sim/PaidTypeFinder.h"
 #include "sim/SimWindows.h"
 #include "window/DeviceMenu.h"
-#include "window/NoticeBar.h"
 
 using namespace Dashboard;
 
@@ -48,7 +46,7 @@ private slots:
     void aPendingCommandCanBeCancelled();
     void theTurnOfAnotherProgramIsSaid();
 
-    void theModemIsSwitchedOnFromTheNotice();
+    void theModemIsSwitchedOnFromThePage();
     void nobodyMaySwitchOnWithoutPermission();
     void theModemsAreLookedForAgain_data();
     void theModemsAreLookedForAgain();
@@ -61,7 +59,6 @@ private:
     GeneralWindow page() { return GeneralWindow(window().page()); }
     int presets();
     bool isVisible(const char *name) const { return part<QWidget>(name)->isVisible(); }
-    QString commandNotice() const { return notice("Dashboard_CommandNotice"); }
     bool waitForSettling();
     void useIntegratorsFolder();
     void send(const char *code);
@@ -162,7 +159,7 @@ void ModemWindowTest::withoutAModemNothingIsInvented()
     loadPlugin();
     QCOMPARE(part<QLabel>("Dashboard_Operator")->text(),
              QLatin1String("The modem service does not run"));
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("ModemManager")));
+    QVERIFY(trouble().contains(QLatin1String("ModemManager")));
     QCOMPARE(presets(), 0);
     QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));
 }
@@ -325,13 +322,13 @@ void ModemWindowTest::aFailureIsSaidUntilTheNextCommand()
     fakeSdkSetLastFailure(failure);
     fakeSdkSetAnswer(fakeNetworkRefusal());
     send("*100#");
-    QTRY_VERIFY2(commandNotice().contains(QLatin1String("4G")), qPrintable(commandNotice()));
+    QTRY_VERIFY2(commandText().contains(QLatin1String("4G")), qPrintable(commandText()));
     window().setLanguage(QLatin1String("de"));
-    QVERIFY(commandNotice().contains(QLatin1String("4G-Netz")));
+    QVERIFY(commandText().contains(QLatin1String("4G-Netz")));
     fakeSdkSetLastFailure(TKSV_FailureInfo());
     fakeSdkSetAnswer(fakeReply(u"Balance"));
     send("*100#");
-    QTRY_COMPARE(commandNotice(), QString());
+    QTRY_COMPARE(commandText(), QString());
 }
 
 // The plug-in does not disable the entry field for such a command.
@@ -345,8 +342,8 @@ void ModemWindowTest::aRejectedCommandIsSaid()
     fakeSdkSetLastFailure(failure);
     fakeSdkSetAnswer(fakeRefused(1, 1));
     send("*100#");
-    QCOMPARE(commandNotice(), QLatin1String("Another program is using codes on this modem. "
-                                            "It was not carried out."));
+    QCOMPARE(commandText(),
+             QLatin1String("*100# was not sent. Another program is using codes on this modem."));
 }
 
 void ModemWindowTest::aPendingCommandCanBeCancelled()
@@ -360,8 +357,8 @@ void ModemWindowTest::aPendingCommandCanBeCancelled()
     QTest::mouseClick(part<QPushButton>("Dashboard_CancelCommand"), Qt::LeftButton);
     QTRY_VERIFY(!page().isWaiting());
     QCOMPARE(fakeSdkCalls("TKSV_Device_CancelRequest").size(), std::size_t(1));
-    QTRY_VERIFY(commandNotice().startsWith(QLatin1String("The command was cancelled.")));
-    // The network may have carried out the command.
+    QTRY_COMPARE(commandText(), QLatin1String("Cancelled. You stopped *100#. The network may have "
+                                              "carried it out all the same."));
     QCOMPARE(page().lastReceived(), QLatin1String("There is no reply."));
     QVERIFY(!isVisible("Dashboard_CancelCommand"));
 }
@@ -372,29 +369,32 @@ void ModemWindowTest::theTurnOfAnotherProgramIsSaid()
     tell(info);
     loadPlugin();
     QVERIFY(page().send(QLatin1String("*100#")));
-    QTRY_COMPARE(commandNotice(), dashboardText("COMMAND_PENDING"));
+    QTRY_VERIFY(commandText().startsWith(QLatin1String("Waiting for the reply to *100#. ")));
     info.waitsForTurn = 1;
     tell(info);
-    QCOMPARE(commandNotice(), dashboardText("COMMAND_WAITS_FOR_TURN"));
+    QCOMPARE(commandText(),
+             QLatin1String("Waiting for its turn. Another program is using the modem."));
 }
 
-// ---- buttons of the device's notice --------------------------------------------------------
+// ---- what mends the device --------------------------------------------------------
 
-void ModemWindowTest::theModemIsSwitchedOnFromTheNotice()
+void ModemWindowTest::theModemIsSwitchedOnFromThePage()
 {
     tell(modemInfo(TKSV_DEVICE_DISABLED));
     QVERIFY(fakeSdkCalls("TKSV_Device_Enable").empty());
-    QTest::mouseClick(part<QPushButton>("Dashboard_EnableButton"), Qt::LeftButton);
+    QTest::mouseClick(remedyButton(Remedy::Enable), Qt::LeftButton);
     QCOMPARE(fakeSdkCalls("TKSV_Device_Enable").size(), std::size_t(1));
     tell(modemInfo(TKSV_DEVICE_REGISTERED));
-    QVERIFY(!isVisible("Dashboard_EnableButton"));
+    QVERIFY(!remedyButton(Remedy::Enable));
 }
 
 void ModemWindowTest::nobodyMaySwitchOnWithoutPermission()
 {
     tell(modemInfo(TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED));
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("polkit")));
-    QVERIFY(!isVisible("Dashboard_EnableButton"));
+    QVERIFY(trouble().contains(QLatin1String("administrator")));
+    QTest::mouseClick(remedyButton(Remedy::HowToAllow), Qt::LeftButton);
+    QVERIFY(part<QLabel>("Dashboard_InstructionCommand")->text().contains(QLatin1String("polkit")));
+    QVERIFY(!remedyButton(Remedy::Enable));
 }
 
 void ModemWindowTest::theModemsAreLookedForAgain_data()
@@ -410,13 +410,14 @@ void ModemWindowTest::theModemsAreLookedForAgain()
 {
     QFETCH(int, problem);
     tell(modemInfo(TKSV_DEVICE_ABSENT, problem));
-    QVERIFY(!notice("Dashboard_DeviceNotice").isEmpty());
-    QTest::mouseClick(part<QPushButton>("Dashboard_LookAgainButton"), Qt::LeftButton);
+    QVERIFY(!trouble().isEmpty());
+    QTest::mouseClick(remedyButton(Remedy::LookAgain), Qt::LeftButton);
     QCOMPARE(fakeSdkCalls("TKSV_Device_LookAgain").size(), std::size_t(1));
     TKSV_DeviceInfo looking = modemInfo(TKSV_DEVICE_ABSENT);
     looking.isLooking = 1;
     tell(looking);
-    QCOMPARE(notice("Dashboard_DeviceNotice"), QString());
+    QCOMPARE(trouble(), QLatin1String("Looking for a modem. This takes a moment."));
+    QVERIFY(!remedyButton(Remedy::LookAgain));
     QVERIFY(part<QLabel>("Dashboard_Operator")->text().startsWith(QLatin1String("Looking")));
 }
 
@@ -435,17 +436,12 @@ void ModemWindowTest::aForeignSessionIsEndedOnlyAfterAYes()
     TKSV_DeviceInfo info = modemWithSim();
     info.hasForeignSession = 1;
     tell(info);
-    QCOMPARE(notice("Dashboard_DeviceNotice"),
-             QLatin1String("Another program is using codes on this modem."));
-    bool isAsked = false;
-    QTimer::singleShot(0, this, [&] {
-        if (QMessageBox *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            isAsked = true;
-            box->buttons().value(yes ? 0 : 1)->click();
-        }
-    });
-    QTest::mouseClick(part<QPushButton>("Dashboard_EndForeignSessionButton"), Qt::LeftButton);
-    QVERIFY(isAsked);
+    QVERIFY(trouble().startsWith(QLatin1String("Another program is using codes. ")));
+    QTest::mouseClick(remedyButton(Remedy::EndForeignSession), Qt::LeftButton);
+    const QMessageBox *box = part<QMessageBox>("Dashboard_EndSessionQuestion");
+    QVERIFY(box && box->isVisible() && box->isModal());
+    QVERIFY(fakeSdkCalls("TKSV_Device_EndForeignSession").empty());
+    box->buttons().value(yes ? 0 : 1)->click();
     QCOMPARE(int(fakeSdkCalls("TKSV_Device_EndForeignSession").size()), calls);
 }
 

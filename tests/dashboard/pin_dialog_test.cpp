@@ -43,7 +43,7 @@ void PinDialogTest::setUp()
 {
     DeviceTest::setUp();
     tell(modemInfo(TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_NONE, 3));
-    QTest::mouseClick(part<QPushButton>("Dashboard_PinButton"), Qt::LeftButton);
+    QTest::mouseClick(remedyButton(Remedy::EnterPin), Qt::LeftButton);
     QVERIFY(dialog() && dialog()->isVisible());
 }
 
@@ -57,16 +57,16 @@ std::vector<std::string> PinDialogTest::sentPins()
 
 void PinDialogTest::onlyALockedSimHasTheButton()
 {
-    QVERIFY(part<QPushButton>("Dashboard_PinButton")->isVisible());
+    QVERIFY(remedyButton(Remedy::EnterPin));
     tell(modemInfo(TKSV_DEVICE_REGISTERED));
-    QVERIFY(!part<QPushButton>("Dashboard_PinButton")->isVisible());
+    QVERIFY(!remedyButton(Remedy::EnterPin));
 }
 
 void PinDialogTest::aSimThatNeedsItsPukHasNoButton()
 {
     tell(modemInfo(TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_PUK_NEEDED, 0));
-    QVERIFY(!part<QPushButton>("Dashboard_PinButton")->isVisible());
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("PUK")));
+    QVERIFY(!remedyButton(Remedy::EnterPin));
+    QVERIFY(trouble().contains(QLatin1String("PUK")));
 }
 
 void PinDialogTest::thePinIsHiddenAndTakesDigitsOnly()
@@ -160,7 +160,7 @@ void PinDialogTest::theLastTryIsWarnedOf()
     QVERIFY(tries->isVisible());
     QVERIFY(tries->text().contains(QLatin1String("One try is left")));
     QCOMPARE(part<Chip>("Dashboard_PinTriesChip")->text(), QLatin1String("1 try left"));
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("One try is left")));
+    QVERIFY(trouble().contains(QLatin1String("One try is left")));
 }
 
 void PinDialogTest::thePukEndsTheTrying()

@@ -61,6 +61,7 @@ private slots:
     void keysGoToThePages();
     void theCodeFieldIsReachedFromEverywhere();
     void f6GoesThroughTheRegions();
+    void f6LeavesTheStripInsideThePage();
     void f10AndAltAloneOpenTheMenu();
     void altWithAnotherKeyDoesNotOpenTheMenu();
     void theHiddenMenuBarHasTheSameActions();
@@ -302,6 +303,20 @@ void ShellTest::f6GoesThroughTheRegions()
         QVERIFY2(regions[previous]->isAncestorOf(QApplication::focusWidget()),
                  QByteArray::number(previous).constData());
     }
+}
+
+void ShellTest::f6LeavesTheStripInsideThePage()
+{
+    m_window->showPage(PageId::Codes);
+    QTRY_VERIFY(GeneralWindow(m_window->page()).isComplete());
+    part<QPushButton>("Dashboard_HistoryButton")->setFocus();
+    press(Qt::Key_F6);
+    const QWidget *strip = part<QWidget>("Dashboard_StateStrip");
+    const QWidget *focus = QApplication::focusWidget();
+    QVERIFY(m_window->pageOf(PageId::Codes)->isAncestorOf(focus));
+    QVERIFY(!strip->isAncestorOf(focus));
+    press(Qt::Key_F6, Qt::ShiftModifier);
+    QVERIFY(strip->isAncestorOf(QApplication::focusWidget()));
 }
 
 void ShellTest::f10AndAltAloneOpenTheMenu()

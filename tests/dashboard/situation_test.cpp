@@ -86,6 +86,8 @@ private slots:
     void theInstructionsNameTheirCommand_data();
     void theInstructionsNameTheirCommand();
     void theTerminalGetsTheInstructions();
+    void everyProblemIsSaidInEightLanguages_data();
+    void everyProblemIsSaidInEightLanguages();
 };
 
 void SituationTest::everyStatusHasACompleteSituation()
@@ -122,9 +124,10 @@ void SituationTest::noRemedyIsLost()
         const QByteArray what = describe(status).toLatin1();
         if (status.isSimulated)
             continue;
-        const bool isOff = status.state == TKSV_DEVICE_DISABLED;
+        const bool mayBeEnabled = status.state == TKSV_DEVICE_DISABLED &&
+                                  status.problem != TKSV_PROBLEM_NOT_PERMITTED;
         QVERIFY2(!status.waitsForPin() || remedies.contains(Remedy::EnterPin), what);
-        QVERIFY2(!isOff || remedies.contains(Remedy::Enable), what);
+        QCOMPARE(remedies.contains(Remedy::Enable), mayBeEnabled);
         QVERIFY2(!status.mayBeFound() || remedies.contains(Remedy::LookAgain), what);
         QCOMPARE(remedies.contains(Remedy::EndForeignSession), status.hasForeignSession);
     }
@@ -281,6 +284,46 @@ void SituationTest::theTerminalGetsTheInstructions()
     QVERIFY2(text.endsWith(QLatin1String("sudo systemctl start ModemManager")), qPrintable(text));
     const Situation off = situation(modemStatus(TKSV_DEVICE_DISABLED));
     QCOMPARE(situationAsText(off), off.title + QLatin1String(". ") + off.text);
+}
+
+void SituationTest::everyProblemIsSaidInEightLanguages_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("problem");
+    QTest::addColumn<QString>("words"); // a part of the text in every language
+    const auto row = [](const char *name, int state, int problem, const char *words) {
+        QTest::newRow(name) << state << problem << QString::fromLatin1(words);
+    };
+    const int absent = TKSV_DEVICE_ABSENT;
+    row("no bus", absent, TKSV_PROBLEM_NO_BUS, "D-Bus");
+    row("no service", absent, TKSV_PROBLEM_NO_SERVICE, "systemctl start ModemManager");
+    row("silent", absent, TKSV_PROBLEM_SERVICE_SILENT, "systemctl restart ModemManager");
+    row("not permitted", TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED,
+        "org.freedesktop.ModemManager1.");
+    row("chosen absent", absent, TKSV_PROBLEM_CHOSEN_ABSENT, "Falken M2");
+    row("removed", absent, TKSV_PROBLEM_MODEM_REMOVED, "");
+    row("failed", absent, TKSV_PROBLEM_MODEM_FAILED, "ModemManager");
+    row("PIN", TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_WRONG_PIN, "PIN");
+    row("PUK", TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_PUK_NEEDED, "PUK");
+    row("no USSD", TKSV_DEVICE_REGISTERED, TKSV_PROBLEM_NO_USSD, "USSD");
+    row("denied", TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_REGISTRATION_DENIED, "SIM");
+}
+
+void SituationTest::everyProblemIsSaidInEightLanguages()
+{
+    QFETCH(int, state);
+    QFETCH(int, problem);
+    QFETCH(QString, words);
+    DeviceStatus status = modemStatus(state, problem);
+    status.pinRetries = 2;
+    QSet<QString> texts;
+    for (const QString &code : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(code));
+        const QString text = situationAsText(situation(status));
+        QVERIFY2(text.contains(words), qPrintable(code + QLatin1Char(' ') + text));
+        texts << text;
+    }
+    QCOMPARE(texts.size(), 8);
 }
 
 USSD_TEST_MAIN(SituationTest)

@@ -1,9 +1,11 @@
 #include <QAccessible>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 #include "base/DashboardText.h"
 #include "Languages.h"
@@ -47,6 +49,34 @@ Situation locked()
     return situation;
 }
 
+/** Counts how often a widget is painted. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    int count() const { return m_count; }
+    void reset() { m_count = 0; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_count += event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
+/// Returns the widget that the Tab key reaches next.
+QWidget *nextTabStop(const QWidget *widget)
+{
+    QWidget *next = widget->nextInFocusChain();
+    while (next != widget && !(next->isVisible() && (next->focusPolicy() & Qt::TabFocus)))
+        next = next->nextInFocusChain();
+    return next;
+}
+
 } // namespace
 
 /** Tests what the strip shows in each state, and that its height never changes. */
@@ -62,7 +92,9 @@ private slots:
     void theSmallestWindowIsWideEnough();
     void readyOffersTheLastCodes();
     void waitingShowsTheSeconds();
+    void theRingShowsEverySecond();
     void choicesThatDoNotFitAreInAList();
+    void theTabKeyReachesTheRowsInOrder();
     void aChoiceIsAnswered();
     void aTextWithoutChoicesIsShown();
     void aFailureOffersWhatHelps();
@@ -196,6 +228,18 @@ void StateStripTest::waitingShowsTheSeconds()
     QCOMPARE(cancelled.count(), 1);
 }
 
+void StateStripTest::theRingShowsEverySecond()
+{
+    show(stateOf(Kind::Waiting));
+    PaintCounter counter(part<SecondsRing>("Dashboard_SecondsRing"));
+    for (int second = 1; second <= 3; ++second) {
+        counter.reset();
+        strip().setSeconds(second);
+        drainEvents();
+        QVERIFY2(counter.count() > 0, QByteArray::number(second).constData());
+    }
+}
+
 void StateStripTest::choicesThatDoNotFitAreInAList()
 {
     show(stateOf(Kind::MenuOpen, 9));
@@ -212,6 +256,27 @@ void StateStripTest::choicesThatDoNotFitAreInAList()
     show(stateOf(Kind::MenuOpen, 2));
     QCOMPARE(choices().size(), 2);
     QVERIFY(!part<QPushButton>("Dashboard_MoreChoices"));
+}
+
+void StateStripTest::theTabKeyReachesTheRowsInOrder()
+{
+    QWidget window;
+    QVBoxLayout layout(&window);
+    layout.addWidget(m_strip.data());
+    QLineEdit below;
+    layout.addWidget(&below);
+    window.resize(840, 200);
+    window.show();
+    show(stateOf(Kind::MenuOpen, 2));
+    const QWidget *widget = part<QPushButton>("Dashboard_EndMenu");
+    for (const char *choice : {"1  A choice with words", "2  A choice with words"}) {
+        widget = nextTabStop(widget);
+        const QPushButton *button = qobject_cast<const QPushButton *>(widget);
+        QCOMPARE(button ? button->text() : QString(), QLatin1String(choice));
+    }
+    QCOMPARE(nextTabStop(widget), static_cast<QWidget *>(&below));
+    layout.removeWidget(m_strip.data());
+    m_strip->setParent(nullptr);
 }
 
 void StateStripTest::aChoiceIsAnswered()

@@ -239,7 +239,8 @@ QList<Remedy> remediesOf(const Row &row, const DeviceStatus &status)
     if (isOfDemonstration(row.kind, status))
         return {Remedy::UseMyModem};
     QList<Remedy> remedies(row.remedies);
-    const bool isOff = status.state == TKSV_DEVICE_DISABLED && !status.isSimulated;
+    const bool isOff = status.state == TKSV_DEVICE_DISABLED && !status.isSimulated &&
+                       row.kind != Kind::NotPermitted;
     addOnce(&remedies, Remedy::EnterPin, status.waitsForPin());
     addOnce(&remedies, Remedy::Enable, isOff);
     addOnce(&remedies, Remedy::LookAgain, status.mayBeFound());

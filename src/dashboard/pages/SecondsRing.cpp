@@ -25,6 +25,8 @@ SecondsRing::SecondsRing(QWidget *parent) : QProgressBar(parent)
     setTextVisible(false);
     setBox(this, "ring"); // other progress bars are flat
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // The base class paints only if its own chunks change, which are coarser than a second.
+    connect(this, &QProgressBar::valueChanged, this, QOverload<>::of(&QWidget::update));
     connect(&Look::instance(), &Look::changed, this, [this] {
         updateGeometry();
         update();

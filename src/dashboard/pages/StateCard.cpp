@@ -77,6 +77,7 @@ QLabel *makeWrapped(const char *type, const char *name, QWidget *parent)
 
 void setRemedyButton(QPushButton *button, Remedy remedy, bool isMain)
 {
+    button->setObjectName(QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy)));
     const char *kind = kindOf(remedy, isMain);
     setButtonKind(button, kind);
     button->setText(remedyText(remedy));
@@ -120,7 +121,6 @@ void RemedyButtons::makeButtons()
     m_buttons.clear();
     for (const Remedy remedy : m_remedies) {
         QPushButton *button = makeButton("", this);
-        button->setObjectName(QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy)));
         connect(button, &QPushButton::clicked, this, [this, remedy] { emit chosen(remedy); });
         m_layout->addWidget(button);
         m_buttons << button;

@@ -16,8 +16,8 @@ namespace Dashboard
 
 class IconDisc;
 
-/// Gives the button the text, the icon and the kind that belong to the remedy. The main button of
-/// a situation stands out, unless it only explains something.
+/// Gives the button the name, the text, the icon and the kind that belong to the remedy. The main
+/// button of a situation stands out, unless it only explains something.
 void setRemedyButton(QPushButton *button, Remedy remedy, bool isMain);
 
 /** A row of buttons, one for each remedy. The buttons stand in a column if the row is too wide. */

@@ -360,7 +360,20 @@ void StateStrip::fillRow()
         addFailureButtons();
     else if (m_state.kind != Kind::Queued)
         addRecent();
+    orderTabStops();
     m_rowLayout->addStretch(1);
+}
+
+/// Puts the new buttons of the row behind those above it. Otherwise, they would be the last of the
+/// window.
+void StateStrip::orderTabStops()
+{
+    QWidget *before = m_dismiss;
+    for (int i = 0; i < m_rowLayout->count(); ++i) {
+        QWidget *button = m_rowLayout->itemAt(i)->widget();
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 void StateStrip::addNote(const QString &text)

@@ -83,6 +83,7 @@ private:
     void alert(const QString &words);
     void announceSeconds(int seconds);
     void fillRow();
+    void orderTabStops();
     void clearRow();
     void addNote(const QString &text);
     QPushButton *addButton(const char *kind, const QString &text);

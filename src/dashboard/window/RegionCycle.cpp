@@ -14,44 +14,45 @@ bool takesFocus(const QWidget *widget)
     return widget->isEnabled() && widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus);
 }
 
-/// Returns the first widget in the region that takes the focus, in the order of the Tab key.
-QWidget *firstIn(QWidget *region)
-{
-    QWidget *widget = region;
-    do {
-        if ((widget == region || region->isAncestorOf(widget)) && takesFocus(widget))
-            return widget;
-        widget = widget->nextInFocusChain();
-    } while (widget && widget != region);
-    return nullptr;
-}
-
 } // namespace
 
-/// Returns the index of the smallest region that contains the focus, or -1.
-int RegionCycle::current() const
+/// Returns the index of the smallest region that contains the widget, or -1.
+int RegionCycle::regionOf(const QWidget *widget) const
 {
-    QWidget *const focus = QApplication::focusWidget();
     int found = -1;
-    for (int i = 0; focus && i < m_regions.size(); ++i) {
+    for (int i = 0; widget && i < m_regions.size(); ++i) {
         const QWidget *region = m_regions.at(i)();
-        const bool contains = region && (region == focus || region->isAncestorOf(focus));
+        const bool contains = region && (region == widget || region->isAncestorOf(widget));
         if (contains && (found < 0 || m_regions.at(found)()->isAncestorOf(region)))
             found = i;
     }
     return found;
 }
 
+/// Returns the first widget of the region that takes the focus, in the order of the Tab key. The
+/// widgets of a smaller region inside it do not count.
+QWidget *RegionCycle::firstIn(int index) const
+{
+    QWidget *const region = m_regions.at(index)();
+    QWidget *widget = region;
+    while (widget) {
+        if (takesFocus(widget) && regionOf(widget) == index)
+            return widget;
+        widget = widget->nextInFocusChain();
+        if (widget == region)
+            break;
+    }
+    return nullptr;
+}
+
 void RegionCycle::move(int step) const
 {
     const int count = int(m_regions.size());
-    const int start = current();
+    const int start = regionOf(QApplication::focusWidget());
     for (int i = 1; i <= count; ++i) {
         const int index =
             start < 0 && step < 0 ? count - i : (start + i * step + i * count) % count;
-        QWidget *region = m_regions.at((index + count) % count)();
-        QWidget *first = region && region->isVisible() ? firstIn(region) : nullptr;
-        if (first) {
+        if (QWidget *first = firstIn((index + count) % count)) {
             first->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
             return;
         }

@@ -25,7 +25,8 @@ public:
     void move(int step) const;
 
 private:
-    int current() const;
+    int regionOf(const QWidget *widget) const;
+    QWidget *firstIn(int index) const;
 
     QList<Region> m_regions;
 };
