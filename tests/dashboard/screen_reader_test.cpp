@@ -15,8 +15,9 @@ const int SCREEN_WIDTH = 1400; // pixels
 const int SCREEN_HEIGHT = 900;
 const int LIMIT = 15000; // ms
 const int STEADY_TIME = 1000;
-const char ACCEPT_VARIABLE[] = "USSD_ACCEPT";
+const char ACCEPT_VARIABLE[] = "USSD_ACCEPT_LISTS";
 const char MODEM[] = "one";
+const int ASKS_FOR_ANSWER = 1; // of +CUSD, 3GPP TS 27.007
 
 // A network whose replies are the same in every run.
 const char NETWORK[] = R"([Network]
@@ -35,6 +36,8 @@ Outcome=silence
 Outcome=refuse
 [*123#]
 Reply=Meridian Mobile\n1 My account\n2 Data packs\n3 Help
+[*123#/2]
+Reply=Data packs
 )";
 
 /// Replaces what differs between two runs. Makes the invisible isolates visible as < and >.
@@ -79,6 +82,9 @@ class ScreenReaderTest : public UssdTest
 private slots:
     void firstRun();
     void pagesOfAReadyModem();
+    void theCourseOfACode();
+    void everyChangeIsAnnounced();
+    void aQuestionOverTheAccountWindow();
     void demonstration();
     void noModem();
     void lockedSim();
@@ -95,6 +101,8 @@ private:
     void showPage(const char *page);
     bool waitFor(const QString &line);
     bool press(const QString &line);
+    /// Waits until a widget has told its new name to the screen reader.
+    bool isAnnounced(const char *name);
     QStringList steadyLines() const;
     void compare(const char *list);
     void accept(const QString &file);
@@ -145,6 +153,8 @@ void ScreenReaderTest::startProgram(const QStringList &arguments, bool hasCodes)
 {
     QProcessEnvironment values = m_desktop->environment();
     values.insert(latin1("TKSV_BACKEND"), latin1("modemmanager"));
+    values.remove(latin1("TKSV_SCENARIO"));
+    values.remove(latin1("USSD_REPLY_TIMEOUT_MS")); // a code stays in flight until it is cancelled
     if (hasCodes)
         values.insert(latin1("USSD_PLUGIN_LIBRARY_PATH"), latin1(PLUGIN_FOLDER));
     m_program.setProcessEnvironment(values);
@@ -175,6 +185,12 @@ bool ScreenReaderTest::waitFor(const QString &line)
 bool ScreenReaderTest::press(const QString &line)
 {
     return waitFor(line) && m_tree->press(m_tree->find(QRegularExpression(line)));
+}
+
+bool ScreenReaderTest::isAnnounced(const char *name)
+{
+    const QRegularExpression event(latin1("^PropertyChange accessible-name .*") + latin1(name));
+    return QTest::qWaitFor([&] { return !m_tree->events().filter(event).isEmpty(); }, LIMIT);
 }
 
 void ScreenReaderTest::showPage(const char *page)
@@ -244,6 +260,49 @@ void ScreenReaderTest::pagesOfAReadyModem()
         showPage(page);
         compare(qPrintable(latin1(page).toLower() + latin1("-ready")));
     }
+}
+
+void ScreenReaderTest::theCourseOfACode()
+{
+    startWithModem();
+    showPage("Codes");
+    QVERIFY(press(latin1("^push button \"Data left\"")));
+    QVERIFY(waitFor(latin1("^status bar \"Waiting for the reply")));
+    compare("codes-waiting");
+    QVERIFY(m_tree->value(m_tree->find(QRegularExpression(latin1("^progress bar")))) >= 0);
+    QVERIFY(press(latin1("^push button \"Cancel\"")));
+    compare("codes-cancelled");
+    QVERIFY(press(latin1("^push button \"Validity\"")));
+    compare("codes-failed");
+    QVERIFY(press(latin1("^push button \"Main menu\"")));
+    QVERIFY(waitFor(latin1("^push button \"2, Data packs\"")));
+    compare("codes-menu");
+    QVERIFY(press(latin1("^push button \"End menu\"")));
+    compare("codes-menu-ended");
+}
+
+// Qt 5 sends no alerts over the bus. A screen reader announces the new name of a status bar.
+void ScreenReaderTest::everyChangeIsAnnounced()
+{
+    startWithModem();
+    showPage("Codes");
+    QVERIFY(waitFor(latin1("^status bar \"Ready\"")));
+    m_tree->forgetEvents();
+    QVERIFY(press(latin1("^push button \"Data left\"")));
+    QVERIFY(isAnnounced("Waiting for the reply to"));
+    QVERIFY(press(latin1("^push button \"Cancel\"")));
+    QVERIFY(isAnnounced("Cancelled"));
+}
+
+void ScreenReaderTest::aQuestionOverTheAccountWindow()
+{
+    startWithModem();
+    QVERIFY(press(latin1("^push button \"Top up\"")));
+    QVERIFY(waitFor(latin1("^dialog")));
+    compare("account-window");
+    m_world->modem(MODEM).sayUssd(ASKS_FOR_ANSWER, "A gigabyte for 1.00 EUR?\n1 Yes\n2 No");
+    QVERIFY(waitFor(latin1("^push button \"1, Yes\"")));
+    compare("question");
 }
 
 void ScreenReaderTest::demonstration()

@@ -17,6 +17,7 @@ const char REGISTRY[] = "org.a11y.atspi.Registry";
 const char ACCESSIBLE[] = "org.a11y.atspi.Accessible";
 const char ACTION[] = "org.a11y.atspi.Action";
 const char COMPONENT[] = "org.a11y.atspi.Component";
+const char TEXT[] = "org.a11y.atspi.Text";
 const char VALUE[] = "org.a11y.atspi.Value";
 const char OBJECT_EVENT[] = "org.a11y.atspi.Event.Object";
 
@@ -224,6 +225,14 @@ double AccessibleTree::value(const Accessible &object) const
     return isNumber ? value : -1;
 }
 
+QString AccessibleTree::content(const Accessible &object) const
+{
+    return call(object.service, object.path, TEXT, "GetText", {0, -1})
+        .arguments()
+        .value(0)
+        .toString();
+}
+
 bool AccessibleTree::listen()
 {
     m_bus.connect(QString(), QString(), text(OBJECT_EVENT), QString(), this,
@@ -233,10 +242,16 @@ bool AccessibleTree::listen()
                .type() == QDBusMessage::ReplyMessage;
 }
 
+// The event names the object instead of the new value.
 void AccessibleTree::onEvent(const QDBusMessage &message)
 {
-    const QVariantList arguments = message.arguments();
-    const QVariant value = arguments.value(3).value<QDBusVariant>().variant();
-    m_events << QStringList{message.member(), arguments.value(0).toString(), value.toString()}.join(
-        QLatin1Char(' '));
+    const QString detail = message.arguments().value(0).toString();
+    QStringList words = {message.member(), detail};
+    if (detail == text("accessible-name")) {
+        Accessible object;
+        object.service = message.service();
+        object.path = message.path();
+        words << property(object, ACCESSIBLE, "Name").toString();
+    }
+    m_events << words.join(QLatin1Char(' '));
 }

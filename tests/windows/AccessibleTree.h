@@ -56,6 +56,9 @@ public:
     /// Returns the current value of a progress bar, slider or spin box, or -1.
     double value(const Accessible &object) const;
 
+    /// Returns what is written in a text field or a transcript.
+    QString content(const Accessible &object) const;
+
     /// Asks the program to send events from now on.
     bool listen();
     /// Returns the events that were received, for example

@@ -112,9 +112,10 @@ QString PrivateDesktop::startDisplay()
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
         return text("no pipe for the X server");
-    const bool isStarted = m_server.start({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen",
-                                           "0", local(m_screen), "-nolisten", "tcp", "-noreset"},
-                                          local(m_folder + text("/xvfb.log")), ends[1]);
+    const bool isStarted =
+        m_server.start({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0",
+                        local(m_screen), "-dpi", "96", "-nolisten", "tcp", "-noreset"},
+                       local(m_folder + text("/xvfb.log")), ends[1]);
     ::close(ends[1]);
     const QString number = isStarted ? firstLine(ends[0]) : QString();
     ::close(ends[0]);

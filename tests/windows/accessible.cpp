@@ -6,17 +6,23 @@
 //     accessible gone PATTERN            waits until no line of the tree matches
 //     accessible at PATTERN              prints the centre of the first match on the screen
 //     accessible press PATTERN           presses the first match
+//     accessible read PATTERN            waits until the content of a text field or a transcript
+//                                        matches
+//     accessible picture FILE            saves a picture of the screen
 //
 // The patterns are regular expressions. The exit status is 1 if a pattern does not match in time.
 // The desktop passes the address of its accessibility bus in $AT_SPI_BUS_ADDRESS.
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPixmap>
 #include <QProcess>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QThread>
 
 #include <cstdio>
+#include <functional>
 
 #include "AccessibleTree.h"
 #include "PrivateDesktop.h"
@@ -61,19 +67,42 @@ int printTree(const AccessibleTree &tree)
     return 0;
 }
 
-/// Looks for a match until there is one, or until there is none if `shown` is false.
-bool waitFor(const AccessibleTree &tree, const QString &pattern, bool shown, Accessible &found)
+bool waitUntil(const std::function<bool()> &condition)
 {
-    const QRegularExpression line(pattern);
     QElapsedTimer waited;
     waited.start();
-    do {
-        found = tree.find(line);
-        if (found.path.isEmpty() != shown)
-            return true;
+    while (!condition()) {
+        if (waited.elapsed() > LIMIT)
+            return false;
         QThread::msleep(LOOK_AGAIN_TIME);
-    } while (waited.elapsed() < LIMIT);
+    }
+    return true;
+}
+
+bool isWritten(const AccessibleTree &tree, const QRegularExpression &pattern)
+{
+    for (const Accessible &object : tree.visible()) {
+        if (object.role == QLatin1String("text") && pattern.match(tree.content(object)).hasMatch())
+            return true;
+    }
     return false;
+}
+
+/// Waits for what the action needs. `found` becomes the first match.
+bool waitFor(const AccessibleTree &tree, const QString &action, const QString &pattern,
+             Accessible &found)
+{
+    const QRegularExpression line(pattern);
+    if (action == QLatin1String("read"))
+        return waitUntil([&] { return isWritten(tree, line); });
+    const bool isShown = action != QLatin1String("gone");
+    return waitUntil([&] { return (found = tree.find(line)).path.isEmpty() != isShown; });
+}
+
+int takePicture(int argc, char **argv, const QString &file)
+{
+    const QGuiApplication application(argc, argv);
+    return QGuiApplication::primaryScreen()->grabWindow(0).save(file) ? 0 : fail(file);
 }
 
 int operate(const QString &action, const QString &pattern)
@@ -82,13 +111,14 @@ int operate(const QString &action, const QString &pattern)
     if (action == QLatin1String("tree"))
         return printTree(tree);
     Accessible found;
-    if (!waitFor(tree, pattern, action != QLatin1String("gone"), found)) {
+    if (!waitFor(tree, action, pattern, found)) {
         printTree(tree);
         return fail(QLatin1String("no success in time: ") + action + QLatin1Char(' ') + pattern);
     }
-    const QPoint centre = tree.place(found).center();
-    if (action == QLatin1String("at"))
+    if (action == QLatin1String("at")) {
+        const QPoint centre = tree.place(found).center();
         printf("%d %d\n", centre.x(), centre.y());
+    }
     if (action == QLatin1String("press") && !tree.press(found))
         return fail(QLatin1String("cannot be pressed: ") + pattern);
     return 0;
@@ -98,8 +128,12 @@ int operate(const QString &action, const QString &pattern)
 
 int main(int argc, char **argv)
 {
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words << QString::fromLocal8Bit(argv[i]);
+    if (words.value(0) == QLatin1String("picture"))
+        return takePicture(argc, argv, words.value(1));
     const QCoreApplication application(argc, argv);
-    QStringList words = application.arguments().mid(1);
     if (words.size() >= 2 && words.first() == QLatin1String("desktop"))
         return runOnDesktop(words.mid(1));
     if (words.isEmpty())

@@ -37,8 +37,12 @@ QString balanceText(const char *amount)
 
 void inventAccount(AccountStore *store, const AccountCodes &codes)
 {
-    if (!store->isDemonstration() || !store->newestBalance().isNull() || codes.balance.isEmpty())
-        return;
+    if (store->isDemonstration() && store->newestBalance().isNull() && !codes.balance.isEmpty())
+        addInventedAccount(store, codes);
+}
+
+void addInventedAccount(AccountStore *store, const AccountCodes &codes)
+{
     const QDateTime now = store->now();
     for (int i = 0; i < DAYS; ++i)
         add(store, codes.balance, balanceText(BALANCES[i]), now.addDays(i - DAYS));

@@ -140,8 +140,9 @@ void AccountTile::show(const TileView &view)
     m_note->setText(m_isNarrow ? view.shortNote : view.note);
     m_bar->setVisible(!m_isNarrow && view.share >= 0);
     m_bar->setShare(view.share);
-    setAccessibleName(view.caption + QLatin1String(", ") + view.value + QLatin1String(", ") +
-                      view.note);
+    QStringList words = {view.caption, view.value, view.note};
+    words.removeAll(QString());
+    setAccessibleName(words.join(QLatin1String(", ")));
 }
 
 void AccountTile::setActionText(const QString &text)

@@ -1,6 +1,7 @@
 #include "FirstRunPage.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -136,6 +137,7 @@ FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *dev
     page->addWidget(m_column);
     m_intro->setWordWrap(true);
     m_costs->setWordWrap(true);
+    m_card->installEventFilter(this);
     m_costs->setAlignment(Qt::AlignCenter);
     makeCard();
     m_column->column()->addStretch(1);
@@ -335,10 +337,12 @@ void FirstRunPage::setForm(Form form)
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
 }
 
-void FirstRunPage::resizeEvent(QResizeEvent *event)
+// The card gets its width after the page.
+bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
-    Page::resizeEvent(event);
-    arrangeButtons();
+    if (watched == m_card && event->type() == QEvent::Resize)
+        arrangeButtons();
+    return Page::eventFilter(watched, event);
 }
 
 /// Puts the buttons below each other if they are too wide for a row.

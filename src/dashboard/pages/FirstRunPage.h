@@ -80,7 +80,7 @@ signals:
     void finished();
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void makeCard();

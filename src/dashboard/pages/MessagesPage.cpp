@@ -1,5 +1,6 @@
 #include "MessagesPage.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -76,7 +77,7 @@ QWidget *MessagesPage::makeList()
 {
     m_search->setObjectName(QLatin1String("Dashboard_MessagesSearch"));
     m_search->setClearButtonEnabled(true);
-    m_search->addAction(icon("search", Token::Text2), QLineEdit::LeadingPosition);
+    m_searchIcon = m_search->addAction(icon("search", Token::Text2), QLineEdit::LeadingPosition);
     m_list->setObjectName(QLatin1String("Dashboard_MessagesList"));
     m_list->setModel(m_model);
     m_list->setItemDelegate(new MessageDelegate(m_list));
@@ -96,7 +97,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty);
+    column->addWidget(m_empty, 1);
     column->addWidget(m_list, 1);
     return m_listSide;
 }
@@ -309,6 +310,7 @@ void MessagesPage::retranslate()
     m_markAll->setText(dashboardText("MESSAGE_MARK_ALL"));
     m_search->setPlaceholderText(dashboardText("MESSAGE_SEARCH"));
     m_search->setAccessibleName(dashboardText("MESSAGE_SEARCH"));
+    m_searchIcon->setText(dashboardText("MESSAGE_SEARCH"));
     m_list->setAccessibleName(dashboardText("MESSAGE_LIST"));
     m_reader->retranslate();
     search();

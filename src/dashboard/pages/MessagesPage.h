@@ -5,6 +5,7 @@
 #include "Page.h"
 #include "plugin/MenuChoices.h"
 
+class QAction;
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -69,6 +70,7 @@ private:
     QPushButton *m_markAll;
     QWidget *m_listSide;
     QLineEdit *m_search;
+    QAction *m_searchIcon = nullptr;
     QPushButton *m_filters[3];
     QListView *m_list;
     QLabel *m_empty;

@@ -1,10 +1,13 @@
 #include <QApplication>
 
+#include "account/DemonstrationAccount.h"
 #include "look/Look.h"
 #include "ShownDevice.h"
 #include "TourGuide.h"
 #include "TourParts.h"
+#include "window/HomeSetup.h"
 #include "window/MainWindow.h"
+#include "window/MessageParts.h"
 
 namespace Dashboard
 {
@@ -46,6 +49,24 @@ const Place PLACES[] = {{PageId::Home, "home"},
                         {PageId::Messages, "messages"},
                         {PageId::Settings, "settings"}};
 
+const TourChange SPEAKING[] = {
+    {"# ---- services", "\n",
+     "\n[Push offer]\nAfter=100\nReply=Today only: 1 GB for 1.00 EUR. Dial *124*1# for it.\n"
+     "[Push note]\nAfter=200\nReply=Your data pack ends tomorrow at 14:00.\n\n"}};
+
+bool hasMessages(const TourGuide &guide)
+{
+    MessageParts *parts = guide.window()->findChild<MessageParts *>();
+    return parts && parts->store().unreadCount() >= 2;
+}
+
+/// Shows an account with a history, which the tour's network cannot have.
+void fillAccount(const TourGuide &guide)
+{
+    if (HomeSetup *home = guide.window()->findChild<HomeSetup *>())
+        addInventedAccount(&home->store(), home->recorder().codes());
+}
+
 void setShape(TourGuide &guide, const Shape &shape)
 {
     QFont font = QApplication::font();
@@ -72,11 +93,12 @@ bool walkShape(TourGuide &guide, const Shape &shape)
 
 bool TourParts::walkPages(TourGuide &guide)
 {
-    if (!guide.useNetwork() || !guide.usePlugin() ||
-        !guide.waitFor([&guide] { return guide.isPaidTypeShown(); }))
+    if (!guide.useNetwork(SPEAKING, 1) || !guide.usePlugin() ||
+        !guide.waitFor([&guide] { return guide.isPaidTypeShown() && hasMessages(guide); }))
         return false;
     ShownDevice shown(guide.window()->device());
     shown.show(ShownDevice::registered("Meridian Mobile", "00101"));
+    fillAccount(guide);
     const QFont font = QApplication::font();
     bool isTaken = true;
     for (const Shape &shape : SHAPES)

@@ -49,7 +49,16 @@ private:
     NavigationButton *m_button;
 };
 
-QAccessibleInterface *makeInterface(const QString &, QObject *object)
+/// Returns true for the dashboard's own frames, such as cards. For Qt, they are windows.
+bool isGroup(const QString &className, const QObject *object)
+{
+    return className.startsWith(QLatin1String("Dashboard::")) &&
+           className == QLatin1String(object->metaObject()->className()) &&
+           object->inherits("QFrame") && !object->inherits("QLabel") &&
+           !object->inherits("QAbstractScrollArea");
+}
+
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
     if (NavigationButton *button = qobject_cast<NavigationButton *>(object))
         return new PageTab(button);
@@ -57,6 +66,8 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
         return new QAccessibleWidget(bars, QAccessible::Graphic);
     if (Banners *banners = qobject_cast<Banners *>(object))
         return new QAccessibleWidget(banners, QAccessible::AlertMessage);
+    if (isGroup(className, object))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Grouping);
     if (ChartView *chart = qobject_cast<ChartView *>(object))
         return new QAccessibleWidget(chart, QAccessible::Graphic);
     if (qobject_cast<BalanceCard *>(object) || qobject_cast<AccountTile *>(object))

@@ -121,7 +121,9 @@ void Header::showContent(const HeaderContent &content)
     m_content = content;
     const bool isNarrow = m_form == Form::Narrow;
     m_operator->setText(content.title);
-    m_operator->setAccessibleName(dashboardText("HEADER_OPERATOR").arg(content.title));
+    const bool isOperator = content.signalPercent >= 0; // otherwise, the title is a state
+    m_operator->setAccessibleName(isOperator ? dashboardText("HEADER_OPERATOR").arg(content.title)
+                                             : content.title);
     m_chip->setText(content.chip);
     m_chip->setTone(content.isDemonstration ? Tone::Warn : Tone::Accent);
     m_chip->setVisible(!isNarrow && !content.chip.isEmpty());

@@ -168,7 +168,7 @@ void MainWindow::showNewestMessage()
         shown.title = newest.text.section(QLatin1Char('\n'), 0, 0);
         shown.note = whenText(newest.receivedAt, QDateTime::currentDateTime());
         if (shown.waitsForAnswer)
-            shown.note += QLatin1String(" \u00b7 ") + dashboardText("MESSAGE_WAITS");
+            shown.note += QString::fromUtf8(" · ") + dashboardText("MESSAGE_WAITS");
     }
     m_home->page()->setMessage(shown);
 }

@@ -1,0 +1,250 @@
+#!/usr/bin/env bash
+# Drives the dashboard in a real window with mouse and keys, under X11 with a window manager and
+# under Wayland, and saves a picture of each step:
+#
+#     tests/windows/drive.sh BUILD-FOLDER PICTURE-FOLDER
+#
+# The script checks each step by what a screen reader finds. Under Wayland, Qt 5 has no screen
+# reader support; there, the log tells what was sent. Requires openbox, xdotool, weston and
+# qtwayland5. It uses its own X server, buses, home directory and network, so it disturbs nobody.
+set -eu
+sources=$(cd "$(dirname "$0")" && pwd)
+build=$(cd "$1" && pwd)
+mkdir -p "$2"
+pictures=$(cd "$2" && pwd)
+accessible=$build/tests/bin/accessible
+program=$build/bin/ussd-dashboard
+
+for name in openbox xdotool weston; do
+    command -v $name >/dev/null || {
+        echo "$0: $name is not installed" >&2
+        exit 1
+    }
+done
+[ -n "${AT_SPI_BUS_ADDRESS:-}" ] || exec "$accessible" desktop "$0" "$build" "$pictures"
+
+number=0
+pid=
+export LANGUAGE=en LC_ALL=C.UTF-8
+unset TKSV_BACKEND TKSV_SCENARIO USSD_PLUGIN_LIBRARY_PATH
+export DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus
+
+at_end()
+{
+    [ -z "$pid" ] || kill "$pid" 2>/dev/null || true
+    kill $(jobs -p) 2>/dev/null || true
+}
+trap at_end EXIT
+
+say() { printf '== %s\n' "$*"; }
+wait_for() { "$accessible" wait "$1"; }
+gone() { "$accessible" gone "$1"; }
+reads() { "$accessible" read "$1"; }
+key() { xdotool key --clearmodifiers "$@"; }
+type_text() { xdotool type --delay 20 "$1"; }
+
+click()
+{
+    local place
+    place=$("$accessible" at "$1")
+    xdotool mousemove ${place% *} ${place#* } click 1
+}
+
+picture()
+{
+    number=$((number + 1))
+    "$accessible" picture "$pictures/$(printf '%02d' $number)-$1.png"
+}
+
+start()
+{
+    "$program" --verbose "$@" >>"$pictures/program.log" 2>&1 &
+    pid=$!
+    xdotool search --sync --onlyvisible --pid $pid >/dev/null
+}
+
+resize()
+{
+    local window
+    window=$(xdotool search --onlyvisible --pid "$pid" | tail -1)
+    xdotool windowsize --sync "$window" "$1" "$2"
+}
+
+# Closes the program with its key and checks that it ends well.
+quit()
+{
+    key ctrl+q
+    wait "$pid"
+    pid=
+}
+
+first_run()
+{
+    say 'first run'
+    start
+    wait_for '^label "Welcome"'
+    picture first-run
+    click 'push button "Try the demonstration instead"'
+    wait_for '^alert message "Demonstration"'
+    wait_for '^page tab "Home" \[selected\]'
+    picture demonstration
+    quit
+}
+
+a_code()
+{
+    say 'a code'
+    key ctrl+l
+    wait_for '^page tab "Codes" \[selected\]'
+    wait_for '^status bar "Ready"'
+    picture codes
+    type_text '*100#'
+    key Return
+    reads 'Your balance is 12\.50 EUR'
+    wait_for '^status bar "Ready"'
+    picture code-answered
+}
+
+a_menu()
+{
+    say 'a menu of three steps'
+    click '^push button "Main menu"'
+    click '^push button "2, Data packs"'
+    click '^push button "1, Day: '
+    picture menu
+    click '^push button "1, Buy"'
+    reads 'Day pack booked\. Your balance is 11\.50 EUR'
+    wait_for '^status bar "Ready"'
+}
+
+a_cancel()
+{
+    say 'cancel'
+    click '^push button "Data left"'
+    wait_for '^status bar "Waiting for the reply'
+    wait_for '^push button "Cancel"'
+    picture waiting
+    click '^push button "Cancel"'
+    wait_for '^status bar "Cancelled"'
+    picture cancelled
+}
+
+a_failure()
+{
+    say 'a failure'
+    click '^push button "Validity"'
+    wait_for '^status bar ".*was refused"'
+    picture failed
+    click '^push button "Dismiss"'
+    wait_for '^status bar "Ready"'
+}
+
+a_question()
+{
+    say 'a question of the network behind the account window'
+    start --language en --scenario "$sources/question.scenario"
+    click '^push button "Top up"'
+    wait_for '^dialog'
+    picture account-window
+    click '^push button "1, Yes"'
+    gone '^push button "1, Yes"'
+    picture question-answered
+    key Escape
+    key ctrl+l
+    reads 'Booked'
+    quit
+}
+
+dark_and_arabic()
+{
+    say 'dark, Arabic, 360 pixels'
+    key ctrl+comma
+    click '^check box "Dark"'
+    picture dark-settings
+    key ctrl+1
+    wait_for '^page tab "Home" \[selected\]'
+    picture dark-home
+    key ctrl+comma
+    click '^button menu "Language"'
+    key Up Up Return # Qt 5 hides popups from screen readers; Arabic is the last but one
+    wait_for '^page tab "الإعدادات"'
+    key ctrl+1
+    picture arabic-dark
+    resize 360 640
+    gone '^page tab "الإعدادات"'
+    picture arabic-narrow
+    key ctrl+2
+    wait_for '^status bar'
+    picture arabic-narrow-codes
+}
+
+large_letters()
+{
+    say 'letters twice as large'
+    start --demo --language en
+    wait_for '^page tab "Home" \[selected\]'
+    key ctrl+comma
+    click '^check box "Light"'
+    click '^check box "200.%"'
+    quit
+    start --demo --language en
+    resize 1120 720
+    wait_for '^page tab "Home" \[selected\]'
+    picture large-home
+    key ctrl+2
+    wait_for '^status bar'
+    picture large-codes
+    quit
+}
+
+# Under Wayland, only keys are used.
+wayland()
+{
+    say 'Wayland'
+    weston --backend=x11-backend.so --width=1300 --height=850 --socket=drive --idle-time=0 \
+        >"$pictures/weston.log" 2>&1 &
+    local compositor=$!
+    xdotool search --sync --onlyvisible --name 'Weston Compositor' windowfocus >/dev/null
+    QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=drive "$program" --language en --verbose \
+        --scenario "$sources/drive.scenario" >"$pictures/wayland.log" 2>&1 &
+    pid=$!
+    until_logged 'plug-in'
+    picture wayland
+    key ctrl+l
+    type_text '*100#'
+    key Return
+    until_logged 'Your balance is'
+    picture wayland-code
+    key ctrl+q
+    wait "$pid"
+    pid=
+    kill $compositor
+}
+
+until_logged()
+{
+    local tries=0
+    until grep -q "$1" "$pictures/wayland.log"; do
+        tries=$((tries + 1))
+        [ $tries -lt 150 ] || {
+            echo "$0: the log lacks: $1" >&2
+            exit 1
+        }
+        sleep 0.1
+    done
+}
+
+rm -f "$pictures"/program.log
+openbox &
+first_run
+start --scenario "$sources/drive.scenario"
+a_code
+a_menu
+a_cancel
+a_failure
+dark_and_arabic
+quit
+a_question
+large_letters
+wayland
+say "all steps done; $number pictures in $pictures"
