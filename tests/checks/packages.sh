@@ -8,7 +8,7 @@ section=
 while read -r package rest; do
     case "$package" in
     '' | '#'*) continue ;;
-    '[run]' | '[test]' | '[check]' | '[qt6]' | '[package]')
+    '[run]' | '[test]' | '[check]' | '[qt6]' | '[validate]' | '[package]')
         section=$package
         continue
         ;;
@@ -22,7 +22,7 @@ while read -r package rest; do
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
     case $section in
-    '[check]' | '[qt6]' | '[package]') continue ;; # ./test does not need these packages by default
+    '[check]' | '[qt6]' | '[validate]' | '[package]') continue ;; # ./test does not need these packages by default
     esac
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"

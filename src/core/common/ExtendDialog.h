@@ -30,6 +30,7 @@ signals:
     void dlgCloseEvent();
 
 protected:
+    /// Emits dlgCloseEvent().
     void closeEvent(QCloseEvent *event) override;
 };
 
