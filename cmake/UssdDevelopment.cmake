@@ -3,10 +3,11 @@
 # installation.
 #
 #   ussd_add_development_files(TARGET PACKAGE NAME PKG_CONFIG NAME DESCRIPTION TEXT FOLDER NAME
-#                              HEADERS FILE... [REQUIRES PKG-CONFIG-NAME...])
+#                              HEADERS FILE... [REQUIRES PKG-CONFIG-NAME...] [VARIABLE NAME=VALUE])
 #
 # PACKAGE is the name for find_package(). The package has the target PACKAGE::TARGET. The folder
-# cmake/packages contains the template of its file. FOLDER is the folder of the headers.
+# cmake/packages contains the template of its file. FOLDER is the folder of the headers. VARIABLE is
+# another variable of the pkg-config file.
 include(CMakePackageConfigHelpers)
 
 set(USSD_PKG_CONFIG_DIR ${USSD_LIB_DIR}/pkgconfig)
@@ -25,7 +26,7 @@ else()
 endif()
 
 function(ussd_add_development_files target)
-    cmake_parse_arguments(arg "" "PACKAGE;PKG_CONFIG;DESCRIPTION;FOLDER" "HEADERS;REQUIRES" ${ARGN})
+    cmake_parse_arguments(arg "" "PACKAGE;PKG_CONFIG;DESCRIPTION;FOLDER;VARIABLE" "HEADERS;REQUIRES" ${ARGN})
     set(folder ${CMAKE_INSTALL_INCLUDEDIR}/${arg_FOLDER})
     set(package_dir ${USSD_LIB_DIR}/cmake/${arg_PACKAGE})
     set(generated ${PROJECT_BINARY_DIR}/packages)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Checks the menu entry, the software centre's data and the icons. Exits with status 77, which CTest
-# counts as skipped, if a validator is not installed and no fault was found.
+# Checks the menu entry, the description for software centres and the icons. Also checks that the
+# version is the same everywhere. Exits with status 77, which CTest counts as skipped, if a validator
+# is not installed and no fault was found.
 . "$(dirname "$0")/common.sh"
 entry=desktop/ussd-dashboard.desktop
 metainfo=desktop/org.ussd_dashboard.dashboard.metainfo.xml
@@ -34,6 +35,7 @@ for icon in desktop/icons/*.png; do
 done
 version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 grep -q "<release version=\"$version\"" "$metainfo" || complain "$metainfo: no release $version"
+head -n 1 debian/changelog | grep -qF "($version)" || complain "debian/changelog: the version is not $version"
 program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$entry" | sort -u)
 [ "$program" = ussd-dashboard ] || complain "$entry: starts $program"
 grep -q "<binary>$program</binary>" "$metainfo" || complain "$metainfo: does not provide $program"
