@@ -46,7 +46,7 @@ shows() {
 
 as_user() {
     in_system "$system" setpriv --reuid=trial --regid=trial --clear-groups \
-        env HOME=/home/trial QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/trial -C /home/trial "$@"
+        env -C /home/trial HOME=/home/trial QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/trial "$@"
 }
 
 fresh_system() {
@@ -109,7 +109,7 @@ make_next_version() {
         if [ -d "$tree$config" ]; then
             sed -i "\$a$new_line" "$tree$config"/*.xml
         fi
-        dpkg-deb --root-owner-group --build "$tree" "$system/next" >>"$log"
+        dpkg-deb --root-owner-group -Zgzip -z1 --build "$tree" "$system/next" >>"$log"
     done
     rm -rf "$tree"
 }
