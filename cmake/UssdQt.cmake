@@ -12,6 +12,9 @@ if(USSD_QT_VERSION EQUAL 6)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Core Core5Compat DBus Gui Sql Svg Widgets Test)
     target_link_libraries(ussd_qtcore INTERFACE Qt6::Core Qt6::Core5Compat)
     target_link_libraries(ussd_qtwidgets INTERFACE Qt6::Widgets)
+    # Qt6::Test also defines the folders of each test, for QFINDTESTDATA. The precompiled headers of the
+    # tests, which require the same definitions in all folders, could not be used with them.
+    set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     target_link_libraries(ussd_qttest INTERFACE Qt6::Test)
     target_link_libraries(ussd_qtdashboard INTERFACE Qt6::DBus Qt6::Sql Qt6::Svg)
     find_program(USSD_LRELEASE_QT6 NAMES lrelease lrelease-qt6 HINTS /usr/lib/qt6/bin NO_DEFAULT_PATH REQUIRED)
@@ -33,6 +36,13 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 6, 5 or 4")
 endif()
+# The loader of Qt 4 refuses a library whose build key differs from its own. No Qt 4 has a key that ends
+# with the version of another Qt, so a Qt 4 host never loads a library that requires that Qt.
+set(USSD_PLUGIN_BUILD_KEY "${USSD_QT4_BUILD_KEY}")
+if(NOT USSD_QT_VERSION EQUAL 4)
+    string(APPEND USSD_PLUGIN_BUILD_KEY " qt${USSD_QT_VERSION}")
+endif()
+
 # Forbids implicit conversions between QString and char *, whose encoding differs between Qt 4 and Qt 5.
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)

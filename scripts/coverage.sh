@@ -12,7 +12,7 @@ report() {
         --exclude-throw-branches --exclude-unreachable-branches "$@" build/coverage/src/USSDUIPlugin
 }
 
-install_missing_packages run test check
+install_missing_packages run qt5 test test-qt5 check
 say "Building preset coverage; the first time this takes some minutes."
 configure_and_build coverage tests_plugin
 find build/coverage -name '*.gcda' -delete # the execution counts of the previous run

@@ -11,7 +11,7 @@ cd "$(dirname "$0")/.."
 
 seconds=${1:-600}
 [ $# -eq 0 ] || shift
-install_missing_packages run check
+install_missing_packages run qt5 check
 configure_and_build fuzz tests_fuzz
 
 fuzzers=("$@")

@@ -141,7 +141,7 @@ run_list()
     done 3< <(cat "$1" && echo)
 }
 
-install_missing_packages run test
+install_missing_packages run qt5 test test-qt5
 mkdir -p "$tree"
 : >"$report"
 copy_tree

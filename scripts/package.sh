@@ -72,7 +72,7 @@ compare()
     say "All packages of two builds are equal byte for byte."
 }
 
-install_missing_packages run validate package
+install_missing_packages run qt5 validate package
 mkdir -p build "$output"
 work=$PWD/build/package # always the same path, so that ccache finds the results of an earlier build
 rm -rf "$work"

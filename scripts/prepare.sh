@@ -44,6 +44,17 @@ install_missing_packages()
         DEBIAN_FRONTEND=noninteractive $install >&2
 }
 
+# installed_qt: prints the version of Qt whose packages are installed: 5 or 6. Prints 5 if both are
+# installed or neither.
+installed_qt()
+{
+    if [ -n "$(missing_packages qt5)" ] && [ -z "$(missing_packages qt6)" ]; then
+        echo 6
+    else
+        echo 5
+    fi
+}
+
 # Copies the output of a build from standard input to standard output, and shows the progress on
 # standard error. On a terminal, a single line is updated. Otherwise, a new line is printed every
 # PROGRESS_SECONDS.

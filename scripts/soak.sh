@@ -7,7 +7,7 @@ set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
 
-install_missing_packages run test
+install_missing_packages run qt5 test test-qt5
 say "Building preset quick; the first time this takes some minutes."
 configure_and_build quick soak translations
 

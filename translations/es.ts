@@ -642,6 +642,8 @@ Muestra las ventanas del complemento USSD y el estado del dispositivo.
                            contestar por turno a los menús de la red
   --tour CARPETA           recorrer todas las ventanas sin pantalla; deja
                            imágenes y transcript.txt en la carpeta
+  --export ARCHIVO         escribir las respuestas guardadas sobre saldos
+                           en un archivo .csv o .json
   --demo                   usar una red inventada; no se envía nada
   --scenario ARCHIVO       usar la red inventada de este archivo
   --modem ID               usar el módem con este identificador (IMEI)
@@ -807,15 +809,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>PIN de la tarjeta SIM</translation>
+        <translation>Introduzca el PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La tarjeta SIM está bloqueada. Su PIN tiene de 4 a 8 cifras; no se guarda.</translation>
-    </message>
-    <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN:</translation>
+        <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
     </message>
     <message>
         <source>PIN_BUTTON</source>
@@ -831,11 +829,11 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Intentos restantes: %1.</translation>
+        <translation>Quedan %1 intentos.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>Es el último intento: otro PIN erróneo bloquea la tarjeta SIM, y solo el PUK la desbloquea.</translation>
+        <translation>Queda un intento. Tras otro PIN incorrecto, la SIM necesita su PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -843,15 +841,15 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Ese no era el PIN. Inténtelo de nuevo.</translation>
+        <translation>Ese no era el PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>No se pudo enviar el PIN a la tarjeta SIM. Inténtelo de nuevo.</translation>
+        <translation>No se pudo enviar el PIN a la SIM. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La tarjeta SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
+        <translation>La SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -974,7 +972,7 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Panel USSD – demostración</translation>
+        <translation>Demostración – Panel USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -1125,6 +1123,294 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Último mensaje de la red: %1</translation>
     </message>
     <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>La red no abrió ningún menú. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>El menú ya no ofrece «%1» en la tecla %2. No se envió nada más.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 se detuvo</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nombre del recorrido:</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Guardar este recorrido…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Códigos para enviar</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>No se puede guardar el historial de códigos: %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>ayer %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>hoy %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Escribir el código</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Número o PIN para %1:</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Aún no se ha enviado ningún código</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Borrar historial</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Los números y PIN no se guardan</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 opciones más</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>Estado de los códigos</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Volver a solo 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Permitir 2G y 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Guardar la conversación…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Buscar en la conversación</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copiar la respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Qué pasó</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Enviar de nuevo</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminar menú</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>No se puede leer la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>La red respondió sin texto.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>La respuesta a %1 no tiene texto</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Usted detuvo %1. No se envió.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Usted detuvo %1. Puede que la red lo haya ejecutado de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>El módem no está listo.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 no se envió</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>El módem desapareció. No se sabe si la red lo ejecutó.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 se interrumpió</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>La red no conoce este código, o no es para su contrato.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 fue rechazado</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>La red no respondió en 30 segundos. Puede que haya ejecutado el código de todos modos.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Sin respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Se ha informado a la red.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menú terminado</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Escriba su respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Elija o escriba abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Elija una opción o escriba la respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menú abierto</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>La red espera su respuesta</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Otro programa está usando el módem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Otra ventana está consultando.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>Esperando su turno</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>La mayoría de las respuestas llegan en 10 segundos. Cancelar libera el módem al instante.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 de %2 segundos</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>Esperando la respuesta a %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envíe un código.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envíe un código o elija uno abajo.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
         <source>CLI_ONLY_SEND</source>
         <translation>%1 solo va con --send.</translation>
     </message>
@@ -1159,6 +1445,1130 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>PAID_DETECT</source>
         <translation>A&amp;veriguar si la SIM es de prepago o de pospago (envía un código)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Envíe un código o elija uno abajo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>No conocemos los códigos de su operador</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Elija su operador y aquí aparecerán sus códigos de saldo y recarga. También puede escribir códigos sin elegirlo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>Esperando su turno</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Otra ventana está preguntando.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Otro programa está usando códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Podrá enviar códigos cuando termine. Quizá esté comprando algo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Buscando un módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Esto tarda un momento.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Sin módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Conecte un módem o enciéndalo. Esta página se activará por sí sola.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 no está conectado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>El módem elegido no está conectado</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Conéctelo o elija otro módem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Se ha retirado el módem</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Conéctelo de nuevo. Esta página se activará por sí sola.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>El módem no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager lo ha descartado. Desconéctelo y vuelva a conectarlo. El registro de ModemManager indica el motivo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>El bus de mensajes no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>No se puede acceder al D-Bus del sistema, por lo que no se encuentra ningún módem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>El servicio de módem no funciona</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager no está instalado o se ha detenido.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>El servicio de módem no responde</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager funciona pero no responde. Espere un momento o reinícielo.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>No permitido</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Este equipo no le deja usar su módem. Su administrador puede permitirlo para su cuenta.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Sin SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Inserte una SIM en el módem. Algunos módems deben estar apagados para ello.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>La SIM está bloqueada</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Introduzca su PIN para usarla.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>La SIM necesita su PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Demasiados PIN incorrectos. Desbloquéela en un teléfono con el PUK de su operador y vuelva a ponerla.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>El módem está apagado</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Enciéndalo para usarlo. Necesita un momento para encontrar su red.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Buscando una red</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Puede tardar un minuto. Podrá enviar códigos en cuanto se encuentre la red.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>La red no acepta esta SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Pregunte a su operador si está activa o use otra SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Este módem no puede enviar códigos</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>No tiene USSD. Elija otro módem o use un teléfono para los códigos.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Este estado forma parte de la demostración.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Un administrador crea el archivo de la primera línea con esta regla y añade su cuenta al grupo netdev. Después, vuelva a iniciar la sesión.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Escriba esto en un terminal, con la contraseña de un administrador. Si indica que el servicio no existe, instale antes el paquete modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Escriba esto en un terminal, con la contraseña de un administrador.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>El PUK es un número de 8 cifras que desbloquea una SIM tras demasiados PIN incorrectos. Está en la tarjeta en la que venía la SIM, y su operador puede indicárselo. Tras diez PUK incorrectos, la SIM queda inservible.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>Quedan %1 intentos</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>Queda 1 intento</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Introducir el PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Encender</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Buscar de nuevo</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Elegir un módem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Cómo permitirlo</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Cómo iniciarlo</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>¿Qué es un PUK?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Probar la demostración</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Usar mi módem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>Finalizarla</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Elegir operador</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Escribir un código</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>¿Finalizar la sesión del otro programa? Quizá esté comprando algo.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Finalizar la sesión</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>No se puede escribir %1. Los mensajes nuevos se perderán al cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>El archivo de los mensajes estaba dañado. Ahora se llama %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>No se puede eliminar %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Marcar todo como leído</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Buscar mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>No leídos %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>No leídos</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>En espera %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Ayer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · de la red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Espera su respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>No leído</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>O escriba una respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Escriba una respuesta</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Responder puede costar dinero. Al terminar, la red sabe que no quiere nada.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Terminar sin responder</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copiar el mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Eliminar el mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Aún no hay mensajes</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Aquí aparecen los mensajes que la red envía por sí misma.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Ningún mensaje encontrado</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Elija un mensaje para leerlo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Texto del mensaje</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Mensaje de %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Espera su respuesta.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Tiene un mensaje nuevo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Sigue abierto un menú en la red, pero ya no se conoce su texto. Respóndalo o termínelo.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Su saldo es de %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Paquetes y ajustes de %1. Cada uno se abre en la ventana de servicios, que muestra lo que hace antes de enviar nada.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Paquetes y ajustes de su operador. Cada uno se abre en la ventana de servicios, que muestra lo que hace antes de enviar nada.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Por código</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Por SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>a %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>pide un número</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Su operador no tiene servicios aquí.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>La red espera su respuesta</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Elija una o escriba la respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Escriba su respuesta abajo.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Mostrar el PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>El archivo con sus saldos estaba dañado. Se conserva como %1 y se ha creado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>No se pueden guardar los saldos en %1. Se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Una versión posterior del programa escribió %1. Los saldos se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>NAV_TITLE</source>
+        <translation>Panel USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Códigos</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Mensajes</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Operador: %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Demostración</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Señal fuerte</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Señal buena</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Señal débil</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Sin señal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Señal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM terminada en %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Mostrar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 sin leer</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Módem listo</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Ningún módem en uso</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Buscando uno</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Todo aquí es inventado. No se usa ningún módem y nada cuesta dinero.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Aún sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Algo no está bien</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Sus propios códigos se pueden restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Su archivo ha desaparecido. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Su archivo está incompleto. Hay una copia del %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Eliminar la copia</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Códigos en una ventana</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Ventana de la c&amp;uenta</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Ventana de la c&amp;uenta, prepago</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Ventana de la cuenta, c&amp;ontrato</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Editar códigos</translation>
+    </message>
+    <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xportar saldos…</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>&amp;Módem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Ajustes</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>Acerca &amp;de</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Panel USSD %1. Envía códigos USSD por un módem y muestra las respuestas.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notificaciones</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Privacidad</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Módem elegido</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Códigos del operador</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Ninguno: usted escribe los códigos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Averiguar el tipo de contrato</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envía un código una vez por SIM. Puede costar dinero.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Después de reiniciar</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Reducir el movimiento</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Sigue al sistema</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Mensajes de la red</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Cuando la ventana no está delante</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Mostrar su texto</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>Otras personas pueden leerlo en la pantalla</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Por debajo de %1, cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Cuando una respuesta indica el saldo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Ocultar el número de la SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Solo se muestran las últimas cuatro cifras</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Guardar historial y saldos</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Solo en este equipo, durante 12 meses</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Eliminar todo</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Eliminar todo…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Saldos, mensajes y códigos enviados</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>¿Eliminar todos los saldos, mensajes y códigos enviados? No se pueden recuperar.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Bienvenida</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Tres pasos, y desde aquí verá su saldo, enviará códigos y comprará paquetes.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Módem encontrado</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM lista</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM terminada en %1, registrada en una red.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Después la SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>¿De quién son los códigos que se usarán?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Podrá elegirlo cuando la SIM esté lista.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Su SIM coincide con un operador de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Su SIM coincide con %1 operadores de la lista. Puede cambiarlo en cualquier momento en Ajustes.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Ningún operador de la lista coincide con su SIM. Puede escribir los códigos.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Códigos: %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>saldo</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>recarga</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>número propio</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sin códigos del operador</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Usted escribe los códigos, nada viene puesto</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Usar códigos</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Seguir sin ellos</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Probar la demostración</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Nada se envía a la red hasta que pulse un botón. Los códigos pueden costar dinero.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>El panel ya está abierto. Su ventana está ahora delante y conserva su dispositivo.</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>pide un texto</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Termine antes el menú.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d 'de' MMMM 'de' yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>hoy a las %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>ayer a las %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>último día</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>queda 1 día</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>quedan %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Válido hasta el %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Terminó el %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>ha terminado</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Saldo (inventado)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Consultado %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Hace %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Saldo bajo</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Aún sin consultar</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Consultar de nuevo</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Consultar ahora</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Consultando… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Termine antes el menú.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Ver la respuesta</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Respuesta a %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Saldo en el tiempo</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>Últimos %1 días</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Consulte de nuevo otro día para ver aquí una línea.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Gastado %1, recargado %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>De %1 a %2 en %3 días, mínimo %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Mi número</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copiar el número</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Válido hasta</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Datos restantes</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>de %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Elija hasta %1 códigos y ordénelos.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Número para %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Responder</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Último conocido: %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, consultado %2. Puede haber cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Consultado %1. Puede haber cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exportar saldos</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1: el nombre debe terminar en .csv o .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>No se puede leer %1.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
 </context>
 </TS>

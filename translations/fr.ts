@@ -641,6 +641,8 @@ Affiche les fenêtres du module USSD et l’état de l’appareil.
                            répondre tour à tour aux menus du réseau
   --tour DOSSIER           parcourir toutes les fenêtres sans écran ; laisse des
                            images et transcript.txt dans le dossier
+  --export FICHIER         écrire les réponses conservées sur les soldes
+                           dans un fichier .csv ou .json
   --demo                   utiliser un réseau inventé ; rien n’est envoyé
   --scenario FICHIER       utiliser le réseau inventé de ce fichier
   --modem IDENTIFIANT      utiliser le modem de cet identifiant (IMEI)
@@ -808,15 +810,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>Code PIN de la carte SIM</translation>
+        <translation>Saisir le PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>La carte SIM est verrouillée. Son code PIN a 4 à 8 chiffres ; il n’est pas conservé.</translation>
-    </message>
-    <message>
-        <source>PIN_LABEL</source>
-        <translation>Code &amp;PIN :</translation>
+        <translation>4 à 8 chiffres. Il va à la SIM et n’est pas conservé.</translation>
     </message>
     <message>
         <source>PIN_BUTTON</source>
@@ -832,11 +830,11 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>Essais restants : %1.</translation>
+        <translation>Il reste %1 essais.</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>C’est le dernier essai : un autre code erroné bloque la carte SIM, et seul le code PUK la débloque.</translation>
+        <translation>Il reste un essai. Après un autre PIN erroné, la SIM demande son PUK.</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -844,15 +842,15 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>Ce n’était pas le code PIN. Veuillez réessayer.</translation>
+        <translation>Ce n’était pas le PIN.</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>Le code PIN n’a pas pu être envoyé à la carte SIM. Veuillez réessayer.</translation>
+        <translation>Le PIN n’a pas pu être envoyé à la SIM. Réessayez.</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>La carte SIM n’a pas répondu à temps. Veuillez réessayer.</translation>
+        <translation>La SIM n’a pas répondu à temps. Réessayez.</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -975,7 +973,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>Tableau de bord USSD – démonstration</translation>
+        <translation>Démonstration – Tableau de bord USSD</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -1126,6 +1124,294 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Dernier message du réseau : %1</translation>
     </message>
     <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>Le réseau n’a ouvert aucun menu. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>Le menu ne propose plus « %1 » sur la touche %2. Rien d’autre n’a été envoyé.</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 s’est arrêté</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>Nom du parcours :</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>Garder ce parcours…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>Codes à envoyer</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>Impossible de conserver l’historique des codes : %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>hier %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>aujourd’hui %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>Saisir le code</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>Numéro ou PIN pour %1 :</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>Aucun code envoyé pour l’instant</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>Les numéros et PIN ne sont pas conservés</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>%1 autres choix</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>État des codes</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>Revenir à la 4G seule</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>Autoriser 2G et 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>Fichiers texte</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>Fermer la recherche</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>Enregistrer l’échange…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>Rechercher dans l’échange</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>Copier la réponse</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>Que s’est-il passé</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>Renvoyer</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>Finir</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>Terminer le menu</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>Codes dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>La réponse à %1 est illisible</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>Le réseau a répondu sans texte.</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>Réponse à %1 sans texte</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>Vous avez arrêté %1. Il n’a pas été envoyé.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>Vous avez arrêté %1. Le réseau l’a peut-être exécuté quand même.</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>Le modem n’est pas prêt.</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 n’a pas été envoyé</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>Le modem a disparu. On ignore si le réseau l’a exécuté.</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 a été interrompu</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>Le réseau ne connaît pas ce code, ou il n’est pas prévu pour votre contrat.</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 a été refusé</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>Le réseau n’a pas répondu en 30 secondes. Il a peut-être exécuté le code quand même.</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>Pas de réponse à %1</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>Le réseau en a été informé.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>Menu terminé</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>Saisissez votre réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>Choisissez ou saisissez.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>Choisissez, ou saisissez la réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>Menu ouvert</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>Le réseau attend votre réponse</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>Un autre programme utilise le modem.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>Une autre fenêtre interroge le réseau.</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>En attente de son tour</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>La plupart des réponses arrivent en 10 secondes. Annuler libère le modem aussitôt.</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>%1 sur %2 secondes</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>En attente de la réponse à %1</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>Envoyez un code.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
         <source>CLI_ONLY_SEND</source>
         <translation>%1 ne va qu’avec --send.</translation>
     </message>
@@ -1160,6 +1446,1130 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>PAID_DETECT</source>
         <translation>&amp;Déterminer si la carte SIM est prépayée ou postpayée (envoie un code)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>Envoyez un code ou choisissez-en un ci-dessous.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>Les codes de votre opérateur sont inconnus</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>Choisissez votre opérateur : ses codes de solde et de recharge apparaîtront ici. Vous pouvez saisir des codes sans cela.</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>En attente de son tour</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>Une autre fenêtre interroge le réseau.</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>Un autre programme utilise des codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>Des codes pourront être envoyés quand il aura terminé. Il est peut-être en train d’acheter quelque chose.</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>Recherche d’un modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>Cela prend un instant.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>Aucun modem</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>Branchez un modem ou allumez-le. Cette page s’active d’elle-même.</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 n’est pas branché</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>Le modem choisi n’est pas branché</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>Branchez-le ou choisissez un autre modem.</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>Le modem a été retiré</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>Rebranchez-le. Cette page s’active d’elle-même.</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>Le modem ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager l’a abandonné. Débranchez-le puis rebranchez-le. Le journal de ModemManager en donne la raison.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>Le bus de messages ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>Le D-Bus du système est inaccessible, aucun modem n’est donc trouvé.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>Le service des modems ne fonctionne pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager n’est pas installé ou a été arrêté.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>Le service des modems ne répond pas</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager fonctionne mais ne répond pas. Attendez un instant ou redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>Non autorisé</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>Cet ordinateur ne vous laisse pas utiliser son modem. Son administrateur peut l’autoriser pour votre compte.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>Aucune SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>Insérez une SIM dans le modem. Certains modems doivent être éteints pour cela.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>La SIM est verrouillée</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>Saisissez son PIN pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>La SIM demande son PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>Trop de PIN erronés. Déverrouillez-la dans un téléphone avec le PUK de votre opérateur, puis remettez-la.</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>Le modem est éteint</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>Allumez-le pour l’utiliser. Il lui faut un instant pour trouver son réseau.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>Recherche d’un réseau</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>Cela peut prendre une minute. Des codes pourront être envoyés dès que le réseau sera trouvé.</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>Le réseau n’accepte pas cette SIM</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>Demandez à votre opérateur si elle est active, ou utilisez une autre SIM.</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>Ce modem ne peut pas envoyer de codes</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>Il n’a pas l’USSD. Choisissez un autre modem, ou utilisez un téléphone pour les codes.</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>Cet état fait partie de la démonstration.</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>Un administrateur crée le fichier de la première ligne avec cette règle et ajoute votre compte au groupe netdev. Reconnectez-vous ensuite.</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>Saisissez ceci dans un terminal, avec le mot de passe d’un administrateur. Si le service n’existe pas, installez d’abord le paquet modemmanager.</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>Saisissez ceci dans un terminal, avec le mot de passe d’un administrateur.</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>Le PUK est un numéro de 8 chiffres qui déverrouille une SIM après trop de PIN erronés. Il figure sur la carte qui contenait la SIM, et votre opérateur peut le donner. Après dix PUK erronés, la SIM est inutilisable.</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>%1 essais restants</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>1 essai restant</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>Saisir le PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>Allumer</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>Chercher à nouveau</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>Choisir un modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>Comment l’autoriser</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>Comment le démarrer</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>Qu’est-ce qu’un PUK ?</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>Essayer la démonstration</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>Utiliser mon modem</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>La terminer</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>Choisir l’opérateur</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>Saisir un code</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>Terminer la session de l’autre programme ? Il est peut-être en train d’acheter quelque chose.</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>Terminer la session</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>%1 ne peut pas être écrit. Les nouveaux messages seront perdus à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>Le fichier des messages était endommagé. Il s’appelle maintenant %1.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>%1 ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>Tout marquer comme lu</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>Non lus %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>Non lus</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>En attente %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1, %2 · du réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>Attend votre réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>Non lu</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>Ou saisissez une réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>Saisissez une réponse</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>Répondre peut être payant. Terminer indique au réseau que vous ne voulez rien.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>Terminer sans répondre</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>Copier le message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>Supprimer le message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>Pas encore de messages</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>Les messages que le réseau envoie de lui-même apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>Aucun message trouvé</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>Choisissez un message pour le lire.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>Messages du réseau</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>Texte du message</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>Message de %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>Il attend votre réponse.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>Vous avez un nouveau message.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>Un menu est encore ouvert dans le réseau, mais son texte n’est plus connu. Répondez-y ou terminez-le.</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>Votre solde est de %1.</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>Forfaits et réglages de %1. Chacun s’ouvre dans la fenêtre des services, qui montre ce qu’il fait avant tout envoi.</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>Forfaits et réglages de votre opérateur. Chacun s’ouvre dans la fenêtre des services, qui montre ce qu’il fait avant tout envoi.</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>Par code</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>Par SMS</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>au %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>demande un numéro</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>Votre opérateur n’a pas de services ici.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>Le réseau attend votre réponse</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>Choisissez ou saisissez la réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>Saisissez votre réponse ci-dessous.</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>Afficher le PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>Le fichier de vos soldes était endommagé. Il est conservé sous %1 et un nouveau a été créé.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>Les soldes ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>Une version plus récente du programme a écrit %1. Les soldes sont conservés jusqu’à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>NAV_TITLE</source>
+        <translation>Tableau USSD</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>Codes</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 non lus</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>Opérateur : %1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>Démonstration</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>Signal fort</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>Bon signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>Signal faible</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>Pas de signal</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1, %2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM finissant par %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>Afficher le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>Masquer le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1, %2 non lus</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>Modem prêt</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>Aucun modem utilisé</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>Recherche en cours</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>Tout est inventé ici. Aucun modem n’est utilisé et rien ne coûte d’argent.</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>Pas encore de codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>Quelque chose ne va pas</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>Vos propres codes peuvent être restaurés</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>Leur fichier a disparu. Il y a une copie du %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>Leur fichier est incomplet. Il y a une copie du %1.</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>Supprimer la copie</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>&amp;Codes dans une fenêtre</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>Fenêtre du c&amp;ompte</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>Fenêtre du c&amp;ompte, prépayé</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>Fenêtre du compte, &amp;forfait</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>&amp;Modifier les codes</translation>
+    </message>
+    <message>
+        <source>MENU_EXPORT</source>
+        <translation>E&amp;xporter les soldes…</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>M&amp;odem</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>&amp;Réglages</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>Tableau de bord USSD %1. Il envoie des codes USSD par un modem et affiche les réponses.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>Vie privée</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>Modem choisi</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>Codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>Aucun : vous tapez les codes vous-même</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>Changer</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>Déterminer le type de contrat</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>Envoie un code une fois par SIM. Cela peut coûter de l’argent.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>Après un redémarrage</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>Réduire les animations</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>Suit le système</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>Messages du réseau</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>Quand la fenêtre n’est pas au premier plan</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>Afficher leur texte</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>D’autres peuvent le lire à l’écran</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>Solde faible</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>Sous %1, quand une réponse a indiqué le solde</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>Quand une réponse a indiqué le solde</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>Montant</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>Masquer le numéro de la SIM</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>Seuls les quatre derniers chiffres sont affichés</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>Conserver l’historique et les soldes</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>Sur cet ordinateur seulement, pendant 12 mois</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>Tout supprimer…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>Soldes, messages et codes envoyés</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>Supprimer tous les soldes, messages et codes envoyés ? Ils ne pourront pas être récupérés.</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>Bienvenue</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>Trois étapes, et vous voyez ici votre solde, envoyez des codes et achetez des forfaits.</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>Modem trouvé</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM prête</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>SIM finissant par %1, inscrite sur un réseau.</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>Puis la SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>Les codes de qui faut-il utiliser ?</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>Vous choisirez quand la SIM sera prête.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>Votre SIM correspond à un opérateur de la liste. Vous pouvez changer cela à tout moment dans Réglages.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>Votre SIM correspond à %1 opérateurs de la liste. Vous pouvez changer cela à tout moment dans Réglages.</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>Aucun opérateur de la liste ne correspond à votre SIM. Vous pouvez taper les codes.</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>Codes : %1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>solde</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>recharge</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>numéro propre</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>Sans codes de l’opérateur</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>Vous tapez les codes, rien n’est prédéfini</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>Utiliser les codes</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>Continuer sans</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>Essayer plutôt la démonstration</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>Rien n’est envoyé au réseau avant que vous n’appuyiez sur un bouton. Les codes peuvent coûter de l’argent.</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>Le tableau de bord est déjà ouvert. Sa fenêtre est maintenant au premier plan et garde son appareil.</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>demande un texte</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>Terminez d’abord le menu.</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>aujourd’hui à %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>hier à %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>dernier jour</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>reste 1 jour</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>reste %1 jours</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>Valable jusqu’au %1, %2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>Terminé le %1</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>Solde</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>Solde (inventé)</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>Demandé %1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>Il y a %1 jours</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>Solde faible</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>Pas encore demandé</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>Redemander</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>Demande… %1 s</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>Terminez d’abord le menu.</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>Voir la réponse</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>Réponse à %1</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>Évolution du solde</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>%1 derniers jours</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>Redemandez un autre jour pour voir ici une courbe.</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>Dépensé %1, rechargé %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>De %1 à %2 en %3 jours, minimum %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>Mon numéro</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>Copier le numéro</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>Valable jusqu’au</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>Données restantes</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>Choisissez jusqu’à %1 codes et ordonnez-les.</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>Numéro pour %1</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>Répondre</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>Dernier connu : %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1, demandé %2. Il a pu changer depuis.</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>Demandé %1. Il a pu changer depuis.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>Exporter les soldes</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1 : le nom doit se terminer par .csv ou .json.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
 </context>
 </TS>

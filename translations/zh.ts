@@ -640,6 +640,8 @@
   --send 代码 [回答...]    不打开窗口发送代码，打印回复，并依次回答网络菜单
   --tour 文件夹            无需显示器走遍所有窗口，在文件夹中留下图片和
                            transcript.txt
+  --export 文件            将保存的余额回复写入
+                           .csv 或 .json 文件
   --demo                   使用虚构的网络，不发送任何内容
   --scenario 文件          使用该文件的虚构网络
   --modem 标识             使用具有此设备标识 (IMEI) 的调制解调器
@@ -804,15 +806,11 @@
     </message>
     <message>
         <source>PIN_CAPTION</source>
-        <translation>SIM 卡 PIN 码</translation>
+        <translation>输入 SIM 卡的 PIN</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
-        <translation>SIM 卡已锁定。PIN 码为 4 至 8 位数字，不会被保存。</translation>
-    </message>
-    <message>
-        <source>PIN_LABEL</source>
-        <translation>&amp;PIN 码：</translation>
+        <translation>4 至 8 位数字。只发送给 SIM 卡，不会保存。</translation>
     </message>
     <message>
         <source>PIN_BUTTON</source>
@@ -828,11 +826,11 @@
     </message>
     <message>
         <source>PIN_TRIES</source>
-        <translation>剩余尝试次数：%1。</translation>
+        <translation>还可尝试 %1 次。</translation>
     </message>
     <message>
         <source>PIN_LAST_TRY</source>
-        <translation>这是最后一次机会：再输错 SIM 卡将被锁死，只有 PUK 码才能解锁。</translation>
+        <translation>还可尝试一次。PIN 再输错一次，SIM 卡就需要 PUK。</translation>
     </message>
     <message>
         <source>PIN_CHECKING</source>
@@ -840,15 +838,15 @@
     </message>
     <message>
         <source>PIN_WRONG</source>
-        <translation>PIN 码不对。请重试。</translation>
+        <translation>PIN 不正确。</translation>
     </message>
     <message>
         <source>PIN_NOT_SENT</source>
-        <translation>无法将 PIN 码发送到 SIM 卡。请重试。</translation>
+        <translation>无法将 PIN 发送给 SIM 卡。请重试。</translation>
     </message>
     <message>
         <source>PIN_NO_ANSWER</source>
-        <translation>SIM 卡未及时应答。请重试。</translation>
+        <translation>SIM 卡没有及时响应。请重试。</translation>
     </message>
     <message>
         <source>TEXT_PANEL</source>
@@ -971,7 +969,7 @@
     </message>
     <message>
         <source>APP_TITLE_DEMONSTRATION</source>
-        <translation>USSD 面板 – 演示</translation>
+        <translation>演示 – USSD 面板</translation>
     </message>
     <message>
         <source>DEMONSTRATION_NOTE</source>
@@ -1122,6 +1120,294 @@
         <translation>网络的最后一条消息：%1</translation>
     </message>
     <message>
+        <source>CHAIN_NO_MENU</source>
+        <translation>网络没有打开菜单。没有再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_CHANGED</source>
+        <translation>菜单的按键 %2 不再是“%1”。没有再发送任何内容。</translation>
+    </message>
+    <message>
+        <source>CHAIN_STOPPED</source>
+        <translation>%1 已停止</translation>
+    </message>
+    <message>
+        <source>CHAIN_SAVE</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>CHAIN_NAME</source>
+        <translation>路径名称：</translation>
+    </message>
+    <message>
+        <source>CHAIN_KEEP</source>
+        <translation>保存此路径…</translation>
+    </message>
+    <message>
+        <source>SHEET_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>SHEET_TOP_UP</source>
+        <translation>充值</translation>
+    </message>
+    <message>
+        <source>SHEET_CODES</source>
+        <translation>可发送的代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_WRITTEN</source>
+        <translation>无法保存代码历史记录：%1</translation>
+    </message>
+    <message>
+        <source>HISTORY_YESTERDAY</source>
+        <translation>昨天 %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TODAY</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>HISTORY_TYPE</source>
+        <translation>输入代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER</source>
+        <translation>%1 的号码或 PIN：</translation>
+    </message>
+    <message>
+        <source>HISTORY_NUMBER_TITLE</source>
+        <translation>号码</translation>
+    </message>
+    <message>
+        <source>HISTORY_EMPTY</source>
+        <translation>尚未发送代码</translation>
+    </message>
+    <message>
+        <source>HISTORY_DELETE</source>
+        <translation>删除历史记录</translation>
+    </message>
+    <message>
+        <source>HISTORY_NOT_KEPT</source>
+        <translation>不保存号码和 PIN</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE_NAME</source>
+        <translation>还有 %1 个选项</translation>
+    </message>
+    <message>
+        <source>CHOICE_MORE</source>
+        <translation>+%1</translation>
+    </message>
+    <message>
+        <source>CHOICE_NAME</source>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>STRIP_NAME</source>
+        <translation>代码状态</translation>
+    </message>
+    <message>
+        <source>STRIP_ONLY_4G</source>
+        <translation>恢复仅 4G</translation>
+    </message>
+    <message>
+        <source>STRIP_ALLOW_OLDER</source>
+        <translation>允许 2G 和 3G</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FAILED</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE_FILTER</source>
+        <translation>文本文件</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_CLOSE</source>
+        <translation>关闭查找</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_PREVIOUS</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NEXT</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_NONE</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>STRIP_MORE</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>STRIP_SAVE</source>
+        <translation>保存记录…</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND</source>
+        <translation>在记录中查找</translation>
+    </message>
+    <message>
+        <source>STRIP_COPY</source>
+        <translation>复制回复</translation>
+    </message>
+    <message>
+        <source>STRIP_DISMISS</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>STRIP_WHAT_HAPPENED</source>
+        <translation>发生了什么</translation>
+    </message>
+    <message>
+        <source>STRIP_SEND_AGAIN</source>
+        <translation>重新发送</translation>
+    </message>
+    <message>
+        <source>STRIP_END</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>STRIP_END_MENU</source>
+        <translation>结束菜单</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>STRIP_OWN_WINDOW</source>
+        <translation>在窗口中打开代码</translation>
+    </message>
+    <message>
+        <source>STRIP_HISTORY</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>STRIP_UNREADABLE</source>
+        <translation>无法读取 %1 的回复</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY_TEXT</source>
+        <translation>网络的回复没有文字。</translation>
+    </message>
+    <message>
+        <source>STRIP_EMPTY_REPLY</source>
+        <translation>%1 的回复没有文字</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_UNSENT_TEXT</source>
+        <translation>您停止了 %1。它未发送。</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED_TEXT</source>
+        <translation>您停止了 %1。网络仍可能已执行。</translation>
+    </message>
+    <message>
+        <source>STRIP_CANCELLED</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT_TEXT</source>
+        <translation>调制解调器未就绪。</translation>
+    </message>
+    <message>
+        <source>STRIP_NOT_SENT</source>
+        <translation>%1 未发送</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF_TEXT</source>
+        <translation>调制解调器已断开。不知道网络是否已执行。</translation>
+    </message>
+    <message>
+        <source>STRIP_BROKEN_OFF</source>
+        <translation>%1 已中断</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED_TEXT</source>
+        <translation>网络不认识此代码，或它不适用于您的合约。</translation>
+    </message>
+    <message>
+        <source>STRIP_REFUSED</source>
+        <translation>%1 被拒绝</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY_TEXT</source>
+        <translation>网络在 30 秒内没有回复。它仍可能已执行该代码。</translation>
+    </message>
+    <message>
+        <source>STRIP_NO_REPLY</source>
+        <translation>%1 没有回复</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED_TEXT</source>
+        <translation>已通知网络。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_ENDED</source>
+        <translation>菜单已结束</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_TYPE</source>
+        <translation>请在下方输入答复。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE_NARROW</source>
+        <translation>选择或在下方输入。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_CHOOSE</source>
+        <translation>请选择，或在下方输入答复。</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU_NARROW</source>
+        <translation>菜单已打开</translation>
+    </message>
+    <message>
+        <source>STRIP_MENU</source>
+        <translation>网络正在等待您的答复</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_PROGRAM</source>
+        <translation>另一个程序正在使用调制解调器。</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED_WINDOW</source>
+        <translation>另一个窗口正在查询。</translation>
+    </message>
+    <message>
+        <source>STRIP_QUEUED</source>
+        <translation>正在排队</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING_TEXT</source>
+        <translation>大多数回复会在 10 秒内到达。取消会立即释放调制解调器。</translation>
+    </message>
+    <message>
+        <source>STRIP_SECONDS</source>
+        <translation>第 %1 秒，共 %2 秒</translation>
+    </message>
+    <message>
+        <source>STRIP_WAITING</source>
+        <translation>正在等待 %1 的回复</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_NARROW</source>
+        <translation>发送代码。</translation>
+    </message>
+    <message>
+        <source>STRIP_READY_TEXT</source>
+        <translation>发送代码，或在下方选择一个。</translation>
+    </message>
+    <message>
+        <source>STRIP_READY</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
         <source>CLI_ONLY_SEND</source>
         <translation>%1 只能与 --send 同时使用。</translation>
     </message>
@@ -1156,6 +1442,1130 @@
     <message>
         <source>PAID_DETECT</source>
         <translation>查明 SIM 卡是预付费还是后付费（会发送代码）(&amp;F)</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>DEVICE_READY_TEXT</source>
+        <translation>发送代码，或在下面选择一个。</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN</source>
+        <translation>尚不知道您的运营商的代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_CODES_UNKNOWN_TEXT</source>
+        <translation>选择您的运营商后，余额和充值代码会显示在这里。不选择也可以输入代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN</source>
+        <translation>正在排队</translation>
+    </message>
+    <message>
+        <source>DEVICE_TURN_TEXT</source>
+        <translation>另一个窗口正在查询。</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN</source>
+        <translation>另一个程序正在使用代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_FOREIGN_TEXT</source>
+        <translation>它结束后即可发送代码。它可能正在购买服务。</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING</source>
+        <translation>正在查找调制解调器</translation>
+    </message>
+    <message>
+        <source>DEVICE_LOOKING_TEXT</source>
+        <translation>这需要片刻。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM</source>
+        <translation>没有调制解调器</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_MODEM_TEXT</source>
+        <translation>请连接或打开调制解调器。此页面会自动更新。</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT</source>
+        <translation>%1 未连接</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_UNNAMED</source>
+        <translation>所选调制解调器未连接</translation>
+    </message>
+    <message>
+        <source>DEVICE_CHOSEN_ABSENT_TEXT</source>
+        <translation>请连接它，或选择其他调制解调器。</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED</source>
+        <translation>调制解调器已移除</translation>
+    </message>
+    <message>
+        <source>DEVICE_REMOVED_TEXT</source>
+        <translation>请重新连接。此页面会自动更新。</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED</source>
+        <translation>调制解调器无法工作</translation>
+    </message>
+    <message>
+        <source>DEVICE_MODEM_FAILED_TEXT</source>
+        <translation>ModemManager 已放弃它。请拔下后重新连接。原因见 ModemManager 的日志。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS</source>
+        <translation>消息总线未运行</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_BUS_TEXT</source>
+        <translation>无法连接系统的 D-Bus，因此找不到调制解调器。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE</source>
+        <translation>调制解调器服务未运行</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SERVICE_TEXT</source>
+        <translation>ModemManager 未安装或已停止。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT</source>
+        <translation>调制解调器服务没有响应</translation>
+    </message>
+    <message>
+        <source>DEVICE_SERVICE_SILENT_TEXT</source>
+        <translation>ModemManager 正在运行但没有响应。请稍候或重新启动它。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
+        <source>DEVICE_NOT_PERMITTED_TEXT</source>
+        <translation>此计算机不允许您使用其调制解调器。管理员可以为您的帐户授权。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM</source>
+        <translation>没有 SIM 卡</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_SIM_TEXT</source>
+        <translation>请将 SIM 卡插入调制解调器。有些调制解调器需要先关机。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED</source>
+        <translation>SIM 卡已锁定</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIM_LOCKED_TEXT</source>
+        <translation>输入 PIN 后即可使用。</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK</source>
+        <translation>SIM 卡需要 PUK</translation>
+    </message>
+    <message>
+        <source>DEVICE_PUK_TEXT</source>
+        <translation>PIN 输错次数过多。请在手机中用运营商提供的 PUK 解锁，然后放回。</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF</source>
+        <translation>调制解调器已关闭</translation>
+    </message>
+    <message>
+        <source>DEVICE_OFF_TEXT</source>
+        <translation>打开后即可使用。它需要片刻来查找网络。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING</source>
+        <translation>正在查找网络</translation>
+    </message>
+    <message>
+        <source>DEVICE_SEARCHING_TEXT</source>
+        <translation>这可能需要一分钟。找到网络后即可发送代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED</source>
+        <translation>网络不接受此 SIM 卡</translation>
+    </message>
+    <message>
+        <source>DEVICE_DENIED_TEXT</source>
+        <translation>请向运营商确认它是否已激活，或使用其他 SIM 卡。</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD</source>
+        <translation>此调制解调器无法发送代码</translation>
+    </message>
+    <message>
+        <source>DEVICE_NO_USSD_TEXT</source>
+        <translation>它不支持 USSD。请选择其他调制解调器，或用手机发送代码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_SIMULATED_TEXT</source>
+        <translation>此状态属于演示。</translation>
+    </message>
+    <message>
+        <source>DEVICE_ALLOW</source>
+        <translation>管理员用此规则创建第一行所示的文件，并将您的帐户加入 netdev 组。然后请重新登录。</translation>
+    </message>
+    <message>
+        <source>DEVICE_START_SERVICE</source>
+        <translation>在终端中输入此命令，并输入管理员密码。如果没有该服务，请先安装软件包 modemmanager。</translation>
+    </message>
+    <message>
+        <source>DEVICE_RUN_COMMAND</source>
+        <translation>在终端中输入此命令，并输入管理员密码。</translation>
+    </message>
+    <message>
+        <source>DEVICE_WHAT_IS_PUK</source>
+        <translation>PUK 是一个 8 位号码，用于在多次输错 PIN 后解锁 SIM 卡。它印在 SIM 卡的卡托上，运营商也可以提供。输错十次 PUK 后，SIM 卡将无法使用。</translation>
+    </message>
+    <message>
+        <source>PIN_TRIES_SHORT</source>
+        <translation>还可尝试 %1 次</translation>
+    </message>
+    <message>
+        <source>PIN_ONE_TRY_SHORT</source>
+        <translation>还可尝试 1 次</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENTER_PIN</source>
+        <translation>输入 PIN</translation>
+    </message>
+    <message>
+        <source>REMEDY_ENABLE</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>REMEDY_LOOK_AGAIN</source>
+        <translation>重新查找</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_MODEM</source>
+        <translation>选择调制解调器</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_ALLOW</source>
+        <translation>如何允许</translation>
+    </message>
+    <message>
+        <source>REMEDY_HOW_TO_START</source>
+        <translation>如何启动</translation>
+    </message>
+    <message>
+        <source>REMEDY_WHAT_IS_PUK</source>
+        <translation>什么是 PUK？</translation>
+    </message>
+    <message>
+        <source>REMEDY_TRY_DEMONSTRATION</source>
+        <translation>试用演示</translation>
+    </message>
+    <message>
+        <source>REMEDY_USE_MY_MODEM</source>
+        <translation>使用我的调制解调器</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_FOREIGN_SESSION</source>
+        <translation>结束它</translation>
+    </message>
+    <message>
+        <source>REMEDY_CHOOSE_OPERATOR</source>
+        <translation>选择运营商</translation>
+    </message>
+    <message>
+        <source>REMEDY_TYPE_CODE</source>
+        <translation>输入代码</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPY</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>REMEDY_COPIED</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>REMEDY_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>REMEDY_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_QUESTION</source>
+        <translation>结束另一个程序的会话？它可能正在购买服务。</translation>
+    </message>
+    <message>
+        <source>REMEDY_END_SESSION</source>
+        <translation>结束会话</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_KEPT</source>
+        <translation>无法写入 %1。程序结束后新消息将丢失。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FILE_DAMAGED</source>
+        <translation>消息文件已损坏，现已改名为 %1。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NOT_REMOVED</source>
+        <translation>无法删除 %1。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TITLE</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_MARK_ALL</source>
+        <translation>全部标为已读</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEARCH</source>
+        <translation>搜索消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ALL</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_COUNT</source>
+        <translation>未读 %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNREAD_NONE</source>
+        <translation>未读</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_COUNT</source>
+        <translation>等待 %1</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITING_NONE</source>
+        <translation>等待</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TODAY</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>MESSAGE_YESTERDAY</source>
+        <translation>昨天</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WHEN</source>
+        <translation>%1 %2 · 来自网络</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NETWORK</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS</source>
+        <translation>等待您的回答</translation>
+    </message>
+    <message>
+        <source>MESSAGE_IS_UNREAD</source>
+        <translation>未读</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER</source>
+        <translation>或输入回答</translation>
+    </message>
+    <message>
+        <source>MESSAGE_ANSWER_ONLY</source>
+        <translation>输入回答</translation>
+    </message>
+    <message>
+        <source>MESSAGE_SEND</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COSTS</source>
+        <translation>回答可能产生费用。结束即告知网络您不需要任何服务。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_END</source>
+        <translation>不回答并结束</translation>
+    </message>
+    <message>
+        <source>MESSAGE_COPY</source>
+        <translation>复制消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_DELETE</source>
+        <translation>删除消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_BACK</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY</source>
+        <translation>还没有消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_EMPTY_TEXT</source>
+        <translation>网络主动发送的消息会显示在这里。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NONE_FOUND</source>
+        <translation>未找到消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_CHOOSE</source>
+        <translation>选择一条消息来阅读。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LIST</source>
+        <translation>网络消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_TEXT</source>
+        <translation>消息内容</translation>
+    </message>
+    <message>
+        <source>MESSAGE_FROM</source>
+        <translation>来自 %1 的消息</translation>
+    </message>
+    <message>
+        <source>MESSAGE_WAITS_SENTENCE</source>
+        <translation>它在等待您的回答。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_NEW_SENTENCE</source>
+        <translation>您有一条新消息。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_OPEN</source>
+        <translation>阅读</translation>
+    </message>
+    <message>
+        <source>MESSAGE_UNKNOWN_TEXT</source>
+        <translation>网络中仍有一个菜单打开，但其内容已不可知。请回答或结束它。</translation>
+    </message>
+    <message>
+        <source>MESSAGE_LOW_BALANCE</source>
+        <translation>您的余额为 %1。</translation>
+    </message>
+    <message>
+        <source>SERVICE_TITLE</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO</source>
+        <translation>%1 的套餐和开关。每项都在服务窗口中打开，在发送之前会说明其作用。</translation>
+    </message>
+    <message>
+        <source>SERVICE_INTRO_UNNAMED</source>
+        <translation>您的运营商的套餐和开关。每项都在服务窗口中打开，在发送之前会说明其作用。</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_CODE</source>
+        <translation>通过代码</translation>
+    </message>
+    <message>
+        <source>SERVICE_BY_TEXT</source>
+        <translation>通过短信</translation>
+    </message>
+    <message>
+        <source>SERVICE_TO</source>
+        <translation>发送至 %1</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_NUMBER</source>
+        <translation>需要输入号码</translation>
+    </message>
+    <message>
+        <source>SERVICE_NONE</source>
+        <translation>您的运营商在此没有服务。</translation>
+    </message>
+    <message>
+        <source>QUESTION_TITLE</source>
+        <translation>网络正在等待您的回答</translation>
+    </message>
+    <message>
+        <source>QUESTION_TEXT</source>
+        <translation>选择一项，或在下面输入回答。</translation>
+    </message>
+    <message>
+        <source>QUESTION_TYPE</source>
+        <translation>在下面输入回答。</translation>
+    </message>
+    <message>
+        <source>QUESTION_LATER</source>
+        <translation>稍后</translation>
+    </message>
+    <message>
+        <source>PIN_SHOW</source>
+        <translation>显示 PIN</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_DAMAGED</source>
+        <translation>余额文件已损坏。它已保留为 %1，并新建了一个文件。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_STORED</source>
+        <translation>无法将余额保存到 %1。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_LATER_VERSION</source>
+        <translation>%1 由更新版本的程序写入。余额将保留到程序关闭。</translation>
+    </message>
+    <message>
+        <source>NAV_TITLE</source>
+        <translation>USSD 面板</translation>
+    </message>
+    <message>
+        <source>NAV_HOME</source>
+        <translation>首页</translation>
+    </message>
+    <message>
+        <source>NAV_CODES</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>NAV_SERVICES</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>NAV_MESSAGES</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>NAV_SETTINGS</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>NAV_UNREAD</source>
+        <translation>%1 条未读</translation>
+    </message>
+    <message>
+        <source>HEADER_OPERATOR</source>
+        <translation>运营商：%1</translation>
+    </message>
+    <message>
+        <source>HEADER_DEMONSTRATION</source>
+        <translation>演示</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_STRONG</source>
+        <translation>信号强</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_GOOD</source>
+        <translation>信号良好</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_WEAK</source>
+        <translation>信号弱</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NONE</source>
+        <translation>无信号</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_PERCENT</source>
+        <translation>信号 %1 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIGNAL_NAME</source>
+        <translation>%1，%2 %</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM</source>
+        <translation>SIM %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SIM_ENDING</source>
+        <translation>SIM 尾号 %1</translation>
+    </message>
+    <message>
+        <source>HEADER_SHOW_NUMBER</source>
+        <translation>显示 SIM 号码</translation>
+    </message>
+    <message>
+        <source>HEADER_HIDE_NUMBER</source>
+        <translation>隐藏 SIM 号码</translation>
+    </message>
+    <message>
+        <source>HEADER_MENU</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>HEADER_UNREAD</source>
+        <translation>%1，%2 条未读</translation>
+    </message>
+    <message>
+        <source>HEADER_MODEM_READY</source>
+        <translation>调制解调器就绪</translation>
+    </message>
+    <message>
+        <source>HEADER_NO_MODEM_IN_USE</source>
+        <translation>未使用调制解调器</translation>
+    </message>
+    <message>
+        <source>HEADER_LOOKING_FOR_ONE</source>
+        <translation>正在查找</translation>
+    </message>
+    <message>
+        <source>BANNER_DEMONSTRATION</source>
+        <translation>这里的一切都是虚构的。不使用调制解调器，也不会产生费用。</translation>
+    </message>
+    <message>
+        <source>BANNER_NO_CODES</source>
+        <translation>尚无运营商代码</translation>
+    </message>
+    <message>
+        <source>BANNER_PROBLEM</source>
+        <translation>出现问题</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE</source>
+        <translation>可以恢复您自己的代码</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_LOST</source>
+        <translation>其文件已丢失。有一份 %1 的副本。</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_DAMAGED</source>
+        <translation>其文件不完整。有一份 %1 的副本。</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_YES</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>BANNER_RESTORE_NO</source>
+        <translation>删除副本</translation>
+    </message>
+    <message>
+        <source>MENU_GENERAL</source>
+        <translation>在窗口中使用代码(&amp;C)</translation>
+    </message>
+    <message>
+        <source>MENU_ACCOUNT</source>
+        <translation>帐户窗口(&amp;A)</translation>
+    </message>
+    <message>
+        <source>MENU_PREPAID</source>
+        <translation>帐户窗口，预付费(&amp;A)</translation>
+    </message>
+    <message>
+        <source>MENU_POSTPAID</source>
+        <translation>帐户窗口，后付费(&amp;W)</translation>
+    </message>
+    <message>
+        <source>MENU_EDIT_CODES</source>
+        <translation>编辑代码(&amp;E)</translation>
+    </message>
+    <message>
+        <source>MENU_EXPORT</source>
+        <translation>导出余额(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>MENU_MODEM</source>
+        <translation>调制解调器(&amp;M)</translation>
+    </message>
+    <message>
+        <source>MENU_SETTINGS</source>
+        <translation>设置(&amp;S)</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT</source>
+        <translation>关于(&amp;B)</translation>
+    </message>
+    <message>
+        <source>MENU_ABOUT_TEXT</source>
+        <translation>USSD 面板 %1。通过调制解调器发送 USSD 代码并显示回复。</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TITLE</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DEVICE</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>SETTINGS_APPEARANCE</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFICATIONS</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PRIVACY</source>
+        <translation>隐私</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MODEM</source>
+        <translation>调制解调器</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AUTOMATIC</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHOSEN_MODEM</source>
+        <translation>所选调制解调器</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CODES</source>
+        <translation>运营商代码</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NO_CODES</source>
+        <translation>无：自行输入代码</translation>
+    </message>
+    <message>
+        <source>SETTINGS_CHANGE</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT</source>
+        <translation>查明合约类型</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DETECT_TEXT</source>
+        <translation>每张 SIM 发送一次代码。可能产生费用。</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LANGUAGE</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_SYSTEM</source>
+        <translation>系统</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_LIGHT</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>SETTINGS_THEME_DARK</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>SETTINGS_TEXT_SIZE</source>
+        <translation>文字大小</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AFTER_RESTART</source>
+        <translation>重新启动后生效</translation>
+    </message>
+    <message>
+        <source>SETTINGS_PERCENT</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION</source>
+        <translation>减少动态效果</translation>
+    </message>
+    <message>
+        <source>SETTINGS_MOTION_TEXT</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY</source>
+        <translation>来自网络的消息</translation>
+    </message>
+    <message>
+        <source>SETTINGS_NOTIFY_TEXT</source>
+        <translation>当窗口不在最前时</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT</source>
+        <translation>显示消息内容</translation>
+    </message>
+    <message>
+        <source>SETTINGS_SHOW_TEXT_TEXT</source>
+        <translation>他人可能在屏幕上看到</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE</source>
+        <translation>余额不足</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_TEXT</source>
+        <translation>低于 %1 时，在回复告知余额后</translation>
+    </message>
+    <message>
+        <source>SETTINGS_LOW_BALANCE_OFF</source>
+        <translation>在回复告知余额后</translation>
+    </message>
+    <message>
+        <source>SETTINGS_AMOUNT</source>
+        <translation>金额</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE</source>
+        <translation>隐藏 SIM 号码</translation>
+    </message>
+    <message>
+        <source>SETTINGS_HIDE_TEXT</source>
+        <translation>仅显示最后四位</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP</source>
+        <translation>保留历史记录和余额</translation>
+    </message>
+    <message>
+        <source>SETTINGS_KEEP_TEXT</source>
+        <translation>仅在此计算机上，保留 12 个月</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL</source>
+        <translation>全部删除</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_BUTTON</source>
+        <translation>全部删除…</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_TEXT</source>
+        <translation>余额、消息和已发送的代码</translation>
+    </message>
+    <message>
+        <source>SETTINGS_DELETE_ALL_QUESTION</source>
+        <translation>删除所有余额、消息和已发送的代码？此操作无法撤销。</translation>
+    </message>
+    <message>
+        <source>FIRST_TITLE</source>
+        <translation>欢迎</translation>
+    </message>
+    <message>
+        <source>FIRST_INTRO</source>
+        <translation>只需三步，即可在此查看余额、发送代码和购买套餐。</translation>
+    </message>
+    <message>
+        <source>FIRST_MODEM_FOUND</source>
+        <translation>已找到调制解调器</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_READY</source>
+        <translation>SIM 就绪</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_TEXT</source>
+        <translation>尾号 %1 的 SIM 已注册到网络。</translation>
+    </message>
+    <message>
+        <source>FIRST_SIM_LATER</source>
+        <translation>然后是 SIM</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE</source>
+        <translation>使用哪家的代码？</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_LATER</source>
+        <translation>SIM 就绪后即可选择。</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_ONE</source>
+        <translation>您的 SIM 与列表中的一家运营商相符。可随时在设置中更改。</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_SEVERAL</source>
+        <translation>您的 SIM 与列表中的 %1 家运营商相符。可随时在设置中更改。</translation>
+    </message>
+    <message>
+        <source>FIRST_CHOICE_NONE</source>
+        <translation>列表中没有与您的 SIM 相符的运营商。您可以自行输入代码。</translation>
+    </message>
+    <message>
+        <source>FIRST_OPTION</source>
+        <translation>代码：%1</translation>
+    </message>
+    <message>
+        <source>FIRST_BALANCE</source>
+        <translation>余额</translation>
+    </message>
+    <message>
+        <source>FIRST_TOP_UP</source>
+        <translation>充值</translation>
+    </message>
+    <message>
+        <source>FIRST_NUMBER</source>
+        <translation>本机号码</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT</source>
+        <translation>不使用运营商代码</translation>
+    </message>
+    <message>
+        <source>FIRST_WITHOUT_TEXT</source>
+        <translation>自行输入代码，没有预设</translation>
+    </message>
+    <message>
+        <source>FIRST_USE</source>
+        <translation>使用 %1</translation>
+    </message>
+    <message>
+        <source>FIRST_USE_NOBODY</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>FIRST_GO_ON</source>
+        <translation>不使用并继续</translation>
+    </message>
+    <message>
+        <source>FIRST_NOT_NOW</source>
+        <translation>以后再说</translation>
+    </message>
+    <message>
+        <source>FIRST_DEMONSTRATION</source>
+        <translation>改为试用演示</translation>
+    </message>
+    <message>
+        <source>FIRST_COSTS</source>
+        <translation>在您按下按钮之前，不会向网络发送任何内容。代码可能产生费用。</translation>
+    </message>
+    <message>
+        <source>CLI_DEVICE_STAYS</source>
+        <translation>面板已在运行。其窗口现已置于最前，设备保持不变。</translation>
+    </message>
+    <message>
+        <source>SERVICE_ASKS_TEXT</source>
+        <translation>需要输入文字</translation>
+    </message>
+    <message>
+        <source>SERVICE_END_MENU</source>
+        <translation>请先结束菜单。</translation>
+    </message>
+    <message>
+        <source>HOME_LONG_DATE</source>
+        <translation>yyyy年M月d日</translation>
+    </message>
+    <message>
+        <source>HOME_SHORT_DATE</source>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>HOME_TODAY</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>HOME_YESTERDAY</source>
+        <translation>昨天 %1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_DAY</source>
+        <translation>最后一天</translation>
+    </message>
+    <message>
+        <source>HOME_DAY_LEFT</source>
+        <translation>剩余 1 天</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_LEFT</source>
+        <translation>剩余 %1 天</translation>
+    </message>
+    <message>
+        <source>HOME_VALID_UNTIL</source>
+        <translation>有效期至 %1，%2</translation>
+    </message>
+    <message>
+        <source>HOME_ENDED</source>
+        <translation>已于 %1 到期</translation>
+    </message>
+    <message>
+        <source>HOME_HAS_ENDED</source>
+        <translation>已到期</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE</source>
+        <translation>余额</translation>
+    </message>
+    <message>
+        <source>HOME_BALANCE_INVENTED</source>
+        <translation>余额（虚构）</translation>
+    </message>
+    <message>
+        <source>HOME_ASKED</source>
+        <translation>查询于%1</translation>
+    </message>
+    <message>
+        <source>HOME_DAYS_OLD</source>
+        <translation>%1 天前</translation>
+    </message>
+    <message>
+        <source>HOME_LOW</source>
+        <translation>余额不足</translation>
+    </message>
+    <message>
+        <source>HOME_NOT_ASKED</source>
+        <translation>尚未查询</translation>
+    </message>
+    <message>
+        <source>HOME_TOP_UP</source>
+        <translation>充值</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_AGAIN</source>
+        <translation>重新查询</translation>
+    </message>
+    <message>
+        <source>HOME_ASK_NOW</source>
+        <translation>立即查询</translation>
+    </message>
+    <message>
+        <source>HOME_ASKING</source>
+        <translation>正在查询… %1 秒</translation>
+    </message>
+    <message>
+        <source>HOME_END_MENU_FIRST</source>
+        <translation>请先结束菜单。</translation>
+    </message>
+    <message>
+        <source>HOME_SHOW_REPLY</source>
+        <translation>显示回复</translation>
+    </message>
+    <message>
+        <source>HOME_REPLY_TO</source>
+        <translation>对 %1 的回复</translation>
+    </message>
+    <message>
+        <source>HOME_CLOSE</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>HOME_CHART</source>
+        <translation>余额变化</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_PERIOD</source>
+        <translation>最近 %1 天</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_EMPTY</source>
+        <translation>改天再次查询，即可在此看到曲线。</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_TODAY</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SUMS</source>
+        <translation>已用 %1，充值 %2</translation>
+    </message>
+    <message>
+        <source>HOME_CHART_SENTENCE</source>
+        <translation>%3 天内从 %1 到 %2，最低 %4</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER</source>
+        <translation>我的号码</translation>
+    </message>
+    <message>
+        <source>HOME_COPY_NUMBER</source>
+        <translation>复制号码</translation>
+    </message>
+    <message>
+        <source>HOME_VALIDITY</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>HOME_DATA</source>
+        <translation>剩余流量</translation>
+    </message>
+    <message>
+        <source>HOME_DATA_OF</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>HOME_OF</source>
+        <translation>共 %1</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>HOME_FAVOURITES_HINT</source>
+        <translation>最多选择 %1 个代码并排序。</translation>
+    </message>
+    <message>
+        <source>HOME_EDIT</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>HOME_ADD_FAVOURITE</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_UP</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>HOME_MOVE_DOWN</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>HOME_SAVE</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>HOME_CANCEL</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>HOME_SEND</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>HOME_NUMBER_FOR</source>
+        <translation>%1 的号码</translation>
+    </message>
+    <message>
+        <source>HOME_ANSWER</source>
+        <translation>回答</translation>
+    </message>
+    <message>
+        <source>HOME_READ</source>
+        <translation>阅读</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_KNOWN</source>
+        <translation>最近已知：%1</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED_SIM</source>
+        <translation>%1，查询于%2。之后可能已变化。</translation>
+    </message>
+    <message>
+        <source>HOME_LAST_ASKED</source>
+        <translation>查询于%1。之后可能已变化。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT</source>
+        <translation>导出余额</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_EXPORT_NAME</source>
+        <translation>%1：文件名须以 .csv 或 .json 结尾。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_READ</source>
+        <translation>无法读取 %1。</translation>
+    </message>
+    <message>
+        <source>ACCOUNT_NOT_EXPORTED</source>
+        <translation>无法写入 %1：%2</translation>
     </message>
 </context>
 </TS>

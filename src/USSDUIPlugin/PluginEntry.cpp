@@ -2,7 +2,8 @@
  * The entry points for the plug-in loader. Qt 4 looks up the two functions below by name and
  * compares the verification data with the data of its own build. In Qt 5 and later,
  * qt_plugin_instance() is generated from the meta data of the class, and the loader reads this meta
- * data instead.
+ * data instead. The build key of a library that was built with Qt 5 or later is one that no Qt 4
+ * has. Therefore, a Qt 4 host refuses the library with an error message.
  */
 #include <QtPlugin>
 
@@ -13,7 +14,7 @@
     "pattern=QT_PLUGIN_VERIFICATION_DATA\n"                                                        \
     "version=4.6.2\n"                                                                              \
     "debug=false\n"                                                                                \
-    "buildkey=" USSD_QT4_BUILD_KEY
+    "buildkey=" USSD_BUILD_KEY
 
 #define USSD_ENTRY_POINT extern "C" __attribute__((visibility("default")))
 

@@ -119,6 +119,16 @@ inline QRect availableGeometry(const QWidget *widget)
 #endif
 }
 
+/// Makes Qt scale windows with the resolution of the screen. Must be called before the application
+/// is constructed. Qt 6 always does this, and Qt 4 never.
+inline void scaleWithScreen()
+{
+#if QT_VERSION >= 0x050600 && QT_VERSION < 0x060000
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+#endif
+}
+
 /// Returns the folder of Qt's own translations.
 inline QString qtTranslations()
 {

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include "FrameFit.h"
+
 namespace
 {
 
@@ -27,15 +29,6 @@ public:
     }
 };
 
-void takeContentOut(QLayout *layout)
-{
-    while (QLayoutItem *item = layout->takeAt(0)) {
-        if (QWidget *content = item->widget())
-            content->hide();
-        delete item;
-    }
-}
-
 } // namespace
 
 // This host has only one frame style, so it ignores the widget type.
@@ -44,15 +37,16 @@ ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int) : QDialo
     QVBoxLayout *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     new EscapeCloses(this);
+    new HostCore::FrameFit(this);
 }
 
 ExtendDialog::~ExtendDialog() = default;
 
 void ExtendDialog::AddMainWidget(QWidget *widget)
 {
-    if (!widget || layout()->indexOf(widget) >= 0)
+    if (!widget || HostCore::FrameFit::content(this) == widget)
         return;
-    takeContentOut(layout());
+    HostCore::FrameFit::takeContentOut(this);
     layout()->addWidget(widget);
     widget->show();
 }

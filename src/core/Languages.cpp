@@ -12,6 +12,8 @@
 
 #include "InputFile.h"
 #include "InstallPaths.h"
+#include "OperatorTexts.h"
+#include "PluginFolderChoice.h"
 #include "QtCompat.h"
 
 namespace HostCore
@@ -33,6 +35,7 @@ const Language LANGUAGES[] = {
 };
 
 const char ENGLISH[] = "en";
+const char PLUGIN[] = "USSDUIPlugin"; // the context whose texts an operator can replace
 
 // The start of the last section of a language file, which cmake/seal_translation.sh appends. The
 // section consists of a tag, a length and the number of hexadecimal digits that the length
@@ -56,6 +59,8 @@ struct Loaded {
     QString code;
     Texts current; // null while the language is English
     Texts english;
+    QString operatorFolder; // from which the operator's texts were read; null if not read
+    OperatorTexts operatorTexts;
 };
 
 /// Returns the translations for the language, or null if its file is missing or damaged.
@@ -95,6 +100,26 @@ const Language *find(const QString &code)
 QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &key)
 {
     return texts ? texts->translator.translate(context.constData(), key.constData()) : QString();
+}
+
+/// Reads the texts of the operator if another folder is in use since the last lookup. Must be
+/// called with the mutex locked.
+const OperatorTexts &operatorTexts(Loaded &state, const QString &folder)
+{
+    if (state.operatorFolder != folder || state.operatorFolder.isNull()) {
+        state.operatorTexts = OperatorTexts(InputFile::content(OperatorTexts::file(folder)));
+        state.operatorFolder = folder;
+    }
+    return state.operatorTexts;
+}
+
+/// Returns the text of the operator for the language and key, otherwise the text of the language
+/// file.
+QString textIn(const Texts &texts, const QString &language, const QByteArray &context,
+               const QString &key, const OperatorTexts *ofOperator)
+{
+    const QString text = ofOperator ? ofOperator->text(language, key) : QString();
+    return text.isEmpty() ? lookUp(texts, context, key.toUtf8()) : text;
 }
 
 /**
@@ -169,6 +194,7 @@ bool Languages::setCurrent(const QString &code)
         QMutexLocker lock(&state.mutex);
         state.code = code;
         state.current.swap(texts);
+        state.operatorFolder.clear();
     }
     setApplicationLanguage(*language);
     return true;
@@ -209,13 +235,22 @@ QString Languages::text(const QString &context, const QString &key)
     if (key.isEmpty())
         return QString();
     const QByteArray contextName = context.toUtf8();
-    const QByteArray keyName = key.toUtf8();
+    const bool isOfPlugin = context == QLatin1String(PLUGIN);
+    const QString folder = isOfPlugin ? PluginFolderChoice::current() : QString();
     Loaded &state = loaded();
     QMutexLocker lock(&state.mutex);
-    QString text = lookUp(state.current, contextName, keyName);
+    const OperatorTexts *ofOperator = isOfPlugin ? &operatorTexts(state, folder) : nullptr;
+    QString text = textIn(state.current, state.code, contextName, key, ofOperator);
     if (text.isEmpty())
-        text = lookUp(state.english, contextName, keyName);
+        text = textIn(state.english, QLatin1String(ENGLISH), contextName, key, ofOperator);
     return text.isEmpty() ? key : text;
+}
+
+void Languages::forgetOperatorTexts()
+{
+    Loaded &state = loaded();
+    QMutexLocker lock(&state.mutex);
+    state.operatorFolder.clear();
 }
 
 } // namespace HostCore

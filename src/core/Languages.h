@@ -9,7 +9,8 @@ namespace HostCore
 
 /**
  * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
- * the text keys. Languages are identified by their ISO 639-1 codes ("en", "ar").
+ * the text keys. An operator can replace the texts of the plug-in, see OperatorTexts. Languages are
+ * identified by their ISO 639-1 codes ("en", "ar").
  */
 class Q_DECL_EXPORT Languages
 {
@@ -51,6 +52,10 @@ public:
     /// build. This check is necessary because QTranslator crashes when it looks up a string in a
     /// damaged file. May be called from any thread.
     static bool isWhole(const QByteArray &content);
+
+    /// Reads the texts of the operator again before the next lookup. setCurrent() and a change of
+    /// PluginFolderChoice have the same effect. May be called from any thread.
+    static void forgetOperatorTexts();
 
     /// Returns the same string as Change::tr(). May be called from any thread.
     static QString text(const QString &context, const QString &key);

@@ -5,6 +5,7 @@
 #include <QMutexLocker>
 
 #include "InstallPaths.h"
+#include "Languages.h"
 
 namespace HostCore
 {
@@ -50,14 +51,22 @@ QString PluginFolderChoice::installed()
     const QByteArray named = qgetenv(LIBRARY_PATH_VARIABLE);
     if (!named.isEmpty())
         return withoutTrailingSeparators(QFile::decodeName(named));
+    return shipped();
+}
+
+QString PluginFolderChoice::shipped()
+{
     return InstallPaths::library() + QLatin1String("/" USSD_PACKAGE_NAME);
 }
 
 void PluginFolderChoice::use(const QString &folder)
 {
-    ChosenFolder &chosen = chosenFolder();
-    QMutexLocker lock(&chosen.mutex);
-    chosen.path = withoutTrailingSeparators(folder);
+    {
+        ChosenFolder &chosen = chosenFolder();
+        QMutexLocker lock(&chosen.mutex);
+        chosen.path = withoutTrailingSeparators(folder);
+    }
+    Languages::forgetOperatorTexts(); // the folder may have new files, even if its path is the same
 }
 
 } // namespace HostCore

@@ -20,6 +20,8 @@ public:
     static QString current();
     /// Returns the folder that is used if the host has not selected a folder.
     static QString installed();
+    /// Returns the folder of the installation, regardless of the other choices.
+    static QString shipped();
     /// Selects a folder. An empty path selects installed() again.
     static void use(const QString &folder);
 };

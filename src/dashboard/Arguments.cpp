@@ -120,6 +120,9 @@ bool Parser::parseValueOption(const QString &name, const QString &value, bool ha
     if (name == QLatin1String("--tour")) {
         setMode(Arguments::Tour);
         m_result.tourFolder = value;
+    } else if (name == QLatin1String("--export")) {
+        setMode(Arguments::Export);
+        m_result.exportFile = value;
     } else if (name == QLatin1String("--scenario")) {
         m_result.scenario = value;
     } else if (name == QLatin1String("--modem")) {
@@ -185,7 +188,8 @@ void Parser::checkDevice()
 
 void Parser::checkSendSwitches()
 {
-    if (m_result.mode != Arguments::Window && m_result.mode != Arguments::Tour)
+    if (m_result.mode == Arguments::Send || m_result.mode == Arguments::Help ||
+        m_result.mode == Arguments::Version)
         return;
     if (m_result.enable)
         fail("CLI_ONLY_SEND", QLatin1String("--enable"));

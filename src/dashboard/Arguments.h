@@ -9,11 +9,12 @@ namespace Dashboard
 
 /** The parsed command-line arguments. */
 struct Arguments {
-    enum Mode { Window, Send, Tour, Help, Version };
+    enum Mode { Window, Send, Tour, Export, Help, Version };
 
     Mode mode = Window;
     QStringList commands; // the code and the answers of --send, in this order
     QString tourFolder;
+    QString exportFile; // ends with .csv or .json
     QString scenario;
     QString modem;                  // equipment identifier
     bool demo = false;              // use the default simulated network

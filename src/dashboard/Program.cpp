@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPainterPath>
 
+#include "account/AccountExport.h"
+#include "account/AccountStore.h"
 #include "Arguments.h"
 #include "base/DashboardText.h"
 #include "base/SignalWatcher.h"
@@ -10,6 +12,9 @@
 #include "device/Scenarios.h"
 #include "FirstPaint.h"
 #include "Languages.h"
+#include "look/Look.h"
+#include "look/StartEnvironment.h"
+#include "look/TextSize.h"
 #include "plugin/KeyboardHelper.h"
 #include "plugin/LoadedPlugin.h"
 #include "plugin/PrivatePluginFolder.h"
@@ -20,6 +25,7 @@
 #include "WantedDevice.h"
 #include "window/MainWindow.h"
 #include "window/ProfileKeeper.h"
+#include "window/SingleInstance.h"
 
 #include <cstdio>
 
@@ -78,6 +84,25 @@ QString useDevice(DeviceChoice *choice)
     return error;
 }
 
+/// Returns the exit code of an instance whose window is that of an earlier one. That window keeps
+/// its device.
+int leaveToFirst(const Arguments &arguments)
+{
+    return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
+}
+
+void startLook(const DashboardSettings &settings)
+{
+    Look &look = Look::instance();
+    const QString theme = settings.theme();
+    if (theme == QLatin1String("light"))
+        look.setTheme(ThemeChoice::Light);
+    else if (theme == QLatin1String("dark"))
+        look.setTheme(ThemeChoice::Dark);
+    look.setReducesMotion(settings.reducesMotion());
+    look.start();
+}
+
 /// Returns true if a font is installed. Without a font, Qt draws the same box for every letter.
 bool hasFonts()
 {
@@ -129,9 +154,16 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
 {
     if (!hasDisplay())
         return fail(dashboardText("CLI_NO_DISPLAY"));
-    QApplication application(argc, argv);
-    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
     DashboardSettings settings;
+    applyTextSize(settings.textSize());
+    StartEnvironment::instance().leaveOpenGlOut();
+    QApplication application(argc, argv);
+    StartEnvironment::instance().restore();
+    const SingleInstance instance(SingleInstance::sessionName(settings.file()));
+    if (instance.role() == SingleInstance::Later)
+        return leaveToFirst(arguments);
+    HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
+    startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);
     if (!unusable.isEmpty() && namesDevice(arguments))
@@ -143,12 +175,12 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     const SignalWatcher interruption;
     QObject::connect(&interruption, &SignalWatcher::received, &window, &MainWindow::quit);
     FirstPaint shown(&window);
-    window.show();
+    QObject::connect(&instance, &SingleInstance::raiseRequested, &window, &MainWindow::raiseAgain);
     ProfileKeeper profiles(ProfileBackup::ofUser());
-    QObject::connect(&profiles, SIGNAL(ready()), &window, SLOT(loadPlugin()));
-    QObject::connect(&window, SIGNAL(frameClosed()), &profiles, SLOT(refresh()));
-    QObject::connect(&profiles, SIGNAL(problem(QString)), &window, SLOT(showProblem(QString)));
-    QObject::connect(&shown, SIGNAL(painted()), &profiles, SLOT(start()));
+    window.setProfiles(&profiles);
+    window.show();
+    QObject::connect(&shown, &FirstPaint::painted, &profiles, &ProfileKeeper::start);
+    QObject::connect(&shown, &FirstPaint::painted, &window, &MainWindow::loadPlugin);
     sayWhatIsMissing(settings, &window);
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
@@ -158,17 +190,30 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     return result;
 }
 
+int Program::exportAccount(int &argc, char **argv, const Arguments &arguments)
+{
+    QCoreApplication application(argc, argv); // finds the driver of the database
+    if (!isExportName(arguments.exportFile))
+        return fail(dashboardText("ACCOUNT_EXPORT_NAME").arg(arguments.exportFile), EXIT_USAGE);
+    const QString problem = exportAccountTo(arguments.exportFile, AccountStore::userFile());
+    return problem.isEmpty() ? EXIT_GOOD : fail(problem, EXIT_NOT_WRITTEN);
+}
+
 int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
 {
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
+    qputenv("QT_FONT_DPI", "96"); // the platform "offscreen" has another resolution
+    applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())
         return fail(dashboardText("TOUR_NOT_WRITTEN").arg(library.path()));
     const QString unusable = Scenarios::use(QString()); // the tour never uses a modem
     if (!unusable.isEmpty())
         return fail(unusable);
+    Look::instance().setTheme(ThemeChoice::Light);
+    Look::instance().start();
     LoadedPlugin plugin;
     KeyboardHelper keyboard;
     MainWindow window(&plugin, nullptr);
@@ -176,7 +221,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     const PluginFailure failure = window.loadPlugin();
     if (!plugin.isUsable())
         return fail(failure.text());
-    const bool taken = Tour::take(&window, &library, arguments.tourFolder);
+    const bool taken = Tour::take(&window, &library, arguments.tourFolder, arguments.language);
     plugin.shutDown();
     return taken ? EXIT_GOOD : EXIT_BAD;
 }

@@ -24,6 +24,8 @@ int openWindow(int &argc, char **argv, const Arguments &arguments);
 void announceDemonstration(const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
+/// Writes the replies about the accounts to a file.
+int exportAccount(int &argc, char **argv, const Arguments &arguments);
 /// Runs the tour, which does not need a display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 

@@ -98,6 +98,8 @@ int run(int &argc, char **argv, const Arguments &arguments)
         return Program::send(argc, argv, arguments);
     case Arguments::Tour:
         return Program::takeTour(argc, argv, arguments);
+    case Arguments::Export:
+        return Program::exportAccount(argc, argv, arguments);
     case Arguments::Window:
         break;
     }

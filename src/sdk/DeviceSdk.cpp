@@ -54,7 +54,7 @@ DeviceSdk::DeviceSdk()
     : m_ussdEvents("tksv-ussd"), m_deviceEvents("tksv-device"), m_smsEvents("tksv-sms"),
       m_infoEvents("tksv-info"), m_textEvents("tksv-text"),
       m_session([this](Event event) { m_ussdEvents.post(std::move(event)); },
-                [this] { m_textEvents.post(Event()); }),
+                [this] { m_textEvents.post(Event()); }, [this] { infoChanged(); }),
       m_choice(*this)
 {
 }

@@ -13,12 +13,21 @@ namespace
 const std::size_t MAX_UNTAKEN_TEXTS = 20;
 }
 
-UssdSession::UssdSession(Post post, std::function<void()> textUntaken)
-    : m_post(std::move(post)), m_textUntaken(std::move(textUntaken))
+UssdSession::UssdSession(Post post, std::function<void()> textUntaken,
+                         std::function<void()> changed)
+    : m_post(std::move(post)), m_textUntaken(std::move(textUntaken)), m_changed(std::move(changed))
 {
 }
 
 int UssdSession::request(Backend &backend, const std::string &text)
+{
+    const int status = startRequest(backend, text);
+    if (status == RequestAccepted)
+        m_changed();
+    return status;
+}
+
+int UssdSession::startRequest(Backend &backend, const std::string &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const bool isAnswer = m_state == State::WaitsForAnswer && !hasFormOfCode(text);
@@ -30,20 +39,33 @@ int UssdSession::request(Backend &backend, const std::string &text)
     if (isAccepted) {
         m_state = State::InFlight;
         m_token = token;
+        m_request = text;
+        ++m_requestCount;
     }
     return result.status;
 }
 
 void UssdSession::release(Backend &backend)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    becomeIdle();
-    backend.endSession();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        becomeIdle();
+        backend.endSession();
+    }
+    m_changed();
+}
+
+bool UssdSession::cancel(Backend &backend)
+{
+    const bool isCancelled = cancelRequest(backend);
+    if (isCancelled)
+        m_changed();
+    return isCancelled;
 }
 
 /// Assigns a new token to the request in flight. A reply that has already been posted is then
 /// treated as late, and only the empty reply is delivered.
-bool UssdSession::cancel(Backend &backend)
+bool UssdSession::cancelRequest(Backend &backend)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight)
@@ -73,7 +95,20 @@ void UssdSession::recordRefusal(TKSV_Failure reason)
 Failure UssdSession::lastFailure() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_deliveryThread == std::this_thread::get_id() ? m_deliveredFailure : m_failure;
+    return isInCallback() ? m_deliveredFailure : m_failure;
+}
+
+SessionInfo UssdSession::info() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return SessionInfo{static_cast<TKSV_SessionState>(m_state), m_requestCount,
+                       isInCallback() ? m_deliveredRequest : m_request};
+}
+
+/// Must be called with m_mutex locked.
+bool UssdSession::isInCallback() const
+{
+    return m_deliveryThread == std::this_thread::get_id();
 }
 
 /// Records the failure of the newest request. If a call-back made this request, lastFailure()
@@ -81,7 +116,7 @@ Failure UssdSession::lastFailure() const
 void UssdSession::recordFailure(const Failure &failure)
 {
     m_failure = failure;
-    if (m_deliveryThread == std::this_thread::get_id())
+    if (isInCallback())
         m_deliveryThread = std::thread::id();
 }
 
@@ -92,10 +127,13 @@ void UssdSession::handleText(const UssdReply &text)
 
 void UssdSession::deviceLost()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_state == State::InFlight)
-        recordFailure(Failure{TKSV_FAILURE_DEVICE_LOST});
-    becomeIdle();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_state == State::InFlight)
+            recordFailure(Failure{TKSV_FAILURE_DEVICE_LOST});
+        becomeIdle();
+    }
+    m_changed();
 }
 
 std::vector<UntakenText> UssdSession::takeUntakenTexts()
@@ -121,6 +159,7 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
     if (m_state != State::InFlight || token != m_token)
         return false; // the request was replaced, released or lost with the device
     m_failure = m_deliveredFailure = reply.failure;
+    m_deliveredRequest = m_request;
     m_deliveryThread = std::this_thread::get_id();
     if (reply.type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
@@ -141,6 +180,9 @@ bool UssdSession::acceptText(const UssdReply &text)
     }
     if (text.type == UssdWaitsForAnswer)
         m_state = State::WaitsForAnswer;
+    m_deliveredFailure = m_failure;
+    m_deliveredRequest.clear();
+    m_deliveryThread = std::this_thread::get_id();
     return true;
 }
 
@@ -150,6 +192,7 @@ void UssdSession::delivered(const UntakenText &text, bool taken)
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_deliveryThread = std::thread::id();
     }
+    m_changed();
     keepUnlessTaken(text, taken);
 }
 

@@ -21,6 +21,13 @@ struct UntakenText {
     UssdReply reply;
 };
 
+/** The state of the session, see TKSV_SessionInfo. */
+struct SessionInfo {
+    TKSV_SessionState state = TKSV_SESSION_IDLE;
+    unsigned long requestCount = 0;
+    std::string request; // UTF-8
+};
+
 /**
  * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules
  * documented in tksv.h for every backend.
@@ -37,8 +44,9 @@ public:
     using Post = std::function<void(Event)>;
 
     /// `post` passes an event to the USSD service. `textUntaken` is called from the service's
-    /// thread when a new message is available from takeUntakenTexts().
-    UssdSession(Post post, std::function<void()> textUntaken);
+    /// thread when a new message is available from takeUntakenTexts(). `changed` is called without
+    /// a lock after the return value of info() may have changed.
+    UssdSession(Post post, std::function<void()> textUntaken, std::function<void()> changed);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
@@ -55,6 +63,9 @@ public:
     /// Returns the failure of the newest request. If called from the call-back of a reply, returns
     /// the failure of the request to which the reply belongs.
     Failure lastFailure() const;
+    /// Returns the state and the newest accepted request. If called from a call-back, returns the
+    /// request to which the reply belongs.
+    SessionInfo info() const;
 
     /// Delivers the backend's reply to a request. A late reply is dropped.
     void handleReply(RequestToken token, const UssdReply &reply);
@@ -67,8 +78,15 @@ public:
     std::vector<UntakenText> takeUntakenTexts();
 
 private:
-    enum class State { Idle, InFlight, WaitsForAnswer };
+    enum class State {
+        Idle = TKSV_SESSION_IDLE,
+        InFlight = TKSV_SESSION_IN_FLIGHT,
+        WaitsForAnswer = TKSV_SESSION_WAITS_FOR_ANSWER
+    };
 
+    int startRequest(Backend &backend, const std::string &text);
+    bool cancelRequest(Backend &backend);
+    bool isInCallback() const;
     void post(const UssdReply &reply, std::function<bool()> beforeDelivery);
     void postReply(RequestToken token, const UssdReply &reply);
     void recordFailure(const Failure &failure);
@@ -81,6 +99,7 @@ private:
 
     const Post m_post;
     const std::function<void()> m_textUntaken;
+    const std::function<void()> m_changed;
     mutable std::mutex m_mutex; // guards all members below
     State m_state = State::Idle;
     RequestToken m_token = 0; // identifies the request in flight
@@ -88,10 +107,13 @@ private:
     std::vector<UssdReply> m_heldTexts; // messages held back until the session ends
     std::deque<UntakenText> m_untaken;
     Failure m_failure; // the failure of the newest request
-    // The thread that is running the call-back of a reply. For this thread, lastFailure() returns
-    // the failure of this reply.
+    unsigned long m_requestCount = 0;
+    std::string m_request; // the newest accepted request
+    // The thread that is running the call-back of a reply. For this thread, lastFailure() and
+    // info() describe the request of this reply.
     std::thread::id m_deliveryThread;
     Failure m_deliveredFailure;
+    std::string m_deliveredRequest;
 };
 
 } // namespace Tksv

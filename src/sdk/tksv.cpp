@@ -263,6 +263,20 @@ long TKSV_Device_LookAgain(void)
     });
 }
 
+long TKSV_Device_GetSession(TKSV_SessionInfo *session)
+{
+    if (!session)
+        return FAILURE;
+    return guarded([&] {
+        const SessionInfo source = DeviceSdk::instance().session().info();
+        *session = TKSV_SessionInfo();
+        session->state = source.state;
+        session->requestCount = source.requestCount;
+        copyText(source.request, session->request, sizeof session->request);
+        return SUCCESS;
+    });
+}
+
 long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure)
 {
     if (!failure)

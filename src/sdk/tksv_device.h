@@ -76,8 +76,9 @@ typedef struct TKSV_DeviceInfo {
 TKSV_API long TKSV_Device_GetInfo(TKSV_DeviceInfo *info);
 
 /**
- * The type of a function that the SDK calls from its own thread after a field of TKSV_DeviceInfo or
- * the list of modems has changed. `context` is the pointer that was registered with the call-back.
+ * The type of a function that the SDK calls from its own thread after a field of TKSV_DeviceInfo,
+ * the list of modems or the session (TKSV_SessionInfo) has changed. `context` is the pointer that
+ * was registered with the call-back.
  */
 typedef void (*TKSV_DeviceInfoCallback)(void *context);
 
@@ -155,6 +156,29 @@ TKSV_API long TKSV_Device_Enable(void);
  * started. The call-back of TKSV_Device_SetInfoCallback reports changes.
  */
 TKSV_API long TKSV_Device_LookAgain(void);
+
+/* ---- the session ------------------------------------------------------------------------- */
+
+/** The state of this program's USSD session. */
+typedef enum TKSV_SessionState {
+    TKSV_SESSION_IDLE = 0,            /* there is no session */
+    TKSV_SESSION_IN_FLIGHT = 1,       /* a request is in flight */
+    TKSV_SESSION_WAITS_FOR_ANSWER = 2 /* the network waits for an answer of the user */
+} TKSV_SessionState;
+
+/** A snapshot of the session. */
+typedef struct TKSV_SessionInfo {
+    TKSV_SessionState state;
+    unsigned long requestCount; /* number of requests that were accepted so far */
+    char request[1024];         /* the newest accepted request, in UTF-8 */
+} TKSV_SessionInfo;
+
+/**
+ * Copies a snapshot to `*session`. In the call-back of a response, `request` is the request that
+ * the response belongs to. In the call-back of a network-initiated message, it is empty. The
+ * call-back of TKSV_Device_SetInfoCallback reports changes. Fails if `session` is null.
+ */
+TKSV_API long TKSV_Device_GetSession(TKSV_SessionInfo *session);
 
 /* ---- requests that fail ------------------------------------------------------------------ */
 

@@ -25,8 +25,9 @@ struct CheckTable {
 /** The report on one file. */
 struct CheckReport {
     QString file;
-    QString kind;  // "configuration", "layout", "profiles" or "scenario"; empty if unusable
-    QString error; // the reason why the file could not be read; empty on success
+    QString kind; // "configuration", "layout", "profiles", "texts", "scenario" or "patterns"; empty
+                  // if unusable
+    QString error;                // the reason why the file could not be read; empty on success
     QList<CheckFinding> findings; // sorted by line
     QList<CheckTable> tables;
 };

@@ -1,6 +1,7 @@
 #include "ConfigTool.h"
 
 #include "FileCheck.h"
+#include "NewFolder.h"
 #include "TerminalText.h"
 
 namespace Tools
@@ -10,17 +11,25 @@ namespace
 {
 
 const char HELP[] =
-    "Usage: ussd-config check [--format=text|json] FILE...\n"
+    "Usage: ussd-config check [--format=text|json] FILE|FOLDER...\n"
+    "       ussd-config new FOLDER [--operator NAME|MCCMNC [--country CC]]\n"
     "\n"
-    "Reads configuration, layout, profile and scenario files as the plug-in and the\n"
-    "simulated network do. Prints what will not work as written, and the values read.\n"
+    "check reads configuration, layout, profile and scenario files as the plug-in and\n"
+    "the simulated network do. Prints what will not work as written, and the values\n"
+    "read. Of a folder, it reads the plug-in's files and the scenarios.\n"
     "\n"
-    "  --format=json   one JSON document, for scripts\n"
-    "  --help, -h      print this text\n"
-    "  --version       print the version\n"
+    "new creates a folder with the files for one operator of the database, or for an\n"
+    "invented operator, and a simulated network for trying them.\n"
     "\n"
-    "Exit status: 0 no findings, 1 findings, 2 a file or the arguments cannot be\n"
-    "used.";
+    "  --format=json     one JSON document, for scripts\n"
+    "  --operator NAME   the operator's name, or its network code, such as 26207\n"
+    "  --country CC      the operator's country, such as de\n"
+    "  --database FILE   the database of operators\n"
+    "  --help, -h        print this text\n"
+    "  --version         print the version\n"
+    "\n"
+    "Exit status: 0 done or no findings, 1 findings or a failure, 2 a file or the\n"
+    "arguments cannot be used, 3 several operators match, 4 the folder exists.";
 
 int usage(const QString &text)
 {
@@ -28,18 +37,36 @@ int usage(const QString &text)
     return TOOL_USAGE;
 }
 
-QString complaintAbout(const ToolArguments &arguments)
+/** A command of the program. */
+struct Command {
+    const char *name;
+    int (*run)(const ToolArguments &arguments);
+    QString (*complaint)(const ToolArguments &arguments);
+    QStringList (*options)();
+};
+
+QStringList checkOptions()
 {
-    if (!arguments.error.isEmpty())
-        return arguments.error;
-    if (arguments.words.value(0) != QLatin1String("check"))
-        return QLatin1String("the first word must be \"check\"");
+    return QStringList() << QLatin1String("--format");
+}
+
+QString complaintAboutCheck(const ToolArguments &arguments)
+{
     if (arguments.words.count() < 2)
         return QLatin1String("there is no file to check");
     const QString format = arguments.value("--format");
     if (arguments.has("--format") && format != QLatin1String("json") &&
         format != QLatin1String("text"))
         return QLatin1String("--format must be text or json");
+    return QString();
+}
+
+QString complaintAboutNew(const ToolArguments &arguments)
+{
+    if (arguments.words.count() != 2 || arguments.words.at(1).isEmpty())
+        return QLatin1String("\"new\" needs the name of one folder");
+    if (!arguments.has("--operator") && (arguments.has("--country") || arguments.has("--database")))
+        return QLatin1String("--country and --database need --operator");
     return QString();
 }
 
@@ -59,7 +86,7 @@ int check(const ToolArguments &arguments)
 {
     QList<CheckReport> reports;
     for (int i = 1; i < arguments.words.count(); ++i)
-        reports << checkFile(arguments.words.at(i));
+        reports << checkPath(arguments.words.at(i));
     if (arguments.value("--format") == QLatin1String("json")) {
         HostCore::printLine(reportsJson(reports));
         return statusOf(reports);
@@ -67,6 +94,43 @@ int check(const ToolArguments &arguments)
     for (int i = 0; i < reports.count(); ++i)
         HostCore::printLine(reportText(reports.at(i)));
     return statusOf(reports);
+}
+
+const Command COMMANDS[] = {
+    {"check", check, complaintAboutCheck, checkOptions},
+    {"new", createNewFolder, complaintAboutNew, newFolderOptions},
+};
+
+const Command *commandOf(const ToolArguments &arguments)
+{
+    for (const Command &command : COMMANDS) {
+        if (arguments.words.value(0) == QLatin1String(command.name))
+            return &command;
+    }
+    return nullptr;
+}
+
+QString complaintAbout(const ToolArguments &arguments, const Command *command)
+{
+    if (!arguments.error.isEmpty())
+        return arguments.error;
+    if (!command)
+        return QLatin1String("the first word must be \"check\" or \"new\"");
+    const QStringList given = arguments.options.keys();
+    for (int i = 0; i < given.count(); ++i) {
+        if (!command->options().contains(given.at(i)))
+            return QString::fromLatin1("\"%1\" has no option %2")
+                .arg(QLatin1String(command->name), given.at(i));
+    }
+    return command->complaint(arguments);
+}
+
+QStringList valueOptions()
+{
+    QStringList options;
+    for (const Command &command : COMMANDS)
+        options << command.options();
+    return options;
 }
 
 } // namespace
@@ -77,13 +141,14 @@ int runConfigTool(const QStringList &words)
         parseToolArguments(words,
                            QStringList() << QLatin1String("--help") << QLatin1String("-h")
                                          << QLatin1String("--version"),
-                           QStringList() << QLatin1String("--format"));
+                           valueOptions());
     if (arguments.has("--help") || arguments.has("-h"))
         return HostCore::printLine(QLatin1String(HELP)), TOOL_GOOD;
     if (arguments.has("--version"))
         return HostCore::printLine(QLatin1String("ussd-config " USSD_VERSION)), TOOL_GOOD;
-    const QString complaint = complaintAbout(arguments);
-    return complaint.isEmpty() ? check(arguments) : usage(complaint);
+    const Command *command = commandOf(arguments);
+    const QString complaint = complaintAbout(arguments, command);
+    return complaint.isEmpty() ? command->run(arguments) : usage(complaint);
 }
 
 } // namespace Tools

@@ -6,7 +6,8 @@
 namespace Tools
 {
 
-/// Runs the program ussd-config, which checks files and prints the findings. Returns a ToolExit.
+/// Runs the program ussd-config, which checks files and creates folders for operators. Returns a
+/// ToolExit.
 int runConfigTool(const QStringList &words);
 
 } // namespace Tools

@@ -1,5 +1,7 @@
 #include "ElementCheck.h"
 
+#include <QFileInfo>
+
 #include "KeyTexts.h"
 #include "UssdCode.h"
 #include "XmlName.h"
@@ -98,7 +100,7 @@ void ElementCheck::command(int place, const QString &command, int inputLength)
 
 void ElementCheck::key(int place, const QString &key)
 {
-    const QStringList missing = KeyTexts::languagesWithout(key);
+    const QStringList missing = KeyTexts::languagesWithout(key, QFileInfo(m_report.file).path());
     if (!missing.isEmpty())
         find(place, "key",
              QString::fromLatin1("%1 has no text in %2 and is shown as it is")

@@ -1,14 +1,19 @@
 #include "FileCheck.h"
 
+#include <QDir>
+
 #include <initializer_list>
 
 #include "ConfigurationCheck.h"
 #include "ElementCheck.h"
 #include "InputFile.h"
 #include "LayoutCheck.h"
+#include "PluginFiles.h"
 #include "ProfilesCheck.h"
+#include "ReplyPatternCheck.h"
 #include "ScenarioCheck.h"
 #include "Spelling.h"
+#include "TextsCheck.h"
 #include "XmlName.h"
 
 using namespace Formats;
@@ -205,16 +210,41 @@ CheckReport checkContent(const QByteArray &content, const QString &file)
 {
     CheckReport report;
     report.file = file;
-    if (isXml(content)) {
+    if (areReplyPatterns(content)) {
+        report.kind = QLatin1String("patterns");
+        checkReplyPatterns(content, report);
+    } else if (isXml(content)) {
         checkXml(content, report);
+    } else if (isTexts(content)) {
+        report.kind = QLatin1String("texts");
+        checkTexts(content, report);
     } else if (content.contains('[')) {
         report.kind = QLatin1String("scenario");
         checkScenario(content, report);
     } else {
-        report.error = QLatin1String("this is neither XML nor a scenario file");
+        report.error =
+            QLatin1String("this is neither XML nor a scenario file nor a file of reply patterns");
     }
     sortFindings(report);
     return report;
+}
+
+QList<CheckReport> checkPath(const QString &path)
+{
+    QStringList files;
+    const QDir plugin(path + PluginFiles::FOLDER);
+    const QStringList names = plugin.entryList(
+        QStringList() << QLatin1String("*.xml") << QLatin1String("ussdtexts.ini"), QDir::Files);
+    for (int i = 0; i < names.count(); ++i)
+        files << path + PluginFiles::FOLDER + QLatin1Char('/') + names.at(i);
+    const QStringList scenarios =
+        QDir(path).entryList(QStringList() << QLatin1String("*.scenario"), QDir::Files);
+    for (int i = 0; i < scenarios.count(); ++i)
+        files << path + QLatin1Char('/') + scenarios.at(i);
+    QList<CheckReport> reports;
+    for (int i = 0; i < files.count(); ++i)
+        reports << checkFile(files.at(i));
+    return reports.isEmpty() ? QList<CheckReport>() << checkFile(path) : reports;
 }
 
 CheckReport checkFile(const QString &path)

@@ -13,6 +13,9 @@ namespace Tools
 CheckReport checkContent(const QByteArray &content, const QString &file);
 /// Reads a file and checks its contents. If the file cannot be read, the report contains an error.
 CheckReport checkFile(const QString &path);
+/// Checks a file, or the files in an operator's folder: the files of the plug-in, and the
+/// scenarios. If a folder contains none of these files, the only report contains an error.
+QList<CheckReport> checkPath(const QString &path);
 
 } // namespace Tools
 

@@ -4,7 +4,9 @@
 #include <QSharedPointer>
 #include <QTranslator>
 
+#include "InputFile.h"
 #include "Languages.h"
+#include "OperatorTexts.h"
 
 namespace Tools
 {
@@ -36,31 +38,38 @@ Translators loadAll()
     return all;
 }
 
-bool looksLikeKey(const QString &text)
+const Translators &translators()
 {
-    for (int i = 0; i < text.length(); ++i) {
-        const QChar letter = text.at(i);
-        const bool isCapital = letter >= QLatin1Char('A') && letter <= QLatin1Char('Z');
-        if (!isCapital && !letter.isDigit() && letter != QLatin1Char('_'))
-            return false;
-    }
-    return text.contains(QLatin1Char('_'));
+    static const Translators all = loadAll();
+    return all;
+}
+
+QString translation(const Translators::const_iterator &language, const QString &key)
+{
+    return language.value()->translator.translate("USSDUIPlugin", key.toUtf8().constData());
 }
 
 } // namespace
 
-QStringList KeyTexts::languagesWithout(const QString &key)
+QStringList KeyTexts::languagesWithout(const QString &key, const QString &folder)
 {
-    static const Translators translators = loadAll();
+    using HostCore::OperatorTexts;
     QStringList missing;
-    if (!looksLikeKey(key))
+    if (!OperatorTexts::isKey(key))
         return missing;
-    const QByteArray source = key.toUtf8();
-    for (Translators::const_iterator it = translators.begin(); it != translators.end(); ++it) {
-        if (it.value()->translator.translate("USSDUIPlugin", source.constData()).isEmpty())
+    const OperatorTexts ofOperator(InputFile::content(folder + QLatin1String("/ussdtexts.ini")));
+    const Translators &all = translators();
+    for (Translators::const_iterator it = all.begin(); it != all.end(); ++it) {
+        if (translation(it, key).isEmpty() && ofOperator.text(it.key(), key).isEmpty())
             missing << it.key();
     }
     return missing;
+}
+
+QString KeyTexts::english(const QString &key)
+{
+    const Translators::const_iterator language = translators().find(QLatin1String("en"));
+    return language == translators().end() ? QString() : translation(language, key);
 }
 
 } // namespace Tools

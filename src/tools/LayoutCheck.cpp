@@ -1,6 +1,7 @@
 #include "LayoutCheck.h"
 
 #include <QRegExp>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include "ElementCheck.h"
@@ -58,7 +59,7 @@ QString kindOfComplaint(const QString &complaint)
 {
     const int colon = complaint.indexOf(QLatin1Char(':'));
     QString rest = complaint.mid(colon);
-    return complaint.left(colon) + rest.remove(QRegExp(QLatin1String("\\d+")));
+    return complaint.left(colon) + rest.remove(QRegularExpression(QLatin1String("\\d+")));
 }
 
 /// Returns true if the complaint is a consequence of the root not being the first entry.

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegExp>
 
 #include "InputFile.h"
 #include "PluginFiles.h"
@@ -90,16 +89,6 @@ ProviderQuery queryOf(const ToolArguments &arguments)
 }
 
 // ---- printing ------------------------------------------------------------------------------
-
-/// Returns the text as one word for a shell.
-QString shellWord(const QString &text)
-{
-    if (text.contains(QRegExp(QLatin1String("^[\\w.+-]+$"))))
-        return text;
-    QString quoted = text;
-    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
-    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
-}
 
 QString orDash(const QString &text)
 {

@@ -1,5 +1,7 @@
 #include "ToolArguments.h"
 
+#include <QRegExp>
+
 #include <clocale>
 
 namespace Tools
@@ -89,6 +91,15 @@ ToolArguments parseToolArguments(const QStringList &words, const QStringList &sw
                                  const QStringList &valueOptions)
 {
     return Parser(words, switches, valueOptions).parse();
+}
+
+QString shellWord(const QString &text)
+{
+    if (QRegExp(QLatin1String("[\\w.+/-]+")).exactMatch(text))
+        return text;
+    QString quoted = text;
+    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
 }
 
 QStringList startTool(int argc, char **argv)

@@ -24,6 +24,9 @@ struct ToolArguments {
 ToolArguments parseToolArguments(const QStringList &words, const QStringList &switches,
                                  const QStringList &valueOptions);
 
+/// Returns the text as one word for a shell.
+QString shellWord(const QString &text);
+
 /// Applies the locale of the environment. Returns the command-line arguments without the program
 /// name.
 QStringList startTool(int argc, char **argv);

@@ -76,7 +76,7 @@ check "$(cpp_files src/files)" "$qt|$standard" src/files
 check_layers "$any" src/dashboard \
     "src/provisioning src/formats src/core $contracts src/sdk/tksv_device.h src/cli/FailureText.h
     src/cli/ExitCodes.h" \
-    base device plugin sim window tour
+    base look device plugin sim account messages pages window tour
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
     src/core/common src/compat src/files src/sdk

@@ -139,6 +139,17 @@ finds qt_versions 'by function' $plugin <<<'connect(a, &A::changed,
         this, &B::change);'
 finds qt_versions 'by function' src/core/a.cpp <<<'QTimer::singleShot(0, this, [=] { f(); });'
 
+qt4=$(mktemp -d) || exit 2
+trap 'rm -rf "$tree" "$qt4"' EXIT
+mkdir "$qt4/QtCore"
+printf '%s\n' '#define QT_VERSION_STR   "4.8.7"' >"$qt4/QtCore/qglobal.h"
+export USSD_QT4_INCLUDE=$qt4
+finds qt4_headers 'src/core/a.h: .*QNotInQt4' src/core/a.h <<<'#include <QNotInQt4>'
+finds qt4_headers 'src/files/a.cpp: .*nothing' src/files/a.cpp <<<'int a = nothing;'
+rm "$qt4/QtCore/qglobal.h"
+finds qt4_headers 'no QtCore/qglobal.h of Qt 4' src/core/a.h </dev/null
+unset USSD_QT4_INCLUDE
+
 finds man_pages 'warning' man/bad.1 <<<'.TH BAD 1
 .SH NAME
 bad \- a page

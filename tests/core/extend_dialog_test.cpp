@@ -1,11 +1,28 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 
+#include "CommonUtils.h"
 #include "ExtendDialog.h"
 #include "ExtendLineEdit.h"
+#include "QtCompat.h"
 #include "UssdTest.h"
+
+namespace
+{
+
+const QSize LARGE(3000, 2000); // larger than the screen of the platform "offscreen"
+
+QRect screenRect()
+{
+    const QWidget widget;
+    return QtCompat::availableGeometry(&widget);
+}
+
+} // namespace
 
 class ExtendDialogTest : public UssdTest
 {
@@ -21,6 +38,11 @@ private slots:
     void theSameContentAgainChangesNothing();
     void deletedContentLeavesAUsableFrame();
     void noContentIsHarmless();
+    void aFrameLargerThanTheScreenScrolls_data();
+    void aFrameLargerThanTheScreenScrolls();
+    void aFrameThatGrowsBeyondTheScreenScrolls();
+    void aFrameThatFitsDoesNotScroll();
+    void scrolledContentIsReplaced();
     void flagsAndParentAreThoseAskedFor();
     void theLineEditIsALineEdit();
 };
@@ -135,6 +157,81 @@ void ExtendDialogTest::noContentIsHarmless()
     ExtendDialog frame;
     frame.AddMainWidget(nullptr);
     QCOMPARE(frame.layout()->count(), 0);
+}
+
+void ExtendDialogTest::aFrameLargerThanTheScreenScrolls_data()
+{
+    QTest::addColumn<bool>("isFixed");
+    QTest::newRow("frame of a fixed size") << true;
+    QTest::newRow("frame with the size of its content") << false;
+}
+
+void ExtendDialogTest::aFrameLargerThanTheScreenScrolls()
+{
+    QFETCH(bool, isFixed);
+    ExtendDialog frame;
+    QWidget *content = new QWidget;
+    if (isFixed)
+        frame.setFixedSize(LARGE);
+    else
+        content->setFixedSize(LARGE);
+    CommonUtils::MoveCentre(&frame);
+    frame.AddMainWidget(content);
+    frame.show();
+    drainEvents();
+    QVERIFY(screenRect().contains(frame.geometry()));
+    QVERIFY(content->isVisible());
+    QCOMPARE(content->size(), LARGE);
+    QVERIFY(frame.isAncestorOf(content));
+    const QScrollArea *area = frame.findChild<QScrollArea *>();
+    QVERIFY(area);
+    QVERIFY(area->verticalScrollBar()->maximum() > 0);
+    QVERIFY(area->horizontalScrollBar()->maximum() > 0);
+}
+
+void ExtendDialogTest::aFrameThatGrowsBeyondTheScreenScrolls()
+{
+    ExtendDialog frame;
+    QWidget *content = new QWidget;
+    frame.setFixedSize(200, 100);
+    frame.AddMainWidget(content);
+    frame.show();
+    QVERIFY(!frame.findChild<QScrollArea *>());
+    for (const QSize &size : {LARGE, LARGE * 2}) { // as after a change of the language
+        frame.setFixedSize(size);
+        drainEvents();
+        QVERIFY(screenRect().contains(frame.geometry()));
+        QCOMPARE(content->size(), size);
+    }
+}
+
+void ExtendDialogTest::aFrameThatFitsDoesNotScroll()
+{
+    ExtendDialog frame;
+    frame.setFixedSize(588, 465);
+    frame.AddMainWidget(new QWidget);
+    frame.show();
+    drainEvents();
+    QVERIFY(!frame.findChild<QScrollArea *>());
+    QCOMPARE(frame.size(), QSize(588, 465));
+}
+
+void ExtendDialogTest::scrolledContentIsReplaced()
+{
+    ExtendDialog frame;
+    QWidget *old = new QWidget;
+    QWidget *next = new QWidget;
+    frame.setFixedSize(LARGE);
+    frame.AddMainWidget(old);
+    frame.show();
+    frame.AddMainWidget(old); // is the content already
+    QVERIFY(frame.findChild<QScrollArea *>());
+    frame.AddMainWidget(next);
+    drainEvents();
+    QVERIFY(!frame.findChild<QScrollArea *>());
+    QVERIFY(next->isVisible());
+    QVERIFY(!old->isVisible());
+    QCOMPARE(old->parentWidget(), &frame);
 }
 
 void ExtendDialogTest::flagsAndParentAreThoseAskedFor()

@@ -6,6 +6,7 @@
 
 #include "CommonUtils.h"
 #include "InstallPaths.h"
+#include "PluginFolderChoice.h"
 #include "UssdTest.h"
 
 namespace
@@ -44,6 +45,7 @@ protected:
 private slots:
     void thePluginFolderStandsBesideTheLibrary();
     void theVariableWins();
+    void shippedFolderIgnoresTheVariable();
     void trailingSeparatorsAreRemoved_data();
     void trailingSeparatorsAreRemoved();
     void anEmptyVariableCountsAsUnset();
@@ -110,6 +112,14 @@ void InstallPathsTest::theVariableWins()
 {
     qputenv("USSD_PLUGIN_LIBRARY_PATH", "/somewhere else/h\xc3\xb6st");
     QCOMPARE(CommonUtils::GetPluginLibraryPath(), QString::fromUtf8("/somewhere else/höst"));
+}
+
+void InstallPathsTest::shippedFolderIgnoresTheVariable()
+{
+    const QString unset = HostCore::PluginFolderChoice::installed();
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", "/opt/host");
+    QCOMPARE(HostCore::PluginFolderChoice::shipped(), unset);
+    QCOMPARE(HostCore::PluginFolderChoice::installed(), QStringLiteral("/opt/host"));
 }
 
 void InstallPathsTest::trailingSeparatorsAreRemoved_data()

@@ -6,6 +6,7 @@
 
 #include "HostState.h"
 #include "Languages.h"
+#include "window/Banners.h"
 #include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
@@ -29,8 +30,10 @@ void DeviceTest::setUp()
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     fakeSdkSetDeviceInfo(modemInfo(TKSV_DEVICE_REGISTERED));
     m_settings.reset(new DashboardSettings);
+    m_settings->setFirstRunDone(true);
     m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->showPage(PageId::Codes);
     m_window->show();
 }
 
@@ -92,6 +95,12 @@ QAction *DeviceTest::networkAction(const QString &text) const
             return action;
     }
     return nullptr;
+}
+
+QString DeviceTest::banner() const
+{
+    const Banners *banners = part<Banners>("Dashboard_Banner");
+    return banners->isVisible() ? banners->banner(Banners::Kind(banners->shown())).text : QString();
 }
 
 QString DeviceTest::notice(const char *name) const

@@ -37,6 +37,8 @@ protected:
     QAction *networkAction(const QString &text) const;
     /// Returns the text of the notice, or an empty string if the notice is hidden.
     QString notice(const char *name) const;
+    /// Returns the text of the visible banner, or an empty string if there is none.
+    QString banner() const;
 
 private:
     QScopedPointer<Dashboard::DashboardSettings> m_settings;

@@ -4,6 +4,7 @@
 #include "ExtendDialog.h"
 #include "HostState.h"
 #include "Languages.h"
+#include "sim/SimWindows.h"
 
 using namespace Dashboard;
 
@@ -11,13 +12,11 @@ namespace
 {
 
 const struct {
-    const char *button;
+    const char *action;
     const char *name;
-} BUTTONS[] = {{"Dashboard_GeneralPageButton", "general"},
-               {"Dashboard_GeneralFrameButton", "framed"},
-               {"Dashboard_PrepaidButton", "prepaid"},
-               {"Dashboard_PostpaidButton", "postpaid"},
-               {"Dashboard_UssdSmsButton", "services"}};
+} ACTIONS[] = {{"Dashboard_ActionGeneral", "framed"},
+               {"Dashboard_ActionPrepaid", "prepaid"},
+               {"Dashboard_ActionPostpaid", "postpaid"}};
 
 } // namespace
 
@@ -57,6 +56,7 @@ void SimTest::openDashboard()
 {
     m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), nullptr));
+    m_window->showPage(PageId::Codes);
     m_window->show();
     const PluginFailure failure = m_window->loadPlugin();
     QVERIFY2(m_plugin->isUsable(), qPrintable(failure.text()));
@@ -73,6 +73,11 @@ void SimTest::useNetwork(const char *imsi, const char *keys, const char *codes)
         QCOMPARE(Scenarios::use(file), QString());
 }
 
+QAction *SimTest::action(const char *name) const
+{
+    return m_window->findChild<QAction *>(QLatin1String(name));
+}
+
 QPushButton *SimTest::button(const char *name) const
 {
     return m_window->findChild<QPushButton *>(QLatin1String(name));
@@ -81,17 +86,21 @@ QPushButton *SimTest::button(const char *name) const
 QString SimTest::offered() const
 {
     QStringList names;
-    for (const auto &each : BUTTONS) {
-        if (button(each.button)->isVisible())
+    const int windows = m_window->controller().windows();
+    if (windows & SIM_WINDOW_GENERAL)
+        names << QLatin1String("general");
+    for (const auto &each : ACTIONS) {
+        if (action(each.action)->isVisible())
             names << QLatin1String(each.name);
     }
+    if (windows & SIM_WINDOW_SERVICES)
+        names << QLatin1String("services");
     return names.join(QLatin1String(" "));
 }
 
 QString SimTest::paidType() const
 {
-    const QLabel *label = m_window->findChild<QLabel *>(QLatin1String("Dashboard_PaidType"));
-    return label->isVisible() ? label->text() : QString();
+    return m_window->sim().paidTypeText();
 }
 
 QWidget *SimTest::frame()

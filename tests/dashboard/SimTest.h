@@ -1,6 +1,7 @@
 #ifndef SIMTEST_H
 #define SIMTEST_H
 
+#include <QAction>
 #include <QLabel>
 #include <QPushButton>
 
@@ -33,7 +34,8 @@ protected:
     Dashboard::LoadedPlugin &plugin() { return *m_plugin; }
     Dashboard::GeneralWindow page() const { return Dashboard::GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
-    /// Returns the names of the windows whose buttons are visible, for example "general prepaid".
+    QAction *action(const char *name) const;
+    /// Returns the names of the windows that are offered, for example "general prepaid".
     QString offered() const;
     QString paidType() const;
     /// Returns the plug-in's open frame, or null if there is none.

@@ -170,15 +170,15 @@ void DeviceChoiceTest::aRegisteredModemNeedsNoWords()
 
 void DeviceChoiceTest::theStatusLineSaysWhichModem()
 {
-    const QLabel *source = part<QLabel>("Dashboard_Source");
-    QCOMPARE(source->text(), QLatin1String("Source: modem (Maker Model)"));
+    const QWidget *source = part<QWidget>("Dashboard_DeviceLine");
+    QCOMPARE(source->toolTip(), QLatin1String("Source: modem (Maker Model)"));
     TKSV_DeviceInfo none = modemInfo(TKSV_DEVICE_ABSENT);
     none.source[0] = 0;
     tell(none);
-    QCOMPARE(source->text(), QLatin1String("Source: modem (none)"));
+    QCOMPARE(source->toolTip(), QLatin1String("Source: modem (none)"));
     none.isLooking = 1;
     tell(none);
-    QCOMPARE(source->text(), dashboardText("SOURCE_LOOKING"));
+    QCOMPARE(source->toolTip(), dashboardText("SOURCE_LOOKING"));
 }
 
 USSD_TEST_MAIN(DeviceChoiceTest)

@@ -43,6 +43,9 @@ private slots:
     void englishIsThatOfTheOtherPrograms();
     void everyReasonHasItsWordsInEveryLanguage();
     void theClosingTextOfTheNetworkIsShown();
+    void everyReasonHasATitleAndAMeaning();
+    void anUnknownOutcomeIsSaidBeforeItIsSentAgain();
+    void aCommandThatWasNotSentSaysSo();
 };
 
 void FailureWordsTest::noFailureHasNoWords()
@@ -80,6 +83,57 @@ void FailureWordsTest::theClosingTextOfTheNetworkIsShown()
     const QString words =
         failureWords(failure(TKSV_FAILURE_ENDED_BY_NETWORK, false, "Kein Guthaben für %1"));
     QVERIFY2(words.endsWith(QString::fromUtf8("Kein Guthaben für %1")), qPrintable(words));
+}
+
+void FailureWordsTest::everyReasonHasATitleAndAMeaning()
+{
+    const QString code = QLatin1String("*104#");
+    for (const QString &language : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(language));
+        for (const TKSV_Failure reason : REASONS) {
+            for (const bool wasNotSent : {false, true}) {
+                const QString title = failureTitle(failure(reason, wasNotSent), code);
+                const QString meaning = failureMeaning(failure(reason, wasNotSent), code);
+                QVERIFY(!title.isEmpty() && !meaning.isEmpty());
+                QVERIFY2(!(title + meaning).contains(QLatin1Char('%')), qPrintable(title));
+                QVERIFY2(!title.contains(QLatin1String("STRIP_")), qPrintable(title));
+            }
+        }
+    }
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
+    QCOMPARE(failureTitle(failure(TKSV_FAILURE_NO_ANSWER), code),
+             QLatin1String("No reply to *104#"));
+    QCOMPARE(failureMeaning(failure(TKSV_FAILURE_REFUSED, false, "Goodbye"), code),
+             QLatin1String("Last message of the network: Goodbye"));
+}
+
+// A payment must not be made twice because a button invites the user to.
+void FailureWordsTest::anUnknownOutcomeIsSaidBeforeItIsSentAgain()
+{
+    const QString code = QLatin1String("*104#");
+    for (const TKSV_Failure reason :
+         {TKSV_FAILURE_NO_ANSWER, TKSV_FAILURE_DEVICE_LOST, TKSV_FAILURE_CANCELLED}) {
+        const QString meaning = failureMeaning(failure(reason), code);
+        QVERIFY2(meaning.contains(QLatin1String("may have")) ||
+                     meaning.contains(QLatin1String("is not known")),
+                 qPrintable(meaning));
+    }
+    for (const TKSV_Failure reason : {TKSV_FAILURE_EMPTY_REPLY, TKSV_FAILURE_UNDECODABLE})
+        QVERIFY(!mayBeSentAgain(failure(reason))); // the network has carried out the code
+}
+
+void FailureWordsTest::aCommandThatWasNotSentSaysSo()
+{
+    const QString code = QLatin1String("*104#");
+    for (const TKSV_Failure reason : REASONS) {
+        if (reason == TKSV_FAILURE_CANCELLED)
+            continue;
+        QCOMPARE(failureTitle(failure(reason, true), code), QLatin1String("*104# was not sent"));
+        const QString meaning = failureMeaning(failure(reason, true), code);
+        QVERIFY2(!meaning.contains(QLatin1String("may have")), qPrintable(meaning));
+    }
+    QCOMPARE(failureMeaning(failure(TKSV_FAILURE_CANCELLED, true), code),
+             QLatin1String("You stopped *104#. It was not sent."));
 }
 
 USSD_TEST_MAIN(FailureWordsTest)

@@ -16,8 +16,8 @@
 #include "plugin/GeneralWindow.h"
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
+#include "window/Banners.h"
 #include "window/MainWindow.h"
-#include "window/NoticeBar.h"
 
 using namespace Dashboard;
 
@@ -46,7 +46,7 @@ private slots:
     void thePageCanBeHiddenAndShownAgain();
     void aCommandOfThePageIsAnswered();
     void theFrameOpensOverTheWindow();
-    void theButtonsWaitForThePlugin();
+    void theActionsWaitForThePlugin();
     void aMissingPluginIsSaidInThePage();
     void aChosenLanguageReachesEverything();
     void aChosenLanguageIsRemembered();
@@ -58,6 +58,14 @@ private slots:
 
 private:
     QAction *networkAction(const QString &text) const;
+    QAction *action(const char *name) const
+    {
+        return m_window->findChild<QAction *>(QLatin1String(name));
+    }
+    QString source() const
+    {
+        return m_window->findChild<QWidget *>(QLatin1String("Dashboard_DeviceLine"))->toolTip();
+    }
     QPushButton *button(const char *name) const;
     GeneralWindow page() const { return GeneralWindow(m_window->page()); }
 
@@ -72,8 +80,10 @@ void MainWindowTest::setUp()
     QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
     QVERIFY(Scenarios::use(QString()).isEmpty());
     m_settings.reset(new DashboardSettings);
+    m_settings->setFirstRunDone(true);
     m_plugin.reset(new LoadedPlugin);
     m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->showPage(PageId::Codes);
     m_window->show();
     const PluginFailure failure = m_window->loadPlugin();
     QVERIFY2(m_plugin->isUsable(), qPrintable(failure.text()));
@@ -108,16 +118,14 @@ void MainWindowTest::theDeviceAndTheSourceAreShown()
 {
     QCOMPARE(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Operator"))->text(),
              QLatin1String("Test & Mobile"));
-    const QLabel *source = m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"));
-    QVERIFY(source->isVisible());
-    QCOMPARE(source->text(), QLatin1String("Demonstration: invented network (quick.scenario)"));
+    QCOMPARE(source(), QLatin1String("Demonstration: invented network (quick.scenario)"));
 }
 
 void MainWindowTest::theGeneralWindowIsInThePage()
 {
     QVERIFY(page().isComplete());
     QVERIFY(page().commandEdit()->isVisible());
-    QVERIFY(button("Dashboard_GeneralPageButton")->isChecked());
+    QVERIFY(button("Dashboard_NavCodes")->isChecked());
 }
 
 void MainWindowTest::thePageFollowsTheWindowsSize()
@@ -135,9 +143,9 @@ void MainWindowTest::thePageFollowsTheWindowsSize()
 
 void MainWindowTest::thePageCanBeHiddenAndShownAgain()
 {
-    QTest::mouseClick(button("Dashboard_GeneralPageButton"), Qt::LeftButton);
+    QTest::mouseClick(button("Dashboard_NavHome"), Qt::LeftButton);
     QVERIFY(!page().commandEdit()->isVisible());
-    QTest::mouseClick(button("Dashboard_GeneralPageButton"), Qt::LeftButton);
+    QTest::mouseClick(button("Dashboard_NavCodes"), Qt::LeftButton);
     QVERIFY(page().commandEdit()->isVisible());
 }
 
@@ -152,7 +160,7 @@ void MainWindowTest::aCommandOfThePageIsAnswered()
 
 void MainWindowTest::theFrameOpensOverTheWindow()
 {
-    QTest::mouseClick(button("Dashboard_GeneralFrameButton"), Qt::LeftButton);
+    action("Dashboard_ActionGeneral")->trigger();
     const GeneralWindow framed = GeneralWindow::framed();
     QVERIFY(framed.isComplete());
     const QWidget *frame = framed.commandEdit()->window();
@@ -166,14 +174,13 @@ void MainWindowTest::theFrameOpensOverTheWindow()
     QTRY_VERIFY(!GeneralWindow::framed().isComplete());
 }
 
-void MainWindowTest::theButtonsWaitForThePlugin()
+void MainWindowTest::theActionsWaitForThePlugin()
 {
     LoadedPlugin none;
     const MainWindow window(&none, nullptr);
-    const QPushButton *frame =
-        window.findChild<QPushButton *>(QLatin1String("Dashboard_GeneralFrameButton"));
-    QVERIFY(!frame->isEnabled());
-    QVERIFY(button("Dashboard_GeneralFrameButton")->isEnabled());
+    const QAction *frame = window.findChild<QAction *>(QLatin1String("Dashboard_ActionGeneral"));
+    QVERIFY(!frame->isVisible());
+    QVERIFY(action("Dashboard_ActionGeneral")->isVisible());
 }
 
 void MainWindowTest::aMissingPluginIsSaidInThePage()
@@ -181,13 +188,13 @@ void MainWindowTest::aMissingPluginIsSaidInThePage()
     qputenv("USSD_PLUGIN_LIBRARY_PATH", folder().toLocal8Bit());
     LoadedPlugin none;
     MainWindow window(&none, nullptr);
+    window.showPage(PageId::Codes);
     window.show();
     QCOMPARE(int(window.loadPlugin().step), int(PluginFailure::FileMissing));
     const QLabel *text = window.page()->findChild<QLabel *>();
     QVERIFY(text->isVisible());
     QVERIFY(text->text().contains(folder()));
     window.openFrame(0);
-    window.showPage(true);
 }
 
 void MainWindowTest::aChosenLanguageReachesEverything()
@@ -196,9 +203,10 @@ void MainWindowTest::aChosenLanguageReachesEverything()
     QAction *german = networkAction(QLatin1String("Deutsch"));
     QVERIFY(german);
     german->trigger();
-    QCOMPARE(m_window->windowTitle(), QString::fromUtf8("USSD-Dashboard – Vorführung"));
+    QCOMPARE(m_window->windowTitle(), QString::fromUtf8("Vorführung – USSD-Dashboard"));
     QVERIFY(page().sendButton()->text() != send);
-    QVERIFY(button("Dashboard_GeneralFrameButton")->text().contains(QLatin1String("Fenster")));
+    QVERIFY(action("Dashboard_ActionGeneral")->text().contains(QLatin1String("Fenster")));
+    QCOMPARE(button("Dashboard_NavServices")->text(), QLatin1String("Dienste"));
     QVERIFY(networkAction(dashboardText("NETWORK_DEFAULT")));
 }
 
@@ -216,19 +224,17 @@ void MainWindowTest::aLanguageWithoutItsFileIsSaid()
     QVERIFY(german);
     german->setData(QLatin1String("xx")); // as if the language file had been deleted
     german->trigger();
-    const NoticeBar *problems =
-        m_window->findChild<NoticeBar *>(QLatin1String("Dashboard_Problems"));
-    QVERIFY(problems);
-    QCOMPARE(problems->text(),
+    const Banners *banners = m_window->findChild<Banners *>();
+    QCOMPARE(banners->banner(Banners::Problem).text,
              dashboardText("LANGUAGE_MISSING").arg(HostCore::Languages::file(QLatin1String("xx"))));
     QVERIFY(networkAction(QLatin1String("English"))->isChecked());
 }
 
 void MainWindowTest::arabicTurnsTheWindow()
 {
-    const QPushButton *first = button("Dashboard_GeneralPageButton");
-    const QPushButton *second = button("Dashboard_GeneralFrameButton");
-    QVERIFY(first->x() < second->x());
+    const QWidget *first = m_window->findChild<QWidget *>(QLatin1String("Dashboard_Operator"));
+    const QWidget *second = button("Dashboard_Menu");
+    QTRY_VERIFY(first->x() < second->x());
     m_window->setLanguage(QLatin1String("ar"));
     QTRY_VERIFY(first->x() > second->x());
 }
@@ -239,9 +245,7 @@ void MainWindowTest::anotherNetworkIsChosenFromTheMenu()
     QAction *postpaid = networkAction(QLatin1String("Demonstration: postpaid"));
     QVERIFY(postpaid);
     postpaid->trigger();
-    QTRY_VERIFY(m_window->findChild<QLabel *>(QLatin1String("Dashboard_Source"))
-                    ->text()
-                    .contains(QLatin1String("postpaid.scenario")));
+    QTRY_VERIFY(source().contains(QLatin1String("postpaid.scenario")));
     QVERIFY(m_settings->device().word().startsWith(QLatin1String("simulated:/")));
     QVERIFY(m_settings->device().name.endsWith(QLatin1String("/postpaid.scenario")));
     QVERIFY(networkAction(QLatin1String("Demonstration: postpaid"))->isChecked());
@@ -267,11 +271,13 @@ void MainWindowTest::aBadScenarioIsSaidInWordsAndTheOldOneStays()
 
 void MainWindowTest::everyControlHasAName()
 {
-    for (const char *name :
-         {"Dashboard_Operator", "Dashboard_Signal", "Dashboard_Sim", "Dashboard_Source"}) {
-        const QLabel *label = m_window->findChild<QLabel *>(QLatin1String(name));
-        QVERIFY2(!label->accessibleName().isEmpty(), name);
+    for (const QAbstractButton *button : m_window->findChildren<QAbstractButton *>()) {
+        if (button->objectName().startsWith(QLatin1String("Dashboard_")) && button->isVisible())
+            QVERIFY2(!button->accessibleName().isEmpty() || !button->text().isEmpty(),
+                     qPrintable(button->objectName()));
     }
+    const QLabel *name = m_window->findChild<QLabel *>(QLatin1String("Dashboard_Operator"));
+    QCOMPARE(name->accessibleName(), QLatin1String("Operator: Test & Mobile"));
 }
 
 USSD_TEST_MAIN(MainWindowTest)

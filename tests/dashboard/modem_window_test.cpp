@@ -10,6 +10,7 @@
 #include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "sim/PaidTypeFinder.h"
+#include "sim/SimWindows.h"
 #include "window/DeviceMenu.h"
 #include "window/NoticeBar.h"
 
@@ -132,22 +133,24 @@ void ModemWindowTest::aDemonstrationIsMarkedInEveryLanguage()
     QSet<QString> texts;
     for (const char *code : {"en", "de", "fr", "es", "pt", "ru", "ar", "zh"}) {
         window().setLanguage(QLatin1String(code));
-        texts << notice("Dashboard_Demonstration");
+        texts << banner();
         QCOMPARE(window().windowTitle(), dashboardText("APP_TITLE_DEMONSTRATION"));
-        QVERIFY(part<QLabel>("Dashboard_Source")->text().contains(QLatin1String("Maker Model")));
-        QVERIFY(part<QLabel>("Dashboard_Source")->text() !=
+        QVERIFY(part<QWidget>("Dashboard_DeviceLine")
+                    ->toolTip()
+                    .contains(QLatin1String("Maker Model")));
+        QVERIFY(part<QWidget>("Dashboard_DeviceLine")->toolTip() !=
                 dashboardText("SOURCE_MODEM").arg(QLatin1String("Maker Model")));
     }
     QCOMPARE(texts.size(), 8);
-    QVERIFY(
-        texts.contains(QLatin1String("Demonstration: the network is invented; nothing is sent.")));
+    QVERIFY(texts.contains(
+        QLatin1String("Everything here is invented. No modem is used and nothing costs money.")));
 }
 
 void ModemWindowTest::aModemIsNoDemonstration()
 {
     tell(demonstration());
     tell(modemWithSim());
-    QCOMPARE(notice("Dashboard_Demonstration"), QString());
+    QVERIFY(!banner().contains(QLatin1String("invented")));
     QCOMPARE(window().windowTitle(), dashboardText("APP_TITLE"));
 }
 
@@ -157,10 +160,11 @@ void ModemWindowTest::withoutAModemNothingIsInvented()
     none.source[0] = 0;
     tell(none);
     loadPlugin();
-    QCOMPARE(part<QLabel>("Dashboard_Operator")->text(), QLatin1String("No modem"));
+    QCOMPARE(part<QLabel>("Dashboard_Operator")->text(),
+             QLatin1String("The modem service does not run"));
     QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("ModemManager")));
     QCOMPARE(presets(), 0);
-    QVERIFY(!isVisible("Dashboard_PrepaidButton") && !isVisible("Dashboard_UssdSmsButton"));
+    QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));
 }
 
 void ModemWindowTest::aModemHasNoPresetsOfAnotherOperator()
@@ -169,15 +173,13 @@ void ModemWindowTest::aModemHasNoPresetsOfAnotherOperator()
     loadPlugin();
     QVERIFY(page().commandEdit()->isVisible());
     QCOMPARE(presets(), 0);
-    QVERIFY(isVisible("Dashboard_GeneralPageButton"));
-    for (const char *button :
-         {"Dashboard_PrepaidButton", "Dashboard_PostpaidButton", "Dashboard_UssdSmsButton"})
-        QVERIFY2(!isVisible(button), button);
+    QCOMPARE(window().controller().windows(), int(SIM_WINDOW_GENERAL));
+    for (const char *action : {"Dashboard_ActionPrepaid", "Dashboard_ActionPostpaid"})
+        QVERIFY2(!part<QAction>(action)->isVisible(), action);
     const QLineEdit *number = window().page()->findChild<QLineEdit *>(
         QLatin1String("USSDUIPlugin_AdvancedDialog_PaymentEdit"));
     QVERIFY(number && !number->isVisible());
-    QTRY_VERIFY2(notice("Dashboard_OperatorNotice").contains(QLatin1String("choose the operator")),
-                 qPrintable(notice("Dashboard_OperatorNotice")));
+    QTRY_VERIFY2(banner().contains(QLatin1String("choose the operator")), qPrintable(banner()));
 }
 
 void ModemWindowTest::aDemonstrationHasItsPresets()
@@ -185,7 +187,7 @@ void ModemWindowTest::aDemonstrationHasItsPresets()
     tell(demonstration());
     loadPlugin();
     QVERIFY(presets() > 5);
-    QVERIFY(isVisible("Dashboard_PrepaidButton"));
+    QVERIFY(part<QAction>("Dashboard_ActionPrepaid")->isVisible());
     QVERIFY(window().operatorCodes().areSample());
 }
 
@@ -254,7 +256,7 @@ void ModemWindowTest::theQueryNeedsTheUser()
     useIntegratorsFolder();
     window().deviceMenu(); // the settings are those of the new window
     if (setting)
-        networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+        window().controller().setDetection(true);
     tell(modemWithSim());
     loadPlugin();
     QVERIFY(waitForSettling());
@@ -263,7 +265,7 @@ void ModemWindowTest::theQueryNeedsTheUser()
 
 void ModemWindowTest::theQueryNeedsTheOperatorsCodes()
 {
-    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    window().controller().setDetection(true);
     tell(modemWithSim());
     loadPlugin();
     QVERIFY(!window().operatorCodes().areOfOperator());
@@ -279,7 +281,7 @@ void ModemWindowTest::theUserSwitchesTheQueryOn()
     QVERIFY(waitForSettling());
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(!settings().detectsPaidType());
-    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    window().controller().setDetection(true);
     QVERIFY(settings().detectsPaidType());
     QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"*103#"});
 }
@@ -303,7 +305,7 @@ void ModemWindowTest::onlyARealReplyIsAVerdict()
                                   fakeNetworkRefusal(), fakeSilence(), fakeRefused(1, 1)};
     useIntegratorsFolder();
     fakeSdkSetAnswer(answers[answer]);
-    networkAction(dashboardText("PAID_DETECT"))->setChecked(true);
+    window().controller().setDetection(true);
     tell(modemWithSim());
     loadPlugin();
     QVERIFY(waitForSettling());

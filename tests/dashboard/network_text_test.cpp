@@ -1,12 +1,12 @@
-#include <QPlainTextEdit>
 #include <QSignalSpy>
 
 #include <cstring>
 
 #include "DeviceTest.h"
+#include "pages/SettingsPage.h"
 #include "plugin/GeneralWindow.h"
 #include "sim/PaidTypeFinder.h"
-#include "window/NetworkTextPanel.h"
+#include "window/MessageParts.h"
 
 using namespace Dashboard;
 
@@ -14,33 +14,40 @@ using namespace Dashboard;
 class NetworkTextTest : public DeviceTest
 {
     Q_OBJECT
+protected:
+    void setUp() override;
+
 private slots:
-    void nothingIsShownBeforeATextCame();
-    void aTextIsShownPlainWithItsTime();
-    void severalTextsStandInOrder();
-    void aTextCannotSteerWhatIsShown();
-    void aCodeReadsFromLeftToRight();
+    void aTextIsCountedAndKept();
+    void readingMakesTheBadgeDisappear();
+    void aTextTakesNoFocus();
     void aLongTextChangesNoSize();
-    void thePanelTakesNoFocus();
-    void aQuestionOpensTheGeneralWindow();
-    void openingTheGeneralWindowEndsNothingOnTheDevice();
+    void aQuestionDoesNotMoveThePage();
+    void goingToTheGeneralWindowEndsNothingOnTheDevice();
     void whatIsBeingTypedStays();
     void anAnswerEndsTheQuestion();
-    void aMenuWithoutItsTextIsSaidInWords();
     void nothingIsAskedWhileAMenuIsOpen();
-    void closingForgetsTheTexts();
+    void deletingAllDeletesTheTexts();
 
 private:
     void say(const char *text, bool waitsForAnswer = false);
-    QString shown() const { return panel()->findChild<QPlainTextEdit *>()->toPlainText(); }
-    NetworkTextPanel *panel() const { return part<NetworkTextPanel>("Dashboard_NetworkTexts"); }
-    bool isAsking() const { return part<QLabel>("Dashboard_NetworkQuestion")->isVisible(); }
+    MessageStore &store() { return window().findChild<MessageParts *>()->store(); }
+    QString unread() const
+    {
+        return part<QPushButton>("Dashboard_NavMessages")->accessibleDescription();
+    }
     GeneralWindow page() { return GeneralWindow(window().page()); }
 };
 
 namespace
 {
 const long long NOON = 1795262400; // 2026-11-21 12:00 UTC
+}
+
+void NetworkTextTest::setUp()
+{
+    DeviceTest::setUp();
+    store().removeAll(); // the messages of an earlier test
 }
 
 void NetworkTextTest::say(const char *text, bool waitsForAnswer)
@@ -50,56 +57,29 @@ void NetworkTextTest::say(const char *text, bool waitsForAnswer)
     drainEvents();
 }
 
-void NetworkTextTest::nothingIsShownBeforeATextCame()
+void NetworkTextTest::aTextIsCountedAndKept()
 {
-    QVERIFY(!panel()->isVisible());
+    QCOMPARE(unread(), QString());
+    say("<b>Offer</b> &amp;\xe2\x80\xaegfed\x1b[31m");
+    QCOMPARE(unread(), QLatin1String("1 unread"));
+    QVERIFY(store().newest().text.startsWith(QLatin1String("<b>Offer</b> &amp;")));
+    QVERIFY(!store().newest().text.contains(QChar(0x202e)));
+    QVERIFY(!store().newest().text.contains(QChar(0x1b)));
+    QCOMPARE(store().newest().receivedAt, QDateTime::fromSecsSinceEpoch(NOON).toLocalTime());
+    QCOMPARE(store().waiting(), 0);
+    say("second");
+    QCOMPARE(unread(), QLatin1String("2 unread"));
 }
 
-void NetworkTextTest::aTextIsShownPlainWithItsTime()
-{
-    say("<b>Offer</b> &amp; <img src='file:///etc/passwd'>");
-    QVERIFY(panel()->isVisible());
-    QVERIFY2(shown().contains(QLatin1String("<b>Offer</b> &amp; <img src='file:///etc/passwd'>")),
-             qPrintable(shown()));
-    const QDateTime noon = QDateTime::fromSecsSinceEpoch(NOON).toLocalTime();
-    QVERIFY(shown().contains(QLocale().toString(noon, QLocale::ShortFormat)));
-    QVERIFY(!isAsking());
-}
-
-void NetworkTextTest::severalTextsStandInOrder()
+void NetworkTextTest::readingMakesTheBadgeDisappear()
 {
     say("first");
-    say("second");
-    QVERIFY(shown().indexOf(QLatin1String("first")) < shown().indexOf(QLatin1String("second")));
-    QVERIFY(shown().contains(QLatin1String("first")));
+    store().markAllRead();
+    QCOMPARE(unread(), QString());
+    QCOMPARE(part<QPushButton>("Dashboard_Bell")->toolTip(), QLatin1String("Messages"));
 }
 
-void NetworkTextTest::aTextCannotSteerWhatIsShown()
-{
-    say("a\xe2\x80\xaegfed\x1b[31m\x07");
-    QVERIFY(!shown().contains(QChar(0x202e)));
-    QVERIFY(!shown().contains(QChar(0x1b)));
-}
-
-void NetworkTextTest::aCodeReadsFromLeftToRight()
-{
-    say("\xd8\xa7\xd8\xb7\xd9\x84\xd8\xa8 *100*12# 5");
-    const QString mark = QString(QChar(0x200e));
-    QVERIFY(shown().contains(mark + QLatin1String("*100*12#") + mark + QLatin1String(" 5")));
-}
-
-void NetworkTextTest::aLongTextChangesNoSize()
-{
-    say("short");
-    const QSize size = window().size();
-    const QSize least = window().minimumSizeHint();
-    say(QByteArray(200000, 'W').constData());
-    QCOMPARE(window().size(), size);
-    QCOMPARE(window().minimumSizeHint(), least);
-    QVERIFY(shown().size() < 20000);
-}
-
-void NetworkTextTest::thePanelTakesNoFocus()
+void NetworkTextTest::aTextTakesNoFocus()
 {
     loadPlugin();
     drainEvents();
@@ -111,22 +91,36 @@ void NetworkTextTest::thePanelTakesNoFocus()
     QCOMPARE(before, edit);
 }
 
-void NetworkTextTest::aQuestionOpensTheGeneralWindow()
+void NetworkTextTest::aLongTextChangesNoSize()
 {
-    loadPlugin();
-    window().showPage(false);
-    QVERIFY(!page().commandEdit()->isVisible());
-    say("A gigabyte?\n1 Yes", true);
-    QVERIFY(page().commandEdit()->isVisible());
-    QVERIFY(isAsking());
+    say("short");
+    const QSize size = window().size();
+    const QSize least = window().minimumSizeHint();
+    say(QByteArray(200000, 'W').constData());
+    QCOMPARE(window().size(), size);
+    QCOMPARE(window().minimumSizeHint(), least);
+    QVERIFY(store().newest().text.size() < 20000);
 }
 
-void NetworkTextTest::openingTheGeneralWindowEndsNothingOnTheDevice()
+void NetworkTextTest::aQuestionDoesNotMoveThePage()
 {
     loadPlugin();
-    window().showPage(false);
+    window().showPage(PageId::Home);
+    say("A gigabyte?\n1 Yes", true);
+    QCOMPARE(int(window().currentPage()), int(PageId::Home));
+    QVERIFY(!page().commandEdit()->isVisible());
+    QVERIFY(store().waiting() != 0);
+    QCOMPARE(unread(), QLatin1String("1 unread"));
+}
+
+void NetworkTextTest::goingToTheGeneralWindowEndsNothingOnTheDevice()
+{
+    loadPlugin();
+    window().showPage(PageId::Home);
     fakeSdkForgetRecords();
     say("A gigabyte?\n1 Yes", true);
+    window().showPage(PageId::Codes);
+    QVERIFY(page().commandEdit()->isVisible());
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());
     QVERIFY(page().send(QLatin1String("1")));
     QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"1"});
@@ -145,17 +139,10 @@ void NetworkTextTest::anAnswerEndsTheQuestion()
 {
     loadPlugin();
     say("A gigabyte?\n1 Yes", true);
-    QVERIFY(isAsking());
+    QVERIFY(store().waiting() != 0);
     QVERIFY(page().send(QLatin1String("1")));
-    QTRY_VERIFY(!isAsking());
-    QVERIFY(panel()->isVisible());
-}
-
-void NetworkTextTest::aMenuWithoutItsTextIsSaidInWords()
-{
-    say("", true);
-    QVERIFY2(shown().contains(QLatin1String("menu is still open")), qPrintable(shown()));
-    QVERIFY(isAsking());
+    QTRY_COMPARE(store().waiting(), 0);
+    QVERIFY(!store().newest().text.isEmpty());
 }
 
 // The request that detects the paid type would close the menu.
@@ -174,13 +161,12 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());
 }
 
-void NetworkTextTest::closingForgetsTheTexts()
+void NetworkTextTest::deletingAllDeletesTheTexts()
 {
     say("secret");
-    QTest::mouseClick(part<QPushButton>("Dashboard_CloseNetworkTexts"), Qt::LeftButton);
-    QVERIFY(!panel()->isVisible());
-    say("other");
-    QVERIFY(!shown().contains(QLatin1String("secret")));
+    emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
+    QCOMPARE(unread(), QString());
+    QVERIFY(store().newest().text.isEmpty());
 }
 
 USSD_TEST_MAIN(NetworkTextTest)

@@ -9,8 +9,7 @@
 #include "PluginFolderChoice.h"
 #include "sim/OperatorCodes.h"
 #include "SimTest.h"
-#include "window/DeviceMenu.h"
-#include "window/NoticeBar.h"
+#include "window/OperatorChooser.h"
 
 using namespace Dashboard;
 
@@ -60,8 +59,10 @@ private slots:
 private:
     void offerOperators();
     void useSim(const char *homeNetwork, const char *name = "Other");
-    QString notice() const;
-    void take() { QTest::mouseClick(button("Dashboard_OperatorTake"), Qt::LeftButton); }
+    QString notice() { return chooser()->proposal(); }
+    OperatorChooser *chooser() { return window().findChild<OperatorChooser *>(); }
+    void take() { chooser()->accept(); }
+    void openChooser() { action("Dashboard_ActionOperator")->trigger(); }
     void choose(const QString &name);
     QString inUse() { return window().operatorCodes().operatorInUse(); }
     QString configuration() const;
@@ -95,13 +96,6 @@ void OperatorCodesTest::useSim(const char *homeNetwork, const char *name)
                             homeNetwork + "\n[*511#]\nReply=Alone has 5.00.\n";
     QVERIFY(window().useScenario(writeFile(QLatin1String("sim.scenario"), text)));
     drainEvents();
-}
-
-QString OperatorCodesTest::notice() const
-{
-    const NoticeBar *bar = const_cast<OperatorCodesTest *>(this)->window().findChild<NoticeBar *>(
-        QLatin1String("Dashboard_OperatorNotice"));
-    return bar->isVisible() ? bar->text() : QString();
 }
 
 void OperatorCodesTest::choose(const QString &name)
@@ -153,7 +147,7 @@ void OperatorCodesTest::oneThatFitsIsProposedAndTaken()
     take();
     QCOMPARE(inUse(), QLatin1String("Alone"));
     QTRY_VERIFY2(offered().contains(QLatin1String("prepaid")), qPrintable(offered()));
-    QVERIFY(notice().contains(QLatin1String("Alone are in use")));
+    QVERIFY(notice().isEmpty());
     window().openFrame(0);
     QTRY_VERIFY(frame());
     const QList<QTextEdit *> boxes = frame()->findChildren<QTextEdit *>();
@@ -186,7 +180,7 @@ void OperatorCodesTest::whoIsAskedChoosesOne()
     take();
     choose(QLatin1String("Second"));
     QCOMPARE(inUse(), QLatin1String("Second"));
-    QVERIFY(notice().contains(QLatin1String("Second")));
+    QVERIFY(notice().isEmpty());
 }
 
 void OperatorCodesTest::anOperatorWithoutCodesIsNotProposed()
@@ -254,10 +248,10 @@ void OperatorCodesTest::eachNetworkHasItsOwnCodes()
 void OperatorCodesTest::theChoiceCanBeChangedInTheMenu()
 {
     useSim(SEVERAL);
-    QTest::mouseClick(button("Dashboard_OperatorNo"), Qt::LeftButton);
+    chooser()->decline();
     QCOMPARE(notice(), QString());
     for (const char *name : {"First", "Second"}) {
-        window().deviceMenu()->actions().last()->trigger();
+        openChooser();
         choose(QLatin1String(name));
         QCOMPARE(inUse(), QLatin1String(name));
     }
@@ -267,7 +261,7 @@ void OperatorCodesTest::theShippedCodesCanBeChosenAgain()
 {
     useSim(ALONE, "Alone");
     take();
-    window().deviceMenu()->actions().last()->trigger();
+    openChooser();
     choose(QLatin1String("The codes of the demonstration"));
     QCOMPARE(inUse(), QString());
     QCOMPARE(HostCore::PluginFolderChoice::current(), HostCore::PluginFolderChoice::installed());
@@ -280,7 +274,7 @@ void OperatorCodesTest::whatAPersonChangedIsNotTakenAway()
     take();
     choose(QLatin1String("First"));
     const QString file = changedFile();
-    window().deviceMenu()->actions().last()->trigger();
+    openChooser();
     answerBox(false);
     choose(QLatin1String("Second"));
     QTRY_VERIFY2(m_asked.contains(QLatin1String("USSDPluginConfig.xml")), qPrintable(m_asked));
@@ -294,7 +288,7 @@ void OperatorCodesTest::whatAPersonChangedIsKeptWhenSetAside()
     take();
     choose(QLatin1String("First"));
     const QString kept = QFileInfo(changedFile()).canonicalFilePath();
-    window().deviceMenu()->actions().last()->trigger();
+    openChooser();
     answerBox(true);
     choose(QLatin1String("Second"));
     QTRY_COMPARE(inUse(), QLatin1String("Second"));
@@ -310,7 +304,7 @@ void OperatorCodesTest::aFolderChosenOutsideStays()
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());
     answerBox(true);
-    window().deviceMenu()->actions().last()->trigger();
+    openChooser();
     QVERIFY2(m_asked.contains(QLatin1String("USSD_PLUGIN_LIBRARY_PATH")), qPrintable(m_asked));
 }
 
@@ -323,7 +317,7 @@ void OperatorCodesTest::anUnreadableDatabaseProposesNothing()
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());
     answerBox(true);
-    window().deviceMenu()->actions().last()->trigger();
+    openChooser();
     QVERIFY2(m_asked.contains(QLatin1String("mobile-broadband-provider-info")),
              qPrintable(m_asked));
 }

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 
 #include "DeviceTest.h"
+#include "look/Controls.h"
 #include "window/PinDialog.h"
 
 using namespace Dashboard;
@@ -16,6 +17,7 @@ private slots:
     void onlyALockedSimHasTheButton();
     void aSimThatNeedsItsPukHasNoButton();
     void thePinIsHiddenAndTakesDigitsOnly();
+    void theEyeShowsThePinUntilItIsSent();
     void onlyFourToEightDigitsAreSent_data();
     void onlyFourToEightDigitsAreSent();
     void returnSendsAndTheFieldForgets();
@@ -73,6 +75,15 @@ void PinDialogTest::thePinIsHiddenAndTakesDigitsOnly()
     QTest::keyClicks(edit(), QLatin1String("1a2*3#4567890"));
     QCOMPARE(edit()->text(), QLatin1String("12345678"));
     QVERIFY(!edit()->displayText().contains(QLatin1Char('1')));
+}
+
+void PinDialogTest::theEyeShowsThePinUntilItIsSent()
+{
+    QTest::keyClicks(edit(), QLatin1String("2468"));
+    QTest::mouseClick(part<QPushButton>("Dashboard_PinEye"), Qt::LeftButton);
+    QCOMPARE(edit()->displayText(), QLatin1String("2468"));
+    QTest::keyClick(edit(), Qt::Key_Return);
+    QCOMPARE(edit()->echoMode(), QLineEdit::Password);
 }
 
 void PinDialogTest::onlyFourToEightDigitsAreSent_data()
@@ -134,7 +145,8 @@ void PinDialogTest::aWrongPinIsSaidAndTheDialogStays()
     tell(modemInfo(TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_WRONG_PIN, 2));
     QVERIFY(dialog()->isVisible());
     QVERIFY2(said().contains(QLatin1String("not the PIN")), qPrintable(said()));
-    QVERIFY(part<QLabel>("Dashboard_PinTries")->text().contains(QLatin1Char('2')));
+    QCOMPARE(part<Chip>("Dashboard_PinTriesChip")->text(), QLatin1String("2 tries left"));
+    QVERIFY(!part<QLabel>("Dashboard_PinTries")->isVisible());
     QVERIFY(edit()->isEnabled());
     QTest::keyClicks(edit(), QLatin1String("2468"));
     QTest::keyClick(edit(), Qt::Key_Return);
@@ -146,8 +158,9 @@ void PinDialogTest::theLastTryIsWarnedOf()
     tell(modemInfo(TKSV_DEVICE_SIM_LOCKED, TKSV_PROBLEM_WRONG_PIN, 1));
     const QLabel *tries = part<QLabel>("Dashboard_PinTries");
     QVERIFY(tries->isVisible());
-    QVERIFY(tries->text().contains(QLatin1String("last try")));
-    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("last try")));
+    QVERIFY(tries->text().contains(QLatin1String("One try is left")));
+    QCOMPARE(part<Chip>("Dashboard_PinTriesChip")->text(), QLatin1String("1 try left"));
+    QVERIFY(notice("Dashboard_DeviceNotice").contains(QLatin1String("One try is left")));
 }
 
 void PinDialogTest::thePukEndsTheTrying()

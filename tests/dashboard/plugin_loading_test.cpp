@@ -6,6 +6,8 @@
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 
+#include <QDir>
+
 using namespace Dashboard;
 
 Q_DECLARE_METATYPE(PluginFailure::Step)
@@ -42,6 +44,7 @@ protected:
 
 private slots:
     void theInstalledPluginLoads();
+    void anOperatorsFolderTakesTheInstalledLibrary();
     void aMissingFileIsSaid();
     void aFolderIsNoFile();
     void aTextFileIsNoLibrary();
@@ -91,6 +94,21 @@ void PluginLoadingTest::theInstalledPluginLoads()
     QVERIFY(plugin.isUsable());
     QCOMPARE(plugin.plugin()->GetPluginName(), QLatin1String("USSDUIPluginImpl"));
     QVERIFY(failure.text().isEmpty());
+}
+
+/// An operator's folder needs no library. A folder without the plug-in's files is a mistake.
+void PluginLoadingTest::anOperatorsFolderTakesTheInstalledLibrary()
+{
+    const QString shipped = LoadedPlugin::installedFile();
+    const QString own = folder() + QLatin1String("/plugins/USSDUIPlugin/libUSSDUIPlugin.so");
+    qputenv("USSD_PLUGIN_LIBRARY_PATH", QFile::encodeName(folder()));
+    QCOMPARE(LoadedPlugin::installedFile(), own);
+    QVERIFY(QDir(folder()).mkpath(QLatin1String("plugins/USSDUIPlugin")));
+    writeFile(QLatin1String("plugins/USSDUIPlugin/USSDPluginConfig.xml"), "<ussdPlugin/>");
+    QCOMPARE(LoadedPlugin::installedFile(), shipped);
+    writeFile(QLatin1String("plugins/USSDUIPlugin/libUSSDUIPlugin.so"), "");
+    QCOMPARE(LoadedPlugin::installedFile(), own);
+    qunsetenv("USSD_PLUGIN_LIBRARY_PATH");
 }
 
 void PluginLoadingTest::aMissingFileIsSaid()

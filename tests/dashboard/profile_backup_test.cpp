@@ -68,17 +68,17 @@ private slots:
     void forgettingDeletesTheCopy();
     void theUsersFoldersAreUsed();
 
-    void nothingIsAskedWhileTheFileIsThere();
-    void yesRestores();
-    void noForgetsTheCopy();
-    void escapeAsksAgainNextTime();
-    void theQuestionIsPlainText();
+    void nothingIsOfferedWhileTheFileIsThere();
+    void theOfferRestores_data();
+    void theOfferRestores();
+    void theCopyCanBeDeletedInstead();
+    void anOfferThatIsLeftComesAgain();
+    void whatIsSavedMeanwhileDoesNotReplaceTheOfferedCopy();
     void aRestoreThatFailsIsSaid();
     void whatTheEditorSavesIsCopied();
 
 private:
-    void answer(const char *buttonStart);
-    void startAndAnswer(const char *buttonStart);
+    void confirm();
     bool write(const QByteArray &content) { return writeTo(m_file, content); }
     bool writeCopy(const QByteArray &content) { return writeTo(m_copy, content); }
     bool writeTo(const QString &path, const QByteArray &content);
@@ -87,9 +87,6 @@ private:
     QString m_file;
     QString m_copy;
     QScopedPointer<ProfileBackup> m_backup;
-    QString m_question;
-    Qt::TextFormat m_format = Qt::AutoText;
-    int m_boxes = 0;
 };
 
 void ProfileBackupTest::setUp()
@@ -99,8 +96,6 @@ void ProfileBackupTest::setUp()
     m_copy = folder() + QLatin1String("/own/deep/ussdprofile.xml");
     m_backup.reset(new ProfileBackup(
         m_file, folder() + QLatin1String("/user/userdata/ussdprofile.xml"), m_copy));
-    m_boxes = 0;
-    m_question.clear();
 }
 
 bool ProfileBackupTest::writeTo(const QString &path, const QByteArray &content)
@@ -311,99 +306,100 @@ void ProfileBackupTest::theUsersFoldersAreUsed()
     QCOMPARE(backup.copy(), folder() + QLatin1String("/ussd-dashboard/last-good/ussdprofile.xml"));
 }
 
-/// Answers the next message box with the button whose text begins with `buttonStart`, or with
-/// Escape if `buttonStart` is null.
-void ProfileBackupTest::answer(const char *buttonStart)
-{
-    QTimer::singleShot(0, this, [this, buttonStart] {
-        QMessageBox *box = openBox();
-        if (!box)
-            return;
-        ++m_boxes;
-        m_question = box->text();
-        m_format = box->textFormat();
-        for (QAbstractButton *button : box->buttons()) {
-            if (buttonStart && button->text().startsWith(QLatin1String(buttonStart)))
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-        QTest::keyClick(box, Qt::Key_Escape);
-    });
-}
-
-void ProfileBackupTest::startAndAnswer(const char *buttonStart)
-{
-    ProfileKeeper keeper(*m_backup);
-    QSignalSpy ready(&keeper, SIGNAL(ready()));
-    answer(buttonStart);
-    keeper.start();
-    QCOMPARE(ready.count(), 1);
-    drainEvents();
-}
-
-void ProfileBackupTest::nothingIsAskedWhileTheFileIsThere()
+void ProfileBackupTest::nothingIsOfferedWhileTheFileIsThere()
 {
     QVERIFY(write(GOOD));
-    startAndAnswer("&Yes");
-    QCOMPARE(m_boxes, 0);
+    ProfileKeeper keeper(*m_backup);
+    keeper.start();
+    QCOMPARE(keeper.offer(), QString());
     QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+    keeper.restore();
+    QCOMPARE(contentOf(m_file), QByteArray(GOOD));
 }
 
-void ProfileBackupTest::yesRestores()
+void ProfileBackupTest::theOfferRestores_data()
 {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("offer");
+    QTest::newRow("lost") << QByteArray() << QString::fromLatin1("has gone");
+    QTest::newRow("damaged") << QByteArray(CUT_OFF) << QString::fromLatin1("incomplete");
+}
+
+void ProfileBackupTest::theOfferRestores()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, offer);
     QVERIFY(writeCopy(GOOD));
     QVERIFY(QDir().mkpath(QFileInfo(m_file).path()));
-    startAndAnswer("&Yes");
-    QCOMPARE(m_boxes, 1);
+    QVERIFY(content.isEmpty() || write(content));
+    ProfileKeeper keeper(*m_backup);
+    QSignalSpy restored(&keeper, &ProfileKeeper::restored);
+    keeper.start();
+    QVERIFY2(keeper.offer().contains(offer), qPrintable(keeper.offer()));
+    QVERIFY2(!keeper.offer().contains(QLatin1Char('%')), qPrintable(keeper.offer()));
+    QCOMPARE(restored.count(), 0);
+    keeper.restore();
+    QCOMPARE(restored.count(), 1);
+    QCOMPARE(keeper.offer(), QString());
     QCOMPARE(contentOf(m_file), QByteArray(GOOD));
     QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
 }
 
-void ProfileBackupTest::noForgetsTheCopy()
+void ProfileBackupTest::theCopyCanBeDeletedInstead()
 {
     QVERIFY(writeCopy(GOOD));
-    startAndAnswer("&No");
+    ProfileKeeper keeper(*m_backup);
+    keeper.start();
+    keeper.forget();
     QVERIFY(!QFile::exists(m_copy));
     QVERIFY(!QFile::exists(m_file));
-    startAndAnswer("&No");
-    QCOMPARE(m_boxes, 1);
+    QCOMPARE(keeper.offer(), QString());
 }
 
-void ProfileBackupTest::escapeAsksAgainNextTime()
+void ProfileBackupTest::anOfferThatIsLeftComesAgain()
 {
     QVERIFY(writeCopy(GOOD));
-    startAndAnswer(nullptr);
+    for (int start = 0; start < 2; ++start) {
+        ProfileKeeper keeper(*m_backup);
+        keeper.start();
+        QVERIFY(!keeper.offer().isEmpty());
+    }
     QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
     QVERIFY(!QFile::exists(m_file));
-    startAndAnswer(nullptr);
-    QCOMPARE(m_boxes, 2);
 }
 
-void ProfileBackupTest::theQuestionIsPlainText()
+void ProfileBackupTest::whatIsSavedMeanwhileDoesNotReplaceTheOfferedCopy()
 {
     QVERIFY(writeCopy(GOOD));
-    startAndAnswer(nullptr);
-    QCOMPARE(m_format, Qt::PlainText);
-    QVERIFY2(m_question.contains(m_file), qPrintable(m_question));
-    QVERIFY2(!m_question.contains(QLatin1Char('%')), qPrintable(m_question));
+    ProfileKeeper keeper(*m_backup);
+    keeper.start();
+    QVERIFY(write(NEWER));
+    keeper.refresh();
+    QCOMPARE(contentOf(m_copy), QByteArray(GOOD));
+    keeper.forget();
+    QCOMPARE(contentOf(m_copy), QByteArray(NEWER));
 }
 
 void ProfileBackupTest::aRestoreThatFailsIsSaid()
 {
     QVERIFY(writeCopy(GOOD));
     writeFile(QLatin1String("user"), "a file where the folder should be");
-    QStringList boxTexts;
-    QTimer watch;
-    connect(&watch, &QTimer::timeout, this, [&] {
-        QMessageBox *box = openBox();
-        if (!box)
-            return;
-        boxTexts << box->text();
-        QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
+    ProfileKeeper keeper(*m_backup);
+    QSignalSpy problem(&keeper, &ProfileKeeper::problem);
+    keeper.start();
+    keeper.restore();
+    QCOMPARE(problem.count(), 1);
+    QVERIFY(problem.first().first().toString().contains(m_copy));
+    QVERIFY(!keeper.offer().isEmpty());
+}
+
+/// Confirms the next message box.
+void ProfileBackupTest::confirm()
+{
+    QTimer::singleShot(0, this, [] {
+        if (QMessageBox *box = openBox())
+            QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
     });
-    watch.start(1);
-    ProfileKeeper(*m_backup).start();
-    QCOMPARE(boxTexts.size(), 2);
-    QVERIFY2(boxTexts.at(1).contains(m_copy), qPrintable(boxTexts.at(1)));
 }
 
 /// Enters a code in the first empty row of the editor and saves.
@@ -417,7 +413,7 @@ void ProfileBackupTest::typeCode()
         ++row;
     table->setItem(row, 0, new QTableWidgetItem(QLatin1String("Mine")));
     table->setItem(row, 1, new QTableWidgetItem(QLatin1String("*777#")));
-    answer("&Yes");
+    confirm();
     table->window()
         ->findChild<QPushButton *>(QLatin1String("USSDUIPlugin_ProfileDialog_SaveButton"))
         ->click();
@@ -428,7 +424,7 @@ void ProfileBackupTest::whatTheEditorSavesIsCopied()
     const ProfileBackup backup(m_library->userProfileFile(), QString(), m_copy);
     openDashboard();
     ProfileKeeper keeper(backup);
-    connect(&window(), SIGNAL(frameClosed()), &keeper, SLOT(refresh()));
+    window().setProfiles(&keeper);
     QPushButton *edit = window().page()->findChild<QPushButton *>(
         QLatin1String("USSDUIPlugin_AdvancedDialog_EditButton"));
     QVERIFY(edit);

@@ -31,6 +31,15 @@ private slots:
     void onlyTheUserCanReadTheFile();
     void aFileThatOthersCouldReadIsClosed();
     void readingLeavesNoFile();
+    void theDefaultsAreCareful();
+    void everySettingIsRemembered();
+    void aBadValueIsTheDefault_data();
+    void aBadValueIsTheDefault();
+    void anAmountIsADecimalNumber_data();
+    void anAmountIsADecimalNumber();
+
+private:
+    static void writeSettings(const QByteArray &lines);
 };
 
 void SettingsTest::nothingIsRememberedAtFirst()
@@ -76,14 +85,18 @@ void SettingsTest::everyChoiceOfADeviceIsRemembered()
     QCOMPARE(DashboardSettings().device().word(), word);
 }
 
-void SettingsTest::aFileOfOldHasAScenarioAlone()
+void SettingsTest::writeSettings(const QByteArray &lines)
 {
     const QString name = DashboardSettings().file();
     QDir().mkpath(QFileInfo(name).path());
     QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\nscenario=/a/old.scenario\n");
-    file.close();
+    file.write("[General]\n" + lines);
+}
+
+void SettingsTest::aFileOfOldHasAScenarioAlone()
+{
+    writeSettings("scenario=/a/old.scenario\n");
     QCOMPARE(DashboardSettings().device().word(), QLatin1String("simulated:/a/old.scenario"));
     DashboardSettings().setDevice(DeviceChoice::automatic());
     QCOMPARE(DashboardSettings().device().word(), QLatin1String("automatic"));
@@ -122,6 +135,84 @@ void SettingsTest::readingLeavesNoFile()
 {
     QVERIFY(DashboardSettings().language().isEmpty());
     QVERIFY(!QFile::exists(DashboardSettings().file()));
+}
+
+void SettingsTest::theDefaultsAreCareful()
+{
+    const DashboardSettings settings;
+    QCOMPARE(settings.theme(), QLatin1String("system"));
+    QCOMPARE(settings.textSize(), 100);
+    QVERIFY(!settings.reducesMotion());
+    QVERIFY(settings.notifiesMessages());
+    QVERIFY(!settings.showsTextInNotifications());
+    QVERIFY(settings.lowBalance().isEmpty());
+    QVERIFY(settings.hidesSimNumber());
+    QVERIFY(settings.keepsHistory());
+    QVERIFY(!settings.isFirstRunDone());
+}
+
+void SettingsTest::everySettingIsRemembered()
+{
+    {
+        DashboardSettings settings;
+        settings.setTheme(QLatin1String("dark"));
+        settings.setTextSize(150);
+        settings.setReducesMotion(true);
+        settings.setNotifiesMessages(false);
+        settings.setShowsTextInNotifications(true);
+        settings.setLowBalance(QLatin1String("5.00"));
+        settings.setHidesSimNumber(false);
+        settings.setKeepsHistory(false);
+        settings.setFirstRunDone(true);
+    }
+    const DashboardSettings settings;
+    QCOMPARE(settings.theme(), QLatin1String("dark"));
+    QCOMPARE(settings.textSize(), 150);
+    QVERIFY(settings.reducesMotion());
+    QVERIFY(!settings.notifiesMessages());
+    QVERIFY(settings.showsTextInNotifications());
+    QCOMPARE(settings.lowBalance(), QLatin1String("5.00"));
+    QVERIFY(!settings.hidesSimNumber());
+    QVERIFY(!settings.keepsHistory());
+    QVERIFY(settings.isFirstRunDone());
+}
+
+void SettingsTest::aBadValueIsTheDefault_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    for (const char *value : {"", "maybe", "-1", "175", "100 %", "2", "a, b", "@Invalid()"})
+        QTest::newRow(value) << QByteArray(value);
+}
+
+void SettingsTest::aBadValueIsTheDefault()
+{
+    QFETCH(QByteArray, value);
+    QByteArray lines;
+    for (const char *key :
+         {"theme", "text-size", "reduce-motion", "notify-messages", "show-text-in-notifications",
+          "hide-sim-number", "keep-history", "first-run-done"})
+        lines += key + QByteArray("=") + value + "\n";
+    writeSettings(lines);
+    theDefaultsAreCareful();
+}
+
+void SettingsTest::anAmountIsADecimalNumber_data()
+{
+    QTest::addColumn<QString>("amount");
+    QTest::addColumn<bool>("isAmount");
+    for (const char *amount : {"0", "5", "5.00", "12.5"})
+        QTest::newRow(amount) << QString::fromLatin1(amount) << true;
+    for (const char *amount : {"", "-5", "+5", "5,00", "5.", ".5", "1.2.3", "5 EUR", "five"})
+        QTest::newRow(amount) << QString::fromLatin1(amount) << false;
+}
+
+void SettingsTest::anAmountIsADecimalNumber()
+{
+    QFETCH(QString, amount);
+    QFETCH(bool, isAmount);
+    DashboardSettings settings;
+    settings.setLowBalance(amount);
+    QCOMPARE(settings.lowBalance(), isAmount ? amount : QString());
 }
 
 USSD_TEST_MAIN(SettingsTest)

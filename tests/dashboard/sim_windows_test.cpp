@@ -56,11 +56,12 @@ private slots:
     void theSameSimClosesNothing();
     void aDeviceThatWasAwayClosesNothing();
     void aSimThatIsRemovedIsNoticed();
-    void eachButtonOpensItsWindow_data();
-    void eachButtonOpensItsWindow();
+    void eachActionOpensItsWindow_data();
+    void eachActionOpensItsWindow();
 
 private:
-    void openFrame(const char *buttonName);
+    void openFrame(const char *actionName);
+    QString simText();
 };
 
 void SimWindowsTest::theSetOfWindows_data()
@@ -161,24 +162,32 @@ void SimWindowsTest::anotherSimIsOfferedItsWindowsAtOnce()
     QCOMPARE(offered(), QLatin1String("general framed postpaid services"));
 }
 
-void SimWindowsTest::openFrame(const char *buttonName)
+void SimWindowsTest::openFrame(const char *actionName)
 {
-    QTest::mouseClick(button(buttonName), Qt::LeftButton);
+    if (QAction *found = action(actionName))
+        found->trigger();
+    else
+        window().openServicesWindow(-1);
     QTRY_VERIFY(frame());
+}
+
+QString SimWindowsTest::simText()
+{
+    return window().findChild<QLabel *>(QLatin1String("Dashboard_Sim"))->text();
 }
 
 void SimWindowsTest::anotherSimClosesTheFrames_data()
 {
-    QTest::addColumn<QByteArray>("buttonName");
-    QTest::newRow("general") << QByteArray("Dashboard_GeneralFrameButton");
-    QTest::newRow("prepaid") << QByteArray("Dashboard_PrepaidButton");
+    QTest::addColumn<QByteArray>("actionName");
+    QTest::newRow("general") << QByteArray("Dashboard_ActionGeneral");
+    QTest::newRow("prepaid") << QByteArray("Dashboard_ActionPrepaid");
 }
 
 void SimWindowsTest::anotherSimClosesTheFrames()
 {
-    QFETCH(QByteArray, buttonName);
+    QFETCH(QByteArray, actionName);
     openDashboard();
-    openFrame(buttonName.constData());
+    openFrame(actionName.constData());
     useNetwork("001020000000001");
     QTRY_VERIFY(!frame());
 }
@@ -187,7 +196,7 @@ void SimWindowsTest::anotherSimWithoutTheMatchClosesNothing()
 {
     QVERIFY(configure("<autoUSSD", "valid=\"true\"", "valid=\"false\""));
     openDashboard();
-    openFrame("Dashboard_GeneralFrameButton");
+    openFrame("Dashboard_ActionGeneral");
     useNetwork("001020000000001");
     drainEvents();
     QVERIFY(frame());
@@ -196,7 +205,7 @@ void SimWindowsTest::anotherSimWithoutTheMatchClosesNothing()
 void SimWindowsTest::theSameSimClosesNothing()
 {
     openDashboard();
-    openFrame("Dashboard_GeneralFrameButton");
+    openFrame("Dashboard_ActionGeneral");
     useNetwork("001010000000007", "Signal=3");
     drainEvents();
     QVERIFY(frame());
@@ -206,12 +215,11 @@ void SimWindowsTest::aDeviceThatWasAwayClosesNothing()
 {
     useNetwork("001010000000007", "Signal=3", ABSENT_FOR_A_MOMENT);
     openDashboard();
-    const QLabel *sim = window().findChild<QLabel *>(QLatin1String("Dashboard_Sim"));
-    openFrame("Dashboard_GeneralFrameButton");
-    QTRY_VERIFY(!sim->text().contains(QLatin1String("001010000000007")));
+    openFrame("Dashboard_ActionGeneral");
+    QTRY_VERIFY(!simText().contains(QLatin1String("0007")));
     QVERIFY(frame());
     QCOMPARE(offered(), QLatin1String("general framed prepaid services"));
-    QTRY_VERIFY(sim->text().contains(QLatin1String("001010000000007")));
+    QTRY_VERIFY(simText().contains(QLatin1String("0007")));
     QVERIFY(frame());
 }
 
@@ -219,32 +227,32 @@ void SimWindowsTest::aSimThatIsRemovedIsNoticed()
 {
     useNetwork("001010000000007", "Signal=3", "[Event out]\nAfter=100\nState=sim-missing\n");
     openDashboard();
-    openFrame("Dashboard_GeneralFrameButton");
+    openFrame("Dashboard_ActionGeneral");
     QTRY_VERIFY(!frame());
     QCOMPARE(offered(), QLatin1String("general framed services"));
 }
 
-void SimWindowsTest::eachButtonOpensItsWindow_data()
+void SimWindowsTest::eachActionOpensItsWindow_data()
 {
-    QTest::addColumn<QByteArray>("buttonName");
+    QTest::addColumn<QByteArray>("actionName");
     QTest::addColumn<QString>("widget");
-    QTest::newRow("general") << QByteArray("Dashboard_GeneralFrameButton")
+    QTest::newRow("general") << QByteArray("Dashboard_ActionGeneral")
                              << QString::fromLatin1("USSDUIPlugin_AdvancedDialog_SendButton");
-    QTest::newRow("prepaid") << QByteArray("Dashboard_PrepaidButton")
+    QTest::newRow("prepaid") << QByteArray("Dashboard_ActionPrepaid")
                              << QString::fromLatin1("USSDUIPlugin_Pre_PostPaid");
-    QTest::newRow("postpaid") << QByteArray("Dashboard_PostpaidButton")
+    QTest::newRow("postpaid") << QByteArray("Dashboard_ActionPostpaid")
                               << QString::fromLatin1("USSDUIPlugin_Pre_PostPaid");
-    QTest::newRow("services") << QByteArray("Dashboard_UssdSmsButton")
+    QTest::newRow("services") << QByteArray("no action: on the page of services")
                               << QString::fromLatin1("USSDUIPlugin_SMSDialog");
 }
 
-void SimWindowsTest::eachButtonOpensItsWindow()
+void SimWindowsTest::eachActionOpensItsWindow()
 {
-    QFETCH(QByteArray, buttonName);
+    QFETCH(QByteArray, actionName);
     QFETCH(QString, widget);
     QVERIFY(configure("<autoUSSD", "valid=\"true\"", "valid=\"false\""));
     openDashboard();
-    openFrame(buttonName.constData());
+    openFrame(actionName.constData());
     QWidget *found = frame()->findChild<QWidget *>(widget);
     QVERIFY(found);
     QVERIFY(found->isVisible());

@@ -71,7 +71,7 @@ void TextsTest::theHelpNamesEveryOption()
         QVERIFY(HostCore::Languages::setCurrent(code));
         const QString help = dashboardText("CLI_HELP");
         for (const char *option :
-             {"--send", "--tour", "--demo", "--scenario", "--modem", "--enable",
+             {"--send", "--tour", "--export", "--demo", "--scenario", "--modem", "--enable",
               "--end-foreign-session", "--language", "--verbose", "--log", "--help", "--version"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }

@@ -1,8 +1,10 @@
 #include "FakeSdk.h"
 
 #include <algorithm>
+#include <codecvt>
 #include <cstring>
 #include <future>
+#include <locale>
 
 struct TKSV_SMSRecordData {
     int unused;
@@ -12,6 +14,14 @@ namespace
 {
 const std::chrono::milliseconds STARTING_LINE_PATIENCE(1000);
 const std::chrono::milliseconds BEFORE_RETURN_PATIENCE(500);
+
+// True on a thread that is delivering a message of the network that answers no request.
+thread_local bool isNetworkInitiated = false;
+
+std::string utf8Of(const std::u16string &text)
+{
+    return std::wstring_convert<std::codecvt_utf8_utf16<char16_t>, char16_t>().to_bytes(text);
+}
 
 // Makes several threads continue at the same moment.
 class StartingLine
@@ -280,10 +290,51 @@ void FakeSdk::respondFromThreads(const FakeAnswer &answer)
 
 void FakeSdk::respond(const FakeAnswer &answer)
 {
+    isNetworkInitiated = session().state != TKSV_SESSION_IN_FLIGHT;
+    const bool isMenu = answer.type == 1;
+    setSessionState(isMenu ? TKSV_SESSION_WAITS_FOR_ANSWER : TKSV_SESSION_IDLE);
     for (int i = 0; i < answer.times; ++i) {
         FakeResponse response(answer.type, answer.text);
         m_ussd.deliver(0, answer.nullData ? nullptr : response.data());
     }
+    isNetworkInitiated = false;
+}
+
+void FakeSdk::startSession(const std::u16string &request)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        TKSV_SessionInfo &session = m_settings.session;
+        session.state = TKSV_SESSION_IN_FLIGHT;
+        ++session.requestCount;
+        const std::string text = utf8Of(request).substr(0, sizeof session.request - 1);
+        std::memcpy(session.request, text.c_str(), text.size() + 1);
+    }
+    tellSession();
+}
+
+void FakeSdk::setSessionState(TKSV_SessionState state)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_settings.session.state = state;
+    }
+    tellSession();
+}
+
+TKSV_SessionInfo FakeSdk::session() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    TKSV_SessionInfo session = m_settings.session;
+    if (isNetworkInitiated)
+        session.request[0] = 0;
+    return session;
+}
+
+void FakeSdk::tellSession()
+{
+    if (m_hasInfoCallback)
+        m_device.post([this] { tellInfo(); });
 }
 
 // ---- device ------------------------------------------------------------------------------------
@@ -307,6 +358,7 @@ void FakeSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
 {
     const std::lock_guard<std::mutex> lock(m_infoMutex);
     m_infoCallback = callback;
+    m_hasInfoCallback = callback != nullptr;
     m_infoContext = context;
 }
 

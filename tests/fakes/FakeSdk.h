@@ -4,6 +4,7 @@
 #include "FakeDispatcher.h"
 #include "FakeRecords.h"
 
+#include <atomic>
 #include <memory>
 #include <set>
 
@@ -44,6 +45,10 @@ public:
     void answer(const FakeAnswer &answer);
     void respond(const FakeAnswer &answer);
 
+    void startSession(const std::u16string &request);
+    void setSessionState(TKSV_SessionState state);
+    TKSV_SessionInfo session() const;
+
     // ---- device
     void setDeviceInfo(const TKSV_DeviceInfo &info);
     TKSV_DeviceInfo deviceInfo() const;
@@ -81,6 +86,7 @@ private:
         TKSV_DeviceInfo info{};
         std::vector<TKSV_Modem> modems;
         TKSV_FailureInfo lastFailure{};
+        TKSV_SessionInfo session{};
         long scenarioResult = 0;
         std::string scenarioMessage;
         bool canSendSms = false;
@@ -98,6 +104,7 @@ private:
     void releaseHeldBack();
     void respondFromThreads(const FakeAnswer &answer);
     void tellInfo();
+    void tellSession();
 
     mutable std::mutex m_mutex; // guards the members below, except services with their own mutexes
     std::condition_variable m_changed;
@@ -108,6 +115,7 @@ private:
     std::size_t m_unblocked = 0; // calls with a lower number no longer block
     std::mutex m_infoMutex;      // locked while the info call-back runs
     TKSV_DeviceInfoCallback m_infoCallback = nullptr;
+    std::atomic<bool> m_hasInfoCallback{false};
     void *m_infoContext = nullptr;
     TKSV_NetworkTextCallback m_textCallback = nullptr;
     void *m_textContext = nullptr;

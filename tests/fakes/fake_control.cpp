@@ -188,6 +188,7 @@ void fakeSdkRespondNull()
 void fakeSdkRaiseDeviceEvent(int event)
 {
     FakeDispatcher &device = sdk().dispatcher(FakeService::Device);
+    sdk().setSessionState(TKSV_SESSION_IDLE);
     device.post([&device, event] { device.deliver(event, nullptr); });
 }
 

@@ -30,8 +30,10 @@ long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status)
     const FakeAnswer answer = sdk().takeAnswer();
     sdk().block(ticket, answer.block);
     *status = answer.status;
-    if (answer.result == 0)
+    if (answer.result == 0) {
+        sdk().startSession(call.text);
         sdk().answer(answer);
+    }
     return sdk().leave(ticket, answer.result, answer.status);
 }
 
@@ -39,9 +41,12 @@ long TKSV_USSDSrv_Release(int *status)
 {
     const std::size_t ticket = sdk().enter(callOf(__func__));
     const long result = sdk().resultOf(__func__);
-    *status = 0;
-    if (result == 0)
+    if (status)
+        *status = 0;
+    if (result == 0) {
+        sdk().setSessionState(TKSV_SESSION_IDLE);
         sdk().dispatcher(FakeService::Ussd).eraseWaiting();
+    }
     return sdk().leave(ticket, result);
 }
 
@@ -140,6 +145,15 @@ long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure)
     if (!failure)
         return sdk().leave(ticket, 1);
     *failure = sdk().lastFailure();
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_GetSession(TKSV_SessionInfo *session)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    if (!session)
+        return sdk().leave(ticket, 1);
+    *session = sdk().session();
     return sdk().leave(ticket, sdk().resultOf(__func__));
 }
 

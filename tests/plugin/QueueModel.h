@@ -14,6 +14,7 @@ struct QueueModel {
         int command;
         int component;
         bool sent;
+        bool handed;
         bool claimed;
     };
 
@@ -22,11 +23,18 @@ struct QueueModel {
 
     int head() const { return entries.empty() ? 0 : entries.front().command; }
     bool isOpen(int command) const { return head() == command && !entries.front().claimed; }
+    bool waitsForHandOver() const
+    {
+        return !entries.empty() && entries.front().sent && !entries.front().handed &&
+               !entries.front().claimed;
+    }
     bool awaitsReply(int command) const { return lastClaimed < command; }
 
     void append(int command, int component);
     int claimHead();
+    int claimHeadInFlight() { return waitsForHandOver() ? 0 : claimHead(); }
     int markHeadSent();
+    bool startHandOver(int command);
     void remove(int command);
     template <typename Keep>
     void keepOnly(Keep keep);
@@ -34,7 +42,7 @@ struct QueueModel {
 
 inline void QueueModel::append(int command, int component)
 {
-    entries.push_back(Entry{command, component, false, false});
+    entries.push_back(Entry{command, component, false, false, false});
 }
 
 inline int QueueModel::claimHead()
@@ -51,6 +59,13 @@ inline int QueueModel::markHeadSent()
         return 0;
     entries.front().sent = true;
     return head();
+}
+
+inline bool QueueModel::startHandOver(int command)
+{
+    if (!isOpen(command))
+        return false;
+    return entries.front().handed = true;
 }
 
 inline void QueueModel::remove(int command)

@@ -278,8 +278,9 @@ void QueueWorld::markSent(Call &call)
 
 void QueueWorld::handOver(Call &call)
 {
-    const bool isOpen = m_queue.isOpenHead(call.number);
-    expect(isOpen == m_model.isOpen(call.command), "a head that is gone or claimed is not sent");
+    const bool isOpen = m_queue.startHandOver(call.number);
+    expect(isOpen == m_model.startHandOver(call.command),
+           "a head that is gone or claimed is not sent");
     call.next = MarkSent;
     if (!isOpen)
         return;
@@ -340,10 +341,11 @@ void QueueWorld::disarmTimer(Call &call)
 // ---- outcomes ------------------------------------------------------------------------------
 
 /// Claims the head. The thread that claims the head also announces its answer.
-CommandQueue::Claim QueueWorld::claim(Call &call, quint64 number, int expected)
+CommandQueue::Claim QueueWorld::claim(Call &call, ClaimFunction function, quint64 number,
+                                      int expected)
 {
     CommandQueue::Head head;
-    const CommandQueue::Claim result = m_queue.claimHead(head, number);
+    const CommandQueue::Claim result = (m_queue.*function)(head, number);
     const bool claimed = result == CommandQueue::Claimed;
     expect(claimed == (expected != 0), "one thread claims a head, and it is the one that is meant");
     expect(!claimed || numberOf(head.command) == expected, "the head is claimed");
@@ -354,9 +356,21 @@ CommandQueue::Claim QueueWorld::claim(Call &call, quint64 number, int expected)
     return result;
 }
 
+/// Claims the head for a reply or a time-out, which cannot belong to a command that the device has
+/// not received.
+CommandQueue::Claim QueueWorld::claimInFlight(Call &call, quint64 number, int expected)
+{
+    const bool waits = m_model.waitsForHandOver();
+    const CommandQueue::Claim result =
+        claim(call, &CommandQueue::claimHeadInFlight, number, expected);
+    expect(waits == (result == CommandQueue::WaitsForHandOver),
+           "a command that is about to be sent is not answered");
+    return result;
+}
+
 void QueueWorld::claimForReply(Call &call)
 {
-    const CommandQueue::Claim result = claim(call, 0, m_model.claimHead());
+    const CommandQueue::Claim result = claimInFlight(call, 0, m_model.claimHeadInFlight());
     goOn(call, result != CommandQueue::ClaimedByOther, StopTimer);
 }
 
@@ -408,7 +422,7 @@ void QueueWorld::lookForReply(Call &call)
 void QueueWorld::claimForTimeOut(Call &call)
 {
     const bool isHead = call.command != 0 && call.command == m_model.head();
-    claim(call, call.number, isHead ? m_model.claimHead() : 0);
+    claimInFlight(call, call.number, isHead ? m_model.claimHeadInFlight() : 0);
     expect(call.command == 0 || call.command == call.timedCommand ||
                (m_dropped & bit(call.timedCommand)),
            "a time-out answers its own command, or what stands behind one that was dropped");
@@ -429,7 +443,8 @@ void QueueWorld::removeTimedOut(Call &call)
 
 void QueueWorld::claimForFailure(Call &call)
 {
-    const CommandQueue::Claim result = claim(call, 0, m_model.claimHead());
+    const CommandQueue::Claim result =
+        claim(call, &CommandQueue::claimHead, 0, m_model.claimHead());
     call = Call();
     goOn(call, result != CommandQueue::Empty, ClearAll);
 }
@@ -547,6 +562,7 @@ QueueWorld::Key QueueWorld::key() const
     const Oldest oldest = oldestCompared();
     const CommandQueue::Marks &marks = m_queue.marks();
     writer.write(marks.current - qMax(marks.sent, oldest.number - 1), 4);
+    writer.write(marks.current - qMax(marks.handed, oldest.number - 1), 4);
     writer.write(marks.current - qMax(marks.claimed, oldest.number - 1), 4);
     writer.write(quint64(m_lastCommand + 1 - qMax(m_model.lastClaimed, oldest.command - 1)), 4);
     writer.write(m_isHandingOver, 1);
@@ -573,6 +589,7 @@ void QueueWorld::writeCommands(KeyWriter &writer) const
         writer.write(quint64(m_lastCommand + 1 - entry.command), 4);
         writer.write(quint64(entry.component - COMPONENT_PREPOST_QUERY), 2);
         writer.write(quint64(entry.sent), 1);
+        writer.write(quint64(entry.handed), 1);
         writer.write(quint64(entry.claimed), 1);
     }
     const unsigned held = heldCommands();

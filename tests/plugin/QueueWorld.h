@@ -157,7 +157,9 @@ private:
     void deleteLogic(Call &call);
 
     void goOn(Call &call, bool holds, Step step);
-    CommandQueue::Claim claim(Call &call, quint64 number, int expected);
+    typedef CommandQueue::Claim (CommandQueue::*ClaimFunction)(CommandQueue::Head &, quint64);
+    CommandQueue::Claim claim(Call &call, ClaimFunction function, quint64 number, int expected);
+    CommandQueue::Claim claimInFlight(Call &call, quint64 number, int expected);
     void endHandOver(Call &call);
     void removeHead(const Call &call);
     void drop(bool (*keep)(const USSDCmdOrResp &));

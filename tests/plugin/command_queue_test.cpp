@@ -166,6 +166,8 @@ private slots:
     void headIsClaimedOnce();
     void claimOfAnEarlierHeadIsRefused();
     void claimOfAnEmptyQueueNamesTheLastHead();
+    void headThatWaitsForTheDeviceIsNotAnswered();
+    void headThatNobodySendsIsAnswered();
     void claimedHeadIsNotOpen();
     void removalOfAnEarlierHeadLeavesTheNextOne();
     void clearedHeadAwaitsItsReply();
@@ -217,6 +219,27 @@ void CommandQueueTest::claimOfAnEmptyQueueNamesTheLastHead()
     m_queue.clear(); // does not use up the number of the next head
     QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Empty);
     QCOMPARE(m_head.number, last);
+}
+
+void CommandQueueTest::headThatWaitsForTheDeviceIsNotAnswered()
+{
+    CommandQueue::Head sent;
+    QVERIFY(m_queue.markHeadSent(sent));
+    QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::WaitsForHandOver);
+    QCOMPARE(m_head.number, sent.number - 1);
+    QVERIFY(m_queue.startHandOver(sent.number));
+    QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::Claimed);
+    QVERIFY(!m_queue.startHandOver(sent.number));
+    QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::ClaimedByOther);
+}
+
+/// A head that is not being sent stands behind a command that was refused. A late reply answers it.
+void CommandQueueTest::headThatNobodySendsIsAnswered()
+{
+    QVERIFY(m_queue.markHeadSent(m_head));
+    m_queue.removeHead(m_head.number);
+    QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::Claimed);
+    QCOMPARE(m_head.command.command, QStringLiteral("*2#"));
 }
 
 void CommandQueueTest::claimedHeadIsNotOpen()

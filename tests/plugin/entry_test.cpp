@@ -39,7 +39,8 @@ private:
 
 private slots:
     void qt5LoaderLoadsIt();
-    void verificationTextIsThatOfTheHost();
+    void verificationTextHasTheBuildKey();
+    void noQt4HostTakesThisBuild();
     void shippedBuildKeyIsTheKnownOne();
     void secondCallGivesTheSameObject();
     void callAfterDeletionMakesANewObject();
@@ -103,15 +104,48 @@ void EntryTest::qt5LoaderLoadsIt()
     QCOMPARE(loader.instance(), instance());
 }
 
-void EntryTest::verificationTextIsThatOfTheHost()
+namespace
+{
+
+const char VERIFICATION[] = "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
+                            "buildkey=" USSD_QT4_BUILD_KEY;
+
+/// Returns the build key that the loader of Qt 4 reads from the library file: it searches the file
+/// for the pattern and reads up to the end of the line or of the string.
+QByteArray keyThatQt4Reads()
+{
+    QFile file(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    const QByteArray content = file.readAll();
+    const QByteArray name("\nbuildkey=");
+    const int pattern = int(content.indexOf("pattern=QT_PLUGIN_VERIFICATION_DATA\n"));
+    const int start = int(content.indexOf(name, pattern)) + name.size();
+    if (pattern < 0 || start < pattern)
+        return QByteArray();
+    return QByteArray(content.constData() + start).split('\n').first();
+}
+
+} // namespace
+
+/// The text names the version of Qt after the build key that was configured.
+void EntryTest::verificationTextHasTheBuildKey()
 {
     typedef const char *(*Query)();
     const Query query =
         reinterpret_cast<Query>(m_library.resolve("qt_plugin_query_verification_data"));
     QVERIFY(query);
     QCOMPARE(QByteArray(query()),
-             QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
-                        "buildkey=" USSD_QT4_BUILD_KEY));
+             QByteArray(VERIFICATION) + " qt" + QByteArray::number(QT_VERSION_MAJOR));
+}
+
+/// A Qt 4 host compares the complete key. A host that loaded this library would have two versions
+/// of Qt in one process and crash.
+void EntryTest::noQt4HostTakesThisBuild()
+{
+    const QByteArray key = keyThatQt4Reads();
+    QVERIFY(key.startsWith(USSD_QT4_BUILD_KEY));
+    QVERIFY(key != USSD_QT4_BUILD_KEY);
 }
 
 /// Checks the default value of the build option that determines the build key above.

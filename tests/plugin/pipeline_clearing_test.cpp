@@ -41,6 +41,7 @@ private slots:
     void destroyWaitsForARunningCallback();
     void callbackAfterDestroyFindsNothing();
     void newSingletonStartsWithAnEmptyList();
+    void lateReplyDoesNotAnswerACommandBeforeItIsSent();
     void everyCommandIsAnsweredOnce();
 };
 
@@ -454,6 +455,37 @@ void PipelineClearingTest::newSingletonStartsWithAnEmptyList()
     m_logic = USSDLogic::GetUSSDLogicInstance();
     QCOMPARE(send(5, QStringLiteral("*3#")), 0);
     QVERIFY(fakeSdkCommands().back() == u"*3#");
+}
+
+/// Tests a late reply that arrives while the next command waits for another thread that is still in
+/// the request of a cleared command. The reply must not be taken for the reply to the next command,
+/// which the device has not received.
+void PipelineClearingTest::lateReplyDoesNotAnswerACommandBeforeItIsSent()
+{
+    setTimes(NO_PATIENCE, 1);
+    FakeAnswer blocked = fakeSilence();
+    blocked.block = std::chrono::milliseconds(NO_PATIENCE);
+    fakeSdkScript({blocked, fakeSilence()});
+    std::thread first([this] { send(5, QStringLiteral("*1#")); });
+    QVERIFY(fakeSdkWaitForRequests(1));
+    USSDLogic::ClearQueuedCmds();
+    std::atomic<ThreadWatch::ThreadId> nextId(0);
+    std::thread next([this, &nextId] {
+        nextId = ThreadWatch::currentThread();
+        send(3, QStringLiteral("*2#"));
+    });
+    QVERIFY(waitUntilLogged(": sendUSSDCommand Enter", 2));
+    ThreadWatch::waitUntilAsleepOrGone(nextId);
+    fakeSdkRespond(u"late");
+    const bool isDelivered = fakeSdkWaitForDeliveries(FakeService::Ussd, 1);
+    fakeSdkUnblock();
+    first.join();
+    next.join();
+    QVERIFY(isDelivered);
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*1#", u"*2#"}));
+    fakeSdkRespond(u"two");
+    QCOMPARE(nextAnswer(), answer(3, QStringLiteral("two")));
+    QVERIFY(answers().isEmpty());
 }
 
 /// Makes replies, late replies and time-outs coincide at random. Each command must be answered

@@ -41,6 +41,13 @@ TKSV_FailureInfo lastFailure()
     return failure;
 }
 
+TKSV_SessionInfo session()
+{
+    TKSV_SessionInfo info;
+    TKSV_Device_GetSession(&info);
+    return info;
+}
+
 QString shown(const std::u16string &text)
 {
     return QString::fromStdU16String(text);
@@ -64,6 +71,8 @@ private slots:
     void refusedRequestHasAReason();
     void malformedRequestHasAReason();
     void nullFailureIsRefused();
+    void sessionFollowsItsRequests();
+    void requestBelongsToTheResponseInItsCallback();
 
     void cancelledRequestGetsItsResponse();
     void cancelIsRefusedWithoutARequest();
@@ -184,6 +193,39 @@ void SdkFailures::malformedRequestHasAReason()
 void SdkFailures::nullFailureIsRefused()
 {
     QVERIFY(TKSV_Device_GetLastFailure(nullptr) != 0);
+}
+
+void SdkFailures::sessionFollowsItsRequests()
+{
+    QVERIFY(TKSV_Device_GetSession(nullptr) != 0);
+    const unsigned long before = session().requestCount;
+    QCOMPARE(shown(ask(u"*120#").text), shown(u"Menu"));
+    QCOMPARE(int(session().state), int(TKSV_SESSION_WAITS_FOR_ANSWER));
+    QCOMPARE(session().request, "*120#");
+    QCOMPARE(shown(ask(u"1").text), shown(u"One"));
+    QCOMPARE(int(session().state), int(TKSV_SESSION_IDLE));
+    QCOMPARE(session().request, "1");
+    QCOMPARE(request(u"*133#"), 0L);
+    QCOMPARE(int(session().state), int(TKSV_SESSION_IN_FLIGHT));
+    QVERIFY(request(u"") != 0); // a refused request leaves the session as it is
+    QCOMPARE(session().request, "*133#");
+    QCOMPARE(TKSV_USSDSrv_Release(nullptr), 0L);
+    QCOMPARE(int(session().state), int(TKSV_SESSION_IDLE));
+    QCOMPARE(session().requestCount - before, 3UL);
+}
+
+void SdkFailures::requestBelongsToTheResponseInItsCallback()
+{
+    Inbox<std::string> inside;
+    const InsideUssd action([&](const Response &) {
+        std::thread([] { request(u"*133#"); }).join();
+        inside.add(session().request);
+    });
+    QCOMPARE(shown(ask(u"*100#").text), shown(u"Balance"));
+    QVERIFY(inside.waitFor(1));
+    QCOMPARE(inside.all()[0], std::string("*100#"));
+    QCOMPARE(session().request, "*133#");
+    unregisterAll(); // the variables are about to be deleted
 }
 
 void SdkFailures::cancelledRequestGetsItsResponse()

@@ -25,7 +25,7 @@ class Listening
 public:
     Listening()
         : service("test"), session([this](Event event) { service.post(std::move(event)); },
-                                   [this] { ++untakenCount; })
+                                   [this] { ++untakenCount; }, [this] { ++changeCount; })
     {
         service.add(1, [this](int, void *data) {
             const auto *record = static_cast<const TKSV_USSDResponse *>(data);
@@ -34,6 +34,7 @@ public:
         });
     }
     std::atomic<int> untakenCount{0};
+    std::atomic<int> changeCount{0};
     EventService service;
     UssdSession session;
     RecordingBackend backend;
@@ -65,6 +66,7 @@ private slots:
     void requestKindFollowsTheSession();
     void lateReplyIsDropped();
     void secondReplyIsDropped();
+    void everyChangeIsReported();
     void textDuringARequestWaitsForItsEnd();
     void textDuringAMenuWaitsForItsEnd();
     void formOfACode_data();
@@ -155,6 +157,26 @@ void SdkSession::secondReplyIsDropped()
     l.session.handleReply(l.backend.requests[0].token, {UssdFinal, "twice"});
     drain(l.service);
     QCOMPARE(l.replies.all().size(), std::size_t(1));
+}
+
+void SdkSession::everyChangeIsReported()
+{
+    Listening listening;
+    QCOMPARE(int(listening.session.info().state), int(TKSV_SESSION_IDLE));
+    listening.session.request(listening.backend, "*1#");
+    QCOMPARE(listening.changeCount.load(), 1);
+    QCOMPARE(int(listening.session.info().state), int(TKSV_SESSION_IN_FLIGHT));
+    listening.session.handleReply(1, UssdReply{UssdWaitsForAnswer, "Menu"});
+    drain(listening.service);
+    QCOMPARE(listening.changeCount.load(), 2);
+    QCOMPARE(int(listening.session.info().state), int(TKSV_SESSION_WAITS_FOR_ANSWER));
+    listening.session.release(listening.backend);
+    QCOMPARE(listening.changeCount.load(), 3);
+    QCOMPARE(int(listening.session.info().state), int(TKSV_SESSION_IDLE));
+    listening.session.handleText(UssdReply{UssdWaitsForAnswer, "Question"});
+    drain(listening.service);
+    QCOMPARE(listening.changeCount.load(), 4);
+    QCOMPARE(int(listening.session.info().state), int(TKSV_SESSION_WAITS_FOR_ANSWER));
 }
 
 void SdkSession::textDuringARequestWaitsForItsEnd()

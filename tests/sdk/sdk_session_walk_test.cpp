@@ -35,7 +35,9 @@ const char *const STEP_NAMES[] = {"request", "refused request", "reply",
 class World
 {
 public:
-    World() : m_session([this](Event event) { m_events.push_back(std::move(event)); }, [] {}) {}
+    World() : m_session([this](Event event) { m_events.push_back(std::move(event)); }, [] {}, [] {})
+    {
+    }
 
     /// Returns false if the step is not possible.
     bool take(Step step);

@@ -63,6 +63,9 @@ private slots:
     void unknownEntityEndsTheReading();
     void everyPrefixIsChecked();
     void traceWalksAsThePluginDoes();
+    void patternMistakes_data();
+    void patternMistakes();
+    void goodPatternsAreWithoutFindings();
     void jsonIsParsedBack_data();
     void jsonIsParsedBack();
     void jsonHoldsFindingsAndTables();
@@ -165,7 +168,7 @@ void addMisspeltRows(const QByteArray &content)
         whole.replace(match.capturedStart(), match.capturedLength(), lines);
     }
     QRegExp name(QLatin1String("<([A-Za-z]+)[ />]| ([A-Za-z]+)=\""));
-    const int root = whole.indexOf(QRegExp(QLatin1String("<[A-Za-z]")));
+    const int root = whole.indexOf(QRegularExpression(QLatin1String("<[A-Za-z]")));
     for (int at = name.indexIn(whole, whole.indexOf(QLatin1Char('>'), root)); at >= 0;
          at = name.indexIn(whole, at + 1)) {
         const QString found = name.cap(1) + name.cap(2);
@@ -787,6 +790,46 @@ void ConfigCheckTest::traceWalksAsThePluginDoes()
         }
     }
     QVERIFY(found > 500);
+}
+
+void ConfigCheckTest::patternMistakes_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("line");
+    const auto row = [](const char *name, const char *lines, const char *rule, int line) {
+        QTest::newRow(name) << QByteArray(lines) << latin1(rule) << line;
+    };
+    row("no equals sign", "number (?<value>x)\n", "line", 2);
+    row("unknown name", "numbr = (?<value>x)\n", "name", 2);
+    row("bad expression", "# first\nnumber = (?<value>x\n", "pattern", 3);
+    row("no group", "number = ([0-9]+)\n", "pattern", 2);
+    row("matches everywhere", "number = (?<value>x*)\n", "pattern", 2);
+    row("twice", "number = (?<value>x)\nnumber = (?<value>y)\n", "twice", 3);
+    row("no currency", "balance = (?<value>x)\n", "missing", 0);
+    row("only the size", "data-total = (?<value>x)\n", "missing", 0);
+}
+
+void ConfigCheckTest::patternMistakes()
+{
+    QFETCH(QByteArray, lines);
+    QFETCH(QString, rule);
+    QFETCH(int, line);
+    const CheckReport report = check("# USSD reply patterns\n" + lines);
+    QCOMPARE(report.kind, latin1("patterns"));
+    QVERIFY2(report.error.isEmpty(), qPrintable(report.error));
+    QCOMPARE(report.findings.count(), 1);
+    QCOMPARE(report.findings.at(0).rule, rule);
+    QCOMPARE(int(report.findings.at(0).line), line);
+}
+
+void ConfigCheckTest::goodPatternsAreWithoutFindings()
+{
+    const CheckReport report = check("# USSD reply patterns\n\nbalance = Bal (?<value>[0-9.]+)\n"
+                                     "currency = EUR\nvalidity = (?<value>[0-9.]{10})\n"
+                                     "validity-format = dd.MM.yyyy\n");
+    QCOMPARE(report.findings.count(), 0);
+    QCOMPARE(report.tables.at(0).rows.count(), 4);
 }
 
 void ConfigCheckTest::jsonIsParsedBack_data()

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 
 using namespace Tools;
 
@@ -218,7 +219,7 @@ void ProvisionToolTest::complaintsNameLineAndColumn()
     m_database = writeFile(QLatin1String("bad.xml"),
                            QByteArray(DATABASE).replace('\x1b', "").replace("mnc='07'", "mnc='x'"));
     QCOMPARE(run(words("--list")), int(TOOL_GOOD));
-    QVERIFY2(m_error.contains(QRegExp(QLatin1String("bad\\.xml:2:\\d+: .*\"x\""))),
+    QVERIFY2(m_error.contains(QRegularExpression(QLatin1String("bad\\.xml:2:\\d+: .*\"x\""))),
              qPrintable(m_error));
     m_database = writeFile(QLatin1String("worse.xml"), QByteArray(DATABASE).left(200));
     QCOMPARE(run(words("--list")), int(TOOL_USAGE));

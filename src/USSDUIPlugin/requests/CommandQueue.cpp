@@ -4,6 +4,7 @@ CommandQueue::CommandQueue()
 {
     m_marks.current = 1;
     m_marks.sent = 0;
+    m_marks.handed = 0;
     m_marks.claimed = 0;
 }
 
@@ -33,6 +34,15 @@ CommandQueue::Claim CommandQueue::claimHead(Head &head, quint64 number)
     return Claimed;
 }
 
+CommandQueue::Claim CommandQueue::claimHeadInFlight(Head &head, quint64 number)
+{
+    const bool isMarked = !m_commands.isEmpty() && m_marks.sent == m_marks.current;
+    if (!isMarked || m_marks.handed == m_marks.current || m_marks.claimed == m_marks.current)
+        return claimHead(head, number);
+    head.number = m_marks.current - 1;
+    return WaitsForHandOver;
+}
+
 /// Marks the head as sent. The mark prevents two threads from sending the same command. A command
 /// may become the head before its own sender has checked that no other command is queued.
 bool CommandQueue::markHeadSent(Head &head)
@@ -42,6 +52,14 @@ bool CommandQueue::markHeadSent(Head &head)
     m_marks.sent = m_marks.current;
     head.number = m_marks.current;
     head.command = m_commands.first();
+    return true;
+}
+
+bool CommandQueue::startHandOver(quint64 number)
+{
+    if (!isOpenHead(number))
+        return false;
+    m_marks.handed = number;
     return true;
 }
 

@@ -24,15 +24,17 @@ public:
     };
 
     enum Claim {
-        Empty,          // there is no head
-        ClaimedByOther, // another caller reports the outcome, or the head has another number
-        Claimed         // the caller reports the outcome and removes the head
+        Empty,            // there is no head
+        WaitsForHandOver, // a thread is about to pass the head to the device
+        ClaimedByOther,   // another caller reports the outcome, or the head has another number
+        Claimed           // the caller reports the outcome and removes the head
     };
 
     /// The numbers that record the progress of the heads.
     struct Marks {
         quint64 current; // the current head, or the next head if the queue is empty
         quint64 sent;    // the last head that was marked as sent
+        quint64 handed;  // the last head that was passed to the device
         quint64 claimed; // the last head that was claimed
     };
 
@@ -57,9 +59,16 @@ public:
     /// head with this number can be claimed. If the result is Claimed, `head` is set to the head.
     /// If the result is Empty, `head.number` is set to the number of the most recent head.
     Claim claimHead(Head &head, quint64 number = 0);
+    /// Like claimHead(), but does not claim a head that is marked as sent and has not been passed
+    /// to the device yet. A reply or a time-out at this time belongs to an earlier head. If the
+    /// result is WaitsForHandOver, `head.number` is set to the number of the previous head.
+    Claim claimHeadInFlight(Head &head, quint64 number = 0);
     /// Marks the head as sent and returns it. Returns false if the queue is empty or another caller
     /// is already sending the head.
     bool markHeadSent(Head &head);
+    /// Records that the head with this number is now passed to the device. Returns false if it is
+    /// no longer the head or has been claimed.
+    bool startHandOver(quint64 number);
     /// Removes the head with this number. Does nothing if another command has become the head.
     void removeHead(quint64 number);
     /// Removes all commands.

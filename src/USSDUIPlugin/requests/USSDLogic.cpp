@@ -238,7 +238,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (!status)
         status = &ignoredStatus;
     QtCompat::MutexLocker sending(&m_mutexSendCmd);
-    if (!LockedQueue()->isOpenHead(number)) // cleared or answered while waiting for the lock
+    if (!LockedQueue()->startHandOver(number)) // cleared or answered while waiting for the lock
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
@@ -320,13 +320,17 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
         return 0;
     }
     CommandQueue::Head head;
-    const CommandQueue::Claim claim = LockedQueue()->claimHead(head);
+    const CommandQueue::Claim claim = LockedQueue()->claimHeadInFlight(head);
     if (claim == CommandQueue::ClaimedByOther) {
         USSD_LOG_EXIT(" Exit: the command has its answer already");
         return 0;
     }
     stopReplyTimer(head.number);
     USSD_LOG(" received response type = %d", SdkRecords::responseType(data));
+    if (claim == CommandQueue::WaitsForHandOver) {
+        USSD_LOG_EXIT(" Exit: the next command is not on the device yet");
+        return 0;
+    }
     if (claim == CommandQueue::Empty) {
         USSD_LOG_EXIT(" sending USSD commond list is empty");
         return 0;
@@ -349,7 +353,7 @@ void USSDLogic::OnTimeOut()
     CommandQueue::Head head;
     if (!stopRunOutTimer())
         return;
-    if (LockedQueue()->claimHead(head, number) != CommandQueue::Claimed)
+    if (LockedQueue()->claimHeadInFlight(head, number) != CommandQueue::Claimed)
         return;
     const QPointer<USSDLogic> self(this); // a receiver may shut everything down
     emit responseReceived(head.command.component, tr(QLatin1String("USSD_CODE_TIME_OUT")));

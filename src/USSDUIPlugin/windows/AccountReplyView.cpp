@@ -116,6 +116,18 @@ QMimeData *AccountReplyView::createMimeDataFromSelection() const
     return data;
 }
 
+/// Handles the first use of a style sheet in the same way as a later change. Qt sends no event for
+/// it, so the frame would keep the width of the style without a style sheet.
+bool AccountReplyView::event(QEvent *event)
+{
+    const bool isHandled = QTextEdit::event(event);
+    if (event->type() == QEvent::Polish) {
+        QEvent styled(QEvent::StyleChange);
+        changeEvent(&styled);
+    }
+    return isHandled;
+}
+
 void AccountReplyView::changeEvent(QEvent *event)
 {
     QTextEdit::changeEvent(event);

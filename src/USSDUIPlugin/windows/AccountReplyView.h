@@ -28,6 +28,7 @@ public:
 
 protected:
     QMimeData *createMimeDataFromSelection() const override;
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

@@ -55,9 +55,10 @@ QSize USSDDlg::GetSize()
 {
     if (!m_pGrid)
         return QSize(-1, -1);
-    // A style sheet may change the font, and thus the height of the boxes.
-    for (int i = 0; i < m_listTabOrder.count(); ++i)
-        m_listTabOrder.at(i)->ensurePolished();
+    // A style sheet may change the font and the padding of every widget, and thus its size.
+    const QList<QWidget *> widgets = findChildren<QWidget *>();
+    for (int i = 0; i < widgets.count(); ++i)
+        widgets.at(i)->ensurePolished();
     m_pGrid->activate(); // without this call, nested boxes ignore changes since the last event
     return m_pGrid->sizeHint();
 }

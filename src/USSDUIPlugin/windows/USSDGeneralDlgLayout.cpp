@@ -29,9 +29,14 @@ const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
 const int RIGHT_COLUMN = 2; // the first of the five columns with the transcript and the input field
 const int RIGHT_COLUMNS = 5;
+// A larger window makes the transcript higher and wider. The boxes with the preset buttons stay
+// together: the stretching row is the second one of the second box, below whose buttons there is
+// room.
+const int STRETCHING_ROW = 5;
+const int STRETCHING_COLUMN = 3;
 const int PROMPT_ROW = 8;
 const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int BOX_SPACING = 4;        // in pixels; the fixed window is too small for a larger spacing
+const int SPACING = 4;            // in pixels; the fixed window is too small for a larger spacing
 
 } // namespace
 
@@ -96,10 +101,10 @@ void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 
 void USSDGeneralDlg::addFixedElements(int row)
 {
-    m_pMainGrid->setVerticalSpacing(BOX_SPACING);
-    m_pPreBtnsBox[0]->setSpacing(BOX_SPACING);
+    m_pMainGrid->setVerticalSpacing(SPACING);
+    m_pPreBtnsBox[0]->setSpacing(0);
     m_pPreBtnsBox[1]->setSpacing(0);
-    m_pPreBtnsBox[2]->setSpacing(BOX_SPACING);
+    m_pPreBtnsBox[2]->setSpacing(0);
     m_pMainGrid->addWidget(m_pHistoryView, row, RIGHT_COLUMN, 6, RIGHT_COLUMNS);
     row += 6;
     m_pMainGrid->addWidget(m_pInfoLabel, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
@@ -115,13 +120,14 @@ void USSDGeneralDlg::addFixedElements(int row)
 void USSDGeneralDlg::addBottomButtons(int row)
 {
     QHBoxLayout *buttons = new QHBoxLayout;
-    buttons->setSpacing(2 * BOX_SPACING);
+    buttons->setSpacing(2 * SPACING);
     buttons->addWidget(m_pDescriptionLabel, 1);
     buttons->addWidget(m_pClearButton);
     buttons->addWidget(m_pEditButton);
     buttons->addWidget(m_pCloseButton);
     m_pMainGrid->addLayout(buttons, row, 0, 1, RIGHT_COLUMN + RIGHT_COLUMNS);
-    m_pMainGrid->setRowStretch(0, 1);
+    m_pMainGrid->setRowStretch(STRETCHING_ROW, 1);
+    m_pMainGrid->setColumnStretch(STRETCHING_COLUMN, 1);
 }
 
 /// Adjusts the widths of the bottom buttons to their texts. Currently, this function is not called.

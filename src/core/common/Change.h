@@ -16,6 +16,8 @@ public:
     /// Returns the string for `key` in the current language. `context` is the name of the plug-in
     /// to which the key belongs, such as "USSDUIPlugin".
     ///
+    /// The strings of the plug-in may be replaced by the operator whose folder is in use.
+    ///
     /// If the language has no string for the key, returns the English string. If there is no
     /// English string either, returns the key itself. Returns an empty string if the key is empty.
     /// May be called from any thread.

@@ -22,6 +22,9 @@ public:
     /// Shows `widget` as the content of the frame. The frame becomes the parent of `widget` and
     /// deletes it in its destructor. The previous content is hidden and remains a child of the
     /// frame. Does nothing if `widget` is null or is already the content.
+    ///
+    /// A frame that would be larger than the screen takes the size of the screen. The parent of its
+    /// content is then a scroll area in the frame.
     void AddMainWidget(QWidget *widget);
 
 signals:

@@ -1,6 +1,7 @@
 #include "DashboardSettings.h"
 
 #include <QFile>
+#include <QStringList>
 
 namespace Dashboard
 {
@@ -15,6 +16,31 @@ const char SCENARIO[] = "scenario"; // only earlier versions wrote this key
 const char OPERATOR_CODES[] = "operator-codes/";
 const char DETECTS_PAID_TYPE[] = "detect-paid-type";
 const char GEOMETRY[] = "geometry";
+const char THEME[] = "theme";
+const char TEXT_SIZE[] = "text-size";
+const char REDUCES_MOTION[] = "reduce-motion";
+const char NOTIFIES_MESSAGES[] = "notify-messages";
+const char SHOWS_TEXT[] = "show-text-in-notifications";
+const char LOW_BALANCE[] = "low-balance";
+const char HIDES_SIM_NUMBER[] = "hide-sim-number";
+const char KEEPS_HISTORY[] = "keep-history";
+const char FIRST_RUN_DONE[] = "first-run-done";
+
+const char *const THEMES[] = {"system", "light", "dark"};
+const int TEXT_SIZES[] = {100, 125, 150, 200}; // per cent
+
+/// Returns true if the string is a decimal number with at most one point, for example "5.00".
+bool isAmount(const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char('.'));
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        part.toUInt(&isNumber);
+        if (!isNumber || !part.at(0).isDigit())
+            return false;
+    }
+    return parts.size() <= 2;
+}
 
 /// Removes an incomplete lock file of Qt, which remains if the program is killed while it writes
 /// this file. Otherwise, the next program would wait 30 s until Qt treats the lock as stale.
@@ -92,6 +118,107 @@ void DashboardSettings::setDetectsPaidType(bool detects)
     set(DETECTS_PAID_TYPE, detects);
 }
 
+QString DashboardSettings::theme() const
+{
+    const QString chosen = word(THEME);
+    for (const char *each : THEMES) {
+        if (chosen == QLatin1String(each))
+            return chosen;
+    }
+    return QLatin1String(THEMES[0]);
+}
+
+void DashboardSettings::setTheme(const QString &word)
+{
+    set(THEME, word);
+}
+
+int DashboardSettings::textSize() const
+{
+    const int percent = word(TEXT_SIZE).toInt();
+    for (const int each : TEXT_SIZES) {
+        if (percent == each)
+            return each;
+    }
+    return TEXT_SIZES[0];
+}
+
+void DashboardSettings::setTextSize(int percent)
+{
+    set(TEXT_SIZE, percent);
+}
+
+bool DashboardSettings::reducesMotion() const
+{
+    return flag(REDUCES_MOTION, false);
+}
+
+void DashboardSettings::setReducesMotion(bool reduces)
+{
+    set(REDUCES_MOTION, reduces);
+}
+
+bool DashboardSettings::notifiesMessages() const
+{
+    return flag(NOTIFIES_MESSAGES, true);
+}
+
+void DashboardSettings::setNotifiesMessages(bool notifies)
+{
+    set(NOTIFIES_MESSAGES, notifies);
+}
+
+bool DashboardSettings::showsTextInNotifications() const
+{
+    return flag(SHOWS_TEXT, false);
+}
+
+void DashboardSettings::setShowsTextInNotifications(bool shows)
+{
+    set(SHOWS_TEXT, shows);
+}
+
+QString DashboardSettings::lowBalance() const
+{
+    const QString amount = word(LOW_BALANCE);
+    return isAmount(amount) ? amount : QString();
+}
+
+void DashboardSettings::setLowBalance(const QString &amount)
+{
+    set(LOW_BALANCE, amount);
+}
+
+bool DashboardSettings::hidesSimNumber() const
+{
+    return flag(HIDES_SIM_NUMBER, true);
+}
+
+void DashboardSettings::setHidesSimNumber(bool hides)
+{
+    set(HIDES_SIM_NUMBER, hides);
+}
+
+bool DashboardSettings::keepsHistory() const
+{
+    return flag(KEEPS_HISTORY, true);
+}
+
+void DashboardSettings::setKeepsHistory(bool keeps)
+{
+    set(KEEPS_HISTORY, keeps);
+}
+
+bool DashboardSettings::isFirstRunDone() const
+{
+    return flag(FIRST_RUN_DONE, false);
+}
+
+void DashboardSettings::setFirstRunDone(bool isDone)
+{
+    set(FIRST_RUN_DONE, isDone);
+}
+
 QByteArray DashboardSettings::geometry() const
 {
     return m_settings.value(QLatin1String(GEOMETRY)).toByteArray();
@@ -100,6 +227,19 @@ QByteArray DashboardSettings::geometry() const
 void DashboardSettings::setGeometry(const QByteArray &geometry)
 {
     set(GEOMETRY, geometry);
+}
+
+/// Returns the default value unless the file contains "true" or "false".
+bool DashboardSettings::flag(const char *key, bool defaultValue) const
+{
+    const QString text = word(key);
+    const bool isOther = text != QLatin1String("true") && text != QLatin1String("false");
+    return isOther ? defaultValue : text == QLatin1String("true");
+}
+
+QString DashboardSettings::word(const char *key) const
+{
+    return m_settings.value(QLatin1String(key)).toString();
 }
 
 void DashboardSettings::set(const char *key, const QVariant &value)

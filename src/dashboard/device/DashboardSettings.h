@@ -33,6 +33,33 @@ public:
     /// postpaid.
     bool detectsPaidType() const;
     void setDetectsPaidType(bool detects);
+    /// A value in the file that is not one of the possible values counts as the default value.
+    /// Returns "system" (default), "light" or "dark".
+    QString theme() const;
+    void setTheme(const QString &word);
+    /// Returns the text size in per cent: 100 (default), 125, 150 or 200.
+    int textSize() const;
+    void setTextSize(int percent);
+    bool reducesMotion() const; // false by default
+    void setReducesMotion(bool reduces);
+    /// Returns true (default) if the desktop is notified of messages from the network.
+    bool notifiesMessages() const;
+    void setNotifiesMessages(bool notifies);
+    bool showsTextInNotifications() const; // false by default
+    void setShowsTextInNotifications(bool shows);
+    /// Returns the amount below which the user is notified of a low balance, for example "5.00".
+    /// Returns an empty string (default) if the user is not notified.
+    QString lowBalance() const;
+    void setLowBalance(const QString &amount);
+    /// Returns true (default) if only the last four digits of the SIM's number are shown.
+    bool hidesSimNumber() const;
+    void setHidesSimNumber(bool hides);
+    /// Returns true (default) if codes, balances and messages are kept.
+    bool keepsHistory() const;
+    void setKeepsHistory(bool keeps);
+    /// Returns true if the user has finished the first run or has skipped it.
+    bool isFirstRunDone() const; // false by default
+    void setFirstRunDone(bool isDone);
     QByteArray geometry() const; // the geometry of the main window
     void setGeometry(const QByteArray &geometry);
 
@@ -43,6 +70,8 @@ public:
     QString file() const { return m_settings.fileName(); }
 
 private:
+    bool flag(const char *key, bool defaultValue) const;
+    QString word(const char *key) const;
     void set(const char *key, const QVariant &value);
 
     QSettings m_settings;

@@ -40,11 +40,21 @@ DeviceWatcher::~DeviceWatcher()
 
 void DeviceWatcher::refresh()
 {
+    refreshSession();
     const DeviceReading now = m_source();
     if (now.status == m_reading.status && now.modems == m_reading.modems)
         return;
     m_reading = now;
     emit changed();
+}
+
+void DeviceWatcher::refreshSession()
+{
+    const Session now = readSession();
+    const bool isChanged = now.state != m_session.state || now.requests != m_session.requests;
+    m_session = now;
+    if (isChanged)
+        emit sessionChanged();
 }
 
 void DeviceWatcher::readFrom(const std::function<DeviceReading()> &source)

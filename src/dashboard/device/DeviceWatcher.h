@@ -7,6 +7,7 @@
 
 #include "DeviceStatus.h"
 #include "Modem.h"
+#include "Session.h"
 
 namespace Dashboard
 {
@@ -41,6 +42,8 @@ public slots:
 
 signals:
     void changed();
+    /// Emitted when the state of the session or its newest request has changed; see readSession().
+    void sessionChanged();
     /// Emitted when the device was removed or reset. All pending commands have ended.
     void lost();
 
@@ -48,9 +51,11 @@ private:
     // Both call-backs run on a thread of the SDK.
     static void onInfoChanged(void *watcher);
     static unsigned char onDeviceEvent(int event, void *data);
+    void refreshSession();
 
     std::function<DeviceReading()> m_source;
     DeviceReading m_reading;
+    Session m_session;
 };
 
 } // namespace Dashboard

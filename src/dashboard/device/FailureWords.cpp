@@ -8,38 +8,64 @@ namespace Dashboard
 namespace
 {
 
+enum Again { No, Yes };
+
 struct Row {
     TKSV_Failure reason;
     const char *textKey;
+    const char *titleKey;
+    const char *meaningKey;
+    Again again;
 };
 
 // The last row describes every other reason.
 const Row ROWS[] = {
-    {TKSV_FAILURE_ENDED_BY_NETWORK, "FAILURE_ENDED_BY_NETWORK"},
-    {TKSV_FAILURE_NOT_SUPPORTED, "FAILURE_NOT_SUPPORTED"},
-    {TKSV_FAILURE_NETWORK_TIMEOUT, "FAILURE_NETWORK_TIMEOUT"},
-    {TKSV_FAILURE_NO_ANSWER, "FAILURE_NO_ANSWER"},
-    {TKSV_FAILURE_EMPTY_REPLY, "FAILURE_EMPTY_REPLY"},
-    {TKSV_FAILURE_UNDECODABLE, "FAILURE_UNDECODABLE"},
-    {TKSV_FAILURE_NOT_ENCODABLE, "FAILURE_NOT_ENCODABLE"},
-    {TKSV_FAILURE_NO_DEVICE, "FAILURE_NO_DEVICE"},
-    {TKSV_FAILURE_DISABLED, "FAILURE_DISABLED"},
-    {TKSV_FAILURE_NOT_REGISTERED, "FAILURE_NOT_REGISTERED"},
-    {TKSV_FAILURE_DEVICE_LOST, "FAILURE_DEVICE_LOST"},
-    {TKSV_FAILURE_NOT_PERMITTED, "FAILURE_NOT_PERMITTED"},
-    {TKSV_FAILURE_IN_USE, "FAILURE_IN_USE"},
-    {TKSV_FAILURE_NOT_ON_4G, "FAILURE_ON_LTE"},
-    {TKSV_FAILURE_CANCELLED, "FAILURE_CANCELLED"},
-    {TKSV_FAILURE_REFUSED, "FAILURE_REFUSED"},
+    {TKSV_FAILURE_ENDED_BY_NETWORK, "FAILURE_ENDED_BY_NETWORK", "STRIP_REFUSED",
+     "STRIP_REFUSED_TEXT", Yes},
+    {TKSV_FAILURE_NOT_SUPPORTED, "FAILURE_NOT_SUPPORTED", "STRIP_REFUSED", "FAILURE_NOT_SUPPORTED",
+     No},
+    {TKSV_FAILURE_NETWORK_TIMEOUT, "FAILURE_NETWORK_TIMEOUT", "STRIP_MENU_ENDED",
+     "FAILURE_NETWORK_TIMEOUT", No},
+    {TKSV_FAILURE_NO_ANSWER, "FAILURE_NO_ANSWER", "STRIP_NO_REPLY", "STRIP_NO_REPLY_TEXT", Yes},
+    {TKSV_FAILURE_EMPTY_REPLY, "FAILURE_EMPTY_REPLY", "STRIP_EMPTY_REPLY", "STRIP_EMPTY_REPLY_TEXT",
+     No},
+    {TKSV_FAILURE_UNDECODABLE, "FAILURE_UNDECODABLE", "STRIP_UNREADABLE", "FAILURE_UNDECODABLE",
+     No},
+    {TKSV_FAILURE_NOT_ENCODABLE, "FAILURE_NOT_ENCODABLE", "STRIP_NOT_SENT", "FAILURE_NOT_ENCODABLE",
+     No},
+    {TKSV_FAILURE_NO_DEVICE, "FAILURE_NO_DEVICE", "STRIP_NOT_SENT", "STRIP_NOT_SENT_TEXT", Yes},
+    {TKSV_FAILURE_DISABLED, "FAILURE_DISABLED", "STRIP_NOT_SENT", "FAILURE_DISABLED", Yes},
+    {TKSV_FAILURE_NOT_REGISTERED, "FAILURE_NOT_REGISTERED", "STRIP_NOT_SENT",
+     "FAILURE_NOT_REGISTERED", Yes},
+    {TKSV_FAILURE_DEVICE_LOST, "FAILURE_DEVICE_LOST", "STRIP_BROKEN_OFF", "STRIP_BROKEN_OFF_TEXT",
+     Yes},
+    {TKSV_FAILURE_NOT_PERMITTED, "FAILURE_NOT_PERMITTED", "STRIP_NOT_SENT", "FAILURE_NOT_PERMITTED",
+     No},
+    {TKSV_FAILURE_IN_USE, "FAILURE_IN_USE", "STRIP_NOT_SENT", "FAILURE_IN_USE", Yes},
+    {TKSV_FAILURE_NOT_ON_4G, "FAILURE_ON_LTE", "STRIP_REFUSED", "FAILURE_ON_LTE", Yes},
+    {TKSV_FAILURE_CANCELLED, "FAILURE_CANCELLED", "STRIP_CANCELLED", "STRIP_CANCELLED_TEXT", Yes},
+    {TKSV_FAILURE_REFUSED, "FAILURE_REFUSED", "STRIP_REFUSED", "STRIP_REFUSED_TEXT", Yes},
 };
 
-QString reasonText(TKSV_Failure reason)
+const Row &rowOf(TKSV_Failure reason)
 {
     const Row *row = ROWS;
     const Row *const last = ROWS + sizeof ROWS / sizeof *ROWS - 1;
     while (row != last && row->reason != reason)
         ++row;
-    return dashboardText(row->textKey);
+    return *row;
+}
+
+QString reasonText(TKSV_Failure reason)
+{
+    return dashboardText(rowOf(reason).textKey);
+}
+
+/// Inserts the code into a text that may have a place for it.
+QString withCode(const char *key, const QString &code)
+{
+    QString text = dashboardText(key);
+    return text.replace(QLatin1String("%1"), code);
 }
 
 bool isOutcomeUnknown(TKSV_Failure reason)
@@ -55,6 +81,35 @@ TKSV_FailureInfo lastFailure()
     TKSV_FailureInfo failure = {};
     TKSV_Device_GetLastFailure(&failure);
     return failure;
+}
+
+QString failureTitle(const TKSV_FailureInfo &failure, const QString &code)
+{
+    const bool isCancelled = failure.reason == TKSV_FAILURE_CANCELLED;
+    const char *key = rowOf(failure.reason).titleKey;
+    return withCode(failure.wasNotSent && !isCancelled ? "STRIP_NOT_SENT" : key, code);
+}
+
+QString failureMeaning(const TKSV_FailureInfo &failure, const QString &code)
+{
+    if (failure.text[0])
+        return dashboardText("FAILURE_CLOSING_TEXT").arg(QString::fromUtf8(failure.text));
+    if (!failure.wasNotSent)
+        return withCode(rowOf(failure.reason).meaningKey, code);
+    if (failure.reason == TKSV_FAILURE_CANCELLED)
+        return withCode("STRIP_CANCELLED_UNSENT_TEXT", code);
+    const bool isOutcomeText = isOutcomeUnknown(failure.reason);
+    const char *key = rowOf(failure.reason).meaningKey;
+    return isOutcomeText || failure.reason == TKSV_FAILURE_REFUSED
+               ? dashboardText("STRIP_NOT_SENT_TEXT")
+               : dashboardText(key);
+}
+
+bool mayBeSentAgain(const TKSV_FailureInfo &failure)
+{
+    return failure.wasNotSent ? failure.reason != TKSV_FAILURE_NOT_ENCODABLE &&
+                                    failure.reason != TKSV_FAILURE_NOT_PERMITTED
+                              : rowOf(failure.reason).again == Yes;
 }
 
 QString failureWords(const TKSV_FailureInfo &failure)

@@ -15,6 +15,17 @@ TKSV_FailureInfo lastFailure();
 /// there is one. Returns an empty string for TKSV_FAILURE_NONE.
 QString failureWords(const TKSV_FailureInfo &failure);
 
+/// Returns a title in the user's language that names the code, for example "No reply to *104#".
+QString failureTitle(const TKSV_FailureInfo &failure, const QString &code);
+
+/// Returns one or two sentences in the user's language about what the failure means for the user.
+/// If the network may have carried out the code, the sentences say so.
+QString failureMeaning(const TKSV_FailureInfo &failure, const QString &code);
+
+/// Returns true if sending the code again can help. Returns false if the network has carried out
+/// the code, and if the same code would fail again.
+bool mayBeSentAgain(const TKSV_FailureInfo &failure);
+
 } // namespace Dashboard
 
 #endif

@@ -5,7 +5,6 @@
 #include "base/DashboardText.h"
 #include "base/SignalWatcher.h"
 #include "base/WaitUntil.h"
-#include "Change.h"
 #include "device/DeviceWatcher.h"
 #include "device/FailureWords.h"
 #include "ExitCodes.h"
@@ -25,21 +24,6 @@ namespace
 const int PLUGIN_GRACE = 5000; // ms
 // The maximum time between the arrival of a reply at the plug-in and at the tap.
 const int TAP_GRACE = 1000; // ms
-
-QString pluginText(const char *key)
-{
-    return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
-}
-
-bool isTimeOutText(const QString &text)
-{
-    return text == pluginText("USSD_CODE_TIME_OUT").trimmed();
-}
-
-bool isFailureText(const QString &text)
-{
-    return text == pluginText("USSD_CODE_FAILED").trimmed() || isTimeOutText(text);
-}
 
 int complain(const QString &text, int exitCode)
 {
@@ -103,10 +87,10 @@ bool CommandSender::isWaitOver()
 int CommandSender::printAnswer()
 {
     const QString shown = m_window.lastReceived();
-    if (!isFailureText(shown))
+    if (!GeneralWindow::isFailureText(shown))
         waitUntil([this] { return m_parts.tap.reply().isReceived; }, TAP_GRACE);
     const Reply reply = m_parts.tap.reply();
-    if (reply.text.isEmpty() && (reply.isReceived || isFailureText(shown)))
+    if (reply.text.isEmpty() && (reply.isReceived || GeneralWindow::isFailureText(shown)))
         return fail(shown);
     const QString text = reply.isReceived ? reply.text : shown;
     HostCore::printLine(m_hasPrintedReply ? QLatin1Char('\n') + text : text);
@@ -124,7 +108,8 @@ int CommandSender::fail(const QString &shown)
     if (failure.reason == TKSV_FAILURE_NONE && m_parts.device.status().waitsForTurn)
         failure.reason = TKSV_FAILURE_IN_USE;
     else if (failure.reason == TKSV_FAILURE_NONE)
-        failure.reason = isTimeOutText(shown) ? TKSV_FAILURE_NO_ANSWER : TKSV_FAILURE_REFUSED;
+        failure.reason =
+            GeneralWindow::isTimeOutText(shown) ? TKSV_FAILURE_NO_ANSWER : TKSV_FAILURE_REFUSED;
     HostCore::printErrorLine(failureWords(failure));
     if (failure.reason == TKSV_FAILURE_IN_USE && m_parts.device.status().hasForeignSession)
         HostCore::printErrorLine(dashboardText("SEND_END_HINT"));

@@ -20,12 +20,17 @@ T *named(const QWidget *root, const char *name)
     return root->findChild<T *>(QLatin1String(name));
 }
 
-QString receivedCaption()
+QString pluginText(const char *key)
 {
-    return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String("IDS_USSD_RECEIVED")).trimmed();
+    return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key)).trimmed();
 }
 
 } // namespace
+
+bool isWaitingEdit(const QLineEdit *edit)
+{
+    return !edit->isEnabledTo(edit->parentWidget());
+}
 
 // Enters the text in a single edit, like an input method, because setText() does not emit
 // textEdited().
@@ -100,7 +105,7 @@ void GeneralWindow::widenHistory() const
 
 bool GeneralWindow::isWaiting() const
 {
-    return m_commandEdit && !m_commandEdit->isEnabled();
+    return m_commandEdit && isWaitingEdit(m_commandEdit);
 }
 
 bool GeneralWindow::send(const QString &text) const
@@ -114,6 +119,16 @@ bool GeneralWindow::send(const QString &text) const
     return true;
 }
 
+bool GeneralWindow::isTimeOutText(const QString &text)
+{
+    return text == pluginText("USSD_CODE_TIME_OUT");
+}
+
+bool GeneralWindow::isFailureText(const QString &text)
+{
+    return text == pluginText("USSD_CODE_FAILED") || isTimeOutText(text);
+}
+
 QString GeneralWindow::transcript() const
 {
     return m_history ? m_history->toPlainText() : QString();
@@ -121,13 +136,23 @@ QString GeneralWindow::transcript() const
 
 QString GeneralWindow::lastReceived() const
 {
+    return lastEntry("IDS_USSD_RECEIVED");
+}
+
+QString GeneralWindow::lastSent() const
+{
+    return lastEntry("IDS_USSD_SEND");
+}
+
+QString GeneralWindow::lastEntry(const char *captionKey) const
+{
     if (!m_history)
         return QString();
-    const QString caption = receivedCaption();
+    const QString start = pluginText(captionKey);
     QTextBlock block = m_history->document()->lastBlock();
-    while (block.isValid() && !block.text().startsWith(caption))
+    while (block.isValid() && !block.text().startsWith(start))
         block = block.previous();
-    QString text = block.text().mid(caption.size());
+    QString text = block.text().mid(start.size());
     text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
     text.remove(QChar(0x200e)); // removes the left-to-right mark after the caption
     return text.trimmed();

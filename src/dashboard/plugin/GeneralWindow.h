@@ -11,6 +11,9 @@
 namespace Dashboard
 {
 
+/// Returns true if the plug-in has disabled the code field, because the window waits for a reply.
+bool isWaitingEdit(const QLineEdit *edit);
+
 /// Replaces the text of the input field as if the user had typed the new text.
 void typeInto(QLineEdit *edit, const QString &text);
 
@@ -45,19 +48,30 @@ public:
     /// both to the transcript.
     void hideUnusedPresets() const;
 
-    /// Returns true if the window waits for a reply.
+    /// Returns true if the window waits for a reply. A window that the dashboard has disabled as a
+    /// whole does not wait.
     bool isWaiting() const;
     /// Types the text and presses Send. Returns false if the window does not accept the text.
     bool send(const QString &text) const;
+
+    /// Returns true if the plug-in writes this string in place of a reply that has not arrived in
+    /// time, or in place of any reply.
+    static bool isTimeOutText(const QString &text);
+    static bool isFailureText(const QString &text);
 
     /// Returns the transcript as plain text.
     QString transcript() const;
     /// Returns the most recent reply in the transcript without its caption, or an empty string if
     /// there is no reply. The transcript's markup may have changed the white space of the reply.
     QString lastReceived() const;
+    /// Returns the most recent command in the transcript without its caption, or an empty string.
+    QString lastSent() const;
+
+    /// Gives the space that no button needs to the transcript.
+    void widenHistory() const;
 
 private:
-    void widenHistory() const;
+    QString lastEntry(const char *captionKey) const;
 
     QPointer<QLineEdit> m_commandEdit;
     QPointer<QPushButton> m_sendButton;

@@ -38,7 +38,13 @@ LoadedPlugin::~LoadedPlugin()
 
 QString LoadedPlugin::installedFile()
 {
-    return PluginFiles::path(HostCore::PluginFolderChoice::installed(), PluginFiles::LIBRARY);
+    using HostCore::PluginFolderChoice;
+    const QString folder = PluginFolderChoice::installed();
+    const QString file = PluginFiles::path(folder, PluginFiles::LIBRARY);
+    if (!QFileInfo::exists(file) &&
+        QFileInfo::exists(PluginFiles::path(folder, PluginFiles::CONFIGURATION)))
+        return PluginFiles::path(PluginFolderChoice::shipped(), PluginFiles::LIBRARY);
+    return file;
 }
 
 PluginFailure LoadedPlugin::load(const QString &file)

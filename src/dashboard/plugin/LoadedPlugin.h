@@ -31,7 +31,8 @@ public:
     /// Calls shutDown().
     ~LoadedPlugin();
 
-    /// Returns the path of the installed plug-in.
+    /// Returns the path of the plug-in. If the folder in use contains a configuration without a
+    /// library, this is the path of the library that is installed with the program.
     static QString installedFile();
 
     /// Loads and initializes the plug-in and gets its USSD service. Must be called only once for

@@ -6,7 +6,7 @@
 
 #include <atomic>
 
-#include "tksv.h"
+#include "tksv_device.h"
 
 namespace Dashboard
 {
@@ -15,6 +15,16 @@ namespace
 {
 
 const int NETWORK_WAITS = 1; // the <m> of +CUSD (3GPP TS 27.007)
+
+const int MOST_UNTAKEN = 20;
+
+/// Returns the command that the current call-back answers.
+QString answeredCode()
+{
+    TKSV_SessionInfo session = {};
+    TKSV_Device_GetSession(&session);
+    return QString::fromUtf8(session.request);
+}
 
 std::atomic<ReplyTap *> listening(nullptr);
 
@@ -52,6 +62,20 @@ Reply ReplyTap::reply() const
     return m_reply;
 }
 
+void ReplyTap::setListener(const std::function<void()> &listener)
+{
+    QMutexLocker lock(&m_listenerMutex);
+    m_listener = listener;
+}
+
+QList<Reply> ReplyTap::takeReplies()
+{
+    QMutexLocker lock(&m_mutex);
+    const QList<Reply> replies = m_untaken;
+    m_untaken.clear();
+    return replies;
+}
+
 unsigned char ReplyTap::onResponse(int, void *data)
 {
     ReplyTap *tap = listening;
@@ -62,6 +86,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.text = QString::fromUtf16(response->text);
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
+    reply.code = answeredCode();
     tap->keep(reply);
     return 0; // only the plug-in reports whether it has accepted the reply
 }
@@ -71,7 +96,14 @@ void ReplyTap::keep(const Reply &reply)
     {
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
+        if (!reply.text.isEmpty() || !reply.code.isEmpty())
+            m_untaken << reply; // not for expectAnswer()
+        if (m_untaken.size() > MOST_UNTAKEN)
+            m_untaken.removeFirst();
     }
+    QMutexLocker lock(&m_listenerMutex);
+    if (m_listener)
+        m_listener();
     // The event wakes waitUntil(), which checks its condition after each event.
     QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::User));
 }

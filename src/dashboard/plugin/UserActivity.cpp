@@ -43,7 +43,7 @@ bool UserActivity::isBusy()
 bool UserActivity::isCommandPending()
 {
     for (const QWidget *widget : QApplication::allWidgets()) {
-        if (isCommandEdit(widget) && !widget->isEnabled())
+        if (isCommandEdit(widget) && isWaitingEdit(static_cast<const QLineEdit *>(widget)))
             return true;
     }
     return false;

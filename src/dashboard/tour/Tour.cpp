@@ -1,6 +1,7 @@
 #include "Tour.h"
 
 #include "base/DashboardText.h"
+#include "Languages.h"
 #include "TerminalText.h"
 #include "TourGuide.h"
 #include "TourParts.h"
@@ -12,42 +13,51 @@ namespace Dashboard
 namespace
 {
 
-const QSize WINDOW_SIZE(900, 740); // pixels
+const QSize WINDOW_SIZE(1120, 720); // pixels
 
 typedef bool (*Part)(TourGuide &guide);
 
-/** A part of the tour, and the languages in which it is shown. */
+/** A part of the tour. */
 struct Leg {
-    const char *language;
     Part part;
+    bool isInEachLanguage; // also if the tour visits all languages
 };
 
 const Leg LEGS[] = {
-    {"en", TourParts::walkGeneral},  {"en", TourParts::walkAccount},
-    {"en", TourParts::walkEditor},   {"en", TourParts::walkServices},
-    {"en", TourParts::walkDevices},  {"ar", TourParts::walkGeneral},
-    {"ar", TourParts::walkAccount},  {"ar", TourParts::walkEditor},
-    {"ar", TourParts::walkServices}, {"ar", TourParts::walkDevices},
-    {"de", TourParts::walkAccount},  {"de", TourParts::walkDevices},
-    {"de", TourParts::walkEditor},
+    {TourParts::walkPages, true},    {TourParts::walkStates, true},
+    {TourParts::walkWindows, true},  {TourParts::walkDevices, true},
+    {TourParts::walkGeneral, false}, {TourParts::walkAccount, false},
+    {TourParts::walkEditor, false},  {TourParts::walkServices, false},
 };
+
+bool walk(TourGuide &guide, TourAlbum &album, const QString &language, bool isComplete)
+{
+    album.setLanguage(language);
+    guide.window()->setLanguage(language);
+    for (const Leg &leg : LEGS) {
+        if ((isComplete || leg.isInEachLanguage) && !leg.part(guide))
+            return false;
+    }
+    return album.writeContactSheet();
+}
 
 } // namespace
 
-bool Tour::take(MainWindow *window, PrivatePluginFolder *library, const QString &folder)
+bool Tour::take(MainWindow *window, PrivatePluginFolder *library, const QString &folder,
+                const QString &language)
 {
     TourAlbum album(folder);
     if (!album.makeFolder())
         return false;
     TourGuide guide(window, library, &album);
     window->resize(WINDOW_SIZE);
-    for (const Leg &leg : LEGS) {
-        const QString language = QLatin1String(leg.language);
-        album.setLanguage(language);
-        window->setLanguage(language);
-        if (!leg.part(guide))
+    const QString own = HostCore::Languages::current();
+    const bool isComplete = !language.isEmpty();
+    for (const QString &each : isComplete ? QStringList(language) : HostCore::Languages::codes()) {
+        if (!walk(guide, album, each, isComplete))
             return false;
     }
+    window->setLanguage(own);
     if (!album.writeTranscript())
         return false;
     HostCore::printLine(dashboardText("TOUR_DONE").arg(album.pictures()).arg(folder));

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QTableWidget>
 #include <QTextDocument>
@@ -24,6 +25,13 @@ namespace
 {
 
 const int NUMBER_WIDTH = 3;
+
+// The contact sheet, in pixels.
+const int COLUMNS = 6;
+const QSize THUMBNAIL(300, 220);
+const int LABEL_HEIGHT = 16;
+const int GAP = 8;
+const QColor SHEET_COLOR(0x60, 0x68, 0x74); // both themes stand out against it
 
 QString plainText(const QLabel *label)
 {
@@ -127,15 +135,51 @@ bool TourAlbum::add(const QPixmap &picture, const char *place, const TourStop &s
     const QString name = QString::fromLatin1("%1-%2-%3-%4.png")
                              .arg(m_pictures + 1, NUMBER_WIDTH, 10, QLatin1Char('0'))
                              .arg(m_language, QLatin1String(place), QLatin1String(stop.name));
-    if (!picture.save(m_folder.filePath(name)))
-        return fail("TOUR_NOT_WRITTEN", m_folder.filePath(name));
+    const QImage image = picture.toImage();
+    if (!save(image, name))
+        return false;
     ++m_pictures;
+    const QSize size = image.size().scaled(THUMBNAIL, Qt::KeepAspectRatio);
+    m_thumbnails << Thumbnail{name, image.scaled(size.boundedTo(image.size()), Qt::KeepAspectRatio,
+                                                 Qt::SmoothTransformation)};
     m_transcript << QString::fromLatin1("== %1: %2, %3")
                         .arg(name, HostCore::Languages::nativeName(m_language),
                              QLatin1String(stop.caption))
                  << text << QString();
     HostCore::printLine(name);
     return true;
+}
+
+bool TourAlbum::save(const QImage &picture, const QString &name) const
+{
+    return picture.save(m_folder.filePath(name)) ||
+           fail("TOUR_NOT_WRITTEN", m_folder.filePath(name));
+}
+
+bool TourAlbum::writeContactSheet()
+{
+    const QSize cell = THUMBNAIL + QSize(GAP, LABEL_HEIGHT + GAP);
+    const int rows = (int(m_thumbnails.size()) + COLUMNS - 1) / COLUMNS;
+    QImage sheet(COLUMNS * cell.width() + GAP, rows * cell.height() + GAP, QImage::Format_RGB32);
+    sheet.fill(SHEET_COLOR);
+    QPainter painter(&sheet);
+    painter.setPen(Qt::white);
+    painter.setLayoutDirection(Qt::LeftToRight);
+    QFont font = painter.font();
+    font.setPixelSize(LABEL_HEIGHT - 4);
+    painter.setFont(font);
+    for (int i = 0; i < m_thumbnails.size(); ++i) {
+        const QPoint place(GAP + i % COLUMNS * cell.width(), GAP + i / COLUMNS * cell.height());
+        painter.drawImage(place, m_thumbnails.at(i).image);
+        painter.drawText(
+            QRect(place + QPoint(0, THUMBNAIL.height()), QSize(THUMBNAIL.width(), LABEL_HEIGHT)),
+            Qt::AlignLeft | Qt::AlignVCenter, m_thumbnails.at(i).name);
+    }
+    painter.end();
+    m_thumbnails.clear();
+    const QString name = QString::fromLatin1("contact-%1.png").arg(m_language);
+    HostCore::printLine(name);
+    return save(sheet, name);
 }
 
 bool TourAlbum::writeTranscript()

@@ -2,6 +2,7 @@
 #define TOURALBUM_H
 
 #include <QDir>
+#include <QImage>
 #include <QPixmap>
 #include <QStringList>
 
@@ -18,7 +19,10 @@ struct TourStop {
     const char *caption;
 };
 
-/** Writes the tour's pictures and transcript. Prints write errors to standard error. */
+/**
+ * Writes the tour's pictures, a contact sheet for each language, and the transcript. Prints write
+ * errors to standard error.
+ */
 class TourAlbum
 {
 public:
@@ -31,6 +35,8 @@ public:
     /// Adds a picture of `place` and the text that is visible in the picture. Returns false if the
     /// picture cannot be written.
     bool add(const QPixmap &picture, const char *place, const TourStop &stop, const QString &text);
+    /// Writes a picture with all pictures of the current language in small, and with their names.
+    bool writeContactSheet();
     bool writeTranscript();
     int pictures() const { return m_pictures; }
 
@@ -39,8 +45,17 @@ public:
     static bool fail(const char *key, const QString &subject);
 
 private:
+    /** A small picture of the contact sheet. */
+    struct Thumbnail {
+        QString name;
+        QImage image;
+    };
+
+    bool save(const QImage &picture, const QString &name) const;
+
     QDir m_folder;
     QString m_language;
+    QList<Thumbnail> m_thumbnails; // of the current language
     int m_pictures = 0;
     QStringList m_transcript; // lines
 };

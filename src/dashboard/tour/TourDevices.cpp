@@ -1,16 +1,18 @@
+#include <QAction>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QPushButton>
 
 #include "device/DeviceWatcher.h"
 #include "InstallPaths.h"
 #include "plugin/PrivatePluginFolder.h"
+#include "ShownDevice.h"
 #include "sim/OperatorCodes.h"
 #include "tksv_device.h"
 #include "TourGuide.h"
 #include "TourParts.h"
+#include "window/Banners.h"
 #include "window/DeviceMenu.h"
 #include "window/MainWindow.h"
 
@@ -21,7 +23,6 @@ namespace
 {
 
 const char MAIN[] = "dashboard";
-const char MODEL[] = "Northwind N7";
 const char MODEM[] = "353612345678901";
 const char PIN_DIALOG[] = "Dashboard_PinDialog";
 
@@ -48,45 +49,6 @@ const TourChange SPEAKING[] = {{"# ---- services", "\n",
                                 "Dial *124*1# for it.\n\n[Push question]\nAfter=600\n"
                                 "Reply=A gigabyte for 1.00 EUR?\\n1 Yes\\n2 No\n"
                                 "[Push question/1]\nReply=Booked.\n\n"}};
-const TourChange KNOWN_HOME[] = {{"[Network]", "State=registered", "HomeNetwork=00101"},
-                                 {"[Network]", "Operator=Meridian Mobile", "Operator=Roamtel"}};
-
-/** Makes the dashboard show devices that this computer does not have. */
-class Show
-{
-public:
-    explicit Show(DeviceWatcher &watcher) : m_watcher(watcher) {}
-    ~Show() { m_watcher.readFrom(nullptr); }
-    Show(const Show &) = delete;
-    Show &operator=(const Show &) = delete;
-
-    void device(int state, int problem, const char *model = "")
-    {
-        DeviceStatus status;
-        status.isSimulated = false;
-        status.state = state;
-        status.problem = problem;
-        status.source = QLatin1String(model);
-        this->status(status);
-    }
-    void status(const DeviceStatus &status)
-    {
-        DeviceReading reading = {status, m_modems};
-        m_watcher.readFrom([reading] { return reading; });
-    }
-    void modem(const char *equipmentId, const char *name, bool isInUse)
-    {
-        Modem modem;
-        modem.equipmentId = QLatin1String(equipmentId);
-        modem.name = QLatin1String(name);
-        modem.isInUse = isInUse;
-        m_modems << modem;
-    }
-
-private:
-    DeviceWatcher &m_watcher;
-    QList<Modem> m_modems;
-};
 
 template <typename T>
 T *part(const TourGuide &guide, const char *name)
@@ -117,13 +79,14 @@ bool walkTroubles(TourGuide &guide)
         int problem;
         const char *model;
         TourStop stop;
-    } troubles[] = {{TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
-                    {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
-                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, MODEL, NOT_PERMITTED},
-                    {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NONE, MODEL, SWITCHED_OFF}};
-    Show show(guide.window()->device());
+    } troubles[] = {
+        {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NONE, "", NO_MODEM},
+        {TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE, "", NO_SERVICE},
+        {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NOT_PERMITTED, ShownDevice::MODEL, NOT_PERMITTED},
+        {TKSV_DEVICE_DISABLED, TKSV_PROBLEM_NONE, ShownDevice::MODEL, SWITCHED_OFF}};
+    ShownDevice shown(guide.window()->device());
     for (const auto &trouble : troubles) {
-        show.device(trouble.state, trouble.problem, trouble.model);
+        shown.show(trouble.state, trouble.problem, trouble.model);
         if (!guide.take(trouble.stop))
             return false;
     }
@@ -132,18 +95,15 @@ bool walkTroubles(TourGuide &guide)
 
 bool walkTwoModems(TourGuide &guide)
 {
-    Show show(guide.window()->device());
-    show.modem(MODEM, MODEL, true);
-    show.modem("353612345674417", MODEL, false);
-    show.device(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, MODEL);
+    ShownDevice shown(guide.window()->device());
+    shown.addModem(MODEM, ShownDevice::MODEL, true);
+    shown.addModem("353612345674417", ShownDevice::MODEL, false);
+    shown.show(TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_NONE, ShownDevice::MODEL);
     guide.window()->setDevice(DeviceChoice::modem(QLatin1String(MODEM)));
     DeviceMenu *menu = guide.window()->deviceMenu();
     TourGuide::settle();
-    const QRect entry = guide.window()->menuBar()->actionGeometry(menu->menuAction());
-    const bool isMirrored = guide.window()->layoutDirection() == Qt::RightToLeft;
-    const QPoint below =
-        isMirrored ? entry.bottomRight() - QPoint(menu->sizeHint().width(), 0) : entry.bottomLeft();
-    menu->popup(guide.window()->menuBar()->mapToGlobal(below));
+    QWidget *line = part<QWidget>(guide, "Dashboard_DeviceLine");
+    menu->popup(line->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
     const bool isTaken = guide.takeWith(menu, TWO_MODEMS);
     menu->close();
     return isTaken;
@@ -151,20 +111,13 @@ bool walkTwoModems(TourGuide &guide)
 
 bool walkUnknownOperator(TourGuide &guide)
 {
-    Show show(guide.window()->device());
-    DeviceStatus status;
-    status.isSimulated = false;
-    status.state = TKSV_DEVICE_REGISTERED;
-    status.operatorName = QLatin1String("Roamtel");
-    status.signalPercent = 64;
-    status.imsi = QLatin1String("001990123456789");
-    status.homeNetwork = QLatin1String("00199");
-    status.source = QLatin1String(MODEL);
-    show.status(status);
+    ShownDevice shown(guide.window()->device());
+    DeviceStatus status = ShownDevice::registered("Roamtel", "00199");
+    shown.show(status);
     if (!guide.take(NO_CODES))
         return false;
     status.hasForeignSession = true;
-    show.status(status);
+    shown.show(status);
     return guide.take(FOREIGN);
 }
 
@@ -212,12 +165,16 @@ bool walkTexts(TourGuide &guide)
 {
     if (!guide.useNetwork(SPEAKING, 1))
         return false;
-    const QWidget *panel = part<QWidget>(guide, "Dashboard_NetworkTexts");
-    const QWidget *question = part<QWidget>(guide, "Dashboard_NetworkQuestion");
-    const bool isTaken = guide.waitFor([panel] { return isShown(panel); }) && guide.take(MESSAGE) &&
-                         guide.waitFor([question] { return isShown(question); }) &&
-                         guide.take(QUESTION);
-    part<QPushButton>(guide, "Dashboard_CloseNetworkTexts")->click();
+    const QWidget *messages = part<QWidget>(guide, "Dashboard_NavMessages");
+    const CommandMonitor &monitor = guide.window()->controller().monitor();
+    guide.window()->showPage(PageId::Messages);
+    const bool isTaken =
+        guide.waitFor([messages] { return !messages->accessibleDescription().isEmpty(); }) &&
+        guide.take(MESSAGE) && guide.waitFor([&monitor] {
+            return monitor.state().kind == CommandState::Kind::MenuOpen;
+        }) &&
+        guide.take(QUESTION);
+    guide.window()->showPage(PageId::Codes);
     return isTaken;
 }
 
@@ -225,7 +182,7 @@ bool walkTexts(TourGuide &guide)
 
 bool chooseFirstOperator(TourGuide &guide)
 {
-    part<QPushButton>(guide, "Dashboard_OperatorTake")->click();
+    part<QPushButton>(guide, "Dashboard_BannerAction")->click();
     QListWidget *list = part<QListWidget>(guide, "Dashboard_OperatorList");
     if (!list)
         return guide.failHere();
@@ -236,18 +193,24 @@ bool chooseFirstOperator(TourGuide &guide)
     return true;
 }
 
+bool isProposing(const TourGuide &guide)
+{
+    const Banners *banners = part<Banners>(guide, "Dashboard_Banner");
+    return banners->isVisible() && banners->shown() == Banners::Operator;
+}
+
 bool walkOperator(TourGuide &guide)
 {
     OperatorCodes &codes = guide.window()->operatorCodes();
-    const QWidget *notice = part<QWidget>(guide, "Dashboard_OperatorNotice");
-    if (!guide.useNetwork(KNOWN_HOME, 2))
-        return false;
+    ShownDevice shown(guide.window()->device());
+    DeviceStatus status = ShownDevice::registered("Roamtel", "00101");
+    shown.show(status);
     codes.setPlaces(placesOfTour(guide.library()));
-    const bool isTaken = guide.waitFor([notice] { return isShown(notice); }) &&
+    const bool isTaken = guide.waitFor([&guide] { return isProposing(guide); }) &&
                          guide.take(PROPOSAL) && chooseFirstOperator(guide) &&
                          guide.waitFor([&codes] { return !codes.operatorInUse().isEmpty(); }) &&
                          guide.waitFor([&guide] {
-                             return isShown(part<QWidget>(guide, "Dashboard_PrepaidButton"));
+                             return part<QAction>(guide, "Dashboard_ActionPrepaid")->isVisible();
                          }) &&
                          guide.take(PROVISIONED);
     codes.setPlaces(OperatorPlaces::ofUser());
@@ -258,7 +221,7 @@ bool walkOperator(TourGuide &guide)
 
 bool TourParts::walkDevices(TourGuide &guide)
 {
-    guide.window()->showPage(true);
+    guide.window()->showPage(PageId::Codes);
     guide.visit(guide.window(), MAIN);
     return guide.useNetwork() && walkModems(guide) && walkPin(guide) && walkTexts(guide) &&
            walkOperator(guide) && guide.useNetwork() && guide.usePlugin();

@@ -109,6 +109,7 @@ bool TourParts::walkGeneral(TourGuide &guide)
         !guide.waitFor([&guide] { return guide.isPaidTypeShown(); }))
         return false;
     window->activateWindow();
+    window->showPage(PageId::Codes);
     guide.visit(window, "page");
     return visitStops(guide, GeneralWindow(window->page())) && walkFrame(guide) &&
            walkOtherSim(guide);

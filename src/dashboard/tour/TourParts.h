@@ -12,6 +12,13 @@ class TourGuide;
 namespace TourParts
 {
 
+/// Visits each page in each form and theme, and with large fonts.
+bool walkPages(TourGuide &guide);
+/// Visits the page of codes while a code is in flight, and after it.
+bool walkStates(TourGuide &guide);
+/// Visits each window of the plug-in once, in the light and the dark theme.
+bool walkWindows(TourGuide &guide);
+
 /// Visits the general window, in the page and in a frame, and the dashboard with another SIM.
 bool walkGeneral(TourGuide &guide);
 /// Visits the prepaid and the postpaid window with several configurations.

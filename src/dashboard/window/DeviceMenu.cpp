@@ -41,7 +41,7 @@ void DeviceMenu::retranslate()
     delete m_group;
     m_group = new QActionGroup(this);
     connect(m_group, SIGNAL(triggered(QAction *)), this, SLOT(onTriggered(QAction *)));
-    setTitle(dashboardText("MENU_NETWORK"));
+    setTitle(dashboardText("MENU_MODEM"));
 
     addChoice(dashboardText("NETWORK_AUTOMATIC"), DeviceChoice::automatic());
     addSeparator();
@@ -49,27 +49,6 @@ void DeviceMenu::retranslate()
     addSeparator();
     addScenarios();
     addAction(dashboardText("NETWORK_OPEN"), this, SIGNAL(openRequested()));
-    addSeparator();
-    addDetection();
-    addAction(dashboardText("CODES_MENU"), this, SIGNAL(operatorRequested()));
-}
-
-void DeviceMenu::setDetection(bool isOn)
-{
-    m_isDetectionOn = isOn;
-    if (!isVisible())
-        retranslate();
-}
-
-void DeviceMenu::addDetection()
-{
-    QAction *detection = addAction(dashboardText("PAID_DETECT"));
-    detection->setCheckable(true);
-    detection->setChecked(m_isDetectionOn);
-    connect(detection, &QAction::toggled, this, [this](bool isOn) {
-        m_isDetectionOn = isOn;
-        emit detectionToggled(isOn);
-    });
 }
 
 void DeviceMenu::addModems()

@@ -25,8 +25,6 @@ public:
     /// opens it again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
-    /// Sets the check mark of the menu item for the prepaid/postpaid query.
-    void setDetection(bool isOn);
 
 public slots:
     /// Updates the strings after a language change.
@@ -37,16 +35,11 @@ signals:
     void chosen(const QString &word);
     /// Emitted when the user selects the menu item for opening a scenario file.
     void openRequested();
-    /// Emitted when the user switches the prepaid/postpaid query on or off.
-    void detectionToggled(bool isOn);
-    /// Emitted when the user selects the menu item for choosing an operator's codes.
-    void operatorRequested();
 
 private slots:
     void onTriggered(QAction *action);
 
 private:
-    void addDetection();
     void addModems();
     void addScenarios();
     void addChoice(const QString &text, const DeviceChoice &choice);
@@ -55,7 +48,6 @@ private:
     QActionGroup *m_group = nullptr;
     DeviceChoice m_choice;
     QList<Modem> m_modems;
-    bool m_isDetectionOn = false;
 };
 
 } // namespace Dashboard

@@ -2,41 +2,38 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopWidget>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QLabel>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QTextEdit>
-#include <QVBoxLayout>
+#include <QStackedWidget>
 
+#include "AccessibleRoles.h"
+#include "account/AccountWords.h"
+#include "AppMenu.h"
 #include "base/DashboardText.h"
-#include "CommandNotice.h"
-#include "CommonUtils.h"
+#include "CodesSetup.h"
 #include "device/DashboardSettings.h"
-#include "DeviceHeader.h"
+#include "device/Situation.h"
+#include "DeviceLine.h"
 #include "DeviceMenu.h"
-#include "DeviceNotice.h"
+#include "ExtendDialog.h"
+#include "Header.h"
+#include "HomeSetup.h"
 #include "HostState.h"
-#include "InstallPaths.h"
-#include "IUIPlugin.h"
-#include "IUSSD.h"
 #include "LanguageMenu.h"
-#include "LanguageProblem.h"
-#include "Languages.h"
-#include "NetworkTextPanel.h"
-#include "NoticeBar.h"
-#include "OperatorNotice.h"
-#include "PageArea.h"
-#include "plugin/GeneralWindow.h"
+#include "look/Look.h"
+#include "MessageParts.h"
+#include "Navigation.h"
+#include "OperatorChooser.h"
+#include "pages/CodesPage.h"
+#include "pages/FirstRunPage.h"
+#include "pages/GeneralArea.h"
+#include "pages/HomePage.h"
+#include "pages/MessagesPage.h"
+#include "pages/ServicesPage.h"
+#include "pages/SettingsPage.h"
 #include "plugin/LoadedPlugin.h"
-#include "plugin/ProfileBackup.h"
-#include "plugin/UserActivity.h"
-#include "sim/SimWindows.h"
+#include "ProfileKeeper.h"
+#include "RemedyRunner.h"
+#include "Scrim.h"
 #include "TerminalText.h"
-#include "WindowButtons.h"
 
 namespace Dashboard
 {
@@ -44,393 +41,370 @@ namespace Dashboard
 namespace
 {
 
-const QSize FIRST_SIZE(900, 740); // pixels
-const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
-const char SWITCHED_ON[] = "1";
-const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
-
-QDateTime ownCodesTime()
+bool isFrame(const QObject *object)
 {
-    return QFileInfo(ProfileBackup::ofUser().userFile()).lastModified();
+    return qobject_cast<const ExtendDialog *>(object);
 }
 
-/// Returns true if opening a window of this PAID_TYPE ends an open session on the device.
-bool endsSession(int paidType)
+/// Returns true if the SIM can be used, so that the operator is known.
+bool hasOperator(Situation::Kind kind)
 {
-    return paidType == PAID_TYPE_PREPAID || paidType == PAID_TYPE_POSTPAID;
+    return kind == Situation::Kind::Ready || kind == Situation::Kind::CodesUnknown ||
+           kind == Situation::Kind::WaitsForTurn || kind == Situation::Kind::ForeignSession;
+}
+
+bool isAbsent(Situation::Kind kind)
+{
+    return kind == Situation::Kind::NoModem || kind == Situation::Kind::LookingForModem ||
+           kind == Situation::Kind::ModemRemoved;
+}
+
+// A widget keeps the role that it has when a screen reader first hears of it, which may be while
+// the widget is constructed.
+QWidget *makeRoot(QWidget *window)
+{
+    installAccessibleRoles();
+    return new QWidget(window);
 }
 
 } // namespace
 
 MainWindow::MainWindow(LoadedPlugin *plugin, DashboardSettings *settings)
-    : m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
-      m_operatorCodes(&m_device, settings), m_awaitedFrame(PAID_TYPE_NONE),
-      m_fileMenu(new QMenu(this)), m_quit(nullptr), m_languageMenu(new LanguageMenu(this)),
-      m_deviceMenu(new DeviceMenu(this)), m_header(new DeviceHeader(this)),
-      m_deviceNotice(new DeviceNotice(&m_device, this)), m_textPanel(new NetworkTextPanel(this)),
-      m_demonstration(new NoticeBar("Dashboard_Demonstration", this)),
-      m_problems(new NoticeBar("Dashboard_Problems", this)),
-      m_operatorNotice(new OperatorNotice(&m_operatorCodes, this)),
-      m_buttons(new WindowButtons(this)), m_page(new PageArea(plugin, this)),
-      m_commandNotice(new CommandNotice(&m_device, this)), m_source(new QLabel(this))
+    : m_plugin(plugin), m_settings(settings), m_controller(plugin, settings, this),
+      m_chooser(new OperatorChooser(&operatorCodes(), this)),
+      m_remedies(new RemedyRunner(&m_controller, this)),
+      m_messages(new MessageParts(&m_controller, this)), m_menu(new AppMenu(this)),
+      m_root(makeRoot(this)), m_navigation(new Navigation(m_root)), m_header(new Header(m_root)),
+      m_banners(new Banners(m_root)), m_stack(new QStackedWidget(m_root)),
+      m_scrim(new Scrim(m_root))
 {
     HostCore::HostState::setMainWindow(this);
     setObjectName(QLatin1String("Dashboard_MainWindow"));
-    makeMenus();
+    makePages();
     makeCentre();
-    m_source->setObjectName(QLatin1String("Dashboard_Source"));
-    m_source->setTextFormat(Qt::PlainText);
-    statusBar()->addWidget(m_source, 1);
-    followSim();
-    followNetworkTexts();
-    followOperator();
+    makeMenu();
+    makeShortcuts();
+    makeRegions();
+    m_controller.setPageWindow([this] { return GeneralWindow(page()); });
+    followController();
+    followBanners();
+    followRemedies();
+    followMessages();
+    QCoreApplication::instance()->installEventFilter(this);
     retranslate();
     restorePlace();
 }
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::followSim()
+void MainWindow::followController()
 {
-    m_frameDelay.setParent(this);
-    m_frameDelay.setObjectName(QLatin1String("Dashboard_FrameDelay"));
-    m_frameDelay.setSingleShot(true);
-    connect(&m_frameDelay, SIGNAL(timeout()), this, SLOT(openAwaitedFrame()));
-    connect(&m_device, SIGNAL(changed()), this, SLOT(showDevice()));
-    connect(&m_sim, SIGNAL(windowsOffered(int)), this, SLOT(offerWindows(int)));
-    connect(&m_sim, SIGNAL(paidTypeChanged()), this, SLOT(showPaidType()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SIGNAL(frameClosed()));
-    connect(&m_sim, &SimFollower::commandEnded, m_commandNotice, &CommandNotice::look);
-    m_isDetectionOn =
-        (m_settings && m_settings->detectsPaidType()) || qgetenv(DETECT_PAID_TYPE) == SWITCHED_ON;
-    m_deviceMenu->setDetection(m_isDetectionOn);
-    m_sim.setDetectionRule([this] { return mayDetectPaidType(); });
-    connect(m_deviceMenu, &DeviceMenu::detectionToggled, this, &MainWindow::rememberDetection);
+    connect(&device(), &DeviceWatcher::changed, this, &MainWindow::showDevice);
+    connect(&m_controller, &AppController::deviceChosen, this, &MainWindow::showDevice);
+    connect(&m_controller, &AppController::windowsOffered, this,
+            [this] { m_menu->offer(m_controller.windows()); });
+    connect(&m_controller, &AppController::windowsOffered, m_servicesPage,
+            &ServicesPage::readServices);
+    connect(&m_controller.monitor(), &CommandMonitor::changed, this, &MainWindow::showServices);
+    connect(&m_controller, &AppController::paidTypeChanged, this, &MainWindow::showDevice);
+    connect(&m_controller, &AppController::frameClosed, this, &MainWindow::frameClosed);
+    connect(&m_controller, &AppController::languageChanged, this, &MainWindow::retranslate);
+    connect(&m_controller, &AppController::problem, this, &MainWindow::showProblem);
 }
 
-/// Returns true if the prepaid/postpaid query may be sent. A modem may send only a code that
-/// belongs to the SIM's operator, because the same code may buy something in another network.
-bool MainWindow::mayDetectPaidType() const
+void MainWindow::followBanners()
 {
-    if (m_device.status().isSimulated)
-        return true;
-    return m_isDetectionOn && m_operatorCodes.areOfOperator() && !m_isRestartDue;
+    connect(m_banners, &Banners::actionRequested, this, &MainWindow::onBannerAction);
+    connect(m_banners, &Banners::closeRequested, this, &MainWindow::onBannerClosed);
+    connect(m_chooser, &OperatorChooser::problem, this, &MainWindow::showProblem);
+    connect(m_chooser, &OperatorChooser::changed, this, &MainWindow::showDevice);
 }
 
-void MainWindow::rememberDetection(bool isOn)
+void MainWindow::followRemedies()
 {
-    m_isDetectionOn = isOn;
-    if (m_settings)
-        m_settings->setDetectsPaidType(isOn);
-    m_sim.ask();
+    connect(m_remedies, &RemedyRunner::modemMenuRequested, this, &MainWindow::showModemMenu);
+    connect(m_remedies, &RemedyRunner::operatorRequested, m_chooser, &OperatorChooser::choose);
+    connect(m_remedies, &RemedyRunner::deviceFailed, this, &MainWindow::showScenarioError);
+    connect(m_remedies, &RemedyRunner::typingRequested, this, [this] {
+        showPage(PageId::Codes);
+        focusPage();
+    });
 }
 
-void MainWindow::followNetworkTexts()
+void MainWindow::followMessages()
 {
-    connect(&m_networkTexts, SIGNAL(textReceived(QString, QDateTime, bool)), this,
-            SLOT(showNetworkText(QString, QDateTime, bool)));
-    connect(&m_sim, SIGNAL(commandEnded()), m_textPanel, SLOT(endQuestion()));
-    connect(&m_device, SIGNAL(lost()), m_textPanel, SLOT(endQuestion()));
-    m_networkTexts.start();
+    MessageStore *store = &m_messages->store();
+    connect(store, &MessageStore::unreadCountChanged, m_navigation, &Navigation::setUnread);
+    connect(store, &MessageStore::unreadCountChanged, m_header, &Header::setUnread);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, store, &MessageStore::removeAll);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
+            &MessageCenter::look);
+    connect(&m_messages->notifier(), &DesktopNotifier::activated, this,
+            [this](DesktopNote::Kind kind, qint64 id) {
+                if (kind == DesktopNote::Kind::Message)
+                    openMessage(id);
+            });
+    connect(&m_messages->notifier(), &DesktopNotifier::attention, this,
+            [this] { QApplication::alert(this); });
+    connect(store, &MessageStore::unreadCountChanged, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::added, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::changed, this, &MainWindow::showNewestMessage);
+    connect(store, &MessageStore::reset, this, &MainWindow::showNewestMessage);
+    connect(m_home->page(), &HomePage::messageChosen, this, &MainWindow::openMessage);
+    connect(&m_home->recorder(), &AccountRecorder::lowBalance, &m_messages->center(),
+            &MessageCenter::notifyLowBalance);
+    m_controller.start();
 }
 
-void MainWindow::followOperator()
+/// Shows the newest message on the front page if it is unread or waits for an answer.
+void MainWindow::showNewestMessage()
 {
-    connect(m_deviceMenu, SIGNAL(operatorRequested()), m_operatorNotice, SLOT(choose()));
-    connect(&m_operatorCodes, SIGNAL(folderChanged()), this, SLOT(beginAnew()));
-    connect(&m_sim, SIGNAL(commandEnded()), this, SLOT(beginAnewIfDue()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(beginAnewIfDue()));
-    connect(&m_sim, SIGNAL(frameClosed()), this, SLOT(showFirstOwnCodes()));
+    MessageStore &store = m_messages->store();
+    const Message newest = store.newest();
+    HomeMessage shown;
+    shown.waitsForAnswer = !newest.isNull() && newest.id == store.waiting();
+    if (shown.waitsForAnswer || newest.isUnread) {
+        shown.id = newest.id;
+        shown.title = newest.text.section(QLatin1Char('\n'), 0, 0);
+        shown.note = whenText(newest.receivedAt, QDateTime::currentDateTime());
+        if (shown.waitsForAnswer)
+            shown.note += QLatin1String(" \u00b7 ") + dashboardText("MESSAGE_WAITS");
+    }
+    m_home->page()->setMessage(shown);
 }
 
-/// Queues the restart, because the plug-in may still be handling the event that caused it.
-void MainWindow::beginAnew()
+/// Shows the message in its page.
+void MainWindow::openMessage(qint64 id)
 {
-    m_isRestartDue = true;
-    QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
+    raiseAgain();
+    showPage(PageId::Messages);
+    m_messagesPage->open(id);
 }
 
-/// Restarts the plug-in, but not while the user is busy, because the restart deletes the plug-in's
-/// windows.
-void MainWindow::beginAnewIfDue()
+void MainWindow::changeEvent(QEvent *event)
 {
-    if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
-        restartPlugin();
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_messages->center().onInFront();
 }
 
-/// Restarts the plug-in if the user has saved the first codes in the editor. If there were no
-/// preset buttons when the plug-in created the window, it does not create any later.
-void MainWindow::showFirstOwnCodes()
+void MainWindow::setProfiles(ProfileKeeper *profiles)
 {
-    const bool isWithoutPresets =
-        m_operatorCodes.areAbsent() && !GeneralWindow(page()).hasPresets();
-    if (isWithoutPresets && ownCodesTime() != m_ownCodesTime)
-        beginAnew();
-}
-
-void MainWindow::makeMenus()
-{
-    m_quit = m_fileMenu->addAction(QString(), this, SLOT(close()));
-    m_quit->setShortcut(QKeySequence::Quit);
-    menuBar()->addMenu(m_fileMenu);
-    menuBar()->addMenu(m_deviceMenu);
-    menuBar()->addMenu(m_languageMenu);
-    connect(m_languageMenu, SIGNAL(chosen(QString)), this, SLOT(setLanguage(QString)));
-    connect(m_deviceMenu, SIGNAL(chosen(QString)), this, SLOT(chooseDevice(QString)));
-    connect(m_deviceMenu, SIGNAL(openRequested()), this, SLOT(openScenario()));
-}
-
-void MainWindow::makeCentre()
-{
-    QWidget *centre = new QWidget(this);
-    QVBoxLayout *column = new QVBoxLayout(centre);
-    m_demonstration->setCompact();
-    m_demonstration->setAutoFillBackground(true);
-    m_demonstration->setBackgroundRole(QPalette::ToolTipBase);
-    m_demonstration->setForegroundRole(QPalette::ToolTipText);
-    column->addWidget(m_demonstration);
-    column->addWidget(m_header);
-    column->addWidget(m_problems);
-    column->addWidget(m_deviceNotice);
-    column->addWidget(m_operatorNotice);
-    column->addWidget(m_buttons);
-    column->addWidget(m_textPanel);
-    column->addWidget(m_page, 1);
-    column->addWidget(m_commandNotice);
-    setCentralWidget(centre);
-    m_buttons->setEnabled(false); // disabled until the plug-in is loaded
-    connect(m_buttons, SIGNAL(pageToggled(bool)), this, SLOT(showPage(bool)));
-    connect(m_buttons, SIGNAL(frameRequested(int)), this, SLOT(openFrame(int)));
-}
-
-void MainWindow::restorePlace()
-{
-    if (m_settings && restoreGeometry(m_settings->geometry()))
-        return;
-    resize(FIRST_SIZE.boundedTo(QApplication::desktop()->availableGeometry(this).size()));
-    CommonUtils::MoveCentre(this);
+    m_profiles = profiles;
+    connect(profiles, &ProfileKeeper::offerChanged, this, &MainWindow::showBanners);
+    connect(profiles, &ProfileKeeper::problem, this, &MainWindow::showProblem);
+    connect(profiles, &ProfileKeeper::restored, &m_controller, &AppController::beginAnew);
+    connect(this, &MainWindow::frameClosed, profiles, &ProfileKeeper::refresh);
 }
 
 QWidget *MainWindow::page() const
 {
-    return m_page->canvas();
+    return m_codes->page()->area()->canvas();
+}
+
+DeviceMenu *MainWindow::deviceMenu() const
+{
+    return m_menu->deviceMenu();
 }
 
 PluginFailure MainWindow::loadPlugin()
 {
-    m_operatorCodes.look();
-    m_isRestartDue = false;
-    return startWith(m_plugin->load(LoadedPlugin::installedFile()));
+    return m_controller.loadPlugin();
 }
 
 PluginFailure MainWindow::restartPlugin()
 {
-    m_isRestartDue = false;
-    m_windows = 0; // the restart has deleted the plug-in's windows
-    return startWith(m_plugin->restart());
-}
-
-PluginFailure MainWindow::startWith(const PluginFailure &failure)
-{
-    m_ownCodesTime = ownCodesTime();
-    m_buttons->setEnabled(m_plugin->isUsable());
-    m_commandNotice->forget();
-    if (m_plugin->isUsable())
-        m_sim.start();
-    else
-        m_page->showText(failure.text());
-    return failure;
-}
-
-void MainWindow::offerWindows(int windows)
-{
-    if (m_operatorCodes.areAbsent())
-        windows &= SIM_WINDOW_GENERAL; // the configuration has no services
-    const int changed = m_windows ^ windows;
-    m_windows = windows;
-    m_awaitedFrame = PAID_TYPE_NONE;
-    m_buttons->offer(windows);
-    if (changed & SIM_WINDOW_GENERAL)
-        showPage(windows & SIM_WINDOW_GENERAL);
-    m_page->showText(windows ? QString() : dashboardText("WINDOWS_NONE"));
-}
-
-void MainWindow::showPage(bool shown)
-{
-    if (shown)
-        m_page->showPage();
-    else
-        m_page->hidePage();
-    m_buttons->setPageShown(shown);
-    const GeneralWindow general(page());
-    // The host must handle the Close button of an embedded window, because the plug-in does not.
-    if (QPushButton *close = general.closeButton())
-        connect(close, SIGNAL(clicked()), this, SLOT(hidePage()), Qt::UniqueConnection);
-    followCommands(general);
-}
-
-/// Observes the transcript in addition to the command field, because a command that is rejected
-/// immediately does not disable the field.
-void MainWindow::followCommands(const GeneralWindow &general)
-{
-    general.hideUnusedPresets();
-    if (QTextEdit *history = general.history())
-        connect(history, &QTextEdit::textChanged, m_commandNotice, &CommandNotice::look,
-                Qt::UniqueConnection);
-}
-
-void MainWindow::hidePage()
-{
-    showPage(false);
-}
-
-void MainWindow::openFrame(int paidType)
-{
-    if (!m_plugin->isUsable())
-        return;
-    if (endsSession(paidType) && m_sim.isAsking()) {
-        m_awaitedFrame = paidType;
-        m_frameDelay.start(LONGEST_DELAY);
-        return;
-    }
-    openFrameNow(paidType);
-}
-
-void MainWindow::openAwaitedFrame()
-{
-    m_frameDelay.stop();
-    const int paidType = m_awaitedFrame;
-    m_awaitedFrame = PAID_TYPE_NONE;
-    if (paidType != PAID_TYPE_NONE && m_plugin->isUsable())
-        openFrameNow(paidType);
-}
-
-/// Shows the general window, in which the user can type the answer. Showing this window does not
-/// end the session. A window that is already visible is left unchanged, so that the input of the
-/// user is kept.
-void MainWindow::showNetworkText(const QString &text, const QDateTime &receivedAt,
-                                 bool waitsForAnswer)
-{
-    m_textPanel->add(text, receivedAt, waitsForAnswer);
-    if (!waitsForAnswer)
-        return;
-    m_sim.questionCame();
-    const QLineEdit *entry = GeneralWindow(page()).commandEdit();
-    if (m_plugin->isUsable() && !(entry && entry->isVisible()))
-        showPage(true);
-}
-
-void MainWindow::openFrameNow(int paidType)
-{
-    if (paidType != PAID_TYPE_GENERAL) {
-        m_plugin->ussd()->DoPrePostPaidModal(static_cast<PAID_TYPE>(paidType));
-        return;
-    }
-    m_plugin->plugin()->DoModal();
-    followCommands(GeneralWindow::framed());
+    return m_controller.restartPlugin();
 }
 
 void MainWindow::setLanguage(const QString &code)
 {
-    if (!HostCore::Languages::setCurrent(code)) {
-        showProblem(dashboardText(languageProblem(code)).arg(HostCore::Languages::file(code)));
-        m_languageMenu->retranslate(); // resets the check mark to the current language
-        return;
-    }
-    if (m_settings)
-        m_settings->setLanguage(code);
-    m_plugin->notifyLanguageChange();
-    retranslate();
+    if (!m_controller.setLanguage(code))
+        m_menu->languageMenu()->retranslate(); // resets the check mark to the current language
 }
 
 void MainWindow::retranslate()
 {
-    m_fileMenu->setTitle(dashboardText("MENU_FILE"));
-    m_quit->setText(dashboardText("ACTION_QUIT"));
-    m_languageMenu->retranslate();
-    m_textPanel->retranslate();
-    m_commandNotice->update();
-    m_operatorNotice->retranslate();
-    m_buttons->retranslate();
-    if (m_plugin->isUsable() && !m_windows)
-        m_page->showText(dashboardText("WINDOWS_NONE"));
+    m_header->retranslate();
+    m_navigation->retranslate();
+    m_menu->retranslate();
+    m_chooser->retranslate();
+    m_remedies->retranslate();
+    m_messages->retranslate();
+    for (Page *page : m_pages)
+        page->retranslate();
+    m_codes->retranslate();
+    m_firstRun->retranslate();
+    showNewestMessage();
     showDevice();
 }
 
-void MainWindow::showPaidType()
+Situation MainWindow::situation() const
 {
-    m_header->showPaidType(m_sim.paidTypeText());
-    if (!m_sim.isAsking())
-        openAwaitedFrame();
+    const DeviceChoice &choice = m_controller.choice();
+    QString chosenModem;
+    for (const Modem &modem : m_controller.device().modems()) {
+        if (choice.kind == DeviceChoice::Modem && modem.equipmentId == choice.name)
+            chosenModem = modemTitle(modem, m_controller.device().modems());
+    }
+    const bool areCodesKnown = !m_controller.operatorCodes().areAbsent();
+    return situationOf(m_controller.device().status(), areCodesKnown, chosenModem);
 }
 
 void MainWindow::showDevice()
 {
-    const bool isDemonstration = m_device.status().isSimulated;
+    const bool isDemonstration = device().status().isSimulated;
+    const Situation now = situation();
     setWindowTitle(dashboardText(isDemonstration ? "APP_TITLE_DEMONSTRATION" : "APP_TITLE"));
-    m_demonstration->setText(isDemonstration ? dashboardText("DEMONSTRATION_NOTE") : QString());
-    m_deviceMenu->offer(m_deviceMenu->choice(), m_device.modems());
-    m_deviceNotice->update();
-    m_header->showStatus(m_device.status());
-    m_header->showPaidType(m_sim.paidTypeText());
-    m_source->setText(m_device.status().sourceText());
-    m_source->setAccessibleName(dashboardText("NAME_SOURCE"));
+    deviceMenu()->offer(m_controller.choice(), device().modems());
+    showHeader(now);
+    showDeviceLine(now);
+    showBanners();
+    m_settingsPage->setDeviceChoice(choiceText());
+    m_firstRun->showSituation(now);
+    m_home->setSituation(now);
+    m_codes->page()->setSituation(now);
+    m_servicesPage->setSituation(now);
+    m_servicesPage->setOperatorName(device().status().operatorName);
+    showFirstRun();
+}
+
+/// Returns the choice of the device, for example "Automatic".
+QString MainWindow::choiceText() const
+{
+    const DeviceChoice &choice = m_controller.choice();
+    if (choice.kind == DeviceChoice::Automatic)
+        return dashboardText("SETTINGS_AUTOMATIC");
+    if (choice.kind == DeviceChoice::Simulated)
+        return dashboardText("HEADER_DEMONSTRATION");
+    for (const Modem &modem : m_controller.device().modems()) {
+        if (modem.equipmentId == choice.name)
+            return modemTitle(modem, m_controller.device().modems());
+    }
+    return dashboardText("SETTINGS_CHOSEN_MODEM");
+}
+
+void MainWindow::showServices()
+{
+    const CommandState::Kind kind = m_controller.monitor().state().kind;
+    m_servicesPage->setMenuOpen(kind == CommandState::Kind::MenuOpen);
+    if (kind == CommandState::Kind::Ready || kind == CommandState::Kind::MenuEnded)
+        m_messages->store().endWaiting();
+}
+
+void MainWindow::showHeader(const Situation &situation)
+{
+    const DeviceStatus &status = device().status();
+    HeaderContent content;
+    content.isDemonstration = status.isSimulated;
+    content.tone = hasOperator(situation.kind) ? Tone::Ok : situation.tone;
+    if (status.isSimulated)
+        content.tone = Tone::Warn;
+    if (hasOperator(situation.kind)) {
+        content.title = status.operatorText();
+        content.signalPercent = status.signalPercent;
+    } else {
+        content.title = situation.title;
+    }
+    content.chip =
+        status.isSimulated ? dashboardText("HEADER_DEMONSTRATION") : sim().paidTypeText();
+    content.simNumber = status.imsi;
+    m_header->showContent(content);
+    m_menu->setSim(m_header->simText(), m_form == Form::Narrow);
+}
+
+void MainWindow::showDeviceLine(const Situation &situation)
+{
+    const DeviceStatus &status = device().status();
+    const bool isReady = hasOperator(situation.kind);
+    QString state = isReady ? dashboardText("HEADER_MODEM_READY") : situation.title;
+    QString name = status.source;
+    Tone tone = isReady ? Tone::Ok : situation.tone;
+    if (status.isSimulated) {
+        state = dashboardText("HEADER_DEMONSTRATION");
+        name = dashboardText("HEADER_NO_MODEM_IN_USE");
+        tone = Tone::Warn;
+    } else if (isAbsent(situation.kind)) {
+        name = dashboardText("HEADER_LOOKING_FOR_ONE");
+        tone = situation.kind == Situation::Kind::LookingForModem ? Tone::Warn : Tone::Danger;
+    }
+    DeviceLine *line = m_navigation->deviceLine();
+    line->showDevice(tone, state, name);
+    line->setToolTip(status.sourceText());
 }
 
 bool MainWindow::useScenario(const QString &file)
 {
-    return useDevice(DeviceChoice::simulated(file));
+    return useDevice(m_controller.useDevice(DeviceChoice::simulated(file)));
 }
 
-bool MainWindow::useDevice(const DeviceChoice &choice)
+bool MainWindow::useDevice(const QString &error)
 {
-    const QString error = choice.use();
-    if (!error.isEmpty()) {
-        setDevice(m_deviceMenu->choice());
+    if (!error.isEmpty())
         showScenarioError(error);
-        return false;
-    }
-    setDevice(choice);
-    return true;
+    return error.isEmpty();
 }
 
 void MainWindow::setDevice(const DeviceChoice &choice)
 {
-    m_deviceMenu->offer(choice, m_device.modems());
-    m_commandNotice->forget();
-    m_device.refresh();
+    m_controller.setDevice(choice);
 }
 
 void MainWindow::showProblem(const QString &text)
 {
-    const QString before = m_problems->text();
-    if (before.contains(text))
+    if (m_problem.contains(text))
         return;
     HostCore::printErrorLine(text);
-    m_problems->setText(before.isEmpty() ? text : before + QLatin1Char('\n') + text);
+    m_problem = m_problem.isEmpty() ? text : m_problem + QLatin1Char(' ') + text;
+    showBanners();
 }
 
-void MainWindow::showScenarioError(const QString &error)
+void MainWindow::showBanners()
 {
-    CommonUtils::ShowMessage(QMessageBox::Warning, this, dashboardText("SCENARIO_UNUSABLE"), error,
-                             QLatin1String("IDS_OK"));
+    const bool isDemonstration = device().status().isSimulated;
+    Banner demonstration;
+    if (isDemonstration)
+        demonstration = {dashboardText("HEADER_DEMONSTRATION"),
+                         dashboardText("BANNER_DEMONSTRATION"), remedyText(Remedy::UseMyModem),
+                         QString()};
+    Banner proposal;
+    if (m_chooser->isProposing())
+        proposal = {dashboardText("BANNER_NO_CODES"), m_chooser->proposal(),
+                    m_chooser->acceptText(), dashboardText("CODES_NOT_NOW")};
+    Banner problem;
+    if (!m_problem.isEmpty())
+        problem = {dashboardText("BANNER_PROBLEM"), m_problem, QString(),
+                   dashboardText("CODES_CLOSE")};
+    Banner restore;
+    if (m_profiles && !m_profiles->offer().isEmpty())
+        restore = {dashboardText("BANNER_RESTORE"), m_profiles->offer(),
+                   dashboardText("BANNER_RESTORE_YES"), dashboardText("BANNER_RESTORE_NO")};
+    m_banners->setBanner(Banners::Demonstration, demonstration);
+    m_banners->setBanner(Banners::Operator, proposal);
+    m_banners->setBanner(Banners::Problem, problem);
+    m_banners->setBanner(Banners::Restore, restore);
 }
 
-void MainWindow::chooseDevice(const QString &word)
+void MainWindow::onBannerAction(Banners::Kind kind)
 {
-    const DeviceChoice choice = DeviceChoice::fromWord(word);
-    if (useDevice(choice) && m_settings)
-        m_settings->setDevice(choice);
+    if (kind == Banners::Demonstration)
+        perform(Remedy::UseMyModem);
+    else if (kind == Banners::Operator)
+        m_chooser->accept();
+    else if (kind == Banners::Restore && m_profiles)
+        m_profiles->restore();
 }
 
-void MainWindow::openScenario()
+void MainWindow::onBannerClosed(Banners::Kind kind)
 {
-    const QString filter = dashboardText("SCENARIO_FILTER") + QLatin1String(" (*.scenario);;") +
-                           dashboardText("ALL_FILES") + QLatin1String(" (*)");
-    const QString file = QFileDialog::getOpenFileName(this, dashboardText("SCENARIO_CHOOSE"),
-                                                      HostCore::InstallPaths::scenarios(), filter);
-    if (!file.isEmpty())
-        chooseDevice(DeviceChoice::simulated(file).word());
+    if (kind == Banners::Operator) {
+        m_chooser->decline();
+    } else if (kind == Banners::Problem) {
+        m_problem.clear();
+        showBanners();
+    } else if (kind == Banners::Restore && m_profiles) {
+        m_profiles->forget();
+    }
 }
 
 void MainWindow::quit()
@@ -444,6 +418,20 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_settings)
         m_settings->setGeometry(saveGeometry());
     QMainWindow::closeEvent(event);
+}
+
+// Dims the window while a window of the plug-in is open. The event is sent before the frame is
+// visible or hidden, so the state is read afterwards.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isShown = event->type() == QEvent::Show;
+    if ((isShown || event->type() == QEvent::Hide) && isFrame(watched)) {
+        m_scrim->setShown(isShown);
+        if (!isShown)
+            QMetaObject::invokeMethod(
+                this, [this] { updateForm(); }, Qt::QueuedConnection);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 } // namespace Dashboard

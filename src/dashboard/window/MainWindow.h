@@ -2,41 +2,41 @@
 #define MAINWINDOW_H
 
 #include <QMainWindow>
-#include <QTimer>
 
-#include "device/DeviceWatcher.h"
-#include "device/NetworkTextWatcher.h"
-#include "plugin/PluginFailure.h"
-#include "sim/OperatorCodes.h"
-#include "sim/SimFollower.h"
+#include "AppController.h"
+#include "Banners.h"
+#include "pages/AppActions.h"
+#include "pages/Page.h"
+#include "RegionCycle.h"
 
-class QAction;
-class QLabel;
-class QMenu;
+class QGridLayout;
+class QStackedWidget;
 
 namespace Dashboard
 {
 
-class CommandNotice;
-class DashboardSettings;
-class DeviceHeader;
-class DeviceNotice;
-class LanguageMenu;
+class AppMenu;
+class CodesSetup;
 class DeviceMenu;
-class GeneralWindow;
-class NetworkTextPanel;
-class NoticeBar;
-class OperatorNotice;
-class PageArea;
-class LoadedPlugin;
-class WindowButtons;
-struct DeviceChoice;
+class FirstRunPage;
+class Header;
+class HomeSetup;
+class MessageParts;
+class MessagesPage;
+class Navigation;
+class OperatorChooser;
+class ProfileKeeper;
+class RemedyRunner;
+class Scrim;
+class ServicesPage;
+class SettingsPage;
+struct Situation;
 
 /**
- * The main window of the dashboard. It shows the device's status, a button for each window of the
- * plug-in, the page with the embedded general window, and the device name in the status bar.
+ * The main window of the dashboard: header, navigation, banner and pages. The form of the window
+ * depends on its width in em. The widgets stay the same in every form.
  */
-class MainWindow : public QMainWindow
+class MainWindow : public QMainWindow, public AppActions
 {
     Q_OBJECT
 public:
@@ -52,90 +52,122 @@ public:
     void setDevice(const DeviceChoice &choice);
     /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
+    /// Sets the object whose offers are shown in a banner. It must outlive the window.
+    void setProfiles(ProfileKeeper *profiles);
+
+    /// Returns the parent of the plug-in's embedded general window.
     QWidget *page() const;
-    DeviceWatcher &device() { return m_device; }
-    DeviceMenu *deviceMenu() const { return m_deviceMenu; }
-    OperatorCodes &operatorCodes() { return m_operatorCodes; }
-    const SimFollower &sim() const { return m_sim; }
+    AppController &controller() { return m_controller; }
+    DeviceWatcher &device() { return m_controller.device(); }
+    DeviceMenu *deviceMenu() const;
+    AppMenu *appMenu() const { return m_menu; }
+    OperatorCodes &operatorCodes() { return m_controller.operatorCodes(); }
+    const SimFollower &sim() const { return m_controller.sim(); }
+    Form form() const { return m_form; }
+    PageId currentPage() const;
+    Page *pageOf(PageId page) const { return m_pages[int(page)]; }
+    bool isFirstRun() const;
+
+    void showPage(PageId page) override;
+    void sendCode(const QString &code) override;
+    void typeCode(const QString &code) override;
+    void topUp() override;
+    void openAccountWindow() override;
+    void openServicesWindow(int row) override;
+    void editCodes() override;
+    void perform(Remedy remedy) override;
 
 public slots:
     /// Reports a problem in the window and on standard error, for example that the settings cannot
     /// be written.
     void showProblem(const QString &text);
-    /// Loads the installed plug-in and shows its general window in the page. If this fails, shows
-    /// the failure in the page and returns it.
     PluginFailure loadPlugin();
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
-    void showPage(bool shown);
     /// Closes the window and ends the program, even if a frame or a message box is open.
     void quit();
-    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
-    /// opening the frame would cancel the prepaid/postpaid query.
+    /// Brings the window to the front.
+    void raiseAgain();
+    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame.
     void openFrame(int paidType);
+    /// Opens the menu below its button.
+    void showMenu();
 
 signals:
     /// Emitted when a frame of the plug-in was closed. The user may have saved codes in the frame.
     void frameClosed();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-
-private slots:
-    void chooseDevice(const QString &word);
-    void openScenario();
-    void showDevice();
-    void hidePage();
-    void offerWindows(int windows);
-    void showPaidType();
-    void openAwaitedFrame();
-    void beginAnew();
-    void beginAnewIfDue();
-    void rememberDetection(bool isOn);
-    void showFirstOwnCodes();
-    void showNetworkText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool useDevice(const DeviceChoice &choice);
-    void followNetworkTexts();
-    void followOperator();
-    void followCommands(const GeneralWindow &general);
-    bool mayDetectPaidType() const;
-    void followSim();
-    void makeMenus();
+    void makePages();
+    void followFirstRun();
+    void followSettings();
     void makeCentre();
+    void makeMenu();
+    void makeShortcuts();
+    void makeRegions();
+    void addShortcut(const QKeySequence &key, const std::function<void()> &action);
+    void followController();
+    void followMessages();
+    void showNewestMessage();
+    void followBanners();
+    void followRemedies();
     void restorePlace();
-    PluginFailure startWith(const PluginFailure &failure);
+    void updateForm();
+    void applyForm();
+    void placeParts();
+
+    bool useDevice(const QString &error);
+    QString choiceText() const;
+    void chooseDevice(const QString &word);
+    void openScenario();
+    void onBannerAction(Banners::Kind kind);
+    void onBannerClosed(Banners::Kind kind);
+    void showDevice();
+    void showServices();
+    void openMessage(qint64 id);
+    void showHeader(const Situation &situation);
+    void showDeviceLine(const Situation &situation);
+    void showBanners();
+    void showFirstRun();
+    void showAbout();
+    void showModemMenu();
+    void openTopUpWindow();
+    void focusPage();
     void retranslate();
-    void openFrameNow(int paidType);
+    Situation situation() const;
 
     LoadedPlugin *const m_plugin;
     DashboardSettings *const m_settings;
-    DeviceWatcher m_device;
-    SimFollower m_sim;
-    NetworkTextWatcher m_networkTexts;
-    OperatorCodes m_operatorCodes;
-    bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
-    bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
-    QDateTime m_ownCodesTime;     // modification time of the user's codes when they were read
-    int m_windows = 0;            // the windows that are offered, a combination of SimWindow flags
-    int m_awaitedFrame;
-    QTimer m_frameDelay;
-    QMenu *m_fileMenu;
-    QAction *m_quit;
-    LanguageMenu *m_languageMenu;
-    DeviceMenu *m_deviceMenu;
-    DeviceHeader *m_header;
-    DeviceNotice *m_deviceNotice;
-    NetworkTextPanel *m_textPanel;
-    NoticeBar *m_demonstration;
-    NoticeBar *m_problems;
-    OperatorNotice *m_operatorNotice;
-    WindowButtons *m_buttons;
-    PageArea *m_page;
-    CommandNotice *m_commandNotice;
-    QLabel *m_source;
+    AppController m_controller;
+    Form m_form = Form::Wide;
+    RegionCycle m_regions;
+    OperatorChooser *m_chooser;
+    RemedyRunner *m_remedies;
+    MessageParts *m_messages;
+    ProfileKeeper *m_profiles = nullptr;
+    QString m_problem;
+    AppMenu *m_menu;
+    QWidget *m_root;
+    QGridLayout *m_grid;
+    Navigation *m_navigation;
+    Header *m_header;
+    Banners *m_banners;
+    QStackedWidget *m_stack;
+    HomeSetup *m_home = nullptr;
+    CodesSetup *m_codes = nullptr;
+    Page *m_pages[int(PageId::Settings) + 1] = {};
+    ServicesPage *m_servicesPage = nullptr;
+    MessagesPage *m_messagesPage = nullptr;
+    SettingsPage *m_settingsPage = nullptr;
+    FirstRunPage *m_firstRun = nullptr;
+    Scrim *m_scrim;
 };
 
 } // namespace Dashboard

@@ -1,13 +1,16 @@
 #include "PinDialog.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegExpValidator>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
 
 #include "base/DashboardText.h"
 #include "device/DeviceWatcher.h"
+#include "look/Controls.h"
+#include "look/Look.h"
 #include "tksv_device.h"
 
 namespace Dashboard
@@ -18,13 +21,13 @@ namespace
 
 const int SHORTEST = 4; // digits of a PIN (3GPP TS 31.101, 9.4)
 const int LONGEST = 8;
-const int TEXT_WIDTH = 360; // in pixels
+const int FIELD_WIDTH = 200; // in pixels at 100 %
+const int TEXT_WIDTH = 340;
 
-QLabel *makeLabel(const char *name, QWidget *parent)
+QLabel *makeText(const char *type, const char *name, QWidget *parent)
 {
-    QLabel *label = new QLabel(parent);
+    QLabel *label = makeLabel(type, parent);
     label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
 }
@@ -40,11 +43,12 @@ void writeOver(QString *secret)
 } // namespace
 
 PinDialog::PinDialog(const DeviceWatcher *device, QWidget *parent)
-    : QDialog(parent), m_device(device), m_question(makeLabel("Dashboard_PinQuestion", this)),
-      m_label(makeLabel("Dashboard_PinLabel", this)), m_edit(new QLineEdit(this)),
-      m_tries(makeLabel("Dashboard_PinTries", this)),
-      m_message(makeLabel("Dashboard_PinMessage", this)), m_ok(new QPushButton(this)),
-      m_cancel(new QPushButton(this))
+    : QDialog(parent), m_device(device), m_label(makeText("h3", "Dashboard_PinLabel", this)),
+      m_question(makeText("small", "Dashboard_PinQuestion", this)), m_edit(new QLineEdit(this)),
+      m_eye(makeIconButton("eye", this)), m_chip(new Chip(this)),
+      m_tries(makeText("small", "Dashboard_PinTries", this)),
+      m_message(makeText("body", "Dashboard_PinMessage", this)), m_ok(makeButton("primary", this)),
+      m_cancel(makeButton("", this))
 {
     setObjectName(QLatin1String("Dashboard_PinDialog"));
     setWindowFlags(windowFlags() & ~Qt::WindowFlags(Qt::WindowContextHelpButtonHint));
@@ -73,10 +77,14 @@ void PinDialog::makeWidgets()
     m_edit->setMaxLength(LONGEST);
     m_edit->setContextMenuPolicy(Qt::NoContextMenu);
     m_edit->setInputMethodHints(m_edit->inputMethodHints() | Qt::ImhDigitsOnly);
-    m_edit->setValidator(new QRegExpValidator(
-        QRegExp(QString::fromLatin1("[0-9]{%1,%2}").arg(SHORTEST).arg(LONGEST)), m_edit));
+    const QString pattern = QString::fromLatin1("[0-9]{%1,%2}").arg(SHORTEST).arg(LONGEST);
+    m_edit->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), m_edit));
+    m_edit->setFixedWidth(Look::instance().px(FIELD_WIDTH));
     m_label->setBuddy(m_edit);
-    m_label->setWordWrap(false);
+    m_eye->setObjectName(QLatin1String("Dashboard_PinEye"));
+    m_eye->setCheckable(true);
+    connect(m_eye, &QPushButton::toggled, this, &PinDialog::showPin);
+    m_chip->setObjectName(QLatin1String("Dashboard_PinTriesChip"));
     m_ok->setObjectName(QLatin1String("Dashboard_PinOk"));
     m_ok->setDefault(true);
     m_cancel->setObjectName(QLatin1String("Dashboard_PinCancel"));
@@ -88,28 +96,48 @@ void PinDialog::makeWidgets()
 
 void PinDialog::layOut()
 {
+    IconDisc *icon = new IconDisc(this);
+    icon->setIcon("lock", Tone::Accent);
+    QVBoxLayout *texts = new QVBoxLayout;
+    setSpacing(texts, 4);
+    texts->addWidget(m_label);
+    texts->addWidget(m_question);
+    QHBoxLayout *head = new QHBoxLayout;
+    setSpacing(head, 12);
+    head->addWidget(icon, 0, Qt::AlignTop);
+    head->addLayout(texts, 1);
+    QHBoxLayout *field = new QHBoxLayout;
+    setSpacing(field, 4);
+    field->addWidget(m_edit);
+    field->addWidget(m_eye);
+    field->addStretch();
     QHBoxLayout *buttons = new QHBoxLayout;
+    setSpacing(buttons, 8);
     buttons->addStretch();
-    buttons->addWidget(m_ok);
     buttons->addWidget(m_cancel);
-    QGridLayout *grid = new QGridLayout(this);
-    grid->addWidget(m_question, 0, 0, 1, 2);
-    grid->addWidget(m_label, 1, 0);
-    grid->addWidget(m_edit, 1, 1);
-    grid->addWidget(m_tries, 2, 0, 1, 2);
-    grid->addWidget(m_message, 3, 0, 1, 2);
-    grid->setRowStretch(4, 1);
-    grid->addLayout(buttons, 5, 0, 1, 2);
-    m_question->setMinimumWidth(TEXT_WIDTH);
+    buttons->addWidget(m_ok);
+    QVBoxLayout *column = new QVBoxLayout(this);
+    setMargins(column, 20, 18, 20, 18);
+    setSpacing(column, 12);
+    column->addLayout(head);
+    column->addLayout(field);
+    column->addWidget(m_chip, 0, Qt::AlignLeft);
+    column->addWidget(m_message);
+    column->addWidget(m_tries);
+    column->addStretch();
+    column->addLayout(buttons);
+    m_question->setMinimumWidth(Look::instance().px(TEXT_WIDTH));
     setTabOrder(m_edit, m_ok);
     setTabOrder(m_ok, m_cancel);
+    setTabOrder(m_cancel, m_eye);
 }
 
 void PinDialog::retranslate()
 {
     setWindowTitle(dashboardText("PIN_CAPTION"));
+    m_label->setText(dashboardText("PIN_CAPTION"));
     m_question->setText(dashboardText("PIN_QUESTION"));
-    m_label->setText(dashboardText("PIN_LABEL"));
+    setIconButtonText(m_eye, dashboardText("PIN_SHOW"));
     m_edit->setAccessibleName(dashboardText("PIN_CAPTION"));
     m_ok->setText(dashboardText("PIN_OK"));
     m_cancel->setText(dashboardText("PIN_CANCEL"));
@@ -117,10 +145,23 @@ void PinDialog::retranslate()
     say(m_messageKey);
 }
 
+/// Shows the number of remaining attempts, with a warning before the last one.
 void PinDialog::showTries()
 {
-    m_tries->setText(m_device->status().triesText());
-    m_tries->setVisible(!m_tries->text().isEmpty());
+    const int tries = m_device->status().pinRetries;
+    const bool isLast = tries == 1;
+    const char *key = isLast ? "PIN_ONE_TRY_SHORT" : "PIN_TRIES_SHORT";
+    const QString text = dashboardText(key);
+    m_chip->setText(isLast ? text : text.arg(tries));
+    m_chip->setTone(isLast ? Tone::Danger : Tone::Neutral);
+    m_chip->setVisible(tries > 0);
+    m_tries->setText(isLast ? m_device->status().triesText() : QString());
+    m_tries->setVisible(isLast);
+}
+
+void PinDialog::showPin(bool isShown)
+{
+    m_edit->setEchoMode(isShown ? QLineEdit::Normal : QLineEdit::Password);
 }
 
 /// Shows the message whose text key is `key`. A null key clears the message. The dialog keeps its
@@ -129,6 +170,8 @@ void PinDialog::say(const char *key)
 {
     m_messageKey = key;
     const QString text = key ? dashboardText(key) : QString();
+    const bool isError = key && qstrcmp(key, "PIN_CHECKING") != 0;
+    setLabelType(m_message, isError ? "danger" : "body");
     m_message->setText(text);
     m_message->setAccessibleName(text);
     m_message->setVisible(key);
@@ -145,6 +188,7 @@ QString PinDialog::takePin()
 {
     QString pin = m_edit->text();
     m_edit->setText(QString());
+    m_eye->setChecked(false);
     return pin;
 }
 
@@ -188,9 +232,9 @@ void PinDialog::onDeviceChanged()
     case TKSV_PROBLEM_WRONG_PIN:
         return say("PIN_WRONG");
     case TKSV_PROBLEM_PUK_NEEDED:
-        return say("ADVICE_PUK_NEEDED");
+        return say("DEVICE_PUK_TEXT");
     case TKSV_PROBLEM_NOT_PERMITTED:
-        return say("ADVICE_NOT_PERMITTED");
+        return say("DEVICE_NOT_PERMITTED_TEXT");
     default:
         return say("PIN_NOT_SENT");
     }

@@ -11,13 +11,14 @@ class QPushButton;
 namespace Dashboard
 {
 
+class Chip;
 class DeviceWatcher;
 
 /**
  * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
- * no longer waits for a PIN. The PIN is not stored. When the dialog has sent the PIN and when it
- * closes, it clears the input field and overwrites the memory that contained the PIN. All functions
- * must be called from the GUI thread.
+ * no longer waits for a PIN. The PIN is not stored. The user can show it while typing. When the
+ * dialog has sent the PIN and when it closes, it clears the input field and overwrites the memory
+ * that contained the PIN. All functions must be called from the GUI thread.
  */
 class PinDialog : public QDialog
 {
@@ -45,6 +46,7 @@ private:
     void makeWidgets();
     void layOut();
     void say(const char *key);
+    void showPin(bool isShown);
     void showTries();
     void setWaiting(bool waiting);
     QString takePin();
@@ -52,9 +54,11 @@ private:
     const DeviceWatcher *const m_device;
     QTimer m_answerLimit; // runs while the result of the PIN check is pending
     const char *m_messageKey = nullptr;
-    QLabel *m_question;
     QLabel *m_label;
+    QLabel *m_question;
     QLineEdit *m_edit;
+    QPushButton *m_eye;
+    Chip *m_chip;
     QLabel *m_tries;
     QLabel *m_message;
     QPushButton *m_ok;

@@ -18,24 +18,38 @@ class ProfileKeeper : public QObject
 public:
     explicit ProfileKeeper(const ProfileBackup &backup, QObject *parent = nullptr);
 
+    /// Returns the offer to restore the backup copy in the current language. Returns an empty
+    /// string if there is nothing to restore.
+    QString offer() const;
+
 public slots:
-    /// If the codes are missing or damaged, asks the user whether to restore the backup copy. Then
-    /// updates the copy and emits ready(). Must be called before the plug-in reads the codes.
+    /// Offers to restore the backup copy if the codes are missing or damaged. Otherwise, updates
+    /// the copy.
     void start();
-    /// Updates the backup copy. Must be called each time the codes may have been saved.
+    /// Updates the backup copy. Must be called each time the codes may have been saved. Keeps the
+    /// copy as long as it is offered.
     void refresh();
+    /// Restores the backup copy.
+    void restore();
+    /// Deletes the backup copy.
+    void forget();
 
 signals:
-    void ready();
+    /// Emitted when the return value of offer() has changed.
+    void offerChanged();
+    /// Emitted when the plug-in must read the codes again.
+    void restored();
     /// Emitted when one of the user's files cannot be saved. `text` is an error message in the
     /// current language.
-    void problem(QString text);
+    void problem(const QString &text);
 
 private:
-    void offerRestore(const char *question);
-    void restore();
+    enum Offer { Nothing, Lost, Damaged };
+
+    void setOffer(Offer offer);
 
     const ProfileBackup m_backup;
+    Offer m_offer = Nothing;
 };
 
 } // namespace Dashboard

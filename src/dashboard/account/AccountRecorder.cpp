@@ -1,0 +1,59 @@
+#include "AccountRecorder.h"
+
+#include "AccountStore.h"
+#include "plugin/ReplyTap.h"
+
+namespace Dashboard
+{
+
+AccountRecorder::AccountRecorder(AccountStore *store, QObject *parent)
+    : QObject(parent), m_store(store)
+{
+}
+
+void AccountRecorder::record(const QString &code, const Reply &reply)
+{
+    // A menu asks for something instead of telling something.
+    if (!m_codes.asksForAccount(code) || reply.text.trimmed().isEmpty() || reply.asksForAnswer)
+        return;
+    AccountEntry entry;
+    entry.askedAt = m_store->now();
+    entry.code = code;
+    entry.text = reply.text;
+    entry.reading = readingOf(code, reply.text);
+    m_store->add(entry);
+    if (entry.reading.amount)
+        warn(*entry.reading.amount);
+}
+
+/// Returns the values that a reply to this code may tell. For example, an amount in the reply to
+/// the data code may be a price.
+ReplyReading AccountRecorder::readingOf(const QString &code, const QString &text) const
+{
+    ReplyReading reading = m_patterns.read(text);
+    if (code != m_codes.balance)
+        reading.amount.reset();
+    if (code != m_codes.balance && code != m_codes.validity)
+        reading.date.reset();
+    if (code != m_codes.number)
+        reading.number.reset();
+    return reading;
+}
+
+bool AccountRecorder::isLow(const Money &balance) const
+{
+    Money limit;
+    return readPlainAmount(m_lowBalance, &limit) && balance.units < limit.units;
+}
+
+void AccountRecorder::warn(const Money &balance)
+{
+    if (!isLow(balance)) {
+        m_warnedSim.clear();
+    } else if (m_warnedSim != m_store->sim()) {
+        m_warnedSim = m_store->sim();
+        emit lowBalance(moneyText(balance));
+    }
+}
+
+} // namespace Dashboard

@@ -1,0 +1,58 @@
+#ifndef ACCOUNTRECORDER_H
+#define ACCOUNTRECORDER_H
+
+#include <QObject>
+
+#include "AccountCodes.h"
+#include "AccountEntry.h"
+#include "ReplyPatterns.h"
+
+namespace Dashboard
+{
+
+class AccountStore;
+struct Reply;
+
+/**
+ * Reads each reply to the codes that ask for the account, whichever window sent the code, and
+ * stores what it tells. All functions must be called from the GUI thread.
+ */
+class AccountRecorder : public QObject
+{
+    Q_OBJECT
+public:
+    /// `store` must outlive this object.
+    explicit AccountRecorder(AccountStore *store, QObject *parent = nullptr);
+
+    void setCodes(const AccountCodes &codes) { m_codes = codes; }
+    const AccountCodes &codes() const { return m_codes; }
+    /// Sets the operator's patterns, which take precedence over the general rules.
+    void setPatterns(const ReplyPatterns &patterns) { m_patterns = patterns; }
+    /// Sets the amount below which lowBalance() is emitted. An empty string switches it off.
+    void setLowBalance(const QString &amount) { m_lowBalance = amount; }
+    /// Returns true if the balance is below the amount that the user has set.
+    bool isLow(const Money &balance) const;
+
+public slots:
+    /// Must be called for each reply; see CommandMonitor::replied().
+    void record(const QString &code, const Dashboard::Reply &reply);
+
+signals:
+    /// Emitted when a reply has told a balance below the amount that the user has set. Emitted
+    /// again only after a reply has told a higher balance. `shown` is the balance as text.
+    void lowBalance(const QString &shown);
+
+private:
+    ReplyReading readingOf(const QString &code, const QString &text) const;
+    void warn(const Money &balance);
+
+    AccountStore *const m_store;
+    AccountCodes m_codes;
+    ReplyPatterns m_patterns;
+    QString m_lowBalance;
+    QString m_warnedSim; // the SIM whose low balance was reported
+};
+
+} // namespace Dashboard
+
+#endif

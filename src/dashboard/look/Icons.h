@@ -1,0 +1,26 @@
+#ifndef ICONS_H
+#define ICONS_H
+
+#include <QIcon>
+
+#include "Tokens.h"
+
+class QWidget;
+
+namespace Dashboard
+{
+
+/// Returns an icon that is drawn in the current colour of the token, so that it follows the theme.
+/// It is sharp at every pixel ratio. `name` is the name of a file in the folder icons.
+QIcon icon(const char *name, Token token = Token::Text);
+
+/// Returns an icon for a button that can be checked. `whenOn` is the token of the checked button.
+QIcon icon(const char *name, Token token, Token whenOn);
+
+/// Returns a picture of the icon for a place that cannot hold an icon. It does not follow the
+/// theme. `size` is in device-independent pixels.
+QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
+
+} // namespace Dashboard
+
+#endif

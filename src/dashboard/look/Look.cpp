@@ -1,0 +1,140 @@
+#include "Look.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QPointer>
+#include <QStyle>
+#include <QToolTip>
+
+#include "MessageBoxIcons.h"
+#include "Resources.h"
+#include "StyleSheet.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int EM_AT_100_PERCENT = 14;        // in pixels
+const double SMALLEST_POINT_SIZE = 10.5; // 14 pixels at 96 dpi
+const char STYLE[] = "fusion";           // the only style of Qt that follows every palette
+
+Shade shadeOf(const QPalette &palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    return window.lightness() < text.lightness() ? Shade::Dark : Shade::Light;
+}
+
+/// Enlarges a small application font, so that the smallest text of the program has 12 pixels.
+void raiseFont()
+{
+    QFont font = QApplication::font();
+    if (font.pointSizeF() >= SMALLEST_POINT_SIZE || font.pixelSize() >= EM_AT_100_PERCENT)
+        return;
+    font.setPointSizeF(SMALLEST_POINT_SIZE);
+    QApplication::setFont(font);
+}
+
+void useStyle()
+{
+    if (QApplication::style()->objectName() != QLatin1String(STYLE))
+        QApplication::setStyle(QLatin1String(STYLE));
+}
+
+} // namespace
+
+Look &Look::instance()
+{
+    static QPointer<Look> look;
+    Q_ASSERT(qApp);
+    if (!look)
+        look = new Look(qApp);
+    return *look;
+}
+
+Look::Look(QObject *parent) : QObject(parent)
+{
+    openResources();
+    connect(qApp, &QGuiApplication::layoutDirectionChanged, this, &Look::update);
+    connect(qApp, &QGuiApplication::fontChanged, this, &Look::update);
+}
+
+void Look::start()
+{
+    if (m_isStarted)
+        return;
+    m_systemShade = shadeOf(QApplication::palette());
+    useStyle();
+    raiseFont();
+    m_isStarted = true;
+    new MessageBoxIcons(this);
+    update();
+}
+
+void Look::setTheme(ThemeChoice theme)
+{
+    m_theme = theme;
+    update();
+}
+
+void Look::setSystemShade(Shade shade)
+{
+    m_systemShade = shade;
+    update();
+}
+
+Shade Look::shade() const
+{
+    if (m_theme == ThemeChoice::System)
+        return m_systemShade;
+    return m_theme == ThemeChoice::Dark ? Shade::Dark : Shade::Light;
+}
+
+int Look::px(int at100Percent) const
+{
+    return qRound(at100Percent * scale());
+}
+
+int Look::em() const
+{
+    return QFontInfo(QApplication::font()).pixelSize();
+}
+
+double Look::scale() const
+{
+    return double(em()) / EM_AT_100_PERCENT;
+}
+
+void Look::setReducesMotion(bool reducesMotion)
+{
+    m_reducesMotion = reducesMotion;
+}
+
+bool Look::reducesMotion() const
+{
+    return m_reducesMotion ||
+           QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+}
+
+void Look::update()
+{
+    if (m_isStarted)
+        dress();
+    emit changed();
+}
+
+// Setting a style sheet is expensive, because Qt then computes the style of every widget again.
+void Look::dress()
+{
+    const QString sheet = styleSheet(shade(), QGuiApplication::layoutDirection(), scale());
+    if (sheet == m_sheet)
+        return;
+    m_sheet = sheet;
+    QApplication::setPalette(lookPalette(shade()));
+    QToolTip::setPalette(toolTipPalette(shade()));
+    qApp->setStyleSheet(sheet);
+}
+
+} // namespace Dashboard

@@ -1,0 +1,120 @@
+#include "StyleSheet.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include "Resources.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+struct Role {
+    QPalette::ColorRole role;
+    Token token;
+};
+
+const Role ROLES[] = {
+    {QPalette::Window, Token::Bg},
+    {QPalette::WindowText, Token::Text},
+    {QPalette::Base, Token::Surface},
+    {QPalette::AlternateBase, Token::Sunken},
+    {QPalette::Text, Token::Text},
+    {QPalette::Button, Token::Surface},
+    {QPalette::ButtonText, Token::Text},
+    {QPalette::BrightText, Token::Danger},
+    {QPalette::Highlight, Token::Accent},
+    {QPalette::HighlightedText, Token::OnAccent},
+    {QPalette::Link, Token::AccentText},
+    {QPalette::LinkVisited, Token::AccentText},
+    {QPalette::PlaceholderText, Token::Text3},
+    {QPalette::ToolTipBase, Token::Text},
+    {QPalette::ToolTipText, Token::Surface},
+    {QPalette::Light, Token::Surface},
+    {QPalette::Midlight, Token::Sunken},
+    {QPalette::Mid, Token::Border},
+    {QPalette::Dark, Token::Control},
+    {QPalette::Shadow, Token::Text2},
+};
+
+const Role DISABLED_ROLES[] = {
+    {QPalette::WindowText, Token::DisabledText}, {QPalette::Text, Token::DisabledText},
+    {QPalette::ButtonText, Token::DisabledText}, {QPalette::Base, Token::DisabledBg},
+    {QPalette::Button, Token::DisabledBg},
+};
+
+QString sheetTemplate()
+{
+    openResources();
+    QFile file(QLatin1String(":/look/dashboard.qss"));
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.readAll());
+}
+
+void fillInShade(QString *sheet, Shade shade)
+{
+    for (int i = 0; i < TOKEN_COUNT; ++i)
+        sheet->replace(QLatin1Char('@') + tokenName(Token(i)) + QLatin1Char('@'),
+                       tokenColor(Token(i), shade).name());
+    sheet->replace(QLatin1String("@shade@"),
+                   shade == Shade::Light ? QLatin1String("light") : QLatin1String("dark"));
+}
+
+void fillInSides(QString *sheet, Qt::LayoutDirection direction)
+{
+    const QLatin1String left("left");
+    const QLatin1String right("right");
+    const bool isMirrored = direction == Qt::RightToLeft;
+    sheet->replace(QLatin1String("@start@"), isMirrored ? right : left);
+    sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
+}
+
+/// Replaces every "#14px" with the scaled size, and every "#14-1px" with one pixel less. The thick
+/// border of the focus is compensated in this way without a rounding error.
+QString withSizes(const QString &sheet, double scale)
+{
+    static const QRegularExpression size(QLatin1String("#(\\d+)(?:-(\\d+))?px"));
+    QString result;
+    int end = 0;
+    for (auto hits = size.globalMatch(sheet); hits.hasNext();) {
+        const QRegularExpressionMatch hit = hits.next();
+        result += sheet.mid(end, hit.capturedStart() - end);
+        const int pixels = qRound(hit.captured(1).toInt() * scale) - hit.captured(2).toInt();
+        result += QString::number(pixels) + QLatin1String("px");
+        end = int(hit.capturedEnd());
+    }
+    return result + sheet.mid(end);
+}
+
+} // namespace
+
+QString styleSheet(Shade shade, Qt::LayoutDirection direction, double scale)
+{
+    QString sheet = sheetTemplate();
+    fillInShade(&sheet, shade);
+    fillInSides(&sheet, direction);
+    return withSizes(sheet, scale);
+}
+
+QPalette lookPalette(Shade shade)
+{
+    QPalette palette;
+    for (const Role &role : ROLES)
+        palette.setColor(role.role, tokenColor(role.token, shade));
+    for (const Role &role : DISABLED_ROLES)
+        palette.setColor(QPalette::Disabled, role.role, tokenColor(role.token, shade));
+    return palette;
+}
+
+QPalette toolTipPalette(Shade shade)
+{
+    QPalette palette = lookPalette(shade);
+    palette.setColor(QPalette::Window, tokenColor(Token::Text, shade));
+    palette.setColor(QPalette::WindowText, tokenColor(Token::Surface, shade));
+    return palette;
+}
+
+} // namespace Dashboard

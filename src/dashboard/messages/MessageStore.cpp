@@ -1,0 +1,163 @@
+#include "MessageStore.h"
+
+#include <utility>
+
+#include "base/DashboardText.h"
+#include "MessageDatabase.h"
+#include "TerminalText.h"
+
+namespace Dashboard
+{
+
+MessageStore::MessageStore(const QString &file, QObject *parent)
+    : QObject(parent), m_file(file), m_database(new MessageDatabase(file))
+{
+}
+
+MessageStore::~MessageStore() = default;
+
+void MessageStore::setStoring(bool isStoring)
+{
+    const QString file = isStoring ? m_file : QString();
+    if (m_database->isInMemory() == file.isEmpty())
+        return;
+    begin(file);
+}
+
+/// Replaces the database. The messages of the previous one disappear from view.
+void MessageStore::begin(const QString &file)
+{
+    m_database.reset(new MessageDatabase(file));
+    m_waiting = 0;
+    count();
+    emit reset();
+}
+
+void MessageStore::setSim(const QString &key)
+{
+    if (key == m_sim)
+        return;
+    m_sim = key;
+    if (!key.isEmpty())
+        m_database->adopt(key);
+    if (m_database->message(m_waiting).isNull())
+        m_waiting = 0;
+    count();
+    emit reset();
+    report();
+}
+
+QString MessageStore::file() const
+{
+    return m_database->isInMemory() ? QString() : m_file;
+}
+
+Message MessageStore::add(const QString &sender, const QString &text, const QDateTime &receivedAt,
+                          bool waitsForAnswer)
+{
+    Message message;
+    message.receivedAt = receivedAt;
+    message.sender = HostCore::terminalText(sender.left(LONGEST_TEXT)).simplified();
+    message.text = HostCore::terminalText(text.left(LONGEST_TEXT));
+    message.isUnread = true;
+    m_database->removeBefore(m_clock().addMonths(-MONTHS_KEPT));
+    message.id = m_database->add(m_sim, message);
+    if (message.isNull()) {
+        keepInMemory();
+        message.id = m_database->add(m_sim, message);
+    }
+    endWaiting(); // a newer message ends the session of an older one
+    m_waiting = waitsForAnswer ? message.id : 0;
+    report();
+    count();
+    emit added(message);
+    return message;
+}
+
+/// Gives up the file, which cannot be written.
+void MessageStore::keepInMemory()
+{
+    if (m_database->isInMemory())
+        return;
+    begin(QString());
+    emit problem(dashboardText("MESSAGE_NOT_KEPT").arg(m_file));
+}
+
+/// Reports that a damaged file was renamed.
+void MessageStore::report()
+{
+    const QString damaged = m_database->takeDamagedFile();
+    if (!damaged.isEmpty())
+        emit problem(dashboardText("MESSAGE_FILE_DAMAGED").arg(damaged));
+}
+
+QList<Message> MessageStore::older(const MessageQuery &query, const Message &after, int limit)
+{
+    const QList<Message> messages = m_database->older(m_sim, query, m_waiting, after, limit);
+    report();
+    return messages;
+}
+
+Message MessageStore::message(qint64 id) const
+{
+    return id == 0 ? Message() : m_database->message(id);
+}
+
+Message MessageStore::newest()
+{
+    return older(MessageQuery(), Message(), 1).value(0);
+}
+
+void MessageStore::count()
+{
+    const int unread = m_database->unreadCount(m_sim);
+    if (unread == m_unreadCount)
+        return;
+    m_unreadCount = unread;
+    emit unreadCountChanged(unread);
+}
+
+void MessageStore::markRead(qint64 id)
+{
+    if (!message(id).isUnread || !m_database->markRead(id))
+        return;
+    count();
+    emit changed(id);
+}
+
+void MessageStore::markAllRead()
+{
+    if (m_unreadCount == 0 || !m_database->markAllRead(m_sim))
+        return;
+    count();
+    emit allRead();
+}
+
+void MessageStore::remove(qint64 id)
+{
+    if (!m_database->remove(id))
+        return;
+    if (id == m_waiting)
+        m_waiting = 0;
+    count();
+    emit changed(id);
+}
+
+void MessageStore::endWaiting()
+{
+    const qint64 id = std::exchange(m_waiting, 0);
+    if (id != 0)
+        emit changed(id);
+}
+
+void MessageStore::removeAll()
+{
+    const bool isStoring = !m_database->isInMemory();
+    m_database.reset(new MessageDatabase(QString())); // closes the file
+    const bool isRemoved = MessageDatabase(m_file).removeAll();
+    begin(isStoring ? m_file : QString());
+    if (!isRemoved)
+        emit problem(dashboardText("MESSAGE_NOT_REMOVED").arg(m_file));
+}
+
+} // namespace Dashboard

@@ -1,0 +1,8 @@
+#include "AppActions.h"
+
+namespace Dashboard
+{
+
+AppActions::~AppActions() = default;
+
+} // namespace Dashboard

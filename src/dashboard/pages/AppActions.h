@@ -1,0 +1,36 @@
+#ifndef APPACTIONS_H
+#define APPACTIONS_H
+
+#include <QString>
+
+namespace Dashboard
+{
+
+enum class PageId;
+enum class Remedy;
+
+/** The actions that a page requests from the program. All functions return immediately. */
+class AppActions
+{
+public:
+    virtual ~AppActions();
+
+    virtual void showPage(PageId page) = 0;
+    /// Shows the page of codes and sends the code.
+    virtual void sendCode(const QString &code) = 0;
+    /// Shows the page of codes and types the code without sending it.
+    virtual void typeCode(const QString &code) = 0;
+    /// Opens the window in which the user can top up, or the nearest replacement for it.
+    virtual void topUp() = 0;
+    virtual void openAccountWindow() = 0;
+    /// Opens the services window. `row` is the index of the service in the configuration; -1
+    /// selects no service.
+    virtual void openServicesWindow(int row) = 0;
+    /// Opens the editor for the user's own codes.
+    virtual void editCodes() = 0;
+    virtual void perform(Remedy remedy) = 0;
+};
+
+} // namespace Dashboard
+
+#endif

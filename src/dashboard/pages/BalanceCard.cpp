@@ -1,0 +1,251 @@
+#include "BalanceCard.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "account/AccountWords.h"
+#include "base/DashboardText.h"
+#include "base/Isolate.h"
+#include "look/Controls.h"
+#include "look/Look.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int OLD_DAYS = 7;      // from this age on, the card shows the age
+const int WIDE_HEIGHT = 196; // in pixels, at 100 %
+const int REPLY_LINES = 3;   // of a reply that tells no balance
+
+QString firstLines(const QString &text)
+{
+    QStringList lines;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        if (!line.trimmed().isEmpty() && lines.size() < REPLY_LINES)
+            lines << line.trimmed();
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+BalanceCard::BalanceCard(QWidget *parent)
+    : QFrame(parent), m_layout(new QVBoxLayout(this)), m_title(makeLabel("heroStrong", this)),
+      m_asked(makeLabel("hero", this)), m_chips(new QWidget(this)),
+      m_chipRow(new QBoxLayout(QBoxLayout::LeftToRight, m_chips)), m_age(new Chip(m_chips)),
+      m_low(new Chip(m_chips)), m_amount(makeLabel("display", this)),
+      m_unit(makeLabel("displayUnit", this)), m_reply(makeLabel("heroReply", this)),
+      m_validity(makeLabel("hero", this)), m_buttons(new QWidget(this)),
+      m_buttonRow(new QBoxLayout(QBoxLayout::LeftToRight, m_buttons)),
+      m_validityRow(new QHBoxLayout), m_topUp(makeButton("hero", this)),
+      m_ask(makeButton("heroOutline", this)), m_show(makeButton("heroOutline", this))
+{
+    setObjectName(QLatin1String("Dashboard_BalanceCard"));
+    setBox(this, "hero");
+    m_topUp->setObjectName(QLatin1String("Dashboard_TopUpButton"));
+    m_ask->setObjectName(QLatin1String("Dashboard_AskButton"));
+    m_show->setObjectName(QLatin1String("Dashboard_ShowReplyButton"));
+    m_amount->setObjectName(QLatin1String("Dashboard_BalanceAmount"));
+    m_reply->setObjectName(QLatin1String("Dashboard_BalanceReply"));
+    makeChips();
+    m_layout->addLayout(makeHead());
+    m_layout->addLayout(makeAmount());
+    m_layout->addWidget(m_reply);
+    m_layout->addLayout(makeValidity());
+    m_layout->addWidget(m_chips);
+    m_layout->addStretch(1);
+    m_layout->addWidget(makeButtons());
+    for (QLabel *label : {m_reply, m_validity})
+        label->setWordWrap(true);
+    setSpacing(m_layout, 4);
+    setNarrow(false);
+}
+
+QLayout *BalanceCard::makeHead()
+{
+    QHBoxLayout *head = new QHBoxLayout;
+    setSpacing(head, 8);
+    m_asked->setWordWrap(true);
+    m_asked->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    head->addWidget(m_title);
+    head->addWidget(m_asked, 1);
+    return head;
+}
+
+QLayout *BalanceCard::makeAmount()
+{
+    QHBoxLayout *row = new QHBoxLayout;
+    setSpacing(row, 8);
+    row->addWidget(m_amount, 0, Qt::AlignBottom);
+    // The descent of the larger font is below the baseline that both share.
+    QVBoxLayout *unit = new QVBoxLayout;
+    setMargins(unit, 0, 0, 0, 5);
+    unit->addStretch(1);
+    unit->addWidget(m_unit);
+    row->addLayout(unit);
+    row->addStretch(1);
+    return row;
+}
+
+void BalanceCard::makeChips()
+{
+    setMargins(m_chipRow, 0, 4, 0, 4);
+    setSpacing(m_chipRow, 8);
+    m_age->setTone(Tone::Neutral);
+    m_low->setTone(Tone::Warn);
+    m_chipRow->addWidget(m_low, 0, Qt::AlignLeading);
+    m_chipRow->addWidget(m_age, 0, Qt::AlignLeading);
+    m_chipRow->addStretch(1);
+}
+
+QLayout *BalanceCard::makeValidity()
+{
+    setSpacing(m_validityRow, 8);
+    m_validityRow->addWidget(m_validity, 1);
+    return m_validityRow;
+}
+
+QWidget *BalanceCard::makeButtons()
+{
+    m_buttonRow->setContentsMargins(0, 0, 0, 0);
+    setSpacing(m_buttonRow, 8);
+    setButtonIcon(m_topUp, "topup", Token::HeroA);
+    setButtonIcon(m_ask, "refresh", Token::OnHero);
+    setButtonIcon(m_show, "list", Token::OnHero);
+    for (QPushButton *button : {m_topUp, m_ask, m_show})
+        m_buttonRow->addWidget(button);
+    m_buttonRow->addStretch(1);
+    m_buttons->setMinimumWidth(1); // instead of the width of all buttons; see arrangeButtons()
+    connect(m_topUp, &QPushButton::clicked, this, &BalanceCard::topUpRequested);
+    connect(m_ask, &QPushButton::clicked, this, &BalanceCard::askRequested);
+    connect(m_show, &QPushButton::clicked, this, &BalanceCard::replyRequested);
+    return m_buttons;
+}
+
+/// Returns the width of the row of buttons.
+int BalanceCard::rowWidth() const
+{
+    int width = 0;
+    for (QPushButton *button : {m_topUp, m_ask, m_show}) {
+        if (!button->isHidden() && (!m_isNarrow || button != m_show))
+            width += button->sizeHint().width() + m_buttonRow->spacing();
+    }
+    return width - m_buttonRow->spacing();
+}
+
+/// Drops the text of the last button if there is no room for it. Puts the buttons below each other
+/// if there is still no room.
+void BalanceCard::arrangeButtons()
+{
+    const QMargins margins = m_layout->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    const QString text = dashboardText("HOME_SHOW_REPLY");
+    m_show->setText(m_isNarrow ? QString() : text);
+    if (rowWidth() > room)
+        m_show->setText(QString());
+    m_show->setToolTip(m_show->text().isEmpty() ? text : QString());
+    m_buttonRow->setDirection(rowWidth() > room ? QBoxLayout::TopToBottom
+                                                : QBoxLayout::LeftToRight);
+}
+
+void BalanceCard::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    arrangeButtons();
+}
+
+void BalanceCard::setNarrow(bool isNarrow)
+{
+    m_isNarrow = isNarrow;
+    if (isNarrow)
+        setMargins(m_layout, 20, 14, 20, 16);
+    else
+        setMargins(m_layout, 24, 18, 24, 20);
+    m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    setMinimumHeight(isNarrow ? 0 : Look::instance().px(WIDE_HEIGHT));
+    // The narrow form has no room for a third button in the row.
+    if (isNarrow)
+        m_validityRow->addWidget(m_show);
+    else
+        m_buttonRow->insertWidget(2, m_show);
+    showButtons();
+}
+
+void BalanceCard::show(const BalanceView &view)
+{
+    m_view = view;
+    m_title->setText(dashboardText(view.isInvented ? "HOME_BALANCE_INVENTED" : "HOME_BALANCE"));
+    showAmount();
+    showAge();
+    showButtons();
+    describe();
+}
+
+void BalanceCard::showAmount()
+{
+    const std::optional<Money> &amount = m_view.entry.reading.amount;
+    const bool isUnread = !m_view.entry.isNull() && !amount;
+    m_amount->setVisible(!isUnread);
+    m_unit->setVisible(bool(amount));
+    m_reply->setVisible(isUnread);
+    setLabelType(m_amount, amount ? "display" : "heroReply");
+    m_amount->setText(amount ? isolated(amountText(*amount)) : dashboardText("HOME_NOT_ASKED"));
+    m_unit->setText(amount ? isolated(amount->currency) : QString());
+    m_reply->setText(isUnread ? firstLines(m_view.entry.text) : QString());
+    const bool isKnown = m_view.validity.isValid();
+    m_validity->setVisible(isKnown);
+    m_validity->setText(isKnown ? validityText(m_view.validity, m_view.now.date()) : QString());
+}
+
+void BalanceCard::showAge()
+{
+    const bool isAsked = !m_view.entry.isNull();
+    const qint64 days = isAsked ? m_view.entry.askedAt.date().daysTo(m_view.now.date()) : 0;
+    m_asked->setText(
+        isAsked ? dashboardText("HOME_ASKED").arg(whenText(m_view.entry.askedAt, m_view.now))
+                : QString());
+    m_age->setText(dashboardText("HOME_DAYS_OLD").arg(days));
+    m_age->setVisible(days >= OLD_DAYS);
+    m_low->setText(dashboardText("HOME_LOW"));
+    m_low->setVisible(m_view.isLow);
+    m_chips->setVisible(m_view.isLow || days >= OLD_DAYS);
+}
+
+void BalanceCard::showButtons()
+{
+    const bool isAsking = m_view.askingSeconds >= 0;
+    const bool isAsked = !m_view.entry.isNull();
+    m_topUp->setText(dashboardText("HOME_TOP_UP"));
+    m_topUp->setVisible(m_view.canTopUp);
+    m_topUp->setEnabled(!isAsking);
+    m_ask->setText(isAsking ? dashboardText("HOME_ASKING").arg(m_view.askingSeconds)
+                            : dashboardText(isAsked ? "HOME_ASK_AGAIN" : "HOME_ASK_NOW"));
+    m_ask->setEnabled(m_view.canAsk && !isAsking);
+    m_ask->setToolTip(m_view.isMenuOpen ? dashboardText("HOME_END_MENU_FIRST") : QString());
+    m_show->setVisible(isAsked);
+    m_show->setAccessibleName(dashboardText("HOME_SHOW_REPLY"));
+    arrangeButtons();
+}
+
+/// Sets one sentence for screen readers, such as "Balance 12.50 EUR, valid until 31 December 2027,
+/// asked today at 14:32".
+void BalanceCard::describe()
+{
+    QStringList parts;
+    const std::optional<Money> &amount = m_view.entry.reading.amount;
+    const QString value = amount                ? moneyText(*amount)
+                          : m_reply->isHidden() ? m_amount->text()
+                                                : m_reply->text();
+    parts << m_title->text() + QLatin1Char(' ') + value;
+    for (QLabel *label : {m_validity, m_asked}) {
+        if (!label->text().isEmpty())
+            parts << label->text();
+    }
+    if (m_view.isLow)
+        parts << m_low->text();
+    setAccessibleName(parts.join(QLatin1String(", ")));
+}
+
+} // namespace Dashboard

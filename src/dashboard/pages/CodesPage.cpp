@@ -1,0 +1,374 @@
+#include "CodesPage.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QInputDialog>
+#include <QMenu>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+#include "base/DashboardText.h"
+#include "base/Isolate.h"
+#include "device/DeviceStatus.h"
+#include "GeneralArea.h"
+#include "HistoryPopup.h"
+#include "look/Controls.h"
+#include "look/Look.h"
+#include "plugin/CodeForms.h"
+#include "plugin/CodeHistory.h"
+#include "TopUpSheet.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const double LARGEST_SCALE_OF_A_FRAME = 1.3; // the frame of the general window has a fixed size
+const int CHOICE_KEYS = 10;
+const int PAYMENT_BUTTONS = 2; // the last preset buttons take the number
+
+/// Returns the complete name of a preset button, which may show an elided name.
+QString fullName(const QPushButton *button)
+{
+    const bool isElided = button->text().endsWith(QChar(0x2026));
+    const bool isPlain = !Qt::mightBeRichText(button->toolTip());
+    return isElided && isPlain && !button->toolTip().isEmpty() ? button->toolTip() : button->text();
+}
+
+QString menuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
+    : Page("Dashboard_CodesPage", parent), m_parts(parts), m_strip(new StateStrip),
+      m_area(new GeneralArea(parts.plugin)),
+      m_historyPopup(new HistoryPopup(parts.history, parts.names, this)), m_card(makeCard(this)),
+      m_narrowButtons(new QWidget(this)), m_codesButton(nullptr), m_topUpButton(nullptr),
+      m_column(new QVBoxLayout(this))
+{
+    m_situation.canSend = true;
+    makeNarrowButtons();
+    makeLayout();
+    makeShortcuts();
+    followStrip();
+    connect(parts.commands, &CommandMonitor::changed, this, &CodesPage::onCommandChanged);
+    connect(parts.commands, &CommandMonitor::ticked, m_strip, &StateStrip::setSeconds);
+    connect(parts.commands, &CommandMonitor::sent, parts.history, &CodeHistory::add);
+    connect(parts.history, &CodeHistory::changed, this, &CodesPage::updateRecent);
+    connect(m_historyPopup, &HistoryPopup::chosen, this, [this](const QString &code) {
+        QMetaObject::invokeMethod(
+            this, [this, code] { typeCode(code); }, Qt::QueuedConnection);
+    });
+    connect(&Look::instance(), &Look::changed, this, [this] { setForm(m_form); });
+    retranslate();
+    onCommandChanged();
+}
+
+// ---- layout --------------------------------------------------------------------------------
+
+void CodesPage::makeNarrowButtons()
+{
+    m_codesButton = makeButton("", m_narrowButtons);
+    m_topUpButton = makeButton("", m_narrowButtons);
+    m_codesButton->setObjectName(QLatin1String("Dashboard_CodesSheetButton"));
+    m_topUpButton->setObjectName(QLatin1String("Dashboard_TopUpSheetButton"));
+    setButtonIcon(m_codesButton, "list", Token::Text2);
+    setButtonIcon(m_topUpButton, "topup", Token::Text2);
+    connect(m_codesButton, &QPushButton::clicked, this, &CodesPage::showCodesSheet);
+    connect(m_topUpButton, &QPushButton::clicked, this, &CodesPage::showTopUpSheet);
+    QHBoxLayout *row = new QHBoxLayout(m_narrowButtons);
+    row->setContentsMargins(0, 0, 0, 0);
+    setSpacing(row, 8);
+    row->addWidget(m_codesButton);
+    row->addWidget(m_topUpButton);
+    row->addStretch(1);
+}
+
+void CodesPage::makeLayout()
+{
+    QVBoxLayout *inside = new QVBoxLayout(m_card);
+    inside->setContentsMargins(1, 1, 1, 1); // the border of the card
+    inside->setSpacing(0);
+    inside->addWidget(m_strip);
+    inside->addWidget(m_area, 1);
+    m_column->addWidget(m_narrowButtons);
+    m_column->addWidget(m_card, 1);
+    setForm(m_form);
+}
+
+void CodesPage::setForm(Form form)
+{
+    m_form = form;
+    const bool isNarrow = form == Form::Narrow;
+    if (isNarrow)
+        setMargins(m_column, 8, 10, 8, 8);
+    else
+        setMargins(m_column, 24, 20, 24, 20);
+    setSpacing(m_column, 10);
+    m_narrowButtons->setVisible(isNarrow);
+    m_strip->setForm(form);
+    m_strip->setOwnWindowOffered(Look::instance().scale() <= LARGEST_SCALE_OF_A_FRAME);
+    m_area->setCompact(isNarrow);
+}
+
+void CodesPage::retranslate()
+{
+    m_codesButton->setText(dashboardText("SHEET_CODES"));
+    m_topUpButton->setText(dashboardText("SHEET_TOP_UP"));
+    m_strip->retranslate();
+    updateRecent();
+}
+
+QWidget *CodesPage::firstFocus() const
+{
+    return general().commandEdit();
+}
+
+GeneralWindow CodesPage::general() const
+{
+    return m_area->general();
+}
+
+// ---- the general window --------------------------------------------------------------------
+
+void CodesPage::showWindow(bool isShown)
+{
+    if (isShown)
+        m_area->showWindow();
+    else
+        m_area->hideWindow();
+    m_historyPopup->attach(general().commandEdit());
+    updateWindow();
+    m_parts.commands->look();
+}
+
+void CodesPage::showText(const QString &text)
+{
+    m_area->showText(text);
+}
+
+void CodesPage::setSituation(const Situation &situation)
+{
+    m_situation = situation;
+    m_strip->setSituation(situation);
+    updateWindow();
+}
+
+void CodesPage::updateWindow()
+{
+    const CommandState &state = m_parts.commands->state();
+    m_area->setWindowEnabled(m_situation.canSend || state.isPending());
+    const QList<QPushButton *> buttons = presets();
+    m_codesButton->setEnabled(m_situation.canSend && !state.isPending());
+    m_topUpButton->setVisible(buttons.size() > 0);
+    m_topUpButton->setEnabled(m_situation.canSend && !state.isPending());
+}
+
+QList<QPushButton *> CodesPage::presets() const
+{
+    return m_area->canvas()->findChildren<QPushButton *>(
+        QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"));
+}
+
+// ---- what goes on --------------------------------------------------------------------------
+
+void CodesPage::followStrip()
+{
+    CommandMonitor *commands = m_parts.commands;
+    connect(m_strip, &StateStrip::cancelled, commands, &CommandMonitor::cancel);
+    connect(m_strip, &StateStrip::menuEnded, commands, &CommandMonitor::endMenu);
+    connect(m_strip, &StateStrip::dismissed, commands, &CommandMonitor::dismiss);
+    connect(m_strip, &StateStrip::sentAgain, commands, &CommandMonitor::sendAgain);
+    connect(m_strip, &StateStrip::answered, commands, &CommandMonitor::answer);
+    connect(m_strip, &StateStrip::detailsRequested, this, &CodesPage::showDetails);
+    connect(m_strip, &StateStrip::historyRequested, this, &CodesPage::openHistory);
+    connect(m_strip, &StateStrip::codeChosen, this, &CodesPage::useCode);
+    connect(m_strip, &StateStrip::ownWindowRequested, this, &CodesPage::ownWindowRequested);
+    connect(m_strip, &StateStrip::remedyChosen, this, &CodesPage::remedyChosen);
+}
+
+void CodesPage::onCommandChanged()
+{
+    const CommandState &state = m_parts.commands->state();
+    m_strip->setCommand(state);
+    m_historyPopup->setOpenedByTyping(state.kind != CommandState::Kind::MenuOpen);
+    updateWindow();
+}
+
+void CodesPage::updateRecent()
+{
+    const QList<CodeName> names = m_parts.names ? m_parts.names() : QList<CodeName>();
+    QList<CodeName> recent;
+    for (const SentCode &sent : m_parts.history->codes()) {
+        CodeName code{sent.code, QString()};
+        for (const CodeName &named : names) {
+            if (named.code == sent.code)
+                code.name = named.name;
+        }
+        recent << code;
+    }
+    m_strip->setRecent(recent);
+}
+
+void CodesPage::refreshNames()
+{
+    updateRecent();
+}
+
+/// Shows every word about the failure. The dialog does not block, because the device may be lost
+/// while it is open.
+void CodesPage::showDetails()
+{
+    const CommandState &state = m_parts.commands->state();
+    QMessageBox *box = new QMessageBox(QMessageBox::Information, state.title,
+                                       state.text + QLatin1String("\n\n") + state.details,
+                                       QMessageBox::NoButton, this);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    if (state.mayBeSentAgain) {
+        QPushButton *again =
+            box->addButton(dashboardText("STRIP_SEND_AGAIN"), QMessageBox::AcceptRole);
+        connect(again, &QPushButton::clicked, m_parts.commands, &CommandMonitor::sendAgain);
+    }
+    box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole);
+    box->open();
+}
+
+// ---- codes ---------------------------------------------------------------------------------
+
+void CodesPage::useCode(const QString &code)
+{
+    if (hasHiddenDigits(code))
+        typeCode(code);
+    else
+        m_parts.commands->send(code);
+}
+
+void CodesPage::typeCode(const QString &code)
+{
+    const QString complete = askForNumbers(code);
+    QLineEdit *edit = general().commandEdit();
+    if (!edit || complete.isEmpty() || !edit->isEnabled())
+        return;
+    typeInto(edit, complete);
+    edit->setFocus(Qt::OtherFocusReason);
+}
+
+/// Asks for the digits that are hidden in the code. Returns an empty string if the user cancels.
+QString CodesPage::askForNumbers(const QString &code)
+{
+    QString complete = code;
+    while (hasHiddenDigits(complete)) {
+        QInputDialog dialog(this);
+        dialog.setObjectName(QLatin1String("Dashboard_NumberDialog"));
+        dialog.setWindowTitle(dashboardText("HISTORY_NUMBER_TITLE"));
+        dialog.setLabelText(dashboardText("HISTORY_NUMBER").arg(isolated(complete)));
+        dialog.setOkButtonText(dashboardText("HISTORY_TYPE"));
+        dialog.setCancelButtonText(dashboardText("STRIP_CANCEL"));
+        if (dialog.exec() != QDialog::Accepted || dialog.textValue().isEmpty())
+            return QString();
+        complete = withDigits(complete, dialog.textValue());
+    }
+    return complete;
+}
+
+void CodesPage::showCodesSheet()
+{
+    QMenu *sheet = new QMenu(this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setObjectName(QLatin1String("Dashboard_CodesSheet"));
+    const QList<QPushButton *> buttons = presets();
+    QStringList listed;
+    for (int i = 0; i < buttons.size() - PAYMENT_BUTTONS; ++i) {
+        QPushButton *button = buttons.at(i);
+        listed << fullName(button);
+        connect(sheet->addAction(menuText(listed.last())), &QAction::triggered, button,
+                &QPushButton::click);
+    }
+    const QList<CodeName> names = m_parts.names ? m_parts.names() : QList<CodeName>();
+    for (const CodeName &named : names) {
+        const QString code = named.code;
+        if (!listed.contains(named.name))
+            sheet->addAction(menuText(named.name), this, [this, code] { useCode(code); });
+    }
+    sheet->popup(m_codesButton->mapToGlobal(QPoint(0, m_codesButton->height())));
+}
+
+void CodesPage::showTopUpSheet()
+{
+    const QList<QPushButton *> buttons = presets().mid(qMax(0, presets().size() - PAYMENT_BUTTONS));
+    TopUpSheet *sheet = new TopUpSheet(m_area->canvas(), this);
+    for (QPushButton *button : buttons)
+        sheet->addPreset(fullName(button), button);
+    sheet->open();
+}
+
+// ---- keyboard ------------------------------------------------------------------------------
+
+QAction *CodesPage::addShortcut(const char *name, const QKeySequence &key,
+                                const std::function<void()> &action)
+{
+    QAction *shortcut = new QAction(this);
+    shortcut->setObjectName(QLatin1String(name));
+    shortcut->setShortcut(key);
+    connect(shortcut, &QAction::triggered, this, action);
+    m_shortcuts << shortcut;
+    return shortcut;
+}
+
+void CodesPage::makeShortcuts()
+{
+    addShortcut("Dashboard_FocusCode", QKeySequence(Qt::CTRL + Qt::Key_L), [this] {
+        emit wanted();
+        if (QLineEdit *edit = general().commandEdit())
+            edit->setFocus(Qt::ShortcutFocusReason);
+    });
+    addShortcut("Dashboard_OpenHistory", QKeySequence(Qt::CTRL + Qt::Key_H), [this] {
+        emit wanted();
+        openHistory();
+    });
+    addShortcut("Dashboard_Stop", QKeySequence(Qt::CTRL + Qt::Key_Period), [this] { stop(); });
+    addShortcut("Dashboard_CopyReply", QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C),
+                [this] { copyReply(); });
+    for (int digit = 0; digit < CHOICE_KEYS; ++digit)
+        addShortcut("Dashboard_ChoiceKey", QKeySequence(Qt::ALT + (Qt::Key_0 + digit)),
+                    [this, digit] { answerNumber(digit); });
+}
+
+void CodesPage::stop()
+{
+    if (m_parts.commands->state().isPending())
+        m_parts.commands->cancel();
+    else
+        m_parts.commands->endMenu();
+}
+
+void CodesPage::answerNumber(int position)
+{
+    const QString key = QString::number(position);
+    for (const MenuChoice &choice : m_parts.commands->state().choices) {
+        if (choice.key == key)
+            m_parts.commands->answer(key);
+    }
+}
+
+void CodesPage::openHistory()
+{
+    m_historyPopup->attach(general().commandEdit());
+    m_historyPopup->open();
+}
+
+void CodesPage::copyReply()
+{
+    const QString reply = general().lastReceived();
+    if (!reply.isEmpty())
+        QApplication::clipboard()->setText(reply);
+}
+
+} // namespace Dashboard

@@ -1,0 +1,108 @@
+#ifndef CODESPAGE_H
+#define CODESPAGE_H
+
+#include <functional>
+
+#include "Page.h"
+#include "StateStrip.h"
+
+class QAction;
+class QBoxLayout;
+class QFrame;
+class QPushButton;
+
+namespace Dashboard
+{
+
+class CodeHistory;
+class GeneralArea;
+class HistoryPopup;
+class LoadedPlugin;
+
+/** The objects that the page of codes uses. All of them must outlive it. */
+struct CodesParts {
+    LoadedPlugin *plugin;
+    CommandMonitor *commands;
+    CodeHistory *history;
+    std::function<QList<CodeName>()> names; // the codes of the operator and of the user
+};
+
+/** The page with the plug-in's general window and the strip that says what goes on with codes. */
+class CodesPage : public Page
+{
+    Q_OBJECT
+public:
+    explicit CodesPage(const CodesParts &parts, QWidget *parent = nullptr);
+
+    void retranslate() override;
+    void setForm(Form form) override;
+    QWidget *firstFocus() const override;
+
+    /// Shows or hides the general window.
+    void showWindow(bool isShown);
+    /// Shows a message in place of the general window, for example that the plug-in is missing.
+    void showText(const QString &text);
+    /// Shows the situation of the device. While codes cannot be sent, the general window is
+    /// disabled, except for a command that is on its way.
+    void setSituation(const Situation &situation);
+    /// Reads the names of the codes again.
+    void refreshNames();
+
+    GeneralWindow general() const;
+    GeneralArea *area() const { return m_area; }
+    StateStrip *strip() const { return m_strip; }
+    /// Returns the actions with their shortcuts, which the main window adds to itself: the code
+    /// field, the choices, Cancel or End menu, History, and Copy the reply.
+    QList<QAction *> shortcuts() const { return m_shortcuts; }
+
+public slots:
+    /// Sends the code. If a number is hidden in it, asks for the number and types the code.
+    void useCode(const QString &code);
+    /// Types the code without sending it.
+    void typeCode(const QString &code);
+    /// Cancels the command on its way, or ends the open menu.
+    void stop();
+    void answerNumber(int position);
+    void openHistory();
+    void copyReply();
+
+signals:
+    /// Emitted when the page must be shown, because the user has used one of its shortcuts.
+    void wanted();
+    void ownWindowRequested();
+    void remedyChosen(Dashboard::Remedy remedy);
+
+private:
+    void makeLayout();
+    void makeNarrowButtons();
+    void makeShortcuts();
+    QAction *addShortcut(const char *name, const QKeySequence &key,
+                         const std::function<void()> &action);
+    void followStrip();
+    void onCommandChanged();
+    void updateWindow();
+    void updateRecent();
+    void watchCodeField();
+    void showDetails();
+    void showCodesSheet();
+    void showTopUpSheet();
+    QList<QPushButton *> presets() const;
+    QString askForNumbers(const QString &code);
+
+    const CodesParts m_parts;
+    StateStrip *m_strip;
+    GeneralArea *m_area;
+    HistoryPopup *m_historyPopup;
+    QFrame *m_card;
+    QWidget *m_narrowButtons;
+    QPushButton *m_codesButton;
+    QPushButton *m_topUpButton;
+    QBoxLayout *m_column;
+    QList<QAction *> m_shortcuts;
+    Situation m_situation;
+    Form m_form = Form::Wide;
+};
+
+} // namespace Dashboard
+
+#endif

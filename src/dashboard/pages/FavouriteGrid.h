@@ -1,0 +1,69 @@
+#ifndef FAVOURITEGRID_H
+#define FAVOURITEGRID_H
+
+#include <QAbstractButton>
+
+#include "account/AccountCodes.h"
+
+class QGridLayout;
+
+namespace Dashboard
+{
+
+/** A card with an icon, a name and a code, or the card that adds a favourite. */
+class FavouriteButton : public QAbstractButton
+{
+    Q_OBJECT
+public:
+    explicit FavouriteButton(QWidget *parent = nullptr);
+
+    void setCode(const NamedCode &code);
+    /// Makes this the card that adds a favourite.
+    void setAdds(const QString &text);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    void paintCard(QPainter *painter);
+    void paintCode(QPainter *painter);
+    void paintAdd(QPainter *painter);
+    QFont textFont(int size, bool isBold) const;
+
+    NamedCode m_code;
+    bool m_adds = false;
+};
+
+/** The favourites in a grid. The arrow keys move the focus inside the grid. */
+class FavouriteGrid : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit FavouriteGrid(QWidget *parent = nullptr);
+
+    /// Shows the codes. `mayAdd` adds the card for another favourite.
+    void show(const QList<NamedCode> &codes, bool mayAdd);
+    void setColumns(int columns);
+
+signals:
+    void chosen(const Dashboard::NamedCode &code);
+    void addRequested();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void arrange();
+    bool moveFocus(FavouriteButton *from, int key);
+
+    QGridLayout *m_grid;
+    QList<FavouriteButton *> m_buttons;
+    int m_columns = 3;
+};
+
+} // namespace Dashboard
+
+#endif

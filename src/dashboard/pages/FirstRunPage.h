@@ -1,0 +1,124 @@
+#ifndef FIRSTRUNPAGE_H
+#define FIRSTRUNPAGE_H
+
+#include <QList>
+
+#include "device/Situation.h"
+#include "Page.h"
+#include "ProviderDatabase.h"
+
+class QBoxLayout;
+class QButtonGroup;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+namespace Dashboard
+{
+
+class DashboardSettings;
+class DeviceWatcher;
+class IconDisc;
+class IconView;
+class OperatorCodes;
+class PageColumn;
+class OperatorOption;
+
+/** A step of the first run: an icon, a title, a text and a button. */
+class FirstRunStep : public QWidget
+{
+    Q_OBJECT
+public:
+    FirstRunStep(const char *objectName, QWidget *parent);
+
+    void setDone(const char *icon, bool isDone);
+    void setTexts(const QString &title, const QString &text);
+    /// Shows the button of the remedy. Remedy::None hides the button.
+    void setRemedy(Remedy remedy);
+
+signals:
+    void chosen(Dashboard::Remedy remedy);
+
+private:
+    IconDisc *m_icon;
+    QLabel *m_title;
+    QLabel *m_text;
+    QPushButton *m_button;
+    Remedy m_remedy = Remedy::None;
+};
+
+/**
+ * The page that is shown instead of all others until the user has set the program up or has skipped
+ * this. The user finds a modem and a SIM and chooses whose codes to use.
+ */
+class FirstRunPage : public Page
+{
+    Q_OBJECT
+public:
+    /// The arguments must outlive the page. If `settings` is null, the page is never due.
+    FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
+                 const OperatorCodes *codes, QWidget *parent = nullptr);
+
+    /// Returns true if the page is to be shown. Never true during a demonstration.
+    bool isDue() const;
+    void showSituation(const Situation &situation);
+    /// Lists the operators that fit the SIM.
+    void listOperators();
+
+    void retranslate() override;
+    void setForm(Form form) override;
+    QWidget *firstFocus() const override;
+
+signals:
+    /// Emitted when the user asks for the action of a step, or for the demonstration.
+    void chosen(Dashboard::Remedy remedy);
+    void providerChosen(const Provisioning::Provider &provider);
+    /// Emitted when the user wants no operator's codes.
+    void declined();
+    /// Emitted when isDue() may have changed.
+    void finished();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void makeCard();
+    void arrangeButtons();
+    void makeButtons(QVBoxLayout *card);
+    void addOption(const QString &title, const QString &text);
+    void clearOptions();
+    void useChosen();
+    void finish();
+    void showChoice();
+    void showSteps();
+    bool hasModem() const;
+    bool hasSim() const;
+    QString choiceText() const;
+
+    DashboardSettings *const m_settings;
+    const DeviceWatcher *const m_device;
+    const OperatorCodes *const m_codes;
+    Situation m_situation;
+    QString m_listedNetwork;
+    QList<Provisioning::Provider> m_providers;
+    QList<OperatorOption *> m_options;
+    PageColumn *m_column;
+    QFrame *m_card;
+    QLabel *m_title;
+    QLabel *m_intro;
+    FirstRunStep *m_modem;
+    FirstRunStep *m_sim;
+    FirstRunStep *m_choice;
+    QVBoxLayout *m_list;
+    QButtonGroup *m_group;
+    QPushButton *m_demonstration;
+    QPushButton *m_notNow;
+    QPushButton *m_use;
+    QLabel *m_costs;
+    QBoxLayout *m_buttons = nullptr;
+};
+
+} // namespace Dashboard
+
+#endif

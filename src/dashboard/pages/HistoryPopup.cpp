@@ -1,0 +1,233 @@
+#include "HistoryPopup.h"
+
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QStandardItemModel>
+#include <QTreeView>
+
+#include "base/DashboardText.h"
+#include "base/Isolate.h"
+#include "look/Look.h"
+#include "plugin/CodeHistory.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int CODE_ROLE = Qt::UserRole + 1; // empty in the row that deletes the history
+const int COLUMNS = 3;                  // code, name, time
+const int MOST_ROWS = 8;
+
+QString timeText(const QDateTime &utc)
+{
+    const QDateTime time = utc.toLocalTime();
+    const QString clock = QLocale().toString(time.time(), QLocale::ShortFormat);
+    if (time.date() == QDate::currentDate())
+        return dashboardText("HISTORY_TODAY").arg(clock);
+    if (time.date() == QDate::currentDate().addDays(-1))
+        return dashboardText("HISTORY_YESTERDAY").arg(clock);
+    return QLocale().toString(time.date(), QLocale::LongFormat);
+}
+
+QString nameOf(const QString &code, const QList<CodeName> &names)
+{
+    for (const CodeName &named : names) {
+        if (named.code == code)
+            return named.name;
+    }
+    return QString();
+}
+
+bool startsWith(const QString &code, const QString &name, const QString &start)
+{
+    return code.startsWith(start) || name.startsWith(start, Qt::CaseInsensitive);
+}
+
+bool isMove(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown;
+}
+
+} // namespace
+
+HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *parent)
+    : QObject(parent), m_history(history), m_names(names),
+      m_model(new QStandardItemModel(0, COLUMNS, this)), m_view(new QTreeView),
+      m_completer(new QCompleter(m_model, this))
+{
+    m_view->setObjectName(QLatin1String("Dashboard_HistoryList"));
+    m_view->setRootIsDecorated(false);
+    m_view->setHeaderHidden(true);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    m_completer->setCompletionRole(CODE_ROLE);
+    m_completer->setMaxVisibleItems(MOST_ROWS);
+    m_completer->setPopup(m_view);    // takes ownership
+    m_view->installEventFilter(this); // after the completer, whose filter then runs second
+    connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
+            &HistoryPopup::choose);
+}
+
+void HistoryPopup::attach(QLineEdit *edit)
+{
+    if (edit == m_edit)
+        return;
+    if (m_edit)
+        m_edit->disconnect(this);
+    m_edit = edit;
+    m_completer->setWidget(edit);
+    if (!edit)
+        return;
+    edit->installEventFilter(this);
+    connect(edit, &QLineEdit::textEdited, this, &HistoryPopup::onTextEdited);
+}
+
+bool HistoryPopup::isOpen() const
+{
+    return m_view->isVisible();
+}
+
+void HistoryPopup::open()
+{
+    if (!m_edit || !m_edit->isEnabled())
+        return;
+    m_edit->setFocus(Qt::ShortcutFocusReason);
+    fill(QString());
+    popUp();
+    m_isRowChosen = true;
+    m_view->setCurrentIndex(m_view->model()->index(0, 0));
+}
+
+void HistoryPopup::popUp()
+{
+    m_isRowChosen = false;
+    m_completer->complete();
+    m_view->setMinimumWidth(m_edit->width());
+    for (int column = 0; column < COLUMNS; ++column)
+        m_view->resizeColumnToContents(column);
+    m_view->header()->setStretchLastSection(true);
+}
+
+void HistoryPopup::onTextEdited(const QString &text)
+{
+    const bool isTyped = m_isKeyPressed;
+    m_isKeyPressed = false;
+    if (!isTyped || !m_isOpenedByTyping || text.isEmpty()) {
+        m_view->hide();
+        return;
+    }
+    fill(text);
+    if (m_model->rowCount() > 1)
+        popUp();
+    else
+        m_view->hide();
+}
+
+// ---- content -------------------------------------------------------------------------------
+
+/// Lists the codes whose code or name begins with the string.
+void HistoryPopup::fill(const QString &start)
+{
+    m_model->removeRows(0, m_model->rowCount());
+    const QList<CodeName> names = m_names ? m_names() : QList<CodeName>();
+    QStringList listed;
+    for (const SentCode &sent : m_history->codes()) {
+        const QString name = nameOf(sent.code, names);
+        listed << sent.code;
+        if (startsWith(sent.code, name, start))
+            addRow(sent.code, name, timeText(sent.time));
+    }
+    for (const CodeName &named : names) {
+        if (!listed.contains(named.code) && startsWith(named.code, named.name, start))
+            addRow(named.code, named.name, QString());
+    }
+    addFooter();
+}
+
+void HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
+{
+    QList<QStandardItem *> row;
+    for (const QString &text : {isolated(code), name, time}) {
+        row << new QStandardItem(text);
+        row.last()->setData(code, CODE_ROLE);
+    }
+    QFont font = row.first()->font();
+    font.setBold(true);
+    row.first()->setFont(font);
+    m_model->appendRow(row);
+}
+
+void HistoryPopup::addFooter()
+{
+    const bool isEmpty = m_history->codes().isEmpty();
+    QStandardItem *action =
+        new QStandardItem(dashboardText(isEmpty ? "HISTORY_EMPTY" : "HISTORY_DELETE"));
+    QStandardItem *note = new QStandardItem(dashboardText("HISTORY_NOT_KEPT"));
+    action->setForeground(Look::instance().color(Token::AccentText));
+    note->setForeground(Look::instance().color(Token::Text3));
+    action->setEnabled(!isEmpty);
+    note->setEnabled(false);
+    m_model->appendRow({action, note, new QStandardItem});
+}
+
+void HistoryPopup::choose(const QModelIndex &index)
+{
+    m_isKeyPressed = false;
+    const QString code = index.data(CODE_ROLE).toString();
+    if (code.isEmpty())
+        m_history->deleteAll();
+    else
+        emit chosen(code);
+}
+
+// ---- keys ----------------------------------------------------------------------------------
+
+bool HistoryPopup::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    QKeyEvent *key = static_cast<QKeyEvent *>(event);
+    if (watched == m_view)
+        return onPopupKey(key);
+    m_isKeyPressed = !key->text().isEmpty();
+    return key->modifiers() == Qt::NoModifier && onEditKey(key->key());
+}
+
+bool HistoryPopup::onEditKey(int key)
+{
+    if (key == Qt::Key_Down && m_edit->text().isEmpty()) {
+        open();
+        return true;
+    }
+    if (key == Qt::Key_Escape && !isOpen() && !m_edit->text().isEmpty()) {
+        m_edit->selectAll();
+        m_edit->del(); // disables Send, unlike clear()
+        return true;
+    }
+    return false;
+}
+
+/// Lets Return send what the user has typed, unless the user has chosen a row of the list. The
+/// current row does not show this, because a list makes its first row the current one when it gets
+/// the focus.
+bool HistoryPopup::onPopupKey(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isMove(event->key()))
+        m_isRowChosen = true;
+    if (!isReturn || m_isRowChosen || !m_edit)
+        return false;
+    m_view->hide();
+    QKeyEvent typed(QEvent::KeyPress, event->key(), event->modifiers());
+    QCoreApplication::sendEvent(m_edit, &typed);
+    return true;
+}
+
+} // namespace Dashboard

@@ -1,0 +1,141 @@
+#ifndef HOMEPAGE_H
+#define HOMEPAGE_H
+
+#include <QPointer>
+
+#include "account/AccountCodes.h"
+#include "account/AccountEntry.h"
+#include "device/Situation.h"
+#include "Page.h"
+
+class QBoxLayout;
+class QFrame;
+class QLabel;
+class QPushButton;
+
+namespace Dashboard
+{
+
+class AccountRecorder;
+class AccountStore;
+class AccountTile;
+class AppActions;
+class BalanceCard;
+class BalanceChart;
+class CommandMonitor;
+class FavouriteGrid;
+class Favourites;
+class PageColumn;
+class StateCard;
+
+/** The newest message of the network, as the last row of the page shows it. */
+struct HomeMessage {
+    qint64 id = 0; // 0 hides the row
+    QString title;
+    QString note; // such as "13:05, waits for your answer"
+    bool waitsForAnswer = false;
+};
+
+/**
+ * The front page: balance, its course, tiles, favourites and the newest message. The page never
+ * sends a code unless the user presses a button.
+ */
+class HomePage : public Page
+{
+    Q_OBJECT
+public:
+    /** What the page needs. All pointers must outlive the page. */
+    struct Parts {
+        AccountStore *store = nullptr;
+        AccountRecorder *recorder = nullptr;
+        Favourites *favourites = nullptr;
+        CommandMonitor *monitor = nullptr; // may be null in tests of the layout
+        AppActions *actions = nullptr;
+    };
+
+    explicit HomePage(const Parts &parts, QWidget *parent = nullptr);
+
+    void setCodes(const AccountCodes &codes);
+    void setSituation(const Situation &situation);
+    /// Sets the text for the SIM, such as "SIM ending 6789"; may be empty.
+    void setSimText(const QString &text);
+    void setMessage(const HomeMessage &message);
+
+    void retranslate() override;
+    void setForm(Form form) override;
+    QWidget *firstFocus() const override;
+
+public slots:
+    /// Asks for the balance again, if a code can be sent now.
+    void askAgain();
+    void topUp();
+    /// Shows the current values.
+    void look();
+
+signals:
+    /// Emitted when the user wants to read or answer the message of the last row.
+    void messageChosen(qint64 id);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    enum class Ask { Balance, Validity, Data };
+
+    void makeAccount();
+    void makeTiles();
+    void makeFavourites();
+    void makeMessage();
+    void lookSoon();
+    void lookAtBalance();
+    void lookAtTiles();
+    void lookAtNumber();
+    void lookAtValidity();
+    void lookAtData();
+    void lookAtFavourites();
+    void lookAtSituation();
+    bool isNormal() const;
+    bool canSend() const;
+    int askingSeconds(const QString &code) const;
+    AccountEntry validityEntry() const;
+    void send(const QString &code);
+    void showReply();
+    void copyNumber();
+    void choose(const NamedCode &code);
+    void editFavourites();
+    int favouriteColumns() const;
+    int favouriteCount() const;
+
+    const Parts m_parts;
+    AccountCodes m_codes;
+    Situation m_situation;
+    QString m_simText;
+    HomeMessage m_message;
+    Form m_form = Form::Wide;
+    bool m_isLooking = false;
+    PageColumn *m_column;
+    StateCard *m_state;
+    QWidget *m_account;
+    QBoxLayout *m_accountRow;
+    BalanceCard *m_balance;
+    BalanceChart *m_chart;
+    QFrame *m_tiles;
+    QBoxLayout *m_tileRow;
+    AccountTile *m_number;
+    AccountTile *m_validity;
+    AccountTile *m_data;
+    QFrame *m_tileLine;
+    QWidget *m_favourites;
+    QLabel *m_favouritesTitle;
+    QPushButton *m_edit;
+    FavouriteGrid *m_grid;
+    QFrame *m_messageRow;
+    QLabel *m_messageTitle;
+    QLabel *m_messageNote;
+    QPushButton *m_messageButton;
+};
+
+} // namespace Dashboard
+
+#endif

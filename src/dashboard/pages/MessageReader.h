@@ -1,0 +1,120 @@
+#ifndef MESSAGEREADER_H
+#define MESSAGEREADER_H
+
+#include <QFrame>
+
+#include "messages/Message.h"
+#include "plugin/MenuChoices.h"
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace Dashboard
+{
+
+class Chip;
+class IconDisc;
+
+/** Buttons for the choices of a menu, in as many rows as are needed. */
+class ChoiceButtons : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ChoiceButtons(QWidget *parent = nullptr);
+
+    void setChoices(const QList<MenuChoice> &choices);
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void chosen(const QString &key);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    int place(int width, bool isMoving) const;
+
+    QList<MenuChoice> m_choices;
+    QList<QPushButton *> m_buttons;
+};
+
+/**
+ * The part with which the user answers the network: choices, a field with a button, and a button
+ * that ends the session without an answer.
+ */
+class AnswerBox : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit AnswerBox(QWidget *parent = nullptr);
+
+    void setChoices(const QList<MenuChoice> &choices);
+    /// Enables the box if the answer can be sent now.
+    void setUsable(bool isUsable);
+    /// Clears the field.
+    void clear();
+    void retranslate();
+    QLineEdit *field() const { return m_field; }
+
+signals:
+    void answered(const QString &text);
+    void endRequested();
+
+private:
+    void send();
+    void onEdited();
+
+    ChoiceButtons *m_choices;
+    QLineEdit *m_field;
+    QPushButton *m_send;
+    QLabel *m_costs;
+    QPushButton *m_end;
+    bool m_hasChoices = false;
+};
+
+/** Shows one message as plain text, with the buttons for it. */
+class MessageReader : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit MessageReader(QWidget *parent = nullptr);
+
+    /// Shows the message. A null message shows a hint.
+    void setMessage(const Message &message, bool isWaiting, const QString &day);
+    const Message &message() const { return m_message; }
+    AnswerBox *answerBox() const { return m_answers; }
+    void setBackVisible(bool isVisible);
+    void retranslate();
+
+signals:
+    void backRequested();
+    void deleteRequested();
+
+private:
+    QWidget *makeHead();
+    void copy();
+
+    Message m_message;
+    QString m_day;
+    QPushButton *m_back;
+    IconDisc *m_icon;
+    QLabel *m_sender;
+    QLabel *m_when;
+    QPushButton *m_copy;
+    QPushButton *m_delete;
+    QWidget *m_content;
+    QLabel *m_text;
+    Chip *m_chip;
+    AnswerBox *m_answers;
+    QLabel *m_hint;
+};
+
+} // namespace Dashboard
+
+#endif

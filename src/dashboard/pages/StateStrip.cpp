@@ -1,0 +1,487 @@
+#include "StateStrip.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include "base/DashboardText.h"
+#include "base/Isolate.h"
+#include "look/Controls.h"
+#include "look/Look.h"
+#include "SecondsRing.h"
+#include "StateCard.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int HEIGHT = 116; // pixels at 100 %
+const int SPACING = 8;
+const int MOST_RECENT = 3;
+const int ROOM_FOR_MORE = 64;  // of the button with the other choices
+const int CHOICE_PADDING = 40; // of a choice, at both sides, and the spacing behind it
+
+using Kind = CommandState::Kind;
+
+/** Describes the strip as a status bar, which screen readers can be asked to read. */
+class StripAccessible : public QAccessibleWidget
+{
+public:
+    explicit StripAccessible(QWidget *strip) : QAccessibleWidget(strip, QAccessible::StatusBar) {}
+};
+
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    StateStrip *strip = qobject_cast<StateStrip *>(object);
+    return strip ? new StripAccessible(strip) : nullptr;
+}
+
+void installAccessible()
+{
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(makeAccessible);
+        return true;
+    }();
+    Q_UNUSED(isInstalled);
+}
+
+/// Returns the key and the words of a choice, as they stand on its button.
+QString choiceText(const MenuChoice &choice)
+{
+    const QString text = choice.key + QLatin1String("  ") + choice.text;
+    return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+const char *styleOf(Kind kind)
+{
+    if (kind == Kind::MenuOpen)
+        return "menu";
+    return kind == Kind::Failed ? "failed" : "";
+}
+
+} // namespace
+
+StateStrip::StateStrip(QWidget *parent)
+    : QFrame(parent), m_sign(new QStackedWidget(this)), m_icon(new IconDisc(m_sign)),
+      m_ring(new SecondsRing(m_sign)), m_title(new ElidedLabel(this)),
+      m_text(new ElidedLabel(this)), m_row(new QWidget(this)), m_rowLayout(new QHBoxLayout(m_row))
+{
+    installAccessible();
+    m_situation.canSend = true;
+    setObjectName(QLatin1String("Dashboard_StateStrip"));
+    setBox(this, "strip");
+    m_title->setObjectName(QLatin1String("Dashboard_StripTitle"));
+    m_text->setObjectName(QLatin1String("Dashboard_StripText"));
+    setLabelType(m_title, "h3");
+    setLabelType(m_text, "small");
+    m_ring->setObjectName(QLatin1String("Dashboard_SecondsRing"));
+    m_row->setObjectName(QLatin1String("Dashboard_StripRow"));
+    makeEndButtons();
+    makeRows();
+    connect(&Look::instance(), &Look::changed, this, [this] {
+        updateHeight();
+        m_rowWidth = -1;
+        fillRow();
+    });
+    retranslate();
+}
+
+// ---- parts ---------------------------------------------------------------------------------
+
+QPushButton *StateStrip::addEndButton(const char *kind, const char *name)
+{
+    QPushButton *button = makeButton(kind, this);
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
+void StateStrip::makeEndButtons()
+{
+    m_history = addEndButton("ghost", "Dashboard_HistoryButton");
+    m_ownWindow = makeIconButton("window", this);
+    m_ownWindow->setObjectName(QLatin1String("Dashboard_OwnWindowButton"));
+    m_cancel = addEndButton("", "Dashboard_CancelCommand");
+    m_end = addEndButton("danger", "Dashboard_EndMenu");
+    m_dismiss = addEndButton("ghost", "Dashboard_DismissFailure");
+    setButtonIcon(m_history, "clock", Token::AccentText);
+    setButtonIcon(m_cancel, "close", Token::Text);
+    setButtonIcon(m_end, "stop", Token::Danger);
+    connect(m_history, &QPushButton::clicked, this, &StateStrip::historyRequested);
+    connect(m_ownWindow, &QPushButton::clicked, this, &StateStrip::ownWindowRequested);
+    connect(m_cancel, &QPushButton::clicked, this, &StateStrip::cancelled);
+    connect(m_end, &QPushButton::clicked, this, &StateStrip::menuEnded);
+    connect(m_dismiss, &QPushButton::clicked, this, &StateStrip::dismissed);
+}
+
+void StateStrip::makeRows()
+{
+    m_sign->addWidget(m_icon);
+    m_sign->addWidget(m_ring);
+    m_sign->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    QVBoxLayout *words = new QVBoxLayout;
+    words->setSpacing(0);
+    words->addWidget(m_title);
+    words->addWidget(m_text);
+    QHBoxLayout *top = new QHBoxLayout;
+    setSpacing(top, 12);
+    top->addWidget(m_sign);
+    top->addLayout(words, 1);
+    for (QPushButton *button : {m_history, m_ownWindow, m_cancel, m_end, m_dismiss})
+        top->addWidget(button);
+    m_rowLayout->setContentsMargins(0, 0, 0, 0);
+    setSpacing(m_rowLayout, SPACING);
+    QVBoxLayout *column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->addLayout(top, 1);
+    column->addWidget(m_row);
+    setForm(m_form);
+}
+
+/// The height depends on the font alone. It is fixed for the rows, too, because their content must
+/// not move what stands below.
+void StateStrip::updateHeight()
+{
+    setFixedHeight(Look::instance().px(HEIGHT));
+    m_row->setFixedHeight(Look::instance().px(36));
+    m_sign->setFixedSize(m_ring->sizeHint());
+}
+
+void StateStrip::setForm(Form form)
+{
+    m_form = form;
+    if (form == Form::Narrow)
+        setMargins(layout(), 12, 14, 12, 14);
+    else
+        setMargins(layout(), 24, 14, 20, 14);
+    updateHeight();
+    update();
+}
+
+// ---- what is shown -------------------------------------------------------------------------
+
+void StateStrip::setCommand(const CommandState &state)
+{
+    m_state = state;
+    update();
+}
+
+void StateStrip::setSituation(const Situation &situation)
+{
+    m_situation = situation;
+    update();
+}
+
+void StateStrip::setRecent(const QList<CodeName> &codes)
+{
+    m_recent = codes;
+    update();
+}
+
+void StateStrip::setOwnWindowOffered(bool isOffered)
+{
+    m_isOwnWindowOffered = isOffered;
+    update();
+}
+
+bool StateStrip::isBlocked() const
+{
+    return !m_situation.canSend && !m_state.isPending();
+}
+
+QString StateStrip::title() const
+{
+    return m_title->QLabel::text();
+}
+
+QString StateStrip::text() const
+{
+    return m_text->QLabel::text();
+}
+
+void StateStrip::retranslate()
+{
+    m_history->setText(dashboardText("STRIP_HISTORY"));
+    setIconButtonText(m_ownWindow, dashboardText("STRIP_OWN_WINDOW"));
+    m_cancel->setText(dashboardText("STRIP_CANCEL"));
+    m_dismiss->setText(dashboardText("STRIP_DISMISS"));
+    m_rowWidth = -1;
+    update();
+}
+
+void StateStrip::update()
+{
+    const bool isNarrow = m_form == Form::Narrow;
+    if (isBlocked())
+        showWords(m_situation.title, m_situation.text);
+    else if (m_state.kind == Kind::MenuOpen && isNarrow)
+        showWords(dashboardText("STRIP_MENU_NARROW"),
+                  m_state.choices.isEmpty() ? m_state.text
+                                            : dashboardText("STRIP_MENU_CHOOSE_NARROW"));
+    else if (m_state.kind == Kind::Ready && isNarrow)
+        showWords(m_state.title, dashboardText("STRIP_READY_NARROW"));
+    else
+        showWords(m_state.title, m_state.text);
+    updateIcon();
+    updateEndButtons();
+    m_rowWidth = -1;
+    fillRow();
+    announce();
+}
+
+void StateStrip::showWords(const QString &title, const QString &text)
+{
+    m_title->setText(title);
+    m_text->setText(text);
+    const bool isFailure = !isBlocked() && m_state.kind == Kind::Failed;
+    setLabelType(m_title, isFailure ? "danger" : "h3");
+    setStyleProperty(this, "state", QLatin1String(isBlocked() ? "" : styleOf(m_state.kind)));
+}
+
+void StateStrip::updateIcon()
+{
+    m_sign->setCurrentWidget(m_state.kind == Kind::Waiting ? static_cast<QWidget *>(m_ring)
+                                                           : m_icon);
+    m_ring->setValue(m_state.seconds);
+    m_ring->setAccessibleName(m_state.text);
+    if (isBlocked())
+        m_icon->setIcon(m_situation.icon ? m_situation.icon : "modem", m_situation.tone);
+    else if (m_state.kind == Kind::MenuOpen)
+        m_icon->setIcon("list", Tone::Accent);
+    else if (m_state.kind == Kind::Failed)
+        m_icon->setIcon("warning", Tone::Danger);
+    else if (m_state.kind == Kind::Queued)
+        m_icon->setIcon("clock", Tone::Neutral);
+    else if (m_state.kind == Kind::Cancelled)
+        m_icon->setIcon("stop", Tone::Neutral);
+    else
+        m_icon->setIcon("check", Tone::Ok);
+}
+
+void StateStrip::updateEndButtons()
+{
+    const bool isBlockedNow = isBlocked();
+    const bool isRest = m_state.kind == Kind::Ready || m_state.kind == Kind::MenuEnded;
+    const bool isOver = m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled;
+    m_history->setVisible(!isBlockedNow && isRest);
+    m_ownWindow->setVisible(!isBlockedNow && isRest && m_isOwnWindowOffered &&
+                            m_form != Form::Narrow);
+    m_cancel->setVisible(m_state.mayBeCancelled);
+    m_end->setVisible(!isBlockedNow && m_state.kind == Kind::MenuOpen);
+    m_dismiss->setVisible(!isBlockedNow && isOver);
+    const bool isNarrow = m_form == Form::Narrow;
+    m_end->setText(dashboardText(isNarrow ? "STRIP_END" : "STRIP_END_MENU"));
+    if (isNarrow)
+        m_end->setIcon(QIcon());
+    else
+        setButtonIcon(m_end, "stop", Token::Danger);
+}
+
+void StateStrip::setSeconds(int seconds)
+{
+    m_state.seconds = seconds;
+    m_state.text = dashboardText("STRIP_SECONDS").arg(seconds).arg(REPLY_SECONDS);
+    m_text->setText(m_state.text);
+    m_ring->setValue(seconds);
+    m_ring->setAccessibleName(m_state.text);
+    announceSeconds(seconds);
+}
+
+// ---- for screen readers --------------------------------------------------------------------
+
+void StateStrip::announce()
+{
+    const QString words = title() + QString::fromUtf8(" · ") + text();
+    const bool isCounting = !isBlocked() && m_state.kind == Kind::Waiting;
+    const QString news = isCounting ? title() : words;
+    setAccessibleName(title());
+    setAccessibleDescription(text());
+    if (news == m_announced)
+        return;
+    m_announced = news;
+    alert(words);
+}
+
+void StateStrip::alert(const QString &words)
+{
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+    emit announced(words);
+}
+
+void StateStrip::announceSeconds(int seconds)
+{
+    if (seconds != 10 && seconds != 20 && seconds != 25)
+        return;
+    setAccessibleDescription(m_state.text);
+    alert(m_state.text);
+}
+
+// ---- the second row ------------------------------------------------------------------------
+
+void StateStrip::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    fillRow();
+}
+
+void StateStrip::clearRow()
+{
+    while (QLayoutItem *item = m_rowLayout->takeAt(0)) {
+        if (item->widget()) {
+            item->widget()->hide();
+            item->widget()->deleteLater();
+        }
+        delete item;
+    }
+}
+
+/// Fills the row again if its width or its content has changed.
+void StateStrip::fillRow()
+{
+    const int width = contentsRect().width() - layout()->contentsMargins().left() -
+                      layout()->contentsMargins().right();
+    if (width == m_rowWidth)
+        return;
+    m_rowWidth = width;
+    clearRow();
+    if (isBlocked())
+        addRemedies();
+    else if (m_state.kind == Kind::Waiting)
+        addNote(dashboardText("STRIP_WAITING_TEXT"));
+    else if (m_state.kind == Kind::MenuOpen)
+        addChoices();
+    else if (m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled)
+        addFailureButtons();
+    else if (m_state.kind != Kind::Queued)
+        addRecent();
+    m_rowLayout->addStretch(1);
+}
+
+void StateStrip::addNote(const QString &text)
+{
+    ElidedLabel *note = new ElidedLabel(m_row);
+    setLabelType(note, "small");
+    note->setText(text);
+    m_rowLayout->addWidget(note, 1000);
+}
+
+QPushButton *StateStrip::addButton(const char *kind, const QString &text)
+{
+    QPushButton *button = makeButton(kind, m_row);
+    button->setText(text);
+    button->ensurePolished();
+    m_rowLayout->addWidget(button);
+    return button;
+}
+
+/// Returns the width that remains in the row.
+int StateStrip::roomLeft() const
+{
+    int used = 0;
+    for (int i = 0; i < m_rowLayout->count(); ++i)
+        used += m_rowLayout->itemAt(i)->widget()->sizeHint().width() + m_rowLayout->spacing();
+    return m_rowWidth - used;
+}
+
+void StateStrip::addChoices()
+{
+    QList<MenuChoice> rest = m_state.choices;
+    if (rest.isEmpty())
+        return addNote(m_state.menuText.simplified());
+    const int roomForMore = Look::instance().px(ROOM_FOR_MORE);
+    while (!rest.isEmpty()) {
+        addChoice(rest.first());
+        const bool isLast = rest.size() == 1;
+        if (roomLeft() < (isLast ? -m_rowLayout->spacing() : roomForMore))
+            break;
+        rest.removeFirst();
+    }
+    if (rest.isEmpty())
+        return;
+    QWidget *tooWide = m_rowLayout->itemAt(m_rowLayout->count() - 1)->widget();
+    m_rowLayout->removeWidget(tooWide);
+    delete tooWide;
+    addMore(rest);
+}
+
+void StateStrip::addChoice(const MenuChoice &choice)
+{
+    QPushButton *button = addButton("choice", choiceText(choice));
+    const int room = m_rowWidth - Look::instance().px(ROOM_FOR_MORE + CHOICE_PADDING);
+    button->setText(button->fontMetrics().elidedText(button->text(), Qt::ElideRight, room));
+    button->setToolTip(choice.text);
+    button->setObjectName(QLatin1String("Dashboard_Choice"));
+    button->setAccessibleName(dashboardText("CHOICE_NAME").arg(choice.key, choice.text));
+    const QString key = choice.key;
+    connect(button, &QPushButton::clicked, this, [this, key] { emit answered(key); });
+}
+
+void StateStrip::addMore(const QList<MenuChoice> &rest)
+{
+    QPushButton *more = addButton("choice", dashboardText("CHOICE_MORE").arg(rest.size()));
+    more->setObjectName(QLatin1String("Dashboard_MoreChoices"));
+    more->setAccessibleName(dashboardText("CHOICE_MORE_NAME").arg(rest.size()));
+    QMenu *menu = new QMenu(more);
+    for (const MenuChoice &choice : rest) {
+        const QString key = choice.key;
+        menu->addAction(choiceText(choice), this, [this, key] { emit answered(key); });
+    }
+    connect(more, &QPushButton::clicked, menu,
+            [more, menu] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
+}
+
+void StateStrip::addRecent()
+{
+    for (int i = 0; i < m_recent.size() && i < MOST_RECENT; ++i) {
+        const CodeName code = m_recent.at(i);
+        const QString name = QString(code.name).replace(QLatin1Char('&'), QLatin1String("&&"));
+        QPushButton *chip =
+            addButton("chip", (isolated(code.code) + QLatin1String("  ") + name).trimmed());
+        chip->setObjectName(QLatin1String("Dashboard_RecentCode"));
+        connect(chip, &QPushButton::clicked, this, [this, code] { emit codeChosen(code.code); });
+        if (roomLeft() >= -m_rowLayout->spacing())
+            continue;
+        m_rowLayout->removeWidget(chip);
+        delete chip;
+        return;
+    }
+}
+
+/// In the narrow form, the text may be elided. There, a code whose outcome is unknown is sent again
+/// from the dialog, which shows the complete text.
+void StateStrip::addFailureButtons()
+{
+    if (m_state.mayBeSentAgain && m_form != Form::Narrow) {
+        QPushButton *again = addButton("", dashboardText("STRIP_SEND_AGAIN"));
+        again->setObjectName(QLatin1String("Dashboard_SendAgain"));
+        setButtonIcon(again, "refresh", Token::Text);
+        connect(again, &QPushButton::clicked, this, &StateStrip::sentAgain);
+    }
+    QPushButton *details = addButton("ghost", dashboardText("STRIP_WHAT_HAPPENED"));
+    details->setObjectName(QLatin1String("Dashboard_WhatHappened"));
+    setButtonIcon(details, "info", Token::AccentText);
+    connect(details, &QPushButton::clicked, this, &StateStrip::detailsRequested);
+}
+
+void StateStrip::addRemedies()
+{
+    for (const Remedy remedy : m_situation.remedies) {
+        QPushButton *button = addButton("", QString());
+        setRemedyButton(button, remedy, remedy == m_situation.remedies.first());
+        button->ensurePolished();
+        connect(button, &QPushButton::clicked, this, [this, remedy] { emit remedyChosen(remedy); });
+        if (roomLeft() >= -m_rowLayout->spacing() || m_rowLayout->count() == 1)
+            continue;
+        m_rowLayout->removeWidget(button);
+        delete button;
+        return;
+    }
+}
+
+} // namespace Dashboard

@@ -1,0 +1,120 @@
+#ifndef STATESTRIP_H
+#define STATESTRIP_H
+
+#include <QFrame>
+
+#include "device/Situation.h"
+#include "Page.h"
+#include "plugin/CommandMonitor.h"
+
+class QHBoxLayout;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QStackedWidget;
+
+namespace Dashboard
+{
+
+class ElidedLabel;
+class IconDisc;
+class SecondsRing;
+
+/** A code, and the name that the operator or the user has given to it. */
+struct CodeName {
+    QString code; // without numbers and PINs, see codeWithoutNumbers()
+    QString name; // may be empty
+};
+
+/**
+ * The two rows above the general window that say what goes on with codes: icon, title and text,
+ * and a row with what the user can do. The strip has the same height in each state, so nothing
+ * below it ever moves.
+ */
+class StateStrip : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit StateStrip(QWidget *parent = nullptr);
+
+    /// Shows what goes on with codes, unless the situation of the device prevents sending.
+    void setCommand(const CommandState &state);
+    void setSituation(const Situation &situation);
+    /// Sets the codes that are offered while nothing goes on, newest first.
+    void setRecent(const QList<CodeName> &codes);
+    void setForm(Form form);
+    /// Sets whether the general window is offered in a window of its own.
+    void setOwnWindowOffered(bool isOffered);
+    void setSeconds(int seconds);
+    void retranslate();
+
+    /// Returns true if the strip shows the situation of the device.
+    bool isBlocked() const;
+    QString title() const;
+    QString text() const;
+
+signals:
+    void cancelled();
+    void menuEnded();
+    void dismissed();
+    void sentAgain();
+    void detailsRequested();
+    void historyRequested();
+    void ownWindowRequested();
+    void answered(const QString &key);
+    void codeChosen(const QString &code);
+    void remedyChosen(Dashboard::Remedy remedy);
+    /// Emitted when screen readers are alerted, with the words that they read.
+    void announced(const QString &words);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void makeRows();
+    void makeEndButtons();
+    QPushButton *addEndButton(const char *kind, const char *name);
+    void showWords(const QString &title, const QString &text);
+    void update();
+    void updateEndButtons();
+    void updateIcon();
+    void updateHeight();
+    void announce();
+    void alert(const QString &words);
+    void announceSeconds(int seconds);
+    void fillRow();
+    void clearRow();
+    void addNote(const QString &text);
+    QPushButton *addButton(const char *kind, const QString &text);
+    void addChoices();
+    void addChoice(const MenuChoice &choice);
+    void addMore(const QList<MenuChoice> &rest);
+    void addRecent();
+    void addFailureButtons();
+    void addRemedies();
+    int roomLeft() const;
+
+    CommandState m_state;
+    Situation m_situation;
+    QList<CodeName> m_recent;
+    Form m_form = Form::Wide;
+    bool m_isOwnWindowOffered = true;
+    QString m_announced;
+    QStackedWidget *m_sign; // the icon or the ring
+    IconDisc *m_icon;
+    SecondsRing *m_ring;
+    ElidedLabel *m_title;
+    ElidedLabel *m_text;
+    QPushButton *m_history;
+    QPushButton *m_ownWindow;
+    QPushButton *m_cancel;
+    QPushButton *m_end;
+    QPushButton *m_dismiss;
+    QWidget *m_row;
+    QHBoxLayout *m_rowLayout;
+    int m_rowWidth = -1; // of the row when it was filled
+};
+
+} // namespace Dashboard
+
+#endif

@@ -1,0 +1,71 @@
+#include "CodeForms.h"
+
+#include <QRegularExpression>
+
+#include "UssdCode.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int LONGEST_SERVICE_CODE = 5; // digits
+const int SHORTEST_SECRET = 4;      // digits; the length of the shortest PIN
+
+/// Returns the template with its places hidden if the code fits it, otherwise an empty string.
+QString hiddenBy(const QString &form, const QString &code)
+{
+    QString pattern = QRegularExpression::escape(form);
+    pattern.replace(QRegularExpression::escape(Formats::INPUT_PLACEHOLDER),
+                    QLatin1String("[0-9+]+"));
+    const QRegularExpression fit(QLatin1Char('^') + pattern + QLatin1Char('$'));
+    if (!fit.match(code).hasMatch())
+        return QString();
+    return QString(form).replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS));
+}
+
+/// Hides the groups of digits that may be a number or a PIN.
+QString hiddenByLength(const QString &code)
+{
+    static const QRegularExpression group(QLatin1String("\\+?[0-9]+"));
+    QString shown;
+    int end = 0;
+    for (auto groups = group.globalMatch(code); groups.hasNext();) {
+        const QRegularExpressionMatch match = groups.next();
+        const int longest = end == 0 ? LONGEST_SERVICE_CODE : SHORTEST_SECRET - 1;
+        shown += code.mid(end, match.capturedStart() - end);
+        shown += match.capturedLength() > longest ? QString(HIDDEN_DIGITS) : match.captured();
+        end = match.capturedEnd();
+    }
+    return shown + code.mid(end);
+}
+
+} // namespace
+
+const QChar HIDDEN_DIGITS(0x2026);
+
+QString codeWithoutNumbers(const QString &code, const QStringList &templates)
+{
+    for (const QString &form : templates) {
+        const bool hasPlace = form.contains(Formats::INPUT_PLACEHOLDER);
+        const QString hidden = hasPlace || form == code ? hiddenBy(form, code) : QString();
+        if (!hidden.isEmpty())
+            return hidden;
+    }
+    return hiddenByLength(code);
+}
+
+bool hasHiddenDigits(const QString &code)
+{
+    return code.contains(HIDDEN_DIGITS);
+}
+
+QString withDigits(const QString &code, const QString &digits)
+{
+    QString complete = code;
+    const int place = complete.indexOf(HIDDEN_DIGITS);
+    return place < 0 ? complete : complete.replace(place, 1, digits);
+}
+
+} // namespace Dashboard

@@ -1,0 +1,168 @@
+#ifndef COMMANDMONITOR_H
+#define COMMANDMONITOR_H
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+
+#include "device/Session.h"
+#include "GeneralWindow.h"
+#include "MenuChoices.h"
+#include "ReplyTap.h"
+#include "tksv_device.h"
+#include "UserActivity.h"
+
+namespace Dashboard
+{
+
+class DeviceWatcher;
+
+/** What goes on with codes, in the user's language. */
+struct CommandState {
+    enum class Kind {
+        Ready,
+        Waiting,   // for the reply to `code`
+        Queued,    // behind another window or another program
+        MenuOpen,  // the network waits for an answer of the user
+        MenuEnded, // the user has ended the menu
+        Failed,
+        Cancelled // by the user
+    };
+
+    Kind kind = Kind::Ready;
+    QString code;              // the code in question, as it was sent; may contain a PIN
+    int seconds = 0;           // since the code was handed over
+    QString title;             // one line; a code or number in it is isolated
+    QString text;              // one or two sentences
+    QString details;           // every word about a failure, with the network's closing message
+    QList<MenuChoice> choices; // of the open menu; empty if the program cannot be certain
+    QString menuText;          // the text of the open menu; empty if it is unknown
+    bool mayBeCancelled = false;
+    bool mayBeSentAgain = false;
+    int failure = TKSV_FAILURE_NONE; // a TKSV_Failure
+
+    bool isPending() const { return kind == Kind::Waiting || kind == Kind::Queued; }
+    bool operator==(const CommandState &other) const;
+    bool operator!=(const CommandState &other) const { return !(*this == other); }
+};
+
+/// The time that the network has for its reply, as it is shown to the user.
+const int REPLY_SECONDS = 30;
+
+/**
+ * Observes the codes that any window of the plug-in sends, and sends codes through the general
+ * window, as a user would. It is the only source of what the dashboard shows about codes. All
+ * functions must be called from the GUI thread.
+ */
+class CommandMonitor : public QObject
+{
+    Q_OBJECT
+public:
+    using Clock = std::function<qint64()>; // milliseconds; never runs backwards
+
+    /// `window` returns the embedded general window, which may be incomplete. All arguments must
+    /// outlive the monitor.
+    CommandMonitor(const std::function<GeneralWindow()> &window, const DeviceWatcher *device,
+                   ReplyTap *replies, QObject *parent = nullptr);
+    ~CommandMonitor() override;
+
+    /// Replaces the function that returns the embedded general window.
+    void setWindow(const std::function<GeneralWindow()> &window) { m_window = window; }
+
+    const CommandState &state() const { return m_state; }
+    /// Returns true if a code can be sent now.
+    bool canSend() const;
+    /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
+    QStringList recent() const { return m_recent; }
+    /// Sets the codes with a place for a number ("%s"), so that the number is recognized.
+    void setTemplates(const QStringList &templates) { m_templates = templates; }
+    QStringList templates() const { return m_templates; }
+    /// Replaces the clock that counts the seconds. A null function restores the system's clock.
+    void setClock(const Clock &clock);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public slots:
+    /// Sends the code or answer through the general window. Returns false if it cannot be sent now.
+    bool send(const QString &code);
+    /// Sends the answer to the open menu. Returns false if no menu is open.
+    bool answer(const QString &key);
+    /// Sends the failed code again. Returns false if it cannot be sent now.
+    bool sendAgain();
+    /// Cancels the command in flight. Does nothing if there is none.
+    void cancel();
+    /// Ends the open menu. Does nothing if no menu is open or a command is in flight.
+    void endMenu();
+    /// Removes a failure, a cancellation or the end of a menu.
+    void dismiss();
+    /// Reads the session, the replies and the windows again.
+    void look();
+    /// Forgets the failure. Must be called when another device or another plug-in is in use.
+    void forget();
+    /// Forgets the codes that the user sent.
+    void forgetRecent() { m_recent.clear(); }
+    void retranslate();
+    /// Counts the seconds. The monitor calls this function every second while a command is pending.
+    void tick();
+
+signals:
+    /// Emitted when the kind, the texts or the choices have changed.
+    void changed();
+    /// Emitted each second while a command is pending.
+    void ticked(int seconds);
+    /// Emitted for each reply to a command of any window, and for each message that the network
+    /// initiated. `code` is the command that the reply answers; it is empty for such a message.
+    void replied(const QString &code, const Dashboard::Reply &reply);
+    /// Emitted when the user has sent a code in a general window. `code` contains no number or PIN.
+    void sent(const QString &code);
+
+private slots:
+    void onTranscriptChanged();
+
+private:
+    GeneralWindow activeWindow() const;
+    void follow(const GeneralWindow &window);
+    void readReplies();
+    bool isPending(const GeneralWindow &window);
+    bool isQueued(const GeneralWindow &window) const;
+    void pend(const GeneralWindow &window);
+    void startWaiting();
+    void forgetReplies();
+    void takeAsOwn();
+    void end(const GeneralWindow &window);
+    TKSV_FailureInfo outcome() const;
+    void rest(const GeneralWindow &window);
+    void openMenu();
+    void fail(const TKSV_FailureInfo &failure);
+    void setKind(CommandState::Kind kind);
+    void setTexts();
+    void setTexts(const char *titleKey, const char *textKey);
+    int secondsSinceStart() const;
+
+    std::function<GeneralWindow()> m_window;
+    const DeviceWatcher *const m_device;
+    ReplyTap *const m_replies;
+    UserActivity m_activity;
+    Clock m_clock;
+    QTimer m_timer;
+    CommandState m_state;
+    Session m_session;
+    Reply m_reply;                   // the newest reply to the newest request
+    QString m_menu;                  // the newest message for which the network waits for an answer
+    bool m_hasNewMenu = false;       // m_menu is newer than the state
+    TKSV_FailureInfo m_failure = {}; // of the state Failed or Cancelled
+    qint64 m_start = 0;              // when the pending command was handed over
+    bool m_isTranscriptChanged = false;
+    // Numbers of requests, see TKSV_SessionInfo.
+    unsigned long m_pendingRequest = 0; // of the state Waiting or Queued
+    unsigned long m_ownRequest = 0;     // the newest request of a general window
+    unsigned long m_givenUp = 0;        // the plug-in no longer expects the reply
+    QStringList m_recent;
+    QStringList m_templates;
+};
+
+} // namespace Dashboard
+
+#endif

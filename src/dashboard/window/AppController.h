@@ -1,0 +1,136 @@
+#ifndef APPCONTROLLER_H
+#define APPCONTROLLER_H
+
+#include <QDateTime>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+#include "device/DeviceChoice.h"
+#include "device/DeviceWatcher.h"
+#include "device/NetworkTextWatcher.h"
+#include "plugin/CommandMonitor.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/PluginFailure.h"
+#include "sim/OperatorCodes.h"
+#include "sim/SimFollower.h"
+
+namespace Dashboard
+{
+
+class DashboardSettings;
+class LoadedPlugin;
+
+/**
+ * The parts of the dashboard that have no widgets: the device and its choice, the plug-in and its
+ * restarts, the operator's codes, and the language. All functions must be called from the GUI
+ * thread.
+ */
+class AppController : public QObject
+{
+    Q_OBJECT
+public:
+    /// Both arguments must outlive the controller. If `settings` is null, nothing is stored.
+    AppController(LoadedPlugin *plugin, DashboardSettings *settings, QObject *parent = nullptr);
+
+    LoadedPlugin *plugin() const { return m_plugin; }
+    /// Returns null if nothing is stored.
+    DashboardSettings *settings() const { return m_settings; }
+    DeviceWatcher &device() { return m_device; }
+    const DeviceWatcher &device() const { return m_device; }
+    NetworkTextWatcher &networkTexts() { return m_networkTexts; }
+    OperatorCodes &operatorCodes() { return m_operatorCodes; }
+    const OperatorCodes &operatorCodes() const { return m_operatorCodes; }
+    const SimFollower &sim() const { return m_sim; }
+    CommandMonitor &monitor() { return m_monitor; }
+
+    /// Sets the function that returns the general window of the page. The function may return an
+    /// incomplete window.
+    void setPageWindow(const std::function<GeneralWindow()> &window) { m_pageWindow = window; }
+    GeneralWindow pageWindow() const;
+
+    const DeviceChoice &choice() const { return m_choice; }
+    /// Makes the SDK use the device and returns an empty string. If the device cannot be used,
+    /// keeps the previous device and returns the error.
+    QString useDevice(const DeviceChoice &choice);
+    /// Like useDevice(), and remembers the choice.
+    QString chooseDevice(const DeviceChoice &choice);
+    /// Records that this device is in use.
+    void setDevice(const DeviceChoice &choice);
+
+    /// Returns the windows that are offered for the SIM, as a combination of SimWindow flags.
+    int windows() const { return m_windows; }
+    bool isDetectionOn() const { return m_isDetectionOn; }
+    /// Permits or forbids the prepaid/postpaid query and remembers the decision.
+    void setDetection(bool isOn);
+    /// Selects the language and remembers it. Returns false and emits problem() if the language
+    /// cannot be used.
+    bool setLanguage(const QString &code);
+
+    /// Starts to report network-initiated messages, including those that arrived before.
+    void start();
+
+public slots:
+    /// Loads the installed plug-in.
+    PluginFailure loadPlugin();
+    /// Restarts the plug-in, so that it reloads its configuration.
+    PluginFailure restartPlugin();
+    /// Restarts the plug-in as soon as the user is not busy.
+    void beginAnew();
+    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
+    /// opening the frame would cancel the prepaid/postpaid query.
+    void openFrame(int paidType);
+
+signals:
+    void deviceChosen();
+    /// Emitted when the plug-in was loaded or restarted, or when this has failed.
+    void pluginStarted(const PluginFailure &failure);
+    /// Emitted when the windows to offer may have changed.
+    void windowsOffered();
+    void paidTypeChanged();
+    void frameOpened();
+    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in the frame.
+    void frameClosed();
+    void commandEnded();
+    /// Emitted when a network-initiated message has arrived.
+    void textReceived(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
+    void languageChanged();
+    /// Emitted with an error message in the user's language.
+    void problem(const QString &text);
+
+private slots:
+    void beginAnewIfDue();
+
+private:
+    void followSim();
+    void followOperator();
+    bool mayDetectPaidType() const;
+    PluginFailure startWith(const PluginFailure &failure);
+    void offerWindows(int windows);
+    void showFirstOwnCodes();
+    void onPaidTypeChanged();
+    void onText(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
+    void openAwaitedFrame();
+    void openFrameNow(int paidType);
+
+    LoadedPlugin *const m_plugin;
+    DashboardSettings *const m_settings;
+    DeviceWatcher m_device;
+    SimFollower m_sim;
+    NetworkTextWatcher m_networkTexts;
+    OperatorCodes m_operatorCodes;
+    std::function<GeneralWindow()> m_pageWindow;
+    CommandMonitor m_monitor;
+    DeviceChoice m_choice;
+    bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
+    bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
+    QDateTime m_ownCodesTime;     // modification time of the user's codes when they were read
+    int m_windows = 0;            // a combination of SimWindow flags
+    int m_awaitedFrame;
+    QTimer m_frameDelay;
+};
+
+} // namespace Dashboard
+
+#endif

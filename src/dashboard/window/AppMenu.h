@@ -1,0 +1,73 @@
+#ifndef APPMENU_H
+#define APPMENU_H
+
+#include <QMenu>
+
+class QMenuBar;
+
+namespace Dashboard
+{
+
+class DeviceMenu;
+class LanguageMenu;
+
+/**
+ * The menu of the main window. A hidden menu bar contains the same actions for desktops that show
+ * menus elsewhere.
+ */
+class AppMenu : public QMenu
+{
+    Q_OBJECT
+public:
+    explicit AppMenu(QWidget *parent);
+
+    DeviceMenu *deviceMenu() const { return m_device; }
+    LanguageMenu *languageMenu() const { return m_language; }
+
+    /// Adds the actions to a menu bar.
+    void fill(QMenuBar *bar);
+    /// Offers the windows for the SIM, a combination of SimWindow flags. The window of codes needs
+    /// more space than there is with large text.
+    void offer(int windows);
+    /// Shows the description of the SIM at the beginning of the menu. An empty string hides it.
+    void setSim(const QString &text, bool isEyeShown);
+    /// Updates the strings after a language change.
+    void retranslate();
+
+    QAction *quitAction() const { return m_quit; }
+
+signals:
+    /// Emitted with the PAID_TYPE of the window to open.
+    void windowRequested(int paidType);
+    void editRequested();
+    void exportRequested();
+    void operatorRequested();
+    void settingsRequested();
+    void aboutRequested();
+    void numberRequested();
+    void quitRequested();
+
+private:
+    QAction *add(const char *objectName, void (AppMenu::*signal)());
+    QAction *addWindow(const char *objectName, int paidType);
+
+    DeviceMenu *m_device;
+    LanguageMenu *m_language;
+    QMenu *m_file;
+    QAction *m_sim;
+    QAction *m_number;
+    QAction *m_general;
+    QAction *m_prepaid;
+    QAction *m_postpaid;
+    QAction *m_edit;
+    QAction *m_export;
+    QAction *m_operator;
+    QAction *m_settings;
+    QAction *m_about;
+    QAction *m_quit;
+    int m_windows = 0;
+};
+
+} // namespace Dashboard
+
+#endif

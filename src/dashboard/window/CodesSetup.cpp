@@ -1,0 +1,110 @@
+#include "CodesSetup.h"
+
+#include "account/AccountCodes.h"
+#include "AppController.h"
+#include "base/DashboardText.h"
+#include "device/DashboardSettings.h"
+#include "IUSSD.h"
+#include "pages/AppActions.h"
+#include "pages/CodesPage.h"
+#include "plugin/LoadedPlugin.h"
+#include "sim/SimWindows.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const char NUMBER[] = "%s"; // the place for a number in a code
+
+QString historyFile(const AppController *controller)
+{
+    return controller->settings() ? CodeHistory::fileOfUser() : QString();
+}
+
+QList<NamedCode> codesInUse()
+{
+    return readAccountCodes(CodeFiles::inUse(), PaidType::Unknown).all;
+}
+
+} // namespace
+
+CodesSetup::CodesSetup(AppController *controller, AppActions *actions, QObject *parent)
+    : QObject(parent), m_controller(controller), m_history(historyFile(controller)),
+      m_page(new CodesPage(
+          {controller->plugin(), &controller->monitor(), &m_history, [this] { return names(); }}))
+{
+    connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);
+    connect(controller, &AppController::windowsOffered, this, &CodesSetup::offerWindow);
+    connect(controller, &AppController::frameClosed, this, &CodesSetup::readCodes);
+    connect(&m_history, &CodeHistory::notWritten, controller, [controller](const QString &error) {
+        emit controller->problem(dashboardText("HISTORY_NOT_WRITTEN").arg(error));
+    });
+    connect(m_page, &CodesPage::wanted, this, [actions] { actions->showPage(PageId::Codes); });
+    connect(m_page, &CodesPage::ownWindowRequested, controller,
+            [controller] { controller->openFrame(PAID_TYPE_GENERAL); });
+    connect(m_page, &CodesPage::remedyChosen, this,
+            [actions](Remedy remedy) { actions->perform(remedy); });
+    followSettings();
+}
+
+/// Returns the codes with names. The place for a number is shown as an ellipsis.
+QList<CodeName> CodesSetup::names() const
+{
+    QList<CodeName> names;
+    for (const NamedCode &named : codesInUse()) {
+        QString code = named.code;
+        names << CodeName{code.replace(QLatin1String(NUMBER), QString(QChar(0x2026))), named.name};
+    }
+    return names;
+}
+
+void CodesSetup::readCodes()
+{
+    QStringList templates;
+    for (const NamedCode &named : codesInUse()) {
+        if (named.takesNumber())
+            templates << named.code;
+    }
+    m_controller->monitor().setTemplates(templates);
+    m_page->refreshNames();
+}
+
+void CodesSetup::followSettings()
+{
+    const DashboardSettings *settings = m_controller->settings();
+    m_history.setKept(!settings || settings->keepsHistory());
+}
+
+void CodesSetup::deleteAll()
+{
+    m_history.deleteAll();
+    m_controller->monitor().forgetRecent();
+}
+
+void CodesSetup::onPluginStarted(const PluginFailure &failure)
+{
+    m_isOffered = false;
+    if (!m_controller->plugin()->isUsable())
+        m_page->showText(failure.text());
+    readCodes();
+}
+
+void CodesSetup::offerWindow()
+{
+    const bool isOffered = m_controller->windows() & SIM_WINDOW_GENERAL;
+    if (isOffered != m_isOffered)
+        m_page->showWindow(isOffered);
+    m_isOffered = isOffered;
+    retranslate();
+    readCodes();
+}
+
+void CodesSetup::retranslate()
+{
+    if (m_controller->plugin()->isUsable())
+        m_page->showText(m_controller->windows() ? QString() : dashboardText("WINDOWS_NONE"));
+}
+
+} // namespace Dashboard

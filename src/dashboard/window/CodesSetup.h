@@ -1,0 +1,49 @@
+#ifndef CODESSETUP_H
+#define CODESSETUP_H
+
+#include <QObject>
+
+#include "plugin/CodeHistory.h"
+
+namespace Dashboard
+{
+
+class AppActions;
+class AppController;
+class CodesPage;
+struct CodeName;
+struct PluginFailure;
+
+/** The page of codes with its history, which follow the plug-in, the codes and the settings. */
+class CodesSetup : public QObject
+{
+    Q_OBJECT
+public:
+    /// All arguments must outlive this object.
+    CodesSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
+
+    /// Returns the page. The caller becomes its owner by giving it a parent.
+    CodesPage *page() const { return m_page; }
+
+public slots:
+    /// Reads the settings again.
+    void followSettings();
+    void retranslate();
+    /// Deletes the history.
+    void deleteAll();
+
+private:
+    QList<CodeName> names() const;
+    void onPluginStarted(const PluginFailure &failure);
+    void offerWindow();
+    void readCodes();
+
+    AppController *const m_controller;
+    CodeHistory m_history;
+    CodesPage *m_page;
+    bool m_isOffered = false;
+};
+
+} // namespace Dashboard
+
+#endif

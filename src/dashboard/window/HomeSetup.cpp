@@ -1,0 +1,127 @@
+#include "HomeSetup.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "account/AccountExport.h"
+#include "account/DemonstrationAccount.h"
+#include "account/SimKey.h"
+#include "AppController.h"
+#include "base/DashboardText.h"
+#include "base/Isolate.h"
+#include "device/DashboardSettings.h"
+#include "pages/HomePage.h"
+#include "sim/SimWindows.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const int SHOWN_DIGITS = 4;
+const char DEMONSTRATION[] = "demonstration";
+
+/// Returns the type of contract to which the offered account window belongs.
+PaidType paidTypeOf(int windows)
+{
+    const int account = windows & (SIM_WINDOW_PREPAID | SIM_WINDOW_POSTPAID);
+    if (account == SIM_WINDOW_PREPAID)
+        return PaidType::Prepaid;
+    return account == SIM_WINDOW_POSTPAID ? PaidType::Postpaid : PaidType::Unknown;
+}
+
+HomePage::Parts partsOf(AppController *controller, AppActions *actions)
+{
+    HomePage::Parts parts;
+    parts.monitor = &controller->monitor();
+    parts.actions = actions;
+    return parts;
+}
+
+HomePage *makePage(HomePage::Parts parts, AccountStore *store, AccountRecorder *recorder,
+                   Favourites *favourites)
+{
+    parts.store = store;
+    parts.recorder = recorder;
+    parts.favourites = favourites;
+    return new HomePage(parts);
+}
+
+/// Returns the file if the program stores anything at all.
+QString fileIfStored(const AppController *controller, const QString &file)
+{
+    return controller->settings() ? file : QString();
+}
+
+} // namespace
+
+HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QObject *parent)
+    : QObject(parent), m_controller(controller),
+      m_store(fileIfStored(controller, AccountStore::userFile())), m_recorder(&m_store),
+      m_favourites(fileIfStored(controller, Favourites::userFile())),
+      m_page(makePage(partsOf(controller, actions), &m_store, &m_recorder, &m_favourites))
+{
+    connect(&controller->monitor(), &CommandMonitor::replied, &m_recorder,
+            &AccountRecorder::record);
+    connect(&controller->device(), SIGNAL(changed()), this, SLOT(followSim()));
+    connect(controller, &AppController::pluginStarted, this, &HomeSetup::readCodes);
+    connect(controller, &AppController::windowsOffered, this, &HomeSetup::readCodes);
+    connect(controller, &AppController::frameClosed, this, &HomeSetup::readCodes);
+    connect(controller, &AppController::languageChanged, this, &HomeSetup::readCodes);
+    connect(&m_store, &AccountStore::problem, controller, &AppController::problem);
+    followSim();
+}
+
+void HomeSetup::setSituation(const Situation &situation)
+{
+    m_page->setSituation(situation);
+}
+
+void HomeSetup::followSim()
+{
+    const DeviceStatus &status = m_controller->device().status();
+    const DashboardSettings *settings = m_controller->settings();
+    const bool isStored = settings && settings->keepsHistory();
+    m_recorder.setLowBalance(settings ? settings->lowBalance() : QString());
+    m_favourites.setNetwork(m_controller->operatorCodes().network());
+    m_page->setSimText(
+        status.imsi.isEmpty()
+            ? QString()
+            : dashboardText("HEADER_SIM_ENDING").arg(isolated(status.imsi.right(SHOWN_DIGITS))));
+    if (status.isSimulated)
+        m_store.setSim(QLatin1String(DEMONSTRATION), AccountStore::Keeping::Demonstration);
+    else if (isStored)
+        m_store.setSim(simKey(status.imsi), AccountStore::Keeping::InFile);
+    else
+        m_store.setSim(status.imsi, AccountStore::Keeping::InMemory);
+    inventAccount(&m_store, m_recorder.codes());
+}
+
+void HomeSetup::readCodes()
+{
+    const AccountCodes codes =
+        readAccountCodes(CodeFiles::inUse(), paidTypeOf(m_controller->windows()));
+    m_recorder.setCodes(codes);
+    m_recorder.setPatterns(ReplyPatterns::inUse());
+    m_page->setCodes(codes);
+    followSim();
+}
+
+void HomeSetup::exportAccount()
+{
+    const QString file =
+        QFileDialog::getSaveFileName(m_page, dashboardText("ACCOUNT_EXPORT"),
+                                     QLatin1String("account.csv"), QLatin1String("*.csv *.json"));
+    if (!file.isEmpty())
+        saveTo(file);
+}
+
+void HomeSetup::saveTo(const QString &file)
+{
+    const QString problem = exportAccountTo(file, AccountStore::userFile());
+    if (!problem.isEmpty())
+        QMessageBox::warning(m_page, dashboardText("ACCOUNT_EXPORT"), problem);
+}
+
+} // namespace Dashboard

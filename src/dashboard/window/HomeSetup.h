@@ -1,0 +1,52 @@
+#ifndef HOMESETUP_H
+#define HOMESETUP_H
+
+#include <QObject>
+
+#include "account/AccountRecorder.h"
+#include "account/AccountStore.h"
+#include "account/Favourites.h"
+#include "device/Situation.h"
+
+namespace Dashboard
+{
+
+class AppActions;
+class AppController;
+class HomePage;
+
+/** The account data and the front page, which follow the SIM, the codes and the settings. */
+class HomeSetup : public QObject
+{
+    Q_OBJECT
+public:
+    /// All arguments must outlive this object.
+    HomeSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
+
+    /// Returns the page. The caller becomes its owner by giving it a parent.
+    HomePage *page() const { return m_page; }
+    AccountStore &store() { return m_store; }
+    AccountRecorder &recorder() { return m_recorder; }
+    void setSituation(const Situation &situation);
+
+public slots:
+    /// Reads the SIM and the settings again.
+    void followSim();
+    /// Reads the codes of the plug-in's files again.
+    void readCodes();
+    /// Saves the entries to a file that the user selects.
+    void exportAccount();
+
+private:
+    void saveTo(const QString &file);
+
+    AppController *const m_controller;
+    AccountStore m_store;
+    AccountRecorder m_recorder;
+    Favourites m_favourites;
+    HomePage *m_page;
+};
+
+} // namespace Dashboard
+
+#endif

@@ -1,0 +1,207 @@
+/* The part of MainWindow that arranges its widgets. */
+#include <QApplication>
+#include <QGridLayout>
+#include <QScreen>
+#include <QStackedWidget>
+
+#include "AppMenu.h"
+#include "Banners.h"
+#include "CodesSetup.h"
+#include "CommonUtils.h"
+#include "device/DashboardSettings.h"
+#include "DeviceMenu.h"
+#include "ExtendDialog.h"
+#include "Header.h"
+#include "HomeSetup.h"
+#include "LanguageMenu.h"
+#include "look/Controls.h"
+#include "look/Look.h"
+#include "MainWindow.h"
+#include "MessageParts.h"
+#include "Navigation.h"
+#include "OperatorChooser.h"
+#include "pages/CodesPage.h"
+#include "pages/FirstRunPage.h"
+#include "pages/HomePage.h"
+#include "pages/MessagesPage.h"
+#include "pages/ServicesPage.h"
+#include "pages/SettingsPage.h"
+#include "Scrim.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const QSize FIRST_SIZE(1120, 720); // pixels
+const QSize SMALLEST_SIZE(360, 560);
+const int WIDE_FROM = 66; // em
+const int MEDIUM_FROM = 46;
+
+enum Row { HeaderRow, BannerRow, PageRow, BarRow, Rows };
+
+Form formOf(int width)
+{
+    const int em = Look::instance().em();
+    if (width >= WIDE_FROM * em)
+        return Form::Wide;
+    return width >= MEDIUM_FROM * em ? Form::Medium : Form::Narrow;
+}
+
+bool isFrameOpen()
+{
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && qobject_cast<const ExtendDialog *>(window))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void MainWindow::makePages()
+{
+    m_codes = new CodesSetup(&m_controller, this, this);
+    m_home = new HomeSetup(&m_controller, this, this);
+    m_pages[int(PageId::Home)] = m_home->page();
+    m_pages[int(PageId::Codes)] = m_codes->page();
+    m_servicesPage = new ServicesPage(this);
+    m_messagesPage = new MessagesPage(&m_messages->store(), &m_controller.monitor());
+    m_pages[int(PageId::Services)] = m_servicesPage;
+    m_pages[int(PageId::Messages)] = m_messagesPage;
+    m_settingsPage = new SettingsPage(
+        {m_settings, &device(), &operatorCodes(), deviceMenu(), m_menu->languageMenu()});
+    m_pages[int(PageId::Settings)] = m_settingsPage;
+    for (Page *page : m_pages)
+        m_stack->addWidget(page);
+    m_firstRun = new FirstRunPage(m_settings, &device(), &operatorCodes());
+    m_stack->addWidget(m_firstRun);
+    m_stack->setCurrentWidget(pageOf(PageId::Home));
+    followFirstRun();
+    followSettings();
+}
+
+void MainWindow::followFirstRun()
+{
+    connect(m_firstRun, &FirstRunPage::finished, this, &MainWindow::showFirstRun);
+    connect(m_firstRun, &FirstRunPage::chosen, this, &MainWindow::perform);
+    connect(m_firstRun, &FirstRunPage::providerChosen, m_chooser, &OperatorChooser::take);
+    connect(m_firstRun, &FirstRunPage::declined, m_chooser, &OperatorChooser::decline);
+}
+
+void MainWindow::followSettings()
+{
+    m_settingsPage->setDetection(m_controller.isDetectionOn());
+    connect(m_settingsPage, &SettingsPage::detectionChosen, &m_controller,
+            &AppController::setDetection);
+    connect(m_settingsPage, &SettingsPage::operatorRequested, m_chooser, &OperatorChooser::choose);
+    connect(m_settingsPage, &SettingsPage::hidingChanged, m_header, &Header::setHidesNumber);
+    connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
+    connect(m_settingsPage, &SettingsPage::keepingChanged, m_codes, &CodesSetup::followSettings);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, m_codes, &CodesSetup::deleteAll);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, &m_home->store(),
+            &AccountStore::removeAll);
+    connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
+}
+
+void MainWindow::makeCentre()
+{
+    setBox(m_root, "root");
+    setBox(m_stack, "page");
+    m_grid = new QGridLayout(m_root);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setSpacing(0);
+    m_grid->setRowStretch(PageRow, 1);
+    m_grid->setColumnStretch(1, 1);
+    setCentralWidget(m_root);
+    setMinimumSize(SMALLEST_SIZE);
+    connect(m_navigation, &Navigation::chosen, this, [this](PageId page) { showPage(page); });
+    connect(m_header, &Header::messagesRequested, this, [this] { showPage(PageId::Messages); });
+    connect(m_header, &Header::menuRequested, this, &MainWindow::showMenu);
+    connect(&Look::instance(), &Look::changed, this, &MainWindow::updateForm);
+    if (m_settings)
+        m_header->setHidesNumber(m_settings->hidesSimNumber());
+    applyForm();
+}
+
+void MainWindow::placeParts()
+{
+    const bool isNarrow = m_form == Form::Narrow;
+    const QList<QWidget *> column = {m_header, m_banners, m_stack};
+    m_grid->removeWidget(m_navigation);
+    if (isNarrow)
+        m_grid->addWidget(m_navigation, BarRow, 1);
+    else
+        m_grid->addWidget(m_navigation, 0, 0, Rows, 1);
+    for (int row = HeaderRow; row <= PageRow; ++row) {
+        m_grid->removeWidget(column.at(row));
+        m_grid->addWidget(column.at(row), row, 1);
+    }
+}
+
+void MainWindow::applyForm()
+{
+    placeParts();
+    m_navigation->setForm(m_form);
+    m_header->setForm(m_form);
+    m_banners->setForm(m_form);
+    for (Page *page : m_pages)
+        page->setForm(m_form);
+    m_firstRun->setForm(m_form);
+}
+
+// The form stays while a frame of the plug-in is open, because the frame is placed over the window.
+void MainWindow::updateForm()
+{
+    const Form form = formOf(width());
+    if (form == m_form || isFrameOpen())
+        return;
+    m_form = form;
+    applyForm();
+    showDevice();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    updateForm();
+}
+
+void MainWindow::restorePlace()
+{
+    if (m_settings && restoreGeometry(m_settings->geometry()))
+        return;
+    resize(FIRST_SIZE.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    CommonUtils::MoveCentre(this);
+}
+
+void MainWindow::showPage(PageId page)
+{
+    m_navigation->setCurrent(page);
+    if (!isFirstRun())
+        m_stack->setCurrentWidget(pageOf(page));
+}
+
+PageId MainWindow::currentPage() const
+{
+    return m_navigation->current();
+}
+
+bool MainWindow::isFirstRun() const
+{
+    return m_stack->currentWidget() == m_firstRun;
+}
+
+void MainWindow::showFirstRun()
+{
+    const bool isDue = m_firstRun->isDue();
+    m_navigation->setVisible(!isDue);
+    m_header->setVisible(!isDue);
+    m_banners->setSuppressed(isDue);
+    QWidget *const wanted = isDue ? m_firstRun : pageOf(currentPage());
+    m_stack->setCurrentWidget(wanted);
+}
+
+} // namespace Dashboard

@@ -1,0 +1,38 @@
+#include "MessageParts.h"
+
+#include <QWidget>
+
+#include "AppController.h"
+#include "ProvisionWriter.h"
+
+namespace Dashboard
+{
+
+namespace
+{
+
+QString messageFile()
+{
+    return Provisioning::userDataHome() + QLatin1String("/messages.sqlite");
+}
+
+} // namespace
+
+MessageParts::MessageParts(AppController *controller, QWidget *window)
+    : QObject(window), m_store(messageFile()), m_notifier(QDBusConnection::sessionBus()),
+      m_center(&m_store, &controller->device(), controller->settings(), &m_notifier),
+      m_question(&controller->monitor(), window)
+{
+    m_center.setInFront([window] { return window->isActiveWindow(); });
+    connect(controller, &AppController::textReceived, &m_center, &MessageCenter::add);
+    connect(controller, &AppController::frameOpened, &m_question, &QuestionDialog::look);
+    connect(controller, &AppController::frameClosed, &m_question, &QuestionDialog::look);
+    connect(&m_store, &MessageStore::problem, controller, &AppController::problem);
+}
+
+void MessageParts::retranslate()
+{
+    m_question.retranslate();
+}
+
+} // namespace Dashboard

@@ -1,0 +1,41 @@
+#ifndef MESSAGEPARTS_H
+#define MESSAGEPARTS_H
+
+#include <QObject>
+
+#include "messages/DesktopNotifier.h"
+#include "messages/MessageCenter.h"
+#include "messages/MessageStore.h"
+#include "QuestionDialog.h"
+
+namespace Dashboard
+{
+
+class AppController;
+
+/** The objects that receive, store and announce the messages of the network. */
+class MessageParts : public QObject
+{
+    Q_OBJECT
+public:
+    /// Both arguments must outlive this object.
+    MessageParts(AppController *controller, QWidget *window);
+
+    MessageStore &store() { return m_store; }
+    MessageCenter &center() { return m_center; }
+    DesktopNotifier &notifier() { return m_notifier; }
+
+public slots:
+    /// Updates the strings after a language change.
+    void retranslate();
+
+private:
+    MessageStore m_store;
+    DesktopNotifier m_notifier;
+    MessageCenter m_center;
+    QuestionDialog m_question;
+};
+
+} // namespace Dashboard
+
+#endif

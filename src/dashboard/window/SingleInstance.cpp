@@ -1,0 +1,144 @@
+#include "SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace Dashboard
+{
+
+namespace
+{
+
+const char PREFIX[] = "ussd-dashboard-";
+const char *const SESSION_VARIABLES[] = {"WAYLAND_DISPLAY", "DISPLAY", "XDG_RUNTIME_DIR"};
+const char REQUEST = 'r';
+const char ANSWER = 'a';
+const int BACKLOG = 8;
+
+/// Returns an address in the abstract name space, which belongs to no file.
+socklen_t makeAddress(const QByteArray &name, sockaddr_un *address)
+{
+    const QByteArray full = PREFIX + name;
+    const std::size_t size = qMin(std::size_t(full.size()), sizeof address->sun_path - 1);
+    std::memset(address, 0, sizeof *address);
+    address->sun_family = AF_UNIX;
+    std::memcpy(address->sun_path + 1, full.constData(), size); // the first byte is zero
+    return socklen_t(offsetof(sockaddr_un, sun_path) + 1 + size);
+}
+
+int makeSocket()
+{
+    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+/// Returns true if the process at the other end belongs to the same user. Every user may use any
+/// name in the abstract name space.
+bool isOfSameUser(int socket)
+{
+    ucred peer = {};
+    socklen_t size = sizeof peer;
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == geteuid();
+}
+
+bool waitToRead(int socket, int milliseconds)
+{
+    pollfd each = {};
+    each.fd = socket;
+    each.events = POLLIN;
+    return poll(&each, 1, milliseconds) == 1;
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QByteArray &name, QObject *parent)
+    : QObject(parent), m_name(name)
+{
+    if (!name.isEmpty())
+        start();
+}
+
+SingleInstance::~SingleInstance()
+{
+    if (m_socket >= 0)
+        close(m_socket);
+}
+
+QByteArray SingleInstance::sessionName(const QString &settingsFile)
+{
+    QByteArray session;
+    bool hasDisplay = false;
+    for (const char *variable : SESSION_VARIABLES) {
+        const QByteArray value = qgetenv(variable);
+        hasDisplay = hasDisplay || (qstrcmp(variable, "XDG_RUNTIME_DIR") != 0 && !value.isEmpty());
+        session += value + '\0';
+    }
+    if (!hasDisplay)
+        return QByteArray();
+    session += QByteArray::number(geteuid()) + '\0' + QFile::encodeName(settingsFile);
+    return QCryptographicHash::hash(session, QCryptographicHash::Sha256).toHex().left(32);
+}
+
+// Only one process can bind the name, so there is no moment in which two instances are the first.
+void SingleInstance::start()
+{
+    const int listener = makeSocket();
+    if (listener >= 0 && listenTo(listener))
+        return;
+    if (listener >= 0)
+        close(listener);
+    const int client = makeSocket();
+    if (client < 0)
+        return;
+    if (askFirst(client))
+        m_role = Later;
+    close(client);
+}
+
+bool SingleInstance::listenTo(int socket)
+{
+    sockaddr_un address;
+    const socklen_t size = makeAddress(m_name, &address);
+    if (bind(socket, reinterpret_cast<sockaddr *>(&address), size) != 0 ||
+        listen(socket, BACKLOG) != 0)
+        return false;
+    m_socket = socket;
+    m_notifier = new QSocketNotifier(socket, QSocketNotifier::Read, this);
+    connect(m_notifier, SIGNAL(activated(int)), this, SLOT(answer()));
+    return true;
+}
+
+bool SingleInstance::askFirst(int socket) const
+{
+    sockaddr_un address;
+    const socklen_t size = makeAddress(m_name, &address);
+    if (::connect(socket, reinterpret_cast<sockaddr *>(&address), size) != 0 ||
+        !isOfSameUser(socket) || send(socket, &REQUEST, 1, MSG_NOSIGNAL) != 1)
+        return false;
+    char answer = 0;
+    return waitToRead(socket, ANSWER_LIMIT) && recv(socket, &answer, 1, 0) == 1 && answer == ANSWER;
+}
+
+// The request is sent before the notifier reports the connection, so it is not waited for.
+void SingleInstance::answer()
+{
+    const int client = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+    if (client < 0)
+        return;
+    char request = 0;
+    const bool isRequest = isOfSameUser(client) && waitToRead(client, ANSWER_LIMIT / 10) &&
+                           recv(client, &request, 1, 0) == 1 && request == REQUEST;
+    if (isRequest && send(client, &ANSWER, 1, MSG_NOSIGNAL) == 1)
+        emit raiseRequested();
+    close(client);
+}
+
+} // namespace Dashboard

@@ -1,0 +1,62 @@
+#ifndef SINGLEINSTANCE_H
+#define SINGLEINSTANCE_H
+
+#include <QByteArray>
+#include <QObject>
+
+class QSocketNotifier;
+
+namespace Dashboard
+{
+
+/**
+ * Makes sure that a user has only one window of the program on each display. The first instance
+ * listens on an abstract socket, which the system removes when the process ends. A later instance
+ * asks the first one to raise its window. Nothing here waits longer than ANSWER_LIMIT: an instance
+ * that gets no answer runs on its own.
+ */
+class SingleInstance : public QObject
+{
+    Q_OBJECT
+public:
+    enum Role {
+        First, // no other instance runs, or the other one does not answer
+        Later  // the other instance raises its window
+    };
+
+    /// The time limit for the answer of the first instance, in milliseconds.
+    static const int ANSWER_LIMIT = 1000;
+
+    /// `name` identifies the user's session; see sessionName().
+    explicit SingleInstance(const QByteArray &name, QObject *parent = nullptr);
+    ~SingleInstance() override;
+    SingleInstance(const SingleInstance &) = delete;
+    SingleInstance &operator=(const SingleInstance &) = delete;
+
+    /// Returns a name that differs between users, displays and folders of settings. Returns an
+    /// empty string if there is no display; then every instance is the first.
+    static QByteArray sessionName(const QString &settingsFile);
+
+    Role role() const { return m_role; }
+    /// Returns true if this instance receives the requests of later instances.
+    bool isListening() const { return m_notifier; }
+
+signals:
+    /// Emitted when a later instance was started.
+    void raiseRequested();
+
+private:
+    void start();
+    bool listenTo(int socket);
+    bool askFirst(int socket) const;
+    Q_SLOT void answer();
+
+    const QByteArray m_name;
+    Role m_role = First;
+    int m_socket = -1;
+    QSocketNotifier *m_notifier = nullptr;
+};
+
+} // namespace Dashboard
+
+#endif

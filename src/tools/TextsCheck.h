@@ -1,0 +1,21 @@
+#ifndef TEXTSCHECK_H
+#define TEXTSCHECK_H
+
+#include <QByteArray>
+
+#include "CheckReport.h"
+
+namespace Tools
+{
+
+/// Returns true if the contents are those of an operator's text file: the first section is named
+/// after a language of two letters.
+bool isTexts(const QByteArray &content);
+
+/// Checks an operator's text file. The other files in the folder of `report.file` determine which
+/// keys the operator uses in addition to those of the plug-in.
+void checkTexts(const QByteArray &content, CheckReport &report);
+
+} // namespace Tools
+
+#endif

@@ -1,0 +1,315 @@
+#include <QAction>
+#include <QClipboard>
+#include <QInputDialog>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTimer>
+#include <QTreeView>
+
+#include "CommandTest.h"
+#include "look/Look.h"
+#include "pages/CodesPage.h"
+#include "pages/GeneralArea.h"
+#include "pages/HistoryPopup.h"
+#include "pages/TopUpSheet.h"
+#include "plugin/CodeHistory.h"
+#include "plugin/KeyboardHelper.h"
+
+using namespace Dashboard;
+
+/** Tests the page of codes with the real general window and the fake device SDK. */
+class CodesPageTest : public CommandTest
+{
+    Q_OBJECT
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private slots:
+    void theMarginsAreClipped();
+    void theNarrowFormHidesThePresets();
+    void theEditorDoesNotBringThePresetsBack();
+    void aSmallPageScrollsBelowTheStrip();
+    void theWindowIsDisabledAsAWhole();
+    void aCommandOnItsWayKeepsTheWindow();
+    void theKeysAnswerAndStop();
+    void aHiddenNumberIsAskedFor();
+    void theCodesSheetPressesHiddenButtons();
+    void theTopUpSheetFillsInTheNumber();
+    void theHistoryOpensInTheEmptyField();
+    void returnSendsWhatIsTyped();
+    void escapeEmptiesTheField();
+    void theReplyIsCopied();
+    void theRingIsRoundWithTheStyleSheet();
+
+private:
+    CodesPage &codes() { return *m_page; }
+    GeneralWindow general() { return m_page->general(); }
+    QList<QPushButton *> presets();
+    QRect transcript();
+    QAction *shortcut(const QKeySequence &key);
+    QTreeView *list() { return m_page->findChild<HistoryPopup *>()->view(); }
+
+    QScopedPointer<CodeHistory> m_history;
+    QScopedPointer<CodesPage> m_page;
+    KeyboardHelper m_keyboard;
+};
+
+void CodesPageTest::setUp()
+{
+    CommandTest::setUp();
+    m_history.reset(new CodeHistory(folder() + QLatin1String("/history")));
+    const auto names = [] {
+        return QList<CodeName>{{QLatin1String("*100#"), QLatin1String("Balance")},
+                               {QLatin1String("*7#"), QLatin1String("My own")}};
+    };
+    m_page.reset(new CodesPage({&plugin(), &monitor(), m_history.data(), names}));
+    m_page->resize(900, 700);
+    m_page->show();
+    m_page->showWindow(true);
+    monitor().setWindow([this] { return general(); });
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    settle();
+}
+
+void CodesPageTest::tearDown()
+{
+    plugin().shutDown();
+    m_page.reset();
+    m_history.reset();
+    CommandTest::tearDown();
+}
+
+QList<QPushButton *> CodesPageTest::presets()
+{
+    return m_page->area()->canvas()->findChildren<QPushButton *>(
+        QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"));
+}
+
+/// Returns the place of the transcript in the area.
+QRect CodesPageTest::transcript()
+{
+    const QTextEdit *history = general().history();
+    return QRect(history->mapTo(codes().area(), QPoint()), history->size());
+}
+
+QAction *CodesPageTest::shortcut(const QKeySequence &key)
+{
+    for (QAction *action : codes().shortcuts()) {
+        if (action->shortcut() == key)
+            return action;
+    }
+    return nullptr;
+}
+
+void CodesPageTest::theMarginsAreClipped()
+{
+    const QPushButton *first = presets().first();
+    QCOMPARE(first->mapTo(codes().area(), QPoint()).x(), 24);
+    QCOMPARE(codes().area()->width() - transcript().right() - 1, 24);
+    QVERIFY(first->isVisible());
+}
+
+void CodesPageTest::theNarrowFormHidesThePresets()
+{
+    codes().setForm(Form::Narrow);
+    codes().resize(360, 560);
+    settle();
+    for (const QPushButton *preset : presets())
+        QVERIFY(preset->isHidden());
+    QVERIFY(presets().first()->isEnabled());
+    QCOMPARE(transcript().left(), 12);
+    QCOMPARE(codes().area()->width() - transcript().right() - 1, 12);
+    QVERIFY(codes().area()->canvas()->width() <= codes().area()->viewport()->width());
+    codes().setForm(Form::Wide);
+    codes().resize(900, 700);
+    settle();
+    QVERIFY(presets().first()->isVisible());
+    QCOMPARE(presets().first()->mapTo(codes().area(), QPoint()).x(), 24);
+}
+
+// The plug-in shows the buttons that are in use after the user has saved codes.
+void CodesPageTest::theEditorDoesNotBringThePresetsBack()
+{
+    codes().setForm(Form::Narrow);
+    settle();
+    presets().first()->setVisible(true);
+    settle();
+    QVERIFY(presets().first()->isHidden());
+    codes().setForm(Form::Wide);
+    settle();
+    QVERIFY(presets().first()->isVisible());
+    QVERIFY(presets().at(1)->isHidden()); // the plug-in has not shown it again
+}
+
+void CodesPageTest::aSmallPageScrollsBelowTheStrip()
+{
+    codes().resize(900, 420);
+    settle();
+    const int top = codes().strip()->mapTo(&codes(), QPoint()).y();
+    QVERIFY(codes().area()->verticalScrollBar()->maximum() > 0);
+    codes().area()->verticalScrollBar()->setValue(1000);
+    settle();
+    QCOMPARE(codes().strip()->mapTo(&codes(), QPoint()).y(), top);
+    QVERIFY(codes().area()->geometry().top() >= codes().strip()->geometry().bottom());
+}
+
+void CodesPageTest::theWindowIsDisabledAsAWhole()
+{
+    Situation locked;
+    locked.kind = Situation::Kind::SimLocked;
+    locked.title = QLatin1String("The SIM is locked");
+    codes().setSituation(locked);
+    settle();
+    QVERIFY(!general().commandEdit()->isEnabled() && !presets().first()->isEnabled());
+    QVERIFY(!general().isWaiting());
+    QCOMPARE(codes().strip()->title(), locked.title);
+    Situation ready;
+    ready.canSend = true;
+    codes().setSituation(ready);
+    QVERIFY(general().commandEdit()->isEnabled() && presets().first()->isEnabled());
+}
+
+void CodesPageTest::aCommandOnItsWayKeepsTheWindow()
+{
+    monitor().send(QLatin1String("*104#"));
+    settle();
+    codes().setSituation(Situation());
+    QVERIFY(presets().first()->parentWidget()->isEnabled());
+    fakeSdkRespond(u"Text");
+    settle();
+    QVERIFY(!presets().first()->parentWidget()->isEnabled());
+    QVERIFY(!general().isWaiting());
+}
+
+void CodesPageTest::theKeysAnswerAndStop()
+{
+    fakeSdkScript({fakeReply(u"Menu\n1 One\n2 Two\n0 Back", 1), fakeSilence()});
+    monitor().send(QLatin1String("*123#"));
+    settle();
+    shortcut(QKeySequence(QLatin1String("Alt+5")))->trigger(); // there is no such choice
+    shortcut(QKeySequence(QLatin1String("Alt+0")))->trigger();
+    settle();
+    QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"0"}));
+    shortcut(QKeySequence(QLatin1String("Ctrl+.")))->trigger();
+    settle();
+    QCOMPARE(state().kind, Kind::Cancelled);
+}
+
+void CodesPageTest::aHiddenNumberIsAskedFor()
+{
+    bool isAsked = false;
+    QTimer::singleShot(0, this, [&] {
+        QInputDialog *dialog = codes().findChild<QInputDialog *>();
+        isAsked = dialog && dialog->labelText().contains(QString::fromUtf8("*140*…#"));
+        if (dialog) {
+            dialog->setTextValue(QLatin1String("017012"));
+            dialog->accept();
+        }
+    });
+    codes().useCode(QString::fromUtf8("*140*…#"));
+    QVERIFY(isAsked);
+    QCOMPARE(general().commandEdit()->text(), QLatin1String("*140*017012#"));
+    QVERIFY(fakeSdkCommands().empty());
+    QVERIFY(general().sendButton()->isEnabled());
+}
+
+void CodesPageTest::theCodesSheetPressesHiddenButtons()
+{
+    codes().setForm(Form::Narrow);
+    settle();
+    codes().findChild<QPushButton *>(QLatin1String("Dashboard_CodesSheetButton"))->click();
+    QMenu *sheet = codes().findChild<QMenu *>(QLatin1String("Dashboard_CodesSheet"));
+    QVERIFY(sheet && sheet->isVisible());
+    QStringList names;
+    for (const QAction *action : sheet->actions())
+        names << action->text();
+    QVERIFY2(names.contains(QLatin1String("My own")), qPrintable(names.join(QLatin1Char('|'))));
+    sheet->actions().first()->trigger();
+    sheet->close();
+    settle();
+    QCOMPARE(fakeSdkCommands().size(), std::size_t(1));
+}
+
+void CodesPageTest::theTopUpSheetFillsInTheNumber()
+{
+    codes().setForm(Form::Narrow);
+    settle();
+    codes().findChild<QPushButton *>(QLatin1String("Dashboard_TopUpSheetButton"))->click();
+    TopUpSheet *sheet = codes().findChild<TopUpSheet *>();
+    QVERIFY(sheet);
+    QPushButton *action = sheet->findChild<QPushButton *>();
+    QVERIFY(!action->isEnabled());
+    QTest::keyClicks(sheet->findChild<QLineEdit *>(), QLatin1String("1x2345"));
+    QVERIFY(action->isEnabled());
+    action->click();
+    settle();
+    QCOMPARE(fakeSdkCommands().size(), std::size_t(1));
+    QVERIFY(fakeSdkCommands().front().find(u"12345") != std::u16string::npos);
+}
+
+void CodesPageTest::theHistoryOpensInTheEmptyField()
+{
+    m_history->add(QLatin1String("*104#"));
+    QLineEdit *edit = general().commandEdit();
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_Down);
+    QVERIFY(list()->isVisible());
+    const QAbstractItemModel *model = list()->model();
+    QCOMPARE(model->rowCount(), 4); // the sent code, two named codes, and the footer
+    QVERIFY(model->index(0, 0).data().toString().contains(QLatin1String("*104#")));
+    QCOMPARE(model->index(1, 1).data().toString(), QLatin1String("Balance"));
+    QTest::keyClick(list(), Qt::Key_Down);
+    QTest::keyClick(list(), Qt::Key_Return);
+    settle();
+    QCOMPARE(edit->text(), QLatin1String("*100#"));
+    QVERIFY(!list()->isVisible() && fakeSdkCommands().empty());
+}
+
+// The list has opened while the user was typing, and no row of it is chosen.
+void CodesPageTest::returnSendsWhatIsTyped()
+{
+    QLineEdit *edit = general().commandEdit();
+    edit->setFocus();
+    QTest::keyClicks(edit, QLatin1String("*1"));
+    QVERIFY(list()->isVisible());
+    QTest::keyClicks(list(), QLatin1String("0#"));
+    QCOMPARE(edit->text(), QLatin1String("*10#"));
+    QTest::keyClicks(edit, QLatin1String(""));
+    QTest::keyClick(list()->isVisible() ? static_cast<QWidget *>(list()) : edit, Qt::Key_Return);
+    settle();
+    QVERIFY(fakeSdkCommands() == std::vector<std::u16string>{u"*10#"});
+}
+
+void CodesPageTest::escapeEmptiesTheField()
+{
+    QLineEdit *edit = general().commandEdit();
+    QTest::keyClicks(edit, QLatin1String("xyz"));
+    QVERIFY(general().sendButton()->isEnabled());
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QCOMPARE(edit->text(), QString());
+    QVERIFY(!general().sendButton()->isEnabled());
+}
+
+void CodesPageTest::theReplyIsCopied()
+{
+    fakeSdkSetAnswer(fakeReply(u"Your balance is 7.00 EUR."));
+    monitor().send(QLatin1String("*100#"));
+    settle();
+    shortcut(QKeySequence(QLatin1String("Ctrl+Shift+C")))->trigger();
+    QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 7.00 EUR."));
+}
+
+// The style sheet makes other progress bars flat.
+void CodesPageTest::theRingIsRoundWithTheStyleSheet()
+{
+    Look::instance().start();
+    monitor().send(QLatin1String("*104#"));
+    settle();
+    const QWidget *ring = codes().findChild<QWidget *>(QLatin1String("Dashboard_SecondsRing"));
+    QVERIFY(ring->isVisible());
+    QCOMPARE(ring->size(), QSize(Look::instance().px(40), Look::instance().px(40)));
+}
+
+USSD_TEST_MAIN(CodesPageTest)
+#include "codes_page_test.moc"

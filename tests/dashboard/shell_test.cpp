@@ -1,0 +1,422 @@
+#include <QAccessible>
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+
+#include "device/DashboardSettings.h"
+#include "device/Scenarios.h"
+#include "HostState.h"
+#include "IUSSD.h"
+#include "Languages.h"
+#include "look/Controls.h"
+#include "look/Look.h"
+#include "plugin/GeneralWindow.h"
+#include "plugin/LoadedPlugin.h"
+#include "UssdTest.h"
+#include "window/AppMenu.h"
+#include "window/Banners.h"
+#include "window/Header.h"
+#include "window/MainWindow.h"
+#include "window/Navigation.h"
+#include "window/Scrim.h"
+
+using namespace Dashboard;
+
+namespace
+{
+
+const PageId PAGES[] = {PageId::Home, PageId::Codes, PageId::Services, PageId::Messages,
+                        PageId::Settings};
+const int HEIGHT = 640; // pixels
+
+} // namespace
+
+/** Tests the main window around its pages: forms, navigation, keys, banners and the scrim. */
+class ShellTest : public UssdTest
+{
+    Q_OBJECT
+protected:
+    void setUp() override;
+    void tearDown() override;
+
+private slots:
+    void theFormDependsOnTheWidthInEm_data();
+    void theFormDependsOnTheWidthInEm();
+    void aChangeOfFormKeepsThePagesAndTheFocus();
+    void nothingIsCutAtAnyWidth_data();
+    void nothingIsCutAtAnyWidth();
+    void theSizesOfTheWindowAreBounded();
+    void thePlaceIsRememberedAlsoForAMaximizedWindow();
+    void theNavigationIsOneTabStopWithArrows();
+    void theNavigationIsAListOfPageTabs();
+    void unreadMessagesAreCounted();
+    void keysGoToThePages_data();
+    void keysGoToThePages();
+    void theCodeFieldIsReachedFromEverywhere();
+    void f6GoesThroughTheRegions();
+    void f10AndAltAloneOpenTheMenu();
+    void altWithAnotherKeyDoesNotOpenTheMenu();
+    void theHiddenMenuBarHasTheSameActions();
+    void theNumberOfTheSimIsShownForAMoment();
+    void theDemonstrationCannotBeClosed();
+    void oneBannerIsShownAtATime();
+    void theWindowIsDimmedBehindAFrame();
+    void theFormWaitsForTheFrame();
+    void theMessageTellsTheStrengthInWords();
+
+private:
+    template <typename T>
+    T *part(const char *name) const
+    {
+        return m_window->findChild<T *>(QLatin1String(name));
+    }
+    void resizeTo(int width);
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+    QScopedPointer<DashboardSettings> m_settings;
+    QScopedPointer<LoadedPlugin> m_plugin;
+    QScopedPointer<MainWindow> m_window;
+};
+
+void ShellTest::setUp()
+{
+    QFile::remove(DashboardSettings().file());
+    QVERIFY(HostCore::Languages::setCurrent(QLatin1String("en")));
+    QVERIFY(Scenarios::use(QString()).isEmpty());
+    Look::instance().setReducesMotion(true);
+    Look::instance().start();
+    m_settings.reset(new DashboardSettings);
+    m_settings->setFirstRunDone(true);
+    m_plugin.reset(new LoadedPlugin);
+    m_window.reset(new MainWindow(m_plugin.data(), m_settings.data()));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.data()));
+    m_window->loadPlugin();
+    QVERIFY(m_plugin->isUsable());
+}
+
+void ShellTest::tearDown()
+{
+    m_plugin.reset();
+    m_window.reset();
+    m_settings.reset();
+    HostCore::HostState::setShuttingDown(false);
+}
+
+void ShellTest::resizeTo(int width)
+{
+    m_window->resize(width, HEIGHT);
+    drainEvents();
+}
+
+void ShellTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget *focus = QApplication::focusWidget();
+    QTest::keyClick(focus ? focus : m_window.data(), key, modifiers);
+    drainEvents();
+}
+
+void ShellTest::theFormDependsOnTheWidthInEm_data()
+{
+    QTest::addColumn<int>("em");
+    QTest::addColumn<int>("form");
+    QTest::newRow("wide") << 66 << int(Form::Wide);
+    QTest::newRow("medium, widest") << 65 << int(Form::Medium);
+    QTest::newRow("medium, narrowest") << 46 << int(Form::Medium);
+    QTest::newRow("narrow") << 45 << int(Form::Narrow);
+}
+
+void ShellTest::theFormDependsOnTheWidthInEm()
+{
+    QFETCH(int, em);
+    QFETCH(int, form);
+    resizeTo(em * Look::instance().em());
+    QCOMPARE(int(m_window->form()), form);
+    const QWidget *navigation = part<QWidget>("Dashboard_Navigation");
+    const int widths[] = {216, 72, m_window->width()};
+    const int expected =
+        form == int(Form::Narrow) ? widths[form] : Look::instance().px(widths[form]);
+    QCOMPARE(navigation->width(), expected);
+    QCOMPARE(part<QPushButton>("Dashboard_NavSettings")->isVisible(), form != int(Form::Narrow));
+}
+
+void ShellTest::aChangeOfFormKeepsThePagesAndTheFocus()
+{
+    m_window->showPage(PageId::Codes);
+    QLineEdit *edit = GeneralWindow(m_window->page()).commandEdit();
+    edit->setFocus();
+    typeInto(edit, QLatin1String("*12"));
+    QTRY_COMPARE(QApplication::focusWidget(), edit);
+    for (const int width : {400, 800, 1120}) {
+        resizeTo(width);
+        QCOMPARE(GeneralWindow(m_window->page()).commandEdit(), edit);
+        QCOMPARE(edit->text(), QLatin1String("*12"));
+        QCOMPARE(QApplication::focusWidget(), edit);
+    }
+}
+
+void ShellTest::nothingIsCutAtAnyWidth_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &code : HostCore::Languages::codes())
+        QTest::newRow(qPrintable(code)) << code;
+}
+
+// A horizontal scroll bar would be needed if the content of a scroll area were wider than the area.
+// Without scroll area, Qt would make the window wider than its size.
+void ShellTest::nothingIsCutAtAnyWidth()
+{
+    QFETCH(QString, language);
+    m_window->setLanguage(language);
+    for (int width = 360; width <= 1400; width += 40) {
+        resizeTo(width);
+        QCOMPARE(m_window->width(), width);
+        for (const PageId page : PAGES) {
+            m_window->showPage(page);
+            drainEvents();
+            const QByteArray where =
+                QByteArray::number(width) + ' ' + QByteArray::number(int(page));
+            QVERIFY2(m_window->centralWidget()->minimumSizeHint().width() <= width,
+                     where.constData());
+            for (const QScrollArea *area : m_window->pageOf(page)->findChildren<QScrollArea *>()) {
+                if (page ==
+                    PageId::Codes) // scrolls below the smallest size of the plug-in's window
+                    continue;
+                QVERIFY2(!area->horizontalScrollBar()->isVisible(), where.constData());
+                QVERIFY2(!area->isVisible() ||
+                             area->widget()->minimumSizeHint().width() <= area->viewport()->width(),
+                         where.constData());
+            }
+        }
+    }
+}
+
+void ShellTest::theSizesOfTheWindowAreBounded()
+{
+    QCOMPARE(m_window->minimumSize(), QSize(360, 560));
+    const QSize screen = m_window->screen()->availableSize();
+    LoadedPlugin none;
+    const MainWindow window(&none, nullptr);
+    QCOMPARE(window.size(), QSize(1120, 720).boundedTo(screen).expandedTo(QSize(360, 560)));
+}
+
+void ShellTest::thePlaceIsRememberedAlsoForAMaximizedWindow()
+{
+    m_window->showMaximized();
+    m_window->close();
+    LoadedPlugin none;
+    const MainWindow window(&none, m_settings.data());
+    QVERIFY(window.windowState() & Qt::WindowMaximized);
+}
+
+void ShellTest::theNavigationIsOneTabStopWithArrows()
+{
+    QPushButton *home = part<QPushButton>("Dashboard_NavHome");
+    home->setFocus();
+    press(Qt::Key_Down);
+    QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
+    QCOMPARE(QApplication::focusWidget(), part<QPushButton>("Dashboard_NavCodes"));
+    press(Qt::Key_Tab);
+    const QWidget *focus = QApplication::focusWidget();
+    const bool isTab = focus->objectName().startsWith(QLatin1String("Dashboard_Nav"));
+    QVERIFY2(!isTab, qPrintable(focus->objectName()));
+}
+
+void ShellTest::theNavigationIsAListOfPageTabs()
+{
+    m_window->findChild<Navigation *>()->setUnread(2);
+    QPushButton *messages = part<QPushButton>("Dashboard_NavMessages");
+    QAccessibleInterface *tab = QAccessible::queryAccessibleInterface(messages);
+    QCOMPARE(int(tab->role()), int(QAccessible::PageTab));
+    QCOMPARE(tab->text(QAccessible::Name), QLatin1String("Messages"));
+    QCOMPARE(tab->text(QAccessible::Description), QLatin1String("2 unread"));
+    QVERIFY(!tab->state().selected);
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(int(m_window->currentPage()), int(PageId::Messages));
+    QVERIFY(tab->state().selected);
+}
+
+void ShellTest::unreadMessagesAreCounted()
+{
+    Navigation *navigation = m_window->findChild<Navigation *>();
+    Header *header = m_window->findChild<Header *>();
+    navigation->setUnread(3);
+    header->setUnread(3);
+    QCOMPARE(part<QPushButton>("Dashboard_NavMessages")->accessibleDescription(),
+             QLatin1String("3 unread"));
+    QCOMPARE(part<QPushButton>("Dashboard_Bell")->toolTip(), QLatin1String("Messages, 3 unread"));
+    navigation->setUnread(0);
+    QCOMPARE(part<QPushButton>("Dashboard_NavMessages")->accessibleDescription(), QString());
+}
+
+void ShellTest::keysGoToThePages_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("page");
+    QTest::newRow("1") << int(Qt::Key_1) << int(PageId::Home);
+    QTest::newRow("2") << int(Qt::Key_2) << int(PageId::Codes);
+    QTest::newRow("3") << int(Qt::Key_3) << int(PageId::Services);
+    QTest::newRow("4") << int(Qt::Key_4) << int(PageId::Messages);
+    QTest::newRow("comma") << int(Qt::Key_Comma) << int(PageId::Settings);
+}
+
+void ShellTest::keysGoToThePages()
+{
+    QFETCH(int, key);
+    QFETCH(int, page);
+    m_window->showPage(page == int(PageId::Home) ? PageId::Codes : PageId::Home);
+    press(Qt::Key(key), Qt::ControlModifier);
+    QCOMPARE(int(m_window->currentPage()), page);
+    QVERIFY(m_window->pageOf(PageId(page))->isVisible());
+}
+
+void ShellTest::theCodeFieldIsReachedFromEverywhere()
+{
+    m_window->showPage(PageId::Settings);
+    press(Qt::Key_L, Qt::ControlModifier);
+    QTRY_COMPARE(QApplication::focusWidget(), GeneralWindow(m_window->page()).commandEdit());
+    QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
+}
+
+void ShellTest::f6GoesThroughTheRegions()
+{
+    m_window->showPage(PageId::Settings);
+    const QWidget *regions[] = {
+        part<QWidget>("Dashboard_Header"), part<QWidget>("Dashboard_Navigation"),
+        part<QWidget>("Dashboard_Banner"), m_window->pageOf(PageId::Settings)};
+    part<QPushButton>("Dashboard_Bell")->setFocus();
+    for (const int next : {1, 2, 3, 0}) {
+        press(Qt::Key_F6);
+        QVERIFY2(regions[next]->isAncestorOf(QApplication::focusWidget()),
+                 QByteArray::number(next).constData());
+    }
+    for (const int previous : {3, 2, 1, 0}) {
+        press(Qt::Key_F6, Qt::ShiftModifier);
+        QVERIFY2(regions[previous]->isAncestorOf(QApplication::focusWidget()),
+                 QByteArray::number(previous).constData());
+    }
+}
+
+void ShellTest::f10AndAltAloneOpenTheMenu()
+{
+    QMenu *menu = m_window->appMenu();
+    press(Qt::Key_F10);
+    QVERIFY(menu->isVisible());
+    menu->close();
+    QTest::keyPress(m_window.data(), Qt::Key_Alt);
+    QVERIFY(!menu->isVisible());
+    QTest::keyRelease(m_window.data(), Qt::Key_Alt);
+    QVERIFY(menu->isVisible());
+    menu->close();
+}
+
+void ShellTest::altWithAnotherKeyDoesNotOpenTheMenu()
+{
+    QTest::keyPress(m_window.data(), Qt::Key_Alt);
+    QTest::keyClick(m_window.data(), Qt::Key_X, Qt::AltModifier);
+    QTest::keyRelease(m_window.data(), Qt::Key_Alt);
+    QVERIFY(!m_window->appMenu()->isVisible());
+}
+
+void ShellTest::theHiddenMenuBarHasTheSameActions()
+{
+    QVERIFY(!m_window->menuBar()->isVisible());
+    QList<QAction *> inBar;
+    for (const QAction *title : m_window->menuBar()->actions()) {
+        inBar << title->menu()->actions();
+        inBar << title->menu()->menuAction();
+    }
+    for (QAction *action : m_window->appMenu()->actions()) {
+        QVERIFY2(inBar.contains(action) || action->isSeparator(), qPrintable(action->text()));
+        if (action->isVisible() && !action->isSeparator())
+            QVERIFY2(action->text().contains(QLatin1Char('&')), qPrintable(action->text()));
+    }
+}
+
+void ShellTest::theNumberOfTheSimIsShownForAMoment()
+{
+    const QLabel *sim = part<QLabel>("Dashboard_Sim");
+    const QString number = m_window->device().status().imsi;
+    QVERIFY(!number.isEmpty());
+    QVERIFY(!sim->text().contains(number));
+    QVERIFY(sim->text().contains(number.right(4)));
+    press(Qt::Key_I, Qt::ControlModifier);
+    QVERIFY(sim->text().contains(number));
+    QTimer *timer = part<QTimer>("Dashboard_NumberTimer");
+    QCOMPARE(timer->interval(), 10000);
+    timer->start(1);
+    QTRY_VERIFY(!sim->text().contains(number));
+    press(Qt::Key_I, Qt::ControlModifier);
+    press(Qt::Key_I, Qt::ControlModifier);
+    QVERIFY(!sim->text().contains(number));
+}
+
+void ShellTest::theDemonstrationCannotBeClosed()
+{
+    const Banners *banners = m_window->findChild<Banners *>();
+    QVERIFY(banners->isVisible());
+    QCOMPARE(banners->shown(), int(Banners::Demonstration));
+    QVERIFY(!part<QPushButton>("Dashboard_BannerClose")->isVisible());
+    QVERIFY(m_window->windowTitle().contains(QLatin1String("Demonstration")));
+    QVERIFY(part<Chip>("Dashboard_PaidType")->isVisible());
+    QCOMPARE(part<Chip>("Dashboard_PaidType")->text(), QLatin1String("Demonstration"));
+}
+
+void ShellTest::oneBannerIsShownAtATime()
+{
+    Banners banners;
+    banners.setBanner(Banners::Restore, {QLatin1String("r"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Restore));
+    banners.setBanner(Banners::Problem, {QLatin1String("p"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Problem));
+    banners.setBanner(Banners::Demonstration,
+                      {QLatin1String("d"), QString(), QString(), QString()});
+    QCOMPARE(banners.shown(), int(Banners::Demonstration));
+    banners.setBanner(Banners::Demonstration, Banner());
+    QCOMPARE(banners.shown(), int(Banners::Problem));
+    const QLabel *title = banners.findChild<QLabel *>(QLatin1String("Dashboard_BannerTitle"));
+    QCOMPARE(title->text(), QLatin1String("p"));
+}
+
+void ShellTest::theWindowIsDimmedBehindAFrame()
+{
+    const Scrim *scrim = m_window->findChild<Scrim *>();
+    QVERIFY(!scrim->isVisible());
+    m_window->openFrame(PAID_TYPE_GENERAL);
+    QVERIFY(scrim->isVisible());
+    QCOMPARE(scrim->geometry(), m_window->centralWidget()->rect());
+    GeneralWindow::framed().commandEdit()->window()->close();
+    QTRY_VERIFY(!scrim->isVisible());
+}
+
+void ShellTest::theFormWaitsForTheFrame()
+{
+    resizeTo(70 * Look::instance().em());
+    m_window->openFrame(PAID_TYPE_GENERAL);
+    resizeTo(400);
+    QCOMPARE(int(m_window->form()), int(Form::Wide));
+    GeneralWindow::framed().commandEdit()->window()->close();
+    QTRY_COMPARE(int(m_window->form()), int(Form::Narrow));
+}
+
+void ShellTest::theMessageTellsTheStrengthInWords()
+{
+    const QLabel *word = part<QLabel>("Dashboard_Signal");
+    const QWidget *bars = part<QWidget>("Dashboard_SignalBars");
+    QVERIFY(!word->text().contains(QLatin1Char('%')));
+    QVERIFY(word->text().contains(QLatin1String("signal")));
+    QVERIFY(word->toolTip().contains(QLatin1Char('%')));
+    QVERIFY(bars->accessibleName().startsWith(word->text() + QLatin1String(", ")));
+    QCOMPARE(int(QAccessible::queryAccessibleInterface(const_cast<QWidget *>(bars))->role()),
+             int(QAccessible::Graphic));
+}
+
+USSD_TEST_MAIN(ShellTest)
+#include "shell_test.moc"
