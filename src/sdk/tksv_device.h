@@ -168,7 +168,7 @@ typedef enum TKSV_SessionState {
 
 /** A snapshot of the session. */
 typedef struct TKSV_SessionInfo {
-    TKSV_SessionState state;
+    TKSV_SessionState state;    /* the state of the session */
     unsigned long requestCount; /* number of requests that were accepted so far */
     char request[1024];         /* the newest accepted request, in UTF-8 */
 } TKSV_SessionInfo;
