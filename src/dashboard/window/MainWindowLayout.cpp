@@ -49,8 +49,8 @@ Form formOf(int width)
     return width >= MEDIUM_FROM * em ? Form::Medium : Form::Narrow;
 }
 
-/// Makes Qt ask for all sizes again. It keeps the former sizes of the parts of hidden pages, and the
-/// window could not become smaller than those.
+/// Makes Qt ask for all sizes again. It keeps the former sizes of the parts of hidden pages, and
+/// the window could not become smaller than those.
 void forgetSizes(QWidget *root)
 {
     for (QLayout *layout : root->findChildren<QLayout *>()) {
