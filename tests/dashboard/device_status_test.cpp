@@ -203,7 +203,8 @@ void DeviceStatusTest::aLongOperatorsNameIsElided()
     Header header;
     header.showContent(content);
     header.resize(600, header.sizeHint().height());
-    header.grab();
+    header.show();
+    drainEvents();
     const QLabel *label = header.findChild<QLabel *>(QLatin1String("Dashboard_Operator"));
     QVERIFY(label->fontMetrics().horizontalAdvance(content.title) > label->width());
     QVERIFY(label->toolTip().contains(QLatin1String("&lt;b&gt;WWW")));
