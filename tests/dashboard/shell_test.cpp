@@ -60,6 +60,7 @@ private slots:
     void keysGoToThePages_data();
     void keysGoToThePages();
     void theCodeFieldIsReachedFromEverywhere();
+    void aFieldLeavesItsKeyToTheMenu();
     void f6GoesThroughTheRegions();
     void f6LeavesTheStripInsideThePage();
     void f10AndAltAloneOpenTheMenu();
@@ -284,6 +285,27 @@ void ShellTest::theCodeFieldIsReachedFromEverywhere()
     press(Qt::Key_L, Qt::ControlModifier);
     QTRY_COMPARE(QApplication::focusWidget(), GeneralWindow(m_window->page()).commandEdit());
     QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
+}
+
+/// A line edit accepts Ctrl+E only with the keys of X11, which this platform does not have.
+void ShellTest::aFieldLeavesItsKeyToTheMenu()
+{
+    struct Field : QLineEdit {
+        using QLineEdit::QLineEdit;
+        bool event(QEvent *event) override
+        {
+            const bool isTaken = event->type() == QEvent::ShortcutOverride;
+            event->setAccepted(isTaken);
+            return isTaken || QLineEdit::event(event);
+        }
+    } field(m_window->centralWidget());
+    for (const bool isOfTheMenu : {false, true}) {
+        QKeyEvent key(QEvent::ShortcutOverride, isOfTheMenu ? Qt::Key_E : Qt::Key_K,
+                      Qt::ControlModifier);
+        key.ignore();
+        QCoreApplication::sendEvent(&field, &key);
+        QCOMPARE(key.isAccepted(), !isOfTheMenu);
+    }
 }
 
 void ShellTest::f6GoesThroughTheRegions()
