@@ -47,7 +47,6 @@ private slots:
     void anOldMessageHasNoAnswer();
     void theNarrowFormShowsOneAtATime();
     void aNotificationOpensItsMessage();
-    void controlFFindsTheSearchField();
 
 private:
     Message add(const char *text, int secondsAgo = 0, bool waits = false);
@@ -347,16 +346,6 @@ void MessagesPageTest::aNotificationOpensItsMessage()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
     m_page->open(12345); // a message that was deleted
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
-}
-
-void MessagesPageTest::controlFFindsTheSearchField()
-{
-    add("text");
-    m_page->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
-    list()->setFocus();
-    QTest::keyClick(list(), Qt::Key_F, Qt::ControlModifier);
-    QVERIFY(part<QLineEdit>("Dashboard_MessagesSearch")->hasFocus());
 }
 
 USSD_TEST_MAIN(MessagesPageTest)

@@ -61,6 +61,7 @@ private slots:
     void keysGoToThePages();
     void theCodeFieldIsReachedFromEverywhere();
     void aFieldLeavesItsKeyToTheMenu();
+    void controlFSearchesOnTheMessagesPageToo();
     void f6GoesThroughTheRegions();
     void f6LeavesTheStripInsideThePage();
     void f10AndAltAloneOpenTheMenu();
@@ -305,6 +306,18 @@ void ShellTest::aFieldLeavesItsKeyToTheMenu()
         key.ignore();
         QCoreApplication::sendEvent(&field, &key);
         QCOMPARE(key.isAccepted(), !isOfTheMenu);
+    }
+}
+
+void ShellTest::controlFSearchesOnTheMessagesPageToo()
+{
+    QLineEdit *search = part<QLineEdit>("Dashboard_MessagesSearch");
+    for (const PageId page : {PageId::Settings, PageId::Messages}) {
+        m_window->showPage(page);
+        part<QPushButton>("Dashboard_MessagesAll")->setFocus();
+        QVERIFY(!search->hasFocus());
+        press(Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(search->hasFocus());
     }
 }
 

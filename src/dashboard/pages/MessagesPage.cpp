@@ -6,7 +6,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/DashboardText.h"
@@ -139,9 +138,6 @@ void MessagesPage::connectParts()
     connect(m_store, &MessageStore::allRead, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::added, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::changed, this, &MessagesPage::showCounts);
-    QShortcut *find = new QShortcut(QKeySequence::Find, this);
-    find->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(find, &QShortcut::activated, this, &MessagesPage::focusSearch);
 }
 
 // ---- the list -----------------------------------------------------------------------------------
