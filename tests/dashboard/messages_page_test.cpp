@@ -108,6 +108,11 @@ void MessagesPageTest::anEmptyPageSaysWhatComesHere()
     QVERIFY(!list()->isVisible());
     QCOMPARE(m_page->firstFocus(), part<QLineEdit>("Dashboard_MessagesSearch"));
     add("first");
+    drainEvents();
+    const QRect search = part<QLineEdit>("Dashboard_MessagesSearch")->geometry();
+    const QRect filters = button("Dashboard_MessagesAll")->parentWidget()->geometry();
+    QVERIFY(filters.top() - search.bottom() < search.height());
+    QVERIFY(filters.height() < 2 * search.height());
     QVERIFY(list()->isVisible());
     QVERIFY(!part<QLabel>("Dashboard_MessagesEmpty")->isVisible());
 }

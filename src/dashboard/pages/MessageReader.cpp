@@ -201,7 +201,7 @@ MessageReader::MessageReader(QWidget *parent)
     : QFrame(parent), m_back(makeButton("ghost", this)), m_icon(new IconDisc(this)),
       m_sender(makeText("h3", "Dashboard_MessageSender", this)),
       m_when(makeText("cap", "Dashboard_MessageWhen", this)), m_copy(makeIconButton("copy", this)),
-      m_delete(makeIconButton("trash", this)), m_content(new QWidget(this)),
+      m_delete(makeIconButton("trash", this)), m_line(makeLine(this)), m_content(new QWidget(this)),
       m_text(makeText("body", "Dashboard_MessageText", m_content)), m_chip(new Chip(m_content)),
       m_answers(new AnswerBox(m_content)), m_hint(makeText("muted", "Dashboard_MessageHint", this))
 {
@@ -235,7 +235,7 @@ MessageReader::MessageReader(QWidget *parent)
     setSpacing(column, 12);
     column->addWidget(m_back, 0, Qt::AlignLeft);
     column->addWidget(makeHead());
-    column->addWidget(makeLine(this));
+    column->addWidget(m_line);
     column->addWidget(m_hint);
     column->addWidget(scroll, 1);
     connect(m_back, &QPushButton::clicked, this, &MessageReader::backRequested);
@@ -272,7 +272,7 @@ void MessageReader::setMessage(const Message &message, bool isWaiting, const QSt
     m_icon->setIcon(isWaiting ? "list" : "messages", isWaiting ? Tone::Accent : Tone::Neutral);
     m_chip->setVisible(isWaiting);
     m_answers->setVisible(isWaiting);
-    for (QWidget *part : {m_icon->parentWidget(), m_content})
+    for (QWidget *part : {m_icon->parentWidget(), m_line, m_content})
         part->setVisible(!message.isNull());
     m_hint->setVisible(message.isNull());
     retranslate();

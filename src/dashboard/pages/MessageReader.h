@@ -109,6 +109,7 @@ private:
     QPushButton *m_copy;
     QPushButton *m_delete;
     QWidget *m_content;
+    QWidget *m_line;
     QLabel *m_text;
     Chip *m_chip;
     AnswerBox *m_answers;

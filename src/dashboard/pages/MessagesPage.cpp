@@ -95,7 +95,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty);
+    column->addWidget(m_empty, 1); // so that the filters keep their place
     column->addWidget(m_list, 1);
     return m_listSide;
 }
