@@ -36,6 +36,7 @@ private slots:
     void aMessageThatComesLateHasItsPlace();
     void choosingAMessageReadsIt();
     void theFocusReadsNothing();
+    void returnReadsTheRowThatHasTheFocus();
     void aNewMessageMovesNothing();
     void filtersAndCounts();
     void wordsAreSearched();
@@ -107,12 +108,12 @@ void MessagesPageTest::anEmptyPageSaysWhatComesHere()
     QVERIFY(textOf("Dashboard_MessagesEmpty").startsWith(latin1("No messages yet")));
     QVERIFY(!list()->isVisible());
     QCOMPARE(m_page->firstFocus(), part<QLineEdit>("Dashboard_MessagesSearch"));
-    add("first");
     drainEvents();
     const QRect search = part<QLineEdit>("Dashboard_MessagesSearch")->geometry();
     const QRect filters = button("Dashboard_MessagesAll")->parentWidget()->geometry();
     QVERIFY(filters.top() - search.bottom() < search.height());
     QVERIFY(filters.height() < 2 * search.height());
+    add("first");
     QVERIFY(list()->isVisible());
     QVERIFY(!part<QLabel>("Dashboard_MessagesEmpty")->isVisible());
 }
@@ -193,6 +194,19 @@ void MessagesPageTest::theFocusReadsNothing()
     QVERIFY(list()->hasFocus());
     QCOMPARE(m_store->unreadCount(), 1);
     QVERIFY(part<QLabel>("Dashboard_MessageHint")->isVisible());
+}
+
+void MessagesPageTest::returnReadsTheRowThatHasTheFocus()
+{
+    add("text");
+    m_page->setForm(Form::Narrow);
+    m_page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    list()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(list(), Qt::Key_Return);
+    QCOMPARE(m_store->unreadCount(), 0);
+    QVERIFY(!list()->isVisible());
+    QVERIFY(button("Dashboard_MessageBack")->hasFocus());
 }
 
 void MessagesPageTest::aNewMessageMovesNothing()

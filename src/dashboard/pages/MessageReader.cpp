@@ -283,6 +283,11 @@ void MessageReader::setBackVisible(bool isVisible)
     m_back->setVisible(isVisible);
 }
 
+void MessageReader::focusBack()
+{
+    m_back->setFocus(Qt::OtherFocusReason);
+}
+
 void MessageReader::retranslate()
 {
     const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);

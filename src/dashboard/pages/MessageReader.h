@@ -90,6 +90,7 @@ public:
     const Message &message() const { return m_message; }
     AnswerBox *answerBox() const { return m_answers; }
     void setBackVisible(bool isVisible);
+    void focusBack();
     void retranslate();
 
 signals:
@@ -108,8 +109,8 @@ private:
     QLabel *m_when;
     QPushButton *m_copy;
     QPushButton *m_delete;
-    QWidget *m_content;
     QWidget *m_line;
+    QWidget *m_content;
     QLabel *m_text;
     Chip *m_chip;
     AnswerBox *m_answers;

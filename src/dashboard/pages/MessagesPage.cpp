@@ -127,7 +127,7 @@ void MessagesPage::connectParts()
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessagesPage::onChosen);
     connect(m_list, &QListView::clicked, this, &MessagesPage::readChosen);
-    connect(m_list, &QListView::activated, this, &MessagesPage::readChosen);
+    connect(m_list, &QListView::activated, this, &MessagesPage::readActivated);
     connect(m_reader, &MessageReader::backRequested, this, &MessagesPage::showList);
     connect(m_reader, &MessageReader::deleteRequested, this, &MessagesPage::removeCurrent);
     connect(m_reader->answerBox(), &AnswerBox::answered, m_monitor, &CommandMonitor::answer);
@@ -227,6 +227,16 @@ void MessagesPage::readChosen()
     m_store->markRead(message.id);
     showAnswers();
     showParts();
+}
+
+/// Selects the row first, because the row that has got its focus from the list is not selected.
+void MessagesPage::readActivated(const QModelIndex &index)
+{
+    m_list->setCurrentIndex(index);
+    m_list->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    readChosen();
+    if (m_form == Form::Narrow)
+        m_reader->focusBack();
 }
 
 /// Shows the message with its answers, or a hint if it no longer exists.
