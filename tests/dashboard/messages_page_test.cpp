@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "base/Isolate.h"
 #include "CommandTest.h"
 #include "Languages.h"
 #include "look/Controls.h"
@@ -182,6 +183,7 @@ void MessagesPageTest::choosingAMessageReadsIt()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("You have used 90 % of your data pack."));
     QCOMPARE(textOf("Dashboard_MessageSender"), SENDER);
     QVERIFY(textOf("Dashboard_MessageWhen").startsWith(latin1("Today, ")));
+    QVERIFY(textOf("Dashboard_MessageWhen").contains(isolated(latin1("12:00"))));
     QVERIFY(!part<QLabel>("Dashboard_MessageHint")->isVisible());
 }
 

@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QPainter>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "look/Controls.h"
 #include "look/Icons.h"
@@ -135,7 +136,7 @@ private:
     void paintHead()
     {
         const QFont timeFont = fontOf(12, QFont::Normal);
-        const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);
+        const QString time = clockText(m_message.receivedAt);
         const int top = m_row.top() + px(PADDING) - px(2);
         const int height = px(20);
         int end = textEnd();

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "look/Controls.h"
@@ -290,7 +291,7 @@ void MessageReader::focusBack()
 
 void MessageReader::retranslate()
 {
-    const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);
+    const QString time = clockText(m_message.receivedAt);
     m_back->setText(dashboardText("MESSAGE_BACK"));
     const bool isMirrored = layoutDirection() == Qt::RightToLeft; // a Latin name starts there too
     m_sender->setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
