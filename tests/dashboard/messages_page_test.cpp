@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "base/Isolate.h"
 #include "CommandTest.h"
 #include "Languages.h"
 #include "look/Controls.h"
@@ -36,6 +37,7 @@ private slots:
     void aMessageThatComesLateHasItsPlace();
     void choosingAMessageReadsIt();
     void theFocusReadsNothing();
+    void returnReadsTheRowThatHasTheFocus();
     void aNewMessageMovesNothing();
     void filtersAndCounts();
     void wordsAreSearched();
@@ -47,7 +49,6 @@ private slots:
     void anOldMessageHasNoAnswer();
     void theNarrowFormShowsOneAtATime();
     void aNotificationOpensItsMessage();
-    void controlFFindsTheSearchField();
 
 private:
     Message add(const char *text, int secondsAgo = 0, bool waits = false);
@@ -108,6 +109,11 @@ void MessagesPageTest::anEmptyPageSaysWhatComesHere()
     QVERIFY(textOf("Dashboard_MessagesEmpty").startsWith(latin1("No messages yet")));
     QVERIFY(!list()->isVisible());
     QCOMPARE(m_page->firstFocus(), part<QLineEdit>("Dashboard_MessagesSearch"));
+    drainEvents();
+    const QRect search = part<QLineEdit>("Dashboard_MessagesSearch")->geometry();
+    const QRect filters = button("Dashboard_MessagesAll")->parentWidget()->geometry();
+    QVERIFY(filters.top() - search.bottom() < search.height());
+    QVERIFY(filters.height() < 2 * search.height());
     add("first");
     QVERIFY(list()->isVisible());
     QVERIFY(!part<QLabel>("Dashboard_MessagesEmpty")->isVisible());
@@ -177,6 +183,7 @@ void MessagesPageTest::choosingAMessageReadsIt()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("You have used 90 % of your data pack."));
     QCOMPARE(textOf("Dashboard_MessageSender"), SENDER);
     QVERIFY(textOf("Dashboard_MessageWhen").startsWith(latin1("Today, ")));
+    QVERIFY(textOf("Dashboard_MessageWhen").contains(isolated(latin1("12:00"))));
     QVERIFY(!part<QLabel>("Dashboard_MessageHint")->isVisible());
 }
 
@@ -189,6 +196,19 @@ void MessagesPageTest::theFocusReadsNothing()
     QVERIFY(list()->hasFocus());
     QCOMPARE(m_store->unreadCount(), 1);
     QVERIFY(part<QLabel>("Dashboard_MessageHint")->isVisible());
+}
+
+void MessagesPageTest::returnReadsTheRowThatHasTheFocus()
+{
+    add("text");
+    m_page->setForm(Form::Narrow);
+    m_page->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
+    list()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(list(), Qt::Key_Return);
+    QCOMPARE(m_store->unreadCount(), 0);
+    QVERIFY(!list()->isVisible());
+    QVERIFY(button("Dashboard_MessageBack")->hasFocus());
 }
 
 void MessagesPageTest::aNewMessageMovesNothing()
@@ -347,16 +367,6 @@ void MessagesPageTest::aNotificationOpensItsMessage()
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
     m_page->open(12345); // a message that was deleted
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
-}
-
-void MessagesPageTest::controlFFindsTheSearchField()
-{
-    add("text");
-    m_page->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.data()));
-    list()->setFocus();
-    QTest::keyClick(list(), Qt::Key_F, Qt::ControlModifier);
-    QVERIFY(part<QLineEdit>("Dashboard_MessagesSearch")->hasFocus());
 }
 
 USSD_TEST_MAIN(MessagesPageTest)

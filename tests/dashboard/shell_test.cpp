@@ -60,6 +60,8 @@ private slots:
     void keysGoToThePages_data();
     void keysGoToThePages();
     void theCodeFieldIsReachedFromEverywhere();
+    void aFieldLeavesItsKeyToTheMenu();
+    void controlFSearchesOnTheMessagesPageToo();
     void f6GoesThroughTheRegions();
     void f6LeavesTheStripInsideThePage();
     void f10AndAltAloneOpenTheMenu();
@@ -286,6 +288,39 @@ void ShellTest::theCodeFieldIsReachedFromEverywhere()
     press(Qt::Key_L, Qt::ControlModifier);
     QTRY_COMPARE(QApplication::focusWidget(), GeneralWindow(m_window->page()).commandEdit());
     QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
+}
+
+/// A line edit accepts Ctrl+E only with the keys of X11, which this platform does not have.
+void ShellTest::aFieldLeavesItsKeyToTheMenu()
+{
+    struct Field : QLineEdit {
+        using QLineEdit::QLineEdit;
+        bool event(QEvent *event) override
+        {
+            const bool isTaken = event->type() == QEvent::ShortcutOverride;
+            event->setAccepted(isTaken);
+            return isTaken || QLineEdit::event(event);
+        }
+    } field(m_window->centralWidget());
+    for (const bool isOfTheMenu : {false, true}) {
+        QKeyEvent key(QEvent::ShortcutOverride, isOfTheMenu ? Qt::Key_E : Qt::Key_K,
+                      Qt::ControlModifier);
+        key.ignore();
+        QCoreApplication::sendEvent(&field, &key);
+        QCOMPARE(key.isAccepted(), !isOfTheMenu);
+    }
+}
+
+void ShellTest::controlFSearchesOnTheMessagesPageToo()
+{
+    QLineEdit *search = part<QLineEdit>("Dashboard_MessagesSearch");
+    for (const PageId page : {PageId::Settings, PageId::Messages}) {
+        m_window->showPage(page);
+        part<QPushButton>("Dashboard_MessagesAll")->setFocus();
+        QVERIFY(!search->hasFocus());
+        press(Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(search->hasFocus());
+    }
 }
 
 void ShellTest::f6GoesThroughTheRegions()

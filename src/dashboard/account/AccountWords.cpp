@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "Money.h"
@@ -31,7 +32,7 @@ QString shortDate(const QDate &date)
 
 QString whenText(const QDateTime &time, const QDateTime &now)
 {
-    const QString clock = isolated(withLatinDigits(time.time().toString(QLatin1String("HH:mm"))));
+    const QString clock = clockText(time);
     const qint64 days = time.date().daysTo(now.date());
     if (days == 0)
         return dashboardText("HOME_TODAY").arg(clock);

@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "MessageStore.h"
 
@@ -153,7 +154,7 @@ QString MessageModel::dayOf(int row) const
 QString MessageModel::accessibleText(const Message &message) const
 {
     const QString day = dayText(message.receivedAt.date(), m_today());
-    const QString time = QLocale().toString(message.receivedAt.time(), QLocale::ShortFormat);
+    const QString time = clockText(message.receivedAt);
     return QStringList{message.sender, day, time, message.text}.join(QLatin1String(", "));
 }
 

@@ -8,6 +8,7 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "look/Look.h"
@@ -26,7 +27,7 @@ const int MOST_ROWS = 8;
 QString timeText(const QDateTime &utc)
 {
     const QDateTime time = utc.toLocalTime();
-    const QString clock = QLocale().toString(time.time(), QLocale::ShortFormat);
+    const QString clock = clockText(time);
     if (time.date() == QDate::currentDate())
         return dashboardText("HISTORY_TODAY").arg(clock);
     if (time.date() == QDate::currentDate().addDays(-1))

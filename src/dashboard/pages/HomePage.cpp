@@ -14,6 +14,7 @@
 #include "AppActions.h"
 #include "BalanceCard.h"
 #include "BalanceChart.h"
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "FavouriteDialog.h"
@@ -33,11 +34,6 @@ namespace
 const int WIDEST = 1040;    // in pixels, at 100 %
 const double LARGE = 1.5;   // the scale from which on there is one column of favourites
 const int NARROW_COUNT = 4; // of favourites in the narrow form
-
-QString clockText(const QDateTime &time)
-{
-    return isolated(withLatinDigits(time.time().toString(QLatin1String("HH:mm"))));
-}
 
 QString shortWhen(const QDateTime &time, const QDateTime &now)
 {

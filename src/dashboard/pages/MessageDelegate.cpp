@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QPainter>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "look/Controls.h"
 #include "look/Icons.h"
@@ -69,7 +70,7 @@ private:
     static int px(int at100Percent) { return Look::instance().px(at100Percent); }
     static QColor color(Token token) { return Look::instance().color(token); }
     bool isSelected() const { return m_option.state & QStyle::State_Selected; }
-    bool hasFocus() const { return isSelected() && m_option.widget && m_option.widget->hasFocus(); }
+    bool hasFocus() const { return m_option.state & QStyle::State_HasFocus; }
     QRect mirrored(const QRect &rect) const
     {
         return QStyle::visualRect(m_option.direction, m_option.rect, rect);
@@ -102,12 +103,15 @@ private:
     void paintGround()
     {
         const bool isHovered = m_option.state & QStyle::State_MouseOver;
-        if (!isSelected() && !isHovered)
+        if (!isSelected() && !isHovered && !hasFocus())
             return;
         const double ring = hasFocus() ? 2.0 : 1.0;
         const double half = ring / 2;
-        m_painter->setBrush(color(isSelected() ? Token::AccentSoft : Token::Sunken));
-        m_painter->setPen(isSelected() ? QPen(color(Token::Accent), ring) : QPen(Qt::NoPen));
+        m_painter->setBrush(color(isSelected() ? Token::AccentSoft
+                                  : isHovered  ? Token::Sunken
+                                               : Token::Surface));
+        m_painter->setPen(isSelected() || hasFocus() ? QPen(color(Token::Accent), ring)
+                                                     : QPen(Qt::NoPen));
         m_painter->drawRoundedRect(QRectF(m_row).adjusted(half, half, -half, -half), px(RADIUS),
                                    px(RADIUS));
     }
@@ -132,7 +136,7 @@ private:
     void paintHead()
     {
         const QFont timeFont = fontOf(12, QFont::Normal);
-        const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);
+        const QString time = clockText(m_message.receivedAt);
         const int top = m_row.top() + px(PADDING) - px(2);
         const int height = px(20);
         int end = textEnd();

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "look/Controls.h"
@@ -208,7 +209,7 @@ MessageReader::MessageReader(QWidget *parent)
     : QFrame(parent), m_back(makeButton("ghost", this)), m_icon(new IconDisc(this)),
       m_sender(makeText("h3", "Dashboard_MessageSender", this)),
       m_when(makeText("cap", "Dashboard_MessageWhen", this)), m_copy(makeIconButton("copy", this)),
-      m_delete(makeIconButton("trash", this)), m_content(new QWidget(this)),
+      m_delete(makeIconButton("trash", this)), m_line(makeLine(this)), m_content(new QWidget(this)),
       m_text(makeText("body", "Dashboard_MessageText", m_content)), m_chip(new Chip(m_content)),
       m_answers(new AnswerBox(m_content)), m_hint(makeText("muted", "Dashboard_MessageHint", this))
 {
@@ -242,7 +243,7 @@ MessageReader::MessageReader(QWidget *parent)
     setSpacing(column, 12);
     column->addWidget(m_back, 0, Qt::AlignLeft);
     column->addWidget(makeHead());
-    column->addWidget(makeLine(this));
+    column->addWidget(m_line);
     column->addWidget(m_hint);
     column->addWidget(scroll, 1);
     connect(m_back, &QPushButton::clicked, this, &MessageReader::backRequested);
@@ -279,7 +280,7 @@ void MessageReader::setMessage(const Message &message, bool isWaiting, const QSt
     m_icon->setIcon(isWaiting ? "list" : "messages", isWaiting ? Tone::Accent : Tone::Neutral);
     m_chip->setVisible(isWaiting);
     m_answers->setVisible(isWaiting);
-    for (QWidget *part : {m_icon->parentWidget(), m_content})
+    for (QWidget *part : {m_icon->parentWidget(), m_line, m_content})
         part->setVisible(!message.isNull());
     m_hint->setVisible(message.isNull());
     retranslate();
@@ -291,9 +292,14 @@ void MessageReader::setNarrow(bool isNarrow)
     m_answers->setNarrow(isNarrow);
 }
 
+void MessageReader::focusBack()
+{
+    m_back->setFocus(Qt::OtherFocusReason);
+}
+
 void MessageReader::retranslate()
 {
-    const QString time = QLocale().toString(m_message.receivedAt.time(), QLocale::ShortFormat);
+    const QString time = clockText(m_message.receivedAt);
     m_back->setText(dashboardText("MESSAGE_BACK"));
     const bool isMirrored = layoutDirection() == Qt::RightToLeft; // a Latin name starts there too
     m_sender->setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |

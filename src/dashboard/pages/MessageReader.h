@@ -94,6 +94,7 @@ public:
     AnswerBox *answerBox() const { return m_answers; }
     /// Offers to go back to the list, and uses short texts.
     void setNarrow(bool isNarrow);
+    void focusBack();
     void retranslate();
 
 signals:
@@ -112,6 +113,7 @@ private:
     QLabel *m_when;
     QPushButton *m_copy;
     QPushButton *m_delete;
+    QWidget *m_line;
     QWidget *m_content;
     QLabel *m_text;
     Chip *m_chip;

@@ -7,7 +7,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/DashboardText.h"
@@ -97,7 +96,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty, 1);
+    column->addWidget(m_empty, 1); // so that the filters keep their place
     column->addWidget(m_list, 1);
     return m_listSide;
 }
@@ -129,7 +128,7 @@ void MessagesPage::connectParts()
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MessagesPage::onChosen);
     connect(m_list, &QListView::clicked, this, &MessagesPage::readChosen);
-    connect(m_list, &QListView::activated, this, &MessagesPage::readChosen);
+    connect(m_list, &QListView::activated, this, &MessagesPage::readActivated);
     connect(m_reader, &MessageReader::backRequested, this, &MessagesPage::showList);
     connect(m_reader, &MessageReader::deleteRequested, this, &MessagesPage::removeCurrent);
     connect(m_reader->answerBox(), &AnswerBox::answered, m_monitor, &CommandMonitor::answer);
@@ -140,9 +139,6 @@ void MessagesPage::connectParts()
     connect(m_store, &MessageStore::allRead, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::added, this, &MessagesPage::showCounts);
     connect(m_store, &MessageStore::changed, this, &MessagesPage::showCounts);
-    QShortcut *find = new QShortcut(QKeySequence::Find, this);
-    find->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(find, &QShortcut::activated, this, &MessagesPage::focusSearch);
 }
 
 // ---- the list -----------------------------------------------------------------------------------
@@ -232,6 +228,16 @@ void MessagesPage::readChosen()
     m_store->markRead(message.id);
     showAnswers();
     showParts();
+}
+
+/// Selects the row first, because the row that has got its focus from the list is not selected.
+void MessagesPage::readActivated(const QModelIndex &index)
+{
+    m_list->setCurrentIndex(index);
+    m_list->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    readChosen();
+    if (m_form == Form::Narrow)
+        m_reader->focusBack();
 }
 
 /// Shows the message with its answers, or a hint if it no longer exists.

@@ -56,6 +56,7 @@ private:
     QModelIndex chosen() const;
     void onChosen();
     void readChosen();
+    void readActivated(const QModelIndex &index);
     void showList();
     void showParts();
     void showCounts();

@@ -26,6 +26,7 @@
 #include "pages/MessagesPage.h"
 #include "plugin/ServiceList.h"
 #include "RemedyRunner.h"
+#include "ShortcutPriority.h"
 #include "sim/SimWindows.h"
 
 namespace Dashboard
@@ -59,8 +60,10 @@ void MainWindow::makeMenu()
     m_menu->fill(menuBar());
     menuBar()->hide();
     for (QAction *action : m_menu->actions()) {
-        if (!action->shortcut().isEmpty())
-            addAction(action); // the shortcut of an action in a hidden menu bar is not active
+        if (action->shortcut().isEmpty())
+            continue;
+        addAction(action); // the shortcut of an action in a hidden menu bar is not active
+        new ShortcutPriority(action->shortcut(), this);
     }
     connect(m_menu, &AppMenu::windowRequested, this, &MainWindow::openFrame);
     connect(m_menu, &AppMenu::editRequested, this, &MainWindow::editCodes);

@@ -1,0 +1,29 @@
+#include "ShortcutPriority.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace Dashboard
+{
+
+ShortcutPriority::ShortcutPriority(const QKeySequence &key, QWidget *window)
+    : QObject(window), m_key(key), m_window(window)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+/// Keeps the event from a field that would accept it, and with it the key.
+bool ShortcutPriority::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType() ||
+        static_cast<QWidget *>(watched)->window() != m_window)
+        return false;
+    const QKeyEvent *key = static_cast<QKeyEvent *>(event);
+    if (m_key != QKeySequence(key->key() | int(key->modifiers())))
+        return false;
+    event->ignore();
+    return true;
+}
+
+} // namespace Dashboard

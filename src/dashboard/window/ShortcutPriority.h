@@ -1,0 +1,30 @@
+#ifndef SHORTCUTPRIORITY_H
+#define SHORTCUTPRIORITY_H
+
+#include <QKeySequence>
+#include <QObject>
+
+class QWidget;
+
+namespace Dashboard
+{
+
+/**
+ * Gives a shortcut of a window priority over the editing keys of its fields. On X11, for example, a
+ * line edit takes Ctrl+E, which moves its cursor to the end.
+ */
+class ShortcutPriority : public QObject
+{
+public:
+    ShortcutPriority(const QKeySequence &key, QWidget *window);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    const QKeySequence m_key;
+    const QWidget *const m_window;
+};
+
+} // namespace Dashboard
+
+#endif
