@@ -183,6 +183,7 @@ large_letters()
     say 'letters twice as large'
     start --demo --language en
     wait_for '^page tab "Home" \[selected\]'
+    resize 1120 720
     key ctrl+comma
     click '^check box "Light"'
     click '^check box "200.%"'
