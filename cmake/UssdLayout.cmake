@@ -1,5 +1,7 @@
-# The installation layout. The build tree has the same layout as the installation prefix, so that a
-# path relative to a library is valid in both.
+# The installation layout, which follows the Filesystem Hierarchy Standard. The build tree has the same
+# layout as the installation prefix, so that a path relative to a library is valid in both. The only
+# exception is the configuration: the build tree contains copies of the files where the installation
+# contains links to them.
 include(GNUInstallDirs)
 
 set(USSD_PACKAGE ussd-dashboard)
@@ -7,6 +9,7 @@ set(USSD_LIB_DIR ${CMAKE_INSTALL_LIBDIR})
 set(USSD_HOST_DIR ${CMAKE_INSTALL_LIBDIR}/${USSD_PACKAGE}) # returned by GetPluginLibraryPath()
 set(USSD_PLUGIN_DIR ${USSD_HOST_DIR}/plugins/USSDUIPlugin)
 set(USSD_SHARE_DIR ${CMAKE_INSTALL_DATAROOTDIR}/${USSD_PACKAGE})
+set(USSD_CONFIG_DIR ${CMAKE_INSTALL_SYSCONFDIR}/${USSD_PACKAGE})
 file(RELATIVE_PATH USSD_SHARE_FROM_LIB /prefix/${USSD_LIB_DIR} /prefix/${USSD_SHARE_DIR})
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR})
@@ -18,9 +21,9 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/archives)
 file(RELATIVE_PATH USSD_LIB_FROM_BIN /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${USSD_LIB_DIR})
 file(RELATIVE_PATH USSD_LIB_FROM_PLUGIN /prefix/${USSD_PLUGIN_DIR} /prefix/${USSD_LIB_DIR})
 
-# ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION (relative to the
-# prefix) and copies them to the same relative folder in the build tree.
-function(ussd_add_data target destination)
+# ussd_copy_data(TARGET DESTINATION FILE...): copies the files to DESTINATION in the build tree,
+# without installing them.
+function(ussd_copy_data target destination)
     set(copies)
     foreach(file IN LISTS ARGN)
         cmake_path(ABSOLUTE_PATH file)
@@ -32,7 +35,32 @@ function(ussd_add_data target destination)
             DEPENDS ${file}
             VERBATIM)
         list(APPEND copies ${copy})
-        install(FILES ${file} DESTINATION ${destination})
     endforeach()
     add_custom_target(${target} ALL DEPENDS ${copies})
+endfunction()
+
+# ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION (relative to the
+# prefix) and copies them to the same relative folder in the build tree.
+function(ussd_add_data target destination)
+    ussd_copy_data(${target} ${destination} ${ARGN})
+    install(FILES ${ARGN} DESTINATION ${destination})
+endfunction()
+
+# ussd_add_configuration(TARGET DESTINATION FILE...): installs the files to USSD_CONFIG_DIR, where an
+# administrator may change them, and links to them from DESTINATION. The build tree contains copies
+# in DESTINATION instead of the links.
+function(ussd_add_configuration target destination)
+    ussd_copy_data(${target} ${destination} ${ARGN})
+    install(FILES ${ARGN} DESTINATION ${USSD_CONFIG_DIR})
+    # A link within the prefix is relative, so that users can move the installation.
+    set(folder ${USSD_CONFIG_DIR})
+    if(NOT IS_ABSOLUTE ${folder})
+        file(RELATIVE_PATH folder /prefix/${destination} /prefix/${folder})
+    endif()
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/links)
+    foreach(file IN LISTS ARGN)
+        cmake_path(GET file FILENAME name)
+        file(CREATE_LINK ${folder}/${name} ${PROJECT_BINARY_DIR}/links/${name} SYMBOLIC)
+        install(FILES ${PROJECT_BINARY_DIR}/links/${name} DESTINATION ${destination})
+    endforeach()
 endfunction()

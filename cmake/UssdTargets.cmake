@@ -6,7 +6,8 @@
 #   ussd_add_plugin_code(NAME SOURCES... LIBRARIES...)      the plug-in's code, for plug-in and tests
 #   ussd_add_plugin(NAME SOURCES... LIBRARIES...)           the plug-in itself
 #   ussd_add_program(NAME SOURCES... LIBRARIES...)          a program for users
-#   ussd_add_example(NAME SOURCES... LIBRARIES...)          a program for developers; not installed
+#   ussd_set_up_example(NAME)                               an example, whose folder can also be built
+#                                                           against an installation; not installed
 
 # The C++ standard of the plug-in and its libraries, which can also be compiled with Qt 4. Folders
 # whose code requires Qt 5.15 or later set another standard at the top of their CMakeLists.txt.
@@ -53,16 +54,33 @@ function(ussd_hide_symbols target)
                                                VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
+# ussd_install_library(TARGET PACKAGE FOLDER): installs a library for which ussd_add_development_files()
+# installs the CMake package. FOLDER is the folder of its headers.
+function(ussd_install_library target package folder)
+    install(
+        TARGETS ${target}
+        EXPORT ${package}
+        LIBRARY DESTINATION ${USSD_LIB_DIR}
+        INCLUDES
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+endfunction()
+
 function(ussd_add_core_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_library(${name} SHARED ${arg_SOURCES})
     ussd_set_up(${name})
     ussd_hide_symbols(${name})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON INSTALL_RPATH "$ORIGIN")
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/core/common
-                                              ${PROJECT_SOURCE_DIR}/src/compat)
-    target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
-    install(TARGETS ${name} LIBRARY DESTINATION ${USSD_LIB_DIR})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON VERSION 1 SOVERSION 1 INSTALL_RPATH "$ORIGIN")
+    target_include_directories(
+        ${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/core/common>
+                       $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/compat>)
+    foreach(library IN LISTS arg_LIBRARIES)
+        target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:${library}>)
+    endforeach()
+    foreach(library IN LISTS USSD_QT_TARGETS)
+        target_link_libraries(${name} PUBLIC $<INSTALL_INTERFACE:${library}>)
+    endforeach()
+    ussd_install_library(${name} UssdUiPlugin ussd-ui-plugin)
 endfunction()
 
 function(ussd_add_sdk_library name)
@@ -71,7 +89,7 @@ function(ussd_add_sdk_library name)
     ussd_set_up(${name})
     ussd_hide_symbols(${name})
     set_target_properties(${name} PROPERTIES OUTPUT_NAME tksv INSTALL_RPATH "$ORIGIN")
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src/sdk)
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/sdk>)
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
 endfunction()
 
@@ -114,10 +132,7 @@ function(ussd_add_program name)
     install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
-function(ussd_add_example name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
-    add_executable(${name} ${arg_SOURCES})
+function(ussd_set_up_example name)
     ussd_set_up(${name})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/examples)
-    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
 endfunction()

@@ -417,36 +417,12 @@
         <translation>ملف</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>الشبكة</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>اللغة</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>إنهاء</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>رموز USSD</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>رموز USSD في نافذة</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>مسبق الدفع</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>آجل الدفع</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>الخدمات</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>جارٍ البحث عن شبكة...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>المشغّل</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>قوة الإشارة</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>بطاقة SIM</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>المصدر المستخدم</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -674,42 +634,12 @@
         <translation>مسبق الدفع أم آجل؟ جارٍ السؤال…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>نوع العقد</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>لا توجد نافذة USSD لبطاقة SIM هذه.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>رموز USSD الخاصة بك</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>اختفى الملف الذي يحوي رموز USSD الخاصة بك:
-&#x200f;&#x200e;%1
-
-توجد نسخة منه بتاريخ %2. هل تريد استعادتها؟ الجواب «لا» يحذف النسخة.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>نعم، استعادتها</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>لا، حذف النسخة</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>لا يمكن كتابة &#x200e;%1&#x200e;. تبقى النسخة في مكانها: &#x200e;%2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>الملف الذي يحوي رموز USSD الخاصة بك غير كامل:
-&#x200f;&#x200e;%1
-
-توجد نسخة منه بتاريخ %2. هل تريد استعادتها؟ يبقى الملف غير الكامل عندئذ بجانبها. الجواب «لا» يحذف النسخة.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -760,64 +690,12 @@
         <translation>المصدر: جارٍ البحث عن مودم…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>تعذّر الوصول إلى ناقل رسائل النظام (‎D-Bus‎)، فلا يُعثر على مودم. شغّل الخدمة ‎dbus‎ أو اختر العرض التجريبي من القائمة.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>لا يعمل ‎ModemManager‎، فلا يُعثر على مودم. ثبّته وشغّله (‎systemctl start ModemManager‎) أو اختر العرض التجريبي من القائمة.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>سياسة النظام (‎polkit‎) لا تسمح لك باستخدام المودم. اطلب من المسؤول السماح لك بالإجراءين ‎org.freedesktop.ModemManager1.Device.Control‎ و‎org.freedesktop.ModemManager1.USSD‎.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>المودم المختار غير موجود. صِله أو اختر غيره من القائمة.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>ليس هذا رمز PIN لبطاقة SIM.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>لم يعد رمز PIN يفتح القفل: تطلب بطاقة SIM أو المودم رمز PUK أو رمزًا آخر يعطيه المشغّل. أدخله بهاتف أو عبر ‎mmcli‎.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>لا يستطيع هذا المودم إرسال رموز USSD. اختر مودمًا آخر من القائمة.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>تخلّى ‎ModemManager‎ عن هذا المودم. افصله ثم صِله من جديد؛ سجل ‎ModemManager‎ يذكر السبب.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>لا يوجد مودم. صِل مودمًا أو اختر العرض التجريبي من القائمة.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>لا توجد بطاقة SIM في المودم. أدخل بطاقة وأعد وصل المودم.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>بطاقة SIM مقفلة: أدخل رمز PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>المودم متوقف. لن يرسل رموزًا إلى أن يُشغَّل.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>أدخل PIN الخاص بـSIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>من 4 إلى 8 خانات. يُرسل إلى SIM ولا يُحفظ.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>إدخال رمز PIN…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -850,26 +728,6 @@
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>لم تستجب SIM في الوقت المناسب. حاول مجددًا.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>رسائل الشبكة</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1، من الشبكة:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>الشبكة تنتظر جوابًا. اكتبه في حقل الرموز ثم أرسله.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>ما زالت قائمة مفتوحة في الشبكة، لكن نصها لم يعد معروفًا. أجب عنها أو ابدأ من جديد برمز.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>إغلاق الرسائل</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -940,14 +798,6 @@
         <translation>إلغاء</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>تُستخدم الآن رموز %1.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>تُستخدم الآن رموز العرض التجريبي.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>لا يمكن استخدام رموز %1: %2</translation>
     </message>
@@ -999,52 +849,8 @@
         <translation>بطاقة SIM أو المودم مقفل.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>لا تقبل الشبكة بطاقة SIM هذه. اسأل المشغّل هل هي مفعّلة، أو استخدم غيرها.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>يعمل ‎ModemManager‎ لكنه لا يجيب. انتظر لحظة أو أعد تشغيله (‎systemctl restart ModemManager‎).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>أُزيل المودم. صِله من جديد.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>يستخدم برنامج آخر رموزًا على هذا المودم.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>تشغيل</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>البحث من جديد</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>إنهاؤه</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>رموز برنامج آخر</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>هل تُنهى جلسة البرنامج الآخر مع أنه قد يكون بصدد شراء شيء؟</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>يمكنك إيقاف الانتظار، لكن الشبكة قد تنفّذ الأمر رغم ذلك.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>في انتظار أن يفرغ برنامج آخر من المودم…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>إلغاء</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1435,16 +1241,8 @@
         <translation>لا شيء: حقل الرموز وحده</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>لا تُستخدم الآن رموز أي مشغّل. اكتب الرموز في الحقل.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>لا رموز معدّة لهذه البطاقة. اكتب رمزًا في الحقل أو اختر المشغّل.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>معرفة هل بطاقة SIM مسبقة الدفع أم آجلة (يُرسل رمزًا)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

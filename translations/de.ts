@@ -417,36 +417,12 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Netz</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>S&amp;prache</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>&amp;USSD-Codes</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>USSD-Codes im &amp;Fenster</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>Pr&amp;epaid</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>&amp;Vertrag</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>D&amp;ienste</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Netz wird gesucht...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Netzbetreiber</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Signalstärke</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>SIM-Karte</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Verwendete Quelle</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -675,42 +635,12 @@ Szenariodatei falsch sind.</translation>
         <translation>Prepaid oder Vertrag? Frage läuft…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Vertragsart</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>Zu dieser SIM-Karte gehört kein USSD-Fenster.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Ihre eigenen USSD-Codes</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>Die Datei mit Ihren eigenen USSD-Codes ist verschwunden:
-%1
-
-Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Nein löscht die Kopie.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Ja, zurückholen</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;Nein, Kopie löschen</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 lässt sich nicht schreiben. Die Kopie bleibt, wo sie ist: %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>Die Datei mit Ihren eigenen USSD-Codes ist unvollständig:
-%1
-
-Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständige Datei bleibt dann daneben erhalten. Nein löscht die Kopie.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -761,64 +691,12 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
         <translation>Quelle: ein Modem wird gesucht …</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>Der Nachrichtenbus des Systems (D-Bus) ist nicht erreichbar, daher wird kein Modem gefunden. Den Dienst dbus starten oder im Menü die Vorführung wählen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager läuft nicht, daher wird kein Modem gefunden. Installieren und starten (systemctl start ModemManager) oder im Menü die Vorführung wählen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>Die Richtlinien des Systems (polkit) erlauben Ihnen das Modem nicht. Bitten Sie den Verwalter, Ihnen org.freedesktop.ModemManager1.Device.Control und org.freedesktop.ModemManager1.USSD zu erlauben.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>Das gewählte Modem ist nicht vorhanden. Anschließen oder im Menü ein anderes wählen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>Das war nicht die PIN der SIM-Karte.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>Die PIN entsperrt nicht mehr: SIM-Karte oder Modem verlangen die PUK oder einen anderen Code, den der Betreiber nennt. Mit einem Telefon oder mit mmcli eingeben.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>Dieses Modem kann keine USSD-Codes senden. Im Menü ein anderes wählen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager hat dieses Modem aufgegeben. Ab- und wieder anstecken; das Protokoll von ModemManager sagt, warum.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>Es ist kein Modem da. Eines anschließen oder im Menü die Vorführung wählen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>Im Modem ist keine SIM-Karte. Eine einlegen und das Modem neu anschließen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>Die SIM-Karte ist gesperrt: ihre PIN eingeben.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>Das Modem ist ausgeschaltet. Es sendet keine Codes, bis es eingeschaltet wird.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>PIN der SIM eingeben</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>4 bis 8 Ziffern. Sie geht an die SIM und wird nicht aufbewahrt.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>PI&amp;N eingeben …</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -851,26 +729,6 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>Die SIM hat nicht rechtzeitig geantwortet. Versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Nachrichten des Netzes</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, vom Netz:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>Das Netz wartet auf eine Antwort. In das Feld für Codes eingeben und senden.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>Im Netz ist noch ein Menü offen, sein Text ist aber nicht mehr bekannt. Antworten oder mit einem Code neu beginnen.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Nachrichten schließen</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -941,14 +799,6 @@ Es gibt eine Kopie davon vom %2. Möchten Sie sie zurückhaben? Die unvollständ
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>Jetzt werden die Codes von %1 verwendet.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Jetzt werden die Codes der Vorführung verwendet.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>Die Codes von %1 sind nicht benutzbar: %2</translation>
     </message>
@@ -1000,52 +850,8 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Die SIM-Karte oder das Modem ist gesperrt.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>Das Netz nimmt diese SIM nicht an. Beim Betreiber fragen, ob sie freigeschaltet ist, oder eine andere verwenden.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager läuft, antwortet aber nicht. Einen Augenblick warten oder neu starten (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>Das Modem wurde entfernt. Bitte wieder anschließen.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Ein anderes Programm verwendet gerade Codes auf diesem Modem.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>&amp;Einschalten</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>Erneut s&amp;uchen</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Codes eines anderen Programms</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>Die Sitzung des anderen Programms beenden, obwohl es gerade etwas kaufen könnte?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>Das Warten lässt sich abbrechen, doch das Netz führt den Befehl möglicherweise trotzdem aus.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>Es wird gewartet, bis ein anderes Programm mit dem Modem fertig ist …</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>A&amp;bbrechen</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1436,16 +1242,8 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Keine: nur das Feld für Codes</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>Jetzt werden keine Codes eines Betreibers verwendet. Codes in das Feld eingeben.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>Für diese SIM-Karte sind keine Codes eingerichtet. Einen Code in das Feld eingeben oder den Betreiber wählen.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>&amp;Feststellen, ob die SIM Prepaid oder Vertrag ist (sendet einen Code)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

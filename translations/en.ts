@@ -417,36 +417,12 @@
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Network</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Language</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Quit</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>&amp;USSD codes</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>USSD codes in a &amp;window</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>&amp;Prepaid</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>P&amp;ostpaid</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>Ser&amp;vices</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Searching for a network...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Operator</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Signal strength</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>SIM card</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Source in use</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -674,42 +634,12 @@ file are wrong.</translation>
         <translation>Prepaid or postpaid? Asking…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Kind of contract</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>No USSD window goes with this SIM card.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Your own USSD codes</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>The file with your own USSD codes has gone:
-%1
-
-There is a copy of it, made on %2. Do you want it back? No deletes the copy.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Yes, restore it</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;No, delete the copy</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 cannot be written. The copy stays where it is: %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>The file with your own USSD codes is incomplete:
-%1
-
-There is a copy of it, made on %2. Do you want it back? The incomplete file is then kept beside it. No deletes the copy.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -760,64 +690,12 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
         <translation>Source: looking for a modem…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>The system’s message bus (D-Bus) cannot be reached, so no modem is found. Start the service dbus, or choose the demonstration in the menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager does not run, so no modem is found. Install and start it (systemctl start ModemManager), or choose the demonstration in the menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>The system’s policy (polkit) does not let you use the modem. Ask its administrator to permit the actions org.freedesktop.ModemManager1.Device.Control and org.freedesktop.ModemManager1.USSD to you.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>The chosen modem is not there. Connect it, or choose another one in the menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>That was not the SIM card’s PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>The PIN does not unlock it any more: the SIM card or the modem asks for its PUK or another code, which the operator gives. Enter it with a phone, or with mmcli.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>This modem cannot send USSD codes. Choose another modem in the menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager has given this modem up. Unplug it and connect it again; ModemManager’s log says why.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>There is no modem. Connect one, or choose the demonstration in the menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>There is no SIM card in the modem. Insert one, and connect the modem again.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>The SIM card is locked: enter its PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>The modem is switched off. It sends no codes until somebody switches it on.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>Enter the PIN of the SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>4 to 8 digits. It goes to the SIM and is not kept.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>Enter the PI&amp;N…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -850,26 +728,6 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>The SIM did not answer in time. Try again.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Messages of the network</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, from the network:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>The network waits for an answer. Type it into the field for codes and press Send.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>A menu is still open in the network, but its text is not known any more. Answer it, or begin anew with a code.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Close messages</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -940,14 +798,6 @@ There is a copy of it, made on %2. Do you want it back? The incomplete file is t
         <translation>&amp;Cancel</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>The codes of %1 are in use now.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>The codes of the demonstration are in use now.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>The codes of %1 cannot be used: %2</translation>
     </message>
@@ -999,52 +849,8 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>The SIM card or the modem is blocked.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>The network does not accept this SIM. Ask the operator whether it is active, or use another one.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager runs but does not answer. Wait a moment, or start it again (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>The modem was removed. Connect it again.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Another program is using codes on this modem.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>S&amp;witch on</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>Look a&amp;gain</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>&amp;End it</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Codes of another program</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>End the session of the other program, although it may be buying something?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>You can stop waiting, but the network may carry out the command all the same.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>Waiting until another program has finished with the modem…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>Cance&amp;l</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1435,16 +1241,8 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>None: only the field for codes</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>No operator’s codes are in use now. Type codes into the field.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>No codes are set up for this SIM card. Type a code into the field, or choose the operator.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>&amp;Find out whether the SIM is prepaid or postpaid (sends a code)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

@@ -417,36 +417,12 @@
         <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Red</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>Códigos &amp;USSD</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Códigos USSD en una &amp;ventana</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>&amp;Prepago</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>P&amp;ospago</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Servicios</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Buscando una red...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Operador</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Intensidad de la señal</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>Tarjeta SIM</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Fuente en uso</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -674,42 +634,12 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>¿Prepago o pospago? Preguntando…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Tipo de contrato</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>Ninguna ventana USSD corresponde a esta tarjeta SIM.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Sus propios códigos USSD</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>El archivo con sus propios códigos USSD ha desaparecido:
-%1
-
-Hay una copia del %2. ¿Quiere recuperarla? No borra la copia.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Sí, recuperarla</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;No, borrar la copia</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>No se puede escribir %1. La copia se queda donde está: %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>El archivo con sus propios códigos USSD está incompleto:
-%1
-
-Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva entonces al lado. No borra la copia.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -760,64 +690,12 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Origen: buscando un módem…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>No se puede acceder al bus de mensajes del sistema (D-Bus), así que no se encuentra ningún módem. Inicie el servicio dbus o elija la demostración en el menú.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager no está en marcha, así que no se encuentra ningún módem. Instálelo e inícielo (systemctl start ModemManager) o elija la demostración en el menú.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>La política del sistema (polkit) no le permite usar el módem. Pida al administrador que le permita org.freedesktop.ModemManager1.Device.Control y org.freedesktop.ModemManager1.USSD.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>El módem elegido no está. Conéctelo o elija otro en el menú.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>Ese no era el PIN de la tarjeta SIM.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>El PIN ya no desbloquea: la tarjeta SIM o el módem pide el PUK u otro código, que facilita el operador. Introdúzcalo con un teléfono o con mmcli.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>Este módem no puede enviar códigos USSD. Elija otro en el menú.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager ha abandonado este módem. Desconéctelo y vuelva a conectarlo; el registro de ModemManager dice por qué.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>No hay ningún módem. Conecte uno o elija la demostración en el menú.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>No hay tarjeta SIM en el módem. Inserte una y vuelva a conectar el módem.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>La tarjeta SIM está bloqueada: introduzca su PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>El módem está apagado. No envía códigos hasta que se encienda.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>Introduzca el PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>De 4 a 8 cifras. Va a la SIM y no se guarda.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>Introducir el PI&amp;N…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -850,26 +728,6 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>La SIM no respondió a tiempo. Inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Mensajes de la red</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, de la red:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>La red espera una respuesta. Escríbala en el campo de códigos y envíela.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>En la red sigue abierto un menú, pero su texto ya no se conoce. Respóndalo o empiece de nuevo con un código.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Cerrar los mensajes</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -940,14 +798,6 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>Ahora se usan los códigos de %1.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Ahora se usan los códigos de la demostración.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>Los códigos de %1 no se pueden usar: %2</translation>
     </message>
@@ -999,52 +849,8 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>La tarjeta SIM o el módem está bloqueado.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>La red no acepta esta SIM. Pregunte al operador si está activa o use otra.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager está en marcha, pero no responde. Espere un momento o reinícielo (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>Se ha retirado el módem. Vuelva a conectarlo.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Otro programa está usando códigos en este módem.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>Enc&amp;ender</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>&amp;Buscar de nuevo</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>&amp;Terminarlo</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Códigos de otro programa</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>¿Terminar la sesión del otro programa, aunque quizá esté comprando algo?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>Puede dejar de esperar, pero es posible que la red ejecute la orden de todos modos.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>Esperando a que otro programa termine con el módem…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>C&amp;ancelar</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1435,16 +1241,8 @@ Hay una copia del %2. ¿Quiere recuperarla? El archivo incompleto se conserva en
         <translation>Ninguno: solo el campo de códigos</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>Ahora no se usan códigos de ningún operador. Escriba los códigos en el campo.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>No hay códigos configurados para esta tarjeta SIM. Escriba un código en el campo o elija el operador.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>A&amp;veriguar si la SIM es de prepago o de pospago (envía un código)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

@@ -417,36 +417,12 @@
         <translation>F&amp;ichier</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Réseau</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Langue</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>Codes &amp;USSD</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Codes USSD dans une fenê&amp;tre</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>&amp;Prépayé</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>P&amp;ostpayé</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>Ser&amp;vices</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Recherche d’un réseau...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Opérateur</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Puissance du signal</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>Carte SIM</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Source utilisée</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -675,42 +635,12 @@ scénario sont incorrects.</translation>
         <translation>Prépayé ou postpayé ? Demande en cours…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Type de contrat</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>Aucune fenêtre USSD ne va avec cette carte SIM.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Vos propres codes USSD</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>Le fichier de vos propres codes USSD a disparu :
-%1
-
-Il en existe une copie du %2. Voulez-vous la récupérer ? Non supprime la copie.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Oui, la récupérer</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;Non, supprimer la copie</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>%1 ne peut pas être écrit. La copie reste où elle est : %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>Le fichier de vos propres codes USSD est incomplet :
-%1
-
-Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet est alors conservé à côté. Non supprime la copie.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -761,64 +691,12 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
         <translation>Source : recherche d’un modem…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>Le bus de messages du système (D-Bus) est inaccessible : aucun modem n’est trouvé. Démarrez le service dbus ou choisissez la démonstration dans le menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager ne fonctionne pas : aucun modem n’est trouvé. Installez-le et démarrez-le (systemctl start ModemManager), ou choisissez la démonstration dans le menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>La politique du système (polkit) ne vous permet pas d’utiliser le modem. Demandez à l’administrateur de vous autoriser org.freedesktop.ModemManager1.Device.Control et org.freedesktop.ModemManager1.USSD.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>Le modem choisi est absent. Branchez-le ou choisissez-en un autre dans le menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>Ce n’était pas le code PIN de la carte SIM.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>Le code PIN ne suffit plus : la carte SIM ou le modem demande le code PUK ou un autre code, que donne l’opérateur. Saisissez-le avec un téléphone ou avec mmcli.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>Ce modem ne peut pas envoyer de codes USSD. Choisissez-en un autre dans le menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager a abandonné ce modem. Débranchez-le et rebranchez-le ; le journal de ModemManager dit pourquoi.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>Il n’y a pas de modem. Branchez-en un ou choisissez la démonstration dans le menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>Il n’y a pas de carte SIM dans le modem. Insérez-en une et rebranchez le modem.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>La carte SIM est verrouillée : saisissez son code PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>Le modem est éteint. Il n’envoie aucun code tant qu’il n’est pas allumé.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>Saisir le PIN de la SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>4 à 8 chiffres. Il va à la SIM et n’est pas conservé.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>Saisir le code PI&amp;N…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -851,26 +729,6 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>La SIM n’a pas répondu à temps. Réessayez.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Messages du réseau</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, du réseau :</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>Le réseau attend une réponse. Saisissez-la dans le champ des codes et envoyez-la.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>Un menu est encore ouvert dans le réseau, mais son texte n’est plus connu. Répondez-y ou recommencez avec un code.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Fermer les messages</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -941,14 +799,6 @@ Il en existe une copie du %2. Voulez-vous la récupérer ? Le fichier incomplet 
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>Les codes de %1 sont maintenant utilisés.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Les codes de la démonstration sont maintenant utilisés.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>Les codes de %1 ne peuvent pas être utilisés : %2</translation>
     </message>
@@ -1000,52 +850,8 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>La carte SIM ou le modem est bloqué.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>Le réseau n’accepte pas cette carte SIM. Demandez à l’opérateur si elle est active, ou utilisez-en une autre.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager fonctionne mais ne répond pas. Patientez un instant ou redémarrez-le (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>Le modem a été retiré. Rebranchez-le.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Un autre programme utilise des codes sur ce modem.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>A&amp;llumer</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>Chercher à no&amp;uveau</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>Y &amp;mettre fin</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Codes d’un autre programme</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>Mettre fin à la session de l’autre programme, même s’il est peut-être en train d’acheter quelque chose ?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>Vous pouvez interrompre l’attente, mais le réseau exécutera peut-être quand même la commande.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>En attente : un autre programme doit d’abord en avoir fini avec le modem…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>Annule&amp;r</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1436,16 +1242,8 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Aucun : seulement le champ des codes</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>Aucun code d’opérateur n’est utilisé maintenant. Saisissez les codes dans le champ.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>Aucun code n’est configuré pour cette carte SIM. Saisissez un code dans le champ ou choisissez l’opérateur.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>&amp;Déterminer si la carte SIM est prépayée ou postpayée (envoie un code)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

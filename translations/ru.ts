@@ -417,36 +417,12 @@
         <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Сеть</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Язык</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Выход</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>&amp;Коды USSD</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Коды USSD в ок&amp;не</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>&amp;Предоплата</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>Постоп&amp;лата</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Услуги</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Поиск сети...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Оператор</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Уровень сигнала</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>SIM-карта</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Используемый источник</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -673,42 +633,12 @@
         <translation>Предоплата или постоплата? Запрос…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Вид договора</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>Для этой SIM-карты нет окон USSD.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Ваши собственные коды USSD</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>Файл с вашими собственными кодами USSD исчез:
-%1
-
-Есть его копия от %2. Вернуть её? Ответ «Нет» удалит копию.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Да, вернуть</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;Нет, удалить копию</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>Не удаётся записать %1. Копия остаётся на месте: %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>Файл с вашими собственными кодами USSD неполон:
-%1
-
-Есть его копия от %2. Вернуть её? Неполный файл тогда останется рядом. Ответ «Нет» удалит копию.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -759,64 +689,12 @@
         <translation>Источник: поиск модема…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>Системная шина сообщений (D-Bus) недоступна, поэтому модем не найден. Запустите службу dbus или выберите в меню демонстрацию.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager не запущен, поэтому модем не найден. Установите и запустите его (systemctl start ModemManager) или выберите в меню демонстрацию.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>Политика системы (polkit) не разрешает вам использовать модем. Попросите администратора разрешить вам org.freedesktop.ModemManager1.Device.Control и org.freedesktop.ModemManager1.USSD.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>Выбранного модема нет. Подключите его или выберите в меню другой.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>Это не PIN-код SIM-карты.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>PIN-код больше не снимает блокировку: SIM-карта или модем требует PUK или другой код, его сообщает оператор. Введите его с телефона или через mmcli.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>Этот модем не умеет отправлять USSD-коды. Выберите в меню другой.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager отказался от этого модема. Отключите и подключите его снова; причина — в журнале ModemManager.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>Модема нет. Подключите его или выберите в меню демонстрацию.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>В модеме нет SIM-карты. Вставьте её и подключите модем снова.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>SIM-карта заблокирована: введите её PIN-код.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>Модем выключен. Пока его не включат, он не отправляет коды.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>Введите PIN для SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>От 4 до 8 цифр. Он передаётся SIM и не сохраняется.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>Ввести PI&amp;N-код…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -849,26 +727,6 @@
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>SIM не ответила вовремя. Попробуйте ещё раз.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Сообщения сети</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, от сети:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>Сеть ждёт ответа. Введите его в поле для кодов и отправьте.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>В сети ещё открыто меню, но его текст уже неизвестен. Ответьте на него или начните заново с кода.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Закрыть сообщения</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -939,14 +797,6 @@
         <translation>&amp;Отмена</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>Теперь используются коды %1.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Теперь используются коды демонстрации.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>Коды %1 использовать нельзя: %2</translation>
     </message>
@@ -998,52 +848,8 @@
         <translation>SIM-карта или модем заблокированы.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>Сеть не принимает эту SIM-карту. Узнайте у оператора, активна ли она, или возьмите другую.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager запущен, но не отвечает. Подождите немного или перезапустите его (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>Модем отключён. Подключите его снова.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Другая программа использует коды на этом модеме.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>&amp;Включить</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>Ис&amp;кать снова</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>&amp;Завершить</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Коды другой программы</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>Завершить сеанс другой программы, хотя она, возможно, что-то покупает?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>Ожидание можно прервать, но сеть всё равно может выполнить команду.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>Ожидание, пока другая программа закончит работу с модемом…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>От&amp;мена</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1434,16 +1240,8 @@
         <translation>Никакие: только поле для кодов</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>Теперь коды оператора не используются. Вводите коды в поле.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>Для этой SIM-карты коды не настроены. Введите код в поле или выберите оператора.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>&amp;Узнать, предоплата или постоплата у SIM-карты (отправляет код)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

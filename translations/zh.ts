@@ -417,36 +417,12 @@
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>网络(&amp;N)</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>语言(&amp;L)</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>退出(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>USSD 代码(&amp;U)</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>在窗口中显示 USSD 代码(&amp;W)</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>预付费(&amp;P)</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>后付费(&amp;O)</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>服务(&amp;V)</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>正在搜索网络...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>运营商</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>信号强度</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>SIM 卡</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>当前来源</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -671,42 +631,12 @@
         <translation>预付费还是后付费？正在查询…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>合约类型</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>没有适用于此 SIM 卡的 USSD 窗口。</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>您自己的 USSD 代码</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>保存您自己的 USSD 代码的文件不见了：
-%1
-
-它有一份 %2 的副本。要恢复吗？选择“否”将删除副本。</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>是，恢复(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>否，删除副本(&amp;N)</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>无法写入 %1。副本仍保留在：%2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>保存您自己的 USSD 代码的文件不完整：
-%1
-
-它有一份 %2 的副本。要恢复吗？不完整的文件会保留在旁边。选择“否”将删除副本。</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -757,64 +687,12 @@
         <translation>来源：正在查找调制解调器…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>无法访问系统消息总线 (D-Bus)，因此找不到调制解调器。请启动 dbus 服务，或在菜单中选择演示。</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>ModemManager 未运行，因此找不到调制解调器。请安装并启动它 (systemctl start ModemManager)，或在菜单中选择演示。</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>系统策略 (polkit) 不允许您使用调制解调器。请管理员授予您 org.freedesktop.ModemManager1.Device.Control 和 org.freedesktop.ModemManager1.USSD 权限。</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>所选调制解调器不在。请连接它，或在菜单中选择另一个。</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>这不是 SIM 卡的 PIN 码。</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>PIN 码已不能解锁：SIM 卡或调制解调器需要 PUK 码或其他由运营商提供的代码。请用手机或 mmcli 输入。</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>此调制解调器不能发送 USSD 代码。请在菜单中选择另一个。</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>ModemManager 已放弃此调制解调器。请拔下再重新连接；原因见 ModemManager 日志。</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>没有调制解调器。请连接一个，或在菜单中选择演示。</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>调制解调器中没有 SIM 卡。请插入一张并重新连接调制解调器。</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>SIM 卡已锁定：请输入 PIN 码。</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>调制解调器已关闭。打开后才能发送代码。</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>输入 SIM 卡的 PIN</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>4 至 8 位数字。只发送给 SIM 卡，不会保存。</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>输入 PI&amp;N 码…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -847,26 +725,6 @@
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>SIM 卡没有及时响应。请重试。</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>网络消息</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1，来自网络：</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>网络在等待回答。请在代码栏中输入并发送。</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>网络中仍有一个菜单打开，但其文字已不可知。请回答，或用代码重新开始。</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>关闭消息</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -937,14 +795,6 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>现在使用 %1 的代码。</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>现在使用演示的代码。</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>无法使用 %1 的代码：%2</translation>
     </message>
@@ -996,52 +846,8 @@
         <translation>SIM 卡或调制解调器已锁定。</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>网络不接受这张 SIM 卡。请向运营商确认它是否已启用，或换一张卡。</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>ModemManager 正在运行但没有回应。请稍候，或重新启动它 (systemctl restart ModemManager)。</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>调制解调器已拔出。请重新连接。</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>另一个程序正在此调制解调器上使用代码。</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>打开(&amp;W)</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>重新查找(&amp;G)</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>结束(&amp;E)</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>另一个程序的代码</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>另一个程序可能正在购买，仍要结束它的会话吗？</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>您可以停止等待，但网络仍可能执行该命令。</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>正在等待另一个程序用完调制解调器…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>取消(&amp;L)</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1432,16 +1238,8 @@
         <translation>无：只有代码栏</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>现在不使用任何运营商的代码。请在代码栏中输入代码。</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>尚未为这张 SIM 卡设置代码。请在代码栏中输入代码，或选择运营商。</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>查明 SIM 卡是预付费还是后付费（会发送代码）(&amp;F)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

@@ -20,18 +20,23 @@ public:
     /// Sets the window that is the parent of frames and over which frames are centred. The window
     /// may be deleted at any time. mainWindow() then returns null.
     static void setMainWindow(QWidget *window);
+    /// Returns the main window, or null if there is none.
     static QWidget *mainWindow();
 
+    /// Sets the host's small mode, in which windows have no frames.
     static void setMiniMode(bool mini);
+    /// Returns true if the host runs in its small mode.
     static bool isMiniMode();
 
     /// Sets the flag that the host is shutting down. Must be called before the plug-ins are shut
     /// down. May be called from any thread.
     static void setShuttingDown(bool shuttingDown);
+    /// Returns true if the host is shutting down. May be called from any thread.
     static bool isShuttingDown();
 
     /// Sets the container. Must be called with null before the container is deleted.
     static void setPluginContainer(IPluginContainer *container);
+    /// Returns the container, or null if there is none.
     static IPluginContainer *pluginContainer();
 };
 

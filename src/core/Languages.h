@@ -15,7 +15,13 @@ namespace HostCore
 class Q_DECL_EXPORT Languages
 {
 public:
-    enum FileState { Whole, Missing, Damaged, NoSuchLanguage };
+    /// The state of a language file.
+    enum FileState {
+        Whole,         ///< the file can be used
+        Missing,       ///< the file does not exist
+        Damaged,       ///< the file has been changed since the build
+        NoSuchLanguage ///< the host does not know the language
+    };
 
     /// Returns the languages whose files are installed, in the order in which they are offered to
     /// the user. The list always contains English. May be called from any thread.

@@ -11,6 +11,7 @@
 #include "device/DashboardSettings.h"
 #include "device/DeviceWait.h"
 #include "device/DeviceWatcher.h"
+#include "device/Situation.h"
 #include "ExitCodes.h"
 #include "FailureText.h"
 #include "IUIPlugin.h"
@@ -43,8 +44,7 @@ int fail(const QString &text, int exitCode)
 /// Prints why the device cannot be used and returns the exit code.
 int failBecauseOf(const DeviceStatus &device)
 {
-    const QString advice = device.adviceText();
-    HostCore::printErrorLine(advice.isEmpty() ? device.troubleText() : advice);
+    HostCore::printErrorLine(situationAsText(situationOf(device, true, QString())));
     if (device.problem == TKSV_PROBLEM_NOT_PERMITTED)
         return Cli::EXIT_NOT_PERMITTED;
     if (device.state == TKSV_DEVICE_DISABLED && !device.isSimulated)

@@ -25,6 +25,7 @@
 extern "C" {
 #endif
 
+/** Exports a function from the library. */
 #define TKSV_API __attribute__((visibility("default")))
 
 /* ---- call-backs and events --------------------------------------------------------------- */
@@ -48,8 +49,8 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 #define TKSV_SMS_EVENT_STATUS_CHANGED 2 /* `data` is a TKSV_SMSStatus */
 
 /* Values of TKSV_SMSStatus::status. */
-#define TKSV_SMS_STATUS_CAN_SEND 7
-#define TKSV_SMS_STATUS_CANNOT_SEND 8
+#define TKSV_SMS_STATUS_CAN_SEND 7    /* short messages can be sent */
+#define TKSV_SMS_STATUS_CANNOT_SEND 8 /* short messages cannot be sent */
 
 /**
  * The value that TKSV_USSDSrv_Request stores in `*status` if the device did not respond in time.
@@ -83,8 +84,8 @@ typedef struct TKSV_USSDRequest {
  * command failed on the device, the text is empty and the type is not 0.
  */
 typedef struct TKSV_USSDResponse {
-    int type;
-    int reserved;
+    int type;               /* the <m> of +CUSD */
+    int reserved;           /* has no meaning */
     unsigned short text[1]; /* UTF-16 of any length, terminated by a zero code unit */
 } TKSV_USSDResponse;
 
@@ -93,11 +94,11 @@ typedef struct TKSV_USSDResponse {
  * to TKSV_SMSSrv_CreateSMSRecord. They are zero-terminated UTF-16 strings owned by the record.
  */
 typedef struct TKSV_SMSSendResult {
-    unsigned char reserved0[16];
-    int result; /* 0 if the message was sent, otherwise an error */
-    unsigned char reserved1[64];
-    const unsigned short *number;
-    const unsigned short *text;
+    unsigned char reserved0[16];  /* has no meaning */
+    int result;                   /* 0 if the message was sent, otherwise an error */
+    unsigned char reserved1[64];  /* has no meaning */
+    const unsigned short *number; /* the recipient */
+    const unsigned short *text;   /* the message */
 } TKSV_SMSSendResult;
 
 /** The record of an SMS event that reports whether short messages can be sent. */

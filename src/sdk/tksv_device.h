@@ -55,17 +55,17 @@ typedef enum TKSV_DeviceProblem {
  * truncated after a complete character.
  */
 typedef struct TKSV_DeviceInfo {
-    TKSV_Backend backend;
-    TKSV_DeviceState state;
-    TKSV_DeviceProblem problem;
-    int signalPercent;         /* signal strength, 0 to 100; -1 if unknown */
-    int canSendSMS;            /* 1 if short messages can be sent, otherwise 0 */
-    int pinRetries;            /* number of remaining PIN attempts; -1 if unknown */
-    char operatorName[128];    /* name of the network that the device is registered with */
-    char imsi[16];             /* the subscriber's IMSI, at most 15 digits (3GPP TS 23.003) */
-    char simOperatorCode[8];   /* MCC and MNC of the SIM's home network, 5 or 6 digits */
-    char simOperatorName[128]; /* service provider name (SPN) stored on the SIM */
-    char equipmentId[64];      /* identifier of the current modem; see TKSV_Modem */
+    TKSV_Backend backend;       /* the kind of device */
+    TKSV_DeviceState state;     /* the state of the device */
+    TKSV_DeviceProblem problem; /* why the device cannot be used, if a user can solve this */
+    int signalPercent;          /* signal strength, 0 to 100; -1 if unknown */
+    int canSendSMS;             /* 1 if short messages can be sent, otherwise 0 */
+    int pinRetries;             /* number of remaining PIN attempts; -1 if unknown */
+    char operatorName[128];     /* name of the network that the device is registered with */
+    char imsi[16];              /* the subscriber's IMSI, at most 15 digits (3GPP TS 23.003) */
+    char simOperatorCode[8];    /* MCC and MNC of the SIM's home network, 5 or 6 digits */
+    char simOperatorName[128];  /* service provider name (SPN) stored on the SIM */
+    char equipmentId[64];       /* identifier of the current modem; see TKSV_Modem */
     char source[1024];     /* path of the scenario file, or manufacturer and model of the modem */
     int isLooking;         /* 1 until ModemManager has first reported its modems, otherwise 0 */
     int hasForeignSession; /* 1 while a USSD session is open that another program opened */
@@ -106,10 +106,10 @@ TKSV_API long TKSV_Device_UseScenario(const char *path, char *message, unsigned 
  * identifier: its IMEI, or ModemManager's device identifier if the modem does not report its IMEI.
  */
 typedef struct TKSV_Modem {
-    char equipmentId[64]; /* never empty */
-    char name[256];       /* manufacturer and model */
-    int isInUse;          /* 1 if the modem is the current device, otherwise 0 */
-    TKSV_DeviceState state;
+    char equipmentId[64];   /* never empty */
+    char name[256];         /* manufacturer and model */
+    int isInUse;            /* 1 if the modem is the current device, otherwise 0 */
+    TKSV_DeviceState state; /* the state of the modem */
 } TKSV_Modem;
 
 /**
@@ -168,7 +168,7 @@ typedef enum TKSV_SessionState {
 
 /** A snapshot of the session. */
 typedef struct TKSV_SessionInfo {
-    TKSV_SessionState state;
+    TKSV_SessionState state;    /* the state of the session */
     unsigned long requestCount; /* number of requests that were accepted so far */
     char request[1024];         /* the newest accepted request, in UTF-8 */
 } TKSV_SessionInfo;
@@ -210,9 +210,9 @@ typedef enum TKSV_Failure {
 
 /** How the newest request failed. */
 typedef struct TKSV_FailureInfo {
-    TKSV_Failure reason;
-    int wasNotSent; /* 1 if the command certainly did not reach the network, otherwise 0 */
-    char text[512]; /* the network's closing text, in UTF-8; empty if unknown */
+    TKSV_Failure reason; /* the cause of the failure */
+    int wasNotSent;      /* 1 if the command certainly did not reach the network, otherwise 0 */
+    char text[512];      /* the network's closing text, in UTF-8; empty if unknown */
 } TKSV_FailureInfo;
 
 /**
@@ -252,7 +252,7 @@ typedef struct TKSV_NetworkText {
     time_t receivedAt;  /* in UTC */
     int waitsForAnswer; /* 1 if the next TKSV_USSDSrv_Request answers this message, unless the
                            request has the form of a code; otherwise 0 */
-    const char *text;
+    const char *text;   /* the message, in UTF-8 */
 } TKSV_NetworkText;
 
 /**

@@ -71,7 +71,7 @@ void InstallPathsTest::setUpClass()
     QVERIFY(QDir().mkpath(m_library));
     QVERIFY(QDir().mkpath(m_translations));
     QVERIFY(
-        QFile::copy(QLatin1String(HOSTCORE_FILE), m_library + QLatin1String("/libhostcore.so")));
+        QFile::copy(QLatin1String(HOSTCORE_FILE), m_library + QLatin1String("/libhostcore.so.1")));
     compile(QLatin1String("en"), message("BOTH", "both") + message("ONE", "english only"));
     compile(QLatin1String("de"), message("BOTH", "beide") + message("ONE", ""));
     store(m_translations + QLatin1String("/fr.qm"), "this is no language file");

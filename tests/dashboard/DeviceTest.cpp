@@ -62,6 +62,7 @@ void DeviceTest::tell(const TKSV_DeviceInfo &info)
     fakeSdkSetDeviceInfo(info);
     QVERIFY(fakeSdkWaitIdle());
     drainEvents();
+    drainEvents(); // shows the widgets that were made by the events before
 }
 
 void DeviceTest::tellModems(const std::vector<TKSV_Modem> &modems)

@@ -242,7 +242,9 @@ void ProgramTest::theWaitForADeviceEndsInWords()
                                "[*100#]\nReply=x\n",
                                "--send *100#");
     QCOMPARE(result.code, 3);
-    QCOMPARE(result.error, QLatin1String("Searching for a network...\n"));
+    QCOMPARE(result.error,
+             QLatin1String("Looking for a network. This can take a minute. Codes can be "
+                           "sent as soon as the network is found.\n"));
 }
 
 void ProgramTest::theDeviceInUseIsToldWhenAskedFor()

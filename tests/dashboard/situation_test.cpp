@@ -124,8 +124,8 @@ void SituationTest::noRemedyIsLost()
         const QByteArray what = describe(status).toLatin1();
         if (status.isSimulated)
             continue;
-        const bool mayBeEnabled = status.state == TKSV_DEVICE_DISABLED &&
-                                  status.problem != TKSV_PROBLEM_NOT_PERMITTED;
+        const bool mayBeEnabled =
+            status.state == TKSV_DEVICE_DISABLED && status.problem != TKSV_PROBLEM_NOT_PERMITTED;
         QVERIFY2(!status.waitsForPin() || remedies.contains(Remedy::EnterPin), what);
         QCOMPARE(remedies.contains(Remedy::Enable), mayBeEnabled);
         QVERIFY2(!status.mayBeFound() || remedies.contains(Remedy::LookAgain), what);

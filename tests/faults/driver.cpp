@@ -2,7 +2,7 @@
  * Simulates the user of a dashboard on a faulty machine. The driver is linked into
  * faulty_dashboard, which is otherwise identical to the dashboard program. The user reads the
  * window, answers message boxes and closes the window. Each observation is printed as a line on
- * standard output: "box: TEXT", "notice: TEXT" or "codes: LIST".
+ * standard output: "box: TEXT", "notice: TITLE: TEXT" or "codes: LIST".
  *
  *   USSD_USER_SAVES=CODE    adds the code in the editor and saves
  *   USSD_USER_SAYS=TEXT     presses the message-box button whose text begins with TEXT, or the
@@ -19,8 +19,8 @@
 #include <cstdio>
 
 #include "plugin/GeneralWindow.h"
+#include "window/Banners.h"
 #include "window/MainWindow.h"
-#include "window/NoticeBar.h"
 
 using namespace Dashboard;
 
@@ -134,9 +134,11 @@ private:
 
     static void tell()
     {
-        for (const NoticeBar *notice : mainWindow()->findChildren<NoticeBar *>()) {
-            if (notice->isVisible())
-                print("notice", notice->text());
+        const Banners *banners = mainWindow()->findChild<Banners *>();
+        for (int kind = Banners::Demonstration; kind <= Banners::Restore; ++kind) {
+            const Banner &banner = banners->banner(Banners::Kind(kind));
+            if (!banner.title.isEmpty())
+                print("notice", banner.title + QLatin1String(": ") + banner.text);
         }
         const QComboBox *combo = named<QComboBox>("USSDUIPlugin_AdvancedDialog_ProfilesCombo");
         QStringList names;

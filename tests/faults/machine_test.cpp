@@ -155,7 +155,8 @@ void MachineTest::withoutAHomeItSaysSo()
         set(name, nowhere);
     const Run result = run();
     QVERIFY2(result.isGood(), result.all().constData());
-    QVERIFY2(result.out.contains(text("notice: ") + nowhere), result.all().constData());
+    QVERIFY2(result.out.contains(text("notice: Something is not right: ") + nowhere),
+             result.all().constData());
     QVERIFY2(result.error.contains(nowhere), result.all().constData());
     QVERIFY2(result.error.contains(text("cannot be written")), result.all().constData());
 }

@@ -12,10 +12,12 @@
 #include "IUSSD.h"
 #include "Languages.h"
 #include "MessageHelper.h"
+#include "pages/MessagesPage.h"
+#include "pages/StateStrip.h"
 #include "sim/PaidTypeFinder.h"
 #include "SimTest.h"
 #include "tksv_device.h"
-#include "window/NoticeBar.h"
+#include "window/MessageParts.h"
 
 #include <csignal>
 
@@ -183,6 +185,9 @@ private:
     void openPage();
     QString ask(const QString &command);
     QWidget *openDialog(PAID_TYPE type, const char *name);
+    Message newestMessage();
+    /// Returns the visible button, or null if there is none.
+    QPushButton *shownRemedy(Remedy remedy);
     template <typename T>
     T *part(const QWidget *dialog, const char *role);
     QPushButton *openService(int row);
@@ -357,14 +362,35 @@ void EndToEndTest::theNetworksRefusal()
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
 
+Message EndToEndTest::newestMessage()
+{
+    return window().findChild<MessageParts *>()->store().newest();
+}
+
+QPushButton *EndToEndTest::shownRemedy(Remedy remedy)
+{
+    const QString name = QString::fromLatin1("Dashboard_Remedy_%1").arg(int(remedy));
+    for (QPushButton *button : window().findChildren<QPushButton *>(name)) {
+        if (button->isVisible())
+            return button;
+    }
+    return nullptr;
+}
+
 void EndToEndTest::aMessageOfTheNetworkIsShown()
 {
     openPage();
-    QWidget *panel = window().findChild<QWidget *>(QLatin1String("Dashboard_NetworkTexts"));
-    QVERIFY(panel && !panel->isVisible());
+    const QPushButton *messages = button("Dashboard_NavMessages");
+    const QString before = messages->accessibleDescription();
     fake().sayUssd(0, "Your <b>bonus</b> is here.");
-    QTRY_VERIFY(panel->isVisible());
-    QVERIFY(shownText(panel).contains(QLatin1String("Your <b>bonus</b> is here.")));
+    QTRY_VERIFY(messages->accessibleDescription() != before);
+    QVERIFY(messages->accessibleDescription().contains(QLatin1String("unread")));
+    window().showPage(PageId::Messages);
+    window().findChild<MessagesPage *>()->open(newestMessage().id);
+    const QWidget *reader = window().findChild<QWidget *>(QLatin1String("Dashboard_MessageReader"));
+    QVERIFY(reader->isVisible());
+    QVERIFY(shownText(reader).contains(QLatin1String("Your <b>bonus</b> is here.")));
+    window().showPage(PageId::Codes);
     QCOMPARE(page().lastReceived(), QString());
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
@@ -372,9 +398,8 @@ void EndToEndTest::aMessageOfTheNetworkIsShown()
 void EndToEndTest::aQuestionOfTheNetworkIsAnswered()
 {
     openPage();
-    QWidget *panel = window().findChild<QWidget *>(QLatin1String("Dashboard_NetworkTexts"));
     fake().sayUssd(1, "A gigabyte for 1 EUR?");
-    QTRY_VERIFY(shownText(panel).contains(QLatin1String("A gigabyte for 1 EUR?")));
+    QTRY_COMPARE(newestMessage().text, QLatin1String("A gigabyte for 1 EUR?"));
     QTRY_VERIFY(page().isComplete());
     QVERIFY(page().send(QLatin1String("1")));
     QVERIFY(fake().waitForCommand("AT+CUSD=1,\"0031\""));
@@ -557,13 +582,14 @@ void EndToEndTest::theWindowLeavesTheSessionOfAnotherProgramAlone()
     fake().forgetReceived();
     openDashboard();
     QVERIFY(waitForRegistration());
-    const QPushButton *end = button("Dashboard_EndForeignSessionButton");
-    QTRY_VERIFY(end->isVisible());
-    QCOMPARE(ask(QLatin1String("*100#")), QLatin1String(USSD_FAILED));
-    const NoticeBar *why =
-        window().findChild<NoticeBar *>(QLatin1String("Dashboard_CommandNotice"));
-    QTRY_VERIFY2(why->text().startsWith(QLatin1String("Another program is using codes")),
-                 qPrintable(why->text()));
+    window().showPage(PageId::Codes);
+    QTRY_VERIFY(shownRemedy(Remedy::EndForeignSession));
+    const StateStrip *why = window().findChild<StateStrip *>();
+    QVERIFY(why->isBlocked());
+    QCOMPARE(why->title(), QLatin1String("Another program is using codes"));
+    QTRY_VERIFY(page().isComplete());
+    QVERIFY(!page().commandEdit()->isEnabled());
+    QVERIFY(!page().send(QLatin1String("*100#")));
     closeDashboard();
     QCOMPARE(fake().timesReceived("AT+CUSD="), 0);
 }
@@ -573,10 +599,10 @@ void EndToEndTest::theRadioStaysOff()
     QVERIFY(m_world->switchOff("one"));
     fake().forgetReceived();
     openDashboard();
-    QPushButton *enable = button("Dashboard_EnableButton");
-    QTRY_VERIFY(enable->isVisible());
+    window().showPage(PageId::Codes);
+    QTRY_VERIFY(shownRemedy(Remedy::Enable));
     QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
-    QTest::mouseClick(enable, Qt::LeftButton);
+    QTest::mouseClick(shownRemedy(Remedy::Enable), Qt::LeftButton);
     QVERIFY(waitForRegistration());
 }
 

@@ -15,7 +15,7 @@ fi
 # The plug-in may link only to Qt, the core library, the device SDK, and the compiler and C
 # libraries.
 if readelf -d "$1" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' |
-    grep -vE '^(libQt5(Core|Gui|Widgets)\.so|libQt6(Core|Core5Compat|Gui|Widgets)\.so|libhostcore\.so|libtksv\.so|libstdc\+\+|libgcc_s|libm\.|libc\.|ld-linux|lib(a|ub|t)san)'; then
+    grep -vE '^(libQt5(Core|Gui|Widgets)\.so|libQt6(Core|Core5Compat|Gui|Widgets)\.so|libhostcore\.so\.1|libtksv\.so\.1|libstdc\+\+|libgcc_s|libm\.|libc\.|ld-linux|lib(a|ub|t)san)'; then
     echo "the plug-in links to what stands above" >&2
     exit 1
 fi

@@ -22,6 +22,7 @@ private slots:
     void savedFileIsReadAgain();
     void savingDoesNotReload();
     void permissionCallHasNoEffect();
+    void linkedSystemFileIsSavedBehindTheLink();
 
     // ---- folders and disks
     void failedOpenIs25AndLeavesNoFile();
@@ -101,6 +102,21 @@ void ProfileSavingTest::permissionCallHasNoEffect()
     QCOMPARE(store.saveToXMLFile(false), 0);
     QVERIFY(QFile::permissions(userFile()).testFlag(QFile::ReadOwner));
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
+}
+
+/// Tests the files of an installation, where the plug-in's folder links to the configuration in
+/// /etc. Saving must not replace the link, which belongs to a package, with a file.
+void ProfileSavingTest::linkedSystemFileIsSavedBehindTheLink()
+{
+    const QString target = folder() + latin1("/configured.xml");
+    write(target, profileFile(profileItem("S", "*1#") + profileItem("T", "*3#")));
+    QFile::remove(systemFile());
+    QVERIFY(QFile::link(target, systemFile()));
+    USSDEditCmd store;
+    write(target, QByteArray());
+    QCOMPARE(store.saveToXMLFile(true), 0);
+    QCOMPARE(QFile::symLinkTarget(systemFile()), target);
+    QCOMPARE(codes(readBack(contentOf(target))), (QStringList{latin1("*1#"), latin1("*3#")}));
 }
 
 // ---- folders and disks --------------------------------------------------------------------------

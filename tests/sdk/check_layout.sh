@@ -8,8 +8,14 @@ header=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
+# Compilers for other processors than x86 do not know the option -m.
+case $("$compiler" -dumpmachine) in
+x86_64* | i?86*) machine=-m$bits ;;
+*) machine= ;;
+esac
+
 compiles() {
-    "$compiler" -m"$bits" -std=c11 -Wall -Wextra -Werror -fsyntax-only -x c "$1"
+    "$compiler" $machine -std=c11 -Wall -Wextra -Werror -fsyntax-only -x c "$1"
 }
 
 {

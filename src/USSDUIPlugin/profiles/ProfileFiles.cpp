@@ -30,12 +30,21 @@ QString parentDirectory(const QString &path)
     return path.left(path.lastIndexOf(QLatin1Char('/')));
 }
 
+/// Returns the path of the file to which the path links. An installation links to its configuration
+/// in /etc. Saving profiles deletes their file, and must not delete the link instead.
+QString linkTarget(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return QFileInfo(path).isSymLink() && !target.isEmpty() ? target : path;
+}
+
 } // namespace
 
 void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
 {
     USSD_LOG_SCOPE();
-    path = PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES);
+    path = linkTarget(
+        PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES));
     USSD_LOG_EXIT(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
 }
 

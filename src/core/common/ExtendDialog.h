@@ -33,6 +33,7 @@ signals:
     void dlgCloseEvent();
 
 protected:
+    /// Emits dlgCloseEvent().
     void closeEvent(QCloseEvent *event) override;
 };
 

@@ -35,62 +35,6 @@ const char *trouble(const DeviceStatus &status)
     }
 }
 
-/// Returns the text key of the advice on a problem, or null if there is no problem.
-const char *adviceOnProblem(int problem)
-{
-    switch (problem) {
-    case TKSV_PROBLEM_NO_BUS:
-        return "ADVICE_NO_BUS";
-    case TKSV_PROBLEM_NO_SERVICE:
-        return "ADVICE_NO_SERVICE";
-    case TKSV_PROBLEM_NOT_PERMITTED:
-        return "ADVICE_NOT_PERMITTED";
-    case TKSV_PROBLEM_CHOSEN_ABSENT:
-        return "ADVICE_CHOSEN_ABSENT";
-    case TKSV_PROBLEM_WRONG_PIN:
-        return "ADVICE_WRONG_PIN";
-    case TKSV_PROBLEM_PUK_NEEDED:
-        return "ADVICE_PUK_NEEDED";
-    case TKSV_PROBLEM_NO_USSD:
-        return "ADVICE_NO_USSD";
-    case TKSV_PROBLEM_MODEM_FAILED:
-        return "ADVICE_MODEM_FAILED";
-    case TKSV_PROBLEM_REGISTRATION_DENIED:
-        return "ADVICE_REGISTRATION_DENIED";
-    case TKSV_PROBLEM_SERVICE_SILENT:
-        return "ADVICE_SERVICE_SILENT";
-    case TKSV_PROBLEM_MODEM_REMOVED:
-        return "ADVICE_MODEM_REMOVED";
-    default:
-        return nullptr;
-    }
-}
-
-/// Returns the text key of the advice on the state of a modem, or null if the user cannot do
-/// anything. There is no advice for a simulated device, because it becomes ready again by itself.
-const char *adviceOnState(const DeviceStatus &status)
-{
-    if (status.state == TKSV_DEVICE_SIM_LOCKED)
-        return "ADVICE_SIM_LOCKED";
-    if (status.isSimulated)
-        return nullptr;
-    switch (status.state) {
-    case TKSV_DEVICE_ABSENT:
-        return status.isLooking ? nullptr : "ADVICE_NO_MODEM";
-    case TKSV_DEVICE_SIM_MISSING:
-        return "ADVICE_SIM_MISSING";
-    case TKSV_DEVICE_DISABLED:
-        return "ADVICE_DISABLED";
-    default:
-        return nullptr;
-    }
-}
-
-QString sentences(const QString &first, const QString &second)
-{
-    return second.isEmpty() ? first : first + QLatin1Char(' ') + second;
-}
-
 } // namespace
 
 bool DeviceStatus::operator==(const DeviceStatus &other) const
@@ -156,18 +100,6 @@ QString DeviceStatus::simText() const
     if (state != TKSV_DEVICE_SEARCHING && trouble(*this))
         return troubleText();
     return imsi.isEmpty() ? dashboardText("SIM_WITHOUT_IMSI") : dashboardText("SIM_IMSI").arg(imsi);
-}
-
-QString DeviceStatus::adviceText() const
-{
-    const char *key = adviceOnProblem(problem);
-    if (!key)
-        key = adviceOnState(*this);
-    if (!key && hasForeignSession)
-        key = "ADVICE_FOREIGN_SESSION";
-    if (!key)
-        return QString();
-    return sentences(dashboardText(key), waitsForPin() ? triesText() : QString());
 }
 
 QString DeviceStatus::triesText() const

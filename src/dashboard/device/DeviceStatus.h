@@ -38,9 +38,6 @@ struct DeviceStatus {
     QString simText() const;
     /// Returns the reason why commands cannot be sent, or an empty string if they can be sent.
     QString troubleText() const;
-    /// Returns a description of the problem and of the action that the user can take. Returns an
-    /// empty string if the user cannot solve the problem.
-    QString adviceText() const;
     /// Returns a message with the number of remaining PIN attempts, which includes a warning before
     /// the last attempt. Returns an empty string if the number is unknown.
     QString triesText() const;

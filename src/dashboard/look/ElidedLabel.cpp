@@ -1,6 +1,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 #include "Controls.h"
 
@@ -52,7 +53,8 @@ void ElidedLabel::changeEvent(QEvent *event)
 void ElidedLabel::updateToolTip()
 {
     const bool isElided = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-    setToolTip(isElided ? text() : QString());
+    const QString plain = Qt::mightBeRichText(text()) ? text().toHtmlEscaped() : text();
+    setToolTip(isElided ? plain : QString());
 }
 
 } // namespace Dashboard

@@ -50,7 +50,7 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
       m_area(new GeneralArea(parts.plugin)),
       m_historyPopup(new HistoryPopup(parts.history, parts.names, this)), m_card(makeCard(this)),
       m_narrowButtons(new QWidget(this)), m_codesButton(nullptr), m_topUpButton(nullptr),
-      m_column(new QVBoxLayout(this))
+      m_narrowRow(new QHBoxLayout(m_narrowButtons)), m_column(new QVBoxLayout(this))
 {
     m_situation.canSend = true;
     makeNarrowButtons();
@@ -82,12 +82,28 @@ void CodesPage::makeNarrowButtons()
     setButtonIcon(m_topUpButton, "topup", Token::Text2);
     connect(m_codesButton, &QPushButton::clicked, this, &CodesPage::showCodesSheet);
     connect(m_topUpButton, &QPushButton::clicked, this, &CodesPage::showTopUpSheet);
-    QHBoxLayout *row = new QHBoxLayout(m_narrowButtons);
-    row->setContentsMargins(0, 0, 0, 0);
-    setSpacing(row, 8);
-    row->addWidget(m_codesButton);
-    row->addWidget(m_topUpButton);
-    row->addStretch(1);
+    m_narrowRow->setContentsMargins(0, 0, 0, 0);
+    setSpacing(m_narrowRow, 8);
+    m_narrowRow->addWidget(m_codesButton);
+    m_narrowRow->addWidget(m_topUpButton);
+}
+
+/// Places the buttons side by side, or one below the other if the page is too narrow for that.
+void CodesPage::placeNarrowButtons()
+{
+    const int codes = m_codesButton->sizeHint().width();
+    const int topUp = m_topUpButton->sizeHint().width();
+    const QMargins margins = m_column->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    const bool isRow = codes + m_narrowRow->spacing() + topUp <= room;
+    m_narrowRow->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_narrowButtons->setMinimumWidth(qMax(codes, topUp));
+}
+
+void CodesPage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    placeNarrowButtons();
 }
 
 void CodesPage::makeLayout()
@@ -112,6 +128,7 @@ void CodesPage::setForm(Form form)
         setMargins(m_column, 24, 20, 24, 20);
     setSpacing(m_column, 10);
     m_narrowButtons->setVisible(isNarrow);
+    placeNarrowButtons();
     m_strip->setForm(form);
     m_strip->setOwnWindowOffered(Look::instance().scale() <= LARGEST_SCALE_OF_A_FRAME);
     m_area->setCompact(isNarrow);
@@ -121,6 +138,7 @@ void CodesPage::retranslate()
 {
     m_codesButton->setText(dashboardText("SHEET_CODES"));
     m_topUpButton->setText(dashboardText("SHEET_TOP_UP"));
+    placeNarrowButtons();
     m_strip->retranslate();
     updateRecent();
 }

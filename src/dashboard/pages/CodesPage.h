@@ -72,9 +72,13 @@ signals:
     void ownWindowRequested();
     void remedyChosen(Dashboard::Remedy remedy);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void makeLayout();
     void makeNarrowButtons();
+    void placeNarrowButtons();
     void makeShortcuts();
     QAction *addShortcut(const char *name, const QKeySequence &key,
                          const std::function<void()> &action);
@@ -97,6 +101,7 @@ private:
     QWidget *m_narrowButtons;
     QPushButton *m_codesButton;
     QPushButton *m_topUpButton;
+    QBoxLayout *m_narrowRow;
     QBoxLayout *m_column;
     QList<QAction *> m_shortcuts;
     Situation m_situation;

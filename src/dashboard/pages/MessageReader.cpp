@@ -166,6 +166,12 @@ void AnswerBox::setUsable(bool isUsable)
     onEdited();
 }
 
+void AnswerBox::setNarrow(bool isNarrow)
+{
+    m_isNarrow = isNarrow;
+    retranslate();
+}
+
 void AnswerBox::clear()
 {
     m_field->clear();
@@ -178,7 +184,8 @@ void AnswerBox::retranslate()
     m_field->setAccessibleName(hint);
     m_send->setText(dashboardText("MESSAGE_SEND"));
     m_costs->setText(dashboardText("MESSAGE_COSTS"));
-    m_end->setText(dashboardText("MESSAGE_END"));
+    m_end->setText(dashboardText(m_isNarrow ? "STRIP_END_MENU" : "MESSAGE_END"));
+    m_end->setAccessibleName(dashboardText("MESSAGE_END"));
 }
 
 void AnswerBox::onEdited()
@@ -241,7 +248,7 @@ MessageReader::MessageReader(QWidget *parent)
     connect(m_back, &QPushButton::clicked, this, &MessageReader::backRequested);
     connect(m_copy, &QPushButton::clicked, this, &MessageReader::copy);
     connect(m_delete, &QPushButton::clicked, this, &MessageReader::deleteRequested);
-    setBackVisible(false);
+    setNarrow(false);
     setMessage(Message(), false, QString());
 }
 
@@ -278,9 +285,10 @@ void MessageReader::setMessage(const Message &message, bool isWaiting, const QSt
     retranslate();
 }
 
-void MessageReader::setBackVisible(bool isVisible)
+void MessageReader::setNarrow(bool isNarrow)
 {
-    m_back->setVisible(isVisible);
+    m_back->setVisible(isNarrow);
+    m_answers->setNarrow(isNarrow);
 }
 
 void MessageReader::retranslate()

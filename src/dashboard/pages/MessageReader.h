@@ -57,6 +57,8 @@ public:
     void setChoices(const QList<MenuChoice> &choices);
     /// Enables the box if the answer can be sent now.
     void setUsable(bool isUsable);
+    /// Uses a short text for the button that ends the session.
+    void setNarrow(bool isNarrow);
     /// Clears the field.
     void clear();
     void retranslate();
@@ -76,6 +78,7 @@ private:
     QLabel *m_costs;
     QPushButton *m_end;
     bool m_hasChoices = false;
+    bool m_isNarrow = false;
 };
 
 /** Shows one message as plain text, with the buttons for it. */
@@ -89,7 +92,8 @@ public:
     void setMessage(const Message &message, bool isWaiting, const QString &day);
     const Message &message() const { return m_message; }
     AnswerBox *answerBox() const { return m_answers; }
-    void setBackVisible(bool isVisible);
+    /// Offers to go back to the list, and uses short texts.
+    void setNarrow(bool isNarrow);
     void retranslate();
 
 signals:

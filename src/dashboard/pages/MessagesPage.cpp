@@ -282,8 +282,10 @@ void MessagesPage::setForm(Form form)
 {
     m_form = form;
     const bool isNarrow = form == Form::Narrow;
-    setMargins(layout(), isNarrow ? 16 : 24, isNarrow ? 12 : 16, isNarrow ? 16 : 24,
-               isNarrow ? 12 : 20);
+    if (isNarrow)
+        setMargins(layout(), 8, 12, 8, 12);
+    else
+        setMargins(layout(), 24, 16, 24, 20);
     showParts();
 }
 
@@ -294,7 +296,7 @@ void MessagesPage::showParts()
     m_markAll->setVisible(!isNarrow || !m_isReading);
     m_listSide->setVisible(!isNarrow || !m_isReading);
     m_reader->setVisible(!isNarrow || m_isReading);
-    m_reader->setBackVisible(isNarrow);
+    m_reader->setNarrow(isNarrow);
     const int width = Look::instance().px(LIST_WIDTH);
     m_listSide->setMinimumWidth(0);
     m_listSide->setMaximumWidth(isNarrow ? QWIDGETSIZE_MAX : width);

@@ -38,7 +38,7 @@ PageColumn::PageColumn(int widest, QWidget *parent)
 
 void PageColumn::setForm(Form form)
 {
-    const int side = form == Form::Narrow ? 16 : 24;
+    const int side = form == Form::Narrow ? 8 : 24;
     const int end = form == Form::Narrow ? 12 : 20;
     setMargins(m_row, side, end, side, end);
     m_row->setSpacing(0);

@@ -90,7 +90,10 @@ void Banners::layOut()
     m_grid->addWidget(m_icon, 0, 0, 2, 1);
     m_grid->addWidget(m_title, 0, 1, 1, columns, Qt::AlignBottom);
     m_grid->addWidget(m_text, 1, 1, 1, columns, Qt::AlignTop);
-    m_grid->addWidget(m_action, hasTwoRows ? 2 : 0, 2, hasTwoRows ? 1 : 2, 1);
+    if (hasTwoRows)
+        m_grid->addWidget(m_action, 2, 0, 1, 3, Qt::AlignRight);
+    else
+        m_grid->addWidget(m_action, 0, 2, 2, 1);
     m_grid->addWidget(m_close, hasTwoRows ? 2 : 0, 3, hasTwoRows ? 1 : 2, 1);
     m_grid->setColumnStretch(1, 1);
     setMargins(m_grid, isNarrow ? 16 : 24, 8, 16, 8);

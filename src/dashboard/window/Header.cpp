@@ -132,7 +132,7 @@ void Header::showContent(const HeaderContent &content)
     m_bars->setPercent(content.signalPercent);
     m_signal->setText(m_bars->word());
     m_signal->setToolTip(m_bars->toolTip());
-    m_signal->setVisible(!isNarrow && content.signalPercent >= 0);
+    m_signal->setVisible(m_form == Form::Wide && content.signalPercent >= 0);
     m_dot->setTone(content.tone);
     placeDot();
     showSim();

@@ -49,6 +49,16 @@ Form formOf(int width)
     return width >= MEDIUM_FROM * em ? Form::Medium : Form::Narrow;
 }
 
+/// Makes Qt ask for all sizes again. It keeps the former sizes of the parts of hidden pages, and
+/// the window could not become smaller than those.
+void forgetSizes(QWidget *root)
+{
+    for (QLayout *layout : root->findChildren<QLayout *>()) {
+        layout->invalidate();
+        layout->parentWidget()->updateGeometry();
+    }
+}
+
 bool isFrameOpen()
 {
     for (const QWidget *window : QApplication::topLevelWidgets()) {
@@ -150,6 +160,7 @@ void MainWindow::applyForm()
     for (Page *page : m_pages)
         page->setForm(m_form);
     m_firstRun->setForm(m_form);
+    forgetSizes(m_root);
 }
 
 // The form stays while a frame of the plug-in is open, because the frame is placed over the window.

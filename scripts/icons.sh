@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Draws the PNG files of the program's icon from the SVG file. Requires the package librsvg2-bin.
+set -eu
+cd "$(dirname "$0")/../desktop/icons"
+for size in 16 22 24 32 48 64 128 256; do
+    rsvg-convert --width "$size" --height "$size" ussd-dashboard.svg --output "ussd-dashboard-$size.png"
+done

@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# Builds the Debian packages of the working tree, and checks them with lintian. docs/building.md lists
+# the packages.
+#   scripts/package.sh [--version VERSION] [--check-reproducible] [FOLDER]
+# FOLDER, which is build/packages by default, receives the packages. --version builds another version
+# than the first one in debian/changelog. --check-reproducible builds a second time under different
+# conditions, and compares all packages byte for byte.
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/prepare.sh
+. scripts/minimal_system.sh
+
+version=
+check_reproducible=
+while [ $# -gt 0 ]; do
+    case $1 in
+    --version)
+        version=$2
+        shift
+        ;;
+    --check-reproducible) check_reproducible=yes ;;
+    -*)
+        say "$0: unknown option $1"
+        exit 2
+        ;;
+    *) break ;;
+    esac
+    shift
+done
+output=$(realpath -m "${1:-build/packages}")
+
+# add_version FOLDER: adds an entry for $version to the changelog of the source tree in FOLDER.
+add_version()
+{
+    local changelog=$1/debian/changelog
+    {
+        printf 'ussd-ui-plugin (%s) unstable; urgency=medium\n\n  * Version for tests.\n\n' "$version"
+        grep -m 1 '^ -- ' "$changelog"
+        echo
+        cat "$changelog"
+    } >"$changelog.new"
+    mv "$changelog.new" "$changelog"
+}
+
+# build_in FOLDER: builds the packages from a copy of the working tree in FOLDER/source. They are put
+# into FOLDER.
+build_in()
+{
+    copy_source_tree "$1/source"
+    [ -z "$version" ] || add_version "$1/source"
+    (cd "$1/source" && DEB_BUILD_OPTIONS="parallel=$(nproc) terse" dpkg-buildpackage --build=binary --no-sign)
+}
+
+# build_differently FOLDER: builds under other conditions than build_in, which must not matter.
+build_differently()
+{
+    (
+        umask 0027
+        export TZ=Pacific/Kiritimati LC_ALL=C USER=somebody-else
+        build_in "$1/another/folder"
+    )
+}
+
+# compare FOLDER: compares the packages in FOLDER with those in $work.
+compare()
+{
+    local package differences=0
+    for package in "$work"/*.deb; do
+        cmp "$package" "$1/${package##*/}" || differences=$((differences + 1))
+    done
+    [ "$differences" -eq 0 ] || { say "$differences package(s) differ between two builds"; return 1; }
+    say "All packages of two builds are equal byte for byte."
+}
+
+install_missing_packages run qt5 validate package
+mkdir -p build "$output"
+work=$PWD/build/package # always the same path, so that ccache finds the results of an earlier build
+rm -rf "$work"
+mkdir "$work"
+follow build/package.log build_in "$work"
+lintian --fail-on error,warning --allow-root "$work"/*.changes
+if [ -n "$check_reproducible" ]; then
+    follow build/package-again.log build_differently "$work"
+    compare "$work/another/folder"
+fi
+cp "$work"/*.deb "$work"/*.changes "$work"/*.buildinfo "$output"
+say "The packages are in $output."

@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Checks the menu entry, the description for software centres and the icons. Also checks that the
+# version is the same everywhere. Exits with status 77, which CTest counts as skipped, if a validator
+# is not installed and no fault was found.
+. "$(dirname "$0")/common.sh"
+entry=desktop/ussd-dashboard.desktop
+metainfo=desktop/org.ussd_dashboard.dashboard.metainfo.xml
+skipped=
+
+# validate COMMAND FILE: complains about the output of the validator if it rejects the file.
+validate() {
+    local said
+    if ! command -v "${1%% *}" >/dev/null; then
+        skipped="$skipped ${1%% *}"
+    elif ! said=$($1 "$2" 2>&1) || grep -qE '^[^ ]*: (error|warning|hint)' <<<"$said"; then
+        complain "$said"
+    fi
+}
+
+# number_at FILE OFFSET: prints the 32-bit number at the offset of a PNG file.
+number_at() {
+    od -An -tu1 -j "$2" -N 4 "$1" | awk '{ print (($1 * 256 + $2) * 256 + $3) * 256 + $4 }'
+}
+
+check_icon() {
+    local size=${1%.png}
+    size=${size##*-}
+    [ "$(number_at "$1" 16)x$(number_at "$1" 20)" = "${size}x$size" ] || complain "$1: is not $size pixels wide and high"
+}
+
+validate desktop-file-validate "$entry"
+validate "appstreamcli validate --pedantic --no-net" "$metainfo"
+for icon in desktop/icons/*.png; do
+    check_icon "$icon"
+done
+version=$(sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+grep -q "<release version=\"$version\"" "$metainfo" || complain "$metainfo: no release $version"
+head -n 1 debian/changelog | grep -qF "($version)" || complain "debian/changelog: the version is not $version"
+program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$entry" | sort -u)
+[ "$program" = ussd-dashboard ] || complain "$entry: starts $program"
+grep -q "<binary>$program</binary>" "$metainfo" || complain "$metainfo: does not provide $program"
+[ "$faults" -gt 0 ] || [ -z "$skipped" ] || { printf 'not installed:%s\n' "$skipped"; exit 77; }
+finish

@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Tests that the installation has the layout of the Filesystem Hierarchy Standard, and that the programs
+# still find all files after the installation has been moved.
+. "$(dirname "$0")/installation.sh"
+
+# is_there FILE...: requires that each file exists in the installation.
+is_there() {
+    local file
+    for file in "$@"; do
+        [ -s "$prefix/$file" ] || complain "not installed: $file"
+    done
+}
+
+run cmake --install "$build" --prefix "$work/first"
+mkdir -p "$work/elsewhere"
+prefix=$work/elsewhere/installed
+mv "$work/first" "$prefix"
+lib=$(cd "$prefix" && dirname "$(find lib* -name libtksv.so.1)")
+
+is_there bin/ussd bin/ussd-dashboard bin/ussd-config bin/ussd-provision \
+    "$lib/libtksv.so.1" "$lib/libhostcore.so.1" "$lib/libtksv.so" "$lib/libhostcore.so" \
+    "$lib/ussd-dashboard/plugins/USSDUIPlugin/libUSSDUIPlugin.so" \
+    etc/ussd-dashboard/USSDPluginConfig.xml etc/ussd-dashboard/ussdsysprofile.xml \
+    share/ussd-dashboard/plain/plugins/USSDUIPlugin/USSDPluginConfig.xml \
+    share/ussd-dashboard/translations/de.qm share/ussd-dashboard/scenarios/default.scenario \
+    share/applications/ussd-dashboard.desktop share/icons/hicolor/scalable/apps/ussd-dashboard.svg \
+    share/icons/hicolor/48x48/apps/ussd-dashboard.png \
+    share/metainfo/org.ussd_dashboard.dashboard.metainfo.xml \
+    share/man/man1/ussd.1 share/bash-completion/completions/ussd share/zsh/vendor-completions/_ussd \
+    share/doc/ussd-ui-plugin/LICENSE share/doc/ussd-ui-plugin/CHANGELOG.md \
+    include/tksv/tksv.h include/ussd-ui-plugin/IUIPlugin.h
+
+for file in USSDPluginConfig.xml ussdsysprofile.xml; do
+    link=$prefix/$lib/ussd-dashboard/plugins/USSDUIPlugin/$file
+    [ -L "$link" ] && [ "$(readlink -f "$link")" = "$(readlink -f "$prefix")/etc/ussd-dashboard/$file" ] ||
+        complain "$link does not link to the configuration"
+done
+
+# The pictures of the tour are taken in the source tree only.
+tour=$(find "$prefix" -iname '*tour*')
+[ -z "$tour" ] || complain "files of the tour are installed: $tour"
+
+# A path of the build tree in a program would be meaningless on another machine.
+for file in "$prefix"/bin/* "$prefix/$lib"/*.so.1 "$prefix/$lib/ussd-dashboard/plugins/USSDUIPlugin/libUSSDUIPlugin.so"; do
+    if readelf -d "$file" | grep -E 'R(UN)?PATH' | grep -qF "$source_tree"; then
+        complain "$file searches for libraries in the source tree"
+    fi
+done
+
+expect 'Your balance is' "$prefix/bin/ussd" send --demo '*100#'
+expect 'Your balance is' "$prefix/bin/ussd-dashboard" --demo --send '*100#'
+finish
