@@ -183,6 +183,7 @@ large_letters()
     say 'letters twice as large'
     start --demo --language en
     wait_for '^page tab "Home" \[selected\]'
+    resize 1120 720
     key ctrl+comma
     click '^check box "Light"'
     click '^check box "200.%"'
@@ -197,41 +198,53 @@ large_letters()
     quit
 }
 
-# Under Wayland, only keys are used.
-wayland()
+# Starts a compositor with this backend, and the program in it.
+start_in_wayland()
 {
-    say 'Wayland'
-    weston --backend=x11-backend.so --width=1300 --height=850 --socket=drive --idle-time=0 \
-        >"$pictures/weston.log" 2>&1 &
-    local compositor=$!
-    xdotool search --sync --onlyvisible --name 'Weston Compositor' windowfocus >/dev/null
-    QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=drive "$program" --language en --verbose \
-        --scenario "$sources/drive.scenario" >"$pictures/wayland.log" 2>&1 &
+    printf '[shell]\npanel-position=none\n' >"$HOME/weston.ini"
+    weston --config="$HOME/weston.ini" --backend="$1" --width=1300 --height=850 --socket="$2" \
+        --idle-time=0 >"$pictures/$2.log" 2>&1 &
+    compositor=$!
+    until_logged "$2.log" 'launching'
+    QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=$2 "$program" --language en --verbose \
+        --scenario "$sources/drive.scenario" >"$pictures/$2-program.log" 2>&1 &
     pid=$!
-    until_logged 'plug-in'
-    picture wayland
-    key ctrl+l
-    type_text '*100#'
-    key Return
-    until_logged 'Your balance is'
-    picture wayland-code
-    key ctrl+q
-    wait "$pid"
-    pid=
-    kill $compositor
+    until_logged "$2-program.log" 'received response'
 }
 
 until_logged()
 {
     local tries=0
-    until grep -q "$1" "$pictures/wayland.log"; do
+    until grep -q "$2" "$pictures/$1" 2>/dev/null; do
         tries=$((tries + 1))
         [ $tries -lt 150 ] || {
-            echo "$0: the log lacks: $1" >&2
+            echo "$0: $1 lacks: $2" >&2
             exit 1
         }
         sleep 0.1
     done
+}
+
+# The new window has the keyboard focus. The pointer stays where it is.
+wayland()
+{
+    say 'Wayland'
+    start_in_wayland x11-backend.so nested
+    picture wayland
+    key ctrl+l
+    type_text '*102#'
+    key Return
+    until_logged nested-program.log 'Your number is'
+    picture wayland-code
+    key ctrl+q
+    wait "$pid"
+    kill $compositor
+    say 'Wayland without input'
+    start_in_wayland headless-backend.so headless
+    kill "$pid"
+    wait "$pid" || [ $? -eq 143 ]
+    pid=
+    kill $compositor
 }
 
 rm -f "$pictures"/program.log
