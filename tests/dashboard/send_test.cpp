@@ -126,7 +126,7 @@ void SendTest::withoutAModemNothingIsInvented()
     const Run result = run(words("--send *100#"), environment);
     QCOMPARE(result.code, 3);
     QVERIFY(!result.isDemonstration);
-    QVERIFY2(result.error.contains(QLatin1String("No modem")), qPrintable(result.error));
+    QVERIFY2(result.error.contains(QLatin1String("no modem")), qPrintable(result.error));
     QVERIFY2(result.out.isEmpty(), qPrintable(result.out));
 }
 
