@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include "base/ClockText.h"
@@ -65,12 +66,14 @@ HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *pa
     m_view->setObjectName(QLatin1String("Dashboard_HistoryList"));
     m_view->setRootIsDecorated(false);
     m_view->setHeaderHidden(true);
+    m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setCompletionRole(CODE_ROLE);
     m_completer->setMaxVisibleItems(MOST_ROWS);
-    m_completer->setPopup(m_view);    // takes ownership
+    m_completer->setPopup(m_view);                            // takes ownership
+    m_view->setItemDelegate(new QStyledItemDelegate(m_view)); // follows the style sheet
     m_view->installEventFilter(this); // after the completer, whose filter then runs second
     connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
             &HistoryPopup::choose);
