@@ -128,6 +128,7 @@ void MainWindow::focusPage()
 void MainWindow::showMenu()
 {
     QWidget *button = m_header->menuButton();
+    m_menu->ensurePolished(); // the style sheet changes the size of the menu
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     const QPoint below =
         isMirrored ? QPoint(0, button->height())
