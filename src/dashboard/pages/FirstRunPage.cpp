@@ -337,10 +337,11 @@ void FirstRunPage::setForm(Form form)
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
 }
 
-// The card gets its width after the page.
+// The card gets its width after the page. The style sheet changes the size of the buttons later.
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_card && event->type() == QEvent::Resize)
+    const QEvent::Type type = event->type();
+    if (watched == m_card && (type == QEvent::Resize || type == QEvent::LayoutRequest))
         arrangeButtons();
     return Page::eventFilter(watched, event);
 }
@@ -351,8 +352,10 @@ void FirstRunPage::arrangeButtons()
     const QMargins margins = m_card->layout()->contentsMargins();
     const int room = m_card->width() - margins.left() - margins.right();
     int wanted = 2 * m_buttons->spacing();
-    for (const QPushButton *button : {m_demonstration, m_notNow, m_use})
+    for (QPushButton *button : {m_demonstration, m_notNow, m_use}) {
+        button->ensurePolished();
         wanted += button->sizeHint().width();
+    }
     m_buttons->setDirection(wanted > room ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight);
 }
 

@@ -67,6 +67,7 @@ MessagesPage::MessagesPage(MessageStore *store, CommandMonitor *monitor, QWidget
     column->addLayout(head);
     column->addLayout(m_row, 1);
     connectParts();
+    setTabOrders();
     connect(&Look::instance(), &Look::changed, this, &MessagesPage::showParts);
     retranslate();
     setForm(Form::Wide);
@@ -119,6 +120,17 @@ QWidget *MessagesPage::makeFilters()
     m_filters[0]->setChecked(true);
     row->addStretch();
     return filters;
+}
+
+void MessagesPage::setTabOrders()
+{
+    QWidget *before = m_search;
+    for (QWidget *next :
+         {static_cast<QWidget *>(m_filters[0]), static_cast<QWidget *>(m_filters[1]),
+          static_cast<QWidget *>(m_filters[2]), static_cast<QWidget *>(m_list)}) {
+        setTabOrder(before, next);
+        before = next;
+    }
 }
 
 void MessagesPage::connectParts()

@@ -51,6 +51,7 @@ private:
     QWidget *makeList();
     QWidget *makeFilters();
     void connectParts();
+    void setTabOrders();
     void setFilter(MessageQuery::Filter filter);
     void search();
     QModelIndex chosen() const;
