@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "device/DeviceWatcher.h"
+#include "device/Situation.h"
 #include "InstallPaths.h"
 #include "plugin/PrivatePluginFolder.h"
 #include "ShownDevice.h"
@@ -148,7 +149,7 @@ bool walkPin(TourGuide &guide)
 {
     if (!guide.useNetwork(LOCKED_SIM, 1) || !guide.take(LOCKED))
         return false;
-    part<QPushButton>(guide, "Dashboard_PinButton")->click();
+    guide.window()->perform(Remedy::EnterPin);
     QWidget *dialog = part<QWidget>(guide, PIN_DIALOG);
     part<QLineEdit>(guide, "Dashboard_PinEdit")->setText(QLatin1String("1357"));
     if (!guide.takeWith(dialog, PIN) || !tryPin(guide, "1357") ||
