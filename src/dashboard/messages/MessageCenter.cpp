@@ -47,7 +47,8 @@ void MessageCenter::look()
         return;
     m_isSimulated = status.isSimulated;
     m_imsi = status.imsi;
-    m_store->setSim(status.isSimulated ? status.imsi : m_simKey(status.imsi));
+    // Without settings, nothing is stored, so the key needs no secret of this user.
+    m_store->setSim(status.isSimulated || !m_settings ? status.imsi : m_simKey(status.imsi));
 }
 
 void MessageCenter::add(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer)

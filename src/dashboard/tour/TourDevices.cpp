@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "device/DeviceWatcher.h"
+#include "device/Situation.h"
 #include "InstallPaths.h"
 #include "plugin/PrivatePluginFolder.h"
 #include "ShownDevice.h"
@@ -148,7 +149,7 @@ bool walkPin(TourGuide &guide)
 {
     if (!guide.useNetwork(LOCKED_SIM, 1) || !guide.take(LOCKED))
         return false;
-    part<QPushButton>(guide, "Dashboard_PinButton")->click();
+    guide.window()->perform(Remedy::EnterPin);
     QWidget *dialog = part<QWidget>(guide, PIN_DIALOG);
     part<QLineEdit>(guide, "Dashboard_PinEdit")->setText(QLatin1String("1357"));
     if (!guide.takeWith(dialog, PIN) || !tryPin(guide, "1357") ||
@@ -170,12 +171,12 @@ bool walkTexts(TourGuide &guide)
     guide.window()->showPage(PageId::Messages);
     const bool isTaken =
         guide.waitFor([messages] { return !messages->accessibleDescription().isEmpty(); }) &&
-        guide.take(MESSAGE) && guide.waitFor([&monitor] {
-            return monitor.state().kind == CommandState::Kind::MenuOpen;
-        }) &&
-        guide.take(QUESTION);
+        guide.take(MESSAGE) &&
+        guide.waitFor([&monitor] { return monitor.state().kind == CommandState::Kind::MenuOpen; });
+    guide.window()->showPage(PageId::Home); // its last row shows the question
+    const bool isAsked = isTaken && guide.take(QUESTION);
     guide.window()->showPage(PageId::Codes);
-    return isTaken;
+    return isAsked;
 }
 
 // ---- an operator's codes
