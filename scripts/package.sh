@@ -48,6 +48,9 @@ build_in()
 {
     copy_source_tree "$1/source"
     [ -z "$version" ] || add_version "$1/source"
+    # A checkout sets the times of the files, which the packages would contain.
+    find "$1/source" -exec touch --no-dereference \
+        --date="@$(cd "$1/source" && dpkg-parsechangelog --show-field Timestamp)" {} +
     (cd "$1/source" && DEB_BUILD_OPTIONS="parallel=$(nproc) terse" dpkg-buildpackage --build=binary --no-sign)
 }
 
