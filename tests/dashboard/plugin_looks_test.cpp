@@ -59,8 +59,9 @@ QList<QWidget *> controlsIn(const QWidget *frame)
         const bool isControl =
             qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget) ||
             qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractScrollArea *>(widget);
+        const bool isFrame = widget->parentWidget() == frame; // scrolls a frame that is too large
         const bool isPart =
-            qobject_cast<QAbstractScrollArea *>(widget->parentWidget()) ||
+            isFrame || qobject_cast<QAbstractScrollArea *>(widget->parentWidget()) ||
             qobject_cast<QAbstractItemView *>(widget->parentWidget()->parentWidget());
         if (isControl && !isPart && widget->isVisibleTo(frame))
             controls << widget;

@@ -18,6 +18,7 @@
 
 #include <cstdio>
 
+#include "pages/StateStrip.h"
 #include "plugin/GeneralWindow.h"
 #include "window/Banners.h"
 #include "window/MainWindow.h"
@@ -118,12 +119,28 @@ private:
     {
         if (m_isDone)
             return;
+        if (restore())
+            return;
         if (!m_code.isEmpty())
             return named<QPushButton>("USSDUIPlugin_AdvancedDialog_EditButton")->click();
         m_isDone = true;
         tell();
         mainWindow()->close();
         QApplication::quit();
+    }
+
+    /// Accepts the offer to restore the user's codes. The banner of the demonstration hides the
+    /// offer.
+    bool restore()
+    {
+        Banners *banners = mainWindow()->findChild<Banners *>();
+        const Banner offer = banners->banner(Banners::Restore);
+        if (m_isRestored || offer.title.isEmpty())
+            return false;
+        m_isRestored = true;
+        print("notice", offer.title + QLatin1String(": ") + offer.text);
+        emit banners->actionRequested(Banners::Restore);
+        return true;
     }
 
     template <typename Widget>
@@ -140,6 +157,9 @@ private:
             if (!banner.title.isEmpty())
                 print("notice", banner.title + QLatin1String(": ") + banner.text);
         }
+        const StateStrip *strip = named<StateStrip>("Dashboard_StateStrip");
+        if (strip->isBlocked())
+            print("notice", strip->title() + QLatin1String(": ") + strip->text());
         const QComboBox *combo = named<QComboBox>("USSDUIPlugin_AdvancedDialog_ProfilesCombo");
         QStringList names;
         for (int i = 0; combo && i < combo->count(); ++i)
@@ -149,6 +169,7 @@ private:
 
     QString m_code;
     bool m_isDone = false;
+    bool m_isRestored = false;
 };
 
 void seatUser()

@@ -205,7 +205,8 @@ void MachineTest::codesThatWereLostAreOfferedBack()
     QVERIFY(QFile::remove(codesFile()));
     const Run next = run();
     QVERIFY2(next.isGood(), next.all().constData());
-    QVERIFY2(next.out.contains(text("box: The file with your own")), next.all().constData());
+    QVERIFY2(next.out.contains(text("notice: Your own codes can be restored: ")),
+             next.all().constData());
     QVERIFY2(next.out.contains(text("Mine of old")), next.all().constData());
     QCOMPARE(contentOf(codesFile()), QByteArray(OWN_CODES));
 }

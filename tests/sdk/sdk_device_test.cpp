@@ -26,6 +26,11 @@ void countInfo(void *context)
     static_cast<Gate *>(context)->open();
 }
 
+void openGate(void *gate)
+{
+    static_cast<Gate *>(gate)->open();
+}
+
 const char OFFER_PUSH[] = "[Push offer]\nAfter=0\nReply=An offer\n[Push offer/1]\nReply=Booked\n";
 
 Inbox<std::string> &networkTexts()
@@ -239,12 +244,12 @@ void SdkDevice::infoCallbackIsOneAtMost()
     // In this network, no event happens without a request.
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
-    QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &second), 0L);
+    QCOMPARE(TKSV_Device_SetInfoCallback(openGate, &second), 0L);
     infoCalls = 0;
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QVERIFY(second.wait());
     QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);
-    QCOMPARE(infoCalls.load(), 1);
+    QCOMPARE(infoCalls.load(), 0); // the first call-back was replaced
 }
 
 QTEST_APPLESS_MAIN(SdkDevice)

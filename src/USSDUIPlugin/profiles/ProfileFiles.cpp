@@ -43,8 +43,7 @@ QString linkTarget(const QString &path)
 void USSDEditCmd::getSystemProfileXMLFilePath(QString &path)
 {
     USSD_LOG_SCOPE();
-    path = linkTarget(
-        PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES));
+    path = PluginFiles::path(CommonUtils::GetPluginLibraryPath(), PluginFiles::SYSTEM_PROFILES);
     USSD_LOG_EXIT(" Exit: system profile file path= %s", path.toLocal8Bit().constData());
 }
 
@@ -176,7 +175,7 @@ QString USSDEditCmd::profileFilePath(bool isSystem)
 int USSDEditCmd::saveToXMLFile(bool isSystem)
 {
     USSD_LOG(" Enter");
-    const QString path = profileFilePath(isSystem);
+    const QString path = linkTarget(profileFilePath(isSystem));
     if (path.isEmpty()) {
         USSD_LOG_IMPORTANT(" Fail Exit: user profile file name is empty");
         return SAVE_NO_PATH;

@@ -33,7 +33,7 @@ const KnownKey KNOWN_KEYS[] = {
     {"IDS_PROFILE_TOP_UP", CodeKind::TopUp},         {"IDS_PROFILE_MENU", CodeKind::Menu},
     {"IDS_PROFILE_DATA_PACKS", CodeKind::Packs},     {"IDS_PROFILE_ROAMING", CodeKind::Roaming},
     {"IDS_PROFILE_VOICE_MAIL", CodeKind::VoiceMail}, {"IDS_PROFILE_TARIFF", CodeKind::Tariff},
-    {"IDS_PROFILE_CALL_ME", CodeKind::CallMe},       {"IDS_PROFILE_TRANSFER", CodeKind::Transfer}};
+    {"IDS_PROFILE_CALL_ME", CodeKind::CallMe}};
 
 CodeKind kindOfKey(const QString &key)
 {
@@ -133,8 +133,6 @@ const char *codeIcon(CodeKind kind)
         return "tag";
     case CodeKind::CallMe:
         return "callme";
-    case CodeKind::Transfer:
-        return "send";
     case CodeKind::Other:
         break;
     }

@@ -22,7 +22,6 @@ enum class CodeKind {
     VoiceMail,
     Tariff,
     CallMe,
-    Transfer,
     Other
 };
 

@@ -200,7 +200,6 @@ void HomePage::setForm(Form form)
     m_form = form;
     const bool isNarrow = form == Form::Narrow;
     m_column->setForm(form);
-    m_accountRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_tileRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     setMargins(m_tileRow, 0, 0, 0, 0);
     setSpacing(m_tileRow, isNarrow ? 0 : 16);
@@ -211,6 +210,24 @@ void HomePage::setForm(Form form)
     for (AccountTile *tile : {m_number, m_validity, m_data})
         tile->setNarrow(isNarrow);
     retranslate();
+    arrangeAccount();
+}
+
+/// Puts the chart below the balance if there is not enough room for both in a row.
+void HomePage::arrangeAccount()
+{
+    const QMargins margins = m_column->column()->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    const int wanted = m_balance->minimumSizeHint().width() + m_accountRow->spacing() +
+                       m_chart->minimumSizeHint().width();
+    const bool isColumn = m_form == Form::Narrow || wanted > room;
+    m_accountRow->setDirection(isColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void HomePage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    arrangeAccount();
 }
 
 QWidget *HomePage::firstFocus() const

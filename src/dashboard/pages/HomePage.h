@@ -79,11 +79,13 @@ signals:
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     enum class Ask { Balance, Validity, Data };
 
     void makeAccount();
+    void arrangeAccount();
     void makeTiles();
     void makeFavourites();
     void makeMessage();

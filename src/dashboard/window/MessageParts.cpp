@@ -25,6 +25,10 @@ MessageParts::MessageParts(AppController *controller, QWidget *window)
 {
     m_center.setInFront([window] { return window->isActiveWindow(); });
     connect(controller, &AppController::textReceived, &m_center, &MessageCenter::add);
+    connect(controller, &AppController::commandEnded, this, [this, controller] {
+        if (controller->monitor().state().kind != CommandState::Kind::MenuOpen)
+            m_store.endWaiting();
+    });
     connect(controller, &AppController::frameOpened, &m_question, &QuestionDialog::look);
     connect(controller, &AppController::frameClosed, &m_question, &QuestionDialog::look);
     connect(&m_store, &MessageStore::problem, controller, &AppController::problem);
