@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTreeWidget>
 
 #include "ExtendDialog.h"
@@ -59,9 +60,8 @@ QList<QWidget *> controlsIn(const QWidget *frame)
         const bool isControl =
             qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget) ||
             qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractScrollArea *>(widget);
-        const bool isFrame = widget->parentWidget() == frame; // scrolls a frame that is too large
         const bool isPart =
-            isFrame || qobject_cast<QAbstractScrollArea *>(widget->parentWidget()) ||
+            qobject_cast<QAbstractScrollArea *>(widget->parentWidget()) ||
             qobject_cast<QAbstractItemView *>(widget->parentWidget()->parentWidget());
         if (isControl && !isPart && widget->isVisibleTo(frame))
             controls << widget;
@@ -69,24 +69,31 @@ QList<QWidget *> controlsIn(const QWidget *frame)
     return controls;
 }
 
-/// Returns true if the window has its margins: a layout that is too small takes them away.
-bool hasRoom(const QWidget *frame)
+/// Returns the window of the plug-in. A frame that is larger than the screen scrolls it.
+const QWidget *contentOf(const QWidget *frame)
 {
-    const QWidget *content = frame->layout()->itemAt(0)->widget();
+    const QWidget *child = frame->layout()->itemAt(0)->widget();
+    const QScrollArea *area = qobject_cast<const QScrollArea *>(child);
+    return area ? area->widget() : child;
+}
+
+/// Returns true if the window has its margins: a layout that is too small takes them away.
+bool hasRoom(const QWidget *content)
+{
     const QSize least = content->layout() ? content->layout()->minimumSize() : QSize();
     return least.width() <= content->width() && least.height() <= content->height() + ROUNDING;
 }
 
-/// Returns what is wrong in the frame, or an empty string.
-QString faultIn(const QWidget *frame)
+/// Returns what is wrong in the window, or an empty string.
+QString faultIn(const QWidget *window)
 {
-    if (!hasRoom(frame))
+    if (!hasRoom(window))
         return latin1("the window is smaller than its content");
-    const QList<QWidget *> controls = controlsIn(frame);
+    const QList<QWidget *> controls = controlsIn(window);
     for (int i = 0; i < controls.size(); ++i) {
         const QWidget *widget = controls.at(i);
-        const QRect place = placeIn(frame, widget);
-        if (!frame->rect().contains(place))
+        const QRect place = placeIn(window, widget);
+        if (!window->rect().contains(place))
             return describe(widget) + latin1(" is outside");
         const QSize least = needed(widget);
         if (place.height() < least.height() - ROUNDING || place.width() < least.width() - ROUNDING)
@@ -97,10 +104,10 @@ QString faultIn(const QWidget *frame)
                 .arg(least.width())
                 .arg(least.height());
         for (int j = i + 1; j < controls.size(); ++j)
-            if (place.intersects(placeIn(frame, controls.at(j))))
+            if (place.intersects(placeIn(window, controls.at(j))))
                 return describe(widget) + latin1(" overlaps ") + describe(controls.at(j));
     }
-    return controls.size() > 2 ? QString() : latin1("the frame is empty");
+    return controls.size() > 2 ? QString() : latin1("the window is empty");
 }
 
 } // namespace
@@ -178,7 +185,7 @@ private slots:
         QVERIFY(frame);
         const QWidget *edit = frame->findChild<QLineEdit *>(latin1(GeneralWindow::COMMAND_EDIT));
         QVERIFY2(!edit || edit->width() > 7 * Look::instance().em(), "no room for a code");
-        const QString fault = faultIn(frame);
+        const QString fault = faultIn(contentOf(frame));
         QVERIFY2(fault.isEmpty(), qPrintable(fault));
     }
 };

@@ -31,6 +31,9 @@ namespace Dashboard
 namespace
 {
 
+const int MARGIN = 24;      // in pixels, at 100 %
+const int GAP = 16;         // in pixels, at 100 %
+const int SCROLL_BAR = 16;  // in pixels, at 100 %
 const int WIDEST = 1040;    // in pixels, at 100 %
 const double LARGE = 1.5;   // the scale from which on there is one column of favourites
 const int NARROW_COUNT = 4; // of favourites in the narrow form
@@ -200,7 +203,6 @@ void HomePage::setForm(Form form)
     m_form = form;
     const bool isNarrow = form == Form::Narrow;
     m_column->setForm(form);
-    m_tileRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     setMargins(m_tileRow, 0, 0, 0, 0);
     setSpacing(m_tileRow, isNarrow ? 0 : 16);
     setSpacing(m_column->column(), isNarrow ? 12 : 16);
@@ -210,24 +212,35 @@ void HomePage::setForm(Form form)
     for (AccountTile *tile : {m_number, m_validity, m_data})
         tile->setNarrow(isNarrow);
     retranslate();
-    arrangeAccount();
+    arrangeCards();
 }
 
-/// Puts the chart below the balance if there is not enough room for both in a row.
-void HomePage::arrangeAccount()
+/// Returns the width that the widgets need beside each other.
+int HomePage::rowWidth(const QList<QWidget *> &widgets)
 {
-    const QMargins margins = m_column->column()->contentsMargins();
-    const int room = width() - margins.left() - margins.right();
-    const int wanted = m_balance->minimumSizeHint().width() + m_accountRow->spacing() +
-                       m_chart->minimumSizeHint().width();
-    const bool isColumn = m_form == Form::Narrow || wanted > room;
-    m_accountRow->setDirection(isColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    int width = -Look::instance().px(GAP);
+    for (const QWidget *widget : widgets) {
+        if (widget->isVisibleTo(widget->parentWidget()))
+            width += widget->minimumSizeHint().width() + Look::instance().px(GAP);
+    }
+    return width;
+}
+
+/// Puts the cards below each other if there is not enough room for them in a row.
+void HomePage::arrangeCards()
+{
+    const int room = width() - Look::instance().px(2 * MARGIN + SCROLL_BAR);
+    const bool isNarrow = m_form == Form::Narrow;
+    const bool isAccountColumn = isNarrow || rowWidth({m_balance, m_chart}) > room;
+    const bool isTileColumn = isNarrow || rowWidth({m_number, m_validity, m_data}) > room;
+    m_accountRow->setDirection(isAccountColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_tileRow->setDirection(isTileColumn ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void HomePage::resizeEvent(QResizeEvent *event)
 {
     Page::resizeEvent(event);
-    arrangeAccount();
+    arrangeCards();
 }
 
 QWidget *HomePage::firstFocus() const
@@ -273,6 +286,7 @@ void HomePage::look()
     m_chart->setVisible(hasChart);
     if (hasChart)
         m_chart->show(m_parts.store->lastDays(), m_parts.store->now().date());
+    arrangeCards();
 }
 
 /// Returns true if the account is shown, and not only the situation of the device.

@@ -85,7 +85,8 @@ private:
     enum class Ask { Balance, Validity, Data };
 
     void makeAccount();
-    void arrangeAccount();
+    void arrangeCards();
+    static int rowWidth(const QList<QWidget *> &widgets);
     void makeTiles();
     void makeFavourites();
     void makeMessage();
