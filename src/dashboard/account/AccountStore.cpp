@@ -79,7 +79,7 @@ AccountEntry AccountStore::newest(const QString &code) const
 {
     if (m_sim.isEmpty() || code.isEmpty())
         return AccountEntry();
-    const AccountEntry entry = m_database->newest(m_sim, code);
+    AccountEntry entry = m_database->newest(m_sim, code);
     report();
     return entry;
 }

@@ -114,13 +114,14 @@ bool ReplyNumber::read(Grouping grouping, qint64 *units, int *decimals) const
 {
     const QString marks = marksOf(text);
     Parts parts;
+    bool isSplit = true;
     if (marks.isEmpty())
         parts.groups = QStringList(text);
-    else if (marks.length() == 1 && !splitAtOneMark(text, marks.at(0), grouping, &parts))
-        return false;
-    else if (marks.length() > 1 && !splitAtMarks(text, marks, grouping, &parts))
-        return false;
-    return readParts(parts, units, decimals);
+    else if (marks.length() == 1)
+        isSplit = splitAtOneMark(text, marks.at(0), grouping, &parts);
+    else
+        isSplit = splitAtMarks(text, marks, grouping, &parts);
+    return isSplit && readParts(parts, units, decimals);
 }
 
 QList<ReplyNumber> replyNumbers(const QString &plain)

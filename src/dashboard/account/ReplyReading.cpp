@@ -77,7 +77,7 @@ QString volumeText(qint64 bytes)
     }
     Money number;
     number.decimals = size < 10 && qAbs(size - qRound64(size)) >= 0.05 ? 1 : 0;
-    number.units = qint64(size * Money::UNITS + 0.5);
+    number.units = qRound64(size * Money::UNITS);
     number.currency = QLatin1String(units[unit]);
     return moneyText(number);
 }

@@ -120,7 +120,7 @@ void DashboardSettings::setDetectsPaidType(bool detects)
 
 QString DashboardSettings::theme() const
 {
-    const QString chosen = word(THEME);
+    QString chosen = word(THEME);
     for (const char *each : THEMES) {
         if (chosen == QLatin1String(each))
             return chosen;

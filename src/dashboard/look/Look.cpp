@@ -22,8 +22,8 @@ const char STYLE[] = "fusion";           // the only style of Qt that follows ev
 
 Shade shadeOf(const QPalette &palette)
 {
-    const QColor window = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
+    const QColor &window = palette.color(QPalette::Window);
+    const QColor &text = palette.color(QPalette::WindowText);
     return window.lightness() < text.lightness() ? Shade::Dark : Shade::Light;
 }
 

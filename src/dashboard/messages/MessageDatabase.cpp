@@ -71,7 +71,7 @@ bool makePrivateFile(const QString &path)
 QString nameForDamaged(const QString &file)
 {
     for (int i = 1;; ++i) {
-        const QString name = file + QString::fromLatin1(".damaged-%1").arg(i);
+        QString name = file + QString::fromLatin1(".damaged-%1").arg(i);
         if (!QFile::exists(name))
             return name;
     }

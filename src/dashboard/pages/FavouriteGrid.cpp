@@ -193,7 +193,7 @@ void FavouriteGrid::show(const QList<NamedCode> &codes, bool mayAdd)
         FavouriteButton *button = m_buttons.at(i);
         button->disconnect(this);
         if (i < codes.size()) {
-            const NamedCode code = codes.at(i);
+            const NamedCode &code = codes.at(i);
             button->setCode(code);
             connect(button, &QAbstractButton::clicked, this, [this, code] { emit chosen(code); });
         } else {
