@@ -49,7 +49,7 @@ QString codeWithoutNumbers(const QString &code, const QStringList &templates)
 {
     for (const QString &form : templates) {
         const bool hasPlace = form.contains(Formats::INPUT_PLACEHOLDER);
-        const QString hidden = hasPlace || form == code ? hiddenBy(form, code) : QString();
+        QString hidden = hasPlace || form == code ? hiddenBy(form, code) : QString();
         if (!hidden.isEmpty())
             return hidden;
     }

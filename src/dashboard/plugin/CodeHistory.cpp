@@ -17,7 +17,7 @@ namespace
 {
 
 const int MOST_CODES = 50;
-const qint64 LARGEST_FILE = 64 * 1024; // bytes
+const qint64 LARGEST_FILE = 65536; // bytes
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 /// Returns true if the code without its hidden digits is a code.

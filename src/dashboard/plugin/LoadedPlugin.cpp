@@ -40,7 +40,7 @@ QString LoadedPlugin::installedFile()
 {
     using HostCore::PluginFolderChoice;
     const QString folder = PluginFolderChoice::installed();
-    const QString file = PluginFiles::path(folder, PluginFiles::LIBRARY);
+    QString file = PluginFiles::path(folder, PluginFiles::LIBRARY);
     if (!QFileInfo::exists(file) &&
         QFileInfo::exists(PluginFiles::path(folder, PluginFiles::CONFIGURATION)))
         return PluginFiles::path(PluginFolderChoice::shipped(), PluginFiles::LIBRARY);

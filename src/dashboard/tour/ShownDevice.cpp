@@ -25,7 +25,7 @@ void ShownDevice::show(int state, int problem, const char *model)
 
 void ShownDevice::show(const DeviceStatus &status)
 {
-    const DeviceReading reading = {status, m_modems};
+    DeviceReading reading = {status, m_modems};
     m_watcher.readFrom([reading] { return reading; });
 }
 
