@@ -216,14 +216,14 @@ bool AppController::setLanguage(const QString &code)
 
 QString AppController::useDevice(const DeviceChoice &choice)
 {
-    const QString error = choice.use();
+    QString error = choice.use();
     setDevice(error.isEmpty() ? choice : m_choice);
     return error;
 }
 
 QString AppController::chooseDevice(const DeviceChoice &choice)
 {
-    const QString error = useDevice(choice);
+    QString error = useDevice(choice);
     if (error.isEmpty() && m_settings)
         m_settings->setDevice(choice);
     return error;
