@@ -57,7 +57,7 @@ void CommandTest::settle()
 
 void CommandTest::pass(int seconds)
 {
-    m_now += seconds * 1000;
+    m_now += qint64(1000) * seconds;
     m_monitor->tick();
     drainEvents();
 }
