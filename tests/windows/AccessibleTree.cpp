@@ -55,20 +55,20 @@ bool Accessible::isShown() const
 
 bool Accessible::isSilent() const
 {
-    static const char *const GROUPS[] = {"filler", "frame",       "panel",     "unknown",
+    static const char *const groups[] = {"filler", "frame",       "panel",     "unknown",
                                          "label",  "scroll pane", "separator", "layered pane"};
-    const bool isGroup = std::any_of(std::begin(GROUPS), std::end(GROUPS),
+    const bool isGroup = std::any_of(std::begin(groups), std::end(groups),
                                      [this](const char *group) { return role == text(group); });
     return isGroup && name.isEmpty() && description.isEmpty();
 }
 
 bool Accessible::isControl() const
 {
-    static const char *const CONTROLS[] = {"push button",  "check box", "radio button", "text",
+    static const char *const controls[] = {"push button",  "check box", "radio button", "text",
                                            "combo box",    "slider",    "spin button",  "list",
                                            "progress bar", "page tab",  "menu item",    "table",
                                            "tree",         "entry",     "password text"};
-    return std::any_of(std::begin(CONTROLS), std::end(CONTROLS),
+    return std::any_of(std::begin(controls), std::end(controls),
                        [this](const char *control) { return role == text(control); });
 }
 
