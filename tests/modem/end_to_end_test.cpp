@@ -251,9 +251,13 @@ void EndToEndTest::openPage()
     QTRY_COMPARE(paidType(), QLatin1String("Prepaid"));
 }
 
+/// Sends a command as soon as the window accepts one, and returns the reply. The window learns of a
+/// registration later than waitForRegistration().
 QString EndToEndTest::ask(const QString &command)
 {
     const GeneralWindow general = page();
+    if (!QTest::qWaitFor([&] { return general.commandEdit()->isEnabled(); }, 10000))
+        return QLatin1String("(the window accepts no command)");
     if (!general.send(command) || !QTest::qWaitFor([&] { return !general.isWaiting(); }, 10000))
         return QLatin1String("(not sent, or still waiting)");
     return general.lastReceived();
