@@ -63,6 +63,7 @@ private slots:
     void recentCodesHaveNoNumbers();
     void nothingIsSentWithoutANetwork();
     void aDisabledPageDoesNotWait();
+    void aFailedQueryOfTheProgramIsNotShown();
 };
 
 void CommandMonitorTest::atFirstItIsReady()
@@ -479,6 +480,25 @@ void CommandMonitorTest::aDisabledPageDoesNotWait()
     settle();
     QVERIFY(!page().isWaiting());
     QCOMPARE(state().kind, Kind::Ready);
+}
+
+// The failure of the user's next code must be shown all the same.
+void CommandMonitorTest::aFailedQueryOfTheProgramIsNotShown()
+{
+    fakeSdkSetAnswer(fakeNetworkRefusal());
+    fakeSdkSetLastFailure(failure(TKSV_FAILURE_ENDED_BY_NETWORK));
+    bool inUse = false;
+    bool postpaid = false;
+    int wasSent = 0;
+    plugin().ussd()->GetPrePostInfo(inUse, postpaid, wasSent, true);
+    monitor().setQuerying(true);
+    QVERIFY(fakeSdkWaitForRequests(1));
+    settle();
+    QCOMPARE(state().kind, Kind::Ready);
+    monitor().setQuerying(false);
+    monitor().send(QLatin1String("*999#"));
+    settle();
+    QCOMPARE(state().kind, Kind::Failed);
 }
 
 USSD_TEST_MAIN(CommandMonitorTest)

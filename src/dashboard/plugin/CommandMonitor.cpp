@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QEvent>
 
+#include <limits>
+
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
 #include "CodeForms.h"
@@ -282,7 +284,7 @@ void CommandMonitor::end(const GeneralWindow &window)
         m_reply.isReceived && !m_reply.text.isEmpty() && m_reply.code == m_session.request;
     if (m_session.waitsForAnswer())
         return openMenu();
-    if (isAnswered)
+    if (isAnswered || isOwnQuery())
         return setKind(CommandState::Kind::Ready);
     fail(outcome());
 }
@@ -297,6 +299,21 @@ TKSV_FailureInfo CommandMonitor::outcome() const
     else if (failure.reason == TKSV_FAILURE_NONE && m_reply.isReceived)
         failure.reason = TKSV_FAILURE_REFUSED;
     return failure;
+}
+
+// The plug-in may have handed over the first command of the query already.
+void CommandMonitor::setQuerying(bool isQuerying)
+{
+    if (isQuerying)
+        m_firstQuery = m_session.requests + 1;
+    m_lastQuery = isQuerying ? std::numeric_limits<unsigned long>::max() : readSession().requests;
+}
+
+bool CommandMonitor::isOwnQuery() const
+{
+    const unsigned long newest = m_session.requests;
+    return m_firstQuery != 0 && newest >= m_firstQuery && newest <= m_lastQuery &&
+           newest != m_ownRequest;
 }
 
 /// Looks at the session while no command is pending.

@@ -85,6 +85,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
+    /// Must be called when the program starts or stops a query of its own. The failure of such a
+    /// query is not shown, because the user has not sent the code.
+    void setQuerying(bool isQuerying);
     /// Sends the code or answer through the general window. Returns false if it cannot be sent now.
     bool send(const QString &code);
     /// Sends the answer to the open menu. Returns false if no menu is open.
@@ -136,6 +139,7 @@ private:
     void rest(const GeneralWindow &window);
     void openMenu();
     void fail(const TKSV_FailureInfo &failure);
+    bool isOwnQuery() const;
     void setKind(CommandState::Kind kind);
     void setTexts();
     void setTexts(const char *titleKey, const char *textKey);
@@ -159,6 +163,8 @@ private:
     unsigned long m_pendingRequest = 0; // of the state Waiting or Queued
     unsigned long m_ownRequest = 0;     // the newest request of a general window
     unsigned long m_givenUp = 0;        // the plug-in no longer expects the reply
+    unsigned long m_firstQuery = 0;     // of the newest query of the program; 0: none yet
+    unsigned long m_lastQuery = 0;
     QStringList m_recent;
     QStringList m_templates;
 };

@@ -158,6 +158,7 @@ void AppController::offerWindows(int windows)
 
 void AppController::onPaidTypeChanged()
 {
+    m_monitor.setQuerying(m_sim.isAsking());
     emit paidTypeChanged();
     if (!m_sim.isAsking())
         openAwaitedFrame();
