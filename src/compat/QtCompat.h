@@ -3,7 +3,7 @@
 
 /*
  * The differences between Qt 4 (4.6 to 4.8), Qt 5.15 and Qt 6 that affect the plug-in and the core
- * library. No other file in these two components checks the Qt version.
+ * library. All other files of these two components are independent of the Qt version.
  */
 
 #include <QApplication>
@@ -27,8 +27,8 @@
 #endif
 
 /*
- * In Qt 4, the entry point qt_plugin_instance() must be defined by hand. In Qt 5, moc generates it
- * from Q_PLUGIN_METADATA.
+ * In Qt 4, the entry point qt_plugin_instance() must be defined explicitly. In later versions, moc
+ * generates it from Q_PLUGIN_METADATA.
  */
 #if QT_VERSION < 0x050000
 #include <QTextDocument>
@@ -50,7 +50,7 @@ typedef ::QRegExpValidator RegExpValidator;
 #else
 typedef ::QMutexLocker<QMutex> MutexLocker;
 
-/** The QRegExpValidator of Qt 4 and Qt 5, which Qt 6 does not have. */
+/** A replacement for QRegExpValidator, which is not available in Qt 6. */
 class RegExpValidator : public QValidator
 {
 public:
@@ -84,8 +84,8 @@ private:
 };
 #endif
 
-/// Returns an image of the widget as it appears on the screen. QWidget::render() does not mirror
-/// the widget in a right-to-left layout.
+/// Returns an image of the widget as it appears on the screen. QWidget::render() is not sufficient,
+/// because it does not mirror the widget in a right-to-left layout.
 inline QPixmap pictureOf(QWidget *widget)
 {
 #if QT_VERSION < 0x050000
@@ -95,8 +95,8 @@ inline QPixmap pictureOf(QWidget *widget)
 #endif
 }
 
-/// Closes the widget. In Qt 6, QWidget::close() sends no close event to a hidden window, which a
-/// rejected dialog is.
+/// Closes the widget and always sends a close event. In Qt 6, QWidget::close() does not send a
+/// close event to a hidden window, for example to a dialog that has been rejected.
 inline void closeEvenIfHidden(QWidget *widget)
 {
 #if QT_VERSION >= 0x060000
@@ -109,7 +109,7 @@ inline void closeEvenIfHidden(QWidget *widget)
     widget->close();
 }
 
-/// Returns the area that windows may cover on the screen that shows `widget`.
+/// Returns the available area of the screen that contains `widget`.
 inline QRect availableGeometry(const QWidget *widget)
 {
 #if QT_VERSION < 0x060000
@@ -119,8 +119,8 @@ inline QRect availableGeometry(const QWidget *widget)
 #endif
 }
 
-/// Makes Qt scale windows with the resolution of the screen. Must be called before the application
-/// is constructed. Qt 6 always does this, and Qt 4 never.
+/// Makes Qt scale windows according to the screen resolution. Must be called before the application
+/// object is created. Qt 6 always scales windows; Qt 4 does not support scaling.
 inline void scaleWithScreen()
 {
 #if QT_VERSION >= 0x050600 && QT_VERSION < 0x060000
@@ -129,7 +129,7 @@ inline void scaleWithScreen()
 #endif
 }
 
-/// Returns the folder of Qt's own translations.
+/// Returns the folder that contains Qt's own translations.
 inline QString qtTranslations()
 {
 #if QT_VERSION < 0x060000
@@ -139,7 +139,7 @@ inline QString qtTranslations()
 #endif
 }
 
-/// Returns the width of a line of text in pixels.
+/// Returns the width of a single line of text in pixels.
 inline int textWidth(const QFontMetrics &metrics, const QString &text)
 {
 #if QT_VERSION < 0x050B00
@@ -149,7 +149,7 @@ inline int textWidth(const QFontMetrics &metrics, const QString &text)
 #endif
 }
 
-/// Returns the string with the special characters of HTML replaced with entities.
+/// Returns the string with the special characters of HTML replaced by entities.
 inline QString escapeHtml(const QString &text)
 {
 #if QT_VERSION < 0x050000
@@ -159,7 +159,7 @@ inline QString escapeHtml(const QString &text)
 #endif
 }
 
-/// The type of a function that receives a Qt log message. `text` is in the local 8-bit encoding.
+/// A function that receives Qt log messages. `text` is in the local 8-bit encoding.
 typedef void (*MessageHandler)(QtMsgType type, const char *text);
 
 #if QT_VERSION < 0x050000
@@ -183,7 +183,7 @@ inline void forwardMessage(QtMsgType type, const QMessageLogContext &, const QSt
 }
 } // namespace Private
 
-/// Passes every Qt log message to `handler`, which is called from the thread that logs the message.
+/// Passes all Qt log messages to `handler`, which is called from the thread that logs the message.
 /// Null restores Qt's default handler.
 inline void installMessageHandler(MessageHandler handler)
 {

@@ -20,7 +20,8 @@ QString buttonText(const QString &key)
     return Change::tr(QLatin1String("USSDUIPlugin"), key);
 }
 
-/// Returns the rectangle, in screen coordinates, over which the widget is centred.
+/// Returns the screen rectangle in which MoveCentre() centres the widget: the frame of the main
+/// window if it is visible, otherwise the available area of the screen.
 QRect surroundings(const QWidget *widget, const QRect &screen)
 {
     const QWidget *mainWindow = HostCore::HostState::mainWindow();
@@ -29,8 +30,8 @@ QRect surroundings(const QWidget *widget, const QRect &screen)
     return usable ? mainWindow->window()->frameGeometry() : screen;
 }
 
-/// Returns the size of the window including its frame. For a window that has never been shown,
-/// frameGeometry() does not include the frame and is one pixel too small.
+/// Returns the size of the window including its frame. frameGeometry() is used only for visible
+/// windows, because it does not include the frame before the window is first shown.
 QSize outerSize(const QWidget *window)
 {
     return window->isVisible() ? window->frameGeometry().size() : window->size();
@@ -51,9 +52,9 @@ qint64 millisecondsNow()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// Returns the local time for log lines of the GUI thread. The string is cached for one
-/// millisecond, because a row of buttons logs many lines and each query of the local time checks
-/// the time-zone file.
+/// Returns the current local time for debug messages. Not thread-safe; used only by the GUI thread.
+/// The string is cached for one millisecond, because a row of buttons logs many messages and every
+/// query of the local time accesses the time-zone file.
 QByteArray timeOfDay()
 {
     static qint64 lastLook = -1;
@@ -104,7 +105,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, const QStr
                              const QString &text, const QString &firstButtonKey,
                              const QString &secondButtonKey)
 {
-    // The parent also owns the message box and may be deleted while exec() waits for the user.
+    // Deleting the parent also deletes the message box, possibly while exec() is running.
     const QPointer<HostCore::MessageBox> box(new HostCore::MessageBox(icon, caption, text, parent));
     const QAbstractButton *first =
         box->addButton(buttonText(firstButtonKey), QMessageBox::AcceptRole);

@@ -11,8 +11,8 @@ namespace
 {
 
 /**
- * Makes Escape close the frame in the same way as the close button. By default, QDialog hides the
- * frame on Escape without emitting dlgCloseEvent().
+ * Makes Escape close the frame in the same way as its close button. By default, QDialog hides the
+ * window on Escape without a close event, so that dlgCloseEvent() would not be emitted.
  */
 class EscapeCloses : public QObject
 {
@@ -31,7 +31,7 @@ public:
 
 } // namespace
 
-// This host has only one frame style, so it ignores the widget type.
+// The widget type is ignored, because this host has only one frame style.
 ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int) : QDialog(parent, flags)
 {
     QVBoxLayout *layout = new QVBoxLayout(this);

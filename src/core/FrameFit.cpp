@@ -14,7 +14,7 @@ namespace HostCore
 namespace
 {
 
-const QSize DECORATION(8, 40); // pixels reserved for the frame and the title bar of the desktop
+const QSize DECORATION(8, 40); // the size of the window manager's frame and title bar, in pixels
 
 QScrollArea *scrollAreaOf(const QDialog *frame)
 {
@@ -76,7 +76,7 @@ void FrameFit::fit()
         return;
     const bool wasFixed = isFixed(m_frame);
     moveIntoScrollArea();
-    // A window with fixed positions has no layout that would keep it large enough.
+    // Without a minimum size, the scroll area would shrink the content instead of scrolling it.
     if (!isFixed(content(m_frame)))
         content(m_frame)->setMinimumSize(wanted);
     if (size == wanted)

@@ -9,19 +9,20 @@ namespace HostCore
 {
 
 /**
- * Keeps a frame inside the screen. If a frame becomes larger than the screen, for example because
- * of a large font, its content moves into a scroll area, and the frame takes the size of the
- * screen.
+ * Keeps a frame inside the screen. If a frame would be larger than the screen, for example because
+ * of a large font, it is reduced to the size of the screen and its content is moved into a scroll
+ * area.
  */
 class FrameFit : public QObject
 {
 public:
     explicit FrameFit(QDialog *frame);
 
-    /// Returns the content of the frame, also if it is in a scroll area. May be null.
+    /// Returns the content of the frame, even if it is inside a scroll area. Returns null if the
+    /// frame has no content.
     static QWidget *content(const QDialog *frame);
-    /// Removes the content from the layout of the frame and hides it. The content becomes or stays
-    /// a child of the frame.
+    /// Removes the content from the layout of the frame, makes it a direct child of the frame and
+    /// hides it.
     static void takeContentOut(QDialog *frame);
 
     bool eventFilter(QObject *frame, QEvent *event) override;

@@ -10,15 +10,15 @@ namespace HostCore
 {
 
 /**
- * The state of the host program. The program sets the state, and plug-ins read it through
- * CommonUtils and Startup. HostState does not own the objects. The functions must be called from
- * the GUI thread, unless their comments allow any thread.
+ * The state of the host program. The host sets the state, and plug-ins query it through CommonUtils
+ * and Startup. HostState does not own the objects. Unless documented otherwise, the functions must
+ * be called from the GUI thread.
  */
 class Q_DECL_EXPORT HostState
 {
 public:
-    /// Sets the window that is the parent of frames and over which frames are centred. The window
-    /// may be deleted at any time. mainWindow() then returns null.
+    /// Sets the main window, which becomes the parent of all frames. If the window is deleted,
+    /// mainWindow() returns null.
     static void setMainWindow(QWidget *window);
     /// Returns the main window, or null if there is none.
     static QWidget *mainWindow();
@@ -28,15 +28,15 @@ public:
     /// Returns true if the host runs in its small mode.
     static bool isMiniMode();
 
-    /// Sets the flag that the host is shutting down. Must be called before the plug-ins are shut
-    /// down. May be called from any thread.
+    /// Sets whether the host is shutting down. The host must set this flag before it shuts down the
+    /// plug-ins. May be called from any thread.
     static void setShuttingDown(bool shuttingDown);
     /// Returns true if the host is shutting down. May be called from any thread.
     static bool isShuttingDown();
 
-    /// Sets the container. Must be called with null before the container is deleted.
+    /// Sets the plug-in container. Must be called with null before the container is deleted.
     static void setPluginContainer(IPluginContainer *container);
-    /// Returns the container, or null if there is none.
+    /// Returns the plug-in container, or null if there is none.
     static IPluginContainer *pluginContainer();
 };
 

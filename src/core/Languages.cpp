@@ -37,14 +37,15 @@ const Language LANGUAGES[] = {
 const char ENGLISH[] = "en";
 const char PLUGIN[] = "USSDUIPlugin"; // the context whose texts an operator can replace
 
-// The start of the last section of a language file, which cmake/seal_translation.sh appends. The
-// section consists of a tag, a length and the number of hexadecimal digits that the length
-// specifies. The digits are the SHA-1 hash of the part of the file before this section.
+// The start of the seal, a section that cmake/seal_translation.sh appends to each language file.
+// The seal consists of a tag, a length and that number of hexadecimal digits. The digits are the
+// SHA-1 hash of all bytes before the seal.
 const char SEAL[] = {'S', 0, 0, 0, 40};
 const int SEAL_DIGITS = 40;
 
 /**
- * The translations of a language. The translator does not copy `content`, so this struct owns both.
+ * The translations of a language. The struct owns the file contents, because QTranslator does not
+ * copy them.
  */
 struct LanguageTexts {
     QByteArray content;
@@ -59,7 +60,7 @@ struct Loaded {
     QString code;
     Texts current; // null while the language is English
     Texts english;
-    QString operatorFolder; // from which the operator's texts were read; null if not read
+    QString operatorFolder; // the folder of operatorTexts; null if no folder has been read yet
     OperatorTexts operatorTexts;
 };
 
@@ -102,8 +103,8 @@ QString lookUp(const Texts &texts, const QByteArray &context, const QByteArray &
     return texts ? texts->translator.translate(context.constData(), key.constData()) : QString();
 }
 
-/// Reads the texts of the operator if another folder is in use since the last lookup. Must be
-/// called with the mutex locked.
+/// Returns the operator's texts for this folder. Reads the file again if the folder differs from
+/// the folder of the previous lookup. The caller must have locked the mutex.
 const OperatorTexts &operatorTexts(Loaded &state, const QString &folder)
 {
     if (state.operatorFolder != folder || state.operatorFolder.isNull()) {
@@ -113,8 +114,8 @@ const OperatorTexts &operatorTexts(Loaded &state, const QString &folder)
     return state.operatorTexts;
 }
 
-/// Returns the text of the operator for the language and key, otherwise the text of the language
-/// file.
+/// Returns the operator's text for the key, or the text from the language file if the operator does
+/// not provide one.
 QString textIn(const Texts &texts, const QString &language, const QByteArray &context,
                const QString &key, const OperatorTexts *ofOperator)
 {
@@ -123,8 +124,8 @@ QString textIn(const Texts &texts, const QString &language, const QByteArray &co
 }
 
 /**
- * Installs the translations of Qt's own strings, for example for dialog buttons and for the context
- * menus of input fields.
+ * Installs Qt's own translations, for example for standard buttons and for the context menus of
+ * input fields.
  */
 void setQtTexts(const QString &code)
 {

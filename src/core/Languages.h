@@ -9,52 +9,51 @@ namespace HostCore
 
 /**
  * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
- * the text keys. An operator can replace the texts of the plug-in, see OperatorTexts. Languages are
- * identified by their ISO 639-1 codes ("en", "ar").
+ * the text keys. An operator can override the plug-in's texts; see OperatorTexts. Languages are
+ * identified by their ISO 639-1 codes, such as "en" and "ar".
  */
 class Q_DECL_EXPORT Languages
 {
 public:
     /// The state of a language file.
     enum FileState {
-        Whole,         ///< the file can be used
+        Whole,         ///< the file is valid
         Missing,       ///< the file does not exist
         Damaged,       ///< the file has been changed since the build
-        NoSuchLanguage ///< the host does not know the language
+        NoSuchLanguage ///< the host does not support the language
     };
 
-    /// Returns the languages whose files are installed, in the order in which they are offered to
-    /// the user. The list always contains English. May be called from any thread.
+    /// Returns the languages whose files are installed, in the order of the language menu. The list
+    /// always contains English. May be called from any thread.
     static QStringList codes();
-    /// Returns the name of the language in the language itself, or the code if the language is
-    /// unknown. May be called from any thread.
+    /// Returns the native name of the language, or the code if the language is unknown. May be
+    /// called from any thread.
     static QString nativeName(const QString &code);
     /// Returns true if the language is written from right to left. May be called from any thread.
     static bool isRightToLeft(const QString &code);
-    /// Returns the language of Change::tr(), which is initially English. May be called from any
-    /// thread.
+    /// Returns the language of Change::tr(). The initial language is English. May be called from
+    /// any thread.
     static QString current();
 
     /// Selects `code` as the language of Change::tr(), of Qt's own strings and of the default
     /// locale, and sets the layout direction. Returns false and has no effect if the language is
-    /// unknown or its file is missing or damaged. Must be called from the GUI thread. In the
-    /// meantime, other threads may call Change::tr().
+    /// unknown or its file is missing or damaged. Must be called from the GUI thread. Other threads
+    /// may call Change::tr() at the same time.
     static bool setCurrent(const QString &code);
 
     /// Returns the path of the language file. May be called from any thread.
     static QString file(const QString &code);
     /// Returns the state of the language file. May be called from any thread.
     static FileState fileState(const QString &code);
-    /// Returns the contents of the language file for a QTranslator. Returns an empty array if the
-    /// file is missing or damaged. May be called from any thread.
+    /// Returns the contents of the language file in the format that QTranslator::load() expects.
+    /// Returns an empty array if the file is missing or damaged. May be called from any thread.
     static QByteArray content(const QString &code);
-    /// Returns true if `content`, which was read from a language file, is unchanged since the
-    /// build. This check is necessary because QTranslator crashes when it looks up a string in a
-    /// damaged file. May be called from any thread.
+    /// Returns true if `content`, the contents of a language file, has not been modified since the
+    /// build. QTranslator can crash if it uses a damaged file. May be called from any thread.
     static bool isWhole(const QByteArray &content);
 
-    /// Reads the texts of the operator again before the next lookup. setCurrent() and a change of
-    /// PluginFolderChoice have the same effect. May be called from any thread.
+    /// Discards the operator's texts, so that the next lookup reads them again. setCurrent() and
+    /// PluginFolderChoice::use() have the same effect. May be called from any thread.
     static void forgetOperatorTexts();
 
     /// Returns the same string as Change::tr(). May be called from any thread.

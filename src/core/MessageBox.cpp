@@ -20,7 +20,7 @@ const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;
 
 const QSize VIEW_SIZE(420, 220); // in pixels
-const int AROUND_VIEW = 160;     // pixels reserved for the frame, the icon and the buttons
+const int AROUND_VIEW = 160;     // the space for the frame, the icon and the buttons, in pixels
 
 int longestWord(const QString &text)
 {
@@ -59,7 +59,8 @@ void MessageBox::keyPressEvent(QKeyEvent *event)
         QMessageBox::keyPressEvent(event);
 }
 
-// Skips QMessageBox::closeEvent(), which would press the button if the box has only one.
+// Calls the implementation of QDialog directly. If the message box has only one button,
+// QMessageBox::closeEvent() would press it.
 void MessageBox::closeEvent(QCloseEvent *event)
 {
     QDialog::closeEvent(event); // NOLINT(bugprone-parent-virtual-call)

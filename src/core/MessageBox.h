@@ -7,9 +7,9 @@ namespace HostCore
 {
 
 /**
- * A message box for plain text that never becomes larger than the screen. Text that is long or
- * contains an unbreakable word is shown in a scrolling view. Escape and the window's close button
- * do not press any button, even if there is only one.
+ * A message box for plain text that always fits on the screen. Text that is long or contains a long
+ * unbreakable word is shown in a scrollable view. Escape and the window's close button do not press
+ * any button, even if there is only one.
  */
 class Q_DECL_EXPORT MessageBox : public QMessageBox
 {

@@ -10,8 +10,8 @@ namespace HostCore
 {
 
 /**
- * The texts that an operator adds to the language files, or that replace texts in them. They are
- * read from a text file in the folder of the plug-in, so that a new text requires no new build:
+ * The texts with which an operator extends or overrides the language files. They are read from a
+ * file in the folder of the plug-in, so that they can be changed without a new build:
  *
  *   # a comment
  *   [de]
@@ -29,7 +29,7 @@ public:
         QString text;
     };
 
-    /// A line that is not read as its author may expect. `text` is in English.
+    /// A problem in a line of the file. `text` describes the problem in English.
     struct Mistake {
         int line;
         QString text;
@@ -42,12 +42,12 @@ public:
     static bool isKey(const QString &text);
 
     OperatorTexts() {}
-    /// Reads the contents of a file, which are in UTF-8.
+    /// Parses `content`, which must be encoded in UTF-8.
     explicit OperatorTexts(const QByteArray &content);
 
     const QList<Entry> &entries() const { return m_entries; }
     const QList<Mistake> &mistakes() const { return m_mistakes; }
-    /// Returns the text, or an empty string if the file has none for this language and key.
+    /// Returns the text, or an empty string if the file contains no text for this language and key.
     QString text(const QString &language, const QString &key) const;
 
 private:
@@ -57,7 +57,7 @@ private:
 
     QList<Entry> m_entries;
     QList<Mistake> m_mistakes;
-    QHash<QString, QString> m_texts; // the keys are those of keyOf()
+    QHash<QString, QString> m_texts; // indexed by the result of keyOf()
 };
 
 } // namespace HostCore

@@ -23,8 +23,8 @@ QString withoutTrailingSeparators(QString path)
 }
 
 /**
- * The folder that the host uses instead of the installed folder. The path is empty if the host uses
- * the installed folder.
+ * The folder that the host has selected with use(). The path is empty if the host has not selected
+ * a folder.
  */
 struct ChosenFolder {
     QMutex mutex; // guards `path`
@@ -66,7 +66,7 @@ void PluginFolderChoice::use(const QString &folder)
         QMutexLocker lock(&chosen.mutex);
         chosen.path = withoutTrailingSeparators(folder);
     }
-    Languages::forgetOperatorTexts(); // the folder may have new files, even if its path is the same
+    Languages::forgetOperatorTexts(); // the files may be new even if the path is the same
 }
 
 } // namespace HostCore

@@ -8,19 +8,19 @@ namespace HostCore
 
 /**
  * Selects the folder from which plug-ins read their configuration and their profiles. This folder
- * contains the folder "plugins". A host can select the folder of an operator. If the host does not
- * select a folder, $USSD_PLUGIN_LIBRARY_PATH specifies the folder. If this variable is not set
- * either, the installed folder is used. The paths do not end with a separator. The functions may be
- * called from any thread.
+ * contains the folder "plugins". The host can select a folder, for example that of an operator.
+ * Otherwise, the folder in $USSD_PLUGIN_LIBRARY_PATH is used if the variable is set, or else the
+ * installed folder. The paths do not end with a separator. The functions may be called from any
+ * thread.
  */
 class Q_DECL_EXPORT PluginFolderChoice
 {
 public:
-    /// Returns the folder in use. Plug-ins receive it from CommonUtils::GetPluginLibraryPath().
+    /// Returns the folder in use. CommonUtils::GetPluginLibraryPath() returns the same folder.
     static QString current();
     /// Returns the folder that is used if the host has not selected a folder.
     static QString installed();
-    /// Returns the folder of the installation, regardless of the other choices.
+    /// Returns the installed folder, even if another folder is in use.
     static QString shipped();
     /// Selects a folder. An empty path selects installed() again.
     static void use(const QString &folder);

@@ -29,7 +29,7 @@ bool overridesDirection(ushort unit)
     return isIn(unit, 0x202a, 0x202e) || isIn(unit, 0x2066, 0x2069);
 }
 
-/// Replaces every kind of line ending with a line feed.
+/// Replaces all kinds of line endings with line feeds.
 QString withLineFeeds(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -46,8 +46,8 @@ void print(FILE *stream, const QString &text)
     fflush(stream);
 }
 
-// Passes a Qt log message to the sink and to standard error. The values of QtMsgType are not
-// ordered by severity, so they cannot be compared with "<".
+// Passes a Qt log message to the sink and, depending on its severity, to standard error. The
+// severities are compared for equality because the values of QtMsgType are not ordered by severity.
 void log(QtMsgType type, const char *text)
 {
     if (const LineSink sink = logSink)

@@ -14,27 +14,27 @@ const char ENTITY_DECLARATION[] = "<!ENTITY";
 const int LONGEST_DECLARATION_START = 4 * int(sizeof ENTITY_DECLARATION); // in UTF-32
 const qint64 BLOCK_SIZE = qint64(64) * 1024;
 
-/// Raises an error for an undeclared entity. Otherwise, the parser would skip the entity, and a
-/// USSD code that contains the entity would become a different code.
+/// Reports an undeclared entity as an error. By default, the parser skips the entity, which could
+/// change a USSD code into a different one.
 void refuseUnknownEntity(QXmlStreamReader &reader)
 {
     reader.raiseError(
         QString::fromLatin1("Entity '%1' not declared.").arg(reader.name().toString()));
 }
 
-/// Returns true if the bytes contain an entity declaration. In UTF-16, the letters of the
-/// declaration are separated by zero bytes, which are therefore ignored.
+/// Returns true if the bytes contain an entity declaration. Zero bytes are ignored, because they
+/// separate the letters in UTF-16.
 bool declaresEntity(QByteArray bytes)
 {
     return bytes.replace('\0', "").contains(ENTITY_DECLARATION);
 }
 
-/// Searches the device for an entity declaration and returns to the current position. The search
-/// does not parse the document, because parsing would already expand parameter entities.
+/// Searches the device for an entity declaration, and then restores the position. The function
+/// searches the raw bytes, because parsing the document would already expand parameter entities.
 bool declaresEntity(QIODevice &device)
 {
     const qint64 start = device.pos();
-    QByteArray end; // the end of the previous block, which may contain the start of a declaration
+    QByteArray end; // the end of the previous block, where a declaration may start
     bool found = false;
     while (!found && !device.atEnd()) {
         const QByteArray block = end + device.read(BLOCK_SIZE);
@@ -97,8 +97,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// Counts the depth of nested elements. In contrast, QXmlStreamReader::readElementText() calls
-/// itself for each nested element, so that deep nesting would overflow the stack.
+/// Tracks the depth of nested elements in a loop. QXmlStreamReader::readElementText() is recursive,
+/// so deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

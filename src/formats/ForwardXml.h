@@ -11,20 +11,20 @@ namespace Formats
 {
 
 /*
- * Functions for forward scans of an XML document. The plug-in's files are read from start to end by
- * element name alone. Nesting is not checked, so the order of the elements is significant.
+ * Functions that scan an XML document forward. The plug-in's files are read from start to end by
+ * element name, regardless of how the elements are nested. The order of the elements is therefore
+ * significant.
  *
  * A document is read up to its first error. If the error is in text or in the attributes of a start
- * tag, this text or these attributes are treated as empty. Everything after the error is also
- * treated as empty.
+ * tag, this text or these attributes are treated as empty. The rest of the document is ignored.
  */
 namespace ForwardXml
 {
 
 /// Makes `reader` parse the document in `device` from the current position. The device must be
-/// random-access and must outlive the parsing. A document that declares entities is refused: the
-/// reader then reports an error and no token. Qt 4 expands entities without a limit, so a document
-/// of 600 bytes could use up all memory.
+/// random-access and must outlive the reader. Documents that declare entities are rejected with an
+/// error, because Qt 4 expands entities without a limit. A document of 600 bytes could therefore
+/// exhaust the memory.
 void start(QXmlStreamReader &reader, QIODevice &device);
 /// Makes `reader` parse `document` in the same way.
 void start(QXmlStreamReader &reader, const QByteArray &document);
@@ -36,8 +36,8 @@ QXmlStreamReader::TokenType next(QXmlStreamReader &reader);
 /// the element was found.
 bool skipTo(QXmlStreamReader &reader, const QString &name);
 
-/// Moves in the same way as skipTo(), but returns false after an end element with the name `fence`.
-/// If `fence` equals `name`, it is ignored.
+/// Like skipTo(), but returns false at the end element named `fence`. Has the same effect as
+/// skipTo() if `fence` equals `name`.
 bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &fence);
 
 /// Returns the complete text of the current element, including nested elements. Returns an empty

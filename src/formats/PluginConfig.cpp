@@ -198,8 +198,8 @@ int windowFlags(const QString &list)
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags)
 {
     flags = 0;
-    // Look up each prefix, starting with the longest. The time therefore does not depend on the
-    // size of the map.
+    // Look up each prefix of the IMSI, starting with the longest. The time of the search therefore
+    // does not depend on the size of the map.
     for (int length = imsi.length(); length > 0; --length) {
         const QHash<QString, int>::const_iterator found = prefixes.constFind(imsi.left(length));
         if (found != prefixes.constEnd()) {

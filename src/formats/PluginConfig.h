@@ -11,9 +11,9 @@ namespace Formats
 
 /*
  * The contents of USSDPluginConfig.xml as plain values, and the functions that read them. They do
- * not depend on files, windows or the singleton. Each function reads forward from the current
- * position of the reader. A value is set to false, 0 or an empty string if it is missing, cannot be
- * parsed, or comes after an error in the document.
+ * not depend on files or windows. Each function reads forward from the current position of the
+ * reader. A value is false, 0 or an empty string if it is missing, invalid, or preceded by an error
+ * in the document.
  */
 
 /** The appearance of sent or received lines in the transcript. */
@@ -47,13 +47,13 @@ struct PrePostDiffer {
     int style = 0;
 };
 
-/** The windows that are offered for each SIM. */
+/** The windows that are available for each SIM. */
 struct AutoUSSD {
     bool valid = false;
     QHash<QString, int> imsiMap; // maps an IMSI prefix to a combination of WindowFlag
 };
 
-/** A window that is offered for a SIM. The flags are combined in an int. */
+/** A window that is available for a SIM. Flags are combined in an int. */
 enum WindowFlag {
     WINDOW_PREPAID = 1,
     WINDOW_POSTPAID = 2,
@@ -61,7 +61,7 @@ enum WindowFlag {
     WINDOW_ADVANCED = 8
 };
 
-/** The component that shows the subscriber's own phone number. */
+/** The settings of the component that shows the subscriber's own phone number. */
 struct ConfigMSISDN {
     bool value = false;
     int pos = 0;
@@ -69,14 +69,14 @@ struct ConfigMSISDN {
     int updateButton = 0;
 };
 
-/** The component that links to the top-up page. */
+/** The settings of the component that links to the top-up page. */
 struct ConfigOnlineCharge {
     bool value = false;
     int pos = 0;
     QString url;
 };
 
-/** The component that tops up the balance with a code that the user enters. */
+/** The settings of the component that tops up the balance with a code entered by the user. */
 struct ConfigCharge {
     bool value = false;
     int pos = 0;
@@ -87,7 +87,7 @@ struct ConfigCharge {
     QString limitText;
 };
 
-/** The component that shows the balance. */
+/** The settings of the component that shows the balance. */
 struct ConfigBalance {
     bool value = false;
     int pos = 0;
@@ -95,8 +95,8 @@ struct ConfigBalance {
 };
 
 /**
- * The entire file except its USSD-SMS section. In each array, index 0 is for prepaid and index 1 is
- * for postpaid.
+ * The contents of the file without its USSD-SMS section. In each array, index 0 is for prepaid and
+ * index 1 is for postpaid SIMs.
  */
 struct PluginConfig {
     static const int PAID_TYPES = 2;
@@ -113,30 +113,31 @@ struct PluginConfig {
     AutoUSSD autoUSSD;
 };
 
-/// Reads all sections except "clearHistory", in their required order. "clearHistory" may be
-/// anywhere in the file, so readClearHistory() needs a reader that is at the start of the document.
+/// Reads all sections except "clearHistory" in their required order. Because "clearHistory" may be
+/// anywhere in the file, readClearHistory() must be called with a reader at the start of the
+/// document.
 void readConfiguration(QXmlStreamReader &reader, PluginConfig &config);
 
 /// Reads the settings for the prepaid/postpaid detection. An error in the section disables the
 /// detection.
 void readPrePostDiffer(QXmlStreamReader &reader, PrePostDiffer &differ);
-/// Reads the section "Prepaid" (0) or "Postpaid" (1). Always reads four items, even if the fourth
-/// is outside the section.
+/// Reads the section "Prepaid" (`paidType` 0) or "Postpaid" (1). The section should contain four
+/// items. If it contains fewer, the next items of the document are read instead.
 void readPaidSection(QXmlStreamReader &reader, int paidType, PluginConfig &config);
 /// Reads the section XmlName::SENT_CHAR or XmlName::RECEIVED_CHAR.
 void readCharSection(QXmlStreamReader &reader, const char *section, Char &look);
 void readCmdEdit(QXmlStreamReader &reader, CmdEdit &edit);
 void readClearHistory(QXmlStreamReader &reader, ClearHistory &clear);
-/// Reads to the end of the document and includes every "item" after "autoUSSD". An error in the
-/// section disables the section and discards its items.
+/// Reads the section "autoUSSD". Every "item" up to the end of the document belongs to this
+/// section. An error in the section disables the section and discards its items.
 void readAutoUSSD(QXmlStreamReader &reader, AutoUSSD &autoUSSD);
 
-/// Returns the window flags for a list such as "Prepaid/Advanced", whose names are separated by
-/// "/". Unknown names are ignored.
+/// Returns the flags for a list of window names such as "Prepaid/Advanced". Unknown names are
+/// ignored.
 int windowFlags(const QString &list);
 
 /// Returns true if the map contains a prefix of `imsi`. Sets `flags` to the flags of the longest
-/// such prefix, or to 0 if there is none.
+/// matching prefix, or to 0 if there is none.
 bool matchImsi(const QHash<QString, int> &prefixes, const QString &imsi, int &flags);
 
 } // namespace Formats

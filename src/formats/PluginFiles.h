@@ -8,8 +8,8 @@ namespace Formats
 {
 
 /*
- * The plug-in's folder and its files. The folder is inside the folder that
- * CommonUtils::GetPluginLibraryPath() returns.
+ * The names of the plug-in's folder and files. CommonUtils::GetPluginLibraryPath() returns the path
+ * of the folder that contains FOLDER.
  */
 namespace PluginFiles
 {
@@ -20,7 +20,7 @@ const QLatin1String CONFIGURATION("USSDPluginConfig.xml");
 const QLatin1String SYSTEM_PROFILES("ussdsysprofile.xml");
 const QLatin1String LIBRARY("libUSSDUIPlugin.so");
 
-/// Returns the path of one of these files. `pluginLibrary` is the folder that contains FOLDER.
+/// Returns the path of the file. `pluginLibrary` is the folder that contains FOLDER.
 inline QString path(const QString &pluginLibrary, QLatin1String file)
 {
     return pluginLibrary + FOLDER + QLatin1Char('/') + file;

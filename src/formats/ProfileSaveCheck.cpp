@@ -12,16 +12,16 @@ namespace Formats
 namespace
 {
 
-/// Returns true if there is enough disk space for the profiles. Only a complete write detects a
-/// full disk. QTemporaryFile deletes the trial file.
+/// Returns true if there is enough disk space for the profiles. The function writes all profiles to
+/// a temporary file, because only a complete write can detect a full disk.
 bool isRoomFor(QTemporaryFile &trial, const QList<USSDProfile> &profiles)
 {
     ProfileXml::write(trial, profiles);
     return trial.flush() && trial.error() == QFile::NoError;
 }
 
-/// Returns true if the existing file can be opened for writing. This may be possible even if no new
-/// file can be created in the folder.
+/// Returns true if the file exists and can be opened for writing. An existing file may be writable
+/// even if its folder is not.
 bool canBeOpened(const QString &path)
 {
     QFile file(path);

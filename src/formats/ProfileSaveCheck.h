@@ -9,15 +9,14 @@
 namespace Formats
 {
 
-/* Checks that a profile file can be written. */
+/* Checks whether profiles can be saved. */
 namespace ProfileSaveCheck
 {
 
 enum MissingFolder { FolderIsMade, FolderIsNotMade };
 
-/// Returns true if `profiles` can be written to the file at this time. The editor makes this check
-/// before it saves profiles, because saving starts by deleting the old file. The function does not
-/// change any files.
+/// Returns true if `profiles` can currently be written to the file. The editor checks this in
+/// advance, because saving starts by deleting the old file. The function does not change any files.
 bool canBeSaved(const QString &path, const QList<USSDProfile> &profiles, MissingFolder missing);
 
 } // namespace ProfileSaveCheck

@@ -19,12 +19,11 @@ namespace ProfileXml
 {
 
 /// Reads the next profile, except for `isSystem`, which remains false. Returns false at the end of
-/// the document. If a field is missing, the following fields are taken from the next item. If the
-/// document contains an error, the field that contains the error and all later fields are empty or
-/// false.
+/// the document. If a field is missing, the remaining fields are read from the next item. If the
+/// document contains an error, the field with the error and all later fields are empty or false.
 bool readNext(QXmlStreamReader &reader, USSDProfile &profile);
 
-/// Writes a complete document with these profiles. Omits characters that XML forbids.
+/// Writes a complete document that contains the profiles. Characters that XML forbids are omitted.
 void write(QIODevice &device, const QList<USSDProfile> &profiles);
 
 } // namespace ProfileXml

@@ -10,16 +10,17 @@ namespace Formats
 {
 
 /*
- * The format of the file with an operator's patterns for replies. Each line that is neither empty
- * nor begins with "#" has a name, "=", and a regular expression with the named group "value".
+ * The format of a file that contains an operator's patterns for network replies. Empty lines and
+ * lines that begin with "#" are ignored. Every other line contains a name, "=", and a regular
+ * expression with the named group "value".
  */
 namespace ReplyPatternFile
 {
 
-/// The name of the file in the folder of the plug-in's files.
+/// The name of the pattern file in the folder of the plug-in's files.
 const QLatin1String NAME("replies.patterns");
 
-/// The first line of a file of this kind.
+/// The first line of a pattern file.
 const QLatin1String TITLE("# USSD reply patterns");
 
 const QLatin1String BALANCE("balance");
@@ -30,7 +31,7 @@ const QLatin1String NUMBER("number");
 const QLatin1String DATA_LEFT("data-left");
 const QLatin1String DATA_TOTAL("data-total");
 
-/** A line of the file. */
+/** A line of a pattern file. */
 struct Line {
     int line = 0; // starts at 1
     QString name; // empty if the line has no "="
@@ -39,9 +40,9 @@ struct Line {
 
 QList<Line> read(const QByteArray &content);
 
-/// Returns true if the value of this name is a regular expression.
+/// Returns true if the line with this name contains a regular expression.
 bool isPattern(const QString &name);
-/// Returns true if the name is one of the names above.
+/// Returns true if the name is one of the names defined above.
 bool isKnown(const QString &name);
 
 } // namespace ReplyPatternFile

@@ -17,8 +17,8 @@ const int LARGEST_SIDE = (1 << 24) - 1; // in pixels; the value of QWIDGETSIZE_M
 
 const int MAX_COMPLAINTS = 20;
 const int MAX_QUOTED = 40;  // the maximum length of a quoted value in a complaint
-const int MAX_CONTROLS = 6; // per group; enough to detect a group with too many controls
-const int MAX_GROUPS = 500; // per file; far more than the number of tree entries
+const int MAX_CONTROLS = 6; // per group; sufficient to detect that a group has too many controls
+const int MAX_GROUPS = 500; // per file; far more than there are tree entries
 
 /// Returns the value in quotation marks, shortened to fit into a log line.
 QString quoted(const QString &text)
@@ -29,8 +29,8 @@ QString quoted(const QString &text)
 }
 
 /**
- * Reads the section from start to end by element name. An element with an unknown name is ignored,
- * but the elements inside it are read.
+ * Reads the section from start to end by element name. Unknown elements are ignored, but known
+ * elements inside them are read.
  */
 class Reader
 {
@@ -131,8 +131,8 @@ int Reader::number(const char *name, const QString &text)
     return value;
 }
 
-/// Returns the number from the file even if it is out of range, because geometry() limits the value
-/// when the widget is placed.
+/// Returns the value of the attribute even if it is out of range, because geometry() limits the
+/// value when the widget is placed.
 int Reader::pixels(const char *name, int least)
 {
     const int value = numberAttribute(name);
@@ -166,7 +166,7 @@ bool Reader::readDocument()
         readSection();
     if (!m_xml.hasError())
         checkGroups();
-    else // kept even if there are too many complaints
+    else // kept even if the number of complaints has reached the limit
         m_layout.complaints.prepend(onLine(m_xml.errorString()));
     return !m_xml.hasError();
 }
@@ -253,8 +253,8 @@ void Reader::takeOrdinary(CTreeItem *entry)
     ++m_layout.ordinaryEntries;
 }
 
-/// Returns the reason why the entry is dropped, or an empty string if the entry is kept. The tree
-/// has two levels, and its root comes first.
+/// Returns the reason why the entry is dropped, or an empty string if the entry is accepted. The
+/// tree has two levels, and the root must be the first entry.
 QString Reader::whyDropped(const CTreeItem &entry) const
 {
     if (m_layout.ordinaryEntries >= SmsLayoutFile::MAX_ORDINARY_ENTRIES)
@@ -368,8 +368,8 @@ void Reader::checkInput(const CWidgetItemInfo &control)
                      .arg(SmsLayoutFile::MAX_INPUT_LENGTH));
 }
 
-/// Adds a complaint for each group without an entry. Must be called at the end of the section,
-/// because a group may come before the tree.
+/// Adds a complaint for each group that has no tree entry. Must be called at the end of the
+/// section, because a group may precede the tree.
 void Reader::checkGroups()
 {
     const QList<int> numbers = m_layout.groups.keys();
@@ -389,7 +389,7 @@ QRect placed(const QRect &asRead, int dialogWidth, bool mirrored)
     return QRect(QPoint(dialogWidth - asRead.x() - asRead.width(), asRead.y()), asRead.size());
 }
 
-/// Returns a coordinate that Qt can add and subtract without an integer overflow.
+/// Returns a coordinate small enough that Qt can add and subtract it without an integer overflow.
 int boundedPlace(int pixels)
 {
     return qBound(-LARGEST_SIDE, pixels, LARGEST_SIDE);
@@ -446,8 +446,8 @@ QRegExp inputPattern(const CWidgetItemInfo &control)
     return QRegExp(characters + QString::fromLatin1("{0,%1}").arg(length), Qt::CaseSensitive);
 }
 
-/// A bracket that closes the character class could be followed by any pattern, even by one that
-/// takes QRegExp hours and gigabytes of memory to expand. A bracket in the first position is an
+/// Any pattern could follow a bracket that closes the character class, including a pattern that
+/// takes QRegExp hours and gigabytes of memory to compile. A bracket in the first position is an
 /// ordinary character.
 bool isCharacterClass(const QString &limitText)
 {

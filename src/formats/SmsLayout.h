@@ -16,10 +16,9 @@ namespace Formats
 {
 
 /*
- * The layout of the USSD-SMS window and the commands of its services, as specified in their section
- * of the configuration file, and the functions that read them. They do not depend on files, windows
- * or the singleton. If a value cannot be used, it is dropped or replaced, and a complaint is added
- * to SmsLayout::complaints.
+ * The layout of the USSD-SMS window and the commands of its services, and the functions that read
+ * them from the configuration file. They do not depend on files or windows. An invalid value is
+ * dropped or replaced, and a complaint is added to SmsLayout::complaints.
  */
 
 /** The size of the window in pixels, as specified in the file. */
@@ -46,12 +45,12 @@ struct CTreeItem {
 };
 
 /**
- * The ways in which a control sends its command. These are the values of CWidgetItemInfo::kind and
+ * Specifies how a control sends its command. These are the values of CWidgetItemInfo::kind and
  * CCommandWidget::kind.
  */
 enum SmsControlKind {
-    CONTROL_KIND_NONE = 0, // there is no "type"
-    CONTROL_KIND_SMS = 1,  // any other "type"
+    CONTROL_KIND_NONE = 0, // "type" is missing
+    CONTROL_KIND_SMS = 1,  // "type" has any other value
     CONTROL_KIND_USSD = 2  // "type" is exactly "ussd"
 };
 
@@ -72,7 +71,7 @@ struct CWidgetItemInfo {
     QString number;    // recipient of the short message
 };
 
-/** The controls that are shown next to the tree while a certain entry is selected. */
+/** The controls that are shown next to the tree while their entry is selected. */
 struct CWidget {
     CWidget() = default;
     ~CWidget() { qDeleteAll(controls); }
@@ -82,7 +81,7 @@ struct CWidget {
     QList<CWidgetItemInfo *> controls; // owned; in the order of the file
 };
 
-/** The entire section. SmsLayout owns its records. */
+/** The contents of the section. SmsLayout owns the records. */
 struct SmsLayout {
     SmsLayout() = default;
     ~SmsLayout() { clear(); }
@@ -94,8 +93,8 @@ struct SmsLayout {
     CDlgInfo dialog;
     CTreeInfo tree;
     bool hasRoot = false;
-    int rootNumber = 0;      // valid only if hasRoot is true
-    int ordinaryEntries = 0; // accepted entries, including entries that replaced an earlier entry
+    int rootNumber = 0;             // valid only if hasRoot is true
+    int ordinaryEntries = 0;        // number of accepted entries, including replaced entries
     QMap<int, CTreeItem *> entries; // keyed by the number of the entry
     QMap<int, CWidget *> groups;    // keyed by the number of the tree entry
     QStringList complaints;         // the first few complaints, each with its line number
@@ -105,39 +104,38 @@ struct SmsLayout {
 namespace SmsLayoutFile
 {
 
-/// The number of controls in a group. A group with a different number of controls is kept but never
-/// shown.
+/// The number of controls in a complete group. Incomplete groups are stored but never shown.
 const int CONTROLS_OF_GROUP = 5;
 const int MAX_ORDINARY_ENTRIES = 25;
-/// The highest repetition count that QRegExp supports, which is therefore the maximum length of an
-/// input field.
+/// The maximum length of an input field, which is the highest repetition count that QRegExp
+/// supports.
 const int MAX_INPUT_LENGTH = 1024;
 /// The maximum length of "LimitText". A longer LimitText is ignored.
 const int MAX_LIMIT_TEXT = 1000;
-/// The maximum width and height of the window in pixels. A larger window could need more memory
-/// than is available.
+/// The maximum width and height of the window in pixels. Without this limit, a window could use up
+/// the memory.
 const int MAX_WINDOW_SIDE = 4096;
 
-/// Reads to the end of the document. Returns false if the document is not well-formed. The elements
-/// before the error are kept.
+/// Reads to the end of the document. Returns false if the document is not well-formed, but keeps
+/// the elements that precede the error.
 bool read(QXmlStreamReader &reader, SmsLayout &layout);
 
 /// Reads one "Dialog" element. The reader must be at its start element.
 void readDialogElement(QXmlStreamReader &reader, SmsLayout &layout);
 
-/// Returns the pattern for the input in this control. A LimitText that is not a character class is
-/// ignored. The length is limited to the highest repetition count that QRegExp supports.
+/// Returns the pattern that the input in this control must match. LimitText is ignored if it is not
+/// a character class. The length is limited to the highest repetition count that QRegExp supports.
 QRegExp inputPattern(const CWidgetItemInfo &control);
 
-/// Returns true if the string, when enclosed in "[" and "]", is exactly one character class.
+/// Returns true if the string forms exactly one character class when it is enclosed in "[" and "]".
 bool isCharacterClass(const QString &limitText);
 
 /// Returns the size of the window, with each side limited to the range from 0 to MAX_WINDOW_SIDE.
 QSize windowSize(const CDlgInfo &dialog);
 
-/// Returns the geometry of a control or of the tree in a window with the given width. The values
-/// are limited to a range that is safe for Qt's calculations. If `mirrored` is true, the distance
-/// from the left side becomes the distance from the right side.
+/// Returns the geometry of a control or of the tree in a window of the given width. All values are
+/// limited to a range in which Qt's calculations cannot overflow. If `mirrored` is true, the
+/// distance from the left side becomes the distance from the right side.
 QRect geometry(const CWidgetItemInfo &control, int dialogWidth, bool mirrored);
 QRect geometry(const CTreeInfo &tree, int dialogWidth, bool mirrored);
 

@@ -20,10 +20,11 @@ struct USSDProfile {
 };
 
 /// Returns the name of a placeholder, which is a profile without a code. The button of a
-/// placeholder sends nothing. It only keeps the buttons before it from being payment buttons.
+/// placeholder does not send a command. Because the last two buttons are payment buttons,
+/// placeholders at the end make the buttons before them ordinary buttons.
 inline QString placeholderName()
 {
-    return QString(QChar(0x2013)); // an en dash, which is clear in any language
+    return QString(QChar(0x2013)); // an en dash, which is understood in every language
 }
 
 inline bool operator==(const USSDProfile &a, const USSDProfile &b)

@@ -11,11 +11,11 @@ namespace Formats
 
 /*
  * Rules for USSD commands such as *100# or *101*%s#: the position of the user's input, the maximum
- * length, the form that a network accepts, and the reading direction. The windows use these rules
- * to build and show commands. The provisioning library and the tools use them to check files.
+ * length, the format that networks accept, and the reading direction. The windows use these rules
+ * to build and show commands. The provisioning library and the tools use the rules to check files.
  */
 
-/// The placeholder in a command. It is replaced with the user's input.
+/// The placeholder for the user's input in a command.
 const QLatin1String INPUT_PLACEHOLDER("%s");
 
 /// The length of the longest command that the plug-in sends, in UTF-16 code units.
@@ -28,16 +28,16 @@ bool isDialable(const QString &text);
 /// begins with a star or a hash, and ends with a hash (3GPP TS 22.090).
 bool isUssdCode(const QString &text);
 
-/// Returns true if `text` begins with a star or a hash, as in *100#, or does not contain any
-/// letters, as in a phone number. Such a string is read from left to right in every language. Any
-/// other string follows the direction of the language.
+/// Returns true if `text` begins with a star or a hash, as in *100#, or contains no letters, as in
+/// a phone number. Such strings are displayed from left to right in every language. All other
+/// strings follow the direction of the language.
 bool isCodeLike(const QString &text);
 
-/// Returns the length of the command in UTF-16 code units after each placeholder has been replaced
-/// with `input` characters.
+/// Returns the length of the command in UTF-16 code units if each placeholder is replaced with
+/// `input` characters.
 int commandLength(const QString &command, int input);
 
-/// Returns the number of characters that the user can enter without making the command longer than
+/// Returns the maximum number of characters that the user can enter before the command exceeds
 /// LONGEST_COMMAND. Returns 0 for a command without a placeholder.
 int longestInput(const QString &command);
 

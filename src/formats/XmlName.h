@@ -6,7 +6,7 @@ namespace Formats
 
 /*
  * The names of the elements and attributes in the configuration file and the profile files, and the
- * values that have a meaning in these files. The spelling is part of the formats.
+ * predefined values. The spelling is part of the file formats and must not be corrected.
  */
 namespace XmlName
 {
@@ -91,7 +91,7 @@ const char SHOW_BUTTON[] = "showButton";
 const char LANG_ID[] = "langID";
 const char DESCRIPTION_LANG_ID[] = "desLangID";
 
-// The values of switches
+// The values of options
 const char ON[] = "true";
 const char OFF[] = "false";
 

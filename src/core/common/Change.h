@@ -7,8 +7,7 @@
  * Looks up strings in the user's language.
  *
  * The strings are stored in compiled Qt Linguist files whose source texts are the text keys. The
- * host selects the language. When the language has changed, the host sends
- * PluginContract::EVENT_LANGUAGE_CHANGED.
+ * host selects the language and sends PluginContract::EVENT_LANGUAGE_CHANGED after each change.
  */
 class Q_DECL_EXPORT Change
 {
@@ -16,7 +15,7 @@ public:
     /// Returns the string for `key` in the current language. `context` is the name of the plug-in
     /// to which the key belongs, such as "USSDUIPlugin".
     ///
-    /// The strings of the plug-in may be replaced by the operator whose folder is in use.
+    /// An operator can override the strings of the plug-in.
     ///
     /// If the language has no string for the key, returns the English string. If there is no
     /// English string either, returns the key itself. Returns an empty string if the key is empty.

@@ -10,8 +10,8 @@
 class QWidget;
 
 /**
- * Services that the host provides to its plug-ins. The functions must be called from the GUI
- * thread, unless their comments allow any thread.
+ * Services that the host provides to its plug-ins. Unless documented otherwise, the functions must
+ * be called from the GUI thread.
  */
 class Q_DECL_EXPORT CommonUtils
 {
@@ -25,16 +25,16 @@ public:
     static void MoveCentre(QWidget *widget);
     /// Returns true if the host runs in its small mode, in which windows have no frames.
     static bool IsMiniMode();
-    /// Returns true if the host is shutting down. Call-backs of the device SDK check this, because
-    /// they may still run during the shutdown. May be called from any thread.
+    /// Returns true if the host is shutting down. Call-backs of the device SDK must check this,
+    /// because the SDK may still call them during the shutdown. May be called from any thread.
     static bool IsShuttingDown();
     /// Returns the absolute path of the folder that contains "plugins/USSDUIPlugin/". The path does
     /// not end with a separator. May be called from any thread.
     static QString GetPluginLibraryPath();
 
-    /// Shows `text` as plain text in a message box and waits for the user's choice. Events are
-    /// processed in the meantime. The button keys are translated in the context "USSDUIPlugin". If
-    /// the second key is empty, the message box has only one button.
+    /// Shows `text` as plain text in a message box and waits for the user's choice in a local event
+    /// loop. The button keys are translated in the context "USSDUIPlugin". If the second key is
+    /// empty, the message box has only one button.
     ///
     /// Returns QMessageBox::Ok if the user presses the first button. Returns QMessageBox::Cancel if
     /// the user presses the second button or Escape or closes the window, or if `parent` is
@@ -45,8 +45,8 @@ public:
 
     /// If the text of `widget` is at least `maxWidth` pixels wide, elides it to this width and sets
     /// the full text as the tool tip. Otherwise, clears the tool tip. `T` must provide
-    /// fontMetrics(), text(), setText() and setToolTip(). The template is compiled into the
-    /// plug-in.
+    /// fontMetrics(), text(), setText() and setToolTip(). Because this is a template, its code is
+    /// compiled into the plug-in.
     template <typename T>
     static void setElidedTextForWidgetText(T *widget, int maxWidth, Qt::TextElideMode mode)
     {
@@ -63,7 +63,7 @@ public:
     }
 
 private:
-    /// Writes a debug line with the local time. Used by the template above.
+    /// Logs a debug message with the local time. Called only by setElidedTextForWidgetText().
     static void logElide(int line, const char *what);
 };
 

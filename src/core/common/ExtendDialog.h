@@ -6,30 +6,31 @@
 /**
  * The host's frame for a plug-in's window.
  *
- * The plug-in creates, uses and deletes its frames only on the GUI thread.
+ * Frames must be created, used and deleted only on the GUI thread.
  */
 class Q_DECL_EXPORT ExtendDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// Creates a hidden, empty frame. If `parent` is not null, its destructor deletes the frame.
-    /// `widgetType` selects the host's frame style. The value 1 selects a plain window.
+    /// Creates a hidden, empty frame. `widgetType` selects the host's frame style; the value 1 is a
+    /// plain window.
     explicit ExtendDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags(),
                           int widgetType = 1);
-    /// Also deletes the content unless the content has been given another parent.
+    /// Deletes the frame and its content. Content that now has another parent is not deleted.
     ~ExtendDialog() override;
 
     /// Shows `widget` as the content of the frame. The frame becomes the parent of `widget` and
     /// deletes it in its destructor. The previous content is hidden and remains a child of the
     /// frame. Does nothing if `widget` is null or is already the content.
     ///
-    /// A frame that would be larger than the screen takes the size of the screen. The parent of its
-    /// content is then a scroll area in the frame.
+    /// If the frame would be larger than the screen, it is reduced to the size of the screen. Its
+    /// content is then moved into a scroll area.
     void AddMainWidget(QWidget *widget);
 
 signals:
-    /// Emitted before the frame is hidden, when the user closes the frame or close() is called. A
-    /// receiver may delete the content immediately, but must delete the frame with deleteLater().
+    /// Emitted before the frame is hidden, either because the user closes it or because of a call
+    /// to close(). A receiver may delete the content immediately but must use deleteLater() for the
+    /// frame.
     void dlgCloseEvent();
 
 protected:

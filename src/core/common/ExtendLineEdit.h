@@ -4,18 +4,17 @@
 #include <QLineEdit>
 
 /**
- * The host's line edit, which behaves like QLineEdit. Plug-ins use it for their input fields, so
- * that a style sheet of the host can select these fields by the class name.
+ * The host's line edit, which behaves like QLineEdit. Plug-ins use this class for their input
+ * fields so that the host can style these fields by class name.
  */
 class Q_DECL_EXPORT ExtendLineEdit : public QLineEdit
 {
     Q_OBJECT
 public:
-    /// Creates an empty field without a length limit. The field is deleted together with `parent`.
-    /// As with every widget, the constructor must be called from the GUI thread.
+    /// Creates an empty field without a length limit. Like all widgets, the field is deleted by its
+    /// parent and must be created on the GUI thread.
     explicit ExtendLineEdit(QWidget *parent = nullptr);
-    /// Defined in the core library, so that only this library contains the virtual table of the
-    /// class.
+    /// Defined out of line so that the compiler emits the virtual table only in the core library.
     ~ExtendLineEdit() override;
 };
 

@@ -10,7 +10,7 @@
 class QObject;
 
 /**
- * The functions that every plug-in has, regardless of its purpose.
+ * The functions that every plug-in provides, regardless of its purpose.
  *
  * The order of the base classes and of the functions is part of the binary interface. The host
  * calls all functions from its GUI thread.
@@ -23,8 +23,8 @@ public:
     /// Prepares the plug-in. This is the first function that the host calls after it has loaded the
     /// plug-in. Returns false if the plug-in cannot be used.
     virtual bool Init() = 0;
-    /// Returns the kind of plug-in as a number that the host defines. Returns 0 if the plug-in has
-    /// no such number.
+    /// Returns the plug-in type, a number defined by the host. Returns 0 if the plug-in has no
+    /// type.
     virtual int GetPluginType() = 0;
     /// Returns the identifier of the plug-in, or an empty string if it has none.
     virtual QString GetCLSID() = 0;

@@ -14,9 +14,9 @@ public:
 
     /// Deletes the plug-in's windows and services. The plug-in object itself remains usable.
     virtual void OnDestroy() = 0;
-    /// Unregisters the plug-in's call-backs from the device SDK. When the function has returned, no
-    /// call-back is running and none will start. The host must not unload the library before this
-    /// call.
+    /// Unregisters the plug-in's call-backs from the device SDK. When the function returns, no
+    /// call-back is running and none will be called again. The host must call this function before
+    /// it unloads the library.
     virtual void UnSDKRegisterEvent() = 0;
 };
 

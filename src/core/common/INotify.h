@@ -4,8 +4,9 @@
 #include <QtPlugin>
 
 /**
- * Receives events from the host. A plug-in object implements this interface in addition to its
- * other interfaces. The host finds it with qobject_cast and calls it from the GUI thread.
+ * Receives events from the host. A plug-in object can implement this interface in addition to its
+ * other interfaces. The host obtains the interface with qobject_cast and calls it from the GUI
+ * thread.
  */
 class INotify
 {
@@ -13,9 +14,9 @@ public:
     /// Allows the host to delete a plug-in object through this interface.
     virtual ~INotify() {}
 
-    /// Handles `event`, which is one of the EVENT_ constants of PluginContract. Unknown events are
-    /// ignored. The meaning of the two parameters depends on the event. Always returns 0, so the
-    /// host cannot tell from the result whether the event is known.
+    /// Handles `event`, one of the EVENT_ constants of PluginContract. The meaning of the two
+    /// parameters depends on the event. Unknown events are ignored. Always returns 0, even for
+    /// unknown events.
     virtual int Notify(unsigned int event, unsigned int param1, unsigned int param2) = 0;
 };
 

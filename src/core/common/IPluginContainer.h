@@ -17,8 +17,8 @@ public:
     /// Returns the plug-in with the identifier `clsid`, or null if it is not loaded. Identifiers
     /// are case-sensitive.
     ///
-    /// The container owns the plug-in object. A caller that keeps the pointer while it calls the
-    /// host must use a QPointer, because the host may unload the plug-in during the call.
+    /// The container owns the plug-in object and may unload it whenever the caller calls a function
+    /// of the host. Use a QPointer to keep the result during such a call.
     virtual QObject *GetPlugin(const QString &clsid) = 0;
 };
 

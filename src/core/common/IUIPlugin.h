@@ -9,7 +9,7 @@
 class QWidget;
 
 /**
- * A plug-in with windows. The page of the plug-in is the window that the host can embed.
+ * A plug-in with windows. The page is the window that a host can embed in its own window.
  *
  * The order of the functions is part of the binary interface. The host calls all functions from its
  * GUI thread.
@@ -30,10 +30,10 @@ public:
     /// Moves and resizes the page that ShowWindow() has shown. `rect` has the same meaning as in
     /// ShowWindow().
     virtual void FitSize(QRect &rect) = 0;
-    /// Returns true if the host should offer the page when the host starts.
+    /// Returns true if the host should show the page in its user interface at start-up.
     virtual bool IsReady() = 0;
-    /// Returns true if the plug-in supports the language `lang`, an ISO 639-1 code. Does not change
-    /// the language, because the plug-in updates its strings when it receives
+    /// Returns true if the plug-in supports the language `lang`, an ISO 639-1 code. The function
+    /// does not change the language. The plug-in updates its strings when it receives
     /// PluginContract::EVENT_LANGUAGE_CHANGED.
     virtual bool ChangeLang(const QString &lang) = 0;
 };

@@ -30,13 +30,13 @@ public:
     virtual ~IUSSD() {}
 
     /// If `ask` is true and the configuration enables the query, asks the network whether the SIM
-    /// is prepaid or postpaid. The result arrives later through INotifyService as
-    /// PluginContract::MESSAGE_PRE_POST_INFO.
+    /// is prepaid or postpaid. The host later receives the result as
+    /// PluginContract::MESSAGE_PRE_POST_INFO from INotifyService.
     ///
     /// If `ask` is true, `inUse` is set to true if the configuration enables the query, otherwise
     /// to false. If the query is enabled, `postpaid` is set to false, and `result` is set to 1 if
     /// the query was sent, otherwise to 0. In all other cases, the arguments keep their values.
-    /// Returns 1 on success, or 0 if the plug-in is not able to work.
+    /// Returns 1 on success, or 0 if the plug-in is not usable.
     virtual int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask) = 0;
     /// Shows the window `type` in a separate frame that blocks the frame's parent. Returns without
     /// waiting for the user. Returns 1 if the frame was shown, otherwise 0.
@@ -45,12 +45,12 @@ public:
     /// PAID_TYPE_GENERAL. `rect` specifies the position and size of the window in pixels, in the
     /// coordinates of `parent`. Always returns 0.
     virtual int ShowPrePostPaidWindow(QWidget *parent, QRect &rect, PAID_TYPE type) = 0;
-    /// Returns true if the windows to offer depend on the IMSI of the SIM.
+    /// Returns true if the configuration selects the windows by the IMSI of the SIM.
     virtual bool IsImsiDynamicMatch() = 0;
     /// Returns true if the configuration contains an entry for `imsi`, the digits of an IMSI (3GPP
-    /// TS 23.003). Sets `flags` to the windows to offer for this SIM: the sum of 1 (prepaid), 2
-    /// (postpaid), 4 (common) and 8 (advanced, which is the general window). Sets `flags` to 0 if
-    /// there is no entry.
+    /// TS 23.003). Sets `flags` to the windows that are available for this SIM: the sum of 1
+    /// (prepaid), 2 (postpaid), 4 (common) and 8 (advanced, which is the general window). Sets
+    /// `flags` to 0 if there is no entry.
     virtual bool CheckImsiIsValid(const QString &imsi, int &flags) = 0;
 };
 

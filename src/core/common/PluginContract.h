@@ -4,8 +4,8 @@
 #include <cstddef>
 
 /**
- * The constants and the record that a host and the plug-in exchange. They are part of the binary
- * interface, so that a host that is built today works with a plug-in that is built years later.
+ * The constants and the record that the host and the plug-in exchange. They are part of the binary
+ * interface and must not change, because the host and the plug-in may be built at different times.
  */
 namespace PluginContract
 {
@@ -13,7 +13,7 @@ namespace PluginContract
 /// The identifier for which IBasePlugin::QueryInterface() returns the USSD service (IUSSD).
 const int USSD_SERVICE = 4097;
 
-// The events that the host sends with INotify::Notify(). Both parameters of each event are 0.
+// Events that the host sends with INotify::Notify(). Both parameters are always 0.
 const unsigned int EVENT_LANGUAGE_CHANGED = 320; ///< the language of Change::tr() has changed
 const unsigned int EVENT_CHECK_SIM = 579;        ///< the SIM was replaced or became readable
 
@@ -25,12 +25,12 @@ const unsigned int MESSAGE_PRE_POST_INFO = 384;
 
 /**
  * The result of the prepaid/postpaid query. The plug-in owns the record, which is valid only during
- * the notification. Therefore, a host must copy the values that it needs. The order and the size of
- * the fields are part of the binary interface.
+ * the call to INotifyService::Notify(). A host must copy the values that it needs. The order and
+ * the size of the fields are part of the binary interface.
  */
 struct PrePostRecord {
     bool bInUse = false;    ///< true if the configuration enables the query
-    bool bPostPaid = false; ///< has no meaning while `result` is 0
+    bool bPostPaid = false; ///< meaningless if `result` is 0
     int result = 0; ///< 1 if the query was sent; 0 if it was not sent or not answered in time
 };
 

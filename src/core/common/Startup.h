@@ -8,8 +8,8 @@ class IPluginContainer;
 /**
  * Gives plug-ins access to the objects that the host creates when it starts.
  *
- * Plug-ins call the function each time they need an object. They must not store the result, because
- * the host may replace or delete the object.
+ * Call the function each time you need an object. Do not store the result, because the host may
+ * replace or delete the object.
  */
 class Q_DECL_EXPORT Startup
 {
