@@ -15,7 +15,7 @@ namespace Tksv
 namespace
 {
 
-/// Returns the scenario of an absent device. It replaces a scenario file that cannot be read.
+/// Returns a scenario without a device. It is used if the scenario file cannot be read.
 Scenario absentDevice(const std::string &source)
 {
     Scenario scenario;
@@ -24,8 +24,8 @@ Scenario absentDevice(const std::string &source)
     return scenario;
 }
 
-/// Returns the network of the initial scenario. Prints the errors in the file to stderr, because no
-/// API function can return them.
+/// Returns the network of the initial scenario. Prints errors in the scenario file to stderr,
+/// because the API has no function that could report them.
 std::shared_ptr<SimulatedNetwork> initialNetwork()
 {
     const std::string path = initialScenarioPath();
@@ -36,7 +36,7 @@ std::shared_ptr<SimulatedNetwork> initialNetwork()
     return std::make_shared<SimulatedNetwork>(absentDevice(path));
 }
 
-/// Returns the value of the environment variable, or an empty text if it is not set.
+/// Returns the value of the environment variable, or an empty string if it is not set.
 std::string valueOf(const char *variable)
 {
     const char *value = std::getenv(variable);
@@ -50,8 +50,8 @@ BackendChoice::BackendChoice(BackendObserver &observer)
 {
 }
 
-/// Returns the kind that the environment selects. A scenario file selects the simulator unless
-/// $TKSV_BACKEND selects a modem.
+/// Returns the kind of backend that the environment selects. If $TKSV_BACKEND is not set, a
+/// scenario file in $TKSV_SCENARIO selects the simulator.
 BackendChoice::Kind BackendChoice::initialKind()
 {
     const std::string name = valueOf("TKSV_BACKEND");
@@ -108,7 +108,7 @@ std::string BackendChoice::useScenario(const std::string &path)
         return describe(result.complaints);
     const std::lock_guard<std::mutex> lock(m_switchMutex);
     if (m_initialKind != Kind::Simulator)
-        startWatch(); // the watch provides the modem list
+        startWatch(); // the watch provides the list of modems
     replace({std::make_shared<SimulatedNetwork>(*std::move(result.scenario)), nullptr});
     return std::string();
 }
@@ -152,15 +152,15 @@ BackendChoice::Device BackendChoice::modemDevice(const std::string &equipmentId)
     return {modem, modem};
 }
 
-/// Stops the old backend before it starts the new one, so that their events never mix. The old
-/// request and session end with the old backend.
+/// Stops the old backend, which ends its session and its request, before starting the new one. The
+/// events of the two backends can therefore never mix.
 void BackendChoice::replace(const Device &next)
 {
     if (m_stopped)
         return;
     if (const std::shared_ptr<Backend> old = current())
         end(*old);
-    // Report the new status before the new backend can report a change.
+    // Report the new SMS status before the new backend starts and can report a change.
     m_observer.smsStatusChanged(next.backend->info().canSendSms);
     start(next);
     m_observer.infoChanged();
@@ -168,7 +168,7 @@ void BackendChoice::replace(const Device &next)
 
 void BackendChoice::end(Backend &old)
 {
-    old.stop(); // also discards a device that the old backend has found in the meantime
+    old.stop(); // also discards a modem that the old backend has found since the call began
     if (old.info().state != TKSV_DEVICE_ABSENT)
         m_observer.deviceLost(TKSV_DEV_EVENT_GONE);
 }
@@ -180,8 +180,8 @@ void BackendChoice::start(const Device &device)
     m_device = device;
 }
 
-/// Starts the watch. If the watch is already running, it looks for modems again, because a missing
-/// message bus may have become available.
+/// Starts the watch. If it is already running, makes it search for modems again, because the
+/// message bus or ModemManager may have become available.
 void BackendChoice::startWatch()
 {
     if (m_stopped)

@@ -16,19 +16,18 @@ namespace Tksv
 class ModemManagerBackend;
 
 /**
- * Decides which backend is the device: the backend that the environment or the client selects,
- * otherwise a modem. The simulator is used only if it was selected. The backend is created when it
- * is first needed and can be replaced at any time.
+ * Selects the backend to use. The environment or the client can select a simulated network or a
+ * certain modem. By default, any modem is used. The simulator is used only if it is selected
+ * explicitly. The backend is created on demand and can be replaced at any time.
  *
- * Locks: m_switchMutex is held while a backend is replaced. It is taken before every lock of the
- * session, the backends and the services; m_mutex is taken after all of these. The watch's thread
- * takes only m_mutex.
+ * Locking: m_switchMutex is held while a backend is replaced. It must be locked before all locks of
+ * the session, the backends and the services. m_mutex must be locked after all of these. The
+ * watch's thread locks only m_mutex.
  */
 class BackendChoice
 {
 public:
-    /// The observer must outlive this object. stop() must be called before this object is
-    /// destroyed.
+    /// `observer` must outlive this object. Call stop() before destroying this object.
     explicit BackendChoice(BackendObserver &observer);
     BackendChoice(const BackendChoice &) = delete;
     BackendChoice &operator=(const BackendChoice &) = delete;
@@ -40,28 +39,29 @@ public:
     std::shared_ptr<Backend> current() const;
 
     /// Switches to the simulated network of a scenario file. An empty path selects the initial
-    /// scenario. Returns an empty string on success, otherwise the error messages for the file.
+    /// scenario. Returns an empty string on success, otherwise the errors in the scenario file.
     std::string useScenario(const std::string &path);
-    /// Switches to a modem. An empty identifier selects the first modem that is registered, or the
-    /// first modem that was found if none is registered.
+    /// Switches to the modem with this identifier. If the identifier is empty, uses the first modem
+    /// that is registered, or the first modem found if none is registered.
     void useModem(const std::string &equipmentId);
-    /// Switches back to the device that the program started with.
+    /// Switches back to the device that was selected when the program started.
     void useAutomatic();
-    /// Looks for ModemManager and its modems again, unless the program uses only the simulator.
+    /// Searches for ModemManager and its modems again, unless the program uses only the simulator.
     void lookAgain();
-    /// Sets how long each later request may wait for another program of the same user.
+    /// Sets how long a request may wait for other programs of the same user. Applies to later
+    /// requests.
     void setTurnLimit(std::chrono::milliseconds limit);
     /// Returns the modems that ModemManager has found, oldest first.
     std::vector<ModemSummary> modems() const { return m_watch.modems(); }
 
-    /// Stops the backend and all threads. A backend that is created later rejects every request.
+    /// Stops the backend and all threads. Backends that are created afterwards reject all requests.
     void stop();
 
 private:
     enum class Kind { Simulator, Modem };
 
-    /// The backend in use. `modem` is the same backend if it is a modem, otherwise null. Both are
-    /// null until the first backend is created.
+    /// The current backend. If it is a modem, `modem` also points to it; otherwise, `modem` is
+    /// null. Both pointers are null until the first backend is created.
     struct Device {
         std::shared_ptr<Backend> backend;
         std::shared_ptr<ModemManagerBackend> modem;

@@ -11,10 +11,10 @@ namespace Tksv
 namespace
 {
 
-/// The time that the exiting program waits for a running call-back of a service.
+/// The time that the program waits at its exit for a running call-back.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
-/// The listener key in a service that has only one listener.
+/// The key of the listener in a service with a single listener.
 const std::uintptr_t ONLY_KEY = 1;
 
 std::uintptr_t keyOf(TKSV_EventCallback callback)
@@ -37,9 +37,9 @@ Event statusEvent(bool canSend)
 
 } // namespace
 
-/// The first call creates the object and registers an exit handler that calls stop(). Exit handlers
-/// run in reverse order. Therefore, the call-backs end before static objects that the client
-/// created earlier are destroyed.
+/// Creates the object on the first call and registers an exit handler that stops it. Exit handlers
+/// and destructors of static objects run in reverse order of registration. The call-backs therefore
+/// end before static objects that the client created earlier are destroyed.
 DeviceSdk &DeviceSdk::instance()
 {
     static DeviceSdk *const sdk = [] {
@@ -97,8 +97,8 @@ void DeviceSdk::addUssdCallback(TKSV_EventCallback callback)
     m_choice.backend();
 }
 
-/// Removes the call-back. Removing the last call-back also ends the session. Otherwise, the network
-/// would keep the session open although no call-back receives its replies.
+/// Removes the call-back. Also ends the session if this was the last call-back, because nothing
+/// would receive the network's replies.
 bool DeviceSdk::removeUssdCallback(TKSV_EventCallback callback)
 {
     const bool found = m_ussdEvents.remove(keyOf(callback));
@@ -118,8 +118,8 @@ bool DeviceSdk::removeDeviceCallback(TKSV_EventCallback callback)
     return m_deviceEvents.remove(keyOf(callback));
 }
 
-/// Adds the call-back and posts the current status to this call-back only. The event is dropped if
-/// the status has changed before delivery, because the change raises its own event.
+/// Adds the call-back and posts the current status for this call-back only. If the status changes
+/// before delivery, the event is dropped, because the change raises its own event.
 void DeviceSdk::addSmsCallback(TKSV_EventCallback callback)
 {
     m_smsEvents.add(keyOf(callback), handlerOf(callback));
@@ -157,7 +157,7 @@ void DeviceSdk::setInfoCallback(TKSV_DeviceInfoCallback callback, void *context)
     m_infoEvents.replaceAll(ONLY_KEY, std::move(handler));
 }
 
-/// Sets the call-back. The posted event delivers the messages that have been kept so far.
+/// Sets the call-back and posts an event that delivers the stored messages to it.
 void DeviceSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     EventService::Handler handler;

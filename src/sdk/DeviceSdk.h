@@ -13,12 +13,11 @@ namespace Tksv
 {
 
 /**
- * The implementation of the C functions. It owns the services, the session and the current backend.
+ * Implements the C functions. The object owns the services, the session and the current backend.
  *
- * Threads: each service has a thread, which is started by the first event. The backends have their
- * own threads. All threads end when the program exits. The object itself is never destroyed,
- * because other threads of the client may still be inside a call. For the same reason, the library
- * is never unloaded.
+ * Threads: each service has a thread, which the first event starts. Each backend has its own
+ * thread. All threads end when the program exits. The object itself is never destroyed, because
+ * threads of the client may still be using it. For the same reason, the library is never unloaded.
  *
  * Lock order: UssdSession, backend, services. The locks of BackendChoice are documented in that
  * class.

@@ -27,8 +27,8 @@ bool EventService::remove(std::uintptr_t key)
     const auto end = std::remove_if(m_listeners.begin(), m_listeners.end(), hasKey);
     const bool found = end != m_listeners.end();
     m_listeners.erase(end, m_listeners.end());
-    // Wait even if another thread has removed the listener. The listener must not run after this
-    // call in that case either.
+    // Wait even if another thread has already removed the listener, because the listener may still
+    // be running.
     waitUntilIdle(lock, key);
     return found;
 }
@@ -105,8 +105,8 @@ bool EventService::call(std::uint64_t listenerId, const Event &event)
     return taken;
 }
 
-/// Returns true if the listener still exists. The listener is then treated as running until
-/// endCall().
+/// Marks the listener as running until endCall() is called. Returns false if the listener has been
+/// removed.
 bool EventService::beginCall(std::uint64_t listenerId, Handler &handler)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -138,9 +138,9 @@ bool EventService::contains(std::uintptr_t key) const
     return std::any_of(m_listeners.begin(), m_listeners.end(), hasKey);
 }
 
-/// Waits until the current call to the listener has returned. Does not wait for later calls to a
-/// listener that was added again. Does not wait after stop(), so that a hanging call-back cannot
-/// block the client's exit.
+/// Waits until the running call to the listener has returned. Later calls to a listener with the
+/// same key are not waited for. After stop(), does not wait at all, so that a blocked call-back
+/// cannot prevent the client from exiting.
 void EventService::waitUntilIdle(std::unique_lock<std::mutex> &lock, std::uintptr_t key)
 {
     if (m_stopping || !key || m_runningKey != key || m_deliveries.isCurrent())

@@ -14,20 +14,21 @@
 namespace Tksv
 {
 
-/** An event to be delivered to the listeners of one service. */
+/** An event for the listeners of a service. */
 struct Event {
     int number = 0;
-    std::shared_ptr<void> data; // the record; destroyed after the last listener has returned
-    std::uintptr_t onlyKey = 0; // the only listener to receive the event; 0: all
-    /// Called from the service's thread immediately before delivery. If the function returns false,
-    /// the event is dropped. If the function is empty, the event is always delivered.
+    std::shared_ptr<void> data; // the record; destroyed after the last call
+    std::uintptr_t onlyKey = 0; // the listener that receives the event; 0: all listeners
+    /// Called from the service's thread immediately before delivery. Returns false to drop the
+    /// event. May be empty.
     std::function<bool()> beforeDelivery;
-    /// Called after delivery. `taken` is true if a listener accepted the event. May be empty.
+    /// Called after delivery. `taken` is true if at least one listener accepted the event. May be
+    /// empty.
     std::function<void(bool taken)> afterDelivery;
 };
 
 /**
- * A service of the SDK. It calls its listeners one after the other from its own thread.
+ * A service of the SDK. It calls its listeners one after another from its own thread.
  *
  * Every function may be called from any thread, even from inside a listener. No lock is held while
  * a listener, `beforeDelivery` or `afterDelivery` runs.
@@ -35,7 +36,7 @@ struct Event {
 class EventService
 {
 public:
-    /// The type of a listener function. Returns true if the listener accepted the event.
+    /// A listener. Returns true if it accepts the event.
     using Handler = std::function<bool(int number, void *data)>;
 
     /// `threadName` has at most 15 characters and must remain valid until the program ends.
@@ -45,25 +46,25 @@ public:
     EventService(const EventService &) = delete;
     EventService &operator=(const EventService &) = delete;
 
-    /// Adds a listener, which receives the events that are posted from now on. Does nothing if the
-    /// key is already in use.
+    /// Adds a listener for the events that are posted from now on. Does nothing if the key is
+    /// already in use.
     void add(std::uintptr_t key, Handler handler);
-    /// Removes a listener. When the function returns, the listener is not running and will not run
-    /// again. If the listener itself makes the call, the function returns immediately. Returns true
-    /// if there was a listener with this key.
+    /// Removes a listener. Waits until the listener has returned if it is running, unless the
+    /// listener itself makes the call. The listener is not called again. Returns true if the key
+    /// was in use.
     bool remove(std::uintptr_t key);
-    /// Removes all listeners in the same way as remove(). Then adds a listener unless `handler` is
-    /// empty.
+    /// Removes all listeners in the same way as remove(), and then adds `handler` as a listener
+    /// unless it is empty.
     void replaceAll(std::uintptr_t key, Handler handler);
     /// Returns true if there are no listeners.
     bool isEmpty() const;
 
-    /// Delivers the event from the service's thread.
+    /// Queues the event. The service's thread delivers it.
     void post(Event event);
 
-    /// Drops the pending events and does not call any more listeners. Waits at most `limit` for a
-    /// running listener. Returns true if the thread has ended. The object may be destroyed only if
-    /// the function has returned true.
+    /// Drops the pending events and waits at most `limit` for a running listener. No listener is
+    /// called afterwards. Returns true if the thread has ended. The object must not be destroyed
+    /// unless this function has returned true.
     bool stop(std::chrono::milliseconds limit);
 
 private:

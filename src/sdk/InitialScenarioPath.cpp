@@ -11,7 +11,8 @@ namespace Tksv
 namespace
 {
 
-/// An object whose address is passed to dladdr(). Any object of this library would do.
+/// An object that is passed to dladdr() to identify this library. Any object of the library would
+/// do.
 const char ADDRESS_IN_LIBRARY = 0;
 
 /// Returns the folder from which this library was loaded.
@@ -20,7 +21,7 @@ std::filesystem::path libraryFolder()
     Dl_info info = {};
     if (dladdr(&ADDRESS_IN_LIBRARY, &info) == 0 || !info.dli_fname)
         return {};
-    std::error_code ignored; // a path that cannot be resolved is used unchanged
+    std::error_code ignored; // if an error occurs, the unresolved path is used
     const std::filesystem::path path = std::filesystem::canonical(info.dli_fname, ignored);
     return path.empty() ? std::filesystem::path(info.dli_fname).parent_path() : path.parent_path();
 }

@@ -15,14 +15,14 @@ struct TKSV_SMSRecordData {
 namespace Tksv
 {
 
-/** The messages owned by clients. A handle is only looked up, never dereferenced. */
+/** The messages owned by clients. A handle is used only as a key and is never dereferenced. */
 class SmsRecords
 {
 public:
     TKSV_SMSRecord create(SmsMessage message);
-    /// Returns no value if the handle does not identify a message.
+    /// Returns the message, or std::nullopt if the handle is invalid.
     std::optional<SmsMessage> find(TKSV_SMSRecord record) const;
-    /// Deletes the message. Returns true if the handle identified a message.
+    /// Deletes the message. Returns false if the handle is invalid.
     bool release(TKSV_SMSRecord record);
 
 private:

@@ -28,8 +28,7 @@ std::string withSlash(std::string path)
     return path;
 }
 
-/// Returns the user's home directory from the user database. This is the fallback if $HOME is not
-/// set.
+/// Returns the user's home directory from the user database. Used if $HOME is not set.
 std::string homeOfUser()
 {
     std::vector<char> buffer(16384);
@@ -64,7 +63,8 @@ std::string userDataFolder()
     const std::string chosen = environment("TKSV_USER_DATA");
     if (!chosen.empty())
         return withSlash(chosen);
-    // XDG_DATA_HOME is ignored unless its path is absolute.
+    // A relative path in XDG_DATA_HOME is ignored, as the XDG Base Directory Specification
+    // requires.
     const std::string dataHome = environment("XDG_DATA_HOME");
     if (!dataHome.empty() && dataHome.front() == '/')
         return withSlash(dataHome) + APP_FOLDER;

@@ -13,8 +13,8 @@ namespace Tksv
  */
 std::string userDataFolder();
 
-/// Creates the folder and its missing parents with access for this user only (mode 0700). Returns
-/// true if the folder exists afterwards.
+/// Creates the folder and its missing parents with access for the current user only (mode 0700).
+/// Returns true if the folder exists afterwards.
 bool createFolder(const std::string &path);
 
 } // namespace Tksv

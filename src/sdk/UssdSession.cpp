@@ -63,8 +63,8 @@ bool UssdSession::cancel(Backend &backend)
     return isCancelled;
 }
 
-/// Assigns a new token to the request in flight. A reply that has already been posted is then
-/// treated as late, and only the empty reply is delivered.
+/// Cancels the request in flight by assigning a new token. A reply that has already been posted
+/// then counts as late and is dropped, so that the client receives only the empty reply.
 bool UssdSession::cancelRequest(Backend &backend)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -105,14 +105,14 @@ SessionInfo UssdSession::info() const
                        isInCallback() ? m_deliveredRequest : m_request};
 }
 
-/// Must be called with m_mutex locked.
+/// Returns true if called from the call-back of a reply. Must be called with m_mutex locked.
 bool UssdSession::isInCallback() const
 {
     return m_deliveryThread == std::this_thread::get_id();
 }
 
-/// Records the failure of the newest request. If a call-back made this request, lastFailure()
-/// returns this failure inside the call-back, too. Must be called with m_mutex locked.
+/// Stores the failure of the newest request. If the request was made in a call-back, lastFailure()
+/// returns the failure to this call-back as well. Must be called with m_mutex locked.
 void UssdSession::recordFailure(const Failure &failure)
 {
     m_failure = failure;
@@ -157,7 +157,7 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_state != State::InFlight || token != m_token)
-        return false; // the request was replaced, released or lost with the device
+        return false; // the request was replaced or released, or the device was lost
     m_failure = m_deliveredFailure = reply.failure;
     m_deliveredRequest = m_request;
     m_deliveryThread = std::this_thread::get_id();
@@ -168,9 +168,9 @@ bool UssdSession::acceptReply(RequestToken token, const UssdReply &reply)
     return true;
 }
 
-/// Returns true if the message can be delivered now. A network-initiated message must not be
-/// mistaken for the reply to a request, so it is held back until the session is idle. By then, the
-/// session of the message has ended, and the message can no longer be answered.
+/// Returns true if the message can be delivered now. While a session is open, a network-initiated
+/// message is held back so that it is not mistaken for the reply to a request. When it is finally
+/// delivered, it can no longer be answered.
 bool UssdSession::acceptText(const UssdReply &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -196,9 +196,8 @@ void UssdSession::delivered(const UntakenText &text, bool taken)
     keepUnlessTaken(text, taken);
 }
 
-/// Stores a message that no call-back accepted. Drops an empty message unless the network is
-/// waiting for an answer. In this case, the client must be notified even though the content of the
-/// message is unknown.
+/// Stores a message that no call-back accepted. An empty message is dropped unless the network is
+/// waiting for an answer: the client must then be notified although the message has no text.
 void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
 {
     if (taken || (text.reply.text.empty() && text.reply.type != UssdWaitsForAnswer))
@@ -220,8 +219,8 @@ void UssdSession::becomeIdle()
     postHeldTexts();
 }
 
-/// Posts the messages that were held back. They are delivered after the reply whose call-back is
-/// about to start. Must be called with m_mutex locked.
+/// Posts the messages that were held back. They are delivered after the current reply. Must be
+/// called with m_mutex locked.
 void UssdSession::postHeldTexts()
 {
     const std::vector<UssdReply> texts = std::exchange(m_heldTexts, {});

@@ -15,13 +15,13 @@
 namespace Tksv
 {
 
-/** A message that no call-back of the client accepted. */
+/** A message that none of the client's call-backs accepted. */
 struct UntakenText {
     std::chrono::system_clock::time_point receivedAt;
     UssdReply reply;
 };
 
-/** The state of the session, see TKSV_SessionInfo. */
+/** The state of the session; see TKSV_SessionInfo. */
 struct SessionInfo {
     TKSV_SessionState state = TKSV_SESSION_IDLE;
     unsigned long requestCount = 0;
@@ -29,12 +29,12 @@ struct SessionInfo {
 };
 
 /**
- * The client's view of the only USSD session (3GPP TS 22.090). The class implements the rules
- * documented in tksv.h for every backend.
+ * The USSD session (3GPP TS 22.090) from the client's point of view. The class implements the rules
+ * of tksv.h for all backends.
  *
- * A reply counts as delivered once its call-back has started. Until then, a newer request or a
- * release cancels the reply. If the call-back makes a request, the session is already in the state
- * that follows from the reply.
+ * A reply counts as delivered as soon as its call-back starts. Until then, a new request or a
+ * release cancels the reply. If the call-back makes a request, the session already reflects the
+ * reply.
  *
  * m_mutex is locked while the backend is called, but never while a call-back runs.
  */
@@ -44,37 +44,38 @@ public:
     using Post = std::function<void(Event)>;
 
     /// `post` passes an event to the USSD service. `textUntaken` is called from the service's
-    /// thread when a new message is available from takeUntakenTexts(). `changed` is called without
-    /// a lock after the return value of info() may have changed.
+    /// thread when takeUntakenTexts() has a new message. `changed` is called, with no lock held,
+    /// when the result of info() may have changed.
     UssdSession(Post post, std::function<void()> textUntaken, std::function<void()> changed);
     UssdSession(const UssdSession &) = delete;
     UssdSession &operator=(const UssdSession &) = delete;
 
-    /// Sends the string as an answer or in a new session, depending on the session's state. Returns
-    /// a RequestStatus. A request that is not accepted has no effect.
+    /// Sends the string, either as an answer or in a new session, depending on the state of the
+    /// session. Returns a RequestStatus. A rejected request has no effect.
     int request(Backend &backend, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void release(Backend &backend);
-    /// Ends the request in flight, which then receives an empty reply. Returns false if there is no
+    /// Cancels the request in flight, which receives an empty reply. Returns false if there is no
     /// request in flight.
     bool cancel(Backend &backend);
-    /// Records the reason why a request failed before it reached the backend.
+    /// Records the failure of a request that was rejected before it reached the backend.
     void recordRefusal(TKSV_Failure reason);
-    /// Returns the failure of the newest request. If called from the call-back of a reply, returns
-    /// the failure of the request to which the reply belongs.
+    /// Returns the failure of the newest request. In the call-back of a reply, returns the failure
+    /// of the request that the reply belongs to.
     Failure lastFailure() const;
-    /// Returns the state and the newest accepted request. If called from a call-back, returns the
-    /// request to which the reply belongs.
+    /// Returns the state of the session and the newest accepted request. In the call-back of a
+    /// reply, returns the request that the reply belongs to.
     SessionInfo info() const;
 
-    /// Delivers the backend's reply to a request. A late reply is dropped.
+    /// Delivers the backend's reply to a request. Drops the reply if the request is no longer in
+    /// flight.
     void handleReply(RequestToken token, const UssdReply &reply);
     /// Delivers a network-initiated message.
     void handleText(const UssdReply &text);
     /// Ends the session and the request in flight after the device has been lost.
     void deviceLost();
 
-    /// Returns the most recent messages that no call-back accepted, oldest first. Clears the list.
+    /// Removes and returns the most recent messages that no call-back accepted, oldest first.
     std::vector<UntakenText> takeUntakenTexts();
 
 private:
@@ -109,8 +110,8 @@ private:
     Failure m_failure; // the failure of the newest request
     unsigned long m_requestCount = 0;
     std::string m_request; // the newest accepted request
-    // The thread that is running the call-back of a reply. For this thread, lastFailure() and
-    // info() describe the request of this reply.
+    // The thread that is running the call-back of a reply. If called from this thread,
+    // lastFailure() and info() refer to the request that the reply belongs to.
     std::thread::id m_deliveryThread;
     Failure m_deliveredFailure;
     std::string m_deliveredRequest;

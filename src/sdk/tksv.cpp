@@ -1,4 +1,4 @@
-/* The C functions. Arguments are checked and converted to plain value types only in this file. */
+/* The C functions. Only this file validates arguments and converts them to C++ value types. */
 
 #include <memory>
 
@@ -15,8 +15,8 @@ namespace
 const long SUCCESS = 0;
 const long FAILURE = 1;
 
-/// Runs the function and converts an exception to a failure. Exceptions must not cross the C
-/// interface, but the function may throw if memory or threads are exhausted.
+/// Calls the function and converts an exception to a failure. Exceptions, which can occur when
+/// memory or threads are exhausted, must not cross the C interface.
 template <typename Function>
 long guarded(Function function)
 {
@@ -38,7 +38,7 @@ void setStatus(int *status, int value)
         *status = value;
 }
 
-/// Calls the function with the DeviceSdk. Fails if the call-back is null.
+/// Calls the function with the DeviceSdk, or fails if the call-back is null.
 template <typename Function>
 long withCallback(TKSV_EventCallback callback, Function function)
 {

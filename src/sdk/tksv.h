@@ -4,17 +4,17 @@
  * The interface is plain C and can be used from C89, C++98 or newer. All strings are UTF-16 in host
  * byte order.
  *
- * Results: every function returns 0 on success and another value on failure. A function also fails
- * if a required pointer is null, or if no memory or no thread is available.
+ * Results: every function returns 0 on success and a non-zero value on failure. A function also
+ * fails if a required pointer is null, or if memory or threads are exhausted.
  *
- * Threads: every function may be called from any thread, even from inside a call-back. Functions do
- * not wait for the network.
+ * Threads: every function may be called from any thread, even from inside a call-back. No function
+ * waits for the network.
  *
- * Call-backs: the SDK calls them from its own threads, and never from inside a call that the client
- * makes. For each of the three services (device, USSD, SMS), only one call-back runs at a time.
- * When an unregister function has returned, the call-back is not running and will not run again. If
- * the call-back itself calls the unregister function, that function returns immediately. When the
- * program exits, the SDK waits at most one second for the running call-back of a service.
+ * Call-backs: the SDK calls them from its own threads, never from inside a function that the client
+ * has called. Each of the three services (device, USSD, SMS) runs only one call-back at a time.
+ * When an unregister function returns, the call-back is not running and will not be called again.
+ * If the call-back itself calls the unregister function, that function returns immediately. At
+ * program exit, the SDK waits for at most one second for a running call-back of each service.
  */
 #ifndef TKSV_H
 #define TKSV_H
@@ -31,9 +31,9 @@ extern "C" {
 /* ---- call-backs and events --------------------------------------------------------------- */
 
 /**
- * The type of a function that the SDK calls for each event. The meaning of `event` and `data`
- * depends on the service with which the call-back is registered. The SDK owns `data`, which is
- * valid only during the call.
+ * A function that the SDK calls for each event. The meaning of `event` and `data` depends on the
+ * service with which the call-back is registered. The SDK owns `data`, which is valid only during
+ * the call.
  *
  * Returns 1 if the client accepted the event, otherwise 0. The call-back must not throw an
  * exception.
@@ -63,13 +63,13 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
 #define TKSV_USSD_MAX_UNITS 184
 
 /**
- * The maximum length of a command that a client sends, in bytes. This is enough for 91 UTF-16 code
- * units. The SDK itself accepts any length that fits into the record.
+ * The maximum length of a command from a client in bytes, which is enough for 91 UTF-16 code units.
+ * The SDK does not enforce this limit; it accepts any length that fits into the record.
  */
 #define TKSV_USSD_MAX_COMMAND_BYTES 183
 
 /**
- * A command to the network (3GPP TS 22.090). The record has a size of 372 bytes on every platform.
+ * A command for the network (3GPP TS 22.090). The size of the record is 372 bytes on all platforms.
  */
 typedef struct TKSV_USSDRequest {
     unsigned int length; /* length of the command in bytes: an even number from 2 to 368 */
@@ -90,8 +90,8 @@ typedef struct TKSV_USSDResponse {
 } TKSV_USSDResponse;
 
 /**
- * The outcome of sending a short message. Both strings are copies of the strings that were passed
- * to TKSV_SMSSrv_CreateSMSRecord. They are zero-terminated UTF-16 strings owned by the record.
+ * The result of sending a short message. The two strings are copies of the strings passed to
+ * TKSV_SMSSrv_CreateSMSRecord. They are null-terminated UTF-16 strings owned by the record.
  */
 typedef struct TKSV_SMSSendResult {
     unsigned char reserved0[16];  /* has no meaning */
@@ -106,31 +106,30 @@ typedef struct TKSV_SMSStatus {
     int status; /* TKSV_SMS_STATUS_CAN_SEND or TKSV_SMS_STATUS_CANNOT_SEND */
 } TKSV_SMSStatus;
 
-/** The handle of a short message, whose contents are private to the SDK. */
+/** The handle of a short message. The contents of the record are private to the SDK. */
 typedef struct TKSV_SMSRecordData *TKSV_SMSRecord;
 
 /* ---- USSD (3GPP TS 22.090) --------------------------------------------------------------- */
 
 /**
  * Sends a command to the network. The record is copied. An accepted request receives at most one
- * response. The response is treated as delivered once its call-back has started.
+ * response, which counts as delivered as soon as its call-back starts.
  *
- * If the network waits for an answer, the request is sent as the answer. A request in the form of a
- * code (it starts with * or # and ends with #) ends the session and starts a new session instead. A
- * request that is made while an earlier request is in flight replaces the earlier request. The
- * earlier request then receives no response.
+ * If the network is waiting for an answer, the request is sent as the answer. However, a request in
+ * the form of a code (it starts with * or # and ends with #) ends this session and starts a new
+ * one. A new request replaces a request in flight, which then receives no response.
  *
- * Fails and sets `*status` to a value other than 0 if there is no usable device, or if the record
- * is malformed. A record is malformed if its length is 0, odd or over 368, if its text is not
- * well-formed UTF-16, or if its text contains a zero code unit. `*status` is
- * TKSV_STATUS_DEVICE_TIMEOUT if the device did not respond in time. A request that fails affects
- * neither the session nor a request in flight. `status` must not be null.
+ * Fails and sets `*status` to a non-zero value if there is no usable device or if the record is
+ * malformed. A record is malformed if its length is 0, odd or greater than 368, or if its text is
+ * not well-formed UTF-16 or contains a null character. If the device did not respond in time,
+ * `*status` is TKSV_STATUS_DEVICE_TIMEOUT. A failed request does not affect the session or a
+ * request in flight. `status` must not be null.
  */
 TKSV_API long TKSV_USSDSrv_Request(TKSV_USSDRequest *request, int *status);
 
 /**
- * Ends the USSD session and the request in flight, which then receives no response. The call also
- * succeeds if no session is open. Sets `*status` to 0. `status` may be null.
+ * Ends the USSD session. A request in flight is cancelled and receives no response. The function
+ * succeeds even if no session is open. Sets `*status` to 0. `status` may be null.
  */
 TKSV_API long TKSV_USSDSrv_Release(int *status);
 
@@ -159,7 +158,7 @@ TKSV_API long TKSV_DevSrv_UnRegisterDevInitEventCallback(TKSV_EventCallback call
 /* ---- short messages (3GPP TS 23.040) ----------------------------------------------------- */
 
 /**
- * Registers a call-back for SMS events. If messages can be sent at this time, the call-back soon
+ * Registers a call-back for SMS events. If messages can currently be sent, the call-back soon
  * receives the status TKSV_SMS_STATUS_CAN_SEND.
  */
 TKSV_API long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback);
@@ -168,7 +167,7 @@ TKSV_API long TKSV_SMSSrv_RegCallBack(TKSV_EventCallback callback);
 TKSV_API long TKSV_SMSSrv_UnRegCallBack(TKSV_EventCallback callback);
 
 /**
- * Creates a message from two zero-terminated UTF-16 strings, which are copied. `number` must not be
+ * Creates a message from two null-terminated UTF-16 strings, which are copied. `number` must not be
  * empty. On success, the caller owns `*record` and must release it with
  * TKSV_SMSSrv_ReleaseSMSRecord. On failure, `*record` is null.
  */
@@ -176,8 +175,9 @@ TKSV_API long TKSV_SMSSrv_CreateSMSRecord(TKSV_SMSRecord *record, const unsigned
                                           const unsigned short *text);
 
 /**
- * Sends the message. TKSV_SMS_EVENT_SEND_RESULT reports the outcome later. Fails if no message can
- * be sent at this time, or if `record` is not a valid handle. After a failure, no event is sent.
+ * Sends the message. The event TKSV_SMS_EVENT_SEND_RESULT reports the result later. The function
+ * fails, and no event follows, if messages cannot currently be sent or if `record` is not a valid
+ * handle.
  */
 TKSV_API long TKSV_SMSSrv_SendMsg(TKSV_SMSRecord record);
 
@@ -190,8 +190,8 @@ TKSV_API long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord record);
 /* ---- folders ----------------------------------------------------------------------------- */
 
 /**
- * Returns the user's data folder as a new zero-terminated UTF-16 array. The caller owns the array
- * and frees it with delete[]. The path ends with "/", and the folder exists. On failure,
+ * Returns the user's data folder as a new null-terminated UTF-16 array. The caller owns the array
+ * and must free it with delete[]. The path ends with "/", and the folder exists. On failure,
  * `*directory` is null.
  */
 TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
@@ -203,8 +203,9 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 /* ---- layout of the records --------------------------------------------------------------- */
 
 /*
- * The client and the library may be built with different compilers, so the layout is checked in
- * both builds. Compilers older than C11 and C++11 have no static assertions and skip the checks.
+ * The layout is checked when the client is compiled, too, because the client and the library may be
+ * built with different compilers. Compilers without static assertions (before C11 or C++11) skip
+ * the checks.
  */
 #if defined(__cplusplus) && __cplusplus >= 201103L
 #define TKSV_CHECK_LAYOUT(condition) static_assert(condition, "layout of a device SDK record")
@@ -214,8 +215,8 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 
 #ifdef TKSV_CHECK_LAYOUT
 /*
- * Selects the offset for 32-bit platforms, where a pointer has 4 bytes, or for 64-bit platforms,
- * where a pointer has 8 bytes and is aligned to 8 bytes.
+ * Selects the offset for 32-bit platforms (4-byte pointers) or for 64-bit platforms (8-byte
+ * pointers with an alignment of 8 bytes).
  */
 #define TKSV_BY_POINTER_SIZE(of4, of8) (sizeof(void *) == 4 ? (of4) : (of8))
 

@@ -10,12 +10,12 @@
 namespace Tksv
 {
 
-/// Identifies an accepted request. 0 means that there is no request.
+/// Identifies an accepted request. The value 0 means that there is no request.
 using RequestToken = std::uint64_t;
 
 enum class RequestKind { NewSession, Answer };
 
-/// The types of a reply with a text: the values of <m> in +CUSD (3GPP TS 27.007, 7.15).
+/// The reply types for a reply with text, which are values of <m> in +CUSD (3GPP TS 27.007, 7.15).
 enum UssdType { UssdFinal = 0, UssdWaitsForAnswer = 1 };
 
 /// The values that TKSV_USSDSrv_Request stores in `*status`.
@@ -29,45 +29,44 @@ enum RequestStatus {
 /** The result of Backend::request(). */
 struct RequestResult {
     int status = RequestAccepted;             // a RequestStatus
-    TKSV_Failure refusal = TKSV_FAILURE_NONE; // the reason why the request is not accepted
+    TKSV_Failure refusal = TKSV_FAILURE_NONE; // the reason why the request was rejected
 };
 
-/** The reason why a request has no reply, see TKSV_FailureInfo. */
+/** The reason why a request received no reply; see TKSV_FailureInfo. */
 struct Failure {
     TKSV_Failure reason = TKSV_FAILURE_NONE;
     bool wasNotSent = false;
     std::string text = {}; // UTF-8
 };
 
-/** A reply to a request, or a text that the network sent of its own accord. */
+/** A reply to a request, or a network-initiated message. */
 struct UssdReply {
-    int type = UssdFinal; // a UssdType; the reason if the request failed
+    int type = UssdFinal; // a UssdType, or the failure reason if the request failed
     std::string text;     // UTF-8; empty if the request failed
-    Failure failure = {}; // the reason is TKSV_FAILURE_NONE unless the request failed
+    Failure failure = {}; // the reason is TKSV_FAILURE_NONE if the request succeeded
 };
 
-/// Returns the empty reply of a request that failed.
+/// Returns the empty reply for a failed request.
 inline UssdReply failedReply(const Failure &failure)
 {
     return UssdReply{failure.reason, std::string(), failure};
 }
 
 /**
- * A short message in UTF-16. The strings are returned to the client exactly as the client passed
- * them.
+ * A short message in UTF-16. The client later receives these strings unchanged with the result.
  */
 struct SmsMessage {
     std::u16string number;
     std::u16string text;
 };
 
-/// The result codes of sending a short message, used by every backend.
+/// The result codes for sending a short message, which are the same for all backends.
 const int SMS_SENT = 0;
 const int SMS_FAILED = 1;
 
 /**
- * The state and the properties of the device; see TKSV_DeviceInfo. Strings are UTF-8. An unknown
- * string is empty.
+ * The state and the properties of the device; see TKSV_DeviceInfo. Strings are in UTF-8 and are
+ * empty if unknown.
  */
 struct DeviceInfo {
     TKSV_Backend backend = TKSV_BACKEND_SIMULATOR;
@@ -98,25 +97,25 @@ inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
 }
 
 /**
- * Receives the events of a backend. The backend calls the observer only from its own thread. It
- * never calls the observer from inside a Backend function or while it holds a lock. Each function
- * of the observer must return immediately.
+ * Receives the events of a backend. The backend calls the observer only from its own thread, never
+ * during a call to a function of Backend and never with a lock held. The observer's functions must
+ * return immediately.
  */
 class BackendObserver
 {
 public:
     virtual ~BackendObserver() = default;
 
-    /// Reports the network's reply to a request. The observer ignores the reply if the request has
+    /// Reports the network's reply to a request. The observer ignores replies to requests that have
     /// already ended.
     virtual void ussdReply(RequestToken token, const UssdReply &reply) = 0;
-    /// Reports a network-initiated message that arrived while no session was open.
+    /// Reports a network-initiated message that arrived outside a session.
     virtual void ussdText(const UssdReply &text) = 0;
     /// Reports that the device was lost, which ends the session and the request in flight. `event`
     /// is TKSV_DEV_EVENT_GONE or TKSV_DEV_EVENT_RESET.
     virtual void deviceLost(int event) = 0;
     virtual void smsStatusChanged(bool canSend) = 0;
-    /// Reports the outcome of a message that sendSms() accepted.
+    /// Reports the result of sending a message that sendSms() accepted.
     virtual void smsFinished(const SmsMessage &message, int result) = 0;
     /// Reports that a field of DeviceInfo has changed.
     virtual void infoChanged() = 0;
@@ -124,43 +123,44 @@ public:
 
 /**
  * A device and its network. Every function may be called from any thread and returns immediately.
- * The rules of a session (answers and new codes, replaced requests, late replies) are the same for
- * every backend. UssdSession implements them.
+ * UssdSession implements the session rules that all backends share, for example how answers,
+ * replaced requests and late replies are handled.
  */
 class Backend
 {
 public:
     virtual ~Backend() = default;
 
-    /// Must be called once, before any other function. `observer` must outlive the backend.
+    /// Starts the backend. Must be called once, before any other function. `observer` must outlive
+    /// the backend.
     virtual void start(BackendObserver &observer) = 0;
-    /// Waits until the backend's thread has ended. Afterwards, the observer is not called any more,
-    /// and requests are rejected with RequestNoDevice.
+    /// Stops the backend and waits until its thread has ended. Afterwards, the observer is not
+    /// called and all requests are rejected with RequestNoDevice.
     virtual void stop() = 0;
 
-    /// Sends the text to the network and replaces the request in flight. A new session ends the
-    /// open session. A request that is not accepted changes nothing.
+    /// Sends the text to the network. The new request replaces the request in flight, and a new
+    /// session replaces the open session. A rejected request has no effect.
     virtual RequestResult request(RequestToken token, RequestKind kind,
                                   const std::string &text) = 0;
     /// Ends the session and the request in flight.
     virtual void endSession() = 0;
-    /// Ends the session that another program opened. Returns false if there is none; otherwise
-    /// infoChanged() reports the outcome.
+    /// Ends a session that another program has opened. Returns false if there is no such session.
+    /// Otherwise, infoChanged() reports when the session has ended.
     virtual bool endForeignSession() = 0;
 
-    /// Returns false if no message can be sent at this time. Otherwise, smsFinished() reports the
-    /// outcome.
+    /// Starts sending the message. Returns false if no message can be sent at this time. Otherwise,
+    /// smsFinished() reports the result.
     virtual bool sendSms(const SmsMessage &message) = 0;
-    /// Returns false if the SIM does not wait for a PIN. Otherwise, infoChanged() reports the
-    /// outcome.
+    /// Sends the PIN to the SIM. Returns false if the SIM is not waiting for a PIN. Otherwise,
+    /// infoChanged() reports the result.
     virtual bool sendPin(const std::string &pin) = 0;
-    /// Enables the device. Returns false if it is not disabled; otherwise infoChanged() reports the
-    /// outcome.
+    /// Enables the device. Returns false if the device is not disabled. Otherwise, infoChanged()
+    /// reports the result.
     virtual bool enable() = 0;
     virtual DeviceInfo info() const = 0;
 };
 
-/// Returns the reason why a device in this state sends no commands.
+/// Returns the reason why a device in this state cannot send commands.
 TKSV_Failure refusalOf(TKSV_DeviceState state);
 
 } // namespace Tksv

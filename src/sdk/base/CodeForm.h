@@ -6,8 +6,8 @@
 namespace Tksv
 {
 
-/// Returns true if the string has the form of a code, that is, if it starts with * or # and ends
-/// with #. Such a string always opens a new session, even if the network waits for an answer.
+/// Returns true if the string has the form of a code: it starts with * or # and ends with #. A code
+/// always opens a new session, even if the network is waiting for an answer.
 bool hasFormOfCode(const std::string &text);
 
 } // namespace Tksv

@@ -8,24 +8,24 @@
 #include "Backend.h"
 #include "tksv.h"
 
-/* Conversions between the records of tksv.h and plain values. */
+/* Conversions between the records of tksv.h and C++ value types. */
 
 namespace Tksv
 {
 
-/// Returns the command in UTF-8, or no value if the record is null or malformed. A record is
+/// Returns the command in UTF-8, or std::nullopt if the record is null or malformed. A record is
 /// malformed if its length is 0, odd or too large, or if its text is not well-formed UTF-16 or
-/// contains a zero code unit.
+/// contains a null character.
 std::optional<std::string> decodeRequest(const TKSV_USSDRequest *request);
 
-/// Returns a TKSV_USSDResponse.
+/// Returns the reply as a TKSV_USSDResponse.
 std::shared_ptr<void> encodeResponse(const UssdReply &reply);
-/// Returns a TKSV_SMSSendResult, which owns the two strings that it points to.
+/// Returns the result as a TKSV_SMSSendResult. The record owns the strings that it points to.
 std::shared_ptr<void> encodeSmsResult(const SmsMessage &message, int result);
-/// Returns a TKSV_SMSStatus.
+/// Returns the status as a TKSV_SMSStatus.
 std::shared_ptr<void> encodeSmsStatus(bool canSend);
 
-/// Returns the string up to its terminating zero code unit.
+/// Returns the null-terminated string.
 std::u16string decodeText(const unsigned short *text);
 
 } // namespace Tksv

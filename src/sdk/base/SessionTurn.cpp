@@ -23,7 +23,7 @@ namespace
 const mode_t ONLY_USER = 0700;
 const int IN_FOLDER = O_CLOEXEC | O_NOFOLLOW;
 
-/** A file descriptor that is closed at the end of its scope. */
+/** A file descriptor that is closed when the object is destroyed. */
 class File
 {
 public:
@@ -58,15 +58,15 @@ std::string safeName(const std::string &text)
     return name;
 }
 
-/// Returns true if the user owns the folder and can write to it.
+/// Returns true if the current user owns the folder and can write to it.
 bool isOwnFolder(const char *path)
 {
     struct stat info = {};
     return stat(path, &info) == 0 && info.st_uid == geteuid() && access(path, W_OK | X_OK) == 0;
 }
 
-/// Returns the folder of all queues of the user. The variable may specify a folder of another user,
-/// because a program that was started by "su" can inherit it.
+/// Returns the folder that contains the user's queues. XDG_RUNTIME_DIR is ignored if it names
+/// another user's folder, because "su" may leave this variable unchanged.
 std::string queuesFolder()
 {
     const char *runtime = std::getenv("XDG_RUNTIME_DIR");
@@ -75,8 +75,8 @@ std::string queuesFolder()
     return "/tmp/ussd-dashboard-" + std::to_string(geteuid());
 }
 
-/// Opens a folder and creates it if it does not exist. Returns -1 if the path is a symbolic link,
-/// or if another user owns the folder or can write to it.
+/// Opens the folder and creates it if necessary. Returns -1 if the path is a symbolic link, or if
+/// the folder belongs to another user or is writable by others.
 int openPrivateFolder(int parent, const std::string &path)
 {
     if (mkdirat(parent, path.c_str(), ONLY_USER) != 0 && errno != EEXIST)
@@ -92,7 +92,7 @@ int openPrivateFolder(int parent, const std::string &path)
     return folder.take();
 }
 
-/// Returns the numbers of all tickets.
+/// Returns the numbers of all tickets in the queue.
 std::vector<unsigned long> ticketsIn(int folder)
 {
     std::vector<unsigned long> numbers;
@@ -108,9 +108,9 @@ std::vector<unsigned long> ticketsIn(int folder)
     return numbers;
 }
 
-/// Returns true if a running program holds the ticket. Removes the ticket of a program that has
-/// crashed. Must be called only for tickets with a lower number than this program's own, because
-/// the program of a newer ticket may not have locked it yet.
+/// Returns true if a running program holds the ticket. Otherwise, the program has crashed, and its
+/// ticket is removed. `number` must be lower than the number of this program's ticket, because a
+/// newer ticket may not be locked yet.
 bool isHeld(int folder, unsigned long number)
 {
     const std::string name = std::to_string(number);
@@ -163,7 +163,7 @@ void SessionTurn::leave()
         return;
     m_isFirst = false;
     unlinkat(m_folder, std::to_string(m_number).c_str(), 0);
-    flock(m_ticket, LOCK_UN); // a child process may have inherited the descriptor
+    flock(m_ticket, LOCK_UN); // required because a child process may have inherited the descriptor
     close(std::exchange(m_ticket, -1));
 }
 
@@ -177,9 +177,9 @@ bool SessionTurn::openFolder()
     return m_folder >= 0;
 }
 
-/// Takes the next ticket. The door file is locked during this call, so that two programs never take
-/// the same ticket and no program finds a ticket that is not locked yet. Returns false if another
-/// program has locked the door file.
+/// Creates this program's ticket. The door file is locked in the meantime, so that two programs
+/// cannot create the same ticket and no program encounters a ticket that is not locked yet. Returns
+/// false if another program has locked the door file, or if the ticket cannot be created.
 bool SessionTurn::takeTicket()
 {
     if (m_isUnusable || (m_folder < 0 && !openFolder()))

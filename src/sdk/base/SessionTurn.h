@@ -7,32 +7,32 @@ namespace Tksv
 {
 
 /**
- * A program's place in the queue for the USSD session of one modem. The programs of one user take
- * turns, first come first served.
+ * A program's place in the queue for the USSD session of a modem. The programs of a user take turns
+ * on a first-come, first-served basis.
  *
- * The queue is a folder that contains one file, the ticket, for each program. The name of the
- * ticket is a number. A program locks its ticket with flock() while it waits and while it uses the
- * session. If a program crashes, the kernel unlocks its ticket, and the next program removes the
- * ticket. If the folder cannot be used, programs do not wait.
+ * The queue is a folder that contains a file, the ticket, for each program. The tickets are
+ * numbered. A program locks its ticket with flock() while it waits and while it uses the session.
+ * If a program crashes, the kernel unlocks the ticket, and the next program deletes it. If the
+ * folder is not usable, programs do not wait for each other.
  */
 class SessionTurn
 {
 public:
-    /// `modem` identifies the modem. Characters that are unsafe in file names are replaced.
+    /// `modem` identifies the modem. Characters that are not safe in file names are replaced.
     explicit SessionTurn(const std::string &modem);
     ~SessionTurn();
     SessionTurn(const SessionTurn &) = delete;
     SessionTurn &operator=(const SessionTurn &) = delete;
 
-    /// Joins the queue unless the program is already in the queue. Returns true if it is the
-    /// program's turn. Never blocks. The caller must repeat the call until it returns true.
+    /// Joins the queue if the program is not in it yet. Returns true if it is the program's turn.
+    /// The function never blocks; call it repeatedly until it returns true.
     bool tryEnter();
-    /// Leaves the queue. Has no effect if the program is not in the queue.
+    /// Leaves the queue. Does nothing if the program is not in the queue.
     void leave();
     /// Returns true if the program is in the queue.
     bool isInQueue() const { return m_ticket >= 0; }
-    /// Returns true if another program may be waiting behind this program, which must be in the
-    /// queue.
+    /// Returns true if another program may be waiting behind this program. May be called only while
+    /// the program is in the queue.
     bool isWanted() const;
 
 private:
@@ -46,8 +46,8 @@ private:
     int m_folder = -1;
     int m_ticket = -1;
     unsigned long m_number = 0; // the number of the ticket
-    bool m_isFirst = false;     // there is no ticket with a lower number, and none can be added
-    bool m_isUnusable = false;  // the folder cannot be used
+    bool m_isFirst = false;     // no ticket has a lower number, and none can be added
+    bool m_isUnusable = false;  // the folder is not usable
 };
 
 } // namespace Tksv

@@ -30,17 +30,18 @@ bool TaskQueue::isCurrent() const
 
 bool TaskQueue::stop(std::chrono::milliseconds limit)
 {
-    std::deque<Task> dropped; // destroyed while m_mutex is not locked
+    std::deque<Task> dropped; // destroyed after m_mutex is unlocked
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_stopping = true;
         m_tasks.swap(dropped);
         m_wake.notify_all();
     }
-    return m_thread.finish(limit); // start() is not called any more once m_stopping is set
+    return m_thread.finish(limit); // no thread can be started once m_stopping is set
 }
 
-/// Returns false if the system cannot create a thread. The next task then tries again.
+/// Starts the thread. Returns false if the system cannot create a thread; the next task then tries
+/// again.
 bool TaskQueue::start()
 {
     if (m_thread.isStarted())
@@ -64,7 +65,7 @@ void TaskQueue::run()
         m_tasks.pop_front();
         lock.unlock();
         task();
-        task = nullptr; // destroys the captured objects while m_mutex is not locked
+        task = nullptr; // destroys the captured objects before m_mutex is locked
         lock.lock();
     }
 }

@@ -13,9 +13,9 @@ namespace Tksv
 {
 
 /**
- * Runs tasks one after the other on a separate thread, in the order in which they were posted. The
- * first task starts the thread. Every function may be called from any thread, even from inside a
- * task.
+ * Runs tasks one after another on a separate thread, in the order in which they were posted. The
+ * thread is started by the first task. Every function may be called from any thread, even from
+ * inside a task.
  */
 class TaskQueue
 {
@@ -29,13 +29,13 @@ public:
     TaskQueue(const TaskQueue &) = delete;
     TaskQueue &operator=(const TaskQueue &) = delete;
 
-    /// Adds the task. The task is dropped if stop() has been called or the system cannot create a
-    /// thread.
+    /// Adds the task to the queue. Drops the task after stop() has been called or if the system
+    /// cannot create a thread.
     void post(Task task);
-    /// Returns true if called from the queue's thread. Always returns false after stop().
+    /// Returns true if called from the queue's thread before stop() has been called.
     bool isCurrent() const;
     /// Drops the pending tasks and waits at most `limit` for a running task. Returns true if the
-    /// thread has ended. The object may be destroyed only if the function has returned true.
+    /// thread has ended. The object must not be destroyed unless this function has returned true.
     bool stop(std::chrono::milliseconds limit);
 
 private:
@@ -43,7 +43,7 @@ private:
     void run();
 
     const char *const m_threadName;
-    mutable std::mutex m_mutex; // guards all members below; not locked while a task runs
+    mutable std::mutex m_mutex; // guards all members below; not held while a task runs
     std::condition_variable m_wake;
     std::deque<Task> m_tasks;
     bool m_stopping = false;

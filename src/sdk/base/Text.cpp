@@ -11,7 +11,7 @@ std::optional<std::string> toUtf8(const std::u16string &text)
 {
     const auto *units = reinterpret_cast<const gunichar2 *>(text.data());
     if (text.find(u'\0') != std::u16string::npos)
-        return std::nullopt; // GLib would treat the zero as the end of the string
+        return std::nullopt; // GLib would treat a null character as the end of the string
     glong bytes = 0;
     char *converted =
         g_utf16_to_utf8(units, static_cast<glong>(text.size()), nullptr, &bytes, nullptr);

@@ -10,8 +10,8 @@ namespace Tksv
 {
 
 /**
- * Records whether `body` has returned. The thread shares this object and may outlive the
- * WorkerThread.
+ * Indicates whether `body` has returned. The object is shared with the thread, which may outlive
+ * the WorkerThread.
  */
 struct WorkerThread::Ended {
     std::mutex mutex;
@@ -36,7 +36,8 @@ namespace
 {
 
 /**
- * Blocks all signals while the object exists. A new thread inherits the signal mask of its creator.
+ * Blocks all signals during the lifetime of the object. A new thread inherits the signal mask of
+ * the thread that creates it.
  */
 class AllSignalsBlocked
 {

@@ -10,8 +10,8 @@ namespace Tksv
 {
 
 /**
- * A thread of the library. The thread blocks all signals, so that the client's own threads handle
- * them. The class is not thread-safe. The owner's lock must guard each object.
+ * A thread of the library. It blocks all signals, so that they are handled by the client's own
+ * threads. The class is not thread-safe and must be protected by a lock of its owner.
  */
 class WorkerThread
 {
@@ -21,15 +21,15 @@ public:
     WorkerThread(const WorkerThread &) = delete;
     WorkerThread &operator=(const WorkerThread &) = delete;
 
-    /// Runs `body` on a new thread. Debuggers show `name`, which has at most 15 characters. Throws
-    /// std::system_error if the system cannot create a thread.
+    /// Runs `body` on a new thread. `name`, which is visible in debuggers, has at most 15
+    /// characters. Throws std::system_error if the system cannot create a thread.
     void start(const char *name, std::function<void()> body);
     bool isStarted() const { return m_thread.joinable(); }
     /// Returns true if called from this thread.
     bool isCurrent() const;
     /// Waits at most `limit` for `body` to return. Returns true if the thread has ended. If `body`
-    /// is still running or calls this function itself, the thread is detached and `body` continues.
-    /// All objects that `body` uses must then remain valid.
+    /// is still running, or if it calls this function itself, the thread is detached and continues
+    /// to run. All objects that `body` uses must then remain valid.
     bool finish(std::chrono::milliseconds limit);
 
 private:
@@ -38,7 +38,7 @@ private:
     std::thread m_thread;
 };
 
-/// A limit for finish() that is never reached.
+/// A practically unlimited time for finish().
 const std::chrono::milliseconds NO_LIMIT = std::chrono::hours(24);
 
 } // namespace Tksv

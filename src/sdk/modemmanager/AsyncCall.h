@@ -6,28 +6,28 @@
 #include <memory>
 #include <utility>
 
-/* Functions for using closures as call-backs of GIO's asynchronous functions. */
+/* Functions for using lambdas as call-backs of GIO's asynchronous functions. */
 
 namespace Tksv
 {
 
 using AsyncDone = std::function<void(GObject *source, GAsyncResult *result)>;
 
-/// The GAsyncReadyCallback for a pointer returned by asyncDone().
+/// A GAsyncReadyCallback. Its user data must be a pointer returned by asyncDone().
 inline void runAsyncDone(GObject *source, GAsyncResult *result, gpointer done)
 {
     const std::unique_ptr<AsyncDone> owned(static_cast<AsyncDone *>(done));
     (*owned)(source, result);
 }
 
-/// Returns the user data for runAsyncDone(), which deletes the user data. GIO invokes each
-/// call-back exactly once.
+/// Returns the user data for runAsyncDone(), which calls `done` and then deletes the user data.
+/// There is no leak, because GIO calls every call-back exactly once.
 inline gpointer asyncDone(AsyncDone done)
 {
     return new AsyncDone(std::move(done));
 }
 
-/// Returns a closure that does nothing if the owner no longer exists when the closure is called.
+/// Returns a closure that calls `function` only if the owner still exists at that time.
 template <typename Owner, typename Function>
 AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
 {
@@ -37,7 +37,7 @@ AsyncDone ifAlive(const std::weak_ptr<Owner> &owner, Function function)
     };
 }
 
-/** A GCancellable whose destructor cancels the calls that were started with it. */
+/** A GCancellable that is cancelled when the object is destroyed. */
 class Cancellable
 {
 public:

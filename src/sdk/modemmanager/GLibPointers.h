@@ -30,14 +30,14 @@ using GVariantPtr = std::unique_ptr<GVariant, GVariantDeleter>;
 template <typename T>
 using GMemory = std::unique_ptr<T, GFreeDeleter>;
 
-/// Returns a new reference to an object that is owned elsewhere. Returns null if `object` is null.
+/// Returns a pointer with an additional reference to the object. Returns null if `object` is null.
 template <typename T>
 GObjectPtr<T> shareObject(T *object)
 {
     return GObjectPtr<T>(object ? static_cast<T *>(g_object_ref(object)) : nullptr);
 }
 
-/// Returns the string, or an empty string for null.
+/// Returns the string, or an empty string if `text` is null.
 inline std::string textOf(const char *text)
 {
     return text ? text : "";

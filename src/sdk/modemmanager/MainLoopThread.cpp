@@ -69,15 +69,15 @@ void MainLoopThread::loop()
 {
     g_main_context_push_thread_default(m_context);
     g_main_loop_run(m_loop);
-    // Run the call-backs of the calls that the last task has cancelled, because these call-backs
-    // release their objects.
+    // Let the call-backs of calls that the last task has cancelled run, because they release their
+    // objects.
     while (g_main_context_iteration(m_context, FALSE)) {
     }
     g_main_context_pop_thread_default(m_context);
 }
 
-/// Adds the task to a queue with a separate mutex. Unlike the locks inside GLib, this mutex is
-/// visible to the thread sanitizer.
+/// Adds the task to a queue that is protected by this class's own mutex. The thread sanitizer
+/// cannot see the locks inside GLib.
 void MainLoopThread::post(Task task)
 {
     {
@@ -107,8 +107,8 @@ gboolean MainLoopThread::runNext(gpointer self)
     return G_SOURCE_REMOVE;
 }
 
-/// Attaches the source to the context. g_main_context_invoke() is not used because it runs the task
-/// on the caller's thread while the loop is not running.
+/// Attaches the source to the context. g_main_context_invoke() is not suitable, because it runs the
+/// task on the caller's thread if the loop is not running.
 void MainLoopThread::attach(GSource *source, GSourceFunc function, gpointer data,
                             GDestroyNotify destroy)
 {

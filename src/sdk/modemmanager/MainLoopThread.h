@@ -13,39 +13,38 @@ namespace Tksv
 {
 
 /**
- * A thread with its own GLib main context, which is the thread-default main context. Therefore,
- * GDBus delivers signals and replies to the thread that has subscribed to the signal or made the
- * call. The thread sleeps while there are no tasks.
+ * A thread that runs a GLib main loop. Its main context is the thread-default context, so that
+ * GDBus delivers signals and replies on this thread if the subscription or the call was made on it.
  */
 class MainLoopThread
 {
 public:
     using Task = std::function<void()>;
 
-    /// `name` must not exceed 15 characters, and must remain valid until the program ends.
+    /// `name` has at most 15 characters and must remain valid until the program ends.
     explicit MainLoopThread(const char *name);
     /// The destructor must not be called from the thread itself.
     ~MainLoopThread();
     MainLoopThread(const MainLoopThread &) = delete;
     MainLoopThread &operator=(const MainLoopThread &) = delete;
 
-    /// Throws std::system_error if the system cannot create a thread.
+    /// Starts the thread. Throws std::system_error if the system cannot create a thread.
     void start();
-    /// Runs the task on the thread. Tasks run in the order in which they were posted. May be called
-    /// from any thread. Tasks that are posted before start() is called run after the thread has
-    /// started. Tasks that are still pending when stop() is called are dropped.
+    /// Queues a task, which the thread runs in the order of posting. May be called from any thread.
+    /// Tasks that are posted before start() run after the thread has started. stop() drops the
+    /// tasks that are still pending.
     void post(Task task);
     /// Runs the task on the thread and waits until it has finished. If called from the thread
-    /// itself, runs the task immediately. May only be called between start() and stop().
+    /// itself, runs the task immediately. May be called only between start() and stop().
     void run(const Task &task);
-    /// Runs the task after the delay. May only be called from the thread itself.
+    /// Runs the task after the delay. May be called only from the thread itself.
     void after(std::chrono::milliseconds delay, Task task);
-    /// Runs other tasks and handles events until the condition is true or the time limit expires.
-    /// May only be called from the thread itself.
+    /// Processes other tasks and events until the condition is true or the time limit expires. May
+    /// be called only from the thread itself.
     void runUntil(const std::function<bool()> &condition, std::chrono::milliseconds limit);
     bool isCurrent() const { return m_thread.isCurrent(); }
 
-    /// Runs `last` as the last task of the thread, and waits until the thread has ended.
+    /// Runs `last` as the final task and waits until the thread has ended.
     void stop(const Task &last);
 
 private:

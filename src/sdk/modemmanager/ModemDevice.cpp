@@ -13,7 +13,7 @@ namespace
 
 const std::chrono::milliseconds SIM_DELAY(20);
 
-/// Returns the number of remaining PIN attempts, or -1 if it is unknown.
+/// Returns the number of remaining PIN attempts, or -1 if the number is unknown.
 int pinRetriesOf(MMModem *modem)
 {
     MMUnlockRetries *retries = mm_modem_peek_unlock_retries(modem);
@@ -22,8 +22,8 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
-/// Returns true if the modem is blocked by a lock other than the PIN. The lock is unknown while the
-/// modem checks a PIN.
+/// Returns true if the modem has a lock that the PIN cannot open. An unknown lock does not count,
+/// because the lock is unknown while the modem verifies a PIN.
 bool needsMoreThanPin(MMModemLock lock)
 {
     return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&
@@ -72,7 +72,7 @@ SmsSender::Listener ModemDevice::smsListener()
     return listener;
 }
 
-/// Returns the interface, or null if the modem does not have it at this time.
+/// Returns the interface, or null if the modem does not currently provide it.
 template <typename T>
 T *ModemDevice::peek(const char *name, T *(*peekInterface)(MMObject *)) const
 {
@@ -90,7 +90,7 @@ void ModemDevice::refresh()
         peek(MM_DBUS_INTERFACE_MODEM_MODEM3GPP_USSD, mm_object_peek_modem_3gpp_ussd));
     m_sms->setInterface(peek(MM_DBUS_INTERFACE_MODEM_MESSAGING, mm_object_peek_modem_messaging));
     modemChanged();
-    m_ussd->catchUp(); // called after modemChanged() has published that commands can be sent
+    m_ussd->catchUp(); // must follow modemChanged(), which publishes that commands can be sent
 }
 
 void ModemDevice::modemChanged()
@@ -103,11 +103,11 @@ void ModemDevice::modemChanged()
     if (now == MM_MODEM_STATE_DISABLED && std::exchange(m_enableWanted, false))
         enable();
     if (now >= MM_MODEM_STATE_LOCKED && now > std::exchange(m_lastState, now))
-        m_problem = TKSV_PROBLEM_NONE; // the modem has left the state that caused the problem
+        m_problem = TKSV_PROBLEM_NONE; // the problem no longer exists in the new state
     fetchSimSoon();
     m_listener.changed();
     if (now == MM_MODEM_STATE_DISABLED)
-        m_ussd->abandonCall(); // its request has failed in changed()
+        m_ussd->abandonCall(); // changed() has already reported its request as failed
 }
 
 void ModemDevice::enable()
@@ -123,8 +123,8 @@ void ModemDevice::enable()
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
-/// Fetches the SIM after a short delay if it has changed. The calls that read the SIM would delay a
-/// program that sends one command and does not need the SIM.
+/// Fetches the SIM after a short delay if the SIM has changed. Reading the SIM takes several calls,
+/// which would delay a program that only sends one command.
 void ModemDevice::fetchSimSoon()
 {
     if (textOf(mm_modem_get_sim_path(m_modem.get())) == m_simPath ||
@@ -148,7 +148,7 @@ void ModemDevice::fetchSim()
         ErrorSlot ignored; // if there is no SIM, the fields of the SIM remain empty
         GObjectPtr<MMSim> sim(mm_modem_get_sim_finish(MM_MODEM(modem), result, ignored.slot()));
         if (path != m_simPath)
-            return; // another SIM has been requested in the meantime
+            return; // the SIM was replaced while this call was running
         m_sim = std::move(sim);
         m_simSignals.disconnectAll();
         m_simSignals.onPropertiesChanged(m_sim.get(), [this](GVariant *) { m_listener.changed(); });
@@ -177,7 +177,7 @@ void ModemDevice::sendPin(const std::string &pin)
     const auto done = [this](GObject *sim, GAsyncResult *result) {
         ErrorSlot error;
         mm_sim_send_pin_finish(MM_SIM(sim), result, error.slot());
-        m_enableWanted = !error; // the user wants to use the modem
+        m_enableWanted = !error; // the user has entered the PIN in order to use the modem
         setProblem(error ? problemOfPinError(*error.get()) : TKSV_PROBLEM_NONE);
         modemChanged();
     };
@@ -231,7 +231,7 @@ DeviceInfo ModemDevice::info() const
     return info;
 }
 
-/// Returns true if the modem uses 4G or 5G, and neither 2G nor 3G.
+/// Returns true if the modem uses 4G or 5G and is not connected to 2G or 3G.
 bool ModemDevice::isOnlyOn4G() const
 {
     const guint newer = MM_MODEM_ACCESS_TECHNOLOGY_LTE | MM_MODEM_ACCESS_TECHNOLOGY_LTE_CAT_M |

@@ -17,15 +17,14 @@ namespace Tksv
 {
 
 /**
- * Represents the modem in use and keeps the properties of the modem up to date. The modem is
- * enabled only on request, or after the PIN has unlocked its SIM. All functions must be called from
- * the thread of the main loop.
+ * The modem in use and its current properties. The modem is enabled only on request or after a PIN
+ * has unlocked the SIM. All functions must be called from the thread of the main loop.
  */
 class ModemDevice : public std::enable_shared_from_this<ModemDevice>
 {
 public:
     struct Listener {
-        std::function<void()> changed; // a field of info() has changed
+        std::function<void()> changed; // called when a field of info() has changed
         std::function<void(RequestToken, const UssdReply &)> replied;
         std::function<void(const UssdReply &)> textReceived;
         std::function<void(const SmsMessage &, int result)> smsFinished;
@@ -33,20 +32,20 @@ public:
 
     ModemDevice(MainLoopThread &thread, GObjectPtr<MMObject> object, Listener listener);
 
-    /// Fetches the modem's interfaces. Must be called after construction and whenever the
-    /// interfaces have changed.
+    /// Fetches the modem's interfaces. Must be called after construction and after every change to
+    /// the interfaces.
     void refresh();
     DeviceInfo info() const;
     std::string path() const { return textOf(mm_object_get_path(m_object.get())); }
 
     UssdChannel &ussd() { return *m_ussd; }
     SmsSender &sms() { return *m_sms; }
-    /// Sends the PIN immediately, or as soon as the SIM has been fetched.
+    /// Sends the PIN. If the SIM has not been fetched yet, sends the PIN as soon as it has.
     void sendPin(const std::string &pin);
-    /// Enables the modem.
+    /// Enables the modem. If this fails, info() contains the problem.
     void enable();
-    /// Reports that the request in flight and the messages that are being sent have failed.
-    /// `reason` is the reason for the request's failure.
+    /// Reports the request in flight and all messages that are being sent as failed. `reason`
+    /// applies to the request.
     void failPending(TKSV_Failure reason);
 
 private:
@@ -74,14 +73,14 @@ private:
     GObjectPtr<MMModem> m_modem;
     GObjectPtr<MMModem3gpp> m_3gpp;
     GObjectPtr<MMSim> m_sim;
-    std::string m_simPath; // D-Bus path of the most recently requested SIM
+    std::string m_simPath; // D-Bus path of the SIM that was requested last
     bool m_isSimFetchPlanned = false;
-    std::string m_pendingPin; // sent once the SIM has been fetched; empty if there is none
+    std::string m_pendingPin; // to be sent once the SIM has been fetched; empty if none
     SignalConnections m_modemSignals;
     SignalConnections m_simSignals;
-    bool m_enableWanted = false; // true if the modem is to be enabled as soon as this is possible
-    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // the last state that was LOCKED or higher
-    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // reported by the most recent call
+    bool m_enableWanted = false; // true if the modem must be enabled as soon as possible
+    MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // most recent state that was at least LOCKED
+    TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // problem of the most recent call
 };
 
 } // namespace Tksv

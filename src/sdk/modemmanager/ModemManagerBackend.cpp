@@ -172,8 +172,9 @@ void ModemManagerBackend::post(std::function<void()> task)
 
 /* ---- functions that run on the watch's thread -------------------------------------------- */
 
-/// Sends the request, or holds it until ModemManager has reported its modems. The request fails if
-/// its modem was not available or has been lost since the request was posted.
+/// Sends the request. If ModemManager has not reported its modems yet, stores the request until it
+/// has. The request fails if there is no usable modem, or if the modem was lost after the request
+/// had been posted.
 void ModemManagerBackend::perform(const Request &request, unsigned lostModemCount)
 {
     m_waiting.reset();
@@ -187,8 +188,8 @@ void ModemManagerBackend::perform(const Request &request, unsigned lostModemCoun
             refusedReply(takesCommands(m_info) ? TKSV_FAILURE_DEVICE_LOST : refusalOf(m_info)));
 }
 
-/// Selects the modem to use from the modems of the watch. If the user has not selected a modem, a
-/// modem stays in use from its first registration until it is lost.
+/// Selects a modem from the modems of the watch. Unless the user has selected a modem, the first
+/// registered modem is used until it is lost.
 void ModemManagerBackend::modemsChanged()
 {
     if (!m_observer)
@@ -215,7 +216,7 @@ bool ModemManagerBackend::prefersAnotherModem() const
            stateOf(mm_object_peek_modem(best.get())) == TKSV_DEVICE_REGISTERED;
 }
 
-/// Stops using a modem that has never been registered and therefore has neither a session nor
+/// Releases a modem that has never been registered. Such a modem has neither a session nor
 /// requests.
 void ModemManagerBackend::leaveModem()
 {
@@ -245,8 +246,8 @@ void ModemManagerBackend::adopt(GObjectPtr<MMObject> object)
     m_device = std::make_shared<ModemDevice>(m_watch.thread(), std::move(object), listener);
 }
 
-/// Stops using a modem that was unplugged, or whose ModemManager has ended. A restarted
-/// ModemManager finds the modem again.
+/// Releases a modem that was unplugged or whose ModemManager has exited. When ModemManager has been
+/// restarted, the modem is found again.
 void ModemManagerBackend::loseModem()
 {
     const std::shared_ptr<ModemDevice> gone = std::exchange(m_device, nullptr);
@@ -276,8 +277,8 @@ void ModemManagerBackend::publish()
     notifyChanges(before, now);
 }
 
-/// Reports the changes to the observer. Requests in flight fail if the registration or the USSD
-/// interface is lost, because their outcome can no longer arrive.
+/// Reports the changes to the observer. If the modem can no longer send commands, the requests in
+/// flight fail, because no reply can arrive.
 void ModemManagerBackend::notifyChanges(const DeviceInfo &before, const DeviceInfo &now)
 {
     if (before == now)

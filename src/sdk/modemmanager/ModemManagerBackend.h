@@ -14,16 +14,16 @@ namespace Tksv
 {
 
 /**
- * The backend for a modem that ModemManager controls. The backend runs on the watch's thread, and
- * the functions of the Backend interface post tasks to this thread. The return values of these
- * functions are based on the DeviceInfo that the thread published last.
+ * The backend for modems that ModemManager controls. It runs on the watch's thread. The functions
+ * of the Backend interface post tasks to this thread and derive their return values from the
+ * DeviceInfo that was published last.
  */
 class ModemManagerBackend : public Backend, public std::enable_shared_from_this<ModemManagerBackend>
 {
 public:
-    /// Uses the modem with the given identifier. If the identifier is empty, uses the first modem
-    /// that is registered, or the first modem as long as no modem is registered. The watch must
-    /// outlive the backend.
+    /// Creates a backend for the modem with this identifier. An empty identifier selects the first
+    /// registered modem, or the first modem if none is registered. The watch must outlive the
+    /// backend.
     ModemManagerBackend(ModemWatch &watch, std::string equipmentId);
 
     void start(BackendObserver &observer) override;
@@ -36,8 +36,8 @@ public:
     bool enable() override;
     DeviceInfo info() const override;
 
-    /// Handles a change that the watch has reported. Must be called from the watch's thread after
-    /// each such change.
+    /// Updates the backend after a change. Must be called from the watch's thread after every
+    /// change that the watch reports.
     void modemsChanged();
 
 private:
@@ -64,20 +64,21 @@ private:
     // The following members are used only on the watch's thread.
     BackendObserver *m_observer = nullptr; // null before start() and after stop()
     std::shared_ptr<ModemDevice> m_device;
-    bool m_wasRegistered = false;     // the modem in use has been registered at least once
-    bool m_isModemRemoved = false;    // the modem in use was removed and has not been replaced yet
-    std::optional<Request> m_waiting; // waits until ModemManager has reported its modems
+    bool m_wasRegistered = false;     // true if the modem in use has been registered at least once
+    bool m_isModemRemoved = false;    // true if the modem was removed and not replaced by another
+    std::optional<Request> m_waiting; // held back until ModemManager has reported its modems
 
-    // Only the watch's thread writes m_info, m_isInfoKnown and m_lostModemCount. This thread
-    // therefore reads them without locking the mutex.
+    // m_info, m_isInfoKnown and m_lostModemCount are written only by the watch's thread. This
+    // thread can therefore read them without locking the mutex.
     mutable std::mutex m_mutex; // guards all members below
     DeviceInfo m_info;
-    bool m_isInfoKnown = false;    // true once the thread has published m_info
-    unsigned m_lostModemCount = 0; // tasks posted with a lower count are for an earlier modem
+    bool m_isInfoKnown = false;    // true if m_info has been published at least once
+    unsigned m_lostModemCount = 0; // a task posted with a lower count is for an earlier modem
     bool m_stopped = false;
 };
 
-/// Returns true if ModemManager can safely insert the string between the quotes of an AT command.
+/// Returns true if ModemManager can safely insert the string into a quoted argument of an AT
+/// command.
 bool isSafeForModem(const std::string &text);
 
 } // namespace Tksv

@@ -10,20 +10,20 @@ namespace Tksv
 namespace
 {
 
-/// The maximum number of attempts to read the objects. A daemon that is starting acquires its bus
-/// name shortly before it exports its objects.
+/// The maximum number of attempts to create the manager. A daemon that is starting up acquires its
+/// bus name shortly before it exports its objects.
 const int START_UP_TRIES = 50;
 const std::chrono::milliseconds START_UP_PAUSE(100);
 
-/// Returns the number at the end of the object path. A modem ".../Modem/12" is newer than
-/// ".../Modem/3".
+/// Returns the number at the end of the object's path. Newer modems have higher numbers:
+/// ".../Modem/12" is newer than ".../Modem/3".
 long modemNumberOf(MMObject *object)
 {
     const std::string path = textOf(mm_object_get_path(object));
     return std::strtol(path.c_str() + path.rfind('/') + 1, nullptr, 10);
 }
 
-/// Returns the address of the system bus, or an empty string if there is no such bus.
+/// Returns the address of the system bus, or an empty string if it is unknown.
 std::string systemBusAddress()
 {
     ErrorSlot error;
@@ -85,8 +85,8 @@ void ModemWatch::start()
     m_thread.post([this] { connectToBus(); });
 }
 
-/// Stops the thread. Cancels the pending calls first, so that a daemon that does not respond cannot
-/// delay the program's exit.
+/// Stops the thread. Pending calls are cancelled first, so that an unresponsive daemon cannot delay
+/// the exit of the program.
 void ModemWatch::stop()
 {
     g_cancellable_cancel(m_cancellable.get());
@@ -94,14 +94,14 @@ void ModemWatch::stop()
         m_signals.disconnectAll();
         m_modemSignals.disconnectAll();
         m_manager.reset();
-        if (m_bus) // flush the connection, so that the call that ends an open session is sent
+        if (m_bus) // otherwise, the call that ends an open session might not be sent
             g_dbus_connection_flush_sync(m_bus.get(), nullptr, nullptr);
         m_bus.reset();
     });
 }
 
-/// Opens a private connection. The shared connection of g_bus_get() terminates the program when the
-/// bus closes the connection.
+/// Opens a private connection to the bus. With the shared connection of g_bus_get(), the program
+/// would be terminated if the bus closed the connection.
 void ModemWatch::connectToBus()
 {
     if (m_bus && !m_isPinging)
@@ -134,8 +134,9 @@ void ModemWatch::busConnected(GDBusConnection *bus)
     pingService(START_UP_TRIES);
 }
 
-/// Queries the daemon's version asynchronously, so that a daemon that hangs cannot block the thread
-/// in createManager(). If the daemon is not running, the call fails immediately.
+/// Requests the daemon's version asynchronously. createManager() blocks and is therefore called
+/// only after the daemon has responded. If the daemon is not running, the request fails
+/// immediately.
 void ModemWatch::pingService(int triesLeft)
 {
     m_isPinging = true;
@@ -173,10 +174,10 @@ void ModemWatch::setSilent(bool isSilent)
     m_changed();
 }
 
-/// Creates the manager and blocks until it exists. With an asynchronous call, GLib would create the
-/// manager on a worker thread and deliver its signals to the program's main context, where no loop
-/// may be running. The call never starts the daemon, because the administrator decides whether a
-/// system service runs.
+/// Creates the manager synchronously. In an asynchronous call, GLib would create the manager on a
+/// worker thread, and its signals would be delivered to the program's main context, which may not
+/// be running. The call does not start the daemon, because this is the system administrator's
+/// decision.
 void ModemWatch::createManager(int triesLeft)
 {
     ErrorSlot error;
@@ -195,7 +196,7 @@ void ModemWatch::createManager(int triesLeft)
     });
 }
 
-/// Clears all data that belongs to the connection, so that start() can connect again.
+/// Releases everything that depends on the connection, so that start() can connect again.
 void ModemWatch::busClosed()
 {
     m_signals.disconnectAll();
@@ -238,8 +239,8 @@ void ModemWatch::refresh()
     setState(owner ? ServiceState::Running : ServiceState::NoService);
 }
 
-/// Reports the new state of any modem, because the selection of the modem in use may depend on this
-/// state.
+/// Refreshes the list of modems if the modem's state has changed. The choice of the modem in use
+/// may depend on the state of any modem.
 void ModemWatch::modemChanged(GVariant *changed)
 {
     const GVariantPtr state(g_variant_lookup_value(changed, "State", nullptr));
@@ -247,7 +248,7 @@ void ModemWatch::modemChanged(GVariant *changed)
         refresh();
 }
 
-/// Returns the modems whose identifier is known, oldest first.
+/// Returns the modems with a known identifier, oldest first.
 std::vector<GObjectPtr<MMObject>> ModemWatch::objects() const
 {
     std::vector<GObjectPtr<MMObject>> found;

@@ -17,7 +17,7 @@
 namespace Tksv
 {
 
-/** The properties of a modem that are visible to clients; see TKSV_Modem. */
+/** The properties of a modem that clients can query; see TKSV_Modem. */
 struct ModemSummary {
     std::string equipmentId; // never empty
     std::string name;        // manufacturer and model
@@ -25,28 +25,28 @@ struct ModemSummary {
 };
 
 /**
- * The state of ModemManager. The state is Looking until ModemManager responds for the first time.
+ * The state of ModemManager. The initial state is Looking, until ModemManager first responds.
  */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
-/** Tracks ModemManager's modems. The watch owns the only thread that uses D-Bus. */
+/** Tracks ModemManager's modems. All D-Bus communication takes place on the watch's thread. */
 class ModemWatch
 {
 public:
-    /// Called from the D-Bus thread after each change to the service's state, to the list of
-    /// modems, or to the interfaces or the state of a modem.
+    /// Called from the D-Bus thread after a change to the state of the service, to the list of
+    /// modems, or to the state or the interfaces of a modem.
     using Changed = std::function<void()>;
 
-    /// The service counts as silent if it does not answer a ping within `silenceLimit`.
+    /// The service is considered silent if it does not respond to a ping within `silenceLimit`.
     explicit ModemWatch(Changed changed, std::chrono::milliseconds silenceLimit = SILENCE_LIMIT);
     ModemWatch(const ModemWatch &) = delete;
     ModemWatch &operator=(const ModemWatch &) = delete;
 
-    /// Starts searching for modems and returns immediately. If the connection failed or the service
-    /// was not available, a further call tries again. Otherwise, a further call checks whether the
-    /// service still responds.
+    /// Starts to search for modems and returns immediately. Another call repeats the search if the
+    /// bus or the service was not available. Otherwise, it checks whether the service still
+    /// responds.
     void start();
-    /// Stops the thread and releases all objects that the thread holds.
+    /// Stops the thread and releases all D-Bus objects.
     void stop();
 
     /// Returns the modems, oldest first. May be called from any thread.
@@ -57,12 +57,11 @@ public:
     bool isSilent() const;
 
     MainLoopThread &thread() { return m_thread; }
-    /// Returns the modem with the given identifier, or null. An empty identifier selects the first
-    /// modem that is registered, or the first modem if none is registered. May only be called from
-    /// the D-Bus thread.
+    /// Returns the modem with this identifier, or null. An empty identifier selects the first
+    /// registered modem, or the first modem if none is registered. May be called only from the
+    /// D-Bus thread.
     GObjectPtr<MMObject> find(const std::string &equipmentId) const;
-    /// Returns the modem with the given D-Bus path, or null. May only be called from the D-Bus
-    /// thread.
+    /// Returns the modem with this D-Bus path, or null. May be called only from the D-Bus thread.
     GObjectPtr<MMObject> findAt(const std::string &path) const;
 
 private:
@@ -84,8 +83,8 @@ private:
     MainLoopThread m_thread;
     const Changed m_changed;
     const std::chrono::milliseconds m_silenceLimit;
-    const Cancellable m_cancellable; // cancels the calls for which stop() must not wait
-    bool m_started = false;          // used only by start(), whose calls never overlap
+    const Cancellable m_cancellable; // cancels calls so that stop() does not wait for them
+    bool m_started = false;          // used only by start(), which is never called concurrently
 
     // The following members are used only on the D-Bus thread.
     GObjectPtr<GDBusConnection> m_bus;
@@ -102,16 +101,15 @@ private:
     bool m_isSilent = false;
 };
 
-/// Returns true if the object currently has the given D-Bus interface. libmm-glib prints a warning
-/// to stderr if a missing interface is requested.
+/// Returns true if the object currently has this D-Bus interface. Call this function before you
+/// request an interface, because libmm-glib prints a warning to stderr if the interface is missing.
 bool hasInterface(MMObject *object, const char *name);
 
-/// Returns the modem's IMEI, or ModemManager's device identifier if the modem does not report its
-/// IMEI.
+/// Returns the modem's IMEI, or ModemManager's device identifier if the IMEI is unknown.
 std::string equipmentIdOf(MMObject *object);
-/// Returns the manufacturer and the model.
+/// Returns the manufacturer and the model of the modem, separated by a blank.
 std::string nameOf(MMModem *modem);
-/// Returns the state of the modem.
+/// Returns the state of the modem as a state of the SDK.
 TKSV_DeviceState stateOf(MMModem *modem);
 
 } // namespace Tksv

@@ -10,7 +10,8 @@ namespace
 
 void runChanged(GDBusProxy *, GVariant *changed, GStrv, gpointer handler)
 {
-    // Copy the handler, because it may disconnect itself, which deletes the original.
+    // Copy the handler, because it may disconnect the signal, which would delete the running
+    // handler.
     const SignalConnections::Changed copy = *static_cast<SignalConnections::Changed *>(handler);
     copy(changed);
 }
@@ -34,7 +35,7 @@ SignalConnections::~SignalConnections()
     disconnectAll();
 }
 
-/// Connects to the signal. The handler runs after the handlers of libmm-glib, which update its
+/// Connects the handler so that it is called after the handlers of libmm-glib, which update the
 /// cached properties.
 void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
 {
@@ -45,8 +46,8 @@ void SignalConnections::onPropertiesChanged(gpointer proxy, Changed handler)
                               new Changed(std::move(handler)), destroy<Changed>, G_CONNECT_AFTER));
 }
 
-/// Connects to the signal. G_CONNECT_SWAPPED passes the handler as the first argument, so that
-/// runHandler() can be connected to any signal.
+/// Connects the handler to the signal. With G_CONNECT_SWAPPED, the handler is the first argument,
+/// so that runHandler() works for signals with any number of arguments.
 void SignalConnections::on(gpointer object, const char *signal, Handler handler)
 {
     add(object, g_signal_connect_data(object, signal, G_CALLBACK(runHandler),

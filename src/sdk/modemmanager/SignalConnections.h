@@ -9,7 +9,8 @@ namespace Tksv
 {
 
 /**
- * Connections to GObject signals. The destructor disconnects the signals and releases the objects.
+ * A set of connections to GObject signals. The destructor disconnects them and releases the
+ * objects.
  */
 class SignalConnections
 {
@@ -24,7 +25,7 @@ public:
 
     /// Connects to "g-properties-changed" of a D-Bus proxy. Does nothing if `proxy` is null.
     void onPropertiesChanged(gpointer proxy, Changed handler);
-    /// Connects to any signal. The handler does not receive the signal's arguments.
+    /// Connects to any signal. The arguments of the signal are not passed to the handler.
     void on(gpointer object, const char *signal, Handler handler);
     void disconnectAll();
 

@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// There is no time limit, because the client decides how long to wait for the outcome.
+/// Disables the time-out of D-Bus calls. The client decides how long to wait for the result.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 GObjectPtr<MMSmsProperties> propertiesOf(const SmsMessage &message)
@@ -59,7 +59,7 @@ void SmsSender::created(Id id, MMSms *sms, const GError *error)
     if (!sms)
         return fail(id, error);
     if (m_inFlight.count(id) == 0)
-        return remove(sms); // reported as failed; the client may have sent it again
+        return remove(sms); // already reported as failed; the client may have sent it again
     g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(sms), NO_TIME_LIMIT);
     const AsyncDone done = [self = shared_from_this(), id](GObject *source, GAsyncResult *result) {
         ErrorSlot failure;
@@ -80,8 +80,8 @@ void SmsSender::sent(Id id, MMSms *sms, const GError *error)
     m_listener.finished(message, SMS_SENT);
 }
 
-/// Deletes the stored message regardless of whether it was sent, because the SIM has little
-/// storage. Errors are ignored. After an error, the message remains in the storage.
+/// Deletes the message from the modem's storage, even if it could not be sent, because the storage
+/// of a SIM is small. Errors are ignored; the message then remains in the storage.
 void SmsSender::remove(MMSms *sms)
 {
     if (!m_messaging)

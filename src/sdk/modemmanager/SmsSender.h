@@ -14,12 +14,12 @@ namespace Tksv
 {
 
 /**
- * Sends short messages through one modem. Each message is stored on the modem, sent, and then
+ * Sends short messages through a modem. Each message is stored on the modem, sent, and then
  * deleted. All functions must be called from the thread of the main loop.
  *
- * Pending calls keep the object alive, so that stored messages are deleted even after the owner has
- * released the object. The owner must call failPending() before it releases the object. After this
- * call, the listener is no longer called.
+ * Pending calls hold a reference to this object, so that stored messages are deleted even after the
+ * owner has released its reference. Before it does so, the owner must call failPending(). The
+ * listener is not called after that.
  */
 class SmsSender : public std::enable_shared_from_this<SmsSender>
 {
@@ -31,7 +31,7 @@ public:
 
     explicit SmsSender(Listener listener);
 
-    /// Sets the messaging interface, or null while the modem does not have it.
+    /// Sets the messaging interface. Null means that the modem does not currently provide it.
     void setInterface(MMModemMessaging *messaging);
     bool isUsable() const { return m_messaging != nullptr; }
 

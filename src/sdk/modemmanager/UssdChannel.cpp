@@ -16,22 +16,23 @@ const MMModem3gppUssdSessionState IDLE = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE;
 const MMModem3gppUssdSessionState ACTIVE = MM_MODEM_3GPP_USSD_SESSION_STATE_ACTIVE;
 const MMModem3gppUssdSessionState USER_RESPONSE = MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
 
-/// The time that the channel waits for a state change after a reply before it queries the state.
+/// The time to wait for a state change after a reply. When it has elapsed, the state is queried.
 const std::chrono::milliseconds STATE_LAG_LIMIT(500);
 
-/// The time within which the daemon refuses a call because another program has a session. The
-/// daemon queries polkit first, which takes a few milliseconds unless polkit prompts the user.
+/// The time after which a call that is still running can be assumed not to be refused. If another
+/// program has a session, the daemon refuses the call after consulting polkit, which takes a few
+/// milliseconds unless polkit prompts the user.
 const std::chrono::milliseconds REFUSAL_LIMIT(150);
 
-/// The interval at which the channel checks the queue of programs, and the time for which the
-/// program keeps its turn.
+/// The interval between two checks of the queue. It is also the time for which the program keeps
+/// its turn after a command.
 const std::chrono::milliseconds TURN_PAUSE(20);
 
-/// The time limit for waiting for a turn, in milliseconds. See TKSV_Device_SetTurnLimit().
+/// The time limit for waiting for a turn, in milliseconds; see TKSV_Device_SetTurnLimit().
 std::atomic<std::chrono::milliseconds::rep> turnLimit(29000);
 
-/// There is no time limit, because the client decides how long to wait for a reply. By default,
-/// GDBus would cancel the call after 25 seconds.
+/// Disables the time-out of D-Bus calls, which is 25 seconds by default. The client decides how
+/// long to wait for a reply.
 const int NO_TIME_LIMIT = G_MAXINT;
 
 bool contains(GVariant *changed, const char *property)
@@ -40,7 +41,7 @@ bool contains(GVariant *changed, const char *property)
     return value != nullptr;
 }
 
-/// Returns the state from a reply to org.freedesktop.DBus.Properties.Get.
+/// Extracts the state from the result of org.freedesktop.DBus.Properties.Get.
 MMModem3gppUssdSessionState stateIn(GVariant *answer)
 {
     GVariant *state = nullptr;
@@ -61,9 +62,8 @@ void UssdChannel::setTurnLimit(std::chrono::milliseconds limit)
     turnLimit = limit.count();
 }
 
-/// Sets the proxy of the interface. If the daemon announces an object twice, GLib replaces the
-/// proxies of the object. An old proxy can still make calls, but no longer receives property
-/// changes.
+/// Sets the proxy for the interface. If the daemon announces an object twice, GLib replaces its
+/// proxies. Calls through an old proxy still work, but it no longer receives property changes.
 void UssdChannel::setInterface(MMModem3gppUssd *ussd)
 {
     if (ussd == m_ussd.get())
@@ -77,8 +77,8 @@ void UssdChannel::setInterface(MMModem3gppUssd *ussd)
     m_signals.onPropertiesChanged(ussd, [this](GVariant *changed) { propertiesChanged(changed); });
 }
 
-/// Clears the state of the interface that was removed. The results of its pending calls may never
-/// arrive, and are ignored if they do.
+/// Resets the state after the interface has been removed. The results of pending calls are ignored
+/// if they arrive at all.
 void UssdChannel::interfaceRemoved()
 {
     failPending(TKSV_FAILURE_DEVICE_LOST);
@@ -92,7 +92,8 @@ void UssdChannel::interfaceRemoved()
     setOwner(Owner::Nobody);
 }
 
-/// Handles the state of a new interface. A session that is already open belongs to another program.
+/// Handles the state of a new interface. A session that is already open was opened by another
+/// program.
 void UssdChannel::catchUp()
 {
     if (!m_ussd)
@@ -142,8 +143,8 @@ void UssdChannel::failPending(TKSV_Failure reason)
         m_listener.replied(request->token, failedReply(Failure{reason, wasNotSent}));
 }
 
-/// Discards the running call. If a modem is disabled, the daemon neither finishes nor cancels a
-/// call to this modem, and the call blocks the next one. See cancelStuckCall().
+/// Discards the running call. If the modem is disabled during a call, the daemon neither finishes
+/// nor cancels this call, which then blocks the next one; see cancelStuckCall().
 void UssdChannel::abandonCall()
 {
     if (!m_running || !m_isCallPending || m_cancelling)
@@ -164,7 +165,7 @@ void UssdChannel::endForeignSession()
 
 /* ---- calls to the daemon ----------------------------------------------------------------- */
 
-/// Starts the next call. Only one call can run at a time.
+/// Starts the next call unless a call is running.
 void UssdChannel::startNext()
 {
     if (!m_ussd || m_cancelling)
@@ -175,12 +176,12 @@ void UssdChannel::startNext()
         return;
     if (!m_next && !canAnswer())
         return leaveTurn();
-    if (m_next && takeTurn() && m_next) // takeTurn() may report a change that ends the request
+    if (m_next && takeTurn() && m_next) // takeTurn() may have ended the request
         start(*std::exchange(m_next, std::nullopt));
 }
 
-/// Returns true if it is this program's turn. Otherwise, arranges for startNext() to be called
-/// again. A turn that the program has kept is used again unless another program is waiting.
+/// Returns true if it is this program's turn. Otherwise, schedules another call to startNext(). A
+/// turn that the program has kept remains valid unless another program is waiting.
 bool UssdChannel::takeTurn()
 {
     if (std::exchange(m_keepsTurn, false) && m_turn.isWanted())
@@ -192,8 +193,8 @@ bool UssdChannel::takeTurn()
     return isOurTurn;
 }
 
-/// Ends the turn. If no other program is waiting, this program keeps its turn for a moment, because
-/// using the files of the queue for each command would slow down a sequence of commands.
+/// Ends the turn. If no other program is waiting, this program keeps its turn for a moment. This
+/// speeds up a sequence of commands, because the files of the queue are accessed less often.
 void UssdChannel::leaveTurn()
 {
     m_keepsTurn = m_turn.isInQueue() && !m_waitsForTurn && !m_turn.isWanted();
@@ -225,8 +226,8 @@ void UssdChannel::turnTimerElapsed()
         startNext();
 }
 
-/// Fails the request whose turn has not come in time. The client has stopped waiting or is about to
-/// do so, and must not be surprised by a command that is sent much later.
+/// Reports the request as failed because the time limit for its turn has expired. By now, the
+/// client has stopped waiting, and must not be surprised by a command that is sent later.
 void UssdChannel::missTurn()
 {
     const Request request = *std::exchange(m_next, std::nullopt);
@@ -240,8 +241,8 @@ void UssdChannel::setWaitsForTurn(bool waits)
         m_listener.changed();
 }
 
-/// Starts the call if the session permits it. An answer requires that the session of its menu is
-/// still open. A code requires that the session is idle.
+/// Starts the call if the session allows it. An answer requires an open session that waits for it,
+/// and a code requires an idle session.
 void UssdChannel::start(const Request &request)
 {
     const bool isAnswer = request.kind == RequestKind::Answer;
@@ -254,8 +255,8 @@ void UssdChannel::start(const Request &request)
         checkSession();
 }
 
-/// Queries whether the session of another program is still open. If so, refuses the code
-/// immediately, so that polkit does not prompt the user for a call that would fail.
+/// Queries whether another program's session is still open. If it is, rejects the code immediately.
+/// Otherwise, polkit might prompt the user for permission to make a call that cannot succeed.
 void UssdChannel::checkSession()
 {
     askForState([this](State state) {
@@ -282,7 +283,7 @@ void UssdChannel::call(const Request &request)
     m_callStart = Clock::now();
     m_isCallPending = true;
     m_wasActive = false;
-    m_isConfirmed = isAnswer; // the session of an answer is already ours
+    m_isConfirmed = isAnswer; // an answer belongs to a session that is already ours
     m_isConfirming = false;
     m_isChecking = false;
     m_hasNewQuestion = false;
@@ -310,7 +311,7 @@ void UssdChannel::callReturned(unsigned call, GMemory<char> text, const GError *
     waitForState();
 }
 
-/// Ends the command. Its session has ended or was never opened, so there is nothing to cancel.
+/// Ends the command. There is nothing to cancel, because the session has ended or was never opened.
 void UssdChannel::callFailed(const GError &error)
 {
     if (isServiceLost(error))
@@ -329,18 +330,17 @@ void UssdChannel::callFailed(const GError &error)
     } else {
         finish(failedReply(failure));
     }
-    if (!isInProgress(error)) // another program's unfinished call blocks the idle modem
+    if (!isInProgress(error)) // a call in progress blocks the modem although its state is idle
         askForStateOfOthers();
 }
 
-/// Cancels an earlier call of ours that the daemon has neither finished nor cancelled, and repeats
-/// the request.
+/// Cancels an earlier call of ours that the daemon has left unfinished, and repeats the request.
 void UssdChannel::cancelStuckCall()
 {
     if (!m_next && !m_cancelWanted)
         m_next = m_running;
     m_running.reset();
-    m_isCallStuck = false; // cleared, so that the cancellation is tried only once
+    m_isCallStuck = false; // prevents a second attempt to cancel
     startCancel();
 }
 
@@ -352,12 +352,11 @@ Failure UssdChannel::failureOf(const GError &error) const
     return failureOfUssdError(error, context);
 }
 
-/// Cancels our session, but never the session of another program. If another program has a session,
-/// the daemon will refuse our call, but a cancellation would end that session. Therefore, a running
-/// call must be confirmed before it is cancelled. It is confirmed if the daemon has had enough time
-/// to refuse it, and the session has become active and is still active. Otherwise, the channel
-/// waits until the session becomes active or the call returns. This may take a long time if polkit
-/// prompts the user.
+/// Cancels our session. A session of another program must not be cancelled, but a cancellation
+/// would end any open session. A running call is therefore cancelled only after it has been
+/// confirmed: the daemon has had enough time to refuse it, and the session has become active and is
+/// still active. Until then, the channel waits for a state change or for the end of the call. This
+/// may take long if polkit prompts the user.
 void UssdChannel::cancelWhenOurs()
 {
     if (!m_running && !canAnswer()) {
@@ -398,8 +397,8 @@ void UssdChannel::askForStateOfCall()
     });
 }
 
-/// Cancels the session, which ends a running call. The running call then returns an error, or never
-/// returns if the modem's port is stuck.
+/// Cancels the session, which also ends the running call. The call then returns an error, or never
+/// returns if the modem's port is blocked.
 void UssdChannel::startCancel()
 {
     m_cancelWanted = false;
@@ -413,9 +412,8 @@ void UssdChannel::startCancel()
     mm_modem_3gpp_ussd_cancel(m_ussd.get(), nullptr, runAsyncDone, asyncDone(whileAlive(done)));
 }
 
-/// Handles the result of the cancellation. The daemon is idle even if the cancellation failed,
-/// unless the policy denied it. However, the daemon does not cancel a call to a modem that is being
-/// disabled.
+/// Handles the result of the cancellation. Even if the cancellation failed, the daemon is now idle,
+/// with two exceptions: the policy denied the cancellation, or the modem is being disabled.
 void UssdChannel::cancelReturned(unsigned call, const GError *error)
 {
     if (call != m_call)
@@ -439,9 +437,9 @@ AsyncDone UssdChannel::whileAlive(AsyncDone function)
 
 /* ---- the session's state ----------------------------------------------------------------- */
 
-/// Waits until the state belongs to the reply. After a reply, the state changes from "active" to
-/// "idle" or "user response". If a command finishes quickly, the daemon may report neither of the
-/// changes to and from "active". In this case, the channel queries the state.
+/// Waits until the state reflects the reply. After a reply, the state changes from "active" to
+/// "idle" or "user response". If a command finishes quickly, the daemon may not report that the
+/// state has been "active" at all. The state is then queried.
 void UssdChannel::waitForState()
 {
     if (!m_wasActive)
@@ -453,8 +451,8 @@ void UssdChannel::waitForState()
         startLagTimer();
 }
 
-/// Starts the timer that limits the wait for the state. All commands share one timer, because every
-/// pending timer slows down each iteration of the loop.
+/// Starts the timer that limits the wait for the state. All commands share this timer, because each
+/// pending timer slows down the main loop.
 void UssdChannel::startLagTimer()
 {
     m_thread.after(STATE_LAG_LIMIT, [self = weak_from_this(), call = m_call] {
@@ -467,8 +465,8 @@ void UssdChannel::startLagTimer()
     });
 }
 
-/// Queries the state. Drops the answer if another call has started in the meantime. The session is
-/// treated as idle if the query fails.
+/// Queries the state and passes it to `done`. The answer is dropped if another call has started in
+/// the meantime. If the query fails, the state is assumed to be idle.
 void UssdChannel::askForState(std::function<void(State)> done)
 {
     if (!m_ussd)
@@ -495,8 +493,8 @@ void UssdChannel::askForStateOfReply()
     });
 }
 
-/// Queries whether another program has a session. The last state that was reported may be the state
-/// of our own session, which has just ended.
+/// Queries whether another program has a session, because the last known state may still be that of
+/// our own session, which has just ended.
 void UssdChannel::askForStateOfOthers()
 {
     askForState([this](State state) {
@@ -505,8 +503,8 @@ void UssdChannel::askForStateOfOthers()
     });
 }
 
-/// Handles the changed properties. A notification that repeats the previous text exactly does not
-/// change a property and is therefore not reported.
+/// Handles changed properties. A notification is not reported if its text is the same as before,
+/// because the property then does not change.
 void UssdChannel::propertiesChanged(GVariant *changed)
 {
     const auto alive = shared_from_this();
@@ -522,12 +520,12 @@ void UssdChannel::propertiesChanged(GVariant *changed)
     if (hasQuestion)
         m_hasNewQuestion = true;
     else if (!m_running && state != USER_RESPONSE)
-        m_hasNewQuestion = false; // the network has withdrawn its prompt
+        m_hasNewQuestion = false; // the network's prompt is no longer pending
     handleState(state);
 }
 
-/// Handles a state that was reported or queried. An unknown state means that the modem is disabled
-/// and therefore has no session.
+/// Handles a state that was reported or queried. The state is unknown while the modem is disabled,
+/// which means that there is no session.
 void UssdChannel::handleState(State reported)
 {
     const State state = reported == UNKNOWN ? IDLE : reported;
@@ -541,8 +539,8 @@ void UssdChannel::handleState(State reported)
     handleStateDuringCall(state);
 }
 
-/// Handles a state that was reported while our call is running. Until the call has returned, the
-/// session may belong to another program.
+/// Handles a state that arrives while our call is running. Until the call returns, the state may be
+/// that of another program's session.
 void UssdChannel::handleStateDuringCall(State state)
 {
     if (state == ACTIVE) {
@@ -556,8 +554,8 @@ void UssdChannel::handleStateDuringCall(State state)
         replyIsWhole(state == USER_RESPONSE);
 }
 
-/// Handles the end of a session while our call is still running. If the daemon has had enough time
-/// to refuse the call, the session was ours.
+/// Handles the end of a session while our call is running. The session was ours if it ended after
+/// the time in which the daemon would have refused the call.
 void UssdChannel::sessionEndedDuringCall()
 {
     const bool hadTime = Clock::now() - m_callStart >= REFUSAL_LIMIT;
@@ -565,10 +563,10 @@ void UssdChannel::sessionEndedDuringCall()
     m_wasActive = false;
 }
 
-/// Handles a state that was not caused by any of our calls. If the session waits for an answer
-/// without having been active before, the network itself opened the session. However, a prompt that
-/// is identical to the previous prompt of the network cannot be distinguished from a menu of
-/// another program, and is treated as such a menu.
+/// Handles a state that is not related to a call of ours. A new prompt from the network means that
+/// the network opened the session. If the new prompt is identical to the previous one, the property
+/// does not change. Such a prompt cannot be distinguished from another program's menu and is
+/// treated as one.
 void UssdChannel::handleStateOfOthers(State state)
 {
     const bool hasNewQuestion = m_hasNewQuestion && state == USER_RESPONSE;
@@ -581,8 +579,8 @@ void UssdChannel::handleStateOfOthers(State state)
     startNext();
 }
 
-/// Ends the command, whose reply and state are known. If the command was cancelled in the meantime,
-/// ends the session of the command instead.
+/// Ends the command once its reply and the resulting state are known. If the command has been
+/// cancelled in the meantime, ends its session instead.
 void UssdChannel::replyIsWhole(bool waits)
 {
     if (!m_cancelWanted)
@@ -598,7 +596,7 @@ void UssdChannel::finish(const UssdReply &reply)
     const Request request = *std::exchange(m_running, std::nullopt);
     m_replyText.reset();
     // If the network sent another prompt immediately after the reply, the current state belongs to
-    // that prompt, because the idle state in between was never reported.
+    // that prompt, because the daemon did not report the idle state in between.
     const bool isStateOfQuestion = m_hasNewQuestion && reply.type == UssdWaitsForAnswer;
     UssdReply reported = reply;
     if (isStateOfQuestion)
@@ -613,7 +611,7 @@ void UssdChannel::finish(const UssdReply &reply)
     startNext();
 }
 
-/// Reports a network-initiated message that waits for an answer.
+/// Reports a network-initiated message that requires an answer.
 void UssdChannel::reportQuestion()
 {
     m_hasNewQuestion = false;

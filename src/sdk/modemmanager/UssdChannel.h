@@ -21,14 +21,14 @@ namespace Tksv
 /**
  * The USSD session of one modem.
  *
- * The daemon sends the reply before it updates the session state, and only the state indicates
- * whether the network is waiting for an answer. Therefore, the channel holds the reply back until
- * the state is no longer "active".
+ * The daemon sends a reply before it updates the session state, but only the state indicates
+ * whether the network is waiting for an answer. The channel therefore does not report the reply
+ * until the state is no longer "active".
  *
- * Every program on the bus can use the session. A session is ours only if our call opened it: the
- * call is running, or its reply left the session open and nothing else has happened since. If the
- * network itself opens a session and waits for an answer, any program may answer. The channel
- * neither ends nor answers any other session. The programs of one user take turns; see SessionTurn.
+ * All programs on the bus share the session. It is ours only if our call has opened it, that is,
+ * while the call is running and, if the reply leaves the session open, until the next event. If the
+ * network opens a session and waits for an answer, any program may answer. The channel never ends
+ * or answers a session of another program. The programs of one user take turns; see SessionTurn.
  *
  * All functions must be called from the thread of the main loop.
  */
@@ -43,49 +43,49 @@ public:
         std::function<bool()> isOnlyOn4G;
     };
 
-    /// `equipmentId` identifies the modem among the programs of the user.
+    /// `equipmentId` identifies the modem's queue, which all programs of the user share.
     UssdChannel(MainLoopThread &thread, const std::string &equipmentId, Listener listener);
 
-    /// Sets the time limit for waiting for a turn, which applies to all later requests of all
-    /// modems. May be called from any thread.
+    /// Sets the time limit for waiting for a turn. It applies to later requests to all modems. May
+    /// be called from any thread.
     static void setTurnLimit(std::chrono::milliseconds limit);
 
-    /// Sets the proxy of the USSD interface, which may replace an earlier proxy. Null means that
-    /// the modem does not have the interface at this time.
+    /// Sets the proxy for the USSD interface, which may replace an earlier proxy. Null means that
+    /// the modem does not currently provide the interface.
     void setInterface(MMModem3gppUssd *ussd);
     bool isUsable() const { return m_ussd != nullptr; }
-    /// Checks whether a session is open, and starts a waiting request. Must be called after
+    /// Checks for an open session and starts a waiting request. Must be called after
     /// setInterface().
     void catchUp();
     /// Returns true if another program has opened a session.
     bool hasForeignSession() const { return m_owner == Owner::Foreign; }
-    /// Returns true if a request waits for another program of the same user.
+    /// Returns true if a request is waiting for another program of the same user.
     bool waitsForTurn() const { return m_waitsForTurn; }
-    /// Returns true if no call is running and no session remains to be ended.
+    /// Returns true if no call is running and there is no session to be ended.
     bool isSettled() const { return !m_running && !m_cancelWanted && !m_cancelling; }
 
-    /// Sends the string and replaces the request in flight.
+    /// Sends the string. The request replaces the request in flight.
     void request(RequestToken token, RequestKind kind, const std::string &text);
     /// Ends the session. The request in flight is cancelled and receives no reply.
     void endSession();
     /// Ends the session that our call has opened. Must be called before the library stops using the
-    /// modem. A session that the network opened stays open, because another program may be about to
-    /// answer it.
+    /// modem. A session that the network has opened is not ended, because another program may be
+    /// about to answer it.
     void leave();
-    /// Ends the session. The request in flight receives an empty reply.
+    /// Ends the session. The request in flight receives an empty reply with this reason.
     void failPending(TKSV_Failure reason);
-    /// Discards a running call that the daemon will not finish. Must be called after the modem has
-    /// been disabled.
+    /// Discards a call that the daemon will never finish. Must be called after the modem has been
+    /// disabled.
     void abandonCall();
-    /// Ends the session that another program has opened.
+    /// Ends a session that another program has opened.
     void endForeignSession();
 
 private:
     using State = MMModem3gppUssdSessionState;
     using Clock = std::chrono::steady_clock;
 
-    /// The program or network that opened the session. The owner is Nobody while the session is
-    /// idle, or while our call is running.
+    /// Identifies who opened the session. The value is Nobody while the session is idle and while
+    /// our call is running.
     enum class Owner { Nobody, Ours, Network, Foreign };
 
     struct Request {
@@ -140,25 +140,25 @@ private:
     SignalConnections m_signals;
     SessionTurn m_turn;
     bool m_waitsForTurn = false;
-    Clock::time_point m_turnEnd; // when m_next stops waiting for its turn
-    bool m_keepsTurn = false;    // the program keeps its turn, although no command needs it now
+    Clock::time_point m_turnEnd; // the time at which m_next stops waiting for its turn
+    bool m_keepsTurn = false;    // true if the program keeps its turn after a command
     bool m_isTurnTimerRunning = false;
 
     Owner m_owner = Owner::Nobody;
-    State m_state = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE; // the last state that was reported
-    bool m_isStateNew = false;     // the interface was replaced, and its state was not handled yet
-    bool m_hasNewQuestion = false; // NetworkRequest has changed during the call, or without one
+    State m_state = MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE; // the most recently reported state
+    bool m_isStateNew = false;     // true if the state of a new interface has not been handled yet
+    bool m_hasNewQuestion = false; // true if NetworkRequest contains an unreported prompt
 
-    std::optional<Request> m_next;    // starts when no call is running
+    std::optional<Request> m_next;    // starts as soon as no call is running
     std::optional<Request> m_running; // its call is running, or its reply waits for the state
     std::optional<std::string> m_replyText;
     Clock::time_point m_callStart;
-    bool m_isCallPending = false; // the call of m_running has not returned
-    bool m_wasActive = false;     // the state became "active" after the call had started
-    bool m_isConfirmed = false;   // the call has opened a session, see cancelWhenOurs()
+    bool m_isCallPending = false; // true until the call of m_running returns
+    bool m_wasActive = false;     // true if the state became "active" after the start of the call
+    bool m_isConfirmed = false;   // true if the call has opened a session; see cancelWhenOurs()
     bool m_isConfirming = false;
-    bool m_isChecking = false;  // m_next waits for the state
-    bool m_isCallStuck = false; // the daemon could not cancel an earlier call
+    bool m_isChecking = false;  // true while m_next waits for a query of the state
+    bool m_isCallStuck = false; // true if the daemon could not cancel an earlier call
     bool m_isLagTimerRunning = false;
     bool m_cancelWanted = false;
     bool m_cancelling = false;

@@ -24,12 +24,12 @@ bool says(const GError &error, const char *text)
     return std::strstr(error.message, text) != nullptr;
 }
 
-/// A call that fails after this time failed because the modem did not answer. The daemon makes two
-/// attempts and waits 10 s for each of them.
+/// A call that fails after this time has failed because the modem did not respond: the daemon makes
+/// two attempts and waits 10 s for each.
 const double UNANSWERED_SECONDS = 9;
 
-/// Returns the reason for an error with the code MM_CORE_ERROR_FAILED. Only the error message
-/// distinguishes the cases.
+/// Returns the reason for an MM_CORE_ERROR_FAILED. Only the text of the error message distinguishes
+/// the causes.
 TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
 {
     if (says(error, "Unhandled USSD reply")) // followed by the <m> of +CUSD, as in "...: 5 (5)"
@@ -43,7 +43,7 @@ TKSV_Failure reasonOfText(const GError &error, const UssdCallContext &context)
     return context.isOnlyOn4G ? TKSV_FAILURE_NOT_ON_4G : TKSV_FAILURE_REFUSED;
 }
 
-/// Returns the reason for an error that the modem has reported.
+/// Returns the reason for an error reported by the modem.
 TKSV_Failure reasonOfEquipmentError(int code, const UssdCallContext &context)
 {
     switch (code) {
@@ -120,8 +120,8 @@ bool isInProgress(const GError &error)
     return isCoreError(error, MM_CORE_ERROR_IN_PROGRESS);
 }
 
-/// Returns true if the policy denied the call, or if polkit is missing or does not respond. In the
-/// latter case, the daemon refuses the call with MM_CORE_ERROR_FAILED.
+/// Returns true if the policy denied the call, or if polkit is missing or does not respond. In
+/// these last two cases, the daemon reports MM_CORE_ERROR_FAILED.
 bool isNotPermitted(const GError &error)
 {
     const bool lacksPolkit =
@@ -130,8 +130,8 @@ bool isNotPermitted(const GError &error)
            hasCode(error, G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED);
 }
 
-/// A modem whose state is changing can refuse the call. Such an error is not a problem, because the
-/// modem reports its next state.
+/// Errors that occur because the modem is changing its state are not problems, because the modem
+/// will report its next state.
 TKSV_DeviceProblem problemOfEnableError(const GError &error)
 {
     if (isNotPermitted(error))

@@ -5,33 +5,35 @@
 
 #include "../base/Backend.h"
 
-/* Functions that classify ModemManager's errors. docs/modems.md lists the errors. */
+/* Functions that classify the errors of ModemManager. The errors are listed in docs/modems.md. */
 
 namespace Tksv
 {
 
-/** The circumstances of a USSD call that has failed. */
+/** The circumstances of a failed USSD call. */
 struct UssdCallContext {
     double seconds = 0; // the duration of the call
     bool isOnlyOn4G = false;
 };
 
-/// Returns the reason why a USSD call has failed. Must not be called if isServiceLost().
+/// Returns the reason why a USSD call has failed. Must not be called if isServiceLost() returns
+/// true.
 Failure failureOfUssdError(const GError &error, const UssdCallContext &context);
 
-/// Returns true if the daemon has not finished an earlier call.
+/// Returns true if the daemon is still busy with an earlier call.
 bool isInProgress(const GError &error);
 
-/// Returns true if the daemon or the modem has disappeared. A device event then ends the command.
+/// Returns true if the daemon or the modem has disappeared. In this case, a device event ends the
+/// command.
 bool isServiceLost(const GError &error);
 
 /// Returns true if the system's policy denied the call.
 bool isNotPermitted(const GError &error);
 
-/// Returns the problem to report to the user after ModemManager has failed to enable the modem.
+/// Returns the problem to report to the user after an attempt to enable the modem has failed.
 TKSV_DeviceProblem problemOfEnableError(const GError &error);
 
-/// Returns the problem to report to the user after ModemManager has rejected a PIN.
+/// Returns the problem to report to the user after the PIN could not be verified.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
 } // namespace Tksv

@@ -7,14 +7,14 @@
 namespace Tksv
 {
 
-/** An error in a file, with a message for the author of the file. */
+/** An error in a file. The message is intended for the author of the file. */
 struct Complaint {
     std::string file;
-    int line = 0; // starts at 1; 0 refers to the file as a whole
+    int line = 0; // starts at 1; 0 refers to the entire file
     std::string text;
 };
 
-/// Returns one line "file:line: text" for each complaint. The last line has no line feed.
+/// Returns the complaints as lines of the form "file:line: text", without a final line feed.
 std::string describe(const std::vector<Complaint> &complaints);
 
 /** Collects the errors in one file. */

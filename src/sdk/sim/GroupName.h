@@ -3,7 +3,7 @@
 
 #include <string>
 
-/* The kinds of groups in a scenario file. */
+/* Functions that analyze the names of the groups in a scenario file. */
 
 namespace Tksv
 {
@@ -13,11 +13,11 @@ enum class GroupKind { Network, Sms, Push, Event, Code, Answer, Unknown };
 GroupKind kindOf(const std::string &name);
 /// Returns the number from a group name "SMS number", or an empty string for the group "SMS".
 std::string smsNumberOf(const std::string &name);
-/// Returns the name of the menu group to which an answer group belongs: "*123#/1" for "*123#/1/2".
+/// Returns the name of the menu to which the answer belongs, for example "*123#/1" for "*123#/1/2".
 std::string menuOf(const std::string &answerGroup);
 /// Returns true if the group name contains %s.
 bool hasPattern(const std::string &name);
-/// Returns "[name]".
+/// Returns the name in square brackets.
 std::string bracketed(const std::string &name);
 
 } // namespace Tksv

@@ -58,8 +58,8 @@ bool isHeader(const std::string &line)
     return !content.empty() && content.front() == '[';
 }
 
-/// Reports each line that is not UTF-8, and replaces its invalid bytes, so that the rest of the
-/// file can be checked.
+/// Reports each line that is not valid UTF-8 and replaces the invalid bytes, so that the rest of
+/// the file can be checked.
 void mendNonUtf8(std::vector<std::string> &lines, Complaints &complaints)
 {
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -74,8 +74,9 @@ void mendNonUtf8(std::vector<std::string> &lines, Complaints &complaints)
 }
 
 /**
- * Finds the lines that GKeyFile rejects. GKeyFile reports only the first such line, without its
- * number. The search parses each line separately, so its time grows linearly with the file.
+ * Finds the lines that GKeyFile rejects. GKeyFile itself reports only the first such line, and
+ * without its line number. The search parses each line separately, so its running time is linear in
+ * the size of the file.
  */
 class BadLineSearch
 {
@@ -90,11 +91,11 @@ public:
     }
 
 private:
-    int m_groups = 0; // groups before the line; counted up to 2, since only the first is special
+    int m_groups = 0; // number of preceding groups, at most 2; only the first group is special
 };
 
-/// Returns the header without the characters that are not allowed in it, or an empty string if
-/// nothing remains.
+/// Returns the header without the characters that are not allowed in it. Returns an empty string if
+/// no characters remain.
 std::string repairedHeader(const std::string &line)
 {
     const std::string content = trimmed(line);
@@ -104,7 +105,7 @@ std::string repairedHeader(const std::string &line)
     return name.empty() ? name : "[" + name + "]";
 }
 
-/// Returns true if a bad line seems to be a header without its first bracket.
+/// Returns true if the bad line appears to be a header whose opening bracket is missing.
 bool isMeantAsHeader(const std::string &line)
 {
     const std::string content = trimmed(line);
@@ -119,9 +120,9 @@ void complainAboutLine(std::size_t index, const std::string &line, Complaints &c
                        trimmed(line) + "\"");
 }
 
-/// Reports each line that does not belong in a key file. Repairs such a header, and clears any
-/// other such line. If a header cannot be repaired, its keys are cleared as well, because they
-/// would otherwise belong to the group above.
+/// Reports each line that is not valid in a key file. Bad headers are repaired, and other bad lines
+/// are cleared. If a header cannot be repaired, its keys are cleared as well, because they would
+/// otherwise become part of the preceding group.
 void mendBadLines(std::vector<std::string> &lines, Complaints &complaints)
 {
     BadLineSearch search;
@@ -140,7 +141,7 @@ void mendBadLines(std::vector<std::string> &lines, Complaints &complaints)
     }
 }
 
-/** Collects the groups and keys from the lines of a text that GKeyFile has accepted. */
+/** Collects the groups and keys of a text that GKeyFile has accepted, with their line numbers. */
 class LineScan
 {
 public:
@@ -202,14 +203,14 @@ private:
     GKeyFile *m_file;
     Complaints &m_complaints;
     std::unordered_map<std::string, int> m_groupLines; // the line of each group
-    std::unordered_map<std::string, int> m_keyLines;   // the line of each key of the last group
+    std::unordered_map<std::string, int> m_keyLines;   // the line of each key in the current group
     int m_line = 0;
 };
 
-/// Marks the groups that contain a line with a complaint.
+/// Marks each group in which a complaint was found.
 void markDamaged(std::vector<KeyFileGroup> &groups, const std::vector<Complaint> &sorted)
 {
-    std::size_t next = 0; // the first group below the complaint
+    std::size_t next = 0; // the first group that starts after the complaint
     for (const Complaint &complaint : sorted) {
         while (next < groups.size() && groups[next].line <= complaint.line)
             ++next;

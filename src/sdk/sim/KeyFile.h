@@ -11,7 +11,7 @@ namespace Tksv
 
 struct KeyFileEntry {
     std::string key;
-    std::string value; // the escape sequences \n, \t, \s, \r and \\ have been replaced
+    std::string value; // the value with the escape sequences \n, \t, \s, \r and \\ replaced
     int line = 0;      // starts at 1
 };
 
@@ -19,17 +19,16 @@ struct KeyFileGroup {
     std::string name;
     int line = 0;
     std::vector<KeyFileEntry> entries;
-    bool isDamaged = false; // a line of the group does not belong in a key file, or occurs twice
+    bool isDamaged = false; // true if a line of the group is invalid or a duplicate
 
     /// Returns the entry with the given key, or null if the group does not contain the key.
     const KeyFileEntry *find(const std::string &key) const;
 };
 
 /**
- * Returns the groups of a GLib key file in their order, with the line numbers that GKeyFile does
- * not report. Adds a complaint for each line that does not belong in a key file, and for groups and
- * keys that occur twice. Even then, returns everything else, so that its mistakes can be found,
- * too.
+ * Returns the groups of a GLib key file in the order of the file. Unlike GKeyFile, the function
+ * determines the line numbers. Adds a complaint for each invalid line and for each duplicate group
+ * or key. The remaining contents are still returned, so that they can be checked for other errors.
  */
 std::vector<KeyFileGroup> readKeyFile(const std::string &text, Complaints &complaints);
 

@@ -57,7 +57,7 @@ private:
         m_complaints.add(m_group.line, bracketed(m_group.name) + ": " + text);
     }
 
-    /// Adds a complaint if the group contains the key although the key is not allowed there.
+    /// Adds a complaint if the group contains the key but the key is not allowed in this place.
     void allow(const char *key, bool allowed, const std::string &where)
     {
         if (const KeyFileEntry *entry = m_group.find(key)) {
@@ -79,7 +79,8 @@ private:
         allow("Away", has("DeviceEvent"), "with DeviceEvent");
     }
 
-    /// Returns true the first time that the missing group is needed. Each is reported only once.
+    /// Returns true when called for the first time for this missing group, which is reported only
+    /// once.
     bool isNewlyMissing(const std::string &group) { return m_missing.insert(group).second; }
 
     void checkGotoAlone()
@@ -122,7 +123,7 @@ private:
         allow("NotEnough", has("Credit"), "with Credit");
     }
 
-    /// Checks an answer group against the group of its menu.
+    /// Checks that the group of an answer matches the group of its menu.
     void checkPlace()
     {
         if (kindOf(m_group.name) != GroupKind::Answer)

@@ -9,11 +9,12 @@
 namespace Tksv
 {
 
-/// The names of groups that other groups refer to, and that do not exist.
+/// The names of missing groups to which other groups refer.
 using MissingGroups = std::set<std::string>;
 
-/// Checks the keys of the group's rule against the rest of the scenario and, if the group has no
-/// other mistake, against each other. Reports each missing group once, and adds it to `missing`.
+/// Checks the keys of the group against the rest of the scenario. If `isComplete` is true, also
+/// checks that the keys are consistent with each other. Reports each missing group once and adds it
+/// to `missing`.
 void checkRule(const Scenario &scenario, const KeyFileGroup &group, bool isComplete,
                MissingGroups &missing, Complaints &complaints);
 

@@ -8,8 +8,8 @@ namespace Tksv
 namespace
 {
 
-/// Returns true if the string contains characters that have a special meaning in group names. A
-/// client's string that contains such characters must not match a group.
+/// Returns true if the string contains characters that have a special meaning in group names. Such
+/// a string from a client must not match the name of a group.
 bool hasSyntaxMarks(const std::string &text)
 {
     return text.find_first_of("%/ ") != std::string::npos;

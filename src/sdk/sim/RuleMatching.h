@@ -6,27 +6,27 @@
 
 #include "Scenario.h"
 
-/* Finds the rule of a scenario that applies to a code, to an answer or to a short message. */
+/* Functions that find the rule for a code, an answer or a short message. */
 
 namespace Tksv
 {
 
-/** The rule that matches a string sent by the client. */
+/** The rule that matches a string from the client. */
 struct Match {
-    std::string group;  // empty if no rule matches
-    std::string digits; // the digits that replace %s
+    std::string group;  // name of the group; empty if no rule matches
+    std::string digits; // the digits in the place of %s
 };
 
-/// Returns the group whose name is this code, or else the longest pattern that matches the code.
+/// Returns the group that is named exactly like the code, or else the longest matching pattern.
 Match findCode(const Scenario &scenario, const std::string &code);
-/// Returns the group whose name is this answer, or else the group of ANY_ANSWER.
+/// Returns the group for exactly this answer, or else the group for any other answer.
 Match findAnswer(const Scenario &scenario, const std::string &menu, const std::string &answer);
-/// Returns true if the group has answers. Its reply then leaves the session open.
+/// Returns true if the group has answers, so that its reply leaves the session open.
 bool isMenu(const Scenario &scenario, const std::string &group);
-/// Returns the rule for the number, or else the rule for all other numbers.
+/// Returns the rule for this number, or else the rule for all other numbers.
 SmsRule findSms(const Scenario &scenario, const std::string &number);
 
-/// Returns the digits that replace %s, or no value if the code does not match the pattern.
+/// Returns the digits in the place of %s, or std::nullopt if the code does not match the pattern.
 std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code);
 
 } // namespace Tksv

@@ -6,14 +6,14 @@ namespace Tksv
 namespace
 {
 
-/** A part of a string with {names}: plain text, followed by a name, which may be empty. */
+/** A piece of a string with {placeholders}: plain text and the name that follows it, if any. */
 struct TextPart {
     std::string plain;
     std::string name;
 };
 
-/// Reads the part of `text` at `position` and advances `position`. Returns false if a { is not
-/// closed or the name after it is empty.
+/// Reads the next piece of `text` at `position` and advances `position`. Returns false if a { is
+/// not closed or the name after it is empty.
 bool nextPart(const std::string &text, std::size_t &position, TextPart &part)
 {
     const std::size_t open = text.find('{', position);

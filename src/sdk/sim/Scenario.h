@@ -9,7 +9,7 @@
 
 #include "tksv_device.h"
 
-/* The simulated network of an operator, stored in plain value types; see docs/scenario-file.md. */
+/* The simulated network of an operator as plain value types; see docs/scenario-file.md. */
 
 namespace Tksv
 {
@@ -19,14 +19,14 @@ using Milliseconds = std::chrono::milliseconds;
 /// An amount of money in hundredths of the currency unit.
 using Amount = long long;
 
-/// The time for which a lost device is absent. No value means that the device never returns.
+/// The time after which a lost device returns. No value means that the device never returns.
 using AwayTime = std::optional<Milliseconds>;
 const Milliseconds DEFAULT_AWAY(3000);
 
-/// The maximum number of digits in a code. A request also contains a * and a #.
+/// The maximum number of digits in a code, which also contains at least a * and a #.
 const int MAX_CODE_DIGITS = TKSV_USSD_MAX_UNITS - 2;
 
-/** The network's reaction to a request; see docs/scenario-file.md. */
+/** How the network responds to a request; see docs/scenario-file.md. */
 enum class Outcome {
     Reply,
     Refuse,
@@ -38,21 +38,21 @@ enum class Outcome {
     DeviceEvent
 };
 
-/** The rule that determines how the network handles a code, or an answer to a menu. */
+/** The rule for a code or for an answer to a menu. */
 struct Rule {
     Outcome outcome = Outcome::Reply;
     std::string reply;
     std::string goTo; // the group whose rule is applied instead; may be empty
     Milliseconds delay = Milliseconds(0);
 
-    /// The minimum and maximum number of digits in a code with %s, and the reply to a number of
-    /// digits outside this range.
+    /// The allowed number of digits in the place of %s, and the reply to any other number of
+    /// digits.
     std::size_t minDigits = 1;
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
 
     /// The change to the balance: `credit` plus `creditDigits` (1, 0 or -1) times the value of the
-    /// digits, in whole currency units.
+    /// digits. `creditDigits` refers to whole currency units.
     Amount credit = 0;
     int creditDigits = 0;
     std::string notEnough; // the reply if the balance is too low
@@ -61,13 +61,13 @@ struct Rule {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** The rule that determines how the network handles short messages to a number. */
+/** The rule for short messages to a number. */
 struct SmsRule {
-    int result = 0; // the value of TKSV_SMSSendResult::result
+    int result = 0; // value of TKSV_SMSSendResult::result
     Milliseconds delay = Milliseconds(0);
 };
 
-/** A change to the device at a set time after the start. The change may be repeated. */
+/** A change to the device at a specified time after the start, which may be repeated. */
 struct TimedEvent {
     Milliseconds after = Milliseconds(0);
     std::optional<Milliseconds> every;
@@ -78,7 +78,7 @@ struct TimedEvent {
     AwayTime away = DEFAULT_AWAY;
 };
 
-/** A network-initiated message. Its text comes from the rule of the group. */
+/** A network-initiated message. The rule of its group contains the text. */
 struct Push {
     Milliseconds after = Milliseconds(0);
     std::string group;
@@ -98,8 +98,8 @@ struct Scenario {
     std::optional<Amount> balance;
     std::string currency;
 
-    std::map<std::string, Rule> rules;       // by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
-    std::map<std::string, SmsRule> smsRules; // keyed by number; empty key: all other numbers
+    std::map<std::string, Rule> rules; // keyed by group: "*123#", "*101*%s#", "*123#/1", "Push 1"
+    std::map<std::string, SmsRule> smsRules; // keyed by number; "" applies to all other numbers
     std::vector<TimedEvent> events;
     std::vector<Push> pushes;
 };
@@ -107,13 +107,13 @@ struct Scenario {
 const char ANY_DIGITS[] = "%s"; // placeholder for the digits in a code
 const char ANY_ANSWER[] = "%s"; // placeholder for any other answer
 
-/** The values of the {names} in a reply. */
+/** The placeholders of a reply and their values. */
 using Placeholders = std::map<std::string, std::string>;
 
-/// Returns the string with each {name} replaced by its value, and each {{ replaced by {.
+/// Returns the string with each {name} replaced by its value and each {{ replaced by {.
 std::string expand(const std::string &text, const Placeholders &values);
-/// Returns the placeholder names in the string. Returns no value if a { is neither part of {{ nor
-/// the start of a {name}.
+/// Returns the names of the placeholders in the string, or std::nullopt if a { is neither part of
+/// {{ nor the start of a {name}.
 std::optional<std::vector<std::string>> placeholderNames(const std::string &text);
 
 /// Returns the amount as "12.50", or as "12.50 EUR" if `currency` is not empty.

@@ -15,7 +15,7 @@ namespace Tksv
 namespace
 {
 
-/// The size of the longest operator name that fits into TKSV_DeviceInfo.
+/// The maximum length of an operator name in TKSV_DeviceInfo, in bytes.
 const std::size_t MAX_OPERATOR_BYTES = sizeof TKSV_DeviceInfo::operatorName - 1;
 const std::size_t MAX_CURRENCY_BYTES = 16;
 
@@ -100,8 +100,8 @@ const Key<TimedEvent> EVENT_KEYS[] = {
     {"Away", [](const ScenarioValue &v, TimedEvent &e) { e.away = v.away(); }},
 };
 
-/// Reads the keys of a group. Returns true if each line of the group is a known key. Otherwise, a
-/// key that seems to be missing may only be misspelt.
+/// Reads the keys of a group. Returns true if the group contains only valid lines and known keys.
+/// Otherwise, a key that is missing may only be misspelt and should not be reported.
 template <typename T, std::size_t N>
 bool readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Complaints &complaints)
 {
@@ -123,7 +123,8 @@ bool readKeys(const KeyFileGroup &group, const Key<T> (&keys)[N], T &target, Com
     return isComplete;
 }
 
-/// Returns the group [Network], or a group whose name seems to be a misspelling of it, or null.
+/// Returns the group [Network]. If there is none, returns a group whose name seems to be a
+/// misspelling of it, or null.
 const KeyFileGroup *findNetwork(const std::vector<KeyFileGroup> &groups)
 {
     const KeyFileGroup *similar = nullptr;
@@ -139,7 +140,7 @@ const KeyFileGroup *findNetwork(const std::vector<KeyFileGroup> &groups)
 
 /* ---- reading the groups ------------------------------------------------------------------ */
 
-/** Reads the groups into a scenario. RuleCheck later checks the references between groups. */
+/** Reads the groups into a scenario. References between groups are checked later by RuleCheck. */
 class GroupReader
 {
 public:
@@ -157,7 +158,7 @@ public:
             require(*network, "Operator");
             require(*network, "IMSI");
         } else if (!m_scenario.balance) {
-            m_scenario.balance = 0; // the key may be misspelt; otherwise each use would be reported
+            m_scenario.balance = 0; // Balance may be misspelt; do not report each use of it
         }
     }
 
@@ -165,7 +166,7 @@ public:
     {
         switch (kindOf(group.name)) {
         case GroupKind::Network:
-            break; // readNetwork() has already read it, because other groups use its delay
+            break; // already read by readNetwork(), because other groups use its delay
         case GroupKind::Sms:
             return readSms(group);
         case GroupKind::Push:
@@ -248,7 +249,7 @@ void readGroups(const std::vector<KeyFileGroup> &groups, Scenario &scenario, Com
 {
     GroupReader reader(scenario, complaints);
     reader.readNetwork(groups);
-    std::vector<std::pair<const KeyFileGroup *, bool>> rules; // true if the group has no mistake
+    std::vector<std::pair<const KeyFileGroup *, bool>> rules; // true if the group has no errors
     std::set<std::string> names;
     for (const KeyFileGroup &group : groups) {
         const std::size_t before = complaints.count();

@@ -11,13 +11,13 @@
 namespace Tksv
 {
 
-/** A complete scenario, or else the complaints, sorted by line number. */
+/** Either a complete scenario or the complaints, sorted by line number. */
 struct ScenarioResult {
     std::optional<Scenario> scenario;
     std::vector<Complaint> complaints;
 };
 
-/// Parses a scenario from a string. `file` is used in the complaints and as the scenario's source.
+/// Parses a scenario. `file` is the file name for the complaints and for Scenario::source.
 ScenarioResult readScenario(const std::string &text, const std::string &file);
 /// Reads a scenario from a regular file of at most 1 MiB.
 ScenarioResult readScenarioFile(const std::string &path);

@@ -11,8 +11,7 @@ namespace
 {
 
 const int MAX_MILLISECONDS = 24 * 60 * 60 * 1000;
-/// The maximum number of digits before the decimal point. The limit ensures that sums cannot
-/// overflow.
+/// The maximum number of digits before the decimal point, which prevents sums from overflowing.
 const std::size_t MAX_MONEY_DIGITS = 9;
 
 std::optional<int> parseInt(const std::string &text)
@@ -31,7 +30,7 @@ std::optional<int> parseIntBetween(const std::string &text, int min, int max)
     return value && *value >= min && *value <= max ? value : std::nullopt;
 }
 
-/// Parses "12", "12.5" or "12.50", without a sign.
+/// Parses an unsigned amount such as "12", "12.5" or "12.50".
 std::optional<Amount> parseMoney(const std::string &text)
 {
     const std::size_t point = text.find('.');

@@ -17,12 +17,12 @@ struct Word {
     T value;
 };
 
-/// Returns "a, b or c".
+/// Returns the words as "a, b or c".
 std::string enumerate(const std::vector<std::string> &words);
 
 /**
- * The value of one key. If the text is not valid, the functions add a complaint and return a value
- * within the range, which the caller ignores.
+ * Converts the value of a key. If the value is not valid, the functions add a complaint and return
+ * a value within the allowed range, which the caller ignores.
  */
 class ScenarioValue
 {
@@ -33,11 +33,11 @@ public:
     }
 
     const std::string &text() const { return m_entry.value; }
-    /// Returns the text, which must be 1 to `maxBytes` bytes long.
+    /// Returns the value as a string of 1 to `maxBytes` bytes.
     std::string name(std::size_t maxBytes) const;
     int number(int min, int max) const;
     Milliseconds milliseconds() const;
-    /// Returns a number of milliseconds, or no value for "never".
+    /// Returns a number of milliseconds, or std::nullopt for "never".
     AwayTime away() const;
     Amount amount() const;
     std::string digits(std::size_t min, std::size_t max) const;
@@ -58,7 +58,7 @@ public:
         return words[0].value;
     }
 
-    /// Adds a complaint that names `what` as the expected value.
+    /// Adds a complaint with a description of the expected value.
     void expected(const std::string &what) const;
 
 private:

@@ -44,7 +44,8 @@ void Scheduler::recheckClock()
     m_wake.notify_one();
 }
 
-/// Waits for the time that is left until `due`. The wait itself always uses the system clock.
+/// Waits for the time remaining until `due`. A test clock affects only this time; the wait itself
+/// uses the system clock.
 void Scheduler::waitUntil(Time due, std::unique_lock<std::mutex> &lock)
 {
     m_wake.wait_for(lock, due - SimulatorClock::now());

@@ -14,8 +14,8 @@ namespace Tksv
 {
 
 /**
- * Runs tasks after a delay, one after the other, on a separate thread. The first task starts the
- * thread. Tasks that are due at the same time run in the order in which they were scheduled.
+ * Runs tasks after a delay, one after another, on a separate thread. The thread is started by the
+ * first task. Tasks that are due at the same time run in the order in which they were scheduled.
  */
 class Scheduler
 {
@@ -29,7 +29,7 @@ public:
     void after(std::chrono::milliseconds delay, std::function<void()> task);
     /// Drops the pending tasks and waits for a running task. Must not be called from inside a task.
     void stop();
-    /// Reads the clock again. Must be called after the clock has jumped.
+    /// Makes the thread read the clock again. Must be called after the clock has jumped.
     void recheckClock();
 
 private:
@@ -37,7 +37,7 @@ private:
     void run();
     void waitUntil(Time due, std::unique_lock<std::mutex> &lock);
 
-    std::mutex m_mutex; // guards all members below; not locked while a task runs
+    std::mutex m_mutex; // guards all members below; not held while a task runs
     std::condition_variable m_wake;
     std::multimap<Time, std::function<void()>> m_tasks;
     bool m_stopping = false;

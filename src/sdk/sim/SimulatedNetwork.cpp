@@ -12,14 +12,14 @@ namespace
 
 const Amount HUNDREDTHS_IN_UNIT = 100;
 const int PIN_RETRIES = 3;               // the same as on every SIM (ETSI TS 102 221, 9.5.1)
-const std::size_t MAX_AMOUNT_DIGITS = 9; // a balance never has more digits
+const std::size_t MAX_AMOUNT_DIGITS = 9; // the maximum number of digits in a balance
 
 UssdReply emptyReply(TKSV_Failure reason)
 {
     return failedReply(Failure{reason});
 }
 
-/// Returns the reason of a reply without a text.
+/// Returns the failure reason for an outcome other than a reply.
 TKSV_Failure reasonOf(Outcome outcome)
 {
     switch (outcome) {
@@ -154,7 +154,7 @@ DeviceInfo SimulatedNetwork::info() const
     info.source = m_scenario.source;
     if (isRegistered())
         info.operatorName = m_scenario.operatorName;
-    if (m_state >= TKSV_DEVICE_DISABLED) { // the SIM has been read
+    if (m_state >= TKSV_DEVICE_DISABLED) { // the SIM has been unlocked
         info.imsi = m_scenario.imsi;
         info.simOperatorCode = m_scenario.homeNetwork;
         info.simOperatorName = m_scenario.operatorName;
@@ -168,7 +168,8 @@ DeviceInfo SimulatedNetwork::info() const
     return info;
 }
 
-/// Applies the change on the scheduler's thread with m_mutex locked, and then calls the observer.
+/// Schedules the change. The scheduler's thread applies it with m_mutex locked and then notifies
+/// the observer.
 void SimulatedNetwork::schedule(Milliseconds delay, Change change)
 {
     m_scheduler.after(delay, [this, change = std::move(change)] {
@@ -193,8 +194,8 @@ Match SimulatedNetwork::findRule(RequestKind kind, const std::string &text) cons
     return match;
 }
 
-/// Returns the rule of the match, or the rule to which its Goto key refers. If no rule matches,
-/// returns a rule that rejects the request.
+/// Returns the rule of the match, or the rule to which Goto refers. If there is no match, returns a
+/// rule that rejects the request.
 Rule SimulatedNetwork::ruleFor(const Match &match) const
 {
     const auto found = m_scenario.rules.find(match.group);
@@ -232,8 +233,8 @@ UssdReply SimulatedNetwork::replyTo(const Request &request, const Rule &rule)
     return reply.text.empty() ? emptyReply(TKSV_FAILURE_ENDED_BY_NETWORK) : reply;
 }
 
-/// Returns the reply to the request. The text is empty if the rule does not provide a reply. The
-/// network then rejects the request.
+/// Returns the reply to the request. The text is empty if the rule does not contain a suitable
+/// reply, which means that the network rejects the request.
 UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
 {
     const std::string &digits = request.match.digits;
@@ -250,7 +251,7 @@ UssdReply SimulatedNetwork::textReply(const Request &request, const Rule &rule)
     return UssdReply{type, expand(rule.reply, placeholders(request))};
 }
 
-/// Changes the balance. Returns false if the balance is too low.
+/// Applies the rule's change to the balance. Returns false if the balance is too low.
 bool SimulatedNetwork::takeCredit(const Rule &rule, const std::string &digits)
 {
     if (rule.creditDigits && digits.size() > MAX_AMOUNT_DIGITS)
@@ -271,7 +272,8 @@ Placeholders SimulatedNetwork::placeholders(const Request &request) const
                         {"answer", request.answer}};
 }
 
-/// Ends the request and the menu, and sends the network-initiated messages that are due.
+/// Ends the request and closes the menu. Schedules the network-initiated messages that have been
+/// waiting for the end of the session.
 void SimulatedNetwork::closeSession()
 {
     m_inFlight = 0;

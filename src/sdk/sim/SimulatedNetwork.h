@@ -14,7 +14,7 @@
 namespace Tksv
 {
 
-/** The backend that simulates a device and its operator's network as described by a scenario. */
+/** A backend that simulates a device and its operator's network, as described by a scenario. */
 class SimulatedNetwork : public Backend
 {
 public:
@@ -32,20 +32,20 @@ public:
     DeviceInfo info() const override;
 
 private:
-    /// The calls to the observer that are made after m_mutex is unlocked. Only the scheduler's
-    /// thread makes these calls, so the observer receives the changes in their order.
+    /// Calls to the observer, which are made after m_mutex has been unlocked. The observer receives
+    /// them in the order of the changes, because only the scheduler's thread makes these calls.
     using Notices = std::vector<std::function<void(BackendObserver &)>>;
     using Change = std::function<void(Notices &)>;
 
-    /** The menu that waits for an answer. `group` is empty if no menu is open. */
+    /** The menu that is waiting for an answer. `group` is empty if there is none. */
     struct OpenMenu {
         std::string group;
-        std::string digits; // the digits of the code that opened the session
+        std::string digits; // the digits in the code that opened the session
     };
     struct Request {
         RequestToken token = 0;
         Match match;
-        std::string answer; // empty for a code
+        std::string answer; // empty if the request is a code
     };
 
     void schedule(Milliseconds delay, Change change);
@@ -71,7 +71,7 @@ private:
     const Scenario m_scenario;
     BackendObserver *m_observer = nullptr;
 
-    mutable std::mutex m_mutex; // guards all members below; not locked while the observer is called
+    mutable std::mutex m_mutex; // guards all members below; not held while the observer is called
     bool m_stopped = false;
     TKSV_DeviceState m_state;
     int m_signalPercent;
@@ -81,7 +81,7 @@ private:
     Amount m_balance;
     RequestToken m_inFlight = 0;
     OpenMenu m_menu;
-    std::vector<std::string> m_duePushes; // groups of messages to send when the session ends
+    std::vector<std::string> m_duePushes; // groups of the messages to send when the session ends
     unsigned m_lastSms = 0;
     std::map<unsigned, SmsMessage> m_smsInFlight;
 

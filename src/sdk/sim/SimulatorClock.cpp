@@ -20,8 +20,8 @@ SimulatorClock::Time systemTime()
 std::atomic<SimulatorClock::Source> g_source(&systemTime);
 
 /**
- * The existing schedulers. The list is never destroyed, because a network may outlive the library's
- * static objects.
+ * All schedulers. The list is never destroyed, because a network may still exist when the library's
+ * static objects are destroyed.
  */
 struct SchedulerList {
     std::mutex mutex; // locked before the mutex of a scheduler

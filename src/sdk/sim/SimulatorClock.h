@@ -9,8 +9,8 @@ namespace Tksv
 class Scheduler;
 
 /**
- * The clock of simulated networks: the steady system clock, or a test clock in which hours pass
- * within seconds. The functions may be called from any thread.
+ * The clock of simulated networks. It is either the steady system clock or a test clock, in which
+ * hours can pass within seconds. The functions may be called from any thread.
  */
 class SimulatorClock
 {
@@ -19,10 +19,10 @@ public:
     using Source = Time (*)();
 
     static Time now();
-    /// Sets another clock, which must never run backwards. Null restores the system clock.
+    /// Sets the clock source, which must never run backwards. Null restores the system clock.
     static void setSource(Source source);
-    /// Notifies every scheduler that the clock has jumped. A test must call this function after it
-    /// has advanced its clock.
+    /// Notifies all schedulers that the clock has jumped. Tests must call this function after they
+    /// have advanced their clock.
     static void notifyJump();
 
 private:

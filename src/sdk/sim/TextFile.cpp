@@ -17,7 +17,8 @@ const std::size_t MAX_BYTES = std::size_t(1024) * 1024;
 
 using FilePointer = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
 
-/// Opens the file. Opening a pipe does not wait for a writer. isRegular() then rejects the pipe.
+/// Opens the file without blocking if it is a named pipe. The caller then rejects the pipe with
+/// isRegular().
 FilePointer openFile(const std::string &path)
 {
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -30,8 +31,8 @@ bool isRegular(std::FILE *file)
     return fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Reads until the end of the file, or until the text is too long. A small buffer is sufficient,
-/// because most files are only a few kilobytes in size.
+/// Reads to the end of the file, or until the text exceeds the maximum size. The buffer is small
+/// because most files have only a few kilobytes.
 void readPieces(std::FILE *file, std::string &text)
 {
     char piece[4096];
