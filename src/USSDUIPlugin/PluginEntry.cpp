@@ -1,9 +1,9 @@
 /*
- * The entry points for the plug-in loader. Qt 4 looks up the two functions below by name and
- * compares the verification data with the data of its own build. In Qt 5 and later,
- * qt_plugin_instance() is generated from the meta data of the class, and the loader reads this meta
- * data instead. The build key of a library that was built with Qt 5 or later is one that no Qt 4
- * has. Therefore, a Qt 4 host refuses the library with an error message.
+ * The entry points for the plug-in loader. The loader of Qt 4 looks up the two functions below by
+ * name and compares the verification data with that of its own build. In Qt 5 and later, moc
+ * generates qt_plugin_instance(), and the loader reads the meta data of the class instead. If the
+ * library is built with Qt 5 or later, its build key cannot match that of any Qt 4 build. A Qt 4
+ * host therefore rejects the library with an error message.
  */
 #include <QtPlugin>
 
@@ -22,7 +22,8 @@ USSD_ENTRY_POINT const char *qt_plugin_query_verification_data();
 
 const char *qt_plugin_query_verification_data()
 {
-    // Qt 4's loader also searches the library file for this string without loading the library.
+    // The loader of Qt 4 also searches the library file for this string before it loads the
+    // library.
     static const char data[] = USSD_VERIFICATION_DATA;
     return data;
 }

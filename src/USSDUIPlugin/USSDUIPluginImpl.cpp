@@ -96,7 +96,7 @@ bool CUSSDUIPluginImpl::QueryInterface(int id, QObject **out)
     CUSSDService *service = nullptr;
     try {
         service = CUSSDService::instance();
-    } catch (...) { // no exception may reach the host
+    } catch (...) { // exceptions must not reach the host
         return false;
     }
     m_pService = service;
@@ -129,8 +129,7 @@ void CUSSDUIPluginImpl::FitSize(QRect &rect)
     CUSSDService::instance()->FitSize(rect);
 }
 
-/// Intentionally returns false, because a host calls this function before it offers a page at
-/// start-up.
+/// Intentionally returns false, so that hosts do not show the page at start-up.
 bool CUSSDUIPluginImpl::IsReady()
 {
     USSD_LOG(" Enter");

@@ -8,10 +8,9 @@
 #include "QtCompat.h"
 
 /**
- * The object that the host loads. It does not contain any logic: each function returns a fixed
- * value or calls the service. All functions must be called from the GUI thread. OnDestroy(),
- * UnSDKRegisterEvent() and the destructor may be called in any order. The first two may be called
- * repeatedly.
+ * The root object of the plug-in, which the host loads. Each function either returns a constant or
+ * calls the service. All functions must be called from the GUI thread. OnDestroy() and
+ * UnSDKRegisterEvent() may be called repeatedly and in any order.
  */
 class CUSSDUIPluginImpl : public QObject, public IUIPlugin, public INotify
 {
@@ -46,7 +45,7 @@ public:
     int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
 private:
-    QObject *m_pService; // the service returned by QueryInterface()
+    QObject *m_pService; // the service that QueryInterface() returns
 };
 
 #endif

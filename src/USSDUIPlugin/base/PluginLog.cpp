@@ -10,17 +10,17 @@
 namespace
 {
 
-const int USUAL_LENGTH = 256; // bytes; a longer line requires a second allocation
-const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may be in any script
+const int USUAL_LENGTH = 256; // bytes; longer lines require a second memory allocation
+const int STAMP_LENGTH = 64;  // bytes for hh:mm:ss:zzz, whose digits may belong to any script
 
-/// The time string of the last line, and the millisecond for which it is valid.
+/// The time string of the last log line and the millisecond to which it applies.
 struct Stamp {
     qint64 millisecond;
     char text[STAMP_LENGTH];
 };
 
-// Stamp does not have a destructor, because a destructor would keep the library loaded until the
-// last thread has ended.
+// Stamp must not have a destructor. A thread-local object with a destructor would keep the library
+// loaded until the last thread has ended.
 thread_local Stamp lastStamp = {-1, ""};
 
 qint64 millisecondsNow()
@@ -52,7 +52,7 @@ void write(QtMsgType type, const QByteArray &text)
         qWarning("%s", text.constData());
 }
 
-/// Returns the source, the function and the formatted tail. Prepends `stamp` unless it is null.
+/// Returns "source: function" and the formatted tail, preceded by `stamp` unless it is null.
 QByteArray composed(const char *stamp, const char *source, const char *function, const char *tail,
                     va_list arguments)
 {
@@ -70,9 +70,9 @@ QByteArray composed(const char *stamp, const char *source, const char *function,
 namespace PluginLog
 {
 
-// Returns the time of day as a string. All lines within one millisecond share the string, because
-// determining the local time accesses the time-zone file, and a command logs about twenty lines in
-// a row.
+// Returns the current local time. Log lines within the same millisecond share the string, because a
+// command logs about twenty lines in a row and every query of the local time accesses the time-zone
+// file.
 const char *timeOfDay()
 {
     const qint64 now = millisecondsNow();

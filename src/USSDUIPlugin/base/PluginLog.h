@@ -4,15 +4,14 @@
 #include <QtGlobal>
 
 /*
- * The plug-in's log lines. A line has the form "time: source path: function", followed by a tail
- * that starts with a blank or a colon. Each .cpp file defines its name once:
+ * Writes the plug-in's log lines. A line has the form "time: source path: function", followed by a
+ * tail that starts with a blank or a colon. Each .cpp file defines its source path once:
  *
  *     static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDLogic.cpp");
  *
- * The .cpp files of a class share the name of the first file, because users who search the log look
- * for this name. All other code writes log lines only with the macros below. In a build with
- * USSD_LOG_LINES=OFF, the macros do not write anything. The compiler still checks their arguments,
- * but the arguments are not evaluated at run time.
+ * The .cpp files of a class all use the path of the first file, because users search the log for
+ * this path. Code outside this file must use the macros below. In a build with USSD_LOG_LINES=OFF,
+ * the macros write nothing: their arguments are compiled but not evaluated.
  */
 
 #define USSD_LOG_SOURCE(file) "../../src/USSDUIPlugin/" file
@@ -22,22 +21,23 @@ namespace PluginLog
 
 #define USSD_PRINTF(text, first) __attribute__((format(printf, text, first)))
 
-/// Returns the local time as hh:mm:ss:zzz in the local 8-bit encoding. The string is valid until
-/// the next call on the same thread.
+/// Returns the local time as hh:mm:ss:zzz in the local 8-bit encoding. The string remains valid
+/// until the calling thread calls the function again.
 const char *timeOfDay();
 
-/// Writes "time: source: function" and the formatted tail.
+/// Writes a line that consists of "time: source: function" and the formatted tail.
 void line(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// Writes a line at debug level and again at warning level.
+/// Writes the same line at debug level and at warning level.
 void important(const char *source, const char *function, const char *tail, ...) USSD_PRINTF(3, 4);
 
-/// Writes "source: function" and the formatted tail, without the time.
+/// Writes a line that consists of "source: function" and the formatted tail.
 void untimed(QtMsgType type, const char *source, const char *function, const char *tail, ...)
     USSD_PRINTF(4, 5);
 
-/// Logs Enter on construction, and Exit on destruction unless the exit has already been logged.
+/// Logs Enter on construction. On destruction, logs Exit unless an exit line has already been
+/// logged.
 class Scope
 {
 public:
@@ -48,7 +48,7 @@ public:
     void exitWith(const char *tail, ...) USSD_PRINTF(2, 3);
     /// Logs `tail` instead of the default Exit line, at debug level and again at warning level.
     void exitWithWarning(const char *tail, ...) USSD_PRINTF(2, 3);
-    /// Suppresses the Exit line, because the previous line has already reported everything.
+    /// Suppresses the Exit line. Used if the previous line already reports the exit.
     void leaveSilently() { m_exited = true; }
 
 private:
@@ -90,8 +90,8 @@ private:
 #define USSD_LOG_UNTIMED(...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, __func__, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_WARNING(...) USSD_LOG_UNTIMED_LINE(QtWarningMsg, __func__, __VA_ARGS__)
 
-// These macros log the given function name. Use them in helper functions that log under the name of
-// another function.
+// These macros log the name of another function. Helper functions use them to log under the name of
+// their caller.
 #define USSD_LOG_AS(function, ...) USSD_LOG_LINE(QtDebugMsg, function, __VA_ARGS__)
 #define USSD_LOG_WARNING_AS(function, ...) USSD_LOG_LINE(QtWarningMsg, function, __VA_ARGS__)
 #define USSD_LOG_UNTIMED_AS(function, ...) USSD_LOG_UNTIMED_LINE(QtDebugMsg, function, __VA_ARGS__)

@@ -12,8 +12,8 @@ namespace
 
 typedef QList<QPointer<QDialog>> Dialogs;
 
-/// An open message box. The host creates the message box. To identify it, the plug-in compares the
-/// caption and excludes the dialogs that were already open.
+/// An open message box, which the host has created. The plug-in identifies it as the dialog that
+/// has this caption and was not open before.
 struct OpenMessage {
     QString caption;
     Dialogs before;

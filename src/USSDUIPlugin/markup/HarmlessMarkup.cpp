@@ -12,7 +12,7 @@ namespace
 
 const int LONGEST_TAG = 10; // the length of "blockquote"
 
-/// The tags that QTextDocument supports, in sorted order.
+/// The tags that QTextDocument supports, sorted.
 const char *const KNOWN_TAGS[] = {
     "a",    "address", "b",     "big",   "blockquote", "body",  "br",   "caption", "center",
     "cite", "code",    "dd",    "dfn",   "div",        "dl",    "dt",   "em",      "font",
@@ -41,15 +41,15 @@ bool endsName(const QString &text, int place)
            unit == QLatin1Char('=');
 }
 
-/// Returns true if the character is white space other than a line feed. The transcript replaces
-/// line feeds with tags.
+/// Returns true if the character is white space other than a line feed. Line feeds are excluded
+/// because the transcript replaces them with tags.
 bool isBlank(QChar unit)
 {
     return unit.isSpace() && unit != QLatin1Char('\n');
 }
 
-/// Returns the position at which the tag name after `bracket` begins. Skips blanks and the slash of
-/// a closing tag.
+/// Returns the start of the tag name after `bracket`, skipping blanks and the slash of a closing
+/// tag.
 int nameBegin(const QString &text, int bracket)
 {
     int begin = bracket + 1;
@@ -67,8 +67,8 @@ int nameEnd(const QString &text, int begin)
     return end;
 }
 
-/// Returns true if a quoted value begins at `place`. A quotation mark begins a quoted value only at
-/// the start of a word, as in `size="2"`.
+/// Returns true if a quoted value starts at `place`. A quotation mark starts a value only at the
+/// beginning of a word, as in `size="2"`.
 bool opensQuote(const QString &text, int place)
 {
     const QChar unit = text.at(place);
@@ -77,7 +77,7 @@ bool opensQuote(const QString &text, int place)
            (before.isSpace() || before == QLatin1Char('='));
 }
 
-/// Returns true if the tag is closed by an unquoted ">" before another tag or a line feed begins.
+/// Returns true if an unquoted ">" closes the tag before another tag or a line feed starts.
 bool hasEnd(const QString &text, int place)
 {
     for (int i = place; i < text.length(); ++i) {

@@ -7,23 +7,25 @@
 #include "MarkupCost.h"
 
 /*
- * Makes the markup in a reply harmless. A reply comes from the network and may contain any markup.
- * Transcript and TranscriptView therefore use these functions for every entry.
+ * Functions that make the markup in network replies harmless. A reply may contain any markup, so
+ * Transcript and TranscriptView use these functions for every entry.
  */
 namespace HarmlessMarkup
 {
 
-/// Returns `text` with each "<" escaped unless it starts a complete tag known to Qt. A rich-text
-/// document would treat such a "<" as the start of a tag and drop the text after it, as in "Balance
-/// < 5 EUR". A tag whose name contains entities or quotes is not recognized and is also escaped.
+/// Returns `text` with each "<" escaped unless it starts a complete tag that Qt supports. Without
+/// this, a rich-text document would treat the "<" in "Balance < 5 EUR" as the start of a tag and
+/// drop the rest of the text. A tag is also escaped if its name contains entities or quotes,
+/// because such a name is not recognized.
 QString withStrayBracketsEscaped(const QString &text);
 
-/// Returns true if an entry with this cost may keep its markup in a transcript whose existing
-/// markup has the cost `before`. An entry that is added in pieces cannot keep tags.
+/// Returns true if an entry with this cost can be shown with its markup. `before` is the cost of
+/// the markup that is already in the transcript. Entries that are inserted in pieces never keep
+/// their markup.
 bool mayKeepMarkup(const MarkupCost &cost, const MarkupCost &before, bool isInPieces);
 
-/// Returns an empty resource instead of one that the markup names, so that no file and no address
-/// is opened. If the resource were null, Qt would try to open a file with this name.
+/// Returns an empty resource, which is used in place of every resource that the markup refers to.
+/// The result must not be null, because Qt would then try to open a file of that name.
 QVariant emptyResource(int type);
 
 } // namespace HarmlessMarkup

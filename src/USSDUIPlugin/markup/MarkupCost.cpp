@@ -5,7 +5,7 @@
 namespace
 {
 
-const int MAX_TAGS = 60; // per reply; the longest reply from a network has 182 characters
+const int MAX_TAGS = 60; // per reply; network replies have at most 182 characters
 const int MAX_TABLES = 8;
 const int MAX_RULES = 8;
 
@@ -15,7 +15,7 @@ bool endsName(QChar unit)
            unit == QLatin1Char('=');
 }
 
-/// Returns the tag name in lower case. `behind` is the text after the "<" of the tag.
+/// Returns the name of the tag in lower case. `behind` is the text that follows its "<".
 QString tagName(const QString &behind)
 {
     int begin = 0;
@@ -27,15 +27,15 @@ QString tagName(const QString &behind)
     return behind.mid(begin, end - begin).toLower();
 }
 
-/// Returns true if quotes or entities disguise the tag name, so that it may be any name.
+/// Returns true if the tag name contains quotes or entities, so that its actual value is unknown.
 bool isDisguised(const QString &name)
 {
     return name.contains(QLatin1Char('&')) || name.contains(QLatin1Char('"')) ||
            name.contains(QLatin1Char('\''));
 }
 
-/// Returns true if the tag contains an entity or a number with at least three digits. An entity may
-/// disguise such a number or the name of its attribute.
+/// Returns true if the tag contains an entity or a number of three or more digits. An entity could
+/// hide such a number or the name of its attribute.
 bool maySpanMany(const QString &behind)
 {
     int digits = 0;
@@ -81,7 +81,7 @@ MarkupCost markupCost(const QString &text)
         return cost;
     cost.tags = text.count(QLatin1Char('<'));
     if (cost.tags > MAX_TAGS)
-        return cost; // if there are too many tags, their kinds do not matter
+        return cost; // with too many tags, the other counts are irrelevant
     cost.tags = 0;
     const QStringList parts = text.split(QLatin1Char('<'));
     for (int i = 1; i < parts.count(); ++i)

@@ -4,23 +4,22 @@
 #include <QString>
 
 /**
- * Estimates how long a rich-text document would take to lay out the markup in a reply. If the
- * markup is too expensive, TranscriptView shows it as plain text. The layout time doubles with each
- * nested table, a table cell may span four hundred million other cells, and each rule of a style
- * sheet is matched against each tag. Therefore, a reply of 182 characters can block a window for
- * hours.
+ * Estimates how long QTextDocument would take to lay out the markup in a reply. Without this check,
+ * a reply of 182 characters could block a window for hours: the layout time doubles with each
+ * nested table, a table cell can span four hundred million cells, and every rule of a style sheet
+ * is matched against every tag. TranscriptView shows markup that is too expensive as plain text.
  *
- * The numbers are counted in the text, not in the parsed document, and are never too low.
- * HarmlessMarkup determines what is treated as a tag. SlowText handles text that is slow even
+ * The counts are based on the text, not on the parsed document, and are upper bounds.
+ * HarmlessMarkup decides which parts of the text are tags. SlowText detects text that is slow even
  * without markup.
  */
 struct MarkupCost {
     int tags = 0;
     int tables = 0;
     int rules = 0;     // style sheet rules
-    bool wide = false; // true if a cell may span a very large number of other cells
+    bool wide = false; // true if a cell may span a very large number of cells
 
-    /// Returns true if this markup may be added to a transcript whose existing markup has the cost
+    /// Returns true if this markup can be added to a transcript whose markup already has the cost
     /// `before`.
     bool isBearable(const MarkupCost &before) const;
     void add(const MarkupCost &other);

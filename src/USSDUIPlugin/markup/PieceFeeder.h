@@ -11,9 +11,9 @@ class QTextEdit;
 
 /**
  * Appends a long text to a QTextEdit in pieces, so that the window remains responsive. Each
- * iteration of the event loop inserts one piece as a separate paragraph. AccountReplyView and
- * TranscriptView pass the pieces of a slow text (see SlowText) to the feeder. The feeder is a child
- * of the text edit. All functions must be called from the GUI thread.
+ * iteration of the event loop appends one piece as a separate paragraph. AccountReplyView and
+ * TranscriptView use this class for slow text; see SlowText. The feeder is a child of the text
+ * edit. All functions must be called from the GUI thread.
  */
 class PieceFeeder : public QObject
 {
@@ -22,13 +22,13 @@ public:
     explicit PieceFeeder(QTextEdit *edit);
 
     bool isBusy() const { return !m_pieces.isEmpty(); }
-    /// Adds a piece to the end of the queue.
+    /// Appends a piece to the queue.
     void add(const QString &text, const QTextBlockFormat &block, const QTextCharFormat &letters);
-    /// Discards all pieces that have not been inserted yet.
+    /// Discards all pieces in the queue.
     void drop();
 
 signals:
-    /// Emitted after a piece has been inserted.
+    /// Emitted after a piece has been appended to the text edit.
     void added();
 
 private slots:

@@ -3,21 +3,21 @@
 namespace
 {
 
-const int NEVER_HEAVY = 1000; // characters; a reply from a network has at most 182
+const int NEVER_HEAVY = 1000; // characters; network replies have at most 182
 const int ALWAYS_HEAVY = 10000;
 const int MAX_CHANGES = 500;
-const int PIECE = 990;    // less than NEVER_HEAVY, so that there is room for a surrogate pair
-const int LOOK_BACK = 50; // number of characters in which to search backwards for a blank
+const int PIECE = 990;    // below NEVER_HEAVY, which leaves room for a surrogate pair
+const int LOOK_BACK = 50; // maximum distance of a blank from the end of a piece, in characters
 
-/// Returns true if `after` starts another script, or is a combining character for `before`.
+/// Returns true if `after` belongs to another script than `before` or combines with it.
 bool isChange(QChar before, QChar after)
 {
-    const int charactersOfAScript = 128; // an approximation, because Qt's script tables are private
+    const int charactersOfAScript = 128; // an approximation; Qt's script tables are private
     return before.unicode() / charactersOfAScript != after.unicode() / charactersOfAScript ||
            after.category() == QChar::Mark_NonSpacing;
 }
 
-/// Returns the end of the piece that starts at `begin`. The end is never inside a surrogate pair.
+/// Returns the end of the piece that starts at `begin`. Surrogate pairs are never split.
 int endOfPiece(const QString &text, int begin)
 {
     int end = begin + PIECE;

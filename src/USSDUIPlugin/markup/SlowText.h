@@ -5,19 +5,19 @@
 #include <QStringList>
 
 /*
- * Detects replies that would freeze a window while Qt breaks them into lines, and splits such a
- * reply into pieces that can be laid out quickly. Line breaking is slow for long texts. The time
- * increases with the square of the number of script changes.
+ * Detects text that would block a window while Qt breaks it into lines, and splits it into pieces
+ * that can be laid out quickly. Line breaking is slow for long text, and its running time is
+ * quadratic in the number of script changes.
  *
- * Transcript, AccountReplyView and ReplyMessageBox call isHeavy(). PieceFeeder adds the pieces to a
- * text edit one by one. SlowText considers only plain text. MarkupCost estimates the cost of
- * markup.
+ * Transcript, AccountReplyView and ReplyMessageBox call isHeavy(). PieceFeeder appends the pieces
+ * to a text edit one by one. SlowText does not consider markup, whose cost is estimated by
+ * MarkupCost.
  */
 namespace SlowText
 {
 
-/// Returns true if laying out `text` as one paragraph would block the window for a noticeable time.
-/// A text that a network can send is never heavy.
+/// Returns true if laying out `text` as a single paragraph would noticeably block the window. This
+/// never applies to a text that a network can send.
 bool isHeavy(const QString &text);
 
 /// Splits `text` into pieces that are not heavy, at blanks if possible.

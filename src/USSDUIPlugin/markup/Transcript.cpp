@@ -17,8 +17,8 @@ QString hexByte(int value)
     return QString::fromLatin1("%1").arg(static_cast<unsigned int>(value), 2, 16, QLatin1Char('0'));
 }
 
-/// Returns true if a rich-text document does not treat `unit` as plain text. Such a character
-/// begins a tag or an entity, or marks a paragraph, a frame or an object.
+/// Returns true if `unit` has a special meaning in a rich-text document. Such a character starts a
+/// tag or an entity, or delimits a paragraph, a frame or an object.
 bool meansMoreThanText(QChar unit)
 {
     switch (unit.unicode()) {
@@ -44,9 +44,9 @@ bool isPlain(const QString &text)
     return true;
 }
 
-/// Returns true if the entry may affect the appearance of later entries. A tag may remain open, a
-/// style sheet applies to all later entries, and an entry that turns out to be blank is merged with
-/// the next one. An entry with a caption that is not blank is never merged, regardless of the text.
+/// Returns true if the entry may change the appearance of later entries: a tag may remain open, a
+/// style sheet applies to all later entries, and a blank entry is merged with the next one. An
+/// entry with a non-blank caption is never merged.
 bool mayReachOn(const QString &caption, const QString &text)
 {
     return text.contains(QLatin1Char('<')) || !isPlain(caption) || caption.trimmed().isEmpty();

@@ -11,40 +11,39 @@ struct Char;
 }
 
 /*
- * Builds the entries of the general window's transcript as markup. All functions depend only on
- * their arguments. HarmlessMarkup escapes each "<" that does not begin a tag. SlowText and
- * MarkupCost estimate how expensive an entry is. Based on this estimate, TranscriptView selects one
- * of the forms of the entry.
+ * Builds the markup for the entries of the general window's transcript. The functions are
+ * stateless. HarmlessMarkup escapes each "<" that does not start a tag. SlowText and MarkupCost
+ * estimate the cost of an entry, which determines the form in which TranscriptView shows it.
  */
 namespace Transcript
 {
 
-/// The direction of an entry: the user sent or received the text.
+/// The direction of an entry, as seen by the user.
 enum Direction { Sent, Received };
 
-/** An entry in all forms in which TranscriptView may show it. */
+/** An entry in all forms in which TranscriptView can show it. */
 struct Entry {
     QString markup;
-    bool isPlain;    // true if the caption and the text do not contain markup
-    bool mayReachOn; // true if the markup may affect the appearance of later entries
-    bool isHeavy;    // true if the layout of the text is slow even without markup
+    bool isPlain;    // true if neither the caption nor the text contains markup
+    bool mayReachOn; // true if the markup may change the appearance of later entries
+    bool isHeavy;    // true if the text is slow to lay out even without markup
     MarkupCost cost; // cost of the markup in the text
 
-    // The entry with escaped markup, which is shown if the markup is too expensive.
+    // The entry with its markup escaped. It is shown if the markup is too expensive.
     QString letters;
-    bool lettersMayReachOn; // true if the escaped text may affect the appearance of later entries
+    bool lettersMayReachOn; // like mayReachOn, but for the entry with its markup escaped
 
-    // The contents of an entry that is shown in pieces.
+    // Used if the entry is shown in pieces.
     QString words;  // caption and text; lines end with a line feed
     QString sample; // markup of a short entry with the same appearance
 };
 
-/// Returns the entry for a text. Tags in `text` are treated as markup. A "<" that does not begin a
-/// tag is plain text.
+/// Returns the entry for a text. `text` may contain tags. A "<" that does not start a tag is
+/// treated as plain text.
 Entry entry(Direction direction, const Formats::Char &look, bool rightToLeft,
             const QString &caption, const QString &text);
 
-/// Returns a complete document with the markup of the entries.
+/// Returns the markup of a complete document that contains the entries.
 QString document(const QString &entries);
 
 } // namespace Transcript

@@ -19,7 +19,7 @@ void insertBlock(QTextCursor &cursor, const QTextBlock &block)
         cursor.insertText(it.fragment().text(), it.fragment().charFormat());
 }
 
-/// Inserts a plain entry with the same appearance that it would have in a separate document.
+/// Appends a plain entry. It looks the same as in a document of its own.
 void insertAtEnd(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -32,7 +32,7 @@ void insertAtEnd(QTextDocument &document, const QString &markup)
     cursor.endEditBlock();
 }
 
-/// Inserts an entry with markup into a document that is no longer replaced as a whole.
+/// Appends an entry with markup to a document that contains pieces and must not be replaced.
 void insertWithMarkup(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;
@@ -48,7 +48,7 @@ void insertWithMarkup(QTextDocument &document, const QString &markup)
 TranscriptView::TranscriptView(QWidget *parent)
     : QTextEdit(parent), m_feeder(new PieceFeeder(this)), m_isOpen(false), m_isInPieces(false)
 {
-    setUndoRedoEnabled(false); // the undo stack would keep a second copy of every entry
+    setUndoRedoEnabled(false); // the undo stack would store a second copy of every entry
     connect(m_feeder, SIGNAL(added()), this, SLOT(showEnd()));
 }
 
@@ -79,8 +79,8 @@ void TranscriptView::showEntry(const Transcript::Entry &entry, const QString &ma
         insertAtEnd(*document(), markup);
 }
 
-/// Inserts the entry in pieces. From now on, entries are only appended to the document. If the
-/// entire document were replaced, Qt would lay out all pieces at once.
+/// Inserts the entry in pieces. From now on, new entries are only appended. If the entire document
+/// were set again, Qt would have to lay out all pieces at once.
 void TranscriptView::insertPieces(const Transcript::Entry &entry)
 {
     m_isInPieces = true;

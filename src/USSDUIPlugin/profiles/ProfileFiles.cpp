@@ -1,4 +1,4 @@
-/* The part of USSDEditCmd that reads and writes the profile files. */
+/* The functions of USSDEditCmd that read and write the profile files. */
 #include "USSDEditCmd.h"
 
 #include <QDir>
@@ -30,8 +30,9 @@ QString parentDirectory(const QString &path)
     return path.left(path.lastIndexOf(QLatin1Char('/')));
 }
 
-/// Returns the path of the file to which the path links. An installation links to its configuration
-/// in /etc. Saving profiles deletes their file, and must not delete the link instead.
+/// Returns the target of the path if it is a symbolic link, otherwise the path itself. Installed
+/// configuration files are links to files in /etc. Saving deletes the old file, and must not delete
+/// the link.
 QString linkTarget(const QString &path)
 {
     const QString target = QFileInfo(path).canonicalFilePath();
@@ -64,7 +65,7 @@ void USSDEditCmd::getUserProfileXMLFilePath(QString &path)
     USSD_LOG_EXIT(" Exit: user profile file path=%s", path.toLocal8Bit().constData());
 }
 
-/// Returns the path to use from now on. This is the new path, or the old path if the old file
+/// Moves the profile file from its former path. Returns the new path, or the old path if the file
 /// cannot be copied.
 QString USSDEditCmd::movedLegacyFile(const QString &oldPath, const QString &newPath)
 {
@@ -136,8 +137,8 @@ void USSDEditCmd::noteReading(bool isSystem, Reading reading)
     (isSystem ? m_systemFileReading : m_userFileReading) = reading;
 }
 
-/// Returns true if the file may be overwritten. A file that was not read completely must be kept. A
-/// file that has been created since the profiles were read must also be kept.
+/// Returns true if the file may be overwritten. A file that could not be read completely, or that
+/// was created after the profiles had been read, must be kept.
 bool USSDEditCmd::mayBeSavedOver(bool isSystem)
 {
     const Reading reading = isSystem ? m_systemFileReading : m_userFileReading;
@@ -187,8 +188,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
         USSD_LOG_IMPORTANT(" Exit: Directory is not created");
         return SAVE_NO_DIRECTORY;
     }
-    // This call has no effect if the file was deleted above. If the file could not be deleted, its
-    // permissions remain unchanged, so that its owner can still read it.
+    // This call has no effect, because the file does not exist. A file that could not be deleted
+    // must keep its permissions, so that its owner can still read it.
     if (!file.exists())
         file.setPermissions(QFile::WriteOwner | QFile::WriteUser | QFile::WriteOther);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
@@ -201,8 +202,8 @@ int USSDEditCmd::saveToXMLFile(bool isSystem)
     return SAVE_OK;
 }
 
-/// Creates the folder of the user file, but not its parent folders. The folder of the system file
-/// is never created.
+/// Creates the folder of the user file, but not its parent folders. Does not create the folder of
+/// the system file.
 bool USSDEditCmd::makeParentDirectory(const QString &path, bool isSystem)
 {
     const QString directory = parentDirectory(path);

@@ -4,8 +4,8 @@
 #include "ExtendLineEdit.h"
 
 /**
- * A line edit in which the Up and Down keys move the cursor to the left and right, so that these
- * keys do not leave the cell. Currently, the delegate of the table does not use this class.
+ * A line edit in which the Up and Down keys move the cursor left and right, so that they do not
+ * leave the cell. The delegate of the table does not currently use this class.
  */
 class ProfileLineEdit : public ExtendLineEdit
 {

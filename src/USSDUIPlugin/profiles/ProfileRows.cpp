@@ -5,8 +5,7 @@ using namespace Formats;
 namespace
 {
 
-/// Returns the text of a cell without leading and trailing blanks. If the cell was not edited,
-/// returns the text unchanged.
+/// Returns the text of the cell, trimmed if the user has edited it.
 QString cellText(const QString &cell, const QString &before)
 {
     return cell == before ? before : cell.trimmed();
@@ -22,8 +21,8 @@ bool isSame(const ProfileRows::Row &row, const USSDProfile &profile)
     return row.name == profile.name && row.code == profile.value;
 }
 
-/// Returns true if the user has removed the profile. Clearing the code removes a profile. Clearing
-/// the name removes a profile that never had a code.
+/// Returns true if the user has deleted the profile. A profile is deleted by clearing its code, or
+/// by clearing its name if it has no code.
 bool isTakenAway(const ProfileRows::Row &row, const USSDProfile &before)
 {
     return isBlank(row.code) && (!isBlank(before.value) || isBlank(row.name));

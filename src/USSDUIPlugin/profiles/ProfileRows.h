@@ -6,33 +6,34 @@
 
 #include "USSDProfile.h"
 
-/* The contents of the profile editor's table as plain values. */
+/* Functions that convert between the profile editor's table and lists of profiles. */
 namespace ProfileRows
 {
 
 enum Column { NameColumn = 0, CodeColumn = 1, ColumnCount = 2 };
 
-const int ROWS = 100; // profiles beyond these rows are not shown in the table
+const int ROWS = 100; // number of rows in the table; further profiles are not shown
 
-/** The two cells of a row. */
+/** The contents of the two cells in a row. */
 struct Row {
     QString name;
     QString code;
 };
 
-/// Returns the profiles described by the rows, in order. If `shown` contains a profile for a row,
-/// the result uses the name and the code from the row and all other fields from the profile. A row
-/// whose code has been cleared is omitted. A new row without a code is also omitted, because there
-/// is nothing to send. A profile without a code or a name remains unchanged unless its row is
-/// edited. Profiles beyond the last row are kept.
+/// Returns the profiles described by the rows, in order. The name and the code come from the row.
+/// The other fields come from the profile in `shown` that belongs to the row, if any. Rows whose
+/// code has been cleared and new rows without a code are omitted, because they cannot send
+/// anything. A profile without a code or a name is kept unless its row has been edited. Profiles
+/// beyond the last row are kept as well.
 QList<Formats::USSDProfile> profiles(const QList<Row> &rows,
                                      const QList<Formats::USSDProfile> &shown);
 
-/// Returns the profiles of the system file if `isSystem` is true, otherwise the profiles of the
-/// user file, in order.
+/// Returns the profiles that belong to the system file if `isSystem` is true, otherwise those that
+/// belong to the user file. The order does not change.
 QList<Formats::USSDProfile> ofFile(const QList<Formats::USSDProfile> &profiles, bool isSystem);
 
-/// Returns true if the lists differ in the number of profiles, or in any name or code.
+/// Returns true if the lists differ in the number of profiles or in the name or the code of a
+/// profile.
 bool differ(const QList<Formats::USSDProfile> &a, const QList<Formats::USSDProfile> &b);
 
 } // namespace ProfileRows

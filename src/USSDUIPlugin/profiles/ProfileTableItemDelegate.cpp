@@ -28,9 +28,9 @@ QWidget *ProfileTableItemDelegate::createEditor(QWidget *parent, const QStyleOpt
 {
     Q_UNUSED(option);
     ExtendLineEdit *edit = new ExtendLineEdit(parent);
-    // Text from the file may exceed the limit, and the editor must not truncate it.
+    // Text from a file may be longer than the limit and must not be truncated.
     edit->setMaxLength(qMax(MAX_CELL_TEXT, int(textOf(index).length())));
-    edit->setFrame(false); // the rows are too small for a frame
+    edit->setFrame(false); // the rows are too low for a frame
     if (index.column() == ProfileRows::CodeColumn)
         edit->setLayoutDirection(Qt::LeftToRight);
     return edit;

@@ -4,8 +4,8 @@
 #include <QItemDelegate>
 
 /**
- * Lets the user edit a cell of the profile table in the host's line edit. The line edit accepts 40
- * characters, or the current length of the cell text if this is longer.
+ * Edits the cells of the profile table with the host's line edit. The maximum length is 40
+ * characters, or the current length of the text if the text is longer.
  */
 class ProfileTableItemDelegate : public QItemDelegate
 {
@@ -15,13 +15,13 @@ public:
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
-    /// Stores the edited text without leading and trailing blanks. Text that was not edited remains
+    /// Stores the text without leading and trailing blanks. Text that was not edited is stored
     /// unchanged.
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
 
 protected:
-    /// Draws a code from left to right, even in a right-to-left table.
+    /// Draws codes from left to right, even if the table is laid out from right to left.
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;
 };

@@ -3,7 +3,10 @@
 
 #include <QTableWidget>
 
-/** The table of the profile editor, with special handling of typing and double-clicks. */
+/**
+ * The table of the profile editor, which handles typing and double-clicks differently from
+ * QTableWidget.
+ */
 class ProfileTableWidget : public QTableWidget
 {
     Q_OBJECT
@@ -11,11 +14,13 @@ public:
     explicit ProfileTableWidget(QWidget *parent = nullptr);
     ProfileTableWidget(int rows, int columns, QWidget *parent = nullptr);
 
-    /// Does nothing, so that typing a letter does not jump to a row that begins with this letter.
+    /// Does nothing. By default, typing a letter would select the next row that starts with this
+    /// letter.
     void keyboardSearch(const QString &search) override;
 
 protected:
-    /// Opens the current cell for editing, even if it is empty, unless the cell is read-only.
+    /// Opens the current cell for editing unless it is read-only. By default, empty cells cannot be
+    /// opened.
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 };
 

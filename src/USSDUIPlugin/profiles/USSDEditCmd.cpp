@@ -1,5 +1,4 @@
-/* The window in which the user edits the profiles. ProfileFiles.cpp reads and writes their files.
- */
+/* The profile editor. ProfileFiles.cpp contains the functions that access the profile files. */
 #include "USSDEditCmd.h"
 
 #include <QHBoxLayout>
@@ -102,7 +101,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // Return ends the editing of a cell, so it must not press a button.
+    // Return must not press the button, because it ends the editing of a cell.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }
@@ -269,7 +268,7 @@ void USSDEditCmd::deselectCurrentCell()
                              QItemSelectionModel::Clear);
 }
 
-/// Returns true if the cell is not empty and another row has the same text in this column.
+/// Returns true if the cell is not empty and another row contains the same text in this column.
 bool USSDEditCmd::isDuplicate(int row, int column) const
 {
     const QString text = savedText(row, column);
@@ -280,17 +279,17 @@ bool USSDEditCmd::isDuplicate(int row, int column) const
     return false;
 }
 
-/// Returns the text of a cell as it would be saved. Blanks around a code are removed, because a
-/// file that was edited manually may contain them.
+/// Returns the text of the cell in the form in which it is saved. Codes are trimmed, because a
+/// manually edited file may contain blanks around them.
 QString USSDEditCmd::savedText(int row, int column) const
 {
     const QString text = cellText(row, column);
     return column == ProfileRows::CodeColumn ? text.trimmed() : text;
 }
 
-/// Queues the message about a duplicate. When the delegate and the table report that the editor has
-/// been closed, they are still processing the cell. A message box runs an event loop in which the
-/// host may delete the delegate and the table.
+/// Shows the message about a duplicate from the event loop. When the editor is closed, the delegate
+/// and the table are still processing the cell. A message box at that point would run a nested
+/// event loop, in which the host could delete them.
 void USSDEditCmd::refuseLater(QTableWidgetItem *item)
 {
     if (m_refusedItems.contains(item))
@@ -307,18 +306,18 @@ void USSDEditCmd::OnDuplicatesFound()
         if (m_pContainer && m_pContainer->isVisible())
             refuseDuplicate(m_refusedItems.first());
         else
-            m_refusedItems.clear(); // the window has been closed in the meantime
+            m_refusedItems.clear(); // the window has been closed
     }
 }
 
-/// Notifies the user of the duplicate, clears the cell and opens it for editing again.
+/// Reports the duplicate to the user, clears the cell and opens it for editing again.
 void USSDEditCmd::refuseDuplicate(QTableWidgetItem *item)
 {
     m_pTable->setCurrentItem(item); // closes the editor that Tab has opened in the next cell
-    OnEditorClosed(nullptr);        // the text in that cell may also be a duplicate
+    OnEditorClosed(nullptr);        // that editor may contain a duplicate, too
     const QPointer<USSDEditCmd> self(this);
     sayDuplicate(item->column());
-    if (!self || !m_pTable) // the host deleted the window while the message box was open
+    if (!self || !m_pTable) // the host has deleted the window during show()
         return;
     m_refusedItems.removeFirst();
     item->setText(QString());
@@ -357,10 +356,10 @@ void USSDEditCmd::OnClickedSaveButton()
     USSD_LOG_SCOPE();
     if (m_pTable) {
         m_pTable->setCurrentCell(-1, -1); // commits the text of an open editor
-        OnEditorClosed(nullptr); // the delegate does not report that this editor was closed
+        OnEditorClosed(nullptr);          // the delegate does not report this editor as closed
     }
     if (!m_pTable || !m_refusedItems.isEmpty())
-        return; // the cell with the rejected text is about to be opened again
+        return; // the cell with the duplicate is about to be opened again
     QList<USSDProfile> newList;
     bool changed = false;
     readTableProfiles(newList, changed);
@@ -370,14 +369,14 @@ void USSDEditCmd::OnClickedSaveButton()
     }
     SavePlan plan = planSaving(newList);
     if (plan.losesChanges)
-        return sayRefusals(plan); // the window remains open and keeps the changes
+        return sayRefusals(plan); // the window remains open with the unsaved changes
     m_listUSSDProfiles = newList;
     USSD_LOG(" number of profiles in m_listUSSDProfiles= %d", int(m_listUSSDProfiles.count()));
     saveAsPlanned(plan);
 }
 
-/// Determines whether the profiles can be saved. This check must come first, because saving deletes
-/// the old files.
+/// Determines whether the profiles can be saved. This must be known in advance, because saving
+/// deletes the old files first.
 USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
 {
     SavePlan plan;
@@ -386,8 +385,8 @@ USSDEditCmd::SavePlan USSDEditCmd::planSaving(const QList<USSDProfile> &newList)
     return plan;
 }
 
-/// Returns true if the file must be written. A file that cannot be written may be skipped if its
-/// profiles have not changed. This is common, because the system file often belongs to root.
+/// Returns true if the file must be written. A file that is not writable is skipped if its profiles
+/// have not changed. This is a common case, because the system file often belongs to root.
 bool USSDEditCmd::planFile(bool isSystem, const QList<USSDProfile> &newList, SavePlan &plan)
 {
     const QList<USSDProfile> profiles = ProfileRows::ofFile(newList, isSystem);

@@ -19,21 +19,20 @@ class QTableWidgetItem;
 class QXmlStreamReader;
 
 /**
- * The command profiles, and the window in which the user edits them. The profiles of the system
- * file come first, followed by the profiles that the user has added. All functions must be called
- * from the GUI thread.
+ * The profiles and the window in which the user edits them. The profiles of the system file come
+ * first, followed by the user's own profiles. All functions must be called from the GUI thread.
  *
- * The constructor reads the profiles, so a second object reads the files again. InitDialog() builds
- * the window, and Exec() runs it. Exec() also returns if the host deletes the window.
+ * The constructor reads both files. InitDialog() builds the window, and Exec() runs it until the
+ * user closes it or the host deletes it.
  */
 class USSDEditCmd : public QObject
 {
     Q_OBJECT
 public:
-    /// The return values of saveToXMLFile().
+    /// The results of saveToXMLFile().
     enum SaveStatus {
         SAVE_OK = 0,
-        SAVE_NO_DIRECTORY = 21, // the folder of the user file is missing and cannot be created
+        SAVE_NO_DIRECTORY = 21, // the folder of the user file cannot be created
         SAVE_NO_PATH = 23,      // there is no user data folder
         SAVE_NOT_OPENED = 25    // the file cannot be opened for writing
     };
@@ -43,22 +42,24 @@ public:
 
     void getSystemProfileXMLFilePath(QString &path);
     /// Sets `path` to the path of the user file, or to an empty string if there is no user data
-    /// folder. If the file is still in its former folder, moves it to the current folder.
+    /// folder. A file in the former folder is moved to the current folder.
     void getUserProfileXMLFilePath(QString &path);
     bool skipXmlReaderTillString(QXmlStreamReader &reader, QString name);
-    /// Adds the profiles of one file. A user profile is dropped if its code is already in the list.
+    /// Appends the profiles of a file to the list. A user profile is skipped if its code is already
+    /// in the list.
     void load(QString xmlFilePath, bool isSystem);
-    /// Replaces the list with the profiles of both files.
+    /// Reads the profiles of both files, which replace the current list.
     void load();
-    /// Replaces `list` with all profiles, in order.
+    /// Sets `list` to all profiles in order.
     void GetProfileList(QList<Formats::USSDProfile> &list);
-    /// Writes the system profiles or the user profiles to their file. Intentionally deletes the old
-    /// file first. Therefore, the file does not exist after a failure.
+    /// Writes the system profiles or the user profiles to their file. The old file is intentionally
+    /// deleted first, so it no longer exists if writing fails.
     int saveToXMLFile(bool isSystem);
 
     /// Builds the window in a frame whose parent is `parent`.
     void InitDialog(QWidget *parent);
-    /// Runs the window. Returns true if the user has saved the profiles.
+    /// Shows the window and waits until it is closed. Returns true if the user has saved the
+    /// profiles.
     bool Exec();
     void SetLanguage();
     static QString tr(const QString &key);
@@ -81,7 +82,7 @@ private:
     void initHeader();
     void clearTable();
     void showProfile(int row, const Formats::USSDProfile &profile);
-    /// Sets `list` to the profiles in the table. Sets `changed` to true if they differ from the
+    /// Sets `list` to the profiles in the table, and `changed` to true if they differ from the
     /// current profiles.
     void readTableProfiles(QList<Formats::USSDProfile> &list, bool &changed);
     QString cellText(int row, int column) const;
@@ -93,13 +94,13 @@ private:
     void deselectCurrentCell();
     void forgetEditedCell();
     bool confirmSaving();
-    /// The files that can be written, and the error messages for the other files.
+    /// The files that can be saved, and the error messages for the other files.
     struct SavePlan {
         SavePlan() : writesSystemFile(false), writesUserFile(false), losesChanges(false) {}
 
         bool writesSystemFile;
         bool writesUserFile;
-        bool losesChanges; // true if a file with changes cannot be written
+        bool losesChanges; // true if changes would be lost because a file is not writable
         QStringList refusals;
     };
     SavePlan planSaving(const QList<Formats::USSDProfile> &newList);
@@ -121,8 +122,8 @@ private:
     QList<Formats::USSDProfile> m_listUSSDProfiles;
     Formats::CmdEdit m_cmdEditSetting;
     QPointer<USSDLogic> m_pLogic; // not owned
-    // This object owns the frame, and the frame owns all other widgets. However, the host may
-    // delete any of them.
+    // This object owns the frame, which in turn owns the other widgets. The host may delete any of
+    // them.
     QPointer<QWidget> m_pContainer;
     QPointer<ExtendDialog> m_pFrame;
     ProfileTableItemDelegate m_delegate;
@@ -130,10 +131,10 @@ private:
     QPointer<QLabel> m_pInfoLabel;
     QPointer<QPushButton> m_pSaveButton;
     QPointer<QPushButton> m_pCancelButton;
-    QTableWidgetItem *m_pEditedItem; // the last changed cell; null if there is none
+    QTableWidgetItem *m_pEditedItem; // the cell that was changed last, or null
     int m_iEditedColumn;
     int m_iEditedRow;
-    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message box is queued or open
+    QList<QTableWidgetItem *> m_refusedItems; // duplicates whose message box is pending or open
     bool m_bSaved;
     Reading m_systemFileReading;
     Reading m_userFileReading;

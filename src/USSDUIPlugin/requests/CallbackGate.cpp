@@ -37,8 +37,8 @@ bool CallbackGate::enter(Patience patience)
 {
     const Qt::HANDLE self = QThread::currentThreadId();
     QMutexLocker locker(&m_mutex);
-    // The SDK may invoke the call-back from inside the registration. Therefore, the thread that
-    // constructs the object does not wait, because it would wait for itself.
+    // The thread that constructs the object must not wait for itself: the SDK may call the
+    // call-back during its registration.
     while (patience == WaitForOpening && m_state == Opening && m_maker != self)
         m_changed.wait(&m_mutex);
     if (m_state != Open)

@@ -7,23 +7,23 @@
 #include <QWaitCondition>
 
 /**
- * Controls whether a call-back of the device SDK may use the logic object, and keeps the object
- * alive until the call-back returns. Call-backs enter the gate from any thread. The GUI thread
- * opens and closes the gate.
+ * Controls whether the device SDK's call-backs may use the logic object, and keeps the object alive
+ * while a call-back is running. Call-backs enter the gate from any thread. The GUI thread opens and
+ * closes the gate.
  *
- * Call-backs cannot enter the gate while the object is being constructed. The SMS call-back, which
- * is registered last, waits until construction is complete. The device reports only once, soon
- * after the registration, that short messages can be sent.
+ * Call-backs are rejected while the object is being constructed, except for the SMS call-back,
+ * which waits until the construction is complete. The device reports only once that short messages
+ * can be sent, namely soon after the registration of this call-back.
  */
 class CallbackGate
 {
 public:
     CallbackGate();
 
-    /// Must be called before the calling thread constructs the object.
+    /// Must be called before the object is constructed, on the thread that constructs it.
     void startOpening();
     void open();
-    /// Rejects new call-backs. Returns after all other threads have left the gate.
+    /// Rejects all further call-backs and waits until all other threads have left the gate.
     void close();
 
     enum Patience { DoNotWait, WaitForOpening };
@@ -45,7 +45,7 @@ private:
     QList<Qt::HANDLE> m_inside; // the thread of each call-back that has entered the gate
 };
 
-/** Enters the gate for the duration of one call-back, if the gate admits the call-back. */
+/** Holds the gate open for a single call-back, if the gate admits it. */
 class CallbackPass
 {
 public:

@@ -43,8 +43,9 @@ CommandQueue::Claim CommandQueue::claimHeadInFlight(Head &head, quint64 number)
     return WaitsForHandOver;
 }
 
-/// Marks the head as sent. The mark prevents two threads from sending the same command. A command
-/// may become the head before its own sender has checked that no other command is queued.
+/// Marks the head as sent, so that it is sent only once. This is necessary because a command can
+/// become the head, and be sent by another thread, before the thread that appended it checks the
+/// queue.
 bool CommandQueue::markHeadSent(Head &head)
 {
     if (m_commands.isEmpty() || m_marks.sent == m_marks.current)

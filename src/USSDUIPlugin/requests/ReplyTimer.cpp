@@ -70,9 +70,9 @@ bool ReplyTimer::isArmed(quint64 arming) const
     return m_armed && m_arming == arming;
 }
 
-/// Returns true if the QTimer fires within `milliseconds`. Always uses the system clock, on which
-/// the QTimer is based, even if setClock() has set another clock. Must be called with m_state
-/// locked.
+/// Returns true if the QTimer fires within `milliseconds`. The calculation uses the system clock
+/// even if another clock has been set with setClock(), because a QTimer always uses the system
+/// clock. Must be called with m_state locked.
 bool ReplyTimer::wakesWithin(int milliseconds) const
 {
     return m_wake >= 0 && m_wake <= systemClock() + milliseconds;
@@ -89,8 +89,8 @@ void ReplyTimer::letTimerFollow(QtCompat::MutexLocker &locker)
         QMetaObject::invokeMethod(this, "catchUp", Qt::QueuedConnection);
 }
 
-/// Stops the QTimer if called from its own thread. If called from another thread, lets the QTimer
-/// fire once without effect, which costs less than an event that stops the timer.
+/// Stops the QTimer if called from its own thread. Otherwise, the QTimer fires once more without
+/// effect, because this is cheaper than posting an event to stop it.
 void ReplyTimer::stopIfOwner(QtCompat::MutexLocker &locker)
 {
     locker.unlock();
@@ -112,7 +112,7 @@ void ReplyTimer::catchUp()
         stop();
 }
 
-/// Records when the QTimer fires next. The QTimer repeats until the time-out is disarmed.
+/// Records the time at which the QTimer fires again. It repeats until the time-out is disarmed.
 void ReplyTimer::repeats()
 {
     QtCompat::MutexLocker locker(&m_state);
@@ -128,7 +128,7 @@ quint64 ReplyTimer::dueArming() const
 void ReplyTimer::timerEvent(QTimerEvent *event)
 {
     const quint64 due = dueArming();
-    if (due == 0) { // disarmed or re-armed while this event was queued
+    if (due == 0) { // disarmed or re-armed while this event was pending
         catchUp();
         return;
     }

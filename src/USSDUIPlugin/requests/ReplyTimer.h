@@ -7,44 +7,44 @@
 #include "QtCompat.h"
 
 /**
- * The response time-out. It may be armed and disarmed from any thread, and isArmed() reflects the
- * change immediately. The QTimer itself is started and stopped slightly later, and only from its
- * own thread. timeout() is emitted on this thread, but only while the time-out is armed and only
- * after the time has really elapsed.
+ * The reply time-out. It can be armed and disarmed from any thread, with immediate effect on
+ * isArmed(). The underlying QTimer is started and stopped later on its own thread. This thread also
+ * emits timeout(), but only if the time-out is still armed and its time has elapsed.
  *
- * The QTimer is started and stopped only if necessary. If it fires before the deadline, it checks
- * the clock and restarts for the remaining time. If the QTimer is no longer needed, it stops when
- * it fires. Therefore, a command that is answered in time requires neither an event nor a separate
- * system timer.
+ * For efficiency, arming and disarming usually do not touch the QTimer. If it fires too early, it
+ * is restarted for the remaining time. If it fires after the time-out has been disarmed, it is
+ * stopped. A command that is answered in time therefore requires neither an event nor a new system
+ * timer.
  *
- * Every arming has a number, so that a late disarm() cannot affect a newer arming.
+ * Each arming has a number, so that a late disarm() cannot affect a more recent arming.
  */
 class ReplyTimer : public QTimer
 {
     Q_OBJECT
 public:
-    typedef qint64 (*Clock)(); // returns milliseconds and never runs backwards
+    typedef qint64 (*Clock)(); // returns milliseconds; must never run backwards
 
     explicit ReplyTimer(QObject *parent = nullptr);
 
-    /// Restarts the time-out and returns the number of the arming, which is never 0.
+    /// Arms the time-out, even if it is already armed. Returns the number of the arming, which is
+    /// never 0.
     quint64 arm(int milliseconds);
     void disarm();
-    /// Disarms the time-out only if `arming` is the most recent arming.
+    /// Disarms the time-out if `arming` is the most recent arming.
     void disarm(quint64 arming);
     bool isArmed() const;
-    /// Returns true if `arming` is the most recent arming and has not been disarmed.
+    /// Returns true if the time-out is armed and `arming` is the most recent arming.
     bool isArmed(quint64 arming) const;
-    /// Returns the number of the expired arming while timeout() is being emitted, otherwise 0. Must
-    /// be called from the timer's thread.
+    /// Returns the number of the arming whose time-out is being emitted, or 0 at any other time.
+    /// Must be called from the timer's thread.
     quint64 runOutArming() const { return m_runOut; }
 
     /// Sets the clock of all timers. Null restores the monotonic system clock.
     static void setClock(Clock clock);
 
 public slots:
-    /// Starts or stops the QTimer to match the arming. Must be called from the timer's thread after
-    /// a clock that was set with setClock() has jumped.
+    /// Starts or stops the QTimer as required. Must be called from the timer's thread whenever a
+    /// clock set with setClock() has jumped.
     void catchUp();
 
 protected:
@@ -57,12 +57,12 @@ private:
     void repeats();
     quint64 dueArming() const;
 
-    mutable QMutex m_state; // guards the five members below; always the innermost lock
+    mutable QMutex m_state; // guards the five members below; always locked last
     bool m_armed;
     bool m_catchUpPosted;
     quint64 m_arming;
     qint64 m_deadline;
-    qint64 m_wake; // the time (system clock) at which the QTimer fires next; -1 while it is stopped
+    qint64 m_wake; // when the QTimer fires, in system clock time; -1 if it is stopped
 
     quint64 m_runOut; // used only on the timer's thread
 };

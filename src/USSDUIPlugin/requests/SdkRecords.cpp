@@ -30,8 +30,7 @@ QString textFromUnits(const unsigned short *units)
     int length = 0;
     while (length < MOST_UNITS && units[length] != 0)
         ++length;
-    // Copy the code units unchanged. QString::fromUtf16() would drop a byte-order mark or swap the
-    // bytes after it.
+    // Copy the code units unchanged. QString::fromUtf16() would interpret a byte-order mark.
     return QString(reinterpret_cast<const QChar *>(units), length);
 }
 

@@ -5,29 +5,30 @@
 
 #include "tksv.h"
 
-/* The conversions between the device SDK's records and the plug-in's values. */
+/* Functions that convert between the records of the device SDK and Qt types. */
 namespace SdkRecords
 {
 
-/// Returns the size of `command` in bytes when encoded as UTF-16.
+/// Returns the size of `command` in UTF-16, in bytes.
 int commandBytes(const QString &command);
 
-/// Fills the complete record. Returns false and zeroes the record if the command is longer than
-/// TKSV_USSD_MAX_COMMAND_BYTES.
+/// Fills in the record. If the command is longer than TKSV_USSD_MAX_COMMAND_BYTES, returns false
+/// and zeroes the record.
 bool encodeRequest(const QString &command, TKSV_USSDRequest &request);
 
-/// The maximum length of a string in UTF-16 code units, in case the terminating zero is missing.
+/// The maximum length of a string in UTF-16 code units. Protects against a missing terminator.
 const int MOST_UNITS = 1024 * 1024;
 
-/// Returns the string up to its terminating zero code unit. Returns an empty string for null.
+/// Returns the null-terminated string, or an empty string if `units` is null.
 QString textFromUnits(const unsigned short *units);
 
 /// Returns the text of a response record, which must not be null.
 QString responseText(const void *record);
-/// Returns the type of a response record, which is only logged.
+/// Returns the type of a response record, which is used only for logging. `record` must not be
+/// null.
 int responseType(const void *record);
 
-/// The outcome of sending a short message.
+/// The result of sending a short message.
 struct SmsSendResult {
     bool sent;
     int result;
@@ -36,7 +37,7 @@ struct SmsSendResult {
 };
 
 SmsSendResult smsSendResult(const void *record);
-/// Returns the SMS status. If `record` is null, returns 0, which is not a valid status.
+/// Returns the SMS status, or 0, which is not a valid status, if `record` is null.
 int smsStatus(const void *record);
 
 } // namespace SdkRecords

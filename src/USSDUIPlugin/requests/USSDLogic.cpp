@@ -22,7 +22,7 @@ const int SENT = 0;
 const int FAILED = 1;
 const int NOT_THE_HEAD = 2; // used only in this file
 
-const int PREVIOUS_TIMEOUT = 3000; // ms to wait for the end of the previous time-out
+const int PREVIOUS_TIMEOUT = 3000; // ms to wait until the previous time-out is disarmed
 
 ReplyTimes shippedReplyTimes()
 {
@@ -55,8 +55,9 @@ CallbackGate USSDLogic::m_gate;
 ReplyTimes USSDLogic::m_replyTimes = shippedReplyTimes();
 
 /**
- * The only access to the pending commands. LockedQueue()->function() locks m_mutex until the end of
- * the expression. Therefore, the expression must not lock another mutex or call other code.
+ * Provides the only access to the pending commands. LockedQueue()->function() locks m_mutex until
+ * the end of the full expression. The expression must not lock another mutex or call any other
+ * code.
  */
 class USSDLogic::LockedQueue
 {
@@ -101,7 +102,7 @@ USSDLogic::~USSDLogic() {}
 void USSDLogic::Destroy()
 {
     USSD_LOG_SCOPE();
-    stopReplyTimer(); // wakes a sender that waits for the previous time-out
+    stopReplyTimer(); // wakes a sender that is waiting for the previous time-out
     m_gate.close();
     delete m_pTimer;
     m_pTimer = nullptr;
@@ -110,7 +111,7 @@ void USSDLogic::Destroy()
     LockedQueue()->clear(); // the list goes with its owner, or the next one would wait behind it
 }
 
-// The two functions below are parts of the constructor and log under the constructor's name.
+// The two functions below are parts of the constructor and log under its name.
 static const char CONSTRUCTOR[] = "USSDLogic";
 
 void USSDLogic::registerDeviceCallback()
@@ -228,8 +229,8 @@ int USSDLogic::sendUSSDCommand(QString command, int *status)
     return sendUSSDCommand(command, head.number, status) == FAILED ? FAILED : SENT;
 }
 
-/// Sends the head to the device. Intentionally, no signal is emitted after a failure, because the
-/// caller receives the result. The commands after the failed command remain in the queue until a
+/// Sends the head to the device. If this fails, no signal is emitted, because the caller receives
+/// the result. The commands behind the failed command intentionally remain in the queue until a
 /// late reply arrives or the queue is cleared.
 int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *status)
 {
@@ -238,7 +239,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     if (!status)
         status = &ignoredStatus;
     QtCompat::MutexLocker sending(&m_mutexSendCmd);
-    if (!LockedQueue()->startHandOver(number)) // cleared or answered while waiting for the lock
+    if (!LockedQueue()->startHandOver(number)) // cleared or answered during the wait for the lock
         return NOT_THE_HEAD;
     TKSV_USSDRequest request;
     if (!SdkRecords::encodeRequest(command, request)) {
@@ -260,7 +261,7 @@ int USSDLogic::sendUSSDCommand(const QString &command, quint64 number, int *stat
     return SENT;
 }
 
-/// Starts the time-out for the head. Must be called with m_mutexSendCmd locked.
+/// Arms the time-out for the head. Must be called with m_mutexSendCmd locked.
 void USSDLogic::armReplyTimer(quint64 number)
 {
     if (!m_pTimer)
@@ -271,15 +272,13 @@ void USSDLogic::armReplyTimer(quint64 number)
     m_timedHead = number;
     const quint64 arming = m_pTimer->arm(m_replyTimes.reply);
     locker.unlock();
-    // If the reply arrived before the time-out was armed, it could not cancel the time-out. Cancel
-    // it here.
+    // A reply that arrived before the time-out was armed could not disarm it.
     if (!LockedQueue()->awaitsReply(number))
         m_pTimer->disarm(arming);
 }
 
-/// Wakes the waiting sender, and cancels the time-out unless it was armed for a head after
-/// `lastHead`. Such a head was sent after a reply had been claimed, but before this function was
-/// called.
+/// Wakes the waiting sender and disarms the time-out, unless the time-out belongs to a head after
+/// `lastHead`. Such a head was sent between the claim of the reply and this call.
 void USSDLogic::stopReplyTimer(quint64 lastHead)
 {
     QtCompat::MutexLocker locker(&m_mutexTimeout);
@@ -347,8 +346,8 @@ unsigned char USSDLogic::CallBackReceivedResponse(int event, void *data)
 void USSDLogic::OnTimeOut()
 {
     USSD_LOG_SCOPE();
-    // Read the number first. From here on, a quick reply may make another command the head, and
-    // that command has not timed out.
+    // Read the number first. A reply that arrives from now on may make another command the head.
+    // That command has not timed out.
     const quint64 number = LockedQueue()->headNumber();
     CommandQueue::Head head;
     if (!stopRunOutTimer())
@@ -363,13 +362,13 @@ void USSDLogic::OnTimeOut()
     checkPendingCmds();
 }
 
-/// Wakes the waiting sender and cancels the expired arming. Returns false if the command of this
-/// arming has been answered in the meantime. In that case, the head is another command, which may
-/// not have been sent yet.
+/// Wakes the waiting sender and disarms the expired time-out. Returns false if the command of this
+/// time-out has been answered in the meantime. The head is then a different command, which may not
+/// even have been sent.
 bool USSDLogic::stopRunOutTimer()
 {
     const quint64 runOut = m_pTimer ? m_pTimer->runOutArming() : 0;
-    if (runOut == 0) { // not called by the timer
+    if (runOut == 0) { // not called from the timer
         stopReplyTimer();
         return true;
     }
@@ -434,8 +433,7 @@ unsigned char USSDLogic::SmsCallBackMethod(int event, void *data)
 
 void USSDLogic::announceSmsResult(void *data)
 {
-    // The log lines use the name of the call-back, because users who search the log look for this
-    // name.
+    // Log under the name of the call-back, because users search the log for this name.
     static const char function[] = "SmsCallBackMethod";
     USSD_LOG_AS(function, ": Obtained the EVENT_SMS_ONSENDRESULT");
     if (!data)

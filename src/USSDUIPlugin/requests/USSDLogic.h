@@ -17,10 +17,10 @@ class QFile;
 class QXmlStreamReader;
 class ReplyTimer;
 
-/** Selects the appearance that GetCharSet() returns. */
+/** The text appearance that GetCharSet() returns. */
 enum _CHAR_SET_COLOR { CHAR_SET_SEND = 0, CHAR_SET_RECEIVE = 1 };
 
-/** The attributes that the attribute getters of the configuration accept. 3 and 4 are not used. */
+/** The attributes of a component in the configuration. The values 3 and 4 are not used. */
 enum ComponentAttribute {
     ATTR_VALUE = 0,
     ATTR_POS = 1,
@@ -33,25 +33,24 @@ enum ComponentAttribute {
     ATTR_URL = 10
 };
 
-/** The time limits of the request pipeline, in milliseconds. */
+/** The time limits for commands, in milliseconds. */
 struct ReplyTimes {
-    int reply;    // time in which a reply must arrive
-    int previous; // time for which a new time-out waits until the previous time-out is cancelled
+    int reply;    // time limit for a reply
+    int previous; // time limit for the wait until the previous time-out is disarmed
 };
 
 /**
- * Stores the configuration, and sends the commands of all windows to the device one at a time.
- * Emits signals for replies, time-outs, device failures and SMS events.
+ * Holds the configuration and sends the commands of all windows to the device, one at a time.
+ * Signals report replies, time-outs, device failures and SMS events.
  *
- * The singleton is constructed on first use from the GUI thread. Commands are sent and cleared,
- * time-outs are handled, and the singleton is destroyed on the same thread. The device SDK runs the
- * three call-backs on its own threads. The reply call-back sends the next pending command on such a
- * thread.
+ * The singleton is constructed on first use. It is used and destroyed on the GUI thread, which also
+ * handles time-outs. The device SDK calls the three call-backs on its own threads. The reply
+ * call-back sends the next command from such a thread.
  *
- * Locks: m_mutex guards the pending commands during one call of CommandQueue. No other lock is
- * taken during this call. m_mutexSendCmd makes the sending of one command atomic. m_mutexTimeout,
- * which is locked after m_mutexSendCmd, guards the start of the time-out. No lock is held while a
- * signal is emitted or the host is called.
+ * Locking: m_mutex guards the queue of pending commands for the duration of a single call, during
+ * which no other lock is taken. m_mutexSendCmd serializes the sending of commands. m_mutexTimeout
+ * guards the arming of the time-out and is locked after m_mutexSendCmd. No lock is held while a
+ * signal is emitted or a function of the host is called.
  */
 class USSDLogic : public QObject
 {
@@ -63,10 +62,9 @@ public:
     typedef Formats::ConfigBalance Balance;
     typedef unsigned char (*EventCallback)(int event, void *data);
 
-    /// Returns the singleton, which is created by the first call. Must be called from the GUI
-    /// thread.
+    /// Returns the singleton and creates it on the first call. Must be called from the GUI thread.
     static USSDLogic *GetUSSDLogicInstance();
-    /// Waits for running call-backs, and then deletes the singleton, the time-out and the pending
+    /// Waits for running call-backs, and then deletes the singleton, its timer and the pending
     /// commands. The call-backs remain registered until unSDKRegisterEvent() is called. Must be
     /// called from the GUI thread.
     static void Destroy();
@@ -81,15 +79,15 @@ public:
     void loadCmdEditSettings(QXmlStreamReader &reader);
     void loadClearBtnSettings(QXmlStreamReader &reader);
     void loadAutoUssdSettings(QXmlStreamReader &reader);
-    /// The following functions set `out` to the settings of one section. All functions except
-    /// GetPrePostDiffer() read the section from the file again. They leave `out` unchanged if the
-    /// file cannot be opened.
+    /// The following functions set `out` to the settings in a section of the configuration. All of
+    /// them except GetPrePostDiffer() read the section from the file on each call, and leave `out`
+    /// unchanged if the file cannot be opened.
     void GetCharSet(_CHAR_SET_COLOR which, Formats::Char &out);
     void GetClearBtnSetting(Formats::ClearHistory &out);
     void GetCmdEditSetting(Formats::CmdEdit &out);
     void GetPrePostDiffer(Formats::PrePostDiffer &out);
-    /// Returns the attribute. If the paid type, the component or the attribute is unknown, returns
-    /// -1 or leaves `out` unchanged.
+    /// Returns the attribute of a component. If the paid type, the component or the attribute is
+    /// unknown, returns -1 or leaves `out` unchanged.
     int GetComponentAttrInt(int paidType, int component, int attr);
     void GetComponentAttrStr(int paidType, int component, int attr, QString &out);
     int getBalanceIntAttr(int paidType, int attr);
@@ -100,31 +98,32 @@ public:
     void getChargeStrAttr(int paidType, int attr, QString &out);
     void getOnlineChargeStrAttr(int paidType, int attr, QString &out);
     void getMSISDNStrAttr(int paidType, int attr, QString &out);
-    /// Sets `flags` to the window flags that are configured for the longest prefix that matches
-    /// `imsi`. Returns true if a prefix matches.
+    /// Returns true if the configuration contains a prefix of `imsi`. Sets `flags` to the window
+    /// flags of the longest matching prefix.
     bool CheckImsiIsValid(QString const &imsi, int &flags);
     bool IsImsiDynamicMatch();
-    /// Returns the name under which the profile is displayed.
+    /// Returns the name of the profile in the current language.
     QString getProfileShowText(const Formats::USSDProfile &profile);
 
     // ---- requests
-    /// Queues a copy of `cmd`, and sends it if no command is in flight. Returns 0 if the command
-    /// was sent or queued. Returns 1 if the command could not be sent. `*status` then contains the
-    /// status of the device.
+    /// Appends a copy of `cmd` to the queue and sends it if no command is in flight. Returns 0 if
+    /// the command was sent or queued, or 1 if it could not be sent. In the latter case, `*status`
+    /// contains the status reported by the device.
     int SendUSSDCommand(USSDCmdOrResp cmd, int *status);
-    /// Sends the head of the queue, whose string is `command`, to the device. A command that is
-    /// rejected or too long is removed from the queue. In this case, no signal is emitted, and the
+    /// Sends the head of the queue to the device. `command` is the string of the head. If the
+    /// command is rejected or too long, it is removed from the queue; no signal is emitted, and the
     /// next command is not sent.
     int sendUSSDCommand(QString command, int *status);
     void copyCmdToList(USSDCmdOrResp cmd);
     void checkPendingCmds();
-    /// Ends the USSD session on the device. The queue and the time-out remain unchanged. Returns 0
-    /// on success, otherwise 1.
+    /// Ends the USSD session on the device. Does not affect the queue or the time-out. Returns 0 on
+    /// success, otherwise 1.
     int ReleaseUSSDCommand();
     int releaseUSSDCommand();
-    /// Drops all commands except the prepaid/postpaid queries, including a command in flight.
+    /// Removes all commands except the prepaid/postpaid queries from the queue, including a command
+    /// in flight.
     static void ClearQueuedCmds();
-    /// Drops the commands of the USSD-SMS window.
+    /// Removes the commands of the USSD-SMS window from the queue.
     static void ClearUSSDSMSQueuedCmds();
     int registerUSSDCallback(EventCallback fn);
     int unregisterUSSDCallback(EventCallback fn);
@@ -134,22 +133,22 @@ public:
     static unsigned char OnDeviceMgrInitEvent(int event, void *data);
     static unsigned char SmsCallBackMethod(int event, void *data);
 
-    /// Returns true if the device has most recently reported that it can send short messages.
+    /// Returns true if the last status reported by the device allows sending short messages.
     bool CanSendSMS();
     /// Unregisters the three call-backs from the device SDK.
     void unSDKRegisterEvent();
 
     static QString tr(const QString &key);
 
-    /// Sets the time limits for all later commands. The default limits are 30 s for a reply and 3 s
-    /// for the previous time-out. $USSD_REPLY_TIMEOUT_MS can change the limit for a reply. Must be
-    /// called from the GUI thread.
+    /// Sets the time limits for subsequent commands. By default, the limits are 30 s for a reply,
+    /// which $USSD_REPLY_TIMEOUT_MS overrides, and 3 s for the previous time-out. Must be called
+    /// from the GUI thread.
     static void setReplyTimes(const ReplyTimes &times);
     static ReplyTimes replyTimes();
 
 signals:
-    // Emitted on the thread that receives the event. Therefore, connections to receivers on the GUI
-    // thread are queued.
+    // Emitted on the thread that receives the event. Receivers on the GUI thread therefore use
+    // queued connections.
     void responseReceived(int iComponent, QString strResponse);
     void SmsSendResult(bool ok, QString number, QString text);
     void CanSendSMS(bool can);
@@ -181,7 +180,7 @@ private:
     static QWaitCondition m_waitCondition;
     static ReplyTimer *m_pTimer;
     static std::atomic<bool> m_bCanSendSMS;
-    static quint64 m_timedHead; // the head for which the timer was armed; guarded by m_mutexTimeout
+    static quint64 m_timedHead; // the head to which the time-out belongs; guarded by m_mutexTimeout
     static CallbackGate m_gate;
     static ReplyTimes m_replyTimes;
 

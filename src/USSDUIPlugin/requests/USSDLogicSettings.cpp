@@ -1,6 +1,6 @@
 /*
- * The part of USSDLogic that controls when the configuration file is read, and that returns the
- * settings from this file. PluginConfig.cpp reads the sections.
+ * The functions of USSDLogic that read the configuration file on demand and return its settings.
+ * The sections themselves are parsed by PluginConfig.cpp.
  */
 #include "USSDLogic.h"
 
@@ -27,7 +27,7 @@ bool isPaidType(int paidType)
            static_cast<unsigned int>(PluginConfig::PAID_TYPES);
 }
 
-/// Returns one of the two attributes that all components have, or -1 for any other attribute.
+/// Returns an attribute that all components have, or -1 if `attr` is another attribute.
 template <typename Component>
 int commonIntAttr(const Component &component, int attr)
 {
@@ -38,7 +38,7 @@ int commonIntAttr(const Component &component, int attr)
     return -1;
 }
 
-/// Opens the configuration file and passes its reader to `read`. The log lines name `function`.
+/// Opens the configuration file and passes its reader to `read`. Logs under the name `function`.
 template <typename Read>
 void readConfigurationFile(USSDLogic &logic, const char *function, const Read &read)
 {

@@ -16,7 +16,7 @@
 namespace
 {
 
-const int WIDTH = 300; // pixels; also the width of the link
+const int WIDTH = 300; // in pixels; the link has the same width
 
 const char *const OWN_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_FAILED", "USSD_CODE_TIME_OUT"};
 
@@ -39,7 +39,7 @@ bool holdsRightToLeftLetter(const QString &text)
     return false;
 }
 
-/// Removes the direction marks from LEFT-TO-RIGHT EMBEDDING to RIGHT-TO-LEFT OVERRIDE.
+/// Removes the directional formatting characters U+202A to U+202E.
 QString withoutDirectionMarks(const QString &text)
 {
     QString kept;
@@ -76,8 +76,7 @@ void AccountReplyView::showText(const QString &text)
     setReply(holdsRightToLeftLetter(text) ? ServiceReplyLabel::withCodesMarked(text) : text);
 }
 
-/// Shows the reply. A heavy text, which networks cannot send, is shown in pieces. Each piece is a
-/// separate paragraph.
+/// Shows the reply. Heavy text, which networks cannot send, is inserted as a series of paragraphs.
 void AccountReplyView::setReply(const QString &text)
 {
     m_feeder->drop();
@@ -107,8 +106,8 @@ QSize AccountReplyView::minimumSizeHint() const
     return sizeHint();
 }
 
-/// Copies the selection without the direction marks that showText() adds, so that a copied code can
-/// be sent.
+/// Copies the selection without the directional formatting characters that showText() inserts. They
+/// would make a copied code unusable.
 QMimeData *AccountReplyView::createMimeDataFromSelection() const
 {
     QMimeData *data = new QMimeData;
@@ -116,8 +115,8 @@ QMimeData *AccountReplyView::createMimeDataFromSelection() const
     return data;
 }
 
-/// Handles the first use of a style sheet in the same way as a later change. Qt sends no event for
-/// it, so the frame would keep the width of the style without a style sheet.
+/// Handles the first style sheet like a later style change. Qt does not send an event for the first
+/// style sheet, so the frame would keep its old width.
 bool AccountReplyView::event(QEvent *event)
 {
     const bool isHandled = QTextEdit::event(event);
@@ -140,8 +139,8 @@ void AccountReplyView::fixHeight()
     setFixedHeight(heightOfLines());
 }
 
-/// Returns the height of m_lines lines in a document. The document rounds the height of each line
-/// up and adds its own margins.
+/// Returns the height of m_lines lines of text. QTextDocument rounds the height of each line up and
+/// adds its margins.
 int AccountReplyView::heightOfLines() const
 {
     QTextDocument lines;

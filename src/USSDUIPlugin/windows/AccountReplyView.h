@@ -6,10 +6,10 @@
 class PieceFeeder;
 
 /**
- * Shows the network's reply as plain text in a box with a fixed number of lines, even if the reply
- * contains markup. A longer reply can be scrolled. Messages of the plug-in itself are updated when
- * the language changes. Codes such as *111# are displayed from left to right, even within
- * right-to-left text.
+ * Shows a network reply as plain text in a box with a fixed number of visible lines; longer replies
+ * can be scrolled. Codes such as *111# are displayed from left to right, even inside right-to-left
+ * text. The box can also show a message of the plug-in itself, which is updated when the language
+ * changes.
  */
 class AccountReplyView : public QTextEdit
 {
@@ -18,9 +18,9 @@ public:
 
     /// Sets the number of visible lines.
     void setLines(int lines);
-    /// Shows a reply, or one of the plug-in's own messages in the current language.
+    /// Shows a reply or one of the plug-in's own messages in the current language.
     void showText(const QString &text);
-    /// Updates a message of the plug-in to the current language. Replies remain unchanged.
+    /// Translates a message of the plug-in into the current language. Replies are not affected.
     void retranslate();
 
     QSize sizeHint() const override;

@@ -3,7 +3,8 @@
 
 #include <QtGlobal>
 
-/// Returns the text width plus a margin, clamped to the limits.
+/// Returns the width of a button for a text of this width: the width plus a margin, bounded by the
+/// limits.
 inline int paddedWidth(int textWidth, int minimum, int maximum)
 {
     return qBound(minimum, textWidth + 30, maximum);

@@ -1,4 +1,4 @@
-/* The part of CUSSDService that handles a language change: all open windows get the new texts. */
+/* The part of CUSSDService that handles language changes. All open windows are retranslated. */
 #include "USSDService.h"
 
 #include "FrameLook.h"
@@ -22,7 +22,7 @@ void CUSSDService::changeLanguage()
     setLanguageIfExists(m_pGeneralModalDlg);
     setLanguageIfExists(m_pGeneralEmbeddedDlg);
     setLanguageIfExists(m_pUSSDSMSDlg);
-    // Open frames receive new titles and the size required by the new strings.
+    // Update the titles of the open frames and adapt their sizes to the new strings.
     if (m_pPrepaidFrame && m_pPrepaidDlg) {
         m_pPrepaidFrame->setWindowTitle(tr(QLatin1String(paidTitleKey(PAID_TYPE_PREPAID))));
         fixFrameSize(m_pPrepaidFrame, m_pPrepaidDlg.data());

@@ -28,8 +28,8 @@ QString onlineAddress(const QString &configured)
 
 QString onlineLinkMarkup(const QString &address, const QString &shown)
 {
-    // Replace both with a single arg() call, because a second call would also replace a "%2" in the
-    // address.
+    // A single arg() call replaces both markers. Two consecutive calls would also replace a "%2" in
+    // the address.
     return QString::fromLatin1("<a href=\"%1\">%2</a>")
         .arg(QtCompat::escapeHtml(address), QtCompat::escapeHtml(shown));
 }

@@ -11,7 +11,7 @@
 namespace
 {
 
-// The size limits for text that is shown in a label.
+// Longer text is shown in a scrollable view instead of a label.
 const int LABEL_CHARACTERS = 600;
 const int LABEL_LINES = 12;
 const int LABEL_WORD = 50;
@@ -48,8 +48,7 @@ QPlainTextEdit *createView(QWidget *parent, const QString &text)
     return view;
 }
 
-/// Shows the text in a scrolling view instead of the label. A label becomes as wide as the longest
-/// word.
+/// Replaces the label with a scrollable view. A label would become as wide as the longest word.
 void showInView(QMessageBox *box, const QString &text)
 {
     QGridLayout *grid = qobject_cast<QGridLayout *>(box->layout());

@@ -4,17 +4,17 @@
 #include <QMessageBox>
 
 /*
- * The message box that shows the network's reply to a top-up. The box uses only Qt's own classes,
- * so that it can be deleted without running any code of the plug-in.
+ * The message box that shows the reply to a top-up. It consists only of Qt classes, so that it can
+ * be deleted even after the plug-in has been unloaded.
  */
 namespace ReplyMessageBox
 {
 
-/// Creates a modal message box as a child of `parent` without showing it. The box contains the
-/// reply as plain text, in a scrolling view if the reply is too long for a label.
+/// Creates a hidden modal message box as a child of `parent`. The reply is shown as plain text, in
+/// a scrollable view if it is too long for a label.
 QMessageBox *create(QWidget *parent, const QString &reply);
 
-/// Updates the title and the button to the current language.
+/// Retranslates the title and the button.
 void retranslate(QMessageBox *box);
 
 } // namespace ReplyMessageBox

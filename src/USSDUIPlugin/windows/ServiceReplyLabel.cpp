@@ -11,19 +11,19 @@ namespace
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 
-/// A label is too small for this many characters. Laying out more characters at each repaint would
-/// be useless.
+/// The maximum number of characters to lay out at each repaint. The label is too small to show
+/// more.
 const int MOST_LETTERS = 2000;
 
-/// Returns true if a code may contain this character after its first character.
+/// Returns true if a code may contain this character in any position except the first.
 bool continuesCode(QChar unit)
 {
     return unit == QLatin1Char('*') || unit == QLatin1Char('#') ||
            (unit >= QLatin1Char('0') && unit <= QLatin1Char('9'));
 }
 
-/// Returns the end of the code or number that starts at `start`, such as *100# or +4930, or `start`
-/// if there is none.
+/// Returns the end of the code or number, such as *100# or +4930, that starts at `start`. Returns
+/// `start` if there is none.
 int codeEnd(const QString &text, int start)
 {
     const QChar first = text.at(start);
@@ -44,7 +44,7 @@ QTextOption textOption(const QLabel &label, bool rightToLeft)
     return option;
 }
 
-/// Breaks the text into as many lines as fit into the label.
+/// Breaks the text into lines until the label is full.
 void layOut(QTextLayout &layout, const QSize &space)
 {
     qreal bottom = 0;

@@ -4,10 +4,10 @@
 #include <QLabel>
 
 /**
- * A label that shows replies of the network as plain text. The letters of a reply determine its
- * text direction, but codes are always displayed from left to right. A word that is too long for a
- * line can be broken anywhere. text() returns the reply unchanged. The reply does not affect the
- * size hint. All functions must be called from the GUI thread.
+ * A label for network replies, which are shown as plain text. The text direction depends on the
+ * letters of the reply, but codes are always displayed from left to right. Words that are too long
+ * for a line can be broken anywhere. text() returns the reply unchanged. The size hint does not
+ * depend on the reply. All functions must be called from the GUI thread.
  */
 class ServiceReplyLabel : public QLabel
 {
@@ -17,9 +17,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    /// Returns `text` with direction marks around each code, such as *111#, and around each number
-    /// that starts with a plus sign. Without these marks, adjacent right-to-left letters would
-    /// reverse a code.
+    /// Returns `text` with directional formatting characters around each code, such as *111#, and
+    /// around each number with a plus sign. Otherwise, right-to-left letters next to a code would
+    /// reverse it.
     static QString withCodesMarked(const QString &text);
 
 protected:

@@ -26,14 +26,14 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDDlg.cpp");
 namespace
 {
 
-const int RETURN_IN_MESSAGE_BOX = 1; // the return style that shows the reply in a message box
+const int RETURN_IN_MESSAGE_BOX = 1; // the configured value for replies in a message box
 const int LINK_WIDTH = 300;          // in pixels
 const int BALANCE_LINES = 3;
 const int ACTIVATE_LINES = 3;
 const int MSISDN_LINES = 2;
 
-/// Returns a new child of the window with an object name for the given role. Returns null if there
-/// is not enough memory.
+/// Returns a new child of the window whose object name contains the role. Returns null if there is
+/// not enough memory.
 template <typename Widget>
 Widget *createWidget(QWidget *dialog, const char *role)
 {
@@ -74,8 +74,8 @@ QString text(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Returns a tool tip that shows `text` literally, as escaped rich text. If the tool tip were plain
-/// text, QToolTip might interpret parts of it as markup.
+/// Returns a tool tip that shows `text` literally. The text is escaped, because QToolTip might
+/// otherwise interpret it as markup.
 QString plainToolTip(const QString &text)
 {
     return QLatin1String("<p>") + QtCompat::escapeHtml(text) + QLatin1String("</p>");
@@ -140,7 +140,8 @@ void USSDDlg::InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model)
 bool USSDDlg::createWidgets()
 {
     m_pCloseButton = createWidget<QPushButton>(this, "CloseButton");
-    // Call every function even if one fails, so that as many widgets as possible are created.
+    // Every function must be called even if an earlier one fails, so that as many widgets as
+    // possible are created.
     const bool balance = createBalance();
     const bool charge = createCharge();
     const bool onlineCharge = createOnlineCharge();
@@ -215,8 +216,8 @@ void USSDDlg::initStatusBoxes()
     m_pBalanceStatusTextEdit->setLines(BALANCE_LINES);
     m_pActivateStatusTextEdit->setLines(ACTIVATE_LINES);
     m_pMSISDNStatusTextEdit->setLines(MSISDN_LINES);
-    // If no command can be sent at all, this message remains visible, because the failure is not
-    // reported in any other way.
+    // If no command can be sent, this message remains visible, because the failure is not reported
+    // anywhere else.
     m_pBalanceStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pActivateStatusTextEdit->showText(text("USSD_CODE_FAILED"));
     m_pMSISDNStatusTextEdit->showText(text("USSD_CODE_FAILED"));
@@ -234,8 +235,8 @@ void USSDDlg::initChargeComponent()
     limitChargeEdit();
 }
 
-/// Limits the characters that can be entered. If the configuration does not contain a usable
-/// expression, the input field accepts all characters.
+/// Limits the characters that the user can enter. If the configured expression is not usable, all
+/// characters are allowed.
 void USSDDlg::limitChargeEdit()
 {
     delete m_pChargeEdit->validator();
@@ -282,8 +283,8 @@ void USSDDlg::connectWidgets()
     m_pActivateStatusTextEdit->installEventFilter(this);
 }
 
-/// Rebuilds the window for another paid type, because the complete configuration depends on the
-/// type.
+/// Rebuilds the window for the other paid type, because prepaid and postpaid windows have separate
+/// configurations.
 void USSDDlg::changePaidType(PAID_TYPE type)
 {
     if (type == m_paidType || !m_pLogic || !m_pGrid)
@@ -341,8 +342,8 @@ void USSDDlg::setLanguageForMSISDN()
     m_pMSISDNStatusTextEdit->retranslate();
 }
 
-/// Uses the label next to a field as the field's accessible name and as the button's description,
-/// because two buttons may have the same text.
+/// Uses the label next to each field as the field's accessible name. The label also becomes the
+/// description of the button, because two buttons may have the same text.
 void USSDDlg::initAccessibility()
 {
     m_pBalanceLabel->setBuddy(m_pBalanceStatusTextEdit);
@@ -398,7 +399,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // marks the button that Return presses
+    m_pChargeActivateButton->setDefault(true); // shows which button Return presses
 }
 
 void USSDDlg::OnCloseButtonClicked()
@@ -415,9 +416,9 @@ void USSDDlg::OnClickedCloseButton()
     emit clickedcloseButton(); // the receiver may delete the window
 }
 
-/// Accepts Return without any action. The field or button with the focus has already handled the
-/// key, and the frame would also press its default button. Other keys, such as Escape, are passed
-/// to the frame.
+/// Accepts Return and does nothing else. The widget with the focus has already handled the key, and
+/// the frame would press its default button as well. Other keys, such as Escape, are left to the
+/// frame.
 void USSDDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -426,9 +427,9 @@ void USSDDlg::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// Filters out key repeats of Return, so that holding the key tops up only once, even if a reply
-/// enables the input field and the button again. A key repeat does not close the message box
-/// either.
+/// Filters out auto-repeated Return keys. If the user holds Return, only one top-up is sent, even
+/// if a reply enables the button again. For the same reason, a held key does not close a message
+/// box.
 bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
@@ -436,7 +437,7 @@ bool USSDDlg::eventFilter(QObject *watched, QEvent *event)
     const QKeyEvent *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
         return false;
-    // Some systems do not mark key repeats; they only omit the key releases between them.
+    // Some systems do not report auto-repeat but omit the key releases.
     const bool isHeld = key->isAutoRepeat() || m_bReturnDown;
     m_bReturnDown = event->type() == QEvent::KeyPress || key->isAutoRepeat();
     return event->type() == QEvent::KeyPress && isHeld;
@@ -449,8 +450,8 @@ void USSDDlg::OnClickedBalanceUpdateButton()
     sendUSSDCommand(COMPONENT_BALANCE, ATTR_COMMAND);
 }
 
-/// Tops up when the user clicks the button, or presses Return in the input field while the button
-/// is enabled.
+/// Sends the top-up when the user clicks the button, or presses Return in the input field while the
+/// button is enabled.
 void USSDDlg::OnClickedActivateButton()
 {
     if (m_pChargeActivateButton && m_pChargeActivateButton->isEnabled())
@@ -495,8 +496,8 @@ void USSDDlg::sendUSSDCommand(_COMPONENT component, int attr)
         OnResponseReceived(component, text(failureKey(status, "USSD_CODE_FAILED")));
 }
 
-/// Sends the command. If the command could not be read from the configuration, it is empty. An
-/// empty command fails like a command that the device rejects.
+/// Sends the command. An empty command, which means that the configuration could not be read, is
+/// treated like a command that the device rejects.
 int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *status)
 {
     if (command.isEmpty())
@@ -504,10 +505,9 @@ int USSDDlg::sendUnlessEmpty(_COMPONENT component, const QString &command, int *
     return m_pLogic->SendUSSDCommand(USSDCmdOrResp(component, command), status);
 }
 
-/// Marks the window as busy and shows the waiting message. If the reply to a top-up appears in a
-/// message box, the waiting message is not shown. However, the top-up makes the window busy like
-/// any other command. Otherwise, its reply would be dropped unless another command had been sent
-/// first.
+/// Marks the window as busy and shows the waiting message, which is omitted for a top-up whose
+/// reply appears in a message box. Such a top-up must still make the window busy, because the reply
+/// would otherwise be dropped.
 void USSDDlg::awaitAnswer(_COMPONENT component, bool isSent)
 {
     m_bBusy = true;
@@ -529,7 +529,7 @@ void USSDDlg::OnResponseReceived(int component, QString text)
     const bool isWaiting = text == tr(QLatin1String("USSD_CODE_WAITTING"));
     if (text.isEmpty() && component != COMPONENT_PREPOST_QUERY)
         text = tr(QLatin1String("USSD_CODE_FAILED"));
-    const QPointer<USSDDlg> self(this); // a host that is notified may shut down
+    const QPointer<USSDDlg> self(this); // a host that is notified may shut down the plug-in
     routeResponse(component, text, isWaiting);
     if (self && !isWaiting && !(component == COMPONENT_CHARGE && isReplyBoxDue()))
         enableDisableButton(static_cast<_COMPONENT>(component), false);
@@ -545,9 +545,10 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
-/// Shows the reply to a top-up. A message box is opened from the event loop for two reasons. If the
-/// box were opened while a reply is being reported, it would block the pipeline. If it were opened
-/// in the key handler of the input field, which reports a rejected command, the host might delete
+/// Shows the reply to a top-up. A message box is always opened from the event loop. Opening it
+/// directly would block the pipeline while a reply is being reported. A rejected command is
+/// reported from the key handler of the input field, which the host could delete while the message
+/// box is open.
 /// the field while the handler runs.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
@@ -564,14 +565,14 @@ void USSDDlg::onChargeResponseReceived(const QString &text)
     updateBalanceAfterCharge();
 }
 
-/// Returns true until the user has closed the message boxes of all replies.
+/// Returns true if there are replies whose message boxes have not been closed yet.
 bool USSDDlg::isReplyBoxDue() const
 {
     return !m_listBoxReplies.isEmpty();
 }
 
-/// Opens the message box of the next reply. A reply that arrives while a message box is open is
-/// shown after the user has closed this message box.
+/// Opens the message box for the next reply. If a message box is already open, the next one is
+/// opened after the user has closed it.
 void USSDDlg::openReplyBox()
 {
     if (m_pReplyBox || !isReplyBoxDue())
@@ -623,11 +624,11 @@ void USSDDlg::enableDisableButton(_COMPONENT component, bool disable)
 }
 
 /// Moves the focus from a control that is about to be disabled to the box that will show the reply.
-/// Otherwise, Qt would move the focus to the next control. This control would then receive the keys
-/// that the user is still typing.
+/// By default, Qt would move the focus to the next control, which would then receive the user's key
+/// presses.
 void USSDDlg::parkFocus(_COMPONENT component)
 {
-    QWidget *focus = window()->focusWidget(); // available even while a message box is active
+    QWidget *focus = window()->focusWidget(); // also valid while a message box is active
     AccountReplyView *box = statusBoxOf(component);
     if (!focus || !box || !controlsOf(component).contains(focus))
         return;
@@ -656,7 +657,7 @@ int USSDDlg::chargeReturnStyle() const
                     : -1;
 }
 
-/// Returns the box that shows the replies of the component, or null if the component has none.
+/// Returns the box for the component's replies, or null if the component has none.
 AccountReplyView *USSDDlg::statusBoxOf(int component) const
 {
     switch (component) {
@@ -671,7 +672,7 @@ AccountReplyView *USSDDlg::statusBoxOf(int component) const
     }
 }
 
-/// Returns the controls that are disabled while the component waits for a reply.
+/// Returns the controls that must be disabled while the component is waiting for a reply.
 QList<QWidget *> USSDDlg::controlsOf(int component) const
 {
     QList<QWidget *> controls;

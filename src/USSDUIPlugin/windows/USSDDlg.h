@@ -24,14 +24,13 @@ class QPushButton;
 class AccountReplyView;
 
 /**
- * The account window of a prepaid or a postpaid SIM: balance, top-up, link to the top-up page, and
- * the subscriber's own number. The configuration determines which of these components are shown,
- * and where. The window also sends the query for the prepaid/postpaid detection. All functions must
- * be called from the GUI thread.
+ * The account window for prepaid or postpaid SIMs. Its components are the balance, the top-up, the
+ * link to the top-up page, and the subscriber's own number. The configuration specifies which
+ * components are shown and in which position. The window also runs the prepaid/postpaid detection.
+ * All functions must be called from the GUI thread.
  *
- * The window becomes busy when its first command is accepted. It remains busy until it is closed,
- * even after a reply. A window that is not busy drops all replies except the reply to the detection
- * query.
+ * The window is busy from the first accepted command until it is closed, even after a reply. While
+ * it is not busy, it drops all replies except those to the detection query.
  */
 class USSDDlg : public QWidget
 {
@@ -42,25 +41,24 @@ public:
 
     /// Builds the window. Must be called only once.
     void InitDialog(QWidget *parent, PAID_TYPE type, WINDOW_MODEL model);
-    /// Returns the size required by the strings of the current language, or (-1, -1) before the
-    /// window has been built.
+    /// Returns the size that the window requires in the current language, or (-1, -1) before it has
+    /// been built.
     QSize GetSize();
-    /// Cancels the pending requests, and resets and shows the window. Requests the balance and the
-    /// subscriber's own number if they are shown. Does nothing for types other than prepaid and
-    /// postpaid.
+    /// Cancels pending requests and resets and shows the window. If the components are visible,
+    /// requests the balance and the subscriber's own number. Does nothing if `type` is neither
+    /// prepaid nor postpaid.
     void MyDoModal(PAID_TYPE type);
-    /// Starts the prepaid/postpaid detection if `ask` is true. The host's notification service
-    /// receives the result. The function copies `inUse`, `postpaid` and `result` to a record of the
-    /// window. Before it returns, it copies the values of the record back to these three arguments.
-    /// Returns 1, or 0 if the logic object does not exist.
+    /// Starts the prepaid/postpaid detection if `ask` is true. The result is sent to the host's
+    /// notification service later. On return, the arguments contain the current values of the
+    /// record that is passed to this service. Returns 1, or 0 if the logic object does not exist.
     int GetPrePostInfo(bool &inUse, bool &postpaid, int &result, bool ask);
-    /// Updates all visible strings except replies to the current language.
+    /// Retranslates all visible strings except replies.
     void SetLanguage();
     static QString tr(const QString &key);
 
 public slots:
-    /// Handles the closing of the outer window. The object may have been deleted when this function
-    /// returns.
+    /// Must be called when the outer window is closed. This object may have been deleted when the
+    /// function returns.
     void OnClickedCloseButton();
 
 signals:
@@ -147,7 +145,7 @@ private:
     PAID_TYPE m_paidType;
     WINDOW_MODEL m_windowModel;
     bool m_bBusy;
-    bool m_bReturnDown; // true from a press of Return until its release
+    bool m_bReturnDown; // true while Return is pressed
     PrePostRecord m_prePostRecord;
     Formats::PrePostDiffer m_prePostDiffer;
     Formats::TopUpInputLimits m_chargeRules;
@@ -156,8 +154,8 @@ private:
     QGridLayout *m_pGrid;
     QList<QFrame *> m_listFreeLines; // separators that have not been placed in the grid yet
     QList<QWidget *> m_listTabOrder; // in the order of the layout
-    QHash<int, QPointer<QWidget>> m_hashParkFocus; // previous focus, keyed by component
-    QStringList m_listBoxReplies;      // replies whose message box has not been closed yet
+    QHash<int, QPointer<QWidget>> m_hashParkFocus; // focus before the request, keyed by component
+    QStringList m_listBoxReplies;      // replies whose message boxes have not been closed yet
     QPointer<QMessageBox> m_pReplyBox; // the open message box; a child of the window
 
     QLabel *m_pBalanceLabel;

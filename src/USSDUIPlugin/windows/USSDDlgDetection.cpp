@@ -1,5 +1,5 @@
 /*
- * The part of USSDDlg that detects whether the SIM is prepaid or postpaid.
+ * The part of USSDDlg that determines whether the SIM is prepaid or postpaid.
  */
 #include "USSDDlg.h"
 

@@ -1,5 +1,5 @@
 /*
- * The part of USSDDlg that notifies the host whether the SIM is prepaid or postpaid.
+ * The part of USSDDlg that reports to the host whether the SIM is prepaid or postpaid.
  */
 #include "USSDDlg.h"
 
@@ -19,8 +19,8 @@ const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
 
 } // namespace
 
-/// Notifies both addressees with a copy of the record. Both receive the same values, even if the
-/// host starts another detection or shuts down in response to the first notification.
+/// Notifies both addressees. A copy of the record ensures that both receive the same values, even
+/// if the host starts another detection or shuts down during the first notification.
 void USSDDlg::notifyHost()
 {
     const PrePostRecord record = m_prePostRecord;

@@ -28,7 +28,7 @@ const int HORIZONTAL_SPACING = 6;
 const int LABEL_WIDTH = 80;
 const int FIELD_WIDTH = 230;
 const int ROW_HEIGHT = 20;
-const int MARGIN = 16;              // pixels around the entire grid
+const int MARGIN = 16;              // pixels around the grid
 const int GAP = 4;                  // pixels between related widgets
 const int ABOVE_CLOSE = 12;         // pixels between the components and the close button
 const int ROWS_OF[] = {2, 3, 1, 1}; // number of rows of each component
@@ -38,7 +38,7 @@ const _COMPONENT COMPONENTS[] = {COMPONENT_BALANCE, COMPONENT_CHARGE, COMPONENT_
 
 } // namespace
 
-/// Replaces the grid with an empty grid. The widgets of the old grid are kept.
+/// Creates a new, empty grid in place of the old grid. The widgets are kept.
 void USSDDlg::createGrid()
 {
     delete m_pGrid;
@@ -55,11 +55,11 @@ QSize USSDDlg::GetSize()
 {
     if (!m_pGrid)
         return QSize(-1, -1);
-    // A style sheet may change the font and the padding of every widget, and thus its size.
+    // A style sheet may change the font and the padding of a widget, and therefore its size.
     const QList<QWidget *> widgets = findChildren<QWidget *>();
     for (int i = 0; i < widgets.count(); ++i)
         widgets.at(i)->ensurePolished();
-    m_pGrid->activate(); // without this call, nested boxes ignore changes since the last event
+    m_pGrid->activate(); // required because nested boxes otherwise use outdated sizes
     return m_pGrid->sizeHint();
 }
 
@@ -72,8 +72,8 @@ void USSDDlg::findPosAndAddElements(int &row)
     }
     setUpGrid();
     hideComponents();
-    // The map sorts the components by position. If two components have the same position, the later
-    // one is used.
+    // The map sorts the components by position. If two components have the same position, only the
+    // second one is shown.
     QMap<int, _COMPONENT> places;
     for (_COMPONENT component : COMPONENTS) {
         if (isShown(component))
@@ -83,7 +83,7 @@ void USSDDlg::findPosAndAddElements(int &row)
     setRowHeights(places.values());
     bool isFirst = true;
     for (auto it = places.constBegin(); it != places.constEnd(); ++it) {
-        // This line has no time, source or function, because log parsers expect this form.
+        // The format of this line must not change, because log parsers depend on it.
         USSD_IF_LOGGING(qDebug("position = %d component=%d", it.key(), it.value()));
         addComponentElements(it.value(), row, isFirst);
     }
@@ -114,8 +114,8 @@ void USSDDlg::setRowHeights(const QList<_COMPONENT> &components)
         m_pGrid->setRowMinimumHeight(row, ROW_HEIGHT);
 }
 
-/// Counts the rows of the component. Adds a row for a separator if there is another component above
-/// it.
+/// Counts the rows of the component, including the separator above it if there is another component
+/// above.
 void USSDDlg::findRowCount(int component, int &rows)
 {
     if (rows > 0)
@@ -199,8 +199,8 @@ void USSDDlg::addMSISDNElements(int &row)
     row += ROWS_OF[COMPONENT_MSISDN];
 }
 
-/// Adds a separator between two components. The own-number component has no separator, so the gap
-/// next to it uses the separator of the adjacent component.
+/// Adds a separator between two components. The own-number component has no separator of its own,
+/// so the separator of the adjacent component is used.
 void USSDDlg::addSeparator(int &row)
 {
     if (!m_listFreeLines.isEmpty())
@@ -217,7 +217,7 @@ void USSDDlg::addCloseButton(int row)
     buttons->addWidget(m_pCloseButton);
     m_pGrid->addLayout(buttons, row, LABEL_COLUMN, 1, COLUMNS, Qt::AlignBottom);
     m_pGrid->setRowStretch(row, 1);
-    // An embedded page does not have a separate window that could be closed.
+    // An embedded window has no frame that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_listTabOrder << m_pCloseButton;
 }
@@ -228,9 +228,8 @@ void USSDDlg::place(QWidget *widget, int row, int column, int columns)
     widget->show();
 }
 
-/// Places the widget in a layout box, below a gap, starting at the field column. Inside the box,
-/// the widget is aligned to the side on which the window's text begins, even if the widget has a
-/// different layout direction.
+/// Places the widget below a gap in a layout box that starts at the field column. The widget is
+/// aligned with the start of the window's text direction, even if its own layout direction differs.
 void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int columns)
 {
     QHBoxLayout *box = new QHBoxLayout;
@@ -241,7 +240,7 @@ void USSDDlg::placeInBox(QWidget *widget, int gap, int row, int rows, int column
     widget->show();
 }
 
-/// Hides all widgets. The layout shows the widgets that it places.
+/// Hides all widgets. The layout later shows those that it places.
 void USSDDlg::hideComponents()
 {
     QWidget *const widgets[] = {m_pBalanceLabel,
@@ -266,14 +265,14 @@ void USSDDlg::hideComponents()
     m_listTabOrder.clear();
 }
 
-/// Sets the tab order to the reading order: along each row, from top to bottom.
+/// Makes the tab order follow the reading order: row by row, from top to bottom.
 void USSDDlg::initTabOrder()
 {
     for (int i = 1; i < m_listTabOrder.count(); ++i)
         QWidget::setTabOrder(m_listTabOrder.at(i - 1), m_listTabOrder.at(i));
 }
 
-/// Returns the separator of a component, or null for the own-number component, which has none.
+/// Returns the separator of the component, or null for the own-number component.
 QFrame *USSDDlg::lineOf(_COMPONENT component) const
 {
     switch (component) {

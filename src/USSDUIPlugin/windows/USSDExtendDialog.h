@@ -3,7 +3,7 @@
 
 #include "ExtendDialog.h"
 
-/** The outer frame of a window of the plug-in. */
+/** The frame of a window of the plug-in. */
 class USSDExtendDialog : public ExtendDialog
 {
     Q_OBJECT

@@ -93,7 +93,7 @@ bool USSDGeneralDlg::createWidgets()
 {
     USSD_LOG_SCOPE();
     m_pContainer = new QWidget(this);
-    m_pContainer->hide(); // exists only to create the grid
+    m_pContainer->hide(); // the container is needed only to create the grid
     m_pMainGrid = new QGridLayout(m_pContainer);
     for (int i = 0; i < 3; ++i)
         m_pPreBtnsBox[i] = new QVBoxLayout;
@@ -151,7 +151,7 @@ void USSDGeneralDlg::initWidgets()
     m_pClearButton->setVisible(m_clearBtnSetting.visible);
     if (m_clearBtnSetting.visible)
         enableClearHistoryBtn(false);
-    // An embedded page does not have a separate window that could be closed.
+    // An embedded window has no frame that could be closed.
     m_pCloseButton->setVisible(m_windowModel == WINDOW_MODEL_MODAL);
     m_pEditButton->setVisible(m_cmdEditSetting.visible);
     initPreBtns();
@@ -182,7 +182,7 @@ void USSDGeneralDlg::initCombo()
     addProfilesToCombo();
     m_pProfilesCombo->setEditable(true);
     m_pProfilesCombo->setCurrentIndex(-1);
-    // The combo box is hidden, so the visible field receives the focus instead.
+    // The combo box itself is hidden, so the visible input field must receive its focus.
     m_pProfilesCombo->setFocusProxy(m_pUSSDCmdEdit);
     if (QLineEdit *edit = m_pProfilesCombo->lineEdit()) {
         edit->setMaxLength(MAX_COMBO_CODE);
@@ -199,7 +199,7 @@ void USSDGeneralDlg::initFixedSizes()
     m_pHistoryView->setCursorWidth(0);
 }
 
-/// Uses the labels above the fields as the fields' accessible names for screen readers.
+/// Makes the labels above the fields the accessible names of the fields.
 void USSDGeneralDlg::initAccessibility()
 {
     m_pInfoLabel->setBuddy(m_pUSSDCmdEdit);
@@ -284,8 +284,8 @@ void USSDGeneralDlg::setProfileFocus()
 
 void USSDGeneralDlg::showHideCmdBtn() {}
 
-/// Accepts every key that reaches the window itself, so that Escape does not close the frame and
-/// Return does not press the frame's default button.
+/// Accepts all keys. Otherwise, the frame would handle them: Escape would close it, and Return
+/// would press its default button.
 void USSDGeneralDlg::keyPressEvent(QKeyEvent *event)
 {
     Q_UNUSED(event);
@@ -412,9 +412,8 @@ bool USSDGeneralDlg::sendCommand(const QString &command)
     return false;
 }
 
-/// Moves the focus to the transcript, because the fields are about to be disabled. Otherwise, Qt
-/// would move the focus to Clear. This button would then receive the keys that the user is still
-/// typing.
+/// Moves the focus to the transcript before the input fields are disabled. By default, Qt would
+/// move the focus to Clear, which would then receive the user's key presses.
 void USSDGeneralDlg::parkFocus()
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -422,8 +421,7 @@ void USSDGeneralDlg::parkFocus()
         m_pHistoryView->setFocus(Qt::OtherFocusReason);
 }
 
-/// Returns true if the focus is in a widget of the host. A reply must not take the focus from this
-/// widget.
+/// Returns true if a widget of the host has the focus, which a reply must not take away.
 bool USSDGeneralDlg::isFocusElsewhere() const
 {
     const QWidget *focus = QApplication::focusWidget();
@@ -509,7 +507,7 @@ void USSDGeneralDlg::clearHistory()
         return;
     }
     if (m_clearBtnSetting.showConfirmDialog) {
-        const QPointer<USSDGeneralDlg> self(this); // the host may shut down in the meantime
+        const QPointer<USSDGeneralDlg> self(this); // the host may shut down during the call
         const int answer =
             PluginMessage::show(QMessageBox::Question, this, tr(QLatin1String("IDS_STR_PROMPT")),
                                 tr(QLatin1String("IDS_STR_CLEAR")), QLatin1String("IDS_OK"),

@@ -20,13 +20,13 @@ class QVBoxLayout;
 class TranscriptView;
 
 /**
- * The general window. It sends a command that the user types or selects with a preset button. A
- * coloured transcript shows the sent and received messages. All functions must be called from the
- * GUI thread.
+ * The general window. It sends commands that the user types or selects with a preset button, and
+ * shows all sent and received messages in a coloured transcript. All functions must be called from
+ * the GUI thread.
  *
- * While the window is idle, Send is enabled if the input field contains text. While the window
- * waits for a reply, every control that sends a command is disabled. The first reply for this
- * window's component ends the wait. A later reply is dropped.
+ * In the idle state, Send is enabled if the input field contains text. While the window is waiting
+ * for a reply, all controls that send commands are disabled. The wait ends with the first reply for
+ * the component of this window. Later replies are dropped.
  */
 class USSDGeneralDlg : public QWidget
 {
@@ -37,17 +37,17 @@ public:
 
     /// Builds the window. Must be called only once.
     void InitDialog(QWidget *parent, WINDOW_MODEL model);
-    /// Updates every visible string to the current language, except the lines of the transcript.
+    /// Retranslates all visible strings except the lines of the transcript.
     void SetLanguage();
-    /// Prepares the window for input when it is shown again.
+    /// Prepares the window for new input before it is shown again.
     void ReInitDialog();
-    /// Returns the size hint of the layout, or (-1, -1) before the layout exists.
+    /// Returns the size hint of the layout, or (-1, -1) if the window has not been built yet.
     QSize GetSize();
     virtual void resize(const QSize &size);
     void setProfileFocus();
     void showHideCmdBtn();
     static QString tr(const QString &key);
-    /// Returns the object name of the widget with this role. Style sheets use this name.
+    /// Returns the object name of the widget with this role, for use in style sheets.
     static QString objectNameOf(const char *role);
 
     bool isShowPreBtns();
@@ -58,8 +58,8 @@ public:
     void changePayBtnsStatus(bool enable);
 
 public slots:
-    /// Handles the closing of the outer window. The object may have been deleted when this function
-    /// returns.
+    /// Must be called when the outer window is closed. This object may have been deleted when the
+    /// function returns.
     void OnClickedCloseButton();
 
 signals:
@@ -99,8 +99,8 @@ private:
     void initTabOrder();
 
     void changeSendButtonStatus();
-    /// Sends a command. If the command is rejected, shows the failure as the reply. Returns true if
-    /// a reply is expected.
+    /// Sends a command. If the command is rejected, shows the failure in place of a reply. Returns
+    /// true if a reply is expected.
     bool sendCommand(const QString &command);
     void parkFocus();
     bool isFocusElsewhere() const;

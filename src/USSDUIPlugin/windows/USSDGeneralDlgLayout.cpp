@@ -1,4 +1,4 @@
-/* The part of USSDGeneralDlg that places all widgets in the grid. */
+/* The part of USSDGeneralDlg that places the widgets in a grid. */
 #include "USSDGeneralDlg.h"
 
 #include <QApplication>
@@ -22,21 +22,20 @@ namespace
 {
 
 // The slots for the preset buttons: two boxes with four slots each, a box with one slot and the
-// payment field, and two slots outside the boxes.
+// payment field, and two slots without a box.
 const int SLOTS = 11;
 const int SLOTS_IN_BOX = 4;
 const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
-const int RIGHT_COLUMN = 2; // the first of the five columns with the transcript and the input field
+const int RIGHT_COLUMN = 2; // the first of the columns with the transcript and the input field
 const int RIGHT_COLUMNS = 5;
-// A larger window makes the transcript higher and wider. The boxes with the preset buttons stay
-// together: the stretching row is the second one of the second box, below whose buttons there is
-// room.
+// The row and the column that grow with the window. They enlarge the transcript without tearing the
+// boxes of preset buttons apart, because there is free space below the buttons of the second box.
 const int STRETCHING_ROW = 5;
 const int STRETCHING_COLUMN = 3;
 const int PROMPT_ROW = 8;
-const int ROW_BELOW_PAYMENT = 11; // the first row below the box with the payment field
-const int SPACING = 4;            // in pixels; the fixed window is too small for a larger spacing
+const int ROW_BELOW_PAYMENT = 11; // the row below the box with the payment field
+const int SPACING = 4;            // in pixels; limited by the fixed size of the window
 
 } // namespace
 
@@ -73,8 +72,8 @@ void USSDGeneralDlg::findPosAndAddElements(int &row)
     initTabOrder();
 }
 
-/// Adds the button of a slot. A slot belongs to the profile with the same index. If this profile is
-/// missing or hidden, the slot remains empty.
+/// Adds the button of the slot. The slot shows the profile with the same index, and remains empty
+/// if there is no such profile or if the profile is hidden.
 void USSDGeneralDlg::addPreBtnOfSlot(int slot, int &row)
 {
     QPushButton *button = createPreBtn(slot);
@@ -111,8 +110,8 @@ void USSDGeneralDlg::addFixedElements(int row)
     ++row;
     m_pMainGrid->addWidget(m_pUSSDCmdEdit, row, RIGHT_COLUMN, 1, RIGHT_COLUMNS - 1);
     m_pMainGrid->addWidget(m_pSendButton, row, RIGHT_COLUMN + RIGHT_COLUMNS - 1, Qt::AlignRight);
-    // Reserve two lines for the prompt, so that the other widgets do not move when the prompt
-    // appears or disappears.
+    // Reserve two lines for the prompt, so that the layout does not change when the prompt appears
+    // or disappears.
     m_pMainGrid->addWidget(m_pPromptLabel, PROMPT_ROW, RIGHT_COLUMN, 1, RIGHT_COLUMNS);
     m_pMainGrid->setRowMinimumHeight(PROMPT_ROW, 2 * m_pPromptLabel->fontMetrics().lineSpacing());
 }
@@ -130,7 +129,7 @@ void USSDGeneralDlg::addBottomButtons(int row)
     m_pMainGrid->setColumnStretch(STRETCHING_COLUMN, 1);
 }
 
-/// Adjusts the widths of the bottom buttons to their texts. Currently, this function is not called.
+/// Adapts the widths of the bottom buttons to their texts. The function is not currently called.
 void USSDGeneralDlg::setRightLayoutBottomButtons()
 {
     const QFontMetrics metrics(QApplication::font());

@@ -1,6 +1,6 @@
 /*
- * The part of USSDGeneralDlg that decides which preset buttons are the payment buttons. A payment
- * button sends its command with the number in the payment field.
+ * The part of USSDGeneralDlg that determines which preset buttons are payment buttons. The command
+ * of a payment button contains the number in the payment field.
  */
 #include "USSDGeneralDlg.h"
 

@@ -23,10 +23,10 @@ static const char LOG_SOURCE[] = USSD_LOG_SOURCE("USSDGeneralDlg.cpp");
 namespace
 {
 
-const int ELIDE_WIDTH = 127; // in pixels; does not depend on the width of the button
+const int ELIDE_WIDTH = 127; // in pixels; independent of the button's width
 
-/// Sets the text of a button. A code is read from left to right in every language. A name follows
-/// the direction of the language.
+/// Sets the text of a button. Codes are displayed from left to right in every language. Names
+/// follow the direction of the language.
 void setProfileText(QPushButton *button, const QString &text)
 {
     if (isCodeLike(text))
@@ -36,8 +36,8 @@ void setProfileText(QPushButton *button, const QString &text)
     button->setText(text);
 }
 
-/// Makes the tool tip show its text literally. Otherwise, Qt would interpret text that looks like
-/// markup, and would load images that the text refers to.
+/// Makes the tool tip show its text literally. Otherwise, Qt could interpret the text as markup and
+/// load images to which it refers.
 void keepToolTipPlain(QPushButton *button)
 {
     const QString tip = button->toolTip();
@@ -140,7 +140,7 @@ int USSDGeneralDlg::getPreBtnMaxTextWidth()
 
 void USSDGeneralDlg::updatePreBtnWidth(int width)
 {
-    updatePreBtnsText(); // sets the full texts, which are elided below
+    updatePreBtnsText(); // sets the full texts, which are elided afterwards
     for (int i = 0; m_pListPreBtns && i < m_pListPreBtns->count(); ++i) {
         QPushButton *button = m_pListPreBtns->at(i).first;
         button->setFixedWidth(width);
@@ -168,7 +168,7 @@ void USSDGeneralDlg::OnClickedEditButton()
     const QPointer<USSDGeneralDlg> self(this);
     USSDEditCmd editor;
     editor.InitDialog(parentWidget());
-    // If the host deletes this window, the event loop of the editor must also end.
+    // The event loop of the editor must end if the host deletes this window.
     connect(this, SIGNAL(destroyed()), &editor, SLOT(OnClickedCancelButton()));
     const bool saved = editor.Exec();
     if (!self || !saved)
@@ -193,7 +193,7 @@ void USSDGeneralDlg::update4EditCommandSave()
     resetWidgetsWidth4DyncBtnArea();
 }
 
-/// Assigns the visible profiles to the existing buttons. Does not create or delete any buttons.
+/// Assigns the visible profiles to the existing buttons. Buttons are neither created nor deleted.
 void USSDGeneralDlg::updateUssdCmdProfileList()
 {
     USSD_LOG_SCOPE();
@@ -213,7 +213,7 @@ void USSDGeneralDlg::updateUssdCmdProfileList()
         m_pListPreBtns->at(next).first->setVisible(false);
 }
 
-/// Returns the button of a slot, or null if the profile of the slot is missing or hidden.
+/// Creates the button of the slot. Returns null if its profile is missing or hidden.
 QPushButton *USSDGeneralDlg::createPreBtn(int slot)
 {
     if (slot >= m_listProfiles.count() || !m_listProfiles.at(slot).showButton)

@@ -30,10 +30,13 @@ namespace
 
 const int NO_ENTRY = -1;
 
-/** The positions of the fixed widgets in m_listWidgets, and of their controls in a group. */
+/**
+ * The position of each fixed widget in m_listWidgets, which is also the position of its control in
+ * a group.
+ */
 enum Position { POSITION_INFO, POSITION_CAPTION, POSITION_INPUT, POSITION_BUTTON, POSITION_RESULT };
 
-/// The text keys of the plug-in's own messages that the result label may show.
+/// The text keys of the plug-in's own messages in the result label.
 const char *const RESULT_KEYS[] = {"USSD_CODE_WAITTING", "USSD_CODE_TIME_OUT", "USSD_CODE_FAILED",
                                    "IDS_SMS_SEND_FAILED"};
 
@@ -47,7 +50,8 @@ QString textOf(const char *key)
     return pluginText(QLatin1String(key));
 }
 
-/// Returns the text key of the message `text`, or an empty key if the network sent the message.
+/// Returns the text key of `text`, or an empty key if `text` is not one of the plug-in's own
+/// messages.
 QString resultKeyOf(const QString &text)
 {
     for (const char *key : RESULT_KEYS) {
@@ -57,7 +61,7 @@ QString resultKeyOf(const QString &text)
     return QString();
 }
 
-/// Returns the path of the layout file. Returns an empty string if the host does not have a folder
+/// Returns the path of the layout file, or an empty string if the host does not provide a folder
 /// for its plug-ins.
 QString layoutPath()
 {
@@ -67,7 +71,7 @@ QString layoutPath()
     return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
-/// Logs that there is no path. This is the only line in which text precedes the time.
+/// Logs that there is no path. Only in this line, a text precedes the time.
 void logNoPath(const char *function, const QString &path)
 {
     USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,
@@ -122,7 +126,7 @@ void CUSSDSMSDlg::forgetLayout()
         disconnect(m_pLogic, nullptr, this, nullptr);
     m_pLogic = nullptr;
     if (m_bBusy)
-        endSending(); // the outcome will not be reported any more
+        endSending(); // the outcome will no longer be reported
     forgetService();
     m_nSelected = NO_ENTRY;
     m_layout.clear();
@@ -156,9 +160,9 @@ void CUSSDSMSDlg::logComplaints() const
         USSD_LOG_IMPORTANT(" SMSUSSD: %d more", m_layout.furtherComplaints);
 }
 
-/// Connects the window to the logic. If the file was not read completely, the window is
-/// intentionally not connected. It then does not receive replies and can send only short messages,
-/// but not commands.
+/// Connects the window to the logic, but intentionally not if the file could not be read
+/// completely. A window without a connection does not receive replies. It can send short messages
+/// but no commands.
 void CUSSDSMSDlg::connectLogic()
 {
     m_pLogic = USSDLogic::GetUSSDLogicInstance();
@@ -216,7 +220,7 @@ void CUSSDSMSDlg::createWidgets()
     m_listWidgets << m_pInfoLabel << m_pCaptionLabel << m_pInputEdit << m_pSendButton
                   << m_pResultLabel;
     for (int i = 0; i < m_listWidgets.count(); ++i)
-        m_listWidgets.at(i)->hide(); // hidden until a service is shown
+        m_listWidgets.at(i)->hide(); // hidden until the user selects a service
     setTabOrder(m_pTree, m_pInputEdit);
     setTabOrder(m_pInputEdit, m_pSendButton);
 }
@@ -234,7 +238,7 @@ void CUSSDSMSDlg::createInput()
 {
     m_pInputEdit = new QLineEdit(this);
     m_pInputEdit->setObjectName(objectNameOf("InputEdit"));
-    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // codes and numbers are left-to-right
+    m_pInputEdit->setLayoutDirection(Qt::LeftToRight); // for codes and numbers
     m_pValidator = new QtCompat::RegExpValidator(m_pInputEdit);
     m_pInputEdit->setValidator(m_pValidator);
 }
@@ -268,14 +272,14 @@ QSize CUSSDSMSDlg::sizeHint() const
     return SmsLayoutFile::windowSize(m_layout.dialog);
 }
 
-/// Returns the width of the window, limited to a range that is safe for calculations.
+/// Returns the width of the window, limited to a range in which calculations cannot overflow.
 int CUSSDSMSDlg::windowWidth() const
 {
     return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
-/// Ignores Return. Otherwise, pressing Return in the tree would press the frame's default button,
-/// which sends a command.
+/// Handles Return without any action. Otherwise, pressing Return in the tree would press the
+/// frame's default button, which sends a command.
 void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
@@ -288,7 +292,7 @@ void CUSSDSMSDlg::OnClickedCloseButton()
     if (m_pLogic)
         m_pLogic->ClearUSSDSMSQueuedCmds();
     if (m_bBusy && m_command.kind == CONTROL_KIND_USSD)
-        endSending();          // the reply was dropped with the queue
+        endSending();          // the reply was removed together with the queue
     emit clickedcloseButton(); // the receiver may delete the window
 }
 
@@ -324,7 +328,7 @@ void CUSSDSMSDlg::addRows()
         if (entry == rootEntry || !entry->isChild)
             continue;
         entry->treeWidgetItem = new QTreeWidgetItem(root);
-        if (root->childCount() == 1) // the first service, whose number may even be NO_ENTRY
+        if (root->childCount() == 1) // the first service; its number may even be NO_ENTRY
             m_nSelected = entry->number;
     }
 }
@@ -338,8 +342,8 @@ void CUSSDSMSDlg::translateTree()
             continue;
         row->setText(0, tr(entries.at(i)->textId));
     }
-    // sizeHintForColumn() is public only in the base class. The column is made as wide as the
-    // longest text, so that the user can scroll to the end of this text.
+    // Make the column as wide as the longest text, so that the user can scroll to the end of this
+    // text. sizeHintForColumn() is public only in the base class.
     const QAbstractItemView *view = m_pTree;
     m_pTree->header()->setMinimumSectionSize(view->sizeHintForColumn(0));
     m_pTree->setAccessibleName(windowTitle());
@@ -353,13 +357,13 @@ void CUSSDSMSDlg::SetTreeGeometry()
     if (m_nSelected == NO_ENTRY)
         return;
     const CTreeItem *entry = m_layout.entries.value(m_nSelected);
-    // Do not select the current row again, because this would clear the input.
+    // Selecting the current row again would clear the input.
     if (entry && entry->treeWidgetItem && m_pTree->currentItem() != entry->treeWidgetItem)
         m_pTree->setCurrentItem(entry->treeWidgetItem);
 }
 
-/// Returns the entry of the current row. Returns null if there is no current row or its entry no
-/// longer exists.
+/// Returns the entry of the current row, or null if there is no current row or its entry no longer
+/// exists.
 const CTreeItem *CUSSDSMSDlg::currentEntry() const
 {
     const QTreeWidgetItem *row = m_pTree->currentItem();
@@ -379,8 +383,8 @@ void CUSSDSMSDlg::OnTreeItemSelectionChanged()
     if (!entry)
         return;
     m_nSelected = entry->number;
-    // If the entry does not have a group that can be shown, the controls of the previous service
-    // remain usable.
+    // If the entry has no group that can be shown, the controls of the previous service remain
+    // usable.
     if (const CWidget *group = m_layout.groups.value(m_nSelected))
         SetWidgetGeometry(group->controls, isMirrored());
 }
@@ -414,8 +418,8 @@ void CUSSDSMSDlg::takeControls(const QList<CWidgetItemInfo *> &controls)
     }
 }
 
-/// Reads the command and its kind from the button's control, and the limits from the input field's
-/// control.
+/// Reads the command and its kind from the control of the button, and the limits from the control
+/// of the input field.
 void CUSSDSMSDlg::takeCommand()
 {
     const CWidgetItemInfo &input = m_listControls.at(POSITION_INPUT);
@@ -519,9 +523,9 @@ bool CUSSDSMSDlg::lacksReadiness() const
     return m_pLogic && !m_pLogic->CanSendSMS() && !m_command.number.isEmpty();
 }
 
-/// Enables or disables the button when the device becomes able or unable to send short messages.
-/// Here, the input must be longer than the minimum, whereas OnTextChanged() also accepts the
-/// minimum itself. This difference is intended.
+/// Enables or disables the button when the device reports whether it can send short messages.
+/// Intentionally, the input must be longer than the minimum here, whereas OnTextChanged() also
+/// accepts an input of exactly the minimum length.
 void CUSSDSMSDlg::OnCanSendSMS(bool can)
 {
     if (m_command.kind == CONTROL_KIND_USSD)
@@ -546,8 +550,8 @@ void CUSSDSMSDlg::OnClickedUSSDSMSButton()
         returnFocus();
 }
 
-/// Replaces the placeholder in the stored command. Therefore, the button sends the first input each
-/// time until a service is selected again.
+/// Replaces the placeholder in the stored command. Because this happens only once, the button sends
+/// the first input again until the user selects a service.
 void CUSSDSMSDlg::fillPlaceholder()
 {
     if (!m_command.inputField)
@@ -578,8 +582,8 @@ void CUSSDSMSDlg::startSending()
         SendUSSDCommand(COMPONENT_USSD_SMS, m_command.command);
 }
 
-/// Sends the short message. This works even without the logic object, but then the outcome is not
-/// reported.
+/// Sends the short message. The message is sent even without a logic object, but its outcome is
+/// then not reported.
 void CUSSDSMSDlg::startSms()
 {
     showResult(textOf("USSD_CODE_WAITTING"));
@@ -654,9 +658,8 @@ void CUSSDSMSDlg::endSending()
     returnFocus();
 }
 
-/// Moves the focus to the window, because the widget that has the focus is about to be disabled.
-/// Otherwise, Qt would move the focus to the next widget. This widget would then receive the keys
-/// that the user is still typing.
+/// Moves the focus to the window before the focused widget is disabled. By default, Qt would move
+/// the focus to the next widget, which would then receive the user's key presses.
 void CUSSDSMSDlg::parkFocus()
 {
     const QWidget *focus = window()->focusWidget();
@@ -666,8 +669,8 @@ void CUSSDSMSDlg::parkFocus()
     m_bFocusParked = true;
 }
 
-/// Moves the focus to the tree and not back to the button. Otherwise, holding a key would send the
-/// command, and thus buy the service, again and again.
+/// Moves the focus to the tree. If the focus returned to the button, holding a key would send the
+/// command, and thus buy the service, repeatedly.
 void CUSSDSMSDlg::returnFocus()
 {
     if (m_bFocusParked && m_pTree && window()->focusWidget() == this)

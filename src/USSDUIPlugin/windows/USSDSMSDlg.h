@@ -16,28 +16,27 @@ class QTreeWidget;
 class QXmlStreamReader;
 class USSDLogic;
 
-/** The current service: the command that it sends and the widgets that it uses. */
+/** The command of the current service and the widgets that it uses. */
 struct CCommandWidget {
     QString command;   // USSD code, or text of the short message; may contain "%s"
     QString number;    // recipient of the short message
-    int minLength = 0; // minimum number of characters in the input
-    int limit = 0;     // maximum number of characters in the input
-    int kind = Formats::CONTROL_KIND_NONE; // an SmsControlKind: how to send the command
-    // Each of the following pointers is null if the service does not have the widget.
+    int minLength = 0; // minimum length of the input
+    int limit = 0;     // maximum length of the input
+    int kind = Formats::CONTROL_KIND_NONE; // how to send the command; an SmsControlKind
+    // Each of these pointers is null if the service does not use the widget.
     QPushButton *sendButton = nullptr;
     QLineEdit *inputField = nullptr;
     QLabel *resultLabel = nullptr;
 };
 
 /**
- * The window for the operator's services. A tree lists the services. The controls of the selected
- * service are shown next to the tree. They include a button that sends a USSD command or a short
- * message, and an input field. All functions must be called from the GUI thread.
+ * The window for the operator's services. The services are listed in a tree. Next to the tree are
+ * the controls of the selected service, which include an input field and a button that sends a USSD
+ * command or a short message. All functions must be called from the GUI thread.
  *
- * The tree and the controls are placed as specified in the configuration file, which the
- * constructor reads. When the user sends a command or a short message, the window becomes busy and
- * remains busy until the outcome arrives. Meanwhile, the tree, the button and the input field are
- * disabled.
+ * The constructor reads the layout of the tree and the controls from the configuration file. The
+ * window is busy from the time when a command or a short message is sent until its outcome arrives.
+ * While it is busy, the tree, the button and the input field are disabled.
  */
 class CUSSDSMSDlg : public QWidget
 {
@@ -48,34 +47,34 @@ public:
 
     /// Builds the window. Must be called only once.
     void InitDialog();
-    /// Reads the layout again, and connects to the logic if the complete layout was read. The
-    /// constructor calls this function.
+    /// Reads the layout from the file, and connects the window to the logic if the file is
+    /// well-formed. The constructor also calls this function.
     void InitConfig();
-    /// Reads the layout. Returns false if the reader has no device or the document is not
-    /// well-formed. The elements before the error are kept.
+    /// Reads the layout. Returns false if the reader has no device or if the document is not
+    /// well-formed. The elements that precede the error are kept.
     bool ReadFile(QXmlStreamReader &reader);
     /// Reads one "Dialog" element. The reader must be at its start element.
     void ReadWidgetInfo(QXmlStreamReader &reader);
-    /// Replaces the rows of the tree. SetLanguage() sets the strings of the rows.
+    /// Rebuilds the rows of the tree. SetLanguage() later sets their texts.
     void InitTree();
-    /// Places the tree and selects the current service in the tree.
+    /// Places the tree and selects the row of the current service.
     void SetTreeGeometry();
-    /// Shows the service that these controls describe, and stores a copy of them. If the number of
-    /// controls differs from the number of fixed widgets, returns false and has no effect.
+    /// Shows the service that the controls describe and stores copies of the controls. Returns
+    /// false and has no effect if the number of controls differs from the number of fixed widgets.
     bool SetWidgetGeometry(QList<Formats::CWidgetItemInfo *> controls, bool mirrored);
     void SendUSSDCommand(_COMPONENT component, QString command);
-    /// Sends a short message. Returns 0 if the device accepted the message. OnSendResult() receives
-    /// the outcome.
+    /// Sends a short message. Returns 0 if the device accepted the message; OnSendResult() is then
+    /// called with the outcome.
     int SendSMS(QString *number, QString *text);
-    /// Updates every visible string and the layout direction to the current language. The user's
-    /// input and the network's replies remain unchanged.
+    /// Retranslates all visible strings and updates the layout direction. The user's input and the
+    /// network's replies are not changed.
     void SetLanguage();
-    /// Returns the size specified in the file, even if a window cannot have this size.
+    /// Returns the size specified in the file, even if it is not a valid window size.
     QSize GetSize();
 
     QSize sizeHint() const override;
     static QString tr(const QString &key);
-    /// Returns the object name of the widget with this role. Style sheets use this name.
+    /// Returns the object name of the widget with this role, for use in style sheets.
     static QString objectNameOf(const char *role);
 
 public slots:
@@ -85,8 +84,8 @@ public slots:
     void OnResponseUSSDSMSReceived(int component, QString text);
     void OnSendResult(bool ok, QString number, QString text);
     void OnCanSendSMS(bool can);
-    /// Handles the closing of the outer window. The object may have been deleted when this function
-    /// returns.
+    /// Must be called when the outer window is closed. This object may have been deleted when the
+    /// function returns.
     void OnClickedCloseButton();
 
 signals:
@@ -140,14 +139,14 @@ private:
     QLabel *m_pResultLabel;
     QtCompat::RegExpValidator *m_pValidator;
     QList<QWidget *> m_listWidgets; // labels, input field and button, in the order of Position
-    // Copies of the controls in m_listWidgets, because the original group may be replaced.
+    // Copies of the controls for m_listWidgets. The original group may be replaced.
     QList<Formats::CWidgetItemInfo> m_listControls;
     bool m_bBusy;
     bool m_bFocusParked;
-    int m_nSelected; // number of the selected entry; -1 if there is none
+    int m_nSelected; // number of the selected entry, or -1
     CCommandWidget m_command;
-    QString m_strResultKey; // text key of the message in the result label; empty if there is none
-    QPointer<USSDLogic> m_pLogic; // not owned; null while the window is not connected to the logic
+    QString m_strResultKey;       // text key of the result label; empty for network replies
+    QPointer<USSDLogic> m_pLogic; // not owned; null if the window is not connected to the logic
 };
 
 #endif

@@ -69,8 +69,8 @@ CUSSDService::CUSSDService() : m_modalPaidType(PAID_TYPE_NONE), m_shownPaidType(
 
 CUSSDService::~CUSSDService()
 {
-    // In this line, the time is after the source and the function, because log parsers expect this
-    // form.
+    // In this line, the time follows the source and the function. The format must not change,
+    // because log parsers depend on it.
     USSD_IF_LOGGING(
         qDebug("%s: %s: %s entered", LOG_SOURCE, "~CUSSDService", PluginLog::timeOfDay()));
 }
@@ -125,8 +125,8 @@ int CUSSDService::Notify(unsigned int event, unsigned int param1, unsigned int p
     return 0;
 }
 
-/// Closes the frames. The host may shut down when one of the frames is closed. Therefore, this
-/// object may not exist any more after a frame was closed.
+/// Closes the frames. The host may shut down the plug-in when a frame is closed, so this object may
+/// be deleted in the meantime.
 void CUSSDService::closeFramesOfTheSim()
 {
     const QPointer<USSDExtendDialog> frames[] = {m_pPrepaidFrame, m_pPostpaidFrame,
@@ -187,7 +187,7 @@ bool CUSSDService::makeFrame(QPointer<USSDExtendDialog> &frame)
     return frame;
 }
 
-/// Creates a frame for the prepaid, the postpaid or the USSD-SMS window.
+/// Creates the frame of the prepaid, the postpaid or the USSD-SMS window.
 int CUSSDService::makeListedFrame(QPointer<USSDExtendDialog> &frame)
 {
     if (!makeFrame(frame))
@@ -233,8 +233,8 @@ int CUSSDService::createOuterDlgForUSSDGeneralDlg()
     return 1;
 }
 
-/// Replaces a connection that was made when the window was shown earlier, so that no signal is
-/// handled twice.
+/// Removes an existing connection before connecting, so that a window that is shown again does not
+/// handle a signal twice.
 void CUSSDService::connectAnew(QObject *sender, const char *signal, const char *slot)
 {
     disconnect(sender, signal, this, slot);
@@ -386,9 +386,9 @@ void CUSSDService::OnClickedCloseButton()
     dropFrame(m_pUSSDSMSFrame);
 }
 
-/// Deletes the frame later, because this function may run in the close event of the frame. The
-/// service keeps a list of such frames, because a host that shuts down immediately may unload the
-/// library before the frames have been deleted.
+/// Deletes the frame later, because this function may have been called from the frame's close
+/// event. The frames are also stored in a list, so that they can be deleted immediately if the host
+/// shuts down and unloads the library.
 void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 {
     m_listDroppedFrames.removeAll(QPointer<USSDExtendDialog>()); // removes null pointers
@@ -402,7 +402,7 @@ void CUSSDService::dropFrame(QPointer<USSDExtendDialog> &frame)
 void CUSSDService::OnDlgCloseEvent()
 {
     USSD_LOG_SCOPE();
-    const QPointer<CUSSDService> self(this); // a host that is notified may shut down
+    const QPointer<CUSSDService> self(this); // a host that is notified may shut down the plug-in
     switch (m_modalPaidType) {
     case PAID_TYPE_PREPAID:
         leaveIfExists(m_pPrepaidDlg);

@@ -13,23 +13,22 @@
 #include "USSDSMSDlg.h"
 
 /**
- * The service that the host receives. It creates each window on first use, shows it embedded in a
- * widget of the host or as a modal window in a separate frame, and destroys all windows. All
+ * The service that the plug-in provides to the host. It creates each window on first use and shows
+ * it, either embedded in a widget of the host or as a modal window with a separate frame. All
  * functions must be called from the GUI thread.
  *
- * The service owns all windows and frames. A pointer becomes null if the host deletes the widget
- * that contains the window or the frame.
+ * The service owns all windows and frames. If the host deletes a window or a frame, the pointer to
+ * it becomes null.
  */
 class CUSSDService : public QObject, public IUSSD
 {
     Q_OBJECT
     Q_INTERFACES(IUSSD)
 public:
-    /// Returns the singleton, which is created by the first call. Returns null if it cannot be
+    /// Returns the singleton and creates it on the first call. Returns null if it cannot be
     /// created.
     static CUSSDService *instance();
-    /// Destroys all windows, the logic and the singleton. Does nothing if the singleton does not
-    /// exist.
+    /// Destroys the windows, the logic and the singleton, if it exists.
     static void Destroy();
     ~CUSSDService() override;
 
@@ -39,11 +38,11 @@ public:
     bool IsImsiDynamicMatch() override;
     bool CheckImsiIsValid(const QString &imsi, int &flags) override;
 
-    /// Shows the general window embedded in `parent`. For other types, only stores the type. Always
-    /// returns 0.
+    /// Shows the general window embedded in `parent`. If `type` is another type, only stores it.
+    /// Always returns 0.
     int showWindow(QWidget *parent, QRect &rect, PAID_TYPE type);
     int DoModal();
-    /// Shows a window in a separate frame, which is modal to the host's main window. Returns
+    /// Shows a window in a separate frame that is modal to the host's main window. Returns
     /// immediately. Returns 1 if the window was shown, otherwise 0.
     int doModal(PAID_TYPE type);
     void Hide();
@@ -56,11 +55,11 @@ public:
     static QString tr(const QString &key);
 
 public slots:
-    /// Deletes the modal windows and their frames after a window has been closed.
+    /// Deletes the modal windows and their frames. Called when a window has been closed.
     void OnClickedCloseButton();
-    /// Handles the closing of a window's frame by closing the window itself.
+    /// Closes the window inside the frame when the frame is closed.
     void OnDlgCloseEvent();
-    /// Closes the frame when the window requests this, or when the frame has been rejected.
+    /// Closes the frame when its window requests it, or after the frame has been rejected.
     void OnCloseButtonClicked();
 
 private:
@@ -85,8 +84,8 @@ private:
     void dropFrame(QPointer<USSDExtendDialog> &frame);
     void connectAnew(QObject *sender, const char *signal, const char *slot);
 
-    PAID_TYPE m_modalPaidType; // the type of the last doModal() call
-    PAID_TYPE m_shownPaidType; // the type of the last showWindow() or DoModal() call
+    PAID_TYPE m_modalPaidType; // the type that was last passed to doModal()
+    PAID_TYPE m_shownPaidType; // the type that was last passed to showWindow() or DoModal()
     QPointer<USSDDlg> m_pPrepaidDlg;
     QPointer<USSDDlg> m_pPostpaidDlg;
     QPointer<USSDGeneralDlg> m_pGeneralModalDlg;
@@ -96,7 +95,7 @@ private:
     QPointer<USSDExtendDialog> m_pGeneralFrame;
     QPointer<USSDExtendDialog> m_pUSSDSMSFrame;
     QPointer<CUSSDSMSDlg> m_pUSSDSMSDlg;
-    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // frames that will be deleted
+    QList<QPointer<USSDExtendDialog>> m_listDroppedFrames; // frames whose deletion is pending
 
     static CUSSDService *m_pInstance;
 };
