@@ -24,7 +24,7 @@ void print(Program &program, bool hadSession)
 
 } // namespace
 
-/// Ends the open session. Returns EXIT_DONE if no session is open afterwards.
+/// Ends the open session, if any. Returns EXIT_DONE if no session is open afterwards.
 int cancel(Program &program)
 {
     Device &device = program.device();

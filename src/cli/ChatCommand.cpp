@@ -13,7 +13,7 @@ namespace Cli
 namespace
 {
 
-/** Sends codes and answers interactively. */
+/** An interactive session in which the user enters codes and answers. */
 class Chat
 {
 public:
@@ -40,8 +40,8 @@ private:
     bool m_isAsked = false; // true if the network is waiting for an answer
 };
 
-/// Reads and sends lines until the end of standard input. Failures are printed, but do not end the
-/// program.
+/// Reads lines from standard input and sends them until the end of the input. If sending a line
+/// fails, prints the error and continues.
 void Chat::run()
 {
     const auto &words = m_program.options().words;

@@ -19,7 +19,8 @@ Units toUtf16(const std::string &text, long &count)
         g_free);
 }
 
-/// Returns true for quotes and control characters, which could end the AT command.
+/// Returns true for quotes and control characters, which could end the quoted string of an AT
+/// command.
 bool breaksCommand(gunichar character)
 {
     return character == '"' || g_unichar_type(character) == G_UNICODE_CONTROL;
@@ -35,7 +36,7 @@ bool isLowSurrogate(unsigned short unit)
     return unit >= 0xdc00 && unit < 0xe000;
 }
 
-/// Returns the character at `text` and moves `text` to the next character.
+/// Returns the character at `text` and advances `text` to the next character.
 gunichar takeCharacter(const unsigned short *&text)
 {
     const unsigned short unit = *text++;

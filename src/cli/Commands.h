@@ -7,9 +7,9 @@ namespace Cli
 class Program;
 
 /*
- * Each function executes one command and returns its exit code. Program::selectDevice() must have
- * succeeded before. If a signal arrives or standard output cannot be written, the caller replaces
- * the exit code.
+ * Each of these functions executes a command and returns its exit code. Program::selectDevice()
+ * must have succeeded. The caller replaces the exit code if a signal has arrived or if writing to
+ * standard output has failed.
  */
 
 int send(Program &program);

@@ -16,18 +16,19 @@ namespace
 /// The time limit for cancelling a request on the device.
 const Milliseconds CANCEL_LIMIT(1000);
 
-/// The additional time that the library waits for a turn after the conversation has given up.
+/// The additional time limit of the library when it waits for a turn. The program therefore always
+/// gives up first.
 const Milliseconds TURN_GRACE(5000);
 
-/// If the reply arrives within this time, the program does not observe changes of the device,
-/// because the library would need an additional thread to report them.
+/// The time for which the program waits for a reply before it starts to observe the device. This
+/// saves a thread of the library if the reply arrives quickly.
 const Milliseconds QUICK_REPLY(100);
 
-/** Passes the response from the thread of the library to the main thread. */
+/** Passes the response from a thread of the library to the main thread. */
 class Mailbox
 {
 public:
-    /// Prepares the mailbox for the response to a request. The response wakes `waits`.
+    /// Prepares the mailbox for the response to a request. The response will wake `waits`.
     void expect(Waits *waits)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -35,7 +36,7 @@ public:
         m_isExpected = true;
         m_response.reset();
     }
-    /// Must be called if no response will arrive.
+    /// Discards later responses. Must be called if the request has been given up.
     void expectNothing()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -86,8 +87,8 @@ private:
     std::optional<Outcome> m_response;
 };
 
-/// Returns the only mailbox. It is never destroyed, because a call-back may run while the program
-/// exits.
+/// Returns the only mailbox. It is never destroyed, because a call-back may still run at program
+/// exit.
 Mailbox &mailbox()
 {
     static auto *const only = new Mailbox;
@@ -99,7 +100,7 @@ bool hasResponse()
     return mailbox().hasResponse();
 }
 
-/// Returns true if no modem has been found because ModemManager does not respond.
+/// Returns true if no modem could be found because ModemManager does not respond.
 bool isStuck(const TKSV_DeviceInfo &device)
 {
     return device.isLooking && device.problem != TKSV_PROBLEM_NONE;
@@ -142,7 +143,7 @@ unsigned char takeLoss(int, void *)
 Conversation::Conversation(Device &device, Waits &waits, Milliseconds timeout)
     : m_device(device), m_waits(waits), m_timeout(timeout)
 {
-    // The limit of the library is longer, so that await() stops waiting first.
+    // The limit of the library is longer than that of await(), which therefore stops waiting first.
     TKSV_Device_SetTurnLimit(static_cast<unsigned>((timeout + TURN_GRACE).count()));
     TKSV_USSDSrv_RegisterUSSDCallback(takeResponse);
     TKSV_DevSrv_RegisterDevInitEventCallback(takeLoss);
@@ -155,7 +156,7 @@ Conversation::~Conversation()
     TKSV_USSDSrv_UnRegisterUSSDCallback(takeResponse);
 }
 
-/// Returns TKSV_FAILURE_NONE if a string may be sent.
+/// Returns the reason why no string may be sent, or TKSV_FAILURE_NONE.
 TKSV_Failure Conversation::reasonNotToSend()
 {
     if (m_waits.isEnding())
@@ -178,7 +179,7 @@ Outcome Conversation::send(const std::string &text)
     mailbox().expect(&m_waits);
     if (TKSV_USSDSrv_Request(&request, &status) == 0) {
         outcome = await(start);
-        if (m_modem.empty()) // the modem may be unknown before its first reply
+        if (m_modem.empty()) // the modem may still be unknown before the first reply
             m_modem = m_device.info().equipmentId;
     } else {
         mailbox().expectNothing();
@@ -189,8 +190,8 @@ Outcome Conversation::send(const std::string &text)
     return outcome;
 }
 
-/// Waits for the response. Restarts the time limit when it is the turn of the request. The wait
-/// ends early if ModemManager does not respond.
+/// Waits for the response. When the request has obtained its turn, the time limit starts again.
+/// Stops waiting if ModemManager does not respond.
 Outcome Conversation::await(Clock::time_point start)
 {
     Clock::time_point end = start + m_timeout;
@@ -216,9 +217,9 @@ Outcome Conversation::await(Clock::time_point start)
     return giveUp(isAwaitingTurn ? TKSV_FAILURE_IN_USE : TKSV_FAILURE_NO_ANSWER);
 }
 
-/// Cancels the request on the device. If the reply arrives at the same time, returns this reply.
-/// Otherwise, returns a failure with the given reason, or with TKSV_FAILURE_CANCELLED if a signal
-/// has arrived.
+/// Cancels the request on the device. Returns the reply if it arrives before the cancellation takes
+/// effect. Otherwise, returns a failure with this reason, or TKSV_FAILURE_CANCELLED if a signal has
+/// arrived.
 Outcome Conversation::giveUp(TKSV_Failure reason)
 {
     TKSV_Device_CancelRequest();

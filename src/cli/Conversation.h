@@ -11,12 +11,12 @@
 namespace Cli
 {
 
-/** The outcome of sending a code or an answer. */
+/** The result of sending a code or an answer. */
 struct Outcome {
-    TKSV_FailureInfo failure = {}; // TKSV_FAILURE_NONE if there is a reply
-    int type = 0;                  // see TKSV_USSDResponse
+    TKSV_FailureInfo failure = {}; // the reason is TKSV_FAILURE_NONE if there is a reply
+    int type = 0;                  // the type of the TKSV_USSDResponse
     std::string text;              // the reply, in UTF-8
-    double seconds = 0;            // the time from the request to its outcome
+    double seconds = 0;            // the time between the request and its outcome
     bool hasMissedTurn = false;    // another program of the user did not release the modem in time
 
     bool hasFailed() const { return failure.reason != TKSV_FAILURE_NONE; }
@@ -24,26 +24,26 @@ struct Outcome {
 };
 
 /**
- * The USSD session of this program. Only one object may exist at a time, because the call-backs of
- * the device library do not have a context argument.
+ * The program's USSD session. Only one object may exist at a time, because the call-backs of the
+ * device library have no context argument.
  */
 class Conversation
 {
 public:
     /// `device` and `waits` must outlive the object. `timeout` is the time limit for each reply.
     Conversation(Device &device, Waits &waits, Milliseconds timeout);
-    /// Ends an open session.
+    /// Ends the session if it is open.
     ~Conversation();
     Conversation(const Conversation &) = delete;
     Conversation &operator=(const Conversation &) = delete;
 
-    /// Sets a function that is called once for each request that has to wait for another program.
+    /// Sets a function that is called once for every request that has to wait for another program.
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
-    /// Sends the string and waits for the reply. Cancels the request on the device if the reply
-    /// does not arrive in time or a signal arrives first. Does not send the string if a signal has
-    /// already arrived, or if another modem has replaced the modem of the first string, because the
-    /// string would then be charged to another subscriber.
+    /// Sends the string and waits for the reply. If the time limit expires or a signal arrives
+    /// first, cancels the request. Does not send the string after a signal. Does not send the
+    /// string either if the modem has been replaced since the first string, because another
+    /// subscriber would be charged.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();
@@ -57,7 +57,7 @@ private:
     Device &m_device;
     Waits &m_waits;
     const Milliseconds m_timeout;
-    std::string m_modem; // the identifier of the modem that the first string was sent to
+    std::string m_modem; // the identifier of the modem to which the first string was sent
     std::function<void()> m_turnAwaited;
 };
 

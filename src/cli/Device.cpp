@@ -39,8 +39,8 @@ Device::~Device()
         TKSV_Device_SetInfoCallback(nullptr, nullptr);
 }
 
-/// Registers the call-back only when it is first needed, because the library starts a thread for
-/// the call-back.
+/// Registers the call-back for changes. This is done only when it is needed, because the library
+/// starts a thread for the call-back.
 void Device::follow()
 {
     if (!std::exchange(m_isFollowed, true))

@@ -20,24 +20,24 @@ public:
     Device(const Device &) = delete;
     Device &operator=(const Device &) = delete;
 
-    /// Selects the device that the options specify. Returns an empty string on success, otherwise
-    /// an error message. Must be called before all other functions.
+    /// Selects the device specified by the options. Must be called before all other functions.
+    /// Returns an empty string on success, otherwise an error message.
     std::string select(const Options &options);
     TKSV_DeviceInfo info() const;
-    /// Returns true if the network is simulated.
+    /// Returns true if the device is simulated.
     bool isSimulated() const { return info().backend == TKSV_BACKEND_SIMULATOR; }
 
-    /// Wakes `waits` after each change of the device from now on.
+    /// Makes all subsequent changes of the device wake `waits`.
     void follow();
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
     /// arrives first.
     bool await(const Waits::Condition &condition, Clock::time_point end);
-    /// Waits until the library has found the modem, or has determined that there is none.
+    /// Waits until the library has found a modem or has determined that there is none.
     void awaitModem(Milliseconds limit);
-    /// Waits until the modem can send codes, unless only the user can change the state of the
-    /// modem. Returns true if codes can be sent.
+    /// Waits until the modem can send codes. Stops waiting if the user must solve a problem first.
+    /// Returns true if codes can be sent.
     bool awaitReady(Milliseconds limit);
-    /// Switches the modem on if it is off, and waits until it can send codes.
+    /// Enables the modem if it is disabled, and waits until it can send codes.
     bool enable(Milliseconds limit);
     /// Ends the session of another program. Returns true if there is no such session afterwards.
     bool endForeignSession(Milliseconds limit);

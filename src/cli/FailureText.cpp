@@ -18,7 +18,7 @@ struct Row {
     const char *text;
 };
 
-// The last row also applies to unknown reasons.
+// The last row is the fallback for unknown reasons.
 const Row ROWS[] = {
     {TKSV_FAILURE_NONE, EXIT_DONE, "none", ""},
     {TKSV_FAILURE_ENDED_BY_NETWORK, EXIT_REFUSED, "ended-by-network",

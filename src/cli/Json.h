@@ -8,8 +8,7 @@ namespace Cli
 {
 
 /**
- * A JSON object that is printed on a single line. The members stay in the order in which they were
- * added.
+ * A JSON object in a single line. The members are written in the order in which they were added.
  */
 class Json
 {
@@ -24,11 +23,11 @@ public:
     void add(const char *name, const char *value);
     void add(const char *name, int value);
     void add(const char *name, bool value);
-    /// Adds the last member, a number that is rounded to milliseconds. json-glib is not used for
-    /// this number, because it would write all digits, such as 0.69999999999999996 for 0.7.
+    /// Adds a number, rounded to milliseconds, as the last member. json-glib would write the number
+    /// with all its digits, for example 0.69999999999999996 instead of 0.7.
     void addSeconds(const char *name, double value);
 
-    /// Returns the object without a line feed. Control characters are escaped.
+    /// Returns the object without a line feed at the end. Control characters are escaped.
     std::string text() const;
 
 private:

@@ -9,7 +9,7 @@ namespace Cli
 
 namespace
 {
-const std::size_t LONGEST_LINE = 65536; // bytes; a longer line cannot be a code
+const std::size_t LONGEST_LINE = 65536; // bytes; longer lines cannot be valid codes
 }
 
 LineReader::Result LineReader::next(std::string &line, const Waits::Condition &isInterrupted)
@@ -24,7 +24,7 @@ LineReader::Result LineReader::next(std::string &line, const Waits::Condition &i
     return Result::Line;
 }
 
-/// Takes the first line from the buffer. The last line of a file may lack a line feed.
+/// Removes the first line from the buffer. The last line of a file may not end with a line feed.
 bool LineReader::takeLine(std::string &line)
 {
     const std::size_t end = m_buffer.find('\n');

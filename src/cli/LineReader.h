@@ -8,7 +8,7 @@
 namespace Cli
 {
 
-/** Reads the lines of standard input as they arrive. */
+/** Reads standard input line by line, without waiting for the end of the input. */
 class LineReader
 {
 public:
@@ -17,8 +17,8 @@ public:
     /// `waits` must outlive the object.
     explicit LineReader(Waits &waits) : m_waits(waits) {}
 
-    /// Waits for the next line and copies it to `line` without the line terminator. Returns
-    /// Interrupted if `isInterrupted` returns true or a signal arrives.
+    /// Waits for the next line and stores it in `line` without its line terminator. Returns
+    /// Interrupted if `isInterrupted` returns true or a signal arrives first.
     Result next(std::string &line, const Waits::Condition &isInterrupted);
 
 private:

@@ -48,7 +48,7 @@ int printModems(Program &program)
     if (!found.empty() || program.waits().signal())
         return EXIT_DONE;
     TKSV_DeviceInfo none = program.awaitedInfo();
-    none.state = TKSV_DEVICE_ABSENT; // a simulated device does not count as a modem
+    none.state = TKSV_DEVICE_ABSENT; // a simulated device is not listed as a modem
     program.output().error(deviceText(none));
     return EXIT_NOT_READY;
 }

@@ -12,18 +12,21 @@
 namespace Cli
 {
 
-/** A message that the network has sent without a request. */
+/** A network-initiated message. */
 struct NetworkText {
     time_t receivedAt = 0;
     bool waitsForAnswer = false;
     std::string text;
 };
 
-/** Receives messages on the thread of the library and passes them to the main thread. */
+/**
+ * Receives network-initiated messages on a thread of the library and passes them to the main
+ * thread.
+ */
 class NetworkTexts
 {
 public:
-    /// Each message wakes `waits`, which must outlive the object.
+    /// Every message wakes `waits`, which must outlive the object.
     explicit NetworkTexts(Waits &waits);
     ~NetworkTexts();
     NetworkTexts(const NetworkTexts &) = delete;

@@ -12,7 +12,7 @@ namespace Cli
 namespace
 {
 
-const double SHORTEST_TIMEOUT = 0.1; // s
+const double SHORTEST_TIMEOUT = 0.1; // in seconds
 const double LONGEST_TIMEOUT = 3600;
 
 const char PARAMETERS[] = "COMMAND [ARGUMENT…]";
@@ -33,7 +33,7 @@ const char DESCRIPTION[] =
     "written,\n"
     "128 plus the number of the signal if a signal ended the program. See 'man ussd'.";
 
-/** The option values that GLib's parser has set. */
+/** The values that GLib's option parser stores. */
 struct Values {
     char *modem = nullptr;
     char *scenario = nullptr;
@@ -49,7 +49,7 @@ struct Values {
 };
 
 /**
- * A command: its name, its minimum and maximum number of arguments, and the options that it
+ * A command with its name, the minimum and maximum number of its arguments, and the options that it
  * supports.
  */
 struct CommandRow {
@@ -74,8 +74,8 @@ const CommandRow COMMANDS[] = {
 
 std::vector<GOptionEntry> entriesFor(Values &values)
 {
-    // Strings are declared as file names, which GLib does not convert. GLib would convert the type
-    // "string" from the character set of the locale, but codes are UTF-8 in every locale.
+    // The options are declared as file names, because GLib converts the type "string" from the
+    // character set of the locale. Codes, however, are encoded in UTF-8 in every locale.
     return {
         {"modem", 'm', 0, G_OPTION_ARG_FILENAME, &values.modem,
          "Use the modem with this identifier (its IMEI, see 'ussd modems')", "ID"},
@@ -202,7 +202,8 @@ std::string readCommand(Options &options)
     return "there is no command " + quoted(name);
 }
 
-/// Moves the values to `options`. Returns an error message, or an empty string on success.
+/// Converts the parsed values to `options`. Returns an empty string on success, otherwise an error
+/// message.
 std::string readValues(Values &values, Options &options)
 {
     const bool hasTimeout = values.timeout != nullptr;
@@ -237,7 +238,7 @@ Options parseOptions(int argc, char **argv)
     const std::vector<GOptionEntry> entries = entriesFor(values);
     const std::unique_ptr<GOptionContext, decltype(&g_option_context_free)> context(
         g_option_context_new(PARAMETERS), g_option_context_free);
-    // GLib's own --help would print to standard output and end the program.
+    // The program prints the help itself. GLib would print it and exit immediately.
     g_option_context_set_help_enabled(context.get(), FALSE);
     g_option_context_set_summary(context.get(), SUMMARY);
     g_option_context_set_description(context.get(), DESCRIPTION);

@@ -24,8 +24,8 @@ struct Options {
     bool enablesModem = false;
     bool endsForeignSession = false;
 
-    std::string help;  // the output of --help
-    std::string error; // error message; empty if the command line is valid
+    std::string help;  // the text to print for --help
+    std::string error; // the error message; empty if the command line is valid
 };
 
 Options parseOptions(int argc, char **argv);

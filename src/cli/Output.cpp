@@ -15,7 +15,8 @@ namespace Cli
 namespace
 {
 
-/// Writes a message to standard error. Ignores failures, because there is no way to report them.
+/// Writes a message to standard error. Errors are ignored, because they cannot be reported
+/// anywhere.
 void tell(const std::string &text)
 {
     [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
@@ -51,14 +52,14 @@ void Output::prompt(const std::string &text)
     tell(safeText(text));
 }
 
-/// Writes the string in small pieces, so that writing to a pipe does not block. A signal could not
-/// interrupt a blocking write, because signals are blocked and handled by Waits.
+/// Writes the string in small pieces, so that the program never blocks on a full pipe. A blocking
+/// write could not be interrupted by a signal, because signals are blocked and handled by Waits.
 void Output::write(const std::string &text)
 {
     std::size_t done = 0;
     while (!m_error && done < text.size()) {
         if (!m_waits.untilReady(STDOUT_FILENO, POLLOUT, [] { return false; }))
-            return; // a signal has arrived, but no process has read the output
+            return; // a signal has arrived while nothing was reading the output
         const std::size_t size = std::min<std::size_t>(text.size() - done, PIPE_BUF);
         const ssize_t written = ::write(STDOUT_FILENO, text.data() + done, size);
         if (written >= 0)

@@ -10,13 +10,13 @@ namespace Cli
 {
 
 /**
- * Prints results to standard output, and prints notices and errors to standard error. Replaces or
- * escapes all characters that are unsafe for a terminal.
+ * Prints results to standard output, and notices and errors to standard error. Characters that are
+ * not safe for a terminal are replaced or escaped.
  */
 class Output
 {
 public:
-    /// If `isQuiet` is true, notices are not printed.
+    /// If `isQuiet` is true, notices are suppressed.
     Output(Waits &waits, bool isQuiet);
 
     void line(const std::string &text); ///< prints a line of the result
@@ -25,9 +25,9 @@ public:
     void error(const std::string &text);
     void prompt(const std::string &text); ///< prints the text without a line feed
 
-    /// Closes standard output. Returns false if any of the results could not be written.
+    /// Closes standard output. Returns false if any part of the results could not be written.
     bool finish();
-    /// Returns true if an error has occurred while writing to standard output.
+    /// Returns true if writing to standard output has failed.
     bool hasFailed() const { return m_error != 0; }
 
 private:
@@ -35,7 +35,7 @@ private:
 
     Waits &m_waits;
     const bool m_isQuiet;
-    int m_error = 0; // the errno of the first error on standard output
+    int m_error = 0; // errno of the first failure on standard output
 };
 
 } // namespace Cli

@@ -24,15 +24,15 @@ const char NOT_ENABLED[] = " It could not be switched on.";
 
 const Milliseconds READY_LIMIT = std::chrono::seconds(10);
 
-/// Returns an error message for the failure, including the closing message of the network.
+/// Returns the error message for the failure, followed by the network's final message.
 std::string messageOf(const TKSV_FailureInfo &failure)
 {
     const std::string message = failureText(failure);
     return *failure.text ? message + " It said: " + failure.text : message;
 }
 
-/// Returns true if the state of the device caused the failure. In this case, deviceText() is more
-/// precise than failureText().
+/// Returns true if the failure is due to the state of the device. In this case, deviceText()
+/// provides a more precise message than failureText().
 bool isDeviceNotReady(TKSV_Failure reason)
 {
     return reason == TKSV_FAILURE_NO_DEVICE || reason == TKSV_FAILURE_DISABLED ||
@@ -115,8 +115,9 @@ int Program::fail(TKSV_Failure reason, const std::string &message)
     return exitCodeOf(reason);
 }
 
-/// Sends the string without checking the device first, because the library holds a request until it
-/// has found the modem. If the command was not sent, solves the problem if possible and sends the
+/// Sends the string immediately: the device is not checked first, because the library holds a
+/// request until it has found the modem. If the command could not be sent, tries to solve the
+/// problem and sends it again.
 /// command again.
 int Program::send(Conversation &conversation, const std::string &text, Kind kind)
 {
@@ -135,8 +136,8 @@ int Program::send(Conversation &conversation, const std::string &text, Kind kind
     return exitCodeOf(outcome.failure.reason);
 }
 
-/// Returns a hint if the session of another program caused the failure. There is no hint if the
-/// other program belongs to the same user, because it will release the modem without intervention.
+/// Returns a hint if the failure is due to another program's session. There is no hint for a
+/// program of the same user, because it will release the modem without intervention.
 std::string Program::hintFor(const Outcome &outcome) const
 {
     if (outcome.failure.reason != TKSV_FAILURE_IN_USE || outcome.hasMissedTurn)
@@ -144,8 +145,7 @@ std::string Program::hintFor(const Outcome &outcome) const
     return m_options.endsForeignSession ? NOT_ENDED : END_FOREIGN_HINT;
 }
 
-/// Tries to solve the problem that made a request fail. Returns true if the request may now
-/// succeed.
+/// Tries to solve the problem that caused the failure. Returns true if another attempt may succeed.
 bool Program::removeObstacle(TKSV_Failure reason)
 {
     if (isDeviceNotReady(reason))
@@ -154,8 +154,8 @@ bool Program::removeObstacle(TKSV_Failure reason)
            m_device.endForeignSession(m_options.timeout);
 }
 
-/// Prints the reply. Empty lines separate several replies. With --json, prints one object on each
-/// line.
+/// Prints the reply. In the text format, empty lines separate the replies. With --json, each line
+/// contains one object.
 void Program::printReply(const std::string &code, const Outcome &outcome)
 {
     if (!m_options.isJson) {

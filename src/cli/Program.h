@@ -13,8 +13,7 @@ namespace Cli
 {
 
 /**
- * Contains the objects that all commands use: the command line, the waits, the output and the
- * device.
+ * The state that all commands share: the command line, the waits, the output and the device.
  */
 class Program
 {
@@ -27,29 +26,28 @@ public:
     Output &output() { return m_output; }
     Device &device() { return m_device; }
 
-    /// Selects the device, and prints a notice if the network is simulated. If the device cannot be
-    /// used, prints the error and returns false.
+    /// Selects the device, and prints a notice if it is simulated. If the device cannot be used,
+    /// prints an error message and returns false.
     bool selectDevice();
-    /// Waits until the modem can send codes. With --enable, switches on a modem that is switched
-    /// off. Returns true if the modem can send codes.
+    /// Waits until the modem can send codes. With --enable, enables a disabled modem. Returns true
+    /// if the modem can send codes.
     bool prepareDevice();
-    /// Waits until the library has found the modem, or has determined that there is none.
+    /// Waits until the library has found a modem or has determined that there is none.
     void awaitModem();
-    /// Returns the state of the device after a wait. If this state shows that the library is still
-    /// searching for the modem, ModemManager does not respond.
+    /// Returns the state of the device after a wait. If the library is still searching for a modem,
+    /// the returned problem is that ModemManager does not respond.
     TKSV_DeviceInfo awaitedInfo() const;
-    /// Prints the reason why the device cannot be used, and returns the exit code. `code` is the
-    /// code that could not be sent; it may be empty. Does not print anything if a signal has
-    /// arrived.
+    /// Prints why the device cannot be used, and returns the exit code. `code` is the code that
+    /// could not be sent, or an empty string. Prints nothing if a signal has arrived.
     int failOnDevice(const std::string &code, bool wasNotSent = true);
     /// Prints the message and returns the exit code for the reason.
     int fail(TKSV_Failure reason, const std::string &message);
 
     enum class Kind { Code, Answer };
 
-    /// Sends the string, and prints the reply or the failure. Returns the exit code. Before it
-    /// sends a code, waits if the modem is not ready yet, and with --end-foreign-session, ends the
-    /// session of another program. Never repeats an answer, because without its menu, the answer
+    /// Sends the string, prints the reply or the failure, and returns the exit code. Before it
+    /// sends a code, the function waits for the modem and, with --end-foreign-session, ends the
+    /// session of another program. Answers are never repeated, because an answer without its menu
     /// would be sent as a code.
     int send(Conversation &conversation, const std::string &text, Kind kind);
 

@@ -12,7 +12,7 @@ namespace
 const gunichar REPLACEMENT = 0xfffd;
 const gunichar LINE_SEPARATOR = 0x2028;
 const gunichar PARAGRAPH_SEPARATOR = 0x2029;
-const int LONGEST_CHARACTER = 6; // bytes, for g_unichar_to_utf8()
+const int LONGEST_CHARACTER = 6; // in bytes, for g_unichar_to_utf8()
 
 bool isIn(gunichar character, gunichar first, gunichar last)
 {
@@ -29,7 +29,7 @@ bool isUnsafe(gunichar character)
     return g_unichar_type(character) == G_UNICODE_CONTROL || overridesDirection(character);
 }
 
-/// Returns the character to print instead of `character`.
+/// Returns the character that is printed in place of `character`.
 gunichar shown(gunichar character)
 {
     if (character == '\n' || character == '\t')

@@ -14,7 +14,7 @@ const char NOT_ANSWERED[] = "The menu was not answered, and the session was ende
 
 using Words = std::vector<std::string>;
 
-/// Prints the message, followed by the answers that are not sent, which start at the index `first`.
+/// Prints the message and the unsent answers, which start at index `first`.
 void reportUnsent(Program &program, std::string message, const Words &words, std::size_t first)
 {
     for (std::size_t i = first; i < words.size(); ++i)
@@ -23,7 +23,7 @@ void reportUnsent(Program &program, std::string message, const Words &words, std
         program.output().error(message);
 }
 
-/// Ends the session if the last reply was a menu. Returns the exit code.
+/// Ends the session if a menu is open, and returns the exit code.
 int closeMenu(Program &program, Conversation &conversation)
 {
     if (!conversation.isMenuOpen())
@@ -33,7 +33,7 @@ int closeMenu(Program &program, Conversation &conversation)
     return EXIT_MENU_OPEN;
 }
 
-/// Sends a code and the answers to the menus. Stops at the first failure.
+/// Sends a code, and then the answers to its menus. Stops after the first failure.
 int sendWords(Program &program, Conversation &conversation, const Words &words)
 {
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -51,7 +51,7 @@ int sendWords(Program &program, Conversation &conversation, const Words &words)
     return closeMenu(program, conversation);
 }
 
-/// Sends the code of line `number`. Returns EXIT_WRONG_USAGE if the line is not a code.
+/// Sends the code in line `number`. Returns EXIT_WRONG_USAGE if it is not a valid code.
 int sendLine(Program &program, Conversation &conversation, const std::string &code, int number)
 {
     const std::string line = "Line " + std::to_string(number);
@@ -65,8 +65,8 @@ int sendLine(Program &program, Conversation &conversation, const std::string &co
     return result;
 }
 
-/// Sends each line of standard input that is not empty. Stops after the first line whose exit code
-/// is not EXIT_DONE.
+/// Sends the non-empty lines of standard input. Stops after a line whose exit code is not
+/// EXIT_DONE.
 int sendLines(Program &program, Conversation &conversation)
 {
     LineReader reader(program.waits());

@@ -7,24 +7,24 @@ namespace Cli
 {
 
 /**
- * Receives the signals that end the program: SIGINT, SIGTERM and SIGHUP. The signals are blocked
- * and are read from a file descriptor, so that no code runs in a signal handler. A signal that was
- * ignored when the program started is still ignored, as nohup requires.
+ * Receives SIGINT, SIGTERM and SIGHUP, which end the program. The signals are blocked and read from
+ * a file descriptor, so that no code has to run in a signal handler. Signals that were ignored when
+ * the program was started remain ignored, as nohup requires.
  */
 class Signals
 {
 public:
-    /// Blocks the signals. Must be called before the program starts any thread, because a new
-    /// thread inherits the blocked signals.
+    /// Blocks the signals. Must be called before any thread is started, because threads inherit the
+    /// signal mask.
     Signals();
     ~Signals();
     Signals(const Signals &) = delete;
     Signals &operator=(const Signals &) = delete;
 
-    /// Returns the descriptor that becomes readable when a signal has arrived.
+    /// Returns a file descriptor that becomes readable when a signal arrives.
     int descriptor() const { return m_descriptor; }
     /// Returns the signal that has arrived, or 0 if there is none. Unblocks the signals, so that
-    /// the next signal ends the program at once.
+    /// another signal ends the program immediately.
     int take();
 
 private:

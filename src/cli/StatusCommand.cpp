@@ -10,7 +10,7 @@ namespace Cli
 namespace
 {
 
-/// The time limit for details of the modem, which the library reports shortly after the state.
+/// The time limit for details that the library reports shortly after the state of the modem.
 const Milliseconds DETAIL_LIMIT = std::chrono::seconds(1);
 
 bool hasDetails(const TKSV_DeviceInfo &device)

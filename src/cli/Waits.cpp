@@ -15,8 +15,8 @@ namespace
 const pollfd NO_FILE = {-1, 0, 0};
 const Milliseconds LONGEST_SLEEP = std::chrono::hours(1);
 
-/// Returns the time-out for poll(), which is -1 for NEVER. The time is rounded up, so that poll()
-/// does not return early.
+/// Returns the time-out for poll(), or -1 for NEVER. The time-out is rounded up, because poll()
+/// would otherwise return too early.
 int pollTimeout(Clock::time_point end)
 {
     if (end == NEVER)
@@ -37,7 +37,7 @@ Waits::~Waits()
 void Waits::wake()
 {
     const std::uint64_t one = 1;
-    // The write fails only if wake-ups are pending already.
+    // This write can fail only if a wake-up is already pending.
     [[maybe_unused]] const ssize_t written = write(m_wakeUps, &one, sizeof one);
 }
 
@@ -83,8 +83,8 @@ bool Waits::isEnding()
     return m_signal != 0;
 }
 
-/// Sleeps until a wake-up, a signal or an event on the file arrives, or until `end`. poll() also
-/// reports errors on the file, which the next read or write operation then returns.
+/// Sleeps until there is a wake-up, a signal or an event on the file, or until `end`. Errors on the
+/// file are also events. The next read or write operation then fails.
 void Waits::sleep(Clock::time_point end, pollfd &extra)
 {
     pollfd files[] = {{m_wakeUps, POLLIN, 0}, {m_signals.descriptor(), POLLIN, 0}, extra};

@@ -17,14 +17,14 @@ using Milliseconds = std::chrono::milliseconds;
 const Clock::time_point NEVER = Clock::time_point::max();
 
 /**
- * Contains all functions in which the program waits. Except for wake(), all functions must be
- * called from the main thread. A wait ends when its condition becomes true, when its time limit
- * expires, or when a signal arrives that ends the program.
+ * Implements all waits of the program. A wait ends when its condition becomes true, when its time
+ * limit expires, or when a signal arrives that ends the program. All functions except wake() must
+ * be called from the main thread.
  */
 class Waits
 {
 public:
-    /// A function that returns true if the wait must end. It is called after each call of wake().
+    /// Returns true if the wait must end. The function is called after each call to wake().
     using Condition = std::function<bool()>;
 
     Waits();
@@ -32,7 +32,7 @@ public:
     Waits(const Waits &) = delete;
     Waits &operator=(const Waits &) = delete;
 
-    /// Makes the current wait check its condition. May be called from any thread.
+    /// Makes the current wait evaluate its condition. May be called from any thread.
     void wake();
 
     /// Waits until the condition is true. Returns false if the time limit expires or a signal
@@ -40,14 +40,14 @@ public:
     bool until(const Condition &condition, Clock::time_point end);
     /// Waits until the condition is true or the time limit expires, even if a signal has arrived.
     bool untilDespiteSignal(const Condition &condition, Milliseconds limit);
-    /// Waits until one of the poll() events in `events` occurs on the file, or until the condition
-    /// is true. Returns true if an event has occurred. Does not wait if a signal has already
+    /// Waits until the file is ready for one of the poll() events in `events`, or until the
+    /// condition is true. Returns true if the file is ready. Returns immediately if a signal has
     /// arrived.
     bool untilReady(int file, short events, const Condition &condition);
 
-    /// Returns the signal that has arrived, or 0.
+    /// Returns the signal that has arrived, or 0 if there is none.
     int signal() const { return m_signal; }
-    /// Returns true if a signal has arrived, even if no wait has detected the signal yet.
+    /// Returns true if a signal has arrived, even if no wait has noticed it yet.
     bool isEnding();
 
 private:
@@ -55,7 +55,7 @@ private:
     void drain();
 
     Signals m_signals;
-    const int m_wakeUps; // an eventfd
+    const int m_wakeUps; // an eventfd file descriptor
     int m_signal = 0;
 };
 

@@ -12,7 +12,7 @@ namespace
 
 const char WATCHING[] = "Watching for messages of the network; Ctrl-C ends the program.";
 
-/** Prints network-initiated messages, and notices about changes of the modem. */
+/** Prints network-initiated messages, and notices about changes to the modem. */
 class Watch
 {
 public:
@@ -27,7 +27,7 @@ private:
 
     Program &m_program;
     NetworkTexts m_texts;
-    std::string m_state; // the notice that was printed last
+    std::string m_state; // the most recently printed notice
 };
 
 std::string localTime(time_t time, const char *format)

@@ -14,9 +14,9 @@ using namespace Cli;
 namespace
 {
 
-/// Opens /dev/null in place of each standard stream that is closed, so that no other file receives
-/// its descriptor. Otherwise, a reply could be written to the message bus, for example. /dev/null
-/// is opened for reading only, so that writing still fails.
+/// Opens /dev/null for each standard stream that is closed. Otherwise, another file could receive
+/// the descriptor, and a reply could, for example, be written to the message bus. /dev/null is
+/// opened read-only, so that attempts to write still fail.
 void reserveStandardStreams()
 {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
@@ -50,9 +50,9 @@ int runCommand(Program &program)
     return EXIT_DONE;
 }
 
-/// Ends the program without running the exit handler of the library. The handler waits for the
-/// threads of the library, which would increase the running time of `ussd send` by a tenth. May be
-/// called only if no session is open and the output has been written.
+/// Exits without the exit handler of the library, which waits for the library's threads and would
+/// increase the running time of `ussd send` by a tenth. May be called only after the session has
+/// ended and the output has been written.
 void exitQuickly()
 {
 #ifdef USSD_EXITS_QUICKLY
