@@ -8,21 +8,21 @@
 namespace Tools
 {
 
-/** A place in a file that may not have the effect that its author expects. */
+/** A place in a file that is wrong or may not have the intended effect. */
 struct CheckFinding {
-    qint64 line = 0;   // starts at 1; 0 refers to the file as a whole
-    qint64 column = 0; // starts at 1; 0 refers to the line as a whole
-    QString rule;      // identifies the kind of finding for scripts, such as "order"
-    QString text;      // describes the finding for the user, in English
+    qint64 line = 0;   // starts at 1; 0 refers to the entire file
+    qint64 column = 0; // starts at 1; 0 refers to the entire line
+    QString rule;      // the kind of finding, such as "order"; intended for scripts
+    QString text;      // the description of the finding, in English
 };
 
-/** The values that the plug-in reads from one part of a file. */
+/** The values that the plug-in reads from a part of a file. */
 struct CheckTable {
     QString title;
     QList<QStringList> rows; // the first cell is the name
 };
 
-/** The report on one file. */
+/** The findings and the tables for a file. */
 struct CheckReport {
     QString file;
     QString kind; // "configuration", "layout", "profiles", "texts", "scenario" or "patterns"; empty
@@ -37,15 +37,15 @@ void addFinding(CheckReport &report, qint64 line, qint64 column, const char *rul
                 const QString &text);
 void sortFindings(CheckReport &report);
 
-/// Returns the string in quotation marks, shortened to fit into a line of the report.
+/// Returns the string in quotation marks. Long strings are shortened.
 QString quotedPart(const QString &text);
 
-/// Returns the report as text: each finding as "file:line:column: text [rule]", followed by the
-/// tables.
+/// Returns the report as text. Each finding is a line "file:line:column: text [rule]". The tables
+/// follow the findings.
 QString reportText(const CheckReport &report);
-/// Returns the reports as one JSON document (RFC 8259) in ASCII.
+/// Returns the reports as a JSON document (RFC 8259) that contains only ASCII characters.
 QString reportsJson(const QList<CheckReport> &reports);
-/// Returns the string as a JSON string with quotation marks. All characters except printable ASCII
+/// Returns the string as a JSON string in quotation marks. All characters except printable ASCII
 /// characters are escaped.
 QString jsonString(const QString &text);
 

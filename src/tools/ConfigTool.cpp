@@ -37,7 +37,7 @@ int usage(const QString &text)
     return TOOL_USAGE;
 }
 
-/** A command of the program. */
+/** A command of ussd-config. */
 struct Command {
     const char *name;
     int (*run)(const ToolArguments &arguments);

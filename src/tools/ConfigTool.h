@@ -6,8 +6,7 @@
 namespace Tools
 {
 
-/// Runs the program ussd-config, which checks files and creates folders for operators. Returns a
-/// ToolExit.
+/// Runs ussd-config, which checks files and creates folders for operators. Returns a ToolExit.
 int runConfigTool(const QStringList &words);
 
 } // namespace Tools

@@ -21,10 +21,10 @@ namespace Tools
 namespace
 {
 
-const int ITEMS = 4; // the scan always reads four items for a paid section, even beyond its end
+const int ITEMS = 4; // the plug-in always reads four items, even beyond the end of the section
 const int LONGEST_IMSI = 15; // digits (3GPP TS 23.003)
-const int TWENTIETHS = 20;   // the unit of font sizes is a twentieth of a point
-const int MOST_POINTS = 200; // a larger letter is higher than the transcript
+const int TWENTIETHS = 20;   // font sizes are specified in twentieths of a point
+const int MOST_POINTS = 200; // larger letters do not fit into the transcript
 
 const char *const SECTIONS[] = {XmlName::PRE_POST_DIFFER, XmlName::PREPAID,       XmlName::POSTPAID,
                                 XmlName::SENT_CHAR,       XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
@@ -41,7 +41,7 @@ QString titleOf(const char *section)
     return QString::fromLatin1("<%1>").arg(QLatin1String(section));
 }
 
-/** A component of the account window, as read by the scan. */
+/** A component of the account window, as read from the file. */
 struct Item {
     int place = -1;
     QString name;
@@ -50,9 +50,9 @@ struct Item {
 };
 
 /**
- * Follows the scan and reports results that the author of the file may not expect. If the scan does
- * not find an element, the check reports this once and continues as if the element had been found,
- * so that each cause has one finding and no mistake hides another one.
+ * Follows the plug-in's forward scan and reports results that are probably not intended. A missing
+ * element is reported once, and the check then continues as if the element had been found. In this
+ * way, each mistake causes only one finding and does not hide other mistakes.
  */
 class Check
 {
@@ -133,8 +133,8 @@ int Check::section(const char *name)
     return passed;
 }
 
-/// Returns the next element with this name. Adds a finding and returns -1 if it is outside the
-/// section.
+/// Returns the next element with this name. If it is outside the section, adds a finding and
+/// returns -1.
 int Check::child(int section, const char *name)
 {
     if (section < 0)
@@ -225,7 +225,7 @@ void Check::paid(const char *name)
     twins(items);
 }
 
-/// Moves to the next item. Adds a finding and returns false if it is outside the section.
+/// Moves to the next item. If it is outside the section, adds a finding and returns false.
 bool Check::nextItem(int section, int number)
 {
     const int before = m_trace.position();
@@ -237,7 +237,7 @@ bool Check::nextItem(int section, int number)
     m_trace.moveTo(before);
     if (place >= 0)
         itemOutside(section, place, number);
-    else if (m_elements.error.isEmpty()) // otherwise, the item may be behind the error
+    else if (m_elements.error.isEmpty()) // otherwise, the item may follow the error
         m_check.find(
             section, "items",
             QString::fromLatin1("<%1> has no item %2").arg(m_check.at(section).name).arg(number));
@@ -273,7 +273,7 @@ void Check::itemOutside(int section, int place, int number)
                      .arg(number));
 }
 
-/// Checks a code that is sent as it is.
+/// Checks a code that is sent unchanged.
 void Check::plainCommand(int place, const QString &command)
 {
     m_check.command(place, command, 0);
@@ -442,8 +442,8 @@ void Check::editor()
     }
 }
 
-/// Checks the section of the Clear button. The plug-in searches for this section separately from
-/// the start of the file, so the section may be anywhere in the file.
+/// Checks the section for the Clear button. It may be anywhere in the file, because the plug-in
+/// searches for it from the start of the file.
 void Check::clearButton()
 {
     const int place = ForwardTrace(m_elements).seek(XmlName::CLEAR_HISTORY);

@@ -7,11 +7,11 @@
 namespace Tools
 {
 
-/// Checks how the plug-in's forward scan reads all sections except SMSUSSD. Adds findings to the
-/// report.
+/// Checks the configuration except for the section SMSUSSD. The check follows the plug-in's forward
+/// scan and adds findings to the report.
 void checkConfiguration(const XmlElements &elements, CheckReport &report);
 
-/// Returns tables of the values that the plug-in's own parser reads from the configuration.
+/// Returns the values that the plug-in's own parser reads from the configuration, as tables.
 QList<CheckTable> configurationTables(const QByteArray &xml);
 
 } // namespace Tools

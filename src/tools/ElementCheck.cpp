@@ -14,9 +14,9 @@ namespace Tools
 namespace
 {
 
-const int LONGEST_ANSWER = 2; // digits of a short code, such as an answer to a menu
+const int LONGEST_ANSWER = 2; // digits; also the length of a short code
 
-/// Returns true if a network accepts the text, which may also be a short code (3GPP TS 22.030).
+/// Returns true if a network accepts the string as a code or as a short code (3GPP TS 22.030).
 bool isAccepted(const QString &code)
 {
     const bool isShort = code.length() <= LONGEST_ANSWER && isDialable(code);
@@ -109,7 +109,7 @@ void ElementCheck::key(int place, const QString &key)
 
 void ElementCheck::names(const KnownNames &known)
 {
-    for (int i = 1; i < m_elements.list.count(); ++i) { // the root element may have any name
+    for (int i = 1; i < m_elements.list.count(); ++i) { // the root may have any name
         const XmlElement &element = at(i);
         const QString meant = meantElement(element, known);
         if (!known.elements.contains(element.name))

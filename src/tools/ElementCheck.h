@@ -8,7 +8,7 @@
 namespace Tools
 {
 
-/** Checks single values, and adds findings for the elements that contain them. */
+/** Checks individual values, and adds findings for the elements that contain them. */
 class ElementCheck
 {
 public:
@@ -20,29 +20,29 @@ public:
     const XmlElements &elements() const { return m_elements; }
     const XmlElement &at(int place) const { return m_elements.list.at(place); }
 
-    /// Adds a finding for the element with the index `place`, or for the file as a whole if `place`
-    /// is negative.
+    /// Adds a finding for the element with index `place`, or for the entire file if `place` is
+    /// negative.
     void find(int place, const char *rule, const QString &text);
 
-    /// Adds a finding unless the value is "true" or "false". The plug-in reads any other value as
-    /// false.
+    /// Adds a finding if the value is neither "true" nor "false", because the plug-in would read it
+    /// as false.
     void boolText(int place, const QString &what, const QString &text);
     void boolAttribute(int place, const char *name);
-    /// Returns the number that the plug-in reads. Adds a finding if the value is not a number. The
-    /// plug-in reads such a value as 0.
+    /// Returns the value as a number. If the value is not a number, adds a finding and returns 0,
+    /// as the plug-in does.
     int numberText(int place, const QString &what, const QString &text);
     int numberAttribute(int place, const char *name);
     int colour(int place, const char *name);
 
-    /// Checks the length and the form of a code. `inputLength` is the maximum number of characters
-    /// that replace "%s" in the code.
+    /// Checks the length and the format of a code. `inputLength` is the maximum number of
+    /// characters that can replace "%s" in the code.
     void command(int place, const QString &command, int inputLength);
-    /// Adds a finding if the key is not translated in all languages. A string that is not a key is
-    /// accepted, because the plug-in shows it unchanged.
+    /// Adds a finding if the key has no translation in one of the languages. Strings that are not
+    /// keys are accepted, because the plug-in shows them unchanged.
     void key(int place, const QString &key);
 
-    /// Adds a finding for each element and attribute whose name is not known. The finding suggests
-    /// the name that is probably meant.
+    /// Adds a finding for each unknown element or attribute name. The finding suggests the name
+    /// that was probably intended.
     void names(const KnownNames &known);
 
 private:

@@ -85,7 +85,7 @@ bool isXml(const QByteArray &content)
     return start.startsWith('<');
 }
 
-/// Returns true if the document has a section with one of the names, or with a similar name.
+/// Returns true if the document has a section with one of these names or with a similar name.
 bool hasSection(const XmlElements &elements, const QStringList &names)
 {
     for (int i = 0; i < elements.list.count(); ++i) {
@@ -130,8 +130,8 @@ void checkLayoutSection(const XmlElements &elements, CheckReport &report)
                                                  : " is given more than once"));
 }
 
-/// Returns true if the finding is about an element that is incomplete because of an error in the
-/// document, or about what is missing behind the error.
+/// Returns true if the finding is a consequence of the XML error: the element is incomplete, or the
+/// missing element may follow the error.
 bool isConsequenceOfError(const CheckFinding &finding, const XmlElements &elements)
 {
     if (finding.rule == QLatin1String("missing") || finding.rule == QLatin1String("button"))
@@ -157,7 +157,7 @@ void dropConsequencesOfError(const XmlElements &elements, CheckReport &report)
     report.findings = kept;
 }
 
-/// Checks a document whose names are spelt correctly.
+/// Checks a document after its misspelt names have been corrected.
 void checkSections(const QByteArray &xml, CheckReport &report)
 {
     const XmlElements elements = readXmlElements(xml);
@@ -173,7 +173,8 @@ void checkSections(const QByteArray &xml, CheckReport &report)
         dropConsequencesOfError(elements, report);
 }
 
-/// Returns what the plug-in reads from the document as it is, with the misspelt names.
+/// Returns the values that the plug-in reads from the original document, including its misspelt
+/// names.
 QList<CheckTable> tablesOf(const QByteArray &xml, const QString &kind)
 {
     if (kind == QLatin1String("profiles"))

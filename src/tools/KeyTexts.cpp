@@ -15,7 +15,8 @@ namespace
 {
 
 /**
- * The translations of a language. The translator does not copy `content`, so this struct owns both.
+ * The translations of a language. The struct owns the file contents, because QTranslator does not
+ * copy them.
  */
 struct Texts {
     QByteArray content;

@@ -7,15 +7,15 @@
 namespace Tools
 {
 
-/** Looks up the plug-in's text keys in the installed language files. */
+/** Functions that look up text keys in the installed language files. */
 namespace KeyTexts
 {
 
-/// Returns the installed languages that have no translation for the key. Returns an empty list if
-/// the string is empty or not a key. A key consists of capital letters, digits and underscores.
-/// Texts of the operator count as translations. `folder` contains the operator's text file.
+/// Returns the installed languages that have no translation for the key. The operator's text file
+/// in `folder` is also taken into account. Returns an empty list if the string is not a key, which
+/// consists of capital letters, digits and underscores.
 QStringList languagesWithout(const QString &key, const QString &folder);
-/// Returns the English translation, or an empty string if the plug-in does not have this key.
+/// Returns the English string, or an empty string if the plug-in does not have this key.
 QString english(const QString &key);
 
 } // namespace KeyTexts

@@ -17,11 +17,11 @@ namespace Tools
 namespace
 {
 
-const int INPUT = 2;  // index of the input field among the controls of a group
-const int BUTTON = 3; // index of the button, which contains the command
+const int INPUT = 2;  // index of the input field in a group
+const int BUTTON = 3; // index of the button, which contains the command, in a group
 
-/// Returns the column of the last element that begins in the line. This is an approximation,
-/// because the layout parser reports only lines.
+/// Returns the column of the last element that starts in the line. The result is approximate,
+/// because the layout parser reports only line numbers.
 qint64 columnOn(const XmlElements &elements, qint64 line)
 {
     qint64 column = 0;
@@ -43,7 +43,7 @@ void takeComplaint(const XmlElements &elements, const QString &complaint, CheckR
                pattern.cap(2));
 }
 
-/// Returns the indexes of the elements with this name in the section, at any depth.
+/// Returns the indexes of all elements with this name in the section, at any depth.
 QList<int> allNamed(const XmlElements &elements, int section, const char *name)
 {
     QList<int> found;
@@ -54,7 +54,7 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
     return found;
 }
 
-/// Returns the complaint with its line, but without other numbers.
+/// Returns the complaint without its numbers, except for the line number.
 QString kindOfComplaint(const QString &complaint)
 {
     const int colon = complaint.indexOf(QLatin1Char(':'));
@@ -62,15 +62,15 @@ QString kindOfComplaint(const QString &complaint)
     return complaint.left(colon) + rest.remove(QRegularExpression(QLatin1String("\\d+")));
 }
 
-/// Returns true if the complaint is a consequence of the root not being the first entry.
+/// Returns true if the complaint occurs only because the root is not the first entry.
 bool isAboutRoot(const QString &complaint)
 {
     return complaint.contains(QLatin1String("it stands before the root")) ||
            complaint.contains(QLatin1String("the tree has no entry"));
 }
 
-/// Adds findings for the complaints of the plug-in's reader. If a line has several complaints that
-/// differ only in numbers, only the first of them is listed, together with their count.
+/// Converts the complaints of the plug-in's own parser to findings. Complaints about the same line
+/// that differ only in their numbers are combined into one finding with their count.
 void takeComplaints(const XmlElements &elements, const QStringList &complaints, CheckReport &report)
 {
     QStringList kinds;
@@ -84,7 +84,8 @@ void takeComplaints(const XmlElements &elements, const QStringList &complaints, 
     }
 }
 
-/// Checks that the first entry of the tree is the root. Returns false if it is another entry.
+/// Checks that the first entry of the tree is the root. If it is not, adds a finding and returns
+/// false.
 bool checkRoot(ElementCheck &check)
 {
     for (int i = 0; i < check.elements().list.count(); ++i) {
@@ -103,7 +104,7 @@ bool checkRoot(ElementCheck &check)
     return true;
 }
 
-/// Adds findings for what the plug-in's reader complains about.
+/// Adds findings for the complaints of the plug-in's own parser.
 void checkWithReader(ElementCheck &check, const QByteArray &xml, CheckReport &report)
 {
     SmsLayout layout;
@@ -111,7 +112,7 @@ void checkWithReader(ElementCheck &check, const QByteArray &xml, CheckReport &re
     ForwardXml::start(reader, xml);
     SmsLayoutFile::read(reader, layout);
     const XmlElements &elements = check.elements();
-    const bool isWhole = elements.error.isEmpty(); // otherwise, the error has already been reported
+    const bool isWhole = elements.error.isEmpty(); // if false, the error has already been reported
     const bool hasRoot = checkRoot(check);
     QStringList complaints;
     for (int i = isWhole ? 0 : 1; i < layout.complaints.count(); ++i) {
@@ -172,7 +173,8 @@ void checkInput(ElementCheck &check, int input)
                    QLatin1String("length is 0 or missing: nothing can be entered"));
 }
 
-/// Returns the geometry of an element. QRect cannot hold every geometry of a file.
+/// Returns the geometry of an element. The result is not a QRect, whose calculations could
+/// overflow.
 CTreeInfo geometryOf(const XmlElement &element)
 {
     CTreeInfo geometry;
@@ -183,8 +185,8 @@ CTreeInfo geometryOf(const XmlElement &element)
     return geometry;
 }
 
-/// Returns the size of the services window, which is empty if the section does not have a valid
-/// one.
+/// Returns the size of the services window, or an empty size if the section does not contain a
+/// valid size.
 QSize windowSizeOf(const ElementCheck &check, int section)
 {
     const QList<int> sizes = check.elements().childrenOf(section, XmlName::MAIN_SIZE);
@@ -210,8 +212,8 @@ void checkSizes(ElementCheck &check, int section)
     }
 }
 
-/// Checks that the control, or the tree, is visible in the window. The coordinates may be any
-/// numbers, so the sums have 64 bits.
+/// Checks that the control or the tree is inside the window. The calculations use 64 bits, because
+/// the coordinates can be any 32-bit numbers.
 void checkPlace(ElementCheck &check, int place, const QSize &window)
 {
     const CTreeInfo own = geometryOf(check.at(place));
@@ -238,7 +240,7 @@ void checkPlace(ElementCheck &check, int place, const QSize &window)
 void checkGeometry(ElementCheck &check, int section)
 {
     const QSize window = windowSizeOf(check, section);
-    if (window.isEmpty()) // MainSize itself has a finding
+    if (window.isEmpty()) // MainSize has its own finding
         return;
     const QList<int> places = check.elements().childrenOf(section, XmlName::TREE_SIZE) +
                               allNamed(check.elements(), section, XmlName::CONTROL);
@@ -254,7 +256,7 @@ void checkGroups(ElementCheck &check, int section)
     for (int i = 0; i < items.count(); ++i) {
         const QList<int> controls = check.elements().childrenOf(items.at(i), XmlName::CONTROL);
         if (controls.count() != SmsLayoutFile::CONTROLS_OF_GROUP)
-            continue; // the layout parser has already reported the missing controls
+            continue; // the missing controls have already been reported
         checkInput(check, controls.at(INPUT));
         if (check.at(controls.at(BUTTON)).attribute(XmlName::VISIBLE) !=
             QLatin1String(XmlName::OFF))

@@ -7,11 +7,11 @@
 namespace Tools
 {
 
-/// Checks the SMSUSSD section: the complaints of the plug-in's reader, the keys, the commands and
-/// the geometry. Adds findings to the report.
+/// Checks the section SMSUSSD: the complaints of the plug-in's own parser, the keys, the commands
+/// and the geometry. Adds findings to the report.
 void checkLayout(const XmlElements &elements, const QByteArray &xml, CheckReport &report);
 
-/// Returns the table of the services that the plug-in's reader finds in the section.
+/// Returns the services that the plug-in's own parser finds in the section, as a table.
 CheckTable layoutTable(const QByteArray &xml);
 
 } // namespace Tools

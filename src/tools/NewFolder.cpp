@@ -26,7 +26,7 @@ namespace
 const char SCENARIO[] = "/network.scenario";
 const char SAMPLE_SCENARIO[] = "/default.scenario";
 
-/** The contents of the new files. */
+/** The contents of the files to create. */
 struct Contents {
     QByteArray configuration;
     QByteArray profiles;
@@ -46,7 +46,8 @@ QString shippedFile(QLatin1String name)
 
 // ---- contents ------------------------------------------------------------------------------
 
-/// Reads a file. If this fails and there is no earlier problem, sets `problem`.
+/// Returns the contents of a file. If reading fails, sets `problem` unless it already contains an
+/// earlier problem.
 QByteArray contentOf(const QString &path, QString &problem)
 {
     QByteArray content;
@@ -56,7 +57,7 @@ QByteArray contentOf(const QString &path, QString &problem)
     return content;
 }
 
-/// Returns the files that are installed with the plug-in, whose operator is invented.
+/// Returns the sample files of the plug-in, which describe a fictitious operator.
 Contents sampleContents(QString &problem)
 {
     Contents contents;
@@ -93,8 +94,8 @@ bool writeFiles(const QString &folder, const Contents &contents, QString &proble
            writeNew(folder + QLatin1String(SCENARIO), contents.scenario, problem);
 }
 
-/// Writes the files to a new folder and renames this folder, so that there is never a folder with
-/// only some of the files.
+/// Writes the files to a temporary folder and then renames it. The folder therefore never exists
+/// with only some of its files.
 bool writeFolder(const QString &folder, const Contents &contents, QString &problem)
 {
     const QString fresh =
@@ -105,7 +106,7 @@ bool writeFolder(const QString &folder, const Contents &contents, QString &probl
     return false;
 }
 
-/// Returns the reason why the folder cannot be created, or an empty string.
+/// Returns the reason why the folder cannot be created, or an empty string if it can.
 QString obstacleTo(const QString &folder)
 {
     const QFileInfo info(folder);

@@ -6,11 +6,11 @@
 namespace Tools
 {
 
-/// Creates a folder with the plug-in's files for an operator, as "ussd-config new". Returns a
-/// ToolExit.
+/// Implements "ussd-config new", which creates a folder with the plug-in's files for an operator.
+/// Returns a ToolExit.
 int createNewFolder(const ToolArguments &arguments);
 
-/// Returns the value options of "ussd-config new".
+/// Returns the options of "ussd-config new" that require a value.
 QStringList newFolderOptions();
 
 } // namespace Tools

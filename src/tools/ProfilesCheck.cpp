@@ -18,7 +18,7 @@ namespace
 {
 
 const int BUTTONS = 11;
-const int PAYMENT_BUTTONS = 2; // the payment buttons are the last two buttons
+const int PAYMENT_BUTTONS = 2; // the last two buttons are payment buttons
 
 QList<USSDProfile> readAll(const QByteArray &xml)
 {
@@ -126,8 +126,8 @@ bool takesNumber(const ElementCheck &check, int item)
     return textOf(check.elements(), item, XmlName::VALUE).contains(INPUT_PLACEHOLDER);
 }
 
-/// Checks the buttons. The last two buttons require a number, which replaces "%s" in their codes.
-/// The other buttons send their codes unchanged.
+/// Checks that each button can send its code. The payment buttons, which are the last two, replace
+/// "%s" with a number. The other buttons send their codes unchanged.
 void checkButtons(ElementCheck &check, const QList<int> &shown)
 {
     for (int i = 0; i < shown.count(); ++i) {
@@ -147,8 +147,9 @@ void checkButtons(ElementCheck &check, const QList<int> &shown)
     }
 }
 
-/// Checks what happens when the user adds a code in the editor. Its button becomes the last one, if
-/// there is room for another button. The first of the former payment buttons then works at once.
+/// Checks the effect of a profile that the user adds in the editor. Its button becomes the last one
+/// if there is a free slot. The first payment button then becomes an ordinary button, which sends
+/// "%s" unchanged.
 void checkOneMore(ElementCheck &check, const QList<int> &items, const QList<int> &shown)
 {
     const int first = shown.value(shown.count() - PAYMENT_BUTTONS, -1);
@@ -195,7 +196,8 @@ QString effectOf(const USSDProfile &profile, bool pays)
     return QLatin1String(pays ? "sends after a number was entered" : "sends at once");
 }
 
-/// Returns a table of the buttons in their order, and of the last two if the user adds a code.
+/// Returns a table of the buttons. It also shows the last two buttons after the user has added a
+/// code.
 CheckTable buttonTable(const QList<USSDProfile> &profiles)
 {
     CheckTable table;

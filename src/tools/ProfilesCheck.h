@@ -7,13 +7,13 @@
 namespace Tools
 {
 
-/// Returns the names of the elements of a profile, in their order.
+/// Returns the names of a profile's elements in the required order.
 QStringList profileFields();
 
-/// Checks how the plug-in reads a file of profiles. Adds findings to the report.
+/// Checks a profile file as the plug-in would read it. Adds findings to the report.
 void checkProfiles(const XmlElements &elements, CheckReport &report);
 
-/// Returns tables of the profiles that the plug-in's own reader finds, and of their buttons.
+/// Returns tables of the profiles that the plug-in's own parser reads, and of their buttons.
 QList<CheckTable> profileTables(const QByteArray &xml);
 
 } // namespace Tools

@@ -41,7 +41,7 @@ const char HELP[] =
     "Exit status: 0 done, 1 failed, 2 wrong arguments or database, 3 several operators\n"
     "match and none was chosen, 4 edited files would be replaced.";
 
-const int MOST_WAYS = 20; // the largest number of operators for which arguments are printed
+const int MOST_WAYS = 20; // maximum number of operators whose arguments are printed
 
 QStringList list(const char *blankSeparated)
 {
@@ -95,7 +95,8 @@ QString orDash(const QString &text)
     return text.isEmpty() ? QString(QLatin1Char('-')) : text;
 }
 
-/// Prints the country, name, balance, top-up, own number and networks, separated by tabs.
+/// Prints the properties of an operator, separated by tabs: country, name, balance, top-up, own
+/// number and networks.
 void printProvider(const Provider &provider)
 {
     const ProvisionPlan plan = provisionPlan(provider);
@@ -144,7 +145,8 @@ QString installedFolder()
     return HostCore::PluginFolderChoice::current() + PluginFiles::FOLDER + QLatin1Char('/');
 }
 
-/// Returns the operator's folder. Without a network code, the folder is named after the operator.
+/// Returns the folder for the operator. If the network code is unknown, the folder is named after
+/// the operator.
 QString folderOf(const ToolArguments &arguments, const ProvisionPlan &plan)
 {
     if (arguments.has("--folder"))
@@ -212,7 +214,7 @@ int provision(const ToolArguments &arguments, const Provider &provider)
     return report(order, plan, writeProvision(order, plan, files));
 }
 
-/// Prints the arguments that select each of the operators.
+/// Prints, for each of the operators, the arguments that select it.
 void printWaysToSelect(const ProviderDatabase &database, const QList<Provider> &candidates,
                        const QString &network)
 {

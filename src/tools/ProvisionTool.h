@@ -6,8 +6,8 @@
 namespace Tools
 {
 
-/// Runs the program ussd-provision, which lists operators or writes the folder of an operator.
-/// Returns a ToolExit.
+/// Runs ussd-provision, which lists operators or creates the folder of an operator. Returns a
+/// ToolExit.
 int runProvisionTool(const QStringList &words);
 
 } // namespace Tools

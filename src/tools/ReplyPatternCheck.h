@@ -8,11 +8,10 @@
 namespace Tools
 {
 
-/// Returns true if the first line of the content says that it is a file of reply patterns.
+/// Returns true if the first line identifies the content as a pattern file.
 bool areReplyPatterns(const QByteArray &content);
 
-/// Checks how the dashboard reads a file of reply patterns. Adds findings and the table to the
-/// report.
+/// Checks a pattern file as the dashboard would read it. Adds findings and a table to the report.
 void checkReplyPatterns(const QByteArray &content, CheckReport &report);
 
 } // namespace Tools

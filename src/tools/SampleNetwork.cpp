@@ -11,7 +11,7 @@ namespace
 const int IMSI_DIGITS = 15;
 const char TEST_NETWORK[] = "00101"; // 3GPP TS 34.108
 
-/// Returns the text as a value of a key file. A leading blank would be lost.
+/// Escapes the text for use as a value in a key file. An unescaped leading blank would be lost.
 QString valueOf(QString text)
 {
     text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));

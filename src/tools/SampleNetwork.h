@@ -8,8 +8,8 @@
 namespace Tools
 {
 
-/// Returns a scenario file for the simulated network, which has a reply to every code of the plan.
-/// The IMSI of its SIM card starts with the first prefix of the plan.
+/// Returns a scenario file for a simulated network that replies to every code of the plan. The IMSI
+/// of its SIM starts with the first IMSI prefix of the plan.
 QByteArray sampleNetwork(const Provisioning::ProvisionPlan &plan);
 
 } // namespace Tools

@@ -8,7 +8,7 @@
 namespace Tools
 {
 
-/// Checks how the simulated network reads a scenario file. Adds findings and the table to the
+/// Checks a scenario file as the simulated network would read it. Adds findings and a table to the
 /// report.
 void checkScenario(const QByteArray &content, CheckReport &report);
 

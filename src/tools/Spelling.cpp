@@ -13,11 +13,10 @@ namespace Tools
 namespace
 {
 
-const int MOST_ATTRIBUTES = 50; // comparing more attributes of an element would take too long
-const int MOST_DIFFERENCES = 2; // a name with more differences is not a misspelling
+const int MOST_ATTRIBUTES = 50; // per element; comparing more would take too long
+const int MOST_DIFFERENCES = 2; // names with more differences are not considered misspellings
 
-/// Returns the number of letters that have to be inserted, deleted or replaced (the Levenshtein
-/// distance).
+/// Returns the Levenshtein distance: the number of letters to insert, delete or replace.
 int differences(const QString &a, const QString &b)
 {
     QList<int> row;
@@ -35,13 +34,14 @@ int differences(const QString &a, const QString &b)
     return row.last();
 }
 
-/// Returns the maximum number of differences between the name and a misspelling of the name.
+/// Returns the maximum distance between the name and a string that is considered a misspelling of
+/// it.
 int mostDifferences(const QString &name)
 {
     return name.length() <= 4 ? name.length() / 3 : MOST_DIFFERENCES;
 }
 
-/** Copies a document and replaces misspelt names in the copy. */
+/** Copies a document and corrects misspelt names in the copy. */
 class Corrector
 {
 public:
@@ -60,7 +60,7 @@ private:
     const KnownNames &m_known;
     QXmlStreamReader m_xml;
     QString m_result;
-    int m_copied = 0; // the number of characters that have been copied
+    int m_copied = 0; // the number of characters copied so far
 };
 
 QString Corrector::correct()
@@ -73,7 +73,7 @@ QString Corrector::correct()
         const int end = int(m_xml.characterOffset());
         const int begin = m_text.lastIndexOf(QLatin1Char('<'), end - 1);
         const bool isEndTag = m_text.mid(begin + 1, 1) == QLatin1String("/");
-        if (begin >= m_copied && isStart != isEndTag) // an empty element has only one tag
+        if (begin >= m_copied && isStart != isEndTag) // an empty element has a single tag
             takeTag(begin);
     }
     return m_result + m_text.mid(m_copied);
@@ -100,7 +100,7 @@ void Corrector::replaceFrom(int at, const QString &name, const QString &meant)
 
 void Corrector::correctAttributes(const XmlElement &element, int begin)
 {
-    int from = qMax(begin, m_copied); // the attributes follow each other, so the search continues
+    int from = qMax(begin, m_copied); // the attributes are in document order
     for (int i = 0; i < element.attributes.count(); ++i) {
         const QString name = element.attributes.at(i).qualifiedName().toString();
         const QString meant = meantAttribute(element, name, m_known);

@@ -21,7 +21,7 @@ namespace Tools
 namespace
 {
 
-/// Returns the keys that an XML file of the operator uses.
+/// Returns the text keys that occur in an XML file of the operator.
 QSet<QString> keysIn(const XmlElements &elements)
 {
     QSet<QString> keys;
@@ -45,7 +45,7 @@ QSet<QString> keysInFolder(const QString &folder)
     return keys;
 }
 
-/// Returns the placeholders (%1 to %9) in ascending order, each once.
+/// Returns the placeholders (%1 to %9) in the text, sorted and without duplicates.
 QStringList placeholdersOf(const QString &text)
 {
     QSet<QString> found;
@@ -58,7 +58,7 @@ QStringList placeholdersOf(const QString &text)
     return sorted;
 }
 
-/** Checks the entries of one file. */
+/** Checks the entries of a text file. */
 class Check
 {
 public:
@@ -130,9 +130,10 @@ void Check::placeholders(const OperatorTexts::Entry &entry, const QString &origi
                                                   : wanted.join(QLatin1String(" "))));
 }
 
-/// Reports the languages without a text for the key of this entry, which is the first one with this
-/// key. A text that replaces one of the plug-in is needed in each language of the file. The other
-/// languages keep the text of the plug-in. A text with an own key is needed in all languages.
+/// Reports the languages in which the key of this entry has no text. `first` is the first entry
+/// with this key. If the operator replaces a text of the plug-in, a text is required in each
+/// language that occurs in the file; the other languages keep the plug-in's text. A key of the
+/// operator requires a text in every installed language.
 void Check::missing(const OperatorTexts::Entry &first)
 {
     const bool isOwn = KeyTexts::english(first.key).isEmpty();

@@ -8,12 +8,12 @@
 namespace Tools
 {
 
-/// Returns true if the contents are those of an operator's text file: the first section is named
-/// after a language of two letters.
+/// Returns true if the content is that of an operator's text file, whose first section is named
+/// after a two-letter language code.
 bool isTexts(const QByteArray &content);
 
-/// Checks an operator's text file. The other files in the folder of `report.file` determine which
-/// keys the operator uses in addition to those of the plug-in.
+/// Checks an operator's text file. The keys that the operator uses in addition to the plug-in's
+/// keys are determined from the other files in the folder of `report.file`.
 void checkTexts(const QByteArray &content, CheckReport &report);
 
 } // namespace Tools

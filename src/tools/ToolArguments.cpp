@@ -10,7 +10,7 @@ namespace Tools
 namespace
 {
 
-/** Parses the command-line arguments one after another. */
+/** Parses command-line arguments from left to right. */
 class Parser
 {
 public:

@@ -14,16 +14,16 @@ namespace
 {
 
 const int MAX_DEPTH = 30;
-const int MAX_ATTRIBUTES = 1000; // Qt compares each attribute with all others of the element
+const int MAX_ATTRIBUTES = 1000; // per element; Qt compares each one with all others
 
-/// Returns the index of the last "<" before the index `end`, or -1. Does not copy the line, because
-/// a document may consist of one long line.
+/// Returns the index of the last "<" before the index `end`, or -1. The line is not copied, because
+/// a document may consist of a single long line.
 int lastTagStart(const QString &line, int end)
 {
     return end > 0 ? line.lastIndexOf(QLatin1Char('<'), qMin(end, line.length()) - 1) : -1;
 }
 
-/** Builds the list of elements from the tokens of a document. */
+/** Builds the list of elements while it parses a document. */
 class Reader
 {
 public:
@@ -113,8 +113,8 @@ void Reader::refuse(const char *why)
     m_xml.raiseError(QLatin1String(why));
 }
 
-/// Sets the line and the column of the start tag. The position of QXmlStreamReader is after the
-/// tag, so the tag begins at the last "<" before this position.
+/// Sets the line and the column of the start tag. QXmlStreamReader reports the position after the
+/// tag, so the tag starts at the last "<" before this position.
 void Reader::findPlace(XmlElement &element) const
 {
     int line = int(m_xml.lineNumber()) - 1;

@@ -14,11 +14,11 @@ struct XmlElement {
     QString name;
     QXmlStreamAttributes attributes;
     QString text;         // the text of the element and its descendants
-    int parent = -1;      // index of the parent in the list; -1 for the root
-    int behind = 0;       // index of the first later element that is not a descendant
-    bool isWhole = false; // the end tag was read
-    qint64 line = 0;      // line of the start tag; counts from 1
-    qint64 column = 0;    // column of the start tag; counts from 1
+    int parent = -1;      // index of the parent element; -1 for the root
+    int behind = 0;       // index of the first element after this element and its descendants
+    bool isWhole = false; // true if the end tag has been read
+    qint64 line = 0;      // line of the start tag; starts at 1
+    qint64 column = 0;    // column of the start tag; starts at 1
 
     bool has(const char *attribute) const
     {
@@ -30,17 +30,17 @@ struct XmlElement {
     }
 };
 
-/** The elements of a document in the order of their start tags. */
+/** All elements of a document in the order of their start tags. */
 struct XmlElements {
     QList<XmlElement> list;
-    QString error; // the reason why parsing stopped early; empty if the document is well-formed
+    QString error; // the reason why parsing failed; empty if the document is well-formed
     qint64 errorLine = 0;
     qint64 errorColumn = 0;
     /// True if the document is nested too deeply, declares entities or has too many attributes.
-    /// Such a document is unsafe for other readers.
+    /// Such a document must not be passed to other parsers.
     bool isDangerous = false;
 
-    /// Returns the indexes of the direct children of `parent` that have this name.
+    /// Returns the indexes of the direct children of `parent` with this name.
     QList<int> childrenOf(int parent, const char *name) const;
 };
 
