@@ -8,31 +8,32 @@ namespace Provisioning
 {
 
 /*
- * File operations for replacing a set of files safely. On failure, the functions return false and
- * set `problem` to the system's error message.
+ * File operations that are used to replace a set of files safely. If an operation fails, the
+ * function returns false and sets `problem` to the error message of the system.
  */
 namespace FileSteps
 {
 
 /// Creates a folder and its missing parents.
 bool makeFolder(const QString &path, QString &problem);
-/// Writes a file. The contents are on the disk when the function returns.
+/// Writes a file and waits until its contents are stored on the disk.
 bool writeNew(const QString &path, const QByteArray &content, QString &problem);
 /// Creates a symbolic link. Fails if `path` exists.
 bool link(const QString &target, const QString &path, QString &problem);
 /// Renames a file. An existing file is replaced atomically.
 bool rename(const QString &from, const QString &to, QString &problem);
-/// Waits until the directory entries of the folder are on the disk.
+/// Waits until the entries of the folder are stored on the disk.
 bool syncFolder(const QString &path, QString &problem);
 
-/// Returns the target as stored in the link, or an empty string if the path is not a link.
+/// Returns the target of the symbolic link as stored, or an empty string if the path is not a link.
 QString linkTarget(const QString &path);
-/// Returns true if the path exists. A dangling link is treated as existing.
+/// Returns true if the path exists, even if it is a dangling link.
 bool exists(const QString &path);
-QByteArray content(const QString &path); ///< empty if the file cannot be read
+QByteArray content(const QString &path); ///< returns an empty array if the file cannot be read
 
 /**
- * Waits until no other process holds the lock. Then holds the lock until this object is destroyed.
+ * A lock between processes. The constructor waits until no other process holds the lock. The
+ * destructor releases the lock.
  */
 class Lock
 {

@@ -8,7 +8,7 @@ namespace
 
 const int LONGEST_NETWORK = 6;
 const int SHORTEST_NETWORK = 5;
-const int LONGEST_SIM_NAME = 64; // characters; the rest of a longer name is ignored
+const int LONGEST_SIM_NAME = 64; // characters; longer names are truncated
 
 QList<Provider> withNetwork(const QList<Provider> &providers, const QString &network)
 {
@@ -49,7 +49,8 @@ QList<Provider> named(const QList<Provider> &providers, const QString &name)
     return found;
 }
 
-/// Returns the letters and digits of the name in lower case, without accents.
+/// Returns the name in a form for comparison: only letters and digits, in lower case and without
+/// accents.
 QString comparable(const QString &name)
 {
     const QString parts = name.normalized(QString::NormalizationForm_KD).toCaseFolded();
@@ -70,8 +71,8 @@ ProviderChoice choiceOf(const QList<Provider> &candidates)
     return choice;
 }
 
-/// If several operators have the name that the user has chosen, keeps only those that match the
-/// network. If none of them matches, keeps all of them.
+/// If several operators have the name that the user has selected, keeps only those with the
+/// network. If no operator has this network, keeps all of them.
 ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
 {
     if (candidates.count() > 1 && !query.network.isEmpty()) {
@@ -82,8 +83,8 @@ ProviderChoice narrowed(QList<Provider> candidates, const ProviderQuery &query)
     return choiceOf(candidates);
 }
 
-/// Returns true if the SIM's name begins with complete words of the name: "Telekom.de" begins with
-/// "Telekom", but "Telekomik" does not.
+/// Returns true if `simName` starts with the complete words of `name`. For example, "Telekom.de"
+/// starts with "Telekom", but "Telekomik" does not.
 bool beginsWithName(const QString &simName, const QString &name)
 {
     for (int end = 1; end <= simName.length(); ++end) {
@@ -109,10 +110,10 @@ QList<Provider> begun(const QList<Provider> &providers, const QString &simName)
     return found;
 }
 
-/// Narrows down the candidates with the help of the SIM's name. If the SIM's name only begins with
-/// the name of a candidate, the SIM may belong to a virtual operator on the network. If no
-/// candidate has the SIM's name, the operator may be missing from the database. In both cases, the
-/// choice is ambiguous unless the only candidate has a similar name.
+/// Uses the name stored on the SIM to narrow down the candidates. If this name only starts with a
+/// candidate's name, the SIM may belong to a virtual operator. If it does not match at all, the
+/// operator may be missing from the database. The user must choose in both cases, unless there is
+/// only one candidate and its name is similar.
 ProviderChoice proposed(const QList<Provider> &candidates, const QString &simName)
 {
     if (comparable(simName).isEmpty())

@@ -11,10 +11,10 @@ namespace Provisioning
 namespace
 {
 
-const int MAX_DEPTH = 30;          // maximum nesting of elements; the format has six levels
-const qint64 MAX_BYTES = 67108864; // maximum size of a file: 64 MB
-const int PIECE_BYTES = 16384; // the document is passed to the XML reader in pieces of this size
-const int MAX_TOKEN_BYTES = 65536; // maximum size of a tag or comment
+const int MAX_DEPTH = 30;          // maximum nesting depth; the format requires six levels
+const qint64 MAX_BYTES = 67108864; // maximum size of a file (64 MiB)
+const int PIECE_BYTES = 16384;     // the XML parser receives the document in pieces of this size
+const int MAX_TOKEN_BYTES = 65536; // maximum size of a tag or a comment
 
 bool isDigits(const QString &text, int fewest, int most)
 {
@@ -27,7 +27,7 @@ bool isDigits(const QString &text, int fewest, int most)
     return true;
 }
 
-/** Reads the database element by element, and skips unknown elements with their descendants. */
+/** Parses the database. Unknown elements are skipped together with their descendants. */
 class Reader
 {
 public:
@@ -54,18 +54,18 @@ private:
     void readCode(ProviderCode::Way way, QList<ProviderCode> &codes);
 
     const QByteArray m_document;
-    int m_passed = 0; // bytes of the document that were passed to the XML reader
+    int m_passed = 0; // number of bytes passed to the XML parser so far
     QXmlStreamReader m_xml;
     ProviderDatabase m_database;
-    QSet<QString> m_networks; // of the current provider
+    QSet<QString> m_networks; // the networks of the current provider
     int m_depth = 0;
 };
 
 // ---- tokens --------------------------------------------------------------------------------
 
-/// Reads a token, and passes as much of the document to the XML reader as the token needs. A huge
-/// token is refused before the XML reader processes it, because the time to compare the attributes
-/// of a tag grows with the square of their number.
+/// Reads the next token. The document is passed to the XML parser in pieces until the token is
+/// complete. Very large tokens are rejected before they are parsed, because the time for comparing
+/// the attributes of a tag is quadratic in their number.
 QXmlStreamReader::TokenType Reader::readToken()
 {
     const int before = m_passed;
@@ -92,13 +92,13 @@ QXmlStreamReader::TokenType Reader::next()
         --m_depth;
     else if (token == QXmlStreamReader::DTD && !m_xml.entityDeclarations().isEmpty())
         m_xml.raiseError(QLatin1String("The document declares entities of its own."));
-    else if (token == QXmlStreamReader::EntityReference) // the text would be incomplete
+    else if (token == QXmlStreamReader::EntityReference) // otherwise, the text would be incomplete
         m_xml.raiseError(
             QString::fromLatin1("Entity '%1' not declared.").arg(m_xml.name().toString()));
     return token;
 }
 
-/// Moves to the next child of the current element. Returns false at the end of the element.
+/// Moves to the next child of the current element. Returns false after the last child.
 bool Reader::nextChild()
 {
     while (!m_xml.atEnd()) {
@@ -116,8 +116,7 @@ QString Reader::attribute(const char *name) const
     return m_xml.attributes().value(QLatin1String(name)).toString();
 }
 
-/// Returns the text of the current element and its descendants, without leading and trailing
-/// blanks.
+/// Returns the text of the current element and its descendants, trimmed.
 QString Reader::text()
 {
     QString text;

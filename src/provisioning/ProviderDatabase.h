@@ -10,32 +10,32 @@ namespace Provisioning
 {
 
 /*
- * Reads the database of mobile operators in the format of mobile-broadband-provider-info (format
- * 2.0) into plain values. The functions are stateless and may be called from any thread.
+ * Reads a database of mobile operators in the format of mobile-broadband-provider-info (format
+ * 2.0). The functions are stateless and may be called from any thread.
  */
 
 /**
- * A part of the database that cannot be used, with a message for the editor of the database.
+ * An error in the database, with a message for its maintainer.
  */
 struct ProviderComplaint {
     qint64 line = 0;   // starts at 1
-    qint64 column = 0; // at the end of the start tag; starts at 0, as in QXmlStreamReader
+    qint64 column = 0; // column of the end of the start tag; starts at 0, as in QXmlStreamReader
     QString text;
 };
 
-/** A way to send a request to an operator, for example a balance request. */
+/** A code or message that requests something from an operator, for example the balance. */
 struct ProviderCode {
     enum Way {
-        Ussd,         // `code` is dialled
-        UssdResponse, // `code` is dialled, or answers the menu of an earlier code
-        Dtmf,         // `code` is the number to call
-        Sms           // `smsText` is sent to the number `code`
+        Ussd,         // dial `code`
+        UssdResponse, // dial `code`, or send it as the answer to the menu of an earlier code
+        Dtmf,         // call the number `code`
+        Sms           // send `smsText` to the number `code`
     };
 
     Way way = Ussd;
-    QString code;            // without leading and trailing blanks
-    bool takesInput = false; // true if the element has a replacement attribute
-    QString replacement;     // the part of `code` that is replaced with the user's input
+    QString code;            // trimmed
+    bool takesInput = false; // true if the element has the attribute "replacement"
+    QString replacement;     // the part of `code` to replace with the user's input
     QString smsText;         // the text of the short message
     qint64 line = 0;
     qint64 column = 0;
@@ -43,7 +43,7 @@ struct ProviderCode {
 
 struct ProviderName {
     QString text;
-    QString language; // value of the attribute xml:lang; empty for the default language
+    QString language; // the value of xml:lang; empty for the default language
 };
 
 /** An operator in a country. */
@@ -51,13 +51,13 @@ struct Provider {
     QString country; // ISO 3166-1 alpha-2, in lower case
     QString countryName;
     QList<ProviderName> names; // at least one
-    QStringList networks;      // each is MCC and MNC, together 5 or 6 digits (ITU-T E.212)
+    QStringList networks;      // MCC and MNC, together 5 or 6 digits (ITU-T E.212)
     QList<ProviderCode> balance;
     QList<ProviderCode> topUp;
     QList<ProviderCode> ownNumber;
     qint64 line = 0; // line of the element's start tag
 
-    /// Returns the name that has no language attribute, or else the first name.
+    /// Returns the name without a language attribute, or the first name if there is no such name.
     QString name() const;
     bool hasCodes() const { return !balance.isEmpty() || !topUp.isEmpty() || !ownNumber.isEmpty(); }
 };
@@ -65,18 +65,18 @@ struct Provider {
 struct ProviderDatabase {
     QList<Provider> providers; // in the order of the file
     QList<ProviderComplaint> complaints;
-    /// The reason why the file cannot be used at all, or an empty string. If there is an error,
-    /// `providers` is empty.
+    /// The reason why the file cannot be used, or an empty string. `providers` is empty if there is
+    /// an error.
     QString error;
 };
 
-/// Reads a document. Rejects a document that is not well-formed, has a different format, declares
-/// entities, is nested too deeply, or has a tag or comment of more than 64 KB.
+/// Parses a database. Rejects documents that are not well-formed, have a different format, declare
+/// entities, are nested too deeply, or contain a tag or comment of more than 64 KiB.
 ProviderDatabase readProviderDatabase(const QByteArray &xml);
-/// Reads a file of at most 64 MB.
+/// Reads a database file of at most 64 MiB.
 ProviderDatabase readProviderDatabaseFile(const QString &path);
 
-/// Returns the path at which the Debian package installs the database.
+/// Returns the path of the database installed by its Debian package.
 QString installedProviderDatabase();
 
 } // namespace Provisioning

@@ -20,16 +20,16 @@ namespace Provisioning
 namespace
 {
 
-// The maximum length of a voucher number. The database does not contain the actual length.
+// The maximum length of a voucher number. The actual length is not part of the database.
 const int LONGEST_VOUCHER = 30;
 const int SHORTEST_VOUCHER = 1;
 
-// Elements that are copied from the installed configuration with their descendants.
+// Elements that are copied, with their descendants, from the installed configuration.
 const char *const LOOKS[] = {XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CLEAR_HISTORY,
                              XmlName::CMD_EDIT,  XmlName::MAIN_SIZE,     XmlName::TREE_SIZE};
 const int MAX_DEPTH = 30;
 
-// Positions and sizes of the controls in the services window, in pixels.
+// The geometry of the controls in the services window, in pixels.
 const QRect EXPLANATION(285, 16, 340, 46);
 const QRect BUTTON(285, 72, 150, 32);
 const QRect REPLY(285, 140, 340, 210);
@@ -37,10 +37,10 @@ const int MOST_SERVICES = 25;
 
 // ---- looks of the shipped configuration ----------------------------------------------------
 
-/** A token of an element that is copied from the installed configuration. */
+/** A token in an element that is copied from the installed configuration. */
 struct Token {
     QXmlStreamReader::TokenType type = QXmlStreamReader::NoToken;
-    QString text; // the name of the element, or character data
+    QString text; // name of the element, or character data
     QXmlStreamAttributes attributes;
 };
 
@@ -87,8 +87,8 @@ Element takeElement(QXmlStreamReader &reader)
     return element;
 }
 
-/// Returns the elements to copy from the installed configuration. Sets `error` if it cannot be
-/// used.
+/// Returns the elements of the installed configuration that are copied to the new configuration.
+/// Sets `error` if the installed configuration cannot be used.
 Looks looksOf(const QByteArray &shipped, QString &error)
 {
     Looks looks;
@@ -124,7 +124,7 @@ QString boolText(bool value)
     return QLatin1String(value ? XmlName::ON : XmlName::OFF);
 }
 
-/** Writes the elements in the order that the plug-in's forward scan requires. */
+/** Writes the configuration with its elements in the order that the plug-in requires. */
 class ConfigurationWriter
 {
 public:
@@ -205,7 +205,8 @@ QByteArray ConfigurationWriter::write()
     return m_content;
 }
 
-/// Writes the comment at the top. Hyphens are replaced, because "--" is not allowed in a comment.
+/// Writes the comment at the start of the file. Hyphens are replaced, because a comment must not
+/// contain "--".
 void ConfigurationWriter::writeHead()
 {
     QString provider = m_plan.provider + QLatin1String(", ") + m_plan.country;
@@ -216,8 +217,7 @@ void ConfigurationWriter::writeHead()
                            .arg(provider));
 }
 
-/// Writes a disabled section, because the database does not contain codes for querying the kind of
-/// contract.
+/// Writes a disabled section, because the database has no codes for the prepaid/postpaid detection.
 void ConfigurationWriter::writeDetection()
 {
     start(XmlName::PRE_POST_DIFFER);
@@ -293,8 +293,7 @@ void ConfigurationWriter::writeTreeItem(int entry, const QString &key, bool isRo
     end();
 }
 
-/// Writes a group of five controls: explanation, caption of the input field, input field, button
-/// and reply.
+/// Writes the five controls of a group: explanation, caption, input field, button and reply.
 void ConfigurationWriter::writeGroup(int entry, const PlannedMessage &message)
 {
     start(XmlName::ITEM);
@@ -332,8 +331,8 @@ void ConfigurationWriter::writeHiddenControl()
     end();
 }
 
-/// Writes the SIM cards. The database contains only prepaid codes. If there are no IMSI prefixes,
-/// the windows do not depend on the SIM.
+/// Writes the windows for each SIM. Only prepaid windows are written, because the database contains
+/// only prepaid codes. If there are no IMSI prefixes, the windows do not depend on the SIM.
 void ConfigurationWriter::writeSims()
 {
     const bool account =

@@ -13,12 +13,11 @@ namespace Provisioning
 namespace
 {
 
-// The position of the first payment button if the general window has all eleven buttons, counted
-// from 0.
+// The index of the first payment button if the general window has all eleven buttons.
 const int FIRST_PAYMENT_SLOT = 9;
-const int PAYMENT_BUTTONS = 2; // the last two buttons always use the number that the user enters
+const int PAYMENT_BUTTONS = 2; // the last two buttons are payment buttons
 
-/** A kind of code, and the text keys of its names in the plug-in. */
+/** A kind of code, and the text keys of the names for such codes. */
 struct Kind {
     const char *name;
     const char *textKey;
@@ -29,7 +28,7 @@ const Kind BALANCE = {"Balance", "IDS_PROFILE_BALANCE", "IDS_PROFILE_BALANCE_DES
 const Kind OWN_NUMBER = {"My number", "IDS_PROFILE_OWN_NUMBER", "IDS_PROFILE_OWN_NUMBER_DESC"};
 const Kind TOP_UP = {"Top up", "IDS_PROFILE_TOP_UP", "IDS_PROFILE_TOP_UP_DESC"};
 
-/// Returns a profile that only takes the place of a payment button.
+/// Returns a placeholder, which only occupies the place of a payment button.
 USSDProfile placeholder()
 {
     USSDProfile profile;
@@ -39,7 +38,7 @@ USSDProfile placeholder()
     return profile;
 }
 
-/// Returns the profiles from `first` on, at most `count`. `hasButton` is whether they have buttons.
+/// Returns at most `count` profiles, starting at index `first`, with or without buttons.
 QList<USSDProfile> taken(const QList<USSDProfile> &profiles, int first, int count, bool hasButton)
 {
     QList<USSDProfile> result = profiles.mid(first, count);
@@ -57,7 +56,7 @@ bool isMessageNumber(const QString &text)
     return text != QLatin1String("+");
 }
 
-/** Builds the plan. */
+/** Builds a plan from an operator's codes. */
 class Planner
 {
 public:
@@ -77,7 +76,7 @@ private:
 
     const Provider &m_provider;
     ProvisionPlan m_plan;
-    QSet<QString> m_codes; // the codes of m_plan.profiles
+    QSet<QString> m_codes; // all codes in m_plan.profiles
 };
 
 Planner::Planner(const Provider &provider, const QString &network) : m_provider(provider)
@@ -97,8 +96,8 @@ ProvisionPlan Planner::plan()
     return m_plan;
 }
 
-/// Adds all codes to the plan. Returns the first code that the account window can use. `withInput`
-/// is true if this code requires input.
+/// Adds all codes to the plan. Returns the first code that is suitable for the account window,
+/// which requires a code with input if `withInput` is true, otherwise a code without input.
 QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool withInput)
 {
     QString first;
@@ -119,7 +118,8 @@ QString Planner::take(const QList<ProviderCode> &codes, const Kind &kind, bool w
     return first;
 }
 
-/// Adds a code. Returns the code if the account window can use it, otherwise an empty string.
+/// Adds a code. Returns the code if it is suitable for the account window, otherwise an empty
+/// string.
 QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withInput)
 {
     const UssdTemplate ussd = ussdTemplate(code);
@@ -131,7 +131,7 @@ QString Planner::takeUssd(const ProviderCode &code, const Kind &kind, bool withI
     return ussd.takesInput == withInput ? ussd.code : QString();
 }
 
-/// Adds a code to which the network replies with a menu. Only the general window can show menus.
+/// Adds a code whose reply is a menu. Only the general window supports menus.
 void Planner::takeResponse(const ProviderCode &code, const Kind &kind)
 {
     if (isUssdCode(code.code) && code.code.length() <= LONGEST_COMMAND)
@@ -150,7 +150,7 @@ void Planner::takeMessage(const ProviderCode &code, const Kind &kind)
     PlannedMessage message;
     message.textKey = QLatin1String(kind.textKey);
     message.explanation = code.smsText + QString::fromUtf8(" \xe2\x86\x92 ") +
-                          code.code; // U+2192, an arrow that is understood in any language
+                          code.code; // U+2192, an arrow, which is understood in every language
     message.text = code.smsText;
     message.number = code.code;
     m_plan.messages << message;
@@ -169,8 +169,7 @@ void Planner::addProfile(const QString &code, const Kind &kind)
     m_plan.profiles << profile;
 }
 
-/// Makes the names of profiles and messages of the same kind unique, so that the user can
-/// distinguish them.
+/// Makes the names of profiles and messages of the same kind unique.
 void Planner::nameApart(const Kind &kind)
 {
     const QString key = QLatin1String(kind.textKey);
@@ -187,7 +186,7 @@ void Planner::nameApart(const Kind &kind)
         USSDProfile &profile = m_plan.profiles[i];
         if (profile.langID != key)
             continue;
-        if (!isFirst) { // only the name is replaced, because the description states the purpose
+        if (!isFirst) { // the description still states the purpose
             profile.name = profile.value;
             profile.langID.clear();
         }
@@ -200,9 +199,9 @@ void Planner::note(const ProviderCode &code, const QString &what)
     m_plan.notes << QString::fromLatin1("line %1: ").arg(code.line) + what;
 }
 
-/// Sorts the profiles for the buttons. The last two buttons of the general window send nothing
-/// until a number is entered. Codes with input therefore come last, after a placeholder for each
-/// missing one, so that every code without input has a button that works at once.
+/// Assigns the profiles to buttons. The last two buttons of the general window require a number.
+/// Codes with input therefore come last, and placeholders fill the two places if necessary. As a
+/// result, the buttons of codes without input are always ordinary buttons.
 void Planner::placeButtons()
 {
     QList<USSDProfile> plain;
@@ -214,7 +213,8 @@ void Planner::placeButtons()
     QList<USSDProfile> placeholders;
     while (!plain.isEmpty() && placeholders.count() + paying.count() < PAYMENT_BUTTONS)
         placeholders << placeholder();
-    // There are only eleven buttons, so two codes with input come before the remaining codes.
+    // Only eleven buttons exist. The first codes without input and two codes with input receive
+    // them.
     m_plan.profiles = taken(plain, 0, FIRST_PAYMENT_SLOT, true) + placeholders +
                       taken(paying, 0, PAYMENT_BUTTONS, true) +
                       taken(plain, FIRST_PAYMENT_SLOT, -1, false) +

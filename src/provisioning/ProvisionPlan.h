@@ -7,34 +7,34 @@
 namespace Provisioning
 {
 
-/** A short message that the services window offers. */
+/** A short message that can be sent from the services window. */
 struct PlannedMessage {
-    QString textKey; // text key of the service's name; other strings are shown unchanged
+    QString textKey; // text key of the service's name, or the name itself
     QString explanation;
     QString text;
     QString number;
 };
 
-/** The codes of an operator, arranged for the plug-in's windows. */
+/** An operator's codes, assigned to the windows of the plug-in. */
 struct ProvisionPlan {
     QString country;
     QString provider;
     QString network; // MCC and MNC of the SIM; empty if unknown
-    QString balance; // the code; empty if the operator does not have one
-    QString topUp;   // the code with "%s"; empty if the operator does not have one
+    QString balance; // a code, or empty if there is none
+    QString topUp;   // a code that contains "%s", or empty if there is none
     QString ownNumber;
-    QList<Formats::USSDProfile> profiles; // in the order of the profiles file
+    QList<Formats::USSDProfile> profiles; // in the order of the profile file
     QList<PlannedMessage> messages;
-    QStringList imsiPrefixes; // in ascending order
-    QStringList notes;        // descriptions of codes that the plug-in cannot use, in English
+    QStringList imsiPrefixes; // sorted in ascending order
+    QStringList notes;        // codes that the plug-in does not support, in English
 
-    /// Returns true if there is nothing to write.
+    /// Returns true if the plan contains neither profiles nor messages.
     bool isEmpty() const { return profiles.isEmpty() && messages.isEmpty(); }
 };
 
-/// Arranges the operator's codes. The account window receives the first usable code of each kind,
-/// and every code becomes a profile. `network` is the MCC and MNC of the SIM. It becomes an IMSI
-/// prefix even if the database does not list it for the operator.
+/// Assigns the operator's codes to the windows. The account window receives the first suitable code
+/// of each kind, and every code becomes a profile. `network` is the MCC and MNC of the SIM. It
+/// becomes an IMSI prefix even if the database does not contain it for this operator.
 ProvisionPlan provisionPlan(const Provider &provider, const QString &network = QString());
 
 } // namespace Provisioning

@@ -24,7 +24,7 @@ bool isChecksum(const QByteArray &text)
     return text.size() == CHECKSUM_DIGITS && QByteArray::fromHex(text).toHex() == text;
 }
 
-/// Parses a line of a record. Returns false if the line is damaged.
+/// Parses a line of the record. Returns false if the line is invalid.
 bool takeLine(const QByteArray &line, ProvisionRecord &record)
 {
     const QList<QByteArray> words = line.split(' ');

@@ -10,25 +10,25 @@ namespace Provisioning
 {
 
 /**
- * A record of the files that were written to a folder, and of their operator. The record is stored
- * next to the files, so that later manual changes can be detected.
+ * Describes the operator and the files that were written to a folder. The record is stored with the
+ * files and makes it possible to detect later manual changes.
  */
 struct ProvisionRecord {
     QString country;
     QString provider;
     QString network;                 // MCC and MNC; empty if unknown
-    QMap<QString, QByteArray> files; // checksums (SHA-1 in hexadecimal digits), keyed by file name
+    QMap<QString, QByteArray> files; // SHA-1 checksums in hexadecimal digits, keyed by file name
 
     bool isValid() const { return !files.isEmpty(); }
 };
 
 QByteArray provisionRecordText(const ProvisionRecord &record);
-/// Parses a record. Returns an invalid record if `text` is damaged.
+/// Parses a record. If `text` is damaged, the returned record is invalid.
 ProvisionRecord provisionRecordFrom(const QByteArray &text);
 
 QByteArray provisionChecksum(const QByteArray &content);
 
-/// Returns the file name of the record.
+/// Returns the file name under which the record is stored.
 QString provisionRecordName();
 
 } // namespace Provisioning

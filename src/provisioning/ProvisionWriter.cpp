@@ -15,7 +15,7 @@ namespace
 {
 
 const QLatin1String PLUGINS("/plugins");
-const QLatin1String IN_USE = PluginFiles::FOLDER; // the link to the current set of files
+const QLatin1String IN_USE = PluginFiles::FOLDER; // the link to the active set of files
 const QLatin1String SETS("/provisioned");
 const QLatin1String LINKED_SETS("../provisioned/"); // relative to the link
 const QLatin1String LOCK("/provisioned/.lock");
@@ -23,8 +23,8 @@ const QLatin1String UNFINISHED(".new");
 
 const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/// Returns the number of a set of files, which is the name of its folder. Returns 0 for any other
-/// name.
+/// Returns the number of the set of files that is stored in a folder with this name, or 0 if the
+/// name is not such a number.
 int setNumber(const QString &name)
 {
     bool ok = false;
@@ -50,8 +50,8 @@ bool isOurs(const QString &filesFolder, const QString &name, const ProvisionReco
            provisionChecksum(FileSteps::content(path)) == record.files.value(name);
 }
 
-/// Returns the names of files that were changed or added manually. Returns all file names if the
-/// record is damaged.
+/// Returns the names of the files that have been modified or added manually. If the record is
+/// damaged, returns all file names.
 QStringList changedIn(const QString &filesFolder, const ProvisionRecord &record)
 {
     QStringList changed;
@@ -73,12 +73,13 @@ bool hasAll(const QString &filesFolder, const ProvisionRecord &record)
     return record.isValid();
 }
 
-/// Removes the unchanged files. Also removes the folder if it does not contain any other files.
+/// Removes all files that have not been modified. Removes the folder as well if it is empty
+/// afterwards.
 void removeUnchanged(const QString &filesFolder)
 {
     const ProvisionRecord record = recordOf(filesFolder);
     if (!changedIn(filesFolder, record).isEmpty())
-        return; // the record is kept to identify the changed files
+        return; // the record is required to identify the modified files
     const QStringList names = QDir(filesFolder).entryList(ALL);
     for (int i = 0; i < names.count(); ++i) {
         if (names.at(i) != provisionRecordName() && isOurs(filesFolder, names.at(i), record))
@@ -88,8 +89,8 @@ void removeUnchanged(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/// Removes incomplete files that remain from a killed process. Their folder has a different name
-/// and has never been in use.
+/// Removes the unfinished files of a process that was killed. Such files are in a folder with a
+/// different name and have never been active.
 void removeUnfinished(const QString &filesFolder)
 {
     const QStringList names = QDir(filesFolder).entryList(ALL);
@@ -98,7 +99,7 @@ void removeUnfinished(const QString &filesFolder)
     QDir().rmdir(filesFolder);
 }
 
-/** Writes a set of files, and holds the lock while this object exists. */
+/** Writes a set of files. The lock is held during the lifetime of the object. */
 class Writer
 {
 public:
@@ -190,7 +191,7 @@ bool Writer::mayReplace()
     return m_old.changedFiles.isEmpty() || m_order.setChangedAside;
 }
 
-/// Keeps the files and updates the link to the plug-in, which may have moved.
+/// Keeps the files but updates the link to the plug-in, whose location may have changed.
 void Writer::relink()
 {
     ended(ProvisionOutcome::Current);
@@ -255,7 +256,7 @@ bool Writer::linkPlugin(const QString &filesFolder)
                            m_outcome.problem);
 }
 
-/// Activates the new files. From now on, the plug-in uses these files.
+/// Activates the new set of files for the plug-in.
 bool Writer::putInUse(int number)
 {
     const QString path = m_order.folder + IN_USE;
@@ -266,7 +267,7 @@ bool Writer::putInUse(int number)
            FileSteps::syncFolder(m_order.folder + PLUGINS, m_outcome.problem);
 }
 
-/// Removes old sets of files, including those that remain from killed processes.
+/// Removes old sets of files, including the unfinished sets of processes that were killed.
 void Writer::tidyUp(int inUse)
 {
     const QString sets = m_order.folder + SETS + QLatin1Char('/');

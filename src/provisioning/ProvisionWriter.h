@@ -11,18 +11,18 @@ namespace Provisioning
 {
 
 /*
- * Writes the folder of an operator. GetPluginLibraryPath() must return this folder for the
- * operator's SIM cards.
+ * Writes the folder of an operator. GetPluginLibraryPath() must return this folder for SIMs of the
+ * operator.
  *
  *   FOLDER/plugins/USSDUIPlugin     a link to the set of files in use; replaced atomically
  *   FOLDER/provisioned/1            the two files, a link to the plug-in, the record
  *
- * A new set of files is written to a new folder and activated by replacing the link. Therefore, the
- * plug-in finds either the old set or the new set, even if the program is killed. Files are never
- * overwritten. The old set is removed unless it has been changed manually.
+ * To replace the files, the writer creates a new set in a new folder and then replaces the link.
+ * The plug-in therefore always finds a complete set, even if the program is killed. Files are never
+ * overwritten. The old set is removed unless it has been modified manually.
  *
- * The plug-in reads its configuration only once. Therefore, a program must do the following before
- * it loads the plug-in:
+ * The plug-in reads its configuration only once. A program must therefore perform the following
+ * steps before it loads the plug-in:
  *
  *   folder = operatorFolder(operatorsFolder(), network);
  *   provision = readProvision(folder);
@@ -30,56 +30,58 @@ namespace Provisioning
  *       provision.record describes the operator chosen earlier, for example for a menu;
  *   otherwise: choose an operator as in ProviderChoice.h, call writeProvision(), and repeat.
  *
- * If the user decides against all operators, the program must store this decision in its own
- * settings.
+ * If the user rejects all operators, the program must store this decision in its own settings.
  */
 
-/** The state of an operator's folder. */
+/** The contents of an operator's folder. */
 struct Provision {
-    ProvisionRecord record;   // invalid if nothing was provisioned or the record is damaged
-    QString filesFolder;      // the current folder; empty if there is none
-    QStringList changedFiles; // names of the files that were changed or added manually
-    bool isForeign = false;   // true if the folder contains files that were not provisioned
+    ProvisionRecord record;   // invalid if there is no record or if it is damaged
+    QString filesFolder;      // the folder of the active set; empty if there is none
+    QStringList changedFiles; // names of files that have been modified or added manually
+    bool isForeign = false;   // true if the folder contains files that have not been provisioned
 
-    /// Returns true if the folder contains the plug-in's two files.
+    /// Returns true if the folder contains both files of the plug-in.
     bool isUsable() const;
 };
 
-/// Reads the state of a folder without changing it. May be called from any thread.
+/// Examines the folder without changing it. May be called from any thread.
 Provision readProvision(const QString &folder);
 
 struct ProvisionOrder {
-    QString folder;        // created if it does not exist
-    QString pluginLibrary; // the path of the installed plug-in to link to; empty for no link
-    /// Allows the writer to deactivate manually edited files. The files are kept in their folder.
+    QString folder;        // created if necessary
+    QString pluginLibrary; // path of the plug-in to which a link is created; empty for no link
+    /// Allows the writer to replace files that have been modified manually. They are kept in their
+    /// folder.
     bool setChangedAside = false;
 };
 
 struct ProvisionOutcome {
     enum State {
         Written,
-        Current, // the files already exist; manual changes remain in effect
-        Refused, // manually edited or unprovisioned files would be replaced
+        Current, // the files already exist; manual changes are kept
+        Refused, // files that were modified manually or not provisioned would be replaced
         Failed
     };
 
     State state = Failed;
-    QStringList changedFiles; // paths of these files
-    QString keptFolder;       // contains the deactivated files that were changed manually
-    QString problem;          // error message in English; empty on success
+    QStringList changedFiles; // paths of the modified files
+    QString keptFolder;       // folder of the modified files that are no longer active
+    QString problem;          // error message in English, or an empty string
 };
 
-/// Writes the files of `plan` and activates them, or refuses to do so (see ProvisionOutcome). If
+/// Writes the files of `plan` and activates them unless the result is Current or Refused. If
 /// several processes write to the same folder, they wait for each other.
 ProvisionOutcome writeProvision(const ProvisionOrder &order, const ProvisionPlan &plan,
                                 const ProvisionFiles &files);
 
-/// Returns the folder for the user's data, "ussd-dashboard" below $XDG_DATA_HOME or its default. A
-/// relative path in the variable is invalid and ignored. QStandardPaths of Qt 5 would use it.
+/// Returns the user's data folder, which is "ussd-dashboard" in $XDG_DATA_HOME or in its default. A
+/// relative path in the variable is invalid and therefore ignored, unlike in QStandardPaths of Qt
+/// 5.
 QString userDataHome();
 /// Returns the folder that contains the user's operator folders.
 QString operatorsFolder();
-/// Returns the operator folder for a network code. `network` may be any name without a separator.
+/// Returns the operator folder for a network code. `network` may also be another name, but must not
+/// contain a path separator.
 QString operatorFolder(const QString &operators, const QString &network);
 
 } // namespace Provisioning

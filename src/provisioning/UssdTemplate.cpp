@@ -10,9 +10,8 @@ namespace Provisioning
 namespace
 {
 
-/// Returns true if the replacement is unambiguous. A replacement that consists of dialable
-/// characters, such as "1", must occur only once in the code, because another occurrence may be
-/// intended as part of the code.
+/// Returns true if the replacement is unambiguous. If it consists only of dialable characters, as
+/// in "1", it must not occur more than once, because one occurrence might be a part of the code.
 bool isClear(const ProviderCode &code)
 {
     return !isDialable(code.replacement) || code.code.count(code.replacement) == 1;

@@ -6,15 +6,15 @@
 namespace Provisioning
 {
 
-/** A code of the database, converted to the plug-in's format. */
+/** A code from the database, converted to the format of the plug-in. */
 struct UssdTemplate {
-    QString code;            // contains "%s" instead of the user's input; empty if not usable
-    bool takesInput = false; // the code contains "%s"
-    QString problem;         // the reason why the code cannot be used; empty if it can be used
+    QString code;            // contains "%s" for the user's input; empty if not usable
+    bool takesInput = false; // true if the code contains "%s"
+    QString problem;         // the reason why the code cannot be used; empty if it can
 };
 
-/// Converts a code such as "*103*CODE#" with the replacement "CODE" to "*103*%s#". Only the value
-/// of the replacement attribute is replaced. A code without this attribute does not take any input.
+/// Converts a code to the format of the plug-in. For example, "*103*CODE#" with the replacement
+/// "CODE" becomes "*103*%s#". A code without a replacement attribute does not accept input.
 UssdTemplate ussdTemplate(const ProviderCode &code);
 
 } // namespace Provisioning
