@@ -19,7 +19,7 @@ double median(std::vector<double> values)
     return values.size() % 2 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
-/// Prints the median, the minimum and the maximum.
+/// Prints the median, the minimum and the maximum of the values.
 void printFigures(const std::vector<double> &values)
 {
     std::printf("\t%.6g\t%.6g\t%.6g", median(values),

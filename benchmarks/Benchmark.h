@@ -6,21 +6,22 @@
 #include <vector>
 
 /*
- * Measures ratios. A subject and its baseline are measured alternately in one process, because the
- * speed of a machine drifts. The median of the ratios is compared with the limit.
+ * Functions that measure ratios. The subject and its baseline are measured alternately in the same
+ * process, because the speed of a machine varies over time. The median of the ratios is compared
+ * with a limit.
  */
 namespace Benchmark
 {
 
-/// Performs one measurement and returns the result per unit of work.
+/// A function that performs a measurement and returns the result per unit of work.
 typedef std::function<double()> Measurement;
 
 const char MICROSECONDS[] = "µs";
 
-/// Used for comparisons that have no limit.
+/// The limit for comparisons that cannot fail.
 const double NO_LIMIT = 0;
 
-/// Describes a comparison: the subject, its baseline and the limit of the ratio.
+/// The name, the unit and the limit of a comparison between a subject and its baseline.
 struct Title {
     std::string what;
     std::string baseline;
@@ -36,23 +37,24 @@ struct Title {
 
 const int ROUNDS = 11;
 
-/// Returns the wall-clock time of `work` in microseconds.
+/// Returns the wall-clock time that `work` takes, in microseconds.
 double microseconds(const std::function<void()> &work);
 
-/// Measures subject and baseline alternately, after one warm-up round, and prints the row.
+/// Measures the subject and the baseline alternately and prints the result as a row. The first
+/// round is a warm-up and does not count.
 void compare(const Title &title, const Measurement &measure, const Measurement &baseline,
              int rounds = ROUNDS);
 
-/// Prints a row for benchmark_report. Its fields, separated by tabs, are: the title; the unit; the
-/// median, minimum and maximum of the subject, of the baseline and of the ratios; and the limit.
+/// Prints a row for benchmark_report. The fields are separated by tabs: the title; the unit; the
+/// median, minimum and maximum of the subject, of the baseline and of the ratio; and the limit.
 void report(const Title &title, const std::vector<double> &measured,
             const std::vector<double> &baseline);
 
 /// Discards all Qt messages.
 void dropMessages();
 
-/// Binds this thread, and the threads that it starts later, to one core. Returns false if no core
-/// has this number.
+/// Binds the calling thread, and the threads that it starts later, to a core. Returns false if
+/// there is no core with this number.
 bool stayOnCore(int core);
 
 } // namespace Benchmark

@@ -3,9 +3,9 @@
 
 class QWidget;
 
-/// Returns a dialog that looks like `original` but consists of plain Qt widgets. It has the same
-/// kinds of widgets, texts, sizes, states and layouts, but no connections, files or object names.
-/// The caller owns the dialog.
+/// Returns a dialog that looks like `original` but consists only of Qt widgets. The widgets have
+/// the same types, texts, sizes, states and layouts, but no connections, files or object names. The
+/// caller owns the dialog.
 QWidget *plainCopy(const QWidget &original, QWidget *parent);
 
 #endif

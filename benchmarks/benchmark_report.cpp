@@ -1,5 +1,5 @@
 /*
- * Converts the rows that the benchmarks print (see Benchmark::report) to a Markdown table and a bar
+ * Converts the rows printed by the benchmarks (see Benchmark::report) to a Markdown table and a bar
  * chart:
  *
  *     benchmark_report ROWS.tsv CHART.png >TABLE.md
@@ -16,7 +16,7 @@
 namespace
 {
 
-/// A median with its minimum and maximum.
+/// The median of a series of measurements, with the minimum and the maximum.
 struct Spread {
     double median, smallest, largest;
 };
@@ -67,8 +67,7 @@ QList<Row> readRows(const QString &path)
     return rows;
 }
 
-/// Returns the value with three significant digits, without an exponent if the value is not
-/// extreme.
+/// Returns the value with three significant digits. An exponent is used only for extreme values.
 QString number(double value)
 {
     const int digits = value > 0 ? 2 - static_cast<int>(std::floor(std::log10(value))) : 0;
@@ -98,13 +97,13 @@ void printTable(const QList<Row> &rows)
 
 // ---- the chart: a bar for each ratio, with its spread and its limit ----------------------------
 
-const int NAME_WIDTH = 600; // pixels, like the sizes below
+const int NAME_WIDTH = 600; // in pixels, like the sizes below
 const int BARS_WIDTH = 460;
 const int VALUE_WIDTH = 170;
 const int ROW_HEIGHT = 34;
 const int HEAD = 60;
 const int FOOT = 24;
-const int LARGEST_RATIO = 4; // the end of the scale, where longer bars are cut off
+const int LARGEST_RATIO = 4; // the end of the scale; longer bars are cut off
 
 int place(double ratio)
 {

@@ -1,5 +1,5 @@
 /*
- * Measures the time that a host takes to open the general window for the first time.
+ * Measures how long a host takes to open the general window for the first time.
  */
 #include <memory>
 
@@ -13,7 +13,7 @@
 namespace
 {
 
-/// Returns the time to create, show and paint a window, excluding the time to delete it.
+/// Returns the time for creating, showing and painting a window, without the time for deleting it.
 template <typename Make>
 double opening(const Make &make)
 {

@@ -1,7 +1,7 @@
 /*
- * The baseline for the start-up time of the dashboard: an empty main window of the same size. With
- * the argument --with-field, the window contains a text field with the focus and a blinking cursor.
- * This is the baseline for the CPU load of an idle program.
+ * The baseline for the dashboard's start-up time: an empty main window of the same size. With the
+ * argument --with-field, the window contains a focused text field with a blinking cursor and is the
+ * baseline for the CPU load of an idle program.
  */
 #include <QApplication>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 /*
- * Measures the time to read and write the plug-in's files, and to look up an IMSI in the
+ * Measures the time for reading and writing the plug-in's files, and for finding an IMSI in the
  * configuration.
  */
 #include <QApplication>
@@ -25,7 +25,7 @@ const int FEW_PREFIXES = 10;
 const int IMSIS = 100;
 const int IMSI_ROUNDS = 20;
 
-/// Creates a library folder and a user data folder for the plug-in.
+/// Temporary folders that serve as the plug-in's library folder and the user data folder.
 class Folders
 {
 public:
@@ -47,7 +47,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Writes the shipped configuration, enlarged with additional SIM cards to the size to be measured.
+/// Writes the installed configuration, enlarged to the required size with additional SIMs.
 void writeConfiguration(const QString &path)
 {
     QFile shipped(QLatin1String(USSD_SHIPPED_CONFIGURATION));
@@ -120,7 +120,7 @@ double bareWrite(const QString &path, const QList<USSDProfile> &profiles)
     });
 }
 
-/// Returns the time to construct the logic object, which loads the configuration.
+/// Returns the time for constructing the logic object, which reads the configuration.
 double firstLoad()
 {
     const double time = Benchmark::microseconds([] { USSDLogic::GetUSSDLogicInstance(); });
@@ -166,7 +166,7 @@ QHash<QString, int> prefixes(int count)
     return map;
 }
 
-/// Returns IMSIs that no prefix matches, so that a search tries all prefixes of each IMSI.
+/// Returns IMSIs that do not match any prefix. A search for such an IMSI tries all prefix lengths.
 QStringList imsis()
 {
     QStringList result;

@@ -1,7 +1,7 @@
 /*
- * Ends the program into which it is preloaded (LD_PRELOAD) when the first window has been painted.
- * Before that, writes a line to the file descriptor $FIRST_WINDOW_FD. The line contains the time of
- * the monotonic clock in nanoseconds and the peak resident set size in kB.
+ * A library that is preloaded (LD_PRELOAD) into a program. When the first window has been painted,
+ * it writes a line to the file descriptor $FIRST_WINDOW_FD and ends the program. The line contains
+ * the time of the monotonic clock in nanoseconds and the peak resident set size in kB.
  */
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@ long long nanosecondsNow()
     return now.tv_sec * 1000000000LL + now.tv_nsec;
 }
 
-/// Returns the peak resident set size so far.
+/// Returns the peak resident set size of the process in kB.
 long peakKilobytes()
 {
     rusage usage = {};
@@ -39,7 +39,7 @@ public:
     {
         const QWidget *widget = qobject_cast<QWidget *>(object);
         if (event->type() == QEvent::Paint && widget && widget->isWindow() && !m_seen) {
-            m_seen = true; // the children are painted before the queued call
+            m_seen = true; // the queued call runs after the children have been painted
             QMetaObject::invokeMethod(this, "report", Qt::QueuedConnection);
         }
         return false;

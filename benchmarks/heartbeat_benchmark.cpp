@@ -1,6 +1,6 @@
 /*
- * Measures the longest delay of a heartbeat in the GUI thread while a reply of 10,000 characters is
- * shown. The result is given as a fraction of the permitted 100 ms.
+ * Measures how long the GUI thread is blocked while a reply of 10,000 characters is shown. The
+ * result is the longest delay of a heartbeat timer as a fraction of the permitted 100 ms.
  */
 #include <QApplication>
 #include <QElapsedTimer>
@@ -19,7 +19,7 @@ namespace
 
 const int CHARACTERS = 10000;
 const double MAY_BE_LATE = 100; // in milliseconds
-// The number of beats without a change after which the window is considered idle.
+// The number of heartbeats without a change after which the window is considered idle.
 const int QUIET_BEATS = 30;
 const int RUNS = 5;
 
@@ -28,12 +28,14 @@ QString repeated(const QString &piece)
     return piece.repeated(CHARACTERS / piece.length() + 1).left(CHARACTERS);
 }
 
-/** Beats every millisecond and records the longest pause between two beats. */
+/**
+ * A timer that fires every millisecond and records the longest interval between two of its events.
+ */
 class Heart
 {
 public:
     /// Runs the work in the event loop, waits until the window is idle, and returns the longest
-    /// pause in milliseconds.
+    /// interval in milliseconds.
     static double longestPause(const std::function<void()> &work, const std::function<int()> &size)
     {
         Heart heart(work, size);
@@ -109,7 +111,7 @@ void measure(const char *where, double (*pause)(const QString &), const char *wh
 {
     std::vector<double> pauses;
     pauses.reserve(RUNS);
-    pause(reply); // warm-up: fonts of other scripts are loaded only once
+    pause(reply); // warm-up, because fonts for other scripts are loaded only once
     for (int run = 0; run < RUNS; ++run)
         pauses.push_back(pause(reply));
     Benchmark::report(

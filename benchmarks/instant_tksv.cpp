@@ -1,7 +1,7 @@
 /*
- * A device SDK that does only the necessary work: it copies the request, and its own thread answers
- * immediately. The request is passed to the thread by a queued signal, as in the bare round trip. A
- * comparison with the bare round trip therefore shows the cost of the pipeline.
+ * A device SDK that does as little as possible: it copies the request and replies immediately from
+ * its own thread. A queued signal passes the request to this thread, as in the bare round trip. The
+ * difference between the two is therefore the cost of the pipeline.
  */
 #include "instant_tksv.h"
 
@@ -21,7 +21,7 @@ struct Response {
     unsigned short text[3];
 };
 
-/// Sends the answers. Lives in the device's thread.
+/// Sends the replies from the device's thread.
 class Device : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     TKSV_EventCallback m_callback;
 };
 
-/// Accepts requests from the GUI thread and, in a call-back, from the device's thread.
+/// Accepts requests from the GUI thread and from call-backs on the device's thread.
 class InstantNetwork : public QObject
 {
     Q_OBJECT
@@ -163,7 +163,7 @@ long TKSV_SMSSrv_ReleaseSMSRecord(TKSV_SMSRecord)
     return 1;
 }
 
-/// Returns the folder $TKSV_USER_DATA, which must exist, or no folder if the variable is not set.
+/// Returns the folder in $TKSV_USER_DATA, which must exist. Fails if the variable is not set.
 long TKSV_GetUserDataDirectory(unsigned short **directory)
 {
     const QString chosen = QFile::decodeName(qgetenv("TKSV_USER_DATA"));

@@ -1,14 +1,15 @@
 /*
  * Measures the round trip of a command through the plug-in, the SDK and a real ModemManager on a
- * private bus, whose fake modem answers immediately. The round trip is compared with those of the
- * daemon's own library and tool. The program then measures complete programs: the time from the
- * start to the first reply, and the CPU load of an idle program. Like the pipeline benchmark, this
- * program is built twice: with log lines, which a handler discards, and without log lines.
+ * private bus, whose fake modem replies immediately. The baselines are the round trips of
+ * ModemManager's own library and command-line tool. The benchmark then measures complete programs:
+ * the time from the start to the first reply, and the CPU load of an idle program. Like the
+ * pipeline benchmark, it is built both with log lines, which a handler discards, and without log
+ * lines.
  *
- * For the round trips, all threads and the daemon are bound to one core. Otherwise waking up a
- * sleeping core could take longer in one round than the complete library call takes in another.
+ * During the round trips, all threads and the daemon are bound to one core. Otherwise, the time for
+ * waking up a sleeping core could exceed the time of an entire library call.
  */
-// The GLib headers precede the Qt headers, which define "signals" as a macro.
+// Include the GLib headers first, because the Qt headers define the macro "signals".
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -62,7 +63,7 @@ const int IDLE_SECONDS = 60;
     std::exit(1);
 }
 
-/// The plug-in's pipeline on the GUI thread.
+/// The plug-in's pipeline, used from the GUI thread.
 class Pipeline : public QObject
 {
     Q_OBJECT
@@ -141,9 +142,9 @@ double valueOf(const std::string &file, const std::string &key)
     return value;
 }
 
-/// Returns the peak of the resident memory of a program in MB, read in the moment when the program
-/// exits. The figure of wait4() would contain the memory of this process, which the program shared
-/// until its start.
+/// Returns the peak memory usage of a program in MB. It is read when the program exits. The value
+/// from wait4() would include the memory of this process, which the new process shares until it
+/// executes the program.
 double megabytesOf(const std::vector<std::string> &command)
 {
     const pid_t child = spawn(command);
@@ -230,14 +231,13 @@ void compareFirstReplies()
         [&] { return millisecondsOf(dashboard); }, [] { return millisecondsOf(TOOL); });
 }
 
-/// The number of waits that the threads of a process have started, and the CPU time of these
-/// threads.
+/// The number of waits that the threads of a process have started, and the CPU time of the threads.
 struct Activity {
     double waits = 0;
     double cpuMilliseconds = 0;
 };
 
-/// Returns the CPU time of a thread: the first number of its schedstat file.
+/// Returns the CPU time of a thread, which is the first number in its schedstat file.
 double nanosecondsOnCpu(const std::string &thread)
 {
     std::ifstream stream(thread + "/schedstat");
@@ -263,7 +263,7 @@ Activity activityOf(pid_t process)
     return sum;
 }
 
-/// Measures both programs at the same time, after they have become idle.
+/// Measures both programs simultaneously after they have become idle.
 void compareIdling()
 {
     const pid_t ours = spawn({USSD_DASHBOARD});

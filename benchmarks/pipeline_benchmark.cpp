@@ -1,10 +1,11 @@
 /*
- * Measures the round trip of a command through the pipeline, and the cost of a long queue. This
- * program is built twice: with log lines, which a handler discards, and without log lines.
+ * Measures the round trip of a command through the pipeline, and the cost of a long queue. The
+ * program is built both with log lines, which a handler discards, and without log lines.
  *
- * In the first part, all threads are bound to one core. In the second part, the GUI and the device
- * have one core each. Without this binding, they would share a core only in some rounds, and waking
- * up a sleeping core takes longer than everything else.
+ * For the first measurement, all threads are bound to one core. For the second measurement, the GUI
+ * thread and the device's thread are bound to different cores. Without these bindings, the threads
+ * would share a core only in some rounds, and waking up a sleeping core takes longer than
+ * everything else.
  */
 #include <string>
 
@@ -52,7 +53,7 @@ private:
     int m_missing = 0;
 };
 
-/// One end of a bare queued connection.
+/// An endpoint of a bare queued connection.
 class Echo : public QObject
 {
     Q_OBJECT
@@ -63,7 +64,7 @@ signals:
     void answer(int number, QString text);
 };
 
-/// Sends a signal to another thread, which sends a signal back.
+/// Sends a signal to another thread, which replies with a signal.
 class BareRoundTrip
 {
 public:
@@ -95,7 +96,7 @@ private:
     Counter m_counter;
 };
 
-/// Constructs the pipeline and deletes it at the end.
+/// Constructs the pipeline and deletes it when the object is destroyed.
 class Pipeline
 {
 public:
@@ -136,8 +137,8 @@ public:
         m_counter.await(length);
     }
 
-    /// Must be called after the queue has been cleared. The next answer belongs to no command and
-    /// cancels the timer.
+    /// Must be called after the queue has been cleared. The reply to the cleared command disarms
+    /// the time-out.
     void settle() { instant_tksv_settle(); }
 
 private:
@@ -160,7 +161,7 @@ double eachOf(int times, const Trip &trip)
            times;
 }
 
-/// Measures one step with queues of this length. The step is repeated with short queues until the
+/// Measures one step with queues of this length. For short queues, the step is repeated until the
 /// total number of commands equals that of the long queue.
 double stepOfQueue(int length, const std::function<void()> &before,
                    const std::function<void()> &step, const std::function<void()> &after)
@@ -174,7 +175,7 @@ double stepOfQueue(int length, const std::function<void()> &before,
     return sum / LONG_QUEUE;
 }
 
-/// Performs a step with a queue of the given length and returns the time that the step takes.
+/// A function that performs a step with a queue of the given length and returns the time taken.
 typedef std::function<double(int)> QueueStep;
 
 void compareQueues(const char *step, const QueueStep &measure)

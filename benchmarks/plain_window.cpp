@@ -1,6 +1,6 @@
 /*
- * A copy of the dashboard's main window that consists of plain Qt widgets, without a device, files
- * or languages. It shows which part of the dashboard's start-up time is spent in Qt.
+ * A copy of the dashboard's main window that consists only of Qt widgets and has no device, files
+ * or languages. It shows how much of the dashboard's start-up time is spent in Qt.
  */
 #include <QApplication>
 #include <QFrame>

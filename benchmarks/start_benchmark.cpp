@@ -1,7 +1,7 @@
 /*
- * Measures complete processes: the time from the start of a program until its first window is
- * painted, and the memory used by then. The same preloaded library (first_window.cpp) observes all
- * programs.
+ * Measures complete processes: the time from the start of a program until its first window has been
+ * painted, and the memory used so far. The preloaded library first_window.cpp takes the
+ * measurements in all programs.
  */
 #include <algorithm>
 #include <cstdio>
@@ -50,7 +50,7 @@ std::string readAll(int descriptor)
     return text;
 }
 
-/// Returns the environment of this process, with the observing library in LD_PRELOAD.
+/// Returns the environment of this process, extended so that the measuring library is preloaded.
 std::vector<std::string> watchedEnvironment(int descriptor)
 {
     char **end = environ;

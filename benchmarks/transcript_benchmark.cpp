@@ -15,8 +15,8 @@ namespace
 const int LONG = 10000;
 const int MIDDLE = 1000;
 const int SHORT = 10;
-const int ADDED = 20;       // entries in a measurement
-const int WHOLE_ROUNDS = 3; // setting a long text takes some time
+const int ADDED = 20;       // number of entries added in a measurement
+const int WHOLE_ROUNDS = 3; // fewer rounds, because setting a long text is slow
 
 Transcript::Entry entry(int number)
 {
@@ -49,7 +49,7 @@ double addOne(TranscriptView &view)
 
 double addOneToShort(TranscriptView &view)
 {
-    fill(view, SHORT); // the previous round has added entries
+    fill(view, SHORT); // removes the entries that the previous round has added
     return addOne(view);
 }
 

@@ -1,10 +1,10 @@
 /*
- * The echo device: a second device SDK library, in a single file. It is only a simulation without a
- * network. It replies to each code with the code itself, for example "Echo simulation: *100#". It
- * has no menus and cannot send short messages. docs/host-integration.md lists the guarantees that a
- * device SDK library must provide.
+ * The echo device: another device SDK library, implemented in a single file. It simulates a device
+ * without a network and replies to each code with the code itself, for example "Echo simulation:
+ * *100#". It has no menus and does not support short messages. docs/host-integration.md specifies
+ * the guarantees that a device SDK library must provide.
  *
- * To run a host with this library, set LD_LIBRARY_PATH to the folder that contains libtksv.so.1.
+ * To run a host with this library, add the folder of libtksv.so.1 to LD_LIBRARY_PATH.
  */
 #include <algorithm>
 #include <atomic>
@@ -26,11 +26,11 @@ namespace
 
 const long OK = 0;
 const long FAILED = 1;
-const int REPLY_WITHOUT_MENU = 0; // the type of a reply after which the network waits for no answer
+const int REPLY_WITHOUT_MENU = 0; // the type of a final reply
 
 /**
- * Runs tasks one after another in a thread of this library. All call-backs run in this thread, so
- * that only one of them runs at a time, and never inside a function that the client calls.
+ * Runs tasks one after another on a thread of this library. All call-backs run on this thread.
+ * Therefore, only one call-back runs at a time, and never during a call from the client.
  */
 class Worker
 {
@@ -90,7 +90,7 @@ class CallbackList
 {
 public:
     long add(TKSV_EventCallback callback);
-    /// Waits until no call-back is running, unless a call-back calls this function.
+    /// Removes the call-back. Waits until it is not running, unless it is called from a call-back.
     long remove(TKSV_EventCallback callback);
     bool isEmpty();
     void call(int event, void *data);
@@ -143,12 +143,12 @@ void CallbackList::call(int event, void *data)
     }
 }
 
-/** The device. The worker is the last member, so that its thread ends before the lists are gone. */
+/** The device. The worker must be the last member, because its thread uses the other members. */
 struct EchoDevice {
     CallbackList ussd;
     CallbackList device;
     CallbackList sms;
-    std::atomic<unsigned> lastRequest{0}; // a reply to any earlier request is dropped
+    std::atomic<unsigned> lastRequest{0}; // replies to earlier requests are dropped
     Worker worker;
 };
 
@@ -182,8 +182,8 @@ std::u16string codeOf(const TKSV_USSDRequest &request)
     return code;
 }
 
-/// Returns the user's folder of this library, which ends with "/". Creates the folder. Returns an
-/// empty string if the user has no home directory.
+/// Returns the user's folder for this library, which is created if necessary and ends with "/".
+/// Returns an empty string if the user has no home directory.
 std::u16string userFolder()
 {
     const char *home = std::getenv("HOME");
@@ -283,7 +283,7 @@ long TKSV_GetUserDataDirectory(unsigned short **directory)
         *directory = new unsigned short[folder.size() + 1]();
         std::copy(folder.begin(), folder.end(), *directory);
         return OK;
-    } catch (...) { // an exception must not leave a C function
+    } catch (...) { // exceptions must not cross the C interface
         return FAILED;
     }
 }

@@ -1,6 +1,6 @@
 /*
- * A minimal host. It loads the plug-in, shows the general window in a widget and shuts the plug-in
- * down in the required order. docs/host-integration.md explains this order.
+ * A minimal host. It loads the plug-in, shows the general window in a widget, and shuts the plug-in
+ * down in the required order, which is explained in docs/host-integration.md.
  *
  *   minimal-host [--once CODE] [PLUGIN-FILE]
  *
@@ -33,8 +33,8 @@ struct Options {
 };
 
 struct Plugin {
-    IUIPlugin *window = nullptr; // the general window and the plug-in's life cycle
-    IUSSD *ussd = nullptr;       // all four windows; valid until OnDestroy()
+    IUIPlugin *window = nullptr; // controls the life cycle and the general window
+    IUSSD *ussd = nullptr;       // controls all four windows; valid until OnDestroy()
 };
 
 int fail(const QString &text)
@@ -59,8 +59,8 @@ Options optionsOf(QStringList arguments)
     return options;
 }
 
-/// Loads the plug-in and gets its interfaces. Returns an error message, or an empty string on
-/// success.
+/// Loads the plug-in and stores its interfaces in `plugin`. Returns an empty string on success,
+/// otherwise an error message.
 QString take(QPluginLoader &loader, Plugin &plugin)
 {
     QObject *instance = loader.instance();
@@ -78,13 +78,13 @@ QString take(QPluginLoader &loader, Plugin &plugin)
     return plugin.ussd ? QString() : QLatin1String("the USSD service lacks its interface");
 }
 
-/// Must be called from the GUI thread while the widgets that contain the plug-in's page still
-/// exist.
+/// Shuts the plug-in down. Must be called from the GUI thread before the widgets that contain the
+/// plug-in's page are deleted.
 void shutDown(QPluginLoader &loader, Plugin &plugin)
 {
     HostCore::HostState::setShuttingDown(true);
     if (plugin.window) {
-        plugin.window->UnSDKRegisterEvent(); // ends all call-backs of the device SDK
+        plugin.window->UnSDKRegisterEvent(); // no call-back of the device SDK runs after this
         plugin.window->OnDestroy();
     }
     plugin = Plugin();
@@ -94,7 +94,7 @@ void shutDown(QPluginLoader &loader, Plugin &plugin)
     }
 }
 
-/// Enters the text like an input method, because setText() does not emit textEdited().
+/// Enters the text with an input method event, because setText() does not emit textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     QInputMethodEvent event;
@@ -107,8 +107,8 @@ QString named(const char *role)
     return QLatin1String("USSDUIPlugin_AdvancedDialog_") + QLatin1String(role);
 }
 
-/// Sends the code and waits for the reply. The plug-in disables the input field until the reply
-/// arrives or the reply timer expires.
+/// Sends the code and waits for the reply. The wait ends when the plug-in enables the input field
+/// again, after either a reply or a time-out.
 int sendOnce(QWidget *page, const QString &code)
 {
     const QPointer<QLineEdit> edit(page->findChild<QLineEdit *>(named("USSDCmdEdit")));
