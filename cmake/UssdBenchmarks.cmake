@@ -1,5 +1,5 @@
-# Functions that add benchmarks. A complete build includes the benchmarks, but only benchmarks/run
-# runs them.
+# Functions that add benchmarks. A complete build also builds the benchmarks. They are run only by
+# benchmarks/run.
 #
 #   ussd_add_benchmark(NAME SOURCES... LIBRARIES...)   a program that prints measurements
 #   ussd_add_helper(NAME SOURCES... LIBRARIES...)      another program that the benchmarks use

@@ -1,19 +1,19 @@
-# Functions that install what other programs need to build against a library: headers, a pkg-config
-# file and a CMake package. All paths in these files are relative, so that users can move the
-# installation.
+# Functions that install the files required for building against a library: headers, a pkg-config
+# file and a CMake package. All paths in these files are relative, so that the installation can be
+# moved.
 #
 #   ussd_add_development_files(TARGET PACKAGE NAME PKG_CONFIG NAME DESCRIPTION TEXT FOLDER NAME
 #                              HEADERS FILE... [REQUIRES PKG-CONFIG-NAME...] [VARIABLE NAME=VALUE])
 #
-# PACKAGE is the name for find_package(). The package has the target PACKAGE::TARGET. The folder
-# cmake/packages contains the template of its file. FOLDER is the folder of the headers. VARIABLE is
-# another variable of the pkg-config file.
+# PACKAGE is the package name for find_package(). The package defines the target PACKAGE::TARGET.
+# Its template is in cmake/packages. FOLDER is the folder of the headers. VARIABLE adds a variable
+# to the pkg-config file.
 include(CMakePackageConfigHelpers)
 
 set(USSD_PKG_CONFIG_DIR ${USSD_LIB_DIR}/pkgconfig)
 file(RELATIVE_PATH USSD_PREFIX_FROM_PKG_CONFIG /prefix/${USSD_PKG_CONFIG_DIR} /prefix)
 
-# The Qt modules whose headers the public headers of the core library include.
+# The Qt modules that the public headers of the core library use.
 if(USSD_QT_VERSION EQUAL 4)
     set(USSD_QT_TARGETS Qt4::QtGui)
     set(USSD_QT_MODULES QtGui)

@@ -1,10 +1,10 @@
-# Functions that add fuzzers with coverage feedback (libFuzzer from clang; preset fuzz).
+# Functions that add coverage-guided fuzzers (libFuzzer of clang, preset fuzz).
 #
 #   ussd_add_fuzzer(NAME RUNS NUMBER MAX_LENGTH BYTES SOURCES... LIBRARIES... [DICTIONARY FILE])
 #
-# Adds the program NAME, which can run for any length of time, and a test with the same name, which
+# Adds the program NAME, which can run for any length of time, and a test of the same name, which
 # tries RUNS inputs with a fixed random seed. The folder corpus/NAME contains the initial inputs and
-# every input that has ever caused a failure.
+# all inputs that have caused a failure in the past.
 
 set(USSD_FUZZ_SECONDS_FOR_ONE_INPUT 20)
 
@@ -24,7 +24,7 @@ function(ussd_add_fuzzer name)
     ussd_add_script_test(${name} COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/fixed_runs.sh
                          $<TARGET_FILE:${name}> ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}
                          ${arg_RUNS} ${options} LABELS fuzz)
-    # The parameters of the fuzzer, for scripts/fuzz.sh.
+    # The parameters that scripts/fuzz.sh passes to the fuzzer.
     file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/tests/fuzz/${name}.options
          CONTENT "$<JOIN:${options},\n>\n")
 endfunction()

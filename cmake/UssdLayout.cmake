@@ -1,7 +1,7 @@
-# The installation layout, which follows the Filesystem Hierarchy Standard. The build tree has the same
-# layout as the installation prefix, so that a path relative to a library is valid in both. The only
-# exception is the configuration: the build tree contains copies of the files where the installation
-# contains links to them.
+# The installation layout, which follows the Filesystem Hierarchy Standard. The build tree has the
+# same layout as the installation prefix, so that paths relative to a library are valid in both.
+# There is one exception: the installation contains links to the configuration files, whereas the
+# build tree contains copies.
 include(GNUInstallDirs)
 
 set(USSD_PACKAGE ussd-dashboard)
@@ -16,13 +16,13 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${USSD_LIB_DIR})
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/archives)
 
-# The run path is relative, so that users can move the installation to another folder. The linker
-# writes it as RUNPATH (not RPATH), so that LD_LIBRARY_PATH can select another device SDK library.
+# The run path is relative, so that the installation can be moved. It is stored as RUNPATH (not
+# RPATH), so that LD_LIBRARY_PATH can select another device SDK library.
 file(RELATIVE_PATH USSD_LIB_FROM_BIN /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${USSD_LIB_DIR})
 file(RELATIVE_PATH USSD_LIB_FROM_PLUGIN /prefix/${USSD_PLUGIN_DIR} /prefix/${USSD_LIB_DIR})
 
-# ussd_copy_data(TARGET DESTINATION FILE...): copies the files to DESTINATION in the build tree,
-# without installing them.
+# ussd_copy_data(TARGET DESTINATION FILE...): copies the files to DESTINATION in the build tree. The
+# files are not installed.
 function(ussd_copy_data target destination)
     set(copies)
     foreach(file IN LISTS ARGN)
@@ -39,20 +39,20 @@ function(ussd_copy_data target destination)
     add_custom_target(${target} ALL DEPENDS ${copies})
 endfunction()
 
-# ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION (relative to the
-# prefix) and copies them to the same relative folder in the build tree.
+# ussd_add_data(TARGET DESTINATION FILE...): installs the files to DESTINATION, a path relative to
+# the prefix, and copies them to the same relative path in the build tree.
 function(ussd_add_data target destination)
     ussd_copy_data(${target} ${destination} ${ARGN})
     install(FILES ${ARGN} DESTINATION ${destination})
 endfunction()
 
-# ussd_add_configuration(TARGET DESTINATION FILE...): installs the files to USSD_CONFIG_DIR, where an
-# administrator may change them, and links to them from DESTINATION. The build tree contains copies
-# in DESTINATION instead of the links.
+# ussd_add_configuration(TARGET DESTINATION FILE...): installs the files to USSD_CONFIG_DIR, where
+# an administrator can edit them, and creates links to them in DESTINATION. In the build tree,
+# DESTINATION contains copies of the files.
 function(ussd_add_configuration target destination)
     ussd_copy_data(${target} ${destination} ${ARGN})
     install(FILES ${ARGN} DESTINATION ${USSD_CONFIG_DIR})
-    # A link within the prefix is relative, so that users can move the installation.
+    # A relative link remains valid if the prefix is moved.
     set(folder ${USSD_CONFIG_DIR})
     if(NOT IS_ABSOLUTE ${folder})
         file(RELATIVE_PATH folder /prefix/${destination} /prefix/${folder})

@@ -1,14 +1,14 @@
-# Functions for precompiled headers. The compiler spends most of its time on the headers of Qt, GLib
-# and the C++ standard library. Targets with the same compiler options therefore share one
-# precompiled copy of these headers:
+# Functions for precompiled headers. Most of the compile time is spent on the headers of Qt, GLib
+# and the C++ standard library. Targets with the same compiler options therefore share a precompiled
+# copy of these headers:
 #
 #   ussd_add_precompiled_headers(KIND LEVEL [HIDDEN] HEADERS... LIBRARIES...)
 #   ussd_use_precompiled_headers(TARGET KIND)
 #
-# All targets of one KIND have the same C++ standard (LEVEL), symbol visibility (HIDDEN) and Qt
-# modules (LIBRARIES). The compiler rejects precompiled headers for a target with different options
-# (-Winvalid-pch). A source file still has to include every header that it uses, because the presets
-# quick and tidy do not use precompiled headers.
+# All targets of a KIND use the same C++ standard (LEVEL), symbol visibility (HIDDEN) and Qt modules
+# (LIBRARIES). If the options differ, the compiler rejects the precompiled headers (-Winvalid-pch).
+# Source files must still include all headers that they use, because the presets quick and tidy do
+# not use precompiled headers.
 
 set(USSD_PRECOMPILED_CXX
     <algorithm> <atomic> <chrono> <functional> <map> <memory> <mutex> <string> <utility> <vector>)
@@ -43,8 +43,8 @@ function(ussd_use_precompiled_headers target kind)
     endif()
 endfunction()
 
-# Adds a library that contains only the precompiled headers. The library has no compile definitions,
-# because the compiler would require the same definitions for every target that uses the headers.
+# Adds a library that contains only the precompiled headers. It must not have compile definitions,
+# because all targets that use the headers would require the same definitions.
 function(ussd_add_precompiled_headers kind level)
     cmake_parse_arguments(arg "HIDDEN" "" "HEADERS;LIBRARIES" ${ARGN})
     if(NOT USSD_PRECOMPILED_HEADERS)

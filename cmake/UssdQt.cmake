@@ -1,19 +1,19 @@
-# Defines the same target names for all Qt versions: ussd::qtcore, ussd::qtwidgets (all GUI modules)
-# and ussd::qttest.
+# Defines targets with the same names for all Qt versions: ussd::qtcore, ussd::qtwidgets (all GUI
+# modules) and ussd::qttest.
 add_library(ussd_qtcore INTERFACE)
 add_library(ussd_qtwidgets INTERFACE)
 add_library(ussd_qttest INTERFACE)
-# Modules that only the dashboard uses, with Qt 5 and Qt 6.
+# Modules that only the dashboard uses. It requires Qt 5 or Qt 6.
 add_library(ussd_qtdashboard INTERFACE)
 
 if(USSD_QT_VERSION EQUAL 6)
-    # Core5Compat has QRegExp. Patterns in configuration files have the meaning of QRegExp, with every
-    # version of Qt.
+    # Core5Compat provides QRegExp. Patterns in configuration files use the syntax of QRegExp with
+    # every Qt version.
     find_package(Qt6 6.4 REQUIRED COMPONENTS Core Core5Compat DBus Gui Sql Svg Widgets Test)
     target_link_libraries(ussd_qtcore INTERFACE Qt6::Core Qt6::Core5Compat)
     target_link_libraries(ussd_qtwidgets INTERFACE Qt6::Widgets)
-    # Qt6::Test also defines the folders of each test, for QFINDTESTDATA. The precompiled headers of the
-    # tests, which require the same definitions in all folders, could not be used with them.
+    # Qt6::Test also adds definitions for QFINDTESTDATA, which differ for each folder. The tests
+    # could then not share precompiled headers, which require identical definitions.
     set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     target_link_libraries(ussd_qttest INTERFACE Qt6::Test)
     target_link_libraries(ussd_qtdashboard INTERFACE Qt6::DBus Qt6::Sql Qt6::Svg)
@@ -36,18 +36,19 @@ elseif(USSD_QT_VERSION EQUAL 4)
 else()
     message(FATAL_ERROR "USSD_QT_VERSION is '${USSD_QT_VERSION}'; expected 6, 5 or 4")
 endif()
-# The loader of Qt 4 refuses a library whose build key differs from its own. No Qt 4 has a key that ends
-# with the version of another Qt, so a Qt 4 host never loads a library that requires that Qt.
+# The loader of Qt 4 rejects a library if its build key differs from its own. The build keys of Qt 4
+# never end with the version number of Qt 5 or Qt 6, so that a Qt 4 host never loads this library.
 set(USSD_PLUGIN_BUILD_KEY "${USSD_QT4_BUILD_KEY}")
 if(NOT USSD_QT_VERSION EQUAL 4)
     string(APPEND USSD_PLUGIN_BUILD_KEY " qt${USSD_QT_VERSION}")
 endif()
 
-# Forbids implicit conversions between QString and char *, whose encoding differs between Qt 4 and Qt 5.
+# Disable implicit conversions between QString and char *, because Qt 4 and Qt 5 assume different
+# encodings.
 target_compile_definitions(ussd_qtcore INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 target_link_libraries(ussd_qtwidgets INTERFACE ussd_qtcore)
 target_link_libraries(ussd_qttest INTERFACE ussd_qtcore)
-# Targets that use GLib are compiled with -pthread. All tests require the same option, because they
+# Targets that use GLib are compiled with -pthread. All tests must use the same option, because they
 # share precompiled headers.
 target_compile_options(ussd_qttest INTERFACE -pthread)
 add_library(ussd::qtcore ALIAS ussd_qtcore)

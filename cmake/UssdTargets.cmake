@@ -1,5 +1,5 @@
-# Functions that add targets, one function for each kind of target. They use the same warnings, C++
-# standard, symbol visibility, sanitizers and output folders for all targets.
+# Functions that add the different kinds of targets. All targets use the same warnings, C++
+# standard, symbol visibility, sanitizers and output folders.
 #
 #   ussd_add_core_library(NAME SOURCES... LIBRARIES...)     the host core library
 #   ussd_add_sdk_library(NAME SOURCES... LIBRARIES...)      a device SDK library (no Qt)
@@ -9,15 +9,15 @@
 #   ussd_set_up_example(NAME)                               an example, whose folder can also be built
 #                                                           against an installation; not installed
 
-# The C++ standard of the plug-in and its libraries, which can also be compiled with Qt 4. Folders
-# whose code requires Qt 5.15 or later set another standard at the top of their CMakeLists.txt.
+# The C++ standard of the plug-in and its libraries, which must also compile with Qt 4. Folders
+# whose code requires Qt 5.15 or later set another standard at the start of their CMakeLists.txt.
 if(USSD_QT_VERSION EQUAL 6)
-    set(USSD_CXX_STANDARD 17) # the headers of Qt 6 require it
+    set(USSD_CXX_STANDARD 17) # required by the headers of Qt 6
 else()
     set(USSD_CXX_STANDARD 14)
 endif()
 
-# Sets the properties and options that all of our own targets share.
+# Sets the properties and options that all targets of this project share.
 function(ussd_set_up target)
     set_target_properties(
         ${target}
@@ -31,7 +31,7 @@ function(ussd_set_up target)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
     target_link_options(${target} PRIVATE -Wl,--enable-new-dtags)
-    if(NOT USSD_BUILD_FUZZERS) # clang links sanitizers into programs only, not into libraries
+    if(NOT USSD_BUILD_FUZZERS) # clang links sanitizers only into programs
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
     endif()
     if(USSD_SANITIZE)
@@ -41,8 +41,8 @@ function(ussd_set_up target)
     endif()
 endfunction()
 
-# Links the runtime of the compiler into the target. The dynamic linker needs a millisecond and almost
-# a megabyte for libstdc++.so, which is a third of the start of a small program.
+# Links the compiler's runtime library statically. Loading libstdc++.so takes a millisecond and
+# almost a megabyte, which is a third of the start-up cost of a small program.
 function(ussd_link_runtime_statically target)
     if(NOT USSD_SANITIZE)
         target_link_options(${target} PRIVATE -static-libstdc++ -static-libgcc)
@@ -54,8 +54,8 @@ function(ussd_hide_symbols target)
                                                VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
-# ussd_install_library(TARGET PACKAGE FOLDER): installs a library for which ussd_add_development_files()
-# installs the CMake package. FOLDER is the folder of its headers.
+# ussd_install_library(TARGET PACKAGE FOLDER): installs a library whose CMake package is installed
+# by ussd_add_development_files(). FOLDER is the folder of its headers.
 function(ussd_install_library target package folder)
     install(
         TARGETS ${target}
@@ -109,8 +109,8 @@ function(ussd_add_plugin name)
     add_library(${name} MODULE ${arg_SOURCES})
     ussd_set_up(${name})
     ussd_hide_symbols(${name})
-    # The version script also hides the symbols that the headers of the C++ standard library would
-    # export.
+    # The version script also hides symbols from the headers of the C++ standard library, which
+    # would otherwise be exported.
     target_link_options(${name} PRIVATE -Wl,--version-script=${arg_EXPORTS} -Wl,--gc-sections)
     set_target_properties(
         ${name}

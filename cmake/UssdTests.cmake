@@ -1,16 +1,17 @@
-# Functions that add tests. Each test runs with its own home directory, settings and user data
-# folder, with a fixed language and a time limit, and without a display.
+# Functions that add tests. Each test runs without a display, with its own home directory, settings
+# and user data folder, in a fixed language, and with a time limit.
 #
 #   ussd_add_test(NAME SOURCES... [LIBRARIES...] [LABELS...] [ENVIRONMENT...] [FAKE_SDK])
 #   ussd_start_first(NAME...)      starts these long tests first, to shorten the total time
 #
-# FAKE_SDK replaces the real device SDK with the fake one from tests/fakes through the library path.
+# With FAKE_SDK, the library path selects the fake device SDK from tests/fakes instead of the real
+# one.
 
 set(USSD_TEST_SECONDS 120)
 
 set(USSD_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
-    "TKSV_BACKEND=simulator" # never use the developer's own modem
+    "TKSV_BACKEND=simulator" # prevents tests from using the developer's modem
     "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
     "QT_HASH_SEED=0"
     "LC_ALL=C.UTF-8"
@@ -20,12 +21,12 @@ set(USSD_TEST_ENVIRONMENT
     "UBSAN_OPTIONS=print_stacktrace=1"
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/sanitizers/tsan.supp:second_deadlock_stack=1")
 
-# Sets the environment and the time limit of a test, which may be a program or a script.
+# Sets the environment and the time limit of a test program or a test script.
 function(ussd_set_up_test name)
     cmake_parse_arguments(arg "" "" "LABELS;ENVIRONMENT" ${ARGN})
     set(home ${PROJECT_BINARY_DIR}/tests/home/${name})
     file(MAKE_DIRECTORY ${home})
-    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # also used as XDG_RUNTIME_DIR
+    file(CHMOD ${home} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE) # required for XDG_RUNTIME_DIR
     set_tests_properties(
         ${name}
         PROPERTIES TIMEOUT ${USSD_TEST_SECONDS}
@@ -36,8 +37,8 @@ function(ussd_set_up_test name)
     )
 endfunction()
 
-# Sets the common properties of test programs. They are linked with gold, which takes only a third
-# of the time. All other programs are linked with the compiler's default linker.
+# Sets the properties that all test programs share. They are linked with gold, which takes a third
+# of the time. All other programs are linked with the default linker of the compiler.
 function(ussd_set_up_test_program name)
     ussd_set_up(${name})
     set_target_properties(${name} PROPERTIES CXX_STANDARD 17 AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY
@@ -47,7 +48,7 @@ function(ussd_set_up_test_program name)
     endif()
 endfunction()
 
-# Adds the test to the target tests_LABEL of each label. This target builds only the tests with this
+# Adds the test to the target tests_LABEL of each label, which builds only the tests with this
 # label.
 function(ussd_add_to_labels name)
     foreach(label IN LISTS ARGN)
@@ -76,8 +77,8 @@ function(ussd_add_test name)
     ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
 endfunction()
 
-# CTest starts those tests first that took longest in the previous run. In the first run, CTest uses
-# this cost instead.
+# CTest starts the tests in descending order of their running time in the previous run. This cost
+# replaces the running time in the first run.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
 endfunction()

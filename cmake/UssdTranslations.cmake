@@ -1,6 +1,6 @@
-# ussd_add_translations(TARGET FILE.ts...): compiles each language file, appends its checksum, and
-# installs the result. The build tree contains the result in the same relative folder. The core
-# library treats a file without a checksum as damaged.
+# ussd_add_translations(TARGET FILE.ts...): compiles each language file, appends its checksum and
+# installs the result. The build tree contains the result under the same relative path. The core
+# library treats language files without a checksum as damaged.
 set(USSD_SEAL_TRANSLATION ${CMAKE_CURRENT_LIST_DIR}/seal_translation.sh)
 
 function(ussd_add_translations target)

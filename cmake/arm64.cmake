@@ -1,5 +1,5 @@
-# Toolchain file for arm64, with Debian's cross compiler and the arm64 packages of the libraries. The
-# programs run under qemu-user. See scripts/cross.sh.
+# Toolchain file for arm64. It uses Debian's cross compiler and the arm64 packages of the libraries.
+# The programs run under qemu-user; see scripts/cross.sh.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)

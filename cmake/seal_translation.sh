@@ -1,7 +1,7 @@
 #!/bin/sh
 # seal_translation.sh FILE.qm: appends the SHA-1 checksum of the file, so that Languages.cpp can
-# detect a damaged file before QTranslator reads it and crashes. The checksum is stored as a section
-# in the QM format with the tag "S" and a length of 40 bytes (the character "("). QTranslator skips
+# detect a damaged file, which could make QTranslator crash. The checksum is stored as a section in
+# the QM format with the tag "S" and a length of 40 bytes (the character "("). QTranslator skips
 # this section.
 set -e
 sum=$(sha1sum <"$1")
