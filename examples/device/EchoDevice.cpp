@@ -90,7 +90,8 @@ class CallbackList
 {
 public:
     long add(TKSV_EventCallback callback);
-    /// Removes the call-back. Waits until it is not running, unless it is called from a call-back.
+    /// Removes the call-back. Waits until the call-back is not running, unless a call-back makes
+    /// this call.
     long remove(TKSV_EventCallback callback);
     bool isEmpty();
     void call(int event, void *data);

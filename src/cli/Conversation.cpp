@@ -87,8 +87,8 @@ private:
     std::optional<Outcome> m_response;
 };
 
-/// Returns the only mailbox. It is never destroyed, because a call-back may still run at program
-/// exit.
+/// Returns the program's mailbox. It is never destroyed, because a call-back may still run at
+/// program exit.
 Mailbox &mailbox()
 {
     static auto *const only = new Mailbox;

@@ -32,7 +32,7 @@ public:
 
 private:
     JsonObject *const m_object;
-    std::string m_seconds; // the last member
+    std::string m_seconds; // the text of the member that addSeconds() adds
 };
 
 } // namespace Cli

@@ -97,8 +97,8 @@ bool skipToBefore(QXmlStreamReader &reader, const QString &name, const QString &
     return false;
 }
 
-/// Tracks the depth of nested elements in a loop. QXmlStreamReader::readElementText() is recursive,
-/// so deep nesting would overflow the stack.
+/// Returns the text of the current element. The nesting depth is tracked in a loop, because
+/// QXmlStreamReader::readElementText() is recursive and deep nesting would overflow the stack.
 QString text(QXmlStreamReader &reader)
 {
     QString text;

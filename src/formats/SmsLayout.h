@@ -112,8 +112,7 @@ const int MAX_ORDINARY_ENTRIES = 25;
 const int MAX_INPUT_LENGTH = 1024;
 /// The maximum length of "LimitText". A longer LimitText is ignored.
 const int MAX_LIMIT_TEXT = 1000;
-/// The maximum width and height of the window in pixels. Without this limit, a window could use up
-/// the memory.
+/// The maximum width and height of the window in pixels. A larger window could exhaust the memory.
 const int MAX_WINDOW_SIDE = 4096;
 
 /// Reads to the end of the document. Returns false if the document is not well-formed, but keeps

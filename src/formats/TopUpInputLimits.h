@@ -25,9 +25,9 @@ bool isChargeLongEnough(const TopUpInputLimits &rules, int characters);
 /// isChargeExpressionUsable() before you use the expression.
 QString chargeExpression(const TopUpInputLimits &rules);
 
-/// Returns true if the expression is a single character class with a repetition count. If LimitText
-/// closed the character class, QRegExp could use up all time and memory. The layout of the services
-/// window applies the same rule.
+/// Returns true if the expression is a single character class with a repetition count. Any other
+/// expression is rejected, because a LimitText that closes the character class could make QRegExp
+/// hang or exhaust the memory. The layout of the services window applies the same rule.
 bool isChargeExpressionUsable(const TopUpInputLimits &rules);
 
 } // namespace Formats

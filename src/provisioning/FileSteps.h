@@ -32,7 +32,7 @@ bool exists(const QString &path);
 QByteArray content(const QString &path); ///< returns an empty array if the file cannot be read
 
 /**
- * A lock between processes. The constructor waits until no other process holds the lock. The
+ * An inter-process lock. The constructor waits until no other process holds the lock. The
  * destructor releases the lock.
  */
 class Lock

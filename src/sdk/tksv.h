@@ -85,7 +85,7 @@ typedef struct TKSV_USSDRequest {
  */
 typedef struct TKSV_USSDResponse {
     int type;               /* the <m> of +CUSD */
-    int reserved;           /* has no meaning */
+    int reserved;           /* reserved */
     unsigned short text[1]; /* UTF-16 of any length, terminated by a zero code unit */
 } TKSV_USSDResponse;
 
@@ -94,9 +94,9 @@ typedef struct TKSV_USSDResponse {
  * TKSV_SMSSrv_CreateSMSRecord. They are null-terminated UTF-16 strings owned by the record.
  */
 typedef struct TKSV_SMSSendResult {
-    unsigned char reserved0[16];  /* has no meaning */
+    unsigned char reserved0[16];  /* reserved */
     int result;                   /* 0 if the message was sent, otherwise an error */
-    unsigned char reserved1[64];  /* has no meaning */
+    unsigned char reserved1[64];  /* reserved */
     const unsigned short *number; /* the recipient */
     const unsigned short *text;   /* the message */
 } TKSV_SMSSendResult;

@@ -8,7 +8,7 @@
 namespace Tools
 {
 
-/** A place in a file that is wrong or may not have the intended effect. */
+/** A problem at a certain position in a file. */
 struct CheckFinding {
     qint64 line = 0;   // starts at 1; 0 refers to the entire file
     qint64 column = 0; // starts at 1; 0 refers to the entire line

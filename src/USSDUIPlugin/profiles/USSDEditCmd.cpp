@@ -101,7 +101,7 @@ void USSDEditCmd::initWidgets()
     m_pInfoLabel->setWordWrap(true);
     m_pInfoLabel->setBuddy(m_pTable);
     m_pTable->setTabKeyNavigation(true);
-    // Return must not press the button, because it ends the editing of a cell.
+    // The Return key must only end the editing of a cell and not press this button.
     m_pSaveButton->setAutoDefault(false);
     m_pCancelButton->setAutoDefault(false);
 }

@@ -20,7 +20,8 @@ class CallbackGate
 public:
     CallbackGate();
 
-    /// Must be called before the object is constructed, on the thread that constructs it.
+    /// Marks the start of the construction. Must be called from the thread that constructs the
+    /// object.
     void startOpening();
     void open();
     /// Rejects all further call-backs and waits until all other threads have left the gate.

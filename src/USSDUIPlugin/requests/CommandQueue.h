@@ -9,9 +9,9 @@
  * The commands that wait for the device, in FIFO order. The head of the queue is the command in
  * flight.
  *
- * The class does not lock anything. Threads that share a queue must lock a mutex for each call.
- * Because the queue may change between two calls, each head has a unique number, by which threads
- * refer to it. A thread can therefore never mark or remove a newer head by mistake.
+ * The class is not thread-safe. Threads that share a queue must lock a mutex for each call. Because
+ * the queue may change between two calls, each head has a unique number, by which threads refer to
+ * it. A thread can therefore never mark or remove a newer head by mistake.
  */
 class CommandQueue
 {

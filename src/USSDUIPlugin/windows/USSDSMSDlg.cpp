@@ -278,8 +278,8 @@ int CUSSDSMSDlg::windowWidth() const
     return SmsLayoutFile::windowSize(m_layout.dialog).width();
 }
 
-/// Handles Return without any action. Otherwise, pressing Return in the tree would press the
-/// frame's default button, which sends a command.
+/// Accepts Return and does nothing. Otherwise, pressing Return in the tree would press the frame's
+/// default button, which sends a command.
 void CUSSDSMSDlg::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
