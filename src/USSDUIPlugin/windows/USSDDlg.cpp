@@ -549,7 +549,6 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
 /// directly would block the pipeline while a reply is being reported. A rejected command is
 /// reported from the key handler of the input field, which the host could delete while the message
 /// box is open.
-/// the field while the handler runs.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();
