@@ -32,7 +32,7 @@ class Conversation
 public:
     /// `device` and `waits` must outlive the object. `timeout` is the time limit for each reply.
     Conversation(Device &device, Waits &waits, Milliseconds timeout);
-    /// Ends the session if it is open.
+    /// Ends the session if a menu is open.
     ~Conversation();
     Conversation(const Conversation &) = delete;
     Conversation &operator=(const Conversation &) = delete;
@@ -41,9 +41,8 @@ public:
     void onTurnAwaited(std::function<void()> notify) { m_turnAwaited = std::move(notify); }
 
     /// Sends the string and waits for the reply. If the time limit expires or a signal arrives
-    /// first, cancels the request. Does not send the string after a signal. Does not send the
-    /// string either if the modem has been replaced since the first string, because another
-    /// subscriber would be charged.
+    /// first, cancels the request. Does not send the string if a signal has arrived, or if the
+    /// modem has been replaced since the first string, because another subscriber would be charged.
     Outcome send(const std::string &text);
     /// Ends the session if a menu is open.
     void end();

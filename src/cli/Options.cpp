@@ -128,7 +128,7 @@ std::string quoted(const std::string &word)
 
 /* ---- error messages ---------------------------------------------------------------------- */
 
-const char READS_INPUT[] = "-"; // used instead of a code
+const char READS_INPUT[] = "-"; // means that the codes are read from standard input
 
 std::string problemOfWord(const std::string &word)
 {

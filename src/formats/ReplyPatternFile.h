@@ -26,7 +26,7 @@ const QLatin1String TITLE("# USSD reply patterns");
 const QLatin1String BALANCE("balance");
 const QLatin1String CURRENCY("currency"); // not a pattern, but the currency of the balance
 const QLatin1String VALIDITY("validity");
-const QLatin1String DATE_FORMAT("validity-format"); // of QDate::fromString()
+const QLatin1String DATE_FORMAT("validity-format"); // a format for QDate::fromString()
 const QLatin1String NUMBER("number");
 const QLatin1String DATA_LEFT("data-left");
 const QLatin1String DATA_TOTAL("data-total");

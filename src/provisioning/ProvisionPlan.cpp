@@ -213,8 +213,7 @@ void Planner::placeButtons()
     QList<USSDProfile> placeholders;
     while (!plain.isEmpty() && placeholders.count() + paying.count() < PAYMENT_BUTTONS)
         placeholders << placeholder();
-    // Only eleven buttons exist. The first codes without input and two codes with input receive
-    // them.
+    // Only eleven profiles can have buttons: nine codes without input and two codes with input.
     m_plan.profiles = taken(plain, 0, FIRST_PAYMENT_SLOT, true) + placeholders +
                       taken(paying, 0, PAYMENT_BUTTONS, true) +
                       taken(plain, FIRST_PAYMENT_SLOT, -1, false) +

@@ -11,7 +11,7 @@ namespace Tksv
 namespace
 {
 
-/// The time that the program waits at its exit for a running call-back.
+/// The maximum time to wait for a running call-back at program exit.
 const std::chrono::milliseconds EXIT_LIMIT(1000);
 
 /// The key of the listener in a service with a single listener.

@@ -19,7 +19,7 @@ void insertBlock(QTextCursor &cursor, const QTextBlock &block)
         cursor.insertText(it.fragment().text(), it.fragment().charFormat());
 }
 
-/// Appends a plain entry. It looks the same as in a document of its own.
+/// Appends a plain entry so that it looks the same as in a separate document.
 void insertAtEnd(QTextDocument &document, const QString &markup)
 {
     QTextDocument alone;

@@ -399,7 +399,7 @@ void USSDDlg::resetCharge()
         return;
     }
     m_pChargeEdit->setFocus(Qt::OtherFocusReason);
-    m_pChargeActivateButton->setDefault(true); // shows which button Return presses
+    m_pChargeActivateButton->setDefault(true); // highlights the button that Return presses
 }
 
 void USSDDlg::OnCloseButtonClicked()

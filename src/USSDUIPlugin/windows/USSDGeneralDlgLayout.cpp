@@ -29,8 +29,8 @@ const int PAYMENT_FIELD_SLOT = 8;
 const int FIRST_FREE_SLOT = 9;
 const int RIGHT_COLUMN = 2; // the first of the columns with the transcript and the input field
 const int RIGHT_COLUMNS = 5;
-// The row and the column that grow with the window. They enlarge the transcript without tearing the
-// boxes of preset buttons apart, because there is free space below the buttons of the second box.
+// The row and the column that grow with the window, both of which contain the transcript. The row
+// also belongs to the second box of preset buttons, which has free space below its buttons.
 const int STRETCHING_ROW = 5;
 const int STRETCHING_COLUMN = 3;
 const int PROMPT_ROW = 8;

@@ -71,7 +71,7 @@ QString layoutPath()
     return PluginFiles::path(folder, PluginFiles::CONFIGURATION);
 }
 
-/// Logs that there is no path. Only in this line, a text precedes the time.
+/// Logs that there is no path. This is the only log line in which text precedes the time.
 void logNoPath(const char *function, const QString &path)
 {
     USSD_IF_LOGGING(qDebug("config file error %s: %s: %s : %s", PluginLog::timeOfDay(), LOG_SOURCE,

@@ -13,7 +13,7 @@ class QWidget;
 enum PAID_TYPE {
     PAID_TYPE_PREPAID = 0,  ///< account window for a prepaid SIM
     PAID_TYPE_POSTPAID = 1, ///< account window for a postpaid SIM
-    PAID_TYPE_GENERAL = 3,  ///< general window, for any code and for the user's own codes
+    PAID_TYPE_GENERAL = 3,  ///< general window, for arbitrary codes and the user's profiles
     PAID_TYPE_NONE = 4,     ///< no window
     PAID_TYPE_USSD_SMS = 5  ///< window of the operator's services
 };

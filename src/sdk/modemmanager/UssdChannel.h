@@ -150,7 +150,7 @@ private:
     bool m_hasNewQuestion = false; // true if NetworkRequest contains an unreported prompt
 
     std::optional<Request> m_next;    // starts as soon as no call is running
-    std::optional<Request> m_running; // its call is running, or its reply waits for the state
+    std::optional<Request> m_running; // its call is running, or its reply is being held back
     std::optional<std::string> m_replyText;
     Clock::time_point m_callStart;
     bool m_isCallPending = false; // true until the call of m_running returns

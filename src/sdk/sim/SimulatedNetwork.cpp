@@ -11,7 +11,7 @@ namespace
 {
 
 const Amount HUNDREDTHS_IN_UNIT = 100;
-const int PIN_RETRIES = 3;               // the same as on every SIM (ETSI TS 102 221, 9.5.1)
+const int PIN_RETRIES = 3;               // as on real SIMs (ETSI TS 102 221, 9.5.1)
 const std::size_t MAX_AMOUNT_DIGITS = 9; // the maximum number of digits in a balance
 
 UssdReply emptyReply(TKSV_Failure reason)
