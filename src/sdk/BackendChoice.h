@@ -20,9 +20,9 @@ class ModemManagerBackend;
  * certain modem. By default, any modem is used. The simulator is used only if it is selected
  * explicitly. The backend is created on demand and can be replaced at any time.
  *
- * Locking: m_switchMutex is held while a backend is replaced. It must be locked before all locks of
- * the session, the backends and the services. m_mutex must be locked after all of these. The
- * watch's thread locks only m_mutex.
+ * Locking: m_switchMutex is held while a backend is replaced. It must be acquired before any lock
+ * of the session, the backends and the services. m_mutex must be acquired after all of these locks.
+ * The watch's thread acquires only m_mutex.
  */
 class BackendChoice
 {

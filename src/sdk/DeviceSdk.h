@@ -15,7 +15,7 @@ namespace Tksv
 /**
  * Implements the C functions. The object owns the services, the session and the current backend.
  *
- * Threads: each service has a thread, which the first event starts. Each backend has its own
+ * Threads: each service has a thread, which is started by the first event. Each backend has its own
  * thread. All threads end when the program exits. The object itself is never destroyed, because
  * threads of the client may still be using it. For the same reason, the library is never unloaded.
  *

@@ -13,7 +13,7 @@
  *
  * Call-backs are rejected while the object is being constructed, except for the SMS call-back,
  * which waits until the construction is complete. The device reports only once that short messages
- * can be sent, namely soon after the registration of this call-back.
+ * can be sent, soon after this call-back has been registered. This report must not be lost.
  */
 class CallbackGate
 {

@@ -11,7 +11,7 @@
  * isArmed(). The underlying QTimer is started and stopped later on its own thread. This thread also
  * emits timeout(), but only if the time-out is still armed and its time has elapsed.
  *
- * For efficiency, arming and disarming usually do not touch the QTimer. If it fires too early, it
+ * For efficiency, arming and disarming usually do not access the QTimer. If it fires too early, it
  * is restarted for the remaining time. If it fires after the time-out has been disarmed, it is
  * stopped. A command that is answered in time therefore requires neither an event nor a new system
  * timer.

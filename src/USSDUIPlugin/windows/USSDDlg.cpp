@@ -545,10 +545,10 @@ void USSDDlg::routeResponse(int component, const QString &text, bool isWaiting)
         onPrePostPaidRspReceived(text);
 }
 
-/// Shows the reply to a top-up. A message box is always opened from the event loop. Opening it
-/// directly would block the pipeline while a reply is being reported. A rejected command is
-/// reported from the key handler of the input field, which the host could delete while the message
-/// box is open.
+/// Shows the reply to a top-up. A message box is not opened directly but later from the event loop.
+/// While a reply is being reported, an open message box would block the pipeline. While a rejected
+/// command is being reported, the key handler of the input field is running, and the host could
+/// delete the field before the user closes the message box.
 void USSDDlg::onChargeResponseReceived(const QString &text)
 {
     USSD_LOG_SCOPE();

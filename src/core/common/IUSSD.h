@@ -30,8 +30,8 @@ public:
     virtual ~IUSSD() {}
 
     /// If `ask` is true and the configuration enables the query, asks the network whether the SIM
-    /// is prepaid or postpaid. The host later receives the result as
-    /// PluginContract::MESSAGE_PRE_POST_INFO from INotifyService.
+    /// is prepaid or postpaid. The result is later sent to the host as
+    /// PluginContract::MESSAGE_PRE_POST_INFO through INotifyService.
     ///
     /// If `ask` is true, `inUse` is set to true if the configuration enables the query, otherwise
     /// to false. If the query is enabled, `postpaid` is set to false, and `result` is set to 1 if

@@ -174,9 +174,9 @@ void ModemWatch::setSilent(bool isSilent)
     m_changed();
 }
 
-/// Creates the manager synchronously. In an asynchronous call, GLib would create the manager on a
-/// worker thread, and its signals would be delivered to the program's main context, which may not
-/// be running. The call does not start the daemon, because this is the system administrator's
+/// Creates the manager synchronously. If it were created asynchronously, GLib would use a worker
+/// thread, and the manager's signals would be delivered to the program's main context, which may
+/// not be running. The call does not start the daemon, because this is the system administrator's
 /// decision.
 void ModemWatch::createManager(int triesLeft)
 {
