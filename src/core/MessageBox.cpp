@@ -14,7 +14,7 @@ namespace HostCore
 namespace
 {
 
-// The size limits for text in a label. Longer text is shown in a scrolling view.
+// The size limits for text in a label. Longer text is shown in a scrollable view.
 const int LABEL_MAX_CHARACTERS = 600;
 const int LABEL_MAX_LINES = 12;
 const int LABEL_MAX_WORD = 50;

@@ -35,7 +35,7 @@ const QRect BUTTON(285, 72, 150, 32);
 const QRect REPLY(285, 140, 340, 210);
 const int MOST_SERVICES = 25;
 
-// ---- looks of the shipped configuration ----------------------------------------------------
+// ---- elements of the installed configuration -----------------------------------------------
 
 /** A token in an element that is copied from the installed configuration. */
 struct Token {

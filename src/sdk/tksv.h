@@ -73,7 +73,7 @@ typedef unsigned char (*TKSV_EventCallback)(int event, void *data);
  */
 typedef struct TKSV_USSDRequest {
     unsigned int length; /* length of the command in bytes: an even number from 2 to 368 */
-    unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16 without a terminating zero */
+    unsigned short text[TKSV_USSD_MAX_UNITS]; /* UTF-16, not null-terminated */
 } TKSV_USSDRequest;
 
 /**
@@ -86,7 +86,7 @@ typedef struct TKSV_USSDRequest {
 typedef struct TKSV_USSDResponse {
     int type;               /* the <m> of +CUSD */
     int reserved;           /* reserved */
-    unsigned short text[1]; /* UTF-16 of any length, terminated by a zero code unit */
+    unsigned short text[1]; /* null-terminated UTF-16 of any length */
 } TKSV_USSDResponse;
 
 /**

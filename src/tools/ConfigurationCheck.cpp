@@ -525,7 +525,7 @@ void Check::sectionsTwice()
     }
 }
 
-// ---- the plug-in's reader ------------------------------------------------------------------
+// ---- the plug-in's parser ------------------------------------------------------------------
 
 PluginConfig readWholeConfiguration(const QByteArray &xml)
 {

@@ -354,7 +354,7 @@ void USSDLogic::OnTimeOut()
         return;
     if (LockedQueue()->claimHeadInFlight(head, number) != CommandQueue::Claimed)
         return;
-    const QPointer<USSDLogic> self(this); // a receiver may shut everything down
+    const QPointer<USSDLogic> self(this); // a receiver may shut down the plug-in
     emit responseReceived(head.command.component, tr(QLatin1String("USSD_CODE_TIME_OUT")));
     if (!self)
         return;

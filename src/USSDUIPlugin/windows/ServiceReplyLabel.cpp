@@ -7,7 +7,8 @@
 namespace
 {
 
-// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING. Qt 4 does not support the newer isolates.
+// LEFT-TO-RIGHT EMBEDDING and POP DIRECTIONAL FORMATTING. Qt 4 does not support directional
+// isolates.
 const ushort EMBED = 0x202A;
 const ushort POP = 0x202C;
 

@@ -11,7 +11,7 @@ namespace Tksv
 enum class GroupKind { Network, Sms, Push, Event, Code, Answer, Unknown };
 
 GroupKind kindOf(const std::string &name);
-/// Returns the number from a group name "SMS number", or an empty string for the group "SMS".
+/// Returns the number in a group name of the form "SMS number", or an empty string for "SMS".
 std::string smsNumberOf(const std::string &name);
 /// Returns the name of the menu to which the answer belongs, for example "*123#/1" for "*123#/1/2".
 std::string menuOf(const std::string &answerGroup);
