@@ -24,7 +24,8 @@ LineReader::Result LineReader::next(std::string &line, const Waits::Condition &i
     return Result::Line;
 }
 
-/// Removes the first line from the buffer. The last line of a file may not end with a line feed.
+/// Removes the first line from the buffer. The last line of a file does not have to end with a line
+/// feed.
 bool LineReader::takeLine(std::string &line)
 {
     const std::size_t end = m_buffer.find('\n');

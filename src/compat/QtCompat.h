@@ -69,8 +69,7 @@ public:
 
     State validate(QString &input, int &position) const override
     {
-        const QRegExp pattern(
-            m_pattern); // the const function must not change the member's captures
+        const QRegExp pattern(m_pattern); // a copy, because matching changes the captures
         if (pattern.exactMatch(input))
             return Acceptable;
         if (pattern.matchedLength() == input.size())

@@ -20,8 +20,8 @@ struct ProvisionPlan {
     QString country;
     QString provider;
     QString network; // MCC and MNC of the SIM; empty if unknown
-    QString balance; // a code, or empty if there is none
-    QString topUp;   // a code that contains "%s", or empty if there is none
+    QString balance; // the balance code; empty if there is none
+    QString topUp;   // the top-up code, with "%s"; empty if there is none
     QString ownNumber;
     QList<Formats::USSDProfile> profiles; // in the order of the profile file
     QList<PlannedMessage> messages;

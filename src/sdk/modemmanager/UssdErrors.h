@@ -30,10 +30,10 @@ bool isServiceLost(const GError &error);
 /// Returns true if the system's policy denied the call.
 bool isNotPermitted(const GError &error);
 
-/// Returns the problem to report to the user after an attempt to enable the modem has failed.
+/// Returns the problem to report to the user if the modem could not be enabled.
 TKSV_DeviceProblem problemOfEnableError(const GError &error);
 
-/// Returns the problem to report to the user after the PIN could not be verified.
+/// Returns the problem to report to the user if the PIN could not be verified.
 TKSV_DeviceProblem problemOfPinError(const GError &error);
 
 } // namespace Tksv
