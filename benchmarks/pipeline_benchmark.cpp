@@ -137,8 +137,8 @@ public:
         m_counter.await(length);
     }
 
-    /// Must be called after the queue has been cleared. The reply to the cleared command disarms
-    /// the time-out.
+    /// Disarms the time-out with a reply to the command that was cleared. Must be called after the
+    /// queue has been cleared.
     void settle() { instant_tksv_settle(); }
 
 private:

@@ -77,8 +77,8 @@ function(ussd_add_test name)
     ussd_set_up_test(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT})
 endfunction()
 
-# CTest starts the tests in descending order of their running time in the previous run. This cost
-# replaces the running time in the first run.
+# CTest starts the tests in descending order of their running time in the previous run. In the first
+# run, CTest uses this cost instead.
 function(ussd_start_first)
     set_tests_properties(${ARGN} PROPERTIES COST 10)
 endfunction()

@@ -84,7 +84,7 @@ bool Waits::isEnding()
 }
 
 /// Sleeps until there is a wake-up, a signal or an event on the file, or until `end`. Errors on the
-/// file are also events. The next read or write operation then fails.
+/// file count as events, because the next read or write operation reports them.
 void Waits::sleep(Clock::time_point end, pollfd &extra)
 {
     pollfd files[] = {{m_wakeUps, POLLIN, 0}, {m_signals.descriptor(), POLLIN, 0}, extra};

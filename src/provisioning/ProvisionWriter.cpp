@@ -24,7 +24,7 @@ const QLatin1String UNFINISHED(".new");
 const QDir::Filters ALL = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
 /// Returns the number of the set of files that is stored in a folder with this name, or 0 if the
-/// name is not such a number.
+/// name is not a number.
 int setNumber(const QString &name)
 {
     bool ok = false;

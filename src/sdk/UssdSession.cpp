@@ -211,7 +211,8 @@ void UssdSession::keepUnlessTaken(const UntakenText &text, bool taken)
     m_textUntaken();
 }
 
-/// Must be called with m_mutex locked.
+/// Marks the session as idle and posts the messages that were held back. Must be called with
+/// m_mutex locked.
 void UssdSession::becomeIdle()
 {
     m_state = State::Idle;

@@ -203,8 +203,8 @@ TKSV_API long TKSV_GetUserDataDirectory(unsigned short **directory);
 /* ---- layout of the records --------------------------------------------------------------- */
 
 /*
- * The layout is checked when the client is compiled, too, because the client and the library may be
- * built with different compilers. Compilers without static assertions (before C11 or C++11) skip
+ * The layout is checked both in the build of the library and in the build of the client, because
+ * they may use different compilers. Compilers without static assertions (before C11 or C++11) skip
  * the checks.
  */
 #if defined(__cplusplus) && __cplusplus >= 201103L

@@ -16,9 +16,9 @@ inline const char *paidTitleKey(PAID_TYPE type)
     return type == PAID_TYPE_PREPAID ? "IDS_WINDOW_TETLE_PREPAID" : "IDS_WINDOW_TETLE_POSTPAID";
 }
 
-/// Sets the fixed size of the frame to the size of the window plus 20 pixels of height. The size
-/// comes from the configuration file and is limited, because it could be negative or too large for
-/// the memory.
+/// Sets the fixed size of the frame to the size of the window plus 20 pixels of height. The size is
+/// limited, because a size from the configuration file could be negative or require more memory
+/// than is available.
 template <typename Dialog>
 void fixFrameSize(QWidget *frame, Dialog *dialog)
 {

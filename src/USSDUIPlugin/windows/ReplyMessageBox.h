@@ -4,8 +4,8 @@
 #include <QMessageBox>
 
 /*
- * The message box that shows the reply to a top-up. It consists only of Qt classes, so that it can
- * be deleted even after the plug-in has been unloaded.
+ * The message box that shows the reply to a top-up. It consists only of Qt classes, so that
+ * deleting it does not run any code of the plug-in.
  */
 namespace ReplyMessageBox
 {

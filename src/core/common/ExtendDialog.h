@@ -12,8 +12,8 @@ class Q_DECL_EXPORT ExtendDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// Creates a hidden, empty frame. `widgetType` selects the host's frame style; the value 1 is a
-    /// plain window.
+    /// Creates a hidden, empty frame. `widgetType` selects the host's frame style; the value 1
+    /// selects a plain window.
     explicit ExtendDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags(),
                           int widgetType = 1);
     /// Deletes the frame and its content. Content that now has another parent is not deleted.

@@ -22,8 +22,8 @@ int pinRetriesOf(MMModem *modem)
     return left == MM_UNLOCK_RETRIES_UNKNOWN ? -1 : static_cast<int>(left);
 }
 
-/// Returns true if the modem has a lock that the PIN cannot open. An unknown lock does not count,
-/// because the lock is unknown while the modem verifies a PIN.
+/// Returns true if the modem has a lock that cannot be removed with the PIN. An unknown lock does
+/// not count, because the lock is unknown while the modem verifies a PIN.
 bool needsMoreThanPin(MMModemLock lock)
 {
     return lock != MM_MODEM_LOCK_SIM_PIN && lock != MM_MODEM_LOCK_NONE &&

@@ -25,7 +25,7 @@ struct ModemSummary {
 };
 
 /**
- * The state of ModemManager. The initial state is Looking, until ModemManager first responds.
+ * The state of ModemManager. The state is Looking until ModemManager responds for the first time.
  */
 enum class ServiceState { Looking, NoBus, NoService, Running };
 
