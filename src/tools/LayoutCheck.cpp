@@ -54,7 +54,7 @@ QList<int> allNamed(const XmlElements &elements, int section, const char *name)
     return found;
 }
 
-/// Returns the complaint without its numbers, except for the line number.
+/// Returns the complaint with its line number but without any other numbers.
 QString kindOfComplaint(const QString &complaint)
 {
     const int colon = complaint.indexOf(QLatin1Char(':'));

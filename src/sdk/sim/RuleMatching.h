@@ -14,7 +14,7 @@ namespace Tksv
 /** The rule that matches a string from the client. */
 struct Match {
     std::string group;  // name of the group; empty if no rule matches
-    std::string digits; // the digits in the place of %s
+    std::string digits; // the digits matched by %s
 };
 
 /// Returns the group that is named exactly like the code, or else the longest matching pattern.
@@ -26,7 +26,7 @@ bool isMenu(const Scenario &scenario, const std::string &group);
 /// Returns the rule for this number, or else the rule for all other numbers.
 SmsRule findSms(const Scenario &scenario, const std::string &number);
 
-/// Returns the digits in the place of %s, or std::nullopt if the code does not match the pattern.
+/// Returns the digits matched by %s, or std::nullopt if the code does not match the pattern.
 std::optional<std::string> matchPattern(const std::string &pattern, const std::string &code);
 
 } // namespace Tksv

@@ -45,8 +45,7 @@ struct Rule {
     std::string goTo; // the group whose rule is applied instead; may be empty
     Milliseconds delay = Milliseconds(0);
 
-    /// The allowed number of digits in the place of %s, and the reply to any other number of
-    /// digits.
+    /// The allowed number of digits for %s in a code, and the reply to any other number of digits.
     std::size_t minDigits = 1;
     std::size_t maxDigits = MAX_CODE_DIGITS;
     std::string wrongDigits;
