@@ -19,7 +19,7 @@ const Switch SWITCHES[] = {{"--verbose", &Arguments::verbose},
                            {"--enable", &Arguments::enable},
                            {"--end-foreign-session", &Arguments::endForeignSession}};
 
-/** Parses the command-line arguments one after another. */
+/** Parses the command-line arguments from the first to the last. */
 class Parser
 {
 public:

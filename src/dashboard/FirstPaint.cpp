@@ -13,8 +13,8 @@ FirstPaint::FirstPaint(QWidget *window, int longestWait)
     QTimer::singleShot(longestWait, this, SLOT(announce()));
 }
 
-/// Queues the signal at the first paint event. The window is painted before its children, and all
-/// of them are painted before the next event is processed.
+/// Queues the signal when the window receives its first paint event. The window and its children
+/// are painted completely before the queued signal is delivered.
 bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Paint) {

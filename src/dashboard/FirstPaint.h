@@ -9,9 +9,10 @@ namespace Dashboard
 {
 
 /**
- * Emits a signal when a window has been painted for the first time, so that slow operations start
- * after the window has become visible. If the window is hidden and therefore not painted, the
- * signal is emitted after a time limit. All functions must be called from the GUI thread.
+ * Emits a signal when a window has been painted for the first time, so that slow operations can be
+ * postponed until the window is visible. If the window is not painted, for example because it is
+ * hidden, the signal is emitted after a time limit. All functions must be called from the GUI
+ * thread.
  */
 class FirstPaint : public QObject
 {

@@ -44,7 +44,8 @@ bool isSet(const char *variable)
     return !qgetenv(variable).isEmpty();
 }
 
-/// Returns true if there is a display. Without a display, Qt would terminate the program.
+/// Returns true if a display is available. Must be checked before the QApplication is constructed,
+/// because Qt terminates the program if there is no display.
 bool hasDisplay()
 {
     return isSet(PLATFORM) || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
@@ -72,8 +73,8 @@ bool namesDevice(const Arguments &arguments)
     return arguments.demo || !arguments.scenario.isEmpty() || !arguments.modem.isEmpty();
 }
 
-/// Selects the device. If a scenario from the settings can no longer be used, makes the automatic
-/// choice instead. Returns the error in the scenario file.
+/// Selects the device. If the scenario file from the settings can no longer be used, falls back to
+/// the automatic choice and returns the error in the scenario file.
 QString useDevice(DeviceChoice *choice)
 {
     QString error = choice->use();
@@ -84,8 +85,9 @@ QString useDevice(DeviceChoice *choice)
     return error;
 }
 
-/// Returns the exit code of an instance whose window is that of an earlier one. That window keeps
-/// its device.
+/// Returns the exit code for an instance that exits because another instance is already running.
+/// Prints an error if the arguments specify a device, because the running instance keeps its
+/// device.
 int leaveToFirst(const Arguments &arguments)
 {
     return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
@@ -103,7 +105,7 @@ void startLook(const DashboardSettings &settings)
     look.start();
 }
 
-/// Returns true if a font is installed. Without a font, Qt draws the same box for every letter.
+/// Returns true if any font is installed. Without fonts, Qt draws a box instead of each letter.
 bool hasFonts()
 {
     QPainterPath narrow;
@@ -122,8 +124,8 @@ void sayWhatIsMissing(const DashboardSettings &settings, MainWindow *window)
         window->showProblem(dashboardText("SETTINGS_NOT_SAVED").arg(settings.file()));
 }
 
-/// Saves the settings. A failure is reported even if the program is about to end, because the disk
-/// may have become full in the meantime.
+/// Saves the settings and reports a failure. The settings could be written when the program
+/// started, but the disk may have become full in the meantime.
 void saveSettings(DashboardSettings *settings, MainWindow *window)
 {
     if (!settings->save())
@@ -185,14 +187,14 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (!unusable.isEmpty())
         window.showScenarioError(unusable);
     const int result = interruption.signalNumber() == 0 ? QApplication::exec() : EXIT_GOOD;
-    plugin.shutDown(); // must precede the deletion of the window with the plug-in's page
+    plugin.shutDown(); // before the window that contains the plug-in's page is deleted
     saveSettings(&settings, &window);
     return result;
 }
 
 int Program::exportAccount(int &argc, char **argv, const Arguments &arguments)
 {
-    QCoreApplication application(argc, argv); // finds the driver of the database
+    QCoreApplication application(argc, argv); // required to find the database driver
     if (!isExportName(arguments.exportFile))
         return fail(dashboardText("ACCOUNT_EXPORT_NAME").arg(arguments.exportFile), EXIT_USAGE);
     const QString problem = exportAccountTo(arguments.exportFile, AccountStore::userFile());
@@ -204,7 +206,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
-    qputenv("QT_FONT_DPI", "96"); // the platform "offscreen" has another resolution
+    qputenv("QT_FONT_DPI", "96"); // the platform plug-in "offscreen" has a different resolution
     applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())

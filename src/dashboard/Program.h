@@ -13,20 +13,20 @@ enum ExitCode { EXIT_GOOD = 0, EXIT_BAD = 1, EXIT_USAGE = 2, EXIT_NOT_WRITTEN = 
 namespace Program
 {
 
-/// Prints the error in the command-line arguments.
+/// Prints the error in the command-line arguments. Returns EXIT_USAGE.
 int complain(const Arguments &arguments);
 int help();
 int version();
 /// Opens the dashboard and returns when it has been closed.
 int openWindow(int &argc, char **argv, const Arguments &arguments);
-/// Prints that the replies of --send or of the tour are invented, if the device is a simulated
-/// network. The tour always uses one.
+/// If the device is a simulated network, prints a notice that the replies are invented. Used with
+/// --send and with the tour, which always uses a simulated network.
 void announceDemonstration(const Arguments &arguments);
 /// Sends a code without showing a window.
 int send(int &argc, char **argv, const Arguments &arguments);
-/// Writes the replies about the accounts to a file.
+/// Writes the stored account data to a file.
 int exportAccount(int &argc, char **argv, const Arguments &arguments);
-/// Runs the tour, which does not need a display.
+/// Runs the tour, which does not require a display.
 int takeTour(int &argc, char **argv, const Arguments &arguments);
 
 } // namespace Program

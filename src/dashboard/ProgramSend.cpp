@@ -1,4 +1,4 @@
-/* The part of Program that sends a code without a window. */
+/* Implements the mode of Program that sends a code without showing a window. */
 #include "Program.h"
 
 #include <QApplication>
@@ -32,8 +32,8 @@ namespace
 {
 
 const int REGISTRATION_LIMIT =
-    10000; // ms that --send waits for the device, unless the reply time-out is shorter
-const QSize UNSEEN_SIZE(800, 600); // size of the widget with the page if there is no display
+    10000; // ms; how long --send waits for the device at most
+const QSize UNSEEN_SIZE(800, 600); // size of the hidden parent of the general window
 
 int fail(const QString &text, int exitCode)
 {
@@ -41,7 +41,7 @@ int fail(const QString &text, int exitCode)
     return exitCode;
 }
 
-/// Prints why the device cannot be used and returns the exit code.
+/// Prints the reason why the device cannot be used, and returns the exit code.
 int failBecauseOf(const DeviceStatus &device)
 {
     HostCore::printErrorLine(situationAsText(situationOf(device, true, QString())));
@@ -52,7 +52,7 @@ int failBecauseOf(const DeviceStatus &device)
     return Cli::EXIT_NOT_READY;
 }
 
-/// Waits for a modem that is still registering. Returns an exit code.
+/// Waits for the modem if it is still registering. Returns an exit code.
 int prepareDevice(const Arguments &arguments, const DeviceChoice &choice, const DeviceWait &wait)
 {
     wait.untilReady(choice);
@@ -77,7 +77,7 @@ int sendThrough(LoadedPlugin &plugin, const SendingParts &parts, const QStringLi
     CommandSender sender(GeneralWindow(&host), parts, replyTimeout());
     const int exitCode = sender.send(commands);
     int status = 0;
-    TKSV_USSDSrv_Release(&status); // closes an open menu, which the next program would find
+    TKSV_USSDSrv_Release(&status); // otherwise, an open menu would affect the next program
     plugin.shutDown();
     return exitCode;
 }
@@ -100,7 +100,7 @@ int Program::send(int &argc, char **argv, const Arguments &arguments)
     const QString unusable = choice.use();
     if (!unusable.isEmpty())
         return fail(unusable, Cli::EXIT_WRONG_USAGE);
-    ReplyTap tap; // must be constructed before the device can send a reply
+    ReplyTap tap; // must exist before the device can send a reply
     const DeviceWatcher device;
     const DeviceWait wait = {device, interruption, qMin(replyTimeout(), REGISTRATION_LIMIT)};
     const int notReady = prepareDevice(arguments, choice, wait);

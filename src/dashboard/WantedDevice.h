@@ -9,13 +9,14 @@ namespace Dashboard
 class DashboardSettings;
 struct Arguments;
 
-/// Returns the device that the command line names, or else the one that the environment names, or
-/// else the one that was chosen last. `--send` does not use a simulated network that was chosen in
-/// the window, because a script must not mistake an invented reply for a real one.
+/// Returns the device to use. The command line takes precedence over the environment variables,
+/// which take precedence over the last selection in the window. `--send` ignores a simulated
+/// network that was selected in the window, because a script must not mistake an invented reply for
+/// a real one.
 DeviceChoice wantedDevice(const Arguments &arguments, const DashboardSettings &settings);
 
-/// Returns true if the choice selects a simulated network. Considers $TKSV_BACKEND for the
-/// automatic choice.
+/// Returns true if the choice results in a simulated network. The automatic choice depends on
+/// $TKSV_BACKEND.
 bool isDemonstration(const DeviceChoice &choice);
 
 } // namespace Dashboard

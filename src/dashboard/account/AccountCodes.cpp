@@ -21,7 +21,10 @@ namespace Dashboard
 namespace
 {
 
-/** The profiles that the plug-in and the operator database name by a text key. */
+/**
+ * The text keys that identify the purpose of a profile. The plug-in's profiles and those generated
+ * from the operator database use these keys.
+ */
 struct KnownKey {
     const char *key;
     CodeKind kind;
@@ -81,7 +84,7 @@ PluginConfig readConfigurationFile(const QString &file)
     return config;
 }
 
-/// Returns the code if it can be sent without a number.
+/// Returns the code, or an empty string if it is not offered or requires a number.
 QString usable(bool isOffered, const QString &command)
 {
     const QString code = command.trimmed();

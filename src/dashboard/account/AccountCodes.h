@@ -28,27 +28,27 @@ enum class CodeKind {
 /// Returns the name of the icon for codes of this kind.
 const char *codeIcon(CodeKind kind);
 
-/** A code with a name, from the operator's files or from the user's file. */
+/** A code and its name, from the operator's profiles or from the user's own profiles. */
 struct NamedCode {
-    QString name; // in the user's language if the file has a text key
-    QString code; // may contain a place for a number
+    QString name; // translated if the profile has a text key
+    QString code; // may contain a placeholder for a number
     CodeKind kind = CodeKind::Other;
-    bool isOwn = false; // from the user's file
+    bool isOwn = false; // from the user's own profiles
 
     bool takesNumber() const;
 };
 
-/** The codes that ask for the account, and all codes with names. */
+/** The codes that query account data, and a list of all codes with their names. */
 struct AccountCodes {
-    // Empty if the operator does not have such a code.
+    // Each of these codes is empty if the operator does not have such a code.
     QString balance;
     QString number;
     QString validity;
     QString data;
     bool hasTopUp = false;
-    QList<NamedCode> all; // each code once: the operator's codes, then the user's
+    QList<NamedCode> all; // without duplicates; the operator's codes precede the user's codes
 
-    /// Returns true if the reply to this code is about the account.
+    /// Returns true if this code queries account data.
     bool asksForAccount(const QString &code) const;
     bool operator==(const AccountCodes &other) const;
 };
@@ -63,8 +63,9 @@ struct CodeFiles {
     static CodeFiles inUse();
 };
 
-/// Reads the codes. The account codes are those of this type of contract. If the type is unknown,
-/// they are taken from the profiles. A code that needs a number is not an account code.
+/// Reads the codes. The account codes are those of the account window for this type of contract, or
+/// those of the profiles if the type is unknown. A code that requires a number is not used as an
+/// account code.
 AccountCodes readAccountCodes(const CodeFiles &files, PaidType type);
 
 } // namespace Dashboard

@@ -14,16 +14,16 @@ namespace
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-// The result codes of SQLite for a file that cannot be understood.
+// The result codes of SQLite for a damaged file and for a file that is not a database.
 const char CORRUPT[] = "11";
 const char NOT_A_DATABASE[] = "26";
 
-// Deleted entries are overwritten. A second process waits for the first.
+// Overwrite deleted entries, and wait if another process is using the file.
 const char *const SETTINGS[] = {"PRAGMA secure_delete = ON", "PRAGMA busy_timeout = 2000",
                                 "PRAGMA synchronous = FULL"};
 
-// The statements that lead from one version of the schema to the next. A later version appends to
-// this list and never changes an earlier step.
+// The statements that migrate the schema from each version to the next one. Append new steps to the
+// end of the list. Never change an existing step, because it may already have been executed.
 const QList<QList<const char *>> &migrations()
 {
     static const QList<QList<const char *>> steps = {
@@ -33,7 +33,7 @@ const QList<QList<const char *>> &migrations()
          "CREATE INDEX entry_by_code ON entry (sim, code, asked)",
          "CREATE INDEX entry_with_balance ON entry (sim, asked) WHERE units IS NOT NULL",
          "CREATE INDEX entry_by_age ON entry (asked)",
-         // One row for each day, so that the line of 30 days never reads more than 30 rows.
+         // Contains one row for each day, so that the chart of 30 days reads at most 30 rows.
          "CREATE TABLE day (sim TEXT NOT NULL, day TEXT NOT NULL, currency TEXT NOT NULL, "
          "units INTEGER NOT NULL, decimals INTEGER NOT NULL, lowest INTEGER NOT NULL, "
          "falls INTEGER NOT NULL, rises INTEGER NOT NULL, PRIMARY KEY (sim, day, currency)) "
@@ -101,7 +101,8 @@ QVariantList valuesOf(const QString &sim, const AccountEntry &entry)
             withoutNumbers(entry.text)};
 }
 
-/// Creates the file before SQLite does, so that nobody else can ever read it.
+/// Creates the file with private permissions. SQLite would create it with the default permissions,
+/// so that other users could read it for a moment.
 bool makePrivateFile(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
@@ -136,7 +137,7 @@ AccountDatabase::~AccountDatabase()
 
 // ---- the file -----------------------------------------------------------------------------------
 
-/// Returns false if there is certainly no entry, so that a program without entries does not load
+/// Returns false if there cannot be any entries. In this case, the program does not have to load
 /// the database driver.
 bool AccountDatabase::isThere() const
 {
@@ -163,7 +164,8 @@ bool AccountDatabase::open()
     return false;
 }
 
-/// Brings the tables up to date. Returns false if the file is damaged or of a later version.
+/// Migrates the tables to the current version. Returns false if the file is damaged or was written
+/// by a later version of the program.
 bool AccountDatabase::prepare()
 {
     QSqlDatabase database = QSqlDatabase::database(m_connection);
@@ -178,12 +180,12 @@ bool AccountDatabase::prepare()
     return !m_isOfLaterVersion && (version == migrations().size() || migrate(version));
 }
 
-/// Carries out the missing steps in one transaction.
+/// Executes the missing migration steps in a single transaction.
 bool AccountDatabase::migrate(int version)
 {
     QSqlDatabase database = QSqlDatabase::database(m_connection);
     QSqlQuery query(database);
-    // The lock of a writer is needed from the start, because two processes may migrate the file.
+    // Acquires the write lock immediately, because two processes may try to migrate the file.
     if (!query.exec(QLatin1String("BEGIN IMMEDIATE")))
         return handleError(query);
     query.exec(QLatin1String("PRAGMA user_version"));
@@ -200,7 +202,7 @@ bool AccountDatabase::migrate(int version)
     return query.exec(QLatin1String("COMMIT")) || handleError(query);
 }
 
-/// Remembers that the file is damaged. Always returns false.
+/// Records whether the error was caused by a damaged file. Always returns false.
 bool AccountDatabase::handleError(const QSqlQuery &query)
 {
     const QString code = query.lastError().nativeErrorCode();
@@ -208,7 +210,7 @@ bool AccountDatabase::handleError(const QSqlQuery &query)
     return false;
 }
 
-/// Renames a damaged file. Returns false if the file is not damaged.
+/// Renames the file if it is damaged. Returns false if it is not.
 bool AccountDatabase::setAside()
 {
     if (!m_isDamaged || isInMemory())
@@ -237,7 +239,7 @@ QString AccountDatabase::takeDamagedFile()
     return name;
 }
 
-/// Carries out the step. If the file turns out to be damaged, repeats the step in a new file.
+/// Executes the step. If the file turns out to be damaged, repeats the step with a new file.
 bool AccountDatabase::repairing(const std::function<bool()> &step)
 {
     if (!isOpen())
@@ -280,8 +282,8 @@ bool AccountDatabase::insert(const QString &sim, const AccountEntry &entry)
                valuesOf(sim, entry));
 }
 
-/// Updates the day of the entry. The difference from the newest balance in the same currency is a
-/// fall or a rise.
+/// Updates the row for the day of the entry. The difference from the previous balance in the same
+/// currency is added to the falls or to the rises.
 bool AccountDatabase::insertDay(const QString &sim, const AccountEntry &entry)
 {
     if (!entry.reading.amount)
@@ -387,7 +389,7 @@ bool AccountDatabase::removeBefore(const QDateTime &limit)
     });
 }
 
-/// Also removes the damaged files, because they may contain entries.
+/// Also removes damaged files that were set aside, because they may contain entries.
 bool AccountDatabase::removeAll()
 {
     close();

@@ -14,15 +14,15 @@ namespace Dashboard
 {
 
 /**
- * The entries of all SIMs in an SQLite file that only its user can read, or in memory. The file is
- * opened by the first call that needs it, and it is created by the first entry. A damaged file is
- * renamed, and a new one takes its place. Each entry is one transaction, so a crash leaves either
- * the old or the new content.
+ * Stores the account entries of all SIMs in an SQLite file that only the user can read, or in
+ * memory. The file is opened when it is first needed, and created when the first entry is added. A
+ * damaged file is renamed and replaced with a new one. Each entry is added in a transaction, so a
+ * crash cannot leave an incomplete entry.
  */
 class AccountDatabase
 {
 public:
-    /// An empty name stands for a database in memory.
+    /// If `file` is empty, the database is kept in memory.
     explicit AccountDatabase(const QString &file);
     ~AccountDatabase();
     AccountDatabase(const AccountDatabase &) = delete;
@@ -33,9 +33,9 @@ public:
     bool add(const QString &sim, const AccountEntry &entry);
     /// Returns the newest entry with this code.
     AccountEntry newest(const QString &sim, const QString &code);
-    /// Returns the newest entry that tells a balance.
+    /// Returns the newest entry that contains a balance.
     AccountEntry newestBalance(const QString &sim);
-    /// Returns the balances of the days from `first` on, in ascending order.
+    /// Returns the balances of all days since `first`, in ascending order.
     QList<BalanceDay> days(const QString &sim, const QDate &first);
     /// Calls the function for each entry of the SIM, or of all SIMs if `sim` is empty, in ascending
     /// order. The function returns false to stop. Returns false if the entries cannot be read.
@@ -45,9 +45,11 @@ public:
     /// Removes all entries of all SIMs, and the file with its journal and its damaged versions.
     bool removeAll();
 
-    /// Returns the new name of a damaged file since the last call, or an empty string.
+    /// Returns the new name of the file if it was damaged and has been renamed since the last call.
+    /// Otherwise, returns an empty string.
     QString takeDamagedFile();
-    /// Returns true if the file was written by a later version. It is neither read nor changed.
+    /// Returns true if the file was written by a later version of the program. Such a file is
+    /// neither read nor changed.
     bool isOfLaterVersion() const { return m_isOfLaterVersion; }
 
 private:
@@ -66,7 +68,7 @@ private:
     void close();
 
     const QString m_file;
-    const QString m_connection; // the name of the connection
+    const QString m_connection; // the name of the Qt database connection
     QString m_damagedFile;
     bool m_isDamaged = false;
     bool m_isOfLaterVersion = false;

@@ -13,10 +13,10 @@ namespace
 
 const int VISIBLE_DIGITS = 4;
 
-/// Returns true if a currency stands next to the digits.
+/// Returns true if there is a currency directly before or after the digits.
 bool isAmount(const QString &text, int start, int end)
 {
-    const int reach = 8; // the longest currency and a blank
+    const int reach = 8; // the length of the longest currency and a space
     const QString before =
         plainForm(text.mid(qMax(0, start - reach), start - qMax(0, start - reach)));
     const QString behind = plainForm(text.mid(end, reach));

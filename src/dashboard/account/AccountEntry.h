@@ -8,11 +8,11 @@
 namespace Dashboard
 {
 
-/** A reply to one of the codes that ask for the account, and what was read out of it. */
+/** A reply to one of the codes that query account data, and the values extracted from it. */
 struct AccountEntry {
-    QDateTime askedAt; // invalid if there is no such entry
+    QDateTime askedAt; // invalid if the entry does not exist
     QString code;
-    /// The values. In a stored entry, only the last four digits of the number are kept.
+    /// The extracted values. A stored entry contains only the last four digits of the phone number.
     ReplyReading reading;
     QString text; // without phone numbers, PINs and voucher numbers
 
@@ -22,15 +22,15 @@ struct AccountEntry {
 /** The balance on one day. */
 struct BalanceDay {
     QDate day;
-    Money last; // the balance that was told last on this day
+    Money last; // the last known balance of the day
     qint64 lowest = 0;
-    // The sums of all changes between two replies, in the units of Money.
+    // The sums of all decreases and of all increases between replies, in units of Money::UNITS.
     qint64 falls = 0;
     qint64 rises = 0;
 };
 
-/// Returns the reply without long runs of digits, which may be phone numbers, PINs or voucher
-/// numbers. Their last four digits stay. Amounts and dates stay as they are.
+/// Returns the reply with long sequences of digits shortened to their last four digits, because
+/// they may be phone numbers, PINs or voucher numbers. Amounts and dates are not changed.
 QString withoutNumbers(const QString &text);
 
 } // namespace Dashboard

@@ -21,7 +21,7 @@ const char JSON[] = ".json";
 
 struct Field {
     const char *name;
-    QString value; // empty if the reply did not tell it
+    QString value; // empty if the reply does not contain it
 };
 
 QString bytesText(qint64 bytes)
@@ -44,8 +44,8 @@ QList<Field> fieldsOf(int sim, const AccountEntry &entry)
             {"reply", entry.text}};
 }
 
-/// Returns the value for a cell. A spreadsheet would carry out a text that begins like a formula,
-/// so such a text gets an apostrophe.
+/// Returns the value of a CSV cell. Spreadsheet programs execute text that starts like a formula,
+/// so an apostrophe is inserted before such text.
 QString csvCell(const Field &field)
 {
     QString value = field.value;

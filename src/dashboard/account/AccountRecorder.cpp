@@ -13,7 +13,7 @@ AccountRecorder::AccountRecorder(AccountStore *store, QObject *parent)
 
 void AccountRecorder::record(const QString &code, const Reply &reply)
 {
-    // A menu asks for something instead of telling something.
+    // Menus do not contain account data.
     if (!m_codes.asksForAccount(code) || reply.text.trimmed().isEmpty() || reply.asksForAnswer)
         return;
     AccountEntry entry;
@@ -26,8 +26,8 @@ void AccountRecorder::record(const QString &code, const Reply &reply)
         warn(*entry.reading.amount);
 }
 
-/// Returns the values that a reply to this code may tell. For example, an amount in the reply to
-/// the data code may be a price.
+/// Extracts only those values that a reply to this code can contain. For example, an amount in the
+/// reply to the data code is ignored, because it may be a price.
 ReplyReading AccountRecorder::readingOf(const QString &code, const QString &text) const
 {
     ReplyReading reading = m_patterns.read(text);

@@ -14,8 +14,8 @@ class AccountStore;
 struct Reply;
 
 /**
- * Reads each reply to the codes that ask for the account, whichever window sent the code, and
- * stores what it tells. All functions must be called from the GUI thread.
+ * Extracts and stores the account data of each reply to an account code, regardless of the window
+ * that sent the code. All functions must be called from the GUI thread.
  */
 class AccountRecorder : public QObject
 {
@@ -28,18 +28,19 @@ public:
     const AccountCodes &codes() const { return m_codes; }
     /// Sets the operator's patterns, which take precedence over the general rules.
     void setPatterns(const ReplyPatterns &patterns) { m_patterns = patterns; }
-    /// Sets the amount below which lowBalance() is emitted. An empty string switches it off.
+    /// Sets the amount below which lowBalance() is emitted. An empty string disables the signal.
     void setLowBalance(const QString &amount) { m_lowBalance = amount; }
     /// Returns true if the balance is below the amount that the user has set.
     bool isLow(const Money &balance) const;
 
 public slots:
-    /// Must be called for each reply; see CommandMonitor::replied().
+    /// Must be called for each reply. Connect it to CommandMonitor::replied().
     void record(const QString &code, const Dashboard::Reply &reply);
 
 signals:
-    /// Emitted when a reply has told a balance below the amount that the user has set. Emitted
-    /// again only after a reply has told a higher balance. `shown` is the balance as text.
+    /// Emitted when the balance falls below the amount that the user has set. Emitted again only
+    /// after the balance has risen above this amount. `shown` is the balance as displayed to the
+    /// user.
     void lowBalance(const QString &shown);
 
 private:
@@ -50,7 +51,7 @@ private:
     AccountCodes m_codes;
     ReplyPatterns m_patterns;
     QString m_lowBalance;
-    QString m_warnedSim; // the SIM whose low balance was reported
+    QString m_warnedSim; // the SIM whose low balance has been reported
 };
 
 } // namespace Dashboard

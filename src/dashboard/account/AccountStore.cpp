@@ -66,7 +66,7 @@ void AccountStore::add(const AccountEntry &entry)
     emit changed();
 }
 
-/// Reports a damaged file that was renamed.
+/// Emits problem() if a damaged file has been renamed.
 void AccountStore::report() const
 {
     const QString damaged = m_database->takeDamagedFile();

@@ -15,9 +15,9 @@ namespace Dashboard
 class AccountDatabase;
 
 /**
- * Keeps the replies about the account of each SIM for 12 months. If they must not be stored, or
- * cannot be stored, they are kept in memory until the program ends. Replies of the demonstration
- * are never stored. All functions must be called from the GUI thread.
+ * Stores the account data of each SIM for 12 months. If the user has disabled storing, or if the
+ * file cannot be written, the data is kept in memory until the program exits. Data of a
+ * demonstration is never stored in the file. All functions must be called from the GUI thread.
  */
 class AccountStore : public QObject
 {
@@ -26,18 +26,18 @@ public:
     static const int MONTHS_KEPT = 12;
     static const int CHART_DAYS = 30;
 
-    /// Where the current entries are kept.
+    /// The location of the current entries.
     enum class Keeping { InFile, InMemory, Demonstration };
 
-    /// The file is not opened before an entry is read or added.
+    /// The file is opened when an entry is first read or added.
     explicit AccountStore(const QString &file, QObject *parent = nullptr);
     ~AccountStore() override;
 
     /// Returns the file of the user who runs the program.
     static QString userFile();
 
-    /// Sets the SIM whose entries are visible, by its key (see SimKey.h). An empty key means that
-    /// the SIM is unknown, so nothing is visible or added.
+    /// Selects the SIM by its key (see SimKey.h). All other functions use the entries of this SIM.
+    /// An empty key means that the SIM is unknown: there are no entries, and none can be added.
     void setSim(const QString &key, Keeping keeping);
     QString sim() const { return m_sim; }
     bool isDemonstration() const { return m_keeping == Keeping::Demonstration; }
@@ -49,10 +49,12 @@ public:
     void add(const AccountEntry &entry);
     AccountEntry newest(const QString &code) const;
     AccountEntry newestBalance() const;
-    /// Returns the complete number of the current SIM if the network told it since the program
-    /// started. Only its last four digits are stored.
+    /// Returns the complete phone number of the current SIM if it has been queried since the
+    /// program started. Otherwise, returns an empty string, because only the last four digits are
+    /// stored.
     QString number() const { return m_numbers.value(m_sim); }
-    /// Returns the balances of the last 30 days in the currency of the newest balance.
+    /// Returns the balances of the last 30 days. Only balances in the currency of the newest one
+    /// are included.
     QList<BalanceDay> lastDays() const;
     /// Returns the file that contains the entries, or an empty string if they are in memory.
     QString file() const;
@@ -62,7 +64,7 @@ public slots:
     void removeAll();
 
 signals:
-    /// Emitted when there is a new entry, when the SIM has changed, and after removeAll().
+    /// Emitted when an entry was added, when the SIM has changed, and after removeAll().
     void changed();
     /// Emitted with a message for the user if entries cannot be stored.
     void problem(const QString &text);
@@ -76,7 +78,7 @@ private:
     std::unique_ptr<AccountDatabase> m_database;
     Keeping m_keeping = Keeping::InMemory;
     QString m_sim;
-    QHash<QString, QString> m_numbers; // by SIM
+    QHash<QString, QString> m_numbers; // keyed by SIM
 };
 
 } // namespace Dashboard

@@ -13,14 +13,14 @@ namespace Dashboard
 namespace
 {
 
-/** A currency and its marks besides the ISO 4217 code, separated by "|". */
+/** A currency with its ISO 4217 code and its other symbols and names, separated by "|". */
 struct Currency {
     const char *name;
     Grouping grouping;
     const char *marks;
 };
 
-// Longer marks win over shorter ones, so the order is free.
+// Longer marks take precedence over shorter ones, so the order of the table has no effect.
 const Currency CURRENCIES[] = {
     {"EUR", Grouping::Unknown, "€|euro|euros|eur|евро|يورو|欧元|evro"},
     {"USD", Grouping::Unknown, "us$|usd|us dollars|долл.|долл|美元"},
@@ -133,7 +133,7 @@ const Currency CURRENCIES[] = {
     {"FJD", Grouping::Commas, "fj$|fjd"},
     {"PGK", Grouping::Unknown, "pgk"},
     {"MVR", Grouping::Unknown, "mvr|rf."},
-    // The further codes of ISO 4217.
+    // The remaining codes of ISO 4217, which have no other marks.
     {"AWG", Grouping::Unknown, ""},
     {"ANG", Grouping::Unknown, ""},
     {"BBD", Grouping::Unknown, ""},
@@ -199,10 +199,10 @@ const Currency CURRENCIES[] = {
 };
 
 struct Mark {
-    QString text; // lower case, in plain form
+    QString text; // in lower case and in plain form
     QString name;
     Grouping grouping = Grouping::Unknown;
-    bool isCode = false; // must be in capital letters
+    bool isCode = false; // matches only in capital letters
 };
 
 bool isIsoCode(const char *name)
@@ -218,7 +218,8 @@ void addMarks(const Currency &currency, QList<Mark> *marks)
     mark.grouping = currency.grouping;
     for (const QString &each : QString::fromUtf8(currency.marks).split(QLatin1Char('|'))) {
         mark.text = plainForm(each).toLower();
-        // A "$" behind letters is part of the sign of a dollar, and otherwise marks a short code.
+        // The trailing "$" of these marks only identifies them as short codes and is removed. In
+        // other marks, such as "us$", the "$" is part of the symbol.
         if (each == QLatin1String("da$") || each == QLatin1String("dt$") ||
             each == QLatin1String("km$") || each == QLatin1String("mt$") ||
             each == QLatin1String("bd$"))
@@ -243,7 +244,7 @@ QList<Mark> readMarks()
     return marks;
 }
 
-/// Returns the marks by their first character, the longest first.
+/// Returns the marks grouped by their first character, with the longest ones first.
 QHash<QChar, QList<Mark>> sortMarks()
 {
     QHash<QChar, QList<Mark>> sorted;
@@ -263,7 +264,8 @@ bool isLetterAt(const QString &text, int position)
     return position >= 0 && position < text.length() && text.at(position).isLetter();
 }
 
-/// Returns true if letters of the same word touch the mark. Chinese and Thai do not separate words.
+/// Returns true if the mark is only a part of a word. Scripts that do not separate words, such as
+/// Chinese and Thai, do not have such parts.
 bool isInsideWord(const QString &text, int start, int end)
 {
     const QChar::Script script = text.at(start).script();
@@ -279,7 +281,8 @@ bool isCapital(const QString &text)
     return text == text.toUpper();
 }
 
-/// Returns true if capital letters distinguish a code from a word, such as "ALL" from "all".
+/// Returns true if the reply is not written in capital letters only. Otherwise, a code such as
+/// "ALL" cannot be distinguished from the word "all".
 bool mayBeCode(const QString &plain)
 {
     return plain != plain.toUpper();

@@ -7,23 +7,24 @@
 namespace Dashboard
 {
 
-/** The usual forms of amounts in a currency. */
+/** How amounts in a currency are usually written. */
 enum class Grouping {
-    Unknown,       // one mark and three digits may be decimals or thousands
-    Points,        // a single point and three digits are thousands
-    Commas,        // a single comma and three digits are thousands
-    ThreeDecimals, // a point and three digits are decimals
+    Unknown,       // three digits after a single mark may be decimals or thousands
+    Points,        // three digits after a single point are thousands
+    Commas,        // three digits after a single comma are thousands
+    ThreeDecimals, // three digits after a point are decimals
 };
 
-/** A place in a reply where a currency is named. */
+/** An occurrence of a currency in a reply. */
 struct CurrencyMark {
     int start = 0;
     int end = 0;
-    QString name; // an ISO 4217 code, or the mark itself if several currencies use it
+    QString name; // the ISO 4217 code, or the mark itself if several currencies use it
     Grouping grouping = Grouping::Unknown;
 };
 
-/// Returns the currencies that a reply in plain form (see ReplyWords.h) names, in their order.
+/// Returns the currencies in a reply, in the order of their occurrence. The reply must be in plain
+/// form (see ReplyWords.h).
 QList<CurrencyMark> currencyMarks(const QString &plain);
 
 } // namespace Dashboard

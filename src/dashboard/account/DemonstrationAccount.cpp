@@ -8,7 +8,7 @@ namespace Dashboard
 namespace
 {
 
-// The balance of each day in euros; the last one is that of yesterday.
+// The balances of consecutive days in euros, up to yesterday.
 const char *const BALANCES[] = {
     "18.00", "17.50", "17.50", "16.00", "14.00", "13.50", "12.00", "10.00", "9.50",  "8.00",
     "6.50",  "5.00",  "15.00", "14.50", "13.00", "12.00", "11.00", "10.00", "9.00",  "7.00",

@@ -8,10 +8,11 @@ namespace Dashboard
 
 class AccountStore;
 
-/// Fills the store of the demonstration with an invented account of 30 days, so that every part of
-/// the front page can be seen. Does nothing if the store keeps real replies or is not empty.
+/// Fills the store with invented account data of 30 days, so that a demonstration shows every part
+/// of the front page. Has no effect if the store is not empty or does not belong to a
+/// demonstration.
 void inventAccount(AccountStore *store, const AccountCodes &codes);
-/// Adds the invented account to the entries of any SIM.
+/// Adds the invented account data to the current SIM of the store, even if it is a real SIM.
 void addInventedAccount(AccountStore *store, const AccountCodes &codes);
 
 } // namespace Dashboard

@@ -12,7 +12,7 @@ namespace
 {
 
 const char FILE_NAME[] = "/favourites.ini";
-const char NONE[] = "none"; // an empty list would read like a missing one
+const char NONE[] = "none"; // distinguishes an empty list from a missing one
 
 const CodeKind USUAL_KINDS[] = {CodeKind::Balance, CodeKind::Data, CodeKind::Menu, CodeKind::Packs,
                                 CodeKind::Roaming};

@@ -10,25 +10,25 @@ namespace Dashboard
 {
 
 /**
- * The favourite codes of each home network, in a file that only its user can read. They are only
- * the codes that the user has selected; names and icons are those of the current codes.
+ * Stores the favourite codes for each home network in a file that only the user can read. The file
+ * contains only the codes; their names and icons are taken from the current profiles.
  */
 class Favourites
 {
 public:
     static const int MOST = 6;
 
-    /// An empty name keeps the favourites in memory.
+    /// If `file` is empty, the favourites are kept in memory.
     explicit Favourites(const QString &file) : m_file(file) {}
     /// Returns the file of the user who runs the program.
     static QString userFile();
 
-    /// Sets the home network, by its MCC and MNC.
+    /// Sets the home network (MCC and MNC) whose favourites are used.
     void setNetwork(const QString &network) { m_network = network; }
-    /// Returns the favourites among these codes. If the user has never selected favourites, returns
-    /// the codes that most subscribers need.
+    /// Returns those of the codes that are favourites. If the user has never selected any
+    /// favourites, returns a default selection.
     QList<NamedCode> among(const AccountCodes &codes) const;
-    /// Selects the favourites, in their order. Returns false if they cannot be stored.
+    /// Sets the favourites and their order. Returns false if they cannot be stored.
     bool select(const QStringList &codes);
 
 private:
@@ -36,7 +36,7 @@ private:
 
     const QString m_file;
     QString m_network;
-    QMap<QString, QStringList> m_selected; // by network, if there is no file
+    QMap<QString, QStringList> m_selected; // keyed by network; used if there is no file
 };
 
 } // namespace Dashboard

@@ -11,7 +11,7 @@ namespace
 {
 
 const int MOST_DECIMALS = 4;
-const int MOST_DIGITS = 12; // before the decimals
+const int MOST_DIGITS = 12; // before the decimal point
 
 bool isNumber(const QString &text)
 {
@@ -42,8 +42,7 @@ QString withLatinDigits(const QString &text)
 QString amountText(const Money &money)
 {
     QLocale locale;
-    // The script of the interface decides about words. Amounts keep the digits of the other
-    // numbers in the window.
+    // All other numbers in the window use the digits 0 to 9, even if the language is Arabic.
     if (locale.language() == QLocale::Arabic)
         locale = QLocale(QLocale::English);
     return locale.toString(double(money.units) / Money::UNITS, 'f', money.decimals);

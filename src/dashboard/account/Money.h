@@ -6,13 +6,16 @@
 namespace Dashboard
 {
 
-/** An amount of money in one currency. Amounts are exact, so that sums have no rounding errors. */
+/**
+ * An amount of money and its currency. The amount is stored as an integer, so that sums do not have
+ * rounding errors.
+ */
 struct Money {
-    static const qint64 UNITS = 10000; // the units of an amount in one of the currency
+    static const qint64 UNITS = 10000; // the number of units in an amount of 1.00
 
     qint64 units = 0;
-    int decimals = 0; // the number of decimals in the reply, 0 to 4
-    QString currency; // an ISO 4217 code where the reply allows only one, otherwise as written
+    int decimals = 0; // the number of decimal places in the reply, 0 to 4
+    QString currency; // the ISO 4217 code; as in the reply if several codes are possible
 
     bool operator==(const Money &other) const
     {
@@ -21,17 +24,18 @@ struct Money {
     bool operator!=(const Money &other) const { return !(*this == other); }
 };
 
-/// Returns the number of the amount in the form of the current language, such as "1,250.50".
+/// Returns the amount without its currency, formatted for the current language, such as "1,250.50".
 QString amountText(const Money &money);
 /// Returns the amount with its currency.
 QString moneyText(const Money &money);
-/// Returns the number of the amount with a point and without marks for thousands, for files.
+/// Returns the amount without its currency in the format for files: with a decimal point and
+/// without thousands separators.
 QString plainAmount(const Money &money);
-/// Reads the number of an amount that plainAmount() has written, or that the user has entered with
-/// a point or a comma. Returns false if the string is not such a number.
+/// Parses the result of plainAmount(), or an amount that the user has entered with a decimal point
+/// or comma. Returns false if the string is not an amount.
 bool readPlainAmount(const QString &text, Money *money);
 
-/// Returns the string with the digits 0 to 9 in place of the digits of other scripts.
+/// Returns the string with the digits of other scripts replaced with the digits 0 to 9.
 QString withLatinDigits(const QString &text);
 
 } // namespace Dashboard

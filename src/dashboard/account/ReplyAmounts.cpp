@@ -9,20 +9,21 @@ namespace Dashboard
 namespace
 {
 
-const int MOST_BLANKS = 2; // between a number and its currency
+const int MOST_BLANKS = 2; // spaces between a number and its currency
 
-/// A rival has the name of the balance among words that are not understood.
+/// The role of an amount in the reply. For a Rival, the reply contains a word for the balance, but
+/// also unknown words.
 enum class Role { Balance, Rival, Possible, Unknown, Other };
 
-/** A number with a currency, and what the words around it say about it. */
+/** A number with a currency, and its role according to the words around it. */
 struct Amount {
     int start = 0;
     int end = 0;
-    std::optional<Money> money; // absent if the number or its sign is doubtful
+    std::optional<Money> money; // absent if the number or its sign is ambiguous
     Role role = Role::Unknown;
 };
 
-/// Returns true if nothing but blanks and the given marks is between two positions.
+/// Returns true if there are only spaces and the given marks between two positions.
 bool areAdjacent(const ReplyText &text, int from, int to, const QString &marks)
 {
     if (from > to)
@@ -45,7 +46,7 @@ QString untilDigit(const QString &text)
     return text.left(length);
 }
 
-/** Finds the amounts of a reply and decides which one is the balance. */
+/** Finds the amounts in a reply and determines which one is the balance. */
 class AmountReader
 {
 public:
@@ -82,8 +83,8 @@ void AmountReader::find()
         pair(mark, numbers);
 }
 
-/// Pairs the currency with the number next to it. If there are numbers on both sides, the number
-/// that touches the currency belongs to it. Otherwise, both are doubtful.
+/// Assigns the adjacent number to the currency. If there are numbers on both sides, the one without
+/// a space in between is used. If this is not conclusive, both are treated as ambiguous.
 void AmountReader::pair(const CurrencyMark &mark, const QList<ReplyNumber> &numbers)
 {
     const ReplyNumber *left = nullptr;
@@ -96,7 +97,7 @@ void AmountReader::pair(const CurrencyMark &mark, const QList<ReplyNumber> &numb
             right = &number;
     }
     if (left && !m_amounts.isEmpty() && m_amounts.last().end >= left->end && right)
-        left = nullptr; // the number already has a currency on its other side
+        left = nullptr; // already assigned to the currency on its other side
     const bool touchesLeft = left && left->end == mark.start;
     const bool touchesRight = right && right->start == mark.end;
     if (left && right && touchesLeft == touchesRight) {
@@ -109,7 +110,7 @@ void AmountReader::pair(const CurrencyMark &mark, const QList<ReplyNumber> &numb
     }
 }
 
-/// Returns true if the number is a time or a fraction, or subunits behind an amount.
+/// Returns true if the number is a time, a fraction, or an amount of subunits, such as cents.
 bool AmountReader::hasOwnUnit(const ReplyNumber &number) const
 {
     return number.text.contains(QLatin1Char(':')) || number.text.contains(QLatin1Char('/')) ||
@@ -142,7 +143,8 @@ Amount AmountReader::amountOf(const CurrencyMark &mark, const ReplyNumber &numbe
     return amount;
 }
 
-/// Returns true if characters next to the amount make it a part of something else.
+/// Returns true if an adjacent character shows that the amount is a part of something else, such as
+/// a range or a percentage.
 bool AmountReader::isTouched(const Amount &amount, const ReplyNumber &number) const
 {
     const QChar before = characterBefore(amount.start);
@@ -155,15 +157,15 @@ bool AmountReader::isTouched(const Amount &amount, const ReplyNumber &number) co
                                   before.script() != QChar::Script_Thai;
     const ReplyPart line = m_text.lineAt(amount.start);
     const QString lead = m_plain.mid(line.start, number.start - line.start).trimmed();
-    // The digit at the start of a line may be the key of a menu.
+    // At the start of a line, the digits before the space may be the key of a menu item.
     const bool isKey = number.text.contains(QLatin1Char(' ')) &&
                        (lead.isEmpty() || !(lead.right(1).at(0).isLetter() ||
                                             QLatin1String(":=").contains(lead.right(1))));
     return isJoined || isJoinedToLetter || isKey;
 }
 
-/// Adds the subunits of an amount such as "12 rub. 50 kop.". Returns false if the number behind the
-/// amount may be subunits in another form.
+/// Adds the subunits of an amount such as "12 rub. 50 kop.". Returns false if the amount is
+/// followed by a number that may be subunits in a different form.
 bool AmountReader::addSubunits(Amount *amount) const
 {
     const QString behind = m_text.folded(amount->end, m_plain.length());
@@ -190,7 +192,8 @@ QChar AmountReader::characterBefore(int position) const
     return position > 0 ? m_plain.at(position - 1) : QChar(QLatin1Char('\n'));
 }
 
-/// Returns 1 or -1, or 0 if a mark in front of the amount may be a minus or a dash.
+/// Returns the sign of the amount as 1 or -1. Returns 0 if the amount is preceded by a mark that
+/// may be either a minus sign or a dash.
 int AmountReader::signOf(const Amount &amount, const CurrencyMark &mark,
                          const ReplyNumber &number) const
 {
@@ -216,8 +219,8 @@ int AmountReader::signOf(const Amount &amount, const CurrencyMark &mark,
     return last == amount.start - 1 ? dashSign(last) : 0;
 }
 
-/// Returns the sign that a hyphen means that touches the amount. Behind the name of the balance, it
-/// may separate the name from the amount.
+/// Returns the sign for an amount that directly follows a hyphen. After a word for the balance, the
+/// hyphen may only separate the word from the amount.
 int AmountReader::dashSign(int dash) const
 {
     if (dash == 0)
@@ -234,14 +237,15 @@ int AmountReader::dashSign(int dash) const
     return isMinus ? -1 : 0;
 }
 
-/// Returns true if the amount stands behind a colon or an equals sign.
+/// Returns true if the amount follows a colon or an equals sign.
 bool AmountReader::isAnnounced(const Amount &amount) const
 {
     const QString lead = m_plain.left(amount.start).trimmed();
     return lead.endsWith(QLatin1Char(':')) || lead.endsWith(QLatin1Char('='));
 }
 
-/// Returns true if the clause has further amounts and it is not clear which words belong to which.
+/// Returns true if the clause contains several amounts and it is not clear which words refer to
+/// which amount.
 bool AmountReader::isShared(const ReplyPart &clause) const
 {
     int count = 0;
@@ -272,7 +276,7 @@ Role AmountReader::roleOf(int index) const
     if (index > 0)
         start = qMax(start, m_amounts.at(index - 1).end);
     if (index + 1 < m_amounts.size() && m_amounts.at(index + 1).start < end)
-        end = amount.end; // the words in front of the next amount belong to that amount
+        end = amount.end; // the words before the next amount refer to that amount
     return roleByWords(m_text.folded(start, amount.start), m_text.folded(amount.end, end));
 }
 
@@ -294,7 +298,7 @@ Role AmountReader::roleByWords(const QString &before, const QString &behind) con
     return Role::Unknown;
 }
 
-/// Returns true if the reply has no words besides the amount.
+/// Returns true if the reply contains no words except those of the amount.
 bool AmountReader::isBare(const Amount &amount) const
 {
     const QString rest = m_plain.left(amount.start) + m_plain.mid(amount.end);

@@ -9,7 +9,8 @@
 namespace Dashboard
 {
 
-/// Returns the balance that a reply tells, or nothing if the reply leaves a doubt.
+/// Returns the balance in the reply, or no value if the reply does not contain an unambiguous
+/// balance.
 std::optional<Money> readBalance(const ReplyText &text);
 
 } // namespace Dashboard

@@ -10,10 +10,10 @@ namespace
 {
 
 const int MONTHS = 12;
-const int FIRST_YEAR = 2000; // years of other calendars are outside these limits
+const int FIRST_YEAR = 2000; // years of other calendars are outside this range
 const int LAST_YEAR = 2099;
 
-/// The names of the months, as they begin in several languages. Each line has one month.
+/// The beginnings of the names of the months in several languages. Each line contains one month.
 const char *const MONTH_NAMES[MONTHS] = {
     "jan|ene|gen|янв|січ|يناير|كانون الثاني|جانفي|styc|led|sij|oca|tammi|ιαν",
     "feb|fev|fév|фев|лют|فبراير|شباط|فيفري|lut|uno|velj|sub|şub|helmi|φεβ",
@@ -35,8 +35,8 @@ bool isName(const QString &word, const QString &stem)
     return word.startsWith(stem);
 }
 
-/// Returns the month whose name begins like this in exactly one way, or 0. A beginning that stands
-/// for two months in different languages is doubtful.
+/// Returns the month that matches the word, or 0 if there is none. Also returns 0 if the word is
+/// ambiguous because it matches different months in different languages.
 int monthOf(const QString &word)
 {
     int month = 0;
@@ -52,7 +52,7 @@ int monthOf(const QString &word)
     return month;
 }
 
-/** A date in a reply. An invalid date is one that can be read in more than one way. */
+/** A date in a reply. The date is invalid if it is ambiguous. */
 struct FoundDate {
     int start = 0;
     int end = 0;
@@ -64,8 +64,8 @@ QDate checkedDate(int year, int month, int day)
     return year >= FIRST_YEAR && year <= LAST_YEAR ? QDate(year, month, day) : QDate();
 }
 
-/// Returns the date of a form without words: with the year in front, with points, or with slashes
-/// or hyphens.
+/// Returns the date of a numeric format: with the year first, with points, or with slashes or
+/// hyphens.
 QDate dateOfDigits(const QRegularExpressionMatch &match)
 {
     const int first = match.captured(1).toInt();
@@ -75,7 +75,7 @@ QDate dateOfDigits(const QRegularExpressionMatch &match)
     if (match.captured(1).length() == 4)
         return checkedDate(first, second, third);
     if (match.captured(4).length() != 4)
-        return QDate(); // the order of a short year is unknown
+        return QDate(); // the position of a two-digit year is unknown
     if (mark == QLatin1String("."))
         return checkedDate(third, second, first);
     if (first > MONTHS)
@@ -152,7 +152,7 @@ bool isBare(const QString &plain, const FoundDate &date)
     return true;
 }
 
-/// Returns true if only words about the validity of the account stand next to the date.
+/// Returns true if all words next to the date are about the validity of the account.
 bool hasValidityWords(const ReplyText &text, const FoundDate &date)
 {
     const ReplyPart clause = text.clauseAt(date.start);
@@ -170,8 +170,8 @@ bool hasValidityWords(const ReplyText &text, const FoundDate &date)
                         {Word::Validity, Word::Account, Word::Balance, Word::Link, Word::Number});
 }
 
-/// Returns true if the words say that the account is valid until this date, and not a bonus or a
-/// pack.
+/// Returns true if, according to the words, the date is the end of the validity of the account, as
+/// opposed to that of a bonus or a package.
 bool isOfAccount(const ReplyText &text, const FoundDate &date)
 {
     if (isBare(text.plain(), date))

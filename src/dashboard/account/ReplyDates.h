@@ -10,8 +10,8 @@
 namespace Dashboard
 {
 
-/// Returns the last day of the account's validity that a reply tells, or nothing if the reply
-/// leaves a doubt.
+/// Returns the last day of the account's validity according to the reply, or no value if the reply
+/// does not contain an unambiguous date.
 std::optional<QDate> readValidity(const ReplyText &text);
 
 } // namespace Dashboard

@@ -11,9 +11,9 @@ namespace Dashboard
 namespace
 {
 
-const int GROUP = 3;         // the digits between marks for thousands
-const int INDIAN_GROUP = 2;  // the digits between the other marks of India
-const int MOST_DECIMALS = 4; // more decimals are not an amount of money
+const int GROUP = 3;         // digits in a group of thousands
+const int INDIAN_GROUP = 2;  // digits in the other groups of the Indian number format
+const int MOST_DECIMALS = 4; // a number with more decimal places is not an amount of money
 
 bool isGrouped(const QStringList &groups)
 {
@@ -28,7 +28,7 @@ bool isGrouped(const QStringList &groups)
     return inner == GROUP || (inner == INDIAN_GROUP && groups.first().length() <= INDIAN_GROUP);
 }
 
-/** The parts of a number. */
+/** The integer part and the decimal places of a number. */
 struct Parts {
     QStringList groups;
     QString decimals;
@@ -48,7 +48,7 @@ bool readParts(const Parts &parts, qint64 *units, int *decimals)
     return true;
 }
 
-/// Returns true if a single mark and three digits are thousands in this currency.
+/// Returns true if, in this currency, three digits after a single mark are thousands.
 bool areThousands(QChar mark, Grouping grouping)
 {
     return (mark == QLatin1Char('.') && grouping == Grouping::Points) ||
@@ -56,7 +56,8 @@ bool areThousands(QChar mark, Grouping grouping)
            mark == QLatin1Char('\'') || mark.isSpace();
 }
 
-/// Splits a number with one mark. Returns false if the mark is ambiguous.
+/// Splits a number that contains one mark. Returns false if the mark may be either a decimal point
+/// or a thousands separator.
 bool splitAtOneMark(const QString &text, QChar mark, Grouping grouping, Parts *parts)
 {
     const QStringList sides = text.split(mark);
@@ -84,7 +85,8 @@ QString marksOf(const QString &text)
     return marks;
 }
 
-/// Splits a number with several marks: the last one may be the decimal mark if it differs.
+/// Splits a number that contains several marks. If the last mark differs from the others, it is
+/// treated as the decimal point.
 bool splitAtMarks(const QString &text, const QString &marks, Grouping grouping, Parts *parts)
 {
     const QChar first = marks.at(0);
@@ -126,7 +128,7 @@ bool ReplyNumber::read(Grouping grouping, qint64 *units, int *decimals) const
 
 QList<ReplyNumber> replyNumbers(const QString &plain)
 {
-    // A blank belongs to a number only in front of three digits, and a mark only between digits.
+    // A number may contain marks between digits, and a space before each group of three digits.
     static const QRegularExpression number(
         QString::fromUtf8("(?<![0-9])[0-9]+(?:[.,'،٬:/][0-9]+|[ \\x{00a0}][0-9]{3}(?![0-9]))*"));
     QList<ReplyNumber> numbers;

@@ -9,18 +9,19 @@
 namespace Dashboard
 {
 
-/** A number in a reply, with the marks inside it. */
+/** A number in a reply, including its decimal point and separators. */
 struct ReplyNumber {
     int start = 0;
     int end = 0;
-    QString text; // digits and marks
+    QString text; // the digits, the decimal point and the separators
 
-    /// Sets the value in units of Money::UNITS and the number of decimals. Returns false if the
-    /// marks can be read in more than one way.
+    /// Sets `units` to the value in units of Money::UNITS, and `decimals` to the number of decimal
+    /// places. Returns false if the number is ambiguous.
     bool read(Grouping grouping, qint64 *units, int *decimals) const;
 };
 
-/// Returns the numbers of a reply in plain form (see ReplyWords.h), in their order.
+/// Returns the numbers in a reply, in the order of their occurrence. The reply must be in plain
+/// form (see ReplyWords.h).
 QList<ReplyNumber> replyNumbers(const QString &plain);
 
 } // namespace Dashboard

@@ -10,17 +10,17 @@ namespace Dashboard
 {
 
 /**
- * An operator's patterns for the values of replies; see ReplyPatternFile.h. A value that has a
- * pattern is read with this pattern only. The other values are read by the general rules.
+ * An operator's patterns for the values in replies; see ReplyPatternFile.h. If there is a pattern
+ * for a value, it replaces the general rules for this value.
  */
 class ReplyPatterns
 {
 public:
     ReplyPatterns() = default;
-    /// Reads the file. A pattern with an error is ignored, so that its value is read by the general
-    /// rules. A missing file has no patterns.
+    /// Reads the patterns from the file. Invalid patterns are ignored, so that the general rules
+    /// apply to their values. A missing file is treated as an empty one.
     static ReplyPatterns fromFile(const QString &path);
-    /// Returns the patterns for the operator whose files are in use.
+    /// Returns the patterns of the operator whose configuration is in use.
     static ReplyPatterns inUse();
 
     ReplyReading read(const QString &text) const;

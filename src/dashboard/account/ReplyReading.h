@@ -11,10 +11,10 @@
 namespace Dashboard
 {
 
-/** A volume of data. */
+/** A remaining data volume. */
 struct DataVolume {
     qint64 left = 0;  // bytes
-    qint64 total = 0; // bytes; 0 if the reply does not tell it
+    qint64 total = 0; // bytes; 0 if unknown
 
     bool operator==(const DataVolume &other) const
     {
@@ -25,16 +25,16 @@ struct DataVolume {
 /// Returns the volume with its unit in the current language, such as "1.8 GB".
 QString volumeText(qint64 bytes);
 
-/** The values that a reply tells. A value that could be read in more than one way is absent. */
+/** The values extracted from a reply. Missing and ambiguous values are absent. */
 struct ReplyReading {
     std::optional<Money> amount;   // the balance
     std::optional<QDate> date;     // the last day of the account's validity
-    std::optional<QString> number; // the subscriber's own number, with "+" and digits only
+    std::optional<QString> number; // the subscriber's own number as "+" and digits
     std::optional<DataVolume> data;
 };
 
-/// Reads the values out of a reply in any language. A value is read only if the words around it
-/// leave no doubt: a wrong amount would be worse than none.
+/// Extracts the values from a reply in any supported language. Because a wrong value is worse than
+/// none, a value is ignored unless the words around it are unambiguous.
 ReplyReading readReply(const QString &text);
 
 } // namespace Dashboard

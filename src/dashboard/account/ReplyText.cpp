@@ -48,12 +48,12 @@ bool ReplyText::endsSentence(int position) const
     const QChar character = m_plain.at(position);
     if (character == QLatin1Char('\n') &&
         m_plain.left(position).trimmed().endsWith(QLatin1Char(':')))
-        return false; // a caption stands above its value
+        return false; // a caption, whose value is on the next line
     return character == QLatin1Char('.') ? isPoint(position) : sentenceMarks().contains(character);
 }
 
-/// Returns true if the point ends a sentence. Points of numbers and of abbreviated currencies do
-/// not.
+/// Returns true if the point ends a sentence, and false if it belongs to a number or an abbreviated
+/// currency.
 bool ReplyText::isPoint(int position) const
 {
     const QChar next =

@@ -10,7 +10,7 @@
 namespace Dashboard
 {
 
-/** A part of a reply. */
+/** A range of characters in a reply. */
 struct ReplyPart {
     int start = 0;
     int end = 0;
@@ -23,7 +23,7 @@ public:
     explicit ReplyText(const QString &text);
 
     const QString &plain() const { return m_plain; }
-    const QString &folded() const { return m_folded; } // in lower case, of the same length
+    const QString &folded() const { return m_folded; } // in lower case; has the same length
     QString folded(int start, int end) const { return m_folded.mid(start, end - start); }
 
     const QList<CurrencyMark> &currencies() const { return m_currencies; }
@@ -32,7 +32,7 @@ public:
     ReplyPart sentenceAt(int position) const { return partAt(m_sentenceEnds, position); }
     ReplyPart lineAt(int position) const;
 
-    /// Returns true if the part has a word of this meaning.
+    /// Returns true if the part contains a word with this meaning.
     bool holds(const ReplyPart &part, Word meaning) const;
     bool holds(Word meaning) const { return holdsWord(m_folded, meaning); }
 
@@ -49,7 +49,7 @@ private:
     QString m_plain;
     QString m_folded;
     QList<CurrencyMark> m_currencies;
-    QList<int> m_clauseEnds; // positions behind the clauses, in ascending order
+    QList<int> m_clauseEnds; // the end positions of the clauses, in ascending order
     QList<int> m_sentenceEnds;
 };
 

@@ -12,11 +12,11 @@ namespace
 
 const qint64 KILO = 1024;
 
-/** A number with a unit of data. */
+/** A data volume in a reply. */
 struct Volume {
     int start = 0;
     int end = 0;
-    qint64 bytes = -1; // -1 if the number is doubtful
+    qint64 bytes = -1; // -1 if the number is ambiguous
 };
 
 struct Unit {
@@ -53,13 +53,13 @@ QString unitPattern()
     return QLatin1String("[ \\x{00a0}]?(") + names + QLatin1String(")(?!\\p{L})(?!/s)(?!ps)");
 }
 
-/** Finds the volumes of a reply and decides which one remains. */
+/** Finds the data volumes in a reply and determines which one is the remaining volume. */
 class VolumeReader
 {
 public:
     explicit VolumeReader(const ReplyText &text) : m_text(text) {}
     std::optional<DataVolume> left();
-    /// Returns the bytes of the only volume, or -1.
+    /// Returns the size in bytes if the reply contains exactly one volume. Otherwise, returns -1.
     qint64 only();
 
 private:
@@ -89,7 +89,8 @@ void VolumeReader::find()
     }
 }
 
-/// Returns true if the character in front of a number makes it a part of something else.
+/// Returns true if the character before the number shows that the number is a part of something
+/// else.
 bool VolumeReader::isTouched(int position) const
 {
     const QChar before = position > 0 ? m_text.plain().at(position - 1) : QChar(QLatin1Char(' '));
@@ -110,7 +111,7 @@ Volume VolumeReader::volumeOf(const ReplyNumber &number, const QRegularExpressio
     return volume;
 }
 
-/// Returns the clause of the volume without the words in front of the previous volume.
+/// Returns the part of the clause that refers to this volume and not to other volumes.
 ReplyPart VolumeReader::wordsOf(const Volume &volume) const
 {
     ReplyPart part = m_text.clauseAt(volume.start);
@@ -123,7 +124,7 @@ ReplyPart VolumeReader::wordsOf(const Volume &volume) const
     return part;
 }
 
-/// Returns true if only words about data in general are between two positions.
+/// Returns true if the words between two positions only refer to data in general.
 bool VolumeReader::hasDataWords(int start, int end) const
 {
     return hasOnlyWords(m_text.folded(start, end),
@@ -137,7 +138,7 @@ bool VolumeReader::isLeft(const Volume &volume) const
            !m_text.holds(words, Word::Total) && hasDataWords(words.start, volume.start);
 }
 
-/// Returns true if the reply has two volumes in the form "A of B".
+/// Returns true if the reply contains exactly two volumes in the form "A of B".
 bool VolumeReader::areOnePair() const
 {
     if (m_volumes.size() != 2)
@@ -159,7 +160,8 @@ std::optional<DataVolume> VolumeReader::leftOfPair() const
     return volume;
 }
 
-/// Returns the size that the reply tells for the volume, or 0.
+/// Returns the total volume to which the remaining volume belongs, in bytes. Returns 0 if the reply
+/// does not contain it.
 qint64 VolumeReader::total(const Volume &left) const
 {
     qint64 bytes = 0;

@@ -9,10 +9,11 @@
 namespace Dashboard
 {
 
-/// Returns the remaining volume of data that a reply tells, or nothing if the reply leaves a doubt.
+/// Returns the remaining data volume in the reply, or no value if the reply does not contain an
+/// unambiguous volume.
 std::optional<DataVolume> readVolume(const ReplyText &text);
 
-/// Returns the bytes of a volume such as "1.8 GB", or -1 if the string is not a volume.
+/// Returns the size of a volume such as "1.8 GB" in bytes, or -1 if the string is not a volume.
 qint64 bytesOf(const QString &volume);
 
 } // namespace Dashboard

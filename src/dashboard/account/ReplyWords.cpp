@@ -12,8 +12,9 @@ namespace
 {
 
 /*
- * The words by their meaning, separated by "|". A word matches the beginning of a word of the
- * reply, so that declined forms match as well. A "$" at the end requires a whole word.
+ * The words with a certain meaning, separated by "|". A word of the reply matches if it starts with
+ * one of these words, so that inflected forms also match. If a word ends with "$", only the
+ * complete word matches.
  */
 struct Words {
     Word meaning;
@@ -201,12 +202,12 @@ const Words WORDS[] = {
 
 struct Stem {
     QString text;
-    bool isWhole = false;    // the word of the reply must end with the stem
-    bool isAnywhere = false; // the script does not separate words, or it joins prefixes to them
+    bool isWhole = false;    // only a complete word matches
+    bool isAnywhere = false; // also matches inside a word; see isUnseparated()
 };
 
-/// Returns true for the scripts whose words follow each other without blanks, and for the Arabic
-/// script, which joins the article and prepositions to the word.
+/// Returns true if the script does not separate words with spaces. Also returns true for the Arabic
+/// script, which joins articles and prepositions to words.
 bool isUnseparated(const QString &text)
 {
     switch (text.isEmpty() ? QChar::Script_Common : text.at(0).script()) {
@@ -283,15 +284,15 @@ bool isDropped(QChar character)
 {
     switch (character.category()) {
     case QChar::Mark_NonSpacing:
-    case QChar::Other_Format: // direction characters and joiners
+    case QChar::Other_Format: // for example, direction characters and joiners
         return true;
     default:
-        return character == QChar(0x0640); // the tatweel, which stretches an Arabic word
+        return character == QChar(0x0640); // the tatweel, which elongates Arabic words
     }
 }
 
-/// Returns the character in place of its variants: ASCII for full-width forms, one kind of blank
-/// that separates groups of digits, and the marks of Arabic numbers.
+/// Maps variants of a character to a single one. For example, full-width characters are mapped to
+/// ASCII, and the various spaces that separate groups of digits are mapped to one of them.
 QChar unified(QChar character)
 {
     const ushort code = character.unicode();
@@ -309,7 +310,7 @@ QChar unified(QChar character)
         return QLatin1Char('\'');
     case 0xFFE5:
         return QChar(0x00A5);
-    case 0x06CC: // the forms of Persian letters
+    case 0x06CC: // Persian forms of Arabic letters
         return QChar(0x064A);
     case 0x06A9:
         return QChar(0x0643);
@@ -344,7 +345,7 @@ bool holdsWord(const QString &folded, Word meaning)
     return false;
 }
 
-/// Returns true if words of this script follow each other without blanks.
+/// Returns true if the script of the character does not separate words with spaces.
 static bool isWrittenWithoutBlanks(QChar character)
 {
     const QChar::Script script = character.script();
@@ -352,7 +353,8 @@ static bool isWrittenWithoutBlanks(QChar character)
            script == QChar::Script_Katakana || script == QChar::Script_Thai;
 }
 
-/// Returns the end of the word at this position, if it has one of the meanings, or -1.
+/// Returns the end of the word at this position if the word has one of the meanings. Otherwise,
+/// returns -1.
 static int endOfKnownWord(const QString &folded, int position, std::initializer_list<Word> meanings)
 {
     int length = 0;
@@ -368,8 +370,8 @@ static int endOfKnownWord(const QString &folded, int position, std::initializer_
     return end;
 }
 
-/// Returns the end of the Arabic or Hebrew word at this position, if it holds a word of one of the
-/// meanings behind its prefixes, or -1.
+/// Returns the end of the Arabic or Hebrew word at this position if, apart from prefixes, the word
+/// has one of the meanings. Otherwise, returns -1.
 static int endOfPrefixedWord(const QString &folded, int position,
                              std::initializer_list<Word> meanings)
 {

@@ -27,7 +27,7 @@ QByteArray newSalt()
     return QByteArray(reinterpret_cast<const char *>(words), int(sizeof(words)));
 }
 
-/// Stores a new salt. Another process may store its salt first, whose file is then kept.
+/// Stores a new salt, unless another process has stored its salt in the meantime.
 bool writeSalt(const QString &path)
 {
     const QString temporary = path + QString::fromLatin1(".%1").arg(getpid());
@@ -49,7 +49,7 @@ QByteArray saltIn(const QString &folder)
     QByteArray salt = InputFile::content(path);
     if (salt.size() == SALT_BYTES)
         return salt;
-    QFile::remove(path); // without its salt, the old entries cannot be found anyway
+    QFile::remove(path); // entries of a damaged salt cannot be found anyway
     if (!QDir().mkpath(folder) || !writeSalt(path))
         return QByteArray();
     salt = InputFile::content(path);

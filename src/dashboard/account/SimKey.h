@@ -7,15 +7,15 @@ namespace Dashboard
 {
 
 /**
- * Returns a name for the SIM that does not contain its IMSI: a hash of the IMSI and of a random
- * number that only this installation knows. Returns an empty string if the IMSI is empty, or if the
- * random number cannot be stored.
+ * Returns a key that identifies the SIM without revealing its IMSI: a hash of the IMSI and a random
+ * number that is unique to this installation. Returns an empty string if the IMSI is empty or if
+ * the random number cannot be stored.
  *
- * `folder` contains the file with the random number. The file is created by the first call and can
- * be read only by its owner.
+ * `folder` contains the file with the random number. The first call creates this file, which only
+ * its owner can read.
  */
 QString simKey(const QString &imsi, const QString &folder);
-/// Uses the folder of the user who runs the program.
+/// Like the function above, with the data folder of the user who runs the program.
 QString simKey(const QString &imsi);
 
 } // namespace Dashboard

@@ -6,8 +6,9 @@
 namespace Dashboard
 {
 
-/// Returns the code or number between the isolates U+2066 and U+2069, so that it reads from left to
-/// right in a right-to-left sentence too. Returns an empty string unchanged.
+/// Returns the code or number enclosed in the direction isolates U+2066 and U+2069, so that it is
+/// displayed from left to right even in a right-to-left sentence. Returns an empty string
+/// unchanged.
 inline QString isolated(const QString &codeOrNumber)
 {
     if (codeOrNumber.isEmpty())

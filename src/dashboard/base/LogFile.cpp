@@ -28,8 +28,8 @@ QString whyNotOpened()
                           : QString::fromLocal8Bit(std::strerror(errno));
 }
 
-/// Returns true if the file is a regular file that belongs to the user and has no other hard links.
-/// In all other cases, another user could read the file.
+/// Returns true if the file is a regular file that belongs to the user and has only one hard link.
+/// Otherwise, another user may be able to read the file.
 bool isOwnFile(int file)
 {
     struct stat found;
@@ -56,7 +56,7 @@ QString whyNotUsable(int file)
 
 QString LogFile::open(const QString &path)
 {
-    // With O_NONBLOCK, opening a named pipe does not wait for a reader.
+    // O_NONBLOCK prevents open() from blocking if the file is a named pipe.
     const int flags = O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
     const int file = ::open(QFile::encodeName(path).constData(), flags, OWNER_ONLY);
     const QString problem = file < 0 ? whyNotOpened() : whyNotUsable(file);
@@ -78,7 +78,7 @@ void LogFile::write(const QString &line)
         return;
     const QByteArray bytes = HostCore::terminalText(line).toUtf8() + '\n';
     if (::write(logFile, bytes.constData(), size_t(bytes.size())) != bytes.size())
-        logFile = -1; // the disk is full, so the program continues without a log
+        logFile = -1; // the disk may be full; the program continues without a log
 }
 
 } // namespace Dashboard

@@ -15,9 +15,9 @@ namespace
 
 const int SIGNALS[] = {SIGINT, SIGTERM, SIGHUP};
 
-int pipeEnds[2] = {-1, -1}; // the handler writes to the second end
+int pipeEnds[2] = {-1, -1}; // the signal handler writes to the second end
 
-// A handler may call only functions that are async-signal-safe.
+// Calls only async-signal-safe functions, because it is a signal handler.
 void onSignal(int number)
 {
     const int error = errno;

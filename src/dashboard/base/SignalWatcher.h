@@ -8,9 +8,9 @@ namespace Dashboard
 
 /**
  * Reports SIGINT, SIGTERM and SIGHUP to the event loop, so that the program can end the session on
- * the modem and save its settings. A second signal of the same kind ends the program at once.
- * Signals that were ignored when the program started stay ignored. Only one watcher may exist at a
- * time. Must be used on the GUI thread.
+ * the modem and save its settings. A second signal of the same kind terminates the program
+ * immediately. Signals that were ignored when the program started are still ignored. Only one
+ * watcher may exist at a time. All functions must be called from the GUI thread.
  */
 class SignalWatcher : public QObject
 {

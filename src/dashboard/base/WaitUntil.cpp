@@ -8,7 +8,7 @@ namespace Dashboard
 
 bool waitUntil(const std::function<bool()> &condition, int milliseconds)
 {
-    QTimer deadline; // its event also ends the wait below
+    QTimer deadline; // also wakes up the event loop below
     deadline.setSingleShot(true);
     deadline.start(milliseconds);
     while (!condition()) {

@@ -12,7 +12,7 @@ namespace
 const char NAME[] = "ussd-dashboard";
 const char LANGUAGE[] = "language";
 const char DEVICE[] = "device";
-const char SCENARIO[] = "scenario"; // only earlier versions wrote this key
+const char SCENARIO[] = "scenario"; // written only by earlier versions
 const char OPERATOR_CODES[] = "operator-codes/";
 const char DETECTS_PAID_TYPE[] = "detect-paid-type";
 const char GEOMETRY[] = "geometry";
@@ -42,8 +42,9 @@ bool isAmount(const QString &text)
     return parts.size() <= 2;
 }
 
-/// Removes an incomplete lock file of Qt, which remains if the program is killed while it writes
-/// this file. Otherwise, the next program would wait 30 s until Qt treats the lock as stale.
+/// Removes an incomplete lock file of QSettings, which remains if the program is killed while it
+/// writes the lock file. Otherwise, the next instance would wait 30 s until Qt treats the lock as
+/// stale.
 void removeUnfinishedLock(const QString &settingsFile)
 {
     QFile lock(settingsFile + QLatin1String(".lock"));
@@ -60,7 +61,7 @@ DashboardSettings::DashboardSettings()
     removeUnfinishedLock(file());
 }
 
-// Also makes an existing file private, because the program's file mode mask affects only new files.
+// Also restricts the permissions of an existing file, because the umask affects only new files.
 DashboardSettings::~DashboardSettings()
 {
     m_settings.sync();

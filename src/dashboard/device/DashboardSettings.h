@@ -20,21 +20,22 @@ public:
 
     QString language() const; // an ISO 639-1 code; empty if the user has never selected a language
     void setLanguage(const QString &code);
-    /// Returns the device that the user selected last, or the automatic choice if the user has not
-    /// selected a device. Also reads the key of earlier versions, which stored only a scenario.
+    /// Returns the device that the user last selected, or the automatic choice if the user has not
+    /// selected any device. Also supports settings files of earlier versions, which stored only a
+    /// scenario.
     DeviceChoice device() const;
     void setDevice(const DeviceChoice &choice);
     /// Returns the user's decision about the operator's codes for SIMs of the given home network
-    /// (MCC and MNC). The decision is the string that the caller has stored. Returns an empty
-    /// string if the user has not made a decision.
+    /// (MCC and MNC), in the form in which the caller stored it. Returns an empty string if the
+    /// user has not made a decision.
     QString operatorCodes(const QString &homeNetwork) const;
     void setOperatorCodes(const QString &homeNetwork, const QString &word);
-    /// Returns true if the user permits the dashboard to query whether a SIM is prepaid or
-    /// postpaid.
+    /// Returns true if the dashboard may query whether a SIM is prepaid or postpaid. The default is
+    /// false.
     bool detectsPaidType() const;
     void setDetectsPaidType(bool detects);
-    /// A value in the file that is not one of the possible values counts as the default value.
-    /// Returns "system" (default), "light" or "dark".
+    /// Returns "system" (default), "light" or "dark". This function and the following ones return
+    /// the default value if the value in the file is invalid.
     QString theme() const;
     void setTheme(const QString &word);
     /// Returns the text size in per cent: 100 (default), 125, 150 or 200.
@@ -42,22 +43,22 @@ public:
     void setTextSize(int percent);
     bool reducesMotion() const; // false by default
     void setReducesMotion(bool reduces);
-    /// Returns true (default) if the desktop is notified of messages from the network.
+    /// Returns true (default) if desktop notifications are shown for messages from the network.
     bool notifiesMessages() const;
     void setNotifiesMessages(bool notifies);
     bool showsTextInNotifications() const; // false by default
     void setShowsTextInNotifications(bool shows);
     /// Returns the amount below which the user is notified of a low balance, for example "5.00".
-    /// Returns an empty string (default) if the user is not notified.
+    /// Returns an empty string (default) if there are no such notifications.
     QString lowBalance() const;
     void setLowBalance(const QString &amount);
     /// Returns true (default) if only the last four digits of the SIM's number are shown.
     bool hidesSimNumber() const;
     void setHidesSimNumber(bool hides);
-    /// Returns true (default) if codes, balances and messages are kept.
+    /// Returns true (default) if codes, balances and messages are stored.
     bool keepsHistory() const;
     void setKeepsHistory(bool keeps);
-    /// Returns true if the user has finished the first run or has skipped it.
+    /// Returns true if the user has finished or skipped the first run.
     bool isFirstRunDone() const; // false by default
     void setFirstRunDone(bool isDone);
     QByteArray geometry() const; // the geometry of the main window
@@ -65,7 +66,7 @@ public:
 
     /// Returns true if changes can be written.
     bool isWritable() const { return m_settings.isWritable(); }
-    /// Writes unsaved changes immediately. Returns true if all changes were written.
+    /// Writes unsaved changes immediately. Returns true if all changes have been written.
     bool save();
     QString file() const { return m_settings.fileName(); }
 

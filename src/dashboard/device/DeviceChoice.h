@@ -21,8 +21,8 @@ struct DeviceChoice {
     static DeviceChoice simulated(const QString &file);
     static DeviceChoice modem(const QString &equipmentId);
 
-    /// Convert the choice to a string and back. The string is "automatic", "simulated:FILE" or
-    /// "modem:IDENTIFIER". Any other string is converted to the automatic choice.
+    /// Returns the choice as "automatic", "simulated:FILE" or "modem:IDENTIFIER". fromWord()
+    /// converts such a string back, and any other string to the automatic choice.
     QString word() const;
     static DeviceChoice fromWord(const QString &word);
 
@@ -31,8 +31,8 @@ struct DeviceChoice {
         return kind == other.kind && name == other.name;
     }
 
-    /// Makes the device SDK use the selected device, and returns an empty string. If the scenario
-    /// file contains an error, has no effect and returns the error with its line number.
+    /// Makes the device SDK use the selected device and returns an empty string. If the scenario
+    /// file is invalid, keeps the current device and returns the error with its line number.
     QString use() const;
 };
 

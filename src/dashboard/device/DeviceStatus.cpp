@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-/// Returns the text key of the reason why the device cannot be used, or null if it can be used.
+/// Returns the text key that describes why the device cannot be used, or null if it can be used.
 const char *trouble(const DeviceStatus &status)
 {
     if (status.problem == TKSV_PROBLEM_REGISTRATION_DENIED)
@@ -92,7 +92,8 @@ QString DeviceStatus::troubleText() const
     return key ? dashboardText(key) : QString();
 }
 
-// Returns the description of the SIM. A device that searches for a network has a SIM.
+// Returns the IMSI or a description of the SIM. A device that is searching for a network has a SIM
+// even if its IMSI is not known yet.
 QString DeviceStatus::simText() const
 {
     if (isLooking)

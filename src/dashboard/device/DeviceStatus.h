@@ -26,9 +26,9 @@ struct DeviceStatus {
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }
 
     bool isRegistered() const;
-    /// Returns true if the SIM waits for a PIN and allows another attempt.
+    /// Returns true if the SIM requires a PIN and allows another attempt.
     bool waitsForPin() const;
-    /// Returns true if the device may become ready without any action of the user.
+    /// Returns true if the device may become ready without user intervention.
     bool mayBecomeReady() const;
     /// Returns true if searching for modems again may solve the problem.
     bool mayBeFound() const;

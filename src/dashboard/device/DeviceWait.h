@@ -8,15 +8,14 @@ class DeviceWatcher;
 class SignalWatcher;
 struct DeviceChoice;
 
-/** Waits for states of the device. */
+/** Waits until the device has reached a certain state. */
 struct DeviceWait {
     const DeviceWatcher &device;
-    const SignalWatcher &interruption; // ends every wait when a signal arrives
+    const SignalWatcher &interruption; // a signal ends every wait
     int limit;                         // the time limit in milliseconds
 
-    /// Waits as long as the device may become ready without any action of the user. With the
-    /// automatic choice, also waits as long as any other modem may become ready. Processes events
-    /// in the meantime.
+    /// Waits until the device is ready or cannot become ready without user intervention. With the
+    /// automatic choice, this includes all other modems. Processes events while it waits.
     void untilReady(const DeviceChoice &choice) const;
     /// Enables the device and waits until it is enabled. Returns false if it cannot be enabled.
     bool untilEnabled() const;

@@ -10,7 +10,7 @@ namespace Dashboard
 namespace
 {
 
-std::atomic<DeviceWatcher *> watching(nullptr); // global; device events have no context
+std::atomic<DeviceWatcher *> watching(nullptr); // global, because the call-back for device events does not have a context parameter
 
 DeviceReading readFromSdk()
 {

@@ -32,8 +32,8 @@ public:
     const DeviceStatus &status() const { return m_reading.status; }
     const QList<Modem> &modems() const { return m_reading.modems; }
 
-    /// Replaces the source of the status, in order to show the states of devices that are not
-    /// available. A null function restores the initial source, which is the device SDK.
+    /// Replaces the source of the status, so that states of unavailable devices can be shown. A
+    /// null function restores the default source, which is the device SDK.
     void readFrom(const std::function<DeviceReading()> &source);
 
 public slots:
@@ -44,7 +44,7 @@ signals:
     void changed();
     /// Emitted when the state of the session or its newest request has changed; see readSession().
     void sessionChanged();
-    /// Emitted when the device was removed or reset. All pending commands have ended.
+    /// Emitted when the device was removed or reset. There are no pending commands at this time.
     void lost();
 
 private:

@@ -18,7 +18,7 @@ struct Row {
     Again again;
 };
 
-// The last row describes every other reason.
+// The last row applies to all other reasons.
 const Row ROWS[] = {
     {TKSV_FAILURE_ENDED_BY_NETWORK, "FAILURE_ENDED_BY_NETWORK", "STRIP_REFUSED",
      "STRIP_REFUSED_TEXT", Yes},
@@ -61,7 +61,7 @@ QString reasonText(TKSV_Failure reason)
     return dashboardText(rowOf(reason).textKey);
 }
 
-/// Inserts the code into a text that may have a place for it.
+/// Returns the text for the key, with the code inserted if the text contains a placeholder.
 QString withCode(const char *key, const QString &code)
 {
     QString text = dashboardText(key);

@@ -14,8 +14,8 @@ QDateTime localTime(qlonglong secondsSince1970)
     return start.addSecs(secondsSince1970).toLocalTime();
 }
 
-/// Queues a copy of the message for the watcher. Called from a thread of the SDK. The record is
-/// valid only during the call.
+/// Queues a copy of the message for the watcher, because the record is valid only during the call.
+/// Called from a thread of the SDK.
 void onText(void *watcher, const TKSV_NetworkText *text)
 {
     QMetaObject::invokeMethod(static_cast<NetworkTextWatcher *>(watcher), "tell",

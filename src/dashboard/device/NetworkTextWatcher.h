@@ -19,12 +19,12 @@ public:
     ~NetworkTextWatcher() override;
 
 public slots:
-    /// Registers the call-back. Messages that arrived before are also reported.
+    /// Registers the call-back. Messages that have already arrived are also reported.
     void start();
 
 signals:
     /// Emitted when a message has arrived. `receivedAt` is in local time. `text` is empty if the
-    /// content of the message is no longer available.
+    /// text of the message is no longer available.
     void textReceived(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
 
 private slots:

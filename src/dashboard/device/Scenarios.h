@@ -13,11 +13,11 @@ namespace Scenarios
 
 /// Returns the installed scenario files, sorted by name.
 QStringList shipped();
-/// Returns the name of a scenario file as shown in menus.
+/// Returns the name for the scenario file that is displayed in menus.
 QString displayName(const QString &file);
 
-/// Makes the device SDK use the simulated network of the file, and returns an empty string. An
-/// empty name selects the default network. If the file contains an error, has no effect and returns
+/// Makes the device SDK simulate the network of the file and returns an empty string. If `file` is
+/// empty, the default network is used. If the file is invalid, keeps the current device and returns
 /// the error with its line number.
 QString use(const QString &file);
 

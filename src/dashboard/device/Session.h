@@ -6,11 +6,11 @@
 namespace Dashboard
 {
 
-/** The program's USSD session, whichever window uses it. */
+/** The state of the program's USSD session, which all windows share. */
 struct Session {
     int state = 0;              // a TKSV_SessionState
-    unsigned long requests = 0; // number of requests that the device has accepted
-    QString request;            // the newest accepted request
+    unsigned long requests = 0; // the number of requests that the device has accepted
+    QString request;            // the most recent accepted request
 
     bool isInFlight() const;
     bool waitsForAnswer() const;

@@ -118,7 +118,8 @@ const Row &rowOf(Kind kind)
     return TABLE[0];
 }
 
-/// Returns the kind for the problem of the device, or Ready if there is no problem that decides.
+/// Returns the kind of situation that the problem of the device causes, or Ready if the problem
+/// does not determine the situation.
 Kind kindOfProblem(int problem)
 {
     switch (problem) {
@@ -202,7 +203,8 @@ QString lockedText(const DeviceStatus &status)
     return tries.isEmpty() ? first : first + QLatin1Char(' ') + tries;
 }
 
-/// Returns true if the demonstration has caused the state. The user cannot change the state.
+/// Returns true if the scenario of a demonstration has caused the state, so that the user cannot
+/// change it.
 bool isOfDemonstration(Kind kind, const DeviceStatus &status)
 {
     const bool isLasting = kind == Kind::NoModem || kind == Kind::NoSim || kind == Kind::Off;
@@ -233,7 +235,8 @@ void addOnce(QList<Remedy> *remedies, Remedy remedy, bool isUseful)
         *remedies << remedy;
 }
 
-/// Returns the remedies of the row, and those for a state that a problem hides.
+/// Returns the remedies of the row and further remedies that apply to the status, even if the title
+/// describes a different problem.
 QList<Remedy> remediesOf(const Row &row, const DeviceStatus &status)
 {
     if (isOfDemonstration(row.kind, status))
@@ -278,7 +281,7 @@ const Button *buttonOf(Remedy remedy)
     return nullptr;
 }
 
-/// A rule that permits the group netdev to use modems. The polkit daemon reads it at once.
+/// A rule that allows the group netdev to use modems. The polkit daemon applies it immediately.
 const char POLKIT_RULE[] = "// /etc/polkit-1/rules.d/50-modem.rules\n"
                            "polkit.addRule(function (action, subject) {\n"
                            "    if (action.id.indexOf(\"org.freedesktop.ModemManager1.\") == 0 &&\n"

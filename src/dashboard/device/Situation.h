@@ -10,7 +10,7 @@ namespace Dashboard
 struct DeviceStatus;
 enum class Tone;
 
-/** An action that may solve the problem of a situation. */
+/** An action that may solve a problem of the device. */
 enum class Remedy {
     None,
     EnterPin,
@@ -27,7 +27,7 @@ enum class Remedy {
     TypeCode
 };
 
-/** The situation of the device, as the pages present it to the user. */
+/** The situation of the device, as the pages display it. */
 struct Situation {
     enum class Kind {
         Ready,
@@ -53,29 +53,29 @@ struct Situation {
     };
 
     Kind kind = Kind::Ready;
-    QString title; // without a full stop at the end
+    QString title; // does not end with a full stop
     QString text;
-    const char *icon = nullptr; // the name of an icon
+    const char *icon = nullptr; // the name of the icon
     Tone tone = Tone(0);
-    QList<Remedy> remedies; // the first remedy is that of the main button
-    /// True if the device accepts codes. If polkit has refused a registered modem, codes are still
-    /// accepted, because polkit decides anew for each of them.
+    QList<Remedy> remedies; // the first one belongs to the main button
+    /// True if codes can be sent. This is also the case if polkit has denied access to a registered
+    /// modem, because polkit checks the permission for each code.
     bool canSend = false;
     bool hasPresets = false; // true if the codes of the SIM's operator are known and can be sent
 };
 
-/** Instructions that the user follows outside the program. */
+/** Instructions for solving a problem outside the program. */
 struct Instruction {
     QString title;
     QString text;
-    QString command; // to be copied; empty if there is nothing to type
+    QString command; // a command to copy; may be empty
 };
 
 /// Returns the situation for this status. `chosenModem` is the name of the modem that the user has
-/// selected. It is empty if the name is unknown.
+/// selected, or empty if it is unknown.
 Situation situationOf(const DeviceStatus &status, bool areCodesKnown, const QString &chosenModem);
 
-/// Returns the text of the button.
+/// Returns the text for the button of the remedy.
 QString remedyText(Remedy remedy);
 /// Returns the name of the button's icon, or null if the button has no icon.
 const char *remedyIcon(Remedy remedy);
@@ -83,7 +83,8 @@ const char *remedyIcon(Remedy remedy);
 /// Returns the instructions for HowToAllow, HowToStart or WhatIsPuk in a situation of this kind.
 Instruction instructionFor(Remedy remedy, Situation::Kind kind);
 
-/// Returns the title, the text and the instructions of the situation for a terminal.
+/// Returns the title, the text and the instructions of the situation as plain text for the
+/// terminal.
 QString situationAsText(const Situation &situation);
 
 } // namespace Dashboard
