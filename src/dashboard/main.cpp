@@ -19,7 +19,7 @@ namespace
 
 const char ENGLISH[] = "en";
 const mode_t OTHERS = S_IRWXG | S_IRWXO;
-const int CODE_LENGTH = 2; // the length of the language code at the start of a locale name
+const int CODE_LENGTH = 2; // the length of the language code in a locale name
 
 QStringList wordsOf(int argc, char **argv)
 {
@@ -29,8 +29,8 @@ QStringList wordsOf(int argc, char **argv)
     return words;
 }
 
-/// Prints which language file is missing or damaged. The message about the English file is
-/// hard-coded, because strings cannot be looked up without this file.
+/// Prints an error if a language file is missing or damaged. The message about the English file is
+/// hard-coded, because no strings are available without this file.
 void sayWhichTextsAreMissing(const QString &wanted)
 {
     const QString english = QLatin1String(ENGLISH);
@@ -47,7 +47,8 @@ void sayWhichTextsAreMissing(const QString &wanted)
             dashboardText(languageProblem(wanted)).arg(HostCore::Languages::file(wanted)));
 }
 
-/// Returns the language from the settings, or else the desktop language, or else English.
+/// Returns the language from the settings. If there is none, returns the language of the desktop if
+/// it is supported, or English otherwise.
 QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
@@ -56,14 +57,14 @@ QString usualLanguage()
     const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
     const bool isAbsent =
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;
-    // A missing file for the desktop language is not an error. However, a language that was chosen
-    // in the dashboard must have a file.
+    // It is not an error if there is no file for the language of the desktop. However, there must
+    // be a file for a language that was selected in the dashboard.
     sayWhichTextsAreMissing(isAbsent && remembered.isEmpty() ? QString() : code);
     return state == HostCore::Languages::Whole ? code : QLatin1String(ENGLISH);
 }
 
-/// Sets the language. Returns false if the language on the command line is unknown, or if its file
-/// is missing or damaged.
+/// Sets the language of the program. Returns false if the language on the command line is unknown
+/// or if its file is missing or damaged.
 bool chooseLanguage(Arguments *arguments)
 {
     const QString &wanted = arguments->language;
@@ -78,8 +79,8 @@ bool chooseLanguage(Arguments *arguments)
     return false;
 }
 
-/// Starts the log, whose lines contain codes and replies. Returns an error message if the log file
-/// cannot be used.
+/// Starts the log that the arguments request. Returns an error message if the log file cannot be
+/// used.
 QString startLog(const Arguments &arguments)
 {
     if (arguments.verbose)
@@ -110,7 +111,7 @@ int run(int &argc, char **argv, const Arguments &arguments)
 
 int main(int argc, char **argv)
 {
-    umask(OTHERS); // new files are private to the user, because they contain codes and replies
+    umask(OTHERS); // new files may contain codes and replies, so only the user may read them
     setlocale(LC_ALL, "");
     Arguments arguments = parseArguments(wordsOf(argc, argv));
     HostCore::installTerminalLog(arguments.verbose);

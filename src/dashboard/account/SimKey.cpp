@@ -49,7 +49,7 @@ QByteArray saltIn(const QString &folder)
     QByteArray salt = InputFile::content(path);
     if (salt.size() == SALT_BYTES)
         return salt;
-    QFile::remove(path); // entries of a damaged salt cannot be found anyway
+    QFile::remove(path); // the salt is damaged, so earlier entries cannot be found anyway
     if (!QDir().mkpath(folder) || !writeSalt(path))
         return QByteArray();
     salt = InputFile::content(path);

@@ -15,11 +15,12 @@ namespace
 {
 
 const int BUTTON_ICON = 18; // in pixels, at 100 %
-const int ICON_GAP = 4;     // makes the gap between icon and text larger than that of the style
+const int ICON_GAP = 4;     // added to the gap between icon and text of the style
 const int ICON_BUTTON = 40;
 const char ICON_BUTTON_KIND[] = "iconbtn";
 
-/// Styles the widget again. A widget that is not polished yet is styled when it is shown.
+/// Applies the style again. Has no effect if the widget has not been polished yet, because the
+/// style is then applied when the widget is shown.
 void polishAgain(QWidget *widget)
 {
     if (!widget->testAttribute(Qt::WA_WState_Polished))
@@ -29,7 +30,7 @@ void polishAgain(QWidget *widget)
     widget->update();
 }
 
-/** The margins and the spacing of a layout in pixels at 100 %. */
+/** Keeps the margins and the spacing of a layout scaled with the font. */
 class LayoutSizes : public QObject
 {
 public:
@@ -77,12 +78,12 @@ private:
     }
 
     QLayout *m_layout;
-    QMargins m_margins; // left is the start and right is the end
+    QMargins m_margins; // left() is the start margin, right() is the end margin
     int m_spacing = -1;
     bool m_hasMargins = false;
 };
 
-/// Calls the function now and after each change of the look.
+/// Calls the function now and whenever the look changes.
 template <typename Function>
 void keepUpdated(QWidget *widget, Function function)
 {

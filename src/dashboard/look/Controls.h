@@ -15,28 +15,29 @@ class QLayout;
 namespace Dashboard
 {
 
-/// Sets a property that the style sheet matches, and styles the widget and its children again.
-/// Must not be used for a widget that contains a window of the plug-in.
+/// Sets a property that selectors of the style sheet use, and applies the style sheet to the widget
+/// and its children again. Must not be used for a widget that contains a window of the plug-in.
 void setStyleProperty(QWidget *widget, const char *property, const QString &value);
 
-/// Gives the widget a box of the style sheet, for example "card" or "hero".
+/// Sets the box style of the widget, for example "card" or "hero". The style sheet defines the box
+/// styles.
 void setBox(QWidget *widget, const char *box);
 
-/// Returns a label with plain text. `type` is one of the types of labels in the style sheet, for
-/// example "h1", "body" or "small".
+/// Returns a label for plain text. `type` is one of the label types that the style sheet defines,
+/// for example "h1", "body" or "small".
 QLabel *makeLabel(const char *type, QWidget *parent = nullptr);
 void setLabelType(QLabel *label, const char *type);
 
-/// Returns a button. `kind` is one of the kinds of buttons in the style sheet, for example
-/// "primary", or an empty string.
+/// Returns a button. `kind` is empty or one of the button kinds that the style sheet defines, for
+/// example "primary".
 QPushButton *makeButton(const char *kind, QWidget *parent = nullptr);
 void setButtonKind(QPushButton *button, const char *kind);
 
-/// Gives the button an icon that follows the theme and the font. `iconName` is a string literal.
+/// Sets an icon that adapts to the theme and the font size. `iconName` must be a string literal.
 void setButtonIcon(QPushButton *button, const char *iconName, Token token);
 
-/// Returns a square button with only an icon. Its text is a tool tip and its accessible name; set
-/// it with setIconButtonText().
+/// Returns a square button that shows only an icon. setIconButtonText() sets its tool tip and its
+/// accessible name.
 QPushButton *makeIconButton(const char *iconName, QWidget *parent = nullptr);
 void setIconButtonText(QPushButton *button, const QString &text);
 
@@ -45,26 +46,26 @@ QFrame *makeCard(QWidget *parent = nullptr);
 /// Returns a horizontal line of one pixel.
 QFrame *makeLine(QWidget *parent = nullptr);
 
-/// Sets the margins of the layout in pixels at 100 %. The margins follow the font and the layout
-/// direction.
+/// Sets the margins of the layout. They are in pixels at 100 % text size, and adapt to the font
+/// size and the layout direction.
 void setMargins(QLayout *layout, int start, int top, int end, int bottom);
 
-/// Sets the spacing of the layout in pixels at 100 %. The spacing follows the font.
+/// Sets the spacing of the layout. It is in pixels at 100 % text size, and adapts to the font size.
 void setSpacing(QLayout *layout, int spacing);
 
 enum class Tone { Neutral, Ok, Warn, Danger, Accent };
 
-/// Returns the token of text and icons of this tone.
+/// Returns the colour token for text and icons with this tone.
 Token toneToken(Tone tone);
 
-/** An icon that follows the theme and the font. */
+/** A widget that shows an icon, which adapts to the theme and the font size. */
 class IconView : public QWidget
 {
     Q_OBJECT
 public:
     explicit IconView(QWidget *parent = nullptr);
 
-    /// Sets the icon. `name` is a string literal. `size` is in pixels at 100 %.
+    /// Sets the icon. `name` must be a string literal. `size` is in pixels at 100 % text size.
     void setIcon(const char *name, Token token, int size = 20);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -78,7 +79,7 @@ private:
     int m_size = 20;
 };
 
-/** A short word on a coloured, rounded ground. */
+/** A label for a short text with a coloured, rounded background. */
 class Chip : public QFrame
 {
     Q_OBJECT
@@ -113,7 +114,10 @@ private:
     IconView *m_icon;
 };
 
-/** A label of one line that elides its text. The tool tip then shows the complete text. */
+/**
+ * A label with a single line, which is elided if it is too long. The tool tip then shows the
+ * complete text.
+ */
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -132,7 +136,7 @@ private:
     void updateToolTip();
 };
 
-/** A switch that is on or off. */
+/** A switch, which can be on or off. */
 class Switch : public QAbstractButton
 {
     Q_OBJECT
@@ -148,22 +152,23 @@ private:
     QRectF knob() const;
 };
 
-/** A row of choices of which one is chosen. */
+/** A row of segments of which exactly one is selected. */
 class Segments : public QFrame
 {
     Q_OBJECT
 public:
     explicit Segments(QWidget *parent = nullptr);
 
-    /// Sets the texts of the choices. The choice stays if the number of choices is the same.
+    /// Sets the texts of the segments. The selection does not change if the number of segments is
+    /// the same.
     void setItems(const QStringList &items);
-    /// Returns the index of the choice, or -1.
+    /// Returns the index of the selected segment, or -1 if there is none.
     int current() const;
-    /// Makes a choice without emitting chosen().
+    /// Selects a segment without emitting chosen().
     void setCurrent(int index);
 
 signals:
-    /// Emitted when the user makes a choice.
+    /// Emitted when the user selects a segment.
     void chosen(int index);
 
 private:
@@ -188,10 +193,11 @@ protected:
 };
 
 /**
- * A button with an icon, a text at its start, an optional second line and an optional badge.
+ * A button with an icon, a text that is aligned to the start, an optional second line and an
+ * optional badge.
  *
- * The button paints its content itself. With the property text-align of a style sheet, icon and
- * text would be at opposite ends in a right-to-left layout.
+ * The button paints its content itself. If the text were aligned by the style sheet property
+ * text-align, icon and text would be at opposite ends in a right-to-left layout.
  */
 class LabelledButton : public QPushButton
 {
@@ -199,13 +205,14 @@ class LabelledButton : public QPushButton
 public:
     enum Arrangement {
         Beside,  ///< the text is beside the icon
-        Below,   ///< the text is below the icon, and both are centred
+        Below,   ///< the text is centred below the icon
         IconOnly ///< the text is the tool tip
     };
 
     explicit LabelledButton(const char *kind, QWidget *parent = nullptr);
 
-    /// Sets the icon. `name` is a string literal. `whenOn` is the token of the checked button.
+    /// Sets the icon. `name` must be a string literal. `whenOn` is the colour token when the button
+    /// is checked.
     void setIcon(const char *name, Token token, Token whenOn);
     void setIcon(const char *name, Token token) { setIcon(name, token, token); }
     void setText(const QString &text);

@@ -32,7 +32,7 @@ QString fileOf(const char *name)
     return QLatin1String(":/look/icons/") + QLatin1String(name) + QLatin1String(".svg");
 }
 
-/// Draws the black icon and then replaces the black with the colour.
+/// Draws the icon, which is black, and replaces black with the colour.
 QImage draw(const char *name, const QColor &color, const QSize &size)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -58,7 +58,7 @@ QString cacheKey(const char *name, const QColor &color, const QSize &size)
         .arg(isMirrored(name));
 }
 
-/// Returns the picture. `size` is in pixels of the device.
+/// Returns the icon as a pixmap. `size` is in device pixels.
 QPixmap pixmapOf(const char *name, const QColor &color, const QSize &size)
 {
     if (size.isEmpty())

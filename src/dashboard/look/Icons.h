@@ -10,15 +10,16 @@ class QWidget;
 namespace Dashboard
 {
 
-/// Returns an icon that is drawn in the current colour of the token, so that it follows the theme.
-/// It is sharp at every pixel ratio. `name` is the name of a file in the folder icons.
+/// Returns an icon that is drawn in the current colour of the token, so that it adapts to the
+/// theme. The icon is sharp at every device pixel ratio. `name` is the name of a file in the folder
+/// "icons" and must be a string literal.
 QIcon icon(const char *name, Token token = Token::Text);
 
-/// Returns an icon for a button that can be checked. `whenOn` is the token of the checked button.
+/// Returns an icon for a checkable button. `whenOn` is the colour token when the button is checked.
 QIcon icon(const char *name, Token token, Token whenOn);
 
-/// Returns a picture of the icon for a place that cannot hold an icon. It does not follow the
-/// theme. `size` is in device-independent pixels.
+/// Returns the icon as a pixmap, for widgets that do not support QIcon. The pixmap does not adapt
+/// to the theme. `size` is in device-independent pixels.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
 
 } // namespace Dashboard

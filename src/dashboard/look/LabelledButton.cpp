@@ -20,7 +20,7 @@ const int HEIGHT = 44;
 const int HEIGHT_BELOW = 56;
 const int TEXT_SIZE = 14;
 const int SECOND_SIZE = 13;
-const int WORD_SIZE = 12; // below an icon
+const int WORD_SIZE = 12; // font size of the text below an icon
 const int BADGE_SIZE = 11;
 const int BADGE_HEIGHT = 18;
 
@@ -104,7 +104,7 @@ QSize LabelledButton::sizeHint() const
                  qMax(px(HEIGHT), textHeight() + 2 * px(GAP_BELOW)));
 }
 
-// The text may be elided.
+// The minimum width does not depend on the text, because the text can be elided.
 QSize LabelledButton::minimumSizeHint() const
 {
     return QSize(px(HEIGHT), sizeHint().height());

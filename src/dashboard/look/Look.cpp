@@ -18,7 +18,7 @@ namespace
 
 const int EM_AT_100_PERCENT = 14;        // in pixels
 const double SMALLEST_POINT_SIZE = 10.5; // 14 pixels at 96 dpi
-const char STYLE[] = "fusion";           // the only style of Qt that follows every palette
+const char STYLE[] = "fusion";           // the only Qt style that supports every palette
 
 Shade shadeOf(const QPalette &palette)
 {
@@ -27,7 +27,8 @@ Shade shadeOf(const QPalette &palette)
     return window.lightness() < text.lightness() ? Shade::Dark : Shade::Light;
 }
 
-/// Enlarges a small application font, so that the smallest text of the program has 12 pixels.
+/// Enlarges the application font if it is too small, so that the smallest text in the program has a
+/// size of at least 12 pixels.
 void raiseFont()
 {
     QFont font = QApplication::font();
@@ -125,7 +126,8 @@ void Look::update()
     emit changed();
 }
 
-// Setting a style sheet is expensive, because Qt then computes the style of every widget again.
+// Does nothing if the style sheet is unchanged, because setting it makes Qt compute the style of
+// every widget again.
 void Look::dress()
 {
     const QString sheet = styleSheet(shade(), QGuiApplication::layoutDirection(), scale());

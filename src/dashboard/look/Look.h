@@ -11,41 +11,43 @@ namespace Dashboard
 enum class ThemeChoice { System, Light, Dark };
 
 /**
- * The look of the program: theme, palette, style sheet and sizes.
+ * The appearance of the program: theme, palette, style sheet and sizes.
  *
- * Until start() is called, the look is light and changes nothing in the application, which is what
- * most tests use.
+ * Until start() is called, the theme is light, and the application is not changed. Most tests do
+ * not call start().
  */
 class Look : public QObject
 {
     Q_OBJECT
 public:
-    /// Returns the look of the current QApplication.
+    /// Returns the only instance, which belongs to the current QApplication.
     static Look &instance();
 
-    /// Gives the application its palette and style sheet. From now on, they follow the theme, the
-    /// layout direction and the application font.
+    /// Sets the palette and the style sheet of the application. From now on, they are updated when
+    /// the theme, the layout direction or the application font changes.
     void start();
 
     void setTheme(ThemeChoice theme);
     ThemeChoice theme() const { return m_theme; }
     Shade shade() const;
-    /// Sets the shade that ThemeChoice::System means.
+    /// Sets the shade that is used for ThemeChoice::System.
     void setSystemShade(Shade shade);
     QColor color(Token token) const { return tokenColor(token, shade()); }
 
-    /// Returns the size in pixels, scaled with the application font: 14 pixels are 100 %.
+    /// Returns the size in pixels, scaled with the application font. A font size of 14 pixels
+    /// corresponds to 100 %.
     int px(int at100Percent) const;
     /// Returns the size of the application font in pixels.
     int em() const;
     double scale() const;
 
     void setReducesMotion(bool reducesMotion);
-    /// Returns true if the user or the style wants no animations.
+    /// Returns true if the user or the style has disabled animations.
     bool reducesMotion() const;
 
 signals:
-    /// Emitted after a change of theme, direction or font, when palette and style sheet are set.
+    /// Emitted when the palette and the style sheet have been updated after a change of the theme,
+    /// the layout direction or the font.
     void changed();
 
 private:

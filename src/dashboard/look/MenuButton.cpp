@@ -40,7 +40,7 @@ void MenuButton::paintEvent(QPaintEvent *)
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.features &= ~QStyleOptionButton::HasMenu; // the arrow is our own
+    option.features &= ~QStyleOptionButton::HasMenu; // the button paints its own arrow
     const QString text = option.text;
     option.text.clear();
     QStylePainter painter(this);

@@ -7,8 +7,8 @@ namespace Dashboard
 {
 
 /**
- * Replaces the icon of every message box of the program with an icon of the dashboard. The boxes
- * of the plug-in need no change for it.
+ * Replaces the icons of all message boxes, including those of the plug-in, with icons of the
+ * dashboard.
  */
 class MessageBoxIcons : public QObject
 {

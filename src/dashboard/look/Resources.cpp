@@ -2,7 +2,7 @@
 
 #include <QDir> // Q_INIT_RESOURCE
 
-// The macro Q_INIT_RESOURCE() must be outside a namespace.
+// Q_INIT_RESOURCE() cannot be used inside a namespace.
 static void initResources()
 {
     Q_INIT_RESOURCE(look);

@@ -4,7 +4,8 @@
 namespace Dashboard
 {
 
-/// Makes the style sheet and the icons available. Resources of a static library need this call.
+/// Registers the resources that contain the style sheet and the icons. Qt does not register the
+/// resources of a static library automatically.
 void openResources();
 
 } // namespace Dashboard

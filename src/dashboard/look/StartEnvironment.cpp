@@ -9,8 +9,9 @@ namespace Dashboard
 namespace
 {
 
-// The variables that select how Qt loads OpenGL on X11 and on Wayland. On Wayland, any name that is
-// not the name of a plug-in has the effect of "none".
+// The variables that determine how Qt loads OpenGL on X11 and on Wayland. The value "none" prevents
+// this. On Wayland, "none" is not a special value, but any name that is not the name of a plug-in
+// has the same effect.
 const char *const OPENGL_CHOICES[] = {"QT_XCB_GL_INTEGRATION",
                                       "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION"};
 
@@ -39,7 +40,7 @@ void StartEnvironment::leaveOpenGlOut()
 void StartEnvironment::restore()
 {
     if (qApp)
-        QOpenGLContext::supportsThreadedOpenGL(); // otherwise, Qt reads the choice even later
+        QOpenGLContext::supportsThreadedOpenGL(); // makes Qt evaluate the variables now instead of later
     for (const auto &[variable, value] : m_previous) {
         if (value.isNull())
             qunsetenv(variable);

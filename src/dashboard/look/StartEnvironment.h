@@ -9,26 +9,28 @@ namespace Dashboard
 {
 
 /**
- * The environment variables that Qt reads when the QApplication is constructed, and that this
- * program sets. Programs that this program starts, such as a browser, must not inherit them.
+ * Sets environment variables that Qt evaluates when the QApplication is constructed. Programs that
+ * the dashboard starts, such as a browser, must not inherit these variables.
  */
 class StartEnvironment
 {
 public:
     static StartEnvironment &instance();
 
-    /// Sets the variable. Keeps the previous value for restore().
+    /// Sets the variable and saves its previous value for restore().
     void set(const char *variable, const QByteArray &value);
 
-    /// Tells Qt not to load OpenGL, which this program does not use. Loading it takes longer than
-    /// the rest of the start, and half of the memory. Settings of the user are kept.
+    /// Prevents Qt from loading OpenGL, which this program does not use. Loading OpenGL would take
+    /// a large part of the start time and half of the memory. Variables that the user has set are
+    /// not changed.
     void leaveOpenGlOut();
 
-    /// Restores the previous values of all variables. Must be called when the QApplication exists.
+    /// Restores the previous values of all variables. Must be called after the QApplication has
+    /// been constructed.
     void restore();
 
 private:
-    std::map<const char *, QByteArray> m_previous; // a null value: the variable was not set
+    std::map<const char *, QByteArray> m_previous; // null if the variable was not set
 };
 
 } // namespace Dashboard

@@ -72,8 +72,8 @@ void fillInSides(QString *sheet, Qt::LayoutDirection direction)
     sheet->replace(QLatin1String("@end@"), isMirrored ? left : right);
 }
 
-/// Replaces every "#14px" with the scaled size, and every "#14-1px" with one pixel less. The thick
-/// border of the focus is compensated in this way without a rounding error.
+/// Replaces each "#14px" with the scaled size, and each "#14-1px" with the scaled size minus one
+/// pixel. The latter exactly compensates for the thicker border of a widget that has the focus.
 QString withSizes(const QString &sheet, double scale)
 {
     static const QRegularExpression size(QLatin1String("#(\\d+)(?:-(\\d+))?px"));

@@ -9,12 +9,12 @@
 namespace Dashboard
 {
 
-/// Returns the style sheet of the application with colours, sides and sizes filled in. `scale` is
-/// the size of the application font in relation to 14 pixels.
+/// Returns the style sheet of the application for this shade and layout direction. `scale` is the
+/// size of the application font divided by 14 pixels.
 QString styleSheet(Shade shade, Qt::LayoutDirection direction, double scale);
 
-/// Returns a palette made of the same tokens as the style sheet, for everything that the style
-/// sheet does not reach, such as links.
+/// Returns a palette with the colours of the style sheet. It is used for everything to which the
+/// style sheet does not apply, such as links.
 QPalette lookPalette(Shade shade);
 QPalette toolTipPalette(Shade shade);
 

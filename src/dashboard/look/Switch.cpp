@@ -12,7 +12,7 @@ namespace
 // In pixels, at 100 %.
 const int WIDTH = 40;
 const int HEIGHT = 22;
-const int RING = 2; // for the focus ring outside the track
+const int RING = 2; // the margin for the focus ring around the track
 
 } // namespace
 
@@ -55,7 +55,7 @@ void Switch::paintEvent(QPaintEvent *)
     painter.drawEllipse(knob());
 }
 
-// The knob of a switch that is on is at the end.
+// Returns the rectangle of the knob. If the switch is on, the knob is at the end of the track.
 QRectF Switch::knob() const
 {
     const QRectF track = QRectF(rect()).adjusted(2 * RING, 2 * RING, -2 * RING, -2 * RING);

@@ -22,8 +22,8 @@ double scaleOfUser()
 
 } // namespace
 
-// The resolution of fonts (QT_FONT_DPI) would not do: it replaces the resolution of the screen
-// instead of being multiplied with it.
+// Does not use the font resolution (QT_FONT_DPI), because it replaces the resolution of the screen
+// instead of scaling it.
 void applyTextSize(int percent)
 {
     QtCompat::scaleWithScreen();

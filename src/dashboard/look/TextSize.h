@@ -4,9 +4,9 @@
 namespace Dashboard
 {
 
-/// Makes everything larger, and sharp on every screen. Must be called before the QApplication is
-/// constructed. `percent` is 100 to 200. It is multiplied with the scale of the screen and with
-/// that of the user (QT_SCALE_FACTOR). Sets a variable of StartEnvironment.
+/// Scales the complete user interface. Must be called before the QApplication is constructed.
+/// `percent` is 100 to 200. It is multiplied by the scale factor of the screen and by that of the
+/// user (QT_SCALE_FACTOR). Sets a variable of StartEnvironment.
 void applyTextSize(int percent);
 
 } // namespace Dashboard

@@ -15,7 +15,7 @@ struct Entry {
     QRgb dark;
 };
 
-// In the order of the enumeration.
+// The order is that of the enumeration Token.
 const Entry TABLE[] = {
     {Token::Bg, "bg", 0xF3F5F9, 0x0E131A},
     {Token::Surface, "surface", 0xFFFFFF, 0x171F29},
@@ -57,7 +57,8 @@ const Entry &entryOf(Token token)
     return entry;
 }
 
-// The constants below are those of the definition of relative luminance in WCAG 2.1.
+// Converts a colour component to its linear value, as the definition of relative luminance in WCAG
+// 2.1 requires.
 double linear(double channel)
 {
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);

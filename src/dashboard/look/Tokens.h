@@ -7,12 +7,12 @@
 namespace Dashboard
 {
 
-/** The colours of the dashboard by their purpose. Each token has a colour for each shade. */
+/** The purposes of colours in the dashboard. Each token has a colour for each shade. */
 enum class Token {
     Bg,
     Surface,
     Sunken,
-    Border, // decoration only; its contrast is low
+    Border, // low contrast, for decoration only
     Control,
     Text,
     Text2,
@@ -33,7 +33,7 @@ enum class Token {
     HeroB,
     OnHero,
     OnHero2,
-    Paper, // light in both shades, because the transcript has the operator's colours
+    Paper, // light in both shades, because the operator defines the text colours of the transcript
     OnPaper,
     Focus,
     DisabledBg,
@@ -46,7 +46,7 @@ enum class Shade { Light, Dark };
 
 QColor tokenColor(Token token, Shade shade);
 
-/// Returns the name of the token in the style sheet, for example "accentSoft".
+/// Returns the name of the token as used in the style sheet, for example "accentSoft".
 QString tokenName(Token token);
 
 /// Returns the contrast ratio of two opaque colours as defined by WCAG 2.1, from 1 to 21.

@@ -15,7 +15,7 @@ namespace
 const char SERVICE[] = "org.freedesktop.Notifications";
 const char PATH[] = "/org/freedesktop/Notifications";
 const char INTERFACE[] = "org.freedesktop.Notifications";
-const char DEFAULT_ACTION[] = "default"; // the user has clicked the notification itself
+const char DEFAULT_ACTION[] = "default"; // invoked when the user clicks the notification itself
 const char READ_ACTION[] = "read";
 const char DESKTOP_ENTRY[] = "ussd-dashboard";
 const int DEFAULT_EXPIRY = -1;
@@ -52,7 +52,8 @@ DesktopNotifier::DesktopNotifier(const QDBusConnection &bus, QObject *parent)
 {
 }
 
-/// The service treats the body as markup, and some services also fetch images that it names.
+/// Notification services treat the body as markup, and some of them even load images that the
+/// markup refers to.
 QString DesktopNotifier::escaped(const QString &text)
 {
     return text.left(LONGEST_BODY).toHtmlEscaped();
@@ -69,7 +70,8 @@ void DesktopNotifier::notify(const DesktopNote &note)
     send(note);
 }
 
-/// Starts to receive the signals of the service. Adding a match rule does not wait for the bus.
+/// Connects to the signals of the service. This does not block, because the match rule is added
+/// asynchronously.
 void DesktopNotifier::listen()
 {
     if (m_isListening)
@@ -95,8 +97,8 @@ void DesktopNotifier::send(const DesktopNote &note)
             [this, kind, call, watcher] { onSent(kind, call, watcher); });
 }
 
-/// Remembers the number of the notification. If a newer one was sent before the service answered,
-/// removes the older one, which the newer one could not replace.
+/// Stores the number that the service has assigned to the notification. If a newer notification was
+/// sent before the service answered, it could not replace this one, so this one is removed.
 void DesktopNotifier::onSent(DesktopNote::Kind kind, int call, QDBusPendingCallWatcher *watcher)
 {
     watcher->deleteLater();
@@ -124,7 +126,7 @@ void DesktopNotifier::withdraw(DesktopNote::Kind kind)
     const auto shown = m_shown.find(kind);
     if (shown == m_shown.end())
         return;
-    ++shown->call; // a notification that the service has not confirmed yet is removed on arrival
+    ++shown->call; // a notification that is not confirmed yet is removed by onSent()
     if (shown->number != 0)
         close(shown->number);
     shown->number = 0;

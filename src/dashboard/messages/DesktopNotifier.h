@@ -13,20 +13,20 @@ class QDBusPendingCallWatcher;
 namespace Dashboard
 {
 
-/** A notification for the user while the window is not in front. */
+/** A desktop notification. */
 struct DesktopNote {
     enum class Kind { Message, LowBalance };
 
     Kind kind = Kind::Message;
     QString title; // plain text
     QString body;  // plain text
-    qint64 id = 0; // given back when the user clicks the notification
+    qint64 id = 0; // passed to activated() when the user clicks the notification
 };
 
 /**
- * Notifies the user through the notification service of the desktop
- * (org.freedesktop.Notifications). No call waits for the service. A newer notification of the same
- * kind replaces an older one. If there is no service, attention() is emitted instead.
+ * Shows notifications through the notification service of the desktop
+ * (org.freedesktop.Notifications). All functions return immediately. A new notification replaces
+ * the previous one of the same kind. If there is no service, attention() is emitted instead.
  */
 class DesktopNotifier : public QObject
 {
@@ -37,13 +37,14 @@ public:
     void notify(const DesktopNote &note);
     /// Removes the notification of this kind, for example because the user has read the message.
     void withdraw(DesktopNote::Kind kind);
-    /// Returns the text with the characters escaped that a notification would treat as markup.
+    /// Returns the text with all characters escaped that notification services treat as markup.
     static QString escaped(const QString &text);
 
 signals:
     /// Emitted when the user has clicked a notification.
     void activated(Dashboard::DesktopNote::Kind kind, qint64 id);
-    /// Emitted when there is no notification service. The window should draw attention to itself.
+    /// Emitted instead of showing a notification if there is no notification service. The window
+    /// should then request the user's attention.
     void attention();
 
 private slots:
@@ -51,11 +52,11 @@ private slots:
     void onClosed(uint number, uint reason);
 
 private:
-    /** A notification on the desktop. */
+    /** The current notification of a kind. */
     struct Shown {
-        uint number = 0; // given by the service; 0 while the service has not answered
+        uint number = 0; // assigned by the service; 0 until the service has answered
         qint64 id = 0;
-        int call = 0; // the newest call for this kind
+        int call = 0; // the number of the most recent call for this kind
     };
 
     void send(const DesktopNote &note);

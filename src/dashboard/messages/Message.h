@@ -7,23 +7,23 @@
 namespace Dashboard
 {
 
-/** A message that the network has sent of its own accord. */
+/** A network-initiated message. */
 struct Message {
-    qint64 id = 0; // 0 if there is no such message
+    qint64 id = 0; // 0 if the message does not exist
     QDateTime receivedAt;
     QString sender;
-    QString text; // safe to display as plain text; empty if the content is no longer available
+    QString text; // can safely be displayed as plain text; empty if the text is no longer available
     bool isUnread = false;
 
     bool isNull() const { return id == 0; }
 };
 
-/** Selects messages. */
+/** The filter of a list of messages. */
 struct MessageQuery {
     enum class Filter { All, Unread, Waiting };
 
     Filter filter = Filter::All;
-    QString words; // in the sender or the text; the case is ignored; empty for all messages
+    QString words; // searched for in the sender and the text, ignoring the case; empty for all messages
 
     bool operator==(const MessageQuery &other) const
     {

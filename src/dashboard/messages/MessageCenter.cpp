@@ -37,7 +37,8 @@ void MessageCenter::setSimKey(const std::function<QString(const QString &)> &key
     look();
 }
 
-/// A device that disappears for a moment keeps its messages in view until another SIM is known.
+/// If the device disappears, its messages stay visible until another SIM is known, because the
+/// device may return with the same SIM.
 void MessageCenter::look()
 {
     const DeviceStatus &status = m_device->status();
@@ -47,7 +48,7 @@ void MessageCenter::look()
         return;
     m_isSimulated = status.isSimulated;
     m_imsi = status.imsi;
-    // Without settings, nothing is stored, so the key needs no secret of this user.
+    // Without settings, nothing is stored, so the IMSI does not have to be hashed.
     m_store->setSim(status.isSimulated || !m_settings ? status.imsi : m_simKey(status.imsi));
 }
 
@@ -59,8 +60,8 @@ void MessageCenter::add(const QString &text, const QDateTime &receivedAt, bool w
     notify(m_store->add(sender, text, receivedAt, waitsForAnswer), waitsForAnswer);
 }
 
-/// Notifies the user. The text of the message is part of the notification only if the user has
-/// allowed it, because a locked screen may show notifications.
+/// Shows a notification. It contains the text of the message only if the user has enabled this,
+/// because notifications may be visible on a locked screen.
 void MessageCenter::notify(const Message &message, bool waitsForAnswer)
 {
     if (!m_settings || !m_settings->notifiesMessages() || m_isInFront())

@@ -16,32 +16,33 @@ class DeviceWatcher;
 class MessageStore;
 
 /**
- * Receives the network-initiated messages: stores them for the current SIM and notifies the user
- * while the window is not in front. Messages of the demonstration are never stored in the file. All
- * functions must be called from the GUI thread.
+ * Stores network-initiated messages for the current SIM, and shows desktop notifications while the
+ * window is not active. Messages of a demonstration are never stored in the file. All functions
+ * must be called from the GUI thread.
  */
 class MessageCenter : public QObject
 {
     Q_OBJECT
 public:
-    /// All arguments must outlive the center. If `settings` is null, messages are kept in memory
-    /// and the user is not notified.
+    /// All arguments must outlive this object. If `settings` is null, messages are only kept in
+    /// memory, and no notifications are shown.
     MessageCenter(MessageStore *store, const DeviceWatcher *device,
                   const DashboardSettings *settings, DesktopNotifier *notifier,
                   QObject *parent = nullptr);
 
-    /// Sets the function that returns true if the window is in front of the user.
+    /// Sets the function that returns true if the window is active.
     void setInFront(const std::function<bool()> &isInFront) { m_isInFront = isInFront; }
-    /// Sets the function that returns the key of the SIM with this IMSI.
+    /// Sets the function that converts an IMSI to the key of the SIM.
     void setSimKey(const std::function<QString(const QString &)> &key);
 
 public slots:
     void add(const QString &text, const QDateTime &receivedAt, bool waitsForAnswer);
-    /// Notifies the user of a low balance. `amount` is the amount as it is shown to the user.
+    /// Shows a notification about a low balance. `amount` is the balance as displayed to the user.
     void notifyLowBalance(const QString &amount);
-    /// Follows the SIM and the settings. Must be called when the settings have changed.
+    /// Applies the current SIM and the current settings. Must be called when the settings have
+    /// changed.
     void look();
-    /// Must be called when the window has come to the front.
+    /// Must be called when the window has become active.
     void onInFront();
 
 private:

@@ -18,11 +18,11 @@ const char FILE_NAME[] = "messages.sqlite";
 const int SCHEMA_VERSION = 1;
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-// The result codes of SQLite for a file that cannot be understood.
+// The result codes of SQLite for a damaged file and for a file that is not a database.
 const char CORRUPT[] = "11";
 const char NOT_A_DATABASE[] = "26";
 
-// Deleted messages are overwritten. A second process waits for the first.
+// Overwrite deleted messages, and wait if another process is using the file.
 const char *const SETTINGS[] = {"PRAGMA secure_delete = ON", "PRAGMA busy_timeout = 2000",
                                 "PRAGMA synchronous = FULL"};
 
@@ -42,7 +42,8 @@ QString newConnectionName()
     return QString::fromLatin1("messages-%1").arg(last.fetchAndAddOrdered(1));
 }
 
-/// Returns the text that searches compare. SQLite itself ignores the case of ASCII letters only.
+/// Returns the text in the form that searches compare. SQLite ignores only the case of ASCII
+/// letters.
 QString folded(const QString &text)
 {
     return text.toCaseFolded();
@@ -59,7 +60,8 @@ Message messageOf(const QSqlQuery &row)
     return message;
 }
 
-/// Creates the file before SQLite does, so that nobody else can ever read it.
+/// Creates the file with private permissions. SQLite would create it with the default permissions,
+/// so that other users could read it for a moment.
 bool makePrivateFile(const QString &path)
 {
     if (!QDir().mkpath(QFileInfo(path).path()))
@@ -96,8 +98,8 @@ QString MessageDatabase::userFile()
 
 // ---- the file -----------------------------------------------------------------------------------
 
-/// Returns false if there is certainly no message, so that a program without messages does not
-/// load the database driver.
+/// Returns false if there cannot be any messages. In this case, the program does not have to load
+/// the database driver.
 bool MessageDatabase::isThere() const
 {
     return m_isOpen || (!isInMemory() && QFile::exists(m_file));
@@ -123,7 +125,8 @@ bool MessageDatabase::open()
     return false;
 }
 
-/// Creates the tables. Returns false if the file is damaged or belongs to a later version.
+/// Creates the tables. Returns false if the file is damaged or was written by a later version of
+/// the program.
 bool MessageDatabase::prepare()
 {
     QSqlDatabase database = QSqlDatabase::database(m_connection);
@@ -144,7 +147,7 @@ bool MessageDatabase::prepare()
     return database.commit();
 }
 
-/// Remembers a damaged file. Always returns false.
+/// Records whether the error was caused by a damaged file. Always returns false.
 bool MessageDatabase::handleError(const QSqlQuery &query)
 {
     const QString code = query.lastError().nativeErrorCode();
@@ -153,7 +156,7 @@ bool MessageDatabase::handleError(const QSqlQuery &query)
     return false;
 }
 
-/// Renames a damaged file. Returns false if the file is not damaged.
+/// Renames the file if it is damaged. Returns false if it is not.
 bool MessageDatabase::setAside()
 {
     if (m_damagedFile != m_file || isInMemory())
@@ -189,11 +192,12 @@ bool MessageDatabase::run(const char *statement, const QVariantList &values, QSq
     query->setForwardOnly(true);
     query->prepare(QLatin1String(statement));
     for (const QVariant &value : values)
-        query->addBindValue(value.isNull() ? QVariant(QLatin1String("")) : value); // never NULL
+        query->addBindValue(value.isNull() ? QVariant(QLatin1String("")) : value); // NULL would violate the NOT NULL constraints
     return query->exec() || handleError(*query);
 }
 
-/// Carries out a change. If the file turns out to be damaged, repeats the change in a new file.
+/// Executes the statement. If the file turns out to be damaged, repeats the statement with a new
+/// file.
 bool MessageDatabase::change(const char *statement, const QVariantList &values)
 {
     if (!isOpen())
@@ -224,7 +228,7 @@ qint64 MessageDatabase::add(const QString &sim, const Message &message)
                : 0;
 }
 
-/// Returns the messages that the statement selects. Sets a damaged file aside.
+/// Returns the messages that the statement selects. If the file is damaged, renames it.
 QList<Message> MessageDatabase::select(const QByteArray &statement, const QVariantList &values)
 {
     QList<Message> messages;
@@ -305,7 +309,7 @@ bool MessageDatabase::removeBefore(const QDateTime &limit)
            change("DELETE FROM message WHERE received < ?", {limit.toMSecsSinceEpoch()});
 }
 
-/// Also removes the damaged files, because they may contain messages.
+/// Also removes damaged files that were set aside, because they may contain messages.
 bool MessageDatabase::removeAll()
 {
     close();

@@ -12,14 +12,14 @@ namespace Dashboard
 {
 
 /**
- * The messages of all SIMs in an SQLite file that only its user can read, or in memory. The file is
- * opened by the first call that needs it. A damaged file is renamed, and a new one takes its place.
- * Each change is one transaction, so a crash leaves either the old or the new content.
+ * Stores the network-initiated messages of all SIMs in an SQLite file that only the user can read,
+ * or in memory. The file is opened when it is first needed. A damaged file is renamed and replaced
+ * with a new one. Each change is a transaction, so a crash cannot leave an incomplete change.
  */
 class MessageDatabase
 {
 public:
-    /// An empty name stands for a database in memory.
+    /// If `file` is empty, the database is kept in memory.
     explicit MessageDatabase(const QString &file);
     ~MessageDatabase();
     MessageDatabase(const MessageDatabase &) = delete;
@@ -29,10 +29,11 @@ public:
     static QString userFile();
 
     bool isInMemory() const { return m_file.isEmpty(); }
-    /// Adds the message and returns its identifier. Returns 0 if it cannot be stored.
+    /// Adds the message and returns its identifier, or 0 if the message cannot be stored.
     qint64 add(const QString &sim, const Message &message);
-    /// Returns at most `limit` messages that are older than `after`, the newest first. A null
-    /// message stands for the newest messages. `waiting` is the message that waits for an answer.
+    /// Returns at most `limit` messages that are older than `after`, starting with the newest one.
+    /// If `after` is a null message, returns the newest messages. `waiting` is the message that
+    /// requires an answer.
     QList<Message> older(const QString &sim, const MessageQuery &query, qint64 waiting,
                          const Message &after, int limit);
     Message message(qint64 id);
@@ -40,15 +41,17 @@ public:
     bool markRead(qint64 id);
     bool markAllRead(const QString &sim);
     bool remove(qint64 id);
-    /// Assigns the messages that arrived before the SIM was known to this SIM.
+    /// Assigns the messages that arrived before the SIM was known to the given SIM.
     bool adopt(const QString &sim);
     bool removeBefore(const QDateTime &limit);
     /// Removes all messages of all SIMs, and the file.
     bool removeAll();
 
-    /// Returns the new name of a damaged file since the last call, or an empty string.
+    /// Returns the new name of the file if it was damaged and has been renamed since the last call.
+    /// Otherwise, returns an empty string.
     QString takeDamagedFile();
-    /// Returns true if the file was written by a later version. It is neither read nor changed.
+    /// Returns true if the file was written by a later version of the program. Such a file is
+    /// neither read nor changed.
     bool isOfLaterVersion() const { return m_isOfLaterVersion; }
 
 private:
@@ -64,7 +67,7 @@ private:
     void close();
 
     const QString m_file;
-    const QString m_connection; // the name of the connection
+    const QString m_connection; // the name of the Qt database connection
     QString m_damagedFile;
     bool m_isOfLaterVersion = false;
     bool m_isOpen = false;

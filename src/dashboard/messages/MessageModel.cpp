@@ -92,8 +92,8 @@ bool MessageModel::matches(const Message &message) const
            message.text.toCaseFolded().contains(words);
 }
 
-/// Returns the row of a new message. Messages that were kept by the device may be older than those
-/// of the store.
+/// Returns the row for a new message. It is not always the first row, because messages that the
+/// device has kept may be older than stored ones.
 int MessageModel::rowFor(const Message &message) const
 {
     int row = 0;
@@ -102,7 +102,8 @@ int MessageModel::rowFor(const Message &message) const
     return row;
 }
 
-/// Inserts the message, unless its row has not been read yet. The row after it may lose its day.
+/// Inserts the message, unless its row has not been read yet. The next row may then no longer be
+/// the first one of its day.
 void MessageModel::onAdded(const Message &message)
 {
     const int row = rowFor(message);
@@ -115,8 +116,8 @@ void MessageModel::onAdded(const Message &message)
         emit dataChanged(index(row + 1), index(row + 1));
 }
 
-/// Updates one row. A message that was read stays in the list of unread messages until the user
-/// makes another choice, so that the list does not jump.
+/// Updates a row. In the list of unread messages, a message that has been read stays visible until
+/// the user selects another filter, so that the list does not move.
 void MessageModel::onChanged(qint64 id)
 {
     const QModelIndex changed = indexOf(id);
@@ -132,7 +133,7 @@ void MessageModel::onChanged(qint64 id)
         m_messages[row] = now;
     }
     if (row < rowCount())
-        emit dataChanged(index(row), index(row)); // the row may have become the first of its day
+        emit dataChanged(index(row), index(row)); // the row may now be the first one of its day
 }
 
 void MessageModel::onAllRead()

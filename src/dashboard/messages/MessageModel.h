@@ -12,12 +12,13 @@ namespace Dashboard
 
 class MessageStore;
 
-/// Returns the day of the message in words: "Today", "Yesterday" or a date.
+/// Returns "Today", "Yesterday" or the date.
 QString dayText(const QDate &day, const QDate &today);
 
 /**
- * The messages of the current SIM that match a query, the newest first. Messages are read from the
- * store when the view needs them, so that a long history costs nothing.
+ * A model with the messages of the current SIM that match a query, starting with the newest one.
+ * Messages are read from the store when the view needs them, so that even a long history opens
+ * quickly.
  */
 class MessageModel : public QAbstractListModel
 {
@@ -25,8 +26,8 @@ class MessageModel : public QAbstractListModel
 public:
     enum Role {
         MessageRole = Qt::UserRole, // a Message
-        DayRole,                    // the day in words in the first row of each day, else empty
-        WaitingRole                 // true if the message waits for an answer
+        DayRole,                    // the day as text; empty unless the row is the first one of its day
+        WaitingRole                 // true if the message requires an answer
     };
     static const int ROWS_AT_ONCE = 100;
 
@@ -35,7 +36,7 @@ public:
 
     void setQuery(const MessageQuery &query);
     const MessageQuery &query() const { return m_query; }
-    /// Replaces the calendar that decides which day is today.
+    /// Replaces the function that returns the current date.
     void setToday(const std::function<QDate()> &today) { m_today = today; }
     Message message(const QModelIndex &index) const;
     QModelIndex indexOf(qint64 id) const;
@@ -61,7 +62,7 @@ private:
     std::function<QDate()> m_today = QDate::currentDate;
     MessageQuery m_query;
     QList<Message> m_messages;
-    bool m_isComplete = false; // all messages have been read from the store
+    bool m_isComplete = false; // true if all messages have been read from the store
 };
 
 } // namespace Dashboard

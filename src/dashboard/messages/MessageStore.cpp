@@ -24,7 +24,7 @@ void MessageStore::setStoring(bool isStoring)
     begin(file);
 }
 
-/// Replaces the database. The messages of the previous one disappear from view.
+/// Replaces the database. The messages of the previous database are no longer visible.
 void MessageStore::begin(const QString &file)
 {
     m_database.reset(new MessageDatabase(file));
@@ -66,7 +66,7 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
         keepInMemory();
         message.id = m_database->add(m_sim, message);
     }
-    endWaiting(); // a newer message ends the session of an older one
+    endWaiting(); // a new message ends the session of the previous one
     m_waiting = waitsForAnswer ? message.id : 0;
     report();
     count();
@@ -74,7 +74,7 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
     return message;
 }
 
-/// Gives up the file, which cannot be written.
+/// Continues with a database in memory, because the file cannot be written.
 void MessageStore::keepInMemory()
 {
     if (m_database->isInMemory())
@@ -83,7 +83,7 @@ void MessageStore::keepInMemory()
     emit problem(dashboardText("MESSAGE_NOT_KEPT").arg(m_file));
 }
 
-/// Reports that a damaged file was renamed.
+/// Emits problem() if a damaged file has been renamed.
 void MessageStore::report()
 {
     const QString damaged = m_database->takeDamagedFile();

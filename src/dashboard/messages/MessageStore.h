@@ -14,22 +14,22 @@ namespace Dashboard
 class MessageDatabase;
 
 /**
- * Keeps the network-initiated messages of each SIM for 12 months. If messages must not be stored,
- * or if they cannot be stored, they are kept in memory until the program ends. All functions must
- * be called from the GUI thread.
+ * Stores the network-initiated messages of each SIM for 12 months. If the user has disabled
+ * storing, or if the file cannot be written, messages are kept in memory until the program exits.
+ * All functions must be called from the GUI thread.
  */
 class MessageStore : public QObject
 {
     Q_OBJECT
 public:
     static const int MONTHS_KEPT = 12;
-    static const int LONGEST_TEXT = 10000; // characters; far more than a network can send
+    static const int LONGEST_TEXT = 10000; // characters; more than any network can send
 
-    /// Stores messages in the given file. The file is not opened before a message is read or added.
+    /// Stores messages in the given file, which is opened when a message is first read or added.
     explicit MessageStore(const QString &file, QObject *parent = nullptr);
     ~MessageStore() override;
 
-    /// Decides whether messages are stored in the file or only kept in memory.
+    /// Sets whether messages are stored in the file or only kept in memory.
     void setStoring(bool isStoring);
     /// Sets the key of the current SIM. Only messages of this SIM are visible. An empty key means
     /// that the SIM is unknown.
@@ -37,17 +37,17 @@ public:
     /// Replaces the clock that determines which messages are too old.
     void setClock(const std::function<QDateTime()> &clock) { m_clock = clock; }
 
-    /// Adds an unread message and returns it. Control and direction characters of the text are
-    /// replaced.
+    /// Adds an unread message and returns it. Control characters and direction characters in the
+    /// text are replaced.
     Message add(const QString &sender, const QString &text, const QDateTime &receivedAt,
                 bool waitsForAnswer);
-    /// Returns at most `limit` messages that are older than `after`, the newest first. A null
-    /// message stands for the newest messages.
+    /// Returns at most `limit` messages that are older than `after`, starting with the newest one.
+    /// If `after` is a null message, returns the newest messages.
     QList<Message> older(const MessageQuery &query, const Message &after, int limit);
     Message message(qint64 id) const;
     Message newest();
     int unreadCount() const { return m_unreadCount; }
-    /// Returns the identifier of the message that waits for an answer, or 0.
+    /// Returns the identifier of the message that requires an answer, or 0 if there is none.
     qint64 waiting() const { return m_waiting; }
     /// Returns the file that contains the messages, or an empty string if they are in memory.
     QString file() const;
@@ -56,18 +56,18 @@ public slots:
     void markRead(qint64 id);
     void markAllRead();
     void remove(qint64 id);
-    /// Must be called when the network no longer waits for an answer.
+    /// Must be called when the network no longer expects an answer.
     void endWaiting();
     /// Removes all messages of all SIMs from the file and from memory.
     void removeAll();
 
 signals:
     void added(const Message &message);
-    /// Emitted when this message was marked as read, was removed, or no longer waits.
+    /// Emitted when the message was marked as read, was removed, or no longer requires an answer.
     void changed(qint64 id);
     /// Emitted when all messages were marked as read.
     void allRead();
-    /// Emitted when the current messages have been replaced, for example by those of another SIM.
+    /// Emitted when the visible messages have been replaced, for example with those of another SIM.
     void reset();
     void unreadCountChanged(int count);
     /// Emitted with a message for the user if messages cannot be stored.
