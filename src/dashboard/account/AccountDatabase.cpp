@@ -210,7 +210,7 @@ bool AccountDatabase::handleError(const QSqlQuery &query)
     return false;
 }
 
-/// Renames the file if it is damaged. Returns false if it is not.
+/// Renames the file if it is damaged. Returns true if the file was renamed.
 bool AccountDatabase::setAside()
 {
     if (!m_isDamaged || isInMemory())

@@ -9,7 +9,7 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 24; // in pixels, at 100 %
+const int HEIGHT = 24; // in pixels at 100 % text size
 
 const char *nameOf(Tone tone)
 {

@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-const int DIAMETER = 40; // in pixels, at 100 %
+const int DIAMETER = 40; // in pixels at 100 % text size
 const int ICON_SIZE = 20;
 
 const char *boxOf(Tone tone)

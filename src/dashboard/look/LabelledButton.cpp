@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int MARGIN = 12;
 const int GAP = 14;
 const int GAP_BELOW = 4;

@@ -12,7 +12,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int ARROW = 16;
 const int GAP = 8;
 const int MARGIN = 14;

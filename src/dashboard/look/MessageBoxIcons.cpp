@@ -13,7 +13,7 @@ namespace Dashboard
 namespace
 {
 
-const int SIZE = 32; // in pixels, at 100 %
+const int SIZE = 32; // in pixels at 100 % text size
 
 struct BoxIcon {
     const char *name;

@@ -9,7 +9,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int WIDTH = 40;
 const int HEIGHT = 22;
 const int RING = 2; // the margin for the focus ring around the track

@@ -156,7 +156,7 @@ bool MessageDatabase::handleError(const QSqlQuery &query)
     return false;
 }
 
-/// Renames the file if it is damaged. Returns false if it is not.
+/// Renames the file if it is damaged. Returns true if the file was renamed.
 bool MessageDatabase::setAside()
 {
     if (m_damagedFile != m_file || isInMemory())
@@ -192,7 +192,7 @@ bool MessageDatabase::run(const char *statement, const QVariantList &values, QSq
     query->setForwardOnly(true);
     query->prepare(QLatin1String(statement));
     for (const QVariant &value : values)
-        query->addBindValue(value.isNull() ? QVariant(QLatin1String("")) : value); // NULL would violate the NOT NULL constraints
+        query->addBindValue(value.isNull() ? QVariant(QLatin1String("")) : value); // NULL is invalid
     return query->exec() || handleError(*query);
 }
 

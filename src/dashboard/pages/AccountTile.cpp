@@ -13,7 +13,7 @@ namespace Dashboard
 namespace
 {
 
-const int BAR_HEIGHT = 6; // in pixels, at 100 %
+const int BAR_HEIGHT = 6; // in pixels at 100 % text size
 const int ICON_SIZE = 18;
 const int WIDE_HEIGHT = 100;
 

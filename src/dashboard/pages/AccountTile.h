@@ -15,23 +15,23 @@ class IconDisc;
 class IconView;
 class ShareBar;
 
-/** What a tile shows. */
+/** The content of a tile. */
 struct TileView {
     QString caption;
     QString value;
-    QString shortValue;       // in the narrow form; empty for the same value
+    QString shortValue;       // for the narrow form; empty if it is the same as `value`
     QString note;             // below the value
-    QString shortNote;        // beside the value, in the narrow form
-    double share = -1;        // of the bar, 0 to 1; negative for no bar
-    bool isValueCode = false; // the value is a number, which reads from left to right
+    QString shortNote;        // next to the value, in the narrow form
+    double share = -1;        // the filled part of the bar, 0 to 1; negative if there is no bar
+    bool isValueCode = false; // true if the value is a phone number, which is always displayed from left to right
 };
 
-/** A value of the account with the time at which it was asked, and a button. */
+/** A tile with a value of the account, the time of the query, and a button. */
 class AccountTile : public QFrame
 {
     Q_OBJECT
 public:
-    /// Both arguments are names of icons.
+    /// `icon` and `action` are the names of the icons of the tile and of the button.
     AccountTile(const char *icon, const char *action, QWidget *parent = nullptr);
 
     void show(const TileView &view);
@@ -59,7 +59,7 @@ private:
     ShareBar *m_bar;
 };
 
-/** A horizontal bar that is filled to a share. */
+/** A horizontal bar that is filled in proportion to a value. */
 class ShareBar : public QWidget
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ namespace Dashboard
 namespace
 {
 
-const int RADIUS = 12; // in pixels at 100 %
+const int RADIUS = 12; // in pixels at 100 % text size
 const int LOWEST = 66;
 const double PRESSED = 0.6;
 
@@ -52,7 +52,8 @@ void ActionCard::setIconName(const char *name)
     m_icon->setIcon(name, Tone::Accent);
 }
 
-/// The whole texts are the accessible name and the tool tip, because the labels elide them.
+/// The accessible name and the tool tip contain the complete texts, because the labels may elide
+/// them.
 void ActionCard::setTexts(const QString &name, const QString &line)
 {
     m_name->setText(name);

@@ -10,14 +10,14 @@ class ElidedLabel;
 class IconDisc;
 class IconView;
 
-/** A card that is pressed like a button: an icon, a name, a second line and an arrow. */
+/** A button in the form of a card with an icon, a name, a second line and an arrow. */
 class ActionCard : public QAbstractButton
 {
     Q_OBJECT
 public:
     explicit ActionCard(QWidget *parent = nullptr);
 
-    /// Sets the icon. `name` is a string literal.
+    /// Sets the icon. `name` must be a string literal.
     void setIconName(const char *name);
     /// Sets the name and the second line. Both are plain text.
     void setTexts(const QString &name, const QString &line);

@@ -9,18 +9,18 @@ namespace Dashboard
 enum class PageId;
 enum class Remedy;
 
-/** The actions that a page requests from the program. All functions return immediately. */
+/** The actions that pages can request from the main window. All functions return immediately. */
 class AppActions
 {
 public:
     virtual ~AppActions();
 
     virtual void showPage(PageId page) = 0;
-    /// Shows the page of codes and sends the code.
+    /// Opens the page Codes and sends the code.
     virtual void sendCode(const QString &code) = 0;
-    /// Shows the page of codes and types the code without sending it.
+    /// Opens the page Codes and enters the code into the command field without sending it.
     virtual void typeCode(const QString &code) = 0;
-    /// Opens the window in which the user can top up, or the nearest replacement for it.
+    /// Opens the dialog, window or field in which the user can top up the account.
     virtual void topUp() = 0;
     virtual void openAccountWindow() = 0;
     /// Opens the services window. `row` is the index of the service in the configuration; -1

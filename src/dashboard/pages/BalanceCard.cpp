@@ -15,9 +15,9 @@ namespace Dashboard
 namespace
 {
 
-const int OLD_DAYS = 7;      // from this age on, the card shows the age
-const int WIDE_HEIGHT = 196; // in pixels, at 100 %
-const int REPLY_LINES = 3;   // of a reply that tells no balance
+const int OLD_DAYS = 7;      // the card shows the age of the balance from this number of days on
+const int WIDE_HEIGHT = 196; // in pixels at 100 % text size
+const int REPLY_LINES = 3;   // for a reply that does not contain a balance
 
 QString firstLines(const QString &text)
 {
@@ -79,7 +79,7 @@ QLayout *BalanceCard::makeAmount()
     QHBoxLayout *row = new QHBoxLayout;
     setSpacing(row, 8);
     row->addWidget(m_amount, 0, Qt::AlignBottom);
-    // The descent of the larger font is below the baseline that both share.
+    // Moves the text with the smaller font up, so that it has the same baseline as the larger font.
     QVBoxLayout *unit = new QVBoxLayout;
     setMargins(unit, 0, 0, 0, 5);
     unit->addStretch(1);
@@ -117,14 +117,14 @@ QWidget *BalanceCard::makeButtons()
     for (QPushButton *button : {m_topUp, m_ask, m_show})
         m_buttonRow->addWidget(button);
     m_buttonRow->addStretch(1);
-    m_buttons->setMinimumWidth(1); // instead of the width of all buttons; see arrangeButtons()
+    m_buttons->setMinimumWidth(1); // otherwise, the minimum would be the width of all buttons; see arrangeButtons()
     connect(m_topUp, &QPushButton::clicked, this, &BalanceCard::topUpRequested);
     connect(m_ask, &QPushButton::clicked, this, &BalanceCard::askRequested);
     connect(m_show, &QPushButton::clicked, this, &BalanceCard::replyRequested);
     return m_buttons;
 }
 
-/// Returns the width of the row of buttons.
+/// Returns the width that all buttons require in a single row.
 int BalanceCard::rowWidth() const
 {
     int width = 0;
@@ -135,8 +135,8 @@ int BalanceCard::rowWidth() const
     return width - m_buttonRow->spacing();
 }
 
-/// Drops the text of the last button if there is no room for it. Puts the buttons below each other
-/// if there is still no room.
+/// If there is not enough space, hides the text of the last button. If this is not sufficient,
+/// arranges the buttons vertically.
 void BalanceCard::arrangeButtons()
 {
     const QMargins margins = m_layout->contentsMargins();
@@ -165,7 +165,7 @@ void BalanceCard::setNarrow(bool isNarrow)
         setMargins(m_layout, 24, 18, 24, 20);
     m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     setMinimumHeight(isNarrow ? 0 : Look::instance().px(WIDE_HEIGHT));
-    // The narrow form has no room for a third button in the row.
+    // In the narrow form, there is no space for a third button in the row.
     if (isNarrow)
         m_validityRow->addWidget(m_show);
     else
@@ -229,7 +229,7 @@ void BalanceCard::showButtons()
     arrangeButtons();
 }
 
-/// Sets one sentence for screen readers, such as "Balance 12.50 EUR, valid until 31 December 2027,
+/// Sets the accessible name to a sentence such as "Balance 12.50 EUR, valid until 31 December 2027,
 /// asked today at 14:32".
 void BalanceCard::describe()
 {

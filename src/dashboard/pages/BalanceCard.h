@@ -16,20 +16,20 @@ namespace Dashboard
 
 class Chip;
 
-/** What the balance card shows. */
+/** The content of the balance card. */
 struct BalanceView {
-    AccountEntry entry; // the newest reply to the balance code; null if the user has not asked yet
-    QDate validity;     // invalid if it is unknown
+    AccountEntry entry; // the most recent reply to the balance code; null if there is none
+    QDate validity;     // invalid if unknown
     QDateTime now;
-    bool isInvented = false; // of the demonstration
+    bool isInvented = false; // true during a demonstration
     bool isLow = false;
     bool canAsk = false;
     bool canTopUp = false;
-    bool isMenuOpen = false; // a menu has to be ended before a code can be sent
-    int askingSeconds = -1;  // since the code was sent; -1 if no reply is expected
+    bool isMenuOpen = false; // true if an open menu prevents codes from being sent
+    int askingSeconds = -1;  // the time since the code was sent; -1 if no reply is pending
 };
 
-/** The card with the balance, its age and its validity. */
+/** The card that shows the balance, its age and its validity. */
 class BalanceCard : public QFrame
 {
     Q_OBJECT

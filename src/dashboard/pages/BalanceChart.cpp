@@ -21,7 +21,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int CAPTION_SIZE = 12;
 const int CAPTION_HEIGHT = 22;
 const int VALUE_GAP = 8;
@@ -39,7 +39,7 @@ double valueOf(qint64 units)
     return double(units) / Money::UNITS;
 }
 
-/// Returns the next round number: 1, 2, 3 or 5 times a power of ten.
+/// Returns the next larger number that is 1, 2, 3 or 5 times a power of ten.
 double roundUp(double value)
 {
     if (value <= 0)
@@ -173,7 +173,7 @@ void ChartView::paintGrid(QPainter *painter) const
     }
 }
 
-/// Paints the line, which is mirrored in a right-to-left layout.
+/// Paints the curve, which is mirrored in a right-to-left layout.
 void ChartView::paintLine(QPainter *painter) const
 {
     painter->save();
@@ -260,7 +260,7 @@ void BalanceChart::show(const QList<BalanceDay> &days, const QDate &today)
     for (const BalanceDay &day : days)
         spent.decimals = qMax(spent.decimals, day.last.decimals);
     Money topped = spent;
-    // The first day has no earlier balance in the chart from which it could have changed.
+    // The changes of the first day are ignored, because they refer to a balance before the chart.
     for (int i = 1; i < days.size(); ++i) {
         spent.units += days.at(i).falls;
         topped.units += days.at(i).rises;

@@ -10,14 +10,15 @@ class QLabel;
 namespace Dashboard
 {
 
-/** The line of a chart. The last value of each day holds until the next reply. */
+/** The curve of a chart. The last value of each day applies until the next reply. */
 class ChartView : public QWidget
 {
     Q_OBJECT
 public:
     explicit ChartView(QWidget *parent = nullptr);
 
-    /// Sets the days in ascending order. `last` is the day at the end of the time axis.
+    /// Sets the balances, in ascending order of the days. `last` is the last day on the time axis,
+    /// and `count` is the number of days on this axis.
     void setDays(const QList<BalanceDay> &days, const QDate &last, int count);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,7 +43,7 @@ private:
     QDate m_last;
 };
 
-/** The card with the balance of the last 30 days. */
+/** The card with a chart of the balance over the last 30 days. */
 class BalanceChart : public QFrame
 {
     Q_OBJECT
@@ -50,8 +51,8 @@ public:
     explicit BalanceChart(QWidget *parent = nullptr);
 
     void show(const QList<BalanceDay> &days, const QDate &today);
-    /// Returns the sentence for screen readers, such as "From 18.00 to 12.50 EUR in 30 days, lowest
-    /// 2.50".
+    /// Returns the description of the chart for screen readers, such as "From 18.00 to 12.50 EUR in
+    /// 30 days, lowest 2.50".
     QString sentence() const { return m_sentence; }
 
 private:

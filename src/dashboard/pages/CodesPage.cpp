@@ -28,9 +28,9 @@ namespace
 
 const double LARGEST_SCALE_OF_A_FRAME = 1.3; // the frame of the general window has a fixed size
 const int CHOICE_KEYS = 10;
-const int PAYMENT_BUTTONS = 2; // the last preset buttons take the number
+const int PAYMENT_BUTTONS = 2; // the last preset buttons require a number
 
-/// Returns the complete name of a preset button, which may show an elided name.
+/// Returns the complete name of a preset button, even if the button shows an elided name.
 QString fullName(const QPushButton *button)
 {
     const bool isElided = button->text().endsWith(QChar(0x2026));
@@ -88,7 +88,7 @@ void CodesPage::makeNarrowButtons()
     m_narrowRow->addWidget(m_topUpButton);
 }
 
-/// Places the buttons side by side, or one below the other if the page is too narrow for that.
+/// Arranges the buttons horizontally, or vertically if the page is too narrow.
 void CodesPage::placeNarrowButtons()
 {
     const int codes = m_codesButton->sizeHint().width();
@@ -239,8 +239,8 @@ void CodesPage::refreshNames()
     updateRecent();
 }
 
-/// Shows every word about the failure. The dialog does not block, because the device may be lost
-/// while it is open.
+/// Shows all details of the failure. The dialog does not run a nested event loop, because the
+/// device may be lost while it is open.
 void CodesPage::showDetails()
 {
     const CommandState &state = m_parts.commands->state();
@@ -278,7 +278,8 @@ void CodesPage::typeCode(const QString &code)
     edit->setFocus(Qt::OtherFocusReason);
 }
 
-/// Asks for the digits that are hidden in the code. Returns an empty string if the user cancels.
+/// Lets the user enter the digits that are hidden in the code. Returns an empty string if the user
+/// cancels.
 QString CodesPage::askForNumbers(const QString &code)
 {
     QString complete = code;

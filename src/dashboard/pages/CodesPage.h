@@ -19,7 +19,7 @@ class GeneralArea;
 class HistoryPopup;
 class LoadedPlugin;
 
-/** The objects that the page of codes uses. All of them must outlive it. */
+/** The objects that CodesPage uses. All of them must outlive the page. */
 struct CodesParts {
     LoadedPlugin *plugin;
     CommandMonitor *commands;
@@ -27,7 +27,10 @@ struct CodesParts {
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
 };
 
-/** The page with the plug-in's general window and the strip that says what goes on with codes. */
+/**
+ * The page Codes, with the plug-in's general window and a strip with the state of the current
+ * command.
+ */
 class CodesPage : public Page
 {
     Q_OBJECT
@@ -40,34 +43,37 @@ public:
 
     /// Shows or hides the general window.
     void showWindow(bool isShown);
-    /// Shows a message in place of the general window, for example that the plug-in is missing.
+    /// Shows a message instead of the general window, for example that the plug-in is missing.
     void showText(const QString &text);
     /// Shows the situation of the device. While codes cannot be sent, the general window is
-    /// disabled, except for a command that is on its way.
+    /// disabled unless a command is in flight.
     void setSituation(const Situation &situation);
-    /// Reads the names of the codes again.
+    /// Updates the names of the codes.
     void refreshNames();
 
     GeneralWindow general() const;
     GeneralArea *area() const { return m_area; }
     StateStrip *strip() const { return m_strip; }
-    /// Returns the actions with their shortcuts, which the main window adds to itself: the code
-    /// field, the choices, Cancel or End menu, History, and Copy the reply.
+    /// Returns the actions of the page, whose shortcuts the main window activates: focusing the
+    /// code field, selecting a menu item, cancelling a command or ending a menu, opening the
+    /// history, and copying the reply.
     QList<QAction *> shortcuts() const { return m_shortcuts; }
 
 public slots:
-    /// Sends the code. If a number is hidden in it, asks for the number and types the code.
+    /// Sends the code. If the code contains hidden digits, lets the user enter them first, and
+    /// enters the code into the command field without sending it.
     void useCode(const QString &code);
-    /// Types the code without sending it.
+    /// Enters the code into the command field without sending it.
     void typeCode(const QString &code);
-    /// Cancels the command on its way, or ends the open menu.
+    /// Cancels the command in flight or ends the open menu.
     void stop();
     void answerNumber(int position);
     void openHistory();
     void copyReply();
 
 signals:
-    /// Emitted when the page must be shown, because the user has used one of its shortcuts.
+    /// Emitted when the user has pressed one of the page's shortcuts, so that the page must be
+    /// shown.
     void wanted();
     void ownWindowRequested();
     void remedyChosen(Dashboard::Remedy remedy);

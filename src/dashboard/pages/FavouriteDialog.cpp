@@ -19,7 +19,7 @@ namespace
 {
 
 const int CODE = Qt::UserRole;
-const int LEAST_HEIGHT = 340; // of the dialog, in pixels at 100 %
+const int LEAST_HEIGHT = 340; // the minimum height of the dialog in pixels at 100 % text size
 const int LEAST_WIDTH = 320;
 
 bool isChecked(const QListWidgetItem *item)
@@ -108,8 +108,8 @@ void FavouriteDialog::move(int rows)
     m_list->setCurrentRow(target);
 }
 
-/// Disables what is not possible: moves beyond the ends, and more favourites than there is room
-/// for.
+/// Disables the buttons and check boxes that cannot be used, for example because the first code
+/// cannot be moved up or the maximum number of favourites is selected.
 void FavouriteDialog::look()
 {
     const int row = m_list->currentRow();

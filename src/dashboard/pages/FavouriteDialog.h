@@ -12,14 +12,15 @@ namespace Dashboard
 {
 
 /**
- * Selects the favourites among all codes, and their order. A check mark selects a code. Codes are
- * moved with the mouse or with the buttons.
+ * The dialog in which the user selects and orders the favourites. Each code has a check box. The
+ * order can be changed with the mouse or with buttons.
  */
 class FavouriteDialog : public QDialog
 {
     Q_OBJECT
 public:
-    /// `selected` are the present favourites in their order. At most `most` codes can be selected.
+    /// `selected` contains the current favourites in their order. At most `most` codes can be
+    /// selected.
     FavouriteDialog(const QList<NamedCode> &all, const QList<NamedCode> &selected, int most,
                     QWidget *parent = nullptr);
 
@@ -37,7 +38,7 @@ private:
     QPushButton *m_down;
 };
 
-/** Asks for the number that belongs into a code. */
+/** The dialog in which the user enters the number for a code that contains a placeholder. */
 class CodeNumberDialog : public QDialog
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int HEIGHT = 66;
 const int WIDTH = 140;
 const int RADIUS = 12;
@@ -219,7 +219,7 @@ void FavouriteGrid::arrange()
         m_grid->setColumnStretch(i, i < m_columns ? 1 : 0);
     for (int i = 0; i < m_columns; ++i)
         m_grid->setColumnStretch(i, 1);
-    // Only the first card is a stop of the Tab key; the arrow keys reach the others.
+    // The Tab key reaches only the first card; the arrow keys reach the others.
     for (int i = 0; i < m_buttons.size(); ++i) {
         m_grid->addWidget(m_buttons.at(i), i / m_columns, i % m_columns);
         m_buttons.at(i)->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
@@ -240,7 +240,7 @@ bool FavouriteGrid::eventFilter(QObject *watched, QEvent *event)
     return moveFocus(button, key->key()) || QWidget::eventFilter(watched, event);
 }
 
-/// Moves the focus in the direction of the arrow key. Returns false for other keys.
+/// Moves the focus in the direction of the arrow key. Returns false if the key is not an arrow key.
 bool FavouriteGrid::moveFocus(FavouriteButton *from, int key)
 {
     const int forward = layoutDirection() == Qt::RightToLeft ? -1 : 1;

@@ -10,7 +10,10 @@ class QGridLayout;
 namespace Dashboard
 {
 
-/** A card with an icon, a name and a code, or the card that adds a favourite. */
+/**
+ * A card for a favourite, with an icon, a name and a code. May also be the card that adds a
+ * favourite.
+ */
 class FavouriteButton : public QAbstractButton
 {
     Q_OBJECT
@@ -37,14 +40,14 @@ private:
     bool m_adds = false;
 };
 
-/** The favourites in a grid. The arrow keys move the focus inside the grid. */
+/** A grid of favourites. The arrow keys move the focus within the grid. */
 class FavouriteGrid : public QWidget
 {
     Q_OBJECT
 public:
     explicit FavouriteGrid(QWidget *parent = nullptr);
 
-    /// Shows the codes. `mayAdd` adds the card for another favourite.
+    /// Shows the codes. If `mayAdd` is true, also shows the card that adds a favourite.
     void show(const QList<NamedCode> &codes, bool mayAdd);
     void setColumns(int columns);
 

@@ -24,7 +24,7 @@ namespace Dashboard
 namespace
 {
 
-const int WIDEST = 640; // in pixels, at 100 %
+const int WIDEST = 640; // in pixels at 100 % text size
 const int SHOWN_DIGITS = 4;
 
 bool isAboutModem(Situation::Kind kind)
@@ -337,7 +337,8 @@ void FirstRunPage::setForm(Form form)
     setMargins(m_list, isNarrow ? 0 : 54, 0, 0, 20);
 }
 
-// The card gets its width after the page. The style sheet changes the size of the buttons later.
+// Arranges the buttons again when the card is resized, which happens after the page is resized, and
+// when the style sheet changes the size of the buttons.
 bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
 {
     const QEvent::Type type = event->type();
@@ -346,7 +347,7 @@ bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
     return Page::eventFilter(watched, event);
 }
 
-/// Puts the buttons below each other if they are too wide for a row.
+/// Arranges the buttons vertically if they are too wide for a single row.
 void FirstRunPage::arrangeButtons()
 {
     const QMargins margins = m_card->layout()->contentsMargins();

@@ -34,7 +34,7 @@ public:
 
     void setDone(const char *icon, bool isDone);
     void setTexts(const QString &title, const QString &text);
-    /// Shows the button of the remedy. Remedy::None hides the button.
+    /// Shows the button for the remedy, or hides it if the remedy is Remedy::None.
     void setRemedy(Remedy remedy);
 
 signals:
@@ -49,21 +49,21 @@ private:
 };
 
 /**
- * The page that is shown instead of all others until the user has set the program up or has skipped
- * this. The user finds a modem and a SIM and chooses whose codes to use.
+ * The page that replaces all other pages until the user has finished or skipped the first run. It
+ * guides the user through the modem, the SIM, and the operator whose codes are to be used.
  */
 class FirstRunPage : public Page
 {
     Q_OBJECT
 public:
-    /// The arguments must outlive the page. If `settings` is null, the page is never due.
+    /// The arguments must outlive the page. If `settings` is null, isDue() always returns false.
     FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
                  const OperatorCodes *codes, QWidget *parent = nullptr);
 
-    /// Returns true if the page is to be shown. Never true during a demonstration.
+    /// Returns true if the page is to be shown. Returns false during a demonstration.
     bool isDue() const;
     void showSituation(const Situation &situation);
-    /// Lists the operators that fit the SIM.
+    /// Updates the list of operators that match the SIM.
     void listOperators();
 
     void retranslate() override;
@@ -71,10 +71,10 @@ public:
     QWidget *firstFocus() const override;
 
 signals:
-    /// Emitted when the user asks for the action of a step, or for the demonstration.
+    /// Emitted when the user clicks the button of a step or requests the demonstration.
     void chosen(Dashboard::Remedy remedy);
     void providerChosen(const Provisioning::Provider &provider);
-    /// Emitted when the user wants no operator's codes.
+    /// Emitted when the user decides against using an operator's codes.
     void declined();
     /// Emitted when isDue() may have changed.
     void finished();

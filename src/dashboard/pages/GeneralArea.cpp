@@ -13,11 +13,11 @@ namespace Dashboard
 namespace
 {
 
-const int CLIPPED_SIDE = 46; // pixels of the plug-in's margin of 70; 24 remain
+const int CLIPPED_SIDE = 46; // pixels; the plug-in's margin is 70 pixels, of which 24 remain
 const int CLIPPED_TOP = 4;
 const int COMPACT_MARGIN = 12;
 
-/// Returns true for a widget that the compact area hides.
+/// Returns true if the compact area hides this widget.
 bool isPresetPart(const QObject *object)
 {
     const QString name = object->objectName();
@@ -79,8 +79,8 @@ void GeneralArea::setWindowEnabled(bool isEnabled)
         general->setEnabled(isEnabled);
 }
 
-/// Returns the plug-in's window, which is the only child of the canvas that was not created by this
-/// class.
+/// Returns the plug-in's window, which is the only child of the canvas that this class has not
+/// created.
 QWidget *GeneralArea::window() const
 {
     for (QObject *child : m_canvas->children()) {
@@ -110,7 +110,7 @@ bool GeneralArea::eventFilter(QObject *watched, QEvent *event)
 
 // ---- size ----------------------------------------------------------------------------------
 
-/// Returns the part of the window that lies outside the canvas.
+/// Returns the margins of the window that are outside the canvas.
 QMargins GeneralArea::clipped() const
 {
     if (m_isCompact && general().isComplete())
@@ -118,8 +118,8 @@ QMargins GeneralArea::clipped() const
     return QMargins(CLIPPED_SIDE, CLIPPED_TOP, CLIPPED_SIDE, CLIPPED_TOP);
 }
 
-/// Returns the margins that leave the transcript a small margin. Without the preset buttons, the
-/// transcript begins where the layout puts it.
+/// Returns the margins to clip so that only a small margin remains around the transcript, whose
+/// position depends on the layout.
 QMargins GeneralArea::compactMargins() const
 {
     if (QLayout *layout = window()->layout())
@@ -164,7 +164,7 @@ void GeneralArea::setCompact(bool isCompact)
     fit();
 }
 
-/// Observes the widgets, because the plug-in shows buttons when the user has saved codes.
+/// Observes the preset buttons, because the plug-in shows buttons when the user has saved codes.
 void GeneralArea::watchPresets()
 {
     for (QWidget *part : m_canvas->findChildren<QWidget *>()) {
@@ -177,7 +177,7 @@ void GeneralArea::watchPresets()
         hidePresets();
 }
 
-/// Hides the widgets. The buttons that the plug-in has shown most recently are the ones in use.
+/// Hides the preset buttons. The buttons in use are those that the plug-in has most recently shown.
 void GeneralArea::hidePresets()
 {
     QList<QPointer<QWidget>> hidden;
@@ -191,10 +191,10 @@ void GeneralArea::hidePresets()
         return;
     for (const QPointer<QWidget> &part : m_hidden) {
         if (part && !qobject_cast<QPushButton *>(part.data()))
-            hidden << part; // the plug-in shows only buttons again
+            hidden << part; // the plug-in only shows buttons again, but not the other widgets
     }
     m_hidden = hidden;
-    general().widenHistory(); // or the empty columns would get a part of the width
+    general().widenHistory(); // otherwise, the empty columns would take up space
     makeRoom();
     fit();
 }

@@ -14,11 +14,11 @@ namespace Dashboard
 class LoadedPlugin;
 
 /**
- * Contains the plug-in's embedded general window. The window's wide margins are clipped. If the
- * area is smaller than the minimum size of the rest, the area can be scrolled.
+ * Contains the plug-in's embedded general window, with its wide margins clipped. If the area is
+ * smaller than the minimum size of the clipped window, it can be scrolled.
  *
- * The compact area hides the preset buttons and the field for their numbers. The buttons stay
- * enabled, so that the dashboard can press them.
+ * A compact area hides the preset buttons and the field for their numbers. The buttons stay
+ * enabled, so that the dashboard can click them.
  */
 class GeneralArea : public QScrollArea
 {
@@ -31,10 +31,12 @@ public:
     void hideWindow();
     /// Shows a message as plain text instead of the window. An empty string removes the message.
     void showText(const QString &text);
-    /// Enables or disables the window as a whole. The plug-in's own switches stay as they are.
+    /// Enables or disables the complete window without changing the states of its widgets, which
+    /// the plug-in controls.
     void setWindowEnabled(bool isEnabled);
     void setCompact(bool isCompact);
-    /// Returns the general window, which is incomplete while it is not shown.
+    /// Returns the general window. isComplete() returns false for the result until the window has
+    /// been shown.
     GeneralWindow general() const { return GeneralWindow(m_canvas); }
     /// Returns the parent of the plug-in's window.
     QWidget *canvas() const { return m_canvas; }
@@ -57,7 +59,7 @@ private:
     bool m_isShown = false;
     bool m_isEnabled = true;
     bool m_isCompact = false;
-    QList<QPointer<QWidget>> m_hidden; // what the compact area has hidden
+    QList<QPointer<QWidget>> m_hidden; // the widgets that the compact area has hidden
 };
 
 } // namespace Dashboard

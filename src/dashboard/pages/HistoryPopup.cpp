@@ -72,9 +72,9 @@ HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *pa
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setCompletionRole(CODE_ROLE);
     m_completer->setMaxVisibleItems(MOST_ROWS);
-    m_completer->setPopup(m_view);                            // takes ownership
-    m_view->setItemDelegate(new QStyledItemDelegate(m_view)); // follows the style sheet
-    m_view->installEventFilter(this); // after the completer, whose filter then runs second
+    m_completer->setPopup(m_view);                            // the completer takes ownership
+    m_view->setItemDelegate(new QStyledItemDelegate(m_view)); // unlike the default delegate, supports style sheets
+    m_view->installEventFilter(this); // installed after the completer's filter, so that it runs first
     connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
             &HistoryPopup::choose);
 }
@@ -136,7 +136,7 @@ void HistoryPopup::onTextEdited(const QString &text)
 
 // ---- content -------------------------------------------------------------------------------
 
-/// Lists the codes whose code or name begins with the string.
+/// Lists the codes that start with the string or whose names start with it.
 void HistoryPopup::fill(const QString &start)
 {
     m_model->removeRows(0, m_model->rowCount());
@@ -212,15 +212,15 @@ bool HistoryPopup::onEditKey(int key)
     }
     if (key == Qt::Key_Escape && !isOpen() && !m_edit->text().isEmpty()) {
         m_edit->selectAll();
-        m_edit->del(); // disables Send, unlike clear()
+        m_edit->del(); // unlike clear(), disables the Send button
         return true;
     }
     return false;
 }
 
-/// Lets Return send what the user has typed, unless the user has chosen a row of the list. The
-/// current row does not show this, because a list makes its first row the current one when it gets
-/// the focus.
+/// Makes Return send the entered text unless the user has selected a row of the list. The current
+/// row is not sufficient to determine this, because a list view makes its first row current when it
+/// receives the focus.
 bool HistoryPopup::onPopupKey(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -19,7 +19,7 @@ namespace Dashboard
 class CodeHistory;
 
 /**
- * The list under the code field: the codes that the user has sent and the user's own codes, with
+ * The list below the code field, with the codes that the user has sent, the user's own codes, and
  * their names. The list opens on request, or when the user types the beginning of a code or name.
  * All functions must be called from the GUI thread.
  */
@@ -29,12 +29,13 @@ class HistoryPopup : public QObject
 public:
     using Names = std::function<QList<CodeName>()>;
 
-    /// Both arguments must stay valid as long as this object exists.
+    /// Both arguments must outlive this object.
     HistoryPopup(CodeHistory *history, const Names &names, QObject *parent = nullptr);
 
     /// Attaches the list to the code field, which may be null.
     void attach(QLineEdit *edit);
-    /// Sets whether typing opens the list. An answer to a menu is not a code.
+    /// Sets whether the list opens when the user types. This is not useful while the user answers a
+    /// menu.
     void setOpenedByTyping(bool isOpened) { m_isOpenedByTyping = isOpened; }
     /// Opens the list with all codes.
     void open();
@@ -63,8 +64,8 @@ private:
     QTreeView *m_view;
     QCompleter *m_completer;
     bool m_isOpenedByTyping = true;
-    bool m_isKeyPressed = false; // false while the dashboard itself types into the field
-    bool m_isRowChosen = false;  // the user has chosen a row with the keyboard
+    bool m_isKeyPressed = false; // false if the dashboard itself has changed the text of the field
+    bool m_isRowChosen = false;  // true if the user has selected a row with the keyboard
 };
 
 } // namespace Dashboard

@@ -31,12 +31,12 @@ namespace Dashboard
 namespace
 {
 
-const int MARGIN = 24;      // in pixels, at 100 %
-const int GAP = 16;         // in pixels, at 100 %
-const int SCROLL_BAR = 16;  // in pixels, at 100 %
-const int WIDEST = 1040;    // in pixels, at 100 %
-const double LARGE = 1.5;   // the scale from which on there is one column of favourites
-const int NARROW_COUNT = 4; // of favourites in the narrow form
+const int MARGIN = 24;      // in pixels at 100 % text size
+const int GAP = 16;         // in pixels at 100 % text size
+const int SCROLL_BAR = 16;  // in pixels at 100 % text size
+const int WIDEST = 1040;    // in pixels at 100 % text size
+const double LARGE = 1.5;   // from this scale on, the favourites have a single column
+const int NARROW_COUNT = 4; // the number of favourites in the narrow form
 
 QString shortWhen(const QDateTime &time, const QDateTime &now)
 {
@@ -215,7 +215,7 @@ void HomePage::setForm(Form form)
     arrangeCards();
 }
 
-/// Returns the width that the widgets need beside each other.
+/// Returns the width that the widgets require in a single row.
 int HomePage::rowWidth(const QList<QWidget *> &widgets)
 {
     int width = -Look::instance().px(GAP);
@@ -226,7 +226,7 @@ int HomePage::rowWidth(const QList<QWidget *> &widgets)
     return width;
 }
 
-/// Puts the cards below each other if there is not enough room for them in a row.
+/// Arranges the cards vertically if there is not enough space for them in a row.
 void HomePage::arrangeCards()
 {
     const int room = width() - Look::instance().px(2 * MARGIN + SCROLL_BAR);
@@ -248,7 +248,7 @@ QWidget *HomePage::firstFocus() const
     return isNormal() ? static_cast<QWidget *>(m_balance->askButton()) : m_state->firstButton();
 }
 
-/// The database is not opened before the page is visible.
+/// Updates the page now, because the database is not opened until the page is visible.
 void HomePage::showEvent(QShowEvent *event)
 {
     Page::showEvent(event);
@@ -262,7 +262,7 @@ void HomePage::changeEvent(QEvent *event)
         lookSoon();
 }
 
-/// Looks at everything once, although several things may have changed.
+/// Schedules a single update, even if several values have changed.
 void HomePage::lookSoon()
 {
     if (m_isLooking)
@@ -289,7 +289,8 @@ void HomePage::look()
     arrangeCards();
 }
 
-/// Returns true if the account is shown, and not only the situation of the device.
+/// Returns true if the page shows the account, and false if it shows only the situation of the
+/// device.
 bool HomePage::isNormal() const
 {
     return m_situation.kind == Situation::Kind::Ready ||
@@ -302,7 +303,7 @@ bool HomePage::canSend() const
            m_parts.monitor->state().kind != CommandState::Kind::MenuOpen;
 }
 
-/// Returns the seconds since this code was sent, or -1 if no reply to it is expected.
+/// Returns the number of seconds since this code was sent, or -1 if no reply to it is pending.
 int HomePage::askingSeconds(const QString &code) const
 {
     if (!m_parts.monitor || code.isEmpty())
@@ -349,7 +350,8 @@ void HomePage::lookAtBalance()
     m_balance->show(view);
 }
 
-/// Returns the newest reply that tells the validity. The code is that with which to ask again.
+/// Returns the most recent entry that contains the validity. Its code is the one for querying the
+/// validity again.
 AccountEntry HomePage::validityEntry() const
 {
     const AccountEntry own = m_parts.store->newest(m_codes.validity);
@@ -407,7 +409,7 @@ void HomePage::lookAtValidity()
         view.value = entry.isNull() ? dashboardText("HOME_NOT_ASKED") : entry.text.simplified();
     }
     m_validity->show(view);
-    // In the narrow form, the balance card already shows the validity.
+    // In the narrow form, the balance card shows the validity.
     m_validity->setVisible(!m_codes.validity.isEmpty() && m_form != Form::Narrow);
 }
 

@@ -28,28 +28,28 @@ class Favourites;
 class PageColumn;
 class StateCard;
 
-/** The newest message of the network, as the last row of the page shows it. */
+/** The newest network-initiated message, as the last row of the page shows it. */
 struct HomeMessage {
-    qint64 id = 0; // 0 hides the row
+    qint64 id = 0; // the row is hidden if the value is 0
     QString title;
-    QString note; // such as "13:05, waits for your answer"
+    QString note; // for example, "13:05, waits for your answer"
     bool waitsForAnswer = false;
 };
 
 /**
- * The front page: balance, its course, tiles, favourites and the newest message. The page never
- * sends a code unless the user presses a button.
+ * The page Home, with the balance, its chart, the tiles, the favourites and the newest message. The
+ * page sends codes only if the user clicks a button.
  */
 class HomePage : public Page
 {
     Q_OBJECT
 public:
-    /** What the page needs. All pointers must outlive the page. */
+    /** The objects that the page uses. All of them must outlive the page. */
     struct Parts {
         AccountStore *store = nullptr;
         AccountRecorder *recorder = nullptr;
         Favourites *favourites = nullptr;
-        CommandMonitor *monitor = nullptr; // may be null in tests of the layout
+        CommandMonitor *monitor = nullptr; // null in some tests
         AppActions *actions = nullptr;
     };
 
@@ -57,7 +57,7 @@ public:
 
     void setCodes(const AccountCodes &codes);
     void setSituation(const Situation &situation);
-    /// Sets the text for the SIM, such as "SIM ending 6789"; may be empty.
+    /// Sets the description of the SIM, such as "SIM ending 6789". May be empty.
     void setSimText(const QString &text);
     void setMessage(const HomeMessage &message);
 
@@ -66,14 +66,14 @@ public:
     QWidget *firstFocus() const override;
 
 public slots:
-    /// Asks for the balance again, if a code can be sent now.
+    /// Queries the balance if a code can be sent now.
     void askAgain();
     void topUp();
-    /// Shows the current values.
+    /// Updates the page with the current values.
     void look();
 
 signals:
-    /// Emitted when the user wants to read or answer the message of the last row.
+    /// Emitted when the user clicks the message in the last row in order to read or answer it.
     void messageChosen(qint64 id);
 
 protected:

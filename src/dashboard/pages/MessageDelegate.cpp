@@ -17,7 +17,7 @@ namespace Dashboard
 namespace
 {
 
-// Sizes in pixels at 100 %.
+// Sizes in pixels at 100 % text size.
 const int DAY_HEIGHT = 28;
 const int ROW_HEIGHT = 64;
 const int CHIP_HEIGHT = 22;
@@ -36,14 +36,18 @@ QFont fontOf(int pixels, QFont::Weight weight)
     return font;
 }
 
-/// Returns the first line between U+2068 and U+2069, so that it keeps its own direction.
+/// Returns the first line of the text, enclosed in the isolates U+2068 and U+2069 to preserve its
+/// direction.
 QString firstLine(const QString &text)
 {
     return QChar(0x2068) + text.trimmed().section(QLatin1Char('\n'), 0, 0).simplified() +
            QChar(0x2069);
 }
 
-/** Paints one row. All rectangles are those of a left-to-right layout and are mirrored on use. */
+/**
+ * Paints one row. All rectangles are calculated for a left-to-right layout, and are mirrored for
+ * painting if necessary.
+ */
 class RowPainter
 {
 public:
@@ -132,7 +136,7 @@ private:
             .paint(m_painter, symbol);
     }
 
-    /// Paints sender, time and, for an unread message, a dot.
+    /// Paints the sender, the time and, if the message is unread, a dot.
     void paintHead()
     {
         const QFont timeFont = fontOf(12, QFont::Normal);
@@ -181,7 +185,7 @@ private:
 
     QPainter *m_painter;
     const QStyleOptionViewItem &m_option;
-    QRect m_row; // without the day
+    QRect m_row; // the row without the day above it
     const Message m_message;
     const QString m_day;
     const bool m_isWaiting;

@@ -24,8 +24,8 @@ namespace Dashboard
 namespace
 {
 
-const int GAP = 8;              // in pixels at 100 %
-const int LONGEST_ANSWER = 182; // the plug-in's field accepts no more
+const int GAP = 8;              // in pixels at 100 % text size
+const int LONGEST_ANSWER = 182; // the limit of the plug-in's command field
 
 QLabel *makeText(const char *type, const char *name, QWidget *parent)
 {
@@ -72,8 +72,9 @@ void ChoiceButtons::setChoices(const QList<MenuChoice> &choices)
     place(width(), true);
 }
 
-/// Returns the height of the rows of buttons in this width. Moves the buttons if `isMoving` is
-/// true. A button that is wider than the row is cut to its width.
+/// Returns the height that the rows of buttons require if they have this width. If `isMoving` is
+/// true, also moves the buttons. Buttons that are wider than a row are reduced to the width of the
+/// row.
 int ChoiceButtons::place(int width, bool isMoving) const
 {
     const int gap = Look::instance().px(GAP);
@@ -301,7 +302,7 @@ void MessageReader::retranslate()
 {
     const QString time = clockText(m_message.receivedAt);
     m_back->setText(dashboardText("MESSAGE_BACK"));
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft; // a Latin name starts there too
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft; // also for Latin names
     m_sender->setAlignment((isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                            Qt::AlignVCenter);
     m_sender->setText(m_message.sender);

@@ -17,7 +17,7 @@ namespace Dashboard
 class Chip;
 class IconDisc;
 
-/** Buttons for the choices of a menu, in as many rows as are needed. */
+/** The buttons for the choices of a menu. Uses as many rows as necessary. */
 class ChoiceButtons : public QWidget
 {
     Q_OBJECT
@@ -45,8 +45,8 @@ private:
 };
 
 /**
- * The part with which the user answers the network: choices, a field with a button, and a button
- * that ends the session without an answer.
+ * The widgets with which the user answers the network: buttons for the choices, a field with a Send
+ * button, and a button that ends the session without an answer.
  */
 class AnswerBox : public QWidget
 {
@@ -55,9 +55,9 @@ public:
     explicit AnswerBox(QWidget *parent = nullptr);
 
     void setChoices(const QList<MenuChoice> &choices);
-    /// Enables the box if the answer can be sent now.
+    /// Enables or disables the box, depending on whether an answer can be sent now.
     void setUsable(bool isUsable);
-    /// Uses a short text for the button that ends the session.
+    /// If `isNarrow` is true, uses a shorter text for the button that ends the session.
     void setNarrow(bool isNarrow);
     /// Clears the field.
     void clear();
@@ -81,18 +81,18 @@ private:
     bool m_isNarrow = false;
 };
 
-/** Shows one message as plain text, with the buttons for it. */
+/** Shows a message as plain text, with the buttons that apply to it. */
 class MessageReader : public QFrame
 {
     Q_OBJECT
 public:
     explicit MessageReader(QWidget *parent = nullptr);
 
-    /// Shows the message. A null message shows a hint.
+    /// Shows the message, or a hint if it is a null message.
     void setMessage(const Message &message, bool isWaiting, const QString &day);
     const Message &message() const { return m_message; }
     AnswerBox *answerBox() const { return m_answers; }
-    /// Offers to go back to the list, and uses short texts.
+    /// If `isNarrow` is true, shows a button that returns to the list, and uses shorter texts.
     void setNarrow(bool isNarrow);
     void focusBack();
     void retranslate();

@@ -25,14 +25,14 @@ namespace Dashboard
 namespace
 {
 
-const int LIST_WIDTH = 360; // in pixels at 100 %
+const int LIST_WIDTH = 360; // in pixels at 100 % text size
 
-/** A filter of the list, with its texts without and with a count. */
+/** A filter for the list, and the text keys of its name with and without the number of messages. */
 struct FilterText {
     MessageQuery::Filter filter;
     const char *objectName;
     const char *text;
-    const char *textWithCount; // null if there is no count
+    const char *textWithCount; // null if the number is not shown
 };
 
 const FilterText FILTERS[] = {
@@ -97,7 +97,7 @@ QWidget *MessagesPage::makeList()
     setSpacing(column, 10);
     column->addWidget(m_search);
     column->addWidget(makeFilters());
-    column->addWidget(m_empty, 1); // so that the filters keep their place
+    column->addWidget(m_empty, 1); // so that the filters do not move
     column->addWidget(m_list, 1);
     return m_listSide;
 }
@@ -173,7 +173,8 @@ void MessagesPage::search()
     showCounts();
 }
 
-/// Keeps the rows in their place when a new message is inserted above them.
+/// Adjusts the scroll bar when a message is inserted above the visible rows, so that these rows do
+/// not move.
 void MessagesPage::keepPlace()
 {
     QScrollBar *bar = m_list->verticalScrollBar();
@@ -214,14 +215,14 @@ void MessagesPage::showEvent(QShowEvent *event)
 
 // ---- reading ------------------------------------------------------------------------------------
 
-/// Returns the selected row. The current row may differ, because the list makes its first row the
-/// current one when it gets the focus.
+/// Returns the selected row. It may differ from the current row, because the list view makes its
+/// first row current when it receives the focus.
 QModelIndex MessagesPage::chosen() const
 {
     return m_list->selectionModel()->selectedIndexes().value(0);
 }
 
-/// In the narrow form, the arrow keys only move in the list.
+/// In the narrow form, selecting a row with the arrow keys does not open the message.
 void MessagesPage::onChosen()
 {
     if (m_form == Form::Narrow)
@@ -242,7 +243,8 @@ void MessagesPage::readChosen()
     showParts();
 }
 
-/// Selects the row first, because the row that has got its focus from the list is not selected.
+/// Selects the row first, because a row that is current only because the list received the focus is
+/// not selected.
 void MessagesPage::readActivated(const QModelIndex &index)
 {
     m_list->setCurrentIndex(index);
@@ -252,7 +254,7 @@ void MessagesPage::readActivated(const QModelIndex &index)
         m_reader->focusBack();
 }
 
-/// Shows the message with its answers, or a hint if it no longer exists.
+/// Updates the message and its answers, or shows a hint if the message no longer exists.
 void MessagesPage::showAnswers()
 {
     const Message message = m_model->message(chosen());

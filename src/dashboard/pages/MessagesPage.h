@@ -22,18 +22,18 @@ class MessageReader;
 class MessageStore;
 
 /**
- * The messages that the network has sent of its own accord: a list, and one message to read. In the
- * narrow form, the message takes the place of the list.
+ * The page Messages, which shows a list of the network-initiated messages, and the selected message
+ * next to it. In the narrow form, the message replaces the list.
  */
 class MessagesPage : public Page
 {
     Q_OBJECT
 public:
-    /// Answers are sent through the monitor. Both arguments must outlive the page.
+    /// `monitor` is used to send answers. Both arguments must outlive the page.
     MessagesPage(MessageStore *store, CommandMonitor *monitor, QWidget *parent = nullptr);
 
     MessageModel *model() const { return m_model; }
-    /// Shows the message, for example after a click on a notification.
+    /// Opens the message, for example after the user has clicked a notification.
     void open(qint64 id);
 
     void retranslate() override;
@@ -79,7 +79,7 @@ private:
     MessageReader *m_reader;
     QHBoxLayout *m_row;
     Form m_form = Form::Wide;
-    bool m_isReading = false; // the narrow form shows the message instead of the list
+    bool m_isReading = false; // true if the narrow form shows the message instead of the list
 };
 
 } // namespace Dashboard

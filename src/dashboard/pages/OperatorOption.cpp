@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int HEIGHT = 54;
 const int RADIUS = 12;
 const int DISC = 20;

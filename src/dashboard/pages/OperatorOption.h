@@ -6,7 +6,7 @@
 namespace Dashboard
 {
 
-/** A radio button in a box of its own, with a second line below the text. */
+/** A radio button in a box, with a second line below the text. */
 class OperatorOption : public QRadioButton
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 namespace Dashboard
 {
 
-/** The forms of the main window. The form depends on the width of the window in em. */
+/** The forms (layouts) of the main window. The form depends on the width of the window in em. */
 enum class Form { Wide, Medium, Narrow };
 
 enum class PageId { Home, Codes, Services, Messages, Settings };
@@ -20,7 +20,7 @@ public:
 
     /// Updates the strings after a language change.
     virtual void retranslate() = 0;
-    /// Lays the page out for this form of the main window.
+    /// Adapts the layout of the page to this form of the main window.
     virtual void setForm(Form form);
     /// Returns the widget that receives the focus when the user selects the page, or null if the
     /// page does not take the focus.

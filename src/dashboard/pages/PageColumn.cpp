@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-const int MUCH = 1000; // the stretch of the column, in comparison to that of the space beside it
+const int MUCH = 1000; // the stretch factor of the column; that of the space at its sides is 1
 
 } // namespace
 

@@ -12,14 +12,14 @@ namespace Dashboard
 {
 
 /**
- * The content of a page: a centred column that scrolls vertically. The column never scrolls
+ * A scroll area for the content of a page, which is a centred column. The column does not scroll
  * horizontally, so its widgets must fit into the smallest window.
  */
 class PageColumn : public QScrollArea
 {
     Q_OBJECT
 public:
-    /// `widest` is the largest width of the column in pixels at 100 %.
+    /// `widest` is the maximum width of the column in pixels at 100 % text size.
     explicit PageColumn(int widest, QWidget *parent = nullptr);
 
     QVBoxLayout *column() const { return m_column; }

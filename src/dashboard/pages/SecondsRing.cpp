@@ -12,9 +12,9 @@ namespace Dashboard
 namespace
 {
 
-const int SIZE = 40; // pixels at 100 %
+const int SIZE = 40; // pixels at 100 % text size
 const int STROKE = 3;
-const int FULL_CIRCLE = 360 * 16; // the unit of QPainter's angles
+const int FULL_CIRCLE = 360 * 16; // in the unit of QPainter
 const int TOP = 90 * 16;
 
 } // namespace
@@ -23,9 +23,10 @@ SecondsRing::SecondsRing(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, REPLY_SECONDS);
     setTextVisible(false);
-    setBox(this, "ring"); // other progress bars are flat
+    setBox(this, "ring"); // selects the style of rings in the style sheet
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    // The base class paints only if its own chunks change, which are coarser than a second.
+    // The base class repaints only when the length of its bar changes, which does not happen every
+    // second.
     connect(this, &QProgressBar::valueChanged, this, QOverload<>::of(&QWidget::update));
     connect(&Look::instance(), &Look::changed, this, [this] {
         updateGeometry();

@@ -6,7 +6,10 @@
 namespace Dashboard
 {
 
-/** A ring that fills while the network has time to reply. The number in it counts the seconds. */
+/**
+ * A ring that fills up during the time that the network has to reply. The number in the ring is the
+ * number of elapsed seconds.
+ */
 class SecondsRing : public QProgressBar
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ namespace Dashboard
 namespace
 {
 
-const int WIDEST = 1040; // in pixels at 100 %
+const int WIDEST = 1040; // in pixels at 100 % text size
 const int CARD_WIDTH = 240;
 const int MOST_COLUMNS = 3;
 const int GAP = 12;
@@ -130,7 +130,8 @@ void ServiceGroup::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
 }
 
-/// Returns the width of one card, so that the columns do not prevent the page from getting narrow.
+/// Returns the width of a single card, so that the page can become narrower than the current
+/// columns.
 QSize ServiceGroup::minimumSizeHint() const
 {
     int width = 0;
@@ -229,7 +230,7 @@ bool ServicesPage::isUsable() const
     return m_situation.canSend && !m_isMenuOpen;
 }
 
-/// Shows the notice if the services cannot be used, or if the operator is unknown.
+/// Updates the notice, which is shown if the services cannot be used or if the operator is unknown.
 void ServicesPage::update()
 {
     const bool isUnknown = m_situation.kind == Situation::Kind::CodesUnknown;

@@ -19,7 +19,7 @@ class IconDisc;
 class PageColumn;
 class RemedyButtons;
 
-/** Cards of a group of services, in as many columns as there is room for. */
+/** The cards of a group of services. The number of columns depends on the available width. */
 class ServiceGroup : public QWidget
 {
     Q_OBJECT
@@ -49,8 +49,8 @@ private:
 };
 
 /**
- * The operator's services as cards. A card opens the services window, which shows what the service
- * does before anything is sent.
+ * The page Services, with a card for each of the operator's services. Clicking a card opens the
+ * services window, which describes the service before anything is sent.
  */
 class ServicesPage : public Page
 {
@@ -59,14 +59,14 @@ public:
     /// `actions` must outlive the page.
     explicit ServicesPage(AppActions *actions, QWidget *parent = nullptr);
 
-    /// Reads the services of the plug-in's configuration again. Must be called when the folder of
+    /// Reads the services from the plug-in's configuration again. Must be called when the folder of
     /// the plug-in or the SIM has changed.
     void readServices();
-    /// Sets the name of the operator whose services are shown; empty if it is unknown.
+    /// Sets the name of the operator whose services are shown. Empty if the name is unknown.
     void setOperatorName(const QString &name);
-    /// Shows what prevents the services from being used.
+    /// Shows the situation of the device if it prevents the services from being used.
     void setSituation(const Situation &situation);
-    /// Prevents the services from being used while the network waits for an answer.
+    /// Sets whether a menu is open. In this case, the services cannot be used.
     void setMenuOpen(bool isOpen);
 
     void retranslate() override;

@@ -22,7 +22,7 @@ namespace Dashboard
 namespace
 {
 
-const int WIDEST = 720; // in pixels, at 100 %
+const int WIDEST = 720; // in pixels at 100 % text size
 const int AMOUNT_WIDTH = 88;
 const char FIRST_AMOUNT[] = "5.00"; // in the currency of the account
 
@@ -206,7 +206,8 @@ void SettingsPage::retranslate()
     showDevice();
 }
 
-// Four choices with the sign for per cent do not fit into the narrow form.
+// Sets the texts for the text sizes, without the percent sign in the narrow form, where there is
+// not enough space.
 void SettingsPage::nameTextSizes()
 {
     const QString word = dashboardText("SETTINGS_PERCENT");

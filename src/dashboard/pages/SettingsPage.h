@@ -23,16 +23,16 @@ class Segments;
 class SettingsRow;
 class Switch;
 
-/** The objects that the page of settings uses. All of them must outlive it. */
+/** The objects that SettingsPage uses. All of them must outlive the page. */
 struct SettingsParts {
-    DashboardSettings *settings; // may be null; then nothing is stored
+    DashboardSettings *settings; // may be null; the settings are then not stored
     const DeviceWatcher *device;
     const OperatorCodes *codes;
     QMenu *deviceMenu;
     QMenu *languageMenu;
 };
 
-/** The page of settings. All settings except the text size take effect immediately. */
+/** The page Settings. All settings except the text size take effect immediately. */
 class SettingsPage : public Page
 {
     Q_OBJECT
@@ -43,24 +43,23 @@ public:
     void setForm(Form form) override;
     QWidget *firstFocus() const override;
 
-    /// Shows the choice of the device, for example "Automatic".
+    /// Shows the selected device, for example "Automatic".
     void setDeviceChoice(const QString &text);
-    /// Shows whether the prepaid/postpaid query is permitted.
+    /// Shows whether the prepaid/postpaid query is enabled.
     void setDetection(bool isOn);
 
 signals:
     void operatorRequested();
-    /// Emitted when the user permits or forbids the prepaid/postpaid query.
+    /// Emitted when the user enables or disables the prepaid/postpaid query.
     void detectionChosen(bool isOn);
-    /// Emitted when the user has decided whether only the last four digits of the SIM's number are
+    /// Emitted when the user has changed whether only the last four digits of the SIM's number are
     /// shown.
     void hidingChanged(bool hides);
-    /// Emitted when the user has decided whether codes, balances and messages are kept.
+    /// Emitted when the user has changed whether codes, balances and messages are stored.
     void keepingChanged(bool keeps);
-    /// Emitted when another setting has changed.
+    /// Emitted when any other setting has changed.
     void changed();
-    /// Emitted when the user has confirmed that all balances, messages and codes sent are to be
-    /// deleted.
+    /// Emitted when the user has confirmed the deletion of all balances, messages and sent codes.
     void deleteAllRequested();
 
 private:

@@ -14,18 +14,18 @@ namespace Dashboard
 class IconView;
 
 /**
- * A row of the settings: icon, title, description and a control at the end. In the narrow form, a
- * wide control is below the title.
+ * A row of the page Settings, with an icon, a title, a description and a control. In the narrow
+ * form, a wide control is below the title.
  */
 class SettingsRow : public QWidget
 {
     Q_OBJECT
 public:
-    /// Takes the ownership of the control. `icon` is a string literal.
+    /// Takes ownership of the control. `icon` must be a string literal.
     SettingsRow(const char *icon, QWidget *control, bool isControlWide, QWidget *parent);
 
-    /// Sets the texts. An empty description hides its line. The title becomes the name of the
-    /// control, and the description becomes its description.
+    /// Sets the title and the description, which are also the accessible name and the accessible
+    /// description of the control. If the description is empty, its line is hidden.
     void setTexts(const QString &title, const QString &description);
     void setForm(Form form);
 

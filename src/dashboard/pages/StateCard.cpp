@@ -13,11 +13,11 @@ namespace Dashboard
 namespace
 {
 
-const int CARD_WIDTH = 560; // in pixels at 100 %
+const int CARD_WIDTH = 560; // in pixels at 100 % text size
 const int TEXT_WIDTH = 400;
 
-/// Returns true for a remedy that changes something, in contrast to one that explains or offers a
-/// choice.
+/// Returns true if the remedy changes something, and false if it only explains something or offers
+/// a choice.
 bool isDecisive(Remedy remedy)
 {
     switch (remedy) {
@@ -55,7 +55,7 @@ Token iconToken(const char *kind)
     }
 }
 
-/// Returns a layout that centres the widget and limits it to its maximum width.
+/// Returns a layout that centres the widget, whose maximum width it respects.
 QHBoxLayout *centred(QWidget *widget)
 {
     QHBoxLayout *row = new QHBoxLayout;
@@ -110,8 +110,8 @@ void RemedyButtons::setRemedies(const QList<Remedy> &remedies)
     arrange();
 }
 
-/// Makes one button for each remedy. The previous buttons are deleted later, because a click on one
-/// of them may have changed the situation.
+/// Creates a button for each remedy. The previous buttons are deleted later, because the click on
+/// one of them may still be in progress.
 void RemedyButtons::makeButtons()
 {
     for (QPushButton *button : m_buttons) {
@@ -135,8 +135,8 @@ int RemedyButtons::rowWidth() const
     return width;
 }
 
-/// Aligns the buttons. No button is stretched, because a style sheet would then move icon and text
-/// apart in a right-to-left layout.
+/// Aligns the buttons without stretching them. In a stretched button with a style sheet, icon and
+/// text would be at opposite ends in a right-to-left layout.
 void RemedyButtons::arrange()
 {
     const bool isRow = rowWidth() <= width();
@@ -152,7 +152,7 @@ void RemedyButtons::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
 }
 
-/// Returns the width of the widest button, so that a row does not widen its parents.
+/// Returns the width of the widest button, so that a row of buttons does not widen its parents.
 QSize RemedyButtons::minimumSizeHint() const
 {
     int width = 0;

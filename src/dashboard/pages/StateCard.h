@@ -16,11 +16,13 @@ namespace Dashboard
 
 class IconDisc;
 
-/// Gives the button the name, the text, the icon and the kind that belong to the remedy. The main
-/// button of a situation stands out, unless it only explains something.
+/// Sets the object name, the text, the icon and the style of the button to those of the remedy. The
+/// main button is highlighted, unless its remedy only explains something.
 void setRemedyButton(QPushButton *button, Remedy remedy, bool isMain);
 
-/** A row of buttons, one for each remedy. The buttons stand in a column if the row is too wide. */
+/**
+ * A row with a button for each remedy. If the row is too wide, the buttons are arranged vertically.
+ */
 class RemedyButtons : public QWidget
 {
     Q_OBJECT
@@ -28,7 +30,7 @@ public:
     /// `alignment` is the horizontal alignment of the buttons.
     explicit RemedyButtons(Qt::Alignment alignment, QWidget *parent = nullptr);
 
-    /// Replaces the buttons if the remedies differ, and updates their texts.
+    /// Creates new buttons if the remedies have changed, and updates the texts.
     void setRemedies(const QList<Remedy> &remedies);
     QPushButton *firstButton() const { return m_buttons.value(0); }
     QSize minimumSizeHint() const override;
@@ -51,8 +53,8 @@ private:
 };
 
 /**
- * A card with the situation of the device: icon, title, text, and buttons for its remedies. A
- * second card below may say what was last known.
+ * A card with the situation of the device: icon, title, text, and buttons for the remedies. Below
+ * it, a second card can show the last known balance.
  */
 class StateCard : public QWidget
 {

@@ -21,15 +21,17 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 116; // pixels at 100 %
+const int HEIGHT = 116; // pixels at 100 % text size
 const int SPACING = 8;
 const int MOST_RECENT = 3;
-const int ROOM_FOR_MORE = 64;  // of the button with the other choices
-const int CHOICE_PADDING = 40; // of a choice, at both sides, and the spacing behind it
+const int ROOM_FOR_MORE = 64;  // the width of the button that opens the remaining choices
+const int CHOICE_PADDING = 40; // the padding on both sides of a choice and the spacing after it
 
 using Kind = CommandState::Kind;
 
-/** Describes the strip as a status bar, which screen readers can be asked to read. */
+/**
+ * Gives the strip the role of a status bar, which users can make screen readers read on request.
+ */
 class StripAccessible : public QAccessibleWidget
 {
 public:
@@ -51,7 +53,7 @@ void installAccessible()
     Q_UNUSED(isInstalled);
 }
 
-/// Returns the key and the words of a choice, as they stand on its button.
+/// Returns the text on the button of a choice: its key and its description.
 QString choiceText(const MenuChoice &choice)
 {
     const QString text = choice.key + QLatin1String("  ") + choice.text;
@@ -143,8 +145,8 @@ void StateStrip::makeRows()
     setForm(m_form);
 }
 
-/// The height depends on the font alone. It is fixed for the rows, too, because their content must
-/// not move what stands below.
+/// The height depends only on the font. The heights of the rows are also fixed, so that their
+/// content does not move the widgets below the strip.
 void StateStrip::updateHeight()
 {
     setFixedHeight(Look::instance().px(HEIGHT));
@@ -341,7 +343,7 @@ void StateStrip::clearRow()
     }
 }
 
-/// Fills the row again if its width or its content has changed.
+/// Creates the content of the second row again if its width or its content has changed.
 void StateStrip::fillRow()
 {
     const int width = contentsRect().width() - layout()->contentsMargins().left() -
@@ -364,8 +366,8 @@ void StateStrip::fillRow()
     m_rowLayout->addStretch(1);
 }
 
-/// Puts the new buttons of the row behind those above it. Otherwise, they would be the last of the
-/// window.
+/// Inserts the new buttons into the tab order after those of the first row. Otherwise, they would
+/// be at the end of the tab order of the window.
 void StateStrip::orderTabStops()
 {
     QWidget *before = m_dismiss;
@@ -393,7 +395,7 @@ QPushButton *StateStrip::addButton(const char *kind, const QString &text)
     return button;
 }
 
-/// Returns the width that remains in the row.
+/// Returns the remaining width of the row.
 int StateStrip::roomLeft() const
 {
     int used = 0;
@@ -466,8 +468,8 @@ void StateStrip::addRecent()
     }
 }
 
-/// In the narrow form, the text may be elided. There, a code whose outcome is unknown is sent again
-/// from the dialog, which shows the complete text.
+/// In the narrow form, the text may be elided. If the outcome of a code is unknown, it can then be
+/// sent again only from the dialog, which shows the complete text.
 void StateStrip::addFailureButtons()
 {
     if (m_state.mayBeSentAgain && m_form != Form::Narrow) {

@@ -20,16 +20,16 @@ class ElidedLabel;
 class IconDisc;
 class SecondsRing;
 
-/** A code, and the name that the operator or the user has given to it. */
+/** A code and the name that the operator or the user has given it. */
 struct CodeName {
-    QString code; // without numbers and PINs, see codeWithoutNumbers()
+    QString code; // without numbers and PINs; see codeWithoutNumbers()
     QString name; // may be empty
 };
 
 /**
- * The two rows above the general window that say what goes on with codes: icon, title and text,
- * and a row with what the user can do. The strip has the same height in each state, so nothing
- * below it ever moves.
+ * The strip above the general window. The first row shows the state of the current command with an
+ * icon, a title and a text. The second row contains buttons for the possible actions. The height is
+ * the same in every state, so that the widgets below the strip do not move.
  */
 class StateStrip : public QFrame
 {
@@ -37,13 +37,14 @@ class StateStrip : public QFrame
 public:
     explicit StateStrip(QWidget *parent = nullptr);
 
-    /// Shows what goes on with codes, unless the situation of the device prevents sending.
+    /// Shows the state of the current command, unless the situation of the device prevents codes
+    /// from being sent.
     void setCommand(const CommandState &state);
     void setSituation(const Situation &situation);
-    /// Sets the codes that are offered while nothing goes on, newest first.
+    /// Sets the codes that are offered while the strip is ready, starting with the most recent one.
     void setRecent(const QList<CodeName> &codes);
     void setForm(Form form);
-    /// Sets whether the general window is offered in a window of its own.
+    /// Sets whether there is a button that opens the general window in a separate frame.
     void setOwnWindowOffered(bool isOffered);
     void setSeconds(int seconds);
     void retranslate();
@@ -64,7 +65,7 @@ signals:
     void answered(const QString &key);
     void codeChosen(const QString &code);
     void remedyChosen(Dashboard::Remedy remedy);
-    /// Emitted when screen readers are alerted, with the words that they read.
+    /// Emitted with the text of each alert for screen readers.
     void announced(const QString &words);
 
 protected:
@@ -101,7 +102,7 @@ private:
     Form m_form = Form::Wide;
     bool m_isOwnWindowOffered = true;
     QString m_announced;
-    QStackedWidget *m_sign; // the icon or the ring
+    QStackedWidget *m_sign; // shows the icon or the ring
     IconDisc *m_icon;
     SecondsRing *m_ring;
     ElidedLabel *m_title;
@@ -113,7 +114,7 @@ private:
     QPushButton *m_dismiss;
     QWidget *m_row;
     QHBoxLayout *m_rowLayout;
-    int m_rowWidth = -1; // of the row when it was filled
+    int m_rowWidth = -1; // the width of the row when its content was created
 };
 
 } // namespace Dashboard

@@ -11,17 +11,17 @@ namespace Dashboard
 {
 
 /**
- * A dialog with a number and the actions that use it. It fills in the number field of the general
- * window and presses the button there, both of which may be hidden.
+ * A dialog in which the user enters a number for a top-up. It enters the number into the field of
+ * the general window and clicks a preset button there, even if the field and the button are hidden.
  */
 class TopUpSheet : public QDialog
 {
     Q_OBJECT
 public:
-    /// `general` contains the general window.
+    /// `general` is a parent of the general window.
     TopUpSheet(const QWidget *general, QWidget *parent);
 
-    /// Adds an action that presses the preset button.
+    /// Adds a button that clicks the preset button.
     void addPreset(const QString &name, QPushButton *preset);
 
 private:

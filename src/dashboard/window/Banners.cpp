@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 60; // in pixels, at 100 %
+const int HEIGHT = 60; // in pixels at 100 % text size
 const int TWO_ROWS = 104;
 
 struct Appearance {

@@ -11,7 +11,7 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 48; // in pixels, at 100 %
+const int HEIGHT = 48; // in pixels at 100 % text size
 
 ElidedLabel *makeLine(const char *type, const char *name, QWidget *parent)
 {

@@ -15,7 +15,7 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 56; // in pixels, at 100 %
+const int HEIGHT = 56; // in pixels at 100 % text size
 const int NARROW_HEIGHT = 60;
 const int SHOWN_DIGITS = 4;
 const int NUMBER_TIME = 10000; // ms

@@ -18,7 +18,7 @@ namespace Dashboard
 namespace
 {
 
-const int WIDTH = 520; // in pixels at 100 %
+const int WIDTH = 520; // in pixels at 100 % text size
 
 QLabel *makeText(const char *type, const char *name, const QString &text, QWidget *parent)
 {

@@ -13,7 +13,7 @@ namespace Dashboard
 namespace
 {
 
-// In pixels, at 100 %.
+// In pixels at 100 % text size.
 const int SIDE_WIDTH = 216;
 const int RAIL_WIDTH = 72;
 const int BAR_HEIGHT = 64;

@@ -21,7 +21,7 @@ namespace
 
 const int SHORTEST = 4; // digits of a PIN (3GPP TS 31.101, 9.4)
 const int LONGEST = 8;
-const int FIELD_WIDTH = 200; // in pixels at 100 %
+const int FIELD_WIDTH = 200; // in pixels at 100 % text size
 const int TEXT_WIDTH = 340;
 
 QLabel *makeText(const char *type, const char *name, QWidget *parent)

@@ -25,7 +25,7 @@ namespace Dashboard
 namespace
 {
 
-// Sizes in pixels at 100 %.
+// Sizes in pixels at 100 % text size.
 const int WIDTH = 440;
 const int HIGHEST_TEXT = 200;
 

@@ -12,7 +12,7 @@ namespace
 {
 
 const int BARS = 5;
-const int BAR_WIDTH = 3; // in pixels, at 100 %
+const int BAR_WIDTH = 3; // in pixels at 100 % text size
 const int GAP = 2;
 const int LOWEST = 5;
 const int HEIGHT = 16;

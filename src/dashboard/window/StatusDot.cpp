@@ -10,7 +10,7 @@ namespace Dashboard
 namespace
 {
 
-const int DIAMETER = 8; // in pixels, at 100 %
+const int DIAMETER = 8; // in pixels at 100 % text size
 
 } // namespace
 
