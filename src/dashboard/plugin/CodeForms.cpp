@@ -11,9 +11,10 @@ namespace
 {
 
 const int LONGEST_SERVICE_CODE = 5; // digits
-const int SHORTEST_SECRET = 4;      // digits; the length of the shortest PIN
+const int SHORTEST_SECRET = 4;      // digits; PINs are not shorter
 
-/// Returns the template with its places hidden if the code fits it, otherwise an empty string.
+/// Returns the template with HIDDEN_DIGITS instead of its placeholders if the code matches it.
+/// Otherwise, returns an empty string.
 QString hiddenBy(const QString &form, const QString &code)
 {
     QString pattern = QRegularExpression::escape(form);
@@ -25,7 +26,7 @@ QString hiddenBy(const QString &form, const QString &code)
     return QString(form).replace(Formats::INPUT_PLACEHOLDER, QString(HIDDEN_DIGITS));
 }
 
-/// Hides the groups of digits that may be a number or a PIN.
+/// Hides all groups of digits that are long enough for a number or a PIN.
 QString hiddenByLength(const QString &code)
 {
     static const QRegularExpression group(QLatin1String("\\+?[0-9]+"));

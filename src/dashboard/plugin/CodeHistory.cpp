@@ -20,7 +20,7 @@ const int MOST_CODES = 50;
 const qint64 LARGEST_FILE = 65536; // bytes
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-/// Returns true if the code without its hidden digits is a code.
+/// Returns true if the string is a code, regardless of its hidden digits.
 bool isKeepable(const QString &code)
 {
     return Formats::isUssdCode(QString(code).replace(HIDDEN_DIGITS, QLatin1Char('0')));

@@ -11,7 +11,7 @@ namespace Dashboard
 
 /** A code that the user has sent. */
 struct SentCode {
-    QString code; // without numbers and PINs, see codeWithoutNumbers()
+    QString code; // without numbers and PINs; see codeWithoutNumbers()
     QDateTime time;
 
     bool operator==(const SentCode &other) const
@@ -21,26 +21,26 @@ struct SentCode {
 };
 
 /**
- * The codes that the user has sent, newest first, each once, at most 50. They are kept in a file
- * that only its owner can read. The file is a text file in UTF-8 with one code in each line: the
- * time in ISO 8601 (UTC), a tab, and the code. A line that cannot be read is skipped.
+ * The 50 codes that the user has most recently sent, starting with the newest one and without
+ * duplicates. They are stored in a file that only its owner can read. Each line of this UTF-8 text
+ * file contains the time in ISO 8601 format (UTC), a tab, and a code. Invalid lines are skipped.
  */
 class CodeHistory : public QObject
 {
     Q_OBJECT
 public:
-    /// Reads the file. If `file` is empty, nothing is kept on disk.
+    /// Reads the file. If `file` is empty, the history is only kept in memory.
     explicit CodeHistory(const QString &file, QObject *parent = nullptr);
     /// Returns the path of the file of the user who runs the program.
     static QString fileOfUser();
 
     const QList<SentCode> &codes() const { return m_codes; }
-    /// Sets whether the codes are kept on disk. If not, deletes the file.
+    /// Sets whether the codes are stored on disk. If `isKept` is false, deletes the file.
     void setKept(bool isKept);
 
 public slots:
-    /// Records that the code was sent now. Digits that may be a number or a PIN are removed again,
-    /// in case the caller has not removed them.
+    /// Records that the code was sent now. As a precaution, digits that may be a number or a PIN
+    /// are hidden even if the caller has already hidden them.
     void add(const QString &code);
     /// Deletes all codes and the file.
     void deleteAll();

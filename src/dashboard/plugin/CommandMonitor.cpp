@@ -21,7 +21,7 @@ namespace
 
 const int TICK = 1000;         // ms
 const int MOST_RECENT = 50;    // codes
-const int GIVE_UP_SECONDS = 2; // after the plug-in's own time-out, which the monitor cannot see
+const int GIVE_UP_SECONDS = 2; // after the time-out of the plug-in, which it does not report
 
 qint64 systemClock()
 {
@@ -80,7 +80,8 @@ void CommandMonitor::setClock(const Clock &clock)
     m_clock = clock ? clock : Clock(systemClock);
 }
 
-/// Looks at a general window as soon as it is shown, because the plug-in may create it at any time.
+/// Observes each general window from the moment it is shown, because the plug-in may create it at
+/// any time.
 bool CommandMonitor::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Show &&
@@ -136,7 +137,7 @@ void CommandMonitor::dismiss()
         m_state.kind != Kind::MenuEnded)
         return;
     forget();
-    look(); // a menu may be open behind the failure
+    look(); // the failure may have hidden an open menu
 }
 
 void CommandMonitor::forget()
@@ -164,7 +165,7 @@ void CommandMonitor::look()
     const unsigned long earlier = m_session.requests;
     const GeneralWindow window = activeWindow();
     follow(window);
-    readReplies(); // before the session, which a reply may change
+    readReplies(); // must precede reading the session, which a reply may change
     m_session = readSession();
     if (isPending(window))
         pend(window);
@@ -178,8 +179,8 @@ void CommandMonitor::look()
         emit changed();
 }
 
-/// Observes the transcript in addition to the code field, because a command that is rejected
-/// immediately does not disable the field.
+/// Also observes the transcript, because a command that is rejected immediately does not disable
+/// the code field.
 void CommandMonitor::follow(const GeneralWindow &window)
 {
     if (QTextEdit *history = window.history())
@@ -205,8 +206,8 @@ void CommandMonitor::readReplies()
     }
 }
 
-/// Returns true while a window waits, or while the device has a request in flight that the plug-in
-/// still expects.
+/// Returns true while a window waits for a reply, or while a request is in flight that the plug-in
+/// has not given up.
 bool CommandMonitor::isPending(const GeneralWindow &window)
 {
     const bool isWindowWaiting = UserActivity::isCommandPending();
@@ -217,7 +218,7 @@ bool CommandMonitor::isPending(const GeneralWindow &window)
     return isWindowWaiting || isInFlight;
 }
 
-/// Returns true if the window's command is behind that of another window or program.
+/// Returns true if the window's command has to wait for that of another window or program.
 bool CommandMonitor::isQueued(const GeneralWindow &window) const
 {
     const QString sent = window.lastSent();
@@ -250,7 +251,7 @@ void CommandMonitor::startWaiting()
     m_timer.start();
 }
 
-/// Forgets the replies to earlier requests.
+/// Discards the replies to earlier requests.
 void CommandMonitor::forgetReplies()
 {
     m_reply = Reply();
@@ -258,7 +259,7 @@ void CommandMonitor::forgetReplies()
     m_hasNewMenu = false;
 }
 
-/// Records that the newest request comes from a general window, in which the user has sent it.
+/// Records that the user has sent the most recent request in a general window.
 void CommandMonitor::takeAsOwn()
 {
     if (m_ownRequest == m_session.requests)
@@ -279,7 +280,7 @@ void CommandMonitor::end(const GeneralWindow &window)
     m_timer.stop();
     m_state.code = m_session.request;
     if (isSameText(window.lastSent(), m_session.request))
-        takeAsOwn(); // the reply may have arrived before the first look
+        takeAsOwn(); // the reply may already have arrived
     const bool isAnswered =
         m_reply.isReceived && !m_reply.text.isEmpty() && m_reply.code == m_session.request;
     if (m_session.waitsForAnswer())
@@ -289,8 +290,8 @@ void CommandMonitor::end(const GeneralWindow &window)
     fail(outcome());
 }
 
-/// Returns why the newest request has no reply. The reason is TKSV_FAILURE_NONE if the plug-in has
-/// taken the request back.
+/// Returns the reason why the most recent request has not received a reply, or TKSV_FAILURE_NONE if
+/// the plug-in has cancelled the request.
 TKSV_FailureInfo CommandMonitor::outcome() const
 {
     TKSV_FailureInfo failure = lastFailure();
@@ -301,7 +302,7 @@ TKSV_FailureInfo CommandMonitor::outcome() const
     return failure;
 }
 
-// The plug-in may have handed over the first command of the query already.
+// The first command of the query may already have been sent, but m_session is not updated yet.
 void CommandMonitor::setQuerying(bool isQuerying)
 {
     if (isQuerying)
@@ -316,7 +317,7 @@ bool CommandMonitor::isOwnQuery() const
            newest != m_ownRequest;
 }
 
-/// Looks at the session while no command is pending.
+/// Updates the state from the session while no command is pending.
 void CommandMonitor::rest(const GeneralWindow &window)
 {
     using Kind = CommandState::Kind;
@@ -324,7 +325,7 @@ void CommandMonitor::rest(const GeneralWindow &window)
     if (m_session.waitsForAnswer() && (!hasFailed || m_hasNewMenu))
         openMenu();
     else if (m_state.kind == Kind::MenuOpen && !m_session.waitsForAnswer())
-        setKind(Kind::Ready); // the network or another window has ended the menu
+        setKind(Kind::Ready); // the network or another window has closed the menu
     const TKSV_FailureInfo failure = lastFailure();
     if (m_isTranscriptChanged && failure.wasNotSent &&
         GeneralWindow::isFailureText(window.lastReceived())) {
@@ -355,7 +356,7 @@ void CommandMonitor::fail(const TKSV_FailureInfo &failure)
     m_state.mayBeSentAgain = Formats::isUssdCode(code) && Dashboard::mayBeSentAgain(failure);
 }
 
-/// Sets the kind and clears everything else that belonged to the previous kind.
+/// Sets the kind of the state and clears all other values.
 void CommandMonitor::setKind(CommandState::Kind kind)
 {
     m_state = CommandState();
@@ -371,7 +372,8 @@ int CommandMonitor::secondsSinceStart() const
     return int((m_clock() - m_start) / 1000);
 }
 
-/// Also gives up on a command of the account window. The plug-in has given up on it before.
+/// Counts the seconds. Also gives up a command of the account window if the plug-in has already
+/// given it up.
 void CommandMonitor::tick()
 {
     if (!m_state.isPending())

@@ -19,25 +19,25 @@ namespace Dashboard
 
 class DeviceWatcher;
 
-/** What goes on with codes, in the user's language. */
+/** The state of the current command. All texts are in the user's language. */
 struct CommandState {
     enum class Kind {
         Ready,
-        Waiting,   // for the reply to `code`
-        Queued,    // behind another window or another program
-        MenuOpen,  // the network waits for an answer of the user
-        MenuEnded, // the user has ended the menu
+        Waiting,   // waiting for the reply to `code`
+        Queued,    // waiting for another window or another program
+        MenuOpen,  // the network expects an answer from the user
+        MenuEnded, // the user has closed the menu
         Failed,
-        Cancelled // by the user
+        Cancelled // the user has cancelled the command
     };
 
     Kind kind = Kind::Ready;
-    QString code;              // the code in question, as it was sent; may contain a PIN
-    int seconds = 0;           // since the code was handed over
-    QString title;             // one line; a code or number in it is isolated
+    QString code;              // the code as it was sent; may contain a PIN
+    int seconds = 0;           // the time since the code was sent
+    QString title;             // one line; codes and numbers are enclosed in direction isolates
     QString text;              // one or two sentences
-    QString details;           // every word about a failure, with the network's closing message
-    QList<MenuChoice> choices; // of the open menu; empty if the program cannot be certain
+    QString details;           // the complete text of a failure
+    QList<MenuChoice> choices; // the choices of the open menu; empty if they cannot be determined
     QString menuText;          // the text of the open menu; empty if it is unknown
     bool mayBeCancelled = false;
     bool mayBeSentAgain = false;
@@ -48,19 +48,19 @@ struct CommandState {
     bool operator!=(const CommandState &other) const { return !(*this == other); }
 };
 
-/// The time that the network has for its reply, as it is shown to the user.
+/// The time limit for a reply that is displayed to the user.
 const int REPLY_SECONDS = 30;
 
 /**
- * Observes the codes that any window of the plug-in sends, and sends codes through the general
- * window, as a user would. It is the only source of what the dashboard shows about codes. All
- * functions must be called from the GUI thread.
+ * Observes the commands that the windows of the plug-in send, and sends commands through the
+ * general window, as a user would. All parts of the dashboard get the state of the current command
+ * from this class. All functions must be called from the GUI thread.
  */
 class CommandMonitor : public QObject
 {
     Q_OBJECT
 public:
-    using Clock = std::function<qint64()>; // milliseconds; never runs backwards
+    using Clock = std::function<qint64()>; // a monotonic clock in milliseconds
 
     /// `window` returns the embedded general window, which may be incomplete. All arguments must
     /// outlive the monitor.
@@ -74,9 +74,11 @@ public:
     const CommandState &state() const { return m_state; }
     /// Returns true if a code can be sent now.
     bool canSend() const;
-    /// Returns the codes that the user sent, newest first, each once, without numbers and PINs.
+    /// Returns the codes that the user has sent, starting with the most recent one, without
+    /// duplicates, numbers and PINs.
     QStringList recent() const { return m_recent; }
-    /// Sets the codes with a place for a number ("%s"), so that the number is recognized.
+    /// Sets the codes that contain a placeholder for a number ("%s"). They are used to remove
+    /// numbers from codes.
     void setTemplates(const QStringList &templates) { m_templates = templates; }
     QStringList templates() const { return m_templates; }
     /// Replaces the clock that counts the seconds. A null function restores the system's clock.
@@ -98,16 +100,16 @@ public slots:
     void cancel();
     /// Ends the open menu. Does nothing if no menu is open or a command is in flight.
     void endMenu();
-    /// Removes a failure, a cancellation or the end of a menu.
+    /// Dismisses the message about a failure, a cancellation or the end of a menu.
     void dismiss();
-    /// Reads the session, the replies and the windows again.
+    /// Updates the state from the session, the replies and the windows.
     void look();
-    /// Forgets the failure. Must be called when another device or another plug-in is in use.
+    /// Discards the failure. Must be called when another device or another plug-in is in use.
     void forget();
-    /// Forgets the codes that the user sent.
+    /// Discards the codes that the user has sent.
     void forgetRecent() { m_recent.clear(); }
     void retranslate();
-    /// Counts the seconds. The monitor calls this function every second while a command is pending.
+    /// Updates the number of seconds. Called every second while a command is pending.
     void tick();
 
 signals:
@@ -115,8 +117,8 @@ signals:
     void changed();
     /// Emitted each second while a command is pending.
     void ticked(int seconds);
-    /// Emitted for each reply to a command of any window, and for each message that the network
-    /// initiated. `code` is the command that the reply answers; it is empty for such a message.
+    /// Emitted for each reply to a command of any window, and for each network-initiated message.
+    /// `code` is the command to which the reply belongs, or empty for a network-initiated message.
     void replied(const QString &code, const Dashboard::Reply &reply);
     /// Emitted when the user has sent a code in a general window. `code` contains no number or PIN.
     void sent(const QString &code);
@@ -153,17 +155,17 @@ private:
     QTimer m_timer;
     CommandState m_state;
     Session m_session;
-    Reply m_reply;                   // the newest reply to the newest request
-    QString m_menu;                  // the newest message for which the network waits for an answer
-    bool m_hasNewMenu = false;       // m_menu is newer than the state
-    TKSV_FailureInfo m_failure = {}; // of the state Failed or Cancelled
-    qint64 m_start = 0;              // when the pending command was handed over
+    Reply m_reply;                   // the newest reply to the most recent request
+    QString m_menu;                  // the newest message that requires an answer
+    bool m_hasNewMenu = false;       // true if m_menu is newer than the state
+    TKSV_FailureInfo m_failure = {}; // valid in the states Failed and Cancelled
+    qint64 m_start = 0;              // when the pending command was sent
     bool m_isTranscriptChanged = false;
-    // Numbers of requests, see TKSV_SessionInfo.
-    unsigned long m_pendingRequest = 0; // of the state Waiting or Queued
-    unsigned long m_ownRequest = 0;     // the newest request of a general window
-    unsigned long m_givenUp = 0;        // the plug-in no longer expects the reply
-    unsigned long m_firstQuery = 0;     // of the newest query of the program; 0: none yet
+    // Request numbers; see TKSV_SessionInfo.
+    unsigned long m_pendingRequest = 0; // valid in the states Waiting and Queued
+    unsigned long m_ownRequest = 0;     // the most recent request of a general window
+    unsigned long m_givenUp = 0;        // the request that the plug-in has given up
+    unsigned long m_firstQuery = 0;     // the first request of the query; 0 if there was no query
     unsigned long m_lastQuery = 0;
     QStringList m_recent;
     QStringList m_templates;

@@ -19,8 +19,8 @@ namespace Dashboard
 namespace
 {
 
-// The plug-in itself ends every wait. If a wait exceeds the time-out by this amount, the plug-in is
-// broken.
+// The plug-in itself ends every wait with a time-out. If a wait exceeds this time-out by
+// PLUGIN_GRACE, the plug-in does not work correctly.
 const int PLUGIN_GRACE = 5000; // ms
 // The maximum time between the arrival of a reply at the plug-in and at the tap.
 const int TAP_GRACE = 1000; // ms
@@ -57,7 +57,7 @@ int CommandSender::send(const QStringList &commands)
 
 int CommandSender::sendOne(const QString &command)
 {
-    QCoreApplication::processEvents(); // a signal may have arrived while a reply was written
+    QCoreApplication::processEvents(); // a signal may have arrived while a reply was being printed
     if (isInterrupted())
         return interrupt(true);
     m_parts.tap.clear();
@@ -99,9 +99,9 @@ int CommandSender::printAnswer()
                           : Cli::EXIT_DONE;
 }
 
-/// Prints why the command failed. The plug-in may end its wait while the device still waits, and
-/// the device has no reason then. The command may get its turn before it is cancelled, so it is not
-/// certain that the command is not sent.
+/// Prints the reason for the failure. If the plug-in has given up while the device is still
+/// waiting, the device does not report a reason. If the command was waiting for its turn, it may be
+/// sent before it is cancelled, so it is not certain that it has not been sent.
 int CommandSender::fail(const QString &shown)
 {
     TKSV_FailureInfo failure = lastFailure();
@@ -116,8 +116,8 @@ int CommandSender::fail(const QString &shown)
     return Cli::exitCodeOf(failure.reason);
 }
 
-/// Ends the command on the device. Waits for the empty response, after which the device accepts the
-/// end of the session.
+/// Cancels the command on the device and waits for its empty response. The session can be ended
+/// only after this response.
 int CommandSender::interrupt(bool wasNotSent)
 {
     if (TKSV_Device_CancelRequest() == 0)

@@ -21,8 +21,8 @@ struct SendingParts {
 
 /**
  * Sends a code and the answers to the network's menus through the plug-in's general window, and
- * prints each reply, separated by an empty line. Processes events while it waits. All functions
- * must be called from the GUI thread.
+ * prints the replies, separated by empty lines. Processes events while it waits. All functions must
+ * be called from the GUI thread.
  */
 class CommandSender
 {

@@ -32,8 +32,7 @@ bool isWaitingEdit(const QLineEdit *edit)
     return !edit->isEnabledTo(edit->parentWidget());
 }
 
-// Enters the text in a single edit, like an input method, because setText() does not emit
-// textEdited().
+// Enters the text with an input method event, because setText() does not emit textEdited().
 void typeInto(QLineEdit *edit, const QString &text)
 {
     edit->selectAll();
@@ -76,7 +75,8 @@ bool GeneralWindow::isComplete() const
     return m_commandEdit && m_sendButton && m_history;
 }
 
-// The plug-in shows the field even if its configuration contains no codes.
+// Hides the field for numbers, which the plug-in shows even if its configuration does not contain
+// any codes.
 void GeneralWindow::hideUnusedPresets() const
 {
     if (m_presetButton || !m_numberEdit || !m_numberLabel)
@@ -154,7 +154,7 @@ QString GeneralWindow::lastEntry(const char *captionKey) const
         block = block.previous();
     QString text = block.text().mid(start.size());
     text.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
-    text.remove(QChar(0x200e)); // removes the left-to-right mark after the caption
+    text.remove(QChar(0x200e)); // the left-to-right mark after the caption
     return text.trimmed();
 }
 

@@ -11,7 +11,8 @@
 namespace Dashboard
 {
 
-/// Returns true if the plug-in has disabled the code field, because the window waits for a reply.
+/// Returns true if the plug-in has disabled the command field because the window is waiting for a
+/// reply.
 bool isWaitingEdit(const QLineEdit *edit);
 
 /// Replaces the text of the input field as if the user had typed the new text.
@@ -39,23 +40,24 @@ public:
     QLineEdit *commandEdit() const { return m_commandEdit; }
     QPushButton *sendButton() const { return m_sendButton; }
     QTextEdit *history() const { return m_history; }
-    /// The following two buttons are null if the plug-in's configuration omits them.
+    /// The following two buttons are null if the plug-in's configuration hides them.
     QPushButton *clearButton() const { return m_clearButton; }
     QPushButton *closeButton() const { return m_closeButton; }
 
     bool hasPresets() const { return m_presetButton; }
-    /// If there are no preset buttons, hides the field for their numbers and gives the space of
-    /// both to the transcript.
+    /// If there are no preset buttons, hides the field for their numbers and enlarges the
+    /// transcript to use their space.
     void hideUnusedPresets() const;
 
-    /// Returns true if the window waits for a reply. A window that the dashboard has disabled as a
-    /// whole does not wait.
+    /// Returns true if the window is waiting for a reply. Returns false if the dashboard has
+    /// disabled the complete window.
     bool isWaiting() const;
-    /// Types the text and presses Send. Returns false if the window does not accept the text.
+    /// Enters the text into the command field and clicks Send. Returns false if the window does not
+    /// accept the text.
     bool send(const QString &text) const;
 
-    /// Returns true if the plug-in writes this string in place of a reply that has not arrived in
-    /// time, or in place of any reply.
+    /// Returns true if the plug-in shows this string instead of a reply, for example because no
+    /// reply has arrived in time.
     static bool isTimeOutText(const QString &text);
     static bool isFailureText(const QString &text);
 
@@ -67,7 +69,7 @@ public:
     /// Returns the most recent command in the transcript without its caption, or an empty string.
     QString lastSent() const;
 
-    /// Gives the space that no button needs to the transcript.
+    /// Enlarges the transcript to use the space that the buttons do not need.
     void widenHistory() const;
 
 private:
@@ -78,7 +80,7 @@ private:
     QPointer<QPushButton> m_clearButton;
     QPointer<QPushButton> m_closeButton;
     QPointer<QTextEdit> m_history;
-    QPointer<QPushButton> m_presetButton; // the first of them
+    QPointer<QPushButton> m_presetButton; // the first preset button
     QPointer<QLineEdit> m_numberEdit;
     QPointer<QLabel> m_numberLabel;
 };

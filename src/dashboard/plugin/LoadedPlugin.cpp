@@ -19,7 +19,8 @@ namespace Dashboard
 namespace
 {
 
-/// Returns true if the dynamic loader can load the file. To check this, loads and unloads the file.
+/// Returns true if the file is a library whose dependencies are available. To check this, loads and
+/// unloads the file.
 bool isLoadableLibrary(const QString &file)
 {
     QLibrary library(file);
@@ -62,7 +63,7 @@ PluginFailure LoadedPlugin::openLibrary(const QString &file)
     m_loader.setFileName(file);
     if (!QFileInfo(file).isFile()) {
         PluginFailure missing = failure(PluginFailure::FileMissing);
-        missing.file = file; // QPluginLoader clears the name of a file that does not exist
+        missing.file = file; // QPluginLoader clears the name if the file does not exist
         return missing;
     }
     if (!m_loader.load()) {

@@ -16,8 +16,8 @@ namespace Dashboard
 {
 
 /**
- * Loads a USSD plug-in and makes the calls that a plug-in expects from its host. All functions must
- * be called from the GUI thread.
+ * Loads a USSD plug-in and calls its functions as the interfaces require of a host. All functions
+ * must be called from the GUI thread.
  *
  * The library is never unloaded, because the plug-in does not allow this while the program is
  * running.
@@ -31,8 +31,8 @@ public:
     /// Calls shutDown().
     ~LoadedPlugin();
 
-    /// Returns the path of the plug-in. If the folder in use contains a configuration without a
-    /// library, this is the path of the library that is installed with the program.
+    /// Returns the path of the plug-in library. If the current plug-in folder does not contain a
+    /// library, returns the path of the library that is installed with the program.
     static QString installedFile();
 
     /// Loads and initializes the plug-in and gets its USSD service. Must be called only once for
@@ -50,8 +50,8 @@ public:
     /// Notifies the plug-in that the SIM may have changed. Does nothing if no plug-in is loaded.
     void notifySimChange();
 
-    /// Makes the plug-in delete its windows and services, including all frames and pages. Then gets
-    /// the USSD service again, so that the plug-in reloads its configuration.
+    /// Makes the plug-in delete all of its windows and services, and then gets the USSD service
+    /// again, so that the plug-in reloads its configuration.
     PluginFailure restart();
 
     /// Makes the plug-in unregister its call-backs and delete its windows, and then deletes the

@@ -18,8 +18,7 @@ QString asciiKey(const QString &key)
     return ascii;
 }
 
-/// Removes the characters that control the direction of writing, which some networks send before
-/// the key.
+/// Removes direction characters, which some networks send before the key.
 QString withoutDirectionMarks(QString line)
 {
     static const QRegularExpression marks(
@@ -27,7 +26,8 @@ QString withoutDirectionMarks(QString line)
     return line.remove(marks);
 }
 
-/// Reads a choice. A number that continues after the dot or colon is an amount, a date or a time.
+/// Parses a line as a choice. Returns false if it is not a choice. A number that continues after a
+/// dot or colon is an amount, a date or a time, and not a key.
 bool readChoice(const QString &line, MenuChoice &choice)
 {
     static const QRegularExpression form(
@@ -42,7 +42,7 @@ bool readChoice(const QString &line, MenuChoice &choice)
     return true;
 }
 
-/// Returns true for a key that goes back, or that ends the menu.
+/// Returns true for keys that return to the previous menu or end the menu.
 bool isLastKey(const QString &key)
 {
     return key == QLatin1String("0") || key == QLatin1String("00") || key == QLatin1String("*") ||

@@ -7,7 +7,7 @@
 namespace Dashboard
 {
 
-/** A choice of a menu: the key that the user sends, and the words of the menu after the key. */
+/** A choice of a menu: the key to send, and the text of the choice. */
 struct MenuChoice {
     QString key; // "1" to "999", "0", "00", "*" or "#", always in ASCII
     QString text;
@@ -17,14 +17,13 @@ struct MenuChoice {
 };
 
 /**
- * Returns the choices that a menu of the network offers, in the order of the menu. The menu must be
- * a message for which the network waits for an answer, because other messages may also contain
- * lines such as "1 GB for 2 EUR".
+ * Returns the choices of a menu, in their order. Call this function only for messages that require
+ * an answer, because other messages may contain similar lines such as "1 GB for 2 EUR".
  *
- * A choice is a line of the form "1 Text", "1. Text", "1) Text", "1: Text" or "1 - Text". Returns
- * an empty list unless there are at least two choices and the keys are in ascending order, except
- * for the keys 0, 00, * and #, which may only follow the other keys. In this case, the program
- * cannot be certain that the lines are choices.
+ * A choice is a line of the form "1 Text", "1. Text", "1) Text", "1: Text" or "1 - Text". There
+ * must be at least two choices, and the keys must be in ascending order. The keys 0, 00, * and #
+ * are allowed only after all other keys. Otherwise, it is not certain that the lines are choices,
+ * and the function returns an empty list.
  */
 QList<MenuChoice> menuChoices(const QString &menu);
 

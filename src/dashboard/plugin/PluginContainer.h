@@ -10,9 +10,9 @@ namespace Dashboard
 {
 
 /**
- * The container for the objects that the dashboard provides to its plug-ins. Each object has an
- * identifier. The container is registered with the core library for as long as it exists. Only one
- * container may exist at a time. All functions must be called from the GUI thread.
+ * Contains the objects that the dashboard provides to its plug-ins, each with an identifier. The
+ * constructor registers the container with the core library, and the destructor unregisters it.
+ * Only one container may exist at a time. All functions must be called from the GUI thread.
  */
 class PluginContainer : public IPluginContainer
 {

@@ -11,8 +11,8 @@ struct PluginFailure {
     enum Step {
         None,
         FileMissing,
-        NotALibrary, // the file is not a library, or the library has an unmet dependency
-        WrongBuild,  // the library is not a plug-in, or is a plug-in for another Qt version
+        NotALibrary, // the file is not a library, or a dependency is missing
+        WrongBuild,  // the library is not a plug-in, or was built for another Qt version
         NoInstance,
         NoInterface,
         InitFailed,

@@ -29,10 +29,10 @@ public:
     QString userProfileFile() const;
     QString fileName(const QString &name) const;
 
-    /// Restores the installed file with this name.
+    /// Replaces the file with this name with a fresh copy of the installed file.
     bool restore(const QString &name);
-    /// Replaces the first `before` after the first `anchor` with `after` in the file with this
-    /// name. Returns false if the file does not contain them.
+    /// In the file with this name, replaces the first occurrence of `before` after the first
+    /// occurrence of `anchor` with `after`. Returns false if there are no such occurrences.
     bool change(const QString &name, const QByteArray &anchor, const QByteArray &before,
                 const QByteArray &after);
     bool write(const QString &name, const QByteArray &content);

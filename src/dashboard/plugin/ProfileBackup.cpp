@@ -21,7 +21,7 @@ namespace
 {
 
 const char FILE_NAME[] = "ussdprofile.xml";
-const qint64 LARGEST = 4 << 20; // in bytes; the plug-in never writes a larger file
+const qint64 LARGEST = 4 << 20; // in bytes; the plug-in does not write larger files
 
 const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
@@ -125,8 +125,8 @@ bool ProfileBackup::isDamaged() const
     return goodContent(m_userFile).isEmpty() && !goodContent(m_copy).isEmpty();
 }
 
-// Restores the backup copy. If the program ends between the two steps, the user's file is missing,
-// and the dashboard offers the backup copy again.
+// Moves the damaged file away and restores the backup copy. If the program is terminated between
+// these steps, the user's file is missing, and the dashboard offers the backup copy again.
 bool ProfileBackup::restore() const
 {
     const QByteArray text = goodContent(m_copy);

@@ -8,21 +8,20 @@ namespace Dashboard
 {
 
 /**
- * The backup copy of the user's own codes. The plug-in deletes the file that contains the codes
- * before it writes the file again. If the disk is full or the program crashes at that moment, all
- * codes are lost or the file is incomplete.
+ * Manages a backup copy of the user's own codes. To save the codes, the plug-in deletes their file
+ * and writes a new one. If the disk is full or the program crashes at that moment, the file is
+ * missing or incomplete.
  *
- * Only a well-formed XML file is copied or restored. Files are replaced atomically by renaming, and
+ * Only well-formed XML files are copied or restored. Files are replaced atomically by renaming, and
  * only their owner can read them.
  */
 class ProfileBackup
 {
 public:
-    /// If `userFile` is empty, the user does not have a folder for the file, and none of the
-    /// functions has any effect. `legacyFile` is the file of earlier versions, which the plug-in
-    /// still reads.
+    /// `userFile` is empty if the user does not have a data folder; all functions then have no
+    /// effect. `legacyFile` is the file of earlier versions, which the plug-in still reads.
     ProfileBackup(const QString &userFile, const QString &legacyFile, const QString &copy);
-    /// Returns a backup with the paths of the user who runs the program.
+    /// Returns an object with the paths for the user who runs the program.
     static ProfileBackup ofUser();
 
     /// Copies the user's file if it is well-formed. Returns true if the copy is up to date.

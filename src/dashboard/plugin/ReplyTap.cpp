@@ -18,7 +18,7 @@ const int NETWORK_WAITS = 1; // the <m> of +CUSD (3GPP TS 27.007)
 
 const int MOST_UNTAKEN = 20;
 
-/// Returns the command that the current call-back answers.
+/// Returns the command to which the current call-back belongs.
 QString answeredCode()
 {
     TKSV_SessionInfo session = {};
@@ -88,7 +88,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     reply.code = answeredCode();
     tap->keep(reply);
-    return 0; // only the plug-in reports whether it has accepted the reply
+    return 0; // the return value of the plug-in's call-back is decisive
 }
 
 void ReplyTap::keep(const Reply &reply)
@@ -97,7 +97,7 @@ void ReplyTap::keep(const Reply &reply)
         QMutexLocker lock(&m_mutex);
         m_reply = reply;
         if (!reply.text.isEmpty() || !reply.code.isEmpty())
-            m_untaken << reply; // not for expectAnswer()
+            m_untaken << reply; // expectAnswer() does not add a reply
         if (m_untaken.size() > MOST_UNTAKEN)
             m_untaken.removeFirst();
     }

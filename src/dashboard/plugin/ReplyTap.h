@@ -13,17 +13,17 @@ namespace Dashboard
 
 /** A reply from the network, exactly as delivered by the device. */
 struct Reply {
-    QString text;               // empty if the network rejected the code or the device failed
+    QString text;               // empty if the network refused the code or the device failed
     bool isReceived = false;    // true if a reply has arrived
-    bool asksForAnswer = false; // true if the network waits for an answer to a menu
-    QString code; // the command that the reply answers; empty if the network initiated the message
+    bool asksForAnswer = false; // true if the network expects an answer
+    QString code; // the command to which the reply belongs; empty for a network-initiated message
 };
 
 /**
- * Receives the device's replies in addition to the plug-in. The plug-in's transcript is not used,
- * because it is markup, which does not preserve white space or brackets. Only one tap may exist at
- * a time. It must be constructed before the plug-in is loaded, so that it receives each reply
- * first.
+ * Receives the same replies from the device as the plug-in. The transcript of the plug-in is not
+ * sufficient, because its markup does not preserve white space and brackets. Only one tap may exist
+ * at a time. It must be constructed before the plug-in is loaded, so that it receives each reply
+ * before the plug-in does.
  */
 class ReplyTap
 {
@@ -35,18 +35,18 @@ public:
 
     /// Discards the most recent reply. May be called from any thread.
     void clear();
-    /// Records that the network waits for an answer to a message that the tap has not received. May
+    /// Records that the network expects an answer to a message that the tap has not received. May
     /// be called from any thread.
     void expectAnswer();
     /// Returns the most recent reply. May be called from any thread.
     Reply reply() const;
 
-    /// Sets a function that is called from a thread of the SDK after each reply. The function must
-    /// return immediately. A null function removes it. When this function has returned, the
-    /// previous function is not running and will not run again.
+    /// Sets a listener, which is called from a thread of the SDK after each reply and must return
+    /// immediately. A null function removes the listener. After setListener() has returned, the
+    /// previous listener is not running and will not be called again.
     void setListener(const std::function<void()> &listener);
-    /// Returns the replies that have arrived since the last call, the oldest first. At most the 20
-    /// most recent replies are kept. May be called from any thread.
+    /// Returns the replies that have arrived since the last call, starting with the oldest one, but
+    /// at most the 20 most recent ones. May be called from any thread.
     QList<Reply> takeReplies();
 
 private:
@@ -56,7 +56,7 @@ private:
     mutable QMutex m_mutex; // guards the two members below
     Reply m_reply;
     QList<Reply> m_untaken;
-    QMutex m_listenerMutex; // guards m_listener, and is locked while it runs
+    QMutex m_listenerMutex; // guards m_listener; locked while the listener is running
     std::function<void()> m_listener;
 };
 

@@ -20,11 +20,11 @@ namespace
 
 const char TREE[] = "USSDUIPlugin_SMSDialog_ServiceTree";
 
-// The controls of a service, in the order of the file.
+// The indexes of a service's controls in the configuration file.
 const int INPUT = 2;
 const int BUTTON = 3;
 
-/** A word in the key of a service's name, and the icon for it. */
+/** A word in the text key of a service's name, and the icon for this kind of service. */
 struct KindOfService {
     const char *word;
     const char *icon;
@@ -35,7 +35,7 @@ const KindOfService KINDS[] = {
     {"TRANSFER", "topup"}, {"CREDIT", "topup"},     {"BALANCE", "topup"},   {"ALERT", "bell"},
     {"NUMBER", "number"},  {"CALENDAR", "calendar"}};
 
-/// The keys are upper-case words and the same in every language.
+/// Text keys consist of upper-case words and do not depend on the language.
 const char *iconOf(const QString &key, bool isByCode)
 {
     for (const KindOfService &kind : KINDS) {
@@ -45,7 +45,7 @@ const char *iconOf(const QString &key, bool isByCode)
     return isByCode ? "codes" : "messages";
 }
 
-/// Returns true if the field accepts digits and the other characters of phone numbers only.
+/// Returns true if the field accepts only the characters of phone numbers.
 bool takesNumbersOnly(const QString &limitText)
 {
     if (limitText.isEmpty())
@@ -64,7 +64,8 @@ Service::Input inputOf(const Formats::CWidgetItemInfo &control)
     return takesNumbersOnly(control.limitText) ? Service::Input::Number : Service::Input::Text;
 }
 
-/// Returns the service of a tree entry. A null group means that the window shows no controls.
+/// Creates the service for a tree entry. Returns false if the group is null, which means that the
+/// window does not show any controls for this entry.
 bool makeService(const Formats::CTreeItem &entry, const Formats::CWidget *group, Service *service)
 {
     if (!group || group->controls.size() != Formats::SmsLayoutFile::CONTROLS_OF_GROUP)
@@ -115,7 +116,7 @@ QList<Service> readServices(const QString &library)
     QXmlStreamReader reader;
     ForwardXml::start(reader, file);
     SmsLayout layout;
-    SmsLayoutFile::read(reader, layout); // the services before an error are kept, as in the window
+    SmsLayoutFile::read(reader, layout); // services before an error are used, as in the window
     return layout.hasRoot ? servicesOf(layout) : QList<Service>();
 }
 

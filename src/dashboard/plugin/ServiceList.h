@@ -9,15 +9,15 @@ class QWidget;
 namespace Dashboard
 {
 
-/** A service of the operator, as the services window of the plug-in offers it. */
+/** An operator service that the services window of the plug-in contains. */
 struct Service {
     enum class Input { None, Number, Text };
 
     int row = 0; // its position in the services window
     QString name;
-    bool isByCode = true; // false if the service is ordered by a text message
-    QString code;         // with a placeholder if the user enters something
-    QString number;       // the recipient of the text message
+    bool isByCode = true; // true if the service sends a code, false if it sends a short message
+    QString code;         // contains a placeholder if the service requires input
+    QString number;       // the recipient of the short message
     Input input = Input::None;
     const char *icon = nullptr; // the name of an icon
 
@@ -26,13 +26,13 @@ struct Service {
 
 /// Reads the services from the configuration of the plug-in, in the order of the services window.
 /// `library` is the folder that CommonUtils::GetPluginLibraryPath() returns. The names are in the
-/// current language. Services that the window does not show are left out.
+/// current language. Services that the window does not show are omitted.
 QList<Service> readServices(const QString &library);
 
 /// Selects a row of the services window. `window` is the window or one of its parents. Returns
-/// false if there is no such row, or if the window is sending something.
+/// false if the row does not exist or if the window is sending something.
 bool selectService(const QWidget *window, int row);
-/// Selects a row of the services window that is open in a frame.
+/// Like selectService(), for the services window that is open in a frame.
 bool selectServiceInFrame(int row);
 
 } // namespace Dashboard

@@ -11,12 +11,12 @@ struct PluginConfig;
 namespace Dashboard
 {
 
-/// Returns a warning for each colour of the transcript that is hard to read on the transcript's
-/// paper, in the light or in the dark theme.
+/// Returns a warning for each configured colour of the transcript whose contrast with the
+/// background is too low in the light or in the dark theme.
 QStringList paleTranscriptColors(const Formats::PluginConfig &configuration);
 
-/// Logs these warnings for the plug-in's current configuration file. Does nothing if the file
-/// cannot be read, because the plug-in reports that itself.
+/// Logs the warnings of paleTranscriptColors() for the current configuration of the plug-in. Does
+/// nothing if the file cannot be read, because the plug-in reports this error.
 void warnAboutPaleTranscript();
 
 } // namespace Dashboard

@@ -49,7 +49,7 @@ bool UserActivity::isCommandPending()
     return false;
 }
 
-// Queues the signals, because the plug-in has not handled the event yet.
+// Queues the signals, because the plug-in has not yet handled the event.
 bool UserActivity::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Hide && qobject_cast<ExtendDialog *>(watched))

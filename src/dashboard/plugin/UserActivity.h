@@ -26,9 +26,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// Emitted when a frame was closed, or when the command field accepts input again. The signal
-    /// is emitted after the event that caused the change has been handled. It may also be emitted
-    /// if nothing has changed.
+    /// The signals are emitted when a frame was closed or when the command field accepts input
+    /// again, after the event that caused the change has been handled. They may also be emitted if
+    /// nothing has changed.
     void frameClosed();
     void commandEnded();
 };

@@ -35,8 +35,7 @@ const char *const NotificationService::ADDRESSEES[2] = {"8E4C1F07-3B6A-4d29-A5C1
 
 NotificationService::NotificationService(QObject *parent) : QObject(parent) {}
 
-// Emits the type of contract immediately, because the record of the plug-in is valid only during
-// the call.
+// Reads the record immediately, because it is valid only during the call.
 int NotificationService::Notify(const QString &addressee, unsigned int message, NotifyParam wParam,
                                 NotifyParam)
 {

@@ -20,8 +20,8 @@ class NotificationService : public QObject, public INotifyService
 public:
     /// The identifier under which plug-ins find the service.
     static const char *const CLSID;
-    /// The addressees of the messages: two components of a host that show the type of contract. In
-    /// the dashboard, one window has the role of both components and therefore receives each
+    /// The addressees of the messages, which represent two components of a host that show the type
+    /// of contract. The dashboard does not distinguish these components and therefore receives each
     /// message twice.
     static const char *const ADDRESSEES[2];
 

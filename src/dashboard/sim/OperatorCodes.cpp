@@ -21,7 +21,7 @@ namespace
 const char DECLINED[] = "none";
 const int COUNTRY_DIGITS = 3; // the MCC of a network code (ITU-T E.212)
 
-/// Returns the folder whose files contain no codes.
+/// Returns the folder of the configuration without codes.
 QString folderWithoutCodes()
 {
     return HostCore::InstallPaths::share() + QLatin1String("/plain");
@@ -86,7 +86,7 @@ QString OperatorCodes::currentNetwork() const
         return status.homeNetwork;
     if (!status.isSimulated && !status.imsi.isEmpty())
         return networkOfImsi(database(), status.imsi);
-    // A SIM without an IMSI may be a SIM that cannot be read yet.
+    // If the IMSI is empty, the SIM may not have been read yet. The network may still be the same.
     return status.imsi.isEmpty() ? m_network : QString();
 }
 
@@ -204,8 +204,8 @@ ProviderChoice OperatorCodes::choice() const
         if (isUseful(provider, m_network))
             result.candidates << provider;
     }
-    // Keep the state of the unfiltered choice, because several possible operators are ambiguous
-    // even if only one of them has codes.
+    // Keep the original state: if several operators are possible, the choice is ambiguous even if
+    // only one of them has codes.
     result.state = result.candidates.isEmpty() ? ProviderChoice::None : all.state;
     return result;
 }
@@ -238,7 +238,7 @@ ProvisionOutcome OperatorCodes::take(const Provider &provider, bool setAside)
     outcome = writeProvision(order, plan, files);
     if (outcome.state == ProvisionOutcome::Written || outcome.state == ProvisionOutcome::Current) {
         setDeclined(false);
-        m_folderInUse.clear(); // makes use() emit folderChanged()
+        m_folderInUse.clear(); // forces use() to emit folderChanged()
         use(order.folder);
     }
     return outcome;

@@ -17,7 +17,7 @@ class DeviceWatcher;
 struct OperatorPlaces {
     QString database; // empty for the installed database
     QString folders;  // contains one folder for each network code; empty for the user's own folder
-    /// False if the plug-in's folder was set in the environment and must not be replaced.
+    /// False if the environment specifies the plug-in's folder, which must then not be changed.
     bool isFree = true;
 
     /// Returns the paths for the user who runs the program. `isFree` is false if
@@ -53,10 +53,10 @@ public:
     /// Returns true if the sample codes are in use, which are suitable only for a simulated
     /// network.
     bool areSample() const;
-    /// Returns true if no codes are in use, because the operator of the SIM is not set up.
+    /// Returns true if no codes are in use because the operator of the SIM is not set up.
     bool areAbsent() const;
-    /// Returns true if the codes in use belong to the operator of the SIM. Such codes were selected
-    /// by the user, or by the system integrator with $USSD_PLUGIN_LIBRARY_PATH.
+    /// Returns true if the codes in use belong to the operator of the SIM, because they were
+    /// selected by the user or by a system integrator with $USSD_PLUGIN_LIBRARY_PATH.
     bool areOfOperator() const;
     /// Returns true if the user has decided which codes to use for this SIM's network.
     bool isDecided() const;
@@ -69,9 +69,9 @@ public:
     /// Returns true if the operator database can be read.
     bool hasDatabase() const;
 
-    /// Writes the operator's codes to the folder of the SIM's network and selects this folder. If
-    /// the folder contains manually edited files and `setAside` is false, does not write anything.
-    /// If `setAside` is true, keeps the edited files in their folder.
+    /// Writes the operator's codes to the folder for the SIM's network and selects this folder. If
+    /// the folder contains manually edited files, has no effect unless `setAside` is true. The
+    /// edited files are then kept in their folder.
     Provisioning::ProvisionOutcome take(const Provisioning::Provider &provider, bool setAside);
     /// Records that no operator is to be used for this SIM's network.
     void decline();
@@ -81,10 +81,10 @@ public slots:
     void look();
 
 signals:
-    /// Emitted when the SIM's network has changed. Notices about the previous network are then
-    /// outdated.
+    /// Emitted when the home network of the SIM has changed. Messages about the previous network
+    /// are then outdated.
     void networkChanged();
-    /// Emitted when the return value of CommonUtils::GetPluginLibraryPath() or the files in the
+    /// Emitted when the return value of CommonUtils::GetPluginLibraryPath() or the files in this
     /// folder have changed.
     void folderChanged();
 

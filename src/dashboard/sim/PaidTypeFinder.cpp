@@ -13,13 +13,14 @@ namespace Dashboard
 namespace
 {
 
-// When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports the
-// failure of the commands. If a query were sent in the meantime, the failure would be mistaken for
-// the reply to the query.
+// When a device is removed, the plug-in cancels its commands on a thread of the SDK and reports
+// their failure. If a query were sent before that, this failure would be mistaken for the reply to
+// the query.
 const int SETTLING_TIME = 200; // ms
 
-// The additional time in which the plug-in can report a time-out. The plug-in does not report a
-// time-out if the window that sent the query has been deleted.
+// The time after the time-out during which the plug-in may still report it. A time limit is
+// necessary, because the plug-in does not report the time-out if the window that sent the query has
+// been deleted.
 const int PLUGIN_GRACE = 2000; // ms
 
 } // namespace
@@ -55,9 +56,9 @@ void PaidTypeFinder::tryToAsk()
     setState(PaidType::Unknown, inUse && wasSent);
 }
 
-// Stores the result. A result that is not expected belongs to a SIM that was removed, and is
-// ignored. If the query failed, the plug-in reports "postpaid", so the result is used only after a
-// real reply.
+// Stores the result of the query. An unexpected result is ignored, because it belongs to a SIM that
+// has been removed. If the query fails, the plug-in reports "postpaid", so the result is used only
+// if there was a reply.
 void PaidTypeFinder::takeAnswer(PaidType type)
 {
     if (isAsking())

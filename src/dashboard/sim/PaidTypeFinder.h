@@ -15,8 +15,8 @@ class LoadedPlugin;
 class ReplyTap;
 
 /**
- * Makes the plug-in query once for each SIM whether the SIM is prepaid or postpaid. The query ends
- * any open session on the device, and is therefore delayed while the user needs the device. All
+ * Makes the plug-in query whether the SIM is prepaid or postpaid, once for each SIM. Because the
+ * query ends any open session on the device, it is delayed while the device is in use. All
  * functions must be called from the GUI thread and return immediately.
  */
 class PaidTypeFinder : public QObject
@@ -30,7 +30,7 @@ public:
     /// Returns true if the query has been sent and its reply is pending.
     bool isAsking() const { return m_timeLimit.isActive(); }
 
-    /// Discards the result, so that the query is sent for the current SIM.
+    /// Discards the result, so that the query is sent again for the current SIM.
     void restart();
     /// Sends the query. Does nothing if the query has already been sent or the settling time has
     /// not elapsed. Must be called only while the device is ready and not in use.

@@ -47,7 +47,7 @@ void SimFollower::look()
         return;
     const QString imsi = currentImsi();
     if (imsi == m_imsi)
-        return ask(); // the device may have just registered
+        return ask(); // the device may have registered
     if (!m_imsi.isEmpty())
         m_replies.clear();
     m_imsi = imsi;
@@ -61,7 +61,7 @@ void SimFollower::offer()
     m_finder.restart();
 }
 
-// Also notifies the reply tap, because the message may have arrived before the tap was installed.
+// Also informs the reply tap, because the message may have arrived before the tap was installed.
 void SimFollower::questionCame()
 {
     m_replies.expectAnswer();
@@ -74,8 +74,8 @@ void SimFollower::onDeviceLost()
     m_finder.restart();
 }
 
-/// Sends the query. Does nothing while the user needs the device or a menu is waiting for an
-/// answer, because the query would end the user's session.
+/// Sends the query. Does nothing while the user is using the device or a menu is open, because the
+/// query would end the user's session.
 void SimFollower::ask()
 {
     const bool isThere = m_device->status().isRegistered() && !m_imsi.isEmpty();

@@ -16,10 +16,10 @@ class DeviceWatcher;
 class LoadedPlugin;
 
 /**
- * Keeps the plug-in and the dashboard up to date when the SIM changes. Notifies the plug-in when
- * the SIM was replaced. Reports which windows to offer for the SIM, and whether the SIM is prepaid
- * or postpaid. All functions must be called from the GUI thread. Only one follower may exist at a
- * time, and it must be constructed before the plug-in is loaded.
+ * Notifies the plug-in and the dashboard when the SIM changes. Determines which windows to offer
+ * for the SIM, and whether the SIM is prepaid or postpaid. Only one follower may exist at a time,
+ * and it must be constructed before the plug-in is loaded. All functions must be called from the
+ * GUI thread.
  */
 class SimFollower : public QObject
 {
@@ -39,10 +39,10 @@ public:
     void setDetectionRule(const std::function<bool()> &mayDetect) { m_mayDetect = mayDetect; }
 
 public slots:
-    /// Starts to follow the SIM. Must be called each time the plug-in has been loaded or restarted.
+    /// Starts observing the SIM. Must be called each time the plug-in has been loaded or restarted.
     void start();
-    /// Must be called when the network starts to wait for an answer to a network-initiated message.
-    /// The query is not sent until this session has ended.
+    /// Must be called when a network-initiated message requires an answer. The query is not sent
+    /// until this session has ended.
     void questionCame();
     /// Sends the query if it is due and permitted. Must be called when the query becomes permitted.
     void ask();

@@ -11,7 +11,9 @@ namespace Dashboard
 
 class DeviceWatcher;
 
-/** Makes the dashboard show a device that this computer does not have, as long as it exists. */
+/**
+ * As long as it exists, makes the dashboard show a device that is not connected to the computer.
+ */
 class ShownDevice
 {
 public:
@@ -21,7 +23,7 @@ public:
     ShownDevice(const ShownDevice &) = delete;
     ShownDevice &operator=(const ShownDevice &) = delete;
 
-    /// Shows a modem in this state without a network.
+    /// Shows a modem with this state and problem, but without a network.
     void show(int state, int problem, const char *model = "");
     void show(const DeviceStatus &status);
     void addModem(const char *equipmentId, const char *name, bool isInUse);

@@ -20,7 +20,7 @@ typedef bool (*Part)(TourGuide &guide);
 /** A part of the tour. */
 struct Leg {
     Part part;
-    bool isInEachLanguage; // also if the tour visits all languages
+    bool isInEachLanguage; // true if a tour in all languages includes this part
 };
 
 const Leg LEGS[] = {

@@ -70,7 +70,7 @@ bool isWaiting(const QWidget *dialog, const char *role)
     return box && box->isVisible() && box->toPlainText() == waiting;
 }
 
-/// Returns true if the window does not wait for any reply.
+/// Returns true if the window is not waiting for a reply.
 bool isAtRest(const QWidget *dialog)
 {
     const QLineEdit *pin = part<QLineEdit>(dialog, "ChargeEdit");

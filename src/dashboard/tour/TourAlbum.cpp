@@ -26,12 +26,12 @@ namespace
 
 const int NUMBER_WIDTH = 3;
 
-// The contact sheet, in pixels.
+// Dimensions of the contact sheet in pixels.
 const int COLUMNS = 6;
 const QSize THUMBNAIL(300, 220);
 const int LABEL_HEIGHT = 16;
 const int GAP = 8;
-const QColor SHEET_COLOR(0x60, 0x68, 0x74); // both themes stand out against it
+const QColor SHEET_COLOR(0x60, 0x68, 0x74); // contrasts with both themes
 
 QString plainText(const QLabel *label)
 {
@@ -84,7 +84,7 @@ QString textOf(const QWidget *widget)
         return button->text().isEmpty() ? QString()
                                         : QLatin1Char('[') + button->text() + QLatin1Char(']');
     if (const QLineEdit *edit = qobject_cast<const QLineEdit *>(widget))
-        return edit->displayText(); // unlike text(), does not contain a PIN in plain text
+        return edit->displayText(); // unlike text(), does not reveal PINs
     if (const QTextEdit *edit = qobject_cast<const QTextEdit *>(widget))
         return edit->toPlainText();
     if (const QPlainTextEdit *edit = qobject_cast<const QPlainTextEdit *>(widget))

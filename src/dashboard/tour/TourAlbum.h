@@ -35,7 +35,8 @@ public:
     /// Adds a picture of `place` and the text that is visible in the picture. Returns false if the
     /// picture cannot be written.
     bool add(const QPixmap &picture, const char *place, const TourStop &stop, const QString &text);
-    /// Writes a picture with all pictures of the current language in small, and with their names.
+    /// Writes a contact sheet, which shows all pictures the thumbnails of the current language as
+    /// thumbnails with their names.
     bool writeContactSheet();
     bool writeTranscript();
     int pictures() const { return m_pictures; }
@@ -45,7 +46,7 @@ public:
     static bool fail(const char *key, const QString &subject);
 
 private:
-    /** A small picture of the contact sheet. */
+    /** A thumbnail on the contact sheet. */
     struct Thumbnail {
         QString name;
         QImage image;

@@ -122,7 +122,8 @@ bool walkUnknownOperator(TourGuide &guide)
     return guide.take(FOREIGN);
 }
 
-/// Shows modems as the user sees them, without the codes of the tour's network.
+/// Shows modems as they look without a demonstration, and therefore without the codes of the tour's
+/// network.
 bool walkModems(TourGuide &guide)
 {
     OperatorCodes &codes = guide.window()->operatorCodes();
@@ -173,7 +174,7 @@ bool walkTexts(TourGuide &guide)
         guide.waitFor([messages] { return !messages->accessibleDescription().isEmpty(); }) &&
         guide.take(MESSAGE) &&
         guide.waitFor([&monitor] { return monitor.state().kind == CommandState::Kind::MenuOpen; });
-    guide.window()->showPage(PageId::Home); // its last row shows the question
+    guide.window()->showPage(PageId::Home); // its last row shows the message
     const bool isAsked = isTaken && guide.take(QUESTION);
     guide.window()->showPage(PageId::Codes);
     return isAsked;

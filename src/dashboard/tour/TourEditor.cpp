@@ -138,7 +138,7 @@ bool renameAndSave(TourGuide &guide, QTableWidget *table, const TourStop &stop)
 
 TourEditor::TourEditor(TourGuide *guide) : m_guide(guide) {}
 
-// Opens the editor. The walk is scheduled first, because the editor blocks in its own event loop.
+// Schedules the walk and opens the editor, which runs a nested event loop until it is closed.
 bool TourEditor::visit(Walk walk, const TourStop &stop)
 {
     m_walk = walk;

@@ -13,8 +13,7 @@ namespace Dashboard
 class TourGuide;
 
 /**
- * Opens the editor for the user's own codes from the page, and runs a walk while the editor is
- * open.
+ * Opens the profile editor and runs a function, called the walk, while the editor is open.
  */
 class TourEditor : public QObject
 {

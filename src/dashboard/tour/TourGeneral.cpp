@@ -14,7 +14,7 @@ namespace
 
 struct Question {
     const char *command;
-    TourStop stop; // the picture with the reply
+    TourStop stop; // the stop after the reply has arrived
 };
 
 const TourStop IDLE = {"idle", "nothing was sent yet"};
@@ -55,7 +55,7 @@ bool ask(TourGuide &guide, const GeneralWindow &general, const Question &questio
     return waitForAnswer(guide, general) && guide.take(question.stop);
 }
 
-// Clears the transcript. click() returns after the confirmation box has been answered.
+// Clears the transcript. click() does not return until the confirmation has been answered.
 bool clearTranscript(TourGuide &guide, const GeneralWindow &general)
 {
     if (!general.clearButton())

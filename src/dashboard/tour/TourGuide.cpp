@@ -22,7 +22,7 @@ const int LIMIT = 10 * TourGuide::REPLY_LIMIT; // ms
 const char CONFIGURATION[] = "USSDPluginConfig.xml";
 const char NETWORK[] = "tour.scenario";
 
-/// Draws the box, with a border around it, in the middle of the picture.
+/// Returns the picture `below` with the box and a border drawn at its centre.
 QPixmap laidOver(QPixmap below, const QPixmap &box)
 {
     QRect place(QPoint(), box.size());
@@ -33,7 +33,8 @@ QPixmap laidOver(QPixmap below, const QPixmap &box)
     return below;
 }
 
-/// Draws the widget at its position over the window, or at the nearest position inside the picture.
+/// Returns the picture `below` with the widget drawn at its position relative to the window, or at
+/// the nearest position inside the picture.
 QPixmap laidAt(QPixmap below, const QWidget *window, QWidget *over)
 {
     QPoint place = over->mapToGlobal(QPoint()) - window->mapToGlobal(QPoint());
@@ -81,7 +82,7 @@ bool TourGuide::useNetwork(const TourChange *changes, int count)
     m_deviceLost = false;
     if (!m_window->useScenario(m_library->fileName(name)))
         return TourAlbum::fail("SCENARIO_UNUSABLE", name);
-    // Commands that were sent before the device was lost end because of the change of network.
+    // The change of the network also ends all commands that were sent before.
     return waitFor([this] { return m_deviceLost; });
 }
 
@@ -99,7 +100,7 @@ bool TourGuide::usePlugin(const TourChange *changes, int count)
                     m_library->change(name, changes[i].anchor, changes[i].before, changes[i].after);
     if (!isWritten)
         return TourAlbum::fail("TOUR_NOT_WRITTEN", name);
-    settle(); // lets deleteLater() delete the closed frames
+    settle(); // so that deleteLater() deletes the closed frames
     return m_window->restartPlugin().step == PluginFailure::None || failHere();
 }
 
@@ -178,8 +179,7 @@ bool TourGuide::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// Answers the message box. An unexpected message box is also closed, because otherwise the tour
-// would never end.
+// Closes the message box, even if it is unexpected, because otherwise the tour would never end.
 void TourGuide::onBox()
 {
     if (!m_box || !m_box->isVisible())

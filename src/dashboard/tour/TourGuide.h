@@ -15,7 +15,10 @@ namespace Dashboard
 class MainWindow;
 class PrivatePluginFolder;
 
-/** A change to a file: the first `before` after the first `anchor` is replaced with `after`. */
+/**
+ * A change to a file: the first occurrence of `before` after the first occurrence of `anchor` is
+ * replaced with `after`.
+ */
 struct TourChange {
     const char *anchor;
     const char *before;
@@ -23,9 +26,9 @@ struct TourChange {
 };
 
 /**
- * Operations shared by the parts of the tour. They set up the dashboard, the plug-in and the
- * network, and add pictures to the album. Events are processed during waits. All functions must be
- * called from the GUI thread.
+ * Provides the functions that all parts of the tour use. They set up the dashboard, the plug-in and
+ * the network, and add pictures to the album. They process events while they wait. All functions
+ * must be called from the GUI thread.
  */
 class TourGuide : public QObject
 {
@@ -41,15 +44,15 @@ public:
     MainWindow *window() const { return m_window; }
     PrivatePluginFolder *library() const { return m_library; }
 
-    /// Selects the tour's simulated network with these changes.
+    /// Selects the simulated network of the tour, with these changes to its scenario file.
     bool useNetwork(const TourChange *changes, int count);
     bool useNetwork() { return useNetwork(nullptr, 0); }
-    /// Restarts the plug-in with the installed configuration and these changes.
+    /// Restarts the plug-in with the installed configuration, with these changes to its files.
     bool usePlugin(const TourChange *changes, int count);
     bool usePlugin() { return usePlugin(nullptr, 0); }
 
-    /// Sets the widget that the following pictures show. `place` becomes part of the file names of
-    /// the pictures.
+    /// Sets the widget for the following pictures. `place` is a part of the file names of the
+    /// pictures.
     void visit(QWidget *shown, const char *place);
     QWidget *shown() const { return m_shown; }
     /// Opens a window of the plug-in (a PAID_TYPE), and visits the frame that contains a widget
@@ -60,10 +63,10 @@ public:
     void close();
 
     bool take(const TourStop &stop);
-    /// Takes a picture with a menu or dialog that is open over the visited widget.
+    /// Takes a picture of the visited widget with the menu or dialog that is open over it.
     bool takeWith(QWidget *over, const TourStop &stop);
-    /// Takes a picture of the next message box over the visited widget and presses the first button
-    /// of the message box.
+    /// When the next message box opens over the visited widget, takes a picture and clicks the
+    /// first button of the message box.
     void expectBox(const TourStop &stop);
     /// Returns true if the expected message box was shown and its picture was taken.
     bool sawBox() const { return m_boxStop.name && m_boxTaken; }
@@ -71,10 +74,10 @@ public:
     /// Waits until the condition is true. If it does not become true in time, prints an error and
     /// returns false.
     bool waitFor(const std::function<bool()> &condition);
-    /// Returns true if the dashboard shows the kind of SIM. Until then, the dashboard may use the
-    /// network.
+    /// Returns true if the dashboard shows the type of contract. Until then, the dashboard may use
+    /// the network.
     bool isPaidTypeShown() const;
-    /// Prints that the plug-in does not show the contents that the tour expects. Returns false.
+    /// Prints that the plug-in does not show the expected contents. Returns false.
     bool failHere() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

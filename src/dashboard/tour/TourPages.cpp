@@ -21,7 +21,7 @@ const QSize NARROW(360, 640);
 const int FONT_SIZE = 14; // pixels
 const int LARGE_FONT_SIZE = 28;
 
-/** A form of the window. */
+/** A form of the main window. */
 struct Shape {
     QSize size;
     ThemeChoice theme;
@@ -60,7 +60,7 @@ bool hasMessages(const TourGuide &guide)
     return parts && parts->store().unreadCount() >= 2;
 }
 
-/// Shows an account with a history, which the tour's network cannot have.
+/// Adds account data with a history, which the tour's network does not have.
 void fillAccount(const TourGuide &guide)
 {
     if (HomeSetup *home = guide.window()->findChild<HomeSetup *>())

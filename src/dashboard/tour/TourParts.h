@@ -7,14 +7,15 @@ namespace Dashboard
 class TourGuide;
 
 /**
- * The parts of the tour. Each function prints errors and returns true if every stop was reached.
+ * The parts of the tour. Each function prints errors, and returns true if every stop has been
+ * reached.
  */
 namespace TourParts
 {
 
 /// Visits each page in each form and theme, and with large fonts.
 bool walkPages(TourGuide &guide);
-/// Visits the page of codes while a code is in flight, and after it.
+/// Visits the page Codes while a code is in flight and after its reply.
 bool walkStates(TourGuide &guide);
 /// Visits each window of the plug-in once, in the light and the dark theme.
 bool walkWindows(TourGuide &guide);
@@ -23,9 +24,9 @@ bool walkWindows(TourGuide &guide);
 bool walkGeneral(TourGuide &guide);
 /// Visits the prepaid and the postpaid window with several configurations.
 bool walkAccount(TourGuide &guide);
-/// Visits the editor for the user's own codes.
+/// Visits the profile editor.
 bool walkEditor(TourGuide &guide);
-/// Visits the window of the operator's services.
+/// Visits the services window.
 bool walkServices(TourGuide &guide);
 
 /// Visits the dashboard without a modem, with several modems, with a locked SIM, with

@@ -47,7 +47,7 @@ const Service SERVICES[] = {
     {3,
      nullptr,
      true,
-     NONE, // no picture, because it would look the same as the outcome
+     NONE, // no picture, because it would look like that of the outcome
      NONE,
      {"code-refused", "the network refuses it, so the result stays empty"}},
     {5, nullptr, true, NONE, NONE, {"code-timed-out", "the network is silent"}},
@@ -96,7 +96,7 @@ bool send(TourGuide &guide, const QWidget *dialog, const Service &service)
         return guide.failHere();
     if (service.input)
         typeInto(input, QLatin1String(service.input));
-    // It takes some time until the SDK reports that short messages can be sent.
+    // The button is enabled only after the SDK has reported that short messages can be sent.
     if (!guide.waitFor([button] { return button->isEnabled(); }))
         return false;
     button->click();

@@ -13,7 +13,7 @@ namespace
 
 typedef CommandState::Kind Kind;
 
-/** A code, and the state that it leads to. */
+/** A code and the state that results from it. */
 struct Step {
     const char *code;
     Kind kind;

@@ -21,7 +21,7 @@ const TourStop DARK = {"overview-dark", "the same, dark"};
 
 struct PluginWindow {
     int paidType;
-    const char *widget; // a part of it
+    const char *widget; // the object name of a widget in the window
     const char *place;
 };
 
