@@ -31,9 +31,8 @@ namespace Dashboard
 namespace
 {
 
-const int REGISTRATION_LIMIT =
-    10000; // ms; how long --send waits for the device at most
-const QSize UNSEEN_SIZE(800, 600); // size of the hidden parent of the general window
+const int REGISTRATION_LIMIT = 10000; // ms; how long --send waits for the device at most
+const QSize UNSEEN_SIZE(800, 600);    // size of the hidden parent of the general window
 
 int fail(const QString &text, int exitCode)
 {

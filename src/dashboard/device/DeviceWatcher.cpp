@@ -10,7 +10,8 @@ namespace Dashboard
 namespace
 {
 
-std::atomic<DeviceWatcher *> watching(nullptr); // global, because the call-back for device events does not have a context parameter
+std::atomic<DeviceWatcher *> watching(
+    nullptr); // global, because the call-back for device events does not have a context parameter
 
 DeviceReading readFromSdk()
 {

@@ -40,7 +40,8 @@ void StartEnvironment::leaveOpenGlOut()
 void StartEnvironment::restore()
 {
     if (qApp)
-        QOpenGLContext::supportsThreadedOpenGL(); // makes Qt evaluate the variables now instead of later
+        QOpenGLContext::supportsThreadedOpenGL(); // makes Qt evaluate the variables now instead of
+                                                  // later
     for (const auto &[variable, value] : m_previous) {
         if (value.isNull())
             qunsetenv(variable);

@@ -23,7 +23,8 @@ struct MessageQuery {
     enum class Filter { All, Unread, Waiting };
 
     Filter filter = Filter::All;
-    QString words; // searched for in the sender and the text, ignoring the case; empty for all messages
+    QString
+        words; // searched for in the sender and the text, ignoring the case; empty for all messages
 
     bool operator==(const MessageQuery &other) const
     {

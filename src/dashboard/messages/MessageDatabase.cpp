@@ -192,7 +192,8 @@ bool MessageDatabase::run(const char *statement, const QVariantList &values, QSq
     query->setForwardOnly(true);
     query->prepare(QLatin1String(statement));
     for (const QVariant &value : values)
-        query->addBindValue(value.isNull() ? QVariant(QLatin1String("")) : value); // NULL is invalid
+        query->addBindValue(value.isNull() ? QVariant(QLatin1String(""))
+                                           : value); // NULL is invalid
     return query->exec() || handleError(*query);
 }
 

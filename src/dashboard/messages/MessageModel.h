@@ -26,8 +26,8 @@ class MessageModel : public QAbstractListModel
 public:
     enum Role {
         MessageRole = Qt::UserRole, // a Message
-        DayRole,                    // the day as text; empty unless the row is the first one of its day
-        WaitingRole                 // true if the message requires an answer
+        DayRole,    // the day as text; empty unless the row is the first one of its day
+        WaitingRole // true if the message requires an answer
     };
     static const int ROWS_AT_ONCE = 100;
 

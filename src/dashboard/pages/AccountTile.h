@@ -19,11 +19,12 @@ class ShareBar;
 struct TileView {
     QString caption;
     QString value;
-    QString shortValue;       // for the narrow form; empty if it is the same as `value`
-    QString note;             // below the value
-    QString shortNote;        // next to the value, in the narrow form
-    double share = -1;        // the filled part of the bar, 0 to 1; negative if there is no bar
-    bool isValueCode = false; // true if the value is a phone number, which is always displayed from left to right
+    QString shortValue; // for the narrow form; empty if it is the same as `value`
+    QString note;       // below the value
+    QString shortNote;  // next to the value, in the narrow form
+    double share = -1;  // the filled part of the bar, 0 to 1; negative if there is no bar
+    bool isValueCode =
+        false; // true if the value is a phone number, which is always displayed from left to right
 };
 
 /** A tile with a value of the account, the time of the query, and a button. */

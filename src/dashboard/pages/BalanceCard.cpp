@@ -117,7 +117,8 @@ QWidget *BalanceCard::makeButtons()
     for (QPushButton *button : {m_topUp, m_ask, m_show})
         m_buttonRow->addWidget(button);
     m_buttonRow->addStretch(1);
-    m_buttons->setMinimumWidth(1); // otherwise, the minimum would be the width of all buttons; see arrangeButtons()
+    m_buttons->setMinimumWidth(
+        1); // otherwise, the minimum would be the width of all buttons; see arrangeButtons()
     connect(m_topUp, &QPushButton::clicked, this, &BalanceCard::topUpRequested);
     connect(m_ask, &QPushButton::clicked, this, &BalanceCard::askRequested);
     connect(m_show, &QPushButton::clicked, this, &BalanceCard::replyRequested);

@@ -72,9 +72,11 @@ HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *pa
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setCompletionRole(CODE_ROLE);
     m_completer->setMaxVisibleItems(MOST_ROWS);
-    m_completer->setPopup(m_view);                            // the completer takes ownership
-    m_view->setItemDelegate(new QStyledItemDelegate(m_view)); // unlike the default delegate, supports style sheets
-    m_view->installEventFilter(this); // installed after the completer's filter, so that it runs first
+    m_completer->setPopup(m_view); // the completer takes ownership
+    m_view->setItemDelegate(
+        new QStyledItemDelegate(m_view)); // unlike the default delegate, supports style sheets
+    m_view->installEventFilter(
+        this); // installed after the completer's filter, so that it runs first
     connect(m_completer, QOverload<const QModelIndex &>::of(&QCompleter::activated), this,
             &HistoryPopup::choose);
 }

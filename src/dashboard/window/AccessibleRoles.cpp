@@ -15,7 +15,7 @@ namespace Dashboard
 namespace
 {
 
-/** A page tab, which can be pressed. */
+/** The accessible interface of a page tab, which supports the press action. */
 class PageTab : public QAccessibleWidget
 {
 public:
@@ -49,7 +49,8 @@ private:
     NavigationButton *m_button;
 };
 
-/// Returns true for the dashboard's own frames, such as cards. For Qt, they are windows.
+/// Returns true for the dashboard's own frames, such as cards. By default, Qt gives them an
+/// unsuitable role.
 bool isGroup(const QString &className, const QObject *object)
 {
     return className.startsWith(QLatin1String("Dashboard::")) &&

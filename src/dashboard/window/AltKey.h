@@ -8,7 +8,9 @@ class QWidget;
 namespace Dashboard
 {
 
-/** Reports when the user presses and releases Alt without any other key, while a window is active.
+/**
+ * Emits a signal when the user presses and releases Alt without pressing any other key while the
+ * window is active.
  */
 class AltKey : public QObject
 {

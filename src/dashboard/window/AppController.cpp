@@ -22,7 +22,7 @@ namespace
 
 const char DETECT_PAID_TYPE[] = "USSD_DETECT_PAID_TYPE";
 const char SWITCHED_ON[] = "1";
-const int LONGEST_DELAY = 5000; // ms; the longest time that the user may have to wait for a frame
+const int LONGEST_DELAY = 5000; // ms; the maximum time for which opening a frame is delayed
 
 QDateTime ownCodesTime()
 {
@@ -81,8 +81,8 @@ GeneralWindow AppController::pageWindow() const
     return m_pageWindow ? m_pageWindow() : GeneralWindow();
 }
 
-/// Returns true if the prepaid/postpaid query may be sent. A modem may send only a code that
-/// belongs to the SIM's operator, because the same code may buy something in another network.
+/// Returns true if the prepaid/postpaid query may be sent. With a modem, the code must belong to
+/// the SIM's operator, because the same code could trigger a purchase in another network.
 bool AppController::mayDetectPaidType() const
 {
     if (m_device.status().isSimulated)
@@ -105,16 +105,17 @@ void AppController::beginAnew()
     QMetaObject::invokeMethod(this, "beginAnewIfDue", Qt::QueuedConnection);
 }
 
-/// Restarts the plug-in, but not while the user is busy, because the restart deletes the plug-in's
-/// windows.
+/// Restarts the plug-in if necessary. Does nothing while the user is busy, because the restart
+/// deletes the plug-in's windows.
 void AppController::beginAnewIfDue()
 {
     if (m_isRestartDue && m_plugin->isUsable() && !UserActivity::isBusy())
         restartPlugin();
 }
 
-/// Restarts the plug-in if the user has saved the first codes in the editor. If there were no
-/// preset buttons when the plug-in created the window, it does not create any later.
+/// Restarts the plug-in if the user has saved the first codes in the editor. The plug-in creates
+/// preset buttons only together with the general window, so an existing window without buttons
+/// would not show the new codes.
 void AppController::showFirstOwnCodes()
 {
     const bool isWithoutPresets = m_operatorCodes.areAbsent() && !pageWindow().hasPresets();
@@ -132,7 +133,7 @@ PluginFailure AppController::loadPlugin()
 PluginFailure AppController::restartPlugin()
 {
     m_isRestartDue = false;
-    m_windows = 0; // the restart has deleted the plug-in's windows
+    m_windows = 0; // the restart deletes the plug-in's windows
     return startWith(m_plugin->restart());
 }
 
@@ -150,7 +151,7 @@ PluginFailure AppController::startWith(const PluginFailure &failure)
 void AppController::offerWindows(int windows)
 {
     if (m_operatorCodes.areAbsent())
-        windows &= SIM_WINDOW_GENERAL; // the configuration has no services
+        windows &= SIM_WINDOW_GENERAL; // the configuration does not contain services
     m_windows = windows;
     m_awaitedFrame = PAID_TYPE_NONE;
     emit windowsOffered();

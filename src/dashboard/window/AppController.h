@@ -23,9 +23,9 @@ class DashboardSettings;
 class LoadedPlugin;
 
 /**
- * The parts of the dashboard that have no widgets: the device and its choice, the plug-in and its
- * restarts, the operator's codes, and the language. All functions must be called from the GUI
- * thread.
+ * Controls everything in the dashboard that is not a widget: selecting the device, loading and
+ * restarting the plug-in, the operator's codes, and the language. All functions must be called from
+ * the GUI thread.
  */
 class AppController : public QObject
 {
@@ -35,7 +35,7 @@ public:
     AppController(LoadedPlugin *plugin, DashboardSettings *settings, QObject *parent = nullptr);
 
     LoadedPlugin *plugin() const { return m_plugin; }
-    /// Returns null if nothing is stored.
+    /// Returns the settings, or null if settings are not stored.
     DashboardSettings *settings() const { return m_settings; }
     DeviceWatcher &device() { return m_device; }
     const DeviceWatcher &device() const { return m_device; }
@@ -45,8 +45,7 @@ public:
     const SimFollower &sim() const { return m_sim; }
     CommandMonitor &monitor() { return m_monitor; }
 
-    /// Sets the function that returns the general window of the page. The function may return an
-    /// incomplete window.
+    /// Sets the function that returns the embedded general window, which may be incomplete.
     void setPageWindow(const std::function<GeneralWindow()> &window) { m_pageWindow = window; }
     GeneralWindow pageWindow() const;
 
@@ -54,21 +53,21 @@ public:
     /// Makes the SDK use the device and returns an empty string. If the device cannot be used,
     /// keeps the previous device and returns the error.
     QString useDevice(const DeviceChoice &choice);
-    /// Like useDevice(), and remembers the choice.
+    /// Like useDevice(), but also stores the choice in the settings.
     QString chooseDevice(const DeviceChoice &choice);
-    /// Records that this device is in use.
+    /// Records that this device is already in use.
     void setDevice(const DeviceChoice &choice);
 
     /// Returns the windows that are offered for the SIM, as a combination of SimWindow flags.
     int windows() const { return m_windows; }
     bool isDetectionOn() const { return m_isDetectionOn; }
-    /// Permits or forbids the prepaid/postpaid query and remembers the decision.
+    /// Enables or disables the prepaid/postpaid query and stores the decision in the settings.
     void setDetection(bool isOn);
-    /// Selects the language and remembers it. Returns false and emits problem() if the language
-    /// cannot be used.
+    /// Selects the language and stores it in the settings. Returns false and emits problem() if the
+    /// language cannot be used.
     bool setLanguage(const QString &code);
 
-    /// Starts to report network-initiated messages, including those that arrived before.
+    /// Starts reporting network-initiated messages, including those that have already arrived.
     void start();
 
 public slots:
@@ -78,8 +77,8 @@ public slots:
     PluginFailure restartPlugin();
     /// Restarts the plug-in as soon as the user is not busy.
     void beginAnew();
-    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. Waits a short time if
-    /// opening the frame would cancel the prepaid/postpaid query.
+    /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame. If this would cancel the
+    /// prepaid/postpaid query, the frame opens after a short delay.
     void openFrame(int paidType);
 
 signals:
@@ -90,7 +89,7 @@ signals:
     void windowsOffered();
     void paidTypeChanged();
     void frameOpened();
-    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in the frame.
+    /// Emitted when a frame of the plug-in was closed, in which the user may have saved codes.
     void frameClosed();
     void commandEnded();
     /// Emitted when a network-initiated message has arrived.
@@ -125,8 +124,8 @@ private:
     DeviceChoice m_choice;
     bool m_isDetectionOn = false; // true if the prepaid/postpaid query is enabled
     bool m_isRestartDue = false;  // the plug-in's folder has changed since the plug-in read it
-    QDateTime m_ownCodesTime;     // modification time of the user's codes when they were read
-    int m_windows = 0;            // a combination of SimWindow flags
+    QDateTime m_ownCodesTime; // the modification time of the user's codes when they were last read
+    int m_windows = 0;        // a combination of SimWindow flags
     int m_awaitedFrame;
     QTimer m_frameDelay;
 };

@@ -15,7 +15,8 @@ namespace Dashboard
 namespace
 {
 
-const double LARGEST_SCALE = 1.3; // above it, the window of codes is larger than its fixed size
+const double LARGEST_SCALE =
+    1.3; // above this scale, the general window does not fit into its fixed frame size
 
 } // namespace
 

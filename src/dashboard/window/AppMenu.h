@@ -12,8 +12,8 @@ class DeviceMenu;
 class LanguageMenu;
 
 /**
- * The menu of the main window. A hidden menu bar contains the same actions for desktops that show
- * menus elsewhere.
+ * The menu of the main window. fill() adds the same actions to a hidden menu bar, for desktops that
+ * show the menu bar outside the window.
  */
 class AppMenu : public QMenu
 {
@@ -26,10 +26,10 @@ public:
 
     /// Adds the actions to a menu bar.
     void fill(QMenuBar *bar);
-    /// Offers the windows for the SIM, a combination of SimWindow flags. The window of codes needs
-    /// more space than there is with large text.
+    /// Offers the windows for the SIM, which are a combination of SimWindow flags. The general
+    /// window is not offered if the text is too large for its frame.
     void offer(int windows);
-    /// Shows the description of the SIM at the beginning of the menu. An empty string hides it.
+    /// Sets the description of the SIM at the top of the menu. An empty string hides it.
     void setSim(const QString &text, bool isEyeShown);
     /// Updates the strings after a language change.
     void retranslate();

@@ -79,7 +79,7 @@ void Banners::setSuppressed(bool isSuppressed)
     refresh();
 }
 
-// In the narrow form, the buttons do not fit beside the text.
+// In the narrow form, the buttons are below the text, because they do not fit next to it.
 void Banners::layOut()
 {
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))

@@ -11,7 +11,7 @@ class QGridLayout;
 namespace Dashboard
 {
 
-/** A banner: a title, a text and at most two buttons. */
+/** The content of a banner: a title, a text and at most two buttons. */
 struct Banner {
     QString title; // an empty title means that there is no banner
     QString text;
@@ -20,13 +20,14 @@ struct Banner {
 };
 
 /**
- * The place under the header that shows at most one banner, the first one that has a title.
+ * The area below the header that shows one banner: the first one in the order of Kind that has a
+ * title.
  */
 class Banners : public QFrame
 {
     Q_OBJECT
 public:
-    /// The kinds of banners, in the order of their importance.
+    /// The kinds of banners. If there are several banners, the first one is shown.
     enum Kind { Demonstration, Operator, Problem, Restore };
 
     explicit Banners(QWidget *parent = nullptr);

@@ -16,7 +16,7 @@ namespace Dashboard
 namespace
 {
 
-const char NUMBER[] = "%s"; // the place for a number in a code
+const char NUMBER[] = "%s"; // the placeholder for a number in a code
 
 QString historyFile(const AppController *controller)
 {
@@ -49,7 +49,7 @@ CodesSetup::CodesSetup(AppController *controller, AppActions *actions, QObject *
     followSettings();
 }
 
-/// Returns the codes with names. The place for a number is shown as an ellipsis.
+/// Returns the codes with their names. Placeholders for numbers are replaced with an ellipsis.
 QList<CodeName> CodesSetup::names() const
 {
     QList<CodeName> names;

@@ -14,7 +14,10 @@ class CodesPage;
 struct CodeName;
 struct PluginFailure;
 
-/** The page of codes with its history, which follow the plug-in, the codes and the settings. */
+/**
+ * Creates the page Codes and its history, and updates them when the plug-in, the codes or the
+ * settings change.
+ */
 class CodesSetup : public QObject
 {
     Q_OBJECT
@@ -22,11 +25,11 @@ public:
     /// All arguments must outlive this object.
     CodesSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
 
-    /// Returns the page. The caller becomes its owner by giving it a parent.
+    /// Returns the page, which the caller must give a parent.
     CodesPage *page() const { return m_page; }
 
 public slots:
-    /// Reads the settings again.
+    /// Applies changed settings.
     void followSettings();
     void retranslate();
     /// Deletes the history.

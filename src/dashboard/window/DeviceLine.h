@@ -8,7 +8,10 @@ namespace Dashboard
 
 class StatusDot;
 
-/** The foot of the side bar: the state of the device and the name of the modem. */
+/**
+ * The button at the bottom of the side bar that shows the state of the device and the name of the
+ * modem.
+ */
 class DeviceLine : public QPushButton
 {
     Q_OBJECT

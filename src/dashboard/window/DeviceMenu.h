@@ -21,8 +21,8 @@ class DeviceMenu : public QMenu
 public:
     explicit DeviceMenu(QWidget *parent = nullptr);
 
-    /// Sets the current choice and the modems to list. An open menu does not change until the user
-    /// opens it again, so that menu items do not move under the mouse pointer.
+    /// Sets the current choice and the modems to list. If the menu is open, the change takes effect
+    /// when the user opens it again, so that menu items do not move under the mouse pointer.
     void offer(const DeviceChoice &choice, const QList<Modem> &modems);
     const DeviceChoice &choice() const { return m_choice; }
 

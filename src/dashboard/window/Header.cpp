@@ -20,7 +20,7 @@ const int NARROW_HEIGHT = 60;
 const int SHOWN_DIGITS = 4;
 const int NUMBER_TIME = 10000; // ms
 
-// Columns of the wide form. Those of the narrow form are the first ones and those of the buttons.
+// The columns in the wide form. The narrow form uses only the first ones and those of the buttons.
 enum Column { Operator, Kind, Bars, Signal, Gap, SimIcon, Sim, Eye, Bell, Menu };
 
 template <typename T>
@@ -121,7 +121,8 @@ void Header::showContent(const HeaderContent &content)
     m_content = content;
     const bool isNarrow = m_form == Form::Narrow;
     m_operator->setText(content.title);
-    const bool isOperator = content.signalPercent >= 0; // otherwise, the title is a state
+    const bool isOperator =
+        content.signalPercent >= 0; // otherwise, the title is the situation of the device
     m_operator->setAccessibleName(isOperator ? dashboardText("HEADER_OPERATOR").arg(content.title)
                                              : content.title);
     m_chip->setText(content.chip);

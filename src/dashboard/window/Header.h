@@ -16,13 +16,13 @@ class SignalBars;
 class StatusDot;
 struct DeviceStatus;
 
-/** What the header shows. */
+/** The content of the header. */
 struct HeaderContent {
     QString title; // the operator, or the title of the situation
     QString chip;  // the type of contract or "Demonstration"; may be empty
     bool isDemonstration = false;
     int signalPercent = -1;
-    QString simNumber; // empty if it is unknown
+    QString simNumber; // empty if unknown
     Tone tone = Tone::Ok;
 };
 
@@ -68,7 +68,7 @@ private:
     QGridLayout *m_grid;
     ElidedLabel *m_operator;
     Chip *m_chip;
-    QLabel *m_kind; // takes the place of the chip in the narrow form
+    QLabel *m_kind; // replaces the chip in the narrow form
     SignalBars *m_bars;
     QLabel *m_signal;
     IconView *m_simIcon;
@@ -77,7 +77,7 @@ private:
     QPushButton *m_bell;
     QPushButton *m_menu;
     StatusDot *m_dot;
-    QTimer m_numberTimer; // runs while the number is shown
+    QTimer m_numberTimer; // active while the number is shown
     HeaderContent m_content;
     Form m_form = Form::Wide;
     bool m_hidesNumber = true;

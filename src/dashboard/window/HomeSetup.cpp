@@ -22,7 +22,7 @@ namespace
 const int SHOWN_DIGITS = 4;
 const char DEMONSTRATION[] = "demonstration";
 
-/// Returns the type of contract to which the offered account window belongs.
+/// Returns the type of contract of the account window that is offered.
 PaidType paidTypeOf(int windows)
 {
     const int account = windows & (SIM_WINDOW_PREPAID | SIM_WINDOW_POSTPAID);
@@ -48,7 +48,8 @@ HomePage *makePage(HomePage::Parts parts, AccountStore *store, AccountRecorder *
     return new HomePage(parts);
 }
 
-/// Returns the file if the program stores anything at all.
+/// Returns the file name, or an empty string if the controller does not have settings and nothing
+/// is stored.
 QString fileIfStored(const AppController *controller, const QString &file)
 {
     return controller->settings() ? file : QString();

@@ -15,7 +15,10 @@ class AppActions;
 class AppController;
 class HomePage;
 
-/** The account data and the front page, which follow the SIM, the codes and the settings. */
+/**
+ * Creates the account data and the page Home, and updates them when the SIM, the codes or the
+ * settings change.
+ */
 class HomeSetup : public QObject
 {
     Q_OBJECT
@@ -23,18 +26,18 @@ public:
     /// All arguments must outlive this object.
     HomeSetup(AppController *controller, AppActions *actions, QObject *parent = nullptr);
 
-    /// Returns the page. The caller becomes its owner by giving it a parent.
+    /// Returns the page, which the caller must give a parent.
     HomePage *page() const { return m_page; }
     AccountStore &store() { return m_store; }
     AccountRecorder &recorder() { return m_recorder; }
     void setSituation(const Situation &situation);
 
 public slots:
-    /// Reads the SIM and the settings again.
+    /// Applies the current SIM and the current settings.
     void followSim();
     /// Reads the codes of the plug-in's files again.
     void readCodes();
-    /// Saves the entries to a file that the user selects.
+    /// Exports the entries to a file that the user selects.
     void exportAccount();
 
 private:

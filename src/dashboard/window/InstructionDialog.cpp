@@ -30,7 +30,7 @@ QLabel *makeText(const char *type, const char *name, const QString &text, QWidge
     return label;
 }
 
-/// Returns the wanted width, or less on a small screen.
+/// Returns the width of the dialog, which is smaller on a small screen.
 int widthOn(const QScreen *screen)
 {
     const int wanted = Look::instance().px(WIDTH);

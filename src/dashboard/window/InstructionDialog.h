@@ -11,7 +11,7 @@ namespace Dashboard
 
 struct Instruction;
 
-/** Shows instructions that the user follows outside the program, with a command to copy. */
+/** Shows instructions for solving a problem outside the program, with a command to copy. */
 class InstructionDialog : public QDialog
 {
     Q_OBJECT

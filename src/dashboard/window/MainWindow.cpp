@@ -46,7 +46,7 @@ bool isFrame(const QObject *object)
     return qobject_cast<const ExtendDialog *>(object);
 }
 
-/// Returns true if the SIM can be used, so that the operator is known.
+/// Returns true if the operator is known in a situation of this kind.
 bool hasOperator(Situation::Kind kind)
 {
     return kind == Situation::Kind::Ready || kind == Situation::Kind::CodesUnknown ||
@@ -59,8 +59,8 @@ bool isAbsent(Situation::Kind kind)
            kind == Situation::Kind::ModemRemoved;
 }
 
-// A widget keeps the role that it has when a screen reader first hears of it, which may be while
-// the widget is constructed.
+// Installs the accessible roles first, because the role of a widget does not change after a screen
+// reader has queried it, which may happen while the widget is being constructed.
 QWidget *makeRoot(QWidget *window)
 {
     installAccessibleRoles();
@@ -156,7 +156,7 @@ void MainWindow::followMessages()
     m_controller.start();
 }
 
-/// Shows the newest message on the front page if it is unread or waits for an answer.
+/// Shows the newest message on the page Home if it is unread or requires an answer.
 void MainWindow::showNewestMessage()
 {
     MessageStore &store = m_messages->store();
@@ -173,7 +173,7 @@ void MainWindow::showNewestMessage()
     m_home->page()->setMessage(shown);
 }
 
-/// Shows the message in its page.
+/// Opens the message on the page Messages.
 void MainWindow::openMessage(qint64 id)
 {
     raiseAgain();
@@ -220,7 +220,7 @@ PluginFailure MainWindow::restartPlugin()
 void MainWindow::setLanguage(const QString &code)
 {
     if (!m_controller.setLanguage(code))
-        m_menu->languageMenu()->retranslate(); // resets the check mark to the current language
+        m_menu->languageMenu()->retranslate(); // restores the check mark of the current language
 }
 
 void MainWindow::retranslate()
@@ -269,7 +269,7 @@ void MainWindow::showDevice()
     showFirstRun();
 }
 
-/// Returns the choice of the device, for example "Automatic".
+/// Returns the text for the selected device, for example "Automatic".
 QString MainWindow::choiceText() const
 {
     const DeviceChoice &choice = m_controller.choice();
@@ -420,8 +420,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
-// Dims the window while a window of the plug-in is open. The event is sent before the frame is
-// visible or hidden, so the state is read afterwards.
+// Dims the main window while a window of the plug-in is open. The state of the frame is checked
+// later, because it has not changed yet when the event is sent.
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isShown = event->type() == QEvent::Show;

@@ -33,8 +33,8 @@ class SettingsPage;
 struct Situation;
 
 /**
- * The main window of the dashboard: header, navigation, banner and pages. The form of the window
- * depends on its width in em. The widgets stay the same in every form.
+ * The main window of the dashboard with header, navigation, banner and pages. The form of the
+ * window depends on its width in em. All forms use the same widgets.
  */
 class MainWindow : public QMainWindow, public AppActions
 {
@@ -45,14 +45,15 @@ public:
     MainWindow(LoadedPlugin *plugin, DashboardSettings *settings);
     ~MainWindow() override;
 
-    /// Selects the simulated network of the scenario file. An empty name selects the default
-    /// network. On failure, shows an error, keeps the previous device and returns false.
+    /// Selects the simulated network of the scenario file, or the default network if `file` is
+    /// empty. On failure, shows an error, keeps the previous device and returns false.
     bool useScenario(const QString &file);
-    /// Shows that this device is selected. The device must already be in use.
+    /// Shows that this device is selected. Must be called only if the device is already in use.
     void setDevice(const DeviceChoice &choice);
     /// Shows a message box with the reason why a scenario file cannot be used.
     void showScenarioError(const QString &error);
-    /// Sets the object whose offers are shown in a banner. It must outlive the window.
+    /// Sets the object whose offers to restore codes are shown in a banner. `profiles` must outlive
+    /// the window.
     void setProfiles(ProfileKeeper *profiles);
 
     /// Returns the parent of the plug-in's embedded general window.
@@ -85,9 +86,9 @@ public slots:
     /// Restarts the plug-in, so that it reloads its configuration.
     PluginFailure restartPlugin();
     void setLanguage(const QString &code);
-    /// Closes the window and ends the program, even if a frame or a message box is open.
+    /// Closes the window and quits the program, even if a frame or a message box is open.
     void quit();
-    /// Brings the window to the front.
+    /// Raises and activates the window.
     void raiseAgain();
     /// Opens a window of the plug-in (a PAID_TYPE) in a separate frame.
     void openFrame(int paidType);
@@ -95,7 +96,7 @@ public slots:
     void showMenu();
 
 signals:
-    /// Emitted when a frame of the plug-in was closed. The user may have saved codes in the frame.
+    /// Emitted when a frame of the plug-in was closed, in which the user may have saved codes.
     void frameClosed();
 
 protected:

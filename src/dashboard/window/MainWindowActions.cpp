@@ -1,4 +1,4 @@
-/* The part of MainWindow that carries out what the user and the pages request. */
+/* Implements the actions of MainWindow that the user and the pages request. */
 #include <QApplication>
 #include <QFileDialog>
 #include <QMenuBar>
@@ -62,7 +62,8 @@ void MainWindow::makeMenu()
     for (QAction *action : m_menu->actions()) {
         if (action->shortcut().isEmpty())
             continue;
-        addAction(action); // the shortcut of an action in a hidden menu bar is not active
+        addAction(
+            action); // otherwise, the shortcut would be inactive, because the menu bar is hidden
         new ShortcutPriority(action->shortcut(), this);
     }
     connect(m_menu, &AppMenu::windowRequested, this, &MainWindow::openFrame);
@@ -128,7 +129,7 @@ void MainWindow::focusPage()
 void MainWindow::showMenu()
 {
     QWidget *button = m_header->menuButton();
-    m_menu->ensurePolished(); // the style sheet changes the size of the menu
+    m_menu->ensurePolished(); // applies the style sheet, which changes the size of the menu
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     const QPoint below =
         isMirrored ? QPoint(0, button->height())
@@ -178,7 +179,7 @@ void MainWindow::raiseAgain()
     show();
     raise();
     activateWindow();
-    QApplication::alert(this); // where the desktop keeps the window behind
+    QApplication::alert(this); // for desktops that do not raise the window
 }
 
 void MainWindow::openFrame(int paidType)
@@ -207,7 +208,7 @@ void MainWindow::topUp()
         field->setFocus(Qt::ShortcutFocusReason);
 }
 
-/// Opens the account window with the focus in the field for the PIN of a voucher.
+/// Opens the account window and moves the focus to the field for the voucher PIN.
 void MainWindow::openTopUpWindow()
 {
     openAccountWindow();

@@ -1,4 +1,4 @@
-/* The part of MainWindow that arranges its widgets. */
+/* Implements the layout of MainWindow. */
 #include <QApplication>
 #include <QGridLayout>
 #include <QScreen>
@@ -49,8 +49,8 @@ Form formOf(int width)
     return width >= MEDIUM_FROM * em ? Form::Medium : Form::Narrow;
 }
 
-/// Makes Qt ask for all sizes again. It keeps the former sizes of the parts of hidden pages, and
-/// the window could not become smaller than those.
+/// Invalidates the size hints of all layouts. For hidden pages, Qt keeps the old size hints, so the
+/// window could not become smaller than these.
 void forgetSizes(QWidget *root)
 {
     for (QLayout *layout : root->findChildren<QLayout *>()) {
@@ -163,7 +163,8 @@ void MainWindow::applyForm()
     forgetSizes(m_root);
 }
 
-// The form stays while a frame of the plug-in is open, because the frame is placed over the window.
+// Updates the form, unless a frame of the plug-in is open, because its position depends on the
+// layout of the window.
 void MainWindow::updateForm()
 {
     const Form form = formOf(width());

@@ -13,7 +13,7 @@ namespace Dashboard
 
 class AppController;
 
-/** The objects that receive, store and announce the messages of the network. */
+/** Creates and connects the objects that receive, store and announce network-initiated messages. */
 class MessageParts : public QObject
 {
     Q_OBJECT

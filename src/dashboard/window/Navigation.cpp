@@ -18,7 +18,7 @@ const int SIDE_WIDTH = 216;
 const int RAIL_WIDTH = 72;
 const int BAR_HEIGHT = 64;
 const int LOGO = 32;
-const int MOST_UNREAD = 99; // more are shown as "99+"
+const int MOST_UNREAD = 99; // larger numbers are shown as "99+"
 
 struct Entry {
     PageId page;
@@ -105,7 +105,8 @@ void Navigation::setForm(Form form)
     layOut();
 }
 
-// The buttons stay, so that the focus stays.
+// Arranges the existing buttons for the current form. The buttons are not created again, so that
+// the focus is preserved.
 void Navigation::layOut()
 {
     delete m_box;

@@ -14,7 +14,7 @@ namespace Dashboard
 
 class DeviceLine;
 
-/** A button of the navigation. For screen readers, it is a page tab. */
+/** A button of the navigation, which has the role of a page tab for screen readers. */
 class NavigationButton : public LabelledButton
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
 };
 
 /**
- * The navigation between the pages. It is a side bar in the wide form, a rail of icons in the
- * medium form and a bar at the bottom in the narrow form.
+ * The navigation between the pages: a side bar in the wide form, a bar of icons in the medium form,
+ * and a bar at the bottom in the narrow form.
  */
 class Navigation : public QFrame
 {

@@ -16,7 +16,7 @@ namespace Dashboard
 OperatorChooser::OperatorChooser(OperatorCodes *codes, QWidget *window)
     : QObject(window), m_codes(codes), m_window(window)
 {
-    // The connection is queued, because reading the database takes some time.
+    // The connection is queued, because reading the operator database takes some time.
     connect(codes, &OperatorCodes::networkChanged, this, &OperatorChooser::propose,
             Qt::QueuedConnection);
 }
@@ -103,7 +103,7 @@ void OperatorChooser::choose()
     connect(m_dialog.data(), &QDialog::accepted, this, [this] {
         const bool isOperator = m_dialog->choosesOperator();
         const Provider provider = m_dialog->provider();
-        // Called after the dialog has been closed.
+        // Must be called after the dialog has been closed.
         QTimer::singleShot(0, this,
                            [this, isOperator, provider] { useChosen(isOperator, provider); });
     });

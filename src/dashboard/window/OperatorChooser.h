@@ -15,17 +15,17 @@ class OperatorCodes;
 class OperatorDialog;
 
 /**
- * Suggests an operator's codes, once for each home network of a SIM, and lets the user change the
- * decision later.
+ * Suggests an operator's codes once for each home network, and lets the user change the decision
+ * later.
  */
 class OperatorChooser : public QObject
 {
     Q_OBJECT
 public:
-    /// Both arguments must outlive the chooser. The dialogs open over `window`.
+    /// `window` is the parent of the dialogs. Both arguments must outlive this object.
     OperatorChooser(OperatorCodes *codes, QWidget *window);
 
-    /// Returns true if the user has to decide whose codes to use.
+    /// Returns true if the user has to decide which operator's codes to use.
     bool isProposing() const { return m_state != Nothing; }
     /// Returns the suggestion, or an empty string if there is none.
     QString proposal() const;
@@ -35,13 +35,15 @@ public:
 public slots:
     /// Suggests codes unless the user has already decided for this SIM's network.
     void propose();
-    /// Uses the only operator that fits, or lets the user choose.
+    /// Uses the codes of the matching operator. If there are several, opens the dialog in which the
+    /// user selects one.
     void accept();
     /// Records that no operator is to be used for this SIM's network.
     void decline();
     /// Opens the dialog in which the user selects an operator.
     void choose();
-    /// Uses the operator's codes. If this would replace files that were edited by hand, asks first.
+    /// Uses the operator's codes. Requests confirmation if this would replace manually edited
+    /// files.
     void take(const Provisioning::Provider &provider);
     /// Updates the strings after a language change.
     void retranslate();

@@ -13,7 +13,7 @@ namespace Dashboard
 {
 
 /**
- * The dialog in which the user selects an operator, whose codes are then used, or no operator.
+ * The dialog in which the user selects the operator whose codes are used, or no operator.
  */
 class OperatorDialog : public QDialog
 {
@@ -41,7 +41,7 @@ private slots:
 private:
     void layOut();
     void select(const QString &current);
-    int selectedRow() const; // returns -1 if no row is selected
+    int selectedRow() const; // -1 if no row is selected
 
     const QString m_network;
     const QList<Provisioning::Provider> m_candidates;

@@ -33,7 +33,7 @@ QLabel *makeText(const char *type, const char *name, QWidget *parent)
 }
 
 /// Overwrites the memory of the string. The string must not be implicitly shared with another
-/// QString. Otherwise, only a copy would be overwritten.
+/// QString, because only a copy would then be overwritten.
 void writeOver(QString *secret)
 {
     secret->fill(QLatin1Char('0'));

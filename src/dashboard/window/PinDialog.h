@@ -15,10 +15,10 @@ class Chip;
 class DeviceWatcher;
 
 /**
- * Requests the PIN of a locked SIM. The dialog stays open after a wrong PIN and closes when the SIM
- * no longer waits for a PIN. The PIN is not stored. The user can show it while typing. When the
- * dialog has sent the PIN and when it closes, it clears the input field and overwrites the memory
- * that contained the PIN. All functions must be called from the GUI thread.
+ * The dialog in which the user enters the PIN of a locked SIM. It stays open after a wrong PIN and
+ * closes when the SIM no longer requires a PIN. The PIN is not stored. When the dialog has sent the
+ * PIN and when it closes, it clears the input field and overwrites the memory that contained the
+ * PIN. All functions must be called from the GUI thread.
  */
 class PinDialog : public QDialog
 {

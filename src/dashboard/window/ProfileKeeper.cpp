@@ -36,8 +36,8 @@ void ProfileKeeper::setOffer(Offer offer)
     emit offerChanged();
 }
 
-// A copy that is offered would be lost if the codes that the user saves in the meantime replaced
-// it.
+// Does not update the copy while it is offered, because the codes that the user saves in the
+// meantime would replace it.
 void ProfileKeeper::refresh()
 {
     if (m_offer == Nothing && !m_backup.refresh() && m_backup.isOutdated())

@@ -57,7 +57,8 @@ QuestionDialog::QuestionDialog(CommandMonitor *monitor, QWidget *mainWindow)
       m_later(makeButton("", this))
 {
     setObjectName(QLatin1String("Dashboard_QuestionDialog"));
-    // The dialog gets the input although another modal window is open, because it is newer.
+    // The dialog receives input events even though another modal window is open, because it is
+    // opened later.
     setWindowModality(Qt::ApplicationModal);
     m_later->setObjectName(QLatin1String("Dashboard_QuestionLater"));
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -101,8 +102,8 @@ void QuestionDialog::layOut()
     m_title->setMinimumWidth(Look::instance().px(WIDTH - 120));
 }
 
-/// Returns true if the network waits for an answer and a frame hides the place to type it. A
-/// general window in a frame has a field of its own.
+/// Returns true if the network expects an answer and the user cannot enter it because of a modal
+/// frame. If the frame contains the general window, the user can enter the answer there.
 bool QuestionDialog::isWanted() const
 {
     const CommandState &state = m_monitor->state();
@@ -134,7 +135,7 @@ void QuestionDialog::showQuestion()
     if (isVisible())
         return;
     QWidget *frame = openFrame();
-    winId(); // creates the window, so that it gets its parent before it is shown
+    winId(); // creates the native window, so that its parent can be set before it is shown
     windowHandle()->setTransientParent(frame->windowHandle());
     adjustSize();
     show();
@@ -144,7 +145,7 @@ void QuestionDialog::showQuestion()
     m_answers->field()->setFocus();
 }
 
-/// Puts the question off. It stays open on the page of codes.
+/// Closes the dialog without an answer. The menu stays open on the page Codes.
 void QuestionDialog::reject()
 {
     m_isPutOff = true;

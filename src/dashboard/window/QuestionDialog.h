@@ -13,10 +13,10 @@ class AnswerBox;
 class CommandMonitor;
 
 /**
- * Shows the open menu of the network above a modal window of the plug-in, which covers the page of
- * codes. The dialog appears when the network starts to wait for an answer while such a window is
- * open, and disappears when the answer was sent, the menu has ended or the window was closed. The
- * user can put it off. All functions must be called from the GUI thread.
+ * Shows an open menu of the network above a modal window of the plug-in, which blocks the page
+ * Codes. The dialog opens when the network requests an answer while such a window is open. It
+ * closes when the answer has been sent, the menu has ended or the window has been closed. The user
+ * can postpone the answer. All functions must be called from the GUI thread.
  */
 class QuestionDialog : public QDialog
 {
@@ -28,7 +28,8 @@ public:
     AnswerBox *answerBox() const { return m_answers; }
 
 public slots:
-    /// Shows or hides the dialog. Must be called when a window of the plug-in was opened or closed.
+    /// Shows or hides the dialog as required. Must be called when a window of the plug-in was
+    /// opened or closed.
     void look();
     void retranslate();
 
@@ -46,8 +47,8 @@ private:
     QLabel *m_text;
     AnswerBox *m_answers;
     QPushButton *m_later;
-    bool m_isPutOff = false; // the user has closed the dialog for the current menu
-    QString m_menu;          // the menu that is shown or was put off
+    bool m_isPutOff = false; // true if the user has closed the dialog for the current menu
+    QString m_menu;          // the menu that is shown or postponed
 };
 
 } // namespace Dashboard

@@ -29,8 +29,8 @@ int RegionCycle::regionOf(const QWidget *widget) const
     return found;
 }
 
-/// Returns the first widget of the region that takes the focus, in the order of the Tab key. The
-/// widgets of a smaller region inside it do not count.
+/// Returns the first widget of the region that accepts the focus, in the tab order. Widgets of
+/// smaller regions inside the region are skipped.
 QWidget *RegionCycle::firstIn(int index) const
 {
     QWidget *const region = m_regions.at(index)();

@@ -11,13 +11,14 @@ namespace Dashboard
 {
 
 /**
- * Moves the focus between the regions of a window, as F6 does. A region that cannot take the focus
- * is skipped.
+ * Moves the focus between the regions of a window, for the keys F6 and Shift+F6. Regions that do
+ * not accept the focus are skipped.
  */
 class RegionCycle
 {
 public:
-    /// A function that returns the current widget of the region, or null.
+    /// A function that returns the widget of the region, or null if the region does not exist at
+    /// present.
     using Region = std::function<QWidget *()>;
 
     void add(const Region &region) { m_regions << region; }

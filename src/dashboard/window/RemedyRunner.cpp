@@ -71,7 +71,8 @@ void RemedyRunner::askForPin()
     CommonUtils::MoveCentre(m_pinDialog);
 }
 
-/// Starts the demonstration without remembering it, so that the next start uses the modem again.
+/// Starts the demonstration without storing this choice, so that the dashboard uses the modem again
+/// at the next start.
 void RemedyRunner::tryDemonstration()
 {
     const QString error = m_controller->useDevice(DeviceChoice::simulated(QString()));
@@ -79,8 +80,8 @@ void RemedyRunner::tryDemonstration()
         emit deviceFailed(error);
 }
 
-/// Uses the modem that the user has selected, or the first one. The automatic choice is a simulated
-/// network if the environment names one.
+/// Uses the modem that the user has selected, or the first modem if there is no selection or if the
+/// automatic choice is a simulated network that the environment specifies.
 void RemedyRunner::useMyModem()
 {
     const DashboardSettings *settings = m_controller->settings();
@@ -94,8 +95,8 @@ void RemedyRunner::useMyModem()
         emit deviceFailed(error);
 }
 
-/// Ends the session of the other program only after a question, because that program may be buying
-/// something.
+/// Requests confirmation before it ends the session of the other program, because that program may
+/// be making a purchase.
 void RemedyRunner::askToEndForeignSession()
 {
     if (m_question)

@@ -16,8 +16,8 @@ class AppController;
 class PinDialog;
 
 /**
- * Carries out the remedies that a situation offers. Remedies that belong to other parts of the main
- * window are emitted as signals. All functions return immediately.
+ * Executes the remedies of a situation. Remedies that other parts of the main window implement are
+ * emitted as signals. All functions return immediately.
  */
 class RemedyRunner : public QObject
 {
@@ -32,10 +32,10 @@ public slots:
     void retranslate();
 
 signals:
-    /// Emitted when the menu with the modems is to be shown.
+    /// Emitted when the Modem menu is to be opened.
     void modemMenuRequested();
     void operatorRequested();
-    /// Emitted when the page of codes is to be shown with the focus in the code field.
+    /// Emitted when the page Codes is to be opened with the focus in the command field.
     void typingRequested();
     /// Emitted with the error message if a device cannot be used.
     void deviceFailed(const QString &error);

@@ -25,7 +25,7 @@ private:
     void step();
 
     QTimer m_fade;
-    int m_steps = 0; // the steps of the fade that are done
+    int m_steps = 0; // the number of completed steps of the fade
 };
 
 } // namespace Dashboard

@@ -13,7 +13,8 @@ ShortcutPriority::ShortcutPriority(const QKeySequence &key, QWidget *window)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-/// Keeps the event from a field that would accept it, and with it the key.
+/// Discards the ShortcutOverride event, which a field would accept in order to handle the key
+/// itself.
 bool ShortcutPriority::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::ShortcutOverride || !watched->isWidgetType() ||

@@ -10,8 +10,8 @@ namespace Dashboard
 {
 
 /**
- * Gives a shortcut of a window priority over the editing keys of its fields. On X11, for example, a
- * line edit takes Ctrl+E, which moves its cursor to the end.
+ * Gives a shortcut of a window precedence over the editing keys of its fields. On X11, for example,
+ * a line edit uses Ctrl+E to move the cursor to the end.
  */
 class ShortcutPriority : public QObject
 {

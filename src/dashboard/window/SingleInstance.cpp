@@ -24,7 +24,8 @@ const char REQUEST = 'r';
 const char ANSWER = 'a';
 const int BACKLOG = 8;
 
-/// Returns an address in the abstract name space, which belongs to no file.
+/// Creates a socket address in the abstract namespace, which does not require a file. Returns its
+/// size.
 socklen_t makeAddress(const QByteArray &name, sockaddr_un *address)
 {
     const QByteArray full = PREFIX + name;
@@ -40,8 +41,8 @@ int makeSocket()
     return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 }
 
-/// Returns true if the process at the other end belongs to the same user. Every user may use any
-/// name in the abstract name space.
+/// Returns true if the process at the other end belongs to the same user. This must be checked,
+/// because every user may use any name in the abstract namespace.
 bool isOfSameUser(int socket)
 {
     ucred peer = {};
@@ -87,7 +88,8 @@ QByteArray SingleInstance::sessionName(const QString &settingsFile)
     return QCryptographicHash::hash(session, QCryptographicHash::Sha256).toHex().left(32);
 }
 
-// Only one process can bind the name, so there is no moment in which two instances are the first.
+// Binding the name is atomic: even if several instances start at the same time, only one of them
+// succeeds.
 void SingleInstance::start()
 {
     const int listener = makeSocket();
@@ -127,7 +129,7 @@ bool SingleInstance::askFirst(int socket) const
     return waitToRead(socket, ANSWER_LIMIT) && recv(socket, &answer, 1, 0) == 1 && answer == ANSWER;
 }
 
-// The request is sent before the notifier reports the connection, so it is not waited for.
+// Does not wait for the request, because the other instance sends it as soon as it is connected.
 void SingleInstance::answer()
 {
     const int client = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);

@@ -10,17 +10,17 @@ namespace Dashboard
 {
 
 /**
- * Makes sure that a user has only one window of the program on each display. The first instance
- * listens on an abstract socket, which the system removes when the process ends. A later instance
- * asks the first one to raise its window. Nothing here waits longer than ANSWER_LIMIT: an instance
- * that gets no answer runs on its own.
+ * Ensures that each user has only one window of the program on each display. The first instance
+ * listens on an abstract socket, which the system removes when the process ends. Later instances
+ * request the first one to raise its window. If it does not answer within ANSWER_LIMIT, they open
+ * their own windows.
  */
 class SingleInstance : public QObject
 {
     Q_OBJECT
 public:
     enum Role {
-        First, // no other instance runs, or the other one does not answer
+        First, // there is no other instance, or it does not answer
         Later  // the other instance raises its window
     };
 
@@ -33,8 +33,8 @@ public:
     SingleInstance(const SingleInstance &) = delete;
     SingleInstance &operator=(const SingleInstance &) = delete;
 
-    /// Returns a name that differs between users, displays and folders of settings. Returns an
-    /// empty string if there is no display; then every instance is the first.
+    /// Returns a name that is unique to the user, the display and the settings folder. Returns an
+    /// empty string if there is no display; every instance is then the first one.
     static QByteArray sessionName(const QString &settingsFile);
 
     Role role() const { return m_role; }

@@ -8,7 +8,10 @@
 namespace Dashboard
 {
 
-/** A dot in the colour of a tone. A word beside it must give the same information. */
+/**
+ * A dot in the colour of a tone. Because colours alone are not accessible, a text next to the dot
+ * must provide the same information.
+ */
 class StatusDot : public QWidget
 {
     Q_OBJECT
