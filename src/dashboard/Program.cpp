@@ -206,7 +206,7 @@ int Program::takeTour(int &argc, char **argv, const Arguments &arguments)
     doWithoutDisplay();
     setReplyTimeout(TourGuide::REPLY_LIMIT);
     PrivatePluginFolder library;
-    qputenv("QT_FONT_DPI", "96"); // the platform plug-in "offscreen" has a different resolution
+    qputenv("QT_FONT_DPI", "96"); // the default of the platform plug-in "offscreen" differs
     applyTextSize(100);           // per cent
     QApplication application(argc, argv);
     if (!library.isValid())
