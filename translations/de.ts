@@ -1467,7 +1467,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>REMEDY_TRY_DEMONSTRATION</source>
-        <translation>Demonstration ausprobieren</translation>
+        <translation>Vorführung ansehen</translation>
     </message>
     <message>
         <source>REMEDY_USE_MY_MODEM</source>

@@ -1,8 +1,13 @@
+#include <QMenu>
+#include <QScrollArea>
 #include <QSignalSpy>
 
 #include <cstring>
 
 #include "DeviceTest.h"
+#include "Languages.h"
+#include "look/Controls.h"
+#include "look/Look.h"
 #include "pages/FirstRunPage.h"
 #include "pages/OperatorOption.h"
 #include "sim/OperatorCodes.h"
@@ -41,6 +46,9 @@ private slots:
     void aDemonstrationIsStartedOnlyByTheUser();
     void anIntegratorsCodesNeedNoFirstRun();
     void nothingIsSent();
+    void theLanguageCanBeChosen();
+    void nothingIsCutInTheSmallestWindow_data();
+    void nothingIsCutInTheSmallestWindow();
 
 private:
     FirstRunPage *first() { return part<FirstRunPage>("Dashboard_FirstRunPage"); }
@@ -178,6 +186,44 @@ void FirstRunTest::nothingIsSent()
     QTest::mouseClick(use(), Qt::LeftButton);
     drainEvents();
     QVERIFY(fakeSdkCommands().empty());
+}
+
+void FirstRunTest::theLanguageCanBeChosen()
+{
+    const MenuButton *language = part<MenuButton>("Dashboard_FirstRunLanguage");
+    QVERIFY(language->isVisible());
+    QCOMPARE(language->text(), QLatin1String("English"));
+    QCOMPARE(language->accessibleName(), QLatin1String("Language, English"));
+    for (QAction *action : language->menu()->actions()) {
+        if (action->data().toString() == QLatin1String("de"))
+            action->trigger();
+    }
+    QCOMPARE(language->accessibleName(), QLatin1String("Sprache, Deutsch"));
+}
+
+void FirstRunTest::nothingIsCutInTheSmallestWindow_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &code : HostCore::Languages::codes())
+        QTest::newRow(qPrintable(code)) << code;
+}
+
+void FirstRunTest::nothingIsCutInTheSmallestWindow()
+{
+    QFETCH(QString, language);
+    Look::instance().start(); // the style sheet makes the buttons wider
+    QFont font = QApplication::font();
+    font.setPixelSize(14); // the sizes of the layout refer to this font
+    QApplication::setFont(font);
+    window().setLanguage(language);
+    tell(sim("99902"));
+    QCOMPARE(options().size(), 3);
+    window().resize(360, 560);
+    const QScrollArea *area = first()->findChild<QScrollArea *>();
+    QTRY_COMPARE(area->viewport()->width(), area->widget()->width());
+    drainEvents();
+    QVERIFY2(area->widget()->minimumSizeHint().width() <= area->viewport()->width(),
+             qPrintable(QString::number(area->widget()->minimumSizeHint().width())));
 }
 
 USSD_TEST_MAIN(FirstRunTest)

@@ -57,7 +57,7 @@ void Chip::setTone(Tone tone)
 
 void Chip::resizeToFont()
 {
-    setFixedHeight(Look::instance().px(HEIGHT));
+    setFixedHeight(px(HEIGHT));
 }
 
 } // namespace Dashboard

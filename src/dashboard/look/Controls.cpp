@@ -140,7 +140,7 @@ void setButtonIcon(QPushButton *button, const char *iconName, Token token)
 {
     button->setIcon(icon(iconName, token));
     keepUpdated(button, [button] {
-        const int side = Look::instance().px(BUTTON_ICON);
+        const int side = px(BUTTON_ICON);
         button->setIconSize(QSize(side + ICON_GAP, side));
     });
 }
@@ -150,7 +150,7 @@ QPushButton *makeIconButton(const char *iconName, QWidget *parent)
     QPushButton *button = makeButton(ICON_BUTTON_KIND, parent);
     setButtonIcon(button, iconName, Token::Text2);
     keepUpdated(button, [button] {
-        const int side = Look::instance().px(ICON_BUTTON);
+        const int side = px(ICON_BUTTON);
         button->setFixedSize(side, side);
     });
     return button;

@@ -178,18 +178,25 @@ private:
     QButtonGroup *m_buttons;
 };
 
-/** A button with a text and an arrow that opens a menu; see QPushButton::setMenu(). */
+/** A button that shows a value and opens the menu of all values; see QPushButton::setMenu(). */
 class MenuButton : public QPushButton
 {
     Q_OBJECT
 public:
     explicit MenuButton(QWidget *parent = nullptr);
 
+    /// Sets what the value is about. Screen readers report it before the value.
+    void setTitle(const QString &title);
+    void setValue(const QString &value);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_title;
 };
 
 /**

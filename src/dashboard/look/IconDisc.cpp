@@ -54,7 +54,7 @@ void IconView::setIcon(const char *name, Token token, int size)
 
 QSize IconView::sizeHint() const
 {
-    const int side = Look::instance().px(m_size);
+    const int side = px(m_size);
     return QSize(side, side);
 }
 
@@ -87,7 +87,7 @@ void IconDisc::setIcon(const char *name, Tone tone)
 
 void IconDisc::resizeToFont()
 {
-    const int side = Look::instance().px(DIAMETER);
+    const int side = px(DIAMETER);
     setFixedSize(side, side);
 }
 

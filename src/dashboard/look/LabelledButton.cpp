@@ -24,18 +24,6 @@ const int WORD_SIZE = 12; // font size of the text below an icon
 const int BADGE_SIZE = 11;
 const int BADGE_HEIGHT = 18;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
-QFont sized(QFont font, int size, QFont::Weight weight)
-{
-    font.setPixelSize(px(size));
-    font.setWeight(weight);
-    return font;
-}
-
 int widthOf(const QFont &font, const QString &text)
 {
     return QFontMetrics(font).size(Qt::TextShowMnemonic, text).width();

@@ -139,4 +139,11 @@ void Look::dress()
     qApp->setStyleSheet(sheet);
 }
 
+QFont sized(QFont font, int at100Percent, QFont::Weight weight)
+{
+    font.setPixelSize(px(at100Percent));
+    font.setWeight(weight);
+    return font;
+}
+
 } // namespace Dashboard

@@ -1,6 +1,7 @@
 #ifndef LOOK_H
 #define LOOK_H
 
+#include <QFont>
 #include <QObject>
 
 #include "Tokens.h"
@@ -34,8 +35,7 @@ public:
     void setSystemShade(Shade shade);
     QColor color(Token token) const { return tokenColor(token, shade()); }
 
-    /// Returns the size in pixels, scaled with the application font. A font size of 14 pixels
-    /// corresponds to 100 %.
+    /// Returns the size in pixels, as the function px() does.
     int px(int at100Percent) const;
     /// Returns the size of the application font in pixels.
     int em() const;
@@ -61,6 +61,16 @@ private:
     bool m_reducesMotion = false;
     QString m_sheet;
 };
+
+/// Returns the size in pixels, scaled with the application font. A font size of 14 pixels
+/// corresponds to 100 %.
+inline int px(int at100Percent)
+{
+    return Look::instance().px(at100Percent);
+}
+
+/// Returns the font with a size in pixels, scaled with the application font, and a weight.
+QFont sized(QFont font, int at100Percent, QFont::Weight weight);
 
 } // namespace Dashboard
 

@@ -17,11 +17,6 @@ const int ARROW = 16;
 const int GAP = 8;
 const int MARGIN = 14;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
 } // namespace
 
 MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
@@ -29,6 +24,18 @@ MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
     setAutoDefault(false);
     setStyleProperty(this, "kind", QString());
     connect(&Look::instance(), &Look::changed, this, &MenuButton::updateGeometry);
+}
+
+void MenuButton::setTitle(const QString &title)
+{
+    m_title = title;
+    setAccessibleName(QString::fromLatin1("%1, %2").arg(m_title, text()));
+}
+
+void MenuButton::setValue(const QString &value)
+{
+    setText(value);
+    setTitle(m_title);
 }
 
 QSize MenuButton::sizeHint() const

@@ -49,7 +49,7 @@ bool MessageBoxIcons::eventFilter(QObject *watched, QEvent *event)
     if (!box || box->icon() == QMessageBox::NoIcon)
         return false;
     const BoxIcon own = iconFor(box->icon());
-    box->setIconPixmap(iconPixmap(own.name, own.token, Look::instance().px(SIZE), box));
+    box->setIconPixmap(iconPixmap(own.name, own.token, px(SIZE), box));
     return false;
 }
 

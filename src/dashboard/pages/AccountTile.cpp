@@ -36,7 +36,7 @@ void ShareBar::setShare(double share)
 
 QSize ShareBar::sizeHint() const
 {
-    const int height = Look::instance().px(BAR_HEIGHT);
+    const int height = px(BAR_HEIGHT);
     return QSize(8 * height, height);
 }
 
@@ -101,15 +101,15 @@ void AccountTile::arrange()
 void AccountTile::arrangeWide()
 {
     setMargins(m_grid, 16, 6, 12, 12);
-    setMinimumHeight(Look::instance().px(WIDE_HEIGHT));
-    m_grid->setHorizontalSpacing(Look::instance().px(8));
+    setMinimumHeight(px(WIDE_HEIGHT));
+    m_grid->setHorizontalSpacing(px(8));
     m_grid->setVerticalSpacing(0);
     m_grid->addWidget(m_icon, 0, 0, Qt::AlignVCenter);
     m_grid->addWidget(m_caption, 0, 1);
     m_grid->addWidget(m_action, 0, 2);
     m_grid->addWidget(m_value, 1, 0, 1, 3);
     m_grid->addWidget(m_note, 2, 0, 1, 3);
-    m_grid->setRowMinimumHeight(3, Look::instance().px(8));
+    m_grid->setRowMinimumHeight(3, px(8));
     m_grid->addWidget(m_bar, 4, 0, 1, 3);
     m_grid->setColumnStretch(1, 1);
     m_grid->setRowStretch(5, 1);
@@ -123,7 +123,7 @@ void AccountTile::arrangeNarrow()
     m_grid->addWidget(m_caption, 0, 1, 1, 2);
     m_grid->addWidget(m_value, 1, 1);
     m_grid->addWidget(m_note, 1, 2, Qt::AlignBottom);
-    m_grid->setHorizontalSpacing(Look::instance().px(12));
+    m_grid->setHorizontalSpacing(px(12));
     m_grid->setVerticalSpacing(0);
     m_grid->setRowMinimumHeight(3, 0);
     m_grid->setColumnStretch(1, 1);

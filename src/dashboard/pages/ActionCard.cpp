@@ -67,7 +67,7 @@ void ActionCard::setTexts(const QString &name, const QString &line)
 QSize ActionCard::sizeHint() const
 {
     const QSize size = layout()->sizeHint();
-    return QSize(size.width(), qMax(size.height(), Look::instance().px(LOWEST)));
+    return QSize(size.width(), qMax(size.height(), px(LOWEST)));
 }
 
 void ActionCard::changeEvent(QEvent *event)

@@ -65,13 +65,12 @@ BalanceCard::BalanceCard(QWidget *parent)
 
 QLayout *BalanceCard::makeHead()
 {
-    QHBoxLayout *head = new QHBoxLayout;
-    setSpacing(head, 8);
+    m_head = new QBoxLayout(QBoxLayout::LeftToRight);
+    setSpacing(m_head, 8);
     m_asked->setWordWrap(true);
-    m_asked->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    head->addWidget(m_title);
-    head->addWidget(m_asked, 1);
-    return head;
+    m_head->addWidget(m_title);
+    m_head->addWidget(m_asked, 1);
+    return m_head;
 }
 
 QLayout *BalanceCard::makeAmount()
@@ -125,6 +124,18 @@ QWidget *BalanceCard::makeButtons()
     return m_buttons;
 }
 
+/// Moves the time below the title if there is no space for both in a single row.
+void BalanceCard::arrangeHead()
+{
+    const QMargins margins = m_layout->contentsMargins();
+    const int room = width() - margins.left() - margins.right();
+    const int wanted = m_title->sizeHint().width() + m_head->spacing() +
+                       m_asked->fontMetrics().horizontalAdvance(m_asked->text());
+    const bool isRow = wanted <= room;
+    m_head->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_asked->setAlignment((isRow ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter);
+}
+
 /// Returns the width that all buttons require in a single row.
 int BalanceCard::rowWidth() const
 {
@@ -146,14 +157,17 @@ void BalanceCard::arrangeButtons()
     m_show->setText(m_isNarrow ? QString() : text);
     if (rowWidth() > room)
         m_show->setText(QString());
+    const bool isRow = rowWidth() <= room;
+    if (!isRow && !m_isNarrow)
+        m_show->setText(text);
     m_show->setToolTip(m_show->text().isEmpty() ? text : QString());
-    m_buttonRow->setDirection(rowWidth() > room ? QBoxLayout::TopToBottom
-                                                : QBoxLayout::LeftToRight);
+    m_buttonRow->setDirection(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void BalanceCard::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
+    arrangeHead();
     arrangeButtons();
 }
 
@@ -165,7 +179,7 @@ void BalanceCard::setNarrow(bool isNarrow)
     else
         setMargins(m_layout, 24, 18, 24, 20);
     m_chipRow->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    setMinimumHeight(isNarrow ? 0 : Look::instance().px(WIDE_HEIGHT));
+    setMinimumHeight(isNarrow ? 0 : px(WIDE_HEIGHT));
     // In the narrow form, there is no space for a third button in the row.
     if (isNarrow)
         m_validityRow->addWidget(m_show);
@@ -212,6 +226,7 @@ void BalanceCard::showAge()
     m_low->setText(dashboardText("HOME_LOW"));
     m_low->setVisible(m_view.isLow);
     m_chips->setVisible(m_view.isLow || days >= OLD_DAYS);
+    arrangeHead();
 }
 
 void BalanceCard::showButtons()

@@ -56,6 +56,7 @@ private:
     QLayout *makeValidity();
     QWidget *makeButtons();
     int rowWidth() const;
+    void arrangeHead();
     void arrangeButtons();
     void showAmount();
     void showAge();
@@ -65,6 +66,7 @@ private:
     BalanceView m_view;
     bool m_isNarrow = false;
     QVBoxLayout *m_layout;
+    QBoxLayout *m_head = nullptr;
     QLabel *m_title;
     QLabel *m_asked;
     QWidget *m_chips;

@@ -29,11 +29,6 @@ const int MARKER = 5;
 const int HEIGHT = 118;
 const int WIDTH = 200;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
 double valueOf(qint64 units)
 {
     return double(units) / Money::UNITS;

@@ -84,8 +84,10 @@ void CodesPage::makeNarrowButtons()
     connect(m_topUpButton, &QPushButton::clicked, this, &CodesPage::showTopUpSheet);
     m_narrowRow->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_narrowRow, 8);
-    m_narrowRow->addWidget(m_codesButton);
-    m_narrowRow->addWidget(m_topUpButton);
+    // Right to left, the style sheet would put icon and text of a wider button far apart.
+    m_narrowRow->addWidget(m_codesButton, 0, Qt::AlignLeading);
+    m_narrowRow->addWidget(m_topUpButton, 0, Qt::AlignLeading);
+    m_narrowRow->addStretch();
 }
 
 /// Arranges the buttons horizontally, or vertically if the page is too narrow.

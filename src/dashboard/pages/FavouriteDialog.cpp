@@ -83,7 +83,7 @@ FavouriteDialog::FavouriteDialog(const QList<NamedCode> &all, const QList<NamedC
     ends->addWidget(cancel);
     ends->addWidget(save);
     column->addLayout(ends);
-    resize(Look::instance().px(LEAST_WIDTH), Look::instance().px(LEAST_HEIGHT));
+    resize(px(LEAST_WIDTH), px(LEAST_HEIGHT));
     m_list->setCurrentRow(0);
     look();
 }
@@ -169,7 +169,7 @@ CodeNumberDialog::CodeNumberDialog(const NamedCode &code, QWidget *parent) : QDi
     ends->addWidget(cancel);
     ends->addWidget(send);
     column->addLayout(ends);
-    setMinimumWidth(Look::instance().px(LEAST_WIDTH));
+    setMinimumWidth(px(LEAST_WIDTH));
 }
 
 } // namespace Dashboard

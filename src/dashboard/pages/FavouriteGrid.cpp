@@ -27,11 +27,6 @@ const int ICON = 20;
 const int NAME_SIZE = 14;
 const int CODE_SIZE = 13;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
 QString shownCode(const NamedCode &code)
 {
     QString shown = code.code;

@@ -9,6 +9,7 @@
 #include "base/Isolate.h"
 #include "device/DashboardSettings.h"
 #include "device/DeviceWatcher.h"
+#include "Languages.h"
 #include "look/Controls.h"
 #include "OperatorOption.h"
 #include "PageColumn.h"
@@ -121,11 +122,11 @@ void FirstRunStep::setRemedy(Remedy remedy)
 }
 
 FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
-                           const OperatorCodes *codes, QWidget *parent)
+                           const OperatorCodes *codes, QMenu *languageMenu, QWidget *parent)
     : Page("Dashboard_FirstRunPage", parent), m_settings(settings), m_device(device),
-      m_codes(codes), m_column(new PageColumn(WIDEST, this)), m_card(Dashboard::makeCard(this)),
-      m_title(makeLabel("h1", this)), m_intro(makeLabel("muted", this)),
-      m_modem(new FirstRunStep("Dashboard_FirstRunModem", this)),
+      m_codes(codes), m_column(new PageColumn(WIDEST, this)), m_language(new MenuButton(this)),
+      m_card(Dashboard::makeCard(this)), m_title(makeLabel("h1", this)),
+      m_intro(makeLabel("muted", this)), m_modem(new FirstRunStep("Dashboard_FirstRunModem", this)),
       m_sim(new FirstRunStep("Dashboard_FirstRunSim", this)),
       m_choice(new FirstRunStep("Dashboard_FirstRunChoice", this)), m_list(new QVBoxLayout),
       m_group(new QButtonGroup(this)), m_demonstration(makeButton("ghost", this)),
@@ -140,6 +141,9 @@ FirstRunPage::FirstRunPage(DashboardSettings *settings, const DeviceWatcher *dev
     m_card->installEventFilter(this);
     m_costs->setAlignment(Qt::AlignCenter);
     makeCard();
+    m_language->setObjectName(QLatin1String("Dashboard_FirstRunLanguage"));
+    m_language->setMenu(languageMenu);
+    m_column->column()->addWidget(m_language, 0, Qt::AlignTrailing);
     m_column->column()->addStretch(1);
     m_column->column()->addWidget(m_card);
     m_column->column()->addWidget(m_costs);
@@ -175,13 +179,16 @@ void FirstRunPage::makeButtons(QVBoxLayout *card)
     m_notNow->setObjectName(QLatin1String("Dashboard_FirstRunNotNow"));
     m_use->setObjectName(QLatin1String("Dashboard_FirstRunUse"));
     setButtonIcon(m_demonstration, "flask", Token::AccentText);
-    m_buttons = new QHBoxLayout;
+    QWidget *row = new QWidget(m_card);
+    row->setMinimumWidth(1); // instead of the width of all buttons; see arrangeButtons()
+    m_buttons = new QHBoxLayout(row);
+    m_buttons->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_buttons, 8);
     m_buttons->addWidget(m_demonstration);
     m_buttons->addStretch();
     m_buttons->addWidget(m_notNow);
     m_buttons->addWidget(m_use);
-    card->addLayout(m_buttons);
+    card->addWidget(row);
     connect(m_demonstration, &QPushButton::clicked, this,
             [this] { emit chosen(Remedy::TryDemonstration); });
     connect(m_notNow, &QPushButton::clicked, this, &FirstRunPage::finish);
@@ -314,6 +321,8 @@ void FirstRunPage::finish()
 
 void FirstRunPage::retranslate()
 {
+    m_language->setTitle(dashboardText("SETTINGS_LANGUAGE"));
+    m_language->setValue(HostCore::Languages::nativeName(HostCore::Languages::current()));
     m_title->setText(dashboardText("FIRST_TITLE"));
     m_intro->setText(dashboardText("FIRST_INTRO"));
     m_costs->setText(dashboardText("FIRST_COSTS"));
@@ -347,11 +356,23 @@ bool FirstRunPage::eventFilter(QObject *watched, QEvent *event)
     return Page::eventFilter(watched, event);
 }
 
+/// Shortens the text of the button if the card is too narrow for it.
+void FirstRunPage::nameDemonstration(int room)
+{
+    m_demonstration->ensurePolished();
+    const QFontMetrics metrics = m_demonstration->fontMetrics();
+    const QString text = dashboardText("FIRST_DEMONSTRATION");
+    const int wanted = m_demonstration->sizeHint().width() + metrics.horizontalAdvance(text) -
+                       metrics.horizontalAdvance(m_demonstration->text());
+    m_demonstration->setText(wanted <= room ? text : remedyText(Remedy::TryDemonstration));
+}
+
 /// Arranges the buttons vertically if they are too wide for a single row.
 void FirstRunPage::arrangeButtons()
 {
     const QMargins margins = m_card->layout()->contentsMargins();
     const int room = m_card->width() - margins.left() - margins.right();
+    nameDemonstration(room);
     int wanted = 2 * m_buttons->spacing();
     for (QPushButton *button : {m_demonstration, m_notNow, m_use}) {
         button->ensurePolished();

@@ -11,6 +11,7 @@ class QBoxLayout;
 class QButtonGroup;
 class QFrame;
 class QLabel;
+class QMenu;
 class QPushButton;
 class QVBoxLayout;
 
@@ -21,6 +22,7 @@ class DashboardSettings;
 class DeviceWatcher;
 class IconDisc;
 class IconView;
+class MenuButton;
 class OperatorCodes;
 class PageColumn;
 class OperatorOption;
@@ -58,7 +60,7 @@ class FirstRunPage : public Page
 public:
     /// The arguments must outlive the page. If `settings` is null, isDue() always returns false.
     FirstRunPage(DashboardSettings *settings, const DeviceWatcher *device,
-                 const OperatorCodes *codes, QWidget *parent = nullptr);
+                 const OperatorCodes *codes, QMenu *languageMenu, QWidget *parent = nullptr);
 
     /// Returns true if the page is to be shown. Returns false during a demonstration.
     bool isDue() const;
@@ -85,6 +87,7 @@ protected:
 private:
     void makeCard();
     void arrangeButtons();
+    void nameDemonstration(int room);
     void makeButtons(QVBoxLayout *card);
     void addOption(const QString &title, const QString &text);
     void clearOptions();
@@ -104,6 +107,7 @@ private:
     QList<Provisioning::Provider> m_providers;
     QList<OperatorOption *> m_options;
     PageColumn *m_column;
+    MenuButton *m_language;
     QFrame *m_card;
     QLabel *m_title;
     QLabel *m_intro;

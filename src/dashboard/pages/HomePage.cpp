@@ -218,10 +218,10 @@ void HomePage::setForm(Form form)
 /// Returns the width that the widgets require in a single row.
 int HomePage::rowWidth(const QList<QWidget *> &widgets)
 {
-    int width = -Look::instance().px(GAP);
+    int width = -px(GAP);
     for (const QWidget *widget : widgets) {
         if (widget->isVisibleTo(widget->parentWidget()))
-            width += widget->minimumSizeHint().width() + Look::instance().px(GAP);
+            width += widget->minimumSizeHint().width() + px(GAP);
     }
     return width;
 }
@@ -229,7 +229,7 @@ int HomePage::rowWidth(const QList<QWidget *> &widgets)
 /// Arranges the cards vertically if there is not enough space for them in a row.
 void HomePage::arrangeCards()
 {
-    const int room = width() - Look::instance().px(2 * MARGIN + SCROLL_BAR);
+    const int room = width() - px(2 * MARGIN + SCROLL_BAR);
     const bool isNarrow = m_form == Form::Narrow;
     const bool isAccountColumn = isNarrow || rowWidth({m_balance, m_chart}) > room;
     const bool isTileColumn = isNarrow || rowWidth({m_number, m_validity, m_data}) > room;

@@ -30,10 +30,7 @@ const int RADIUS = 12;
 
 QFont fontOf(int pixels, QFont::Weight weight)
 {
-    QFont font = QApplication::font();
-    font.setPixelSize(Look::instance().px(pixels));
-    font.setWeight(weight);
-    return font;
+    return sized(QApplication::font(), pixels, weight);
 }
 
 /// Returns the first line of the text, enclosed in the isolates U+2068 and U+2069 to preserve its
@@ -71,7 +68,6 @@ public:
     }
 
 private:
-    static int px(int at100Percent) { return Look::instance().px(at100Percent); }
     static QColor color(Token token) { return Look::instance().color(token); }
     bool isSelected() const { return m_option.state & QStyle::State_Selected; }
     bool hasFocus() const { return m_option.state & QStyle::State_HasFocus; }

@@ -77,7 +77,7 @@ void ChoiceButtons::setChoices(const QList<MenuChoice> &choices)
 /// row.
 int ChoiceButtons::place(int width, bool isMoving) const
 {
-    const int gap = Look::instance().px(GAP);
+    const int gap = px(GAP);
     QPoint next(0, 0);
     int bottom = 0;
     for (QPushButton *button : m_buttons) {
@@ -99,13 +99,13 @@ int ChoiceButtons::heightForWidth(int width) const
 
 QSize ChoiceButtons::sizeHint() const
 {
-    const int width = Look::instance().px(280);
+    const int width = px(280);
     return QSize(width, heightForWidth(width));
 }
 
 QSize ChoiceButtons::minimumSizeHint() const
 {
-    return QSize(Look::instance().px(120), heightForWidth(qMax(width(), 1)));
+    return QSize(px(120), heightForWidth(qMax(width(), 1)));
 }
 
 void ChoiceButtons::resizeEvent(QResizeEvent *event)
@@ -227,7 +227,7 @@ MessageReader::MessageReader(QWidget *parent)
     content->setContentsMargins(0, 0, 0, 0);
     setSpacing(content, 12);
     content->addWidget(m_text);
-    content->addSpacing(Look::instance().px(8));
+    content->addSpacing(px(8));
     content->addWidget(m_chip, 0, Qt::AlignLeft);
     content->addWidget(m_answers);
     content->addStretch();

@@ -317,7 +317,7 @@ void MessagesPage::showParts()
     m_listSide->setVisible(!isNarrow || !m_isReading);
     m_reader->setVisible(!isNarrow || m_isReading);
     m_reader->setNarrow(isNarrow);
-    const int width = Look::instance().px(LIST_WIDTH);
+    const int width = px(LIST_WIDTH);
     m_listSide->setMinimumWidth(0);
     m_listSide->setMaximumWidth(isNarrow ? QWIDGETSIZE_MAX : width);
     m_row->setStretch(0, isNarrow ? 1 : 3);

@@ -21,18 +21,6 @@ const int GAP = 16;
 const int TITLE_SIZE = 14;
 const int SECOND_SIZE = 12;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
-QFont sized(QFont font, int size, QFont::Weight weight)
-{
-    font.setPixelSize(px(size));
-    font.setWeight(weight);
-    return font;
-}
-
 } // namespace
 
 OperatorOption::OperatorOption(const QString &title, const QString &text, QWidget *parent)

@@ -46,7 +46,7 @@ void PageColumn::setForm(Form form)
 
 void PageColumn::limitWidth()
 {
-    m_content->setMaximumWidth(Look::instance().px(m_widest));
+    m_content->setMaximumWidth(px(m_widest));
 }
 
 } // namespace Dashboard

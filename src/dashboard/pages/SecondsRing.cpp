@@ -36,7 +36,7 @@ SecondsRing::SecondsRing(QWidget *parent) : QProgressBar(parent)
 
 QSize SecondsRing::sizeHint() const
 {
-    const int size = Look::instance().px(SIZE);
+    const int size = px(SIZE);
     return QSize(size, size);
 }
 

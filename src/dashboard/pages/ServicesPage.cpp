@@ -107,7 +107,7 @@ void ServiceGroup::addCard(const Service &service)
 
 int ServiceGroup::columnsFor(int width) const
 {
-    const int card = Look::instance().px(CARD_WIDTH) + m_grid->spacing();
+    const int card = px(CARD_WIDTH) + m_grid->spacing();
     return qBound(1, (width + m_grid->spacing()) / card, MOST_COLUMNS);
 }
 
@@ -179,7 +179,7 @@ void ServicesPage::makeNotice()
     setSpacing(texts, 4);
     texts->addWidget(m_noticeTitle);
     texts->addWidget(m_noticeText);
-    texts->addSpacing(Look::instance().px(4));
+    texts->addSpacing(px(4));
     texts->addWidget(m_noticeButtons);
     QHBoxLayout *row = new QHBoxLayout(m_notice);
     setMargins(row, 18, 16, 18, 16);

@@ -155,7 +155,7 @@ void SettingsPage::makeNotifications()
     QHBoxLayout *line = new QHBoxLayout(low);
     line->setContentsMargins(0, 0, 0, 0);
     m_amount = named(new QLineEdit(low), "Dashboard_SettingsAmount");
-    m_amount->setFixedWidth(Look::instance().px(AMOUNT_WIDTH));
+    m_amount->setFixedWidth(px(AMOUNT_WIDTH));
     m_amount->setLayoutDirection(Qt::LeftToRight);
     m_amount->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QLatin1String("[0-9]{1,7}([.][0-9]{1,2})?")), m_amount));
@@ -165,6 +165,7 @@ void SettingsPage::makeNotifications()
     connect(m_amount, &QLineEdit::editingFinished, this, &SettingsPage::setLowBalanceAmount);
     line->addWidget(m_amount);
     line->addWidget(m_lowBalance);
+    low->setFocusProxy(m_lowBalance);
     addRow(card, "bell", "SETTINGS_NOTIFY", "SETTINGS_NOTIFY_TEXT", m_notifies);
     addRow(card, "messages", "SETTINGS_SHOW_TEXT", "SETTINGS_SHOW_TEXT_TEXT", m_showsText);
     m_lowBalanceRow = addRow(card, "topup", "SETTINGS_LOW_BALANCE", nullptr, low, true);
@@ -195,7 +196,7 @@ void SettingsPage::retranslate()
                           row.textKey ? dashboardText(row.textKey) : QString());
     m_codes->setText(dashboardText("SETTINGS_CHANGE"));
     m_deleteAll->setText(dashboardText("SETTINGS_DELETE_ALL_BUTTON"));
-    m_language->setText(HostCore::Languages::nativeName(HostCore::Languages::current()));
+    m_language->setValue(HostCore::Languages::nativeName(HostCore::Languages::current()));
     m_theme->setItems({dashboardText("SETTINGS_THEME_SYSTEM"),
                        dashboardText("SETTINGS_THEME_LIGHT"),
                        dashboardText("SETTINGS_THEME_DARK")});
@@ -236,7 +237,6 @@ void SettingsPage::showLowBalance()
                               amount.isEmpty()
                                   ? dashboardText("SETTINGS_LOW_BALANCE_OFF")
                                   : dashboardText("SETTINGS_LOW_BALANCE_TEXT").arg(amount));
-    m_lowBalance->setAccessibleName(dashboardText("SETTINGS_LOW_BALANCE"));
 }
 
 void SettingsPage::showDevice()
@@ -252,7 +252,7 @@ void SettingsPage::showDevice()
 
 void SettingsPage::setDeviceChoice(const QString &text)
 {
-    m_modem->setText(text);
+    m_modem->setValue(text);
     showDevice();
 }
 

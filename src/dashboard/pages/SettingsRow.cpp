@@ -37,7 +37,7 @@ void SettingsRow::place(bool isControlBelow)
         m_grid->addWidget(m_control, 3, 0, 1, 3, Qt::AlignLeading);
     else
         m_grid->addWidget(m_control, 0, 2, 2, 1, Qt::AlignTrailing | Qt::AlignVCenter);
-    m_grid->setRowMinimumHeight(2, isControlBelow ? Look::instance().px(6) : 0);
+    m_grid->setRowMinimumHeight(2, isControlBelow ? px(6) : 0);
 }
 
 void SettingsRow::setTexts(const QString &title, const QString &description)
@@ -48,8 +48,12 @@ void SettingsRow::setTexts(const QString &title, const QString &description)
     m_grid->removeWidget(m_title);
     m_grid->addWidget(m_title, 0, 1, description.isEmpty() ? 2 : 1, 1,
                       description.isEmpty() ? Qt::AlignVCenter : Qt::AlignBottom);
-    m_control->setAccessibleName(title);
-    m_control->setAccessibleDescription(description);
+    QWidget *named = m_control->focusProxy() ? m_control->focusProxy() : m_control;
+    named->setAccessibleDescription(description);
+    if (MenuButton *choice = qobject_cast<MenuButton *>(named))
+        choice->setTitle(title);
+    else
+        named->setAccessibleName(title);
 }
 
 void SettingsRow::setForm(Form form)

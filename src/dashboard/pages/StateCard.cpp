@@ -195,10 +195,10 @@ void StateCard::makeCard()
     setMargins(column, 24, 28, 24, 28);
     setSpacing(column, 8);
     column->addWidget(m_icon, 0, Qt::AlignHCenter);
-    column->addSpacing(Look::instance().px(8));
+    column->addSpacing(px(8));
     column->addWidget(m_title);
     column->addLayout(centred(m_text));
-    column->addSpacing(Look::instance().px(8));
+    column->addSpacing(px(8));
     column->addWidget(m_remedies);
 }
 

@@ -149,8 +149,8 @@ void StateStrip::makeRows()
 /// content does not move the widgets below the strip.
 void StateStrip::updateHeight()
 {
-    setFixedHeight(Look::instance().px(HEIGHT));
-    m_row->setFixedHeight(Look::instance().px(36));
+    setFixedHeight(px(HEIGHT));
+    m_row->setFixedHeight(px(36));
     m_sign->setFixedSize(m_ring->sizeHint());
 }
 
@@ -409,7 +409,7 @@ void StateStrip::addChoices()
     QList<MenuChoice> rest = m_state.choices;
     if (rest.isEmpty())
         return addNote(m_state.menuText.simplified());
-    const int roomForMore = Look::instance().px(ROOM_FOR_MORE);
+    const int roomForMore = px(ROOM_FOR_MORE);
     while (!rest.isEmpty()) {
         addChoice(rest.first());
         const bool isLast = rest.size() == 1;
@@ -428,7 +428,7 @@ void StateStrip::addChoices()
 void StateStrip::addChoice(const MenuChoice &choice)
 {
     QPushButton *button = addButton("choice", choiceText(choice));
-    const int room = m_rowWidth - Look::instance().px(ROOM_FOR_MORE + CHOICE_PADDING);
+    const int room = m_rowWidth - px(ROOM_FOR_MORE + CHOICE_PADDING);
     button->setText(button->fontMetrics().elidedText(button->text(), Qt::ElideRight, room));
     button->setToolTip(choice.text);
     button->setObjectName(QLatin1String("Dashboard_Choice"));

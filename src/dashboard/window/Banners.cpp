@@ -11,7 +11,8 @@ namespace Dashboard
 namespace
 {
 
-const int HEIGHT = 60; // in pixels at 100 % text size
+// In pixels at 100 % text size. A banner whose text wraps is higher.
+const int HEIGHT = 60;
 const int TWO_ROWS = 104;
 
 struct Appearance {
@@ -33,12 +34,12 @@ const Appearance APPEARANCES[] = {
 
 Banners::Banners(QWidget *parent)
     : QFrame(parent), m_grid(new QGridLayout(this)), m_icon(new IconView(this)),
-      m_title(new ElidedLabel(this)), m_text(new ElidedLabel(this)), m_action(makeButton("", this)),
+      m_title(new ElidedLabel(this)), m_text(makeLabel("small", this)), m_action(makeButton("", this)),
       m_close(makeButton("ghost", this))
 {
     setObjectName(QLatin1String("Dashboard_Banner"));
     setLabelType(m_title, "strong");
-    setLabelType(m_text, "small");
+    m_text->setWordWrap(true);
     m_title->setObjectName(QLatin1String("Dashboard_BannerTitle"));
     m_text->setObjectName(QLatin1String("Dashboard_BannerText"));
     m_action->setObjectName(QLatin1String("Dashboard_BannerAction"));
@@ -97,9 +98,9 @@ void Banners::layOut()
     m_grid->addWidget(m_close, hasTwoRows ? 2 : 0, 3, hasTwoRows ? 1 : 2, 1);
     m_grid->setColumnStretch(1, 1);
     setMargins(m_grid, isNarrow ? 16 : 24, 8, 16, 8);
-    m_grid->setHorizontalSpacing(Look::instance().px(isNarrow ? 8 : 12));
+    m_grid->setHorizontalSpacing(px(isNarrow ? 8 : 12));
     m_grid->setVerticalSpacing(0);
-    setFixedHeight(Look::instance().px(hasTwoRows ? TWO_ROWS : HEIGHT));
+    setMinimumHeight(px(hasTwoRows ? TWO_ROWS : HEIGHT));
 }
 
 void Banners::refresh()

@@ -52,7 +52,7 @@ private:
     QGridLayout *m_grid;
     IconView *m_icon;
     ElidedLabel *m_title;
-    ElidedLabel *m_text;
+    QLabel *m_text;
     QPushButton *m_action;
     QPushButton *m_close;
     Form m_form = Form::Wide;

@@ -39,7 +39,7 @@ DeviceLine::DeviceLine(QWidget *parent)
     grid->addWidget(m_dot, 0, 0, 2, 1);
     grid->addWidget(m_state, 0, 2);
     grid->addWidget(m_name, 1, 2);
-    grid->setColumnMinimumWidth(1, Look::instance().px(10));
+    grid->setColumnMinimumWidth(1, px(10));
     grid->setColumnStretch(2, 1);
 }
 
@@ -54,7 +54,7 @@ void DeviceLine::showDevice(Tone tone, const QString &state, const QString &name
 
 QSize DeviceLine::sizeHint() const
 {
-    return QSize(QPushButton::sizeHint().width(), Look::instance().px(HEIGHT));
+    return QSize(QPushButton::sizeHint().width(), px(HEIGHT));
 }
 
 } // namespace Dashboard

@@ -72,7 +72,7 @@ void Header::layOut()
     for (QWidget *widget : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
         m_grid->removeWidget(widget);
     setLabelType(m_operator, isNarrow ? "h3" : "h2");
-    setFixedHeight(Look::instance().px(isNarrow ? NARROW_HEIGHT : HEIGHT));
+    setFixedHeight(px(isNarrow ? NARROW_HEIGHT : HEIGHT));
     if (isNarrow)
         placeNarrow();
     else
@@ -149,10 +149,35 @@ QString Header::simText() const
     return dashboardText("HEADER_SIM_ENDING").arg(isolated(number.right(SHOWN_DIGITS)));
 }
 
+// The operator's name is more important than the SIM.
+bool Header::hasRoomForSim() const
+{
+    if (m_form == Form::Narrow)
+        return false;
+    const QMargins margins = m_grid->contentsMargins();
+    int wanted = margins.left() + margins.right();
+    for (const QWidget *part : {static_cast<QWidget *>(m_operator), static_cast<QWidget *>(m_chip),
+                                static_cast<QWidget *>(m_bars), static_cast<QWidget *>(m_signal),
+                                static_cast<QWidget *>(m_simIcon), static_cast<QWidget *>(m_sim),
+                                static_cast<QWidget *>(m_eye), static_cast<QWidget *>(m_bell),
+                                static_cast<QWidget *>(m_menu)}) {
+        const bool isOfSim = part == m_simIcon || part == m_sim || (part == m_eye && m_hidesNumber);
+        if (isOfSim || !part->isHidden())
+            wanted += part->sizeHint().width() + m_grid->horizontalSpacing();
+    }
+    return wanted <= width();
+}
+
+void Header::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    showSim();
+}
+
 void Header::showSim()
 {
-    const bool isShown = m_form != Form::Narrow && !m_content.simNumber.isEmpty();
     m_sim->setText(simText());
+    const bool isShown = !m_content.simNumber.isEmpty() && hasRoomForSim();
     m_sim->setVisible(isShown);
     m_simIcon->setVisible(isShown);
     m_eye->setVisible(isShown && m_hidesNumber);

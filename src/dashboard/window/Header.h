@@ -46,6 +46,8 @@ public:
     void retranslate();
 
     QPushButton *menuButton() const { return m_menu; }
+    /// Returns true if the header has room for the SIM. If not, it belongs into the menu.
+    bool hasRoomForSim() const;
     /// Returns the description of the SIM, for example "SIM ending 6789".
     QString simText() const;
 
@@ -56,6 +58,9 @@ public slots:
 signals:
     void messagesRequested();
     void menuRequested();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void makeWidgets();

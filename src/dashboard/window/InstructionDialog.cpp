@@ -33,7 +33,7 @@ QLabel *makeText(const char *type, const char *name, const QString &text, QWidge
 /// Returns the width of the dialog, which is smaller on a small screen.
 int widthOn(const QScreen *screen)
 {
-    const int wanted = Look::instance().px(WIDTH);
+    const int wanted = px(WIDTH);
     return screen ? qMin(wanted, screen->availableGeometry().width() - 16) : wanted;
 }
 

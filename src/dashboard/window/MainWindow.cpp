@@ -310,7 +310,7 @@ void MainWindow::showHeader(const Situation &situation)
         status.isSimulated ? dashboardText("HEADER_DEMONSTRATION") : sim().paidTypeText();
     content.simNumber = status.imsi;
     m_header->showContent(content);
-    m_menu->setSim(m_header->simText(), m_form == Form::Narrow);
+    m_menu->setSim(m_header->simText(), !m_header->hasRoomForSim());
 }
 
 void MainWindow::showDeviceLine(const Situation &situation)

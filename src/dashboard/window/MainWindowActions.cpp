@@ -129,6 +129,7 @@ void MainWindow::focusPage()
 void MainWindow::showMenu()
 {
     QWidget *button = m_header->menuButton();
+    m_menu->setSim(m_header->simText(), !m_header->hasRoomForSim());
     m_menu->ensurePolished(); // applies the style sheet, which changes the size of the menu
     const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     const QPoint below =

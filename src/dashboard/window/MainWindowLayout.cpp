@@ -36,6 +36,7 @@ namespace
 
 const QSize FIRST_SIZE(1120, 720); // pixels
 const QSize SMALLEST_SIZE(360, 560);
+const QSize DECORATION(8, 40); // room for the borders and the title bar of the desktop
 const int WIDE_FROM = 66; // em
 const int MEDIUM_FROM = 46;
 
@@ -47,6 +48,13 @@ Form formOf(int width)
     if (width >= WIDE_FROM * em)
         return Form::Wide;
     return width >= MEDIUM_FROM * em ? Form::Medium : Form::Narrow;
+}
+
+/// Returns the size, bounded by the size of the screen. With a text size of 200 %, many screens are
+/// smaller than the minimum size of the window.
+QSize onScreen(const QSize &size)
+{
+    return size.boundedTo(QGuiApplication::primaryScreen()->availableSize() - DECORATION);
 }
 
 /// Invalidates the size hints of all layouts. For hidden pages, Qt keeps the old size hints, so the
@@ -85,7 +93,7 @@ void MainWindow::makePages()
     m_pages[int(PageId::Settings)] = m_settingsPage;
     for (Page *page : m_pages)
         m_stack->addWidget(page);
-    m_firstRun = new FirstRunPage(m_settings, &device(), &operatorCodes());
+    m_firstRun = new FirstRunPage(m_settings, &device(), &operatorCodes(), m_menu->languageMenu());
     m_stack->addWidget(m_firstRun);
     m_stack->setCurrentWidget(pageOf(PageId::Home));
     followFirstRun();
@@ -126,7 +134,7 @@ void MainWindow::makeCentre()
     m_grid->setRowStretch(PageRow, 1);
     m_grid->setColumnStretch(1, 1);
     setCentralWidget(m_root);
-    setMinimumSize(SMALLEST_SIZE);
+    setMinimumSize(onScreen(SMALLEST_SIZE));
     connect(m_navigation, &Navigation::chosen, this, [this](PageId page) { showPage(page); });
     connect(m_header, &Header::messagesRequested, this, [this] { showPage(PageId::Messages); });
     connect(m_header, &Header::menuRequested, this, &MainWindow::showMenu);
@@ -185,7 +193,7 @@ void MainWindow::restorePlace()
 {
     if (m_settings && restoreGeometry(m_settings->geometry()))
         return;
-    resize(FIRST_SIZE.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(onScreen(FIRST_SIZE));
     CommonUtils::MoveCentre(this);
 }
 

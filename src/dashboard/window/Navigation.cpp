@@ -35,11 +35,6 @@ const Entry ENTRIES[] = {
     {PageId::Settings, "settings", "NAV_SETTINGS", "Dashboard_NavSettings"},
 };
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
 LabelledButton::Arrangement arrangementOf(Form form)
 {
     switch (form) {

@@ -79,7 +79,7 @@ void PinDialog::makeWidgets()
     m_edit->setInputMethodHints(m_edit->inputMethodHints() | Qt::ImhDigitsOnly);
     const QString pattern = QString::fromLatin1("[0-9]{%1,%2}").arg(SHORTEST).arg(LONGEST);
     m_edit->setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), m_edit));
-    m_edit->setFixedWidth(Look::instance().px(FIELD_WIDTH));
+    m_edit->setFixedWidth(px(FIELD_WIDTH));
     m_label->setBuddy(m_edit);
     m_eye->setObjectName(QLatin1String("Dashboard_PinEye"));
     m_eye->setCheckable(true);
@@ -126,7 +126,7 @@ void PinDialog::layOut()
     column->addWidget(m_tries);
     column->addStretch();
     column->addLayout(buttons);
-    m_question->setMinimumWidth(Look::instance().px(TEXT_WIDTH));
+    m_question->setMinimumWidth(px(TEXT_WIDTH));
     setTabOrder(m_edit, m_ok);
     setTabOrder(m_ok, m_cancel);
     setTabOrder(m_cancel, m_eye);

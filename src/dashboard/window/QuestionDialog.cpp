@@ -87,7 +87,7 @@ void QuestionDialog::layOut()
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    scroll->setMaximumHeight(Look::instance().px(HIGHEST_TEXT));
+    scroll->setMaximumHeight(px(HIGHEST_TEXT));
     scroll->setWidget(m_text);
     setBox(scroll, "plain");
     setBox(scroll->viewport(), "plain");
@@ -99,7 +99,7 @@ void QuestionDialog::layOut()
     column->addWidget(scroll);
     column->addWidget(m_answers);
     column->addWidget(m_later, 0, Qt::AlignRight);
-    m_title->setMinimumWidth(Look::instance().px(WIDTH - 120));
+    m_title->setMinimumWidth(px(WIDTH - 120));
 }
 
 /// Returns true if the network expects an answer and the user cannot enter it because of a modal

@@ -21,11 +21,6 @@ const int FULL = 100;
 const int STRONG = 60; // per cent
 const int GOOD = 30;
 
-int px(int at100Percent)
-{
-    return Look::instance().px(at100Percent);
-}
-
 QRect barRect(int bar, int bottom)
 {
     const int height = px(LOWEST + (HEIGHT - LOWEST) * bar / (BARS - 1));

@@ -32,7 +32,7 @@ void StatusDot::setTone(Tone tone)
 
 QSize StatusDot::sizeHint() const
 {
-    const int diameter = Look::instance().px(DIAMETER);
+    const int diameter = px(DIAMETER);
     return QSize(diameter, diameter);
 }
 
