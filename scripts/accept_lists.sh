@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Accepts what a screen reader finds in the dashboard: replaces the lists in
-# tests/dashboard/screen_reader with which the test dashboard_screen_reader compares. Read the
-# differences before you commit them.
+# Accepts the current output of the test dashboard_screen_reader: replaces the expected lists in
+# tests/dashboard/screen_reader with lists of what a screen reader finds now. Review the differences
+# before you commit them.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

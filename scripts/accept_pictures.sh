@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Accepts the current looks of the dashboard: replaces the pictures in tests/dashboard/pictures with
-# which the test dashboard_pictures compares. Look at the new pictures before you commit them.
+# Accepts the current appearance of the dashboard: replaces the expected pictures of the test
+# dashboard_pictures in tests/dashboard/pictures. Review the new pictures before you commit them.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Generates docs/pictures/architecture.svg from docs/architecture.dot. tests/checks/architecture.sh
-# compares the arrows with the includes, and fails if the picture is not up to date.
+# compares the arrows with the #include directives, and fails if the picture is out of date.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

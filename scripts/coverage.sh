@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints which lines and branches of the plug-in its tests execute, for each file and in total:
-#   scripts/coverage.sh [ctest arguments...]
+# Prints the lines and branches of the plug-in that its tests execute, per file and in total:
+#     scripts/coverage.sh [ctest arguments...]
 # The build folder is build/coverage. Exception branches are excluded, because the plug-in's own
 # code does not throw exceptions.
 set -eu
@@ -15,7 +15,7 @@ report() {
 install_missing_packages run qt5 test test-qt5 check
 say "Building preset coverage; the first time this takes some minutes."
 configure_and_build coverage tests_plugin
-find build/coverage -name '*.gcda' -delete # the execution counts of the previous run
+find build/coverage -name '*.gcda' -delete # execution counts of the previous run
 nice ctest --preset coverage -L '^plugin$' "$@"
 report
 report --branches

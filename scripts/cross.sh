@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds the device SDK library, ussd, the plug-in and the minimal host for arm64, and runs the tests
-# of the record layouts, ussd and the host under qemu-user. Everything happens in a Debian 12 system in
-# FOLDER, so that the packages of this machine remain unchanged. Must be run as root. The first run
-# downloads about 500 MB. CI does not run this script.
-#   scripts/cross.sh [FOLDER]          FOLDER is /var/tmp/ussd-cross by default
+# Builds the device SDK library, ussd, the plug-in and the minimal host for arm64. Then runs the
+# tests of the record layouts, ussd and the host under qemu-user. The script works in a Debian 12
+# system in FOLDER, so the packages of this machine remain unchanged. Must be run as root. The first
+# run downloads about 500 MB. CI does not run this script.
+#     scripts/cross.sh [FOLDER]          the default FOLDER is /var/tmp/ussd-cross
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -25,7 +25,7 @@ prepare() {
     touch "$folder/prepared"
 }
 
-# in_build COMMAND...: runs the command in the build folder of the system.
+# in_build COMMAND...: runs the command in the build folder inside the system.
 in_build() { in_system "$folder" env -C /build QT_QPA_PLATFORM=offscreen TKSV_BACKEND=simulator "$@"; }
 
 build() {
@@ -37,8 +37,8 @@ build() {
         sdk_promises sdk_device sdk_simulator
 }
 
-# shows PATTERN PROGRAM ARGUMENT...: runs the arm64 program and requires that a line of its output matches
-# the pattern. Prints this line.
+# shows PATTERN PROGRAM ARGUMENT...: runs the arm64 program and fails unless a line of its output
+# matches the pattern. Prints this line.
 shows() {
     local pattern=$1 program=$2 output
     shift 2

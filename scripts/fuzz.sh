@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Runs the fuzzers one after another, each for the given time:
-#   scripts/fuzz.sh [SECONDS [FUZZER...]]
-# By default, each fuzzer runs for 600 s. New inputs are stored in build/fuzz-corpus, and the next
-# run continues with them. An input that causes a failure is stored in build/fuzz-findings. When you
-# have understood the failure, copy the input to tests/fuzz/corpus. The exit status is 1 if any
-# input has caused a failure.
+# Runs the fuzzers one after another for the given time each:
+#     scripts/fuzz.sh [SECONDS [FUZZER...]]
+# By default, each fuzzer runs for 600 s. New inputs are stored in build/fuzz-corpus, where the next
+# run finds them. An input that causes a failure is stored in build/fuzz-findings. After you have
+# analysed the failure, copy the input to tests/fuzz/corpus. The exit status is 1 if an input caused
+# a failure.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh

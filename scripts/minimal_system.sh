@@ -1,16 +1,16 @@
-# Functions for scripts that work in a minimal Debian 12 system in a folder, which they enter with
-# chroot. They must be run as root.
+# Functions for scripts that set up a minimal Debian 12 system in a folder and run commands in it
+# with chroot. The scripts must be run as root.
 
 DEBIAN_MIRROR=${DEBIAN_MIRROR:-http://deb.debian.org/debian}
 
-# make_minimal_system FOLDER: creates the system unless the folder exists.
+# make_minimal_system FOLDER: creates the system unless the folder already exists.
 make_minimal_system()
 {
     [ "$(id -u)" -eq 0 ] || { say "chroot requires root"; return 1; }
     [ -e "$1/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$1" "$DEBIAN_MIRROR"
 }
 
-# in_system FOLDER COMMAND...: runs the command in the system with an environment of its own.
+# in_system FOLDER COMMAND...: runs the command in the system with a clean environment.
 in_system()
 {
     local folder=$1
@@ -19,8 +19,8 @@ in_system()
         chroot "$folder" "$@"
 }
 
-# copy_source_tree FOLDER: copies the files that git tracks, as they are in the working tree. Keeps their
-# modification times, so that an incremental build is possible.
+# copy_source_tree FOLDER: copies the working-tree version of all files that git tracks. Preserves
+# their modification times, so that incremental builds work.
 copy_source_tree()
 {
     rm -rf "$1"

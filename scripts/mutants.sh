@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Applies faults to a copy of the plug-in, one at a time, and prints which tests detect each fault:
-#   scripts/mutants.sh [--part K/N] [--trust] [PATTERN...]
-# PATTERN selects faults by name. --part tries only every Nth fault, so that N processes can share
-# the work. --trust skips the initial run, which verifies that the tests pass without a fault.
-# tests/mutants contains the faults; docs/testing.md describes the format of these files.
+#     scripts/mutants.sh [--part K/N] [--trust] [PATTERN...]
+# PATTERN selects faults by name. With --part, the script tries only every Nth fault, so that N
+# processes can share the work. --trust skips the initial run, which verifies that the tests pass
+# without a fault. The faults are in tests/mutants; docs/testing.md describes the file format.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -38,8 +38,7 @@ chosen()
 }
 
 # Copies the files of the working tree, so that the faults never change the original files. Only
-# files that differ are copied. This also restores a file that still contains a fault because a
-# previous run was killed.
+# files that differ are copied. This also restores a file in which a killed run has left a fault.
 copy_tree()
 {
     local path
@@ -57,8 +56,8 @@ configure()
         -DUSSD_WARNINGS_AS_ERRORS=OFF
 }
 
-# build_and_run TARGET... -- CTEST-ARGUMENT...: builds the targets and runs the tests. Returns 0 if all
-# tests passed, 1 if a test failed, and 2 if the build failed.
+# build_and_run TARGET... -- CTEST-ARGUMENT...: builds the targets and runs the tests. Returns 0 if
+# all tests passed, 1 if a test failed, and 2 if the build failed.
 build_and_run()
 {
     local targets=()
@@ -75,7 +74,7 @@ everything() { build_and_run tests_plugin tests_hostile -- -L '^(plugin|hostile)
 
 who_noticed() { sed -n 's/^.* - \([a-z0-9_]*\) (.*$/\1/p' "$root/test.log" | sort -u | tr '\n' ' '; }
 
-# replace FILE: replaces $old, which must occur in the file exactly once, with $new.
+# replace FILE: replaces $old with $new. $old must occur in the file exactly once.
 replace()
 {
     old=$old new=$new perl -0777 -i -pe '
@@ -84,8 +83,8 @@ replace()
         s/\Q$ENV{old}\E/$ENV{new}/' "$1"
 }
 
-# Tries the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first, and all
-# tests if these pass.
+# Applies the fault $name, which replaces $old with $new in $file. Runs the tests in $tests first,
+# and all tests if these pass.
 try_fault()
 {
     local source result=0 pattern
@@ -112,7 +111,7 @@ try_fault()
     esac | tee -a "$report"
 }
 
-# run_list FILE: calls try_fault for each selected fault of the list.
+# run_list FILE: calls try_fault for each selected fault in the file.
 run_list()
 {
     local line name='' file='' tests='' old='' new='' number=0

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds the Debian packages of the working tree, and checks them with lintian. docs/building.md lists
-# the packages.
-#   scripts/package.sh [--version VERSION] [--check-reproducible] [FOLDER]
-# FOLDER, which is build/packages by default, receives the packages. --version builds another version
-# than the first one in debian/changelog. --check-reproducible builds a second time under different
+# Builds the Debian packages from the working tree, and checks them with lintian. docs/building.md
+# lists the packages.
+#     scripts/package.sh [--version VERSION] [--check-reproducible] [FOLDER]
+# The packages are written to FOLDER, by default build/packages. --version overrides the latest
+# version in debian/changelog. --check-reproducible builds the packages again under different
 # conditions, and compares all packages byte for byte.
 set -eu
 cd "$(dirname "$0")/.."
@@ -42,19 +42,18 @@ add_version()
     mv "$changelog.new" "$changelog"
 }
 
-# build_in FOLDER: builds the packages from a copy of the working tree in FOLDER/source. They are put
-# into FOLDER.
+# build_in FOLDER: copies the working tree to FOLDER/source, and builds the packages in FOLDER.
 build_in()
 {
     copy_source_tree "$1/source"
     [ -z "$version" ] || add_version "$1/source"
-    # A checkout sets the times of the files, which the packages would contain.
+    # The packages contain the modification times of the files, which differ between checkouts.
     find "$1/source" -exec touch --no-dereference \
         --date="@$(cd "$1/source" && dpkg-parsechangelog --show-field Timestamp)" {} +
     (cd "$1/source" && DEB_BUILD_OPTIONS="parallel=$(nproc) terse" dpkg-buildpackage --build=binary --no-sign)
 }
 
-# build_differently FOLDER: builds under other conditions than build_in, which must not matter.
+# build_differently FOLDER: like build_in, but under conditions that must not affect the packages.
 build_differently()
 {
     (
@@ -77,7 +76,7 @@ compare()
 
 install_missing_packages run qt5 validate package
 mkdir -p build "$output"
-work=$PWD/build/package # always the same path, so that ccache finds the results of an earlier build
+work=$PWD/build/package # a fixed path, so that ccache can reuse the results of earlier builds
 rm -rf "$work"
 mkdir "$work"
 follow build/package.log build_in "$work"

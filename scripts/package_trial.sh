@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Tries the Debian packages in a fresh minimal Debian 12 system, which it creates with debootstrap:
-# installs all packages with one command, runs the programs, builds the examples against the -dev packages,
-# upgrades to the next version with a changed configuration file, and purges the packages. Prints one line
-# for each step and stops at the first fault. Must be run as root. CI does not run this script.
-#   scripts/package_trial.sh [PACKAGES [FOLDER]]
-# PACKAGES, which is build/packages by default, contains the packages that scripts/package.sh has built.
-# FOLDER, which is /var/tmp/ussd-trial by default, receives the system. Later runs use the same minimal
-# system again.
+# Tests the Debian packages in a new minimal Debian 12 system, which it creates with debootstrap:
+# installs all packages with one command, runs the programs, builds the examples against the -dev
+# packages, upgrades to the next version with a changed configuration file, and purges the packages.
+# Prints one line for each step and stops at the first error. Must be run as root. CI does not run
+# this script.
+#     scripts/package_trial.sh [PACKAGES [FOLDER]]
+# PACKAGES contains the packages that scripts/package.sh has built; the default is build/packages.
+# The system is created in FOLDER, by default /var/tmp/ussd-trial. Later runs reuse the minimal
+# system.
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/prepare.sh
@@ -33,8 +34,8 @@ inside() {
     in_system "$system" "$@" >>"$log" 2>&1 || fail "$*"
 }
 
-# shows PATTERN COMMAND...: runs the command as an ordinary user in the system, and requires that a line of
-# its output matches the pattern.
+# shows PATTERN COMMAND...: runs the command as an ordinary user in the system, and fails unless a
+# line of its output matches the pattern.
 shows() {
     local pattern=$1 output
     shift
@@ -53,15 +54,15 @@ fresh_system() {
     make_minimal_system "$folder/minimal" >>"$log" 2>&1 || fail "debootstrap"
     rm -rf "$system"
     cp -a "$folder/minimal" "$system"
-    printf '#!/bin/sh\nexit 101\n' >"$system/usr/sbin/policy-rc.d" # does not start services
+    printf '#!/bin/sh\nexit 101\n' >"$system/usr/sbin/policy-rc.d" # prevents packages from starting services
     chmod +x "$system/usr/sbin/policy-rc.d"
     inside apt-get update
     inside useradd --create-home trial
     ok "minimal system with $(in_system "$system" dpkg-query -W -f '.\n' | wc -l) packages"
 }
 
-# install_packages FOLDER: installs all packages in FOLDER of the system with one command. Keeps changed
-# configuration files, as a user does who presses Return when dpkg asks.
+# install_packages FOLDER: installs all packages in this folder of the system with one command.
+# Keeps configuration files that were changed, which is the default answer to dpkg's prompt.
 install_packages() {
     inside sh -c "apt-get install -y --no-install-recommends -o Dpkg::Options::=--force-confold $1/*.deb"
 }
@@ -75,7 +76,8 @@ names() {
 try_programs() {
     shows '^Your balance is' ussd send --demo '*100#'
     shows 'Your balance is' ussd-dashboard --demo --send '*100#'
-    # The program ends with status 124 only if it was still running when the time was over.
+    # timeout exits with status 124 only if the program was still running at the end of the time
+    # limit.
     local status=0
     as_user timeout 10 ussd-dashboard --demo >>"$log" 2>&1 || status=$?
     [ $status -eq 124 ] || fail "ussd-dashboard --demo ended with status $status"
@@ -95,8 +97,8 @@ try_examples() {
     shows '^Received: Echo simulation' env LD_LIBRARY_PATH=device/build host/build/minimal-host --once '*100#'
 }
 
-# make_next_version: makes packages of a next version from the packages. Both of its configuration files
-# contain one line more.
+# make_next_version: builds packages of a later version from the existing ones. Each of the two
+# configuration files gets one additional line.
 make_next_version() {
     local package tree=$folder/tree version
     rm -rf "$system/next"

@@ -2,11 +2,11 @@
 # Debian packages, and configure and build the project. The working directory must be the root of
 # the source tree.
 
-PROGRESS_SECONDS=10 # between two progress lines of a build without a terminal
+PROGRESS_SECONDS=10 # between progress lines if there is no terminal
 
 say() { printf '%s\n' "$*" >&2; }
 
-# listed_packages SECTION...: prints the packages in these sections of packages.txt.
+# listed_packages SECTION...: prints the packages that packages.txt lists in these sections.
 listed_packages()
 {
     awk -v sections="$*" '
@@ -24,9 +24,9 @@ missing_packages()
             sed -n 's/^installed //p' | sort -u)
 }
 
-# install_missing_packages SECTION...: installs the missing packages in these sections. Only missing
-# packages are passed to apt-get, so it upgrades an installed package only if a dependency requires
-# this. If the user is not root, prints the command and returns 1.
+# install_missing_packages SECTION...: installs the missing packages in these sections. Passes only
+# the missing packages to apt-get, so that installed packages are upgraded only if a dependency
+# requires it. If the user is not root, prints the command and returns 1.
 install_missing_packages()
 {
     local missing
@@ -44,8 +44,7 @@ install_missing_packages()
         DEBIAN_FRONTEND=noninteractive $install >&2
 }
 
-# installed_qt: prints the version of Qt whose packages are installed: 5 or 6. Prints 5 if both are
-# installed or neither.
+# installed_qt: prints 6 if only the packages for Qt 6 are installed, otherwise 5.
 installed_qt()
 {
     if [ -n "$(missing_packages qt5)" ] && [ -z "$(missing_packages qt6)" ]; then
@@ -55,9 +54,9 @@ installed_qt()
     fi
 }
 
-# Copies the output of a build from standard input to standard output, and shows the progress on
-# standard error. On a terminal, a single line is updated. Otherwise, a new line is printed every
-# PROGRESS_SECONDS.
+# Copies a build's output from standard input to standard output, and shows the progress on standard
+# error. On a terminal, the progress is shown in a single line. Otherwise, a new line is printed
+# every PROGRESS_SECONDS.
 follow_build()
 {
     local line next=0 width
@@ -76,7 +75,7 @@ follow_build()
 }
 
 # follow LOG COMMAND...: runs COMMAND, shows only the progress, and writes the output to LOG. If
-# COMMAND fails, prints the complete output without the progress lines, and returns 1.
+# COMMAND fails, prints all output except the progress lines, and returns 1.
 follow()
 {
     local log=$1

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Generates the reference documentation of the public headers with Doxygen: FOLDER/tksv for the device
-# SDK and FOLDER/ussd-ui-plugin for hosts. Fails if Doxygen prints a warning, for example about a
-# function without a comment.
-#   scripts/reference.sh FOLDER
+# Generates the reference documentation of the public headers with Doxygen, in FOLDER/tksv for the
+# device SDK and in FOLDER/ussd-ui-plugin for hosts. Fails if Doxygen prints a warning, for example
+# because a function has no comment.
+#     scripts/reference.sh FOLDER
 set -eu
 folder=$(realpath -m "$1")
 cd "$(dirname "$0")/.."
 
-# settings NAME BRIEF HEADER...: prints the settings of Doxygen.
+# settings NAME BRIEF HEADER...: prints the Doxygen settings.
 settings()
 {
     local name=$1 brief=$2

@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
-# Runs clang-tidy on the source files of src, examples, tests and benchmarks:
-#   scripts/tidy.sh [PATTERN]
-# PATTERN is a regular expression that selects files by their path. The script does not compile
-# anything. The exit status is 1 if clang-tidy reports a problem. ./test --preset tidy runs this
-# script.
+# Runs clang-tidy on the source files in src, examples, tests and benchmarks:
+#     scripts/tidy.sh [PATTERN]
+# PATTERN is a regular expression that selects files by path. The script does not compile anything.
+# The exit status is 1 if clang-tidy reports a problem. ./test --preset tidy runs this script.
 set -eu
 cd "$(dirname "$0")/.."
 cmake --preset tidy
 
-# A file that is compiled for several programs is checked only once, with the options of the first
-# program.
+# A file that is part of several programs is checked only once, with the compiler options of the
+# first program.
 COMPILATIONS=$PWD/build/tidy/once
 mkdir -p "$COMPILATIONS"
 awk '/^\{/ { record = "{"; next }
@@ -32,7 +31,7 @@ run_moc()
 }
 
 # look_at "[3/370] FILE": prints its argument and runs clang-tidy on FILE. Prints the output of
-# clang-tidy only if clang-tidy reports a problem.
+# clang-tidy only if there is a problem.
 look_at()
 {
     local file=${1##* } folder said

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// A translated text in a language file.
+/// A translated string in a language file.
 struct CatalogueEntry {
     QString context;
     QString key;
@@ -17,16 +17,15 @@ struct CatalogueEntry {
     QString name() const { return context + QLatin1Char('/') + key; }
 };
 
-/// The content of a language file, and checks of this content. Every check returns one line per
-/// fault.
+/// The content of a language file. Each check returns one line per fault.
 class Catalogue
 {
 public:
-    /// Reads the format of Qt Linguist. After a syntax error, complaints() returns only that error.
+    /// Reads a Qt Linguist file. After a syntax error, complaints() returns only that error.
     static Catalogue fromXml(const QByteArray &xml);
 
     const QList<CatalogueEntry> &entries() const { return m_entries; }
-    QMap<QString, QString> texts() const; ///< the texts by key
+    QMap<QString, QString> texts() const; ///< the translations by text key
     QString text(const QString &context, const QString &key) const;
     QStringList complaints() const { return m_complaints; }
 
@@ -34,13 +33,13 @@ public:
     QStringList unfinished() const;
     QStringList missing(const QStringList &names) const;
 
-    /// Finds texts whose placeholders (%s, %1, %n ...) differ from those in `english`.
+    /// Finds translations whose placeholders (%s, %1, %n ...) differ from those in `english`.
     QStringList otherPlaceholders(const Catalogue &english) const;
 
-    /// Finds texts that contain a code without left-to-right marks around the code.
+    /// Finds translations with a code that is not enclosed in left-to-right marks.
     QStringList unmarkedCodes() const;
 
-    /// Finds text keys of the plug-in whose mnemonics use the same letter.
+    /// Finds text keys of the plug-in whose translations have the same mnemonic.
     QStringList clashingMnemonics(const QStringList &keysOfAWindow) const;
 
 private:

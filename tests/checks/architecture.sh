@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Checks the diagram of the folders. docs/architecture.dot must contain an arrow for every #include
-# from one folder of src to another, and no other arrow. The arrows must not form a cycle.
-# docs/pictures/architecture.svg must have been generated from docs/architecture.dot.
+# Checks the architecture diagram. For each #include directive between two folders of src,
+# docs/architecture.dot must contain an arrow. The diagram must not contain any other arrows or any
+# cycles. docs/pictures/architecture.svg must have been generated from docs/architecture.dot.
 . "$(dirname "$0")/common.sh"
 
-# Prints a line "FROM TO" for each pair of folders below src that an #include connects. The public
-# headers of the device SDK count as a folder named "tksv.h".
+# Prints a line "FROM TO" for each pair of folders in src that are connected by an #include
+# directive. The public headers of the device SDK count as a folder named "tksv.h".
 included_folders() {
     local file name
     cpp_files src | while IFS= read -r file; do
@@ -15,7 +15,7 @@ included_folders() {
             done
     done | perl -e '
         sub folder { $_[0] =~ m{^src/sdk/tksv(_device)?\.h$} ? "tksv.h" : $_[0] =~ m{^src/(.*)/} ? $1 : "" }
-        my %place; # maps each suffix of a path to its header
+        my %place; # maps each suffix of a header path to the header
         for my $header (split /\n/, $ENV{headers}) {
             my @parts = split m{/}, $header;
             $place{join "/", @parts[$_ .. $#parts]} = $header for 0 .. $#parts;
@@ -31,7 +31,7 @@ included_folders() {
         }' | sort -u
 }
 
-# Prints the pairs of folders in the diagram.
+# Prints the pairs of folders that the diagram connects.
 drawn_folders() { sed -nE 's/^ *"([^"]+)" -> "([^"]+)".*/\1 \2/p' docs/architecture.dot | sort -u; }
 
 headers=$(cpp_files src | grep '\.h$')

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that each test named in the last column of the tables in docs/behaviour.md exists, and that
-# each fault in tests/mutants matches the code that it changes.
+# Checks that the tests in the last column of the tables in docs/behaviour.md exist, and that the
+# faults in tests/mutants replace existing code.
 . "$(dirname "$0")/common.sh"
 
 if [ -f docs/behaviour.md ]; then

@@ -1,5 +1,5 @@
-# Common code of the checks. A check prints one line for each fault, and its exit status is 1 if
-# there is a fault. The first argument of each script is the root folder of the source tree.
+# Functions that the checks share. A check prints one line for each fault. Its exit status is 1 if
+# there is a fault, otherwise 0. Its first argument is the root folder of the source tree.
 set -u
 export LC_ALL=C.UTF-8
 root=$(cd "$1" && pwd) || exit 2
@@ -17,7 +17,7 @@ finish() {
     exit 1
 }
 
-# Prints the names of the C++ files below the given folders.
+# Prints the paths of the C++ files in the given folders and their subfolders.
 cpp_files() {
     local folder
     for folder in "$@"; do

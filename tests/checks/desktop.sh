@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Checks the menu entry, the description for software centres and the icons. Also checks that the
-# version is the same everywhere. Exits with status 77, which CTest counts as skipped, if a validator
-# is not installed and no fault was found.
+# Checks the menu entry, the description for software centres and the icons, and that all files
+# contain the same version. If a validator is not installed and no fault was found, the exit status
+# is 77, which CTest reports as skipped.
 . "$(dirname "$0")/common.sh"
 entry=desktop/ussd-dashboard.desktop
 metainfo=desktop/org.ussd_dashboard.dashboard.metainfo.xml
 skipped=
 
-# validate COMMAND FILE: complains about the output of the validator if it rejects the file.
+# validate COMMAND FILE: reports the validator's output if the validator rejects the file.
 validate() {
     local said
     if ! command -v "${1%% *}" >/dev/null; then
@@ -17,7 +17,7 @@ validate() {
     fi
 }
 
-# number_at FILE OFFSET: prints the 32-bit number at the offset of a PNG file.
+# number_at FILE OFFSET: prints the 32-bit number at this offset in a PNG file.
 number_at() {
     od -An -tu1 -j "$2" -N 4 "$1" | awk '{ print (($1 * 256 + $2) * 256 + $3) * 256 + $4 }'
 }

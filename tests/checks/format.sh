@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks that clang-format would not change any C++ file.
+# Checks that all C++ files are formatted as clang-format would format them.
 . "$(dirname "$0")/common.sh"
 
 command -v clang-format >/dev/null || complain "clang-format is not installed"

@@ -6,8 +6,8 @@ standard='^[a-z_]+$'
 qt='^Q[A-Za-z0-9]+$'
 any='.'
 
-# check FILES ANGLE QUOTED...: ANGLE is a pattern for headers in <>. QUOTED are the folders or
-# single files whose headers may be included in "".
+# check FILES ANGLE QUOTED...: ANGLE is a pattern that matches the permitted headers in <>. QUOTED
+# are the folders and single files whose headers may be included in "".
 check() {
     local files=$1 angle=$2 file name
     [ -n "$files" ] || return 0
@@ -38,7 +38,7 @@ allowed() {
     return 1
 }
 
-# lies_in_folder NAME FILE FOLDER: succeeds if NAME, as included by FILE, is a file inside FOLDER.
+# lies_in_folder NAME FILE FOLDER: succeeds if the header NAME that FILE includes is inside FOLDER.
 lies_in_folder() {
     local name=$1 file=$2 folder=$3 candidate
     for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do
@@ -51,8 +51,9 @@ lies_in_folder() {
 }
 
 core_own=$(cpp_files src/core | grep -v '^src/core/common/')
-# check_layers ANGLE PARENT BELOW FOLDER...: each folder of PARENT may include BELOW and the folders
-# listed before it. The files directly in PARENT may include all of these folders.
+# check_layers ANGLE PARENT BELOW FOLDER...: each FOLDER in PARENT may include headers from BELOW
+# and from the folders listed before it. The files directly in PARENT may include headers from all
+# of these folders.
 check_layers() {
     local angle=$1 parent=$2 below=$3 folder
     shift 3
@@ -80,7 +81,7 @@ check_layers "$any" src/dashboard \
 check "$(cpp_files src/provisioning)" '^[a-zA-Z_/.]+$' src/provisioning src/formats src/compat src/files
 check "$(cpp_files src/tools)" "$any" src/tools src/provisioning src/formats src/core \
     src/core/common src/compat src/files src/sdk
-sdk_angle='^[a-pr-zA-PR-Z]' # no Qt
+sdk_angle='^[a-pr-zA-PR-Z]' # excludes Qt headers
 sdk_headers='src/sdk/tksv.h src/sdk/tksv_device.h'
 check "$(cpp_files src/cli)" "$sdk_angle" src/cli $sdk_headers
 sdk_top=$(cpp_files src/sdk | grep -vE '^src/sdk/(base|sim|modemmanager)/')

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks that every manual page is formatted without a warning.
+# Checks that all manual pages can be formatted without warnings.
 . "$(dirname "$0")/common.sh"
 
 while IFS= read -r page; do

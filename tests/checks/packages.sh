@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that packages.txt lists each package once, in a section that a command installs. Also
-# checks that the packages that ./test needs by default are installed on this machine.
+# Checks that packages.txt lists each package only once, and in a section that a command installs.
+# Also checks that the packages that ./test requires by default are installed.
 . "$(dirname "$0")/common.sh"
 
 declare -A seen
@@ -23,7 +23,7 @@ while read -r package rest; do
     [ -z "${seen[$package]:-}" ] || complain "packages.txt: $package stands there twice"
     seen[$package]=1
     case $section in
-    '[check]' | '[qt6]' | '[test-qt6]' | '[validate]' | '[package]') continue ;; # ./test does not need these packages by default
+    '[check]' | '[qt6]' | '[test-qt6]' | '[validate]' | '[package]') continue ;; # not required by ./test by default
     esac
     state=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)
     [ "$state" = installed ] || complain "packages.txt: $package is not installed"

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Checks that the code that Qt 4 hosts use compiles with the headers of Qt 4, without linking it:
-#   USSD_QT4_INCLUDE=DIR ./test -R qt4_headers
-# DIR is the include folder of a Qt 4, which contains QtCore/ and QtGui/. Without the variable, the
-# check is skipped, because Debian has no Qt 4. The compiler is $CXX, by default g++.
+# Compiles the code that Qt 4 hosts use with the headers of Qt 4, without linking it:
+#     USSD_QT4_INCLUDE=DIR ./test -R qt4_headers
+# DIR is the include folder of a Qt 4 installation, which contains QtCore/ and QtGui/. The check is
+# skipped if the variable is not set, because Debian does not provide Qt 4. The compiler is $CXX, by
+# default g++.
 . "$(dirname "$0")/common.sh"
 
 SKIPPED=77
@@ -20,7 +21,7 @@ fi
 
 options=(-fsyntax-only -x c++ -std=c++14 -fPIC -Wall -Wextra -Werror)
 options+=(-DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII)
-# The values that the build system passes to single files.
+# The macros that the build system defines for individual files.
 options+=('-DUSSD_BUILD_KEY="key"' '-DUSSD_PACKAGE_NAME="name"' '-DUSSD_SHARE_FROM_LIB="share"')
 for folder in "$include" "$include/QtCore" "$include/QtGui"; do
     options+=(-isystem "$folder")

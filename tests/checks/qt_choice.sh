@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks which version of Qt ./run uses, depending on the installed packages. A replacement for
-# dpkg-query reports the packages of the given sections as installed.
+# Checks which version of Qt ./run selects for different sets of installed packages. A shell
+# function replaces dpkg-query, and reports the packages in the given sections as installed.
 . "$(dirname "$0")/common.sh"
 . scripts/prepare.sh
 
@@ -11,7 +11,8 @@ dpkg-query() {
     listed_packages $sections | sed 's/^/installed /'
 }
 
-# chooses VERSION SECTION...: checks the version if the packages of these sections are installed.
+# chooses VERSION SECTION...: requires that ./run selects this version if only the packages in these
+# sections are installed.
 chooses() {
     local version=$1
     shift

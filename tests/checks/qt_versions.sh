@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Checks that the plug-in and its libraries can be built with Qt 4.6 to Qt 6 from the same source:
-# only one header may query the Qt version, and nothing may be used that only some versions have.
+# only one header may query the Qt version, and the code must not use any API that a supported
+# version lacks.
 . "$(dirname "$0")/common.sh"
 
 shared="src/USSDUIPlugin src/formats src/files src/core examples/host"
 
-# Names that do not exist in Qt 4.6 or are deprecated in Qt 5.15.
+# APIs that Qt 4.6 lacks or Qt 5.15 deprecates.
 missing_in_qt4='QStringLiteral|QByteArrayLiteral|QSaveFile|QStandardPaths|QCommandLine[A-Za-z]+'
 missing_in_qt4+='|QJson[A-Za-z]+|QRegularExpression[A-Za-z]*|QElapsedTimer|QDeadlineTimer'
 missing_in_qt4+='|QTemporaryDir|QLoggingCategory|qInstallMessageHandler|QStringView|QScopeGuard'
@@ -16,18 +17,18 @@ missing_in_qt4+='|toHtmlEscaped|setSectionResizeMode|horizontalAdvance|chopped|a
 missing_in_qt4+='|QMutexLocker<|setTimerType'
 deprecated='qSort|qStableSort|SkipEmptyParts|toSet|qInstallMsgHandler'
 
-# Connections and calls that use a function pointer instead of a name, even if they span several
-# lines.
+# Function pointers that are passed to connect() and similar functions instead of names, even in a
+# statement that spans several lines.
 by_function='(?s)\bconnect\((?:[^;]*?),\s*&\w+::\w+'
 with_lambda='(?s)\b(?:connect|singleShot|invokeMethod)\((?:[^;]*?)\[[&=\w, ]*\]\s*(?:\(|\{)'
 
-# The calls that give a document to a parser. Only ForwardXml::start() may call them, because it refuses
-# documents that declare entities, which Qt 4 would expand without a limit.
+# Calls that pass a document to a parser. Only ForwardXml::start() may contain them, because it
+# rejects documents that declare entities. Qt 4 would expand these entities without a limit.
 parser_input='QXmlStreamReader [A-Za-z_]+[({]|\.(setDevice|addData)\('
 
 algorithm='\bstd::((stable_)?sort|find(_if)?|(any|all|none)_of|(lower|upper)_bound|unique|reverse|count(_if)?)\('
 
-# The headers that declare the namespace Qt in every version of Qt.
+# Headers that declare the namespace Qt in every version of Qt.
 declares_qt='#include (<Qt>|<Q[A-Za-z]*(Widget|Dialog|Edit|Label|Button|Frame|Application|Delegate)>|")'
 
 while IFS= read -r hit; do
@@ -44,13 +45,13 @@ while IFS= read -r file; do
     while IFS= read -r hit; do
         [ "$file" = src/formats/ForwardXml.cpp ] || complain "$file: not by ForwardXml::start(): $hit"
     done < <(printf '%s\n' "$code" | grep -nE "$parser_input")
-    # The headers of Qt 5 include <algorithm>, those of Qt 4 do not.
+    # The headers of Qt 5 include <algorithm>; those of Qt 4 do not.
     if grep -qE "$algorithm" <<<"$code" && ! grep -qE '#include <algorithm>' <<<"$code"; then
         complain "$file: calls an algorithm without <algorithm>"
     fi
     case $file in
     *.h)
-        # In Qt 4, the non-widget headers do not declare the namespace Qt.
+        # In Qt 4, only headers of widgets declare the namespace Qt.
         if grep -qE '\<Qt::' <<<"$code" && ! grep -qE "$declares_qt" <<<"$code"; then
             complain "$file: uses Qt:: without <Qt> or the header of a widget"
         fi

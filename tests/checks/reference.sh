@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks that Doxygen generates the reference documentation of the public headers without a warning.
-# Exits with status 77, which CTest counts as skipped, if Doxygen is not installed.
+# Checks that Doxygen generates the reference documentation of the public headers without warnings.
+# If Doxygen is not installed, the exit status is 77, which CTest reports as skipped.
 . "$(dirname "$0")/common.sh"
 
 command -v doxygen >/dev/null || exit 77

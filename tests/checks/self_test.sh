@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Tests that each check finds the faults that it looks for, in small source trees with one fault
-# each.
+# Tests that each check detects the faults that it is meant to detect. Each test uses a small source
+# tree with a single fault.
 set -u
 checks=$(cd "$(dirname "$0")" && pwd)
 source_tree=$(cd "$1" && pwd) || exit 2
@@ -8,7 +8,7 @@ tree=$(mktemp -d) || exit 2
 trap 'rm -rf "$tree"' EXIT
 wrong=0
 
-# write FILE: writes the standard input to the file.
+# write FILE: writes standard input to the file.
 write() {
     mkdir -p "$tree/$(dirname "$1")"
     cat >"$tree/$1"
@@ -33,7 +33,7 @@ fresh_tree() {
     write src/dashboard/Program.h </dev/null
 }
 
-# passes CHECK: requires that the check finds no fault.
+# passes CHECK: requires that the check does not find any fault.
 passes() {
     local said
     said=$(bash "$checks/$1.sh" "$tree" 2>&1) && return
@@ -41,8 +41,8 @@ passes() {
     wrong=1
 }
 
-# finds CHECK PATTERN FILE: writes the standard input to FILE and requires that the check prints a
-# line that matches PATTERN.
+# finds CHECK PATTERN FILE: writes standard input to FILE, and requires that the check prints a line
+# that matches PATTERN.
 finds() {
     local said
     fresh_tree

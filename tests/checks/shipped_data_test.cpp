@@ -33,7 +33,7 @@ namespace
 {
 const QString ROOT = QString::fromUtf8(USSD_SOURCE_DIR);
 
-/// An XML element, reduced to the parts that these tests check.
+/// An XML element, reduced to the parts that these tests compare.
 struct Element {
     QString name;
     QXmlStreamAttributes attributes;

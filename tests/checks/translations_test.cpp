@@ -4,7 +4,7 @@
 #include <QDirIterator>
 #include <QFile>
 
-/// Tests the language files, and the checks that are applied to them.
+/// Tests the language files, and the checks that this test applies to them.
 class TranslationsTest : public UssdTest
 {
     Q_OBJECT
@@ -90,7 +90,7 @@ QStringList keys(const char *blankSeparated)
     return QString::fromLatin1(blankSeparated).split(QLatin1Char(' '));
 }
 
-/// Returns the text keys of the push buttons of each window.
+/// Returns the text keys of the push buttons, one list for each window.
 QList<QStringList> windows()
 {
     return QList<QStringList>()

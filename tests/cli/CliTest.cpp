@@ -23,7 +23,7 @@ UssdProcess::~UssdProcess()
     waitForFinished();
 }
 
-/// Called in the child process before the program is executed.
+/// Runs in the child process immediately before it executes the program.
 void UssdProcess::setupChildProcess()
 {
     for (auto stream = m_streams.constBegin(); stream != m_streams.constEnd(); ++stream)

@@ -8,13 +8,13 @@
 
 /** The result of a finished program. */
 struct Run {
-    int code = -1; // the exit code; -1 if the program did not end, or if a signal ended it
+    int code = -1; // the exit code; -1 if the program is still running or was ended by a signal
     QString out;
     QString error;
 };
 
 /**
- * A `ussd` process. Its standard streams can be replaced with file descriptors of the test.
+ * A `ussd` process. A test can replace the standard streams of the process with file descriptors.
  */
 class UssdProcess : public QProcess
 {
@@ -23,12 +23,13 @@ public:
     explicit UssdProcess(const QStringList &arguments);
     ~UssdProcess() override; ///< kills the program if it is still running
 
-    /// Replaces a standard stream of the program. Must be called before start().
+    /// Replaces a standard stream of the program with a file descriptor. Must be called before
+    /// start().
     void replaceStream(int stream, int file) { m_streams.insert(stream, file); }
-    /// Makes start() run the program with this signal ignored, as nohup does.
+    /// Makes start() run the program with this signal ignored, like nohup.
     void ignoreSignal(int signal) { m_ignoredSignal = signal; }
     void start();
-    /// Waits until standard output or standard error contains the text.
+    /// Waits until the string appears on standard output or standard error.
     bool waitForOutput(const QString &text);
     bool waitForError(const QString &text);
     void sendSignal(int signal);
@@ -47,7 +48,7 @@ private:
     QString m_error;
 };
 
-/** A pipe that is full and that no process reads. A program that writes to the pipe is blocked. */
+/** A pipe that is full and is never read. A program that writes to the pipe blocks. */
 class FullPipe
 {
 public:
@@ -61,7 +62,7 @@ private:
     int m_ends[2] = {-1, -1};
 };
 
-/** The base class of tests that run `ussd`. */
+/** The base class for tests that run `ussd`. */
 class CliTest : public UssdTest
 {
 protected:
@@ -72,11 +73,11 @@ protected:
     static QStringList words(const char *line);
 };
 
-/// Returns the JSON objects that the lines of the output contain. Returns an empty object for a
-/// line that is not JSON.
+/// Returns one JSON object for each line of the output. The object is empty if the line is not
+/// JSON.
 QList<QJsonObject> objectsIn(const QString &output);
 
-/// Compares the exit code. If it is wrong, prints the output of the program.
+/// Compares the exit code. If it differs, prints the output of the program.
 #define COMPARE_EXIT(run, expected)                                                                \
     QVERIFY2((run).code == (expected), qPrintable(QString::fromLatin1("exit code %1\n%2\n%3")      \
                                                       .arg((run).code)                             \

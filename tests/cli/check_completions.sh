@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check_completions.sh PROGRAM ROOT: checks that the man page and the completions contain every
-# option and command of the program, and that the completion for bash suggests the right words.
+# check_completions.sh PROGRAM ROOT: checks that the man page and the completion files contain all
+# options and commands of the program, and that bash completion suggests the correct words.
 set -u
 program=$1
 root=$2
@@ -35,7 +35,8 @@ ussd() {
     printf '%s\tHostile\tregistered\n' '$(complain a modem ran a command >&3)'
 }
 
-# proposes WORDS EXPECTED: checks the completion of the last word of the command line WORDS.
+# proposes WORDS EXPECTED: checks which words are suggested for the last word of the command line
+# WORDS.
 proposes() {
     read -ra COMP_WORDS <<<"$1"
     [ "${1% }" = "$1" ] || COMP_WORDS+=('')
@@ -56,7 +57,7 @@ proposes 'ussd --modem 3' '350000000000017'
 proposes 'ussd --modem = 35' '350000000000017'
 proposes 'ussd --modem 9' ''
 
-# The identifier of a modem comes from the modem. The shell must not expand it.
+# The modem identifier is untrusted input from the modem, so the shell must not expand it.
 exec 3>&1
 proposes 'ussd --modem ' '350000000000017 \$\(complain\ a\ modem\ ran\ a\ command\ \>\&3\)'
 proposes 'ussd send *100# ' ''

@@ -14,7 +14,8 @@
 using namespace Cli;
 
 /**
- * Tests parts of `ussd` that other programs share, or that cannot be tested by running the program.
+ * Tests functions that `ussd` shares with other programs, and functions that cannot be tested by
+ * running the program.
  */
 class PartsTest : public UssdTest
 {
@@ -52,7 +53,7 @@ std::string textOf(int reason, bool wasNotSent)
 
 } // namespace
 
-/// Tests all characters of the basic multilingual plane, and one character outside it.
+/// Tests all characters of the basic multilingual plane, and one character outside this plane.
 void PartsTest::eachCharacterIsAsSafeAsInTheDashboard()
 {
     for (int unit = 1; unit < 0x10000; ++unit) {
@@ -142,8 +143,8 @@ void PartsTest::loneSurrogatesAreReplaced()
                                            "b\xef\xbf\xbd\xef\xbf\xbd"));
 }
 
-/// Tests that the first signal is read from the descriptor, and that the second signal ends the
-/// process at once.
+/// Tests that the first signal can be read from the descriptor, and that the second signal ends the
+/// process immediately.
 void PartsTest::theSecondSignalIsNotHeldBack()
 {
     const pid_t child = fork();

@@ -1,4 +1,4 @@
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
+// The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -56,8 +56,8 @@ const char CANCEL[] = "AT+CUSD=2";
 const char FIRST_IMEI[] = "350000000000017";
 const char SECOND_IMEI[] = "350000000000025";
 
-/// Returns a scenario with one code for each program. The network replies to each code after a
-/// short delay.
+/// Returns a scenario with a separate code for each program. The network replies to each code after
+/// a short delay.
 std::string networkFor(int programs)
 {
     std::string network = "[Network]\nOperator=Test Net\nIMSI=001010000000001\nDelay=20\n";
@@ -71,8 +71,8 @@ std::string networkFor(int programs)
 } // namespace
 
 /**
- * Tests `ussd` with a real ModemManager and a fake AT modem. The commands that the modem has
- * received show what the program sent.
+ * Tests `ussd` with a real ModemManager and a fake AT modem. The tests check the commands that the
+ * modem has received.
  */
 class UssdModemTest : public CliTest
 {
@@ -160,7 +160,7 @@ void UssdModemTest::tearDown()
         fprintf(stderr, "%s\n", m_world->logTail().c_str());
 }
 
-/// Returns true if the daemon has no USSD session.
+/// Returns true if ModemManager has no USSD session.
 bool UssdModemTest::isIdle()
 {
     const std::unique_ptr<MmClient> client = otherProgram();
@@ -180,7 +180,7 @@ void UssdModemTest::repliesAndMenus()
     const Run reply = run("send *100#");
     COMPARE_EXIT(reply, EXIT_DONE);
     QCOMPARE(reply.out, latin1("Your balance is 12.50 EUR.\n"));
-    QCOMPARE(reply.error, QString()); // no demonstration is announced
+    QCOMPARE(reply.error, QString()); // no announcement of a demonstration
     QCOMPARE(run("send *101#").out, QString::fromUtf8("رصيدك ١٢٫٥٠\n"));
     const Run menu = run("send *123# 1");
     COMPARE_EXIT(menu, EXIT_DONE);
@@ -275,8 +275,8 @@ void UssdModemTest::aSignalEndsTheMenuOfAChat()
     QVERIFY(isIdle());
 }
 
-/// Tests a signal that arrives while the menu is being written. The answer must not be sent,
-/// because it could be a purchase.
+/// Tests a signal that arrives while `ussd` is writing the menu. `ussd` must not send the answer,
+/// because the answer might buy something.
 void UssdModemTest::afterASignalNoAnswerIsSent()
 {
     const FullPipe pipe;
@@ -284,7 +284,8 @@ void UssdModemTest::afterASignalNoAnswerIsSent()
     process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
     process.start();
     QVERIFY(modem().waitForCommand(INITIATE));
-    QVERIFY(!process.waitForFinished(500)); // the menu arrives after a few milliseconds
+    // The menu arrives within milliseconds, so the program is now blocked by the full pipe.
+    QVERIFY(!process.waitForFinished(500));
     process.sendSignal(SIGINT);
     const Run result = process.finish();
     COMPARE_EXIT(result, EXIT_CANCELLED);
@@ -356,7 +357,8 @@ void UssdModemTest::aModemThatGoesAwayIsLost()
     QCOMPARE(failure.value(latin1("notSent")).toBool(true), false);
 }
 
-/// Tests that the next code is not charged to the subscriber of another modem.
+/// Tests that `ussd` does not send the next code through another modem, where another subscriber
+/// would be charged.
 void UssdModemTest::anotherModemGetsNoFurtherCode()
 {
     UssdProcess process(words("send -"));
@@ -442,7 +444,8 @@ void UssdModemTest::cancelEndsTheSessionOfAnotherProgram()
     QVERIFY(isIdle());
 }
 
-/// Starts several programs at the same time. Each program must print the reply to its own code.
+/// Starts several programs at the same time. Each program must print the reply to the code that it
+/// sent.
 void UssdModemTest::compareManyPrograms(int count)
 {
     QCOMPARE(m_world->useScenario("one", networkFor(count)), std::string());
@@ -470,7 +473,7 @@ void UssdModemTest::eightProgramsGetTheirOwnReplies()
     compareManyPrograms(8);
 }
 
-/// Tests a second program that waits while the first program uses the modem. A signal ends the
+/// Tests that the second program waits while the first program uses the modem. A signal ends the
 /// first program.
 void UssdModemTest::aProgramWaitsForItsTurn()
 {
@@ -489,9 +492,9 @@ void UssdModemTest::aProgramWaitsForItsTurn()
     QCOMPARE(result.error.count(latin1("Waiting")), 1);
 }
 
-/// Tests that the time-out of the second program starts again when the program detects that it has
-/// to wait. This takes at least 100 ms, so the program must end at least 100 ms later than without
-/// this restart.
+/// Tests that the second program restarts its time-out when it detects that it has to wait. The
+/// detection takes at least 100 ms, so the program must end at least 100 ms later than without the
+/// restart.
 void UssdModemTest::theTimeOutStartsWithTheTurn()
 {
     UssdProcess first(words("send *131#"));

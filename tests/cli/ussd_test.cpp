@@ -14,7 +14,7 @@ namespace
 
 const char DEMONSTRATION[] = "Demonstration: the network is invented; nothing is sent.\n";
 
-/// Returns a scenario in which the device is in this state and the network replies to codes.
+/// Returns a scenario in which the device has this state and the network replies to codes.
 QByteArray scenarioWithState(const QByteArray &state)
 {
     return "[Network]\nOperator=O\nIMSI=001010000000007\nState=" + state +
@@ -29,7 +29,7 @@ QByteArray scenarioWithReply(const QByteArray &reply)
 
 } // namespace
 
-/** Tests `ussd` with simulated networks, as a script would run it. */
+/** Tests `ussd` with simulated networks, as it is used in scripts. */
 class UssdProgramTest : public CliTest
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ private:
     Run runWith(const QByteArray &scenario, const QStringList &arguments);
 };
 
-/// Sets the environment that the programs inherit. CTest itself sets TKSV_BACKEND=simulator.
+/// Sets the environment for the programs. CTest itself sets TKSV_BACKEND=simulator.
 void UssdProgramTest::setUp()
 {
     qputenv("TKSV_SCENARIO", CLI_SCENARIO);
@@ -354,8 +354,7 @@ void UssdProgramTest::withoutAModemNothingIsInvented_data()
         QTest::newRow(line) << QByteArray(line);
 }
 
-/// Tests that the program does not simulate a network if there is no message bus and a simulated
-/// network was not requested.
+/// Tests that the program never simulates a network on its own, even if there is no message bus.
 void UssdProgramTest::withoutAModemNothingIsInvented()
 {
     QFETCH(QByteArray, line);
@@ -412,8 +411,8 @@ void UssdProgramTest::failuresAreJson()
     QCOMPARE(disabled.value(latin1("notSent")).toBool(false), true);
 }
 
-/// Tests that the JSON object contains the complete reply, but no character that controls a
-/// terminal.
+/// Tests that the JSON object contains the complete reply, with control characters escaped so that
+/// they cannot affect a terminal.
 void UssdProgramTest::jsonKeepsControlCharacters()
 {
     const QString text = QString::fromUtf8("a\x1b[31m\"\\\x7f\xc2\x9b\xe2\x80\xae\tz");
@@ -460,7 +459,7 @@ void UssdProgramTest::aMenuInTheInputIsEnded()
     QVERIFY(!result.out.contains(QLatin1String("balance")));
 }
 
-/// Tests that the program fails before it has read the complete line.
+/// Tests that the program does not wait for the end of the line before it fails.
 void UssdProgramTest::anEndlessLineIsNoCode()
 {
     UssdProcess process(words("send -"));
@@ -503,7 +502,7 @@ void UssdProgramTest::aClosedPipeIsAFailure()
     COMPARE_EXIT(process.finish(), EXIT_NOT_WRITTEN);
 }
 
-/// Tests that no other file of the program receives the descriptor of the closed stream.
+/// Tests that the program does not open any other file with the descriptor of the closed stream.
 void UssdProgramTest::aClosedStandardOutputIsAFailure()
 {
     QProcess shell;
@@ -551,7 +550,8 @@ void UssdProgramTest::aSignalEndsABlockedWrite()
     process.replaceStream(STDOUT_FILENO, pipe.writeEnd());
     process.start();
     QVERIFY(process.waitForError(latin1("Demonstration")));
-    QVERIFY(!process.waitForFinished(300)); // the reply arrives after 5 ms
+    // The reply arrives after 5 ms, so the program is now blocked by the full pipe.
+    QVERIFY(!process.waitForFinished(300));
     process.sendSignal(SIGTERM);
     COMPARE_EXIT(process.finish(), EXIT_SIGNAL + SIGTERM);
 }
@@ -568,8 +568,8 @@ void UssdProgramTest::afterASignalNothingIsSent_data()
     QTest::newRow("chat") << QByteArray("chat *123#") << QByteArray("1\n") << QByteArray();
 }
 
-/// Tests a signal that arrives while the first reply is being written. The next code or answer must
-/// not be sent, because it could be a purchase.
+/// Tests a signal that arrives while the first reply is being written. The program must not send
+/// the next code or answer, because it might buy something.
 void UssdProgramTest::afterASignalNothingIsSent()
 {
     QFETCH(QByteArray, line);
@@ -581,7 +581,8 @@ void UssdProgramTest::afterASignalNothingIsSent()
     process.start();
     process.write(input);
     QVERIFY(process.waitForError(latin1("Demonstration")));
-    QVERIFY(!process.waitForFinished(300)); // the reply arrives after 5 ms
+    // The reply arrives after 5 ms, so the program is now blocked by the full pipe.
+    QVERIFY(!process.waitForFinished(300));
     process.sendSignal(SIGINT);
     const Run result = process.finish();
     COMPARE_EXIT(result, EXIT_CANCELLED);
@@ -597,7 +598,7 @@ void UssdProgramTest::aChatReadsAnswers()
     COMPARE_EXIT(result, EXIT_DONE);
     QCOMPARE(result.out, QLatin1String("Menu\n1 First\n2 Second\n\nSecond\n1 Deeper\n\n"
                                        "Deep enough.\n\nYour balance is 7.00 EUR.\n"));
-    QCOMPARE(result.error, QLatin1String(DEMONSTRATION)); // there is no prompt without a terminal
+    QCOMPARE(result.error, QLatin1String(DEMONSTRATION)); // no prompt without a terminal
 }
 
 void UssdProgramTest::aChatHasAPromptOnATerminal()

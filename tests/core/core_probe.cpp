@@ -1,6 +1,6 @@
 /*
- * Prints the folders that the loaded core library returns, and a text for each argument of the form
- * LANGUAGE:KEY. Tests that copy the library to another place run this program.
+ * Prints the folders that the core library returns, and the translation for each argument of the
+ * form LANGUAGE:KEY. Tests run this program after they have copied the library to another folder.
  */
 #include <QCoreApplication>
 #include <QTextStream>

@@ -197,7 +197,8 @@ void ExtendDialogTest::aFrameThatGrowsBeyondTheScreenScrolls()
     frame.AddMainWidget(content);
     frame.show();
     QVERIFY(!frame.findChild<QScrollArea *>());
-    for (const QSize &size : {LARGE, LARGE * 2}) { // as after a change of the language
+    // A language change can also make the frame larger after it has been shown.
+    for (const QSize &size : {LARGE, LARGE * 2}) {
         frame.setFixedSize(size);
         drainEvents();
         QVERIFY(screenRect().contains(frame.geometry()));
@@ -224,7 +225,7 @@ void ExtendDialogTest::scrolledContentIsReplaced()
     frame.setFixedSize(LARGE);
     frame.AddMainWidget(old);
     frame.show();
-    frame.AddMainWidget(old); // is the content already
+    frame.AddMainWidget(old); // no change, because this widget is already shown
     QVERIFY(frame.findChild<QScrollArea *>());
     frame.AddMainWidget(next);
     drainEvents();

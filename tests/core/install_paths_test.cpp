@@ -34,7 +34,7 @@ void store(const QString &path, const QByteArray &content)
 
 } // namespace
 
-/** Tests that files and texts are found after the complete installation prefix has been moved. */
+/** Tests that files and translations are found after the installation prefix has been moved. */
 class InstallPathsTest : public UssdTest
 {
     Q_OBJECT

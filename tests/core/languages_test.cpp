@@ -19,7 +19,9 @@ QString pluginText(const char *key)
     return Change::tr(QLatin1String("USSDUIPlugin"), QLatin1String(key));
 }
 
-/** Looks up texts in a separate thread and counts texts that do not belong to any language. */
+/**
+ * Looks up translations in a separate thread, and counts results that are not from any language.
+ */
 class Reader
 {
 public:
@@ -212,15 +214,15 @@ void LanguagesTest::everyDamageIsSeen_data()
     }
 }
 
-/// Tests that every damage is detected. Without the checksum, about one in a hundred damaged files
-/// crashed the program when a text was looked up.
+/// Tests that damage to any byte is detected. Before the checksum was added, looking up a
+/// translation in a damaged file crashed the program in about one of a hundred cases.
 void LanguagesTest::everyDamageIsSeen()
 {
     QFETCH(QByteArray, content);
     QVERIFY(!HostCore::Languages::isWhole(content));
 }
 
-/// Tests that QTranslator can read the files. It skips the section that contains the checksum.
+/// Tests that QTranslator can read the files. QTranslator skips the section with the checksum.
 void LanguagesTest::anyTranslatorReadsTheFiles()
 {
     for (const QString &code : HostCore::Languages::codes()) {

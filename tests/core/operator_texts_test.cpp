@@ -8,7 +8,7 @@
 
 using namespace HostCore;
 
-/// Tests the operator's texts: how the file is read, and how they replace those of the plug-in.
+/// Tests how the operator's strings are read, and how they replace the plug-in's strings.
 class OperatorTextsTest : public UssdTest
 {
     Q_OBJECT

@@ -9,9 +9,9 @@
 using namespace Formats;
 
 /**
- * Tests that patterns from a configuration file mean the same with every version of Qt. Each
- * version that the tests are built with must give the results in the table, which are those of
- * QRegExp in Qt 5. In several cases, other classes for regular expressions give other results.
+ * Tests that patterns in a configuration file have the same meaning with every version of Qt. The
+ * expected results in the table are those of QRegExp in Qt 5. Other regular expression classes give
+ * different results in several cases.
  */
 class PatternsTest : public UssdTest
 {
@@ -122,7 +122,7 @@ void PatternsTest::patternMeansTheSame()
     QCOMPARE(position, row.state == QValidator::Invalid ? int(text.size()) : 0);
 }
 
-/// Enters the text character by character, as a user does.
+/// Types the text one character at a time, as a user would.
 void PatternsTest::fieldTakesWhatTheValidatorAccepts()
 {
     QLineEdit edit;
@@ -167,7 +167,7 @@ void PatternsTest::limitsOfAServiceField()
     const QRegExp pattern = SmsLayoutFile::inputPattern(control);
     QVERIFY(pattern.exactMatch(QStringLiteral("1234")));
     QVERIFY(!pattern.exactMatch(QStringLiteral("12345")));
-    control.limitText = QStringLiteral("a]b"); // not a character class: any character
+    control.limitText = QStringLiteral("a]b"); // not a character class; any character is accepted
     QVERIFY(SmsLayoutFile::inputPattern(control).exactMatch(QStringLiteral("a[]b")));
 }
 

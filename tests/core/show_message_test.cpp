@@ -49,8 +49,8 @@ private slots:
     void aLongTextStaysOnTheScreen();
 
 private:
-    /// Shows the message, calls `answer` with the open box, and returns the result of the message
-    /// box.
+    /// Shows the message and calls `answer` with the open message box. Returns the result of the
+    /// message box.
     int ask(const std::function<void(QMessageBox *)> &answer, const QString &text,
             bool secondButton = true, QWidget *parent = nullptr);
     int ask(const std::function<void(QMessageBox *)> &answer, bool secondButton = true)

@@ -49,7 +49,7 @@ void CommandTest::setDevice(int state, bool waitsForTurn)
 
 void CommandTest::settle()
 {
-    for (int i = 0; i < 2; ++i) { // the plug-in's reaction to an event may cause a second one
+    for (int i = 0; i < 2; ++i) { // the plug-in's reaction to an event may cause another event
         QVERIFY(fakeSdkWaitIdle());
         drainEvents();
     }

@@ -9,7 +9,7 @@
 #include "plugin/LoadedPlugin.h"
 #include "UssdTest.h"
 
-/** The base class of tests that observe the plug-in's embedded window with the fake device SDK. */
+/** The base class for tests that observe the plug-in's embedded window with the fake SDK. */
 class CommandTest : public UssdTest
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ protected:
     void tearDown() override;
 
     static void setDevice(int state, bool waitsForTurn = false);
-    /// Handles everything that the SDK has delivered so far.
+    /// Waits until the SDK has delivered all events, and processes them.
     void settle();
-    /// Moves the clock of the monitor, and lets the monitor count.
+    /// Advances the monitor's clock and updates the monitor.
     void pass(int seconds);
 
     Dashboard::CommandMonitor &monitor() { return *m_monitor; }

@@ -62,7 +62,7 @@ void DeviceTest::tell(const TKSV_DeviceInfo &info)
     fakeSdkSetDeviceInfo(info);
     QVERIFY(fakeSdkWaitIdle());
     drainEvents();
-    drainEvents(); // shows the widgets that were made by the events before
+    drainEvents(); // shows the widgets that the first call has created
 }
 
 void DeviceTest::tellModems(const std::vector<TKSV_Modem> &modems)

@@ -12,7 +12,7 @@
 #include "UssdTest.h"
 #include "window/MainWindow.h"
 
-/** The base class of tests that run the dashboard with the fake device SDK. */
+/** The base class for tests that run the dashboard with the fake device SDK. */
 class DeviceTest : public UssdTest
 {
     Q_OBJECT
@@ -36,13 +36,13 @@ protected:
         return m_window->findChild<T *>(QLatin1String(name));
     }
     QAction *networkAction(const QString &text) const;
-    /// Returns the title and the text with which the page of codes says why it cannot send, or an
-    /// empty string if it can send.
+    /// Returns the title and the text of the state strip if it explains why no code can be sent.
+    /// Otherwise returns an empty string.
     QString trouble() const;
-    /// Returns the title and the text of the page of codes about the last command, or an empty
-    /// string if nothing goes on.
+    /// Returns the title and the text that the state strip shows for the last command, or an empty
+    /// string if there is no command.
     QString commandText() const;
-    /// Returns the visible button, or null if there is none.
+    /// Returns the visible button for the remedy, or null if there is none.
     QPushButton *remedyButton(Dashboard::Remedy remedy) const;
     /// Returns the text of the visible banner, or an empty string if there is none.
     QString banner() const;

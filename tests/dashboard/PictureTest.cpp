@@ -12,9 +12,9 @@ const char FONT[] = "DejaVu Sans";
 const int EM = 14; // in pixels
 const int SMALLEST_FILE = 0;
 
-// Two versions of a font library draw the edges of letters a little differently.
+// Versions of the font library differ slightly in how they draw the edges of letters.
 const int SAME_SHADE = 40;      // of 255
-const double TOLERANCE = 0.002; // part of all pixels that may differ
+const double TOLERANCE = 0.002; // share of the pixels that may differ
 
 bool isAccepting()
 {

@@ -7,10 +7,10 @@
 #include "UssdTest.h"
 
 /**
- * The base class of tests that compare widgets with pictures in the folder "pictures". The look is
- * started, with a font that every Debian system can have.
+ * The base class for tests that compare widgets with the pictures in the folder "pictures". The
+ * tests use the style of the dashboard and a font that is available on every Debian system.
  *
- * If the environment variable USSD_ACCEPT_PICTURES is set, the test writes the pictures instead.
+ * If the environment variable USSD_ACCEPT_PICTURES is set, the tests write the pictures instead.
  */
 class PictureTest : public UssdTest
 {
@@ -20,14 +20,14 @@ protected:
     void setUpClass() override;
     void tearDown() override;
 
-    /// Compares the widget with the picture of this name. If they differ, the test fails, and the
-    /// widget and the differences are saved.
+    /// Compares the widget with the picture of this name. If they differ, the test fails and saves
+    /// the widget and the marked differences.
     void compare(QWidget *widget, const QString &name);
 
     static void use(Dashboard::Shade shade, Qt::LayoutDirection direction = Qt::LeftToRight);
 
-    /// Returns the number of pixels that differ visibly, or -1 if the sizes differ. Marks them in
-    /// `marked`.
+    /// Returns the number of pixels that differ visibly, or -1 if the sizes differ. If `marked` is
+    /// not null, it receives a picture in which these pixels are marked.
     static int differences(const QImage &actual, const QImage &expected, QImage *marked = nullptr);
 };
 

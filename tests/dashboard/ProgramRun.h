@@ -4,23 +4,24 @@
 #include <QProcess>
 #include <QStringList>
 
-/** A complete run of ussd-dashboard. */
+/** The result of a complete run of ussd-dashboard. */
 struct Run {
     int code = -1;
     QString out;
-    QString error; // without the line that announces a demonstration
+    QString error; // without the line that announces the demonstration
     bool isDemonstration = false;
 };
 
-/// Runs the program. $PROGRAM_FILE of the test contains its path.
+/// Runs the program whose path is in the test's environment variable $PROGRAM_FILE.
 Run run(const QStringList &arguments, const QProcessEnvironment &environment);
-/// Runs the program with arguments that are separated by single blanks.
+/// Runs the program. The arguments are separated by single spaces.
 Run run(const char *line);
-/// Returns the environment of the test without a display. It selects the network quick.scenario.
+/// Returns the environment for a run without a display and with the simulated network
+/// quick.scenario.
 QProcessEnvironment quickNetwork();
-/// Returns the environment of a user without a modem, who has selected no simulated network.
+/// Returns the environment for a run without a modem and without a simulated network.
 QProcessEnvironment noModem();
-/// Returns what the process has printed, after it has ended. The code is -1 if it crashed.
+/// Waits until the process has ended and returns its output. The exit code is -1 if it crashed.
 Run finished(QProcess &process);
 
 #endif

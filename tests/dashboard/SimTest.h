@@ -12,8 +12,8 @@
 #include "window/MainWindow.h"
 
 /**
- * The base class of tests that change the SIM. They run the dashboard with their own plug-in
- * library folder.
+ * The base class for tests that change the SIM card. They run the dashboard with a private copy of
+ * the plug-in's library folder.
  */
 class SimTest : public UssdTest
 {
@@ -24,10 +24,10 @@ protected:
 
     void makeLibrary();
     void closeDashboard();
-    /// Replaces text in the plug-in's configuration. Must be called before openDashboard().
+    /// Replaces a string in the plug-in's configuration. Must be called before openDashboard().
     bool configure(const char *anchor, const char *before, const char *after);
     void openDashboard();
-    /// Selects a simulated network with this IMSI, these [Network] keys and these codes.
+    /// Selects a simulated network with this IMSI and with the given [Network] keys and codes.
     void useNetwork(const char *imsi, const char *keys = "", const char *codes = "");
 
     Dashboard::MainWindow &window() { return *m_window; }
@@ -35,7 +35,7 @@ protected:
     Dashboard::GeneralWindow page() const { return Dashboard::GeneralWindow(m_window->page()); }
     QPushButton *button(const char *name) const;
     QAction *action(const char *name) const;
-    /// Returns the names of the windows that are offered, for example "general prepaid".
+    /// Returns the names of the windows that the dashboard offers, for example "general prepaid".
     QString offered() const;
     QString paidType() const;
     /// Returns the plug-in's open frame, or null if there is none.

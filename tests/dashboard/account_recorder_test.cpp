@@ -27,7 +27,7 @@ QString code(const char *text)
 
 } // namespace
 
-/** Tests which replies are stored, and what is read out of each of them. */
+/** Tests which replies are stored, and which values are read from them. */
 class AccountRecorderTest : public UssdTest
 {
     Q_OBJECT
@@ -196,7 +196,7 @@ void AccountRecorderTest::patternsWin()
     QCOMPARE(reading.amount->currency, QLatin1String("EUR"));
     QCOMPARE(*reading.date, QDate(2027, 12, 31));
     QCOMPARE(reading.data->left, qint64(512) << 20);
-    // A reply that does not match tells no balance, even if the general rules would find one.
+    // The operator's pattern replaces the general rules, so no balance is read from this reply.
     QVERIFY(!patterns.read(QLatin1String("Balance: 9.99 EUR")).amount);
     QVERIFY(patterns.read(QLatin1String("+999550123456")).number);
 }

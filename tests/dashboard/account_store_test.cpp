@@ -26,8 +26,8 @@ namespace
 
 const char SIM[] = "sim";
 const int KILLS = 40;
-const int MOST_ENTRIES = 4;       // that a writer adds before it may be killed
-const int LONGEST_REST = 8000000; // ns from the last of them to the kill
+const int MOST_ENTRIES = 4;       // entries that a writer adds before it is killed
+const int LONGEST_REST = 8000000; // ns between the last of these entries and the kill
 
 QString sim()
 {
@@ -54,7 +54,8 @@ AccountEntry balance(const char *amount, int dayNumber)
     return entry(QString::fromLatin1("Balance: %1 EUR").arg(QLatin1String(amount)), day(dayNumber));
 }
 
-/// Returns the result of SQLite's own check, and the number of entries without a day.
+/// Returns the result of SQLite's integrity check. Sets `orphans` to the difference between the
+/// daily totals and the entries.
 QString integrity(const QString &path, int *orphans)
 {
     QString result;
@@ -74,8 +75,8 @@ QString integrity(const QString &path, int *orphans)
     return result;
 }
 
-/// Adds entries with a rising balance until the process is killed.
-/// Reports each entry with a byte.
+/// Adds entries with an increasing balance until the process is killed. After each entry, writes a
+/// byte to `report`.
 [[noreturn]] void writeForEver(const QString &file, int report)
 {
     AccountDatabase database(file);
@@ -96,7 +97,7 @@ int anyNumberBelow(int limit)
     return QRandomGenerator::global()->bounded(limit);
 }
 
-/// Starts a writer and kills it at a random moment, which may be inside any system call.
+/// Starts a writer and kills it at a random time, possibly in the middle of a system call.
 void killWriter(const QString &file)
 {
     int ends[2];
@@ -121,7 +122,7 @@ void killWriter(const QString &file)
 
 } // namespace
 
-/** Tests the file with the replies about the account. */
+/** Tests the database with the replies about the account. */
 class AccountStoreTest : public UssdTest
 {
     Q_OBJECT
@@ -294,7 +295,8 @@ void AccountStoreTest::theDemonstrationIsNotStored()
     store.add(balance("1.00", 0));
     QVERIFY(!QFile::exists(m_folder));
     store.setSim(sim(), AccountStore::Keeping::InFile);
-    QVERIFY(store.newestBalance().isNull()); // not even of a SIM with the same key
+    // Entries of a demonstration are not shown for real SIM cards, even if the key is the same.
+    QVERIFY(store.newestBalance().isNull());
 }
 
 void AccountStoreTest::everythingCanBeDeleted()
@@ -308,7 +310,7 @@ void AccountStoreTest::everythingCanBeDeleted()
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList());
     store.add(balance("2.00", 1));
     store.setSim(sim(), AccountStore::Keeping::InMemory);
-    store.removeAll(); // also removes the file that is not in use
+    store.removeAll(); // also deletes the other database file
     QVERIFY(!QFile::exists(m_file));
 }
 
@@ -352,7 +354,7 @@ void AccountStoreTest::aFileOfALaterVersionStaysAsItIs()
     store.add(balance("2.00", 1));
     QCOMPARE(problems.size(), 1);
     QCOMPARE(contentOf(m_file), before);
-    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000)); // in memory
+    QCOMPARE(store.newestBalance().reading.amount->units, qint64(20000)); // kept in memory only
 }
 
 void AccountStoreTest::aKillKeepsTheFileWhole()
@@ -364,11 +366,11 @@ void AccountStoreTest::aKillKeepsTheFileWhole()
         const AccountEntry last = database.newestBalance(sim());
         const qint64 units = last.reading.amount ? last.reading.amount->units : 0;
         QVERIFY(database.takeDamagedFile().isEmpty());
-        QVERIFY(units >= previous); // no committed entry is lost
+        QVERIFY(units >= previous); // no committed entry has been lost
         previous = units;
         int orphans = 0;
         QCOMPARE(integrity(m_file, &orphans), QLatin1String("ok"));
-        QCOMPARE(orphans, 0); // an entry and its day are one transaction
+        QCOMPARE(orphans, 0); // an entry and its daily total are written in one transaction
     }
     QVERIFY(previous > 0);
 }
@@ -386,7 +388,8 @@ void AccountStoreTest::theKeyOfASimDoesNotTellIt()
     QCOMPARE(QFile::permissions(salt) & (QFile::ReadGroup | QFile::ReadOther),
              QFile::Permissions());
     QVERIFY(QFile::remove(salt));
-    QVERIFY(simKey(imsi, m_folder) != key); // another installation
+    // The key of a SIM card differs between installations.
+    QVERIFY(simKey(imsi, m_folder) != key);
 }
 
 void AccountStoreTest::entriesAreExported()
@@ -417,7 +420,7 @@ void AccountStoreTest::entriesAreExported()
 void AccountStoreTest::anExportThatFailsKeepsTheOldFile()
 {
     const QString file = writeFile(QLatin1String("a.csv"), "old");
-    QVERIFY(QDir().mkpath(m_file)); // a folder is no database
+    QVERIFY(QDir().mkpath(m_file)); // a folder is not a database
     QVERIFY(!exportAccountTo(file, m_file).isEmpty());
     QCOMPARE(contentOf(file), QByteArray("old"));
     QVERIFY(exportAccountTo(folder() + QLatin1String("/a.txt"), m_file)
@@ -434,7 +437,7 @@ void AccountStoreTest::theDemonstrationIsFilled()
     AccountStore store(m_file);
     store.setSim(sim(), AccountStore::Keeping::InFile);
     inventAccount(&store, codes);
-    QVERIFY(store.newestBalance().isNull()); // never among real entries
+    QVERIFY(store.newestBalance().isNull()); // invented entries are not added to real ones
     store.setSim(sim(), AccountStore::Keeping::Demonstration);
     inventAccount(&store, codes);
     QCOMPARE(plainAmount(*store.newestBalance().reading.amount), QLatin1String("12.50"));

@@ -6,7 +6,7 @@ using namespace Dashboard;
 namespace
 {
 
-/// Parses a command line whose arguments are separated by single blanks.
+/// Parses a command line. The arguments are separated by single spaces.
 Arguments parse(const char *line)
 {
     return parseArguments(QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts));

@@ -7,7 +7,7 @@
 
 using namespace Dashboard;
 
-/** Tests the codes that are kept, and that neither numbers nor PINs are kept. */
+/** Tests that codes are stored, but that phone numbers and PINs are not. */
 class CodeHistoryTest : public UssdTest
 {
     Q_OBJECT
@@ -119,7 +119,7 @@ void CodeHistoryTest::noNumberIsOnTheDisk()
     const QByteArray kept = contentOf(file());
     QVERIFY(kept.contains("*101*"));
     QVERIFY2(!kept.contains("1234567890"), kept.constData());
-    QCOMPARE(history.codes().size(), 2); // an answer or a number alone is not a code
+    QCOMPARE(history.codes().size(), 2); // answers and phone numbers are not codes
 }
 
 void CodeHistoryTest::otherLinesAreSkipped()

@@ -17,7 +17,7 @@
 
 using namespace Dashboard;
 
-/** Tests the page of codes with the real general window and the fake device SDK. */
+/** Tests the codes page with the real general window and the fake SDK. */
 class CodesPageTest : public CommandTest
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ QList<QPushButton *> CodesPageTest::presets()
         QLatin1String("USSDUIPlugin_AdvancedDialog_PreButton"));
 }
 
-/// Returns the place of the transcript in the area.
+/// Returns the position and size of the transcript in the scroll area.
 QRect CodesPageTest::transcript()
 {
     const QTextEdit *history = general().history();
@@ -128,7 +128,8 @@ void CodesPageTest::theNarrowFormHidesThePresets()
     QCOMPARE(presets().first()->mapTo(codes().area(), QPoint()).x(), 24);
 }
 
-// The plug-in shows the buttons that are in use after the user has saved codes.
+// Tests that the preset buttons stay hidden in the narrow form, although the plug-in shows them
+// again after the user has saved codes.
 void CodesPageTest::theEditorDoesNotBringThePresetsBack()
 {
     codes().setForm(Form::Narrow);
@@ -139,7 +140,7 @@ void CodesPageTest::theEditorDoesNotBringThePresetsBack()
     codes().setForm(Form::Wide);
     settle();
     QVERIFY(presets().first()->isVisible());
-    QVERIFY(presets().at(1)->isHidden()); // the plug-in has not shown it again
+    QVERIFY(presets().at(1)->isHidden()); // only the first button was shown again
 }
 
 void CodesPageTest::aSmallPageScrollsBelowTheStrip()
@@ -187,7 +188,7 @@ void CodesPageTest::theKeysAnswerAndStop()
     fakeSdkScript({fakeReply(u"Menu\n1 One\n2 Two\n0 Back", 1), fakeSilence()});
     monitor().send(QLatin1String("*123#"));
     settle();
-    shortcut(QKeySequence(QLatin1String("Alt+5")))->trigger(); // there is no such choice
+    shortcut(QKeySequence(QLatin1String("Alt+5")))->trigger(); // the menu has no such choice
     shortcut(QKeySequence(QLatin1String("Alt+0")))->trigger();
     settle();
     QVERIFY(fakeSdkCommands() == (std::vector<std::u16string>{u"*123#", u"0"}));
@@ -266,7 +267,7 @@ void CodesPageTest::theHistoryOpensInTheEmptyField()
     QVERIFY(!list()->isVisible() && fakeSdkCommands().empty());
 }
 
-// The list has opened while the user was typing, and no row of it is chosen.
+// Tests that pressing Return sends the typed text if no row in the list is selected.
 void CodesPageTest::returnSendsWhatIsTyped()
 {
     QLineEdit *edit = general().commandEdit();
@@ -300,7 +301,8 @@ void CodesPageTest::theReplyIsCopied()
     QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 7.00 EUR."));
 }
 
-// The style sheet makes other progress bars flat.
+// Tests that the ring is round, although the style sheet limits the height of all other progress
+// bars.
 void CodesPageTest::theRingIsRoundWithTheStyleSheet()
 {
     Look::instance().start();

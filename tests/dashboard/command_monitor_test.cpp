@@ -27,7 +27,7 @@ TKSV_FailureInfo failure(TKSV_Failure reason, bool wasNotSent = false)
 
 } // namespace
 
-/** Tests each transition between the states of a command, and the races between them. */
+/** Tests each state transition of a command, and race conditions between the transitions. */
 class CommandMonitorTest : public CommandTest
 {
     Q_OBJECT
@@ -170,7 +170,7 @@ void CommandMonitorTest::theMenuIsNotEndedWhileACommandIsPending()
     monitor().send(QLatin1String("*123#"));
     settle();
     monitor().answer(QLatin1String("1"));
-    monitor().endMenu(); // the answer is on its way, but the monitor has not looked yet
+    monitor().endMenu(); // the answer has been sent, but the monitor has not processed it yet
     settle();
     monitor().endMenu();
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());
@@ -195,7 +195,8 @@ void CommandMonitorTest::aCancelledCommandIsShown()
     QCOMPARE(fakeSdkCommands().size(), std::size_t(2));
 }
 
-// The real SDK refuses to cancel a request whose reply is being delivered.
+// Tests a reply that is faster than the cancellation. The SDK cannot cancel a request whose reply
+// is already being delivered.
 void CommandMonitorTest::aReplyThatWasFasterThanCancelCounts()
 {
     monitor().send(QLatin1String("*104#"));
@@ -203,7 +204,7 @@ void CommandMonitorTest::aReplyThatWasFasterThanCancelCounts()
     fakeSdkSetResult("TKSV_Device_CancelRequest", 1);
     fakeSdkRespond(u"Text");
     QVERIFY(fakeSdkWaitIdle());
-    monitor().cancel(); // the monitor has not handled the reply yet
+    monitor().cancel(); // the monitor has not processed the reply yet
     settle();
     QCOMPARE(state().kind, Kind::Ready);
     QCOMPARE(page().lastReceived(), QLatin1String("Text"));
@@ -224,7 +225,7 @@ void CommandMonitorTest::aRefusalIsShown()
     QCOMPARE(state().kind, Kind::Ready);
 }
 
-// The plug-in does not disable the code field for such a command.
+// Tests a command that was not sent. The plug-in does not disable the code field in this case.
 void CommandMonitorTest::aCommandThatWasNotSentIsShown()
 {
     fakeSdkSetAnswer(fakeRefused(1, 1));
@@ -242,7 +243,7 @@ void CommandMonitorTest::aCommandThatWasNotSentIsShown()
     page().clearButton()->click();
     QCOMPARE(page().transcript(), QString());
     settle();
-    QCOMPARE(state().kind, Kind::Ready); // the old failure does not come back
+    QCOMPARE(state().kind, Kind::Ready); // the earlier failure is not shown again
 }
 
 void CommandMonitorTest::theTimeOutOfThePluginIsShown()
@@ -319,7 +320,7 @@ void CommandMonitorTest::aDismissedFailureUncoversTheMenu()
     QCOMPARE(state().choices.size(), 2);
 }
 
-// An answer belongs to a menu that is no longer open.
+// Tests that an answer cannot be sent again, because its menu is no longer open.
 void CommandMonitorTest::onlyCodesAreSentAgain()
 {
     fakeSdkScript({fakeReply(menu().toStdU16String(), 1), fakeNetworkRefusal()});
@@ -400,7 +401,7 @@ void CommandMonitorTest::aWindowBehindAnotherIsQueued()
     settle();
     QCOMPARE(state().kind, Kind::Queued);
     QCOMPARE(state().text, QLatin1String("Another window is asking."));
-    QVERIFY(!state().mayBeCancelled); // or the other window's command would be cancelled
+    QVERIFY(!state().mayBeCancelled); // cancelling would affect the command of the other window
     monitor().cancel();
     QVERIFY(fakeSdkCalls("TKSV_Device_CancelRequest").empty());
 }

@@ -10,7 +10,8 @@ using namespace Dashboard;
 namespace
 {
 
-/// Returns the horizontal centre of the pixels that differ from the pixel in the corner.
+/// Returns the horizontal centre of the pixels whose colour differs from that of the top-left
+/// pixel.
 double centreOfContent(const QImage &image)
 {
     double sum = 0;
@@ -173,7 +174,7 @@ private slots:
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
         QVERIFY(centreOfContent(button.grab().toImage()) > 200);
         button.setBadge(latin1("2"));
-        QVERIFY(centreOfContent(button.grab().toImage()) < 200); // the badge is at the end
+        QVERIFY(centreOfContent(button.grab().toImage()) < 200); // the badge is on the left
     }
 
     void labelledButtonHasRoomForItsText()

@@ -21,7 +21,7 @@ namespace
 const QDateTime NOON(QDate(2026, 11, 21), QTime(12, 0));
 const int LIMIT = 10000; // ms
 
-/** A notification as the service received it. */
+/** A notification that the service has received. */
 struct Received {
     uint replaces;
     QString title;
@@ -31,7 +31,7 @@ struct Received {
 
 } // namespace
 
-/** A notification service that records what it is asked for. */
+/** A notification service that records the requests that it receives. */
 class FakeNotifications : public QObject
 {
     Q_OBJECT
@@ -163,13 +163,14 @@ void DesktopNotifierTest::registerService()
     QVERIFY(bus.registerService(latin1("org.freedesktop.Notifications")));
 }
 
-/// Waits until the service has received this number of notifications, and until the client has
-/// received the answers.
+/// Waits until the service has received this number of notifications and the client has received
+/// the replies.
 bool DesktopNotifierTest::isNotified(int count)
 {
     const bool isThere =
         QTest::qWaitFor([&] { return m_service->received.size() == count; }, LIMIT);
-    QDBusConnection bus(latin1("client")); // a call that is answered after the earlier ones
+    // The reply to a call over this connection arrives after all earlier replies.
+    QDBusConnection bus(latin1("client"));
     QDBusMessage ping =
         QDBusMessage::createMethodCall(latin1("org.freedesktop.Notifications"), latin1("/"),
                                        latin1("org.freedesktop.DBus.Peer"), latin1("Ping"));
@@ -225,7 +226,7 @@ void DesktopNotifierTest::aClickOpensTheMessage()
             [&activated](DesktopNote::Kind, qint64 id) { activated << id; });
     say("first");
     QVERIFY(isNotified(1));
-    emit m_service->ActionInvoked(99, latin1("default")); // of another program
+    emit m_service->ActionInvoked(99, latin1("default")); // belongs to another program
     emit m_service->ActionInvoked(7, latin1("default"));
     QVERIFY(QTest::qWaitFor([&] { return !activated.isEmpty(); }, LIMIT));
     QCOMPARE(activated, QList<qint64>{m_store->newest().id});
@@ -266,7 +267,8 @@ void DesktopNotifierTest::aLowBalanceIsANotificationOfItsOwn()
     QVERIFY(isNotified(1));
     m_center->notifyLowBalance(latin1("1.50 EUR"));
     QVERIFY(isNotified(2));
-    QCOMPARE(m_service->received.last().replaces, 0u); // the message stays
+    // The balance notification does not replace the notification about the message.
+    QCOMPARE(m_service->received.last().replaces, 0u);
     QCOMPARE(m_service->received.last().body, latin1("Your balance is 1.50 EUR."));
 }
 

@@ -106,7 +106,7 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage_data()
 {
     QTest::addColumn<int>("problem");
     QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("word"); // a part of the message in every language
+    QTest::addColumn<QString>("word"); // a part of the message that is the same in every language
     const auto row = [](int problem, int state, const char *word) {
         QTest::newRow(qPrintable(QString::number(problem)))
             << problem << state << QString::fromLatin1(word);

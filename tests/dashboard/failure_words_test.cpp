@@ -31,7 +31,7 @@ TKSV_FailureInfo failure(TKSV_Failure reason, bool wasNotSent = false, const cha
 
 } // namespace
 
-/** Tests the sentences about commands that failed. */
+/** Tests the messages about failed commands. */
 class FailureWordsTest : public UssdTest
 {
     Q_OBJECT
@@ -107,7 +107,8 @@ void FailureWordsTest::everyReasonHasATitleAndAMeaning()
              QLatin1String("Last message of the network: Goodbye"));
 }
 
-// A payment must not be made twice because a button invites the user to.
+// Tests that the message warns the user that the network may have executed the code. Otherwise, the
+// user might press "Send again" and pay twice.
 void FailureWordsTest::anUnknownOutcomeIsSaidBeforeItIsSentAgain()
 {
     const QString code = QLatin1String("*104#");
@@ -119,7 +120,7 @@ void FailureWordsTest::anUnknownOutcomeIsSaidBeforeItIsSentAgain()
                  qPrintable(meaning));
     }
     for (const TKSV_Failure reason : {TKSV_FAILURE_EMPTY_REPLY, TKSV_FAILURE_UNDECODABLE})
-        QVERIFY(!mayBeSentAgain(failure(reason))); // the network has carried out the code
+        QVERIFY(!mayBeSentAgain(failure(reason))); // the network has executed the code
 }
 
 void FailureWordsTest::aCommandThatWasNotSentSaysSo()

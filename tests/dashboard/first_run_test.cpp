@@ -29,7 +29,7 @@ const char DATABASE[] =
 
 } // namespace
 
-/** Tests the page that is shown until the user has set the program up. */
+/** Tests the page that is shown until the user has set up the program. */
 class FirstRunTest : public DeviceTest
 {
     Q_OBJECT

@@ -31,7 +31,7 @@ namespace
 const QDateTime NOW(QDate(2026, 11, 21), QTime(14, 32));
 const int NARROW_WIDTH = 360;
 
-/** Records what the page requests. */
+/** Records the actions that the page requests. */
 struct RecordedActions : AppActions {
     void showPage(PageId) override { done << QLatin1String("page"); }
     void sendCode(const QString &code) override { done << QLatin1String("send ") + code; }
@@ -63,7 +63,7 @@ Situation ready()
 
 } // namespace
 
-/** Tests what the front page shows and requests. */
+/** Tests what the home page shows and which actions it requests. */
 class HomePageTest : public UssdTest
 {
     Q_OBJECT
@@ -346,7 +346,8 @@ void HomePageTest::favouritesAreSelectedAndKept()
         }
         for (int i = 5; i < 7; ++i)
             list->item(i)->setCheckState(Qt::Checked);
-        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable)); // six are selected
+        // No further code can be selected, because six are already selected.
+        QVERIFY(!(list->item(7)->flags() & Qt::ItemIsUserCheckable));
         QCOMPARE(dialog.codes().size(), Favourites::MOST);
         QCOMPARE(dialog.codes().at(0), QLatin1String("*123#"));
         QVERIFY(favourites.select(dialog.codes()));

@@ -17,7 +17,8 @@ namespace
 {
 
 /**
- * A window with the plug-in's object names. The keyboard helper mistakes it for the general window.
+ * A window that uses the object names of the plug-in, so that the keyboard helper mistakes it for
+ * the general window.
  */
 class LookAlike : public QWidget
 {
@@ -137,7 +138,7 @@ void KeyboardTest::theFocusComesBackWithTheAnswer()
     QTRY_VERIFY(window.edit->hasFocus());
 }
 
-/// Exchanges commands and replies with the network only by sending key events to the focus widget.
+/// Sends commands and checks the replies, using only key events that are sent to the focus widget.
 void KeyboardTest::talk(const GeneralWindow &general)
 {
     QVERIFY(general.isComplete());

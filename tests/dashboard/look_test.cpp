@@ -33,7 +33,7 @@ struct Pair {
     double atLeast;
 };
 
-// The transcript's own colours are checked where the configuration is read.
+// The transcript's colours are not listed, because they are checked when the configuration is read.
 const Pair PAIRS[] = {
     {Token::Text, Token::Surface, TEXT_CONTRAST},
     {Token::Text, Token::Bg, TEXT_CONTRAST},
@@ -101,7 +101,8 @@ QWidget *makeControl(const QString &type)
     return type == QLatin1String("QTreeWidget") ? new QTreeWidget : nullptr;
 }
 
-/// Returns the place of the content in the widget, which must not move when the focus comes.
+/// Returns the content rectangle of the widget, which must not change when the widget gets the
+/// focus.
 QRect contentRectOf(const QWidget *widget)
 {
     const QAbstractScrollArea *area = qobject_cast<const QAbstractScrollArea *>(widget);
@@ -110,12 +111,12 @@ QRect contentRectOf(const QWidget *widget)
 
 bool isSimilar(const QColor &a, const QColor &b)
 {
-    const int rounding = 2; // of colours with an alpha channel
+    const int rounding = 2; // the rounding error of semi-transparent colours
     return qAbs(a.red() - b.red()) <= rounding && qAbs(a.green() - b.green()) <= rounding &&
            qAbs(a.blue() - b.blue()) <= rounding;
 }
 
-/// Returns true if something is painted and all of it has this colour.
+/// Returns true if the image contains opaque pixels and all of them have this colour.
 bool isPaintedIn(const QColor &color, const QImage &image)
 {
     const int almostOpaque = 160;
@@ -179,7 +180,7 @@ private:
     }
 
 private slots:
-    // This function must be the first one, because a look that was started stays.
+    // This function must run first, because the style cannot be removed once it has been applied.
     void leavesTheApplicationAloneUntilItIsStarted()
     {
         const QPalette before = QApplication::palette();
@@ -238,7 +239,7 @@ private slots:
         QVERIFY(!sheet.contains(QRegularExpression(QLatin1String("#[0-9-]+px"))));
         const char *start = direction == Qt::LeftToRight ? "text-align: left" : "text-align: right";
         QVERIFY(sheet.contains(QLatin1String(start)));
-        QVERIFY(sheet.contains(QLatin1String("font-size: 36px"))); // of h1
+        QVERIFY(sheet.contains(QLatin1String("font-size: 36px"))); // the size of h1
     }
 
     void everyIconHasTheColourOfItsToken_data()
@@ -354,8 +355,8 @@ private slots:
     void focusDoesNotMoveAnything_data()
     {
         QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("kind"); // of our own buttons
-        QTest::addColumn<QString>("name"); // of the plug-in's controls
+        QTest::addColumn<QString>("kind"); // the kind, for buttons of the dashboard
+        QTest::addColumn<QString>("name"); // the object name, for controls of the plug-in
         for (const char *kind : KINDS)
             QTest::addRow("kind '%s'", kind)
                 << QString(latin1("QPushButton")) << latin1(kind) << QString();
@@ -433,7 +434,7 @@ private slots:
         QMessageBox box(QMessageBox::Warning, QString(), latin1("text"));
         box.show();
         QVERIFY(isPaintedIn(Look::instance().color(Token::Warn), box.iconPixmap().toImage()));
-        QCOMPARE(box.icon(), QMessageBox::NoIcon); // Qt's state for an icon of the program
+        QCOMPARE(box.icon(), QMessageBox::NoIcon); // Qt reports NoIcon if a custom icon is set
     }
 };
 

@@ -135,10 +135,10 @@ void MainWindowTest::thePageFollowsTheWindowsSize()
         dialog = dialog->parentWidget();
     for (const QSize &size : {QSize(1100, 900), QSize(950, 750)}) {
         m_window->resize(size);
-        // The outer stretches of the page are clipped.
+        // The outer spacers of the plug-in's page are clipped.
         QTRY_COMPARE(dialog->geometry(), m_window->page()->rect().marginsAdded({46, 4, 46, 4}));
     }
-    m_window->resize(300, 200); // smaller than the page, so the area scrolls
+    m_window->resize(300, 200); // smaller than the page, so a scroll area is needed
     QTRY_VERIFY(dialog->height() >= dialog->minimumSizeHint().height());
 }
 

@@ -17,7 +17,7 @@ const QString SIM = QLatin1String("sim-one");
 
 } // namespace
 
-/** Tests that messages are kept, found, removed and kept private. */
+/** Tests that messages are stored, found and removed, and that only their owner can read them. */
 class MessageStoreTest : public UssdTest
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void MessageStoreTest::setUp()
 
 void MessageStoreTest::open()
 {
-    m_store.reset(); // two stores must not write the same file
+    m_store.reset(); // two stores must not write to the same file
     m_store.reset(new MessageStore(file()));
     m_store->setClock([] { return NOON; });
     m_store->setSim(SIM);
@@ -117,7 +117,7 @@ void MessageStoreTest::onlyTheOwnerReadsTheFile()
 void MessageStoreTest::theNewestComesFirst()
 {
     add(QLatin1String("b"), NOON);
-    add(QLatin1String("c"), NOON); // the same second
+    add(QLatin1String("c"), NOON); // received in the same second as "b"
     add(QLatin1String("a"), NOON.addSecs(-60));
     QCOMPARE(texts(), (QStringList{QLatin1String("c"), QLatin1String("b"), QLatin1String("a")}));
     QCOMPARE(m_store->newest().text, QLatin1String("c"));
@@ -126,7 +126,7 @@ void MessageStoreTest::theNewestComesFirst()
 void MessageStoreTest::pagesFollowEachOther()
 {
     for (int i = 0; i < 5; ++i)
-        add(QString::number(i), NOON.addSecs(i / 2)); // pairs of the same second
+        add(QString::number(i), NOON.addSecs(i / 2)); // two messages per second
     QStringList all;
     Message last;
     for (QList<Message> page = m_store->older(MessageQuery(), last, 2); !page.isEmpty();

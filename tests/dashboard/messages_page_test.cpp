@@ -21,7 +21,7 @@ namespace
 const QString SENDER = QLatin1String("Meridian Mobile");
 }
 
-/** Tests the list of messages, reading, searching, and answering through the general window. */
+/** Tests the message list, reading, searching, and answering through the general window. */
 class MessagesPageTest : public CommandTest
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ Message MessagesPageTest::add(const char *text, int secondsAgo, bool waits)
     return m_store->add(SENDER, QString::fromUtf8(text), m_noon.addSecs(-secondsAgo), waits);
 }
 
-/// Lets the network ask a question, as the device delivers it.
+/// Delivers a question from the network through the device SDK.
 Message MessagesPageTest::ask()
 {
     const char text[] = "A gigabyte for 1.00 EUR?\n1 Yes\n2 No";
@@ -131,7 +131,8 @@ void MessagesPageTest::theRowsAreGroupedByDay()
     QCOMPARE(day(2), latin1("Yesterday"));
     QCOMPARE(day(3), QLocale().toString(m_noon.date().addDays(-40), QLocale::LongFormat));
     m_store->remove(model()->message(model()->index(0)).id);
-    QCOMPARE(day(0), latin1("Today")); // the row that has become the first
+    // The row that is now the first one of its day shows the day.
+    QCOMPARE(day(0), latin1("Today"));
 }
 
 void MessagesPageTest::aRowIsReadAloud()
@@ -238,7 +239,7 @@ void MessagesPageTest::filtersAndCounts()
     press("Dashboard_MessagesUnread");
     QCOMPARE(model()->rowCount(), 2);
     choose(1);
-    QCOMPARE(model()->rowCount(), 2); // a message that is being read stays
+    QCOMPARE(model()->rowCount(), 2); // the message that is being read stays in the list
     press("Dashboard_MessagesWaiting");
     QCOMPARE(model()->rowCount(), 1);
     press("Dashboard_MessagesAll");
@@ -355,7 +356,7 @@ void MessagesPageTest::theNarrowFormShowsOneAtATime()
     QVERIFY(list()->isVisible());
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       list()->visualRect(model()->index(0)).center());
-    QVERIFY(!list()->isVisible()); // the same message again
+    QVERIFY(!list()->isVisible()); // clicking the same message again also opens it
 }
 
 void MessagesPageTest::aNotificationOpensItsMessage()
@@ -365,7 +366,7 @@ void MessagesPageTest::aNotificationOpensItsMessage()
     part<QLineEdit>("Dashboard_MessagesSearch")->setText(latin1("other"));
     m_page->open(wanted.id);
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
-    m_page->open(12345); // a message that was deleted
+    m_page->open(12345); // the identifier of a message that no longer exists
     QCOMPARE(textOf("Dashboard_MessageText"), latin1("wanted"));
 }
 

@@ -15,8 +15,8 @@
 using namespace Dashboard;
 
 /**
- * Tests the window with a modem: no code that belongs to a demonstration is shown or sent, and the
- * user learns why a command failed.
+ * Tests the main window with a modem. Codes of the demonstration must not be shown or sent, and the
+ * window must explain why a command failed.
  */
 class ModemWindowTest : public DeviceTest
 {
@@ -95,7 +95,7 @@ int ModemWindowTest::presets()
         .size();
 }
 
-/// Waits until the query would have been sent.
+/// Waits until the point at which the prepaid/postpaid query would be sent.
 bool ModemWindowTest::waitForSettling()
 {
     PaidTypeFinder *finder = window().findChild<PaidTypeFinder *>();
@@ -106,7 +106,7 @@ bool ModemWindowTest::waitForSettling()
     return isSettled;
 }
 
-/// Opens the window again with the sample configuration as that of an integrator.
+/// Reopens the window with the sample configuration in a folder that an integrator has selected.
 void ModemWindowTest::useIntegratorsFolder()
 {
     DeviceTest::tearDown();
@@ -212,7 +212,7 @@ void ModemWindowTest::openingSendsNothing()
     QVERIFY(fakeSdkCalls("TKSV_Device_EndForeignSession").empty());
 }
 
-// The editor saves such a file before its frame closes.
+// Tests codes that the editor has saved while its frame is still open.
 void ModemWindowTest::theFirstOwnCodesAreShownAtOnce()
 {
     fakeSdkSetUserDataDirectory((folder() + QLatin1Char('/')).toStdU16String());
@@ -251,7 +251,7 @@ void ModemWindowTest::theQueryNeedsTheUser()
     QFETCH(int, queries);
     qputenv("USSD_DETECT_PAID_TYPE", variable);
     useIntegratorsFolder();
-    window().deviceMenu(); // the settings are those of the new window
+    window().deviceMenu(); // creates the settings of the new window
     if (setting)
         window().controller().setDetection(true);
     tell(modemWithSim());
@@ -331,7 +331,7 @@ void ModemWindowTest::aFailureIsSaidUntilTheNextCommand()
     QTRY_COMPARE(commandText(), QString());
 }
 
-// The plug-in does not disable the entry field for such a command.
+// Tests a command that was not sent. The plug-in does not disable the code field in this case.
 void ModemWindowTest::aRejectedCommandIsSaid()
 {
     tell(modemWithSim());

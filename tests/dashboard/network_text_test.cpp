@@ -10,7 +10,7 @@
 
 using namespace Dashboard;
 
-/** Tests how the dashboard shows messages that the network initiates. */
+/** Tests how the dashboard shows network-initiated messages. */
 class NetworkTextTest : public DeviceTest
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ const long long NOON = 1795262400; // 2026-11-21 12:00 UTC
 void NetworkTextTest::setUp()
 {
     DeviceTest::setUp();
-    store().removeAll(); // the messages of an earlier test
+    store().removeAll(); // deletes the messages of the previous test
 }
 
 void NetworkTextTest::say(const char *text, bool waitsForAnswer)
@@ -145,7 +145,8 @@ void NetworkTextTest::anAnswerEndsTheQuestion()
     QVERIFY(!store().newest().text.isEmpty());
 }
 
-// The request that detects the paid type would close the menu.
+// Tests that the prepaid/postpaid query is not sent while a menu is open, because the query would
+// close the menu.
 void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
 {
     loadPlugin();
@@ -155,7 +156,7 @@ void NetworkTextTest::nothingIsAskedWhileAMenuIsOpen()
     std::strcpy(info.imsi, "001010000000007");
     QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
     tell(info);
-    QVERIFY(settled.wait(10000)); // without a menu, the request would be sent now
+    QVERIFY(settled.wait(10000)); // without a menu, the query would be sent now
     drainEvents();
     QVERIFY(fakeSdkCommands().empty());
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Release").empty());

@@ -1,6 +1,6 @@
 /*
- * Opens the dashboard in the same way as its main function, and closes it when the plug-in's page
- * is visible. The exit code is 0 if the dashboard ended normally and saved its window geometry.
+ * Opens the dashboard as the main function does, and closes it when the plug-in's page is visible.
+ * The exit code is 0 if the dashboard ended normally and saved its window geometry.
  */
 #include <QApplication>
 #include <QMainWindow>
@@ -21,7 +21,7 @@ namespace
 {
 
 const int INTERVAL = 20; // ms
-const int LIMIT = 500;   // number of intervals
+const int LIMIT = 500;   // number of intervals before the program gives up
 bool pageSeen = false;
 bool frameSeen = false;
 
@@ -36,7 +36,8 @@ public:
     }
 
 private:
-    // Closes the main window while a frame is open and a command is pending. Both must end with it.
+    // Closes the main window while a frame is open and a command is pending. This must close the
+    // frame and cancel the command.
     void look()
     {
         for (QWidget *widget : QApplication::topLevelWidgets()) {

@@ -33,7 +33,9 @@ const char SILENT[] = "HomeNetwork=99903";
 
 } // namespace
 
-/** Tests how the codes of the SIM's operator are offered, accepted and loaded by the plug-in. */
+/**
+ * Tests how the dashboard offers and installs the operator's codes and how the plug-in loads them.
+ */
 class OperatorCodesTest : public SimTest
 {
     Q_OBJECT
@@ -69,7 +71,7 @@ private:
     QString changedFile();
     void answerBox(bool yes);
 
-    QString m_asked; // the text of the message box that was answered last
+    QString m_asked; // the text of the last answered message box
 };
 
 void OperatorCodesTest::setUp()
@@ -165,7 +167,7 @@ void OperatorCodesTest::ofSeveralNoneIsChosenSilently()
 {
     useSim(SEVERAL);
     QVERIFY(notice().contains(QLatin1String("Several")));
-    take(); // the button asks for confirmation
+    take(); // the button opens a message box first
     QCOMPARE(inUse(), QString());
     QPushButton *ok = window().findChild<QPushButton *>(QLatin1String("Dashboard_OperatorOk"));
     QVERIFY(ok && !ok->isEnabled());
@@ -299,7 +301,7 @@ void OperatorCodesTest::whatAPersonChangedIsKeptWhenSetAside()
 
 void OperatorCodesTest::aFolderChosenOutsideStays()
 {
-    QVERIFY(!OperatorPlaces::ofUser().isFree); // the test has set the environment variable
+    QVERIFY(!OperatorPlaces::ofUser().isFree); // the test has set $USSD_PLUGIN_LIBRARY_PATH
     window().operatorCodes().setPlaces(OperatorPlaces::ofUser());
     useSim(ALONE, "Alone");
     QCOMPARE(notice(), QString());

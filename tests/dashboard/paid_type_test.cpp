@@ -34,7 +34,7 @@ QString addressee(int index)
 
 } // namespace
 
-/** Tests how the dashboard determines and shows whether the SIM is prepaid or postpaid. */
+/** Tests how the dashboard detects and shows whether the SIM is prepaid or postpaid. */
 class PaidTypeTest : public SimTest
 {
     Q_OBJECT
@@ -166,7 +166,8 @@ void PaidTypeTest::aSilentNetworkLeavesItUnknown()
     QTRY_VERIFY(window().sim().isAsking());
     QTRY_VERIFY(!window().sim().isAsking());
     QCOMPARE(paidType(), QString());
-    QVERIFY(page().send(QLatin1String("*100#"))); // the detection request is not sent again
+    // The page accepts a command, because the detection is not repeated.
+    QVERIFY(page().send(QLatin1String("*100#")));
     QTRY_COMPARE(page().lastReceived(), QLatin1String("Here"));
     drainEvents();
     QVERIFY(!window().sim().isAsking());
@@ -194,7 +195,8 @@ void PaidTypeTest::anotherSimIsAskedAnew()
     QTRY_COMPARE(paidType(), QLatin1String("Postpaid"));
 }
 
-// Tests a SIM change during the detection. The plug-in reports a failed detection as "postpaid".
+// Tests a SIM change during the detection. The plug-in reports a failed detection as "postpaid",
+// which must not be shown for the new SIM.
 void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
 {
     openWith(POSTPAID_SIM, SILENT);
@@ -207,8 +209,8 @@ void PaidTypeTest::theAnswerOfTheSimBeforeIsNotTaken()
              qPrintable(shown.join(QLatin1String("|"))));
 }
 
-// Tests that the detection on a new device starts after a pause. Another thread of the plug-in may
-// still be cancelling the commands of the previous device.
+// Tests that the detection on a new device starts after a pause. During the pause, another thread
+// of the plug-in may still be cancelling the commands for the previous device.
 void PaidTypeTest::aNewDeviceIsLeftAloneForAMoment()
 {
     openWith(PREPAID_SIM, PREPAID);

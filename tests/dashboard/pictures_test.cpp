@@ -171,7 +171,7 @@ QWidget *makeGallery()
     row->addWidget(makeFields());
     QFrame *hero = new QFrame;
     setBox(hero, "hero");
-    hero->setFixedWidth(40); // a gradient makes a large file
+    hero->setFixedWidth(40); // a wide gradient would make the file large
     row->addWidget(hero);
     row->addStretch();
     return root;
@@ -179,7 +179,7 @@ QWidget *makeGallery()
 
 } // namespace
 
-/** Compares the controls and the windows of the plug-in with their accepted pictures. */
+/** Compares the dashboard's controls and the plug-in's windows with the expected pictures. */
 class PicturesTest : public PictureTest
 {
     Q_OBJECT
@@ -203,7 +203,7 @@ private:
         QVERIFY2(m_plugin->isUsable(), qPrintable(failure.text()));
     }
 
-    /// Returns true if the window does not wait for any reply.
+    /// Returns true if the window is not waiting for a reply.
     static bool isAtRest(const QWidget *frame)
     {
         const QString waiting = Change::tr(latin1("USSDUIPlugin"), latin1("USSD_CODE_WAITTING"));
@@ -222,7 +222,7 @@ private slots:
         picture.fill(Qt::white);
         QImage other = picture;
         QCOMPARE(differences(picture, other), 0);
-        other.setPixel(5, 5, qRgb(220, 255, 255)); // an edge of a letter
+        other.setPixel(5, 5, qRgb(220, 255, 255)); // like a slightly different edge of a letter
         QCOMPARE(differences(picture, other), 0);
         other.setPixel(5, 5, qRgb(255, 255, 0));
         QCOMPARE(differences(picture, other), 1);
@@ -326,7 +326,8 @@ private slots:
             openFrame()->findChild<QPushButton *>(latin1("USSDUIPlugin_AdvancedDialog_EditButton"));
         QVERIFY(edit);
         bool wasOpen = false;
-        QTimer::singleShot(0, this, [&] { // the editor runs its own event loop
+        // Needed because the editor runs its own event loop.
+        QTimer::singleShot(0, this, [&] {
             QWidget *frame = QApplication::activeModalWidget();
             wasOpen = frame && frame->findChild<QWidget *>(latin1("USSDUIPlugin_ProfileTable"));
             if (wasOpen)

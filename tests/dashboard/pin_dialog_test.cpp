@@ -6,7 +6,7 @@
 
 using namespace Dashboard;
 
-/** Tests entering the PIN of a locked SIM, from the button to the device. */
+/** Tests entering the PIN of a locked SIM, from pressing the button to the SDK call. */
 class PinDialogTest : public DeviceTest
 {
     Q_OBJECT

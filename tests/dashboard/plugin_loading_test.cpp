@@ -32,8 +32,8 @@ QStringList calls()
 } // namespace
 
 /**
- * Tests that each failure to load the plug-in is reported with its own step, message, file and
- * reason.
+ * Tests that each failure to load the plug-in is reported with the failed step, a message, the file
+ * and the reason.
  */
 class PluginLoadingTest : public UssdTest
 {
@@ -96,7 +96,8 @@ void PluginLoadingTest::theInstalledPluginLoads()
     QVERIFY(failure.text().isEmpty());
 }
 
-/// An operator's folder needs no library. A folder without the plug-in's files is a mistake.
+/// Tests that an operator's folder without a library uses the installed library, and that a folder
+/// without the plug-in's files is not accepted.
 void PluginLoadingTest::anOperatorsFolderTakesTheInstalledLibrary()
 {
     const QString shipped = LoadedPlugin::installedFile();
@@ -161,7 +162,7 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // The mark is followed by the format of the meta data and the major and minor version of Qt.
+    // After the magic string come the metadata format and the major and minor version of Qt.
     const int mark = content.indexOf("QTMETADATA !");
     QVERIFY(mark > 0);
     QCOMPARE(int(content.at(mark + 13)), 5);

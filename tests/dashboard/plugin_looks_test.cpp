@@ -21,7 +21,7 @@ namespace
 {
 
 const int EM_AT_100_PERCENT = 14; // in pixels
-const int ROUNDING = 1; // the pixels that a layout may lose when it distributes the height
+const int ROUNDING = 1;           // pixels that may be lost when a layout distributes its height
 
 QWidget *openFrame()
 {
@@ -43,7 +43,7 @@ QRect placeIn(const QWidget *frame, const QWidget *widget)
     return QRect(widget->mapTo(frame, QPoint()), widget->size());
 }
 
-/// Returns the smallest size in which the widget shows its content completely.
+/// Returns the smallest size at which the widget shows its complete content.
 QSize needed(const QWidget *widget)
 {
     if (const QLabel *label = qobject_cast<const QLabel *>(widget); label && label->wordWrap())
@@ -69,7 +69,8 @@ QList<QWidget *> controlsIn(const QWidget *frame)
     return controls;
 }
 
-/// Returns the window of the plug-in. A frame that is larger than the screen scrolls it.
+/// Returns the plug-in's window in the frame. If the frame does not fit on the screen, the window
+/// is inside a scroll area.
 const QWidget *contentOf(const QWidget *frame)
 {
     const QWidget *child = frame->layout()->itemAt(0)->widget();
@@ -77,14 +78,15 @@ const QWidget *contentOf(const QWidget *frame)
     return area ? area->widget() : child;
 }
 
-/// Returns true if the window has its margins: a layout that is too small takes them away.
+/// Returns true if the window is large enough for its content. Otherwise, the layout would reduce
+/// the margins.
 bool hasRoom(const QWidget *content)
 {
     const QSize least = content->layout() ? content->layout()->minimumSize() : QSize();
     return least.width() <= content->width() && least.height() <= content->height() + ROUNDING;
 }
 
-/// Returns what is wrong in the window, or an empty string.
+/// Returns a description of the first layout error in the window, or an empty string.
 QString faultIn(const QWidget *window)
 {
     if (!hasRoom(window))
@@ -112,7 +114,7 @@ QString faultIn(const QWidget *window)
 
 } // namespace
 
-/** Tests the windows of the plug-in with the style sheet of the dashboard. */
+/** Tests the plug-in's windows with the dashboard's style sheet. */
 class PluginLooksTest : public UssdTest
 {
     Q_OBJECT

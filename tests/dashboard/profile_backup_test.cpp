@@ -37,7 +37,7 @@ QMessageBox *openBox()
 
 } // namespace
 
-/** Tests when the user's own codes are backed up, and when and how the backup is restored. */
+/** Tests when the user's own codes are backed up, and how a backup is offered and restored. */
 class ProfileBackupTest : public SimTest
 {
     Q_OBJECT
@@ -393,7 +393,7 @@ void ProfileBackupTest::aRestoreThatFailsIsSaid()
     QVERIFY(!keeper.offer().isEmpty());
 }
 
-/// Confirms the next message box.
+/// Confirms the next message box that opens.
 void ProfileBackupTest::confirm()
 {
     QTimer::singleShot(0, this, [] {
@@ -402,7 +402,7 @@ void ProfileBackupTest::confirm()
     });
 }
 
-/// Enters a code in the first empty row of the editor and saves.
+/// Enters a code in the first empty row of the editor and saves the codes.
 void ProfileBackupTest::typeCode()
 {
     QTableWidget *table = openTable();

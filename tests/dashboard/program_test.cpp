@@ -13,7 +13,7 @@ namespace
 const QFile::Permissions OWNER =
     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
 
-/** A tour in one language that runs once, for all tests that check its result. */
+/** A tour in one language. It runs only once, and several tests check its result. */
 class TakenTour
 {
 public:
@@ -61,7 +61,7 @@ int differentPixels(const QImage &a, const QImage &b)
 
 } // namespace
 
-/** Tests the program as a user would start it, on a machine without a display. */
+/** Tests the program as a user would start it, but without a display. */
 class ProgramTest : public UssdTest
 {
     Q_OBJECT
@@ -254,8 +254,8 @@ void ProgramTest::theDeviceInUseIsToldWhenAskedFor()
     QVERIFY(!run("--send *100#").error.contains(source));
 }
 
-// Tests a modem that is not available. The tests run without a message bus, so no modem can be
-// found.
+// Tests a modem that is not available. The tests run without a message bus, so the program cannot
+// find any modem.
 void ProgramTest::aModemThatIsNotThereIsSaid()
 {
     const Run result = run("--modem 353612345678901 --verbose --send *100#");
@@ -502,7 +502,7 @@ void ProgramTest::theTourTellsWhatEachPictureShows()
           "ModemManager ist nicht installiert oder wurde angehalten.", "A gigabyte for 1.00 EUR?",
           "Deutsch, the wide window in the dark theme"})
         QVERIFY2(text.contains(QString::fromUtf8(part)), part);
-    QVERIFY(!text.contains(QLatin1String("1357"))); // the PIN that the tour enters
+    QVERIFY(!text.contains(QLatin1String("1357"))); // the PIN that is entered during the tour
 }
 
 void ProgramTest::theTourChangesNobodysFiles()

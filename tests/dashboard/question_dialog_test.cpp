@@ -12,7 +12,7 @@
 
 using namespace Dashboard;
 
-/** Tests that a question of the network reaches the user above a modal window of the plug-in. */
+/** Tests that the user can answer a question from the network above a modal plug-in window. */
 class QuestionDialogTest : public CommandTest
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ void QuestionDialogTest::theDialogTakesInputAboveTheFrame()
     ask();
     QCOMPARE(QApplication::activeModalWidget(), m_dialog.data());
     QLineEdit *field = m_dialog->answerBox()->field();
-    for (const char character : {'p', 'a', 'r', 'i', 's'}) // only an unblocked window gets them
+    for (const char character : {'p', 'a', 'r', 'i', 's'}) // a blocked window does not get keys
         QTest::keyClick(m_dialog->windowHandle(), character);
     QCOMPARE(field->text(), latin1("paris"));
     QTest::keyClick(m_dialog->windowHandle(), Qt::Key_Return);
@@ -135,7 +135,7 @@ void QuestionDialogTest::thePutOffQuestionComesBackOnlyIfItChanges()
     ask();
     QTest::keyClick(m_dialog.data(), Qt::Key_Escape);
     QVERIFY(!m_dialog->isVisible());
-    QCOMPARE(state().kind, Kind::MenuOpen); // nothing was sent
+    QCOMPARE(state().kind, Kind::MenuOpen); // Escape does not send anything
     m_dialog->look();
     QVERIFY(!m_dialog->isVisible());
     ask("Another question?\n1 Yes\n2 No");
@@ -152,7 +152,7 @@ void QuestionDialogTest::theDialogGoesWithTheFrame()
     m_dialog->look();
     QVERIFY(!m_dialog->isVisible());
     QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(state().kind, Kind::MenuOpen); // the page of codes shows it now
+    QCOMPARE(state().kind, Kind::MenuOpen); // the codes page now shows the menu
 }
 
 void QuestionDialogTest::aFrameThatOpensLaterIsCovered()

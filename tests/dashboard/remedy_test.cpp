@@ -20,7 +20,7 @@
 
 using namespace Dashboard;
 
-/** Tests the card with the state of the device, from its buttons to the device. */
+/** Tests the device card, from its buttons to the calls of the device SDK. */
 class RemedyTest : public UssdTest
 {
     Q_OBJECT
@@ -150,7 +150,7 @@ void RemedyTest::theMainButtonStandsOut()
     tell(TKSV_DEVICE_ABSENT);
     QCOMPARE(button(Remedy::LookAgain)->property("kind").toString(), latin1("primary"));
     QCOMPARE(button(Remedy::TryDemonstration)->property("kind").toString(), QString());
-    tell(TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE); // the first button only explains
+    tell(TKSV_DEVICE_ABSENT, TKSV_PROBLEM_NO_SERVICE); // the first button only shows an explanation
     QCOMPARE(m_card->firstButton(), button(Remedy::HowToStart));
     QCOMPARE(m_card->firstButton()->property("kind").toString(), QString());
 }
@@ -166,7 +166,7 @@ void RemedyTest::aColumnTakesThePlaceOfAWideRow()
     m_window->resize(wide, 600);
     drainEvents();
     QVERIFY(!isRow());
-    QCOMPARE(m_window->width(), wide); // the buttons do not widen the window
+    QCOMPARE(m_window->width(), wide); // the buttons do not make the window wider
 }
 
 void RemedyTest::aButtonThatStaysKeepsTheFocus()

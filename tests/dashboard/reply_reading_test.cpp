@@ -14,11 +14,11 @@ namespace
 const char *const VALUES[] = {"balance", "validity", "number", "data"};
 const int FEWEST_REPLIES = 200;
 
-/// The share of the told values that is read. A change that reads less is a loss for the user. A
-/// change that reads more raises this figure here and in docs/dashboard.md.
+/// The minimum share of the values in the corpus that must be read. If a change increases the
+/// share, update this constant and docs/dashboard.md.
 const int LEAST_RECALL = 95; // percent
 
-/** A reply of the corpus and the values that it tells, by their names. */
+/** A reply from the corpus and the values that it contains, by name. */
 struct Wording {
     int line = 0;
     QString text;
@@ -68,7 +68,7 @@ QString plain(const QString &volume)
     return shown(qint64(size * 1024 * 1024));
 }
 
-/// Returns a volume in one form: a volume of 1024 MB is 1 GB.
+/// Returns the data volume in a normalised form, for example "1 GB" for 1024 MB.
 QString plainData(const QString &data)
 {
     const QStringList parts = data.split(QLatin1String(" of "));
@@ -98,8 +98,8 @@ QMap<QString, QString> valuesOf(const ReplyReading &reading)
 } // namespace
 
 /**
- * Tests the values that are read out of the wordings of the corpus. No value may be wrong. Which
- * share of the told values is read is counted.
+ * Tests which values are read from the replies in the corpus. All values that are read must be
+ * correct, and most of the values must be read.
  */
 class ReplyReadingTest : public UssdTest
 {

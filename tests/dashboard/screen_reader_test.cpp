@@ -1,4 +1,4 @@
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
+// The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "ModemWorld.h"
 
 #include <QElapsedTimer>
@@ -17,7 +17,7 @@ const int LIMIT = 15000; // ms
 const int STEADY_TIME = 1000;
 const char ACCEPT_VARIABLE[] = "USSD_ACCEPT_LISTS";
 const char MODEM[] = "one";
-const int ASKS_FOR_ANSWER = 1; // of +CUSD, 3GPP TS 27.007
+const int ASKS_FOR_ANSWER = 1; // value of <m> in +CUSD, 3GPP TS 27.007
 
 // A network whose replies are the same in every run.
 const char NETWORK[] = R"([Network]
@@ -40,7 +40,8 @@ Reply=Meridian Mobile\n1 My account\n2 Data packs\n3 Help
 Reply=Data packs
 )";
 
-/// Replaces what differs between two runs. Makes the invisible isolates visible as < and >.
+/// Replaces times with placeholders, because they differ between runs. Makes the invisible isolate
+/// characters visible as < and >.
 QString steady(QString line)
 {
     static const QRegularExpression time(latin1("\\b\\d{1,2}:\\d{2}\\b"));
@@ -52,7 +53,8 @@ QString steady(QString line)
     return line;
 }
 
-/// Returns the lines that only one of the lists has. Those of the first list start with "-".
+/// Returns the lines that only one of the lists contains. Missing lines start with "-", unexpected
+/// lines with "+".
 QString difference(const QStringList &expected, const QStringList &found)
 {
     QStringList result;
@@ -72,9 +74,9 @@ QString difference(const QStringList &expected, const QStringList &found)
 } // namespace
 
 /**
- * Tests what a screen reader finds in the complete program, on a private X server, with a real
- * ModemManager and a fake modem. Each page in each state has a list with the role, the name and the
- * description of every visible widget.
+ * Tests what a screen reader finds in the complete program. The program runs on a private X server,
+ * with a real ModemManager and a fake modem. For each page and state, a list contains the expected
+ * role, name and description of each visible widget.
  */
 class ScreenReaderTest : public UssdTest
 {
@@ -101,7 +103,8 @@ private:
     void showPage(const char *page);
     bool waitFor(const QString &line);
     bool press(const QString &line);
-    /// Waits until a widget has told its new name to the screen reader.
+    /// Waits until the screen reader has been notified of a widget name that starts with this
+    /// string.
     bool isAnnounced(const char *name);
     QStringList steadyLines() const;
     void compare(const char *list);
@@ -148,13 +151,14 @@ void ScreenReaderTest::tearDownClass()
     m_world.reset();
 }
 
-/// Starts the program. With codes, the plug-in has the sample codes as those of the operator.
+/// Starts the program. If `hasCodes` is true, the sample codes are used as the operator's codes.
 void ScreenReaderTest::startProgram(const QStringList &arguments, bool hasCodes)
 {
     QProcessEnvironment values = m_desktop->environment();
     values.insert(latin1("TKSV_BACKEND"), latin1("modemmanager"));
     values.remove(latin1("TKSV_SCENARIO"));
-    values.remove(latin1("USSD_REPLY_TIMEOUT_MS")); // a code stays in flight until it is cancelled
+    // With the default time-out, the code stays pending until it is cancelled.
+    values.remove(latin1("USSD_REPLY_TIMEOUT_MS"));
     if (hasCodes)
         values.insert(latin1("USSD_PLUGIN_LIBRARY_PATH"), latin1(PLUGIN_FOLDER));
     m_program.setProcessEnvironment(values);
@@ -208,7 +212,7 @@ QStringList ScreenReaderTest::steadyLines() const
     return result;
 }
 
-/// Compares the visible widgets with the list. A control without a name fails in any case.
+/// Compares the visible widgets with the list. Always fails if a control has no name.
 void ScreenReaderTest::compare(const char *list)
 {
     const QString name = latin1(LISTS "/%1.txt").arg(latin1(list));
@@ -224,7 +228,7 @@ void ScreenReaderTest::compare(const char *list)
         QVERIFY2(!object.isControl() || !object.name.isEmpty(), qPrintable(object.line()));
 }
 
-/// Writes the list as soon as the widgets stay the same.
+/// Writes the current list to the file after the widgets have stopped changing.
 void ScreenReaderTest::accept(const QString &file)
 {
     QStringList lines;
@@ -281,7 +285,8 @@ void ScreenReaderTest::theCourseOfACode()
     compare("codes-menu-ended");
 }
 
-// Qt 5 sends no alerts over the bus. A screen reader announces the new name of a status bar.
+// Qt 5 does not send alerts over the accessibility bus. Screen readers announce the changed name of
+// a status bar instead.
 void ScreenReaderTest::everyChangeIsAnnounced()
 {
     startWithModem();

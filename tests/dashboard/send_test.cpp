@@ -66,7 +66,7 @@ void start(QProcess &process, const QStringList &arguments, const QProcessEnviro
     process.start(QLatin1String(PROGRAM_FILE), arguments);
 }
 
-/// Waits until the program has written a line with these words to its log file.
+/// Waits until the log file contains this string.
 bool waitForLog(const QString &file, const QByteArray &part)
 {
     return QTest::qWaitFor([&] { return contentOf(file).contains(part); }, 30000);
@@ -96,7 +96,7 @@ void SendTest::everyDemonstrationIsAnnouncedFirst()
     QFETCH(QByteArray, variable);
     QFETCH(QByteArray, value);
     QProcessEnvironment environment = noModem();
-    environment.remove(QLatin1String("USSD_REPLY_TIMEOUT_MS")); // the default network is slow
+    environment.remove(QLatin1String("USSD_REPLY_TIMEOUT_MS")); // uses the default time-out
     if (!variable.isEmpty())
         environment.insert(QString::fromUtf8(variable), QString::fromUtf8(value));
     const Run result = run(words(line.constData()), environment);
@@ -208,7 +208,7 @@ void SendTest::aModemThatIsOffIsNotWaitedFor()
     const Run result = runWithState("State=disabled");
     QCOMPARE(result.code, 3);
     QVERIFY2(result.error.contains(QLatin1String("switched off")), qPrintable(result.error));
-    QVERIFY(time.elapsed() < 9000); // the wait for a device takes 10 s
+    QVERIFY(time.elapsed() < 9000); // less than the 10 s wait for a device
 }
 
 void SendTest::aSignalEndsTheCommand_data()
@@ -232,15 +232,15 @@ void SendTest::aSignalEndsTheCommand()
     time.start();
     QCOMPARE(::kill(pid_t(process.processId()), number), 0);
     const Run result = finished(process);
-    QVERIFY(time.elapsed() < 20000); // the wait for the reply takes 30 s
+    QVERIFY(time.elapsed() < 20000); // less than the 30 s wait for the reply
     QCOMPARE(result.code, 128 + number);
     QVERIFY2(result.error.contains(QLatin1String("The command was cancelled.")),
              qPrintable(result.error));
     QVERIFY(result.out.isEmpty());
 }
 
-/// The signal arrives while the first reply is being written to a full pipe. The answer could be a
-/// purchase.
+/// Tests a signal that arrives while the first reply is being written to a full pipe. The program
+/// must not send the answer, because the answer might buy something.
 void SendTest::afterASignalNoAnswerIsSent()
 {
     const QString name = folder() + QLatin1String("/pipe");
@@ -254,7 +254,8 @@ void SendTest::afterASignalNoAnswerIsSent()
     process.setStandardOutputFile(name);
     start(process, words("--send *123# 2 --log") << log, quickNetwork());
     QVERIFY(waitForLog(log, "TKSV_USSDSrv_Request Returned"));
-    QVERIFY(!process.waitForFinished(500)); // the reply arrives after a few milliseconds
+    // The reply arrives within milliseconds, so the program is now blocked by the full pipe.
+    QVERIFY(!process.waitForFinished(500));
     QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
     while (read(pipe, page.data(), size_t(page.size())) > 0) {
     }
@@ -305,7 +306,7 @@ void SendTest::anIgnoredSignalStaysIgnored()
                       << QLatin1String(PROGRAM_FILE) << log);
     QVERIFY(waitForLog(log, "TKSV_USSDSrv_Request Returned"));
     QCOMPARE(::kill(pid_t(process.processId()), SIGHUP), 0);
-    QCOMPARE(finished(process).code, 4); // the time-out of the reply
+    QCOMPARE(finished(process).code, 4); // the reply has timed out
 }
 
 USSD_TEST_MAIN(SendTest)

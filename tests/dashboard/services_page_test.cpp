@@ -20,7 +20,7 @@ using namespace Dashboard;
 namespace
 {
 
-/** Records what the page asks for. */
+/** Records the actions that the page requests. */
 class RecordedActions : public AppActions
 {
 public:
@@ -52,7 +52,10 @@ Situation situation(Situation::Kind kind, bool canSend)
 
 } // namespace
 
-/** Tests the cards of the services, from the configuration to the row of the services window. */
+/**
+ * Tests the service cards, from reading the configuration to selecting a row in the services
+ * window.
+ */
 class ServicesPageTest : public UssdTest
 {
     Q_OBJECT
@@ -164,7 +167,7 @@ void ServicesPageTest::damagedServicesAreLeftOut()
                   whole + "</item></Dialog></SMSUSSD><broken");
     const QList<Service> services = readServices(folder());
     QCOMPARE(services.size(), 2);
-    QCOMPARE(services.at(0).row, 1); // the number 1 is the first row of the window
+    QCOMPARE(services.at(0).row, 1); // the window sorts the services by number
     QCOMPARE(services.at(1).row, 2);
 }
 
@@ -255,7 +258,8 @@ void ServicesPageTest::aBlockedPageShowsItsWayOut()
     QCOMPARE(label("Dashboard_ServicesNoticeTitle")->text(), latin1("Title"));
     QVERIFY(!card(0)->isEnabled());
     QList<QPushButton *> buttons = m_page->findChildren<QPushButton *>();
-    QCOMPARE(buttons.size(), 1); // that of the first remedy
+    // The only button is that of the first remedy.
+    QCOMPARE(buttons.size(), 1);
     QCOMPARE(m_page->firstFocus(), buttons.first());
     QTest::mouseClick(buttons.first(), Qt::LeftButton);
     QVERIFY(m_actions.remedies == QList<Remedy>{Remedy::EnterPin});

@@ -12,7 +12,7 @@
 
 using namespace Dashboard;
 
-/** Tests the page of settings in the main window. */
+/** Tests the settings page in the main window. */
 class SettingsPageTest : public DeviceTest
 {
     Q_OBJECT

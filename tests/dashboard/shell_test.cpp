@@ -38,7 +38,10 @@ const int HEIGHT = 640; // pixels
 
 } // namespace
 
-/** Tests the main window around its pages: forms, navigation, keys, banners and the scrim. */
+/**
+ * Tests how the main window arranges its pages, and its navigation, shortcut keys, banners and
+ * scrim.
+ */
 class ShellTest : public UssdTest
 {
     Q_OBJECT
@@ -174,13 +177,13 @@ void ShellTest::nothingIsCutAtAnyWidth_data()
         QTest::newRow(qPrintable(code)) << code;
 }
 
-// A horizontal scroll bar would be needed if the content of a scroll area were wider than the area.
-// Without scroll area, Qt would make the window wider than its size.
+// Tests that no content is wider than the window. Inside a scroll area, wide content would cause a
+// horizontal scroll bar; elsewhere, Qt would make the window wider.
 void ShellTest::nothingIsCutAtAnyWidth()
 {
     QFETCH(QString, language);
     QFont font = QApplication::font();
-    font.setPixelSize(14); // the sizes of the layout refer to this font
+    font.setPixelSize(14); // the layout is designed for this font size
     QApplication::setFont(font);
     m_window->setLanguage(language);
     for (int width = 360; width <= 1400; width += 40) {
@@ -191,7 +194,7 @@ void ShellTest::nothingIsCutAtAnyWidth()
             drainEvents();
             const QByteArray where =
                 QByteArray::number(width) + ' ' + QByteArray::number(int(page));
-            // A page that was hidden settles its size after it is shown.
+            // A page that was hidden is laid out only after it is shown.
             QTRY_VERIFY2(m_window->centralWidget()->minimumSizeHint().width() <= width,
                          where.constData());
             for (const QScrollArea *area : m_window->pageOf(page)->findChildren<QScrollArea *>()) {
@@ -291,7 +294,7 @@ void ShellTest::theCodeFieldIsReachedFromEverywhere()
     QCOMPARE(int(m_window->currentPage()), int(PageId::Codes));
 }
 
-/// A line edit accepts Ctrl+E only with the keys of X11, which this platform does not have.
+/// Uses a field that accepts Ctrl+E, because a line edit accepts this key only on X11.
 void ShellTest::aFieldLeavesItsKeyToTheMenu()
 {
     struct Field : QLineEdit {

@@ -33,7 +33,7 @@ const char ABSENT_FOR_A_MOMENT[] = "\n[*100#]\nReply=1\n[Event away]\nAfter=100\
 
 } // namespace
 
-/** Tests which windows are offered for a SIM, and what happens when the SIM changes. */
+/** Tests which windows are offered for a SIM card, and what happens when the SIM card changes. */
 class SimWindowsTest : public SimTest
 {
     Q_OBJECT

@@ -8,7 +8,10 @@
 
 using namespace Dashboard;
 
-/** Runs a later instance in another thread, because the first one answers in the event loop. */
+/**
+ * Starts another instance in a separate thread, because the first instance answers in the event
+ * loop.
+ */
 class LaterInstance : public QThread
 {
 public:
@@ -39,7 +42,7 @@ private slots:
     void theNameDependsOnTheSession();
 
 private:
-    QByteArray m_name; // differs from that of a test that runs at the same time
+    QByteArray m_name; // unique, because tests can run in parallel
 };
 
 void SingleInstanceTest::setUp()
@@ -102,7 +105,7 @@ void SingleInstanceTest::afterTheEndThereIsAFirstAgain()
     QVERIFY(second.isListening());
 }
 
-// The first instance does not answer, because its event loop does not run.
+// Tests a first instance that does not answer because its event loop is not running.
 void SingleInstanceTest::aFirstThatDoesNotAnswerBlocksNobody()
 {
     const SingleInstance first(m_name);

@@ -32,7 +32,7 @@ Situation situation(const DeviceStatus &status, bool areCodesKnown = true)
     return situationOf(status, areCodesKnown, QLatin1String("Falken M2"));
 }
 
-/// Returns every combination of state, problem and flags.
+/// Returns all combinations of state, problem and flags.
 QList<DeviceStatus> allStatuses()
 {
     QList<DeviceStatus> all;
@@ -64,7 +64,7 @@ QString describe(const DeviceStatus &status)
 
 } // namespace
 
-/** Tests the table of situations. */
+/** Tests the table that maps device states to situations. */
 class SituationTest : public UssdTest
 {
     Q_OBJECT
@@ -139,7 +139,7 @@ void SituationTest::kinds_data()
     QTest::addColumn<int>("problem");
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("title");
-    QTest::addColumn<int>("remedy"); // that of the main button
+    QTest::addColumn<int>("remedy"); // the remedy of the main button
     QTest::addColumn<int>("tone");
     const auto row = [](const char *title, int state, int problem, Kind kind, Remedy remedy,
                         Tone tone) {
@@ -290,7 +290,7 @@ void SituationTest::everyProblemIsSaidInEightLanguages_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<int>("problem");
-    QTest::addColumn<QString>("words"); // a part of the text in every language
+    QTest::addColumn<QString>("words"); // a part of the text that is the same in every language
     const auto row = [](const char *name, int state, int problem, const char *words) {
         QTest::newRow(name) << state << problem << QString::fromLatin1(words);
     };

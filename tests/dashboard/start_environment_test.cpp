@@ -13,7 +13,7 @@ const char SCALE[] = "QT_SCALE_FACTOR";
 
 } // namespace
 
-/** Tests the environment variables that the program sets for its own start. */
+/** Tests the environment variables that the program sets for itself when it starts. */
 class StartEnvironmentTest : public UssdTest
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class StartEnvironmentTest : public UssdTest
 protected:
     void setUp() override
     {
-        allowWarning("must be set before QCoreApplication"); // the test has one already
+        allowWarning("must be set before QCoreApplication"); // the test application already exists
         for (const char *variable : {X11, WAYLAND, SCALE})
             qunsetenv(variable);
     }

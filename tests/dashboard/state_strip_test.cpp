@@ -68,7 +68,7 @@ private:
     int m_count = 0;
 };
 
-/// Returns the widget that the Tab key reaches next.
+/// Returns the widget that receives the focus when the user presses Tab.
 QWidget *nextTabStop(const QWidget *widget)
 {
     QWidget *next = widget->nextInFocusChain();
@@ -79,7 +79,7 @@ QWidget *nextTabStop(const QWidget *widget)
 
 } // namespace
 
-/** Tests what the strip shows in each state, and that its height never changes. */
+/** Tests the content of the strip in each state, and that its height is the same in all states. */
 class StateStripTest : public UssdTest
 {
     Q_OBJECT
@@ -171,7 +171,8 @@ void StateStripTest::theHeightIsTheSameInEveryState()
     QCOMPARE(heights, QSet<int>{Look::instance().px(116)});
 }
 
-// The smallest window has 360 pixels, of which 16 are margins and 2 are the border of the card.
+// The smallest window is 360 pixels wide. The margins need 16 pixels and the card's border 2
+// pixels.
 void StateStripTest::theSmallestWindowIsWideEnough()
 {
     const int room = Look::instance().px(342);
@@ -313,7 +314,8 @@ void StateStripTest::aFailureOffersWhatHelps()
     QVERIFY(!part<QPushButton>("Dashboard_SendAgain"));
 }
 
-// There is no room for the sentence that the network may have carried out the code.
+// The narrow strip does not offer to send the code again, because it has no room for the warning
+// that the network may have executed the code.
 void StateStripTest::theNarrowFormSaysTheOutcomeFirst()
 {
     strip().setForm(Form::Narrow);

@@ -9,8 +9,8 @@
 using namespace Dashboard;
 
 /**
- * Tests that every text key has a text. Finds the keys in all string literals, including those in
- * tables.
+ * Tests that every text key has a translation. Finds the keys in all string literals, including
+ * those in tables.
  */
 class TextsTest : public UssdTest
 {
@@ -25,7 +25,8 @@ namespace
 
 QStringList keysIn(const QString &code)
 {
-    // The prefixes of the dashboard's text keys. Other upper-case names are environment variables.
+    // The prefixes of the dashboard's text keys. Other names in upper case are environment
+    // variables.
     static const QRegularExpression key(QLatin1String(
         "\"((?:APP|MENU|ACTION|WINDOWS?|NETWORK|SCENARIO|ALL|SOURCE|OPERATOR|SIM|STATE|"
         "SIGNAL|NAME|PLUGIN|CLI|SEND|TOUR|PAID|RESTORE|ADVICE|PIN|TEXT|LOG|CODES|"

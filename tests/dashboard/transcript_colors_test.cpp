@@ -5,7 +5,7 @@
 
 using namespace Dashboard;
 
-/** Tests the warnings about the operator's colours for the transcript. */
+/** Tests the warnings about transcript colours that the operator has configured. */
 class TranscriptColorsTest : public UssdTest
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class TranscriptColorsTest : public UssdTest
 private slots:
     void readableColoursCauseNoWarning()
     {
-        Formats::PluginConfig configuration; // black
+        Formats::PluginConfig configuration; // the default colours are black
         QVERIFY(paleTranscriptColors(configuration).isEmpty());
     }
 
@@ -30,7 +30,8 @@ private slots:
 
     void paperOfTheDarkThemeCountsToo()
     {
-        Formats::PluginConfig configuration; // 4.9 on white, but 4.0 on the paper of the dark theme
+        // The colour has a contrast of 4.9 on white, but only 4.0 on the paper of the dark theme.
+        Formats::PluginConfig configuration;
         configuration.sentChar.red = configuration.sentChar.green = configuration.sentChar.blue =
             112;
         const QStringList warnings = paleTranscriptColors(configuration);

@@ -10,8 +10,8 @@ complain() {
     bad=1
 }
 
-# expect STATUS PATTERN ARGUMENT...: runs the program, and checks its exit status and that at least
-# one line of its output matches the pattern.
+# expect STATUS PATTERN ARGUMENT...: runs the program. Checks its exit status, and that a line of
+# its output matches the pattern.
 expect() {
     local status=$1 pattern=$2 output
     shift 2

@@ -9,8 +9,8 @@
 #include <mutex>
 #include <set>
 
-/// A service of the SDK: its call-backs, and a thread that runs jobs in the order of their due
-/// times.
+/// Runs one service of the SDK. It keeps the registered call-backs, and its thread runs jobs when
+/// they are due.
 class FakeDispatcher
 {
 public:
@@ -18,7 +18,7 @@ public:
     using Job = std::function<void()>;
     using Report = std::function<void(int event, unsigned char result)>;
 
-    /// `report` is called after each call-back has returned, from the thread of the call-back.
+    /// `report` is called each time a call-back has returned, from the thread that made the call.
     explicit FakeDispatcher(Report report);
     ~FakeDispatcher();
 
@@ -26,8 +26,8 @@ public:
     void remove(TKSV_EventCallback callback, bool wait);
     std::size_t size() const;
 
-    /// Runs `job` on the service's thread after the delay. eraseWaiting() removes erasable jobs
-    /// that have not started yet.
+    /// Runs `job` on the service's thread after the delay. If `job` is erasable, eraseWaiting()
+    /// removes it unless it has already started.
     void post(Job job, std::chrono::milliseconds delay = std::chrono::milliseconds(0),
               bool erasable = false);
     void eraseWaiting();

@@ -6,8 +6,8 @@
 #include <cstdint>
 
 /*
- * Records in the memory layout of the SDK. Each record is overwritten when it is deleted. A client
- * that reads it too late therefore does not get the correct text by chance.
+ * Records in the memory layout of the SDK. A record is overwritten when it is deleted, so that a
+ * client that reads it too late does not find the correct string by chance.
  */
 
 /// A zero-terminated copy of a string in the SDK's character units.
@@ -34,13 +34,13 @@ public:
     void *data() { return m_words.data(); }
 
 private:
-    std::vector<std::uint32_t> m_words; // 32-bit words, so that the record is aligned
+    std::vector<std::uint32_t> m_words; // 32-bit words ensure that the record is aligned
 };
 
-/// Returns the text of a zero-terminated array, or an empty string for a null pointer.
+/// Converts a zero-terminated string. Returns an empty string for a null pointer.
 std::u16string textOf(const unsigned short *units);
 
-/// Returns the text of a request, limited by its length and by the size of its text array.
+/// Returns the string in a request, limited to the size of the record's array.
 std::u16string textOf(const TKSV_USSDRequest &request);
 
 std::vector<unsigned char> bytesOf(const TKSV_USSDRequest &request);

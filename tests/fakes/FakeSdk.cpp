@@ -15,7 +15,7 @@ namespace
 const std::chrono::milliseconds STARTING_LINE_PATIENCE(1000);
 const std::chrono::milliseconds BEFORE_RETURN_PATIENCE(500);
 
-// True on a thread that is delivering a message of the network that answers no request.
+// True on a thread that is delivering a network-initiated message.
 thread_local bool isNetworkInitiated = false;
 
 std::string utf8Of(const std::u16string &text)
@@ -23,7 +23,7 @@ std::string utf8Of(const std::u16string &text)
     return std::wstring_convert<std::codecvt_utf8_utf16<char16_t>, char16_t>().to_bytes(text);
 }
 
-// Makes several threads continue at the same moment.
+// Makes several threads continue at the same time.
 class StartingLine
 {
 public:
@@ -34,7 +34,7 @@ public:
         std::unique_lock<std::mutex> lock(m_mutex);
         if (--m_missing == 0)
             m_complete.notify_all();
-        // A thread may be missing if a service that is being stopped has refused its job.
+        // The time limit is needed because a service that is being stopped does not run all jobs.
         m_complete.wait_for(lock, STARTING_LINE_PATIENCE, [this] { return m_missing <= 0; });
     }
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <set>
 
-/// The state that the fake library keeps between calls.
+/// The state of the fake library.
 class FakeSdk
 {
 public:
@@ -18,7 +18,7 @@ public:
     bool waitIdle(std::chrono::milliseconds limit);
 
     // ---- calls and deliveries
-    std::size_t enter(FakeCall call); ///< returns the number to pass to leave()
+    std::size_t enter(FakeCall call); ///< returns the number to be passed to leave()
     long leave(std::size_t ticket, long result, int status = 0);
     std::vector<FakeCall> calls() const;
     std::vector<FakeDelivery> deliveries() const;
@@ -112,7 +112,7 @@ private:
     std::vector<FakeCall> m_calls;
     std::vector<FakeDelivery> m_deliveries;
     std::set<TKSV_SMSRecord> m_records;
-    std::size_t m_unblocked = 0; // calls with a lower number no longer block
+    std::size_t m_unblocked = 0; // calls with a lower number do not block
     std::mutex m_infoMutex;      // locked while the info call-back runs
     TKSV_DeviceInfoCallback m_infoCallback = nullptr;
     std::atomic<bool> m_hasInfoCallback{false};

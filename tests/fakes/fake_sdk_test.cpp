@@ -119,7 +119,7 @@ FakeAnswer times(int count, const std::u16string &text)
     return answer;
 }
 
-/// Prevents the call-back from returning until this object is deleted.
+/// Blocks the call-back until this object is destroyed.
 class HeldCallback
 {
 public:

@@ -1,5 +1,5 @@
 // Implements the functions of tksv.h and tksv_device.h. Each function records its call and behaves
-// as the test has specified.
+// as configured by the test.
 #include "FakeSdk.h"
 
 #include <algorithm>

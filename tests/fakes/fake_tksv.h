@@ -1,9 +1,9 @@
 /*
- * Controls of the fake device SDK, which tests use in place of the real SDK.
+ * Controls the fake device SDK, which tests use instead of the real SDK.
  *
  * The fake SDK implements all functions of tksv.h and tksv_device.h. It calls back from its own
- * threads, one for each service. It behaves as a test has specified, and records all calls. By
- * default it is a correct SDK with a silent network: requests are accepted but never answered.
+ * threads, one per service. It records all calls. Tests can configure its behaviour. By default, it
+ * behaves like a correct SDK with a silent network, which accepts requests but never replies.
  *
  * Every function may be called from any thread. fakeSdkReset() and the functions that wait must not
  * be called from a call-back.
@@ -27,12 +27,11 @@ const std::chrono::milliseconds FAKE_SDK_PATIENCE(10000);
 
 // ---- life cycle ------------------------------------------------------------------------------
 
-/// Ends all threads and discards call-backs, records and settings. Waits for call-backs that are
-/// running.
+/// Stops all threads and discards call-backs, records and settings. Waits for running call-backs.
 FAKE_API void fakeSdkReset();
 
-/// Returns true as soon as no delivery is pending and no call-back is running, or false after
-/// `limit`.
+/// Waits until no delivery is pending and no call-back is running. Returns false if `limit` passes
+/// first.
 FAKE_API bool fakeSdkWaitIdle(std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
 // ---- recorded calls --------------------------------------------------------------------------
@@ -42,7 +41,7 @@ struct FakeCall {
     std::string function; ///< the name of the function, such as "TKSV_USSDSrv_Request"
     std::thread::id thread;
     std::vector<unsigned char> bytes; ///< the 372 bytes of the request record
-    std::u16string text;              ///< the text of a request or a short message
+    std::u16string text;              ///< the string in a request or a short message
     std::u16string number;            ///< the number of a short message
     std::string path;                 ///< a scenario path, a modem identifier, or a PIN
     const void *handle = nullptr;     ///< the SMS record
@@ -52,15 +51,15 @@ struct FakeCall {
     int status = 0;        ///< the value written to `*status`
 };
 
-/// Returns all calls, or only those of the named function, in call order.
+/// Returns the calls of all functions or of one function, in the order of the calls.
 FAKE_API std::vector<FakeCall> fakeSdkCalls();
 FAKE_API std::vector<FakeCall> fakeSdkCalls(const std::string &function);
 
-/// Returns the texts of all requests, including rejected ones.
+/// Returns the strings of all requests, including rejected ones.
 FAKE_API std::vector<std::u16string> fakeSdkCommands();
 
-/// Discards the recorded calls and deliveries, so that a long test does not use much memory. Must
-/// not be called while another call is running.
+/// Discards the recorded calls and deliveries to limit the memory use of long tests. Must not be
+/// called while another call is running.
 FAKE_API void fakeSdkForgetRecords();
 
 /// Waits until `function` has been called `count` times. Returns false if `limit` passes first.
@@ -82,67 +81,69 @@ struct FakeDelivery {
     std::thread::id thread;
 };
 
-/// Returns the calls of all call-backs that have returned, in the order in which they returned.
+/// Returns all finished calls of call-backs, in the order in which they finished.
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries();
 FAKE_API std::vector<FakeDelivery> fakeSdkDeliveries(FakeService service);
 
-/// Waits until call-backs of `service` have returned `count` times. Returns false if `limit` passes
-/// first.
+/// Waits until the call-backs of `service` have returned `count` times in total. Returns false if
+/// `limit` passes first.
 FAKE_API bool fakeSdkWaitForDeliveries(FakeService service, std::size_t count,
                                        std::chrono::milliseconds limit = FAKE_SDK_PATIENCE);
 
-/// Returns the number of call-backs that are registered with `service`.
+/// Returns the number of call-backs registered with `service`.
 FAKE_API std::size_t fakeSdkRegistered(FakeService service);
 
 // ---- results of functions --------------------------------------------------------------------
 
-/// Makes `function` do nothing and return `result`; the value 0 restores its normal behaviour. To
-/// reject a request, use FakeAnswer instead, because a request also returns a status.
+/// Makes `function` return `result` without doing anything. The value 0 restores the normal
+/// behaviour. To reject a request, use FakeAnswer instead, because a rejected request also sets a
+/// status.
 FAKE_API void fakeSdkSetResult(const std::string &function, long result);
 
-/// Sets whether the unregister functions wait for a call-back that is running. An SDK that does not
-/// wait is faulty.
+/// Sets whether the unregister functions wait for running call-backs. Passing false simulates a
+/// faulty SDK.
 FAKE_API void fakeSdkSetUnregisterWaits(bool waits);
 
 // ---- USSD ------------------------------------------------------------------------------------
 
 /// Describes how the SDK handles a request.
 struct FakeAnswer {
-    // the call itself
+    // How the call itself behaves.
     long result = 0; ///< any non-zero value rejects the request
     int status = 0;  ///< written to `*status`
-    /// How long the call blocks unless fakeSdkUnblock() ends it.
+    /// The time for which the call blocks, unless fakeSdkUnblock() ends it earlier.
     std::chrono::milliseconds block{0};
 
-    // the response
+    // How the network responds.
     int times = 0; ///< number of responses
     std::u16string text;
     int type = 0;
     std::chrono::milliseconds delay{0};
-    bool nullData = false; ///< the call-back receives a null pointer
-    /// The request returns after the call-back has returned, or after half a second.
+    bool nullData = false; ///< a null pointer is passed to the call-back
+    /// If true, the request returns only after the call-back has returned or half a second has
+    /// passed.
     bool beforeReturn = false;
-    bool afterNextRequest = false; ///< delayed until another request has been accepted
-    bool stubborn = false; ///< sent even if a later request or a release has ended the session
-    int threads = 1;       ///< number of threads that each send `times` responses at the same time
+    bool afterNextRequest = false; ///< delayed until the next request has been accepted
+    bool stubborn = false;         ///< sent even if a later request or a release ended the session
+    int threads = 1; ///< number of threads; each sends `times` responses at the same time
 };
 
 FAKE_API FakeAnswer fakeReply(const std::u16string &text, int type = 0);
 FAKE_API FakeAnswer fakeReplyAfter(std::chrono::milliseconds delay, const std::u16string &text);
-FAKE_API FakeAnswer fakeNetworkRefusal(); ///< an empty response with a type other than 0
+FAKE_API FakeAnswer fakeNetworkRefusal(); ///< an empty response whose type is not 0
 FAKE_API FakeAnswer fakeSilence();
 FAKE_API FakeAnswer fakeRefused(long result, int status);
 
-/// Sets how requests are handled after the end of the script.
+/// Sets the answer to all requests that the script does not cover.
 FAKE_API void fakeSdkSetAnswer(const FakeAnswer &answer);
 
-/// Sets how the next requests are handled, one answer for each request.
+/// Sets the answers to the next requests, one for each request.
 FAKE_API void fakeSdkScript(const std::vector<FakeAnswer> &answers);
 
 /// Makes all blocked requests return.
 FAKE_API void fakeSdkUnblock();
 
-/// Sends a response from the USSD thread, whether a request is pending or not.
+/// Sends a response from the USSD thread. A request need not be pending.
 FAKE_API void fakeSdkRespond(const std::u16string &text, int type = 0);
 FAKE_API void fakeSdkRespondNull();
 
@@ -156,12 +157,12 @@ FAKE_API void fakeSdkSetDeviceInfo(const TKSV_DeviceInfo &info);
 /// Sets the result of TKSV_Device_GetModems and calls the info call-back.
 FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 
-/// Sets what TKSV_Device_GetLastFailure returns. The fake SDK itself sets it only in
-/// TKSV_Device_CancelRequest.
+/// Sets the result of TKSV_Device_GetLastFailure. Apart from this function, only
+/// TKSV_Device_CancelRequest changes this result.
 FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
 
-/// Sends a message that the network initiates, from the device's thread. The message is lost if no
-/// call-back is registered.
+/// Sends a network-initiated message from the device thread. The message is lost if no call-back is
+/// registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,
                                      long long receivedAt);
 
@@ -170,8 +171,8 @@ FAKE_API void fakeSdkSetScenarioOutcome(long result, const std::string &message)
 
 // ---- short messages --------------------------------------------------------------------------
 
-/// Sets whether short messages can be sent. A call-back that is registered while they can be sent
-/// receives this status soon afterwards. Changing the setting does not raise an event.
+/// Sets whether short messages can be sent, without raising an event. If they can be sent, each
+/// newly registered call-back receives this status.
 FAKE_API void fakeSdkSetCanSendSms(bool can);
 
 FAKE_API void fakeSdkRaiseSmsStatus(int status);
@@ -181,21 +182,21 @@ FAKE_API void fakeSdkRaiseSmsResult(int result, const std::u16string &number,
 /// Raises an event with null data. The event may be unknown.
 FAKE_API void fakeSdkRaiseSmsEvent(int event);
 
-/// Sets whether a failing call that creates a record still returns the record. A faulty SDK may do
-/// this.
+/// Simulates a faulty SDK in which a call that creates a record returns the record even if the call
+/// fails.
 FAKE_API void fakeSdkSetFailedCreateLeavesRecord(bool leaves);
 
 /// Returns the number of records that have been created but not freed.
 FAKE_API std::size_t fakeSdkLiveSmsRecords();
 
-/// Returns the number of records that were freed or sent although they had never been created or
-/// were already freed.
+/// Returns the number of attempts to free or send a record that never existed or had already been
+/// freed.
 FAKE_API std::size_t fakeSdkBadSmsRecords();
 
 // ---- folders ---------------------------------------------------------------------------------
 
-/// Sets the exact string that TKSV_GetUserDataDirectory returns. The function fails until a test
-/// has set the string.
+/// Sets the result of TKSV_GetUserDataDirectory, which is returned unchanged. The function fails if
+/// no directory has been set.
 FAKE_API void fakeSdkSetUserDataDirectory(const std::u16string &directory);
 
 #endif

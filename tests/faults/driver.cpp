@@ -1,11 +1,11 @@
 /*
- * Simulates the user of a dashboard on a faulty machine. The driver is linked into
- * faulty_dashboard, which is otherwise identical to the dashboard program. The user reads the
- * window, answers message boxes and closes the window. Each observation is printed as a line on
- * standard output: "box: TEXT", "notice: TITLE: TEXT" or "codes: LIST".
+ * Simulates a dashboard user on a faulty machine. The driver is linked into faulty_dashboard, which
+ * is otherwise identical to the dashboard program. The simulated user reads the window, answers
+ * message boxes and closes the window. The driver prints each observation on standard output as a
+ * line "box: TEXT", "notice: TITLE: TEXT" or "codes: LIST".
  *
  *   USSD_USER_SAVES=CODE    adds the code in the editor and saves
- *   USSD_USER_SAYS=TEXT     presses the message-box button whose text begins with TEXT, or the
+ *   USSD_USER_SAYS=TEXT     presses the message-box button whose label starts with TEXT, or the
  *                           first button if there is no such button
  */
 #include <QApplication>
@@ -46,7 +46,7 @@ MainWindow *mainWindow()
     return nullptr;
 }
 
-/// Returns the text of the message box. A long text is in a text view instead of a label.
+/// Returns the text of the message box. Long texts are shown in a text view instead of the label.
 QString textOf(const QMessageBox *box)
 {
     const QPlainTextEdit *view = box->findChild<QPlainTextEdit *>();
@@ -63,7 +63,7 @@ void press(QMessageBox *box)
     box->buttons().first()->click();
 }
 
-/// Adds a code in the first empty row. All empty rows are at the end of the editor's table.
+/// Adds a code in the first empty row. The editor's table always ends with empty rows.
 void addCode(QTableWidget *table, const QString &code)
 {
     int row = 0;
@@ -84,8 +84,8 @@ public:
     }
 
 private:
-    /// Starts a new timer each time. If the slot of a timer opens a dialog, that timer does not
-    /// fire again while the dialog is open.
+    /// Starts a new single-shot timer. A repeating timer would not fire while its own slot runs a
+    /// dialog.
     void lookLater() { QTimer::singleShot(INTERVAL, this, &User::look); }
 
     void look()
@@ -129,8 +129,8 @@ private:
         QApplication::quit();
     }
 
-    /// Accepts the offer to restore the user's codes. The banner of the demonstration hides the
-    /// offer.
+    /// Accepts the offer to restore the user's codes. Uses the banner object directly, because the
+    /// banner about the demonstration hides the offer.
     bool restore()
     {
         Banners *banners = mainWindow()->findChild<Banners *>();

@@ -23,14 +23,14 @@ const char NEW[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<tksvdoc type=\"USSDProfile\"><item>"
     "<name>New</name><value>*2#</value></item></tksvdoc>\n";
 const int HUNG = -2;
-const unsigned LIMIT = 5; // the number of seconds that a start may take after a kill
+const unsigned LIMIT = 5; // the maximum time in seconds that a start may take after a kill
 
 } // namespace
 
 /**
- * Kills the program at each of its disk operations in turn, including the moment when half of the
- * data has been written. After each kill, the user must have the old file or the new file, or the
- * program must offer to restore the backup copy.
+ * Kills the program at each of its disk operations, including when only half of the data has been
+ * written. After each kill, the old or the new file must exist, or the program must offer to
+ * restore the backup.
  */
 class KillTest : public UssdTest
 {
@@ -52,8 +52,8 @@ private:
 
     static bool write(const QString &path, const QByteArray &content);
     int runInChild(DiskFaults::Kind kind, int step, const Action &action);
-    /// Repeats the action with a kill at each step until the action completes. Calls `check` after
-    /// each run and returns the number of kills.
+    /// Repeats the action and kills it one step later each time, until the action completes. Calls
+    /// `check` after each run. Returns the number of kills.
     int killAtEachStep(const Action &prepare, const Action &action, const Action &check);
     void layOut(const QByteArray &file, const QByteArray &copy);
     bool isOldOrNewOrOffered();
@@ -61,8 +61,8 @@ private:
     static void saveNewCodes(USSDEditCmd *editor) { _exit(editor->saveToXMLFile(false)); }
     static int savedLanguage();
 
-    int m_step = 0;    // the step of the last kill
-    QString m_watched; // the folder whose steps are counted
+    int m_step = 0;    // the step at which the last run was killed
+    QString m_watched; // the folder in which disk operations are counted as steps
     QString m_file;
     QString m_copy;
 };
@@ -76,7 +76,7 @@ void KillTest::setUp()
     QVERIFY(QDir().mkpath(folder() + QLatin1String("/own")));
     qputenv("TKSV_USER_DATA", QFile::encodeName(folder() + QLatin1String("/user")));
     qputenv("USSD_PLUGIN_LIBRARY_PATH", QFile::encodeName(folder()));
-    allowWarning("USSDEditCmd"); // the plug-in also logs its important lines as warnings
+    allowWarning("USSDEditCmd"); // the plug-in logs important messages as warnings
 }
 
 bool KillTest::write(const QString &path, const QByteArray &content)
@@ -127,7 +127,7 @@ bool KillTest::isOldOrNewOrOffered()
     return isOffered && backup().restore() && contentOf(m_file) == OLD;
 }
 
-/// Saves from an editor that contains the new codes, over a file with the old codes.
+/// Tests saving new codes to a file that contains the old codes.
 void KillTest::savingTheCodesLeavesThemOrTheCopy()
 {
     layOut(NEW, OLD);
@@ -138,7 +138,7 @@ void KillTest::savingTheCodesLeavesThemOrTheCopy()
                                           restored += backup().isLost() || backup().isDamaged();
                                           QVERIFY(isOldOrNewOrOffered());
                                       });
-    // The steps are: delete, create, and the two steps of a write.
+    // The steps of a save are deleting the file, creating it, and writing it in two steps.
     QVERIFY2(killed >= 3, qPrintable(QString::number(killed)));
     QVERIFY2(restored >= 2, qPrintable(QString::number(restored)));
 }
@@ -160,7 +160,7 @@ void KillTest::makingTheCopyNeverDamagesIt()
         killAtEachStep([this] { layOut(NEW, OLD); }, [this] { backup().refresh(); },
                        [this] {
                            QVERIFY(contentOf(m_copy) == OLD || contentOf(m_copy) == NEW);
-                           QVERIFY(backup().refresh()); // left-over files do no harm
+                           QVERIFY(backup().refresh()); // ignores left-over temporary files
                            QCOMPARE(contentOf(m_copy), QByteArray(NEW));
                        });
     QVERIFY2(killed >= 4, qPrintable(QString::number(killed)));

@@ -30,7 +30,9 @@ struct Run {
 
 } // namespace
 
-/** Tests that the program keeps running and reports a problem if part of the system is missing. */
+/**
+ * Tests that the program keeps running and reports the problem if a part of the system is missing.
+ */
 class MachineTest : public UssdTest
 {
     Q_OBJECT
@@ -64,7 +66,7 @@ private:
     QString codesFile() { return home() + text("/data/ussd-dashboard/ussdprofile.xml"); }
     void layOutLibrary();
     void makeCopy();
-    /// Installs only the given languages for the program.
+    /// Installs language files for the program, but only for the given languages.
     void installTexts(const QStringList &languages);
     QString textsFolder() { return folder() + text("/prefix/" TEXTS_FOLDER); }
     /// Changes bytes in an installed language file. The seed selects the bytes.
@@ -88,8 +90,8 @@ void MachineTest::setUp()
     m_environment.remove(text("TKSV_USER_DATA"));
 }
 
-/// Copies the plug-in's data files, because the editor also saves the codes that the plug-in
-/// provides.
+/// Copies the plug-in's data files into a test folder. They are needed because the editor also
+/// saves the codes that come with the plug-in.
 void MachineTest::layOutLibrary()
 {
     const QString from = text(PLUGIN_LIBRARY "/plugins/USSDUIPlugin/");
@@ -130,7 +132,7 @@ bool MachineTest::write(const QString &path, const QByteArray &content)
            file.write(content) == content.size();
 }
 
-/// Creates the backup copy by starting the program, which makes the copy when it starts.
+/// Creates the backup copy by starting the program once.
 void MachineTest::makeCopy()
 {
     QVERIFY(write(codesFile(), OWN_CODES));
@@ -224,7 +226,7 @@ void MachineTest::halfAFileOfCodesIsOfferedBack()
     QCOMPARE(contentOf(codesFile() + text(".damaged")), half);
 }
 
-/// Tests a complete run that is killed at each step in turn, including the steps at start-up.
+/// Kills a complete run of the program at each step, including the steps during start-up.
 void MachineTest::aKillWhileSavingIsMendedByTheNextStart()
 {
     makeCopy();

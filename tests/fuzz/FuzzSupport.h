@@ -7,10 +7,10 @@
 #include <QByteArray>
 #include <QString>
 
-/* Common code of the fuzzers. Each fuzzer runs one input in LLVMFuzzerTestOneInput(). */
+/* Functions that the fuzzers share. Each fuzzer processes one input in LLVMFuzzerTestOneInput(). */
 
-/// Aborts the program with a message if the condition is false, which the fuzzer reports as a
-/// crash. The macro is active in every build type.
+/// Aborts the program with a message if the condition is false. The fuzzer reports this as a crash.
+/// The macro is active in all build types.
 #define FUZZ_REQUIRE(condition)                                                                    \
     ((condition) ? static_cast<void>(0) : FuzzSupport::fail(#condition, __FILE__, __LINE__))
 
@@ -19,11 +19,11 @@ namespace FuzzSupport
 
 [[noreturn]] void fail(const char *condition, const char *file, int line);
 
-/// Discards log lines. The lines are still formatted, so that the formatting is fuzzed too.
+/// Discards log messages after they have been formatted, so that the formatting is fuzzed too.
 void dropMessages();
 
-/// Creates an application without a display, for widgets. Only the first call creates the
-/// application, which is never deleted.
+/// Creates an application that supports widgets without a display. Only the first call has an
+/// effect. The application is never deleted.
 void needApplication();
 
 /// Returns a temporary folder, without a trailing separator. The folder is deleted when the program

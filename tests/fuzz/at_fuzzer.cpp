@@ -1,6 +1,6 @@
 /*
- * Fuzzes the protocol between a modem and its host: text encodings, command lines, and messages in
- * PDU mode.
+ * Fuzzes the protocol between a modem and its host: text encodings, command lines, and short
+ * messages in PDU mode.
  */
 #include "FuzzSupport.h"
 
@@ -29,8 +29,8 @@ void checkHex(const std::string &raw)
     FUZZ_REQUIRE(!read || read->size() * 2 == raw.size());
 }
 
-/// Checks that arbitrary bytes can be converted to text, and that a text survives conversion to
-/// UCS2.
+/// Checks that arbitrary bytes can be converted to a string, and that converting the string to UCS2
+/// and back does not change it.
 void checkCharsets(const std::string &raw)
 {
     const FakeModems::Bytes bytes(raw.begin(), raw.end());
@@ -71,7 +71,8 @@ void checkMessage(const std::string &raw)
         const auto message = FakeModems::decodeSubmit(pdu, octets > smsc ? octets - smsc - 1 : 0);
         FUZZ_REQUIRE(!message || isText(message->number));
         FUZZ_REQUIRE(!message || message->text.size() <=
-                                     // Twice the size if all characters are euro signs.
+                                     // Euro signs give the longest text: seven octets contain four
+                                     // of them, which are twelve bytes in UTF-8.
                                      2 * raw.size());
     }
 }

@@ -1,5 +1,5 @@
 /*
- * Fuzzes USSDPluginConfig.xml through the logic object: loading, every getter, and IMSI matching.
+ * Fuzzes USSDPluginConfig.xml through USSDLogic: loading the file, all getters, and IMSI matching.
  */
 #include "FuzzSupport.h"
 
@@ -22,7 +22,7 @@ bool same(const Char &a, const Char &b)
            a.green == b.green && a.blue == b.blue;
 }
 
-/// Checks that the getters support known attributes only, and that a bool is 0 or 1.
+/// Checks that the getters return a value only for known attributes, and that ATTR_VALUE is 0 or 1.
 void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute)
 {
     const int number = logic.GetComponentAttrInt(paidType, component, attribute);
@@ -35,8 +35,8 @@ void checkAttribute(USSDLogic &logic, int paidType, int component, int attribute
         FUZZ_REQUIRE(number == 0 || number == 1);
 }
 
-/// Checks all attributes. The file does not affect unknown attribute numbers, so these are checked
-/// only occasionally.
+/// Checks all known attributes. Unknown attributes do not depend on the file, so they are checked
+/// only for some inputs.
 void checkAttributes(USSDLogic &logic, bool alsoUnknown)
 {
     const int beyond = alsoUnknown ? 1 : 0;
@@ -46,7 +46,7 @@ void checkAttributes(USSDLogic &logic, bool alsoUnknown)
                 checkAttribute(logic, paidType, component, attribute);
 }
 
-/// Checks that a getter that reads its section again returns the same values for an unchanged file.
+/// Checks that two calls of the same getter return the same values for an unchanged file.
 void checkSections(USSDLogic &logic)
 {
     for (const _CHAR_SET_COLOR which : {CHAR_SET_SEND, CHAR_SET_RECEIVE}) {
@@ -68,7 +68,7 @@ void checkSections(USSDLogic &logic)
     logic.GetPrePostDiffer(differ);
 }
 
-/// Returns the length of the longest matching prefix. Tries all prefixes.
+/// Returns the length of the longest prefix that matches, or 0. Tries all prefixes.
 int longestPrefix(const QHash<QString, int> &prefixes, const QString &imsi)
 {
     int longest = 0;
@@ -88,8 +88,7 @@ void checkImsi(USSDLogic &logic, const AutoUSSD &section, const QString &imsi)
     FUZZ_REQUIRE(!matched || flags == section.imsiMap.value(imsi.left(length)));
 }
 
-/// Reads the section from the bytes independently, to compare it with the values in the logic
-/// object.
+/// Reads the section with a separate parser, for comparison with the values in `logic`.
 AutoUSSD autoUSSDBehindTheOthers(const QByteArray &file)
 {
     QXmlStreamReader reader(file);
@@ -126,7 +125,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         FuzzSupport::folder() + QLatin1String("/plugins/USSDUIPlugin/USSDPluginConfig.xml"), file);
     USSDLogic &logic = *USSDLogic::GetUSSDLogicInstance();
     checkAttributes(logic, size % 64 == 0);
-    checkImsis(logic, file.replace("\r\n", "\n")); // the logic object reads the file in text mode
+    checkImsis(logic, file.replace("\r\n", "\n")); // `logic` reads the file in text mode
     checkSections(logic);
     USSDLogic::Destroy();
     return 0;

@@ -1,4 +1,4 @@
-/* Fuzzes the USSD-SMS section: the limits of its parser, and the values that the parser returns. */
+/* Fuzzes the USSD-SMS section. Checks the limits of its parser and the values that it returns. */
 #include "FuzzSupport.h"
 
 #include <QXmlStreamReader>
@@ -12,7 +12,7 @@ namespace
 
 const int MOST_GROUPS = 500;
 const int MOST_CONTROLS = 6;
-const int MOST_COMPLAINTS = 21; // twenty complaints, and one about the XML syntax
+const int MOST_COMPLAINTS = 21; // twenty for the content, and one for the XML syntax
 
 void checkGeometry(const QRect &rect)
 {

@@ -1,6 +1,4 @@
-/*
- * Fuzzes a user's profile file. The file is read, saved and read again.
- */
+/* Fuzzes the profile file of a user. Reads the file, saves it, and reads it again. */
 #include "FuzzSupport.h"
 
 #include <QDir>
@@ -25,7 +23,7 @@ QList<USSDProfile> profilesOf(USSDEditCmd &store)
     return profiles;
 }
 
-/// Reads the files, saves the profiles and returns them.
+/// Reads the profile files, saves the profiles and returns them.
 QList<USSDProfile> readAndSave()
 {
     USSDEditCmd store;
@@ -39,7 +37,7 @@ void checkProfiles(const QList<USSDProfile> &profiles, size_t bytes)
     FUZZ_REQUIRE(static_cast<size_t>(profiles.count()) <= bytes / 6 + 1); // the length of "<item>"
     QSet<QString> codes;
     for (const USSDProfile &profile : profiles) {
-        // The store keeps only the first of equal codes.
+        // If several profiles have the same code, only the first one is kept.
         FUZZ_REQUIRE(!codes.contains(profile.value));
         codes.insert(profile.value);
     }
@@ -67,8 +65,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray file(reinterpret_cast<const char *>(data), static_cast<int>(size));
     FuzzSupport::writeFile(userFolder() + QLatin1String("ussdprofile.xml"), file);
     checkProfiles(readAndSave(), size);
-    // Saving may trim blanks, which can make two codes equal. Saving again must not change
-    // anything.
+    // The first save may trim spaces, which can make two codes equal. The second save must not
+    // change anything.
     const QList<USSDProfile> saved = readAndSave();
     checkProfiles(saved, size);
     FUZZ_REQUIRE(readAndSave() == saved);

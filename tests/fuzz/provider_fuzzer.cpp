@@ -1,6 +1,6 @@
 /*
  * Fuzzes the operator database. The plug-in must read the planned values from the generated files,
- * and every generated code must be valid.
+ * and all generated codes must be valid.
  */
 #include "FuzzSupport.h"
 
@@ -23,7 +23,7 @@ using namespace Provisioning;
 namespace
 {
 
-const int MOST_PROVIDERS = 20; // number of operators checked in each input
+const int MOST_PROVIDERS = 20; // the maximum number of operators checked per input
 
 QByteArray shipped;
 

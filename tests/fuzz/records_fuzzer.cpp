@@ -1,6 +1,6 @@
 /*
- * Fuzzes the device SDK's records in both directions. The memory of each record has exactly the
- * size of the record, so that reading beyond its end is detected.
+ * Fuzzes the device SDK's records in both directions. Each record is allocated with its exact size,
+ * so that reading beyond its end is detected.
  */
 #include "FuzzSupport.h"
 
@@ -25,7 +25,7 @@ std::vector<unsigned short> terminated(const QString &text)
     return result;
 }
 
-/// Returns the text up to the first zero unit.
+/// Returns the string up to its first null character.
 QString upToZero(const QString &text)
 {
     const int zero = text.indexOf(QChar(0));
@@ -58,7 +58,7 @@ void checkSmsResult(const QString &number, const QString &text, int result)
     FUZZ_REQUIRE(read.text == (record.text ? upToZero(text) : QString()));
 }
 
-/// Checks that a command of permitted length arrives unchanged, or is rejected because it is not
+/// Checks that a command of a permitted length either arrives unchanged or is rejected as invalid
 /// UTF-16.
 void checkRequest(const QString &command)
 {
@@ -86,7 +86,7 @@ void checkRawRequest(const uint8_t *data, size_t size)
     FUZZ_REQUIRE(!decoded || Tksv::toUtf16(*decoded).has_value());
 }
 
-/// Checks a reply from a modem. Invalid UTF-8 becomes an empty reply.
+/// Checks a reply from a modem. Invalid UTF-8 must be converted to an empty reply.
 void checkReply(const std::string &bytes)
 {
     Tksv::UssdReply reply;

@@ -1,6 +1,4 @@
-/*
- * Fuzzes a scenario file. The parser must return either a scenario or complaints, but never both.
- */
+/* Fuzzes a scenario file. The parser must return either a scenario or complaints, but not both. */
 #include "FuzzSupport.h"
 
 #include <algorithm>
@@ -23,7 +21,7 @@ void checkComplaints(const std::string &text, const Tksv::ScenarioResult &result
     }
 }
 
-/// Checks that a rule is found by its own name, and that its reply can be formatted.
+/// Checks that the rule can be looked up by its own name, and that its reply can be formatted.
 void checkRule(const Tksv::Scenario &scenario, const std::string &group, const Tksv::Rule &rule)
 {
     if (group.find(Tksv::ANY_DIGITS) == std::string::npos && group.find('/') == std::string::npos &&

@@ -1,6 +1,7 @@
 /*
- * A device SDK that accepts everything, never calls back and starts no thread. The fuzzers use it
- * for code that only registers call-backs. $USSD_FUZZ_USER_FOLDER is the user data directory.
+ * A device SDK that accepts all calls, never calls back and does not start threads. The fuzzers use
+ * it for code that only registers call-backs. $USSD_FUZZ_USER_FOLDER specifies the user data
+ * directory.
  */
 #include "tksv.h"
 

@@ -1,6 +1,4 @@
-/*
- * Fuzzes a reply in a status box. The box must show the reply as plain text.
- */
+/* Fuzzes a reply in a status box, which must show the reply as plain text. */
 #include "FuzzSupport.h"
 
 #include <QTextBlock>
@@ -21,7 +19,8 @@ QString withoutMarks(QString text)
     return text.remove(EMBED).remove(POP);
 }
 
-/// Checks that the document contains only paragraphs of text: no picture, link, table or frame.
+/// Checks that the document contains only paragraphs of text, without pictures, links, tables or
+/// frames.
 void checkDocument(const QTextDocument &document)
 {
     FUZZ_REQUIRE(document.rootFrame()->childFrames().isEmpty());
@@ -34,7 +33,7 @@ void checkDocument(const QTextDocument &document)
     }
 }
 
-/// Converts the line ends like a document: to paragraph separators, without carriage returns.
+/// Converts line ends as QTextDocument does: to paragraph separators, without carriage returns.
 QString asLines(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));

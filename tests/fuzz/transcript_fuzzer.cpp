@@ -1,4 +1,4 @@
-/* Fuzzes the transcript with arbitrary messages from the network, in any number and order. */
+/* Fuzzes the transcript with any number of arbitrary messages from the network. */
 #include "FuzzSupport.h"
 
 #include <QTextBlock>
@@ -16,16 +16,16 @@ namespace
 {
 
 const int MOST_TABLES = 8;
-const QChar NEXT_ENTRY(0x1E); // separates the entries of an input
+const QChar NEXT_ENTRY(0x1E); // separates the messages in an input
 
-/// Checks the resources that QTextEdit requests. No file may be opened.
+/// Checks the resources that QTextEdit loads. None of them may be read from a file.
 class WatchedView : public TranscriptView
 {
 public:
     QVariant loadResource(int type, const QUrl &name) override
     {
         const QVariant resource = TranscriptView::loadResource(type, name);
-        FUZZ_REQUIRE(resource.isValid()); // otherwise Qt would open the file itself
+        FUZZ_REQUIRE(resource.isValid()); // with an invalid resource, Qt would open the file
         return resource;
     }
 };
@@ -47,13 +47,14 @@ int tablesIn(const QTextFrame *frame)
     return tables;
 }
 
-/// Checks that the document contains no elements that take too long to lay out.
+/// Checks that the document does not contain anything that takes too long to lay out.
 void checkCost(const QTextDocument &document)
 {
     FUZZ_REQUIRE(tablesIn(document.rootFrame()) <= MOST_TABLES);
 }
 
-/// Returns the content of a second view that shows the same entries.
+/// Returns the content of a new view after all messages have been added. Sets `markup` to the
+/// markup of the messages.
 QString shownBy(const QStringList &texts, QString *markup)
 {
     WatchedView view;
@@ -70,7 +71,7 @@ QString shownBy(const QStringList &texts, QString *markup)
     return shown;
 }
 
-/// Returns the text of a view in which the complete transcript is set at once.
+/// Returns the content of a view in which the complete markup is set with a single call.
 QString shownAtOnce(const QString &markup)
 {
     WatchedView view;

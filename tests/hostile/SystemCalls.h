@@ -5,15 +5,15 @@
 #include <vector>
 
 /*
- * Records calls of open(), socket() and the functions that start programs. The definitions in the
- * program replace those of the C library, which they then call.
+ * Records the calls of open(), socket() and the functions that start programs. These functions are
+ * replaced in the program. Each replacement calls the original function in the C library.
  */
 namespace SystemCalls
 {
 
 /// Discards the recorded calls and starts recording.
 void watch();
-/// Stops recording and returns the calls in order, as "open PATH", "socket" or "run PATH".
+/// Stops recording. Returns the calls in order, as "open PATH", "socket" or "run PATH".
 std::vector<std::string> seen();
 
 } // namespace SystemCalls

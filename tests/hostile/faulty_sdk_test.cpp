@@ -17,7 +17,7 @@ TKSV_EventCallback registered(const char *function)
     return calls.empty() ? nullptr : calls.back().callback;
 }
 
-/// Returns a string of the device SDK without a terminating zero.
+/// Returns a string without the terminating zero that the device SDK guarantees.
 std::vector<unsigned short> unitsWithoutEnd(int count)
 {
     return std::vector<unsigned short>(static_cast<size_t>(count), 'x');
@@ -25,7 +25,7 @@ std::vector<unsigned short> unitsWithoutEnd(int count)
 
 } // namespace
 
-/** Tests the general window with a device SDK that breaks its own guarantees. */
+/** Tests the general window with a device SDK that violates its guarantees. */
 class FaultySdkTest : public DialogTest
 {
     Q_OBJECT
@@ -133,7 +133,7 @@ void FaultySdkTest::callBackAfterUnregisterIsTurnedAway()
     QVERIFY(callback);
     USSDLogic::GetUSSDLogicInstance()->unSDKRegisterEvent();
     TKSV_USSDResponse record = {};
-    // The response is accepted as if it had arrived in time.
+    // A late response is accepted as if it had arrived in time.
     std::thread([callback, &record] { callback(0, &record); }).join();
     drainEvents();
     QVERIFY(isIdle());
@@ -223,8 +223,8 @@ void FaultySdkTest::blockingRequestThatFailsIsSaid()
     QVERIFY(isIdle());
 }
 
-/// Tests shutting the plug-in down while a request blocks. The SDK's thread sends the next command,
-/// and this call blocks.
+/// Tests shutting down the plug-in while the SDK's thread is blocked in a request for the next
+/// command.
 void FaultySdkTest::endWaitsForABlockingRequest()
 {
     FakeAnswer slow = fakeSilence();
@@ -235,7 +235,7 @@ void FaultySdkTest::endWaitsForABlockingRequest()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, latin1("*2#")), &status);
     fakeSdkRespond(u"5 EUR");
-    QVERIFY(fakeSdkWaitForRequests(2)); // the second request is blocked now
+    QVERIFY(fakeSdkWaitForRequests(2)); // the second request is blocked
     logic->unSDKRegisterEvent();
     USSDLogic::Destroy();
     QVERIFY(fakeSdkCalls("TKSV_USSDSrv_Request").back().returned);

@@ -17,7 +17,7 @@ namespace
 {
 
 const int MILLION = 1000000;
-const char BAIT[] = "bait"; // part of the name of each file that a reply refers to
+const char BAIT[] = "bait"; // part of the names of all files that the replies refer to
 
 QString repeated(const QString &piece, int length)
 {
@@ -42,7 +42,7 @@ QByteArray loadedLibraries()
 
 } // namespace
 
-/** Records the addresses that would be opened on the desktop, instead of opening them. */
+/** Records the URLs that would otherwise be opened on the desktop. */
 class UrlRecorder : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private:
 };
 constexpr const char *UrlRecorder::SCHEMES[];
 
-/** Tests replies that attack the program in which they are shown. */
+/** Tests malicious replies, which try to make the program open files or use too many resources. */
 class HostileRepliesTest : public DialogTest
 {
     Q_OBJECT
@@ -148,7 +148,7 @@ QString HostileRepliesTest::baitPath(const char *name)
     return folder() + QLatin1Char('/') + latin1(BAIT) + latin1(name);
 }
 
-/// Replaces "FILE" in the reply by the path of an existing file.
+/// Replaces "FILE" in the reply with the path of an existing file.
 QString HostileRepliesTest::baited(const char *reply)
 {
     return latin1(reply).replace(latin1("FILE"), baitPath(".png"));
@@ -165,7 +165,7 @@ QStringList HostileRepliesTest::baitsTouched()
     return touched;
 }
 
-/// Waits until the complete reply is shown. A long reply is added in pieces.
+/// Waits until the complete reply is shown. A long reply is added in several steps.
 void HostileRepliesTest::waitUntilShown()
 {
     int before = -1;
@@ -224,7 +224,7 @@ void HostileRepliesTest::nothingIsOpenedLoadedOrRun()
     picture.fill(Qt::red);
     QVERIFY(picture.save(baitPath(".png")));
     open();
-    // Makes the windows load the resources that they load only once.
+    // The first reply makes the windows load the resources that they load only once.
     showEverywhere(latin1("first"));
     const UrlRecorder desktop;
     SystemCalls::watch();
@@ -253,7 +253,7 @@ void HostileRepliesTest::linkInAReplyOpensNothing()
     const UrlRecorder desktop;
     SystemCalls::watch();
     const QPoint middle = history()->viewport()->rect().center();
-    QVERIFY(!history()->anchorAt(middle).isEmpty()); // the mouse pointer is on the link
+    QVERIFY(!history()->anchorAt(middle).isEmpty()); // there is a link under the pointer
     QTest::mouseClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::mouseDClick(history()->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     QTest::keyClick(history(), Qt::Key_Return);
@@ -278,7 +278,7 @@ void HostileRepliesTest::windowOutlivesReply()
     waitUntilShown();
     history()->grab();
     QVERIFY(isIdle());
-    // The next reply is shown as usual.
+    // The next reply must be shown as usual.
     send(latin1("*101#"));
     networkSays(latin1("5 EUR"));
     waitUntilShown();
@@ -319,7 +319,7 @@ void HostileRepliesTest::labelOutlivesReply()
     QCOMPARE(label.text(), reply);
 }
 
-/// Shows long replies repeatedly and checks that memory use does not grow.
+/// Shows long replies repeatedly, and checks that the memory use does not grow.
 void HostileRepliesTest::memoryComesBack()
 {
     open();
@@ -332,7 +332,7 @@ void HostileRepliesTest::memoryComesBack()
         QVERIFY(history()->document()->characterCount() > MILLION);
         click(clearButton());
         drainEvents();
-        clearLog(); // otherwise the log would keep every reply
+        clearLog(); // the log would otherwise store all replies
         fakeSdkForgetRecords();
         if (round == 1)
             warm = residentBytes();
@@ -349,7 +349,7 @@ void HostileRepliesTest::noNetworkLibraryIsLoaded()
     open();
     showEverywhere(latin1("<img src='http://127.0.0.1:1/x.png'>"));
     const QByteArray libraries = loadedLibraries();
-    QVERIFY(libraries.contains("libQt5Widgets")); // proves that the list is not empty
+    QVERIFY(libraries.contains("libQt5Widgets")); // proves that libraries are found
     QVERIFY(!libraries.contains("libQt5Network"));
 }
 

@@ -33,7 +33,7 @@ int tablesIn(const QTextFrame *frame)
 } // namespace
 
 /**
- * Tests which replies are shown as plain text because their markup would take too long to lay out.
+ * Tests which replies are shown as plain text because laying out their markup would take too long.
  */
 class MarkupCostTest : public UssdTest
 {
@@ -224,7 +224,7 @@ void MarkupCostTest::heavyEntryComesInPieces()
     const QString text = latin1("twelve letters ").repeated(2000);
     view.appendEntry(entry(latin1("5 EUR")));
     view.appendEntry(entry(text));
-    QCOMPARE(view.document()->blockCount(), 1); // no part of the text is shown yet
+    QCOMPARE(view.document()->blockCount(), 1); // no part of the reply has been inserted yet
     QTRY_VERIFY(view.toPlainText().remove(QLatin1Char('\n')).endsWith(text));
     QVERIFY(view.document()->blockCount() > 25);
     for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next())

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Tests that other programs and libraries can be built against the installed files alone: the examples
-# with CMake, outside the source tree, and the host also with pkg-config. Runs what was built.
+# Tests that other programs and libraries can be built with only the installed files. Builds copies
+# of the examples with CMake outside the source tree, and the host also with pkg-config. Runs the
+# programs afterwards.
 . "$(dirname "$0")/installation.sh"
 compiler=$3
 
-# build_example NAME: builds a copy of the example with CMake in $work/NAME/build.
+# build_example NAME: copies the example to $work/NAME and builds it with CMake in $work/NAME/build.
 build_example() {
     cp -r "$source_tree/examples/$1" "$work/$1"
     run cmake -S "$work/$1" -B "$work/$1/build" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
@@ -15,7 +16,7 @@ build_example() {
     fi
 }
 
-# build_with_pkg_config: builds the host with flags from pkg-config.
+# build_with_pkg_config: builds the host with the compiler flags that pkg-config prints.
 build_with_pkg_config() {
     local flags
     flags=$(PKG_CONFIG_PATH=$lib/pkgconfig pkg-config --cflags --libs ussd-ui-plugin) || complain "no pkg-config file"

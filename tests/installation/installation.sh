@@ -1,5 +1,5 @@
-# Common code of the tests of the installation. The arguments of each test are the root folders of the
-# build tree and of the source tree.
+# Functions that the tests of the installation share. The arguments of each test are the root
+# folders of the build tree and of the source tree.
 set -u
 build=$1
 source_tree=$2
@@ -13,13 +13,14 @@ complain() {
     faults=$((faults + 1))
 }
 
-# run COMMAND...: runs the command and prints its output only if it fails.
+# run COMMAND...: runs the command. Prints its output only if the command fails.
 run() {
     local said
     said=$("$@" 2>&1) || complain "$* failed: $said"
 }
 
-# expect PATTERN COMMAND...: runs the command and requires that a line of its output matches the pattern.
+# expect PATTERN COMMAND...: runs the command, and fails unless a line of its output matches the
+# pattern.
 expect() {
     local pattern=$1 said
     shift

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Tests that the installation has the layout of the Filesystem Hierarchy Standard, and that the programs
-# still find all files after the installation has been moved.
+# Tests that the installation follows the Filesystem Hierarchy Standard, and that the programs still
+# find all their files after the installation has been moved.
 . "$(dirname "$0")/installation.sh"
 
-# is_there FILE...: requires that each file exists in the installation.
+# is_there FILE...: fails unless all files exist in the installation.
 is_there() {
     local file
     for file in "$@"; do
@@ -36,11 +36,11 @@ for file in USSDPluginConfig.xml ussdsysprofile.xml; do
         complain "$link does not link to the configuration"
 done
 
-# The pictures of the tour are taken in the source tree only.
+# The tour is part of the source tree and must not be installed.
 tour=$(find "$prefix" -iname '*tour*')
 [ -z "$tour" ] || complain "files of the tour are installed: $tour"
 
-# A path of the build tree in a program would be meaningless on another machine.
+# The programs must not contain paths of the build tree, which do not exist on other machines.
 for file in "$prefix"/bin/* "$prefix/$lib"/*.so.1 "$prefix/$lib/ussd-dashboard/plugins/USSDUIPlugin/libUSSDUIPlugin.so"; do
     if readelf -d "$file" | grep -E 'R(UN)?PATH' | grep -qF "$source_tree"; then
         complain "$file searches for libraries in the source tree"

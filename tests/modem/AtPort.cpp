@@ -20,7 +20,7 @@ bool isAbstract(const std::string &name)
     return name.compare(0, sizeof ABSTRACT_PREFIX - 1, ABSTRACT_PREFIX) == 0;
 }
 
-/// Returns the size of the address, or 0 if the name is too long for a socket address.
+/// Initialises the socket address. Returns its size, or 0 if the name is too long.
 socklen_t makeAddress(const std::string &name, sockaddr_un &address)
 {
     const std::size_t shift = isAbstract(name) ? 1 : 0;
@@ -158,7 +158,7 @@ gboolean AtPort::writePiece()
 }
 
 /// Sends the bytes without queueing them, because a few hundred bytes always fit into the socket
-/// buffer. read() detects whether the connection has been closed.
+/// buffer. Ignores errors, because read() detects a closed connection.
 void AtPort::send(const char *bytes, std::size_t size)
 {
     while (size > 0) {

@@ -9,28 +9,28 @@ namespace FakeModems
 {
 
 /**
- * The modem's end of the serial line. The port listens on a Unix socket and accepts one connection
+ * The modem's end of the serial line. The port listens on a Unix socket and supports one connection
  * at a time; a new connection replaces the previous one. All functions must be called from the
- * thread of the port's main context.
+ * thread that runs the main context of the port.
  */
 class AtPort
 {
 public:
-    /// `context` and everything that `onBytes` refers to must outlive the port. A name that starts
-    /// with "abstract:" is used as the name of an abstract socket, including this prefix. Any other
-    /// name is a path.
+    /// `context` and all objects that `onBytes` refers to must outlive the port. A `name` that
+    /// starts with "abstract:" is the name of an abstract socket, including the prefix. Any other
+    /// `name` is a path.
     AtPort(GMainContext *context, std::string name,
            std::function<void(const std::string &)> onBytes, std::function<void()> onOpened);
     ~AtPort();
     AtPort(const AtPort &) = delete;
     AtPort &operator=(const AtPort &) = delete;
 
-    /// Returns an empty string on success, otherwise the reason why the port cannot listen.
+    /// Starts listening. Returns an empty string on success, otherwise an error message.
     std::string listen();
     void stopListening();
 
-    /// Writes all bytes at once. After setPieces(true), writes them one at a time, with an
-    /// iteration of the main loop in between.
+    /// Writes all bytes at once. After setPieces(true) has been called, writes one byte per
+    /// iteration of the main loop.
     void write(const std::string &bytes);
     void setPieces(bool pieces) { m_pieces = pieces; }
 
@@ -50,7 +50,7 @@ private:
     const std::function<void(const std::string &)> m_onBytes;
     const std::function<void()> m_onOpened;
     bool m_pieces = false;
-    std::string m_unsent; // the bytes that remain to be written one at a time
+    std::string m_unsent; // bytes that are still to be written one at a time
     int m_listener = -1;
     int m_connection = -1;
     guint m_listenerSource = 0;

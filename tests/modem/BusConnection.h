@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-/* The few D-Bus functions that the modem tests need. */
+/* The D-Bus functions that the modem tests need. */
 
 namespace FakeModems
 {
@@ -28,15 +28,15 @@ struct Reply {
     std::string error;
 };
 
-/// Opens a private connection, which must be closed with closeConnection(). Returns null if no bus
-/// has this address.
+/// Opens a private connection. Call closeConnection() to close it. Returns null if the connection
+/// fails.
 GDBusConnection *connectTo(const std::string &busAddress);
-/// Closes the connection and sets the pointer to null. Does nothing if the pointer is already null.
+/// Closes the connection and sets the pointer to null. Does nothing if the pointer is null.
 void closeConnection(GDBusConnection *&connection);
 
-/// Waits up to ten seconds for the reply. `arguments` may be floating or null.
+/// Calls the method and waits up to ten seconds for the reply. `arguments` may be floating or null.
 Reply call(GDBusConnection *connection, const Method &method, GVariant *arguments);
-/// Sends the call without waiting for its result.
+/// Calls the method without waiting for a reply.
 void send(GDBusConnection *connection, const Method &method, GVariant *arguments);
 
 } // namespace FakeModems

@@ -13,8 +13,7 @@ namespace
 const unsigned char ESCAPE = 0x1B;
 const char16_t REPLACEMENT = 0xFFFD;
 
-/// The default alphabet of 3GPP TS 23.038, 6.2.1. The position of the escape character contains a
-/// character that is never used.
+/// The default alphabet of 3GPP TS 23.038, 6.2.1. U+FFFF replaces the escape character.
 const char16_t DEFAULT_ALPHABET[] = u"@£$¥èéùìòÇ\nØø\rÅåΔ_ΦΓΛΩΠΨΣΘΞ\uFFFFÆæßÉ !\"#¤%&'()*+,-./"
                                     u"0123456789:;<=>?¡ABCDEFGHIJKLMNOPQRSTUVWXYZÄÖÑÜ§¿"
                                     u"abcdefghijklmnopqrstuvwxyzäöñüà";
@@ -22,7 +21,8 @@ const std::size_t ALPHABET_SIZE = 128;
 static_assert(sizeof DEFAULT_ALPHABET / sizeof DEFAULT_ALPHABET[0] == ALPHABET_SIZE + 1,
               "one character for each septet");
 
-/// The characters that follow the escape character (3GPP TS 23.038, 6.2.1.1).
+/// The characters that are encoded as the escape character and a second septet (3GPP TS 23.038,
+/// 6.2.1.1).
 const std::pair<unsigned char, char16_t> EXTENSION[] = {
     {0x0A, u'\f'}, {0x14, u'^'}, {0x28, u'{'}, {0x29, u'}'}, {0x2F, u'\\'},
     {0x3C, u'['},  {0x3D, u'~'}, {0x3E, u']'}, {0x40, u'|'}, {0x65, u'€'}};
@@ -36,7 +36,7 @@ char16_t extended(unsigned char septet)
     return u' ';
 }
 
-/// Returns false if the alphabet does not contain the character.
+/// Appends the encoded character. Returns false if the alphabet does not contain the character.
 bool appendSeptets(Bytes &septets, char16_t unit)
 {
     for (std::size_t i = 0; i < ALPHABET_SIZE; ++i) {

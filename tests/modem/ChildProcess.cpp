@@ -18,7 +18,8 @@ namespace FakeModems
 namespace
 {
 
-/// Returns the path of the program. A user's search path often lacks the directories of daemons.
+/// Returns the path of the program. Also searches directories for daemons, which are often missing
+/// from $PATH.
 std::string findProgram(const std::string &name)
 {
     const char *const path = std::getenv("PATH");
@@ -33,13 +34,13 @@ std::string findProgram(const std::string &name)
     return std::string();
 }
 
-/// Runs in the child process, where only system calls are allowed.
+/// Runs in the child process after fork(), where only async-signal-safe functions are allowed.
 [[noreturn]] void become(const char *program, char *const *arguments, int log, int kept,
                          pid_t parent)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
-        ::_exit(127); // the parent has ended before prctl() took effect
+        ::_exit(127); // the parent had already ended when prctl() was called
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -11,8 +11,8 @@ namespace FakeModems
 
 /**
  * A program that ends together with the test, even if the test crashes. The kernel kills the
- * program when the thread that started the program ends. Therefore, this thread must exist for as
- * long as the program is needed.
+ * program when the thread that started it ends, so this thread must exist for as long as the
+ * program is needed.
  */
 class ChildProcess
 {
@@ -22,18 +22,18 @@ public:
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
-    /// Starts the program `arguments[0]`, which is searched for in $PATH and in /usr/sbin. Its
+    /// Starts the program `arguments[0]`, which is searched for in $PATH and /usr/sbin. Its
     /// standard output and standard error are written to the file `log`. The program inherits
-    /// `keptDescriptor` unless this is -1.
+    /// `keptDescriptor` unless it is -1.
     bool start(const std::vector<std::string> &arguments, const std::string &log,
                int keptDescriptor = -1);
     bool isRunning();
-    /// Sends SIGTERM. Sends SIGKILL if the process is still running after `limit`.
+    /// Sends SIGTERM, and SIGKILL if the process is still running after `limit`.
     void stop(std::chrono::milliseconds limit);
-    /// Stops the process with SIGSTOP until resume() is called.
+    /// Suspends the process with SIGSTOP until resume() is called.
     void pause();
     void resume();
-    /// Sends SIGKILL and returns when the process has ended.
+    /// Sends SIGKILL and waits until the process has ended.
     void kill();
 
 private:

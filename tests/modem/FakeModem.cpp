@@ -32,7 +32,7 @@ FakeModem::FakeModem(const std::string &port, const ModemSettings &settings)
         [&] { m_core = std::make_unique<ModemCore>(*m_thread, port, settings, std::move(news)); });
 }
 
-/// Stops the thread first, because delayed answers refer to the core.
+/// Stops the thread before the members are destroyed, because delayed answers refer to m_core.
 FakeModem::~FakeModem()
 {
     unplug();
@@ -148,7 +148,7 @@ std::vector<SubmittedSms> FakeModem::submitted() const
     return m_submitted;
 }
 
-/// Must be called with the mutex locked.
+/// m_mutex must be locked.
 int FakeModem::count(const std::string &start) const
 {
     return static_cast<int>(

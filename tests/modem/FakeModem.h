@@ -20,29 +20,30 @@ namespace FakeModems
 class ModemCore;
 
 /**
- * An AT modem on a Unix socket, with a simulated network. The modem uses the protocol that the
- * daemon expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It misbehaves on request,
- * and records everything that it receives. It answers without delay, from its own thread.
+ * A fake AT modem on a Unix socket, with a simulated network. It implements the commands that
+ * ModemManager expects from a real modem (3GPP TS 27.007, 27.005 and 23.040). It can be told to
+ * misbehave, and it records everything that it receives. It answers without delay, from its own
+ * thread.
  *
- * The outcomes of a scenario appear on the serial line as follows. A refusal is +CUSD: 2,
- * `unsupported` is +CUSD: 4 and `network-timeout` is +CUSD: 5. With `silence`, nothing follows the
- * OK; with `device-timeout`, even the OK is missing. `no-device` is +CME ERROR: 30. A device that
- * disappears closes the connection and does not listen until it returns. With `sim-locked`, the
- * modem requires the PIN of the scenario. With `disabled`, it refuses +CFUN=1 and does not
- * register. A device that cannot send short messages when the scenario starts does not support
- * +CNMI. A device that can no longer send short messages loses its registration.
+ * The outcomes in a scenario are translated to AT responses as follows. A refusal is +CUSD: 2,
+ * `unsupported` is +CUSD: 4 and `network-timeout` is +CUSD: 5. With `silence`, the modem sends only
+ * the OK. With `device-timeout`, it does not even send the OK. `no-device` is +CME ERROR: 30. A
+ * device that disappears closes the connection and stops listening until it returns. With
+ * `sim-locked`, the modem requires the PIN from the scenario. With `disabled`, it rejects +CFUN=1
+ * and does not register. A device that cannot send short messages when the scenario starts does not
+ * support +CNMI. A device that later becomes unable to send short messages loses its registration.
  *
  * All functions may be called from any thread.
  */
 class FakeModem
 {
 public:
-    /// Determines whether the clock of the scenario starts immediately or in startClock(). If the
-    /// clock is stopped, the daemon can find the modem before the first event. Until startClock()
-    /// is called, all commands fail because there is no network.
+    /// Specifies whether the scenario's clock starts immediately or in startClock(). A stopped
+    /// clock gives the daemon time to find the modem before the first event. Until startClock() is
+    /// called, all commands fail because there is no network.
     enum class Clock { Running, Stopped };
 
-    /// `port` is a path, or the name of an abstract socket, which starts with "abstract:".
+    /// `port` is a path, or the name of an abstract socket with the prefix "abstract:".
     explicit FakeModem(const std::string &port, const ModemSettings &settings = ModemSettings());
     ~FakeModem();
     FakeModem(const FakeModem &) = delete;
@@ -50,37 +51,38 @@ public:
 
     const std::string &port() const { return m_port; }
 
-    /// Switches to another network with a matching SIM card, and drops all pending requests. The
+    /// Switches to another network and a matching SIM card, and discards all pending requests. The
     /// daemon reads the new SIM card when the modem is plugged in again.
     void useScenario(Tksv::Scenario scenario, Clock clock = Clock::Running);
     void startClock();
 
-    /// Listens on the port. Returns an empty string on success, otherwise the error.
+    /// Starts listening on the port. Returns an empty string on success, otherwise an error
+    /// message.
     std::string plugIn();
     void unplug();
-    /// Returns false while the scenario keeps the device away.
+    /// Returns false while the device is absent in the scenario.
     bool isPresent() const;
-    /// Sets a handler that is called from the modem's thread when the scenario changes the
-    /// hardware. The handler must then call unplug() or plugIn(). If there is no handler, the modem
-    /// calls these functions itself.
+    /// Sets a handler that the modem's thread calls when the scenario changes the hardware. The
+    /// handler must call unplug() or plugIn(). Without a handler, the modem calls these functions
+    /// itself.
     void onPlugChange(std::function<void(PlugChange)> handler);
 
     // ---- misbehaviour
     void misbehave(const Misbehaviour &misbehaviour);
-    void behave();               ///< clears all faults and sends held replies
-    void setPieces(bool pieces); ///< sends the bytes one at a time
+    void behave();               ///< clears all faults and sends delayed replies
+    void setPieces(bool pieces); ///< if true, sends the bytes one at a time
     void hangUp();               ///< closes the connection; the daemon can reopen the port
-    void holdReplies(bool hold); ///< holds +CUSD lines back until called with `false`
+    void holdReplies(bool hold); ///< if true, delays +CUSD lines until called with `false`
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
-    void receiveSms(const std::string &pdu); ///< receives an SMS-DELIVER PDU, given as hex digits
+    void receiveSms(const std::string &pdu); ///< receives an SMS-DELIVER PDU in hexadecimal form
 
     // ---- received commands
     std::vector<std::string> received() const;
     std::vector<SubmittedSms> submitted() const;
     int timesReceived(const std::string &start) const;
-    /// Waits up to ten seconds until at least `times` commands that start with this string have
-    /// been received. Returns false if they have not been received by then.
+    /// Waits up to ten seconds until at least `times` commands that start with `start` have been
+    /// received. Returns false on time-out.
     bool waitForCommand(const std::string &start, int times = 1) const;
     void forgetReceived();
 

@@ -51,8 +51,8 @@ LoopThread::~LoopThread()
     g_main_context_unref(m_context);
 }
 
-/// Keeps the actions in a separate list. The thread sanitizer does not see the locks inside GLib,
-/// but does see the lock of this list.
+/// Keeps the actions in a separate list that is protected by a mutex. The thread sanitizer
+/// recognises this mutex, but not the locks in GLib.
 void LoopThread::post(Action action, unsigned delayMilliseconds)
 {
     const auto place = keep(std::move(action));

@@ -10,28 +10,28 @@
 namespace FakeModems
 {
 
-/** A thread with its own main context, which is the default context of the thread. */
+/** A thread that runs a main loop. The main context of the loop is the thread's default context. */
 class LoopThread
 {
 public:
     using Action = std::function<void()>;
 
-    /// `name` is the thread name that debuggers show. It must not exceed 15 characters.
+    /// `name` is the thread name that debuggers show. It may have up to 15 characters.
     explicit LoopThread(const char *name);
     ~LoopThread();
     LoopThread(const LoopThread &) = delete;
     LoopThread &operator=(const LoopThread &) = delete;
 
-    /// Stops the loop and waits until the thread has ended. Actions that are still pending or are
-    /// posted later are dropped.
+    /// Stops the loop and waits until the thread has ended. Pending actions and actions that are
+    /// posted later are discarded.
     void stop();
 
     GMainContext *context() const { return m_context; }
 
-    /// Runs the action on the loop's thread after the delay. May be called from any thread.
+    /// Runs the action on this thread after the delay. May be called from any thread.
     void post(Action action, unsigned delayMilliseconds = 0);
-    /// Runs the action on the loop's thread and returns when it has finished. May be called from
-    /// any thread.
+    /// Runs the action on this thread and waits until it has finished. May be called from any
+    /// thread.
     void call(const Action &action);
 
 private:

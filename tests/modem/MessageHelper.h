@@ -9,15 +9,15 @@
 #include <QTimer>
 
 /**
- * As long as the helper exists, it records the text of each message box and closes the box with the
- * first button of the box.
+ * Records the text of each message box that opens, and closes the box by pressing its first button.
+ * The helper is active for as long as it exists.
  */
 class MessageHelper : public QObject
 {
 public:
     MessageHelper() { qApp->installEventFilter(this); }
 
-    /// Returns the texts of all message boxes so far.
+    /// Returns the texts of all message boxes that have opened so far.
     QStringList texts() const { return m_texts; }
 
 protected:

@@ -64,7 +64,8 @@ std::string shownValue(GVariant *value)
 
 MmClient::MmClient(const std::string &busAddress) : m_connection(connectTo(busAddress))
 {
-    // No signals are needed, because each wait queries the property with a call.
+    // The manager does not need to receive signals, because the waiting functions poll the
+    // properties.
     m_manager = mm_manager_new_sync(m_connection, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_NONE, nullptr,
                                     nullptr);
 }
@@ -81,7 +82,8 @@ void MmClient::forget()
     g_clear_object(&m_manager);
 }
 
-/// Creates a new manager each time, so that the manager contains the current objects.
+/// Creates a new manager each time, because an existing manager does not contain objects that were
+/// added later.
 bool MmClient::use(const std::string &object)
 {
     forget();

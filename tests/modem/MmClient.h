@@ -19,8 +19,8 @@ struct UssdResult {
 };
 
 /**
- * A simple client of the daemon that uses libmm-glib and waits for each reply. The tests of the
- * modem fixtures use this client, as do benchmarks that compare the plug-in with a simple client.
+ * A simple client of the daemon that uses libmm-glib and waits for each reply. It is used in the
+ * tests of the modem fixtures, and in benchmarks that compare the plug-in with a simple client.
  */
 class MmClient
 {
@@ -37,17 +37,17 @@ public:
     UssdResult respond(const std::string &answer);
     bool cancel();
     /// Waits up to ten seconds until the property of the USSD interface has this value. Returns
-    /// false if it does not have this value by then.
+    /// false on time-out.
     bool waitForProperty(const char *name, const std::string &value);
     bool waitUntilIdle(); ///< waits until the USSD session is idle
 
-    /// Sends a short message. Like sendPin() and sendPuk(), returns an empty string on success,
-    /// otherwise the error message.
+    /// Sends a short message. Returns an empty string on success, otherwise an error message, as do
+    /// sendPin() and sendPuk().
     std::string sendSms(const std::string &number, const std::string &text);
     std::string sendPin(const std::string &pin);
     std::string sendPuk(const std::string &puk, const std::string &newPin);
 
-    int storedMessages(); ///< returns -1 if there is no messaging interface
+    int storedMessages(); ///< returns -1 if the modem has no messaging interface
 
     std::string operatorName();
     std::string operatorCode();

@@ -1,6 +1,6 @@
 /*
- * The commands that the modem supports. Like a real modem, it immediately answers ERROR to any
- * other command.
+ * The commands that the modem supports. The modem immediately answers ERROR to any other command,
+ * as a real modem would.
  */
 #include "ModemCore.h"
 
@@ -39,7 +39,8 @@ std::string joined(const std::vector<std::string> &parts)
 
 const std::map<std::string, ModemCore::Handler> &ModemCore::handlers()
 {
-    // The table is never destroyed, because a static modem still answers while the program ends.
+    // The table is never destroyed, because a static modem may still answer while the program
+    // exits.
     static const auto *const table = new std::map<std::string, Handler>{
         {"", &ModemCore::accept},
         {"Z", &ModemCore::accept},
@@ -134,8 +135,8 @@ AtAnswer ModemCore::charset(const AtCommand &command)
     return ok();
 }
 
-/// Keeps the modem in low-power mode if the scenario disables the device, as a radio switch does.
-/// The daemon ignores the refusal and keeps searching for a network.
+/// Keeps the modem in low-power mode if the device is disabled in the scenario, as a hardware
+/// switch would. The daemon ignores the error and keeps searching for a network.
 AtAnswer ModemCore::functionality(const AtCommand &command)
 {
     if (command.form == AtCommand::Read)
@@ -160,7 +161,7 @@ AtAnswer ModemCore::simCommand(const AtCommand &command)
     if (command.name == "+CSIM")
         return m_sim.raw(command);
     AtAnswer answer = m_sim.pin(command);
-    networkChanged(); // an unlocked SIM card registers
+    networkChanged(); // the modem registers when the SIM card is unlocked
     return answer;
 }
 
@@ -192,7 +193,7 @@ std::string ModemCore::networkCode() const
     return m_sim.data().imsi.substr(0, mccLength + mncLength);
 }
 
-/// Format 0 is the long name, format 2 is the number (3GPP TS 27.007, 7.3).
+/// Format 0 is the long name, and format 2 is the numeric operator code (3GPP TS 27.007, 7.3).
 AtAnswer ModemCore::operatorName(const AtCommand &command)
 {
     if (command.form == AtCommand::Set && command.value(0) == "3")
@@ -206,7 +207,7 @@ AtAnswer ModemCore::operatorName(const AtCommand &command)
                                   : "+COPS: 0,0," + quoted(name) + ",2");
 }
 
-/// The signal is 0 to 31, or 99 if it is unknown (3GPP TS 27.007, 8.5).
+/// The signal strength is 0 to 31, or 99 if it is unknown (3GPP TS 27.007, 8.5).
 AtAnswer ModemCore::signal(const AtCommand &)
 {
     const int percent = device().signalPercent;
@@ -241,8 +242,8 @@ AtAnswer ModemCore::ussd(const AtCommand &command)
     return command.values.size() < 2 ? ok() : startUssd(decodeText(command.value(1), m_charset));
 }
 
-/// Sends the USSD command to the network. With `device-timeout`, the modem does not answer at all.
-/// `no-device` becomes an error, since the modem itself is present and has to answer.
+/// Sends the USSD command to the network. With `device-timeout`, the modem does not answer. With
+/// `no-device`, it answers with an error.
 AtAnswer ModemCore::startUssd(const std::string &text)
 {
     switch (m_network ? m_network->sendUssd(text) : Tksv::RequestNoDevice) {
@@ -257,8 +258,8 @@ AtAnswer ModemCore::startUssd(const std::string &text)
 
 /* ---- short messages ---------------------------------------------------------------------- */
 
-/// Refuses the command if the scenario starts without SMS. The daemon does not offer messaging for
-/// a modem without +CNMI.
+/// Rejects the command if the scenario starts without SMS. The daemon does not support messaging
+/// for a modem without +CNMI.
 AtAnswer ModemCore::smsIndication(const AtCommand &command)
 {
     if (!m_network || !m_network->isSmsReadyAtFirst())
@@ -302,8 +303,8 @@ AtAnswer ModemCore::submitted()
     return info("+CMGS: " + std::to_string(m_smsReference));
 }
 
-/// Accepts one part of a long message. The parts travel separately and are joined in the network,
-/// so the last part to arrive receives the result of the complete message.
+/// Accepts one part of a long message. The network joins the parts, so the result of the complete
+/// message is the answer to the last part.
 AtAnswer ModemCore::deliverPart(const SubmittedSms &sms)
 {
     m_news.submitted(sms);
@@ -327,8 +328,8 @@ AtAnswer ModemCore::deliver(const Tksv::SmsMessage &message)
     return noAnswer();
 }
 
-/// Reports the result of the pending message. Only one message can be pending, because the port
-/// transmits one message at a time.
+/// Reports the result of the pending message. There is at most one, because the port sends one
+/// message at a time.
 void ModemCore::smsFinished(int result)
 {
     if (!std::exchange(m_smsOnItsWay, false))

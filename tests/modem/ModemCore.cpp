@@ -32,8 +32,8 @@ ModemCore::ModemCore(LoopThread &thread, const std::string &port, ModemSettings 
 
 /* ---- the network ------------------------------------------------------------------------- */
 
-/// If the SIM card is locked, starts the network in the registered state, because the modem handles
-/// the PIN itself.
+/// A locked SIM card is handled by the modem itself. The network is therefore started in the
+/// registered state.
 void ModemCore::useNetwork(Tksv::Scenario scenario)
 {
     SimData sim = m_settings.sim;
@@ -66,7 +66,7 @@ NetworkNews ModemCore::networkNews()
     news.ussd = [this](const Tksv::UssdReply &reply) {
         const bool isNetworks = reply.type <= TKSV_FAILURE_NETWORK_TIMEOUT; // a value of <m>
         sayUssd(isNetworks ? reply.type : TKSV_FAILURE_ENDED_BY_NETWORK,
-                reply.text + reply.failure.text); // the closing text if there is no reply
+                reply.text + reply.failure.text); // the closing message if there is no reply
     };
     news.lost = [this](int event) { networkLost(event); };
     news.smsFinished = [this](const Tksv::SmsMessage &, int result) { smsFinished(result); };
@@ -104,14 +104,14 @@ void ModemCore::networkLost(int event)
     m_news.plugChanged(event == TKSV_DEV_EVENT_RESET ? PlugChange::Reset : PlugChange::Gone);
 }
 
-/// Reports the registration and the signal as unsolicited lines. No such line reports that only SMS
-/// have become unavailable, so the modem loses its registration for that time.
+/// Sends changes of the registration and the signal as unsolicited lines. AT commands cannot report
+/// that only SMS is unavailable, so the modem loses its registration instead.
 void ModemCore::networkChanged()
 {
     const Tksv::DeviceInfo now = device();
     const TKSV_DeviceState before = std::exchange(m_toldState, now.state);
     if (before == now.state || now.state == TKSV_DEVICE_ABSENT) {
-        // the hardware has not changed
+        // the modem was neither unplugged nor changed
     } else if (before == TKSV_DEVICE_ABSENT) {
         m_news.plugChanged(PlugChange::Back);
     } else if (before < TKSV_DEVICE_SEARCHING || now.state < TKSV_DEVICE_SEARCHING) {
@@ -130,7 +130,8 @@ void ModemCore::networkChanged()
         say("+CIEV: 2," + std::to_string((now.signalPercent + 10) / 20));
 }
 
-/// Returns <stat> of 3GPP TS 27.007, 7.2: 1 is the home network, 2 is searching, 5 is roaming.
+/// Returns <stat> as defined in 3GPP TS 27.007, 7.2: 1 for the home network, 2 while searching, 5
+/// for roaming.
 int ModemCore::registrationStatus() const
 {
     const Tksv::DeviceInfo now = device();
@@ -259,9 +260,9 @@ void ModemCore::say(const std::string &line)
         m_thread.post([this, line] { send(line); }, static_cast<unsigned>(fault.value));
 }
 
-/// Sends a +CUSD line (3GPP TS 27.007, 7.15). The data coding scheme is that of the message as
-/// transmitted by the network: 15 for the default alphabet and 72 for UCS2 (3GPP TS 23.038, 5). The
-/// text itself is encoded as +CSCS requires.
+/// Sends a +CUSD line (3GPP TS 27.007, 7.15). The data coding scheme describes the message on the
+/// radio link: 15 for the default alphabet, 72 for UCS2 (3GPP TS 23.038, 5). The string in the line
+/// is encoded as selected with +CSCS.
 void ModemCore::sayUssd(int type, const std::string &text)
 {
     std::string line = "+CUSD: " + std::to_string(type);

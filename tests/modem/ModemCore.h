@@ -20,7 +20,7 @@
 namespace FakeModems
 {
 
-/** The notifications of a modem. All functions are called from the modem's thread. */
+/** Notifications from the modem. All functions are called from the modem's thread. */
 struct ModemNews {
     std::function<void(const std::string &)> received; // a command, or "PDU " and hex digits
     std::function<void(const SubmittedSms &)> submitted;
@@ -28,8 +28,8 @@ struct ModemNews {
 };
 
 /**
- * The protocol of the modem. Reads AT commands, and sends answers and unsolicited lines. All
- * functions must be called from the modem's thread.
+ * Implements the AT protocol of the modem: parses commands, and sends answers and unsolicited
+ * lines. All functions must be called from the modem's thread.
  */
 class ModemCore
 {
@@ -38,7 +38,7 @@ public:
 
     void useNetwork(Tksv::Scenario scenario);
     void startClock();
-    /// Returns an empty string on success, otherwise the error.
+    /// Returns an empty string on success, otherwise an error message.
     std::string plugIn() { return m_port.listen(); }
     void unplug();
     bool isPresent() const;
@@ -47,7 +47,7 @@ public:
     void setPieces(bool pieces) { m_port.setPieces(pieces); }
     void hangUp() { m_port.hangUp(); }
     void holdReplies(bool hold);
-    /// Sends an unsolicited line unchanged.
+    /// Sends the string unchanged as an unsolicited line.
     void say(const std::string &line);
     void sayUssd(int type, const std::string &text);
     void receiveSms(const std::string &pdu);
@@ -105,11 +105,11 @@ private:
     SimCard m_sim;
     std::shared_ptr<NetworkLink> m_network;
     Misbehaviours m_faults;
-    // The state that was reported to the owner last.
+    // The most recently reported state.
     bool m_present = false;
     TKSV_DeviceState m_toldState = TKSV_DEVICE_ABSENT;
 
-    std::string m_line; // the received part of an incomplete line
+    std::string m_line; // the beginning of a line that is not complete yet
     bool m_readsPdu = false;
     std::size_t m_pduLength = 0;
 
@@ -118,7 +118,7 @@ private:
     int m_functionality = 1;
     int m_toldRegistration = 0;
     int m_toldSignal = 0;
-    // Set by AT+CUSD=1. Until then, messages from the network are held back.
+    // Set by AT+CUSD=1. Until then, messages from the network are delayed.
     bool m_tellsUssd = false;
     bool m_holdsReplies = false;
     std::vector<std::string> m_heldReplies;

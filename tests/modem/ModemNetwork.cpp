@@ -1,4 +1,4 @@
-/* Implements the network of the SDK fixture with a fake modem and ModemManager. */
+/* Implements SdkFixture::useNetwork() with a fake modem and ModemManager. */
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -21,7 +21,7 @@ TKSV_DeviceInfo deviceInfo()
     return info;
 }
 
-/// Creates the world before the first use of the SDK library. It is then destroyed after the
+/// Creates the ModemWorld before the SDK library is first used, so that it is destroyed after the
 /// library has stopped.
 FakeModems::ModemWorld &world()
 {
@@ -40,8 +40,7 @@ FakeModems::ModemWorld &world()
 
 std::atomic<bool> wantsEnabledModem(true);
 
-/// Enables the modem as a user would, also after it was reset. The library itself does not enable
-/// it.
+/// Enables the modem as a user would, even after a reset. The library never enables it on its own.
 void enableModem(void *)
 {
     if (wantsEnabledModem && deviceInfo().state == TKSV_DEVICE_DISABLED)
@@ -72,8 +71,8 @@ std::string unlessReady(const char *what)
 namespace SdkFixture
 {
 
-/// Waits until the library has detected that the earlier modem was removed. Otherwise, the library
-/// would mistake the earlier modem for the new one.
+/// Waits until the library has detected that the previous modem was removed. Otherwise, the library
+/// would mistake the new modem for the previous one.
 std::string useNetwork(const std::string &scenario)
 {
     const Tksv::ScenarioResult result = Tksv::readScenario(scenario, "test.scenario");

@@ -11,9 +11,9 @@ namespace FakeModems
 {
 
 /**
- * The properties of a modem except for its network. The IMSI, the PIN and the home network come
- * from the scenario. The operator name of the SIM card also comes from the scenario unless it is
- * set here.
+ * The properties of a modem that are independent of its network. The IMSI, the PIN and the home
+ * network are specified in the scenario. The operator name on the SIM card is also taken from the
+ * scenario unless it is set here.
  */
 struct ModemSettings {
     std::string manufacturer = "Example";
@@ -25,18 +25,18 @@ struct ModemSettings {
     bool asksForPin = false;
     bool isRoaming = false;
     // If true, the modem reports each change in signal strength immediately, in five steps.
-    // Otherwise, the daemon polls the signal strength every 30 s.
+    // Otherwise, the daemon queries the signal strength every 30 s.
     bool tellsSignal = false;
     std::vector<Charset> charsets = {Charset::Ucs2, Charset::Gsm, Charset::Ira};
 };
 
-/** The changes of the modem hardware. */
+/** Changes of the modem hardware. */
 enum class PlugChange {
-    Gone,  // the modem was unplugged
-    Reset, // the modem has restarted on its own
-    Back,  // the modem has returned after it was unplugged or has restarted
-    // The SIM card or the radio switch has changed. The daemon notices this when the modem is
-    // plugged in again.
+    Gone,  // unplugged
+    Reset, // restarted on its own
+    Back,  // returned after it was unplugged or restarted
+    // The SIM card or the hardware switch has changed. The daemon notices the change when the modem
+    // is plugged in again.
     Changed
 };
 

@@ -1,7 +1,7 @@
 #ifndef MODEM_MODEMTEST_H
 #define MODEM_MODEMTEST_H
 
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
+// The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "MmClient.h"
 #include "ModemWorld.h"
 
@@ -9,12 +9,12 @@
 #include "tksv_device.h"
 #include "UssdTest.h"
 
-/** The base class of tests that use the device SDK with a real ModemManager and fake modems. */
+/** The base class for tests that use the device SDK with a real ModemManager and fake modems. */
 class ModemTest : public UssdTest
 {
 protected:
-    /// The scenario of the modems' network. It contains codes with every outcome, and the menu
-    /// *120#.
+    /// The scenario for the network of the modems. It contains codes with each possible outcome,
+    /// and the menu *120#.
     static const char NETWORK[];
 
     static TKSV_DeviceInfo info();
@@ -27,13 +27,13 @@ protected:
     void tearDown() override;
 
     FakeModems::FakeModem &fake() { return m_world->modem("one"); }
-    /// Starts ModemManager without a modem, and makes the library use any modem.
+    /// Starts ModemManager without a modem. The library then uses any modem that is added.
     void startWorld();
     void addModem(const char *id,
                   const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
     /// Starts ModemManager with a modem, and waits until the modem is registered.
     void useModem(const FakeModems::ModemSettings &settings = FakeModems::ModemSettings());
-    /// Makes the client use the modem "one".
+    /// Connects the client to the modem "one".
     bool connect(FakeModems::MmClient &client);
 
     std::unique_ptr<FakeModems::ModemWorld> m_world;

@@ -20,8 +20,8 @@ const char MODEM_INTERFACE[] = "org.freedesktop.ModemManager1.Modem";
 const char ADDRESS_VARIABLE[] = "DBUS_SYSTEM_BUS_ADDRESS";
 
 const std::chrono::seconds WAIT_LIMIT(10);
-/// The time after which the daemon is killed. A daemon that is waiting for an answer would take 20
-/// s to end.
+/// The time limit after which the daemon is killed. A daemon that is waiting for an answer would
+/// take 20 s to end.
 const std::chrono::milliseconds STOP_LIMIT(3000);
 const std::size_t TAIL_SIZE = 6000;
 
@@ -37,7 +37,7 @@ int numberOf(GVariant *dictionary, const char *key, const char *type)
     return number;
 }
 
-/// Reads the state of the modem. Returns false if the interfaces belong to another device.
+/// Reads the state of the modem. Returns false if the interfaces do not belong to this device.
 bool readModem(GVariant *interfaces, const std::string &device, ModemState &state)
 {
     GVariant *found = g_variant_lookup_value(interfaces, MODEM_INTERFACE, G_VARIANT_TYPE_VARDICT);
@@ -63,7 +63,7 @@ gboolean wakeUp(gpointer)
     return G_SOURCE_CONTINUE;
 }
 
-/** Wakes up the thread's main context at each D-Bus signal and every 50 ms. */
+/** Wakes up the main context of the thread after each D-Bus signal, and every 50 ms. */
 class Wakeups
 {
 public:
@@ -76,7 +76,7 @@ public:
             [](GDBusConnection *, const gchar *, const gchar *, const gchar *, const gchar *,
                GVariant *, gpointer) {},
             nullptr, nullptr);
-        m_timer = g_timeout_source_new(50); // for conditions that no signal reports
+        m_timer = g_timeout_source_new(50); // for conditions that are not reported by a signal
         g_source_set_callback(m_timer, wakeUp, nullptr, nullptr);
         g_source_attach(m_timer, m_context);
     }
@@ -121,12 +121,13 @@ void removeFolder(const std::string &folder)
 
 ModemWorld::ModemWorld() = default;
 
-/// Stops the daemon before the modems are deleted, because the daemon would wait for their answers.
+/// Stops the daemon before the modems are destroyed. Otherwise, the daemon would wait for their
+/// answers.
 ModemWorld::~ModemWorld()
 {
     for (const auto &entry : m_modems)
         entry.second->onPlugChange(nullptr);
-    m_thread.call([] {}); // completes the changes that the modems have posted
+    m_thread.call([] {}); // processes the changes that the modems have posted
     stopDaemon();
     m_modems.clear();
     m_polkit.reset();
@@ -140,7 +141,7 @@ ModemWorld::~ModemWorld()
 
 std::string ModemWorld::start()
 {
-    // The path must be short regardless of TMPDIR, because the folder contains sockets.
+    // The path must be short, because it is part of socket names. Therefore, TMPDIR is not used.
     char folder[] = "/tmp/modem-XXXXXX";
     if (!mkdtemp(folder))
         return "no temporary folder";
@@ -244,7 +245,7 @@ std::string ModemWorld::addModem(const std::string &id, const std::string &scena
 {
     if (hasModem(id))
         unplug(id);
-    m_thread.call([&] { m_modems.erase(id); }); // before the new modem uses its socket
+    m_thread.call([&] { m_modems.erase(id); }); // releases the socket before the new modem uses it
     auto modem = std::make_unique<FakeModem>(m_folder + "/" + id, settings);
     modem->onPlugChange(
         [this, id](PlugChange change) { m_thread.post([=] { plugChanged(id, change); }); });
@@ -265,9 +266,9 @@ std::string ModemWorld::useScenario(const std::string &id, const std::string &sc
     return std::string();
 }
 
-/// Announces the device to the daemon again. The daemon deletes the earlier object, as if the
-/// device were unplugged. If nothing listens on the port, the daemon does not create a new object.
-/// Inhibiting the device is not an alternative, because the daemon would disable it first.
+/// Announces the device to the daemon again. The daemon deletes the existing object as if the
+/// device had been unplugged, and creates a new one only if the port is open. Inhibiting the device
+/// instead is not possible, because the daemon would disable the device first.
 void ModemWorld::setProfile(const std::string &id, const std::string &port)
 {
     const char *const ports[] = {port.c_str(), nullptr};
@@ -298,9 +299,9 @@ void ModemWorld::plugIn(const std::string &id)
     announce(id);
 }
 
-/// Runs on the world's thread. To clients, a modem that resets itself while it stays plugged in
-/// looks like a daemon that restarts. The daemon is killed before the port is closed. Otherwise,
-/// the daemon would disable the modem.
+/// Runs on the world's thread. To clients, the reset of a modem that stays plugged in looks like a
+/// restart of the daemon. The daemon is killed before the port is closed, so that it cannot disable
+/// the modem.
 void ModemWorld::plugChanged(const std::string &id, PlugChange change)
 {
     if (!hasModem(id))

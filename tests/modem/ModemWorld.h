@@ -17,9 +17,9 @@
 namespace FakeModems
 {
 
-/** The state of a modem as reported by the daemon. */
+/** The state of a modem, as reported by the daemon. */
 struct ModemState {
-    std::string object; // the object path, or empty if there is no object
+    std::string object; // the object path; empty if there is no object
     int state = -1;     // MMModemState: 2 locked, 3 disabled, 6 enabled, 7 searching, 8 registered
     int lock = 0;       // MMModemLock: 1 none, 2 SIM PIN, 4 SIM PUK
     bool hasUssd = false;
@@ -32,14 +32,14 @@ const int STATE_ENABLED = 6;
 const int STATE_REGISTERED = 8;
 
 /**
- * A real ModemManager with fake modems, isolated from the ModemManager of the system. It consists
- * of a temporary folder, a private bus, a polkit stub and the daemon. Since it sets
+ * A real ModemManager with fake modems, isolated from the system's ModemManager. It consists of a
+ * temporary folder, a private bus, a polkit stub and the daemon. Because it sets
  * DBUS_SYSTEM_BUS_ADDRESS for the process, it must be created before anything connects to the
  * system bus. Only one instance may exist at a time. The bus and the daemon end with the process,
  * even if the process crashes.
  *
- * Must be created on a thread that exists as long as the object. Functions that wait give up after
- * ten seconds and return false or an empty string. The functions do not throw exceptions.
+ * Must be created on a thread that exists for as long as the object. Functions that wait return
+ * false or an empty string after ten seconds. The functions do not throw exceptions.
  */
 class ModemWorld
 {
@@ -49,52 +49,52 @@ public:
     ModemWorld(const ModemWorld &) = delete;
     ModemWorld &operator=(const ModemWorld &) = delete;
 
-    /// Starts the bus, the stub and the daemon. Returns an empty string on success, otherwise the
-    /// error.
+    /// Starts the bus, the polkit stub and the daemon. Returns an empty string on success,
+    /// otherwise an error message.
     std::string start();
     const std::string &busAddress() const { return m_bus.address(); }
     PolkitStub &polkit() { return *m_polkit; }
 
-    /// Adds a modem in the network that the scenario describes. In the daemon, the modem has the
-    /// name /virtual/<id>. A new modem replaces an earlier modem with the same name. Returns an
-    /// empty string on success, otherwise the error.
+    /// Adds a modem in the network that the scenario describes. The daemon uses the name
+    /// /virtual/<id> for the modem. An existing modem with the same name is replaced. Returns an
+    /// empty string on success, otherwise an error message.
     std::string addModem(const std::string &id, const std::string &scenario,
                          const ModemSettings &settings = ModemSettings(),
                          FakeModem::Clock clock = FakeModem::Clock::Running);
     bool hasModem(const std::string &id) const { return m_modems.count(id) != 0; }
     FakeModem &modem(const std::string &id) { return *m_modems.at(id); }
 
-    /// Switches a modem to another network. Plugs the modem in again unless the scenario keeps the
-    /// device away. Returns the errors in the scenario, or an empty string if there are none.
+    /// Switches a modem to another network. Plugs the modem in again unless it is absent in the new
+    /// scenario. Returns the errors in the scenario, or an empty string if there are none.
     std::string useScenario(const std::string &id, const std::string &scenario,
                             FakeModem::Clock clock = FakeModem::Clock::Running);
 
     // ---- the hardware
-    void unplug(const std::string &id); ///< returns when the modem's object has disappeared
+    void unplug(const std::string &id); ///< returns after the modem's object has disappeared
     void plugIn(const std::string &id);
 
     // ---- the daemon
-    bool startDaemon(); ///< announces the modems that are plugged in
+    bool startDaemon(); ///< announces all modems that are plugged in
     bool isDaemonRunning();
     void stopDaemon();
     void killDaemon();
-    /// Suspends the daemon, which keeps its bus name. Until resumeDaemon() is called, functions
-    /// that call the daemon do not receive a reply.
+    /// Suspends the daemon, which keeps its bus name. Calls to the daemon do not receive a reply
+    /// until resumeDaemon() is called.
     void pauseDaemon();
     void resumeDaemon();
 
     ModemState stateOf(const std::string &id);
     /// Waits until the modem has reached at least this state. Returns its object path, or an empty
-    /// string if the modem does not reach the state in time. The state of a failed modem is -1.
+    /// string on time-out. The state of a failed modem is -1.
     std::string waitForState(const std::string &id, int atLeast);
     /// Waits for the modem, enables it and returns its object path.
     std::string switchOn(const std::string &id);
-    /// Like switchOn(), but also waits until the modem is registered.
+    /// Like switchOn(), but also waits until the modem has registered.
     std::string enable(const std::string &id);
     bool switchOff(const std::string &id);
     bool waitUntil(const std::function<bool()> &condition);
 
-    /// Returns the end of the daemon's log, which is printed if a test fails.
+    /// Returns the last lines of the daemon's log, to be printed if a test fails.
     std::string logTail();
 
 private:
@@ -112,7 +112,7 @@ private:
     std::unique_ptr<PolkitStub> m_polkit;
     GDBusConnection *m_connection = nullptr;
     std::mutex m_daemonMutex; // guards m_daemon
-    // Started on m_thread, because the daemon ends with the thread that started it.
+    // The daemon is started on m_thread, because it ends with the thread that started it.
     ChildProcess m_daemon;
     std::map<std::string, std::unique_ptr<FakeModem>> m_modems;
     LoopThread m_thread{"modem-world"};

@@ -24,9 +24,9 @@ void NetworkLink::start()
     m_network.start(*this);
 }
 
-/// Treats each code as the start of a new session, even where a network would treat the code as the
-/// answer to its menu. The modem may not have received the preceding cancellation, because the
-/// daemon sends only the first one.
+/// Each code starts a new session. A network would treat the code as an answer while a menu is
+/// open, but the daemon may not have passed a preceding cancellation to the modem, because it sends
+/// only the first cancellation.
 int NetworkLink::sendUssd(const std::string &text)
 {
     if (!m_started)
@@ -83,7 +83,7 @@ void NetworkLink::deviceLost(int event)
     });
 }
 
-/// Does nothing, because the device information also contains this status.
+/// Does nothing, because the device information contains the same status.
 void NetworkLink::smsStatusChanged(bool) {}
 
 void NetworkLink::smsFinished(const Tksv::SmsMessage &message, int result)

@@ -13,7 +13,7 @@
 namespace FakeModems
 {
 
-/** The notifications of the network. All functions are called from the modem's thread. */
+/** Notifications from the network. All functions are called from the modem's thread. */
 struct NetworkNews {
     std::function<void(const Tksv::UssdReply &)> ussd;
     std::function<void(int event)> lost;
@@ -22,9 +22,9 @@ struct NetworkNews {
 };
 
 /**
- * Connects the modem to its simulated network, which plays a scenario. The network runs on its own
- * thread. The link passes the network's events to the modem's thread in the same order. All
- * functions must be called from the modem's thread.
+ * Connects the modem to its simulated network, which executes a scenario on a separate thread. The
+ * events of the network are passed to the modem's thread in the same order. All functions must be
+ * called from the modem's thread.
  */
 class NetworkLink : public std::enable_shared_from_this<NetworkLink>, private Tksv::BackendObserver
 {
@@ -36,8 +36,8 @@ public:
     void start();
     bool isStarted() const { return m_started; }
 
-    /// Returns a Tksv::RequestStatus. While a menu is open, text that does not have the form of a
-    /// code is sent as the answer to the menu.
+    /// Returns a Tksv::RequestStatus. While a menu is open, a string that does not have the form of
+    /// a code is sent as an answer.
     int sendUssd(const std::string &text);
     void endUssd();
     bool sendSms(const Tksv::SmsMessage &message);

@@ -11,8 +11,8 @@ namespace FakeModems
 {
 
 /**
- * Replaces polkit on the bus and owns polkit's bus name. The stub answers the authorization
- * requests of the daemon. It grants all requests unless it is set to refuse them.
+ * Replaces polkit on the bus: owns its bus name and answers the daemon's authorization requests.
+ * The stub grants all requests unless it has been told to fail.
  */
 class PolkitStub
 {
@@ -22,14 +22,14 @@ public:
     PolkitStub(const PolkitStub &) = delete;
     PolkitStub &operator=(const PolkitStub &) = delete;
 
-    /// Starts the stub and returns when it owns the bus name. Returns an empty string on success,
-    /// otherwise the error.
+    /// Starts the stub and waits until it owns the bus name. Returns an empty string on success,
+    /// otherwise an error message.
     std::string start(const std::string &busAddress);
     void allow(bool allowed) { m_allowed = allowed; }
-    /// Makes the stub answer every request with an error, as the bus does if polkit is missing.
+    /// If `fails` is true, the stub answers all requests with an error, as the bus does if polkit
+    /// is not installed.
     void fail(bool fails) { m_fails = fails; }
-    /// Holds back the answer to the next request, as polkit does while it prompts the user for a
-    /// password.
+    /// Delays the answer to the next request, as polkit does while the user is entering a password.
     void holdNext() { m_holdsNext = true; }
     bool isHolding();
     void answerHeld();
@@ -42,7 +42,7 @@ private:
     std::atomic<bool> m_allowed{true};
     std::atomic<bool> m_fails{false};
     std::atomic<bool> m_holdsNext{false};
-    GDBusMethodInvocation *m_held = nullptr; // used on the stub's thread only
+    GDBusMethodInvocation *m_held = nullptr; // used only on the stub's thread
     std::atomic<int> m_timesAsked{0};
     GDBusConnection *m_connection = nullptr;
     LoopThread m_thread{"polkit-stub"};

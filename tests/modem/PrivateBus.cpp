@@ -31,7 +31,7 @@ void writeConfiguration(const std::string &path, const std::string &address)
                            "</busconfig>\n";
 }
 
-/// Waits for the address line, which the bus daemon writes as soon as it listens.
+/// Waits until the bus daemon writes its address, which means that it accepts connections.
 bool waitForLine(int descriptor)
 {
     pollfd entry = {descriptor, POLLIN, 0};

@@ -9,15 +9,15 @@ namespace FakeModems
 {
 
 /**
- * A message bus whose socket is in a given folder. The bus has no access restrictions. It is shut
- * down when this object is destroyed.
+ * A message bus without access restrictions. Its socket is in a given folder. The destructor stops
+ * the bus.
  */
 class PrivateBus
 {
 public:
-    /// Starts the bus and returns when clients can connect. Returns an empty string on success,
-    /// otherwise the error. The path of `folder` must be short because a socket name can have at
-    /// most 107 bytes.
+    /// Starts the bus and waits until it accepts connections. Returns an empty string on success,
+    /// otherwise an error message. The path of `folder` must be short, because a socket name can
+    /// have at most 107 bytes.
     std::string start(const std::string &folder);
     const std::string &address() const { return m_address; }
     void stop();

@@ -11,7 +11,7 @@ namespace FakeModems
 namespace
 {
 
-/// The error codes of 3GPP TS 27.007, 9.2.1.
+/// Error codes defined in 3GPP TS 27.007, 9.2.1.
 enum EquipmentError {
     NotAllowed = 3,
     SimMissing = 10,
@@ -23,7 +23,7 @@ enum EquipmentError {
 const int PIN_TRIES = 3;
 const int PUK_TRIES = 10;
 
-/// The files of 3GPP TS 31.102, by their decimal identifiers.
+/// Files defined in 3GPP TS 31.102, with their decimal identifiers.
 const char ICCID_FILE[] = "12258";
 const char ADMINISTRATIVE_FILE[] = "28589";
 const char PROVIDER_NAME_FILE[] = "28486";
@@ -39,8 +39,8 @@ std::string swapped(std::string digits)
     return digits;
 }
 
-/// Returns the display condition and the padded name, encoded in the default alphabet (3GPP TS
-/// 31.102, 4.2.12).
+/// Returns the content of the file with the service provider name: the display condition and the
+/// padded name in the default alphabet (3GPP TS 31.102, 4.2.12).
 std::string providerName(const std::string &name)
 {
     Bytes bytes = toSeptets(name).value_or(Bytes());
@@ -49,7 +49,8 @@ std::string providerName(const std::string &name)
     return toHex(bytes);
 }
 
-/// Returns the status words of a VERIFY command without a PIN (ETSI TS 102 221, 11.1.9).
+/// Returns the status words that report the remaining attempts after a VERIFY command without a PIN
+/// (ETSI TS 102 221, 11.1.9).
 std::string triesLeft(int tries)
 {
     char words[16];

@@ -8,7 +8,7 @@
 namespace FakeModems
 {
 
-/** The data on the SIM card. */
+/** The data stored on the SIM card. */
 struct SimData {
     std::string imsi;
     std::string iccid = "8949000000000000017"; // 19 or 20 digits
@@ -19,7 +19,7 @@ struct SimData {
 };
 
 /**
- * The AT commands of a SIM card: the lock, the retry counters and the few files that a daemon
+ * The AT commands of a SIM card: the PIN lock, the retry counters, and the files that ModemManager
  * reads.
  */
 class SimCard
@@ -30,7 +30,7 @@ public:
     void setData(SimData data);
     const SimData &data() const { return m_data; }
     void setMissing(bool missing) { m_missing = missing; }
-    /// Makes the card require its PIN from now on.
+    /// Makes the card require its PIN.
     void lock() { m_lock = Lock::Pin; }
     bool isUsable() const { return !m_missing && m_lock == Lock::None; }
     bool isLocked() const { return !m_missing && m_lock != Lock::None; }

@@ -14,7 +14,7 @@ const unsigned HAS_USER_DATA_HEADER = 0x40;
 const unsigned INTERNATIONAL = 0x91;
 
 /**
- * Reads octets in sequence. Reading past the end returns zeros and makes isGood() return false.
+ * Reads octets in sequence. Reading beyond the end returns zeros, and isGood() then returns false.
  */
 class Reader
 {
@@ -48,8 +48,8 @@ private:
     bool m_good = true;
 };
 
-/// Reads an address (3GPP TS 23.040, 9.1.2.5). Each octet contains two digits; the first digit is
-/// in the low half.
+/// Reads an address (3GPP TS 23.040, 9.1.2.5). Each octet contains two digits, with the first digit
+/// in the lower half.
 std::string readAddress(Reader &reader)
 {
     const char symbols[] = "0123456789*#abc";
@@ -63,8 +63,8 @@ std::string readAddress(Reader &reader)
     return number;
 }
 
-/// Returns the length of the validity period. Bits 3 and 4 of the first octet contain its format
-/// (3GPP TS 23.040, 9.2.3.3).
+/// Returns the length of the validity period, whose format is specified by bits 3 and 4 of the
+/// first octet (3GPP TS 23.040, 9.2.3.3).
 std::size_t validityOctets(unsigned first)
 {
     switch (first >> 3 & 0x03) {
@@ -77,8 +77,8 @@ std::size_t validityOctets(unsigned first)
     }
 }
 
-/// Reads the header elements 00 (8-bit reference) and 08 (16-bit reference) of 3GPP TS 23.040,
-/// 9.2.3.24.
+/// Reads the header elements for concatenated messages: 00 (8-bit reference) and 08 (16-bit
+/// reference) (3GPP TS 23.040, 9.2.3.24).
 void readHeader(const Bytes &header, SubmittedSms &sms)
 {
     for (std::size_t i = 0; i + 1 < header.size(); i += 2U + header[i + 1]) {
@@ -94,7 +94,7 @@ void readHeader(const Bytes &header, SubmittedSms &sms)
 
 enum class Alphabet { Default, Data, Ucs2 };
 
-/// Supports the general data coding and the message classes of 3GPP TS 23.038, chapter 4.
+/// Supports the general data coding group and the message class group of 3GPP TS 23.038, chapter 4.
 Alphabet alphabetOf(unsigned coding)
 {
     const unsigned alphabet = coding >> 2 & 0x03;
@@ -105,8 +105,8 @@ Alphabet alphabetOf(unsigned coding)
     return alphabet == 1 ? Alphabet::Data : Alphabet::Default;
 }
 
-/// In the default alphabet, `length` is the number of septets, including the header and the fill
-/// bits. In the other alphabets, it is the number of octets.
+/// `length` is the number of septets in the default alphabet, including the header and the fill
+/// bits. In other alphabets, it is the number of octets.
 std::string decodeUserData(const Bytes &data, std::size_t headerSize, std::size_t length,
                            Alphabet alphabet)
 {
@@ -147,7 +147,7 @@ std::optional<SubmittedSms> decodeSubmit(const std::string &hex, std::size_t len
     reader.octets(reader.octet()); // the service centre
     const bool lengthIsRight = reader.left() == length;
     const unsigned first = reader.octet();
-    reader.octet(); // the message reference, which the modem chooses itself
+    reader.octet(); // the message reference, which is set by the modem
     SubmittedSms sms;
     sms.number = readAddress(reader);
     reader.octet(); // the protocol identifier

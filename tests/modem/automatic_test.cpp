@@ -1,6 +1,6 @@
 /*
- * Tests which device the library uses if none is selected: the first modem that is registered, and
- * never the simulator.
+ * Tests which device the library uses if none is selected: the first modem that has registered. The
+ * library must never use the simulator.
  */
 #include "ModemWorld.h"
 
@@ -83,8 +83,8 @@ private:
     std::unique_ptr<ModemWorld> m_world;
 };
 
-/// Unsets TKSV_BACKEND, which makes tests use the simulator by default. The variable must be unset
-/// before the first call of the library.
+/// Unsets TKSV_BACKEND, with which the tests normally select the simulator. This must be done
+/// before the library is first called.
 void ModemAutomaticTest::setUpClass()
 {
     qunsetenv("TKSV_BACKEND");
@@ -102,7 +102,7 @@ void ModemAutomaticTest::tearDown()
         std::fprintf(stderr, "%s\n", m_world->logTail().c_str());
     unregisterAll();
     m_world.reset();
-    // The library searches for the next world only after it has detected the end of this one.
+    // The library searches for the next ModemWorld only after it has noticed the end of this one.
     TKSV_Device_UseModem(nullptr);
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NO_BUS; }));
     received().clear();
@@ -122,8 +122,8 @@ void ModemAutomaticTest::addSecondModem()
     QCOMPARE(m_world->addModem("two", network, settings), std::string());
 }
 
-/// Tests a command that is sent before the library has found any device. This test must therefore
-/// be the first in the process.
+/// Tests a command that is sent before the library has found a device. Must be the first test in
+/// the process.
 void ModemAutomaticTest::theFirstCommandWaitsForTheModem()
 {
     addModem();
@@ -141,7 +141,8 @@ void ModemAutomaticTest::theSimulatorIsNotUsedWithoutAModem()
     TKSV_Device_UseAutomatic();
     QVERIFY(waitUntil([] { return info().isLooking == 0; }));
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_ABSENT));
-    QVERIFY(waitUntil([] { return request(u"*100#") != 0; })); // the state of the modem is known
+    // The request is rejected as soon as the library knows that there is no modem.
+    QVERIFY(waitUntil([] { return request(u"*100#") != 0; }));
     QVERIFY(waitUntil([] { return info().problem == TKSV_PROBLEM_NONE; }));
     TKSV_FailureInfo failure;
     QCOMPARE(TKSV_Device_GetLastFailure(&failure), 0L);
@@ -192,7 +193,8 @@ void ModemAutomaticTest::theDaemonMayStartLater()
     QVERIFY(waitForDevice(TKSV_BACKEND_MODEMMANAGER, TKSV_DEVICE_DISABLED));
 }
 
-/// Tests that the library changes from a modem that is disabled to another modem that registers.
+/// Tests that the library switches from a disabled modem to another modem when that modem
+/// registers.
 void ModemAutomaticTest::theRegisteredModemIsPreferred()
 {
     registerAll();
@@ -217,8 +219,8 @@ void ModemAutomaticTest::theRegisteredModemIsPreferred()
     QCOMPARE(list[1].isInUse, 1);
 }
 
-/// Tests that the library does not change to another modem, and thus to another SIM, when the modem
-/// in use loses its network for a moment.
+/// Tests that a short loss of the network does not make the library switch to another modem, and
+/// thus to another SIM card.
 void ModemAutomaticTest::theModemInUseStaysInUse()
 {
     registerAll();

@@ -1,6 +1,6 @@
 /*
- * Tests how the device SDK works with a real ModemManager. The tests follow the rows of the table
- * in docs/modems.md.
+ * Tests the device SDK with a real ModemManager. The tests are in the order of the rows in the
+ * table in docs/modems.md.
  */
 #include "ModemTest.h"
 
@@ -36,15 +36,15 @@ void onNetworkText(void *, const TKSV_NetworkText *text)
     networkTexts().add(text->text + std::string(text->waitsForAnswer ? "?" : "."));
 }
 
-/// Ignores the event, like the plug-in when it is not waiting for a reply.
+/// Does not accept the event, like the plug-in when it is not waiting for a reply.
 unsigned char takesNothing(int, void *)
 {
     return 0;
 }
 
 /**
- * As long as this object exists, no USSD call-back accepts network messages, so the dashboard
- * receives them.
+ * While an object of this class exists, no USSD call-back accepts network-initiated messages. They
+ * are therefore delivered to the dashboard's call-back.
  */
 class OnlyDashboard
 {
@@ -173,8 +173,8 @@ void ModemDeviceTest::theModemTellsOfItself()
 
 /* ---- replies ----------------------------------------------------------------------------- */
 
-/// Tests replies that arrive in pieces after the OK. If a reply comes together with the OK, the
-/// daemon uses only the bytes that have arrived when it reads the OK.
+/// Tests replies that arrive in several pieces, after the OK. If a reply arrived in pieces together
+/// with the OK, the daemon would use only the pieces that have arrived when it reads the OK.
 void ModemDeviceTest::repliesArriveWhole()
 {
     useModem();
@@ -256,8 +256,8 @@ void ModemDeviceTest::brokenRepliesHaveAReason()
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
-/// Tests the reason for a failure on 4G. The last number of +CREG is the access technology: 7 is
-/// 4G, and 2 is 3G (3GPP TS 27.007, 7.2).
+/// Tests the reason that is reported for a failure on 4G. The last value of +CREG is the access
+/// technology: 7 for 4G, 2 for 3G (3GPP TS 27.007, 7.2).
 void ModemDeviceTest::aModemOn4GOnlyIsSaid()
 {
     useModem();
@@ -270,7 +270,7 @@ void ModemDeviceTest::aModemOn4GOnlyIsSaid()
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_ON_4G; }));
     fake().misbehave(Misbehaviour{"AT+CUSD=1", Fault::Error, 100, 2});
     QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_ON_4G));
-    QCOMPARE(ask(u"*130#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK)); // not caused by 4G
+    QCOMPARE(ask(u"*130#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK)); // unrelated to 4G
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     register4G("2");
     QVERIFY(waitUntil([] { return ask(u"*131#").type == TKSV_FAILURE_NOT_SUPPORTED; }));
@@ -303,7 +303,8 @@ void ModemDeviceTest::unsaneTextIsRefused()
 void ModemDeviceTest::aReleasedCommandDoesNotBlockTheNext()
 {
     useModem();
-    for (int i = 0; i < 3; ++i) { // the daemon sends only one cancel to the modem
+    // The daemon sends only the first cancellation to the modem, so one round is not enough.
+    for (int i = 0; i < 3; ++i) {
         QCOMPARE(request(u"*133#"), 0L);
         QVERIFY(fake().waitForCommand("AT+CUSD=1,", 2 * i + 1));
         TKSV_USSDSrv_Release(nullptr);
@@ -316,13 +317,13 @@ void ModemDeviceTest::aReplacedCommandIsNotAnswered()
 {
     useModem();
     QCOMPARE(request(u"*133#"), 0L);
-    QCOMPARE(request(u"*120#"), 0L); // possibly sent before the modem receives the first command
+    QCOMPARE(request(u"*120#"), 0L); // may be sent before the modem has received the first command
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     QCOMPARE(received().responses.all().size(), std::size_t(1));
 }
 
-/// Tests that the dashboard receives the late reply, because the daemon cannot determine to which
-/// command a reply belongs.
+/// Tests that the late reply is delivered to the dashboard, because the daemon cannot know which
+/// command the reply belongs to.
 void ModemDeviceTest::theReplyToAReleasedCommandIsToldToTheDashboard()
 {
     useModem();
@@ -345,7 +346,7 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     TKSV_Device_UseModem("350000000000017");
     QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
     TKSV_Device_UseModem("350000000000025");
-    // The library refuses the request if it has already detected that this modem is absent.
+    // The library rejects the request if it already knows that this modem is absent.
     const bool isAccepted = request(u"*100#") == 0;
     QVERIFY(waitForProblem(TKSV_PROBLEM_CHOSEN_ABSENT));
     const std::size_t expected = isAccepted ? 2 : 1;
@@ -354,7 +355,8 @@ void ModemDeviceTest::aCommandForAModemJustChosenIsSent()
     QCOMPARE(received().responses.all().back().type, isAccepted ? int(TKSV_FAILURE_NO_DEVICE) : 0);
 }
 
-/// Tests that calls return immediately, and not only after the 25-second default time-out of GDBus.
+/// Tests that the calls return immediately. They must not wait for the default time-out of GDBus,
+/// which is 25 s.
 void ModemDeviceTest::aDaemonThatHangsHoldsNobodyUp()
 {
     m_world = std::make_unique<ModemWorld>();
@@ -391,12 +393,13 @@ void ModemDeviceTest::aDisabledModemEndsTheCommand()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_DISABLED));
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library leaves the modem disabled
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library does not enable it again
     QVERIFY(request(u"*100#") != 0);
     QCOMPARE(info().hasForeignSession, 0);
     QCOMPARE(TKSV_Device_Enable(), 0L);
     QVERIFY(waitForState(TKSV_DEVICE_REGISTERED));
-    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance")); // the first command is cancelled
+    // This command does not have to wait, because the first one has been cancelled.
+    QCOMPARE(shown(ask(u"*100#").text), QLatin1String("Balance"));
 }
 
 void ModemDeviceTest::anUnpluggedModemEndsTheCommand()
@@ -495,8 +498,8 @@ void ModemDeviceTest::messagesAreDeletedFromTheModem()
     QVERIFY(waitUntil([&] { return client.storedMessages() == 0; }));
 }
 
-/// Tests a message that fails because the user selects another device. The daemon creates the
-/// message later, and the library then deletes it.
+/// Tests a message that fails because the user selects another device. When the daemon creates the
+/// message later, the library deletes it.
 void ModemDeviceTest::aMessageThatWasGivenUpIsNotSent()
 {
     useModem();
@@ -525,7 +528,7 @@ void ModemDeviceTest::readinessFollowsTheRegistration()
     fake().say("+CREG: 0");
     fake().say("+CGREG: 0");
     QVERIFY(waitUntil([] { return !info().canSendSMS; }));
-    QVERIFY(waitUntil([] { // only the last status counts, because an earlier 7 may arrive late
+    QVERIFY(waitUntil([] { // checks only the last status, because an earlier 7 may arrive late
         const std::vector<int> told = received().smsStatus.all();
         return !told.empty() && told.back() == 8;
     }));
@@ -589,7 +592,8 @@ void ModemDeviceTest::aPinFromElsewhereMakesGoodAWrongOne()
     FakeModems::MmClient other(m_world->busAddress());
     QVERIFY(other.use(m_world->stateOf("one").object));
     QCOMPARE(other.sendPin("4711"), std::string());
-    QVERIFY(waitForState(TKSV_DEVICE_DISABLED)); // the library enables it only after its own PIN
+    // The library enables the modem only if the PIN was entered through the library.
+    QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     QVERIFY(waitForProblem(TKSV_PROBLEM_NONE));
 }
 
@@ -636,14 +640,15 @@ void ModemDeviceTest::aMissingPolkitIsSaid()
 /* ---- the radio --------------------------------------------------------------------------- */
 
 /// Tests that the library enables the modem only on request. The daemon queries polkit before it
-/// enables the modem. The library would enable the modem before it reads the SIM.
+/// enables a modem, so polkit must not have been queried. An automatic start would enable the modem
+/// before the SIM card is read, so the test waits for the IMSI.
 void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
 {
     startWorld();
     addModem("one");
     QVERIFY(waitUntil([] { return *info().imsi != 0; }));
     QVERIFY(request(u"*100#") != 0);
-    QVERIFY(!m_world->polkit().isHolding()); // waits until the stub has handled earlier requests
+    QVERIFY(!m_world->polkit().isHolding()); // waits until the stub has processed earlier requests
     QCOMPARE(m_world->polkit().timesAsked(), 0);
     QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
     QCOMPARE(info().hasForeignSession, 0);
@@ -653,7 +658,7 @@ void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     const int before = m_world->polkit().timesAsked();
-    TKSV_Device_UseModem(nullptr); // selecting the modem again does not enable it either
+    TKSV_Device_UseModem(nullptr); // selecting the modem again does not enable it
     QVERIFY(waitUntil([] { return *info().imsi && info().state == TKSV_DEVICE_DISABLED; }));
     QVERIFY(!m_world->polkit().isHolding());
     QCOMPARE(m_world->polkit().timesAsked(), before);
@@ -672,7 +677,7 @@ void ModemDeviceTest::aModemDisabledAfterThePinStaysDisabled()
     QVERIFY(m_world->switchOff("one"));
     QVERIFY(waitForState(TKSV_DEVICE_DISABLED));
     const int before = m_world->polkit().timesAsked();
-    for (int i = 0; i < 10; ++i) // enough time to enable the modem
+    for (int i = 0; i < 10; ++i) // enough time for the daemon to enable the modem
         QCOMPARE(m_world->stateOf("one").state, FakeModems::STATE_DISABLED);
     QCOMPARE(int(info().state), int(TKSV_DEVICE_DISABLED));
     QCOMPARE(m_world->polkit().timesAsked(), before);

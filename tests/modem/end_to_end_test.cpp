@@ -1,4 +1,4 @@
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
+// The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "ModemWorld.h"
 
 #include <QElapsedTimer>
@@ -71,11 +71,11 @@ Result=0
 Result=28
 )";
 
-const int WEATHER = 9; // rows of the service tree
+const int WEATHER = 9; // row numbers in the service tree
 const int TARIFF = 10;
 const int ALERT = 11;
 
-/// Returns the text of all labels in a window.
+/// Returns the texts of all labels in the window.
 QString shownText(const QWidget *window)
 {
     QStringList texts;
@@ -97,7 +97,7 @@ void startSend(QProcess &process, const QStringList &arguments)
     process.start(QLatin1String(PROGRAM_FILE), QStringList(QLatin1String("--send")) + arguments);
 }
 
-/** The output and the exit code of a run of `--send`. */
+/** The output and the exit code of `ussd-dashboard --send`. */
 struct SendRun {
     int code = -1;
     QString out;
@@ -129,7 +129,7 @@ const char USSD_TIMED_OUT[] = "The network did not reply in time.";
 
 /**
  * Tests the dashboard and the plug-in with the device SDK, a real ModemManager and a fake AT modem.
- * The tests operate the dashboard as a user would, and check which commands reach the modem.
+ * The tests operate the dashboard as a user would, and check which commands the modem receives.
  */
 class EndToEndTest : public SimTest
 {
@@ -186,7 +186,7 @@ private:
     QString ask(const QString &command);
     QWidget *openDialog(PAID_TYPE type, const char *name);
     Message newestMessage();
-    /// Returns the visible button, or null if there is none.
+    /// Returns the visible button for the remedy, or null if there is none.
     QPushButton *shownRemedy(Remedy remedy);
     template <typename T>
     T *part(const QWidget *dialog, const char *role);
@@ -242,7 +242,8 @@ bool EndToEndTest::waitForRegistration()
         10000);
 }
 
-/// Opens the page and waits until the prepaid detection has finished, so that the pipeline is idle.
+/// Opens the page and waits until the prepaid detection has finished, so that no command is
+/// pending.
 void EndToEndTest::openPage()
 {
     openDashboard();
@@ -251,8 +252,8 @@ void EndToEndTest::openPage()
     QTRY_COMPARE(paidType(), QLatin1String("Prepaid"));
 }
 
-/// Sends a command as soon as the window accepts one, and returns the reply. The window learns of a
-/// registration later than waitForRegistration().
+/// Waits until the window accepts commands, sends the command and returns the reply. The window may
+/// start to accept commands only after waitForRegistration() has returned.
 QString EndToEndTest::ask(const QString &command)
 {
     const GeneralWindow general = page();
@@ -283,10 +284,10 @@ T *EndToEndTest::part(const QWidget *dialog, const char *role)
     return found;
 }
 
-/// Selects a service, fills in its input field and returns its send button.
+/// Selects a service, fills in its input field if there is one, and returns the send button.
 QPushButton *EndToEndTest::openService(int row)
 {
-    // The plug-in also logs this warning on success.
+    // The plug-in logs this as a warning although it means success.
     allowWarning("TKSV_SMSSrv_CreateSMSRecord = 0");
     const QWidget *dialog = openDialog(PAID_TYPE_USSD_SMS, "USSDUIPlugin_SMSDialog");
     if (!dialog)
@@ -299,8 +300,8 @@ QPushButton *EndToEndTest::openService(int row)
     return part<QPushButton>(dialog, "SMSDialog_SendButton");
 }
 
-/// Waits until the button is enabled, because messages cannot be sent immediately after the window
-/// has opened.
+/// Presses the button as soon as it is enabled. In a new window, messages cannot be sent
+/// immediately.
 bool EndToEndTest::sendWhenReady(QPushButton *button)
 {
     if (!button || !QTest::qWaitFor([button] { return button->isEnabled(); }))
@@ -323,7 +324,7 @@ void EndToEndTest::aMenuOfThreeSteps()
     QCOMPARE(ask(QLatin1String("*123#")), QLatin1String("Menu\n1 Data\n2 Other"));
     QCOMPARE(ask(QLatin1String("1")), QLatin1String("Data\n1 Day\n2 Week"));
     QCOMPARE(ask(QLatin1String("2")), QLatin1String("A week booked."));
-    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // includes the detection commands
+    QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 4); // the detection code and the three commands
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
@@ -336,8 +337,8 @@ void EndToEndTest::closingTheDashboardEndsTheSession()
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
 }
 
-/// Tests the session of a menu. It stays open when the window of the menu closes, and ends when the
-/// next window opens.
+/// Tests that the session of a menu stays open when its window closes, and ends when the next
+/// window opens.
 void EndToEndTest::theAccountWindowEndsTheSession()
 {
     openPage();
@@ -354,7 +355,7 @@ void EndToEndTest::aNetworkThatIsSilent()
     openPage();
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
-    // This time, no cancel is sent.
+    // This time, the daemon does not send a cancellation to the modem.
     QCOMPARE(ask(QLatin1String("*131#")), QLatin1String(USSD_TIMED_OUT));
     QCOMPARE(ask(QLatin1String("*100#")), QLatin1String("Your balance is 12.50 EUR."));
 }
@@ -437,7 +438,7 @@ void EndToEndTest::aReplyInThreeScriptsIsAnswered()
     QCOMPARE(ask(name), QString::fromUtf8("Du heißt %1.").arg(name));
 }
 
-/// Tests a command of 91 code units, the longest that fits in the plug-in's command record.
+/// Tests a command of 91 UTF-16 code units, which is the maximum for the plug-in's command record.
 void EndToEndTest::theLongestCommand()
 {
     openPage();
@@ -561,11 +562,11 @@ void EndToEndTest::theDaemonCrashesWhileACommandIsOut()
 
 /* ---- nothing is sent without a request --------------------------------------------------- */
 
-/// Tests that opening the window does not send anything if the operator of the SIM is not set up,
-/// even if the user has enabled the detection.
+/// Tests that opening the window does not send anything if no codes for the SIM's operator are
+/// installed, even if the user has enabled the detection.
 void EndToEndTest::openingTheWindowSendsNothing()
 {
-    m_library.reset(); // otherwise, the folder of this test would count as an integrator's folder
+    m_library.reset(); // otherwise, the test's folder would be treated as an integrator's folder
     openDashboard();
     QVERIFY(waitForRegistration());
     QSignalSpy settled(window().findChild<PaidTypeFinder *>(), SIGNAL(settled()));
@@ -578,8 +579,7 @@ void EndToEndTest::openingTheWindowSendsNothing()
     QCOMPARE(fake().timesReceived("AT+CFUN="), 0);
 }
 
-/// Tests that the session of another program does not end when the window is opened, used or
-/// closed.
+/// Tests that opening, using and closing the window does not end the session of another program.
 void EndToEndTest::theWindowLeavesTheSessionOfAnotherProgramAlone()
 {
     QVERIFY(openSessionOfAnotherProgram());
@@ -652,7 +652,7 @@ void EndToEndTest::sendDoesNotSwitchTheModemOn()
     const SendRun run = sendRun("*100#");
     QCOMPARE(run.code, 3);
     QVERIFY2(run.error.contains(QLatin1String("--enable")), qPrintable(run.error));
-    QVERIFY(time.elapsed() < 9000); // the wait for a modem takes 10 s
+    QVERIFY(time.elapsed() < 9000); // less than the 10 s wait for a modem
     QCOMPARE(fake().timesReceived("AT+CFUN=1"), 0);
 }
 
@@ -683,7 +683,7 @@ void EndToEndTest::aSignalEndsTheSessionOfSend()
     QCOMPARE(run.code, 128 + number);
     QVERIFY(run.error.contains(QLatin1String("The command was cancelled.")));
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
-    QCOMPARE(sendRun("*100#").code, 0); // the session is idle
+    QCOMPARE(sendRun("*100#").code, 0); // no session is open
 }
 
 void EndToEndTest::aMenuThatSendLeavesOpenIsEnded()
@@ -736,8 +736,8 @@ void EndToEndTest::severalProgramsGetTheirOwnReplies()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests the notice of a second program, while the first program waits for a network that does not
-/// reply.
+/// Tests the message that a second program prints while the first program is waiting for a reply
+/// that never arrives.
 void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
 {
     QProcess first;
@@ -755,8 +755,8 @@ void EndToEndTest::aProgramThatWaitsForItsTurnSaysSo()
     QCOMPARE(run.out, QLatin1String("Your balance is 12.50 EUR.\n"));
 }
 
-/// Tests that a program that misses its turn does not claim that the code was not carried out,
-/// because the turn may come at the moment when the program stops waiting.
+/// Tests the error message of a program that stops waiting for its turn. The program cannot rule
+/// out that the code was carried out, because its turn may have come at the last moment.
 void EndToEndTest::aProgramThatMissesItsTurnClaimsNothing()
 {
     Tksv::SessionTurn another("350000000000017");

@@ -1,7 +1,7 @@
 /*
- * Runs a real ModemManager with fake modems for manual tests: one modem for each scenario file on
- * the command line. The program prints the environment that other programs need to find the daemon,
- * and runs until you press Ctrl+C.
+ * Runs a real ModemManager with fake modems for manual tests. Each scenario file on the command
+ * line describes one modem. The program prints the environment variables that other programs need
+ * to find the daemon, and runs until you press Ctrl+C.
  */
 #include <csignal>
 #include <cstdio>
@@ -14,8 +14,8 @@
 namespace
 {
 
-/// Blocks the signals in this thread and in all threads created later, so that only the wait below
-/// receives them.
+/// Blocks the signals in this thread and in all threads that are created later, so that they can be
+/// received with sigwait().
 sigset_t blockEndSignals()
 {
     sigset_t signals;

@@ -1,8 +1,8 @@
 /*
- * Tests internals of the device SDK that require ModemManager or its library, and whose time limits
- * are too long or whose errors are too rare for the other tests.
+ * Tests internal classes of the device SDK that require ModemManager or its library. The other
+ * tests cannot cover them, because the time limits are too long or the errors too rare.
  */
-// The GLib headers precede the Qt headers, in which "signals" is a keyword.
+// The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "modemmanager/ModemManagerBackend.h"
 #include "modemmanager/ModemWatch.h"
 #include "modemmanager/UssdErrors.h"
@@ -33,7 +33,7 @@ protected:
 class ReplyObserver : public NoObserver
 {
 public:
-    std::vector<std::pair<RequestToken, Failure>> failures; // read after Backend::stop()
+    std::vector<std::pair<RequestToken, Failure>> failures; // read only after Backend::stop()
 
 protected:
     void ussdReply(RequestToken token, const UssdReply &reply) override
@@ -42,7 +42,7 @@ protected:
     }
 };
 
-/// Creates the error and returns the reason for it.
+/// Creates a D-Bus error and returns the failure that the SDK reports for it.
 Failure failureOf(GQuark domain, int code, const char *text, const UssdCallContext &context = {})
 {
     const GErrorPtr error(g_error_new_literal(domain, code, text));
@@ -84,7 +84,7 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     QVERIFY(problemIs(TKSV_PROBLEM_NONE));
     QVERIFY(world.waitUntil([&] { return !backend->info().isLooking; }));
     world.pauseDaemon();
-    watch.start(); // looks again
+    watch.start(); // searches again
     QVERIFY(problemIs(TKSV_PROBLEM_SERVICE_SILENT));
     world.resumeDaemon();
     QVERIFY(problemIs(TKSV_PROBLEM_NONE));
@@ -92,8 +92,8 @@ void ModemInternalsTest::aSilentServiceIsNoticed()
     watch.stop();
 }
 
-/// Tests a request that is waiting when the user selects another device before ModemManager has
-/// reported its modems.
+/// Tests a request that is pending when the user selects another device. ModemManager has not
+/// reported its modems yet.
 void ModemInternalsTest::aRequestThatWaitsForTheServiceFailsWithTheDevice()
 {
     FakeModems::ModemWorld world;
@@ -173,8 +173,8 @@ void ModemInternalsTest::errorsHaveAReason()
     QCOMPARE(failure.wasNotSent, wasNotSent);
 }
 
-/// Tests that an unanswered command is distinguished from a refused command. The daemon reports the
-/// same error in both cases, but reports an unanswered command only after 20 s.
+/// Tests that an unanswered command is not reported as refused. The daemon reports the same error
+/// in both cases, but for an unanswered command only after 20 s.
 void ModemInternalsTest::unansweredCommandsAreNotRefused()
 {
     UssdCallContext context;

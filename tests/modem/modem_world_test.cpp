@@ -1,7 +1,4 @@
-/*
- * Tests the fake modem with the real daemon. The client uses the same library as the daemon's own
- * tools.
- */
+/* Tests the fake modem with the real daemon, through the client library that mmcli uses. */
 #include <libmm-glib.h>
 
 #include <QtTest>
@@ -169,7 +166,7 @@ void ModemWorldTest::cancelReachesTheModem()
     QCOMPARE(m_client->initiate("*120#").text, std::string("Menu\n1 One"));
     QVERIFY(m_client->cancel());
     QCOMPARE(modem().timesReceived("AT+CUSD=2"), 1);
-    // The session has ended, so there is no reply.
+    // The session has ended, so no reply can arrive.
     QCOMPARE(m_client->initiate("1").code, int(MM_CORE_ERROR_ABORTED));
 }
 
@@ -206,8 +203,9 @@ void ModemWorldTest::refusals()
     QCOMPARE(m_client->initiate("*100#").text, std::string("Balance 10.00"));
 }
 
-/// Tests a reply that arrives in pieces after the OK. If the reply arrived together with the OK,
-/// the daemon would use only the bytes that have arrived when it reads the OK.
+/// Tests a reply that arrives in several pieces, after the OK. If the reply arrived in pieces
+/// together with the OK, the daemon would use only the pieces that have arrived when it reads the
+/// OK.
 void ModemWorldTest::trickledBytesAreRead()
 {
     addModem();
@@ -264,7 +262,7 @@ void ModemWorldTest::hungUpPortIsAFailure()
     enable();
     modem().misbehave({"AT+CUSD=1", Fault::HangUp});
     QVERIFY(m_client->initiate("*100#", 300).code >= 0);
-    // Closing a virtual port does not delete the object.
+    // Closing the port of a virtual modem does not delete the object.
     QVERIFY(!m_world->stateOf("m1").object.empty());
 }
 
@@ -320,7 +318,7 @@ void ModemWorldTest::incomingMessageIsRead()
 {
     addModem();
     enable();
-    // "Hi" from +1234, in the default alphabet.
+    // The message "Hi" from +1234, in the default alphabet.
     modem().receiveSms("0004049121430000621102112233000248"
                        "3400");
     QVERIFY(modem().waitForCommand("AT+CMGR=1"));

@@ -1,6 +1,6 @@
 /*
- * one_command CODE reply: sends the code when the modem is registered, and prints the type and the
- * string of the reply.
+ * one_command CODE reply: sends the code when the modem has registered, and prints the type and the
+ * text of the reply.
  *
  * one_command CODE exit: exits as soon as the library has accepted the code.
  */
@@ -20,7 +20,7 @@ std::condition_variable changed;
 bool isReady = false;
 bool isReplied = false;
 
-/// Runs on a thread of the library.
+/// Called from a thread of the library.
 void infoChanged(void *)
 {
     TKSV_DeviceInfo info;
@@ -55,7 +55,7 @@ int main(int count, char **arguments)
 {
     if (count != 3)
         return 2;
-    alarm(60); // ends a program that receives no reply
+    alarm(60); // ends the program if no reply arrives
     TKSV_USSDSrv_RegisterUSSDCallback(onReply);
     TKSV_Device_SetInfoCallback(infoChanged, nullptr);
     infoChanged(nullptr);

@@ -1,7 +1,7 @@
 /*
- * Tests that several programs can share a modem. The library does not touch the sessions of other
- * programs and ends its own sessions, and the programs of one user take turns. The other program is
- * a simple client of ModemManager.
+ * Tests that several programs can share a modem: the library ends its own sessions, but not the
+ * sessions of other programs, and the programs of one user take turns. The other program in these
+ * tests is a simple client of ModemManager.
  */
 #include "ModemTest.h"
 
@@ -19,14 +19,16 @@ namespace
 {
 
 const char IMEI[] = "350000000000017";
-const char ACTIVE[] = "2"; // values of the property State
+// Values of the property State of a USSD session.
+const char ACTIVE[] = "2";
 const char USER_RESPONSE[] = "3";
 const int AT_ONCE = 8;
 
-/// Starts a session of the other program that waits for a reply, which the network never sends.
+/// Starts a session of the other program. The network never sends the reply for which this session
+/// waits.
 void startForeignSession(MmClient &other)
 {
-    other.initiate("*133#", 50); // the client stops waiting, but the daemon does not
+    other.initiate("*133#", 50); // the client stops waiting, but the session stays open
 }
 
 bool waitForForeignSession(bool isOpen)
@@ -38,7 +40,7 @@ bool waitForForeignSession(bool isOpen)
     });
 }
 
-/** Another program that sends one command with the device SDK. */
+/** Runs another program, which sends one command with the device SDK. */
 class OneCommand
 {
 public:
@@ -108,7 +110,7 @@ private:
     bool isTurnFree();
 };
 
-/// Returns true if no program of the user has a session.
+/// Returns true if no program of this user has a session.
 bool ModemSharingTest::isTurnFree()
 {
     SessionTurn turn(IMEI);
@@ -165,7 +167,7 @@ void ModemSharingTest::aForeignMenuIsShownAndNotAnswered()
     QCOMPARE(TKSV_Device_CancelRequest() != 0, true);
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitForForeignSession(false));
-    QCOMPARE(received().responses.all().size(), std::size_t(1)); // the menu was not offered
+    QCOMPARE(received().responses.all().size(), std::size_t(1)); // the menu was not delivered
 }
 
 void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
@@ -178,7 +180,7 @@ void ModemSharingTest::aSessionFoundAtTheStartIsForeign()
     received().clear();
     TKSV_Device_UseModem(nullptr);
     QVERIFY(waitForForeignSession(true));
-    TKSV_Device_UseModem(IMEI); // the program stops using the modem and selects it again
+    TKSV_Device_UseModem(IMEI); // stops using the modem and selects it again
     QVERIFY(waitForForeignSession(true));
     QCOMPARE(other.respond("1").text, std::string("One"));
     QVERIFY(waitForForeignSession(false));
@@ -192,8 +194,8 @@ void ModemSharingTest::aMenuThatAnotherProgramAnsweredIsNotAnsweredAgain()
     QVERIFY(connect(other));
     QCOMPARE(shown(ask(u"*120#").text), QLatin1String("Menu"));
     QCOMPARE(other.respond("1").text, std::string("One"));
-    QVERIFY(waitUntil([this] { return isTurnFree(); })); // the library has seen the other answer
-    QVERIFY(waitForForeignSession(false));               // and the end of the session
+    QVERIFY(waitUntil([this] { return isTurnFree(); })); // the library has noticed the answer
+    QVERIFY(waitForForeignSession(false));               // the session has ended
     QCOMPARE(fake().timesReceived("AT+CUSD=1,"), 2);
     QCOMPARE(ask(u"1").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
     QCOMPARE(lastFailure().wasNotSent, 1);
@@ -227,8 +229,8 @@ void ModemSharingTest::theNetworksQuestionIsAnswered()
     QVERIFY(waitUntil([this] { return isTurnFree(); }));
 }
 
-/// Tests that a network-initiated session stays open when the library stops using the modem,
-/// because another program may be about to answer it.
+/// Tests that a network-initiated session stays open when the library stops using the modem.
+/// Another program may be about to answer the network's question.
 void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
 {
     useModem();
@@ -236,7 +238,7 @@ void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
     QVERIFY(connect(other));
     fake().sayUssd(1, "Continue?");
     QVERIFY(received().responses.waitFor(1));
-    // This call returns after the library has stopped using the modem.
+    // When this call returns, the library no longer uses the modem.
     QCOMPARE(TKSV_Device_UseScenario(nullptr, nullptr, 0), 0L);
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     QVERIFY(other.waitForProperty("State", USER_RESPONSE));
@@ -245,8 +247,8 @@ void ModemSharingTest::leavingTheModemLeavesTheNetworksQuestion()
     QVERIFY(waitForForeignSession(true));
 }
 
-/// Tests that a command is not cancelled before the daemon has refused it. A cancellation that is
-/// too early would end the session of the other program.
+/// Tests that a command is not cancelled before the daemon has accepted or refused it. If the
+/// daemon refuses the command, a cancellation would end the other program's session.
 void ModemSharingTest::cancelDoesNotEndAForeignSession()
 {
     useModem();
@@ -262,7 +264,8 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
         TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd);
         received().clear();
         TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
-        QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_IN_USE)); // the earlier call has returned
+        // By now, the earlier call must have returned.
+        QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_IN_USE));
         received().clear();
         QVERIFY(other.waitForProperty("State", USER_RESPONSE));
         QCOMPARE(other.respond("1").text, std::string("One"));
@@ -270,7 +273,7 @@ void ModemSharingTest::cancelDoesNotEndAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests a command that the user cancels while polkit is prompting for a password.
+/// Tests cancelling a command while polkit is waiting for a password.
 void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
 {
     useModem();
@@ -284,8 +287,8 @@ void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
     QCOMPARE(received().responses.all()[0].type, int(TKSV_FAILURE_CANCELLED));
     QCOMPARE(TKSV_USSDSrv_Release(nullptr), 0L);
     for (int i = 0; i < 10; ++i)
-        QVERIFY(other.waitUntilIdle()); // enough time for a cancellation that is too early
-    QVERIFY(!isTurnFree());             // the library is still waiting for its call to return
+        QVERIFY(other.waitUntilIdle()); // gives a premature cancellation enough time
+    QVERIFY(!isTurnFree());             // the library is still waiting for the daemon
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
     m_world->polkit().answerHeld();
     QVERIFY(fake().waitForCommand("AT+CUSD=2"));
@@ -294,7 +297,7 @@ void ModemSharingTest::aCommandThatPolkitHoldsUpIsCancelledLater()
     QCOMPARE(received().responses.all().size(), std::size_t(2));
 }
 
-/// Tests that polkit does not prompt the user for a password if the call would fail anyway.
+/// Tests that the user does not have to enter a password for a call that would fail anyway.
 void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
 {
     useModem();
@@ -307,8 +310,8 @@ void ModemSharingTest::polkitIsNotAskedDuringAForeignSession()
     QCOMPARE(m_world->polkit().timesAsked(), before);
 }
 
-/// Tests two programs that start a session at the same time. The daemon refuses one of them, and
-/// the cancellation of our command never ends the session of the other program.
+/// Tests two programs that start a session at the same time. The daemon refuses one of the
+/// sessions. Cancelling our command must never end the other program's session.
 void ModemSharingTest::aCommandCancelledAtOnceSparesTheOtherProgram()
 {
     useModem();
@@ -387,8 +390,8 @@ void ModemSharingTest::aProgramThatEndsLeavesAForeignSession()
     QCOMPARE(fake().timesReceived("AT+CUSD=2"), 0);
 }
 
-/// Tests that the session of a crashed program counts as foreign. The library cannot determine
-/// whether another program has opened a new session since the crash.
+/// Tests that the session that a crashed program has left open is treated as foreign. The library
+/// cannot know whether another program has opened a new session since then.
 void ModemSharingTest::theSessionOfACrashedProgramIsForeign()
 {
     useModem();
@@ -445,7 +448,7 @@ void ModemSharingTest::aWaitingCommandIsCancelled()
         QVERIFY(waitUntil([] { return info().waitsForTurn == 1; }));
         cancels ? TKSV_Device_CancelRequest() : TKSV_USSDSrv_Release(nullptr);
         QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
-        QVERIFY(received().responses.waitFor(1)); // the response to the cancellation
+        QVERIFY(received().responses.waitFor(1)); // waits for the response to the cancelled command
     }
     another.leave();
     QVERIFY(isTurnFree()); // the command is no longer in the queue
@@ -470,8 +473,8 @@ void ModemSharingTest::aWaitingCommandFailsWithTheRegistration()
     QVERIFY(waitUntil([] { return info().waitsForTurn == 0; }));
 }
 
-/// Tests that a command fails if its turn does not come in time. A client that has stopped waiting
-/// must not be surprised by a purchase an hour later.
+/// Tests that a command whose turn does not come in time fails and is never sent. A late command
+/// might buy something long after its client has stopped waiting.
 void ModemSharingTest::aCommandThatMissesItsTurnIsNeverSent()
 {
     useModem();

@@ -53,7 +53,7 @@ inline QByteArray fourItems()
 const char DIFFER[] = "<PrePostDiffer value='true'><command>*103#</command>"
                       "<ReturnPattern>post</ReturnPattern><style>1</style></PrePostDiffer>";
 
-/// Returns the text inside 100,000 nested elements.
+/// Returns the text nested in 100,000 elements. If `hasEnd` is false, the end tags are missing.
 inline QByteArray nested(const QByteArray &text, bool hasEnd = true)
 {
     const int levels = 100000;
@@ -61,8 +61,8 @@ inline QByteArray nested(const QByteArray &text, bool hasEnd = true)
            (hasEnd ? QByteArray("</a>").repeated(levels) : QByteArray());
 }
 
-/// Returns a configuration. Its root element has a different name than in completeConfig(), because
-/// any name is permitted.
+/// Returns a configuration. Its root element has a different name from the one in completeConfig(),
+/// because any name is permitted.
 inline QByteArray config(const QByteArray &prepaid, const QByteArray &postpaid,
                          const QByteArray &rest = QByteArray())
 {
@@ -76,8 +76,8 @@ inline QByteArray charSection(const char *name, const char *yHeight, const char 
            "<color " + colour + "/></" + name + ">";
 }
 
-/// Returns the sections between "Postpaid" and "autoUSSD". If one of these sections were missing,
-/// the parser would skip all following sections while searching for it.
+/// Returns the sections between "Postpaid" and "autoUSSD". They are needed because the parser, when
+/// it does not find a section, skips the rest of the file.
 inline QByteArray looks()
 {
     return charSection("send", "20", "") + charSection("recevie", "20", "") +
@@ -107,8 +107,8 @@ protected:
     static ClearHistory clearSetting();
     static CmdEdit editSetting();
     static PrePostDiffer differ();
-    /// Returns the flags of the longest matching prefix. If no prefix matches, checks that the
-    /// flags are 0 and returns -1.
+    /// Returns the flags for the longest matching prefix, or -1 if no prefix matches. In this case,
+    /// also checks that the flags are 0.
     static int flagsOf(const QString &imsi);
 };
 

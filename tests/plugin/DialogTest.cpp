@@ -7,7 +7,7 @@
 namespace
 {
 
-const int DESCRIPTION_HEIGHT = 112; // tells apart two labels without an object name
+const int DESCRIPTION_HEIGHT = 112; // distinguishes two labels without object names
 
 } // namespace
 

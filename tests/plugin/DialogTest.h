@@ -12,8 +12,8 @@
 #include "windows/USSDGeneralDlg.h"
 
 /**
- * The base class of tests that operate the general dialog as a user would, with the fake device
- * SDK. The fake network does not reply until a test sends a reply.
+ * The base class for tests that operate the general dialog as a user would, with the fake SDK. The
+ * network does not reply unless a test sends a reply.
  */
 class DialogTest : public PluginTest
 {
@@ -22,7 +22,7 @@ class DialogTest : public PluginTest
 protected:
     void tearDown() override;
 
-    /// Deletes the previous dialog, if any, and shows a new one. An embedded dialog is a child of
+    /// Deletes the existing dialog, if any, and shows a new one. An embedded dialog is a child of
     /// page().
     void open(WINDOW_MODEL model = WINDOW_MODEL_EMBEDDED);
     USSDGeneralDlg *dialog() { return m_dialog; }
@@ -44,7 +44,7 @@ protected:
     TranscriptView *history() { return part<TranscriptView>("History"); }
     QLabel *promptLabel();
     QLabel *descriptionLabel();
-    QList<QPushButton *> presetButtons(); ///< in order of creation
+    QList<QPushButton *> presetButtons(); ///< in the order of creation
 
     // ---- user actions
     static void click(QPushButton *button);
@@ -55,10 +55,10 @@ protected:
     static QStringList requests(); ///< the commands of all requests so far
 
     // ---- visible state
-    QStringList shownLines(); ///< the paragraphs of the transcript, with their captions
-    /// Returns true if the prompt is shown and all controls that send are disabled.
+    QStringList shownLines(); ///< the paragraphs of the transcript, including the captions
+    /// Returns true if the waiting prompt is visible and all controls that can send are disabled.
     bool isWaiting();
-    /// Returns true if the prompt is hidden, the fields are enabled and empty, and Send is
+    /// Returns true if the waiting prompt is hidden, the fields are enabled and empty, and Send is
     /// disabled.
     bool isIdle();
     static QString text(const char *key);

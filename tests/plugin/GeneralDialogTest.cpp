@@ -56,7 +56,7 @@ void GeneralDialogTest::activateWindow()
     QVERIFY(QTest::qWaitForWindowActive(dialog()->window()));
 }
 
-/// Emits the given signal of the combo box with `index` as the argument.
+/// Emits the signal of the combo box with the argument `index`.
 void GeneralDialogTest::activate(const char *signal, int index)
 {
     QVERIFY(QMetaObject::invokeMethod(combo(), signal, Q_ARG(int, index)));

@@ -15,7 +15,7 @@
 #include "Languages.h"
 #include "requests/USSDLogic.h"
 
-/// Counts the key events that no child widget accepts.
+/// Counts the key events that its child widgets do not accept.
 class KeyCounter : public QWidget
 {
 public:
@@ -35,7 +35,7 @@ inline QGridLayout *gridOf(QWidget *widget)
 }
 
 /**
- * The base class of tests of the general dialog: input fields, sending, answers and transcript.
+ * The base class for tests of the general dialog: its fields, sending, replies and the transcript.
  */
 class GeneralDialogTest : public DialogTest
 {
@@ -45,13 +45,13 @@ protected:
     void setUp() override;
 
 protected:
-    /// Presses Clear, and then the button of the confirmation box whose text key is `buttonKey`, or
-    /// Escape if the key is null. Returns the text of the box, or a null string if no box was
-    /// opened.
+    /// Presses Clear. In the message box that opens, presses the button whose text key is
+    /// `buttonKey`, or Escape if `buttonKey` is null. Returns the text of the message box, or a
+    /// null string if no message box has opened.
     QString clearAndAnswer(const char *buttonKey);
-    /// Returns the index of the first log line that contains `part`, or -1.
+    /// Returns the index of the first log line that contains `part`, or -1 if there is none.
     int lineOf(const char *part);
-    void activateWindow(); ///< required because a widget has the focus only in an active window
+    void activateWindow(); ///< needed because only a widget in an active window can have the focus
     void changeConfig(const char *from, const char *to);
     void activate(const char *signal, int index);
 };

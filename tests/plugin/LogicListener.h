@@ -10,9 +10,8 @@
 class USSDLogic;
 
 /**
- * Collects the logic object's signals like a dialog: through queued connections to the thread that
- * constructed the listener. QSignalSpy cannot be used because the device SDK's threads would write
- * to it.
+ * Collects the signals of USSDLogic as a dialog does: through queued connections to the thread that
+ * constructed the listener. QSignalSpy cannot be used, because the SDK's threads would write to it.
  */
 class LogicListener : public QObject
 {
@@ -29,7 +28,7 @@ public:
     QList<Answer> answers;
     QList<QList<QVariant>> smsResults;
     QList<bool> readiness;
-    QThread *thread = nullptr; ///< the thread that received the latest answer
+    QThread *thread = nullptr; ///< the thread that received the most recent answer
 
 private slots:
     void takeAnswer(int component, QString text);

@@ -13,8 +13,8 @@ int PipelineModel::send(int component, const QString &command)
     return m_list.count() == 1 ? handOverHead() : 0;
 }
 
-/// Sends the head of the list. If this fails, the head is removed without an answer, and the
-/// entries that follow keep waiting.
+/// Sends the head of the list. On failure, removes the head without an answer; the remaining
+/// entries keep waiting.
 int PipelineModel::handOverHead()
 {
     const QString command = m_list.first().second;

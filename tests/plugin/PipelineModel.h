@@ -8,8 +8,8 @@
 #include <QString>
 
 /**
- * A model of the request pipeline that follows the same rules in their simplest form, without
- * threads and without timers. A random test compares the real pipeline with the model.
+ * A simple model of the request pipeline, without threads and timers. A random test compares the
+ * real pipeline with this model.
  */
 class PipelineModel
 {
@@ -24,11 +24,11 @@ public:
     void reply(const QString &text) { announce(text); }
     void timeOut(const QString &text) { announce(text); }
     void deviceFailed(const QString &text);
-    /// Removes all entries except those of components for which `keep` returns true.
+    /// Removes the entries of all components for which `keep` returns false.
     void clear(const std::function<bool(int)> &keep);
 
-    QList<Answer> answers; // the answers that the dialogs must receive, in order
-    QList<QString> handed; // the commands that the device must receive, in order
+    QList<Answer> answers; // the answers that the dialogs should receive, in order
+    QList<QString> handed; // the commands that the device should receive, in order
     int pending() const { return m_list.count(); }
 
 private:

@@ -2,7 +2,7 @@
 
 void PipelineTest::setUp()
 {
-    // A static variable, to keep the times that were set before any test changed them.
+    // Static, so that these are the values before the first test changed them.
     static const ReplyTimes shipped = USSDLogic::replyTimes();
     m_shippedTimes = shipped;
     PluginTest::setUp();
@@ -58,7 +58,7 @@ QStringList PipelineTest::linesOf(const char *function)
 
 bool PipelineTest::sendsWithoutWaiting()
 {
-    // In milliseconds. The full wait elapses only if the function returns false.
+    // In milliseconds. The call takes this long only if the command has to wait.
     const int wait = 20000;
     setTimes(NO_PATIENCE, wait);
     QElapsedTimer elapsed;
@@ -67,7 +67,8 @@ bool PipelineTest::sendsWithoutWaiting()
     return result == 0 && elapsed.elapsed() < wait / 2;
 }
 
-/// Measures the time of the call. Without a wait, sending takes less than a millisecond.
+/// Measures how long the call takes. If the command does not have to wait, this is less than a
+/// millisecond.
 bool PipelineTest::sendWaitsItsTime()
 {
     const int wait = 200;

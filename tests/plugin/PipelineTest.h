@@ -15,7 +15,7 @@
 #include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
 
-const int NO_PATIENCE = 60000; // ms; a time-out that no test reaches
+const int NO_PATIENCE = 60000; // in milliseconds; a time-out that never occurs in a test
 
 inline std::atomic<qint64> now{0};
 
@@ -29,7 +29,7 @@ inline QString units(int count)
     return QLatin1Char('*') + QString(count - 2, QLatin1Char('1')) + QLatin1Char('#');
 }
 
-/// Runs code on the thread that emits the signal for a response, while the signal is being emitted.
+/// Runs code on the thread that announces a response, in a slot that is connected to the signal.
 class Interloper : public QObject
 {
     Q_OBJECT
@@ -86,17 +86,17 @@ protected:
     LogicListener::Answer nextAnswer() { return m_listener->nextAnswer(); }
     QList<LogicListener::Answer> &answers() { return m_listener->answers; }
     void setTimes(int reply, int previous);
-    /// Stops the clock. From then on, only letTimePass() advances it.
+    /// Stops the clock, which then advances only in letTimePass().
     void stopClock();
     void letTimePass(int milliseconds);
-    /// Waits until `part` has been logged `times` times, which shows how far a thread has
-    /// progressed.
+    /// Waits until `part` has been logged `times` times, which shows how far another thread has
+    /// got.
     bool waitUntilLogged(const char *part, int times);
-    /// Returns true if a command is sent without waiting until an earlier time-out expires.
+    /// Sends a command. Returns true if it is sent without waiting for an earlier time-out.
     bool sendsWithoutWaiting();
-    /// Returns true if a command is sent only after an earlier time-out has expired.
+    /// Sends a command. Returns true if it is sent only after an earlier time-out.
     bool sendWaitsItsTime();
-    /// Returns the log messages of a function of USSDLogic, in order.
+    /// Returns the messages that a function of USSDLogic has logged, in order.
     QStringList linesOf(const char *function);
     static QString timeOutText() { return USSDLogic::tr(QStringLiteral("USSD_CODE_TIME_OUT")); }
 

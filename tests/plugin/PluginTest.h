@@ -7,10 +7,10 @@
 #include <QString>
 
 /**
- * The base class of tests that run the plug-in's code with the fake device SDK. Each test function
- * starts with a reset SDK and without the singleton, and uses its own plug-in library directory and
- * user data directory. After each test function, the plug-in is shut down with the calls that a
- * host makes.
+ * The base class for tests that run the plug-in's code with the fake SDK. Before each test
+ * function, the SDK is reset, the singleton does not exist, and the plug-in library directory and
+ * the user data directory are new. After each test function, the plug-in is shut down with the same
+ * calls as in a host.
  */
 class PluginTest : public UssdTest
 {
@@ -20,16 +20,17 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    /// Replaces the configuration that the next singleton reads. An empty string deletes the file.
+    /// Replaces the configuration for the next singleton. An empty string deletes the file.
     void writeConfig(const QByteArray &xml);
     /// Replaces the system profile file. An empty string deletes the file.
     void writeSystemProfiles(const QByteArray &xml);
-    QString pluginFolder(); ///< the directory of both files, without a trailing separator
+    QString pluginFolder(); ///< the directory with both files, without a trailing separator
     QString userFolder();   ///< the user data directory, with a trailing separator
 
-    /// Returns a small but complete configuration: every section, colours and an IMSI table.
+    /// Returns a complete but small configuration that contains all sections, colours and IMSI
+    /// prefixes.
     static QByteArray completeConfig();
-    /// Returns an "item" element of a profile file.
+    /// Returns an "item" element for a profile file.
     static QByteArray profileItem(const QByteArray &name, const QByteArray &value,
                                   const QByteArray &readonly = "false",
                                   const QByteArray &showButton = "true",

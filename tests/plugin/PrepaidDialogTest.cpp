@@ -17,7 +17,7 @@ PrepaidTest::Account PrepaidDialogTest::only(const QByteArray &charge)
     return account;
 }
 
-/// Types a PIN and presses the button of the component.
+/// Enters a PIN and presses the button that belongs to the component.
 void PrepaidDialogTest::sendFrom(int component)
 {
     type(pin());

@@ -17,7 +17,7 @@ inline QString pin()
     return QLatin1String(PIN);
 }
 
-/// Returns the functions of the USSD service that were called, in order.
+/// Returns the names of all USSD functions of the SDK that have been called, in order.
 inline QStringList ussdCalls()
 {
     QStringList names;
@@ -31,8 +31,8 @@ inline QStringList ussdCalls()
 }
 
 /**
- * The base class of tests that check which commands the account window sends, when it sends these
- * commands, and how it handles the replies.
+ * The base class for testing which commands the account window sends, when it sends them, and how
+ * it handles the replies.
  */
 class PrepaidDialogTest : public PrepaidTest
 {
@@ -42,7 +42,7 @@ protected:
     void configureCharge(const QByteArray &charge);
     void refuseAll(int status);
     void sendFrom(int component);
-    Account only(const QByteArray &charge); ///< returns an account that shows only the top-up
+    Account only(const QByteArray &charge); ///< returns an account with only the top-up
 };
 
 #endif

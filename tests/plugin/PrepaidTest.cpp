@@ -24,7 +24,8 @@ QByteArray element(const char *name, const QByteArray &text)
     return QByteArray("<") + name + ">" + text + "</" + name + ">";
 }
 
-/// Returns the item, or an unknown item if it is empty, because the parser requires four items.
+/// Returns the item, or a placeholder with an unknown name if the item is empty. The parser
+/// requires four items.
 QByteArray orUnknown(const QByteArray &item)
 {
     return item.isEmpty() ? QByteArray("<item name='none'/>") : item;
@@ -41,8 +42,8 @@ QString textOf(const QMessageBox *box)
 void PrepaidTest::setUp()
 {
     PluginTest::setUp();
-    // Opening the dialog cancels a pending command. The next command would then wait for the
-    // time-out of the cancelled command.
+    // Opening the dialog cancels a pending command, and the next command waits for the time-out of
+    // the cancelled one. This wait must be short.
     const ReplyTimes times = {30000, 1};
     USSDLogic::setReplyTimes(times);
 }
@@ -82,7 +83,7 @@ QByteArray PrepaidTest::msisdnItem(int pos)
     return item("MSISDN", pos, element("command", "*102#") + element("UpdateButton", "1"));
 }
 
-/// Returns the sections that the general window and the device event 579 require.
+/// Returns the sections that the general window and device event 579 require.
 QByteArray PrepaidTest::sectionsForOthers()
 {
     const QByteArray looks =

@@ -17,15 +17,15 @@
 class QMessageBox;
 
 /**
- * The base class of tests that operate the account window in its frame as a user would, with the
- * fake device SDK. The fake network does not reply until a test sends a reply.
+ * The base class for tests that operate the account window in its frame as a user would, with the
+ * fake SDK. The network does not reply unless a test sends a reply.
  */
 class PrepaidTest : public PluginTest
 {
     Q_OBJECT
 
 protected:
-    /// The "item" elements of an account. A component without an item is not shown.
+    /// The "item" elements of an account. Components with an empty item are not shown.
     struct Account {
         QByteArray balance = balanceItem(0);
         QByteArray charge = chargeItem(1);
@@ -42,21 +42,21 @@ protected:
                                  const QByteArray &limitText = "0-9");
     static QByteArray onlineItem(int pos, const QByteArray &url);
     static QByteArray msisdnItem(int pos);
-    /// Writes a configuration with the two accounts and the detection section. The detection is
-    /// enabled unless `pattern` is empty.
+    /// Writes a configuration with two accounts and the detection section. The detection is
+    /// disabled if `pattern` is empty.
     void configure(const Account &prepaid, const Account &postpaid,
                    const QByteArray &pattern = QByteArray(), const QByteArray &query = "*103#");
     void configure(const Account &both) { configure(both, both); }
 
     // ---- the window
-    /// Creates the dialog in a visible frame that has the dialog's preferred size. Does not send
+    /// Creates the dialog in a visible frame of the dialog's preferred size, without sending
     /// anything.
     void make(PAID_TYPE type = PAID_TYPE_PREPAID, WINDOW_MODEL model = WINDOW_MODEL_MODAL);
     /// Creates the dialog with make() and opens it.
     void open(PAID_TYPE type = PAID_TYPE_PREPAID);
-    /// Opens the dialog through the service, as a host does.
+    /// Opens the dialog through the service, as a host would.
     void openByService(PAID_TYPE type = PAID_TYPE_PREPAID);
-    void fitFrame(); ///< resizes the frame to the dialog's current preferred size
+    void fitFrame(); ///< resizes the frame to the dialog's preferred size
     USSDDlg *dialog() { return m_dialog; }
     USSDExtendDialog *frame() { return m_frame.data(); }
 
@@ -79,22 +79,23 @@ protected:
 
     // ---- user actions
     static void click(QPushButton *button);
-    void type(const QString &pin);  ///< types the PIN into the input field, key by key
-    void topUp(const QString &pin); ///< types the PIN and presses the Activate button
-    /// Returns the widget with the focus. While a message box is open, this is a widget of the box.
+    void type(const QString &pin);  ///< types the PIN into the field, one key at a time
+    void topUp(const QString &pin); ///< types the PIN and presses Activate
+    /// Returns the widget with the focus. If a message box is open, this is a widget in the message
+    /// box.
     QWidget *keyTarget();
-    void pressReturn(bool isRepetition = false); ///< presses the key without releasing it
+    void pressReturn(bool isRepetition = false); ///< presses Return without releasing it
     void releaseReturn();
 
     // ---- network actions
     void networkSays(const QString &text);
-    /// Sends a reply that opens a message box. While the box is open, calls `look`; then presses
-    /// the button of the box. Returns the text of the box, or a null string if no box was opened.
+    /// Sends a reply that opens a message box. Calls `look` while the box is open, and then presses
+    /// its button. Returns the text of the box, or a null string if no box has opened.
     QString networkSaysIntoBox(const QString &text,
                                const std::function<void(QMessageBox *)> &look = nullptr);
-    static QMessageBox *messageBox(); ///< returns the open message box, or null
+    static QMessageBox *messageBox(); ///< returns the open message box, or null if there is none
     static QString textInMessageBox();
-    static void closeMessageBox();                      ///< presses the box's button
+    static void closeMessageBox();                      ///< presses the button of the box
     void logicSays(int component, const QString &text); ///< emits a reply without a command
     static QStringList requests();                      ///< the commands of all requests so far
 

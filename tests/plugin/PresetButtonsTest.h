@@ -3,7 +3,7 @@
 
 #include "DialogTest.h"
 
-/** The base class of tests of the general dialog's preset buttons. */
+/** The base class for tests of the preset buttons in the general dialog. */
 class PresetButtonsTest : public DialogTest
 {
     Q_OBJECT
@@ -11,13 +11,13 @@ class PresetButtonsTest : public DialogTest
 protected:
     static QByteArray nameOf(int index); ///< "Name 0" and so on
     static QByteArray codeOf(int index); ///< "*100#" and so on
-    /// Writes profiles with the names of nameOf() and the codes of codeOf(). Each character of the
-    /// mask stands for a profile, which has a button if the character is '1'.
+    /// Writes one profile for each character of the mask, with the names and codes that nameOf()
+    /// and codeOf() return. A profile is shown as a button if its character is '1'.
     void writeProfiles(const QByteArray &mask);
-    /// Writes one profile with a button for each name.
+    /// Writes a profile with a button for each name.
     void writeNames(const QList<QByteArray> &names);
     QStringList labels(); ///< the texts of all preset buttons, or "(hidden)"
-    /// Presses Edit in the dialog and then Save in the editor.
+    /// Presses Edit in the dialog, and Save in the editor.
     void editAndSave() { editAndPress("SaveButton"); }
     void editAndPress(const char *button);
 };

@@ -8,7 +8,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Sets the limit of open files to zero while an object exists, so that no file can be opened.
+/// Prevents the process from opening files, by setting its limit to zero while an object of this
+/// class exists.
 class NoFileCanBeOpened
 {
 public:
@@ -26,7 +27,8 @@ private:
     rlimit m_before;
 };
 
-/// Makes the process an ordinary user while an object exists, because root ignores permissions.
+/// Runs the process as an ordinary user while an object of this class exists. The permissions of
+/// files do not restrict root.
 class OrdinaryUser
 {
 public:
@@ -47,7 +49,8 @@ private:
     bool m_wasRoot;
 };
 
-/// Limits the size of files while an object exists, so that writing fails as on a full disk.
+/// Limits the size of files while an object of this class exists, so that writing fails as if the
+/// disk were full.
 class FullDisk
 {
 public:

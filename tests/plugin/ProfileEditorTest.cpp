@@ -15,7 +15,7 @@ void ProfileEditorTest::setUp()
 
 void ProfileEditorTest::tearDown()
 {
-    qDeleteAll(findChildren<QTimer *>()); // these timers belong to messages that were not shown
+    qDeleteAll(findChildren<QTimer *>()); // timers for messages that have not been shown
     m_editor.reset();
     m_otherWindow.reset();
     HostCore::HostState::setMiniMode(false);
@@ -71,7 +71,7 @@ void ProfileEditorTest::whenMessageOpens(const std::function<void(QMessageBox *)
         poll->deleteLater();
         poll->stop();
         ++m_messages;
-        // A message that contains a long path is shown in a text view.
+        // A long message, for example one with a path, is shown in a text view.
         const QPlainTextEdit *longText = box->findChild<QPlainTextEdit *>();
         m_message = longText ? longText->toPlainText() : box->text();
         act(box);
@@ -111,7 +111,7 @@ void ProfileEditorTest::waysToLeave()
 
 void ProfileEditorTest::typeAndLeave(int row, int column, const QString &text, int way)
 {
-    // The editor can lose the focus only in an active window.
+    // The editor cannot lose the focus unless its window is active.
     QApplication::setActiveWindow(table()->window());
     doubleClick(row, column);
     QVERIFY(cellEditor());

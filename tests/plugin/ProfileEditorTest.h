@@ -33,7 +33,7 @@ inline QPushButton *editButton(QWidget *window)
         QStringLiteral("USSDUIPlugin_AdvancedDialog_EditButton"));
 }
 
-/// Returns the bounding rectangle of the differences between two images within `part`.
+/// Returns the bounding rectangle of all pixels within `part` that differ between the images.
 inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
 {
     QRect difference;
@@ -47,8 +47,8 @@ inline QRect differenceOf(const QImage &a, const QImage &b, const QRect &part)
 }
 
 /**
- * The base class of tests of the profile editor, as a separate widget or opened from the general
- * dialog.
+ * The base class for tests of the profile editor. The editor is either a separate widget, or opened
+ * from the general dialog.
  */
 class ProfileEditorTest : public PluginTest
 {
@@ -66,21 +66,21 @@ protected:
     Widget *find(const char *name);
     QString cell(int row, int column);
     void doubleClick(int row, int column);
-    QLineEdit *cellEditor(); ///< the line edit in the current cell
+    QLineEdit *cellEditor(); ///< the line edit in the current table cell
     void type(int row, int column, const QString &text);
-    /// Calls `act` once in the event loop of the next message box, and stores the text of the box.
+    /// When the next message box has opened, stores its text and calls `act` once.
     void whenMessageOpens(const std::function<void(QMessageBox *)> &act);
-    /// Answers the next message box with the button whose text key is `buttonKey`.
+    /// Presses the button whose text key is `buttonKey` in the next message box.
     void answerNextMessage(const QString &buttonKey);
     void press(QMessageBox *box, const QString &buttonKey);
-    /// Opens the editor of the cell, types the text, and leaves the cell in the specified way.
+    /// Starts editing the cell, types the text, and leaves the cell in the given way.
     void typeAndLeave(int row, int column, const QString &text, int way);
     QString systemFile() { return pluginFolder() + QLatin1String("/ussdsysprofile.xml"); }
     QString userFile() { return userFolder() + QLatin1String("ussdprofile.xml"); }
-    /// Confirms the message box that requests confirmation for saving, and then the message box
-    /// that follows.
+    /// Presses the confirming button of the next two message boxes: the request to confirm saving,
+    /// and the message after saving.
     void saveAndAcknowledge();
-    void shutDown(); ///< makes all shut-down calls listed in docs/host-integration.md
+    void shutDown(); ///< shuts the plug-in down as docs/host-integration.md describes
     QList<USSDProfile> savedProfiles();
 
     enum WayToLeave { Tab, ClickOnSave, ClickOnAnotherCell, AnotherWindow, Return };

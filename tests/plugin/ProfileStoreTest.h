@@ -9,10 +9,10 @@
 
 using namespace Formats;
 
-/// Returns a profile with this name and this code.
+/// Returns a profile with this name and code.
 USSDProfile profile(const QString &name, const QString &value);
 
-/** The base class of tests of the profile files, which USSDEditCmd reads and writes. */
+/** The base class for tests of the profile files that USSDEditCmd reads and writes. */
 class ProfileStoreTest : public PluginTest
 {
     Q_OBJECT
@@ -23,10 +23,10 @@ protected:
     void writeUserProfiles(const QByteArray &items) { write(userFile(), profileFile(items)); }
     static void write(const QString &path, const QByteArray &content);
     static QList<USSDProfile> list(USSDEditCmd &store);
-    static QList<USSDProfile> loaded(); ///< the profiles that a new USSDEditCmd object reads
-    /// Returns the codes of all profiles. The codes of the system file are marked.
+    static QList<USSDProfile> loaded(); ///< the profiles that a new USSDEditCmd reads
+    /// Returns the codes of the profiles. Codes from the system file are marked.
     static QStringList codes(const QList<USSDProfile> &profiles);
-    /// Reads the profiles from the content of a file, and sets `error` to the XML error.
+    /// Parses the content of a profile file. Sets `error` to the XML error, if any.
     static QList<USSDProfile> readBack(QByteArray xml, QString *error = nullptr);
 };
 

@@ -4,10 +4,10 @@
 #include <vector>
 
 /**
- * The expected behaviour of CommandQueue. The model identifies the head by its command instead of a
- * number. The flags "sent" and "claimed" belong to a command and are removed together with it.
- * Commands are numbered 1, 2, 3 in the order in which they are sent. The number 0 means "no
- * command".
+ * A simple model of CommandQueue. Where the queue uses a number to identify its head, the model
+ * uses the command. The flags "sent" and "claimed" are stored with the command and are removed
+ * together with it. Commands are numbered in the order in which they are sent, starting with 1. The
+ * number 0 means "no command".
  */
 struct QueueModel {
     struct Entry {

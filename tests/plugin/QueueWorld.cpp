@@ -27,7 +27,7 @@ bool isNeverKept(const USSDCmdOrResp &)
     return false;
 }
 
-/// Returns a command whose text is its number, written as one letter.
+/// Returns a command whose text is a single letter that represents its number.
 USSDCmdOrResp commandOf(int number, int component)
 {
     static const QString letters = QString::fromLatin1("-abcdefgh");
@@ -96,8 +96,8 @@ const char *QueueWorld::nameOf(Thread thread)
     return names[thread];
 }
 
-/// Returns true if an event can start on the GUI thread. A receiver of the time-out signal may make
-/// any call and may run an event loop.
+/// Returns true if an event can start on the GUI thread. While the time-out signal is being
+/// emitted, its receivers may make any call and may run an event loop.
 bool QueueWorld::canStartOnGui() const
 {
     return isIdle(Gui) || (m_calls[Gui].next == RemoveTimedOut && isIdle(GuiInside));
@@ -189,7 +189,7 @@ void QueueWorld::run(Thread thread, int way)
     checkRest();
 }
 
-/// Continues with the step if `holds` is true. Otherwise ends the call.
+/// Continues with `step` if `holds` is true. Otherwise, the call ends.
 void QueueWorld::goOn(Call &call, bool holds, Step step)
 {
     if (holds)
@@ -215,7 +215,7 @@ void QueueWorld::compareLists()
     expect(same, "the queue holds the commands of the model");
 }
 
-/// Returns the commands that are in the list or to which a call or the timer still refers.
+/// Returns the commands that are still in use: in the queue, by a call, or by the timer.
 unsigned QueueWorld::heldCommands() const
 {
     unsigned commands = m_timer.isArmed ? bit(m_timer.command) : 0;
@@ -232,9 +232,9 @@ void QueueWorld::checkOutcomes()
     expect((m_answered | m_refused | m_dropped | heldCommands()) == all, "no command is lost");
 }
 
-/// Checks the head while no thread is in a call. In this state, only a time-out can remove the
-/// head. After a command that was refused or is too long, no time-out has to be running. This is
-/// deliberate.
+/// Checks the head while no call is in progress. In this state, only a time-out can remove the
+/// head, so a time-out must be running. The exception is a head behind a command that was refused
+/// or too long, which deliberately has no time-out.
 void QueueWorld::checkRest()
 {
     if (isBusy() || m_model.entries.empty())
@@ -246,7 +246,7 @@ void QueueWorld::checkRest()
 
 // ---- sending -------------------------------------------------------------------------------
 
-/// Appends the command. Constructs the singleton first if there is none.
+/// Appends the command. If the logic object does not exist, constructs it first.
 void QueueWorld::append(Call &call)
 {
     if (!m_gateIsOpen)
@@ -340,7 +340,7 @@ void QueueWorld::disarmTimer(Call &call)
 
 // ---- outcomes ------------------------------------------------------------------------------
 
-/// Claims the head. The thread that claims the head also announces its answer.
+/// Claims the head. The same thread then announces the answer, which is part of this step.
 CommandQueue::Claim QueueWorld::claim(Call &call, ClaimFunction function, quint64 number,
                                       int expected)
 {
@@ -356,8 +356,8 @@ CommandQueue::Claim QueueWorld::claim(Call &call, ClaimFunction function, quint6
     return result;
 }
 
-/// Claims the head for a reply or a time-out, which cannot belong to a command that the device has
-/// not received.
+/// Claims the head for a reply or a time-out. If the device has not received the head, the claim
+/// must fail.
 CommandQueue::Claim QueueWorld::claimInFlight(Call &call, quint64 number, int expected)
 {
     const bool waits = m_model.waitsForHandOver();
@@ -431,7 +431,7 @@ void QueueWorld::claimForTimeOut(Call &call)
     goOn(call, call.command != 0, RemoveTimedOut);
 }
 
-/// Removes the head after all receivers of the announcement have returned.
+/// Removes the head after all receivers of the time-out signal have returned.
 void QueueWorld::removeTimedOut(Call &call)
 {
     if (!call.logicIsGone)
@@ -467,7 +467,7 @@ void QueueWorld::clearAll(Call &call)
     call = Call();
 }
 
-/// Ends the session on the device. The list and the time-out stay unchanged.
+/// Ends the session on the device, without changing the queue or the timer.
 void QueueWorld::release(Call &call)
 {
     call = Call();
@@ -499,8 +499,7 @@ void QueueWorld::closeGate(Call &call)
     call.next = DeleteLogic;
 }
 
-/// Deletes the logic object. At this step, no other thread is in a call, and no thread can start
-/// one.
+/// Deletes the logic object. No other call is in progress or can start at this step.
 void QueueWorld::deleteLogic(Call &call)
 {
     m_timer.isArmed = false;
@@ -510,7 +509,7 @@ void QueueWorld::deleteLogic(Call &call)
 
 // ---- key -----------------------------------------------------------------------------------
 
-/// Writes values of a few bits each, one after another.
+/// Packs values of a few bits each into a key.
 class QueueWorld::KeyWriter
 {
 public:
@@ -551,11 +550,11 @@ QueueWorld::Oldest QueueWorld::oldestCompared() const
     return oldest;
 }
 
-/// Returns the key of this state. The steps compare numbers only with other numbers, and commands
-/// only with other commands. The key therefore contains their distances from the newest number or
-/// command. A mark that is older than every number with which it can still be compared gives the
-/// same results as any older mark. A command that is neither pending nor used by a call or by the
-/// timer cannot appear again. Its outcome was checked when it left the queue.
+/// Returns a key that is equal for states with the same future behaviour. Only the order of numbers
+/// and of commands matters, so the key contains their distances from the newest number or command.
+/// A mark that is older than all numbers with which it can be compared always gives the same
+/// result. A command that is no longer in use does not appear in the key, because its outcome has
+/// already been checked.
 QueueWorld::Key QueueWorld::key() const
 {
     KeyWriter writer;
@@ -603,8 +602,8 @@ void QueueWorld::writeCommands(KeyWriter &writer) const
     }
 }
 
-/// Writes the calls of all threads. The two threads that deliver replies are interchangeable, so
-/// their calls are written in a fixed order.
+/// Writes the calls of all threads. The two reply threads are interchangeable, so their calls are
+/// written in a fixed order.
 void QueueWorld::writeCalls(KeyWriter &writer) const
 {
     const Call &first = m_calls[FirstReply];

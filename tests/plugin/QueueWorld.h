@@ -7,20 +7,20 @@
 #include "requests/CommandQueue.h"
 
 /**
- * A state of the request pipeline. It consists of the queue, the other state of USSDLogic (the
- * reply timer, the send lock and the call-back gate), and the position of each thread.
+ * A state of the request pipeline: the queue, the other state of USSDLogic (the reply timer, the
+ * send lock and the call-back gate), and the next step of each thread.
  *
- * start() makes an event happen, and run() makes one thread perform its next step. A step changes
- * the queue and its model in the same way. failure() returns the rule that was broken.
+ * start() starts an event, and run() performs the next step of a thread. Each step changes both the
+ * queue and the model. failure() returns the first rule that was violated.
  */
 class QueueWorld
 {
 public:
     enum Event {
-        SendQuery,    // not removed by either of the two clear functions
-        SendGeneral,  // kept by ClearUSSDSMSQueuedCmds() only
+        SendQuery,    // kept by both clear functions
+        SendGeneral,  // kept only by ClearUSSDSMSQueuedCmds()
         SendServices, // removed by both clear functions
-        Reply,        // also stands for a reply when no command is pending
+        Reply,        // also a reply that arrives when no command is pending
         TimeOut,
         Cancel,
         DeviceGone,
@@ -30,28 +30,27 @@ public:
         EventCount
     };
 
-    /// GuiInside is the GUI thread too. It stands for calls that a receiver of the time-out signal
-    /// makes.
+    /// GuiInside represents calls that receivers of the time-out signal make on the GUI thread.
     enum Thread { Gui, GuiInside, FirstReply, SecondReply, Device, ThreadCount };
 
     typedef std::array<quint64, 4> Key;
 
     bool canStart(Event event) const;
-    /// Performs the first step of the event.
+    /// Starts the call that the event triggers.
     void start(Event event);
     static const char *nameOf(Event event);
 
     bool canRun(Thread thread) const;
-    /// Returns the number of possible outcomes of the thread's next step. There is more than one if
-    /// the device decides.
+    /// Returns the number of possible outcomes of the thread's next step. If the step depends on
+    /// the device, there are several.
     int ways(Thread thread) const;
     void run(Thread thread, int way);
     const char *nextStep(Thread thread) const;
     static const char *nameOf(Thread thread);
 
-    /// Returns the rule that was broken, or null.
+    /// Returns the rule that was violated, or null.
     const char *failure() const { return m_failure; }
-    /// Returns the key of this state. Two states with the same key have the same future.
+    /// Returns a key for this state. States with the same key behave in the same way from now on.
     Key key() const;
 
 private:
@@ -85,7 +84,7 @@ private:
         StepCount
     };
 
-    /// A call in progress on a thread: its next step and its variables.
+    /// A call that is in progress on a thread: the next step and the local variables.
     struct Call {
         Step next = Idle;
         int component = 0;
@@ -97,7 +96,7 @@ private:
         bool logicIsGone = false;
     };
 
-    /// The reply timer, and the head for which it was started.
+    /// The reply timer, and the head for which it is running.
     struct Timer {
         bool isArmed = false;
         quint64 arming = 0;
@@ -176,10 +175,10 @@ private:
     Call m_calls[ThreadCount];
     bool m_isHandingOver = false; // true while m_mutexSendCmd is locked
     bool m_gateIsOpen = true;
-    bool m_isSilent = false; // true while commands wait after one that was refused or too long
-    int m_way = 0;           // the outcome chosen for the current step
+    bool m_isSilent = false; // true while commands wait behind a refused or too long command
+    int m_way = 0;           // the outcome that was chosen for the current step
     int m_lastCommand = 0;
-    // One bit for each command, as in the next three members.
+    // Bit masks with one bit per command, like the next three members.
     unsigned m_handed = 0;
     unsigned m_answered = 0;
     unsigned m_refused = 0;

@@ -7,7 +7,7 @@
 void ServiceTest::setUp()
 {
     PluginTest::setUp();
-    // With these times, a window that is opened again does not have to wait for the last command.
+    // With these times, a window that is reopened does not have to wait for the previous command.
     const ReplyTimes times = {60000, 1};
     USSDLogic::setReplyTimes(times);
     writeSystemProfiles(profileFile(profileItem("Balance", "*100#")));

@@ -10,7 +10,7 @@
 #include "fake_tksv.h"
 #include "windows/USSDService.h"
 
-/** The base class of tests of the plug-in's service, which a host calls to show the windows. */
+/** The base class for tests of the service with which a host shows the plug-in's windows. */
 class ServiceTest : public PluginTest
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ protected:
     void setUp() override;
     void tearDown() override;
 
-    static void addFramedTypes(); ///< adds a row for each type of window that has a frame
+    static void addFramedTypes(); ///< adds a test row for each window type with a frame
     CUSSDService *service() { return CUSSDService::instance(); }
     USSDExtendDialog *frame(); ///< returns the frame, or null unless there is exactly one
     USSDGeneralDlg *framedDialog();

@@ -4,7 +4,7 @@ QByteArray SmsDialogTest::config()
 {
     QByteArray entries;
     for (int service = BALANCE; service <= SIX; ++service)
-        entries.prepend(entry(service)); // in reverse order, because the tree sorts the entries
+        entries.prepend(entry(service)); // reverse order, because the tree sorts the entries
     const QByteArray five = group(SIX, NO_INPUT, buttonControl(USSD, "*666#"));
     return "<config><SMSUSSD><MainSize width='520' height='360'/>"
            "<TreeSize posx='10' posy='12' width='150' height='330'/>"
@@ -132,7 +132,7 @@ void SmsDialogTest::sendTariff()
     press();
 }
 
-/// Returns the number of connections to this signal of the logic object.
+/// Returns the number of connections to this signal of USSDLogic.
 int SmsDialogTest::receivers(const char *signal)
 {
     class Opened : public QObject

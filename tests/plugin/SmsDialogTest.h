@@ -55,7 +55,7 @@ inline QByteArray buttonControl(const QByteArray &type, const QByteArray &comman
            command + "</command><number>" + number + "</number></control>";
 }
 
-/// Returns true if anything other than the background is drawn in the area.
+/// Returns true if the area contains any pixel that does not have the background colour.
 inline bool inkIn(const QImage &image, const QRect &area)
 {
     const QImage part = image.copy(area);
@@ -75,8 +75,8 @@ const char USSD[] = "type='ussd'";
 const char SMS[] = "type='sms'";
 
 /**
- * The base class of tests that operate the USSD-SMS dialog in a frame with keys and clicks. By
- * default, the fake network does not reply.
+ * The base class for tests that operate the USSD-SMS dialog in a frame with keys and mouse clicks.
+ * By default, the network does not reply.
  */
 class SmsDialogTest : public PluginTest
 {
@@ -87,7 +87,7 @@ protected:
     void tearDown() override;
 
 protected:
-    /// The numbers of the services in the configuration.
+    /// The numbers of the services in the test configuration.
     enum Service {
         BALANCE = 1, // USSD
         CALL,        // USSD with an input of at least 3 digits

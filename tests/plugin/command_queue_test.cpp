@@ -2,25 +2,25 @@
  * Tests the rules of CommandQueue, first individually and then with every possible order of steps.
  *
  * The search combines up to eight events: send, reply, time-out, cancel, loss of the device, clear
- * and destroy. An event starts a call of USSDLogic, and a call consists of steps. A step is work
- * that a thread performs without interruption: one call of the queue, one query of the timer, or
- * one change of the timer. QueueWorld.cpp performs the steps in the order of USSDLogic.cpp. The
- * announcement is part of the preceding claim. The request to the device is part of the preceding
- * check. They need no steps of their own because they do not use anything that another thread uses.
- * A sender waits up to 3 s for an earlier time-out, and the search lets this wait end at any
- * moment.
+ * and destroy. Each event starts a call of USSDLogic, which consists of several steps. A step is
+ * work that a thread performs without interruption: a call of the queue, a query of the timer, or a
+ * change of the timer. QueueWorld.cpp performs the steps in the same order as USSDLogic.cpp.
+ * Announcing an answer is part of the step that claims the head. The request to the device is part
+ * of the preceding check. These operations do not need separate steps, because they do not access
+ * any data that threads share. A sender waits up to 3 s for an earlier time-out; in the search,
+ * this wait can end at any time.
  *
- * The search tries every order. Any thread may perform its next step, and an event may happen
- * whenever its thread is idle. The threads are the GUI thread, two threads that deliver replies and
- * one thread that delivers device events. The receivers of a time-out may send, clear or destroy
- * before they return. The device accepts or refuses a command, or the command is too long. The
- * search skips a state only if it has already continued from the same state with at least as many
- * remaining events. QueueWorld::key() explains which states count as the same.
+ * The search tries every order of events and steps. Any thread may perform its next step, and an
+ * event may occur whenever its thread is idle. There is a GUI thread, two threads that deliver
+ * replies, and one thread that delivers device events. The receivers of a time-out may send, clear
+ * or destroy before they return. Each command may be accepted by the device, refused by the device,
+ * or too long. The search skips a state only if it has already searched from an equal state with at
+ * least as many remaining events. QueueWorld::key() describes which states are equal.
  *
- * After each step, the queue must contain the same commands as the model and must give the same
- * answers. No command may be sent twice, answered twice or lost. When no thread is in a call, a
+ * After each step, the queue must contain the same commands as the model and must return the same
+ * results. No command may be sent twice, answered twice or lost. When no call is in progress, a
  * running time-out must ensure that the head is eventually answered or removed. There are two
- * deliberate exceptions: commands keep waiting after a command that was refused or too long, and a
+ * deliberate exceptions: commands keep waiting behind a command that was refused or too long, and a
  * stale reply or time-out answers the current head.
  */
 #include "QueueWorld.h"
@@ -45,15 +45,15 @@ struct KeyHash {
     }
 };
 
-/** Searches every order of events and steps, depth first, until a rule is broken. */
+/** Searches all orders of events and steps, depth first, until a rule is violated. */
 class Walk
 {
 public:
-    /// Returns true if all orders of up to `events` further events follow the rules.
+    /// Returns true if no order of up to `events` further events violates a rule.
     bool from(const QueueWorld &world, int events);
     size_t states() const { return m_walked.size(); }
     quint64 steps() const { return m_steps; }
-    /// Returns the steps that led to the broken rule, one per line.
+    /// Returns the steps that led to the violation, one per line.
     QByteArray story() const;
 
 private:
@@ -66,7 +66,7 @@ private:
         const char *what;
     };
 
-    // The states already visited. The value is the number of remaining events plus one.
+    // The visited states. The value is the number of remaining events plus one.
     std::unordered_map<QueueWorld::Key, int, KeyHash> m_walked;
     std::vector<Line> m_path;
     const char *m_failure = nullptr;
@@ -158,7 +158,7 @@ protected:
 private:
     QString headText() const { return m_queue.commands().value(0).command; }
 
-    CommandQueue m_queue; // *1# and *2# of the general window, *3# of the detection
+    CommandQueue m_queue; // contains *1# and *2# of the general window and *3# of the detection
     CommandQueue::Head m_head;
 
 private slots:
@@ -216,7 +216,7 @@ void CommandQueueTest::claimOfAnEmptyQueueNamesTheLastHead()
 {
     const quint64 last = m_queue.headNumber();
     m_queue.clear();
-    m_queue.clear(); // does not use up the number of the next head
+    m_queue.clear(); // must not advance the number of the next head
     QCOMPARE(m_queue.claimHead(m_head), CommandQueue::Empty);
     QCOMPARE(m_head.number, last);
 }
@@ -233,7 +233,8 @@ void CommandQueueTest::headThatWaitsForTheDeviceIsNotAnswered()
     QCOMPARE(m_queue.claimHeadInFlight(m_head), CommandQueue::ClaimedByOther);
 }
 
-/// A head that is not being sent stands behind a command that was refused. A late reply answers it.
+/// Tests a late reply after a command was refused. The reply answers the next command, although
+/// this command has not been sent.
 void CommandQueueTest::headThatNobodySendsIsAnswered()
 {
     QVERIFY(m_queue.markHeadSent(m_head));

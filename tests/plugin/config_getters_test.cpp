@@ -81,8 +81,8 @@ void ConfigGettersTest::onlineComponentYieldsItsUrlOnly()
 void ConfigGettersTest::everyComponentAnswersItsOwnAttributesOnly_data()
 {
     QTest::addColumn<int>("component");
-    QTest::addColumn<QList<int>>("numbers"); // -1 for an attribute that the component does not have
-    // "unchanged" for an attribute that the component does not have.
+    QTest::addColumn<QList<int>>("numbers"); // -1 if the component lacks the attribute
+    // "unchanged" if the component does not have the attribute.
     QTest::addColumn<QStringList>("texts");
     const QString none = latin1("unchanged");
     // attribute numbers:        0   1  2   5   6   7  8   9  10
@@ -171,7 +171,8 @@ void ConfigGettersTest::windowListMayHoldEmptyParts()
 void ConfigGettersTest::windowNameInLowerCaseIsStoredWithoutFlags()
 {
     writeConfig(autoUSSD(imsiItem("12", "prepaid") + imsiItem("1", "Advanced")));
-    QCOMPARE(flagsOf(latin1("123")), 0); // matches, and is longer than the other prefix
+    // The longest matching prefix is used, although its window name is unknown.
+    QCOMPARE(flagsOf(latin1("123")), 0);
 }
 
 void ConfigGettersTest::invalidAutoUssdNeverMatches()
@@ -217,7 +218,7 @@ void ConfigGettersTest::imsiItemsCountAtAnyDepthBehindTheSection()
     writeConfig(config(fourItems() + imsiItem("1", "Prepaid"), fourItems(),
                        looks() + "<autoUSSD valid='true'><x>" + imsiItem("2", "Postpaid") +
                            "</x></autoUSSD><y>" + imsiItem("3", "Commonpaid") + "</y>"));
-    QCOMPARE(flagsOf(latin1("1")), -1); // the item precedes the section
+    QCOMPARE(flagsOf(latin1("1")), -1); // an item before the section is ignored
     QCOMPARE(flagsOf(latin1("2")), 2);
     QCOMPARE(flagsOf(latin1("3")), 4);
 }
@@ -235,7 +236,7 @@ void ConfigGettersTest::emptyImsiNeverMatches()
     QCOMPARE(flagsOf(QString()), -1);
 }
 
-/// Compares the result with that of a linear search through the map.
+/// Compares the result with a linear search in a map of random prefixes.
 void ConfigGettersTest::longestPrefixIsFoundAmongManyRandomOnes()
 {
     std::srand(20260101);
@@ -314,7 +315,7 @@ void ConfigGettersTest::gettersReadTheFileAnew()
     logic()->GetCmdEditSetting(edit);
     QVERIFY(!edit.visible);
 
-    writeConfig("<c/>"); // a file without the section clears the record
+    writeConfig("<c/>"); // clears the record, because the section is missing
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
     QVERIFY(!clearSetting().visible);
 }
@@ -353,7 +354,7 @@ void ConfigGettersTest::missingFileLeavesDefaultsAndIsLogged()
     logic();
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     QCOMPARE(timesLogged(latin1("xmlFilePath = ") + path), 1);
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     for (int component : {BALANCE, CHARGE, ONLINE_CHARGE, MSISDN}) {
         QCOMPARE(number(PREPAID, component, ATTR_VALUE), 0);
@@ -375,7 +376,7 @@ void ConfigGettersTest::oddFileIsLikeAMissingOne()
     const QString path = pluginFolder() + latin1("/USSDPluginConfig.xml");
     const QString said = path + latin1(": ") + OddFiles::make(path);
     logic();
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged(latin1("openXMLFile ") + said), 2);
     QCOMPARE(timesLogged("openXMLFile Exit: XML File is not opened"), 2);
     QVERIFY(!logic()->IsImsiDynamicMatch());
@@ -410,8 +411,8 @@ void ConfigGettersTest::missingFileLeavesTheRecordsOfGettersUnchanged()
     QVERIFY(!edit.visible);
 }
 
-/// Tests that each getter logs its name, although the getters share the code that opens the file.
-/// Without a file, there is no Exit line.
+/// Tests that each getter logs its own name, although all getters share the code that opens the
+/// file. If there is no file, no Exit line is logged.
 void ConfigGettersTest::gettersLogTheirOwnName()
 {
     logic();
@@ -444,10 +445,10 @@ void ConfigGettersTest::shippedFileIsComplete()
         QVERIFY(!text(paidType, ONLINE_CHARGE, ATTR_URL).isEmpty());
         QVERIFY(!text(paidType, MSISDN, ATTR_COMMAND).isEmpty());
     }
-    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // large enough to read
+    QVERIFY(look(CHAR_SET_SEND).yHeight >= 20 * 6); // large enough for several lines
     QVERIFY(look(CHAR_SET_RECEIVE).yHeight >= 20 * 6);
     QVERIFY(clearSetting().visible);
-    // The last section is found only if all preceding sections are found.
+    // The last section is found only if all previous sections have been found.
     QVERIFY(logic()->IsImsiDynamicMatch());
 }
 

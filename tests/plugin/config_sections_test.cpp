@@ -75,7 +75,8 @@ void ConfigSectionsTest::threeItemSectionTakesFirstPostpaidItem()
                            onlineItem()));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*7#"));
     QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 13);
-    // The search for "Postpaid" starts after the start of that section and finds nothing.
+    // The parser has already read past the start of the "Postpaid" section, so it does not find
+    // this section.
     QCOMPARE(text(POSTPAID, BALANCE, ATTR_COMMAND), QString());
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(look(CHAR_SET_SEND).yHeight, 0);
@@ -89,7 +90,7 @@ void ConfigSectionsTest::itemNamedInLowerCaseIsConsumedButStoresNothing()
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 0);
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), QString());
-    // The unknown item counts as one of the four items, and MSISDN is the fourth.
+    // The parser reads four items, including the one with an unknown name. MSISDN is the fourth.
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*6#"));
     QCOMPARE(number(POSTPAID, BALANCE, ATTR_POS), 10);
 }
@@ -110,7 +111,7 @@ void ConfigSectionsTest::laterItemOfTheSameComponentWins()
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*2#"));
     QCOMPARE(number(PREPAID, BALANCE, ATTR_POS), 2);
     QCOMPARE(number(PREPAID, BALANCE, ATTR_VALUE), 0);
-    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // the item is missing
+    QCOMPARE(number(PREPAID, MSISDN, ATTR_POS), 0); // there is no such item
 }
 
 void ConfigSectionsTest::numberThatDoesNotParseIsZero_data()
@@ -209,8 +210,8 @@ void ConfigSectionsTest::brokenXmlKeepsWhatWasReadBefore()
     QVERIFY(!logic()->IsImsiDynamicMatch());
 }
 
-/// Tests a repeated attribute, which makes the XML malformed. The parser has read both values when
-/// it reports the error.
+/// Tests a repeated attribute, which makes the document malformed. No attribute of the element may
+/// be used, although the parser has read both values before it reports the error.
 void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 {
     writeConfig("<c><clearHistory visible='true' showConfirmDialog='true' visible='true'/></c>");
@@ -227,7 +228,7 @@ void ConfigSectionsTest::startTagAtFaultHasNoAttributes()
 
 void ConfigSectionsTest::textCutByAFaultIsEmpty_data()
 {
-    QTest::addColumn<QByteArray>("before"); // the text that precedes the root element
+    QTest::addColumn<QByteArray>("before"); // precedes the root element
     QTest::addColumn<QByteArray>("command");
     QTest::newRow("unknown entity") << QByteArray() << QByteArray("*10&bad;3#");
     QTest::newRow("entity of another file")
@@ -251,8 +252,8 @@ void ConfigSectionsTest::textCutByAFaultIsEmpty()
     QCOMPARE(differ().command, latin1("*103#"));
 }
 
-/// Tests that a document with entity declarations is refused, even if no entity is used. Qt 4 would
-/// expand them without a limit.
+/// Tests that a document with entity declarations is rejected, even if it does not use them. Qt 4
+/// would expand the entities without a limit.
 void ConfigSectionsTest::documentWithEntitiesIsRefused()
 {
     QFETCH(QByteArray, declaration);
@@ -309,15 +310,15 @@ void ConfigSectionsTest::brokenDetectionIsOff_data()
     QTest::newRow("no end") << whole << latin1("*103#");
 }
 
-/// Tests that a truncated command or pattern disables the detection. Otherwise every reply would be
-/// misinterpreted.
+/// Tests that an incomplete command or pattern disables the detection. Otherwise, the plug-in would
+/// misinterpret all replies.
 void ConfigSectionsTest::brokenDetectionIsOff()
 {
     QFETCH(QByteArray, section);
     QFETCH(QString, command);
     writeConfig("<c>" + section);
     QVERIFY(!differ().value);
-    QCOMPARE(differ().command, command); // a value that was read completely is kept
+    QCOMPARE(differ().command, command); // values that were read completely are kept
     QCOMPARE(differ().style, 0);
 }
 
@@ -340,8 +341,8 @@ void ConfigSectionsTest::brokenSimSectionIsOff_data()
     QTest::newRow("wrong end") << QByteArray("</autoUSSD>") << QByteArray("</autoUsd>");
 }
 
-/// Tests that an incomplete SIM section is ignored as a whole. If only some of its prefixes were
-/// used, a SIM card could get the windows of a shorter prefix.
+/// Tests that an incomplete section with IMSI prefixes is ignored. If only some of the prefixes
+/// were used, a shorter prefix could match a SIM card and select the wrong windows.
 void ConfigSectionsTest::brokenSimSectionIsOff()
 {
     QFETCH(QByteArray, before);
@@ -363,7 +364,7 @@ void ConfigSectionsTest::faultBehindTheSimSectionLeavesItOn()
                                                 imsiItem("003", "Postpaid") + "</anything>"));
     QVERIFY(logic()->IsImsiDynamicMatch());
     QCOMPARE(flagsOf(latin1("0019")), 1);
-    QCOMPARE(flagsOf(latin1("0029")), 2); // read although the item follows the section
+    QCOMPARE(flagsOf(latin1("0029")), 2); // read, although it follows the section
     QCOMPARE(flagsOf(latin1("0039")), -1);
 }
 
@@ -374,7 +375,8 @@ void ConfigSectionsTest::deepNestingIsReadToItsEnd()
                        fourItems(), "<name>" + nested("deep") + "</name>" + looks()));
     QCOMPARE(text(PREPAID, BALANCE, ATTR_COMMAND), latin1("*1#"));
     QCOMPARE(text(PREPAID, MSISDN, ATTR_COMMAND), latin1("*2#"));
-    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20); // read after the second deeply nested element
+    // This section follows the second deeply nested element.
+    QCOMPARE(look(CHAR_SET_SEND).yHeight, 20);
 }
 
 void ConfigSectionsTest::deepNestingWithoutEndKeepsWhatWasReadBefore()
@@ -393,7 +395,7 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     for (const char *section :
          {"PrePostDiffer", "Prepaid", "Postpaid", "send", "recevie", "cmdEdit", "autoUSSD"})
         QTest::newRow(section) << QByteArray(section) << true;
-    // These elements occur for the first time in "send".
+    // The first elements with these names are in the "send" section.
     for (const char *child : {"yHeight", "yOffset", "color"})
         QTest::newRow(child) << QByteArray(child) << true;
     for (const char *child : {"readonlycolor", "commoncolor", "headcolor"})
@@ -402,9 +404,9 @@ void ConfigSectionsTest::eachSectionIsSoughtInItsPlace_data()
     QTest::newRow("none") << QByteArray("other") << false;
 }
 
-/// Checks only the last section, because the getters read the other sections again. The search for
-/// a missing section would skip all sections after it. If the last section was found, the initial
-/// search has therefore found all the others.
+/// Checks only the last section, because the getters read the other sections again. If a section is
+/// missing, all sections after it are skipped. Therefore, finding the last section proves that all
+/// other sections were found when the file was first read.
 void ConfigSectionsTest::eachSectionIsSoughtInItsPlace()
 {
     QFETCH(QByteArray, element);

@@ -66,7 +66,7 @@ void EditorLooksTest::marginsAreFixed()
     QCOMPARE(buttons->itemAt(0)->widget(), saveButton());
 }
 
-/// No line of the hint is cut off.
+/// Tests that the hint is not cut off in any language.
 void EditorLooksTest::hintIsCompleteInEveryLanguage()
 {
     for (const QString &language : HostCore::Languages::codes()) {
@@ -102,7 +102,7 @@ void EditorLooksTest::frameHasATitleAndACloseButton()
 {
     openEditor();
     QCOMPARE(table()->window()->parentWidget(), m_mainWindow.data());
-    QDialog plain(m_mainWindow.data()); // for comparison, because Qt adds a flag
+    QDialog plain(m_mainWindow.data()); // for comparison, because Qt sets additional flags
     plain.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint |
                          Qt::WindowCloseButtonHint);
     QCOMPARE(table()->window()->windowFlags(), plain.windowFlags());
@@ -125,7 +125,8 @@ void EditorLooksTest::messagesInMiniModeStandOverTheEditor_data()
     QTest::newRow("otherwise") << false;
 }
 
-/// Tests the message about a duplicate and the message box that asks whether to save.
+/// Tests the message about a duplicate, and the message box that asks for confirmation before
+/// saving.
 void EditorLooksTest::messagesInMiniModeStandOverTheEditor()
 {
     QFETCH(bool, mini);
@@ -186,7 +187,7 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin_data()
     QTest::newRow("Arabic") << QStringLiteral("ar") << true;
 }
 
-/// Compares screenshots, because QWidget::render() does not mirror the widget.
+/// Compares screenshots, because render() does not mirror the header in right-to-left languages.
 void EditorLooksTest::headsStandWhereTheirColumnsBegin()
 {
     QFETCH(QString, language);
@@ -213,8 +214,8 @@ void EditorLooksTest::headsStandWhereTheirColumnsBegin()
     QCOMPARE(header->defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-/// Tests that the code is not painted as "#123*", as it would be in right-to-left order. In a
-/// screenshot, a hash differs from a star in that it extends further down.
+/// Tests that the code *123# is painted with the star on the left, although the language is written
+/// from right to left. In the screenshot, the hash is recognised because it extends further down.
 void EditorLooksTest::codeIsPaintedLeftToRightAtTheRightInArabic()
 {
     QVERIFY(HostCore::Languages::setCurrent(QStringLiteral("ar")));
@@ -296,13 +297,13 @@ void EditorLooksTest::hostMayShutDownWhileTheEditorIsOpen()
         CUSSDService::Destroy();
     });
     QTest::mouseClick(editButton(m_mainWindow.data()),
-                      Qt::LeftButton); // this call returns when the editor is closed
+                      Qt::LeftButton); // returns after the editor has closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
 }
 
-/// Tests a shut-down while the message box is open. The box has no parent that would delete it.
+/// Tests a host that shuts the plug-in down while a message box without a parent is open.
 void EditorLooksTest::hostMayShutDownWhileTheQuestionIsOpen()
 {
     QRect rect(0, 0, 640, 560);
@@ -317,7 +318,7 @@ void EditorLooksTest::hostMayShutDownWhileTheQuestionIsOpen()
         saveButton()->click();
     });
     QTest::mouseClick(editButton(m_mainWindow.data()),
-                      Qt::LeftButton); // this call returns when the editor is closed
+                      Qt::LeftButton); // returns after the editor has closed
     QVERIFY(wasOpen);
     drainEvents();
     QVERIFY(!table());
@@ -330,7 +331,8 @@ void EditorLooksTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
     QFETCH(int, way);
     QFETCH(bool, mini);
 #if QT_VERSION >= 0x060000
-    // With Return, the delegate reports the end of the editing later. By then, the view is deleted.
+    // After Return, the delegate reports the end of editing in a later event, when the view no
+    // longer exists.
     allowWarning("called with an editor that does not belong to this view");
 #endif
     HostCore::HostState::setMiniMode(mini);
@@ -340,7 +342,7 @@ void EditorLooksTest::hostMayShutDownWhileTheDuplicateMessageIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         typeAndLeave(1, 0, QStringLiteral("Balance"), way);
     });
-    editButton(m_mainWindow.data())->click(); // this call returns when the editor is closed
+    editButton(m_mainWindow.data())->click(); // returns after the editor has closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!m_mainWindow);
@@ -356,7 +358,7 @@ void EditorLooksTest::hostMayShutDownBeforeTheDuplicateMessageOpens()
         shutDown();
     });
     editButton(m_mainWindow.data())->click();
-    drainEvents(); // the test would hang here if a message opened
+    drainEvents(); // a message box would block the test here
     QVERIFY(!m_mainWindow);
 }
 

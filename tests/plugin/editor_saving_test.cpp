@@ -48,7 +48,7 @@ void EditorSavingTest::savingChangesAsksFirst()
     const USSDProfile saved = savedProfiles().at(1);
     QCOMPARE(saved.name, QStringLiteral("My menu"));
     QCOMPARE(saved.value, QStringLiteral("*123#"));
-    QCOMPARE(saved.langID, QString()); // with a key, the translated text would replace the new name
+    QCOMPARE(saved.langID, QString()); // a text key would hide the new name
     QVERIFY(saved.isSystem);
 }
 
@@ -89,8 +89,7 @@ void EditorSavingTest::openEditorIsCommittedBySaving()
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Typed"));
 }
 
-/// Tests that a duplicate prevents saving. Otherwise its row would be saved without the code and
-/// would be lost.
+/// Tests that a duplicate prevents saving. Otherwise, the row would be saved without its code.
 void EditorSavingTest::duplicateFoundWhileSavingStopsIt()
 {
     openEditor();
@@ -167,8 +166,8 @@ void EditorSavingTest::fileThatIsNotWholeIsNotSavedOver_data()
     }
 }
 
-/// Tests that a file that cannot be read completely is not overwritten, even if nothing was edited.
-/// Otherwise its unread part would be lost.
+/// Tests that a file that cannot be read completely is never overwritten, even if nothing was
+/// edited. Otherwise, the part that was not read would be lost.
 void EditorSavingTest::fileThatIsNotWholeIsNotSavedOver()
 {
     QFETCH(bool, isSystem);
@@ -220,8 +219,8 @@ void EditorSavingTest::editOfADamagedFileStaysInTheWindow()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Tests that nothing is saved if the file cannot be opened. Saving could delete the file and lose
-/// codes that were never read.
+/// Tests that an existing file that cannot be opened is not overwritten. Otherwise, codes that were
+/// never read would be lost.
 void EditorSavingTest::fileThatCannotBeOpenedIsNotSavedOver()
 {
     const QByteArray own = profileFile(profileItem("Mine", "*5#"));
@@ -241,12 +240,13 @@ void EditorSavingTest::fileThatCannotBeOpenedIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests an empty file, which a full disk may leave behind. It contains nothing that could be lost.
+/// Tests that an empty file, which a full disk may have left behind, is overwritten. There is
+/// nothing to lose.
 void EditorSavingTest::emptyFileIsSavedOver()
 {
     writeFile(QStringLiteral("user/ussdprofile.xml"), QByteArray());
     openEditor();
-    saveButton()->click(); // the test would hang here if a message opened
+    saveButton()->click(); // a message box would block the test here
     QVERIFY(contentOf(userFile()).contains("<tksvdoc"));
 }
 
@@ -262,7 +262,7 @@ void EditorSavingTest::systemFileOfRootLeavesOwnCodesToBeSaved()
     answerNextMessage(QStringLiteral("IDS_YES"));
     {
         const OrdinaryUser user;
-        saveButton()->click(); // the test would hang here if another message opened
+        saveButton()->click(); // another message box would block the test here
     }
     QVERIFY(!table()->isVisible());
     QVERIFY(contentOf(userFile()).contains("<value>*5#</value>"));
@@ -331,7 +331,7 @@ void EditorSavingTest::fileThatCanBeWrittenInAFolderThatCannotIsSaved()
     answerNextMessage(QStringLiteral("IDS_YES"));
     {
         const OrdinaryUser user;
-        saveButton()->click(); // the test would hang here if another message opened
+        saveButton()->click(); // another message box would block the test here
     }
     QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Other"));
 }
@@ -342,7 +342,7 @@ void EditorSavingTest::missingUserFolderIsMade()
     openEditor();
     type(7, 1, QStringLiteral("*5#"));
     answerNextMessage(QStringLiteral("IDS_YES"));
-    saveButton()->click(); // the test would hang here if another message opened
+    saveButton()->click(); // another message box would block the test here
     QVERIFY(contentOf(folder() + QLatin1String("/new/ussdprofile.xml")).contains("*5#"));
 }
 
@@ -358,7 +358,7 @@ void EditorSavingTest::unknownUserFolderIsSaid()
 
 void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
 {
-    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // fails temporarily
+    fakeSdkSetResult("TKSV_GetUserDataDirectory", 1); // simulates a temporary failure
     openEditor();
     fakeSdkSetResult("TKSV_GetUserDataDirectory", 0);
     const QByteArray own = profileFile(profileItem("Own", "*9#"));
@@ -371,7 +371,7 @@ void EditorSavingTest::fileThatCameAfterTheReadingIsNotSavedOver()
     QCOMPARE(contentOf(userFile()), own);
 }
 
-/// Tests a folder that cannot be created, because a dangling link has its name.
+/// Tests the message if the folder cannot be created because a dangling link has the same name.
 void EditorSavingTest::fileThatFailsWhileItIsWrittenIsSaid()
 {
     QVERIFY(QFile::link(folder() + QLatin1String("/nowhere"), folder() + QLatin1String("/link")));
@@ -392,7 +392,7 @@ void EditorSavingTest::hostMayShutDownWhileTheRefusalIsOpen()
         whenMessageOpens([this](QMessageBox *) { shutDown(); });
         QTest::mouseClick(saveButton(), Qt::LeftButton);
     });
-    editButton(m_mainWindow.data())->click(); // this call returns when the editor is closed
+    editButton(m_mainWindow.data())->click(); // returns after the editor has closed
     drainEvents();
     QCOMPARE(m_messages, 1);
     QVERIFY(!QApplication::activeModalWidget());

@@ -66,7 +66,8 @@ void EditorTableTest::nameOfAnotherRowIsRefusedAndTheCellReopenedEmpty()
     QCOMPARE(cell(4, 0), QString());
 }
 
-/// Tests each way of leaving the cell. Tab moves to a cell that is filled and editable.
+/// Tests that the message opens only once, regardless of how the user leaves the cell. Pressing Tab
+/// moves the focus to another editable cell with text.
 void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
 {
     QFETCH(int, way);
@@ -77,7 +78,7 @@ void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     typeAndLeave(1, 0, QStringLiteral("Balance"), way);
     drainEvents();
     QCOMPARE(m_messages, 1);
-    drainEvents(); // the test would hang here if a second message opened
+    drainEvents(); // a second message box would block the test here
     QVERIFY(table()->isVisible());
     QCOMPARE(cell(1, 0), QString());
     QCOMPARE(cell(1, 1), QStringLiteral("*123#"));
@@ -87,15 +88,15 @@ void EditorTableTest::duplicateIsRefusedOnceAndReopenedHoweverTheCellIsLeft()
     QTest::keyClick(cellEditor(), Qt::Key_Return);
     drainEvents();
     QCOMPARE(cell(1, 0), QStringLiteral("Other"));
-    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing has been saved
+    QCOMPARE(savedProfiles().at(1).name, QStringLiteral("Menu")); // nothing was saved
 }
 
-/// Tests that the message opens only after the delegate and the view have handled the cell. The
-/// host must not be called before that.
+/// Tests that the message opens only after the delegate and the view have finished processing the
+/// cell. Until then, no code of the host may run.
 void EditorTableTest::messageOfADuplicateOpensOutsideTheDelegate()
 {
     openEditor();
-    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab); // a message in the delegate would hang here
+    typeAndLeave(1, 0, QStringLiteral("Balance"), Tab); // the message must not open here
     QCOMPARE(cell(1, 0), QStringLiteral("Balance"));
     QCOMPARE(m_messages, 0);
     answerNextMessage(QStringLiteral("IDS_OK"));
@@ -107,7 +108,7 @@ void EditorTableTest::messageOfADuplicateOpensOutsideTheDelegate()
 void EditorTableTest::nameThatIsTheCodeOfAnotherRowIsNoDuplicate()
 {
     openEditor();
-    type(4, 0, QStringLiteral("*100#")); // the test would hang here if a message opened
+    type(4, 0, QStringLiteral("*100#")); // a message box would block the test here
     type(4, 1, QStringLiteral("Menu"));
     QCOMPARE(cell(4, 0), QStringLiteral("*100#"));
     QCOMPARE(cell(4, 1), QStringLiteral("Menu"));
@@ -127,11 +128,11 @@ void EditorTableTest::textThatDiffersInCaseIsNoDuplicate()
     openEditor();
     const QString other = cell(0, column).toLower();
     QVERIFY(other != cell(0, column));
-    type(4, column, other); // the test would hang here if a message opened
+    type(4, column, other); // a message box would block the test here
     QCOMPARE(cell(4, column), other);
 }
 
-/// Tests keys that arrive together with the Tab that leaves the first cell.
+/// Tests a second duplicate that is typed before the message about the first one has opened.
 void EditorTableTest::duplicateTypedBeforeTheMessageOpenedIsRefusedToo()
 {
     openEditor();
@@ -158,7 +159,7 @@ void EditorTableTest::duplicateIsNotSpokenOfAfterCancel()
     openEditor();
     typeAndLeave(1, 0, QStringLiteral("Balance"), Tab);
     QTest::mouseClick(find<QPushButton>("USSDUIPlugin_ProfileDialog_CancelButton"), Qt::LeftButton);
-    drainEvents(); // the test would hang here if a message opened
+    drainEvents(); // a message box would block the test here
     QVERIFY(!table()->isVisible());
 }
 
@@ -186,9 +187,9 @@ void EditorTableTest::readOnlyProfileCannotBeEditedAndHasItsColour()
 void EditorTableTest::savingWithoutChangesAsksNothingAndWrites()
 {
     openEditor();
-    const QByteArray system = contentOf(systemFile()); // a file without line breaks
+    const QByteArray system = contentOf(systemFile()); // does not contain line breaks
     QVERIFY(!QFile::exists(userFile()));
-    QTest::mouseClick(saveButton(), Qt::LeftButton); // an open box would hang here
+    QTest::mouseClick(saveButton(), Qt::LeftButton); // a message box would block the test here
     QVERIFY(QFile::exists(userFile()));
     QVERIFY(contentOf(systemFile()) != system);
     QVERIFY(contentOf(systemFile()).contains("\n    <item>"));
@@ -207,7 +208,7 @@ void EditorTableTest::savingWithoutChangesKeepsProfilesWithoutNameOrCode()
     const QList<USSDProfile> before = savedProfiles();
     QCOMPARE(before.count(), 6);
     openEditor();
-    saveButton()->click(); // the test would hang here if a message box opened
+    saveButton()->click(); // a message box would block the test here
     QVERIFY(savedProfiles() == before);
 }
 
@@ -242,7 +243,7 @@ void EditorTableTest::longerTextSurvivesItsEditor()
     }
     QCOMPARE(cell(0, 0), QString(50, QLatin1Char('n')));
     QCOMPARE(cell(0, 1), QString::fromLatin1(longCode()));
-    saveButton()->click(); // the test would hang here if a message box opened
+    saveButton()->click(); // a message box would block the test here
     QCOMPARE(savedProfiles().at(0).value, QString::fromLatin1(longCode()));
 }
 
@@ -286,8 +287,8 @@ void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate_data()
     QTest::newRow("in the file with blanks") << QStringLiteral("*100#");
 }
 
-/// Tests that codes that differ only in leading or trailing blanks are duplicates. Codes are saved
-/// without these blanks, and only the first of two equal codes would be loaded again.
+/// Tests that codes that differ only in leading or trailing spaces are treated as duplicates. Codes
+/// are saved without these spaces, and only the first of two equal codes would be loaded again.
 void EditorTableTest::codeThatDiffersInBlanksOnlyIsADuplicate()
 {
     QFETCH(QString, typed);

@@ -1,6 +1,6 @@
 /*
- * Tests the shared library as a host uses it: only through its entry points and virtual tables. The
- * test does not include any header of the plug-in or of its interfaces.
+ * Tests the plug-in library as a host uses it: only through its entry points and virtual tables.
+ * The test does not include any headers of the plug-in or its interfaces.
  */
 #include "UssdTest.h"
 
@@ -26,7 +26,7 @@ protected:
     void tearDown() override;
 
 private:
-    /// Returns the plug-in object. Creates a new object if the previous one was deleted.
+    /// Returns the plug-in object. If the previous object has been deleted, creates a new one.
     QObject *instance();
     void *as(const char *name) { return instance()->qt_metacast(name); }
     void *plugin() { return as("IUIPlugin"); }
@@ -110,8 +110,8 @@ namespace
 const char VERIFICATION[] = "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\n"
                             "buildkey=" USSD_QT4_BUILD_KEY;
 
-/// Returns the build key that the loader of Qt 4 reads from the library file: it searches the file
-/// for the pattern and reads up to the end of the line or of the string.
+/// Returns the build key that Qt 4 would read from the library file. Qt 4 searches the file for the
+/// pattern, and reads to the end of the line or string.
 QByteArray keyThatQt4Reads()
 {
     QFile file(QString::fromLocal8Bit(USSD_PLUGIN_FILE));
@@ -128,7 +128,7 @@ QByteArray keyThatQt4Reads()
 
 } // namespace
 
-/// The text names the version of Qt after the build key that was configured.
+/// Tests that the verification data contains the configured build key, followed by the Qt version.
 void EntryTest::verificationTextHasTheBuildKey()
 {
     typedef const char *(*Query)();
@@ -139,8 +139,8 @@ void EntryTest::verificationTextHasTheBuildKey()
              QByteArray(VERIFICATION) + " qt" + QByteArray::number(QT_VERSION_MAJOR));
 }
 
-/// A Qt 4 host compares the complete key. A host that loaded this library would have two versions
-/// of Qt in one process and crash.
+/// Tests that the build key differs from that of Qt 4. If a Qt 4 host loaded this library, the
+/// process would contain two versions of Qt and crash.
 void EntryTest::noQt4HostTakesThisBuild()
 {
     const QByteArray key = keyThatQt4Reads();
@@ -148,7 +148,7 @@ void EntryTest::noQt4HostTakesThisBuild()
     QVERIFY(key != USSD_QT4_BUILD_KEY);
 }
 
-/// Checks the default value of the build option that determines the build key above.
+/// Tests the default value of the CMake variable for the build key.
 void EntryTest::shippedBuildKeyIsTheKnownOne()
 {
     QFile file(QStringLiteral(USSD_SOURCE_DIR "/CMakeLists.txt"));
@@ -215,7 +215,7 @@ void EntryTest::unknownInterfaceLeavesTheTargetAlone()
         QCOMPARE(callQueryInterface(plugin(), id, &target), false);
         QCOMPARE(target, untouched);
     }
-    // Unlike most log lines, these lines contain no time.
+    // These lines are logged without the time that most log lines contain.
     QCOMPARE(logLines().count(QStringLiteral(
                  "../../src/USSDUIPlugin/USSDUIPluginImpl.cpp: QueryInterface called")),
              others.count());
@@ -237,7 +237,7 @@ void EntryTest::changeLangRefusesAnEmptyLanguage()
     QCOMPARE(callChangeLang(plugin(), QString()), false);
     QCOMPARE(callChangeLang(plugin(), QStringLiteral("")), false);
     QCOMPARE(callChangeLang(plugin(), QStringLiteral("en")), true);
-    QVERIFY(fakeSdkCalls().empty()); // the calls have no other effect
+    QVERIFY(fakeSdkCalls().empty()); // the calls do not have any other effect
 }
 
 void EntryTest::changeLangLeavesTheWindowsAlone()

@@ -137,7 +137,7 @@ void GeneralPartsTest::fieldsOfferNoMenuWhereTheyMustNot()
     QCOMPARE(combo()->contextMenuPolicy(), Qt::NoContextMenu);
     QCOMPARE(paymentEdit()->minimumHeight(), 23);
     QCOMPARE(commandEdit()->minimumHeight(), 23);
-    QVERIFY(commandEdit()->maxLength() > 1000); // only the line edit of the combo box has a limit
+    QVERIFY(commandEdit()->maxLength() > 1000); // only the combo box limits the length
 }
 
 void GeneralPartsTest::marginsAreFixed()
@@ -201,7 +201,8 @@ void GeneralPartsTest::codesReadFromLeftToRightInArabic()
     QCOMPARE(dialog()->layoutDirection(), Qt::RightToLeft);
     QCOMPARE(commandEdit()->layoutDirection(), Qt::LeftToRight);
     QCOMPARE(paymentEdit()->layoutDirection(), Qt::LeftToRight);
-    // The left-to-right mark keeps a code in order after an Arabic caption.
+    // After an Arabic caption, the left-to-right mark ensures that a code is displayed in the
+    // correct order.
     QVERIFY(text("IDS_USSD_SEND").endsWith(QChar(0x200e)));
     QVERIFY(text("IDS_USSD_RECEIVED").endsWith(QChar(0x200e)));
 }
@@ -215,7 +216,7 @@ void GeneralPartsTest::keysThatReachTheDialogAreSwallowed()
         QTest::keyClick(dialog(), Qt::Key(key));
     QCOMPARE(outside.keys, 0);
     QTest::keyClick(&outside, Qt::Key_A);
-    QCOMPARE(outside.keys, 1); // proves that the widget counts keys
+    QCOMPARE(outside.keys, 1); // proves that key events are counted
     QVERIFY(requests().isEmpty());
     dialog()->setParent(page());
 }
@@ -239,8 +240,8 @@ void GeneralPartsTest::sendButtonSends()
     QCOMPARE(requests(), QStringList{latin1("*100#")});
 }
 
-/// Tests that Return in the combo box sends the text of the command edit, not that of the combo
-/// box.
+/// Tests that pressing Return in the combo box sends the text of the command field, and not the
+/// text of the combo box.
 void GeneralPartsTest::returnInTheComboSends()
 {
     open();
@@ -301,9 +302,9 @@ void GeneralPartsTest::comboTextShowsItsDescription()
     open();
     combo()->setEditText(latin1("*100#"));
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
-    combo()->setEditText(latin1("*100")); // not a known code, so the label does not change
+    combo()->setEditText(latin1("*100")); // an unknown code does not change the label
     QCOMPARE(descriptionLabel()->text(), text("IDS_BUTTON_SEND"));
-    combo()->setEditText(latin1("*102*%s#")); // a code without description
+    combo()->setEditText(latin1("*102*%s#")); // this code has no description
     QCOMPARE(descriptionLabel()->text(), QString());
 }
 
@@ -338,7 +339,7 @@ void GeneralPartsTest::typedCommandEnablesSend()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1(" "));
-    QVERIFY(sendButton()->isEnabled()); // any character enables the button
+    QVERIFY(sendButton()->isEnabled()); // any text enables the button
     QTest::keyClick(commandEdit(), Qt::Key_Backspace);
     QVERIFY(!sendButton()->isEnabled());
 }

@@ -48,7 +48,7 @@ void GeneralSendingTest::emptyCommandIsNotSent()
 {
     open();
     QTest::keyClicks(commandEdit(), latin1("x"));
-    commandEdit()->clear(); // no key was pressed, so Send stays enabled
+    commandEdit()->clear(); // does not disable Send, because no key was pressed
     QVERIFY(sendButton()->isEnabled());
     click(sendButton());
     QTest::keyClick(combo()->lineEdit(), Qt::Key_Return);
@@ -163,8 +163,8 @@ void GeneralSendingTest::refusedPresetIsAnsweredLocally()
     QVERIFY(presetButtons().first()->isEnabled());
 }
 
-/// Tests that the combo box is disabled by a preset button but not by Send. This difference is
-/// deliberate.
+/// Tests that pressing a preset button disables the combo box, but pressing Send does not. This
+/// difference is deliberate.
 void GeneralSendingTest::presetDisablesTheComboButSendDoesNot()
 {
     open();
@@ -204,7 +204,7 @@ void GeneralSendingTest::answerEndsTheWaiting()
     QCOMPARE(presets.count(), 4);
     QVERIFY(presets.at(0)->isEnabled());
     QVERIFY(presets.at(1)->isEnabled());
-    QVERIFY(!presets.at(2)->isEnabled()); // the payment edit is empty
+    QVERIFY(!presets.at(2)->isEnabled()); // disabled because the payment field is empty
     QVERIFY(!presets.at(3)->isEnabled());
     QCOMPARE(timesLogged("showPromptForWaitingResponse Enter bShow: 0"), 1);
 }
@@ -254,7 +254,7 @@ void GeneralSendingTest::answerOfAnotherComponentIsIgnored()
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(component, latin1("not mine"));
     QCOMPARE(shownLines().count(), 1);
     QVERIFY(isWaiting());
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged("OnResponseReceived Exit: USSDGeneralDlg no need to handle"), 2);
 }
 
@@ -268,7 +268,7 @@ void GeneralSendingTest::secondAnswerIsIgnored()
     clearLog();
     emit USSDLogic::GetUSSDLogicInstance()->responseReceived(5, latin1("second"));
     QCOMPARE(history()->toHtml(), shown);
-    QCOMPARE(commandEdit()->text(), latin1("*1")); // the typed text is kept
+    QCOMPARE(commandEdit()->text(), latin1("*1")); // the text in the field is not cleared
     QVERIFY(timesLogged("onResponseReceived Exit: USSDGeneralDlg no need to handle") > 0);
 }
 
@@ -291,13 +291,13 @@ void GeneralSendingTest::answersOfManyCommandsStandInOrder()
         expected << sentLine(code) << receivedLine(latin1("reply %1").arg(i));
     }
     QStringList shown = shownLines();
-    shown.removeAll(QString()); // each reply ends with a line break
+    shown.removeAll(QString()); // every reply ends with a line break
     QCOMPARE(shown, expected);
     QCOMPARE(requests().count(), 30);
 }
 
-/// Tests an answer that arrives late. An answer does not identify the command that it belongs to,
-/// so it is shown as the answer to the current command.
+/// Tests a late answer. Answers do not contain the command to which they belong, so a late answer
+/// is shown as the answer to the current command.
 void GeneralSendingTest::lateAnswerAfterTheNextCommandIsTakenForIts()
 {
     open(WINDOW_MODEL_MODAL);
@@ -338,7 +338,7 @@ void GeneralSendingTest::keysTypedAfterAnAnswerReachTheCommandEdit()
     QTest::keyClicks(QApplication::focusWidget(), latin1("1"));
     QCOMPARE(commandEdit()->text(), latin1("1"));
     QVERIFY(sendButton()->isEnabled());
-    QVERIFY(combo()->hasFocus()); // the combo box is the focus proxy of the visible field
+    QVERIFY(combo()->hasFocus()); // the focus proxy of the visible field
 }
 
 void GeneralSendingTest::keysTypedAfterALocalFailureReachTheCommandEdit()

@@ -157,7 +157,7 @@ void GeneralTranscriptTest::clearButtonNeedsSomethingToClear()
     QVERIFY(!clearButton()->isEnabled());
     networkSays(latin1("12"));
     QVERIFY(clearButton()->isEnabled());
-    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the earlier text has been cleared
+    QCOMPARE(shownLines().first(), receivedLine(latin1("12"))); // the transcript was cleared
 }
 
 void GeneralTranscriptTest::withoutQuestionItClearsAtOnce()
@@ -240,7 +240,8 @@ void GeneralTranscriptTest::dialogDeletedWhileItAsksCostsNothing()
         asked = QApplication::activeModalWidget() != nullptr;
         delete asking;
     });
-    // The slot is called directly because a click would use the deleted button afterwards.
+    // The slot is called directly, because click() would access the button after it has been
+    // deleted.
     QVERIFY(QMetaObject::invokeMethod(dialog(), "clearHistory"));
     QVERIFY(asked);
     QVERIFY(!asking);
@@ -292,7 +293,7 @@ void GeneralTranscriptTest::pasted25DigitsAreCutTo20()
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
     QVERIFY(presetButtons().last()->isEnabled());
     QTest::keyClick(paymentEdit(), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(paymentEdit(), latin1("x")); // the selected text would be replaced
+    QTest::keyClicks(paymentEdit(), latin1("x")); // an accepted key would replace the selection
     QCOMPARE(paymentEdit()->text(), latin1("12345678901234567890"));
 }
 
@@ -325,8 +326,8 @@ void GeneralTranscriptTest::onlyAsciiDigitsAreAllowed()
     QCOMPARE(paymentEdit()->text(), latin1("0123456789"));
 }
 
-/// Tests that an old number does not reappear. A number that has been used for a payment must not
-/// be sent again by accident.
+/// Tests that a rejected key does not restore a number that was used in an earlier payment.
+/// Otherwise, the user might pay for this number again by accident.
 void GeneralTranscriptTest::refusedKeyAfterAnAnswerBringsNoOldNumberBack()
 {
     open();
@@ -382,7 +383,7 @@ void GeneralTranscriptTest::transcriptKeepsItsLanguage()
     dialog()->SetLanguage();
     QCOMPARE(history()->toHtml(), shown);
     send(latin1("*101#"));
-    QCOMPARE(shownLines().last(), sentLine(latin1("*101#"))); // the caption is German now
+    QCOMPARE(shownLines().last(), sentLine(latin1("*101#"))); // the caption is now German
     QVERIFY(!shownLines().first().startsWith(text("IDS_USSD_SEND")));
 }
 
@@ -436,7 +437,7 @@ void GeneralTranscriptTest::reopenedModalDialogSendsAtOnceAndDropsTheLateAnswer(
     open(WINDOW_MODEL_MODAL);
     send(latin1("*100#"));
     dialog()->OnClickedCloseButton();
-    open(WINDOW_MODEL_MODAL); // the outer window opens the dialog in this way
+    open(WINDOW_MODEL_MODAL); // as the frame does when it is reopened
     QVERIFY(isIdle());
     networkSays(latin1("late"));
     QVERIFY(shownLines().isEmpty());
@@ -453,7 +454,7 @@ void GeneralTranscriptTest::modalDialogShownAgainHasAnEmptyTranscript()
     dialog()->ReInitDialog();
     QVERIFY(shownLines().isEmpty());
     QCOMPARE(history()->entries(), QString());
-    QVERIFY(clearButton()->isEnabled()); // the button keeps its state
+    QVERIFY(clearButton()->isEnabled()); // the button is still enabled
     send(latin1("*101#"));
     QCOMPARE(shownLines(), QStringList{sentLine(latin1("*101#"))});
 }

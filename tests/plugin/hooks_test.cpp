@@ -7,7 +7,7 @@
 #include "HostState.h"
 #include "requests/USSDLogic.h"
 
-/** Tests how the plug-in handles device events and short messages. */
+/** Tests how the plug-in handles device events and events about short messages. */
 class HooksTest : public PluginTest
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void HooksTest::deviceEventLeavesTheTimerRunning()
     QElapsedTimer elapsed;
     elapsed.start();
     m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
-    QVERIFY(elapsed.elapsed() >= 24); // the command waited for the earlier time-out
+    QVERIFY(elapsed.elapsed() >= 24); // waited for the earlier time-out
 }
 
 // ---- readiness -----------------------------------------------------------------------------
@@ -182,8 +182,8 @@ void HooksTest::statusWithoutDataChangesNothing()
     QVERIFY(m_listener->readiness.isEmpty());
 }
 
-/// Tests that readiness reported during construction is not lost. The device reports it once, soon
-/// after the registration, while the singleton is still being constructed.
+/// Tests that a readiness event is not lost. The device raises this event only once, soon after the
+/// call-back has been registered, when the singleton may still be under construction.
 void HooksTest::readinessToldDuringConstructionIsNotLost()
 {
     for (int i = 0; i < 20; ++i) {

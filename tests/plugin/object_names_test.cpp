@@ -1,6 +1,6 @@
 /*
- * Compares the table of object names for style sheets in docs/host-integration.md with the loaded
- * plug-in and its shipped data.
+ * Compares the table of object names in docs/host-integration.md with the widgets of the loaded
+ * plug-in and its shipped data files.
  */
 #include "UssdTest.h"
 
@@ -25,8 +25,8 @@ const char TABLE_BEGIN[] = "<!-- object names: begin -->\n";
 const char TABLE_END[] = "<!-- object names: end -->\n";
 const int USSD_SERVICE = 4097;
 
-/// A row of the table. The windows are those that contain a child with this name, in the order in
-/// which they are opened.
+/// A row of the table. `windows` lists the windows that contain a widget with this name, in the
+/// order in which the test opens them.
 struct Row {
     QStringList windows;
     QString name;
@@ -42,8 +42,7 @@ QString qtClassOf(const QObject *object)
     return QString::fromLatin1(meta->className());
 }
 
-/// Returns true if the plug-in has set the object name. Qt also names the inner parts of its own
-/// widgets.
+/// Returns true if the plug-in itself has named the object. Qt also names internal widgets.
 bool isOurs(const QObject *object)
 {
     const bool visual = object->isWidgetType() || qobject_cast<const QLayout *>(object);
@@ -171,7 +170,7 @@ void ObjectNamesTest::collectEditor()
         collect(QStringLiteral("profile editor"), editor);
         editor->close();
     });
-    button->click(); // this call returns when the editor is closed
+    button->click(); // returns after the editor has closed
     QVERIFY(isOpen);
 }
 
@@ -206,7 +205,7 @@ void ObjectNamesTest::documentListsEveryObjectName()
     collectFrame(QStringLiteral("postpaid"), PAID_TYPE_POSTPAID);
     collectFrame(QStringLiteral("USSD-SMS"), PAID_TYPE_USSD_SMS);
     collectEditor();
-    QVERIFY(m_rows.count() > 30); // proves that every window was examined
+    QVERIFY(m_rows.count() > 30); // proves that all windows were examined
     if (table() != documentedTable())
         std::fprintf(stderr, "The table ought to be:\n\n%s\n", qPrintable(table()));
     QVERIFY2(table() == documentedTable(),

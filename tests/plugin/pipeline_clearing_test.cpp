@@ -1,7 +1,7 @@
 #include "PipelineTest.h"
 
 /**
- * Tests how the pipeline is cleared, and how it handles device events, threads and its destruction.
+ * Tests how the pipeline is cleared and destroyed, and how it handles device events and threads.
  */
 class PipelineClearingTest : public PipelineTest
 {
@@ -71,7 +71,7 @@ void PipelineClearingTest::clearUssdSmsLeavesTheOthers()
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
     QVERIFY(fakeSdkWaitIdle());
-    QCOMPARE(fakeSdkCommands().size(), size_t(1)); // the queue is empty now
+    QCOMPARE(fakeSdkCommands().size(), size_t(1)); // the queue is empty
 }
 
 void PipelineClearingTest::replyForAClearedCommandAnswersTheHead()
@@ -83,7 +83,8 @@ void PipelineClearingTest::replyForAClearedCommandAnswersTheHead()
     QCOMPARE(nextAnswer(), answer(4, QStringLiteral("for one")));
 }
 
-/// Tests that the time-out of a cleared command keeps running, so that the next command is sent.
+/// Tests that clearing the queue does not cancel the time-out of a command in flight. The time-out
+/// is needed to answer the next command.
 void PipelineClearingTest::clearWhileARequestIsUnderWayKeepsTheTimeOut()
 {
     stopClock();
@@ -113,7 +114,7 @@ void PipelineClearingTest::commandClearedWhileItWaitedIsNotSent()
     int status[3] = {0, 0, 0};
     std::vector<std::thread> senders;
     const char *const commands[] = {"*1#", "*2#", "*3#"};
-    for (int i = 0; i < 3; ++i) { // the device blocks the first sender, and the others wait for it
+    for (int i = 0; i < 3; ++i) { // the first sender blocks, and the others wait for it
         senders.emplace_back([this, i, &status, &commands] {
             m_logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QLatin1String(commands[i])),
                                      &status[i]);
@@ -131,8 +132,8 @@ void PipelineClearingTest::commandClearedWhileItWaitedIsNotSent()
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("three")));
 }
 
-/// Tests that the call-back removes only the command that it has announced, even if the queue has a
-/// new head by then.
+/// Tests that the call-back removes only the command that it has answered, even if the queue has
+/// been cleared and has a new head.
 void PipelineClearingTest::clearBeforeTheHeadIsRemovedLeavesTheNewHead()
 {
     setTimes(NO_PATIENCE, 1);
@@ -160,7 +161,7 @@ void PipelineClearingTest::oneRequestAtATimeIsUnderWay()
     fakeSdkScript({fakeSilence(), blocked, fakeSilence()});
     send(5, QStringLiteral("*1#"));
     send(5, QStringLiteral("*2#"));
-    fakeSdkRespond(u"one"); // the SDK's thread sends *2#, and this call blocks
+    fakeSdkRespond(u"one"); // the SDK's thread sends *2# and blocks in this call
     QVERIFY(fakeSdkWaitForRequests(2));
     USSDLogic::ClearQueuedCmds();
     std::atomic<ThreadWatch::ThreadId> otherId(0);
@@ -198,7 +199,7 @@ void PipelineClearingTest::destroyEndsTheWaitForTheEarlierTimeOut()
     connect(m_logic, SIGNAL(responseReceived(int, QString)), &interloper,
             SLOT(clearAndSendTwice(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
-    // The call-back sends twice; the second time, it waits for the first time-out.
+    // The call-back sends two commands. The second one waits for the time-out of the first one.
     fakeSdkRespond(u"one");
     QVERIFY(fakeSdkWaitForRequests(3));
     QElapsedTimer elapsed;
@@ -255,7 +256,7 @@ void PipelineClearingTest::constructionLogsEachRegistration()
                      QStringLiteral(": Calling TKSV_SMSSrv_RegCallBack ()"),
                      QStringLiteral(": TKSV_SMSSrv_RegCallBack () returned 0"),
                      QStringLiteral(" Exit")}));
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     const QString before = QStringLiteral(" before calling TKSV_USSDSrv_RegisterUSSDCallback()");
     QCOMPARE(
         linesOf("registerUSSDCallback"),
@@ -347,8 +348,8 @@ void PipelineClearingTest::headLeavesTheListAfterItsAnnouncement_data()
     QTest::newRow("time-out") << true;
 }
 
-/// Tests that the head stays in the queue during its announcement. A receiver that sends at once
-/// must find its own command queued after the announced one.
+/// Tests that the head stays in the queue while its answer is being announced. A command that a
+/// receiver sends during the announcement must be queued behind the head.
 void PipelineClearingTest::headLeavesTheListAfterItsAnnouncement()
 {
     QFETCH(bool, byTimeOut);
@@ -373,7 +374,8 @@ void PipelineClearingTest::receiverMaySendFromTheSdkThread()
             SLOT(sendMore(int, QString)), Qt::DirectConnection);
     send(5, QStringLiteral("*1#"));
     fakeSdkRespond(u"one");
-    // This would fail if a lock were held during the emission of the signal.
+    // Sending from the receiver would cause a deadlock if the signal were emitted with a locked
+    // mutex.
     QVERIFY(fakeSdkWaitForRequests(2));
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
     disconnect(m_logic, nullptr, &interloper, nullptr);
@@ -390,7 +392,8 @@ void PipelineClearingTest::timeOutReceiverMayShutDown()
     QTRY_VERIFY(!logic);
 }
 
-/// Tests that the gate admits only callers that wait for it, and only when the object is ready.
+/// Tests that a call-back that waits enters the gate when it is opened, and that a call-back that
+/// does not wait is rejected while the gate is being opened.
 void PipelineClearingTest::gateLetsOnlyThePatientIn()
 {
     CallbackGate gate;
@@ -457,9 +460,9 @@ void PipelineClearingTest::newSingletonStartsWithAnEmptyList()
     QVERIFY(fakeSdkCommands().back() == u"*3#");
 }
 
-/// Tests a late reply that arrives while the next command waits for another thread that is still in
-/// the request of a cleared command. The reply must not be taken for the reply to the next command,
-/// which the device has not received.
+/// Tests a late reply that arrives before the next command has been sent. The next command is
+/// waiting for a thread that is still sending a cleared command. The reply must not be used as the
+/// answer to the next command.
 void PipelineClearingTest::lateReplyDoesNotAnswerACommandBeforeItIsSent()
 {
     setTimes(NO_PATIENCE, 1);
@@ -488,7 +491,7 @@ void PipelineClearingTest::lateReplyDoesNotAnswerACommandBeforeItIsSent()
     QVERIFY(answers().isEmpty());
 }
 
-/// Makes replies, late replies and time-outs coincide at random. Each command must be answered
+/// Tests random coincidences of replies, late replies and time-outs. Each command must be answered
 /// exactly once.
 void PipelineClearingTest::everyCommandIsAnsweredOnce()
 {

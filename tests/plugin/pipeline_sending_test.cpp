@@ -65,7 +65,7 @@ void PipelineSendingTest::commandOf92UnitsIsRefusedAndRemoved()
     QCOMPARE(send(5, units(92)), 1);
     QVERIFY(fakeSdkCommands().empty());
     QCOMPARE(timesLogged("USSDCommand is too large"), 1);
-    // The command is the only one in the queue, so it is sent at once.
+    // No other command is queued, so this command is sent immediately.
     QCOMPARE(send(5, QStringLiteral("*1#")), 0);
     QCOMPARE(fakeSdkCommands().size(), size_t(1));
 }
@@ -152,11 +152,11 @@ void PipelineSendingTest::refusedCommandIsSilentAndTheNextOneWaits()
     fakeSdkRespond(u"one");
     QVERIFY(fakeSdkWaitIdle());
     QCOMPARE(nextAnswer(), answer(5, QStringLiteral("one")));
-    QVERIFY(answers().isEmpty()); // there is no answer to *2#
+    QVERIFY(answers().isEmpty()); // *2# does not receive an answer
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
-    QCOMPARE(send(6, QStringLiteral("*4#")), 0); // waits for *3#
+    QCOMPARE(send(6, QStringLiteral("*4#")), 0); // queued behind *3#
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
-    fakeSdkRespond(u"stale"); // answers the head, so the next command is sent
+    fakeSdkRespond(u"stale"); // answers *3#, and *4# is sent
     QVERIFY(fakeSdkWaitForRequests(3));
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("stale")));
     QVERIFY(fakeSdkCommands().at(2) == u"*4#");
@@ -209,7 +209,7 @@ void PipelineSendingTest::commandSentBySdkThreadTimesOutToo()
 {
     send(3, QStringLiteral("*1#"));
     send(0, QStringLiteral("*2#"));
-    setTimes(5, NO_PATIENCE); // applies to the second command
+    setTimes(5, NO_PATIENCE); // for the second command only
     fakeSdkRespond(u"one");
     QCOMPARE(nextAnswer(), answer(3, QStringLiteral("one")));
     QCOMPARE(nextAnswer(), answer(0, timeOutText()));
@@ -265,7 +265,7 @@ void PipelineSendingTest::sendWaitsForTheEarlierTimeOut()
     elapsed.start();
     QCOMPARE(send(5, QStringLiteral("*2#")), 0);
     QVERIFY(elapsed.elapsed() >= wait - 1);
-    // The device received the command before the wait started.
+    // The command is sent before the wait starts.
     QCOMPARE(fakeSdkCommands().size(), size_t(2));
 }
 
@@ -293,7 +293,7 @@ void PipelineSendingTest::nullDataLeavesListAndTimer()
     fakeSdkRespondNull();
     QVERIFY(fakeSdkWaitForDeliveries(FakeService::Ussd, 1));
     QCOMPARE(int(fakeSdkDeliveries(FakeService::Ussd).at(0).result), 0);
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged("Fail Exit: Response data is NULL"), 2);
     USSDLogic::ClearQueuedCmds();
     QVERIFY(sendWaitsItsTime()); // the timer is still running

@@ -23,8 +23,7 @@ QByteArray chargeIntoBox()
                       "<LimitText>0-9</LimitText></item>");
 }
 
-/// Returns a top-up whose code exceeds the maximum length by one character when the PIN is
-/// inserted.
+/// Returns a top-up whose code is one character too long after the PIN has been inserted.
 QByteArray tooLongCharge()
 {
     return chargeIntoBox().replace("*101*", "*101*" + QByteArray(74, '1'));
@@ -33,7 +32,7 @@ QByteArray tooLongCharge()
 } // namespace
 
 /**
- * Tests the message box that shows the reply to a top-up, and events that occur while it is open.
+ * Tests the message box with the reply to a top-up, and events that occur while the box is open.
  */
 class PrepaidBoxTest : public PrepaidTest
 {
@@ -46,22 +45,22 @@ protected:
 private:
     enum HostAct { IMSI_EVENT, ON_DESTROY, DELETION_OF_ITS_WINDOW };
 
-    /// Opens the window and waits until no command is pending.
+    /// Opens the window and waits until there is no pending command.
     void openReady(const QByteArray &charge = chargeIntoBox());
-    void letATopUpTimeOutBeforeAnotherCommand(); ///< sends *9# as the other command
+    void letATopUpTimeOutBeforeAnotherCommand(); ///< the other command is *9#
     void openBox(const QString &reply = QStringLiteral("10 EUR added"));
     void act(int hostAct);
 
     QScopedPointer<QWidget> m_mainWindow;
 
 private slots:
-    // the box
+    // ---- box
     void boxIsTheDialogsOwn();
     void boxShowsThePlainReply();
     void boxFollowsTheLanguage();
     void replyStandsInTheStatusBoxTooWhichNeverSaidToWait();
 
-    // order
+    // ---- order
     void controlsAndBalanceWaitForTheBox();
     void replyInABurstHasABoxOfItsOwn();
     void boxOpensAfterTheAnnouncement();
@@ -69,7 +68,7 @@ private slots:
     void lateReplyIsDeliveredWhileTheBoxIsOpen();
     void focusComesBackToTheEntry();
 
-    // hosts
+    // ---- hosts
     void refusedReturnOpensTheBoxAfterTheKey();
     void hostActsWhileTheBoxIsOpen_data();
     void hostActsWhileTheBoxIsOpen();
@@ -77,7 +76,7 @@ private slots:
     void hostActsBeforeTheBoxOpens();
     void closingTheDialogTakesTheBoxAlong();
 
-    // held keys
+    // ---- held keys
     void heldReturnLeavesTheBoxOpen();
     void heldReturnAfterTheBoxSendsNothing();
 };
@@ -133,7 +132,7 @@ void PrepaidBoxTest::boxIsTheDialogsOwn()
 {
     openReady();
     openBox();
-    // The box does not belong to the host, whose message boxes have their own class.
+    // The box is not the host's own message box, which has a different class.
     QCOMPARE(messageBox()->metaObject()->className(), "QMessageBox");
     QCOMPARE(messageBox()->parentWidget(), static_cast<QWidget *>(dialog()));
     QCOMPARE(messageBox()->windowModality(), Qt::ApplicationModal);
@@ -190,8 +189,7 @@ void PrepaidBoxTest::controlsAndBalanceWaitForTheBox()
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_WAITTING"));
 }
 
-/// Tests two replies in quick succession, because an operator may confirm a top-up with two
-/// replies.
+/// Tests two replies in quick succession. An operator may confirm a top-up with two messages.
 void PrepaidBoxTest::replyInABurstHasABoxOfItsOwn()
 {
     openReady();
@@ -282,8 +280,8 @@ void PrepaidBoxTest::hostActsWhileTheBoxIsOpen_data()
     QTest::newRow("deletes its window") << int(DELETION_OF_ITS_WINDOW);
 }
 
-/// Tests a host that acts while the box is open. Return in the entry field opens the box, and the
-/// host acts in a separate event.
+/// Tests a host that closes or deletes the window while the box is open. Pressing Return in the
+/// entry field opens the box; the host reacts in a timer event.
 void PrepaidBoxTest::hostActsWhileTheBoxIsOpen()
 {
     QFETCH(int, hostAct);
@@ -334,7 +332,7 @@ void PrepaidBoxTest::closingTheDialogTakesTheBoxAlong()
     logicSays(COMPONENT_CHARGE, QStringLiteral("second"));
     drainEvents();
     QVERIFY(messageBox());
-    dialog()->OnClickedCloseButton(); // this call does not delete the dialog in this test
+    dialog()->OnClickedCloseButton(); // does not delete the dialog in this test
     drainEvents();
     QVERIFY(dialog());
     QVERIFY(!messageBox());

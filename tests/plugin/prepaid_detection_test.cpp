@@ -16,7 +16,10 @@ const char *const PLUGIN = "5B21E0C4-7D93-4A6F-9E08-C3F1A7D24B61";
 const char *const ADDRESSEES[] = {"8E4C1F07-3B6A-4d29-A5C1-6F0B92E7D3C8",
                                   "27A9D5E3-C41B-4be6-9F72-0D5E8A63C1F4"};
 
-/** The notification service of a host, which copies the record during the call. */
+/**
+ * The notification service of a host. It copies the record, because the record is valid only during
+ * the call.
+ */
 class Notifications : public QObject, public INotifyService
 {
     Q_OBJECT
@@ -65,7 +68,7 @@ const char DIGIT[] = "\"\\d\"";
 
 } // namespace
 
-/** Tests how the plug-in detects prepaid SIM cards and notifies the host. */
+/** Tests how the plug-in detects whether a SIM card is prepaid, and how it notifies the host. */
 class PrepaidDetectionTest : public PrepaidTest
 {
     Q_OBJECT
@@ -80,7 +83,7 @@ private:
 
     std::unique_ptr<Notifications> m_notifications;
     std::unique_ptr<Container> m_container;
-    PrePostRecord m_given; // refers to the caller's three variables
+    PrePostRecord m_given; // refers to three variables of the caller
 
 private slots:
     void replyWithADigitMeansPrepaid();
@@ -217,7 +220,8 @@ void PrepaidDetectionTest::timeOutIsToldWithoutAVerdict()
     ask();
     QTRY_COMPARE(m_notifications->calls.count(), 2);
     QCOMPARE(lastRecord().result, 0);
-    QVERIFY(!lastRecord().bPostPaid); // although the time-out message contains no digit
+    // A time-out does not mean "postpaid", although the time-out message contains no digit.
+    QVERIFY(!lastRecord().bPostPaid);
     QCOMPARE(timesLogged("bPostPaid="), 0);
 }
 
@@ -243,8 +247,8 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking_data()
     QTest::newRow("opened, then asked") << false;
 }
 
-/// Tests the notifications of two windows. Only the prepaid window sends the detection request, but
-/// the postpaid window receives the answer too.
+/// Tests the notifications for two windows. Only one window has sent the detection request, but
+/// both receive the answer.
 void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
 {
     QFETCH(bool, prepaidFirst);
@@ -253,7 +257,7 @@ void PrepaidDetectionTest::eachWindowTellsTheHostInTheOrderOfTheirMaking()
         service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, false);
     openByService(PAID_TYPE_POSTPAID);
     service->GetPrePostInfo(m_given.bInUse, m_given.bPostPaid, m_given.result, true);
-    for (int answers = 3; answers > 0; --answers) // the balance and the number are answered first
+    for (int answers = 3; answers > 0; --answers) // answers the balance and number requests first
         networkSays(QStringLiteral("Contract account"));
     QCOMPARE(m_notifications->calls.count(), 4);
     for (int i = 0; i < 4; ++i) {
@@ -336,7 +340,8 @@ void PrepaidDetectionTest::openingTheWindowKeepsTheQuestion()
 {
     fakeSdkSetAnswer(fakeReply(u"balance"));
     FakeAnswer late = fakeReplyAfter(std::chrono::milliseconds(50), u"Contract");
-    late.stubborn = true; // sent although opening the window releases the session
+    // The late reply is sent even though opening the window releases the session.
+    late.stubborn = true;
     fakeSdkScript({late});
     ask();
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
@@ -353,7 +358,7 @@ void PrepaidDetectionTest::withoutAContainerItIsLogged()
     expectWarning(": sendNotify: Plugin container is null ");
     ask();
     networkSays(digitPatternReply());
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged(": sendNotify: Plugin container is null "), 2);
 }
 

@@ -39,7 +39,7 @@ QString nameOf(const QWidget *widget)
     return widget->objectName().mid(int(strlen("USSDUIPlugin_")));
 }
 
-/// Returns the width of the text that has to fit in the widget.
+/// Returns the width of the text that the widget must be able to show.
 int textWidth(const QWidget *widget)
 {
     QString text;
@@ -60,7 +60,7 @@ QByteArray describe(const QWidget *widget)
 
 } // namespace
 
-/** Tests the layout of the account window in every language and both directions. */
+/** Tests the layout of the account window in all languages and both text directions. */
 class PrepaidLayoutTest : public PrepaidTest
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ QStringList PrepaidLayoutTest::visibleRoles()
 void PrepaidLayoutTest::nothingIsCutOff_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("missing"); // the component that is not shown, or -1
+    QTest::addColumn<int>("missing"); // the component to be hidden, or -1
     for (const QString &language : languages()) {
         for (int missing = -1; missing < 4; ++missing)
             QTest::newRow(qPrintable(QStringLiteral("%1, without %2").arg(language).arg(missing)))
@@ -300,7 +300,7 @@ void PrepaidLayoutTest::componentsStandInOrderOfPos()
 
 void PrepaidLayoutTest::separatorsStandBetweenComponents_data()
 {
-    QTest::addColumn<QList<int>>("order"); // the order of the four components; -1 omits a component
+    QTest::addColumn<QList<int>>("order"); // of the four components; -1 hides a component
     QTest::newRow("as usual") << (QList<int>() << 0 << 1 << 2 << 3);
     QTest::newRow("number first") << (QList<int>() << 1 << 2 << 3 << 0);
     QTest::newRow("number second") << (QList<int>() << 0 << 2 << 3 << 1);
@@ -349,7 +349,7 @@ void PrepaidLayoutTest::gridHasItsMeasures()
     const int rows = 2 + 1 + 3 + 1 + 1 + 1 + 1; // including three separators
     for (int row = 0; row < rows; ++row)
         QCOMPARE(grid()->rowMinimumHeight(row), 20);
-    QCOMPARE(grid()->rowCount(), rows + 1); // plus one for the close button
+    QCOMPARE(grid()->rowCount(), rows + 1); // plus a row for the Close button
     QCOMPARE(dialog()->GetSize(), grid()->sizeHint());
     QVERIFY(dialog()->findChild<QLayout *>(QStringLiteral("USSDUIPlugin_CloseBtn_Layout")));
 }
@@ -437,8 +437,8 @@ void PrepaidLayoutTest::longLinkIsCutAndTold()
     QVERIFY(link()->text().startsWith(QLatin1String("<a href=\"") + QString::fromLatin1(url)));
 }
 
-/// Tests an address that just fits and is shown completely. Qt elides an address that is one letter
-/// longer to 300 pixels.
+/// Tests an address that just fits, and one that is a single character too long and is therefore
+/// elided to 300 pixels.
 void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
 {
     const QFontMetrics metrics(QApplication::font());
@@ -450,7 +450,7 @@ void PrepaidLayoutTest::linkIsCutAt300PixelsOfTheApplicationsFont()
         Account account;
         account.online = onlineItem(2, url.toLatin1());
         configure(account);
-        USSDLogic::Destroy(); // the next logic object reads the configuration again
+        USSDLogic::Destroy(); // makes make() read the configuration again
         make();
         const QString shown = metrics.elidedText(url, Qt::ElideRight, 300);
         QCOMPARE(shown == url, url == fits);
@@ -501,7 +501,7 @@ QStringList PrepaidLayoutTest::tabOrder()
         roles << nameOf(frame()->focusWidget());
         QTest::keyClick(frame()->focusWidget(), Qt::Key_Tab);
     } while (frame()->focusWidget() != first && roles.count() < 20);
-    roles.removeDuplicates(); // the link and its label both receive the focus
+    roles.removeDuplicates(); // both the link and its label can have the focus
     return roles;
 }
 

@@ -1,6 +1,6 @@
 #include "PrepaidDialogTest.h"
 
-/** Tests the entry field of the account dialog and how the dialog opens. */
+/** Tests the entry field of the account window, and how the window opens. */
 class PrepaidOpeningTest : public PrepaidDialogTest
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ void PrepaidOpeningTest::onlyTheUsersOwnEditsChangeActivation()
 {
     configure(Account());
     open();
-    chargeEdit()->setText(pin()); // a host's on-screen keyboard could make this call
+    chargeEdit()->setText(pin()); // as an on-screen keyboard of the host might do
     QVERIFY(!activateButton()->isEnabled());
     QTest::keyClick(chargeEdit(), Qt::Key_Backspace);
     type(QStringLiteral("2"));
@@ -92,7 +92,7 @@ void PrepaidOpeningTest::noMoreThanLengthCanBeTyped()
     open();
     type(pin());
     QCOMPARE(chargeEdit()->text(), pin().left(8));
-    QCOMPARE(chargeEdit()->maxLength(), 8); // a longer PIN is truncated when it is pasted
+    QCOMPARE(chargeEdit()->maxLength(), 8); // when a longer PIN is pasted, it is truncated
 }
 
 void PrepaidOpeningTest::onlyTheLimitTextCanBeTyped()
@@ -180,7 +180,7 @@ void PrepaidOpeningTest::openingReleasesAndClearsBeforeItSends()
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*1#")), &status);
     logic->SendUSSDCommand(USSDCmdOrResp(COMPONENT_GENERAL, QStringLiteral("*2#")), &status);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    // No command is pending, so the balance is requested at once.
+    // The balance is requested immediately, because no other command is pending.
     QCOMPARE(ussdCalls(), QStringList() << QStringLiteral("Request") << QStringLiteral("Release")
                                         << QStringLiteral("Request"));
     QCOMPARE(requests(), QStringList() << QStringLiteral("*1#") << QStringLiteral("*100#"));
@@ -210,14 +210,15 @@ void PrepaidOpeningTest::openingAsksOnlyForWhatIsShown()
     QTEST(requests(), "sent");
 }
 
-/// Tests a command that is truncated by an error in the file. It is read as an empty command.
+/// Tests an empty command. The parser also returns an empty command if an error in the file has cut
+/// off the command.
 void PrepaidOpeningTest::emptyCommandIsNotSent()
 {
     Account account;
     account.balance.replace("<command>*100#</command>", "<command></command>");
     configure(account);
     open();
-    // The window is busy because it requests the subscriber's own number.
+    // Only the subscriber's own number is requested.
     QCOMPARE(requests(), QStringList{QStringLiteral("*102#")});
     click(balanceButton());
     QCOMPARE(requests().count(), 1);
@@ -345,7 +346,7 @@ void PrepaidOpeningTest::openingAgainDoesNotEndIt()
     open();
     refuseAll(1);
     dialog()->MyDoModal(PAID_TYPE_PREPAID);
-    // The box showed the waiting text before.
+    // The waiting text has been replaced, because the request was refused.
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
     QVERIFY(balanceButton()->isEnabled());
 }

@@ -22,7 +22,7 @@ TopUpInputLimits rules(int length, int minlenth, const char *limitText = "0-9")
 
 } // namespace
 
-/** Tests the decisions of the account window, without the window itself. */
+/** Tests the rules of the account window without the window. */
 class PrepaidRulesTest : public UssdTest
 {
     Q_OBJECT
@@ -110,7 +110,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable_data()
     QTest::newRow("negative length") << QByteArray("0-9") << -1 << false;
     QTest::newRow("empty") << QByteArray() << 16 << false;
     QTest::newRow("half an escape") << QByteArray("0-9\\") << 16 << false;
-    // A valid expression that consists of more than one character class.
+    // A valid regular expression, but not a single character class.
     QTest::newRow("two classes") << QByteArray("0-9]|[a-z") << 16 << false;
     QTest::newRow("back reference") << QByteArray("a](b*)*\\1[c") << 16 << false;
     QTest::newRow("very long") << QByteArray(1001, '7') << 16 << false;
@@ -123,7 +123,7 @@ void PrepaidRulesTest::onlyACountedClassIsUsable()
     QTEST(isChargeExpressionUsable(rules(length, 0, limitText.constData())), "usable");
 }
 
-/// Tests a limit text that would expand to a billion letters.
+/// Tests a limit text that would expand to a billion characters.
 void PrepaidRulesTest::hostileLimitTextIsRefusedAtOnce()
 {
     QVERIFY(!isChargeExpressionUsable(rules(16, 12, "a]|((a{1000}){1000}){1000}|[b")));

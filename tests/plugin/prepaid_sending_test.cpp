@@ -1,6 +1,6 @@
 #include "PrepaidDialogTest.h"
 
-/** Tests how the account dialog sends commands and handles answers. */
+/** Tests how the account window sends commands and handles answers. */
 class PrepaidSendingTest : public PrepaidDialogTest
 {
     Q_OBJECT
@@ -95,7 +95,8 @@ void PrepaidSendingTest::answerEnablesThemAgain()
     QFETCH(int, component);
     Account account;
     if (component == COMPONENT_CHARGE)
-        account.balance.clear(); // otherwise the balance would be requested next
+        // Prevents the balance request that would follow.
+        account.balance.clear();
     configure(account);
     make();
     sendFrom(component);
@@ -111,7 +112,7 @@ void PrepaidSendingTest::refusalShowsNothingWhenNotBusy()
     refuseAll(5);
     configure(Account());
     open();
-    // The box keeps its initial text. A time-out would change it.
+    // The box still shows its initial text, because no time-out has occurred.
     QCOMPARE(balanceBox()->toPlainText(), text("USSD_CODE_FAILED"));
     QVERIFY(balanceButton()->isEnabled());
 }
@@ -199,7 +200,8 @@ void PrepaidSendingTest::answersAreShownAsPlainText()
     topUp(pin());
     networkSays(reply);
     for (QTextEdit *box : {balanceBox(), msisdnBox(), activateBox()}) {
-        if (box != balanceBox()) // the balance is being requested again
+        // The balance box is already waiting for the new balance.
+        if (box != balanceBox())
             QCOMPARE(box->toPlainText(), reply);
         QVERIFY(box->isReadOnly());
         QVERIFY(!box->textInteractionFlags().testFlag(Qt::LinksAccessibleByMouse));
@@ -353,7 +355,7 @@ void PrepaidSendingTest::failedTopUpIsToldLikeAnAnswer()
 
 void PrepaidSendingTest::returnKeySendsOnce()
 {
-    refuseAll(1); // a rejected command leaves the button enabled, so a second press would send
+    refuseAll(1); // leaves the button enabled, so a second press would send
     configure(only(chargeItem(0)));
     open();
     type(pin());
@@ -392,7 +394,7 @@ void PrepaidSendingTest::returnKeyElsewhereSendsNothing()
     }
     QVERIFY(requests().isEmpty());
     balanceButton()->setFocus();
-    QTest::keyClick(balanceButton(), Qt::Key_Return); // must still press the button
+    QTest::keyClick(balanceButton(), Qt::Key_Return); // the button must still work
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 
@@ -444,7 +446,8 @@ void PrepaidSendingTest::heldReturnAfterARefusalTriesOnce()
     QCOMPARE(requests().filter(pin()).count(), 1);
 }
 
-/// Tests a held key that is reported as presses without releases, as by some remote desktops.
+/// Tests a key that is held down. Some remote desktops report only presses in this case, without
+/// releases.
 void PrepaidSendingTest::heldReturnWithoutItsReleasesTopsUpOnce()
 {
     refuseAll(1);
@@ -581,7 +584,7 @@ void PrepaidSendingTest::closingDropsWhatWaits()
     open();
     dialog()->OnClickedCloseButton();
     networkSays(QStringLiteral("5 EUR"));
-    // The subscriber's own number is not requested.
+    // The subscriber's own number has not been requested.
     QCOMPARE(requests(), QStringList() << QStringLiteral("*100#"));
 }
 

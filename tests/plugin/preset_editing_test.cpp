@@ -41,7 +41,7 @@ void PresetEditingTest::surplusProfilesHaveNoButton()
     writeProfiles("1011111");
     editAndSave();
     QCOMPARE(labels(), (QStringList{latin1("Name 0"), latin1("Name 2")}));
-    open(); // creates all buttons again
+    open(); // recreates all buttons
     QCOMPARE(presetButtons().count(), 6);
 }
 
@@ -121,8 +121,7 @@ void PresetEditingTest::comboIsFilledAnewAfterSaving()
     QCOMPARE(descriptionLabel()->text(), QString());
 }
 
-/// Tests the visible field after saving. Saving clears the hidden combo box, which must not affect
-/// this field.
+/// Tests that the visible field is not affected when saving clears the hidden combo box.
 void PresetEditingTest::afterSavingSendFollowsTheCommandEdit()
 {
     writeProfiles("111");

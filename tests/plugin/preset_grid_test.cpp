@@ -9,10 +9,10 @@
 namespace
 {
 
-const int PAYMENT_SLOT = 8; ///< the position whose box also contains the payment edit
-const int ROUNDING = 1;     ///< the pixels that a layout may lose when it distributes the height
+const int PAYMENT_SLOT = 8; ///< the cell that also contains the payment field
+const int ROUNDING = 1;     ///< pixels that may be lost when a layout distributes its height
 
-/// Returns the grid position of an item as "row,column rows x columns".
+/// Returns the item's position in the grid as "row,column rows x columns".
 QString placeInGrid(const QGridLayout *grid, int index)
 {
     int row = 0;
@@ -25,7 +25,7 @@ QString placeInGrid(const QGridLayout *grid, int index)
 
 } // namespace
 
-/** Tests which profiles have a preset button, and the grid of the general dialog. */
+/** Tests which profiles are shown as preset buttons, and the grid of the general dialog. */
 class PresetGridTest : public PresetButtonsTest
 {
     Q_OBJECT
@@ -94,9 +94,9 @@ void PresetGridTest::twelfthProfileGetsNoButton()
 void PresetGridTest::slotsAreFixedByTheProfilesIndex_data()
 {
     QTest::addColumn<int>("index");
-    // The position of the button's box, or an empty string if the button has no box.
+    // The grid position of the button's box, or an empty string if the button is not in a box.
     QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("alone"); // the position of the button if it is the only one
+    QTest::addColumn<QString>("alone"); // the position if there are no other buttons
     QTest::addColumn<QString>("amongAll");
     for (int i = 0; i < 4; ++i)
         QTest::newRow(nameOf(i)) << i << latin1("0,0 4x1") << QString() << QString();
@@ -126,7 +126,7 @@ void PresetGridTest::slotsAreFixedByTheProfilesIndex()
             QCOMPARE(placeOf(button), mask == all ? amongAll : alone);
             continue;
         }
-        QStringList places; // the positions of all boxes that contain the button
+        QStringList places; // the positions of all boxes with this button
         for (int i = 0; i < grid()->count(); ++i) {
             QLayout *inner = grid()->itemAt(i)->layout();
             if (inner && inner->indexOf(button) >= 0)
@@ -154,7 +154,7 @@ void PresetGridTest::eachBoxStandsInTheGridEvenWhenEmpty()
             places << placeInGrid(grid(), i);
     }
     QCOMPARE(places, (QStringList{latin1("0,0 4x1"), latin1("4,0 4x1"), latin1("8,0 3x2")}));
-    for (int row : {0, 4, 8}) { // the style of the host makes the gaps, with margins of the buttons
+    for (int row : {0, 4, 8}) { // the style adds gaps as button margins
         QVBoxLayout *box = qobject_cast<QVBoxLayout *>(grid()->itemAtPosition(row, 0)->layout());
         QVERIFY(box);
         QCOMPARE(box->spacing(), 0);
@@ -288,7 +288,7 @@ void PresetGridTest::nothingOverlapsOrIsCutOff()
     QVERIFY(HostCore::Languages::setCurrent(language));
     writeProfiles(mask);
     open(static_cast<WINDOW_MODEL>(model));
-    send(latin1("*100#")); // makes the prompt visible
+    send(latin1("*100#")); // shows the waiting prompt
     QWidgetList shown;
     for (QWidget *widget :
          dialog()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {

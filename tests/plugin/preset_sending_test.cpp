@@ -1,12 +1,12 @@
 #include "PresetButtonsTest.h"
 
-/** Tests the codes that the preset buttons send, and when the buttons are enabled. */
+/** Tests which codes the preset buttons send, and when the buttons are enabled. */
 class PresetSendingTest : public PresetButtonsTest
 {
     Q_OBJECT
 
 private:
-    /// Writes one profile with a button for each code.
+    /// Writes a profile with a button for each code.
     void writeCodes(const QList<QByteArray> &codes);
 
 private slots:
@@ -52,7 +52,7 @@ void PresetSendingTest::paymentButtonWithoutNumberSendsNothing()
     writeCodes({"*1#", "*2*%s#", "*3*%s#"});
     open();
     for (int i : {1, 2}) {
-        presetButtons().at(i)->setEnabled(true); // a host could make this call
+        presetButtons().at(i)->setEnabled(true); // as a host might do
         click(presetButtons().at(i));
     }
     QVERIFY(requests().isEmpty());
@@ -108,7 +108,7 @@ void PresetSendingTest::numberWithPlaceholderLetterIsNotReplacedAgain()
 {
     writeCodes({"%%s"});
     open();
-    paymentEdit()->setText(latin1("s%s")); // the text is not typed, so it is not checked
+    paymentEdit()->setText(latin1("s%s")); // set without being checked by the field
     presetButtons().first()->setEnabled(true);
     click(presetButtons().first());
     QCOMPARE(requests(), QStringList{latin1("%s%s")});
@@ -116,7 +116,7 @@ void PresetSendingTest::numberWithPlaceholderLetterIsNotReplacedAgain()
 
 void PresetSendingTest::lastTwoOfFewButtonsArePaymentButtons()
 {
-    writeProfiles("1011"); // three buttons
+    writeProfiles("1011"); // creates three buttons
     open();
     QTest::keyClicks(paymentEdit(), latin1("5"));
     paymentEdit()->clear();
@@ -157,7 +157,7 @@ void PresetSendingTest::paymentButtonsFollowThePaymentEdit()
     QTest::keyClick(paymentEdit(), Qt::Key_Backspace);
     QVERIFY(!buttons.at(9)->isEnabled());
     QVERIFY(!buttons.at(10)->isEnabled());
-    QTest::keyClicks(paymentEdit(), latin1("x")); // the letter is refused
+    QTest::keyClicks(paymentEdit(), latin1("x")); // the field rejects the letter
     QVERIFY(!buttons.at(10)->isEnabled());
     for (int i = 0; i < 9; ++i)
         QVERIFY(buttons.at(i)->isEnabled());

@@ -4,7 +4,7 @@
 
 #include "Languages.h"
 
-/** Tests the texts and the widths of the preset buttons. */
+/** Tests the labels and widths of the preset buttons. */
 class PresetTextsTest : public PresetButtonsTest
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ void PresetTextsTest::namesFollowTheLanguageAndStayElided()
 {
     writeSystemProfiles(
         profileFile(profileItem("Plain name", "*1#", "true", "true", "") +
-                    profileItem("Prompt", "*2#", "true", "true", "IDS_TOP_PROMPT") + // a long text
+                    profileItem("Prompt", "*2#", "true", "true", "IDS_TOP_PROMPT") + // a long label
                     profileItem("Send", "*3#", "true", "true", "IDS_BUTTON_SEND")));
     open();
     for (const char *language : {"en", "de", "ru", "en"}) {
@@ -102,8 +102,7 @@ void PresetTextsTest::codesReadFromLeftToRightInArabicNamesDoNot()
     QCOMPARE(buttons.at(3)->layoutDirection(), Qt::LeftToRight);
 }
 
-/// Tests that names are not interpreted as markup. A tool tip would interpret markup and load
-/// pictures.
+/// Tests that names are shown as plain text. A tool tip that interprets markup could load pictures.
 void PresetTextsTest::namesAreNoMarkup()
 {
     const QByteArray name = "&lt;img src='/dev/zero'&gt; a name that is much too wide";

@@ -6,7 +6,7 @@
 #include "OddFiles.h"
 #include "requests/USSDLogic.h"
 
-/** Tests which profiles are read from the two files, and how broken files are read. */
+/** Tests which profiles are read from the two profile files, including malformed ones. */
 class ProfileListTest : public ProfileStoreTest
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ void ProfileListTest::laterUserProfileWithTheSameCodeIsDropped()
     writeUserProfiles(profileItem("First", "*1#") + profileItem("Second", "*1#") +
                       profileItem("Third", "*1# "));
     const QList<USSDProfile> profiles = loaded();
-    // Codes that differ in blanks are different codes.
+    // Codes that differ only in spaces are different codes.
     QCOMPARE(codes(profiles), (QStringList{latin1("*1#"), latin1("*1# ")}));
     QCOMPARE(profiles.first().name, latin1("First"));
 }
@@ -125,7 +125,7 @@ void ProfileListTest::getProfileListReplacesTheCallersList()
     profiles << profile(latin1("old"), latin1("*9#"));
     store.GetProfileList(profiles);
     QCOMPARE(codes(profiles), QStringList{latin1("*1#")});
-    profiles.clear(); // clears only a copy
+    profiles.clear(); // does not affect the original list
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
 }
 
@@ -161,7 +161,7 @@ void ProfileListTest::shippedFileHasElevenProfiles()
         QVERIFY(!each.value.isEmpty());
         QVERIFY(!each.name.isEmpty());
     }
-    QVERIFY(profiles.at(9).value.contains(latin1("%s"))); // profiles 9 and 10 are payment codes
+    QVERIFY(profiles.at(9).value.contains(latin1("%s"))); // payment codes are at positions 9 and 10
     QVERIFY(profiles.at(10).value.contains(latin1("%s")));
 }
 
@@ -272,7 +272,7 @@ void ProfileListTest::brokenXmlKeepsWhatWasReadBefore()
 void ProfileListTest::textCutByAFaultIsEmpty_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("value"); // the expected code of the profile that contains the error
+    QTest::addColumn<QString>("value"); // the expected code of the incomplete profile
     const QByteArray start = "<tksvdoc>" + profileItem("A", "*1#") + "<item><name>B</name>";
     const QByteArray rest = "<readonly>true</readonly></item></tksvdoc>";
     QTest::newRow("no end") << start + "<value>*2" << QString();
@@ -284,8 +284,8 @@ void ProfileListTest::textCutByAFaultIsEmpty_data()
     QTest::newRow("behind the value") << start + "<value>*2#</value><&" + rest << latin1("*2#");
 }
 
-/// Tests that a truncated code is never used. Values that were read completely are kept, even in
-/// the profile that contains the error.
+/// Tests that an incomplete code is discarded. Values that were read completely are kept, even if
+/// they are in the same profile.
 void ProfileListTest::textCutByAFaultIsEmpty()
 {
     QFETCH(QByteArray, content);
@@ -318,7 +318,7 @@ void ProfileListTest::missingUserFileKeepsTheSystemProfiles()
 {
     writeSystemProfiles(profileFile(profileItem("A", "*1#")));
     QCOMPARE(codes(loaded()), QStringList{latin1("system *1#")});
-    // Logged as a debug message and as a warning.
+    // Logged both as a debug message and as a warning.
     QCOMPARE(timesLogged("load Exit: XML File is not opened"), 2);
     QCOMPARE(timesLogged(latin1("load Enter: xmlFilePath = ") + userFile()), 1);
 }

@@ -13,7 +13,7 @@
 namespace
 {
 
-/// The number of arrays that this thread has allocated but not yet deleted.
+/// The number of arrays that this thread has allocated and not deleted.
 thread_local int arraysOfThisThread = 0;
 
 } // namespace
@@ -39,7 +39,7 @@ void operator delete[](void *memory, std::size_t) noexcept
     operator delete[](memory);
 }
 
-/** Tests the paths of the profile files, and the move of a legacy user file. */
+/** Tests the paths of the profile files, and that a legacy user file is moved to its new folder. */
 class ProfilePathsTest : public ProfileStoreTest
 {
     Q_OBJECT
@@ -97,7 +97,7 @@ void ProfilePathsTest::textOfTheSdkIsReleasedAsAnArray()
     const int before = arraysOfThisThread;
     unsigned short *units = nullptr;
     QCOMPARE(TKSV_GetUserDataDirectory(&units), 0L);
-    QCOMPARE(arraysOfThisThread, before + 1); // proves that the test counts the SDK's allocations
+    QCOMPARE(arraysOfThisThread, before + 1); // proves that SDK allocations are counted
     delete[] units;
     store.getUserProfileXMLFilePath(path);
     QCOMPARE(path, userFile());
@@ -117,7 +117,8 @@ void ProfilePathsTest::withoutUserFolderThereIsNoUserPath()
     QVERIFY(timesLogged("after caling TKSV_GetUserDataDirectory(), retVal=7") > 0);
 }
 
-/// Tests that the profiles are not written to the working directory.
+/// Tests that the profiles are not written to the working directory if the path of the user data
+/// directory is empty.
 void ProfilePathsTest::emptyUserFolderIsUnavailable()
 {
     fakeSdkSetUserDataDirectory(u"");
@@ -137,7 +138,7 @@ void ProfilePathsTest::legacyFileIsMovedOnceWithItsFolder()
     QVERIFY(QDir().mkpath(userFolder() + latin1("userdata")));
     const QByteArray old = profileFile(profileItem("A", "*1#"));
     write(legacyFile(), old);
-    USSDEditCmd store; // calls the SDK for the first time
+    USSDEditCmd store; // makes the first call to the SDK
     QCOMPARE(codes(list(store)), QStringList{latin1("*1#")});
     QCOMPARE(contentOf(userFile()), old);
     QVERIFY(!QFile::exists(legacyFile()));
@@ -167,7 +168,8 @@ void ProfilePathsTest::legacyFolderWithOtherFilesStays()
 
 void ProfilePathsTest::legacyFileThatCannotBeCopiedStaysInUse()
 {
-    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside"))); // a folder with the name of the file
+    // Creates a folder with the name of the legacy file.
+    QVERIFY(QDir().mkpath(legacyFile() + latin1("/inside")));
     USSDEditCmd store;
     clearLog();
     QString path;

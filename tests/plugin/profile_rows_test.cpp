@@ -4,7 +4,7 @@
 
 using namespace Formats;
 
-/** Tests how the table rows of the profile editor become profiles. */
+/** Tests how the rows of the profile editor's table are converted to profiles. */
 class ProfileRowsTest : public UssdTest
 {
     Q_OBJECT
@@ -183,7 +183,8 @@ void ProfileRowsTest::profilesBeyondTheRowsAreKept()
             rows << row("Balance", qPrintable(profile.value));
     }
     QVERIFY(read(rows, shown) == shown);
-    rows[99].code.clear(); // deletes only the profile of the last row
+    // Only the profile of the last row must be deleted.
+    rows[99].code.clear();
     QCOMPARE(read(rows, shown).count(), 129);
     QVERIFY(read(rows, shown).last() == shown.last());
 }

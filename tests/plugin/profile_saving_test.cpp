@@ -9,7 +9,7 @@
 #include "fake_tksv.h"
 #include "ProcessLimits.h"
 
-/** Tests saving the two profile files, also in folders and on disks that do not permit it. */
+/** Tests how the two profile files are saved, including in read-only folders and on full disks. */
 class ProfileSavingTest : public ProfileStoreTest
 {
     Q_OBJECT
@@ -104,8 +104,8 @@ void ProfileSavingTest::permissionCallHasNoEffect()
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
 
-/// Tests the files of an installation, where the plug-in's folder links to the configuration in
-/// /etc. Saving must not replace the link, which belongs to a package, with a file.
+/// Tests an installation in which the file in the plug-in's folder is a link to a configuration
+/// file in /etc. The link belongs to a package, so saving must not replace it with a file.
 void ProfileSavingTest::linkedSystemFileIsSavedBehindTheLink()
 {
     const QString target = folder() + latin1("/configured.xml");
@@ -133,7 +133,7 @@ void ProfileSavingTest::failedOpenIs25AndLeavesNoFile()
     QCOMPARE(status, 25);
     QVERIFY(!QFile::exists(userFile()));
     QCOMPARE(timesLogged("saveToXMLFile Exit: XML file open failed"), 2);
-    // The codes stay in memory and can be saved later.
+    // The codes are still in memory and can be saved later.
     QCOMPARE(codes(list(store)), QStringList{latin1("*2#")});
     QCOMPARE(store.saveToXMLFile(false), 0);
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
@@ -178,7 +178,7 @@ void ProfileSavingTest::systemFolderIsNeverMade()
 {
     USSDEditCmd store;
     QVERIFY(QDir(folder() + latin1("/plugins")).removeRecursively());
-    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // only the last folder is missing
+    QVERIFY(QDir().mkpath(folder() + latin1("/plugins"))); // only the innermost folder is missing
     QCOMPARE(store.saveToXMLFile(true), 25);
     QVERIFY(!QDir(pluginFolder()).exists());
 }
@@ -198,7 +198,8 @@ void ProfileSavingTest::readOnlyFolderIs25()
     QVERIFY(!QFile::exists(userFile()));
 }
 
-/// Tests a read-only folder, in which the file can be opened but not deleted.
+/// Tests a folder that is read-only: a file in it cannot be deleted, but it can be opened for
+/// writing.
 void ProfileSavingTest::readOnlyFolderLeavesAnOldFileToBeWritten()
 {
     writeUserProfiles(profileItem("U", "*2#"));
@@ -215,8 +216,8 @@ void ProfileSavingTest::readOnlyFolderLeavesAnOldFileToBeWritten()
     QCOMPARE(codes(loaded()), QStringList{latin1("*2#")});
 }
 
-/// Tests that a file that cannot be deleted keeps its permissions. Its owner must still be able to
-/// read it.
+/// Tests that a file that cannot be deleted keeps its permissions, so that its owner can still read
+/// it.
 void ProfileSavingTest::fileThatCannotBeDeletedStaysReadable()
 {
     const uid_t owner = geteuid() == 0 ? 65534 : geteuid();
@@ -230,13 +231,13 @@ void ProfileSavingTest::fileThatCannotBeDeletedStaysReadable()
         const OrdinaryUser user;
         status = store.saveToXMLFile(false);
         QFile file(userFile());
-        QVERIFY(file.open(QIODevice::ReadOnly)); // checks the effective user's permissions
+        QVERIFY(file.open(QIODevice::ReadOnly)); // opens the file as the ordinary user
     }
     QCOMPARE(status, 0);
 }
 
-/// Tests a full disk. The failure is not reported, and the file is later read up to the point where
-/// it was truncated.
+/// Tests a full disk. saveToXMLFile() deliberately reports success. When the file is read again,
+/// all profiles before the truncated one are available.
 void ProfileSavingTest::fullDiskLeavesAFileThatCanBeRead()
 {
     QByteArray items;

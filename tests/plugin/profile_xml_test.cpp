@@ -36,8 +36,8 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-/// Returns a random character that XML 1.0 allows, often one with a special meaning in XML or
-/// Unicode.
+/// Returns a random character that is valid in XML 1.0. Characters with a special meaning in XML or
+/// Unicode are more frequent.
 QString randomCharacter(std::mt19937 &random)
 {
     static const char16_t special[] = {
@@ -82,7 +82,7 @@ QList<USSDProfile> randomProfiles(std::mt19937 &random)
 
 } // namespace
 
-/** Tests the form of a profile file, with any text in its fields. */
+/** Tests the format of a profile file, and that its fields can contain any text. */
 class ProfileXmlTest : public ProfileStoreTest
 {
     Q_OBJECT
@@ -153,8 +153,8 @@ void ProfileXmlTest::randomListsSurvive()
     QVERIFY(texts > 1000);
 }
 
-/// Tests that carriage returns are written as character references, because XML would replace them
-/// with line feeds.
+/// Tests that carriage returns are written as character references. Otherwise, an XML parser would
+/// convert them to line feeds.
 void ProfileXmlTest::carriageReturnsSurvive()
 {
     const QList<USSDProfile> profiles = QList<USSDProfile>()

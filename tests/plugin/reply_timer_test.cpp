@@ -18,7 +18,7 @@ qint64 testClock()
     return now;
 }
 
-/// Counts the events that the timer causes in the event loop of its owner's thread.
+/// Counts the events that the timer receives in its owner's thread.
 class CountingTimer : public ReplyTimer
 {
 public:
@@ -94,7 +94,7 @@ void ReplyTimerTest::disarmUnderWayDoesNotStopALaterArming()
     ReplyTimer timer;
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     timer.arm(60000);
-    std::thread other([&] { timer.disarm(); }); // the timer's event is still queued
+    std::thread other([&] { timer.disarm(); }); // posts an event that is processed later
     other.join();
     timer.arm(1);
     QVERIFY(timeouts.wait(10000));
@@ -149,7 +149,8 @@ void ReplyTimerTest::busyOwnerDoesNotLengthenTheTime()
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     std::thread other([&] { timer.arm(30000); });
     other.join();
-    now = 30000; // the owner handles events only from now on
+    // The owner has not processed any events until now.
+    now = 30000;
     QTRY_VERIFY(!timeouts.isEmpty());
 }
 
@@ -177,11 +178,12 @@ void ReplyTimerTest::laterArmingRunsOutAtItsOwnTime()
     timer.arm(1);
     std::thread other([&] {
         timer.disarm();
-        timer.arm(40); // the wake-up for the first time-out must have no effect
+        timer.arm(40); // must not be affected by the first time-out
     });
     other.join();
     QVERIFY(timeouts.wait(10000));
-    // The clock counts whole milliseconds, so the measured time may be one millisecond short.
+    // The clock has a resolution of one millisecond, so the measured time may be up to one
+    // millisecond too short.
     QVERIFY(std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(40 - 1));
     QCOMPARE(timeouts.count(), 1);
 }
@@ -193,7 +195,8 @@ void ReplyTimerTest::shorterArmingIsNotHeldUpByTheClockOfALongerOne()
     ReplyTimer timer;
     QSignalSpy timeouts(&timer, SIGNAL(timeout()));
     timer.arm(60000);
-    now = 100000; // this clock has passed the time-out, but the timer has not fired yet
+    // According to the clock, the time-out has expired, but the timer has not fired yet.
+    now = 100000;
     std::thread other([&] {
         timer.disarm();
         timer.arm(0);

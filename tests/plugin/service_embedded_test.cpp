@@ -1,6 +1,6 @@
 #include "ServiceTest.h"
 
-/** Tests the general dialog that the service embeds in a widget of the host. */
+/** Tests the general dialog when the service embeds it in a widget of the host. */
 class ServiceEmbeddedTest : public ServiceTest
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ void ServiceEmbeddedTest::showPrePostPaidWindowShowsNothingForPrepaid()
 {
     service()->showWindow(m_mainWindow.data(), m_rect, PAID_TYPE_GENERAL);
     QCOMPARE(service()->ShowPrePostPaidWindow(m_mainWindow.data(), m_rect, PAID_TYPE_PREPAID), 0);
-    service()->Hide(); // does nothing, because the stored type is not the general window
+    service()->Hide(); // has no effect, because the stored type is not the general window
     QVERIFY(embeddedDialog()->isVisible());
 }
 
@@ -63,7 +63,7 @@ void ServiceEmbeddedTest::fitSizeMovesAndSizes()
 void ServiceEmbeddedTest::fitSizeBeforeAnyWindowMakesNoDialog()
 {
     service()->FitSize(m_rect);
-    QVERIFY(fakeSdkCalls().empty()); // the logic object has not been created
+    QVERIFY(fakeSdkCalls().empty()); // the logic object has not been constructed
     for (QWidget *widget : QApplication::allWidgets())
         QVERIFY(!qobject_cast<USSDGeneralDlg *>(widget));
 }

@@ -2,7 +2,7 @@
 
 #include "Languages.h"
 
-/** Tests the events that the host reports with Notify(). */
+/** Tests the events that the host passes to Notify(). */
 class ServiceEventsTest : public ServiceTest
 {
     Q_OBJECT
@@ -124,7 +124,7 @@ void ServiceEventsTest::imsiEventLeavesTheUssdSmsWindow()
     QVERIFY(frame() && frame()->isVisible());
 }
 
-/// Tests a host that shuts the plug-in down when the first frame is closed.
+/// Tests a host that shuts the plug-in down when the first frame closes.
 void ServiceEventsTest::imsiEventMayEndInAShutDown()
 {
     for (int type : {3, 1, 0})

@@ -2,7 +2,7 @@
 
 #include "HostState.h"
 
-/** Tests how the service opens and closes windows in a frame. */
+/** Tests how the service opens and closes windows that have a frame. */
 class ServiceFramesTest : public ServiceTest
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ void ServiceFramesTest::doModalTwiceReusesFrameAndDialog()
     QCOMPARE(service()->DoModal(), 1);
     QCOMPARE(frame(), firstFrame);
     QCOMPARE(framedDialog(), firstDialog);
-    // The dialog has been reset.
+    // Opening the window again has cleared the transcript.
     QVERIFY(part<QTextEdit>(firstDialog, "History")->toPlainText().isEmpty());
     QCOMPARE(service()->DoPrePostPaidModal(PAID_TYPE_GENERAL), 1);
     QCOMPARE(frame(), firstFrame);
@@ -74,7 +74,7 @@ void ServiceFramesTest::framedWindowHasSizeTitleAndModality()
     QVERIFY(frame()->isVisible());
     QCOMPARE(frame()->size(), QSize(588, 465));
     QCOMPARE(frame()->windowModality(), Qt::WindowModal);
-    // Qt itself adds the system menu to a window with a close button.
+    // Qt adds the system menu to every window with a close button.
     QCOMPARE(int(frame()->windowFlags() & ~Qt::WindowSystemMenuHint), 0x0A001001);
     QCOMPARE(frame()->windowTitle(), CUSSDService::tr(QStringLiteral("IDS_ADVANCE_USSD")));
     QCOMPARE(frame()->parentWidget(), m_mainWindow.data());
@@ -94,8 +94,8 @@ void ServiceFramesTest::unknownTypeIsNotShown()
     QVERIFY(!frame());
 }
 
-/// Tests that an unknown type is stored, too. A dialog that was opened earlier can then no longer
-/// request to be closed.
+/// Tests that the service also stores an unknown window type. A window that is already open then
+/// ignores close requests.
 void ServiceFramesTest::unknownTypeIsRememberedNevertheless()
 {
     service()->DoModal();
@@ -117,7 +117,7 @@ void ServiceFramesTest::framesAreCentredOverTheMainWindow()
     QFETCH(int, type);
     m_mainWindow->move(60, 40);
     service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type));
-    // The plug-in has moved the frame. Otherwise QDialog would position it when it is shown.
+    // Proves that the plug-in has moved the frame. QDialog would otherwise choose the position.
     QVERIFY(frame()->testAttribute(Qt::WA_Moved));
     const QPoint apart = frame()->frameGeometry().center() - m_mainWindow->frameGeometry().center();
     QVERIFY2(apart.manhattanLength() <= 4,
@@ -179,7 +179,7 @@ void ServiceFramesTest::prepaidWindowShownThriceAsksOnceEachTime()
 {
     for (size_t i = 1; i <= 3; ++i) {
         service()->DoPrePostPaidModal(PAID_TYPE_PREPAID);
-        // The own number is requested only after the balance has been answered.
+        // The subscriber's own number is requested only after the reply with the balance.
         QCOMPARE(fakeSdkCommands().size(), i);
     }
 }
@@ -194,7 +194,7 @@ void ServiceFramesTest::rejectedFrameIsClosed_data()
     QTest::newRow("general") << 3;
 }
 
-/// Tests a frame that is rejected without a close event, as QDialog may do.
+/// Tests a frame that is closed with reject(), which does not send a close event.
 void ServiceFramesTest::rejectedFrameIsClosed()
 {
     QFETCH(int, type);
@@ -227,7 +227,7 @@ void ServiceFramesTest::closeRequestClosesTheWindowOfItsTypeOnly()
         if (other != type)
             service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(other));
     }
-    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // the last type is stored
+    service()->DoPrePostPaidModal(static_cast<PAID_TYPE>(type)); // changes the stored window type
     QStringList closed;
     for (USSDExtendDialog *one : m_mainWindow->findChildren<USSDExtendDialog *>())
         connect(one, &ExtendDialog::dlgCloseEvent,
@@ -244,8 +244,8 @@ void ServiceFramesTest::closeRequestLeavesTheUssdSmsWindow()
     QVERIFY(frame() && frame()->isVisible());
 }
 
-/// Tests a close request after the USSD-SMS window was opened. The stored type is that of this
-/// window, which a close request does not close.
+/// Tests a close request after the USSD-SMS window was opened. The stored window type is then that
+/// of the USSD-SMS window, for which close requests are ignored.
 void ServiceFramesTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
 {
     service()->DoModal();
@@ -253,7 +253,7 @@ void ServiceFramesTest::closeRequestAfterTheUssdSmsWindowDoesNothing()
     service()->DoPrePostPaidModal(PAID_TYPE_USSD_SMS);
     QVERIFY(QMetaObject::invokeMethod(service(), "OnCloseButtonClicked"));
     QVERIFY(general->isVisible());
-    // This call has the same effect as closing the window.
+    // Has the same effect as closing the window.
     QVERIFY(QMetaObject::invokeMethod(service(), "OnDlgCloseEvent"));
     drainEvents();
     QVERIFY(!general);

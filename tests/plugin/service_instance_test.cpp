@@ -5,7 +5,7 @@
 
 #include "profiles/USSDEditCmd.h"
 
-/** Tests the singleton, its answers without a window, its log lines and its destruction. */
+/** Tests the singleton, its results without a window, its log lines and its destruction. */
 class ServiceInstanceTest : public ServiceTest
 {
     Q_OBJECT
@@ -72,8 +72,8 @@ void ServiceInstanceTest::imsiQuestionsReachTheLogic()
 
 // ---- the log ------------------------------------------------------------------------------------
 
-/// Tests classes whose code is in several files. The log lines of such a class name only one of
-/// these files.
+/// Tests classes that are implemented in several files. All log lines of such a class contain the
+/// name of the same file.
 void ServiceInstanceTest::logLinesNameTheFileOfTheirClassFamily()
 {
     for (int type : {3, 0, 5})

@@ -1,8 +1,8 @@
 /*
- * Tests the calls with which a host may shut down the loaded plug-in, in every order and in every
- * state of the plug-in. A sequence consists of up to five calls, including repeated ones, and the
- * device SDK calls back in between. After each sequence, the library is unloaded in the same
- * iteration of the event loop. Anything left behind would then run code that no longer exists.
+ * Tests how a host may shut down the loaded plug-in, with every order of calls in every state of
+ * the plug-in. A sequence consists of up to five calls, some of which may be repeated, and SDK
+ * call-backs between them. The library is unloaded in the same iteration of the event loop, so that
+ * the program would crash if any call-back or event remained.
  */
 #include "UssdTest.h"
 
@@ -29,9 +29,9 @@ using namespace SlotTable;
 namespace
 {
 
-const char CALLS[] = "uod"; // UnSDKRegisterEvent, OnDestroy, deletion of the object
+const char CALLS[] = "uod"; // the letters stand for UnSDKRegisterEvent, OnDestroy and delete
 const int LONGEST = 5;
-const int EACH_ONCE = 3; // the length of the sequences in states that are slow to reach
+const int EACH_ONCE = 3; // the length in states that take long to reach
 
 enum State {
     NothingShown,
@@ -42,7 +42,7 @@ enum State {
     PrepaidOpen,
     PostpaidOpen,
     SmsOpen,
-    ModalClosed, // closed by the user in the same event loop iteration
+    ModalClosed, // closed by the user in the event loop iteration of the shut-down
     PrepaidClosed,
     PostpaidClosed,
     SmsClosed,
@@ -51,7 +51,7 @@ enum State {
     MessageOpen
 };
 
-/// Returns true if the library is mapped into the memory of this process.
+/// Returns true if the library is still loaded in this process.
 bool isMapped()
 {
     void *handle = dlopen(USSD_PLUGIN_FILE, RTLD_LAZY | RTLD_NOLOAD);
@@ -91,7 +91,7 @@ private:
     QLibrary m_library;
     QScopedPointer<QWidget> m_window;
     QRect m_rect;
-    std::function<void()> m_closing; // called when the frame is closed
+    std::function<void()> m_closing; // called when the frame closes
 
 protected slots:
     void onClosing(); ///< calls m_closing
@@ -165,7 +165,7 @@ void ShutdownTest::send(const QString &command)
     button->click();
 }
 
-/// Presses a button that opens a window with its own event loop, and calls the function in this
+/// Presses a button that opens a window with its own event loop. Calls the function inside this
 /// loop.
 void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> &whileItIsSo)
 {
@@ -174,7 +174,7 @@ void ShutdownTest::insideLoopOf(const char *button, const std::function<void()> 
         wasOpen = QApplication::activeModalWidget() != nullptr;
         whileItIsSo();
     });
-    part<QPushButton>(button)->click(); // this call returns when the event loop has ended
+    part<QPushButton>(button)->click(); // returns after the event loop has ended
     QVERIFY(wasOpen);
 }
 
@@ -183,7 +183,7 @@ void ShutdownTest::openModal(int type)
     QCOMPARE(callDoPrePostPaidModal(ussd(), type), 1);
 }
 
-/// Opens the message box that shows the reply to a top-up, as with the shipped configuration.
+/// Sends a top-up and opens the message box with the reply, as in the shipped configuration.
 void ShutdownTest::topUpIntoBox()
 {
     const QString prefix = QLatin1String("USSDUIPlugin_Charge");
@@ -192,7 +192,7 @@ void ShutdownTest::topUpIntoBox()
         m_window->findChild<QPushButton *>(prefix + QLatin1String("ActivateButton"));
     button->setEnabled(true);
     button->click();
-    for (int commands = 3; commands > 0; --commands) { // balance, own number and top-up
+    for (int commands = 3; commands > 0; --commands) { // replies to balance, own number and top-up
         fakeSdkRespond(u"reply");
         QVERIFY(fakeSdkWaitIdle());
         drainEvents();
@@ -230,7 +230,7 @@ void ShutdownTest::reach(State state, const std::function<void()> &whileItIsSo)
         whileItIsSo();
 }
 
-/// Makes the device SDK call back on each of its threads.
+/// Makes each thread of the device SDK call back.
 void ShutdownTest::callBack()
 {
     fakeSdkRespond(u"reply");
@@ -250,8 +250,8 @@ void ShutdownTest::run(const QString &calls)
     }
 }
 
-/// Makes the calls and unloads the library. Checks that no window, no call-back and no code
-/// remains.
+/// Completes the shut-down after the given calls and unloads the library. Checks that no window,
+/// call-back or code remains.
 void ShutdownTest::finish(const QString &calls)
 {
     if (!calls.endsWith(QLatin1String("uod")))
@@ -263,7 +263,7 @@ void ShutdownTest::finish(const QString &calls)
     drainEvents();
     QVERIFY(m_window->findChildren<QWidget *>().isEmpty());
     QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(fakeSdkWaitIdle()); // otherwise a late event could affect the next state
+    QVERIFY(fakeSdkWaitIdle()); // prevents late events in the next state
     load();
 }
 
@@ -310,7 +310,7 @@ void ShutdownTest::everyOrderInState()
                 callBack();
                 run(calls);
                 if (!calls.contains(QLatin1Char('o')) && !calls.contains(QLatin1Char('d')))
-                    run(QStringLiteral("o")); // ends the window's event loop
+                    run(QStringLiteral("o")); // ends the event loop of the window
             });
             finish(calls);
             if (QTest::currentTestFailed()) {
@@ -334,8 +334,8 @@ void ShutdownTest::insideTheCloseEventOfAFrame_data()
     }
 }
 
-/// Connects to the dialog before the service does. The service connects again each time the window
-/// is shown.
+/// Connects to the dialog before the service does. The service connects again each time a window is
+/// shown, so showing it again changes the order.
 void ShutdownTest::hearDialogIn(QWidget *frame, int type)
 {
     for (QWidget *widget : frame->findChildren<QWidget *>()) {
@@ -345,8 +345,8 @@ void ShutdownTest::hearDialogIn(QWidget *frame, int type)
     openModal(type);
 }
 
-/// Tests a host that shuts the plug-in down in the close event of a frame. The host cannot unload
-/// the library there.
+/// Tests a host that shuts the plug-in down during the close event of a frame. The library is
+/// unloaded only after the event.
 void ShutdownTest::insideTheCloseEventOfAFrame()
 {
     QFETCH(int, type);

@@ -2,10 +2,9 @@
 #define SLOT_TABLE_H
 
 /*
- * Calls the plug-in's interfaces like a host that was built long ago. Instead of the headers, the
- * calls rely on the order of the base classes and of the slots in the virtual tables (Itanium C++
- * ABI).
- * headers.
+ * Calls the plug-in's interfaces like a host that was compiled long ago. Instead of including the
+ * headers, the calls use the order of the base classes and of the functions in the virtual tables
+ * (Itanium C++ ABI).
  */
 
 class QObject;
@@ -16,7 +15,7 @@ class QWidget;
 namespace SlotTable
 {
 
-/// The indexes of the slots, counted from 0 after the two slots of the virtual destructor.
+/// The indexes of the functions in the virtual table, without the two entries for the destructor.
 enum BasePluginSlot {
     Release,
     GetLastError,
@@ -45,8 +44,8 @@ enum USSDSlot {
     CheckImsiIsValid
 };
 
-/// Returns the second base of a plug-in interface. It directly follows the first base, which has no
-/// data members.
+/// Returns the second base class of a plug-in interface. It directly follows the first base class,
+/// which has no data members.
 void *secondBase(void *basePlugin);
 
 void callVoid(void *object, int slot);

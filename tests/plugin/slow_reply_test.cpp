@@ -22,8 +22,8 @@ QSemaphore clockIsRead;
 QSemaphore clockMayGoOn;
 std::atomic<bool> clockStops(false);
 
-/// Stops the first thread that reads the clock. The timer reads the clock when it is started, while
-/// m_mutexTimeout is locked.
+/// Blocks the first thread that reads the clock. The timer reads the clock when it is started, with
+/// m_mutexTimeout locked.
 qint64 stoppingClock()
 {
     if (clockStops.exchange(false)) {
@@ -36,7 +36,7 @@ qint64 stoppingClock()
 std::atomic<bool> threadIsHeld(false);
 int heldThreadReads[2];
 
-/// A signal handler that holds its thread at an arbitrary point until the pipe is written to.
+/// A signal handler that blocks its thread until a byte is written to the pipe.
 void holdThread(int)
 {
     threadIsHeld = true;
@@ -47,7 +47,7 @@ void holdThread(int)
 
 } // namespace
 
-/** Tests a reply whose thread is stopped in the middle of its call-back. */
+/** Tests a reply whose thread is suspended in the middle of the call-back. */
 class SlowReplyTest : public PluginTest
 {
     Q_OBJECT
@@ -119,9 +119,9 @@ void SlowReplyTest::holdReply()
         std::this_thread::yield();
 }
 
-/// Tests a reply whose thread is stopped after it has claimed its command and before it cancels the
-/// time-out. While the thread is stopped, a device event removes this command, and the next command
-/// is sent.
+/// Tests a reply whose thread is suspended between claiming its command and cancelling the
+/// time-out. Meanwhile, a device event removes the command and the next command is sent. The reply
+/// must not cancel the time-out of the next command.
 void SlowReplyTest::timeOutOfTheNextCommandIsNotStopped()
 {
 #ifdef USSD_THREAD_SANITIZER

@@ -5,11 +5,11 @@
 namespace
 {
 
-const QSize DECORATION(8, 40); // what a frame leaves of the screen for its title bar
+const QSize DECORATION(8, 40); // space for the title bar of a frame
 
 } // namespace
 
-/** Tests the widgets of the USSD-SMS dialog: the layout file, the tree and the controls. */
+/** Tests how the USSD-SMS dialog reads its layout file, and its tree and controls. */
 class SmsControlsTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -79,8 +79,8 @@ void SmsControlsTest::missingFileLeavesAnEmptyDialogWithoutConnections()
 void SmsControlsTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 {
     writeConfig(QByteArray());
-    // Creates a folder with the name of the file, because not even root can read a folder as a
-    // file.
+    // Creates a folder instead of the file, because root can read any file regardless of its
+    // permissions.
     QVERIFY(QDir().mkpath(pluginFolder() + latin1("/USSDPluginConfig.xml")));
     open();
     QCOMPARE(timesLogged("InitConfig: return fail for the file can't be open as readonly and text "
@@ -92,7 +92,7 @@ void SmsControlsTest::unreadableFileLeavesAnEmptyDialogWithoutConnections()
 
 void SmsControlsTest::unknownPluginFolderIsLogged()
 {
-    // The host's path lookup treats this value as an empty path.
+    // The host treats this value as an empty path.
     qputenv("USSD_PLUGIN_LIBRARY_PATH", "/");
     open();
     QCOMPARE(logLines()
@@ -118,7 +118,7 @@ void SmsControlsTest::brokenFileKeepsItsServicesButHearsNothing()
     QCOMPARE(receivers(SIGNAL(responseReceived(int, QString))), 0);
     select(BALANCE);
     press();
-    QCOMPARE(requests(), QStringList()); // nothing is connected that could receive an answer
+    QCOMPARE(requests(), QStringList()); // not sent, because no signal for the answer is connected
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QVERIFY(isIdle());
 }
@@ -171,7 +171,7 @@ void SmsControlsTest::shownServiceWorksOnWhenItsGroupIsReplaced()
                             "</Dialog>");
     reader.readNextStartElement();
     m_dialog->ReadWidgetInfo(reader);
-    m_dialog->SetLanguage(); // translates the visible texts
+    m_dialog->SetLanguage(); // translates all visible texts
     QCOMPARE(captionLabel()->text(), caption);
     QCOMPARE(captionLabel()->geometry(), QRect(170, 60, 310, 20));
     press();
@@ -192,7 +192,7 @@ void SmsControlsTest::configurationIsReadAnewOnDemand()
     QCOMPARE(m_dialog->GetSize(), QSize(77, 88));
     QVERIFY(tree()->isEnabled());
     QVERIFY(button()->isHidden());
-    select(PREPAID); // selects a row whose entry was removed
+    select(PREPAID); // the entry of this row no longer exists
     QVERIFY(button()->isHidden());
     m_dialog->InitTree();
     m_dialog->SetLanguage();
@@ -327,8 +327,7 @@ void SmsControlsTest::firstServiceIsSelectedAtFirst()
     QCOMPARE(requests(), QStringList() << latin1("*100#"));
 }
 
-/// Tests that a first row with the number -1 is not selected. This number means that there is no
-/// entry.
+/// Tests that the first row is not selected if its number is -1, which means "no entry".
 void SmsControlsTest::firstRowMadeIsSelectedWhateverItsNumber()
 {
     openWith(config()
@@ -372,7 +371,7 @@ void SmsControlsTest::keysSelectAService()
 {
     tree()->setFocus();
     QTest::keyClick(tree(), Qt::Key_Down);
-    QVERIFY(input()->isVisible()); // the field of the second service has replaced that of the first
+    QVERIFY(input()->isVisible()); // the field of the second service
     QTest::keyClick(tree(), Qt::Key_End);
     QTest::keyClick(tree(), Qt::Key_Home); // selects the root
     QTest::keyClick(tree(), Qt::Key_Down);

@@ -10,7 +10,10 @@
 
 using namespace Formats;
 
-/** Tests the parser of the USSD-SMS dialog's layout section with valid and malicious files. */
+/**
+ * Tests the parser of the USSD-SMS dialog's layout section, including malformed and malicious
+ * files.
+ */
 class SmsLayoutTest : public UssdTest
 {
     Q_OBJECT
@@ -138,7 +141,7 @@ const CWidgetItemInfo *SmsLayoutTest::onlyControl()
     return controls && controls->controls.count() == 1 ? controls->controls.first() : nullptr;
 }
 
-/// Returns the only control of the only group, or null if the control was not read.
+/// Returns the only control of the only group, or null if no control was read.
 const CWidgetItemInfo *SmsLayoutTest::readControl(const QByteArray &control)
 {
     m_layout.reset(new SmsLayout);
@@ -426,7 +429,7 @@ void SmsLayoutTest::numbersBeyondAnyScreenStayUsable()
     const CWidgetItemInfo *control =
         readControl("<control posx='2147483647' posy='-2147483648' width='2147483647' "
                     "height='2147483647'/>");
-    QCOMPARE(control->width, 2147483647); // the width given in the file
+    QCOMPARE(control->width, 2147483647); // as specified in the file
     const QRect place = SmsLayoutFile::geometry(*control, 500, false);
     QCOMPARE(place, QRect(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     QVERIFY(complained("width 2147483647 is out of range"));
@@ -525,7 +528,7 @@ void SmsLayoutTest::tenThousandComplaintsAreCounted()
 {
     QVERIFY(readSection(rootAnd(QByteArray("<item name='x'/>").repeated(10000))));
     const int noNumber = 10000;
-    const int replacing = 25; // number 0 belongs to the root
+    const int replacing = 25; // one for each number except 0, which is the root
     const int tooMany = 10000 - 25;
     QCOMPARE(m_layout->complaints.count() + m_layout->furtherComplaints,
              noNumber + replacing + tooMany);
@@ -568,8 +571,8 @@ void SmsLayoutTest::deepNestingOutsideTheSectionEnds()
     QCOMPARE(m_layout->dialog.width, 9);
 }
 
-/// Tests an undeclared entity. With the reference to an external file, the parser itself would skip
-/// it.
+/// Tests an undeclared entity. If the document refers to an external DTD, the XML parser skips the
+/// entity without reporting an error.
 void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
 {
     const QByteArray control = "<control><command>*10&bad;3#</command></control>";
@@ -584,7 +587,7 @@ void SmsLayoutTest::textWithAnUnknownEntityIsNotTaken()
     }
 }
 
-/// Tests that a document whose entities would expand to 10^39 strings is refused at once.
+/// Tests that a document whose entities would expand to 10^39 strings is rejected immediately.
 void SmsLayoutTest::entityBombIsRefused()
 {
     QByteArray document = "<!DOCTYPE c [<!ENTITY e0 'boom'>";

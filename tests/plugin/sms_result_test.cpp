@@ -1,6 +1,6 @@
 #include "SmsDialogTest.h"
 
-/** Tests the results that the USSD-SMS dialog shows, its languages and its closing. */
+/** Tests the results in the USSD-SMS dialog, language changes, and closing the dialog. */
 class SmsResultTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ void SmsResultTest::resultIsPlainText()
     networkSays(reply);
     QCOMPARE(result(), reply);
     QCOMPARE(resultLabel()->textFormat(), Qt::PlainText);
-    QVERIFY(resultLabel()->grab().width() > 0); // drawing the label must not load any resource
+    QVERIFY(resultLabel()->grab().width() > 0); // painting must not load any resource
 }
 
 void SmsResultTest::longResultDoesNotChangeTheWindow()
@@ -68,7 +68,7 @@ void SmsResultTest::longWordInAResultIsBroken()
     press();
     networkSays(QString(60, QLatin1Char('M')));
     const QImage shown = resultLabel()->grab().toImage();
-    // Text is also drawn below the first line.
+    // Text must also be painted below the first line.
     const int secondLine = resultLabel()->fontMetrics().height();
     QVERIFY(inkIn(shown, QRect(0, secondLine, shown.width(), secondLine)));
 }
@@ -98,7 +98,7 @@ void SmsResultTest::codeInAResultIsNotTurnedRound()
     QCOMPARE(result(), text);
 }
 
-/// Tests that a code between Arabic letters looks as if the reply had directional marks around it.
+/// Tests that a code between Arabic letters is painted as if it were enclosed in directional marks.
 void SmsResultTest::codeAmongArabicLettersIsDrawnLeftToRight()
 {
     const QString reply = QString::fromUtf8("اطلب *124# الآن");
@@ -110,8 +110,8 @@ void SmsResultTest::codeAmongArabicLettersIsDrawnLeftToRight()
     QCOMPARE(drawn, resultLabel()->grab().toImage());
 }
 
-/// Tests that the full stop is drawn to the left of the last word, as if a right-to-left mark
-/// followed it.
+/// Tests that the full stop is painted to the left of the last word, as in a right-to-left
+/// paragraph.
 void SmsResultTest::arabicResultIsARightToLeftParagraph()
 {
     const QString reply = QString::fromUtf8("مرحبا.");
@@ -163,7 +163,7 @@ void SmsResultTest::languageChangeKeepsInputAndAnswer()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests a row that is deselected but remains the current row, as after a click with Ctrl.
+/// Tests a row that is current but not selected, for example after it was clicked with Ctrl.
 void SmsResultTest::languageChangeKeepsInputOfARowNotSelected()
 {
     select(CALL);
@@ -264,7 +264,7 @@ void SmsResultTest::everyShippedServiceCanBeUsed()
         press();
         QVERIFY2(isBusy(), qPrintable(row(service)->text(0)));
         const std::vector<FakeCall> messages = fakeSdkCalls("TKSV_SMSSrv_CreateSMSRecord");
-        networkSays(latin1("answer")); // ignored if the service has sent a short message
+        networkSays(latin1("answer")); // ignored if a short message was sent
         if (!messages.empty())
             smsFared(0, QString::fromStdU16String(messages.back().number),
                      QString::fromStdU16String(messages.back().text));

@@ -1,6 +1,6 @@
 #include "SmsDialogTest.h"
 
-/** Tests when the USSD-SMS dialog sends a command or a message, and which one. */
+/** Tests when the USSD-SMS dialog sends a command or a message, and what it sends. */
 class SmsSendingTest : public SmsDialogTest
 {
     Q_OBJECT
@@ -128,8 +128,8 @@ void SmsSendingTest::smsWithInputNeedsReadinessWhileTyping()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests that the typed text decides whether the message is sent, not the number. This unusual rule
-/// is deliberate. The next two tests also depend on it.
+/// Tests that the typed text determines whether the message is sent, even if the number is empty.
+/// This unusual rule is deliberate. The next two tests depend on it as well.
 void SmsSendingTest::emptyNumberIsSentWhenTyped()
 {
     openWith(config().replace("<number>1200</number>", "<number></number>"));
@@ -150,7 +150,7 @@ void SmsSendingTest::emptyNumberIsEnabledByReadiness()
     QVERIFY(button()->isEnabled());
 }
 
-/// Tests that the click disables the field until a service is selected again.
+/// Tests that pressing the button disables the field until a service is selected again.
 void SmsSendingTest::emptyCommandIsEnabledByReadinessButNotSent()
 {
     openWith(config().replace("WEATHER %s", ""));
@@ -176,7 +176,8 @@ void SmsSendingTest::typingDoesNotEnableAnEmptyCommand()
     QVERIFY(!button()->isEnabled());
 }
 
-/// Tests that the plug-in checks the length in two different ways. This is deliberate.
+/// Tests that a text of the minimum length enables the button when it is typed, but not when the
+/// device becomes ready. This difference is deliberate.
 void SmsSendingTest::typedTextOfMinimumLengthIsEnoughButNotForReadiness()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
@@ -451,8 +452,8 @@ void SmsSendingTest::smsResultWhileNotBusyIsShown_data()
     QTest::newRow("failed") << 7 << text("IDS_SMS_SEND_FAILED");
 }
 
-/// Tests a result while the dialog is not busy. It may belong to another program that has sent the
-/// same text to the same number.
+/// Tests a result that arrives when the dialog is not busy. Such a result may belong to another
+/// program that has sent the same text to the same number.
 void SmsSendingTest::smsResultWhileNotBusyIsShown()
 {
     QFETCH(int, fared);
@@ -517,15 +518,15 @@ void SmsSendingTest::releaseErrorIsLoggedOnly()
     QCOMPARE(timesLogged("SendSMS: TKSV_SMSSrv_ReleaseSMSRecord returned error"), 1);
 }
 
-/// Tests a click at the moment when the device has reported the loss but the queued signal has not
-/// been handled. The field deliberately stays disabled until a service is selected.
+/// Tests a click that comes after the device has reported the loss, but before the queued signal is
+/// processed. The field deliberately stays disabled until a service is selected.
 void SmsSendingTest::lostReadinessAtTheLastMomentFails()
 {
     deviceSays(TKSV_SMS_STATUS_CAN_SEND);
     select(WEATHER);
     type(latin1("Oslo"));
     fakeSdkRaiseSmsStatus(TKSV_SMS_STATUS_CANNOT_SEND);
-    QVERIFY(fakeSdkWaitIdle()); // this call does not handle the queued signal
+    QVERIFY(fakeSdkWaitIdle()); // does not process the queued signal
     press();
     QCOMPARE(result(), text("IDS_SMS_SEND_FAILED"));
     QCOMPARE(smsSent(), 0);
@@ -601,7 +602,7 @@ void SmsSendingTest::whileBusySelectionIsIgnored()
     press();
     select(PREPAID);
     QTest::keyClick(tree(), Qt::Key_Down);
-    tree()->setCurrentItem(row(CALL)); // a host could make this call
+    tree()->setCurrentItem(row(CALL)); // as a host might do
     QVERIFY(input()->isHidden());
     networkSays(latin1("5.00"));
     press();

@@ -1,8 +1,8 @@
 /*
- * Sends thousands of commands while random events of all kinds happen.
+ * Sends thousands of commands while random events of all kinds occur.
  *
- *     USSD_STORM_COMMANDS  the number of commands (5000 by default; 100000 for the full storm)
- *     USSD_STORM_SEED      the seed, printed at the start
+ *     USSD_STORM_COMMANDS  the number of commands: 5000 by default, 100000 for the full test
+ *     USSD_STORM_SEED      the random seed, which is printed at the start
  */
 #include "LogicListener.h"
 #include "PipelineModel.h"
@@ -19,7 +19,7 @@
 namespace
 {
 
-// The largest value that the enumeration's type can hold. It does not belong to any dialog.
+// The largest value that the type can represent. No dialog uses it.
 const int LAST_COMPONENT = 7;
 
 int number(const char *name, int otherwise)
@@ -88,7 +88,7 @@ void StormTest::setUp()
     allowWarning("../../src/USSDUIPlugin/");
     const ReplyTimes times = {60000, 0};
     USSDLogic::setReplyTimes(times);
-    // With this configuration, no answer causes a window to send a command or to open a message
+    // With this configuration, a reply never causes a window to send a command or open a message
     // box.
     writeConfig(completeConfig()
                     .replace("name='Balance' value='true'", "name='Balance' value='false'")
@@ -118,8 +118,7 @@ QString StormTest::command()
            QLatin1Char('#');
 }
 
-/// Decides which requests the device rejects (one in twelve), and configures the device and the
-/// model accordingly.
+/// Chooses which requests are rejected (one in twelve), for both the device and the model.
 void StormTest::scriptDevice(int requests)
 {
     std::vector<FakeAnswer> script;
@@ -149,7 +148,7 @@ void StormTest::reply()
     const QString reply = QString::number(m_random());
     fakeSdkRespond(reply.toStdU16String(), dice(3));
     QVERIFY(fakeSdkWaitIdle());
-    drainEvents(); // a time-out is not queued and would overtake queued answers
+    drainEvents(); // a time-out is not queued, so it would overtake queued answers
     m_model.reply(reply);
 }
 
@@ -193,8 +192,8 @@ void StormTest::changeLanguage()
     CUSSDService::instance()->Notify(320, 0, 0);
 }
 
-/// Opens the prepaid window, which requests the subscriber's own number. The balance is not
-/// configured.
+/// Opens the prepaid window, which requests only the subscriber's own number, because the balance
+/// is not configured.
 void StormTest::openPrepaid()
 {
     m_model.clear(isDetection);
@@ -247,7 +246,7 @@ void StormTest::step()
         openOrClose();
 }
 
-/// Compares the answers and requests since the previous check with the model.
+/// Compares the answers and requests since the last check with those of the model.
 void StormTest::check()
 {
     drainEvents();
@@ -281,8 +280,8 @@ void StormTest::everyCommandIsAnsweredAsTheModelSays()
     QCOMPARE(m_model.pending(), 0);
 }
 
-/// Runs replies, time-outs, device events and clears concurrently, each on its own thread. Each
-/// command must be answered at most once, and every command that is pending at the end must be
+/// Sends replies, time-outs, device events and clear calls concurrently from separate threads. No
+/// command may be answered twice, and all commands that are still pending at the end must be
 /// answered.
 void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
 {
@@ -311,7 +310,7 @@ void StormTest::nothingIsLostWhenNobodyWaitsForAnybody()
             drainEvents();
     }
     QVERIFY(fakeSdkWaitIdle()); // a late device event would cancel the next command
-    // Commands are answered in order. When this command has been answered, no earlier one is
+    // Commands are answered in order, so when this command has been answered, no other command is
     // pending.
     USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
         USSDCmdOrResp(static_cast<_COMPONENT>(LAST_COMPONENT), QStringLiteral("*8#")), &status);

@@ -44,8 +44,8 @@ QString markup(Transcript::Direction direction, const Char &look, bool rightToLe
     return Transcript::entry(direction, look, rightToLeft, latin1("Caption: "), text).markup;
 }
 
-/// Returns the expected content of the view, which is the result of setting the complete text at
-/// once.
+/// Returns the expected content of the view: the result of setting the complete markup with
+/// setHtml().
 QString setAtOnce(const QString &entries)
 {
     TranscriptView view;
@@ -61,7 +61,7 @@ quint32 seedOfThisRun()
     return seed;
 }
 
-// The parts of random texts. Each kind of text is difficult in its own way.
+// The pieces for random texts, grouped by the kind of problem that they can cause.
 const char *const WORDS[] = {"Balance", "12.50 EUR", "*100#", "1) Yes", "a", "%s", "%1", "-", "0"};
 const char *const ARABIC[] = {"رصيدك", "١٢٣", "اضغط 1", "ل", "\u200f", "\u200e"};
 const char *const BREAKS[] = {"\n", "\n\n", "\r", "\r\n", "\n ", " \n"};
@@ -112,7 +112,7 @@ Piece anyOf(const char *const (&pieces)[Count])
     return [&pieces](std::mt19937 &random) { return oneOf(pieces, random); };
 }
 
-/// Returns a random text. About one piece in three is of one of the given kinds.
+/// Returns a random text. About one piece in three has one of the given kinds.
 QString randomText(const QVector<Piece> &kinds, std::mt19937 &random)
 {
     QString text;
@@ -129,7 +129,7 @@ struct RandomEntries {
     QVector<Piece> kinds;
     bool leftToRight;
     bool rightToLeft;
-    int oftenBlank; ///< one in this many captions is blank
+    int oftenBlank; ///< one caption out of this many is blank
     std::mt19937 &random;
 
     bool isRightToLeft() { return rightToLeft && (!leftToRight || random() % 2 == 0); }
@@ -167,8 +167,9 @@ QVector<Piece> kindsNamed(const QByteArray &name)
     return text + odd + QVector<Piece>{anyOf(ENTITIES), anyOf(CLOSED), anyOf(OPEN)};
 }
 
-/// Returns true if entries of this kind are usually inserted. For the other kinds, the whole text
-/// is set for each entry, so fewer entries can be tested in the same time.
+/// Returns true if entries of this kind can usually be inserted into the document. For all other
+/// kinds, each new entry sets the complete markup again, which is slower, so fewer entries are
+/// tested.
 bool isInsertedAsARule(const QByteArray &kind)
 {
     return kind == "words" || kind == "texts" || kind == "odd characters" || kind == "entities";
@@ -186,7 +187,7 @@ class TranscriptTest : public UssdTest
     Q_OBJECT
 
 private slots:
-    // markup
+    // ---- markup
     void entryIsWrittenExactly();
     void receivedEntryEndsWithABreak();
     void rightToLeftParagraphSaysSo();
@@ -205,7 +206,7 @@ private slots:
     void bracketAsALetterReachesNotOn();
     void documentIsOneHtmlElement();
 
-    // the view
+    // ---- view
     void randomEntriesEqualTheWholeTextSetAtOnce_data();
     void randomEntriesEqualTheWholeTextSetAtOnce();
     void fewEntriesEqualTheWholeTextSetAtOnce_data();
@@ -217,7 +218,7 @@ private slots:
     void entriesAfterClearingAreLikeTheFirst();
     void entriesHoldsTheMarkupOfAll();
 
-    // no resource is loaded
+    // ---- resources
     void deviceThatNeverEndsIsNotRead_data();
     void deviceThatNeverEndsIsNotRead();
     void pictureOfARealFileIsNotShown();
@@ -320,7 +321,7 @@ void TranscriptTest::textGoesInAsItIs()
                 .endsWith(latin1(">Caption: <b>&amp;%1%s</b></span></p>")));
 }
 
-/// Returns the visible text of a reply that stands between two others.
+/// Returns the visible text of a reply that is shown between two other replies.
 static QString shown(const QString &text)
 {
     TranscriptView view;
@@ -454,8 +455,7 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce_data()
     addKindsAndDirections();
 }
 
-/// Tests that an entry with unclosed markup does not hide the entries that follow, even in a long
-/// transcript.
+/// Tests that unclosed markup in an entry does not hide later entries, even in a long transcript.
 void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
 {
     QFETCH(QByteArray, kind);
@@ -469,7 +469,8 @@ void TranscriptTest::fewEntriesEqualTheWholeTextSetAtOnce()
         compareWhileGrowing(source, 5, 1);
 }
 
-/// Adds an entry. Returns the position of the first character that changes, or -1 if none does.
+/// Adds an entry. Returns the position of the first changed character, or -1 if nothing has
+/// changed.
 int TranscriptTest::firstChangeBy(TranscriptView &view, const Transcript::Entry &entry)
 {
     int first = -1;
@@ -503,7 +504,7 @@ void TranscriptTest::afterClearingEntriesAreInsertedAgain()
     view.appendEntry(
         Transcript::entry(Received, look(200, 0, 0, 0), false, latin1("R: "), latin1("<b>")));
     view.appendEntry(plain);
-    QCOMPARE(firstChangeBy(view, plain), 0); // after markup, the complete text is set again
+    QCOMPARE(firstChangeBy(view, plain), 0); // after markup, the complete transcript is set again
     view.clearEntries();
     view.appendEntry(plain);
     QVERIFY(firstChangeBy(view, plain) > 0);
@@ -585,8 +586,7 @@ void TranscriptTest::deviceThatNeverEndsIsNotRead_data()
                           << latin1(")\"><li>x</ul>");
 }
 
-/// Tests that a named pipe is not opened. Opening it would wait for a writer, and the watchdog
-/// would end the test.
+/// Tests that a named pipe is not opened. Opening it would block until the watchdog ends the test.
 void TranscriptTest::deviceThatNeverEndsIsNotRead()
 {
     QFETCH(QString, before);
@@ -654,7 +654,7 @@ void TranscriptTest::resourcesAreAnsweredWithoutAFile()
         QUrl::fromLocalFile(writeFile(latin1("real"), "p { color: red } <b>content</b>"));
     TranscriptView view;
     const QVariant answer = view.document()->resource(type, url);
-    QVERIFY(!answer.isNull()); // for a null answer, Qt would open the file itself
+    QVERIFY(!answer.isNull()); // with a null answer, Qt would open the file
     if (type == QTextDocument::ImageResource)
         QCOMPARE(answer.value<QImage>().size(), QSize(1, 1));
     else

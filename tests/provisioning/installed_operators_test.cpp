@@ -14,8 +14,8 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests that the plug-in's own code can read the files of every operator in the installed
-/// database.
+/// Tests that the plug-in's own code can read the generated files for all operators in the
+/// installed database.
 class InstalledOperatorsTest : public PluginTest
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ ProviderChoice choiceFor(const QString &network)
     return chooseProvider(g_database, query);
 }
 
-/// Returns the usable codes, determined independently of the code under test.
+/// Returns the usable codes. They are determined without the code under test.
 QStringList usableCodes(const Provider &provider)
 {
     QStringList codes;
@@ -178,7 +178,7 @@ void InstalledOperatorsTest::operatorsOfTheDatabase()
     QFETCH(int, index);
     const Provider &provider = g_database.providers.at(index);
     const ProvisionPlan plan = provisionPlan(provider);
-    if (plan.isEmpty()) { // the operator has only phone numbers, or messages without a text
+    if (plan.isEmpty()) { // only phone numbers, or messages without a text
         QCOMPARE(usableCodes(provider), QStringList());
         QVERIFY(!plan.notes.isEmpty());
         return;
@@ -193,11 +193,11 @@ void InstalledOperatorsTest::operatorsOfTheDatabase()
     checkProfiles(plan);
     checkSims(plan);
     checkServices(plan);
-    // Saving in the plug-in's editor without any edits does not change the file.
+    // Saving unchanged profiles in the editor does not change the file.
     QCOMPARE(USSDEditCmd().saveToXMLFile(true), 0);
     QCOMPARE(readProvision(order.folder).changedFiles, QStringList());
     QCOMPARE(readProvision(order.folder).record.provider, provider.name());
-    // All codes of the database are in the file.
+    // The file contains all usable codes from the database.
     QStringList codes;
     QList<USSDProfile> profiles;
     USSDEditCmd().GetProfileList(profiles);
@@ -222,7 +222,7 @@ void InstalledOperatorsTest::checkAccount(const ProvisionPlan &plan)
     PrePostDiffer detection;
     detection.value = true;
     USSDLogic::GetUSSDLogicInstance()->GetPrePostDiffer(detection);
-    QVERIFY(!detection.value); // the database has no code for the detection request
+    QVERIFY(!detection.value); // the database contains no detection code
     if (plan.topUp.isEmpty())
         return;
     QString longest = plan.topUp;

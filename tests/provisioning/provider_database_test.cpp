@@ -4,7 +4,7 @@
 
 using namespace Provisioning;
 
-/// Tests the parser with valid, malformed and malicious databases.
+/// Tests the database parser with valid, malformed and malicious files.
 class ProviderDatabaseTest : public UssdTest
 {
     Q_OBJECT
@@ -195,8 +195,8 @@ void ProviderDatabaseTest::everyPrefixOfADatabaseIsReadOrRefused()
     }
 }
 
-/// Tests that no piece of a large document is lost or read twice. The Euro sign has three bytes, so
-/// some of the signs are in two pieces.
+/// Tests that a large file, which is read in chunks, is read completely and only once. A euro sign
+/// has three bytes, so some euro signs are split between two chunks.
 void ProviderDatabaseTest::largeDatabaseIsReadInPieces()
 {
     QByteArray gsm = "<!--" + QByteArray(60000, 'a') + "--><balance-check>\n";

@@ -11,7 +11,8 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests where an operator's codes are placed, and the files that are generated from them.
+/// Tests how an operator's codes are distributed to the windows, and the files that are generated
+/// for them.
 class ProvisionPlanTest : public UssdTest
 {
     Q_OBJECT
@@ -91,7 +92,7 @@ void ProvisionPlanTest::templates_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("takesInput");
     QTest::addColumn<QString>("replacement");
-    QTest::addColumn<QString>("expected"); // empty if the code is not usable
+    QTest::addColumn<QString>("expected"); // empty if the code cannot be used
     const auto plain = [](const char *text, const char *expected) {
         QTest::newRow(text) << latin1(text) << false << QString() << latin1(expected);
     };
@@ -102,7 +103,7 @@ void ProvisionPlanTest::templates_data()
     plain("*101#", "*101#");
     plain("#123#", "#123#");
     plain("*#10#", "*#10#");
-    plain("*101*CODE#", ""); // without the attribute, nothing is replaced
+    plain("*101*CODE#", ""); // nothing is replaced without the attribute
     plain("*101*%s#", "");
     plain("*101", "");
     plain("101#", "");
@@ -161,7 +162,7 @@ void ProvisionPlanTest::firstUsableCodeGoesIntoTheAccountWindow()
     QCOMPARE(plan.balance, latin1("*1#"));
     QCOMPARE(plan.ownNumber, latin1("*3#"));
     QCOMPARE(plan.topUp, latin1("*4*%s#"));
-    QCOMPARE(plan.profiles.count(), 5); // with a placeholder before the top-up
+    QCOMPARE(plan.profiles.count(), 5); // includes a placeholder before the top-up
     QCOMPARE(plan.profiles.at(0).langID, latin1("IDS_PROFILE_BALANCE"));
     QCOMPARE(plan.profiles.at(1).langID, QString());
     QCOMPARE(plan.profiles.at(1).name, latin1("*2#"));
@@ -186,7 +187,7 @@ void ProvisionPlanTest::plainCodesGetButtonsBeforeTwoPaymentButtons()
     asked.balance << code("*1#") << code("*2#");
     QCOMPARE(shown(provisionPlan(asked)), QStringList()
                                               << latin1("*1#") << latin1("*2#") << QString()
-                                              << QString()); // two placeholders
+                                              << QString()); // ends with two placeholders
     asked.topUp << replaced("*4*X#", "X");
     QCOMPARE(shown(provisionPlan(asked)),
              QStringList() << latin1("*1#") << latin1("*2#") << QString() << latin1("*4*%s#"));
@@ -239,7 +240,7 @@ void ProvisionPlanTest::callsAndAnswersAreNoted()
     asked.balance << code("*100#", ProviderCode::UssdResponse);
     const ProvisionPlan plan = provisionPlan(asked);
     QCOMPARE(shown(plan).value(0), latin1("*100#"));
-    QCOMPARE(plan.balance, QString()); // the account window cannot show the menu in the reply
+    QCOMPARE(plan.balance, QString()); // the account window does not support menus
 }
 
 void ProvisionPlanTest::networkOfTheSimBecomesAPrefix()
@@ -266,9 +267,9 @@ void ProvisionPlanTest::nameCannotEndTheComment()
     QCOMPARE(sections.count(latin1("Prepaid")), 1);
 }
 
-/// Tests that the generated file is identical to the file that the editor saves, even if the name
-/// has characters that XML does not allow. Saving an identical file does not count as a change by
-/// the user.
+/// Tests that the generated file is identical to the file that the editor would save, even if the
+/// name contains characters that are invalid in XML. Saving without changes must not count as a
+/// change.
 void ProvisionPlanTest::profilesHaveTheBytesThatTheEditorWrites()
 {
     ProvisionPlan plan;

@@ -11,7 +11,8 @@
 
 using namespace Provisioning;
 
-/// Tests that no file created or changed by hand is lost, at whatever step the program is killed.
+/// Tests that no file that the user has created or changed is lost, even if the program is killed
+/// at any step.
 class ProvisionWriterTest : public UssdTest
 {
     Q_OBJECT
@@ -62,7 +63,7 @@ ProvisionPlan planOf(const char *name)
     return plan;
 }
 
-/// Returns files with arbitrary content. The writer does not check the content.
+/// Returns files with arbitrary content, because the writer does not check it.
 ProvisionFiles filesOf(const char *name)
 {
     ProvisionFiles files;
@@ -92,7 +93,7 @@ void ProvisionWriterTest::change(const char *file, const QByteArray &text)
     QCOMPARE(out.write(text), qint64(text.size()));
 }
 
-/// Returns true if both files in use and the record belong to this operator.
+/// Returns true if the two files in use and the record are those of this operator.
 bool ProvisionWriterTest::isWhole(const char *name)
 {
     const Provision provision = readProvision(target());
@@ -255,12 +256,12 @@ void ProvisionWriterTest::pluginLinkFollowsThePlugin()
     order.pluginLibrary = first;
     QCOMPARE(writeProvision(order, planOf("One"), filesOf("One")).state, ProvisionOutcome::Written);
     QCOMPARE(content("libUSSDUIPlugin.so"), QByteArray("first"));
-    QVERIFY(isWhole("One")); // a changed link does not count as a change of the files
+    QVERIFY(isWhole("One")); // changing the link does not count as changing the files
     order.pluginLibrary = second;
     QCOMPARE(writeProvision(order, planOf("One"), filesOf("One")).state, ProvisionOutcome::Current);
     QCOMPARE(content("libUSSDUIPlugin.so"), QByteArray("second"));
     QCOMPARE(writeProvision(order, planOf("Two"), filesOf("Two")).state, ProvisionOutcome::Written);
-    QCOMPARE(contentOf(second), QByteArray("second")); // the writer must not write through the link
+    QCOMPARE(contentOf(second), QByteArray("second")); // the writer does not follow the link
 }
 
 void ProvisionWriterTest::unwritableFolderIsSaid()
@@ -271,7 +272,7 @@ void ProvisionWriterTest::unwritableFolderIsSaid()
     QVERIFY(outcome.problem.contains(target()));
 }
 
-/// Runs the writer in a child process that is killed before the given step. Returns its exit code.
+/// Runs the writer in a child process that is killed before this step. Returns the exit code.
 int ProvisionWriterTest::runKilled(int step, const char *name)
 {
     const pid_t child = fork();
@@ -295,9 +296,9 @@ void ProvisionWriterTest::killBetweenAnyStepsLeavesOldOrNew()
         QVERIFY(result == KILLED || result == 0);
         const bool isNew = isWhole("New");
         QVERIFY2(isNew || isWhole("Old"), qPrintable(QString::number(step)));
-        QVERIFY(isNew || !sawNew); // once the new files are in use, they stay in use
+        QVERIFY(isNew || !sawNew); // the new files must stay in use
         sawNew = isNew;
-        // The next run succeeds and removes left-over files.
+        // The next run must succeed and remove the left-over files.
         QVERIFY(write("New").problem.isEmpty());
         QVERIFY(isWhole("New"));
         const QDir sets(target() + QLatin1String("/provisioned"));

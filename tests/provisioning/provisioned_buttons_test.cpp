@@ -8,7 +8,7 @@
 using namespace Formats;
 using namespace Provisioning;
 
-/// Tests the preset buttons of the general dialog for every operator in the installed database.
+/// Tests the preset buttons of the general dialog for all operators in the installed database.
 class ProvisionedButtonsTest : public DialogTest
 {
     Q_OBJECT
@@ -36,8 +36,8 @@ QByteArray g_shipped;
 
 const char NUMBER[] = "1234";
 
-/// Returns the codes that a network accepts, determined independently of the tested code. `number`
-/// replaces the input.
+/// Returns the codes that a network would accept, with the number inserted if `takesInput` is true.
+/// The codes are determined without the code under test.
 QStringList usableCodes(const Provider &provider, bool takesInput)
 {
     QStringList codes;
@@ -84,7 +84,7 @@ void ProvisionedButtonsTest::provision(const Provider &provider)
     writeSystemProfiles(files.profiles);
 }
 
-/// Presses each enabled preset button. Returns the codes that were sent.
+/// Presses all enabled preset buttons. Returns the codes that were sent.
 QStringList ProvisionedButtonsTest::sentByEnabledButtons()
 {
     const int before = requests().count();
@@ -99,8 +99,8 @@ QStringList ProvisionedButtonsTest::sentByEnabledButtons()
     return requests().mid(before);
 }
 
-/// Enters the number anew for each disabled preset button, and presses the button. Returns the
-/// codes that were sent.
+/// For each disabled preset button, enters the number and presses the button. Returns the codes
+/// that were sent.
 QStringList ProvisionedButtonsTest::sentWithNumber(const QString &number)
 {
     const int before = requests().count();
@@ -155,7 +155,8 @@ void ProvisionedButtonsTest::ownCodeLeavesTheButtonsOfTheOperatorAsTheyAre_data(
     addOperatorsWithCodes();
 }
 
-/// The user's own code follows those of the operator, so it is one of the two payment buttons.
+/// Tests that the user's own code is appended after the operator's codes, so that it becomes the
+/// last button.
 void ProvisionedButtonsTest::ownCodeLeavesTheButtonsOfTheOperatorAsTheyAre()
 {
     QFETCH(int, index);

@@ -1,14 +1,14 @@
-// Deliberate faults. CTest runs each of them separately and expects a report from the address
-// sanitizer.
+// Contains deliberate errors. CTest runs each of them separately, and expects a report from the
+// address sanitizer.
 #include <cstdio>
 #include <cstring>
 #include <limits>
 
 namespace
 {
-int *volatile g_kept = nullptr; // volatile, so that the compiler keeps it although it is unused
+int *volatile g_kept = nullptr; // volatile, so that the compiler does not remove it
 
-// Volatile variables prevent compiler warnings about the faults.
+// The volatile variables prevent compiler warnings about the errors.
 int readAfterFree()
 {
     int *volatile value = new int(1);

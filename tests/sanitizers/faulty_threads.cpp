@@ -4,8 +4,8 @@
 
 #include <thread>
 
-/// Deliberate faults. CTest runs each of them separately and expects a report from the thread
-/// sanitizer.
+/// Contains deliberate errors. CTest runs each of them separately, and expects a report from the
+/// thread sanitizer.
 class FaultyThreads : public UssdTest
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ void FaultyThreads::twoThreadsWriteOneInt()
     other.join();
 }
 
-// Writes before the signal are synchronized; a write after it is a race.
+// A write before the signal is emitted is synchronised, but a write after this is a data race.
 void FaultyThreads::writesAfterItsSignal()
 {
     int seen = -1;

@@ -9,8 +9,8 @@
 #include <thread>
 #include <vector>
 
-/// Runs correct code of all kinds that this project uses between threads. No sanitizer may report
-/// it.
+/// Runs correct code that uses every kind of thread synchronisation in this project. The sanitizers
+/// must not report any of it.
 class QueuedSignalsTest : public UssdTest
 {
     Q_OBJECT
@@ -217,7 +217,7 @@ void QueuedSignalsTest::mutexMayStandWhereAnotherStood()
     for (int round = 0; round < ROUNDS; ++round) {
         QMutex first;
         QMutex second;
-        // Alternating order of locking, with new mutexes.
+        // The order of locking alternates, but each round uses new mutexes.
         QMutex *outer = round % 2 ? &first : &second;
         QMutex *inner = round % 2 ? &second : &first;
         const QMutexLocker outerLock(outer);
@@ -232,7 +232,7 @@ void QueuedSignalsTest::whatAThreadWroteIsSeenAfterItsEnd()
     for (int round = 0; round < 20; ++round) {
         QScopedPointer<QThread> thread(QThread::create([&] { m_plain = round; }));
         thread->start();
-        while (round % 2 && !thread->isFinished()) // every second wait() returns at once
+        while (round % 2 && !thread->isFinished()) // in odd rounds, wait() returns at once
             QThread::yieldCurrentThread();
         QVERIFY(thread->wait());
         QCOMPARE(m_plain, round);

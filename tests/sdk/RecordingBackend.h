@@ -9,7 +9,7 @@
 namespace Tksv
 {
 
-/** A backend that records every request. Accepts all requests unless `status` is set. */
+/** A backend that records all requests. It accepts them unless `status` is set to another value. */
 class RecordingBackend : public Backend
 {
 public:

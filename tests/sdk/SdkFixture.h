@@ -11,7 +11,7 @@
 
 #include "tksv.h"
 
-/** Collects values from other threads in the order in which they arrive. */
+/** Collects values from other threads in the order of their arrival. */
 template <typename T>
 class Inbox
 {
@@ -23,8 +23,8 @@ public:
         m_changed.notify_all();
     }
 
-    /// Waits up to ten seconds until at least `count` values have arrived. Returns false if fewer
-    /// values have arrived by then.
+    /// Waits up to ten seconds until at least `count` values have arrived. Returns false on
+    /// time-out.
     bool waitFor(std::size_t count)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -50,12 +50,12 @@ private:
     std::vector<T> m_items;
 };
 
-/** Blocks threads until the gate is opened. */
+/** Blocks threads until it is opened. */
 class Gate
 {
 public:
     void open();
-    /// Returns false if the gate is still closed after ten seconds.
+    /// Waits up to ten seconds until the gate is opened. Returns false on time-out.
     bool wait();
 
 private:
@@ -77,7 +77,7 @@ struct SmsResult {
     std::u16string text;
 };
 
-/** The data that the three call-backs of the fixture have received. */
+/** The data that the fixture's three call-backs have received. */
 struct Received {
     Inbox<Response> responses;
     Inbox<int> deviceEvents;
@@ -91,18 +91,18 @@ namespace SdkFixture
 
 Received &received();
 
-/// Switches the device to the network that the scenario describes, and returns when the device is
-/// ready. The times in the scenario are relative to this moment. Returns an empty string on
-/// success. There is a separate implementation for each type of device.
+/// Switches the device to the network that the scenario describes, and waits until the device is
+/// ready. The times in the scenario start at this moment. Returns an empty string on success,
+/// otherwise an error message. Each type of device has its own implementation.
 std::string useNetwork(const std::string &scenario);
 
-/** The differences between devices. */
+/** The differences between types of devices. */
 struct Abilities {
-    /// If true, a call fails if the device fails. If ModemManager controls the device, the device
-    /// fails only after the call has returned, and the response reports the failure.
+    /// If true, a request that the device cannot send fails immediately. With ModemManager, the
+    /// request is accepted, and the response reports the failure later.
     bool failsInTheCall = true;
     bool sendsEmptySms = true;
-    /// If false, the device supports only UCS2, which lacks the characters that need two code
+    /// If false, the device supports only UCS2, which lacks characters that need two UTF-16 code
     /// units.
     bool knowsAllOfUnicode = true;
 };
@@ -115,34 +115,33 @@ unsigned char onUssd(int event, void *data);
 unsigned char onDevice(int event, void *data);
 unsigned char onSms(int event, void *data);
 
-/** Runs an action in the USSD call-back, after the response has been recorded. */
+/** Runs an action inside the USSD call-back, after the response has been recorded. */
 class InsideUssd
 {
 public:
     explicit InsideUssd(std::function<void(const Response &)> action);
-    /// Waits until the action is no longer running. The objects to which the action refers may then
-    /// be deleted.
+    /// Waits until the action is not running, so that objects to which it refers can be deleted.
     ~InsideUssd();
     InsideUssd(const InsideUssd &) = delete;
     InsideUssd &operator=(const InsideUssd &) = delete;
 };
 
-/// Sends the command and returns the result of the call.
+/// Sends the command. Returns the result of the request function.
 long request(const std::u16string &text, int *status = nullptr);
-/// Sends the command and returns the response. The type is -1 if no response arrives.
+/// Sends the command and waits for the response. If there is no response, its type is -1.
 Response ask(const std::u16string &text);
 
 /**
- * Runs an action that must finish within `milliseconds`, because the network sends something after
- * this time. Each attempt starts with a call of `prepare`. On a busy machine, several attempts may
- * be necessary. Returns false if no attempt was fast enough.
+ * Runs an action that must finish within `milliseconds`, before the network sends its next message.
+ * Each attempt starts with a call of `prepare`. Because the machine may be busy, several attempts
+ * are made. Returns false if all attempts were too slow.
  */
 bool doInTime(int milliseconds, const std::function<void()> &prepare,
               const std::function<void()> &action);
 
 long sendSms(const std::u16string &number, const std::u16string &text);
 
-/// Waits up to ten seconds until the condition is true. Returns false if it is not true by then.
+/// Waits up to ten seconds until the condition is true. Returns false on time-out.
 bool waitUntil(const std::function<bool()> &condition);
 
 } // namespace SdkFixture

@@ -1,4 +1,4 @@
-/* Implements the network of the SDK fixture with the simulator. */
+/* Implements SdkFixture::useNetwork() with the simulator. */
 #include <cstdio>
 #include <fstream>
 #include <unistd.h>

@@ -1,5 +1,6 @@
 #!/bin/sh
-# check_exit.sh PROGRAM MODE: tests that the program ends with the exit code that it requests.
+# check_exit.sh PROGRAM MODE: tests that the program ends with the exit code that it passes to
+# exit().
 code=0
 "$1" "$2" || code=$?
 if [ "$code" -ne 42 ]; then

@@ -1,6 +1,6 @@
 #!/bin/sh
-# check_header.sh C-COMPILER C++-COMPILER HEADER...: tests that each header compiles on its own, in
-# old and new C and in C++.
+# check_header.sh C-COMPILER C++-COMPILER HEADER...: tests that each header compiles on its own with
+# several C and C++ standards.
 set -eu
 c=$1
 cxx=$2

@@ -1,5 +1,6 @@
 #!/bin/sh
-# check_initial_device.sh PROGRAM SCENARIO: tests that the simulator is used only if it is selected.
+# check_initial_device.sh PROGRAM SCENARIO: tests that the simulator is used only if it has been
+# selected.
 set -eu
 program=$1
 scenario=$2

@@ -1,6 +1,6 @@
 #!/bin/sh
-# check_layout.sh COMPILER BITS HEADER: tests that the records of tksv.h have the layout that the
-# header itself asserts, and that a record with another layout does not compile.
+# check_layout.sh COMPILER BITS HEADER: tests that the static assertions in tksv.h about the layout
+# of the records hold, and that a record with a different layout does not compile.
 set -eu
 compiler=$1
 bits=$2
@@ -8,7 +8,7 @@ header=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# Compilers for other processors than x86 do not know the option -m.
+# Compilers for processors other than x86 do not support the option -m.
 case $("$compiler" -dumpmachine) in
 x86_64* | i?86*) machine=-m$bits ;;
 *) machine= ;;
@@ -24,7 +24,7 @@ compiles() {
 } >"$work/good.h"
 compiles "$work/good.h"
 
-# breaks EDIT: edits the header with sed and requires that the result does not compile.
+# breaks EDIT: edits the header with sed, and requires that the edited header does not compile.
 breaks() {
     sed "$1" "$header" >"$work/bad.h"
     if cmp -s "$header" "$work/bad.h"; then

@@ -1,7 +1,6 @@
 /*
- * A client that exits while the library is busy. The first argument selects the moment of the exit.
- * The client must end with the exit code that it requested, regardless of what the library is
- * doing.
+ * A program that exits while the library is busy. The first argument selects when the program
+ * exits. It must end with the exit code that it passes to exit().
  */
 #include <atomic>
 #include <cstdio>
@@ -17,8 +16,8 @@ namespace
 const int ASKED_EXIT_CODE = 42;
 
 std::atomic<bool> entered(false);
-// A pointer instead of an object with a destructor, because other threads read the mode until the
-// process ends.
+// A pointer, because an object with a destructor would be destroyed while other threads still use
+// it.
 const char *mode = "";
 
 bool isMode(const char *name)

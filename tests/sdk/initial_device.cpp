@@ -1,4 +1,4 @@
-/* Prints the type of device that the library uses initially. */
+/* Prints the type of device that the library uses after it has been loaded. */
 #include <cstdio>
 
 #include "tksv_device.h"

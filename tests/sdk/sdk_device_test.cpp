@@ -129,7 +129,7 @@ void SdkDevice::pinUnlocksTheSim()
     QCOMPARE(TKSV_Device_SendPin("4711"), 0L);
     QVERIFY(waitUntil([] { return info().state == TKSV_DEVICE_REGISTERED; }));
     QCOMPARE(int(info().problem), int(TKSV_PROBLEM_NONE));
-    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is unlocked and does not expect a PIN
+    QVERIFY(TKSV_Device_SendPin("4711") != 0); // the SIM card is not locked
 }
 
 void SdkDevice::pinsThatCannotBeAreRefused()
@@ -181,7 +181,7 @@ void SdkDevice::badScenarioChangesNothing()
     const std::string complaint = useNetwork("[Network]\nOperator=x\n");
     QVERIFY(QByteArray(complaint.c_str()).endsWith(":1: [Network]: expected a key IMSI"));
     QCOMPARE(info().operatorName, "Test Net");
-    QCOMPARE(ask(u"1").type, 0); // the session is also still open
+    QCOMPARE(ask(u"1").type, 0); // the session is still open
     unregisterAll();
     received().clear();
 }
@@ -241,7 +241,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
 {
     Gate first;
     Gate second;
-    // In this network, no event happens without a request.
+    // Without a request, nothing happens in this network.
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QCOMPARE(TKSV_Device_SetInfoCallback(countInfo, &first), 0L);
     QCOMPARE(TKSV_Device_SetInfoCallback(openGate, &second), 0L);
@@ -249,7 +249,7 @@ void SdkDevice::infoCallbackIsOneAtMost()
     QCOMPARE(useNetwork(SCENARIO_START), std::string());
     QVERIFY(second.wait());
     QCOMPARE(TKSV_Device_SetInfoCallback(nullptr, nullptr), 0L);
-    QCOMPARE(infoCalls.load(), 0); // the first call-back was replaced
+    QCOMPARE(infoCalls.load(), 0); // the first call-back is no longer registered
 }
 
 QTEST_APPLESS_MAIN(SdkDevice)

@@ -1,6 +1,6 @@
 /*
- * Tests how requests fail and how they are cancelled, with any device. The tests use the C headers
- * and a fixture that gives the device a network.
+ * Tests how requests fail and how they are cancelled. The tests use only the C headers and a
+ * fixture that provides a network, so they can be run with any type of device.
  */
 #include <QtTest>
 
@@ -114,8 +114,8 @@ void SdkFailures::emptyResponseHasTheReasonAsItsType()
     QCOMPARE(lastFailure().text, "");
 }
 
-/// Tests the closing message. With a modem, the message is empty because ModemManager 1.20 drops
-/// it.
+/// Tests the network's closing message. With a modem, it is empty because ModemManager 1.20
+/// discards it.
 void SdkFailures::closingTextIsReported()
 {
     QCOMPARE(ask(u"*134#").type, int(TKSV_FAILURE_ENDED_BY_NETWORK));
@@ -129,12 +129,13 @@ void SdkFailures::replyIsNoFailure()
 {
     ask(u"*130#");
     QCOMPARE(request(u"*133#"), 0L);
-    QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_NONE)); // the newest request is in flight
+    // A new request clears the failure of the previous one.
+    QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_NONE));
     QCOMPARE(ask(u"*100#").type, 0);
     QCOMPARE(int(lastFailure().reason), int(TKSV_FAILURE_NONE));
 }
 
-/// Makes a newer request on another thread while the call-back of the empty response runs.
+/// Sends another request from a second thread while the call-back is handling the empty response.
 void SdkFailures::reasonBelongsToTheResponseInItsCallback()
 {
     std::atomic<int> inside(-1);
@@ -156,7 +157,7 @@ void SdkFailures::reasonBelongsToTheResponseInItsCallback()
     QCOMPARE(inside.load(), int(TKSV_FAILURE_NOT_SUPPORTED));
     QCOMPARE(outside.load(), int(TKSV_FAILURE_NONE));
     QCOMPARE(afterRequest.load(), int(TKSV_FAILURE_NONE));
-    unregisterAll(); // the variables are about to be deleted
+    unregisterAll(); // the variables are about to be destroyed
 }
 
 void SdkFailures::refusedRequestHasAReason_data()
@@ -207,7 +208,7 @@ void SdkFailures::sessionFollowsItsRequests()
     QCOMPARE(session().request, "1");
     QCOMPARE(request(u"*133#"), 0L);
     QCOMPARE(int(session().state), int(TKSV_SESSION_IN_FLIGHT));
-    QVERIFY(request(u"") != 0); // a refused request leaves the session as it is
+    QVERIFY(request(u"") != 0); // a rejected request does not change the session
     QCOMPARE(session().request, "*133#");
     QCOMPARE(TKSV_USSDSrv_Release(nullptr), 0L);
     QCOMPARE(int(session().state), int(TKSV_SESSION_IDLE));
@@ -225,7 +226,7 @@ void SdkFailures::requestBelongsToTheResponseInItsCallback()
     QVERIFY(inside.waitFor(1));
     QCOMPARE(inside.all()[0], std::string("*100#"));
     QCOMPARE(session().request, "*133#");
-    unregisterAll(); // the variables are about to be deleted
+    unregisterAll(); // the variables are about to be destroyed
 }
 
 void SdkFailures::cancelledRequestGetsItsResponse()
@@ -247,7 +248,7 @@ void SdkFailures::cancelIsRefusedWithoutARequest()
 {
     QVERIFY(TKSV_Device_CancelRequest() != 0);
     QCOMPARE(shown(ask(u"*120#").text), shown(u"Menu"));
-    QVERIFY(TKSV_Device_CancelRequest() != 0); // a menu is open, but no request is in flight
+    QVERIFY(TKSV_Device_CancelRequest() != 0); // a menu is open, but no request is pending
     QCOMPARE(shown(ask(u"1").text), shown(u"One"));
     QCOMPARE(received().responses.all().size(), std::size_t(2));
 }
@@ -259,14 +260,15 @@ void SdkFailures::cancelledRequestGetsNoReplyThatWaitedItsTurn()
     QCOMPARE(request(u"*131#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*100#"), 0L);
-    QVERIFY(sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(1)); // the reply has arrived
+    // When the message has been sent, the reply to the request is in the queue.
+    QVERIFY(sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(1));
     QCOMPARE(TKSV_Device_CancelRequest(), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
     QCOMPARE(shown(ask(u"*120#").text), shown(u"Menu"));
     QCOMPARE(received().responses.all()[1].type, int(TKSV_FAILURE_CANCELLED));
     QCOMPARE(received().responses.all().size(), std::size_t(3));
-    unregisterAll(); // the gate is about to be deleted
+    unregisterAll(); // the gate is about to be destroyed
 }
 
 void SdkFailures::releaseAfterCancelTakesBackTheResponse()
@@ -281,7 +283,7 @@ void SdkFailures::releaseAfterCancelTakesBackTheResponse()
     gate.open();
     QCOMPARE(shown(ask(u"*120#").text), shown(u"Menu"));
     QCOMPARE(received().responses.all().size(), std::size_t(2));
-    unregisterAll(); // the gate is about to be deleted
+    unregisterAll(); // the gate is about to be destroyed
 }
 
 void SdkFailures::enableIsRefusedUnlessDisabled()

@@ -1,6 +1,6 @@
 /*
- * Tests the guarantees of tksv.h, with one test for each guarantee. The tests use only tksv.h and a
- * fixture that provides the device with a network. They can therefore be run with any device.
+ * Tests each guarantee of tksv.h in a separate test. The tests use only tksv.h and a fixture that
+ * provides a network, so they can be run with any type of device.
  */
 #include <algorithm>
 #include <atomic>
@@ -80,17 +80,16 @@ QString shown(const std::u16string &text)
     return QString::fromStdU16String(text);
 }
 
-/// Sends a short message and waits for its result. When the result arrives, the device has finished
-/// all earlier requests that have no delay.
+/// Sends a short message and waits for its result. By then, the device has processed all earlier
+/// requests whose replies are not delayed.
 bool deviceHasCaughtUp()
 {
     const std::size_t before = received().smsResults.all().size();
     return sendSms(u"1", u"?") == 0 && received().smsResults.waitFor(before + 1);
 }
 
-/// Returns all responses except the failure of a request whose device disappeared. If ModemManager
-/// controls the device, the library may report this failure before it reports the loss of the
-/// device.
+/// Returns all responses except the failure that the loss of the device causes. With ModemManager,
+/// the library may report this failure before it reports the loss.
 std::vector<Response> responsesBesidesTheLoss()
 {
     std::vector<Response> all = received().responses.all();
@@ -99,16 +98,16 @@ std::vector<Response> responsesBesidesTheLoss()
     return all;
 }
 
-/// Switches to a new network without open sessions and discards all recorded responses.
+/// Switches to a new network without a session, and discards all recorded responses.
 void startAfresh()
 {
     useNetwork(NETWORK);
-    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // returns after any call-back that is running
+    TKSV_USSDSrv_UnRegisterUSSDCallback(onUssd); // waits for running call-backs
     received().responses.clear();
     TKSV_USSDSrv_RegisterUSSDCallback(onUssd);
 }
 
-/** Counts the calls of a second USSD call-back. */
+/** Counts the calls of another USSD call-back. */
 std::atomic<int> secondCalls(0);
 unsigned char secondUssd(int, void *)
 {
@@ -116,7 +115,7 @@ unsigned char secondUssd(int, void *)
     return 0;
 }
 
-/** Detects call-backs that run at the same time. */
+/** Detects call-backs that run simultaneously. */
 std::atomic<int> running(0);
 std::atomic<bool> overlapped(false);
 std::atomic<int> overlapCalls(0);
@@ -139,7 +138,7 @@ unsigned char aloneB(int, void *)
     return 1;
 }
 
-/** Detects calls that arrive after the call-back has been unregistered. */
+/** Detects calls after a call-back has been unregistered. */
 std::atomic<bool> callAllowed(false);
 std::atomic<bool> cameTooLate(false);
 unsigned char onlyWhileAllowed(int, void *)
@@ -276,13 +275,13 @@ void SdkPromises::callsReturnAtOnce()
     QCOMPARE(request(u"*112#"), 0L);
     unregisterAll();
     QCOMPARE(useNetwork(NETWORK), std::string());
-    QVERIFY(waitMilliseconds(start) < 5000); // the network would take an hour
+    QVERIFY(waitMilliseconds(start) < 5000); // the network would reply after an hour
 }
 
 void SdkPromises::longestRequestIsTaken()
 {
     const std::u16string longest = u"*" + std::u16string(TKSV_USSD_MAX_UNITS - 2, u'1') + u"#";
-    QCOMPARE(ask(longest).type, 2); // the network refuses unknown codes
+    QCOMPARE(ask(longest).type, 2); // the network refuses this unknown code
     QVERIFY(request(longest + u"#") != 0);
 }
 
@@ -313,7 +312,7 @@ void SdkPromises::callbackNeverComesInsideACall()
         if (response.text != u"first")
             return;
         inCall = true;
-        request(u"*101#"); // sent from the thread that runs the call-backs
+        request(u"*101#"); // called on the thread that runs the call-backs
         inCall = false;
     });
     QCOMPARE(request(u"*100#"), 0L);
@@ -377,7 +376,7 @@ void SdkPromises::registeredGetsOnlyWhatComesLater()
     QCOMPARE(request(u"*100#"), 0L);
     QVERIFY(received().responses.waitFor(1));
     QCOMPARE(request(u"*101#"), 0L);
-    QVERIFY(deviceHasCaughtUp()); // the second response is in the queue now
+    QVERIFY(deviceHasCaughtUp()); // the second response has been queued
     QCOMPARE(TKSV_USSDSrv_RegisterUSSDCallback(secondUssd), 0L);
     gate.open();
     QVERIFY(received().responses.waitFor(2));
@@ -500,9 +499,9 @@ void SdkPromises::codeDuringAMenuBeginsANewSession()
 {
     QCOMPARE(ask(u"*120#").type, 1);
     QCOMPARE(shown(ask(u"*100#").text), shown(u"first"));
-    QCOMPARE(ask(u"1").type, 2); // the menu is no longer open
+    QCOMPARE(ask(u"1").type, 2); // the menu has been closed
     QCOMPARE(ask(u"*120#").type, 1);
-    QCOMPARE(ask(u"#100#").type, 2); // has the form of a code, so it is not an answer
+    QCOMPARE(ask(u"#100#").type, 2); // a code, so it is not sent as an answer
 }
 
 void SdkPromises::textWithoutASessionIsNoAnswer()
@@ -697,7 +696,7 @@ void SdkPromises::lostDeviceRaisesItsEvent()
     QFETCH(int, event);
     QCOMPARE(request(code.toStdU16String()), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
-    // The device disappears and returns.
+    // 8 when the device disappears, 7 when it returns.
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{8, 7}));
     QVERIFY(received().deviceEvents.waitFor(1));
     QCOMPARE(received().deviceEvents.all(), std::vector<int>{event});
@@ -718,7 +717,7 @@ void SdkPromises::registeringSmsRaisesCanSend()
     QCOMPARE(TKSV_SMSSrv_UnRegCallBack(onSms), 0L);
     QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(1));
-    // A client that registers again receives the status again.
+    // A newly registered call-back receives the current status.
     QCOMPARE(TKSV_SMSSrv_RegCallBack(onSms), 0L);
     QVERIFY(received().smsStatus.waitFor(2));
     QCOMPARE(received().smsStatus.all(), (std::vector<int>{7, 7}));
@@ -730,13 +729,13 @@ void SdkPromises::registeringSmsRaisesNothingWhenItCannotSend()
     QCOMPARE(useNetwork("[Network]\nOperator=O\nIMSI=001010000000001\nSMS=not-ready\n"),
              std::string());
     registerAll();
-    QCOMPARE(useNetwork(NETWORK), std::string()); // this network can send
+    QCOMPARE(useNetwork(NETWORK), std::string()); // SMS is available in this network
     QVERIFY(deviceHasCaughtUp());
     QCOMPARE(received().smsStatus.all(), std::vector<int>{7});
 }
 
-/// Compares only the last recorded events, because the preceding network-change events depend on
-/// the device.
+/// Compares only the last events, because the number of preceding network changes depends on the
+/// type of device.
 void SdkPromises::smsStatusFollowsTheDevice()
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n";
@@ -773,7 +772,7 @@ void SdkPromises::smsResultNamesTheMessage()
     QFETCH(QString, number);
     QFETCH(QString, text);
     QFETCH(int, result);
-    // This call frees the record.
+    // Also frees the record.
     QCOMPARE(sendSms(number.toStdU16String(), text.toStdU16String()), 0L);
     QVERIFY(received().smsResults.waitFor(1));
     const SmsResult got = received().smsResults.all()[0];
@@ -822,7 +821,7 @@ void SdkPromises::textOfTheNetworksOwnCanBeAnswered()
     QCOMPARE(shown(ask(u"1").text), shown(u"yes"));
 }
 
-/// Sends a request that is still pending when the network-initiated message arrives.
+/// Sends a request that is pending when the network-initiated message arrives.
 bool requestDuring(const std::string &push)
 {
     const std::string network = "[Network]\nOperator=O\nIMSI=001010000000001\n"
@@ -907,8 +906,8 @@ void SdkPromises::garbageIsRefused()
     QVERIFY(TKSV_SMSSrv_SendMsg(sms) != 0);
 }
 
-/// Calls all functions concurrently, so that the sanitizers can detect faults, and checks that the
-/// device still works afterwards.
+/// Calls all functions concurrently, so that the sanitizers can detect errors. Then checks that the
+/// device still works.
 void SdkPromises::manyThreadsAtOnce()
 {
     std::vector<std::thread> threads;

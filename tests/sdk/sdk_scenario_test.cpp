@@ -1,6 +1,6 @@
 /*
- * Tests the parser of scenario files: the values of a valid file, and each error message for an
- * invalid file.
+ * Tests the parser of scenario files: the values from valid files, and the error messages for
+ * invalid files.
  */
 #include <QtTest>
 
@@ -124,7 +124,7 @@ void SdkScenario::rulesAreRead()
 
 void SdkScenario::delayOfTheNetworkIsThatOfEachReply()
 {
-    // The delay also applies if [Network] follows the groups that use the delay.
+    // The default delay applies to all groups, even if the [Network] group comes last.
     const Scenario s =
         good("[*1#]\nReply=x\n[SMS]\n[Network]\nDelay=33\nOperator=O\nIMSI=001010\n");
     QCOMPARE(s.rules.at("*1#").delay.count(), 33L);
@@ -189,7 +189,7 @@ void SdkScenario::complaints_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("complaint");
-    // `text` is appended to the four lines of a valid [Network] group.
+    // The file consists of a valid [Network] group of four lines, followed by `text`.
     const auto row = [](const char *name, const char *text, const char *complaint) {
         QTest::newRow(name) << QByteArray(text) << QString::fromUtf8(complaint);
     };
@@ -306,7 +306,7 @@ void SdkScenario::complaints()
     QFETCH(QString, complaint);
     const std::string bytes = text.toStdString();
     QCOMPARE(complaintsAbout(SCENARIO_START + bytes), complaint);
-    // An invalid file is not loaded partially.
+    // No part of an invalid file is used.
     QVERIFY(!readScenario(SCENARIO_START + bytes, "f").scenario);
 }
 

@@ -1,4 +1,4 @@
-/* Tests internal classes of the library that cannot be tested directly through the C functions. */
+/* Tests internal classes that cannot be tested through the C functions. */
 #include <atomic>
 #include <csignal>
 #include <pthread.h>
@@ -19,7 +19,7 @@ using namespace Tksv;
 namespace
 {
 
-/** A service with one listener, which records replies and either accepts or refuses them. */
+/** A service with one listener. The listener records the replies, and accepts or refuses them. */
 class Listening
 {
 public:
@@ -42,7 +42,7 @@ public:
     std::atomic<bool> takes{true};
 };
 
-/// Waits until all earlier events have been delivered or dropped.
+/// Waits until all events so far have been delivered or dropped.
 void drain(EventService &service)
 {
     Gate gate;
@@ -115,7 +115,7 @@ void SdkSession::untakenTextsAreLimited()
 void SdkSession::requestKindFollowsTheSession()
 {
     Listening l;
-    l.session.request(l.backend, "1"); // no session is open, so this request starts one
+    l.session.request(l.backend, "1"); // starts a session, because none is open
     l.session.handleReply(l.backend.requests[0].token, {UssdWaitsForAnswer, "menu"});
     drain(l.service);
     l.session.request(l.backend, "1");
@@ -190,7 +190,7 @@ void SdkSession::textDuringARequestWaitsForItsEnd()
     QVERIFY(l.replies.waitFor(2));
     QVERIFY(l.replies.all()[0].text == "reply");
     QVERIFY(l.replies.all()[1].text == "news");
-    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // this reply ends its session
+    QCOMPARE(l.replies.all()[1].type, int(UssdFinal)); // the reply that ends its session
 }
 
 void SdkSession::textDuringAMenuWaitsForItsEnd()
@@ -249,7 +249,8 @@ void SdkSession::stopDropsWhatWaits()
     gate.open();
     stopping.join();
     service.post(Event());
-    // The second event is delivered only if the service fetched it before it was stopped.
+    // There is a second call only if the service had already fetched the second event when it was
+    // stopped.
     QVERIFY(calls <= 2);
     const int before = calls;
     service.add(2, [&](int, void *) { return ++calls > 0; });
@@ -259,7 +260,7 @@ void SdkSession::stopDropsWhatWaits()
 
 void SdkSession::stopDoesNotWaitForEver()
 {
-    // The objects are never deleted, as at program exit, because the thread still uses them.
+    // As at program exit, these objects are never destroyed, because the thread still uses them.
     static Gate gate;
     static Gate left;
     static auto *service = new EventService("test");
@@ -273,7 +274,7 @@ void SdkSession::stopDoesNotWaitForEver()
     service->post(Event());
     QVERIFY(entered.wait());
     QVERIFY(!service->stop(std::chrono::milliseconds(10)));
-    QVERIFY(service->remove(1)); // does not wait for the hanging call-back
+    QVERIFY(service->remove(1)); // does not wait for the blocked call-back
     gate.open();
     QVERIFY(left.wait());
 }

@@ -1,15 +1,15 @@
 /*
  * Tests the rules of UssdSession with every order of events.
  *
- * All public functions of UssdSession lock the same mutex, so calls from several threads take
- * effect one after another. The walk tries every order of up to seven steps. A step is a request, a
- * request that the device refuses, a reply or a menu for the newest request, a cancellation, a
- * release, the loss of the device, or the start or end of a delivery. A delivery starts when the
- * service's thread checks whether the event is still valid, and ends when the call-backs have
- * returned. The same reply may arrive several times.
+ * All public functions of UssdSession lock the same mutex, so concurrent calls take effect one
+ * after another. The test tries every order of up to seven steps. A step is a request, a request
+ * that the device rejects, a reply or a menu for the latest request, a cancellation, a release, the
+ * loss of the device, or the start or end of a delivery. A delivery starts when the service's
+ * thread checks whether an event is still valid, and ends when the call-backs have returned. The
+ * device may send the same reply several times.
  *
- * The model records each request and its outcome. At the end of each order, all remaining events
- * are delivered. Each request must then have exactly one outcome.
+ * The model records all requests and their outcomes. After each order of steps, all remaining
+ * events are delivered. Each request must then have exactly one outcome.
  */
 #include <cstring>
 #include <deque>
@@ -31,7 +31,7 @@ const char *const STEP_NAMES[] = {"request", "refused request", "reply",
                                   "menu",    "cancel",          "release",
                                   "loss",    "start delivery",  "end delivery"};
 
-/** The session together with the model that predicts its behaviour. */
+/** The session, and a model that predicts its behaviour. */
 class World
 {
 public:
@@ -39,7 +39,7 @@ public:
     {
     }
 
-    /// Returns false if the step is not possible.
+    /// Performs the step. Returns false if the step is not possible.
     bool take(Step step);
     void finish();
     const char *broken() const { return m_broken; }
@@ -65,10 +65,10 @@ private:
     std::function<void(bool)> m_runningDelivery;
     const char *m_broken = nullptr;
 
-    // The model.
+    // The state that the model predicts.
     bool m_inFlight = false;
-    bool m_isCancelled = false; // the request in flight was cancelled and not yet answered
-    bool m_isReplied = false;   // the device has replied to the request in flight
+    bool m_isCancelled = false; // the pending request was cancelled and is not answered yet
+    bool m_isReplied = false;   // true after the device has replied to the pending request
     TKSV_Failure m_failure = TKSV_FAILURE_NONE;
 };
 
@@ -120,7 +120,7 @@ void World::ask(int status)
     check(isAccepted || m_session.lastFailure().wasNotSent, "a refused request is not sent");
 }
 
-/// Lets the device reply to its newest request, even if the session has ended this request.
+/// Makes the device reply to its latest request, even if the session has already ended the request.
 void World::reply(int type)
 {
     if (m_backend.requests.empty())
@@ -137,8 +137,7 @@ void World::cancel()
     m_isCancelled = m_inFlight;
 }
 
-/// Performs the steps of the service's thread for the next event, up to the call of the first
-/// call-back.
+/// Starts the delivery of the next event, up to the first call-back.
 bool World::startDelivery()
 {
     if (m_events.empty() || m_runningDelivery)
@@ -186,8 +185,8 @@ void World::expectFailure(TKSV_Failure reason)
           "the last failure is that of the newest request");
 }
 
-/// Delivers the remaining events. Every request that was ended by the device or a cancellation must
-/// then have received its response.
+/// Delivers all remaining events. Every request that the device or a cancellation has ended must
+/// then have received a response.
 void World::finish()
 {
     do
@@ -196,7 +195,7 @@ void World::finish()
     check(!m_inFlight || (!m_isReplied && !m_isCancelled), "every outcome reaches the client");
 }
 
-/** Tries each order of steps from the start, until an order breaks a rule. */
+/** Tries all orders of steps until a rule is violated. */
 class Walk
 {
 public:
@@ -215,7 +214,7 @@ private:
 bool Walk::from(int depth)
 {
     if (!replay())
-        return !m_broken; // the last step is not possible
+        return !m_broken; // an impossible step does not count as a violation
     for (int i = 0; depth > 0 && i < STEP_COUNT; ++i) {
         m_steps.push_back(Step(i));
         if (!from(depth - 1))
@@ -225,7 +224,8 @@ bool Walk::from(int depth)
     return true;
 }
 
-/// Returns false if the last step is not possible or breaks a rule.
+/// Repeats all steps from the start. Returns false if the last step is not possible or violates a
+/// rule.
 bool Walk::replay()
 {
     World world;
@@ -260,7 +260,7 @@ void SdkSessionWalk::everyRequestHasOneOutcome()
 {
     Walk walk;
     QVERIFY2(walk.from(DEPTH), walk.story().constData());
-    QVERIFY(walk.orders() > 100000); // the walk has not ended prematurely
+    QVERIFY(walk.orders() > 100000); // proves that the search was not cut short
 }
 
 QTEST_APPLESS_MAIN(SdkSessionWalk)

@@ -1,6 +1,6 @@
 /*
- * Tests how the simulated network plays a scenario. sdk_promises_test.cpp tests the guarantees that
- * apply to all devices.
+ * Tests how the simulated network executes a scenario. The guarantees that apply to all types of
+ * devices are tested in sdk_promises_test.cpp.
  */
 #include <QtTest>
 
@@ -65,7 +65,7 @@ QString answerTo(const std::u16string &text)
            QString::fromStdU16String(response.text);
 }
 
-/// Repeats the request until the device is registered and accepts the request.
+/// Repeats the request until the device has registered and accepts it.
 bool sendWhenRegistered(const std::u16string &code)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
@@ -189,7 +189,7 @@ void SdkSimulator::eventHappensAgain()
                         "[Event reset]\nAfter=5\nEvery=10\nDeviceEvent=6601\nAway=1\n"),
              std::string());
     QVERIFY(received().deviceEvents.waitFor(4));
-    // The first event came from the previous network.
+    // The first event is from the previous network.
     QCOMPARE(received().deviceEvents.all()[3], 6601);
 }
 
@@ -218,7 +218,7 @@ void SdkSimulator::lostDeviceStaysAwayForEver()
                         "[*1#]\nDeviceEvent=6601\nAway=never\n"),
              std::string());
     QCOMPARE(request(u"*1#"), 0L);
-    QVERIFY(received().deviceEvents.waitFor(2)); // the first event comes from the previous network
+    QVERIFY(received().deviceEvents.waitFor(2)); // the first one is from the previous network
     QCOMPARE(received().deviceEvents.all()[1], 6601);
     QVERIFY(request(u"*1#") != 0);
 }

@@ -1,4 +1,4 @@
-/* Tests the queue in which the programs of one user wait for the USSD session of a modem. */
+/* Tests the queue in which the programs of a user wait for their turn to use a modem for USSD. */
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
@@ -26,7 +26,7 @@ void waitForTurn(SessionTurn &turn)
         sched_yield();
 }
 
-/** A channel through which child processes report to the test. */
+/** A pipe through which child processes send bytes to the test. */
 class Pipe
 {
 public:
@@ -55,12 +55,13 @@ private:
     bool m_isOpen = false;
 };
 
-/// Runs the function in a child process. The function's result is the exit code of the process.
+/// Runs the function in a child process. The exit code of the process is the result of the
+/// function.
 pid_t startProgram(const std::function<int()> &function)
 {
     const pid_t child = fork();
     if (child == 0) {
-        alarm(60); // ends a program whose turn never comes
+        alarm(60); // ends a program that waits forever
         _exit(function());
     }
     return child;
@@ -128,10 +129,10 @@ void SdkTurn::firstComeFirstServed()
     QVERIFY(first.tryEnter());
     QVERIFY(!second.tryEnter());
     QVERIFY(!third.tryEnter());
-    QVERIFY(first.tryEnter()); // this program is still in the queue
+    QVERIFY(first.tryEnter()); // this program has kept its place in the queue
     first.leave();
     QVERIFY(!third.tryEnter());
-    QVERIFY(!first.tryEnter()); // this program is now the last one in the queue
+    QVERIFY(!first.tryEnter()); // this program is now at the end of the queue
     QVERIFY(second.tryEnter());
     second.leave();
     QVERIFY(third.tryEnter());
@@ -166,7 +167,7 @@ void SdkTurn::programsTakeTurnsInTheirOrder()
             turn.leave();
             return hasWaited ? 0 : 1;
         }));
-        QCOMPARE(waiting.read(), 'w'); // the next program must join the queue later
+        QCOMPARE(waiting.read(), 'w'); // this program has joined the queue
     }
     holder.leave();
     for (char i = 0; i < PROGRAMS; ++i)
@@ -188,7 +189,7 @@ void SdkTurn::eightProgramsAtOnceExcludeEachOther()
                 waitForTurn(turn);
                 const int file = open(inside.constData(), O_CREAT | O_EXCL | O_CLOEXEC, 0600);
                 if (file < 0)
-                    return 1; // another program has its turn at the same time
+                    return 1; // another program has its turn as well
                 sched_yield();
                 close(file);
                 unlink(inside.constData());
@@ -214,7 +215,7 @@ void SdkTurn::programThatCrashesLeavesTheQueue()
     QCOMPARE(tickets().size(), 1);
     SessionTurn next(MODEM);
     QVERIFY(next.tryEnter());
-    QCOMPARE(tickets().size(), 1); // only this program's ticket
+    QCOMPARE(tickets().size(), 1); // the ticket of this program
 }
 
 void SdkTurn::waitingProgramThatCrashesIsSkipped()
@@ -266,9 +267,9 @@ void SdkTurn::folderThatOthersCanWriteToIsNotUsed()
     QVERIFY(QDir(queues()).isEmpty());
 }
 
-/// Tests a variable that specifies a folder of another user, because a program that was started by
-/// "su" can inherit such a variable. If the program created the queue in this folder, programs of
-/// the other user could no longer use the queue.
+/// Tests an environment variable with the path of another user's folder, which a program that was
+/// started with "su" can inherit. If the program created the queue there, the other user's programs
+/// could no longer use their queue.
 void SdkTurn::runtimeFolderOfAnotherUserIsNotUsed()
 {
     const uid_t another = 65534;

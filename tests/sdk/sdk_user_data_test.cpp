@@ -1,4 +1,4 @@
-/* Tests the location of the user data directory in various environments. */
+/* Tests the path of the user data directory in different environments. */
 #include <pwd.h>
 #include <QtTest>
 #include <sys/stat.h>
@@ -15,7 +15,7 @@ QString given(const char *name)
     return QString::fromLocal8Bit(qgetenv(name));
 }
 
-/// Returns the path that the library provides, or a null string on failure.
+/// Returns the path of the user data directory, or a null string if the call fails.
 QString handedOut()
 {
     unsigned short *directory = nullptr;
@@ -98,13 +98,13 @@ void SdkUserData::homeHoldsTheFolderOtherwise()
 {
     qputenv("XDG_DATA_HOME", "");
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
-    // The second call returns the same path, although the folder exists.
+    // The path stays the same after the folder has been created.
     QCOMPARE(handedOut(), inside(".local/share/ussd-dashboard/"));
 }
 
 void SdkUserData::withoutHomeTheUserDatabaseIsAsked()
 {
-    // Only computes the path, because a test must not create anything in a real home directory.
+    // Does not create the folder, because tests must not write to a real home directory.
     qputenv("HOME", "");
     const QString home = QString::fromLocal8Bit(getpwuid(getuid())->pw_dir);
     const QString path = QString::fromStdString(Tksv::userDataFolder());

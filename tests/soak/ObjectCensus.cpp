@@ -12,7 +12,7 @@ namespace
 {
 
 /**
- * The census is never destroyed, because objects may be deleted after static objects are destroyed.
+ * Never destroyed, because objects may still be deleted after static objects have been destroyed.
  */
 struct Census {
     std::mutex mutex;

@@ -2,10 +2,8 @@
 #define OBJECTCENSUS_H
 
 /**
- * Counts the QObjects that were created since install() and still exist, with and without a parent.
- * The census uses the hooks that Qt provides for inspection tools, because there is no other way to
- * find a leaked object.
- * find a leaked object.
+ * Counts the QObjects, with or without a parent, that have been created since install() and still
+ * exist. Qt's hooks for inspection tools are the only way to find leaked objects.
  */
 namespace ObjectCensus
 {
@@ -14,7 +12,7 @@ namespace ObjectCensus
 void install();
 /// Returns the number of existing QObjects. May be called from any thread.
 int objects();
-/// Returns the number of running Qt timers in the calling thread.
+/// Returns the number of active Qt timers in the calling thread.
 int timers();
 
 } // namespace ObjectCensus

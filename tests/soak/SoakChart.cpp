@@ -57,7 +57,7 @@ private:
                area.width() * qreal(sample.commands) / qreal(m_samples.last().commands);
     }
 
-    /// Returns the upper end of the scale, which is the highest value plus a quarter.
+    /// Returns the top value of the scale: the highest value plus 25 percent.
     double top(const SoakFigure &figure) const
     {
         double highest = 1;

@@ -6,9 +6,9 @@
 
 #include "SoakSample.h"
 
-/// Draws a strip for each figure, with the number of commands on the horizontal axis and scales
-/// that start at zero. Writes the chart as a PNG file. `warm` is the index of the sample with which
-/// the last sample is compared. Returns true if the file was written.
+/// Draws a diagram for each figure and saves the diagrams as a PNG file. The horizontal axis is the
+/// number of commands, and the vertical axes start at zero. `warm` is the index of the sample with
+/// which the last sample is compared. Returns true on success.
 bool writeSoakChart(const QString &file, const QVector<SoakSample> &samples, int warm);
 
 #endif

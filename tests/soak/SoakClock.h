@@ -4,14 +4,14 @@
 #include <QtGlobal>
 
 /**
- * The clock of the simulated network and of the reply time-out. The clock advances only on request.
- * The process has only one such clock. now() may be called from any thread. All other functions
- * must be called from the GUI thread.
+ * The clock for the simulated network and the reply time-out. It advances only on request. There is
+ * only one clock in the process. now() may be called from any thread, all other functions only from
+ * the GUI thread.
  */
 namespace SoakClock
 {
 
-/// Replaces the system clock permanently.
+/// Replaces the system clock for the rest of the process.
 void install();
 void advance(int milliseconds);
 /// Returns the number of milliseconds since install().

@@ -25,10 +25,10 @@ namespace
 {
 
 const int PULSE = 5;            // milliseconds of real time
-const int STEP = 1000;          // milliseconds of simulated time in each pulse
-const int LONGEST_REPLY = 5000; // milliseconds; the slowest reply in the scenarios
+const int STEP = 1000;          // simulated milliseconds per pulse
+const int LONGEST_REPLY = 5000; // milliseconds; the longest delay in the scenarios
 const int REPLY_LIMIT = 31000;  // milliseconds; slightly longer than the plug-in waits
-// In milliseconds. The second value is short because that wait takes real time.
+// In milliseconds. The second wait takes real time, so it is short.
 const ReplyTimes TIMES = {30000, 20};
 const int RESTART_EVERY = 16; // number of rounds between restarts
 const QSize PAGE_SIZE(800, 600);
@@ -104,7 +104,7 @@ int SoakHost::cycle()
     return int(HostCore::Languages::codes().size()) * NETWORK_COUNT;
 }
 
-/// Copies the shipped files to the temporary folder of this run. Returns false on failure.
+/// Copies the shipped files to a temporary folder. Returns false on failure.
 bool SoakHost::layOutFiles()
 {
     const QString place = m_folder.filePath(QLatin1String("plugins/USSDUIPlugin"));
@@ -155,7 +155,7 @@ void SoakHost::speak(int number)
     CUSSDService::instance()->Notify(PluginContract::EVENT_LANGUAGE_CHANGED, 0, 0);
 }
 
-/// Selects another SIM and another network, as if the modem had been replaced.
+/// Switches to another SIM card and network, as if the modem had been replaced.
 void SoakHost::useNetwork(int number)
 {
     const QString file = QLatin1String(SOAK_SCENARIOS "/") +
@@ -168,7 +168,7 @@ void SoakHost::useNetwork(int number)
         CUSSDService::instance()->Notify(PluginContract::EVENT_CHECK_SIM, 0, 0);
 }
 
-/// Embeds the general window in the host's window and sends some codes.
+/// Embeds the general window in the host's window and sends several codes.
 void SoakHost::usePage()
 {
     QRect place(QPoint(), PAGE_SIZE);
@@ -188,7 +188,7 @@ void SoakHost::usePage()
     CUSSDService::instance()->Hide();
 }
 
-/// Opens the editor. Returns when pulse() has closed it.
+/// Opens the editor and waits until pulse() has closed it.
 void SoakHost::openEditor(QWidget *page)
 {
     ++m_openings;
@@ -202,7 +202,7 @@ void SoakHost::openFrame(PAID_TYPE type)
         trouble(QLatin1String("a window does not open"));
     ++m_openings;
     handleEvents();
-    waitUntilIdle(); // the window may have sent a command automatically
+    waitUntilIdle(); // the window may have sent a command itself
     QWidget *frame = openFrameWidget();
     if (!frame)
         return trouble(QLatin1String("a frame is not to be seen"));
@@ -243,10 +243,10 @@ void SoakHost::runPipeline()
     letTimeRunOut();
 }
 
-/// Sends a code that the network never answers.
+/// Sends a code to which the network never replies.
 void SoakHost::letTimeRunOut()
 {
-    waitUntilIdle(); // otherwise the code would wait in the queue while the time passes
+    waitUntilIdle(); // the code must not wait in the queue
     const qint64 before = m_answers;
     hand("*199#");
     passReplyLimit();
@@ -259,8 +259,8 @@ void SoakHost::passReplyLimit()
     replyTimer()->catchUp();
 }
 
-/// Removes the device while a command is pending, and adds it again. The timer of this command
-/// keeps running, and has nothing to report when it fires.
+/// Removes the device while a command is pending, and adds it again. The command's timer keeps
+/// running, but it has no effect when it fires.
 void SoakHost::loseDevice()
 {
     sendAndWait("*194#");
@@ -269,7 +269,7 @@ void SoakHost::loseDevice()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Advances the clock so that all replies are due. pulse() handles the replies to later commands.
+/// Advances the clock until all replies are due. Replies to later commands arrive in pulse().
 void SoakHost::waitForAnswer(qint64 before)
 {
     SoakClock::advance(LONGEST_REPLY);
@@ -277,8 +277,8 @@ void SoakHost::waitForAnswer(qint64 before)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Waits until no answer is pending at two consecutive pulses. One pulse is not enough, because for
-/// a moment between an answer and the next queued command, nothing is pending.
+/// Waits until no answer is pending in two consecutive pulses. A single pulse is not sufficient,
+/// because no answer is pending for a moment before the next queued command is sent.
 void SoakHost::waitUntilIdle()
 {
     SoakClock::advance(LONGEST_REPLY);
@@ -287,7 +287,7 @@ void SoakHost::waitUntilIdle()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Brings the process into a state in which its memory and resources can be compared.
+/// Brings the process into an idle state, so that its memory and resources can be compared.
 void SoakHost::settle()
 {
     waitUntilIdle();
@@ -299,7 +299,7 @@ void SoakHost::countAnswer()
     ++m_answers;
 }
 
-/// Advances the clock and closes dialogs like a user.
+/// Advances the clock, and closes dialogs as a user would.
 void SoakHost::pulse()
 {
     m_quietPulses = isAwaited() ? 0 : m_quietPulses + 1;

@@ -10,17 +10,17 @@
 #include "plugin/PluginContainer.h"
 #include "sim/NotificationService.h"
 
-/** The numbers of commands in one round. */
+/** The number of commands of each kind in a round. */
 struct SoakLoad {
-    int pageCommands;     // typed into the general window and sent with its button
+    int pageCommands;     // sent with the general window's Send button
     int pipelineCommands; // sent through the pipeline one by one
-    int queuedCommands;   // sent to the pipeline all at once
+    int queuedCommands;   // sent through the pipeline at once
 };
 
 /**
- * A host that uses the plug-in like a user over many months. It changes languages, opens windows,
+ * A host that uses the plug-in like a user over many months: it changes languages, opens windows,
  * sends codes with and without replies, removes devices and changes SIM cards. Everything runs in
- * this process and uses the time of SoakClock. Must be used only on the GUI thread.
+ * this process, with the time of SoakClock. All functions must be called from the GUI thread.
  */
 class SoakHost : public QObject
 {
@@ -29,16 +29,16 @@ public:
     explicit SoakHost(const SoakLoad &load);
     ~SoakHost() override;
 
-    /// Returns true if the plug-in's files could be copied and the network could be started.
+    /// Returns true if the plug-in's files have been copied and the network has been started.
     bool isReady() const { return m_isReady; }
-    /// Uses every function once. Rounds differ in language, network and restarts. After cycle()
-    /// rounds, all combinations have occurred.
+    /// Uses each function once. The language, the network and the restarts vary between rounds.
+    /// cycle() rounds cover all combinations.
     void round(int number);
     static int cycle();
 
     qint64 commands() const { return m_commands; }
     qint64 openings() const { return m_openings; }
-    /// Returns the number of commands whose outcome has been reported.
+    /// Returns the number of commands with a reported outcome.
     qint64 answers() const { return m_answers; }
     /// Returns the descriptions of all failures.
     QStringList troubles() const { return m_troubles; }

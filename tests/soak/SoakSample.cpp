@@ -15,11 +15,13 @@ namespace
 
 const double MEGABYTE = 1 << 20;
 
-/// The allowance for caches of Qt and of the C library that have no fixed size, such as glyphs,
-/// growing hash tables and free lists. In a long run, leaking one block, however small, per
-/// hundred commands exceeds the allowance, because malloc() uses at least 32 bytes for a block.
+/// The permitted growth of the heap. Some caches in Qt and the C library do not have a fixed size,
+/// for example those for glyphs and free memory. A long run still detects even a small leak: one
+/// leaked block per hundred commands exceeds this limit, because each block needs at least 32
+/// bytes.
 const double HEAP_MAY_GROW = 0.25; // megabytes
-/// The allowance for free pages between used blocks, which the C library cannot return.
+/// The permitted growth of the resident memory. The C library cannot return free pages that lie
+/// between used blocks.
 const double RESIDENT_MAY_GROW = 6; // megabytes
 
 double residentMegabytes(const SoakSample &sample)
@@ -77,7 +79,7 @@ const QVector<SoakFigure> &soakFigures()
 SoakSample takeSoakSample()
 {
     SoakSample sample;
-    // The cache keeps up to 10 MB, even if nothing uses this data again.
+    // The cache would keep up to 10 MB of unused data.
     QPixmapCache::clear();
     malloc_trim(0); // freed memory is not a leak
     sample.heapBytes = heapBytes();

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVector>
 
-/** The memory and resources of the process at a moment when it is idle. */
+/** The memory and other resources that the idle process uses. */
 struct SoakSample {
     qint64 commands = 0;       // number of commands sent since the start
     qint64 openings = 0;       // number of windows opened since the start
@@ -18,11 +18,11 @@ struct SoakSample {
     int objects = 0; // QObjects, including widgets
 };
 
-/** A figure that is compared between two samples. */
+/** A value that is compared between two samples. */
 struct SoakFigure {
     const char *name;
     double (*value)(const SoakSample &);
-    /// The permitted growth between the warm-up and the end. docs/testing.md gives the reasons.
+    /// The permitted growth between the warm-up and the end. docs/testing.md explains the limits.
     double mayGrowBy;
     const char *unit;
 };
@@ -31,7 +31,7 @@ const QVector<SoakFigure> &soakFigures();
 
 SoakSample takeSoakSample();
 
-/// Returns one line for each figure that has grown by more than permitted.
+/// Returns one line for each value that has grown more than permitted.
 QString grownBetween(const SoakSample &warm, const SoakSample &end);
 
 #endif

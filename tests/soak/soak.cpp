@@ -1,11 +1,12 @@
 /*
  * Simulates months of use in minutes. The plug-in, the device SDK and the simulated network run in
- * this process. Its memory and resources at the end are compared with those after the warm-up.
+ * this process. At the end, the memory and other resources of the process are compared with those
+ * after the warm-up.
  *
  *   soak [--commands N] [--openings N] [--report FOLDER]
  *
- * Writes soak.png and soak.txt to FOLDER. The exit code is 0 if nothing has grown and the outcome
- * of every command was reported, 2 if the run could not start, and 1 otherwise.
+ * Writes soak.png and soak.txt to FOLDER. The exit code is 0 if nothing has grown more than
+ * permitted and all commands had an outcome, 2 if the run could not be started, and 1 otherwise.
  */
 #include <QApplication>
 #include <QDir>
@@ -26,20 +27,20 @@ namespace
 
 const double HOUR = 3600 * 1000.0; // ms
 const int OPENINGS_IN_ROUND = 6;   // page, editor, four frames
-const int OTHERS_IN_ROUND = 2;     // commands: one without an answer, one cancelled by the device
+const int OTHERS_IN_ROUND = 2;     // one without a reply, and one that the device cancels
 const int SAMPLES = 200;
 
 struct Order {
     qint64 commands = 2000;
     qint64 openings = 200;
-    QString report; // a folder, or empty for no report
+    QString report; // a folder; empty for no report
 
     int rounds() const { return int((openings + OPENINGS_IN_ROUND - 1) / OPENINGS_IN_ROUND); }
     SoakLoad load() const;
 };
 
-/// Returns the load of a round. The general window sends every tenth command. Every tenth of the
-/// remaining commands goes into a queue.
+/// Returns the load of a round. The general window sends every tenth command. Of the other
+/// commands, every tenth one is queued.
 SoakLoad Order::load() const
 {
     const int each = int((commands + rounds() - 1) / rounds());
@@ -71,7 +72,7 @@ bool readOrder(const QStringList &words, Order *order)
 
 void dropLog(QtMsgType, const QMessageLogContext &, const QString &) {}
 
-/** Performs the run and collects its samples. */
+/** Performs the run and collects the samples. */
 class Soak
 {
 public:
@@ -80,7 +81,7 @@ public:
     bool isReady() const { return m_host.isReady(); }
     void run();
     QString report() const;
-    /// Returns the failures of the run, or an empty string if there are none.
+    /// Returns a description of all failures, or an empty string if there are none.
     QString faults() const;
     bool writeReport() const;
 
@@ -103,8 +104,7 @@ SoakSample Soak::sample() const
     return sample;
 }
 
-/// Takes samples only after rounds of the same kind, because languages differ in the size of their
-/// texts.
+/// Takes samples only after rounds of the same kind, because memory use depends on the language.
 void Soak::run()
 {
     const int cycle = SoakHost::cycle();

@@ -17,7 +17,7 @@
 namespace
 {
 
-enum Need { Room, NoRoom }; // whether a step needs free space on the disk
+enum Need { Room, NoRoom }; // whether the step needs free disk space
 
 std::atomic<int> g_kind(DiskFaults::None);
 std::atomic<int> g_stepsLeft(0);
@@ -28,8 +28,8 @@ bool isInFolder(const char *path)
     return strncmp(path, g_folder, strlen(g_folder)) == 0;
 }
 
-/// Returns true if the path is below the watched folder. Relative paths are ignored because no
-/// program of this project uses them.
+/// Returns true if the path is in the watched folder. The project's programs do not use relative
+/// paths, so these are ignored.
 bool isWatched(const char *path)
 {
     return g_kind != DiskFaults::None && isInFolder(path);
@@ -54,7 +54,7 @@ bool isDue()
     return g_stepsLeft > 0 ? --g_stepsLeft == 0 : true;
 }
 
-/// Counts a step. Returns false and sets errno if the step must fail.
+/// Counts the step. If it must fail, sets errno and returns false.
 bool take(Need need)
 {
     const int kind = g_kind;
@@ -82,7 +82,7 @@ bool changes(const char *path, int flags)
 
 int openFile(int folder, const char *path, int flags, mode_t mode)
 {
-    const int error = errno; // the caller must not see the errno of access()
+    const int error = errno; // access() must not change errno
     const bool changing = isWatched(path) && changes(path, flags);
     const Need need = changing && access(path, F_OK) != 0 ? Room : NoRoom;
     errno = error;
@@ -91,7 +91,7 @@ int openFile(int folder, const char *path, int flags, mode_t mode)
     return int(syscall(SYS_openat, folder, path, flags, mode));
 }
 
-/// Writes only the first half of the data, as if the process were killed during the call.
+/// Writes only the first half of the data, as if the process had been killed during the call.
 void takeHalfOfWrite(int descriptor, const void *data, size_t size)
 {
     if (g_kind != DiskFaults::Kill || !isDue())

@@ -4,14 +4,13 @@
 #include <string>
 
 /*
- * Injects a fault into the n-th step that this process performs on the files below a folder. Steps
- * are calls of write(), fsync(), ftruncate(), rename(), link(), symlink(), mkdir(), chmod(),
- * unlink() and rmdir(), and of open() if it creates or truncates a file. All variants of these
- * functions are included. The functions are replaced in the program that is linked with this file
- * and in all libraries that it loads.
- * libraries that it loads.
+ * Injects a fault into the n-th disk operation of this process in a given folder and its
+ * subfolders. Disk operations are calls of write(), fsync(), ftruncate(), rename(), link(),
+ * symlink(), mkdir(), chmod(), unlink() and rmdir(), and calls of open() that create or truncate a
+ * file. All variants of these functions are included. The functions are replaced in the program
+ * that is linked with this file, and in all libraries that the program loads.
  *
- * A program that is started by a test reads its fault from the environment:
+ * If a test starts another program, that program reads its fault from the environment:
  * USSD_DISK_FAULT=kill:STEP:FOLDER, full:STEP:FOLDER or read-only:STEP:FOLDER.
  */
 
@@ -22,14 +21,14 @@ namespace DiskFaults
 
 enum Kind {
     None,
-    // Ends the process before the step, like a kill. A write consists of two steps: a kill at the
-    // second step leaves half of the data written.
+    // Ends the process before the step, as if it were killed. A write counts as two steps. With a
+    // fault in the second step, half of the data has been written.
     Kill,
-    Full,    // from this step on, no file can grow or be created
+    Full,    // from this step on, files cannot be created or grow
     ReadOnly // from this step on, nothing can be changed
 };
 
-/// Sets the fault. Steps are counted from 1, and each call restarts the count.
+/// Sets the fault and restarts the count. The first step has the number 1.
 void set(Kind kind, int step, const std::string &folder);
 
 } // namespace DiskFaults

@@ -7,11 +7,11 @@
 
 namespace
 {
-// The source path of the plug-in. It identifies the plug-in's own log lines, some of which are
+// Part of the source path in the plug-in's own log lines. The plug-in logs some of these as
 // warnings.
 const char PLUGIN_SOURCE_PATH[] = "../../src/USSDUIPlugin/";
 
-// The offscreen platform plug-in prints this for each window. It is not an error of this project.
+// The offscreen platform plug-in prints this message for each window. It can be ignored.
 const char OFFSCREEN_NOTICE[] = "This plugin does not support ";
 
 bool isWarning(QtMsgType type)
@@ -92,7 +92,7 @@ QStringList TestLog::missingWarnings() const
     return missing;
 }
 
-// QtTest's handler is not thread-safe, so it is called only from the main thread.
+// Only the main thread calls QtTest's message handler, because the handler is not thread-safe.
 void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     TestLog &log = instance();
@@ -106,7 +106,7 @@ void TestLog::handle(QtMsgType type, const QMessageLogContext &context, const QS
         log.m_previous(type, context, text);
 }
 
-/// Stores the message. Returns false for an unexpected warning, which must also be printed.
+/// Stores the message. Returns false if it is an unexpected warning, which must also be printed.
 bool TestLog::keep(QtMsgType type, const QString &text)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -8,24 +8,24 @@
 #include <mutex>
 #include <vector>
 
-/// Collects Qt's messages and detects warnings that the test did not announce.
+/// Collects Qt's messages and detects unexpected warnings.
 class TestLog
 {
 public:
     static TestLog &instance();
 
-    /// Installs this log as Qt's message handler, in place of QtTest's handler. Further calls do
-    /// nothing.
+    /// Installs this log as Qt's message handler, replacing the handler of QtTest. Subsequent calls
+    /// have no effect.
     void takeOver();
 
-    /// Discards all collected lines and announcements.
+    /// Discards all collected lines, and the expected and allowed warnings.
     void begin();
     void clearLines();
     void expect(const QString &part, bool required);
 
     QStringList lines() const;
     QStringList unexpectedWarnings() const;
-    QStringList missingWarnings() const; ///< required by the test, but not logged
+    QStringList missingWarnings() const; ///< expected, but not logged
 
 private:
     struct Line {

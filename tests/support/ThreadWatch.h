@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 /*
- * Detects that another thread of this process is waiting. A test that needs threads to run in a
- * certain order can then do without pauses of a guessed length.
+ * Detects that another thread of this process is waiting. Tests in which threads must run in a
+ * certain order therefore do not need delays.
  */
 namespace ThreadWatch
 {
@@ -22,19 +22,19 @@ inline ThreadId currentThread()
     return syscall(SYS_gettid);
 }
 
-/// Returns true if the thread has ended, or sleeps in the kernel while it waits for a lock, a
-/// condition or a time-out.
+/// Returns true if the thread has ended, or is waiting for a lock, a condition or a time-out.
 inline bool isAsleepOrGone(ThreadId thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
     std::string line;
     if (!std::getline(file, line))
         return true;
-    const std::size_t nameEnd = line.rfind(')'); // a name may contain blanks
+    const std::size_t nameEnd = line.rfind(')'); // the name may contain spaces
     return nameEnd != std::string::npos && line.compare(nameEnd, 3, ") S") == 0;
 }
 
-/// Waits until the thread sleeps or has ended. If it never does, the watchdog ends the test.
+/// Waits until the thread is waiting or has ended. If this never happens, the watchdog ends the
+/// test.
 inline void waitUntilAsleepOrGone(ThreadId thread)
 {
     while (!isAsleepOrGone(thread))

@@ -4,20 +4,20 @@
 #include <QApplication>
 
 /*
- * Informs the thread sanitizer how Qt synchronizes threads. Debian's Qt is built without the
- * sanitizer, which therefore does not know that a queued signal or a QMutex synchronizes two
- * threads, and reports races in correct code. TsanQt.cpp wraps the Qt functions concerned. In
- * builds without the thread sanitizer, the functions below do nothing.
+ * Informs the thread sanitizer about the thread synchronisation in Qt. Debian builds Qt without the
+ * sanitizer, which therefore does not recognise that queued signals and QMutex synchronise threads,
+ * and reports data races in correct code. TsanQt.cpp wraps the relevant functions of Qt. Without
+ * the thread sanitizer, the functions below do nothing.
  */
 
 namespace TsanEvents
 {
 #ifdef USSD_THREAD_SANITIZER
-/// Must be called before an event is handled. Tells the sanitizer that everything that its sender
-/// did earlier happened before.
+/// Must be called before an event is processed. Informs the sanitizer that the event happens after
+/// everything that its sender did before sending it.
 void acquire();
-/// Must be called after an event has been handled. Threads that wait for the event are then ordered
-/// after it.
+/// Must be called after an event has been processed. Informs the sanitizer that threads that wait
+/// for the event continue only afterwards.
 void releaseHandled();
 #else
 inline void acquire() {}
@@ -25,7 +25,7 @@ inline void releaseHandled() {}
 #endif
 } // namespace TsanEvents
 
-/// The application class of all tests.
+/// The application class that all tests use.
 class TsanApplication : public QApplication
 {
 public:

@@ -1,11 +1,12 @@
 /*
- * Wraps the Qt functions that synchronize threads, for the thread sanitizer (see TsanEvents.h).
- * Each wrapper calls the original function and informs the sanitizer of its effect. The wrappers
+ * Wraps the Qt functions that synchronise threads, for the thread sanitizer (see TsanEvents.h).
+ * Each wrapper calls the original function and informs the sanitizer about its effect. The wrappers
  * have the mangled names of the original functions, so `this` is their first parameter.
  *
- * All events share one label because Qt does not report which event a signal became. Every event is
- * therefore assumed to happen after everything that any thread emitted or posted earlier. This
- * hides races between the emission of one signal and the handler of another.
+ * All events share one label, because Qt does not report which signal caused an event. The
+ * sanitizer therefore assumes that an event is processed after everything that was emitted or
+ * posted before, by any thread. As a result, it cannot detect a data race between the emission of
+ * one signal and the slot of another.
  */
 #include "TsanEvents.h"
 
@@ -22,8 +23,8 @@
 
 namespace
 {
-char posted;  // released when an event is emitted or posted, acquired when it is handled
-char handled; // released when an event has been handled, acquired by the thread that waited
+char posted;  // released when a signal is emitted or posted, acquired when it is processed
+char handled; // released when an event has been processed, acquired by the waiting thread
 
 template <typename Function>
 Function *realOne(const char *symbol)
@@ -93,7 +94,7 @@ void tsanMutexUnlock(QMutex *mutex)
     __tsan_mutex_post_unlock(mutex, 0);
 }
 
-// A new mutex may later be created at the same address.
+// Another mutex may be created at the same address later.
 #define MUTEX_DESTROY "_ZN6QMutexD1Ev"
 void tsanMutexDestroy(QMutex *mutex) STANDS_FOR(MUTEX_DESTROY);
 void tsanMutexDestroy(QMutex *mutex)
@@ -107,7 +108,7 @@ void tsanMutexDestroy(QMutex *mutex)
 
 namespace
 {
-// QWaitCondition unlocks and locks the mutex inside Qt.
+// Inside Qt, QWaitCondition unlocks the mutex and locks it again.
 template <typename Wait>
 bool waitWithout(QMutex *mutex, Wait wait)
 {
@@ -189,7 +190,7 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
             "ConnectionTypeEPv");
     const bool blocks = type == Qt::BlockingQueuedConnection;
     if (blocks)
-        slot->ref(); // keeps the slot object alive until the sanitizer has recorded its use
+        slot->ref(); // keeps the slot object alive until its use has been recorded
     __tsan_release(&posted);
     const bool done = real(object, slot, type, result);
     if (blocks) {
@@ -201,8 +202,8 @@ bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *
 
 // ---- QThread -----------------------------------------------------------------------------------
 
-// Everything that a thread did happens before wait() for that thread returns. Qt emits finished()
-// from the thread before it wakes the waiting threads.
+// Everything that a thread has done happens before its wait() returns. Qt emits finished() from the
+// thread before it wakes up the waiting threads.
 #define THREAD_START "_ZN7QThread5startENS_8PriorityE"
 void tsanThreadStart(QThread *thread, QThread::Priority priority) STANDS_FOR(THREAD_START);
 void tsanThreadStart(QThread *thread, QThread::Priority priority)

@@ -110,7 +110,7 @@ void UssdTestPrivate::prepareProcess()
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // A test that is started manually must not use the developer's own modem either.
+    // Prevents a test that is started manually from using the developer's own modem.
     if (qEnvironmentVariableIsEmpty("TKSV_BACKEND"))
         qputenv("TKSV_BACKEND", "simulator");
     if (qEnvironmentVariableIsEmpty("DBUS_SYSTEM_BUS_ADDRESS"))

@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// Converts the Latin-1 string to a QString.
+/// Converts a Latin-1 string to a QString.
 inline QString latin1(const char *text)
 {
     return QString::fromLatin1(text);
@@ -21,24 +21,24 @@ inline QString latin1(const char *text)
 QByteArray contentOf(const QString &path);
 
 /**
- * The base class of all test classes of this project. A test function fails if Qt or the code under
- * test prints an unexpected warning. A watchdog ends a test function that hangs. Each test function
- * has its own folder.
+ * The base class of all test classes in this project. A test function fails if Qt or the tested
+ * code logs an unexpected warning. A watchdog ends test functions that hang. Each test function has
+ * its own temporary folder.
  *
- * A test class derives from UssdTest and overrides setUp() and tearDown() instead of declaring
- * init() and cleanup(). Its file ends with USSD_TEST_MAIN(Class).
+ * A test class inherits UssdTest and reimplements setUp() and tearDown() instead of declaring
+ * init() and cleanup(). Its source file ends with USSD_TEST_MAIN(Class).
  */
 class UssdTest : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Returns true if all slots of the base class were called. They are not called if a derived
-    /// class hides them.
+    /// Returns true if the slots of this base class were called for all test functions. If a
+    /// subclass hides the slots, they are not called.
     bool isInOrder() const { return m_testsBegun > 0 && m_testsBegun == m_testsEnded; }
 
 protected:
-    // ---- to be overridden
+    // ---- reimplemented by test classes
     virtual void setUpClass() {}
     virtual void setUp() {}
     virtual void tearDown() {}
@@ -48,12 +48,12 @@ protected:
     void expectWarning(const QString &part);
     void expectWarning(const char *part) { expectWarning(QString::fromUtf8(part)); }
 
-    /// Allows warnings that contain `part` in the current test function.
+    /// Allows warnings that contain `part` until the test function ends.
     void allowWarning(const QString &part);
     void allowWarning(const char *part) { allowWarning(QString::fromUtf8(part)); }
 
-    /// Returns all lines logged since the test function started or clearLog() was called, on any
-    /// channel.
+    /// Returns all lines on all channels that were logged since the test function started or
+    /// clearLog() was called.
     QStringList logLines() const;
 
     /// Returns the number of log lines that contain `part`.
@@ -61,13 +61,13 @@ protected:
     int timesLogged(const char *part) const { return timesLogged(QString::fromUtf8(part)); }
     void clearLog();
 
-    // ---- a folder that is empty at the start of each test function and deleted at its end
+    // ---- a folder that is created empty for each test function and deleted afterwards
     QString folder();                                                  ///< no trailing separator
     QString writeFile(const QString &name, const QByteArray &content); ///< returns the file's path
 
     // ---- events
-    /// Handles all queued events, all events that they queue in turn, and deferred deletions. Does
-    /// not wait for later events.
+    /// Processes all queued events, including those that are queued in the meantime, and deferred
+    /// deletions. Does not wait for later events.
     static void drainEvents();
 
 private slots:
@@ -84,8 +84,8 @@ private:
 
 namespace UssdTestPrivate
 {
-/// Prepares the process before the application is constructed: no display, fixed names, fixed
-/// language.
+/// Prepares the process before the application object is constructed: selects the offscreen
+/// platform, fixed names and a fixed language.
 void prepareProcess();
 int finish(const UssdTest &test, int failures);
 } // namespace UssdTestPrivate

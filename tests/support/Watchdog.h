@@ -7,8 +7,9 @@
 #include <string>
 #include <thread>
 
-/// Ends the process with a message if a test function runs longer than $USSD_TEST_SECONDS seconds
-/// (90 by default). The limit is lower than CTest's, so that the message can name the function.
+/// Ends the process with a message if a test function takes longer than $USSD_TEST_SECONDS seconds
+/// (90 by default). The limit is lower than that of CTest, so that the message can contain the name
+/// of the function.
 class Watchdog
 {
 public:
@@ -26,10 +27,10 @@ private:
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::string m_what; // the watched test function; empty if there is none
+    std::string m_what; // the current test function, or empty
     Clock::time_point m_until;
     bool m_ending = false;
-    std::thread m_thread; // declared last because the thread uses the other members
+    std::thread m_thread; // declared last, because the thread uses the other members
 };
 
 #endif

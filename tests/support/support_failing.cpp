@@ -4,7 +4,7 @@
 
 #include <thread>
 
-/// Tests that must fail. CTest runs each of them separately and checks the reason for the failure.
+/// Tests that must fail. CTest runs each of them separately and checks the reason.
 class SupportFailing : public UssdTest
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 
 #include <thread>
 
-/// Tests the guarantees of UssdTest for correct test classes. support_failing.cpp contains
-/// incorrect ones.
+/// Tests the guarantees of UssdTest for correct test classes. Incorrect test classes are in
+/// support_failing.cpp.
 class SupportTest : public UssdTest
 {
     Q_OBJECT

@@ -1,6 +1,6 @@
 #include "UssdTest.h"
 
-/// Hides the slots of the base class that watch the test functions.
+/// A test class that hides the slots of the base class, so that the test functions are not watched.
 class SupportUnwatched : public UssdTest
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ using namespace Formats;
 using namespace Provisioning;
 using namespace Tools;
 
-/// Tests the findings for valid, incorrect, malformed and malicious files.
+/// Tests the findings for valid, incorrect, malformed and malicious configuration files.
 class ConfigCheckTest : public UssdTest
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ QStringList rulesOf(const CheckReport &report)
     return rules;
 }
 
-/// Returns the number of the first line that contains this text, counted from 1.
+/// Returns the number of the first line that contains the text. The first line has the number 1.
 qint64 lineOf(const QByteArray &content, const QByteArray &text)
 {
     const int at = content.indexOf(text);
@@ -142,8 +142,8 @@ void addMistake(const char *title, const char *before, const char *after, const 
                          << QString::fromLatin1(text) << hasLine;
 }
 
-/// Returns the text with the last letter of a name replaced. `at` is the index before the name. If
-/// the name is that of an element with an end tag, the end tag is changed as well.
+/// Replaces the last letter of a name. `at` is the index before the name. For an element, the name
+/// in the end tag is also replaced.
 QString misspelt(const QString &whole, int at, const QString &name, bool isElement)
 {
     const QString other = name.left(name.length() - 1) + QLatin1Char('q');
@@ -156,7 +156,7 @@ QString misspelt(const QString &whole, int at, const QString &name, bool isEleme
     return changed;
 }
 
-/// Adds a row for each name in the file except those of the root.
+/// Adds a test row for each name in the file, except for those in the root element.
 void addMisspeltRows(const QByteArray &content)
 {
     QString whole = QString::fromUtf8(content);
@@ -178,8 +178,9 @@ void addMisspeltRows(const QByteArray &content)
     }
 }
 
-/// Replaces the first occurrence of `before`. Checks that one of the findings has the expected rule
-/// and text and, if the changed text still exists, the number of its line.
+/// Replaces the first occurrence of `before` in the file. Checks that there is a finding with the
+/// expected rule and text, and with the number of the changed line unless the change has removed
+/// this line.
 void checkMistake(QByteArray content)
 {
     QFETCH(QByteArray, before);
@@ -410,7 +411,7 @@ void ConfigCheckTest::profileMistakes()
 void ConfigCheckTest::oneMoreCodeIsForeseen_data()
 {
     QTest::addColumn<QStringList>("codes");
-    QTest::addColumn<QString>("finding"); // empty for no finding
+    QTest::addColumn<QString>("finding"); // empty if no finding is expected
     QTest::addColumn<QString>("row");
     const auto row = [](const char *name, const char *codes, const char *finding,
                         const char *text) {
@@ -459,8 +460,8 @@ void ConfigCheckTest::scenarioMistakesHaveTheirLine()
     QCOMPARE(report.findings.first().line, qint64(7));
 }
 
-/// Each row is a file after the three lines of [Network], and the lines of all findings. A mistake
-/// hides no other mistake, and has no finding for its consequences.
+/// Each row contains lines that are appended to a [Network] group of three lines, and the line
+/// numbers of all findings. All mistakes must be found, but not their consequences.
 void ConfigCheckTest::everyMistakeOfAScenarioIsFound_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -507,7 +508,8 @@ void ConfigCheckTest::misspeltNetworkHasOneFinding_data()
     QTest::newRow("comma") << QByteArray("12.50") << QByteArray("12,50");
 }
 
-/// Tests that the many rules that use the balance do not report it as missing.
+/// Tests that a misspelt [Network] group has only one finding, although many rules use the balance
+/// from this group.
 void ConfigCheckTest::misspeltNetworkHasOneFinding()
 {
     QFETCH(QByteArray, before);
@@ -543,14 +545,14 @@ void ConfigCheckTest::missingThirdItemShowsWhoseValuesAreTaken()
     QVERIFY2(findingsText(report).contains(
                  QLatin1String("this item \"Balance\" of <Postpaid> becomes its item 4")),
              qPrintable(findingsText(report)));
-    // The plug-in's own tables contain the same values.
+    // The report must contain the same values as the plug-in's tables.
     QVERIFY(tableRow(report, "Prepaid", "Balance").contains(QLatin1String("*110#")));
 }
 
 void ConfigCheckTest::everyMissingLineIsFound_data()
 {
     QTest::addColumn<QByteArray>("content");
-    const QList<QByteArray> optional = QList<QByteArray>() // elements of a service
+    const QList<QByteArray> optional = QList<QByteArray>() // optional elements of a service
                                        << "<LimitText>0-9</LimitText>"
                                        << "<minlenth>3</minlenth>"
                                        << "<minlenth>1</minlenth>"
@@ -607,7 +609,7 @@ void ConfigCheckTest::nearlyFullFilesWithFindingsStillHaveTables()
     QVERIFY(tableRow(report, "Postpaid", "Balance").contains(QLatin1String("hidden")));
 }
 
-/// The rows are the shipped files with each of their names misspelt once.
+/// Each row is a shipped file with one misspelt name. There is a row for each name.
 void ConfigCheckTest::misspeltNameHasOneFinding_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -616,7 +618,8 @@ void ConfigCheckTest::misspeltNameHasOneFinding_data()
     addMisspeltRows(profiles());
 }
 
-/// Tests that a misspelt name is reported with its line, and without its consequences.
+/// Tests that a misspelt name is reported with its line number, and that its consequences are not
+/// reported.
 void ConfigCheckTest::misspeltNameHasOneFinding()
 {
     QFETCH(QByteArray, content);
@@ -668,7 +671,7 @@ void ConfigCheckTest::brokenProfilesHaveOneFinding_data()
     QTest::newRow("ampersand") << QByteArray("*126#") << QByteArray("*12&6#");
 }
 
-/// Tests that an error in the document is not mixed up with what it does to the profiles.
+/// Tests that an XML error is reported on its own, without its consequences for the profiles.
 void ConfigCheckTest::brokenProfilesHaveOneFinding()
 {
     QFETCH(QByteArray, before);
@@ -757,7 +760,7 @@ void ConfigCheckTest::everyPrefixIsChecked()
     QVERIFY(wide.tables.isEmpty());
 }
 
-/// Tests that the trace takes the same steps through random documents as the plug-in's search.
+/// Compares the trace with the plug-in's own search, using random documents.
 void ConfigCheckTest::traceWalksAsThePluginDoes()
 {
     QRandomGenerator random(20261120);

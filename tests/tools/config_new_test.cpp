@@ -9,7 +9,7 @@
 
 using namespace Tools;
 
-/// Tests "ussd-config new": the folder that it creates, and its exit code.
+/// Tests "ussd-config new": the created folder, and the exit code.
 class ConfigNewTest : public UssdTest
 {
     Q_OBJECT
@@ -164,7 +164,7 @@ void ConfigNewTest::emptyFolderIsUsed()
     QVERIFY(QFile::exists(target() + QLatin1String(PROFILES)));
 }
 
-/// The parent of the folder is a file.
+/// Tests a folder that cannot be created, because its parent is a file.
 void ConfigNewTest::failureLeavesNothing()
 {
     const QStringList before = QDir(folder()).entryList();

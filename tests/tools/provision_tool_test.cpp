@@ -100,7 +100,7 @@ void ProvisionToolTest::severalOperatorsArePrintedAndNoneIsWritten()
     QVERIFY(!QFileInfo::exists(target()));
 }
 
-/// Uses the arguments that the program prints for each operator, and expects that operator.
+/// Tests that the arguments that the program suggests for an operator select exactly this operator.
 void ProvisionToolTest::everyNamesakeCanBeSelected()
 {
     m_database =
@@ -130,7 +130,8 @@ void ProvisionToolTest::everyNamesakeCanBeSelected()
     QVERIFY(m_out.contains(QLatin1String("*3#")));
 }
 
-/// The arguments keep the network code, because it determines the folder.
+/// Tests that the suggested arguments contain the network code, because the name of the folder
+/// depends on it.
 void ProvisionToolTest::argumentsThatSelectKeepTheNetwork()
 {
     QCOMPARE(run(words("--network 26207")), int(TOOL_CHOOSE));

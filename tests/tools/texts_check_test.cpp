@@ -4,7 +4,8 @@
 
 using namespace Tools;
 
-/// Tests how ussd-config checks an operator's text file, together with the files beside it.
+/// Tests how ussd-config checks the file with an operator's texts together with the other files in
+/// the same folder.
 class TextsCheckTest : public UssdTest
 {
     Q_OBJECT
@@ -101,7 +102,8 @@ void TextsCheckTest::ownKeyNeedsEveryLanguage()
     QVERIFY(!report.findings.first().text.contains(QLatin1String("fr")));
 }
 
-/// The check of the profiles counts the texts of the operator as translations.
+/// Tests that the check of the profiles accepts text keys that are defined only in the operator's
+/// file.
 void TextsCheckTest::ownKeyOfTheConfigurationIsFound()
 {
     const QString file = writeFile(QLatin1String("ussdsysprofile.xml"), profiles("MY_CLUB"));

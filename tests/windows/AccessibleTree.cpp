@@ -21,7 +21,7 @@ const char TEXT[] = "org.a11y.atspi.Text";
 const char VALUE[] = "org.a11y.atspi.Value";
 const char OBJECT_EVENT[] = "org.a11y.atspi.Event.Object";
 
-/** The numbers of AtspiStateType. */
+/** The values of AtspiStateType. */
 enum State { Checked = 4, Enabled = 8, Expanded = 10, Selected = 23, Showing = 25, Visible = 30 };
 
 QString text(const char *latin1)
@@ -163,7 +163,7 @@ void AccessibleTree::addVisible(QList<Accessible> &list, const QString &service,
     if (!object.isSilent())
         list << object;
     if (object.role == text("push button") || object.role == text("page tab"))
-        return; // a screen reader does not read the parts of a button
+        return; // screen readers do not read the parts of a button
     const QList<QPair<QString, QString>> below = children(service, path);
     for (const QPair<QString, QString> &child : below.mid(0, MOST_CHILDREN))
         addVisible(list, child.first, child.second);
@@ -242,7 +242,7 @@ bool AccessibleTree::listen()
                .type() == QDBusMessage::ReplyMessage;
 }
 
-// The event names the object instead of the new value.
+// The event contains the object itself instead of the new value.
 void AccessibleTree::onEvent(const QDBusMessage &message)
 {
     const QString detail = message.arguments().value(0).toString();

@@ -10,7 +10,7 @@
 
 class QDBusMessage;
 
-/** A widget, or a part of a widget, as a screen reader receives it. */
+/** A widget or a part of a widget, as reported to a screen reader. */
 struct Accessible {
     QString service;
     QString path;
@@ -21,18 +21,19 @@ struct Accessible {
 
     bool isDisabled() const;
     bool isShown() const;
-    /// Returns true if it only groups other widgets and has nothing to say.
+    /// Returns true if the widget only groups other widgets and has neither a name nor a
+    /// description.
     bool isSilent() const;
-    /// Returns true if the user can press it, type into it, or choose from it.
+    /// Returns true if the user can press the widget, type into it or select from it.
     bool isControl() const;
     /// Returns the role, the name and the description, for example "label \"Balance\"". States that
-    /// a screen reader reads aloud follow in brackets.
+    /// a screen reader announces are appended in brackets.
     QString line() const;
 };
 
 /**
- * Reads the accessible objects of a program from the accessibility bus, as a screen reader does,
- * and receives their events. There must be only one program on the bus.
+ * Reads the accessible objects of a program from the accessibility bus, as a screen reader would,
+ * and receives their events. No other program may be connected to the bus.
  */
 class AccessibleTree : public QObject
 {
@@ -41,28 +42,29 @@ public:
     explicit AccessibleTree(const QString &busAddress);
     ~AccessibleTree() override;
 
-    /// Returns the visible widgets of all windows in the order in which a screen reader meets them.
-    /// The list is empty while there is no program.
+    /// Returns the visible widgets in all windows, in the reading order of a screen reader. The
+    /// list is empty if no program is running.
     QList<Accessible> visible() const;
     QStringList lines() const;
 
-    /// Returns the first visible widget whose line matches, or one with an empty path.
+    /// Returns the first visible widget whose line matches. If there is none, the path of the
+    /// result is empty.
     Accessible find(const QRegularExpression &line) const;
-    /// Performs the default action, which is to press a button. Returns false if it has no action.
+    /// Performs the default action of the object, for example pressing a button. Returns false if
+    /// the object has no action.
     bool press(const Accessible &object) const;
     bool setFocus(const Accessible &object) const;
-    /// Returns the place of the widget on the screen.
+    /// Returns the position and size of the widget on the screen.
     QRect place(const Accessible &object) const;
-    /// Returns the current value of a progress bar, slider or spin box, or -1.
+    /// Returns the current value of a progress bar, slider or spin box, or -1 if there is no value.
     double value(const Accessible &object) const;
 
-    /// Returns what is written in a text field or a transcript.
+    /// Returns the text in a text field or a transcript.
     QString content(const Accessible &object) const;
 
-    /// Asks the program to send events from now on.
+    /// Requests events from the program.
     bool listen();
-    /// Returns the events that were received, for example
-    /// "PropertyChange accessible-name Ready".
+    /// Returns the received events, for example "PropertyChange accessible-name Ready".
     QStringList events() const { return m_events; }
     void forgetEvents() { m_events.clear(); }
 

@@ -37,7 +37,7 @@ std::string local(const QString &path)
     return QFile::encodeName(path).toStdString();
 }
 
-/// Returns the line that a server writes as soon as it accepts connections.
+/// Returns the first line of output, which a server writes when it accepts connections.
 QString firstLine(int descriptor)
 {
     QByteArray line;
@@ -48,7 +48,7 @@ QString firstLine(int descriptor)
     return QString::fromLatin1(line);
 }
 
-/** A connection that is closed at the end of a block. */
+/** A D-Bus connection that is closed by its destructor. */
 class Bus
 {
 public:
@@ -76,7 +76,7 @@ QDBusMessage busCall(const char *interface, const char *method)
 
 } // namespace
 
-// The launcher stops its bus only on SIGTERM.
+// The launcher stops its bus only if it receives SIGTERM.
 PrivateDesktop::~PrivateDesktop()
 {
     m_launcher.stop(STOP_LIMIT);
@@ -128,7 +128,7 @@ QString PrivateDesktop::startAccessibility()
     const std::string error = m_bus.start(local(m_folder));
     if (!error.empty())
         return QString::fromStdString(error);
-    // The launcher reads its environment from this process.
+    // The launcher inherits its environment from this process.
     const QProcessEnvironment values = environment();
     const char *const names[] = {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "HOME"};
     std::vector<std::string> command = {"env"};
@@ -145,7 +145,7 @@ QString PrivateDesktop::startAccessibility()
     return announce() ? QString() : text("xprop does not work");
 }
 
-/// Waits for the launcher, which takes its name on the session bus when it is ready.
+/// Waits until the launcher owns its name on the session bus, which means that it is ready.
 QString PrivateDesktop::findAccessibilityBus()
 {
     Bus bus(QString::fromStdString(m_bus.address()));
@@ -157,7 +157,7 @@ QString PrivateDesktop::findAccessibilityBus()
     return reply.arguments().value(0).toString();
 }
 
-/// Tells programs that a screen reader runs.
+/// Sets a property that informs programs that a screen reader is running.
 bool PrivateDesktop::switchOn(const char *property)
 {
     Bus bus(QString::fromStdString(m_bus.address()));
@@ -167,7 +167,8 @@ bool PrivateDesktop::switchOn(const char *property)
     return bus->call(call, QDBus::Block, LIMIT).type() == QDBusMessage::ReplyMessage;
 }
 
-/// The first call to the registry starts it. It must run before a program looks for it.
+/// Starts the registry by calling it for the first time. This must happen before a program looks
+/// for it.
 bool PrivateDesktop::startRegistry()
 {
     Bus bus(m_accessibilityBus);
@@ -177,7 +178,7 @@ bool PrivateDesktop::startRegistry()
     return bus->call(call, QDBus::Block, LIMIT).type() == QDBusMessage::ReplyMessage;
 }
 
-/// Sets the property of the root window in which programs look for the address of the bus.
+/// Sets the property of the root window that contains the address of the accessibility bus.
 bool PrivateDesktop::announce()
 {
     QProcess program;

@@ -8,10 +8,10 @@
 #include "PrivateBus.h"
 
 /**
- * An X server without a screen, a session bus and an accessibility bus for the programs of a test.
- * They are isolated from the desktop of the person who runs the test, and end with the object. If
- * the test crashes, only the daemon of the accessibility bus remains. Must be created on a thread
- * that exists as long as the object.
+ * An X server without a screen, a session bus and an accessibility bus for test programs. They are
+ * isolated from the desktop of the developer, and stop when the object is destroyed. If the test
+ * crashes, only the accessibility bus daemon keeps running. Must be created on a thread that exists
+ * for as long as the object.
  */
 class PrivateDesktop
 {
@@ -21,16 +21,17 @@ public:
     PrivateDesktop(const PrivateDesktop &) = delete;
     PrivateDesktop &operator=(const PrivateDesktop &) = delete;
 
-    /// Returns the programs that this class needs and that are not installed.
+    /// Returns the required programs that are not installed.
     static QStringList missingPrograms();
 
-    /// Starts the servers in an empty folder, whose path must be short. Returns an empty string on
-    /// success, otherwise the error.
+    /// Starts the servers in an empty folder with a short path. Returns an empty string on success,
+    /// otherwise an error message.
     QString start(const QString &folder, int width, int height);
 
-    /// Returns the environment of programs that run on this desktop.
+    /// Returns the environment for programs that run on this desktop.
     QProcessEnvironment environment() const;
-    /// Returns the address of the bus on which programs publish their accessible objects.
+    /// Returns the address of the accessibility bus, where programs publish their accessible
+    /// objects.
     const QString &accessibilityBus() const { return m_accessibilityBus; }
 
 private:

@@ -88,7 +88,7 @@ bool isWritten(const AccessibleTree &tree, const QRegularExpression &pattern)
     return false;
 }
 
-/// Waits for what the action needs. `found` becomes the first match.
+/// Waits until the action is possible. Stores the first match in `found`.
 bool waitFor(const AccessibleTree &tree, const QString &action, const QString &pattern,
              Accessible &found)
 {

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Drives the dashboard in a real window with mouse and keys, under X11 with a window manager and
-# under Wayland, and saves a picture of each step:
+# Operates the dashboard in a real window with the mouse and the keyboard, under X11 with a window
+# manager and under Wayland. Saves a picture of each step:
 #
 #     tests/windows/drive.sh BUILD-FOLDER PICTURE-FOLDER
 #
-# The script checks each step by what a screen reader finds. Under Wayland, Qt 5 has no screen
-# reader support; there, the log tells what was sent. Requires openbox, xdotool, weston and
-# qtwayland5. It uses its own X server, buses, home directory and network, so it disturbs nobody.
+# The script checks the result of each step through the accessibility bus. Qt 5 does not support
+# screen readers under Wayland, so the script checks the log instead. Requires openbox, xdotool,
+# weston and qtwayland5. The script uses its own X server, buses, home directory and network, so
+# that it does not affect your session.
 set -eu
 sources=$(cd "$(dirname "$0")" && pwd)
 build=$(cd "$1" && pwd)
@@ -70,7 +71,7 @@ resize()
     xdotool windowsize --sync "$window" "$1" "$2"
 }
 
-# Closes the program with its key and checks that it ends well.
+# Presses the key that quits the program, and checks the program's exit status.
 quit()
 {
     key ctrl+q
@@ -166,7 +167,7 @@ dark_and_arabic()
     picture dark-home
     key ctrl+comma
     click '^button menu "Language"'
-    key Up Up Return # Qt 5 hides popups from screen readers; Arabic is the last but one
+    key Up Up Return # Qt 5 hides popups from screen readers; Arabic is the second last item
     wait_for '^page tab "الإعدادات"'
     key ctrl+1
     picture arabic-dark
@@ -198,7 +199,7 @@ large_letters()
     quit
 }
 
-# Starts a compositor with this backend, and the program in it.
+# Starts a compositor with this backend, and runs the program in it.
 start_in_wayland()
 {
     printf '[shell]\npanel-position=none\n' >"$HOME/weston.ini"
@@ -225,7 +226,7 @@ until_logged()
     done
 }
 
-# The new window has the keyboard focus. The pointer stays where it is.
+# The new window has the keyboard focus. The mouse pointer does not move.
 wayland()
 {
     say 'Wayland'
