@@ -34,8 +34,8 @@ const Appearance APPEARANCES[] = {
 
 Banners::Banners(QWidget *parent)
     : QFrame(parent), m_grid(new QGridLayout(this)), m_icon(new IconView(this)),
-      m_title(new ElidedLabel(this)), m_text(makeLabel("small", this)), m_action(makeButton("", this)),
-      m_close(makeButton("ghost", this))
+      m_title(new ElidedLabel(this)), m_text(makeLabel("small", this)),
+      m_action(makeButton("", this)), m_close(makeButton("ghost", this))
 {
     setObjectName(QLatin1String("Dashboard_Banner"));
     setLabelType(m_title, "strong");

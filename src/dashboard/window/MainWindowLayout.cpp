@@ -37,7 +37,7 @@ namespace
 const QSize FIRST_SIZE(1120, 720); // pixels
 const QSize SMALLEST_SIZE(360, 560);
 const QSize DECORATION(8, 40); // room for the borders and the title bar of the desktop
-const int WIDE_FROM = 66; // em
+const int WIDE_FROM = 66;      // em
 const int MEDIUM_FROM = 46;
 
 enum Row { HeaderRow, BannerRow, PageRow, BarRow, Rows };
