@@ -417,6 +417,10 @@
         <translation>ملف</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>إظهار رقم ال&amp;شريحة</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>اللغة</translation>
     </message>

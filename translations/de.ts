@@ -417,6 +417,10 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>SIM-&amp;Nummer zeigen</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>S&amp;prache</translation>
     </message>

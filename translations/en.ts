@@ -417,6 +417,10 @@
         <translation>&amp;File</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Show the SIM’s &amp;number</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Language</translation>
     </message>

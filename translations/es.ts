@@ -417,6 +417,10 @@
         <translation>&amp;Archivo</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Mostrar el &amp;número de la SIM</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Idioma</translation>
     </message>

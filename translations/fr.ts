@@ -417,6 +417,10 @@
         <translation>F&amp;ichier</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Afficher le &amp;numéro de la SIM</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Langue</translation>
     </message>

@@ -417,6 +417,10 @@
         <translation>Fi&amp;cheiro</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Mostrar o &amp;número do SIM</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Idioma</translation>
     </message>

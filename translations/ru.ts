@@ -417,6 +417,10 @@
         <translation>&amp;Файл</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Пока&amp;зать номер SIM</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Язык</translation>
     </message>

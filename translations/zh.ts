@@ -417,6 +417,10 @@
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>显示 SIM 号码(&amp;N)</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>语言(&amp;L)</translation>
     </message>

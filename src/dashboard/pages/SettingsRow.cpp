@@ -8,6 +8,17 @@
 namespace Dashboard
 {
 
+namespace
+{
+
+/// Returns the part of the control that the user operates.
+QWidget *focusTarget(QWidget *control)
+{
+    return control->focusProxy() ? control->focusProxy() : control;
+}
+
+} // namespace
+
 SettingsRow::SettingsRow(const char *icon, QWidget *control, bool isControlWide, QWidget *parent)
     : QWidget(parent), m_grid(new QGridLayout(this)), m_icon(new IconView(this)),
       m_title(makeLabel("strong", this)), m_description(makeLabel("small", this)),
@@ -16,7 +27,7 @@ SettingsRow::SettingsRow(const char *icon, QWidget *control, bool isControlWide,
     control->setParent(this);
     m_icon->setIcon(icon, Token::Text2, 18);
     m_title->setWordWrap(true);
-    m_title->setBuddy(control);
+    m_title->setBuddy(focusTarget(control));
     m_description->setWordWrap(true);
     setMargins(m_grid, 16, 10, 16, 10);
     m_grid->setVerticalSpacing(0);
@@ -48,7 +59,7 @@ void SettingsRow::setTexts(const QString &title, const QString &description)
     m_grid->removeWidget(m_title);
     m_grid->addWidget(m_title, 0, 1, description.isEmpty() ? 2 : 1, 1,
                       description.isEmpty() ? Qt::AlignVCenter : Qt::AlignBottom);
-    QWidget *named = m_control->focusProxy() ? m_control->focusProxy() : m_control;
+    QWidget *named = focusTarget(m_control);
     named->setAccessibleDescription(description);
     if (MenuButton *choice = qobject_cast<MenuButton *>(named))
         choice->setTitle(title);

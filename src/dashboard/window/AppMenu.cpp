@@ -99,7 +99,7 @@ void AppMenu::retranslate()
 {
     const bool hasBoth = (m_windows & SIM_WINDOW_PREPAID) && (m_windows & SIM_WINDOW_POSTPAID);
     m_file->setTitle(dashboardText("MENU_FILE"));
-    m_number->setText(dashboardText("HEADER_SHOW_NUMBER"));
+    m_number->setText(dashboardText("MENU_NUMBER"));
     m_general->setText(dashboardText("MENU_GENERAL"));
     m_prepaid->setText(dashboardText(hasBoth ? "MENU_PREPAID" : "MENU_ACCOUNT"));
     m_postpaid->setText(dashboardText(hasBoth ? "MENU_POSTPAID" : "MENU_ACCOUNT"));

@@ -193,7 +193,7 @@ void MainWindow::restorePlace()
 {
     if (m_settings && restoreGeometry(m_settings->geometry()))
         return;
-    resize(onScreen(FIRST_SIZE));
+    resize(FIRST_SIZE.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     CommonUtils::MoveCentre(this);
 }
 
