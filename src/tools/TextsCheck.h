@@ -9,7 +9,7 @@ namespace Tools
 {
 
 /// Returns true if the contents are those of an operator's text file: the first section is named
-/// after a language of two letters.
+/// after a language, such as "de" or "pt_BR".
 bool isTexts(const QByteArray &content);
 
 /// Checks an operator's text file. The other files in the folder of `report.file` determine which
