@@ -417,36 +417,12 @@
         <translation>Ar&amp;quivo</translation>
     </message>
     <message>
-        <source>MENU_NETWORK</source>
-        <translation>&amp;Rede</translation>
-    </message>
-    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>ACTION_QUIT</source>
         <translation>&amp;Sair</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_PAGE</source>
-        <translation>Códigos &amp;USSD</translation>
-    </message>
-    <message>
-        <source>WINDOW_GENERAL_FRAME</source>
-        <translation>Códigos USSD em uma &amp;janela</translation>
-    </message>
-    <message>
-        <source>WINDOW_PREPAID</source>
-        <translation>&amp;Pré-pago</translation>
-    </message>
-    <message>
-        <source>WINDOW_POSTPAID</source>
-        <translation>P&amp;ós-pago</translation>
-    </message>
-    <message>
-        <source>WINDOW_USSD_SMS</source>
-        <translation>&amp;Serviços</translation>
     </message>
     <message>
         <source>NETWORK_DEFAULT</source>
@@ -519,22 +495,6 @@
     <message>
         <source>STATE_SEARCHING</source>
         <translation>Procurando uma rede...</translation>
-    </message>
-    <message>
-        <source>NAME_OPERATOR</source>
-        <translation>Operadora</translation>
-    </message>
-    <message>
-        <source>NAME_SIGNAL</source>
-        <translation>Intensidade do sinal</translation>
-    </message>
-    <message>
-        <source>NAME_SIM</source>
-        <translation>Cartão SIM</translation>
-    </message>
-    <message>
-        <source>NAME_SOURCE</source>
-        <translation>Fonte em uso</translation>
     </message>
     <message>
         <source>PLUGIN_FILE_MISSING</source>
@@ -675,42 +635,12 @@ errados.</translation>
         <translation>Pré-pago ou pós-pago? Consultando…</translation>
     </message>
     <message>
-        <source>NAME_PAID_TYPE</source>
-        <translation>Tipo de contrato</translation>
-    </message>
-    <message>
         <source>WINDOWS_NONE</source>
         <translation>Nenhuma janela USSD corresponde a este cartão SIM.</translation>
     </message>
     <message>
-        <source>RESTORE_CAPTION</source>
-        <translation>Os seus próprios códigos USSD</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER</source>
-        <translation>O arquivo com os seus próprios códigos USSD desapareceu:
-%1
-
-Há uma cópia de %2. Quer recuperá-la? Não apaga a cópia.</translation>
-    </message>
-    <message>
-        <source>RESTORE_YES</source>
-        <translation>&amp;Sim, recuperar</translation>
-    </message>
-    <message>
-        <source>RESTORE_NO</source>
-        <translation>&amp;Não, apagar a cópia</translation>
-    </message>
-    <message>
         <source>RESTORE_FAILED</source>
         <translation>Não é possível escrever %1. A cópia fica onde está: %2</translation>
-    </message>
-    <message>
-        <source>RESTORE_OFFER_DAMAGED</source>
-        <translation>O arquivo com os seus próprios códigos USSD está incompleto:
-%1
-
-Há uma cópia de %2. Quer recuperá-la? O arquivo incompleto fica então guardado ao lado. Não apaga a cópia.</translation>
     </message>
     <message>
         <source>NO_FONTS</source>
@@ -761,64 +691,12 @@ Há uma cópia de %2. Quer recuperá-la? O arquivo incompleto fica então guarda
         <translation>Origem: procurando um modem…</translation>
     </message>
     <message>
-        <source>ADVICE_NO_BUS</source>
-        <translation>O barramento de mensagens do sistema (D-Bus) não está acessível, por isso nenhum modem é encontrado. Inicie o serviço dbus ou escolha a demonstração no menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_SERVICE</source>
-        <translation>O ModemManager não está em execução, por isso nenhum modem é encontrado. Instale-o e inicie-o (systemctl start ModemManager) ou escolha a demonstração no menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NOT_PERMITTED</source>
-        <translation>A política do sistema (polkit) não permite que você use o modem. Peça ao administrador que lhe permita org.freedesktop.ModemManager1.Device.Control e org.freedesktop.ModemManager1.USSD.</translation>
-    </message>
-    <message>
-        <source>ADVICE_CHOSEN_ABSENT</source>
-        <translation>O modem escolhido não está presente. Conecte-o ou escolha outro no menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_WRONG_PIN</source>
-        <translation>Esse não era o PIN do cartão SIM.</translation>
-    </message>
-    <message>
-        <source>ADVICE_PUK_NEEDED</source>
-        <translation>O PIN não desbloqueia mais: o cartão SIM ou o modem pede o PUK ou outro código, que a operadora fornece. Digite-o com um telefone ou com mmcli.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_USSD</source>
-        <translation>Este modem não pode enviar códigos USSD. Escolha outro no menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_FAILED</source>
-        <translation>O ModemManager desistiu deste modem. Desconecte-o e volte a conectá-lo; o log do ModemManager diz por quê.</translation>
-    </message>
-    <message>
-        <source>ADVICE_NO_MODEM</source>
-        <translation>Não há modem. Conecte um ou escolha a demonstração no menu.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_MISSING</source>
-        <translation>Não há cartão SIM no modem. Insira um e volte a conectar o modem.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SIM_LOCKED</source>
-        <translation>O cartão SIM está bloqueado: digite o PIN.</translation>
-    </message>
-    <message>
-        <source>ADVICE_DISABLED</source>
-        <translation>O modem está desligado. Não envia códigos enquanto não for ligado.</translation>
-    </message>
-    <message>
         <source>PIN_CAPTION</source>
         <translation>Digitar o PIN do SIM</translation>
     </message>
     <message>
         <source>PIN_QUESTION</source>
         <translation>4 a 8 dígitos. Vai para o SIM e não é salvo.</translation>
-    </message>
-    <message>
-        <source>PIN_BUTTON</source>
-        <translation>Digitar o PI&amp;N…</translation>
     </message>
     <message>
         <source>PIN_OK</source>
@@ -851,26 +729,6 @@ Há uma cópia de %2. Quer recuperá-la? O arquivo incompleto fica então guarda
     <message>
         <source>PIN_NO_ANSWER</source>
         <translation>O SIM não respondeu a tempo. Tente de novo.</translation>
-    </message>
-    <message>
-        <source>TEXT_PANEL</source>
-        <translation>Mensagens da rede</translation>
-    </message>
-    <message>
-        <source>TEXT_AT</source>
-        <translation>%1, da rede:</translation>
-    </message>
-    <message>
-        <source>TEXT_QUESTION</source>
-        <translation>A rede espera uma resposta. Digite-a no campo de códigos e envie-a.</translation>
-    </message>
-    <message>
-        <source>TEXT_UNKNOWN</source>
-        <translation>Ainda há um menu aberto na rede, mas o seu texto não é mais conhecido. Responda ou recomece com um código.</translation>
-    </message>
-    <message>
-        <source>TEXT_CLOSE</source>
-        <translation>Fechar as mensagens</translation>
     </message>
     <message>
         <source>LOG_HOLDS</source>
@@ -941,14 +799,6 @@ Há uma cópia de %2. Quer recuperá-la? O arquivo incompleto fica então guarda
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
-        <source>CODES_IN_USE</source>
-        <translation>Agora são usados os códigos de %1.</translation>
-    </message>
-    <message>
-        <source>CODES_SHIPPED_IN_USE</source>
-        <translation>Agora são usados os códigos da demonstração.</translation>
-    </message>
-    <message>
         <source>CODES_FAILED</source>
         <translation>Os códigos de %1 não podem ser usados: %2</translation>
     </message>
@@ -1000,52 +850,8 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>O cartão SIM ou o modem está bloqueado.</translation>
     </message>
     <message>
-        <source>ADVICE_REGISTRATION_DENIED</source>
-        <translation>A rede não aceita este SIM. Pergunte à operadora se está ativo ou use outro.</translation>
-    </message>
-    <message>
-        <source>ADVICE_SERVICE_SILENT</source>
-        <translation>O ModemManager está em execução, mas não responde. Aguarde um momento ou reinicie-o (systemctl restart ModemManager).</translation>
-    </message>
-    <message>
-        <source>ADVICE_MODEM_REMOVED</source>
-        <translation>O modem foi removido. Volte a conectá-lo.</translation>
-    </message>
-    <message>
-        <source>ADVICE_FOREIGN_SESSION</source>
-        <translation>Outro programa está usando códigos neste modem.</translation>
-    </message>
-    <message>
-        <source>DEVICE_ENABLE</source>
-        <translation>&amp;Ligar</translation>
-    </message>
-    <message>
-        <source>DEVICE_LOOK_AGAIN</source>
-        <translation>Procurar de no&amp;vo</translation>
-    </message>
-    <message>
-        <source>DEVICE_END_SESSION</source>
-        <translation>&amp;Terminar</translation>
-    </message>
-    <message>
-        <source>FOREIGN_CAPTION</source>
-        <translation>Códigos de outro programa</translation>
-    </message>
-    <message>
-        <source>FOREIGN_QUESTION</source>
-        <translation>Terminar a sessão do outro programa, embora ele possa estar comprando algo?</translation>
-    </message>
-    <message>
-        <source>COMMAND_PENDING</source>
-        <translation>Pode parar de esperar, mas a rede poderá executar o comando mesmo assim.</translation>
-    </message>
-    <message>
         <source>COMMAND_WAITS_FOR_TURN</source>
         <translation>Aguardando outro programa terminar de usar o modem…</translation>
-    </message>
-    <message>
-        <source>COMMAND_CANCEL</source>
-        <translation>C&amp;ancelar</translation>
     </message>
     <message>
         <source>FAILURE_ENDED_BY_NETWORK</source>
@@ -1237,7 +1043,7 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     </message>
     <message>
         <source>STRIP_FIND_NEXT</source>
-        <translation>Seguinte</translation>
+        <translation>Próxima</translation>
     </message>
     <message>
         <source>STRIP_FIND_NONE</source>
@@ -1436,16 +1242,8 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
         <translation>Nenhum: só o campo de códigos</translation>
     </message>
     <message>
-        <source>CODES_NONE_IN_USE</source>
-        <translation>Agora não são usados códigos de nenhuma operadora. Digite os códigos no campo.</translation>
-    </message>
-    <message>
         <source>CODES_PROPOSE_NONE</source>
         <translation>Não há códigos configurados para este cartão SIM. Digite um código no campo ou escolha a operadora.</translation>
-    </message>
-    <message>
-        <source>PAID_DETECT</source>
-        <translation>De&amp;scobrir se o SIM é pré-pago ou pós-pago (envia um código)</translation>
     </message>
     <message>
         <source>DEVICE_READY</source>

@@ -31,7 +31,7 @@ struct Language {
 const Language LANGUAGES[] = {
     {"en", "English", false}, {"de", "Deutsch", false},   {"fr", "Français", false},
     {"es", "Español", false}, {"pt", "Português", false}, {"pt_BR", "Português (Brasil)", false},
-    {"ru", "Русский", false}, {"ar", "العربية", true},  {"zh", "中文", false},
+    {"ru", "Русский", false}, {"ar", "العربية", true},    {"zh", "中文", false},
 };
 
 const char ENGLISH[] = "en";
