@@ -48,9 +48,11 @@ signals:
     /// Emitted after a change of theme, direction or font, when palette and style sheet are set.
     void changed();
 
+private slots:
+    void update();
+
 private:
     explicit Look(QObject *parent);
-    void update();
     void dress();
 
     ThemeChoice m_theme = ThemeChoice::System;
