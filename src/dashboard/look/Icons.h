@@ -17,6 +17,9 @@ QIcon icon(const char *name, Token token = Token::Text);
 /// Returns an icon for a button that can be checked. `whenOn` is the token of the checked button.
 QIcon icon(const char *name, Token token, Token whenOn);
 
+/// Returns the icon of the program, in the sizes that window managers show.
+QIcon applicationIcon();
+
 /// Returns a picture of the icon for a place that cannot hold an icon. It does not follow the
 /// theme. `size` is in device-independent pixels.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
