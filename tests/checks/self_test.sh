@@ -164,6 +164,10 @@ fault no such line
 -int a;
 +'
 
+finds documents 'does not name the label odd' tests/odd/CMakeLists.txt <<<'ussd_add_test(a LABELS odd)'
+finds documents 'does not name the check odd' tests/checks/odd.sh </dev/null
+finds documents 'does not name the preset odd' CMakePresets.json <<<'"name": "odd"'
+
 finds packages 'no-such-package-at-all is not' packages.txt <<<'[test]
 no-such-package-at-all'
 finds packages 'bash stands there twice' packages.txt <<<'[run]
