@@ -352,7 +352,7 @@ void CodesPage::makeShortcuts()
         openHistory();
     });
     addShortcut("Dashboard_Stop", QKeySequence(int(Qt::CTRL) + Qt::Key_Period), [this] { stop(); });
-    addShortcut("Dashboard_CopyReply", QKeySequence(int(Qt::CTRL) + Qt::SHIFT + Qt::Key_C),
+    addShortcut("Dashboard_CopyReply", QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_C),
                 [this] { copyReply(); });
     for (int digit = 0; digit < CHOICE_KEYS; ++digit)
         addShortcut("Dashboard_ChoiceKey", QKeySequence(int(Qt::ALT) + Qt::Key_0 + digit),
