@@ -42,11 +42,12 @@ add_version()
     mv "$changelog.new" "$changelog"
 }
 
-# build_in FOLDER: builds the packages from a copy of the working tree in FOLDER/source. They are put
-# into FOLDER.
+# build_in FOLDER: builds the packages from a copy of $snapshot in FOLDER/source. They are put into
+# FOLDER.
 build_in()
 {
-    copy_source_tree "$1/source"
+    mkdir -p "$1"
+    cp -a "$snapshot" "$1/source"
     [ -z "$version" ] || add_version "$1/source"
     # A checkout sets the times of the files, which the packages would contain.
     find "$1/source" -exec touch --no-dereference \
@@ -80,6 +81,8 @@ mkdir -p build "$output"
 work=$PWD/build/package # always the same path, so that ccache finds the results of an earlier build
 rm -rf "$work"
 mkdir "$work"
+snapshot=$work/snapshot # both builds use it, because the working tree may change meanwhile
+copy_source_tree "$snapshot"
 follow build/package.log build_in "$work"
 lintian --fail-on error,warning --allow-root "$work"/*.changes
 if [ -n "$check_reproducible" ]; then
