@@ -42,10 +42,12 @@ add_version()
     mv "$changelog.new" "$changelog"
 }
 
-# build_in FOLDER: copies the working tree to FOLDER/source, and builds the packages in FOLDER.
+# build_in FOLDER: builds the packages from a copy of $snapshot in FOLDER/source. They are put into
+# FOLDER.
 build_in()
 {
-    copy_source_tree "$1/source"
+    mkdir -p "$1"
+    cp -a "$snapshot" "$1/source"
     [ -z "$version" ] || add_version "$1/source"
     # The packages contain the modification times of the files, which differ between checkouts.
     find "$1/source" -exec touch --no-dereference \
@@ -79,6 +81,8 @@ mkdir -p build "$output"
 work=$PWD/build/package # a fixed path, so that ccache can reuse the results of earlier builds
 rm -rf "$work"
 mkdir "$work"
+snapshot=$work/snapshot # both builds use it, because the working tree may change meanwhile
+copy_source_tree "$snapshot"
 follow build/package.log build_in "$work"
 lintian --fail-on error,warning --allow-root "$work"/*.changes
 if [ -n "$check_reproducible" ]; then

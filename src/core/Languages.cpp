@@ -30,8 +30,8 @@ struct Language {
 
 const Language LANGUAGES[] = {
     {"en", "English", false}, {"de", "Deutsch", false},   {"fr", "Français", false},
-    {"es", "Español", false}, {"pt", "Português", false}, {"ru", "Русский", false},
-    {"ar", "العربية", true},  {"zh", "中文", false},
+    {"es", "Español", false}, {"pt", "Português", false}, {"pt_BR", "Português (Brasil)", false},
+    {"ru", "Русский", false}, {"ar", "العربية", true},    {"zh", "中文", false},
 };
 
 const char ENGLISH[] = "en";
@@ -161,6 +161,13 @@ QStringList Languages::codes()
             codes << code;
     }
     return codes;
+}
+
+QString Languages::codeFor(const QString &locale)
+{
+    const QString language = locale.section(QLatin1Char('_'), 0, 0);
+    const QString withCountry = locale.section(QLatin1Char('.'), 0, 0);
+    return find(withCountry) ? withCountry : language;
 }
 
 QString Languages::nativeName(const QString &code)

@@ -9,8 +9,9 @@ namespace HostCore
 
 /**
  * The languages of the host. Each language has a compiled Qt Linguist file whose source texts are
- * the text keys. An operator can override the plug-in's texts; see OperatorTexts. Languages are
- * identified by their ISO 639-1 codes, such as "en" and "ar".
+ * the text keys. An operator can replace the texts of the plug-in, see OperatorTexts. Languages are
+ * identified by their ISO 639-1 codes ("en", "ar"), followed by a country
+ * if there are several variants ("pt_BR").
  */
 class Q_DECL_EXPORT Languages
 {
@@ -26,8 +27,11 @@ public:
     /// Returns the languages whose files are installed, in the order of the language menu. The list
     /// always contains English. May be called from any thread.
     static QStringList codes();
-    /// Returns the native name of the language, or the code if the language is unknown. May be
-    /// called from any thread.
+    /// Returns the code of the language for the name of a locale, such as "pt_BR.UTF-8" or "de_AT".
+    /// The language need not be known. May be called from any thread.
+    static QString codeFor(const QString &locale);
+    /// Returns the name of the language in the language itself, or the code if the language is
+    /// unknown. May be called from any thread.
     static QString nativeName(const QString &code);
     /// Returns true if the language is written from right to left. May be called from any thread.
     static bool isRightToLeft(const QString &code);

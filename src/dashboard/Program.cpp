@@ -12,6 +12,7 @@
 #include "device/Scenarios.h"
 #include "FirstPaint.h"
 #include "Languages.h"
+#include "look/Icons.h"
 #include "look/Look.h"
 #include "look/StartEnvironment.h"
 #include "look/TextSize.h"
@@ -93,6 +94,13 @@ int leaveToFirst(const Arguments &arguments)
     return namesDevice(arguments) ? fail(dashboardText("CLI_DEVICE_STAYS")) : EXIT_GOOD;
 }
 
+/// Gives windows the icon of the program. A Wayland compositor takes the icon from the menu entry.
+void identifyWindows()
+{
+    QGuiApplication::setDesktopFileName(QLatin1String("ussd-dashboard"));
+    QApplication::setWindowIcon(applicationIcon());
+}
+
 void startLook(const DashboardSettings &settings)
 {
     Look &look = Look::instance();
@@ -165,6 +173,7 @@ int Program::openWindow(int &argc, char **argv, const Arguments &arguments)
     if (instance.role() == SingleInstance::Later)
         return leaveToFirst(arguments);
     HostCore::Languages::setCurrent(HostCore::Languages::current()); // also updates widgets
+    identifyWindows();
     startLook(settings);
     DeviceChoice choice = wantedDevice(arguments, settings);
     const QString unusable = useDevice(&choice);

@@ -19,7 +19,6 @@ namespace
 
 const char ENGLISH[] = "en";
 const mode_t OTHERS = S_IRWXG | S_IRWXO;
-const int CODE_LENGTH = 2; // the length of the language code in a locale name
 
 QStringList wordsOf(int argc, char **argv)
 {
@@ -53,7 +52,7 @@ QString usualLanguage()
 {
     const QString remembered = DashboardSettings().language();
     const QString code =
-        remembered.isEmpty() ? QLocale::system().name().left(CODE_LENGTH) : remembered;
+        remembered.isEmpty() ? HostCore::Languages::codeFor(QLocale::system().name()) : remembered;
     const HostCore::Languages::FileState state = HostCore::Languages::fileState(code);
     const bool isAbsent =
         state == HostCore::Languages::Missing || state == HostCore::Languages::NoSuchLanguage;

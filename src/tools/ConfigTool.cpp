@@ -1,6 +1,8 @@
 #include "ConfigTool.h"
 
 #include "FileCheck.h"
+#include "FileSchema.h"
+#include "FormatFiles.h"
 #include "NewFolder.h"
 #include "TerminalText.h"
 
@@ -12,16 +14,23 @@ namespace
 
 const char HELP[] =
     "Usage: ussd-config check [--format=text|json] FILE|FOLDER...\n"
+    "       ussd-config fmt [--check] FILE...\n"
     "       ussd-config new FOLDER [--operator NAME|MCCMNC [--country CC]]\n"
+    "       ussd-config schema configuration|layout|profiles\n"
     "\n"
     "check reads configuration, layout, profile and scenario files as the plug-in and\n"
     "the simulated network do. Prints what will not work as written, and the values\n"
     "read. Of a folder, it reads the plug-in's files and the scenarios.\n"
     "\n"
+    "fmt gives XML files a uniform layout, and keeps their comments and meaning.\n"
+    "\n"
+    "schema prints a RELAX NG schema for XML editors.\n"
+    "\n"
     "new creates a folder with the files for one operator of the database, or for an\n"
     "invented operator, and a simulated network for trying them.\n"
     "\n"
     "  --format=json     one JSON document, for scripts\n"
+    "  --check           only print the files that fmt would change\n"
     "  --operator NAME   the operator's name, or its network code, such as 26207\n"
     "  --country CC      the operator's country, such as de\n"
     "  --database FILE   the database of operators\n"
@@ -61,6 +70,37 @@ QString complaintAboutCheck(const ToolArguments &arguments)
     return QString();
 }
 
+QStringList noOptions()
+{
+    return QStringList();
+}
+
+QStringList formatOptions()
+{
+    return QStringList() << QLatin1String("--check");
+}
+
+QString complaintAboutFormat(const ToolArguments &arguments)
+{
+    return QLatin1String(arguments.words.count() < 2 ? "there is no file to format" : "");
+}
+
+QString complaintAboutSchema(const ToolArguments &arguments)
+{
+    const bool isKnown =
+        arguments.words.count() == 2 && schemaKinds().contains(arguments.words.at(1));
+    return isKnown ? QString()
+                   : QLatin1String("\"schema\" needs one of: ") +
+                         schemaKinds().join(QLatin1String(", "));
+}
+
+int printSchema(const ToolArguments &arguments)
+{
+    const QByteArray schema = relaxNgSchema(arguments.words.at(1));
+    HostCore::printLine(QString::fromUtf8(schema).trimmed());
+    return TOOL_GOOD;
+}
+
 QString complaintAboutNew(const ToolArguments &arguments)
 {
     if (arguments.words.count() != 2 || arguments.words.at(1).isEmpty())
@@ -98,7 +138,9 @@ int check(const ToolArguments &arguments)
 
 const Command COMMANDS[] = {
     {"check", check, complaintAboutCheck, checkOptions},
+    {"fmt", formatFiles, complaintAboutFormat, formatOptions},
     {"new", createNewFolder, complaintAboutNew, newFolderOptions},
+    {"schema", printSchema, complaintAboutSchema, noOptions},
 };
 
 const Command *commandOf(const ToolArguments &arguments)
@@ -115,7 +157,7 @@ QString complaintAbout(const ToolArguments &arguments, const Command *command)
     if (!arguments.error.isEmpty())
         return arguments.error;
     if (!command)
-        return QLatin1String("the first word must be \"check\" or \"new\"");
+        return QLatin1String("the first word must be \"check\", \"fmt\", \"new\" or \"schema\"");
     const QStringList given = arguments.options.keys();
     for (int i = 0; i < given.count(); ++i) {
         if (!command->options().contains(given.at(i)))
@@ -127,10 +169,7 @@ QString complaintAbout(const ToolArguments &arguments, const Command *command)
 
 QStringList valueOptions()
 {
-    QStringList options;
-    for (const Command &command : COMMANDS)
-        options << command.options();
-    return options;
+    return checkOptions() << newFolderOptions();
 }
 
 } // namespace
@@ -140,7 +179,7 @@ int runConfigTool(const QStringList &words)
     const ToolArguments arguments =
         parseToolArguments(words,
                            QStringList() << QLatin1String("--help") << QLatin1String("-h")
-                                         << QLatin1String("--version"),
+                                         << QLatin1String("--version") << formatOptions(),
                            valueOptions());
     if (arguments.has("--help") || arguments.has("-h"))
         return HostCore::printLine(QLatin1String(HELP)), TOOL_GOOD;

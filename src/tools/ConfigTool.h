@@ -6,7 +6,9 @@
 namespace Tools
 {
 
-/// Runs ussd-config, which checks files and creates folders for operators. Returns a ToolExit.
+/// Runs the program ussd-config, which checks and formats files, creates
+/// folders for operators and prints schemas. Returns a
+/// ToolExit.
 int runConfigTool(const QStringList &words);
 
 } // namespace Tools

@@ -6,6 +6,7 @@
 
 #include "ConfigurationCheck.h"
 #include "ElementCheck.h"
+#include "FileSchema.h"
 #include "InputFile.h"
 #include "LayoutCheck.h"
 #include "PluginFiles.h"
@@ -37,44 +38,6 @@ QStringList sectionNames()
     return listOf({XmlName::PRE_POST_DIFFER, XmlName::PREPAID, XmlName::POSTPAID,
                    XmlName::SENT_CHAR, XmlName::RECEIVED_CHAR, XmlName::CMD_EDIT,
                    XmlName::AUTO_USSD, XmlName::CLEAR_HISTORY});
-}
-
-QStringList configurationNames()
-{
-    return sectionNames() << listOf({XmlName::COMMAND, XmlName::RETURN_PATTERN, XmlName::STYLE,
-                                     XmlName::ITEM, XmlName::LENGTH, XmlName::MIN_LENGTH,
-                                     XmlName::RETURN_STYLE, XmlName::LIMIT_TEXT, XmlName::URL,
-                                     XmlName::UPDATE_BUTTON, XmlName::Y_HEIGHT, XmlName::Y_OFFSET,
-                                     XmlName::COLOR, XmlName::READONLY_COLOR, XmlName::COMMON_COLOR,
-                                     XmlName::HEAD_COLOR});
-}
-
-QStringList layoutNames()
-{
-    return listOf({XmlName::SMS_USSD, XmlName::MAIN_SIZE, XmlName::TREE_SIZE, XmlName::TREE,
-                   XmlName::DIALOG, XmlName::ITEM, XmlName::CONTROL, XmlName::LIMIT_TEXT,
-                   XmlName::LENGTH, XmlName::MIN_LENGTH, XmlName::COMMAND, XmlName::NUMBER});
-}
-
-KnownNames namesOfConfigurations()
-{
-    KnownNames known;
-    known.elements = configurationNames() + layoutNames();
-    known.attributes =
-        listOf({XmlName::NAME, XmlName::VALUE, XmlName::VISIBLE, XmlName::TYPE, XmlName::WIDTH,
-                XmlName::HEIGHT, XmlName::POSITION, XmlName::RED, XmlName::GREEN, XmlName::BLUE,
-                XmlName::SHOW_CONFIRM_DIALOG, XmlName::VALID, XmlName::IMSI, XmlName::USSD,
-                XmlName::PARENT, XmlName::ID, XmlName::POS_X, XmlName::POS_Y});
-    return known;
-}
-
-KnownNames namesOf(const QString &kind)
-{
-    if (kind != QLatin1String("profiles"))
-        return namesOfConfigurations();
-    KnownNames known;
-    known.elements = profileFields() << QLatin1String(XmlName::ITEM);
-    return known;
 }
 
 bool isXml(const QByteArray &content)
@@ -199,7 +162,7 @@ void checkXml(const QByteArray &content, CheckReport &report)
                    elements.error + QLatin1String(" The rest of the file is not read."));
     if (elements.isDangerous)
         return;
-    const KnownNames known = namesOf(report.kind);
+    const KnownNames known = knownNames(report.kind);
     ElementCheck(elements, report).names(known);
     checkSections(spellingCorrected(content, known), report);
     report.tables = tablesOf(content, report.kind);

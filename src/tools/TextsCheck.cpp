@@ -168,7 +168,8 @@ bool isTexts(const QByteArray &content)
     for (int i = 0; i < lines.count(); ++i) {
         const QByteArray line = lines.at(i).trimmed();
         if (line.startsWith('['))
-            return QRegExp(QLatin1String("\\[[a-z]{2}\\]")).exactMatch(QString::fromUtf8(line));
+            return QRegExp(QLatin1String("\\[[a-z]{2}(_[A-Z]{2})?\\]"))
+                .exactMatch(QString::fromUtf8(line));
     }
     return false;
 }

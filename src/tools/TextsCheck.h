@@ -8,8 +8,8 @@
 namespace Tools
 {
 
-/// Returns true if the content is that of an operator's text file, whose first section is named
-/// after a two-letter language code.
+/// Returns true if the contents are those of an operator's text file: the first section is named
+/// after a language, such as "de" or "pt_BR".
 bool isTexts(const QByteArray &content);
 
 /// Checks an operator's text file. The keys that the operator uses in addition to the plug-in's

@@ -38,6 +38,8 @@ grep -q "<release version=\"$version\"" "$metainfo" || complain "$metainfo: no r
 head -n 1 debian/changelog | grep -qF "($version)" || complain "debian/changelog: the version is not $version"
 program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$entry" | sort -u)
 [ "$program" = ussd-dashboard ] || complain "$entry: starts $program"
+window_entry=$(sed -n 's/.*setDesktopFileName(QLatin1String("\(.*\)")).*/\1/p' src/dashboard/Program.cpp)
+[ "$window_entry.desktop" = "${entry##*/}" ] || complain "src/dashboard/Program.cpp: windows belong to the menu entry '$window_entry'"
 grep -q "<binary>$program</binary>" "$metainfo" || complain "$metainfo: does not provide $program"
 [ "$faults" -gt 0 ] || [ -z "$skipped" ] || { printf 'not installed:%s\n' "$skipped"; exit 77; }
 finish

@@ -40,10 +40,12 @@ allowed() {
 
 # lies_in_folder NAME FILE FOLDER: succeeds if the header NAME that FILE includes is inside FOLDER.
 lies_in_folder() {
-    local name=$1 file=$2 folder=$3 candidate
+    local name=$1 file=$2 folder=$3 candidate path
     for candidate in "${file%/*}/$name" "$folder/$name" "${folder%/*}/$name"; do
         [ -f "$candidate" ] || continue
-        case "$(realpath --relative-to=. "$candidate")" in
+        path=$candidate
+        [[ $path != *./* ]] || path=$(realpath --relative-to=. "$candidate") # starting a program takes time
+        case "$path" in
         "$folder"/*) return 0 ;;
         esac
     done

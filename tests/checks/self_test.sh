@@ -164,6 +164,10 @@ fault no such line
 -int a;
 +'
 
+finds documents 'does not name the label odd' tests/odd/CMakeLists.txt <<<'ussd_add_test(a LABELS odd)'
+finds documents 'does not name the check odd' tests/checks/odd.sh </dev/null
+finds documents 'does not name the preset odd' CMakePresets.json <<<'"name": "odd"'
+
 finds packages 'no-such-package-at-all is not' packages.txt <<<'[test]
 no-such-package-at-all'
 finds packages 'bash stands there twice' packages.txt <<<'[run]
@@ -172,4 +176,74 @@ bash
 bash'
 finds packages 'bash stands in no section' packages.txt <<<'bash'
 finds packages '\[rum\] is no section' packages.txt <<<'[rum]'
+# translations.sh: adds missing keys, removes others, and creates the file of a language.
+fresh_tree
+write translations/en.ts <<'TS'
+<TS version="2.1" language="en">
+<context>
+    <name>USSDUIPlugin</name>
+    <!-- a comment -->
+    <message>
+        <source>IDS_A</source>
+        <translation>Text %1</translation>
+    </message>
+    <message>
+        <source>IDS_B</source>
+        <translation>B</translation>
+    </message>
+</context>
+</TS>
+TS
+write translations/de.ts <<'TS'
+<TS version="2.1" language="de">
+<context>
+    <name>USSDUIPlugin</name>
+    <message>
+        <source>IDS_B</source>
+        <translation>be</translation>
+    </message>
+    <message>
+        <source>IDS_C</source>
+        <translation>ce</translation>
+    </message>
+</context>
+</TS>
+TS
+write plugins/a.xml <<<'<langID>IDS_D</langID>'
+write src/core/a.cpp <<<'text("IDS_A");'
+
+# translations STATUS ARGUMENT...: runs the script and stores what it prints.
+translations() {
+    local status=$1
+    shift
+    said=$(TRANSLATIONS_ROOT=$tree bash "$source_tree/scripts/translations.sh" "$@" 2>&1)
+    local got=$?
+    [ "$got" -eq "$status" ] && return
+    printf 'translations.sh %s: status %s; it says:\n%s\n' "$*" "$got" "$said"
+    wrong=1
+}
+
+# translations_have PATTERN: requires that what the script printed and the files match the pattern.
+translations_have() {
+    { printf '%s\n' "$said" && tr '\n' ' ' <"$tree/translations/de.ts"; } | grep -qE "$1" && return
+    printf 'translations.sh: no "%s" in:\n%s\n' "$1" "$said"
+    wrong=1
+}
+
+translations 1 --check
+translations_have 'translations/de.ts is not up to date'
+translations_have '<source>IDS_C'
+translations 1
+translations_have '^de: USSDUIPlugin IDS_A is missing'
+translations_have '^de: USSDUIPlugin IDS_C is not in English'
+translations_have '^en: USSDUIPlugin IDS_D is used and has no text'
+translations_have 'language="de".*<!-- a comment -->.*"unfinished">Text %1<.*<translation>be<'
+rm "$tree/plugins/a.xml"
+sed -i 's/ type="unfinished">Text/>Wort/' "$tree/translations/de.ts"
+translations 0
+translations 0 --check
+translations 1 --new pt_BR
+translations_have '^pt_BR: USSDUIPlugin IDS_B is missing'
+translations 2 --new de
+translations 2 --new Deutsch
 exit "$wrong"

@@ -60,7 +60,7 @@ const QString PLUGIN = QLatin1String("USSDUIPlugin");
 
 QStringList languages()
 {
-    return QString::fromLatin1("en de fr es pt ru ar zh").split(QLatin1Char(' '));
+    return QString::fromLatin1("en de fr es pt pt_BR ru ar zh").split(QLatin1Char(' '));
 }
 
 QStringList filesBelow(const QString &folder, const QStringList &patterns)

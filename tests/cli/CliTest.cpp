@@ -15,6 +15,9 @@ UssdProcess::UssdProcess(const QStringList &arguments)
 {
     setProgram(QLatin1String(USSD_PROGRAM));
     setArguments(arguments);
+#if QT_VERSION >= 0x060000
+    setChildProcessModifier([this] { prepareChild(); });
+#endif
 }
 
 UssdProcess::~UssdProcess()
@@ -23,8 +26,8 @@ UssdProcess::~UssdProcess()
     waitForFinished();
 }
 
-/// Runs in the child process immediately before it executes the program.
-void UssdProcess::setupChildProcess()
+/// Called in the child process before the program is executed.
+void UssdProcess::prepareChild()
 {
     for (auto stream = m_streams.constBegin(); stream != m_streams.constEnd(); ++stream)
         dup2(stream.value(), stream.key());

@@ -36,10 +36,16 @@ public:
     /// Waits until the program has ended.
     Run finish();
 
+#if QT_VERSION < 0x060000
 protected:
-    void setupChildProcess() override;
+    void setupChildProcess() override
+    {
+        prepareChild();
+    }
+#endif
 
 private:
+    void prepareChild();
     void readAll();
 
     QMap<int, int> m_streams;

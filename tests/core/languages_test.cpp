@@ -66,9 +66,10 @@ protected:
 
 private slots:
     void englishIsThereBeforeAnyLanguageIsChosen();
-    void allEightLanguagesAreOffered();
+    void allLanguagesAreOffered();
     void theTextFollowsTheLanguageAtOnce();
     void namesAreThoseOfTheLanguageItself();
+    void localeHasItsLanguage();
     void anEmptyKeyGivesAnEmptyText();
     void anUnknownKeyGivesTheKey();
     void anUnknownContextGivesTheKey();
@@ -88,10 +89,10 @@ void LanguagesTest::englishIsThereBeforeAnyLanguageIsChosen()
     QVERIFY(pluginText("IDS_BUTTON_SEND") != QLatin1String("IDS_BUTTON_SEND"));
 }
 
-void LanguagesTest::allEightLanguagesAreOffered()
+void LanguagesTest::allLanguagesAreOffered()
 {
     const QStringList wanted =
-        QString(QLatin1String("en de fr es pt ru ar zh")).split(QLatin1Char(' '));
+        QString(QLatin1String("en de fr es pt pt_BR ru ar zh")).split(QLatin1Char(' '));
     QCOMPARE(HostCore::Languages::codes(), wanted);
 }
 
@@ -112,6 +113,19 @@ void LanguagesTest::namesAreThoseOfTheLanguageItself()
     QCOMPARE(HostCore::Languages::nativeName(QLatin1String("de")), QLatin1String("Deutsch"));
     QCOMPARE(HostCore::Languages::nativeName(QLatin1String("ru")), QString::fromUtf8("Русский"));
     QCOMPARE(HostCore::Languages::nativeName(QLatin1String("xx")), QLatin1String("xx"));
+}
+
+void LanguagesTest::localeHasItsLanguage()
+{
+    const auto codeFor = [](const char *locale) {
+        return HostCore::Languages::codeFor(QLatin1String(locale));
+    };
+    QCOMPARE(codeFor("pt_BR"), QStringLiteral("pt_BR"));
+    QCOMPARE(codeFor("pt_BR.UTF-8"), QStringLiteral("pt_BR"));
+    QCOMPARE(codeFor("pt_PT"), QStringLiteral("pt"));
+    QCOMPARE(codeFor("de_AT"), QStringLiteral("de"));
+    QCOMPARE(codeFor("de"), QStringLiteral("de"));
+    QCOMPARE(codeFor("C"), QStringLiteral("C"));
 }
 
 void LanguagesTest::anEmptyKeyGivesAnEmptyText()

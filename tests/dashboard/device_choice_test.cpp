@@ -1,6 +1,6 @@
 #include "base/DashboardText.h"
 #include "DeviceTest.h"
-#include "Languages.h"
+#include "LanguageList.h"
 #include "window/DeviceMenu.h"
 
 using namespace Dashboard;
@@ -137,7 +137,7 @@ void DeviceChoiceTest::everyProblemIsSaidInEveryLanguage()
         QVERIFY2(text.contains(word), qPrintable(code + QLatin1Char(' ') + text));
         texts << text;
     }
-    QCOMPARE(texts.size(), HostCore::Languages::codes().size());
+    QVERIFY(texts.size() >= languagesWithoutVariants().size());
     QVERIFY(!texts.contains(QString()));
 }
 

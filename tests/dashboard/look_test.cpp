@@ -428,6 +428,13 @@ private slots:
         QVERIFY(button->grab().toImage() != without);
     }
 
+    void programHasItsIcon()
+    {
+        const QList<QSize> sizes{{16, 16}, {32, 32}, {48, 48}, {128, 128}};
+        QCOMPARE(applicationIcon().availableSizes(), sizes);
+        QVERIFY(!applicationIcon().pixmap(32).isNull());
+    }
+
     void messageBoxHasOurIcon()
     {
         Look::instance().start();

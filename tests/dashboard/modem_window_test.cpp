@@ -128,7 +128,7 @@ void ModemWindowTest::aDemonstrationIsMarkedInEveryLanguage()
 {
     tell(demonstration());
     QSet<QString> texts;
-    for (const char *code : {"en", "de", "fr", "es", "pt", "ru", "ar", "zh"}) {
+    for (const char *code : {"en", "de", "fr", "es", "pt", "pt_BR", "ru", "ar", "zh"}) {
         window().setLanguage(QLatin1String(code));
         texts << banner();
         QCOMPARE(window().windowTitle(), dashboardText("APP_TITLE_DEMONSTRATION"));

@@ -138,6 +138,7 @@ void PluginLoadingTest::aTextFileIsNoLibrary()
 
 void PluginLoadingTest::anEmptyFileIsNoLibrary()
 {
+    allowWarning("libempty.so: failed to map to memory"); // of Qt 6
     QCOMPARE(load(writeFile(QLatin1String("libempty.so"), QByteArray())).step,
              PluginFailure::NotALibrary);
 }
@@ -162,14 +163,17 @@ void PluginLoadingTest::aPluginOfAnotherQtIsOfTheWrongBuild()
     QFile good(testPlugin("good_plugin"));
     QVERIFY(good.open(QIODevice::ReadOnly));
     QByteArray content = good.readAll();
-    // After the magic string come the metadata format and the major and minor version of Qt.
-    const int mark = content.indexOf("QTMETADATA !");
+    // The mark of Qt 5, or the owner of the note of Qt 6, has 12 bytes. It is followed by the
+    // format of the meta data and the major and minor version of Qt.
+    const int mark = int(qMax(content.indexOf("QTMETADATA !"), content.indexOf("qt-project!")));
     QVERIFY(mark > 0);
-    QCOMPARE(int(content.at(mark + 13)), 5);
+    QCOMPARE(int(content.at(mark + 13)), QT_VERSION_MAJOR);
     content[mark + 14] = 99;
+    allowWarning("incompatible Qt library"); // of Qt 6
     const PluginFailure failure = load(writeFile(QLatin1String("libother.so"), content));
     QCOMPARE(failure.step, PluginFailure::WrongBuild);
-    QVERIFY2(failure.detail.contains(QLatin1String("5.99")), qPrintable(failure.detail));
+    QVERIFY2(failure.detail.contains(QString::fromLatin1("%1.99").arg(QT_VERSION_MAJOR)),
+             qPrintable(failure.detail));
 }
 
 void PluginLoadingTest::aPluginWithoutObjectIsSaid()

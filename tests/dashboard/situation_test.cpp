@@ -1,7 +1,7 @@
 #include "base/Isolate.h"
 #include "device/DeviceStatus.h"
 #include "device/Situation.h"
-#include "Languages.h"
+#include "LanguageList.h"
 #include "look/Controls.h"
 #include "tksv_device.h"
 #include "UssdTest.h"
@@ -86,8 +86,8 @@ private slots:
     void theInstructionsNameTheirCommand_data();
     void theInstructionsNameTheirCommand();
     void theTerminalGetsTheInstructions();
-    void everyProblemIsSaidInEightLanguages_data();
-    void everyProblemIsSaidInEightLanguages();
+    void everyProblemIsSaidInEveryLanguage_data();
+    void everyProblemIsSaidInEveryLanguage();
 };
 
 void SituationTest::everyStatusHasACompleteSituation()
@@ -286,7 +286,7 @@ void SituationTest::theTerminalGetsTheInstructions()
     QCOMPARE(situationAsText(off), off.title + QLatin1String(". ") + off.text);
 }
 
-void SituationTest::everyProblemIsSaidInEightLanguages_data()
+void SituationTest::everyProblemIsSaidInEveryLanguage_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<int>("problem");
@@ -309,7 +309,7 @@ void SituationTest::everyProblemIsSaidInEightLanguages_data()
     row("denied", TKSV_DEVICE_SEARCHING, TKSV_PROBLEM_REGISTRATION_DENIED, "SIM");
 }
 
-void SituationTest::everyProblemIsSaidInEightLanguages()
+void SituationTest::everyProblemIsSaidInEveryLanguage()
 {
     QFETCH(int, state);
     QFETCH(int, problem);
@@ -323,7 +323,7 @@ void SituationTest::everyProblemIsSaidInEightLanguages()
         QVERIFY2(text.contains(words), qPrintable(code + QLatin1Char(' ') + text));
         texts << text;
     }
-    QCOMPARE(texts.size(), 8);
+    QVERIFY(texts.size() >= languagesWithoutVariants().size());
 }
 
 USSD_TEST_MAIN(SituationTest)

@@ -22,7 +22,8 @@ is_there bin/ussd bin/ussd-dashboard bin/ussd-config bin/ussd-provision \
     "$lib/ussd-dashboard/plugins/USSDUIPlugin/libUSSDUIPlugin.so" \
     etc/ussd-dashboard/USSDPluginConfig.xml etc/ussd-dashboard/ussdsysprofile.xml \
     share/ussd-dashboard/plain/plugins/USSDUIPlugin/USSDPluginConfig.xml \
-    share/ussd-dashboard/translations/de.qm share/ussd-dashboard/scenarios/default.scenario \
+    share/ussd-dashboard/translations/de.qm share/ussd-dashboard/translations/pt_BR.qm \
+    share/ussd-dashboard/schemas/ussd-configuration.rng share/ussd-dashboard/scenarios/default.scenario \
     share/applications/ussd-dashboard.desktop share/icons/hicolor/scalable/apps/ussd-dashboard.svg \
     share/icons/hicolor/48x48/apps/ussd-dashboard.png \
     share/metainfo/org.ussd_dashboard.dashboard.metainfo.xml \

@@ -7,10 +7,12 @@
 #include <atomic>
 #include <thread>
 
+#include <QMutex>
 #include <QSemaphore>
 #include <QThread>
 
 #include "fake_tksv.h"
+#include "QtCompat.h"
 #include "requests/ReplyTimer.h"
 #include "requests/USSDLogic.h"
 #include "ThreadWatch.h"
@@ -65,6 +67,32 @@ public slots:
         USSDLogic::GetUSSDLogicInstance()->SendUSSDCommand(
             USSDCmdOrResp(COMPONENT_BALANCE, QStringLiteral("*2#")), &status);
     }
+};
+
+/// Records the announcements in their order, on the threads that make them. A listener of the GUI
+/// thread may receive them in another order: a time-out is announced on that thread, while an
+/// earlier reply from another thread is still in its event queue. This requires that the GUI thread
+/// handles no event for as long as the time-out.
+class Announcements : public QObject
+{
+    Q_OBJECT
+public:
+    QList<int> components()
+    {
+        const QtCompat::MutexLocker locker(&m_mutex);
+        return m_components;
+    }
+
+public slots:
+    void record(int component, QString)
+    {
+        const QtCompat::MutexLocker locker(&m_mutex);
+        m_components << component;
+    }
+
+private:
+    QMutex m_mutex;
+    QList<int> m_components;
 };
 
 inline LogicListener::Answer answer(int component, const QString &text)

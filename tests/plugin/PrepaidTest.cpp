@@ -244,5 +244,5 @@ QString PrepaidTest::text(const char *key)
 
 QStringList PrepaidTest::languages()
 {
-    return QString::fromLatin1("en de fr es pt ru ar zh").split(QLatin1Char(' '));
+    return QString::fromLatin1("en de fr es pt pt_BR ru ar zh").split(QLatin1Char(' '));
 }

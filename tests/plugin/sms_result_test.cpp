@@ -229,7 +229,7 @@ void SmsResultTest::shippedTextsFit_data()
     QTest::addColumn<QString>("language");
     for (const QString &code : HostCore::Languages::codes())
         QTest::newRow(qPrintable(code)) << code;
-    QCOMPARE(HostCore::Languages::codes().count(), 8);
+    QCOMPARE(HostCore::Languages::codes().count(), 9);
 }
 
 void SmsResultTest::shippedTextsFit()

@@ -133,7 +133,7 @@ void InstalledOperatorsTest::sharedNetworksAreNeverChosenSilently()
             QCOMPARE(choice.state, isShared ? ProviderChoice::Ambiguous : ProviderChoice::Chosen);
         }
     }
-    qInfo("%d network codes, %d of several operators", all.count(), shared.count());
+    qInfo("%d network codes, %d of several operators", int(all.count()), int(shared.count()));
 }
 
 void InstalledOperatorsTest::someSharedNetworksHaveDifferentCodes()

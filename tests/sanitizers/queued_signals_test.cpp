@@ -157,7 +157,7 @@ void QueuedSignalsTest::mutexGuardsACounter()
 
 void QueuedSignalsTest::recursiveMutexMayBeTakenTwice()
 {
-    QMutex mutex(QMutex::Recursive);
+    QRecursiveMutex mutex;
     int counter = 0;
     countInThreads([&] {
         const QMutexLocker outer(&mutex);

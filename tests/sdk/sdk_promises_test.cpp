@@ -863,7 +863,7 @@ void SdkPromises::userDataDirectoryExistsAndEndsInSlash()
 {
     unsigned short *directory = nullptr;
     QCOMPARE(TKSV_GetUserDataDirectory(&directory), 0L);
-    const QString path = QString::fromUtf16(directory);
+    const QString path = QString::fromUtf16(reinterpret_cast<const char16_t *>(directory));
     delete[] directory;
     QVERIFY(path.endsWith(shown(u"/")));
     struct stat status = {};

@@ -21,7 +21,7 @@ QString handedOut()
     unsigned short *directory = nullptr;
     if (TKSV_GetUserDataDirectory(&directory) != 0)
         return directory ? QString::fromLatin1("not null") : QString();
-    QString path = QString::fromUtf16(directory);
+    QString path = QString::fromUtf16(reinterpret_cast<const char16_t *>(directory));
     delete[] directory;
     return path;
 }

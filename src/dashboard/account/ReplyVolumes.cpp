@@ -42,6 +42,7 @@ qint64 unitOf(const QString &name)
     return 0;
 }
 
+/// Returns the pattern of a unit, which only matches at the offset that the search starts at.
 QString unitPattern()
 {
     QString names;
@@ -50,7 +51,7 @@ QString unitPattern()
             names += QRegularExpression::escape(plainForm(each).toLower()) + QLatin1Char('|');
     }
     names.chop(1);
-    return QLatin1String("[ \\x{00a0}]?(") + names + QLatin1String(")(?!\\p{L})(?!/s)(?!ps)");
+    return QLatin1String("\\G[ \\x{00a0}]?(") + names + QLatin1String(")(?!\\p{L})(?!/s)(?!ps)");
 }
 
 /** Finds the data volumes in a reply and determines which one is the remaining volume. */
@@ -81,9 +82,7 @@ void VolumeReader::find()
 {
     static const QRegularExpression unit(unitPattern());
     for (const ReplyNumber &number : replyNumbers(m_text.plain())) {
-        const QRegularExpressionMatch match =
-            unit.match(m_text.folded(), number.end, QRegularExpression::NormalMatch,
-                       QRegularExpression::AnchoredMatchOption);
+        const QRegularExpressionMatch match = unit.match(m_text.folded(), number.end);
         if (match.hasMatch())
             m_volumes << volumeOf(number, match);
     }

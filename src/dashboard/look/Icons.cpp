@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include "Look.h"
+#include "Resources.h"
 
 #include <cstring>
 
@@ -117,6 +118,15 @@ QIcon icon(const char *name, Token token)
 QIcon icon(const char *name, Token token, Token whenOn)
 {
     return QIcon(new TokenIconEngine(name, token, whenOn));
+}
+
+QIcon applicationIcon()
+{
+    openResources();
+    QIcon icon;
+    for (const char *size : {"16", "32", "48", "128"})
+        icon.addFile(QString::fromLatin1(":/look/application-%1.png").arg(QLatin1String(size)));
+    return icon;
 }
 
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget)

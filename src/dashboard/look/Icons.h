@@ -18,8 +18,11 @@ QIcon icon(const char *name, Token token = Token::Text);
 /// Returns an icon for a checkable button. `whenOn` is the colour token when the button is checked.
 QIcon icon(const char *name, Token token, Token whenOn);
 
-/// Returns the icon as a pixmap, for widgets that do not support QIcon. The pixmap does not adapt
-/// to the theme. `size` is in device-independent pixels.
+/// Returns the icon of the program, in the sizes that window managers show.
+QIcon applicationIcon();
+
+/// Returns a picture of the icon for a place that cannot hold an icon. It does not follow the
+/// theme. `size` is in device-independent pixels.
 QPixmap iconPixmap(const char *name, Token token, int size, const QWidget *widget);
 
 } // namespace Dashboard

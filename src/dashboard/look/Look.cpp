@@ -59,7 +59,9 @@ Look::Look(QObject *parent) : QObject(parent)
 {
     openResources();
     connect(qApp, &QGuiApplication::layoutDirectionChanged, this, &Look::update);
-    connect(qApp, &QGuiApplication::fontChanged, this, &Look::update);
+    // By name, since Qt 6 deprecates the signal in favour of an event, which Qt 5 does not send
+    // here.
+    connect(qApp, SIGNAL(fontChanged(QFont)), SLOT(update()));
 }
 
 void Look::start()

@@ -50,9 +50,11 @@ signals:
     /// the layout direction or the font.
     void changed();
 
+private slots:
+    void update();
+
 private:
     explicit Look(QObject *parent);
-    void update();
     void dress();
 
     ThemeChoice m_theme = ThemeChoice::System;

@@ -187,13 +187,24 @@ QString MessageDatabase::takeDamagedFile()
 
 // ---- statements ---------------------------------------------------------------------------------
 
+namespace
+{
+
+/// Returns the value, or an empty text instead of NULL. In Qt 6, a QVariant with a null string is
+/// not null itself.
+QVariant withoutNull(const QVariant &value)
+{
+    return value.toString().isNull() ? QVariant(QLatin1String("")) : value;
+}
+
+} // namespace
+
 bool MessageDatabase::run(const char *statement, const QVariantList &values, QSqlQuery *query)
 {
     query->setForwardOnly(true);
     query->prepare(QLatin1String(statement));
     for (const QVariant &value : values)
-        query->addBindValue(value.isNull() ? QVariant(QLatin1String(""))
-                                           : value); // NULL is invalid
+        query->addBindValue(withoutNull(value));
     return query->exec() || handleError(*query);
 }
 

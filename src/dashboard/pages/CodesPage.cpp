@@ -345,20 +345,20 @@ QAction *CodesPage::addShortcut(const char *name, const QKeySequence &key,
 
 void CodesPage::makeShortcuts()
 {
-    addShortcut("Dashboard_FocusCode", QKeySequence(Qt::CTRL + Qt::Key_L), [this] {
+    addShortcut("Dashboard_FocusCode", QKeySequence(int(Qt::CTRL) + Qt::Key_L), [this] {
         emit wanted();
         if (QLineEdit *edit = general().commandEdit())
             edit->setFocus(Qt::ShortcutFocusReason);
     });
-    addShortcut("Dashboard_OpenHistory", QKeySequence(Qt::CTRL + Qt::Key_H), [this] {
+    addShortcut("Dashboard_OpenHistory", QKeySequence(int(Qt::CTRL) + Qt::Key_H), [this] {
         emit wanted();
         openHistory();
     });
-    addShortcut("Dashboard_Stop", QKeySequence(Qt::CTRL + Qt::Key_Period), [this] { stop(); });
-    addShortcut("Dashboard_CopyReply", QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C),
+    addShortcut("Dashboard_Stop", QKeySequence(int(Qt::CTRL) + Qt::Key_Period), [this] { stop(); });
+    addShortcut("Dashboard_CopyReply", QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_C),
                 [this] { copyReply(); });
     for (int digit = 0; digit < CHOICE_KEYS; ++digit)
-        addShortcut("Dashboard_ChoiceKey", QKeySequence(Qt::ALT + (Qt::Key_0 + digit)),
+        addShortcut("Dashboard_ChoiceKey", QKeySequence(int(Qt::ALT) + Qt::Key_0 + digit),
                     [this, digit] { answerNumber(digit); });
 }
 

@@ -75,7 +75,8 @@ QString userDataFolder()
     unsigned short *units = nullptr;
     const long result = TKSV_GetUserDataDirectory(&units);
     const std::unique_ptr<unsigned short[]> owner(units);
-    return result == 0 && units ? QString::fromUtf16(units) : QString();
+    return result == 0 && units ? QString::fromUtf16(reinterpret_cast<const char16_t *>(units))
+                                : QString();
 }
 
 } // namespace

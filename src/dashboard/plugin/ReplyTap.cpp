@@ -83,7 +83,7 @@ unsigned char ReplyTap::onResponse(int, void *data)
     if (!tap || !response)
         return 0;
     Reply reply;
-    reply.text = QString::fromUtf16(response->text);
+    reply.text = QString::fromUtf16(reinterpret_cast<const char16_t *>(response->text));
     reply.isReceived = true;
     reply.asksForAnswer = response->type == NETWORK_WAITS;
     reply.code = answeredCode();
