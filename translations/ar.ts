@@ -2042,11 +2042,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>الأرصدة والرسائل والرموز المرسلة</translation>
+        <translation>الأرصدة والرسائل والرموز المرسلة والمفضلة</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>هل تُحذف كل الأرصدة والرسائل والرموز المرسلة؟ لا يمكن استعادتها.</translation>
+        <translation>هل تُحذف كل الأرصدة والرسائل والرموز المرسلة والمفضلة؟ لا يمكن استعادتها.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

@@ -2043,11 +2043,11 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Guthaben, Nachrichten und gesendete Codes</translation>
+        <translation>Guthaben, Nachrichten, gesendete Codes und Favoriten</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Alle Guthaben, Nachrichten und gesendeten Codes löschen? Sie lassen sich nicht zurückholen.</translation>
+        <translation>Alle Guthaben, Nachrichten, gesendeten Codes und Favoriten löschen? Sie lassen sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

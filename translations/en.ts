@@ -2042,11 +2042,11 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Balances, messages and codes sent</translation>
+        <translation>Balances, messages, codes sent and favourites</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Delete all balances, messages and codes sent? They cannot be brought back.</translation>
+        <translation>Delete all balances, messages, codes sent and favourites? They cannot be brought back.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

@@ -2042,11 +2042,11 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Saldos, mensajes y códigos enviados</translation>
+        <translation>Saldos, mensajes, códigos enviados y favoritos</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>¿Eliminar todos los saldos, mensajes y códigos enviados? No se pueden recuperar.</translation>
+        <translation>¿Eliminar todos los saldos, mensajes, códigos enviados y favoritos? No se pueden recuperar.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

@@ -2043,11 +2043,11 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Soldes, messages et codes envoyés</translation>
+        <translation>Soldes, messages, codes envoyés et favoris</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Supprimer tous les soldes, messages et codes envoyés ? Ils ne pourront pas être récupérés.</translation>
+        <translation>Supprimer tous les soldes, messages, codes envoyés et favoris ? Ils ne pourront pas être récupérés.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

@@ -2043,11 +2043,11 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Saldos, mensagens e códigos enviados</translation>
+        <translation>Saldos, mensagens, códigos enviados e favoritos</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Eliminar todos os saldos, mensagens e códigos enviados? Não podem ser recuperados.</translation>
+        <translation>Eliminar todos os saldos, mensagens, códigos enviados e favoritos? Não podem ser recuperados.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

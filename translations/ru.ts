@@ -2041,11 +2041,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Балансы, сообщения и отправленные коды</translation>
+        <translation>Балансы, сообщения, отправленные коды и избранное</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Удалить все балансы, сообщения и отправленные коды? Вернуть их нельзя.</translation>
+        <translation>Удалить все балансы, сообщения, отправленные коды и избранное? Вернуть их нельзя.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

@@ -2039,11 +2039,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>余额、消息和已发送的代码</translation>
+        <translation>余额、消息、已发送的代码和收藏</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>删除所有余额、消息和已发送的代码？此操作无法撤销。</translation>
+        <translation>删除所有余额、消息、已发送的代码和收藏？此操作无法撤销。</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>

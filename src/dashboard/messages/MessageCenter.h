@@ -41,6 +41,8 @@ public slots:
     void notifyLowBalance(const QString &amount);
     /// Follows the SIM and the settings. Must be called when the settings have changed.
     void look();
+    /// Determines the key of the SIM again.
+    void renewSimKey();
     /// Must be called when the window has come to the front.
     void onInFront();
 

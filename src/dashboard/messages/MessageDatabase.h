@@ -1,34 +1,22 @@
 #ifndef MESSAGEDATABASE_H
 #define MESSAGEDATABASE_H
 
-#include <QList>
-#include <QSqlDatabase>
-#include <QSqlQuery>
-#include <QVariantList>
-
+#include "base/UserDatabase.h"
 #include "Message.h"
 
 namespace Dashboard
 {
 
-/**
- * The messages of all SIMs in an SQLite file that only its user can read, or in memory. The file is
- * opened by the first call that needs it. A damaged file is renamed, and a new one takes its place.
- * Each change is one transaction, so a crash leaves either the old or the new content.
- */
-class MessageDatabase
+/** The messages of all SIMs. Each change is one transaction. */
+class MessageDatabase : public UserDatabase
 {
 public:
     /// An empty name stands for a database in memory.
     explicit MessageDatabase(const QString &file);
-    ~MessageDatabase();
-    MessageDatabase(const MessageDatabase &) = delete;
-    MessageDatabase &operator=(const MessageDatabase &) = delete;
 
     /// Returns the file of the user who runs the program.
     static QString userFile();
 
-    bool isInMemory() const { return m_file.isEmpty(); }
     /// Adds the message and returns its identifier. Returns 0 if it cannot be stored.
     qint64 add(const QString &sim, const Message &message);
     /// Returns at most `limit` messages that are older than `after`, the newest first. A null
@@ -43,31 +31,11 @@ public:
     /// Assigns the messages that arrived before the SIM was known to this SIM.
     bool adopt(const QString &sim);
     bool removeBefore(const QDateTime &limit);
-    /// Removes all messages of all SIMs, and the file.
-    bool removeAll();
-
-    /// Returns the new name of a damaged file since the last call, or an empty string.
-    QString takeDamagedFile();
-    /// Returns true if the file was written by a later version. It is neither read nor changed.
-    bool isOfLaterVersion() const { return m_isOfLaterVersion; }
 
 private:
-    bool isThere() const;
-    bool isOpen();
-    bool open();
-    bool prepare();
-    bool run(const char *statement, const QVariantList &values, QSqlQuery *query);
     QList<Message> select(const QByteArray &statement, const QVariantList &values);
+    qint64 number(const char *statement, const QVariantList &values);
     bool change(const char *statement, const QVariantList &values);
-    bool handleError(const QSqlQuery &query);
-    bool setAside();
-    void close();
-
-    const QString m_file;
-    const QString m_connection; // the name of the connection
-    QString m_damagedFile;
-    bool m_isOfLaterVersion = false;
-    bool m_isOpen = false;
 };
 
 } // namespace Dashboard

@@ -108,6 +108,13 @@ void HomeSetup::readCodes()
     followSim();
 }
 
+void HomeSetup::deleteAll()
+{
+    m_store.removeAll();
+    m_favourites.removeAll();
+    readCodes();
+}
+
 void HomeSetup::exportAccount()
 {
     const QString file =

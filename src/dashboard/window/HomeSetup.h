@@ -34,6 +34,8 @@ public slots:
     void followSim();
     /// Reads the codes of the plug-in's files again.
     void readCodes();
+    /// Deletes the entries and the favourites.
+    void deleteAll();
     /// Saves the entries to a file that the user selects.
     void exportAccount();
 

@@ -136,6 +136,7 @@ private:
     void showDeviceLine(const Situation &situation);
     void showBanners();
     void showFirstRun();
+    void deleteAll();
     void showAbout();
     void showModemMenu();
     void openTopUpWindow();

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+#include "account/SimKey.h"
 #include "AltKey.h"
 #include "AppMenu.h"
 #include "base/DashboardText.h"
@@ -19,6 +20,7 @@
 #include "IUSSD.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
+#include "MessageParts.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
 #include "pages/CodesPage.h"
@@ -143,6 +145,20 @@ void MainWindow::showModemMenu()
     if (!line->isVisible())
         line = m_header->menuButton();
     deviceMenu()->popup(line->mapToGlobal(QPoint()));
+}
+
+/// Deletes what the program has kept about the user. The SIM gets a new key at last, because only
+/// deleted entries have the old one.
+void MainWindow::deleteAll()
+{
+    m_codes->deleteAll();
+    m_home->deleteAll();
+    m_messages->store().removeAll();
+    if (!m_settings)
+        return; // nothing is stored
+    forgetSimKeys();
+    m_home->followSim();
+    m_messages->center().renewSimKey();
 }
 
 void MainWindow::showAbout()
