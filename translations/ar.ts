@@ -1053,6 +1053,10 @@
         <translation>غير موجود</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>المزيد</translation>
     </message>

@@ -1054,6 +1054,10 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Nicht gefunden</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Mehr</translation>
     </message>

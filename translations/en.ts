@@ -1053,6 +1053,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Not found</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>More</translation>
     </message>

@@ -1053,6 +1053,10 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>No encontrado</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Más</translation>
     </message>

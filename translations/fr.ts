@@ -1054,6 +1054,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Introuvable</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Plus</translation>
     </message>

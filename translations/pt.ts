@@ -1054,6 +1054,10 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>Não encontrado</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Mais</translation>
     </message>

@@ -1052,6 +1052,10 @@
         <translation>Не найдено</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Ещё</translation>
     </message>

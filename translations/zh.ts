@@ -1050,6 +1050,10 @@
         <translation>未找到</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>更多</translation>
     </message>

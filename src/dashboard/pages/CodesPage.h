@@ -15,6 +15,7 @@ namespace Dashboard
 {
 
 class CodeHistory;
+class FindBar;
 class GeneralArea;
 class HistoryPopup;
 class LoadedPlugin;
@@ -65,6 +66,10 @@ public slots:
     void answerNumber(int position);
     void openHistory();
     void copyReply();
+    /// Opens the bar that finds words in the transcript.
+    void find();
+    /// Saves the transcript as plain text in a file that the user selects.
+    void saveTranscript();
 
 signals:
     /// Emitted when the page must be shown, because the user has used one of its shortcuts.
@@ -86,7 +91,9 @@ private:
     void onCommandChanged();
     void updateWindow();
     void updateRecent();
-    void watchCodeField();
+    void watchTranscript();
+    void updateReply();
+    void saveTo(const QString &file);
     void showDetails();
     void showCodesSheet();
     void showTopUpSheet();
@@ -96,6 +103,7 @@ private:
     const CodesParts m_parts;
     StateStrip *m_strip;
     GeneralArea *m_area;
+    FindBar *m_find;
     HistoryPopup *m_historyPopup;
     QFrame *m_card;
     QWidget *m_narrowButtons;

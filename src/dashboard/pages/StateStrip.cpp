@@ -101,11 +101,19 @@ QPushButton *StateStrip::addEndButton(const char *kind, const char *name)
     return button;
 }
 
+QPushButton *StateStrip::addIconButton(const char *iconName, const char *name)
+{
+    QPushButton *button = makeIconButton(iconName, this);
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
 void StateStrip::makeEndButtons()
 {
     m_history = addEndButton("ghost", "Dashboard_HistoryButton");
-    m_ownWindow = makeIconButton("window", this);
-    m_ownWindow->setObjectName(QLatin1String("Dashboard_OwnWindowButton"));
+    m_copy = addIconButton("copy", "Dashboard_CopyReplyButton");
+    m_ownWindow = addIconButton("window", "Dashboard_OwnWindowButton");
+    m_more = addIconButton("more", "Dashboard_StripMore");
     m_cancel = addEndButton("", "Dashboard_CancelCommand");
     m_end = addEndButton("danger", "Dashboard_EndMenu");
     m_dismiss = addEndButton("ghost", "Dashboard_DismissFailure");
@@ -113,7 +121,9 @@ void StateStrip::makeEndButtons()
     setButtonIcon(m_cancel, "close", Token::Text);
     setButtonIcon(m_end, "stop", Token::Danger);
     connect(m_history, &QPushButton::clicked, this, &StateStrip::historyRequested);
+    connect(m_copy, &QPushButton::clicked, this, &StateStrip::copyRequested);
     connect(m_ownWindow, &QPushButton::clicked, this, &StateStrip::ownWindowRequested);
+    connect(m_more, &QPushButton::clicked, this, &StateStrip::showMore);
     connect(m_cancel, &QPushButton::clicked, this, &StateStrip::cancelled);
     connect(m_end, &QPushButton::clicked, this, &StateStrip::menuEnded);
     connect(m_dismiss, &QPushButton::clicked, this, &StateStrip::dismissed);
@@ -132,7 +142,7 @@ void StateStrip::makeRows()
     setSpacing(top, 12);
     top->addWidget(m_sign);
     top->addLayout(words, 1);
-    for (QPushButton *button : {m_history, m_ownWindow, m_cancel, m_end, m_dismiss})
+    for (QPushButton *button : {m_history, m_copy, m_ownWindow, m_cancel, m_end, m_dismiss, m_more})
         top->addWidget(button);
     m_rowLayout->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_rowLayout, SPACING);
@@ -189,6 +199,11 @@ void StateStrip::setOwnWindowOffered(bool isOffered)
     update();
 }
 
+void StateStrip::setReplyThere(bool isThere)
+{
+    m_copy->setEnabled(isThere);
+}
+
 bool StateStrip::isBlocked() const
 {
     return !m_situation.canSend && !m_state.isPending();
@@ -208,6 +223,8 @@ void StateStrip::retranslate()
 {
     m_history->setText(dashboardText("STRIP_HISTORY"));
     setIconButtonText(m_ownWindow, dashboardText("STRIP_OWN_WINDOW"));
+    setIconButtonText(m_copy, dashboardText("STRIP_COPY"));
+    setIconButtonText(m_more, dashboardText("STRIP_MORE"));
     m_cancel->setText(dashboardText("STRIP_CANCEL"));
     m_dismiss->setText(dashboardText("STRIP_DISMISS"));
     m_rowWidth = -1;
@@ -275,11 +292,29 @@ void StateStrip::updateEndButtons()
     m_end->setVisible(!isBlockedNow && m_state.kind == Kind::MenuOpen);
     m_dismiss->setVisible(!isBlockedNow && isOver);
     const bool isNarrow = m_form == Form::Narrow;
+    m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
+    m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
     m_end->setText(dashboardText(isNarrow ? "STRIP_END" : "STRIP_END_MENU"));
     if (isNarrow)
         m_end->setIcon(QIcon());
     else
         setButtonIcon(m_end, "stop", Token::Danger);
+}
+
+/// Shows the menu of what can be done with the transcript.
+void StateStrip::showMore()
+{
+    QMenu *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QLatin1String("Dashboard_StripMenu"));
+    menu->addAction(dashboardText("STRIP_COPY"), this, &StateStrip::copyRequested)
+        ->setEnabled(m_copy->isEnabled());
+    menu->addAction(dashboardText("STRIP_FIND"), this, &StateStrip::findRequested);
+    menu->addAction(dashboardText("STRIP_SAVE"), this, &StateStrip::saveRequested);
+    menu->ensurePolished(); // the style sheet changes the size of the menu
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const int start = isMirrored ? 0 : m_more->width() - menu->sizeHint().width();
+    menu->popup(m_more->mapToGlobal(QPoint(start, m_more->height())));
 }
 
 void StateStrip::setSeconds(int seconds)
@@ -368,7 +403,7 @@ void StateStrip::fillRow()
 /// window.
 void StateStrip::orderTabStops()
 {
-    QWidget *before = m_dismiss;
+    QWidget *before = m_more;
     for (int i = 0; i < m_rowLayout->count(); ++i) {
         QWidget *button = m_rowLayout->itemAt(i)->widget();
         setTabOrder(before, button);

@@ -46,6 +46,8 @@ public:
     /// Sets whether the general window is offered in a window of its own.
     void setOwnWindowOffered(bool isOffered);
     void setSeconds(int seconds);
+    /// Sets whether there is a reply that can be copied.
+    void setReplyThere(bool isThere);
     void retranslate();
 
     /// Returns true if the strip shows the situation of the device.
@@ -61,6 +63,9 @@ signals:
     void detailsRequested();
     void historyRequested();
     void ownWindowRequested();
+    void copyRequested();
+    void findRequested();
+    void saveRequested();
     void answered(const QString &key);
     void codeChosen(const QString &code);
     void remedyChosen(Dashboard::Remedy remedy);
@@ -74,6 +79,8 @@ private:
     void makeRows();
     void makeEndButtons();
     QPushButton *addEndButton(const char *kind, const char *name);
+    QPushButton *addIconButton(const char *iconName, const char *name);
+    void showMore();
     void showWords(const QString &title, const QString &text);
     void update();
     void updateEndButtons();
@@ -107,10 +114,12 @@ private:
     ElidedLabel *m_title;
     ElidedLabel *m_text;
     QPushButton *m_history;
+    QPushButton *m_copy;
     QPushButton *m_ownWindow;
     QPushButton *m_cancel;
     QPushButton *m_end;
     QPushButton *m_dismiss;
+    QPushButton *m_more;
     QWidget *m_row;
     QHBoxLayout *m_rowLayout;
     int m_rowWidth = -1; // of the row when it was filled

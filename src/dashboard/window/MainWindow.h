@@ -111,6 +111,7 @@ private:
     void makeCentre();
     void makeMenu();
     void makeShortcuts();
+    void find();
     void makeRegions();
     void addShortcut(const QKeySequence &key, const std::function<void()> &action);
     void followController();

@@ -102,13 +102,19 @@ void MainWindow::makeShortcuts()
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
     addShortcut(QKeySequence(Qt::Key_F5), [this] { m_home->page()->askAgain(); });
-    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] {
-        showPage(PageId::Messages);
-        m_messagesPage->focusSearch();
-    });
+    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] { find(); });
     addShortcut(QKeySequence(Qt::Key_F10), [this] { showMenu(); });
     addShortcut(QKeySequence(Qt::Key_F6), [this] { m_regions.move(1); });
     addShortcut(QKeySequence(int(Qt::SHIFT) + Qt::Key_F6), [this] { m_regions.move(-1); });
+}
+
+/// Finds words in what the page shows: in the transcript, or in the messages.
+void MainWindow::find()
+{
+    if (currentPage() == PageId::Codes)
+        return m_codes->page()->find();
+    showPage(PageId::Messages);
+    m_messagesPage->focusSearch();
 }
 
 void MainWindow::makeRegions()
