@@ -2376,5 +2376,17 @@
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>تعذّرت كتابة %1: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>لم يقبل المودم الشبكات الأخرى.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>طلب الرصيد مرة في اليوم</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>يرسل رمز الرصيد من تلقاء نفسه، لكن ليس أثناء التجوال. قد يتقاضى المشغل رسومًا.</translation>
+    </message>
 </context>
 </TS>

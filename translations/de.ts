@@ -2377,5 +2377,17 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Das Modem hat die anderen Netze nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Einmal am Tag das Guthaben abfragen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Sendet den Guthabencode von selbst, aber nicht im Roaming. Ihr Betreiber kann dafür Geld verlangen.</translation>
+    </message>
 </context>
 </TS>

@@ -2376,5 +2376,17 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 cannot be written: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>The modem did not accept the other networks.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Ask for the balance once a day</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Sends the balance code by itself, but not while roaming. Your operator may charge for it.</translation>
+    </message>
 </context>
 </TS>

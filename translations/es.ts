@@ -2376,5 +2376,17 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>No se puede escribir %1: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>El módem no ha aceptado las otras redes.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Consultar el saldo una vez al día</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envía el código de saldo por sí solo, pero no en itinerancia. Su operador puede cobrarlo.</translation>
+    </message>
 </context>
 </TS>

@@ -2377,5 +2377,17 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Le modem n’a pas accepté les autres réseaux.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Demander le solde une fois par jour</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envoie le code du solde de lui-même, mais pas en itinérance. Votre opérateur peut le facturer.</translation>
+    </message>
 </context>
 </TS>

@@ -2377,5 +2377,17 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>Não é possível escrever %1: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>O modem não aceitou as outras redes.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Consultar o saldo uma vez por dia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envia o código de saldo sozinho, mas não em roaming. O seu operador pode cobrar por isso.</translation>
+    </message>
 </context>
 </TS>

@@ -2375,5 +2375,17 @@
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>Не удаётся записать %1: %2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Модем не принял другие сети.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Запрашивать баланс раз в день</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Сам отправляет код баланса, но не в роуминге. Оператор может взять за это плату.</translation>
+    </message>
 </context>
 </TS>

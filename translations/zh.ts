@@ -2373,5 +2373,17 @@
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>无法写入 %1：%2</translation>
     </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>调制解调器未接受其他网络。</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>每天查询一次余额</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>自动发送余额代码，漫游时除外。运营商可能收费。</translation>
+    </message>
 </context>
 </TS>

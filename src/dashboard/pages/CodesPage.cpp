@@ -15,6 +15,7 @@
 #include "base/Isolate.h"
 #include "base/PrivateFile.h"
 #include "device/DeviceStatus.h"
+#include "device/ModeChoice.h"
 #include "FindBar.h"
 #include "GeneralArea.h"
 #include "HistoryPopup.h"
@@ -62,6 +63,7 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
     makeLayout();
     makeShortcuts();
     followStrip();
+    followModes();
     connect(parts.commands, &CommandMonitor::changed, this, &CodesPage::onCommandChanged);
     connect(parts.commands, &CommandMonitor::ticked, m_strip, &StateStrip::setSeconds);
     connect(parts.commands, &CommandMonitor::sent, parts.history, &CodeHistory::add);
@@ -236,6 +238,20 @@ void CodesPage::followStrip()
     connect(m_strip, &StateStrip::codeChosen, this, &CodesPage::useCode);
     connect(m_strip, &StateStrip::ownWindowRequested, this, &CodesPage::ownWindowRequested);
     connect(m_strip, &StateStrip::remedyChosen, this, &CodesPage::remedyChosen);
+}
+
+void CodesPage::followModes()
+{
+    ModeChoice *modes = m_parts.modes;
+    if (!modes)
+        return;
+    const auto show = [this, modes] {
+        m_strip->setModes(modes->canAllowOlder(), modes->canRestore());
+    };
+    connect(modes, &ModeChoice::changed, this, show);
+    connect(m_strip, &StateStrip::olderModesRequested, modes, &ModeChoice::allowOlder);
+    connect(m_strip, &StateStrip::formerModesRequested, modes, &ModeChoice::restore);
+    show();
 }
 
 void CodesPage::onCommandChanged()

@@ -19,6 +19,7 @@ class FindBar;
 class GeneralArea;
 class HistoryPopup;
 class LoadedPlugin;
+class ModeChoice;
 
 /** The objects that the page of codes uses. All of them must outlive it. */
 struct CodesParts {
@@ -26,6 +27,7 @@ struct CodesParts {
     CommandMonitor *commands;
     CodeHistory *history;
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
+    ModeChoice *modes = nullptr;            // of the modem; null if the modem has no choice
 };
 
 /** The page with the plug-in's general window and the strip that says what goes on with codes. */
@@ -88,6 +90,7 @@ private:
     QAction *addShortcut(const char *name, const QKeySequence &key,
                          const std::function<void()> &action);
     void followStrip();
+    void followModes();
     void onCommandChanged();
     void updateWindow();
     void updateRecent();

@@ -113,10 +113,10 @@ void StateStrip::makeEndButtons()
     m_history = addEndButton("ghost", "Dashboard_HistoryButton");
     m_copy = addIconButton("copy", "Dashboard_CopyReplyButton");
     m_ownWindow = addIconButton("window", "Dashboard_OwnWindowButton");
-    m_more = addIconButton("more", "Dashboard_StripMore");
     m_cancel = addEndButton("", "Dashboard_CancelCommand");
     m_end = addEndButton("danger", "Dashboard_EndMenu");
     m_dismiss = addEndButton("ghost", "Dashboard_DismissFailure");
+    m_more = addIconButton("more", "Dashboard_StripMore");
     setButtonIcon(m_history, "clock", Token::AccentText);
     setButtonIcon(m_cancel, "close", Token::Text);
     setButtonIcon(m_end, "stop", Token::Danger);
@@ -202,6 +202,15 @@ void StateStrip::setOwnWindowOffered(bool isOffered)
 void StateStrip::setReplyThere(bool isThere)
 {
     m_copy->setEnabled(isThere);
+}
+
+void StateStrip::setModes(bool canAllowOlder, bool canRestore)
+{
+    if (canAllowOlder == m_canAllowOlder && canRestore == m_canRestoreModes)
+        return;
+    m_canAllowOlder = canAllowOlder;
+    m_canRestoreModes = canRestore;
+    update();
 }
 
 bool StateStrip::isBlocked() const
@@ -484,8 +493,29 @@ void StateStrip::addMore(const QList<MenuChoice> &rest)
             [more, menu] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
 }
 
+/// Offers the older networks after a failure that happens on 4G only.
+void StateStrip::addAllowOlder()
+{
+    if (m_state.failure != TKSV_FAILURE_NOT_ON_4G || !m_canAllowOlder)
+        return;
+    QPushButton *allow = addButton("primary", dashboardText("STRIP_ALLOW_OLDER"));
+    allow->setObjectName(QLatin1String("Dashboard_AllowOlder"));
+    connect(allow, &QPushButton::clicked, this, &StateStrip::olderModesRequested);
+}
+
+/// Offers the modem's setting before the older networks were allowed.
+void StateStrip::addOnly4G()
+{
+    if (!m_canRestoreModes)
+        return;
+    QPushButton *only = addButton("", dashboardText("STRIP_ONLY_4G"));
+    only->setObjectName(QLatin1String("Dashboard_Only4G"));
+    connect(only, &QPushButton::clicked, this, &StateStrip::formerModesRequested);
+}
+
 void StateStrip::addRecent()
 {
+    addOnly4G();
     for (int i = 0; i < m_recent.size() && i < MOST_RECENT; ++i) {
         const CodeName code = m_recent.at(i);
         const QString name = QString(code.name).replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -505,6 +535,7 @@ void StateStrip::addRecent()
 /// from the dialog, which shows the complete text.
 void StateStrip::addFailureButtons()
 {
+    addAllowOlder();
     if (m_state.mayBeSentAgain && m_form != Form::Narrow) {
         QPushButton *again = addButton("", dashboardText("STRIP_SEND_AGAIN"));
         again->setObjectName(QLatin1String("Dashboard_SendAgain"));
@@ -515,6 +546,11 @@ void StateStrip::addFailureButtons()
     details->setObjectName(QLatin1String("Dashboard_WhatHappened"));
     setButtonIcon(details, "info", Token::AccentText);
     connect(details, &QPushButton::clicked, this, &StateStrip::detailsRequested);
+    if (roomLeft() < -m_rowLayout->spacing()) {
+        setIconButtonText(details, details->text());
+        details->setText(QString());
+    }
+    addOnly4G();
 }
 
 void StateStrip::addRemedies()

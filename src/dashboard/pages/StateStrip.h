@@ -48,6 +48,9 @@ public:
     void setSeconds(int seconds);
     /// Sets whether there is a reply that can be copied.
     void setReplyThere(bool isThere);
+    /// Sets whether the strip offers to allow 2G and 3G after a failure on 4G, and whether it
+    /// offers to restore the modem's former setting.
+    void setModes(bool canAllowOlder, bool canRestore);
     void retranslate();
 
     /// Returns true if the strip shows the situation of the device.
@@ -64,6 +67,8 @@ signals:
     void historyRequested();
     void ownWindowRequested();
     void copyRequested();
+    void olderModesRequested();
+    void formerModesRequested();
     void findRequested();
     void saveRequested();
     void answered(const QString &key);
@@ -99,6 +104,8 @@ private:
     void addMore(const QList<MenuChoice> &rest);
     void addRecent();
     void addFailureButtons();
+    void addAllowOlder();
+    void addOnly4G();
     void addRemedies();
     int roomLeft() const;
 
@@ -107,6 +114,8 @@ private:
     QList<CodeName> m_recent;
     Form m_form = Form::Wide;
     bool m_isOwnWindowOffered = true;
+    bool m_canAllowOlder = false;
+    bool m_canRestoreModes = false;
     QString m_announced;
     QStackedWidget *m_sign; // the icon or the ring
     IconDisc *m_icon;
