@@ -5,6 +5,7 @@
 
 #include "account/AccountRecorder.h"
 #include "account/AccountStore.h"
+#include "account/DailyAsking.h"
 #include "account/Favourites.h"
 #include "device/Situation.h"
 
@@ -36,16 +37,20 @@ public slots:
     void readCodes();
     /// Deletes the entries and the favourites.
     void deleteAll();
+    /// Must be called when the SIM has got another key.
+    void renewSimKey();
     /// Saves the entries to a file that the user selects.
     void exportAccount();
 
 private:
+    bool mayAskDaily() const;
     void saveTo(const QString &file);
 
     AppController *const m_controller;
     AccountStore m_store;
     AccountRecorder m_recorder;
     Favourites m_favourites;
+    DailyAsking m_daily;
     HomePage *m_page;
 };
 

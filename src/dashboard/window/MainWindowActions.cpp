@@ -163,7 +163,7 @@ void MainWindow::deleteAll()
     if (!m_settings)
         return; // nothing is stored
     forgetSimKeys();
-    m_home->followSim();
+    m_home->renewSimKey();
     m_messages->center().renewSimKey();
 }
 
