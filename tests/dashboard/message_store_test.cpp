@@ -49,6 +49,7 @@ private slots:
     void aFileOfALaterVersionIsLeftAlone();
     void aFileThatCannotBeWrittenIsSaid();
     void deletedTextsAreOverwritten();
+    void numbersAreInMemoryOnly();
 
 private:
     void open();
@@ -369,6 +370,19 @@ void MessageStoreTest::deletedTextsAreOverwritten()
     m_store.reset();
     QVERIFY(contentOf(file()).contains("KEPT-TEXT"));
     QVERIFY(!contentOf(file()).contains("DELETED-TEXT"));
+}
+
+void MessageStoreTest::numbersAreInMemoryOnly()
+{
+    const QString text = QLatin1String("Missed call from +999551846203. You have 12.50 EUR.");
+    const Message message = add(text);
+    QCOMPARE(message.text, text);
+    QCOMPARE(m_store->newest().text, text);
+    QVERIFY(contentOf(file()).contains("You have 12.50 EUR"));
+    QVERIFY(!contentOf(file()).contains("551846203"));
+    open();
+    QCOMPARE(m_store->newest().text,
+             QString::fromUtf8("Missed call from …6203. You have 12.50 EUR."));
 }
 
 USSD_TEST_MAIN(MessageStoreTest)
