@@ -97,6 +97,7 @@ private slots:
     void theTabKeyReachesTheRowsInOrder();
     void olderNetworksAreOfferedAfterAFailureOn4G();
     void theFormerNetworksAreOffered();
+    void theNarrowRowHasRoomForTheNetworks();
     void aChoiceIsAnswered();
     void aTextWithoutChoicesIsShown();
     void aFailureOffersWhatHelps();
@@ -308,6 +309,29 @@ void StateStripTest::theFormerNetworksAreOffered()
     QSignalSpy requested(&strip(), &StateStrip::formerModesRequested);
     part<QPushButton>("Dashboard_Only4G")->click();
     QCOMPARE(requested.size(), 1);
+}
+
+void StateStripTest::theNarrowRowHasRoomForTheNetworks()
+{
+    for (const QString &language : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(language));
+        m_strip.reset(new StateStrip);
+        strip().setForm(Form::Narrow);
+        strip().resize(342, 116);
+        strip().show();
+        for (const bool canRestore : {false, true}) {
+            strip().setModes(!canRestore, canRestore);
+            CommandState failed = stateOf(Kind::Failed);
+            failed.failure = TKSV_FAILURE_NOT_ON_4G;
+            show(failed);
+            drainEvents();
+            for (const QPushButton *button :
+                 part<QWidget>("Dashboard_StripRow")->findChildren<QPushButton *>()) {
+                if (button->isVisible())
+                    QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(language));
+            }
+        }
+    }
 }
 
 void StateStripTest::aChoiceIsAnswered()

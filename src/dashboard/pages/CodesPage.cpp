@@ -140,6 +140,7 @@ void CodesPage::setForm(Form form)
     m_narrowButtons->setVisible(isNarrow);
     placeNarrowButtons();
     m_strip->setForm(form);
+    m_find->setForm(form);
     m_strip->setOwnWindowOffered(Look::instance().scale() <= LARGEST_SCALE_OF_A_FRAME);
     m_area->setCompact(isNarrow);
 }

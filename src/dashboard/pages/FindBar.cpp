@@ -21,7 +21,6 @@ namespace
 {
 
 const int MOST_MATCHES = 1000;
-const int FIELD_WIDTH = 100; // pixels; the field may be wider
 
 // The paper of the transcript is light in both themes.
 const QRgb MATCH = qRgb(0xff, 0xe2, 0x8a);
@@ -40,7 +39,8 @@ QTextEdit::ExtraSelection selectionOf(const QTextCursor &match, bool isCurrent)
 } // namespace
 
 FindBar::FindBar(const std::function<QTextEdit *()> &transcript, QWidget *parent)
-    : QWidget(parent), m_transcript(transcript), m_field(new QLineEdit(this)),
+    : QWidget(parent), m_transcript(transcript),
+      m_rows(new QBoxLayout(QBoxLayout::LeftToRight, this)), m_field(new QLineEdit(this)),
       m_count(makeLabel("small", this)),
       m_previous(addButton("up", "Dashboard_FindPrevious", &FindBar::findPrevious)),
       m_next(addButton("down", "Dashboard_FindNext", &FindBar::findNext)),
@@ -49,15 +49,17 @@ FindBar::FindBar(const std::function<QTextEdit *()> &transcript, QWidget *parent
     setObjectName(QLatin1String("Dashboard_FindBar"));
     m_field->setObjectName(QLatin1String("Dashboard_FindField"));
     m_count->setObjectName(QLatin1String("Dashboard_FindCount"));
-    m_field->setMinimumWidth(FIELD_WIDTH);
+    m_count->setMinimumWidth(1); // instead of the width of its text
     setStyleProperty(m_field, "empty", QLatin1String("true"));
-    QHBoxLayout *row = new QHBoxLayout(this);
-    setMargins(row, 12, 6, 12, 6);
-    setSpacing(row, 4);
-    row->addWidget(m_field, 1);
+    QHBoxLayout *buttons = new QHBoxLayout;
+    setSpacing(buttons, 4);
     for (QWidget *part : {static_cast<QWidget *>(m_count), static_cast<QWidget *>(m_previous),
                           static_cast<QWidget *>(m_next), static_cast<QWidget *>(m_close)})
-        row->addWidget(part);
+        buttons->addWidget(part, part == m_count ? 1 : 0);
+    setMargins(m_rows, 12, 6, 12, 6);
+    setSpacing(m_rows, 4);
+    m_rows->addWidget(m_field, 1);
+    m_rows->addLayout(buttons);
     connect(m_field, &QLineEdit::textChanged, this, &FindBar::onTextChanged);
     hide();
     retranslate();
@@ -80,6 +82,11 @@ void FindBar::retranslate()
     setIconButtonText(m_next, dashboardText("STRIP_FIND_NEXT"));
     setIconButtonText(m_close, dashboardText("STRIP_FIND_CLOSE"));
     showCount();
+}
+
+void FindBar::setForm(Form form)
+{
+    m_rows->setDirection(form == Form::Narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 // ---- open and closed -----------------------------------------------------------------------

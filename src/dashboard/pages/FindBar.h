@@ -7,6 +7,9 @@
 
 #include <functional>
 
+#include "Page.h"
+
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -28,6 +31,8 @@ public:
     explicit FindBar(const std::function<QTextEdit *()> &transcript, QWidget *parent = nullptr);
 
     void retranslate();
+    /// In the narrow form, the buttons are below the field.
+    void setForm(Form form);
     /// Must be called when the transcript may be another one.
     void follow();
 
@@ -56,6 +61,7 @@ private:
     const std::function<QTextEdit *()> m_transcript;
     QPointer<QTextEdit> m_followed;
     QPointer<QWidget> m_focusBefore;
+    QBoxLayout *m_rows;
     QLineEdit *m_field;
     QLabel *m_count;
     QPushButton *m_previous;

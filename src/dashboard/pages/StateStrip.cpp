@@ -542,6 +542,7 @@ void StateStrip::addFailureButtons()
         setButtonIcon(again, "refresh", Token::Text);
         connect(again, &QPushButton::clicked, this, &StateStrip::sentAgain);
     }
+    addOnly4G();
     QPushButton *details = addButton("ghost", dashboardText("STRIP_WHAT_HAPPENED"));
     details->setObjectName(QLatin1String("Dashboard_WhatHappened"));
     setButtonIcon(details, "info", Token::AccentText);
@@ -550,7 +551,6 @@ void StateStrip::addFailureButtons()
         setIconButtonText(details, details->text());
         details->setText(QString());
     }
-    addOnly4G();
 }
 
 void StateStrip::addRemedies()
