@@ -1053,6 +1053,10 @@
         <translation>غير موجود</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>المزيد</translation>
     </message>
@@ -2042,11 +2046,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>الأرصدة والرسائل والرموز المرسلة</translation>
+        <translation>الأرصدة والرسائل والرموز المرسلة والمفضلة</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>هل تُحذف كل الأرصدة والرسائل والرموز المرسلة؟ لا يمكن استعادتها.</translation>
+        <translation>هل تُحذف كل الأرصدة والرسائل والرموز المرسلة والمفضلة؟ لا يمكن استعادتها.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2371,6 +2375,18 @@
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>تعذّرت كتابة %1: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>لم يقبل المودم الشبكات الأخرى.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>طلب الرصيد مرة في اليوم</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>يرسل رمز الرصيد من تلقاء نفسه، لكن ليس أثناء التجوال. قد يتقاضى المشغل رسومًا.</translation>
     </message>
 </context>
 </TS>

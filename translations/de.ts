@@ -1054,6 +1054,10 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Nicht gefunden</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Mehr</translation>
     </message>
@@ -2043,11 +2047,11 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Guthaben, Nachrichten und gesendete Codes</translation>
+        <translation>Guthaben, Nachrichten, gesendete Codes und Favoriten</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Alle Guthaben, Nachrichten und gesendeten Codes löschen? Sie lassen sich nicht zurückholen.</translation>
+        <translation>Alle Guthaben, Nachrichten, gesendeten Codes und Favoriten löschen? Sie lassen sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2372,6 +2376,18 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Das Modem hat die anderen Netze nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Einmal am Tag das Guthaben abfragen</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Sendet den Guthabencode von selbst, aber nicht im Roaming. Ihr Betreiber kann dafür Geld verlangen.</translation>
     </message>
 </context>
 </TS>

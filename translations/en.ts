@@ -1053,6 +1053,10 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>Not found</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>More</translation>
     </message>
@@ -2042,11 +2046,11 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Balances, messages and codes sent</translation>
+        <translation>Balances, messages, codes sent and favourites</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Delete all balances, messages and codes sent? They cannot be brought back.</translation>
+        <translation>Delete all balances, messages, codes sent and favourites? They cannot be brought back.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2371,6 +2375,18 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>The modem did not accept the other networks.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Ask for the balance once a day</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Sends the balance code by itself, but not while roaming. Your operator may charge for it.</translation>
     </message>
 </context>
 </TS>

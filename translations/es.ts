@@ -1053,6 +1053,10 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>No encontrado</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Más</translation>
     </message>
@@ -2042,11 +2046,11 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Saldos, mensajes y códigos enviados</translation>
+        <translation>Saldos, mensajes, códigos enviados y favoritos</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>¿Eliminar todos los saldos, mensajes y códigos enviados? No se pueden recuperar.</translation>
+        <translation>¿Eliminar todos los saldos, mensajes, códigos enviados y favoritos? No se pueden recuperar.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2371,6 +2375,18 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>El módem no ha aceptado las otras redes.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Consultar el saldo una vez al día</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envía el código de saldo por sí solo, pero no en itinerancia. Su operador puede cobrarlo.</translation>
     </message>
 </context>
 </TS>

@@ -1054,6 +1054,10 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Introuvable</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Plus</translation>
     </message>
@@ -2043,11 +2047,11 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Soldes, messages et codes envoyés</translation>
+        <translation>Soldes, messages, codes envoyés et favoris</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Supprimer tous les soldes, messages et codes envoyés ? Ils ne pourront pas être récupérés.</translation>
+        <translation>Supprimer tous les soldes, messages, codes envoyés et favoris ? Ils ne pourront pas être récupérés.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2372,6 +2376,18 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>%1 ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Le modem n’a pas accepté les autres réseaux.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Demander le solde une fois par jour</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envoie le code du solde de lui-même, mais pas en itinérance. Votre opérateur peut le facturer.</translation>
     </message>
 </context>
 </TS>

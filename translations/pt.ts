@@ -1054,6 +1054,10 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>Não encontrado</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Mais</translation>
     </message>
@@ -2043,11 +2047,11 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Saldos, mensagens e códigos enviados</translation>
+        <translation>Saldos, mensagens, códigos enviados e favoritos</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Eliminar todos os saldos, mensagens e códigos enviados? Não podem ser recuperados.</translation>
+        <translation>Eliminar todos os saldos, mensagens, códigos enviados e favoritos? Não podem ser recuperados.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2372,6 +2376,18 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>Não é possível escrever %1: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>O modem não aceitou as outras redes.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Consultar o saldo uma vez por dia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envia o código de saldo sozinho, mas não em roaming. O seu operador pode cobrar por isso.</translation>
     </message>
 </context>
 </TS>

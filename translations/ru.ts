@@ -1052,6 +1052,10 @@
         <translation>Не найдено</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>Ещё</translation>
     </message>
@@ -2041,11 +2045,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>Балансы, сообщения и отправленные коды</translation>
+        <translation>Балансы, сообщения, отправленные коды и избранное</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>Удалить все балансы, сообщения и отправленные коды? Вернуть их нельзя.</translation>
+        <translation>Удалить все балансы, сообщения, отправленные коды и избранное? Вернуть их нельзя.</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2370,6 +2374,18 @@
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>Не удаётся записать %1: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>Модем не принял другие сети.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Запрашивать баланс раз в день</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Сам отправляет код баланса, но не в роуминге. Оператор может взять за это плату.</translation>
     </message>
 </context>
 </TS>

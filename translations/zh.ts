@@ -1050,6 +1050,10 @@
         <translation>未找到</translation>
     </message>
     <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
         <source>STRIP_MORE</source>
         <translation>更多</translation>
     </message>
@@ -2039,11 +2043,11 @@
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_TEXT</source>
-        <translation>余额、消息和已发送的代码</translation>
+        <translation>余额、消息、已发送的代码和收藏</translation>
     </message>
     <message>
         <source>SETTINGS_DELETE_ALL_QUESTION</source>
-        <translation>删除所有余额、消息和已发送的代码？此操作无法撤销。</translation>
+        <translation>删除所有余额、消息、已发送的代码和收藏？此操作无法撤销。</translation>
     </message>
     <message>
         <source>FIRST_TITLE</source>
@@ -2368,6 +2372,18 @@
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>无法写入 %1：%2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>调制解调器未接受其他网络。</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>每天查询一次余额</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>自动发送余额代码，漫游时除外。运营商可能收费。</translation>
     </message>
 </context>
 </TS>

@@ -191,6 +191,11 @@ bool DeviceSdk::enable()
     return m_choice.backend()->enable();
 }
 
+bool DeviceSdk::setModes(const TKSV_Modes &modes)
+{
+    return m_choice.backend()->setModes(modes);
+}
+
 /* ---- events from the backend, called from the backend's thread --------------------------- */
 
 void DeviceSdk::ussdReply(RequestToken token, const UssdReply &reply)

@@ -48,6 +48,7 @@ public:
     void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
     bool sendPin(const std::string &pin);
     bool enable();
+    bool setModes(const TKSV_Modes &modes);
     BackendChoice &choice() { return m_choice; }
 
 private:

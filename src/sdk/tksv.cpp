@@ -184,6 +184,7 @@ long TKSV_Device_GetInfo(TKSV_DeviceInfo *info)
         info->isLooking = source.isLooking ? 1 : 0;
         info->hasForeignSession = source.hasForeignSession ? 1 : 0;
         info->waitsForTurn = source.waitsForTurn ? 1 : 0;
+        info->isRoaming = source.isRoaming ? 1 : 0;
         return SUCCESS;
     });
 }
@@ -253,6 +254,23 @@ long TKSV_Device_SendPin(const char *pin)
 long TKSV_Device_Enable(void)
 {
     return guarded([] { return resultOf(DeviceSdk::instance().enable()); });
+}
+
+long TKSV_Device_GetModes(TKSV_ModesInfo *info)
+{
+    if (!info)
+        return FAILURE;
+    return guarded([&] {
+        *info = DeviceSdk::instance().info().modes;
+        return SUCCESS;
+    });
+}
+
+long TKSV_Device_SetModes(const TKSV_Modes *modes)
+{
+    if (!modes || modes->allowed == 0)
+        return FAILURE;
+    return guarded([&] { return resultOf(DeviceSdk::instance().setModes(*modes)); });
 }
 
 long TKSV_Device_LookAgain(void)

@@ -69,6 +69,7 @@ typedef struct TKSV_DeviceInfo {
     int isLooking;         /* 1 until ModemManager has reported its modems, otherwise 0 */
     int hasForeignSession; /* 1 while a USSD session of another program is open */
     int waitsForTurn;      /* 1 while a request waits for another program of the same user */
+    int isRoaming;         /* 1 while the network is not the home network of the SIM */
 } TKSV_DeviceInfo;
 
 /** Copies a snapshot to `*info`. Fails if `info` is null. */
@@ -151,6 +152,41 @@ TKSV_API long TKSV_Device_SendPin(const char *pin);
  * TKSV_DeviceInfo::problem.
  */
 TKSV_API long TKSV_Device_Enable(void);
+
+/** The generations of networks that a modem may use. */
+typedef enum TKSV_Mode {
+    TKSV_MODE_2G = 1,
+    TKSV_MODE_3G = 2,
+    TKSV_MODE_4G = 4,
+    TKSV_MODE_5G = 8
+} TKSV_Mode;
+
+/** A setting of the modem: each field is a combination of TKSV_Mode values. */
+typedef struct TKSV_Modes {
+    unsigned int allowed;   /* the generations that the modem may use; 0 if unknown */
+    unsigned int preferred; /* the generations that the modem prefers; 0 if none */
+} TKSV_Modes;
+
+/** The setting of the modem in use. */
+typedef struct TKSV_ModesInfo {
+    TKSV_Modes current;   /* the present setting */
+    TKSV_Modes withOlder; /* the setting that also allows 2G or 3G; `allowed` is 0 if the modem
+                             supports no such setting, or if 2G or 3G is already allowed */
+    int hasFailed;        /* 1 if the most recent change has failed, otherwise 0 */
+} TKSV_ModesInfo;
+
+/**
+ * Copies the setting of the modem in use to `*info`. The call-back of TKSV_Device_SetInfoCallback
+ * reports changes. Fails if `info` is null.
+ */
+TKSV_API long TKSV_Device_GetModes(TKSV_ModesInfo *info);
+
+/**
+ * Changes the setting of the modem in use. The SDK never changes it on its own. Fails if `modes` is
+ * null, if `allowed` is 0, or if there is no modem. Otherwise, the call-back of
+ * TKSV_Device_SetInfoCallback reports the outcome.
+ */
+TKSV_API long TKSV_Device_SetModes(const TKSV_Modes *modes);
 
 /**
  * Searches for ModemManager and its modems again, for example after the message bus or ModemManager

@@ -1,7 +1,10 @@
 #include <QAction>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QScrollBar>
 #include <QTimer>
 #include <QTreeView>
@@ -40,6 +43,14 @@ private slots:
     void returnSendsWhatIsTyped();
     void escapeEmptiesTheField();
     void theReplyIsCopied();
+    void theReplyIsCopiedByItsButton();
+    void wordsAreFoundInTheTranscript();
+    void theSearchWrapsAndCounts();
+    void theSearchFollowsTheTranscript();
+    void theSearchLeavesTheTranscriptAlone();
+    void theSearchIsClosed();
+    void theTranscriptIsSaved();
+    void aTranscriptThatCannotBeSavedIsTold();
     void theRingIsRoundWithTheStyleSheet();
 
 private:
@@ -48,6 +59,16 @@ private:
     QList<QPushButton *> presets();
     QRect transcript();
     QAction *shortcut(const QKeySequence &key);
+    template <typename T>
+    T *part(const char *name)
+    {
+        return m_page->findChild<T *>(QLatin1String(name));
+    }
+    void receive(const char16_t *reply);
+    void findWords(const char *words);
+    QString count() { return part<QLabel>("Dashboard_FindCount")->text(); }
+    QString currentMatch();
+    void saveTo(const QString &file);
     QTreeView *list() { return m_page->findChild<HistoryPopup *>()->view(); }
 
     QScopedPointer<CodeHistory> m_history;
@@ -301,8 +322,161 @@ void CodesPageTest::theReplyIsCopied()
     QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 7.00 EUR."));
 }
 
-// Tests that the ring is round, although the style sheet limits the height of all other progress
-// bars.
+void CodesPageTest::receive(const char16_t *reply)
+{
+    fakeSdkSetAnswer(fakeReply(reply));
+    monitor().send(QLatin1String("*100#"));
+    settle();
+}
+
+void CodesPageTest::findWords(const char *words)
+{
+    codes().find();
+    part<QLineEdit>("Dashboard_FindField")->setText(QString::fromUtf8(words));
+}
+
+/// Returns the match that is highlighted as the current one, with the character behind it.
+QString CodesPageTest::currentMatch()
+{
+    for (const QTextEdit::ExtraSelection &selection : general().history()->extraSelections()) {
+        QTextCursor cursor = selection.cursor;
+        if (selection.format.foreground().color() != Qt::white)
+            continue;
+        cursor.setPosition(cursor.selectionStart());
+        cursor.setPosition(selection.cursor.selectionEnd() + 1, QTextCursor::KeepAnchor);
+        return cursor.selectedText();
+    }
+    return QString();
+}
+
+void CodesPageTest::theReplyIsCopiedByItsButton()
+{
+    QPushButton *copy = part<QPushButton>("Dashboard_CopyReplyButton");
+    QVERIFY(copy->isVisible() && !copy->isEnabled());
+    receive(u"Your balance is 8.00 EUR.");
+    QVERIFY(copy->isEnabled());
+    copy->click();
+    QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 8.00 EUR."));
+    codes().setForm(Form::Narrow);
+    QVERIFY(!copy->isVisible());
+    QApplication::clipboard()->clear();
+    part<QPushButton>("Dashboard_StripMore")->click();
+    part<QMenu>("Dashboard_StripMenu")->actions().first()->trigger();
+    QCOMPARE(QApplication::clipboard()->text(), QLatin1String("Your balance is 8.00 EUR."));
+}
+
+void CodesPageTest::wordsAreFoundInTheTranscript()
+{
+    receive(u"Roaming1 roaming2 ROAMING3");
+    QVERIFY(!part<QWidget>("Dashboard_FindBar")->isVisible());
+    findWords("roaming");
+    QCOMPARE(QApplication::focusWidget(), part<QWidget>("Dashboard_FindField"));
+    QCOMPARE(general().history()->extraSelections().size(), 3);
+    QCOMPARE(count(), QLatin1String("1 of 3"));
+    QCOMPARE(currentMatch(), QLatin1String("Roaming1"));
+    findWords("roaming.");
+    QCOMPARE(count(), QLatin1String("Not found"));
+    QVERIFY(general().history()->extraSelections().isEmpty());
+    findWords("");
+    QCOMPARE(count(), QString());
+}
+
+void CodesPageTest::theSearchWrapsAndCounts()
+{
+    receive(u"Roaming1 roaming2 ROAMING3");
+    findWords("roaming");
+    QLineEdit *field = part<QLineEdit>("Dashboard_FindField");
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(currentMatch(), QLatin1String("roaming2"));
+    QTest::keyClick(field, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(field, Qt::Key_F3, Qt::ShiftModifier);
+    QCOMPARE(currentMatch(), QLatin1String("ROAMING3"));
+    QCOMPARE(count(), QLatin1String("3 of 3"));
+    part<QPushButton>("Dashboard_FindNext")->click();
+    QCOMPARE(count(), QLatin1String("1 of 3"));
+    part<QPushButton>("Dashboard_FindPrevious")->click();
+    QCOMPARE(count(), QLatin1String("3 of 3"));
+}
+
+void CodesPageTest::theSearchFollowsTheTranscript()
+{
+    receive(u"Roaming1 roaming2");
+    findWords("roaming");
+    QTest::keyClick(part<QLineEdit>("Dashboard_FindField"), Qt::Key_Return);
+    receive(u"roaming3");
+    QCOMPARE(count(), QLatin1String("2 of 3"));
+    general().history()->clear(); // the Clear button asks first
+    QCOMPARE(count(), QLatin1String("Not found"));
+}
+
+// The plug-in and the user own the text cursor, and the match is scrolled into view without it.
+void CodesPageTest::theSearchLeavesTheTranscriptAlone()
+{
+    receive(u"Needle");
+    for (int i = 0; i < 30; ++i)
+        receive(u"Your balance is 9.00 EUR.");
+    QTextEdit *history = general().history();
+    const QString before = history->toHtml();
+    const int cursor = history->textCursor().position();
+    QVERIFY(history->verticalScrollBar()->value() > history->viewport()->height());
+    findWords("needle");
+    const QRect match = history->cursorRect(history->extraSelections().first().cursor);
+    QVERIFY(history->viewport()->rect().contains(match.center()));
+    QCOMPARE(history->textCursor().position(), cursor);
+    QCOMPARE(history->toHtml(), before);
+}
+
+void CodesPageTest::theSearchIsClosed()
+{
+    receive(u"Roaming");
+    QLineEdit *edit = general().commandEdit();
+    edit->setFocus();
+    findWords("roaming");
+    QTest::keyClick(part<QLineEdit>("Dashboard_FindField"), Qt::Key_Escape);
+    QVERIFY(!part<QWidget>("Dashboard_FindBar")->isVisible());
+    QVERIFY(general().history()->extraSelections().isEmpty());
+    QCOMPARE(QApplication::focusWidget(), edit);
+    codes().find();
+    QCOMPARE(part<QLineEdit>("Dashboard_FindField")->selectedText(), QLatin1String("roaming"));
+    part<QPushButton>("Dashboard_FindClose")->click();
+    QVERIFY(!part<QWidget>("Dashboard_FindBar")->isVisible());
+}
+
+void CodesPageTest::saveTo(const QString &file)
+{
+    codes().saveTranscript();
+    QFileDialog *dialog = part<QFileDialog>("Dashboard_SaveTranscript");
+    QVERIFY(dialog && dialog->isVisible());
+    QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
+    emit dialog->fileSelected(file);
+    dialog->close();
+}
+
+void CodesPageTest::theTranscriptIsSaved()
+{
+    receive(u"Saldo: 7,00 \u20ac\nG\u00fcltig bis morgen");
+    const QString file = folder() + QLatin1String("/transcript.txt");
+    saveTo(file);
+    const QString text = QString::fromUtf8(contentOf(file));
+    QVERIFY(text.contains(QLatin1String("*100#")));
+    QVERIFY2(text.contains(QString::fromUtf8("Saldo: 7,00 €\nGültig bis morgen\n")),
+             text.toUtf8().constData());
+    const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(!(QFile::permissions(file) & others));
+    QVERIFY(!part<QMessageBox>("Dashboard_SaveFailed"));
+}
+
+void CodesPageTest::aTranscriptThatCannotBeSavedIsTold()
+{
+    const QString file = folder() + QLatin1String("/missing/transcript.txt");
+    saveTo(file);
+    const QMessageBox *box = part<QMessageBox>("Dashboard_SaveFailed");
+    QVERIFY(box && box->isVisible());
+    QVERIFY(box->text().startsWith(file + QLatin1String(" cannot be written: ")));
+    QVERIFY(box->text().size() > file.size() + 25); // the system's reason
+}
+
+// The style sheet makes other progress bars flat.
 void CodesPageTest::theRingIsRoundWithTheStyleSheet()
 {
     Look::instance().start();

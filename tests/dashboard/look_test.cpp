@@ -77,12 +77,12 @@ const char *const SHADES[] = {"light", "dark"};
 const char *const KINDS[] = {"",     "primary", "ghost",   "danger", "hero", "heroOutline",
                              "chip", "choice",  "iconbtn", "nav",    "seg"};
 const char *const ICONS[] = {
-    "bell",      "calendar",  "callme", "check",   "chevron", "chevronL", "clock",    "close",
-    "codes",     "copy",      "data",   "down",    "edit",    "eye",      "flask",    "globe",
-    "home",      "info",      "list",   "lock",    "menu",    "messages", "modem",    "moon",
-    "more",      "number",    "plus",   "refresh", "search",  "send",     "services", "settings",
-    "shield",    "shieldOff", "sim",    "star",    "stop",    "tag",      "topup",    "trash",
-    "voicemail", "warning",   "window"};
+    "bell",   "calendar",  "callme",  "check",   "chevron", "chevronL", "clock",    "close",
+    "codes",  "copy",      "data",    "down",    "edit",    "eye",      "flask",    "globe",
+    "home",   "info",      "list",    "lock",    "menu",    "messages", "modem",    "moon",
+    "more",   "number",    "plus",    "refresh", "search",  "send",     "services", "settings",
+    "shield", "shieldOff", "sim",     "star",    "stop",    "tag",      "topup",    "trash",
+    "up",     "voicemail", "warning", "window"};
 
 QString opened(const char *path)
 {

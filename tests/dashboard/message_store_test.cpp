@@ -49,6 +49,7 @@ private slots:
     void aFileOfALaterVersionIsLeftAlone();
     void aFileThatCannotBeWrittenIsSaid();
     void deletedTextsAreOverwritten();
+    void numbersAreInMemoryOnly();
 
 private:
     void open();
@@ -112,6 +113,8 @@ void MessageStoreTest::onlyTheOwnerReadsTheFile()
         QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     QVERIFY(QFileInfo(file()).exists());
     QVERIFY(!(QFileInfo(file()).permissions() & others));
+    const QFile::Permissions inFolder = QFile::permissions(QFileInfo(file()).path());
+    QVERIFY(!(inFolder & (others | QFile::ExeGroup | QFile::ExeOther)));
 }
 
 void MessageStoreTest::theNewestComesFirst()
@@ -270,7 +273,7 @@ void MessageStoreTest::everythingIsDeleted()
     add(QLatin1String("one"), NOON, true);
     m_store->setSim(QLatin1String("sim-two"));
     add(QLatin1String("two"));
-    QVERIFY(!writeFile(QLatin1String("data/messages.sqlite.damaged-1"), "old").isEmpty());
+    QVERIFY(!writeFile(QLatin1String("data/messages.sqlite.damaged-2026-01-01"), "old").isEmpty());
     QSignalSpy reset(m_store.data(), &MessageStore::reset);
     m_store->removeAll();
     QCOMPARE(reset.size(), 1);
@@ -300,7 +303,8 @@ void MessageStoreTest::aDamagedFileIsSetAside()
     QVERIFY(texts().isEmpty());
     add(QLatin1String("new"));
     QCOMPARE(texts(), QStringList(QLatin1String("new")));
-    const QString aside = file() + QLatin1String(".damaged-1");
+    const QString aside =
+        file() + QLatin1String(".damaged-") + QDate::currentDate().toString(Qt::ISODate);
     QCOMPARE(contentOf(aside), content);
     QCOMPARE(problem.size(), 1);
     QVERIFY(problem.first().first().toString().contains(aside));
@@ -366,6 +370,19 @@ void MessageStoreTest::deletedTextsAreOverwritten()
     m_store.reset();
     QVERIFY(contentOf(file()).contains("KEPT-TEXT"));
     QVERIFY(!contentOf(file()).contains("DELETED-TEXT"));
+}
+
+void MessageStoreTest::numbersAreInMemoryOnly()
+{
+    const QString text = QLatin1String("Missed call from +999551846203. You have 12.50 EUR.");
+    const Message message = add(text);
+    QCOMPARE(message.text, text);
+    QCOMPARE(m_store->newest().text, text);
+    QVERIFY(contentOf(file()).contains("You have 12.50 EUR"));
+    QVERIFY(!contentOf(file()).contains("551846203"));
+    open();
+    QCOMPARE(m_store->newest().text,
+             QString::fromUtf8("Missed call from …6203. You have 12.50 EUR."));
 }
 
 USSD_TEST_MAIN(MessageStoreTest)

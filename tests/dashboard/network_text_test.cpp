@@ -1,11 +1,16 @@
+#include <QDir>
 #include <QSignalSpy>
 
 #include <cstring>
 
+#include "account/Favourites.h"
 #include "DeviceTest.h"
 #include "pages/SettingsPage.h"
+#include "plugin/CodeHistory.h"
 #include "plugin/GeneralWindow.h"
+#include "ProvisionWriter.h"
 #include "sim/PaidTypeFinder.h"
+#include "window/HomeSetup.h"
 #include "window/MessageParts.h"
 
 using namespace Dashboard;
@@ -28,6 +33,7 @@ private slots:
     void anAnswerEndsTheQuestion();
     void nothingIsAskedWhileAMenuIsOpen();
     void deletingAllDeletesTheTexts();
+    void deletingAllLeavesNoFile();
 
 private:
     void say(const char *text, bool waitsForAnswer = false);
@@ -41,8 +47,20 @@ private:
 
 namespace
 {
+
 const long long NOON = 1795262400; // 2026-11-21 12:00 UTC
+
+/// Returns the files of the user that contain what the program has kept.
+QStringList keptFiles()
+{
+    const QDir home(Provisioning::userDataHome());
+    QStringList files = home.entryList(QDir::Files, QDir::Name);
+    for (const QString &name : QDir(home.filePath(QLatin1String("account"))).entryList(QDir::Files))
+        files << QLatin1String("account/") + name;
+    return files;
 }
+
+} // namespace
 
 void NetworkTextTest::setUp()
 {
@@ -168,6 +186,34 @@ void NetworkTextTest::deletingAllDeletesTheTexts()
     emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
     QCOMPARE(unread(), QString());
     QVERIFY(store().newest().text.isEmpty());
+}
+
+void NetworkTextTest::deletingAllLeavesNoFile()
+{
+    TKSV_DeviceInfo info = modemInfo(TKSV_DEVICE_REGISTERED);
+    std::strcpy(info.imsi, "001010123456789");
+    tell(info);
+    say("secret");
+    AccountEntry entry;
+    entry.askedAt = QDateTime::currentDateTime();
+    entry.code = QLatin1String("*100#");
+    entry.text = QLatin1String("Balance: 12.50 EUR");
+    window().findChild<HomeSetup *>()->store().add(entry);
+    QVERIFY(Favourites(Favourites::userFile()).select({QLatin1String("*100#")}));
+    CodeHistory(CodeHistory::fileOfUser()).add(QLatin1String("*100#"));
+    const QStringList all = {QLatin1String("code-history"), QLatin1String("favourites.ini"),
+                             QLatin1String("messages.sqlite"), QLatin1String("sim-salt"),
+                             QLatin1String("account/replies.sqlite")};
+    QCOMPARE(keptFiles(), all);
+    const QString salt = Provisioning::userDataHome() + QLatin1String("/sim-salt");
+    const QByteArray before = contentOf(salt);
+    emit part<SettingsPage>("Dashboard_SettingsPage")->deleteAllRequested();
+    QCOMPARE(keptFiles(), QStringList(QLatin1String("sim-salt"))); // the next entries need a key
+    QVERIFY(contentOf(salt) != before);
+    say("next");
+    tell(modemInfo(TKSV_DEVICE_ABSENT));
+    tell(info);
+    QCOMPARE(store().newest().text, QLatin1String("next")); // the key stays the same from now on
 }
 
 USSD_TEST_MAIN(NetworkTextTest)

@@ -28,6 +28,7 @@ private slots:
     void theLanguageIsChosenFromItsMenu();
     void theLowBalanceHasAnAmount();
     void theNumberOfTheSimIsShownWithoutTheEye();
+    void askingOnceADayIsOff();
     void allIsDeletedOnlyAfterAYes_data();
     void allIsDeletedOnlyAfterAYes();
     void theCostOfTheQueryIsSaid();
@@ -151,6 +152,17 @@ void SettingsPageTest::theNumberOfTheSimIsShownWithoutTheEye()
     QVERIFY(!part<QPushButton>("Dashboard_ShowNumber")->isVisible());
 }
 
+void SettingsPageTest::askingOnceADayIsOff()
+{
+    Switch *daily = part<Switch>("Dashboard_SettingsAskDaily");
+    QVERIFY(!daily->isChecked() && !settings().asksDaily());
+    QVERIFY(daily->accessibleDescription().contains(QLatin1String("may charge")));
+    QSignalSpy changed(page(), &SettingsPage::changed);
+    daily->click();
+    QVERIFY(settings().asksDaily());
+    QCOMPARE(changed.size(), 1);
+}
+
 void SettingsPageTest::allIsDeletedOnlyAfterAYes_data()
 {
     QTest::addColumn<QString>("button");
@@ -167,8 +179,9 @@ void SettingsPageTest::allIsDeletedOnlyAfterAYes()
     part<QPushButton>("Dashboard_SettingsDeleteAll")->click();
     const QMessageBox *box = part<QMessageBox>("Dashboard_DeleteAllQuestion");
     QVERIFY(box && box->isVisible());
-    QCOMPARE(box->text(), QLatin1String("Delete all balances, messages and codes sent? They cannot "
-                                        "be brought back."));
+    QCOMPARE(box->text(),
+             QLatin1String("Delete all balances, messages, codes sent and favourites? They cannot "
+                           "be brought back."));
     QCOMPARE(box->defaultButton()->text().remove(QLatin1Char('&')), QLatin1String("Cancel"));
     QCOMPARE(deleted.count(), 0);
     for (QAbstractButton *each : box->buttons()) {

@@ -95,6 +95,9 @@ private slots:
     void theRingShowsEverySecond();
     void choicesThatDoNotFitAreInAList();
     void theTabKeyReachesTheRowsInOrder();
+    void olderNetworksAreOfferedAfterAFailureOn4G();
+    void theFormerNetworksAreOffered();
+    void theNarrowRowHasRoomForTheNetworks();
     void aChoiceIsAnswered();
     void aTextWithoutChoicesIsShown();
     void aFailureOffersWhatHelps();
@@ -269,7 +272,8 @@ void StateStripTest::theTabKeyReachesTheRowsInOrder()
     window.resize(840, 200);
     window.show();
     show(stateOf(Kind::MenuOpen, 2));
-    const QWidget *widget = part<QPushButton>("Dashboard_EndMenu");
+    const QWidget *widget = part<QPushButton>("Dashboard_StripMore");
+    QCOMPARE(nextTabStop(part<QPushButton>("Dashboard_EndMenu")), widget);
     for (const char *choice : {"1  A choice with words", "2  A choice with words"}) {
         widget = nextTabStop(widget);
         const QPushButton *button = qobject_cast<const QPushButton *>(widget);
@@ -278,6 +282,57 @@ void StateStripTest::theTabKeyReachesTheRowsInOrder()
     QCOMPARE(nextTabStop(widget), static_cast<QWidget *>(&below));
     layout.removeWidget(m_strip.data());
     m_strip->setParent(nullptr);
+}
+
+void StateStripTest::olderNetworksAreOfferedAfterAFailureOn4G()
+{
+    strip().setModes(true, false);
+    show(stateOf(Kind::Failed));
+    QVERIFY(!part<QPushButton>("Dashboard_AllowOlder")); // another failure
+    CommandState failed = stateOf(Kind::Failed);
+    failed.failure = TKSV_FAILURE_NOT_ON_4G;
+    show(failed);
+    QSignalSpy requested(&strip(), &StateStrip::olderModesRequested);
+    part<QPushButton>("Dashboard_AllowOlder")->click();
+    QCOMPARE(requested.size(), 1);
+    strip().setModes(false, true);
+    drainEvents();
+    QVERIFY(!part<QPushButton>("Dashboard_AllowOlder"));
+    QVERIFY(part<QPushButton>("Dashboard_Only4G"));
+}
+
+void StateStripTest::theFormerNetworksAreOffered()
+{
+    show(stateOf(Kind::Ready));
+    QVERIFY(!part<QPushButton>("Dashboard_Only4G"));
+    strip().setModes(false, true);
+    drainEvents();
+    QSignalSpy requested(&strip(), &StateStrip::formerModesRequested);
+    part<QPushButton>("Dashboard_Only4G")->click();
+    QCOMPARE(requested.size(), 1);
+}
+
+void StateStripTest::theNarrowRowHasRoomForTheNetworks()
+{
+    for (const QString &language : HostCore::Languages::codes()) {
+        QVERIFY(HostCore::Languages::setCurrent(language));
+        m_strip.reset(new StateStrip);
+        strip().setForm(Form::Narrow);
+        strip().resize(342, 116);
+        strip().show();
+        for (const bool canRestore : {false, true}) {
+            strip().setModes(!canRestore, canRestore);
+            CommandState failed = stateOf(Kind::Failed);
+            failed.failure = TKSV_FAILURE_NOT_ON_4G;
+            show(failed);
+            drainEvents();
+            for (const QPushButton *button :
+                 part<QWidget>("Dashboard_StripRow")->findChildren<QPushButton *>()) {
+                if (button->isVisible())
+                    QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(language));
+            }
+        }
+    }
 }
 
 void StateStripTest::aChoiceIsAnswered()

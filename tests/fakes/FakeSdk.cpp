@@ -396,6 +396,18 @@ TKSV_FailureInfo FakeSdk::lastFailure() const
     return m_settings.lastFailure;
 }
 
+void FakeSdk::setModes(const TKSV_ModesInfo &modes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.modes = modes;
+}
+
+TKSV_ModesInfo FakeSdk::modes() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_settings.modes;
+}
+
 void FakeSdk::setTextCallback(TKSV_NetworkTextCallback callback, void *context)
 {
     const std::lock_guard<std::mutex> lock(m_infoMutex);

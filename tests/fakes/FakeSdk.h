@@ -57,6 +57,8 @@ public:
     std::vector<TKSV_Modem> modems() const;
     void setLastFailure(const TKSV_FailureInfo &failure);
     TKSV_FailureInfo lastFailure() const;
+    void setModes(const TKSV_ModesInfo &modes);
+    TKSV_ModesInfo modes() const;
     void setTextCallback(TKSV_NetworkTextCallback callback, void *context);
     void tellNetworkText(const std::string &text, bool waitsForAnswer, long long receivedAt);
     void setScenarioOutcome(long result, const std::string &message);
@@ -86,6 +88,7 @@ private:
         TKSV_DeviceInfo info{};
         std::vector<TKSV_Modem> modems;
         TKSV_FailureInfo lastFailure{};
+        TKSV_ModesInfo modes{};
         TKSV_SessionInfo session{};
         long scenarioResult = 0;
         std::string scenarioMessage;

@@ -197,6 +197,11 @@ void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems)
     sdk().setModems(modems);
 }
 
+void fakeSdkSetModes(const TKSV_ModesInfo &modes)
+{
+    sdk().setModes(modes);
+}
+
 void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure)
 {
     sdk().setLastFailure(failure);

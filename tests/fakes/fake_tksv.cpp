@@ -139,6 +139,21 @@ long TKSV_Device_LookAgain(void)
     return sdk().leave(ticket, sdk().resultOf(__func__));
 }
 
+long TKSV_Device_GetModes(TKSV_ModesInfo *info)
+{
+    const std::size_t ticket = sdk().enter(callOf(__func__));
+    *info = sdk().modes();
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
+long TKSV_Device_SetModes(const TKSV_Modes *modes)
+{
+    FakeCall call = callOf(__func__);
+    call.path = std::to_string(modes->allowed) + "," + std::to_string(modes->preferred);
+    const std::size_t ticket = sdk().enter(call);
+    return sdk().leave(ticket, sdk().resultOf(__func__));
+}
+
 long TKSV_Device_GetLastFailure(TKSV_FailureInfo *failure)
 {
     const std::size_t ticket = sdk().enter(callOf(__func__));

@@ -161,8 +161,12 @@ FAKE_API void fakeSdkSetModems(const std::vector<TKSV_Modem> &modems);
 /// TKSV_Device_CancelRequest changes this result.
 FAKE_API void fakeSdkSetLastFailure(const TKSV_FailureInfo &failure);
 
-/// Sends a network-initiated message from the device thread. The message is lost if no call-back is
-/// registered.
+/// Sets what TKSV_Device_GetModes returns. The `path` of a recorded call of TKSV_Device_SetModes is
+/// the setting, such as "7,0".
+FAKE_API void fakeSdkSetModes(const TKSV_ModesInfo &modes);
+
+/// Sends a message that the network initiates, from the device's thread. The message is lost if no
+/// call-back is registered.
 FAKE_API void fakeSdkTellNetworkText(const std::string &text, bool waitsForAnswer,
                                      long long receivedAt);
 

@@ -115,6 +115,7 @@ private slots:
     void aMissingPolkitIsSaid();
     void aRefusalIsForgottenWhenItIsTakenBack();
     void theModemIsEnabledOnRequestOnly();
+    void aSettingThatTheModemRefusesIsReported();
     void aModemDisabledAfterThePinStaysDisabled();
     void aDeniedRegistrationIsSaid();
     void aModemWithoutUssdIsSaid();
@@ -640,8 +641,26 @@ void ModemDeviceTest::aMissingPolkitIsSaid()
 /* ---- the radio --------------------------------------------------------------------------- */
 
 /// Tests that the library enables the modem only on request. The daemon queries polkit before it
-/// enables a modem, so polkit must not have been queried. An automatic start would enable the modem
-/// before the SIM card is read, so the test waits for the IMSI.
+/// enables the modem. The library would enable the modem before it reads the SIM.
+/// Tests that the outcome of a change reaches the program. The daemon's generic plug-in cannot
+/// change the networks that a modem may use.
+void ModemDeviceTest::aSettingThatTheModemRefusesIsReported()
+{
+    useModem();
+    const auto modes = [] {
+        TKSV_ModesInfo info = {};
+        TKSV_Device_GetModes(&info);
+        return info;
+    };
+    QCOMPARE(modes().hasFailed, 0);
+    const unsigned allowed = modes().current.allowed;
+    const TKSV_Modes only3G = {TKSV_MODE_3G, 0};
+    QCOMPARE(TKSV_Device_SetModes(&only3G), 0L);
+    QVERIFY(waitUntil([modes] { return modes().hasFailed == 1; }));
+    QCOMPARE(modes().current.allowed, allowed);
+    QCOMPARE(info().isRoaming, 0);
+}
+
 void ModemDeviceTest::theModemIsEnabledOnRequestOnly()
 {
     startWorld();

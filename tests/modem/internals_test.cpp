@@ -5,6 +5,7 @@
 // The GLib headers must come before the Qt headers, which define "signals" as a macro.
 #include "modemmanager/ModemManagerBackend.h"
 #include "modemmanager/ModemWatch.h"
+#include "modemmanager/RadioModes.h"
 #include "modemmanager/UssdErrors.h"
 #include "ModemWorld.h"
 
@@ -61,6 +62,7 @@ private slots:
     void errorsHaveAReason_data();
     void errorsHaveAReason();
     void unansweredCommandsAreNotRefused();
+    void olderModesAreAddedToTheCurrentOnes();
 };
 
 void ModemInternalsTest::aSilentServiceIsNoticed()
@@ -189,6 +191,22 @@ void ModemInternalsTest::unansweredCommandsAreNotRefused()
     context.isOnlyOn4G = true;
     QCOMPARE(reasonAfter(0), int(TKSV_FAILURE_NOT_ON_4G));
     QCOMPARE(reasonAfter(20), int(TKSV_FAILURE_NO_ANSWER));
+}
+
+void ModemInternalsTest::olderModesAreAddedToTheCurrentOnes()
+{
+    const unsigned g2 = TKSV_MODE_2G, g3 = TKSV_MODE_3G, g4 = TKSV_MODE_4G, g5 = TKSV_MODE_5G;
+    const std::vector<TKSV_Modes> supported = {
+        {g2, 0}, {g2 | g3, 0}, {g4, 0}, {g3 | g4, g4}, {g2 | g3 | g4, g2}, {g2 | g3 | g4, g4}};
+    const auto chosen = [&supported](const TKSV_Modes &current) {
+        const TKSV_Modes modes = withOlderModes(current, supported);
+        return QString::fromLatin1("%1,%2").arg(modes.allowed).arg(modes.preferred);
+    };
+    QCOMPARE(chosen({g4, 0}), QLatin1String("7,4"));
+    QCOMPARE(chosen({g4 | g5, 0}), QLatin1String("7,4")); // no setting keeps 5G
+    QCOMPARE(chosen({g3 | g4, 0}), QLatin1String("0,0")); // 3G is already allowed
+    QCOMPARE(chosen({0, 0}), QLatin1String("0,0"));       // unknown
+    QCOMPARE(withOlderModes({g4, 0}, {{g4, 0}, {g5, 0}}).allowed, 0U);
 }
 
 USSD_TEST_MAIN(ModemInternalsTest)

@@ -26,6 +26,7 @@ public:
     bool sendSms(const SmsMessage &) override { return false; }
     bool sendPin(const std::string &) override { return false; }
     bool enable() override { return false; }
+    bool setModes(const TKSV_Modes &) override { return false; }
     DeviceInfo info() const override { return DeviceInfo(); }
 
     struct Seen {

@@ -58,6 +58,8 @@ class SdkDevice : public QObject
     Q_OBJECT
 private slots:
     void shippedScenarioIsFoundBesideTheLibrary();
+    void codesFailOn4GOnly();
+    void roamingIsReported();
     void infoTellsOfTheScenario();
     void infoHidesWhatTheStateDoesNotGive_data();
     void infoHidesWhatTheStateDoesNotGive();
@@ -116,6 +118,43 @@ void SdkDevice::infoHidesWhatTheStateDoesNotGive()
     QCOMPARE(info().canSendSMS, 0);
     QCOMPARE(*info().imsi != '\0', hasImsi);
     QCOMPARE(info().signalPercent >= 0, hasSignal);
+}
+
+void SdkDevice::codesFailOn4GOnly()
+{
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "Modes=4G\n[*100#]\nReply=Balance\n"),
+             std::string());
+    registerAll();
+    TKSV_ModesInfo modes = {};
+    QCOMPARE(TKSV_Device_GetModes(&modes), 0L);
+    QCOMPARE(modes.current.allowed, unsigned(TKSV_MODE_4G));
+    QCOMPARE(ask(u"*100#").type, int(TKSV_FAILURE_NOT_ON_4G));
+    const TKSV_Modes none = {};
+    QVERIFY(TKSV_Device_SetModes(&none) != 0);
+    QVERIFY(TKSV_Device_SetModes(nullptr) != 0);
+    QVERIFY(TKSV_Device_GetModes(nullptr) != 0);
+    Gate changed;
+    QCOMPARE(TKSV_Device_SetInfoCallback(openGate, &changed), 0L);
+    QCOMPARE(TKSV_Device_SetModes(&modes.withOlder), 0L);
+    QVERIFY(changed.wait());
+    TKSV_Device_SetInfoCallback(nullptr, nullptr);
+    QVERIFY(ask(u"*100#").text == u"Balance");
+    TKSV_Device_GetModes(&modes);
+    QCOMPARE(modes.current.allowed, unsigned(TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G));
+    QCOMPARE(modes.withOlder.allowed, 0U);
+    QCOMPARE(modes.hasFailed, 0);
+    unregisterAll();
+}
+
+void SdkDevice::roamingIsReported()
+{
+    QCOMPARE(useNetwork(SCENARIO_START), std::string());
+    QCOMPARE(info().isRoaming, 0);
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "Roaming=yes\n"), std::string());
+    QCOMPARE(info().isRoaming, 1);
+    QCOMPARE(useNetwork(std::string(SCENARIO_START) + "Roaming=yes\nState=searching\n"),
+             std::string());
+    QCOMPARE(info().isRoaming, 0);
 }
 
 void SdkDevice::pinUnlocksTheSim()

@@ -1,14 +1,13 @@
 #include "AccountExport.h"
 
-#include <QFile>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include "AccountDatabase.h"
 #include "base/DashboardText.h"
+#include "base/PrivateFile.h"
 
 namespace Dashboard
 {
@@ -119,12 +118,8 @@ QString exportAccountTo(const QString &file, const QString &database)
         });
     if (!isRead)
         return dashboardText("ACCOUNT_NOT_READ").arg(database);
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly) ||
-        !output.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
-        output.write(collector.content()) < 0 || !output.commit())
-        return dashboardText("ACCOUNT_NOT_EXPORTED").arg(file, output.errorString());
-    return QString();
+    const QString error = writePrivateFile(file, collector.content());
+    return error.isEmpty() ? error : dashboardText("ACCOUNT_NOT_EXPORTED").arg(file, error);
 }
 
 } // namespace Dashboard

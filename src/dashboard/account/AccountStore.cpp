@@ -107,9 +107,9 @@ QList<BalanceDay> AccountStore::lastDays() const
 void AccountStore::removeAll()
 {
     m_numbers.clear();
-    m_database->removeAll();
-    if (m_database->isInMemory() && !m_file.isEmpty())
-        AccountDatabase(m_file).removeAll();
+    begin(m_keeping); // closes the file
+    if (!AccountDatabase(m_file).removeAll())
+        emit problem(dashboardText("MESSAGE_NOT_REMOVED").arg(m_file));
     emit changed();
 }
 

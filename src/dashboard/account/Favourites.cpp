@@ -75,4 +75,15 @@ bool Favourites::select(const QStringList &codes)
     return settings.status() == QSettings::NoError;
 }
 
+void Favourites::removeAll()
+{
+    m_selected.clear();
+    if (m_file.isEmpty())
+        return;
+    QSettings settings(m_file, QSettings::IniFormat);
+    settings.clear(); // otherwise, another object may write what it has in memory
+    settings.sync();
+    QFile::remove(m_file);
+}
+
 } // namespace Dashboard

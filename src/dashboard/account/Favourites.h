@@ -30,6 +30,8 @@ public:
     QList<NamedCode> among(const AccountCodes &codes) const;
     /// Sets the favourites and their order. Returns false if they cannot be stored.
     bool select(const QStringList &codes);
+    /// Forgets the favourites of all networks and removes the file.
+    void removeAll();
 
 private:
     QString key() const;

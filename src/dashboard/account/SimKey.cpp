@@ -43,9 +43,14 @@ bool writeSalt(const QString &path)
     return isLinked || QFile::exists(path);
 }
 
+QString saltFile(const QString &folder)
+{
+    return folder + QLatin1Char('/') + QLatin1String(SALT_FILE);
+}
+
 QByteArray saltIn(const QString &folder)
 {
-    const QString path = folder + QLatin1Char('/') + QLatin1String(SALT_FILE);
+    const QString path = saltFile(folder);
     QByteArray salt = InputFile::content(path);
     if (salt.size() == SALT_BYTES)
         return salt;
@@ -72,6 +77,17 @@ QString simKey(const QString &imsi, const QString &folder)
 QString simKey(const QString &imsi)
 {
     return simKey(imsi, Provisioning::userDataHome());
+}
+
+bool forgetSimKeys(const QString &folder)
+{
+    const QString path = saltFile(folder);
+    return !QFile::exists(path) || QFile::remove(path);
+}
+
+bool forgetSimKeys()
+{
+    return forgetSimKeys(Provisioning::userDataHome());
 }
 
 } // namespace Dashboard

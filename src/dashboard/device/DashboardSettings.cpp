@@ -25,6 +25,9 @@ const char LOW_BALANCE[] = "low-balance";
 const char HIDES_SIM_NUMBER[] = "hide-sim-number";
 const char KEEPS_HISTORY[] = "keep-history";
 const char FIRST_RUN_DONE[] = "first-run-done";
+const char ASKS_DAILY[] = "ask-daily";
+const char LAST_ASKED[] = "last-asked"; // a group with a time for each SIM
+const char MODES_BEFORE[] = "modes-before/";
 
 const char *const THEMES[] = {"system", "light", "dark"};
 const int TEXT_SIZES[] = {100, 125, 150, 200}; // per cent
@@ -218,6 +221,47 @@ bool DashboardSettings::isFirstRunDone() const
 void DashboardSettings::setFirstRunDone(bool isDone)
 {
     set(FIRST_RUN_DONE, isDone);
+}
+
+bool DashboardSettings::asksDaily() const
+{
+    return flag(ASKS_DAILY, false);
+}
+
+void DashboardSettings::setAsksDaily(bool asks)
+{
+    set(ASKS_DAILY, asks);
+}
+
+QDateTime DashboardSettings::lastAsked(const QString &sim) const
+{
+    const QString key = QLatin1String(LAST_ASKED) + QLatin1Char('/') + sim;
+    return QDateTime::fromString(m_settings.value(key).toString(), Qt::ISODate);
+}
+
+void DashboardSettings::setLastAsked(const QString &sim, const QDateTime &time)
+{
+    const QString key = QLatin1String(LAST_ASKED) + QLatin1Char('/') + sim;
+    m_settings.setValue(key, time.toUTC().toString(Qt::ISODate));
+}
+
+void DashboardSettings::forgetLastAsked()
+{
+    m_settings.remove(QLatin1String(LAST_ASKED));
+}
+
+QString DashboardSettings::modesBefore(const QString &equipmentId) const
+{
+    return m_settings.value(QLatin1String(MODES_BEFORE) + equipmentId).toString();
+}
+
+void DashboardSettings::setModesBefore(const QString &equipmentId, const QString &word)
+{
+    const QString key = QLatin1String(MODES_BEFORE) + equipmentId;
+    if (word.isEmpty())
+        m_settings.remove(key);
+    else
+        m_settings.setValue(key, word);
 }
 
 QByteArray DashboardSettings::geometry() const

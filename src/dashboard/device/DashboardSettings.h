@@ -2,6 +2,7 @@
 #define DASHBOARDSETTINGS_H
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QSettings>
 #include <QString>
 
@@ -61,6 +62,18 @@ public:
     /// Returns true if the user has finished or skipped the first run.
     bool isFirstRunDone() const; // false by default
     void setFirstRunDone(bool isDone);
+    /// Returns true if the dashboard may ask for the balance once a day.
+    bool asksDaily() const; // false by default
+    void setAsksDaily(bool asks);
+    /// Returns when the balance of the SIM was asked most recently. `sim` is its key, see SimKey.h.
+    QDateTime lastAsked(const QString &sim) const;
+    void setLastAsked(const QString &sim, const QDateTime &time);
+    /// Forgets when the balance of every SIM was asked.
+    void forgetLastAsked();
+    /// Returns the setting that the modem had before the dashboard changed it, or an empty string;
+    /// see ModeChoice.
+    QString modesBefore(const QString &equipmentId) const;
+    void setModesBefore(const QString &equipmentId, const QString &word);
     QByteArray geometry() const; // the geometry of the main window
     void setGeometry(const QByteArray &geometry);
 

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 
 #include "base/DashboardText.h"
-#include "tksv_device.h"
 
 namespace Dashboard
 {
@@ -12,7 +11,12 @@ namespace Dashboard
 namespace
 {
 
-/// Returns the text key that describes why the device cannot be used, or null if it can be used.
+bool areSame(const TKSV_Modes &a, const TKSV_Modes &b)
+{
+    return a.allowed == b.allowed && a.preferred == b.preferred;
+}
+
+/// Returns the text key of the reason why the device cannot be used, or null if it can be used.
 const char *trouble(const DeviceStatus &status)
 {
     if (status.problem == TKSV_PROBLEM_REGISTRATION_DENIED)
@@ -44,7 +48,11 @@ bool DeviceStatus::operator==(const DeviceStatus &other) const
            imsi == other.imsi && source == other.source && problem == other.problem &&
            pinRetries == other.pinRetries && homeNetwork == other.homeNetwork &&
            simOperator == other.simOperator && isLooking == other.isLooking &&
-           hasForeignSession == other.hasForeignSession && waitsForTurn == other.waitsForTurn;
+           hasForeignSession == other.hasForeignSession && waitsForTurn == other.waitsForTurn &&
+           isRoaming == other.isRoaming && equipmentId == other.equipmentId &&
+           areSame(modes.current, other.modes.current) &&
+           areSame(modes.withOlder, other.modes.withOlder) &&
+           modes.hasFailed == other.modes.hasFailed;
 }
 
 bool DeviceStatus::isRegistered() const
@@ -134,6 +142,9 @@ DeviceStatus readDeviceStatus()
     status.homeNetwork = QString::fromUtf8(info.simOperatorCode);
     status.simOperator = QString::fromUtf8(info.simOperatorName);
     status.isLooking = info.isLooking != 0;
+    status.isRoaming = info.isRoaming != 0;
+    status.equipmentId = QString::fromUtf8(info.equipmentId);
+    TKSV_Device_GetModes(&status.modes);
     status.hasForeignSession = info.hasForeignSession != 0;
     status.waitsForTurn = info.waitsForTurn != 0;
     status.source =

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "tksv_device.h"
+
 namespace Dashboard
 {
 
@@ -21,6 +23,9 @@ struct DeviceStatus {
     bool isLooking = false; // ModemManager has not reported its modems yet
     bool hasForeignSession = false; // another program has opened a USSD session
     bool waitsForTurn = false;      // a request is waiting for another program of the same user
+    bool isRoaming = false;         // registered with a network that is not the SIM's own
+    QString equipmentId;            // identifier of the current modem; empty if there is none
+    TKSV_ModesInfo modes = {};      // the generations of networks that the modem may use
 
     bool operator==(const DeviceStatus &other) const;
     bool operator!=(const DeviceStatus &other) const { return !(*this == other); }

@@ -33,6 +33,11 @@ MessageCenter::MessageCenter(MessageStore *store, const DeviceWatcher *device,
 void MessageCenter::setSimKey(const std::function<QString(const QString &)> &key)
 {
     m_simKey = key;
+    renewSimKey();
+}
+
+void MessageCenter::renewSimKey()
+{
     m_imsi.clear();
     look();
 }

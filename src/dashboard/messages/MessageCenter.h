@@ -42,7 +42,9 @@ public slots:
     /// Applies the current SIM and the current settings. Must be called when the settings have
     /// changed.
     void look();
-    /// Must be called when the window has become active.
+    /// Determines the key of the SIM again.
+    void renewSimKey();
+    /// Must be called when the window has come to the front.
     void onInFront();
 
 private:

@@ -1,11 +1,5 @@
 #include "MessageDatabase.h"
 
-#include <QAtomicInt>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSqlError>
-
 #include "ProvisionWriter.h"
 
 namespace Dashboard
@@ -15,35 +9,22 @@ namespace
 {
 
 const char FILE_NAME[] = "messages.sqlite";
-const int SCHEMA_VERSION = 1;
-const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
-// The result codes of SQLite for a damaged file and for a file that is not a database.
-const char CORRUPT[] = "11";
-const char NOT_A_DATABASE[] = "26";
-
-// Overwrite deleted messages, and wait if another process is using the file.
-const char *const SETTINGS[] = {"PRAGMA secure_delete = ON", "PRAGMA busy_timeout = 2000",
-                                "PRAGMA synchronous = FULL"};
-
-const char *const SCHEMA[] = {
-    "CREATE TABLE IF NOT EXISTS message (id INTEGER PRIMARY KEY AUTOINCREMENT, sim TEXT NOT NULL, "
-    "received INTEGER NOT NULL, sender TEXT NOT NULL, text TEXT NOT NULL, "
-    "folded TEXT NOT NULL, unread INTEGER NOT NULL)",
-    "CREATE INDEX IF NOT EXISTS message_by_time ON message (sim, received, id)",
-    "CREATE INDEX IF NOT EXISTS message_unread ON message (sim, received, id) WHERE unread = 1",
-    "CREATE INDEX IF NOT EXISTS message_by_age ON message (received)"};
+const QList<QList<const char *>> &migrations()
+{
+    static const QList<QList<const char *>> steps = {
+        {"CREATE TABLE message (id INTEGER PRIMARY KEY AUTOINCREMENT, sim TEXT NOT NULL, "
+         "received INTEGER NOT NULL, sender TEXT NOT NULL, text TEXT NOT NULL, "
+         "folded TEXT NOT NULL, unread INTEGER NOT NULL)",
+         "CREATE INDEX message_by_time ON message (sim, received, id)",
+         "CREATE INDEX message_unread ON message (sim, received, id) WHERE unread = 1",
+         "CREATE INDEX message_by_age ON message (received)"}};
+    return steps;
+}
 
 const char COLUMNS[] = "SELECT id, received, sender, text, unread FROM message ";
 
-QString newConnectionName()
-{
-    static QAtomicInt last;
-    return QString::fromLatin1("messages-%1").arg(last.fetchAndAddOrdered(1));
-}
-
-/// Returns the text in the form that searches compare. SQLite ignores only the case of ASCII
-/// letters.
+/// Returns the text that searches compare. SQLite itself ignores the case of ASCII letters only.
 QString folded(const QString &text)
 {
     return text.toCaseFolded();
@@ -60,166 +41,18 @@ Message messageOf(const QSqlQuery &row)
     return message;
 }
 
-/// Creates the file with private permissions. SQLite would create it with the default permissions,
-/// so that other users could read it for a moment.
-bool makePrivateFile(const QString &path)
-{
-    if (!QDir().mkpath(QFileInfo(path).path()))
-        return false;
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Append) && file.setPermissions(OWNER_ONLY);
-}
-
-QString nameForDamaged(const QString &file)
-{
-    for (int i = 1;; ++i) {
-        QString name = file + QString::fromLatin1(".damaged-%1").arg(i);
-        if (!QFile::exists(name))
-            return name;
-    }
-}
-
 } // namespace
 
-MessageDatabase::MessageDatabase(const QString &file)
-    : m_file(file), m_connection(newConnectionName())
-{
-}
-
-MessageDatabase::~MessageDatabase()
-{
-    close();
-}
+MessageDatabase::MessageDatabase(const QString &file) : UserDatabase(file, migrations()) {}
 
 QString MessageDatabase::userFile()
 {
     return Provisioning::userDataHome() + QLatin1Char('/') + QLatin1String(FILE_NAME);
 }
 
-// ---- the file -----------------------------------------------------------------------------------
-
-/// Returns false if there cannot be any messages. In this case, the program does not have to load
-/// the database driver.
-bool MessageDatabase::isThere() const
-{
-    return m_isOpen || (!isInMemory() && QFile::exists(m_file));
-}
-
-bool MessageDatabase::isOpen()
-{
-    if (!m_isOpen && !m_isOfLaterVersion)
-        m_isOpen = open() || (setAside() && open());
-    return m_isOpen;
-}
-
-bool MessageDatabase::open()
-{
-    if (!isInMemory() && !makePrivateFile(m_file))
-        return false;
-    QSqlDatabase database = QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), m_connection);
-    database.setDatabaseName(isInMemory() ? QLatin1String(":memory:") : m_file);
-    if (database.open() && prepare())
-        return true;
-    database = QSqlDatabase();
-    close();
-    return false;
-}
-
-/// Creates the tables. Returns false if the file is damaged or was written by a later version of
-/// the program.
-bool MessageDatabase::prepare()
-{
-    QSqlDatabase database = QSqlDatabase::database(m_connection);
-    QSqlQuery query(database);
-    for (const char *setting : SETTINGS)
-        query.exec(QLatin1String(setting));
-    if (!query.exec(QLatin1String("PRAGMA user_version")) || !query.next())
-        return handleError(query);
-    m_isOfLaterVersion = query.value(0).toInt() > SCHEMA_VERSION;
-    query.finish();
-    if (m_isOfLaterVersion || !database.transaction())
-        return false;
-    for (const char *statement : SCHEMA) {
-        if (!query.exec(QLatin1String(statement)))
-            return handleError(query);
-    }
-    query.exec(QString::fromLatin1("PRAGMA user_version = %1").arg(SCHEMA_VERSION));
-    return database.commit();
-}
-
-/// Records whether the error was caused by a damaged file. Always returns false.
-bool MessageDatabase::handleError(const QSqlQuery &query)
-{
-    const QString code = query.lastError().nativeErrorCode();
-    if (code == QLatin1String(CORRUPT) || code == QLatin1String(NOT_A_DATABASE))
-        m_damagedFile = m_file;
-    return false;
-}
-
-/// Renames the file if it is damaged. Returns true if the file was renamed.
-bool MessageDatabase::setAside()
-{
-    if (m_damagedFile != m_file || isInMemory())
-        return false;
-    close();
-    const QString name = nameForDamaged(m_file);
-    if (!QFile::rename(m_file, name))
-        return false;
-    m_damagedFile = name;
-    QFile::remove(m_file + QLatin1String("-journal"));
-    return true;
-}
-
-void MessageDatabase::close()
-{
-    m_isOpen = false;
-    if (QSqlDatabase::contains(m_connection))
-        QSqlDatabase::removeDatabase(m_connection);
-}
-
-QString MessageDatabase::takeDamagedFile()
-{
-    QString name;
-    if (m_damagedFile != m_file)
-        name.swap(m_damagedFile);
-    return name;
-}
-
-// ---- statements ---------------------------------------------------------------------------------
-
-namespace
-{
-
-/// Returns the value, or an empty text instead of NULL. In Qt 6, a QVariant with a null string is
-/// not null itself.
-QVariant withoutNull(const QVariant &value)
-{
-    return value.toString().isNull() ? QVariant(QLatin1String("")) : value;
-}
-
-} // namespace
-
-bool MessageDatabase::run(const char *statement, const QVariantList &values, QSqlQuery *query)
-{
-    query->setForwardOnly(true);
-    query->prepare(QLatin1String(statement));
-    for (const QVariant &value : values)
-        query->addBindValue(withoutNull(value));
-    return query->exec() || handleError(*query);
-}
-
-/// Executes the statement. If the file turns out to be damaged, repeats the statement with a new
-/// file.
 bool MessageDatabase::change(const char *statement, const QVariantList &values)
 {
-    if (!isOpen())
-        return false;
-    {
-        QSqlQuery query(QSqlDatabase::database(m_connection));
-        if (run(statement, values, &query))
-            return true;
-    }
-    return setAside() && change(statement, values);
+    return repairing([&] { return run(statement, values); });
 }
 
 qint64 MessageDatabase::add(const QString &sim, const Message &message)
@@ -234,28 +67,35 @@ qint64 MessageDatabase::add(const QString &sim, const Message &message)
                 "VALUES (?, ?, ?, ?, ?, ?)",
                 values))
         return 0;
-    QSqlQuery query(QSqlDatabase::database(m_connection));
-    return run("SELECT max(id) FROM message", {}, &query) && query.next()
-               ? query.value(0).toLongLong()
-               : 0;
+    return number("SELECT max(id) FROM message", {});
 }
 
-/// Returns the messages that the statement selects. If the file is damaged, renames it.
+/// Returns the number that the statement selects.
+qint64 MessageDatabase::number(const char *statement, const QVariantList &values)
+{
+    qint64 result = 0;
+    repairing([&] {
+        return readRows(statement, values, [&result](const QSqlQuery &row) {
+            result = row.value(0).toLongLong();
+            return true;
+        });
+    });
+    return result;
+}
+
+/// Returns the messages that the statement selects.
 QList<Message> MessageDatabase::select(const QByteArray &statement, const QVariantList &values)
 {
     QList<Message> messages;
-    if (!isThere() || !isOpen())
+    if (!isThere())
         return messages;
-    bool isRun = false;
-    {
-        QSqlQuery query(QSqlDatabase::database(m_connection));
-        isRun = run(statement.constData(), values, &query);
-        while (isRun && query.next())
-            messages << messageOf(query);
-        isRun = isRun && (query.lastError().type() == QSqlError::NoError || handleError(query));
-    }
-    if (!isRun)
-        setAside();
+    repairing([&] {
+        messages.clear();
+        return readRows(statement.constData(), values, [&messages](const QSqlQuery &row) {
+            messages << messageOf(row);
+            return true;
+        });
+    });
     return messages;
 }
 
@@ -288,11 +128,9 @@ Message MessageDatabase::message(qint64 id)
 
 int MessageDatabase::unreadCount(const QString &sim)
 {
-    if (!isThere() || !isOpen())
-        return 0;
-    QSqlQuery query(QSqlDatabase::database(m_connection));
-    const char statement[] = "SELECT count(*) FROM message WHERE sim = ? AND unread = 1";
-    return run(statement, {sim}, &query) && query.next() ? query.value(0).toInt() : 0;
+    return isThere()
+               ? int(number("SELECT count(*) FROM message WHERE sim = ? AND unread = 1", {sim}))
+               : 0;
 }
 
 bool MessageDatabase::markRead(qint64 id)
@@ -319,20 +157,6 @@ bool MessageDatabase::removeBefore(const QDateTime &limit)
 {
     return isThere() &&
            change("DELETE FROM message WHERE received < ?", {limit.toMSecsSinceEpoch()});
-}
-
-/// Also removes damaged files that were set aside, because they may contain messages.
-bool MessageDatabase::removeAll()
-{
-    close();
-    m_isOfLaterVersion = false;
-    if (isInMemory())
-        return true;
-    const QFileInfo file(m_file);
-    bool isDone = true;
-    for (const QString &name : file.dir().entryList({file.fileName() + QLatin1Char('*')}))
-        isDone = file.dir().remove(name) && isDone;
-    return isDone;
 }
 
 } // namespace Dashboard

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "account/AccountEntry.h"
 #include "base/DashboardText.h"
 #include "MessageDatabase.h"
 #include "TerminalText.h"
@@ -28,6 +29,7 @@ void MessageStore::setStoring(bool isStoring)
 void MessageStore::begin(const QString &file)
 {
     m_database.reset(new MessageDatabase(file));
+    m_texts.clear();
     m_waiting = 0;
     count();
     emit reset();
@@ -61,10 +63,10 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
     message.text = HostCore::terminalText(text.left(LONGEST_TEXT));
     message.isUnread = true;
     m_database->removeBefore(m_clock().addMonths(-MONTHS_KEPT));
-    message.id = m_database->add(m_sim, message);
+    message.id = store(message);
     if (message.isNull()) {
         keepInMemory();
-        message.id = m_database->add(m_sim, message);
+        message.id = store(message);
     }
     endWaiting(); // a new message ends the session of the previous one
     m_waiting = waitsForAnswer ? message.id : 0;
@@ -74,7 +76,25 @@ Message MessageStore::add(const QString &sender, const QString &text, const QDat
     return message;
 }
 
-/// Continues with a database in memory, because the file cannot be written.
+/// Stores the message without the numbers that nobody else must find in the file.
+qint64 MessageStore::store(const Message &message)
+{
+    Message stored = message;
+    stored.text = withoutNumbers(message.text);
+    const qint64 id = m_database->add(m_sim, stored);
+    if (id != 0 && stored.text != message.text)
+        m_texts.insert(id, message.text);
+    return id;
+}
+
+/// Returns the message with its complete text, if it is still in memory.
+Message MessageStore::complete(Message message) const
+{
+    message.text = m_texts.value(message.id, message.text);
+    return message;
+}
+
+/// Gives up the file, which cannot be written.
 void MessageStore::keepInMemory()
 {
     if (m_database->isInMemory())
@@ -93,14 +113,16 @@ void MessageStore::report()
 
 QList<Message> MessageStore::older(const MessageQuery &query, const Message &after, int limit)
 {
-    const QList<Message> messages = m_database->older(m_sim, query, m_waiting, after, limit);
+    QList<Message> messages = m_database->older(m_sim, query, m_waiting, after, limit);
+    for (Message &message : messages)
+        message = complete(message);
     report();
     return messages;
 }
 
 Message MessageStore::message(qint64 id) const
 {
-    return id == 0 ? Message() : m_database->message(id);
+    return id == 0 ? Message() : complete(m_database->message(id));
 }
 
 Message MessageStore::newest()
@@ -137,6 +159,7 @@ void MessageStore::remove(qint64 id)
 {
     if (!m_database->remove(id))
         return;
+    m_texts.remove(id);
     if (id == m_waiting)
         m_waiting = 0;
     count();

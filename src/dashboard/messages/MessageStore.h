@@ -1,6 +1,7 @@
 #ifndef MESSAGESTORE_H
 #define MESSAGESTORE_H
 
+#include <QHash>
 #include <QObject>
 
 #include <functional>
@@ -14,9 +15,10 @@ namespace Dashboard
 class MessageDatabase;
 
 /**
- * Stores the network-initiated messages of each SIM for 12 months. If the user has disabled
- * storing, or if the file cannot be written, messages are kept in memory until the program exits.
- * All functions must be called from the GUI thread.
+ * Keeps the network-initiated messages of each SIM for 12 months. If messages must not be stored,
+ * or if they cannot be stored, they are kept in memory until the program ends. The file contains
+ * the messages without long numbers, which are in memory only; see withoutNumbers(). All functions
+ * must be called from the GUI thread.
  */
 class MessageStore : public QObject
 {
@@ -78,10 +80,13 @@ private:
     void keepInMemory();
     void count();
     void report();
+    qint64 store(const Message &message);
+    Message complete(Message message) const;
 
     const QString m_file;
     std::function<QDateTime()> m_clock = QDateTime::currentDateTime;
     std::unique_ptr<MessageDatabase> m_database;
+    QHash<qint64, QString> m_texts; // the complete texts of the messages since the program started
     QString m_sim;
     qint64 m_waiting = 0;
     int m_unreadCount = 0;

@@ -262,6 +262,8 @@ void BalanceCard::describe()
     if (m_view.isLow)
         parts << m_low->text();
     setAccessibleName(parts.join(QLatin1String(", ")));
+    // The name stays the same while the seconds pass, so that screen readers do not read it again.
+    setAccessibleDescription(m_view.askingSeconds >= 0 ? m_ask->text() : QString());
 }
 
 } // namespace Dashboard

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QDir>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -11,7 +13,10 @@
 
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
+#include "base/PrivateFile.h"
 #include "device/DeviceStatus.h"
+#include "device/ModeChoice.h"
+#include "FindBar.h"
 #include "GeneralArea.h"
 #include "HistoryPopup.h"
 #include "look/Controls.h"
@@ -48,6 +53,7 @@ QString menuText(QString name)
 CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
     : Page("Dashboard_CodesPage", parent), m_parts(parts), m_strip(new StateStrip),
       m_area(new GeneralArea(parts.plugin)),
+      m_find(new FindBar([this] { return general().history(); }, this)),
       m_historyPopup(new HistoryPopup(parts.history, parts.names, this)), m_card(makeCard(this)),
       m_narrowButtons(new QWidget(this)), m_codesButton(nullptr), m_topUpButton(nullptr),
       m_narrowRow(new QHBoxLayout(m_narrowButtons)), m_column(new QVBoxLayout(this))
@@ -57,6 +63,7 @@ CodesPage::CodesPage(const CodesParts &parts, QWidget *parent)
     makeLayout();
     makeShortcuts();
     followStrip();
+    followModes();
     connect(parts.commands, &CommandMonitor::changed, this, &CodesPage::onCommandChanged);
     connect(parts.commands, &CommandMonitor::ticked, m_strip, &StateStrip::setSeconds);
     connect(parts.commands, &CommandMonitor::sent, parts.history, &CodeHistory::add);
@@ -115,6 +122,7 @@ void CodesPage::makeLayout()
     inside->setSpacing(0);
     inside->addWidget(m_strip);
     inside->addWidget(m_area, 1);
+    inside->addWidget(m_find);
     m_column->addWidget(m_narrowButtons);
     m_column->addWidget(m_card, 1);
     setForm(m_form);
@@ -132,6 +140,7 @@ void CodesPage::setForm(Form form)
     m_narrowButtons->setVisible(isNarrow);
     placeNarrowButtons();
     m_strip->setForm(form);
+    m_find->setForm(form);
     m_strip->setOwnWindowOffered(Look::instance().scale() <= LARGEST_SCALE_OF_A_FRAME);
     m_area->setCompact(isNarrow);
 }
@@ -142,6 +151,7 @@ void CodesPage::retranslate()
     m_topUpButton->setText(dashboardText("SHEET_TOP_UP"));
     placeNarrowButtons();
     m_strip->retranslate();
+    m_find->retranslate();
     updateRecent();
 }
 
@@ -164,8 +174,23 @@ void CodesPage::showWindow(bool isShown)
     else
         m_area->hideWindow();
     m_historyPopup->attach(general().commandEdit());
+    watchTranscript();
     updateWindow();
     m_parts.commands->look();
+}
+
+void CodesPage::watchTranscript()
+{
+    if (QTextEdit *history = general().history())
+        connect(history, &QTextEdit::textChanged, this, &CodesPage::updateReply,
+                Qt::UniqueConnection);
+    m_find->follow();
+    updateReply();
+}
+
+void CodesPage::updateReply()
+{
+    m_strip->setReplyThere(!general().lastReceived().isEmpty());
 }
 
 void CodesPage::showText(const QString &text)
@@ -208,9 +233,26 @@ void CodesPage::followStrip()
     connect(m_strip, &StateStrip::answered, commands, &CommandMonitor::answer);
     connect(m_strip, &StateStrip::detailsRequested, this, &CodesPage::showDetails);
     connect(m_strip, &StateStrip::historyRequested, this, &CodesPage::openHistory);
+    connect(m_strip, &StateStrip::copyRequested, this, &CodesPage::copyReply);
+    connect(m_strip, &StateStrip::findRequested, this, &CodesPage::find);
+    connect(m_strip, &StateStrip::saveRequested, this, &CodesPage::saveTranscript);
     connect(m_strip, &StateStrip::codeChosen, this, &CodesPage::useCode);
     connect(m_strip, &StateStrip::ownWindowRequested, this, &CodesPage::ownWindowRequested);
     connect(m_strip, &StateStrip::remedyChosen, this, &CodesPage::remedyChosen);
+}
+
+void CodesPage::followModes()
+{
+    ModeChoice *modes = m_parts.modes;
+    if (!modes)
+        return;
+    const auto show = [this, modes] {
+        m_strip->setModes(modes->canAllowOlder(), modes->canRestore());
+    };
+    connect(modes, &ModeChoice::changed, this, show);
+    connect(m_strip, &StateStrip::olderModesRequested, modes, &ModeChoice::allowOlder);
+    connect(m_strip, &StateStrip::formerModesRequested, modes, &ModeChoice::restore);
+    show();
 }
 
 void CodesPage::onCommandChanged()
@@ -390,6 +432,42 @@ void CodesPage::copyReply()
     const QString reply = general().lastReceived();
     if (!reply.isEmpty())
         QApplication::clipboard()->setText(reply);
+}
+
+// ---- the transcript ------------------------------------------------------------------------
+
+void CodesPage::find()
+{
+    m_find->open();
+}
+
+void CodesPage::saveTranscript()
+{
+    QFileDialog *dialog =
+        new QFileDialog(this, dashboardText("STRIP_SAVE"), QDir::homePath(),
+                        dashboardText("STRIP_SAVE_FILTER") + QLatin1String(" (*.txt)"));
+    dialog->setObjectName(QLatin1String("Dashboard_SaveTranscript"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QLatin1String("txt"));
+    connect(dialog, &QFileDialog::fileSelected, this, &CodesPage::saveTo);
+    dialog->open();
+}
+
+/// Only the user can read the file, because codes may contain PINs.
+void CodesPage::saveTo(const QString &file)
+{
+    const QString error = writePrivateFile(file, general().transcript().toUtf8() + '\n');
+    if (error.isEmpty())
+        return;
+    QMessageBox *box = new QMessageBox(QMessageBox::Warning, dashboardText("STRIP_SAVE"),
+                                       dashboardText("STRIP_SAVE_FAILED").arg(file, error),
+                                       QMessageBox::NoButton, this);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setObjectName(QLatin1String("Dashboard_SaveFailed"));
+    box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole);
+    box->open();
 }
 
 } // namespace Dashboard

@@ -15,9 +15,11 @@ namespace Dashboard
 {
 
 class CodeHistory;
+class FindBar;
 class GeneralArea;
 class HistoryPopup;
 class LoadedPlugin;
+class ModeChoice;
 
 /** The objects that CodesPage uses. All of them must outlive the page. */
 struct CodesParts {
@@ -25,6 +27,7 @@ struct CodesParts {
     CommandMonitor *commands;
     CodeHistory *history;
     std::function<QList<CodeName>()> names; // the codes of the operator and of the user
+    ModeChoice *modes = nullptr;            // of the modem; null if the modem has no choice
 };
 
 /**
@@ -70,6 +73,10 @@ public slots:
     void answerNumber(int position);
     void openHistory();
     void copyReply();
+    /// Opens the bar that finds words in the transcript.
+    void find();
+    /// Saves the transcript as plain text in a file that the user selects.
+    void saveTranscript();
 
 signals:
     /// Emitted when the user has pressed one of the page's shortcuts, so that the page must be
@@ -89,10 +96,13 @@ private:
     QAction *addShortcut(const char *name, const QKeySequence &key,
                          const std::function<void()> &action);
     void followStrip();
+    void followModes();
     void onCommandChanged();
     void updateWindow();
     void updateRecent();
-    void watchCodeField();
+    void watchTranscript();
+    void updateReply();
+    void saveTo(const QString &file);
     void showDetails();
     void showCodesSheet();
     void showTopUpSheet();
@@ -102,6 +112,7 @@ private:
     const CodesParts m_parts;
     StateStrip *m_strip;
     GeneralArea *m_area;
+    FindBar *m_find;
     HistoryPopup *m_historyPopup;
     QFrame *m_card;
     QWidget *m_narrowButtons;

@@ -169,6 +169,9 @@ void SettingsPage::makeNotifications()
     addRow(card, "bell", "SETTINGS_NOTIFY", "SETTINGS_NOTIFY_TEXT", m_notifies);
     addRow(card, "messages", "SETTINGS_SHOW_TEXT", "SETTINGS_SHOW_TEXT_TEXT", m_showsText);
     m_lowBalanceRow = addRow(card, "topup", "SETTINGS_LOW_BALANCE", nullptr, low, true);
+    Switch *daily = makeSwitch("Dashboard_SettingsAskDaily", settings && settings->asksDaily(),
+                               &SettingsPage::setAsksDaily);
+    addRow(card, "refresh", "SETTINGS_ASK_DAILY", "SETTINGS_ASK_DAILY_TEXT", daily);
 }
 
 void SettingsPage::makePrivacy()
@@ -324,6 +327,13 @@ void SettingsPage::setLowBalanceAmount()
 {
     if (m_lowBalance->isChecked())
         setLowBalanceOn(true);
+}
+
+void SettingsPage::setAsksDaily(bool isOn)
+{
+    if (m_parts.settings)
+        m_parts.settings->setAsksDaily(isOn);
+    emit changed();
 }
 
 void SettingsPage::setHides(bool isOn)

@@ -91,6 +91,7 @@ private:
     void setNotifies(bool isOn);
     void setShowsText(bool isOn);
     void setLowBalanceOn(bool isOn);
+    void setAsksDaily(bool isOn);
     void setLowBalanceAmount();
     void setHides(bool isOn);
     void setKeeps(bool isOn);

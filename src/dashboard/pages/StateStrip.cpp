@@ -103,19 +103,29 @@ QPushButton *StateStrip::addEndButton(const char *kind, const char *name)
     return button;
 }
 
+QPushButton *StateStrip::addIconButton(const char *iconName, const char *name)
+{
+    QPushButton *button = makeIconButton(iconName, this);
+    button->setObjectName(QLatin1String(name));
+    return button;
+}
+
 void StateStrip::makeEndButtons()
 {
     m_history = addEndButton("ghost", "Dashboard_HistoryButton");
-    m_ownWindow = makeIconButton("window", this);
-    m_ownWindow->setObjectName(QLatin1String("Dashboard_OwnWindowButton"));
+    m_copy = addIconButton("copy", "Dashboard_CopyReplyButton");
+    m_ownWindow = addIconButton("window", "Dashboard_OwnWindowButton");
     m_cancel = addEndButton("", "Dashboard_CancelCommand");
     m_end = addEndButton("danger", "Dashboard_EndMenu");
     m_dismiss = addEndButton("ghost", "Dashboard_DismissFailure");
+    m_more = addIconButton("more", "Dashboard_StripMore");
     setButtonIcon(m_history, "clock", Token::AccentText);
     setButtonIcon(m_cancel, "close", Token::Text);
     setButtonIcon(m_end, "stop", Token::Danger);
     connect(m_history, &QPushButton::clicked, this, &StateStrip::historyRequested);
+    connect(m_copy, &QPushButton::clicked, this, &StateStrip::copyRequested);
     connect(m_ownWindow, &QPushButton::clicked, this, &StateStrip::ownWindowRequested);
+    connect(m_more, &QPushButton::clicked, this, &StateStrip::showMore);
     connect(m_cancel, &QPushButton::clicked, this, &StateStrip::cancelled);
     connect(m_end, &QPushButton::clicked, this, &StateStrip::menuEnded);
     connect(m_dismiss, &QPushButton::clicked, this, &StateStrip::dismissed);
@@ -134,7 +144,7 @@ void StateStrip::makeRows()
     setSpacing(top, 12);
     top->addWidget(m_sign);
     top->addLayout(words, 1);
-    for (QPushButton *button : {m_history, m_ownWindow, m_cancel, m_end, m_dismiss})
+    for (QPushButton *button : {m_history, m_copy, m_ownWindow, m_cancel, m_end, m_dismiss, m_more})
         top->addWidget(button);
     m_rowLayout->setContentsMargins(0, 0, 0, 0);
     setSpacing(m_rowLayout, SPACING);
@@ -191,6 +201,20 @@ void StateStrip::setOwnWindowOffered(bool isOffered)
     update();
 }
 
+void StateStrip::setReplyThere(bool isThere)
+{
+    m_copy->setEnabled(isThere);
+}
+
+void StateStrip::setModes(bool canAllowOlder, bool canRestore)
+{
+    if (canAllowOlder == m_canAllowOlder && canRestore == m_canRestoreModes)
+        return;
+    m_canAllowOlder = canAllowOlder;
+    m_canRestoreModes = canRestore;
+    update();
+}
+
 bool StateStrip::isBlocked() const
 {
     return !m_situation.canSend && !m_state.isPending();
@@ -210,6 +234,8 @@ void StateStrip::retranslate()
 {
     m_history->setText(dashboardText("STRIP_HISTORY"));
     setIconButtonText(m_ownWindow, dashboardText("STRIP_OWN_WINDOW"));
+    setIconButtonText(m_copy, dashboardText("STRIP_COPY"));
+    setIconButtonText(m_more, dashboardText("STRIP_MORE"));
     m_cancel->setText(dashboardText("STRIP_CANCEL"));
     m_dismiss->setText(dashboardText("STRIP_DISMISS"));
     m_rowWidth = -1;
@@ -277,11 +303,29 @@ void StateStrip::updateEndButtons()
     m_end->setVisible(!isBlockedNow && m_state.kind == Kind::MenuOpen);
     m_dismiss->setVisible(!isBlockedNow && isOver);
     const bool isNarrow = m_form == Form::Narrow;
+    m_copy->setVisible(!isBlockedNow && !isNarrow && !m_state.isPending());
+    m_more->setVisible(!isBlockedNow && (isRest || (!isNarrow && !m_state.isPending())));
     m_end->setText(dashboardText(isNarrow ? "STRIP_END" : "STRIP_END_MENU"));
     if (isNarrow)
         m_end->setIcon(QIcon());
     else
         setButtonIcon(m_end, "stop", Token::Danger);
+}
+
+/// Shows the menu of what can be done with the transcript.
+void StateStrip::showMore()
+{
+    QMenu *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QLatin1String("Dashboard_StripMenu"));
+    menu->addAction(dashboardText("STRIP_COPY"), this, &StateStrip::copyRequested)
+        ->setEnabled(m_copy->isEnabled());
+    menu->addAction(dashboardText("STRIP_FIND"), this, &StateStrip::findRequested);
+    menu->addAction(dashboardText("STRIP_SAVE"), this, &StateStrip::saveRequested);
+    menu->ensurePolished(); // the style sheet changes the size of the menu
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const int start = isMirrored ? 0 : m_more->width() - menu->sizeHint().width();
+    menu->popup(m_more->mapToGlobal(QPoint(start, m_more->height())));
 }
 
 void StateStrip::setSeconds(int seconds)
@@ -370,7 +414,7 @@ void StateStrip::fillRow()
 /// be at the end of the tab order of the window.
 void StateStrip::orderTabStops()
 {
-    QWidget *before = m_dismiss;
+    QWidget *before = m_more;
     for (int i = 0; i < m_rowLayout->count(); ++i) {
         QWidget *button = m_rowLayout->itemAt(i)->widget();
         setTabOrder(before, button);
@@ -451,8 +495,29 @@ void StateStrip::addMore(const QList<MenuChoice> &rest)
             [more, menu] { menu->popup(more->mapToGlobal(QPoint(0, more->height()))); });
 }
 
+/// Offers the older networks after a failure that happens on 4G only.
+void StateStrip::addAllowOlder()
+{
+    if (m_state.failure != TKSV_FAILURE_NOT_ON_4G || !m_canAllowOlder)
+        return;
+    QPushButton *allow = addButton("primary", dashboardText("STRIP_ALLOW_OLDER"));
+    allow->setObjectName(QLatin1String("Dashboard_AllowOlder"));
+    connect(allow, &QPushButton::clicked, this, &StateStrip::olderModesRequested);
+}
+
+/// Offers the modem's setting before the older networks were allowed.
+void StateStrip::addOnly4G()
+{
+    if (!m_canRestoreModes)
+        return;
+    QPushButton *only = addButton("", dashboardText("STRIP_ONLY_4G"));
+    only->setObjectName(QLatin1String("Dashboard_Only4G"));
+    connect(only, &QPushButton::clicked, this, &StateStrip::formerModesRequested);
+}
+
 void StateStrip::addRecent()
 {
+    addOnly4G();
     for (int i = 0; i < m_recent.size() && i < MOST_RECENT; ++i) {
         const CodeName code = m_recent.at(i);
         const QString name = QString(code.name).replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -472,16 +537,22 @@ void StateStrip::addRecent()
 /// sent again only from the dialog, which shows the complete text.
 void StateStrip::addFailureButtons()
 {
+    addAllowOlder();
     if (m_state.mayBeSentAgain && m_form != Form::Narrow) {
         QPushButton *again = addButton("", dashboardText("STRIP_SEND_AGAIN"));
         again->setObjectName(QLatin1String("Dashboard_SendAgain"));
         setButtonIcon(again, "refresh", Token::Text);
         connect(again, &QPushButton::clicked, this, &StateStrip::sentAgain);
     }
+    addOnly4G();
     QPushButton *details = addButton("ghost", dashboardText("STRIP_WHAT_HAPPENED"));
     details->setObjectName(QLatin1String("Dashboard_WhatHappened"));
     setButtonIcon(details, "info", Token::AccentText);
     connect(details, &QPushButton::clicked, this, &StateStrip::detailsRequested);
+    if (roomLeft() < -m_rowLayout->spacing()) {
+        setIconButtonText(details, details->text());
+        details->setText(QString());
+    }
 }
 
 void StateStrip::addRemedies()

@@ -47,6 +47,11 @@ public:
     /// Sets whether there is a button that opens the general window in a separate frame.
     void setOwnWindowOffered(bool isOffered);
     void setSeconds(int seconds);
+    /// Sets whether there is a reply that can be copied.
+    void setReplyThere(bool isThere);
+    /// Sets whether the strip offers to allow 2G and 3G after a failure on 4G, and whether it
+    /// offers to restore the modem's former setting.
+    void setModes(bool canAllowOlder, bool canRestore);
     void retranslate();
 
     /// Returns true if the strip shows the situation of the device.
@@ -62,6 +67,11 @@ signals:
     void detailsRequested();
     void historyRequested();
     void ownWindowRequested();
+    void copyRequested();
+    void olderModesRequested();
+    void formerModesRequested();
+    void findRequested();
+    void saveRequested();
     void answered(const QString &key);
     void codeChosen(const QString &code);
     void remedyChosen(Dashboard::Remedy remedy);
@@ -75,6 +85,8 @@ private:
     void makeRows();
     void makeEndButtons();
     QPushButton *addEndButton(const char *kind, const char *name);
+    QPushButton *addIconButton(const char *iconName, const char *name);
+    void showMore();
     void showWords(const QString &title, const QString &text);
     void update();
     void updateEndButtons();
@@ -93,6 +105,8 @@ private:
     void addMore(const QList<MenuChoice> &rest);
     void addRecent();
     void addFailureButtons();
+    void addAllowOlder();
+    void addOnly4G();
     void addRemedies();
     int roomLeft() const;
 
@@ -101,6 +115,8 @@ private:
     QList<CodeName> m_recent;
     Form m_form = Form::Wide;
     bool m_isOwnWindowOffered = true;
+    bool m_canAllowOlder = false;
+    bool m_canRestoreModes = false;
     QString m_announced;
     QStackedWidget *m_sign; // shows the icon or the ring
     IconDisc *m_icon;
@@ -108,10 +124,12 @@ private:
     ElidedLabel *m_title;
     ElidedLabel *m_text;
     QPushButton *m_history;
+    QPushButton *m_copy;
     QPushButton *m_ownWindow;
     QPushButton *m_cancel;
     QPushButton *m_end;
     QPushButton *m_dismiss;
+    QPushButton *m_more;
     QWidget *m_row;
     QHBoxLayout *m_rowLayout;
     int m_rowWidth = -1; // the width of the row when its content was created

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include "base/PrivateFile.h"
 #include "CodeForms.h"
 #include "InputFile.h"
 #include "ProvisionWriter.h"
@@ -18,7 +18,6 @@ namespace
 
 const int MOST_CODES = 50;
 const qint64 LARGEST_FILE = 65536; // bytes
-const QFile::Permissions OWNER_ONLY = QFile::ReadOwner | QFile::WriteOwner;
 
 /// Returns true if the string is a code, regardless of its hidden digits.
 bool isKeepable(const QString &code)
@@ -97,13 +96,12 @@ void CodeHistory::write()
     if (!m_isKept || m_file.isEmpty())
         return;
     QDir().mkpath(QFileInfo(m_file).path());
-    QSaveFile file(m_file);
     QByteArray content;
     for (const SentCode &sent : m_codes)
         content += sent.time.toString(Qt::ISODate).toUtf8() + '\t' + sent.code.toUtf8() + '\n';
-    const bool isOpen = file.open(QIODevice::WriteOnly) && file.setPermissions(OWNER_ONLY);
-    if (!isOpen || file.write(content) != content.size() || !file.commit())
-        emit notWritten(file.errorString());
+    const QString error = writePrivateFile(m_file, content);
+    if (!error.isEmpty())
+        emit notWritten(error);
 }
 
 } // namespace Dashboard

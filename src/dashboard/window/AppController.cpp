@@ -38,8 +38,8 @@ bool endsSession(int paidType)
 } // namespace
 
 AppController::AppController(LoadedPlugin *plugin, DashboardSettings *settings, QObject *parent)
-    : QObject(parent), m_plugin(plugin), m_settings(settings), m_sim(plugin, &m_device, this),
-      m_operatorCodes(&m_device, settings),
+    : QObject(parent), m_plugin(plugin), m_settings(settings), m_modes(&m_device, settings),
+      m_sim(plugin, &m_device, this), m_operatorCodes(&m_device, settings),
       m_monitor([this] { return pageWindow(); }, &m_device, m_sim.replies()),
       m_awaitedFrame(PAID_TYPE_NONE)
 {
@@ -48,6 +48,8 @@ AppController::AppController(LoadedPlugin *plugin, DashboardSettings *settings, 
     m_frameDelay.setSingleShot(true);
     connect(&m_frameDelay, &QTimer::timeout, this, &AppController::openAwaitedFrame);
     connect(&m_networkTexts, &NetworkTextWatcher::textReceived, this, &AppController::onText);
+    connect(&m_modes, &ModeChoice::failed, this,
+            [this] { emit problem(dashboardText("MODES_NOT_CHANGED")); });
     followSim();
     followOperator();
 }

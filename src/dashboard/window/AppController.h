@@ -9,6 +9,7 @@
 
 #include "device/DeviceChoice.h"
 #include "device/DeviceWatcher.h"
+#include "device/ModeChoice.h"
 #include "device/NetworkTextWatcher.h"
 #include "plugin/CommandMonitor.h"
 #include "plugin/GeneralWindow.h"
@@ -44,6 +45,7 @@ public:
     const OperatorCodes &operatorCodes() const { return m_operatorCodes; }
     const SimFollower &sim() const { return m_sim; }
     CommandMonitor &monitor() { return m_monitor; }
+    ModeChoice &modes() { return m_modes; }
 
     /// Sets the function that returns the embedded general window, which may be incomplete.
     void setPageWindow(const std::function<GeneralWindow()> &window) { m_pageWindow = window; }
@@ -116,6 +118,7 @@ private:
     LoadedPlugin *const m_plugin;
     DashboardSettings *const m_settings;
     DeviceWatcher m_device;
+    ModeChoice m_modes;
     SimFollower m_sim;
     NetworkTextWatcher m_networkTexts;
     OperatorCodes m_operatorCodes;

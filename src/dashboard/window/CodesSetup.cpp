@@ -32,8 +32,8 @@ QList<NamedCode> codesInUse()
 
 CodesSetup::CodesSetup(AppController *controller, AppActions *actions, QObject *parent)
     : QObject(parent), m_controller(controller), m_history(historyFile(controller)),
-      m_page(new CodesPage(
-          {controller->plugin(), &controller->monitor(), &m_history, [this] { return names(); }}))
+      m_page(new CodesPage({controller->plugin(), &controller->monitor(), &m_history,
+                            [this] { return names(); }, &controller->modes()}))
 {
     connect(controller, &AppController::pluginStarted, this, &CodesSetup::onPluginStarted);
     connect(controller, &AppController::windowsOffered, this, &CodesSetup::offerWindow);

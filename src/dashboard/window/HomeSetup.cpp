@@ -61,6 +61,7 @@ HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QObject *pa
     : QObject(parent), m_controller(controller),
       m_store(fileIfStored(controller, AccountStore::userFile())), m_recorder(&m_store),
       m_favourites(fileIfStored(controller, Favourites::userFile())),
+      m_daily(&controller->monitor(), &controller->device(), controller->settings()),
       m_page(makePage(partsOf(controller, actions), &m_store, &m_recorder, &m_favourites))
 {
     connect(&controller->monitor(), &CommandMonitor::replied, &m_recorder,
@@ -71,6 +72,7 @@ HomeSetup::HomeSetup(AppController *controller, AppActions *actions, QObject *pa
     connect(controller, &AppController::frameClosed, this, &HomeSetup::readCodes);
     connect(controller, &AppController::languageChanged, this, &HomeSetup::readCodes);
     connect(&m_store, &AccountStore::problem, controller, &AppController::problem);
+    m_daily.setRule([this] { return mayAskDaily(); });
     followSim();
 }
 
@@ -97,6 +99,7 @@ void HomeSetup::followSim()
     else
         m_store.setSim(status.imsi, AccountStore::Keeping::InMemory);
     inventAccount(&m_store, m_recorder.codes());
+    QMetaObject::invokeMethod(&m_daily, "look", Qt::QueuedConnection);
 }
 
 void HomeSetup::readCodes()
@@ -104,9 +107,32 @@ void HomeSetup::readCodes()
     const AccountCodes codes =
         readAccountCodes(CodeFiles::inUse(), paidTypeOf(m_controller->windows()));
     m_recorder.setCodes(codes);
+    m_daily.setCode(codes.balance);
     m_recorder.setPatterns(ReplyPatterns::inUse());
     m_page->setCodes(codes);
     followSim();
+}
+
+/// Returns true if the balance code is one of the SIM's operator, and the user is not typing.
+bool HomeSetup::mayAskDaily() const
+{
+    const QLineEdit *field = m_controller->pageWindow().commandEdit();
+    const bool isOfOperator = m_controller->device().status().isSimulated ||
+                              m_controller->operatorCodes().areOfOperator();
+    return isOfOperator && field && field->text().isEmpty();
+}
+
+void HomeSetup::renewSimKey()
+{
+    followSim();
+    m_daily.forget();
+}
+
+void HomeSetup::deleteAll()
+{
+    m_store.removeAll();
+    m_favourites.removeAll();
+    readCodes();
 }
 
 void HomeSetup::exportAccount()

@@ -5,6 +5,7 @@
 
 #include "account/AccountRecorder.h"
 #include "account/AccountStore.h"
+#include "account/DailyAsking.h"
 #include "account/Favourites.h"
 #include "device/Situation.h"
 
@@ -37,16 +38,22 @@ public slots:
     void followSim();
     /// Reads the codes of the plug-in's files again.
     void readCodes();
-    /// Exports the entries to a file that the user selects.
+    /// Deletes the entries and the favourites.
+    void deleteAll();
+    /// Must be called when the SIM has got another key.
+    void renewSimKey();
+    /// Saves the entries to a file that the user selects.
     void exportAccount();
 
 private:
+    bool mayAskDaily() const;
     void saveTo(const QString &file);
 
     AppController *const m_controller;
     AccountStore m_store;
     AccountRecorder m_recorder;
     Favourites m_favourites;
+    DailyAsking m_daily;
     HomePage *m_page;
 };
 

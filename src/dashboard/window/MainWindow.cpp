@@ -136,7 +136,6 @@ void MainWindow::followMessages()
     MessageStore *store = &m_messages->store();
     connect(store, &MessageStore::unreadCountChanged, m_navigation, &Navigation::setUnread);
     connect(store, &MessageStore::unreadCountChanged, m_header, &Header::setUnread);
-    connect(m_settingsPage, &SettingsPage::deleteAllRequested, store, &MessageStore::removeAll);
     connect(m_settingsPage, &SettingsPage::keepingChanged, &m_messages->center(),
             &MessageCenter::look);
     connect(&m_messages->notifier(), &DesktopNotifier::activated, this,

@@ -112,6 +112,7 @@ private:
     void makeCentre();
     void makeMenu();
     void makeShortcuts();
+    void find();
     void makeRegions();
     void addShortcut(const QKeySequence &key, const std::function<void()> &action);
     void followController();
@@ -137,6 +138,7 @@ private:
     void showDeviceLine(const Situation &situation);
     void showBanners();
     void showFirstRun();
+    void deleteAll();
     void showAbout();
     void showModemMenu();
     void openTopUpWindow();

@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+#include "account/SimKey.h"
 #include "AltKey.h"
 #include "AppMenu.h"
 #include "base/DashboardText.h"
@@ -19,6 +20,7 @@
 #include "IUSSD.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
+#include "MessageParts.h"
 #include "Navigation.h"
 #include "OperatorChooser.h"
 #include "pages/CodesPage.h"
@@ -101,13 +103,19 @@ void MainWindow::makeShortcuts()
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_I), [this] { m_header->toggleNumber(); });
     addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_T), [this] { topUp(); });
     addShortcut(QKeySequence(Qt::Key_F5), [this] { m_home->page()->askAgain(); });
-    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] {
-        showPage(PageId::Messages);
-        m_messagesPage->focusSearch();
-    });
+    addShortcut(QKeySequence(int(Qt::CTRL) + Qt::Key_F), [this] { find(); });
     addShortcut(QKeySequence(Qt::Key_F10), [this] { showMenu(); });
     addShortcut(QKeySequence(Qt::Key_F6), [this] { m_regions.move(1); });
     addShortcut(QKeySequence(int(Qt::SHIFT) + Qt::Key_F6), [this] { m_regions.move(-1); });
+}
+
+/// Finds words in what the page shows: in the transcript, or in the messages.
+void MainWindow::find()
+{
+    if (currentPage() == PageId::Codes)
+        return m_codes->page()->find();
+    showPage(PageId::Messages);
+    m_messagesPage->focusSearch();
 }
 
 void MainWindow::makeRegions()
@@ -144,6 +152,20 @@ void MainWindow::showModemMenu()
     if (!line->isVisible())
         line = m_header->menuButton();
     deviceMenu()->popup(line->mapToGlobal(QPoint()));
+}
+
+/// Deletes what the program has kept about the user. The SIM gets a new key at last, because only
+/// deleted entries have the old one.
+void MainWindow::deleteAll()
+{
+    m_codes->deleteAll();
+    m_home->deleteAll();
+    m_messages->store().removeAll();
+    if (!m_settings)
+        return; // nothing is stored
+    forgetSimKeys();
+    m_home->renewSimKey();
+    m_messages->center().renewSimKey();
 }
 
 void MainWindow::showAbout()

@@ -118,9 +118,7 @@ void MainWindow::followSettings()
     connect(m_settingsPage, &SettingsPage::changed, m_home, &HomeSetup::followSim);
     connect(m_settingsPage, &SettingsPage::keepingChanged, m_home, &HomeSetup::followSim);
     connect(m_settingsPage, &SettingsPage::keepingChanged, m_codes, &CodesSetup::followSettings);
-    connect(m_settingsPage, &SettingsPage::deleteAllRequested, m_codes, &CodesSetup::deleteAll);
-    connect(m_settingsPage, &SettingsPage::deleteAllRequested, &m_home->store(),
-            &AccountStore::removeAll);
+    connect(m_settingsPage, &SettingsPage::deleteAllRequested, this, &MainWindow::deleteAll);
     connect(m_chooser, &OperatorChooser::changed, m_settingsPage, &SettingsPage::retranslate);
 }
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "AppController.h"
-#include "ProvisionWriter.h"
+#include "messages/MessageDatabase.h"
 
 namespace Dashboard
 {
@@ -11,15 +11,15 @@ namespace Dashboard
 namespace
 {
 
-QString messageFile()
+QString messageFile(const AppController *controller)
 {
-    return Provisioning::userDataHome() + QLatin1String("/messages.sqlite");
+    return controller->settings() ? MessageDatabase::userFile() : QString();
 }
 
 } // namespace
 
 MessageParts::MessageParts(AppController *controller, QWidget *window)
-    : QObject(window), m_store(messageFile()), m_notifier(QDBusConnection::sessionBus()),
+    : QObject(window), m_store(messageFile(controller)), m_notifier(QDBusConnection::sessionBus()),
       m_center(&m_store, &controller->device(), controller->settings(), &m_notifier),
       m_question(&controller->monitor(), window)
 {

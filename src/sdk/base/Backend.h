@@ -84,6 +84,8 @@ struct DeviceInfo {
     bool isLooking = false;
     bool hasForeignSession = false;
     bool waitsForTurn = false;
+    bool isRoaming = false;
+    TKSV_ModesInfo modes = {};
 };
 
 inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
@@ -91,7 +93,9 @@ inline bool operator==(const DeviceInfo &a, const DeviceInfo &b)
     const auto fields = [](const DeviceInfo &i) {
         return std::tie(i.backend, i.state, i.problem, i.signalPercent, i.canSendSms, i.pinRetries,
                         i.operatorName, i.imsi, i.simOperatorCode, i.simOperatorName, i.equipmentId,
-                        i.source, i.isLooking, i.hasForeignSession, i.waitsForTurn);
+                        i.source, i.isLooking, i.hasForeignSession, i.waitsForTurn, i.isRoaming,
+                        i.modes.current.allowed, i.modes.current.preferred,
+                        i.modes.withOlder.allowed, i.modes.withOlder.preferred, i.modes.hasFailed);
     };
     return fields(a) == fields(b);
 }
@@ -157,8 +161,13 @@ public:
     /// Enables the device. Returns false if the device is not disabled. Otherwise, infoChanged()
     /// reports the result.
     virtual bool enable() = 0;
+    /// Changes the generations of networks that the modem may use. Returns false if there is no
+    /// modem; otherwise infoChanged() reports the outcome.
+    virtual bool setModes(const TKSV_Modes &modes) = 0;
     virtual DeviceInfo info() const = 0;
 };
+
+const unsigned int OLDER_MODES = TKSV_MODE_2G | TKSV_MODE_3G;
 
 /// Returns the reason why a device in this state cannot send commands.
 TKSV_Failure refusalOf(TKSV_DeviceState state);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ModemWatch.h"
+#include "RadioModes.h"
 #include "UssdErrors.h"
 
 namespace Tksv
@@ -123,6 +124,20 @@ void ModemDevice::enable()
                     asyncDone(ifAlive(weak_from_this(), done)));
 }
 
+void ModemDevice::setModes(const TKSV_Modes &modes)
+{
+    m_hasModeChangeFailed = false;
+    const auto done = [this](GObject *modem, GAsyncResult *result) {
+        ErrorSlot error;
+        mm_modem_set_current_modes_finish(MM_MODEM(modem), result, error.slot());
+        m_hasModeChangeFailed = bool(error);
+        m_listener.changed();
+    };
+    mm_modem_set_current_modes(m_modem.get(), toModemMode(modes.allowed),
+                               toModemMode(modes.preferred), nullptr, runAsyncDone,
+                               asyncDone(ifAlive(weak_from_this(), done)));
+}
+
 /// Fetches the SIM after a short delay if the SIM has changed. Reading the SIM takes several calls,
 /// which would delay a program that only sends one command.
 void ModemDevice::fetchSimSoon()
@@ -223,12 +238,29 @@ DeviceInfo ModemDevice::info() const
     info.hasForeignSession = m_ussd->hasForeignSession();
     info.waitsForTurn = m_ussd->waitsForTurn();
     info.canSendSms = info.state == TKSV_DEVICE_REGISTERED && m_sms->isUsable();
+    info.isRoaming = isRoaming();
+    if (m_modem)
+        info.modes = modesOf(m_modem.get());
+    info.modes.hasFailed = m_hasModeChangeFailed ? 1 : 0;
     if (m_sim) {
         info.imsi = textOf(mm_sim_get_imsi(m_sim.get()));
         info.simOperatorCode = textOf(mm_sim_get_operator_identifier(m_sim.get()));
         info.simOperatorName = textOf(mm_sim_get_operator_name(m_sim.get()));
     }
     return info;
+}
+
+bool ModemDevice::isRoaming() const
+{
+    switch (m_3gpp ? mm_modem_3gpp_get_registration_state(m_3gpp.get())
+                   : MM_MODEM_3GPP_REGISTRATION_STATE_UNKNOWN) {
+    case MM_MODEM_3GPP_REGISTRATION_STATE_ROAMING:
+    case MM_MODEM_3GPP_REGISTRATION_STATE_ROAMING_SMS_ONLY:
+    case MM_MODEM_3GPP_REGISTRATION_STATE_ROAMING_CSFB_NOT_PREFERRED:
+        return true;
+    default:
+        return false;
+    }
 }
 
 /// Returns true if the modem uses 4G or 5G and is not connected to 2G or 3G.

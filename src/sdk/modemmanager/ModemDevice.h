@@ -44,6 +44,8 @@ public:
     void sendPin(const std::string &pin);
     /// Enables the modem. If this fails, info() contains the problem.
     void enable();
+    /// Changes the generations of networks that the modem may use.
+    void setModes(const TKSV_Modes &modes);
     /// Reports the request in flight and all messages that are being sent as failed. `reason`
     /// applies to the request.
     void failPending(TKSV_Failure reason);
@@ -61,6 +63,7 @@ private:
     TKSV_DeviceProblem problem() const;
     bool isLocked() const;
     bool isRegistrationDenied() const;
+    bool isRoaming() const;
     bool isOnlyOn4G() const;
     UssdChannel::Listener ussdListener();
     SmsSender::Listener smsListener();
@@ -80,6 +83,7 @@ private:
     SignalConnections m_simSignals;
     bool m_enableWanted = false; // true if the modem must be enabled as soon as possible
     MMModemState m_lastState = MM_MODEM_STATE_UNKNOWN; // most recent state that was at least LOCKED
+    bool m_hasModeChangeFailed = false; // the most recent call of setModes() has failed
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;  // problem of the most recent call
 };
 

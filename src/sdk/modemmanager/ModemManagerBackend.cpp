@@ -159,6 +159,18 @@ bool ModemManagerBackend::enable()
     return true;
 }
 
+bool ModemManagerBackend::setModes(const TKSV_Modes &modes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_info.state == TKSV_DEVICE_ABSENT)
+        return false;
+    post([this, modes, lostModemCount = m_lostModemCount] {
+        if (m_device && lostModemCount == m_lostModemCount)
+            m_device->setModes(modes);
+    });
+    return true;
+}
+
 DeviceInfo ModemManagerBackend::info() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -34,6 +34,7 @@ public:
     bool sendSms(const SmsMessage &message) override;
     bool sendPin(const std::string &pin) override;
     bool enable() override;
+    bool setModes(const TKSV_Modes &modes) override;
     DeviceInfo info() const override;
 
     /// Updates the backend after a change. Must be called from the watch's thread after every

@@ -94,6 +94,8 @@ struct Scenario {
     TKSV_DeviceState state = TKSV_DEVICE_REGISTERED;
     Milliseconds delay = Milliseconds(0);
     bool smsReady = true;
+    bool isRoaming = false;
+    unsigned int modes = TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G; // allowed at first
     std::optional<Amount> balance;
     std::string currency;
 

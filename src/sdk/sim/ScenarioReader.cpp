@@ -34,6 +34,11 @@ const Word<TKSV_DeviceState> DEVICE_STATE_WORDS[] = {
 
 const Word<bool> SMS_READINESS_WORDS[] = {{"ready", true}, {"not-ready", false}};
 
+const Word<bool> ROAMING_WORDS[] = {{"yes", true}, {"no", false}};
+
+const Word<unsigned int> MODE_WORDS[] = {{"all", TKSV_MODE_2G | TKSV_MODE_3G | TKSV_MODE_4G},
+                                         {"4G", TKSV_MODE_4G}};
+
 const Word<Outcome> OUTCOME_WORDS[] = {{"reply", Outcome::Reply},
                                        {"refuse", Outcome::Refuse},
                                        {"unsupported", Outcome::Unsupported},
@@ -52,6 +57,8 @@ const Key<Scenario> NETWORK_KEYS[] = {
     {"State", [](const ScenarioValue &v, Scenario &s) { s.state = v.word(DEVICE_STATE_WORDS); }},
     {"Delay", [](const ScenarioValue &v, Scenario &s) { s.delay = v.milliseconds(); }},
     {"SMS", [](const ScenarioValue &v, Scenario &s) { s.smsReady = v.word(SMS_READINESS_WORDS); }},
+    {"Roaming", [](const ScenarioValue &v, Scenario &s) { s.isRoaming = v.word(ROAMING_WORDS); }},
+    {"Modes", [](const ScenarioValue &v, Scenario &s) { s.modes = v.word(MODE_WORDS); }},
     {"Balance", [](const ScenarioValue &v, Scenario &s) { s.balance = v.amount(); }},
     {"Currency",
      [](const ScenarioValue &v, Scenario &s) { s.currency = v.name(MAX_CURRENCY_BYTES); }},

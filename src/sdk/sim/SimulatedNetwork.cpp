@@ -55,7 +55,8 @@ Amount creditOf(const Rule &rule, const std::string &digits)
 SimulatedNetwork::SimulatedNetwork(Scenario scenario)
     : m_scenario(std::move(scenario)), m_state(m_scenario.state),
       m_signalPercent(m_scenario.signalPercent), m_smsReady(m_scenario.smsReady),
-      m_pinRetries(PIN_RETRIES), m_balance(m_scenario.balance.value_or(0))
+      m_pinRetries(PIN_RETRIES), m_modes(m_scenario.modes),
+      m_balance(m_scenario.balance.value_or(0))
 {
 }
 
@@ -145,6 +146,18 @@ bool SimulatedNetwork::enable()
     return true;
 }
 
+bool SimulatedNetwork::setModes(const TKSV_Modes &modes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_stopped || m_state < TKSV_DEVICE_DISABLED)
+        return false;
+    schedule(m_scenario.delay, [this, allowed = modes.allowed](Notices &notices) {
+        m_modes = allowed;
+        notices.push_back([](BackendObserver &o) { o.infoChanged(); });
+    });
+    return true;
+}
+
 DeviceInfo SimulatedNetwork::info() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -152,6 +165,7 @@ DeviceInfo SimulatedNetwork::info() const
     info.state = m_state;
     info.canSendSms = canSendSms();
     info.source = m_scenario.source;
+    info.isRoaming = isRegistered() && m_scenario.isRoaming;
     if (isRegistered())
         info.operatorName = m_scenario.operatorName;
     if (m_state >= TKSV_DEVICE_DISABLED) { // the SIM has been unlocked
@@ -165,6 +179,9 @@ DeviceInfo SimulatedNetwork::info() const
     }
     if (m_state >= TKSV_DEVICE_SEARCHING)
         info.signalPercent = m_signalPercent;
+    info.modes.current.allowed = m_modes;
+    if (isOnlyOn4G())
+        info.modes.withOlder.allowed = m_modes | OLDER_MODES;
     return info;
 }
 
@@ -213,6 +230,13 @@ void SimulatedNetwork::perform(const Request &request, Notices &notices)
     if (m_inFlight != request.token)
         return; // the request was replaced or released
     const Rule rule = ruleFor(request.match);
+    if (isOnlyOn4G()) {
+        m_inFlight = 0;
+        notices.push_back([token = request.token](BackendObserver &o) {
+            o.ussdReply(token, emptyReply(TKSV_FAILURE_NOT_ON_4G));
+        });
+        return;
+    }
     if (rule.outcome == Outcome::DeviceEvent) {
         loseDevice(rule.deviceEvent, rule.away, notices);
         return;

@@ -29,6 +29,7 @@ public:
     bool sendSms(const SmsMessage &message) override;
     bool sendPin(const std::string &pin) override;
     bool enable() override;
+    bool setModes(const TKSV_Modes &modes) override;
     DeviceInfo info() const override;
 
 private:
@@ -66,6 +67,7 @@ private:
     void endSmsInFlight(Notices &notices);
     void notifySmsStatus(bool before, Notices &notices);
     bool isRegistered() const { return m_state == TKSV_DEVICE_REGISTERED; }
+    bool isOnlyOn4G() const { return (m_modes & OLDER_MODES) == 0; }
     bool canSendSms() const { return isRegistered() && m_smsReady; }
 
     const Scenario m_scenario;
@@ -78,6 +80,7 @@ private:
     bool m_smsReady;
     TKSV_DeviceProblem m_problem = TKSV_PROBLEM_NONE;
     int m_pinRetries;
+    unsigned int m_modes; // a combination of TKSV_Mode values
     Amount m_balance;
     RequestToken m_inFlight = 0;
     OpenMenu m_menu;
