@@ -417,6 +417,10 @@
         <translation>Ar&amp;quivo</translation>
     </message>
     <message>
+        <source>MENU_NUMBER</source>
+        <translation>Mostrar o &amp;número do SIM</translation>
+    </message>
+    <message>
         <source>MENU_LANGUAGE</source>
         <translation>&amp;Idioma</translation>
     </message>
@@ -1048,6 +1052,10 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     <message>
         <source>STRIP_FIND_NONE</source>
         <translation>Não encontrado</translation>
+    </message>
+    <message>
+        <source>STRIP_FIND_COUNT</source>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>STRIP_MORE</source>
@@ -2368,6 +2376,18 @@ Devem ser deixados de lado para os códigos de %2? São mantidos.</translation>
     <message>
         <source>ACCOUNT_NOT_EXPORTED</source>
         <translation>Não é possível escrever %1: %2</translation>
+    </message>
+    <message>
+        <source>MODES_NOT_CHANGED</source>
+        <translation>O modem não aceitou as outras redes.</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY</source>
+        <translation>Consultar o saldo uma vez por dia</translation>
+    </message>
+    <message>
+        <source>SETTINGS_ASK_DAILY_TEXT</source>
+        <translation>Envia o código de saldo sozinho, mas não em roaming. Sua operadora pode cobrar por isso.</translation>
     </message>
 </context>
 </TS>
