@@ -12,6 +12,7 @@
 #include "base/ClockText.h"
 #include "base/DashboardText.h"
 #include "base/Isolate.h"
+#include "look/Icons.h"
 #include "look/Look.h"
 #include "plugin/CodeHistory.h"
 
@@ -21,8 +22,9 @@ namespace Dashboard
 namespace
 {
 
-const int CODE_ROLE = Qt::UserRole + 1; // empty in the row that deletes the history
-const int COLUMNS = 3;                  // code, name, time
+const int CODE_ROLE = Qt::UserRole + 1;  // empty in the row that deletes the history
+const int CHAIN_ROLE = Qt::UserRole + 2; // the name of a chain; otherwise empty
+const int COLUMNS = 3;                   // code, name, time
 const int MOST_ROWS = 8;
 
 QString timeText(const QDateTime &utc)
@@ -58,8 +60,9 @@ bool isMove(int key)
 
 } // namespace
 
-HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, QObject *parent)
-    : QObject(parent), m_history(history), m_names(names),
+HistoryPopup::HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
+                           QObject *parent)
+    : QObject(parent), m_history(history), m_names(names), m_chains(chains),
       m_model(new QStandardItemModel(0, COLUMNS, this)), m_view(new QTreeView),
       m_completer(new QCompleter(m_model, this))
 {
@@ -154,10 +157,24 @@ void HistoryPopup::fill(const QString &start)
         if (!listed.contains(named.code) && startsWith(named.code, named.name, start))
             addRow(named.code, named.name, QString());
     }
+    addChains(start);
     addFooter();
 }
 
-void HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
+void HistoryPopup::addChains(const QString &start)
+{
+    for (const CodeName &chain : m_chains ? m_chains() : QList<CodeName>()) {
+        if (!startsWith(chain.code, chain.name, start))
+            continue;
+        QStandardItem *item = addRow(chain.code, chain.name, QString());
+        item->setIcon(icon("star", Token::Text2));
+        for (int column = 0; column < COLUMNS; ++column)
+            m_model->item(item->row(), column)->setData(chain.name, CHAIN_ROLE);
+    }
+}
+
+/// Returns the first item of the row.
+QStandardItem *HistoryPopup::addRow(const QString &code, const QString &name, const QString &time)
 {
     QList<QStandardItem *> row;
     for (const QString &text : {isolated(code), name, time}) {
@@ -167,7 +184,9 @@ void HistoryPopup::addRow(const QString &code, const QString &name, const QStrin
     QFont font = row.first()->font();
     font.setBold(true);
     row.first()->setFont(font);
+    row.first()->setIcon(icon(time.isEmpty() ? "codes" : "clock", Token::Text2));
     m_model->appendRow(row);
+    return row.first();
 }
 
 void HistoryPopup::addFooter()
@@ -187,7 +206,10 @@ void HistoryPopup::choose(const QModelIndex &index)
 {
     m_isKeyPressed = false;
     const QString code = index.data(CODE_ROLE).toString();
-    if (code.isEmpty())
+    const QString chain = index.data(CHAIN_ROLE).toString();
+    if (!chain.isEmpty())
+        emit chainChosen(chain);
+    else if (code.isEmpty())
         m_history->deleteAll();
     else
         emit chosen(code);

@@ -10,6 +10,7 @@
 #include "StateStrip.h"
 
 class QCompleter;
+class QStandardItem;
 class QStandardItemModel;
 class QTreeView;
 
@@ -29,8 +30,10 @@ class HistoryPopup : public QObject
 public:
     using Names = std::function<QList<CodeName>()>;
 
-    /// Both arguments must outlive this object.
-    HistoryPopup(CodeHistory *history, const Names &names, QObject *parent = nullptr);
+    /// The code of a chain is the string that shows what it sends. The arguments must stay valid as
+    /// long as this object exists.
+    HistoryPopup(CodeHistory *history, const Names &names, const Names &chains,
+                 QObject *parent = nullptr);
 
     /// Attaches the list to the code field, which may be null.
     void attach(QLineEdit *edit);
@@ -46,6 +49,8 @@ public:
 
 signals:
     void chosen(const QString &code);
+    /// Emitted with the name of the chain.
+    void chainChosen(const QString &name);
 
 private:
     void onTextEdited(const QString &text);
@@ -53,12 +58,14 @@ private:
     bool onPopupKey(QKeyEvent *event);
     void choose(const QModelIndex &index);
     void fill(const QString &start);
-    void addRow(const QString &code, const QString &name, const QString &time);
+    QStandardItem *addRow(const QString &code, const QString &name, const QString &time);
+    void addChains(const QString &start);
     void addFooter();
     void popUp();
 
     CodeHistory *const m_history;
     const Names m_names;
+    const Names m_chains;
     QPointer<QLineEdit> m_edit;
     QStandardItemModel *m_model;
     QTreeView *m_view;
