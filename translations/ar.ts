@@ -998,7 +998,7 @@
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>المفتاح %2 يعني الآن «%3» ولم يعد يعني «%1». لم يُرسل شيء آخر.</translation>
+        <translation>المفتاح %2 هو الآن «%3» وليس «%1». لم يُرسل شيء آخر.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -999,7 +999,7 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>Taste %2 steht jetzt für „%3“, nicht mehr für „%1“. Es wurde nichts weiter gesendet.</translation>
+        <translation>Taste %2 ist jetzt „%3“, nicht „%1“. Es wurde nichts weiter gesendet.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -998,7 +998,7 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>Key %2 now stands for “%3”, no longer for “%1”. Nothing more was sent.</translation>
+        <translation>Key %2 is now “%3”, not “%1”. Nothing more was sent.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -998,7 +998,7 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>La tecla %2 ahora corresponde a «%3» y ya no a «%1». No se envió nada más.</translation>
+        <translation>La tecla %2 es ahora «%3», no «%1». No se envió nada más.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

@@ -999,7 +999,7 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>La touche %2 correspond maintenant à « %3 » et non plus à « %1 ». Rien d’autre n’a été envoyé.</translation>
+        <translation>La touche %2 est maintenant « %3 », pas « %1 ». Rien d’autre n’a été envoyé.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

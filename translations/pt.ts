@@ -999,7 +999,7 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>A tecla %2 corresponde agora a “%3” e já não a “%1”. Nada mais foi enviado.</translation>
+        <translation>A tecla %2 é agora “%3”, não “%1”. Nada mais foi enviado.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

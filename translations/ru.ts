@@ -997,7 +997,7 @@
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>Клавиша %2 теперь означает «%3», а не «%1». Больше ничего не отправлено.</translation>
+        <translation>Клавиша %2 теперь «%3», а не «%1». Больше ничего не отправлено.</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

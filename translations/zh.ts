@@ -995,7 +995,7 @@
     </message>
     <message>
         <source>CHAIN_REPLACED</source>
-        <translation>按键 %2 现在对应“%3”，不再对应“%1”。未再发送任何内容。</translation>
+        <translation>按键 %2 现在是“%3”，不是“%1”。未再发送任何内容。</translation>
     </message>
     <message>
         <source>SHEET_CLOSE</source>

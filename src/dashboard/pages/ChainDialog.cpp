@@ -56,7 +56,7 @@ ChainDialog::ChainDialog(const QString &walk, const std::function<bool(const QSt
     ends->addWidget(cancel);
     ends->addWidget(m_keep);
     column->addLayout(ends);
-    setMinimumWidth(Look::instance().px(LEAST_WIDTH));
+    setMinimumWidth(px(LEAST_WIDTH));
     look();
 }
 

@@ -52,7 +52,7 @@ QString walkText(const Chains::Chain &walk)
     QString text = isolated(QString::fromStdString(walk.code));
     for (const Chains::Choice &step : walk.steps)
         text += QString::fromUtf8(" › ") + isolated(QString::fromStdString(step.key)) +
-                QLatin1Char(' ') + isolated(QString::fromStdString(step.text));
+                QLatin1Char(' ') + isolatedWords(QString::fromStdString(step.text));
     return text;
 }
 
@@ -332,6 +332,18 @@ void CodesPage::runChain(const QString &name)
         m_parts.chains->run(chain);
 }
 
+/// Shows the complete reason, which the strip may have elided.
+void CodesPage::showStop(const ChainState &chain)
+{
+    QMessageBox *box = new QMessageBox(QMessageBox::Information, chain.title, chain.text,
+                                       QMessageBox::NoButton, this);
+    box->setObjectName(QLatin1String("Dashboard_ChainBox"));
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->addButton(dashboardText("SHEET_CLOSE"), QMessageBox::RejectRole);
+    box->open();
+}
+
 /// Asks for the name under which to keep the walk. The suggested name is that of the last choice.
 void CodesPage::keepWalk()
 {
@@ -365,6 +377,8 @@ QList<CodeName> CodesPage::chainNames() const
 /// while it is open.
 void CodesPage::showDetails()
 {
+    if (m_parts.favourites && m_parts.chains->state().hasStopped())
+        return showStop(m_parts.chains->state());
     const CommandState &state = m_parts.commands->state();
     QMessageBox *box = new QMessageBox(QMessageBox::Information, state.title,
                                        state.text + QLatin1String("\n\n") + state.details,

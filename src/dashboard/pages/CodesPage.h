@@ -114,6 +114,7 @@ private:
     void followChains();
     void updateKeep();
     void keepWalk();
+    void showStop(const ChainState &chain);
     QList<CodeName> chainNames() const;
     void showDetails();
     void showCodesSheet();

@@ -12,12 +12,12 @@
 class QCompleter;
 class QStandardItem;
 class QStandardItemModel;
-class QTreeView;
 
 namespace Dashboard
 {
 
 class CodeHistory;
+class HistoryView;
 
 /**
  * The list below the code field, with the codes that the user has sent, the user's own codes, and
@@ -43,7 +43,7 @@ public:
     /// Opens the list with all codes.
     void open();
     bool isOpen() const;
-    QTreeView *view() const { return m_view; }
+    HistoryView *view() const { return m_view; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -60,7 +60,9 @@ private:
     void fill(const QString &start);
     QStandardItem *addRow(const QString &code, const QString &name, const QString &time);
     void addChains(const QString &start);
-    void addFooter();
+    void showFooter();
+    bool moveToButton(int key);
+    void makeRoomForFooter();
     void popUp();
 
     CodeHistory *const m_history;
@@ -68,7 +70,7 @@ private:
     const Names m_chains;
     QPointer<QLineEdit> m_edit;
     QStandardItemModel *m_model;
-    QTreeView *m_view;
+    HistoryView *m_view;
     QCompleter *m_completer;
     bool m_isOpenedByTyping = true;
     bool m_isKeyPressed = false; // false if the dashboard itself has changed the text of the field

@@ -429,11 +429,13 @@ void StateStrip::fillRow()
     else if (m_state.kind == Kind::Waiting)
         addNote(m_chain.progress.isEmpty() ? dashboardText("STRIP_WAITING_TEXT")
                                            : m_chain.progress);
-    else if (m_state.kind == Kind::MenuOpen)
+    else if (m_state.kind == Kind::MenuOpen) {
+        addReason();
         addChoices();
-    else if (m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled)
+    } else if (m_state.kind == Kind::Failed || m_state.kind == Kind::Cancelled)
         addFailureButtons();
     else if (m_state.kind != Kind::Queued) {
+        addReason();
         addKeep();
         addRecent();
     }
@@ -485,8 +487,9 @@ void StateStrip::addChoices()
     if (rest.isEmpty())
         return addNote(m_state.menuText.simplified());
     const int roomForMore = px(ROOM_FOR_MORE);
+    const int room = roomLeft() - px(ROOM_FOR_MORE + CHOICE_PADDING);
     while (!rest.isEmpty()) {
-        addChoice(rest.first());
+        addChoice(rest.first(), room);
         const bool isLast = rest.size() == 1;
         if (roomLeft() < (isLast ? -m_rowLayout->spacing() : roomForMore))
             break;
@@ -500,10 +503,10 @@ void StateStrip::addChoices()
     addMore(rest);
 }
 
-void StateStrip::addChoice(const MenuChoice &choice)
+/// Adds the choice, elided to the room that is left if it is the only choice.
+void StateStrip::addChoice(const MenuChoice &choice, int room)
 {
     QPushButton *button = addButton("choice", choiceText(choice));
-    const int room = m_rowWidth - px(ROOM_FOR_MORE + CHOICE_PADDING);
     button->setText(button->fontMetrics().elidedText(button->text(), Qt::ElideRight, room));
     button->setToolTip(choice.text);
     button->setObjectName(QLatin1String("Dashboard_Choice"));
@@ -544,6 +547,18 @@ void StateStrip::addOnly4G()
     QPushButton *only = addButton("", dashboardText("STRIP_ONLY_4G"));
     only->setObjectName(QLatin1String("Dashboard_Only4G"));
     connect(only, &QPushButton::clicked, this, &StateStrip::formerModesRequested);
+}
+
+/// Offers the complete reason why the chain has stopped, because the strip may elide it.
+void StateStrip::addReason()
+{
+    if (!showsStoppedChain())
+        return;
+    QPushButton *reason = makeIconButton("info", m_row);
+    reason->setObjectName(QLatin1String("Dashboard_WhyStopped"));
+    setIconButtonText(reason, dashboardText("STRIP_WHAT_HAPPENED"));
+    connect(reason, &QPushButton::clicked, this, &StateStrip::detailsRequested);
+    m_rowLayout->addWidget(reason);
 }
 
 /// Offers to keep the walk, before the codes that were sent last.

@@ -108,9 +108,10 @@ private:
     void addNote(const QString &text);
     QPushButton *addButton(const char *kind, const QString &text);
     void addChoices();
-    void addChoice(const MenuChoice &choice);
+    void addChoice(const MenuChoice &choice, int room);
     void addMore(const QList<MenuChoice> &rest);
     void addKeep();
+    void addReason();
     void addRecent();
     bool showsStoppedChain() const;
     void addFailureButtons();

@@ -145,13 +145,13 @@ void ChainRunner::retranslate()
 QString ChainRunner::reasonText() const
 {
     const QString text = dashboardText(m_reason);
-    const QString expected = isolated(QString::fromStdString(m_step.expected));
+    const QString expected = isolatedWords(QString::fromStdString(m_step.expected));
     const QString key = isolated(QString::fromStdString(m_step.key));
     if (m_step.verdict != Verdict::Changed || !text.contains(QLatin1String("%1")))
         return text;
     if (m_step.offered.empty())
         return text.arg(expected, key);
-    return text.arg(expected, key, isolated(QString::fromStdString(m_step.offered)));
+    return text.arg(expected, key, isolatedWords(QString::fromStdString(m_step.offered)));
 }
 
 void ChainRunner::setTexts()
@@ -160,13 +160,13 @@ void ChainRunner::setTexts()
     if (isRunning()) {
         m_state.kind = ChainState::Kind::Running;
         m_state.progress = dashboardText("CHAIN_PROGRESS")
-                               .arg(isolated(m_name))
+                               .arg(isolatedWords(m_name))
                                .arg(m_run->stepsSent() + 1)
                                .arg(m_length);
     } else if (m_reason) {
         m_state.kind = ChainState::Kind::Stopped;
         m_state.title = dashboardText("CHAIN_STOPPED_AT")
-                            .arg(isolated(m_name))
+                            .arg(isolatedWords(m_name))
                             .arg(m_step.number)
                             .arg(m_length);
         m_state.text = reasonText();
