@@ -120,12 +120,16 @@ void AccountRecorderTest::everyCodeWithAPlaceIsKnown()
                   "<tksvdoc><item><name>Mine</name><value>*7*%s#</value><readonly>false</readonly>"
                   "<showButton>false</showButton><langID></langID><desLangID></desLangID></item>"
                   "</tksvdoc>");
+    QFile configuration(latin1(CONFIGURATION));
+    QVERIFY(configuration.open(QIODevice::ReadOnly));
+    m_files.configuration = writeFile(QLatin1String("configuration.xml"),
+                                      configuration.readAll().replace("*101*%s#", "*191*%s#"));
     const QStringList codes = readCodesWithPlace(m_files);
     QVERIFY2(codes.contains(code("*140*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
     QVERIFY(codes.contains(code("*7*%s#")));
-    QVERIFY2(codes.contains(code("*101*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
+    QVERIFY2(codes.contains(code("*191*%s#")), qPrintable(codes.join(QLatin1Char(' '))));
     QVERIFY(!codes.contains(code("*100#")));
-    QCOMPARE(codeWithoutNumbers(code("*101*12#"), codes), QString::fromUtf8("*101*…#"));
+    QCOMPARE(codeWithoutNumbers(code("*191*12#"), codes), QString::fromUtf8("*191*…#"));
 }
 
 void AccountRecorderTest::namesFollowTheLanguage()
