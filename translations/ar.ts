@@ -941,10 +941,6 @@
         <translation>لم تعد القائمة تعرض «%1» على المفتاح %2. لم يُرسل شيء آخر.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>توقف %1</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>حفظ</translation>
     </message>

@@ -942,10 +942,6 @@ Sollen sie für die Codes von %2 beiseitegelegt werden? Sie bleiben erhalten.</t
         <translation>Das Menü bietet „%1“ nicht mehr mit Taste %2 an. Es wurde nichts weiter gesendet.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 angehalten</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Merken</translation>
     </message>

@@ -941,10 +941,6 @@ Shall they be set aside for the codes of %2? They are kept.</translation>
         <translation>The menu no longer offers “%1” on key %2. Nothing more was sent.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 stopped</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Keep</translation>
     </message>

@@ -941,10 +941,6 @@ algo falló y con 2 si los argumentos o el archivo de escenario son incorrectos.
         <translation>El menú ya no ofrece «%1» en la tecla %2. No se envió nada más.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 se detuvo</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Guardar</translation>
     </message>

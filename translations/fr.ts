@@ -942,10 +942,6 @@ Faut-il les mettre de côté pour les codes de %2 ? Ils sont conservés.</transl
         <translation>Le menu ne propose plus « %1 » sur la touche %2. Rien d’autre n’a été envoyé.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 s’est arrêté</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Garder</translation>
     </message>

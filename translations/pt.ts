@@ -942,10 +942,6 @@ Devem ser postos de lado para os códigos de %2? São conservados.</translation>
         <translation>O menu já não oferece “%1” na tecla %2. Nada mais foi enviado.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 parou</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Guardar</translation>
     </message>

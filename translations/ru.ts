@@ -940,10 +940,6 @@
         <translation>В меню больше нет «%1» на клавише %2. Больше ничего не отправлено.</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1: остановлено</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>Запомнить</translation>
     </message>

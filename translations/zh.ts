@@ -938,10 +938,6 @@
         <translation>菜单的按键 %2 不再是“%1”。没有再发送任何内容。</translation>
     </message>
     <message>
-        <source>CHAIN_STOPPED</source>
-        <translation>%1 已停止</translation>
-    </message>
-    <message>
         <source>CHAIN_SAVE</source>
         <translation>保存</translation>
     </message>

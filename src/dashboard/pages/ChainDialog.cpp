@@ -38,6 +38,18 @@ ChainDialog::ChainDialog(const QString &walk, const std::function<bool(const QSt
     sent->setText(walk);
     sent->setTextFormat(Qt::PlainText);
     sent->setWordWrap(true);
+    connect(m_name, &QLineEdit::textChanged, this, &ChainDialog::look);
+    QVBoxLayout *column = new QVBoxLayout(this);
+    for (QWidget *widget : {static_cast<QWidget *>(sent), static_cast<QWidget *>(caption),
+                            static_cast<QWidget *>(m_name), static_cast<QWidget *>(m_problem)})
+        column->addWidget(widget);
+    column->addLayout(makeEnds());
+    setMinimumWidth(px(LEAST_WIDTH));
+    look();
+}
+
+QHBoxLayout *ChainDialog::makeEnds()
+{
     QPushButton *cancel = makeButton("", this);
     cancel->setText(dashboardText("HOME_CANCEL"));
     m_keep->setText(dashboardText("CHAIN_SAVE"));
@@ -45,19 +57,12 @@ ChainDialog::ChainDialog(const QString &walk, const std::function<bool(const QSt
     m_keep->setDefault(true);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_keep, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_name, &QLineEdit::textChanged, this, &ChainDialog::look);
-    QVBoxLayout *column = new QVBoxLayout(this);
-    for (QWidget *widget : {static_cast<QWidget *>(sent), static_cast<QWidget *>(caption),
-                            static_cast<QWidget *>(m_name), static_cast<QWidget *>(m_problem)})
-        column->addWidget(widget);
     QHBoxLayout *ends = new QHBoxLayout;
     setSpacing(ends, 8);
     ends->addStretch(1);
     ends->addWidget(cancel);
     ends->addWidget(m_keep);
-    column->addLayout(ends);
-    setMinimumWidth(px(LEAST_WIDTH));
-    look();
+    return ends;
 }
 
 void ChainDialog::setName(const QString &name)

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -25,6 +26,7 @@ public:
     QString name() const;
 
 private:
+    QHBoxLayout *makeEnds();
     void look();
 
     const std::function<bool(const QString &)> m_isFree;
